@@ -1,0 +1,51 @@
+# How this project's targets are made: one static library a layer, one test program a layer.
+
+add_library(neb_flags INTERFACE)
+target_compile_options(neb_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor
+                                           -Wold-style-cast -Werror)
+target_compile_definitions(neb_flags INTERFACE QT_NO_KEYWORDS QT_NO_CAST_TO_ASCII
+                                               QT_DISABLE_DEPRECATED_BEFORE=0x060000)
+target_include_directories(neb_flags INTERFACE ${PROJECT_SOURCE_DIR}/src)
+if(NEB_SANITIZE)
+  target_compile_options(neb_flags INTERFACE -fsanitize=address,undefined,fuzzer-no-link
+                                             -fno-sanitize-recover=undefined)
+  target_link_options(neb_flags INTERFACE -fsanitize=address,undefined)
+endif()
+
+# neb_layer(NAME support DIR support HEADERS_FOR core|gui DEPENDS neb_x Qt6::Y [HIDDEN z])
+# All sources of one folder (not of folders below it) as the library neb_NAME. What is DEPENDS
+# is passed on to the users of the layer, what is HIDDEN is not.
+function(neb_layer)
+  cmake_parse_arguments(L "" "NAME;DIR;HEADERS_FOR" "DEPENDS;HIDDEN" ${ARGN})
+  set(dir ${PROJECT_SOURCE_DIR}/src/${L_DIR})
+  file(GLOB sources CONFIGURE_DEPENDS ${dir}/*.cpp ${dir}/*.h ${dir}/*.ui ${dir}/*.qrc)
+  list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
+  if(NOT sources)
+    add_library(neb_${L_NAME} INTERFACE)
+    target_link_libraries(neb_${L_NAME} INTERFACE neb_flags ${L_DEPENDS})
+    return()
+  endif()
+  add_library(neb_${L_NAME} STATIC ${sources})
+  set_target_properties(neb_${L_NAME} PROPERTIES AUTOMOC ON AUTOUIC ON AUTORCC ON)
+  target_link_libraries(neb_${L_NAME} PUBLIC neb_flags ${L_DEPENDS} PRIVATE ${L_HIDDEN})
+  target_precompile_headers(neb_${L_NAME} PRIVATE
+                            ${PROJECT_SOURCE_DIR}/cmake/pch_${L_HEADERS_FOR}.h)
+endfunction()
+
+# neb_test(NAME support DIR tests/support DEPENDS neb_support)
+# All sources of one folder of tests as one program; every test in it is a test of ctest.
+function(neb_test)
+  cmake_parse_arguments(T "" "NAME;DIR" "DEPENDS" ${ARGN})
+  set(dir ${PROJECT_SOURCE_DIR}/${T_DIR})
+  file(GLOB sources CONFIGURE_DEPENDS ${dir}/*.cpp ${dir}/*.h)
+  if(NOT sources)
+    return()
+  endif()
+  add_executable(test_${T_NAME} ${sources})
+  set_target_properties(test_${T_NAME} PROPERTIES AUTOMOC ON)
+  target_link_libraries(test_${T_NAME} PRIVATE ${T_DEPENDS} neb_harness)
+  target_include_directories(test_${T_NAME} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+  target_precompile_headers(test_${T_NAME} PRIVATE ${PROJECT_SOURCE_DIR}/cmake/pch_test.h)
+  gtest_discover_tests(test_${T_NAME} TEST_PREFIX "${T_NAME}." DISCOVERY_TIMEOUT 60
+                       PROPERTIES TIMEOUT 120)
+endfunction()

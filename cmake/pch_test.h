@@ -1,0 +1,4 @@
+// Precompiled for the tests.
+#include "pch_gui.h"
+
+#include <gtest/gtest.h>

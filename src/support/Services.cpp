@@ -1,0 +1,53 @@
+#include "support/Services.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <functional>
+
+namespace neb {
+namespace {
+
+class SystemClock : public Clock {
+  public:
+    SystemClock() { mTimer.start(); }
+    QDateTime Now() const override { return QDateTime::currentDateTime(); }
+    double Ticks() const override { return static_cast<double>(mTimer.nsecsElapsed()) / 1e6; }
+
+  private:
+    QElapsedTimer mTimer;
+};
+
+std::function<void()>& DoEventsHook() {
+    static std::function<void()> Hook;
+    return Hook;
+}
+
+}  // namespace
+
+double Clock::Timer() const { return Now().time().msecsSinceStartOfDay() / 1000.0; }
+
+Services& TheServices() {
+    static SystemClock DefaultClock;
+    static Services Instance{.Time = &DefaultClock};
+    return Instance;
+}
+
+BoxAnswer MsgBox(const QString& Text, const QString& Title, BoxIcon Icon, BoxButtons Buttons) {
+    MessageBoxes* Boxes = TheServices().Boxes;
+    if (Boxes) return Boxes->Show({Text, Title, Icon, Buttons});
+    qWarning("%s", qPrintable(Text));
+    return Buttons == BoxButtons::Ok ? BoxAnswer::Ok : BoxAnswer::No;
+}
+
+bool AskYesNo(const QString& Text, const QString& Title) {
+    return MsgBox(Text, Title, BoxIcon::Question, BoxButtons::YesNo) == BoxAnswer::Yes;
+}
+
+void DoEvents() {
+    if (QCoreApplication::instance()) QCoreApplication::processEvents();
+    if (DoEventsHook()) DoEventsHook()();
+}
+
+void SetDoEventsHook(std::function<void()> Hook) { DoEventsHook() = std::move(Hook); }
+
+}  // namespace neb

@@ -1,0 +1,89 @@
+// What the outside world supplies, in one place, so that a test can stand in for it: boxes,
+// file dialogs, the clock, the screen's power saving. The program fills it at start.
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+#include <QStringList>
+#include <functional>
+
+namespace neb {
+
+enum class BoxIcon { Plain, Information, Question, Critical };
+enum class BoxButtons { Ok, YesNo };
+enum class BoxAnswer { Ok, Yes, No };
+
+struct BoxRequest {
+    QString Text;
+    QString Title;  // empty: the program's own name
+    BoxIcon Icon = BoxIcon::Plain;
+    BoxButtons Buttons = BoxButtons::Ok;
+};
+
+class MessageBoxes {
+  public:
+    virtual ~MessageBoxes() = default;
+    // Shows the box modally and returns the answer; closing a Yes/No box is No.
+    virtual BoxAnswer Show(const BoxRequest& Request) = 0;
+};
+
+class FileDialogs {
+  public:
+    virtual ~FileDialogs() = default;
+    // Filters as "Name (*.a;*.b)|*.a;*.b|..." pairs. The full path, or empty when cancelled.
+    virtual QString OpenFile(const QString& Title, const QString& StartDir,
+                             const QString& Filters) = 0;
+    virtual QString SaveFile(const QString& Title, const QString& StartPath,
+                             const QString& Filters) = 0;
+    virtual QString ChooseFolder(const QString& Title, const QString& StartDir) = 0;
+};
+
+class Clock {
+  public:
+    virtual ~Clock() = default;
+    virtual QDateTime Now() const = 0;
+    // Milliseconds that never jump, from an arbitrary start, in double precision.
+    virtual double Ticks() const = 0;
+    // Seconds since midnight of Now, with fraction: 0 up to 86400.
+    double Timer() const;
+};
+
+class ScreenBlanking {
+  public:
+    virtual ~ScreenBlanking() = default;
+    // Keeps the screen from blanking until Release; calls nest.
+    virtual void Inhibit(const QString& Reason) = 0;
+    virtual void Release() = 0;
+};
+
+class SoundDevices;
+class MailTransport;
+class PrinterQueues;
+class DriveList;
+
+struct Services {
+    MessageBoxes* Boxes = nullptr;
+    FileDialogs* Dialogs = nullptr;
+    Clock* Time = nullptr;
+    ScreenBlanking* Blanking = nullptr;
+    SoundDevices* Sound = nullptr;
+    MailTransport* Mail = nullptr;
+    PrinterQueues* Printers = nullptr;
+    DriveList* Drives = nullptr;
+};
+
+// The services in force. The clock is never null: the system's clock stands in.
+Services& TheServices();
+
+// Shows a plain OK box, or one with the given looks.
+BoxAnswer MsgBox(const QString& Text, const QString& Title = {}, BoxIcon Icon = BoxIcon::Plain,
+                 BoxButtons Buttons = BoxButtons::Ok);
+// Asks in a Yes/No box with the question icon; true on Yes.
+bool AskYesNo(const QString& Text, const QString& Title);
+
+// Lets waiting events run: the one way for long work to yield.
+void DoEvents();
+// A test's own step at each DoEvents; {} for none.
+void SetDoEventsHook(std::function<void()> Hook);
+
+}  // namespace neb

@@ -1,0 +1,167 @@
+// Looking at the file system; what changes it is in modHostFilesWrite.cpp.
+#include "support/modHostFiles.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QStorageInfo>
+#include <filesystem>
+
+#include "support/Fault.h"
+
+namespace neb {
+namespace {
+
+QString HostForm(const QString& Path) {
+    QString Host = Path;
+    Host.replace(u'\\', u'/');
+    return Host;
+}
+
+// The entry of Dir whose name is Name but for case, or empty. Dir ends in a separator or is empty.
+QString FindInCase(const QString& Dir, const QString& Name) {
+    const QString Upper = Name.toUpper();
+    for (const QString& Entry : QDir(Dir.isEmpty() ? QStringLiteral(".") : Dir)
+                                    .entryList(QDir::AllEntries | QDir::Hidden | QDir::System |
+                                               QDir::NoDotAndDotDot))
+        if (Entry.toUpper() == Upper) return Entry;
+    return {};
+}
+
+// Puts the case of every component right that is there in another case.
+QString CorrectCase(const QString& Host) {
+    QString Known = Host.startsWith(u'/') ? QStringLiteral("/") : QString();
+    for (const QString& Part : Host.split(u'/', Qt::SkipEmptyParts)) {
+        const bool AsWritten = QFileInfo::exists(Known + Part);
+        const QString Found = AsWritten ? Part : FindInCase(Known, Part);
+        Known += (Found.isEmpty() ? Part : Found) + u'/';
+    }
+    if (!Host.endsWith(u'/')) Known.chop(1);
+    return Known;
+}
+
+bool MatchesMask(QStringView Name, QStringView Mask) {
+    qsizetype N = 0, M = 0, Star = -1, Resume = 0;
+    while (N < Name.size()) {
+        if (M < Mask.size() && Mask[M] == u'*') {
+            Star = M++;
+            Resume = N;
+        } else if (M < Mask.size() && (Mask[M] == u'?' || Mask[M] == Name[N])) {
+            ++M;
+            ++N;
+        } else if (Star >= 0) {
+            M = Star + 1;
+            N = ++Resume;
+        } else {
+            return false;
+        }
+    }
+    while (M < Mask.size() && Mask[M] == u'*') ++M;
+    return M == Mask.size();
+}
+
+void ReadNames(const QString& Dir, std::vector<DirEntry>& Entries, bool& Readable) {
+    namespace fs = std::filesystem;
+    std::error_code Error;
+    const auto Native = QFile::encodeName(Dir.isEmpty() ? QStringLiteral(".") : Dir);
+    fs::directory_iterator Iterator(fs::path(Native.constData()), Error);
+    Readable = !Error;
+    for (; !Error && Iterator != fs::directory_iterator(); Iterator.increment(Error)) {
+        std::error_code Ignored;
+        const std::string Name = Iterator->path().filename().string();
+        Entries.push_back({QFile::decodeName(Name.c_str()), Iterator->is_directory(Ignored)});
+    }
+}
+
+void SortByUpperName(std::vector<DirEntry>& Entries) {
+    std::vector<std::pair<QString, DirEntry>> Keyed;
+    Keyed.reserve(Entries.size());
+    for (DirEntry& Entry : Entries) {
+        QString Key = Entry.Name.toUpper();
+        Keyed.emplace_back(std::move(Key), std::move(Entry));
+    }
+    std::sort(Keyed.begin(), Keyed.end(), [](const auto& A, const auto& B) {
+        return A.first != B.first ? A.first < B.first : A.second.Name < B.second.Name;
+    });
+    for (size_t I = 0; I < Keyed.size(); ++I) Entries[I] = std::move(Keyed[I].second);
+}
+
+QByteArray ReadFrom(const QString& Path, qint64 Length) {
+    QFile File(ResolvePath(Path));
+    if (!File.open(QIODevice::ReadOnly))
+        throw Fault(QStringLiteral("The file cannot be read: %1.").arg(File.errorString()), Path);
+    QByteArray Bytes = Length < 0 ? File.readAll() : File.read(Length);
+    if (File.error() != QFileDevice::NoError)
+        throw Fault(QStringLiteral("The file cannot be read: %1.").arg(File.errorString()), Path);
+    return Bytes;
+}
+
+}  // namespace
+
+QString ResolvePath(const QString& Path) {
+    if (QFileInfo::exists(Path)) return Path;
+    const QString Host = HostForm(Path);
+    if (Host.isEmpty() || QFileInfo::exists(Host)) return Host;
+    return CorrectCase(Host);
+}
+
+bool FileExists(const QString& Path) {
+    const QFileInfo Info(ResolvePath(Path));
+    return Info.exists() && !Info.isDir();
+}
+
+bool FolderExists(const QString& Path) {
+    return !Path.isEmpty() && QFileInfo(ResolvePath(Path)).isDir();
+}
+
+bool IsReadOnly(const QString& Path) {
+    const QString Host = ResolvePath(Path);
+    const auto WriteBits = QFileDevice::WriteOwner | QFileDevice::WriteGroup |
+                           QFileDevice::WriteOther;
+    if (!(QFile::permissions(Host) & WriteBits)) return true;
+    return QStorageInfo(Host).isReadOnly();
+}
+
+bool CanReadFile(const QString& Path) {
+    QFile File(ResolvePath(Path));
+    return FileExists(Path) && File.open(QIODevice::ReadOnly);
+}
+
+qint64 FileSize(const QString& Path) {
+    const QFileInfo Info(ResolvePath(Path));
+    return Info.exists() ? Info.size() : -1;
+}
+
+std::optional<QDateTime> FileTime(const QString& Path) {
+    const QFileInfo Info(ResolvePath(Path));
+    return Info.exists() ? std::optional(Info.lastModified()) : std::nullopt;
+}
+
+std::vector<DirEntry> ListDir(const QString& Dir, bool* Readable) {
+    std::vector<DirEntry> Entries;
+    bool CouldRead = false;
+    ReadNames(ResolvePath(Dir), Entries, CouldRead);
+    SortByUpperName(Entries);
+    if (Readable) *Readable = CouldRead;
+    return Entries;
+}
+
+QStringList ListMask(const QString& Mask) {
+    const QString Host = HostForm(Mask);
+    const qsizetype Cut = Host.lastIndexOf(u'/') + 1;
+    const QString Pattern = Host.mid(Cut).toUpper();
+    QStringList Names;
+    for (const DirEntry& Entry : ListDir(Host.left(Cut)))
+        if (!Entry.IsFolder &&
+            (Pattern == u"*.*" || MatchesMask(Entry.Name.toUpper(), Pattern)))
+            Names.append(Entry.Name);
+    return Names;
+}
+
+QString RealDir(const QString& Dir) { return QFileInfo(ResolvePath(Dir)).canonicalFilePath(); }
+
+QByteArray ReadFile(const QString& Path) { return ReadFrom(Path, -1); }
+
+QByteArray ReadFileHead(const QString& Path, qint64 Length) { return ReadFrom(Path, Length); }
+
+}  // namespace neb

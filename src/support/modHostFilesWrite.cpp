@@ -1,0 +1,208 @@
+// Changing the file system: every step passes the watcher first.
+#include <cerrno>
+#include <cstdio>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QLockFile>
+#include <QTemporaryDir>
+
+#include "support/Fault.h"
+#include "support/modHostFiles.h"
+
+#ifdef _WIN32
+#include <io.h>
+#else
+#include <fcntl.h>
+#include <unistd.h>
+#endif
+
+namespace neb {
+namespace {
+
+HostWatcher& Watcher() {
+    static HostWatcher Instance;
+    return Instance;
+}
+
+void Announce(HostStep Step, const QString& Path) {
+    qint64 Length = 0;
+    if (Watcher()) Watcher()(Step, Path, Length);
+}
+
+[[noreturn]] void Fail(const QString& Sentence, const QString& Path, const QString& Reason) {
+    throw Fault(Sentence + QStringLiteral(" (") + Reason + QStringLiteral(")"), Path);
+}
+
+[[noreturn]] void FailWrite(const QFile& File, const QString& Path) {
+    Fail(QStringLiteral("The file cannot be written."), Path, File.errorString());
+}
+
+// Writes in one go; a watcher that shortens the write makes it a full disk.
+void WriteAll(QFile& File, const char* Data, qint64 Length, const QString& Path) {
+    qint64 Allowed = Length;
+    if (Watcher()) Watcher()(HostStep::Write, Path, Allowed);
+    if (File.write(Data, Allowed) != Allowed || !File.flush()) FailWrite(File, Path);
+    if (Allowed < Length)
+        Fail(QStringLiteral("The file cannot be written."), Path,
+             QStringLiteral("no space left on device"));
+}
+
+bool SyncHandle(int Handle) {
+#ifdef _WIN32
+    return _commit(Handle) == 0;
+#else
+    return ::fsync(Handle) == 0;
+#endif
+}
+
+void Open(QFile& File, QIODevice::OpenMode Mode, const QString& Path) {
+    if (!File.open(Mode | QIODevice::Unbuffered)) FailWrite(File, Path);
+}
+
+void WriteWhole(const QString& Path, const QByteArray& Bytes, QIODevice::OpenMode Mode) {
+    QFile File(ResolvePath(Path));
+    Open(File, Mode, Path);
+    WriteAll(File, Bytes.constData(), Bytes.size(), Path);
+    File.close();
+}
+
+}  // namespace
+
+void SetHostWatcher(HostWatcher NewWatcher) { Watcher() = std::move(NewWatcher); }
+
+void WriteFile(const QString& Path, const QByteArray& Bytes) {
+    WriteWhole(Path, Bytes, QIODevice::WriteOnly | QIODevice::Truncate);
+}
+
+void ReplaceFile(const QString& Path, const QByteArray& Bytes) {
+    const QString Beside = ResolvePath(Path) + QStringLiteral(".new");
+    WriteFile(Beside, Bytes);
+    SyncFile(Beside);
+    RenameFile(Beside, Path);
+}
+
+void AppendFile(const QString& Path, const QByteArray& Bytes) {
+    WriteWhole(Path, Bytes, QIODevice::WriteOnly | QIODevice::Append);
+}
+
+void CopyFile(const QString& From, const QString& To) { WriteFile(To, ReadFile(From)); }
+
+void DeleteFile(const QString& Path) {
+    const QString Host = ResolvePath(Path);
+    if (!QFileInfo::exists(Host) && !QFileInfo(Host).isSymLink()) return;
+    Announce(HostStep::Delete, Path);
+    QFile File(Host);
+    if (!File.remove())
+        Fail(QStringLiteral("The file cannot be deleted."), Path, File.errorString());
+}
+
+void DeleteMask(const QString& Mask) {
+    const qsizetype Cut = qMax(Mask.lastIndexOf(u'/'), Mask.lastIndexOf(u'\\')) + 1;
+    std::optional<Fault> First;
+    for (const QString& Name : ListMask(Mask)) {
+        try {
+            DeleteFile(Mask.left(Cut) + Name);
+        } catch (const Fault& Problem) {
+            if (!First) First = Problem;
+        }
+    }
+    if (First) throw *First;
+}
+
+void RenameFile(const QString& From, const QString& To) {
+    Announce(HostStep::Rename, To);
+    const QByteArray Source = QFile::encodeName(ResolvePath(From));
+    const QByteArray Target = QFile::encodeName(ResolvePath(To));
+    if (std::rename(Source.constData(), Target.constData()) != 0)
+        Fail(QStringLiteral("The file cannot be renamed."), To, qt_error_string(errno));
+}
+
+void SyncFile(const QString& Path) {
+    Announce(HostStep::Sync, Path);
+    QFile File(ResolvePath(Path));
+    if (!File.open(QIODevice::ReadWrite | QIODevice::ExistingOnly) || !SyncHandle(File.handle()))
+        FailWrite(File, Path);
+}
+
+void SyncDir(const QString& Dir) {
+    Announce(HostStep::SyncDir, Dir);
+#ifndef _WIN32
+    const int Handle = ::open(QFile::encodeName(ResolvePath(Dir)).constData(), O_RDONLY);
+    if (Handle < 0) return;  // some file systems do not let a directory be opened
+    ::fsync(Handle);
+    ::close(Handle);
+#endif
+}
+
+void MakeDirs(const QString& Dir) {
+    const QString Host = ResolvePath(Dir);
+    if (QFileInfo(Host).isDir()) return;
+    Announce(HostStep::MakeDir, Dir);
+    if (!QDir().mkpath(Host))
+        throw Fault(QStringLiteral("The directory cannot be made."), Dir);
+}
+
+void DeleteTree(const QString& Dir) {
+    if (FolderExists(Dir)) QDir(ResolvePath(Dir)).removeRecursively();
+}
+
+struct HostWriter::State {
+    QString Path;
+    QFile File;
+    QByteArray Pending;
+    static constexpr qsizetype Chunk = 1 << 20;
+    void Flush() {
+        if (Pending.isEmpty()) return;
+        WriteAll(File, Pending.constData(), Pending.size(), Path);
+        Pending.resize(0);
+    }
+};
+
+HostWriter::HostWriter(const QString& Path) : mState(std::make_unique<State>()) {
+    mState->Path = Path;
+    mState->File.setFileName(ResolvePath(Path));
+    mState->Pending.reserve(State::Chunk);
+    Open(mState->File, QIODevice::WriteOnly | QIODevice::Truncate, Path);
+}
+
+HostWriter::~HostWriter() = default;
+
+void HostWriter::Write(const char* Data, qint64 Length) {
+    if (mState->Pending.size() + Length > State::Chunk) mState->Flush();
+    if (Length >= State::Chunk)
+        WriteAll(mState->File, Data, Length, mState->Path);
+    else
+        mState->Pending.append(Data, Length);
+}
+
+void HostWriter::Sync() {
+    mState->Flush();
+    Announce(HostStep::Sync, mState->Path);
+    if (!SyncHandle(mState->File.handle())) FailWrite(mState->File, mState->Path);
+}
+
+void HostWriter::Close() {
+    mState->Flush();
+    mState->File.close();
+}
+
+ScratchDir::ScratchDir() {
+    QTemporaryDir Dir;
+    Dir.setAutoRemove(false);
+    if (!Dir.isValid()) throw Fault(QStringLiteral("No temporary directory can be made."));
+    mPath = Dir.path() + u'/';
+}
+
+ScratchDir::~ScratchDir() { QDir(mPath).removeRecursively(); }
+
+struct InstanceLock::State {
+    explicit State(const QString& Path) : File(Path) { File.setStaleLockTime(0); }
+    QLockFile File;
+};
+
+InstanceLock::InstanceLock(const QString& Path) : mState(std::make_unique<State>(Path)) {}
+InstanceLock::~InstanceLock() = default;
+bool InstanceLock::TryLock() { return mState->File.tryLock(0); }
+
+}  // namespace neb

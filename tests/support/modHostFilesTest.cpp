@@ -1,0 +1,140 @@
+// The rules of names, listings, wild cards and read-only files.
+#include "support/modHostFiles.h"
+
+#include <QFile>
+#include <gtest/gtest.h>
+
+#include "harness/TempFolder.h"
+#include "support/Fault.h"
+
+namespace neb {
+namespace {
+
+using harness::TempFolder;
+
+TEST(HostFiles, ANameThatDiffersInCaseIsFound) {
+    TempFolder Dir;
+    WriteFile(Dir / "00000012.jpg", "x");
+    EXPECT_TRUE(FileExists(Dir / "00000012.JPG"));
+    EXPECT_EQ(ReadFile(Dir / "00000012.JPG"), "x");
+    EXPECT_EQ(ResolvePath(Dir / "00000012.JPG"), Dir / "00000012.jpg");
+}
+
+TEST(HostFiles, ADirectoryThatDiffersInCaseIsFound) {
+    TempFolder Dir;
+    MakeDirs(Dir / "Albums/7/Slides");
+    EXPECT_TRUE(FolderExists(Dir / "ALBUMS\\7\\slides"));
+    WriteFile(Dir / "albums/7/SLIDES/a.txt", "a");
+    EXPECT_TRUE(FileExists(Dir / "Albums/7/Slides/a.txt"));
+}
+
+TEST(HostFiles, AnExactNameWinsOverOneThatDiffersInCase) {
+    TempFolder Dir;
+    WriteFile(Dir / "a.txt", "lower");
+    QFile Upper(Dir / "A.txt");
+    ASSERT_TRUE(Upper.open(QIODevice::WriteOnly));
+    Upper.write("upper");
+    Upper.close();
+    EXPECT_EQ(ReadFile(Dir / "a.txt"), "lower");
+    EXPECT_EQ(ReadFile(Dir / "A.txt"), "upper");
+}
+
+TEST(HostFiles, AListingIsInTheOrderOfTheUpperCasedNames) {
+    TempFolder Dir;
+    for (const char* Name : {"b", "C", "a", "_", "Z"}) WriteFile(Dir / Name, {});
+    QStringList Names;
+    for (const DirEntry& Entry : ListDir(Dir.Path())) Names << Entry.Name;
+    EXPECT_EQ(Names, QStringList({"a", "b", "C", "Z", "_"}));
+}
+
+TEST(HostFiles, StarDotStarIsEverythingButDirectories) {
+    TempFolder Dir;
+    WriteFile(Dir / "noext", {});
+    WriteFile(Dir / "a.b.c", {});
+    MakeDirs(Dir / "sub");
+    EXPECT_EQ(ListMask(Dir / "*.*"), QStringList({"a.b.c", "noext"}));
+}
+
+TEST(HostFiles, AMaskMatchesWithoutRegardToCase) {
+    TempFolder Dir;
+    for (const char* Name : {"00000012.jpg", "00000012Small.bmp", "00000012.WAV", "00000123.jpg"})
+        WriteFile(Dir / Name, {});
+    EXPECT_EQ(ListMask(Dir / "00000012.*"), QStringList({"00000012.jpg", "00000012.WAV"}));
+    EXPECT_EQ(ListMask(Dir / "00000012SMALL.*"), QStringList({"00000012Small.bmp"}));
+    EXPECT_EQ(ListMask(Dir / "0000012?.jpg"), QStringList({"00000123.jpg"}));
+}
+
+TEST(HostFiles, DeletingAMaskLeavesTheRest) {
+    TempFolder Dir;
+    for (const char* Name : {"1.a", "1.b", "12.a"}) WriteFile(Dir / Name, {});
+    DeleteMask(Dir / "1.*");
+    EXPECT_EQ(ListMask(Dir / "*.*"), QStringList({"12.a"}));
+}
+
+TEST(HostFiles, AFileWithNoWriteBitIsReadOnly) {
+    TempFolder Dir;
+    WriteFile(Dir / "a", "x");
+    EXPECT_FALSE(IsReadOnly(Dir / "a"));
+    QFile::setPermissions(Dir / "a", QFileDevice::ReadOwner);
+    EXPECT_TRUE(IsReadOnly(Dir / "a"));
+}
+
+TEST(HostFiles, AMissingDirectoryIsNotReadable) {
+    TempFolder Dir;
+    bool Readable = true;
+    EXPECT_TRUE(ListDir(Dir / "gone", &Readable).empty());
+    EXPECT_FALSE(Readable);
+    EXPECT_TRUE(ListDir(Dir.Path(), &Readable).empty());
+    EXPECT_TRUE(Readable);
+}
+
+TEST(HostFiles, AFaultNamesTheFile) {
+    TempFolder Dir;
+    try {
+        ReadFile(Dir / "gone");
+        FAIL();
+    } catch (const Fault& Problem) {
+        EXPECT_EQ(Problem.File(), Dir / "gone");
+        EXPECT_TRUE(Problem.Text().contains("cannot be read"));
+    }
+}
+
+TEST(HostFiles, AReplacedFileIsTheOldOneWhenTheDiskIsFull) {
+    TempFolder Dir;
+    WriteFile(Dir / "a", "old");
+    SetHostWatcher([](HostStep Step, const QString&, qint64& Length) {
+        if (Step == HostStep::Write) Length = 1;
+    });
+    EXPECT_THROW(ReplaceFile(Dir / "a", "new content"), Fault);
+    SetHostWatcher({});
+    EXPECT_EQ(ReadFile(Dir / "a"), "old");
+}
+
+TEST(HostFiles, AWriterGivesBackWhatItWasGiven) {
+    TempFolder Dir;
+    QByteArray Expected;
+    HostWriter Writer(Dir / "a");
+    for (int I = 0; I < 5000; ++I) {
+        const QByteArray Piece(I % 700, static_cast<char>(I));
+        Writer.Write(Piece.constData(), Piece.size());
+        Expected += Piece;
+    }
+    Writer.Sync();
+    Writer.Close();
+    EXPECT_EQ(ReadFile(Dir / "a"), Expected);
+}
+
+TEST(HostFiles, TheLockIsRefusedToASecondHolderAndFreeAfterwards) {
+    TempFolder Dir;
+    {
+        InstanceLock First(Dir / "lock");
+        InstanceLock Second(Dir / "lock");
+        EXPECT_TRUE(First.TryLock());
+        EXPECT_FALSE(Second.TryLock());
+    }
+    InstanceLock Third(Dir / "lock");
+    EXPECT_TRUE(Third.TryLock());
+}
+
+}  // namespace
+}  // namespace neb
