@@ -24,7 +24,9 @@ std::function<void()>& DoEventsHook() {
 
 }  // namespace
 
-double Clock::Timer() const { return Now().time().msecsSinceStartOfDay() / 1000.0; }
+double Clock::Timer() const {
+    return Now().time().msecsSinceStartOfDay() / 1000.0;
+}
 
 Services& TheServices() {
     static SystemClock DefaultClock;
@@ -48,6 +50,8 @@ void DoEvents() {
     if (DoEventsHook()) DoEventsHook()();
 }
 
-void SetDoEventsHook(std::function<void()> Hook) { DoEventsHook() = std::move(Hook); }
+void SetDoEventsHook(std::function<void()> Hook) {
+    DoEventsHook() = std::move(Hook);
+}
 
 }  // namespace neb

@@ -21,9 +21,9 @@ QString HostForm(const QString& Path) {
 // The entry of Dir whose name is Name but for case, or empty. Dir ends in a separator or is empty.
 QString FindInCase(const QString& Dir, const QString& Name) {
     const QString Upper = Name.toUpper();
-    for (const QString& Entry : QDir(Dir.isEmpty() ? QStringLiteral(".") : Dir)
-                                    .entryList(QDir::AllEntries | QDir::Hidden | QDir::System |
-                                               QDir::NoDotAndDotDot))
+    for (const QString& Entry :
+         QDir(Dir.isEmpty() ? QStringLiteral(".") : Dir)
+             .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot))
         if (Entry.toUpper() == Upper) return Entry;
     return {};
 }
@@ -116,8 +116,8 @@ bool FolderExists(const QString& Path) {
 
 bool IsReadOnly(const QString& Path) {
     const QString Host = ResolvePath(Path);
-    const auto WriteBits = QFileDevice::WriteOwner | QFileDevice::WriteGroup |
-                           QFileDevice::WriteOther;
+    const auto WriteBits =
+        QFileDevice::WriteOwner | QFileDevice::WriteGroup | QFileDevice::WriteOther;
     if (!(QFile::permissions(Host) & WriteBits)) return true;
     return QStorageInfo(Host).isReadOnly();
 }
@@ -152,16 +152,21 @@ QStringList ListMask(const QString& Mask) {
     const QString Pattern = Host.mid(Cut).toUpper();
     QStringList Names;
     for (const DirEntry& Entry : ListDir(Host.left(Cut)))
-        if (!Entry.IsFolder &&
-            (Pattern == u"*.*" || MatchesMask(Entry.Name.toUpper(), Pattern)))
+        if (!Entry.IsFolder && (Pattern == u"*.*" || MatchesMask(Entry.Name.toUpper(), Pattern)))
             Names.append(Entry.Name);
     return Names;
 }
 
-QString RealDir(const QString& Dir) { return QFileInfo(ResolvePath(Dir)).canonicalFilePath(); }
+QString RealDir(const QString& Dir) {
+    return QFileInfo(ResolvePath(Dir)).canonicalFilePath();
+}
 
-QByteArray ReadFile(const QString& Path) { return ReadFrom(Path, -1); }
+QByteArray ReadFile(const QString& Path) {
+    return ReadFrom(Path, -1);
+}
 
-QByteArray ReadFileHead(const QString& Path, qint64 Length) { return ReadFrom(Path, Length); }
+QByteArray ReadFileHead(const QString& Path, qint64 Length) {
+    return ReadFrom(Path, Length);
+}
 
 }  // namespace neb

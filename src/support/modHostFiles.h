@@ -22,11 +22,11 @@ namespace neb {
 // corrected), or the path with host separators when there is none.
 QString ResolvePath(const QString& Path);
 
-bool FileExists(const QString& Path);    // a file that is no directory
+bool FileExists(const QString& Path);  // a file that is no directory
 bool FolderExists(const QString& Path);
-bool IsReadOnly(const QString& Path);    // no write bit is set, or the medium is read-only
-bool CanReadFile(const QString& Path);   // exists and opens for reading
-qint64 FileSize(const QString& Path);    // bytes; -1 when there is none
+bool IsReadOnly(const QString& Path);   // no write bit is set, or the medium is read-only
+bool CanReadFile(const QString& Path);  // exists and opens for reading
+qint64 FileSize(const QString& Path);   // bytes; -1 when there is none
 std::optional<QDateTime> FileTime(const QString& Path);  // last change
 
 struct DirEntry {
@@ -50,14 +50,14 @@ void WriteFile(const QString& Path, const QByteArray& Bytes);  // creates or rep
 // Writes beside the file and renames over it, so that the old or the new content is there.
 void ReplaceFile(const QString& Path, const QByteArray& Bytes);
 void AppendFile(const QString& Path, const QByteArray& Bytes);
-void CopyFile(const QString& From, const QString& To);         // replaces To
-void DeleteFile(const QString& Path);    // no fault when there is none
-void DeleteMask(const QString& Mask);    // every match; goes on past failures, then throws the first
-void RenameFile(const QString& From, const QString& To);       // replaces To
-void SyncFile(const QString& Path);      // content is on the disk afterwards
-void SyncDir(const QString& Dir);        // names are on the disk afterwards
-void MakeDirs(const QString& Dir);       // with parents; no fault when it exists
-void DeleteTree(const QString& Dir);     // a directory and all in it; errors are ignored
+void CopyFile(const QString& From, const QString& To);  // replaces To
+void DeleteFile(const QString& Path);                   // no fault when there is none
+void DeleteMask(const QString& Mask);  // every match; goes on past failures, then throws the first
+void RenameFile(const QString& From, const QString& To);  // replaces To
+void SyncFile(const QString& Path);                       // content is on the disk afterwards
+void SyncDir(const QString& Dir);                         // names are on the disk afterwards
+void MakeDirs(const QString& Dir);                        // with parents; no fault when it exists
+void DeleteTree(const QString& Dir);  // a directory and all in it; errors are ignored
 
 // A file written piece by piece: the record files and the journal.
 class HostWriter {

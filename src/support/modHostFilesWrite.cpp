@@ -1,11 +1,11 @@
 // Changing the file system: every step passes the watcher first.
-#include <cerrno>
-#include <cstdio>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QLockFile>
 #include <QTemporaryDir>
+#include <cerrno>
+#include <cstdio>
 
 #include "support/Fault.h"
 #include "support/modHostFiles.h"
@@ -69,7 +69,9 @@ void WriteWhole(const QString& Path, const QByteArray& Bytes, QIODevice::OpenMod
 
 }  // namespace
 
-void SetHostWatcher(HostWatcher NewWatcher) { Watcher() = std::move(NewWatcher); }
+void SetHostWatcher(HostWatcher NewWatcher) {
+    Watcher() = std::move(NewWatcher);
+}
 
 void WriteFile(const QString& Path, const QByteArray& Bytes) {
     WriteWhole(Path, Bytes, QIODevice::WriteOnly | QIODevice::Truncate);
@@ -86,7 +88,9 @@ void AppendFile(const QString& Path, const QByteArray& Bytes) {
     WriteWhole(Path, Bytes, QIODevice::WriteOnly | QIODevice::Append);
 }
 
-void CopyFile(const QString& From, const QString& To) { WriteFile(To, ReadFile(From)); }
+void CopyFile(const QString& From, const QString& To) {
+    WriteFile(To, ReadFile(From));
+}
 
 void DeleteFile(const QString& Path) {
     const QString Host = ResolvePath(Path);
@@ -139,8 +143,7 @@ void MakeDirs(const QString& Dir) {
     const QString Host = ResolvePath(Dir);
     if (QFileInfo(Host).isDir()) return;
     Announce(HostStep::MakeDir, Dir);
-    if (!QDir().mkpath(Host))
-        throw Fault(QStringLiteral("The directory cannot be made."), Dir);
+    if (!QDir().mkpath(Host)) throw Fault(QStringLiteral("The directory cannot be made."), Dir);
 }
 
 void DeleteTree(const QString& Dir) {
@@ -194,7 +197,9 @@ ScratchDir::ScratchDir() {
     mPath = Dir.path() + u'/';
 }
 
-ScratchDir::~ScratchDir() { QDir(mPath).removeRecursively(); }
+ScratchDir::~ScratchDir() {
+    QDir(mPath).removeRecursively();
+}
 
 struct InstanceLock::State {
     explicit State(const QString& Path) : File(Path) { File.setStaleLockTime(0); }
@@ -203,6 +208,8 @@ struct InstanceLock::State {
 
 InstanceLock::InstanceLock(const QString& Path) : mState(std::make_unique<State>(Path)) {}
 InstanceLock::~InstanceLock() = default;
-bool InstanceLock::TryLock() { return mState->File.tryLock(0); }
+bool InstanceLock::TryLock() {
+    return mState->File.tryLock(0);
+}
 
 }  // namespace neb

@@ -4,12 +4,13 @@
 
 namespace neb::harness {
 
-ScriptedBoxes::ScriptedBoxes() : mBefore(TheServices().Boxes) { TheServices().Boxes = this; }
+ScriptedBoxes::ScriptedBoxes() : mBefore(TheServices().Boxes) {
+    TheServices().Boxes = this;
+}
 
 ScriptedBoxes::~ScriptedBoxes() {
     TheServices().Boxes = mBefore;
-    for (const Entry& Left : mQueue)
-        ADD_FAILURE() << "nobody asked: " << Left.Text.toStdString();
+    for (const Entry& Left : mQueue) ADD_FAILURE() << "nobody asked: " << Left.Text.toStdString();
 }
 
 void ScriptedBoxes::Expect(const QString& Text, BoxAnswer Answer) {

@@ -3,8 +3,8 @@
 #pragma once
 
 #include <deque>
-#include <optional>
 #include <functional>
+#include <optional>
 
 #include "support/Services.h"
 

@@ -1,9 +1,9 @@
 // The entry of every test program: an application without a display of its own (unless the
 // caller sets a platform), with the screen size that the windows are judged at.
+#include <gtest/gtest.h>
 #include <QApplication>
 #include <QFile>
 #include <QTemporaryDir>
-#include <gtest/gtest.h>
 
 namespace {
 

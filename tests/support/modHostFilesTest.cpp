@@ -1,8 +1,8 @@
 // The rules of names, listings, wild cards and read-only files.
 #include "support/modHostFiles.h"
 
-#include <QFile>
 #include <gtest/gtest.h>
+#include <QFile>
 
 #include "harness/TempFolder.h"
 #include "support/Fault.h"

@@ -1,0 +1,71 @@
+#include "support/modDEValidation.h"
+
+#include "support/modText.h"
+
+namespace neb {
+namespace {
+
+constexpr std::int16_t Backspace = 8;
+
+struct QuotePair {
+    std::int16_t Opening, Other;
+};
+constexpr QuotePair SingleQuotes{145, 146};
+constexpr QuotePair DoubleQuotes{147, 148};
+
+bool IsStraightQuote(char16_t Code) {
+    return Code == u'\'' || Code == u'"';
+}
+
+std::int16_t QuoteFor(char16_t Typed, QStringView Before) {
+    const QuotePair& Pair = Typed == u'\'' ? SingleQuotes : DoubleQuotes;
+    const bool Opening = Before.isEmpty() || Before.back() == u' ' || Before.back() == u'\n';
+    return Opening ? Pair.Opening : Pair.Other;
+}
+
+QChar FromCode(std::int16_t Code) {
+    const char Byte = static_cast<char>(Code);
+    return FromAnsi(&Byte, 1)[0];
+}
+
+bool IsDigit(char16_t Code) {
+    return Code >= u'0' && Code <= u'9';
+}
+
+}  // namespace
+
+QString ConvertQuotes(const QString& Text) {
+    QString Out = Text;
+    for (qsizetype I = 0; I < Text.size(); ++I)
+        if (IsStraightQuote(Text[I].unicode()))
+            Out[I] = FromCode(QuoteFor(Text[I].unicode(), QStringView(Text).first(I)));
+    return Out;
+}
+
+void FixQuoteKey(const EntryState& Field, std::int16_t& KeyAscii) {
+    const auto Code = static_cast<char16_t>(KeyAscii);
+    if (IsStraightQuote(Code))
+        KeyAscii = QuoteFor(Code, QStringView(Field.Text).left(Field.SelStart));
+}
+
+void FixQuoteKeyInGrid(const EntryState& Editor, std::int16_t& KeyAscii) {
+    FixQuoteKey(Editor, KeyAscii);
+}
+
+bool IsNumericText(const QString& Text, QString& Message, bool AllowNegative) {
+    for (qsizetype I = 0; I < Text.size(); ++I) {
+        const char16_t Code = Text[I].unicode();
+        if (IsDigit(Code) || (Code == u'-' && AllowNegative && I == 0)) continue;
+        Message = u'\'' + Text.mid(I, 1) + QStringLiteral("' is not a Numeric Digit.");
+        return false;
+    }
+    return true;
+}
+
+void FilterNumericKey(const EntryState& Editor, std::int16_t& KeyAscii, bool AllowNegative) {
+    const bool Passes = KeyAscii == Backspace || IsDigit(static_cast<char16_t>(KeyAscii)) ||
+                        (KeyAscii == '-' && AllowNegative && Editor.SelStart == 0);
+    if (!Passes) KeyAscii = 0;
+}
+
+}  // namespace neb

@@ -1,0 +1,31 @@
+// The tests and filters that every entry field runs through. Straight quotes become typographic
+// ones on their way in, digit fields take digits alone.
+//
+// Keys are Windows-1252 codes; a filter changes the code of the key about to be inserted, 0
+// cancels it.
+#pragma once
+
+#include <QString>
+#include <cstdint>
+
+namespace neb {
+
+// The text of an entry field and the number of characters left of its caret.
+struct EntryState {
+    QString Text;
+    int SelStart = 0;
+};
+
+// Straight quotes replaced: opening ones at the start, behind a blank or a line feed, closing
+// ones elsewhere. May be run any number of times.
+QString ConvertQuotes(const QString& Text);
+// The same for one key in a text field, and in the cell editor of a grid.
+void FixQuoteKey(const EntryState& Field, std::int16_t& KeyAscii);
+void FixQuoteKeyInGrid(const EntryState& Editor, std::int16_t& KeyAscii);
+// Digits alone, with a "-" in front when AllowNegative; an empty text passes. On a refusal
+// Message names the first character that is no digit.
+bool IsNumericText(const QString& Text, QString& Message, bool AllowNegative);
+// Lets digits and backspace pass, and a "-" at the start when AllowNegative.
+void FilterNumericKey(const EntryState& Editor, std::int16_t& KeyAscii, bool AllowNegative);
+
+}  // namespace neb
