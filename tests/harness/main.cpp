@@ -1,7 +1,8 @@
 // The entry of every test program: an application without a display of its own (unless the
 // caller sets a platform), with the screen size that the windows are judged at.
 #include <gtest/gtest.h>
-#include <QApplication>
+
+#include "support/windows/NebApplication.h"
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -30,7 +31,7 @@ int main(int argc, char** argv) {
     if (!qEnvironmentVariableIsSet("XDG_RUNTIME_DIR"))
         qputenv("XDG_RUNTIME_DIR", Scratch().path().toUtf8());
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    QApplication App(argc, argv);
+    neb::NebApplication App(argc, argv);
     App.setQuitOnLastWindowClosed(false);
     return RUN_ALL_TESTS();
 }

@@ -1,0 +1,44 @@
+#include "support/windows/frmProgress.h"
+
+#include "support/windows/Progress.h"
+#include "ui_frmProgress.h"
+
+namespace neb {
+namespace {
+constexpr int FrameMs = 16;
+}
+
+frmProgress::frmProgress() : mUi(std::make_unique<Ui::frmProgress>()) {
+    mUi->setupUi(this);
+}
+
+frmProgress::~frmProgress() = default;
+
+void frmProgress::ShowProgressMeter(ProgressParent& Parent) {
+    mParent = &Parent;
+    ShowModal();
+}
+
+QProgressBar* frmProgress::pgbLoadingProgress() const {
+    return mUi->pgbLoadingProgress;
+}
+
+void frmProgress::Refresh() {
+    if (mLastPaint.isValid() && mLastPaint.elapsed() < FrameMs) return;
+    mLastPaint.start();
+    if (isVisible()) repaint();
+}
+
+void frmProgress::Form_Activate() {
+    if (mActivated || !mParent) return;
+    mActivated = true;
+    mParent->StartOperation();
+    Unload();  // the worker may have done it already
+}
+
+bool frmProgress::Form_Unload() {
+    mParent = nullptr;
+    return true;
+}
+
+}  // namespace neb
