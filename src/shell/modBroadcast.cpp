@@ -1,0 +1,21 @@
+#include "shell/modBroadcast.h"
+
+#include "support/Fault.h"
+#include "support/windows/Form.h"
+
+namespace neb {
+
+void BroadcastEvent(const QString& ObjectType, const QString& EventType, const QWidget* Sender,
+                    const EventKeys& EventData) {
+    for (const auto& Window : LoadedForms()) {
+        auto* Receiver = dynamic_cast<ChangeReceiver*>(Window.get());
+        if (!Receiver || Window.get() == Sender) continue;
+        try {
+            Receiver->ReceiveEvent(ObjectType, EventType, EventData);
+        } catch (const Fault&) {
+            // that window stays as it was until the next event
+        }
+    }
+}
+
+}  // namespace neb

@@ -1,0 +1,32 @@
+// The notice of changes between windows: who has changed an album or a show says so, and every
+// other open window that cares brings its lists up to date.
+#pragma once
+
+#include <QString>
+#include <cstdint>
+#include <vector>
+
+QT_BEGIN_NAMESPACE
+class QWidget;
+QT_END_NAMESPACE
+
+namespace neb {
+
+// The keys of an event: AlbumID, then SlideID or SlideShowID.
+using EventKeys = std::vector<std::int32_t>;
+
+// Offered by the windows that follow changes. ObjectType is "Album" or "Slide Show"; EventType
+// is "Insert", "Update", "Delete", "Add Slides" or "Delete Slides", compared to the letter.
+class ChangeReceiver {
+  public:
+    virtual ~ChangeReceiver() = default;
+    virtual void ReceiveEvent(const QString& ObjectType, const QString& EventType,
+                              const EventKeys& EventData) = 0;
+};
+
+// Calls ReceiveEvent on every loaded form but the sender (nullptr: a module, reaches all), after
+// the engine has been changed. A fault in a receiver is ignored and the walk goes on.
+void BroadcastEvent(const QString& ObjectType, const QString& EventType, const QWidget* Sender,
+                    const EventKeys& EventData);
+
+}  // namespace neb
