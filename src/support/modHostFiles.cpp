@@ -8,6 +8,7 @@
 #include <filesystem>
 
 #include "support/Fault.h"
+#include "support/NameCache.h"
 
 namespace neb {
 namespace {
@@ -18,22 +19,12 @@ QString HostForm(const QString& Path) {
     return Host;
 }
 
-// The entry of Dir whose name is Name but for case, or empty. Dir ends in a separator or is empty.
-QString FindInCase(const QString& Dir, const QString& Name) {
-    const QString Upper = Name.toUpper();
-    for (const QString& Entry :
-         QDir(Dir.isEmpty() ? QStringLiteral(".") : Dir)
-             .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot))
-        if (Entry.toUpper() == Upper) return Entry;
-    return {};
-}
-
 // Puts the case of every component right that is there in another case.
 QString CorrectCase(const QString& Host) {
     QString Known = Host.startsWith(u'/') ? QStringLiteral("/") : QString();
     for (const QString& Part : Host.split(u'/', Qt::SkipEmptyParts)) {
         const bool AsWritten = QFileInfo::exists(Known + Part);
-        const QString Found = AsWritten ? Part : FindInCase(Known, Part);
+        const QString Found = AsWritten ? Part : FindNameInCase(Known, Part);
         Known += (Found.isEmpty() ? Part : Found) + u'/';
     }
     if (!Host.endsWith(u'/')) Known.chop(1);
@@ -102,7 +93,11 @@ QString ResolvePath(const QString& Path) {
     if (QFileInfo::exists(Path)) return Path;
     const QString Host = HostForm(Path);
     if (Host.isEmpty() || QFileInfo::exists(Host)) return Host;
-    return CorrectCase(Host);
+    const qsizetype Cut = Host.lastIndexOf(u'/') + 1;
+    if (Cut == 0 || Cut == Host.size() || !QFileInfo::exists(Host.left(Cut)))
+        return CorrectCase(Host);
+    const QString Found = FindNameInCase(Host.left(Cut), Host.mid(Cut));
+    return Found.isEmpty() ? Host : Host.left(Cut) + Found;
 }
 
 bool FileExists(const QString& Path) {

@@ -8,6 +8,7 @@
 #include <cstdio>
 
 #include "support/Fault.h"
+#include "support/NameCache.h"
 #include "support/modHostFiles.h"
 
 #ifdef _WIN32
@@ -58,6 +59,7 @@ bool SyncHandle(int Handle) {
 
 void Open(QFile& File, QIODevice::OpenMode Mode, const QString& Path) {
     if (!File.open(Mode | QIODevice::Unbuffered)) FailWrite(File, Path);
+    NoteNameMade(File.fileName());
 }
 
 void WriteWhole(const QString& Path, const QByteArray& Bytes, QIODevice::OpenMode Mode) {
@@ -99,6 +101,7 @@ void DeleteFile(const QString& Path) {
     QFile File(Host);
     if (!File.remove())
         Fail(QStringLiteral("The file cannot be deleted."), Path, File.errorString());
+    NoteNameGone(Host);
 }
 
 void DeleteMask(const QString& Mask) {
@@ -116,10 +119,12 @@ void DeleteMask(const QString& Mask) {
 
 void RenameFile(const QString& From, const QString& To) {
     Announce(HostStep::Rename, To);
-    const QByteArray Source = QFile::encodeName(ResolvePath(From));
-    const QByteArray Target = QFile::encodeName(ResolvePath(To));
-    if (std::rename(Source.constData(), Target.constData()) != 0)
+    const QString Source = ResolvePath(From);
+    const QString Target = ResolvePath(To);
+    if (std::rename(QFile::encodeName(Source).constData(), QFile::encodeName(Target).constData()))
         Fail(QStringLiteral("The file cannot be renamed."), To, qt_error_string(errno));
+    NoteNameGone(Source);
+    NoteNameMade(Target);
 }
 
 void SyncFile(const QString& Path) {

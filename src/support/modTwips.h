@@ -8,7 +8,11 @@ namespace neb {
 
 constexpr int TwipsPerPixel = 15;
 
-inline int ToPixels(double Twips) { return static_cast<int>(std::lround(Twips / TwipsPerPixel)); }
-constexpr int ToTwips(int Pixels) { return Pixels * TwipsPerPixel; }
+inline int ToPixels(double Twips) {
+    return static_cast<int>(std::lround(Twips / TwipsPerPixel));
+}
+constexpr int ToTwips(int Pixels) {
+    return Pixels * TwipsPerPixel;
+}
 
 }  // namespace neb

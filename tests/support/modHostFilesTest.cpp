@@ -39,6 +39,32 @@ TEST(HostFiles, AnExactNameWinsOverOneThatDiffersInCase) {
     EXPECT_EQ(ReadFile(Dir / "A.txt"), "upper");
 }
 
+TEST(HostFiles, NamesMadeAndRemovedByOthersAreNoticed) {
+    TempFolder Dir;
+    EXPECT_FALSE(FileExists(Dir / "A.TXT"));
+    QFile Other(Dir / "a.txt");
+    ASSERT_TRUE(Other.open(QIODevice::WriteOnly));
+    Other.close();
+    EXPECT_TRUE(FileExists(Dir / "A.TXT"));
+    Other.remove();
+    EXPECT_FALSE(FileExists(Dir / "A.TXT"));
+}
+
+TEST(HostFiles, NamesMadeAndRemovedByTheProgramAreNoticed) {
+    TempFolder Dir;
+    for (int I = 0; I < 200; ++I) {
+        const QString Name = QString::number(I);
+        EXPECT_FALSE(FileExists(Dir / (Name + "X.JPG")));
+        WriteFile(Dir / (Name + "x.jpg"), "x");
+        EXPECT_TRUE(FileExists(Dir / (Name + "X.JPG")));
+        RenameFile(Dir / (Name + "x.jpg"), Dir / (Name + "y.jpg"));
+        EXPECT_FALSE(FileExists(Dir / (Name + "X.JPG")));
+        EXPECT_TRUE(FileExists(Dir / (Name + "Y.JPG")));
+        DeleteFile(Dir / (Name + "Y.jpg"));
+        EXPECT_FALSE(FileExists(Dir / (Name + "Y.JPG")));
+    }
+}
+
 TEST(HostFiles, AListingIsInTheOrderOfTheUpperCasedNames) {
     TempFolder Dir;
     for (const char* Name : {"b", "C", "a", "_", "Z"}) WriteFile(Dir / Name, {});

@@ -1,0 +1,96 @@
+#include "support/NameCache.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QHash>
+#include <QMutex>
+#include <list>
+
+namespace neb {
+namespace {
+
+constexpr size_t DirsKept = 8;
+// A directory that somebody else changed this shortly before it was listed may change again
+// without its time stamp showing it.
+constexpr qint64 DoubtfulMs = 50;
+
+struct Listing {
+    QString Dir;
+    QDateTime Changed;
+    QDateTime OwnChange;  // time stamp after the program's own last change
+    bool Doubtful = true;
+    QHash<QString, QString> NameByUpper;
+};
+
+QMutex& Guard() {
+    static QMutex Mutex;
+    return Mutex;
+}
+
+std::list<Listing>& Kept() {
+    static std::list<Listing> Listings;
+    return Listings;
+}
+
+QDateTime ChangeTime(const QString& Dir) {
+    return QFileInfo(Dir.isEmpty() ? QStringLiteral(".") : Dir).lastModified();
+}
+
+void Relist(Listing& Of) {
+    Of.Changed = ChangeTime(Of.Dir);
+    Of.Doubtful = Of.Changed != Of.OwnChange &&
+                  Of.Changed.msecsTo(QDateTime::currentDateTime()) < DoubtfulMs;
+    Of.NameByUpper.clear();
+    const QDir Dir(Of.Dir.isEmpty() ? QStringLiteral(".") : Of.Dir);
+    for (const QString& Entry : Dir.entryList(
+             QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name))
+        Of.NameByUpper.insert(Entry.toUpper(), Entry);
+}
+
+std::list<Listing>::iterator Find(const QString& Dir) {
+    return std::find_if(Kept().begin(), Kept().end(),
+                        [&](const Listing& Each) { return Each.Dir == Dir; });
+}
+
+// The listing of a directory, brought up to date, moved to the front.
+Listing& ListingOf(const QString& Dir) {
+    const auto Found = Find(Dir);
+    if (Found == Kept().end()) {
+        Kept().push_front({.Dir = Dir, .Changed = {}, .OwnChange = {}, .NameByUpper = {}});
+        if (Kept().size() > DirsKept) Kept().pop_back();
+    } else {
+        Kept().splice(Kept().begin(), Kept(), Found);
+    }
+    Listing& Of = Kept().front();
+    if (Of.Doubtful || Of.Changed != ChangeTime(Dir)) Relist(Of);
+    return Of;
+}
+
+// Applies a change of the program's own to a listing that it keeps.
+template <class Change>
+void NoteChange(const QString& Path, Change Apply) {
+    const QMutexLocker Lock(&Guard());
+    const qsizetype Cut = Path.lastIndexOf(u'/') + 1;
+    const auto Found = Find(Path.left(Cut));
+    if (Found == Kept().end()) return;
+    Apply(Found->NameByUpper, Path.mid(Cut));
+    Found->OwnChange = ChangeTime(Found->Dir);
+    if (!Found->Doubtful) Found->Changed = Found->OwnChange;
+}
+
+}  // namespace
+
+QString FindNameInCase(const QString& Dir, const QString& Name) {
+    const QMutexLocker Lock(&Guard());
+    return ListingOf(Dir).NameByUpper.value(Name.toUpper());
+}
+
+void NoteNameMade(const QString& Path) {
+    NoteChange(Path, [](auto& Names, const QString& Name) { Names.insert(Name.toUpper(), Name); });
+}
+
+void NoteNameGone(const QString& Path) {
+    NoteChange(Path, [](auto& Names, const QString& Name) { Names.remove(Name.toUpper()); });
+}
+
+}  // namespace neb
