@@ -1,2 +1,5 @@
-// The program's entry.
-int main() { return 0; }
+#include "shell/main/modMain.h"
+
+int main(int argc, char** argv) {
+    return neb::Main(argc, argv);
+}

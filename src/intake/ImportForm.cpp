@@ -1,0 +1,221 @@
+// The controls of the two import windows, and the import itself; the reading of directories is in
+// ImportFormRead.cpp.
+#include "intake/ImportForm.h"
+
+#include <QProgressBar>
+
+#include "db/clsDBEngine.h"
+#include "intake/frmPicturePopup.h"
+#include "platform/FlexGrid.h"
+#include "platform/Icons.h"
+#include "platform/ToolBar.h"
+#include "shell/modNEBSlideShow.h"
+#include "shell/modWindowState.h"
+#include "support/Fault.h"
+#include "support/Services.h"
+#include "support/modDEValidation.h"
+#include "support/modNumbers.h"
+#include "support/windows/ScreenPointer.h"
+#include "support/windows/frmLoading.h"
+#include "support/windows/frmProgress.h"
+#include "ui_ImportForm.h"
+
+namespace neb {
+namespace {
+
+// Both grids stand still during the work and catch up at its end.
+class QuietGrids {
+  public:
+    QuietGrids(FlexGrid& One, FlexGrid& Other) : mOne(One), mOther(Other) { Redraw(false); }
+    ~QuietGrids() { Redraw(true); }
+    QuietGrids(const QuietGrids&) = delete;
+    QuietGrids& operator=(const QuietGrids&) = delete;
+
+  private:
+    void Redraw(bool On) {
+        mOne.SetRedraw(On);
+        mOther.SetRedraw(On);
+    }
+    FlexGrid& mOne;
+    FlexGrid& mOther;
+};
+
+std::vector<int> RowsToMove(const FlexGrid& From, bool All) {
+    std::vector<int> Rows;
+    const int Count = All ? From.Rows() : From.SelectedRows();
+    for (int I = 0; I < Count; ++I) Rows.push_back(All ? I : From.SelectedRow(I));
+    return Rows;
+}
+
+void CopyRow(const FlexGrid& From, int FromRow, FlexGrid& To) {
+    const int Row = To.AddItem();
+    for (int Col = 0; Col < ImportForm::ColCount; ++Col) To.CopyCell(From, FromRow, Col, Row, Col);
+}
+
+// What the bar's tool tip says after item I of Count, I from 1: the item's index from 0 plus one
+// item's share of a hundred, as the program has always counted it here.
+QString ImportProgressText(int I, int Count) {
+    return Format((I - 1) + 100.0 / Count, "##0") + QStringLiteral("% Complete");
+}
+
+}  // namespace
+
+ImportForm::ImportForm(const WindowMemory& Memory)
+    : mUi(std::make_unique<Ui::ImportForm>()), mMemory(Memory) {
+    mUi->setupUi(this);
+    setWindowFlag(Qt::WindowMaximizeButtonHint);
+    SetUpGrid(
+        *mUi->flxNonSelected,
+        tr("No pictures here.\nImport a directory, or drop files and folders on this window."));
+    SetUpGrid(*mUi->flxSelected, tr("Pictures moved here are imported,\nin this order."));
+    SetUpButtons();
+    SetUpToolBar();
+}
+
+ImportForm::~ImportForm() = default;
+
+void ImportForm::SetUpGrid(FlexGrid& Grid, const QString& EmptyText) {
+    Grid.SetCols(ColCount);
+    Grid.SetColumn(ColPicture, {.Kind = FlexKind::Picture, .Align = Qt::AlignCenter});
+    Grid.SetColumn(ColCaption, {.Editable = !ReadOnlyDB, .Stretch = true});
+    Grid.SetColumn(ColPath, {.Hidden = true});
+    Grid.SetEmptyText(EmptyText);
+    Grid.SetKeyPressEdit(&FixQuoteKeyInGrid);
+    connect(&Grid, &FlexGrid::CellDblClicked, this, [this, &Grid](int Row, int Col) {
+        if (Row >= 0 && Col == ColPicture) ShowPreview(Grid, Row);
+    });
+    connect(&Grid, &FlexGrid::RowActivated, this,
+            [this, &Grid](int Row) { ShowPreview(Grid, Row); });
+}
+
+void ImportForm::SetUpButtons() {
+    const struct {
+        QPushButton* Button;
+        FlexGrid *From, *To;
+        bool All;
+        const char* Icon;
+    } Moves[] = {
+        {mUi->cmdMoveRightOne, mUi->flxNonSelected, mUi->flxSelected, false, "move-right-one"},
+        {mUi->cmdMoveRightAll, mUi->flxNonSelected, mUi->flxSelected, true, "move-right-all"},
+        {mUi->cmdMoveLeftOne, mUi->flxSelected, mUi->flxNonSelected, false, "move-left-one"},
+        {mUi->cmdMoveLeftAll, mUi->flxSelected, mUi->flxNonSelected, true, "move-left-all"},
+    };
+    for (const auto& Move : Moves) {
+        Move.Button->setIcon(ThemeIcon(Move.Icon));
+        connect(Move.Button, &QPushButton::clicked, this,
+                [this, Move] { MoveRows(*Move.From, *Move.To, Move.All); });
+    }
+    connect(mUi->cmdImport, &QPushButton::clicked, this, &ImportForm::Import);
+    connect(mUi->cmdCancel, &QPushButton::clicked, this, &ImportForm::Unload);
+    UpdateButtons();
+}
+
+void ImportForm::SetUpToolBar() {
+    mUi->abrMenu->AddTool(QStringLiteral("mnuImportDirectory"), tr("Import Graphics Directory"),
+                          tr("Import the graphics in a directory"),
+                          QStringLiteral("import-directory"), QKeySequence(Qt::CTRL | Qt::Key_O));
+    mUi->abrMenu->AddTool(QStringLiteral("mnuFindGraphics"), tr("Find Graphics"),
+                          tr("Search drives for graphics to import"),
+                          QStringLiteral("find-graphics"), QKeySequence(Qt::CTRL | Qt::Key_F));
+    mUi->abrMenu->AddTool(QStringLiteral("mnuExit"), tr("Exit"), tr("Close this window"),
+                          QStringLiteral("exit"));
+    connect(mUi->abrMenu, &ToolBar::ToolClicked, this, &ImportForm::ToolClicked);
+}
+
+void ImportForm::ToolClicked(const QString& Name) {
+    if (Name == u"mnuImportDirectory") ImportAnotherDirectory();
+    if (Name == u"mnuExit") Unload();
+}
+
+// A button is of use while the grid that it takes from has rows.
+void ImportForm::UpdateButtons() {
+    const bool CanMove = !ReadOnlyDB;
+    for (QPushButton* Button : {mUi->cmdMoveRightOne, mUi->cmdMoveRightAll})
+        Button->setEnabled(CanMove && mUi->flxNonSelected->Rows() > 0);
+    for (QPushButton* Button : {mUi->cmdMoveLeftOne, mUi->cmdMoveLeftAll})
+        Button->setEnabled(CanMove && mUi->flxSelected->Rows() > 0);
+    mUi->cmdImport->setEnabled(CanMove);
+    mUi->cmdCancel->setEnabled(CanMove);
+}
+
+void ImportForm::MoveRows(FlexGrid& From, FlexGrid& To, bool All) {
+    {
+        const QuietGrids Quiet(From, To);
+        const std::vector<int> Rows = RowsToMove(From, All);
+        for (int Row : Rows) CopyRow(From, Row, To);
+        if (All)
+            From.SetRows(0);
+        else
+            for (auto Row = Rows.rbegin(); Row != Rows.rend(); ++Row) From.RemoveItem(*Row);
+    }
+    UpdateButtons();
+}
+
+void ImportForm::ShowPreview(const FlexGrid& Grid, int Row) {
+    QString Path = Grid.TextMatrix(Row, ColPath);
+    try {
+        const auto Preview = NewForm<frmPicturePopup>();
+        Preview->LoadSlide(Path);
+        Preview->ShowModal();
+    } catch (const Fault&) {
+        // a preview that cannot be shown is simply not shown
+    }
+}
+
+void ImportForm::Form_Load() {
+    mInForm_Load = true;
+    ReadUnderLoading();
+    UpdateButtons();
+    if (IsLoaded()) RestoreWindow(*this, mMemory);
+}
+
+bool ImportForm::Form_Unload() {
+    mAborted = true;
+    if (mProgressForm) std::exchange(mProgressForm, nullptr)->Unload();
+    ReleaseLoading();
+    SaveWindow(*this, mMemory);
+    return true;
+}
+
+bool ImportForm::HasSelection() const {
+    if (mUi->flxSelected->Rows() > 0) return true;
+    MsgBox(QStringLiteral("You must select atleast 1 picture in order to import."));
+    return false;
+}
+
+void ImportForm::RunImport() {
+    ReleaseLoading();
+    mProgressForm = NewForm<frmProgress>();
+    const auto Shown = mProgressForm;
+    Shown->ShowProgressMeter(*this);
+}
+
+void ImportForm::EndOperation() {
+    SetScreenPointer(Pointer::Default);
+    if (mProgressForm) std::exchange(mProgressForm, nullptr)->Unload();
+}
+
+void ImportForm::ImportRows(clsNEBAlbum& Album, const RowDone& Done) {
+    const FlexGrid& Grid = *mUi->flxSelected;
+    const int Count = Grid.Rows();
+    const auto Progress = mProgressForm;
+    Progress->setWindowTitle(QStringLiteral("Importing Slides ..."));
+    Progress->pgbLoadingProgress()->setMaximum(Count);
+    Progress->pgbLoadingProgress()->setValue(0);
+    Progress->Refresh();
+    DoEvents();
+    QStringList Paths;
+    for (int Row = 0; Row < Count; ++Row) Paths.append(Grid.TextMatrix(Row, ColPath));
+    PictureImport Run(*DBEngine, Album, Paths, &DoEvents);
+    for (int Row = 0; Row < Count; ++Row) {
+        const auto Outcome = Run.EnterNext(
+            {Paths[Row], Grid.TextMatrix(Row, ColCaption), Grid.CellPicture(Row, ColPicture)});
+        Done(Row, Outcome, Run.SlideID());
+        Progress->pgbLoadingProgress()->setValue(Row + 1);
+        Progress->pgbLoadingProgress()->setToolTip(ImportProgressText(Row + 1, Count));
+        Progress->Refresh();
+        DoEvents();
+    }
+}
+
+}  // namespace neb

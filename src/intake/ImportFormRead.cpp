@@ -1,0 +1,213 @@
+// How the import windows read directories: chosen, set by the caller or dropped.
+#include <QDragEnterEvent>
+#include <QMimeData>
+#include <QProgressBar>
+
+#include "intake/ImportForm.h"
+#include "intake/frmDirSelect.h"
+#include "intake/modPictureFiles.h"
+#include "platform/FlexGrid.h"
+#include "platform/ImgX.h"
+#include "shell/modNEBSlideShow.h"
+#include "support/Fault.h"
+#include "support/Services.h"
+#include "support/modFUFL.h"
+#include "support/modHostFiles.h"
+#include "support/modNumbers.h"
+#include "support/windows/ScreenPointer.h"
+#include "support/windows/frmLoading.h"
+#include "ui_ImportForm.h"
+
+namespace neb {
+namespace {
+
+// The thumbnail of a picture; a file that is gone by now has none. Throws Fault.
+std::optional<QImage> ThumbnailOf(const QString& Path) {
+    if (!FileExists(Path)) return QImage();
+    return MakeThumbnail(Path);
+}
+
+QString PercentComplete(double Part, double Whole) {
+    return Format(Part / Whole * 100, "##0") + QStringLiteral("% Complete");
+}
+
+void StartBar(frmLoading& Loading, const QString& Title, int Max) {
+    Loading.setWindowTitle(Title);
+    Loading.pgbLoadingProgress()->setMaximum(Max);
+    Loading.pgbLoadingProgress()->setValue(0);
+    Loading.Refresh();
+}
+
+void MoveBar(frmLoading& Loading, int Value, int Max) {
+    Loading.pgbLoadingProgress()->setValue(Value);
+    Loading.pgbLoadingProgress()->setToolTip(PercentComplete(Value, Max));
+    Loading.Refresh();
+    DoEvents();
+}
+
+}  // namespace
+
+void ImportForm::ReadUnderLoading() {
+    ReleaseLoading();
+    if (mImportDir.isEmpty() && mDropped.isEmpty()) return DoActivity();
+    mLoadingForm = NewForm<frmLoading>();
+    const auto Shown = mLoadingForm;
+    Shown->SupportsAbort(true);
+    Shown->ShowProgressMeter(*this);
+}
+
+void ImportForm::ReleaseLoading() {
+    if (!mLoadingForm) return;
+    mLoadingForm->ClearParent();
+    std::exchange(mLoadingForm, nullptr)->Unload();
+}
+
+void ImportForm::DoActivity() {
+    const auto Held = shared_from_this();
+    const PointerScope Working(Pointer::Hourglass);
+    mBusy = true;
+    mAbort = false;
+    ReadDirectory();
+    mBusy = false;
+    mInForm_Load = false;
+}
+
+// Whether the work is to end: the user asked for it, or the window was closed meanwhile.
+bool ImportForm::Stopped() {
+    if (mAborted && mInForm_Load) Unload();
+    return mAbort || mAborted;
+}
+
+void ImportForm::ReadDirectory() {
+    if (mImportDir.isEmpty() && mDropped.isEmpty()) return;
+    mLoadingForm->SupportsAbort(true);
+    mLoadingForm->setWindowTitle(QStringLiteral("Reading Slides ..."));
+    DoEvents();
+    if (Stopped()) return;
+    const QStringList Files = CollectFiles();
+    if (Files.isEmpty()) {
+        mInForm_Load = false;
+        return;
+    }
+    LoadPictures(Files);
+}
+
+QStringList ImportForm::CollectFiles() {
+    const WalkPoll Poll = [this] {
+        DoEvents();
+        return !mAbort && !mAborted;
+    };
+    if (mDropped.isEmpty()) return ScanDirectory(WithSeparator(mImportDir), mRecurseDir, Poll);
+    QStringList Files;
+    for (const QString& Path : std::exchange(mDropped, {}))
+        if (FolderExists(Path))
+            Files += ScanDirectory(WithSeparator(Path), mRecurseDir, Poll);
+        else if (IsPictureName(Path))
+            Files += Path;
+    return Files;
+}
+
+void ImportForm::LoadPictures(const QStringList& Files) {
+    const int Count = static_cast<int>(Files.size());
+    const auto Loading = mLoadingForm;
+    if (!Loading || Stopped()) return;
+    StartBar(*Loading, QStringLiteral("Loading Slides ..."), Count);
+    if (Stopped()) return;
+    mUi->flxNonSelected->SetRedraw(false);
+    mUi->flxSelected->SetRedraw(false);
+    AheadQueue<QString, std::optional<QImage>> Ahead({Files.begin(), Files.end()}, &ThumbnailOf);
+    for (int I = 0; I < Count && LoadPicture(Ahead, Files[I]); ++I) {
+        MoveBar(*Loading, I + 1, Count);
+        if (mAbort || mAborted) break;
+    }
+    mUi->flxNonSelected->SetRedraw(true);
+    mUi->flxSelected->SetRedraw(true);
+    UpdateButtons();
+}
+
+// False when the work was stopped while the picture was waited for. A picture that cannot be
+// decoded leaves no row.
+bool ImportForm::LoadPicture(AheadQueue<QString, std::optional<QImage>>& Ahead,
+                             const QString& Path) {
+    while (!Ahead.Wait(10)) {
+        DoEvents();
+        if (mAbort || mAborted) return false;
+    }
+    try {
+        AddRow(Path, *Ahead.Take());
+    } catch (const Fault&) {
+        return true;
+    }
+    return true;
+}
+
+void ImportForm::AddRow(const QString& Path, const QImage& Thumbnail) {
+    FlexGrid& Grid = *mUi->flxNonSelected;
+    const int Row = Grid.AddItem();
+    Grid.SetTextMatrix(Row, ColCaption, GetFileBaseName(Path));
+    Grid.SetTextMatrix(Row, ColPath, Path);
+    if (Thumbnail.isNull()) return;
+    Grid.SetCellPicture(Row, ColPicture, Thumbnail);
+    if (mLoadingForm) mLoadingForm->ShowPicture(Thumbnail);
+}
+
+void ImportForm::SortFiles(QStringList& Paths) {
+    const int Last = static_cast<int>(Paths.size());
+    if (mLoadingForm) StartBar(*mLoadingForm, QStringLiteral("Sorting Slides ..."), Last);
+    std::stable_sort(Paths.begin(), Paths.end(), [](const QString& A, const QString& B) {
+        return GetFileName(A) < GetFileName(B);
+    });
+    if (mLoadingForm) MoveBar(*mLoadingForm, Last, Last);
+    if (mAborted && mInForm_Load) Unload();
+}
+
+bool ImportForm::AskDiscardRemaining() {
+    if (mUi->flxNonSelected->Rows() == 0) return false;
+    return AskYesNo(QStringLiteral("Do you want to discard the remaining non-selected graphics?"),
+                    QStringLiteral("Discard Confirmation"));
+}
+
+void ImportForm::ImportAnotherDirectory() {
+    if (AskDiscardRemaining()) mUi->flxNonSelected->SetRows(0);
+    UpdateButtons();
+    const auto Selector = NewForm<frmDirSelect>();
+    QString Chosen = Selector->SelectDirectory();
+    if (Chosen.isEmpty()) return;
+    Chosen = WithSeparator(Chosen);
+    if (Chosen.startsWith(AppPath() + QStringLiteral("Albums/"))) {
+        MsgBox(
+            QStringLiteral("This directory is reserved for Albums.  You cannot import from it."));
+        return;
+    }
+    mRecurseDir = Selector->RecurseDir();
+    mImportDir = Chosen;
+    DirectoryChosen(Chosen);
+    ReadUnderLoading();
+    UpdateButtons();
+}
+
+void ImportForm::dragEnterEvent(QDragEnterEvent* Event) {
+    if (Event->mimeData()->hasUrls()) Event->acceptProposedAction();
+}
+
+void ImportForm::dropEvent(QDropEvent* Event) {
+    QStringList Paths;
+    for (const QUrl& Url : Event->mimeData()->urls())
+        if (Url.isLocalFile()) Paths.append(Url.toLocalFile());
+    if (Paths.isEmpty()) return;
+    Event->acceptProposedAction();
+    // the question waits until the drag is over, so that the source is not held up
+    QMetaObject::invokeMethod(
+        this, [this, Paths] { ReadDropped(Paths); }, Qt::QueuedConnection);
+}
+
+void ImportForm::ReadDropped(const QStringList& Paths) {
+    if (mBusy || !IsLoaded()) return;
+    if (AskDiscardRemaining()) mUi->flxNonSelected->SetRows(0);
+    mDropped = Paths;
+    if (FolderExists(Paths.front())) DirectoryChosen(WithSeparator(Paths.front()));
+    ReadUnderLoading();
+    UpdateButtons();
+}
+
+}  // namespace neb

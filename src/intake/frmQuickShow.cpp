@@ -1,0 +1,127 @@
+#include "intake/frmQuickShow.h"
+
+#include "db/clsDBEngine.h"
+#include "platform/KeyFilter.h"
+#include "presentation/modSlideShows.h"
+#include "shell/modBroadcast.h"
+#include "shell/modNEBSlideShow.h"
+#include "shell/modWindowState.h"
+#include "support/Fault.h"
+#include "support/Services.h"
+#include "support/modDEValidation.h"
+#include "support/modFUFL.h"
+#include "support/windows/ScreenPointer.h"
+#include "ui_ImportForm.h"
+
+namespace neb {
+namespace {
+
+const WindowMemory Memory{QStringLiteral("frmQuickShow"), 6540};
+constexpr std::int32_t Automatic = 0;  // ProgressionMethod
+
+}  // namespace
+
+frmQuickShow::frmQuickShow() : ImportForm(Memory) {
+    setObjectName(QStringLiteral("frmQuickShow"));
+    setWindowTitle(QStringLiteral("Quick Show"));
+    mUi->cmdImport->setText(tr("&Save"));
+    mUi->cmdImport->setAccessibleName(tr("Save"));
+    mUi->cmdImport->setToolTip(
+        QStringLiteral("Create an Album and Slide Show from the Selected Pictures"));
+    new KeyFilter(mUi->txtName, &FixQuoteKey);
+}
+
+// The folder's own name is what most people would type.
+void frmQuickShow::DirectoryChosen(const QString& Directory) {
+    if (mUi->txtName->text().isEmpty())
+        mUi->txtName->setText(ConvertQuotes(GetFileName(Directory.chopped(1))));
+}
+
+void frmQuickShow::Import() {
+    if (mUi->txtName->text().isEmpty()) {
+        MsgBox(QStringLiteral("You must specify a name for the new slideshow."));
+        return;
+    }
+    mUi->txtName->setText(ConvertQuotes(mUi->txtName->text()));
+    if (!HasSelection()) return;
+    if (DBEngine->FindAlbum(0, mUi->txtName->text())) {
+        MsgBox(QStringLiteral("Album Name is already in use."),
+               QStringLiteral("Invalid Album Name"), BoxIcon::Critical);
+        return;
+    }
+    RunImport();
+}
+
+void frmQuickShow::StartOperation() {
+    const auto Held = shared_from_this();
+    mAlbumName = mUi->txtName->text();
+    SetScreenPointer(Pointer::Hourglass);
+    mAlbumID = 0;
+    clsNEBSlideShow* SlideShow = MakeAlbum() ? MakeSlideShow() : nullptr;
+    if (SlideShow) {
+        FillSlideShow(*SlideShow);
+        mRunWhenClosed = true;
+        BroadcastEvent(QStringLiteral("Album"), QStringLiteral("Insert"), this, {mAlbumID});
+    }
+    EndOperation();
+    if (mRunWhenClosed) Unload();
+}
+
+bool frmQuickShow::MakeAlbum() {
+    if (!DBEngine->SaveAlbum(mAlbumID, ConvertQuotes(mAlbumName))) {
+        MsgBox(QStringLiteral("Failed to save album."));
+        return false;
+    }
+    if (!DBEngine->GetAlbum(mAlbumID)) {
+        MsgBox(QStringLiteral("Failed to load album after save."));
+        return false;
+    }
+    MakeAlbumFolders(*DBEngine, mAlbumID);
+    return true;
+}
+
+clsNEBSlideShow* frmQuickShow::MakeSlideShow() {
+    clsNEBAlbum* Album = DBEngine->GetAlbum(mAlbumID);
+    mSlideShowID = 0;
+    const bool Saved =
+        Album->SaveSlideShow(mSlideShowID, ConvertQuotes(mAlbumName), Automatic, *DBEngine);
+    clsNEBSlideShow* SlideShow = Saved ? Album->GetSlideShow(mSlideShowID) : nullptr;
+    if (SlideShow) return SlideShow;
+    MsgBox(Saved ? QStringLiteral("Failed to load slide show after save.")
+                 : QStringLiteral("Failed to save slide show."));
+    DropMadeAlbum();
+    return nullptr;
+}
+
+// Nothing of a half-made show stays: a picture that fails takes the album with it.
+void frmQuickShow::FillSlideShow(clsNEBSlideShow& SlideShow) {
+    const auto AddDetail = [&](int Row, PictureImport::Outcome Outcome, std::int32_t SlideID) {
+        if (Outcome == PictureImport::Outcome::Entered) SlideShow.SaveDetail(SlideID, Row + 1, {});
+    };
+    try {
+        ImportRows(*DBEngine->GetAlbum(mAlbumID), AddDetail);
+    } catch (const Fault&) {
+        DropMadeAlbum();
+        SetScreenPointer(Pointer::Default);
+        throw;
+    }
+}
+
+void frmQuickShow::DropMadeAlbum() {
+    DropAlbum(*DBEngine, mAlbumID);
+    mAlbumID = 0;
+    mSlideShowID = 0;
+}
+
+void frmQuickShow::Form_Load() {
+    if (!ImportDir().isEmpty()) DirectoryChosen(WithSeparator(ImportDir()));
+    ImportForm::Form_Load();
+}
+
+bool frmQuickShow::Form_Unload() {
+    if (!ImportForm::Form_Unload()) return false;
+    if (mRunWhenClosed) RunSlideShow(mAlbumID, mAlbumName, mSlideShowID);
+    return true;
+}
+
+}  // namespace neb

@@ -1,0 +1,46 @@
+// Browsing for a directory: a line in which a path can be typed and a tree of directories. A list
+// of places (the user's folders, drives and media) may stand with it.
+#pragma once
+
+#include <QWidget>
+
+QT_BEGIN_NAMESPACE
+class QComboBox;
+class QFileSystemModel;
+class QLineEdit;
+class QTreeView;
+QT_END_NAMESPACE
+
+namespace neb {
+
+class DirectoryTree : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit DirectoryTree(QWidget* Parent = nullptr);
+
+    // The directory shown, in the host's form; at first the user's pictures folder or home.
+    QString Path() const { return mPath; }
+    // Goes to a directory; one that does not exist changes nothing.
+    void SetPath(const QString& Path);
+    // Fills the list with places; choosing one goes there.
+    void SetDrives(QComboBox* Drives);
+
+  Q_SIGNALS:
+    void Change();  // another directory is shown
+
+  protected:
+    void keyPressEvent(QKeyEvent* Event) override;
+
+  private:
+    void SetUpTree();
+    void TypedPath();
+    void TreeMoved(const QString& Path);
+
+    QLineEdit* mTyped;
+    QTreeView* mTree;
+    QFileSystemModel* mModel;
+    QString mPath;
+};
+
+}  // namespace neb

@@ -1,0 +1,54 @@
+#include "platform/PictureView.h"
+
+#include <QMouseEvent>
+
+namespace neb {
+
+PictureView::PictureView(QWidget* Parent) : QWidget(Parent) {
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+void PictureView::SetPicture(const QImage& Picture) {
+    mPicture = Picture;
+    mScaled = {};
+    update();
+}
+
+void PictureView::SetEmptyText(const QString& Text) {
+    mEmptyText = Text;
+    update();
+}
+
+QRect PictureView::PictureRect() const {
+    if (mPicture.isNull()) return {};
+    QRect Place({}, mPicture.size().scaled(size(), Qt::KeepAspectRatio).expandedTo({1, 1}));
+    Place.moveCenter(rect().center());
+    return Place;
+}
+
+const QImage& PictureView::Scaled(QSize DevicePixels) {
+    if (mScaled.size() != DevicePixels)
+        mScaled = mPicture.scaled(DevicePixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    return mScaled;
+}
+
+void PictureView::paintEvent(QPaintEvent*) {
+    QPainter Painter(this);
+    if (mPicture.isNull()) {
+        Painter.setPen(palette().color(QPalette::PlaceholderText));
+        Painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, mEmptyText);
+        return;
+    }
+    const QRect Place = PictureRect();
+    Painter.drawImage(Place, Scaled((QSizeF(Place.size()) * devicePixelRatioF()).toSize()));
+}
+
+void PictureView::mouseReleaseEvent(QMouseEvent* Event) {
+    if (Event->button() == Qt::LeftButton && rect().contains(Event->pos())) Q_EMIT Clicked();
+}
+
+void PictureView::mouseDoubleClickEvent(QMouseEvent*) {
+    Q_EMIT DoubleClicked();
+}
+
+}  // namespace neb

@@ -1,0 +1,43 @@
+// Shows one picture, zoomed to the room it has with its shape kept, centred, sharp on scaled
+// displays. The preview and the slide windows use it.
+#pragma once
+
+#include <QImage>
+#include <QWidget>
+
+namespace neb {
+
+class PictureView : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit PictureView(QWidget* Parent = nullptr);
+
+    void SetPicture(const QImage& Picture);  // a null picture leaves the view empty
+    const QImage& Picture() const { return mPicture; }
+    // Shown in place of a picture.
+    void SetEmptyText(const QString& Text);
+    // Where the picture stands, in the view's own pixels; empty without a picture.
+    QRect PictureRect() const;
+
+    QSize sizeHint() const override { return {480, 360}; }
+    QSize minimumSizeHint() const override { return {72, 72}; }
+
+  Q_SIGNALS:
+    void Clicked();
+    void DoubleClicked();
+
+  protected:
+    void paintEvent(QPaintEvent* Event) override;
+    void mouseReleaseEvent(QMouseEvent* Event) override;
+    void mouseDoubleClickEvent(QMouseEvent* Event) override;
+
+  private:
+    const QImage& Scaled(QSize DevicePixels);
+
+    QImage mPicture;
+    QImage mScaled;  // as last painted
+    QString mEmptyText;
+};
+
+}  // namespace neb

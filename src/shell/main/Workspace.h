@@ -1,0 +1,24 @@
+// The room in which the main window holds its children. While there are none it says what to do
+// first; folders dropped on it open in Quick Show.
+#pragma once
+
+#include <QMdiArea>
+
+namespace neb {
+
+class Workspace : public QMdiArea {
+    Q_OBJECT
+
+  public:
+    explicit Workspace(QWidget* Parent = nullptr);
+
+  Q_SIGNALS:
+    void FolderDropped(const QString& Folder);
+
+  protected:
+    void paintEvent(QPaintEvent* Event) override;
+    void dragEnterEvent(QDragEnterEvent* Event) override;
+    void dropEvent(QDropEvent* Event) override;
+};
+
+}  // namespace neb

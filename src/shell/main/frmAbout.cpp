@@ -1,0 +1,52 @@
+#include "shell/main/frmAbout.h"
+
+#include <QProcess>
+#include <QStandardPaths>
+
+#include "support/Services.h"
+#include "ui_frmAbout.h"
+
+namespace neb {
+namespace {
+
+// The tools of the usual desktops, with what shows the machine in each.
+constexpr const char* SysInfoTools[][2] = {
+    {"kinfocenter", ""},
+    {"gnome-control-center", "info-overview"},
+    {"hardinfo", ""},
+    {"hardinfo2", ""},
+    {"mate-system-monitor", "--show-system-tab"},
+    {"cinnamon-settings", "info"},
+    {"xfce4-about", ""},
+    {"lxqt-about", ""},
+    {"hwinfo-gui", ""},
+    {"msinfo32.exe", ""},
+};
+
+bool StartTool(const char* Program, const char* Argument) {
+    const QString Path = QStandardPaths::findExecutable(QString::fromLatin1(Program));
+    if (Path.isEmpty()) return false;
+    const QStringList Arguments =
+        *Argument ? QStringList(QString::fromLatin1(Argument)) : QStringList();
+    return QProcess::startDetached(Path, Arguments);
+}
+
+}  // namespace
+
+frmAbout::frmAbout() : mUi(std::make_unique<Ui::frmAbout>()) {
+    mUi->setupUi(this);
+    mUi->lblVersion->setText(tr("Version ") + QApplication::applicationVersion());
+    mUi->picIcon->setPixmap(QApplication::windowIcon().pixmap(96, 96));
+    connect(mUi->cmdOK, &QPushButton::clicked, this, &frmAbout::Unload);
+    connect(mUi->cmdSysInfo, &QPushButton::clicked, this, &StartSysInfo);
+}
+
+frmAbout::~frmAbout() = default;
+
+void StartSysInfo() {
+    for (const auto& [Program, Argument] : SysInfoTools)
+        if (StartTool(Program, Argument)) return;
+    MsgBox(QStringLiteral("System Information Is Unavailable At This Time"));
+}
+
+}  // namespace neb

@@ -1,0 +1,27 @@
+// The box with the program's title, version and description, and the way to the desktop's own
+// system information tool.
+#pragma once
+
+#include "support/windows/Form.h"
+
+namespace neb {
+
+namespace Ui {
+class frmAbout;
+}
+
+class frmAbout : public Form {
+    Q_OBJECT
+
+  public:
+    frmAbout();
+    ~frmAbout() override;
+
+  private:
+    std::unique_ptr<Ui::frmAbout> mUi;
+};
+
+// Starts the first system information tool that the desktop has; a box says when there is none.
+void StartSysInfo();
+
+}  // namespace neb

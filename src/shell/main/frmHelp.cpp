@@ -1,0 +1,27 @@
+#include "shell/main/frmHelp.h"
+
+#include <QTextBrowser>
+#include <QVBoxLayout>
+
+#include "support/modHostFiles.h"
+
+namespace neb {
+
+frmHelp::frmHelp() : mText(new QTextBrowser(this)) {
+    setObjectName(QStringLiteral("frmHelp"));
+    setWindowTitle(tr("NEB Slide Show Help"));
+    resize(640, 520);
+    auto* Layout = new QVBoxLayout(this);
+    Layout->setContentsMargins(0, 0, 0, 0);
+    Layout->addWidget(mText);
+    mText->setObjectName(QStringLiteral("txtHelp"));
+    mText->setAccessibleName(tr("Help"));
+    mText->setOpenLinks(true);
+}
+
+void frmHelp::SetTopic(const QString& HelpFile, const QString& Anchor) {
+    mText->setHtml(QString::fromUtf8(ReadFile(HelpFile)));
+    mText->scrollToAnchor(Anchor);
+}
+
+}  // namespace neb

@@ -1,0 +1,166 @@
+// The start and the end of the program; what the menu does is in frmNEBSlideShowMenu.cpp.
+#include "shell/main/frmNEBSlideShow.h"
+
+#include <QCloseEvent>
+#include <QScreen>
+
+#include "db/clsDBEngine.h"
+#include "intake/clsImageBuffer.h"
+#include "platform/FlexGrid.h"
+#include "shell/main/MainMenu.h"
+#include "shell/main/Workspace.h"
+#include "shell/main/modMachineSettings.h"
+#include "shell/modNEBSlideShow.h"
+#include "support/Fault.h"
+#include "support/Services.h"
+#include "support/modHostFiles.h"
+#include "support/windows/Form.h"
+#include "support/windows/ScreenPointer.h"
+
+namespace neb {
+namespace {
+
+void Log(const char* Message) {
+    if (DebugMode) LogMessage(QStringLiteral("Information"), QString::fromLatin1(Message));
+}
+
+// Whether a file can be made in the folder for scratch files, and so the records at the end.
+void ProbeDatabaseFolder() {
+    const QString Probe = DBPath() + QStringLiteral("Temp/probe.tmp");
+    WriteFile(Probe, "x");
+    DeleteFile(Probe);
+}
+
+void IgnoringFaults(const std::function<void()>& Action) {
+    try {
+        Action();
+    } catch (const Fault&) {
+        return;
+    }
+}
+
+}  // namespace
+
+frmNEBSlideShow::frmNEBSlideShow() : mWorkspace(new Workspace(this)), mBuffer(new FlexGrid(this)) {
+    setObjectName(QStringLiteral("frmNEBSlideShow"));
+    setWindowTitle(QApplication::applicationDisplayName());
+    setCentralWidget(mWorkspace);
+    mBuffer->hide();
+    SetUpMenu();
+    FillOpeners();
+    connect(mWorkspace, &Workspace::FolderDropped, this, &frmNEBSlideShow::OpenQuickShow);
+    resize(screen()->availableSize() * 0.85);
+}
+
+frmNEBSlideShow::~frmNEBSlideShow() {
+    if (DBEngine == mEngine.get()) DBEngine = nullptr;
+    if (ImageBuffer == mImageBuffer.get()) ImageBuffer = nullptr;
+    if (FileSystem == &mFileSystem) FileSystem = nullptr;
+}
+
+void frmNEBSlideShow::Form_Load(const CommandLine& Line) {
+    DebugMode = Line.Debug;
+    Log("Showing Main Form");
+    show();
+    DoEvents();
+    const PointerScope Working(Pointer::Hourglass);
+    LoadDatabase();
+    CheckReadOnly();
+    if (!ReadOnlyDB) {
+        Log("If not read-only, call Speed Tests routine.");
+        EnsureMachineSettings();
+    }
+    Log("Attempt to make child dirs.");
+    MakeChildDirs();
+    Log("Load Completed Successfully.");
+    FileSystem = &mFileSystem;
+    CreateImageBuffer();
+    mLoaded = true;
+}
+
+void frmNEBSlideShow::LoadDatabase() {
+    Log("Starting Initializing and Buffering Database");
+    mEngine = std::make_unique<clsDBEngine>();
+    mEngine->SetDBPath(DBPath());
+    mEngine->SetProgramPath(AppPath());
+    mEngine->InitializeDB();
+    DBEngine = mEngine.get();
+    Log("Completed Initializing and Buffering Database");
+}
+
+void frmNEBSlideShow::CheckReadOnly() {
+    Log("Check if Read-Only");
+    const QString Counters = DBPath() + QStringLiteral("NextIDs.dat");
+    ReadOnlyDB = FileExists(Counters) && IsReadOnly(Counters);
+    if (ReadOnlyDB) mMenu->Entries[QStringLiteral("mnuAlbumNew")]->setEnabled(false);
+}
+
+void frmNEBSlideShow::MakeChildDirs() {
+    MakeDir(DBPath() + QStringLiteral("Albums"));
+    MakeDir(DBPath() + QStringLiteral("Temp"));
+    if (ReadOnlyDB) return;
+    try {
+        ProbeDatabaseFolder();
+    } catch (const Fault& Problem) {
+        SetScreenPointer(Pointer::Default);
+        MsgBox(tr("The folder of the albums cannot be written, so that nothing new can be kept.\n"
+                  "Give yourself permission to write there, or choose another folder by the "
+                  "setting DBPath.\n\n%1")
+                   .arg(Problem.Text()),
+               tr("Albums Cannot Be Written"), BoxIcon::Critical);
+    }
+}
+
+void frmNEBSlideShow::CreateImageBuffer() {
+    mImageBuffer = std::make_unique<clsImageBuffer>();
+    mImageBuffer->BufferGrid = mBuffer;
+    mImageBuffer->UseSmallFiles = true;
+    ImageBuffer = mImageBuffer.get();
+}
+
+void frmNEBSlideShow::UnloadChild(Form& Child) {
+    IgnoringFaults([&] { Child.Unload(); });
+}
+
+bool frmNEBSlideShow::UnloadForms() {
+    for (const auto& Window : LoadedForms()) UnloadChild(*Window);
+    return LoadedForms().empty();
+}
+
+bool frmNEBSlideShow::Unload() {
+    if (!mLoaded) return true;
+    if (!UnloadForms()) return false;
+    const PointerScope Working(Pointer::Hourglass);
+    IgnoringFaults([] { DeleteMask(DBPath() + QStringLiteral("Temp/*.*")); });
+    if (!ReadOnlyDB && !WriteDatabase()) return false;
+    FileSystem = nullptr;
+    DBEngine = nullptr;
+    mEngine.reset();
+    ImageBuffer = nullptr;
+    mImageBuffer.reset();
+    mLoaded = false;
+    return true;
+}
+
+// The one moment at which the records reach the disk. When that fails the user may make room and
+// try again; nothing is given up without a word.
+bool frmNEBSlideShow::WriteDatabase() {
+    try {
+        mEngine->FinalizeDB();
+        return true;
+    } catch (const Fault& Problem) {
+        SetScreenPointer(Pointer::Default);
+        const QString Question =
+            tr("The albums could not be saved. On the disk they are as they were before.\n\n%1\n\n"
+               "Do you want to go on with the program, so that you can mend this and end it "
+               "again? With No, everything changed since the start is lost.")
+                .arg(Problem.Text());
+        return !AskYesNo(Question, tr("Save Failed"));
+    }
+}
+
+void frmNEBSlideShow::closeEvent(QCloseEvent* Event) {
+    Event->setAccepted(Unload());
+}
+
+}  // namespace neb

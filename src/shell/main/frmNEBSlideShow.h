@@ -1,0 +1,69 @@
+// The main window: the frame that holds every manager window as a child, the menu bar, and the
+// start and the orderly end of the program, at which the records reach the disk.
+#pragma once
+
+#include <QMainWindow>
+#include <functional>
+#include <memory>
+
+#include "shell/clsFileSystem.h"
+#include "shell/main/CommandLine.h"
+
+namespace neb {
+
+class FlexGrid;
+class Form;
+class Workspace;
+class clsDBEngine;
+class clsImageBuffer;
+struct MainMenu;
+
+class frmNEBSlideShow : public QMainWindow {
+    Q_OBJECT
+
+  public:
+    frmNEBSlideShow();
+    ~frmNEBSlideShow() override;
+
+    // The start-up sequence: shows the window, loads the database, makes ready. Throws Fault when
+    // the database cannot be read; the program is then to end without writing anything.
+    void Form_Load(const CommandLine& Line);
+    // The end: unloads all forms, empties Temp, writes the database. False when a window refused
+    // or the database could not be written and the user stays; the program then goes on.
+    bool Unload();
+    // Unloads a form, ignoring faults.
+    void UnloadChild(Form& Child);
+    // Opens Quick Show on a folder, or with no folder yet.
+    void OpenQuickShow(const QString& Folder = {});
+
+    FlexGrid* flxBuffer() const { return mBuffer; }
+
+  protected:
+    void closeEvent(QCloseEvent* Event) override;
+
+  private:
+    void SetUpMenu();
+    void FillOpeners();
+    void Connect(const char* Entry, std::function<void()> Action);
+    void ListWindows();
+    void ShowAsChild(Form& Child);
+
+    void LoadDatabase();
+    void CheckReadOnly();
+    void MakeChildDirs();
+    void CreateImageBuffer();
+    bool UnloadForms();
+    bool WriteDatabase();
+    void PlayActiveShow();
+    void ShowHelp(const QString& Anchor);
+
+    Workspace* mWorkspace;
+    FlexGrid* mBuffer;  // never shown: the store of the image buffer
+    std::unique_ptr<MainMenu> mMenu;
+    std::unique_ptr<clsDBEngine> mEngine;
+    std::unique_ptr<clsImageBuffer> mImageBuffer;
+    clsFileSystem mFileSystem;
+    bool mLoaded = false;
+};
+
+}  // namespace neb

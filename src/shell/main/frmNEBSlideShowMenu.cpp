@@ -1,0 +1,135 @@
+// What the entries of the main window's menu do.
+#include <QAction>
+#include <QMdiSubWindow>
+#include <QMenu>
+
+#include "db/clsDBEngine.h"
+#include "intake/frmQuickShow.h"
+#include "presentation/modSlideShows.h"
+#include "shell/Openers.h"
+#include "shell/main/MainMenu.h"
+#include "shell/main/Workspace.h"
+#include "shell/main/frmAbout.h"
+#include "shell/main/frmHelp.h"
+#include "shell/main/frmNEBSlideShow.h"
+#include "shell/modNEBSlideShow.h"
+#include "shell/modWindowState.h"
+#include "support/Fault.h"
+#include "support/Services.h"
+#include "support/modNumbers.h"
+
+namespace neb {
+namespace {
+
+struct ActiveShow {
+    std::int32_t AlbumID = 0;
+    std::int32_t SlideShowID = 0;
+};
+
+std::int32_t ReadKey(const clsSettings& Settings, const char* Key) {
+    const QString Text = Settings.GetValue({}, QString::fromLatin1(Key), QStringLiteral("0"));
+    return std::max(0, CInt(Val(Text)));
+}
+
+ActiveShow ReadActiveShow() {
+    const clsSettings Settings = OpenSettings();
+    return {ReadKey(Settings, "ActiveAlbum"), ReadKey(Settings, "ActiveSlideShow")};
+}
+
+// The windows that come with later versions; until then their entries rest.
+constexpr const char* NotYet[] = {
+    "mnuAlbumNew",       "mnuAlbumRename",     "mnuAlbumDelete",     "mnuAlbumExport",
+    "mnuAlbumImport",    "mnuAlbumPrint",      "mnuSlideMgr",        "mnuSlideMgrBulk",
+    "mnuSlideShowMgr",   "mnuSlideShowExport", "mnuSlideShowImport", "mnuSlideShowPrint",
+    "mnuSlideShowPrefs",
+};
+
+}  // namespace
+
+void frmNEBSlideShow::SetUpMenu() {
+    mMenu = std::make_unique<MainMenu>(BuildMainMenu(*this));
+    for (const char* Entry : NotYet) mMenu->Entries[QString::fromLatin1(Entry)]->setEnabled(false);
+    Connect("mnuQuickShow", [this] { OpenQuickShow(); });
+    Connect("mnuExit", [this] { close(); });
+    Connect("mnuSlideShowViewer", [this] { PlayActiveShow(); });
+    Connect("mnuCascade", [this] { mWorkspace->cascadeSubWindows(); });
+    Connect("mnuTile", [this] { mWorkspace->tileSubWindows(); });
+    Connect("mnuHelpContents", [this] { ShowHelp(QStringLiteral("contents")); });
+    Connect("mnuHelpIndex", [this] { ShowHelp(QStringLiteral("index")); });
+    Connect("mnuAbout", [] { NewForm<frmAbout>()->ShowModal(); });
+    connect(mMenu->Windows, &QMenu::aboutToShow, this, &frmNEBSlideShow::ListWindows);
+}
+
+// A fault in showing a window is ignored; the window then simply does not appear. The action runs
+// after the menu has closed, so that a modal window does not hold whoever pressed the entry.
+void frmNEBSlideShow::Connect(const char* Entry, std::function<void()> Action) {
+    const auto Run = [Action] {
+        try {
+            Action();
+        } catch (const Fault&) {
+            return;
+        }
+    };
+    connect(mMenu->Entries[QString::fromLatin1(Entry)], &QAction::triggered, this, Run,
+            Qt::QueuedConnection);
+}
+
+void frmNEBSlideShow::FillOpeners() {
+    TheOpeners().ShowAsChild = [this](Form& Child) { ShowAsChild(Child); };
+}
+
+void frmNEBSlideShow::ShowAsChild(Form& Child) {
+    const auto Held = Child.shared_from_this();
+    QMdiSubWindow* Frame = mWorkspace->addSubWindow(&Child);
+    Frame->setAttribute(Qt::WA_DeleteOnClose, false);
+    Child.Load();
+    if (!Child.IsLoaded()) return;
+    PositionMDIChild(Child, 1);
+    Child.ShowModeless();
+}
+
+void frmNEBSlideShow::OpenQuickShow(const QString& Folder) {
+    const auto Window = NewForm<frmQuickShow>();
+    if (!Folder.isEmpty()) Window->SetImportDir(Folder);
+    ShowAsChild(*Window);
+}
+
+void frmNEBSlideShow::ListWindows() {
+    QMenu& Menu = *mMenu->Windows;
+    for (QAction* Old : Menu.actions())
+        if (Old->data().isValid() || Old->isSeparator()) delete Old;
+    const QList<QMdiSubWindow*> Frames = mWorkspace->subWindowList();
+    if (!Frames.isEmpty()) Menu.addSeparator();
+    for (int I = 0; I < Frames.size(); ++I) {
+        QMdiSubWindow* Frame = Frames[I];
+        QAction* Entry = Menu.addAction(
+            QStringLiteral("&%1 %2").arg(I + 1).arg(Frame->windowTitle().replace("&", "&&")));
+        Entry->setData(I);
+        Entry->setCheckable(true);
+        Entry->setChecked(Frame == mWorkspace->activeSubWindow());
+        connect(Entry, &QAction::triggered, Frame,
+                [this, Frame] { mWorkspace->setActiveSubWindow(Frame); });
+    }
+}
+
+void frmNEBSlideShow::PlayActiveShow() {
+    ActiveShow Active = ReadActiveShow();
+    if (Active.SlideShowID == 0) {
+        MsgBox(QStringLiteral("You must first select an Active Slide Show in Preferences!"),
+               QStringLiteral("No Active Slide Show"), BoxIcon::Information);
+        EditSlideShowPreferences();
+        Active = ReadActiveShow();
+        if (Active.SlideShowID == 0) return;
+    }
+    QString AlbumName;
+    if (Active.AlbumID > 0 && !DBEngine->LoadAlbum(Active.AlbumID, AlbumName)) return;
+    RunSlideShow(Active.AlbumID, AlbumName, Active.SlideShowID);
+}
+
+void frmNEBSlideShow::ShowHelp(const QString& Anchor) {
+    const auto Window = NewForm<frmHelp>();
+    Window->SetTopic(AppPath() + QStringLiteral("SlideShowHelp.hlp"), Anchor);
+    ShowAsChild(*Window);
+}
+
+}  // namespace neb

@@ -1,0 +1,18 @@
+// The one-time settings of a machine: what the speed test has measured, or the defaults.
+#pragma once
+
+#include "shell/Openers.h"
+#include "shell/clsSettings.h"
+
+namespace neb {
+
+// Runs the speed test when the settings have no "Timeout" yet, and stores what it found. A
+// build without the test stores nothing, so that the test is still to come.
+void EnsureMachineSettings();
+
+// Writes the keys of a result, 0 or below being no result, and saves the file.
+void StoreMachineSettings(clsSettings& Settings, const SpeedTestResult& Result);
+// The highest effect level, 3 down to 1, whose transitions took less than 4 seconds; else 0.
+int MaxEffectLevelFor(const SpeedTestResult& Result);
+
+}  // namespace neb

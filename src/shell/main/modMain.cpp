@@ -1,0 +1,100 @@
+#include "shell/main/modMain.h"
+
+#include <QCryptographicHash>
+#include <QStandardPaths>
+#include <cstdio>
+
+#include "InitAssets.h"
+#include "platform/ImgX.h"
+#include "platform/ScreenBlanking.h"
+#include "platform/XShow.h"
+#include "shell/main/CommandLine.h"
+#include "shell/main/frmNEBSlideShow.h"
+#include "shell/modNEBSlideShow.h"
+#include "support/Fault.h"
+#include "support/modHostFiles.h"
+#include "support/windows/DesktopBoxes.h"
+#include "support/windows/NebApplication.h"
+
+namespace neb {
+namespace {
+
+void Name(QApplication& App) {
+    App.setApplicationName(QStringLiteral("neb-slide-show"));
+    App.setApplicationDisplayName(QStringLiteral("NEB Slide Show"));
+    App.setApplicationVersion(QStringLiteral(NEB_VERSION));
+    App.setDesktopFileName(QStringLiteral("neb-slide-show"));
+    App.setWindowIcon(QIcon(QStringLiteral(":/neb/icon.svg")));
+}
+
+// One instance for a documents folder: the lock lies where it goes with the session.
+QString LockPath() {
+    const QByteArray Key =
+        QCryptographicHash::hash(SettingsDir().toUtf8(), QCryptographicHash::Sha1).toHex();
+    QString Dir = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    if (Dir.isEmpty()) Dir = QStandardPaths::writableLocation(QStandardPaths::TempLocation);
+    return Dir + QStringLiteral("/neb-slide-show-") + QString::fromLatin1(Key.left(16)) +
+           QStringLiteral(".lock");
+}
+
+QImage ReadPicture(const QString& File) {
+    ImgX Picture;
+    Picture.Load(File);
+    return Picture.Picture();
+}
+
+// Answers what needs no window; the exit code, or -1 to go on.
+int AnswerOnTerminal(const CommandLine& Line) {
+    if (Line.WantsHelp) return std::fputs(qPrintable(CommandLineHelp()), stdout), 0;
+    if (Line.WantsVersion) return std::puts("NEB Slide Show " NEB_VERSION), 0;
+    if (Line.Problem.isEmpty()) return -1;
+    std::fprintf(stderr, "neb-slide-show: %s\n%s", qPrintable(Line.Problem),
+                 qPrintable(CommandLineHelp()));
+    return 2;
+}
+
+int RunMainWindow(const CommandLine& Line) {
+    frmNEBSlideShow Window;
+    try {
+        Window.Form_Load(Line);
+    } catch (const Fault& Problem) {
+        MsgBox(QObject::tr("The albums cannot be read. Nothing has been changed.\n\n%1")
+                   .arg(Problem.Text()),
+               QObject::tr("Albums Cannot Be Read"), BoxIcon::Critical);
+        return 1;
+    }
+    if (!Line.Folder.isEmpty())
+        QMetaObject::invokeMethod(
+            &Window, [&] { Window.OpenQuickShow(Line.Folder); }, Qt::QueuedConnection);
+    return QApplication::exec();
+}
+
+}  // namespace
+
+int Main(int argc, char** argv) {
+    NebApplication App(argc, argv);
+    InitAssets();
+    Name(App);
+    const CommandLine Line = ParseCommandLine(App.arguments().mid(1));
+    const int Answered = AnswerOnTerminal(Line);
+    if (Answered >= 0) return Answered;
+
+    DesktopBoxes Boxes;
+    DesktopFileDialogs Dialogs;
+    DesktopScreenBlanking Blanking;
+    TheServices().Boxes = &Boxes;
+    TheServices().Dialogs = &Dialogs;
+    TheServices().Blanking = &Blanking;
+    XShow::SetReader(&ReadPicture);
+    if (!Line.Documents.isEmpty()) SetDocumentsPath(Line.Documents);
+
+    InstanceLock Lock(LockPath());
+    if (!Lock.TryLock()) {
+        MsgBox(QStringLiteral("You can only run a single instance of NEB Slide Show at a time."),
+               QStringLiteral("Operation Denied"), BoxIcon::Information);
+        return 0;
+    }
+    return RunMainWindow(Line);
+}
+
+}  // namespace neb

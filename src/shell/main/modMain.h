@@ -1,0 +1,10 @@
+// The entry of the program: refuses a second instance, makes the services and the main window,
+// and runs the event loop.
+#pragma once
+
+namespace neb {
+
+// The exit code of the program.
+int Main(int argc, char** argv);
+
+}  // namespace neb
