@@ -110,6 +110,7 @@ class FlexGrid : public QTableView {
     bool MayEdit(const QModelIndex& Index) const;
     void EditNeighbour(int Step);
     void EnterPressed();
+    void ToggleCheck(int Row, int Col);
     bool PressCell(const QModelIndex& Index);
     bool KeyHandled(const QKeyEvent& Event);
     QModelIndex NoteMouse(const QMouseEvent& Event);

@@ -14,6 +14,7 @@ namespace neb {
 namespace {
 
 constexpr int Margin = 4;
+const QString Dots = QStringLiteral("...");
 
 QStyle& StyleOf(const QStyleOptionViewItem& Option) {
     return *Option.widget->style();
@@ -43,30 +44,68 @@ QRect FlexGridDelegate::HotSpot(const QStyleOptionViewItem& Option, int Col) con
                          Style.pixelMetric(QStyle::PM_IndicatorHeight, &Option, mGrid));
         return QStyle::alignedRect(Option.direction, Qt::AlignCenter, Size, Option.rect);
     }
-    if (Kind != FlexKind::Button) return {};
-    const int Height = std::min(Option.rect.height(), mGrid->fontMetrics().height() + 2 * Margin);
-    const QSize Size(mGrid->fontMetrics().horizontalAdvance(QStringLiteral("...")) + 4 * Margin,
-                     Height);
-    return QStyle::alignedRect(Option.direction, Qt::AlignRight | Qt::AlignVCenter, Size,
-                               Option.rect);
+    const bool Opens = Kind == FlexKind::List && mGrid->Column(Col).Editable;
+    if (Kind != FlexKind::Button && !Opens) return {};
+    const QFontMetrics Metrics = mGrid->fontMetrics();
+    const int Height = std::min(Option.rect.height(), Metrics.height() + 2 * Margin);
+    const int Width = Opens ? Metrics.height() : Metrics.horizontalAdvance(Dots) + 4 * Margin;
+    return QStyle::alignedRect(Option.direction, Qt::AlignRight | Qt::AlignVCenter,
+                               QSize(Width, Height), Option.rect);
 }
 
 void FlexGridDelegate::paint(QPainter* Painter, const QStyleOptionViewItem& Option,
                              const QModelIndex& Index) const {
     QStyleOptionViewItem Own = Styled(Option, Index);
     const FlexKind Kind = mGrid->Column(Index.column()).Kind;
-    if (Kind == FlexKind::Button) {
-        QStyleOptionViewItem Text = Own;
-        PaintFrame(*Painter, Own);
-        Text.rect.setWidth(HotSpot(Own, Index.column()).left() - Own.rect.left());
-        StyleOf(Text).drawControl(QStyle::CE_ItemViewItem, &Text, Painter, Text.widget);
-        PaintButton(*Painter, Own, Index.column());
-        return;
-    }
-    StyleOf(Own).drawControl(QStyle::CE_ItemViewItem, &Own, Painter, Own.widget);
+    const QRect Hot = HotSpot(Own, Index.column());
+    if (!Hot.isEmpty() && Kind != FlexKind::Check)
+        PaintWithButton(*Painter, Own, Kind, Hot);
+    else
+        StyleOf(Own).drawControl(QStyle::CE_ItemViewItem, &Own, Painter, Own.widget);
     if (Kind == FlexKind::Picture && Index.row() < mGrid->Rows())
         PaintPicture(*Painter, Own.rect, mGrid->CellPicture(Index.row(), Index.column()));
     if (Kind == FlexKind::Check) PaintCheck(*Painter, Own, Index);
+    if (Own.state & QStyle::State_HasFocus) PaintFocus(*Painter, Own);
+}
+
+// The background goes under the button as well, the text stops before it.
+void FlexGridDelegate::PaintWithButton(QPainter& Painter, const QStyleOptionViewItem& Option,
+                                       FlexKind Kind, const QRect& Hot) const {
+    QStyleOptionViewItem Text = Option;
+    PaintFrame(Painter, Option);
+    if (Option.direction == Qt::RightToLeft)
+        Text.rect.setLeft(Hot.right() + 1);
+    else
+        Text.rect.setRight(Hot.left() - 1);
+    StyleOf(Text).drawControl(QStyle::CE_ItemViewItem, &Text, &Painter, Text.widget);
+    if (Kind == FlexKind::Button)
+        PaintButton(Painter, Option, Hot);
+    else
+        PaintArrow(Painter, Option, Hot);
+}
+
+// The styles mark the current cell so faintly that a selected row hides it.
+void FlexGridDelegate::PaintFocus(QPainter& Painter, const QStyleOptionViewItem& Option) const {
+    const bool Selected = Option.state & QStyle::State_Selected;
+    Painter.setPen(
+        Option.palette.color(Selected ? QPalette::HighlightedText : QPalette::Highlight));
+    Painter.setBrush(Qt::NoBrush);
+    Painter.drawRect(Option.rect.adjusted(1, 1, -2, -2));
+}
+
+void FlexGridDelegate::PaintArrow(QPainter& Painter, const QStyleOptionViewItem& Option,
+                                  const QRect& Hot) const {
+    QStyleOption Arrow;
+    const int Side = Hot.width() * 2 / 3;
+    Arrow.rect = QStyle::alignedRect(Option.direction, Qt::AlignCenter, QSize(Side, Side), Hot);
+    Arrow.state = Option.state & QStyle::State_Enabled;
+    Arrow.palette = mGrid->palette();
+    const bool Selected = Option.state & QStyle::State_Selected;
+    const QColor Ink =
+        Arrow.palette.color(Selected ? QPalette::HighlightedText : QPalette::PlaceholderText);
+    for (const auto Role : {QPalette::ButtonText, QPalette::WindowText, QPalette::Text})
+        Arrow.palette.setColor(Role, Ink);
+    StyleOf(Option).drawPrimitive(QStyle::PE_IndicatorArrowDown, &Arrow, &Painter, Option.widget);
 }
 
 void FlexGridDelegate::PaintFrame(QPainter& Painter, QStyleOptionViewItem Option) const {
@@ -93,19 +132,21 @@ void FlexGridDelegate::PaintCheck(QPainter& Painter, const QStyleOptionViewItem&
     const bool On = Index.data(Qt::CheckStateRole).value<Qt::CheckState>() == Qt::Checked;
     Box.state =
         (Option.state & QStyle::State_Enabled) | (On ? QStyle::State_On : QStyle::State_Off);
+    // Some styles draw the frame in a shade of the window, which a dark list swallows.
+    Box.palette.setColor(QPalette::Window, Box.palette.color(QPalette::PlaceholderText));
     if (!mGrid->Column(Index.column()).Editable) Box.state &= ~QStyle::State_Enabled;
     StyleOf(Option).drawPrimitive(QStyle::PE_IndicatorItemViewItemCheck, &Box, &Painter,
                                   Option.widget);
 }
 
 void FlexGridDelegate::PaintButton(QPainter& Painter, const QStyleOptionViewItem& Option,
-                                   int Col) const {
+                                   const QRect& Hot) const {
     QStyleOptionButton Button;
-    Button.rect = HotSpot(Option, Col);
+    Button.rect = Hot;
     Button.state = (Option.state & QStyle::State_Enabled) | QStyle::State_Raised;
     Button.palette = mGrid->palette();
     Button.fontMetrics = mGrid->fontMetrics();
-    Button.text = QStringLiteral("...");
+    Button.text = Dots;
     StyleOf(Option).drawControl(QStyle::CE_PushButton, &Button, &Painter, nullptr);
 }
 
@@ -158,7 +199,8 @@ void FlexGridDelegate::updateEditorGeometry(QWidget* Editor, const QStyleOptionV
                                             const QModelIndex& Index) const {
     QRect Room = Option.rect;
     const QRect Hot = HotSpot(Option, Index.column());
-    if (!Hot.isEmpty()) Room.setWidth(Hot.left() - Room.left());
+    if (mGrid->Column(Index.column()).Kind == FlexKind::Button)
+        Room.setWidth(Hot.left() - Room.left());
     const QSize Size(Room.width(), std::min(Room.height(), Editor->sizeHint().height()));
     Editor->setGeometry(QStyle::alignedRect(Option.direction, Qt::AlignCenter, Size, Room));
 }

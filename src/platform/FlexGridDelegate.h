@@ -4,6 +4,8 @@
 #include <QPointer>
 #include <QStyledItemDelegate>
 
+#include "platform/FlexGridModel.h"
+
 namespace neb {
 
 class FlexGrid;
@@ -14,7 +16,7 @@ class FlexGridDelegate : public QStyledItemDelegate {
     explicit FlexGridDelegate(FlexGrid* Grid);
 
     QWidget* Editor() const { return mEditor; }  // null when none is open
-    // The part of a Check or Button cell that a click presses; empty for other kinds.
+    // The part of a Check, List or Button cell that a click presses; empty for other kinds.
     QRect HotSpot(const QStyleOptionViewItem& Option, int Col) const;
 
     void paint(QPainter* Painter, const QStyleOptionViewItem& Option,
@@ -38,7 +40,11 @@ class FlexGridDelegate : public QStyledItemDelegate {
     void PaintPicture(QPainter& Painter, const QRect& Room, const QImage& Picture) const;
     void PaintCheck(QPainter& Painter, const QStyleOptionViewItem& Option,
                     const QModelIndex& Index) const;
-    void PaintButton(QPainter& Painter, const QStyleOptionViewItem& Option, int Col) const;
+    void PaintWithButton(QPainter& Painter, const QStyleOptionViewItem& Option, FlexKind Kind,
+                         const QRect& Hot) const;
+    void PaintButton(QPainter& Painter, const QStyleOptionViewItem& Option, const QRect& Hot) const;
+    void PaintArrow(QPainter& Painter, const QStyleOptionViewItem& Option, const QRect& Hot) const;
+    void PaintFocus(QPainter& Painter, const QStyleOptionViewItem& Option) const;
     QWidget* ListEditor(QWidget* Parent, const QStringList& Entries);
     QWidget* TextEditor(QWidget* Parent) const;
     void End(QWidget* Editor, bool Keep);

@@ -1,4 +1,5 @@
 // What the user does with a FlexGrid: keys, mouse, edits, and what stands in an empty one.
+#include <QComboBox>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -73,41 +74,36 @@ QModelIndex FlexGrid::moveCursor(CursorAction Action, Qt::KeyboardModifiers Modi
 // Presses the box or the button of a cell; false when it has none.
 bool FlexGrid::PressCell(const QModelIndex& Index) {
     const FlexKind Kind = Index.isValid() ? Column(Index.column()).Kind : FlexKind::Text;
-    if (Kind != FlexKind::Check && Kind != FlexKind::Button) return false;
-    const int Row = Index.row(), Col = Index.column();
-    if (Kind == FlexKind::Button) {
-        Q_EMIT CellButtonClicked(Row, Col);
-        return true;
-    }
-    if (!MayEdit(Index)) return true;
-    SetTextMatrix(Row, Col, Checked(Row, Col) ? QStringLiteral("False") : QStringLiteral("True"));
-    Q_EMIT AfterEdit(Row, Col);
-    return true;
+    if (Kind == FlexKind::Button) Q_EMIT CellButtonClicked(Index.row(), Index.column());
+    if (Kind == FlexKind::Check && MayEdit(Index)) ToggleCheck(Index.row(), Index.column());
+    if (Kind == FlexKind::List && EditCell(Index.row(), Index.column()))
+        static_cast<QComboBox*>(mDelegate->Editor())->showPopup();
+    return Kind == FlexKind::Button || Kind == FlexKind::Check || Kind == FlexKind::List;
 }
 
+void FlexGrid::ToggleCheck(int Row, int Col) {
+    SetTextMatrix(Row, Col, Checked(Row, Col) ? QStringLiteral("False") : QStringLiteral("True"));
+    Q_EMIT AfterEdit(Row, Col);
+}
+
+// Return edits the cell, or presses it, or reports the row.
 void FlexGrid::EnterPressed() {
     const QModelIndex Cell = currentIndex();
-    if (!Cell.isValid() || edit(Cell, AllEditTriggers, nullptr) || PressCell(Cell)) return;
-    Q_EMIT RowActivated(Cell.row());
+    if (!Cell.isValid() || edit(Cell, AllEditTriggers, nullptr)) return;
+    const FlexKind Kind = Column(Cell.column()).Kind;
+    if (Kind == FlexKind::List || !PressCell(Cell)) Q_EMIT RowActivated(Cell.row());
 }
 
 // True for the keys that mean something of our own here.
 bool FlexGrid::KeyHandled(const QKeyEvent& Event) {
     const auto Modifiers = Event.modifiers() & ~Qt::KeypadModifier;
+    const int Key = Event.key();
     if (Modifiers != Qt::NoModifier || IsEditing()) return false;
-    switch (Event.key()) {
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            EnterPressed();
-            return true;
-        case Qt::Key_Delete:
-            Q_EMIT DeletePressed();
-            return true;
-        case Qt::Key_Space:
-            return PressCell(currentIndex());
-        default:
-            return false;
-    }
+    if (Key == Qt::Key_Space) return PressCell(currentIndex());
+    const bool Enter = Key == Qt::Key_Return || Key == Qt::Key_Enter;
+    if (Enter) EnterPressed();
+    if (Key == Qt::Key_Delete) Q_EMIT DeletePressed();
+    return Enter || Key == Qt::Key_Delete;
 }
 
 void FlexGrid::keyPressEvent(QKeyEvent* Event) {

@@ -1,6 +1,7 @@
 // Editing a cell: what starts it, what keys do in it, and what the window around it sees.
 #include <gtest/gtest.h>
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QDialog>
 #include <QLineEdit>
@@ -257,6 +258,20 @@ TEST_F(FlexGridKinds, AnEntryIsChosenFromAList) {
     Press(Qt::Key_Down);
     Press(Qt::Key_Return);
     EXPECT_EQ(Grid.TextMatrix(0, Start), "3");
+    EXPECT_EQ(Edited.count(), 1);
+}
+
+TEST_F(FlexGridKinds, TheArrowOfAListOpensItAtOnce) {
+    const QRect Cell = Grid.visualRect(Grid.model()->index(1, Start));
+    QTest::mouseClick(Grid.viewport(), Qt::LeftButton, {},
+                      QPoint(Cell.right() - 4, Cell.center().y()));
+    auto* Box = Grid.findChild<QComboBox*>();
+    ASSERT_TRUE(Box);
+    EXPECT_TRUE(Box->view()->isVisible());
+    QTest::keyClick(Box->view(), Qt::Key_Down);
+    QTest::keyClick(Box->view(), Qt::Key_Return);
+    EXPECT_EQ(Grid.TextMatrix(1, Start), "2");
+    EXPECT_FALSE(Grid.IsEditing());
     EXPECT_EQ(Edited.count(), 1);
 }
 
