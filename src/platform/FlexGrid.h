@@ -1,0 +1,133 @@
+// The list of pictures, captions and settings of every window, and, never shown, the store of
+// the image buffer. Rows and columns count from 0; one outside the grid is a Fault.
+#pragma once
+
+#include <QTableView>
+#include <functional>
+#include <optional>
+
+#include "platform/FlexGridModel.h"
+#include "platform/KeyFilter.h"
+#include "platform/RowSet.h"
+
+namespace neb {
+
+class FlexGridDelegate;
+
+class FlexGrid : public QTableView {
+    Q_OBJECT
+  public:
+    explicit FlexGrid(QWidget* Parent = nullptr);
+
+    int Rows() const { return Content().Rows(); }
+    void SetRows(int Rows);  // empty rows come at the end, or rows go from the end
+    int Cols() const { return Content().Cols(); }
+    void SetCols(int Cols);
+    int AddItem();  // an empty row at the end; its number
+    void InsertItem(int Row);
+    void RemoveItem(int Row);
+    void SetRowPosition(int Row, int NewRow);  // the selection goes with the row
+
+    const QString& TextMatrix(int Row, int Col) const { return Content().Cell(Row, Col).Text; }
+    void SetTextMatrix(int Row, int Col, const QString& Text);
+    const CellValue& CellData(int Row, int Col) const { return Content().Cell(Row, Col).Data; }
+    void SetCellData(int Row, int Col, const CellValue& Data);
+    const QImage& CellPicture(int Row, int Col) const { return Content().Cell(Row, Col).Picture; }
+    void SetCellPicture(int Row, int Col, const QImage& Picture);
+    void CopyCell(const FlexGrid& Source, int SourceRow, int SourceCol, int Row, int Col);
+    bool Checked(int Row, int Col) const { return IsChecked(TextMatrix(Row, Col)); }
+
+    // The first row whose datum is this number, as a walk from row 0 finds it; -1 for none. On a
+    // key column it is a lookup.
+    int FindRow(int Col, double Number) const { return Content().FindRow(Col, Number); }
+    void SetKeyColumn(int Col);
+
+    const FlexColumn& Column(int Col) const { return mModel->Column(Col); }
+    void SetColumn(int Col, const FlexColumn& Column);
+    bool ColHidden(int Col) const { return Column(Col).Hidden; }
+    void SetColHidden(int Col, bool Hidden);
+    void SetColList(int Col, const QStringList& List);
+
+    // Off: nothing is painted and no change is told until on. The selection and the place in
+    // the list stay with their rows. Going off ends an edit that is open, with its text.
+    bool Redraw() const { return !mModel->IsQuiet(); }
+    void SetRedraw(bool On);
+
+    int SelectedRows() const { return static_cast<int>(Selection().size()); }
+    int SelectedRow(int Index) const;  // 0 to SelectedRows-1, from the top; else -1
+    bool IsSelected(int Row) const;
+    void SelectRow(int Row);  // besides those that are
+    void ClearSelection();
+    int Row() const;  // the current cell; -1 when there is none
+    int Col() const;
+    void SetRow(int Row);  // makes it the current row and the one selected row
+    void EnsureRowVisible(int Row);
+    // The cell under the last press, move or double click of the mouse; -1 outside the cells.
+    int MouseRow() const { return mMouseRow; }
+    int MouseCol() const { return mMouseCol; }
+
+    void SetBeforeEdit(std::function<bool(int Row, int Col)> MayEdit) { mMayEdit = MayEdit; }
+    void SetKeyPressEdit(KeyPressFilter Filter) { mKeyPressEdit = Filter; }
+    void SetEditOnDblClick(bool On);  // at first on; off: it reports the double click instead
+    bool EditCell(int Row, int Col);  // false when the cell may not be edited
+    int EditRow() const { return mEditing.row(); }
+    int EditCol() const { return mEditing.column(); }
+    bool IsEditing() const { return state() == EditingState; }
+    void FinishEdit();  // takes over what stands in an open cell editor
+
+    void SetEmptyText(const QString& Text);  // shown while there are no rows
+
+  Q_SIGNALS:
+    void CellDblClicked(int Row, int Col);
+    void AfterEdit(int Row, int Col);
+    void CellButtonClicked(int Row, int Col);
+    void RowActivated(int Row);  // Return on a cell that is not edited
+    void DeletePressed();
+    void SelChange();
+    void EnterCell(int Row, int Col);
+
+  protected:
+    bool edit(const QModelIndex& Index, EditTrigger Trigger, QEvent* Event) override;
+    void closeEditor(QWidget* Editor, QAbstractItemDelegate::EndEditHint Hint) override;
+    QModelIndex moveCursor(CursorAction Action, Qt::KeyboardModifiers Modifiers) override;
+    void keyPressEvent(QKeyEvent* Event) override;
+    void mousePressEvent(QMouseEvent* Event) override;
+    void mouseMoveEvent(QMouseEvent* Event) override;
+    void mouseReleaseEvent(QMouseEvent* Event) override;
+    void mouseDoubleClickEvent(QMouseEvent* Event) override;
+    void paintEvent(QPaintEvent* Event) override;
+    void changeEvent(QEvent* Event) override;
+
+  private:
+    friend class FlexGridDelegate;
+    const FlexGridStore& Content() const { return mModel->Store(); }
+    const std::vector<int>& Selection() const;
+    void RestoreSelection();
+    QItemSelection Ranges(const std::vector<int>& Rows) const;
+    void FitColumn(int Col);
+    void FitAll();
+    void FitRowHeight();
+    bool MayEdit(const QModelIndex& Index) const;
+    void EditNeighbour(int Step);
+    void EnterPressed();
+    void ToggleCheck(int Row, int Col);
+    bool PressCell(const QModelIndex& Index);
+    bool KeyHandled(const QKeyEvent& Event);
+    QModelIndex NoteMouse(const QMouseEvent& Event);
+
+    FlexGridModel* mModel;
+    FlexGridDelegate* mDelegate;
+    mutable RowSet mSelected;
+    mutable bool mSelectionKnown = false;
+    RowSet mCurrent;  // while redraw is off
+    std::function<bool(int, int)> mMayEdit;
+    KeyPressFilter mKeyPressEdit;
+    QPersistentModelIndex mEditing;
+    bool mEdited = false;
+    QPersistentModelIndex mPressed;
+    int mMouseRow = -1;
+    int mMouseCol = -1;
+    QString mEmptyText;
+};
+
+}  // namespace neb

@@ -1,0 +1,168 @@
+// What the user does with a FlexGrid: keys, mouse, edits, and what stands in an empty one.
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "platform/FlexGrid.h"
+#include "platform/FlexGridDelegate.h"
+
+namespace neb {
+
+void FlexGrid::SetEditOnDblClick(bool On) {
+    setEditTriggers(editTriggers().setFlag(DoubleClicked, On));
+}
+
+void FlexGrid::SetEmptyText(const QString& Text) {
+    mEmptyText = Text;
+    viewport()->update();
+}
+
+bool FlexGrid::MayEdit(const QModelIndex& Index) const {
+    return Redraw() && Index.isValid() && Column(Index.column()).Editable &&
+           (!mMayEdit || mMayEdit(Index.row(), Index.column()));
+}
+
+bool FlexGrid::edit(const QModelIndex& Index, EditTrigger Trigger, QEvent* Event) {
+    const bool Starts = Trigger == AllEditTriggers || editTriggers() & Trigger;
+    if (!Starts || IsEditing() || !(mModel->flags(Index) & Qt::ItemIsEditable) || !MayEdit(Index))
+        return false;
+    mEditing = Index;
+    mEdited = false;
+    if (!QTableView::edit(Index, Trigger, Event)) return false;
+    scrollTo(Index);
+    return true;
+}
+
+bool FlexGrid::EditCell(int Row, int Col) {
+    const QModelIndex Index = mModel->index(Row, Col);
+    if (!Index.isValid()) return false;
+    setCurrentIndex(Index);
+    return edit(Index, AllEditTriggers, nullptr);
+}
+
+void FlexGrid::FinishEdit() {
+    QWidget* Editor = mDelegate->Editor();
+    if (!IsEditing() || !Editor) return;
+    commitData(Editor);
+    closeEditor(Editor, QAbstractItemDelegate::NoHint);
+}
+
+// AfterEdit comes last: its handler may move rows or show a box.
+void FlexGrid::closeEditor(QWidget* Editor, QAbstractItemDelegate::EndEditHint Hint) {
+    QTableView::closeEditor(Editor, Hint);
+    const QModelIndex Cell = mEditing;
+    mEditing = QModelIndex();
+    if (std::exchange(mEdited, false) && Cell.isValid())
+        Q_EMIT AfterEdit(Cell.row(), Cell.column());
+}
+
+void FlexGrid::EditNeighbour(int Step) {
+    const int Next = Row() + Step;
+    if (Redraw() && Next >= 0 && Next < Rows()) EditCell(Next, Col());
+}
+
+// In lists of rows Home and End mean the first and the last row.
+QModelIndex FlexGrid::moveCursor(CursorAction Action, Qt::KeyboardModifiers Modifiers) {
+    const bool Far = Action == MoveHome || Action == MoveEnd;
+    if (!Far || Rows() == 0 || !Redraw()) return QTableView::moveCursor(Action, Modifiers);
+    const QModelIndex First = QTableView::moveCursor(MoveHome, Qt::ControlModifier);
+    const int Column = currentIndex().isValid() ? currentIndex().column() : First.column();
+    return mModel->index(Action == MoveHome ? 0 : Rows() - 1, Column);
+}
+
+// Presses the box or the button of a cell; false when it has none.
+bool FlexGrid::PressCell(const QModelIndex& Index) {
+    const FlexKind Kind = Index.isValid() ? Column(Index.column()).Kind : FlexKind::Text;
+    if (Kind == FlexKind::Button) Q_EMIT CellButtonClicked(Index.row(), Index.column());
+    if (Kind == FlexKind::Check && MayEdit(Index)) ToggleCheck(Index.row(), Index.column());
+    if (Kind == FlexKind::List && EditCell(Index.row(), Index.column()))
+        static_cast<QComboBox*>(mDelegate->Editor())->showPopup();
+    return Kind == FlexKind::Button || Kind == FlexKind::Check || Kind == FlexKind::List;
+}
+
+void FlexGrid::ToggleCheck(int Row, int Col) {
+    SetTextMatrix(Row, Col, Checked(Row, Col) ? QStringLiteral("False") : QStringLiteral("True"));
+    Q_EMIT AfterEdit(Row, Col);
+}
+
+// Return edits the cell, or presses it, or reports the row.
+void FlexGrid::EnterPressed() {
+    const QModelIndex Cell = currentIndex();
+    if (!Cell.isValid() || edit(Cell, AllEditTriggers, nullptr)) return;
+    const FlexKind Kind = Column(Cell.column()).Kind;
+    if (Kind == FlexKind::List || !PressCell(Cell)) Q_EMIT RowActivated(Cell.row());
+}
+
+// True for the keys that mean something of our own here.
+bool FlexGrid::KeyHandled(const QKeyEvent& Event) {
+    const auto Modifiers = Event.modifiers() & ~Qt::KeypadModifier;
+    const int Key = Event.key();
+    if (Modifiers != Qt::NoModifier || IsEditing()) return false;
+    if (Key == Qt::Key_Space) return PressCell(currentIndex());
+    const bool Enter = Key == Qt::Key_Return || Key == Qt::Key_Enter;
+    if (Enter) EnterPressed();
+    if (Key == Qt::Key_Delete) Q_EMIT DeletePressed();
+    return Enter || Key == Qt::Key_Delete;
+}
+
+void FlexGrid::keyPressEvent(QKeyEvent* Event) {
+    if (KeyHandled(*Event))
+        Event->accept();
+    else
+        QTableView::keyPressEvent(Event);
+}
+
+QModelIndex FlexGrid::NoteMouse(const QMouseEvent& Event) {
+    const QModelIndex Under = indexAt(Event.position().toPoint());
+    mMouseRow = Under.row();
+    mMouseCol = Under.column();
+    return Under;
+}
+
+void FlexGrid::mousePressEvent(QMouseEvent* Event) {
+    mPressed = NoteMouse(*Event);
+    QTableView::mousePressEvent(Event);
+}
+
+void FlexGrid::mouseMoveEvent(QMouseEvent* Event) {
+    NoteMouse(*Event);
+    QTableView::mouseMoveEvent(Event);
+}
+
+void FlexGrid::mouseReleaseEvent(QMouseEvent* Event) {
+    QTableView::mouseReleaseEvent(Event);
+    const QModelIndex Under = indexAt(Event->position().toPoint());
+    if (Event->button() != Qt::LeftButton || !Under.isValid() || Under != mPressed) return;
+    QStyleOptionViewItem Option;
+    initViewItemOption(&Option);
+    Option.rect = visualRect(Under);
+    if (mDelegate->HotSpot(Option, Under.column()).contains(Event->position().toPoint()))
+        PressCell(Under);
+}
+
+void FlexGrid::mouseDoubleClickEvent(QMouseEvent* Event) {
+    const QModelIndex Under = NoteMouse(*Event);
+    mPressed = Under;
+    QTableView::mouseDoubleClickEvent(Event);
+    const bool Reported = Event->button() == Qt::LeftButton && Under.isValid() && !IsEditing() &&
+                          Column(Under.column()).Kind != FlexKind::Check;
+    if (Reported) Q_EMIT CellDblClicked(Under.row(), Under.column());
+}
+
+void FlexGrid::paintEvent(QPaintEvent* Event) {
+    QTableView::paintEvent(Event);
+    if (Rows() > 0 || mEmptyText.isEmpty()) return;
+    QPainter Painter(viewport());
+    Painter.setPen(palette().color(QPalette::PlaceholderText));
+    const int Margin = fontMetrics().height();
+    Painter.drawText(viewport()->rect().adjusted(Margin, Margin, -Margin, -Margin),
+                     Qt::AlignCenter | Qt::TextWordWrap, mEmptyText);
+}
+
+void FlexGrid::changeEvent(QEvent* Event) {
+    QTableView::changeEvent(Event);
+    if (Event->type() == QEvent::FontChange || Event->type() == QEvent::StyleChange) FitAll();
+}
+
+}  // namespace neb

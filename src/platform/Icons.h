@@ -1,0 +1,15 @@
+// The icons of tool bars and buttons: the desktop's own where it has them, else the program's,
+// drawn for light or for dark surroundings.
+#pragma once
+
+#include <QIcon>
+#include <QPalette>
+#include <QString>
+
+namespace neb {
+
+// Null when neither the desktop nor the program has an icon of this name ("import-directory").
+QIcon ThemeIcon(const QString& IconName);
+QIcon ThemeIcon(const QString& IconName, const QPalette& Palette);
+
+}  // namespace neb

@@ -1,0 +1,40 @@
+#include "platform/RowSet.h"
+
+#include <algorithm>
+
+namespace neb {
+
+bool RowSet::Holds(int Row) const {
+    return std::binary_search(mRows.begin(), mRows.end(), Row);
+}
+
+void RowSet::Assign(std::vector<int> Rows) {
+    std::sort(Rows.begin(), Rows.end());
+    Rows.erase(std::unique(Rows.begin(), Rows.end()), Rows.end());
+    mRows = std::move(Rows);
+}
+
+void RowSet::Add(int Row) {
+    const auto Place = std::lower_bound(mRows.begin(), mRows.end(), Row);
+    if (Place == mRows.end() || *Place != Row) mRows.insert(Place, Row);
+}
+
+void RowSet::RowsInserted(int At, int Count) {
+    for (auto It = std::lower_bound(mRows.begin(), mRows.end(), At); It != mRows.end(); ++It)
+        *It += Count;
+}
+
+void RowSet::RowsRemoved(int At, int Count) {
+    const auto First = std::lower_bound(mRows.begin(), mRows.end(), At);
+    const auto Last = std::lower_bound(First, mRows.end(), At + Count);
+    for (auto It = mRows.erase(First, Last); It != mRows.end(); ++It) *It -= Count;
+}
+
+void RowSet::RowMoved(int From, int To) {
+    const bool Held = Holds(From);
+    RowsRemoved(From, 1);
+    RowsInserted(To, 1);
+    if (Held) Add(To);
+}
+
+}  // namespace neb

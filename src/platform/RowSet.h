@@ -1,0 +1,25 @@
+// A set of row numbers that follows its rows when others come, go or move. FlexGrid keeps the
+// selection in one while its view is not told of changes.
+#pragma once
+
+#include <vector>
+
+namespace neb {
+
+class RowSet {
+  public:
+    const std::vector<int>& Ascending() const { return mRows; }
+    bool Holds(int Row) const;
+    void Assign(std::vector<int> Rows);  // in any order, twice the same allowed
+    void Add(int Row);
+    void Clear() { mRows.clear(); }
+
+    void RowsInserted(int At, int Count);
+    void RowsRemoved(int At, int Count);
+    void RowMoved(int From, int To);
+
+  private:
+    std::vector<int> mRows;
+};
+
+}  // namespace neb
