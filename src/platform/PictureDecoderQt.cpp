@@ -1,0 +1,55 @@
+// PNG, BMP, plain TIFF and WBMP, and with the extra formats GIF and WebP, by Qt's readers.
+#include <QBuffer>
+#include <QColorSpace>
+#include <QImageReader>
+
+#include "platform/PictureColour.h"
+#include "platform/PictureFaults.h"
+#include "platform/PictureFormats.h"
+#include "platform/TiffTags.h"
+
+namespace neb {
+namespace {
+
+// The reader's own limit is off: ours is checked before.
+void LiftReaderLimit() {
+    static const bool Done = (QImageReader::setAllocationLimit(0), true);
+    Q_UNUSED(Done);
+}
+
+// A pixel as the reader has it, and as a picture for the screen besides it unless one can become
+// the other in place.
+qint64 BytesNeeded(const QImageReader& Reader, const PictureSource& Source) {
+    const QPixelFormat Format = QImage::toPixelFormat(Reader.imageFormat());
+    const int Own = Reader.imageFormat() == QImage::Format_Invalid ? 4 : Format.bitsPerPixel() / 8;
+    const bool InPlace = Own == 4;
+    return PixelCount(Reader.size()) * (InPlace ? 4 : Own + 4) + Source.Bytes.size();
+}
+
+int OrientationOf(const PictureSource& Source) {
+    const ByteView Bytes(Source.Bytes);
+    return LooksLikePng(Bytes) ? TiffTags(PngExif(Bytes)).Orientation() : 1;
+}
+
+}  // namespace
+
+DecodedPicture DecodeByQt(const PictureSource& Source) {
+    LiftReaderLimit();
+    CheckIsWhole(Source);
+    QBuffer Buffer(const_cast<QByteArray*>(&Source.Bytes));
+    Buffer.open(QIODevice::ReadOnly);
+    QImageReader Reader(&Buffer, Source.Format);
+    Reader.setAutoTransform(true);
+    const QSize Stored = Reader.size();
+    if (!Stored.isValid() || Stored.isEmpty()) ThrowDamaged();
+    const DecodeBudget Budget(Stored, BytesNeeded(Reader, Source));
+    QImage Picture = Reader.read();
+    if (Picture.isNull()) ThrowDamaged();
+    const QByteArray Profile = Picture.colorSpace().iccProfile();
+    Picture = ToScreenColours(std::move(Picture), Profile);
+    Picture = Upright(Picture, OrientationOf(Source));
+    const QSize Full = Picture.size();
+    return {std::move(Picture), Full};
+}
+
+}  // namespace neb
