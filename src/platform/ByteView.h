@@ -11,6 +11,7 @@ namespace neb {
 class ByteView {
   public:
     ByteView(QByteArrayView Bytes) : mBytes(Bytes) {}
+    ByteView(const QByteArray& Bytes) : mBytes(Bytes) {}
 
     qint64 Size() const { return mBytes.size(); }
     bool Has(qint64 At, qint64 Length) const {

@@ -88,7 +88,8 @@ qsizetype TargetAt(const QByteArray& Svg, qsizetype At) {
 QByteArray EmfToSvg(const QByteArray& Emf) {
     CheckRecords(Emf);
     const ScratchDir Scratch;
-    const QString From = Scratch.Path() + u"a.emf", To = Scratch.Path() + u"a.svg";
+    const QString From = Scratch.Path() + QStringLiteral("a.emf");
+    const QString To = Scratch.Path() + QStringLiteral("a.svg");
     WriteFile(From, Emf);
     RunConverter({QStringLiteral("-p"), QStringLiteral("-i"), From, QStringLiteral("-o"), To});
     if (!FileExists(To) || FileSize(To) >= qint64(LongestSvg)) ThrowDamaged();
@@ -97,7 +98,7 @@ QByteArray EmfToSvg(const QByteArray& Emf) {
 
 QByteArray WithoutOutsideReferences(QByteArray Svg) {
     // An entity could spell out what is looked for here.
-    if (Svg.contains("<!")) ThrowDamaged();
+    if (Svg.contains("<!DOCTYPE") || Svg.contains("<!ENTITY")) ThrowDamaged();
     constexpr QByteArrayView Word = "href";
     for (qsizetype At = 0; (At = Svg.indexOf(Word, At)) >= 0;) {
         const qsizetype Target = TargetAt(Svg, At + Word.size());

@@ -200,7 +200,11 @@ void JpegReader::ThrowIfCut() const {
 
 QImage JpegReader::Finish() {
     if (mInfo.out_color_space != JCS_CMYK) return ToScreenColours(std::move(mPicture), mProfile);
-    mPicture.invertPixels(QImage::InvertRgba);  // ink is stored as paper that is left
+    for (int Y = 0; Y < mPicture.height(); ++Y) {
+        auto* Line = reinterpret_cast<QRgb*>(mPicture.scanLine(Y));
+        // Ink is stored as the paper that is left.
+        std::for_each(Line, Line + mPicture.width(), [](QRgb& Pixel) { Pixel = ~Pixel; });
+    }
     InksToScreenColours(mPicture, mProfile);
     return std::move(mPicture);
 }

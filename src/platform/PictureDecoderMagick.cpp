@@ -1,5 +1,6 @@
-// PSD, PCD, PCX and TGA, the TIFF files with unusual colours, and with the extra formats HEIC and
-// AVIF, by Magick++.
+// TIFF, PSD, PCD, PCX and TGA, and with the extra formats HEIC and AVIF, by Magick++. It reads the
+// kinds of TIFF that Qt does not (CMYK, Lab), and reading some by Qt beside it ends in a crash:
+// the complaints of the one TIFF library that both use go to whoever asked for them last.
 #include <Magick++.h>
 
 #include "platform/PictureColour.h"
@@ -138,17 +139,6 @@ DecodedPicture DecodeByMagick(const PictureSource& Source) {
     } catch (const Magick::Exception& Reason) {
         ThrowReason(Reason);
     }
-}
-
-DecodedPicture DecodeTiff(const PictureSource& Source) {
-    constexpr quint16 BitsTag = 258, ColoursTag = 262, NumbersTag = 339;
-    const TiffTags Tags(Source.Bytes);
-    // Up to 3 are black on white, white on black, red-green-blue, palette; 6 is that of JPEG.
-    const quint32 Colours = Tags.Value(ColoursTag).value_or(0);
-    const bool Usual = Tags.Valid() && (Colours <= 3 || Colours == 6) &&
-                       Tags.Value(BitsTag).value_or(1) <= 16 &&
-                       Tags.Value(NumbersTag).value_or(1) == 1;
-    return Usual ? DecodeByQt({Source.Bytes, "tiff", Source.Needed}) : DecodeByMagick(Source);
 }
 
 }  // namespace neb

@@ -43,8 +43,7 @@ DecodedPicture DrawEmf(const QByteArray& Emf) {
                 [&](QPainter& Painter, QSize Size) { Drawing.render(&Painter, QRect({}, Size)); });
 }
 
-DecodedPicture DrawWmf(const QByteArray& Wmf) {
-    WmfPlayer Player(Wmf);
+DecodedPicture DrawWmf(const WmfPlayer& Player) {
     return Draw(Player.NaturalSize(),
                 [&](QPainter& Painter, QSize Size) { Player.Play(Painter, Size); });
 }
@@ -57,12 +56,13 @@ DecodedPicture DecodeEmf(const PictureSource& Source) {
 
 // Office programs put the whole drawing into the file a second time, as an enhanced metafile.
 DecodedPicture DecodeWmf(const PictureSource& Source) {
+    const WmfPlayer Player(Source.Bytes);
     const QByteArray Carried = CarriedEmf(Source.Bytes);
-    if (Carried.isEmpty()) return DrawWmf(Source.Bytes);
+    if (Carried.isEmpty()) return DrawWmf(Player);
     try {
         return DrawEmf(Carried);
     } catch (const Fault&) {
-        return DrawWmf(Source.Bytes);
+        return DrawWmf(Player);
     }
 }
 

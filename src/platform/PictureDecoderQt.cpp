@@ -1,4 +1,4 @@
-// PNG, BMP, plain TIFF and WBMP, and with the extra formats GIF and WebP, by Qt's readers.
+// PNG, BMP and WBMP, and with the extra formats GIF and WebP, by Qt's readers.
 #include <QBuffer>
 #include <QColorSpace>
 #include <QImageReader>
@@ -27,8 +27,18 @@ qint64 BytesNeeded(const QImageReader& Reader, const PictureSource& Source) {
 }
 
 int OrientationOf(const PictureSource& Source) {
-    const ByteView Bytes(Source.Bytes);
-    return LooksLikePng(Bytes) ? TiffTags(PngExif(Bytes)).Orientation() : 1;
+    const auto Exif = PngChunk(ByteView(Source.Bytes), "eXIf");
+    return Exif ? TiffTags(*Exif).Orientation() : 1;
+}
+
+// A bare gamma of 2.2 is how sRGB was written before there was a word for it; only an embedded
+// profile means it to the letter.
+QByteArray ProfileOf(const QImage& Picture, const PictureSource& Source) {
+    QColorSpace Space = Picture.colorSpace();
+    const bool Bare = !PngChunk(ByteView(Source.Bytes), "iCCP");
+    if (Bare && std::abs(Space.gamma() - 2.2F) < 0.02F)
+        Space.setTransferFunction(QColorSpace::TransferFunction::SRgb);
+    return Space.iccProfile();
 }
 
 }  // namespace
@@ -39,13 +49,12 @@ DecodedPicture DecodeByQt(const PictureSource& Source) {
     QBuffer Buffer(const_cast<QByteArray*>(&Source.Bytes));
     Buffer.open(QIODevice::ReadOnly);
     QImageReader Reader(&Buffer, Source.Format);
-    Reader.setAutoTransform(true);
     const QSize Stored = Reader.size();
     if (!Stored.isValid() || Stored.isEmpty()) ThrowDamaged();
     const DecodeBudget Budget(Stored, BytesNeeded(Reader, Source));
     QImage Picture = Reader.read();
     if (Picture.isNull()) ThrowDamaged();
-    const QByteArray Profile = Picture.colorSpace().iccProfile();
+    const QByteArray Profile = ProfileOf(Picture, Source);
     Picture = ToScreenColours(std::move(Picture), Profile);
     Picture = Upright(Picture, OrientationOf(Source));
     const QSize Full = Picture.size();

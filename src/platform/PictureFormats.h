@@ -16,7 +16,6 @@ struct PictureSource {
 DecodedPicture DecodeJpeg(const PictureSource& Source);
 DecodedPicture DecodeByQt(const PictureSource& Source);
 DecodedPicture DecodeByMagick(const PictureSource& Source);
-DecodedPicture DecodeTiff(const PictureSource& Source);
 DecodedPicture DecodeEmf(const PictureSource& Source);
 DecodedPicture DecodeWmf(const PictureSource& Source);
 
@@ -42,8 +41,8 @@ void CheckIsWhole(const PictureSource& Source);
 // Bytes that a whole WBMP file of this header has.
 qint64 WbmpNeeds(const ByteView& Bytes);
 
-// The EXIF block of a PNG file; empty when there is none.
-QByteArrayView PngExif(const ByteView& Bytes);
+// What the first chunk of that name in a PNG file holds; nothing when there is none or it is cut.
+std::optional<QByteArrayView> PngChunk(const ByteView& Bytes, QByteArrayView Name);
 
 // Bytes of memory that all decoding together may take. A picture's share is held while it is
 // decoded, so that several large ones wait for each other.

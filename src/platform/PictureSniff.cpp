@@ -114,10 +114,11 @@ bool LooksLikeTga(const ByteView& Bytes) {
            TgaDepthFits(Bytes);
 }
 
-QByteArrayView PngExif(const ByteView& Bytes) {
+std::optional<QByteArrayView> PngChunk(const ByteView& Bytes, QByteArrayView Name) {
     for (qint64 At = 8; Bytes.Has(At, 12); At += 12 + qint64(Bytes.U32(At, true)))
-        if (Bytes.Is(At + 4, "eXIf")) return Bytes.Part(At + 8, Bytes.U32(At, true));
-    return {};
+        if (Bytes.Is(At + 4, Name) && Bytes.Has(At + 8, Bytes.U32(At, true) + qint64(4)))
+            return Bytes.Part(At + 8, Bytes.U32(At, true));
+    return std::nullopt;
 }
 
 qint64 WbmpNeeds(const ByteView& Bytes) {

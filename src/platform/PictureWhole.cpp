@@ -2,6 +2,7 @@
 // up with black or white and say nothing.
 #include "platform/PictureFaults.h"
 #include "platform/PictureFormats.h"
+#include "platform/TiffTags.h"
 
 namespace neb {
 namespace {
@@ -104,15 +105,47 @@ bool PcxIsWhole(const ByteView& Bytes) {
     return Left < Bytes.U16(66) && At <= Bytes.Size();
 }
 
+// Classic files alone; the large ones are rare and their reader complains by itself.
+bool TiffIsWhole(const ByteView& Bytes) {
+    const TiffTags Tags(Bytes.Part(0, Bytes.Size()));
+    return !Tags.Valid() || Tags.IsWhole();
+}
+
+bool PngIsWhole(const ByteView& Bytes) {
+    return PngChunk(Bytes, "IEND").has_value();
+}
+
+// The rows of a packed picture have their lengths in front.
+qint64 PackedPsdLength(const ByteView& Bytes, qint64 At, qint64 Rows, int CountWidth) {
+    qint64 Length = Rows * CountWidth;
+    for (qint64 I = 0; I < Rows && Bytes.Has(At, CountWidth); ++I, At += CountWidth)
+        Length += CountWidth == 2 ? Bytes.U16(At, true) : Bytes.U32(At, true);
+    return Length;
+}
+
+bool PsdIsWhole(const ByteView& Bytes) {
+    constexpr int Packed = 1;
+    const bool Large = Bytes.U16(4, true) == 2;
+    qint64 At = 26;
+    At += 4 + qint64(Bytes.U32(At, true));  // palette
+    At += 4 + qint64(Bytes.U32(At, true));  // resources
+    if (Large) At += 4;                     // upper half of the length of the layers
+    At += 4 + qint64(Bytes.U32(At, true));
+    const qint64 Rows = qint64(Bytes.U16(12, true)) * Bytes.U32(14, true);
+    const qint64 RowLength = (qint64(Bytes.U32(18, true)) * Bytes.U16(22, true) + 7) / 8;
+    const bool IsPacked = Bytes.U16(At, true) == Packed;
+    return Bytes.Has(At, 2) &&
+           Bytes.Has(At + 2, IsPacked ? PackedPsdLength(Bytes, At + 2, Rows, Large ? 4 : 2)
+                                      : Rows * RowLength);
+}
+
 struct CheckRow {
     const char* Format;
     bool (*IsWhole)(const ByteView&);
 };
-constexpr CheckRow Checks[] = {{"bmp", BmpIsWhole},
-                               {"wbmp", WbmpIsWhole},
-                               {"PCD", PcdIsWhole},
-                               {"TGA", TgaIsWhole},
-                               {"PCX", PcxIsWhole}};
+constexpr CheckRow Checks[] = {{"bmp", BmpIsWhole},   {"wbmp", WbmpIsWhole}, {"png", PngIsWhole},
+                               {"TIFF", TiffIsWhole}, {"PSD", PsdIsWhole},   {"PCD", PcdIsWhole},
+                               {"TGA", TgaIsWhole},   {"PCX", PcxIsWhole}};
 
 }  // namespace
 

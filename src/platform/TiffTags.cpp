@@ -7,6 +7,9 @@ namespace {
 
 constexpr quint16 OrientationTag = 0x0112, ExifTag = 0x8769, InteropTag = 0xA005;
 constexpr int EntryLength = 12;
+constexpr int LongestType = 12;
+// Bytes a value, by the number of the type.
+constexpr int TypeWidths[LongestType + 1] = {1, 1, 1, 2, 4, 8, 1, 1, 2, 4, 8, 4, 8};
 
 // Turns are clockwise, after the mirroring from left to right.
 struct Turn {
@@ -32,14 +35,41 @@ std::optional<qint64> TiffTags::EntryIn(quint32 Directory, quint16 Tag) const {
     return std::nullopt;
 }
 
+TiffTags::Values TiffTags::ValuesOf(qint64 Entry) const {
+    const int Type = std::min<int>(mBytes.U16(Entry + 2, mBig), LongestType);
+    const quint32 Count = mBytes.U32(Entry + 4, mBig);
+    const bool Inside = qint64(Count) * TypeWidths[Type] <= 4;
+    return {Inside ? Entry + 8 : mBytes.U32(Entry + 8, mBig), Count, TypeWidths[Type]};
+}
+
+quint32 TiffTags::ValueAt(const Values& All, quint32 Index) const {
+    const qint64 At = All.At + qint64(Index) * All.Width;
+    return All.Width == 2 ? mBytes.U16(At, mBig) : mBytes.U32(At, mBig);
+}
+
 std::optional<quint32> TiffTags::ValueIn(quint32 Directory, quint16 Tag) const {
     const auto Entry = EntryIn(Directory, Tag);
-    if (!Entry) return std::nullopt;
-    const bool Short = mBytes.U16(*Entry + 2, mBig) == 3;
-    const quint32 Count = mBytes.U32(*Entry + 4, mBig);
-    const bool Inside = Count <= (Short ? 2U : 1U);
-    const qint64 At = Inside || !Short ? *Entry + 8 : mBytes.U32(*Entry + 8, mBig);
-    return Short ? mBytes.U16(At, mBig) : mBytes.U32(At, mBig);
+    return Entry ? std::optional(ValueAt(ValuesOf(*Entry), 0)) : std::nullopt;
+}
+
+bool TiffTags::PiecesAreInside(quint16 PlaceTag, quint16 LengthTag) const {
+    const auto Places = EntryIn(mFirst, PlaceTag), Lengths = EntryIn(mFirst, LengthTag);
+    if (!Places || !Lengths) return true;
+    const Values Place = ValuesOf(*Places), Length = ValuesOf(*Lengths);
+    for (quint32 I = 0; I < std::min(Place.Count, Length.Count); ++I)
+        if (!mBytes.Has(ValueAt(Place, I), ValueAt(Length, I))) return false;
+    return true;
+}
+
+bool TiffTags::IsWhole() const {
+    constexpr quint16 Strips = 273, StripLengths = 279, Tiles = 324, TileLengths = 325;
+    const int Count = mBytes.U16(mFirst, mBig);
+    if (!mBytes.Has(mFirst, 2 + qint64(Count) * EntryLength)) return false;
+    for (qint64 I = 0; I < Count; ++I) {
+        const Values All = ValuesOf(qint64(mFirst) + 2 + I * EntryLength);
+        if (!mBytes.Has(All.At, qint64(All.Count) * All.Width)) return false;
+    }
+    return PiecesAreInside(Strips, StripLengths) && PiecesAreInside(Tiles, TileLengths);
 }
 
 std::optional<quint32> TiffTags::ValueBehind(quint16 PointerTag, quint16 Tag) const {

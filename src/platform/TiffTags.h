@@ -22,8 +22,18 @@ class TiffTags {
     int Orientation() const;
     // Cameras that shoot in Adobe RGB say so by this mark and embed no profile.
     bool IsAdobeRgb() const;
+    // All values of the first directory and all strips or tiles of its picture are in the file.
+    bool IsWhole() const;
 
   private:
+    struct Values {
+        qint64 At;
+        quint32 Count;
+        int Width;  // bytes a value
+    };
+    Values ValuesOf(qint64 Entry) const;
+    quint32 ValueAt(const Values& All, quint32 Index) const;
+    bool PiecesAreInside(quint16 PlaceTag, quint16 LengthTag) const;
     std::optional<qint64> EntryIn(quint32 Directory, quint16 Tag) const;
     std::optional<quint32> ValueIn(quint32 Directory, quint16 Tag) const;
 

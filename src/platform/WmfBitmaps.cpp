@@ -60,6 +60,9 @@ void DrawBitmap(WmfCanvas& Canvas, const Transfer& How, QImage Bitmap) {
         if (Down) From.moveTop(Bitmap.height() - From.y() - From.height());
     }
     Canvas.Mix(OperationFor(SourceRules, How.Rule));
+    // Enlarged pixels stay squares, as the programs that wrote such files showed them.
+    Canvas.Painter.setRenderHint(QPainter::SmoothPixmapTransform,
+                                 std::abs(To.width()) < std::abs(From.width()));
     Canvas.Painter.drawImage(To.normalized(), Bitmap, QRectF(From).normalized());
 }
 

@@ -4,6 +4,7 @@
 
 #include <QFont>
 #include <QPainter>
+#include <QPainterPath>
 #include <span>
 #include <variant>
 #include <vector>
