@@ -2,7 +2,7 @@
 
 add_library(neb_flags INTERFACE)
 target_compile_options(neb_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor
-                                           -Wold-style-cast -Werror)
+                                           -Wold-style-cast -Wno-missing-field-initializers -Werror)
 target_compile_definitions(neb_flags INTERFACE QT_NO_KEYWORDS QT_NO_CAST_TO_ASCII
                                                QT_DISABLE_DEPRECATED_BEFORE=0x060000)
 target_include_directories(neb_flags INTERFACE ${PROJECT_SOURCE_DIR}/src)

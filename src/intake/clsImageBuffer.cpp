@@ -14,7 +14,6 @@
 namespace neb {
 namespace {
 
-constexpr int ThumbnailSide = 72;    // pixels
 constexpr double Overshoot = 1.005;  // of the painted picture over the box, clipped
 constexpr int Passes = 2;
 
@@ -38,7 +37,7 @@ QImage PaintThumbnail(const QString& FileName) {
     const QSize Inside(static_cast<int>(std::lround(Source.width() / Overshoot)),
                        static_cast<int>(std::lround(Source.height() / Overshoot)));
     return Source.copy(QRect({}, Inside.expandedTo({1, 1})))
-        .scaled(ThumbnailSide, ThumbnailSide, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        .scaled(ThumbnailSize, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
 std::int32_t KeyIn(const FlexGrid& Grid, int Row, int Col) {
@@ -60,9 +59,9 @@ int clsImageBuffer::FindSlide(std::int32_t SlideID) const {
 void clsImageBuffer::SetKeys(std::int32_t AlbumID, const clsNEBSlide& Slide) {
     BufferGrid->SetTextMatrix(mRow, ColText, Slide.SlideText);
     BufferGrid->SetTextMatrix(mRow, ColSlideID, QString::number(Slide.SlideID));
-    BufferGrid->SetCellData(mRow, ColSlideID, Slide.SlideID);
+    BufferGrid->SetCellData(mRow, ColSlideID, double(Slide.SlideID));
     BufferGrid->SetTextMatrix(mRow, ColAlbumID, QString::number(AlbumID));
-    BufferGrid->SetCellData(mRow, ColAlbumID, AlbumID);
+    BufferGrid->SetCellData(mRow, ColAlbumID, double(AlbumID));
 }
 
 void clsImageBuffer::AddSlide(std::int32_t AlbumID, const clsNEBSlide& Slide, const QString& Path) {
