@@ -33,6 +33,27 @@ QByteArray ByQt(const QImage& Image, const QString& Format) {
     return Buffer.data();
 }
 
+// Seven bits a byte, the highest first; all but the last byte are marked.
+void PutNumber(QByteArray& Bytes, int Number) {
+    for (int Shift = 21; Shift > 0; Shift -= 7)
+        if (Number >> Shift) Bytes.append(static_cast<char>(0x80 | (Number >> Shift & 0x7f)));
+    Bytes.append(static_cast<char>(Number & 0x7f));
+}
+
+// By hand, since the writer at hand gets widths and heights of whole multiples of 128 wrong.
+QByteArray AsWbmp(const QImage& Image) {
+    const QImage Mono = Image.convertToFormat(QImage::Format_Mono);
+    const bool WhiteFirst = Mono.colorCount() > 0 && qGray(Mono.color(0)) > 127;
+    QByteArray Bytes(2, '\0');
+    PutNumber(Bytes, Mono.width());
+    PutNumber(Bytes, Mono.height());
+    for (int Row = 0; Row < Mono.height(); ++Row)
+        for (int Byte = 0; Byte < (Mono.width() + 7) / 8; ++Byte)
+            Bytes.append(
+                static_cast<char>(Mono.constScanLine(Row)[Byte] ^ (WhiteFirst ? 0xff : 0)));
+    return Bytes;
+}
+
 QByteArray ByMagick(const QImage& Image, const QString& Format) {
     const QImage Plain = Image.convertToFormat(QImage::Format_RGB888);
     QByteArray Pixels;
@@ -44,6 +65,7 @@ QByteArray ByMagick(const QImage& Image, const QString& Format) {
                               Pixels.constData());
         // The TGA writer stores the first line first but says otherwise unless told.
         Picture.orientation(Magick::TopLeftOrientation);
+        Picture.depth(8);
         Picture.compressType(Magick::RLECompression);
         Picture.magick(Format.toUpper().toStdString());
         Magick::Blob Blob;
@@ -63,6 +85,7 @@ void InitEncoders() {
 
 QByteArray Encode(const QImage& Image, const QString& Format, Turned Stored) {
     if (Format == u"tga" || Format == u"pcx" || Format == u"psd") return ByMagick(Image, Format);
+    if (Format == u"wbmp") return AsWbmp(Image);
     if (Stored == Turned::No) return ByQt(Image, Format);
     return WithQuarterTurn(ByQt(Image.transformed(QTransform().rotate(-90)), Format));
 }

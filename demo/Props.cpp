@@ -42,8 +42,10 @@ QPainterPath FirRow(float From, float To, float Gap, float High,
     QPainterPath Path;
     Path.setFillRule(Qt::WindingFill);
     for (float X = From; X < To; X += Gap * Chances.Range(0.5F, 1.6F)) {
-        const float Tall = High * (0.45F + 0.75F * Square(Chances.Next()));
-        Path.addPath(Fir(X, Ground(X) + High * 0.06F, Tall, Chances));
+        const float Stand = Noise(X * 0.55F / High + 9, 2, 17);
+        if (Stand < -0.30F) continue;
+        const float Tall = High * (0.40F + 0.25F * Stand + 0.70F * Square(Chances.Next()));
+        Path.addPath(Fir(X, Ground(X) + Tall * 0.10F, Tall, Chances));
     }
     return Path;
 }
@@ -87,20 +89,20 @@ void Disc(QPainter& Painter, float X, float Y, float Rx, float Ry) {
 
 Rgb Stars(float X, float Y, float Density, std::uint32_t Seed) {
     Rgb Sum;
-    constexpr float Scales[] = {60, 110, 190};
+    constexpr float Scales[] = {26, 55, 110, 190};
     for (const float Scale : Scales) {
-        const float Px = X * Scale, Py = Y * Scale;
+        const float Px = X * Scale + 0.4F * Y * Scale, Py = Y * Scale;
         const int Ix = static_cast<int>(std::floor(Px)), Iy = static_cast<int>(std::floor(Py));
         ++Seed;
         if (Chance(Ix, Iy, Seed) > Density) continue;
-        const float Cx = 0.25F + 0.5F * Chance(Ix, Iy, Seed + 50);
-        const float Cy = 0.25F + 0.5F * Chance(Ix, Iy, Seed + 51);
-        const float Off =
-            std::hypot(Px - static_cast<float>(Ix) - Cx, Py - static_cast<float>(Iy) - Cy) / Scale;
-        const float Bright = std::pow(Chance(Ix, Iy, Seed + 52), 6.0F);
-        const float Size = 0.0007F + 0.0011F * Bright;
-        const Rgb Tint = Mix(Hex(0xbcd2ff), Hex(0xffe2c0), Chance(Ix, Iy, Seed + 53));
-        Sum = Sum + Tint * (Bell(Off, Size) * (0.35F + 1.2F * Bright));
+        const float Cx = 0.15F + 0.7F * Chance(Ix, Iy, Seed + 50);
+        const float Cy = 0.15F + 0.7F * Chance(Ix, Iy, Seed + 51);
+        const float Dx = Px - static_cast<float>(Ix) - Cx, Dy = Py - static_cast<float>(Iy) - Cy;
+        const float Off = std::hypot(Dx - 0.4F * Dy, Dy) / Scale;
+        const float Bright = std::pow(Chance(Ix, Iy, Seed + 52), 5.0F) * 60 / (Scale + 34);
+        const float Size = 0.0006F + 0.0010F * Bright;
+        const Rgb Tint = Mix(Hex(0xa8c6ff), Hex(0xffdcb0), Chance(Ix, Iy, Seed + 53));
+        Sum = Sum + Tint * (Bell(Off, Size) * (0.22F + 1.5F * Bright));
     }
     return Sum;
 }

@@ -10,7 +10,7 @@ namespace {
 float SlopeLight(const Range& Hills, float X, float Down, float LightX) {
     const float Scale = Hills.Often * 2.6F;
     const float Bend = 0.25F * Fbm(X * Scale, Down * Scale * 1.2F, 2, Hills.Seed + 9);
-    const float Side = X > LightX ? -0.03F : 0.03F;
+    const float Side = 0.03F * std::clamp((LightX - X) * 6, -1.0F, 1.0F);
     const float Px = X * Scale + Bend, Py = Down * Scale * 0.8F + 3;
     return Ridged(Px + Side, Py, 4, Hills.Seed + 5) - Ridged(Px - Side, Py, 4, Hills.Seed + 5);
 }

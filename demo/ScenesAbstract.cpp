@@ -69,7 +69,8 @@ struct GlassRing {
     Rgb First, Second, Third;
 };
 constexpr GlassRing GlassRings[] = {
-    {0.00F, 0.075F, 1, 0, Hex(0xffd24a), Hex(0xffb030), Hex(0xfff0a0)},
+    {0.00F, 0.028F, 1, 0, Hex(0xfff0b0), Hex(0xfff0b0), Hex(0xfff0b0)},
+    {0.028F, 0.075F, 6, 0, Hex(0xf2b23c), Hex(0xd86a28), Hex(0xffd860)},
     {0.075F, 0.185F, 12, 0, Hex(0xc01f2c), Hex(0x1d4fa8), Hex(0xf2a52c)},
     {0.185F, 0.315F, 12, 0.5F, Hex(0x1b3f9c), Hex(0x2f86c8), Hex(0x7a2a88)},
     {0.315F, 0.395F, 24, 0, Hex(0xd8342c), Hex(0x1c7a54), Hex(0xf6c84a)},
@@ -89,7 +90,7 @@ Rgb GlassAt(const GlassRing& Ring, float Out, float Angle, float Px, float Py, f
         std::min({(0.5F - std::fabs(Across)) * Width, Ring.To - Out, Out - Ring.From});
     *Lead = Ring.Parts > 1 ? Border : Ring.To - Out;
     const Cell Piece = Worley(std::fabs(Px1) * 26 + Ring.Parts, Py1 * 26, 431);
-    *Lead = std::min(*Lead, Piece.Edge / 26 * 1.6F);
+    if (Half > 0.03F) *Lead = std::min(*Lead, Piece.Edge / 26 * 1.6F);
     Rgb C = static_cast<int>(Index) % 2 ? Ring.First : Ring.Second;
     C = Mix(C, Ring.Third, static_cast<float>(Piece.Id >> 24) / 255 * 0.75F);
     if (Rosette) {

@@ -12,14 +12,15 @@ struct Drop {
 };
 
 // Drops of many sizes that do not touch, the large ones first.
-std::vector<Drop> Scatter(float Aspect, int Tries, float Largest, std::uint32_t Seed) {
+std::vector<Drop> Scatter(float Aspect, int Tries, float Largest, float Falling,
+                          std::uint32_t Seed) {
     Dice Chances(Seed);
     std::vector<Drop> Drops;
     for (int I = 0; I < Tries; ++I) {
         const float Share = 1 - static_cast<float>(I) / static_cast<float>(Tries);
         const Drop New = {
             Chances.Range(-0.05F, Aspect + 0.05F), Chances.Range(-0.05F, 1.05F),
-            Largest * (0.05F + 0.95F * std::pow(Share, 9.0F)) * Chances.Range(0.6F, 1.1F)};
+            Largest * (0.05F + 0.95F * std::pow(Share, Falling)) * Chances.Range(0.6F, 1.1F)};
         const bool Free = std::none_of(Drops.begin(), Drops.end(), [&](const Drop& D) {
             return std::hypot(D.X - New.X, D.Y - New.Y) < (D.Radius + New.Radius) * 1.12F;
         });
@@ -28,18 +29,24 @@ std::vector<Drop> Scatter(float Aspect, int Tries, float Largest, std::uint32_t 
     return Drops;
 }
 
+struct Pane {
+    float Wide;    // how far round a drop sees
+    float Shadow;  // how dark it lies on what is below
+    float Gleam;   // the light it mirrors
+};
+
 // A drop is a lens: it shows what lies behind it upside down, dark at the rim towards the
 // light and bright on the far side.
-Rgb DropAt(const Picture& Behind, const Drop& D, float X, float Y, float Wide, Rgb C) {
+Rgb DropAt(const Picture& Behind, const Drop& D, float X, float Y, Pane Glass, Rgb C) {
     const float Dx = (X - D.X) / D.Radius, Dy = (Y - D.Y) / D.Radius, Out = std::hypot(Dx, Dy);
     if (Out > 1.0F + Behind.Unit() / D.Radius) return C;
-    const float Bulge = 0.35F + Out * Out;
-    Rgb Seen = Behind.Sample(D.X - Dx * Wide * Bulge, D.Y - Dy * Wide * Bulge);
+    const float Bulge = 0.35F + Out * Out, Reach = Glass.Wide + D.Radius, Gleam = Glass.Gleam;
+    Rgb Seen = Behind.Sample(D.X - Dx * Reach * Bulge, D.Y - Dy * Reach * Bulge);
     const float Across = (Dx + Dy) * 0.7071F;
     Seen = Seen * (1.02F + 0.62F * Across * Out - 0.35F * Square(Square(Out)));
     Seen = Seen + Hex(0xffffff) * (0.22F * Bell(Out - 0.78F, 0.17F) * Smooth(0.1F, 0.9F, Across));
-    Seen = Seen + Hex(0xffffff) * (1.3F * Bell(std::hypot(Dx + 0.40F, Dy + 0.42F), 0.13F));
-    Seen = Seen + Hex(0xffffff) * (0.35F * Bell(std::hypot(Dx + 0.18F, Dy + 0.62F), 0.06F));
+    Seen = Seen + Hex(0xffffff) * (Gleam * Bell(std::hypot(Dx + 0.40F, Dy + 0.42F), 0.13F));
+    Seen = Seen + Hex(0xffffff) * (0.27F * Gleam * Bell(std::hypot(Dx + 0.18F, Dy + 0.62F), 0.06F));
     return Mix(C, Seen, Clamp01((1 - Out) * D.Radius / Behind.Unit() + 0.5F));
 }
 
@@ -58,7 +65,7 @@ void ForDisc(Picture& Target, float X, float Y, float Radius, F Colour) {
         }
 }
 
-void PaintDrops(Picture& Target, const std::vector<Drop>& Drops, float Wide, float Shadow) {
+void PaintDrops(Picture& Target, const std::vector<Drop>& Drops, Pane Glass) {
     const Picture Behind = Target;
     for (const Drop& D : Drops) {
         const float Reach = D.Radius * 1.5F, Off = D.Radius * 0.22F;
@@ -66,13 +73,13 @@ void PaintDrops(Picture& Target, const std::vector<Drop>& Drops, float Wide, flo
             const float Out = std::hypot(X - D.X - Off, Y - D.Y - Off) / D.Radius;
             const float Hot =
                 Bell(std::hypot(X - D.X - Off * 3.6F, Y - D.Y - Off * 3.6F), D.Radius * 0.3F);
-            return C * (1 - Shadow * Smooth(1.3F, 0.7F, Out)) + C * (Shadow * 1.4F * Hot);
+            return C * (1 - Glass.Shadow * Smooth(1.3F, 0.7F, Out)) +
+                   C * (Glass.Shadow * 1.4F * Hot);
         });
     }
     for (const Drop& D : Drops)
-        ForDisc(Target, D.X, D.Y, D.Radius, [&](float X, float Y, Rgb C) {
-            return DropAt(Behind, D, X, Y, Wide + D.Radius, C);
-        });
+        ForDisc(Target, D.X, D.Y, D.Radius,
+                [&](float X, float Y, Rgb C) { return DropAt(Behind, D, X, Y, Glass, C); });
 }
 
 // One leaf that fills the picture: a midrib from corner to corner, side veins, fine cells.
@@ -87,7 +94,7 @@ Rgb LeafAt(float X, float Y) {
     const Cell Fine = Worley(X * 26, Y * 26, 401);
     const float Net = Smooth(0.10F, 0.0F, Fine.Edge);
     const float Swell = std::cos((Part - 0.1F) * 1.5F);
-    const float Light = 0.50F + 0.34F * Swell + 0.18F * Fbm(X * 3, Y * 3, 3, 402) -
+    const float Light = 0.50F + 0.22F * Swell + 0.18F * Fbm(X * 3, Y * 3, 3, 402) -
                         0.35F * Smooth(0.1F, 0.9F, std::fabs(Bend)) +
                         0.22F * (1 - X * 0.5F - Y * 0.5F);
     Rgb C = Mix(Hex(0x0d3a16), Hex(0x5cb02c), Clamp01(Light));
@@ -110,7 +117,7 @@ QImage PaintDew(QSize Size) {
         return Mix(C, Sharp.Sample(X, Y),
                    Smooth(0.42F, 0.12F, std::fabs(Y - 0.52F + 0.15F * (X - 0.5F))));
     });
-    PaintDrops(Target, Scatter(Target.Aspect(), 900, 0.125F, 403), 0.20F, 0.55F);
+    PaintDrops(Target, Scatter(Target.Aspect(), 1100, 0.125F, 9, 403), {0.20F, 0.55F, 1.3F});
     Target.Bloom(0.85F, 0.02F, 0.3F);
     return Target.Develop(0.01F, 0.4F);
 }
@@ -140,12 +147,12 @@ void PaintBokeh(QPainter& P, float X, float Y, float Radius, Rgb Colour, float A
 
 void PaintStreet(QPainter& P, float Aspect) {
     Dice Chances(413);
-    for (int I = 0; I < 120; ++I) {
+    for (int I = 0; I < 130; ++I) {
         const float X = Chances.Range(0, Aspect), Spread = Chances.Range(-1, 1);
         const float Y = 0.56F + 0.40F * Spread * std::fabs(Spread);
         const float R = Chances.Range(0.018F, 0.040F) + 0.045F * Square(Chances.Next());
         const Rgb C = StreetLights[Chances.Below(8)];
-        PaintBokeh(P, X, Y, R, C, Chances.Range(0.22F, 0.75F));
+        PaintBokeh(P, X, Y, R, C, Chances.Range(0.14F, 0.46F));
     }
 }
 
@@ -171,9 +178,9 @@ QImage PaintRainyWindow(QSize Size) {
     Target.Shade([](float X, float Y, Rgb) { return StreetAt(X, Y); });
     Target.Add([&](QPainter& P) { PaintStreet(P, Aspect); });
     Target.Blur(0.006F);
-    std::vector<Drop> Drops = Scatter(Aspect, 2200, 0.042F, 416);
+    std::vector<Drop> Drops = Scatter(Aspect, 2600, 0.034F, 16, 416);
     PaintTrails(Target, Drops);
-    PaintDrops(Target, Drops, 0.30F, 0.25F);
+    PaintDrops(Target, Drops, {0.30F, 0.22F, 0.45F});
     Target.Bloom(0.8F, 0.03F, 0.3F);
     return Target.Develop(0.018F, 0.4F);
 }

@@ -22,8 +22,8 @@ Rgb WaterAt(float X, float Y, float SunX) {
                 (0.38F * Ray * Smooth(0.95F, 0.1F, Y) * Bell(X - SunX - Turn * 0.2F, 0.85F));
     const float Away = 0.08F / (Y + 0.035F);
     const float Roof = Ridged(X * 3 * (0.5F + Away), Away * 9, 4, 454);
-    C = C + Hex(0xf0fff8) * (0.55F * Smooth(0.55F, 0.95F, Roof) * Smooth(0.17F, 0.02F, Y));
-    return C + Hex(0xe8fff4) * (0.75F * Bell(std::hypot((X - SunX) * 0.7F, Y + 0.02F), 0.17F));
+    C = C + Hex(0xf0fff8) * (0.40F * Smooth(0.55F, 0.95F, Roof) * Smooth(0.17F, 0.02F, Y));
+    return C + Hex(0xe8fff4) * (0.45F * Bell(std::hypot((X - SunX) * 0.7F, Y + 0.02F), 0.15F));
 }
 
 Rgb SandAt(float X, float Y, float Line) {
@@ -59,16 +59,21 @@ void PaintCoral(QPainter& P, float X, float Y, float Long, float Turn, int Forks
 void PaintReef(QPainter& P, float X, float Y, float Wide, float High, Rgb Deep, Dice& Chances) {
     constexpr Rgb Tufts[] = {Hex(0xd85a6a), Hex(0xe88a4a), Hex(0x9a5ab8),
                              Hex(0x3f8a6a), Hex(0xd8b04a), Hex(0x4a6ab0)};
-    for (int I = 0; I < 420; ++I) {
-        const float T = static_cast<float>(I) / 420, Angle = Chances.Range(-1.57F, 1.57F);
+    for (int I = 0; I < 1500; ++I) {
+        const float T = static_cast<float>(I) / 1500, Angle = Chances.Range(-1.57F, 1.57F);
         const float Out = std::sqrt(Chances.Next()) * (1 - 0.1F * T);
         const float Px = X + std::sin(Angle) * Wide * Out, Py = Y - std::cos(Angle) * High * Out;
-        const float R = Chances.Range(0.010F, 0.026F);
+        const float R = Chances.Range(0.005F, 0.014F);
         const Rgb Tuft =
-            Mix(Mix(Deep, Tufts[Chances.Below(6)], 0.25F + 0.4F * T), Hex(0x0c4a7c), 0.30F);
-        P.setBrush(ToColor(Tuft * (0.55F + 0.45F * Out)));
+            Mix(Mix(Deep,
+                    Tufts[static_cast<size_t>(std::fabs(Noise(Px * 9, Py * 9, 463)) * 9 +
+                                              Chances.Next()) %
+                          6],
+                    0.35F + 0.35F * Noise(Px * 14, Py * 14, 462)),
+                Hex(0x0c4a7c), 0.22F);
+        P.setBrush(ToColor(Tuft * (0.40F + 0.75F * Out * Out)));
         Disc(P, Px, Py, R, R);
-        P.setBrush(ToColor(Tuft * 1.3F, 0.55F));
+        P.setBrush(ToColor(Tuft * 1.5F + Hex(0x101c18), 0.5F));
         Disc(P, Px - R * 0.2F, Py - R * 0.35F, R * 0.5F, R * 0.4F);
     }
 }

@@ -1,5 +1,5 @@
 // Pictures of open ground: desert dunes, a sea of clouds, a lavender field.
-#include <QLinearGradient>
+#include <vector>
 
 #include "Props.h"
 #include "Ranges.h"
@@ -18,7 +18,7 @@ float DuneProfile(float T) {
 
 float DuneHeight(float X, float Z) {
     const float Bend =
-        0.55F * Noise(X * 0.16F, Z * 0.16F, 201) + 0.18F * Noise(X * 0.45F, Z * 0.45F, 202);
+        0.55F * Noise(X * 0.16F, Z * 0.16F, 251) + 0.18F * Noise(X * 0.45F, Z * 0.45F, 202);
     const float Along = (X * 0.62F + Z * 0.78F) * 0.17F + Bend;
     const float Second =
         (X * 0.80F - Z * 0.55F) * 0.10F + 0.4F * Noise(X * 0.1F + 5, Z * 0.1F, 203);
@@ -67,18 +67,22 @@ QImage PaintDunes(QSize Size) {
 namespace {
 
 float BillowHeight(float X, float Z) {
-    const float Wide = Fbm(X * 0.22F, Z * 0.22F, 2, 211);
-    const float Puff = 1 - std::fabs(Noise(X * 0.9F, Z * 0.9F, 212));
-    const float Small = 1 - std::fabs(Noise(X * 2.3F + 3, Z * 2.3F, 213));
-    const float Tiny = 1 - std::fabs(Noise(X * 5.5F, Z * 5.5F + 2, 214));
-    const float Mass = Smooth(-0.5F, 0.6F, Wide);
-    return 1.0F * Wide + Mass * (0.55F * Puff + 0.24F * Small + 0.10F * Tiny);
+    const float Wide = Fbm(X * 0.20F, Z * 0.20F, 2, 211);
+    const float Bx = X + 0.25F * Noise(X * 1.3F, Z * 1.3F, 217),
+                Bz = Z + 0.25F * Noise(X * 1.3F + 9, Z * 1.3F, 218);
+    const float Puff = std::fabs(Noise(Bx * 0.62F, Bz * 0.62F, 212));
+    const float Small = std::fabs(Noise(Bx * 1.5F + 3, Bz * 1.5F, 213));
+    const float Tiny = std::fabs(Noise(Bx * 3.6F, Bz * 3.6F + 2, 214));
+    const float Fine = std::fabs(Noise(Bx * 8.1F, Bz * 8.1F + 2, 219));
+    const float Mass = Smooth(-0.5F, 0.5F, Wide);
+    return 1.0F * Wide +
+           (0.35F + 0.65F * Mass) * (0.95F * Puff + 0.42F * Small + 0.17F * Tiny + 0.06F * Fine);
 }
 
 constexpr Stop HighSky[] = {{0, Hex(0x2a5a9c)},
                             {0.22F, Hex(0x6f9bcc)},
-                            {0.38F, Hex(0xe8c4b8)},
-                            {0.45F, Hex(0xffd9a4)},
+                            {0.38F, Hex(0xe8b4a8)},
+                            {0.45F, Hex(0xffc98c)},
                             {0.5F, Hex(0xffe6b8)}};
 
 Rgb HighAir(float X, float Y, float SunX) {
@@ -86,20 +90,21 @@ Rgb HighAir(float X, float Y, float SunX) {
     const float Wisp =
         Smooth(0.05F, 0.7F, Fbm(X * 0.9F + Y, Y * 9, 6, 215)) * Smooth(0.42F, 0.2F, Y);
     Rgb C = Mix(Ramp(HighSky, Y), Hex(0xffe8dc), 0.55F * Wisp);
-    C = C + Hex(0xffb468) * (0.5F * Bell(Away, 0.42F)) + Hex(0xffe8b8) * (0.7F * Bell(Away, 0.13F));
-    return Mix(C, Hex(0xfffbe8) * 1.3F, Smooth(0.052F, 0.045F, Away));
+    C = C + Hex(0xff9a50) * (0.25F * Bell(Away, 0.42F)) +
+        Hex(0xffd890) * (0.35F * Bell(Away, 0.10F));
+    return Mix(C, Hex(0xfffbe8) * 1.3F, Smooth(0.046F, 0.043F, Away));
 }
 
 Rgb CloudAt(const Spot& Place, Rgb Sun) {
     const float Facing = Place.Nx * Sun.R + Place.Ny * Sun.G + Place.Nz * Sun.B;
-    const float Light = Clamp01(0.40F + 0.60F * Facing);
-    const float Deep = Smooth(-0.7F, 0.9F, Place.Height);
-    Rgb C = Mix(Hex(0x6476a8), Hex(0xb9a3bc), Deep);
-    C = Mix(C, Mix(Hex(0xffc89c), Hex(0xfff0da), Deep),
-            Smooth(0.30F, 0.95F, Light) * (0.35F + 0.65F * Deep));
-    const float Toward = Bell(Place.X / Place.Z - Sun.R / Sun.B, 0.5F);
-    const Rgb Haze = Mix(Hex(0xe6c3c0), Hex(0xffd9a0), Toward);
-    return Mix(C, Haze, 1 - std::exp(-Place.Z / 17));
+    const float Light = Clamp01(0.38F + 0.62F * Facing);
+    const float Deep = Smooth(-0.55F, 1.0F, Place.Height);
+    Rgb C = Mix(Hex(0x4f649c), Hex(0xa091b4), Deep);
+    C = Mix(C, Mix(Hex(0xf0a088), Hex(0xffe9cc), Deep),
+            Smooth(0.28F, 1.0F, Light) * (0.25F + 0.75F * Deep));
+    const float Toward = Bell(Place.X / Place.Z - Sun.R / Sun.B, 0.55F);
+    const Rgb Haze = Mix(Hex(0xcfa9b4), Hex(0xffc98a), Toward);
+    return Mix(C, Haze, 0.92F * (1 - std::exp(-Place.Z / 24)));
 }
 
 }  // namespace
@@ -108,7 +113,7 @@ QImage PaintClouds(QSize Size) {
     Picture Target(Size);
     const float Aspect = Target.Aspect(), SunX = Aspect * 0.68F;
     Target.Shade([&](float X, float Y, Rgb) { return HighAir(X, Y, SunX); });
-    PaintRange(Target, {0.475F, 0.18F, 1.1F, 1, Hex(0x8c8eb4), Hex(0xf4cdb8), 0.15F, 0.5F, 216},
+    PaintRange(Target, {0.45F, 0.34F, 0.9F, 1, Hex(0x7c82b0), Hex(0xf0c0a8), 0.16F, 0.7F, 216},
                SunX);
     Terrain Ground;
     Ground.Height = BillowHeight;
@@ -135,13 +140,13 @@ constexpr Stop ProvenceSky[] = {{0, Hex(0x4c5f9e)},
 
 Rgb ProvenceAir(float X, float Y, float SunX) {
     const float Away = std::hypot(X - SunX, Y - 0.36F);
-    Rgb C = Ramp(ProvenceSky, Y) + Hex(0xff9a48) * (0.35F * Bell(Away, 0.38F));
+    Rgb C = Ramp(ProvenceSky, Y) + Hex(0xff8a40) * (0.22F * Bell(Away, 0.38F));
     const float Deck = Fbm(X * 1.7F + Y * 2, Y * 9, 6, 221);
     const float Rim =
         Clamp01(0.45F + 3 * (Deck - Fbm(X * 1.7F + Y * 2 + 0.02F, Y * 9 + 0.12F, 6, 221)));
     const float Cloud = Smooth(0.0F, 0.55F, Deck) * Smooth(0.40F, 0.22F, Y);
     C = Mix(C, Mix(Hex(0x7d6a98), Hex(0xffc09a), Rim), 0.8F * Cloud);
-    C = C + Hex(0xffe0a0) * (0.6F * Bell(Away, 0.09F));
+    C = C + Hex(0xffd890) * (0.32F * Bell(Away, 0.08F));
     return Mix(C, Hex(0xfffae0) * 1.25F, Smooth(0.031F, 0.028F, Away));
 }
 
@@ -155,35 +160,88 @@ Rgb LavenderAt(float X, float Y, float PointX) {
         0.55F * Noise(Across * 5, Away * 20, 223) + 0.45F * Noise(Across * 11, Away * 46, 224);
     const float Spikes = Noise(Across * 34, Away * 70 + Row, 225);
     const float Round = std::fabs(Part) * 2 + 0.16F * Bushes * Far;
-    const float Hedge = Smooth(0.90F, 0.66F, Round);
+    const float Hedge = Smooth(1.0F, 0.80F, Round);
     const float Side = std::sqrt(std::max(0.0F, 1 - Square(std::min(1.0F, Round))));
     const float Light =
         Clamp01(0.30F + 0.45F * Side + 0.42F * Part + 0.28F * Bushes * Far + 0.24F * Spikes * Far);
     Rgb Bloom = Mix(Hex(0x2f1a58), Hex(0x7b4fb8), Smooth(0, 0.55F, Light));
     Bloom = Mix(Bloom, Hex(0xd9a4e0), Smooth(0.5F, 1.0F, Light));
     Bloom = Mix(Bloom, Hex(0x55693f), 0.6F * Smooth(0.55F, 0.9F, Round));
-    const Rgb Path = Mix(Hex(0x4a3428), Hex(0x8c6548), Clamp01(0.5F + 0.6F * Bushes));
+    const Rgb Path = Mix(Hex(0x2c1f24), Hex(0x6e4c3c), Clamp01(0.5F + 0.6F * Bushes));
     const Rgb C = Mix(Path, Bloom, Mix(0.85F, Hedge, Far));
     return Mix(C, Hex(0xe0a08c), 0.60F * Smooth(0.20F, 0.0F, Down));
 }
 
+// The crown is a heap of clouds of leaves, each lit from the side of the sun.
+void PaintCrown(QPainter& P, float X, float Y, float High, Dice& Chances) {
+    for (int I = 0; I < 26; ++I) {
+        const float Turn = Chances.Range(0, 6.2832F), Out = std::sqrt(Chances.Next());
+        const float Cx = X + std::cos(Turn) * Out * High * 0.36F,
+                    Cy = Y + std::sin(Turn) * Out * High * 0.24F;
+        const float R = High * Chances.Range(0.07F, 0.13F);
+        for (int Leaf = 0; Leaf < 90; ++Leaf) {
+            const float T = Chances.Range(0, 6.2832F), Away = std::sqrt(Chances.Next());
+            const float Dx = std::cos(T) * Away, Dy = std::sin(T) * Away * 0.75F;
+            const float Lit = Clamp01(0.22F + 0.34F * (Dx - Dy) + 0.30F * (Cx - X) / High +
+                                      Chances.Range(-0.12F, 0.16F));
+            P.setBrush(ToColor(Mix(Hex(0x1f2a1e), Hex(0xc09a4c), Lit)));
+            const float Size = High * Chances.Range(0.008F, 0.017F);
+            Disc(P, Cx + Dx * R, Cy + Dy * R, Size, Size * 0.7F);
+        }
+    }
+}
+
 void PaintLoneTree(QPainter& P, float X, float Y, float High) {
     Dice Chances(226);
-    P.fillPath(Shape({{X - High * 0.035F, Y},
-                      {X - High * 0.018F, Y - High * 0.5F},
-                      {X + High * 0.018F, Y - High * 0.5F},
-                      {X + High * 0.04F, Y}}),
-               ToColor(Hex(0x33242a)));
-    for (int I = 0; I < 700; ++I) {
-        const float Turn = Chances.Range(0, 6.2832F), Out = std::sqrt(Chances.Next());
-        const float Dx = std::cos(Turn) * Out * High * 0.40F,
-                    Dy = std::sin(Turn) * Out * High * 0.33F;
-        const float Lit =
-            Clamp01(0.35F + Dx / High * 1.1F - Dy / High * 0.8F + Chances.Range(-0.2F, 0.2F));
-        P.setBrush(ToColor(Mix(Hex(0x25301f), Hex(0xb08a42), Lit), 0.92F));
-        const float R = High * Chances.Range(0.022F, 0.05F);
-        Disc(P, X + Dx, Y - High * 0.66F + Dy, R, R * 0.8F);
+    const Rgb Bark = Hex(0x33242a);
+    P.setBrush(ToColor(Hex(0x2a1838), 0.45F));
+    Disc(P, X - High * 0.25F, Y, High * 0.45F, High * 0.025F);
+    P.fillPath(Shape({{X - High * 0.045F, Y},
+                      {X - High * 0.018F, Y - High * 0.4F},
+                      {X + High * 0.018F, Y - High * 0.4F},
+                      {X + High * 0.05F, Y}}),
+               ToColor(Bark));
+    P.setPen(QPen(ToColor(Bark), static_cast<qreal>(High) * 0.022, Qt::SolidLine, Qt::RoundCap));
+    for (const float Side : {-0.24F, -0.10F, 0.12F, 0.26F})
+        P.drawLine(QPointF(X, Y - High * 0.33F), QPointF(X + High * Side, Y - High * 0.60F));
+    P.setPen(Qt::NoPen);
+    PaintCrown(P, X, Y - High * 0.66F, High, Chances);
+}
+
+struct Spike {
+    float X, Y, Long, Light;
+};
+
+// Flower spikes on the near hedges, in the order from far to near.
+std::vector<Spike> GrowSpikes(float Aspect, float PointX) {
+    Dice Chances(229);
+    std::vector<Spike> Spikes;
+    for (int I = 0; I < 15000; ++I) {
+        const float Down = 0.10F + 0.50F * std::sqrt(Chances.Next()),
+                    Away = 0.30F / (Down + 0.012F);
+        const float Off = Chances.Range(-0.42F, 0.42F);
+        const float Row = std::floor(Chances.Range(-PointX, Aspect - PointX) * Away * 3.1F);
+        const float X = PointX + (Row + 0.5F + Off) / (Away * 3.1F);
+        const float Round = std::sqrt(1 - Square(Off * 2));
+        Spikes.push_back({X, FieldLine + Down - 0.055F * Down * Round,
+                          0.055F * Down * Chances.Range(0.7F, 1.3F),
+                          0.25F + 0.45F * Off + 0.35F * Round + Chances.Range(-0.2F, 0.25F)});
     }
+    std::sort(Spikes.begin(), Spikes.end(),
+              [](const Spike& A, const Spike& B) { return A.Y < B.Y; });
+    return Spikes;
+}
+
+void PaintSpikes(QPainter& P, float Aspect, float PointX) {
+    Dice Chances(230);
+    for (const Spike& S : GrowSpikes(Aspect, PointX)) {
+        const Rgb C = Mix(Hex(0x3c2270), Hex(0xd6a8ea), Clamp01(S.Light));
+        P.setPen(QPen(ToColor(C, 0.92F), static_cast<qreal>(S.Long) * 0.24, Qt::SolidLine,
+                      Qt::RoundCap));
+        P.drawLine(QPointF(S.X, S.Y),
+                   QPointF(S.X + S.Long * Chances.Range(-0.28F, 0.28F), S.Y - S.Long));
+    }
+    P.setPen(Qt::NoPen);
 }
 
 void PaintFarm(QPainter& P, float X, float Y, float Size) {
@@ -223,6 +281,7 @@ QImage PaintLavender(QSize Size) {
     Target.ShadeRows(FieldLine, 1,
                      [&](float X, float Y, Rgb) { return LavenderAt(X, Y, Aspect * 0.56F); });
     Target.Paint([&](QPainter& P) {
+        PaintSpikes(P, Aspect, Aspect * 0.56F);
         PaintFarm(P, Aspect * 0.50F, FieldLine + 0.006F, 0.085F);
         PaintLoneTree(P, Aspect * 0.20F, FieldLine + 0.022F, 0.24F);
     });

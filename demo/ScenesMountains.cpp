@@ -8,8 +8,8 @@
 namespace neb::demo {
 namespace {
 
-constexpr Stop DawnSky[] = {{0, Hex(0x45699c)},     {0.18F, Hex(0x7f9cc4)}, {0.33F, Hex(0xd9bcc0)},
-                            {0.44F, Hex(0xffd3a1)}, {0.52F, Hex(0xffe6bd)}, {1, Hex(0xffe6bd)}};
+constexpr Stop DawnSky[] = {{0, Hex(0x3f639a)},     {0.18F, Hex(0x7f9cc4)}, {0.33F, Hex(0xdcb4b8)},
+                            {0.44F, Hex(0xf9be8c)}, {0.52F, Hex(0xffd59c)}, {1, Hex(0xffe0b4)}};
 
 Rgb DawnAt(float X, float Y, float SunX, float SunY) {
     const float Away = std::hypot(X - SunX, Y - SunY);
@@ -17,8 +17,9 @@ Rgb DawnAt(float X, float Y, float SunX, float SunY) {
     const float Wisps = Smooth(0.05F, 0.75F, Fbm(X * 1.6F + Y * 2, Y * 11, 6, 21) + 0.12F);
     const float Band = Smooth(0.02F, 0.14F, Y) * Smooth(0.42F, 0.2F, Y);
     C = Mix(C, Mix(Hex(0xf6d3cf), Hex(0xfff0d0), Bell(Away, 0.6F)), 0.75F * Wisps * Band);
-    C = C + Hex(0xffb060) * (0.42F * Bell(Away, 0.33F)) + Hex(0xffe8b0) * (0.5F * Bell(Away, 0.1F));
-    return Mix(C, Hex(0xfffbe8) * 1.25F, Smooth(0.034F, 0.031F, Away));
+    C = C + Hex(0xff9a50) * (0.20F * Bell(Away, 0.36F)) +
+        Hex(0xffd890) * (0.30F * Bell(Away, 0.09F));
+    return Mix(C, Hex(0xfffbe8) * 1.25F, Smooth(0.036F, 0.034F, Away));
 }
 
 constexpr Range DawnRanges[] = {
@@ -46,7 +47,7 @@ QImage PaintMountains(QSize Size) {
     Target.Shade([&](float X, float Y, Rgb) { return DawnAt(X, Y, SunX, SunY); });
     for (const Range& Hills : DawnRanges) PaintRange(Target, Hills, SunX);
     DawnForest(Target, DawnRanges[5], 0.06F, Hex(0x1b2940), 61);
-    const Range Front = {0.985F, 0.10F, 0.9F, 0.2F, Hex(0x0d1524), Hex(0x0d1524), 1, 0, 567};
+    const Range Front = {0.955F, 0.10F, 0.9F, 0.2F, Hex(0x0d1524), Hex(0x0d1524), 1, 0, 567};
     PaintRange(Target, Front, SunX);
     DawnForest(Target, Front, 0.19F, Hex(0x0d1524), 62);
     Dice Chances(63);
@@ -63,11 +64,11 @@ QImage PaintMountains(QSize Size) {
 namespace {
 
 constexpr Range BalloonRanges[] = {
-    {0.66F, 0.10F, 1.5F, 0.7F, Hex(0xa3b9cf), Hex(0xf7e8d0), 0.10F, 0.12F, 601},
-    {0.71F, 0.10F, 1.3F, 0.4F, Hex(0x86a6b0), Hex(0xf3e6c8), 0.12F, 0.18F, 612},
-    {0.77F, 0.09F, 1.2F, 0.3F, Hex(0x6a9583), Hex(0xe8e0b4), 0.14F, 0.30F, 623},
-    {0.85F, 0.09F, 1.0F, 0.25F, Hex(0x4c7c55), Hex(0xc7cc8c), 0.17F, 0.35F, 634},
-    {0.95F, 0.09F, 0.9F, 0.2F, Hex(0x2f5c39), Hex(0x7f9a58), 0.25F, 0.40F, 645},
+    {0.66F, 0.16F, 1.5F, 0.85F, Hex(0xa3b9cf), Hex(0xf7e8d0), 0.10F, 0.12F, 601},
+    {0.71F, 0.14F, 1.3F, 0.6F, Hex(0x86a6b0), Hex(0xf3e6c8), 0.12F, 0.18F, 612},
+    {0.775F, 0.14F, 1.2F, 0.4F, Hex(0x6a9583), Hex(0xe8e0b4), 0.14F, 0.30F, 623},
+    {0.86F, 0.15F, 1.0F, 0.35F, Hex(0x4c7c55), Hex(0xc7cc8c), 0.17F, 0.35F, 634},
+    {0.97F, 0.17F, 0.8F, 0.3F, Hex(0x3f7040), Hex(0x8fa65c), 0.22F, 0.30F, 648},
 };
 
 constexpr Stop MorningSky[] = {
@@ -142,24 +143,22 @@ void PaintBasket(QPainter& P, const Balloon& B) {
     P.drawRoundedRect(QRectF(B.X - R * 0.11F, Top, R * 0.22F, R * 0.17F), R * 0.03F, R * 0.03F);
 }
 
-void MorningFields(Picture& Target) {
-    const Range& Front = BalloonRanges[4];
-    Dice Chances(71);
-    for (int Row = 3; Row < 5; ++Row) {
-        const Range& Hills = BalloonRanges[Row];
-        Target.Paint([&](QPainter& P) {
-            for (int I = 0; I < 130; ++I) {
-                const float X = Chances.Range(0, Target.Aspect());
-                const float Y = RidgeAt(Hills, X) + Square(Chances.Next()) * 0.05F;
-                const float R = (Row == 4 ? 0.012F : 0.006F) * Chances.Range(0.5F, 1.3F);
-                P.setBrush(ToColor(Mix(Hills.Colour, Hex(0x16301c), Chances.Range(0.3F, 0.7F))));
-                Disc(P, X, Y, R, R * 0.9F);
-                P.setBrush(ToColor(Mix(Hills.Colour, Hex(0xe8d878), 0.35F), 0.6F));
-                Disc(P, X + R * 0.25F, Y - R * 0.25F, R * 0.55F, R * 0.45F);
-            }
-        });
-        if (Row == 3) PaintRange(Target, Front, Target.Aspect());
-    }
+// Copses in the folds of a hill: dark below, catching the sun above.
+void PaintCopses(Picture& Target, const Range& Hills, float Leaf, int Count, std::uint32_t Seed) {
+    Dice Chances(Seed);
+    Target.Paint([&](QPainter& P) {
+        for (int I = 0; I < Count; ++I) {
+            const float Deep = static_cast<float>(I) / static_cast<float>(Count);
+            const float X = Chances.Range(0, Target.Aspect()), Down = 0.004F + Deep * 0.17F;
+            if (Fbm(X * 3.2F, Down * 20, 3, Seed) < 0.16F) continue;
+            const float Y = RidgeAt(Hills, X) + Down, R = Leaf * Chances.Range(0.5F, 1.2F);
+            const Rgb Tree = Mix(Hex(0x1c4426), Hills.Mist, 0.25F + 0.8F * Deep * Deep);
+            P.setBrush(ToColor(Tree));
+            Disc(P, X, Y, R, R * 1.15F);
+            P.setBrush(ToColor(Mix(Tree, Hex(0xe0dc78), 0.26F), 0.6F));
+            Disc(P, X + R * 0.28F, Y - R * 0.36F, R * 0.55F, R * 0.5F);
+        }
+    });
 }
 
 }  // namespace
@@ -175,8 +174,13 @@ QImage PaintBalloons(QSize Size) {
                 0.85F * Cloud * Smooth(0.62F, 0.3F, Y));
         return C + Hex(0xffc070) * (0.35F * Bell(Away, 0.5F));
     });
-    for (int I = 0; I < 4; ++I) PaintRange(Target, BalloonRanges[I], SunX);
-    MorningFields(Target);
+    for (int I = 0; I < 5; ++I) {
+        const Range& Hills = BalloonRanges[I];
+        PaintRange(Target, Hills, SunX);
+        if (I > 1)
+            PaintCopses(Target, Hills, 0.0016F * static_cast<float>(I - 1), 9000 - 1500 * I,
+                        70U + static_cast<std::uint32_t>(I));
+    }
     for (auto B = std::rbegin(Balloons); B != std::rend(Balloons); ++B) {
         PaintEnvelope(Target, *B);
         Target.Paint([&](QPainter& P) { PaintBasket(P, *B); });

@@ -11,14 +11,14 @@ namespace {
 constexpr float Quay = 0.66F;
 constexpr Stop TownSky[] = {{0, Hex(0x070b1e)},
                             {0.25F, Hex(0x101c3f)},
-                            {0.45F, Hex(0x29305f)},
-                            {0.60F, Hex(0x6a4673)},
-                            {0.67F, Hex(0xb0656a)}};
+                            {0.42F, Hex(0x2c3266)},
+                            {0.60F, Hex(0x8a5080)},
+                            {0.67F, Hex(0xe08468)}};
 
 Rgb TownSkyAt(float X, float Y, float MoonX, float MoonY) {
     const float Away = std::hypot(X - MoonX, Y - MoonY);
     const float Cloud = Smooth(0.0F, 0.6F, Fbm(X * 1.8F, Y * 6, 5, 101));
-    Rgb C = Ramp(TownSky, Y) + Stars(X, Y, 0.30F, 102) * Smooth(0.5F, 0.1F, Y) * (1 - Cloud);
+    Rgb C = Ramp(TownSky, Y) + Stars(X, Y, 0.22F, 102) * Smooth(0.5F, 0.1F, Y) * (1 - Cloud);
     C = C + Hex(0x5a6a9a) * (Cloud * (0.10F + 0.45F * Bell(Away, 0.25F)));
     C = C + Hex(0xb8c4e8) * (0.35F * Bell(Away, 0.12F)) +
         Hex(0x6a7ab0) * (0.20F * Bell(Away, 0.4F));
@@ -33,9 +33,9 @@ struct TownRow {
     float Pane;
     std::uint32_t Seed;
 };
-constexpr TownRow Rows[] = {{0.12F, 0.34F, 0.075F, Hex(0x2e2f5a), 0.22F, 0.0055F, 111},
-                            {0.08F, 0.30F, 0.085F, Hex(0x1d2146), 0.36F, 0.0070F, 112},
-                            {0.03F, 0.13F, 0.070F, Hex(0x0e1230), 0.42F, 0.0085F, 113}};
+constexpr TownRow Rows[] = {{0.12F, 0.36F, 0.062F, Hex(0x3a3868), 0.30F, 0.0036F, 111},
+                            {0.07F, 0.30F, 0.070F, Hex(0x22254e), 0.38F, 0.0048F, 112},
+                            {0.03F, 0.12F, 0.060F, Hex(0x0e1230), 0.50F, 0.0062F, 113}};
 
 Rgb WindowLight(Dice& Chances) {
     constexpr Rgb Lights[] = {Hex(0xffd27a), Hex(0xffbe5c), Hex(0xffe6b0), Hex(0xffc98a),
@@ -104,7 +104,7 @@ void PaintLamps(QPainter& P, float Aspect) {
 }
 
 // The water shows what stands above it, drawn out downwards and broken by ripples.
-Rgb HarbourWater(const Picture& Above, float X, float Y) {
+Rgb HarbourWater(const Picture& Above, float X, float Y, float MoonX) {
     const float Down = Y - Quay, Away = 1 / (Down + 0.04F);
     const float Wave =
         Noise(X * Away * 0.55F, Away * 6, 121) + 0.6F * Noise(X * Away * 1.7F, Away * 15, 122);
@@ -115,9 +115,11 @@ Rgb HarbourWater(const Picture& Above, float X, float Y) {
         Sum = Sum + Above.Sample(X + Wave * (0.003F + 0.03F * Down),
                                  Quay - 0.002F - std::fabs(Down * 1.05F + Spread));
     }
-    const Rgb C = Sum * (1.0F / Taps);
-    const float Dim = Mix(0.88F, 0.55F, Smooth(0, 0.34F, Down)) + 0.16F * Wave;
-    return C * Dim * Hex(0xd8e2ff) + Hex(0x050a18);
+    Rgb C = Sum * (1.35F / Taps);
+    const float Dim = Mix(0.95F, 0.62F, Smooth(0, 0.34F, Down)) + 0.22F * Wave;
+    const float Path = Bell(X - MoonX + 0.02F * Wave, 0.03F + 0.16F * Down);
+    C = C + Hex(0xd8e0ff) * (0.85F * Path * Smooth(0.05F, 0.9F, Wave));
+    return C * Dim * Hex(0xdce4ff) + Hex(0x050a18);
 }
 
 void PaintBoat(QPainter& P, float X, float Y, float Long, float Mast) {
@@ -153,7 +155,8 @@ QImage PaintHarbour(QSize Size) {
         });
     }
     Target.Paint([&](QPainter& P) { PaintLamps(P, Aspect); });
-    Target.ShadeRows(Quay, 1, [&](float X, float Y, Rgb) { return HarbourWater(Target, X, Y); });
+    Target.ShadeRows(Quay, 1,
+                     [&](float X, float Y, Rgb) { return HarbourWater(Target, X, Y, MoonX); });
     Target.Paint([&](QPainter& P) {
         P.setBrush(ToColor(Hex(0x070a1a)));
         P.drawRect(QRectF(0, Quay - 0.004F, Aspect, 0.008F));
@@ -180,14 +183,14 @@ Rgb GalaxyAt(float X, float Y) {
     const float Along = (Y - 0.34F) * 0.80F - (X - 0.80F) * 0.60F;
     const float Cloud = 0.62F + 0.55F * Fbm(X * 4.2F, Y * 4.2F, 6, 132);
     const float Core = Bell(Along - 0.12F, 0.42F);
-    float Band = Bell(Across, 0.115F + 0.06F * Core) * Cloud * (0.40F + 0.75F * Core);
+    float Band = Bell(Across, 0.115F + 0.06F * Core) * Cloud * (0.40F + 0.95F * Core);
     const float Lane = Ridged(Along * 1.9F + 2 * Bend, Across * 5.2F, 5, 133);
     const float Dust = Smooth(0.38F, 0.80F, Lane) * Bell(Across + 0.015F, 0.075F);
     Band *= 1 - 0.80F * Dust;
     Rgb C = Mix(Hex(0x7088c8), Hex(0xffdcb4), Core * Bell(Across, 0.10F)) * (0.85F * Band);
     C = C + Hex(0x8a2858) * (0.30F * Dust * Core * Clamp01(Cloud));
-    return C + Stars(X, Y, 0.45F + 0.4F * Clamp01(Band), 134) +
-           Stars(X + 7, Y, 0.7F * Clamp01(Band), 136) * 0.5F;
+    return C + Stars(X, Y, 0.20F + 0.35F * Clamp01(Band), 134) +
+           Stars(X + 7, Y, 0.6F * Clamp01(Band), 136) * 0.5F;
 }
 
 Rgb NightAt(float X, float Y) {
@@ -234,10 +237,10 @@ QImage PaintMilkyWay(QSize Size) {
     Target.Paint([&](QPainter& P) { P.fillPath(Firs, ToColor(Hex(0x081018))); });
     Target.ShadeRows(Shore, 1,
                      [&](float X, float Y, Rgb) { return StillLake(Target, X, Y, Shore, 145); });
-    const Range Bank = {0.99F, 0.13F, 0.75F, 0.1F, Hex(0x05090e), Hex(0x05090e), 1, 0, 149};
+    const Range Bank = {0.955F, 0.13F, 0.75F, 0.1F, Hex(0x0a1018), Hex(0x05090e), 0.1F, 0, 149};
     PaintRange(Target, Bank, 0);
     const auto Near = [&](float X) { return RidgeAt(Bank, X); };
-    const QPainterPath Tall = FirRow(-0.05F, 0.24F, 0.06F, 0.42F, Near, Chances);
+    const QPainterPath Tall = FirRow(-0.05F, 0.30F, 0.035F, 0.44F, Near, Chances);
     Target.Paint([&](QPainter& P) {
         P.fillPath(Tall, ToColor(Hex(0x05090e)));
         PaintTent(P, Aspect * 0.70F, RidgeAt(Bank, Aspect * 0.70F) + 0.012F, 0.055F);
@@ -252,9 +255,9 @@ struct Curtain {
     float Base, Lift, Long, Bright;
     std::uint32_t Seed;
 };
-constexpr Curtain Curtains[] = {{0.50F, 0.10F, 0.30F, 0.85F, 151},
-                                {0.36F, 0.15F, 0.24F, 0.65F, 152},
-                                {0.59F, 0.05F, 0.14F, 0.40F, 153}};
+constexpr Curtain Curtains[] = {{0.47F, 0.11F, 0.34F, 1.55F, 151},
+                                {0.33F, 0.16F, 0.26F, 1.15F, 152},
+                                {0.57F, 0.05F, 0.16F, 0.8F, 153}};
 
 Rgb CurtainAt(const Curtain& Veil, float X, float Y) {
     const float Fold = Noise(X * 2.2F, 1, Veil.Seed) + 0.4F * Noise(X * 6.5F, 4, Veil.Seed + 20);
@@ -272,7 +275,7 @@ Rgb CurtainAt(const Curtain& Veil, float X, float Y) {
 }
 
 Rgb PolarSky(float X, float Y) {
-    Rgb C = Mix(Hex(0x060b20), Hex(0x163a4a), Smooth(0, 0.62F, Y)) + Stars(X, Y, 0.5F, 161);
+    Rgb C = Mix(Hex(0x060b20), Hex(0x163a4a), Smooth(0, 0.62F, Y)) + Stars(X, Y, 0.22F, 161);
     for (const Curtain& Veil : Curtains) C = C + CurtainAt(Veil, X, Y);
     return C + Hex(0x1f7a5a) * (0.30F * Bell(Y - 0.50F, 0.16F));
 }
@@ -283,9 +286,9 @@ QImage PaintAurora(QSize Size) {
     Picture Target(Size);
     const float Aspect = Target.Aspect(), Line = 0.69F;
     Target.Shade([](float X, float Y, Rgb) { return PolarSky(X, Y); });
-    PaintRange(Target, {0.66F, 0.13F, 2.6F, 1, Hex(0x5f8f98), Hex(0x2c5a60), 0.13F, 0.9F, 171},
+    PaintRange(Target, {0.68F, 0.30F, 2.0F, 1, Hex(0x6fa8ac), Hex(0x2c5a60), 0.16F, 0.9F, 171},
                0.2F);
-    PaintRange(Target, {0.69F, 0.09F, 2.2F, 0.8F, Hex(0x335c68), Hex(0x1d4048), 0.12F, 0.7F, 172},
+    PaintRange(Target, {0.70F, 0.16F, 2.2F, 0.9F, Hex(0x3f6f7a), Hex(0x1d4048), 0.12F, 0.8F, 172},
                0.2F);
     const Range Wood = {0.70F, 0.03F, 2, 0.2F, Hex(0x07141a), Hex(0x07141a), 1, 0, 173};
     PaintRange(Target, Wood, 0);
@@ -295,10 +298,10 @@ QImage PaintAurora(QSize Size) {
     Target.Paint([&](QPainter& P) { P.fillPath(Firs, ToColor(Hex(0x07141a))); });
     Target.ShadeRows(Line, 1,
                      [&](float X, float Y, Rgb) { return StillLake(Target, X, Y, Line, 175); });
-    const Range Bank = {1.0F, 0.11F, 0.9F, 0.15F, Hex(0x9fc4c8), Hex(0x4d7f88), 0.10F, 0.5F, 186};
+    const Range Bank = {0.95F, 0.11F, 0.9F, 0.1F, Hex(0x9fd0cc), Hex(0x3d6f78), 0.12F, 0.2F, 186};
     PaintRange(Target, Bank, 0.1F);
     const auto Near = [&](float X) { return RidgeAt(Bank, X) + 0.02F; };
-    const QPainterPath Tall = FirRow(Aspect * 0.66F, Aspect, 0.07F, 0.34F, Near, Chances);
+    const QPainterPath Tall = FirRow(Aspect * 0.58F, Aspect * 1.05F, 0.035F, 0.36F, Near, Chances);
     Target.Paint([&](QPainter& P) { P.fillPath(Tall, ToColor(Hex(0x041014))); });
     Target.Bloom(0.6F, 0.03F, 0.3F);
     return Target.Develop(0.018F, 0.3F);

@@ -110,7 +110,7 @@ Rgb DuskAt(float X, float Y) {
     const Rgb Body = Mix(Hex(0x243150), Hex(0xb27584), Smooth(0.2F, 0.68F, Y));
     C = Mix(C, Body + Hex(0xffa070) * Clamp01(1.4F * Light),
             0.8F * Cloud * Smooth(0.72F, 0.55F, Y));
-    return C + Stars(X, Y, 0.3F, 82) * Smooth(0.35F, 0.05F, Y) * (1 - Cloud);
+    return C + Stars(X, Y, 0.3F, 82) * Smooth(0.42F, 0.05F, Y) * (1 - Cloud);
 }
 
 Rgb DuskSea(float X, float Y) {
@@ -134,8 +134,11 @@ Rgb CliffAt(float X, float Y, Rgb Behind) {
     const float Top = CliffTop(X),
                 Foot = 0.885F + 0.035F * Noise(X * 3.1F, 2, 86) + 0.06F * (X - 0.8F);
     const float Cover = Smooth(0, 0.002F, Y - Top) * Smooth(0.43F, 0.50F, X + 0.3F * (Y - 0.8F));
-    const float Rock = Ridged(X * 7 + Y * 2, Y * 11, 5, 87);
-    Rgb C = Mix(Hex(0x171b2b), Hex(0x6f6272), Clamp01(1.2F * Rock - 0.22F));
+    const float Px = X * 7 + Y * 3, Py = Y * 13 - X * 2;
+    const float Rock =
+        Clamp01(0.36F + 1.1F * (Ridged(Px, Py, 5, 87) - Ridged(Px - 0.10F, Py - 0.08F, 5, 87)) +
+                0.22F * Fbm(Px * 3, Py * 3, 3, 92));
+    Rgb C = Mix(Hex(0x151929), Hex(0x857384), Rock);
     C = Mix(C, Hex(0x33452f), Smooth(0.035F, 0, Y - Top) * 0.8F);
     C = C + Hex(0xff9a60) * (0.25F * Smooth(0.8F, 0.5F, X) * Rock);
     const float Foam = Bell(Y - Foot, 0.022F) * Smooth(-0.35F, 0.4F, Fbm(X * 12, Y * 22, 4, 88));

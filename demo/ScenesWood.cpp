@@ -19,11 +19,11 @@ struct WoodRow {
     float Haze;
     std::uint32_t Seed;
 };
-constexpr WoodRow WoodRows[] = {{0.660F, 0.007F, 46, 5200, 0.0085F, 0.80F, 301},
-                                {0.680F, 0.012F, 26, 4200, 0.0100F, 0.58F, 302},
-                                {0.715F, 0.020F, 15, 3300, 0.0120F, 0.36F, 303},
-                                {0.780F, 0.034F, 8, 2300, 0.0145F, 0.14F, 304},
-                                {0.900F, 0.062F, 4, 1300, 0.0180F, 0.0F, 305}};
+constexpr WoodRow WoodRows[] = {{0.660F, 0.007F, 46, 11000, 0.0046F, 0.80F, 301},
+                                {0.680F, 0.012F, 26, 10000, 0.0056F, 0.58F, 302},
+                                {0.715F, 0.020F, 15, 9000, 0.0068F, 0.36F, 303},
+                                {0.780F, 0.034F, 8, 6500, 0.0084F, 0.14F, 304},
+                                {0.900F, 0.062F, 4, 3600, 0.0105F, 0.0F, 305}};
 
 constexpr Rgb LeafColours[] = {Hex(0xd9541e), Hex(0xf08a24), Hex(0xf6b73c), Hex(0xb8361c),
                                Hex(0xffd35c), Hex(0xc9761f), Hex(0x9aa03a)};
@@ -62,16 +62,32 @@ QPainterPath Trunk(float X, float Foot, float Thick, Dice& Chances) {
     return Path;
 }
 
-void PaintBranches(QPainter& P, float X, float Thick, Rgb Bark, Dice& Chances) {
-    P.setPen(QPen(ToColor(Bark), static_cast<qreal>(Thick) * 0.22, Qt::SolidLine, Qt::RoundCap));
-    for (int I = 0; I < 5; ++I) {
-        const float Side = Chances.Odds(0.5F) ? 1.0F : -1.0F, Y = Chances.Range(0.06F, 0.34F);
-        const float Long = Chances.Range(2.5F, 6) * Thick;
-        QPainterPath Arm(QPointF(X, Y));
-        Arm.quadTo(X + Side * Long * 0.5F, Y - Long * 0.15F, X + Side * Long, Y - Long * 0.7F);
-        P.drawPath(Arm);
+// A branch runs out thin, and so do the twigs that leave it.
+void PaintBranch(QPainter& P, float X, float Y, float Thick, float Long, float Side, int Twigs,
+                 Dice& Chances) {
+    const float Ex = X + Side * Long, Ey = Y - Long * Chances.Range(0.45F, 0.85F);
+    const float Mx = X + Side * Long * 0.5F, My = Y - Long * 0.12F;
+    QPainterPath Arm(QPointF(X, Y - Thick * 0.5F));
+    Arm.quadTo(Mx, My - Thick * 0.4F, Ex, Ey);
+    Arm.quadTo(Mx, My + Thick * 0.4F, X, Y + Thick * 0.5F);
+    P.drawPath(Arm);
+    for (int I = 0; I < Twigs; ++I) {
+        const float T = Chances.Range(0.3F, 0.8F), Keep = 1 - T;
+        const float Tx = Keep * Keep * X + 2 * Keep * T * Mx + T * T * Ex;
+        const float Ty = Keep * Keep * Y + 2 * Keep * T * My + T * T * Ey;
+        PaintBranch(P, Tx, Ty, Thick * 0.5F * Keep + Thick * 0.12F,
+                    Long * Chances.Range(0.3F, 0.5F), Side * Chances.Range(0.4F, 1.2F), Twigs / 2,
+                    Chances);
     }
-    P.setPen(Qt::NoPen);
+}
+
+void PaintBranches(QPainter& P, float X, float Thick, Rgb Bark, Dice& Chances) {
+    P.setBrush(ToColor(Bark));
+    for (int I = 0; I < 7; ++I) {
+        const float Side = Chances.Odds(0.5F) ? 1.0F : -1.0F, Y = Chances.Range(0.02F, 0.36F);
+        PaintBranch(P, X, Y, Thick * Chances.Range(0.14F, 0.30F), Chances.Range(2, 4.6F) * Thick,
+                    Side, 4, Chances);
+    }
 }
 
 void PaintTrunks(QPainter& P, const WoodRow& Row, float Aspect, float SunX, Dice& Chances) {
@@ -158,26 +174,45 @@ constexpr Stop WinterSky[] = {{0, Hex(0x35508c)},
                               {0.6F, Hex(0xffe0bc)}};
 constexpr Range SnowHills[] = {
     {0.53F, 0.17F, 1.5F, 1.0F, Hex(0xb9a9c8), Hex(0xf4cdc4), 0.16F, 0.55F, 321},
-    {0.60F, 0.05F, 1.1F, 0.1F, Hex(0xb6b4d8), Hex(0xd8c4d8), 0.10F, 0.15F, 322},
-    {0.70F, 0.07F, 0.8F, 0.05F, Hex(0xc2c6e6), Hex(0x9fb0dc), 0.18F, 0.18F, 323},
-    {0.83F, 0.08F, 0.6F, 0.05F, Hex(0xdcdcf2), Hex(0x8ea4d6), 0.25F, 0.20F, 324},
+    {0.60F, 0.05F, 1.1F, 0.1F, Hex(0xb6b4d8), Hex(0xd8c4d8), 0.10F, 0.06F, 322},
+    {0.70F, 0.07F, 0.8F, 0.05F, Hex(0xc2c6e6), Hex(0x9fb0dc), 0.18F, 0.05F, 323},
+    {0.83F, 0.08F, 0.6F, 0.05F, Hex(0xdcdcf2), Hex(0x8ea4d6), 0.25F, 0.04F, 324},
 };
 
 // Snow lies on the sunny side of each tier; the tree beneath stays dark.
-void PaintSnowFir(QPainter& P, float X, float Base, float High, Rgb Tree, Rgb Snow, Dice& Chances) {
-    const QPainterPath Whole = Fir(X, Base, High, Chances);
-    P.fillPath(Whole, ToColor(Tree));
-    P.save();
-    P.setClipPath(Whole);
-    for (int I = 0; I < 42; ++I) {
-        const float T = 0.06F + 0.90F * static_cast<float>(I) / 42;
-        const float Wide = High * 0.21F * std::pow(T, 0.85F);
-        const float Dx = Wide * Chances.Range(-0.95F, 0.95F);
-        const float Y = Base - High * (1 - T * 0.95F) + std::fabs(Dx) * 0.3F;
-        P.setBrush(ToColor(Mix(Snow, Hex(0x8fa2d4), Dx < 0 ? 0.45F : 0.0F), 0.92F));
-        Disc(P, X + Dx, Y, High * 0.040F * (0.35F + T), High * 0.012F * (0.5F + T));
+// One tier of boughs: drooping tips below, drawn together above.
+QPainterPath Bough(float X, float Top, float Bottom, float Wide, Dice& Chances) {
+    QPainterPath Path(QPointF(X, Top));
+    const float Tall = Bottom - Top;
+    Path.quadTo(X + Wide * 0.30F, Top + Tall * 0.55F, X + Wide, Bottom);
+    constexpr int Tips = 7;
+    for (int I = 1; I <= Tips; ++I) {
+        const float T = static_cast<float>(I) / Tips, End = X + Wide * (1 - 2 * T);
+        const float Sag = Tall * (0.30F - 0.25F * std::fabs(1 - 2 * T)) * Chances.Range(0.5F, 1.3F);
+        Path.quadTo(End + Wide / Tips, Bottom - Tall * 0.16F, End, Bottom + (I < Tips ? Sag : 0));
     }
-    P.restore();
+    Path.quadTo(X - Wide * 0.30F, Top + Tall * 0.55F, X, Top);
+    return Path;
+}
+
+// Snow lies on each tier, bluish on the side away from the light; the needles show below it.
+void PaintSnowFir(QPainter& P, float X, float Base, float High, Rgb Tree, Rgb Snow, Dice& Chances) {
+    P.fillRect(QRectF(X - High * 0.02F, Base - High * 0.1F, High * 0.04F, High * 0.12F),
+               ToColor(Tree * 0.8F));
+    constexpr int Tiers = 8;
+    for (int I = Tiers - 1; I >= 0; --I) {
+        const float T = static_cast<float>(I) / Tiers,
+                    Wide = High * (0.055F + 0.19F * T) * Chances.Range(0.9F, 1.1F);
+        const float Top = Base - High * (1 - T * 0.86F), Bottom = Top + High * (0.13F + 0.09F * T);
+        P.fillPath(Bough(X, Top, Bottom, Wide, Chances),
+                   ToColor(Tree * Chances.Range(0.85F, 1.1F)));
+        const float Off = High * 0.012F, Low = Bottom - High * (0.030F + 0.012F * T);
+        QLinearGradient Light(X - Wide, 0, X + Wide, 0);
+        Light.setColorAt(0, ToColor(Mix(Snow, Hex(0x7488c4), 0.75F)));
+        Light.setColorAt(0.55, ToColor(Mix(Snow, Hex(0x9aaade), 0.35F)));
+        Light.setColorAt(1, ToColor(Snow));
+        P.fillPath(Bough(X + Off * 0.4F, Top - Off, Low, Wide * 0.86F, Chances), Light);
+    }
 }
 
 void PaintSnowWood(Picture& Target, const Range& Hills, int Count, float High, float Haze,
