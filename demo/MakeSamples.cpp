@@ -1,6 +1,6 @@
 // neb-make-samples: paints the sample pictures that the guided demonstration shows.
 #include <QCommandLineParser>
-#include <QGuiApplication>
+#include <QCoreApplication>
 #include <QTextStream>
 
 #include "Samples.h"
@@ -21,9 +21,8 @@ int Run(const QString& Folder, int Percent) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    // It paints in memory alone: no display is needed, and none is looked for.
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QGuiApplication App(argc, argv);
+    // It paints in memory alone, so it needs no display.
+    const QCoreApplication App(argc, argv);
     QCommandLineParser Parser;
     Parser.setApplicationDescription(QStringLiteral("Paints the sample pictures of the program."));
     Parser.addHelpOption();
