@@ -1,0 +1,16 @@
+#include "InitAssets.h"
+
+#include <QtGlobal>
+
+// The macro names a function outside all namespaces.
+static void RegisterResources() {
+    Q_INIT_RESOURCE(neb);
+}
+
+namespace neb {
+
+void InitAssets() {
+    RegisterResources();
+}
+
+}  // namespace neb
