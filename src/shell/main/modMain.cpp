@@ -24,7 +24,7 @@ void Name(QApplication& App) {
     App.setApplicationDisplayName(QStringLiteral("NEB Slide Show"));
     App.setApplicationVersion(QStringLiteral(NEB_VERSION));
     App.setDesktopFileName(QStringLiteral("neb-slide-show"));
-    App.setWindowIcon(QIcon(QStringLiteral(":/neb/icon.svg")));
+    App.setWindowIcon(QIcon(QStringLiteral(":/neb/neb-slide-show.svg")));
 }
 
 // One instance for a documents folder: the lock lies where it goes with the session.
