@@ -1,0 +1,19 @@
+// Dissolves: the pictures change place by place, in scattered dots and blocks, in drifting
+// clouds, or by how bright a place is. Used by the catalogue and by the light engine.
+#pragma once
+
+#include "effects/RevealMap.h"
+
+namespace neb::effects {
+
+Recipe DotDissolve(int SoftBits);
+// Blocks of a scattered order, Count of them along the longer side.
+Recipe BlockDissolve(int Count, int SoftBits);
+// Count: clouds along the longer side.
+Recipe CloudDissolve(int Count, int SoftBits);
+// The dark places of the new picture come first, or the bright ones.
+Recipe LightDissolve(bool BrightFirst);
+
+RevealMap MakeCloudMap(QSize Size, int Count, int SoftBits);
+
+}  // namespace neb::effects

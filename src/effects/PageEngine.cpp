@@ -1,0 +1,169 @@
+#include "effects/PageEngine.h"
+
+#include <algorithm>
+#include <array>
+
+#include "effects/Pixels.h"
+
+namespace neb::effects {
+namespace {
+
+// Distances are of One and grow against the way the sheet is drawn, from the middle.
+struct Sheet {
+    std::int64_t Reach;   // the sheet's end, and minus its other end
+    std::int64_t Radius;  // of the curl
+    std::int64_t Axis;    // where the sheet leaves the table
+};
+
+constexpr QRgb kPaper = 0xFFF4F1EAu;
+constexpr int kArcSteps = 256;
+
+class PageEngine : public Engine {
+  public:
+    PageEngine(QSize Size, int X, int Y) : mSize(Size) {
+        const int Length = std::max(1, Root((std::int64_t{X} * X + std::int64_t{Y} * Y) << 20));
+        mNx = static_cast<int>((-std::int64_t{X} << 26) / Length);
+        mNy = static_cast<int>((-std::int64_t{Y} << 26) / Length);
+        mReach = (std::abs(std::int64_t{mNx}) * Size.width() +
+                  std::abs(std::int64_t{mNy}) * Size.height()) /
+                 2;
+        mRadius = std::max<std::int64_t>(One, mReach / 6);
+        FillArcs();
+    }
+
+    void Draw(const Frame& F, int Y0, int Y1) const override {
+        Sheet S{mReach, mRadius, 0};
+        const std::int64_t Way = 2 * mReach + 2 * mRadius;
+        S.Axis = mReach - ((Way * Ease(F.Progress)) >> 16);
+        for (int Y = Y0; Y < Y1; ++Y) DrawRow(F, S, Y);
+    }
+
+  private:
+    // For a height over the axis, of the radius, the length of the sheet up to there.
+    void FillArcs() {
+        int Angle = 0;
+        for (int I = 0; I <= kArcSteps; ++I) {
+            while (Angle < One / 4 && Sine(Angle) < I * (One / kArcSteps)) ++Angle;
+            // The angle in radians: a full turn is 2 pi, here 411775 of One.
+            mArcs[static_cast<std::size_t>(I)] = Scale(411775, Angle);
+        }
+    }
+
+    int ArcAt(std::int64_t Off) const {  // Off of One: 0 at the axis, One at the radius
+        const int Place = static_cast<int>(std::clamp<std::int64_t>(Off, 0, One));
+        const auto I = static_cast<std::size_t>(Place >> 8);
+        if (I >= kArcSteps) return mArcs[kArcSteps];
+        return mArcs[I] + (((mArcs[I + 1] - mArcs[I]) * (Place & 255)) >> 8);
+    }
+
+    std::int64_t DistanceAt(int X, int Y) const {
+        const std::int64_t Dx = 2 * X + 1 - mSize.width(), Dy = 2 * Y + 1 - mSize.height();
+        return (Dx * mNx + Dy * mNy) / 2;
+    }
+
+    void DrawRow(const Frame& F, const Sheet& S, int Y) const {
+        QRgb* Out = F.Row(Y);
+        const QRgb* Old = F.Old.Row(Y);
+        const QRgb* New = F.New.Row(Y);
+        // The lifted part lies over the table from here to there; the rest is plain.
+        const std::int64_t FlapEnd = 2 * S.Axis - S.Reach + PiTimes(S.Radius);
+        const std::int64_t Near = std::min(FlapEnd - ShadowReach(S), S.Axis);
+        const std::int64_t Far = S.Axis + S.Radius + ShadowReach(S);
+        for (int X = 0; X < F.Width; ++X) {
+            const std::int64_t D = DistanceAt(X, Y);
+            if (D <= Near)
+                Out[X] = Old[X];
+            else if (D >= Far)
+                Out[X] = New[X];
+            else
+                Out[X] = Curled(F, S, X, Y, D);
+        }
+    }
+
+    static std::int64_t PiTimes(std::int64_t R) { return (R * 205887) >> 16; }
+    static std::int64_t ShadowReach(const Sheet& S) { return S.Radius; }
+
+    QRgb Curled(const Frame& F, const Sheet& S, int X, int Y, std::int64_t D) const {
+        const std::int64_t Off = D - S.Axis;
+        if (Off <= 0) {
+            const QRgb Flat = Shaded(F.Old.Row(Y)[X], ShadowBefore(S, D));
+            return OverBack(F, S, X, Y, D, S.Axis + PiTimes(S.Radius) - Off, 0, Flat);
+        }
+        QRgb Below = Shaded(F.New.Row(Y)[X], ShadowBehind(S, D));
+        if (Off >= S.Radius) return Below;
+        const int Height = static_cast<int>((Off << 16) / S.Radius);
+        const std::int64_t Arc = (S.Radius * ArcAt(Height)) >> 16;
+        Below = OverFront(F, S, X, Y, D, S.Axis + Arc, Below);
+        return OverBack(F, S, X, Y, D, S.Axis + PiTimes(S.Radius) - Arc, Height, Below);
+    }
+
+    // Darkness on the table just beyond the curl, and on the sheet just before the flap.
+    static int ShadowBehind(const Sheet& S, std::int64_t D) {
+        return Fading(D - S.Axis, S.Radius + ShadowReach(S), LiftOf(S));
+    }
+    static int ShadowBefore(const Sheet& S, std::int64_t D) {
+        const std::int64_t FlapEnd = 2 * S.Axis - S.Reach + PiTimes(S.Radius);
+        return D >= FlapEnd ? 0 : Fading(FlapEnd - D, ShadowReach(S), LiftOf(S)) / 2;
+    }
+    // No shadow before the sheet has risen: 0 at the start, 256 when a whole curl is up.
+    static int LiftOf(const Sheet& S) {
+        return static_cast<int>(
+            std::clamp<std::int64_t>((S.Reach - S.Axis) * 256 / (2 * S.Radius), 0, 256));
+    }
+    static int Fading(std::int64_t Way, std::int64_t Width, int Lift) {
+        if (Way >= Width) return 0;
+        const auto Left = static_cast<int>((Width - std::max<std::int64_t>(0, Way)) * 256 / Width);
+        return ((Left * Left) >> 8) * Lift * 150 >> 16;
+    }
+    static QRgb Shaded(QRgb C, int Darkness) { return Darkness ? Mix(C, kBlack, Darkness) : C; }
+
+    // How much of the sheet there is at a distance along it: soft at its end, 0 beyond.
+    static int InSheet(const Sheet& S, std::int64_t Along) {
+        return static_cast<int>(std::clamp<std::int64_t>((S.Reach - Along + One / 2) >> 8, 0, 256));
+    }
+
+    // The sheet's own colour at a distance along it, seen at D; 0 where the sheet's sides end.
+    int SheetAt(const Frame& F, const Sheet& S, int X, int Y, std::int64_t D, std::int64_t Along,
+                QRgb& Colour) const {
+        const int Inside = InSheet(S, Along);
+        if (Inside == 0) return 0;
+        const std::int64_t Move = Along - D;
+        const std::int64_t U = (std::int64_t{X} << 16) + ((Move * mNx) >> 16);
+        const std::int64_t V = (std::int64_t{Y} << 16) + ((Move * mNy) >> 16);
+        const int Sides = std::min(Coverage(static_cast<int>(U) + One / 2, F.Width << 16),
+                                   Coverage(static_cast<int>(V) + One / 2, F.Height << 16));
+        if (Sides == 0) return 0;
+        Colour = Sample(F.Old, static_cast<int>(U), static_cast<int>(V));
+        return Inside * Sides >> 8;
+    }
+
+    QRgb OverFront(const Frame& F, const Sheet& S, int X, int Y, std::int64_t D, std::int64_t Along,
+                   QRgb Below) const {
+        QRgb C = 0;
+        const int Seen = SheetAt(F, S, X, Y, D, Along, C);
+        return Seen ? Mix(Below, C, Seen) : Below;
+    }
+
+    QRgb OverBack(const Frame& F, const Sheet& S, int X, int Y, std::int64_t D, std::int64_t Along,
+                  int Height, QRgb Below) const {
+        QRgb C = 0;
+        const int Seen = SheetAt(F, S, X, Y, D, Along, C);
+        if (Seen == 0) return Below;
+        // The back is paper through which the picture shows faintly; it darkens down the curl.
+        const int Down = (Height >> 8) * (Height >> 8) >> 8;
+        return Mix(Below, Mix(Mix(C, kPaper, 205), kBlack, 12 + (Down * 120 >> 8)), Seen);
+    }
+
+    QSize mSize;
+    int mNx, mNy;  // the unit direction against which the sheet is drawn, of One
+    std::int64_t mReach, mRadius;
+    std::array<int, kArcSteps + 1> mArcs{};
+};
+
+}  // namespace
+
+Recipe PageTurn(int X, int Y) {
+    return {"Page", [=](QSize Size) { return std::make_unique<PageEngine>(Size, X, Y); }};
+}
+
+}  // namespace neb::effects

@@ -1,0 +1,12 @@
+// Page turns: the old picture is a sheet that curls up over a round edge and is drawn away,
+// paper-white on its back, with a shadow on the new one below. Used by the catalogue.
+#pragma once
+
+#include "effects/Engine.h"
+
+namespace neb::effects {
+
+// The direction in which the sheet is drawn away, in any unit: (-1, 0) is to the left.
+Recipe PageTurn(int X, int Y);
+
+}  // namespace neb::effects

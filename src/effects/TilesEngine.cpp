@@ -1,0 +1,89 @@
+#include "effects/TilesEngine.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "effects/Pixels.h"
+
+namespace neb::effects {
+namespace {
+
+constexpr QRgb kBehind = 0xFF101010u;
+constexpr int kShare = One * 2 / 5;  // of the whole time that one tile takes to turn
+
+class TilesEngine : public Engine {
+  public:
+    TilesEngine(QSize Size, int Count, WipeShape Order) : mSize(Size) {
+        const int Longer = std::max(Size.width(), Size.height());
+        mAcross = std::clamp((Count * Size.width() + Longer / 2) / Longer, 1, Size.width());
+        mDown = std::clamp((Count * Size.height() + Longer / 2) / Longer, 1, Size.height());
+        for (int Y = 0; Y < mDown; ++Y)
+            for (int X = 0; X < mAcross; ++X) mStarts.push_back(StartOf(X, Y, Order));
+    }
+
+    void Draw(const Frame& F, int Y0, int Y1) const override {
+        for (int Y = Y0; Y < Y1; ++Y) {
+            const int Row = static_cast<int>(std::int64_t{Y} * mDown / mSize.height());
+            for (int T = 0; T < mAcross; ++T) DrawPart(F, T, Row, Y);
+        }
+    }
+
+  private:
+    int StartOf(int X, int Y, WipeShape Order) const {
+        const std::int64_t Moment =
+            Order ? Order({X, Y, mAcross, mDown, 1}) * std::int64_t{One} / RevealMap::Levels
+                  : Shuffled(Y * mAcross + X, mAcross * mDown) * std::int64_t{One} /
+                        (mAcross * mDown);
+        return Scale(Moment, One - kShare);
+    }
+
+    int EdgeOf(int T) const {
+        return static_cast<int>((std::int64_t{T} * mSize.width() + mAcross - 1) / mAcross);
+    }
+
+    void DrawPart(const Frame& F, int T, int Row, int Y) const {
+        const int X0 = EdgeOf(T), X1 = EdgeOf(T + 1);
+        const int Start = mStarts[std::size_t(Row) * std::size_t(mAcross) + std::size_t(T)];
+        const int Turned = Clamp(F.Progress - Start, 0, kShare);
+        QRgb* Out = F.Row(Y);
+        if (Turned == 0)
+            CopySpan(Out + X0, F.Old.Row(Y) + X0, X1 - X0);
+        else if (Turned == kShare)
+            CopySpan(Out + X0, F.New.Row(Y) + X0, X1 - X0);
+        else
+            DrawTurned(F, Y, X0, X1, Ease(static_cast<int>(std::int64_t{Turned} * One / kShare)));
+    }
+
+    static void DrawTurned(const Frame& F, int Y, int X0, int X1, int Part) {
+        const int Angle = Scale(One / 2, Part);
+        const int Wide = std::max(64, std::abs(Cosine(Angle)));
+        const Picture& Face = Part < One / 2 ? F.Old : F.New;
+        const int Dark = Scale(110, Sine(Angle));
+        const std::int64_t Middle = std::int64_t{X0 + X1} << 15;
+        const std::int64_t Half = std::int64_t{X1 - X0} * Wide / 2;
+        const int Step = static_cast<int>((std::int64_t{One} << 16) / Wide);
+        for (int X = X0; X < X1; ++X) {
+            const std::int64_t Off = (std::int64_t{X} << 16) + One / 2 - Middle;
+            const int Seen = Coverage(static_cast<int>(Off + Half), static_cast<int>(2 * Half));
+            QRgb& Out = F.Row(Y)[X];
+            Out = kBehind;
+            if (Seen == 0) continue;
+            const int U = static_cast<int>(Middle + ((Off * Step) >> 16)) - One / 2;
+            const int Inside = Clamp(U, X0 << 16, (X1 - 1) << 16);
+            Out =
+                Mix(kBehind, Mix(SampleArea(Face, Inside, Y << 16, Step, One), kBlack, Dark), Seen);
+        }
+    }
+
+    QSize mSize;
+    int mAcross = 1, mDown = 1;
+    std::vector<int> mStarts;
+};
+
+}  // namespace
+
+Recipe TurningTiles(int Count, WipeShape Order) {
+    return {"Tiles", [=](QSize Size) { return std::make_unique<TilesEngine>(Size, Count, Order); }};
+}
+
+}  // namespace neb::effects
