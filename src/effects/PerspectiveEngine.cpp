@@ -171,7 +171,8 @@ Scene PlanFlip(const Frame& F, std::int64_t Length, int Part) {
 }
 
 Scene PlanDoors(const Frame& F, std::int64_t Length, int Part) {
-    const int Angle = Scale(One / 4, Part);
+    // Past the right angle, until each wing lies in the line of sight and is gone.
+    const int Angle = Scale(One / 4 + AngleOf(2 * kDistance, 1), Part);
     const int S = Sine(Angle), C = Cosine(Angle);
     const std::int64_t Half = Length / 2;
     Scene Out{};

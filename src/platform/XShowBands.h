@@ -1,0 +1,12 @@
+// Draws a step of a transition on all the machine's cores; the same bits as on one. Used by the
+// transition view.
+#pragma once
+
+#include "effects/Transition.h"
+
+namespace neb {
+
+void DrawInBands(const Transition& T, const QImage& Old, const QImage& New, double Progress,
+                 QImage& Out);
+
+}  // namespace neb
