@@ -1,0 +1,153 @@
+// Life cycle and albums; what is forwarded to albums and shows is in clsDBEngineForward.cpp, the
+// clearing for transfers in clsDBEngineClear.cpp.
+#include "db/clsDBEngine.h"
+
+#include "db/RecordCodec.h"
+#include "db/modLoadRecords.h"
+#include "db/modNameIndex.h"
+#include "support/Services.h"
+#include "support/modFUFL.h"
+#include "support/modHostFiles.h"
+
+namespace neb {
+namespace {
+
+constexpr qsizetype MaxAlbumName = 80;
+
+// The counter goes round at its end rather than stop the program.
+std::int32_t Draw(std::int32_t& Counter) {
+    const std::int32_t Drawn = Counter;
+    Counter = static_cast<std::int32_t>(static_cast<std::uint32_t>(Counter) + 1);
+    return Drawn;
+}
+
+bool Refuse(const QString& Text) {
+    MsgBox(Text);
+    return false;
+}
+
+}  // namespace
+
+void clsDBEngine::SetDBPath(const QString& Path) {
+    mDBPath = WithSeparator(Path);
+}
+
+void clsDBEngine::SetProgramPath(const QString& Path) {
+    mProgramPath = Path.isEmpty() ? QString() : WithSeparator(Path);
+}
+
+bool clsDBEngine::MayCarryOut() const {
+    const QString Counters = mDBPath + QLatin1String(RecordFileName(RecordFile::NextIDs));
+    return !IsReadOnly(mDBPath) && !(FileExists(Counters) && IsReadOnly(Counters));
+}
+
+void clsDBEngine::InitializeDB(Recovery How) {
+    RecordImage Image;
+    if (ReadJournal(mDBPath, &Image) == JournalState::Whole &&
+        (How == Recovery::InMemory || !MayCarryOut())) {
+        LoadFrom(RecordsInImage(std::move(Image)));
+        return;
+    }
+    if (How == Recovery::CarryOut && MayCarryOut()) RecoverDatabase(mDBPath);
+    LoadFrom(RecordsInDirectory(mDBPath));
+}
+
+void clsDBEngine::LoadFrom(const RecordSource& Source) {
+    Albums.clear();
+    const std::optional<QByteArray> Counters = Source(RecordFile::NextIDs);
+    if (!Counters) {
+        NextAlbumID = NextSlideID = NextSlideShowID = 1;
+        Properties = {};
+        EffectStats = {};
+        return;
+    }
+    ReadProperties(Properties, Source);
+    ReadEffectStats(EffectStats, Source, mProgramPath);
+    const auto Next = DecodeRecordAt<NextIDsRecord>(*Counters, 0);
+    NextAlbumID = Next.NextAlbumID;
+    NextSlideID = Next.NextSlideID;
+    NextSlideShowID = Next.NextSlideShowID;
+    LoadAlbumTree(*this, Source);
+    SortAlbums();
+}
+
+void clsDBEngine::FinalizeDB() {
+    WriteDatabase(mDBPath, BuildImage(*this));
+}
+
+bool clsDBEngine::SaveAlbum(std::int32_t& AlbumID, const QString& AlbumName) {
+    for (const auto& Other : Albums)
+        if (Other->AlbumID != AlbumID && Other->AlbumName == AlbumName)
+            return Refuse(QStringLiteral("An Album with this name already exists."));
+    if (AlbumName.trimmed().isEmpty())
+        return Refuse(QStringLiteral("You must specify an Album name."));
+    if (AlbumName.size() > MaxAlbumName)
+        return Refuse(QStringLiteral("Album names must be <= 80 characters long."));
+    clsNEBAlbum* Album = AlbumID != 0 ? GetAlbum(AlbumID) : nullptr;
+    if (!Album) {
+        Album = Albums.emplace_back(std::make_unique<clsNEBAlbum>()).get();
+        Album->AlbumID = AlbumID = AllocateAlbumID();
+    }
+    Album->AlbumName = AlbumName;
+    SortAlbums();
+    return true;
+}
+
+void clsDBEngine::SortAlbums() {
+    if (Albums.empty()) return;
+    AlbumIndex.clear();
+    for (const auto& Album : Albums) AlbumIndex.push_back({Album->AlbumName, Album->AlbumID});
+    SortByName(AlbumIndex, NameTies::AsTheyFall);
+}
+
+void clsDBEngine::LoadAlbumsCombo(ComboList& cboAlbums, bool WithAddOption) const {
+    cboAlbums.Clear();
+    if (WithAddOption) cboAlbums.AddItem(QStringLiteral("<NEW ALBUM>"), 0);
+    if (Albums.empty()) return;
+    for (const NameIndexEntry& Row : AlbumIndex) cboAlbums.AddItem(Row.Name, Row.ID);
+}
+
+bool clsDBEngine::LoadAlbum(std::int32_t& AlbumID, QString& AlbumName) const {
+    const QString Wanted = AlbumName.toUpper();
+    for (const auto& Album : Albums) {
+        if (AlbumID != 0 ? Album->AlbumID != AlbumID : Album->AlbumName.toUpper() != Wanted)
+            continue;
+        if (AlbumID != 0)
+            AlbumName = Album->AlbumName;
+        else
+            AlbumID = Album->AlbumID;
+        return true;
+    }
+    return false;
+}
+
+bool clsDBEngine::FindAlbum(std::int32_t AlbumID, const QString& AlbumName) const {
+    QString Name = AlbumName;
+    return LoadAlbum(AlbumID, Name);
+}
+
+bool clsDBEngine::DeleteAlbum(std::int32_t AlbumID) {
+    std::erase_if(Albums, [&](const auto& Album) { return Album->AlbumID == AlbumID; });
+    SortAlbums();
+    return true;
+}
+
+clsNEBAlbum* clsDBEngine::GetAlbum(std::int32_t AlbumID) const {
+    for (const auto& Album : Albums)
+        if (Album->AlbumID == AlbumID) return Album.get();
+    return nullptr;
+}
+
+std::int32_t clsDBEngine::AllocateAlbumID() {
+    return Draw(NextAlbumID);
+}
+
+std::int32_t clsDBEngine::AllocateSlideID() {
+    return Draw(NextSlideID);
+}
+
+std::int32_t clsDBEngine::AllocateSlideShowID() {
+    return Draw(NextSlideShowID);
+}
+
+}  // namespace neb

@@ -1,0 +1,105 @@
+// The whole database in memory: read from its directory once by InitializeDB, written back once
+// by FinalizeDB, asked and changed in between. The program owns one; a transfer makes a second
+// one on another directory.
+//
+// Boolean results are true on success; what refuses has shown its own box. Reading and writing
+// throw Fault.
+#pragma once
+
+#include "db/clsNEBAlbum.h"
+#include "db/modTables.h"
+
+namespace neb {
+
+// What InitializeDB does about the journal of a write that did not come to its end.
+enum class Recovery {
+    CarryOut,  // finishes the write; in a read-only database as InMemory
+    InMemory,  // reads the new records from the journal and changes nothing on the disk
+};
+
+class clsDBEngine {
+  public:
+    std::int32_t NextAlbumID = 0;
+    std::int32_t NextSlideID = 0;
+    std::int32_t NextSlideShowID = 0;
+    std::vector<std::unique_ptr<clsNEBAlbum>> Albums;
+    std::vector<NameIndexEntry> AlbumIndex;  // sorted by name; row N lies at N - 1
+    PropertyRows Properties;
+    EffectStatRows EffectStats;
+
+    const QString& DBPath() const { return mDBPath; }  // with closing separator
+    void SetDBPath(const QString& Path);
+    // Where the factory times of the effects lie; none when it is not set.
+    void SetProgramPath(const QString& Path);
+
+    // A directory without NextIDs.dat is a new database: all counters 1 and nothing else.
+    void InitializeDB(Recovery How = Recovery::CarryOut);
+    // The same from any source of record files.
+    void LoadFrom(const RecordSource& Source);
+    // Leaves either the old or the new database on the disk, whatever happens (modJournal.h).
+    void FinalizeDB();
+
+    // Creates an album (ID 0 or unknown; AlbumID is the new one afterwards) or renames one.
+    bool SaveAlbum(std::int32_t& AlbumID, const QString& AlbumName);
+    void LoadAlbumsCombo(ComboList& cboAlbums, bool WithAddOption) const;
+    // With an ID gives the name; with ID 0 gives the ID of the first album of that name, case
+    // ignored. False, and nothing changed, when there is none.
+    bool LoadAlbum(std::int32_t& AlbumID, QString& AlbumName) const;
+    bool FindAlbum(std::int32_t AlbumID, const QString& AlbumName) const;
+    bool DeleteAlbum(std::int32_t AlbumID);  // always true; touches no files
+    clsNEBAlbum* GetAlbum(std::int32_t AlbumID) const;
+
+    // Forwarded to the album or the show. Saving into one that is not there shows a box and is
+    // false; a list is left empty.
+    bool SaveSlide(std::int32_t SlideID, std::int32_t AlbumID, const QString& SlideText,
+                   const QString& SlideLoc, const QString& SoundTrackLoc, bool Override,
+                   bool Repeat);
+    void LoadSlidesCombo(ComboList& cboSlides, std::int32_t AlbumID);
+    bool SaveSlideShow(std::int32_t SlideShowID, std::int32_t AlbumID, const QString& SlideShowName,
+                       std::int32_t ProgressionMethod);
+    void LoadSlideShowsCombo(ComboList& cboSlideShows, std::int32_t AlbumID);
+    bool SaveSlideShowDetail(std::int32_t SlideShowID, std::int32_t AlbumID, std::int32_t SlideID,
+                             std::int32_t SlideSeq, const QString& SlideText);
+    void LoadSlideShowDetailsCombo(ComboList& cboSlideShowDetails, std::int32_t AlbumID,
+                                   std::int32_t SlideShowID);
+    bool SaveSlideShowSoundTrack(std::int32_t SlideShowID, std::int32_t AlbumID,
+                                 std::int32_t SoundTrackSeq, const QString& SoundTrackLoc,
+                                 std::int32_t SlideSeqStart, std::int32_t SlideSeqEnd, bool Repeat,
+                                 bool FitToSong, bool Fade);
+    // Looks for the show in all albums.
+    void LoadSlideShowSoundTracksCombo(ComboList& cboSoundTracks, std::int32_t SlideShowID);
+
+    // A name matches only when it is padded with blanks to 20 characters; values are padded to
+    // 255. An unknown name has the empty value.
+    void SaveProperty(const QString& PropertyName, const QString& PropertyValue);
+    QString LoadPropertyValue(const QString& PropertyName) const;
+    void LoadPropertiesCombo(ComboList& cboProperties) const;
+    void SaveEffectStat(std::int32_t Effect, double AvgTime);  // seconds
+    void LoadEffectStatsCombo(ComboList& cboEffectStats) const;
+    // Sets 1 (light), 2 or 3 (heavy) for each measured effect up to MaxEffect; the first element
+    // of EffectClasses belongs to the effect LowerBound.
+    void ClassifyEffects(std::span<std::uint8_t> EffectClasses, std::int32_t MaxEffect,
+                         std::int32_t LowerBound = 0) const;
+
+    // For transfers: empty an album or a show, with the files; a show takes the slides along that
+    // no other show of the album uses. The emptied object stays. False after a box.
+    bool ClearAlbumData(clsNEBAlbum& theAlbum);
+    bool ClearSlideShowData(clsNEBAlbum& theAlbum, clsNEBSlideShow& theSlideShow);
+
+    // The current counter, which then goes up by one. For albums and shows, not for windows.
+    std::int32_t AllocateAlbumID();
+    std::int32_t AllocateSlideID();
+    std::int32_t AllocateSlideShowID();
+
+    void SortAlbums();  // rebuilds AlbumIndex; without albums it stays as it was
+
+  private:
+    clsNEBAlbum* AlbumOrBox(std::int32_t AlbumID) const;
+    clsNEBSlideShow* SlideShowOrBox(std::int32_t AlbumID, std::int32_t SlideShowID) const;
+    bool MayCarryOut() const;
+
+    QString mDBPath;
+    QString mProgramPath;
+};
+
+}  // namespace neb

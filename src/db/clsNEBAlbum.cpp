@@ -1,0 +1,139 @@
+#include "db/clsNEBAlbum.h"
+
+#include "db/clsDBEngine.h"
+#include "db/modAlbumFiles.h"
+#include "db/modNameIndex.h"
+#include "support/Fault.h"
+#include "support/modHostFiles.h"
+#include "support/modNumbers.h"
+
+namespace neb {
+namespace {
+
+// The ID in a row of a view, the rows counted from 1.
+std::int32_t IdInRow(const std::vector<NameIndexEntry>& Index, std::int32_t Row) {
+    if (static_cast<size_t>(Row) > Index.size())
+        throw Fault(QStringLiteral("There is no row %1 in the list.").arg(Row));
+    return Index[static_cast<size_t>(Row) - 1].ID;
+}
+
+void DeleteQuietly(const QString& Mask) {
+    try {
+        DeleteMask(Mask);
+    } catch (const Fault&) {
+        // A file in use must not keep the slide in the album.
+    }
+}
+
+}  // namespace
+
+void clsNEBAlbum::SortSlides() {
+    SlideIndex.clear();
+    for (const auto& Slide : Slides) SlideIndex.push_back({Slide->SlideText, Slide->SlideID});
+    SortByName(SlideIndex, NameTies::ByID);
+}
+
+void clsNEBAlbum::SortSlideShows() {
+    if (SlideShows.empty()) return;
+    SlideShowIndex.clear();
+    for (const auto& Show : SlideShows)
+        SlideShowIndex.push_back({Show->SlideShowName, Show->SlideShowID});
+    SortByName(SlideShowIndex, NameTies::AsTheyFall);
+}
+
+void clsNEBAlbum::LoadSlidesCombo(ComboList& cboSlides) {
+    cboSlides.Clear();
+    SortSlides();
+    for (const NameIndexEntry& Row : SlideIndex)
+        cboSlides.AddItem(Format(Row.ID, "000000") + u' ' + Row.Name, Row.ID);
+}
+
+void clsNEBAlbum::LoadSlideShowsCombo(ComboList& cboSlideShows) {
+    cboSlideShows.Clear();
+    SortSlideShows();
+    if (SlideShows.empty()) return;
+    for (const NameIndexEntry& Row : SlideShowIndex) cboSlideShows.AddItem(Row.Name, Row.ID);
+}
+
+bool clsNEBAlbum::SaveSlide(std::int32_t& SlideID, const QString& SlideText,
+                            const QString& SlideLoc, const QString& SoundTrackLoc, bool Override,
+                            bool Repeat, clsDBEngine& theDB) {
+    return SaveSlide2(SlideID, SlideText, SlideLoc, SoundTrackLoc, Override, Repeat, theDB);
+}
+
+clsNEBSlide* clsNEBAlbum::SaveSlide2(std::int32_t& SlideID, const QString& SlideText,
+                                     const QString& SlideLoc, const QString& SoundTrackLoc,
+                                     bool Override, bool Repeat, clsDBEngine& theDB) {
+    clsNEBSlide* Slide = SlideID != 0 ? GetSlide(SlideID) : nullptr;
+    if (!Slide) {
+        Slide = Slides.emplace_back(std::make_unique<clsNEBSlide>()).get();
+        Slide->SlideID = SlideID = theDB.AllocateSlideID();
+    }
+    Slide->Override = Override;
+    Slide->Repeat = Repeat;
+    Slide->SlideLoc = SlideLoc;
+    Slide->SlideText = SlideText;
+    Slide->SoundTrackLoc = SoundTrackLoc;
+    return Slide;
+}
+
+bool clsNEBAlbum::SaveSlideShow(std::int32_t& SlideShowID, const QString& SlideShowName,
+                                std::int32_t ProgressionMethod, clsDBEngine& theDB) {
+    clsNEBSlideShow* Show = SlideShowID != 0 ? GetSlideShow(SlideShowID) : nullptr;
+    if (!Show) {
+        Show = SlideShows.emplace_back(std::make_unique<clsNEBSlideShow>()).get();
+        Show->SlideShowID = SlideShowID = theDB.AllocateSlideShowID();
+    }
+    Show->SlideShowName = SlideShowName;
+    Show->ProgressionMethod = ProgressionMethod;
+    return true;
+}
+
+clsNEBSlide* clsNEBAlbum::GetSlide(std::int32_t SlideID, std::int32_t SlideIdx) {
+    if (SlideIdx > 0 && SlideIndex.empty()) SortSlides();
+    const std::int32_t Wanted = SlideIdx > 0 ? IdInRow(SlideIndex, SlideIdx) : SlideID;
+    for (const auto& Slide : Slides)
+        if (Slide->SlideID == Wanted) return Slide.get();
+    return nullptr;
+}
+
+clsNEBSlideShow* clsNEBAlbum::GetSlideShow(std::int32_t SlideShowID,
+                                           std::int32_t SlideShowIdx) const {
+    const std::int32_t Wanted =
+        SlideShowIdx > 0 ? IdInRow(SlideShowIndex, SlideShowIdx) : SlideShowID;
+    for (const auto& Show : SlideShows)
+        if (Show->SlideShowID == Wanted) return Show.get();
+    return nullptr;
+}
+
+bool clsNEBAlbum::DeleteSlide(std::int32_t SlideID, const clsDBEngine& theDB) {
+    if (SlideID == 0) return true;
+    const auto Found = std::find_if(Slides.begin(), Slides.end(),
+                                    [&](const auto& Slide) { return Slide->SlideID == SlideID; });
+    if (Found == Slides.end()) return true;
+    Slides.erase(Found);
+    const QString Stem = SlidesFolder(theDB.DBPath(), AlbumID) + FileStem(SlideID);
+    DeleteQuietly(Stem + QStringLiteral(".*"));
+    DeleteQuietly(Stem + QStringLiteral("Small.*"));
+    return true;
+}
+
+bool clsNEBAlbum::DeleteSlideShow(std::int32_t SlideShowID, const clsDBEngine& theDB) {
+    if (SlideShowID == 0) return true;
+    const auto Found = std::find_if(SlideShows.begin(), SlideShows.end(), [&](const auto& Show) {
+        return Show->SlideShowID == SlideShowID;
+    });
+    if (Found == SlideShows.end()) return true;
+    DeleteQuietly(SoundTracksFolder(theDB.DBPath(), AlbumID) + FileStem(SlideShowID) +
+                  QStringLiteral("*.*"));
+    SlideShows.erase(Found);
+    return true;
+}
+
+bool clsNEBAlbum::ClearContents() {
+    Slides.clear();
+    SlideShows.clear();
+    return true;
+}
+
+}  // namespace neb

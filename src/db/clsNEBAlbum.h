@@ -1,0 +1,63 @@
+// An album: its slides and its shows, with their sorted views. Owned by the engine; nearly every
+// window reads albums and saves slides and shows through them.
+//
+// The views are built on demand and not kept up to date; "array from 1" rows lie at row - 1.
+#pragma once
+
+#include "db/clsNEBSlide.h"
+#include "db/clsNEBSlideShow.h"
+
+namespace neb {
+
+class clsDBEngine;
+
+// A row of a view sorted by a text.
+struct NameIndexEntry {
+    QString Name;
+    std::int32_t ID = 0;
+};
+
+class clsNEBAlbum {
+  public:
+    std::int32_t AlbumID = 0;
+    QString AlbumName;
+    std::vector<std::unique_ptr<clsNEBSlide>> Slides;
+    std::vector<std::unique_ptr<clsNEBSlideShow>> SlideShows;
+    std::vector<NameIndexEntry> SlideIndex;      // (SlideText, SlideID)
+    std::vector<NameIndexEntry> SlideShowIndex;  // (SlideShowName, SlideShowID)
+
+    // By caption without regard to case, then by ID; no slides, no rows.
+    void SortSlides();
+    // By name without regard to case; with no shows the view stays as it was.
+    void SortSlideShows();
+    // Clear the list and fill it in sorted order, the ID as item data. A slide's text is its ID
+    // in six digits, a blank and its caption.
+    void LoadSlidesCombo(ComboList& cboSlides);
+    void LoadSlideShowsCombo(ComboList& cboSlideShows);
+
+    // Change the slide with this ID, or add one under a new ID when it is 0 or unknown; SlideID is
+    // the slide's ID afterwards.
+    bool SaveSlide(std::int32_t& SlideID, const QString& SlideText, const QString& SlideLoc,
+                   const QString& SoundTrackLoc, bool Override, bool Repeat, clsDBEngine& theDB);
+    // The same, with the saved slide as the answer (never nullptr).
+    clsNEBSlide* SaveSlide2(std::int32_t& SlideID, const QString& SlideText,
+                            const QString& SlideLoc, const QString& SoundTrackLoc, bool Override,
+                            bool Repeat, clsDBEngine& theDB);
+    bool SaveSlideShow(std::int32_t& SlideShowID, const QString& SlideShowName,
+                       std::int32_t ProgressionMethod, clsDBEngine& theDB);
+
+    // By row of the sorted view (from 1) when the row is greater than 0, else by ID; nullptr when
+    // there is none. A row out of range is a Fault. Only SlideIndex is built when it is not there.
+    clsNEBSlide* GetSlide(std::int32_t SlideID, std::int32_t SlideIdx = 0);
+    clsNEBSlideShow* GetSlideShow(std::int32_t SlideShowID, std::int32_t SlideShowIdx = 0) const;
+
+    // Take the thing and its files away; failures to delete a file are ignored. Details that name
+    // a deleted slide stay. Always true.
+    bool DeleteSlide(std::int32_t SlideID, const clsDBEngine& theDB);
+    bool DeleteSlideShow(std::int32_t SlideShowID, const clsDBEngine& theDB);
+
+    // Both collections emptied, for the clearing before a transfer; always true.
+    bool ClearContents();
+};
+
+}  // namespace neb

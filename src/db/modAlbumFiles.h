@@ -1,0 +1,19 @@
+// Where the pictures and sounds of an album lie and what they are called. Used by everything that
+// stores, shows or deletes them. Folders end in a separator; DBPath does, too.
+#pragma once
+
+#include <QString>
+#include <cstdint>
+
+namespace neb {
+
+QString AlbumFolder(const QString& DBPath, std::int32_t AlbumID);
+QString SlidesFolder(const QString& DBPath, std::int32_t AlbumID);
+QString SoundTracksFolder(const QString& DBPath, std::int32_t AlbumID);
+
+// The ID in eight digits (more when it is larger): how all files of a slide or a show begin.
+QString FileStem(std::int32_t ID);
+// The thumbnail of a slide: the stem and "Small.bmp".
+QString ThumbnailName(std::int32_t SlideID);
+
+}  // namespace neb

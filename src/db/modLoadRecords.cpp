@@ -1,0 +1,158 @@
+#include "db/modLoadRecords.h"
+
+#include <unordered_map>
+
+#include "db/RecordCodec.h"
+
+namespace neb {
+namespace {
+
+// Objects by key, the first one of a key standing. The last one found is tried first, since the
+// records of one owner follow one another.
+template <class Key, class Object>
+class OwnerTable {
+  public:
+    void Add(Key TheKey, Object* TheObject) { mObjects.try_emplace(TheKey, TheObject); }
+    Object* Find(Key TheKey) {
+        if (mLast && TheKey == mLastKey) return mLast;
+        const auto Found = mObjects.find(TheKey);
+        if (Found == mObjects.end()) return nullptr;
+        mLastKey = TheKey;
+        return mLast = Found->second;
+    }
+
+  private:
+    std::unordered_map<Key, Object*> mObjects;
+    Key mLastKey{};
+    Object* mLast = nullptr;
+};
+
+// A show is found by its own ID and its album's together.
+std::uint64_t ShowKey(std::int32_t AlbumID, std::int32_t SlideShowID) {
+    return static_cast<std::uint64_t>(static_cast<std::uint32_t>(AlbumID)) << 32 |
+           static_cast<std::uint32_t>(SlideShowID);
+}
+
+class TreeLoader {
+  public:
+    TreeLoader(clsDBEngine& Engine, const RecordSource& Source)
+        : mEngine(Engine), mSource(Source) {}
+
+    // Each record goes to the Place of its type below.
+    template <class Record>
+    void Load() {
+        const std::optional<QByteArray> File = mSource(LayoutOf<Record>::File);
+        if (File) ForEachRecord<Record>(*File, [this](Record&& Row) { Place(std::move(Row)); });
+    }
+
+  private:
+    void Place(AlbumRecord&& Row);
+    void Place(SlideRecord&& Row);
+    void Place(SlideShowRecord&& Row);
+    void Place(SlideShowDetailRecord&& Row);
+    void Place(SlideShowSoundTrackRecord&& Row);
+
+    clsDBEngine& mEngine;
+    const RecordSource& mSource;
+    OwnerTable<std::int32_t, clsNEBAlbum> mAlbums;
+    OwnerTable<std::uint64_t, clsNEBSlideShow> mShows;
+};
+
+void TreeLoader::Place(AlbumRecord&& Row) {
+    clsNEBAlbum* Album = mEngine.Albums.emplace_back(std::make_unique<clsNEBAlbum>()).get();
+    Album->AlbumID = Row.AlbumID;
+    Album->AlbumName = std::move(Row.AlbumName);
+    mAlbums.Add(Album->AlbumID, Album);
+}
+
+void TreeLoader::Place(SlideRecord&& Row) {
+    clsNEBAlbum* Album = mAlbums.Find(Row.AlbumID);
+    if (!Album) return;
+    auto Slide = std::make_unique<clsNEBSlide>();
+    Slide->SlideID = Row.SlideID;
+    Slide->SlideText = std::move(Row.SlideText);
+    Slide->SlideLoc = std::move(Row.SlideLoc);
+    Slide->SoundTrackLoc = std::move(Row.SoundTrackLoc);
+    Slide->Override = Row.Override;
+    Slide->Repeat = Row.Repeat;
+    Album->Slides.push_back(std::move(Slide));
+}
+
+void TreeLoader::Place(SlideShowRecord&& Row) {
+    clsNEBAlbum* Album = mAlbums.Find(Row.AlbumID);
+    if (!Album) return;
+    clsNEBSlideShow* Show =
+        Album->SlideShows.emplace_back(std::make_unique<clsNEBSlideShow>()).get();
+    Show->SlideShowID = Row.SlideShowID;
+    Show->SlideShowName = std::move(Row.SlideShowName);
+    Show->ProgressionMethod = Row.ProgressionMethod;
+    mShows.Add(ShowKey(Row.AlbumID, Row.SlideShowID), Show);
+}
+
+void TreeLoader::Place(SlideShowDetailRecord&& Row) {
+    clsNEBSlideShow* Show = mShows.Find(ShowKey(Row.AlbumID, Row.SlideShowID));
+    if (Show) Show->SaveDetail(Row.SlideID, Row.SlideSeq, Row.SlideText);
+}
+
+void TreeLoader::Place(SlideShowSoundTrackRecord&& Row) {
+    clsNEBSlideShow* Show = mShows.Find(ShowKey(Row.AlbumID, Row.SlideShowID));
+    if (Show)
+        Show->SaveSoundTrack(Row.SoundTrackSeq, Row.SoundTrackLoc, Row.SlideSeqStart,
+                             Row.SlideSeqEnd, Row.Repeat, Row.FitToSong, Row.Fade);
+}
+
+// One record into the file of its type.
+template <class Record>
+void Put(RecordImage& Image, const Record& Row) {
+    EncodeRecord(Image[LayoutOf<Record>::File], Row);
+}
+
+template <class Row>
+void PutLiveRows(RecordImage& Image, const std::vector<Row>& Rows) {
+    for (const Row& Next : Rows)
+        if (Next.Deleted == 0) Put(Image, Next);
+}
+
+void PutShow(RecordImage& Image, std::int32_t AlbumID, const clsNEBSlideShow& Show) {
+    Put(Image,
+        SlideShowRecord{Show.SlideShowID, AlbumID, Show.SlideShowName, Show.ProgressionMethod, 0});
+    for (const auto& Detail : Show.Details)
+        Put(Image, SlideShowDetailRecord{Show.SlideShowID, AlbumID, Detail->SlideID,
+                                         Detail->SlideSeq, Detail->SlideText, 0});
+    for (const auto& Track : Show.SoundTracks)
+        Put(Image, SlideShowSoundTrackRecord{Show.SlideShowID, AlbumID, Track->SoundTrackSeq,
+                                             Track->SoundTrackLoc, Track->SlideSeqStart,
+                                             Track->SlideSeqEnd, Track->Repeat, Track->FitToSong,
+                                             Track->Fade, 0});
+}
+
+void PutAlbum(RecordImage& Image, const clsNEBAlbum& Album) {
+    Put(Image, AlbumRecord{Album.AlbumID, Album.AlbumName, 0});
+    for (const auto& Slide : Album.Slides)
+        Put(Image, SlideRecord{Slide->SlideID, Album.AlbumID, Slide->SlideText, Slide->SlideLoc,
+                               Slide->SoundTrackLoc, Slide->Override, Slide->Repeat, 0});
+    for (const auto& Show : Album.SlideShows) PutShow(Image, Album.AlbumID, *Show);
+}
+
+}  // namespace
+
+void LoadAlbumTree(clsDBEngine& Engine, const RecordSource& Source) {
+    TreeLoader Loader(Engine, Source);
+    Loader.Load<AlbumRecord>();
+    Loader.Load<SlideRecord>();
+    Loader.Load<SlideShowRecord>();
+    Loader.Load<SlideShowDetailRecord>();
+    Loader.Load<SlideShowSoundTrackRecord>();
+}
+
+RecordImage BuildImage(const clsDBEngine& Engine) {
+    RecordImage Image;
+    PutLiveRows(Image, Engine.Properties);
+    PutLiveRows(Image, Engine.EffectStats);
+    Put(Image, NextIDsRecord{Engine.NextAlbumID, Engine.NextSlideID, Engine.NextSlideShowID});
+    for (const auto& Album : Engine.Albums) PutAlbum(Image, *Album);
+    for (PackedRecords& File : Image.Files) File.Finish();
+    return Image;
+}
+
+}  // namespace neb

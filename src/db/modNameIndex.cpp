@@ -1,0 +1,26 @@
+#include "db/modNameIndex.h"
+
+#include "db/modExchangeSort.h"
+
+namespace neb {
+
+void SortByName(std::vector<NameIndexEntry>& Index, NameTies Ties) {
+    struct Keyed {
+        QString Key;
+        NameIndexEntry Entry;
+    };
+    std::vector<Keyed> Rows;
+    Rows.reserve(Index.size());
+    for (NameIndexEntry& Entry : Index) {
+        QString Key = Entry.Name.toUpper();
+        Rows.push_back({std::move(Key), std::move(Entry)});
+    }
+    ExchangeSort(Rows, [&](const Keyed& A, const Keyed& B) {
+        const int Order = A.Key.compare(B.Key);
+        if (Order != 0 || Ties == NameTies::AsTheyFall) return Order < 0;
+        return A.Entry.ID < B.Entry.ID;
+    });
+    for (size_t I = 0; I < Rows.size(); ++I) Index[I] = std::move(Rows[I].Entry);
+}
+
+}  // namespace neb

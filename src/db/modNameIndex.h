@@ -1,0 +1,14 @@
+// Sorting the views that are ordered by a name: albums, slides, shows.
+#pragma once
+
+#include "db/clsNEBAlbum.h"
+
+namespace neb {
+
+enum class NameTies { ByID, AsTheyFall };
+
+// Ascending by the upper-cased name, compared by character code. Equal names go by ascending ID,
+// or fall as an exchange sort leaves them.
+void SortByName(std::vector<NameIndexEntry>& Index, NameTies Ties);
+
+}  // namespace neb
