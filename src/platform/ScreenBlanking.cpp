@@ -1,0 +1,110 @@
+#include "platform/ScreenBlanking.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QGuiApplication>
+#include <QLibrary>
+
+#include "support/modHostFiles.h"
+
+namespace neb {
+namespace {
+
+constexpr int MostWait = 200;  // ms
+
+// A connection of our own: the service drops what we asked for when it ends, whatever happens.
+QString ConnectionName() {
+    return QStringLiteral("neb-screen-blanking");
+}
+
+QDBusMessage ServiceCall(const QString& Method) {
+    QDBusMessage Call =
+        QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.ScreenSaver"),
+                                       QStringLiteral("/org/freedesktop/ScreenSaver"),
+                                       QStringLiteral("org.freedesktop.ScreenSaver"), Method);
+    Call.setAutoStartService(false);
+    return Call;
+}
+
+// Connecting without a bus would make the library start one, which takes its time.
+bool HasSessionBus() {
+    return qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS") ||
+           (qEnvironmentVariableIsSet("XDG_RUNTIME_DIR") &&
+            FileExists(qEnvironmentVariable("XDG_RUNTIME_DIR") + QStringLiteral("/bus")));
+}
+
+#if QT_CONFIG(xcb)
+// The library is looked up when a show starts, so that the program runs where it is not there.
+void SuspendServerSaver(bool Suspended) {
+    const auto* X11 =
+        qGuiApp ? qGuiApp->nativeInterface<QNativeInterface::QX11Application>() : nullptr;
+    if (!X11 || !X11->display()) return;
+    using SuspendFunction = void (*)(Display*, int);
+    using FlushFunction = int (*)(Display*);
+    const auto Suspend = reinterpret_cast<SuspendFunction>(
+        QLibrary::resolve(QStringLiteral("Xss"), 1, "XScreenSaverSuspend"));
+    const auto Flush =
+        reinterpret_cast<FlushFunction>(QLibrary::resolve(QStringLiteral("X11"), 6, "XFlush"));
+    if (!Suspend || !Flush) return;
+    Suspend(X11->display(), Suspended ? 1 : 0);
+    Flush(X11->display());
+}
+#else
+void SuspendServerSaver(bool) {}
+#endif
+
+}  // namespace
+
+DesktopScreenBlanking::~DesktopScreenBlanking() {
+    if (mHolders == 0) return;
+    mHolders = 1;
+    Release();
+}
+
+void DesktopScreenBlanking::Inhibit(const QString& Reason) {
+    if (++mHolders > 1) return;
+    SuspendServerSaver(true);
+    AskService(Reason);
+}
+
+void DesktopScreenBlanking::Release() {
+    if (mHolders == 0 || --mHolders > 0) return;
+    LeaveService();
+    SuspendServerSaver(false);
+}
+
+void DesktopScreenBlanking::AskService(const QString& Reason) {
+    if (!HasSessionBus()) return;
+    const QDBusConnection Bus =
+        QDBusConnection::connectToBus(QDBusConnection::SessionBus, ConnectionName());
+    mConnected = true;
+    if (!Bus.isConnected()) return;
+    QDBusMessage Call = ServiceCall(QStringLiteral("Inhibit"));
+    Call << QGuiApplication::applicationDisplayName() << Reason;
+    mCall = new QDBusPendingCallWatcher(Bus.asyncCall(Call));
+    QObject::connect(mCall, &QDBusPendingCallWatcher::finished, mCall,
+                     [this](QDBusPendingCallWatcher* Done) { Answered(Done); });
+}
+
+void DesktopScreenBlanking::Answered(QDBusPendingCallWatcher* Call) {
+    const QDBusPendingReply<quint32> Reply = *Call;
+    if (!Reply.isError()) mCookie = Reply.value();
+    Call->deleteLater();
+}
+
+// A request that has not been answered yet is not waited for: the end of the connection ends it.
+void DesktopScreenBlanking::LeaveService() {
+    delete mCall;
+    if (!mConnected) return;
+    if (mCookie) {
+        QDBusMessage Call = ServiceCall(QStringLiteral("UnInhibit"));
+        Call << *std::exchange(mCookie, std::nullopt);
+        QDBusConnection(ConnectionName()).call(Call, QDBus::Block, MostWait);
+    }
+    QDBusConnection::disconnectFromBus(ConnectionName());
+    mConnected = false;
+}
+
+}  // namespace neb

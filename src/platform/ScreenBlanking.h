@@ -1,0 +1,39 @@
+// Keeps the desktop from blanking the screen: through the session's screen saver service, and on
+// X11 through the server's own screen saver as well. The program's start puts it into Services.
+#pragma once
+
+#include <QPointer>
+#include <optional>
+
+#include "support/Services.h"
+
+QT_BEGIN_NAMESPACE
+class QDBusPendingCallWatcher;
+QT_END_NAMESPACE
+
+namespace neb {
+
+class DesktopScreenBlanking : public ScreenBlanking {
+  public:
+    DesktopScreenBlanking() = default;
+    ~DesktopScreenBlanking() override;
+    DesktopScreenBlanking(const DesktopScreenBlanking&) = delete;
+    DesktopScreenBlanking& operator=(const DesktopScreenBlanking&) = delete;
+
+    // Neither fails: a session without such a service simply blanks when it likes. Inhibit does
+    // not wait for an answer, Release at most 200 ms.
+    void Inhibit(const QString& Reason) override;
+    void Release() override;
+
+  private:
+    void AskService(const QString& Reason);
+    void LeaveService();
+    void Answered(QDBusPendingCallWatcher* Call);
+
+    int mHolders = 0;
+    bool mConnected = false;
+    std::optional<quint32> mCookie;
+    QPointer<QDBusPendingCallWatcher> mCall;
+};
+
+}  // namespace neb

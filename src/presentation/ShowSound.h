@@ -1,0 +1,65 @@
+// What a running show asks of its sound, and the fields of the show that the sound step reads and
+// writes. The projector calls it at every change of state, every slide and every tick.
+#pragma once
+
+#include <QString>
+#include <cstdint>
+#include <functional>
+#include <memory>
+
+namespace neb {
+
+class clsNEBSlideShow;
+
+// Fields of the projector, as far as sound has a say in them.
+struct ShowSoundFields {
+    double SlideInterval = 20;  // seconds that the running slide stays up
+    bool FitToSong = false;     // the running track sets SlideInterval
+    bool FadeOnLast = false;
+    bool TrackEndsHere = false;  // the running slide is the track's last
+    bool SoundRepeat = false;    // the repeat flag of what was last started
+    bool Reposition = false;     // a user step brought the slide up
+};
+
+// The slide that has just come up.
+struct SlideSound {
+    std::int32_t AlbumID = 0;
+    const clsNEBSlideShow* SlideShow = nullptr;  // its sound tracks, in stored order
+    std::int32_t SlideSeq = 0;                   // the place in the show, from 1
+    QString SoundTrackLoc;                       // the slide's own clip; empty: none
+    bool Override = false;                       // of the clip
+    bool Repeat = false;                         // of the clip
+};
+
+class ShowSound {
+  public:
+    virtual ~ShowSound() = default;
+    virtual void Play(bool Repeat) = 0;  // from where it stands
+    virtual void PauseSound() = 0;
+    virtual void StopSound() = 0;           // and back to the start
+    virtual void SetVolume(int Value) = 0;  // 0 to 100
+    virtual void CheckRepeat() = 0;         // once a second
+    // The last stage of showing a slide; clears Reposition. True: CheckRepeat is wanted again.
+    virtual bool SoundStep(const SlideSound& Slide, ShowSoundFields& Fields) = 0;
+    // Moves a fitted track to a place, counted from 1, of Interval seconds each.
+    virtual void SyncSoundToSlide(std::int32_t Place, double Interval, bool Force,
+                                  ShowSoundFields& Fields) = 0;
+};
+
+// A show without sound: no file is ever loaded.
+class SilentShowSound : public ShowSound {
+  public:
+    void Play(bool) override {}
+    void PauseSound() override {}
+    void StopSound() override {}
+    void SetVolume(int) override {}
+    void CheckRepeat() override {}
+    bool SoundStep(const SlideSound&, ShowSoundFields& Fields) override;
+    void SyncSoundToSlide(std::int32_t, double, bool, ShowSoundFields&) override {}
+};
+
+// How each run of a show comes by its sound; silent unless somebody puts another maker here.
+using ShowSoundMaker = std::function<std::unique_ptr<ShowSound>()>;
+ShowSoundMaker& TheShowSoundMaker();
+
+}  // namespace neb

@@ -1,0 +1,34 @@
+// The four states of a running show: loaded, running, paused, stopped. The words that the menu
+// offers next are the state; the projector carries out what a change of state asks for.
+#pragma once
+
+#include <QString>
+
+namespace neb {
+
+struct ShowState {
+    QString PlayCommand;  // "" before the start, then "Pause", "Resume" or "Play"
+    QString StopCommand;  // "" before the start, then "Stop" or "Resume"
+};
+
+enum class SoundCommand { None, Pause, Play, Stop };
+
+// What a change of state does, in the order of the fields.
+struct ShowTransition {
+    SoundCommand Sound;
+    const char* PlayCommand;  // the new word
+    const char* StopCommand;  // the new word; null: stays
+    bool ToStart;             // go to the resume point or to slide 1
+    bool ShowsSlide;
+    bool RestartsClock;
+    bool Timer1, Timer2;
+};
+
+// What the user's play command and stop command do in a state.
+const ShowTransition& PlayPauseTransition(const ShowState& State);
+const ShowTransition& StopRestartTransition(const ShowState& State);
+
+// The new words; everything else is the projector's to do.
+void EnterState(ShowState& State, const ShowTransition& Transition);
+
+}  // namespace neb

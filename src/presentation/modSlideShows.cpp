@@ -1,0 +1,33 @@
+#include "presentation/modSlideShows.h"
+
+#include "presentation/frmSlideShowProjector.h"
+#include "shell/Openers.h"
+#include "support/Fault.h"
+
+namespace neb {
+
+std::int32_t CurrentSlideSeq = 0;
+std::int32_t CurrentSlideShowID = 0;
+double SlideTimeout = 20;
+
+void RunSlideShow(std::int32_t AlbumID, const QString& AlbumName, std::int32_t SlideShowID) {
+    const auto Projector = NewForm<frmSlideShowProjector>();
+    Projector->AlbumID = AlbumID;
+    Projector->AlbumName = AlbumName;
+    try {
+        Projector->LoadSlideShow(SlideShowID);
+    } catch (const Fault&) {
+        // a show that cannot run ends, and the window that started it goes on
+    }
+}
+
+void EditSlideShowPreferences() {
+    if (!TheOpeners().Preferences) return;
+    try {
+        SlideTimeout = TheOpeners().Preferences(0, 0, SlideTimeout);
+    } catch (const Fault&) {
+        // the timeout that was in force stays
+    }
+}
+
+}  // namespace neb
