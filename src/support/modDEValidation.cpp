@@ -56,7 +56,8 @@ bool IsNumericText(const QString& Text, QString& Message, bool AllowNegative) {
     for (qsizetype I = 0; I < Text.size(); ++I) {
         const char16_t Code = Text[I].unicode();
         if (IsDigit(Code) || (Code == u'-' && AllowNegative && I == 0)) continue;
-        Message = u'\'' + Text.mid(I, 1) + QStringLiteral("' is not a Numeric Digit.");
+        const int Units = Text[I].isHighSurrogate() ? 2 : 1;
+        Message = u'\'' + Text.mid(I, Units) + QStringLiteral("' is not a Numeric Digit.");
         return false;
     }
     return true;

@@ -30,7 +30,7 @@ double Val(QStringView Text) {
     const QByteArray Bytes = Text.trimmed().toLatin1();
     const char* First = Bytes.constData();
     const char* Last = First + Bytes.size();
-    if (First != Last && *First == '+') ++First;
+    if (Last - First > 1 && First[0] == '+' && First[1] != '-') ++First;
     double Value = 0;
     const auto Result = std::from_chars(First, Last, Value);
     return Result.ec == std::errc() && std::isfinite(Value) ? Value : 0;

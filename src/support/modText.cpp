@@ -2,8 +2,11 @@
 
 #include <unicode/translit.h>
 
+#include <QTextBoundaryFinder>
+#include <algorithm>
 #include <array>
 #include <unordered_map>
+#include <utility>
 
 namespace neb {
 namespace {
@@ -48,31 +51,75 @@ QString InLatinLetters(const QString& Text) {
     return QString(reinterpret_cast<const QChar*>(Work.getBuffer()), Work.length());
 }
 
-QByteArray ClosestEquivalent(const QString& Character) {
-    QByteArray Out;
-    if (!AppendDirect(Character.normalized(QString::NormalizationForm_C)[0].unicode(), Out))
-        for (const QChar Unit : InLatinLetters(Character)) AppendDirect(Unit.unicode(), Out);
-    return Out.isEmpty() ? QByteArray("?") : Out;
+// What a user sees as one character counts as one here: a letter with its accents, a line end, an
+// emoji of several parts.
+template <typename Take>
+void ForEachCharacter(const QString& Text, Take&& TakeOne) {
+    QTextBoundaryFinder Finder(QTextBoundaryFinder::Grapheme, Text);
+    qsizetype Start = 0;
+    for (qsizetype End = Finder.toNextBoundary(); End >= 0; End = Finder.toNextBoundary()) {
+        TakeOne(QStringView(Text).sliced(Start, End - Start));
+        Start = End;
+    }
 }
 
-// The characters that a user sees as one: a base with its combining marks, a surrogate pair.
-qsizetype ClusterLength(QStringView Text) {
-    qsizetype Length = Text[0].isHighSurrogate() && Text.size() > 1 ? 2 : 1;
-    while (Length < Text.size() && Text[Length].isMark()) ++Length;
-    return Length;
+// False, with nothing appended, when not even the letter under the accents is in the code page.
+bool AppendCharacter(QStringView Character, QByteArray& Out) {
+    if (!AppendDirect(Character[0].unicode(), Out)) return false;
+    for (const QChar Unit : Character.sliced(1)) AppendDirect(Unit.unicode(), Out);
+    return true;
+}
+
+bool IsInvisible(QStringView Character) {
+    return std::all_of(Character.begin(), Character.end(), [](QChar Unit) {
+        return Unit.category() == QChar::Other_Format || (Unit >= u'\uFE00' && Unit <= u'\uFE0F');
+    });
+}
+
+// A straight quote must not come into the data by way of a replacement.
+QString WithTypographicQuotes(QString Text) {
+    return Text.replace(u'\'', u'\u2019').replace(u'"', u'\u201D');
+}
+
+void AppendEquivalent(const QString& Run, QByteArray& Out) {
+    if (Run.isEmpty()) return;
+    ForEachCharacter(WithTypographicQuotes(InLatinLetters(Run)), [&](QStringView Character) {
+        if (!AppendCharacter(Character, Out) && !IsInvisible(Character)) Out.append('?');
+    });
+}
+
+bool NeedsEquivalents(QStringView Text) {
+    return std::any_of(Text.begin(), Text.end(), [](QChar Unit) {
+        const char16_t Code = Unit.unicode();
+        const bool Latin1 = Code < 0x80 || (Code >= 0xA0 && Code < 0x100);
+        return !Latin1 && !HighCodes().contains(Code);
+    });
+}
+
+// Words of another script are turned as a whole: letters may depend on their neighbours.
+QByteArray WithEquivalents(const QString& Text) {
+    QByteArray Out;
+    QString Run;
+    ForEachCharacter(Text.normalized(QString::NormalizationForm_C), [&](QStringView Character) {
+        QByteArray Direct;
+        if (!AppendCharacter(Character, Direct)) {
+            Run += Character;
+            return;
+        }
+        AppendEquivalent(std::exchange(Run, {}), Out);
+        Out += Direct;
+    });
+    AppendEquivalent(Run, Out);
+    return Out;
 }
 
 }  // namespace
 
 QByteArray ToAnsi(QStringView Text) {
+    if (NeedsEquivalents(Text)) return WithEquivalents(Text.toString());
     QByteArray Out;
     Out.reserve(Text.size());
-    for (qsizetype I = 0; I < Text.size();) {
-        const qsizetype Length = ClusterLength(Text.sliced(I));
-        if (Length > 1 || !AppendDirect(Text[I].unicode(), Out))
-            Out.append(ClosestEquivalent(Text.sliced(I, Length).toString()));
-        I += Length;
-    }
+    for (const QChar Unit : Text) AppendDirect(Unit.unicode(), Out);
     return Out;
 }
 

@@ -7,8 +7,9 @@
 namespace neb {
 
 // One byte a character. A character outside Windows-1252 becomes its closest equivalent (which
-// may take several bytes), else "?". The five codes that the code page leaves open stand for the
-// control characters of the same number, so that every byte survives a round trip.
+// may take several bytes, and for one that is not seen none), else "?". The five codes that the
+// code page leaves open stand for the control characters of the same number, so that every byte
+// survives a round trip.
 QByteArray ToAnsi(QStringView Text);
 QString FromAnsi(const char* Bytes, qsizetype Length);
 inline QString FromAnsi(const QByteArray& Bytes) {
