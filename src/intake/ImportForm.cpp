@@ -119,6 +119,7 @@ void ImportForm::SetUpToolBar() {
                           QStringLiteral("find-graphics"), QKeySequence(Qt::CTRL | Qt::Key_F));
     mUi->abrMenu->AddTool(QStringLiteral("mnuExit"), tr("Exit"), tr("Close this window"),
                           QStringLiteral("exit"));
+    mUi->abrMenu->SetToolEnabled(QStringLiteral("mnuFindGraphics"), false);  // not there yet
     connect(mUi->abrMenu, &ToolBar::ToolClicked, this, &ImportForm::ToolClicked);
 }
 

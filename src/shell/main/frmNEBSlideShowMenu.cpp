@@ -80,7 +80,9 @@ void frmNEBSlideShow::FillOpeners() {
 
 void frmNEBSlideShow::ShowAsChild(Form& Child) {
     const auto Held = Child.shared_from_this();
+    const QSize Designed = Child.size();
     QMdiSubWindow* Frame = mWorkspace->addSubWindow(&Child);
+    Frame->resize(Designed.boundedTo(mWorkspace->size()));
     Frame->setAttribute(Qt::WA_DeleteOnClose, false);
     Child.Load();
     if (!Child.IsLoaded()) return;

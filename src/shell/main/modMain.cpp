@@ -4,28 +4,17 @@
 #include <QStandardPaths>
 #include <cstdio>
 
-#include "InitAssets.h"
-#include "platform/ImgX.h"
-#include "platform/ScreenBlanking.h"
-#include "platform/XShow.h"
 #include "shell/main/CommandLine.h"
+#include "shell/main/DesktopServices.h"
 #include "shell/main/frmNEBSlideShow.h"
 #include "shell/modNEBSlideShow.h"
 #include "support/Fault.h"
+#include "support/Services.h"
 #include "support/modHostFiles.h"
-#include "support/windows/DesktopBoxes.h"
 #include "support/windows/NebApplication.h"
 
 namespace neb {
 namespace {
-
-void Name(QApplication& App) {
-    App.setApplicationName(QStringLiteral("neb-slide-show"));
-    App.setApplicationDisplayName(QStringLiteral("NEB Slide Show"));
-    App.setApplicationVersion(QStringLiteral(NEB_VERSION));
-    App.setDesktopFileName(QStringLiteral("neb-slide-show"));
-    App.setWindowIcon(QIcon(QStringLiteral(":/neb/neb-slide-show.svg")));
-}
 
 // One instance for a documents folder: the lock lies where it goes with the session.
 QString LockPath() {
@@ -35,12 +24,6 @@ QString LockPath() {
     if (Dir.isEmpty()) Dir = QStandardPaths::writableLocation(QStandardPaths::TempLocation);
     return Dir + QStringLiteral("/neb-slide-show-") + QString::fromLatin1(Key.left(16)) +
            QStringLiteral(".lock");
-}
-
-QImage ReadPicture(const QString& File) {
-    ImgX Picture;
-    Picture.Load(File);
-    return Picture.Picture();
 }
 
 // Answers what needs no window; the exit code, or -1 to go on.
@@ -73,19 +56,11 @@ int RunMainWindow(const CommandLine& Line) {
 
 int Main(int argc, char** argv) {
     NebApplication App(argc, argv);
-    InitAssets();
-    Name(App);
+    const DesktopServices Services;
     const CommandLine Line = ParseCommandLine(App.arguments().mid(1));
     const int Answered = AnswerOnTerminal(Line);
     if (Answered >= 0) return Answered;
 
-    DesktopBoxes Boxes;
-    DesktopFileDialogs Dialogs;
-    DesktopScreenBlanking Blanking;
-    TheServices().Boxes = &Boxes;
-    TheServices().Dialogs = &Dialogs;
-    TheServices().Blanking = &Blanking;
-    XShow::SetReader(&ReadPicture);
     if (!Line.Documents.isEmpty()) SetDocumentsPath(Line.Documents);
 
     InstanceLock Lock(LockPath());

@@ -1,0 +1,70 @@
+#include "Tour.h"
+
+#include <QApplication>
+#include <QBuffer>
+#include <QMessageBox>
+#include <QPixmap>
+#include <QScreen>
+#include <QTimer>
+#include <cstdio>
+
+#include "support/modHostFiles.h"
+
+namespace {
+
+constexpr int PollMs = 30;
+constexpr int PatienceMs = 120000;  // a slow machine reads many pictures
+
+}  // namespace
+
+void Tour::Start() {
+    neb::MakeDirs(mScreenshotDir);
+    mWaiting.start();
+    PollLater();
+}
+
+// A new timer each time: the windows run loops of their own inside a step's action.
+void Tour::PollLater() {
+    QTimer::singleShot(PollMs, this, &Tour::Poll);
+}
+
+void Tour::Poll() {
+    if (mDone == mSteps.size()) return Q_EMIT Ended();
+    const Step& Now = mSteps[mDone];
+    if (BoxIsOpen()) return Fail(QStringLiteral("a message box stands in the way"));
+    if (Now.Ready && !Now.Ready()) {
+        if (mWaiting.elapsed() > PatienceMs) return Fail(QStringLiteral("it took too long"));
+        return PollLater();
+    }
+    if (Now.Shot) TakeShot(Now.Name);
+    ++mDone;
+    mWaiting.start();
+    PollLater();
+    if (Now.Act) Now.Act();
+}
+
+bool Tour::BoxIsOpen() const {
+    return qobject_cast<QMessageBox*>(QApplication::activeModalWidget()) != nullptr;
+}
+
+void Tour::TakeShot(const QString& Name) {
+    const QString File = QStringLiteral("%1/%2-%3.png")
+                             .arg(mScreenshotDir)
+                             .arg(++mShots, 2, 10, QLatin1Char('0'))
+                             .arg(Name);
+    QByteArray Png;
+    QBuffer Buffer(&Png);
+    Buffer.open(QIODevice::WriteOnly);
+    QApplication::primaryScreen()->grabWindow(0).save(&Buffer, "PNG");
+    neb::WriteFile(File, Png);
+    std::printf("  %s\n", qPrintable(File));
+    std::fflush(stdout);
+}
+
+void Tour::Fail(const QString& Reason) {
+    TakeShot(QStringLiteral("failed"));
+    std::fprintf(stderr, "neb-demo: at the step \"%s\": %s\n", qPrintable(mSteps[mDone].Name),
+                 qPrintable(Reason));
+    QApplication::exit(1);
+    std::exit(1);
+}

@@ -1,0 +1,44 @@
+// Walks through the program as a user would, one step after the other: each step waits until the
+// program is ready for it, takes a picture of the screen and then presses a key or a button.
+#pragma once
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QString>
+#include <functional>
+#include <vector>
+
+class Tour : public QObject {
+    Q_OBJECT
+
+  public:
+    struct Step {
+        QString Name;                 // also of the screenshot
+        std::function<bool()> Ready;  // asked again and again; {}: at once
+        std::function<void()> Act;    // {}: nothing
+        bool Shot = true;
+    };
+
+    // Screenshots go to that folder as 01-name.png, 02-...
+    explicit Tour(const QString& ScreenshotDir) : mScreenshotDir(ScreenshotDir) {}
+
+    void Add(Step Next) { mSteps.push_back(std::move(Next)); }
+    void Start();
+    bool Succeeded() const { return mDone == mSteps.size(); }
+
+  Q_SIGNALS:
+    void Ended();
+
+  private:
+    void Poll();
+    void PollLater();
+    void TakeShot(const QString& Name);
+    void Fail(const QString& Reason);
+    bool BoxIsOpen() const;
+
+    QString mScreenshotDir;
+    std::vector<Step> mSteps;
+    size_t mDone = 0;
+    int mShots = 0;
+    QElapsedTimer mWaiting;
+};

@@ -1,0 +1,165 @@
+#include "TourSteps.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QProgressBar>
+#include <QTest>
+#include <QToolButton>
+
+#include "Tour.h"
+#include "intake/frmDirSelect.h"
+#include "intake/frmPicturePopup.h"
+#include "intake/frmQuickShow.h"
+#include "platform/FlexGrid.h"
+#include "platform/ToolBar.h"
+#include "platform/XShow.h"
+#include "presentation/frmSlideShowProjector.h"
+#include "shell/main/frmNEBSlideShow.h"
+#include "support/windows/frmLoading.h"
+#include "support/windows/frmProgress.h"
+
+using namespace neb;
+
+namespace {
+
+template <class Window>
+Window* Open() {
+    for (const auto& Each : LoadedForms())
+        if (auto* Found = dynamic_cast<Window*>(Each.get()); Found && Found->isVisible())
+            return Found;
+    return nullptr;
+}
+
+template <class Window>
+std::function<bool()> IsOpen() {
+    return [] { return Open<Window>() != nullptr; };
+}
+
+template <class Control, class Window>
+Control* Find(const char* Name) {
+    return Open<Window>()->template findChild<Control*>(QString::fromLatin1(Name));
+}
+
+template <class Window>
+std::function<void()> Press(const char* Button) {
+    return [Button] { QTest::mouseClick(Find<QPushButton, Window>(Button), Qt::LeftButton); };
+}
+
+void PressTool(const char* Name) {
+    auto* Bar = Find<ToolBar, frmQuickShow>("abrMenu");
+    QTest::mouseClick(Bar->widgetForAction(Bar->Tool(QString::fromLatin1(Name))), Qt::LeftButton);
+}
+
+QMenu* OpenMenu() {
+    return qobject_cast<QMenu*>(QApplication::activePopupWidget());
+}
+
+void AddQuickShowSteps(Tour& Guide, frmNEBSlideShow& Window) {
+    Guide.Add({"main-window", [&] { return Window.isVisible(); },
+               [&] { QTest::keyClick(&Window, Qt::Key_F, Qt::AltModifier); }});
+    Guide.Add({"file-menu", [] { return OpenMenu() != nullptr; },
+               [] { QTest::keyClick(OpenMenu(), Qt::Key_Q); }});
+    Guide.Add({"quick-show", IsOpen<frmQuickShow>(), [] { PressTool("mnuImportDirectory"); }});
+}
+
+void AddDirectorySteps(Tour& Guide, const QString& Folder) {
+    Guide.Add({"type-the-folder", IsOpen<frmDirSelect>(),
+               [Folder] {
+                   auto* Typed = Open<frmDirSelect>()->findChild<QLineEdit*>();
+                   Typed->setFocus();
+                   Typed->selectAll();
+                   QTest::keyClicks(Typed, Folder);
+                   QTest::keyClick(Typed, Qt::Key_Return);
+               },
+               false});
+    const auto Counted = [] {
+        const QString Text = Find<QLabel, frmDirSelect>("lblDirSummary")->text();
+        return !Text.isEmpty() && !Text.startsWith(QStringLiteral("0 "));
+    };
+    Guide.Add({"directory-chosen", Counted, Press<frmDirSelect>("cmdSelect")});
+}
+
+void AddSelectionSteps(Tour& Guide, const QString& ShowName) {
+    const auto Rows = [](const char* Grid) { return Find<FlexGrid, frmQuickShow>(Grid)->Rows(); };
+    const auto IsRead = [Rows] { return !Open<frmLoading>() && Rows("flxNonSelected") > 0; };
+    Guide.Add({"reading-pictures",
+               [IsRead] {
+                   auto* Loading = Open<frmLoading>();
+                   return IsRead() || (Loading && Loading->pgbLoadingProgress()->value() > 2);
+               },
+               {}});
+    Guide.Add({"pictures-read", IsRead, [] {
+                   auto* Grid = Find<FlexGrid, frmQuickShow>("flxNonSelected");
+                   const QPoint First = Grid->visualRect(Grid->model()->index(0, 0)).center();
+                   QTest::mouseClick(Grid->viewport(), Qt::LeftButton, {}, First);
+                   QTest::mouseDClick(Grid->viewport(), Qt::LeftButton, {}, First);
+               }});
+    Guide.Add({"preview", IsOpen<frmPicturePopup>(),
+               [] { QTest::keyClick(Open<frmPicturePopup>(), Qt::Key_Escape); }});
+    Guide.Add({"move-all", [] { return !Open<frmPicturePopup>(); },
+               Press<frmQuickShow>("cmdMoveRightAll"), false});
+    Guide.Add({"name-the-show", [Rows] { return Rows("flxSelected") > 0; },
+               [ShowName] {
+                   auto* Name = Find<QLineEdit, frmQuickShow>("txtName");
+                   Name->setFocus();
+                   Name->selectAll();
+                   QTest::keyClicks(Name, ShowName);
+               },
+               false});
+    Guide.Add({"pictures-selected", {}, Press<frmQuickShow>("cmdImport")});
+}
+
+XShow* View() {
+    return Find<XShow, frmSlideShowProjector>("Show1");
+}
+
+// How far the transition on the screen has come.
+double Shown = 0;
+
+void WatchProgress() {
+    QObject::connect(View(), &XShow::EffectStepped, [](double Now) { Shown = Now; });
+}
+
+
+// Two moments of each slide: in the middle of its transition and when it stands.
+void AddSlideSteps(Tour& Guide, int Slide) {
+    const QString Number = QString::number(Slide);
+    Guide.Add({"next-slide", [] { return !View()->IsRunning(); },
+               [] { QTest::keyClick(Open<frmSlideShowProjector>(), Qt::Key_Up); }, false});
+    Guide.Add({"show-transition-" + Number, [] { return View()->IsRunning() && Shown > 0.35; }, {}});
+    Guide.Add({"show-slide-" + Number, [] { return !View()->IsRunning(); }, {}});
+}
+
+void AddShowSteps(Tour& Guide) {
+    Guide.Add({"importing",
+               [] {
+                   auto* Progress = Open<frmProgress>();
+                   return Open<frmSlideShowProjector>() ||
+                          (Progress && Progress->pgbLoadingProgress()->value() > 0);
+               },
+               {}});
+    Guide.Add({"show-begins", IsOpen<frmSlideShowProjector>(), &WatchProgress, false});
+    Guide.Add({"show-slide-1", [] { return !View()->IsRunning(); }, {}});
+    for (int Slide = 2; Slide <= 6; ++Slide) AddSlideSteps(Guide, Slide);
+    Guide.Add({"show-menu-opens",
+               {},
+               [] { QTest::mouseClick(View(), Qt::RightButton, {}, View()->rect().center()); },
+               false});
+    Guide.Add({"show-menu", [] { return OpenMenu() != nullptr; },
+               [] { QTest::keyClick(OpenMenu(), Qt::Key_Escape); }});
+    Guide.Add({"leave-the-show", [] { return !OpenMenu(); },
+               [] { QTest::keyClick(Open<frmSlideShowProjector>(), Qt::Key_Escape); }, false});
+}
+
+}  // namespace
+
+void AddSteps(Tour& Guide, frmNEBSlideShow& Window, const QString& Folder,
+              const QString& ShowName) {
+    AddQuickShowSteps(Guide, Window);
+    AddDirectorySteps(Guide, Folder);
+    AddSelectionSteps(Guide, ShowName);
+    AddShowSteps(Guide);
+    Guide.Add({"end", [] { return !Open<frmSlideShowProjector>() && !Open<frmQuickShow>(); },
+               [&] { Window.close(); }, false});
+}

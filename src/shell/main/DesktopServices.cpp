@@ -1,0 +1,37 @@
+#include "shell/main/DesktopServices.h"
+
+#include "InitAssets.h"
+#include "platform/ImgX.h"
+#include "platform/XShow.h"
+
+namespace neb {
+namespace {
+
+QImage ReadPicture(const QString& File) {
+    ImgX Picture;
+    Picture.Load(File);
+    return Picture.Picture();
+}
+
+}  // namespace
+
+DesktopServices::DesktopServices() {
+    InitAssets();
+    QApplication::setApplicationName(QStringLiteral("neb-slide-show"));
+    QApplication::setApplicationDisplayName(QStringLiteral("NEB Slide Show"));
+    QApplication::setApplicationVersion(QStringLiteral(NEB_VERSION));
+    QApplication::setDesktopFileName(QStringLiteral("neb-slide-show"));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/neb/neb-slide-show.svg")));
+    TheServices().Boxes = &mBoxes;
+    TheServices().Dialogs = &mDialogs;
+    TheServices().Blanking = &mBlanking;
+    XShow::SetReader(&ReadPicture);
+}
+
+DesktopServices::~DesktopServices() {
+    TheServices().Boxes = nullptr;
+    TheServices().Dialogs = nullptr;
+    TheServices().Blanking = nullptr;
+}
+
+}  // namespace neb

@@ -1,0 +1,23 @@
+// Makes an application object NEB Slide Show: its name and icon, and the desktop's own services
+// in place. The program's entry and the guided demonstration hold one.
+#pragma once
+
+#include "platform/ScreenBlanking.h"
+#include "support/windows/DesktopBoxes.h"
+
+namespace neb {
+
+class DesktopServices {
+  public:
+    DesktopServices();   // after the application object
+    ~DesktopServices();  // the services are gone
+    DesktopServices(const DesktopServices&) = delete;
+    DesktopServices& operator=(const DesktopServices&) = delete;
+
+  private:
+    DesktopBoxes mBoxes;
+    DesktopFileDialogs mDialogs;
+    DesktopScreenBlanking mBlanking;
+};
+
+}  // namespace neb
