@@ -257,19 +257,26 @@ void FlexGrid::SetRow(int Row) {
         mCurrent.Assign({Row});
         return;
     }
-    int Column = std::max(Col(), 0);
-    while (Column + 1 < Cols() && ColHidden(Column)) ++Column;
+    const int Column = Col() < 0 || ColHidden(Col()) ? FirstColumn() : Col();
     selectionModel()->setCurrentIndex(
         mModel->index(Row, Column),
         QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 
+// Where a user starts: the first cell that can be edited, else the first that is seen.
+int FlexGrid::FirstColumn() const {
+    int Seen = 0;
+    for (int Each = Cols() - 1; Each >= 0; --Each)
+        if (!ColHidden(Each)) Seen = Each;
+    for (int Each = Seen; Each < Cols(); ++Each)
+        if (!ColHidden(Each) && Column(Each).Editable) return Each;
+    return Seen;
+}
+
 void FlexGrid::EnsureRowVisible(int Row) {
     Content().RequireRows(Row, 1);
-    int Column = 0;
-    while (Column + 1 < Cols() && ColHidden(Column)) ++Column;
     const int Across = horizontalScrollBar()->value();
-    scrollTo(mModel->index(Row, Column));
+    scrollTo(mModel->index(Row, FirstColumn()));
     horizontalScrollBar()->setValue(Across);
 }
 

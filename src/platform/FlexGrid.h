@@ -107,9 +107,11 @@ class FlexGrid : public QTableView {
     void FitColumn(int Col);
     void FitAll();
     void FitRowHeight();
+    int FirstColumn() const;
     bool MayEdit(const QModelIndex& Index) const;
     void EditNeighbour(int Step);
     void EnterPressed();
+    void SpacePressed(const QKeyEvent& Event);
     void ToggleCheck(int Row, int Col);
     bool PressCell(const QModelIndex& Index);
     bool KeyHandled(const QKeyEvent& Event);

@@ -217,7 +217,7 @@ bool FlexGridDelegate::helpEvent(QHelpEvent* Event, QAbstractItemView* View,
         const int Hot = HotSpot(Own, Index.column()).width();
         const bool Text = mGrid->Column(Index.column()).Kind != FlexKind::Check;
         if (Text && Own.fontMetrics.horizontalAdvance(Own.text) > Room.width() - Margins - Hot)
-            Shown = Own.text.toHtmlEscaped();
+            Shown = QStringLiteral("<qt>%1</qt>").arg(Own.text.toHtmlEscaped());
     }
     QToolTip::showText(Event->globalPos(), Shown, View);
     return true;

@@ -64,11 +64,12 @@ void FlexGrid::EditNeighbour(int Step) {
 
 // In lists of rows Home and End mean the first and the last row.
 QModelIndex FlexGrid::moveCursor(CursorAction Action, Qt::KeyboardModifiers Modifiers) {
-    const bool Far = Action == MoveHome || Action == MoveEnd;
-    if (!Far || Rows() == 0 || !Redraw()) return QTableView::moveCursor(Action, Modifiers);
-    const QModelIndex First = QTableView::moveCursor(MoveHome, Qt::ControlModifier);
-    const int Column = currentIndex().isValid() ? currentIndex().column() : First.column();
-    return mModel->index(Action == MoveHome ? 0 : Rows() - 1, Column);
+    if (Rows() == 0 || !Redraw()) return QTableView::moveCursor(Action, Modifiers);
+    const QModelIndex Here = currentIndex();
+    const int Column = Here.isValid() ? Here.column() : FirstColumn();
+    if (Action == MoveEnd) return mModel->index(Rows() - 1, Column);
+    if (Action == MoveHome || !Here.isValid()) return mModel->index(0, Column);
+    return QTableView::moveCursor(Action, Modifiers);
 }
 
 // Presses the box or the button of a cell; false when it has none.
@@ -94,12 +95,20 @@ void FlexGrid::EnterPressed() {
     if (Kind == FlexKind::List || !PressCell(Cell)) Q_EMIT RowActivated(Cell.row());
 }
 
+// Selects, even in a caption: a blank must not take the place of a text by accident.
+void FlexGrid::SpacePressed(const QKeyEvent& Event) {
+    const QModelIndex Cell = currentIndex();
+    if (Event.modifiers() == Qt::NoModifier && PressCell(Cell)) return;
+    if (Cell.isValid()) selectionModel()->select(Cell, selectionCommand(Cell, &Event));
+}
+
 // True for the keys that mean something of our own here.
 bool FlexGrid::KeyHandled(const QKeyEvent& Event) {
-    const auto Modifiers = Event.modifiers() & ~Qt::KeypadModifier;
     const int Key = Event.key();
-    if (Modifiers != Qt::NoModifier || IsEditing()) return false;
-    if (Key == Qt::Key_Space) return PressCell(currentIndex());
+    const bool Space = Key == Qt::Key_Space;
+    if (IsEditing()) return false;
+    if (Space) SpacePressed(Event);
+    if (Space || Event.modifiers() & ~Qt::KeypadModifier) return Space;
     const bool Enter = Key == Qt::Key_Return || Key == Qt::Key_Enter;
     if (Enter) EnterPressed();
     if (Key == Qt::Key_Delete) Q_EMIT DeletePressed();

@@ -202,6 +202,7 @@ TEST(FlexGrid, AListenerHearsCaptionsAndTheStateOfBoxes) {
 
 // The thumbnail alone is 20.25 KB; the rest of a row, with a long caption and path, stays small.
 TEST(FlexGrid, ARowNeedsAtMost25KBOfMemory) {
+    if (mallinfo2().uordblks == 0) GTEST_SKIP() << "this allocator does not count";
     constexpr int Count = 2000;
     AlbumGrid Grid(0);
     Grid.SetKeyColumn(Key);

@@ -67,10 +67,23 @@ TEST_F(FlexGridView, KeysGoThroughTheRows) {
     EXPECT_EQ(Grid.SelectedRows(), 40);
 }
 
-TEST_F(FlexGridView, TheFirstKeyIntoAListFindsASeenColumn) {
+TEST_F(FlexGridView, TheFirstKeyIntoAListFindsTheCaption) {
     QTest::keyClick(&Grid, Qt::Key_Home);
     EXPECT_EQ(Grid.Row(), 0);
-    EXPECT_FALSE(Grid.isColumnHidden(Grid.Col()));
+    EXPECT_EQ(Grid.Col(), Caption);
+}
+
+TEST_F(FlexGridView, TheSpaceBarSelectsAndLeavesTheCaption) {
+    ClickCell(Grid, 0, Caption);
+    QTest::keyClick(&Grid, Qt::Key_Down, Qt::ControlModifier);
+    QTest::keyClick(&Grid, Qt::Key_Down, Qt::ControlModifier);
+    EXPECT_EQ(SelectedRowsOf(Grid), (Rows{0}));
+    QTest::keyClick(&Grid, Qt::Key_Space);
+    EXPECT_EQ(SelectedRowsOf(Grid), (Rows{0, 2}));
+    QTest::keyClick(&Grid, Qt::Key_Space, Qt::ControlModifier);
+    EXPECT_EQ(SelectedRowsOf(Grid), (Rows{0}));
+    EXPECT_FALSE(Grid.IsEditing());
+    EXPECT_EQ(Grid.TextMatrix(2, Caption), "Slide 2");
 }
 
 TEST_F(FlexGridView, TheDeleteKeyIsReported) {
@@ -210,7 +223,8 @@ TEST_F(FlexGridView, ATextThatIsCutIsShownInFullAsToolTip) {
     Grid.setToolTip("Slides in the album");
     const QString Long = QString(200, u'w') + " <b>";
     Grid.SetTextMatrix(1, Caption, Long);
-    EXPECT_EQ(ToolTipAt(Grid, CellCentre(Grid, 1, Caption)), Long.toHtmlEscaped());
+    EXPECT_EQ(ToolTipAt(Grid, CellCentre(Grid, 1, Caption)),
+              "<qt>" + Long.toHtmlEscaped() + "</qt>");
     EXPECT_EQ(ToolTipAt(Grid, CellCentre(Grid, 0, Caption)), "Slides in the album");
     EXPECT_EQ(ToolTipAt(Grid, CellCentre(Grid, 1, Thumb)), "Slides in the album");
 }
