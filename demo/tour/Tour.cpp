@@ -13,6 +13,7 @@
 namespace {
 
 constexpr int PollMs = 30;
+constexpr int SettlePolls = 6;      // until what has just opened is painted
 constexpr int PatienceMs = 120000;  // a slow machine reads many pictures
 
 }  // namespace
@@ -36,6 +37,8 @@ void Tour::Poll() {
         if (mWaiting.elapsed() > PatienceMs) return Fail(QStringLiteral("it took too long"));
         return PollLater();
     }
+    if (!Now.Moving && mSettled++ < SettlePolls) return PollLater();
+    mSettled = 0;
     if (Now.Shot) TakeShot(Now.Name);
     ++mDone;
     mWaiting.start();

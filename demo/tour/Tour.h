@@ -17,6 +17,7 @@ class Tour : public QObject {
         std::function<bool()> Ready;  // asked again and again; {}: at once
         std::function<void()> Act;    // {}: nothing
         bool Shot = true;
+        bool Moving = false;  // what is to be seen does not wait
     };
 
     // Screenshots go to that folder as 01-name.png, 02-...
@@ -40,5 +41,6 @@ class Tour : public QObject {
     std::vector<Step> mSteps;
     size_t mDone = 0;
     int mShots = 0;
+    int mSettled = 0;
     QElapsedTimer mWaiting;
 };

@@ -88,7 +88,9 @@ void AddSelectionSteps(Tour& Guide, const QString& ShowName) {
                    auto* Loading = Open<frmLoading>();
                    return IsRead() || (Loading && Loading->pgbLoadingProgress()->value() > 2);
                },
-               {}});
+               {},
+               true,
+               true});
     Guide.Add({"pictures-read", IsRead, [] {
                    auto* Grid = Find<FlexGrid, frmQuickShow>("flxNonSelected");
                    const QPoint First = Grid->visualRect(Grid->model()->index(0, 0)).center();
@@ -121,13 +123,16 @@ void WatchProgress() {
     QObject::connect(View(), &XShow::EffectStepped, [](double Now) { Shown = Now; });
 }
 
-
 // Two moments of each slide: in the middle of its transition and when it stands.
 void AddSlideSteps(Tour& Guide, int Slide) {
     const QString Number = QString::number(Slide);
     Guide.Add({"next-slide", [] { return !View()->IsRunning(); },
                [] { QTest::keyClick(Open<frmSlideShowProjector>(), Qt::Key_Up); }, false});
-    Guide.Add({"show-transition-" + Number, [] { return View()->IsRunning() && Shown > 0.35; }, {}});
+    Guide.Add({"show-transition-" + Number,
+               [] { return View()->IsRunning() && Shown > 0.35; },
+               {},
+               true,
+               true});
     Guide.Add({"show-slide-" + Number, [] { return !View()->IsRunning(); }, {}});
 }
 
@@ -138,7 +143,9 @@ void AddShowSteps(Tour& Guide) {
                    return Open<frmSlideShowProjector>() ||
                           (Progress && Progress->pgbLoadingProgress()->value() > 0);
                },
-               {}});
+               {},
+               true,
+               true});
     Guide.Add({"show-begins", IsOpen<frmSlideShowProjector>(), &WatchProgress, false});
     Guide.Add({"show-slide-1", [] { return !View()->IsRunning(); }, {}});
     for (int Slide = 2; Slide <= 6; ++Slide) AddSlideSteps(Guide, Slide);

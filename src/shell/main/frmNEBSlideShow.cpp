@@ -3,6 +3,7 @@
 
 #include <QCloseEvent>
 #include <QScreen>
+#include <QStatusBar>
 
 #include "db/clsDBEngine.h"
 #include "intake/clsImageBuffer.h"
@@ -46,6 +47,7 @@ frmNEBSlideShow::frmNEBSlideShow() : mWorkspace(new Workspace(this)), mBuffer(ne
     setWindowTitle(QApplication::applicationDisplayName());
     setCentralWidget(mWorkspace);
     mBuffer->hide();
+    statusBar();  // says what a menu entry does
     SetUpMenu();
     FillOpeners();
     connect(mWorkspace, &Workspace::FolderDropped, this, &frmNEBSlideShow::OpenQuickShow);
@@ -151,9 +153,9 @@ bool frmNEBSlideShow::WriteDatabase() {
     } catch (const Fault& Problem) {
         SetScreenPointer(Pointer::Default);
         const QString Question =
-            tr("The albums could not be saved. On the disk they are as they were before.\n\n%1\n\n"
-               "Do you want to go on with the program, so that you can mend this and end it "
-               "again? With No, everything changed since the start is lost.")
+            tr("The albums could not be saved.\n\n%1\n\nDo you want to go on with the program, so "
+               "that you can mend this and end it again? With No, changes made since the start "
+               "may be lost.")
                 .arg(Problem.Text());
         return !AskYesNo(Question, tr("Save Failed"));
     }

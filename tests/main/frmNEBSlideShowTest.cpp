@@ -1,0 +1,394 @@
+// The start, the menu and the end of the program, on the real main window.
+#include "shell/main/frmNEBSlideShow.h"
+
+#include <gtest/gtest.h>
+#include <QAction>
+#include <QFile>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTest>
+
+#include "db/clsDBEngine.h"
+#include "harness/ScriptedBoxes.h"
+#include "harness/TempFolder.h"
+#include "harness/WithoutPrivileges.h"
+#include "intake/clsImageBuffer.h"
+#include "intake/frmQuickShow.h"
+#include "platform/FlexGrid.h"
+#include "shell/Openers.h"
+#include "shell/main/frmAbout.h"
+#include "shell/main/frmHelp.h"
+#include "shell/modNEBSlideShow.h"
+#include "support/Fault.h"
+#include "support/modHostFiles.h"
+
+namespace neb {
+namespace {
+
+class MainWindow : public ::testing::Test {
+  protected:
+    MainWindow() {
+        SetDocumentsPath(mDocuments.Path());
+        AppPathCache = mProgram.Path();
+        ReadOnlyDB = false;
+        DebugMode = false;
+    }
+    ~MainWindow() override {
+        SetHostWatcher({});
+        for (const auto& Window : LoadedForms()) Window->Unload();
+        TheOpeners() = {};
+        AppPathCache.clear();
+    }
+
+    void Start(const CommandLine& Line = {}) {
+        mWindow = std::make_unique<frmNEBSlideShow>();
+        mWindow->Form_Load(Line);
+    }
+    QAction* Entry(const char* Name) const {
+        return mWindow->findChild<QAction*>(QString::fromLatin1(Name));
+    }
+    // Presses an entry and lets its queued action run.
+    void Press(const char* Name) {
+        Entry(Name)->trigger();
+        DoEvents();
+    }
+    template <class Window>
+    static Window* Find() {
+        for (const auto& Each : LoadedForms())
+            if (auto* Found = dynamic_cast<Window*>(Each.get())) return Found;
+        return nullptr;
+    }
+    static void SaveAlbum(const QString& Name) {
+        std::int32_t AlbumID = 0;
+        ASSERT_TRUE(DBEngine->SaveAlbum(AlbumID, Name));
+    }
+
+    harness::TempFolder mDocuments;
+    harness::TempFolder mProgram;
+    harness::ScriptedBoxes mBoxes;
+    std::unique_ptr<frmNEBSlideShow> mWindow;
+};
+
+TEST_F(MainWindow, AFirstStartMakesTheFoldersAndTheGlobals) {
+    Start();
+    EXPECT_TRUE(mWindow->isVisible());
+    EXPECT_TRUE(FolderExists(DBPath() + "Albums"));
+    EXPECT_TRUE(FolderExists(DBPath() + "Temp"));
+    EXPECT_FALSE(ReadOnlyDB);
+    ASSERT_TRUE(DBEngine);
+    EXPECT_EQ(DBEngine->NextAlbumID, 1);
+    ASSERT_TRUE(ImageBuffer);
+    EXPECT_TRUE(ImageBuffer->UseSmallFiles);
+    EXPECT_EQ(ImageBuffer->BufferGrid, mWindow->flxBuffer());
+    EXPECT_FALSE(mWindow->flxBuffer()->isVisible());
+    EXPECT_TRUE(FileSystem);
+}
+
+TEST_F(MainWindow, TheSpeedTestRunsAtTheFirstStartAndNeverAgain) {
+    int Runs = 0;
+    Start();
+    mWindow.reset();
+    const auto Measure = [&Runs] { return ++Runs, SpeedTestResult(); };
+    for (int I = 0; I < 2; ++I) {
+        mWindow = std::make_unique<frmNEBSlideShow>();
+        TheOpeners().SpeedTest = Measure;
+        mWindow->Form_Load({});
+        mWindow.reset();
+    }
+    EXPECT_EQ(Runs, 1);
+}
+
+TEST_F(MainWindow, TheRecordsReachTheDiskAtTheEndAndOnlyThen) {
+    Start();
+    SaveAlbum("Holidays");
+    EXPECT_FALSE(FileExists(DBPath() + "Albums.dat"));
+    EXPECT_TRUE(mWindow->close());
+    EXPECT_EQ(FileSize(DBPath() + "Albums.dat"), 86);
+    EXPECT_EQ(DBEngine, nullptr);
+    EXPECT_EQ(ImageBuffer, nullptr);
+    EXPECT_EQ(FileSystem, nullptr);
+    Start();
+    EXPECT_TRUE(DBEngine->FindAlbum(0, "HOLIDAYS"));
+}
+
+TEST_F(MainWindow, TempIsEmptiedAtTheEnd) {
+    Start();
+    WriteFile(DBPath() + "Temp/tmp.wav", "x");
+    WriteFile(DBPath() + "Temp/noextension", "x");
+    mWindow->close();
+    EXPECT_TRUE(ListDir(DBPath() + "Temp").empty());
+}
+
+TEST_F(MainWindow, AReadOnlyDatabaseIsShownAndNeverWritten) {
+    Start();
+    SaveAlbum("Holidays");
+    mWindow->close();
+    QFile::setPermissions(DBPath() + "NextIDs.dat", QFileDevice::ReadOwner);
+    const auto Before = FileTime(DBPath() + "Albums.dat");
+    WriteFile(DBPath() + "Temp/left.tmp", "x");
+
+    Start();
+    EXPECT_TRUE(ReadOnlyDB);
+    EXPECT_FALSE(Entry("mnuAlbumNew")->isEnabled());
+    SaveAlbum("More");
+    EXPECT_TRUE(mWindow->close());
+    EXPECT_EQ(FileSize(DBPath() + "Albums.dat"), 86);
+    EXPECT_EQ(FileTime(DBPath() + "Albums.dat"), Before);
+    EXPECT_TRUE(ListDir(DBPath() + "Temp").empty());
+}
+
+TEST_F(MainWindow, AReadOnlyDatabaseRunsNoSpeedTest) {
+    Start();
+    mWindow->close();
+    QFile::setPermissions(DBPath() + "NextIDs.dat", QFileDevice::ReadOwner);
+    mWindow = std::make_unique<frmNEBSlideShow>();
+    TheOpeners().SpeedTest = []() -> SpeedTestResult {
+        ADD_FAILURE();
+        return {};
+    };
+    mWindow->Form_Load({});
+}
+
+TEST_F(MainWindow, TheLogTellsTheStartWhenItIsWanted) {
+    CommandLine Line;
+    Line.Debug = true;
+    Start(Line);
+    QStringList Messages;
+    for (const QByteArray& Row : ReadFile(AppPath() + "QLM.log").trimmed().split('\n')) {
+        const QList<QByteArray> Columns = Row.split('\t');
+        ASSERT_EQ(Columns.size(), 3);
+        EXPECT_EQ(Columns[1], "Information");
+        Messages << QString::fromUtf8(Columns[2]);
+    }
+    const QStringList Expected = {"Showing Main Form",
+                                  "Starting Initializing and Buffering Database",
+                                  "Completed Initializing and Buffering Database",
+                                  "Check if Read-Only",
+                                  "If not read-only, call Speed Tests routine.",
+                                  "Attempt to make child dirs.",
+                                  "Load Completed Successfully."};
+    EXPECT_EQ(Messages, Expected);
+}
+
+TEST_F(MainWindow, WithoutTheSwitchThereIsNoLog) {
+    Start();
+    EXPECT_FALSE(FileExists(AppPath() + "QLM.log"));
+}
+
+TEST_F(MainWindow, EveryMenuEntryIsInItsPlace) {
+    Start();
+    for (const char* Name :
+         {"mnuAlbumNew", "mnuAlbumRename", "mnuAlbumDelete", "mnuAlbumExport", "mnuAlbumImport",
+          "mnuAlbumPrint", "mnuSlideMgr", "mnuSlideMgrBulk", "mnuSlideShowMgr",
+          "mnuSlideShowExport", "mnuSlideShowImport", "mnuSlideShowPrint", "mnuSlideShowPrefs",
+          "mnuSlideShowViewer", "mnuQuickShow", "mnuHelpContents", "mnuHelpIndex", "mnuAbout",
+          "mnuExit"})
+        EXPECT_TRUE(Entry(Name)) << Name;
+    for (const char* Name : {"mnuFileHdr", "mnuAlbumHdr", "mnuSlideShowHdr", "mnuImportExportHdr",
+                             "mnuPrintHdr", "mnuWindows", "mnuHelpHdr"})
+        EXPECT_TRUE(mWindow->menuBar()->findChild<QMenu*>(QString::fromLatin1(Name))) << Name;
+}
+
+TEST_F(MainWindow, NoTwoEntriesOfAMenuShareAMnemonicAndNoTwoAShortcut) {
+    Start();
+    QStringList Shortcuts;
+    for (QAction* Header : mWindow->menuBar()->actions()) {
+        QString Mnemonics;
+        for (QAction* Each : Header->menu()->actions()) {
+            if (Each->isSeparator()) continue;
+            const QChar Letter = Each->text()[Each->text().indexOf('&') + 1].toLower();
+            EXPECT_FALSE(Mnemonics.contains(Letter)) << Each->text().toStdString();
+            Mnemonics += Letter;
+            if (!Each->shortcut().isEmpty()) Shortcuts << Each->shortcut().toString();
+        }
+    }
+    EXPECT_EQ(Shortcuts.removeDuplicates(), 0);
+}
+
+TEST_F(MainWindow, QuickShowWindowsStandInTheCascade) {
+    Start();
+    Press("mnuQuickShow");
+    Press("mnuQuickShow");
+    const auto Frames = mWindow->findChild<QMdiArea*>()->subWindowList();
+    ASSERT_EQ(Frames.size(), 2);
+    EXPECT_EQ(Frames[0]->pos(), QPoint(0, 0));
+    EXPECT_EQ(Frames[1]->pos(), QPoint(22, 22));
+    EXPECT_TRUE(Frames[1]->isVisible());
+}
+
+TEST_F(MainWindow, TheWindowMenuListsTheOpenWindows) {
+    Start();
+    Press("mnuQuickShow");
+    auto* Menu = mWindow->menuBar()->findChild<QMenu*>("mnuWindows");
+    for (int I = 0; I < 2; ++I) {  // opening the menu twice lists each window once
+        Q_EMIT Menu->aboutToShow();
+        QStringList Texts;
+        for (QAction* Each : Menu->actions()) Texts << Each->text();
+        EXPECT_EQ(Texts.filter("Quick Show").size(), 1);
+    }
+    Press("mnuTile");
+    Press("mnuCascade");
+    EXPECT_TRUE(Find<frmQuickShow>()->isVisible());
+}
+
+TEST_F(MainWindow, TheFrameOfAChildClosesItAndTheChildCanCloseItself) {
+    Start();
+    Press("mnuQuickShow");
+    auto* Area = mWindow->findChild<QMdiArea*>();
+    Area->subWindowList().first()->close();
+    DoEvents();
+    EXPECT_EQ(Find<frmQuickShow>(), nullptr);
+    EXPECT_TRUE(Area->subWindowList().isEmpty());
+
+    Press("mnuQuickShow");
+    QTest::mouseClick(Find<frmQuickShow>()->findChild<QPushButton*>("cmdCancel"), Qt::LeftButton);
+    DoEvents();
+    EXPECT_EQ(Find<frmQuickShow>(), nullptr);
+    EXPECT_TRUE(Area->subWindowList().isEmpty());
+}
+
+TEST_F(MainWindow, TheEndUnloadsEveryWindow) {
+    Start();
+    Press("mnuQuickShow");
+    EXPECT_TRUE(mWindow->close());
+    EXPECT_TRUE(LoadedForms().empty());
+    const clsSettings Settings = OpenSettings();
+    EXPECT_FALSE(Settings.GetValue("frmQuickShow", "Height", {}).isEmpty());
+}
+
+TEST_F(MainWindow, AFullDiskAtTheEndKeepsTheProgramOpenWhenTheUserWants) {
+    Start();
+    SaveAlbum("Holidays");
+    SetHostWatcher([](HostStep Step, const QString&, qint64& Length) {
+        if (Step == HostStep::Write) Length = 0;
+    });
+    int Asked = 0;
+    TheServices().Boxes = nullptr;  // answered below, whatever the exact text
+    class Answers : public MessageBoxes {
+      public:
+        explicit Answers(int& Count) : mCount(Count) {}
+        BoxAnswer Show(const BoxRequest& Request) override {
+            ++mCount;
+            EXPECT_TRUE(Request.Text.contains("could not be saved"));
+            return BoxAnswer::Yes;
+        }
+        int& mCount;
+    } Yes(Asked);
+    TheServices().Boxes = &Yes;
+    EXPECT_FALSE(mWindow->close());
+    EXPECT_EQ(Asked, 1);
+    ASSERT_TRUE(DBEngine);
+    SetHostWatcher({});
+    EXPECT_TRUE(mWindow->close());
+    EXPECT_EQ(FileSize(DBPath() + "Albums.dat"), 86);
+    TheServices().Boxes = &mBoxes;
+}
+
+TEST_F(MainWindow, AFolderThatCannotBeWrittenIsSaidAtTheStart) {
+    class Notes : public MessageBoxes {
+      public:
+        BoxAnswer Show(const BoxRequest& Request) override {
+            Titles << Request.Title;
+            return BoxAnswer::Ok;
+        }
+        QStringList Titles;
+    } Boxes;
+    TheServices().Boxes = &Boxes;
+    SetHostWatcher([](HostStep Step, const QString& Path, qint64&) {
+        if (Step == HostStep::Write && Path.contains("Temp"))
+            throw Fault(QStringLiteral("no permission"), Path);
+    });
+    Start();
+    EXPECT_EQ(Boxes.Titles, QStringList("Albums Cannot Be Written"));
+    EXPECT_TRUE(DBEngine);
+    SetHostWatcher({});
+    TheServices().Boxes = &mBoxes;
+}
+
+TEST_F(MainWindow, PlayingWithoutAnActiveShowSaysSo) {
+    Start();
+    mBoxes.Expect("You must first select an Active Slide Show in Preferences!",
+                  "No Active Slide Show", BoxIcon::Information, BoxAnswer::Ok);
+    int Opened = 0;
+    TheOpeners().Preferences = [&](std::int32_t, std::int32_t, double Timeout) {
+        return ++Opened, Timeout;
+    };
+    Press("mnuSlideShowViewer");
+    EXPECT_EQ(Opened, 1);
+}
+
+TEST_F(MainWindow, PlayingAnAlbumThatIsGoneStopsWithoutAWord) {
+    Start();
+    clsSettings Settings = OpenSettings();
+    Settings.PutValue({}, "ActiveAlbum", "7");
+    Settings.PutValue({}, "ActiveSlideShow", "1");
+    Settings.Save();
+    Press("mnuSlideShowViewer");
+    EXPECT_EQ(mBoxes.ShownCount(), 0);
+}
+
+TEST_F(MainWindow, AboutSaysTheVersionAndWhenThereIsNoSystemInformation) {
+    Start();
+    const QByteArray Path = qgetenv("PATH");
+    qputenv("PATH", mProgram.Path().toUtf8());
+    mBoxes.Expect("System Information Is Unavailable At This Time");
+    bool Seen = false;
+    QTimer::singleShot(0, [&] {
+        auto* About = Find<frmAbout>();
+        ASSERT_TRUE(About);
+        Seen = About->findChild<QLabel*>("lblVersion")->text().startsWith("Version ");
+        QTest::mouseClick(About->findChild<QPushButton*>("cmdSysInfo"), Qt::LeftButton);
+        QTest::keyClick(About, Qt::Key_Return);
+    });
+    NewForm<frmAbout>()->ShowModal();
+    qputenv("PATH", Path);
+    EXPECT_TRUE(Seen);
+}
+
+TEST_F(MainWindow, SystemInformationStartsTheToolThatTheDesktopHas) {
+    const QString Tool = mProgram / "hardinfo";
+    WriteFile(Tool, "#!/bin/sh\ntouch \"$(dirname \"$0\")/started\"\n");
+    QFile::setPermissions(Tool, QFileDevice::ReadOwner | QFileDevice::ExeOwner);
+    const QByteArray Path = qgetenv("PATH");
+    qputenv("PATH", mProgram.Path().toUtf8() + ':' + Path);
+    StartSysInfo();
+    qputenv("PATH", Path);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return FileExists(mProgram / "started"); }, 3000));
+}
+
+TEST_F(MainWindow, HelpIsShownAndAMissingHelpFileIsIgnored) {
+    Start();
+    Press("mnuHelpContents");
+    EXPECT_EQ(Find<frmHelp>(), nullptr);
+    WriteFile(AppPath() + "SlideShowHelp.hlp", "<h1>Help</h1>");
+    Press("mnuHelpIndex");
+    EXPECT_TRUE(Find<frmHelp>());
+}
+
+TEST_F(MainWindow, ADatabaseThatCannotBeReadIsAFaultAndNothingIsWritten) {
+    Start();
+    SaveAlbum("Holidays");
+    mWindow->close();
+    const QByteArray Albums = ReadFile(DBPath() + "Albums.dat");
+    QFile::setPermissions(mDocuments.Path(), QFileDevice::Permissions(0x7777));
+    QFile::setPermissions(DBPath() + "Slides.dat", {});
+    mWindow = std::make_unique<frmNEBSlideShow>();
+    bool Failed = false;
+    {
+        const harness::WithoutPrivileges User;
+        try {
+            mWindow->Form_Load({});
+        } catch (const Fault& Problem) {
+            Failed = Problem.File().endsWith("Slides.dat");
+        }
+        mWindow->close();
+    }
+    mWindow.reset();
+    EXPECT_EQ(ReadFile(DBPath() + "Albums.dat"), Albums);
+    EXPECT_TRUE(Failed);
+}
+
+}  // namespace
+}  // namespace neb

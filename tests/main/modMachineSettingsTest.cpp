@@ -1,0 +1,117 @@
+// The one-time speed test and what it leaves in the settings file.
+#include "shell/main/modMachineSettings.h"
+
+#include <gtest/gtest.h>
+
+#include "harness/TempFolder.h"
+#include "shell/modNEBSlideShow.h"
+#include "support/Fault.h"
+#include "support/modHostFiles.h"
+
+namespace neb {
+namespace {
+
+class MachineSettings : public ::testing::Test {
+  protected:
+    MachineSettings() { SetDocumentsPath(mDocuments.Path()); }
+    ~MachineSettings() override { TheOpeners() = {}; }
+
+    static QString Value(const char* Key) {
+        return OpenSettings().GetValue({}, QString::fromLatin1(Key), QStringLiteral("none"));
+    }
+
+    harness::TempFolder mDocuments;
+    int mRuns = 0;
+};
+
+TEST_F(MachineSettings, NoResultLeavesTheDefaults) {
+    TheOpeners().SpeedTest = [] { return SpeedTestResult(); };
+    EnsureMachineSettings();
+    for (const char* Key : {"Timeout", "TimeoutH", "TimeoutM", "TimeoutL"})
+        EXPECT_EQ(Value(Key), "10") << Key;
+    for (const char* Key : {"StepH", "StepM", "StepL"}) EXPECT_EQ(Value(Key), "33") << Key;
+    for (const char* Key : {"DelayH", "DelayM", "DelayL"}) EXPECT_EQ(Value(Key), "1000") << Key;
+    for (const char* Key : {"AvgTimeH", "AvgTimeM", "AvgTimeL"})
+        EXPECT_EQ(Value(Key), "N/A") << Key;
+    EXPECT_EQ(Value("MaxEffectLevel"), "0");
+}
+
+TEST_F(MachineSettings, AResultIsStoredInItsShortestForm) {
+    TheOpeners().SpeedTest = [] {
+        SpeedTestResult Result;
+        Result.Timeout = 12.5;
+        Result.TimeoutH = 10;
+        Result.StepH = 1;
+        Result.DelayH = 100;
+        Result.AvgTimeH = 3.25F;
+        return Result;
+    };
+    EnsureMachineSettings();
+    EXPECT_EQ(Value("Timeout"), "12.5");
+    EXPECT_EQ(Value("TimeoutH"), "10");
+    EXPECT_EQ(Value("StepH"), "1");
+    EXPECT_EQ(Value("DelayH"), "100");
+    EXPECT_EQ(Value("AvgTimeH"), "3.25");
+    EXPECT_EQ(Value("AvgTimeM"), "N/A");
+    EXPECT_EQ(Value("MaxEffectLevel"), "3");
+}
+
+TEST_F(MachineSettings, ATimeoutBelowTenIsNotTaken) {
+    clsSettings Settings = OpenSettings();
+    SpeedTestResult Result;
+    Result.Timeout = 9.9;
+    StoreMachineSettings(Settings, Result);
+    EXPECT_EQ(Value("Timeout"), "10");
+}
+
+TEST_F(MachineSettings, TheKeysStandInTheirOrder) {
+    clsSettings Settings = OpenSettings();
+    StoreMachineSettings(Settings, {});
+    const QString Text = ReadFile(SettingsDir() + INIFileName());
+    qsizetype Last = -1;
+    for (const char* Key :
+         {"TimeoutH", "StepH", "DelayH", "AvgTimeH", "TimeoutM", "StepM", "DelayM", "AvgTimeM",
+          "TimeoutL", "StepL", "DelayL", "AvgTimeL", "Timeout="}) {
+        const qsizetype At = Text.indexOf(QString::fromLatin1(Key));
+        EXPECT_GT(At, Last) << Key;
+        Last = At;
+    }
+}
+
+TEST_F(MachineSettings, TheTestRunsOnceInTheLifeOfASettingsFile) {
+    TheOpeners().SpeedTest = [this] { return ++mRuns, SpeedTestResult(); };
+    EnsureMachineSettings();
+    EnsureMachineSettings();
+    EXPECT_EQ(mRuns, 1);
+}
+
+TEST_F(MachineSettings, AFaultInTheTestLeavesTheDefaults) {
+    TheOpeners().SpeedTest = []() -> SpeedTestResult { throw Fault(QStringLiteral("no screen")); };
+    EnsureMachineSettings();
+    EXPECT_EQ(Value("Timeout"), "10");
+}
+
+TEST_F(MachineSettings, WithoutATestInTheBuildItIsStillToCome) {
+    EnsureMachineSettings();
+    EXPECT_EQ(Value("Timeout"), "none");
+}
+
+TEST(MaxEffectLevel, ALevelIsEarnedBelowFourSecondsAndOnlyWhenMeasured) {
+    const struct {
+        float H, M, L;
+        int Level;
+    } Rows[] = {
+        {3.99F, 1, 1, 3}, {4.0F, 3.9F, 1, 2}, {0, 3.9F, 1, 2}, {5, 4.0F, 3.9F, 1},
+        {0, 0, 3.9F, 1},  {5, 5, 4.0F, 0},    {0, 0, 0, 0},    {-1, -1, -1, 0},
+    };
+    for (const auto& Row : Rows) {
+        SpeedTestResult Result;
+        Result.AvgTimeH = Row.H;
+        Result.AvgTimeM = Row.M;
+        Result.AvgTimeL = Row.L;
+        EXPECT_EQ(MaxEffectLevelFor(Result), Row.Level) << Row.H << ' ' << Row.M << ' ' << Row.L;
+    }
+}
+
+}  // namespace
+}  // namespace neb
