@@ -59,6 +59,8 @@ QImage PaintDunes(QSize Size) {
     Ground.Focal = 1.15F;
     Ground.Near = 1.5F;
     Ground.Far = 80;
+    Ground.Fine = 0.0012F;
+    Ground.Slope = -0.01F;
     const Rgb Sun = {-0.80F, 0.42F, 0.43F};
     DrawTerrain(Target, Ground, [&](const Spot& Place) { return SandAt(Ground, Place, Sun); });
     return Target.Develop(0.014F, 0.25F);
