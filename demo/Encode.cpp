@@ -29,6 +29,7 @@ QByteArray ByQt(const QImage& Image, const QString& Format) {
     QImageWriter Writer(&Buffer, Format.toLatin1());
     if (Format == u"jpg") Writer.setQuality(92);
     if (Format == u"tif") Writer.setCompression(1);
+    if (Format == u"png") Writer.setCompression(33);
     if (!Writer.write(Image)) throw Fault(Writer.errorString());
     return Buffer.data();
 }

@@ -25,6 +25,12 @@ float Corner(int X, int Y, float Dx, float Dy, std::uint32_t Seed) {
     return S.X * Dx + S.Y * Dy;
 }
 
+// Much faster than the library's on plain processors, and this is where the time goes.
+int Floor(float V) {
+    const int Whole = static_cast<int>(V);
+    return Whole - (V < static_cast<float>(Whole) ? 1 : 0);
+}
+
 float Fade(float T) {
     return T * T * T * (T * (T * 6 - 15) + 10);
 }
@@ -46,9 +52,9 @@ float Chance(int X, int Y, std::uint32_t Seed) {
 }
 
 float Noise(float X, float Y, std::uint32_t Seed) {
-    const float Fx = std::floor(X), Fy = std::floor(Y);
-    const int Ix = static_cast<int>(Fx), Iy = static_cast<int>(Fy);
-    const float Dx = X - Fx, Dy = Y - Fy, U = Fade(Dx), V = Fade(Dy);
+    const int Ix = Floor(X), Iy = Floor(Y);
+    const float Dx = X - static_cast<float>(Ix), Dy = Y - static_cast<float>(Iy), U = Fade(Dx),
+                V = Fade(Dy);
     const float A = Corner(Ix, Iy, Dx, Dy, Seed), B = Corner(Ix + 1, Iy, Dx - 1, Dy, Seed);
     const float C = Corner(Ix, Iy + 1, Dx, Dy - 1, Seed);
     const float D = Corner(Ix + 1, Iy + 1, Dx - 1, Dy - 1, Seed);
@@ -84,7 +90,7 @@ float Ridged(float X, float Y, int Octaves, std::uint32_t Seed) {
 }
 
 Cell Worley(float X, float Y, std::uint32_t Seed) {
-    const int Ix = static_cast<int>(std::floor(X)), Iy = static_cast<int>(std::floor(Y));
+    const int Ix = Floor(X), Iy = Floor(Y);
     float Best = 9, Second = 9;
     Cell Result;
     for (int Cy = Iy - 1; Cy <= Iy + 1; ++Cy) {

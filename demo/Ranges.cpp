@@ -30,6 +30,7 @@ void PaintRange(Picture& Target, const Range& Hills, float LightX) {
         const float Down = Y - Ridge[static_cast<size_t>(X / Target.Unit())];
         const float Cover = Clamp01(Down / Target.Unit() + 0.5F);
         if (Cover <= 0) return Behind;
+        if (Down > Hills.Depth + 0.06F) return Hills.Mist;
         const float Veil = Smooth(0, Hills.Depth, Down + 0.05F * Fbm(X * 2.2F, Y * 7, 3, 300));
         Rgb C = Hills.Colour;
         if (Hills.Relief > 0 && Veil < 0.95F)

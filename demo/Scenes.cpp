@@ -19,7 +19,7 @@ constexpr Scene Table[] = {
     {"Lighthouse at Dusk.psd", {1280, 960}, PaintLighthouse},
     {"Desert Dunes.bmp", {1280, 960}, PaintDunes},
     {"Winter Evening.jpg", {1600, 1200}, PaintWinter},
-    {"Seahorse Valley.png", {1280, 960}, PaintJulia},
+    {"Seahorse Valley.png", {1200, 900}, PaintJulia},
     {"Dew on a Leaf.jpg", {1400, 1400}, PaintDew},
     {"Rose Window.png", {1200, 1200}, PaintRoseWindow},
     {"Rain on the Window.pcx", {1024, 768}, PaintRainyWindow},

@@ -1,6 +1,5 @@
 // Pictures that are no photographs: a Julia set, a rose window, a mill engraved in lines.
 #include <QLinearGradient>
-#include <complex>
 
 #include "Props.h"
 #include "Ranges.h"

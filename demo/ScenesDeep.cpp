@@ -70,7 +70,7 @@ void PaintReef(QPainter& P, float X, float Y, float Wide, float High, Rgb Deep, 
                                               Chances.Next()) %
                           6],
                     0.35F + 0.35F * Noise(Px * 14, Py * 14, 462)),
-                Hex(0x0c4a7c), 0.22F);
+                Hex(0x1a6a9c), 0.20F);
         P.setBrush(ToColor(Tuft * (0.40F + 0.75F * Out * Out)));
         Disc(P, Px, Py, R, R);
         P.setBrush(ToColor(Tuft * 1.5F + Hex(0x101c18), 0.5F));

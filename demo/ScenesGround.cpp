@@ -59,6 +59,8 @@ QImage PaintDunes(QSize Size) {
     Ground.Focal = 1.15F;
     Ground.Near = 1.5F;
     Ground.Far = 80;
+    Ground.Fine = 0.0012F;
+    Ground.Slope = -0.01F;
     const Rgb Sun = {-0.80F, 0.42F, 0.43F};
     DrawTerrain(Target, Ground, [&](const Spot& Place) { return SandAt(Ground, Place, Sun); });
     return Target.Develop(0.014F, 0.25F);
@@ -76,7 +78,7 @@ float BillowHeight(float X, float Z) {
     const float Fine = std::fabs(Noise(Bx * 8.1F, Bz * 8.1F + 2, 219));
     const float Mass = Smooth(-0.5F, 0.5F, Wide);
     return 1.0F * Wide +
-           (0.35F + 0.65F * Mass) * (0.95F * Puff + 0.42F * Small + 0.17F * Tiny + 0.06F * Fine);
+           (0.35F + 0.65F * Mass) * (0.95F * Puff + 0.42F * Small + 0.13F * Tiny + 0.03F * Fine);
 }
 
 constexpr Stop HighSky[] = {{0, Hex(0x2a5a9c)},
@@ -123,6 +125,7 @@ QImage PaintClouds(QSize Size) {
     Ground.Near = 2.2F;
     Ground.Far = 90;
     Ground.Fine = 0.003F;
+    Ground.Slope = 0.030F;
     const Rgb Sun = {0.45F, 0.38F, 0.81F};
     DrawTerrain(Target, Ground, [&](const Spot& Place) { return CloudAt(Place, Sun); });
     Target.Bloom(0.85F, 0.06F, 0.25F);

@@ -150,8 +150,9 @@ void PaintCopses(Picture& Target, const Range& Hills, float Leaf, int Count, std
         for (int I = 0; I < Count; ++I) {
             const float Deep = static_cast<float>(I) / static_cast<float>(Count);
             const float X = Chances.Range(0, Target.Aspect()), Down = 0.004F + Deep * 0.17F;
-            if (Fbm(X * 3.2F, Down * 20, 3, Seed) < 0.16F) continue;
-            const float Y = RidgeAt(Hills, X) + Down, R = Leaf * Chances.Range(0.5F, 1.2F);
+            if (Fbm(X * 2.4F, Down * 13, 3, Seed) < 0.10F) continue;
+            const float Y = RidgeAt(Hills, X) + Down,
+                        R = Leaf * Chances.Range(0.4F, 1.0F) * (0.6F + Deep);
             const Rgb Tree = Mix(Hex(0x1c4426), Hills.Mist, 0.25F + 0.8F * Deep * Deep);
             P.setBrush(ToColor(Tree));
             Disc(P, X, Y, R, R * 1.15F);
@@ -178,7 +179,7 @@ QImage PaintBalloons(QSize Size) {
         const Range& Hills = BalloonRanges[I];
         PaintRange(Target, Hills, SunX);
         if (I > 1)
-            PaintCopses(Target, Hills, 0.0016F * static_cast<float>(I - 1), 9000 - 1500 * I,
+            PaintCopses(Target, Hills, 0.0026F * static_cast<float>(I - 1), 14000 - 2400 * I,
                         70U + static_cast<std::uint32_t>(I));
     }
     for (auto B = std::rbegin(Balloons); B != std::rend(Balloons); ++B) {

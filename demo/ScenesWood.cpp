@@ -181,15 +181,22 @@ constexpr Range SnowHills[] = {
 
 // Snow lies on the sunny side of each tier; the tree beneath stays dark.
 // One tier of boughs: drooping tips below, drawn together above.
-QPainterPath Bough(float X, float Top, float Bottom, float Wide, Dice& Chances) {
+struct Fringe {
+    int Tips;
+    float Hang;  // of what is between the tips, in parts of the height; above 0 round lumps
+};
+
+// One tier of boughs or of the snow on it: drawn together above, a fringe below.
+QPainterPath Bough(float X, float Top, float Bottom, float Wide, Fringe Edge, Dice& Chances) {
     QPainterPath Path(QPointF(X, Top));
-    const float Tall = Bottom - Top;
+    const float Tall = Bottom - Top, Tips = static_cast<float>(Edge.Tips);
     Path.quadTo(X + Wide * 0.30F, Top + Tall * 0.55F, X + Wide, Bottom);
-    constexpr int Tips = 7;
-    for (int I = 1; I <= Tips; ++I) {
+    for (int I = 1; I <= Edge.Tips; ++I) {
         const float T = static_cast<float>(I) / Tips, End = X + Wide * (1 - 2 * T);
-        const float Sag = Tall * (0.30F - 0.25F * std::fabs(1 - 2 * T)) * Chances.Range(0.5F, 1.3F);
-        Path.quadTo(End + Wide / Tips, Bottom - Tall * 0.16F, End, Bottom + (I < Tips ? Sag : 0));
+        const float Sag = Tall * 0.22F * (1 - Square(1 - 2 * T)) * Chances.Range(0.4F, 1.2F);
+        const float Hang = Tall * Edge.Hang * Chances.Range(0.6F, 1.3F);
+        Path.quadTo(End + Wide / Tips, Bottom + Sag + Hang, End,
+                    Bottom + (I < Edge.Tips ? Sag : 0));
     }
     Path.quadTo(X - Wide * 0.30F, Top + Tall * 0.55F, X, Top);
     return Path;
@@ -204,14 +211,14 @@ void PaintSnowFir(QPainter& P, float X, float Base, float High, Rgb Tree, Rgb Sn
         const float T = static_cast<float>(I) / Tiers,
                     Wide = High * (0.055F + 0.19F * T) * Chances.Range(0.9F, 1.1F);
         const float Top = Base - High * (1 - T * 0.86F), Bottom = Top + High * (0.13F + 0.09F * T);
-        P.fillPath(Bough(X, Top, Bottom, Wide, Chances),
+        P.fillPath(Bough(X, Top, Bottom, Wide, {15, -0.14F}, Chances),
                    ToColor(Tree * Chances.Range(0.85F, 1.1F)));
         const float Off = High * 0.012F, Low = Bottom - High * (0.030F + 0.012F * T);
         QLinearGradient Light(X - Wide, 0, X + Wide, 0);
         Light.setColorAt(0, ToColor(Mix(Snow, Hex(0x7488c4), 0.75F)));
         Light.setColorAt(0.55, ToColor(Mix(Snow, Hex(0x9aaade), 0.35F)));
         Light.setColorAt(1, ToColor(Snow));
-        P.fillPath(Bough(X + Off * 0.4F, Top - Off, Low, Wide * 0.86F, Chances), Light);
+        P.fillPath(Bough(X + Off * 0.4F, Top - Off, Low, Wide * 0.84F, {5, 0.14F}, Chances), Light);
     }
 }
 

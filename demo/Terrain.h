@@ -20,7 +20,9 @@ struct Terrain {
     float Focal = 1;       // larger sees a narrower part
     float Near = 0.5F, Far = 60;
     float Fine = 0.004F;  // step in parts of the distance
-    float Slope = 0.01F;  // span in parts of the distance over which facing is measured
+    // Span, in parts of the distance, over which the ground's facing is measured: away from the
+    // eye, which lights the rims of soft hills, or below 0 towards it, which keeps crests sharp.
+    float Slope = 0.01F;
 };
 
 using SpotColour = std::function<Rgb(const Spot&)>;
