@@ -69,15 +69,19 @@ class PageEngine : public Engine {
         const std::int64_t FlapEnd = 2 * S.Axis - S.Reach + PiTimes(S.Radius);
         const std::int64_t Near = std::min(FlapEnd - ShadowReach(S), S.Axis);
         const std::int64_t Far = S.Axis + S.Radius + ShadowReach(S);
-        for (int X = 0; X < F.Width; ++X) {
-            const std::int64_t D = DistanceAt(X, Y);
-            if (D <= Near)
-                Out[X] = Old[X];
-            else if (D >= Far)
-                Out[X] = New[X];
-            else
-                Out[X] = Curled(F, S, X, Y, D);
-        }
+        const QRgb* Plain = DistanceAt(0, Y) <= Near ? Old : New;
+        int X0 = 0, X1 = F.Width;
+        while (X0 < X1 && IsPlain(X0, Y, Near, Far)) ++X0;
+        CopySpan(Out, Plain, X0);
+        Plain = DistanceAt(X1 - 1, Y) <= Near ? Old : New;
+        while (X1 > X0 && IsPlain(X1 - 1, Y, Near, Far)) --X1;
+        CopySpan(Out + X1, Plain + X1, F.Width - X1);
+        for (int X = X0; X < X1; ++X) Out[X] = Curled(F, S, X, Y, DistanceAt(X, Y));
+    }
+
+    bool IsPlain(int X, int Y, std::int64_t Near, std::int64_t Far) const {
+        const std::int64_t D = DistanceAt(X, Y);
+        return D <= Near || D >= Far;
     }
 
     static std::int64_t PiTimes(std::int64_t R) { return (R * 205887) >> 16; }
@@ -115,7 +119,7 @@ class PageEngine : public Engine {
         const auto Left = static_cast<int>((Width - std::max<std::int64_t>(0, Way)) * 256 / Width);
         return ((Left * Left) >> 8) * Lift * 150 >> 16;
     }
-    static QRgb Shaded(QRgb C, int Darkness) { return Darkness ? Mix(C, kBlack, Darkness) : C; }
+    static QRgb Shaded(QRgb C, int Darkness) { return Darkness ? Darken(C, Darkness) : C; }
 
     // How much of the sheet there is at a distance along it: soft at its end, 0 beyond.
     static int InSheet(const Sheet& S, std::int64_t Along) {
@@ -141,7 +145,7 @@ class PageEngine : public Engine {
                    QRgb Below) const {
         QRgb C = 0;
         const int Seen = SheetAt(F, S, X, Y, D, Along, C);
-        return Seen ? Mix(Below, C, Seen) : Below;
+        return Seen == 256 ? C : (Seen ? Mix(Below, C, Seen) : Below);
     }
 
     QRgb OverBack(const Frame& F, const Sheet& S, int X, int Y, std::int64_t D, std::int64_t Along,
@@ -149,9 +153,19 @@ class PageEngine : public Engine {
         QRgb C = 0;
         const int Seen = SheetAt(F, S, X, Y, D, Along, C);
         if (Seen == 0) return Below;
-        // The back is paper through which the picture shows faintly; it darkens down the curl.
+        C = BackAt(C, Height);
+        return Seen == 256 ? C : Mix(Below, C, Seen);
+    }
+
+    // The back is paper through which the picture shows faintly; it darkens down the curl.
+    static QRgb BackAt(QRgb C, int Height) {
+        constexpr int Through = 51;
         const int Down = (Height >> 8) * (Height >> 8) >> 8;
-        return Mix(Below, Mix(Mix(C, kPaper, 205), kBlack, 12 + (Down * 120 >> 8)), Seen);
+        const int Light = 244 - (Down * 120 >> 8);
+        const auto Faint = static_cast<std::uint64_t>(Through * Light >> 8);
+        const auto Bright = static_cast<std::uint64_t>(Light) - Faint;
+        const std::uint64_t Lanes = Spread(C) * Faint + Spread(kPaper) * Bright + kHalves;
+        return Gather((Lanes >> 8) & kLaneBytes) | kBlack;
     }
 
     QSize mSize;

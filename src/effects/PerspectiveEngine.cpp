@@ -115,7 +115,7 @@ class PerspectiveEngine : public Engine {
 
     static void Put(QRgb& Out, const Line& L, int U, int V, int Du, int Dv, int Seen) {
         QRgb C = SampleArea(*L.Source, U, V, Du, Dv);
-        if (L.Shade) C = Mix(C, kBlack, L.Shade);
+        if (L.Shade) C = Darken(C, L.Shade);
         Out = Seen == 256 ? C : Mix(Out, C, Seen);
     }
 

@@ -41,7 +41,7 @@ class DistanceMap {
 
 QRgb Lit(QRgb C, int Light) {
     if (Light == 0) return C;
-    return Light > 0 ? Mix(C, 0xFFFFFFFFu, Light) : Mix(C, kBlack, -Light);
+    return Light > 0 ? Mix(C, 0xFFFFFFFFu, Light) : Darken(C, -Light);
 }
 
 class RingEngine : public Engine {
@@ -124,7 +124,9 @@ class TwirlEngine : public RingEngine {
     Ring RingAt(int Distance, int Progress) const override {
         const int Inner = One - static_cast<int>(std::int64_t{Distance} * One / (Reach() + 1));
         const int Angle = Scale(Hump(Progress), Ease(Inner)) / 4 * mQuarters;
-        const int Weight = Ease(Clamp((Progress - One * 2 / 5) * 5, 0, One)) >> 8;
+        // The new picture wells up in the middle and spreads while the turning is strongest.
+        const int Spread = Clamp((Progress - One / 3) * 3, 0, One);
+        const int Weight = Clamp((Scale(5 * One / 4, Spread) - (One - Inner)) >> 6, 0, 256);
         return {Cosine(Angle) - One, Sine(Angle), Weight, 0};
     }
 
