@@ -43,7 +43,7 @@ class LightEngine : public Engine {
     void Draw(const Frame& F, int Y0, int Y1) const override {
         constexpr int SoftBits = 12;
         const int Edge = Scale(kLevels + (1 << SoftBits), F.Progress);
-        auto* Moments = Scratch<std::int16_t>(F.Width);
+        auto* Moments = Scratch<std::int16_t, LightEngine>(F.Width);
         for (int Y = Y0; Y < Y1; ++Y) {
             FindMoments(F.New.Row(Y), Moments, F.Width, mBrightFirst ? kLevels - 1 : 0);
             MixByMoments(F.Row(Y), F.Old.Row(Y), F.New.Row(Y), Moments, F.Width, Edge, SoftBits);

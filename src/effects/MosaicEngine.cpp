@@ -66,7 +66,7 @@ class MosaicEngine : public Engine {
     static void DrawTileRow(const Frame& F, const Tiling& Across, int Top, int End, int Weight,
                             QRgb* Out) {
         const int Tiles = Across.TileAt(F.Width - 1) + 1;
-        auto* Colours = Scratch<QRgb>(2 * Tiles);
+        auto* Colours = Scratch<QRgb, MosaicEngine>(2 * Tiles);
         FindColours(F.Old, Across, Top, End, Colours, Weight < 256);
         FindColours(F.New, Across, Top, End, Colours + Tiles, Weight > 0);
         for (int T = 0; T < Tiles; ++T) {
@@ -80,7 +80,7 @@ class MosaicEngine : public Engine {
         const int Tiles = Across.TileAt(P.Width - 1) + 1;
         std::fill_n(Colours, Tiles, kBlack);
         if (!Wanted) return;
-        auto* Sums = Scratch<std::uint16_t>(4 * P.Width);
+        auto* Sums = Scratch<std::uint16_t, MosaicEngine>(4 * P.Width);
         std::fill_n(Sums, 4 * P.Width, std::uint16_t{0});
         for (int Y = Top; Y < End; ++Y) AddRow(Sums, P.Row(Y), P.Width);
         for (int T = 0; T < Tiles; ++T) {

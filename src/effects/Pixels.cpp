@@ -12,21 +12,6 @@ std::uint8_t* Bytes(QRgb* P) {
     return reinterpret_cast<std::uint8_t*>(P);
 }
 
-// Sampling taps along one direction: enough that none of the picture is passed over, few enough
-// that the sum of all fits its lanes.
-int TapCount(int Step) {
-    return Clamp((Step + One / 2) >> 16, 1, 16);
-}
-
-QRgb AverageOf(std::uint64_t Lanes, int Count) {
-    const std::uint64_t Share = ((std::uint64_t{1} << 24) + static_cast<unsigned>(Count) / 2) /
-                                static_cast<unsigned>(Count);
-    std::uint64_t Out = 0;
-    for (unsigned K = 0; K < 64; K += 16)
-        Out |= ((((Lanes >> K) & 0xFFFFu) * Share + (1u << 23)) >> 24) << K;
-    return Gather(Out);
-}
-
 }  // namespace
 
 void FillSpan(QRgb* Out, QRgb Colour, int Count) {
@@ -68,36 +53,6 @@ NEB_WIDE void MixSpanWithColour(QRgb* Out, const QRgb* From, QRgb Colour, int We
             To[16 * I + K] = static_cast<std::uint8_t>(Sum >> 8);
         }
     for (int I = Whole * 4; I < Count; ++I) Out[I] = Mix(From[I], Colour, Weight);
-}
-
-QRgb SampleThin(const Picture& P, int U, int V) {
-    U = Clamp(U, 0, (P.Width - 1) << 16);
-    V = Clamp(V, 0, (P.Height - 1) << 16);
-    const QRgb* Here = P.Row(V >> 16) + (U >> 16);
-    const int Wx = (U >> 8) & 255, Wy = (V >> 8) & 255;
-    if (Wx) return Mix(Here[0], Here[1], Wx);
-    return Wy ? Mix(Here[0], Here[P.Stride], Wy) : Here[0];
-}
-
-QRgb SampleArea(const Picture& P, int U, int V, int Du, int Dv) {
-    const int Nx = TapCount(Du), Ny = TapCount(Dv);
-    if (Nx * Ny == 1) return Sample(P, U, V);
-    std::uint64_t Sum = 0;
-    const int StepX = Du / Nx, StepY = Dv / Ny;
-    const int StartX = U - (StepX * (Nx - 1)) / 2, StartY = V - (StepY * (Ny - 1)) / 2;
-    for (int J = 0; J < Ny; ++J)
-        for (int I = 0; I < Nx; ++I)
-            Sum += Spread(Sample(P, StartX + I * StepX, StartY + J * StepY));
-    return AverageOf(Sum, Nx * Ny);
-}
-
-void SampleRow(QRgb* Out, const Picture& P, std::int64_t U, int Du, int V, int Dv, int Count) {
-    const bool Averaged = TapCount(Du) * TapCount(Dv) > 1;
-    const std::int64_t End = std::int64_t{P.Width} << 16;
-    for (int X = 0; X < Count; ++X, U += Du) {
-        const int At = static_cast<int>(std::clamp<std::int64_t>(U, -One, End));
-        Out[X] = Averaged ? SampleArea(P, At, V, Du, Dv) : Sample(P, At, V);
-    }
 }
 
 void DarkenSpan(QRgb* Out, int Darkness, int Count) {

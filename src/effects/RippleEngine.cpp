@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "effects/Pixels.h"
+#include "effects/Sampling.h"
 
 namespace neb::effects {
 namespace {
@@ -49,7 +49,7 @@ class RingEngine : public Engine {
     explicit RingEngine(QSize Size) : mMap(Size) {}
 
     void Draw(const Frame& F, int Y0, int Y1) const override {
-        Ring* Rings = Scratch<Ring>(mMap.Reach() + 1);
+        Ring* Rings = Scratch<Ring, RingEngine>(mMap.Reach() + 1);
         for (int R = 0; R <= mMap.Reach(); ++R) Rings[R] = RingAt(R, F.Progress);
         for (int Y = Y0; Y < Y1; ++Y) DrawRow(F, Rings, Y);
     }

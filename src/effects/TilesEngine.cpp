@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "effects/Pixels.h"
+#include "effects/Sampling.h"
 
 namespace neb::effects {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "effects/Pixels.h"
+#include "effects/Sampling.h"
 
 namespace neb::effects {
 namespace {
@@ -67,7 +67,7 @@ void DrawPixels(QRgb* Out, const Layer& L, int Y, int Weight) {
     const std::int64_t First = L.X.Start >> 16, Last = (L.X.Start + L.X.Length) >> 16;
     const int X0 = static_cast<int>(std::clamp<std::int64_t>(First - 1, 0, Width));
     const int X1 = static_cast<int>(std::clamp<std::int64_t>(Last + 2, 0, Width));
-    QRgb* Row = Scratch<QRgb>(Width);
+    QRgb* Row = Scratch<QRgb, Layer>(Width);
     SampleRow(Row, *L.Source, L.X.SourceAt(X0), AsInt(L.X.Ratio), AsInt(L.Y.SourceAt(Y)),
               AsInt(L.Y.Ratio), X1 - X0);
     PutRow(Out, L.X, Row, Weight, X0, X1);
