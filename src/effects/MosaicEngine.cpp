@@ -27,16 +27,30 @@ NEB_WIDE void AddRow(std::uint16_t* Sums, const QRgb* Row, int Count) {
     for (int I = 0; I < 4 * Count; ++I) Sums[I] = static_cast<std::uint16_t>(Sums[I] + From[I]);
 }
 
-// The mean of Width sums of four parts each, which hold Count pixels together.
-QRgb Average(const std::uint16_t* Sums, int Width, int Count) {
+// One divided by a number of pixels, of 2^32; nearly all tiles ask for the same number.
+class Share {
+  public:
+    std::uint64_t Of(int Count) {
+        const auto N = static_cast<std::uint64_t>(Count);
+        if (Count != mCount) mShare = ((std::uint64_t{1} << 32) + N / 2) / N;
+        mCount = Count;
+        return mShare;
+    }
+
+  private:
+    int mCount = 0;
+    std::uint64_t mShare = 0;
+};
+
+// The mean of Width sums of four parts each.
+QRgb Average(const std::uint16_t* Sums, int Width, std::uint64_t OneByCount) {
     std::uint32_t Part[4] = {0, 0, 0, 0};
     for (int X = 0; X < Width; ++X)
         for (int K = 0; K < 4; ++K) Part[K] += Sums[4 * X + K];
-    const auto N = static_cast<std::uint64_t>(Count);
-    const std::uint64_t Share = ((std::uint64_t{1} << 32) + N / 2) / N;
     QRgb Out = 0;
     for (int K = 0; K < 4; ++K)
-        Out |= static_cast<QRgb>((Part[K] * Share + (std::uint64_t{1} << 31)) >> 32) << (8 * K);
+        Out |= static_cast<QRgb>((Part[K] * OneByCount + (std::uint64_t{1} << 31)) >> 32)
+               << (8 * K);
     return Out;
 }
 
@@ -83,9 +97,10 @@ class MosaicEngine : public Engine {
         auto* Sums = Scratch<std::uint16_t, MosaicEngine>(4 * P.Width);
         std::fill_n(Sums, 4 * P.Width, std::uint16_t{0});
         for (int Y = Top; Y < End; ++Y) AddRow(Sums, P.Row(Y), P.Width);
+        Share Shares;
         for (int T = 0; T < Tiles; ++T) {
             const int X = Across.StartOf(T), Width = Across.EndOf(T) - X;
-            Colours[T] = Average(Sums + 4 * X, Width, Width * (End - Top));
+            Colours[T] = Average(Sums + 4 * X, Width, Shares.Of(Width * (End - Top)));
         }
     }
 

@@ -1,6 +1,7 @@
 #include "effects/Sampling.h"
 
 #include <algorithm>
+#include <array>
 
 namespace neb::effects {
 namespace {
@@ -11,9 +12,15 @@ int TapCount(int Step) {
     return Clamp((Step + One / 2) >> 16, 1, 16);
 }
 
+// One divided by each number of taps, of 2^24.
+constexpr auto kShares = [] {
+    std::array<std::uint64_t, 257> Out{};
+    for (std::uint64_t N = 1; N < Out.size(); ++N) Out[N] = ((1u << 24) + N / 2) / N;
+    return Out;
+}();
+
 QRgb AverageOf(std::uint64_t Lanes, int Count) {
-    const std::uint64_t Share = ((std::uint64_t{1} << 24) + static_cast<unsigned>(Count) / 2) /
-                                static_cast<unsigned>(Count);
+    const std::uint64_t Share = kShares[static_cast<std::size_t>(Count)];
     std::uint64_t Out = 0;
     for (unsigned K = 0; K < 64; K += 16)
         Out |= ((((Lanes >> K) & 0xFFFFu) * Share + (1u << 23)) >> 24) << K;

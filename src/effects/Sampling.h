@@ -70,7 +70,10 @@ inline bool IsShrunk(int Du, int Dv) {
     return Du >= 3 * (One / 2) || Dv >= 3 * (One / 2);
 }
 inline QRgb SampleArea(const Picture& P, int U, int V, int Du, int Dv) {
-    return IsShrunk(Du, Dv) ? SampleMany(P, U, V, Du, Dv) : Sample(P, U, V);
+    if (!IsShrunk(Du, Dv)) return Sample(P, U, V);
+    const bool Pair = Du < 5 * (One / 2) && !IsShrunk(0, Dv);
+    if (!Pair) return SampleMany(P, U, V, Du, Dv);
+    return Mix(Sample(P, U - Du / 4, V), Sample(P, U + Du / 4, V), 128);
 }
 
 // A run of a row of such places: U grows by Du from pixel to pixel, V stays.
