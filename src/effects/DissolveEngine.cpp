@@ -26,29 +26,31 @@ class MapEngine : public Engine {
     RevealMap mMap;
 };
 
+// 14 bits of brightness by the usual weights of red, green and blue.
+NEB_WIDE void FindMoments(const QRgb* Row, std::int16_t* Moments, int Count, int Flip) {
+    for (int X = 0; X < Count; ++X) {
+        const auto R = static_cast<std::uint16_t>((Row[X] >> 16) & 255u);
+        const auto G = static_cast<std::uint16_t>((Row[X] >> 8) & 255u);
+        const auto B = static_cast<std::uint16_t>(Row[X] & 255u);
+        const auto Light = static_cast<std::uint16_t>(R * 19 + G * 38 + B * 7);
+        Moments[X] = static_cast<std::int16_t>(Light ^ Flip);
+    }
+}
+
 class LightEngine : public Engine {
   public:
     explicit LightEngine(bool BrightFirst) : mBrightFirst(BrightFirst) {}
     void Draw(const Frame& F, int Y0, int Y1) const override {
         constexpr int SoftBits = 12;
         const int Edge = Scale(kLevels + (1 << SoftBits), F.Progress);
-        auto* Moments = Scratch<std::int16_t>(F.Width);
+        auto* Moments = Scratch<std::int16_t, LightEngine>(F.Width);
         for (int Y = Y0; Y < Y1; ++Y) {
-            FindMoments(F.New.Row(Y), Moments, F.Width);
+            FindMoments(F.New.Row(Y), Moments, F.Width, mBrightFirst ? kLevels - 1 : 0);
             MixByMoments(F.Row(Y), F.Old.Row(Y), F.New.Row(Y), Moments, F.Width, Edge, SoftBits);
         }
     }
 
   private:
-    void FindMoments(const QRgb* Row, std::int16_t* Moments, int Count) const {
-        const int Flip = mBrightFirst ? kLevels - 1 : 0;
-        for (int X = 0; X < Count; ++X) {
-            const int C = static_cast<int>(Row[X] & 0xFFFFFFu);
-            // 14 bits of brightness by the usual weights of red, green and blue.
-            const int Light = ((C >> 16) * 19 + ((C >> 8) & 255) * 38 + (C & 255) * 7) & ~1;
-            Moments[X] = static_cast<std::int16_t>(Light ^ Flip);
-        }
-    }
     bool mBrightFirst;
 };
 

@@ -17,15 +17,26 @@ struct Stop {
     int Shown;  // how much of the new picture, 0..256
 };
 
+// A pixel on the edge is Old parts of the old picture, New of the new and the light added.
 struct Shade {
-    QRgb Colour;
-    int Tint, Shown;
+    std::uint64_t Light;
+    std::uint64_t Old, New;
 };
 
 constexpr int kShades = 256;
 
 int Between(int A, int B, int Part) {
     return A + (B - A) * Part / 256;
+}
+
+Shade MakeShade(QRgb Colour, int Tint, int Shown) {
+    const int New = (256 - Tint) * Shown / 256;
+    return {Spread(Colour) * static_cast<std::uint64_t>(Tint) + kHalves,
+            static_cast<std::uint64_t>(256 - Tint - New), static_cast<std::uint64_t>(New)};
+}
+
+QRgb Lit(QRgb Old, QRgb New, const Shade& S) {
+    return Gather(((Spread(Old) * S.Old + Spread(New) * S.New + S.Light) >> 8) & kLaneBytes);
 }
 
 std::vector<Shade> MakeShades(const std::vector<Stop>& Stops) {
@@ -35,8 +46,8 @@ std::vector<Shade> MakeShades(const std::vector<Stop>& Stops) {
         while (S + 2 < Stops.size() && I >= Stops[S + 1].At) ++S;
         const Stop &A = Stops[S], &B = Stops[S + 1];
         const int Part = (I - A.At) * 256 / (B.At - A.At);
-        Out.push_back({Mix(A.Colour, B.Colour, Part), Between(A.Tint, B.Tint, Part),
-                       Between(A.Shown, B.Shown, Part)});
+        Out.push_back(MakeShade(Mix(A.Colour, B.Colour, Part), Between(A.Tint, B.Tint, Part),
+                                Between(A.Shown, B.Shown, Part)));
     }
     return Out;
 }
@@ -81,12 +92,8 @@ class GlowEngine : public Engine {
             else if (At >= kShades)
                 Out[X] = New[X];
             else
-                Out[X] = Coloured(Old[X], New[X], mShades[static_cast<std::size_t>(At)]);
+                Out[X] = Lit(Old[X], New[X], mShades[static_cast<std::size_t>(At)]);
         }
-    }
-
-    static QRgb Coloured(QRgb Old, QRgb New, const Shade& S) {
-        return Mix(Mix(Old, New, S.Shown), S.Colour, S.Tint);
     }
 
     RevealMap mMap;

@@ -7,21 +7,7 @@
 namespace neb::effects {
 namespace {
 
-struct ColourSum {
-    std::uint64_t Low, High;  // red and blue, alpha and green, in halves of 32 bits
-};
-
-void Add(ColourSum& S, QRgb C) {
-    S.Low += (C & 255u) | (std::uint64_t{C & 0xFF0000u} << 16);
-    S.High += ((C >> 8) & 255u) | (std::uint64_t{C >> 24} << 32);
-}
-
-QRgb Average(const ColourSum& S, std::uint32_t Count) {
-    const auto Part = [Count](std::uint64_t Sum) {
-        return (static_cast<std::uint32_t>(Sum) + Count / 2) / Count;
-    };
-    return Part(S.Low) | Part(S.High) << 8 | Part(S.Low >> 32) << 16 | Part(S.High >> 32) << 24;
-}
+constexpr int kLargestSide = 256;  // the sums of so many bytes fit 16 bits
 
 // Tiles lie evenly about the middle, so that none of them wanders as they grow.
 struct Tiling {
@@ -36,19 +22,43 @@ Tiling MakeTiling(int Length, int Side) {
     return {Length, Side, Half == 0 ? 0 : Half - Side};
 }
 
-void AddRow(ColourSum* Sums, const QRgb* Row, const Tiling& Across) {
-    const int Tiles = Across.TileAt(Across.Length - 1) + 1;
-    for (int T = 0; T < Tiles; ++T) {
-        ColourSum S = Sums[T];
-        for (int X = Across.StartOf(T); X < Across.EndOf(T); ++X) Add(S, Row[X]);
-        Sums[T] = S;
+NEB_WIDE void AddRow(std::uint16_t* Sums, const QRgb* Row, int Count) {
+    const auto* From = reinterpret_cast<const std::uint8_t*>(Row);
+    for (int I = 0; I < 4 * Count; ++I) Sums[I] = static_cast<std::uint16_t>(Sums[I] + From[I]);
+}
+
+// One divided by a number of pixels, of 2^32; nearly all tiles ask for the same number.
+class Share {
+  public:
+    std::uint64_t Of(int Count) {
+        const auto N = static_cast<std::uint64_t>(Count);
+        if (Count != mCount) mShare = ((std::uint64_t{1} << 32) + N / 2) / N;
+        mCount = Count;
+        return mShare;
     }
+
+  private:
+    int mCount = 0;
+    std::uint64_t mShare = 0;
+};
+
+// The mean of Width sums of four parts each.
+QRgb Average(const std::uint16_t* Sums, int Width, std::uint64_t OneByCount) {
+    std::uint32_t Part[4] = {0, 0, 0, 0};
+    for (int X = 0; X < Width; ++X)
+        for (int K = 0; K < 4; ++K) Part[K] += Sums[4 * X + K];
+    QRgb Out = 0;
+    for (int K = 0; K < 4; ++K)
+        Out |= static_cast<QRgb>((Part[K] * OneByCount + (std::uint64_t{1} << 31)) >> 32)
+               << (8 * K);
+    return Out;
 }
 
 class MosaicEngine : public Engine {
   public:
     MosaicEngine(QSize Size, int Largest)
-        : mLargest(std::max(2, std::max(Size.width(), Size.height()) * Largest / 100)) {}
+        : mLargest(
+              std::clamp(std::max(Size.width(), Size.height()) * Largest / 100, 2, kLargestSide)) {}
 
     void Draw(const Frame& F, int Y0, int Y1) const override {
         const int Side = SideAt(F.Progress);
@@ -70,7 +80,7 @@ class MosaicEngine : public Engine {
     static void DrawTileRow(const Frame& F, const Tiling& Across, int Top, int End, int Weight,
                             QRgb* Out) {
         const int Tiles = Across.TileAt(F.Width - 1) + 1;
-        auto* Colours = Scratch<QRgb>(2 * Tiles);
+        auto* Colours = Scratch<QRgb, MosaicEngine>(2 * Tiles);
         FindColours(F.Old, Across, Top, End, Colours, Weight < 256);
         FindColours(F.New, Across, Top, End, Colours + Tiles, Weight > 0);
         for (int T = 0; T < Tiles; ++T) {
@@ -84,12 +94,13 @@ class MosaicEngine : public Engine {
         const int Tiles = Across.TileAt(P.Width - 1) + 1;
         std::fill_n(Colours, Tiles, kBlack);
         if (!Wanted) return;
-        auto* Sums = Scratch<ColourSum>(Tiles);
-        std::fill_n(Sums, Tiles, ColourSum{0, 0});
-        for (int Y = Top; Y < End; ++Y) AddRow(Sums, P.Row(Y), Across);
+        auto* Sums = Scratch<std::uint16_t, MosaicEngine>(4 * P.Width);
+        std::fill_n(Sums, 4 * P.Width, std::uint16_t{0});
+        for (int Y = Top; Y < End; ++Y) AddRow(Sums, P.Row(Y), P.Width);
+        Share Shares;
         for (int T = 0; T < Tiles; ++T) {
-            const int Count = (Across.EndOf(T) - Across.StartOf(T)) * (End - Top);
-            Colours[T] = Average(Sums[T], static_cast<std::uint32_t>(Count));
+            const int X = Across.StartOf(T), Width = Across.EndOf(T) - X;
+            Colours[T] = Average(Sums + 4 * X, Width, Shares.Of(Width * (End - Top)));
         }
     }
 

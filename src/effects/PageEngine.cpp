@@ -3,16 +3,20 @@
 #include <algorithm>
 #include <array>
 
-#include "effects/Pixels.h"
+#include "effects/Sampling.h"
 
 namespace neb::effects {
 namespace {
 
 // Distances are of One and grow against the way the sheet is drawn, from the middle.
 struct Sheet {
-    std::int64_t Reach;   // the sheet's end, and minus its other end
-    std::int64_t Radius;  // of the curl
-    std::int64_t Axis;    // where the sheet leaves the table
+    std::int64_t Reach;      // the sheet's end, and minus its other end
+    std::int64_t Radius;     // of the curl
+    std::int64_t Axis;       // where the sheet leaves the table
+    std::int64_t HalfTurn;   // the sheet's length round the curl
+    std::int64_t FlapEnd;    // how far the sheet, turned over, reaches back
+    std::int64_t PerRadius;  // 2^48 divided by the radius
+    int Lift;                // of the shadow: 0 before the sheet has risen, 256 when a curl is up
 };
 
 constexpr QRgb kPaper = 0xFFF4F1EAu;
@@ -32,13 +36,24 @@ class PageEngine : public Engine {
     }
 
     void Draw(const Frame& F, int Y0, int Y1) const override {
-        Sheet S{mReach, mRadius, 0};
-        const std::int64_t Way = 2 * mReach + 2 * mRadius;
-        S.Axis = mReach - ((Way * Ease(F.Progress)) >> 16);
+        const Sheet S = SheetOf(Ease(F.Progress));
         for (int Y = Y0; Y < Y1; ++Y) DrawRow(F, S, Y);
     }
 
   private:
+    Sheet SheetOf(int Part) const {
+        Sheet S{};
+        S.Reach = mReach;
+        S.Radius = mRadius;
+        S.Axis = mReach - (((2 * mReach + 2 * mRadius) * Part) >> 16);
+        S.HalfTurn = (mRadius * 205887) >> 16;  // pi of One
+        S.FlapEnd = 2 * S.Axis - S.Reach + S.HalfTurn;
+        S.PerRadius = (std::int64_t{1} << 48) / mRadius;
+        S.Lift = static_cast<int>(
+            std::clamp<std::int64_t>((S.Reach - S.Axis) * 256 / (2 * mRadius), 0, 256));
+        return S;
+    }
+
     // For a height over the axis, of the radius, the length of the sheet up to there.
     void FillArcs() {
         int Angle = 0;
@@ -66,56 +81,53 @@ class PageEngine : public Engine {
         const QRgb* Old = F.Old.Row(Y);
         const QRgb* New = F.New.Row(Y);
         // The lifted part lies over the table from here to there; the rest is plain.
-        const std::int64_t FlapEnd = 2 * S.Axis - S.Reach + PiTimes(S.Radius);
-        const std::int64_t Near = std::min(FlapEnd - ShadowReach(S), S.Axis);
+        const std::int64_t Near = std::min(S.FlapEnd - ShadowReach(S), S.Axis);
         const std::int64_t Far = S.Axis + S.Radius + ShadowReach(S);
-        for (int X = 0; X < F.Width; ++X) {
-            const std::int64_t D = DistanceAt(X, Y);
-            if (D <= Near)
-                Out[X] = Old[X];
-            else if (D >= Far)
-                Out[X] = New[X];
-            else
-                Out[X] = Curled(F, S, X, Y, D);
-        }
+        const QRgb* Plain = DistanceAt(0, Y) <= Near ? Old : New;
+        int X0 = 0, X1 = F.Width;
+        while (X0 < X1 && IsPlain(X0, Y, Near, Far)) ++X0;
+        CopySpan(Out, Plain, X0);
+        Plain = DistanceAt(X1 - 1, Y) <= Near ? Old : New;
+        while (X1 > X0 && IsPlain(X1 - 1, Y, Near, Far)) --X1;
+        CopySpan(Out + X1, Plain + X1, F.Width - X1);
+        for (int X = X0; X < X1; ++X) Out[X] = Curled(F, S, X, Y, DistanceAt(X, Y));
     }
 
-    static std::int64_t PiTimes(std::int64_t R) { return (R * 205887) >> 16; }
+    bool IsPlain(int X, int Y, std::int64_t Near, std::int64_t Far) const {
+        const std::int64_t D = DistanceAt(X, Y);
+        return D <= Near || D >= Far;
+    }
+
     static std::int64_t ShadowReach(const Sheet& S) { return S.Radius; }
 
     QRgb Curled(const Frame& F, const Sheet& S, int X, int Y, std::int64_t D) const {
         const std::int64_t Off = D - S.Axis;
         if (Off <= 0) {
             const QRgb Flat = Shaded(F.Old.Row(Y)[X], ShadowBefore(S, D));
-            return OverBack(F, S, X, Y, D, S.Axis + PiTimes(S.Radius) - Off, 0, Flat);
+            return OverBack(F, S, X, Y, D, S.Axis + S.HalfTurn - Off, 0, Flat);
         }
         QRgb Below = Shaded(F.New.Row(Y)[X], ShadowBehind(S, D));
         if (Off >= S.Radius) return Below;
-        const int Height = static_cast<int>((Off << 16) / S.Radius);
+        const int Height = static_cast<int>((Off * S.PerRadius) >> 32);
         const std::int64_t Arc = (S.Radius * ArcAt(Height)) >> 16;
         Below = OverFront(F, S, X, Y, D, S.Axis + Arc, Below);
-        return OverBack(F, S, X, Y, D, S.Axis + PiTimes(S.Radius) - Arc, Height, Below);
+        return OverBack(F, S, X, Y, D, S.Axis + S.HalfTurn - Arc, Height, Below);
     }
 
     // Darkness on the table just beyond the curl, and on the sheet just before the flap.
     static int ShadowBehind(const Sheet& S, std::int64_t D) {
-        return Fading(D - S.Axis, S.Radius + ShadowReach(S), LiftOf(S));
+        return Fading(S, std::max<std::int64_t>(0, D - S.Axis) / 2);
     }
     static int ShadowBefore(const Sheet& S, std::int64_t D) {
-        const std::int64_t FlapEnd = 2 * S.Axis - S.Reach + PiTimes(S.Radius);
-        return D >= FlapEnd ? 0 : Fading(FlapEnd - D, ShadowReach(S), LiftOf(S)) / 2;
+        return D >= S.FlapEnd ? 0 : Fading(S, S.FlapEnd - D) / 2;
     }
-    // No shadow before the sheet has risen: 0 at the start, 256 when a whole curl is up.
-    static int LiftOf(const Sheet& S) {
-        return static_cast<int>(
-            std::clamp<std::int64_t>((S.Reach - S.Axis) * 256 / (2 * S.Radius), 0, 256));
+    // Way: from 0, darkest, to the radius.
+    static int Fading(const Sheet& S, std::int64_t Way) {
+        if (Way >= S.Radius) return 0;
+        const int Left = 256 - static_cast<int>((Way * S.PerRadius) >> 40);
+        return ((Left * Left) >> 8) * S.Lift * 150 >> 16;
     }
-    static int Fading(std::int64_t Way, std::int64_t Width, int Lift) {
-        if (Way >= Width) return 0;
-        const auto Left = static_cast<int>((Width - std::max<std::int64_t>(0, Way)) * 256 / Width);
-        return ((Left * Left) >> 8) * Lift * 150 >> 16;
-    }
-    static QRgb Shaded(QRgb C, int Darkness) { return Darkness ? Mix(C, kBlack, Darkness) : C; }
+    static QRgb Shaded(QRgb C, int Darkness) { return Darkness ? Darken(C, Darkness) : C; }
 
     // How much of the sheet there is at a distance along it: soft at its end, 0 beyond.
     static int InSheet(const Sheet& S, std::int64_t Along) {
@@ -141,7 +153,7 @@ class PageEngine : public Engine {
                    QRgb Below) const {
         QRgb C = 0;
         const int Seen = SheetAt(F, S, X, Y, D, Along, C);
-        return Seen ? Mix(Below, C, Seen) : Below;
+        return Seen == 256 ? C : (Seen ? Mix(Below, C, Seen) : Below);
     }
 
     QRgb OverBack(const Frame& F, const Sheet& S, int X, int Y, std::int64_t D, std::int64_t Along,
@@ -149,9 +161,19 @@ class PageEngine : public Engine {
         QRgb C = 0;
         const int Seen = SheetAt(F, S, X, Y, D, Along, C);
         if (Seen == 0) return Below;
-        // The back is paper through which the picture shows faintly; it darkens down the curl.
+        C = BackAt(C, Height);
+        return Seen == 256 ? C : Mix(Below, C, Seen);
+    }
+
+    // The back is paper through which the picture shows faintly; it darkens down the curl.
+    static QRgb BackAt(QRgb C, int Height) {
+        constexpr int Through = 51;
         const int Down = (Height >> 8) * (Height >> 8) >> 8;
-        return Mix(Below, Mix(Mix(C, kPaper, 205), kBlack, 12 + (Down * 120 >> 8)), Seen);
+        const int Light = 244 - (Down * 120 >> 8);
+        const auto Faint = static_cast<std::uint64_t>(Through * Light >> 8);
+        const auto Bright = static_cast<std::uint64_t>(Light) - Faint;
+        const std::uint64_t Lanes = Spread(C) * Faint + Spread(kPaper) * Bright + kHalves;
+        return Gather((Lanes >> 8) & kLaneBytes) | kBlack;
     }
 
     QSize mSize;

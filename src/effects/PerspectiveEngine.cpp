@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "effects/Pixels.h"
+#include "effects/Sampling.h"
 
 namespace neb::effects {
 namespace {
@@ -74,7 +74,7 @@ class PerspectiveEngine : public Engine {
     void Draw(const Frame& F, int Y0, int Y1) const override {
         const int Length = mTurning.Upright ? F.Width : F.Height;
         const Scene S = mPlan(F, std::int64_t{Length} << 16, Ease(F.Progress));
-        Line* Lines = Scratch<Line>(Length);
+        Line* Lines = Scratch<Line, PerspectiveEngine>(Length);
         FindLines(S, Lines, Length);
         for (int Y = Y0; Y < Y1; ++Y) {
             QRgb* Out = F.Row(Y);
@@ -113,9 +113,9 @@ class PerspectiveEngine : public Engine {
         return static_cast<int>(Off + (std::int64_t{Size} << 15) - One / 2);
     }
 
-    static void Put(QRgb& Out, const Line& L, int U, int V, int Du, int Dv, int Seen) {
-        QRgb C = SampleArea(*L.Source, U, V, Du, Dv);
-        if (L.Shade) C = Mix(C, kBlack, L.Shade);
+    static void Put(QRgb& Out, const Line& L, int V, int Seen) {
+        QRgb C = SampleArea(*L.Source, L.U, V, L.Du, L.Zoom);
+        if (L.Shade) C = Darken(C, L.Shade);
         Out = Seen == 256 ? C : Mix(Out, C, Seen);
     }
 
@@ -125,16 +125,25 @@ class PerspectiveEngine : public Engine {
             if (!L.Source) continue;
             const int V = AcrossAt(Y, F.Height, L.Zoom);
             const int Seen = L.Cover * Coverage(V + One / 2, F.Height << 16) >> 8;
-            if (Seen) Put(Out[X], L, L.U, V, L.Du, L.Zoom, Seen);
+            if (Seen) Put(Out[X], L, V, Seen);
         }
     }
 
     static void DrawDown(const Frame& F, const Line& L, QRgb* Out) {
         if (!L.Source) return;
-        for (int X = 0; X < F.Width; ++X) {
+        // The picture's two sides lie where its places reach 0 and its width.
+        const std::int64_t Half = (std::int64_t{F.Width} << 31) / std::max(1, L.Zoom);
+        const std::int64_t Middle = std::int64_t{F.Width} << 15;
+        const int X0 = static_cast<int>(std::max<std::int64_t>(0, ((Middle - Half) >> 16) - 1));
+        const int X1 =
+            static_cast<int>(std::min<std::int64_t>(F.Width, ((Middle + Half) >> 16) + 2));
+        QRgb* Row = Scratch<QRgb, PerspectiveEngine>(F.Width);
+        SampleRow(Row, *L.Source, AcrossAt(X0, F.Width, L.Zoom), L.Zoom, L.U, L.Du, X1 - X0);
+        DarkenSpan(Row, L.Shade, X1 - X0);
+        for (int X = X0; X < X1; ++X) {
             const int U = AcrossAt(X, F.Width, L.Zoom);
             const int Seen = L.Cover * Coverage(U + One / 2, F.Width << 16) >> 8;
-            if (Seen) Put(Out[X], L, U, L.U, L.Zoom, L.Du, Seen);
+            Out[X] = Seen == 256 ? Row[X - X0] : Mix(Out[X], Row[X - X0], Seen);
         }
     }
 

@@ -1,5 +1,6 @@
-// Work on spans of pixels shared by the engines: mixing, shading, and sampling a picture between
-// its pixels. All of it is whole-number arithmetic; weights run from 0 to 256.
+// Work on spans of pixels shared by the engines: copying, mixing and shading. All of it is
+// whole-number arithmetic, so that the width of the machine's vectors does not change a bit;
+// weights run from 0 to 256.
 #pragma once
 
 #include <QRgb>
@@ -10,13 +11,21 @@
 #include "effects/Engine.h"
 #include "effects/Fixed.h"
 
+// Compiled a second time for wider vectors where the machine has them.
+#if defined(__x86_64__) && defined(__linux__) && !defined(__SANITIZE_ADDRESS__) && \
+    !defined(__clang__)
+#define NEB_WIDE __attribute__((target_clones("avx2", "default")))
+#else
+#define NEB_WIDE
+#endif
+
 namespace neb::effects {
 
 inline void CopySpan(QRgb* Out, const QRgb* From, int Count) {
     if (Count > 0) std::memcpy(Out, From, static_cast<std::size_t>(Count) * sizeof(QRgb));
 }
 void FillSpan(QRgb* Out, QRgb Colour, int Count);
-// Out = Old where the weight is 0, New where it is 256.
+// Out = Old where the weight is 0, New where it is 256. Out may be Old or New.
 void MixSpan(QRgb* Out, const QRgb* Old, const QRgb* New, int Weight, int Count);
 void MixSpanWithColour(QRgb* Out, const QRgb* From, QRgb Colour, int Weight, int Count);
 
@@ -27,9 +36,12 @@ inline std::uint64_t Spread(QRgb C) {
 inline QRgb Gather(std::uint64_t L) {
     return static_cast<QRgb>((L & 0x00FF00FFu) | ((L >> 24) & 0xFF00FF00u));
 }
+constexpr std::uint64_t kHalves = 0x0080008000800080u;
+constexpr std::uint64_t kLaneBytes = 0x00FF00FF00FF00FFu;
+
 inline std::uint64_t MixLanes(std::uint64_t A, std::uint64_t B, int Weight) {
     const auto W = static_cast<std::uint64_t>(Weight);
-    return ((A * (256 - W) + B * W + 0x0080008000800080u) >> 8) & 0x00FF00FF00FF00FFu;
+    return ((A * (256 - W) + B * W + kHalves) >> 8) & kLaneBytes;
 }
 inline QRgb Mix(QRgb A, QRgb B, int Weight) {
     return Gather(MixLanes(Spread(A), Spread(B), Weight));
@@ -37,17 +49,21 @@ inline QRgb Mix(QRgb A, QRgb B, int Weight) {
 
 constexpr QRgb kBlack = 0xFF000000u;
 
-// The pixel at a place between pixels; U and V of One, pixel centres at whole numbers. Places
-// outside take the nearest edge pixel.
-QRgb Sample(const Picture& P, int U, int V);
-// The same where one pixel of the frame covers Du by Dv of the picture: pictures that shrink
-// are averaged, so that nothing sparkles.
-QRgb SampleArea(const Picture& P, int U, int V, int Du, int Dv);
-// How much of a pixel at Place lies within 0..Length, both of One: 0..256, for smooth edges.
-int Coverage(int Place, int Length);
+inline QRgb Darken(QRgb C, int Darkness) {
+    const std::uint64_t Lanes = Spread(C) * static_cast<std::uint64_t>(256 - Darkness) + kHalves;
+    return Gather((Lanes >> 8) & kLaneBytes) | kBlack;
+}
 
-// Room for one line of intermediate values, kept by the thread from frame to frame.
-template <typename T>
+void DarkenSpan(QRgb* Out, int Darkness, int Count);
+// How much of a pixel at Place lies within 0..Length, both of One: 0..256, for smooth edges.
+inline int Coverage(int Place, int Length) {
+    const int Inside = Place < Length - Place ? Place : Length - Place;
+    return Clamp((Inside + One / 2) >> 8, 0, 256);
+}
+
+// Room for one line of intermediate values, kept by the thread from frame to frame. User: a type
+// of the caller's own, so that routines that call each other do not share their room.
+template <typename T, typename User>
 T* Scratch(int Count) {
     thread_local std::vector<T> Room;
     if (Room.size() < static_cast<std::size_t>(Count)) Room.resize(static_cast<std::size_t>(Count));

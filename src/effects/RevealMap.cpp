@@ -62,8 +62,8 @@ void RevealMap::Draw(const Frame& F, int Y0, int Y1) const {
     }
 }
 
-void MixByMoments(QRgb* Out, const QRgb* Old, const QRgb* New, const std::int16_t* Moments,
-                  int Count, int Edge, int SoftBits) {
+NEB_WIDE void MixByMoments(QRgb* Out, const QRgb* Old, const QRgb* New, const std::int16_t* Moments,
+                           int Count, int Edge, int SoftBits) {
     constexpr int Chunk = 64;
     std::uint16_t Weights[Chunk * 4];
     const int Shift = SoftBits - 8;

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "effects/Pixels.h"
+#include "effects/Sampling.h"
 
 namespace neb::effects {
 namespace {
@@ -41,7 +41,7 @@ class DistanceMap {
 
 QRgb Lit(QRgb C, int Light) {
     if (Light == 0) return C;
-    return Light > 0 ? Mix(C, 0xFFFFFFFFu, Light) : Mix(C, kBlack, -Light);
+    return Light > 0 ? Mix(C, 0xFFFFFFFFu, Light) : Darken(C, -Light);
 }
 
 class RingEngine : public Engine {
@@ -49,9 +49,13 @@ class RingEngine : public Engine {
     explicit RingEngine(QSize Size) : mMap(Size) {}
 
     void Draw(const Frame& F, int Y0, int Y1) const override {
-        Ring* Rings = Scratch<Ring>(mMap.Reach() + 1);
+        Ring* Rings = Scratch<Ring, RingEngine>(mMap.Reach() + 1);
         for (int R = 0; R <= mMap.Reach(); ++R) Rings[R] = RingAt(R, F.Progress);
-        for (int Y = Y0; Y < Y1; ++Y) DrawRow(F, Rings, Y);
+        // In small squares: what a turned row reads lies in many rows of the picture.
+        for (int Top = Y0; Top < Y1; Top += kSquare)
+            for (int X = 0; X < F.Width; X += kSquare)
+                for (int Y = Top; Y < std::min(Y1, Top + kSquare); ++Y)
+                    DrawRun(F, Rings, Y, X, std::min(F.Width, X + kSquare));
     }
 
   protected:
@@ -59,12 +63,14 @@ class RingEngine : public Engine {
     int Reach() const { return mMap.Reach(); }
 
   private:
-    void DrawRow(const Frame& F, const Ring* Rings, int Y) const {
+    static constexpr int kSquare = 32;
+
+    void DrawRun(const Frame& F, const Ring* Rings, int Y, int X0, int X1) const {
         const std::uint16_t* Distances = mMap.Row(Y);
         const QRgb* Old = F.Old.Row(Y);
         const QRgb* New = F.New.Row(Y);
         QRgb* Out = F.Row(Y);
-        for (int X = 0; X < F.Width; ++X) {
+        for (int X = X0; X < X1; ++X) {
             const Ring& R = Rings[Distances[X]];
             if (R.Along | R.Around | R.Light)
                 Out[X] = Moved(F, R, X, Y);
@@ -109,7 +115,8 @@ class WaterEngine : public RingEngine {
         const int Slope = Scale(Cosine(Place * mWaves), Scale(Hump(Place), Hump(Progress)));
         const int Strength = Scale(Reach() / 40 + 8, Height);
         const int Along = static_cast<int>(std::int64_t{Strength} * One / std::max(4, Distance));
-        return {Along, 0, Ease(Place) >> 8, Scale(40, Slope)};
+        const int Weight = Ease(Clamp((Place - 3 * One / 8) * 4, 0, One)) >> 8;
+        return {Along, 0, Weight, Scale(40, Slope)};
     }
 
   private:
@@ -124,7 +131,9 @@ class TwirlEngine : public RingEngine {
     Ring RingAt(int Distance, int Progress) const override {
         const int Inner = One - static_cast<int>(std::int64_t{Distance} * One / (Reach() + 1));
         const int Angle = Scale(Hump(Progress), Ease(Inner)) / 4 * mQuarters;
-        const int Weight = Ease(Clamp((Progress - One * 2 / 5) * 5, 0, One)) >> 8;
+        // The new picture wells up in the middle and spreads while the turning is strongest.
+        const int Spread = Clamp((Progress - One / 3) * 3, 0, One);
+        const int Weight = Clamp((Scale(5 * One / 4, Spread) - (One - Inner)) >> 6, 0, 256);
         return {Cosine(Angle) - One, Sine(Angle), Weight, 0};
     }
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "effects/Pixels.h"
+#include "effects/Sampling.h"
 
 namespace neb::effects {
 namespace {
@@ -58,21 +58,25 @@ class TilesEngine : public Engine {
         const int Angle = Scale(One / 2, Part);
         const int Wide = std::max(64, std::abs(Cosine(Angle)));
         const Picture& Face = Part < One / 2 ? F.Old : F.New;
-        const int Dark = Scale(110, Sine(Angle));
         const std::int64_t Middle = std::int64_t{X0 + X1} << 15;
         const std::int64_t Half = std::int64_t{X1 - X0} * Wide / 2;
         const int Step = static_cast<int>((std::int64_t{One} << 16) / Wide);
-        for (int X = X0; X < X1; ++X) {
-            const std::int64_t Off = (std::int64_t{X} << 16) + One / 2 - Middle;
-            const int Seen = Coverage(static_cast<int>(Off + Half), static_cast<int>(2 * Half));
-            QRgb& Out = F.Row(Y)[X];
-            Out = kBehind;
-            if (Seen == 0) continue;
-            const int U = static_cast<int>(Middle + ((Off * Step) >> 16)) - One / 2;
-            const int Inside = Clamp(U, X0 << 16, (X1 - 1) << 16);
-            Out =
-                Mix(kBehind, Mix(SampleArea(Face, Inside, Y << 16, Step, One), kBlack, Dark), Seen);
-        }
+        const int From = std::max(X0, static_cast<int>((Middle - Half) >> 16));
+        const int To = std::min(X1, static_cast<int>((Middle + Half) >> 16) + 1);
+        QRgb* Out = F.Row(Y);
+        const std::int64_t Off = (std::int64_t{From} << 16) + One / 2 - Middle;
+        const std::int64_t U = Middle + ((Off * Step) >> 16) - One / 2;
+        SampleRow(Out + From, Face, U, Step, Y << 16, One, To - From);
+        DarkenSpan(Out + From, Scale(110, Sine(Angle)), To - From);
+        FillSpan(Out + X0, kBehind, From - X0);
+        FillSpan(Out + To, kBehind, X1 - To);
+        SoftenSide(Out[From], Off, Half);
+        SoftenSide(Out[To - 1], (std::int64_t{To - 1} << 16) + One / 2 - Middle, Half);
+    }
+
+    static void SoftenSide(QRgb& Out, std::int64_t Off, std::int64_t Half) {
+        const int Seen = Coverage(static_cast<int>(Off + Half), static_cast<int>(2 * Half));
+        if (Seen < 256) Out = Mix(kBehind, Out, Seen);
     }
 
     QSize mSize;

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "effects/Pixels.h"
+#include "effects/Sampling.h"
 
 namespace neb::effects {
 namespace {
@@ -49,33 +49,40 @@ int AsInt(std::int64_t Value) {
     return static_cast<int>(std::clamp<std::int64_t>(Value, -One, std::int64_t{32000} << 16));
 }
 
-void DrawPixels(QRgb* Out, const Layer& L, int Y, int Weight, int X0, int X1) {
-    const int V = AsInt(L.Y.SourceAt(Y)), Dv = AsInt(L.Y.Ratio), Du = AsInt(L.X.Ratio);
-    const bool Shrinks = Du > One || Dv > One;
-    for (int X = X0; X < X1; ++X) {
-        const int Seen = Weight * L.X.CoverageAt(X) >> 8;
-        if (Seen == 0) continue;
-        const int U = AsInt(L.X.SourceAt(X));
-        const QRgb C = Shrinks ? SampleArea(*L.Source, U, V, Du, Dv) : Sample(*L.Source, U, V);
-        Out[X] = Seen == 256 ? C : Mix(Out[X], C, Seen);
+// The pixels wholly within the layer at one weight, those on its sides by what they hold of it.
+void PutRow(QRgb* Out, const Axis& A, const QRgb* Row, int Weight, int X0, int X1) {
+    while (X0 < X1 && A.CoverageAt(X0) < 256) {
+        Out[X0] = Mix(Out[X0], *Row++, Weight * A.CoverageAt(X0) >> 8);
+        ++X0;
     }
+    while (X1 > X0 && A.CoverageAt(X1 - 1) < 256) {
+        --X1;
+        Out[X1] = Mix(Out[X1], Row[X1 - X0], Weight * A.CoverageAt(X1) >> 8);
+    }
+    MixSpan(Out + X0, Out + X0, Row, Weight, X1 - X0);
+}
+
+void DrawPixels(QRgb* Out, const Layer& L, int Y, int Weight) {
+    const int Width = L.Source->Width;
+    const std::int64_t First = L.X.Start >> 16, Last = (L.X.Start + L.X.Length) >> 16;
+    const int X0 = static_cast<int>(std::clamp<std::int64_t>(First - 1, 0, Width));
+    const int X1 = static_cast<int>(std::clamp<std::int64_t>(Last + 2, 0, Width));
+    QRgb* Row = Scratch<QRgb, Layer>(Width);
+    SampleRow(Row, *L.Source, L.X.SourceAt(X0), AsInt(L.X.Ratio), AsInt(L.Y.SourceAt(Y)),
+              AsInt(L.Y.Ratio), X1 - X0);
+    PutRow(Out, L.X, Row, Weight, X0, X1);
 }
 
 void DrawLayerRow(QRgb* Out, const Layer& L, int Y, int Weight) {
     const int Width = L.Source->Width;
     const int Seen = L.Y.Whole ? Weight : Weight * L.Y.CoverageAt(Y) >> 8;
     if (Seen == 0 || L.X.Length <= 0 || L.Y.Length <= 0) return;
-    if (L.X.Whole && L.Y.Whole) {
-        if (Seen == 256)
-            CopySpan(Out, L.Source->Row(Y), Width);
-        else
-            MixSpan(Out, Out, L.Source->Row(Y), Seen, Width);
-        return;
-    }
-    const std::int64_t First = L.X.Start >> 16, Last = (L.X.Start + L.X.Length) >> 16;
-    const int X0 = static_cast<int>(std::clamp<std::int64_t>(First - 1, 0, Width));
-    const int X1 = static_cast<int>(std::clamp<std::int64_t>(Last + 2, 0, Width));
-    DrawPixels(Out, L, Y, Seen, X0, X1);
+    if (!L.X.Whole || !L.Y.Whole)
+        DrawPixels(Out, L, Y, Seen);
+    else if (Seen == 256)
+        CopySpan(Out, L.Source->Row(Y), Width);
+    else
+        MixSpan(Out, Out, L.Source->Row(Y), Seen, Width);
 }
 
 class ZoomEngine : public Engine {
