@@ -23,7 +23,7 @@ double BreakLines(QTextLayout& Layout, double Width) {
     Layout.beginLayout();
     double Height = 0;
     for (QTextLine Line = Layout.createLine(); Line.isValid(); Line = Layout.createLine()) {
-        Line.setLineWidth(Width);
+        Line.setLineWidth(std::max(1.0, Width));
         Line.setPosition({0, Height});
         Height += Line.height();
     }
@@ -51,6 +51,7 @@ int CaptionLabel::FitTo(int Width, int ScreenHeight, int MostHeight) {
         Height = HeightAt(Points, Width);
     }
     setFont(FontAt(Points));
+    setAccessibleName(ShownText());
     return Height;
 }
 

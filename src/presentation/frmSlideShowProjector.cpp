@@ -125,6 +125,7 @@ void frmSlideShowProjector::Form_Load() {
 void frmSlideShowProjector::Form_Activate() {
     if (mStarted) return;
     mStarted = true;
+    activateWindow();  // the keys are the show's, with or without a window manager
     PlayPause();
 }
 

@@ -48,6 +48,8 @@ TEST(Caption, ShowsWhatWasWrittenAmpersandsIncluded) {
         CaptionLabel Label;
         Label.setText(FixCaptionText(QString::fromUtf8(Text)));
         EXPECT_EQ(Text, Label.ShownText().toStdString());
+        Label.FitTo(400, ScreenHeight, 300);
+        EXPECT_EQ(Text, Label.accessibleName().toStdString());
     }
 }
 
