@@ -18,6 +18,7 @@ class clsSettings {
     const QString& FileName() const { return mFileName; }
     // The stored text, or Default when there is none. Section "" is the head of the file.
     QString GetValue(const QString& Section, const QString& Key, const QString& Default) const;
+    // A value is one line: line breaks in it become blanks.
     void PutValue(const QString& Section, const QString& Key, const QString& Value);
     // Reads the file; a missing one is empty. Lines that are no settings are passed over.
     void Load();

@@ -1,6 +1,5 @@
 #include "shell/modBroadcast.h"
 
-#include "support/Fault.h"
 #include "support/windows/Form.h"
 
 namespace neb {
@@ -9,10 +8,10 @@ void BroadcastEvent(const QString& ObjectType, const QString& EventType, const Q
                     const EventKeys& EventData) {
     for (const auto& Window : LoadedForms()) {
         auto* Receiver = dynamic_cast<ChangeReceiver*>(Window.get());
-        if (!Receiver || Window.get() == Sender) continue;
+        if (!Receiver || Window.get() == Sender || !Window->IsLoaded()) continue;
         try {
             Receiver->ReceiveEvent(ObjectType, EventType, EventData);
-        } catch (const Fault&) {
+        } catch (const std::exception&) {
             // that window stays as it was until the next event
         }
     }

@@ -25,7 +25,8 @@ class ChangeReceiver {
 };
 
 // Calls ReceiveEvent on every loaded form but the sender (nullptr: a module, reaches all), after
-// the engine has been changed. A fault in a receiver is ignored and the walk goes on.
+// the engine has been changed. An error in a receiver is ignored and the walk goes on; a form that
+// an earlier receiver has unloaded is passed over.
 void BroadcastEvent(const QString& ObjectType, const QString& EventType, const QWidget* Sender,
                     const EventKeys& EventData);
 

@@ -93,8 +93,11 @@ bool IsLegalChar(QChar CharCode) {
 
 bool ValidateUserInput(const QString& FieldName, const QString& Text) {
     QString Illegal;
-    for (const QChar Character : Text)
-        if (!IsLegalChar(Character) && !Illegal.contains(Character)) Illegal += Character;
+    for (const char32_t Code : Text.toStdU32String()) {
+        const QString Sign = QString::fromUcs4(&Code, 1);  // two units outside the basic plane
+        const bool Legal = Sign.size() == 1 && IsLegalChar(Sign.front());
+        if (!Legal && !Illegal.contains(Sign)) Illegal += Sign;
+    }
     if (Illegal.isEmpty()) return true;
     MsgBox(QStringLiteral("The entered ") + FieldName +
                QStringLiteral(" contained the following illegal characters:\n") + Illegal,

@@ -31,7 +31,8 @@ int StateOf(const QWidget& Frame) {
 
 int ReadPixels(const clsSettings& Settings, const QString& Section, const QString& Key,
                int Default) {
-    return ToPixels(Val(Settings.GetValue(Section, Key, QString::number(Default))));
+    const std::int32_t Twips = CInt(Val(Settings.GetValue(Section, Key, {})));
+    return ToPixels(Twips > 0 ? Twips : Default);  // no window is worth opening without a size
 }
 
 void PutTwips(clsSettings& Settings, const QString& Section, const char* Key, int Pixels) {
@@ -118,7 +119,12 @@ QPoint ChildPlace(const Form& Window, int Mode) {
 
 void PositionMDIChild(Form& Window, int Mode) {
     const QPoint Place = ChildPlace(Window, Mode);
-    FrameOf(Window).move(ToPixels(Place.x()), ToPixels(Place.y()));
+    QWidget& Frame = FrameOf(Window);
+    // A maximised window keeps the frame filled; the place is for its normal size.
+    const Qt::WindowStates State = Frame.windowState();
+    Frame.setWindowState(Qt::WindowNoState);
+    Frame.move(ToPixels(Place.x()), ToPixels(Place.y()));
+    Frame.setWindowState(State);
 }
 
 }  // namespace neb

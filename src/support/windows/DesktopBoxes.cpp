@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QPointer>
 
 #include "support/windows/ScreenPointer.h"
 
@@ -23,22 +24,22 @@ QMessageBox::Icon BoxIconFor(BoxIcon Icon) {
     return QMessageBox::NoIcon;
 }
 
+const QString AllFiles = QStringLiteral("*.*");
+
 // "Name (*.a;*.b)|*.a;*.b|..." as the toolkit wants it: "Name (*.a *.b);;...".
 QString ToolkitFilters(const QString& Filters) {
     QStringList Out;
     const QStringList Pieces = Filters.split(u'|', Qt::SkipEmptyParts);
     for (qsizetype I = 0; I + 1 < Pieces.size(); I += 2) {
         const QString Name = Pieces[I].section(u'(', 0, 0).trimmed();
-        Out << Name + QStringLiteral(" (") + QString(Pieces[I + 1]).replace(u';', u' ') + u')';
+        QStringList Masks = QString(Pieces[I + 1]).split(u';');
+        Masks.replaceInStrings(AllFiles, QStringLiteral("*"));  // names without a dot as well
+        Out << Name + QStringLiteral(" (") + Masks.join(u' ') + u')';
     }
     return Out.join(QStringLiteral(";;"));
 }
 
-}  // namespace
-
-BoxAnswer DesktopBoxes::Show(const BoxRequest& Request) {
-    const PointerScope Normal(Pointer::Default);
-    QMessageBox Box(QApplication::activeWindow());
+void Fill(QMessageBox& Box, const BoxRequest& Request) {
     Box.setWindowTitle(Request.Title.isEmpty() ? QApplication::applicationDisplayName()
                                                : Request.Title);
     Box.setTextFormat(Qt::PlainText);
@@ -46,13 +47,24 @@ BoxAnswer DesktopBoxes::Show(const BoxRequest& Request) {
     Box.setIcon(BoxIconFor(Request.Icon));
     if (Request.Buttons == BoxButtons::Ok) {
         Box.setStandardButtons(QMessageBox::Ok);
-        Box.exec();
-        return BoxAnswer::Ok;
+        return;
     }
     Box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
     Box.setDefaultButton(QMessageBox::Yes);
     Box.setEscapeButton(QMessageBox::No);
-    return Box.exec() == QMessageBox::Yes ? BoxAnswer::Yes : BoxAnswer::No;
+}
+
+}  // namespace
+
+BoxAnswer DesktopBoxes::Show(const BoxRequest& Request) {
+    const PointerScope Normal(Pointer::Default);
+    // The window below may go while the box is up, and takes the box with it.
+    const QPointer<QMessageBox> Box = new QMessageBox(QApplication::activeWindow());
+    Fill(*Box, Request);
+    const int Button = Box->exec();
+    delete Box;
+    if (Request.Buttons == BoxButtons::Ok) return BoxAnswer::Ok;
+    return Button == QMessageBox::Yes ? BoxAnswer::Yes : BoxAnswer::No;
 }
 
 QString DesktopFileDialogs::OpenFile(const QString& Title, const QString& StartDir,

@@ -33,7 +33,7 @@ void Form::Load() {
     try {
         Form_Load();
     } catch (...) {
-        Unload();
+        Abandon();
         throw;
     }
 }
@@ -60,16 +60,39 @@ void Form::ShowModeless() {
 bool Form::Unload() {
     if (mState != State::Loaded) return mState != State::Unloading;
     const auto Held = shared_from_this();
+    if (!AgreesToUnload()) return false;
+    Finish();
+    return true;
+}
+
+bool Form::AgreesToUnload() {
     mState = State::Unloading;
-    if (!Form_Unload()) {
+    try {
+        if (Form_Unload()) return true;
+    } catch (...) {
         mState = State::Loaded;
-        return false;
+        throw;
     }
+    mState = State::Loaded;
+    return false;
+}
+
+void Form::Finish() {
     mState = State::Unloaded;
     LeaveFrame();
     done(0);
     Unregister(this);
-    return true;
+}
+
+// After a fault the window goes even if it would rather stay: nobody could close it any more, and
+// the fault that ended it is the one to tell.
+void Form::Abandon() {
+    const auto Held = shared_from_this();
+    try {
+        Unload();
+    } catch (const std::exception&) {
+    }
+    if (mState == State::Loaded) Finish();
 }
 
 // A child of the main window leaves its frame behind, which then goes.
@@ -86,20 +109,25 @@ void Form::LeaveFrame() {
 
 void Form::closeEvent(QCloseEvent* Event) {
     CloseRequested();
-    Event->setAccepted(mState == State::Unloaded);
+    Event->setAccepted(mState == State::Unloaded || mState == State::Created);
 }
 
-// The activation comes after the showing is done; platforms without a window manager report none
-// by themselves.
+// Platforms without a window manager report no activation by themselves.
 void Form::showEvent(QShowEvent* Event) {
     QDialog::showEvent(Event);
-    QMetaObject::invokeMethod(this, &Form::Activate, Qt::QueuedConnection);
+    ActivateLater();
 }
 
 bool Form::event(QEvent* Event) {
     const bool Handled = QDialog::event(Event);
-    if (Event->type() == QEvent::WindowActivate) Activate();
+    if (Event->type() == QEvent::WindowActivate) ActivateLater();
     return Handled;
+}
+
+// Some platforms report it from inside the showing: work that ended there would unload the window
+// before the modal wait has begun, which would then never end.
+void Form::ActivateLater() {
+    QMetaObject::invokeMethod(this, &Form::Activate, Qt::QueuedConnection);
 }
 
 void Form::Activate() {
@@ -110,7 +138,7 @@ void Form::Activate() {
     } catch (...) {
         if (!mModal) throw;
         mRaised = std::current_exception();
-        Unload();
+        Abandon();
     }
 }
 

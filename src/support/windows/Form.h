@@ -24,8 +24,9 @@ class Form : public QDialog, public std::enable_shared_from_this<Form> {
     void ShowModal();
     // Loads and shows beside the other windows.
     void ShowModeless();
-    // Runs Form_Unload and takes the window off the screen; false when it was refused. The object
-    // lives on as long as somebody holds it. Harmless when repeated.
+    // Runs Form_Unload and takes the window off the screen; false when it was refused. A fault in
+    // Form_Unload leaves it loaded. The object lives on as long as somebody holds it. Harmless when
+    // repeated.
     bool Unload();
 
   protected:
@@ -38,12 +39,17 @@ class Form : public QDialog, public std::enable_shared_from_this<Form> {
     void closeEvent(QCloseEvent* Event) override;
     void showEvent(QShowEvent* Event) override;
     bool event(QEvent* Event) override;
+    // Runs Form_Activate as an activation does: a fault ends a modal show and passes out of it.
+    void Activate();
     void reject() override { CloseRequested(); }
     void accept() override {}
 
   private:
     enum class State { Created, Loaded, Unloading, Unloaded };
-    void Activate();
+    void ActivateLater();
+    bool AgreesToUnload();
+    void Finish();
+    void Abandon();
     void LeaveFrame();
 
     State mState = State::Created;

@@ -1,5 +1,6 @@
 #include "support/windows/NebApplication.h"
 
+#include <QScopeGuard>
 #include <new>
 
 #include "support/Fault.h"
@@ -9,9 +10,18 @@
 namespace neb {
 namespace {
 
+// One box at a time: what fails while a box is up is told after it, the same thing only once.
 void Report(const QString& Text) {
-    SetScreenPointer(Pointer::Default);
-    MsgBox(Text, QStringLiteral("Operation Failed"), BoxIcon::Critical);
+    static QStringList Waiting;
+    if (Waiting.contains(Text)) return;
+    Waiting.append(Text);
+    if (Waiting.size() > 1) return;
+    const auto Emptied = qScopeGuard([] { Waiting.clear(); });
+    while (!Waiting.isEmpty()) {
+        SetScreenPointer(Pointer::Default);
+        MsgBox(Waiting.front(), QStringLiteral("Operation Failed"), BoxIcon::Critical);
+        Waiting.removeFirst();
+    }
 }
 
 }  // namespace

@@ -3,7 +3,11 @@
 // user sees a bar and can touch nothing else.
 #pragma once
 
+#include <memory>
+
 namespace neb {
+
+class Form;
 
 class ProgressParent {
   public:
@@ -12,5 +16,9 @@ class ProgressParent {
     virtual void StartOperation() {}  // the work under frmProgress
     virtual void DoAbort() {}         // raises the parent's abort flag and returns
 };
+
+// A parent that is a window may be closed at a yield, which must not delete it under its own
+// work: what this returns keeps it alive. Null for any other parent.
+std::shared_ptr<Form> HoldIfForm(ProgressParent& Parent);
 
 }  // namespace neb

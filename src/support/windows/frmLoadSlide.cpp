@@ -15,7 +15,7 @@ frmLoadSlide::frmLoadSlide() {
     setWindowTitle(tr("Loading Slide"));
     setAttribute(Qt::WA_DontShowOnScreen);
     Timer1.setInterval(5000);
-    connect(&Timer1, &QTimer::timeout, this, &frmLoadSlide::Form_Activate);
+    connect(&Timer1, &QTimer::timeout, this, &frmLoadSlide::Activate);
 }
 
 void frmLoadSlide::LoadSlide(ProgressParent& Parent) {
@@ -32,9 +32,9 @@ void frmLoadSlide::Form_Load() {
 
 void frmLoadSlide::Form_Activate() {
     Timer1.stop();
-    if (mActivated || !mParent) return;
+    if (mActivated) return;
     mActivated = true;
-    mParent->DoActivity();
+    if (mParent) mParent->DoActivity();
     Unload();  // the worker may have done it already
 }
 

@@ -29,6 +29,7 @@ void frmLoading::SupportsAbort(bool Supported) {
 }
 
 void frmLoading::ShowProgressMeter(ProgressParent& Parent) {
+    const auto Held = HoldIfForm(Parent);
     mParent = &Parent;
     ShowModal();
 }
@@ -54,9 +55,9 @@ void frmLoading::Refresh() {
 }
 
 void frmLoading::Form_Activate() {
-    if (mActivated || !mParent) return;
+    if (mActivated) return;
     mActivated = true;
-    mParent->DoActivity();
+    if (mParent) mParent->DoActivity();
     Unload();  // the worker may have done it already
 }
 

@@ -15,6 +15,7 @@ frmProgress::frmProgress() : mUi(std::make_unique<Ui::frmProgress>()) {
 frmProgress::~frmProgress() = default;
 
 void frmProgress::ShowProgressMeter(ProgressParent& Parent) {
+    const auto Held = HoldIfForm(Parent);
     mParent = &Parent;
     ShowModal();
 }
@@ -30,9 +31,9 @@ void frmProgress::Refresh() {
 }
 
 void frmProgress::Form_Activate() {
-    if (mActivated || !mParent) return;
+    if (mActivated) return;
     mActivated = true;
-    mParent->StartOperation();
+    if (mParent) mParent->StartOperation();
     Unload();  // the worker may have done it already
 }
 

@@ -1,0 +1,50 @@
+// A window whose handlers a test supplies, and the waiting that the tests of windows share.
+#pragma once
+
+#include <QTest>
+#include <functional>
+
+#include "support/windows/Form.h"
+
+namespace neb::harness {
+
+class TestForm : public Form {
+  public:
+    std::function<void()> OnLoad, OnActivate, OnClose;
+    std::function<bool()> OnUnload;
+    int Loads = 0, Activations = 0, Unloads = 0;
+
+  protected:
+    void Form_Load() override {
+        ++Loads;
+        if (OnLoad) OnLoad();
+    }
+    void Form_Activate() override {
+        ++Activations;
+        if (OnActivate) OnActivate();
+    }
+    bool Form_Unload() override {
+        ++Unloads;
+        return OnUnload ? OnUnload() : true;
+    }
+    void CloseRequested() override {
+        if (OnClose) OnClose();
+        Unload();
+    }
+};
+
+// Lets everything that waits happen, deletions included.
+inline void Settle() {
+    QTest::qWait(5);
+}
+
+// Unloads whatever a failed test has left open, so that the next one starts with nothing.
+class NoFormsLeft {
+  public:
+    ~NoFormsLeft() {
+        for (const auto& Left : LoadedForms()) Left->Unload();
+        Settle();
+    }
+};
+
+}  // namespace neb::harness
