@@ -17,15 +17,6 @@ int Noise(int X, int Y, std::uint32_t Seed) {
     return static_cast<int>(Hash(U(X), U(Y), Seed) >> 18);
 }
 
-class MapEngine : public Engine {
-  public:
-    explicit MapEngine(RevealMap Map) : mMap(std::move(Map)) {}
-    void Draw(const Frame& F, int Y0, int Y1) const override { mMap.Draw(F, Y0, Y1); }
-
-  private:
-    RevealMap mMap;
-};
-
 // 14 bits of brightness by the usual weights of red, green and blue.
 NEB_WIDE void FindMoments(const QRgb* Row, std::int16_t* Moments, int Count, int Flip) {
     for (int X = 0; X < Count; ++X) {
@@ -112,8 +103,7 @@ class CloudField {
 };
 
 Recipe FromMap(std::function<RevealMap(QSize)> Make) {
-    return {"Dissolve", [Make](QSize Size) { return std::make_unique<MapEngine>(Make(Size)); },
-            true};
+    return {"Dissolve", [Make](QSize Size) { return RevealEngine(Make(Size)); }, true};
 }
 
 RevealMap MakeBlockMap(QSize Size, int Count, int SoftBits) {

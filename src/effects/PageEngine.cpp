@@ -106,20 +106,24 @@ class PageEngine : public Engine {
             const QRgb Flat = Shaded(F.Old.Row(Y)[X], ShadowBefore(S, D));
             return OverBack(F, S, X, Y, D, S.Axis + S.HalfTurn - Off, 0, Flat);
         }
-        QRgb Below = Shaded(F.New.Row(Y)[X], ShadowBehind(S, D));
+        const QRgb Below = Shaded(F.New.Row(Y)[X], ShadowBehind(S, D));
         if (Off >= S.Radius) return Below;
         const int Height = static_cast<int>((Off * S.PerRadius) >> 32);
         const std::int64_t Arc = (S.Radius * ArcAt(Height)) >> 16;
-        Below = OverFront(F, S, X, Y, D, S.Axis + Arc, Below);
-        return OverBack(F, S, X, Y, D, S.Axis + S.HalfTurn - Arc, Height, Below);
+        const QRgb Front = OverFront(F, S, X, Y, D, S.Axis + Arc, Below);
+        const QRgb Back = OverBack(F, S, X, Y, D, S.Axis + S.HalfTurn - Arc, Height, Front);
+        const std::int64_t Left = S.Radius - Off;
+        return Left >= One ? Back : Mix(Below, Back, static_cast<int>(Left >> 8));
     }
 
     // Darkness on the table just beyond the curl, and on the sheet just before the flap.
     static int ShadowBehind(const Sheet& S, std::int64_t D) {
         return Fading(S, std::max<std::int64_t>(0, D - S.Axis) / 2);
     }
-    static int ShadowBefore(const Sheet& S, std::int64_t D) {
-        return D >= S.FlapEnd ? 0 : Fading(S, S.FlapEnd - D) / 2;
+    // A sheet drawn by its corner has no straight end that could throw one.
+    int ShadowBefore(const Sheet& S, std::int64_t D) const {
+        const bool Straight = mNx == 0 || mNy == 0;
+        return !Straight || D >= S.FlapEnd ? 0 : Fading(S, S.FlapEnd - D) / 2;
     }
     // Way: from 0, darkest, to the radius.
     static int Fading(const Sheet& S, std::int64_t Way) {

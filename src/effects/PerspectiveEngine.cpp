@@ -16,7 +16,9 @@ struct Panel {
     int Cx, Cz;
     std::int64_t Length;
     std::int64_t TextureStart;
-    int Shade;  // darkness 0..256
+    int Shade;                  // darkness 0..256
+    bool JoinsAtStart = false;  // another panel goes on there: no soft edge
+    bool JoinsAtEnd = false;
 };
 
 struct Scene {
@@ -37,6 +39,15 @@ using Planner = Scene (*)(const Frame& F, std::int64_t Length, int Part);
 
 constexpr int kDistance = 2;  // of the viewer, in lengths of the view
 
+// Panels that join overlap by this much of One, so that no rounding opens a gap.
+constexpr int kSeam = 512;
+
+int CoverAt(const Panel& P, std::int64_t Along) {
+    const std::int64_t FromStart = P.JoinsAtStart ? One : Along;
+    const std::int64_t FromEnd = P.JoinsAtEnd ? One : P.Length - Along;
+    return Clamp(static_cast<int>((std::min(FromStart, FromEnd) + One / 2) >> 8), 0, 256);
+}
+
 // Where the line of sight at place Sight meets the panel: along the panel, and how deep.
 bool Meet(const Panel& P, std::int64_t Sight, std::int64_t Eye, std::int64_t& Along, int& Zoom,
           bool& Facing) {
@@ -44,7 +55,8 @@ bool Meet(const Panel& P, std::int64_t Sight, std::int64_t Eye, std::int64_t& Al
     if (Down > -64 && Down < 64) return false;
     Along = (Sight * (Eye + P.Z) - Eye * P.X) / Down;
     Facing = Down > 0;
-    if (Along < -One || Along > P.Length + One) return false;
+    if (Along < (P.JoinsAtStart ? -kSeam : -One)) return false;
+    if (Along > P.Length + (P.JoinsAtEnd ? kSeam : One)) return false;
     const std::int64_t Depth = Eye + P.Z + ((Along * P.Cz) >> 16);
     if (Depth <= 0) return false;
     Zoom = static_cast<int>((Depth << 16) / Eye);
@@ -61,8 +73,7 @@ Line LookAt(const Scene& S, std::int64_t Sight, std::int64_t Length) {
         const Picture* Source = Facing ? P.Front : P.Back;
         if (!Source || (Best.Source && Best.Zoom < Zoom)) continue;
         const std::int64_t U = P.TextureStart + (Facing ? Along : P.Length - Along);
-        const int Cover = Coverage(static_cast<int>(Along), static_cast<int>(P.Length));
-        Best = {Source, static_cast<int>(U) - One / 2, One, Zoom, Cover, P.Shade};
+        Best = {Source, static_cast<int>(U) - One / 2, One, Zoom, CoverAt(P, Along), P.Shade};
     }
     return Best;
 }
@@ -163,8 +174,10 @@ Scene PlanCube(const Frame& F, std::int64_t Length, int Part) {
     const std::int64_t Middle = Half + ((Half * (S + C - One)) >> 16);
     const auto At = [Half](std::int64_t A, std::int64_t B) { return (Half * (A + B)) >> 16; };
     Scene Out{};
-    Out.Panels[0] = {&F.Old, nullptr, At(-C, -S), Middle + At(S, -C), C, -S, Length, 0, Dark(S)};
-    Out.Panels[1] = {&F.New, nullptr, At(C, -S), Middle + At(-S, -C), S, C, Length, 0, Dark(C)};
+    Out.Panels[0] = {&F.Old,  nullptr, At(-C, -S), Middle + At(S, -C), C, -S, Length, 0,
+                     Dark(S), false,   true};
+    Out.Panels[1] = {&F.New,  nullptr, At(C, -S), Middle + At(-S, -C), S, C, Length, 0,
+                     Dark(C), true,    false};
     return Out;
 }
 

@@ -6,6 +6,22 @@
 #include "effects/Pixels.h"
 
 namespace neb::effects {
+namespace {
+
+class PlainReveal : public Engine {
+  public:
+    explicit PlainReveal(RevealMap Map) : mMap(std::move(Map)) {}
+    void Draw(const Frame& F, int Y0, int Y1) const override { mMap.Draw(F, Y0, Y1); }
+
+  private:
+    RevealMap mMap;
+};
+
+}  // namespace
+
+std::unique_ptr<Engine> RevealEngine(RevealMap Map) {
+    return std::make_unique<PlainReveal>(std::move(Map));
+}
 
 RevealMap::RevealMap(QSize Size, int SoftBits, const RowMaker& MakeRow)
     : mWidth(Size.width()), mTiles((Size.width() + kTile - 1) / kTile), mSoftBits(SoftBits) {

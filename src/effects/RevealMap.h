@@ -49,6 +49,9 @@ class RevealMap {
     std::vector<int> mRowOf;             // which of those rows a row of the picture has
 };
 
+// The plain use of a map: an engine that does nothing else.
+std::unique_ptr<Engine> RevealEngine(RevealMap Map);
+
 // Mixes by the moments of a run: weight 0 where the edge has not come, 256 where it has passed.
 void MixByMoments(QRgb* Out, const QRgb* Old, const QRgb* New, const std::int16_t* Moments,
                   int Count, int Edge, int SoftBits);

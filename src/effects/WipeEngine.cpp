@@ -3,15 +3,6 @@
 namespace neb::effects {
 namespace {
 
-class WipeEngine : public Engine {
-  public:
-    explicit WipeEngine(RevealMap Map) : mMap(std::move(Map)) {}
-    void Draw(const Frame& F, int Y0, int Y1) const override { mMap.Draw(F, Y0, Y1); }
-
-  private:
-    RevealMap mMap;
-};
-
 WipePlace PlaceAt(int X, int Y, QSize Size, const WipeForm& Form) {
     const int W = Size.width(), H = Size.height();
     if (Form.FlipX) X = W - 1 - X;
@@ -33,10 +24,7 @@ RevealMap MakeWipeMap(QSize Size, WipeShape Shape, const WipeForm& Form) {
 }
 
 Recipe Wipe(WipeShape Shape, WipeForm Form) {
-    return {
-        "Wipe",
-        [=](QSize Size) { return std::make_unique<WipeEngine>(MakeWipeMap(Size, Shape, Form)); },
-        true};
+    return {"Wipe", [=](QSize Size) { return RevealEngine(MakeWipeMap(Size, Shape, Form)); }, true};
 }
 
 }  // namespace neb::effects
