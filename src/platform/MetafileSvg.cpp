@@ -1,0 +1,111 @@
+#include "platform/MetafileSvg.h"
+
+#include <sys/resource.h>
+
+#include <QProcess>
+
+#include "platform/ByteView.h"
+#include "platform/PictureFaults.h"
+#include "support/modHostFiles.h"
+
+namespace neb {
+namespace {
+
+constexpr int MostSeconds = 5;
+constexpr rlim_t MostMemory = 600UL << 20, LongestSvg = 64UL << 20;
+
+void Limit(int What, rlim_t Most) {
+    const rlimit Both = {Most, Most};
+    setrlimit(static_cast<__rlimit_resource_t>(What), &Both);
+}
+
+void LimitChild() {
+    Limit(RLIMIT_CPU, MostSeconds);
+    Limit(RLIMIT_AS, MostMemory);
+    Limit(RLIMIT_FSIZE, LongestSvg);
+    Limit(RLIMIT_CORE, 0);
+}
+
+void RunConverter(const QStringList& Arguments) {
+    QProcess Converter;
+    auto Environment = QProcessEnvironment::systemEnvironment();
+    Environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));
+    Converter.setProcessEnvironment(Environment);
+    Converter.setChildProcessModifier(LimitChild);
+    Converter.setStandardOutputFile(QProcess::nullDevice());
+    Converter.setStandardErrorFile(QProcess::nullDevice());
+    Converter.start(QStringLiteral("emf2svg-conv"), Arguments);
+    if (!Converter.waitForStarted())
+        throw Fault(QStringLiteral("Enhanced metafiles cannot be read: the program emf2svg-conv is "
+                                   "not installed."),
+                    {}, FaultUnknownPicture);
+    if (Converter.waitForFinished(MostSeconds * 1000 + 1000) &&
+        Converter.exitStatus() == QProcess::NormalExit)
+        return;
+    Converter.kill();
+    Converter.waitForFinished(1000);
+    ThrowDamaged();
+}
+
+// The converter takes what it gets as whole; so the records are followed to the end mark here.
+void CheckRecords(const ByteView& Emf) {
+    constexpr quint32 EndRecord = 14;
+    for (qint64 At = 0; Emf.Has(At, 8);) {
+        const quint32 Length = Emf.U32(At + 4);
+        if (Length < 8 || Length % 4) ThrowDamaged();
+        if (!Emf.Has(At, Length)) break;
+        if (Emf.U32(At) == EndRecord) return;
+        At += Length;
+    }
+    ThrowEndsEarly();
+}
+
+// What of a reference is allowed to stay: a place in the drawing, or a picture carried along
+// whose first bytes are those of a plain pixel format (an SVG in it could refer elsewhere).
+bool StaysInside(QByteArrayView Target) {
+    if (Target.startsWith('#')) return true;
+    if (!Target.startsWith("data:image/")) return false;
+    constexpr QByteArrayView Mark = ";base64,";
+    const qsizetype Comma = Target.first(std::min<qsizetype>(Target.size(), 64)).indexOf(Mark);
+    if (Comma < 0) return false;
+    const QByteArrayView Data = Target.sliced(Comma + Mark.size());
+    return Data.startsWith("iVBORw0KGgo") || Data.startsWith("/9j/") || Data.startsWith("Qk");
+}
+
+// Behind "href", spaces, "=", spaces and a quotation mark; -1 where it is no attribute.
+qsizetype TargetAt(const QByteArray& Svg, qsizetype At) {
+    const auto SkipSpace = [&] {
+        while (At < Svg.size() && std::isspace(static_cast<uchar>(Svg[At]))) ++At;
+    };
+    SkipSpace();
+    if (At >= Svg.size() || Svg[At++] != '=') return -1;
+    SkipSpace();
+    return At < Svg.size() && (Svg[At] == '"' || Svg[At] == '\'') ? At + 1 : -1;
+}
+
+}  // namespace
+
+QByteArray EmfToSvg(const QByteArray& Emf) {
+    CheckRecords(Emf);
+    const ScratchDir Scratch;
+    const QString From = Scratch.Path() + QStringLiteral("a.emf");
+    const QString To = Scratch.Path() + QStringLiteral("a.svg");
+    WriteFile(From, Emf);
+    RunConverter({QStringLiteral("-p"), QStringLiteral("-i"), From, QStringLiteral("-o"), To});
+    if (!FileExists(To) || FileSize(To) >= qint64(LongestSvg)) ThrowDamaged();
+    return WithoutOutsideReferences(ReadFile(To));
+}
+
+QByteArray WithoutOutsideReferences(QByteArray Svg) {
+    // An entity could spell out what is looked for here.
+    if (Svg.contains("<!DOCTYPE") || Svg.contains("<!ENTITY")) ThrowDamaged();
+    constexpr QByteArrayView Word = "href";
+    for (qsizetype At = 0; (At = Svg.indexOf(Word, At)) >= 0;) {
+        const qsizetype Target = TargetAt(Svg, At + Word.size());
+        if (Target >= 0 && !StaysInside(QByteArrayView(Svg).sliced(Target))) Svg[At] = 'x';
+        At += Word.size();
+    }
+    return Svg;
+}
+
+}  // namespace neb

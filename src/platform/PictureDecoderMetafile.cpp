@@ -1,0 +1,69 @@
+// Windows metafiles: drawings that become pixels at the size they have on a screen of 96 dots an
+// inch.
+#include <QPainter>
+#include <QSvgRenderer>
+
+#include "platform/MetafileSvg.h"
+#include "platform/PictureColour.h"
+#include "platform/PictureFaults.h"
+#include "platform/PictureFormats.h"
+#include "platform/WmfPlayer.h"
+
+namespace neb {
+namespace {
+
+// Larger drawings are drawn smaller: they have no pixels to lose.
+constexpr int LongestDrawing = 4096;
+
+QSize DrawnSize(QSize Natural) {
+    if (Natural.isEmpty()) ThrowDamaged();
+    const QSize Most(LongestDrawing, LongestDrawing);
+    const bool Fits = Natural.boundedTo(Most) == Natural;
+    return (Fits ? Natural : Natural.scaled(Most, Qt::KeepAspectRatio)).expandedTo(QSize(1, 1));
+}
+
+template <class Paint>
+DecodedPicture Draw(QSize Natural, Paint PaintOn) {
+    const QSize Size = DrawnSize(Natural);
+    const DecodeBudget Budget(Size, PixelCount(Size) * 4);
+    QImage Picture(Size, QImage::Format_RGB32);
+    Picture.fill(Qt::white);
+    QPainter Painter(&Picture);
+    Painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    PaintOn(Painter, Size);
+    Painter.end();
+    MakeOpaque(Picture);  // mixing bit by bit reaches the unused byte, too
+    return {Picture, Size};
+}
+
+DecodedPicture DrawEmf(const QByteArray& Emf) {
+    QSvgRenderer Drawing(EmfToSvg(Emf));
+    if (!Drawing.isValid()) ThrowDamaged();
+    return Draw(Drawing.defaultSize(),
+                [&](QPainter& Painter, QSize Size) { Drawing.render(&Painter, QRect({}, Size)); });
+}
+
+DecodedPicture DrawWmf(const WmfPlayer& Player) {
+    return Draw(Player.NaturalSize(),
+                [&](QPainter& Painter, QSize Size) { Player.Play(Painter, Size); });
+}
+
+}  // namespace
+
+DecodedPicture DecodeEmf(const PictureSource& Source) {
+    return DrawEmf(Source.Bytes);
+}
+
+// Office programs put the whole drawing into the file a second time, as an enhanced metafile.
+DecodedPicture DecodeWmf(const PictureSource& Source) {
+    const WmfPlayer Player(Source.Bytes);
+    const QByteArray Carried = CarriedEmf(Source.Bytes);
+    if (Carried.isEmpty()) return DrawWmf(Player);
+    try {
+        return DrawEmf(Carried);
+    } catch (const Fault&) {
+        return DrawWmf(Player);
+    }
+}
+
+}  // namespace neb
