@@ -23,7 +23,7 @@ constexpr FormatRow Formats[] = {
     {LooksLikeEmf, DecodeEmf, "emf", false},        {LooksLikeWmf, DecodeWmf, "wmf", false},
     {LooksLikePcd, DecodeByMagick, "PCD", false},   {LooksLikeGif, DecodeByQt, "gif", true},
     {LooksLikeWebp, DecodeByQt, "webp", true},      {LooksLikeHeic, DecodeByMagick, "HEIC", true},
-    {LooksLikeBmp, DecodeByQt, "bmp", false},       {LooksLikePcx, DecodeByMagick, "PCX", false},
+    {LooksLikeBmp, DecodeBmp, "bmp", false},        {LooksLikePcx, DecodeByMagick, "PCX", false},
     {LooksLikeWbmp, DecodeByQt, "wbmp", false},     {LooksLikeTga, DecodeByMagick, "TGA", false},
 };
 

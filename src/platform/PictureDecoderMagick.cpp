@@ -37,7 +37,9 @@ void ChooseFirst(Magick::Image& Image, const PictureSource& Source) {
 }
 
 [[noreturn]] void ThrowReason(const Magick::Exception& Reason) {
+    if (dynamic_cast<const Magick::ErrorResourceLimit*>(&Reason)) ThrowTooLarge();
     const QString Text = QString::fromLocal8Bit(Reason.what());
+    if (Text.contains(QLatin1String("exceeds limit"))) ThrowTooLarge();
     for (const char* Sign : {"EndOfFile", "end-of-file", "UnableToReadImageData", "not enough"})
         if (Text.contains(QLatin1String(Sign), Qt::CaseInsensitive)) ThrowEndsEarly();
     ThrowDamaged();
@@ -112,12 +114,22 @@ int OrientationOf(const Magick::Image& Image) {
     return Number >= 1 && Number <= 8 ? Number : 1;
 }
 
-DecodedPicture Decode(const PictureSource& Source) {
+QSize ReadSize(const PictureSource& Source) {
     Magick::Image Header;
-    ReadImage(Header, Source, true);
+    try {
+        ReadImage(Header, Source, true);
+    } catch (const Magick::Exception&) {
+        CheckIsWhole(Source);  // says more precisely what is wrong
+        throw;
+    }
     if (SizeOf(Header).isEmpty()) ThrowDamaged();
-    const DecodeBudget Budget(SizeOf(Header),
-                              PixelCount(SizeOf(Header)) * BytesAPixel + Source.Bytes.size());
+    return SizeOf(Header);
+}
+
+DecodedPicture Decode(const PictureSource& Source) {
+    const QSize Size = ReadSize(Source);
+    const DecodeBudget Budget(Size, PixelCount(Size) * BytesAPixel + Source.Bytes.size());
+    CheckIsWhole(Source);
     auto Image = std::make_unique<Magick::Image>();
     ReadImage(*Image, Source, false);
     if (SizeOf(*Image).isEmpty()) ThrowDamaged();
@@ -133,7 +145,6 @@ DecodedPicture Decode(const PictureSource& Source) {
 
 DecodedPicture DecodeByMagick(const PictureSource& Source) {
     StartLibrary();
-    CheckIsWhole(Source);
     try {
         return Decode(Source);
     } catch (const Magick::Exception& Reason) {

@@ -19,11 +19,11 @@ void LiftReaderLimit() {
 
 // A pixel as the reader has it, and as a picture for the screen besides it unless one can become
 // the other in place.
-qint64 BytesNeeded(const QImageReader& Reader, const PictureSource& Source) {
+qint64 BytesNeeded(const QImageReader& Reader, QSize Size, const PictureSource& Source) {
     const QPixelFormat Format = QImage::toPixelFormat(Reader.imageFormat());
     const int Own = Reader.imageFormat() == QImage::Format_Invalid ? 4 : Format.bitsPerPixel() / 8;
     const bool InPlace = Own == 4;
-    return PixelCount(Reader.size()) * (InPlace ? 4 : Own + 4) + Source.Bytes.size();
+    return PixelCount(Size) * (InPlace ? 4 : Own + 4) + Source.Bytes.size();
 }
 
 int OrientationOf(const PictureSource& Source) {
@@ -43,15 +43,25 @@ QByteArray ProfileOf(const QImage& Picture, const PictureSource& Source) {
 
 }  // namespace
 
+// Qt leaves the colours of 16-bit bitmaps too dark: white would be grey.
+DecodedPicture DecodeBmp(const PictureSource& Source) {
+    if (BmpLayout(Source.Bytes).Depth != 16) return DecodeByQt(Source);
+    return DecodeByMagick({Source.Bytes, "BMP", Source.Needed});
+}
+
 DecodedPicture DecodeByQt(const PictureSource& Source) {
     LiftReaderLimit();
-    CheckIsWhole(Source);
     QBuffer Buffer(const_cast<QByteArray*>(&Source.Bytes));
     Buffer.open(QIODevice::ReadOnly);
     QImageReader Reader(&Buffer, Source.Format);
-    const QSize Stored = Reader.size();
-    if (!Stored.isValid() || Stored.isEmpty()) ThrowDamaged();
-    const DecodeBudget Budget(Stored, BytesNeeded(Reader, Source));
+    const bool IsBmp = qstrcmp(Source.Format, "bmp") == 0;
+    const QSize Stored = IsBmp ? BmpLayout(Source.Bytes).Size : Reader.size();
+    if (Stored.isEmpty()) {
+        CheckIsWhole(Source);
+        ThrowDamaged();
+    }
+    const DecodeBudget Budget(Stored, BytesNeeded(Reader, Stored, Source));
+    CheckIsWhole(Source);
     QImage Picture = Reader.read();
     if (Picture.isNull()) ThrowDamaged();
     const QByteArray Profile = ProfileOf(Picture, Source);

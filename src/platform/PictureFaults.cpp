@@ -21,6 +21,10 @@ void ThrowEndsEarly() {
     throw Fault(QStringLiteral("The picture is damaged: it ends too early."), {}, FaultEndsEarly);
 }
 
+void ThrowTooLarge() {
+    throw Fault(QStringLiteral("The picture is too large to be read."), {}, FaultTooLarge);
+}
+
 void ThrowTooLarge(QSize Size) {
     throw Fault(QStringLiteral("The picture is too large to be read: %1 by %2 pixels.")
                     .arg(Size.width())

@@ -19,6 +19,7 @@ inline constexpr quint32 FaultNotSaved = 0x80040295;
 [[noreturn]] void ThrowDamaged();
 [[noreturn]] void ThrowDamaged(const QString& Detail);
 [[noreturn]] void ThrowEndsEarly();
+[[noreturn]] void ThrowTooLarge();
 [[noreturn]] void ThrowTooLarge(QSize Size);
 [[noreturn]] void ThrowFileTooLarge();
 

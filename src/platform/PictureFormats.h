@@ -15,6 +15,7 @@ struct PictureSource {
 
 DecodedPicture DecodeJpeg(const PictureSource& Source);
 DecodedPicture DecodeByQt(const PictureSource& Source);
+DecodedPicture DecodeBmp(const PictureSource& Source);
 DecodedPicture DecodeByMagick(const PictureSource& Source);
 DecodedPicture DecodeEmf(const PictureSource& Source);
 DecodedPicture DecodeWmf(const PictureSource& Source);
@@ -37,6 +38,14 @@ bool LooksLikeHeic(const ByteView& Bytes);
 
 // Throws FaultEndsEarly when the file has fewer pixels than its header promises.
 void CheckIsWhole(const PictureSource& Source);
+
+struct BmpHeader {
+    QSize Size;  // both sides positive
+    int Depth;   // bits a pixel
+    quint32 Packing;
+    qint64 Pixels;  // where they begin
+};
+BmpHeader BmpLayout(const ByteView& Bytes);
 
 // Bytes that a whole WBMP file of this header has.
 qint64 WbmpNeeds(const ByteView& Bytes);

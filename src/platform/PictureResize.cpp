@@ -1,5 +1,6 @@
 #include "platform/PictureResize.h"
 
+#include <algorithm>
 #include <cmath>
 #include <vector>
 

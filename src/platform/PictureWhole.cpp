@@ -8,21 +8,8 @@ namespace neb {
 namespace {
 
 constexpr qint64 FileHeader = 14;
-
-struct BmpHeader {
-    bool Old;  // the twelve-byte form
-    qint64 Width, Height;
-    int Depth;
-    quint32 Packing;
-    qint64 Pixels;  // where they begin
-};
-
-BmpHeader ReadBmpHeader(const ByteView& Bytes) {
-    const bool Old = Bytes.U32(FileHeader) == 12;
-    const qint64 Width = Old ? Bytes.U16(18) : Bytes.I32(18);
-    const qint64 Height = Old ? Bytes.U16(20) : std::abs(qint64(Bytes.I32(22)));
-    return {Old, Width, Height, Bytes.U16(Old ? 24 : 28), Old ? 0 : Bytes.U32(30), Bytes.U32(10)};
-}
+// Beyond any picture, and small enough to multiply with.
+constexpr qint64 MostSide = 1 << 24;
 
 // Follows run-length packed pixels to their end mark. A file that leaves the mark away but
 // reaches the last row is whole as well.
@@ -50,16 +37,17 @@ bool PackedBmpIsWhole(const ByteView& Bytes, const BmpHeader& Header) {
             Column += Code;
         }
     }
-    return Row >= Header.Height || (Row == Header.Height - 1 && Column >= Header.Width);
+    return Row >= Header.Size.height() ||
+           (Row == Header.Size.height() - 1 && Column >= Header.Size.width());
 }
 
 bool BmpIsWhole(const ByteView& Bytes) {
-    const BmpHeader Header = ReadBmpHeader(Bytes);
+    const BmpHeader Header = BmpLayout(Bytes);
     constexpr quint32 Packed8 = 1, Packed4 = 2;
     if (Header.Packing == Packed8 || Header.Packing == Packed4)
         return PackedBmpIsWhole(Bytes, Header);
-    const qint64 Stride = (Header.Width * Header.Depth + 31) / 32 * 4;
-    return Bytes.Has(Header.Pixels, Stride * Header.Height);
+    const qint64 Stride = (qint64(Header.Size.width()) * Header.Depth + 31) / 32 * 4;
+    return Bytes.Has(Header.Pixels, Stride * Header.Size.height());
 }
 
 bool WbmpIsWhole(const ByteView& Bytes) {
@@ -133,6 +121,7 @@ bool PsdIsWhole(const ByteView& Bytes) {
     At += 4 + qint64(Bytes.U32(At, true));
     const qint64 Rows = qint64(Bytes.U16(12, true)) * Bytes.U32(14, true);
     const qint64 RowLength = (qint64(Bytes.U32(18, true)) * Bytes.U16(22, true) + 7) / 8;
+    if (std::max(Rows, RowLength) > LargestPictureFile) return false;
     const bool IsPacked = Bytes.U16(At, true) == Packed;
     return Bytes.Has(At, 2) &&
            Bytes.Has(At + 2, IsPacked ? PackedPsdLength(Bytes, At + 2, Rows, Large ? 4 : 2)
@@ -149,9 +138,20 @@ constexpr CheckRow Checks[] = {{"bmp", BmpIsWhole},   {"wbmp", WbmpIsWhole}, {"p
 
 }  // namespace
 
+BmpHeader BmpLayout(const ByteView& Bytes) {
+    const bool Old = Bytes.U32(FileHeader) == 12;
+    const auto Side = [](qint64 Length) {
+        return static_cast<int>(std::min<qint64>(std::abs(Length), MostSide));
+    };
+    const QSize Size =
+        Old ? QSize(Bytes.U16(18), Bytes.U16(20)) : QSize(Side(Bytes.I32(18)), Side(Bytes.I32(22)));
+    return {Size, Bytes.U16(Old ? 24 : 28), Old ? 0 : Bytes.U32(30), Bytes.U32(10)};
+}
+
 void CheckIsWhole(const PictureSource& Source) {
     for (const CheckRow& Row : Checks)
-        if (qstrcmp(Row.Format, Source.Format) == 0 && !Row.IsWhole(Source.Bytes)) ThrowEndsEarly();
+        if (qstricmp(Row.Format, Source.Format) == 0 && !Row.IsWhole(Source.Bytes))
+            ThrowEndsEarly();
 }
 
 }  // namespace neb

@@ -129,10 +129,8 @@ QImage DibPicture(const ByteView& Dib) {
     qToLittleEndian<quint32>(static_cast<quint32>(14 + Body.size()), File.data() + 2);
     qToLittleEndian<quint32>(static_cast<quint32>(14 + HeaderAndColours(Dib)), File.data() + 10);
     File.append(Body.data(), Body.size());
-    const bool Old = Dib.U32(0) == 12;
-    const qint64 Pixels =
-        Old ? qint64(Dib.U16(4)) * Dib.U16(6) : std::abs(qint64(Dib.I32(4)) * Dib.I32(8));
-    if (!LooksLikeBmp(ByteView(File)) || Pixels > MostPixels) return {};
+    const ByteView Bytes(File);
+    if (!LooksLikeBmp(Bytes) || PixelCount(BmpLayout(Bytes).Size) > MostPixels) return {};
     try {
         CheckIsWhole({File, "bmp", {}});
     } catch (const Fault&) {

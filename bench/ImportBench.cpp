@@ -1,0 +1,144 @@
+// What the import of a photograph costs in processor time, against the general-purpose tool for
+// the same two pictures (vipsthumbnail, package libvips-tools). Prints one ratio a line.
+//   bench_import [pictures [rounds]]
+#include <sys/resource.h>
+
+#include <QElapsedTimer>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <cmath>
+#include <cstdio>
+#include <random>
+
+#include "platform/AheadQueue.h"
+#include "platform/ImgX.h"
+#include "support/modHostFiles.h"
+
+namespace {
+
+constexpr int Width = 4000, Height = 3000;
+
+double Seconds(const timeval& Time) {
+    return double(Time.tv_sec) + double(Time.tv_usec) / 1e6;
+}
+
+double ProcessorSeconds(int Who) {
+    rusage Usage = {};
+    getrusage(Who, &Usage);
+    return Seconds(Usage.ru_utime) + Seconds(Usage.ru_stime);
+}
+
+// Smooth hills of several sizes with the grain of a camera's sensor.
+QImage Photo(unsigned Seed) {
+    std::mt19937 Random(Seed);
+    std::vector<QImage> Layers;
+    for (int Side : {5, 17, 60, 200, 700}) {
+        QImage Layer(Side, Side * 3 / 4 + 1, QImage::Format_RGB32);
+        for (int Y = 0; Y < Layer.height(); ++Y)
+            for (int X = 0; X < Side; ++X) Layer.setPixel(X, Y, Random());
+        Layers.push_back(
+            Layer.scaled(Width, Height, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    }
+    QImage Result(Width, Height, QImage::Format_RGB32);
+    const int Parts[] = {40, 28, 18, 9, 5};
+    for (int Y = 0; Y < Height; ++Y) {
+        uchar* To = Result.scanLine(Y);
+        for (int I = 0; I < Width * 4; ++I) {
+            int Sum = 0;
+            for (size_t L = 0; L < Layers.size(); ++L)
+                Sum += Layers[L].constScanLine(Y)[I] * Parts[L];
+            To[I] = static_cast<uchar>(std::clamp(Sum / 100 + int(Random() % 9) - 4, 0, 255));
+        }
+    }
+    return Result;
+}
+
+QStringList MakePhotos(const QTemporaryDir& Dir, int Count) {
+    QStringList Files;
+    for (int I = 0; I < Count; ++I) {
+        Files << Dir.filePath(QStringLiteral("photo%1.jpg").arg(I));
+        Photo(static_cast<unsigned>(I)).save(Files.back(), "JPEG", 90);
+    }
+    return Files;
+}
+
+struct Made {
+    QByteArray Jpeg, Bmp;
+};
+
+// As the program does it: the file is read twice, once for the list, once for the album.
+Made Import(const QString& File) {
+    return {neb::FittedJpeg(File), neb::ThumbnailBmp(neb::MakeThumbnail(File))};
+}
+
+struct Cost {
+    double Processor, Wall;
+};
+
+template <class Work>
+Cost Measure(int Who, Work Do) {
+    const double Before = ProcessorSeconds(Who);
+    QElapsedTimer Time;
+    Time.start();
+    Do();
+    return {ProcessorSeconds(Who) - Before, double(Time.nsecsElapsed()) / 1e9};
+}
+
+Cost MeasureOurs(const QStringList& Files, const QTemporaryDir& Dir) {
+    return Measure(RUSAGE_SELF, [&] {
+        neb::AheadQueue<QString, Made> Queue({Files.begin(), Files.end()}, Import);
+        while (!Queue.AtEnd()) {
+            const QString Stem = Dir.filePath(QFileInfo(Queue.Next()).baseName());
+            const Made Pictures = Queue.Take();
+            neb::WriteFile(Stem + QStringLiteral("-ours.out"), Pictures.Jpeg);
+            neb::WriteFile(Stem + QStringLiteral("-ours.bmp"), Pictures.Bmp);
+        }
+    });
+}
+
+void RunTool(const QStringList& Files, const QStringList& Options) {
+    if (QProcess::execute(QStringLiteral("vipsthumbnail"), Files + Options) == 0) return;
+    std::fprintf(stderr, "vipsthumbnail is missing or failed\n");
+    std::exit(1);
+}
+
+Cost MeasureTool(const QStringList& Files) {
+    return Measure(RUSAGE_CHILDREN, [&] {
+        RunTool(Files, {QStringLiteral("--size"), QStringLiteral("1024x768"), QStringLiteral("-o"),
+                        QStringLiteral("%s-tool.jpg[Q=100,subsample_mode=off,strip]")});
+        RunTool(Files, {QStringLiteral("--size"), QStringLiteral("72x72!"), QStringLiteral("-o"),
+                        QStringLiteral("%s-tool.png")});
+    });
+}
+
+void Print(const char* What, double Ratio, double Ours, double Theirs, const char* Unit) {
+    std::printf("%-44s %6.3f   (%.1f / %.1f %s)\n", What, Ratio, Ours, Theirs, Unit);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QGuiApplication App(argc, argv);
+    const int Count = argc > 1 ? std::atoi(argv[1]) : 8, Rounds = argc > 2 ? std::atoi(argv[2]) : 5;
+    const QTemporaryDir Dir;
+    const QStringList Files = MakePhotos(Dir, Count);
+    std::vector<double> Ratios;
+    double Ours = 0, Theirs = 0, Wall = 0;
+    for (int I = 0; I < Rounds; ++I) {
+        const Cost Own = MeasureOurs(Files, Dir), Tool = MeasureTool(Files);
+        Ratios.push_back(Own.Processor / Tool.Processor);
+        Ours += Own.Processor;
+        Theirs += Tool.Processor;
+        Wall += Own.Wall;
+    }
+    std::sort(Ratios.begin(), Ratios.end());
+    const double EachMs = 1000.0 / (Count * Rounds);
+    Print("import, processor time / vipsthumbnail", Ratios[Ratios.size() / 2], Ours * EachMs,
+          Theirs * EachMs, "ms a picture");
+    Print("import, processor time / wall time", Ours / Wall, Ours * EachMs, Wall * EachMs,
+          "ms a picture");
+    return 0;
+}
