@@ -69,7 +69,8 @@ QByteArray BmpHeaders(QSize Size, int Stride) {
     Append(Bytes, Pixels, 4);
     Append(Bytes, DotsAMetre, 4);
     Append(Bytes, DotsAMetre, 4);
-    Append(Bytes, 0, 8);
+    Append(Bytes, 0, 4);
+    Append(Bytes, 0, 4);
     return Bytes;
 }
 

@@ -2,16 +2,21 @@
 
 #include <sys/resource.h>
 
+#include <QBuffer>
+#include <QImageReader>
 #include <QProcess>
 
 #include "platform/ByteView.h"
 #include "platform/PictureFaults.h"
+#include "platform/PictureFormats.h"
 #include "support/modHostFiles.h"
 
 namespace neb {
 namespace {
 
-constexpr int MostSeconds = 5;
+constexpr int MostSeconds = 3;
+// In all pictures that one drawing carries.
+constexpr qint64 MostPixels = 60'000'000;
 constexpr rlim_t MostMemory = 600UL << 20, LongestSvg = 64UL << 20;
 
 void Limit(int What, rlim_t Most) {
@@ -39,7 +44,7 @@ void RunConverter(const QStringList& Arguments) {
         throw Fault(QStringLiteral("Enhanced metafiles cannot be read: the program emf2svg-conv is "
                                    "not installed."),
                     {}, FaultUnknownPicture);
-    if (Converter.waitForFinished(MostSeconds * 1000 + 1000) &&
+    if (Converter.waitForFinished(MostSeconds * 1000 + 500) &&
         Converter.exitStatus() == QProcess::NormalExit)
         return;
     Converter.kill();
@@ -60,16 +65,30 @@ void CheckRecords(const ByteView& Emf) {
     ThrowEndsEarly();
 }
 
-// What of a reference is allowed to stay: a place in the drawing, or a picture carried along
-// whose first bytes are those of a plain pixel format (an SVG in it could refer elsewhere).
-bool StaysInside(QByteArrayView Target) {
-    if (Target.startsWith('#')) return true;
-    if (!Target.startsWith("data:image/")) return false;
+// Pixels of a picture that the drawing carries along; more than all when it is none. Only plain
+// pixel formats count: an SVG in its place could refer elsewhere.
+qint64 CarriedPixels(QByteArrayView Target) {
     constexpr QByteArrayView Mark = ";base64,";
+    constexpr qsizetype LongestHeader = 256 << 10;
     const qsizetype Comma = Target.first(std::min<qsizetype>(Target.size(), 64)).indexOf(Mark);
-    if (Comma < 0) return false;
-    const QByteArrayView Data = Target.sliced(Comma + Mark.size());
-    return Data.startsWith("iVBORw0KGgo") || Data.startsWith("/9j/") || Data.startsWith("Qk");
+    if (!Target.startsWith("data:image/") || Comma < 0) return MostPixels + 1;
+    QByteArrayView Data = Target.sliced(Comma + Mark.size());
+    Data = Data.first(std::min(Data.size(), LongestHeader));
+    QByteArray Header = QByteArray::fromBase64(Data.toByteArray());
+    const ByteView View(Header);
+    if (!LooksLikePng(View) && !LooksLikeJpeg(View)) return MostPixels + 1;
+    QBuffer Buffer(&Header);
+    const QSize Size = QImageReader(&Buffer, LooksLikePng(View) ? "png" : "jpeg").size();
+    return Size.isEmpty() ? MostPixels + 1 : PixelCount(Size);
+}
+
+// A place in the drawing, or a carried picture; all those together have a limit of pixels.
+bool StaysInside(QByteArrayView Target, qint64& PixelsLeft) {
+    if (Target.startsWith('#')) return true;
+    const qint64 Pixels = CarriedPixels(Target);
+    if (Pixels > PixelsLeft) return false;
+    PixelsLeft -= Pixels;
+    return true;
 }
 
 // Behind "href", spaces, "=", spaces and a quotation mark; -1 where it is no attribute.
@@ -100,9 +119,11 @@ QByteArray WithoutOutsideReferences(QByteArray Svg) {
     // An entity could spell out what is looked for here.
     if (Svg.contains("<!DOCTYPE") || Svg.contains("<!ENTITY")) ThrowDamaged();
     constexpr QByteArrayView Word = "href";
+    qint64 PixelsLeft = MostPixels;
     for (qsizetype At = 0; (At = Svg.indexOf(Word, At)) >= 0;) {
         const qsizetype Target = TargetAt(Svg, At + Word.size());
-        if (Target >= 0 && !StaysInside(QByteArrayView(Svg).sliced(Target))) Svg[At] = 'x';
+        if (Target >= 0 && !StaysInside(QByteArrayView(Svg).sliced(Target), PixelsLeft))
+            Svg[At] = 'x';
         At += Word.size();
     }
     return Svg;

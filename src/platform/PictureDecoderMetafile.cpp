@@ -4,6 +4,7 @@
 #include <QSvgRenderer>
 
 #include "platform/MetafileSvg.h"
+#include "platform/PatientDevice.h"
 #include "platform/PictureColour.h"
 #include "platform/PictureFaults.h"
 #include "platform/PictureFormats.h"
@@ -14,6 +15,7 @@ namespace {
 
 // Larger drawings are drawn smaller: they have no pixels to lose.
 constexpr int LongestDrawing = 4096;
+constexpr int MostMilliseconds = 3000;
 
 QSize DrawnSize(QSize Natural) {
     if (Natural.isEmpty()) ThrowDamaged();
@@ -28,10 +30,12 @@ DecodedPicture Draw(QSize Natural, Paint PaintOn) {
     const DecodeBudget Budget(Size, PixelCount(Size) * 4);
     QImage Picture(Size, QImage::Format_RGB32);
     Picture.fill(Qt::white);
-    QPainter Painter(&Picture);
+    PatientDevice Device(Picture, MostMilliseconds);
+    QPainter Painter(&Device);
     Painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     PaintOn(Painter, Size);
     Painter.end();
+    if (Device.GaveUp()) ThrowDamaged();
     MakeOpaque(Picture);  // mixing bit by bit reaches the unused byte, too
     return {Picture, Size};
 }

@@ -72,10 +72,12 @@ inline uchar ToByte(int Sum) {
     return static_cast<uchar>(std::clamp(Sum >> WeightBits, 0, 255));
 }
 
-// Sum gets the weighted rows on top, two at a time: half the walks over Sum.
-void AddRows(int* __restrict Sum, const uchar* __restrict A, const uchar* __restrict B, int WeightA,
-             int WeightB, int Length) {
-    for (int I = 0; I < Length; ++I) Sum[I] += WeightA * A[I] + WeightB * B[I];
+// Sum gets the weighted rows on top, two at a time: half the walks over Sum. The short factors
+// let the compiler use multiplications of eight numbers at once.
+void AddRows(int* __restrict Sum, const uchar* __restrict A, const uchar* __restrict B,
+             qint16 WeightA, qint16 WeightB, int Length) {
+    for (int I = 0; I < Length; ++I)
+        Sum[I] += WeightA * static_cast<qint16>(A[I]) + WeightB * static_cast<qint16>(B[I]);
 }
 
 void StoreRow(const int* __restrict Sum, uchar* __restrict To, int Length) {
@@ -95,7 +97,7 @@ QImage ResizeRows(const QImage& Picture, int Height, ResizeFilter Filter) {
             const int Next = std::min(I + 1, Count - 1);
             AddRows(Sum.data(), Picture.constScanLine(Row.First + I),
                     Picture.constScanLine(Row.First + Next), Row.Weights[I],
-                    Next > I ? Row.Weights[Next] : 0, Length);
+                    Next > I ? Row.Weights[Next] : qint16(0), Length);
         }
         StoreRow(Sum.data(), Result.scanLine(Y), Length);
     }
@@ -106,8 +108,8 @@ void ResizeLine(const uchar* From, uchar* To, const std::vector<Taps>& All) {
     for (const Taps& Pixel : All) {
         int Sums[4] = {Half, Half, Half, Half};
         const uchar* At = From + Pixel.First * 4;
-        for (const int Weight : Pixel.Weights) {
-            for (int C = 0; C < 4; ++C) Sums[C] += Weight * At[C];
+        for (const qint16 Weight : Pixel.Weights) {
+            for (int C = 0; C < 4; ++C) Sums[C] += Weight * static_cast<qint16>(At[C]);
             At += 4;
         }
         for (int C = 0; C < 4; ++C) To[C] = ToByte(Sums[C]);

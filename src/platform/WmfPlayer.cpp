@@ -1,6 +1,5 @@
 #include "platform/WmfPlayer.h"
 
-#include <QElapsedTimer>
 #include <unordered_map>
 
 #include "platform/PictureFaults.h"
@@ -12,7 +11,6 @@ constexpr qint64 PlaceableHeader = 22, FileHeader = 18, RecordHeader = 6;
 constexpr int EndFunction = 0, SetOriginFunction = 0x020B, SetExtentFunction = 0x020C,
               EscapeFunction = 0x0626;
 constexpr int DotsAnInch = 96;
-constexpr int MostMilliseconds = 5000;
 
 bool IsPlaceable(const ByteView& Bytes) {
     return Bytes.U32(0) == 0x9AC6CDD7;
@@ -81,11 +79,8 @@ QSize WmfPlayer::NaturalSize() const {
 }
 
 void WmfPlayer::Play(QPainter& Painter, QSize Size) const {
-    QElapsedTimer Time;
-    Time.start();
     WmfCanvas Canvas(Painter, Size, mFrame);
     for (const Record& Each : mRecords) {
-        if (Time.elapsed() > MostMilliseconds) ThrowDamaged();
         if (const WmfHandler Handle = HandlerFor(Each.Function))
             Handle(Canvas, WmfArgs(mBytes.Part(Each.At, Each.Length)));
     }

@@ -19,8 +19,7 @@ class WmfPlayer {
 
     // Pixels at 96 dots an inch; where the file tells no measure, its units are pixels.
     QSize NaturalSize() const;
-    // Fills the rectangle from (0, 0) to Size. What is not understood is left away. Throws Fault
-    // when the file keeps us busy for seconds.
+    // Fills the rectangle from (0, 0) to Size. What is not understood is left away.
     void Play(QPainter& Painter, QSize Size) const;
 
   private:

@@ -9,6 +9,7 @@
 #include <random>
 
 #include "platform/MetafileSvg.h"
+#include "platform/PatientDevice.h"
 #include "platform/PictureFaults.h"
 #include "platform/Pictures.h"
 
@@ -179,8 +180,9 @@ TEST(ImgXDamaged, AGiantsSentenceTellsItsSize) {
 }
 
 TEST(ImgXDamaged, ADrawingCannotReachOtherFiles) {
-    const QByteArray Kept = R"(<image xlink:href="data:image/png;base64,iVBORw0KGgoAAA"/>)"
-                            R"(<use xlink:href='#a'/><text>href is a word</text>)";
+    const QByteArray Png = ReadFile(PictureFile(QStringLiteral("rgb8.png"))).toBase64();
+    const QByteArray Kept = "<image xlink:href=\"data:image/png;base64," + Png +
+                            "\"/><use xlink:href='#a'/><text>href is a word</text>";
     EXPECT_EQ(Kept, WithoutOutsideReferences(Kept));
     for (const QByteArray Target :
          {"file:///etc/passwd", "http://example.org/a.png", "/a.png", "a.png", "&#x2f;a.png",
@@ -189,4 +191,32 @@ TEST(ImgXDamaged, ADrawingCannotReachOtherFiles) {
         EXPECT_FALSE(WithoutOutsideReferences(Svg).contains("href")) << Target.constData();
     }
     EXPECT_THROW(WithoutOutsideReferences("<!DOCTYPE svg [<!ENTITY a 'b'>]><svg/>"), Fault);
+}
+
+TEST(ImgXDamaged, ADrawingCannotCarryGiantPictures) {
+    QByteArray Giant = ReadFile(PictureFile(QStringLiteral("bilevel.png")));
+    Giant.replace(16, 8, Big32(30000) + Big32(30000));
+    // The checksum of the header; the reader looks at it first.
+    quint32 Sum = 0xFFFFFFFF;
+    for (qsizetype At = 12; At < 29; ++At) {
+        Sum ^= static_cast<uchar>(Giant[At]);
+        for (int Bit = 0; Bit < 8; ++Bit) Sum = Sum >> 1 ^ (Sum & 1 ? 0xEDB88320 : 0);
+    }
+    Giant.replace(29, 4, Big32(~Sum));
+    const QByteArray Svg = "<image xlink:href=\"data:image/png;base64," + Giant.toBase64() + "\"/>";
+    EXPECT_FALSE(WithoutOutsideReferences(Svg).contains("href"));
+}
+
+TEST(ImgXDamaged, PaintingEndsWhenPatienceDoes) {
+    QImage Picture(2000, 2000, QImage::Format_RGB32);
+    PatientDevice Device(Picture, 200);
+    QElapsedTimer Time;
+    Time.start();
+    QPainter Painter(&Device);
+    Painter.setRenderHint(QPainter::Antialiasing);
+    Painter.setBrush(QColor(1, 2, 3, 4));
+    for (int I = 0; I < 100000; ++I) Painter.drawEllipse(0, 0, 2000, 2000);
+    Painter.end();
+    EXPECT_TRUE(Device.GaveUp());
+    EXPECT_LT(Time.elapsed(), 3000);
 }

@@ -1,4 +1,5 @@
 // Every format and kind of pixel gives the same motif.
+#include "platform/AheadQueue.h"
 #include "platform/PictureFaults.h"
 #include "platform/Pictures.h"
 
@@ -164,4 +165,20 @@ TEST(ImgXFormats, FormatsThatAreNotListedAreOffUnlessSwitchedOn) {
     ExpectFields(Loaded(File).Picture(), Red, Green, Blue, Grey, 3);
     SetExtraFormats(false);
     EXPECT_EQ(FaultUnknownPicture, FaultOf(File));
+}
+
+TEST(ImgXFormats, SeveralThreadsReadTheSamePicturesAsOne) {
+    std::vector<QString> Files;
+    for (int Round = 0; Round < 3; ++Round) {
+        for (const FileCase& Case : Cases)
+            Files.push_back(PictureFile(QString::fromLatin1(Case.Name)));
+        for (const char* Name : {"draw.emf", "draw.wmf", "hand.wmf", "photo.pcd"})
+            Files.push_back(harness::DataFile(Name));
+    }
+    AheadQueue<QString, QImage> Queue(
+        Files, [](const QString& File) { return Loaded(File).Picture(); }, 12);
+    while (!Queue.AtEnd()) {
+        const QString File = Queue.Next();
+        EXPECT_EQ(Loaded(File).Picture(), Queue.Take()) << File.toStdString();
+    }
 }
