@@ -54,7 +54,7 @@ void clsDBEngine::InitializeDB(Recovery How) {
 
 void clsDBEngine::LoadFrom(const RecordSource& Source) {
     Albums.clear();
-    const std::optional<QByteArray> Counters = Source(RecordFile::NextIDs);
+    const std::optional<RecordBytes> Counters = Source(RecordFile::NextIDs);
     if (!Counters) {
         NextAlbumID = NextSlideID = NextSlideShowID = 1;
         Properties = {};
@@ -63,7 +63,7 @@ void clsDBEngine::LoadFrom(const RecordSource& Source) {
     }
     ReadProperties(Properties, Source);
     ReadEffectStats(EffectStats, Source, mProgramPath);
-    const auto Next = DecodeRecordAt<NextIDsRecord>(*Counters, 0);
+    const auto Next = DecodeFirst<NextIDsRecord>(*Counters);
     NextAlbumID = Next.NextAlbumID;
     NextSlideID = Next.NextSlideID;
     NextSlideShowID = Next.NextSlideShowID;

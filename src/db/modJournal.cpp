@@ -25,10 +25,6 @@ QString TempFolder(const QString& DBPath) {
     return DBPath + QStringLiteral("Temp/");
 }
 
-QString RecordPath(const QString& DBPath, RecordFile File) {
-    return DBPath + QLatin1String(RecordFileName(File));
-}
-
 // A journal comes into being under another name, so that one that is whole already, left by a
 // write that failed later, is not lost while the next one is being written.
 QString UnfinishedPath(const QString& DBPath) {
@@ -140,13 +136,6 @@ bool Unfold(const QByteArray& Journal, RecordImage& Image) {
 }
 
 }  // namespace
-
-RecordSource RecordsInDirectory(const QString& DBPath) {
-    return [DBPath](RecordFile File) -> std::optional<QByteArray> {
-        const QString Path = RecordPath(DBPath, File);
-        return FileExists(Path) ? std::optional(ReadFile(Path)) : std::nullopt;
-    };
-}
 
 RecordSource RecordsInImage(RecordImage Image) {
     return [Image = std::move(Image)](RecordFile File) { return Image[File].Unpack(); };

@@ -7,7 +7,7 @@
 #include <array>
 
 #include "db/PackedRecords.h"
-#include "db/modRecordFiles.h"
+#include "db/RecordSource.h"
 
 namespace neb {
 
@@ -20,9 +20,6 @@ struct RecordImage {
     }
 };
 
-// Where the records are read from: the bytes of a file, nothing when there is no such file.
-using RecordSource = std::function<std::optional<QByteArray>(RecordFile File)>;
-RecordSource RecordsInDirectory(const QString& DBPath);
 RecordSource RecordsInImage(RecordImage Image);
 
 // The journal of a database directory. DBPath ends in a separator everywhere.
