@@ -75,7 +75,7 @@ inline bool RunRecords(const char* Data, size_t Size) {
     Again.LoadFrom(RecordsInImage(First));
     const RecordImage Second = BuildImage(Again);
     for (const RecordFile File : AllRecordFiles)
-        if (First[File].Unpack() != Second[File].Unpack()) return false;
+        if (First[File].Bytes() != Second[File].Bytes()) return false;
     const QByteArray Rest = Input.Take(Input.Left());
     const auto Packed = PackedRecords::FromBytes(Rest, Rest.size());
     return !Packed || Packed->Unpack().size() == Rest.size();
