@@ -36,20 +36,14 @@ void clsDBEngine::SetProgramPath(const QString& Path) {
     mProgramPath = Path.isEmpty() ? QString() : WithSeparator(Path);
 }
 
-bool clsDBEngine::MayCarryOut() const {
-    const QString Counters = mDBPath + QLatin1String(RecordFileName(RecordFile::NextIDs));
-    return !IsReadOnly(mDBPath) && !(FileExists(Counters) && IsReadOnly(Counters));
-}
-
 void clsDBEngine::InitializeDB(Recovery How) {
-    RecordImage Image;
-    if (ReadJournal(mDBPath, &Image) == JournalState::Whole &&
-        (How == Recovery::InMemory || !MayCarryOut())) {
-        LoadFrom(RecordsInImage(std::move(Image)));
-        return;
+    if (How == Recovery::CarryOut && MayWriteDatabase(mDBPath)) {
+        RecoverDatabase(mDBPath);
+        return LoadFrom(RecordsInDirectory(mDBPath));
     }
-    if (How == Recovery::CarryOut && MayCarryOut()) RecoverDatabase(mDBPath);
-    LoadFrom(RecordsInDirectory(mDBPath));
+    RecordImage Image;
+    const bool Unfinished = ReadJournal(mDBPath, &Image) == JournalState::Whole;
+    LoadFrom(Unfinished ? RecordsInImage(std::move(Image)) : RecordsInDirectory(mDBPath));
 }
 
 void clsDBEngine::LoadFrom(const RecordSource& Source) {

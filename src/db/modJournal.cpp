@@ -163,6 +163,11 @@ void WriteDatabase(const QString& DBPath, const RecordImage& Image) {
     CarryOut(DBPath, Image);
 }
 
+bool MayWriteDatabase(const QString& DBPath) {
+    const QString Counters = RecordPath(DBPath, RecordFile::NextIDs);
+    return !IsReadOnly(DBPath) && !(FileExists(Counters) && IsReadOnly(Counters));
+}
+
 void RecoverDatabase(const QString& DBPath) {
     RecordImage Image;
     const JournalState State = ReadJournal(DBPath, &Image);

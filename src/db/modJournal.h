@@ -34,6 +34,9 @@ JournalState ReadJournal(const QString& DBPath, RecordImage* Image = nullptr);
 // stays and the next start finishes the work.
 void WriteDatabase(const QString& DBPath, const RecordImage& Image);
 
+// False when the directory or its NextIDs.dat is read-only: then nothing is ever written.
+bool MayWriteDatabase(const QString& DBPath);
+
 // Carries out a whole journal and removes a torn one.
 void RecoverDatabase(const QString& DBPath);
 

@@ -14,11 +14,6 @@ bool HoldsDatabase(const QString& Dir) {
            ReadJournal(Dir) == JournalState::Whole;
 }
 
-bool IsProtected(const QString& Dir) {
-    const QString Counters = RecordPath(Dir, RecordFile::NextIDs);
-    return IsReadOnly(Dir) || (FileExists(Counters) && IsReadOnly(Counters));
-}
-
 }  // namespace
 
 int RunRewrite(const QStringList& Arguments, ToolIO& IO) {
@@ -26,7 +21,7 @@ int RunRewrite(const QStringList& Arguments, ToolIO& IO) {
     if (!Dir) return ExitFailed;
     if (!HoldsDatabase(*Dir))
         return Fail(IO, QStringLiteral("There is no database in %1.").arg(*Dir));
-    if (IsProtected(*Dir))
+    if (!MayWriteDatabase(*Dir))
         return Fail(IO, QStringLiteral("The database in %1 is read-only.").arg(*Dir));
     ProgressLine Progress(IO, "Rewriting");
     Progress.Show(0, 2);
