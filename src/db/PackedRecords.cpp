@@ -26,7 +26,8 @@ bool NextPiece(const QByteArray& Bytes, qsizetype& Place, Piece& Next) {
 // Collects pieces and hands on whole megabytes, so that a file is written in few calls.
 class Collector {
   public:
-    explicit Collector(const std::function<void(const char*, qint64)>& Take) : mTake(Take) {}
+    Collector(const std::function<void(const char*, qint64)>& Take, qint64 Length)
+        : mTake(Take), mBuffer(std::min<qint64>(Room, Length), Qt::Uninitialized) {}
     void Add(const Piece& Next) {
         if (mUsed + Next.Count + Next.BlankCount > Room) Flush();
         std::memcpy(Reserve(Next.Count), Next.Data, static_cast<size_t>(Next.Count));
@@ -53,7 +54,7 @@ class Collector {
         return Place;
     }
     const std::function<void(const char*, qint64)>& mTake;
-    QByteArray mBuffer = QByteArray(Room, Qt::Uninitialized);
+    QByteArray mBuffer;
     qsizetype mUsed = 0;
     bool mLast = false;
 };
@@ -98,7 +99,7 @@ void PackedRecords::Finish() {
 }
 
 void PackedRecords::Unpack(const std::function<void(const char*, qint64)>& Take) const {
-    Collector Out(Take);
+    Collector Out(Take, mLength);
     Piece Next{};
     for (qsizetype Place = 0; NextPiece(mBytes, Place, Next);) Out.Add(Next);
     Out.Finish();

@@ -112,10 +112,8 @@ void Encode(PackedRecords& Out, FieldKind Kind, int Width, const QString& Value)
     if (Count < Width) Out.Blanks(Width - Count);
 }
 
-QByteArray ZeroFilled(const QByteArray& File, qint64 Offset, qint64 Length) {
-    QByteArray Bytes = File.mid(Offset, Length);
-    Bytes.append(Length - Bytes.size(), '\0');
-    return Bytes;
+QByteArray ZeroFilled(const char* Bytes, qint64 Count, qint64 Length) {
+    return QByteArray(Bytes, Count).leftJustified(Length, '\0');
 }
 
 }  // namespace codec

@@ -36,25 +36,19 @@ void clsDBEngine::SetProgramPath(const QString& Path) {
     mProgramPath = Path.isEmpty() ? QString() : WithSeparator(Path);
 }
 
-bool clsDBEngine::MayCarryOut() const {
-    const QString Counters = mDBPath + QLatin1String(RecordFileName(RecordFile::NextIDs));
-    return !IsReadOnly(mDBPath) && !(FileExists(Counters) && IsReadOnly(Counters));
-}
-
 void clsDBEngine::InitializeDB(Recovery How) {
-    RecordImage Image;
-    if (ReadJournal(mDBPath, &Image) == JournalState::Whole &&
-        (How == Recovery::InMemory || !MayCarryOut())) {
-        LoadFrom(RecordsInImage(std::move(Image)));
-        return;
+    if (How == Recovery::CarryOut && MayWriteDatabase(mDBPath)) {
+        RecoverDatabase(mDBPath);
+        return LoadFrom(RecordsInDirectory(mDBPath));
     }
-    if (How == Recovery::CarryOut && MayCarryOut()) RecoverDatabase(mDBPath);
-    LoadFrom(RecordsInDirectory(mDBPath));
+    RecordImage Image;
+    const bool Unfinished = ReadJournal(mDBPath, &Image) == JournalState::Whole;
+    LoadFrom(Unfinished ? RecordsInImage(std::move(Image)) : RecordsInDirectory(mDBPath));
 }
 
 void clsDBEngine::LoadFrom(const RecordSource& Source) {
     Albums.clear();
-    const std::optional<QByteArray> Counters = Source(RecordFile::NextIDs);
+    const std::optional<RecordBytes> Counters = Source(RecordFile::NextIDs);
     if (!Counters) {
         NextAlbumID = NextSlideID = NextSlideShowID = 1;
         Properties = {};
@@ -63,7 +57,7 @@ void clsDBEngine::LoadFrom(const RecordSource& Source) {
     }
     ReadProperties(Properties, Source);
     ReadEffectStats(EffectStats, Source, mProgramPath);
-    const auto Next = DecodeRecordAt<NextIDsRecord>(*Counters, 0);
+    const auto Next = DecodeFirst<NextIDsRecord>(*Counters);
     NextAlbumID = Next.NextAlbumID;
     NextSlideID = Next.NextSlideID;
     NextSlideShowID = Next.NextSlideShowID;

@@ -96,7 +96,6 @@ class clsDBEngine {
   private:
     clsNEBAlbum* AlbumOrBox(std::int32_t AlbumID) const;
     clsNEBSlideShow* SlideShowOrBox(std::int32_t AlbumID, std::int32_t SlideShowID) const;
-    bool MayCarryOut() const;
 
     QString mDBPath;
     QString mProgramPath;

@@ -25,10 +25,6 @@ QString TempFolder(const QString& DBPath) {
     return DBPath + QStringLiteral("Temp/");
 }
 
-QString RecordPath(const QString& DBPath, RecordFile File) {
-    return DBPath + QLatin1String(RecordFileName(File));
-}
-
 // A journal comes into being under another name, so that one that is whole already, left by a
 // write that failed later, is not lost while the next one is being written.
 QString UnfinishedPath(const QString& DBPath) {
@@ -141,13 +137,6 @@ bool Unfold(const QByteArray& Journal, RecordImage& Image) {
 
 }  // namespace
 
-RecordSource RecordsInDirectory(const QString& DBPath) {
-    return [DBPath](RecordFile File) -> std::optional<QByteArray> {
-        const QString Path = RecordPath(DBPath, File);
-        return FileExists(Path) ? std::optional(ReadFile(Path)) : std::nullopt;
-    };
-}
-
 RecordSource RecordsInImage(RecordImage Image) {
     return [Image = std::move(Image)](RecordFile File) { return Image[File].Unpack(); };
 }
@@ -172,6 +161,11 @@ void WriteDatabase(const QString& DBPath, const RecordImage& Image) {
         throw Fault(QStringLiteral("The database directory is not there."), DBPath);
     WriteJournal(DBPath, Image);
     CarryOut(DBPath, Image);
+}
+
+bool MayWriteDatabase(const QString& DBPath) {
+    const QString Counters = RecordPath(DBPath, RecordFile::NextIDs);
+    return !IsReadOnly(DBPath) && !(FileExists(Counters) && IsReadOnly(Counters));
 }
 
 void RecoverDatabase(const QString& DBPath) {

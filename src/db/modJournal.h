@@ -7,7 +7,7 @@
 #include <array>
 
 #include "db/PackedRecords.h"
-#include "db/modRecordFiles.h"
+#include "db/RecordSource.h"
 
 namespace neb {
 
@@ -20,9 +20,6 @@ struct RecordImage {
     }
 };
 
-// Where the records are read from: the bytes of a file, nothing when there is no such file.
-using RecordSource = std::function<std::optional<QByteArray>(RecordFile File)>;
-RecordSource RecordsInDirectory(const QString& DBPath);
 RecordSource RecordsInImage(RecordImage Image);
 
 // The journal of a database directory. DBPath ends in a separator everywhere.
@@ -36,6 +33,9 @@ JournalState ReadJournal(const QString& DBPath, RecordImage* Image = nullptr);
 // the journal could not be written the old database stands untouched; later, the journal
 // stays and the next start finishes the work.
 void WriteDatabase(const QString& DBPath, const RecordImage& Image);
+
+// False when the directory or its NextIDs.dat is read-only: then nothing is ever written.
+bool MayWriteDatabase(const QString& DBPath);
 
 // Carries out a whole journal and removes a torn one.
 void RecoverDatabase(const QString& DBPath);

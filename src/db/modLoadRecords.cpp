@@ -41,7 +41,7 @@ class TreeLoader {
     // Each record goes to the Place of its type below.
     template <class Record>
     void Load() {
-        const std::optional<QByteArray> File = mSource(LayoutOf<Record>::File);
+        const std::optional<RecordBytes> File = mSource(LayoutOf<Record>::File);
         if (File) ForEachRecord<Record>(*File, [this](Record&& Row) { Place(std::move(Row)); });
     }
 

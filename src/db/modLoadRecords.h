@@ -3,6 +3,7 @@
 #pragma once
 
 #include "db/clsDBEngine.h"
+#include "db/modJournal.h"
 
 namespace neb {
 

@@ -27,9 +27,9 @@ Row& AppendRow(std::vector<Row>& Rows) {
 }
 
 // True when the file holds at least one record.
-bool ReadEffectStatRecords(EffectStatRows& Rows, const std::optional<QByteArray>& File) {
+bool ReadEffectStatRecords(EffectStatRows& Rows, std::optional<RecordBytes> File) {
     if (!File) return false;
-    const qint64 Count = RecordCount(File->size(), WidthOf<EffectStatRecord>);
+    const qint64 Count = RecordCount(File->Length, WidthOf<EffectStatRecord>);
     Rows.reserve(static_cast<size_t>(Count));
     ForEachRecord<EffectStatRecord>(*File, [&](EffectStatRecord&& Row) { Rows.push_back(Row); });
     return Count > 0;
@@ -81,9 +81,9 @@ void FillWithProperties(const PropertyRows& Rows, ComboList& Combo) {
 
 void ReadProperties(PropertyRows& Rows, const RecordSource& Source) {
     Rows = {};
-    const std::optional<QByteArray> File = Source(RecordFile::Properties);
+    std::optional<RecordBytes> File = Source(RecordFile::Properties);
     if (!File) return;
-    Rows.reserve(static_cast<size_t>(RecordCount(File->size(), WidthOf<PropertyRecord>)) + Growth);
+    Rows.reserve(static_cast<size_t>(RecordCount(File->Length, WidthOf<PropertyRecord>)) + Growth);
     ForEachRecord<PropertyRecord>(*File,
                                   [&](PropertyRecord&& Row) { Rows.push_back(std::move(Row)); });
 }

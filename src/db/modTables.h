@@ -5,7 +5,7 @@
 #include <span>
 #include <vector>
 
-#include "db/modJournal.h"
+#include "db/RecordSource.h"
 #include "support/modDEComboUFL.h"
 
 namespace neb {

@@ -77,13 +77,15 @@ void SortByUpperName(std::vector<DirEntry>& Entries) {
     for (size_t I = 0; I < Keyed.size(); ++I) Entries[I] = std::move(Keyed[I].second);
 }
 
+[[noreturn]] void FailRead(const QFile& File, const QString& Path) {
+    throw Fault(QStringLiteral("The file cannot be read: %1.").arg(File.errorString()), Path);
+}
+
 QByteArray ReadFrom(const QString& Path, qint64 Length) {
     QFile File(ResolvePath(Path));
-    if (!File.open(QIODevice::ReadOnly))
-        throw Fault(QStringLiteral("The file cannot be read: %1.").arg(File.errorString()), Path);
+    if (!File.open(QIODevice::ReadOnly)) FailRead(File, Path);
     QByteArray Bytes = Length < 0 ? File.readAll() : File.read(Length);
-    if (File.error() != QFileDevice::NoError)
-        throw Fault(QStringLiteral("The file cannot be read: %1.").arg(File.errorString()), Path);
+    if (File.error() != QFileDevice::NoError) FailRead(File, Path);
     return Bytes;
 }
 
@@ -162,6 +164,35 @@ QByteArray ReadFile(const QString& Path) {
 
 QByteArray ReadFileHead(const QString& Path, qint64 Length) {
     return ReadFrom(Path, Length);
+}
+
+struct HostReader::State {
+    QString Path;
+    QFile File;
+};
+
+HostReader::HostReader(const QString& Path) : mState(std::make_unique<State>()) {
+    mState->Path = Path;
+    mState->File.setFileName(ResolvePath(Path));
+    if (!mState->File.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        FailRead(mState->File, Path);
+}
+
+HostReader::~HostReader() = default;
+
+qint64 HostReader::Length() const {
+    return mState->File.size();
+}
+
+qint64 HostReader::Read(char* Into, qint64 MaxLength) {
+    qint64 Total = 0;
+    while (Total < MaxLength) {
+        const qint64 Count = mState->File.read(Into + Total, MaxLength - Total);
+        if (Count < 0) FailRead(mState->File, mState->Path);
+        if (Count == 0) break;
+        Total += Count;
+    }
+    return Total;
 }
 
 }  // namespace neb

@@ -46,6 +46,19 @@ QByteArray ReadFile(const QString& Path);
 // Only the first Length bytes, or fewer when the file is shorter.
 QByteArray ReadFileHead(const QString& Path, qint64 Length);
 
+// A file read piece by piece, for large ones. Throws Fault when it cannot be read.
+class HostReader {
+  public:
+    explicit HostReader(const QString& Path);
+    ~HostReader();
+    qint64 Length() const;                      // bytes when it was opened
+    qint64 Read(char* Into, qint64 MaxLength);  // bytes read: fewer at the end alone, then 0
+
+  private:
+    struct State;
+    std::unique_ptr<State> mState;
+};
+
 void WriteFile(const QString& Path, const QByteArray& Bytes);  // creates or replaces, in place
 // Writes beside the file and renames over it, so that the old or the new content is there.
 void ReplaceFile(const QString& Path, const QByteArray& Bytes);

@@ -30,8 +30,8 @@ TEST_F(EngineTest, AFreshDirectoryGivesAnEmptyDatabase) {
     EXPECT_EQ(NewAlbum(u"First"_s), 1);
     Engine->FinalizeDB();
     EXPECT_EQ(AllRecords(Dir.Path()).size(), 8U);
-    EXPECT_EQ(RecordBytes(Dir.Path(), "NextIDs.dat"), Hex("02000000 01000000 01000000"));
-    EXPECT_EQ(RecordBytes(Dir.Path(), "Albums.dat"),
+    EXPECT_EQ(FileBytes(Dir.Path(), "NextIDs.dat"), Hex("02000000 01000000 01000000"));
+    EXPECT_EQ(FileBytes(Dir.Path(), "Albums.dat"),
               Hex("01000000") + "First" + QByteArray(1, '\0') + Blanks(74) + Hex("0000"));
 }
 
@@ -79,12 +79,12 @@ TEST_F(EngineTest, RecordsStandInTheOrderOfTheCollectionsGroupedByAlbum) {
     for (const std::int32_t AlbumID : {A, B, A})
         Engine->SaveSlide(0, AlbumID, u"z"_s, {}, {}, false, false);
     Engine->FinalizeDB();
-    const QByteArray Slides = RecordBytes(Dir.Path(), "Slides.dat");
+    const QByteArray Slides = FileBytes(Dir.Path(), "Slides.dat");
     ASSERT_EQ(Slides.size(), 3 * 604);
     EXPECT_EQ(Slides[0], 2);  // B came first and has the second slide
     EXPECT_EQ(Slides[604], 1);
     EXPECT_EQ(Slides[2 * 604], 3);
-    EXPECT_EQ(RecordBytes(Dir.Path(), "Albums.dat")[4], 'B');
+    EXPECT_EQ(FileBytes(Dir.Path(), "Albums.dat")[4], 'B');
 }
 
 TEST_F(EngineTest, OrphansAreDroppedAndAreGoneAfterTheNextWrite) {
@@ -95,18 +95,18 @@ TEST_F(EngineTest, OrphansAreDroppedAndAreGoneAfterTheNextWrite) {
     const auto Loaded = OpenEngine(Dir.Path());
     ASSERT_EQ(Loaded->Albums.size(), 1U);
     Loaded->FinalizeDB();
-    EXPECT_EQ(RecordBytes(Dir.Path(), "Slides.dat"), Whole.at("Slides.dat").left(604));
-    EXPECT_EQ(RecordBytes(Dir.Path(), "SlideShows.dat"), Whole.at("SlideShows.dat").left(92));
-    EXPECT_EQ(RecordBytes(Dir.Path(), "SlideShowDetails.dat"),
+    EXPECT_EQ(FileBytes(Dir.Path(), "Slides.dat"), Whole.at("Slides.dat").left(604));
+    EXPECT_EQ(FileBytes(Dir.Path(), "SlideShows.dat"), Whole.at("SlideShows.dat").left(92));
+    EXPECT_EQ(FileBytes(Dir.Path(), "SlideShowDetails.dat"),
               Whole.at("SlideShowDetails.dat").left(98));
-    EXPECT_EQ(RecordBytes(Dir.Path(), "SlideShowSoundTracks.dat"),
+    EXPECT_EQ(FileBytes(Dir.Path(), "SlideShowSoundTracks.dat"),
               Whole.at("SlideShowSoundTracks.dat").left(283));
 }
 
 TEST_F(EngineTest, AShowIsFoundOnlyInItsOwnAlbum) {
     FillDatabase(*Engine, u"x"_s);
     Engine->FinalizeDB();
-    QByteArray Details = RecordBytes(Dir.Path(), "SlideShowDetails.dat");
+    QByteArray Details = FileBytes(Dir.Path(), "SlideShowDetails.dat");
     Details[4] = 2;  // the album of the first detail, whose show lies in album 1
     WriteFile(Dir / "SlideShowDetails.dat", Details);
     const auto Loaded = OpenEngine(Dir.Path());
@@ -141,7 +141,7 @@ TEST_F(EngineTest, SlidesOfTwoAlbumsWithOneIdGoToTheFirst) {
     Engine->FinalizeDB();
     Loaded.LoadFrom(InMemory({{RecordFile::NextIDs, {}},
                               {RecordFile::Albums, Albums + Albums},
-                              {RecordFile::Slides, RecordBytes(Dir.Path(), "Slides.dat")}}));
+                              {RecordFile::Slides, FileBytes(Dir.Path(), "Slides.dat")}}));
     ASSERT_EQ(Loaded.Albums.size(), 2U);
     EXPECT_EQ(Loaded.Albums[0]->Slides.size(), 1U);
     EXPECT_TRUE(Loaded.Albums[1]->Slides.empty());

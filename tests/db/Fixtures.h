@@ -6,6 +6,7 @@
 #include <sstream>
 
 #include "db/clsDBEngine.h"
+#include "db/modJournal.h"
 #include "harness/TempFolder.h"
 #include "support/modHostFiles.h"
 
@@ -20,7 +21,7 @@ inline QByteArray Blanks(qsizetype Count) {
     return QByteArray(Count, ' ');
 }
 
-inline QByteArray RecordBytes(const QString& Dir, const char* Name) {
+inline QByteArray FileBytes(const QString& Dir, const char* Name) {
     return ReadFile(Dir + QLatin1String(Name));
 }
 
@@ -29,15 +30,16 @@ inline std::map<std::string, QByteArray> AllRecords(const QString& Dir) {
     std::map<std::string, QByteArray> Files;
     for (const RecordFile File : AllRecordFiles)
         if (FileExists(Dir + QLatin1String(RecordFileName(File))))
-            Files[RecordFileName(File)] = RecordBytes(Dir, RecordFileName(File));
+            Files[RecordFileName(File)] = FileBytes(Dir, RecordFileName(File));
     return Files;
 }
 
 // Record files held in memory.
 inline RecordSource InMemory(std::map<RecordFile, QByteArray> Files) {
-    return [Files = std::move(Files)](RecordFile File) -> std::optional<QByteArray> {
+    return [Files = std::move(Files)](RecordFile File) -> std::optional<RecordBytes> {
         const auto Found = Files.find(File);
-        return Found == Files.end() ? std::nullopt : std::optional(Found->second);
+        if (Found == Files.end()) return std::nullopt;
+        return Found->second;
     };
 }
 

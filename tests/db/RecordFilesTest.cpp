@@ -166,7 +166,7 @@ TEST(RecordFiles, TheCountersAreThreeNumbers) {
         Hex("02000000"
             "39300000"
             "00000080");
-    const auto Row = DecodeRecordAt<NextIDsRecord>(Golden, 0);
+    const auto Row = DecodeFirst<NextIDsRecord>(Golden);
     EXPECT_EQ(Row.NextAlbumID, 2);
     EXPECT_EQ(Row.NextSlideID, 12345);
     EXPECT_EQ(Row.NextSlideShowID, std::numeric_limits<std::int32_t>::min());

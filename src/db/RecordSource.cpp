@@ -1,0 +1,31 @@
+#include "db/RecordSource.h"
+
+#include <cstring>
+
+namespace neb {
+
+RecordBytes::RecordBytes(QByteArray Bytes)
+    : Length(Bytes.size()), Read([Bytes, Place = qint64{0}](char* Into, qint64 MaxLength) mutable {
+          const qint64 Count = std::min(MaxLength, Bytes.size() - Place);
+          std::memcpy(Into, Bytes.constData() + Place, static_cast<size_t>(Count));
+          Place += Count;
+          return Count;
+      }) {}
+
+RecordBytes::RecordBytes(std::shared_ptr<HostReader> File)
+    : Length(File->Length()),
+      Read([File](char* Into, qint64 MaxLength) { return File->Read(Into, MaxLength); }) {}
+
+RecordSource RecordsInDirectory(const QString& DBPath) {
+    return [DBPath](RecordFile File) -> std::optional<RecordBytes> {
+        const QString Path = RecordPath(DBPath, File);
+        if (!FileExists(Path)) return std::nullopt;
+        return RecordBytes(std::make_shared<HostReader>(Path));
+    };
+}
+
+QString RecordPath(const QString& DBPath, RecordFile File) {
+    return DBPath + QLatin1String(RecordFileName(File));
+}
+
+}  // namespace neb

@@ -1,0 +1,114 @@
+#include "tools/modCommands.h"
+
+#include "support/Fault.h"
+#include "support/modFUFL.h"
+#include "support/modHostFiles.h"
+#include "tools/modCheck.h"
+#include "tools/modDump.h"
+#include "tools/modRewrite.h"
+
+namespace neb {
+namespace {
+
+constexpr Command Table[] = {
+    {"dump", "DIR", "print all records as JSON",
+     "Prints what the program would hold after loading the database in DIR: the counters, the\n"
+     "albums with their slides and shows, the properties and the effect times, each in the\n"
+     "order of the files. Nothing in DIR is changed. When the last write did not come to its\n"
+     "end, the records are shown as the next start of the program will complete them.\n",
+     RunDump},
+    {"check", "DIR", "look for what is wrong with a database",
+     "Prints one line for each record that the program would drop, each picture, thumbnail or\n"
+     "sound that is missing, each file in Albums that no record names, each key that stands\n"
+     "twice, each record file with an odd tail, each place of a show without its slide, and\n"
+     "a write that did not come to its end. Nothing in DIR is changed.\n"
+     "Exit code 0: nothing found; 1: something found; 2: not checked.\n",
+     RunCheck},
+    {"rewrite", "DIR", "load a database and write it again",
+     "Does what a start and an end of the program do: completes a write that did not come to\n"
+     "its end, drops records without owner, writes all record files anew. A crash at any\n"
+     "moment leaves the old or the new records. Do not run it while the program is running.\n"
+     "A read-only database is left alone.\n",
+     RunRewrite},
+};
+
+constexpr const char* Outline =
+    "nebctl looks into and after the databases of NEB Slide Show.\n\n"
+    "Usage: nebctl COMMAND ARGUMENTS\n"
+    "       nebctl COMMAND --help\n\n"
+    "Commands:\n";
+
+bool AsksForHelp(const QString& Argument) {
+    return Argument == u"--help" || Argument == u"-h";
+}
+
+void PrintOutline(std::ostream& Stream) {
+    Stream << Outline;
+    for (const Command& Row : Commands()) {
+        const QString Name = QLatin1String(Row.Name);
+        PrintLine(Stream,
+                  QStringLiteral("  ") + Name.leftJustified(10) + QLatin1String(Row.Summary));
+    }
+}
+
+void PrintHelp(const Command& Row, std::ostream& Stream) {
+    Stream << "Usage: nebctl " << Row.Name << ' ' << Row.Arguments << "\n\n" << Row.Help;
+}
+
+const Command* FindCommand(const QString& Name) {
+    for (const Command& Row : Commands())
+        if (Name == QLatin1String(Row.Name)) return &Row;
+    return nullptr;
+}
+
+int RunGuarded(const Command& Row, const QStringList& Arguments, ToolIO& IO) {
+    int Code = ExitFailed;
+    try {
+        Code = Row.Run(Arguments, IO);
+    } catch (const Fault& Problem) {
+        return Fail(IO, Problem.Text().replace(u'\n', u' '));
+    }
+    IO.Out.flush();
+    return IO.Out ? Code : Fail(IO, QStringLiteral("The output cannot be written."));
+}
+
+}  // namespace
+
+std::span<const Command> Commands() {
+    return Table;
+}
+
+int RunTool(const QStringList& Arguments, ToolIO& IO) {
+    if (Arguments.isEmpty()) {
+        PrintOutline(IO.Err);
+        return ExitFailed;
+    }
+    if (AsksForHelp(Arguments[0])) {
+        PrintOutline(IO.Out);
+        return ExitDone;
+    }
+    const Command* Row = FindCommand(Arguments[0]);
+    if (!Row)
+        return Fail(IO, QStringLiteral("There is no command \"%1\"; nebctl --help lists them.")
+                            .arg(Arguments[0]));
+    const QStringList Rest = Arguments.mid(1);
+    if (std::any_of(Rest.begin(), Rest.end(), AsksForHelp)) {
+        PrintHelp(*Row, IO.Out);
+        return ExitDone;
+    }
+    return RunGuarded(*Row, Rest, IO);
+}
+
+std::optional<QString> OneDirectory(const QStringList& Arguments, ToolIO& IO) {
+    if (Arguments.size() != 1 || Arguments[0].isEmpty() || Arguments[0].startsWith(u'-')) {
+        Fail(IO, QStringLiteral("One database directory is wanted; see --help."));
+        return std::nullopt;
+    }
+    if (!FolderExists(Arguments[0])) {
+        Fail(IO, QStringLiteral("There is no directory %1.").arg(Arguments[0]));
+        return std::nullopt;
+    }
+    return WithSeparator(Arguments[0]);
+}
+
+}  // namespace neb

@@ -1,0 +1,122 @@
+#include "tools/modDump.h"
+
+#include "db/clsDBEngine.h"
+#include "db/modJournal.h"
+#include "tools/JsonWriter.h"
+#include "tools/modCommands.h"
+
+namespace neb {
+namespace {
+
+void DumpSlide(JsonWriter& Json, const clsNEBSlide& Slide) {
+    Json.BeginObject();
+    Json.Value("SlideID", Slide.SlideID);
+    Json.Value("SlideText", Slide.SlideText);
+    Json.Value("SlideLoc", Slide.SlideLoc);
+    Json.Value("SoundTrackLoc", Slide.SoundTrackLoc);
+    Json.Value("Override", Slide.Override);
+    Json.Value("Repeat", Slide.Repeat);
+    Json.EndObject();
+}
+
+void DumpDetail(JsonWriter& Json, const clsNEBSlideShowDetail& Detail) {
+    Json.BeginObject();
+    Json.Value("SlideID", Detail.SlideID);
+    Json.Value("SlideSeq", Detail.SlideSeq);
+    Json.Value("SlideText", Detail.SlideText);
+    Json.EndObject();
+}
+
+void DumpSoundTrack(JsonWriter& Json, const clsNEBSlideShowSoundTrack& Track) {
+    Json.BeginObject();
+    Json.Value("SoundTrackSeq", Track.SoundTrackSeq);
+    Json.Value("SoundTrackLoc", Track.SoundTrackLoc);
+    Json.Value("SlideSeqStart", Track.SlideSeqStart);
+    Json.Value("SlideSeqEnd", Track.SlideSeqEnd);
+    Json.Value("Repeat", Track.Repeat);
+    Json.Value("FitToSong", Track.FitToSong);
+    Json.Value("Fade", Track.Fade);
+    Json.EndObject();
+}
+
+template <class Object>
+void DumpList(JsonWriter& Json, const char* Name,
+              const std::vector<std::unique_ptr<Object>>& Objects,
+              void (*DumpOne)(JsonWriter&, const Object&)) {
+    Json.BeginList(Name);
+    for (const auto& Next : Objects) DumpOne(Json, *Next);
+    Json.EndList();
+}
+
+void DumpSlideShow(JsonWriter& Json, const clsNEBSlideShow& Show) {
+    Json.BeginObject();
+    Json.Value("SlideShowID", Show.SlideShowID);
+    Json.Value("SlideShowName", Show.SlideShowName);
+    Json.Value("ProgressionMethod", Show.ProgressionMethod);
+    DumpList(Json, "Details", Show.Details, DumpDetail);
+    DumpList(Json, "SoundTracks", Show.SoundTracks, DumpSoundTrack);
+    Json.EndObject();
+}
+
+void DumpAlbum(JsonWriter& Json, const clsNEBAlbum& Album) {
+    Json.BeginObject();
+    Json.Value("AlbumID", Album.AlbumID);
+    Json.Value("AlbumName", Album.AlbumName);
+    DumpList(Json, "Slides", Album.Slides, DumpSlide);
+    DumpList(Json, "SlideShows", Album.SlideShows, DumpSlideShow);
+    Json.EndObject();
+}
+
+void DumpTables(JsonWriter& Json, const clsDBEngine& Engine) {
+    Json.BeginList("Properties");
+    for (const PropertyRecord& Row : Engine.Properties) {
+        Json.BeginObject();
+        Json.Value("PropertyName", Row.PropertyName);
+        Json.Value("PropertyValue", Row.PropertyValue);
+        Json.EndObject();
+    }
+    Json.EndList();
+    Json.BeginList("EffectStats");
+    for (const EffectStatRecord& Row : Engine.EffectStats) {
+        Json.BeginObject();
+        Json.Value("Effect", Row.Effect);
+        Json.Value("AvgTime", Row.AvgTime);
+        Json.EndObject();
+    }
+    Json.EndList();
+}
+
+void DumpEngine(JsonWriter& Json, const clsDBEngine& Engine, ProgressLine& Progress) {
+    Json.BeginObject();
+    Json.Value("NextAlbumID", Engine.NextAlbumID);
+    Json.Value("NextSlideID", Engine.NextSlideID);
+    Json.Value("NextSlideShowID", Engine.NextSlideShowID);
+    Json.BeginList("Albums");
+    size_t Done = 0;
+    for (const auto& Album : Engine.Albums) {
+        DumpAlbum(Json, *Album);
+        Progress.Show(++Done, Engine.Albums.size());
+    }
+    Json.EndList();
+    DumpTables(Json, Engine);
+    Json.EndObject();
+}
+
+}  // namespace
+
+int RunDump(const QStringList& Arguments, ToolIO& IO) {
+    const std::optional<QString> Dir = OneDirectory(Arguments, IO);
+    if (!Dir) return ExitFailed;
+    clsDBEngine Engine;
+    Engine.SetDBPath(*Dir);
+    Engine.InitializeDB(Recovery::InMemory);
+    if (ReadJournal(*Dir) == JournalState::Whole)
+        PrintLine(IO.Err, QStringLiteral("nebctl: the last write of this database did not come to "
+                                         "its end; the records are shown as it will leave them."));
+    ProgressLine Progress(IO, "Writing records");
+    JsonWriter Json(IO.Out);
+    DumpEngine(Json, Engine, Progress);
+    return ExitDone;
+}
+
+}  // namespace neb

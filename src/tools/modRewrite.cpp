@@ -1,0 +1,36 @@
+#include "tools/modRewrite.h"
+
+#include "db/clsDBEngine.h"
+#include "db/modJournal.h"
+#include "tools/modCommands.h"
+
+namespace neb {
+namespace {
+
+// Loading a directory without counters forgets whatever records lie there; writing that back
+// would be the end of them.
+bool HoldsDatabase(const QString& Dir) {
+    return FileExists(RecordPath(Dir, RecordFile::NextIDs)) ||
+           ReadJournal(Dir) == JournalState::Whole;
+}
+
+}  // namespace
+
+int RunRewrite(const QStringList& Arguments, ToolIO& IO) {
+    const std::optional<QString> Dir = OneDirectory(Arguments, IO);
+    if (!Dir) return ExitFailed;
+    if (!HoldsDatabase(*Dir))
+        return Fail(IO, QStringLiteral("There is no database in %1.").arg(*Dir));
+    if (!MayWriteDatabase(*Dir))
+        return Fail(IO, QStringLiteral("The database in %1 is read-only.").arg(*Dir));
+    ProgressLine Progress(IO, "Rewriting");
+    Progress.Show(0, 2);
+    clsDBEngine Engine;
+    Engine.SetDBPath(*Dir);
+    Engine.InitializeDB();
+    Progress.Show(1, 2);
+    Engine.FinalizeDB();
+    return ExitDone;
+}
+
+}  // namespace neb

@@ -1,0 +1,362 @@
+// The program ends by a kill, or the disk is full, at every single step of a write: at the next
+// start the database is wholly the old one or wholly the new one.
+#include <gtest/gtest.h>
+#include <QFile>
+#include <QRegularExpression>
+
+#include <csignal>
+#include <set>
+
+#include "Fixtures.h"
+#include "db/modLoadRecords.h"
+#include "support/Fault.h"
+
+#ifndef _WIN32
+#include <sys/wait.h>
+#include <unistd.h>
+#endif
+
+namespace neb {
+namespace {
+
+using namespace harness;
+
+using Content = std::map<std::string, QByteArray>;
+
+// What an engine holds, as the record files that it would write.
+Content ContentOf(const clsDBEngine& Engine) {
+    const RecordImage Image = BuildImage(Engine);
+    Content Files;
+    for (const RecordFile File : AllRecordFiles) Files[RecordFileName(File)] = Image[File].Unpack();
+    return Files;
+}
+
+// One write of a changed database over an older one (or over nothing), to be cut short.
+struct Scene {
+    bool HasOld;
+    Content Old, New;
+
+    explicit Scene(bool WithOld) : HasOld(WithOld) {
+        TempFolder Dir;
+        const auto Engine = OpenEngine(Dir.Path());
+        if (HasOld) FillDatabase(*Engine, u"old"_s);
+        Old = ContentOf(*Engine);
+        Prepare(Dir.Path());
+        New = ContentOf(*Changed(Dir.Path()));
+    }
+    void Prepare(const QString& Dir) const {
+        if (!HasOld) return;
+        for (const auto& [Name, Bytes] : Old) WriteFile(Dir + QString::fromStdString(Name), Bytes);
+        MakeDirs(Dir + u"Temp"_s);
+    }
+    std::unique_ptr<clsDBEngine> Changed(const QString& Dir) const {
+        auto Engine = OpenEngine(Dir);
+        Engine->DeleteAlbum(1);
+        FillDatabase(*Engine, u"new and longer"_s);
+        return Engine;
+    }
+    // The database as the next start sees it must be one of the two. True when it is the new one.
+    bool ExpectOldOrNew(const QString& Dir, const std::string& Where) const {
+        const Content Looked = ContentOf(*OpenEngine(Dir, Recovery::InMemory));
+        const Content Started = ContentOf(*OpenEngine(Dir));
+        EXPECT_TRUE(Started == Old || Started == New) << Where;
+        EXPECT_EQ(Looked, Started) << Where << ": looking without changing sees another one";
+        EXPECT_EQ(ReadJournal(Dir), JournalState::None) << Where;
+        const auto Records = AllRecords(Dir);
+        if (HasOld || Started == New) {
+            EXPECT_EQ(Records, Started) << Where;
+        }
+        return Started == New;
+    }
+};
+
+#ifndef _WIN32
+
+enum class Kill { BeforeStep, InsideWrite, PowerLoss };
+
+// Ends this process at step Number of what it does to the disk.
+class Killer {
+  public:
+    Killer(int Number, Kill How) : mLeft(Number), mHow(How) {
+        SetHostWatcher([this](HostStep Step, const QString& Path, qint64& Length) {
+            if (--mLeft <= 0) Strike(Step, Length);
+            if (Step == HostStep::Write) mUnsynced.insert(Path);
+            if (Step == HostStep::Sync) mUnsynced.erase(Path);
+        });
+    }
+    // With the power goes all that was written and not yet flushed.
+    [[noreturn]] void End() {
+        if (mHow == Kill::PowerLoss)
+            for (const QString& Path : mUnsynced) ::truncate(QFile::encodeName(Path), 0);
+        ::kill(::getpid(), SIGKILL);
+        std::abort();
+    }
+
+  private:
+    void Strike(HostStep Step, qint64& Length) {
+        if (mLeft < 0 || mHow != Kill::InsideWrite || Step != HostStep::Write) End();
+        Length /= 2;  // this part is written, and the step after it is the last
+    }
+    int mLeft;
+    Kill mHow;
+    std::set<QString> mUnsynced;
+};
+
+// Runs Work in a child that kills itself at step Number; true when it got to its end before.
+template <class WorkToDo>
+bool RunsThrough(int Number, Kill How, WorkToDo Work) {
+    const pid_t Child = ::fork();
+    if (Child == 0) {
+        Killer TheKiller(Number, How);
+        try {
+            Work();
+        } catch (const Fault&) {
+            TheKiller.End();
+        }
+        ::_exit(0);
+    }
+    int Status = 0;
+    ::waitpid(Child, &Status, 0);
+    EXPECT_TRUE(WIFEXITED(Status) || WTERMSIG(Status) == SIGKILL);
+    return WIFEXITED(Status);
+}
+
+void KillAtEveryStep(const Scene& TheScene, Kill How) {
+    bool SawOld = false, SawNew = false;
+    for (int Number = 1;; ++Number) {
+        TempFolder Dir;
+        TheScene.Prepare(Dir.Path());
+        const auto Engine = TheScene.Changed(Dir.Path());
+        const bool Through = RunsThrough(Number, How, [&] { Engine->FinalizeDB(); });
+        const bool IsNew =
+            TheScene.ExpectOldOrNew(Dir.Path(), "killed at step " + std::to_string(Number));
+        (IsNew ? SawNew : SawOld) = true;
+        EXPECT_TRUE(!Through || IsNew);
+        EXPECT_TRUE(IsNew || !SawNew) << "the new database was there at an earlier step";
+        if (Through || ::testing::Test::HasFailure()) break;
+        ASSERT_LT(Number, 200);
+    }
+    EXPECT_TRUE(SawOld && SawNew);
+}
+
+TEST(Crash, AKillBeforeAnyStepLeavesTheOldOrTheNewDatabase) {
+    KillAtEveryStep(Scene(true), Kill::BeforeStep);
+}
+
+TEST(Crash, AKillInTheMidstOfAWriteLeavesTheOldOrTheNewDatabase) {
+    KillAtEveryStep(Scene(true), Kill::InsideWrite);
+}
+
+TEST(Crash, ALossOfPowerLeavesTheOldOrTheNewDatabase) {
+    KillAtEveryStep(Scene(true), Kill::PowerLoss);
+    KillAtEveryStep(Scene(false), Kill::PowerLoss);
+}
+
+TEST(Crash, AKillDuringTheFirstWriteOfAllLeavesNothingOrTheNewDatabase) {
+    KillAtEveryStep(Scene(false), Kill::BeforeStep);
+    KillAtEveryStep(Scene(false), Kill::InsideWrite);
+}
+
+TEST(Crash, AKillDuringTheRecoveryIsRecoveredFrom) {
+    const Scene TheScene(true);
+    for (const Kill How : {Kill::PowerLoss, Kill::InsideWrite}) {
+        for (int First = 8; First < 60; First += 9) {
+            for (int Second = 1;; ++Second) {
+                TempFolder Dir;
+                TheScene.Prepare(Dir.Path());
+                const auto Engine = TheScene.Changed(Dir.Path());
+                if (RunsThrough(First, Kill::BeforeStep, [&] { Engine->FinalizeDB(); })) return;
+                ASSERT_EQ(ReadJournal(Dir.Path()), JournalState::Whole);
+                const bool Through = RunsThrough(Second, How, [&] { OpenEngine(Dir.Path()); });
+                ASSERT_TRUE(TheScene.ExpectOldOrNew(
+                    Dir.Path(), std::to_string(First) + ", then " + std::to_string(Second)));
+                if (Through) break;
+            }
+        }
+    }
+}
+
+TEST(Crash, AKillDuringASecondTryDoesNotLoseTheFirst) {
+    const Scene TheScene(true);
+    for (int Number = 1;; ++Number) {
+        TempFolder Dir;
+        TheScene.Prepare(Dir.Path());
+        const auto Engine = TheScene.Changed(Dir.Path());
+        // The first try writes its journal and breaks down among the record files.
+        SetHostWatcher([](HostStep Step, const QString& Path, qint64&) {
+            if (Step == HostStep::Write && Path.endsWith(u"Slides.dat"))
+                throw Fault(u"full"_s, Path);
+        });
+        EXPECT_THROW(Engine->FinalizeDB(), Fault);
+        SetHostWatcher({});
+        const bool Through = RunsThrough(Number, Kill::InsideWrite, [&] { Engine->FinalizeDB(); });
+        ASSERT_TRUE(TheScene.ExpectOldOrNew(Dir.Path(), std::to_string(Number)));
+        if (Through) break;
+    }
+}
+
+#endif  // _WIN32
+
+// A disk on which only so many more bytes find room; what is deleted makes no room.
+class FullDisk {
+  public:
+    explicit FullDisk(qint64 Room) : mRoom(Room) {
+        SetHostWatcher([this](HostStep Step, const QString&, qint64& Length) {
+            if (Step != HostStep::Write) return;
+            Length = std::min(Length, mRoom);
+            mRoom -= Length;
+        });
+    }
+    ~FullDisk() { SetHostWatcher({}); }
+
+  private:
+    qint64 mRoom;
+};
+
+TEST(Crash, AFullDiskLeavesTheOldOrTheNewDatabaseAndNamesTheFile) {
+    const Scene TheScene(true);
+    bool SawOld = false, SawNew = false;
+    qint64 Room = 0;
+    for (bool Through = false; !Through; Room += 41) {
+        TempFolder Dir;
+        TheScene.Prepare(Dir.Path());
+        const auto Engine = TheScene.Changed(Dir.Path());
+        QString Named;
+        try {
+            FullDisk Disk(Room);
+            Engine->FinalizeDB();
+            Through = true;
+        } catch (const Fault& Problem) {
+            Named = Problem.File();
+            EXPECT_TRUE(Problem.Text().contains(Named));
+            EXPECT_TRUE(Named.startsWith(Dir.Path()) && FolderExists(Dir.Path()));
+        }
+        EXPECT_EQ(Through, Named.isEmpty());
+        const bool IsNew = TheScene.ExpectOldOrNew(Dir.Path(), "room " + std::to_string(Room));
+        (IsNew ? SawNew : SawOld) = true;
+        ASSERT_FALSE(HasFailure());
+        ASSERT_LT(Room, 1000000);
+    }
+    EXPECT_TRUE(SawOld && SawNew);
+}
+
+TEST(Crash, AJournalThatFindsNoRoomLeavesNoTrace) {
+    const Scene TheScene(true);
+    TempFolder Dir;
+    TheScene.Prepare(Dir.Path());
+    const auto Before = AllRecords(Dir.Path());
+    const auto Engine = TheScene.Changed(Dir.Path());
+    {
+        FullDisk Disk(100);
+        EXPECT_THROW(Engine->FinalizeDB(), Fault);
+    }
+    EXPECT_EQ(AllRecords(Dir.Path()), Before);
+    EXPECT_TRUE(ListDir(Dir / "Temp").empty());
+    Engine->FinalizeDB();  // with room again, the program saves what it had
+    EXPECT_EQ(ContentOf(*OpenEngine(Dir.Path())), TheScene.New);
+}
+
+// A whole journal and the record files in disarray.
+void BreakWrite(const Scene& TheScene, const QString& Dir) {
+    TheScene.Prepare(Dir);
+    const auto Engine = TheScene.Changed(Dir);
+    SetHostWatcher([](HostStep Step, const QString& Path, qint64&) {
+        if (Step == HostStep::Write && Path.endsWith(u"Slides.dat")) throw Fault(u"full"_s, Path);
+    });
+    EXPECT_THROW(Engine->FinalizeDB(), Fault);
+    SetHostWatcher({});
+    ASSERT_EQ(ReadJournal(Dir), JournalState::Whole);
+}
+
+TEST(Journal, AnyDamageMakesItTorn) {
+    const Scene TheScene(true);
+    TempFolder Dir;
+    BreakWrite(TheScene, Dir.Path());
+    const QByteArray Whole = ReadFile(JournalPath(Dir.Path()));
+    for (qsizetype I = 0; I < Whole.size(); I += 7) {
+        QByteArray Damaged = Whole;
+        Damaged[I] = static_cast<char>(Damaged[I] ^ 0x10);
+        WriteFile(JournalPath(Dir.Path()), Damaged);
+        ASSERT_EQ(ReadJournal(Dir.Path()), JournalState::Torn) << I;
+        WriteFile(JournalPath(Dir.Path()), Whole.left(I));
+        ASSERT_EQ(ReadJournal(Dir.Path()), JournalState::Torn) << I;
+    }
+    WriteFile(JournalPath(Dir.Path()), Whole + '\0');
+    EXPECT_EQ(ReadJournal(Dir.Path()), JournalState::Torn);
+}
+
+TEST(Journal, ATornOneIsDroppedAtTheNextStart) {
+    const Scene TheScene(true);
+    TempFolder Dir;
+    TheScene.Prepare(Dir.Path());
+    WriteFile(JournalPath(Dir.Path()), "NEBJRNL1 and not much more");
+    EXPECT_EQ(ContentOf(*OpenEngine(Dir.Path())), TheScene.Old);
+    EXPECT_FALSE(FileExists(JournalPath(Dir.Path())));
+}
+
+TEST(Journal, LookingOnlyChangesNothingOnTheDisk) {
+    const Scene TheScene(true);
+    TempFolder Dir;
+    BreakWrite(TheScene, Dir.Path());
+    const auto Before = AllRecords(Dir.Path());
+    SetHostWatcher(
+        [](HostStep, const QString& Path, qint64&) { ADD_FAILURE() << qPrintable(Path); });
+    const auto Engine = OpenEngine(Dir.Path(), Recovery::InMemory);
+    SetHostWatcher({});
+    EXPECT_EQ(ContentOf(*Engine), TheScene.New);
+    EXPECT_EQ(AllRecords(Dir.Path()), Before);
+    EXPECT_EQ(ReadJournal(Dir.Path()), JournalState::Whole);
+}
+
+TEST(Journal, AReadOnlyDatabaseIsReadFromItAndStaysAsItIs) {
+    const Scene TheScene(true);
+    TempFolder Dir;
+    BreakWrite(TheScene, Dir.Path());
+    const auto Before = AllRecords(Dir.Path());
+    QFile::setPermissions(Dir / "NextIDs.dat", QFileDevice::ReadOwner);
+    EXPECT_EQ(ContentOf(*OpenEngine(Dir.Path())), TheScene.New);
+    EXPECT_EQ(AllRecords(Dir.Path()), Before);
+    EXPECT_EQ(ReadJournal(Dir.Path()), JournalState::Whole);
+}
+
+TEST(Journal, IsGoneAfterACleanWriteAndLeavesTempEmpty) {
+    TempFolder Dir;
+    OpenEngine(Dir.Path())->FinalizeDB();
+    EXPECT_TRUE(ListDir(Dir / "Temp").empty());
+}
+
+TEST(Journal, TheRecordFilesAreTouchedInTheirOrderAfterItIsOnTheDisk) {
+    const Scene TheScene(true);
+    TempFolder Dir;
+    TheScene.Prepare(Dir.Path());
+    const auto Engine = TheScene.Changed(Dir.Path());
+    QStringList Steps;
+    SetHostWatcher([&](HostStep Step, const QString& Path, qint64&) {
+        static const char* const Names[] = {"write",  "sync",   "syncdir",
+                                            "delete", "rename", "mkdir"};
+        Steps << QLatin1String(Names[static_cast<int>(Step)]) + u' ' + Path.mid(Dir.Path().size());
+    });
+    Engine->FinalizeDB();
+    SetHostWatcher({});
+    QStringList Expected = {"write Temp/Records.journal.new", "sync Temp/Records.journal.new",
+                            "rename Temp/Records.journal", "syncdir Temp/"};
+    for (const char* Name : {"Properties", "EffectStats", "NextIDs"})
+        for (const char* Step : {"delete ", "write ", "sync "})
+            Expected << QLatin1String(Step) + QLatin1String(Name) + u".dat"_s;
+    for (const char* Step : {"delete ", "write ", "sync "})
+        for (const char* Name :
+             {"Albums", "Slides", "SlideShows", "SlideShowDetails", "SlideShowSoundTracks"})
+            Expected << QLatin1String(Step) + QLatin1String(Name) + u".dat"_s;
+    Expected << u"syncdir "_s << u"delete Temp/Records.journal"_s << u"syncdir Temp/"_s;
+    // Each file's write may come with its flush, so the writes are looked at by themselves.
+    const auto Only = [](const QStringList& All, const char* Step) {
+        return All.filter(QRegularExpression(u'^' + QLatin1String(Step) + u' '));
+    };
+    for (const char* Step : {"write", "sync", "syncdir", "delete", "rename", "mkdir"})
+        EXPECT_EQ(Only(Steps, Step), Only(Expected, Step)) << Step;
+    EXPECT_EQ(Steps.mid(0, 5), Expected.mid(0, 5));
+    EXPECT_EQ(Steps.mid(Steps.size() - 3), Expected.mid(Expected.size() - 3));
+}
+
+}  // namespace
+}  // namespace neb

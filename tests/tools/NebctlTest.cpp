@@ -1,0 +1,395 @@
+// The commands of nebctl, called as functions, and once as the real program.
+#include <gtest/gtest.h>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+
+#include "db/Fixtures.h"
+#include "db/modAlbumFiles.h"
+#include "support/Fault.h"
+#include "tools/JsonWriter.h"
+#include "tools/modCommands.h"
+
+namespace neb {
+namespace {
+
+using namespace harness;
+
+struct Outcome {
+    int Code;
+    QString Out, Err;
+};
+
+Outcome Tool(const QStringList& Arguments, bool Terminal = false) {
+    std::ostringstream Out, Err;
+    ToolIO IO{Out, Err, Terminal};
+    const int Code = RunTool(Arguments, IO);
+    return {Code, QString::fromStdString(Out.str()), QString::fromStdString(Err.str())};
+}
+
+// The names, sizes and contents of all that lies below a directory.
+QStringList Everything(const QString& Dir) {
+    QStringList All;
+    for (const DirEntry& Entry : ListDir(Dir)) {
+        const QString Path = Dir + Entry.Name;
+        All << Path;
+        if (Entry.IsFolder)
+            All << Everything(Path + u'/');
+        else
+            All << QString::fromLatin1(ReadFile(Path).toHex());
+    }
+    return All;
+}
+
+class NebctlTest : public ::testing::Test {
+  protected:
+    // A database of two albums with all the files that its records name.
+    NebctlTest() {
+        const auto Engine = OpenEngine(Dir.Path());
+        FillDatabase(*Engine, u"Fürth \"1\""_s);
+        for (const auto& Album : Engine->Albums) {
+            const QString Slides = SlidesFolder(Dir.Path(), Album->AlbumID);
+            const QString Sounds = SoundTracksFolder(Dir.Path(), Album->AlbumID);
+            MakeDirs(Slides);
+            MakeDirs(Sounds);
+            clsNEBSlide& Slide = *Album->Slides[0];
+            Slide.SlideLoc = FileStem(Slide.SlideID) + u".JPG"_s;
+            WriteFile(Slides + FileStem(Slide.SlideID) + u".jpg"_s, "picture");
+            WriteFile(Slides + ThumbnailName(Slide.SlideID), "thumbnail");
+            WriteFile(Sounds + u"00000001_1.mp3"_s, "sound");
+        }
+        Engine->FinalizeDB();
+    }
+    // The lines that check prints, which must be found in their order of printing.
+    void ExpectFindings(const QStringList& Expected) {
+        const QStringList Before = Everything(Dir.Path());
+        const Outcome Result = Tool({u"check"_s, Dir.Path()});
+        EXPECT_EQ(Result.Out.split(u'\n', Qt::SkipEmptyParts), Expected)
+            << Result.Out.toStdString();
+        EXPECT_EQ(Result.Code, Expected.isEmpty() ? 0 : 1);
+        EXPECT_EQ(Result.Err, u"");
+        EXPECT_EQ(Everything(Dir.Path()), Before);
+    }
+    void ChangeRecords(const char* Name, const std::function<void(QByteArray&)>& Change) {
+        QByteArray Bytes = FileBytes(Dir.Path(), Name);
+        Change(Bytes);
+        WriteFile(Dir.Path() + QLatin1String(Name), Bytes);
+    }
+    QJsonObject Dump() {
+        const Outcome Result = Tool({u"dump"_s, Dir.Path()});
+        EXPECT_EQ(Result.Code, 0);
+        QJsonParseError Error;
+        const auto Document = QJsonDocument::fromJson(Result.Out.toUtf8(), &Error);
+        EXPECT_EQ(Error.error, QJsonParseError::NoError) << Result.Out.toStdString();
+        return Document.object();
+    }
+    // A write that was broken off among the record files.
+    void BreakAWrite() {
+        const auto Engine = OpenEngine(Dir.Path());
+        Engine->Albums[0]->AlbumName = u"changed"_s;
+        SetHostWatcher([](HostStep Step, const QString& Path, qint64&) {
+            if (Step == HostStep::Write && Path.endsWith(u"Slides.dat")) throw Fault(u"no"_s, Path);
+        });
+        EXPECT_THROW(Engine->FinalizeDB(), Fault);
+        SetHostWatcher({});
+    }
+    TempFolder Dir;
+};
+
+TEST_F(NebctlTest, DumpsAllThatTheLoaderHolds) {
+    const QJsonObject All = Dump();
+    EXPECT_EQ(All.keys(), QStringList({"Albums", "EffectStats", "NextAlbumID", "NextSlideID",
+                                       "NextSlideShowID", "Properties"}));
+    EXPECT_EQ(All["NextAlbumID"].toInt(), 3);
+    const QJsonArray Albums = All["Albums"].toArray();
+    ASSERT_EQ(Albums.size(), 2);
+    const QJsonObject Album = Albums[1].toObject();
+    EXPECT_EQ(Album["AlbumID"].toInt(), 2);
+    EXPECT_EQ(Album["AlbumName"].toString(), u"Fürth \"1\" two");
+    const QJsonObject Slide = Album["Slides"].toArray()[0].toObject();
+    EXPECT_EQ(Slide.keys(), QStringList({"Override", "Repeat", "SlideID", "SlideLoc", "SlideText",
+                                         "SoundTrackLoc"}));
+    EXPECT_EQ(Slide["Override"], QJsonValue(true));
+    EXPECT_EQ(Slide["SlideLoc"].toString(), u"00000002.JPG");
+    const QJsonObject Show = Album["SlideShows"].toArray()[0].toObject();
+    EXPECT_EQ(Show.keys(), QStringList({"Details", "ProgressionMethod", "SlideShowID",
+                                        "SlideShowName", "SoundTracks"}));
+    EXPECT_EQ(Show["Details"].toArray()[0].toObject().keys(),
+              QStringList({"SlideID", "SlideSeq", "SlideText"}));
+    EXPECT_EQ(Show["SoundTracks"].toArray()[0].toObject().keys(),
+              QStringList({"Fade", "FitToSong", "Repeat", "SlideSeqEnd", "SlideSeqStart",
+                           "SoundTrackLoc", "SoundTrackSeq"}));
+    EXPECT_EQ(All["Properties"].toArray()[0].toObject()["PropertyName"].toString().trimmed(),
+              u"Marker");
+    EXPECT_EQ(All["EffectStats"].toArray()[0].toObject()["AvgTime"].toDouble(), 0.25);
+}
+
+TEST_F(NebctlTest, DumpKeepsTheOrderOfTheFields) {
+    const QString Text = Tool({u"dump"_s, Dir.Path()}).Out;
+    qsizetype Place = 0;
+    for (const char* Key :
+         {"NextAlbumID", "NextSlideID", "NextSlideShowID", "Albums", "AlbumID", "AlbumName",
+          "Slides", "SlideShows", "Details", "SoundTracks", "Properties", "EffectStats"}) {
+        Place = Text.indexOf(u'"' + QLatin1String(Key) + u'"', Place);
+        ASSERT_GE(Place, 0) << Key;
+    }
+}
+
+TEST_F(NebctlTest, DumpOfAnEmptyDirectoryIsANewDatabase) {
+    TempFolder Empty;
+    const Outcome Result = Tool({u"dump"_s, Empty.Path()});
+    EXPECT_EQ(Result.Code, 0);
+    EXPECT_TRUE(Result.Out.contains(u"\"NextSlideID\": 1,"));
+    EXPECT_TRUE(Result.Out.contains(u"\"Albums\": []"));
+    EXPECT_TRUE(ListDir(Empty.Path()).empty());
+}
+
+TEST_F(NebctlTest, DumpSeesABrokenOffWriteAsTheNextStartWillAndLeavesItThere) {
+    BreakAWrite();
+    const QStringList Before = Everything(Dir.Path());
+    EXPECT_EQ(Dump()["Albums"].toArray()[0].toObject()["AlbumName"].toString(), u"changed");
+    EXPECT_TRUE(Tool({u"dump"_s, Dir.Path()}).Err.contains(u"did not come to its end"));
+    EXPECT_EQ(Everything(Dir.Path()), Before);
+}
+
+TEST_F(NebctlTest, JsonTextsAreEscapedAndNumbersAreValid) {
+    std::ostringstream Out;
+    JsonWriter Json(Out);
+    Json.BeginObject();
+    Json.Value("Text", u"a\"b\\c\n\x01 ü€"_s + QChar(0xD800));
+    Json.Value("Nan", std::numeric_limits<double>::quiet_NaN());
+    Json.Value("Huge", 1e300);
+    Json.BeginList("Empty");
+    Json.EndList();
+    Json.EndObject();
+    QJsonParseError Error;
+    const auto Parsed =
+        QJsonDocument::fromJson(QByteArray::fromStdString(Out.str()), &Error).object();
+    ASSERT_EQ(Error.error, QJsonParseError::NoError) << Out.str();
+    EXPECT_TRUE(Parsed["Text"].toString().startsWith(u"a\"b\\c\n\x01 ü€"));
+    EXPECT_TRUE(Parsed["Nan"].isNull());
+    EXPECT_EQ(Parsed["Huge"].toDouble(), 1e300);
+}
+
+TEST_F(NebctlTest, ACleanDatabaseHasNoFindings) {
+    ExpectFindings({});
+}
+
+TEST_F(NebctlTest, AnEmptyDirectoryHasNoFindings) {
+    TempFolder Empty;
+    EXPECT_EQ(Tool({u"check"_s, Empty.Path()}).Code, 0);
+}
+
+TEST_F(NebctlTest, CheckFindsOrphans) {
+    ChangeRecords("Albums.dat", [](QByteArray& Bytes) { Bytes.chop(86); });
+    ExpectFindings(
+        {u"Slides.dat, record 2: slide 2 belongs to album 2, which is not there; it will be dropped"_s,
+         u"SlideShows.dat, record 2: show 2 belongs to album 2, which is not there; it will be dropped"_s,
+         u"SlideShowDetails.dat, record 2: place 1 belongs to show 2 of album 2, which is not "
+         u"there; "
+         "it will be dropped"_s,
+         u"SlideShowSoundTracks.dat, record 2: sound track 1 belongs to show 2 of album 2, which "
+         u"is "
+         "not there; it will be dropped"_s,
+         u"no record names the folder %1Albums/2"_s.arg(Dir.Path())});
+}
+
+TEST_F(NebctlTest, CheckFindsMissingFiles) {
+    DeleteFile(Dir / "Albums/1/Slides/00000001.jpg");
+    DeleteFile(Dir / "Albums/1/Slides/00000001Small.bmp");
+    DeleteFile(Dir / "Albums/2/SoundTracks/00000001_1.mp3");
+    const QString Slides = Dir / "Albums/1/Slides/";
+    ExpectFindings(
+        {u"the picture of slide 1 in album 1 is missing: "_s + Slides + u"00000001.JPG"_s,
+         u"the thumbnail of slide 1 in album 1 is missing: "_s + Slides + u"00000001Small.bmp"_s,
+         u"sound track 1 of show 2 in album 2 is missing: "_s +
+             (Dir / "Albums/2/SoundTracks/00000001_1.mp3")});
+}
+
+TEST_F(NebctlTest, CheckFindsSlideSoundsAndPicturesOutside) {
+    const auto Engine = OpenEngine(Dir.Path());
+    Engine->Albums[0]->Slides[0]->SoundTrackLoc = u"00000001.wav"_s;
+    Engine->Albums[1]->Slides[0]->SlideLoc = Dir / "outside.png";
+    Engine->FinalizeDB();
+    const QString Slides = Dir / "Albums/2/Slides/";
+    ExpectFindings(
+        {u"the sound of slide 1 in album 1 is missing: "_s + (Dir / "Albums/1/Slides/00000001.wav"),
+         u"the picture of slide 2 in album 2 is missing: "_s + (Dir / "outside.png"),
+         u"no record names the file "_s + Slides + u"00000002.jpg"_s,
+         u"no record names the file "_s + Slides + u"00000002Small.bmp"_s});
+}
+
+TEST_F(NebctlTest, CheckFindsStrayFiles) {
+    WriteFile(Dir / "Albums/1/Slides/00000009.jpg", "x");
+    WriteFile(Dir / "Albums/1/SoundTracks/old.mp3", "x");
+    WriteFile(Dir / "Albums/1/notes.txt", "x");
+    WriteFile(Dir / "Albums/list.txt", "x");
+    MakeDirs(Dir / "Albums/7");
+    const QString Text = u"no record names the %1 %2"_s;
+    ExpectFindings({Text.arg(u"file"_s, Dir / "Albums/1/notes.txt"),
+                    Text.arg(u"file"_s, Dir / "Albums/1/Slides/00000009.jpg"),
+                    Text.arg(u"file"_s, Dir / "Albums/1/SoundTracks/old.mp3"),
+                    Text.arg(u"folder"_s, Dir / "Albums/7"),
+                    Text.arg(u"file"_s, Dir / "Albums/list.txt")});
+}
+
+TEST_F(NebctlTest, CheckFindsDoubleKeys) {
+    for (const char* Name : {"Properties.dat", "EffectStats.dat", "SlideShowSoundTracks.dat"})
+        ChangeRecords(Name, [](QByteArray& Bytes) { Bytes += Bytes; });
+    ChangeRecords("Slides.dat", [](QByteArray& Bytes) { Bytes += Bytes.left(604); });
+    ExpectFindings({u"Properties.dat, record 2: property \"Marker\" stands twice"_s,
+                    u"EffectStats.dat, record 2: effect 7 stands twice"_s,
+                    u"Slides.dat, record 3: slide 1 stands twice"_s,
+                    u"SlideShowSoundTracks.dat, record 3: sound track 1 of show 1 stands twice"_s,
+                    u"SlideShowSoundTracks.dat, record 4: sound track 1 of show 2 stands twice"_s});
+}
+
+TEST_F(NebctlTest, CheckFindsAnAlbumThatStandsTwice) {
+    ChangeRecords("Albums.dat", [](QByteArray& Bytes) { Bytes += Bytes.left(86); });
+    ExpectFindings({u"Albums.dat, record 3: album 1 stands twice"_s});
+}
+
+TEST_F(NebctlTest, CheckFindsOddTailsAndMissingFiles) {
+    ChangeRecords("EffectStats.dat", [](QByteArray& Bytes) { Bytes += "abc"; });
+    ChangeRecords("NextIDs.dat", [](QByteArray& Bytes) { Bytes += '\0'; });
+    DeleteFile(Dir / "Properties.dat");
+    ExpectFindings({u"Properties.dat: the file is missing"_s,
+                    u"EffectStats.dat: 17 bytes are no whole number of records of 14 bytes"_s,
+                    u"NextIDs.dat: 13 bytes are no whole number of records of 12 bytes"_s});
+}
+
+TEST_F(NebctlTest, CheckFindsDetailsWithoutSlide) {
+    ChangeRecords("SlideShowDetails.dat", [](QByteArray& Bytes) { Bytes[8] = 2; });
+    ExpectFindings(
+        {u"SlideShowDetails.dat, record 1: place 1 of show 1 shows slide 2, which is not "
+         "in album 1"_s});
+}
+
+TEST_F(NebctlTest, CheckPassesOverDeletedRecords) {
+    ChangeRecords("SlideShowDetails.dat", [](QByteArray& Bytes) {
+        Bytes[8] = 99;
+        Bytes[96] = 1;
+    });
+    ExpectFindings({});
+}
+
+TEST_F(NebctlTest, CheckFindsCountersThatWouldGiveAKeyOutTwice) {
+    ChangeRecords("NextIDs.dat", [](QByteArray& Bytes) { Bytes[4] = 2; });
+    ExpectFindings({u"NextIDs.dat: NextSlideID is 2, but 2 is taken already"_s});
+}
+
+TEST_F(NebctlTest, CheckFindsAnUnfinishedWrite) {
+    BreakAWrite();
+    ExpectFindings(
+        {u"the last write did not come to its end; the next start of the program will "
+         "complete it"_s});
+    WriteFile(JournalPath(Dir.Path()), "torn");
+    EXPECT_TRUE(Tool({u"check"_s, Dir.Path()}).Out.startsWith(u"a write was given up"));
+}
+
+TEST_F(NebctlTest, RewriteDropsOrphansAndLeavesACleanDatabase) {
+    const auto Before = AllRecords(Dir.Path());
+    EXPECT_EQ(Tool({u"rewrite"_s, Dir.Path()}).Code, 0);
+    EXPECT_EQ(AllRecords(Dir.Path()), Before);
+    ChangeRecords("Slides.dat",
+                  [](QByteArray& Bytes) { Bytes += QByteArray(602, 9) + Hex("0000"); });
+    EXPECT_EQ(Tool({u"check"_s, Dir.Path()}).Code, 1);
+    EXPECT_EQ(Tool({u"rewrite"_s, Dir.Path()}).Code, 0);
+    EXPECT_EQ(AllRecords(Dir.Path()), Before);
+}
+
+TEST_F(NebctlTest, RewriteCompletesABrokenOffWrite) {
+    BreakAWrite();
+    EXPECT_EQ(Tool({u"rewrite"_s, Dir.Path()}).Code, 0);
+    EXPECT_EQ(Dump()["Albums"].toArray()[0].toObject()["AlbumName"].toString(), u"changed");
+    ExpectFindings({});
+}
+
+TEST_F(NebctlTest, RewriteLeavesAReadOnlyDatabaseAlone) {
+    QFile::setPermissions(Dir / "NextIDs.dat", QFileDevice::ReadOwner);
+    const QStringList Before = Everything(Dir.Path());
+    const Outcome Result = Tool({u"rewrite"_s, Dir.Path()});
+    EXPECT_EQ(Result.Code, 2);
+    EXPECT_TRUE(Result.Err.contains(u"read-only"));
+    EXPECT_EQ(Everything(Dir.Path()), Before);
+}
+
+TEST_F(NebctlTest, RewriteRefusesADirectoryWithoutCounters) {
+    DeleteFile(Dir / "NextIDs.dat");
+    const QStringList Before = Everything(Dir.Path());
+    const Outcome Result = Tool({u"rewrite"_s, Dir.Path()});
+    EXPECT_EQ(Result.Code, 2);
+    EXPECT_TRUE(Result.Err.contains(u"There is no database"));
+    EXPECT_EQ(Everything(Dir.Path()), Before);
+}
+
+TEST_F(NebctlTest, AFullDiskIsReportedOnErr) {
+    SetHostWatcher([](HostStep Step, const QString&, qint64& Length) {
+        if (Step == HostStep::Write) Length = 0;
+    });
+    const Outcome Result = Tool({u"rewrite"_s, Dir.Path()});
+    SetHostWatcher({});
+    EXPECT_EQ(Result.Code, 2);
+    EXPECT_TRUE(Result.Err.startsWith(u"nebctl: The file cannot be written."));
+    EXPECT_TRUE(Result.Err.contains(u"Records.journal"));
+    EXPECT_EQ(Result.Out, u"");
+}
+
+TEST_F(NebctlTest, WrongUsageIsTwo) {
+    EXPECT_EQ(Tool({}).Code, 2);
+    EXPECT_TRUE(Tool({}).Err.contains(u"Usage:"));
+    for (const char* Name : {"dump", "check", "rewrite"}) {
+        const QString Command = QLatin1String(Name);
+        EXPECT_EQ(Tool({Command}).Code, 2);
+        EXPECT_EQ(Tool({Command, Dir.Path(), Dir.Path()}).Code, 2);
+        EXPECT_EQ(Tool({Command, u"--unknown"_s}).Code, 2);
+        const Outcome Result = Tool({Command, Dir / "nowhere"});
+        EXPECT_EQ(Result.Code, 2);
+        EXPECT_TRUE(Result.Err.contains(u"nowhere"));
+        EXPECT_EQ(Result.Out, u"");
+    }
+    EXPECT_TRUE(Tool({u"frobnicate"_s}).Err.contains(u"frobnicate"));
+}
+
+TEST_F(NebctlTest, HelpIsThereForTheProgramAndForEachCommand) {
+    const Outcome All = Tool({u"--help"_s});
+    EXPECT_EQ(All.Code, 0);
+    EXPECT_EQ(All.Err, u"");
+    for (const Command& Row : Commands()) {
+        EXPECT_TRUE(All.Out.contains(QLatin1String(Row.Summary)));
+        const Outcome One = Tool({QLatin1String(Row.Name), u"--help"_s});
+        EXPECT_EQ(One.Code, 0);
+        EXPECT_TRUE(One.Out.startsWith(u"Usage: nebctl "_s + QLatin1String(Row.Name)));
+    }
+}
+
+TEST_F(NebctlTest, ProgressGoesToATerminalAloneAndVanishes) {
+    const Outcome Shown = Tool({u"check"_s, Dir.Path()}, true);
+    EXPECT_TRUE(Shown.Err.contains(u"Checking 50 %"));
+    EXPECT_TRUE(Shown.Err.endsWith(u"\r\033[K"));
+    EXPECT_EQ(Shown.Out, u"");
+}
+
+TEST_F(NebctlTest, RunsAsAProgramWithoutADisplay) {
+    const auto Start = [&](const QStringList& Arguments, QProcess& Process) {
+        auto Environment = QProcessEnvironment::systemEnvironment();
+        for (const char* Name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+            Environment.remove(QLatin1String(Name));
+        Process.setProcessEnvironment(Environment);
+        Process.start(QStringLiteral(NEB_BINARY_DIR "/bin/nebctl"), Arguments);
+        return Process.waitForFinished() ? Process.exitCode() : -1;
+    };
+    QProcess DumpIt, CheckIt, Wrong;
+    EXPECT_EQ(Start({u"dump"_s, Dir.Path()}, DumpIt), 0);
+    EXPECT_EQ(DumpIt.readAllStandardOutput(), Tool({u"dump"_s, Dir.Path()}).Out.toUtf8());
+    DeleteFile(Dir / "Albums/1/Slides/00000001.jpg");
+    EXPECT_EQ(Start({u"check"_s, Dir.Path()}, CheckIt), 1);
+    EXPECT_TRUE(CheckIt.readAllStandardOutput().startsWith("the picture of slide 1"));
+    EXPECT_EQ(Start({}, Wrong), 2);
+    EXPECT_TRUE(Wrong.readAllStandardOutput().isEmpty());
+}
+
+}  // namespace
+}  // namespace neb
