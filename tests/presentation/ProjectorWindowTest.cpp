@@ -36,7 +36,7 @@ void ChooseInMenu(XShow* Picture, const char* Name, const std::function<void(QMe
             QTest::mouseClick(Menu, Qt::LeftButton, {}, Menu->actionGeometry(Entry).center());
         Menu->close();
     });
-    QTest::mousePress(Picture, Qt::RightButton);
+    QTest::mouseClick(Picture, Qt::RightButton);
 }
 
 TEST_F(ProjectorWindow, FillsTheScreenWithPictureAndCaption) {
@@ -192,8 +192,10 @@ TEST_F(ProjectorMouse, AClickMovesOnInManualProgressionAlone) {
         EXPECT_EQ(3, CurrentSlideSeq);
         QTest::mousePress(&Window, Qt::LeftButton);
         EXPECT_EQ(3, CurrentSlideSeq);
+        QTest::mouseRelease(&Window, Qt::LeftButton);
+        EXPECT_EQ(1, CurrentSlideSeq);
         QTest::mouseClick(Picture, Qt::MiddleButton);
-        EXPECT_EQ(3, CurrentSlideSeq);
+        EXPECT_EQ(1, CurrentSlideSeq);
     });
 }
 
@@ -201,8 +203,10 @@ TEST_F(ProjectorMouse, AClickOnTheCaptionDoesNothing) {
     AddSlides(3);
     SlideShow->ProgressionMethod = 1;
     Run([&](Projector& Window) {
+        QTest::mouseClick(Window.windowHandle(), Qt::LeftButton, {}, {200, 200});
+        EXPECT_EQ(2, CurrentSlideSeq);
         QTest::mouseClick(Window.windowHandle(), Qt::LeftButton, {}, Label->geometry().center());
-        EXPECT_EQ(1, CurrentSlideSeq);
+        EXPECT_EQ(2, CurrentSlideSeq);
     });
 }
 
@@ -265,7 +269,7 @@ TEST_F(ProjectorMenu, HasNoPreferencesInAReadOnlyDatabase) {
 TEST_F(ProjectorMenu, OpensForTheRightButtonAlone) {
     AddSlides(1);
     Run([&](Projector&) {
-        QTest::mousePress(Picture, Qt::MiddleButton);
+        QTest::mouseClick(Picture, Qt::MiddleButton);
         EXPECT_EQ(nullptr, QApplication::activePopupWidget());
     });
 }
