@@ -58,9 +58,7 @@ void SuspendServerSaver(bool) {}
 }  // namespace
 
 DesktopScreenBlanking::~DesktopScreenBlanking() {
-    if (mHolders == 0) return;
-    mHolders = 1;
-    Release();
+    if (mHolders > 0) LetGo();
 }
 
 void DesktopScreenBlanking::Inhibit(const QString& Reason) {
@@ -70,7 +68,10 @@ void DesktopScreenBlanking::Inhibit(const QString& Reason) {
 }
 
 void DesktopScreenBlanking::Release() {
-    if (mHolders == 0 || --mHolders > 0) return;
+    if (mHolders > 0 && --mHolders == 0) LetGo();
+}
+
+void DesktopScreenBlanking::LetGo() {
     LeaveService();
     SuspendServerSaver(false);
 }

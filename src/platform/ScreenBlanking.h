@@ -28,6 +28,7 @@ class DesktopScreenBlanking : public ScreenBlanking {
   private:
     void AskService(const QString& Reason);
     void LeaveService();
+    void LetGo();
     void Answered(QDBusPendingCallWatcher* Call);
 
     int mHolders = 0;

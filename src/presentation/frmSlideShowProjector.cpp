@@ -27,20 +27,20 @@ constexpr int RightButton = 2;
 using Command = void (frmSlideShowProjector::*)();
 
 struct KeyCommand {
-    int Key;
     Command Run;
+    int Key;
     bool AutomaticOnly = false;
 };
 
 constexpr KeyCommand Keys[] = {
-    {Qt::Key_Up, &frmSlideShowProjector::NextSlide},
-    {Qt::Key_Down, &frmSlideShowProjector::PreviousSlide},
-    {Qt::Key_W, &frmSlideShowProjector::NextSlide},
-    {Qt::Key_8, &frmSlideShowProjector::NextSlide},
-    {Qt::Key_S, &frmSlideShowProjector::PreviousSlide},
-    {Qt::Key_2, &frmSlideShowProjector::PreviousSlide},
-    {Qt::Key_P, &frmSlideShowProjector::PlayPause, true},
-    {Qt::Key_R, &frmSlideShowProjector::StopRestart},
+    {&frmSlideShowProjector::NextSlide, Qt::Key_Up},
+    {&frmSlideShowProjector::PreviousSlide, Qt::Key_Down},
+    {&frmSlideShowProjector::NextSlide, Qt::Key_W},
+    {&frmSlideShowProjector::NextSlide, Qt::Key_8},
+    {&frmSlideShowProjector::PreviousSlide, Qt::Key_S},
+    {&frmSlideShowProjector::PreviousSlide, Qt::Key_2},
+    {&frmSlideShowProjector::PlayPause, Qt::Key_P, true},
+    {&frmSlideShowProjector::StopRestart, Qt::Key_R},
 };
 
 struct MenuCommand {

@@ -1,0 +1,116 @@
+// How a show ends: the place that is kept, and everything that comes back, faults included.
+#include "ProjectorRig.h"
+
+#include "support/Fault.h"
+#include "support/modHostFiles.h"
+#include "support/windows/ScreenPointer.h"
+
+namespace neb::test {
+namespace {
+
+using Projector = frmSlideShowProjector;
+using ProjectorEnd = ProjectorRig;
+
+TEST_F(ProjectorEnd, KeepsThePlaceOfTheActiveShow) {
+    AddSlides(3);
+    MakeActive();
+    Run([&](Projector& Window) { Window.NextSlide(); });
+    EXPECT_EQ("2", Setting("NextSlideSeq").toStdString()) << "the slide that was on the screen";
+    Run([&](Projector&) { EXPECT_EQ("Slide 2", Caption()); });
+}
+
+TEST_F(ProjectorEnd, KeepsNoPlaceOfAnyOtherShow) {
+    AddSlides(3);
+    Run([&](Projector& Window) { Window.NextSlide(); });
+    EXPECT_EQ("none", Setting("NextSlideSeq").toStdString());
+}
+
+TEST_F(ProjectorEnd, StopsTheSoundAndTheTimers) {
+    AddSlides(1);
+    Run([&](Projector& Window) {
+        Sound.Taken();
+        Window.Unload();
+        EXPECT_EQ("Stop", Sound.Taken());
+        EXPECT_EQ("off off", Timers());
+    });
+    EXPECT_EQ("", Sound.Taken()) << "only once";
+}
+
+TEST_F(ProjectorEnd, ShowsTheHourglassOnlyWhileItEnds) {
+    AddSlides(1);
+    Sound.OnStop = [] { EXPECT_EQ(Pointer::Hourglass, ScreenPointer()); };
+    Run([&](Projector&) {});
+    EXPECT_EQ(Pointer::Default, ScreenPointer());
+}
+
+TEST_F(ProjectorEnd, IgnoresAFaultOfTheSoundWhileStopping) {
+    AddSlides(1);
+    MakeActive();
+    Sound.OnStop = [] { throw Fault(QStringLiteral("the device is gone")); };
+    Run([&](Projector&) {});
+    EXPECT_EQ("1", Setting("NextSlideSeq").toStdString());
+    EXPECT_EQ(0, Blanking.Held);
+    EXPECT_EQ(Pointer::Default, ScreenPointer());
+}
+
+TEST_F(ProjectorEnd, ComesEvenWhenThePlaceCannotBeKept) {
+    AddSlides(1);
+    MakeActive();
+    const auto FullDisk = [&](Projector& Window) {
+        SetHostWatcher([](HostStep, const QString& Path, qint64&) {
+            throw Fault(QStringLiteral("The disk is full."), Path);
+        });
+        Window.Unload();
+        SetHostWatcher({});
+        EXPECT_FALSE(Window.isVisible());
+    };
+    EXPECT_THROW(Run(FullDisk), Fault);
+    EXPECT_EQ(0, Blanking.Held);
+    EXPECT_EQ(Pointer::Default, ScreenPointer());
+    RunThroughModule(FullDisk);
+    EXPECT_TRUE(LoadedForms().empty());
+}
+
+TEST_F(ProjectorEnd, ComesAfterAFaultInTheFirstSlide) {
+    AddSlides(1);
+    Sound.OnStep = [](const SlideSound&, ShowSoundFields&) -> bool {
+        throw Fault(QStringLiteral("no sound device"));
+    };
+    RunSlideShow(Album, QStringLiteral("Holiday"), Show);
+    EXPECT_EQ(1, Blanking.Asked);
+    EXPECT_EQ(0, Blanking.Held);
+    EXPECT_EQ(Pointer::Default, ScreenPointer());
+    EXPECT_TRUE(LoadedForms().empty());
+}
+
+TEST_F(ProjectorEnd, ComesAfterAFaultWhileLoading) {
+    AddSlides(1);
+    TheShowSoundMaker() = []() -> std::unique_ptr<ShowSound> {
+        throw Fault(QStringLiteral("no sound at all"));
+    };
+    RunSlideShow(Album, QStringLiteral("Holiday"), Show);
+    EXPECT_EQ(0, Blanking.Held);
+    EXPECT_TRUE(LoadedForms().empty());
+}
+
+TEST_F(ProjectorEnd, MayComeWhileAFailureBoxIsOpen) {
+    AddSlides(2);
+    Run([&](Projector& Window) {
+        Detail(2).SlideID = 77;
+        Boxes.WhileNextIsOpen([&] { Window.Unload(); });
+        Boxes.Expect(QStringLiteral("Slide #2 of the current slide show does not exist!"));
+        Window.NextSlide();
+        EXPECT_EQ("off off", Timers());
+    });
+    EXPECT_EQ(0, Blanking.Held);
+}
+
+TEST_F(ProjectorEnd, LeavesTheModuleValuesBehind) {
+    AddSlides(3);
+    RunThroughModule([&](Projector& Window) { Window.GotoEnd(); });
+    EXPECT_EQ(3, CurrentSlideSeq);
+    EXPECT_EQ(Show, CurrentSlideShowID);
+}
+
+}  // namespace
+}  // namespace neb::test
