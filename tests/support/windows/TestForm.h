@@ -1,10 +1,12 @@
-// A window whose handlers a test supplies, and the waiting that the tests of windows share.
+// A window and a worker whose handlers a test supplies, and the waiting that the tests of windows
+// share.
 #pragma once
 
 #include <QTest>
 #include <functional>
 
 #include "support/windows/Form.h"
+#include "support/windows/Progress.h"
 
 namespace neb::harness {
 
@@ -30,6 +32,26 @@ class TestForm : public Form {
     void CloseRequested() override {
         if (OnClose) OnClose();
         Unload();
+    }
+};
+
+class TestWorker : public ProgressParent {
+  public:
+    std::function<void()> OnActivity, OnOperation;
+    int Activities = 0, Operations = 0, Aborts = 0;
+    bool Aborted = false;
+
+    void DoActivity() override {
+        ++Activities;
+        if (OnActivity) OnActivity();
+    }
+    void StartOperation() override {
+        ++Operations;
+        if (OnOperation) OnOperation();
+    }
+    void DoAbort() override {
+        ++Aborts;
+        Aborted = true;
     }
 };
 

@@ -6,23 +6,12 @@
 
 #include "support/Fault.h"
 #include "support/Services.h"
-#include "support/windows/Progress.h"
 #include "support/windows/TestForm.h"
 
 using namespace neb;
 using namespace neb::harness;
 
 namespace {
-
-class SlideWork : public ProgressParent {
-  public:
-    std::function<void()> OnActivity;
-    int Activities = 0;
-    void DoActivity() override {
-        ++Activities;
-        if (OnActivity) OnActivity();
-    }
-};
 
 // A desktop that never reports the activation of a window that it does not show.
 class NeverActivated : public frmLoadSlide {
@@ -32,7 +21,7 @@ class NeverActivated : public frmLoadSlide {
 
 struct LoadSlideTest : ::testing::Test {
     NoFormsLeft Clean;
-    SlideWork Buffer;
+    TestWorker Buffer;
     std::shared_ptr<frmLoadSlide> Window = NewForm<frmLoadSlide>();
 };
 
