@@ -1,4 +1,4 @@
-// Works through a list on helper threads, a few items ahead of the caller, and hands the results
+// Works through a list on worker threads, a few items ahead of the caller, and hands the results
 // out in the order of the list. Used where pictures are read one after another: the import, the
 // printing of sheets. The caller keeps its window alive while it waits:
 //   while (!Queue.AtEnd()) { while (!Queue.Wait(50)) DoEvents(); Use(Queue.Take()); }
@@ -20,7 +20,7 @@ class AheadQueue {
   public:
     using WorkFunction = std::function<Result(const Item&)>;
 
-    // Work runs on helper threads and may outlive the queue by the item it is busy with: it must
+    // Work runs on worker threads and may outlive the queue by the item it is busy with: it must
     // own what it uses. Window: results that are begun and not yet taken, at most; 0 for what
     // keeps all processors busy.
     AheadQueue(std::vector<Item> Items, WorkFunction Work, int Window = 0)
@@ -66,7 +66,7 @@ class AheadQueue {
         std::optional<Result> Value;
         std::exception_ptr Error;
     };
-    // Lives as long as the queue or the last helper that still works for it.
+    // Lives as long as the queue or the last worker that still works for it.
     struct Shared {
         std::vector<Item> Items;
         WorkFunction Work;

@@ -1,6 +1,6 @@
 // A picture in memory: read from a file of any format that the program lists, fitted, turned,
 // written as JPEG. Used by every window that shows, keeps or prints pictures. Safe to use on
-// helper threads, one object a thread.
+// worker threads, one object a thread.
 #pragma once
 
 #include <QImage>
