@@ -36,6 +36,20 @@ QString SlideStem(std::int32_t SlideID) {
     return Format(SlideID, "00000000");
 }
 
+std::int32_t EnterPicture(clsDBEngine& theDB, clsNEBAlbum& Album, const QString& Caption,
+                          const std::function<QByteArray()>& Jpeg, const QImage& Thumbnail) {
+    std::int32_t SlideID = 0;
+    clsNEBSlide* Slide =
+        Album.SaveSlide2(SlideID, ConvertQuotes(Caption), {}, {}, false, false, theDB);
+    const QString Stem = SlideStem(SlideID);
+    const QString Folder = SlidesFolder(theDB, Album.AlbumID);
+    WriteFile(Folder + Stem + QStringLiteral(".jpg"), Jpeg());
+    Slide->SlideLoc = Stem + QStringLiteral(".JPG");
+    if (!Thumbnail.isNull())
+        WriteFile(Folder + Stem + QStringLiteral("Small.bmp"), ThumbnailBmp(Thumbnail));
+    return SlideID;
+}
+
 PictureImport::PictureImport(clsDBEngine& theDB, clsNEBAlbum& Album, QStringList Paths,
                              std::function<void()> Idle)
     : mDB(theDB),
@@ -70,15 +84,8 @@ PictureImport::Outcome PictureImport::EnterNext(const PictureToImport& Picture) 
         PassOver();
         return Outcome::Discarded;
     }
-    mSlideID = 0;
-    clsNEBSlide* Slide =
-        mAlbum.SaveSlide2(mSlideID, ConvertQuotes(Picture.Caption), {}, {}, false, false, mDB);
-    const QString Stem = SlideStem(mSlideID);
-    const QString Folder = SlidesFolder(mDB, mAlbum.AlbumID);
-    WriteFile(Folder + Stem + QStringLiteral(".jpg"), TakeJpeg(Picture.Path));
-    Slide->SlideLoc = Stem + QStringLiteral(".JPG");
-    if (!Picture.Thumbnail.isNull())
-        WriteFile(Folder + Stem + QStringLiteral("Small.bmp"), ThumbnailBmp(Picture.Thumbnail));
+    mSlideID = EnterPicture(
+        mDB, mAlbum, Picture.Caption, [&] { return TakeJpeg(Picture.Path); }, Picture.Thumbnail);
     return Outcome::Entered;
 }
 

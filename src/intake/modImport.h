@@ -28,6 +28,12 @@ void DropAlbum(clsDBEngine& theDB, std::int32_t AlbumID);
 // The stem of a slide's files: its number in eight digits.
 QString SlideStem(std::int32_t SlideID);
 
+// Enters a picture in an album: the slide, then its JPEG, then its thumbnail (a null one writes
+// none). Jpeg is asked for the stored bytes once the slide is there; when it throws, the slide
+// stands without a picture. Returns the slide's number. Throws Fault.
+std::int32_t EnterPicture(clsDBEngine& theDB, clsNEBAlbum& Album, const QString& Caption,
+                          const std::function<QByteArray()>& Jpeg, const QImage& Thumbnail);
+
 // A picture on its way into an album.
 struct PictureToImport {
     QString Path;

@@ -108,6 +108,7 @@ class InstanceLock {
     ~InstanceLock();
     InstanceLock(const InstanceLock&) = delete;
     InstanceLock& operator=(const InstanceLock&) = delete;
+    // False when another holds it. A place where no lock can be written locks nothing: true.
     bool TryLock();
 
   private:

@@ -214,7 +214,7 @@ struct InstanceLock::State {
 InstanceLock::InstanceLock(const QString& Path) : mState(std::make_unique<State>(Path)) {}
 InstanceLock::~InstanceLock() = default;
 bool InstanceLock::TryLock() {
-    return mState->File.tryLock(0);
+    return mState->File.tryLock(0) || mState->File.error() != QLockFile::LockFailedError;
 }
 
 }  // namespace neb

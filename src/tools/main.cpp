@@ -1,6 +1,8 @@
 // nebctl, the command-line companion: no display, the same engine as the program.
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <iostream>
+#include <memory>
+#include <string_view>
 
 #include "tools/modCommands.h"
 
@@ -20,10 +22,18 @@ bool ErrorsGoToATerminal() {
 #endif
 }
 
+// Reading pictures needs the toolkit's fonts and readers, but no display.
+std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char** argv) {
+    if (argc < 2 || std::string_view(argv[1]) != "import")
+        return std::make_unique<QCoreApplication>(argc, argv);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    return std::make_unique<QGuiApplication>(argc, argv);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
-    const QCoreApplication App(argc, argv);
+    const auto App = MakeApplication(argc, argv);
     std::ios::sync_with_stdio(false);
     neb::ToolIO IO{std::cout, std::cerr, ErrorsGoToATerminal()};
     return neb::RunTool(QCoreApplication::arguments().mid(1), IO);

@@ -5,6 +5,7 @@
 #include "support/modHostFiles.h"
 #include "tools/modCheck.h"
 #include "tools/modDump.h"
+#include "tools/modImportFolder.h"
 #include "tools/modRewrite.h"
 
 namespace neb {
@@ -27,9 +28,16 @@ constexpr Command Table[] = {
     {"rewrite", "DIR", "load a database and write it again",
      "Does what a start and an end of the program do: completes a write that did not come to\n"
      "its end, drops records without owner, writes all record files anew. A crash at any\n"
-     "moment leaves the old or the new records. Do not run it while the program is running.\n"
-     "A read-only database is left alone.\n",
+     "moment leaves the old or the new records. A database that is read-only or in use by the\n"
+     "program is left alone.\n",
      RunRewrite},
+    {"import", "DIR FOLDER --album NAME [--recurse] [--show NAME]",
+     "bring a folder of pictures into an album",
+     "Takes the pictures of FOLDER, with --recurse those of the folders below it as well, into\n"
+     "the album NAME of the database in DIR. An album or a database that is not there is made.\n"
+     "With --show a slide show of that name is made of the pictures, in their order. A file\n"
+     "that cannot be read is named and left out. When the work fails nothing is changed.\n",
+     RunImport},
 };
 
 constexpr const char* Outline =

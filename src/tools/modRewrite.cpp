@@ -1,7 +1,9 @@
 #include "tools/modRewrite.h"
 
 #include "db/clsDBEngine.h"
+#include "db/modDatabaseLock.h"
 #include "db/modJournal.h"
+#include "support/modHostFiles.h"
 #include "tools/modCommands.h"
 
 namespace neb {
@@ -23,6 +25,9 @@ int RunRewrite(const QStringList& Arguments, ToolIO& IO) {
         return Fail(IO, QStringLiteral("There is no database in %1.").arg(*Dir));
     if (!MayWriteDatabase(*Dir))
         return Fail(IO, QStringLiteral("The database in %1 is read-only.").arg(*Dir));
+    InstanceLock Lock(DatabaseLockPath(*Dir));
+    if (!Lock.TryLock())
+        return Fail(IO, QStringLiteral("The database in %1 is in use by the program.").arg(*Dir));
     ProgressLine Progress(IO, "Rewriting");
     Progress.Show(0, 2);
     clsDBEngine Engine;

@@ -1,6 +1,8 @@
 // The commands of nebctl, called as functions, and once as the real program.
 #include <gtest/gtest.h>
+#include <QBuffer>
 #include <QFile>
+#include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -389,6 +391,120 @@ TEST_F(NebctlTest, RunsAsAProgramWithoutADisplay) {
     EXPECT_TRUE(CheckIt.readAllStandardOutput().startsWith("the picture of slide 1"));
     EXPECT_EQ(Start({}, Wrong), 2);
     EXPECT_TRUE(Wrong.readAllStandardOutput().isEmpty());
+}
+
+// Pictures to import, next to a database directory.
+class NebctlImportTest : public ::testing::Test {
+  protected:
+    NebctlImportTest() {
+        MakeDirs(Pictures());
+        MakeDirs(Pictures() + u"below/"_s);
+        MakeDirs(Database());
+        for (const QString& Name : {u"a.png"_s, u"Käthe's.png"_s, u"below/c.png"_s})
+            WritePicture(Pictures() + Name);
+    }
+    QString Pictures() const { return Dir / u"pictures/"_s; }
+    QString Database() const { return Dir / u"database/"_s; }
+    static void WritePicture(const QString& Path) {
+        QImage Picture(1025, 800, QImage::Format_RGB32);
+        Picture.fill(Qt::darkGreen);
+        QByteArray Bytes;
+        QBuffer Buffer(&Bytes);
+        Buffer.open(QIODevice::WriteOnly);
+        Picture.save(&Buffer, "PNG");
+        WriteFile(Path, Bytes);
+    }
+    Outcome Import(const QStringList& More) {
+        return Tool(QStringList{u"import"_s, Database(), Pictures(), u"--album"_s, u"New"_s} +
+                    More);
+    }
+
+    TempFolder Dir;
+};
+
+TEST_F(NebctlImportTest, MakesTheAlbumAndTheShowInAnEmptyDirectory) {
+    const Outcome Made = Import({u"--recurse"_s, u"--show"_s, u"First"_s});
+    EXPECT_EQ(Made.Code, ExitDone) << Made.Err.toStdString();
+    EXPECT_EQ(Made.Out, u"3 pictures imported into the album \"New\".\n"_s);
+    const auto Engine = OpenEngine(Database());
+    ASSERT_EQ(Engine->Albums.size(), 1U);
+    const clsNEBAlbum& Album = *Engine->Albums[0];
+    ASSERT_EQ(Album.Slides.size(), 3U);
+    EXPECT_EQ(Album.Slides[1]->SlideText, u"K\u00e4the\u2019s"_s);
+    ASSERT_EQ(Album.SlideShows.size(), 1U);
+    EXPECT_EQ(Album.SlideShows[0]->Details.size(), 3U);
+    EXPECT_EQ(Album.SlideShows[0]->Details[2]->SlideSeq, 3);
+    const QString Stored = SlidesFolder(Database(), Album.AlbumID) + u"00000001.jpg"_s;
+    EXPECT_EQ(QImage::fromData(ReadFile(Stored)).size(), QSize(984, 768));
+    EXPECT_EQ(Tool({u"check"_s, Database()}).Code, ExitDone);
+}
+
+TEST_F(NebctlImportTest, WithoutRecurseTheFoldersBelowAreLeftAlone) {
+    EXPECT_EQ(Import({}).Out, u"2 pictures imported into the album \"New\".\n"_s);
+}
+
+TEST_F(NebctlImportTest, AddsToAnAlbumThatIsThere) {
+    Import({});
+    EXPECT_EQ(Import({}).Code, ExitDone);
+    const auto Engine = OpenEngine(Database());
+    ASSERT_EQ(Engine->Albums.size(), 1U);
+    EXPECT_EQ(Engine->Albums[0]->Slides.size(), 4U);
+}
+
+TEST_F(NebctlImportTest, APictureThatCannotBeReadIsNamedAndLeftOut) {
+    WriteFile(Pictures() + u"bad.jpg"_s, "this is no picture");
+    const Outcome Made = Import({});
+    EXPECT_EQ(Made.Code, ExitDone);
+    EXPECT_TRUE(Made.Err.contains(u"bad.jpg"_s));
+    EXPECT_TRUE(Made.Out.startsWith(u"2 pictures"_s));
+}
+
+TEST_F(NebctlImportTest, AFullDiskLeavesEverythingAsItWas) {
+    Import({});
+    const QStringList Before = Everything(Database());
+    qint64 Room = 4000;
+    SetHostWatcher([&Room](HostStep Step, const QString&, qint64& Length) {
+        if (Step != HostStep::Write) return;
+        Length = std::min(Length, Room);
+        Room -= Length;
+    });
+    const Outcome Failed = Import({u"--show"_s, u"First"_s});
+    SetHostWatcher({});
+    EXPECT_EQ(Failed.Code, ExitFailed);
+    EXPECT_TRUE(Failed.Err.contains(u"cannot be written"_s));
+    EXPECT_TRUE(Everything(Database()) == Before);
+}
+
+TEST_F(NebctlImportTest, ADatabaseInUseOrReadOnlyIsLeftAlone) {
+    Import({});
+    {
+        InstanceLock Program(Database() + u"InUse.lock"_s);
+        ASSERT_TRUE(Program.TryLock());
+        EXPECT_TRUE(Import({}).Err.contains(u"in use"_s));
+        EXPECT_TRUE(Tool({u"rewrite"_s, Database()}).Err.contains(u"in use"_s));
+    }
+    QFile::setPermissions(Database() + u"NextIDs.dat"_s, QFileDevice::ReadOwner);
+    EXPECT_TRUE(Import({}).Err.contains(u"read-only"_s));
+}
+
+TEST_F(NebctlImportTest, WrongWordsAreRefused) {
+    for (const QStringList& Words :
+         {QStringList{u"import"_s}, QStringList{u"import"_s, Database(), Pictures()},
+          QStringList{u"import"_s, Database(), Pictures(), u"--album"_s},
+          QStringList{u"import"_s, Database(), Dir / u"gone"_s, u"--album"_s, u"x"_s},
+          QStringList{u"import"_s, Database(), Pictures(), u"--album"_s, QString(81, u'x')}}) {
+        const Outcome Refused = Tool(Words);
+        EXPECT_EQ(Refused.Code, ExitFailed);
+        EXPECT_FALSE(Refused.Err.isEmpty());
+    }
+    EXPECT_TRUE(ListDir(Database()).empty());
+}
+
+TEST_F(NebctlImportTest, AShowOfThatNameIsNotMadeTwice) {
+    Import({u"--show"_s, u"First"_s});
+    const QStringList Before = Everything(Database());
+    EXPECT_EQ(Import({u"--show"_s, u"FIRST"_s}).Code, ExitFailed);
+    EXPECT_TRUE(Everything(Database()) == Before);
 }
 
 }  // namespace

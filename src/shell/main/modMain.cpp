@@ -1,9 +1,8 @@
 #include "shell/main/modMain.h"
 
-#include <QCryptographicHash>
-#include <QStandardPaths>
 #include <cstdio>
 
+#include "db/modDatabaseLock.h"
 #include "shell/main/CommandLine.h"
 #include "shell/main/DesktopServices.h"
 #include "shell/main/frmNEBSlideShow.h"
@@ -15,16 +14,6 @@
 
 namespace neb {
 namespace {
-
-// One instance for a documents folder: the lock lies where it goes with the session.
-QString LockPath() {
-    const QByteArray Key =
-        QCryptographicHash::hash(SettingsDir().toUtf8(), QCryptographicHash::Sha1).toHex();
-    QString Dir = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
-    if (Dir.isEmpty()) Dir = QStandardPaths::writableLocation(QStandardPaths::TempLocation);
-    return Dir + QStringLiteral("/neb-slide-show-") + QString::fromLatin1(Key.left(16)) +
-           QStringLiteral(".lock");
-}
 
 // Answers what needs no window; the exit code, or -1 to go on.
 int AnswerOnTerminal(const CommandLine& Line) {
@@ -63,7 +52,8 @@ int Main(int argc, char** argv) {
 
     if (!Line.Documents.isEmpty()) SetDocumentsPath(Line.Documents);
 
-    InstanceLock Lock(LockPath());
+    MakeDir(DBPath());
+    InstanceLock Lock(DatabaseLockPath(DBPath()));
     if (!Lock.TryLock()) {
         MsgBox(QStringLiteral("You can only run a single instance of NEB Slide Show at a time."),
                QStringLiteral("Operation Denied"), BoxIcon::Information);

@@ -1,0 +1,191 @@
+#include "tools/modImportFolder.h"
+
+#include "db/clsDBEngine.h"
+#include "db/modDatabaseLock.h"
+#include "db/modJournal.h"
+#include "intake/modImport.h"
+#include "intake/modPictureFiles.h"
+#include "platform/ImgX.h"
+#include "support/Fault.h"
+#include "support/Services.h"
+#include "support/modDEValidation.h"
+#include "support/modFUFL.h"
+#include "support/modHostFiles.h"
+#include "tools/modCommands.h"
+
+namespace neb {
+namespace {
+
+struct ImportOrder {
+    QString Dir;
+    QString Folder;
+    QString Album;
+    QString Show;  // empty: no show
+    bool Recurse = false;
+};
+
+// The refusals of the album store, as lines on the error output.
+class ErrorLines : public MessageBoxes {
+  public:
+    explicit ErrorLines(ToolIO& IO) : mIO(IO), mBefore(TheServices().Boxes) {
+        TheServices().Boxes = this;
+    }
+    ~ErrorLines() override { TheServices().Boxes = mBefore; }
+    BoxAnswer Show(const BoxRequest& Request) override {
+        Fail(mIO, Request.Text);
+        return Request.Buttons == BoxButtons::Ok ? BoxAnswer::Ok : BoxAnswer::No;
+    }
+
+  private:
+    ToolIO& mIO;
+    MessageBoxes* mBefore;
+};
+
+// A picture made ready on a worker; Problem says why there is none.
+struct Prepared {
+    QByteArray Jpeg;
+    QImage Thumbnail;
+    QString Problem;
+};
+
+Prepared Prepare(const QString& Path) {
+    try {
+        return {FittedJpeg(Path), MakeThumbnail(Path), {}};
+    } catch (const Fault& Problem) {
+        return {{}, {}, Problem.What()};
+    }
+}
+
+// The words of the command line; nothing after a line on Err when they do not make an order.
+std::optional<ImportOrder> ReadOrder(QStringList Arguments, ToolIO& IO) {
+    ImportOrder Order;
+    QStringList Places;
+    while (!Arguments.isEmpty()) {
+        const QString Word = Arguments.takeFirst();
+        QString* const Value = Word == u"--album"  ? &Order.Album
+                               : Word == u"--show" ? &Order.Show
+                                                   : nullptr;
+        if (Value)
+            *Value = Arguments.isEmpty() ? QString() : ConvertQuotes(Arguments.takeFirst());
+        else if (Word == u"--recurse")
+            Order.Recurse = true;
+        else
+            Places.append(Word);
+    }
+    if (Places.size() != 2 || Order.Album.isEmpty()) {
+        Fail(IO, QStringLiteral("A database directory, a folder and --album NAME are wanted; "
+                                "see nebctl import --help."));
+        return std::nullopt;
+    }
+    for (const QString& Place : Places)
+        if (!OneDirectory({Place}, IO)) return std::nullopt;
+    Order.Dir = WithSeparator(Places[0]);
+    Order.Folder = WithSeparator(Places[1]);
+    return Order;
+}
+
+// One import: what it has entered is taken back when it fails.
+class FolderImport {
+  public:
+    FolderImport(clsDBEngine& Engine, const ImportOrder& Order, ToolIO& IO)
+        : mEngine(Engine), mOrder(Order), mIO(IO) {}
+
+    int Run() {
+        const QStringList Paths = ScanDirectory(mOrder.Folder, mOrder.Recurse, [] { return true; });
+        if (Paths.isEmpty())
+            return Fail(mIO, QStringLiteral("There are no pictures in %1.").arg(mOrder.Folder));
+        if (!FindOrMakeAlbum()) return ExitFailed;
+        try {
+            EnterAll(Paths);
+            if (!mOrder.Show.isEmpty()) MakeShow();
+            mEngine.FinalizeDB();
+        } catch (const Fault&) {
+            TakeBack();
+            throw;
+        }
+        PrintLine(mIO.Out, QStringLiteral("%1 pictures imported into the album \"%2\".")
+                               .arg(mEntered.size())
+                               .arg(mOrder.Album));
+        return ExitDone;
+    }
+
+  private:
+    bool FindOrMakeAlbum() {
+        std::int32_t AlbumID = 0;
+        QString Name = mOrder.Album;
+        mIsNew = !mEngine.LoadAlbum(AlbumID, Name);
+        if (mIsNew && !mEngine.SaveAlbum(AlbumID, Name)) return false;
+        mAlbum = mEngine.GetAlbum(AlbumID);
+        if (ShowExists()) {
+            Fail(mIO,
+                 QStringLiteral("The album has a slide show \"%1\" already.").arg(mOrder.Show));
+            return false;
+        }
+        MakeAlbumFolders(mEngine, AlbumID);
+        return true;
+    }
+
+    bool ShowExists() const {
+        return std::any_of(
+            mAlbum->SlideShows.begin(), mAlbum->SlideShows.end(), [this](const auto& Each) {
+                return Each->SlideShowName.compare(mOrder.Show, Qt::CaseInsensitive) == 0;
+            });
+    }
+
+    void EnterAll(const QStringList& Paths) {
+        AheadQueue<QString, Prepared> Ahead({Paths.begin(), Paths.end()}, &Prepare);
+        ProgressLine Progress(mIO, "Importing");
+        for (qsizetype I = 0; I < Paths.size(); ++I) {
+            Progress.Show(static_cast<size_t>(I), static_cast<size_t>(Paths.size()));
+            const Prepared Picture = Ahead.Take();
+            if (!Picture.Problem.isEmpty())
+                Fail(mIO, QStringLiteral("left out: %1: %2").arg(Paths[I], Picture.Problem));
+            else
+                mEntered.push_back(EnterPicture(
+                    mEngine, *mAlbum, GetFileBaseName(Paths[I]),
+                    [&Picture] { return Picture.Jpeg; }, Picture.Thumbnail));
+        }
+    }
+
+    void MakeShow() {
+        std::int32_t SlideShowID = 0;
+        mAlbum->SaveSlideShow(SlideShowID, mOrder.Show, 0, mEngine);
+        clsNEBSlideShow* SlideShow = mAlbum->GetSlideShow(SlideShowID);
+        std::int32_t SlideSeq = 0;
+        for (const std::int32_t SlideID : mEntered) SlideShow->SaveDetail(SlideID, ++SlideSeq, {});
+    }
+
+    void TakeBack() {
+        if (mIsNew) return DropAlbum(mEngine, mAlbum->AlbumID);
+        for (std::int32_t SlideID = mFirstSlideID; SlideID < mEngine.NextSlideID; ++SlideID)
+            mAlbum->DeleteSlide(SlideID, mEngine);
+    }
+
+    clsDBEngine& mEngine;
+    const ImportOrder& mOrder;
+    ToolIO& mIO;
+    clsNEBAlbum* mAlbum = nullptr;
+    bool mIsNew = false;
+    std::int32_t mFirstSlideID = mEngine.NextSlideID;
+    std::vector<std::int32_t> mEntered;
+};
+
+}  // namespace
+
+int RunImport(const QStringList& Arguments, ToolIO& IO) {
+    const std::optional<ImportOrder> Order = ReadOrder(Arguments, IO);
+    if (!Order) return ExitFailed;
+    if (!MayWriteDatabase(Order->Dir))
+        return Fail(IO, QStringLiteral("The database in %1 is read-only.").arg(Order->Dir));
+    InstanceLock Lock(DatabaseLockPath(Order->Dir));
+    if (!Lock.TryLock())
+        return Fail(IO,
+                    QStringLiteral("The database in %1 is in use by the program.").arg(Order->Dir));
+    const ErrorLines Boxes(IO);
+    clsDBEngine Engine;
+    Engine.SetDBPath(Order->Dir);
+    Engine.InitializeDB();
+    return FolderImport(Engine, *Order, IO).Run();
+}
+
+}  // namespace neb
