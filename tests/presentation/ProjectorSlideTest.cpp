@@ -286,6 +286,14 @@ TEST_F(ProjectorFailure, NamesTheFirstSlideWhoseRecordIsMissing) {
     Run([&](Projector& Window) { EXPECT_EQ("Play/Resume", Words(Window)); });
 }
 
+TEST_F(ProjectorFailure, KnowsNoSlideOfAnEarlierRunWhenTheFirstOneFails) {
+    AddSlides(1);
+    Run([&](Projector&) { EXPECT_EQ(1, CurrentSlideSeq); });
+    Detail(1).SlideID = 77;
+    Boxes.Expect(QStringLiteral("Slide #1 of the current slide show does not exist!"));
+    Run([&](Projector&) { EXPECT_EQ(0, CurrentSlideSeq); });
+}
+
 TEST_F(ProjectorFailure, NamesAnyOtherSlideWhoseRecordIsMissing) {
     AddSlides(3);
     Detail(3).SlideID = 77;
