@@ -70,9 +70,9 @@ Record DecodeFirst(const RecordBytes& File) {
 // Calls Visit(Record&&) for each record, deleted ones too, in file order. Many records are read
 // at a time, into the same room, which stays in the processor's cache.
 template <class Record, class Visitor>
-void ForEachRecordAtAll(RecordBytes File, Visitor Visit) {
+void ForEachRecordAtAll(const RecordBytes& File, Visitor Visit) {
     constexpr qint64 Width = WidthOf<Record>;
-    constexpr qint64 Room = 256 * 1024 / Width * Width;
+    constexpr qint64 Room = qint64{256} * 1024 / Width * Width;
     QByteArray Buffer(std::min(Room, File.Length + Width), Qt::Uninitialized);
     qint64 Whole = 0, Rest = 0;
     do {
@@ -88,8 +88,8 @@ void ForEachRecordAtAll(RecordBytes File, Visitor Visit) {
 
 // The same without those marked as deleted.
 template <class Record, class Visitor>
-void ForEachRecord(RecordBytes File, Visitor Visit) {
-    ForEachRecordAtAll<Record>(std::move(File), [&](Record&& Row) {
+void ForEachRecord(const RecordBytes& File, Visitor Visit) {
+    ForEachRecordAtAll<Record>(File, [&](Record&& Row) {
         if (Row.Deleted == 0) Visit(std::move(Row));
     });
 }

@@ -4,7 +4,7 @@
 
 namespace neb {
 
-RecordBytes::RecordBytes(QByteArray Bytes)
+RecordBytes::RecordBytes(const QByteArray& Bytes)
     : Length(Bytes.size()), Read([Bytes, Place = qint64{0}](char* Into, qint64 MaxLength) mutable {
           const qint64 Count = std::min(MaxLength, Bytes.size() - Place);
           std::memcpy(Into, Bytes.constData() + Place, static_cast<size_t>(Count));
@@ -12,7 +12,7 @@ RecordBytes::RecordBytes(QByteArray Bytes)
           return Count;
       }) {}
 
-RecordBytes::RecordBytes(std::shared_ptr<HostReader> File)
+RecordBytes::RecordBytes(const std::shared_ptr<HostReader>& File)
     : Length(File->Length()),
       Read([File](char* Into, qint64 MaxLength) { return File->Read(Into, MaxLength); }) {}
 

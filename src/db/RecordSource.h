@@ -14,8 +14,8 @@ namespace neb {
 
 // The bytes of a record file, handed out piece by piece.
 struct RecordBytes {
-    RecordBytes(QByteArray Bytes);  // held in memory
-    explicit RecordBytes(std::shared_ptr<HostReader> File);
+    RecordBytes(const QByteArray& Bytes);  // held in memory
+    explicit RecordBytes(const std::shared_ptr<HostReader>& File);
 
     qint64 Length;
     // Bytes read into Into: fewer than MaxLength at the end alone, then 0.

@@ -25,6 +25,12 @@ QString TempFolder(const QString& DBPath) {
     return DBPath + QStringLiteral("Temp/");
 }
 
+// A folder of its own: the end of the program empties Temp of its files before it writes, which
+// must not take a journal along that an earlier try could not carry out.
+QString JournalFolder(const QString& DBPath) {
+    return TempFolder(DBPath) + QStringLiteral("Journal/");
+}
+
 // A journal comes into being under another name, so that one that is whole already, left by a
 // write that failed later, is not lost while the next one is being written.
 QString UnfinishedPath(const QString& DBPath) {
@@ -68,9 +74,10 @@ void WriteUnfinishedJournal(const QString& Path, const RecordImage& Image) {
 }
 
 void WriteJournal(const QString& DBPath, const RecordImage& Image) {
-    const QString Folder = TempFolder(DBPath);
+    const QString Folder = JournalFolder(DBPath);
     if (!FolderExists(Folder)) {
         MakeDirs(Folder);
+        SyncDir(TempFolder(DBPath));
         SyncDir(DBPath);
     }
     try {
@@ -104,7 +111,7 @@ void CarryOut(const QString& DBPath, const RecordImage& Image) {
     WriteFiles(DBPath, Image, FilesWrittenTogether);
     SyncDir(DBPath);
     DeleteFile(JournalPath(DBPath));
-    SyncDir(TempFolder(DBPath));
+    SyncDir(JournalFolder(DBPath));
 }
 
 qint64 CountAt(const QByteArray& Journal, size_t Index) {
@@ -142,7 +149,7 @@ RecordSource RecordsInImage(RecordImage Image) {
 }
 
 QString JournalPath(const QString& DBPath) {
-    return TempFolder(DBPath) + QStringLiteral("Records.journal");
+    return JournalFolder(DBPath) + QStringLiteral("Records.journal");
 }
 
 JournalState ReadJournal(const QString& DBPath, RecordImage* Image) {

@@ -1,5 +1,5 @@
 // Writing all record files so that a crash at any moment leaves either the old database or the
-// new one. The complete new content goes into a checked journal in Temp first; the files are
+// new one. The complete new content goes into a checked journal below Temp first; the files are
 // then written from it, and a start that finds a whole journal does that again. Used by the
 // engine and the command-line companion.
 #pragma once

@@ -47,7 +47,7 @@ struct Scene {
     void Prepare(const QString& Dir) const {
         if (!HasOld) return;
         for (const auto& [Name, Bytes] : Old) WriteFile(Dir + QString::fromStdString(Name), Bytes);
-        MakeDirs(Dir + u"Temp"_s);
+        MakeDirs(Dir + u"Temp/Journal"_s);
     }
     std::unique_ptr<clsDBEngine> Changed(const QString& Dir) const {
         auto Engine = OpenEngine(Dir);
@@ -251,7 +251,7 @@ TEST(Crash, AJournalThatFindsNoRoomLeavesNoTrace) {
         EXPECT_THROW(Engine->FinalizeDB(), Fault);
     }
     EXPECT_EQ(AllRecords(Dir.Path()), Before);
-    EXPECT_TRUE(ListDir(Dir / "Temp").empty());
+    EXPECT_TRUE(ListDir(Dir / "Temp/Journal").empty());
     Engine->FinalizeDB();  // with room again, the program saves what it had
     EXPECT_EQ(ContentOf(*OpenEngine(Dir.Path())), TheScene.New);
 }
@@ -319,10 +319,20 @@ TEST(Journal, AReadOnlyDatabaseIsReadFromItAndStaysAsItIs) {
     EXPECT_EQ(ReadJournal(Dir.Path()), JournalState::Whole);
 }
 
-TEST(Journal, IsGoneAfterACleanWriteAndLeavesTempEmpty) {
+TEST(Journal, SurvivesTheEmptyingOfTempAtTheEndOfTheProgram) {
+    const Scene TheScene(true);
+    TempFolder Dir;
+    BreakWrite(TheScene, Dir.Path());
+    WriteFile(Dir / "Temp/tmp.wav", "x");
+    DeleteMask(Dir / "Temp/*.*");
+    EXPECT_FALSE(FileExists(Dir / "Temp/tmp.wav"));
+    EXPECT_EQ(ContentOf(*OpenEngine(Dir.Path())), TheScene.New);
+}
+
+TEST(Journal, IsGoneAfterACleanWrite) {
     TempFolder Dir;
     OpenEngine(Dir.Path())->FinalizeDB();
-    EXPECT_TRUE(ListDir(Dir / "Temp").empty());
+    EXPECT_TRUE(ListDir(Dir / "Temp/Journal").empty());
 }
 
 TEST(Journal, TheRecordFilesAreTouchedInTheirOrderAfterItIsOnTheDisk) {
@@ -338,8 +348,9 @@ TEST(Journal, TheRecordFilesAreTouchedInTheirOrderAfterItIsOnTheDisk) {
     });
     Engine->FinalizeDB();
     SetHostWatcher({});
-    QStringList Expected = {"write Temp/Records.journal.new", "sync Temp/Records.journal.new",
-                            "rename Temp/Records.journal", "syncdir Temp/"};
+    QStringList Expected = {"write Temp/Journal/Records.journal.new",
+                            "sync Temp/Journal/Records.journal.new",
+                            "rename Temp/Journal/Records.journal", "syncdir Temp/Journal/"};
     for (const char* Name : {"Properties", "EffectStats", "NextIDs"})
         for (const char* Step : {"delete ", "write ", "sync "})
             Expected << QLatin1String(Step) + QLatin1String(Name) + u".dat"_s;
@@ -347,7 +358,8 @@ TEST(Journal, TheRecordFilesAreTouchedInTheirOrderAfterItIsOnTheDisk) {
         for (const char* Name :
              {"Albums", "Slides", "SlideShows", "SlideShowDetails", "SlideShowSoundTracks"})
             Expected << QLatin1String(Step) + QLatin1String(Name) + u".dat"_s;
-    Expected << u"syncdir "_s << u"delete Temp/Records.journal"_s << u"syncdir Temp/"_s;
+    Expected << u"syncdir "_s << u"delete Temp/Journal/Records.journal"_s
+             << u"syncdir Temp/Journal/"_s;
     // Each file's write may come with its flush, so the writes are looked at by themselves.
     const auto Only = [](const QStringList& All, const char* Step) {
         return All.filter(QRegularExpression(u'^' + QLatin1String(Step) + u' '));
