@@ -43,6 +43,13 @@ int RunMainWindow(const CommandLine& Line) {
 
 }  // namespace
 
+bool BecomeTheInstance(InstanceLock& Lock) {
+    if (Lock.TryLock()) return true;
+    MsgBox(QStringLiteral("You can only run a single instance of NEB Slide Show at a time."),
+           QStringLiteral("Operation Denied"), BoxIcon::Information);
+    return false;
+}
+
 int Main(int argc, char** argv) {
     NebApplication App(argc, argv);
     const DesktopServices Services;
@@ -54,11 +61,7 @@ int Main(int argc, char** argv) {
 
     MakeDir(DBPath());
     InstanceLock Lock(DatabaseLockPath(DBPath()));
-    if (!Lock.TryLock()) {
-        MsgBox(QStringLiteral("You can only run a single instance of NEB Slide Show at a time."),
-               QStringLiteral("Operation Denied"), BoxIcon::Information);
-        return 0;
-    }
+    if (!BecomeTheInstance(Lock)) return 0;
     return RunMainWindow(Line);
 }
 

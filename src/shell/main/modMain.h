@@ -4,6 +4,11 @@
 
 namespace neb {
 
+class InstanceLock;
+
+// Takes the lock of the one running instance; false after a box when another one runs.
+bool BecomeTheInstance(InstanceLock& Lock);
+
 // The exit code of the program.
 int Main(int argc, char** argv);
 

@@ -1,0 +1,76 @@
+// Everything that a user can press, type into or choose from has a name for screen readers and a
+// tool tip, and can be reached by the keyboard.
+#include <gtest/gtest.h>
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAbstractSpinBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QTextEdit>
+
+#include "harness/TempFolder.h"
+#include "intake/frmDirSelect.h"
+#include "intake/frmImportFilter.h"
+#include "intake/frmPicturePopup.h"
+#include "intake/frmQuickShow.h"
+#include "shell/main/frmAbout.h"
+#include "shell/main/frmHelp.h"
+#include "shell/modNEBSlideShow.h"
+#include "support/windows/frmLoading.h"
+#include "support/windows/frmMsgBoxEx.h"
+
+namespace neb {
+namespace {
+
+bool IsControl(const QWidget& Widget) {
+    return qobject_cast<const QAbstractButton*>(&Widget) ||
+           qobject_cast<const QLineEdit*>(&Widget) || qobject_cast<const QComboBox*>(&Widget) ||
+           qobject_cast<const QAbstractItemView*>(&Widget);
+}
+
+// Pieces that the toolkit puts inside its own controls, such as the corner of a grid.
+bool IsToolkitPart(const QWidget& Widget) {
+    return Widget.objectName().startsWith(u"qt_") ||
+           qobject_cast<const QComboBox*>(Widget.parentWidget()) ||
+           qobject_cast<const QAbstractItemView*>(Widget.parentWidget()) ||
+           QByteArray(Widget.metaObject()->className()).contains("HeaderView") ||
+           Widget.parentWidget()->objectName() == u"qt_scrollarea_viewport" ||
+           QByteArray(Widget.metaObject()->className()).contains("Private");
+}
+
+void CheckControls(const QWidget& Window, const char* Name) {
+    for (const QWidget* Each : Window.findChildren<QWidget*>()) {
+        if (!IsControl(*Each) || IsToolkitPart(*Each)) continue;
+        const auto* Button = qobject_cast<const QAbstractButton*>(Each);
+        const bool Named =
+            !Each->accessibleName().isEmpty() || (Button && !Button->text().isEmpty());
+        const std::string Where = std::string(Name) + '.' + Each->objectName().toStdString() +
+                                  " (" + Each->metaObject()->className() + ')';
+        EXPECT_TRUE(Named) << Where;
+        EXPECT_FALSE(Button && Each->toolTip().isEmpty()) << Where;
+        EXPECT_TRUE(Each->focusPolicy() & Qt::TabFocus) << Where;
+    }
+}
+
+template <class Window>
+class EachWindow : public ::testing::Test {
+  protected:
+    EachWindow() {
+        SetDocumentsPath(mDocuments.Path());
+        AppPathCache = mDocuments.Path();
+    }
+    ~EachWindow() override { AppPathCache.clear(); }
+    harness::TempFolder mDocuments;
+};
+
+using Windows = ::testing::Types<frmAbout, frmDirSelect, frmHelp, frmImportFilter, frmLoading,
+                                 frmMsgBoxEx, frmPicturePopup, frmQuickShow>;
+TYPED_TEST_SUITE(EachWindow, Windows);
+
+TYPED_TEST(EachWindow, HasNamesToolTipsAndReachableControls) {
+    const auto Window = NewForm<TypeParam>();
+    CheckControls(*Window, Window->metaObject()->className());
+}
+
+}  // namespace
+}  // namespace neb
