@@ -27,6 +27,18 @@ void MakeAlbumFolders(const clsDBEngine& theDB, std::int32_t AlbumID) {
     MakeDirs(SlidesFolder(theDB, AlbumID));
 }
 
+bool NewAlbum(clsDBEngine& theDB, std::int32_t& AlbumID, const QString& AlbumName) {
+    AlbumID = 0;
+    if (!theDB.SaveAlbum(AlbumID, AlbumName)) return false;
+    try {
+        MakeAlbumFolders(theDB, AlbumID);
+    } catch (const Fault&) {
+        DropAlbum(theDB, std::exchange(AlbumID, 0));
+        throw;
+    }
+    return true;
+}
+
 void DropAlbum(clsDBEngine& theDB, std::int32_t AlbumID) {
     DeleteTree(AlbumFolder(theDB, AlbumID));
     theDB.DeleteAlbum(AlbumID);
@@ -34,6 +46,23 @@ void DropAlbum(clsDBEngine& theDB, std::int32_t AlbumID) {
 
 QString SlideStem(std::int32_t SlideID) {
     return Format(SlideID, "00000000");
+}
+
+void StoreFile(const QString& Path, const QByteArray& Bytes) {
+    try {
+        WriteFile(Path, Bytes);
+    } catch (const Fault&) {
+        DropFile(Path);
+        throw;
+    }
+}
+
+void DropFile(const QString& Path) {
+    try {
+        DeleteFile(Path);
+    } catch (const Fault&) {
+        // it stays where it is and does no harm
+    }
 }
 
 PictureImport::PictureImport(clsDBEngine& theDB, clsNEBAlbum& Album, QStringList Paths,
@@ -75,10 +104,10 @@ PictureImport::Outcome PictureImport::EnterNext(const PictureToImport& Picture) 
         mAlbum.SaveSlide2(mSlideID, ConvertQuotes(Picture.Caption), {}, {}, false, false, mDB);
     const QString Stem = SlideStem(mSlideID);
     const QString Folder = SlidesFolder(mDB, mAlbum.AlbumID);
-    WriteFile(Folder + Stem + QStringLiteral(".jpg"), TakeJpeg(Picture.Path));
+    StoreFile(Folder + Stem + QStringLiteral(".jpg"), TakeJpeg(Picture.Path));
     Slide->SlideLoc = Stem + QStringLiteral(".JPG");
     if (!Picture.Thumbnail.isNull())
-        WriteFile(Folder + Stem + QStringLiteral("Small.bmp"), ThumbnailBmp(Picture.Thumbnail));
+        StoreFile(Folder + Stem + QStringLiteral("Small.bmp"), ThumbnailBmp(Picture.Thumbnail));
     return Outcome::Entered;
 }
 

@@ -22,11 +22,19 @@ QString SlidesFolder(const clsDBEngine& theDB, std::int32_t AlbumID);
 QString SoundTracksFolder(const clsDBEngine& theDB, std::int32_t AlbumID);
 // Makes the three; throws Fault.
 void MakeAlbumFolders(const clsDBEngine& theDB, std::int32_t AlbumID);
+// Makes an album with its folders; AlbumID is the new one. False after the engine's box. Throws
+// Fault when a folder cannot be made: the album is then gone again, and AlbumID is 0.
+bool NewAlbum(clsDBEngine& theDB, std::int32_t& AlbumID, const QString& AlbumName);
 // Takes an album with all that it holds out of the engine and off the disk.
 void DropAlbum(clsDBEngine& theDB, std::int32_t AlbumID);
 
 // The stem of a slide's files: its number in eight digits.
 QString SlideStem(std::int32_t SlideID);
+
+// Writes a picture's file as a whole: where that cannot be done (Fault) no part of it stays.
+void StoreFile(const QString& Path, const QByteArray& Bytes);
+// Deletes a file; errors are ignored.
+void DropFile(const QString& Path);
 
 // A picture on its way into an album.
 struct PictureToImport {
