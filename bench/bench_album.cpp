@@ -9,6 +9,7 @@
 #include <cstdio>
 
 #include "db/clsDBEngine.h"
+#include "db/modAlbumFiles.h"
 #include "intake/clsImageBuffer.h"
 #include "intake/modImport.h"
 #include "platform/FlexGrid.h"
@@ -33,7 +34,7 @@ double Seconds() {
 }
 
 QString ThumbnailPath(const clsDBEngine& Engine, std::int32_t SlideID) {
-    return SlidesFolder(Engine, 1) + SlideStem(SlideID) + QStringLiteral("Small.bmp");
+    return SlidesFolder(Engine.DBPath(), 1) + FileStem(SlideID) + QStringLiteral("Small.bmp");
 }
 
 void MakeAlbum(clsDBEngine& Engine) {
@@ -45,9 +46,11 @@ void MakeAlbum(clsDBEngine& Engine) {
         std::int32_t SlideID = 0;
         clsNEBSlide* Slide = Engine.GetAlbum(AlbumID)->SaveSlide2(
             SlideID, QStringLiteral("Holiday picture %1").arg(I), {}, {}, false, false, Engine);
-        Slide->SlideLoc = SlideStem(SlideID) + QStringLiteral(".JPG");
+        Slide->SlideLoc = FileStem(SlideID) + QStringLiteral(".JPG");
         Thumbnail.fill(0xFF000000U | static_cast<unsigned>(I * 7919));
-        WriteFile(SlidesFolder(Engine, AlbumID) + SlideStem(SlideID) + QStringLiteral(".jpg"), "x");
+        WriteFile(
+            SlidesFolder(Engine.DBPath(), AlbumID) + FileStem(SlideID) + QStringLiteral(".jpg"),
+            "x");
         WriteFile(ThumbnailPath(Engine, SlideID), ThumbnailBmp(Thumbnail));
     }
 }

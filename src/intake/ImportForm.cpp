@@ -52,6 +52,9 @@ void CopyRow(const FlexGrid& From, int FromRow, FlexGrid& To) {
     for (int Col = 0; Col < ImportForm::ColCount; ++Col) To.CopyCell(From, FromRow, Col, Row, Col);
 }
 
+// Ends an import whose window has been closed.
+struct WindowGone {};
+
 // What the bar's tool tip says after item I of Count, I from 1: the item's index from 0 plus one
 // item's share of a hundred, as the program has always counted it here.
 QString ImportProgressText(int I, int Count) {
@@ -124,6 +127,7 @@ void ImportForm::SetUpToolBar() {
 }
 
 void ImportForm::ToolClicked(const QString& Name) {
+    const auto Held = shared_from_this();
     if (Name == u"mnuImportDirectory") ImportAnotherDirectory();
     if (Name == u"mnuExit") Unload();
 }
@@ -153,6 +157,7 @@ void ImportForm::MoveRows(FlexGrid& From, FlexGrid& To, bool All) {
 }
 
 void ImportForm::ShowPreview(const FlexGrid& Grid, int Row) {
+    const auto Held = shared_from_this();
     QString Path = Grid.TextMatrix(Row, ColPath);
     try {
         const auto Preview = NewForm<frmPicturePopup>();
@@ -174,7 +179,7 @@ bool ImportForm::Form_Unload() {
     mAborted = true;
     if (mProgressForm) std::exchange(mProgressForm, nullptr)->Unload();
     ReleaseLoading();
-    SaveWindow(*this, mMemory);
+    if (!mInForm_Load) SaveWindow(*this, mMemory);  // else it has had no place yet
     return true;
 }
 
@@ -185,10 +190,16 @@ bool ImportForm::HasSelection() const {
 }
 
 void ImportForm::RunImport() {
+    const auto Held = shared_from_this();
     ReleaseLoading();
     mProgressForm = NewForm<frmProgress>();
     const auto Shown = mProgressForm;
-    Shown->ShowProgressMeter(*this);
+    try {
+        Shown->ShowProgressMeter(*this);
+    } catch (...) {
+        EndOperation();
+        throw;
+    }
 }
 
 void ImportForm::EndOperation() {
@@ -196,18 +207,33 @@ void ImportForm::EndOperation() {
     if (mProgressForm) std::exchange(mProgressForm, nullptr)->Unload();
 }
 
-void ImportForm::ImportRows(clsNEBAlbum& Album, const RowDone& Done) {
+bool ImportForm::ImportRows(clsNEBAlbum& Album, const RowDone& Done) {
+    const auto Progress = mProgressForm;
+    Progress->setWindowTitle(QStringLiteral("Importing Slides ..."));
+    Progress->pgbLoadingProgress()->setMaximum(mUi->flxSelected->Rows());
+    Progress->pgbLoadingProgress()->setValue(0);
+    Progress->Refresh();
+    const auto Yield = [this] {
+        DoEvents();
+        if (mAborted) throw WindowGone();
+    };
+    try {
+        Yield();
+        EnterRows(Album, Done, Yield);
+    } catch (const WindowGone&) {
+        return false;
+    }
+    return true;
+}
+
+void ImportForm::EnterRows(clsNEBAlbum& Album, const RowDone& Done,
+                           const std::function<void()>& Yield) {
     const FlexGrid& Grid = *mUi->flxSelected;
     const int Count = Grid.Rows();
     const auto Progress = mProgressForm;
-    Progress->setWindowTitle(QStringLiteral("Importing Slides ..."));
-    Progress->pgbLoadingProgress()->setMaximum(Count);
-    Progress->pgbLoadingProgress()->setValue(0);
-    Progress->Refresh();
-    DoEvents();
     QStringList Paths;
     for (int Row = 0; Row < Count; ++Row) Paths.append(Grid.TextMatrix(Row, ColPath));
-    PictureImport Run(*DBEngine, Album, Paths, &DoEvents);
+    PictureImport Run(*DBEngine, Album, Paths, Yield);
     for (int Row = 0; Row < Count; ++Row) {
         const auto Outcome = Run.EnterNext(
             {Paths[Row], Grid.TextMatrix(Row, ColCaption), Grid.CellPicture(Row, ColPicture)});
@@ -215,7 +241,7 @@ void ImportForm::ImportRows(clsNEBAlbum& Album, const RowDone& Done) {
         Progress->pgbLoadingProgress()->setValue(Row + 1);
         Progress->pgbLoadingProgress()->setToolTip(ImportProgressText(Row + 1, Count));
         Progress->Refresh();
-        DoEvents();
+        Yield();
     }
 }
 

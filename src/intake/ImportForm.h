@@ -61,8 +61,9 @@ class ImportForm : public Form, public ProgressParent {
     // What a row of the selection turned into; Row counts from 0.
     using RowDone =
         std::function<void(int Row, PictureImport::Outcome Outcome, std::int32_t SlideID)>;
-    // Enters every selected picture in the album, with the bar under way.
-    void ImportRows(clsNEBAlbum& Album, const RowDone& Done);
+    // Enters every selected picture in the album, with the bar under way. False when the window
+    // was closed meanwhile: the album may then be gone.
+    bool ImportRows(clsNEBAlbum& Album, const RowDone& Done);
     // Puts the pointer back and takes the progress window away.
     void EndOperation();
 
@@ -77,12 +78,14 @@ class ImportForm : public Form, public ProgressParent {
     void UpdateButtons();
     void MoveRows(FlexGrid& From, FlexGrid& To, bool All);
     void ShowPreview(const FlexGrid& Grid, int Row);
+    void EnterRows(clsNEBAlbum& Album, const RowDone& Done, const std::function<void()>& Yield);
 
     void ImportAnotherDirectory();
     bool AskDiscardRemaining();
+    bool IsFree() const;
     void ReadUnderLoading();
     void ReadDirectory();
-    QStringList CollectFiles();
+    QStringList CollectFiles(const QStringList& Dropped);
     void ReadDropped(const QStringList& Paths);
     void LoadPictures(const QStringList& Files);
     bool LoadPicture(AheadQueue<QString, std::optional<QImage>>& Ahead, const QString& Path);

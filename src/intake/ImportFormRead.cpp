@@ -1,4 +1,5 @@
 // How the import windows read directories: chosen, set by the caller or dropped.
+#include <QApplication>
 #include <QDragEnterEvent>
 #include <QMimeData>
 #include <QProgressBar>
@@ -29,6 +30,17 @@ std::optional<QImage> ThumbnailOf(const QString& Path) {
 
 QString PercentComplete(double Part, double Whole) {
     return Format(Part / Whole * 100, "##0") + QStringLiteral("% Complete");
+}
+
+// The folder of the program's own albums is no source of pictures; says so and is true.
+bool IsReserved(const QString& Path) {
+    if (!Path.startsWith(AppPath() + QStringLiteral("Albums/"))) return false;
+    MsgBox(QStringLiteral("This directory is reserved for Albums.  You cannot import from it."));
+    return true;
+}
+
+QString AsDropped(const QString& Path) {
+    return FolderExists(Path) ? WithSeparator(Path) : Path;
 }
 
 void StartBar(frmLoading& Loading, const QString& Title, int Max) {
@@ -79,12 +91,13 @@ bool ImportForm::Stopped() {
 }
 
 void ImportForm::ReadDirectory() {
-    if (mImportDir.isEmpty() && mDropped.isEmpty()) return;
+    const QStringList Dropped = std::exchange(mDropped, {});
+    if (mImportDir.isEmpty() && Dropped.isEmpty()) return;
     mLoadingForm->SupportsAbort(true);
     mLoadingForm->setWindowTitle(QStringLiteral("Reading Slides ..."));
     DoEvents();
     if (Stopped()) return;
-    const QStringList Files = CollectFiles();
+    const QStringList Files = CollectFiles(Dropped);
     if (Files.isEmpty()) {
         mInForm_Load = false;
         return;
@@ -92,14 +105,14 @@ void ImportForm::ReadDirectory() {
     LoadPictures(Files);
 }
 
-QStringList ImportForm::CollectFiles() {
+QStringList ImportForm::CollectFiles(const QStringList& Dropped) {
     const WalkPoll Poll = [this] {
         DoEvents();
         return !mAbort && !mAborted;
     };
-    if (mDropped.isEmpty()) return ScanDirectory(WithSeparator(mImportDir), mRecurseDir, Poll);
+    if (Dropped.isEmpty()) return ScanDirectory(WithSeparator(mImportDir), mRecurseDir, Poll);
     QStringList Files;
-    for (const QString& Path : std::exchange(mDropped, {}))
+    for (const QString& Path : Dropped)
         if (FolderExists(Path))
             Files += ScanDirectory(WithSeparator(Path), mRecurseDir, Poll);
         else if (IsPictureName(Path))
@@ -172,13 +185,9 @@ void ImportForm::ImportAnotherDirectory() {
     UpdateButtons();
     const auto Selector = NewForm<frmDirSelect>();
     QString Chosen = Selector->SelectDirectory();
-    if (Chosen.isEmpty()) return;
+    if (Chosen.isEmpty() || !IsLoaded()) return;
     Chosen = WithSeparator(Chosen);
-    if (Chosen.startsWith(AppPath() + QStringLiteral("Albums/"))) {
-        MsgBox(
-            QStringLiteral("This directory is reserved for Albums.  You cannot import from it."));
-        return;
-    }
+    if (IsReserved(Chosen)) return;
     mRecurseDir = Selector->RecurseDir();
     mImportDir = Chosen;
     DirectoryChosen(Chosen);
@@ -186,15 +195,21 @@ void ImportForm::ImportAnotherDirectory() {
     UpdateButtons();
 }
 
+// Whether no work is under way and no other window holds the user's attention.
+bool ImportForm::IsFree() const {
+    const QWidget* Modal = QApplication::activeModalWidget();
+    return IsLoaded() && !mBusy && (!Modal || Modal == this);
+}
+
 void ImportForm::dragEnterEvent(QDragEnterEvent* Event) {
-    if (Event->mimeData()->hasUrls()) Event->acceptProposedAction();
+    if (IsFree() && Event->mimeData()->hasUrls()) Event->acceptProposedAction();
 }
 
 void ImportForm::dropEvent(QDropEvent* Event) {
     QStringList Paths;
     for (const QUrl& Url : Event->mimeData()->urls())
-        if (Url.isLocalFile()) Paths.append(Url.toLocalFile());
-    if (Paths.isEmpty()) return;
+        if (Url.isLocalFile()) Paths.append(AsDropped(Url.toLocalFile()));
+    if (Paths.isEmpty() || !IsFree()) return;
     Event->acceptProposedAction();
     // the question waits until the drag is over, so that the source is not held up
     QMetaObject::invokeMethod(
@@ -202,10 +217,11 @@ void ImportForm::dropEvent(QDropEvent* Event) {
 }
 
 void ImportForm::ReadDropped(const QStringList& Paths) {
-    if (mBusy || !IsLoaded()) return;
+    if (!IsFree() || std::any_of(Paths.begin(), Paths.end(), &IsReserved)) return;
+    const auto Held = shared_from_this();
     if (AskDiscardRemaining()) mUi->flxNonSelected->SetRows(0);
     mDropped = Paths;
-    if (FolderExists(Paths.front())) DirectoryChosen(WithSeparator(Paths.front()));
+    if (FolderExists(Paths.front())) DirectoryChosen(Paths.front());
     ReadUnderLoading();
     UpdateButtons();
 }

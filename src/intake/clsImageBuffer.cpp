@@ -1,6 +1,7 @@
 #include "intake/clsImageBuffer.h"
 
 #include "db/clsDBEngine.h"
+#include "db/modAlbumFiles.h"
 #include "intake/modImport.h"
 #include "platform/FlexGrid.h"
 #include "platform/ImgX.h"
@@ -22,7 +23,8 @@ QString SmallName(const QString& FileName) {
 }
 
 QString FullPath(std::int32_t AlbumID, const QString& SlideLoc) {
-    return HoldsSeparator(SlideLoc) ? SlideLoc : SlidesFolder(*DBEngine, AlbumID) + SlideLoc;
+    return HoldsSeparator(SlideLoc) ? SlideLoc
+                                    : SlidesFolder(DBEngine->DBPath(), AlbumID) + SlideLoc;
 }
 
 QImage LoadPicture(const QString& FileName) {
@@ -80,17 +82,23 @@ bool clsImageBuffer::LoadSlide(FlexGrid& TargetGrid, std::int32_t TargetRow, std
     const int Found = BufferGrid->Rows() > 0 ? FindSlide(Slide.SlideID) : -1;
     if (Found >= 0) {
         mRow = Found;
+        CopyTexts(TargetGrid, TargetRow, KeepCaption);
         if (ThumbnailStale(BufferGrid->TextMatrix(mRow, ColPath), mRow)) RunLoad(LoadingForm);
     } else {
         AddSlide(AlbumID, Slide, FullPath(AlbumID, Slide.SlideLoc));
         RunLoad(LoadingForm);
+        CopyTexts(TargetGrid, TargetRow, false);
     }
-    if (Found < 0 || !KeepCaption)
+    TargetGrid.SetCellPicture(TargetRow, ColPicture, BufferGrid->CellPicture(mRow, ColPicture));
+    return true;
+}
+
+void clsImageBuffer::CopyTexts(FlexGrid& TargetGrid, std::int32_t TargetRow,
+                               bool KeepCaption) const {
+    if (!KeepCaption)
         TargetGrid.SetTextMatrix(TargetRow, ColText, BufferGrid->TextMatrix(mRow, ColText));
     for (int Col : {ColSlideID, ColPath})
         TargetGrid.SetTextMatrix(TargetRow, Col, BufferGrid->TextMatrix(mRow, Col));
-    TargetGrid.SetCellPicture(TargetRow, ColPicture, BufferGrid->CellPicture(mRow, ColPicture));
-    return true;
 }
 
 bool clsImageBuffer::UpdateSlide(std::int32_t AlbumID, const clsNEBSlide& Slide, bool Force) {
@@ -178,11 +186,11 @@ bool clsImageBuffer::ReadThumbnail(const QString& FileName, FlexGrid& Grid, int 
 }
 
 void clsImageBuffer::SaveThumbnail(const FlexGrid& Grid, int Row) const {
-    const QString Path = SlidesFolder(*DBEngine, KeyIn(Grid, Row, ColAlbumID)) +
-                         SlideStem(KeyIn(Grid, Row, ColSlideID)) + QStringLiteral("Small.bmp");
+    const QString Path = SlidesFolder(DBEngine->DBPath(), KeyIn(Grid, Row, ColAlbumID)) +
+                         ThumbnailName(KeyIn(Grid, Row, ColSlideID));
+    DropFile(Path);
     try {
-        DeleteFile(Path);
-        WriteFile(Path, ThumbnailBmp(Grid.CellPicture(Row, ColPicture)));
+        StoreFile(Path, ThumbnailBmp(Grid.CellPicture(Row, ColPicture)));
     } catch (const Fault&) {
         // the picture in the row is good; the next request tries again
     }

@@ -50,6 +50,7 @@ class clsImageBuffer : public ProgressParent {
     int FindSlide(std::int32_t SlideID) const;
     void AddSlide(std::int32_t AlbumID, const clsNEBSlide& Slide, const QString& Path);
     void SetKeys(std::int32_t AlbumID, const clsNEBSlide& Slide);
+    void CopyTexts(FlexGrid& TargetGrid, std::int32_t TargetRow, bool KeepCaption) const;
     void RunLoad(const std::shared_ptr<frmLoading>& LoadingForm);
     void RunHiddenLoad();
     void EndLoad();

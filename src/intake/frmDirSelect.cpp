@@ -35,7 +35,9 @@ WalkPoll YieldingPoll(std::function<bool()> GoesOn) {
 QString ReadLastDirectory() {
     try {
         if (!FileExists(MemoryFile())) return {};
-        return QString::fromUtf8(ReadFile(MemoryFile()).split('\n').value(0).trimmed());
+        QByteArray Line = ReadFile(MemoryFile()).split('\n').value(0);
+        if (Line.endsWith('\r')) Line.chop(1);
+        return QString::fromUtf8(Line);
     } catch (const Fault&) {
         return {};
     }
@@ -110,7 +112,7 @@ void frmDirSelect::RecurseClicked() {
 
 // The count goes on while the user steps to another directory, which then has its own.
 void frmDirSelect::ShowCount() {
-    if (!mCountGraphics || !mActivated) return;
+    if (!mCountGraphics || !mActivated || !IsLoaded()) return;
     const auto Held = shared_from_this();
     const int Mine = ++mCounting;
     const PointerScope Working(Pointer::Hourglass);
@@ -122,6 +124,10 @@ void frmDirSelect::ShowCount() {
 }
 
 void frmDirSelect::Select() {
+    if (!mUi->Dir1->TakeTyped()) {
+        MsgBox(tr("There is no directory of this name.") + u'\n' + mUi->Dir1->TypedText());
+        return;
+    }
     mSelectedDir = mUi->Dir1->Path();
     mRecurseDir = mUi->chkRecurseDir->isChecked();
     Unload();

@@ -57,8 +57,7 @@ void frmImportFilter::StartOperation() {
 }
 
 bool frmImportFilter::MakeAlbum() {
-    if (!DBEngine->SaveAlbum(mAlbumID, ConvertQuotes(mAlbumName))) return false;
-    MakeAlbumFolders(*DBEngine, mAlbumID);
+    if (!NewAlbum(*DBEngine, mAlbumID, ConvertQuotes(mAlbumName))) return false;
     BroadcastEvent(QStringLiteral("Album"), QStringLiteral("Insert"), this, {mAlbumID});
     return true;
 }
@@ -68,10 +67,11 @@ void frmImportFilter::ImportIntoAlbum() {
     if (!Album) throw Fault(QStringLiteral("The Album was not found."));
     int Count = 0;
     int Discarded = 0;
-    ImportRows(*Album, [&](int, PictureImport::Outcome Outcome, std::int32_t) {
+    const auto CountRow = [&](int, PictureImport::Outcome Outcome, std::int32_t) {
         ++Count;
         if (Outcome == PictureImport::Outcome::Discarded) ++Discarded;
-    });
+    };
+    if (!ImportRows(*Album, CountRow)) return;
     SetScreenPointer(Pointer::Default);
     MsgBox(ImportedText(Count, Discarded));
     BroadcastEvent(QStringLiteral("Album"), QStringLiteral("Add Slides"), this, {mAlbumID, 0});

@@ -37,7 +37,9 @@ void frmQuickShow::DirectoryChosen(const QString& Directory) {
         mUi->txtName->setText(ConvertQuotes(GetFileName(Directory.chopped(1))));
 }
 
+// The show runs when both windows, this one and the one of the progress, have gone.
 void frmQuickShow::Import() {
+    const auto Held = shared_from_this();
     if (mUi->txtName->text().isEmpty()) {
         MsgBox(QStringLiteral("You must specify a name for the new slideshow."));
         return;
@@ -50,6 +52,7 @@ void frmQuickShow::Import() {
         return;
     }
     RunImport();
+    if (std::exchange(mRunWhenClosed, false)) RunSlideShow(mAlbumID, mAlbumName, mSlideShowID);
 }
 
 void frmQuickShow::StartOperation() {
@@ -58,8 +61,7 @@ void frmQuickShow::StartOperation() {
     SetScreenPointer(Pointer::Hourglass);
     mAlbumID = 0;
     clsNEBSlideShow* SlideShow = MakeAlbum() ? MakeSlideShow() : nullptr;
-    if (SlideShow) {
-        FillSlideShow(*SlideShow);
+    if (SlideShow && FillSlideShow(*SlideShow)) {
         mRunWhenClosed = true;
         BroadcastEvent(QStringLiteral("Album"), QStringLiteral("Insert"), this, {mAlbumID});
     }
@@ -68,7 +70,7 @@ void frmQuickShow::StartOperation() {
 }
 
 bool frmQuickShow::MakeAlbum() {
-    if (!DBEngine->SaveAlbum(mAlbumID, ConvertQuotes(mAlbumName))) {
+    if (!NewAlbum(*DBEngine, mAlbumID, ConvertQuotes(mAlbumName))) {
         MsgBox(QStringLiteral("Failed to save album."));
         return false;
     }
@@ -76,7 +78,6 @@ bool frmQuickShow::MakeAlbum() {
         MsgBox(QStringLiteral("Failed to load album after save."));
         return false;
     }
-    MakeAlbumFolders(*DBEngine, mAlbumID);
     return true;
 }
 
@@ -94,21 +95,27 @@ clsNEBSlideShow* frmQuickShow::MakeSlideShow() {
 }
 
 // Nothing of a half-made show stays: a picture that fails takes the album with it.
-void frmQuickShow::FillSlideShow(clsNEBSlideShow& SlideShow) {
+bool frmQuickShow::FillSlideShow(clsNEBSlideShow& SlideShow) {
+    int Number = 1;
     const auto AddDetail = [&](int Row, PictureImport::Outcome Outcome, std::int32_t SlideID) {
         if (Outcome == PictureImport::Outcome::Entered) SlideShow.SaveDetail(SlideID, Row + 1, {});
+        ++Number;
     };
+    QString Problem;
     try {
-        ImportRows(*DBEngine->GetAlbum(mAlbumID), AddDetail);
-    } catch (const Fault&) {
-        DropMadeAlbum();
-        SetScreenPointer(Pointer::Default);
-        throw;
+        if (ImportRows(*DBEngine->GetAlbum(mAlbumID), AddDetail)) return true;
+    } catch (const std::exception& Reason) {
+        Problem = QStringLiteral("Failed to save slide #%1\n").arg(Number) +
+                  QString::fromUtf8(Reason.what());
     }
+    DropMadeAlbum();
+    SetScreenPointer(Pointer::Default);
+    if (!Problem.isEmpty()) MsgBox(Problem);
+    return false;
 }
 
 void frmQuickShow::DropMadeAlbum() {
-    DropAlbum(*DBEngine, mAlbumID);
+    if (DBEngine) DropAlbum(*DBEngine, mAlbumID);  // at the end of the program it has gone
     mAlbumID = 0;
     mSlideShowID = 0;
 }
@@ -116,12 +123,6 @@ void frmQuickShow::DropMadeAlbum() {
 void frmQuickShow::Form_Load() {
     if (!ImportDir().isEmpty()) DirectoryChosen(WithSeparator(ImportDir()));
     ImportForm::Form_Load();
-}
-
-bool frmQuickShow::Form_Unload() {
-    if (!ImportForm::Form_Unload()) return false;
-    if (mRunWhenClosed) RunSlideShow(mAlbumID, mAlbumName, mSlideShowID);
-    return true;
 }
 
 }  // namespace neb

@@ -23,12 +23,11 @@ class frmQuickShow : public ImportForm {
     void Import() override;
     void DirectoryChosen(const QString& Directory) override;
     void Form_Load() override;
-    bool Form_Unload() override;
 
   private:
     bool MakeAlbum();
     clsNEBSlideShow* MakeSlideShow();
-    void FillSlideShow(clsNEBSlideShow& SlideShow);
+    bool FillSlideShow(clsNEBSlideShow& SlideShow);
     void DropMadeAlbum();
 
     QString mAlbumName;

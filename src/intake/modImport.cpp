@@ -1,39 +1,52 @@
 #include "intake/modImport.h"
 
 #include "db/clsDBEngine.h"
+#include "db/modAlbumFiles.h"
 #include "platform/ImgX.h"
 #include "support/Fault.h"
 #include "support/modDEValidation.h"
 #include "support/modHostFiles.h"
-#include "support/modNumbers.h"
 
 namespace neb {
 
-QString AlbumFolder(const clsDBEngine& theDB, std::int32_t AlbumID) {
-    return theDB.DBPath() + QStringLiteral("Albums/%1/").arg(AlbumID);
-}
-
-QString SlidesFolder(const clsDBEngine& theDB, std::int32_t AlbumID) {
-    return AlbumFolder(theDB, AlbumID) + QStringLiteral("Slides/");
-}
-
-QString SoundTracksFolder(const clsDBEngine& theDB, std::int32_t AlbumID) {
-    return AlbumFolder(theDB, AlbumID) + QStringLiteral("SoundTracks/");
-}
-
 void MakeAlbumFolders(const clsDBEngine& theDB, std::int32_t AlbumID) {
-    MakeDirs(AlbumFolder(theDB, AlbumID));
-    MakeDirs(SoundTracksFolder(theDB, AlbumID));
-    MakeDirs(SlidesFolder(theDB, AlbumID));
+    MakeDirs(AlbumFolder(theDB.DBPath(), AlbumID));
+    MakeDirs(SoundTracksFolder(theDB.DBPath(), AlbumID));
+    MakeDirs(SlidesFolder(theDB.DBPath(), AlbumID));
+}
+
+bool NewAlbum(clsDBEngine& theDB, std::int32_t& AlbumID, const QString& AlbumName) {
+    AlbumID = 0;
+    if (!theDB.SaveAlbum(AlbumID, AlbumName)) return false;
+    try {
+        MakeAlbumFolders(theDB, AlbumID);
+    } catch (const Fault&) {
+        DropAlbum(theDB, std::exchange(AlbumID, 0));
+        throw;
+    }
+    return true;
 }
 
 void DropAlbum(clsDBEngine& theDB, std::int32_t AlbumID) {
-    DeleteTree(AlbumFolder(theDB, AlbumID));
+    DeleteTree(AlbumFolder(theDB.DBPath(), AlbumID));
     theDB.DeleteAlbum(AlbumID);
 }
 
-QString SlideStem(std::int32_t SlideID) {
-    return Format(SlideID, "00000000");
+void StoreFile(const QString& Path, const QByteArray& Bytes) {
+    try {
+        WriteFile(Path, Bytes);
+    } catch (const Fault&) {
+        DropFile(Path);
+        throw;
+    }
+}
+
+void DropFile(const QString& Path) {
+    try {
+        DeleteFile(Path);
+    } catch (const Fault&) {
+        // it stays where it is and does no harm
+    }
 }
 
 std::int32_t EnterPicture(clsDBEngine& theDB, clsNEBAlbum& Album, const QString& Caption,
@@ -41,12 +54,11 @@ std::int32_t EnterPicture(clsDBEngine& theDB, clsNEBAlbum& Album, const QString&
     std::int32_t SlideID = 0;
     clsNEBSlide* Slide =
         Album.SaveSlide2(SlideID, ConvertQuotes(Caption), {}, {}, false, false, theDB);
-    const QString Stem = SlideStem(SlideID);
-    const QString Folder = SlidesFolder(theDB, Album.AlbumID);
-    WriteFile(Folder + Stem + QStringLiteral(".jpg"), Jpeg());
+    const QString Stem = FileStem(SlideID);
+    const QString Folder = SlidesFolder(theDB.DBPath(), Album.AlbumID);
+    StoreFile(Folder + Stem + QStringLiteral(".jpg"), Jpeg());
     Slide->SlideLoc = Stem + QStringLiteral(".JPG");
-    if (!Thumbnail.isNull())
-        WriteFile(Folder + Stem + QStringLiteral("Small.bmp"), ThumbnailBmp(Thumbnail));
+    if (!Thumbnail.isNull()) StoreFile(Folder + ThumbnailName(SlideID), ThumbnailBmp(Thumbnail));
     return SlideID;
 }
 

@@ -16,23 +16,23 @@ class clsDBEngine;
 class clsNEBAlbum;
 class clsNEBSlide;
 
-// Albums/<AlbumID>/ and its two folders under the engine's database directory.
-QString AlbumFolder(const clsDBEngine& theDB, std::int32_t AlbumID);
-QString SlidesFolder(const clsDBEngine& theDB, std::int32_t AlbumID);
-QString SoundTracksFolder(const clsDBEngine& theDB, std::int32_t AlbumID);
-// Makes the three; throws Fault.
+// Makes the folder of an album with its two folders; throws Fault.
 void MakeAlbumFolders(const clsDBEngine& theDB, std::int32_t AlbumID);
+// Makes an album with its folders; AlbumID is the new one. False after the engine's box. Throws
+// Fault when a folder cannot be made: the album is then gone again, and AlbumID is 0.
+bool NewAlbum(clsDBEngine& theDB, std::int32_t& AlbumID, const QString& AlbumName);
 // Takes an album with all that it holds out of the engine and off the disk.
 void DropAlbum(clsDBEngine& theDB, std::int32_t AlbumID);
-
-// The stem of a slide's files: its number in eight digits.
-QString SlideStem(std::int32_t SlideID);
 
 // Enters a picture in an album: the slide, then its JPEG, then its thumbnail (a null one writes
 // none). Jpeg is asked for the stored bytes once the slide is there; when it throws, the slide
 // stands without a picture. Returns the slide's number. Throws Fault.
 std::int32_t EnterPicture(clsDBEngine& theDB, clsNEBAlbum& Album, const QString& Caption,
                           const std::function<QByteArray()>& Jpeg, const QImage& Thumbnail);
+// Writes a picture's file as a whole: where that cannot be done (Fault) no part of it stays.
+void StoreFile(const QString& Path, const QByteArray& Bytes);
+// Deletes a file; errors are ignored.
+void DropFile(const QString& Path);
 
 // A picture on its way into an album.
 struct PictureToImport {

@@ -6,11 +6,13 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QScrollBar>
 #include <QStandardPaths>
 #include <QStorageInfo>
 #include <QTreeView>
 #include <QVBoxLayout>
 
+#include "support/modFUFL.h"
 #include "support/modHostFiles.h"
 
 namespace neb {
@@ -61,7 +63,7 @@ DirectoryTree::DirectoryTree(QWidget* Parent)
     mTyped->setAccessibleName(tr("Directory"));
     mTyped->setToolTip(tr("The directory; type a path and press Enter to go there"));
     mTyped->setCompleter(new QCompleter(mModel, mTyped));
-    connect(mTyped, &QLineEdit::editingFinished, this, &DirectoryTree::TypedPath);
+    connect(mTyped, &QLineEdit::editingFinished, this, &DirectoryTree::TakeTyped);
     setFocusProxy(mTree);
     SetPath(FirstPlace());
 }
@@ -77,31 +79,74 @@ void DirectoryTree::SetUpTree() {
     mTree->setAccessibleName(tr("Directories"));
     connect(mTree->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex& Index) { TreeMoved(mModel->filePath(Index)); });
+    mTree->installEventFilter(this);
+    mTree->viewport()->installEventFilter(this);
+    connect(mTree->verticalScrollBar(), &QScrollBar::actionTriggered, this,
+            [this] { mInSight = false; });
+    // the model reads directories in the background, and rows come in above this one
+    connect(mModel, &QFileSystemModel::directoryLoaded, this, &DirectoryTree::BringIntoSight);
+    connect(mModel, &QFileSystemModel::layoutChanged, this, &DirectoryTree::BringIntoSight);
+    connect(mModel, &QFileSystemModel::rowsInserted, this, &DirectoryTree::BringIntoSight,
+            Qt::QueuedConnection);
+}
+
+void DirectoryTree::BringIntoSight() {
+    if (mInSight) mTree->scrollTo(mTree->currentIndex(), QAbstractItemView::PositionAtCenter);
+}
+
+// What the user does in the tree counts from then on, and what was typed in vain is dropped.
+bool DirectoryTree::eventFilter(QObject* Watched, QEvent* Event) {
+    const auto Type = Event->type();
+    if (Type == QEvent::MouseButtonPress || Type == QEvent::Wheel || Type == QEvent::KeyPress)
+        mInSight = false;
+    if (Type == QEvent::FocusIn) mTyped->setText(mPath);
+    return QWidget::eventFilter(Watched, Event);
 }
 
 void DirectoryTree::SetPath(const QString& Path) {
     if (!FolderExists(Path)) return;
-    const QString Host = ResolvePath(Path);
-    const QModelIndex Index = mModel->index(Host);
+    const QModelIndex Index = mModel->index(ResolvePath(Path));
+    mInSight = true;
     mTree->setCurrentIndex(Index);
     mTree->expand(Index);
-    mTree->scrollTo(Index, QAbstractItemView::PositionAtCenter);
-    TreeMoved(Host);
+    BringIntoSight();
+    TreeMoved(mModel->filePath(Index));
+    mTyped->setText(mPath);
 }
 
 void DirectoryTree::SetDrives(QComboBox* Drives) {
     AddUserPlaces(*Drives);
     AddVolumes(*Drives);
-    Drives->setCurrentIndex(Drives->findData(mPath));
-    connect(Drives, &QComboBox::activated, this,
-            [this, Drives] { SetPath(Drives->currentData().toString()); });
+    mDrives = Drives;
+    ShowPlace();
+    connect(Drives, &QComboBox::activated, this, [this, Drives] {
+        SetPath(Drives->currentData().toString());
+        ShowPlace();
+    });
 }
 
-void DirectoryTree::TypedPath() {
-    if (FolderExists(mTyped->text()))
-        SetPath(mTyped->text());
-    else
-        mTyped->setText(mPath);
+// Of several places that hold the directory the nearest one.
+void DirectoryTree::ShowPlace() {
+    if (!mDrives) return;
+    int Nearest = -1;
+    qsizetype Longest = 0;
+    for (int I = 0; I < mDrives->count(); ++I) {
+        const QString Place = WithSeparator(mDrives->itemData(I).toString());
+        if (Place.size() <= Longest || !WithSeparator(mPath).startsWith(Place)) continue;
+        Nearest = I;
+        Longest = Place.size();
+    }
+    mDrives->setCurrentIndex(Nearest);
+}
+
+QString DirectoryTree::TypedText() const {
+    return mTyped->text();
+}
+
+bool DirectoryTree::TakeTyped() {
+    if (!FolderExists(mTyped->text())) return false;
+    SetPath(mTyped->text());
+    return true;
 }
 
 // Enter in the typed path goes there, and does not press the window's default button as well.
@@ -114,6 +159,7 @@ void DirectoryTree::TreeMoved(const QString& Path) {
     if (Path.isEmpty() || Path == mPath) return;
     mPath = Path;
     mTyped->setText(Path);
+    ShowPlace();
     Q_EMIT Change();
 }
 

@@ -2,6 +2,7 @@
 // of places (the user's folders, drives and media) may stand with it.
 #pragma once
 
+#include <QPointer>
 #include <QWidget>
 
 QT_BEGIN_NAMESPACE
@@ -23,24 +24,32 @@ class DirectoryTree : public QWidget {
     QString Path() const { return mPath; }
     // Goes to a directory; one that does not exist changes nothing.
     void SetPath(const QString& Path);
-    // Fills the list with places; choosing one goes there.
+    // The text in the line, and going to the directory it names. False when there is none.
+    QString TypedText() const;
+    bool TakeTyped();
+    // Fills the list with places; choosing one goes there, and it shows the place that holds the
+    // directory, or nothing.
     void SetDrives(QComboBox* Drives);
 
   Q_SIGNALS:
     void Change();  // another directory is shown
 
   protected:
+    bool eventFilter(QObject* Watched, QEvent* Event) override;
     void keyPressEvent(QKeyEvent* Event) override;
 
   private:
     void SetUpTree();
-    void TypedPath();
+    void BringIntoSight();
+    void ShowPlace();
     void TreeMoved(const QString& Path);
 
     QLineEdit* mTyped;
     QTreeView* mTree;
     QFileSystemModel* mModel;
+    QPointer<QComboBox> mDrives;
     QString mPath;
+    bool mInSight = true;  // the tree scrolls to the directory until the user takes it over
 };
 
 }  // namespace neb

@@ -43,12 +43,18 @@ void PictureView::paintEvent(QPaintEvent*) {
     Painter.drawImage(Place, Scaled((QSizeF(Place.size()) * devicePixelRatioF()).toSize()));
 }
 
-void PictureView::mouseReleaseEvent(QMouseEvent* Event) {
-    if (Event->button() == Qt::LeftButton && rect().contains(Event->pos())) Q_EMIT Clicked();
+void PictureView::mousePressEvent(QMouseEvent* Event) {
+    mPressed = Event->button() == Qt::LeftButton;
 }
 
-void PictureView::mouseDoubleClickEvent(QMouseEvent*) {
-    Q_EMIT DoubleClicked();
+// A click begins here, too: the button may have been pressed on a window that was here before.
+void PictureView::mouseReleaseEvent(QMouseEvent* Event) {
+    if (Event->button() != Qt::LeftButton || !std::exchange(mPressed, false)) return;
+    if (rect().contains(Event->pos())) Q_EMIT Clicked();
+}
+
+void PictureView::mouseDoubleClickEvent(QMouseEvent* Event) {
+    if (Event->button() == Qt::LeftButton) Q_EMIT DoubleClicked();
 }
 
 }  // namespace neb

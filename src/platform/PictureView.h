@@ -29,6 +29,7 @@ class PictureView : public QWidget {
 
   protected:
     void paintEvent(QPaintEvent* Event) override;
+    void mousePressEvent(QMouseEvent* Event) override;
     void mouseReleaseEvent(QMouseEvent* Event) override;
     void mouseDoubleClickEvent(QMouseEvent* Event) override;
 
@@ -38,6 +39,7 @@ class PictureView : public QWidget {
     QImage mPicture;
     QImage mScaled;  // as last painted
     QString mEmptyText;
+    bool mPressed = false;
 };
 
 }  // namespace neb
