@@ -100,6 +100,7 @@ int main(int argc, char** argv) {
     QTemporaryDir Dir;
     clsDBEngine Engine;
     Engine.SetDBPath(Dir.path());
+    Engine.InitializeDB();
     DBEngine = &Engine;
     MakeAlbum(Engine);
 

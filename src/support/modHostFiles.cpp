@@ -81,8 +81,15 @@ void SortByUpperName(std::vector<DirEntry>& Entries) {
     throw Fault(QStringLiteral("The file cannot be read: %1.").arg(File.errorString()), Path);
 }
 
+bool IsPipeOrDevice(const QFile& File) {
+    const QFileInfo Info(File);
+    return Info.exists() && !Info.isFile() && !Info.isDir();
+}
+
 QByteArray ReadFrom(const QString& Path, qint64 Length) {
     QFile File(ResolvePath(Path));
+    if (IsPipeOrDevice(File))  // reading one would wait for ever
+        throw Fault(QStringLiteral("The file cannot be read: it is no ordinary file."), Path);
     if (!File.open(QIODevice::ReadOnly)) FailRead(File, Path);
     QByteArray Bytes = Length < 0 ? File.readAll() : File.read(Length);
     if (File.error() != QFileDevice::NoError) FailRead(File, Path);
@@ -121,7 +128,7 @@ bool IsReadOnly(const QString& Path) {
 
 bool CanReadFile(const QString& Path) {
     QFile File(ResolvePath(Path));
-    return FileExists(Path) && File.open(QIODevice::ReadOnly);
+    return QFileInfo(File).isFile() && File.open(QIODevice::ReadOnly);
 }
 
 qint64 FileSize(const QString& Path) {

@@ -4,6 +4,7 @@
 
 #include "WindowSteps.h"
 #include "db/clsDBEngine.h"
+#include "db/modAlbumFiles.h"
 #include "harness/ScriptedBoxes.h"
 #include "harness/TempFolder.h"
 #include "intake/frmImportFilter.h"

@@ -2,6 +2,7 @@
 #include "support/modHostFiles.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <QFile>
 
 #include "harness/TempFolder.h"
@@ -112,6 +113,13 @@ TEST(HostFiles, AMissingDirectoryIsNotReadable) {
     EXPECT_FALSE(Readable);
     EXPECT_TRUE(ListDir(Dir.Path(), &Readable).empty());
     EXPECT_TRUE(Readable);
+}
+
+TEST(HostFiles, APipeIsNoFileToWaitFor) {
+    TempFolder Dir;
+    ASSERT_EQ(mkfifo(qPrintable(Dir / "x.jpg"), 0600), 0);
+    EXPECT_FALSE(CanReadFile(Dir / "x.jpg"));
+    EXPECT_THROW(ReadFile(Dir / "x.jpg"), Fault);
 }
 
 TEST(HostFiles, AFaultNamesTheFile) {

@@ -21,7 +21,6 @@ DesktopServices::DesktopServices() {
     QApplication::setApplicationDisplayName(QStringLiteral("NEB Slide Show"));
     QApplication::setApplicationVersion(QStringLiteral(NEB_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("neb-slide-show"));
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/neb/neb-slide-show.svg")));
     TheServices().Boxes = &mBoxes;
     TheServices().Dialogs = &mDialogs;
     TheServices().Blanking = &mBlanking;

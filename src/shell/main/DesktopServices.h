@@ -1,4 +1,4 @@
-// Makes an application object NEB Slide Show: its name and icon, and the desktop's own services
+// Makes an application object NEB Slide Show: its name and version, and the desktop's own services
 // in place. The program's entry and the guided demonstration hold one.
 #pragma once
 

@@ -81,11 +81,16 @@ void AddEntry(QMainWindow& Window, QMenu& Menu, const Entry& Row, MainMenu& Made
         Menu.addSeparator();
         return;
     }
-    auto* Action = new QAction(ThemeIcon(Row.Icon), QObject::tr(Row.Text), &Window);
+    auto* Action = new QAction(QObject::tr(Row.Text), &Window);
     Action->setObjectName(QString::fromLatin1(Row.Name));
     Action->setShortcut(QKeySequence(QString::fromLatin1(Row.Keys)));
     Action->setStatusTip(QObject::tr(Row.Tip));
     Menu.addAction(Action);
+    // looked up when the menu is first opened: the start need not wait for a dozen icons
+    QObject::connect(
+        &Menu, &QMenu::aboutToShow, Action,
+        [Action, Icon = QString::fromLatin1(Row.Icon)] { Action->setIcon(ThemeIcon(Icon)); },
+        Qt::SingleShotConnection);
     Made.Entries.insert(Action->objectName(), Action);
 }
 

@@ -42,11 +42,10 @@ void IgnoringFaults(const std::function<void()>& Action) {
 
 }  // namespace
 
-frmNEBSlideShow::frmNEBSlideShow() : mWorkspace(new Workspace(this)), mBuffer(new FlexGrid(this)) {
+frmNEBSlideShow::frmNEBSlideShow() : mWorkspace(new Workspace(this)) {
     setObjectName(QStringLiteral("frmNEBSlideShow"));
     setWindowTitle(QApplication::applicationDisplayName());
     setCentralWidget(mWorkspace);
-    mBuffer->hide();
     statusBar();  // says what a menu entry does
     SetUpMenu();
     FillOpeners();
@@ -65,6 +64,9 @@ void frmNEBSlideShow::Form_Load(const CommandLine& Line) {
     Log("Showing Main Form");
     show();
     DoEvents();
+    // drawn once the window stands, which need not wait for it
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/neb/neb-slide-show.svg")));
+    mWorkspace->viewport()->update();
     const PointerScope Working(Pointer::Hourglass);
     LoadDatabase();
     CheckReadOnly();
@@ -114,6 +116,8 @@ void frmNEBSlideShow::MakeChildDirs() {
 }
 
 void frmNEBSlideShow::CreateImageBuffer() {
+    mBuffer = new FlexGrid(this);
+    mBuffer->hide();
     mImageBuffer = std::make_unique<clsImageBuffer>();
     mImageBuffer->BufferGrid = mBuffer;
     mImageBuffer->UseSmallFiles = true;

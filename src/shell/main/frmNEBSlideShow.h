@@ -58,7 +58,7 @@ class frmNEBSlideShow : public QMainWindow {
     void ShowHelp(const QString& Anchor);
 
     Workspace* mWorkspace;
-    FlexGrid* mBuffer;  // never shown: the store of the image buffer
+    FlexGrid* mBuffer = nullptr;  // never shown: the store of the image buffer
     std::unique_ptr<MainMenu> mMenu;
     std::unique_ptr<clsDBEngine> mEngine;
     std::unique_ptr<clsImageBuffer> mImageBuffer;
