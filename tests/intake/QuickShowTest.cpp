@@ -125,6 +125,13 @@ TEST_F(QuickShow, RefusesTheNameOfAnAlbumBeforeAnythingIsDone) {
     EXPECT_TRUE(Window->IsLoaded());
 }
 
+TEST_F(QuickShow, SavesByEnterInTheName) {
+    Show(1, {});
+    Boxes.Expect(u"You must specify a name for the new slideshow."_s);
+    QTest::keyClick(&In<QLineEdit>(*Window, "txtName"), Qt::Key_Return);
+    ExpectNothingMade();
+}
+
 TEST_F(QuickShow, LeavesANameOfBlanksToTheEngine) {
     Show(1, u"   "_s);
     Boxes.Expect(u"You must specify an Album name."_s);
