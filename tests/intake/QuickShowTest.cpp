@@ -31,8 +31,7 @@ class QuickShow : public Intake {
         Others->Load();
         Window = NewForm<frmQuickShow>();
         Window->SetImportDir(Pics.Path());
-        Window->ShowModeless();
-        QCoreApplication::processEvents();
+        ShowActive(*Window);
         In<QLineEdit>(*Window, "txtName").setText(Name);
         Press(*Window, "cmdMoveRightAll");
     }
