@@ -191,6 +191,7 @@ bool ImportForm::HasSelection() const {
 
 void ImportForm::RunImport() {
     const auto Held = shared_from_this();
+    mUi->flxSelected->FinishEdit();
     ReleaseLoading();
     mProgressForm = NewForm<frmProgress>();
     const auto Shown = mProgressForm;

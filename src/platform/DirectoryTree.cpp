@@ -1,5 +1,6 @@
 #include "platform/DirectoryTree.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QCompleter>
 #include <QFileSystemModel>
@@ -146,7 +147,15 @@ QString DirectoryTree::TypedText() const {
 bool DirectoryTree::TakeTyped() {
     if (!FolderExists(mTyped->text())) return false;
     SetPath(mTyped->text());
+    EndProposals();
     return true;
+}
+
+// The completer waits for directories that are still being read, and would come up later over
+// the tree and swallow the next click.
+void DirectoryTree::EndProposals() {
+    mTyped->completer()->setCompletionPrefix({});
+    mTyped->completer()->popup()->hide();
 }
 
 // Enter in the typed path goes there, and does not press the window's default button as well.

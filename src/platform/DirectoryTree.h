@@ -42,6 +42,7 @@ class DirectoryTree : public QWidget {
     void SetUpTree();
     void BringIntoSight();
     void ShowPlace();
+    void EndProposals();
     void TreeMoved(const QString& Path);
 
     QLineEdit* mTyped;

@@ -80,6 +80,20 @@ TEST_F(ImportMove, ButtonsAreOfUseWhileTheirGridHasRows) {
     EXPECT_EQ("1100", Enabled());
 }
 
+TEST_F(ImportMove, WorksByTheKeyboardAlone) {
+    Show(3);
+    Window->activateWindow();
+    Left->setFocus();
+    QTest::keyClick(Left, Qt::Key_Home);
+    QTest::keyClick(Left, Qt::Key_Down);
+    QTest::keyClick(Left, Qt::Key_Right, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return CaptionsOf(*Right) == "b"; }, 1000));
+    QTest::keyClick(Left, Qt::Key_Right, Qt::AltModifier | Qt::ShiftModifier);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return CaptionsOf(*Right) == "b,a,c"; }, 1000));
+    QTest::keyClick(Right, Qt::Key_Left, Qt::AltModifier | Qt::ShiftModifier);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return CaptionsOf(*Left) == "b,a,c"; }, 1000));
+}
+
 TEST_F(ImportMove, CaptionsAloneCanBeEditedAndTakeTypographicQuotes) {
     Show(2);
     EXPECT_FALSE(Left->EditCell(0, ImportForm::ColPicture));

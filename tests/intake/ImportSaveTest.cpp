@@ -8,6 +8,7 @@ namespace neb {
 namespace {
 
 using namespace harness;
+using namespace std::string_literals;
 
 class ImportSave : public Intake {
   protected:
@@ -132,6 +133,37 @@ TEST_F(ImportSave, CleansTheCaptionOfAFileWithQuotes) {
     EXPECT_EQ(u"Mary’s “best”"_s.toStdString(), Album(AlbumID).Slides[0]->SlideText.toStdString());
     EXPECT_TRUE(FileExists(Stored(AlbumID, "00000001.jpg")));
     EXPECT_EQ(Before, ReadFile(Pics / u"Mary's \"best\".jpg"_s));
+}
+
+TEST_F(ImportSave, RunsInTheModalWindowThatCallersShow) {
+    MakePictures(2);
+    const std::int32_t AlbumID = MakeAlbum(u"Garden"_s);
+    Window = LoadFilter(AlbumID, Pics.Path());
+    ASSERT_FALSE(Window->Aborted());
+    Boxes.Expect(u"2 slides successfully imported."_s);
+    WhenOpen<frmImportFilter>([](frmImportFilter& Shown) {
+        EXPECT_TRUE(Shown.isModal());
+        Press(Shown, "cmdMoveRightAll");
+        Press(Shown, "cmdImport");
+    });
+    Window->ShowModal();
+    EXPECT_EQ(2u, Album(AlbumID).Slides.size());
+    EXPECT_TRUE(Window->Aborted());
+    EXPECT_TRUE(LoadedForms().empty());
+}
+
+TEST_F(ImportSave, LeavesNoTraceWhenTheWindowIsClosedInstead) {
+    MakePictures(2);
+    for (const char* Way : {"cmdCancel", "Esc", "close"}) {
+        Show(0);
+        if (Way == "cmdCancel"s) Press(*Window, Way);
+        if (Way == "Esc"s) QTest::keyClick(Window.get(), Qt::Key_Escape);
+        if (Way == "close"s) Window->close();
+        EXPECT_FALSE(Window->IsLoaded()) << Way;
+    }
+    EXPECT_TRUE(Engine.Albums.empty());
+    EXPECT_EQ(1, Engine.NextAlbumID);
+    EXPECT_TRUE(Others->Heard.isEmpty());
 }
 
 TEST_F(ImportSave, CountsTheFilesThatAreGone) {

@@ -78,9 +78,15 @@ class Intake : public ::testing::Test {
     std::shared_ptr<frmImportFilter> ShowFilter(std::int32_t AlbumID, const QString& Directory,
                                                 bool Recurse = false) {
         auto Window = LoadFilter(AlbumID, Directory, Recurse);
-        Window->ShowModeless();
-        QCoreApplication::processEvents();
+        ShowActive(*Window);
         return Window;
+    }
+
+    // A window manager gives the keyboard to a new window in its own time.
+    static void ShowActive(Form& Window) {
+        Window.ShowModeless();
+        Window.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&Window, 2000));
     }
 
     static FlexGrid& NonSelected(const QWidget& Window) {

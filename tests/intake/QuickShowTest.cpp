@@ -31,8 +31,7 @@ class QuickShow : public Intake {
         Others->Load();
         Window = NewForm<frmQuickShow>();
         Window->SetImportDir(Pics.Path());
-        Window->ShowModeless();
-        QCoreApplication::processEvents();
+        ShowActive(*Window);
         In<QLineEdit>(*Window, "txtName").setText(Name);
         Press(*Window, "cmdMoveRightAll");
     }
@@ -123,6 +122,13 @@ TEST_F(QuickShow, RefusesTheNameOfAnAlbumBeforeAnythingIsDone) {
     Press(*Window, "cmdImport");
     EXPECT_EQ(1u, Engine.Albums.size());
     EXPECT_TRUE(Window->IsLoaded());
+}
+
+TEST_F(QuickShow, SavesByEnterInTheName) {
+    Show(1, {});
+    Boxes.Expect(u"You must specify a name for the new slideshow."_s);
+    QTest::keyClick(&In<QLineEdit>(*Window, "txtName"), Qt::Key_Return);
+    ExpectNothingMade();
 }
 
 TEST_F(QuickShow, LeavesANameOfBlanksToTheEngine) {

@@ -3,8 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
+#include <QCompleter>
 #include <QDialog>
 #include <QLineEdit>
 #include <QPushButton>
@@ -127,6 +129,17 @@ TEST_F(DirectoryTreeTest, GoesToATypedDirectoryAndPressesNothingElse) {
     EXPECT_EQ(Folder / u"a"_s, Tree.Path());
     EXPECT_EQ(0, Pressed.count());
     EXPECT_TRUE(Tree.TakeTyped());
+}
+
+// An open list of completions would swallow the user's next click.
+TEST_F(DirectoryTreeTest, ProposesNothingMoreOnceATypedDirectoryIsTaken) {
+    MakeDirs(Folder / u"fresh/a"_s);
+    MakeDirs(Folder / u"fresh/ab"_s);
+    QTest::qWait(50);
+    Enter(Folder / u"fresh/a"_s);
+    QTest::qWait(400);
+    EXPECT_EQ(nullptr, QApplication::activePopupWidget());
+    EXPECT_FALSE(Typed().completer()->popup()->isVisible());
 }
 
 TEST_F(DirectoryTreeTest, KeepsATypedDirectoryThatDoesNotExistUntilAnotherIsChosen) {
