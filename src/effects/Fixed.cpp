@@ -18,7 +18,7 @@ constexpr std::array<std::int64_t, 30> kArcs = {
     41,        20,        10,        5,        3,        1};
 constexpr std::int64_t kShrink = 652032874;  // of 2^30
 
-int ComputeSine(std::int64_t Angle) {
+constexpr int ComputeSine(std::int64_t Angle) {
     std::int64_t X = kShrink, Y = 0;
     for (unsigned I = 0; I < kArcs.size(); ++I) {
         const std::int64_t Dx = Y >> I, Dy = X >> I;
@@ -30,7 +30,7 @@ int ComputeSine(std::int64_t Angle) {
     return static_cast<int>((Y + (1 << 13)) >> 14);
 }
 
-int ComputeArc(std::int64_t X, std::int64_t Y) {
+constexpr int ComputeArc(std::int64_t X, std::int64_t Y) {
     std::int64_t Angle = 0;
     for (unsigned I = 0; I < kArcs.size(); ++I) {
         const std::int64_t Dx = Y >> I, Dy = X >> I;
@@ -42,8 +42,8 @@ int ComputeArc(std::int64_t X, std::int64_t Y) {
     return static_cast<int>((Angle + (1 << 15)) >> 16);
 }
 
-Table MakeSines() {
-    Table T;
+constexpr Table MakeSines() {
+    Table T{};
     for (int I = 0; I <= kTableSize; ++I)
         T[static_cast<unsigned>(I)] = ComputeSine((std::int64_t{I} << 30) >> kTableBits);
     T[0] = 0;
@@ -51,8 +51,8 @@ Table MakeSines() {
     return T;
 }
 
-Table MakeArcs() {
-    Table T;
+constexpr Table MakeArcs() {
+    Table T{};
     for (int I = 0; I <= kTableSize; ++I)
         T[static_cast<unsigned>(I)] = ComputeArc(1 << 30, std::int64_t{I} << (30 - kTableBits));
     T[0] = 0;
@@ -60,8 +60,8 @@ Table MakeArcs() {
     return T;
 }
 
-const Table kSines = MakeSines();
-const Table kArcTable = MakeArcs();
+constexpr Table kSines = MakeSines();
+constexpr Table kArcTable = MakeArcs();
 
 // Place: 0..One over the whole table.
 int LookUp(const Table& T, int Place) {

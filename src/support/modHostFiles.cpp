@@ -77,19 +77,31 @@ void SortByUpperName(std::vector<DirEntry>& Entries) {
     for (size_t I = 0; I < Keyed.size(); ++I) Entries[I] = std::move(Keyed[I].second);
 }
 
+// What the host has under this path, in the case that it has there; of all that windows ask for
+// again and again the disk is asked as little as possible.
+QFileInfo Look(const QString& Path) {
+    QFileInfo Info(Path);
+    if (Path.isEmpty() || Info.exists()) return Info;
+    const QString Host = HostForm(Path);
+    if (Host != Path) Info = QFileInfo(Host);
+    if (Host != Path && Info.exists()) return Info;
+    const qsizetype Cut = Host.lastIndexOf(u'/') + 1;
+    if (Cut == Host.size()) return QFileInfo(CorrectCase(Host));
+    const QString Found = FindNameInCase(Host.left(Cut), Host.mid(Cut));
+    if (!Found.isEmpty()) return QFileInfo(Host.left(Cut) + Found);
+    const bool FolderIsThere = Cut == 0 || QFileInfo::exists(Host.left(Cut));
+    return FolderIsThere ? Info : QFileInfo(CorrectCase(Host));
+}
+
 [[noreturn]] void FailRead(const QFile& File, const QString& Path) {
     throw Fault(QStringLiteral("The file cannot be read: %1.").arg(File.errorString()), Path);
 }
 
-bool IsPipeOrDevice(const QFile& File) {
-    const QFileInfo Info(File);
-    return Info.exists() && !Info.isFile() && !Info.isDir();
-}
-
 QByteArray ReadFrom(const QString& Path, qint64 Length) {
-    QFile File(ResolvePath(Path));
-    if (IsPipeOrDevice(File))  // reading one would wait for ever
+    const QFileInfo Info = Look(Path);
+    if (Info.exists() && !Info.isFile() && !Info.isDir())  // reading one would wait for ever
         throw Fault(QStringLiteral("The file cannot be read: it is no ordinary file."), Path);
+    QFile File(Info.filePath());
     if (!File.open(QIODevice::ReadOnly)) FailRead(File, Path);
     QByteArray Bytes = Length < 0 ? File.readAll() : File.read(Length);
     if (File.error() != QFileDevice::NoError) FailRead(File, Path);
@@ -99,23 +111,16 @@ QByteArray ReadFrom(const QString& Path, qint64 Length) {
 }  // namespace
 
 QString ResolvePath(const QString& Path) {
-    if (QFileInfo::exists(Path)) return Path;
-    const QString Host = HostForm(Path);
-    if (Host.isEmpty() || QFileInfo::exists(Host)) return Host;
-    const qsizetype Cut = Host.lastIndexOf(u'/') + 1;
-    if (Cut == 0 || Cut == Host.size() || !QFileInfo::exists(Host.left(Cut)))
-        return CorrectCase(Host);
-    const QString Found = FindNameInCase(Host.left(Cut), Host.mid(Cut));
-    return Found.isEmpty() ? Host : Host.left(Cut) + Found;
+    return Look(Path).filePath();
 }
 
 bool FileExists(const QString& Path) {
-    const QFileInfo Info(ResolvePath(Path));
+    const QFileInfo Info = Look(Path);
     return Info.exists() && !Info.isDir();
 }
 
 bool FolderExists(const QString& Path) {
-    return !Path.isEmpty() && QFileInfo(ResolvePath(Path)).isDir();
+    return !Path.isEmpty() && Look(Path).isDir();
 }
 
 bool IsReadOnly(const QString& Path) {
@@ -127,17 +132,17 @@ bool IsReadOnly(const QString& Path) {
 }
 
 bool CanReadFile(const QString& Path) {
-    QFile File(ResolvePath(Path));
-    return QFileInfo(File).isFile() && File.open(QIODevice::ReadOnly);
+    const QFileInfo Info = Look(Path);
+    return Info.isFile() && QFile(Info.filePath()).open(QIODevice::ReadOnly);
 }
 
 qint64 FileSize(const QString& Path) {
-    const QFileInfo Info(ResolvePath(Path));
+    const QFileInfo Info = Look(Path);
     return Info.exists() ? Info.size() : -1;
 }
 
 std::optional<QDateTime> FileTime(const QString& Path) {
-    const QFileInfo Info(ResolvePath(Path));
+    const QFileInfo Info = Look(Path);
     return Info.exists() ? std::optional(Info.lastModified()) : std::nullopt;
 }
 
