@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <QProcess>
+#include <QTest>
 
 #include <csignal>
 
@@ -47,6 +49,25 @@ TEST(Main, APlaceWhereNoLockCanBeWrittenLocksNothing) {
     harness::ScriptedBoxes Boxes;
     InstanceLock Lock(DatabaseLockPath(QStringLiteral("/proc/1/nothing here/")));
     EXPECT_TRUE(BecomeTheInstance(Lock));
+}
+
+// The real program, started and asked to end by the system.
+TEST(Main, ARequestToEndSavesTheAlbums) {
+    harness::TempFolder Documents;
+    QProcess Program;
+    QProcessEnvironment Environment = QProcessEnvironment::systemEnvironment();
+    Environment.insert("QT_QPA_PLATFORM", "offscreen");
+    Program.setProcessEnvironment(Environment);
+    Program.start(NEB_BINARY_DIR "/bin/neb-slide-show", {"--documents", Documents.Path()});
+    const QString Database = Documents / "NEB/NEB Slide Show/";
+    ASSERT_TRUE(QTest::qWaitFor([&] { return FolderExists(Database + "Temp"); }, 20000));
+    QTest::qWait(200);
+    EXPECT_FALSE(FileExists(Database + "NextIDs.dat"));
+    Program.terminate();
+    ASSERT_TRUE(Program.waitForFinished(20000));
+    EXPECT_EQ(Program.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(Program.exitCode(), 0);
+    EXPECT_EQ(FileSize(Database + "NextIDs.dat"), 12);
 }
 
 }  // namespace

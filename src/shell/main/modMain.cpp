@@ -5,6 +5,7 @@
 #include "db/modDatabaseLock.h"
 #include "shell/main/CommandLine.h"
 #include "shell/main/DesktopServices.h"
+#include "shell/main/TerminationWatch.h"
 #include "shell/main/frmNEBSlideShow.h"
 #include "shell/modNEBSlideShow.h"
 #include "support/Fault.h"
@@ -27,6 +28,9 @@ int AnswerOnTerminal(const CommandLine& Line) {
 
 int RunMainWindow(const CommandLine& Line) {
     frmNEBSlideShow Window;
+    const TerminationWatch Watch([&Window] {
+        if (Window.close()) QApplication::quit();  // boxes that are open end with it
+    });
     try {
         Window.Form_Load(Line);
     } catch (const Fault& Problem) {
