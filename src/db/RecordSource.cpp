@@ -19,7 +19,9 @@ RecordBytes::RecordBytes(const std::shared_ptr<HostReader>& File)
 RecordSource RecordsInDirectory(const QString& DBPath) {
     return [DBPath](RecordFile File) -> std::optional<RecordBytes> {
         const QString Path = RecordPath(DBPath, File);
-        if (!FileExists(Path)) return std::nullopt;
+        // Anything but a file under this name is a fault: to take it for missing records would
+        // drop them all at the next write.
+        if (!NameExists(Path)) return std::nullopt;
         return RecordBytes(std::make_shared<HostReader>(Path));
     };
 }

@@ -33,7 +33,7 @@ QString UserDocuments() {
 }  // namespace
 
 void SetDocumentsPath(const QString& Path) {
-    DocumentsPath = WithSeparator(Path);
+    DocumentsPath = WithSeparator(AbsolutePath(Path));
     DBPathCache.clear();
 }
 
@@ -63,7 +63,9 @@ QString DBPath() {
     if (!DBPathCache.isEmpty()) return DBPathCache;
     const QString Chosen =
         OpenSettings().GetValue(QStringLiteral("General"), QStringLiteral("DBPath"), {});
-    DBPathCache = WithSeparator(Chosen.isEmpty() ? SettingsDir() : Chosen);
+    // A relative one means the same database wherever the program was started from.
+    DBPathCache =
+        WithSeparator(Chosen.isEmpty() ? SettingsDir() : AbsolutePath(Chosen, SettingsDir()));
     return DBPathCache;
 }
 

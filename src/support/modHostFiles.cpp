@@ -97,12 +97,17 @@ QFileInfo Look(const QString& Path) {
     throw Fault(QStringLiteral("The file cannot be read: %1.").arg(File.errorString()), Path);
 }
 
-QByteArray ReadFrom(const QString& Path, qint64 Length) {
+void OpenToRead(QFile& File, QIODevice::OpenMode Mode, const QString& Path) {
     const QFileInfo Info = Look(Path);
     if (Info.exists() && !Info.isFile() && !Info.isDir())  // reading one would wait for ever
         throw Fault(QStringLiteral("The file cannot be read: it is no ordinary file."), Path);
-    QFile File(Info.filePath());
-    if (!File.open(QIODevice::ReadOnly)) FailRead(File, Path);
+    File.setFileName(Info.filePath());
+    if (!File.open(QIODevice::ReadOnly | Mode)) FailRead(File, Path);
+}
+
+QByteArray ReadFrom(const QString& Path, qint64 Length) {
+    QFile File;
+    OpenToRead(File, QIODevice::NotOpen, Path);
     QByteArray Bytes = Length < 0 ? File.readAll() : File.read(Length);
     if (File.error() != QFileDevice::NoError) FailRead(File, Path);
     return Bytes;
@@ -112,6 +117,18 @@ QByteArray ReadFrom(const QString& Path, qint64 Length) {
 
 QString ResolvePath(const QString& Path) {
     return Look(Path).filePath();
+}
+
+QString AbsolutePath(const QString& Path, const QString& Base) {
+    const bool HasDrive = Path.size() > 1 && Path[1] == u':';
+    const bool FromRoot = Path.startsWith(u'/') || Path.startsWith(u'\\');
+    if (Path.isEmpty() || HasDrive || FromRoot) return Path;
+    return QDir::cleanPath(QDir(Base).absoluteFilePath(HostForm(Path)));
+}
+
+bool NameExists(const QString& Path) {
+    const QFileInfo Info = Look(Path);
+    return Info.exists() || Info.isSymLink();
 }
 
 bool FileExists(const QString& Path) {
@@ -185,9 +202,7 @@ struct HostReader::State {
 
 HostReader::HostReader(const QString& Path) : mState(std::make_unique<State>()) {
     mState->Path = Path;
-    mState->File.setFileName(ResolvePath(Path));
-    if (!mState->File.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-        FailRead(mState->File, Path);
+    OpenToRead(mState->File, QIODevice::Unbuffered, Path);
 }
 
 HostReader::~HostReader() = default;

@@ -22,7 +22,11 @@ namespace neb {
 // corrected), or the path with host separators when there is none.
 QString ResolvePath(const QString& Path);
 
+// A relative path seen from Base (empty: from the working directory); any other as it is.
+QString AbsolutePath(const QString& Path, const QString& Base = {});
+
 bool FileExists(const QString& Path);  // a file that is no directory
+bool NameExists(const QString& Path);  // anything: a file, a directory, a link that leads nowhere
 bool FolderExists(const QString& Path);
 bool IsReadOnly(const QString& Path);   // no write bit is set, or the medium is read-only
 bool CanReadFile(const QString& Path);  // exists and opens for reading
@@ -101,7 +105,8 @@ class ScratchDir {
     QString mPath;
 };
 
-// Held by the one running instance; a lock left behind by a crash does not count.
+// Held by the one running instance; a lock left behind by a crash does not count, not even one
+// that was cut short or was made on another machine.
 class InstanceLock {
   public:
     explicit InstanceLock(const QString& Path);

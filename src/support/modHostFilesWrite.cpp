@@ -207,14 +207,18 @@ ScratchDir::~ScratchDir() {
 }
 
 struct InstanceLock::State {
-    explicit State(const QString& Path) : File(Path) { File.setStaleLockTime(0); }
+    explicit State(const QString& Path) : File(ResolvePath(Path)) { File.setStaleLockTime(0); }
+    // A live holder keeps the file locked by the host as well. A lock that nobody so keeps was left
+    // by a power failure (and names nobody), or on another machine.
+    bool TakeOver() { return File.removeStaleLockFile() && File.tryLock(0); }
     QLockFile File;
 };
 
 InstanceLock::InstanceLock(const QString& Path) : mState(std::make_unique<State>(Path)) {}
 InstanceLock::~InstanceLock() = default;
 bool InstanceLock::TryLock() {
-    return mState->File.tryLock(0) || mState->File.error() != QLockFile::LockFailedError;
+    return mState->File.tryLock(0) || mState->File.error() != QLockFile::LockFailedError ||
+           mState->TakeOver();
 }
 
 }  // namespace neb

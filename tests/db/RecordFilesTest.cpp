@@ -1,10 +1,12 @@
 // Golden records of every type, written by hand byte for byte: read field by field, written
 // again to the same bytes.
 #include <gtest/gtest.h>
+#include <QFile>
 
 #include "Fixtures.h"
 #include "db/RecordCodec.h"
 #include "db/modLoadRecords.h"
+#include "support/Fault.h"
 
 namespace neb {
 namespace {
@@ -284,6 +286,16 @@ TEST(PackedRecords, UnpackToTheirBytesAlsoWhenTheyAreMany) {
     const auto Again = PackedRecords::FromBytes(Out.Bytes(), Out.Length());
     ASSERT_TRUE(Again);
     EXPECT_EQ(Again->Unpack(), All);
+}
+
+TEST(RecordSource, AnythingButAFileUnderTheNameIsAFaultAndNotMissingRecords) {
+    TempFolder Dir;
+    const RecordSource Source = RecordsInDirectory(Dir.Path());
+    EXPECT_FALSE(Source(RecordFile::Albums));
+    MakeDirs(Dir / "Albums.dat");
+    EXPECT_THROW(Source(RecordFile::Albums), Fault);
+    QFile::link("unplugged/Slides.dat", Dir / "Slides.dat");
+    EXPECT_THROW(Source(RecordFile::Slides), Fault);
 }
 
 TEST(PackedRecords, LongRunsWithoutBlanksAreKept) {

@@ -1,5 +1,7 @@
 #include "shell/modNEBSlideShow.h"
 
+#include <QDir>
+
 #include "harness/ScriptedBoxes.h"
 #include "harness/TempFolder.h"
 #include "shell/clsFileSystem.h"
@@ -66,6 +68,17 @@ TEST_F(ShellTest, ADBPathOfTheSettingsGetsItsClosingSeparator) {
     EXPECT_EQ(u"D:\\Pictures\\", WithDBPath("D:\\Pictures"));
     EXPECT_EQ(u"D:\\Pictures\\", WithDBPath("D:\\Pictures\\"));
     EXPECT_EQ(u"/srv/My Pictures/", WithDBPath("\"/srv/My Pictures\""));
+}
+
+TEST_F(ShellTest, RelativePathsMeanTheSameWhereverTheProgramWasStarted) {
+    EXPECT_EQ(Home() + QStringLiteral("albums/"), WithDBPath("albums"));
+    EXPECT_EQ(Documents / QStringLiteral("NEB/albums/"), WithDBPath("../albums/"));
+    const QString Before = QDir::currentPath();
+    QDir::setCurrent(Documents.Path());
+    SetDocumentsPath(QStringLiteral("stick"));
+    QDir::setCurrent(Before);
+    EXPECT_EQ(Documents / QStringLiteral("stick/NEB/NEB Slide Show/"), DBPath());
+    SetDocumentsPath(Documents.Path());
 }
 
 TEST_F(ShellTest, AnEmptyDBPathCountsAsNone) {

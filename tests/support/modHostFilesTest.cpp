@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <QDir>
 #include <QFile>
 
 #include "harness/TempFolder.h"
@@ -168,6 +169,56 @@ TEST(HostFiles, TheLockIsRefusedToASecondHolderAndFreeAfterwards) {
     }
     InstanceLock Third(Dir / "lock");
     EXPECT_TRUE(Third.TryLock());
+}
+
+TEST(HostFiles, ALockCutShortOrFromAnotherMachineDoesNotCount) {
+    TempFolder Dir;
+    for (const QByteArray Left : {"", "garb", "1\nneb-slide-show\nanother-machine\n\n\n"}) {
+        WriteFile(Dir / "lock", Left);
+        InstanceLock Next(Dir / "lock");
+        EXPECT_TRUE(Next.TryLock()) << Left.toStdString();
+    }
+}
+
+TEST(HostFiles, ALiveHolderIsRespectedWhateverTheLockFileSays) {
+    TempFolder Dir;
+    InstanceLock First(Dir / "lock");
+    ASSERT_TRUE(First.TryLock());
+    WriteFile(Dir / "lock", {});
+    InstanceLock Second(Dir / "lock");
+    EXPECT_FALSE(Second.TryLock());
+}
+
+TEST(HostFiles, ALockTakesEitherSeparator) {
+    TempFolder Dir;
+    InstanceLock First(Dir.Path().chopped(1) + "\\lock");
+    EXPECT_TRUE(First.TryLock());
+    EXPECT_TRUE(FileExists(Dir / "lock"));
+}
+
+TEST(HostFiles, AReaderRefusesAPipeAtOnce) {
+    TempFolder Dir;
+    ASSERT_EQ(::mkfifo(QFile::encodeName(Dir / "pipe").constData(), 0600), 0);
+    EXPECT_THROW(HostReader(Dir / "pipe"), Fault);
+    EXPECT_THROW(ReadFile(Dir / "pipe"), Fault);
+}
+
+TEST(HostFiles, ALinkThatLeadsNowhereIsANameButNoFile) {
+    TempFolder Dir;
+    QFile::link("nowhere", Dir / "link");
+    EXPECT_TRUE(NameExists(Dir / "link"));
+    EXPECT_FALSE(FileExists(Dir / "link"));
+    EXPECT_FALSE(NameExists(Dir / "nothing"));
+    EXPECT_TRUE(NameExists(Dir.Path()));
+}
+
+TEST(HostFiles, OnlyRelativePathsAreMadeAbsolute) {
+    EXPECT_EQ(AbsolutePath("db", "/a/b/"), u"/a/b/db");
+    EXPECT_EQ(AbsolutePath("../c\\d", "/a/b/"), u"/a/c/d");
+    EXPECT_EQ(AbsolutePath("/x/../y", "/a"), u"/x/../y");
+    EXPECT_EQ(AbsolutePath("D:\\Pictures", "/a"), u"D:\\Pictures");
+    EXPECT_EQ(AbsolutePath("\\\\host\\share", "/a"), u"\\\\host\\share");
+    EXPECT_EQ(AbsolutePath(".", {}), QDir::currentPath());
 }
 
 }  // namespace
