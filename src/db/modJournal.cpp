@@ -175,6 +175,12 @@ bool MayWriteDatabase(const QString& DBPath) {
     return !IsReadOnly(DBPath) && !(FileExists(Counters) && IsReadOnly(Counters));
 }
 
+bool CountersAreMissing(const QString& DBPath) {
+    return FileSize(RecordPath(DBPath, RecordFile::Albums)) > 0 &&
+           !NameExists(RecordPath(DBPath, RecordFile::NextIDs)) &&
+           ReadJournal(DBPath) != JournalState::Whole;
+}
+
 void RecoverDatabase(const QString& DBPath) {
     RecordImage Image;
     const JournalState State = ReadJournal(DBPath, &Image);

@@ -37,6 +37,10 @@ void WriteDatabase(const QString& DBPath, const RecordImage& Image);
 // False when the directory or its NextIDs.dat is read-only: then nothing is ever written.
 bool MayWriteDatabase(const QString& DBPath);
 
+// True when albums are there but not the counters, without which a directory counts as a new
+// database: its albums would be overwritten.
+bool CountersAreMissing(const QString& DBPath);
+
 // Carries out a whole journal and removes a torn one.
 void RecoverDatabase(const QString& DBPath);
 

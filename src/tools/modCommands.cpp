@@ -75,6 +75,8 @@ int RunGuarded(const Command& Row, const QStringList& Arguments, ToolIO& IO) {
         Code = Row.Run(Arguments, IO);
     } catch (const Fault& Problem) {
         return Fail(IO, Problem.Text().replace(u'\n', u' '));
+    } catch (const std::bad_alloc&) {
+        return Fail(IO, QStringLiteral("There is not enough memory; nebctl check may tell why."));
     }
     IO.Out.flush();
     return IO.Out ? Code : Fail(IO, QStringLiteral("The output cannot be written."));

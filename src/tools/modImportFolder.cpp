@@ -16,6 +16,8 @@
 namespace neb {
 namespace {
 
+constexpr qsizetype MaxShowName = 80;  // as wide as its field in the record
+
 struct ImportOrder {
     QString Dir;
     QString Folder;
@@ -77,6 +79,10 @@ std::optional<ImportOrder> ReadOrder(QStringList Arguments, ToolIO& IO) {
                                 "see nebctl import --help."));
         return std::nullopt;
     }
+    if (Order.Show.size() > MaxShowName) {
+        Fail(IO, QStringLiteral("Slide show names must be <= 80 characters long."));
+        return std::nullopt;
+    }
     for (const QString& Place : Places)
         if (!OneDirectory({Place}, IO)) return std::nullopt;
     Order.Dir = WithSeparator(Places[0]);
@@ -94,13 +100,19 @@ class FolderImport {
         const QStringList Paths = ScanDirectory(mOrder.Folder, mOrder.Recurse, [] { return true; });
         if (Paths.isEmpty())
             return Fail(mIO, QStringLiteral("There are no pictures in %1.").arg(mOrder.Folder));
-        if (!FindOrMakeAlbum()) return ExitFailed;
         try {
+            if (!FindOrMakeAlbum()) return ExitFailed;
             EnterAll(Paths);
+            if (mEntered.empty()) {
+                TakeBack();
+                return Fail(mIO, QStringLiteral("No picture in %1 could be read; nothing has been "
+                                                "changed.")
+                                     .arg(mOrder.Folder));
+            }
             if (!mOrder.Show.isEmpty()) MakeShow();
             mEngine.FinalizeDB();
-        } catch (const Fault&) {
-            TakeBack();
+        } catch (const std::exception&) {
+            GiveUp();
             throw;
         }
         PrintLine(mIO.Out, QStringLiteral("%1 pictures imported into the album \"%2\".")
@@ -155,6 +167,15 @@ class FolderImport {
         for (const std::int32_t SlideID : mEntered) SlideShow->SaveDetail(SlideID, ++SlideSeq, {});
     }
 
+    // Once the journal is whole the import stands: the next start will complete it, and its records
+    // need their pictures.
+    void GiveUp() {
+        if (!mAlbum) return;
+        if (ReadJournal(mOrder.Dir) != JournalState::Whole) return TakeBack();
+        Fail(mIO, QStringLiteral("The pictures are in, but the records are not all written; "
+                                 "nebctl rewrite or the next start of the program will do it."));
+    }
+
     void TakeBack() {
         if (mIsNew) return DropAlbum(mEngine, mAlbum->AlbumID);
         for (std::int32_t SlideID = mFirstSlideID; SlideID < mEngine.NextSlideID; ++SlideID)
@@ -169,6 +190,18 @@ class FolderImport {
     std::int32_t mFirstSlideID = mEngine.NextSlideID;
     std::vector<std::int32_t> mEntered;
 };
+
+// A counter that is not above all that is there would give new pictures the places of old ones.
+bool CountersAreSound(const clsDBEngine& Engine) {
+    for (const auto& Album : Engine.Albums) {
+        if (Album->AlbumID >= Engine.NextAlbumID) return false;
+        for (const auto& Slide : Album->Slides)
+            if (Slide->SlideID >= Engine.NextSlideID) return false;
+        for (const auto& Show : Album->SlideShows)
+            if (Show->SlideShowID >= Engine.NextSlideShowID) return false;
+    }
+    return true;
+}
 
 }  // namespace
 
@@ -185,6 +218,10 @@ int RunImport(const QStringList& Arguments, ToolIO& IO) {
     clsDBEngine Engine;
     Engine.SetDBPath(Order->Dir);
     Engine.InitializeDB();
+    if (CountersAreMissing(Order->Dir) || !CountersAreSound(Engine))
+        return Fail(IO, QStringLiteral("NextIDs.dat in %1 is missing or damaged, so that new "
+                                       "pictures might replace old ones; see nebctl check.")
+                            .arg(Order->Dir));
     return FolderImport(Engine, *Order, IO).Run();
 }
 

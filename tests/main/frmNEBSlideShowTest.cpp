@@ -113,6 +113,28 @@ TEST_F(MainWindow, TheRecordsReachTheDiskAtTheEndAndOnlyThen) {
     EXPECT_TRUE(DBEngine->FindAlbum(0, "HOLIDAYS"));
 }
 
+TEST_F(MainWindow, AlbumsWithoutTheirCountersAreNotOverwritten) {
+    Start();
+    SaveAlbum("Holidays");
+    mWindow->close();
+    DeleteFile(DBPath() + "NextIDs.dat");
+    mWindow = std::make_unique<frmNEBSlideShow>();
+    EXPECT_THROW(mWindow->Form_Load({}), Fault);
+    mWindow->close();
+    EXPECT_EQ(FileSize(DBPath() + "Albums.dat"), 86);
+    EXPECT_FALSE(FileExists(DBPath() + "NextIDs.dat"));
+}
+
+TEST_F(MainWindow, SettingsThatCannotBeWrittenDoNotKeepTheProgramFromStarting) {
+    SetHostWatcher([](HostStep Step, const QString& Path, qint64&) {
+        if (Step == HostStep::Write && Path.contains(u"QLM.ini")) throw Fault("no", Path);
+    });
+    mWindow = std::make_unique<frmNEBSlideShow>();
+    TheOpeners().SpeedTest = [] { return SpeedTestResult(); };
+    EXPECT_NO_THROW(mWindow->Form_Load({}));
+    EXPECT_TRUE(DBEngine);
+}
+
 TEST_F(MainWindow, TempIsEmptiedAtTheEnd) {
     Start();
     WriteFile(DBPath() + "Temp/tmp.wav", "x");

@@ -2,16 +2,23 @@
 #include "shell/main/modMain.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <QApplication>
+#include <QFile>
 #include <QProcess>
 #include <QTest>
+#include <QTimer>
 
 #include <csignal>
 
 #include "db/modDatabaseLock.h"
 #include "harness/ScriptedBoxes.h"
 #include "harness/TempFolder.h"
+#include "shell/main/frmAbout.h"
+#include "shell/main/frmNEBSlideShow.h"
+#include "shell/modNEBSlideShow.h"
 #include "support/modHostFiles.h"
 
 namespace neb {
@@ -52,6 +59,43 @@ TEST(Main, APlaceWhereNoLockCanBeWrittenLocksNothing) {
 }
 
 // The real program, started and asked to end by the system.
+TEST(Main, SettingsThatCannotBeReadEndInABox) {
+    harness::TempFolder Documents;
+    harness::ScriptedBoxes Boxes;
+    SetDocumentsPath(Documents.Path());
+    MakeDirs(SettingsDir());
+    const QString Pipe = SettingsDir() + INIFileName();
+    ASSERT_EQ(::mkfifo(QFile::encodeName(Pipe).constData(), 0600), 0);
+    Boxes.Expect(
+        "The settings cannot be read, so that it is not known where the albums are.\n\nThe "
+        "file cannot be read: it is no ordinary file.\n" +
+            Pipe,
+        "Settings Cannot Be Read", BoxIcon::Critical, BoxAnswer::Ok);
+    EXPECT_FALSE(DatabaseToOpen());
+    DeleteFile(Pipe);
+    EXPECT_EQ(DatabaseToOpen(), SettingsDir());
+    EXPECT_TRUE(FolderExists(SettingsDir()));
+}
+
+TEST(Main, ARequestToEndWaitsForTheWorkInAModalWindow) {
+    harness::TempFolder Documents;
+    harness::ScriptedBoxes Boxes;
+    SetDocumentsPath(Documents.Path());
+    frmNEBSlideShow Window;
+    Window.Form_Load({});
+    bool StillThere = false;
+    QTimer::singleShot(0, &Window, [&StillThere] {
+        NewForm<frmAbout>()->ShowModal();
+        StillThere = DBEngine != nullptr;
+    });
+    QTimer::singleShot(100, &Window, [&Window] { CloseWhenIdle(Window); });
+    QTimer::singleShot(10000, &Window, &QApplication::quit);
+    QApplication::exec();
+    EXPECT_TRUE(StillThere) << "what follows the modal window still has its database";
+    EXPECT_EQ(DBEngine, nullptr);
+    EXPECT_EQ(FileSize(DBPath() + "NextIDs.dat"), 12);
+}
+
 TEST(Main, ARequestToEndSavesTheAlbums) {
     harness::TempFolder Documents;
     QProcess Program;

@@ -327,6 +327,16 @@ TEST_F(NebctlTest, RewriteRefusesADirectoryWithoutCounters) {
     EXPECT_EQ(Everything(Dir.Path()), Before);
 }
 
+TEST_F(NebctlTest, ARecordFileTooLargeForTheMemoryIsAnErrorAndNoCrash) {
+#ifdef __SANITIZE_ADDRESS__
+    GTEST_SKIP() << "the sanitizer ends the process where the memory would only be refused";
+#endif
+    ASSERT_TRUE(QFile::resize(Dir / u"EffectStats.dat"_s, qint64{1} << 43));
+    const Outcome Result = Tool({u"dump"_s, Dir.Path()});
+    EXPECT_EQ(Result.Code, ExitFailed);
+    EXPECT_TRUE(Result.Err.contains(u"memory"_s)) << Result.Err.toStdString();
+}
+
 TEST_F(NebctlTest, AFullDiskIsReportedOnErr) {
     SetHostWatcher([](HostStep Step, const QString&, qint64& Length) {
         if (Step == HostStep::Write) Length = 0;
@@ -473,6 +483,48 @@ TEST_F(NebctlImportTest, AFullDiskLeavesEverythingAsItWas) {
     EXPECT_EQ(Failed.Code, ExitFailed);
     EXPECT_TRUE(Failed.Err.contains(u"cannot be written"_s));
     EXPECT_TRUE(Everything(Database()) == Before);
+}
+
+TEST_F(NebctlImportTest, NothingIsChangedWhenNoPictureCanBeRead) {
+    for (const QString& Name : ListMask(Pictures() + u"*.*"_s))
+        WriteFile(Pictures() + Name, "this is no picture");
+    const Outcome Failed = Import({});
+    EXPECT_EQ(Failed.Code, ExitFailed);
+    EXPECT_TRUE(Failed.Err.contains(u"No picture in "_s));
+    EXPECT_EQ(OpenEngine(Database())->NextAlbumID, 1);
+    EXPECT_TRUE(ListDir(Database() + u"Albums/"_s).empty());
+}
+
+TEST_F(NebctlImportTest, WithoutSoundCountersThePicturesThatAreThereAreLeftAlone) {
+    Import({});
+    for (const QByteArray Counters : {"", "\2\0\0\0"}) {
+        WriteFile(Database() + u"NextIDs.dat"_s, Counters);
+        const QStringList Before = Everything(Database());
+        EXPECT_TRUE(Import({}).Err.contains(u"NextIDs.dat"_s));
+        EXPECT_TRUE(Everything(Database()) == Before);
+    }
+    DeleteFile(Database() + u"NextIDs.dat"_s);
+    const QStringList Before = Everything(Database());
+    EXPECT_EQ(Import({}).Code, ExitFailed);
+    EXPECT_TRUE(Everything(Database()) == Before);
+}
+
+TEST_F(NebctlImportTest, AWriteThatStopsBehindItsJournalKeepsThePicturesForTheNextStart) {
+    SetHostWatcher([](HostStep Step, const QString& Path, qint64&) {
+        if (Step == HostStep::Write && Path.endsWith(u"Slides.dat")) throw Fault(u"no"_s, Path);
+    });
+    const Outcome Failed = Import({});
+    SetHostWatcher({});
+    EXPECT_EQ(Failed.Code, ExitFailed);
+    EXPECT_TRUE(Failed.Err.contains(u"nebctl rewrite"_s));
+    EXPECT_EQ(Tool({u"rewrite"_s, Database()}).Code, ExitDone);
+    EXPECT_EQ(OpenEngine(Database())->Albums[0]->Slides.size(), 2U);
+    EXPECT_EQ(Tool({u"check"_s, Database()}).Code, ExitDone);
+}
+
+TEST_F(NebctlImportTest, AShowNameThatIsTooLongIsRefused) {
+    EXPECT_EQ(Import({u"--show"_s, QString(81, u'x')}).Code, ExitFailed);
+    EXPECT_EQ(Import({u"--show"_s, QString(80, u'x')}).Code, ExitDone);
 }
 
 TEST_F(NebctlImportTest, ADatabaseInUseOrReadOnlyIsLeftAlone) {

@@ -6,6 +6,7 @@
 #include <QStatusBar>
 
 #include "db/clsDBEngine.h"
+#include "db/modJournal.h"
 #include "intake/clsImageBuffer.h"
 #include "platform/FlexGrid.h"
 #include "shell/main/MainMenu.h"
@@ -72,7 +73,7 @@ void frmNEBSlideShow::Form_Load(const CommandLine& Line) {
     CheckReadOnly();
     if (!ReadOnlyDB) {
         Log("If not read-only, call Speed Tests routine.");
-        EnsureMachineSettings();
+        IgnoringFaults(&EnsureMachineSettings);  // it is tried again at the next start
     }
     Log("Attempt to make child dirs.");
     MakeChildDirs();
@@ -84,6 +85,11 @@ void frmNEBSlideShow::Form_Load(const CommandLine& Line) {
 
 void frmNEBSlideShow::LoadDatabase() {
     Log("Starting Initializing and Buffering Database");
+    if (CountersAreMissing(DBPath()))
+        throw Fault(tr("A file is missing, without which new pictures would take the places of old "
+                       "ones. Put it back from a backup; or, to begin without albums, move "
+                       "Albums.dat away."),
+                    DBPath() + QStringLiteral("NextIDs.dat"));
     mEngine = std::make_unique<clsDBEngine>();
     mEngine->SetDBPath(DBPath());
     mEngine->SetProgramPath(AppPath());

@@ -28,6 +28,8 @@ class frmNEBSlideShow : public QMainWindow {
     // The start-up sequence: shows the window, loads the database, makes ready. Throws Fault when
     // the database cannot be read; the program is then to end without writing anything.
     void Form_Load(const CommandLine& Line);
+    // Takes the windows off the screen, one after the other; false when one has refused.
+    bool UnloadForms();
     // The end: unloads all forms, empties Temp, writes the database. False when a window refused
     // or the database could not be written and the user stays; the program then goes on.
     bool Unload();
@@ -52,7 +54,6 @@ class frmNEBSlideShow : public QMainWindow {
     void CheckReadOnly();
     void MakeChildDirs();
     void CreateImageBuffer();
-    bool UnloadForms();
     bool WriteDatabase();
     void PlayActiveShow();
     void ShowHelp(const QString& Anchor);

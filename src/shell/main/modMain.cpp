@@ -1,5 +1,7 @@
 #include "shell/main/modMain.h"
 
+#include <QThread>
+#include <QTimer>
 #include <cstdio>
 
 #include "db/modDatabaseLock.h"
@@ -11,10 +13,13 @@
 #include "support/Fault.h"
 #include "support/Services.h"
 #include "support/modHostFiles.h"
+#include "support/windows/Form.h"
 #include "support/windows/NebApplication.h"
 
 namespace neb {
 namespace {
+
+constexpr int RetryMs = 50;
 
 // Answers what needs no window; the exit code, or -1 to go on.
 int AnswerOnTerminal(const CommandLine& Line) {
@@ -26,19 +31,21 @@ int AnswerOnTerminal(const CommandLine& Line) {
     return 2;
 }
 
+int TellUnreadable(const std::exception& Problem) {
+    MsgBox(QObject::tr("The albums cannot be read. Nothing has been changed.\n\n%1")
+               .arg(QString::fromUtf8(Problem.what())),
+           QObject::tr("Albums Cannot Be Read"), BoxIcon::Critical);
+    return 1;
+}
+
 int RunMainWindow(const CommandLine& Line) {
     frmNEBSlideShow Window;
-    const TerminationWatch Watch([&Window] {
-        if (Window.close()) QApplication::quit();  // boxes that are open end with it
-    });
     try {
         Window.Form_Load(Line);
-    } catch (const Fault& Problem) {
-        MsgBox(QObject::tr("The albums cannot be read. Nothing has been changed.\n\n%1")
-                   .arg(Problem.Text()),
-               QObject::tr("Albums Cannot Be Read"), BoxIcon::Critical);
-        return 1;
+    } catch (const std::exception& Problem) {
+        return TellUnreadable(Problem);
     }
+    const TerminationWatch Watch([&Window] { CloseWhenIdle(Window); });
     if (!Line.Folder.isEmpty())
         QMetaObject::invokeMethod(
             &Window, [&] { Window.OpenQuickShow(Line.Folder); }, Qt::QueuedConnection);
@@ -46,6 +53,32 @@ int RunMainWindow(const CommandLine& Line) {
 }
 
 }  // namespace
+
+std::optional<QString> DatabaseToOpen() {
+    try {
+        MakeDir(DBPath());
+        return DBPath();
+    } catch (const Fault& Problem) {
+        MsgBox(QObject::tr("The settings cannot be read, so that it is not known where the albums "
+                           "are.\n\n%1")
+                   .arg(Problem.Text()),
+               QObject::tr("Settings Cannot Be Read"), BoxIcon::Critical);
+        return std::nullopt;
+    }
+}
+
+// What runs inside a modal window works on the database, which must not go away under it: the
+// windows go first, then, once their work has ended, the program.
+void CloseWhenIdle(frmNEBSlideShow& Window) {
+    if (QThread::currentThread()->loopLevel() <= 1) {
+        if (Window.close()) QApplication::quit();
+        return;
+    }
+    QWidget* Modal = QApplication::activeModalWidget();
+    if (Modal && !qobject_cast<Form*>(Modal)) Modal->close();
+    Window.UnloadForms();
+    QTimer::singleShot(RetryMs, &Window, [&Window] { CloseWhenIdle(Window); });
+}
 
 bool BecomeTheInstance(InstanceLock& Lock) {
     if (Lock.TryLock()) return true;
@@ -63,8 +96,9 @@ int Main(int argc, char** argv) {
 
     if (!Line.Documents.isEmpty()) SetDocumentsPath(Line.Documents);
 
-    MakeDir(DBPath());
-    InstanceLock Lock(DatabaseLockPath(DBPath()));
+    const std::optional<QString> Database = DatabaseToOpen();
+    if (!Database) return 1;
+    InstanceLock Lock(DatabaseLockPath(*Database));
     if (!BecomeTheInstance(Lock)) return 0;
     return RunMainWindow(Line);
 }

@@ -2,9 +2,19 @@
 // and runs the event loop.
 #pragma once
 
+#include <QString>
+#include <optional>
+
 namespace neb {
 
 class InstanceLock;
+class frmNEBSlideShow;
+
+// The database directory, made if need be; none after a box when the settings cannot be read.
+std::optional<QString> DatabaseToOpen();
+// Closes the program as soon as no modal window is open any more; unloads those that are. For
+// the event loop itself to call.
+void CloseWhenIdle(frmNEBSlideShow& Window);
 
 // Takes the lock of the one running instance; false after a box when another one runs.
 bool BecomeTheInstance(InstanceLock& Lock);
