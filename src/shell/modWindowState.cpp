@@ -120,11 +120,13 @@ QPoint ChildPlace(const Form& Window, int Mode) {
 void PositionMDIChild(Form& Window, int Mode) {
     const QPoint Place = ChildPlace(Window, Mode);
     QWidget& Frame = FrameOf(Window);
-    // A maximised window keeps the frame filled; the place is for its normal size.
+    // A maximised window keeps the frame filled; the place is for its normal size. The state of
+    // any other is left alone: the frame would go back to an earlier size.
     const Qt::WindowStates State = Frame.windowState();
-    Frame.setWindowState(Qt::WindowNoState);
+    const bool Filled = State.testFlag(Qt::WindowMaximized);
+    if (Filled) Frame.setWindowState(State & ~Qt::WindowMaximized);
     Frame.move(ToPixels(Place.x()), ToPixels(Place.y()));
-    Frame.setWindowState(State);
+    if (Filled) Frame.setWindowState(State);
 }
 
 }  // namespace neb

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 #include <QAction>
+#include <QDir>
 #include <QFile>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -133,6 +134,24 @@ TEST_F(MainWindow, SettingsThatCannotBeWrittenDoNotKeepTheProgramFromStarting) {
     TheOpeners().SpeedTest = [] { return SpeedTestResult(); };
     EXPECT_NO_THROW(mWindow->Form_Load({}));
     EXPECT_TRUE(DBEngine);
+}
+
+TEST_F(MainWindow, AFolderOfTheCommandLineIsFoundFromTheWorkingDirectoryOrMissed) {
+    Start();
+    const QString Before = QDir::currentPath();
+    QDir::setCurrent(mDocuments.Path());
+    MakeDirs("pictures");
+    mWindow->OpenQuickShow("pictures");
+    EXPECT_EQ(Find<frmQuickShow>()->ImportDir(), mDocuments / "pictures");
+    Find<frmQuickShow>()->Unload();
+    WriteFile("picture.png", "x");
+    for (const QString Name : {"nowhere", "picture.png"}) {
+        mBoxes.Expect("There is no folder " + Name + ".", "No Such Folder", BoxIcon::Critical,
+                      BoxAnswer::Ok);
+        mWindow->OpenQuickShow(Name);
+        EXPECT_FALSE(Find<frmQuickShow>());
+    }
+    QDir::setCurrent(Before);
 }
 
 TEST_F(MainWindow, TempIsEmptiedAtTheEnd) {

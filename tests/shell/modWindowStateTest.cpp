@@ -89,6 +89,18 @@ TEST_F(WindowStateTest, WithNoOtherChildANewOneOpensAtTheCorner) {
     EXPECT_EQ(QPoint(0, 0), FrameOf(Window).pos());
 }
 
+TEST_F(WindowStateTest, PlacingAnActiveChildLeavesItsSizeAlone) {
+    const auto Window = NewForm<TestForm>();
+    QMdiSubWindow* Frame = Area->addSubWindow(Window.get());
+    Window->Load();
+    Frame->setWindowState(Qt::WindowActive);  // as after a modal window has closed
+    Frame->resize(700, 500);
+    PositionMDIChild(*Window, 1);
+    Window->ShowModeless();
+    Settle();
+    EXPECT_EQ(QSize(700, 500), Frame->size());
+}
+
 TEST_F(WindowStateTest, TheCascadeTakesTopAndLeftFromTheOutermostEachByItself) {
     const auto One = ChildAt(330, 0), Two = ChildAt(0, 990);
     EXPECT_EQ(QPoint(1320, 660), Place(1));

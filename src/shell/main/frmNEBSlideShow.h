@@ -35,7 +35,7 @@ class frmNEBSlideShow : public QMainWindow {
     bool Unload();
     // Unloads a form, ignoring faults.
     void UnloadChild(Form& Child);
-    // Opens Quick Show on a folder, or with no folder yet.
+    // Opens Quick Show on a folder (a box when it is none), or with no folder yet.
     void OpenQuickShow(const QString& Folder = {});
 
     FlexGrid* flxBuffer() const { return mBuffer; }

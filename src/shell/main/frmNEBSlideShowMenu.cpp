@@ -16,6 +16,7 @@
 #include "shell/modWindowState.h"
 #include "support/Fault.h"
 #include "support/Services.h"
+#include "support/modHostFiles.h"
 #include "support/modNumbers.h"
 
 namespace neb {
@@ -91,8 +92,12 @@ void frmNEBSlideShow::ShowAsChild(Form& Child) {
 }
 
 void frmNEBSlideShow::OpenQuickShow(const QString& Folder) {
+    if (!Folder.isEmpty() && !FolderExists(Folder)) {
+        MsgBox(tr("There is no folder %1.").arg(Folder), tr("No Such Folder"), BoxIcon::Critical);
+        return;
+    }
     const auto Window = NewForm<frmQuickShow>();
-    if (!Folder.isEmpty()) Window->SetImportDir(Folder);
+    if (!Folder.isEmpty()) Window->SetImportDir(AbsolutePath(Folder));
     ShowAsChild(*Window);
 }
 
