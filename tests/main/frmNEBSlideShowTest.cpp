@@ -9,6 +9,8 @@
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPushButton>
+#include <QSet>
 #include <QTest>
 
 #include "db/clsDBEngine.h"
@@ -152,6 +154,19 @@ TEST_F(MainWindow, AFolderOfTheCommandLineIsFoundFromTheWorkingDirectoryOrMissed
         EXPECT_FALSE(Find<frmQuickShow>());
     }
     QDir::setCurrent(Before);
+}
+
+TEST_F(MainWindow, TheMenuBarLeavesTheKeysOfTheButtonsInsideAlone) {
+    Start();
+    mWindow->OpenQuickShow();
+    QSet<QKeySequence> Menus;
+    for (const QAction* Header : mWindow->menuBar()->actions()) {
+        EXPECT_FALSE(Menus.contains(QKeySequence::mnemonic(Header->text())));
+        Menus.insert(QKeySequence::mnemonic(Header->text()));
+    }
+    for (const QPushButton* Button : Find<frmQuickShow>()->findChildren<QPushButton*>())
+        EXPECT_FALSE(Menus.contains(Button->shortcut()) && !Button->shortcut().isEmpty())
+            << qPrintable(Button->text());
 }
 
 TEST_F(MainWindow, TempIsEmptiedAtTheEnd) {

@@ -18,7 +18,7 @@ struct Header {
 constexpr Header Headers[] = {
     {"mnuFileHdr", "&File"},
     {"mnuAlbumHdr", "&Album"},
-    {"mnuSlideShowHdr", "&Slide Show"},
+    {"mnuSlideShowHdr", "S&lide Show"},  // Alt+S is Save in the windows inside
     {"mnuImportExportHdr", "&Import/Export"},
     {"mnuPrintHdr", "&Print"},
     {"mnuWindows", "&Window"},
