@@ -96,6 +96,21 @@ TEST(Main, ARequestToEndWaitsForTheWorkInAModalWindow) {
     EXPECT_EQ(FileSize(DBPath() + "NextIDs.dat"), 12);
 }
 
+TEST(Main, HelpAndVersionNeedNoDisplay) {
+    for (const QString Word : {"--help", "--version"}) {
+        QProcess Program;
+        QProcessEnvironment Environment = QProcessEnvironment::systemEnvironment();
+        Environment.insert("QT_QPA_PLATFORM", "xcb");
+        Environment.insert("DISPLAY", ":4711");
+        Program.setProcessEnvironment(Environment);
+        Program.start(NEB_BINARY_DIR "/bin/neb-slide-show", {Word});
+        ASSERT_TRUE(Program.waitForFinished(20000));
+        EXPECT_EQ(Program.exitStatus(), QProcess::NormalExit);
+        EXPECT_EQ(Program.exitCode(), 0);
+        EXPECT_TRUE(Program.readAllStandardOutput().contains("lide")) << qPrintable(Word);
+    }
+}
+
 TEST(Main, ARequestToEndSavesTheAlbums) {
     harness::TempFolder Documents;
     QProcess Program;

@@ -21,6 +21,13 @@ namespace {
 
 constexpr int RetryMs = 50;
 
+// The words as typed, before the toolkit has taken its own out: it wants a display first.
+QStringList WordsOf(int argc, char** argv) {
+    QStringList Words;
+    for (int I = 1; I < argc; ++I) Words.append(QString::fromLocal8Bit(argv[I]));
+    return Words;
+}
+
 // Answers what needs no window; the exit code, or -1 to go on.
 int AnswerOnTerminal(const CommandLine& Line) {
     if (Line.WantsHelp) return std::fputs(qPrintable(CommandLineHelp()), stdout), 0;
@@ -88,6 +95,8 @@ bool BecomeTheInstance(InstanceLock& Lock) {
 }
 
 int Main(int argc, char** argv) {
+    const CommandLine Asked = ParseCommandLine(WordsOf(argc, argv));
+    if (Asked.WantsHelp || Asked.WantsVersion) return AnswerOnTerminal(Asked);
     NebApplication App(argc, argv);
     const DesktopServices Services;
     const CommandLine Line = ParseCommandLine(App.arguments().mid(1));
