@@ -16,6 +16,14 @@ constexpr int PollMs = 30;
 constexpr int SettlePolls = 6;      // until what has just opened is painted
 constexpr int PatienceMs = 120000;  // a slow machine reads many pictures
 
+// The whole screen; where the desktop does not give that out, the window in front.
+QPixmap GrabScreen() {
+    const QPixmap Screen = QApplication::primaryScreen()->grabWindow(0);
+    QWidget* Front = QApplication::activeModalWidget() ? QApplication::activeModalWidget()
+                                                       : QApplication::activeWindow();
+    return Screen.isNull() && Front ? Front->grab() : Screen;
+}
+
 }  // namespace
 
 void Tour::Start() {
@@ -58,7 +66,7 @@ void Tour::TakeShot(const QString& Name) {
     QByteArray Png;
     QBuffer Buffer(&Png);
     Buffer.open(QIODevice::WriteOnly);
-    QApplication::primaryScreen()->grabWindow(0).save(&Buffer, "PNG");
+    GrabScreen().save(&Buffer, "PNG");
     neb::WriteFile(File, Png);
     std::printf("  %s\n", qPrintable(File));
     std::fflush(stdout);

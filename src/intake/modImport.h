@@ -41,7 +41,7 @@ struct PictureToImport {
     QImage Thumbnail;  // 72 by 72; a null one writes no thumbnail
 };
 
-// Prepares the stored JPEGs of many pictures ahead on helper threads and enters them one by one,
+// Prepares the stored JPEGs of many pictures ahead on worker threads and enters them one by one,
 // in order, on the caller's thread.
 class PictureImport {
   public:

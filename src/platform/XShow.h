@@ -17,7 +17,7 @@ class XShow : public QWidget {
     explicit XShow(QWidget* Parent = nullptr);
     ~XShow() override;
 
-    // What reads the picture files, for all views; called on helper threads, too.
+    // What reads the picture files, for all views; called on worker threads, too.
     static void SetReader(PictureReader Reader);
 
     // Takes the picture that comes next, without showing it; a running transition goes on to

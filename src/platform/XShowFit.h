@@ -1,5 +1,5 @@
 // How a picture lies in the transition view: fitted or at its own size, in proportion or not,
-// centred or not, on black. Used by XShow, on helper threads as well.
+// centred or not, on black. Used by XShow, on worker threads as well.
 #pragma once
 
 #include <QImage>

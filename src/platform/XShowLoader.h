@@ -1,4 +1,4 @@
-// Reads pictures for the transition view, ahead of time on a helper thread where it is asked to.
+// Reads pictures for the transition view, ahead of time on a worker thread where it is asked to.
 // Used by XShow alone.
 #pragma once
 

@@ -1,6 +1,6 @@
 // The names of the directories looked into last, by their upper-cased form, so that finding a
 // name in another case does not list a directory of thousands of pictures each time. Used by the
-// host file routines alone; safe to call from helper threads.
+// host file routines alone; safe to call from worker threads.
 #pragma once
 
 #include <QString>

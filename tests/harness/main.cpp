@@ -2,9 +2,10 @@
 // caller sets a platform), with the screen size that the windows are judged at.
 #include <gtest/gtest.h>
 
-#include "support/windows/NebApplication.h"
 #include <QFile>
 #include <QTemporaryDir>
+#include "harness/ChildRole.h"
+#include "support/windows/NebApplication.h"
 
 namespace {
 
@@ -33,5 +34,6 @@ int main(int argc, char** argv) {
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     neb::NebApplication App(argc, argv);
     App.setQuitOnLastWindowClosed(false);
+    if (argc == 3 && std::string(argv[1]) == "--role") return neb::harness::Roles().at(argv[2])();
     return RUN_ALL_TESTS();
 }

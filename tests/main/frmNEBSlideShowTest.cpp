@@ -305,6 +305,14 @@ TEST_F(MainWindow, TheFrameOfAChildClosesItAndTheChildCanCloseItself) {
     EXPECT_TRUE(Area->subWindowList().isEmpty());
 }
 
+TEST_F(MainWindow, EscapeLeavesAChildWithItsWorkOpen) {
+    Start();
+    Press("mnuQuickShow");
+    QTest::keyClick(Find<frmQuickShow>(), Qt::Key_Escape);
+    DoEvents();
+    EXPECT_TRUE(Find<frmQuickShow>()->isVisible());
+}
+
 TEST_F(MainWindow, TheEndUnloadsEveryWindow) {
     Start();
     Press("mnuQuickShow");

@@ -178,7 +178,7 @@ TEST_F(XShowTest, AHundredStepsOfTenMillisecondsTakeASecond) {
     const qint64 Taken = Watch.elapsed();
     EXPECT_GE(Taken, 1000);
     // An idle machine takes at most 1050; this one may be building something else.
-    EXPECT_LT(Taken, 1600);
+    EXPECT_LT(Taken, 4000);
     RecordProperty("milliseconds", static_cast<int>(Taken));
 }
 

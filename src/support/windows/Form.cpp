@@ -107,6 +107,10 @@ void Form::LeaveFrame() {
     Frame->deleteLater();
 }
 
+void Form::reject() {
+    if (!qobject_cast<QMdiSubWindow*>(parentWidget())) CloseRequested();
+}
+
 void Form::closeEvent(QCloseEvent* Event) {
     CloseRequested();
     Event->setAccepted(mState == State::Unloaded || mState == State::Created);

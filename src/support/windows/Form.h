@@ -33,7 +33,8 @@ class Form : public QDialog, public std::enable_shared_from_this<Form> {
     virtual void Form_Load() {}
     virtual void Form_Activate() {}  // at every activation
     virtual bool Form_Unload() { return true; }
-    // The close button and Esc: unload, unless a window wants otherwise.
+    // The close button, and Esc outside the main window's frame: unload, unless a window wants
+    // otherwise. A child keeps its work when Esc is pressed once too often.
     virtual void CloseRequested() { Unload(); }
 
     void closeEvent(QCloseEvent* Event) override;
@@ -41,7 +42,7 @@ class Form : public QDialog, public std::enable_shared_from_this<Form> {
     bool event(QEvent* Event) override;
     // Runs Form_Activate as an activation does: a fault ends a modal show and passes out of it.
     void Activate();
-    void reject() override { CloseRequested(); }
+    void reject() override;
     void accept() override {}
 
   private:
