@@ -29,7 +29,7 @@ frmImportFilter::frmImportFilter() : ImportForm(Memory) {
     setObjectName(QStringLiteral("frmImportFilter"));
     setWindowTitle(QStringLiteral("Picture Import Filter"));
     mUi->wdgName->hide();
-    mUi->cmdImport->setText(tr("&Save To Album"));
+    mUi->cmdImport->setText(tr("Sa&ve To Album"));
     mUi->cmdImport->setAccessibleName(tr("Save To Album"));
     mUi->cmdImport->setToolTip(tr("Bring the selected pictures into the album"));
 }

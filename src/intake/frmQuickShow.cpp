@@ -1,6 +1,7 @@
 #include "intake/frmQuickShow.h"
 
 #include "db/clsDBEngine.h"
+#include "platform/FlexGrid.h"
 #include "platform/KeyFilter.h"
 #include "presentation/modSlideShows.h"
 #include "shell/modBroadcast.h"
@@ -24,17 +25,20 @@ constexpr std::int32_t Automatic = 0;  // ProgressionMethod
 frmQuickShow::frmQuickShow() : ImportForm(Memory) {
     setObjectName(QStringLiteral("frmQuickShow"));
     setWindowTitle(QStringLiteral("Quick Show"));
-    mUi->cmdImport->setText(tr("&Save"));
+    mUi->cmdImport->setText(tr("Sa&ve"));  // Alt+S opens a menu of the main window
     mUi->cmdImport->setAccessibleName(tr("Save"));
     mUi->cmdImport->setToolTip(
         QStringLiteral("Create an Album and Slide Show from the Selected Pictures"));
     new KeyFilter(mUi->txtName, &FixQuoteKey);
 }
 
-// The folder's own name is what most people would type.
+// The folder's own name is what most people would type. Whoever begins anew with another folder
+// gets that one's name; a name that was typed stays.
 void frmQuickShow::DirectoryChosen(const QString& Directory) {
-    if (mUi->txtName->text().isEmpty())
-        mUi->txtName->setText(ConvertQuotes(GetFileName(Directory.chopped(1))));
+    const bool Typed = !mUi->txtName->text().isEmpty() && mUi->txtName->text() != mProposedName;
+    if (Typed || mUi->flxSelected->Rows() > 0 || mUi->flxNonSelected->Rows() > 0) return;
+    mProposedName = ConvertQuotes(GetFileName(Directory.chopped(1)));
+    mUi->txtName->setText(mProposedName);
 }
 
 // The show runs when both windows, this one and the one of the progress, have gone.

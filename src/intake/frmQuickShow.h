@@ -30,6 +30,7 @@ class frmQuickShow : public ImportForm {
     bool FillSlideShow(clsNEBSlideShow& SlideShow);
     void DropMadeAlbum();
 
+    QString mProposedName;  // taken from the folder; empty: none yet
     QString mAlbumName;
     std::int32_t mAlbumID = 0;
     std::int32_t mSlideShowID = 0;

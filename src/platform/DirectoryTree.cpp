@@ -65,7 +65,6 @@ DirectoryTree::DirectoryTree(QWidget* Parent)
     mTyped->setToolTip(tr("The directory; type a path and press Enter to go there"));
     mTyped->setCompleter(new QCompleter(mModel, mTyped));
     connect(mTyped, &QLineEdit::editingFinished, this, &DirectoryTree::TakeTyped);
-    setFocusProxy(mTree);
     SetPath(FirstPlace());
 }
 

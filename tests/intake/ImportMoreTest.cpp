@@ -130,6 +130,24 @@ TEST_F(ImportMore, TakesADropOnQuickShowAndItsName) {
     EXPECT_EQ("second", In<QLineEdit>(*Window, "txtName").text().toStdString());
 }
 
+TEST_F(ImportMore, QuickShowIsNamedAfterTheFolderItBeganWithUntilANameIsTyped) {
+    Window = NewForm<frmQuickShow>();
+    Window->ShowModeless();
+    auto& Name = In<QLineEdit>(*Window, "txtName");
+    Choose(Pics / u"first"_s, false);
+    EXPECT_EQ("first", Name.text().toStdString());
+    Boxes.Expect(DiscardQuestion, u"Discard Confirmation"_s, BoxAnswer::No);
+    Choose(Pics / u"second"_s, false);
+    EXPECT_EQ("first", Name.text().toStdString());
+    Boxes.Expect(DiscardQuestion, u"Discard Confirmation"_s, BoxAnswer::Yes);
+    Choose(Pics / u"second"_s, false);
+    EXPECT_EQ("second", Name.text().toStdString());
+    Name.setText(u"My own"_s);
+    Boxes.Expect(DiscardQuestion, u"Discard Confirmation"_s, BoxAnswer::Yes);
+    Choose(Pics / u"first"_s, false);
+    EXPECT_EQ("My own", Name.text().toStdString());
+}
+
 TEST_F(ImportMore, RefusesADropOfTheProgramsAlbums) {
     MakePicture(App / u"Albums/1/Slides/x.jpg"_s);
     Window = ShowFilter(0, {});

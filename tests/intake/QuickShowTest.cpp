@@ -106,6 +106,15 @@ TEST_F(QuickShow, AsksForANameFirst) {
     ExpectNothingMade();
 }
 
+// Reached as a child of the main window, whose menu has the letters F, A, S, I, P, W and H.
+TEST_F(QuickShow, ItsButtonsHaveLettersThatTheMainMenuLeavesFree) {
+    Show(0, {});
+    const auto Letter = QKeySequence::mnemonic(In<QPushButton>(*Window, "cmdImport").text());
+    EXPECT_FALSE(Letter.isEmpty());
+    for (const char Taken : {'F', 'A', 'S', 'I', 'P', 'W', 'H'})
+        EXPECT_NE(QKeySequence(u"Alt+"_s + QLatin1Char(Taken)), Letter);
+}
+
 TEST_F(QuickShow, CleansTheNameAndThenAsksForAPicture) {
     MakeAlbum(u"Mary’s"_s);
     Show(0, u"Mary's"_s);

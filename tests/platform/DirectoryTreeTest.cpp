@@ -132,6 +132,15 @@ TEST_F(DirectoryTreeTest, GoesToATypedDirectoryAndPressesNothingElse) {
 }
 
 // An open list of completions would swallow the user's next click.
+TEST_F(DirectoryTreeTest, IsWalkedThroughWithTheTabKey) {
+    Drives.setFocus();
+    for (QWidget* Next : {static_cast<QWidget*>(&Typed()), static_cast<QWidget*>(&View()),
+                          static_cast<QWidget*>(&Select)}) {
+        QTest::keyClick(Window.focusWidget(), Qt::Key_Tab);
+        EXPECT_EQ(Next, Window.focusWidget());
+    }
+}
+
 TEST_F(DirectoryTreeTest, ProposesNothingMoreOnceATypedDirectoryIsTaken) {
     MakeDirs(Folder / u"fresh/a"_s);
     MakeDirs(Folder / u"fresh/ab"_s);
