@@ -1,5 +1,6 @@
 #include "shell/modWindowState.h"
 
+#include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QScreen>
 
@@ -40,9 +41,14 @@ void PutTwips(clsSettings& Settings, const QString& Section, const char* Key, in
                       ShortestDecimal(static_cast<float>(ToTwips(Pixels))));
 }
 
-QSize WithinScreen(const QWidget& Frame, QSize Wanted) {
+// A child of the main window keeps within the room that is there, so that its buttons are seen.
+QSize WithinRoom(const QWidget& Frame, QSize Wanted) {
     const QScreen* On = Frame.screen();
-    return On ? Wanted.boundedTo(On->availableSize()) : Wanted;
+    const QSize Size = On ? Wanted.boundedTo(On->availableSize()) : Wanted;
+    const auto* Child = qobject_cast<const QMdiSubWindow*>(&Frame);
+    const QMdiArea* Area = Child ? Child->mdiArea() : nullptr;
+    if (!Area || !Area->isVisible()) return Size;
+    return Size.boundedTo(Area->viewport()->size()).expandedTo(Frame.minimumSizeHint());
 }
 
 QPoint TwipsPlace(const QWidget& Frame) {
@@ -90,7 +96,7 @@ void RestoreWindow(Form& Window, const WindowMemory& Memory) {
     if (Memory.DefaultWidth)
         Size.setWidth(
             ReadPixels(Settings, Memory.Section, QStringLiteral("Width"), Memory.DefaultWidth));
-    Frame.resize(WithinScreen(Frame, Size));
+    Frame.resize(WithinRoom(Frame, Size));
     if (!Memory.DefaultWidth) return;
     const QString State = Settings.GetValue(Memory.Section, QStringLiteral("WindowState"), {});
     if (CInt(Val(State)) == Maximised) Frame.setWindowState(Qt::WindowMaximized);

@@ -283,11 +283,11 @@ TEST_F(WindowStateTest, ValuesThatAreNoSizesOpenTheWindowWithItsDefault) {
     }
 }
 
-TEST_F(WindowStateTest, ASizeBeyondTheScreenIsCutToIt) {
+TEST_F(WindowStateTest, ASizeBeyondTheRoomIsCutToIt) {
     Store(Manager, "Height", QStringLiteral("90000"));
     Store(Manager, "Width", QStringLiteral("90000.5"));
     const auto Window = Open(Manager);
-    EXPECT_EQ(Main.screen()->availableSize(), FrameOf(Window).size());
+    EXPECT_EQ(Area->viewport()->size(), FrameOf(Window).size());
 }
 
 TEST_F(WindowStateTest, FractionsOfATwipAreRead) {

@@ -56,6 +56,14 @@ void Workspace::paintEvent(QPaintEvent* Event) {
                         "File, Quick Show, or drop the folder here."));
 }
 
+// The greeting goes with the first window and comes back when the last one has gone.
+bool Workspace::viewportEvent(QEvent* Event) {
+    const bool Handled = QMdiArea::viewportEvent(Event);
+    if (Event->type() == QEvent::ChildAdded || Event->type() == QEvent::ChildRemoved)
+        viewport()->update();
+    return Handled;
+}
+
 void Workspace::dragEnterEvent(QDragEnterEvent* Event) {
     if (!FirstFolder(*Event->mimeData()).isEmpty()) Event->acceptProposedAction();
 }

@@ -17,6 +17,7 @@ class Workspace : public QMdiArea {
 
   protected:
     void paintEvent(QPaintEvent* Event) override;
+    bool viewportEvent(QEvent* Event) override;
     void dragEnterEvent(QDragEnterEvent* Event) override;
     void dropEvent(QDropEvent* Event) override;
 };
