@@ -305,6 +305,16 @@ TEST_F(MainWindow, TheFrameOfAChildClosesItAndTheChildCanCloseItself) {
     EXPECT_TRUE(Area->subWindowList().isEmpty());
 }
 
+TEST_F(MainWindow, CannotBeClosedBeforeItIsLoaded) {
+    bool Closed = true;
+    mWindow = std::make_unique<frmNEBSlideShow>();
+    QTimer::singleShot(0, [&] { Closed = mWindow->close(); });
+    mWindow->Form_Load({});
+    EXPECT_FALSE(Closed);
+    EXPECT_TRUE(mWindow->isVisible());
+    EXPECT_TRUE(mWindow->close());
+}
+
 TEST_F(MainWindow, EscapeLeavesAChildWithItsWorkOpen) {
     Start();
     Press("mnuQuickShow");

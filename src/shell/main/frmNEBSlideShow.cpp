@@ -63,6 +63,7 @@ frmNEBSlideShow::~frmNEBSlideShow() {
 void frmNEBSlideShow::Form_Load(const CommandLine& Line) {
     DebugMode = Line.Debug;
     Log("Showing Main Form");
+    mLoading = true;
     show();
     DoEvents();
     // drawn once the window stands, which need not wait for it
@@ -80,6 +81,7 @@ void frmNEBSlideShow::Form_Load(const CommandLine& Line) {
     Log("Load Completed Successfully.");
     FileSystem = &mFileSystem;
     CreateImageBuffer();
+    mLoading = false;
     mLoaded = true;
 }
 
@@ -172,7 +174,7 @@ bool frmNEBSlideShow::WriteDatabase() {
 }
 
 void frmNEBSlideShow::closeEvent(QCloseEvent* Event) {
-    Event->setAccepted(Unload());
+    Event->setAccepted(!mLoading && Unload());
 }
 
 }  // namespace neb

@@ -64,6 +64,7 @@ class frmNEBSlideShow : public QMainWindow {
     std::unique_ptr<clsDBEngine> mEngine;
     std::unique_ptr<clsImageBuffer> mImageBuffer;
     clsFileSystem mFileSystem;
+    bool mLoading = false;  // the window cannot be closed meanwhile
     bool mLoaded = false;
 };
 
