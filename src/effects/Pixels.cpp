@@ -24,7 +24,7 @@ NEB_WIDE void MixSpan(QRgb* Out, const QRgb* Old, const QRgb* New, int Weight, i
     const std::uint8_t* O = Bytes(Old);
     const std::uint8_t* N = Bytes(New);
     std::uint8_t* To = Bytes(Out);
-#pragma GCC ivdep
+    NEB_INDEPENDENT
     for (int I = 0; I < Count * 4; ++I) {
         const auto Sum = static_cast<std::uint16_t>(O[I] * A + N[I] * B + 128);
         To[I] = static_cast<std::uint8_t>(Sum >> 8);
@@ -46,7 +46,7 @@ NEB_WIDE void MixSpanWithColour(QRgb* Out, const QRgb* From, QRgb Colour, int We
     const std::uint8_t* F = Bytes(From);
     std::uint8_t* To = Bytes(Out);
     const int Whole = Count / 4;
-#pragma GCC ivdep
+    NEB_INDEPENDENT
     for (int I = 0; I < Whole; ++I)
         for (int K = 0; K < 16; ++K) {
             const auto Sum = static_cast<std::uint16_t>(F[16 * I + K] * A + Add[K]);

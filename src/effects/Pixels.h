@@ -19,6 +19,13 @@
 #define NEB_WIDE
 #endif
 
+// Tells the compiler that the turns of the loop behind it do not depend on one another.
+#if defined(__GNUC__) && !defined(__clang__)
+#define NEB_INDEPENDENT _Pragma("GCC ivdep")
+#else
+#define NEB_INDEPENDENT
+#endif
+
 namespace neb::effects {
 
 inline void CopySpan(QRgb* Out, const QRgb* From, int Count) {
