@@ -79,8 +79,7 @@ class ScreenBlankingOnABus : public ::testing::Test {
         return Instance;
     }
     void SetUp() override {
-        if (QStandardPaths::findExecutable(QStringLiteral("dbus-daemon")).isEmpty())
-            GTEST_SKIP() << "no message bus on this machine";
+        ASSERT_NE("", QStandardPaths::findExecutable(QStringLiteral("dbus-daemon")));
         Bus = &TheBus();
         ASSERT_TRUE(Bus->IsThere());
         Bus->Service.Calls.clear();
