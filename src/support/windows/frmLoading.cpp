@@ -5,10 +5,6 @@
 #include "ui_frmLoading.h"
 
 namespace neb {
-namespace {
-constexpr int FrameMs = 16;
-}
-
 frmLoading::frmLoading() : mUi(std::make_unique<Ui::frmLoading>()) {
     mUi->setupUi(this);
     connect(mUi->cmdStop, &QPushButton::clicked, this, &frmLoading::AskAbort);
@@ -48,8 +44,7 @@ void frmLoading::ShowPicture(const QImage& Picture) {
 }
 
 void frmLoading::Refresh() {
-    if (mLastPaint.isValid() && mLastPaint.elapsed() < FrameMs) return;
-    mLastPaint.start();
+    if (!mPaintRate.IsDue()) return;
     mUi->Picture1->setPixmap(QPixmap::fromImage(mPicture));
     if (isVisible()) repaint();
 }

@@ -2,10 +2,10 @@
 // work allows it. It carries the work of its parent from the first activation.
 #pragma once
 
-#include <QElapsedTimer>
 #include <QImage>
 
 #include "support/windows/Form.h"
+#include "support/windows/PaintRate.h"
 
 QT_BEGIN_NAMESPACE
 class QLabel;
@@ -55,7 +55,7 @@ class frmLoading : public Form {
     ProgressParent* mAltParent = nullptr;
     bool mSupportsAbort = false;
     QImage mPicture;
-    QElapsedTimer mLastPaint;
+    PaintRate mPaintRate;
 };
 
 }  // namespace neb

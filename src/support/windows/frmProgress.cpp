@@ -4,10 +4,6 @@
 #include "ui_frmProgress.h"
 
 namespace neb {
-namespace {
-constexpr int FrameMs = 16;
-}
-
 frmProgress::frmProgress() : mUi(std::make_unique<Ui::frmProgress>()) {
     mUi->setupUi(this);
 }
@@ -25,8 +21,7 @@ QProgressBar* frmProgress::pgbLoadingProgress() const {
 }
 
 void frmProgress::Refresh() {
-    if (mLastPaint.isValid() && mLastPaint.elapsed() < FrameMs) return;
-    mLastPaint.start();
+    if (!mPaintRate.IsDue()) return;
     if (isVisible()) repaint();
 }
 

@@ -1,9 +1,8 @@
 // The window over work that is not to be stopped, such as an import: a bar, no buttons.
 #pragma once
 
-#include <QElapsedTimer>
-
 #include "support/windows/Form.h"
+#include "support/windows/PaintRate.h"
 
 QT_BEGIN_NAMESPACE
 class QProgressBar;
@@ -39,7 +38,7 @@ class frmProgress : public Form {
     std::unique_ptr<Ui::frmProgress> mUi;
     bool mActivated = false;
     ProgressParent* mParent = nullptr;
-    QElapsedTimer mLastPaint;
+    PaintRate mPaintRate;
 };
 
 }  // namespace neb
