@@ -64,11 +64,11 @@ double CopyTime(const QImage& From, QImage& To) {
 Timing Measure(int Number, const QImage& Old, const QImage& New, QImage& Out) {
     Timing T{Number, 0, 0, 0};
     std::unique_ptr<Transition> Made;
-    T.Prepare = Milliseconds([&] { Made = std::make_unique<Transition>(Number, kSize); });
-    Made->Draw(Old, New, 0.5, Out);
+    T.Prepare = Milliseconds([&] { Made = std::make_unique<Transition>(Number, Old, New); });
+    Made->Draw(0.5, Out);
     const double Copy = CopyTime(Old, Out);
     for (int I = 0; I < kFrames; ++I) {
-        const auto Frame = [&] { Made->Draw(Old, New, (I + 0.5) / kFrames, Out); };
+        const auto Frame = [&] { Made->Draw((I + 0.5) / kFrames, Out); };
         const double Copies = std::min(Milliseconds(Frame), Milliseconds(Frame)) / Copy;
         T.Mean += Copies / kFrames;
         T.Worst = std::max(T.Worst, Copies);

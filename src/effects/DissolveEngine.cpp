@@ -103,7 +103,7 @@ class CloudField {
 };
 
 Recipe FromMap(std::function<RevealMap(QSize)> Make) {
-    return {"Dissolve", [Make](QSize Size) { return RevealEngine(Make(Size)); }, true};
+    return {"Dissolve", [Make](const Pair& P) { return RevealEngine(Make(P.Size())); }, true};
 }
 
 RevealMap MakeBlockMap(QSize Size, int Count, int SoftBits) {
@@ -147,8 +147,8 @@ Recipe CloudDissolve(int Count, int SoftBits) {
 }
 
 Recipe LightDissolve(bool BrightFirst) {
-    return {"Light Dissolve", [=](QSize) { return std::make_unique<LightEngine>(BrightFirst); },
-            true};
+    return {"Light Dissolve",
+            [=](const Pair&) { return std::make_unique<LightEngine>(BrightFirst); }, true};
 }
 
 }  // namespace neb::effects

@@ -1,5 +1,5 @@
 // What every effect engine is made of: the pictures of one frame, and an object prepared once
-// for a size that draws any progress in any order. Used by the engines and by Transition.
+// for a pair of pictures that draws any progress in any order. Used by the engines and by Transition.
 #pragma once
 
 #include <QRgb>
@@ -16,6 +16,14 @@ struct Picture {
     int Width = 0;
     int Height = 0;
     const QRgb* Row(int Y) const { return Bits + Y * Stride; }
+};
+
+// The two pictures of a transition, of one size; they stay as they are while an engine lives, so
+// that it may prepare from them what its frames need.
+struct Pair {
+    Picture Old;
+    Picture New;
+    QSize Size() const { return {Old.Width, Old.Height}; }
 };
 
 // One frame to be drawn. Both pictures and the frame are of one size.
@@ -38,7 +46,7 @@ class Engine {
     virtual void Draw(const Frame& F, int Y0, int Y1) const = 0;
 };
 
-using EngineMaker = std::function<std::unique_ptr<Engine>(QSize)>;
+using EngineMaker = std::function<std::unique_ptr<Engine>(const Pair&)>;
 
 // An engine with its parameters: what a row of the catalogue holds.
 struct Recipe {

@@ -32,11 +32,11 @@ class FadeThroughEngine : public Engine {
 }  // namespace
 
 Recipe CrossFade() {
-    return {"Fade", [](QSize) { return std::make_unique<CrossFadeEngine>(); }, true};
+    return {"Fade", [](const Pair&) { return std::make_unique<CrossFadeEngine>(); }, true};
 }
 
 Recipe FadeThrough(QRgb Colour) {
-    return {"Fade", [=](QSize) { return std::make_unique<FadeThroughEngine>(Colour); }};
+    return {"Fade", [=](const Pair&) { return std::make_unique<FadeThroughEngine>(Colour); }};
 }
 
 }  // namespace neb::effects

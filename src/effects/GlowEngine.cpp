@@ -103,14 +103,14 @@ class GlowEngine : public Engine {
 }  // namespace
 
 Recipe Burn(int Count) {
-    return {"Glow", [=](QSize Size) {
-                return std::make_unique<GlowEngine>(MakeCloudMap(Size, Count, 11), kBurning);
+    return {"Glow", [=](const Pair& P) {
+                return std::make_unique<GlowEngine>(MakeCloudMap(P.Size(), Count, 11), kBurning);
             }};
 }
 
 Recipe ShiningWipe(WipeShape Shape, WipeForm Form) {
-    return {"Glow", [=](QSize Size) {
-                return std::make_unique<GlowEngine>(MakeWipeMap(Size, Shape, Form), kShining);
+    return {"Glow", [=](const Pair& P) {
+                return std::make_unique<GlowEngine>(MakeWipeMap(P.Size(), Shape, Form), kShining);
             }};
 }
 

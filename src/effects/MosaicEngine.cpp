@@ -110,7 +110,8 @@ class MosaicEngine : public Engine {
 }  // namespace
 
 Recipe Mosaic(int Largest) {
-    return {"Mosaic", [=](QSize Size) { return std::make_unique<MosaicEngine>(Size, Largest); }};
+    return {"Mosaic",
+            [=](const Pair& P) { return std::make_unique<MosaicEngine>(P.Size(), Largest); }};
 }
 
 }  // namespace neb::effects

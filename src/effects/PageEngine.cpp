@@ -189,7 +189,7 @@ class PageEngine : public Engine {
 }  // namespace
 
 Recipe PageTurn(int X, int Y) {
-    return {"Page", [=](QSize Size) { return std::make_unique<PageEngine>(Size, X, Y); }};
+    return {"Page", [=](const Pair& P) { return std::make_unique<PageEngine>(P.Size(), X, Y); }};
 }
 
 }  // namespace neb::effects

@@ -207,7 +207,8 @@ Scene PlanDoors(const Frame& F, std::int64_t Length, int Part) {
 }
 
 Recipe Make(Planner Plan, Turning T) {
-    return {"Perspective", [=](QSize) { return std::make_unique<PerspectiveEngine>(Plan, T); }};
+    return {"Perspective",
+            [=](const Pair&) { return std::make_unique<PerspectiveEngine>(Plan, T); }};
 }
 
 }  // namespace

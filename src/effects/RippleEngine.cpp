@@ -144,11 +144,12 @@ class TwirlEngine : public RingEngine {
 }  // namespace
 
 Recipe WaterRing(int Waves) {
-    return {"Water", [=](QSize Size) { return std::make_unique<WaterEngine>(Size, Waves); }};
+    return {"Water", [=](const Pair& P) { return std::make_unique<WaterEngine>(P.Size(), Waves); }};
 }
 
 Recipe Twirl(int Quarters) {
-    return {"Twirl", [=](QSize Size) { return std::make_unique<TwirlEngine>(Size, Quarters); }};
+    return {"Twirl",
+            [=](const Pair& P) { return std::make_unique<TwirlEngine>(P.Size(), Quarters); }};
 }
 
 }  // namespace neb::effects

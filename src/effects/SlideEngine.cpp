@@ -142,7 +142,8 @@ Layout PlanClose(const Frame& F, int Length, int Moved) {
 }
 
 Recipe Make(const char* Name, Planner Plan, bool Across, bool Mirrored) {
-    return {Name, [=](QSize) { return std::make_unique<SlideEngine>(Plan, Across, Mirrored); }};
+    return {Name,
+            [=](const Pair&) { return std::make_unique<SlideEngine>(Plan, Across, Mirrored); }};
 }
 
 Recipe MakeHeading(const char* Name, Planner Plan, Heading Way) {

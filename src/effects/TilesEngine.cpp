@@ -87,7 +87,8 @@ class TilesEngine : public Engine {
 }  // namespace
 
 Recipe TurningTiles(int Count, WipeShape Order) {
-    return {"Tiles", [=](QSize Size) { return std::make_unique<TilesEngine>(Size, Count, Order); }};
+    return {"Tiles",
+            [=](const Pair& P) { return std::make_unique<TilesEngine>(P.Size(), Count, Order); }};
 }
 
 }  // namespace neb::effects

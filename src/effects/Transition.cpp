@@ -31,33 +31,34 @@ void CopyRows(const Frame& F, const Picture& From, int First, int Last) {
 
 }  // namespace
 
-Transition::Transition(int Number, QSize Size) : mNumber(Number), mSize(Size) {
-    if (Size.isEmpty()) throw Fault(QStringLiteral("A transition needs a picture of some size."));
+Transition::Transition(int Number, const QImage& Old, const QImage& New)
+    : mNumber(Number), mOld(Old), mNew(New), mPair{PictureOf(mOld), PictureOf(mNew)} {
+    if (Old.isNull()) throw Fault(QStringLiteral("A transition needs a picture of some size."));
+    if (!Fits(Old, Size()) || !Fits(New, Size()))
+        throw Fault(QStringLiteral("The pictures of a transition must be alike in size and kind."));
     const Recipe* R = FindRecipe(Number);
-    if (R) mEngine = R->Make(Size);
+    if (R) mEngine = R->Make(mPair);
 }
 
 Transition::~Transition() = default;
 Transition::Transition(Transition&&) noexcept = default;
 Transition& Transition::operator=(Transition&&) noexcept = default;
 
-void Transition::Draw(const QImage& Old, const QImage& New, double Progress, QImage& Out) const {
-    if (!Fits(Out, mSize)) Out = QImage(mSize, QImage::Format_RGB32);
-    DrawRows(Old, New, Progress, Out, 0, mSize.height());
+void Transition::Draw(double Progress, QImage& Out) const {
+    if (!Fits(Out, Size())) Out = QImage(Size(), QImage::Format_RGB32);
+    DrawRows(Progress, Out, 0, Size().height());
 }
 
-void Transition::DrawRows(const QImage& Old, const QImage& New, double Progress, QImage& Out,
-                          int First, int Last) const {
-    if (!Fits(Old, mSize) || !Fits(New, mSize) || !Fits(Out, mSize))
-        throw Fault(QStringLiteral("The pictures of a transition must be of its size."));
+void Transition::DrawRows(double Progress, QImage& Out, int First, int Last) const {
+    if (!Fits(Out, Size()))
+        throw Fault(QStringLiteral("The frame of a transition must be of its size."));
     const int P = FixedProgress(Progress);
-    const Picture Shown = PictureOf(Out);
-    const Frame F{PictureOf(Old),
-                  PictureOf(New),
+    const Frame F{mPair.Old,
+                  mPair.New,
                   reinterpret_cast<QRgb*>(Out.bits()),
-                  Shown.Stride,
-                  Shown.Width,
-                  Shown.Height,
+                  Out.bytesPerLine() / qsizetype{sizeof(QRgb)},
+                  Out.width(),
+                  Out.height(),
                   P};
     if (P == 0 || (!mEngine && P < One))
         CopyRows(F, F.Old, First, Last);

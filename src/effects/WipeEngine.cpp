@@ -24,7 +24,8 @@ RevealMap MakeWipeMap(QSize Size, WipeShape Shape, const WipeForm& Form) {
 }
 
 Recipe Wipe(WipeShape Shape, WipeForm Form) {
-    return {"Wipe", [=](QSize Size) { return RevealEngine(MakeWipeMap(Size, Shape, Form)); }, true};
+    return {"Wipe", [=](const Pair& P) { return RevealEngine(MakeWipeMap(P.Size(), Shape, Form)); },
+            true};
 }
 
 }  // namespace neb::effects

@@ -111,7 +111,7 @@ class ZoomEngine : public Engine {
 }  // namespace
 
 Recipe Zoom(ZoomForm Form) {
-    return {"Zoom", [=](QSize) { return std::make_unique<ZoomEngine>(Form); }};
+    return {"Zoom", [=](const Pair&) { return std::make_unique<ZoomEngine>(Form); }};
 }
 
 }  // namespace neb::effects

@@ -119,8 +119,8 @@ void XShow::StartSteps() {
 // One step alone goes straight to the new picture, so that nothing need be prepared for it.
 void XShow::MakeTransition() {
     mTransition.reset();
-    const QSize View = mNow.Layout.View;
-    if (mSteps > 1 && !View.isEmpty()) mTransition = std::make_unique<Transition>(mRunNumber, View);
+    if (mSteps > 1 && !mNow.Layout.View.isEmpty())
+        mTransition = std::make_unique<Transition>(mRunNumber, mOld.Fitted, mNow.Fitted);
 }
 
 // The view, the screen or an option may have changed since the pictures were fitted.
@@ -144,7 +144,7 @@ const QImage& XShow::Visible() const {
 
 void XShow::DrawStep() {
     if (mTransition && ProgressNow() < 1)
-        DrawInBands(*mTransition, mOld.Fitted, mNow.Fitted, ProgressNow(), mBack);
+        DrawInBands(*mTransition, ProgressNow(), mBack);
     else
         mBack = mStep > 0 ? mNow.Fitted : mOld.Fitted;
 }

@@ -24,19 +24,18 @@ int BandCount(QSize Size) {
 
 }  // namespace
 
-void DrawInBands(const Transition& T, const QImage& Old, const QImage& New, double Progress,
-                 QImage& Out) {
+void DrawInBands(const Transition& T, double Progress, QImage& Out) {
     const int Bands = BandCount(T.Size()), Height = T.Size().height();
-    if (Bands == 1 || Out.size() != T.Size()) return T.Draw(Old, New, Progress, Out);
+    if (Bands == 1 || Out.size() != T.Size()) return T.Draw(Progress, Out);
     Out.bits();  // no longer shared with any other picture before threads write to it
     const auto EdgeOf = [=](int Band) { return static_cast<int>(qint64{Height} * Band / Bands); };
     QSemaphore Done;
     for (int B = 1; B < Bands; ++B)
         Painters().start([&, B] {
-            T.DrawRows(Old, New, Progress, Out, EdgeOf(B), EdgeOf(B + 1));
+            T.DrawRows(Progress, Out, EdgeOf(B), EdgeOf(B + 1));
             Done.release();
         });
-    T.DrawRows(Old, New, Progress, Out, 0, EdgeOf(1));
+    T.DrawRows(Progress, Out, 0, EdgeOf(1));
     Done.acquire(Bands - 1);
 }
 

@@ -6,7 +6,6 @@
 
 namespace neb {
 
-void DrawInBands(const Transition& T, const QImage& Old, const QImage& New, double Progress,
-                 QImage& Out);
+void DrawInBands(const Transition& T, double Progress, QImage& Out);
 
 }  // namespace neb

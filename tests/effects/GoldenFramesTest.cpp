@@ -34,11 +34,11 @@ const Golden kGolden[] = {
 std::uint64_t SumOf(int Number) {
     const QSize Size(64, 40);
     const QImage Old = Scene(Size, 1), New = Scene(Size, 2);
-    const Transition T(Number, Size);
+    const Transition T(Number, Old, New);
     std::uint64_t Sum = 14695981039346656037u;
     for (const double P : {0.25, 0.5, 0.75}) {
         QImage Out;
-        T.Draw(Old, New, P, Out);
+        T.Draw(P, Out);
         Sum = HashOf(Out, Sum);
     }
     return Sum;

@@ -34,9 +34,9 @@ std::string NameOf(const testing::TestParamInfo<int>& Info) {
     return Name.remove(u' ').toStdString();
 }
 
-QImage Drawn(const Transition& T, const QImage& Old, const QImage& New, double Progress) {
+QImage Drawn(const Transition& T, double Progress) {
     QImage Out;
-    T.Draw(Old, New, Progress, Out);
+    T.Draw(Progress, Out);
     return Out;
 }
 
@@ -48,21 +48,21 @@ INSTANTIATE_TEST_SUITE_P(Catalogue, EachEffect, testing::ValuesIn(Numbers()), Na
 
 TEST_P(EachEffect, BeginsWithTheOldPictureAndEndsWithTheNewOneToTheBit) {
     for (const QSize Size : kSizes) {
-        const Transition T(Number(), Size);
         const QImage Old = Scene(Size, 1), New = Scene(Size, 2);
-        EXPECT_EQ(Drawn(T, Old, New, 0), Old) << Size.width() << "x" << Size.height();
-        EXPECT_EQ(Drawn(T, Old, New, 1), New) << Size.width() << "x" << Size.height();
+        const Transition T(Number(), Old, New);
+        EXPECT_EQ(Drawn(T, 0), Old) << Size.width() << "x" << Size.height();
+        EXPECT_EQ(Drawn(T, 1), New) << Size.width() << "x" << Size.height();
     }
 }
 
 TEST_P(EachEffect, WritesEveryPixelWhateverWasThereBefore) {
     for (const QSize Size : kSizes) {
-        const Transition T(Number(), Size);
         const QImage Old = Scene(Size, 1), New = Scene(Size, 2);
+        const Transition T(Number(), Old, New);
         for (const double P : {0.00001, 0.13, 0.25, 0.5, 0.61, 0.75, 0.9, 0.99999}) {
             QImage A = Plain(Size, 0xFF123456u), B = Plain(Size, 0xFFEDCBA9u);
-            T.Draw(Old, New, P, A);
-            T.Draw(Old, New, P, B);
+            T.Draw(P, A);
+            T.Draw(P, B);
             ASSERT_EQ(A, B) << P << " " << Size.width() << "x" << Size.height();
         }
     }
@@ -70,13 +70,13 @@ TEST_P(EachEffect, WritesEveryPixelWhateverWasThereBefore) {
 
 TEST_P(EachEffect, DrawsTheSameBitsInBandsAsInOne) {
     for (const QSize Size : {QSize(33, 47), QSize(320, 200)}) {
-        const Transition T(Number(), Size);
         const QImage Old = Scene(Size, 1), New = Scene(Size, 2);
+        const Transition T(Number(), Old, New);
         for (const double P : {0.1, 0.37, 0.5, 0.88}) {
             QImage Bands(Size, QImage::Format_RGB32);
             const int Cuts[] = {Size.height(), 29, 28, 7, 0};
-            for (int I = 0; I < 4; ++I) T.DrawRows(Old, New, P, Bands, Cuts[I + 1], Cuts[I]);
-            ASSERT_EQ(Bands, Drawn(T, Old, New, P)) << P;
+            for (int I = 0; I < 4; ++I) T.DrawRows(P, Bands, Cuts[I + 1], Cuts[I]);
+            ASSERT_EQ(Bands, Drawn(T, P)) << P;
         }
     }
 }
@@ -84,10 +84,10 @@ TEST_P(EachEffect, DrawsTheSameBitsInBandsAsInOne) {
 TEST_P(EachEffect, DoesNotRememberEarlierFrames) {
     const QSize Size(100, 60);
     const QImage Old = Scene(Size, 1), New = Scene(Size, 2);
-    const Transition Used(Number(), Size);
+    const Transition Used(Number(), Old, New);
     for (const double P : {0.9, 0.2, 0.55}) {
-        const Transition Fresh(Number(), Size);
-        EXPECT_EQ(Drawn(Used, Old, New, P), Drawn(Fresh, Old, New, P));
+        const Transition Fresh(Number(), Old, New);
+        EXPECT_EQ(Drawn(Used, P), Drawn(Fresh, P));
     }
 }
 
@@ -95,9 +95,9 @@ TEST_P(EachEffect, LeavesTheOldPictureAndReachesTheNewOneWithoutAJump) {
     if (!EffectIsKnown(Number())) return;
     const QSize Size(320, 200);
     const QImage Old = Scene(Size, 1), New = Scene(Size, 2);
-    const Transition T(Number(), Size);
-    EXPECT_LT(Difference(Drawn(T, Old, New, 0.002), Old), 2.0);
-    EXPECT_LT(Difference(Drawn(T, Old, New, 0.998), New), 2.0);
+    const Transition T(Number(), Old, New);
+    EXPECT_LT(Difference(Drawn(T, 0.002), Old), 2.0);
+    EXPECT_LT(Difference(Drawn(T, 0.998), New), 2.0);
 }
 
 TEST_P(EachEffect, KeepsWhatItShowedWhereItSaysSo) {
@@ -105,10 +105,10 @@ TEST_P(EachEffect, KeepsWhatItShowedWhereItSaysSo) {
     if (!R || !R->KeepsWhatItShowed) return;
     const QSize Size(90, 61);
     const QImage Old = Plain(Size, kNight), New = Plain(Size, kDay);
-    const Transition T(Number(), Size);
+    const Transition T(Number(), Old, New);
     QImage Before = Old;
     for (int Step = 1; Step <= 100; ++Step) {
-        const QImage Now = Drawn(T, Old, New, Step / 100.0);
+        const QImage Now = Drawn(T, Step / 100.0);
         for (int Y = 0; Y < Size.height(); ++Y)
             for (int X = 0; X < Size.width(); ++X)
                 ASSERT_GE(qGreen(Now.pixel(X, Y)), qGreen(Before.pixel(X, Y))) << Step;
@@ -121,11 +121,11 @@ TEST_P(EachEffect, FlashesAtMostOnce) {
     for (const bool Rising : {true, false}) {
         const QImage Old = Plain(Size, Rising ? 0xFF303030u : 0xFFD0D0D0u);
         const QImage New = Plain(Size, Rising ? 0xFFD0D0D0u : 0xFF303030u);
-        const Transition T(Number(), Size);
+        const Transition T(Number(), Old, New);
         double Turn = Brightness(Old);
         int Direction = 0, Turns = 0;
         for (int Step = 1; Step <= 100; ++Step) {
-            const double Now = Brightness(Drawn(T, Old, New, Step / 100.0));
+            const double Now = Brightness(Drawn(T, Step / 100.0));
             const double Change = Now - Turn;
             // A tenth of the full range one way, then the other way, is half a flash.
             const bool Onward = Direction == 0 || Change * Direction > 0;
@@ -141,40 +141,47 @@ TEST(Transition, NumbersWithoutARowShowTheOldPictureUntilTheEnd) {
     const QSize Size(20, 10);
     const QImage Old = Scene(Size, 1), New = Scene(Size, 2);
     for (const int Number : {0, -5, 128}) {
-        const Transition T(Number, Size);
-        EXPECT_EQ(Drawn(T, Old, New, 0.99), Old);
-        EXPECT_EQ(Drawn(T, Old, New, 1), New);
+        const Transition T(Number, Old, New);
+        EXPECT_EQ(Drawn(T, 0.99), Old);
+        EXPECT_EQ(Drawn(T, 1), New);
     }
 }
 
 TEST(Transition, ProgressOutsideItsRangeIsTheNearestEnd) {
     const QSize Size(20, 10);
     const QImage Old = Scene(Size, 1), New = Scene(Size, 2);
-    const Transition T(1, Size);
-    EXPECT_EQ(Drawn(T, Old, New, -0.5), Old);
-    EXPECT_EQ(Drawn(T, Old, New, 1.5), New);
-    EXPECT_EQ(Drawn(T, Old, New, std::numeric_limits<double>::quiet_NaN()), Old);
+    const Transition T(1, Old, New);
+    EXPECT_EQ(Drawn(T, -0.5), Old);
+    EXPECT_EQ(Drawn(T, 1.5), New);
+    EXPECT_EQ(Drawn(T, std::numeric_limits<double>::quiet_NaN()), Old);
 }
 
 TEST(Transition, RefusesPicturesThatDoNotFit) {
-    const QSize Size(20, 10);
-    const Transition T(1, Size);
-    QImage Out;
-    EXPECT_THROW(T.Draw(Scene({20, 11}, 1), Scene(Size, 2), 0.5, Out), Fault);
-    EXPECT_THROW(
-        T.Draw(Scene(Size, 1).convertToFormat(QImage::Format_ARGB32), Scene(Size, 2), 0.5, Out),
-        Fault);
-    EXPECT_THROW(Transition(1, QSize(0, 5)), Fault);
+    const QImage Old = Scene({20, 10}, 1);
+    EXPECT_THROW(Transition(1, Old, Scene({20, 11}, 2)), Fault);
+    EXPECT_THROW(Transition(1, Old, Old.convertToFormat(QImage::Format_ARGB32)), Fault);
+    EXPECT_THROW(Transition(1, Old.convertToFormat(QImage::Format_ARGB32), Old), Fault);
+    EXPECT_THROW(Transition(1, QImage(), QImage()), Fault);
+    QImage Frame({20, 11}, QImage::Format_RGB32);
+    EXPECT_THROW(Transition(1, Old, Old).DrawRows(0.5, Frame, 0, 5), Fault);
 }
 
 TEST(Transition, ReadsPicturesWithPaddedRows) {
-    const QSize Size(21, 13);
-    const QImage Old = Scene(Size, 1), New = Scene(Size, 2);
-    const QImage Wide = Scene({64, 13}, 3);
-    QImage Padded(Wide.constBits(), 21, 13, Wide.bytesPerLine(), QImage::Format_RGB32);
-    const Transition T(118, Size);
-    EXPECT_EQ(Drawn(T, Padded, New, 0.5), Drawn(T, Padded.copy(), New, 0.5));
-    EXPECT_EQ(Drawn(T, Old, Padded, 1), Padded);
+    const QImage Wide = Scene({64, 13}, 3), New = Scene({21, 13}, 2);
+    const QImage Padded(Wide.constBits(), 21, 13, Wide.bytesPerLine(), QImage::Format_RGB32);
+    EXPECT_EQ(Drawn(Transition(118, Padded, New), 0.5),
+              Drawn(Transition(118, Padded.copy(), New), 0.5));
+    EXPECT_EQ(Drawn(Transition(118, New, Padded), 1), Padded);
+}
+
+TEST(Transition, KeepsItsPicturesWhenTheCallerChangesThem) {
+    QImage Old = Scene({40, 30}, 1), New = Scene({40, 30}, 2);
+    const QImage Expected = Drawn(Transition(118, Old, New), 0.5);
+    Transition T(118, Old, New);
+    Old.fill(kNight);
+    New = QImage();
+    const Transition Moved = std::move(T);
+    EXPECT_EQ(Drawn(Moved, 0.5), Expected);
 }
 
 namespace {
@@ -199,9 +206,8 @@ TEST(Transition, MirroredPairsMirror) {
             return P.mirrored(M.LeftToRight, !M.LeftToRight);
         };
         for (const double P : {0.2, 0.5, 0.83}) {
-            const QImage A = Drawn(Transition(M.A, Size), Old, New, P);
-            const QImage B =
-                Mirrored(Drawn(Transition(M.B, Size), Mirrored(Old), Mirrored(New), P));
+            const QImage A = Drawn(Transition(M.A, Old, New), P);
+            const QImage B = Mirrored(Drawn(Transition(M.B, Mirrored(Old), Mirrored(New)), P));
             if (M.Slack == 0)
                 EXPECT_EQ(A, B) << M.A << "/" << M.B;
             else

@@ -23,10 +23,10 @@ TEST(XShowBands, SeveralThreadsDrawTheSameBitsAsOne) {
     const QImage Old = Slope(Size, 1), New = Slope(Size, 5);
     for (int N = 1; N <= EffectCount(); ++N) {
         if (!EffectIsKnown(N)) continue;
-        const Transition T(N, Size);
+        const Transition T(N, Old, New);
         QImage One, Many(Size, QImage::Format_RGB32);
-        T.Draw(Old, New, 0.37, One);
-        DrawInBands(T, Old, New, 0.37, Many);
+        T.Draw(0.37, One);
+        DrawInBands(T, 0.37, Many);
         EXPECT_EQ(One, Many) << N;
     }
 }
@@ -35,7 +35,7 @@ TEST(XShowBands, APictureThatSharesItsPixelsIsNotDrawnInto) {
     const QSize Size(801, 601);
     const QImage Old = Slope(Size, 1), New = Slope(Size, 5);
     QImage Out = Old;
-    DrawInBands(Transition(2, Size), Old, New, 1, Out);
+    DrawInBands(Transition(2, Old, New), 1, Out);
     EXPECT_EQ(Out, New);
     EXPECT_EQ(Old, Slope(Size, 1));
 }

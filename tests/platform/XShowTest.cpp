@@ -322,10 +322,10 @@ TEST_F(XShowTest, EachStepShowsTheFrameOfItsProgress) {
     EXPECT_EQ(Screen(), Filled({100, 60}, kRed));
     WaitForEnd();
     ASSERT_EQ(Shown.size(), 4);
-    const Transition T(2, {100, 60});
+    const Transition T(2, Filled({100, 60}, kRed), Filled({100, 60}, kBlue));
     for (int I = 0; I < 4; ++I) {
         QImage Frame;
-        T.Draw(Filled({100, 60}, kRed), Filled({100, 60}, kBlue), (I + 1) * 0.25, Frame);
+        T.Draw((I + 1) * 0.25, Frame);
         EXPECT_EQ(Shown[I], Frame) << I;
     }
 }
