@@ -63,6 +63,9 @@ inline QRgb Sample(const Picture& P, int U, int V) {
     return MixSquare(P.Row(Y) + X, P.Stride, (U - (X << 16)) >> 8, (V - (Y << 16)) >> 8);
 }
 
+// Many such places at once, one for each pixel of Out: the quickest way to read between pixels.
+void SamplePlaces(QRgb* Out, const Picture& P, const int* U, const int* V, int Count);
+
 // The same where one pixel of the frame covers Du by Dv of the picture: pictures that shrink
 // are averaged, so that nothing sparkles.
 QRgb SampleMany(const Picture& P, int U, int V, int Du, int Dv);
