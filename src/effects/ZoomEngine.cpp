@@ -2,116 +2,232 @@
 
 #include <algorithm>
 
-#include "effects/Sampling.h"
+#include "effects/HalvedPictures.h"
+#include "effects/Pixels.h"
+#include "effects/ScaleRows.h"
+#include "effects/Shadow.h"
 
 namespace neb::effects {
 namespace {
 
-// One direction of a picture in its place: where it lies and how it is read; all of One.
-struct Axis {
-    std::int64_t Start, Length;  // in the frame
-    std::int64_t Ratio;          // picture for one pixel of the frame
-    bool Whole;                  // fills the frame pixel for pixel
+struct Old {};
+struct New {};
 
-    std::int64_t SourceAt(int Place) const {
-        const std::int64_t Middle = (std::int64_t{Place} << 16) + One / 2 - Start;
-        return ((Middle * Ratio) >> 16) - One / 2;
-    }
-    int CoverageAt(int Place) const {
-        const std::int64_t Off = (std::int64_t{Place} << 16) + One / 2 - Start;
-        const std::int64_t Inside = std::min(Off, Length - Off) + One / 2;
-        return static_cast<int>(std::clamp<std::int64_t>(Inside >> 8, 0, 256));
-    }
-};
-
-Axis MakeAxis(int Start, int Extent, int Size, int Part) {
+ScaledAxis MakeAxis(int Start, int Extent, int Size, int Part) {
     const std::int64_t S = (std::int64_t{Size} << 16) * Start / 100;
     const std::int64_t E = (std::int64_t{Size} << 16) * (Extent - 100) / 100;
-    Axis A{};
+    ScaledAxis A;
     A.Start = (S * Part) >> 16;
     A.Length = (std::int64_t{Size} << 16) + ((E * Part) >> 16);
-    A.Whole = A.Start == 0 && A.Length == std::int64_t{Size} << 16;
-    A.Ratio = A.Length > 0 ? (std::int64_t{Size} << 32) / A.Length : 0;
+    A.Size = A.Pixels = Size;
     return A;
 }
 
-struct Layer {
-    const Picture* Source;
-    Axis X, Y;
+// One picture in its place in one frame.
+class Layer {
+  public:
+    // Part: how much of the way from the whole view to the place, of One.
+    template <typename User>
+    Layer(User, const HalvedPictures& Sizes, const ZoomForm& Form, const ZoomPlace& Place, int Part)
+        : mX(MakeAxis(Place.X, Place.Width, Sizes.Level(0).Width, Part)),
+          mY(MakeAxis(Place.Y, Place.Height, Sizes.Level(0).Height, Part)),
+          mWidth(mX.Size),
+          mHeight(mY.Size),
+          mFillsView(Form.Mirrored) {
+        if (IsNothing()) return;
+        Choose(Sizes);
+        mX.Mirrored = mY.Mirrored = mFillsView;
+        mColumns = {Scratch<int, User>(mWidth), Scratch<std::int16_t, User>(kTaps * mWidth)};
+        if (!mX.IsWhole()) FillColumns(mColumns, mX, Left(), Right());
+    }
+
+    bool IsNothing() const { return mX.Length <= 0 || mY.Length <= 0; }
+    int Left() const { return mFillsView ? 0 : mX.TouchedFrom(mWidth); }
+    int Right() const { return mFillsView ? mWidth : mX.TouchedTo(mWidth); }
+    int FilledLeft() const { return mFillsView ? 0 : mX.FilledFrom(mWidth); }
+    int FilledRight() const { return mFillsView ? mWidth : mX.FilledTo(mWidth); }
+    Area Touched() const {
+        return {static_cast<int>(mX.Start >> 16), static_cast<int>(mY.Start >> 16),
+                static_cast<int>((mX.Start + mX.Length + One - 1) >> 16),
+                static_cast<int>((mY.Start + mY.Length + One - 1) >> 16)};
+    }
+    // How much of a row and of a column it covers, 0..256.
+    int RowCoverage(int Y) const { return IsNothing() ? 0 : mFillsView ? 256 : mY.CoverageAt(Y); }
+    int ColumnCoverage(int X) const { return mFillsView ? 256 : mX.CoverageAt(X); }
+
+    // The columns X0..X1 of a row to Out[0..].
+    void Render(QRgb* Out, int Y, int X0, int X1) const {
+        if (X0 >= X1) return;
+        if (mX.IsWhole()) return Flatten(Out, Y, X0, X1);
+        const int First = mX.Mirrored ? 0 : mColumns.Start[X0];
+        const int Last = mX.Mirrored ? mSource->Width : mColumns.Start[X1 - 1] + kTaps;
+        ScaleRow(Out, FlatRow(Y, First, Last), mColumns, X0, X1);
+    }
+
+  private:
+    void Choose(const HalvedPictures& Sizes) {
+        const std::int64_t Ratio = std::max(Sizes.IsHalvedAcross() ? mX.Ratio() : One,
+                                            Sizes.IsHalvedDown() ? mY.Ratio() : One);
+        int Level = 0;
+        while (Level < Sizes.LastLevel() && (Ratio >> Level) >= 2 * One) ++Level;
+        mSource = &Sizes.Level(Level);
+        mX.Level = Sizes.IsHalvedAcross() ? Level : 0;
+        mY.Level = Sizes.IsHalvedDown() ? Level : 0;
+        mX.Pixels = mSource->Width;
+        mY.Pixels = mSource->Height;
+    }
+
+    struct RowsOfMix {
+        const QRgb* Rows[kTaps];
+        int Weights[kTaps];
+        int Used = 0;
+    };
+    // The rows that the frame's row Y is made of, X0 their first pixel.
+    RowsOfMix RowsAt(int Y, int X0) const {
+        const Taps T = TapsAt(mY, Y);
+        RowsOfMix M{};
+        int Left = 256, Largest = 0;
+        for (int I = 0; I < kTaps; ++I) {
+            const int Weight = (T.Share[I] + 32) >> 6;
+            if (Weight == 0) continue;
+            M.Rows[M.Used] = mSource->Row(T.Start + I) + X0;
+            M.Weights[M.Used] = Weight;
+            if (Weight > M.Weights[Largest]) Largest = M.Used;
+            Left -= Weight;
+            ++M.Used;
+        }
+        M.Weights[Largest] += Left;
+        for (int I = M.Used; I < kTaps; ++I) M.Rows[I] = M.Rows[0];
+        return M;
+    }
+
+    // The pixels X0..X1 of the row of the picture that lies at the frame's row Y.
+    void Flatten(QRgb* Out, int Y, int X0, int X1) const {
+        const RowsOfMix M = RowsAt(Y, X0);
+        if (M.Used == 1)
+            CopySpan(Out, M.Rows[0], X1 - X0);
+        else if (M.Used == 2)
+            MixSpan(Out, M.Rows[0], M.Rows[1], M.Weights[1], X1 - X0);
+        else
+            MixRows(Out, M.Rows, M.Weights, X1 - X0);
+    }
+
+    // The same as a row to read from, its pixel 0 first, four pixels at least.
+    const QRgb* FlatRow(int Y, int First, int Last) const {
+        Last = std::min(mSource->Width, Last);
+        if (mSource->Width >= kTaps) {
+            const RowsOfMix M = RowsAt(Y, 0);
+            if (M.Used == 1) return M.Rows[0];
+        }
+        QRgb* Room = Scratch<QRgb, Layer>(std::max(kTaps, mSource->Width));
+        Flatten(Room + First, Y, First, Last);
+        return Room;
+    }
+
+    ScaledAxis mX, mY;
+    int mWidth, mHeight;
+    bool mFillsView;
+    const Picture* mSource = nullptr;
+    ColumnTaps mColumns{};
 };
 
-Layer MakeLayer(const Picture& P, const ZoomPlace& Place, int Part) {
-    return {&P, MakeAxis(Place.X, Place.Width, P.Width, Part),
-            MakeAxis(Place.Y, Place.Height, P.Height, Part)};
-}
+// Both pictures of one frame.
+class Composition {
+  public:
+    Composition(const Frame& F, const Layer& Low, const Layer& Top, int Through, int Depth)
+        : mF(F),
+          mLow(Low),
+          mTop(Top),
+          mThrough(Through),
+          mDepth(Depth),
+          mShadow({F.Width, F.Height}) {}
 
-int AsInt(std::int64_t Value) {
-    return static_cast<int>(std::clamp<std::int64_t>(Value, -One, std::int64_t{32000} << 16));
-}
-
-// The pixels wholly within the layer at one weight, those on its sides by what they hold of it.
-void PutRow(QRgb* Out, const Axis& A, const QRgb* Row, int Weight, int X0, int X1) {
-    while (X0 < X1 && A.CoverageAt(X0) < 256) {
-        Out[X0] = Mix(Out[X0], *Row++, Weight * A.CoverageAt(X0) >> 8);
-        ++X0;
+    void DrawRow(int Y) const {
+        const int Weight = mTop.RowCoverage(Y) * mThrough >> 8;
+        const bool Hides = Weight == 256;
+        DrawLow(Y, 0, Hides ? mTop.FilledLeft() : mF.Width);
+        if (Hides) DrawLow(Y, mTop.FilledRight(), mF.Width);
+        if (Weight) DrawTop(mF.Row(Y), Y, Weight);
     }
-    while (X1 > X0 && A.CoverageAt(X1 - 1) < 256) {
-        --X1;
-        Out[X1] = Mix(Out[X1], Row[X1 - X0], Weight * A.CoverageAt(X1) >> 8);
+
+  private:
+    void DrawLow(int Y, int X0, int X1) const {
+        if (X0 >= X1) return;
+        QRgb* Out = mF.Row(Y);
+        const bool Seen = mLow.RowCoverage(Y) > 0;
+        const int A = Seen ? Clamp(mLow.Left(), X0, X1) : X1;
+        const int B = Seen ? Clamp(mLow.Right(), A, X1) : X1;
+        FillSpan(Out + X0, kBlack, A - X0);
+        if (A < B) mLow.Render(Out + A, Y, A, B);
+        FillSpan(Out + B, kBlack, X1 - B);
+        if (mDepth && !mTop.IsNothing()) mShadow.Fall(Out, Y, X0, X1, mTop.Touched(), mDepth);
     }
-    MixSpan(Out + X0, Out + X0, Row, Weight, X1 - X0);
-}
 
-void DrawPixels(QRgb* Out, const Layer& L, int Y, int Weight) {
-    const int Width = L.Source->Width;
-    const std::int64_t First = L.X.Start >> 16, Last = (L.X.Start + L.X.Length) >> 16;
-    const int X0 = static_cast<int>(std::clamp<std::int64_t>(First - 1, 0, Width));
-    const int X1 = static_cast<int>(std::clamp<std::int64_t>(Last + 2, 0, Width));
-    QRgb* Row = Scratch<QRgb, Layer>(Width);
-    SampleRow(Row, *L.Source, L.X.SourceAt(X0), AsInt(L.X.Ratio), AsInt(L.Y.SourceAt(Y)),
-              AsInt(L.Y.Ratio), X1 - X0);
-    PutRow(Out, L.X, Row, Weight, X0, X1);
-}
+    void DrawTop(QRgb* Out, int Y, int Weight) const {
+        const int X0 = mTop.FilledLeft(), X1 = mTop.FilledRight();
+        if (Weight == 256) {
+            mTop.Render(Out + X0, Y, X0, X1);
+        } else if (X0 < X1) {
+            QRgb* Room = Scratch<QRgb, Composition>(mF.Width);
+            mTop.Render(Room, Y, X0, X1);
+            MixSpan(Out + X0, Out + X0, Room, Weight, X1 - X0);
+        }
+        for (int X = mTop.Left(); X < std::min(X0, mTop.Right()); ++X) DrawRim(Out, Y, X, Weight);
+        for (int X = std::max(X1, X0); X < mTop.Right(); ++X) DrawRim(Out, Y, X, Weight);
+    }
 
-void DrawLayerRow(QRgb* Out, const Layer& L, int Y, int Weight) {
-    const int Width = L.Source->Width;
-    const int Seen = L.Y.Whole ? Weight : Weight * L.Y.CoverageAt(Y) >> 8;
-    if (Seen == 0 || L.X.Length <= 0 || L.Y.Length <= 0) return;
-    if (!L.X.Whole || !L.Y.Whole)
-        DrawPixels(Out, L, Y, Seen);
-    else if (Seen == 256)
-        CopySpan(Out, L.Source->Row(Y), Width);
-    else
-        MixSpan(Out, Out, L.Source->Row(Y), Seen, Width);
+    void DrawRim(QRgb* Out, int Y, int X, int Weight) const {
+        QRgb Pixel = 0;
+        mTop.Render(&Pixel, Y, X, X + 1);
+        Out[X] = Mix(Out[X], Pixel, Weight * mTop.ColumnCoverage(X) >> 8);
+    }
+
+    const Frame& mF;
+    const Layer& mLow;
+    const Layer& mTop;
+    int mThrough, mDepth;
+    Shadow mShadow;
+};
+
+bool Shrinks(const ZoomPlace& P, bool Across) {
+    return (Across ? P.Width : P.Height) < 100;
+}
+HalvedPictures SizesOf(const Picture& P, const ZoomPlace& Place) {
+    return HalvedPictures(P, Shrinks(Place, true), Shrinks(Place, false));
 }
 
 class ZoomEngine : public Engine {
   public:
-    explicit ZoomEngine(const ZoomForm& Form) : mForm(Form) {}
+    ZoomEngine(const ZoomForm& Form, const Pair& P)
+        : mForm(Form), mOld(SizesOf(P.Old, Form.OldTo)), mNew(SizesOf(P.New, Form.NewFrom)) {}
 
     void Draw(const Frame& F, int Y0, int Y1) const override {
         const int Part = Ease(F.Progress);
-        const Layer Old = MakeLayer(F.Old, mForm.OldTo, Part);
-        const Layer New = MakeLayer(F.New, mForm.NewFrom, One - Part);
-        const Layer& Low = mForm.OldOnTop ? New : Old;
-        const Layer& Top = mForm.OldOnTop ? Old : New;
-        const int Through = Clamp((mForm.OldOnTop ? One - Part : Part) >> 8, 0, 256);
-        for (int Y = Y0; Y < Y1; ++Y) {
-            QRgb* Out = F.Row(Y);
-            if (!(Low.X.Whole && Low.Y.Whole)) FillSpan(Out, kBlack, F.Width);
-            DrawLayerRow(Out, Low, Y, 256);
-            DrawLayerRow(Out, Top, Y, mForm.Fades ? Through : 256);
-        }
+        const Layer From(Old{}, mOld, mForm, mForm.OldTo, Part);
+        const Layer To(New{}, mNew, mForm, mForm.NewFrom, One - Part);
+        const int Left = mForm.OldOnTop ? One - F.Progress : F.Progress;
+        const Composition C(F, mForm.OldOnTop ? To : From, mForm.OldOnTop ? From : To,
+                            ThroughAt(Part), mForm.Shaded ? ShadowDepth(Left) : 0);
+        for (int Y = Y0; Y < Y1; ++Y) C.DrawRow(Y);
     }
 
   private:
+    // How much of the upper picture is seen, 0..256.
+    int ThroughAt(int Part) const {
+        if (!mForm.Fades) return 256;
+        const int From = One * mForm.FadeFrom / 100, To = One * mForm.FadeTo / 100;
+        const int Come = Clamp(Part - From, 0, To - From) * 256 / (To - From);
+        return mForm.OldOnTop ? 256 - Come : Come;
+    }
+
     ZoomForm mForm;
+    HalvedPictures mOld, mNew;
 };
 
 }  // namespace
 
 Recipe Zoom(ZoomForm Form) {
-    return {"Zoom", [=](const Pair&) { return std::make_unique<ZoomEngine>(Form); }};
+    return {"Zoom", [=](const Pair& P) { return std::make_unique<ZoomEngine>(Form, P); }};
 }
 
 }  // namespace neb::effects
