@@ -7,7 +7,7 @@
 namespace neb::effects {
 namespace {
 
-constexpr int kSlow = One / 12;
+constexpr int kSlow = One / 16;
 
 // One direction of a sheet: the frame's pixels that it touches and those it fills.
 struct Extent {

@@ -23,6 +23,40 @@ ScaledAxis MakeAxis(int Start, int Extent, int Size, int Part) {
     return A;
 }
 
+// Rows, the part of each of 256, and their numbers in the picture.
+struct RowsOfMix {
+    const QRgb* Rows[kTaps];
+    int Places[kTaps];
+    int Weights[kTaps];
+    int Used = 0;
+
+    void Add(const QRgb* Row, int Place, int Weight) {
+        Rows[Used] = Row;
+        Places[Used] = Place;
+        Weights[Used++] = Weight;
+    }
+};
+
+void MixTo(QRgb* Out, RowsOfMix M, int Count) {
+    if (M.Used == 1) return CopySpan(Out, M.Rows[0], Count);
+    if (M.Used == 2) return MixSpan(Out, M.Rows[0], M.Rows[1], M.Weights[1], Count);
+    for (int I = M.Used; I < kTaps; ++I) M.Rows[I] = M.Rows[0];
+    MixRows(Out, M.Rows, M.Weights, Count);
+}
+
+// Under: what lies beneath the rows, which are seen by Weight of 256.
+void MixOver(QRgb* Out, const QRgb* Under, RowsOfMix M, int Weight, int Count) {
+    if (M.Used == kTaps) {
+        QRgb* Room = Scratch<QRgb, RowsOfMix>(Count);
+        MixTo(Room, M, Count);
+        return MixSpan(Out, Under, Room, Weight, Count);
+    }
+    int Left = 256;
+    for (int I = 0; I < M.Used; ++I) Left -= M.Weights[I] = M.Weights[I] * Weight >> 8;
+    M.Add(Under, 0, Left);
+    MixTo(Out, M, Count);
+}
+
 // One picture in its place in one frame.
 class Layer {
   public:
@@ -38,9 +72,13 @@ class Layer {
         Choose(Sizes);
         mX.Mirrored = mY.Mirrored = mFillsView;
         mColumns = {Scratch<int, User>(mWidth), Scratch<std::int16_t, User>(kTaps * mWidth)};
+        mRows[0] = Scratch<QRgb, User>(2 * mWidth);
+        mRows[1] = mRows[0] + mWidth;
         if (!mX.IsWhole()) FillColumns(mColumns, mX, Left(), Right());
     }
 
+    bool IsWhole() const { return mX.IsWhole() && mY.IsWhole(); }
+    const QRgb* WholeRow(int Y) const { return mSource->Row(Y); }
     bool IsNothing() const { return mX.Length <= 0 || mY.Length <= 0; }
     int Left() const { return mFillsView ? 0 : mX.TouchedFrom(mWidth); }
     int Right() const { return mFillsView ? mWidth : mX.TouchedTo(mWidth); }
@@ -58,13 +96,42 @@ class Layer {
     // The columns X0..X1 of a row to Out[0..].
     void Render(QRgb* Out, int Y, int X0, int X1) const {
         if (X0 >= X1) return;
-        if (mX.IsWhole()) return Flatten(Out, Y, X0, X1);
-        const int First = mX.Mirrored ? 0 : mColumns.Start[X0];
-        const int Last = mX.Mirrored ? mSource->Width : mColumns.Start[X1 - 1] + kTaps;
-        ScaleRow(Out, FlatRow(Y, First, Last), mColumns, X0, X1);
+        if (mX.IsWhole() || Grows())
+            MixTo(Out, RowsFor(Y, X0, X1), X1 - X0);
+        else
+            RenderSmall(Out, Y, X0, X1);
+    }
+
+    // The same as rows to be mixed; they are good until the next call.
+    RowsOfMix RowsFor(int Y, int X0, int X1) const {
+        if (mX.IsWhole()) return RowsAt(Y, X0);
+        if (!Grows()) {
+            RenderSmall(mRows[0], Y, X0, X1);
+            return {{mRows[0]}, {}, {256}, 1};
+        }
+        RowsOfMix M = RowsAt(Y, 0);
+        for (int I = 0; I < M.Used; ++I) M.Rows[I] = Widened(M.Places[I]) + X0;
+        return M;
     }
 
   private:
+    // Rows that grow serve several of the frame: those are widened first, and kept.
+    bool Grows() const { return mY.Ratio() <= One && mSource->Width >= kTaps; }
+
+    const QRgb* Widened(int Place) const {
+        const int Slot = Place & 1;
+        if (mKept[Slot] != Place)
+            ScaleRow(mRows[Slot] + Left(), mSource->Row(Place), mColumns, Left(), Right());
+        mKept[Slot] = Place;
+        return mRows[Slot];
+    }
+
+    void RenderSmall(QRgb* Out, int Y, int X0, int X1) const {
+        const int First = mX.Mirrored ? 0 : mColumns.Start[X0];
+        const int Last = mX.Mirrored ? mSource->Width : mColumns.Start[X1 - 1] + kTaps;
+        ScaleRow(Out, FlatRow(Y, First, std::min(mSource->Width, Last)), mColumns, X0, X1);
+    }
+
     void Choose(const HalvedPictures& Sizes) {
         const std::int64_t Ratio = std::max(Sizes.IsHalvedAcross() ? mX.Ratio() : One,
                                             Sizes.IsHalvedDown() ? mY.Ratio() : One);
@@ -77,12 +144,7 @@ class Layer {
         mY.Pixels = mSource->Height;
     }
 
-    struct RowsOfMix {
-        const QRgb* Rows[kTaps];
-        int Weights[kTaps];
-        int Used = 0;
-    };
-    // The rows that the frame's row Y is made of, X0 their first pixel.
+    // The rows of the picture that the frame's row Y is made of, X0 their first pixel.
     RowsOfMix RowsAt(int Y, int X0) const {
         const Taps T = TapsAt(mY, Y);
         RowsOfMix M{};
@@ -90,37 +152,21 @@ class Layer {
         for (int I = 0; I < kTaps; ++I) {
             const int Weight = (T.Share[I] + 32) >> 6;
             if (Weight == 0) continue;
-            M.Rows[M.Used] = mSource->Row(T.Start + I) + X0;
-            M.Weights[M.Used] = Weight;
-            if (Weight > M.Weights[Largest]) Largest = M.Used;
+            M.Add(mSource->Row(T.Start + I) + X0, T.Start + I, Weight);
+            if (Weight > M.Weights[Largest]) Largest = M.Used - 1;
             Left -= Weight;
-            ++M.Used;
         }
         M.Weights[Largest] += Left;
-        for (int I = M.Used; I < kTaps; ++I) M.Rows[I] = M.Rows[0];
         return M;
     }
 
-    // The pixels X0..X1 of the row of the picture that lies at the frame's row Y.
-    void Flatten(QRgb* Out, int Y, int X0, int X1) const {
-        const RowsOfMix M = RowsAt(Y, X0);
-        if (M.Used == 1)
-            CopySpan(Out, M.Rows[0], X1 - X0);
-        else if (M.Used == 2)
-            MixSpan(Out, M.Rows[0], M.Rows[1], M.Weights[1], X1 - X0);
-        else
-            MixRows(Out, M.Rows, M.Weights, X1 - X0);
-    }
-
-    // The same as a row to read from, its pixel 0 first, four pixels at least.
+    // The rows at the frame's row Y as one row to read from, its pixel 0 first, good from First
+    // up to Last, four pixels at least.
     const QRgb* FlatRow(int Y, int First, int Last) const {
-        Last = std::min(mSource->Width, Last);
-        if (mSource->Width >= kTaps) {
-            const RowsOfMix M = RowsAt(Y, 0);
-            if (M.Used == 1) return M.Rows[0];
-        }
+        const RowsOfMix M = RowsAt(Y, First);
+        if (M.Used == 1 && mSource->Width >= kTaps) return M.Rows[0] - First;
         QRgb* Room = Scratch<QRgb, Layer>(std::max(kTaps, mSource->Width));
-        Flatten(Room + First, Y, First, Last);
+        MixTo(Room + First, M, Last - First);
         return Room;
     }
 
@@ -129,6 +175,8 @@ class Layer {
     bool mFillsView;
     const Picture* mSource = nullptr;
     ColumnTaps mColumns{};
+    QRgb* mRows[2] = {};
+    mutable int mKept[2] = {-1, -1};
 };
 
 // Both pictures of one frame.
@@ -145,8 +193,12 @@ class Composition {
     void DrawRow(int Y) const {
         const int Weight = mTop.RowCoverage(Y) * mThrough >> 8;
         const bool Hides = Weight == 256;
-        DrawLow(Y, 0, Hides ? mTop.FilledLeft() : mF.Width);
-        if (Hides) DrawLow(Y, mTop.FilledRight(), mF.Width);
+        const int From = mTop.FilledLeft(), To = mTop.FilledRight();
+        const bool Covers = From == 0 && To == mF.Width;
+        if (Weight > 0 && !Hides && Covers && mLow.IsWhole() && !mDepth)
+            return MixOver(mF.Row(Y), mLow.WholeRow(Y), mTop.RowsFor(Y, From, To), Weight, To);
+        DrawLow(Y, 0, Hides ? From : mF.Width);
+        if (Hides) DrawLow(Y, To, mF.Width);
         if (Weight) DrawTop(mF.Row(Y), Y, Weight);
     }
 
@@ -168,9 +220,7 @@ class Composition {
         if (Weight == 256) {
             mTop.Render(Out + X0, Y, X0, X1);
         } else if (X0 < X1) {
-            QRgb* Room = Scratch<QRgb, Composition>(mF.Width);
-            mTop.Render(Room, Y, X0, X1);
-            MixSpan(Out + X0, Out + X0, Room, Weight, X1 - X0);
+            MixOver(Out + X0, Out + X0, mTop.RowsFor(Y, X0, X1), Weight, X1 - X0);
         }
         for (int X = mTop.Left(); X < std::min(X0, mTop.Right()); ++X) DrawRim(Out, Y, X, Weight);
         for (int X = std::max(X1, X0); X < mTop.Right(); ++X) DrawRim(Out, Y, X, Weight);
