@@ -1,6 +1,6 @@
 // Pictures made larger and smaller row by row: places and shares are reckoned once a frame for
 // all columns, then whole rows are mixed. Growing is smooth, shrinking (by up to two; the rest
-// is done by HalvedPictures) averages all it passes over. Used by the zooms.
+// is done by HalfSizes) averages all it passes over. Used by the zooms.
 #pragma once
 
 #include <QRgb>

@@ -48,15 +48,12 @@ void Shadow::Fall(QRgb* Row, int Y, int X0, int X1, const Area& Sheet, int Depth
         const int A = std::max(From, X0), B = std::min(To, X1);
         if (Here > 0 && A < B) Darken(Row + A, A - From, B - A);
     };
-    Take(Sheet.X0 - mReach, Sheet.X0, [&](QRgb* Out, int From, int Count) {
-        DarkenByTable(Out, mRising + From, Here, Count);
-    });
-    Take(Sheet.X1, Sheet.X1 + mReach, [&](QRgb* Out, int From, int Count) {
-        DarkenByTable(Out, mFalling + From, Here, Count);
-    });
+    Take(Sheet.X0 - mReach, Sheet.X0,
+         [&](QRgb* Out, int From, int Count) { DarkenByTable(Out, mRising + From, Here, Count); });
+    Take(Sheet.X1, Sheet.X1 + mReach,
+         [&](QRgb* Out, int From, int Count) { DarkenByTable(Out, mFalling + From, Here, Count); });
     if (Off > 0)
-        Take(Sheet.X0, Sheet.X1,
-             [&](QRgb* Out, int, int Count) { DarkenSpan(Out, Here, Count); });
+        Take(Sheet.X0, Sheet.X1, [&](QRgb* Out, int, int Count) { DarkenSpan(Out, Here, Count); });
 }
 
 int ShadowDepth(int Progress) {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "effects/HalvedPictures.h"
+#include "effects/HalfSizes.h"
 #include "effects/Pixels.h"
 #include "effects/ScaleRows.h"
 #include "effects/Shadow.h"
@@ -10,6 +10,10 @@
 namespace neb::effects {
 namespace {
 
+// How often a picture is halved at most: until a pixel is left.
+constexpr int kSmallest = 16;
+
+// The two layers of a frame, each with room of its own.
 struct Old {};
 struct New {};
 
@@ -21,6 +25,16 @@ ScaledAxis MakeAxis(int Start, int Extent, int Size, int Part) {
     A.Length = (std::int64_t{Size} << 16) + ((E * Part) >> 16);
     A.Size = A.Pixels = Size;
     return A;
+}
+
+bool Shrinks(const ZoomPlace& P, bool Across) {
+    return (Across ? P.Width : P.Height) < 100;
+}
+
+HalfSizes SizesOf(const Picture& P, const ZoomPlace& Place) {
+    const bool Across = Shrinks(Place, true), Down = Shrinks(Place, false);
+    if (!Across) return HalfSizes(P, HalfSizes::Way::Down, Down ? kSmallest : 0);
+    return HalfSizes(P, Down ? HalfSizes::Way::Both : HalfSizes::Way::Across, kSmallest);
 }
 
 // Rows, the part of each of 256, and their numbers in the picture.
@@ -62,14 +76,14 @@ class Layer {
   public:
     // Part: how much of the way from the whole view to the place, of One.
     template <typename User>
-    Layer(User, const HalvedPictures& Sizes, const ZoomForm& Form, const ZoomPlace& Place, int Part)
-        : mX(MakeAxis(Place.X, Place.Width, Sizes.Level(0).Width, Part)),
-          mY(MakeAxis(Place.Y, Place.Height, Sizes.Level(0).Height, Part)),
+    Layer(User, const HalfSizes& Sizes, const ZoomForm& Form, const ZoomPlace& Place, int Part)
+        : mX(MakeAxis(Place.X, Place.Width, Sizes.At(0).Width, Part)),
+          mY(MakeAxis(Place.Y, Place.Height, Sizes.At(0).Height, Part)),
           mWidth(mX.Size),
           mHeight(mY.Size),
           mFillsView(Form.Mirrored) {
         if (IsNothing()) return;
-        Choose(Sizes);
+        Choose(Sizes, Place);
         mX.Mirrored = mY.Mirrored = mFillsView;
         mColumns = {Scratch<int, User>(mWidth), Scratch<std::int16_t, User>(kTaps * mWidth)};
         mRows[0] = Scratch<QRgb, User>(2 * mWidth);
@@ -132,14 +146,15 @@ class Layer {
         ScaleRow(Out, FlatRow(Y, First, std::min(mSource->Width, Last)), mColumns, X0, X1);
     }
 
-    void Choose(const HalvedPictures& Sizes) {
-        const std::int64_t Ratio = std::max(Sizes.IsHalvedAcross() ? mX.Ratio() : One,
-                                            Sizes.IsHalvedDown() ? mY.Ratio() : One);
+    // The version in which one to two pixels come to one of the frame.
+    void Choose(const HalfSizes& Sizes, const ZoomPlace& Place) {
+        const bool Across = Shrinks(Place, true), Down = Shrinks(Place, false);
+        const std::int64_t Ratio = std::max(Across ? mX.Ratio() : One, Down ? mY.Ratio() : One);
         int Level = 0;
-        while (Level < Sizes.LastLevel() && (Ratio >> Level) >= 2 * One) ++Level;
-        mSource = &Sizes.Level(Level);
-        mX.Level = Sizes.IsHalvedAcross() ? Level : 0;
-        mY.Level = Sizes.IsHalvedDown() ? Level : 0;
+        while (Level < Sizes.Last() && (Ratio >> Level) >= 2 * One) ++Level;
+        mSource = &Sizes.At(Level);
+        mX.Level = Across ? Level : 0;
+        mY.Level = Down ? Level : 0;
         mX.Pixels = mSource->Width;
         mY.Pixels = mSource->Height;
     }
@@ -239,13 +254,6 @@ class Composition {
     Shadow mShadow;
 };
 
-bool Shrinks(const ZoomPlace& P, bool Across) {
-    return (Across ? P.Width : P.Height) < 100;
-}
-HalvedPictures SizesOf(const Picture& P, const ZoomPlace& Place) {
-    return HalvedPictures(P, Shrinks(Place, true), Shrinks(Place, false));
-}
-
 class ZoomEngine : public Engine {
   public:
     ZoomEngine(const ZoomForm& Form, const Pair& P)
@@ -271,7 +279,7 @@ class ZoomEngine : public Engine {
     }
 
     ZoomForm mForm;
-    HalvedPictures mOld, mNew;
+    HalfSizes mOld, mNew;
 };
 
 }  // namespace
