@@ -80,7 +80,6 @@ class Layer {
         : mX(MakeAxis(Place.X, Place.Width, Sizes.At(0).Width, Part)),
           mY(MakeAxis(Place.Y, Place.Height, Sizes.At(0).Height, Part)),
           mWidth(mX.Size),
-          mHeight(mY.Size),
           mFillsView(Form.Mirrored) {
         if (IsNothing()) return;
         Choose(Sizes, Place);
@@ -186,7 +185,7 @@ class Layer {
     }
 
     ScaledAxis mX, mY;
-    int mWidth, mHeight;
+    int mWidth;
     bool mFillsView;
     const Picture* mSource = nullptr;
     ColumnTaps mColumns{};
