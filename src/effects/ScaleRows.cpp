@@ -17,21 +17,6 @@ int Within(std::int64_t Place, int Count) {
     return static_cast<int>(std::clamp<std::int64_t>(Place, 0, Count));
 }
 
-// A place that lies beyond the ends brought back between them.
-int Inside(int Place, const ScaledAxis& Axis) {
-    const int Last = Axis.Pixels - 1;
-    if (!Axis.Mirrored || Last == 0) return Clamp(Place, 0, Last);
-    if (Place < 0) Place = -1 - Place;
-    return Clamp(Place > Last ? 2 * Last + 1 - Place : Place, 0, Last);
-}
-
-// The middle of a frame's pixel in pixels of the level, those at whole numbers being middles.
-std::int64_t MiddleOf(const ScaledAxis& Axis, int Place) {
-    const std::int64_t Off = (std::int64_t{Place} << 16) + One / 2 - Axis.Start;
-    const std::int64_t Fine = (std::int64_t{Axis.Size} << 40) / Axis.Length;  // of 2^24
-    return ((Off * Fine) >> (24 + Axis.Level)) - One / 2;
-}
-
 struct Tent {
     int First;
     unsigned Height[kTaps];
@@ -128,17 +113,31 @@ int ScaledAxis::FilledTo(int Count) const {
     return std::max(FilledFrom(Count), Within((Start + Length) >> 16, Count));
 }
 
-Taps TapsAt(const ScaledAxis& Axis, int Place) {
-    const std::int64_t Half = std::clamp<std::int64_t>(Axis.Ratio() >> Axis.Level, One, 2 * One);
-    const std::int64_t End = std::int64_t{Axis.Pixels} << 17;
-    const Tent T(std::clamp(MiddleOf(Axis, Place), -End, End), Half);
-    Taps Out{Axis.Pixels, {}};
-    for (int I = 0; I < kTaps; ++I) Out.Start = std::min(Out.Start, Inside(T.First + I, Axis));
-    Out.Start = std::max(0, std::min(Out.Start, Axis.Pixels - kTaps));
+TapFinder::TapFinder(const ScaledAxis& Axis)
+    : mAxis(Axis),
+      mStep((std::int64_t{Axis.Size} << 40) / Axis.Length),
+      mHalf(std::clamp<std::int64_t>(Axis.Ratio() >> Axis.Level, One, 2 * One)) {}
+
+// A place that lies beyond the ends brought back between them.
+int TapFinder::Inside(int Place) const {
+    const int Last = mAxis.Pixels - 1;
+    if (!mAxis.Mirrored) return Clamp(Place, 0, Last);
+    if (Place < 0) Place = -1 - Place;
+    return Clamp(Place > Last ? 2 * Last + 1 - Place : Place, 0, Last);
+}
+
+Taps TapFinder::At(int Place) const {
+    const std::int64_t Off = (std::int64_t{Place} << 16) + One / 2 - mAxis.Start;
+    const std::int64_t Middle = ((Off * mStep) >> (24 + mAxis.Level)) - One / 2;
+    const std::int64_t End = std::int64_t{mAxis.Pixels} << 17;
+    const Tent T(std::clamp(Middle, -End, End), mHalf);
+    Taps Out{mAxis.Pixels, {}};
+    for (int I = 0; I < kTaps; ++I) Out.Start = std::min(Out.Start, Inside(T.First + I));
+    Out.Start = std::max(0, std::min(Out.Start, mAxis.Pixels - kTaps));
     int Left = kShares, Largest = 0;
     for (int I = 0; I < kTaps; ++I) {
         const auto Share = static_cast<int>((T.Height[I] << 14) / T.Sum);
-        const int At = Inside(T.First + I, Axis) - Out.Start;
+        const int At = Inside(T.First + I) - Out.Start;
         Out.Share[At] = static_cast<std::int16_t>(Out.Share[At] + Share);
         if (Out.Share[At] > Out.Share[Largest]) Largest = At;
         Left -= Share;
@@ -148,8 +147,9 @@ Taps TapsAt(const ScaledAxis& Axis, int Place) {
 }
 
 void FillColumns(const ColumnTaps& Columns, const ScaledAxis& Axis, int X0, int X1) {
+    const TapFinder Finder(Axis);
     for (int X = X0; X < X1; ++X) {
-        const Taps T = TapsAt(Axis, X);
+        const Taps T = Finder.At(X);
         Columns.Start[X] = T.Start;
         std::copy_n(T.Share, kTaps, Columns.Share + kTaps * X);
     }

@@ -40,7 +40,21 @@ struct Taps {
     int Start;
     std::int16_t Share[kTaps];
 };
-Taps TapsAt(const ScaledAxis& Axis, int Place);
+
+// Finds the taps of the pixels of a frame along one direction.
+class TapFinder {
+  public:
+    TapFinder() = default;
+    explicit TapFinder(const ScaledAxis& Axis);
+    Taps At(int Place) const;
+
+  private:
+    int Inside(int Place) const;
+
+    ScaledAxis mAxis;
+    std::int64_t mStep = 0;    // pixels of the picture in one of the frame, of 2^24
+    std::int64_t mHalf = One;  // how far one pixel of the frame reads to either side, of One
+};
 
 // The taps of the columns of a frame, laid out for ScaleRow.
 struct ColumnTaps {

@@ -58,17 +58,22 @@ void MixTo(QRgb* Out, RowsOfMix M, int Count) {
     MixRows(Out, M.Rows, M.Weights, Count);
 }
 
-// Under: what lies beneath the rows, which are seen by Weight of 256.
-void MixOver(QRgb* Out, const QRgb* Under, RowsOfMix M, int Weight, int Count) {
-    if (M.Used == kTaps) {
+// The rows Over are seen by Weight of 256, through them the rows Under; Out may be one of these.
+void MixOver(QRgb* Out, RowsOfMix Under, RowsOfMix Over, int Weight, int Count) {
+    if (Under.Used + Over.Used > kTaps) {
         QRgb* Room = Scratch<QRgb, RowsOfMix>(Count);
-        MixTo(Room, M, Count);
-        return MixSpan(Out, Under, Room, Weight, Count);
+        MixTo(Room, Over, Count);
+        MixTo(Out, Under, Count);
+        return MixSpan(Out, Out, Room, Weight, Count);
     }
     int Left = 256;
-    for (int I = 0; I < M.Used; ++I) Left -= M.Weights[I] = M.Weights[I] * Weight >> 8;
-    M.Add(Under, 0, Left);
-    MixTo(Out, M, Count);
+    for (int I = 0; I < Over.Used; ++I) Left -= Over.Weights[I] = Over.Weights[I] * Weight >> 8;
+    for (int I = Under.Used - 1; I >= 0; --I) {
+        const int Share = I > 0 ? Under.Weights[I] * (256 - Weight) >> 8 : Left;
+        Over.Add(Under.Rows[I], 0, Share);
+        Left -= Share;
+    }
+    MixTo(Out, Over, Count);
 }
 
 // One picture in its place in one frame.
@@ -84,14 +89,13 @@ class Layer {
         if (IsNothing()) return;
         Choose(Sizes, Place);
         mX.Mirrored = mY.Mirrored = mFillsView;
+        mDown = TapFinder(mY);
         mColumns = {Scratch<int, User>(mWidth), Scratch<std::int16_t, User>(kTaps * mWidth)};
         mRows[0] = Scratch<QRgb, User>(2 * mWidth);
         mRows[1] = mRows[0] + mWidth;
         if (!mX.IsWhole()) FillColumns(mColumns, mX, Left(), Right());
     }
 
-    bool IsWhole() const { return mX.IsWhole() && mY.IsWhole(); }
-    const QRgb* WholeRow(int Y) const { return mSource->Row(Y); }
     bool IsNothing() const { return mX.Length <= 0 || mY.Length <= 0; }
     int Left() const { return mFillsView ? 0 : mX.TouchedFrom(mWidth); }
     int Right() const { return mFillsView ? mWidth : mX.TouchedTo(mWidth); }
@@ -104,6 +108,9 @@ class Layer {
     }
     // How much of a row and of a column it covers, 0..256.
     int RowCoverage(int Y) const { return IsNothing() ? 0 : mFillsView ? 256 : mY.CoverageAt(Y); }
+    bool FillsRow(int Y) const {
+        return RowCoverage(Y) == 256 && FilledLeft() == 0 && FilledRight() == mWidth;
+    }
     int ColumnCoverage(int X) const { return mFillsView ? 256 : mX.CoverageAt(X); }
 
     // The columns X0..X1 of a row to Out[0..].
@@ -129,7 +136,7 @@ class Layer {
 
   private:
     // Rows that grow serve several of the frame: those are widened first, and kept.
-    bool Grows() const { return mY.Ratio() <= One && mSource->Width >= kTaps; }
+    bool Grows() const { return mY.Ratio() < One && mSource->Width >= kTaps; }
 
     const QRgb* Widened(int Place) const {
         const int Slot = Place & 1;
@@ -160,7 +167,8 @@ class Layer {
 
     // The rows of the picture that the frame's row Y is made of, X0 their first pixel.
     RowsOfMix RowsAt(int Y, int X0) const {
-        const Taps T = TapsAt(mY, Y);
+        if (mY.IsWhole()) return {{mSource->Row(Y) + X0}, {Y}, {256}, 1};
+        const Taps T = mDown.At(Y);
         RowsOfMix M{};
         int Left = 256, Largest = 0;
         for (int I = 0; I < kTaps; ++I) {
@@ -188,6 +196,7 @@ class Layer {
     int mWidth;
     bool mFillsView;
     const Picture* mSource = nullptr;
+    TapFinder mDown;
     ColumnTaps mColumns{};
     QRgb* mRows[2] = {};
     mutable int mKept[2] = {-1, -1};
@@ -208,9 +217,10 @@ class Composition {
         const int Weight = mTop.RowCoverage(Y) * mThrough >> 8;
         const bool Hides = Weight == 256;
         const int From = mTop.FilledLeft(), To = mTop.FilledRight();
-        const bool Covers = From == 0 && To == mF.Width;
-        if (Weight > 0 && !Hides && Covers && mLow.IsWhole() && !mDepth)
-            return MixOver(mF.Row(Y), mLow.WholeRow(Y), mTop.RowsFor(Y, From, To), Weight, To);
+        const int All = mF.Width;
+        if (Weight > 0 && !Hides && mTop.FillsRow(Y) && mLow.FillsRow(Y) && !mDepth)
+            return MixOver(mF.Row(Y), mLow.RowsFor(Y, 0, All), mTop.RowsFor(Y, 0, All), Weight,
+                           All);
         DrawLow(Y, 0, Hides ? From : mF.Width);
         if (Hides) DrawLow(Y, To, mF.Width);
         if (Weight) DrawTop(mF.Row(Y), Y, Weight);
@@ -234,7 +244,7 @@ class Composition {
         if (Weight == 256) {
             mTop.Render(Out + X0, Y, X0, X1);
         } else if (X0 < X1) {
-            MixOver(Out + X0, Out + X0, mTop.RowsFor(Y, X0, X1), Weight, X1 - X0);
+            MixOver(Out + X0, {{Out + X0}, {}, {256}, 1}, mTop.RowsFor(Y, X0, X1), Weight, X1 - X0);
         }
         for (int X = mTop.Left(); X < std::min(X0, mTop.Right()); ++X) DrawRim(Out, Y, X, Weight);
         for (int X = std::max(X1, X0); X < mTop.Right(); ++X) DrawRim(Out, Y, X, Weight);

@@ -56,7 +56,7 @@ int PartOf(QRgb C, int Bit) {
 TEST(ScaleRows, TheSharesOfAPixelAreWholeTogetherAndOfPixelsThatAreThere) {
     for (const ScaledAxis& A : SomeAxes())
         for (int X = -5; X < A.Size + 5; ++X) {
-            const Taps T = TapsAt(A, X);
+            const Taps T = TapFinder(A).At(X);
             ASSERT_EQ(std::accumulate(T.Share, T.Share + kTaps, 0), kShares);
             ASSERT_GE(T.Start, 0);
             for (int I = 0; I < kTaps; ++I) {
@@ -71,7 +71,7 @@ TEST(ScaleRows, APictureOfFullSizeIsReadPixelForPixel) {
     const ScaledAxis A = AxisOf(50, 0, std::int64_t{50} << 16);
     EXPECT_TRUE(A.IsWhole());
     for (int X = 0; X < 50; ++X) {
-        const Taps T = TapsAt(A, X);
+        const Taps T = TapFinder(A).At(X);
         EXPECT_EQ(T.Share[X - T.Start], kShares) << X;
     }
 }
@@ -81,7 +81,7 @@ TEST(ScaleRows, AShrunkPictureIsReadWithoutGaps) {
         const ScaledAxis A = AxisOf(200, 0, (std::int64_t{200} << 16) * Percent / 100);
         std::array<int, 204> Read{};
         for (int X = 0; X < 2 * Percent; ++X) {
-            const Taps T = TapsAt(A, X);
+            const Taps T = TapFinder(A).At(X);
             for (int I = 0; I < kTaps; ++I) Read[std::size_t(T.Start + I)] += T.Share[I];
         }
         // Each pixel of the picture counts for what it takes of the frame, nearly.
@@ -100,7 +100,7 @@ TEST(ScaleRows, ARowIsWhatEachOfItsPixelsIsAlone) {
         for (int X = 0; X < A.Size; ++X)
             for (int Bit = 0; Bit < 32; Bit += 8) {
                 int Sum = kShares / 2;
-                const Taps T = TapsAt(A, X);
+                const Taps T = TapFinder(A).At(X);
                 for (int I = 0; I < kTaps; ++I)
                     Sum += PartOf(Row[std::size_t(T.Start + I)], Bit) * T.Share[I];
                 ASSERT_EQ(PartOf(Out[std::size_t(X)], Bit), Sum / kShares) << X << " " << A.Size;
