@@ -3,6 +3,7 @@
 #include <array>
 #include <vector>
 
+#include "effects/BlurEngine.h"
 #include "effects/DissolveEngine.h"
 #include "effects/FadeEngine.h"
 #include "effects/GlowEngine.h"
@@ -91,12 +92,19 @@ const std::vector<EffectRow> kRows = {
     {85, u"Uncover Left"_s, Uncover(Heading::Left)},
     {88, u"Blinds in Turn"_s, Wipe(BlindsInTurn, {.Count = 16, .SoftBits = 11})},
     {91, u"Snake"_s, Wipe(Snake, {.Count = 7, .SoftBits = 9})},
+    {93, u"Blur Dissolve"_s, BlurDissolve()},
     {94, u"Saw Tooth Wipe"_s, Wipe(Teeth, {.Count = 9})},
+    {96, u"Fade Through Old Photograph"_s, FadeThroughOldPrint()},
     {97, u"Random Bars Horizontal"_s,
      Wipe(RandomBars, {.Count = 64, .SoftBits = 11, .Turned = true})},
+    {99, u"Mosaic Ring"_s, MosaicRing()},
     {100, u"Iris of Light"_s, ShiningWipe(Circle, {.SoftBits = 12})},
+    {101, u"Film Burn"_s, FilmBurn()},
+    {102, u"Sunrise"_s, Sunrise()},
     {103, u"Cube Turn Right"_s, CubeTurn({.Mirrored = true})},
+    {105, u"Light Bloom"_s, LightBloom()},
     {106, u"Cube Turn Up"_s, CubeTurn({.Upright = false})},
+    {107, u"Paper Soak"_s, PaperSoak(7)},
     {109, u"Page Turn Right"_s, PageTurn(1, 0)},
     {112, u"Tiles Turn at Random"_s, TurningTiles(14, nullptr)},
     {115, u"Bright to Dark Dissolve"_s, LightDissolve(true)},
