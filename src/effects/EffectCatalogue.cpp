@@ -3,6 +3,7 @@
 #include <array>
 #include <vector>
 
+#include "effects/BlurEngine.h"
 #include "effects/DissolveEngine.h"
 #include "effects/FadeEngine.h"
 #include "effects/GlowEngine.h"
@@ -105,6 +106,7 @@ const std::vector<EffectRow> kRows = {
     {89, u"Uncover Corner"_s, Uncover(Heading::DownLeft)},
     {90, u"Squeeze Up"_s, Zoom({.OldTo = {0, 0, 100, 0}, .NewFrom = {0, 100, 100, 0}})},
     {91, u"Snake"_s, Wipe(Snake, {.Count = 7, .SoftBits = 9})},
+    {93, u"Blur Dissolve"_s, BlurDissolve()},
     {94, u"Saw Tooth Wipe"_s, Wipe(Teeth, {.Count = 9})},
     {95, u"Unfold From the Middle"_s, Zoom({.NewFrom = {0, 50, 100, 0}, .Shaded = true})},
     {97, u"Random Bars Horizontal"_s,
@@ -116,9 +118,17 @@ const std::vector<EffectRow> kRows = {
            .FadeFrom = 25,
            .FadeTo = 75,
            .Mirrored = true})},
+    {96, u"Fade Through Old Photograph"_s, FadeThroughOldPrint()},
+    {97, u"Random Bars Horizontal"_s,
+     Wipe(RandomBars, {.Count = 64, .SoftBits = 11, .Turned = true})},
+    {99, u"Mosaic Ring"_s, MosaicRing()},
     {100, u"Iris of Light"_s, ShiningWipe(Circle, {.SoftBits = 12})},
+    {101, u"Film Burn"_s, FilmBurn()},
+    {102, u"Sunrise"_s, Sunrise()},
     {103, u"Cube Turn Right"_s, CubeTurn({.Mirrored = true})},
+    {105, u"Light Bloom"_s, LightBloom()},
     {106, u"Cube Turn Up"_s, CubeTurn({.Upright = false})},
+    {107, u"Paper Soak"_s, PaperSoak(7)},
     {109, u"Page Turn Right"_s, PageTurn(1, 0)},
     {112, u"Tiles Turn at Random"_s, TurningTiles(14, nullptr)},
     {115, u"Bright to Dark Dissolve"_s, LightDissolve(true)},
