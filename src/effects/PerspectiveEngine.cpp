@@ -13,12 +13,20 @@ struct Run {
     const Picture* Source;
     int Shade;
     bool Growing;  // further away to the right
+    bool Still;    // the picture as it is, pixel for pixel
 };
+
+constexpr int kMostColumns = 256;  // of a run
 
 // A stretch of a row: of it the middle part is wholly covered by the panel.
 struct Stretch {
     int A, FullA, FullB, B;
 };
+
+bool IsStill(const ViewLine& L) {
+    return L.Source && L.Shade == 0 && std::abs(L.Zoom - One) < 4 && std::abs(L.Du - One) < 64 &&
+           ((L.U + 256) & (One - 1)) < 512;
+}
 
 class PerspectiveEngine : public Engine {
   public:
@@ -80,49 +88,45 @@ class PerspectiveEngine : public Engine {
                   0};
         for (int X = 0; X < F.Width; ++X) {
             const ViewLine& L = Lines[X];
-            if (!L.Source) continue;
-            const int Level = L.Source->LevelFor(L.Du);
-            C.U[X] = L.Source->AcrossAt(L.U, Level);
+            const int Level = L.Source ? L.Source->LevelFor(L.Du) : 0;
+            C.U[X] = L.Source ? L.Source->AcrossAt(L.U, Level) : 0;
             C.Start[X] = PlaceAcross(0, F.Height, L.Zoom);
             C.Zoom[X] = L.Zoom;
             C.Cover[X] = L.Cover;
-            AddToRuns(C, X, L, L.Source->At(Level), X > 0 ? Lines[X - 1].Panel : -1);
+            const Picture* Source = L.Source ? &L.Source->At(Level) : nullptr;
+            const bool Starts = X == 0 || Lines[X - 1].Panel != L.Panel;
+            AddToRuns(C, {X, X + 1, Source, L.Shade, false, IsStill(L)}, Starts);
         }
         for (int R = 0; R < C.Count; ++R)
             C.Runs[R].Growing = C.Zoom[C.Runs[R].X1 - 1] > C.Zoom[C.Runs[R].X0];
         return C;
     }
 
-    static void AddToRuns(Columns& C, int X, const ViewLine& L, const Picture& Source,
-                          int PanelBefore) {
+    static void AddToRuns(Columns& C, const Run& New, bool Starts) {
         Run* Last = C.Count > 0 ? &C.Runs[C.Count - 1] : nullptr;
-        if (Last && Last->X1 == X && Last->Source == &Source && PanelBefore == L.Panel)
-            ++Last->X1;
+        if (Starts || Last->Source != New.Source || Last->Still != New.Still ||
+            New.X0 - Last->X0 >= kMostColumns)
+            C.Runs[C.Count++] = New;
         else
-            C.Runs[C.Count++] = {X, X + 1, &Source, L.Shade, false};
+            ++Last->X1;
     }
 
+    // Run by run, so that what a row reads is still at hand when the next one comes to it.
     void DrawUpright(const Frame& F, const PanelScene& S, const ViewLine* Lines, int Y0,
                      int Y1) const {
-        Columns C = FindColumns(Lines, F);
-        for (int Y = Y0; Y < Y1; ++Y) {
-            QRgb* Out = F.Row(Y);
-            int Done = 0;
-            for (int R = 0; R < C.Count; ++R) {
-                const Run& Now = C.Runs[R];
-                const Stretch Seen = SeenOf(C, Now, F.Height, Y);
-                PutBehind(Out, S, F, Y, Done, Seen.FullA);
-                PutBehind(Out, S, F, Y, Seen.FullB, Seen.B);
-                DrawStretch(Out, C, Now, Seen, F.Height, Y);
-                Done = Seen.B;
-                if (S.Mirroring && 2 * Y > F.Height) {
-                    PutBehind(Out, S, F, Y, Done, Now.X1);
-                    PutReflection(Out, C, Now, Seen, F.Height, Y);
-                    Done = Now.X1;
-                }
-            }
-            PutBehind(Out, S, F, Y, Done, F.Width);
-        }
+        const Columns C = FindColumns(Lines, F);
+        for (int R = 0; R < C.Count; ++R)
+            for (int Y = Y0; Y < Y1; ++Y) DrawRun(F, S, C, C.Runs[R], Y);
+    }
+
+    void DrawRun(const Frame& F, const PanelScene& S, const Columns& C, const Run& R, int Y) const {
+        QRgb* Out = F.Row(Y);
+        if (!R.Source) return PutBehind(Out, S, F, Y, R.X0, R.X1);
+        const Stretch Seen = SeenOf(C, R, F.Height, Y);
+        PutBehind(Out, S, F, Y, R.X0, Seen.FullA);
+        PutBehind(Out, S, F, Y, Seen.FullB, R.X1);
+        DrawStretch(Out, C, R, Seen, F.Height, Y);
+        if (S.Mirroring && 2 * Y > F.Height) PutReflection(Out, C, R, Seen, F.Height, Y);
     }
 
     // Columns within the panel's height at a row; along a panel the height grows or shrinks evenly.
@@ -137,7 +141,7 @@ class PerspectiveEngine : public Engine {
         Stretch S{R.X0, R.X0, R.X1, R.X1};
         const int Nearest = std::min(C.Zoom[R.X0], C.Zoom[R.X1 - 1]);
         const int Furthest = std::max(C.Zoom[R.X0], C.Zoom[R.X1 - 1]);
-        if (Nearest > Touch) return {R.X1, R.X1, R.X1, R.X1};
+        if (Nearest > Touch) return {R.X0, R.X0, R.X0, R.X0};
         if (Furthest > Full) {
             const int *From = C.Zoom + R.X0, *To = C.Zoom + R.X1;
             const auto Find = [&](int Most) {
@@ -160,6 +164,10 @@ class PerspectiveEngine : public Engine {
         for (int X = S.FullB; X < S.B; ++X) Soften(Out[X], C, R, X, Height, Y);
         const int Count = S.FullB - S.FullA;
         if (Count <= 0) return;
+        if (R.Still) {
+            const int From = (C.U[S.FullA] + 256) >> 16;
+            return CopySpan(Out + S.FullA, R.Source->Row(Y) + From, Count);
+        }
         PlacesDown(C.V, C.Start + S.FullA, C.Zoom + S.FullA, Y, Count);
         SamplePlaces(Out + S.FullA, *R.Source, C.U + S.FullA, C.V, Count);
         DarkenSpan(Out + S.FullA, R.Shade, Count);
@@ -184,10 +192,8 @@ class PerspectiveEngine : public Engine {
                 Out[X] = Darken(Out[X], Clamp(170 + R.Shade / 3 + (Depth >> 7), 0, 256));
             }
         };
-        if (R.Growing)
-            Put(S.B, R.X1);
-        else
-            Put(R.X0, S.B == R.X1 ? S.A : R.X1);
+        Put(R.X0, S.A);
+        Put(S.B, R.X1);
     }
 
     // Level axis: a row is a straight cut through one panel.
@@ -198,6 +204,8 @@ class PerspectiveEngine : public Engine {
             const std::int64_t Half = ((std::int64_t{F.Width} << 16) + Soft) / L.Zoom;
             return static_cast<int>(std::clamp<std::int64_t>((F.Width - Half) / 2, 0, F.Width / 2));
         };
+        if (IsStill(L) && L.Cover == 256)
+            return CopySpan(Out, L.Source->At(0).Row((L.U + 256) >> 16), F.Width);
         const int A = Edge(One), FullA = L.Cover < 256 ? F.Width / 2 : Edge(-One);
         const int B = F.Width - A, FullB = std::max(FullA, F.Width - FullA);
         PutBehind(Out, S, F, Y, 0, FullA);
