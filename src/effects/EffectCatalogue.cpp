@@ -10,6 +10,7 @@
 #include "effects/PageEngine.h"
 #include "effects/PerspectiveEngine.h"
 #include "effects/RippleEngine.h"
+#include "effects/RollEngine.h"
 #include "effects/SlideEngine.h"
 #include "effects/TilesEngine.h"
 #include "effects/WipeEngine.h"
@@ -53,7 +54,7 @@ const std::vector<EffectRow> kRows = {
     {17, u"Split Vertical Out"_s, Wipe(Centre)},
     {18, u"Uncover Right"_s, Uncover(Heading::Right)},
     {19, u"Spiral In"_s, Wipe(Spiral, {.Count = 10, .SoftBits = 9})},
-    {20, u"Page Turn Left"_s, PageTurn(-1, 0)},
+    {20, u"Page Turn Left"_s, PageTurn({-1, 0})},
     {21, u"Wipe Left"_s, Wipe(Straight, kMirror)},
     {22, u"Wipe Down"_s, Wipe(Straight, kDown)},
     {23, u"Wipe Up"_s, Wipe(Straight, kUp)},
@@ -92,11 +93,14 @@ const std::vector<EffectRow> kRows = {
     {70, u"Split Horizontal Out"_s, Wipe(Centre, kDown)},
     {72, u"Comb Horizontal"_s, Wipe(Comb, {.Count = 12, .SoftBits = 9})},
     {74, u"Zoom Out"_s, Zoom({.NewFrom = {-75, -75, 250, 250}, .Fades = true})},
+    {75, u"Page Turn Up"_s, PageTurn({0, -1})},
     {76, u"Sweep Corner"_s, Wipe(Sweep)},
     {78, u"Iris Cross"_s, Wipe(Cross)},
     {80, u"Shrink to the Corner"_s, Zoom({.OldTo = {100, 0, 0, 0}, .OldOnTop = true})},
+    {81, u"Roll Up"_s, RollUp()},
     {82, u"Swirl Wipe"_s, Wipe(Swirl, {.Count = 3})},
     {85, u"Uncover Left"_s, Uncover(Heading::Left)},
+    {86, u"Unroll Down"_s, UnrollDown()},
     {88, u"Blinds in Turn"_s, Wipe(BlindsInTurn, {.Count = 16, .SoftBits = 11})},
     {91, u"Snake"_s, Wipe(Snake, {.Count = 7, .SoftBits = 9})},
     {92, u"Fall Back"_s, FallBack({.Upright = false, .Mirrored = true})},
@@ -105,13 +109,14 @@ const std::vector<EffectRow> kRows = {
      Wipe(RandomBars, {.Count = 64, .SoftBits = 11, .Turned = true})},
     {100, u"Iris of Light"_s, ShiningWipe(Circle, {.SoftBits = 12})},
     {103, u"Cube Turn Right"_s, CubeTurn({.Mirrored = true})},
+    {104, u"Peel From the Middle"_s, PageTurn({-4, 3, true})},
     {106, u"Cube Turn Up"_s, CubeTurn({.Upright = false})},
-    {109, u"Page Turn Right"_s, PageTurn(1, 0)},
+    {109, u"Page Turn Right"_s, PageTurn({1, 0})},
     {112, u"Tiles Turn at Random"_s, TurningTiles(14, nullptr)},
     {115, u"Bright to Dark Dissolve"_s, LightDissolve(true)},
     {118, u"Water Ring"_s, WaterRing(4)},
     {121, u"Twirl"_s, Twirl(3)},
-    {124, u"Page Turn Corner"_s, PageTurn(-4, -3)},
+    {124, u"Page Turn Corner"_s, PageTurn({-4, -3})},
     {127, u"Wall of Light"_s, ShiningWipe(Straight, {.SoftBits = 12})},
 };
 

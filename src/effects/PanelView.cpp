@@ -108,8 +108,4 @@ NEB_WIDE void PlacesDown(int* V, const int* Start, const int* Step, int Y, int C
     for (int I = 0; I < Count; ++I) V[I] = Start[I] + Y * Step[I];
 }
 
-NEB_WIDE void PlacesAlong(int* U, int Start, int Step, int Count) {
-    for (int I = 0; I < Count; ++I) U[I] = Start + I * Step;
-}
-
 }  // namespace neb::effects

@@ -29,7 +29,5 @@ inline int PlaceAcross(int Place, int Size, int Zoom) {
 
 // The places of one row from those of the first row and the way from row to row.
 void PlacesDown(int* V, const int* Start, const int* Step, int Y, int Count);
-// Start, Start + Step, Start + 2 * Step ...
-void PlacesAlong(int* U, int Start, int Step, int Count);
 
 }  // namespace neb::effects

@@ -226,7 +226,7 @@ class PerspectiveEngine : public Engine {
         int* U = Scratch<int, PerspectiveEngine>(2 * Width);
         int* V = U + Width;
         const int Level = L.Source->LevelFor(L.Du);
-        PlacesAlong(U, PlaceAcross(A, Width, L.Zoom), L.Zoom, B - A);
+        StepSpan(U, PlaceAcross(A, Width, L.Zoom), L.Zoom, B - A);
         std::fill_n(V, B - A, L.Source->DownAt(L.U, Level));
         SamplePlaces(Row, L.Source->At(Level), U, V, B - A);
         DarkenSpan(Row, L.Shade, B - A);

@@ -22,13 +22,13 @@ const Golden kGolden[] = {
     {6, 0x2f2d2473a8febef7u},   {7, 0x8f49f77101a1a91fu},   {8, 0xf1532d3a07ee5bbeu},
     {10, 0xfc6ec870252773edu},  {11, 0x52a11513b42869a5u},  {12, 0x3e9b03da7400230fu},
     {13, 0x6a36ce0b42496adcu},  {14, 0x572e815415b259cau},  {15, 0x5f2281219d810ccdu},
-    {16, 0xb4d9563e7b62eb82u},  {19, 0x667bb2078c8a35a3u},  {20, 0xb793dc1399917759u},
+    {16, 0xb4d9563e7b62eb82u},  {19, 0x667bb2078c8a35a3u},  {20, 0x4c8d0d8612ff4a1fu},
     {26, 0x8d8820f03dcb7370u},  {34, 0x63e5edc90e8e459au},  {42, 0xda167ba3be65f650u},
     {44, 0xc990c2c323a16b85u},  {46, 0x7b966cf977c5e8f1u},  {54, 0x3982f93648f18e70u},
     {56, 0x87dd93c20b07d667u},  {62, 0xdfd4ea84a2862e34u},  {66, 0xc5603c0572d5b1acu},
     {70, 0x77960ef1134ae933u},  {85, 0x7018119c49842177u},  {91, 0xbd78788dd47d8fdbu},
     {100, 0x41991a823be0c729u}, {106, 0xbc9cc1e9a805fe66u}, {112, 0xcf156fb59c06100au},
-    {118, 0x652c76c95fe17789u}, {121, 0x09fd6c13a2364dc9u}, {124, 0xfd30e46a79d00940u},
+    {118, 0x652c76c95fe17789u}, {121, 0x09fd6c13a2364dc9u}, {124, 0x966ff6f1cf3abbf5u},
     {27, 0xa00abe5d8019418du},
     {33, 0x3298dec13a845d0cu},
     {39, 0xb9aa24107ebb8cc0u},
@@ -40,6 +40,11 @@ const Golden kGolden[] = {
     {92, 0x33aece27e32c9ff5u},
     {28, 0x467d3e7c91b4b2f1u},
     {103, 0x1cb115ed102703fau},
+    {109, 0x7e420a10258eac8du},
+    {75, 0x54898ff66b538b15u},
+    {104, 0x185c233177b95b35u},
+    {81, 0xd42f4be346f5bedfu},
+    {86, 0x669ada02dd3b5c49u},
 };
 
 std::uint64_t SumOf(int Number) {
