@@ -60,7 +60,7 @@ int Lesser(int A, int B) {
     return std::min(A, B);
 }
 
-// An edge from the left to the right, bent by a twentieth of the width.
+// An edge from the left to the right, bent to both sides by a 24th of the width.
 template <int (*Bend)(int Angle)>
 class BentEdge : public WipeRows {
   public:
@@ -69,7 +69,7 @@ class BentEdge : public WipeRows {
           mHeight(Size.height()),
           mCount(Count) {}
     void Fill(int Y, std::int16_t* Row) const override {
-        constexpr int Room = kLevels / 20, Shrink = One * 20 / 22;
+        constexpr int Room = kLevels / 24, Shrink = One * 24 / 26;
         const auto Angle =
             static_cast<int>((2 * std::int64_t{Y} + 1) * One * mCount / (2 * mHeight));
         const int Add = Room + Scale(Room, Bend(Angle & (One - 1)));

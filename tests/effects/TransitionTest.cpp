@@ -194,6 +194,7 @@ struct MirrorPair {
 const MirrorPair kPairs[] = {
     {2, 21, true, 0},  {22, 23, false, 0}, {3, 24, true, 0},   {36, 38, false, 0},
     {18, 85, true, 0}, {14, 103, true, 2}, {20, 109, true, 2},
+    {11, 29, true, 0},
 };
 
 }  // namespace
