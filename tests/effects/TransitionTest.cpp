@@ -196,6 +196,7 @@ const MirrorPair kPairs[] = {
     {18, 85, true, 0}, {14, 103, true, 2}, {20, 109, true, 2},
     {48, 87, false, 0},
     {106, 27, false, 2}, {39, 45, true, 2},
+    {11, 29, true, 0},
 };
 
 }  // namespace
