@@ -101,7 +101,9 @@ const std::vector<EffectRow> kRows = {
     {112, u"Tiles Turn at Random"_s, TurningTiles(14, nullptr)},
     {115, u"Bright to Dark Dissolve"_s, LightDissolve(true)},
     {118, u"Water Ring"_s, WaterRing(4)},
+    {120, u"Swirl Zoom"_s, SwirlZoom(2)},
     {121, u"Twirl"_s, Twirl(3)},
+    {123, u"Rain on the Pond"_s, RainRings(9)},
     {124, u"Page Turn Corner"_s, PageTurn(-4, -3)},
     {127, u"Wall of Light"_s, ShiningWipe(Straight, {.SoftBits = 12})},
 };

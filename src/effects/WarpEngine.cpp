@@ -1,0 +1,234 @@
+#include "effects/WarpEngine.h"
+
+#include <algorithm>
+
+#include "effects/Sampling.h"
+
+namespace neb::effects {
+namespace {
+
+constexpr int kBlock = WarpEngine::kBlock;
+constexpr int kFewTaps = One * 7 / 8;  // up to such a spread two taps leave nothing out
+
+// The nodes about one block: its own and those of its right and lower borders.
+struct Patch {
+    const WarpNode* Nodes;
+    int Count;  // nodes in a line of the grid
+    int Bits;
+    int Across() const { return (kBlock >> Bits) + 1; }
+    int Down() const { return (WarpEngine::kLines >> Bits) + 1; }
+};
+
+// What the nodes of a block have in common, so that the simple ones are drawn simply.
+struct Traits {
+    int Moved[2] = {0, 0};  // of the old and the new picture: nought where none moves
+    int Widest[2] = {0, 0};
+    int Light = 0;
+    int Low = One, High = 0;  // weights
+
+    void Add(const WarpNode& N) {
+        for (int K = 0; K < 2; ++K) {
+            const int* P = N.At + (K ? NewAcross : OldAcross);
+            Moved[K] |= P[0] | P[1] | P[2] | P[3];
+            Widest[K] = std::max({Widest[K], std::abs(P[2]), std::abs(P[3])});
+        }
+        Light |= N.At[WarpPart::Light];
+        Low = std::min(Low, std::max(0, N.At[NewWeight]));
+        High = std::max(High, std::min(One, N.At[NewWeight]));
+    }
+};
+
+Traits TraitsOf(const Patch& P) {
+    Traits T;
+    for (int J = 0; J < P.Down(); ++J)
+        for (int I = 0; I < P.Across(); ++I) T.Add(P.Nodes[J * P.Count + I]);
+    return T;
+}
+
+NEB_WIDE void Between(int* __restrict Out, const int* A, const int* B, int Part, int Bits,
+                      int Count) {
+    for (int I = 0; I < Count; ++I) Out[I] = A[I] + (((B[I] - A[I]) * Part) >> Bits);
+}
+
+template <int Bits>
+inline void SpreadOut(int* __restrict Out, const WarpNode* Line, int Part) {
+    for (int C = 0; C < kBlock >> Bits; ++C) {
+        const int From = Line[C].At[Part], Step = Line[C + 1].At[Part] - From;
+        for (int I = 0; I < 1 << Bits; ++I) Out[(C << Bits) + I] = From + ((Step * I) >> Bits);
+    }
+}
+
+// One part for each pixel of a row of the block.
+NEB_WIDE void SpreadPart(int* Out, const WarpNode* Line, int Part, int Bits) {
+    if (Bits == 3)
+        SpreadOut<3>(Out, Line, Part);
+    else if (Bits == 2)
+        SpreadOut<2>(Out, Line, Part);
+    else
+        SpreadOut<1>(Out, Line, Part);
+}
+
+// Ways from pixels to places; what leaves the picture comes back in as in a mirror.
+NEB_WIDE void Place(int* Places, int Start, int Step, int Last) {
+    const int End = Last << 16;
+    for (int I = 0; I < kBlock; ++I) {
+        const int At = std::abs(Places[I] + ((Start + I * Step) << 16));
+        Places[I] = At < End ? At : 2 * End - At;
+    }
+}
+
+NEB_WIDE void Shifted(int* __restrict Out, const int* Places, const int* Spread, int Thirds) {
+    for (int I = 0; I < kBlock; ++I) Out[I] = Places[I] + Spread[I] / 4 * Thirds / 3 * 4;
+}
+
+NEB_WIDE void MixByParts(QRgb* Out, const QRgb* Old, const QRgb* New, const int* Part, int Count) {
+    std::uint16_t Weights[kBlock * 4];
+    for (int I = 0; I < Count; ++I) {
+        const auto W = static_cast<std::uint64_t>(Clamp(Part[I], 0, One) >> 8);
+        const std::uint64_t Four = W * 0x0001000100010001u;
+        std::memcpy(Weights + 4 * I, &Four, sizeof Four);
+    }
+    const auto* O = reinterpret_cast<const std::uint8_t*>(Old);
+    const auto* N = reinterpret_cast<const std::uint8_t*>(New);
+    auto* To = reinterpret_cast<std::uint8_t*>(Out);
+    NEB_INDEPENDENT
+    for (int I = 0; I < 4 * Count; ++I) {
+        const auto A = static_cast<std::uint16_t>(O[I] * (256 - Weights[I]));
+        const auto B = static_cast<std::uint16_t>(N[I] * Weights[I]);
+        To[I] = static_cast<std::uint8_t>(static_cast<std::uint16_t>(A + B + 128) >> 8);
+    }
+}
+
+NEB_WIDE void LightByParts(QRgb* Out, const int* Part, int Count) {
+    std::uint16_t Keep[kBlock * 4], Add[kBlock * 4];
+    for (int I = 0; I < Count; ++I) {
+        const int L = Clamp(Part[I], -One, One) >> 8;
+        const auto K = static_cast<std::uint64_t>(256 - std::abs(L)) * 0x0001000100010001u;
+        const auto A = static_cast<std::uint64_t>(std::max(0, L) * 255) * 0x0001000100010001u;
+        std::memcpy(Keep + 4 * I, &K, sizeof K);
+        std::memcpy(Add + 4 * I, &A, sizeof A);
+    }
+    auto* To = reinterpret_cast<std::uint8_t*>(Out);
+    NEB_INDEPENDENT
+    for (int I = 0; I < 4 * Count; ++I) {
+        const auto Sum = static_cast<std::uint16_t>(To[I] * Keep[I] + Add[I] + 128);
+        To[I] = static_cast<std::uint8_t>(Sum >> 8);
+    }
+    for (int I = 0; I < Count; ++I) Out[I] |= kBlack;
+}
+
+// One row of a block.
+struct Strip {
+    const WarpNode* Line;
+    int Bits;
+    int X, Y, Count;
+};
+
+class Reader {
+  public:
+    Reader(const Picture& P, const Strip& S, int First) : mPicture(P), mStrip(S) {
+        SpreadPart(mU, S.Line, First, S.Bits);
+        SpreadPart(mV, S.Line, First + 1, S.Bits);
+        Place(mU, S.X, 1, P.Width - 1);
+        Place(mV, S.Y, 0, P.Height - 1);
+        SpreadPart(mSpreadU, S.Line, First + 2, S.Bits);
+        SpreadPart(mSpreadV, S.Line, First + 3, S.Bits);
+    }
+    void ReadAlone(QRgb* Out) const { SamplePlaces(Out, mPicture, mU, mV, mStrip.Count); }
+    // The mean of the places as far to both sides.
+    void ReadBoth(QRgb* Out, int Thirds) {
+        QRgb Other[kBlock];
+        Read(Out, -Thirds);
+        Read(Other, Thirds);
+        MixSpan(Out, Out, Other, 128, mStrip.Count);
+    }
+
+  private:
+    void Read(QRgb* Out, int Thirds) {
+        Shifted(mAtU, mU, mSpreadU, Thirds);
+        Shifted(mAtV, mV, mSpreadV, Thirds);
+        SamplePlaces(Out, mPicture, mAtU, mAtV, mStrip.Count);
+    }
+
+    const Picture& mPicture;
+    const Strip& mStrip;
+    int mU[kBlock], mV[kBlock], mSpreadU[kBlock], mSpreadV[kBlock], mAtU[kBlock], mAtV[kBlock];
+};
+
+// The part of a row that a picture gives; the picture's own row where nothing moves.
+const QRgb* ReadPicture(const Picture& P, const Strip& S, const Traits& T, int Which, QRgb* Room) {
+    if (!T.Moved[Which]) return P.Row(S.Y) + S.X;
+    Reader R(P, S, Which ? NewAcross : OldAcross);
+    if (T.Widest[Which] < One / 8) {
+        R.ReadAlone(Room);
+    } else if (T.Widest[Which] <= kFewTaps) {
+        R.ReadBoth(Room, 3);
+    } else {
+        QRgb Inner[kBlock];
+        R.ReadBoth(Room, 3);
+        R.ReadBoth(Inner, 1);
+        MixSpan(Room, Room, Inner, 128, S.Count);
+    }
+    return Room;
+}
+
+void DrawStrip(const Frame& F, const Strip& S, const Traits& T) {
+    QRgb OldRoom[kBlock], NewRoom[kBlock];
+    QRgb* Out = F.Row(S.Y) + S.X;
+    const QRgb* Old = T.Low < One ? ReadPicture(F.Old, S, T, 0, OldRoom) : nullptr;
+    const QRgb* New = T.High > 0 ? ReadPicture(F.New, S, T, 1, NewRoom) : nullptr;
+    int Parts[kBlock];
+    if (Old && New) {
+        SpreadPart(Parts, S.Line, NewWeight, S.Bits);
+        MixByParts(Out, Old, New, Parts, S.Count);
+    } else {
+        CopySpan(Out, Old ? Old : New, S.Count);
+    }
+    if (!T.Light) return;
+    SpreadPart(Parts, S.Line, Light, S.Bits);
+    LightByParts(Out, Parts, S.Count);
+}
+
+void DrawBlock(const Frame& F, const Patch& P, int X, int Top, int Y0, int Y1) {
+    const Traits T = TraitsOf(P);
+    WarpNode Line[(kBlock >> 1) + 1];
+    for (int Y = Y0; Y < Y1; ++Y) {
+        const int Cell = (Y - Top) >> P.Bits, Part = (Y - Top) & ((1 << P.Bits) - 1);
+        const WarpNode* A = P.Nodes + Cell * P.Count;
+        Between(Line->At, A->At, A[P.Count].At, Part, P.Bits, P.Across() * WarpParts);
+        DrawStrip(F, {Line, P.Bits, X, Y, std::min(kBlock, F.Width - X)}, T);
+    }
+}
+
+}  // namespace
+
+WarpEngine::WarpEngine(QSize Size, bool Fine) {
+    const int Longer = std::max(Size.width(), Size.height());
+    mBits = Clamp((Longer >= 1200 ? 3 : 2) - (Longer < 500) - Fine, 1, 3);
+}
+
+void WarpEngine::Draw(const Frame& F, int Y0, int Y1) const {
+    Prepare(F);
+    const int Count = ((F.Width + kBlock - 1) / kBlock * kBlock >> mBits) + 1;
+    const int Cells = kLines >> mBits;
+    WarpNode* Nodes = Scratch<WarpNode, WarpEngine>(Count * (Cells + 1));
+    const auto Fill = [&](int Line, int Y) {
+        std::fill_n(Nodes + Line * Count, Count, WarpNode{});
+        FillLine(F, Y, mBits, Nodes + Line * Count, Count);
+    };
+    const int First = Y0 / kLines * kLines;
+    Fill(Cells, First);
+    for (int Top = First; Top < Y1; Top += kLines) {
+        std::copy_n(Nodes + Cells * Count, Count, Nodes);
+        for (int I = 1; I <= Cells; ++I) Fill(I, Top + (I << mBits));
+        DrawLines(F, Nodes, Count, Top, std::max(Y0, Top), std::min(Y1, Top + kLines));
+    }
+}
+
+void WarpEngine::DrawLines(const Frame& F, const WarpNode* Nodes, int Count, int Top, int Y0,
+                           int Y1) const {
+    for (int X = 0; X < F.Width; X += kBlock)
+        DrawBlock(F, {Nodes + (X >> mBits), Count, mBits}, X, Top, Y0, Y1);
+}
+
+}  // namespace neb::effects
