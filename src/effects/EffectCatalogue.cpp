@@ -6,12 +6,14 @@
 #include "effects/DissolveEngine.h"
 #include "effects/FadeEngine.h"
 #include "effects/GlowEngine.h"
+#include "effects/LensEngine.h"
 #include "effects/MosaicEngine.h"
 #include "effects/PageEngine.h"
 #include "effects/PerspectiveEngine.h"
 #include "effects/RippleEngine.h"
 #include "effects/SlideEngine.h"
 #include "effects/TilesEngine.h"
+#include "effects/WaveEngine.h"
 #include "effects/WipeEngine.h"
 #include "effects/ZoomEngine.h"
 
@@ -100,11 +102,14 @@ const std::vector<EffectRow> kRows = {
     {109, u"Page Turn Right"_s, PageTurn(1, 0)},
     {112, u"Tiles Turn at Random"_s, TurningTiles(14, nullptr)},
     {115, u"Bright to Dark Dissolve"_s, LightDissolve(true)},
-    {118, u"Water Ring"_s, WaterRing(4)},
+    {118, u"Water Ring"_s, WaterRing(6)},
     {120, u"Swirl Zoom"_s, SwirlZoom(2)},
     {121, u"Twirl"_s, Twirl(3)},
+    {122, u"Wave Across"_s, WaveAcross(3)},
     {123, u"Rain on the Pond"_s, RainRings(9)},
     {124, u"Page Turn Corner"_s, PageTurn(-4, -3)},
+    {125, u"Lens Passing"_s, LensPass()},
+    {126, u"Curtain"_s, Curtain(6)},
     {127, u"Wall of Light"_s, ShiningWipe(Straight, {.SoftBits = 12})},
 };
 

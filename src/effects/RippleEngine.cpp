@@ -28,7 +28,7 @@ class WaterEngine : public PolarEngine {
         const int Slope = Scale(Cosine(Place * mWaves), Strength);
         const int Weight = Ease(Clamp((Place - 3 * One / 8) * 4, 0, One));
         const auto Along = static_cast<int>((std::int64_t{Width} * Wave) / (mWaves * 8));
-        return {std::max(0, (Distance << 16) + Along), 0, Weight, Slope / 6};
+        return {std::max(0, (Distance << 16) + Along), 0, Weight, Slope / 4};
     }
 
   private:
@@ -37,16 +37,16 @@ class WaterEngine : public PolarEngine {
 
 class TwirlEngine : public PolarEngine {
   public:
-    TwirlEngine(QSize Size, int Quarters) : PolarEngine(Size, true, false), mQuarters(Quarters) {}
+    TwirlEngine(QSize Size, int Quarters) : PolarEngine(Size, false, false), mQuarters(Quarters) {}
 
   protected:
     Ring RingAt(int Distance, int Progress, bool) const override {
         const int Inner =
             Clamp(One - static_cast<int>(std::int64_t{Distance} * One / (Reach() + 1)), 0, One);
-        const int Angle = Scale(Hump(Progress), Ease(Inner)) / 4 * mQuarters;
+        const int Angle = Scale(Hump(Progress), Scale(Inner, Inner)) / 4 * mQuarters;
         // The new picture wells up in the middle and spreads while the turning is strongest.
         const int Spread = Clamp((Progress - One / 3) * 3, 0, One);
-        const int Weight = Clamp((Scale(5 * One / 4, Spread) - (One - Inner)) * 4, 0, One);
+        const int Weight = Clamp((Scale(9 * One / 8, Spread) - (One - Inner)) * 8, 0, One);
         return {Distance << 16, Angle, Weight, 0};
     }
 

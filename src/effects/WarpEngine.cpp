@@ -8,7 +8,8 @@ namespace neb::effects {
 namespace {
 
 constexpr int kBlock = WarpEngine::kBlock;
-constexpr int kFewTaps = One * 7 / 8;  // up to such a spread two taps leave nothing out
+// Up to such a spread one tap, or two, leave nothing out.
+constexpr int kOneTap = One / 4, kTwoTaps = One;
 
 // The nodes about one block: its own and those of its right and lower borders.
 struct Patch {
@@ -32,7 +33,7 @@ struct Traits {
             Moved[K] |= P[0] | P[1] | P[2] | P[3];
             Widest[K] = std::max({Widest[K], std::abs(P[2]), std::abs(P[3])});
         }
-        Light |= N.At[WarpPart::Light];
+        Light |= std::abs(N.At[WarpPart::Light]) >> 8;
         Low = std::min(Low, std::max(0, N.At[NewWeight]));
         High = std::max(High, std::min(One, N.At[NewWeight]));
     }
@@ -50,22 +51,30 @@ NEB_WIDE void Between(int* __restrict Out, const int* A, const int* B, int Part,
     for (int I = 0; I < Count; ++I) Out[I] = A[I] + (((B[I] - A[I]) * Part) >> Bits);
 }
 
-template <int Bits>
-inline void SpreadOut(int* __restrict Out, const WarpNode* Line, int Part) {
+// The pixels of one cell of the grid, reckoned all at once.
+typedef int TwoPixels __attribute__((vector_size(8)));
+typedef int FourPixels __attribute__((vector_size(16)));
+typedef int EightPixels __attribute__((vector_size(32)));
+
+template <typename Cell, int Bits>
+inline void SpreadOut(int* Out, const WarpNode* Line, int Part) {
+    Cell Lanes;
+    for (int I = 0; I < 1 << Bits; ++I) Lanes[I] = I;
     for (int C = 0; C < kBlock >> Bits; ++C) {
         const int From = Line[C].At[Part], Step = Line[C + 1].At[Part] - From;
-        for (int I = 0; I < 1 << Bits; ++I) Out[(C << Bits) + I] = From + ((Step * I) >> Bits);
+        const Cell Between = From + ((Lanes * Step) >> Bits);
+        std::memcpy(Out + (C << Bits), &Between, sizeof Between);
     }
 }
 
 // One part for each pixel of a row of the block.
 NEB_WIDE void SpreadPart(int* Out, const WarpNode* Line, int Part, int Bits) {
     if (Bits == 3)
-        SpreadOut<3>(Out, Line, Part);
+        SpreadOut<EightPixels, 3>(Out, Line, Part);
     else if (Bits == 2)
-        SpreadOut<2>(Out, Line, Part);
+        SpreadOut<FourPixels, 2>(Out, Line, Part);
     else
-        SpreadOut<1>(Out, Line, Part);
+        SpreadOut<TwoPixels, 1>(Out, Line, Part);
 }
 
 // Ways from pixels to places; what leaves the picture comes back in as in a mirror.
@@ -81,40 +90,28 @@ NEB_WIDE void Shifted(int* __restrict Out, const int* Places, const int* Spread,
     for (int I = 0; I < kBlock; ++I) Out[I] = Places[I] + Spread[I] / 4 * Thirds / 3 * 4;
 }
 
-NEB_WIDE void MixByParts(QRgb* Out, const QRgb* Old, const QRgb* New, const int* Part, int Count) {
-    std::uint16_t Weights[kBlock * 4];
+// Every second part of a pixel, each with room of 16 bits.
+constexpr std::uint32_t kEven = 0x00FF00FFu, kHalf = 0x00800080u;
+
+NEB_WIDE void MixByParts(QRgb* __restrict Out, const QRgb* Old, const QRgb* New, const int* Part,
+                         int Count) {
     for (int I = 0; I < Count; ++I) {
-        const auto W = static_cast<std::uint64_t>(Clamp(Part[I], 0, One) >> 8);
-        const std::uint64_t Four = W * 0x0001000100010001u;
-        std::memcpy(Weights + 4 * I, &Four, sizeof Four);
-    }
-    const auto* O = reinterpret_cast<const std::uint8_t*>(Old);
-    const auto* N = reinterpret_cast<const std::uint8_t*>(New);
-    auto* To = reinterpret_cast<std::uint8_t*>(Out);
-    NEB_INDEPENDENT
-    for (int I = 0; I < 4 * Count; ++I) {
-        const auto A = static_cast<std::uint16_t>(O[I] * (256 - Weights[I]));
-        const auto B = static_cast<std::uint16_t>(N[I] * Weights[I]);
-        To[I] = static_cast<std::uint8_t>(static_cast<std::uint16_t>(A + B + 128) >> 8);
+        const auto B = static_cast<std::uint32_t>(Clamp(Part[I], 0, One) >> 8), A = 256 - B;
+        const std::uint32_t Even = (Old[I] & kEven) * A + (New[I] & kEven) * B + kHalf;
+        const std::uint32_t Odd = ((Old[I] >> 8) & kEven) * A + ((New[I] >> 8) & kEven) * B + kHalf;
+        Out[I] = ((Even >> 8) & kEven) | (Odd & ~kEven);
     }
 }
 
 NEB_WIDE void LightByParts(QRgb* Out, const int* Part, int Count) {
-    std::uint16_t Keep[kBlock * 4], Add[kBlock * 4];
     for (int I = 0; I < Count; ++I) {
         const int L = Clamp(Part[I], -One, One) >> 8;
-        const auto K = static_cast<std::uint64_t>(256 - std::abs(L)) * 0x0001000100010001u;
-        const auto A = static_cast<std::uint64_t>(std::max(0, L) * 255) * 0x0001000100010001u;
-        std::memcpy(Keep + 4 * I, &K, sizeof K);
-        std::memcpy(Add + 4 * I, &A, sizeof A);
+        const auto Keep = static_cast<std::uint32_t>(256 - std::abs(L));
+        const auto White = static_cast<std::uint32_t>(std::max(L, 0)) * kEven + kHalf;
+        const std::uint32_t Even = (Out[I] & kEven) * Keep + White;
+        const std::uint32_t Odd = ((Out[I] >> 8) & kEven) * Keep + White;
+        Out[I] = ((Even >> 8) & kEven) | (Odd & ~kEven) | kBlack;
     }
-    auto* To = reinterpret_cast<std::uint8_t*>(Out);
-    NEB_INDEPENDENT
-    for (int I = 0; I < 4 * Count; ++I) {
-        const auto Sum = static_cast<std::uint16_t>(To[I] * Keep[I] + Add[I] + 128);
-        To[I] = static_cast<std::uint8_t>(Sum >> 8);
-    }
-    for (int I = 0; I < Count; ++I) Out[I] |= kBlack;
 }
 
 // One row of a block.
@@ -126,11 +123,12 @@ struct Strip {
 
 class Reader {
   public:
-    Reader(const Picture& P, const Strip& S, int First) : mPicture(P), mStrip(S) {
+    Reader(const Picture& P, const Strip& S, int First, bool Wide) : mPicture(P), mStrip(S) {
         SpreadPart(mU, S.Line, First, S.Bits);
         SpreadPart(mV, S.Line, First + 1, S.Bits);
         Place(mU, S.X, 1, P.Width - 1);
         Place(mV, S.Y, 0, P.Height - 1);
+        if (!Wide) return;
         SpreadPart(mSpreadU, S.Line, First + 2, S.Bits);
         SpreadPart(mSpreadV, S.Line, First + 3, S.Bits);
     }
@@ -158,10 +156,11 @@ class Reader {
 // The part of a row that a picture gives; the picture's own row where nothing moves.
 const QRgb* ReadPicture(const Picture& P, const Strip& S, const Traits& T, int Which, QRgb* Room) {
     if (!T.Moved[Which]) return P.Row(S.Y) + S.X;
-    Reader R(P, S, Which ? NewAcross : OldAcross);
-    if (T.Widest[Which] < One / 8) {
+    const bool Wide = T.Widest[Which] > kOneTap;
+    Reader R(P, S, Which ? NewAcross : OldAcross, Wide);
+    if (!Wide) {
         R.ReadAlone(Room);
-    } else if (T.Widest[Which] <= kFewTaps) {
+    } else if (T.Widest[Which] <= kTwoTaps) {
         R.ReadBoth(Room, 3);
     } else {
         QRgb Inner[kBlock];
