@@ -5,6 +5,7 @@
 
 #include "effects/DissolveEngine.h"
 #include "effects/FadeEngine.h"
+#include "effects/FlyingTilesEngine.h"
 #include "effects/GlowEngine.h"
 #include "effects/LensEngine.h"
 #include "effects/MosaicEngine.h"
@@ -12,6 +13,7 @@
 #include "effects/PerspectiveEngine.h"
 #include "effects/RippleEngine.h"
 #include "effects/SlideEngine.h"
+#include "effects/SpinEngine.h"
 #include "effects/TilesEngine.h"
 #include "effects/WaveEngine.h"
 #include "effects/WipeEngine.h"
@@ -99,10 +101,18 @@ const std::vector<EffectRow> kRows = {
     {100, u"Iris of Light"_s, ShiningWipe(Circle, {.SoftBits = 12})},
     {103, u"Cube Turn Right"_s, CubeTurn({.Mirrored = true})},
     {106, u"Cube Turn Up"_s, CubeTurn({.Upright = false})},
+    {108, u"Tiles Fly Apart"_s, TilesFlyApart(12)},
     {109, u"Page Turn Right"_s, PageTurn(1, 0)},
+    {110, u"Tiles Fall"_s, TilesFall(12)},
+    {111, u"Tiles Fly In"_s, TilesFlyIn(10)},
     {112, u"Tiles Turn at Random"_s, TurningTiles(14, nullptr)},
+    {113, u"Tiles Shrink Away"_s, TilesShrink(12)},
+    {114, u"Puzzle"_s, TilesSlide(8)},
     {115, u"Bright to Dark Dissolve"_s, LightDissolve(true)},
+    {116, u"Spin Away"_s, SpinAway()},
+    {117, u"Spin In"_s, SpinIn()},
     {118, u"Water Ring"_s, WaterRing(6)},
+    {119, u"Swing From the Corner"_s, SwingFromCorner()},
     {120, u"Swirl Zoom"_s, SwirlZoom(2)},
     {121, u"Twirl"_s, Twirl(3)},
     {122, u"Wave Across"_s, WaveAcross(3)},
