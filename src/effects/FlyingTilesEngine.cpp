@@ -16,9 +16,10 @@ struct Tile {
     std::int64_t X, Y;  // its middle, of One
 };
 
-// Where a tile is; it rests at 0 and has gone at One.
+// Where a tile is.
 struct Flight {
-    int Part;
+    int Part;  // it rests at 0 and has gone at One
+    int Lift;  // how high above the picture behind it, of One
     SpritePlace Place;
 };
 
@@ -43,40 +44,44 @@ Flight FlyApart(const Tile& T, QSize Size, int Progress) {
     const std::int64_t Dy = T.Y - (std::int64_t{Size.height()} << 15);
     const int Angle = AngleOf(static_cast<int>(Dx >> 8), static_cast<int>(Dy >> 8)) + T.Stray / 24;
     const std::int64_t Far = std::int64_t{Root((Dx >> 8) * (Dx >> 8) + (Dy >> 8) * (Dy >> 8))} << 8;
-    const int Start = static_cast<int>(Far * (One * 3 / 10) / (Reach + 1)) + T.Order / 8;
-    const int Part = PartOf(Progress, Start, One * 57 / 100);
+    const int Start = static_cast<int>(Far * (One / 5) / (Reach + 1)) + T.Order / 16;
+    const int Part = PartOf(Progress, Start, One * 147 / 200);
     const int Gone = Scale(Part, Part / 2 + Scale(Part, Part) / 2);
-    const std::int64_t Way = (Reach * 3 / 2 * Gone) >> 16;
+    const std::int64_t Way = ((Reach * 9 / 8 - Far / 2) * Gone) >> 16;
     return {Part,
+            0,
             {T.X + ((Way * Cosine(Angle)) >> 16), T.Y + ((Way * Sine(Angle)) >> 16),
-             Scale(Gone, T.Turn / 2), One + Scale(Gone, One / 8 + T.Stray / 4)}};
+             Scale(Gone, T.Turn / 2), One + Scale(Gone, T.Stray / 16 - One * 3 / 16)}};
 }
 
 Flight Fall(const Tile& T, QSize Size, int Progress) {
-    const int Start = Scale(One - T.Row, One * 35 / 100) + Scale(T.Order, One / 4);
-    const int Part = PartOf(Progress, Start, One * 2 / 5);
+    const int Start = Scale(One - T.Row, One * 2 / 5) + Scale(T.Order, One / 4);
+    const int Part = PartOf(Progress, Start, One * 7 / 20);
     const int Gone = Scale(Part, Part);
     const std::int64_t Drop = ((std::int64_t{Size.height()} << 16) + ReachOf(Size) / 4) * Gone;
     const std::int64_t Drift = std::int64_t{Size.width()} * T.Stray / 32 * Part;
-    return {Part, {T.X + (Drift >> 16), T.Y + (Drop >> 16), Scale(Gone, T.Turn / 6), One}};
+    return {Part,
+            Clamp(Gone * 16, 0, One),
+            {T.X + (Drift >> 16), T.Y + (Drop >> 16), Scale(Gone, T.Turn / 6), One}};
 }
 
 // Thrown from below the middle, backwards: Part is counted from the end of the flight.
 Flight Thrown(const Tile& T, QSize Size, int Progress) {
-    const int Start = Scale(T.Row, One * 2 / 5) + Scale(T.Order, One / 5);
-    const int Part = PartOf(Progress, Start, One * 2 / 5);
+    const int Start = Scale(T.Row, One * 9 / 20) + Scale(T.Order, One / 5);
+    const int Part = PartOf(Progress, Start, One * 7 / 20);
     const int Gone = Scale(Part, Scale(Part, Part) / 2 + Part / 2);
-    const std::int64_t Down = (std::int64_t{Size.height()} << 16) + ReachOf(Size) / 3 - T.Y;
+    const std::int64_t Down = (std::int64_t{Size.height()} << 16) + ReachOf(Size) / 6 - T.Y;
     const std::int64_t Across = (std::int64_t{Size.width()} << 15) - T.X;
     return {Part,
+            Clamp(Gone * 8, 0, One),
             {T.X + ((Across * Gone) >> 17), T.Y + ((Down * Gone) >> 16), Scale(Gone, T.Turn / 3),
-             One + Gone / 2}};
+             One + Gone / 4}};
 }
 
 Flight Shrink(const Tile& T, QSize, int Progress) {
     const int Start = Scale((T.Column + T.Row) / 2, One * 13 / 20);
     const int Part = PartOf(Progress, Start, One * 7 / 20);
-    return {Part, {T.X, T.Y, Ease(Part) / 4, One - Ease(Part)}};
+    return {Part, 0, {T.X, T.Y, Ease(Part) / 4, One - Ease(Part)}};
 }
 
 // Out along its row or its column, by whole pixels.
@@ -88,7 +93,9 @@ Flight Slide(const Tile& T, QSize Size, int Progress) {
     const int Side = Across ? T.Area.width() : T.Area.height();
     const std::int64_t Out = (Back ? Place : Length - Place) + (std::int64_t{Side} << 16);
     const std::int64_t Way = ((Out * Ease(Part)) >> 32) * (Back ? -One : One);
-    return {Part, {T.X + (Across ? Way : 0), T.Y + (Across ? 0 : Way), 0, One}};
+    return {Part,
+            Clamp(Ease(Part) * 16, 0, One),
+            {T.X + (Across ? Way : 0), T.Y + (Across ? 0 : Way), 0, One}};
 }
 
 struct Style {
@@ -134,7 +141,7 @@ class FlyingTilesEngine : public Engine {
           mStyle(S),
           mAcross(CellsAlong(P.Old.Width, P.Size(), Count)),
           mDown(CellsAlong(P.Old.Height, P.Size(), Count)),
-          mShadow(std::max(2, P.Old.Width / mAcross / 10)) {
+          mShadow(std::max(2, P.Old.Width / mAcross / 16)) {
         for (int Y = 0; Y < mDown; ++Y)
             for (int X = 0; X < mAcross; ++X)
                 mTiles.push_back(MakeTile(P.Size(), X, Y, mAcross, mDown));
@@ -169,7 +176,7 @@ class FlyingTilesEngine : public Engine {
             const Flight Now = mStyle.Move(T, {F.Width, F.Height}, Progress);
             *Rests++ = Now.Part == 0;
             if (Now.Part == 0 || Now.Part == One) continue;
-            const int Depth = Scale(mStyle.Shadow, Clamp(Now.Part * 6, 0, One));
+            const int Depth = Scale(mStyle.Shadow, Now.Lift);
             Flyers[Flying++] = {Sprite(mFace, T.Area, Now.Place), Depth};
         }
         return Flying;

@@ -119,6 +119,7 @@ void Sprite::DrawShadow(QRgb* Out, int Y, int Width, int Wide, int Depth) const 
     if (!Touches(Y, Wide)) return;
     const Axis A = AcrossAt(Y), B = DownAt(Y);
     const std::int64_t Margin = std::int64_t{Wide} * mGrain;
+    const std::int64_t Share = (std::int64_t{1} << 32) / Margin;
     const Run Seen = Inside(A, B, Margin, Width), Whole = Inside(A, B, -mGrain, Width);
     for (int X = Seen.From; X < Seen.To; ++X) {
         if (X == Whole.From && Whole.To > X) X = Whole.To;
@@ -126,7 +127,7 @@ void Sprite::DrawShadow(QRgb* Out, int Y, int Width, int Wide, int Depth) const 
         const std::int64_t U = A.Start + std::int64_t{X} * A.Step;
         const std::int64_t V = B.Start + std::int64_t{X} * B.Step;
         const std::int64_t Away = std::max(std::max(-U, U - A.Length), std::max(-V, V - B.Length));
-        const auto Near = static_cast<int>(256 - std::max<std::int64_t>(0, Away) * 256 / Margin);
+        const auto Near = 256 - static_cast<int>((std::max<std::int64_t>(0, Away) * Share) >> 24);
         if (Near > 0) Out[X] = Darken(Out[X], Depth * Near * Near >> 16);
     }
 }

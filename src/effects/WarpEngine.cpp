@@ -86,8 +86,8 @@ NEB_WIDE void Place(int* Places, int Start, int Step, int Last) {
     }
 }
 
-NEB_WIDE void Shifted(int* __restrict Out, const int* Places, const int* Spread, int Thirds) {
-    for (int I = 0; I < kBlock; ++I) Out[I] = Places[I] + Spread[I] / 4 * Thirds / 3 * 4;
+NEB_WIDE void Shifted(int* __restrict Out, const int* Places, const int* Spread, int Share) {
+    for (int I = 0; I < kBlock; ++I) Out[I] = Places[I] + (Spread[I] >> 8) * Share;
 }
 
 // Every second part of a pixel, each with room of 16 bits.
@@ -133,18 +133,18 @@ class Reader {
         SpreadPart(mSpreadV, S.Line, First + 3, S.Bits);
     }
     void ReadAlone(QRgb* Out) const { SamplePlaces(Out, mPicture, mU, mV, mStrip.Count); }
-    // The mean of the places as far to both sides.
-    void ReadBoth(QRgb* Out, int Thirds) {
+    // The mean of the places as far to both sides; Share: of the spread, 256 for all of it.
+    void ReadBoth(QRgb* Out, int Share) {
         QRgb Other[kBlock];
-        Read(Out, -Thirds);
-        Read(Other, Thirds);
+        Read(Out, -Share);
+        Read(Other, Share);
         MixSpan(Out, Out, Other, 128, mStrip.Count);
     }
 
   private:
-    void Read(QRgb* Out, int Thirds) {
-        Shifted(mAtU, mU, mSpreadU, Thirds);
-        Shifted(mAtV, mV, mSpreadV, Thirds);
+    void Read(QRgb* Out, int Share) {
+        Shifted(mAtU, mU, mSpreadU, Share);
+        Shifted(mAtV, mV, mSpreadV, Share);
         SamplePlaces(Out, mPicture, mAtU, mAtV, mStrip.Count);
     }
 
@@ -161,11 +161,11 @@ const QRgb* ReadPicture(const Picture& P, const Strip& S, const Traits& T, int W
     if (!Wide) {
         R.ReadAlone(Room);
     } else if (T.Widest[Which] <= kTwoTaps) {
-        R.ReadBoth(Room, 3);
+        R.ReadBoth(Room, 256);
     } else {
         QRgb Inner[kBlock];
-        R.ReadBoth(Room, 3);
-        R.ReadBoth(Inner, 1);
+        R.ReadBoth(Room, 256);
+        R.ReadBoth(Inner, 85);
         MixSpan(Room, Room, Inner, 128, S.Count);
     }
     return Room;

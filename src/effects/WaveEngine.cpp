@@ -76,34 +76,37 @@ class CurtainEngine : public WarpEngine {
     }
 
     void FillNode(int* Parts, const Half& H, int X, int Y, bool Right) const {
-        const std::int64_t Edge = H.Start + H.Wide - (std::int64_t{X} << 16) - One / 2;
-        if (H.Wide <= 0) {
-            Parts[NewWeight] = One;
-            return;
-        }
+        Parts[NewWeight] = One;
+        if (H.Wide <= 0) return;
         const std::int64_t Off = (std::int64_t{X} << 16) + One / 2 - H.Start;
         const int Along = static_cast<int>(std::min<std::int64_t>(One, (Off << 16) / H.Wide));
         const int Deep = Ease(Clamp(H.Drawn * 3, 0, One));
-        const int Fold = Scale(Sine(Along * mFolds), Deep),
-                  Slope = Scale(Cosine(Along * mFolds), Deep);
+        const int Fold = Scale(Sine(Along * mFolds), Deep);
+        const int Slope = Scale(Cosine(Along * mFolds), Deep);
         const std::int64_t Wave = (H.Whole * Fold / mFolds) >> 20;
-        const std::int64_t Place = ((H.Whole * Along) >> 16) + Wave;
-        const int Way = static_cast<int>(Place - Off - H.Start);
+        const auto Way = static_cast<int>(((H.Whole * Along) >> 16) + Wave - Off - H.Start);
         Parts[OldAcross] = Right ? -Way : Way;
-        const std::int64_t Ratio = (H.Whole << 16) / H.Wide;
-        const std::int64_t Squeeze = (Ratio * (One + Slope / 2)) >> 16;
-        Parts[OldSpreadAcross] =
-            static_cast<int>(std::clamp<std::int64_t>((Squeeze - One) / 2, 0, 3 * One));
-        // Folds lift the hem.
-        const int Lift = Scale(mSize.height() / 24, Scale(Deep, One / 2 - Fold / 2)) << 0;
-        const int Down = static_cast<int>(std::int64_t{Y} * One / mSize.height());
-        Parts[OldDown] = Scale(Lift << 16, Scale(Down, Down));
+        Parts[OldSpreadAcross] = SpreadOf(H, One + Slope * 3 / 8);
+        Parts[OldDown] = LiftAt(Y, Scale(Deep, One / 2) - Fold / 2);
+        const std::int64_t Edge = H.Wide - Off;
         const std::int64_t Hem =
             (std::int64_t{mSize.height() - 1 - Y} << 16) + One - Parts[OldDown];
         const std::int64_t Inside = std::min(Edge, Hem);
         Parts[NewWeight] =
-            static_cast<int>(std::clamp<std::int64_t>(One / 2 - Inside, -(64 << 16), 64 << 16));
+            static_cast<int>(std::clamp<std::int64_t>(One / 2 - Inside, -64 * One, 64 * One));
         Parts[Light] = Inside > 0 ? Fold / 4 - Deep / 10 : ShadowAt(-Inside);
+    }
+
+    // Squeeze: of the fold at a place, beside that of the curtain as a whole.
+    static int SpreadOf(const Half& H, int Squeeze) {
+        const std::int64_t Ratio = (H.Whole * Squeeze) / H.Wide;
+        return static_cast<int>(std::clamp<std::int64_t>((Ratio - One) / 2, 0, 3 * One));
+    }
+
+    // Folds lift the hem.
+    int LiftAt(int Y, int Height) const {
+        const int Down = static_cast<int>(std::int64_t{Y} * One / mSize.height());
+        return Scale(mSize.height() * 2730, Scale(Height, Scale(Down, Down)));
     }
 
     int ShadowAt(std::int64_t Away) const {
