@@ -26,6 +26,7 @@ struct Traits {
     int Widest[2] = {0, 0};
     int Light = 0;
     int Low = One, High = 0;  // weights
+    bool Alike = true;        // both pictures are bent in the same way
 
     void Add(const WarpNode& N) {
         for (int K = 0; K < 2; ++K) {
@@ -33,9 +34,17 @@ struct Traits {
             Moved[K] |= P[0] | P[1] | P[2] | P[3];
             Widest[K] = std::max({Widest[K], std::abs(P[2]), std::abs(P[3])});
         }
+        Alike = Alike && std::equal(N.At + OldAcross, N.At + NewAcross, N.At + NewAcross);
         Light |= std::abs(N.At[WarpPart::Light]) >> 8;
         Low = std::min(Low, std::max(0, N.At[NewWeight]));
         High = std::max(High, std::min(One, N.At[NewWeight]));
+    }
+    bool Sees(int Which) const { return Which ? High > 0 : Low < One; }
+    // Which picture is seen as it is; -1 when none is.
+    int PlainOne() const {
+        if (Light || (Sees(0) && Sees(1))) return -1;
+        const int Which = Sees(1) ? 1 : 0;
+        return Moved[Which] ? -1 : Which;
     }
 };
 
@@ -93,8 +102,8 @@ NEB_WIDE void Shifted(int* __restrict Out, const int* Places, const int* Spread,
 // Every second part of a pixel, each with room of 16 bits.
 constexpr std::uint32_t kEven = 0x00FF00FFu, kHalf = 0x00800080u;
 
-NEB_WIDE void MixByParts(QRgb* __restrict Out, const QRgb* Old, const QRgb* New, const int* Part,
-                         int Count) {
+NEB_WIDE void MixByParts(QRgb* Out, const QRgb* Old, const QRgb* New, const int* Part, int Count) {
+    NEB_INDEPENDENT
     for (int I = 0; I < Count; ++I) {
         const auto B = static_cast<std::uint32_t>(Clamp(Part[I], 0, One) >> 8), A = 256 - B;
         const std::uint32_t Even = (Old[I] & kEven) * A + (New[I] & kEven) * B + kHalf;
@@ -121,75 +130,85 @@ struct Strip {
     int X, Y, Count;
 };
 
+// Where the pixels of a strip read.
 class Reader {
   public:
-    Reader(const Picture& P, const Strip& S, int First, bool Wide) : mPicture(P), mStrip(S) {
+    void Find(const Strip& S, const Frame& F, int First, bool Wide) {
         SpreadPart(mU, S.Line, First, S.Bits);
         SpreadPart(mV, S.Line, First + 1, S.Bits);
-        Place(mU, S.X, 1, P.Width - 1);
-        Place(mV, S.Y, 0, P.Height - 1);
+        Place(mU, S.X, 1, F.Width - 1);
+        Place(mV, S.Y, 0, F.Height - 1);
         if (!Wide) return;
         SpreadPart(mSpreadU, S.Line, First + 2, S.Bits);
         SpreadPart(mSpreadV, S.Line, First + 3, S.Bits);
     }
-    void ReadAlone(QRgb* Out) const { SamplePlaces(Out, mPicture, mU, mV, mStrip.Count); }
-    // The mean of the places as far to both sides; Share: of the spread, 256 for all of it.
-    void ReadBoth(QRgb* Out, int Share) {
-        QRgb Other[kBlock];
-        Read(Out, -Share);
-        Read(Other, Share);
-        MixSpan(Out, Out, Other, 128, mStrip.Count);
+    // With so many taps as the widest spread asks for.
+    void Read(QRgb* Out, const Picture& P, int Widest, int Count) {
+        if (Widest <= kOneTap) return SamplePlaces(Out, P, mU, mV, Count);
+        ReadBoth(Out, P, 256, Count);
+        if (Widest <= kTwoTaps) return;
+        QRgb Inner[kBlock];
+        ReadBoth(Inner, P, 85, Count);
+        MixSpan(Out, Out, Inner, 128, Count);
     }
 
   private:
-    void Read(QRgb* Out, int Share) {
+    // The mean of the places as far to both sides; Share: of the spread, 256 for all of it.
+    void ReadBoth(QRgb* Out, const Picture& P, int Share, int Count) {
+        QRgb Other[kBlock];
+        ReadShifted(Out, P, -Share, Count);
+        ReadShifted(Other, P, Share, Count);
+        MixSpan(Out, Out, Other, 128, Count);
+    }
+    void ReadShifted(QRgb* Out, const Picture& P, int Share, int Count) {
         Shifted(mAtU, mU, mSpreadU, Share);
         Shifted(mAtV, mV, mSpreadV, Share);
-        SamplePlaces(Out, mPicture, mAtU, mAtV, mStrip.Count);
+        SamplePlaces(Out, P, mAtU, mAtV, Count);
     }
 
-    const Picture& mPicture;
-    const Strip& mStrip;
     int mU[kBlock], mV[kBlock], mSpreadU[kBlock], mSpreadV[kBlock], mAtU[kBlock], mAtV[kBlock];
 };
 
-// The part of a row that a picture gives; the picture's own row where nothing moves.
-const QRgb* ReadPicture(const Picture& P, const Strip& S, const Traits& T, int Which, QRgb* Room) {
-    if (!T.Moved[Which]) return P.Row(S.Y) + S.X;
-    const bool Wide = T.Widest[Which] > kOneTap;
-    Reader R(P, S, Which ? NewAcross : OldAcross, Wide);
-    if (!Wide) {
-        R.ReadAlone(Room);
-    } else if (T.Widest[Which] <= kTwoTaps) {
-        R.ReadBoth(Room, 256);
-    } else {
-        QRgb Inner[kBlock];
-        R.ReadBoth(Room, 256);
-        R.ReadBoth(Inner, 85);
-        MixSpan(Room, Room, Inner, 128, S.Count);
+// Both pictures' parts of a strip; each in its own row where it does not move.
+struct Views {
+    const QRgb* Of[2];
+};
+
+Views ReadViews(const Frame& F, const Strip& S, const Traits& T, QRgb* OldRoom, QRgb* NewRoom) {
+    Reader R;
+    Views Out{};
+    QRgb* const Rooms[2] = {OldRoom, NewRoom};
+    for (int K = 0; K < 2; ++K) {
+        const Picture& P = K ? F.New : F.Old;
+        Out.Of[K] = P.Row(S.Y) + S.X;
+        if (!T.Moved[K] || !T.Sees(K)) continue;
+        const bool Known = K == 1 && T.Alike && T.Sees(0);
+        if (!Known) R.Find(S, F, K ? NewAcross : OldAcross, T.Widest[K] > kOneTap);
+        R.Read(Rooms[K], P, T.Widest[K], S.Count);
+        Out.Of[K] = Rooms[K];
     }
-    return Room;
+    return Out;
 }
 
 void DrawStrip(const Frame& F, const Strip& S, const Traits& T) {
-    QRgb OldRoom[kBlock], NewRoom[kBlock];
-    QRgb* Out = F.Row(S.Y) + S.X;
-    const QRgb* Old = T.Low < One ? ReadPicture(F.Old, S, T, 0, OldRoom) : nullptr;
-    const QRgb* New = T.High > 0 ? ReadPicture(F.New, S, T, 1, NewRoom) : nullptr;
+    QRgb Room[kBlock];
     int Parts[kBlock];
-    if (Old && New) {
+    QRgb* Out = F.Row(S.Y) + S.X;
+    if (T.Sees(0) && T.Sees(1)) {
+        const Views V = ReadViews(F, S, T, Out, Room);
         SpreadPart(Parts, S.Line, NewWeight, S.Bits);
-        MixByParts(Out, Old, New, Parts, S.Count);
+        MixByParts(Out, V.Of[0], V.Of[1], Parts, S.Count);
     } else {
-        CopySpan(Out, Old ? Old : New, S.Count);
+        const QRgb* Seen = ReadViews(F, S, T, Out, Out).Of[T.Sees(1) ? 1 : 0];
+        if (Seen != Out) CopySpan(Out, Seen, S.Count);
     }
     if (!T.Light) return;
     SpreadPart(Parts, S.Line, Light, S.Bits);
     LightByParts(Out, Parts, S.Count);
 }
 
-void DrawBlock(const Frame& F, const Patch& P, int X, int Top, int Y0, int Y1) {
-    const Traits T = TraitsOf(P);
+// The rows Y0 up to Y1 of a block whose first line of nodes stands at Top.
+void DrawBlock(const Frame& F, const Patch& P, const Traits& T, int X, int Top, int Y0, int Y1) {
     WarpNode Line[(kBlock >> 1) + 1];
     for (int Y = Y0; Y < Y1; ++Y) {
         const int Cell = (Y - Top) >> P.Bits, Part = (Y - Top) & ((1 << P.Bits) - 1);
@@ -197,6 +216,11 @@ void DrawBlock(const Frame& F, const Patch& P, int X, int Top, int Y0, int Y1) {
         Between(Line->At, A->At, A[P.Count].At, Part, P.Bits, P.Across() * WarpParts);
         DrawStrip(F, {Line, P.Bits, X, Y, std::min(kBlock, F.Width - X)}, T);
     }
+}
+
+void CopyBlocks(const Frame& F, int Which, int X0, int X1, int Y0, int Y1) {
+    const Picture& P = Which == 1 ? F.New : F.Old;
+    for (int Y = Y0; Y < Y1; ++Y) CopySpan(F.Row(Y) + X0, P.Row(Y) + X0, X1 - X0);
 }
 
 }  // namespace
@@ -226,8 +250,18 @@ void WarpEngine::Draw(const Frame& F, int Y0, int Y1) const {
 
 void WarpEngine::DrawLines(const Frame& F, const WarpNode* Nodes, int Count, int Top, int Y0,
                            int Y1) const {
-    for (int X = 0; X < F.Width; X += kBlock)
-        DrawBlock(F, {Nodes + (X >> mBits), Count, mBits}, X, Top, Y0, Y1);
+    // Blocks of one plain picture are copied together.
+    int Plain = -1, Start = 0;
+    for (int X = 0; X < F.Width; X += kBlock) {
+        const Patch P{Nodes + (X >> mBits), Count, mBits};
+        const Traits T = TraitsOf(P);
+        const int Now = T.PlainOne();
+        if (Plain >= 0 && Now != Plain) CopyBlocks(F, Plain, Start, X, Y0, Y1);
+        if (Now != Plain) Start = X;
+        Plain = Now;
+        if (Now < 0) DrawBlock(F, P, T, X, Top, Y0, Y1);
+    }
+    if (Plain >= 0) CopyBlocks(F, Plain, Start, F.Width, Y0, Y1);
 }
 
 }  // namespace neb::effects
