@@ -6,14 +6,18 @@
 #include "effects/BlurEngine.h"
 #include "effects/DissolveEngine.h"
 #include "effects/FadeEngine.h"
+#include "effects/FlyingTilesEngine.h"
 #include "effects/GlowEngine.h"
+#include "effects/LensEngine.h"
 #include "effects/MosaicEngine.h"
 #include "effects/PageEngine.h"
 #include "effects/PerspectiveEngine.h"
 #include "effects/RippleEngine.h"
 #include "effects/RollEngine.h"
 #include "effects/SlideEngine.h"
+#include "effects/SpinEngine.h"
 #include "effects/TilesEngine.h"
+#include "effects/WaveEngine.h"
 #include "effects/WipeEngine.h"
 #include "effects/ZoomEngine.h"
 
@@ -166,11 +170,26 @@ const std::vector<EffectRow> kRows = {
     {104, u"Peel From the Middle"_s, PageTurn({-4, 3, true})},
     {106, u"Cube Turn Up"_s, CubeTurn({.Upright = false})},
     {109, u"Page Turn Right"_s, PageTurn({1, 0})},
+    {108, u"Tiles Fly Apart"_s, TilesFlyApart(12)},
+    {109, u"Page Turn Right"_s, PageTurn(1, 0)},
+    {110, u"Tiles Fall"_s, TilesFall(12)},
+    {111, u"Tiles Fly In"_s, TilesFlyIn(10)},
     {112, u"Tiles Turn at Random"_s, TurningTiles(14, nullptr)},
+    {113, u"Tiles Shrink Away"_s, TilesShrink(12)},
+    {114, u"Puzzle"_s, TilesSlide(8)},
     {115, u"Bright to Dark Dissolve"_s, LightDissolve(true)},
-    {118, u"Water Ring"_s, WaterRing(4)},
+    {116, u"Spin Away"_s, SpinAway()},
+    {117, u"Spin In"_s, SpinIn()},
+    {118, u"Water Ring"_s, WaterRing(6)},
+    {119, u"Swing From the Corner"_s, SwingFromCorner()},
+    {120, u"Swirl Zoom"_s, SwirlZoom(2)},
     {121, u"Twirl"_s, Twirl(3)},
     {124, u"Page Turn Corner"_s, PageTurn({-4, -3})},
+    {122, u"Wave Across"_s, WaveAcross(3)},
+    {123, u"Rain on the Pond"_s, RainRings(9)},
+    {124, u"Page Turn Corner"_s, PageTurn(-4, -3)},
+    {125, u"Lens Passing"_s, LensPass()},
+    {126, u"Curtain"_s, Curtain(6)},
     {127, u"Wall of Light"_s, ShiningWipe(Straight, {.SoftBits = 12})},
 };
 

@@ -3,153 +3,182 @@
 #include <algorithm>
 #include <vector>
 
-#include "effects/Sampling.h"
+#include "effects/Pixels.h"
+#include "effects/PolarEngine.h"
 
 namespace neb::effects {
 namespace {
 
-// What is done to all pixels at one distance from the middle.
-struct Ring {
-    int Along;   // by how much of its distance a pixel is moved outwards, of One
-    int Around;  // and across that direction
-    int Weight;  // of the new picture, 0..256
-    int Light;   // brightness on the wave's slope, -64..64
-};
-
-// Distances are kept in quarters of a pixel.
-class DistanceMap {
+class WaterEngine : public PolarEngine {
   public:
-    explicit DistanceMap(QSize Size) : mWidth(Size.width()) {
-        mDistances.reserve(std::size_t(mWidth) * std::size_t(Size.height()));
-        for (int Y = 0; Y < Size.height(); ++Y)
-            for (int X = 0; X < mWidth; ++X) {
-                const std::int64_t Dx = 2 * X + 1 - mWidth, Dy = 2 * Y + 1 - Size.height();
-                mDistances.push_back(static_cast<std::uint16_t>(Root(4 * (Dx * Dx + Dy * Dy))));
-            }
-        mReach = *std::max_element(mDistances.begin(), mDistances.end());
-    }
-    const std::uint16_t* Row(int Y) const {
-        return mDistances.data() + std::size_t(Y) * std::size_t(mWidth);
-    }
-    int Reach() const { return mReach; }
-
-  private:
-    int mWidth;
-    int mReach = 0;
-    std::vector<std::uint16_t> mDistances;
-};
-
-QRgb Lit(QRgb C, int Light) {
-    if (Light == 0) return C;
-    return Light > 0 ? Mix(C, 0xFFFFFFFFu, Light) : Darken(C, -Light);
-}
-
-class RingEngine : public Engine {
-  public:
-    explicit RingEngine(QSize Size) : mMap(Size) {}
-
-    void Draw(const Frame& F, int Y0, int Y1) const override {
-        Ring* Rings = Scratch<Ring, RingEngine>(mMap.Reach() + 1);
-        for (int R = 0; R <= mMap.Reach(); ++R) Rings[R] = RingAt(R, F.Progress);
-        // In small squares: what a turned row reads lies in many rows of the picture.
-        for (int Top = Y0; Top < Y1; Top += kSquare)
-            for (int X = 0; X < F.Width; X += kSquare)
-                for (int Y = Top; Y < std::min(Y1, Top + kSquare); ++Y)
-                    DrawRun(F, Rings, Y, X, std::min(F.Width, X + kSquare));
-    }
+    WaterEngine(QSize Size, int Waves) : PolarEngine(Size, true, false), mWaves(Waves) {}
 
   protected:
-    virtual Ring RingAt(int Distance, int Progress) const = 0;
-    int Reach() const { return mMap.Reach(); }
-
-  private:
-    static constexpr int kSquare = 32;
-
-    void DrawRun(const Frame& F, const Ring* Rings, int Y, int X0, int X1) const {
-        const std::uint16_t* Distances = mMap.Row(Y);
-        const QRgb* Old = F.Old.Row(Y);
-        const QRgb* New = F.New.Row(Y);
-        QRgb* Out = F.Row(Y);
-        for (int X = X0; X < X1; ++X) {
-            const Ring& R = Rings[Distances[X]];
-            if (R.Along | R.Around | R.Light)
-                Out[X] = Moved(F, R, X, Y);
-            else
-                Out[X] = R.Weight == 0 ? Old[X]
-                                       : (R.Weight == 256 ? New[X] : Mix(Old[X], New[X], R.Weight));
-        }
-    }
-
-    static QRgb Moved(const Frame& F, const Ring& R, int X, int Y) {
-        const std::int64_t Dx = 2 * X + 1 - F.Width, Dy = 2 * Y + 1 - F.Height;
-        const int U = (X << 16) + static_cast<int>((Dx * R.Along - Dy * R.Around) / 2);
-        const int V = (Y << 16) + static_cast<int>((Dy * R.Along + Dx * R.Around) / 2);
-        QRgb C = 0;
-        if (R.Weight == 0)
-            C = Sample(F.Old, U, V);
-        else if (R.Weight == 256)
-            C = Sample(F.New, U, V);
-        else
-            C = Mix(Sample(F.Old, U, V), Sample(F.New, U, V), R.Weight);
-        return Lit(C, R.Light);
-    }
-
-    DistanceMap mMap;
-};
-
-class WaterEngine : public RingEngine {
-  public:
-    WaterEngine(QSize Size, int Waves) : RingEngine(Size), mWaves(Waves) {}
-
-  protected:
-    Ring RingAt(int Distance, int Progress) const override {
-        // The ring is a third of the way wide; its head starts in the middle, its tail ends
+    Ring RingAt(int Distance, int Progress, bool) const override {
+        // The ring is nearly as wide as the picture; its head starts in the middle, its tail ends
         // in the corners.
-        const int Width = Reach() / 3 + 1;
-        const int Head = Scale(Reach() + Width, Progress);
-        const int Behind = Head - Distance;
-        if (Behind <= 0) return {0, 0, 0, 0};
-        if (Behind >= Width) return {0, 0, 256, 0};
+        const int Width = Reach() * 4 / 5 + 1;
+        const int Behind = Scale(Reach() + Width, Progress) - Distance;
+        if (Behind <= 0) return {Distance << 16, 0, 0, 0};
+        if (Behind >= Width) return {Distance << 16, 0, One, 0};
         const int Place = static_cast<int>(std::int64_t{Behind} * One / Width);
-        const int Height = Scale(Sine(Place * mWaves), Scale(Hump(Place), Hump(Progress)));
-        const int Slope = Scale(Cosine(Place * mWaves), Scale(Hump(Place), Hump(Progress)));
-        const int Strength = Scale(Reach() / 40 + 8, Height);
-        const int Along = static_cast<int>(std::int64_t{Strength} * One / std::max(4, Distance));
-        const int Weight = Ease(Clamp((Place - 3 * One / 8) * 4, 0, One)) >> 8;
-        return {Along, 0, Weight, Scale(40, Slope)};
+        const int Calm = Clamp(Distance * 16 * (One / (Reach() + 1)), 0, One);
+        const int Strength = Scale(Scale(Hump(Place), Hump(Progress)), Calm);
+        const int Wave = Scale(Sine(Place * mWaves), Strength);
+        const int Slope = Scale(Cosine(Place * mWaves), Strength);
+        const int Weight = Ease(Clamp((Place - 3 * One / 8) * 4, 0, One));
+        const auto Along = static_cast<int>((std::int64_t{Width} * Wave) / (mWaves * 8));
+        return {std::max(0, (Distance << 16) + Along), 0, Weight, Slope / 4};
     }
 
   private:
     int mWaves;
 };
 
-class TwirlEngine : public RingEngine {
+class TwirlEngine : public PolarEngine {
   public:
-    TwirlEngine(QSize Size, int Quarters) : RingEngine(Size), mQuarters(Quarters) {}
+    TwirlEngine(QSize Size, int Quarters) : PolarEngine(Size, false, false), mQuarters(Quarters) {}
 
   protected:
-    Ring RingAt(int Distance, int Progress) const override {
-        const int Inner = One - static_cast<int>(std::int64_t{Distance} * One / (Reach() + 1));
-        const int Angle = Scale(Hump(Progress), Ease(Inner)) / 4 * mQuarters;
+    Ring RingAt(int Distance, int Progress, bool) const override {
+        const int Inner =
+            Clamp(One - static_cast<int>(std::int64_t{Distance} * One / (Reach() + 1)), 0, One);
+        const int Angle = Scale(Hump(Progress), Scale(Inner, Inner)) / 4 * mQuarters;
         // The new picture wells up in the middle and spreads while the turning is strongest.
         const int Spread = Clamp((Progress - One / 3) * 3, 0, One);
-        const int Weight = Clamp((Scale(5 * One / 4, Spread) - (One - Inner)) >> 6, 0, 256);
-        return {Cosine(Angle) - One, Sine(Angle), Weight, 0};
+        const int Weight = Clamp((Scale(9 * One / 8, Spread) - (One - Inner)) * 8, 0, One);
+        return {Distance << 16, Angle, Weight, 0};
     }
 
   private:
     int mQuarters;
 };
 
+class SwirlZoomEngine : public PolarEngine {
+  public:
+    SwirlZoomEngine(QSize Size, int Quarters)
+        : PolarEngine(Size, false, true), mQuarters(Quarters) {}
+
+  protected:
+    Ring RingAt(int Distance, int Progress, bool OfNew) const override {
+        const int Inner =
+            Clamp(One - static_cast<int>(std::int64_t{Distance} * One / (Reach() + 1)), 0, One);
+        const int Wound = OfNew ? Ease(Clamp(WoundAt(One - Progress), 0, One))
+                                : Ease(Clamp(WoundAt(Progress), 0, One));
+        const int Angle = Scale(Wound, Scale(Inner, Inner)) / 4 * mQuarters;
+        const int Near = One + 2 * Scale(Wound, Wound);
+        const auto Place = static_cast<int>((std::int64_t{Distance} << 32) / Near);
+        const int Weight = Ease(Clamp((Progress - One * 2 / 5) * 5, 0, One));
+        return {Place, OfNew ? -Angle : Angle, Weight, 0};
+    }
+
+  private:
+    // One when the other picture has taken over.
+    static int WoundAt(int Progress) { return Scale(Progress, One * 5 / 3); }
+
+    int mQuarters;
+};
+
+struct Drop {
+    int X, Y;   // halves of a pixel
+    int Start;  // progress at which it falls
+};
+
+// A ring of a drop in one frame, lengths in pixels.
+struct PondRing {
+    int X, Y;
+    std::int64_t Head, Tail;  // 4 times their squares, for quick answers
+    int Front;
+    int Strength;  // pixels of One
+};
+
+class RainEngine : public WarpEngine {
+  public:
+    RainEngine(QSize Size, int Drops) : WarpEngine(Size, false) {
+        const int W = Size.width(), H = Size.height();
+        mReach = Root(std::int64_t{W} * W + std::int64_t{H} * H) + 1;
+        mWidth = mReach / 6 + 2;
+        for (int I = 0; I < Drops; ++I) {
+            // Scattered evenly, by steps that fill a square without a pattern.
+            const int Across = (I * 49445 + 24000) & (One - 1);
+            const int Down = (I * 37339 + 27000) & (One - 1);
+            mDrops.push_back({Scale(2 * W, Across), Scale(2 * H, Down), One / 2 * I / Drops});
+        }
+    }
+
+  protected:
+    void Prepare(const Frame& F) const override {
+        PondRing* Rings = Scratch<PondRing, RainEngine>(int(mDrops.size()));
+        for (std::size_t I = 0; I < mDrops.size(); ++I) {
+            const Drop& D = mDrops[I];
+            const int Age = std::max(0, F.Progress - D.Start);
+            // The first ring has passed over all of the picture when the time is up.
+            const int Front = Scale(mReach + mWidth, Scale(Age, Age) / 2 + Age / 2);
+            const std::int64_t Tail = std::max(0, Front - mWidth);
+            const int Fade = Scale(Clamp(Age * 8, 0, One), Clamp((One - F.Progress) * 3, 0, One));
+            Rings[I] = {D.X,
+                        D.Y,
+                        std::int64_t{4} * Front * Front,
+                        4 * Tail * Tail,
+                        Front,
+                        Fade * mWidth / 26};
+        }
+    }
+
+    void FillLine(const Frame&, int Y, int Bits, WarpNode* Nodes, int Count) const override {
+        const PondRing* Rings = Scratch<PondRing, RainEngine>(int(mDrops.size()));
+        for (std::size_t I = 0; I < mDrops.size(); ++I)
+            for (int N = 0; N < Count; ++N) AddRing(Nodes[N], Rings[I], N << Bits, Y);
+        for (int N = 0; N < Count; ++N)
+            std::copy_n(Nodes[N].At + OldAcross, 4, Nodes[N].At + NewAcross);
+    }
+
+  private:
+    static constexpr int kWaves = 3;
+
+    void AddRing(WarpNode& Node, const PondRing& R, int X, int Y) const {
+        const std::int64_t Dx = 2 * X + 1 - R.X, Dy = 2 * Y + 1 - R.Y;
+        const std::int64_t Square = Dx * Dx + Dy * Dy;
+        if (Square >= R.Head) return;
+        if (Square <= R.Tail) {
+            Node.At[NewWeight] = One;
+            return;
+        }
+        const int Far = Root(Square * 64) + 1;  // sixteenths of a pixel
+        const int Place = Clamp((R.Front * 16 - Far) * (One / 16 * 16 / mWidth) / 16, 0, One);
+        const int Strength = Scale(R.Strength, Hump(Place));
+        const std::int64_t Wave = Scale(Sine(Place * kWaves), Strength);
+        // Next to the point of impact the surface only rises and falls.
+        const int Away = std::max(Far, mWidth * 4);
+        Node.At[OldAcross] += static_cast<int>(Dx * Wave * 8 / Away);
+        Node.At[OldDown] += static_cast<int>(Dy * Wave * 8 / Away);
+        Node.At[Light] += Scale(Cosine(Place * kWaves), Strength) / mWidth * 6;
+        const int Weight = Ease(Clamp((Place - One / 4) * 2, 0, One));
+        Node.At[NewWeight] = std::max(Node.At[NewWeight], Weight);
+    }
+
+    int mReach, mWidth;
+    std::vector<Drop> mDrops;
+};
+
+template <typename Kind>
+Recipe Make(const char* Name, int Count) {
+    return {Name, [=](const Pair& P) { return std::make_unique<Kind>(P.Size(), Count); }};
+}
+
 }  // namespace
 
 Recipe WaterRing(int Waves) {
-    return {"Water", [=](const Pair& P) { return std::make_unique<WaterEngine>(P.Size(), Waves); }};
+    return Make<WaterEngine>("Water", Waves);
 }
-
+Recipe RainRings(int Drops) {
+    return Make<RainEngine>("Water", Drops);
+}
 Recipe Twirl(int Quarters) {
-    return {"Twirl",
-            [=](const Pair& P) { return std::make_unique<TwirlEngine>(P.Size(), Quarters); }};
+    return Make<TwirlEngine>("Twirl", Quarters);
+}
+Recipe SwirlZoom(int Quarters) {
+    return Make<SwirlZoomEngine>("Twirl", Quarters);
 }
 
 }  // namespace neb::effects

@@ -1,5 +1,5 @@
-// Water: a ring of waves runs outwards from the middle, the new picture in its wake; or the
-// picture is wound up about the middle and unwinds as the new one. Used by the catalogue.
+// Water and whirls: a ring of waves runs outwards from the middle, drops fall on a pond, or the
+// picture is wound up about the middle, the new picture in the wake. Used by the catalogue.
 #pragma once
 
 #include "effects/Engine.h"
@@ -8,7 +8,11 @@ namespace neb::effects {
 
 // Waves: how many there are in the ring.
 Recipe WaterRing(int Waves);
+// Drops: how many fall, one after another.
+Recipe RainRings(int Drops);
 // Quarters: how far the middle is turned, in quarter turns; below 0 the other way.
 Recipe Twirl(int Quarters);
+// The old picture is wound up and comes nearer; the new one unwinds from there and settles.
+Recipe SwirlZoom(int Quarters);
 
 }  // namespace neb::effects

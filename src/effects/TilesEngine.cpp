@@ -3,17 +3,21 @@
 #include <algorithm>
 #include <vector>
 
-#include "effects/Sampling.h"
+#include "effects/HalfSizes.h"
 
 namespace neb::effects {
 namespace {
 
-constexpr QRgb kBehind = 0xFF101010u;
+constexpr int kBehind = 150;         // darkness of the new picture behind the tiles
 constexpr int kShare = One * 2 / 5;  // of the whole time that one tile takes to turn
 
 class TilesEngine : public Engine {
   public:
-    TilesEngine(QSize Size, int Count, WipeShape Order) : mSize(Size) {
+    TilesEngine(const Pair& P, int Count, WipeShape Order)
+        : mOld(P.Old, HalfSizes::Way::Across),
+          mNew(P.New, HalfSizes::Way::Across),
+          mSize(P.Size()) {
+        const QSize Size = mSize;
         const int Longer = std::max(Size.width(), Size.height());
         mAcross = std::clamp((Count * Size.width() + Longer / 2) / Longer, 1, Size.width());
         mDown = std::clamp((Count * Size.height() + Longer / 2) / Longer, 1, Size.height());
@@ -54,31 +58,40 @@ class TilesEngine : public Engine {
             DrawTurned(F, Y, X0, X1, Ease(static_cast<int>(std::int64_t{Turned} * One / kShare)));
     }
 
-    static void DrawTurned(const Frame& F, int Y, int X0, int X1, int Part) {
+    void DrawTurned(const Frame& F, int Y, int X0, int X1, int Part) const {
         const int Angle = Scale(One / 2, Part);
         const int Wide = std::max(64, std::abs(Cosine(Angle)));
-        const Picture& Face = Part < One / 2 ? F.Old : F.New;
         const std::int64_t Middle = std::int64_t{X0 + X1} << 15;
         const std::int64_t Half = std::int64_t{X1 - X0} * Wide / 2;
         const int Step = static_cast<int>((std::int64_t{One} << 16) / Wide);
         const int From = std::max(X0, static_cast<int>((Middle - Half) >> 16));
         const int To = std::min(X1, static_cast<int>((Middle + Half) >> 16) + 1);
         QRgb* Out = F.Row(Y);
+        MixSpanWithColour(Out + X0, F.New.Row(Y) + X0, kBlack, kBehind, From + 1 - X0);
+        MixSpanWithColour(Out + To - 1, F.New.Row(Y) + To - 1, kBlack, kBehind, X1 + 1 - To);
+        const QRgb Left = Out[From], Right = Out[To - 1];
         const std::int64_t Off = (std::int64_t{From} << 16) + One / 2 - Middle;
-        const std::int64_t U = Middle + ((Off * Step) >> 16) - One / 2;
-        SampleRow(Out + From, Face, U, Step, Y << 16, One, To - From);
+        const auto U = static_cast<int>(Middle + ((Off * Step) >> 16)) - One / 2;
+        Read(Out + From, Part < One / 2 ? mOld : mNew, U, Step, Y, To - From);
         DarkenSpan(Out + From, Scale(110, Sine(Angle)), To - From);
-        FillSpan(Out + X0, kBehind, From - X0);
-        FillSpan(Out + To, kBehind, X1 - To);
-        SoftenSide(Out[From], Off, Half);
-        SoftenSide(Out[To - 1], (std::int64_t{To - 1} << 16) + One / 2 - Middle, Half);
+        SoftenSide(Out[From], Left, Off, Half);
+        SoftenSide(Out[To - 1], Right, (std::int64_t{To - 1} << 16) + One / 2 - Middle, Half);
     }
 
-    static void SoftenSide(QRgb& Out, std::int64_t Off, std::int64_t Half) {
+    static void Read(QRgb* Out, const HalfSizes& Face, int U, int Step, int Y, int Count) {
+        int* Across = Scratch<int, TilesEngine>(2 * Count);
+        int* Down = Across + Count;
+        for (int I = 0; I < Count; ++I) Across[I] = U + I * Step;
+        std::fill_n(Down, Count, Y << 16);
+        Face.Read(Out, Across, Down, Count, Step);
+    }
+
+    static void SoftenSide(QRgb& Out, QRgb Behind, std::int64_t Off, std::int64_t Half) {
         const int Seen = Coverage(static_cast<int>(Off + Half), static_cast<int>(2 * Half));
-        if (Seen < 256) Out = Mix(kBehind, Out, Seen);
+        if (Seen < 256) Out = Mix(Behind, Out, Seen);
     }
 
+    HalfSizes mOld, mNew;
     QSize mSize;
     int mAcross = 1, mDown = 1;
     std::vector<int> mStarts;
@@ -87,8 +100,7 @@ class TilesEngine : public Engine {
 }  // namespace
 
 Recipe TurningTiles(int Count, WipeShape Order) {
-    return {"Tiles",
-            [=](const Pair& P) { return std::make_unique<TilesEngine>(P.Size(), Count, Order); }};
+    return {"Tiles", [=](const Pair& P) { return std::make_unique<TilesEngine>(P, Count, Order); }};
 }
 
 }  // namespace neb::effects

@@ -1,0 +1,135 @@
+#include "effects/Sprite.h"
+
+#include <algorithm>
+
+namespace neb::effects {
+namespace {
+
+constexpr int kRun = 256;
+
+NEB_WIDE void FillPlaces(int* __restrict U, int* __restrict V, int U0, int V0, int Du, int Dv,
+                         int Count) {
+    for (int I = 0; I < Count; ++I) {
+        U[I] = U0 + I * Du;
+        V[I] = V0 + I * Dv;
+    }
+}
+
+std::int64_t DivideDown(std::int64_t A, std::int64_t B) {
+    return A >= 0 ? A / B : -((-A + B - 1) / B);
+}
+
+// Narrows a run to the pixels whose place Start + X * Step lies from Low up to High.
+void Narrow(int& From, int& To, std::int64_t Start, int Step, std::int64_t Low, std::int64_t High) {
+    if (Step == 0) {
+        if (Start < Low || Start > High) To = From;
+        return;
+    }
+    if (Step < 0) return Narrow(From, To, -Start, -Step, -High, -Low);
+    const std::int64_t First = -DivideDown(Start - Low, Step), End = DivideDown(High - Start, Step);
+    From = static_cast<int>(std::clamp<std::int64_t>(First, From, To));
+    To = static_cast<int>(std::clamp<std::int64_t>(End + 1, From, To));
+}
+
+}  // namespace
+
+Sprite::Sprite(const HalfSizes& Source, const QRect& Part, const SpritePlace& Place)
+    : mSource(&Source), mX(Place.X), mY(Place.Y), mSize(Place.Size) {
+    if (mSize < One / 256) return;
+    mGrain = static_cast<int>((std::int64_t{One} << 16) / mSize);
+    mCos = Scale(mGrain, Cosine(Place.Angle));
+    mSin = Scale(mGrain, Sine(Place.Angle));
+    mLeft = Part.left() * One;
+    mUp = Part.top() * One;
+    mWide = Part.width() * One;
+    mTall = Part.height() * One;
+    const std::int64_t Half = (std::int64_t{mWide} * std::abs(Sine(Place.Angle)) +
+                               std::int64_t{mTall} * std::abs(Cosine(Place.Angle))) >>
+                              17;
+    const std::int64_t Reach = ((Half * mSize) >> 16) + 2 * One;
+    constexpr std::int64_t kFar = 1 << 20;
+    mTop = static_cast<int>(std::clamp((mY - Reach) >> 16, -kFar, kFar));
+    mBottom = static_cast<int>(std::clamp((mY + Reach) >> 16, -kFar, kFar));
+}
+
+Sprite::Axis Sprite::AcrossAt(int Y) const {
+    const std::int64_t Dx = One / 2 - mX, Dy = (std::int64_t{Y} << 16) + One / 2 - mY;
+    return {((Dx * mCos + Dy * mSin) >> 16) + mWide / 2, mCos, mWide};
+}
+
+Sprite::Axis Sprite::DownAt(int Y) const {
+    const std::int64_t Dx = One / 2 - mX, Dy = (std::int64_t{Y} << 16) + One / 2 - mY;
+    return {((Dy * mCos - Dx * mSin) >> 16) + mTall / 2, -mSin, mTall};
+}
+
+Sprite::Run Sprite::Inside(const Axis& A, const Axis& B, std::int64_t Margin, int Width) {
+    Run R{0, Width};
+    Narrow(R.From, R.To, A.Start, A.Step, -Margin, A.Length + Margin);
+    Narrow(R.From, R.To, B.Start, B.Step, -Margin, B.Length + Margin);
+    return R;
+}
+
+// How much of a pixel lies within the two sides of one direction, 0..256.
+int Sprite::CoverAt(const Axis& A, int X) const {
+    const std::int64_t Place = A.Start + std::int64_t{X} * A.Step;
+    const std::int64_t Off = std::min(Place, A.Length - Place);
+    return static_cast<int>(
+        std::clamp<std::int64_t>((((Off * mSize) >> 16) + One / 2) >> 8, 0, 256));
+}
+
+// Where pixels fall on pixels they are copied as they are.
+bool Sprite::CopyWhole(QRgb* Out, int U, int V, int Du, int Dv, int Count) const {
+    const Picture& P = mSource->At(0);
+    if (Du != One || Dv != 0 || ((U | V) & (One - 1)) != 0) return false;
+    const int X = U >> 16, Y = V >> 16;
+    if (X < 0 || X + Count > P.Width || Y < 0 || Y >= P.Height) return false;
+    CopySpan(Out, P.Row(Y) + X, Count);
+    return true;
+}
+
+void Sprite::Read(QRgb* Out, const Axis& A, const Axis& B, Run R) const {
+    int U[kRun], V[kRun];
+    for (int X = R.From; X < R.To; X += kRun) {
+        const int Count = std::min(kRun, R.To - X);
+        const auto U0 = static_cast<int>(A.Start + std::int64_t{X} * A.Step) + mLeft - One / 2;
+        const auto V0 = static_cast<int>(B.Start + std::int64_t{X} * B.Step) + mUp - One / 2;
+        if (CopyWhole(Out + X, U0, V0, A.Step, B.Step, Count)) continue;
+        FillPlaces(U, V, U0, V0, A.Step, B.Step, Count);
+        mSource->Read(Out + X, U, V, Count, mGrain);
+    }
+}
+
+void Sprite::DrawRow(QRgb* Out, int Y, int Width) const {
+    if (!Touches(Y)) return;
+    const Axis A = AcrossAt(Y), B = DownAt(Y);
+    const Run Seen = Inside(A, B, mGrain / 2, Width);
+    if (Seen.From >= Seen.To) return;
+    Run Whole = Inside(A, B, -(mGrain + 1) / 2, Width);
+    if (Whole.From >= Whole.To) Whole = {Seen.To, Seen.To};
+    QRgb* Row = Scratch<QRgb, Sprite>(Width);
+    Read(Out, A, B, Whole);
+    for (const Run& Edge : {Run{Seen.From, Whole.From}, Run{Whole.To, Seen.To}}) {
+        Read(Row, A, B, Edge);
+        for (int X = Edge.From; X < Edge.To; ++X)
+            Out[X] = Mix(Out[X], Row[X], CoverAt(A, X) * CoverAt(B, X) >> 8);
+    }
+}
+
+void Sprite::DrawShadow(QRgb* Out, int Y, int Width, int Wide, int Depth) const {
+    if (!Touches(Y, Wide)) return;
+    const Axis A = AcrossAt(Y), B = DownAt(Y);
+    const std::int64_t Margin = std::int64_t{Wide} * mGrain;
+    const std::int64_t Share = (std::int64_t{1} << 32) / Margin;
+    const Run Seen = Inside(A, B, Margin, Width), Whole = Inside(A, B, -mGrain, Width);
+    for (int X = Seen.From; X < Seen.To; ++X) {
+        if (X == Whole.From && Whole.To > X) X = Whole.To;
+        if (X >= Seen.To) break;
+        const std::int64_t U = A.Start + std::int64_t{X} * A.Step;
+        const std::int64_t V = B.Start + std::int64_t{X} * B.Step;
+        const std::int64_t Away = std::max(std::max(-U, U - A.Length), std::max(-V, V - B.Length));
+        const auto Near = 256 - static_cast<int>((std::max<std::int64_t>(0, Away) * Share) >> 24);
+        if (Near > 0) Out[X] = Darken(Out[X], Depth * Near * Near >> 16);
+    }
+}
+
+}  // namespace neb::effects

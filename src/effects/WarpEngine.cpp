@@ -1,0 +1,267 @@
+#include "effects/WarpEngine.h"
+
+#include <algorithm>
+
+#include "effects/Sampling.h"
+
+namespace neb::effects {
+namespace {
+
+constexpr int kBlock = WarpEngine::kBlock;
+// Up to such a spread one tap, or two, leave nothing out.
+constexpr int kOneTap = One / 4, kTwoTaps = One;
+
+// The nodes about one block: its own and those of its right and lower borders.
+struct Patch {
+    const WarpNode* Nodes;
+    int Count;  // nodes in a line of the grid
+    int Bits;
+    int Across() const { return (kBlock >> Bits) + 1; }
+    int Down() const { return (WarpEngine::kLines >> Bits) + 1; }
+};
+
+// What the nodes of a block have in common, so that the simple ones are drawn simply.
+struct Traits {
+    int Moved[2] = {0, 0};  // of the old and the new picture: nought where none moves
+    int Widest[2] = {0, 0};
+    int Light = 0;
+    int Low = One, High = 0;  // weights
+    bool Alike = true;        // both pictures are bent in the same way
+
+    void Add(const WarpNode& N) {
+        for (int K = 0; K < 2; ++K) {
+            const int* P = N.At + (K ? NewAcross : OldAcross);
+            Moved[K] |= P[0] | P[1] | P[2] | P[3];
+            Widest[K] = std::max({Widest[K], std::abs(P[2]), std::abs(P[3])});
+        }
+        Alike = Alike && std::equal(N.At + OldAcross, N.At + NewAcross, N.At + NewAcross);
+        Light |= std::abs(N.At[WarpPart::Light]) >> 8;
+        Low = std::min(Low, std::max(0, N.At[NewWeight]));
+        High = std::max(High, std::min(One, N.At[NewWeight]));
+    }
+    bool Sees(int Which) const { return Which ? High > 0 : Low < One; }
+    // Which picture is seen as it is; -1 when none is.
+    int PlainOne() const {
+        if (Light || (Sees(0) && Sees(1))) return -1;
+        const int Which = Sees(1) ? 1 : 0;
+        return Moved[Which] ? -1 : Which;
+    }
+};
+
+Traits TraitsOf(const Patch& P) {
+    Traits T;
+    for (int J = 0; J < P.Down(); ++J)
+        for (int I = 0; I < P.Across(); ++I) T.Add(P.Nodes[J * P.Count + I]);
+    return T;
+}
+
+NEB_WIDE void Between(int* __restrict Out, const int* A, const int* B, int Part, int Bits,
+                      int Count) {
+    for (int I = 0; I < Count; ++I) Out[I] = A[I] + (((B[I] - A[I]) * Part) >> Bits);
+}
+
+// The pixels of one cell of the grid, reckoned all at once.
+typedef int TwoPixels __attribute__((vector_size(8)));
+typedef int FourPixels __attribute__((vector_size(16)));
+typedef int EightPixels __attribute__((vector_size(32)));
+
+template <typename Cell, int Bits>
+inline void SpreadOut(int* Out, const WarpNode* Line, int Part) {
+    Cell Lanes;
+    for (int I = 0; I < 1 << Bits; ++I) Lanes[I] = I;
+    for (int C = 0; C < kBlock >> Bits; ++C) {
+        const int From = Line[C].At[Part], Step = Line[C + 1].At[Part] - From;
+        const Cell Between = From + ((Lanes * Step) >> Bits);
+        std::memcpy(Out + (C << Bits), &Between, sizeof Between);
+    }
+}
+
+// One part for each pixel of a row of the block.
+NEB_WIDE void SpreadPart(int* Out, const WarpNode* Line, int Part, int Bits) {
+    if (Bits == 3)
+        SpreadOut<EightPixels, 3>(Out, Line, Part);
+    else if (Bits == 2)
+        SpreadOut<FourPixels, 2>(Out, Line, Part);
+    else
+        SpreadOut<TwoPixels, 1>(Out, Line, Part);
+}
+
+// Ways from pixels to places; what leaves the picture comes back in as in a mirror.
+NEB_WIDE void Place(int* Places, int Start, int Step, int Last) {
+    const int End = Last << 16;
+    for (int I = 0; I < kBlock; ++I) {
+        const int At = std::abs(Places[I] + ((Start + I * Step) << 16));
+        Places[I] = At < End ? At : 2 * End - At;
+    }
+}
+
+NEB_WIDE void Shifted(int* __restrict Out, const int* Places, const int* Spread, int Share) {
+    for (int I = 0; I < kBlock; ++I) Out[I] = Places[I] + (Spread[I] >> 8) * Share;
+}
+
+// Every second part of a pixel, each with room of 16 bits.
+constexpr std::uint32_t kEven = 0x00FF00FFu, kHalf = 0x00800080u;
+
+NEB_WIDE void MixByParts(QRgb* Out, const QRgb* Old, const QRgb* New, const int* Part, int Count) {
+    NEB_INDEPENDENT
+    for (int I = 0; I < Count; ++I) {
+        const auto B = static_cast<std::uint32_t>(Clamp(Part[I], 0, One) >> 8), A = 256 - B;
+        const std::uint32_t Even = (Old[I] & kEven) * A + (New[I] & kEven) * B + kHalf;
+        const std::uint32_t Odd = ((Old[I] >> 8) & kEven) * A + ((New[I] >> 8) & kEven) * B + kHalf;
+        Out[I] = ((Even >> 8) & kEven) | (Odd & ~kEven);
+    }
+}
+
+NEB_WIDE void LightByParts(QRgb* Out, const int* Part, int Count) {
+    for (int I = 0; I < Count; ++I) {
+        const int L = Clamp(Part[I], -One, One) >> 8;
+        const auto Keep = static_cast<std::uint32_t>(256 - std::abs(L));
+        const auto White = static_cast<std::uint32_t>(std::max(L, 0)) * kEven + kHalf;
+        const std::uint32_t Even = (Out[I] & kEven) * Keep + White;
+        const std::uint32_t Odd = ((Out[I] >> 8) & kEven) * Keep + White;
+        Out[I] = ((Even >> 8) & kEven) | (Odd & ~kEven) | kBlack;
+    }
+}
+
+// One row of a block.
+struct Strip {
+    const WarpNode* Line;
+    int Bits;
+    int X, Y, Count;
+};
+
+// Where the pixels of a strip read.
+class Reader {
+  public:
+    void Find(const Strip& S, const Frame& F, int First, bool Wide) {
+        SpreadPart(mU, S.Line, First, S.Bits);
+        SpreadPart(mV, S.Line, First + 1, S.Bits);
+        Place(mU, S.X, 1, F.Width - 1);
+        Place(mV, S.Y, 0, F.Height - 1);
+        if (!Wide) return;
+        SpreadPart(mSpreadU, S.Line, First + 2, S.Bits);
+        SpreadPart(mSpreadV, S.Line, First + 3, S.Bits);
+    }
+    // With so many taps as the widest spread asks for.
+    void Read(QRgb* Out, const Picture& P, int Widest, int Count) {
+        if (Widest <= kOneTap) return SamplePlaces(Out, P, mU, mV, Count);
+        ReadBoth(Out, P, 256, Count);
+        if (Widest <= kTwoTaps) return;
+        QRgb Inner[kBlock];
+        ReadBoth(Inner, P, 85, Count);
+        MixSpan(Out, Out, Inner, 128, Count);
+    }
+
+  private:
+    // The mean of the places as far to both sides; Share: of the spread, 256 for all of it.
+    void ReadBoth(QRgb* Out, const Picture& P, int Share, int Count) {
+        QRgb Other[kBlock];
+        ReadShifted(Out, P, -Share, Count);
+        ReadShifted(Other, P, Share, Count);
+        MixSpan(Out, Out, Other, 128, Count);
+    }
+    void ReadShifted(QRgb* Out, const Picture& P, int Share, int Count) {
+        Shifted(mAtU, mU, mSpreadU, Share);
+        Shifted(mAtV, mV, mSpreadV, Share);
+        SamplePlaces(Out, P, mAtU, mAtV, Count);
+    }
+
+    int mU[kBlock], mV[kBlock], mSpreadU[kBlock], mSpreadV[kBlock], mAtU[kBlock], mAtV[kBlock];
+};
+
+// Both pictures' parts of a strip; each in its own row where it does not move.
+struct Views {
+    const QRgb* Of[2];
+};
+
+Views ReadViews(const Frame& F, const Strip& S, const Traits& T, QRgb* OldRoom, QRgb* NewRoom) {
+    Reader R;
+    Views Out{};
+    QRgb* const Rooms[2] = {OldRoom, NewRoom};
+    for (int K = 0; K < 2; ++K) {
+        const Picture& P = K ? F.New : F.Old;
+        Out.Of[K] = P.Row(S.Y) + S.X;
+        if (!T.Moved[K] || !T.Sees(K)) continue;
+        const bool Known = K == 1 && T.Alike && T.Sees(0);
+        if (!Known) R.Find(S, F, K ? NewAcross : OldAcross, T.Widest[K] > kOneTap);
+        R.Read(Rooms[K], P, T.Widest[K], S.Count);
+        Out.Of[K] = Rooms[K];
+    }
+    return Out;
+}
+
+void DrawStrip(const Frame& F, const Strip& S, const Traits& T) {
+    QRgb Room[kBlock];
+    int Parts[kBlock];
+    QRgb* Out = F.Row(S.Y) + S.X;
+    if (T.Sees(0) && T.Sees(1)) {
+        const Views V = ReadViews(F, S, T, Out, Room);
+        SpreadPart(Parts, S.Line, NewWeight, S.Bits);
+        MixByParts(Out, V.Of[0], V.Of[1], Parts, S.Count);
+    } else {
+        const QRgb* Seen = ReadViews(F, S, T, Out, Out).Of[T.Sees(1) ? 1 : 0];
+        if (Seen != Out) CopySpan(Out, Seen, S.Count);
+    }
+    if (!T.Light) return;
+    SpreadPart(Parts, S.Line, Light, S.Bits);
+    LightByParts(Out, Parts, S.Count);
+}
+
+// The rows Y0 up to Y1 of a block whose first line of nodes stands at Top.
+void DrawBlock(const Frame& F, const Patch& P, const Traits& T, int X, int Top, int Y0, int Y1) {
+    WarpNode Line[(kBlock >> 1) + 1];
+    for (int Y = Y0; Y < Y1; ++Y) {
+        const int Cell = (Y - Top) >> P.Bits, Part = (Y - Top) & ((1 << P.Bits) - 1);
+        const WarpNode* A = P.Nodes + Cell * P.Count;
+        Between(Line->At, A->At, A[P.Count].At, Part, P.Bits, P.Across() * WarpParts);
+        DrawStrip(F, {Line, P.Bits, X, Y, std::min(kBlock, F.Width - X)}, T);
+    }
+}
+
+void CopyBlocks(const Frame& F, int Which, int X0, int X1, int Y0, int Y1) {
+    const Picture& P = Which == 1 ? F.New : F.Old;
+    for (int Y = Y0; Y < Y1; ++Y) CopySpan(F.Row(Y) + X0, P.Row(Y) + X0, X1 - X0);
+}
+
+}  // namespace
+
+WarpEngine::WarpEngine(QSize Size, bool Fine) {
+    const int Longer = std::max(Size.width(), Size.height());
+    mBits = Clamp((Longer >= 1200 ? 3 : 2) - (Longer < 500) - Fine, 1, 3);
+}
+
+void WarpEngine::Draw(const Frame& F, int Y0, int Y1) const {
+    Prepare(F);
+    const int Count = ((F.Width + kBlock - 1) / kBlock * kBlock >> mBits) + 1;
+    const int Cells = kLines >> mBits;
+    WarpNode* Nodes = Scratch<WarpNode, WarpEngine>(Count * (Cells + 1));
+    const auto Fill = [&](int Line, int Y) {
+        std::fill_n(Nodes + Line * Count, Count, WarpNode{});
+        FillLine(F, Y, mBits, Nodes + Line * Count, Count);
+    };
+    const int First = Y0 / kLines * kLines;
+    Fill(Cells, First);
+    for (int Top = First; Top < Y1; Top += kLines) {
+        std::copy_n(Nodes + Cells * Count, Count, Nodes);
+        for (int I = 1; I <= Cells; ++I) Fill(I, Top + (I << mBits));
+        DrawLines(F, Nodes, Count, Top, std::max(Y0, Top), std::min(Y1, Top + kLines));
+    }
+}
+
+void WarpEngine::DrawLines(const Frame& F, const WarpNode* Nodes, int Count, int Top, int Y0,
+                           int Y1) const {
+    // Blocks of one plain picture are copied together.
+    int Plain = -1, Start = 0;
+    for (int X = 0; X < F.Width; X += kBlock) {
+        const Patch P{Nodes + (X >> mBits), Count, mBits};
+        const Traits T = TraitsOf(P);
+        const int Now = T.PlainOne();
+        if (Plain >= 0 && Now != Plain) CopyBlocks(F, Plain, Start, X, Y0, Y1);
+        if (Now != Plain) Start = X;
+        Plain = Now;
+        if (Now < 0) DrawBlock(F, P, T, X, Top, Y0, Y1);
+    }
+    if (Plain >= 0) CopyBlocks(F, Plain, Start, F.Width, Y0, Y1);
+}
+
+}  // namespace neb::effects

@@ -1,0 +1,132 @@
+#include "effects/WaveEngine.h"
+
+#include <algorithm>
+
+#include "effects/WarpEngine.h"
+
+namespace neb::effects {
+namespace {
+
+class SwellEngine : public WarpEngine {
+  public:
+    SwellEngine(QSize Size, int Waves) : WarpEngine(Size, false), mSize(Size), mWaves(Waves) {}
+
+  protected:
+    void FillLine(const Frame& F, int Y, int Bits, WarpNode* Nodes, int Count) const override {
+        const int Width = mSize.width() * 9 / 16 + 1;
+        // The crests stand a little aslant and are bent.
+        const int Down = static_cast<int>(std::int64_t{Y} * One / mSize.height());
+        const int Lag = Scale(mSize.width() / 16, Down) -
+                        Scale(mSize.width() / 48, Sine(Down * 5 / 4 + F.Progress));
+        const int Span = mSize.width() + Width + mSize.width() / 8;
+        const int Head = Scale(Span, (F.Progress + Ease(F.Progress)) / 2) - mSize.width() / 24;
+        for (int N = 0; N < Count; ++N) {
+            const int Behind = Head - Lag - (N << Bits);
+            Fill(Nodes[N].At, Clamp(static_cast<int>(std::int64_t{Behind} * One / Width), 0, One),
+                 Scale(One, Clamp(Clamp(F.Progress, 0, One - F.Progress) * 10, 0, One)));
+        }
+    }
+
+  private:
+    void Fill(int* Parts, int Place, int Strength) const {
+        const int Swell = Scale(Hump(Place), Strength);
+        const int Wave = Scale(Sine(Place * mWaves), Swell);
+        const int Slope = Scale(Cosine(Place * mWaves), Swell);
+        Parts[OldDown] = Parts[NewDown] = mSize.height() / 22 * Wave;
+        Parts[OldAcross] = Parts[NewAcross] = mSize.width() / (mWaves * 20) * Slope;
+        Parts[Light] = Slope / 5;
+        Parts[NewWeight] = Ease(Clamp((Place - One * 7 / 16) * 8, 0, One));
+    }
+
+    QSize mSize;
+    int mWaves;
+};
+
+class CurtainEngine : public WarpEngine {
+  public:
+    CurtainEngine(QSize Size, int Folds) : WarpEngine(Size, false), mSize(Size), mFolds(Folds) {}
+
+  protected:
+    void FillLine(const Frame& F, int Y, int Bits, WarpNode* Nodes, int Count) const override {
+        const Half H = HalfAt(F.Progress, Y);
+        for (int N = 0; N < Count; ++N) {
+            const int X = N << Bits;
+            const bool Right = 2 * X >= mSize.width();
+            FillNode(Nodes[N].At, H, Right ? mSize.width() - 1 - X : X, Y, Right);
+        }
+    }
+
+  private:
+    // The left half of the curtain along one line; all in pixels of One.
+    struct Half {
+        std::int64_t Whole;  // its width when closed
+        std::int64_t Start;  // left of the picture as it leaves
+        std::int64_t Wide;   // now
+        int Drawn;           // how far it has been drawn, of One
+    };
+
+    Half HalfAt(int Progress, int Y) const {
+        // The hem comes after.
+        const int Down = static_cast<int>(std::int64_t{Y} * One / mSize.height());
+        const int Drawn = Ease(Clamp(Progress * 5 / 4 - Scale(Down, Down) / 4, 0, One));
+        const int Left = One - Drawn;
+        const std::int64_t Whole = std::int64_t{mSize.width()} << 15;
+        const std::int64_t Gather = Scale(Scale(Drawn, Drawn), One * 3 / 10);
+        return {Whole, -((Whole * Gather) >> 16), (Whole * (Left + Gather)) >> 16, Drawn};
+    }
+
+    void FillNode(int* Parts, const Half& H, int X, int Y, bool Right) const {
+        Parts[NewWeight] = One;
+        if (H.Wide <= 0) return;
+        const std::int64_t Off = (std::int64_t{X} << 16) + One / 2 - H.Start;
+        const int Along = static_cast<int>(std::min<std::int64_t>(One, (Off << 16) / H.Wide));
+        const int Deep = Ease(Clamp(H.Drawn * 3, 0, One));
+        const int Fold = Scale(Sine(Along * mFolds), Deep);
+        const int Slope = Scale(Cosine(Along * mFolds), Deep);
+        const std::int64_t Wave = (H.Whole * Fold / mFolds) >> 20;
+        const auto Way = static_cast<int>(((H.Whole * Along) >> 16) + Wave - Off - H.Start);
+        Parts[OldAcross] = Right ? -Way : Way;
+        Parts[OldSpreadAcross] = SpreadOf(H, One + Slope * 3 / 8);
+        Parts[OldDown] = LiftAt(Y, Scale(Deep, One / 2) - Fold / 2);
+        const std::int64_t Edge = H.Wide - Off;
+        const std::int64_t Hem =
+            (std::int64_t{mSize.height() - 1 - Y} << 16) + One - Parts[OldDown];
+        const std::int64_t Inside = std::min(Edge, Hem);
+        Parts[NewWeight] =
+            static_cast<int>(std::clamp<std::int64_t>(One / 2 - Inside, -64 * One, 64 * One));
+        Parts[Light] = Inside > 0 ? Fold / 4 - Deep / 10 : ShadowAt(-Inside);
+    }
+
+    // Squeeze: of the fold at a place, beside that of the curtain as a whole.
+    static int SpreadOf(const Half& H, int Squeeze) {
+        const std::int64_t Ratio = (H.Whole * Squeeze) / H.Wide;
+        return static_cast<int>(std::clamp<std::int64_t>((Ratio - One) / 2, 0, 3 * One));
+    }
+
+    // Folds lift the hem.
+    int LiftAt(int Y, int Height) const {
+        const int Down = static_cast<int>(std::int64_t{Y} * One / mSize.height());
+        return Scale(mSize.height() * 2730, Scale(Height, Scale(Down, Down)));
+    }
+
+    int ShadowAt(std::int64_t Away) const {
+        const std::int64_t Width = std::int64_t{mSize.width()} * One / 32 + One;
+        const int Near = static_cast<int>(std::max<std::int64_t>(0, One - (Away << 16) / Width));
+        return -Scale(Near, Near) * 3 / 8;
+    }
+
+    QSize mSize;
+    int mFolds;
+};
+
+}  // namespace
+
+Recipe WaveAcross(int Waves) {
+    return {"Wave", [=](const Pair& P) { return std::make_unique<SwellEngine>(P.Size(), Waves); }};
+}
+Recipe Curtain(int Folds) {
+    return {"Curtain",
+            [=](const Pair& P) { return std::make_unique<CurtainEngine>(P.Size(), Folds); }};
+}
+
+}  // namespace neb::effects
