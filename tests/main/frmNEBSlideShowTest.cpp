@@ -94,6 +94,11 @@ TEST_F(MainWindow, AFirstStartMakesTheFoldersAndTheGlobals) {
 // The program of these tests has no pictures to measure with, which the test says when it runs.
 TEST_F(MainWindow, TheSpeedTestRunsAtTheFirstStartAndNeverAgain) {
     DeleteFile(SettingsDir() + INIFileName());
+    mBoxes.WhileNextIsOpen([this] {
+        EXPECT_TRUE(mWindow->isVisible());
+        EXPECT_FALSE(mWindow->close()) << "the start is not over";
+        EXPECT_TRUE(mWindow->isVisible());
+    });
     mBoxes.Expect("Missing Component, Speed Test aborted.", {}, BoxIcon::Plain, BoxAnswer::Ok);
     Start();
     EXPECT_EQ(OpenSettings().GetValue({}, "Timeout", {}), "10");
