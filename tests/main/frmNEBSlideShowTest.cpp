@@ -13,6 +13,7 @@
 #include <QSet>
 #include <QTest>
 
+#include "MeasuredMachine.h"
 #include "db/clsDBEngine.h"
 #include "harness/ScriptedBoxes.h"
 #include "harness/TempFolder.h"
@@ -35,6 +36,7 @@ class MainWindow : public ::testing::Test {
     MainWindow() {
         SetDocumentsPath(mDocuments.Path());
         AppPathCache = mProgram.Path();
+        test::MarkAsMeasured();
         ReadOnlyDB = false;
         DebugMode = false;
     }
@@ -89,18 +91,20 @@ TEST_F(MainWindow, AFirstStartMakesTheFoldersAndTheGlobals) {
     EXPECT_TRUE(FileSystem);
 }
 
+// The program of these tests has no pictures to measure with, which the test says when it runs.
 TEST_F(MainWindow, TheSpeedTestRunsAtTheFirstStartAndNeverAgain) {
-    int Runs = 0;
+    DeleteFile(SettingsDir() + INIFileName());
+    mBoxes.WhileNextIsOpen([this] {
+        EXPECT_TRUE(mWindow->isVisible());
+        EXPECT_FALSE(mWindow->close()) << "the start is not over";
+        EXPECT_TRUE(mWindow->isVisible());
+    });
+    mBoxes.Expect("Missing Component, Speed Test aborted.", {}, BoxIcon::Plain, BoxAnswer::Ok);
     Start();
+    EXPECT_EQ(OpenSettings().GetValue({}, "Timeout", {}), "10");
+    EXPECT_TRUE(FolderExists(DBPath() + "Temp")) << "the start goes on";
     mWindow.reset();
-    const auto Measure = [&Runs] { return ++Runs, SpeedTestResult(); };
-    for (int I = 0; I < 2; ++I) {
-        mWindow = std::make_unique<frmNEBSlideShow>();
-        TheOpeners().SpeedTest = Measure;
-        mWindow->Form_Load({});
-        mWindow.reset();
-    }
-    EXPECT_EQ(Runs, 1);
+    Start();
 }
 
 TEST_F(MainWindow, TheRecordsReachTheDiskAtTheEndAndOnlyThen) {
@@ -129,12 +133,12 @@ TEST_F(MainWindow, AlbumsWithoutTheirCountersAreNotOverwritten) {
 }
 
 TEST_F(MainWindow, SettingsThatCannotBeWrittenDoNotKeepTheProgramFromStarting) {
+    DeleteFile(SettingsDir() + INIFileName());
     SetHostWatcher([](HostStep Step, const QString& Path, qint64&) {
         if (Step == HostStep::Write && Path.contains(u"QLM.ini")) throw Fault("no", Path);
     });
-    mWindow = std::make_unique<frmNEBSlideShow>();
-    TheOpeners().SpeedTest = [] { return SpeedTestResult(); };
-    EXPECT_NO_THROW(mWindow->Form_Load({}));
+    mBoxes.Expect("Missing Component, Speed Test aborted.");
+    EXPECT_NO_THROW(Start());
     EXPECT_TRUE(DBEngine);
 }
 
@@ -199,12 +203,10 @@ TEST_F(MainWindow, AReadOnlyDatabaseRunsNoSpeedTest) {
     Start();
     mWindow->close();
     QFile::setPermissions(DBPath() + "NextIDs.dat", QFileDevice::ReadOwner);
-    mWindow = std::make_unique<frmNEBSlideShow>();
-    TheOpeners().SpeedTest = []() -> SpeedTestResult {
-        ADD_FAILURE();
-        return {};
-    };
-    mWindow->Form_Load({});
+    DeleteFile(SettingsDir() + INIFileName());
+    Start();
+    EXPECT_EQ(mBoxes.ShownCount(), 0);
+    EXPECT_EQ(OpenSettings().GetValue({}, "Timeout", "none"), "none");
 }
 
 TEST_F(MainWindow, TheLogTellsTheStartWhenItIsWanted) {
