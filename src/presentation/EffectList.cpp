@@ -10,6 +10,7 @@ namespace {
 
 constexpr int NumberRole = Qt::UserRole;
 constexpr int LevelRole = Qt::UserRole + 1;
+constexpr int RowGap = 4;  // a row is easy to hit
 constexpr qint64 SearchPauseMs = 1000;
 
 // The check mark is the selection itself, for the eye and for screen readers.
@@ -47,7 +48,7 @@ class EffectDelegate : public QStyledItemDelegate {
     QSize sizeHint(const QStyleOptionViewItem& Option, const QModelIndex& Index) const override {
         const QString Level = Index.data(LevelRole).toString();
         const int Width = Option.fontMetrics.horizontalAdvance(Level) + 3 * Gap(Option);
-        return QStyledItemDelegate::sizeHint(Option, Index) + QSize(Width, 0);
+        return QStyledItemDelegate::sizeHint(Option, Index) + QSize(Width, RowGap);
     }
 
   private:
@@ -183,7 +184,7 @@ void EffectList::mousePressEvent(QMouseEvent* Event) {
     if (Spreads) SelectLike(Before, currentRow());
 }
 
-// Two quick clicks on a check mark turn it over twice.
+// The second of two quick clicks on a check mark turns it over again.
 void EffectList::mouseDoubleClickEvent(QMouseEvent* Event) {
     const QModelIndex Under = indexAt(Event->position().toPoint());
     if (!Under.isValid() || Event->button() != Qt::LeftButton) return;

@@ -1,6 +1,5 @@
 #include "presentation/PreferencesState.h"
 
-#include <QLocale>
 #include <cmath>
 
 #include "presentation/ShowSettings.h"
@@ -17,7 +16,7 @@ constexpr int LastEffect = EffectPlaces;
 // The whole text as a number; a decimal point in every country, as in the settings file.
 std::optional<double> NumberIn(const QString& Text) {
     bool IsNumber = false;
-    const double Value = QLocale::c().toDouble(Text.trimmed(), &IsNumber);
+    const double Value = Text.trimmed().toDouble(&IsNumber);
     if (!IsNumber || !std::isfinite(Value)) return std::nullopt;
     return Value;
 }

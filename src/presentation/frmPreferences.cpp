@@ -121,6 +121,7 @@ void frmPreferences::LoadAlbums() {
     mState.AlbumName.clear();
     ComboBoxList Albums(*mUi->cboAlbums);
     if (DBEngine) DBEngine->LoadAlbumsCombo(Albums, false);
+    SayWhatToDo();
     SelectOrNothing(Albums, mState.AlbumID);
     if (Albums.ListIndex() < 0) return;
     mState.AlbumName = Albums.List(Albums.ListIndex());
@@ -137,6 +138,18 @@ void frmPreferences::LoadSlideShows() {
     if (DBEngine && Albums.ListIndex() >= 0)
         DBEngine->LoadSlideShowsCombo(SlideShows, Albums.ItemData(Albums.ListIndex()));
     SlideShows.SetListIndex(-1);
+    SayWhatToDo();
+}
+
+// What stands in a box in which nothing is chosen.
+void frmPreferences::SayWhatToDo() {
+    const bool HasAlbums = mUi->cboAlbums->count() > 0;
+    mUi->cboAlbums->setPlaceholderText(HasAlbums ? tr("Choose an album")
+                                                 : tr("There is no album yet"));
+    mUi->cboSlideShows->setPlaceholderText(
+        mUi->cboSlideShows->count() > 0       ? tr("Choose a slide show")
+        : mUi->cboAlbums->currentIndex() >= 0 ? tr("No slide show in this album")
+                                              : QString());
 }
 
 void frmPreferences::cboAlbums_Click() {

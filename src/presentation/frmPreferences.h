@@ -41,6 +41,7 @@ class frmPreferences : public Form {
     void PrepareView();
     void LoadAlbums();
     void LoadSlideShows();
+    void SayWhatToDo();
     void LoadFields();
     void LoadEffectsList();
     void LoadSpeeds();
