@@ -35,12 +35,8 @@ class EffectDelegate : public QStyledItemDelegate {
     void paint(QPainter* Painter, const QStyleOptionViewItem& Option,
                const QModelIndex& Index) const override {
         QStyledItemDelegate::paint(Painter, Option, Index);
-        const bool Current = Index == mList->currentIndex();
-        const auto Group =
-            Option.state & QStyle::State_Active ? QPalette::Active : QPalette::Inactive;
         Painter->save();
-        Painter->setPen(Option.palette.color(
-            Group, Current ? QPalette::HighlightedText : QPalette::PlaceholderText));
+        Painter->setPen(LevelColour(Option, Index == mList->currentIndex()));
         Painter->drawText(Option.rect.adjusted(0, 0, -Gap(Option), 0),
                           Qt::AlignRight | Qt::AlignVCenter, Index.data(LevelRole).toString());
         Painter->restore();
@@ -52,6 +48,14 @@ class EffectDelegate : public QStyledItemDelegate {
     }
 
   private:
+    // A paler text; not every palette has one that can be read on a dark ground.
+    static QColor LevelColour(const QStyleOptionViewItem& Option, bool Current) {
+        const bool Active = Option.state & QStyle::State_Active;
+        QColor Colour = Option.palette.color(Active ? QPalette::Active : QPalette::Inactive,
+                                             Current ? QPalette::HighlightedText : QPalette::Text);
+        if (!Current) Colour.setAlphaF(0.55F);
+        return Colour;
+    }
     static int Gap(const QStyleOptionViewItem& Option) {
         return Option.fontMetrics.averageCharWidth();
     }

@@ -20,6 +20,8 @@ namespace {
 // A level's row in the grid is the level less one: the headings are no row of their own.
 enum Column { ColLevel, ColStep, ColDelay, ColCount };
 
+constexpr QSize RoomForFrame(16, 40);  // what a desktop puts round a window
+
 // The window comes back as large as it was left, for as long as the program runs.
 QSize& LastSize() {
     static QSize Size;
@@ -78,7 +80,7 @@ void frmPreferences::ConnectControls() {
 }
 
 void frmPreferences::Form_Load() {
-    const QSize Room = screen()->availableSize();
+    const QSize Room = screen()->availableSize() - RoomForFrame;
     resize((LastSize().isValid() ? LastSize() : size()).boundedTo(Room));
     PrepareView();
     mState = ReadPreferences(OpenSettings());
