@@ -21,6 +21,10 @@ class EffectItem : public QListWidgetItem {
         if (Role != Qt::CheckStateRole) return QListWidgetItem::data(Role);
         return static_cast<int>(listWidget() && isSelected() ? Qt::Checked : Qt::Unchecked);
     }
+    void setData(int Role, const QVariant& Value) override {
+        if (Role != Qt::CheckStateRole) return QListWidgetItem::setData(Role, Value);
+        setSelected(Value.toInt() == Qt::Checked);
+    }
 };
 
 // Marks the current entry; the selected ones have their check marks.
@@ -40,6 +44,11 @@ class EffectDelegate : public QStyledItemDelegate {
         Painter->drawText(Option.rect.adjusted(0, 0, -Gap(Option), 0),
                           Qt::AlignRight | Qt::AlignVCenter, Index.data(LevelRole).toString());
         Painter->restore();
+    }
+    // The list itself turns the check marks over.
+    bool editorEvent(QEvent*, QAbstractItemModel*, const QStyleOptionViewItem&,
+                     const QModelIndex&) override {
+        return false;
     }
     QSize sizeHint(const QStyleOptionViewItem& Option, const QModelIndex& Index) const override {
         const QString Level = Index.data(LevelRole).toString();
@@ -91,7 +100,7 @@ EffectList::EffectList(QWidget* Parent) : QListWidget(Parent) {
 
 void EffectList::AddEffect(const QString& Name, int Number, const QString& Level) {
     auto* Item = new EffectItem(Name, this);
-    Item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
+    Item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
     Item->setData(NumberRole, Number);
     Item->setData(LevelRole, Level);
     Item->setData(Qt::AccessibleDescriptionRole, Level);

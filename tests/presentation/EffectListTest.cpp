@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -115,6 +116,17 @@ TEST_F(EffectListTest, ADoubleClickOnACheckMarkTurnsItTwice) {
     QTest::mouseDClick(List.viewport(), Qt::LeftButton, {}, OnMark(3));  // the second click alone
     EXPECT_EQ("......", Selected());
     EXPECT_EQ(0, Reported.size());
+}
+
+TEST_F(EffectListTest, IsAListOfCheckMarksToAScreenReader) {
+    QAccessibleInterface* Reader = QAccessible::queryAccessibleInterface(&List);
+    List.item(1)->setSelected(true);
+    EXPECT_EQ("Wipe Right", Reader->child(1)->text(QAccessible::Name));
+    EXPECT_TRUE(Reader->child(1)->state().checkable);
+    EXPECT_TRUE(Reader->child(1)->state().checked);
+    EXPECT_FALSE(Reader->child(2)->state().checked);
+    List.item(2)->setCheckState(Qt::Checked);
+    EXPECT_EQ(".xx...", Selected());
 }
 
 TEST_F(EffectListTest, SpaceTurnsTheCurrentOneAndArrowsOnlyMove) {

@@ -152,6 +152,16 @@ TEST_F(PreferencesPreview, RunsByTheKeyboardFromATypedName) {
     });
 }
 
+TEST_F(PreferencesPreview, LeavesTheKeyboardWhereItWas) {
+    Open([&] {
+        List().setFocus();
+        GoTo(3);
+        Press("cmdPreview");
+        EXPECT_TRUE(List().hasFocus());
+        EXPECT_TRUE(In<QPushButton>("cmdApply").isDefault());
+    });
+}
+
 TEST_F(PreferencesPreview, OfADamagedPictureSaysWhichFile) {
     const QString Damaged = AppPathCache + QStringLiteral("SpeedTest1.bmp");
     WriteFile(Damaged, "no picture");
