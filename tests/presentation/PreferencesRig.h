@@ -57,7 +57,7 @@ class PreferencesRig : public ProjectorRig {
     // Opens the window; Do is a user in it. Returns when it has closed.
     void Open(const std::function<void()>& Do) {
         Window = NewForm<frmPreferences>();
-        WhenPreferencesOpen([this, Do](frmPreferences&) { Do(); });
+        WhenPreferencesOpen([Do](frmPreferences&) { Do(); });
         Window->LoadPreferences();
     }
     bool IsOpen() const { return Window->IsLoaded(); }
