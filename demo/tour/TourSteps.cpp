@@ -1,5 +1,6 @@
 #include "TourSteps.h"
 
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -14,6 +15,8 @@
 #include "platform/FlexGrid.h"
 #include "platform/ToolBar.h"
 #include "platform/XShow.h"
+#include "presentation/EffectList.h"
+#include "presentation/frmPreferences.h"
 #include "presentation/frmSlideShowProjector.h"
 #include "presentation/frmSpeedTest.h"
 #include "shell/main/frmNEBSlideShow.h"
@@ -178,6 +181,44 @@ void AddShowSteps(Tour& Guide) {
                [] { QTest::keyClick(Open<frmSlideShowProjector>(), Qt::Key_Escape); }, false});
 }
 
+EffectList* Effects() {
+    return Find<EffectList, frmPreferences>("lstEffects");
+}
+
+XShow* PreviewView() {
+    return Find<XShow, frmPreferences>("XShow1");
+}
+
+void ChooseTheShow() {
+    Find<QComboBox, frmPreferences>("cboAlbums")->setCurrentIndex(0);
+    Find<QComboBox, frmPreferences>("cboSlideShows")->setCurrentIndex(0);
+    Effects()->setFocus();
+    QTest::keyClicks(Effects(), Effects()->item(13)->text());
+}
+
+// The active show, an effect found by its name and seen, and all of it kept.
+void AddPreferencesSteps(Tour& Guide, frmNEBSlideShow& Window) {
+    const auto ShowIsOver = [] { return !Open<frmSlideShowProjector>() && !Open<frmQuickShow>(); };
+    Guide.Add({"open-preferences", ShowIsOver,
+               [&] { QTest::keyClick(&Window, Qt::Key_R, Qt::ControlModifier); }, false});
+    Guide.Add({"choose-the-show", IsOpen<frmPreferences>(), &ChooseTheShow, false});
+    Guide.Add({"preferences", {}, Press<frmPreferences>("cmdPreview")});
+    Guide.Add({"preview-begins", [] { return PreviewView()->IsRunning(); },
+               [] {
+                   Shown = 0;
+                   QObject::connect(PreviewView(), &XShow::EffectStepped,
+                                    [](double Now) { Shown = Now; });
+               },
+               false, true});
+    Guide.Add({"preferences-preview",
+               [] { return !PreviewView()->IsRunning() || Shown > 0.4; },
+               {},
+               true,
+               true});
+    Guide.Add({"apply-preferences", [] { return !PreviewView()->IsRunning(); },
+               Press<frmPreferences>("cmdApply"), false});
+}
+
 }  // namespace
 
 void AddSteps(Tour& Guide, frmNEBSlideShow& Window, const QString& Folder,
@@ -187,6 +228,6 @@ void AddSteps(Tour& Guide, frmNEBSlideShow& Window, const QString& Folder,
     AddDirectorySteps(Guide, Folder);
     AddSelectionSteps(Guide, ShowName);
     AddShowSteps(Guide);
-    Guide.Add({"end", [] { return !Open<frmSlideShowProjector>() && !Open<frmQuickShow>(); },
-               [&] { Window.close(); }, false});
+    AddPreferencesSteps(Guide, Window);
+    Guide.Add({"end", [] { return !Open<frmPreferences>(); }, [&] { Window.close(); }, false});
 }

@@ -11,7 +11,6 @@
 #include "presentation/ShowSettings.h"
 #include "presentation/frmPopup.h"
 #include "presentation/modSlideShows.h"
-#include "shell/Openers.h"
 #include "shell/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/modTwips.h"

@@ -14,9 +14,6 @@ class Form;
 struct Openers {
     // The slide show manager for an album (SlideShowID 0: none chosen).
     std::function<void(std::int32_t AlbumID, std::int32_t SlideShowID)> SlideShowMgr;
-    // Preferences, modal; answers with the slide timeout in seconds that is then in force.
-    std::function<double(std::int32_t AlbumID, std::int32_t SlideShowID, double SlideTimeout)>
-        Preferences;
     // Puts a window as a child into the main window's frame, placed in the cascade.
     std::function<void(Form& Window)> ShowAsChild;
 };

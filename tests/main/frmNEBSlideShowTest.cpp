@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 #include <QAction>
+#include <QComboBox>
 #include <QDir>
 #include <QFile>
 #include <QMdiArea>
@@ -21,6 +22,8 @@
 #include "intake/clsImageBuffer.h"
 #include "intake/frmQuickShow.h"
 #include "platform/FlexGrid.h"
+#include "presentation/frmPreferences.h"
+#include "presentation/frmSlideShowProjector.h"
 #include "shell/Openers.h"
 #include "shell/main/frmAbout.h"
 #include "shell/main/frmHelp.h"
@@ -58,6 +61,16 @@ class MainWindow : public ::testing::Test {
     void Press(const char* Name) {
         Entry(Name)->trigger();
         DoEvents();
+    }
+    // Calls Do with the Preferences window once it stands open, and unloads it.
+    static void WhenPreferencesOpen(std::function<void(frmPreferences&)> Do) {
+        QTimer::singleShot(0, qApp, [Do = std::move(Do)] {
+            auto* Window = Find<frmPreferences>();
+            if (!Window || !Window->isVisible()) return WhenPreferencesOpen(Do);
+            const auto Held = Window->shared_from_this();
+            Do(*Window);
+            Window->Unload();
+        });
     }
     template <class Window>
     static Window* Find() {
@@ -388,10 +401,43 @@ TEST_F(MainWindow, PlayingWithoutAnActiveShowSaysSo) {
     mBoxes.Expect("You must first select an Active Slide Show in Preferences!",
                   "No Active Slide Show", BoxIcon::Information, BoxAnswer::Ok);
     int Opened = 0;
-    TheOpeners().Preferences = [&](std::int32_t, std::int32_t, double Timeout) {
-        return ++Opened, Timeout;
-    };
+    WhenPreferencesOpen([&](frmPreferences&) { ++Opened; });
     Press("mnuSlideShowViewer");
+    EXPECT_EQ(Opened, 1);
+    EXPECT_FALSE(Find<frmSlideShowProjector>());
+}
+
+TEST_F(MainWindow, PlayingGoesOnWithTheShowThatIsThenChosenInPreferences) {
+    Start();
+    std::int32_t AlbumID = 0, ShowID = 0;
+    ASSERT_TRUE(DBEngine->SaveAlbum(AlbumID, "Holiday"));
+    DBEngine->GetAlbum(AlbumID)->SaveSlideShow(ShowID, "Lake", 0, *DBEngine);
+    mBoxes.Expect("You must first select an Active Slide Show in Preferences!",
+                  "No Active Slide Show", BoxIcon::Information, BoxAnswer::Ok);
+    WhenPreferencesOpen([&](frmPreferences& Window) {
+        Window.findChild<QComboBox*>("cboAlbums")->setCurrentText("Holiday");
+        Window.findChild<QComboBox*>("cboSlideShows")->setCurrentText("Lake");
+        QTest::mouseClick(Window.findChild<QPushButton*>("cmdApply"), Qt::LeftButton);
+    });
+    int Shown = 0;
+    mBoxes.WhileNextIsOpen([&] {
+        ++Shown;
+        QTimer::singleShot(0, qApp, [] { Find<frmSlideShowProjector>()->Unload(); });
+    });
+    mBoxes.Expect("Slide #1 of the current slide show does not exist!");
+    Press("mnuSlideShowViewer");
+    EXPECT_EQ(Shown, 1);
+}
+
+TEST_F(MainWindow, PreferencesOpenFromTheMenu) {
+    Start();
+    int Opened = 0;
+    WhenPreferencesOpen([&](frmPreferences& Window) {
+        ++Opened;
+        EXPECT_TRUE(Window.isModal());
+    });
+    EXPECT_TRUE(Entry("mnuSlideShowPrefs")->isEnabled());
+    Press("mnuSlideShowPrefs");
     EXPECT_EQ(Opened, 1);
 }
 
