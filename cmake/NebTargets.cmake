@@ -33,11 +33,15 @@ function(neb_layer)
 endfunction()
 
 # neb_test(NAME support DIR tests/support DEPENDS neb_support)
-# All sources of one folder of tests as one program; every test in it is a test of ctest.
+# All sources of one folder of tests, or the FILES of it alone, as one program; every test in it is
+# a test of ctest.
 function(neb_test)
-  cmake_parse_arguments(T "" "NAME;DIR" "DEPENDS" ${ARGN})
+  cmake_parse_arguments(T "" "NAME;DIR" "DEPENDS;FILES" ${ARGN})
   set(dir ${PROJECT_SOURCE_DIR}/${T_DIR})
   file(GLOB sources CONFIGURE_DEPENDS ${dir}/*.cpp ${dir}/*.h)
+  if(T_FILES)
+    list(TRANSFORM T_FILES PREPEND ${dir}/ OUTPUT_VARIABLE sources)
+  endif()
   if(NOT sources)
     return()
   endif()

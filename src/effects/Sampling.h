@@ -4,7 +4,7 @@
 
 #include "effects/Pixels.h"
 
-#ifdef __SSE2__
+#if defined(__SSE2__) && !defined(NEB_NARROW)
 #include <emmintrin.h>
 #endif
 
@@ -15,7 +15,7 @@ inline QRgb MixPair(const QRgb* P, int Weight);
 // The same of four pixels that form a square; Low: the weight of the lower row.
 inline QRgb MixSquare(const QRgb* Top, qsizetype Stride, int Right, int Low);
 
-#ifdef __SSE2__
+#if defined(__SSE2__) && !defined(NEB_NARROW)
 inline __m128i LoadPair(const QRgb* P) {
     return _mm_unpacklo_epi8(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(P)),
                              _mm_setzero_si128());
