@@ -21,14 +21,14 @@ const Golden kGolden[] = {
     {1, 0xb4899d9d3df322feu},   {2, 0x206684acb3e446aau},   {4, 0x294455086adeb9acu},
     {6, 0x2f2d2473a8febef7u},   {7, 0x8f49f77101a1a91fu},   {8, 0xf1532d3a07ee5bbeu},
     {10, 0xfc6ec870252773edu},  {11, 0x52a11513b42869a5u},  {12, 0x3e9b03da7400230fu},
-    {13, 0x6a36ce0b42496adcu},  {14, 0x1e9f7ff06771ace3u},  {15, 0x5f2281219d810ccdu},
-    {16, 0xb4d9563e7b62eb82u},  {19, 0x667bb2078c8a35a3u},  {20, 0x885a2d313399b6bau},
-    {26, 0x8d8820f03dcb7370u},  {34, 0x63e5edc90e8e459au},  {42, 0x9185e10e8c2e68f2u},
+    {13, 0x6a36ce0b42496adcu},  {14, 0x7c07014998dd444fu},  {15, 0x5f2281219d810ccdu},
+    {16, 0xb4d9563e7b62eb82u},  {19, 0x667bb2078c8a35a3u},  {20, 0xb793dc1399917759u},
+    {26, 0x8d8820f03dcb7370u},  {34, 0x63e5edc90e8e459au},  {42, 0x37385dfd6e98dfeau},
     {44, 0xc990c2c323a16b85u},  {46, 0x7b966cf977c5e8f1u},  {54, 0x3982f93648f18e70u},
     {56, 0x87dd93c20b07d667u},  {62, 0xdfd4ea84a2862e34u},  {66, 0xc5603c0572d5b1acu},
     {70, 0x77960ef1134ae933u},  {85, 0x7018119c49842177u},  {91, 0xbd78788dd47d8fdbu},
     {100, 0x41991a823be0c729u}, {106, 0x77358617a577d052u}, {112, 0xcf156fb59c06100au},
-    {118, 0x6dfeb64402ac07d2u}, {121, 0x46d9760454452cacu}, {124, 0x1b4facf6a17fe993u},
+    {118, 0x652c76c95fe17789u}, {121, 0x09fd6c13a2364dc9u}, {124, 0xfd30e46a79d00940u},
 };
 
 std::uint64_t SumOf(int Number) {
