@@ -4,7 +4,7 @@
 
 #include "effects/Pixels.h"
 
-#if defined(__SSE2__) && !defined(NEB_NARROW)
+#ifdef __SSE2__
 #include <emmintrin.h>
 #endif
 
@@ -16,7 +16,7 @@ inline QRgb MixPair(const QRgb* P, int Weight);
 // lower row, both 0..128: so much fits the lanes of 16 bits of the quickest multiplications.
 inline QRgb MixSquare(const QRgb* Top, qsizetype Stride, int Right, int Low);
 
-#if defined(__SSE2__) && !defined(NEB_NARROW)
+#ifdef __SSE2__
 inline __m128i LoadPair(const QRgb* P) {
     return _mm_unpacklo_epi8(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(P)),
                              _mm_setzero_si128());
