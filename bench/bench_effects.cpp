@@ -1,5 +1,6 @@
-// The time of a frame of each transition at 1920x1080 on one thread, as a multiple of copying one
-// frame in memory, over twenty frames spread evenly over the way. Prints the table and its sums.
+// The processor time of a frame of each transition at 1920x1080 on one thread, as a multiple of
+// copying one frame in memory, over twenty frames spread evenly over the way. Prints the table and
+// its sums.
 //   bench_effects [NUMBER ...]   only these
 // The caches are emptied before each frame and before each copy, for in a show every frame goes on
 // to the screen and comes from new pictures. The column "warm" has the same of frames and copies
@@ -12,6 +13,8 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <ctime>
+#include <thread>
 #include <vector>
 
 #include "effects/EffectCatalogue.h"
@@ -48,6 +51,14 @@ QImage Scene(std::uint32_t Seed) {
     return P;
 }
 
+// Of this process: on one thread the time that goes by, less what other programs take of it.
+template <typename Work>
+double ProcessorMilliseconds(Work&& Do) {
+    const std::clock_t Start = std::clock();
+    Do();
+    return static_cast<double>(std::clock() - Start) * 1000 / CLOCKS_PER_SEC;
+}
+
 template <typename Work>
 double Milliseconds(Work&& Do) {
     QElapsedTimer Timer;
@@ -71,7 +82,7 @@ void EmptyCaches() {
 template <typename Work>
 double Cold(Work&& Do) {
     EmptyCaches();
-    return Milliseconds(Do);
+    return ProcessorMilliseconds(Do);
 }
 
 struct CopyTimes {
@@ -84,7 +95,7 @@ CopyTimes TimeCopies(const QImage& From, QImage& To) {
     };
     std::vector<double> ColdTimes, WarmTimes;
     for (int I = 0; I < 9; ++I) ColdTimes.push_back(Cold(Copy));
-    for (int I = 0; I < 9; ++I) WarmTimes.push_back(Milliseconds(Copy));
+    for (int I = 0; I < 9; ++I) WarmTimes.push_back(ProcessorMilliseconds(Copy));
     return {Median(ColdTimes), Median(WarmTimes)};
 }
 
@@ -92,7 +103,8 @@ CopyTimes TimeCopies(const QImage& From, QImage& To) {
 Timing Measure(int Number, const QImage& Old, const QImage& New, QImage& Out) {
     Timing T{Number, 0, 0, 0, 0, 0};
     std::unique_ptr<Transition> Made;
-    T.Prepare = Milliseconds([&] { Made = std::make_unique<Transition>(Number, Old, New); });
+    T.Prepare =
+        ProcessorMilliseconds([&] { Made = std::make_unique<Transition>(Number, Old, New); });
     Made->Draw(0.5, Out);
     const CopyTimes Copy = TimeCopies(Old, Out);
     const int Before = neb::effectstest::AllocationsOfThisThread();
@@ -101,7 +113,7 @@ Timing Measure(int Number, const QImage& Old, const QImage& New, QImage& Out) {
         const double Copies = std::min(Cold(Frame), Cold(Frame)) / Copy.Cold;
         T.Mean += Copies / kFrames;
         T.Worst = std::max(T.Worst, Copies);
-        T.Warm += Milliseconds(Frame) / Copy.Warm / kFrames;
+        T.Warm += ProcessorMilliseconds(Frame) / Copy.Warm / kFrames;
     }
     T.Taken = neb::effectstest::AllocationsOfThisThread() - Before;
     return T;
@@ -125,10 +137,26 @@ double ThreadFactor(int Number, const QImage& Old, const QImage& New, QImage& Ou
     return One / Many;
 }
 
+// The same of plain arithmetic: what the machine has to give beside all else that runs on it.
+double PossibleFactor() {
+    const auto Reckon = [] {
+        volatile double Sum = 1;
+        for (int I = 0; I < 30000000; ++I) Sum = Sum * 0.999 + 1;
+    };
+    const double One = Milliseconds([&] { Reckon(), Reckon(); });
+    const double Two = Milliseconds([&] {
+        std::thread Other(Reckon);
+        Reckon();
+        Other.join();
+    });
+    return One / Two;
+}
+
 void PrintThreads(std::vector<Timing> All, const QImage& Old, const QImage& New, QImage& Out) {
     std::sort(All.begin(), All.end(),
               [](const Timing& A, const Timing& B) { return A.Mean > B.Mean; });
     All.resize(std::min(All.size(), kThreaded));
+    std::printf("two threads that only reckon are %.2f times as fast as one\n", PossibleFactor());
     for (const Timing& T : All)
         std::printf("%4d %-28s on %d threads %.2f times as fast as on one\n", T.Number,
                     qPrintable(EffectName(T.Number)), QThread::idealThreadCount(),
