@@ -111,7 +111,7 @@ const std::vector<EffectRow> kRows = {
     {64, u"Doors Close"_s, DoorsClose(true)},
     {65, u"Growing Dots"_s, Wipe(Halftone, {.Count = 30})},
     {66, u"Burn Away"_s, Burn(6)},
-    {67, u"Rain Drops"_s, Wipe(Drops, {.Count = 40, .SoftBits = 11})},
+    {67, u"Rain Drops"_s, Wipe(RainDrops, {.Count = 40, .SoftBits = 11})},
     {68, u"Fade Through White"_s, FadeThrough(0xFFFFFFFFu)},
     {69, u"Slats Turn"_s, SlatsTurn({.Upright = false})},
     {70, u"Split Horizontal Out"_s, Wipe(Centre, kDown)},
