@@ -39,8 +39,14 @@ const Golden kGolden[] = {
     {13, 0x6a36ce0b42496adcu},  {14, 0x572e815415b259cau},  {15, 0x5f2281219d810ccdu},
     {16, 0xb4d9563e7b62eb82u},  {19, 0x667bb2078c8a35a3u},  {20, 0x4c8d0d8612ff4a1fu},
     {26, 0x8d8820f03dcb7370u},  {34, 0x63e5edc90e8e459au},  {42, 0xda167ba3be65f650u},
+    {1, 0xfdaf5dfcf2004426u},   {2, 0x206684acb3e446aau},   {4, 0x294455086adeb9acu},
+    {6, 0x2f2d2473a8febef7u},   {7, 0x8f49f77101a1a91fu},   {8, 0xbd23b235fb517f8fu},
+    {10, 0xfc6ec870252773edu},  {11, 0x52a11513b42869a5u},  {12, 0x3e9b03da7400230fu},
+    {13, 0x6a36ce0b42496adcu},  {14, 0x1e9f7ff06771ace3u},  {15, 0x5f2281219d810ccdu},
+    {16, 0xf3a3082716601fb0u},  {19, 0x667bb2078c8a35a3u},  {20, 0x885a2d313399b6bau},
+    {26, 0x8d8820f03dcb7370u},  {34, 0x63e5edc90e8e459au},  {42, 0x9185e10e8c2e68f2u},
     {44, 0xc990c2c323a16b85u},  {46, 0x7b966cf977c5e8f1u},  {54, 0x3982f93648f18e70u},
-    {56, 0x87dd93c20b07d667u},  {62, 0xdfd4ea84a2862e34u},  {66, 0xc5603c0572d5b1acu},
+    {56, 0x4bcf3adc428ec615u},  {62, 0xdfd4ea84a2862e34u},  {66, 0x3f7c39b9fa7344fdu},
     {70, 0x77960ef1134ae933u},  {85, 0x7018119c49842177u},  {91, 0xbd78788dd47d8fdbu},
     {100, 0x41991a823be0c729u}, {106, 0xbc9cc1e9a805fe66u}, {112, 0xcf156fb59c06100au},
     {118, 0x652c76c95fe17789u}, {121, 0x09fd6c13a2364dc9u}, {124, 0x966ff6f1cf3abbf5u},
@@ -60,6 +66,12 @@ const Golden kGolden[] = {
     {104, 0x185c233177b95b35u},
     {81, 0xd42f4be346f5bedfu},
     {86, 0x669ada02dd3b5c49u},
+    {100, 0x9b534cbc52ecf7d0u}, {106, 0x77358617a577d052u}, {112, 0xcf156fb59c06100au},
+    {118, 0x6dfeb64402ac07d2u}, {121, 0x46d9760454452cacu}, {124, 0x1b4facf6a17fe993u},
+    {68, 0x8d9b72ff7679383cu},  {93, 0x72d6d09a0243d8fau},  {96, 0xfc252aa2dc000f4eu},
+    {99, 0x5b0f699da472e928u},  {101, 0x7f76c315f6b6a54au}, {102, 0x1177666e3356ae4eu},
+    {105, 0xd459ae6f602c116bu}, {107, 0x9767a6c22556bfbbu}, {115, 0x4f6b0b5c79b6d4c2u},
+    {127, 0x13ad866adef7e123u},
 };
 
 std::uint64_t SumOf(int Number) {
