@@ -16,7 +16,8 @@ struct Run {
     bool Still;    // the picture as it is, pixel for pixel
 };
 
-constexpr int kMostColumns = 256;  // of a run
+// Of a run, and of a block of runs.
+constexpr int kMostColumns = 128, kMostRows = 32;
 
 // A stretch of a row: of it the middle part is wholly covered by the panel.
 struct Stretch {
@@ -111,12 +112,14 @@ class PerspectiveEngine : public Engine {
             ++Last->X1;
     }
 
-    // Run by run, so that what a row reads is still at hand when the next one comes to it.
+    // In blocks, so that what a row reads is still at hand when the next one comes to it.
     void DrawUpright(const Frame& F, const PanelScene& S, const ViewLine* Lines, int Y0,
                      int Y1) const {
         const Columns C = FindColumns(Lines, F);
-        for (int R = 0; R < C.Count; ++R)
-            for (int Y = Y0; Y < Y1; ++Y) DrawRun(F, S, C, C.Runs[R], Y);
+        for (int Top = Y0; Top < Y1; Top += kMostRows)
+            for (int R = 0; R < C.Count; ++R)
+                for (int Y = Top; Y < std::min(Y1, Top + kMostRows); ++Y)
+                    DrawRun(F, S, C, C.Runs[R], Y);
     }
 
     void DrawRun(const Frame& F, const PanelScene& S, const Columns& C, const Run& R, int Y) const {
