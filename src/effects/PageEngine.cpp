@@ -60,6 +60,12 @@ struct Bend {
     int Light;  // of its back, 0..256
 };
 
+// The same of one frame: how far a pixel there reads from its own place, and how much of the sheet
+// there is, of its back and of its front.
+struct Fold {
+    int U, V, Seen;
+};
+
 // What the pixels of one part of the sheet show.
 struct Part {
     enum Which { Back, Front, Flap };
@@ -95,6 +101,8 @@ class PageEngine : public Engine {
 
     void Draw(const Frame& F, int Y0, int Y1) const override {
         const Sheet S = SheetOf(Ease(F.Progress));
+        FillFolds(S, true);
+        FillFolds(S, false);
         Kept Rows, None;
         for (int Y = Y0; Y < Y1; ++Y) {
             const std::int64_t D = DistanceAt(Y);
@@ -173,9 +181,7 @@ class PageEngine : public Engine {
     static int SeenAt(const Frame& F, const Sheet& S, std::int64_t Along, int U, int V) {
         const std::int64_t Inside =
             std::clamp<std::int64_t>((S.End - Along + One / 2) >> 8, 0, 256);
-        const int Sides =
-            std::min(Coverage(U + One / 2, F.Width << 16), Coverage(V + One / 2, F.Height << 16));
-        return static_cast<int>(Inside) * Sides >> 8;
+        return static_cast<int>(Inside) * SidesAt(F, U, V) >> 8;
     }
 
     struct Place {
@@ -235,8 +241,10 @@ class PageEngine : public Engine {
 
     static Span NotHidden(const Part& Back, const Line& L, const Sheet& S, Span X) {
         Span Out{X.B, X.A};
-        for (int I = X.A; I < X.B; ++I)
-            if (Back.Seen[I] < RimAt(S, L.At(I) - S.Axis)) Out = {std::min(Out.A, I), I + 1};
+        for (int I = X.A; I < X.B; ++I) {
+            const bool Rim = S.Radius - (L.At(I) - S.Axis) < 2 * One;
+            if (Back.Seen[I] < (Rim ? 1 : 256)) Out = {std::min(Out.A, I), I + 1};
+        }
         return Out;
     }
 
@@ -253,26 +261,46 @@ class PageEngine : public Engine {
         if (X.A >= X.B) return;
         if (Again) return std::fill(P.V + X.A, P.V + X.B, L.Y << 16);
         const int End = L.Nx == 0 ? X.A + 1 : X.B;
-        for (int I = X.A; I < End; ++I) PutPlace(P, L, S, I, Back);
+        const Fold* F = Folds(Back);
+        for (int I = X.A; I < End; ++I) {
+            const auto Bend = static_cast<std::size_t>((L.At(I) - S.Axis) / kBendStep);
+            PutPlace(P, L, I, Bend, F[Bend]);
+        }
         if (End == X.B) return;
         StepSpan(P.U + X.A, X.A << 16, One, X.B - X.A);
         for (int* Same : {P.V, P.Seen, P.Light}) std::fill(Same + End, Same + X.B, Same[X.A]);
     }
 
-    // The curl's own soft edge.
-    static int RimAt(const Sheet& S, std::int64_t Off) {
-        return static_cast<int>(std::min<std::int64_t>(256, (S.Radius - Off) >> 8));
+    Fold* Folds(bool Back) const {
+        const int Count = static_cast<int>(mBends.size());
+        return Scratch<Fold, PageEngine>(2 * Count) + (Back ? Count : 0);
     }
 
-    void PutPlace(const Part& P, const Line& L, const Sheet& S, int I, bool Back) const {
-        const std::int64_t D = L.At(I), Off = D - S.Axis;
-        const Bend& B = mBends[static_cast<std::size_t>(Off / kBendStep)];
-        const std::int64_t Move = (Back ? S.HalfTurn - B.Arc : B.Arc) - Off;
-        const Place At = PlaceAt(L, I, Move);
-        P.U[I] = At.U;
-        P.V[I] = At.V;
-        P.Seen[I] = SeenAt(L.F, S, D + Move, At.U, At.V) * RimAt(S, Off) >> 8;
-        P.Light[I] = B.Light;
+    void FillFolds(const Sheet& S, bool Back) const {
+        Fold* Out = Folds(Back);
+        for (std::size_t I = 0; I < mBends.size(); ++I) {
+            const std::int64_t Off = static_cast<std::int64_t>(I) * kBendStep + kBendStep / 2;
+            const std::int64_t Arc = mBends[I].Arc, Along = Back ? S.HalfTurn - Arc : Arc;
+            const std::int64_t Inside = (S.End - S.Axis - Along + One / 2) >> 8;
+            const int Rim =
+                static_cast<int>(std::clamp<std::int64_t>((S.Radius - Off) >> 8, 0, 256));
+            Out[I] = {static_cast<int>(((Along - Off) * mNx) >> 16),
+                      static_cast<int>(((Along - Off) * mNy) >> 16),
+                      static_cast<int>(std::clamp<std::int64_t>(Inside, 0, 256)) * Rim >> 8};
+        }
+    }
+
+    static int SidesAt(const Frame& F, int U, int V) {
+        return std::min(Coverage(U + One / 2, F.Width << 16),
+                        Coverage(V + One / 2, F.Height << 16));
+    }
+
+    void PutPlace(const Part& P, const Line& L, int I, std::size_t Bend, const Fold& At) const {
+        const bool Other = L.Nx != mNx || L.Ny != mNy;
+        P.U[I] = (I << 16) + (Other ? -At.U : At.U);
+        P.V[I] = (L.Y << 16) + (Other ? -At.V : At.V);
+        P.Seen[I] = At.Seen == 0 ? 0 : At.Seen * SidesAt(L.F, P.U[I], P.V[I]) >> 8;
+        P.Light[I] = mBends[Bend].Light;
     }
 
     QSize mSize;
