@@ -185,15 +185,20 @@ class PerspectiveEngine : public Engine {
     // Below the panel its mirror image, fainter the further down.
     static void PutReflection(QRgb* Out, const Columns& C, const Run& R, const Stretch& S,
                               int Height, int Y) {
-        const int Bottom = (2 * Height - 1) << 16;
+        const auto PlaceAt = [&](int X) {
+            return ((2 * Height - 1) << 16) - C.Start[X] - Y * C.Zoom[X];
+        };
+        const auto DarknessAt = [&](int V) {
+            const int Depth = (((Height - 1) << 16) - V) / Height;
+            return Clamp(170 + R.Shade / 3 + (Depth >> 7), 0, 256);
+        };
         const auto Put = [&](int A, int B) {
+            while (A < B && DarknessAt(PlaceAt(A)) == 256) ++A;
+            while (A < B && DarknessAt(PlaceAt(B - 1)) == 256) --B;
             if (A >= B) return;
-            for (int X = A; X < B; ++X) C.V[X - A] = Bottom - C.Start[X] - Y * C.Zoom[X];
+            for (int X = A; X < B; ++X) C.V[X - A] = PlaceAt(X);
             SamplePlaces(Out + A, *R.Source, C.U + A, C.V, B - A);
-            for (int X = A; X < B; ++X) {
-                const int Depth = (((Height - 1) << 16) - C.V[X - A]) / Height;
-                Out[X] = Darken(Out[X], Clamp(170 + R.Shade / 3 + (Depth >> 7), 0, 256));
-            }
+            for (int X = A; X < B; ++X) Out[X] = Darken(Out[X], DarknessAt(C.V[X - A]));
         };
         Put(R.X0, S.A);
         Put(S.B, R.X1);
