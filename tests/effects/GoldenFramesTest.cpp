@@ -37,7 +37,7 @@ const Golden kGolden[] = {
     {6, 0x2f2d2473a8febef7u},   {7, 0x8f49f77101a1a91fu},   {8, 0xf1532d3a07ee5bbeu},
     {10, 0xfc6ec870252773edu},  {11, 0x52a11513b42869a5u},  {12, 0x3e9b03da7400230fu},
     {13, 0x6a36ce0b42496adcu},  {14, 0x572e815415b259cau},  {15, 0x5f2281219d810ccdu},
-    {16, 0xb4d9563e7b62eb82u},  {19, 0x667bb2078c8a35a3u},  {20, 0x4c8d0d8612ff4a1fu},
+    {16, 0xb4d9563e7b62eb82u},  {19, 0x667bb2078c8a35a3u},  {20, 0xf482fcf12c7afc72u},
     {26, 0x8d8820f03dcb7370u},  {34, 0x63e5edc90e8e459au},  {42, 0xda167ba3be65f650u},
     {1, 0xfdaf5dfcf2004426u},   {2, 0x206684acb3e446aau},   {4, 0x294455086adeb9acu},
     {6, 0x2f2d2473a8febef7u},   {7, 0x8f49f77101a1a91fu},   {8, 0xbd23b235fb517f8fu},
@@ -49,7 +49,7 @@ const Golden kGolden[] = {
     {56, 0x4bcf3adc428ec615u},  {62, 0xdfd4ea84a2862e34u},  {66, 0x3f7c39b9fa7344fdu},
     {70, 0x77960ef1134ae933u},  {85, 0x7018119c49842177u},  {91, 0xbd78788dd47d8fdbu},
     {100, 0x41991a823be0c729u}, {106, 0xbc9cc1e9a805fe66u}, {112, 0xcf156fb59c06100au},
-    {118, 0x652c76c95fe17789u}, {121, 0x09fd6c13a2364dc9u}, {124, 0x966ff6f1cf3abbf5u},
+    {118, 0x652c76c95fe17789u}, {121, 0x09fd6c13a2364dc9u}, {124, 0x00fc7281f51f319cu},
     {27, 0xa00abe5d8019418du},
     {33, 0x3298dec13a845d0cu},
     {39, 0xb9aa24107ebb8cc0u},
@@ -72,6 +72,11 @@ const Golden kGolden[] = {
     {99, 0x5b0f699da472e928u},  {101, 0x7f76c315f6b6a54au}, {102, 0x1177666e3356ae4eu},
     {105, 0xd459ae6f602c116bu}, {107, 0x9767a6c22556bfbbu}, {115, 0x4f6b0b5c79b6d4c2u},
     {127, 0x13ad866adef7e123u},
+    {109, 0x1c5c735cbd9786a9u},
+    {75, 0xeaf79834e20ae65bu},
+    {104, 0xf38c9ef5e558bd71u},
+    {81, 0xed12364b68bc695cu},
+    {86, 0x86661344dc6f0bd1u},
 };
 
 std::uint64_t SumOf(int Number) {
