@@ -41,10 +41,10 @@ const Golden kGolden[] = {
     {55, 0x7466b75a1a8fb60bu},
     {59, 0x849453894a74def4u},
     {61, 0x0b09066234f41726u},
-    {65, 0xae51fd2ad03cdcc4u},
+    {65, 0xcd2a5a4b5440897cu},
     {67, 0xde221629ab659b7cu},
     {71, 0xe0bf0509f0fb7490u},
-    {73, 0xa6317e65743a7d9du},
+    {73, 0xb83da762cb1125c3u},
 };
 
 std::uint64_t SumOf(int Number) {
