@@ -1,19 +1,26 @@
-// The time of a frame of each transition at 1920x1080 on one thread, as a multiple of copying one
-// frame in memory, over twenty frames spread evenly over the way. Prints the table and its sums.
+// The processor time of a frame of each transition at 1920x1080 on one thread, as a multiple of
+// copying one frame in memory, over twenty frames spread evenly over the way. Prints the table and
+// its sums.
 //   bench_effects [NUMBER ...]   only these
 // The caches are emptied before each frame and before each copy, for in a show every frame goes on
 // to the screen and comes from new pictures. The column "warm" has the same of frames and copies
-// that follow one another in the cache.
+// that follow one another in the cache, "taken" the allocations of all frames after the first. Then
+// the most expensive of them are drawn as a show draws them, on two threads, against one.
 #include <QElapsedTimer>
 #include <QImage>
+#include <QThread>
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <ctime>
+#include <thread>
 #include <vector>
 
 #include "effects/EffectCatalogue.h"
 #include "effects/Transition.h"
+#include "effects/memory/AllocationCount.h"
+#include "platform/XShowBands.h"
 
 using namespace neb;
 
@@ -21,12 +28,14 @@ namespace {
 
 const QSize kSize(1920, 1080);
 constexpr int kFrames = 20;
+constexpr std::size_t kThreaded = 8;  // so many are drawn on several threads
 
 struct Timing {
     int Number;
     double Mean, Worst;  // of a frame, in copies
     double Warm;         // mean with everything in the cache
     double Prepare;      // ms
+    int Taken;           // allocations in all frames after the first
 };
 
 QImage Scene(std::uint32_t Seed) {
@@ -40,6 +49,14 @@ QImage Scene(std::uint32_t Seed) {
         }
     }
     return P;
+}
+
+// Of this process: on one thread the time that goes by, less what other programs take of it.
+template <typename Work>
+double ProcessorMilliseconds(Work&& Do) {
+    const std::clock_t Start = std::clock();
+    Do();
+    return static_cast<double>(std::clock() - Start) * 1000 / CLOCKS_PER_SEC;
 }
 
 template <typename Work>
@@ -65,7 +82,7 @@ void EmptyCaches() {
 template <typename Work>
 double Cold(Work&& Do) {
     EmptyCaches();
-    return Milliseconds(Do);
+    return ProcessorMilliseconds(Do);
 }
 
 struct CopyTimes {
@@ -78,25 +95,72 @@ CopyTimes TimeCopies(const QImage& From, QImage& To) {
     };
     std::vector<double> ColdTimes, WarmTimes;
     for (int I = 0; I < 9; ++I) ColdTimes.push_back(Cold(Copy));
-    for (int I = 0; I < 9; ++I) WarmTimes.push_back(Milliseconds(Copy));
+    for (int I = 0; I < 9; ++I) WarmTimes.push_back(ProcessorMilliseconds(Copy));
     return {Median(ColdTimes), Median(WarmTimes)};
 }
 
 // The copies are made right before the frames, so that a busier machine slows both.
 Timing Measure(int Number, const QImage& Old, const QImage& New, QImage& Out) {
-    Timing T{Number, 0, 0, 0, 0};
+    Timing T{Number, 0, 0, 0, 0, 0};
     std::unique_ptr<Transition> Made;
-    T.Prepare = Milliseconds([&] { Made = std::make_unique<Transition>(Number, Old, New); });
+    T.Prepare =
+        ProcessorMilliseconds([&] { Made = std::make_unique<Transition>(Number, Old, New); });
     Made->Draw(0.5, Out);
     const CopyTimes Copy = TimeCopies(Old, Out);
+    const int Before = neb::effectstest::AllocationsOfThisThread();
     for (int I = 0; I < kFrames; ++I) {
         const auto Frame = [&] { Made->Draw((I + 0.5) / kFrames, Out); };
         const double Copies = std::min(Cold(Frame), Cold(Frame)) / Copy.Cold;
         T.Mean += Copies / kFrames;
         T.Worst = std::max(T.Worst, Copies);
-        T.Warm += Milliseconds(Frame) / Copy.Warm / kFrames;
+        T.Warm += ProcessorMilliseconds(Frame) / Copy.Warm / kFrames;
     }
+    T.Taken = neb::effectstest::AllocationsOfThisThread() - Before;
     return T;
+}
+
+// How many times faster frames are on all cores than on one thread: the best of a few rounds of
+// each, for other programs disturb both.
+double ThreadFactor(int Number, const QImage& Old, const QImage& New, QImage& Out) {
+    const Transition T(Number, Old, New);
+    double One = 0, Many = 0;
+    for (int Round = 0; Round < 5; ++Round) {
+        const double A = Milliseconds([&] {
+            for (int I = 0; I < kFrames; ++I) T.Draw((I + 0.5) / kFrames, Out);
+        });
+        const double B = Milliseconds([&] {
+            for (int I = 0; I < kFrames; ++I) DrawInBands(T, (I + 0.5) / kFrames, Out);
+        });
+        One = Round == 0 ? A : std::min(One, A);
+        Many = Round == 0 ? B : std::min(Many, B);
+    }
+    return One / Many;
+}
+
+// The same of plain arithmetic: what the machine has to give beside all else that runs on it.
+double PossibleFactor() {
+    const auto Reckon = [] {
+        volatile double Sum = 1;
+        for (int I = 0; I < 30000000; ++I) Sum = Sum * 0.999 + 1;
+    };
+    const double One = Milliseconds([&] { Reckon(), Reckon(); });
+    const double Two = Milliseconds([&] {
+        std::thread Other(Reckon);
+        Reckon();
+        Other.join();
+    });
+    return One / Two;
+}
+
+void PrintThreads(std::vector<Timing> All, const QImage& Old, const QImage& New, QImage& Out) {
+    std::sort(All.begin(), All.end(),
+              [](const Timing& A, const Timing& B) { return A.Mean > B.Mean; });
+    All.resize(std::min(All.size(), kThreaded));
+    std::printf("two threads that only reckon are %.2f times as fast as one\n", PossibleFactor());
+    for (const Timing& T : All)
+        std::printf("%4d %-28s on %d threads %.2f times as fast as on one\n", T.Number,
+                    qPrintable(EffectName(T.Number)), QThread::idealThreadCount(),
+                    ThreadFactor(T.Number, Old, New, Out));
 }
 
 void PrintSums(const char* How, const std::vector<Timing>& All, double Timing::*What) {
@@ -127,10 +191,13 @@ int main(int Count, char** Arguments) {
     for (const int Number : Wanted(Count, Arguments)) {
         All.push_back(Measure(Number, Old, New, Out));
         const Timing& T = All.back();
-        std::printf("%4d %-28s %-14s mean %6.2f  worst %6.2f  warm %6.2f  prepared in %6.1f ms\n",
-                    Number, qPrintable(EffectName(Number)), qPrintable(EffectEngine(Number)),
-                    T.Mean, T.Worst, T.Warm, T.Prepare);
+        std::printf(
+            "%4d %-28s %-14s mean %6.2f  worst %6.2f  warm %6.2f  prepared in %6.1f ms"
+            "  taken %d\n",
+            Number, qPrintable(EffectName(Number)), qPrintable(EffectEngine(Number)), T.Mean,
+            T.Worst, T.Warm, T.Prepare, T.Taken);
     }
     PrintSums("from memory", All, &Timing::Mean);
     PrintSums("in the cache", All, &Timing::Warm);
+    PrintThreads(All, Old, New, Out);
 }

@@ -33,11 +33,16 @@ function(neb_layer)
 endfunction()
 
 # neb_test(NAME support DIR tests/support DEPENDS neb_support)
-# All sources of one folder of tests as one program; every test in it is a test of ctest.
+# All sources of one folder of tests, or the FILES of it alone, as one program; every test in it is
+# a test of ctest. SHARDS: ctest runs them in so many parts instead, for where there are so many
+# short ones that starting the program for each would take most of the time.
 function(neb_test)
-  cmake_parse_arguments(T "" "NAME;DIR" "DEPENDS" ${ARGN})
+  cmake_parse_arguments(T "" "NAME;DIR;SHARDS" "DEPENDS;FILES" ${ARGN})
   set(dir ${PROJECT_SOURCE_DIR}/${T_DIR})
   file(GLOB sources CONFIGURE_DEPENDS ${dir}/*.cpp ${dir}/*.h)
+  if(T_FILES)
+    list(TRANSFORM T_FILES PREPEND ${dir}/ OUTPUT_VARIABLE sources)
+  endif()
   if(NOT sources)
     return()
   endif()
@@ -46,6 +51,15 @@ function(neb_test)
   target_link_libraries(test_${T_NAME} PRIVATE ${T_DEPENDS} neb_harness)
   target_include_directories(test_${T_NAME} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
   target_precompile_headers(test_${T_NAME} PRIVATE ${PROJECT_SOURCE_DIR}/cmake/pch_test.h)
+  if(T_SHARDS)
+    math(EXPR last "${T_SHARDS} - 1")
+    foreach(shard RANGE ${last})
+      add_test(NAME ${T_NAME}.Part${shard} COMMAND test_${T_NAME} --gtest_brief=1)
+      set_tests_properties(${T_NAME}.Part${shard} PROPERTIES TIMEOUT 300
+        ENVIRONMENT "GTEST_TOTAL_SHARDS=${T_SHARDS};GTEST_SHARD_INDEX=${shard}")
+    endforeach()
+    return()
+  endif()
   gtest_discover_tests(test_${T_NAME} TEST_PREFIX "${T_NAME}." DISCOVERY_TIMEOUT 60
                        PROPERTIES TIMEOUT 120)
 endfunction()

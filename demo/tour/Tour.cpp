@@ -40,8 +40,7 @@ void Tour::PollLater() {
 void Tour::Poll() {
     if (mDone == mSteps.size()) return Q_EMIT Ended();
     const Step& Now = mSteps[mDone];
-    if (BoxIsOpen()) return Fail(QStringLiteral("a message box stands in the way"));
-    if (Now.Ready && !Now.Ready()) {
+    if (WaitsOn(Now)) {
         if (mWaiting.elapsed() > PatienceMs) return Fail(QStringLiteral("it took too long"));
         return PollLater();
     }
@@ -54,8 +53,12 @@ void Tour::Poll() {
     if (Now.Act) Now.Act();
 }
 
-bool Tour::BoxIsOpen() const {
-    return qobject_cast<QMessageBox*>(QApplication::activeModalWidget()) != nullptr;
+// A box that the step does not speak of stands in the way.
+bool Tour::WaitsOn(const Step& Now) {
+    const auto* Box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (Box && Box->text() != Now.Box)
+        Fail(QStringLiteral("a message box stands in the way: ") + Box->text());
+    return (!Box && !Now.Box.isEmpty()) || (Now.Ready && !Now.Ready());
 }
 
 void Tour::TakeShot(const QString& Name) {

@@ -18,6 +18,7 @@ class Tour : public QObject {
         std::function<void()> Act;    // {}: nothing
         bool Shot = true;
         bool Moving = false;  // what is to be seen does not wait
+        QString Box = {};     // what the message box says that is up then; empty: none may be
     };
 
     // Screenshots go to that folder as 01-name.png, 02-...
@@ -35,7 +36,7 @@ class Tour : public QObject {
     void PollLater();
     void TakeShot(const QString& Name);
     void Fail(const QString& Reason);
-    bool BoxIsOpen() const;
+    bool WaitsOn(const Step& Now);
 
     QString mScreenshotDir;
     std::vector<Step> mSteps;

@@ -1,5 +1,6 @@
 #include "TourSteps.h"
 
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -14,7 +15,10 @@
 #include "platform/FlexGrid.h"
 #include "platform/ToolBar.h"
 #include "platform/XShow.h"
+#include "presentation/EffectList.h"
+#include "presentation/frmPreferences.h"
 #include "presentation/frmSlideShowProjector.h"
+#include "presentation/frmSpeedTest.h"
 #include "shell/main/frmNEBSlideShow.h"
 #include "support/windows/frmLoading.h"
 #include "support/windows/frmProgress.h"
@@ -55,8 +59,32 @@ QMenu* OpenMenu() {
     return qobject_cast<QMenu*>(QApplication::activePopupWidget());
 }
 
+// How far the transition on the screen has come.
+double Shown = 0;
+
+void WatchProgress(XShow* View) {
+    QObject::connect(View, &XShow::EffectStepped, [](double Now) { Shown = Now; });
+}
+
+// Settings without a speed test are new ones: the program measures before anything else.
+void AddSpeedTestSteps(Tour& Guide) {
+    Guide.Add({"speed-test-notification",
+               {},
+               [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return); },
+               true,
+               false,
+               QStringLiteral("NEB Slide Show will now test your graphics speed.")});
+    Guide.Add({"speed-test-begins", IsOpen<frmSpeedTest>(),
+               [] { WatchProgress(Find<XShow, frmSpeedTest>("Show1")); }, false, true});
+    const auto InTheMiddle = [] {
+        return Find<XShow, frmSpeedTest>("Show1")->EffectStep() < 50 && Shown > 0.35 &&
+               Shown < 0.65;
+    };
+    Guide.Add({"speed-test", InTheMiddle, {}, true, true});
+}
+
 void AddQuickShowSteps(Tour& Guide, frmNEBSlideShow& Window) {
-    Guide.Add({"main-window", [&] { return Window.isVisible(); },
+    Guide.Add({"main-window", [&] { return Window.isVisible() && !Open<frmSpeedTest>(); },
                [&] { QTest::keyClick(&Window, Qt::Key_F, Qt::AltModifier); }});
     Guide.Add({"file-menu", [] { return OpenMenu() != nullptr; },
                [] { QTest::keyClick(OpenMenu(), Qt::Key_Q); }});
@@ -116,13 +144,6 @@ XShow* View() {
     return Find<XShow, frmSlideShowProjector>("Show1");
 }
 
-// How far the transition on the screen has come.
-double Shown = 0;
-
-void WatchProgress() {
-    QObject::connect(View(), &XShow::EffectStepped, [](double Now) { Shown = Now; });
-}
-
 // Two moments of each slide: in the middle of its transition and when it stands.
 void AddSlideSteps(Tour& Guide, int Slide) {
     const QString Number = QString::number(Slide);
@@ -146,7 +167,8 @@ void AddShowSteps(Tour& Guide) {
                {},
                true,
                true});
-    Guide.Add({"show-begins", IsOpen<frmSlideShowProjector>(), &WatchProgress, false});
+    Guide.Add(
+        {"show-begins", IsOpen<frmSlideShowProjector>(), [] { WatchProgress(View()); }, false});
     Guide.Add({"show-slide-1", [] { return !View()->IsRunning(); }, {}});
     for (int Slide = 2; Slide <= 6; ++Slide) AddSlideSteps(Guide, Slide);
     Guide.Add({"show-menu-opens",
@@ -159,14 +181,53 @@ void AddShowSteps(Tour& Guide) {
                [] { QTest::keyClick(Open<frmSlideShowProjector>(), Qt::Key_Escape); }, false});
 }
 
+EffectList* Effects() {
+    return Find<EffectList, frmPreferences>("lstEffects");
+}
+
+XShow* PreviewView() {
+    return Find<XShow, frmPreferences>("XShow1");
+}
+
+void ChooseTheShow() {
+    Find<QComboBox, frmPreferences>("cboAlbums")->setCurrentIndex(0);
+    Find<QComboBox, frmPreferences>("cboSlideShows")->setCurrentIndex(0);
+    Effects()->setFocus();
+    QTest::keyClicks(Effects(), Effects()->item(13)->text());
+}
+
+// The active show, an effect found by its name and seen, and all of it kept.
+void AddPreferencesSteps(Tour& Guide, frmNEBSlideShow& Window) {
+    const auto ShowIsOver = [] { return !Open<frmSlideShowProjector>() && !Open<frmQuickShow>(); };
+    Guide.Add({"open-preferences", ShowIsOver,
+               [&] { QTest::keyClick(&Window, Qt::Key_R, Qt::ControlModifier); }, false});
+    Guide.Add({"choose-the-show", IsOpen<frmPreferences>(), &ChooseTheShow, false});
+    Guide.Add({"preferences", {}, Press<frmPreferences>("cmdPreview")});
+    Guide.Add({"preview-begins", [] { return PreviewView()->IsRunning(); },
+               [] {
+                   Shown = 0;
+                   QObject::connect(PreviewView(), &XShow::EffectStepped,
+                                    [](double Now) { Shown = Now; });
+               },
+               false, true});
+    Guide.Add({"preferences-preview",
+               [] { return !PreviewView()->IsRunning() || Shown > 0.4; },
+               {},
+               true,
+               true});
+    Guide.Add({"apply-preferences", [] { return !PreviewView()->IsRunning(); },
+               Press<frmPreferences>("cmdApply"), false});
+}
+
 }  // namespace
 
 void AddSteps(Tour& Guide, frmNEBSlideShow& Window, const QString& Folder,
               const QString& ShowName) {
+    AddSpeedTestSteps(Guide);
     AddQuickShowSteps(Guide, Window);
     AddDirectorySteps(Guide, Folder);
     AddSelectionSteps(Guide, ShowName);
     AddShowSteps(Guide);
-    Guide.Add({"end", [] { return !Open<frmSlideShowProjector>() && !Open<frmQuickShow>(); },
-               [&] { Window.close(); }, false});
+    AddPreferencesSteps(Guide, Window);
+    Guide.Add({"end", [] { return !Open<frmPreferences>(); }, [&] { Window.close(); }, false});
 }

@@ -1,4 +1,5 @@
-// The steps of the demonstration: Quick Show on a folder, Save, the show, the end.
+// The steps of the demonstration: Quick Show on a folder, Save, the show, Preferences,
+// the end.
 #pragma once
 
 #include <QString>

@@ -1,5 +1,5 @@
 // Dissolves: the pictures change place by place, in scattered dots and blocks, in drifting
-// clouds, or by how bright a place is. Used by the catalogue and by the light engine.
+// clouds, or by how bright a place is. Used by the catalogue.
 #pragma once
 
 #include "effects/RevealMap.h"
@@ -13,7 +13,5 @@ Recipe BlockDissolve(int Count, int SoftBits);
 Recipe CloudDissolve(int Count, int SoftBits);
 // The dark places of the new picture come first, or the bright ones.
 Recipe LightDissolve(bool BrightFirst);
-
-RevealMap MakeCloudMap(QSize Size, int Count, int SoftBits);
 
 }  // namespace neb::effects

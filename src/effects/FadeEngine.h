@@ -7,5 +7,7 @@ namespace neb::effects {
 
 Recipe CrossFade();
 Recipe FadeThrough(QRgb Colour);
+// The colours leave the old picture as in an old brown photograph and come back in the new one.
+Recipe FadeThroughOldPrint();
 
 }  // namespace neb::effects

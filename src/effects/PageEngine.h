@@ -6,7 +6,13 @@
 
 namespace neb::effects {
 
-// The direction in which the sheet is drawn away, in any unit: (-1, 0) is to the left.
-Recipe PageTurn(int X, int Y);
+struct PageForm {
+    // The direction in which the sheet is drawn away, in any unit: (-1, 0) is to the left.
+    int X = -1, Y = 0;
+    // The sheet is cut through the middle, and its other half drawn away the other way.
+    bool FromMiddle = false;
+};
+
+Recipe PageTurn(PageForm Form);
 
 }  // namespace neb::effects

@@ -2,213 +2,244 @@
 
 #include <algorithm>
 
-#include "effects/Sampling.h"
+#include "effects/PanelView.h"
 
 namespace neb::effects {
 namespace {
 
-// A panel seen from above: a line from a point in a direction, in the plane of the turning.
-// Lengths are of One, the direction a unit of One, Z away from the viewer.
-struct Panel {
-    const Picture* Front;  // seen from the front; null: not drawn
-    const Picture* Back;   // seen from behind, mirrored; null: not drawn
-    std::int64_t X, Z;     // of its start, X from the middle of the view
-    int Cx, Cz;
-    std::int64_t Length;
-    std::int64_t TextureStart;
-    int Shade;                  // darkness 0..256
-    bool JoinsAtStart = false;  // another panel goes on there: no soft edge
-    bool JoinsAtEnd = false;
-};
-
-struct Scene {
-    Panel Panels[2];
-    const Picture* Behind;  // what is seen past the panels; null: black
-};
-
-// What one line of the view shows.
-struct Line {
+// Part of the columns of the view that shows one panel in one version of its picture.
+struct Run {
+    int X0, X1;
     const Picture* Source;
-    int U, Du;  // place in the picture along the turning, and picture per pixel
-    int Zoom;   // picture per pixel across it
-    int Cover;  // 0..256
     int Shade;
+    bool Growing;  // further away to the right
+    bool Still;    // the picture as it is, pixel for pixel
 };
 
-using Planner = Scene (*)(const Frame& F, std::int64_t Length, int Part);
+constexpr int kMostColumns = 256;  // of a run
 
-constexpr int kDistance = 2;  // of the viewer, in lengths of the view
+// A stretch of a row: of it the middle part is wholly covered by the panel.
+struct Stretch {
+    int A, FullA, FullB, B;
+};
 
-// Panels that join overlap by this much of One, so that no rounding opens a gap.
-constexpr int kSeam = 512;
-
-int CoverAt(const Panel& P, std::int64_t Along) {
-    const std::int64_t FromStart = P.JoinsAtStart ? One : Along;
-    const std::int64_t FromEnd = P.JoinsAtEnd ? One : P.Length - Along;
-    return Clamp(static_cast<int>((std::min(FromStart, FromEnd) + One / 2) >> 8), 0, 256);
-}
-
-// Where the line of sight at place Sight meets the panel: along the panel, and how deep.
-bool Meet(const Panel& P, std::int64_t Sight, std::int64_t Eye, std::int64_t& Along, int& Zoom,
-          bool& Facing) {
-    const std::int64_t Down = (Eye * P.Cx - Sight * P.Cz) >> 16;
-    if (Down > -64 && Down < 64) return false;
-    Along = (Sight * (Eye + P.Z) - Eye * P.X) / Down;
-    Facing = Down > 0;
-    if (Along < (P.JoinsAtStart ? -kSeam : -One)) return false;
-    if (Along > P.Length + (P.JoinsAtEnd ? kSeam : One)) return false;
-    const std::int64_t Depth = Eye + P.Z + ((Along * P.Cz) >> 16);
-    if (Depth <= 0) return false;
-    Zoom = static_cast<int>((Depth << 16) / Eye);
-    return true;
-}
-
-Line LookAt(const Scene& S, std::int64_t Sight, std::int64_t Length) {
-    Line Best{nullptr, 0, One, 0, 0, 0};
-    for (const Panel& P : S.Panels) {
-        std::int64_t Along = 0;
-        int Zoom = 0;
-        bool Facing = false;
-        if (!Meet(P, Sight, Length * kDistance, Along, Zoom, Facing)) continue;
-        const Picture* Source = Facing ? P.Front : P.Back;
-        if (!Source || (Best.Source && Best.Zoom < Zoom)) continue;
-        const std::int64_t U = P.TextureStart + (Facing ? Along : P.Length - Along);
-        Best = {Source, static_cast<int>(U) - One / 2, One, Zoom, CoverAt(P, Along), P.Shade};
-    }
-    return Best;
+bool IsStill(const ViewLine& L) {
+    return L.Source && L.Shade == 0 && std::abs(L.Zoom - One) < 4 && std::abs(L.Du - One) < 64 &&
+           ((L.U + 256) & (One - 1)) < 512;
 }
 
 class PerspectiveEngine : public Engine {
   public:
-    PerspectiveEngine(Planner Plan, Turning T) : mPlan(Plan), mTurning(T) {}
+    PerspectiveEngine(const Pair& P, ScenePlanner Plan, Turning T)
+        : mPlan(Plan),
+          mTurning(T),
+          mStage{Halved(P.Old), Halved(P.New), LengthOf(P),
+                 std::int64_t{2 * std::max(P.Old.Width, P.Old.Height)} << 16} {}
 
     void Draw(const Frame& F, int Y0, int Y1) const override {
+        PanelScene Scene;
+        mPlan(Scene, mStage, F.Progress);
+        if (mTurning.Mirrored) std::swap(Scene.Behind[0], Scene.Behind[1]);
         const int Length = mTurning.Upright ? F.Width : F.Height;
-        const Scene S = mPlan(F, std::int64_t{Length} << 16, Ease(F.Progress));
-        Line* Lines = Scratch<Line, PerspectiveEngine>(Length);
-        FindLines(S, Lines, Length);
-        for (int Y = Y0; Y < Y1; ++Y) {
-            QRgb* Out = F.Row(Y);
-            if (S.Behind)
-                CopySpan(Out, S.Behind->Row(Y), F.Width);
-            else
-                FillSpan(Out, kBlack, F.Width);
-            if (mTurning.Upright)
-                DrawAcross(F, Lines, Out, Y);
-            else
-                DrawDown(F, Lines[Y], Out);
-        }
+        ViewLine* Lines = Scratch<ViewLine, PerspectiveEngine>(Length);
+        FindLines(Scene, mStage.Eye, Lines, Length, mTurning.Mirrored);
+        if (mTurning.Upright)
+            DrawUpright(F, Scene, Lines, Y0, Y1);
+        else
+            for (int Y = Y0; Y < Y1; ++Y) DrawLevel(F, Scene, Lines[Y], Y);
     }
 
   private:
-    void FindLines(const Scene& S, Line* Lines, int Length) const {
-        for (int I = 0; I < Length; ++I) {
-            const std::int64_t Sight = std::int64_t{2 * I + 1 - Length} << 15;
-            Lines[I] = LookAt(S, Sight, std::int64_t{Length} << 16);
-        }
-        for (int I = 0; I + 1 < Length; ++I)
-            if (Lines[I].Source == Lines[I + 1].Source)
-                Lines[I].Du = std::abs(Lines[I + 1].U - Lines[I].U);
-        if (Length > 1) Lines[Length - 1].Du = Lines[Length - 2].Du;
-        if (mTurning.Mirrored) Mirror(Lines, Length);
+    HalfSizes Halved(const Picture& P) const {
+        return {P, mTurning.Upright ? HalfSizes::Way::Across : HalfSizes::Way::Down, 3};
+    }
+    std::int64_t LengthOf(const Pair& P) const {
+        return std::int64_t{mTurning.Upright ? P.Old.Width : P.Old.Height} << 16;
     }
 
-    static void Mirror(Line* Lines, int Length) {
-        std::reverse(Lines, Lines + Length);
-        for (int I = 0; I < Length; ++I) Lines[I].U = ((Length - 1) << 16) - Lines[I].U;
+    void PutBehind(QRgb* Out, const PanelScene& S, const Frame& F, int Y, int A, int B) const {
+        const int Middle = mTurning.Upright ? F.Width / 2 : (2 * Y < F.Height ? B : A);
+        PutHalf(Out, S.Behind[0], Y, A, std::min(B, Middle));
+        PutHalf(Out, S.Behind[1], Y, std::max(A, Middle), B);
+    }
+    static void PutHalf(QRgb* Out, const Backdrop& D, int Y, int A, int B) {
+        if (A >= B) return;
+        if (!D.Source) return FillSpan(Out + A, kBlack, B - A);
+        if (D.Shade == 0) return CopySpan(Out + A, D.Source->Row(Y) + A, B - A);
+        MixSpanWithColour(Out + A, D.Source->Row(Y) + A, kBlack, D.Shade, B - A);
     }
 
-    // The place in the picture for a pixel across the turning.
-    static int AcrossAt(int Place, int Size, int Zoom) {
-        const std::int64_t Off = std::int64_t{2 * Place + 1 - Size} * Zoom / 2;
-        return static_cast<int>(Off + (std::int64_t{Size} << 15) - One / 2);
-    }
+    // Upright axis: every column has its place along the panel, and is read downwards at its own
+    // pace.
+    struct Columns {
+        int *U, *Start, *Zoom, *Cover, *V;
+        Run* Runs;
+        int Count;
+    };
 
-    static void Put(QRgb& Out, const Line& L, int V, int Seen) {
-        QRgb C = SampleArea(*L.Source, L.U, V, L.Du, L.Zoom);
-        if (L.Shade) C = Darken(C, L.Shade);
-        Out = Seen == 256 ? C : Mix(Out, C, Seen);
-    }
-
-    static void DrawAcross(const Frame& F, const Line* Lines, QRgb* Out, int Y) {
+    static Columns FindColumns(const ViewLine* Lines, const Frame& F) {
+        int* Room = Scratch<int, Columns>(5 * F.Width);
+        Columns C{Room,
+                  Room + F.Width,
+                  Room + 2 * F.Width,
+                  Room + 3 * F.Width,
+                  Room + 4 * F.Width,
+                  Scratch<Run, Columns>(F.Width),
+                  0};
         for (int X = 0; X < F.Width; ++X) {
-            const Line& L = Lines[X];
-            if (!L.Source) continue;
-            const int V = AcrossAt(Y, F.Height, L.Zoom);
-            const int Seen = L.Cover * Coverage(V + One / 2, F.Height << 16) >> 8;
-            if (Seen) Put(Out[X], L, V, Seen);
+            const ViewLine& L = Lines[X];
+            const int Level = L.Source ? L.Source->LevelFor(L.Du) : 0;
+            C.U[X] = L.Source ? L.Source->AcrossAt(L.U, Level) : 0;
+            C.Start[X] = PlaceAcross(0, F.Height, L.Zoom);
+            C.Zoom[X] = L.Zoom;
+            C.Cover[X] = L.Cover;
+            const Picture* Source = L.Source ? &L.Source->At(Level) : nullptr;
+            const bool Starts = X == 0 || Lines[X - 1].Panel != L.Panel;
+            AddToRuns(C, {X, X + 1, Source, L.Shade, false, IsStill(L)}, Starts);
         }
+        for (int R = 0; R < C.Count; ++R)
+            C.Runs[R].Growing = C.Zoom[C.Runs[R].X1 - 1] > C.Zoom[C.Runs[R].X0];
+        return C;
     }
 
-    static void DrawDown(const Frame& F, const Line& L, QRgb* Out) {
-        if (!L.Source) return;
-        // The picture's two sides lie where its places reach 0 and its width.
-        const std::int64_t Half = (std::int64_t{F.Width} << 31) / std::max(1, L.Zoom);
-        const std::int64_t Middle = std::int64_t{F.Width} << 15;
-        const int X0 = static_cast<int>(std::max<std::int64_t>(0, ((Middle - Half) >> 16) - 1));
-        const int X1 =
-            static_cast<int>(std::min<std::int64_t>(F.Width, ((Middle + Half) >> 16) + 2));
+    static void AddToRuns(Columns& C, const Run& New, bool Starts) {
+        Run* Last = C.Count > 0 ? &C.Runs[C.Count - 1] : nullptr;
+        if (Starts || Last->Source != New.Source || Last->Still != New.Still ||
+            New.X0 - Last->X0 >= kMostColumns)
+            C.Runs[C.Count++] = New;
+        else
+            ++Last->X1;
+    }
+
+    // Run by run, so that what a row reads is still at hand when the next one comes to it.
+    void DrawUpright(const Frame& F, const PanelScene& S, const ViewLine* Lines, int Y0,
+                     int Y1) const {
+        const Columns C = FindColumns(Lines, F);
+        for (int R = 0; R < C.Count; ++R)
+            for (int Y = Y0; Y < Y1; ++Y) DrawRun(F, S, C, C.Runs[R], Y);
+    }
+
+    void DrawRun(const Frame& F, const PanelScene& S, const Columns& C, const Run& R, int Y) const {
+        QRgb* Out = F.Row(Y);
+        if (!R.Source) return PutBehind(Out, S, F, Y, R.X0, R.X1);
+        const Stretch Seen = SeenOf(C, R, F.Height, Y);
+        PutBehind(Out, S, F, Y, R.X0, Seen.FullA);
+        PutBehind(Out, S, F, Y, Seen.FullB, R.X1);
+        DrawStretch(Out, C, R, Seen, F.Height, Y);
+        if (S.Mirroring && 2 * Y > F.Height) PutReflection(Out, C, R, Seen, F.Height, Y);
+    }
+
+    // Columns within the panel's height at a row; along a panel the height grows or shrinks evenly.
+    static Stretch SeenOf(const Columns& C, const Run& R, int Height, int Y) {
+        const int Off = std::abs(2 * Y + 1 - Height);
+        const auto Limit = [&](int Edge) {
+            const std::int64_t Reach = (std::int64_t{Height} << 16) + Edge;
+            return Off == 0 ? INT32_MAX
+                            : static_cast<int>(std::min<std::int64_t>(INT32_MAX, Reach / Off));
+        };
+        const int Touch = Limit(One), Full = Limit(-One);
+        Stretch S{R.X0, R.X0, R.X1, R.X1};
+        const int Nearest = std::min(C.Zoom[R.X0], C.Zoom[R.X1 - 1]);
+        const int Furthest = std::max(C.Zoom[R.X0], C.Zoom[R.X1 - 1]);
+        if (Nearest > Touch) return {R.X0, R.X0, R.X0, R.X0};
+        if (Furthest > Full) {
+            const int *From = C.Zoom + R.X0, *To = C.Zoom + R.X1;
+            const auto Find = [&](int Most) {
+                const int* At =
+                    R.Growing ? std::partition_point(From, To, [=](int Z) { return Z <= Most; })
+                              : std::partition_point(From, To, [=](int Z) { return Z > Most; });
+                return static_cast<int>(At - C.Zoom);
+            };
+            (R.Growing ? S.B : S.A) = Find(Touch);
+            (R.Growing ? S.FullB : S.FullA) = Find(Full);
+        }
+        while (S.FullA < S.FullB && C.Cover[S.FullA] < 256) ++S.FullA;
+        while (S.FullB > S.FullA && C.Cover[S.FullB - 1] < 256) --S.FullB;
+        return S;
+    }
+
+    static void DrawStretch(QRgb* Out, const Columns& C, const Run& R, const Stretch& S, int Height,
+                            int Y) {
+        for (int X = S.A; X < S.FullA; ++X) Soften(Out[X], C, R, X, Height, Y);
+        for (int X = S.FullB; X < S.B; ++X) Soften(Out[X], C, R, X, Height, Y);
+        const int Count = S.FullB - S.FullA;
+        if (Count <= 0) return;
+        if (R.Still) {
+            const int From = (C.U[S.FullA] + 256) >> 16;
+            return CopySpan(Out + S.FullA, R.Source->Row(Y) + From, Count);
+        }
+        PlacesDown(C.V, C.Start + S.FullA, C.Zoom + S.FullA, Y, Count);
+        SamplePlaces(Out + S.FullA, *R.Source, C.U + S.FullA, C.V, Count);
+        DarkenSpan(Out + S.FullA, R.Shade, Count);
+    }
+
+    static void Soften(QRgb& Out, const Columns& C, const Run& R, int X, int Height, int Y) {
+        const int V = C.Start[X] + Y * C.Zoom[X];
+        const int Seen = C.Cover[X] * Coverage(V + One / 2, Height << 16) >> 8;
+        if (Seen) Out = Mix(Out, Darken(Sample(*R.Source, C.U[X], V), R.Shade), Seen);
+    }
+
+    // Below the panel its mirror image, fainter the further down.
+    static void PutReflection(QRgb* Out, const Columns& C, const Run& R, const Stretch& S,
+                              int Height, int Y) {
+        const int Bottom = (2 * Height - 1) << 16;
+        const auto Put = [&](int A, int B) {
+            if (A >= B) return;
+            for (int X = A; X < B; ++X) C.V[X - A] = Bottom - C.Start[X] - Y * C.Zoom[X];
+            SamplePlaces(Out + A, *R.Source, C.U + A, C.V, B - A);
+            for (int X = A; X < B; ++X) {
+                const int Depth = (((Height - 1) << 16) - C.V[X - A]) / Height;
+                Out[X] = Darken(Out[X], Clamp(170 + R.Shade / 3 + (Depth >> 7), 0, 256));
+            }
+        };
+        Put(R.X0, S.A);
+        Put(S.B, R.X1);
+    }
+
+    // Level axis: a row is a straight cut through one panel.
+    void DrawLevel(const Frame& F, const PanelScene& S, const ViewLine& L, int Y) const {
+        QRgb* Out = F.Row(Y);
+        if (!L.Source || L.Zoom <= 0) return PutBehind(Out, S, F, Y, 0, F.Width);
+        const auto Edge = [&](int Soft) {
+            const std::int64_t Half = ((std::int64_t{F.Width} << 16) + Soft) / L.Zoom;
+            return static_cast<int>(std::clamp<std::int64_t>((F.Width - Half) / 2, 0, F.Width / 2));
+        };
+        if (IsStill(L) && L.Cover == 256)
+            return CopySpan(Out, L.Source->At(0).Row((L.U + 256) >> 16), F.Width);
+        const int A = Edge(One), FullA = L.Cover < 256 ? F.Width / 2 : Edge(-One);
+        const int B = F.Width - A, FullB = std::max(FullA, F.Width - FullA);
+        PutBehind(Out, S, F, Y, 0, FullA);
+        PutBehind(Out, S, F, Y, FullB, F.Width);
         QRgb* Row = Scratch<QRgb, PerspectiveEngine>(F.Width);
-        SampleRow(Row, *L.Source, AcrossAt(X0, F.Width, L.Zoom), L.Zoom, L.U, L.Du, X1 - X0);
-        DarkenSpan(Row, L.Shade, X1 - X0);
-        for (int X = X0; X < X1; ++X) {
-            const int U = AcrossAt(X, F.Width, L.Zoom);
+        ReadLevel(Row, L, F.Width, A, B);
+        CopySpan(Out + FullA, Row + FullA - A, FullB - FullA);
+        const auto Soften = [&](int X) {
+            const int U = PlaceAcross(X, F.Width, L.Zoom);
             const int Seen = L.Cover * Coverage(U + One / 2, F.Width << 16) >> 8;
-            Out[X] = Seen == 256 ? Row[X - X0] : Mix(Out[X], Row[X - X0], Seen);
-        }
+            Out[X] = Mix(Out[X], Row[X - A], Seen);
+        };
+        for (int X = A; X < FullA; ++X) Soften(X);
+        for (int X = FullB; X < B; ++X) Soften(X);
     }
 
-    Planner mPlan;
+    static void ReadLevel(QRgb* Row, const ViewLine& L, int Width, int A, int B) {
+        int* U = Scratch<int, PerspectiveEngine>(2 * Width);
+        int* V = U + Width;
+        const int Level = L.Source->LevelFor(L.Du);
+        StepSpan(U, PlaceAcross(A, Width, L.Zoom), L.Zoom, B - A);
+        std::fill_n(V, B - A, L.Source->DownAt(L.U, Level));
+        SamplePlaces(Row, L.Source->At(Level), U, V, B - A);
+        DarkenSpan(Row, L.Shade, B - A);
+    }
+
+    ScenePlanner mPlan;
     Turning mTurning;
+    Stage mStage;
 };
 
-int Dark(int Sine) {
-    return Clamp(Scale(140, std::abs(Sine)), 0, 256);
-}
-
-Scene PlanCube(const Frame& F, std::int64_t Length, int Part) {
-    const int Angle = Scale(One / 4, Part);
-    const int S = Sine(Angle), C = Cosine(Angle);
-    const std::int64_t Half = Length / 2;
-    // Pushed back so that the nearest edge just touches the glass.
-    const std::int64_t Middle = Half + ((Half * (S + C - One)) >> 16);
-    const auto At = [Half](std::int64_t A, std::int64_t B) { return (Half * (A + B)) >> 16; };
-    Scene Out{};
-    Out.Panels[0] = {&F.Old,  nullptr, At(-C, -S), Middle + At(S, -C), C, -S, Length, 0,
-                     Dark(S), false,   true};
-    Out.Panels[1] = {&F.New,  nullptr, At(C, -S), Middle + At(-S, -C), S, C, Length, 0,
-                     Dark(C), true,    false};
-    return Out;
-}
-
-Scene PlanFlip(const Frame& F, std::int64_t Length, int Part) {
-    const int Angle = Scale(One / 2, Part);
-    const int S = Sine(Angle), C = Cosine(Angle);
-    const std::int64_t Half = Length / 2;
-    const std::int64_t Middle = (Half * S) >> 16;
-    Scene Out{};
-    Out.Panels[0] = {&F.Old, &F.New, (-Half * C) >> 16, Middle - ((Half * S) >> 16), C, S, Length,
-                     0,      Dark(S)};
-    return Out;
-}
-
-Scene PlanDoors(const Frame& F, std::int64_t Length, int Part) {
-    // Past the right angle, until each wing lies in the line of sight and is gone.
-    const int Angle = Scale(One / 4 + AngleOf(2 * kDistance, 1), Part);
-    const int S = Sine(Angle), C = Cosine(Angle);
-    const std::int64_t Half = Length / 2;
-    Scene Out{};
-    Out.Behind = &F.New;
-    Out.Panels[0] = {&F.Old, nullptr, -Half, 0, C, S, Half, 0, Dark(S)};
-    Out.Panels[1] = {&F.Old,           nullptr, Half - ((Half * C) >> 16),
-                     (Half * S) >> 16, C,       -S,
-                     Length - Half,    Half,    Dark(S)};
-    return Out;
-}
-
-Recipe Make(Planner Plan, Turning T) {
+Recipe Make(ScenePlanner Plan, Turning T) {
     return {"Perspective",
-            [=](const Pair&) { return std::make_unique<PerspectiveEngine>(Plan, T); }};
+            [=](const Pair& P) { return std::make_unique<PerspectiveEngine>(P, Plan, T); }};
 }
 
 }  // namespace
@@ -221,6 +252,24 @@ Recipe CardFlip(Turning T) {
 }
 Recipe SwingDoors(Turning T) {
     return Make(PlanDoors, T);
+}
+Recipe Carousel(Turning T) {
+    return Make(PlanCarousel, T);
+}
+Recipe BookLeaf(Turning T) {
+    return Make(PlanLeaf, T);
+}
+Recipe MapFold(Turning T) {
+    return Make(PlanMap, T);
+}
+Recipe PrismsTurn(Turning T) {
+    return Make(PlanPrisms, T);
+}
+Recipe SlatsTurn(Turning T) {
+    return Make(PlanBars, T);
+}
+Recipe FallBack(Turning T) {
+    return Make(PlanFall, T);
 }
 
 }  // namespace neb::effects

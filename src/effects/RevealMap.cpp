@@ -1,7 +1,6 @@
 #include "effects/RevealMap.h"
 
 #include <algorithm>
-#include <cstring>
 
 #include "effects/Pixels.h"
 
@@ -17,6 +16,25 @@ class PlainReveal : public Engine {
     RevealMap mMap;
 };
 
+NEB_WIDE void FindRange(const std::int16_t* Moments, int Count, std::int16_t& Low,
+                        std::int16_t& High) {
+    std::int16_t Least = Moments[0], Most = Moments[0];
+    for (int I = 1; I < Count; ++I) {
+        Least = std::min(Least, Moments[I]);
+        Most = std::max(Most, Moments[I]);
+    }
+    Low = Least;
+    High = Most;
+}
+
+// Adds up what holds of a tile: the edge has come to it, the edge has left it.
+NEB_WIDE void Classify(const std::int16_t* Low, const std::int16_t* High, std::uint8_t* Kinds,
+                       int Count, std::int16_t Edge, std::int16_t Passed) {
+    NEB_INDEPENDENT
+    for (int I = 0; I < Count; ++I)
+        Kinds[I] = static_cast<std::uint8_t>((Low[I] < Edge ? 1 : 0) + (High[I] <= Passed ? 1 : 0));
+}
+
 }  // namespace
 
 std::unique_ptr<Engine> RevealEngine(RevealMap Map) {
@@ -24,28 +42,46 @@ std::unique_ptr<Engine> RevealEngine(RevealMap Map) {
 }
 
 RevealMap::RevealMap(QSize Size, int SoftBits, const RowMaker& MakeRow)
-    : mWidth(Size.width()), mTiles((Size.width() + kTile - 1) / kTile), mSoftBits(SoftBits) {
+    : mWidth(Size.width()),
+      mTiles((Size.width() + kTile - 1) / kTile),
+      mGroups((mTiles + kGroup - 1) / kGroup),
+      mSoftBits(SoftBits) {
+    const auto Height = static_cast<std::size_t>(Size.height());
     std::vector<std::int16_t> Line(static_cast<std::size_t>(mWidth));
-    mRowOf.reserve(static_cast<std::size_t>(Size.height()));
+    mMoments.reserve(Height * Line.size());  // only what is written takes up memory
+    mLow.reserve(Height * static_cast<std::size_t>(mTiles));
+    mHigh.reserve(Height * static_cast<std::size_t>(mTiles));
+    mRowOf.reserve(Height);
     for (int Y = 0; Y < Size.height(); ++Y) {
         MakeRow(Y, Line.data());
-        AddRow(Line.data());
+        AddRow(Line.data(), Size.height());
     }
 }
 
-void RevealMap::AddRow(const std::int16_t* Moments) {
+bool RevealMap::SameAs(const std::int16_t* Moments, std::size_t Kept) const {
     const auto Width = static_cast<std::size_t>(mWidth);
-    const bool Repeats =
-        !mRowOf.empty() && std::equal(Moments, Moments + Width, mMoments.end() - mWidth);
-    if (!Repeats) {
-        mMoments.insert(mMoments.end(), Moments, Moments + Width);
-        for (int X = 0; X < mWidth; X += kTile) {
-            const auto [Low, High] =
-                std::minmax_element(Moments + X, Moments + std::min(X + kTile, mWidth));
-            mSpans.push_back({*Low, *High});
-        }
+    return std::equal(Moments, Moments + Width, mMoments.data() + Kept * Width);
+}
+
+std::size_t RevealMap::Keep(const std::int16_t* Moments) {
+    mMoments.insert(mMoments.end(), Moments, Moments + mWidth);
+    for (int X = 0; X < mWidth; X += kTile) {
+        std::int16_t Low, High;
+        FindRange(Moments + X, std::min(kTile, mWidth - X), Low, High);
+        mLow.push_back(Low);
+        mHigh.push_back(High);
     }
-    mRowOf.push_back(static_cast<int>(mMoments.size() / Width) - 1);
+    return mKept++;
+}
+
+void RevealMap::AddRow(const std::int16_t* Moments, int Height) {
+    const int Y = static_cast<int>(mRowOf.size()), Mirror = Height - 1 - Y;
+    if (Y > 0 && SameAs(Moments, RowOf(Y - 1)))
+        mRowOf.push_back(RowOf(Y - 1));
+    else if (Mirror < Y && Y > 0 && SameAs(Moments, RowOf(Mirror)))
+        mRowOf.push_back(RowOf(Mirror));
+    else
+        mRowOf.push_back(Keep(Moments));
 }
 
 int RevealMap::EdgeAt(int Progress) const {
@@ -53,13 +89,17 @@ int RevealMap::EdgeAt(int Progress) const {
 }
 
 const std::int16_t* RevealMap::Row(int Y) const {
-    return mMoments.data() + std::size_t(mRowOf[std::size_t(Y)]) * std::size_t(mWidth);
+    return mMoments.data() + RowOf(Y) * static_cast<std::size_t>(mWidth);
 }
 
-RevealMap::Kind RevealMap::KindOf(const Span& S, int Edge) const {
-    if (Edge <= S.Low) return Kind::Old;
-    if (Edge - S.High >= (1 << mSoftBits)) return Kind::New;
-    return Kind::Mixed;
+const RevealMap::Kind* RevealMap::FindKinds(int Y, int Edge) const {
+    auto* Kinds = Scratch<Kind, RevealMap>(mGroups * kGroup);
+    const std::size_t First = RowOf(Y) * static_cast<std::size_t>(mTiles);
+    Classify(mLow.data() + First, mHigh.data() + First, reinterpret_cast<std::uint8_t*>(Kinds),
+             mTiles, static_cast<std::int16_t>(Edge),
+             static_cast<std::int16_t>(Edge - (1 << mSoftBits)));
+    std::fill(Kinds + mTiles, Kinds + mGroups * kGroup, Kinds[mTiles - 1]);
+    return Kinds;
 }
 
 void RevealMap::Draw(const Frame& F, int Y0, int Y1) const {
@@ -75,30 +115,6 @@ void RevealMap::Draw(const Frame& F, int Y0, int Y1) const {
             else
                 CopySpan(Out + X0, (What == Kind::New ? New : Old) + X0, X1 - X0);
         });
-    }
-}
-
-NEB_WIDE void MixByMoments(QRgb* Out, const QRgb* Old, const QRgb* New, const std::int16_t* Moments,
-                           int Count, int Edge, int SoftBits) {
-    constexpr int Chunk = 64;
-    std::uint16_t Weights[Chunk * 4];
-    const int Shift = SoftBits - 8;
-    const auto Far = static_cast<std::int16_t>(Edge);
-    for (int X = 0; X < Count; X += Chunk) {
-        const int N = std::min(Chunk, Count - X);
-        for (int I = 0; I < N; ++I) {
-            const int W = Clamp((Far - Moments[X + I]) >> Shift, 0, 256);
-            const std::uint64_t Four = static_cast<std::uint64_t>(W) * 0x0001000100010001u;
-            std::memcpy(Weights + 4 * I, &Four, sizeof Four);
-        }
-        const auto* O = reinterpret_cast<const std::uint8_t*>(Old + X);
-        const auto* P = reinterpret_cast<const std::uint8_t*>(New + X);
-        auto* __restrict To = reinterpret_cast<std::uint8_t*>(Out + X);
-        for (int I = 0; I < 4 * N; ++I) {
-            const auto A = static_cast<std::uint16_t>(O[I] * (256 - Weights[I]));
-            const auto B = static_cast<std::uint16_t>(P[I] * Weights[I]);
-            To[I] = static_cast<std::uint8_t>(static_cast<std::uint16_t>(A + B + 128) >> 8);
-        }
     }
 }
 

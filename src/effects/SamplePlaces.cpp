@@ -122,4 +122,8 @@ void SamplePlaces(QRgb* Out, const Picture& P, const int* U, const int* V, int C
     SampleOneByOne(Out, P, U, V, Count);
 }
 
+NEB_WIDE void StepSpan(int* Out, int Start, int Step, int Count) {
+    for (int I = 0; I < Count; ++I) Out[I] = Start + I * Step;
+}
+
 }  // namespace neb::effects

@@ -76,6 +76,8 @@ inline QRgb Sample(const Picture& P, int U, int V) {
 
 // Many such places at once, one for each pixel of Out: the quickest way to read between pixels.
 void SamplePlaces(QRgb* Out, const Picture& P, const int* U, const int* V, int Count);
+// Places that lie evenly: Start, Start + Step, Start + 2 * Step ...
+void StepSpan(int* Out, int Start, int Step, int Count);
 
 // The same where one pixel of the frame covers Du by Dv of the picture: pictures that shrink
 // are averaged, so that nothing sparkles.

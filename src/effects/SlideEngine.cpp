@@ -1,172 +1,204 @@
 #include "effects/SlideEngine.h"
 
-#include <algorithm>
-
-#include "effects/Pixels.h"
+#include "effects/Fixed.h"
+#include "effects/Sheets.h"
 
 namespace neb::effects {
 namespace {
 
-// One moving piece: frame places From..To of the moving direction show the picture's places
-// moved back by Shift.
-struct Piece {
-    const Picture* Source;
-    int From, To;
-    int Shift;
-};
-
-// What a frame consists of along the moving direction, and where its shadow falls.
-struct Layout {
-    Piece Pieces[3];
-    int ShadowFrom = 0, ShadowTo = 0;  // darkest at ShadowFrom; may run backwards
-    int SecondFrom = 0, SecondTo = 0;
-};
-
-using Planner = Layout (*)(const Frame& F, int Length, int Moved);
+// Where the sheets are at a progress, in frames of a size.
+using Planner = std::function<Arrangement(QSize Size, int Progress)>;
 
 class SlideEngine : public Engine {
   public:
-    SlideEngine(Planner Plan, bool Across, bool Mirrored)
-        : mPlan(Plan), mAcross(Across), mMirrored(Mirrored) {}
-
+    explicit SlideEngine(Planner Plan) : mPlan(std::move(Plan)) {}
     void Draw(const Frame& F, int Y0, int Y1) const override {
-        const int Length = mAcross ? F.Width : F.Height;
-        const int Moved = (Scale(2 * Length, Ease(F.Progress)) + 1) / 2;
-        const Layout L =
-            mMirrored ? Turn(mPlan(F, Length, Moved), Length) : mPlan(F, Length, Moved);
-        const int Depth = Scale(110, Hump(F.Progress));
-        for (int Y = Y0; Y < Y1; ++Y) {
-            if (mAcross)
-                DrawAcross(F, L, Depth, Y);
-            else
-                DrawDown(F, L, Depth, Y);
-        }
+        DrawSheets(F, mPlan({F.Width, F.Height}, F.Progress), Y0, Y1);
     }
 
   private:
-    static Layout Turn(Layout L, int Length) {
-        for (Piece& P : L.Pieces) P = {P.Source, Length - P.To, Length - P.From, -P.Shift};
-        L.ShadowFrom = Length - L.ShadowFrom;
-        L.ShadowTo = Length - L.ShadowTo;
-        L.SecondFrom = Length - L.SecondFrom;
-        L.SecondTo = Length - L.SecondTo;
-        return L;
-    }
-
-    // Strength of a shadow at a place, 0..256.
-    static int ShadowAt(int From, int To, int Depth, int Place) {
-        const int Width = std::abs(To - From);
-        if (Width == 0) return 0;
-        const int Off = To > From ? Place - From : From - 1 - Place;
-        if (Off < 0 || Off >= Width) return 0;
-        const int Left = Width - Off;
-        return static_cast<int>(std::int64_t{Depth} * Left * Left / (std::int64_t{Width} * Width));
-    }
-
-    static void Darken(QRgb* Row, int Width, int From, int To, int Depth) {
-        const int X0 = std::max(0, std::min(From, To)), X1 = std::min(Width, std::max(From, To));
-        for (int X = X0; X < X1; ++X) Row[X] = Mix(Row[X], kBlack, ShadowAt(From, To, Depth, X));
-    }
-
-    static void DrawAcross(const Frame& F, const Layout& L, int Depth, int Y) {
-        QRgb* Out = F.Row(Y);
-        for (const Piece& P : L.Pieces)
-            if (P.To > P.From)
-                CopySpan(Out + P.From, P.Source->Row(Y) + P.From - P.Shift, P.To - P.From);
-        Darken(Out, F.Width, L.ShadowFrom, L.ShadowTo, Depth);
-        Darken(Out, F.Width, L.SecondFrom, L.SecondTo, Depth);
-    }
-
-    static void DrawDown(const Frame& F, const Layout& L, int Depth, int Y) {
-        const int Shadow = std::max(ShadowAt(L.ShadowFrom, L.ShadowTo, Depth, Y),
-                                    ShadowAt(L.SecondFrom, L.SecondTo, Depth, Y));
-        for (const Piece& P : L.Pieces) {
-            if (Y < P.From || Y >= P.To) continue;
-            const QRgb* From = P.Source->Row(Y - P.Shift);
-            if (Shadow)
-                MixSpanWithColour(F.Row(Y), From, kBlack, Shadow, F.Width);
-            else
-                CopySpan(F.Row(Y), From, F.Width);
-        }
-    }
-
     Planner mPlan;
-    bool mAcross;
-    bool mMirrored;
 };
 
-int ShadowWidth(int Length) {
-    return Length / 24;
+Recipe Make(const char* Name, const Planner& Plan) {
+    return {Name, [=](const Pair&) { return std::make_unique<SlideEngine>(Plan); }};
 }
 
-// All plans move towards lower places; the engine mirrors them for the other way.
-Layout PlanPush(const Frame& F, int Length, int Moved) {
-    return {{{&F.Old, 0, Length - Moved, -Moved},
-             {&F.New, Length - Moved, Length, Length - Moved},
-             {}}};
+struct Step {
+    int X, Y;
+};
+Step StepOf(Heading Way) {
+    static constexpr Step kSteps[] = {{-1, 0}, {1, 0}, {0, -1}, {0, 1}, {-1, -1}, {-1, 1}};
+    return kSteps[static_cast<int>(Way)];
 }
 
-Layout PlanCover(const Frame& F, int Length, int Moved) {
-    const int Edge = Length - Moved;
-    return {
-        {{&F.Old, 0, Edge, 0}, {&F.New, Edge, Length, Edge}, {}}, Edge, Edge - ShadowWidth(Length)};
+Area WholeOf(QSize Size) {
+    return {0, 0, Size.width(), Size.height()};
 }
 
-Layout PlanUncover(const Frame& F, int Length, int Moved) {
-    const int Edge = Length - Moved;
-    return {{{&F.Old, 0, Edge, -Moved}, {&F.New, Edge, Length, 0}, {}},
-            Edge,
-            Edge + ShadowWidth(Length)};
+// What is left of a way.
+int Missing(int Length, int Progress) {
+    return (Length << 8) - Travelled(Length, Progress);
 }
 
-Layout PlanOpen(const Frame& F, int Length, int Moved) {
-    const int Half = Length / 2;
-    const int A = Half - Half * Moved / Length, B = Half + (Length - Half) * Moved / Length;
-    const int Wide = std::min(ShadowWidth(Length), (B - A) / 2);
-    return {{{&F.Old, 0, A, A - Half}, {&F.New, A, B, 0}, {&F.Old, B, Length, B - Half}},
-            A,
-            A + Wide,
-            B,
-            B - Wide};
+// A sheet of the new picture on its way in: it goes one length of the frame.
+Sheet Coming(const Area& Part, Step Way, QSize Size, int Progress) {
+    return {Side::New,
+            Part,
+            -Way.X * Missing(Size.width(), Progress),
+            -Way.Y * Missing(Size.height(), Progress),
+            ShadowDepth(Progress),
+            false};
 }
 
-Layout PlanClose(const Frame& F, int Length, int Moved) {
-    const int Half = Length / 2;
-    const int A = Half * Moved / Length, B = Length - (Length - Half) * Moved / Length;
-    const int Wide = std::min(ShadowWidth(Length), (B - A) / 2);
-    return {{{&F.New, 0, A, A - Half}, {&F.Old, A, B, 0}, {&F.New, B, Length, B - Half}},
-            A,
-            A + Wide,
-            B,
-            B - Wide};
+// A sheet of the old picture on its way out: it goes as far as told.
+Sheet Going(const Area& Part, Step Way, QSize Far, int Progress) {
+    return {Side::Old,
+            Part,
+            Way.X * Travelled(Far.width(), Progress),
+            Way.Y * Travelled(Far.height(), Progress),
+            ShadowDepth(One - Progress),
+            false};
 }
 
-Recipe Make(const char* Name, Planner Plan, bool Across, bool Mirrored) {
-    return {Name,
-            [=](const Pair&) { return std::make_unique<SlideEngine>(Plan, Across, Mirrored); }};
+void AddPush(Arrangement& A, const Area& Part, Step Way, QSize Size, int Progress) {
+    Sheet Old = Going(Part, Way, Size, Progress);
+    Old.Filled = true;
+    A.Add(Old);
+    A.Add(Coming(Part, Way, Size, Progress));
 }
 
-Recipe MakeHeading(const char* Name, Planner Plan, Heading Way) {
-    const bool Across = Way == Heading::Left || Way == Heading::Right;
-    return Make(Name, Plan, Across, Way == Heading::Right || Way == Heading::Down);
+Arrangement PlanPushHalves(QSize Size, int Progress) {
+    Arrangement A;
+    const int Half = Size.height() / 2;
+    AddPush(A, {0, 0, Size.width(), Half}, {-1, 0}, Size, Progress);
+    AddPush(A, {0, Half, Size.width(), Size.height()}, {1, 0}, Size, Progress);
+    return A;
+}
+
+// The progress of one of several sheets that start one after the other; each takes Share of the
+// whole time, in hundredths.
+int ProgressOf(int Index, int Count, int Share, int Progress) {
+    const int Long = One * Share / 100;
+    const int Start = Count < 2 ? 0 : (One - Long) * Index / (Count - 1);
+    return static_cast<int>(std::int64_t{One} * Clamp(Progress - Start, 0, Long) / Long);
+}
+
+// The start of one of several parts of equal size.
+int StartOf(int Index, int Count, int Length) {
+    return static_cast<int>(std::int64_t{Length} * Index / Count);
+}
+
+Arrangement PlanStrips(QSize Size, int Progress, int Count) {
+    Arrangement A;
+    A.Still = Side::Old;
+    for (int I = 0; I < Count; ++I) {
+        const Area Part{0, StartOf(I, Count, Size.height()), Size.width(),
+                        StartOf(I + 1, Count, Size.height())};
+        A.Add(Coming(Part, {I % 2 ? -1 : 1, 0}, Size, ProgressOf(I, Count, 60, Progress)));
+    }
+    return A;
+}
+
+Arrangement PlanColumns(QSize Size, int Progress, int Count) {
+    Arrangement A;
+    A.Still = Side::Old;
+    for (int I = 0; I < Count; ++I) {
+        const Area Part{StartOf(I, Count, Size.width()), 0, StartOf(I + 1, Count, Size.width()),
+                        Size.height()};
+        A.Add(Coming(Part, {0, 1}, Size, ProgressOf(I, Count, 45, Progress)));
+    }
+    return A;
+}
+
+Arrangement PlanQuarters(QSize Size, int Progress) {
+    Arrangement A;
+    A.Still = Side::New;
+    const int X = Size.width() / 2, Y = Size.height() / 2;
+    const QSize Far(Size.width() - X, Size.height() - Y);
+    A.Add(Going({0, 0, X, Y}, {-1, -1}, Far, Progress));
+    A.Add(Going({X, 0, Size.width(), Y}, {1, -1}, Far, Progress));
+    A.Add(Going({0, Y, X, Size.height()}, {-1, 1}, Far, Progress));
+    A.Add(Going({X, Y, Size.width(), Size.height()}, {1, 1}, Far, Progress));
+    return A;
+}
+
+// The two halves of a picture, and the way each goes when they part.
+struct Halves {
+    Area First, Second;
+    Step Way;
+    QSize Far;  // half the frame, rounded up
+};
+Halves HalvesOf(QSize Size, bool Across) {
+    const int W = Size.width(), H = Size.height();
+    const QSize Far((W + 1) / 2, (H + 1) / 2);
+    if (Across) return {{0, 0, W / 2, H}, {W / 2, 0, W, H}, {1, 0}, Far};
+    return {{0, 0, W, H / 2}, {0, H / 2, W, H}, {0, 1}, Far};
+}
+
+Arrangement PlanOpen(QSize Size, int Progress, bool Across) {
+    Arrangement A;
+    A.Still = Side::New;
+    const Halves H = HalvesOf(Size, Across);
+    A.Add(Going(H.First, {-H.Way.X, -H.Way.Y}, H.Far, Progress));
+    A.Add(Going(H.Second, H.Way, H.Far, Progress));
+    return A;
+}
+
+Arrangement PlanClose(QSize Size, int Progress, bool Across) {
+    Arrangement A;
+    A.Still = Side::Old;
+    const Halves H = HalvesOf(Size, Across);
+    A.Add(Coming(H.First, H.Way, H.Far, Progress));
+    A.Add(Coming(H.Second, {-H.Way.X, -H.Way.Y}, H.Far, Progress));
+    return A;
 }
 
 }  // namespace
 
 Recipe Push(Heading Way) {
-    return MakeHeading("Slide", PlanPush, Way);
+    return Make("Slide", [=](QSize Size, int Progress) {
+        Arrangement A;
+        AddPush(A, WholeOf(Size), StepOf(Way), Size, Progress);
+        return A;
+    });
 }
+
 Recipe Cover(Heading Way) {
-    return MakeHeading("Slide", PlanCover, Way);
+    return Make("Slide", [=](QSize Size, int Progress) {
+        Arrangement A;
+        A.Still = Side::Old;
+        A.Add(Coming(WholeOf(Size), StepOf(Way), Size, Progress));
+        return A;
+    });
 }
+
 Recipe Uncover(Heading Way) {
-    return MakeHeading("Slide", PlanUncover, Way);
+    return Make("Slide", [=](QSize Size, int Progress) {
+        Arrangement A;
+        A.Still = Side::New;
+        A.Add(Going(WholeOf(Size), StepOf(Way), Size, Progress));
+        return A;
+    });
+}
+
+Recipe PushHalves() {
+    return Make("Slide", PlanPushHalves);
+}
+Recipe SlidingStrips(int Count) {
+    return Make("Slide", [=](QSize Size, int P) { return PlanStrips(Size, P, Count); });
+}
+Recipe FallingColumns(int Count) {
+    return Make("Slide", [=](QSize Size, int P) { return PlanColumns(Size, P, Count); });
+}
+Recipe QuartersPart() {
+    return Make("Doors", PlanQuarters);
 }
 Recipe DoorsOpen(bool Across) {
-    return Make("Doors", PlanOpen, Across, false);
+    return Make("Doors", [=](QSize Size, int P) { return PlanOpen(Size, P, Across); });
 }
 Recipe DoorsClose(bool Across) {
-    return Make("Doors", PlanClose, Across, false);
+    return Make("Doors", [=](QSize Size, int P) { return PlanClose(Size, P, Across); });
 }
 
 }  // namespace neb::effects

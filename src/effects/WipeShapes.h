@@ -1,5 +1,5 @@
-// The shapes of the wipes: for a place in the picture the moment at which it turns. Each is a
-// plain function, so that a new shape is a function and its use a row of the catalogue.
+// The shapes of the wipes: for each place in the picture the moment at which it turns. A new
+// shape is a class that fills rows, one line here, and its use a row of the catalogue.
 #pragma once
 
 #include "effects/Fixed.h"
@@ -13,29 +13,67 @@ struct WipePlace {
     int Count;          // what the shape makes of it: stripes, cells, hands, teeth
 };
 
-// The moment of a place, 0 up to RevealMap::Levels - 1.
-using WipeShape = int (*)(const WipePlace& P);
+// A shape made for one size of pictures.
+class WipeRows {
+  public:
+    virtual ~WipeRows() = default;
+    // The moments of a row, each 0 up to RevealMap::Levels - 1.
+    virtual void Fill(int Y, std::int16_t* Row) const = 0;
+    // True when every row is like the first.
+    virtual bool OneRow() const { return false; }
+};
 
-int Straight(const WipePlace& P);  // from the left to the right
-int Diagonal(const WipePlace& P);  // from the top left corner to the bottom right one
-int Centre(const WipePlace& P);    // from the upright line in the middle to both sides
-int Circle(const WipePlace& P);    // from the middle outwards
-int Diamond(const WipePlace& P);
-int Box(const WipePlace& P);
-int Cross(const WipePlace& P);         // the four arms first, the corners last
-int Star(const WipePlace& P);          // Count: points
-int Clock(const WipePlace& P);         // Count: hands, the first at twelve
-int Fan(const WipePlace& P);           // from twelve to both sides
-int Sweep(const WipePlace& P);         // a quarter circle about the top left corner
-int Swirl(const WipePlace& P);         // hands bent with the distance from the middle
-int Blinds(const WipePlace& P);        // Count: slats, each from its left edge
-int BlindsInTurn(const WipePlace& P);  // the slats to the left begin first
-int Comb(const WipePlace& P);          // Count: teeth, in turn from the left and the right
-int Checker(const WipePlace& P);       // Count: cells along the longer side
-int RandomBars(const WipePlace& P);    // Count: bars in a scattered order
-int Spiral(const WipePlace& P);        // Count: cells along the longer side, walked inwards
-int Snake(const WipePlace& P);         // Count: lanes, walked to and fro
-int Waves(const WipePlace& P);         // an edge of Count waves, left to right
-int Teeth(const WipePlace& P);         // an edge of Count teeth, left to right
+// Which shape: something that makes it for a size, or nothing.
+class WipeShape {
+  public:
+    using Maker = std::unique_ptr<WipeRows> (*)(QSize Size, int Count);
+
+    constexpr WipeShape(Maker By) : mMake(By) {}
+    constexpr WipeShape(std::nullptr_t) {}
+    explicit operator bool() const { return mMake != nullptr; }
+    std::unique_ptr<WipeRows> Make(QSize Size, int Count) const { return mMake(Size, Count); }
+    // The moment of a single place, for what has only few of them.
+    int operator()(const WipePlace& P) const;
+
+  private:
+    Maker mMake = nullptr;
+};
+
+// WipeShapes.cpp: straight edges
+extern const WipeShape Straight;      // from the left to the right
+extern const WipeShape Diagonal;      // from the top left corner to the bottom right one
+extern const WipeShape Centre;        // from the upright line in the middle to both sides
+extern const WipeShape Diamond;       // from the middle outwards
+extern const WipeShape Box;           // from the middle outwards
+extern const WipeShape Cross;         // the four arms first, the corners last
+extern const WipeShape Blinds;        // Count: slats, each from its left edge
+extern const WipeShape BlindsInTurn;  // the slats to the left begin first
+extern const WipeShape BlindsAslant;  // Count: slats, from the top left corner
+extern const WipeShape RandomBars;    // Count: bars in a scattered order
+extern const WipeShape Waves;         // an edge of Count waves, left to right
+extern const WipeShape Teeth;         // an edge of Count teeth, left to right
+
+// WipeShapesRound.cpp: about the middle
+extern const WipeShape Circle;  // outwards
+extern const WipeShape Star;    // outwards; Count: points
+extern const WipeShape Heart;   // outwards
+extern const WipeShape Rings;   // Count: rings, each outwards, the inner ones begin first
+extern const WipeShape Clock;   // Count: hands, the first at twelve
+extern const WipeShape Fan;     // from twelve to both sides
+extern const WipeShape Sweep;   // a quarter circle about the top left corner
+extern const WipeShape Swirl;   // Count: hands bent with the distance from the middle
+
+// WipeShapesCells.cpp: cells and lanes
+extern const WipeShape Checker;   // Count: cells along the longer side
+extern const WipeShape Comb;      // Count: teeth, in turn from the left and the right
+extern const WipeShape Snake;     // Count: lanes, walked to and fro
+extern const WipeShape Spiral;    // Count: cells along the longer side, walked inwards
+extern const WipeShape Weave;     // Count: bands along the longer side, over and under
+extern const WipeShape Halftone;  // Count: growing dots along the longer side, left to right
+extern const WipeShape Honey;     // Count: six-sided cells along the longer side, outwards
+
+// WipeShapesPaint.cpp: as if by hand and weather
+extern const WipeShape Brush;  // Count: strokes, to and fro from the top down
+extern const WipeShape Drops;  // Count: growing drops at scattered places
 
 }  // namespace neb::effects

@@ -12,10 +12,13 @@ struct ZoomPlace {
 };
 
 struct ZoomForm {
-    ZoomPlace OldTo = {};    // where the old picture goes
-    ZoomPlace NewFrom = {};  // where the new one comes from
-    bool OldOnTop = false;   // which of the two lies over the other
-    bool Fades = false;      // the upper one comes or goes through glass
+    ZoomPlace OldTo = {};            // where the old picture goes
+    ZoomPlace NewFrom = {};          // where the new one comes from
+    bool OldOnTop = false;           // which of the two lies over the other
+    bool Fades = false;              // the upper one comes or goes through glass
+    int FadeFrom = 0, FadeTo = 100;  // of the way, in hundredths
+    bool Shaded = false;             // the upper one throws a soft shadow
+    bool Mirrored = false;           // pictures fill the view, mirrored beyond their sides
 };
 
 Recipe Zoom(ZoomForm Form);

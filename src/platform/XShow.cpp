@@ -2,6 +2,7 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPointer>
 #include <algorithm>
 #include <cmath>
 
@@ -88,15 +89,19 @@ XShowLayout XShow::LayoutNow() const {
     return L;
 }
 
+// What has been prepared counts for the wait for the first step.
 void XShow::RunEffect() {
+    const QPointer<XShow> Alive(this);
     StopEffect();
-    if (mRunning) return;
+    if (!Alive || mRunning) return;
+    const double Began = TheServices().Time->Ticks();
     FitAgain();
-    mRunning = true;
     mStep = mSteps = 0;
+    mRunDelay = 0;
     if (!mNext.Source.isNull()) StartSteps();
+    mRunning = true;
     ++mRunCount;
-    mDue = TheServices().Time->Ticks() + (mSteps > 0 ? mRunDelay : 0);
+    mDue = Began + mRunDelay;
     AwaitStep();
 }
 
@@ -112,7 +117,6 @@ void XShow::StartSteps() {
     mRunStep = mStepPercent;
     mRunDelay = mDelay / 10.0;
     mSteps = (100 + mRunStep - 1) / mRunStep;
-    mBack = mOld.Fitted;
     MakeTransition();
 }
 
@@ -124,29 +128,30 @@ void XShow::MakeTransition() {
 }
 
 // The view, the screen or an option may have changed since the pictures were fitted.
-void XShow::FitAgain() {
+bool XShow::FitAgain() {
     const XShowLayout Layout = LayoutNow();
-    if (mNow.Layout == Layout && mNow.Fitted.size() == Layout.View) return;
+    if (mNow.Layout == Layout && mNow.Fitted.size() == Layout.View) return false;
     Fit(mNow, Layout);
-    if (!mRunning || mSteps == 0) return;
+    if (!mRunning || mSteps == 0) return false;
     Fit(mOld, Layout);
     MakeTransition();
     DrawStep();
+    return true;
 }
 
 double XShow::ProgressNow() const {
     return mStep >= mSteps ? 1.0 : std::min(1.0, mStep * mRunStep / 100.0);
 }
 
+// Neither end of the way is drawn: the pictures themselves are shown then.
 const QImage& XShow::Visible() const {
-    return mRunning && mSteps > 0 ? mBack : mNow.Fitted;
+    if (!mRunning || ProgressNow() >= 1) return mNow.Fitted;
+    return mStep > 0 && mTransition ? mFrame : mOld.Fitted;
 }
 
 void XShow::DrawStep() {
-    if (mTransition && ProgressNow() < 1)
-        DrawInBands(*mTransition, ProgressNow(), mBack);
-    else
-        mBack = mStep > 0 ? mNow.Fitted : mOld.Fitted;
+    const double Progress = ProgressNow();
+    if (mTransition && Progress > 0 && Progress < 1) DrawInBands(*mTransition, Progress, mFrame);
 }
 
 // The timer counts whole milliseconds; the rest of the wait goes round the event loop, so that
@@ -165,20 +170,30 @@ void XShow::OnTimer() {
         DoStep();
 }
 
+// Whoever watches the painting or hears of the step may stop the transition, begin another or
+// delete the view.
 void XShow::DoStep() {
     mDue = TheServices().Time->Ticks() + mRunDelay;
-    FitAgain();
     ++mStep;
-    DrawStep();
+    if (!FitAgain()) DrawStep();
+    const QPointer<XShow> Alive(this);
+    const auto Goes = [&Alive, this, Run = mRunCount] {
+        return Alive && mRunning && Run == mRunCount;
+    };
+    ShowStep();
+    if (!Goes()) return;
+    const bool Last = mStep >= mSteps;
+    if (!Last) AwaitStep();
+    Q_EMIT EffectStepped(ProgressNow());
+    if (Last && Goes()) Finish();
+}
+
+// Wholly on the screen before the next one is begun, if that is asked for.
+void XShow::ShowStep() {
     if (mWhole)
         repaint();
     else
         update();
-    const bool Last = mStep >= mSteps;
-    if (!Last) AwaitStep();
-    const int Run = mRunCount;
-    Q_EMIT EffectStepped(ProgressNow());
-    if (Last && mRunning && Run == mRunCount) Finish();
 }
 
 void XShow::StopEffect() {
@@ -196,11 +211,13 @@ void XShow::Finish() {
 
 void XShow::paintEvent(QPaintEvent*) {
     FitAgain();
+    const QImage& Shown = Visible();
     QPainter Painter(this);
-    Painter.fillRect(rect(), Qt::black);
+    if (QSizeF(Shown.size()) != QSizeF(size()) * devicePixelRatioF())
+        Painter.fillRect(rect(), Qt::black);
     // The frame has the screen's own pixels; telling it so would copy it at every step.
     Painter.scale(1 / devicePixelRatioF(), 1 / devicePixelRatioF());
-    Painter.drawImage(QPoint(0, 0), Visible());
+    Painter.drawImage(QPoint(0, 0), Shown);
 }
 
 void XShow::resizeEvent(QResizeEvent* Event) {

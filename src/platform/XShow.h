@@ -76,13 +76,14 @@ class XShow : public QWidget {
     XShowLayout LayoutNow() const;
     void ChangeLayout(bool XShowLayout::*Option, bool On);
     void TakeNext(const XShowLayout& Layout);
-    void FitAgain();
+    bool FitAgain();  // whether the present step was drawn anew
     void MakeTransition();
     void StartSteps();
     void AwaitStep();
     void OnTimer();
     void DoStep();
     void DrawStep();
+    void ShowStep();
     void Finish();
     double ProgressNow() const;
     const QImage& Visible() const;
@@ -93,7 +94,7 @@ class XShow : public QWidget {
     LoadedPicture mNow;   // on the screen, or on its way there
     LoadedPicture mNext;  // loaded; null source: nothing
     std::unique_ptr<Transition> mTransition;
-    QImage mBack;  // the present step of a transition
+    QImage mFrame;  // of the present step, between the two pictures; kept for the next transition
     QTimer mTimer;
 
     int mNumber = 1;

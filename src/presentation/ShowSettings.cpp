@@ -12,6 +12,10 @@ QString Head(const clsSettings& Settings, const char* Key, const char* Default) 
     return Settings.GetValue({}, QString::fromLatin1(Key), QString::fromLatin1(Default));
 }
 
+std::int32_t Number(const clsSettings& Settings, const char* Key) {
+    return CInt(Val(Head(Settings, Key, "0")));
+}
+
 std::int32_t AtLeastOne(const clsSettings& Settings, const char* Key, const char* Default,
                         std::int32_t Correction) {
     const std::int32_t Value = CInt(Val(Head(Settings, Key, Default)));
@@ -35,6 +39,10 @@ bool IsNumber(const clsSettings& Settings, const char* Key, std::int32_t Wanted)
     return Val(Head(Settings, Key, "0")) == Wanted;
 }
 
+QString EffectSection() {
+    return QStringLiteral("Effect Selections");
+}
+
 }  // namespace
 
 bool FlagValue(const QString& Text) {
@@ -44,16 +52,34 @@ bool FlagValue(const QString& Text) {
     return Yes.contains(Text.toUpper());
 }
 
+QString FlagText(bool On) {
+    return On ? QStringLiteral("True") : QStringLiteral("False");
+}
+
+ActiveShow ReadActiveShow(const clsSettings& Settings) {
+    return {std::max(0, Number(Settings, "ActiveAlbum")),
+            std::max(0, Number(Settings, "ActiveSlideShow"))};
+}
+
+std::int32_t ReadNextSlideSeq(const clsSettings& Settings) {
+    return Number(Settings, "NextSlideSeq");
+}
+
+double ReadSlideTimeout(const clsSettings& Settings, std::int32_t Default) {
+    const double Timeout =
+        Val(Settings.GetValue({}, QStringLiteral("Timeout"), QString::number(Default)));
+    return Timeout > 0 ? Timeout : Default;
+}
+
 ShowSettings ReadShowSettings(const clsSettings& Settings, std::int32_t AlbumID,
                               std::int32_t SlideShowID) {
     ShowSettings Read;
     if (IsNumber(Settings, "ActiveAlbum", AlbumID) &&
         IsNumber(Settings, "ActiveSlideShow", SlideShowID)) {
-        Read.ResumeSeq = CInt(Val(Head(Settings, "NextSlideSeq", "0")));
+        Read.ResumeSeq = ReadNextSlideSeq(Settings);
         Read.ResumeValid = true;
     }
-    Read.SlideTimeout = Val(Head(Settings, "Timeout", "10"));
-    if (!(Read.SlideTimeout > 0)) Read.SlideTimeout = 10;
+    Read.SlideTimeout = ReadSlideTimeout(Settings, 10);
     return Read;
 }
 
@@ -78,7 +104,11 @@ QString EffectKey(std::int32_t Place) {
 }
 
 bool ReadEffectSelected(const clsSettings& Settings, std::int32_t Place) {
-    return FlagValue(Settings.GetValue(QStringLiteral("Effect Selections"), EffectKey(Place), {}));
+    return FlagValue(Settings.GetValue(EffectSection(), EffectKey(Place), {}));
+}
+
+void PutEffectSelected(clsSettings& Settings, std::int32_t Place, bool Selected) {
+    Settings.PutValue(EffectSection(), EffectKey(Place), FlagText(Selected));
 }
 
 void ReadEffectSelections(const clsSettings& Settings, EffectTables& Tables) {

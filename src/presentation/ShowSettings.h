@@ -14,6 +14,19 @@ class clsSettings;
 // A flag in the settings file: "TRUE", "T", "1", "-1", "YES", "ON" in any case, and nothing at
 // all, are true; everything else is false.
 bool FlagValue(const QString& Text);
+QString FlagText(bool On);  // "True" or "False", as it is written
+
+// The show that the main window plays; 0 where none is chosen, never below.
+struct ActiveShow {
+    std::int32_t AlbumID = 0;
+    std::int32_t SlideShowID = 0;
+};
+
+ActiveShow ReadActiveShow(const clsSettings& Settings);
+// The place on which the active show was left, as it stands in the file.
+std::int32_t ReadNextSlideSeq(const clsSettings& Settings);
+// Seconds. Default stands for a missing value and for one that is not above 0.
+double ReadSlideTimeout(const clsSettings& Settings, std::int32_t Default);
 
 // Where the show goes on and how long a slide stays up.
 struct ShowSettings {
@@ -31,6 +44,7 @@ EffectSettings ReadEffectSettings(const clsSettings& Settings, std::int32_t Leve
 // The key in section "Effect Selections" of an effect's place, 0 to 127.
 QString EffectKey(std::int32_t Place);
 bool ReadEffectSelected(const clsSettings& Settings, std::int32_t Place);
+void PutEffectSelected(clsSettings& Settings, std::int32_t Place, bool Selected);
 void ReadEffectSelections(const clsSettings& Settings, EffectTables& Tables);  // 1 to 127
 
 // Writes the place of the active show at once.

@@ -2,17 +2,15 @@
 // frmSlideShowProjectorShow.cpp.
 #include "presentation/frmSlideShowProjector.h"
 
-#include <QApplication>
 #include <QKeyEvent>
-#include <QMainWindow>
 #include <QScreen>
 
 #include "db/clsDBEngine.h"
 #include "platform/XShow.h"
+#include "presentation/ProgramScreen.h"
 #include "presentation/ShowSettings.h"
 #include "presentation/frmPopup.h"
 #include "presentation/modSlideShows.h"
-#include "shell/Openers.h"
 #include "shell/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/modTwips.h"
@@ -57,15 +55,6 @@ constexpr MenuCommand MenuCommands[] = {
     {u"STOP", &frmSlideShowProjector::StopRestart},
     {u"PREFERENCES", &frmSlideShowProjector::EditPreferences},
 };
-
-// Where the program stands: the screen of its main window.
-QScreen* ProgramScreen() {
-    for (const QWidget* Window : QApplication::topLevelWidgets())
-        if (qobject_cast<const QMainWindow*>(Window) && Window->isVisible())
-            return Window->screen();
-    const QWidget* Active = QApplication::activeWindow();
-    return Active ? Active->screen() : QGuiApplication::primaryScreen();
-}
 
 // The normal pointer comes back however the scope is left.
 struct HourglassUntilEnd {

@@ -1,7 +1,7 @@
 #include "presentation/modSlideShows.h"
 
+#include "presentation/frmPreferences.h"
 #include "presentation/frmSlideShowProjector.h"
-#include "shell/Openers.h"
 #include "support/Fault.h"
 
 namespace neb {
@@ -22,12 +22,13 @@ void RunSlideShow(std::int32_t AlbumID, const QString& AlbumName, std::int32_t S
 }
 
 void EditSlideShowPreferences() {
-    if (!TheOpeners().Preferences) return;
+    const auto Preferences = NewForm<frmPreferences>();
     try {
-        SlideTimeout = TheOpeners().Preferences(0, 0, SlideTimeout);
+        Preferences->LoadPreferences();
     } catch (const Fault&) {
-        // the timeout that was in force stays
+        // a show goes on with the settings that it has
     }
+    SlideTimeout = Preferences->SlideTimeout();
 }
 
 }  // namespace neb

@@ -13,7 +13,7 @@ extern double SlideTimeout;              // seconds that a slide stays up by def
 // Runs a show on the full screen; returns when the user has left it. Faults are ignored.
 void RunSlideShow(std::int32_t AlbumID, const QString& AlbumName, std::int32_t SlideShowID);
 
-// Preferences, and SlideTimeout as they then say. Nothing in a build without them.
+// Shows preferences; SlideTimeout is then as they say. Faults are ignored.
 void EditSlideShowPreferences();
 
 }  // namespace neb

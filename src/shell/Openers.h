@@ -11,22 +11,9 @@ namespace neb {
 
 class Form;
 
-// What the one-time speed test has measured; 0 stands for no result. Suffixes: H intense,
-// M normal, L lite effects. Times in seconds, steps in percent, delays in 1/10 ms.
-struct SpeedTestResult {
-    double Timeout = 0, TimeoutH = 0, TimeoutM = 0, TimeoutL = 0;
-    std::int32_t StepH = 0, StepM = 0, StepL = 0;
-    std::int32_t DelayH = 0, DelayM = 0, DelayL = 0;
-    float AvgTimeH = 0, AvgTimeM = 0, AvgTimeL = 0;
-};
-
 struct Openers {
     // The slide show manager for an album (SlideShowID 0: none chosen).
     std::function<void(std::int32_t AlbumID, std::int32_t SlideShowID)> SlideShowMgr;
-    // Preferences, modal; answers with the slide timeout in seconds that is then in force.
-    std::function<double(std::int32_t AlbumID, std::int32_t SlideShowID, double SlideTimeout)>
-        Preferences;
-    std::function<SpeedTestResult()> SpeedTest;
     // Puts a window as a child into the main window's frame, placed in the cascade.
     std::function<void(Form& Window)> ShowAsChild;
 };

@@ -24,7 +24,8 @@ bool ErrorsGoToATerminal() {
 
 // Reading pictures needs the toolkit's fonts and readers, but no display.
 std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char** argv) {
-    if (argc < 2 || std::string_view(argv[1]) != "import")
+    const std::string_view Command = argc < 2 ? "" : argv[1];
+    if (Command != "import" && Command != "effects")
         return std::make_unique<QCoreApplication>(argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     return std::make_unique<QGuiApplication>(argc, argv);

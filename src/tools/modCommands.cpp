@@ -5,6 +5,7 @@
 #include "support/modHostFiles.h"
 #include "tools/modCheck.h"
 #include "tools/modDump.h"
+#include "tools/modEffects.h"
 #include "tools/modImportFolder.h"
 #include "tools/modRewrite.h"
 
@@ -38,6 +39,20 @@ constexpr Command Table[] = {
      "With --show a slide show of that name is made of the pictures, in their order. A file\n"
      "that cannot be read is named and left out. When the work fails nothing is changed.\n",
      RunImport},
+    {"effects", "list | timings [FILE] | render ... | sheet OUT", "look at the transitions",
+     "  effects list\n"
+     "      Prints number, name, engine and level of each transition as JSON; the level (1 light\n"
+     "      to 3 heavy) follows from the times beside the program.\n"
+     "  effects timings [FILE] [--size WxH] [--runs N]\n"
+     "      Measures how long each transition takes, at 3840x2160 unless told otherwise, and\n"
+     "      writes the times as EffectStats.txt holds them, the shortest of 3 runs, to FILE or the\n"
+     "      output. This takes ten minutes.\n"
+     "  effects render N OLD NEW PROGRESS OUT\n"
+     "      Draws one frame of transition N from the picture OLD to NEW, PROGRESS being 0 to 1,\n"
+     "      at the size of OLD, into the .png or .jpg file OUT.\n"
+     "  effects sheet OUT [--pictures OLD NEW]\n"
+     "      Draws all transitions half way, with their names, into the .png or .jpg file OUT.\n",
+     RunEffects},
 };
 
 constexpr const char* Outline =

@@ -194,6 +194,9 @@ struct MirrorPair {
 const MirrorPair kPairs[] = {
     {2, 21, true, 0},  {22, 23, false, 0}, {3, 24, true, 0},   {36, 38, false, 0},
     {18, 85, true, 0}, {14, 103, true, 2}, {20, 109, true, 2},
+    {48, 87, false, 0},
+    {106, 27, false, 2}, {39, 45, true, 2},
+    {11, 29, true, 0},
 };
 
 }  // namespace

@@ -13,6 +13,7 @@
 #include "intake/frmImportFilter.h"
 #include "intake/frmPicturePopup.h"
 #include "intake/frmQuickShow.h"
+#include "presentation/frmPreferences.h"
 #include "shell/main/frmAbout.h"
 #include "shell/main/frmHelp.h"
 #include "shell/modNEBSlideShow.h"
@@ -64,7 +65,7 @@ class EachWindow : public ::testing::Test {
 };
 
 using Windows = ::testing::Types<frmAbout, frmDirSelect, frmHelp, frmImportFilter, frmLoading,
-                                 frmMsgBoxEx, frmPicturePopup, frmQuickShow>;
+                                 frmMsgBoxEx, frmPicturePopup, frmPreferences, frmQuickShow>;
 TYPED_TEST_SUITE(EachWindow, Windows);
 
 TYPED_TEST(EachWindow, HasNamesToolTipsAndReachableControls) {

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 #include <QAction>
+#include <QComboBox>
 #include <QDir>
 #include <QFile>
 #include <QMdiArea>
@@ -13,6 +14,7 @@
 #include <QSet>
 #include <QTest>
 
+#include "MeasuredMachine.h"
 #include "db/clsDBEngine.h"
 #include "harness/ScriptedBoxes.h"
 #include "harness/TempFolder.h"
@@ -20,6 +22,8 @@
 #include "intake/clsImageBuffer.h"
 #include "intake/frmQuickShow.h"
 #include "platform/FlexGrid.h"
+#include "presentation/frmPreferences.h"
+#include "presentation/frmSlideShowProjector.h"
 #include "shell/Openers.h"
 #include "shell/main/frmAbout.h"
 #include "shell/main/frmHelp.h"
@@ -35,6 +39,7 @@ class MainWindow : public ::testing::Test {
     MainWindow() {
         SetDocumentsPath(mDocuments.Path());
         AppPathCache = mProgram.Path();
+        test::MarkAsMeasured();
         ReadOnlyDB = false;
         DebugMode = false;
     }
@@ -56,6 +61,16 @@ class MainWindow : public ::testing::Test {
     void Press(const char* Name) {
         Entry(Name)->trigger();
         DoEvents();
+    }
+    // Calls Do with the Preferences window once it stands open, and unloads it.
+    static void WhenPreferencesOpen(std::function<void(frmPreferences&)> Do) {
+        QTimer::singleShot(0, qApp, [Do = std::move(Do)] {
+            auto* Window = Find<frmPreferences>();
+            if (!Window || !Window->isVisible()) return WhenPreferencesOpen(Do);
+            const auto Held = Window->shared_from_this();
+            Do(*Window);
+            Window->Unload();
+        });
     }
     template <class Window>
     static Window* Find() {
@@ -89,18 +104,20 @@ TEST_F(MainWindow, AFirstStartMakesTheFoldersAndTheGlobals) {
     EXPECT_TRUE(FileSystem);
 }
 
+// The program of these tests has no pictures to measure with, which the test says when it runs.
 TEST_F(MainWindow, TheSpeedTestRunsAtTheFirstStartAndNeverAgain) {
-    int Runs = 0;
+    DeleteFile(SettingsDir() + INIFileName());
+    mBoxes.WhileNextIsOpen([this] {
+        EXPECT_TRUE(mWindow->isVisible());
+        EXPECT_FALSE(mWindow->close()) << "the start is not over";
+        EXPECT_TRUE(mWindow->isVisible());
+    });
+    mBoxes.Expect("Missing Component, Speed Test aborted.", {}, BoxIcon::Plain, BoxAnswer::Ok);
     Start();
+    EXPECT_EQ(OpenSettings().GetValue({}, "Timeout", {}), "10");
+    EXPECT_TRUE(FolderExists(DBPath() + "Temp")) << "the start goes on";
     mWindow.reset();
-    const auto Measure = [&Runs] { return ++Runs, SpeedTestResult(); };
-    for (int I = 0; I < 2; ++I) {
-        mWindow = std::make_unique<frmNEBSlideShow>();
-        TheOpeners().SpeedTest = Measure;
-        mWindow->Form_Load({});
-        mWindow.reset();
-    }
-    EXPECT_EQ(Runs, 1);
+    Start();
 }
 
 TEST_F(MainWindow, TheRecordsReachTheDiskAtTheEndAndOnlyThen) {
@@ -129,12 +146,12 @@ TEST_F(MainWindow, AlbumsWithoutTheirCountersAreNotOverwritten) {
 }
 
 TEST_F(MainWindow, SettingsThatCannotBeWrittenDoNotKeepTheProgramFromStarting) {
+    DeleteFile(SettingsDir() + INIFileName());
     SetHostWatcher([](HostStep Step, const QString& Path, qint64&) {
         if (Step == HostStep::Write && Path.contains(u"QLM.ini")) throw Fault("no", Path);
     });
-    mWindow = std::make_unique<frmNEBSlideShow>();
-    TheOpeners().SpeedTest = [] { return SpeedTestResult(); };
-    EXPECT_NO_THROW(mWindow->Form_Load({}));
+    mBoxes.Expect("Missing Component, Speed Test aborted.");
+    EXPECT_NO_THROW(Start());
     EXPECT_TRUE(DBEngine);
 }
 
@@ -199,12 +216,10 @@ TEST_F(MainWindow, AReadOnlyDatabaseRunsNoSpeedTest) {
     Start();
     mWindow->close();
     QFile::setPermissions(DBPath() + "NextIDs.dat", QFileDevice::ReadOwner);
-    mWindow = std::make_unique<frmNEBSlideShow>();
-    TheOpeners().SpeedTest = []() -> SpeedTestResult {
-        ADD_FAILURE();
-        return {};
-    };
-    mWindow->Form_Load({});
+    DeleteFile(SettingsDir() + INIFileName());
+    Start();
+    EXPECT_EQ(mBoxes.ShownCount(), 0);
+    EXPECT_EQ(OpenSettings().GetValue({}, "Timeout", "none"), "none");
 }
 
 TEST_F(MainWindow, TheLogTellsTheStartWhenItIsWanted) {
@@ -386,10 +401,43 @@ TEST_F(MainWindow, PlayingWithoutAnActiveShowSaysSo) {
     mBoxes.Expect("You must first select an Active Slide Show in Preferences!",
                   "No Active Slide Show", BoxIcon::Information, BoxAnswer::Ok);
     int Opened = 0;
-    TheOpeners().Preferences = [&](std::int32_t, std::int32_t, double Timeout) {
-        return ++Opened, Timeout;
-    };
+    WhenPreferencesOpen([&](frmPreferences&) { ++Opened; });
     Press("mnuSlideShowViewer");
+    EXPECT_EQ(Opened, 1);
+    EXPECT_FALSE(Find<frmSlideShowProjector>());
+}
+
+TEST_F(MainWindow, PlayingGoesOnWithTheShowThatIsThenChosenInPreferences) {
+    Start();
+    std::int32_t AlbumID = 0, ShowID = 0;
+    ASSERT_TRUE(DBEngine->SaveAlbum(AlbumID, "Holiday"));
+    DBEngine->GetAlbum(AlbumID)->SaveSlideShow(ShowID, "Lake", 0, *DBEngine);
+    mBoxes.Expect("You must first select an Active Slide Show in Preferences!",
+                  "No Active Slide Show", BoxIcon::Information, BoxAnswer::Ok);
+    WhenPreferencesOpen([&](frmPreferences& Window) {
+        Window.findChild<QComboBox*>("cboAlbums")->setCurrentText("Holiday");
+        Window.findChild<QComboBox*>("cboSlideShows")->setCurrentText("Lake");
+        QTest::mouseClick(Window.findChild<QPushButton*>("cmdApply"), Qt::LeftButton);
+    });
+    int Shown = 0;
+    mBoxes.WhileNextIsOpen([&] {
+        ++Shown;
+        QTimer::singleShot(0, qApp, [] { Find<frmSlideShowProjector>()->Unload(); });
+    });
+    mBoxes.Expect("Slide #1 of the current slide show does not exist!");
+    Press("mnuSlideShowViewer");
+    EXPECT_EQ(Shown, 1);
+}
+
+TEST_F(MainWindow, PreferencesOpenFromTheMenu) {
+    Start();
+    int Opened = 0;
+    WhenPreferencesOpen([&](frmPreferences& Window) {
+        ++Opened;
+        EXPECT_TRUE(Window.isModal());
+    });
+    EXPECT_TRUE(Entry("mnuSlideShowPrefs")->isEnabled());
+    Press("mnuSlideShowPrefs");
     EXPECT_EQ(Opened, 1);
 }
 

@@ -3,10 +3,14 @@
 
 #include <gtest/gtest.h>
 
+#include "harness/HastyClock.h"
+#include "harness/ScriptedBoxes.h"
 #include "harness/TempFolder.h"
+#include "platform/XShow.h"
 #include "shell/modNEBSlideShow.h"
-#include "support/Fault.h"
 #include "support/modHostFiles.h"
+#include "support/windows/Form.h"
+#include "support/windows/ScreenPointer.h"
 
 namespace neb {
 namespace {
@@ -14,19 +18,16 @@ namespace {
 class MachineSettings : public ::testing::Test {
   protected:
     MachineSettings() { SetDocumentsPath(mDocuments.Path()); }
-    ~MachineSettings() override { TheOpeners() = {}; }
 
     static QString Value(const char* Key) {
         return OpenSettings().GetValue({}, QString::fromLatin1(Key), QStringLiteral("none"));
     }
 
     harness::TempFolder mDocuments;
-    int mRuns = 0;
 };
 
 TEST_F(MachineSettings, NoResultLeavesTheDefaults) {
-    TheOpeners().SpeedTest = [] { return SpeedTestResult(); };
-    EnsureMachineSettings();
+    EnsureMachineSettings([] { return SpeedTestResult(); });
     for (const char* Key : {"Timeout", "TimeoutH", "TimeoutM", "TimeoutL"})
         EXPECT_EQ(Value(Key), "10") << Key;
     for (const char* Key : {"StepH", "StepM", "StepL"}) EXPECT_EQ(Value(Key), "33") << Key;
@@ -37,7 +38,7 @@ TEST_F(MachineSettings, NoResultLeavesTheDefaults) {
 }
 
 TEST_F(MachineSettings, AResultIsStoredInItsShortestForm) {
-    TheOpeners().SpeedTest = [] {
+    EnsureMachineSettings([] {
         SpeedTestResult Result;
         Result.Timeout = 12.5;
         Result.TimeoutH = 10;
@@ -45,8 +46,7 @@ TEST_F(MachineSettings, AResultIsStoredInItsShortestForm) {
         Result.DelayH = 100;
         Result.AvgTimeH = 3.25F;
         return Result;
-    };
-    EnsureMachineSettings();
+    });
     EXPECT_EQ(Value("Timeout"), "12.5");
     EXPECT_EQ(Value("TimeoutH"), "10");
     EXPECT_EQ(Value("StepH"), "1");
@@ -79,21 +79,46 @@ TEST_F(MachineSettings, TheKeysStandInTheirOrder) {
 }
 
 TEST_F(MachineSettings, TheTestRunsOnceInTheLifeOfASettingsFile) {
-    TheOpeners().SpeedTest = [this] { return ++mRuns, SpeedTestResult(); };
-    EnsureMachineSettings();
-    EnsureMachineSettings();
-    EXPECT_EQ(mRuns, 1);
+    int Runs = 0;
+    const auto Measure = [&Runs] { return ++Runs, SpeedTestResult(); };
+    EnsureMachineSettings(Measure);
+    EnsureMachineSettings(Measure);
+    EXPECT_EQ(Runs, 1);
 }
 
-TEST_F(MachineSettings, AFaultInTheTestLeavesTheDefaults) {
-    TheOpeners().SpeedTest = []() -> SpeedTestResult { throw Fault(QStringLiteral("no screen")); };
+TEST_F(MachineSettings, WithoutThePicturesTheTestIsAbortedAndTheDefaultsStay) {
+    harness::ScriptedBoxes Boxes;
+    harness::TempFolder Program;
+    AppPathCache = Program.Path();
+    Boxes.Expect("Missing Component, Speed Test aborted.", {}, BoxIcon::Plain, BoxAnswer::Ok);
     EnsureMachineSettings();
+    AppPathCache.clear();
     EXPECT_EQ(Value("Timeout"), "10");
+    EXPECT_EQ(Value("AvgTimeH"), "N/A");
+    EXPECT_EQ(Value("MaxEffectLevel"), "0");
+    EXPECT_EQ(ScreenPointer(), Pointer::Default);
 }
 
-TEST_F(MachineSettings, WithoutATestInTheBuildItIsStillToCome) {
+TEST_F(MachineSettings, TheWindowMeasuresAndItsResultsAreStored) {
+    harness::ScriptedBoxes Boxes;
+    harness::TempFolder Program;
+    const harness::HastyClock Clock;  // its time of day stands: everything takes no time at all
+    AppPathCache = Program.Path();
+    for (const char* Name : {"SpeedTest1.bmp", "SpeedTest2.bmp"}) WriteFile(Program / Name, "x");
+    XShow::SetReader([](const QString&) { return QImage(8, 6, QImage::Format_RGB32); });
+    Boxes.WhileNextIsOpen([] { LoadedForms().front()->resize(60, 40); });
+    Boxes.Expect("NEB Slide Show will now test your graphics speed.", "Speed Test Notification",
+                 BoxIcon::Information, BoxAnswer::Ok);
     EnsureMachineSettings();
-    EXPECT_EQ(Value("Timeout"), "none");
+    XShow::SetReader({});
+    AppPathCache.clear();
+    for (const char* Key : {"StepH", "StepM", "StepL"}) EXPECT_EQ(Value(Key), "1") << Key;
+    for (const char* Key : {"DelayH", "DelayM", "DelayL"}) EXPECT_EQ(Value(Key), "100") << Key;
+    EXPECT_EQ(Value("TimeoutH"), "10");
+    EXPECT_EQ(Value("AvgTimeH"), "N/A") << "no time at all is no result";
+    EXPECT_EQ(Value("MaxEffectLevel"), "0");
+    EnsureMachineSettings();
+    EXPECT_EQ(Boxes.ShownCount(), 1);
 }
 
 TEST(MaxEffectLevel, ALevelIsEarnedBelowFourSecondsAndOnlyWhenMeasured) {

@@ -13,6 +13,7 @@
 
 #include <csignal>
 
+#include "MeasuredMachine.h"
 #include "db/modDatabaseLock.h"
 #include "harness/ScriptedBoxes.h"
 #include "harness/TempFolder.h"
@@ -81,6 +82,7 @@ TEST(Main, ARequestToEndWaitsForTheWorkInAModalWindow) {
     harness::TempFolder Documents;
     harness::ScriptedBoxes Boxes;
     SetDocumentsPath(Documents.Path());
+    test::MarkAsMeasured();
     frmNEBSlideShow Window;
     Window.Form_Load({});
     bool StillThere = false;
@@ -113,6 +115,8 @@ TEST(Main, HelpAndVersionNeedNoDisplay) {
 
 TEST(Main, ARequestToEndSavesTheAlbums) {
     harness::TempFolder Documents;
+    SetDocumentsPath(Documents.Path());
+    test::MarkAsMeasured();
     QProcess Program;
     QProcessEnvironment Environment = QProcessEnvironment::systemEnvironment();
     Environment.insert("QT_QPA_PLATFORM", "offscreen");

@@ -1,22 +1,10 @@
 #include "platform/XShowBands.h"
 
-#include <gtest/gtest.h>
-
+#include "XShowRig.h"
 #include "effects/EffectCatalogue.h"
 
 using namespace neb;
-
-namespace {
-
-QImage Slope(QSize Size, int Turn) {
-    QImage P(Size, QImage::Format_RGB32);
-    for (int Y = 0; Y < Size.height(); ++Y)
-        for (int X = 0; X < Size.width(); ++X)
-            P.setPixel(X, Y, qRgb((X * Turn) & 255, (Y * 3) & 255, ((X ^ Y) + Turn) & 255));
-    return P;
-}
-
-}  // namespace
+using namespace neb::test;
 
 TEST(XShowBands, SeveralThreadsDrawTheSameBitsAsOne) {
     const QSize Size(801, 601);
@@ -38,4 +26,11 @@ TEST(XShowBands, APictureThatSharesItsPixelsIsNotDrawnInto) {
     DrawInBands(Transition(2, Old, New), 1, Out);
     EXPECT_EQ(Out, New);
     EXPECT_EQ(Old, Slope(Size, 1));
+}
+
+TEST(XShowBands, AnEmptyFrameIsMadeToFit) {
+    const QImage Old = Slope({801, 601}, 1), New = Slope({801, 601}, 5);
+    QImage Out;
+    DrawInBands(Transition(2, Old, New), 1, Out);
+    EXPECT_EQ(Out, New);
 }

@@ -1,97 +1,13 @@
-#include "platform/XShow.h"
-
-#include <gtest/gtest.h>
-
-#include <QElapsedTimer>
-#include <QSignalSpy>
 #include <QTest>
-#include <atomic>
 
+#include "XShowRig.h"
 #include "effects/EffectCatalogue.h"
 #include "support/Fault.h"
-#include "support/Services.h"
 
 using namespace neb;
+using namespace neb::test;
 
-namespace {
-
-constexpr QRgb kBlack = 0xFF000000u, kRed = 0xFFC02020u, kBlue = 0xFF2020C0u, kGreen = 0xFF20C020u;
-
-QImage Filled(QSize Size, QRgb Colour) {
-    QImage P(Size, QImage::Format_RGB32);
-    P.fill(Colour);
-    return P;
-}
-
-std::atomic<int> gReads = 0;
-std::atomic<bool> gReadElsewhere = false;
-
-// A name says the picture: "red 40x20". "bad" cannot be read.
-QImage ReadByName(const QString& File) {
-    ++gReads;
-    gReadElsewhere = QThread::currentThread() != QCoreApplication::instance()->thread();
-    const QStringList Parts = File.split(u' ');
-    if (Parts[0] == QStringLiteral("bad")) throw Fault(QStringLiteral("Not a picture."), File);
-    const QRgb Colour = Parts[0] == QStringLiteral("red")    ? kRed
-                        : Parts[0] == QStringLiteral("blue") ? kBlue
-                                                             : kGreen;
-    const QStringList Size = Parts.value(1, QStringLiteral("100x60")).split(u'x');
-    return Filled({Size[0].toInt(), Size[1].toInt()}, Colour);
-}
-
-// A clock that stands until it is put on.
-class HandClock : public Clock {
-  public:
-    HandClock() : mBefore(TheServices().Time) { TheServices().Time = this; }
-    ~HandClock() override { TheServices().Time = mBefore; }
-    QDateTime Now() const override { return mBefore->Now(); }
-    double Ticks() const override { return mTicks; }
-    void PutOn(double Milliseconds) { mTicks += Milliseconds; }
-
-  private:
-    Clock* mBefore;
-    double mTicks = 5000;
-};
-
-void LetRun(int Milliseconds = 20) {
-    QElapsedTimer Watch;
-    Watch.start();
-    do QCoreApplication::processEvents(QEventLoop::AllEvents, 2);
-    while (Watch.elapsed() < Milliseconds);
-}
-
-class XShowTest : public testing::Test {
-  protected:
-    XShowTest() {
-        XShow::SetReader(ReadByName);
-        gReads = 0;
-        View.resize(100, 60);
-        View.show();
-    }
-    ~XShowTest() override { XShow::SetReader({}); }
-
-    void Put(const char* Name) {
-        View.LoadPicture(QString::fromLatin1(Name));
-        View.SetEffectStep(100);
-        View.SetEffectDelay(0);
-        View.RunEffect();
-        WaitForEnd();
-    }
-    void WaitForEnd() {
-        QElapsedTimer Watch;
-        Watch.start();
-        while (View.IsRunning() && Watch.elapsed() < 5000) LetRun(2);
-        ASSERT_FALSE(View.IsRunning());
-    }
-    QImage Screen() { return View.grab().toImage().convertToFormat(QImage::Format_RGB32); }
-    QRgb At(int X, int Y) { return Screen().pixel(X, Y); }
-
-    XShow View;
-    QSignalSpy Ended{&View, &XShow::EffectEnded};
-    QSignalSpy Steps{&View, &XShow::EffectStepped};
-};
-
-}  // namespace
+using XShowTest = XShowRig;
 
 TEST_F(XShowTest, IsBlackBeforeAnyPicture) {
     EXPECT_EQ(Screen(), Filled({100, 60}, kBlack));

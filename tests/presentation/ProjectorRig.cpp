@@ -3,7 +3,6 @@
 #include <QBuffer>
 #include <QTest>
 
-#include "shell/Openers.h"
 #include "shell/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/modHostFiles.h"
@@ -83,7 +82,6 @@ ProjectorRig::~ProjectorRig() {
     AppPathCache.clear();
     DBPathCache.clear();
     DocumentsPath.clear();
-    TheOpeners().Preferences = {};
     TheShowSoundMaker() = mMakerBefore;
     TheServices().Time = mBefore.Time;
     TheServices().Blanking = mBefore.Blanking;

@@ -1,12 +1,11 @@
 // The window around the show: screen, pointer, keys, mouse, menu, preferences.
-#include "ProjectorRig.h"
+#include "PreferencesRig.h"
 
 #include <QApplication>
 #include <QMenu>
 #include <QScreen>
 #include <QTest>
 
-#include "shell/Openers.h"
 #include "shell/modNEBSlideShow.h"
 #include "support/Fault.h"
 
@@ -277,22 +276,22 @@ TEST_F(ProjectorMenu, OpensForTheRightButtonAlone) {
 TEST_F(ProjectorPreferences, PauseTheShowAndTakeOverTheTimeout) {
     AddSlides(2);
     Run([&](Projector& Window) {
-        TheOpeners().Preferences = [&](std::int32_t, std::int32_t, double Timeout) {
-            EXPECT_EQ(10, Timeout);
+        WhenPreferencesOpen([&](frmPreferences& Preferences) {
             EXPECT_EQ("Resume/Stop", Words(Window));
+            Put("NextSlideSeq", QStringLiteral("2"));
+            Put("Effect.005", QStringLiteral("off"), QStringLiteral("Effect Selections"));
+            ApplyTimeout(Preferences, "33");
             Put("MaxEffectLevel", QStringLiteral("9"));
             Put("DelayL", QStringLiteral("77"));
-            Put("Effect.005", QStringLiteral("off"), QStringLiteral("Effect Selections"));
-            Put("NextSlideSeq", QStringLiteral("2"));
-            return 33.0;
-        };
+            Put("Effect.006", QStringLiteral("off"), QStringLiteral("Effect Selections"));
+        });
         ChooseInMenu(Picture, "mnuPreferences");
         EXPECT_EQ("Pause/Stop", Words(Window));
         EXPECT_EQ(33, SlideTimeout);
         EXPECT_EQ(33, Window.SlideInterval());
         EXPECT_EQ(1, Window.Settings().MaxEffectLevel) << "this reader corrects to 1";
         EXPECT_EQ(77, Window.Settings().DelayL);
-        EXPECT_FALSE(Window.Effects().EffectSelected[5]);
+        EXPECT_FALSE(Window.Effects().EffectSelected[6]);
         Window.StopRestart();
         Window.PlayPause();
         EXPECT_EQ(1, CurrentSlideSeq) << "the resume point is not read again";
@@ -305,57 +304,38 @@ TEST_F(ProjectorPreferences, LeaveAFittedTimeAlone) {
         Fields.SlideInterval = 3;
         return true;
     };
-    TheOpeners().Preferences = [](std::int32_t, std::int32_t, double) { return 40.0; };
     Run([&](Projector& Window) {
+        WhenPreferencesOpen([](frmPreferences& Preferences) { ApplyTimeout(Preferences, "40"); });
         Window.EditPreferences();
         EXPECT_EQ(3, Window.SlideInterval());
         EXPECT_EQ(40, SlideTimeout);
     });
 }
 
+TEST_F(ProjectorPreferences, ThatAreOnlyClosedLeaveTheirOwnDefault) {
+    AddSlides(1);
+    Run([&](Projector& Window) {
+        EXPECT_EQ(10, SlideTimeout);
+        WhenPreferencesOpen([](frmPreferences& Preferences) { Preferences.Unload(); });
+        Window.EditPreferences();
+        EXPECT_EQ(20, SlideTimeout) << "as the window says it";
+        EXPECT_EQ(20, Window.SlideInterval());
+    });
+}
+
 TEST_F(ProjectorPreferences, LeaveAHaltedShowHalted) {
     AddSlides(2);
-    TheOpeners().Preferences = [](std::int32_t, std::int32_t, double) { return 15.0; };
+    const auto JustClose = [] { WhenPreferencesOpen([](frmPreferences&) {}); };
     Run([&](Projector& Window) {
         Window.PlayPause();
+        JustClose();
         Window.EditPreferences();
         EXPECT_EQ("Resume/Stop", Words(Window));
         Window.StopRestart();
+        JustClose();
         Window.EditPreferences();
         EXPECT_EQ("Play/Resume", Words(Window));
     });
-}
-
-TEST_F(ProjectorPreferences, IgnoreAFaultInTheirWindow) {
-    AddSlides(1);
-    TheOpeners().Preferences = [](std::int32_t, std::int32_t, double) -> double {
-        throw Fault(QStringLiteral("no preferences today"));
-    };
-    Run([&](Projector& Window) {
-        Window.EditPreferences();
-        EXPECT_EQ("Pause/Stop", Words(Window));
-        EXPECT_EQ(10, SlideTimeout);
-        EXPECT_EQ(10, Window.SlideInterval());
-    });
-}
-
-TEST_F(ProjectorPreferences, PauseAndResumeWhereThereAreNone) {
-    AddSlides(1);
-    Run([&](Projector& Window) {
-        Sound.Taken();
-        Window.EditPreferences();
-        EXPECT_EQ("Pause|Play 0", Sound.Taken());
-        EXPECT_EQ(10, SlideTimeout);
-    });
-}
-
-TEST_F(ProjectorPreferences, OfTheModuleTakeOverTheTimeout) {
-    SlideTimeout = 12;
-    EditSlideShowPreferences();
-    EXPECT_EQ(12, SlideTimeout);
-    TheOpeners().Preferences = [](std::int32_t, std::int32_t, double) { return 21.0; };
-    EditSlideShowPreferences();
-    EXPECT_EQ(21, SlideTimeout);
 }
 
 }  // namespace

@@ -111,11 +111,9 @@ TEST_F(BroadcastTest, AHiddenButLoadedFormIsReached) {
 
 TEST(OpenersTest, IsOneTableForAllWhoseEntriesAreEmptyUntilFilled) {
     EXPECT_FALSE(TheOpeners().SlideShowMgr);
-    EXPECT_FALSE(TheOpeners().SpeedTest);
     int Album = 0;
     TheOpeners().SlideShowMgr = [&](std::int32_t AlbumID, std::int32_t) { Album = AlbumID; };
     TheOpeners().SlideShowMgr(7, 0);
     TheOpeners() = {};
     EXPECT_EQ(7, Album);
-    EXPECT_EQ(0, SpeedTestResult{}.AvgTimeH) << "no result";
 }

@@ -74,7 +74,7 @@ void frmNEBSlideShow::Form_Load(const CommandLine& Line) {
     CheckReadOnly();
     if (!ReadOnlyDB) {
         Log("If not read-only, call Speed Tests routine.");
-        IgnoringFaults(&EnsureMachineSettings);  // it is tried again at the next start
+        IgnoringFaults([] { EnsureMachineSettings(); });  // it is tried again at the next start
     }
     Log("Attempt to make child dirs.");
     MakeChildDirs();

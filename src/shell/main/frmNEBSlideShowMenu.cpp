@@ -5,6 +5,7 @@
 
 #include "db/clsDBEngine.h"
 #include "intake/frmQuickShow.h"
+#include "presentation/ShowSettings.h"
 #include "presentation/modSlideShows.h"
 #include "shell/Openers.h"
 #include "shell/main/MainMenu.h"
@@ -17,32 +18,15 @@
 #include "support/Fault.h"
 #include "support/Services.h"
 #include "support/modHostFiles.h"
-#include "support/modNumbers.h"
 
 namespace neb {
 namespace {
 
-struct ActiveShow {
-    std::int32_t AlbumID = 0;
-    std::int32_t SlideShowID = 0;
-};
-
-std::int32_t ReadKey(const clsSettings& Settings, const char* Key) {
-    const QString Text = Settings.GetValue({}, QString::fromLatin1(Key), QStringLiteral("0"));
-    return std::max(0, CInt(Val(Text)));
-}
-
-ActiveShow ReadActiveShow() {
-    const clsSettings Settings = OpenSettings();
-    return {ReadKey(Settings, "ActiveAlbum"), ReadKey(Settings, "ActiveSlideShow")};
-}
-
 // The windows that come with later versions; until then their entries rest.
 constexpr const char* NotYet[] = {
-    "mnuAlbumNew",       "mnuAlbumRename",     "mnuAlbumDelete",     "mnuAlbumExport",
-    "mnuAlbumImport",    "mnuAlbumPrint",      "mnuSlideMgr",        "mnuSlideMgrBulk",
-    "mnuSlideShowMgr",   "mnuSlideShowExport", "mnuSlideShowImport", "mnuSlideShowPrint",
-    "mnuSlideShowPrefs",
+    "mnuAlbumNew",     "mnuAlbumRename",     "mnuAlbumDelete",     "mnuAlbumExport",
+    "mnuAlbumImport",  "mnuAlbumPrint",      "mnuSlideMgr",        "mnuSlideMgrBulk",
+    "mnuSlideShowMgr", "mnuSlideShowExport", "mnuSlideShowImport", "mnuSlideShowPrint",
 };
 
 }  // namespace
@@ -52,6 +36,7 @@ void frmNEBSlideShow::SetUpMenu() {
     for (const char* Entry : NotYet) mMenu->Entries[QString::fromLatin1(Entry)]->setEnabled(false);
     Connect("mnuQuickShow", [this] { OpenQuickShow(); });
     Connect("mnuExit", [this] { close(); });
+    Connect("mnuSlideShowPrefs", [] { EditSlideShowPreferences(); });
     Connect("mnuSlideShowViewer", [this] { PlayActiveShow(); });
     Connect("mnuCascade", [this] { mWorkspace->cascadeSubWindows(); });
     Connect("mnuTile", [this] { mWorkspace->tileSubWindows(); });
@@ -120,12 +105,12 @@ void frmNEBSlideShow::ListWindows() {
 }
 
 void frmNEBSlideShow::PlayActiveShow() {
-    ActiveShow Active = ReadActiveShow();
+    ActiveShow Active = ReadActiveShow(OpenSettings());
     if (Active.SlideShowID == 0) {
         MsgBox(QStringLiteral("You must first select an Active Slide Show in Preferences!"),
                QStringLiteral("No Active Slide Show"), BoxIcon::Information);
         EditSlideShowPreferences();
-        Active = ReadActiveShow();
+        Active = ReadActiveShow(OpenSettings());
         if (Active.SlideShowID == 0) return;
     }
     QString AlbumName;

@@ -1,7 +1,7 @@
 #include "shell/main/modMachineSettings.h"
 
+#include "presentation/frmSpeedTest.h"
 #include "shell/modNEBSlideShow.h"
-#include "support/Fault.h"
 #include "support/modNumbers.h"
 #include "support/windows/ScreenPointer.h"
 
@@ -52,16 +52,20 @@ void StoreMachineSettings(clsSettings& Settings, const SpeedTestResult& Result) 
     Settings.Save();
 }
 
-void EnsureMachineSettings() {
+SpeedTestResult RunSpeedTest() {
+    const auto Window = NewForm<frmSpeedTest>();
+    try {
+        Window->ShowModal();
+    } catch (const std::exception&) {
+        // what was measured until then counts
+    }
+    return Window->Result();
+}
+
+void EnsureMachineSettings(const std::function<SpeedTestResult()>& Test) {
     clsSettings Settings = OpenSettings();
     if (!Settings.GetValue({}, QStringLiteral("Timeout"), {}).isEmpty()) return;
-    if (!TheOpeners().SpeedTest) return;
-    SpeedTestResult Result;
-    try {
-        Result = TheOpeners().SpeedTest();
-    } catch (const Fault&) {
-        Result = {};
-    }
+    const SpeedTestResult Result = Test();
     SetScreenPointer(Pointer::Default);
     StoreMachineSettings(Settings, Result);
 }

@@ -1,14 +1,18 @@
 // The one-time settings of a machine: what the speed test has measured, or the defaults.
 #pragma once
 
-#include "shell/Openers.h"
+#include <functional>
+
+#include "presentation/SpeedLadder.h"
 #include "shell/clsSettings.h"
 
 namespace neb {
 
-// Runs the speed test when the settings have no "Timeout" yet, and stores what it found. A
-// build without the test stores nothing, so that the test is still to come.
-void EnsureMachineSettings();
+// The speed test in its window, modal; what it has found, as far as it came.
+SpeedTestResult RunSpeedTest();
+
+// Runs the speed test when the settings have no "Timeout" yet, and stores what it found.
+void EnsureMachineSettings(const std::function<SpeedTestResult()>& Test = &RunSpeedTest);
 
 // Writes the keys of a result, 0 or below being no result, and saves the file.
 void StoreMachineSettings(clsSettings& Settings, const SpeedTestResult& Result);

@@ -1,0 +1,45 @@
+// The window of the graphics speed test: runs the transitions of SpeedLadder before the user's eyes
+// and closes by itself. Opened once in the life of a settings file, at the start of the program.
+#pragma once
+
+#include "presentation/SpeedLadder.h"
+#include "support/windows/Form.h"
+
+namespace neb {
+
+namespace Ui {
+class frmSpeedTest;
+}
+
+class frmSpeedTest : public Form {
+    Q_OBJECT
+
+  public:
+    frmSpeedTest();
+    ~frmSpeedTest() override;
+
+    // What has been measured so far; all 0 at first, and for levels that the user cut off.
+    const SpeedTestResult& Result() const { return mLadder.Result(); }
+
+  protected:
+    void Form_Load() override;
+    void Form_Activate() override;
+    bool Form_Unload() override;
+    void resizeEvent(QResizeEvent* Event) override;
+
+  private:
+    void FitToScreen();
+    void StartLevel();
+    void RunRound();
+    void RunTransition(const char* File);
+    void EffectEnded();
+    void RoundOver();
+    void Abort();
+
+    std::unique_ptr<Ui::frmSpeedTest> mUi;
+    QTimer* Timer1;
+    SpeedLadder mLadder;
+    bool mStarted = false;
+};
+
+}  // namespace neb

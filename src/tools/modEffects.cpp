@@ -1,0 +1,165 @@
+#include "tools/modEffects.h"
+
+#include <QCoreApplication>
+#include <array>
+
+#include "db/clsDBEngine.h"
+#include "effects/EffectCatalogue.h"
+#include "effects/Transition.h"
+#include "support/Fault.h"
+#include "support/modHostFiles.h"
+#include "tools/EffectPictures.h"
+#include "tools/EffectSheet.h"
+#include "tools/EffectTiming.h"
+#include "tools/JsonWriter.h"
+
+namespace neb {
+namespace {
+
+using EffectLevels = std::array<std::uint8_t, std::size_t(EffectCount()) + 1>;
+
+int Misused(ToolIO& IO, const QString& Wanted) {
+    return Fail(IO, Wanted + QStringLiteral("; see nebctl effects --help."));
+}
+
+// The records of a new database: counters and nothing else.
+std::optional<RecordBytes> NewDatabase(RecordFile File) {
+    if (File != RecordFile::NextIDs) return std::nullopt;
+    return RecordBytes(QByteArray::fromHex("010000000100000001000000"));
+}
+
+// As a new database classes them, by the times that lie beside the program.
+EffectLevels FactoryLevels() {
+    EffectLevels Levels;
+    Levels.fill(1);
+    clsDBEngine Engine;
+    Engine.SetProgramPath(QCoreApplication::applicationDirPath());
+    Engine.LoadFrom(NewDatabase);
+    Engine.ClassifyEffects(Levels, EffectCount());
+    return Levels;
+}
+
+int List(const QStringList& Words, ToolIO& IO) {
+    if (!Words.isEmpty()) return Misused(IO, QStringLiteral("Nothing more is wanted after list"));
+    const EffectLevels Levels = FactoryLevels();
+    JsonWriter Json(IO.Out);
+    Json.BeginList(nullptr);
+    for (int Number = 1; Number <= EffectCount(); ++Number) {
+        Json.BeginObject();
+        Json.Value("Number", Number);
+        Json.Value("Name", EffectName(Number));
+        Json.Value("Engine", EffectEngine(Number));
+        Json.Value("Level", std::int32_t{Levels[static_cast<std::size_t>(Number)]});
+        Json.EndObject();
+    }
+    Json.EndList();
+    return ExitDone;
+}
+
+// The value behind a word, which goes with the word; nothing when the word is not there. The
+// value is empty when the line ends before it.
+std::optional<QString> TakeOption(QStringList& Words, const QString& Name) {
+    const qsizetype At = Words.indexOf(Name);
+    if (At < 0) return std::nullopt;
+    const QString Value = Words.value(At + 1);
+    Words.remove(At, std::min<qsizetype>(2, Words.size() - At));
+    return Value;
+}
+
+std::optional<int> WholeNumber(const QString& Text, int Low, int High) {
+    bool Sound = false;
+    const int Value = Text.toInt(&Sound);
+    return Sound && Value >= Low && Value <= High ? std::optional(Value) : std::nullopt;
+}
+
+std::optional<QSize> SizeOf(const QString& Text) {
+    const auto Width = WholeNumber(Text.section(u'x', 0, 0), 1, 16384);
+    const auto Height = WholeNumber(Text.section(u'x', 1), 1, 16384);
+    return Width && Height ? std::optional(QSize(*Width, *Height)) : std::nullopt;
+}
+
+// False after a line on Err.
+bool ReadTimingOrder(QStringList& Words, TimingOrder& Order, ToolIO& IO) {
+    if (const auto Text = TakeOption(Words, QStringLiteral("--size"))) {
+        const auto Size = SizeOf(*Text);
+        if (!Size) Misused(IO, QStringLiteral("\"%1\" is no size such as 1920x1080").arg(*Text));
+        if (!Size) return false;
+        Order.Size = *Size;
+    }
+    if (const auto Text = TakeOption(Words, QStringLiteral("--runs"))) {
+        const auto Runs = WholeNumber(*Text, 1, 100);
+        if (!Runs) Misused(IO, QStringLiteral("\"%1\" is no number of runs, 1 to 100").arg(*Text));
+        if (!Runs) return false;
+        Order.Runs = *Runs;
+    }
+    if (Words.size() <= 1 && !Words.value(0).startsWith(u'-')) return true;
+    Misused(IO, QStringLiteral("At most one file is wanted after timings"));
+    return false;
+}
+
+int Timings(const QStringList& Arguments, ToolIO& IO) {
+    QStringList Words = Arguments;
+    TimingOrder Order;
+    if (!ReadTimingOrder(Words, Order, IO)) return ExitFailed;
+    ProgressLine Progress(IO, "Measuring");
+    const QString Text =
+        EffectStatsText(Order, ProgramPicture(1), ProgramPicture(2), [&](int Done) {
+            Progress.Show(static_cast<size_t>(Done),
+                          static_cast<size_t>(Order.Runs * EffectCount()));
+        });
+    if (Words.isEmpty())
+        IO.Out << Text.toLatin1().constData();
+    else
+        ReplaceFile(Words[0], Text.toLatin1());
+    return ExitDone;
+}
+
+int Render(const QStringList& Words, ToolIO& IO) {
+    if (Words.size() != 5)
+        return Misused(IO, QStringLiteral("N OLD NEW PROGRESS OUT are wanted after render"));
+    const auto Number = WholeNumber(Words[0], 1, EffectCount());
+    if (!Number)
+        return Misused(IO, QStringLiteral("\"%1\" is no number of an effect, 1 to %2")
+                               .arg(Words[0])
+                               .arg(EffectCount()));
+    bool Sound = false;
+    const double Progress = Words[3].toDouble(&Sound);
+    if (!Sound || !(Progress >= 0 && Progress <= 1))
+        return Misused(IO, QStringLiteral("\"%1\" is no progress from 0 to 1").arg(Words[3]));
+    if (!MayWritePicture(Words[4]))
+        return Misused(IO, QStringLiteral("%1 ends neither in .png nor in .jpg").arg(Words[4]));
+    const QImage Old = ReadPicture(Words[1]), New = ReadPicture(Words[2]);
+    QImage Frame;
+    Transition(*Number, Old, FittedTo(New, Old.size())).Draw(Progress, Frame);
+    WritePicture(Words[4], Frame);
+    return ExitDone;
+}
+
+int Sheet(const QStringList& Words, ToolIO& IO) {
+    const bool Given = Words.size() == 4 && Words[1] == u"--pictures";
+    if (!Given && Words.size() != 1)
+        return Misused(IO, QStringLiteral("OUT [--pictures OLD NEW] are wanted after sheet"));
+    if (!MayWritePicture(Words[0]))
+        return Misused(IO, QStringLiteral("%1 ends neither in .png nor in .jpg").arg(Words[0]));
+    const QImage Old = Given ? ReadPicture(Words[2]) : ProgramPicture(1);
+    const QImage New = Given ? ReadPicture(Words[3]) : ProgramPicture(2);
+    WritePicture(Words[0], PaintEffectSheet(Old, New));
+    return ExitDone;
+}
+
+struct EffectCommand {
+    const char* Name;
+    int (*Run)(const QStringList& Words, ToolIO& IO);
+};
+constexpr EffectCommand Table[] = {
+    {"list", List}, {"timings", Timings}, {"render", Render}, {"sheet", Sheet}};
+
+}  // namespace
+
+int RunEffects(const QStringList& Arguments, ToolIO& IO) {
+    for (const EffectCommand& Row : Table)
+        if (Arguments.value(0) == QLatin1String(Row.Name)) return Row.Run(Arguments.mid(1), IO);
+    return Misused(IO, QStringLiteral("One of list, timings, render and sheet is wanted"));
+}
+
+}  // namespace neb

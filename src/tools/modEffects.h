@@ -1,0 +1,13 @@
+// nebctl effects: looks at the transitions without a display: lists and measures them, draws single
+// frames and the sheet of all of them.
+#pragma once
+
+#include <QStringList>
+
+#include "tools/ToolIO.h"
+
+namespace neb {
+
+int RunEffects(const QStringList& Arguments, ToolIO& IO);
+
+}  // namespace neb
