@@ -11,13 +11,13 @@ namespace {
 
 class WaterEngine : public PolarEngine {
   public:
-    WaterEngine(QSize Size, int Waves) : PolarEngine(Size, false, false), mWaves(Waves) {}
+    WaterEngine(QSize Size, int Waves) : PolarEngine(Size, true, false), mWaves(Waves) {}
 
   protected:
     Ring RingAt(int Distance, int Progress, bool) const override {
-        // The ring is nearly as wide as the picture; its head starts in the middle, its tail ends
+        // The ring is as wide as the picture; its head starts in the middle, its tail ends
         // in the corners.
-        const int Width = Reach() * 4 / 5 + 1;
+        const int Width = Reach() + 1;
         const int Behind = Scale(Reach() + Width, Progress) - Distance;
         if (Behind <= 0) return {Distance << 16, 0, 0, 0};
         if (Behind >= Width) return {Distance << 16, 0, One, 0};
@@ -27,7 +27,7 @@ class WaterEngine : public PolarEngine {
         const int Wave = Scale(Sine(Place * mWaves), Strength);
         const int Slope = Scale(Cosine(Place * mWaves), Strength);
         const int Weight = Ease(Clamp((Place - 3 * One / 8) * 4, 0, One));
-        const auto Along = static_cast<int>((std::int64_t{Width} * Wave) / (mWaves * 10));
+        const auto Along = static_cast<int>((std::int64_t{Width} * Wave) / (mWaves * 8));
         return {std::max(0, (Distance << 16) + Along), 0, Weight, Slope / 4};
     }
 
@@ -46,7 +46,7 @@ class TwirlEngine : public PolarEngine {
         const int Angle = Scale(Hump(Progress), Scale(Inner, Inner)) / 8 * mEighths;
         // The new picture wells up in the middle and spreads while the turning is strongest.
         const int Spread = Clamp((Progress - One / 3) * 3, 0, One);
-        const int Weight = Clamp((Scale(9 * One / 8, Spread) - (One - Inner)) * 8, 0, One);
+        const int Weight = Clamp((Scale(11 * One / 10, Spread) - (One - Inner)) * 10, 0, One);
         return {Distance << 16, Angle, Weight, 0};
     }
 
@@ -56,8 +56,7 @@ class TwirlEngine : public PolarEngine {
 
 class SwirlZoomEngine : public PolarEngine {
   public:
-    SwirlZoomEngine(QSize Size, int Eighths)
-        : PolarEngine(Size, false, true), mEighths(Eighths) {}
+    SwirlZoomEngine(QSize Size, int Eighths) : PolarEngine(Size, false, true), mEighths(Eighths) {}
 
   protected:
     Ring RingAt(int Distance, int Progress, bool OfNew) const override {

@@ -9,7 +9,7 @@ namespace {
 
 constexpr int kBlock = WarpEngine::kBlock;
 // Up to such a spread one tap, or two, leave nothing out.
-constexpr int kOneTap = One * 7 / 16, kTwoTaps = One;
+constexpr int kOneTap = One * 3 / 8, kTwoTaps = One;
 
 // The nodes about one block: its own and those of its right and lower borders.
 struct Patch {
