@@ -163,7 +163,7 @@ const std::vector<EffectRow> kRows = {
     {107, u"Paper Soak"_s, PaperSoak(7)},
     {108, u"Tiles Fly Apart"_s, TilesFlyApart(12)},
     {109, u"Page Turn Right"_s, PageTurn({1, 0})},
-    {110, u"Tiles Fall"_s, TilesFall(12)},
+    {110, u"Tiles Fall"_s, TilesFall(18)},
     {111, u"Tiles Fly In"_s, TilesFlyIn(10)},
     {112, u"Tiles Turn at Random"_s, TurningTiles(14, nullptr)},
     {113, u"Tiles Shrink Away"_s, TilesShrink(12)},

@@ -55,7 +55,7 @@ Flight FlyApart(const Tile& T, QSize Size, int Progress) {
 }
 
 Flight Fall(const Tile& T, QSize Size, int Progress) {
-    const int Start = Scale(One - T.Row, One / 2) + Scale(T.Order, One / 4);
+    const int Start = Scale(One - T.Row, One / 4) + Scale(T.Order, One / 2);
     const int Part = PartOf(Progress, Start, One / 4);
     const int Gone = Scale(Part, Part);
     const std::int64_t Drop = ((std::int64_t{Size.height()} << 16) + ReachOf(Size) / 4) * Gone;
