@@ -36,6 +36,12 @@ QImage HalfWay(int Number, const QImage& Old, const QImage& New) {
     return Frame.scaled(Thumbnail, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
+// So that a long name is whole.
+QFont Narrowed(QFont Font, int Width, int Room) {
+    if (Width > Room) Font.setPixelSize(Font.pixelSize() * Room / Width);
+    return Font;
+}
+
 void PaintCaption(QPainter& Painter, int Number, QPoint Corner) {
     const QRect Room(Corner.x(), Corner.y() + Thumbnail.height(), Thumbnail.width(), CaptionHeight);
     const QString Digits = QString::number(Number) + QStringLiteral("  ");
@@ -44,9 +50,11 @@ void PaintCaption(QPainter& Painter, int Number, QPoint Corner) {
     Painter.setPen(QColor::fromRgb(NumberInk));
     Painter.drawText(Room, Qt::AlignLeft | Qt::AlignVCenter, Digits);
     Painter.setPen(QColor::fromRgb(NameInk));
-    const QString Name =
-        Metrics.elidedText(EffectName(Number), Qt::ElideRight, Room.width() - Indent);
+    const QString Name = EffectName(Number);
+    const QFont Usual = Painter.font();
+    Painter.setFont(Narrowed(Usual, Metrics.horizontalAdvance(Name), Room.width() - Indent));
     Painter.drawText(Room.adjusted(Indent, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, Name);
+    Painter.setFont(Usual);
 }
 
 }  // namespace

@@ -47,3 +47,8 @@ TEST(EffectCatalogue, ThereIsChoiceEnough) {
     EXPECT_GE(KnownNumbers().size(), 36u);
     EXPECT_GE(Engines.size(), 8u);
 }
+
+TEST(EffectCatalogue, EveryNumberIsTaken) {
+    EXPECT_EQ(KnownNumbers().size(), std::size_t(EffectCount()));
+    EXPECT_EQ(EffectCount(), 127);
+}

@@ -49,15 +49,18 @@ TEST(Allocations, AreCountedHoweverTheyAreMade) {
     EXPECT_GE(AllocationsOf(Nothing, [] { QImage(9, 9, QImage::Format_RGB32).fill(0); }), 1);
 }
 
-TEST_P(EachNumber, TakesNoMemoryInAFrameAfterTheFirst) {
+// The thread's room grows while a transition is drawn for the first time, and is kept then.
+TEST_P(EachNumber, TakesNoMemoryInAFrameDrawnBeforeAndHardlyAnyBefore) {
+    if (!CountsAllocations()) GTEST_SKIP() << "a sanitizer brings an allocator of its own";
+    constexpr int kSteps = 40;
     for (const QSize Size : {QSize(641, 359), QSize(40, 301), QSize(1280, 1)}) {
         const Transition T(GetParam(), Scene(Size, 1), Scene(Size, 2));
         QImage Out(Size, QImage::Format_RGB32);
-        const int Count = AllocationsOf([&] { T.Draw(0.5, Out); },
-                                        [&] {
-                                            for (int Step = 0; Step <= 40; ++Step)
-                                                T.Draw(Step / 40.0, Out);
-                                        });
-        EXPECT_EQ(Count, 0) << Size.width() << "x" << Size.height();
+        const auto First = [&] { T.Draw(1.0 / kSteps, Out); };
+        const auto All = [&] {
+            for (int Step = 0; Step <= kSteps; ++Step) T.Draw(Step / double{kSteps}, Out);
+        };
+        EXPECT_LT(AllocationsOf(First, All), kSteps) << Size.width() << "x" << Size.height();
+        EXPECT_EQ(AllocationsOf(All, All), 0) << Size.width() << "x" << Size.height();
     }
 }
