@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "effects/Pyramid.h"
 #include "effects/Pixels.h"
+#include "effects/Pyramid.h"
 
 namespace neb::effects {
 namespace {
@@ -13,10 +13,12 @@ int PlaceIn(int Place, int Shift) {
     return (((2 * Place + 1) << 15) >> Shift) - One / 2;
 }
 
+constexpr int kNoRow = -10;  // and no row follows it
+
 // Two rows of a small picture that follow each other, made when they are first asked for.
 struct TwoRows {
     QRgb* Bits;
-    int Width, First = -2;
+    int Width, First = kNoRow;
 };
 
 // A row of Count pixels of a picture 2^Shift times as large, Low of the second row.
@@ -87,8 +89,7 @@ class BlurEngine : public Engine {
     void DrawRow(QRgb* Out, Look& L, int Y, int Width) const {
         const int V = PlaceIn(Y, L.Level);
         const int Last = mOld.Level(L.Level).Height - 1;
-        KeepRows(L.Rows, V >> 16,
-                 [&](QRgb* To, int Row) { MakeRow(To, L, Clamp(Row, 0, Last)); });
+        KeepRows(L.Rows, V >> 16, [&](QRgb* To, int Row) { MakeRow(To, L, Clamp(Row, 0, Last)); });
         EnlargeBetween(Out, L.Rows, V & (One - 1), L.Level, Width);
     }
 

@@ -66,9 +66,8 @@ RevealMap MakeBlockMap(QSize Size, int Count, int SoftBits) {
 
 Recipe DotDissolve(int SoftBits) {
     return FromMap([=](QSize Size) {
-        return RevealMap(Size, SoftBits, [=](int Y, std::int16_t* Row) {
-            FillWithNoise(Y, Row, Size.width());
-        });
+        return RevealMap(Size, SoftBits,
+                         [=](int Y, std::int16_t* Row) { FillWithNoise(Y, Row, Size.width()); });
     });
 }
 

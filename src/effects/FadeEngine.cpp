@@ -53,18 +53,18 @@ class FadeThroughEngine : public Engine {
     QRgb mColour;
 };
 
-// Out turns into a brown print of itself, Weight of 256 of the way.
-NEB_WIDE void ToneSpan(QRgb* Out, int Weight, int Count) {
+// Turns pixels into those of a brown print of them, Weight of 256 of the way. Out may be From.
+NEB_WIDE void ToneSpan(QRgb* Out, const QRgb* From, int Weight, int Count) {
     const auto W = static_cast<std::uint32_t>(Weight), Kept = 256 - W;
     NEB_INDEPENDENT
     for (int I = 0; I < Count; ++I) {
-        const std::uint32_t R = (Out[I] >> 16) & 255u, G = (Out[I] >> 8) & 255u, B = Out[I] & 255u;
-        const std::uint32_t Light = R * 77 + G * 150 + B * 29;  // of 256 * 255
-        const std::uint32_t Red = (Light * 236 + 20 * 65280) >> 16;
-        const std::uint32_t Green = (Light * 218 + 12 * 65280) >> 16;
-        const std::uint32_t Blue = (Light * 180 + 6 * 65280) >> 16;
-        Out[I] = kBlack | (((R * Kept + Red * W + 128) >> 8) << 16) |
-                 (((G * Kept + Green * W + 128) >> 8) << 8) | ((B * Kept + Blue * W + 128) >> 8);
+        const std::uint32_t C = From[I], R = (C >> 16) & 255u, G = (C >> 8) & 255u, B = C & 255u;
+        const std::uint32_t Light = ((5 * R + 9 * G + 2 * B) * W) >> 4;  // of 255 * 256
+        const std::uint32_t Pair = (C & 0x00FF00FFu) * Kept;             // red and blue at once
+        const std::uint32_t Red = (Pair >> 16) + ((Light * 236) >> 8) + 20 * W + 128;
+        const std::uint32_t Green = G * Kept + ((Light * 220) >> 8) + 12 * W + 128;
+        const std::uint32_t Blue = (Pair & 0xFFFFu) + ((Light * 184) >> 8) + 6 * W + 128;
+        Out[I] = kBlack | ((Red >> 8) << 16) | ((Green >> 8) << 8) | (Blue >> 8);
     }
 }
 
@@ -74,8 +74,12 @@ class OldPrintEngine : public Engine {
         const int Tone = Ease(Clamp(5 * Side(F.Progress) / 2, 0, One)) >> 8;
         const int Weight = Ease(Clamp((F.Progress - 3 * One / 10) * 5 / 2, 0, One)) >> 8;
         for (int Y = Y0; Y < Y1; ++Y) {
-            MixSpan(F.Row(Y), F.Old.Row(Y), F.New.Row(Y), Weight, F.Width);
-            if (Tone) ToneSpan(F.Row(Y), Tone, F.Width);
+            const QRgb* From = Weight == 0 ? F.Old.Row(Y) : F.New.Row(Y);
+            if (Weight > 0 && Weight < 256) {
+                MixSpan(F.Row(Y), F.Old.Row(Y), F.New.Row(Y), Weight, F.Width);
+                From = F.Row(Y);
+            }
+            ToneSpan(F.Row(Y), From, Tone, F.Width);
         }
     }
 

@@ -44,10 +44,10 @@ Flight FlyApart(const Tile& T, QSize Size, int Progress) {
     const std::int64_t Dy = T.Y - (std::int64_t{Size.height()} << 15);
     const int Angle = AngleOf(static_cast<int>(Dx >> 8), static_cast<int>(Dy >> 8)) + T.Stray / 24;
     const std::int64_t Far = std::int64_t{Root((Dx >> 8) * (Dx >> 8) + (Dy >> 8) * (Dy >> 8))} << 8;
-    const int Start = static_cast<int>(Far * (One / 5) / (Reach + 1)) + T.Order / 16;
-    const int Part = PartOf(Progress, Start, One * 147 / 200);
+    const int Start = static_cast<int>(Far * (One * 2 / 5) / (Reach + 1)) + T.Order / 8;
+    const int Part = PartOf(Progress, Start, One * 19 / 40);
     const int Gone = Scale(Part, Part / 2 + Scale(Part, Part) / 2);
-    const std::int64_t Way = ((Reach * 9 / 8 - Far / 2) * Gone) >> 16;
+    const std::int64_t Way = ((Reach * 5 / 4 - Far / 2) * Gone) >> 16;
     return {Part,
             0,
             {T.X + ((Way * Cosine(Angle)) >> 16), T.Y + ((Way * Sine(Angle)) >> 16),
@@ -55,8 +55,8 @@ Flight FlyApart(const Tile& T, QSize Size, int Progress) {
 }
 
 Flight Fall(const Tile& T, QSize Size, int Progress) {
-    const int Start = Scale(One - T.Row, One * 2 / 5) + Scale(T.Order, One / 4);
-    const int Part = PartOf(Progress, Start, One * 7 / 20);
+    const int Start = Scale(One - T.Row, One / 4) + Scale(T.Order, One / 2);
+    const int Part = PartOf(Progress, Start, One / 4);
     const int Gone = Scale(Part, Part);
     const std::int64_t Drop = ((std::int64_t{Size.height()} << 16) + ReachOf(Size) / 4) * Gone;
     const std::int64_t Drift = std::int64_t{Size.width()} * T.Stray / 32 * Part;
@@ -67,26 +67,26 @@ Flight Fall(const Tile& T, QSize Size, int Progress) {
 
 // Thrown from below the middle, backwards: Part is counted from the end of the flight.
 Flight Thrown(const Tile& T, QSize Size, int Progress) {
-    const int Start = Scale(T.Row, One * 9 / 20) + Scale(T.Order, One / 5);
-    const int Part = PartOf(Progress, Start, One * 7 / 20);
+    const int Start = Scale(T.Row, One / 2) + Scale(T.Order, One / 4);
+    const int Part = PartOf(Progress, Start, One / 4);
     const int Gone = Scale(Part, Scale(Part, Part) / 2 + Part / 2);
     const std::int64_t Down = (std::int64_t{Size.height()} << 16) + ReachOf(Size) / 6 - T.Y;
     const std::int64_t Across = (std::int64_t{Size.width()} << 15) - T.X;
     return {Part,
             Clamp(Gone * 8, 0, One),
             {T.X + ((Across * Gone) >> 17), T.Y + ((Down * Gone) >> 16), Scale(Gone, T.Turn / 3),
-             One + Gone / 4}};
+             One + Gone / 8}};
 }
 
 Flight Shrink(const Tile& T, QSize, int Progress) {
-    const int Start = Scale((T.Column + T.Row) / 2, One * 13 / 20);
-    const int Part = PartOf(Progress, Start, One * 7 / 20);
+    const int Start = Scale((T.Column + T.Row) / 2, One * 3 / 4);
+    const int Part = PartOf(Progress, Start, One / 4);
     return {Part, 0, {T.X, T.Y, Ease(Part) / 4, One - Ease(Part)}};
 }
 
 // Out along its row or its column, by whole pixels.
 Flight Slide(const Tile& T, QSize Size, int Progress) {
-    const int Part = PartOf(Progress, Scale(T.Order, One * 3 / 5), One * 2 / 5);
+    const int Part = PartOf(Progress, Scale(T.Order, One * 7 / 10), One * 3 / 10);
     const bool Across = T.Turn > 0, Back = T.Stray > 0;
     const std::int64_t Length = std::int64_t{Across ? Size.width() : Size.height()} << 16;
     const std::int64_t Place = Across ? T.X : T.Y;
@@ -212,7 +212,7 @@ Recipe TilesFlyApart(int Count) {
     return Make(Count, {FlyApart, false, 1, 0});
 }
 Recipe TilesFall(int Count) {
-    return Make(Count, {Fall, false, 0, 90});
+    return Make(Count, {Fall, false, 0, 0});
 }
 Recipe TilesFlyIn(int Count) {
     return Make(Count, {Thrown, true, 0, 110});

@@ -13,47 +13,46 @@ namespace {
 constexpr int kLevels = SoftField::Levels;
 
 constexpr Stop kBurning[] = {Plain(0, 0),
-                                    Covered(70, 0, 0xFF201006u, 190),
-                                    Covered(130, 0, 0xFF0C0604u, 250),
-                                    Covered(150, 20, 0xFFE85A10u, 250),
-                                    Covered(170, 120, 0xFFFFD070u, 240),
-                                    Covered(195, 256, 0xFFD04808u, 120),
-                                    Plain(256, 256)};
+                             Covered(70, 0, 0xFF201006u, 190),
+                             Covered(130, 0, 0xFF0C0604u, 250),
+                             Covered(150, 20, 0xFFE85A10u, 250),
+                             Covered(170, 120, 0xFFFFD070u, 240),
+                             Covered(195, 256, 0xFFD04808u, 120),
+                             Plain(256, 256)};
 constexpr Stop kShining[] = {Plain(0, 0), Covered(110, 40, 0xFFFFF6E0u, 215),
-                                    Covered(140, 216, 0xFFFFF6E0u, 215), Plain(256, 256)};
+                             Covered(140, 216, 0xFFFFF6E0u, 215), Plain(256, 256)};
 constexpr Stop kLeaking[] = {Plain(0, 0),
-                                    Lit(44, 0, 0xFF380800u),
-                                    Lit(84, 20, 0xFF8A2806u),
-                                    Lit(120, 110, 0xFFC8701Cu),
-                                    Lit(140, 170, 0xFFD08A34u),
-                                    Lit(176, 240, 0xFF9A3C0Cu),
-                                    Lit(216, 256, 0xFF401004u),
-                                    Plain(256, 256)};
+                             Lit(44, 0, 0xFF380800u),
+                             Lit(84, 20, 0xFF8A2806u),
+                             Lit(120, 110, 0xFFC8701Cu),
+                             Lit(140, 170, 0xFFD08A34u),
+                             Lit(176, 240, 0xFF9A3C0Cu),
+                             Lit(216, 256, 0xFF401004u),
+                             Plain(256, 256)};
 constexpr Stop kRising[] = {Plain(0, 0),
-                                   Filtered(60, 0, 0xFF6A78B4u),
-                                   Filtered(104, 40, 0xFF4A4C80u),
-                                   {140, 200, 0xFFC0746Cu, 0xFF301004u},
-                                   {172, 256, 0xFFD8B080u, 0xFF261A04u},
-                                   {210, 256, 0xFFF4E4C0u, 0xFF0A0600u},
-                                   Plain(256, 256)};
+                            Filtered(60, 0, 0xFF6A78B4u),
+                            Filtered(104, 40, 0xFF4A4C80u),
+                            {140, 200, 0xFFC0746Cu, 0xFF301004u},
+                            {172, 256, 0xFFD8B080u, 0xFF261A04u},
+                            {210, 256, 0xFFF4E4C0u, 0xFF0A0600u},
+                            Plain(256, 256)};
 constexpr Stop kBlooming[] = {Plain(0, 0),
-                                     Lit(70, 10, 0xFF4A4028u),
-                                     Lit(120, 110, 0xFFA89878u),
-                                     Lit(150, 180, 0xFF9C8E74u),
-                                     Lit(200, 250, 0xFF443E30u),
-                                     Plain(256, 256)};
+                              Lit(70, 10, 0xFF4A4028u),
+                              Lit(120, 110, 0xFFA89878u),
+                              Lit(150, 180, 0xFF9C8E74u),
+                              Lit(200, 250, 0xFF443E30u),
+                              Plain(256, 256)};
 constexpr Stop kSoaking[] = {Plain(0, 0),
-                                    Filtered(26, 0, 0xFFE0DCD4u),
-                                    Filtered(58, 20, 0xFF8A8078u),
-                                    Filtered(76, 110, 0xFF746C68u),
-                                    Filtered(104, 215, 0xFFB0ACA8u),
-                                    Filtered(160, 250, 0xFFD2D0CCu),
-                                    Plain(256, 256)};
+                             Filtered(26, 0, 0xFFE0DCD4u),
+                             Filtered(58, 20, 0xFF8A8078u),
+                             Filtered(76, 110, 0xFF746C68u),
+                             Filtered(104, 215, 0xFFB0ACA8u),
+                             Filtered(160, 250, 0xFFD2D0CCu),
+                             Plain(256, 256)};
 
 class GlowEngine : public Engine {
   public:
-    GlowEngine(RevealMap Map, std::span<const Stop> Stops)
-        : mMap(std::move(Map)), mShades(Stops) {}
+    GlowEngine(RevealMap Map, std::span<const Stop> Stops) : mMap(std::move(Map)), mShades(Stops) {}
 
     void Draw(const Frame& F, int Y0, int Y1) const override {
         const int Edge = mMap.EdgeAt(F.Progress);
@@ -87,36 +86,48 @@ class FieldGlowEngine : public Engine {
         auto* Moments = Scratch<std::int16_t, FieldGlowEngine>(F.Width);
         for (int Y = Y0; Y < Y1; ++Y) {
             mField.FillRow(Y, Moments);
-            for (int X = 0; X < F.Width; X += kRun)
-                DrawRun(F, Y, X, std::min(kRun, F.Width - X), Moments, Edge);
+            for (int X = 0; X < F.Width;) {
+                const int First = X;
+                const Kind What = KindOf(Moments, X, F.Width, Edge);
+                do X += kTile;
+                while (X < F.Width && KindOf(Moments, X, F.Width, Edge) == What);
+                DrawRun(F, Y, What, First, std::min(X, F.Width), Moments, Edge);
+            }
         }
     }
 
   private:
-    static constexpr int kRun = 128;
+    static constexpr int kTile = 64;
+    using Kind = RevealMap::Kind;
 
-    void DrawRun(const Frame& F, int Y, int X, int Count, const std::int16_t* Moments,
+    void DrawRun(const Frame& F, int Y, Kind What, int X0, int X1, const std::int16_t* Moments,
                  int Edge) const {
-        const auto [Low, High] = RangeOf(Moments + X, Count);
-        if (Edge <= Low)
-            CopySpan(F.Row(Y) + X, F.Old.Row(Y) + X, Count);
-        else if (Edge - High >= 1 << mSoftBits)
-            CopySpan(F.Row(Y) + X, F.New.Row(Y) + X, Count);
+        const QRgb* Old = F.Old.Row(Y);
+        const QRgb* New = F.New.Row(Y);
+        QRgb* Out = F.Row(Y);
+        if (What == Kind::Mixed)
+            mShades.Draw(Out + X0, Old + X0, New + X0, Moments + X0, X1 - X0, Edge, mSoftBits);
         else
-            mShades.Draw(F.Row(Y) + X, F.Old.Row(Y) + X, F.New.Row(Y) + X, Moments + X, Count, Edge,
-                         mSoftBits);
+            CopySpan(Out + X0, (What == Kind::New ? New : Old) + X0, X1 - X0);
+    }
+
+    Kind KindOf(const std::int16_t* Moments, int X, int Width, int Edge) const {
+        const auto [Low, High] = RangeOf(Moments + X, std::min(kTile, Width - X));
+        if (Edge <= Low) return Kind::Old;
+        return Edge - High >= 1 << mSoftBits ? Kind::New : Kind::Mixed;
     }
 
     struct Range {
         int Low, High;
     };
+    // Between the grid's columns moments lie between theirs.
     static Range RangeOf(const std::int16_t* Moments, int Count) {
-        std::int16_t Low = Moments[0], High = Moments[0];
-        for (int I = 1; I < Count; ++I) {
-            Low = std::min(Low, Moments[I]);
-            High = std::max(High, Moments[I]);
+        Range Out{Moments[Count - 1], Moments[Count - 1]};
+        for (int I = 0; I < Count; I += SoftField::Step) {
+            const int M = Moments[I];
+            Out = {std::min(Out.Low, M), std::max(Out.High, M)};
         }
-        return {Low, High};
+        return Out;
     }
 
     SoftField mField;
@@ -140,7 +151,7 @@ SoftField MakeLeak(const Pair& P) {
     SoftField Out(P.Size(), [=](int Y, int Count, int* Row) {
         for (int I = 0; I < Count; ++I)
             Row[I] = static_cast<int>((std::int64_t{Width} - I * SoftField::Step + Y / 3 + 64) *
-                                      200000 / (Width + P.Old.Height + 64));
+                                      400000 / (Width + P.Old.Height + 64));
     });
     SoftField Clouds = MakeClouds(P.Size(), 2);
     Clouds.Blur(PartOf(P.Size(), 16), 2);
@@ -162,9 +173,9 @@ SoftField MakeDawn(const Pair& P) {
 
 SoftField MakeBloom(const Pair& P) {
     SoftField Near = MakeBrightness(P.Old);
-    Near.Blur(PartOf(P.Size(), 60), 2);
+    Near.Blur(PartOf(P.Size(), 32), 2);
     SoftField Far = Near;
-    Far.Blur(PartOf(P.Size(), 12), 2);
+    Far.Blur(PartOf(P.Size(), 9), 2);
     Near.Add(Far, 2);
     // From the brightest on.
     SoftField Out(P.Size(), [](int, int Count, int* Row) { std::fill_n(Row, Count, 1 << 17); });

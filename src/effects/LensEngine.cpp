@@ -9,9 +9,9 @@ namespace {
 
 class LensEngine : public PolarEngine {
   public:
-    // So large that its rim reaches past the picture above and below.
+    // As high as the picture.
     explicit LensEngine(QSize Size)
-        : PolarEngine(Size, false, false), mRadius(Size.height() * 5 / 8 + 2) {}
+        : PolarEngine(Size, false, false), mRadius(Size.height() / 2 + 2) {}
 
   protected:
     Ring RingAt(int Distance, int, bool) const override {
@@ -24,9 +24,9 @@ class LensEngine : public PolarEngine {
     }
 
     Point CentreAt(int Progress) const override {
-        const int Margin = mRadius * 5 / 4, W = mSize.width();
+        const int Margin = mRadius * 9 / 8, W = mSize.width();
         const int P = (Progress + Ease(Progress)) / 2;
-        const int Sway = Scale(mSize.height() / 4, Sine(Progress));
+        const int Sway = Scale(mSize.height() / 8, Sine(Progress));
         return {2 * (Scale(W + 2 * Margin, P) - Margin), mSize.height() + Sway};
     }
 
@@ -47,7 +47,7 @@ class LensEngine : public PolarEngine {
   private:
     // A soft shadow about the rim.
     static int ShadowAt(int Place) {
-        const int Near = Clamp(One - (Place - One) * 5, 0, One);
+        const int Near = Clamp(One - (Place - One) * 8, 0, One);
         return -Scale(Near, Near) * 2 / 5;
     }
 

@@ -1,5 +1,6 @@
 #include "effects/LightMix.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -33,17 +34,19 @@ const Grains& GrainsOf(int Y) {
     return kGrain[static_cast<unsigned>(Y) % kSide];
 }
 
-// Of 65535: 0 before the edge, all of it where it has passed.
-NEB_WIDE void FindWeights(std::uint16_t* Weights, const std::int16_t* Moments, int Edge,
-                          int SoftBits, int Count) {
-    NEB_INDEPENDENT
-    for (int I = 0; I < Count; ++I) {
-        const int Way = (Edge - Moments[I]) * (1 << (16 - SoftBits));
-        const auto T = static_cast<std::uint32_t>(Clamp(Way, 0, 65535));
-        const std::uint32_t Square = (T * T) >> 16, Cube = (Square * T) >> 16;
-        const std::uint32_t Eased = 3 * Square - 2 * Cube;
-        Weights[I] = static_cast<std::uint16_t>(Eased < 65534u ? Eased : 65535u);
-    }
+// What the moments of a row are held against.
+struct Front {
+    int Edge, SoftBits;
+};
+
+// Of 65535: 0 before the edge, all of it where it has passed, eased between.
+std::uint32_t WeightOf(int Moment, const Front& F) {
+    const int Way = F.Edge - Moment, Soft = 1 << F.SoftBits;
+    if (Way <= 0) return 0;
+    if (Way >= Soft - 1) return 65535;
+    const auto T = static_cast<std::uint32_t>(Way) << (16 - F.SoftBits);
+    const std::uint32_t Square = (T * (T >> 1)) >> 16, Cube = (T * Square) >> 16;
+    return 2 * std::min(32767u, Square + 2 * (Square - Cube));
 }
 
 // Half way between the squares of a value and of the next one: what mixing loses below the point
@@ -107,26 +110,40 @@ NEB_AVX2 void MixEight(QRgb* Out, const QRgb* Old, const QRgb* New, __m256i Low,
     const __m256i Zero = _mm256_setzero_si256();
     const __m256i O = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(Old));
     const __m256i N = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(New));
-    const __m256i L =
-        MixedLight(_mm256_unpacklo_epi8(O, Zero), _mm256_unpacklo_epi8(N, Zero), Low);
+    const __m256i L = MixedLight(_mm256_unpacklo_epi8(O, Zero), _mm256_unpacklo_epi8(N, Zero), Low);
     const __m256i H =
         MixedLight(_mm256_unpackhi_epi8(O, Zero), _mm256_unpackhi_epi8(N, Zero), High);
-    _mm256_storeu_si256(reinterpret_cast<__m256i*>(Out),
-                        _mm256_packus_epi16(RootOfLanes(L, G.First, G.Second),
-                                            RootOfLanes(H, G.Third, G.Fourth)));
+    _mm256_storeu_si256(
+        reinterpret_cast<__m256i*>(Out),
+        _mm256_packus_epi16(RootOfLanes(L, G.First, G.Second), RootOfLanes(H, G.Third, G.Fourth)));
+}
+
+// As WeightOf does it.
+NEB_AVX2 __m128i WeightsOf(__m128i Moments, __m128i Edge, __m128i Most, __m128i Shift) {
+    const __m128i Way = _mm_sub_epi16(Edge, Moments);
+    const __m128i Inside = _mm_min_epi16(_mm_max_epi16(Way, _mm_setzero_si128()), Most);
+    const __m128i T = _mm_sll_epi16(Inside, Shift);
+    const __m128i Square = _mm_mulhi_epu16(T, _mm_srli_epi16(T, 1));
+    const __m128i Rest = _mm_sub_epi16(Square, _mm_mulhi_epu16(T, Square));
+    const __m128i Half = _mm_adds_epi16(Square, _mm_add_epi16(Rest, Rest));
+    return _mm_or_si128(_mm_add_epi16(Half, Half), _mm_cmpeq_epi16(Inside, Most));
 }
 
 __attribute__((target("avx2"))) int MixEights(QRgb* Out, const QRgb* Old, const QRgb* New,
-                                            const std::uint16_t* Weights, int Y, int Count) {
+                                              const std::int16_t* Moments, const Front& F, int Y,
+                                              int Count) {
     // The weights of the pixels 0, 1, 4, 5 and of 2, 3, 6, 7, four times each.
     const __m256i Low = _mm256_setr_epi8(0, 1, 0, 1, 0, 1, 0, 1, 2, 3, 2, 3, 2, 3, 2, 3, 8, 9, 8, 9,
                                          8, 9, 8, 9, 10, 11, 10, 11, 10, 11, 10, 11);
     const __m256i High = _mm256_add_epi8(Low, _mm256_set1_epi8(4));
+    const __m128i Edge = _mm_set1_epi16(static_cast<short>(F.Edge));
+    const __m128i Most = _mm_set1_epi16(static_cast<short>((1 << F.SoftBits) - 1));
+    const __m128i Shift = _mm_cvtsi32_si128(16 - F.SoftBits);
     const EightGrains G = GrainsOfEight(Y);
     int I = 0;
     for (; I + 8 <= Count; I += 8) {
-        const __m256i W = _mm256_broadcastsi128_si256(
-            _mm_loadu_si128(reinterpret_cast<const __m128i*>(Weights + I)));
+        const __m128i M = _mm_loadu_si128(reinterpret_cast<const __m128i*>(Moments + I));
+        const __m256i W = _mm256_broadcastsi128_si256(WeightsOf(M, Edge, Most, Shift));
         MixEight(Out + I, Old + I, New + I, _mm256_shuffle_epi8(W, Low),
                  _mm256_shuffle_epi8(W, High), G);
     }
@@ -138,14 +155,14 @@ __attribute__((target("avx2"))) int MixEights(QRgb* Out, const QRgb* Old, const 
 
 void MixLightByMoments(QRgb* Out, const QRgb* Old, const QRgb* New, const std::int16_t* Moments,
                        int Edge, int SoftBits, int Y, int Count) {
-    auto* Weights = Scratch<std::uint16_t, Grains>(Count);
-    FindWeights(Weights, Moments, Edge, SoftBits, Count);
+    const Front F{Edge, SoftBits};
     int I = 0;
 #ifdef NEB_EIGHT_AT_A_TIME
-    if (__builtin_cpu_supports("avx2")) I = MixEights(Out, Old, New, Weights, Y, Count);
+    if (__builtin_cpu_supports("avx2")) I = MixEights(Out, Old, New, Moments, F, Y, Count);
 #endif
     for (; I < Count; ++I)
-        Out[I] = MixPixel(Old[I], New[I], Weights[I], GrainsOf(Y)[std::size_t(I) % kSide]);
+        Out[I] =
+            MixPixel(Old[I], New[I], WeightOf(Moments[I], F), GrainsOf(Y)[std::size_t(I) % kSide]);
 }
 
 }  // namespace neb::effects

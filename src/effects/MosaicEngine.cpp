@@ -148,9 +148,10 @@ class RingEngine : public Engine {
         const int Begin = static_cast<int>(std::int64_t{Way} * One / kWays);
         const std::int64_t Behind = Scale(One + Width, Progress) - Begin;
         const int Part = static_cast<int>(std::clamp<std::int64_t>(Behind * One / Width, 0, One));
-        const int Level = mLeast - 1 + Scale(mMost - mLeast + 2, Hump(Part));
-        return {std::min(Level, mMost) < mLeast ? 0 : std::min(Level, mMost),
-                Clamp((Part - One * 2 / 5) * 5 >> 8, 0, 256)};
+        const int Larger = Scale(mMost - mLeast + 1, Hump(Part));
+        const int Level = std::min(mMost, mLeast + Larger);
+        const bool Cut = Part > 0 && Part < One && Level >= mLeast;
+        return {Cut ? Level : 0, Clamp((Part - One * 2 / 5) * 5 >> 8, 0, 256)};
     }
 
     // How far the squares of a level lie from the middle, kWays - 1 at most.
@@ -161,7 +162,8 @@ class RingEngine : public Engine {
         const int Reach = Root((Width * Width + Height * Height) * 256) + 64;
         for (int Y = 0; Y < P.Height && Level >= mLeast; ++Y)
             for (int X = 0; X < P.Width; ++X) {
-                const std::int64_t Dx = (2 * X + 1) * Side - Width, Dy = (2 * Y + 1) * Side - Height;
+                const std::int64_t Dx = (2 * X + 1) * Side - Width,
+                                   Dy = (2 * Y + 1) * Side - Height;
                 const std::int64_t Way = Root((Dx * Dx + Dy * Dy) * 256);
                 Out.push_back(static_cast<std::uint16_t>(
                     std::min<std::int64_t>(kWays - 1, Way * kWays / Reach)));
@@ -193,7 +195,8 @@ class RingEngine : public Engine {
         QRgb* Out = F.Row(Y);
         for (int C = 0; C < Cells;) {
             const int First = C, X = C << mLeast;
-            while (C < Cells && Row[C].What == Row[First].What && Row[C].Colour == Row[First].Colour)
+            while (C < Cells && Row[C].What == Row[First].What &&
+                   Row[C].Colour == Row[First].Colour)
                 ++C;
             const int Count = std::min(F.Width, C << mLeast) - X;
             if (Row[First].What == Kind::Square)

@@ -1,7 +1,7 @@
 #include "effects/PageEngine.h"
 
 #include <algorithm>
-#include <array>
+#include <vector>
 
 #include "effects/PageShading.h"
 #include "effects/Sampling.h"
@@ -52,16 +52,36 @@ Span Between(Span Within, std::int64_t First, int Step, std::int64_t Low, std::i
 }
 
 constexpr std::int64_t kFar = std::int64_t{1} << 40;
-constexpr int kArcSteps = 256;
+constexpr int kBendStep = One / 16;
 
-// What the pixels of the curl show of the sheet's back.
-struct Curl {
+// The curl at a distance from the axis.
+struct Bend {
+    int Arc;    // the length of the sheet up to there, of One
+    int Light;  // of its back, 0..256
+};
+
+// The same of one frame: how far a pixel there reads from its own place, and how much of the sheet
+// there is, of its back and of its front.
+struct Fold {
+    int U, V, Seen;
+};
+
+// What the pixels of one part of the sheet show.
+struct Part {
+    enum Which { Back, Front, Flap };
     int *U, *V, *Seen, *Light;
     QRgb* Read;
-    static Curl Room(int Width) {
-        int* I = Scratch<int, Curl>(4 * Width);
-        return {I, I + Width, I + 2 * Width, I + 3 * Width, Scratch<QRgb, Curl>(Width)};
+    static Part Room(Which W, int Width) {
+        int* I = Scratch<int, Part>(12 * Width) + W * 4 * Width;
+        return {I, I + Width, I + 2 * Width, I + 3 * Width, Scratch<QRgb, Part>(Width)};
     }
+};
+
+// What a row leaves to the next one of a sheet that is drawn straight to a side: there all rows
+// are alike.
+struct Kept {
+    bool Valid = false;
+    Span Front{};  // where the front of the curl is seen
 };
 
 class PageEngine : public Engine {
@@ -76,31 +96,34 @@ class PageEngine : public Engine {
                  2;
         mRadius = std::max<std::int64_t>(One, mReach / (Form.FromMiddle ? 10 : 6));
         mStraight = mNx == 0 || mNy == 0;
-        FillArcs();
+        FillBends();
     }
 
     void Draw(const Frame& F, int Y0, int Y1) const override {
         const Sheet S = SheetOf(Ease(F.Progress));
+        FillFolds(S, true);
+        FillFolds(S, false);
+        Kept Rows, None;
         for (int Y = Y0; Y < Y1; ++Y) {
             const std::int64_t D = DistanceAt(Y);
             const Span All{0, F.Width};
             if (!mForm.FromMiddle) {
-                DrawLine({F, Y, mNx, mNy, D, 0, F.Width}, S);
+                DrawLine({F, Y, mNx, mNy, D, 0, F.Width}, S, Rows);
                 continue;
             }
             const Span One = Between(All, D, mNx, -kFar, 0),
                        Other = Between(All, -D, -mNx, -kFar, -1);
-            DrawLine({F, Y, mNx, mNy, D, One.A, One.B}, S);
-            DrawLine({F, Y, -mNx, -mNy, -D, Other.A, Other.B}, S);
+            DrawLine({F, Y, mNx, mNy, D, One.A, One.B}, S, None);
+            DrawLine({F, Y, -mNx, -mNy, -D, Other.A, Other.B}, S, None);
         }
     }
 
   private:
-    Sheet SheetOf(int Part) const {
+    Sheet SheetOf(int Progress) const {
         Sheet S{};
         S.End = mForm.FromMiddle ? 0 : mReach;
         S.Radius = mRadius;
-        S.Axis = S.End - (((S.End + mReach + 2 * mRadius) * Part) >> 16);
+        S.Axis = S.End - (((S.End + mReach + 2 * mRadius) * Progress) >> 16);
         S.HalfTurn = (mRadius * 205887) >> 16;  // pi of One
         S.FlapEnd = 2 * S.Axis - S.End + S.HalfTurn;
         S.Lift = static_cast<int>(
@@ -108,21 +131,20 @@ class PageEngine : public Engine {
         return S;
     }
 
-    // For a height over the axis, of the radius, the length of the sheet up to there.
-    void FillArcs() {
+    // What the curl is like at each distance from the axis, up to the radius.
+    void FillBends() {
         int Angle = 0;
-        for (int I = 0; I <= kArcSteps; ++I) {
-            while (Angle < One / 4 && Sine(Angle) < I * (One / kArcSteps)) ++Angle;
-            // The angle in radians: a full turn is 2 pi, here 411775 of One.
-            mArcs[static_cast<std::size_t>(I)] = Scale(411775, Angle);
+        for (std::int64_t Off = 0; Off <= mRadius; Off += kBendStep) {
+            const int Height = static_cast<int>(Off * One / mRadius);
+            while (Angle < One / 4 && Sine(Angle) < Height) ++Angle;
+            // Between two angles; a full turn, One, is 2 pi, here 411775 of One.
+            const int High = Sine(Angle), Low = Sine(Angle - 1);
+            const int Part = High > Low ? (Height - Low) * 64 / (High - Low) : 64;
+            const std::int64_t Fine = std::int64_t{64} * (Angle - 1) + Part;
+            const std::int64_t Radians = std::max<std::int64_t>(0, Fine * 411775) >> 14;  // of 2^24
+            const std::int64_t Arc = mRadius * Radians >> 24;
+            mBends.push_back({static_cast<int>(Arc), LightAt(Height)});
         }
-    }
-
-    std::int64_t ArcAt(int Height) const {  // Height 0..One, of the radius
-        const auto I = static_cast<std::size_t>(Height >> 8);
-        if (I >= kArcSteps) return (mRadius * mArcs[kArcSteps]) >> 16;
-        const int Arc = mArcs[I] + (((mArcs[I + 1] - mArcs[I]) * (Height & 255)) >> 8);
-        return (mRadius * Arc) >> 16;
     }
 
     std::int64_t DistanceAt(int Y) const {
@@ -134,7 +156,7 @@ class PageEngine : public Engine {
         return Between({L.X0, L.X1}, L.D, L.Nx, Low, High);
     }
 
-    void DrawLine(const Line& L, const Sheet& S) const {
+    void DrawLine(const Line& L, const Sheet& S, Kept& K) const {
         const Span Flat = Within(L, -kFar, S.Axis), Bare = Within(L, S.Axis, kFar);
         CopySpan(L.F.Row(L.Y) + Flat.A, L.F.Old.Row(L.Y) + Flat.A, Flat.B - Flat.A);
         CopySpan(L.F.Row(L.Y) + Bare.A, L.F.New.Row(L.Y) + Bare.A, Bare.B - Bare.A);
@@ -145,7 +167,7 @@ class PageEngine : public Engine {
         if (mStraight)
             PutShadow(L, Within(L, Before - S.Radius, Before), S.FlapEnd, -S.Radius, S.Lift * 75);
         DrawFlap(L, S);
-        DrawCurl(L, S, Within(L, S.Axis, S.Axis + S.Radius));
+        DrawCurl(L, S, Within(L, S.Axis, S.Axis + S.Radius), K);
     }
 
     // Darkest, Most of One, at From, and gone after Reach.
@@ -159,9 +181,7 @@ class PageEngine : public Engine {
     static int SeenAt(const Frame& F, const Sheet& S, std::int64_t Along, int U, int V) {
         const std::int64_t Inside =
             std::clamp<std::int64_t>((S.End - Along + One / 2) >> 8, 0, 256);
-        const int Sides =
-            std::min(Coverage(U + One / 2, F.Width << 16), Coverage(V + One / 2, F.Height << 16));
-        return static_cast<int>(Inside) * Sides >> 8;
+        return static_cast<int>(Inside) * SidesAt(F, U, V) >> 8;
     }
 
     struct Place {
@@ -193,7 +213,7 @@ class PageEngine : public Engine {
         while (X.B > X.A && Soften(X.B - 1)) --X.B;
         const int Count = X.B - X.A;
         if (Count <= 0) return;
-        const Curl Room = Curl::Room(L.F.Width);
+        const Part Room = Part::Room(Part::Flap, L.F.Width);
         const Place Start = At(X.A);
         StepSpan(Room.U, Start.U, StepU, Count);
         StepSpan(Room.V, Start.V, StepV, Count);
@@ -201,35 +221,86 @@ class PageEngine : public Engine {
         BackSpan(Out + X.A, Count);
     }
 
-    // The part in the air: the sheet rises to the radius and comes back over itself.
-    void DrawCurl(const Line& L, const Sheet& S, Span X) const {
+    // The part in the air: the sheet rises to the radius and comes back over itself. Its front is
+    // seen only where its back does not hide it.
+    void DrawCurl(const Line& L, const Sheet& S, Span X, Kept& K) const {
+        if (X.A >= X.B) return;
+        const Part Back = Part::Room(Part::Back, L.F.Width);
+        const Part Front = Part::Room(Part::Front, L.F.Width);
+        const bool Again = K.Valid;
+        PutPlaces(Back, L, S, X, true, Again);
+        if (!Again) K.Front = NotHidden(Back, L, S, X);
+        PutPlaces(Front, L, S, K.Front, false, Again);
+        K.Valid = L.Ny == 0;
+        QRgb* Out = L.F.Row(L.Y);
+        if (K.Front.A < K.Front.B) DrawFront(Out, Front, L.F.Old, K.Front);
         const int Count = X.B - X.A;
-        if (Count <= 0) return;
-        QRgb* Out = L.F.Row(L.Y) + X.A;
-        const Curl C = Curl::Room(L.F.Width);
-        const std::int64_t PerRadius = (std::int64_t{1} << 48) / S.Radius;
-        for (int I = 0; I < Count; ++I) {
-            const std::int64_t Off = L.At(X.A + I) - S.Axis;
-            const int Height = static_cast<int>((Off * PerRadius) >> 32);
-            const std::int64_t Arc = ArcAt(Height);
-            const std::int64_t Turned = S.HalfTurn - Arc - Off, Rising = Arc - Off;
-            const Place P = PlaceAt(L, X.A + I, Turned);
-            const int Rim = static_cast<int>(std::min<std::int64_t>(256, (S.Radius - Off) >> 8));
-            C.U[I] = P.U;
-            C.V[I] = P.V;
-            C.Seen[I] = SeenAt(L.F, S, S.Axis + Off + Turned, P.U, P.V) * Rim >> 8;
-            C.Light[I] = LightAt(Height);
-            if (C.Seen[I] < 256)
-                PutFront(Out[I], L, S, PlaceAt(L, X.A + I, Rising), S.Axis + Arc, Rim);
-        }
-        SamplePlaces(C.Read, L.F.Old, C.U, C.V, Count);
-        CurlSpan(Out, C.Read, C.Light, C.Seen, Count);
+        SamplePlaces(Back.Read, L.F.Old, Back.U + X.A, Back.V + X.A, Count);
+        CurlSpan(Out + X.A, Back.Read, Back.Light + X.A, Back.Seen + X.A, Count);
     }
 
-    static void PutFront(QRgb& Out, const Line& L, const Sheet& S, Place P, std::int64_t Along,
-                         int Rim) {
-        const int Seen = SeenAt(L.F, S, Along, P.U, P.V) * Rim >> 8;
-        if (Seen) Out = Mix(Out, Sample(L.F.Old, P.U, P.V), Seen);
+    static Span NotHidden(const Part& Back, const Line& L, const Sheet& S, Span X) {
+        Span Out{X.B, X.A};
+        for (int I = X.A; I < X.B; ++I) {
+            const bool Rim = S.Radius - (L.At(I) - S.Axis) < 2 * One;
+            if (Back.Seen[I] < (Rim ? 1 : 256)) Out = {std::min(Out.A, I), I + 1};
+        }
+        return Out;
+    }
+
+    static void DrawFront(QRgb* Out, const Part& P, const Picture& Old, Span X) {
+        SamplePlaces(P.Read, Old, P.U + X.A, P.V + X.A, X.B - X.A);
+        for (int I = X.A; I < X.B; ++I)
+            if (P.Seen[I]) Out[I] = Mix(Out[I], P.Read[I - X.A], P.Seen[I]);
+    }
+
+    // The places of the curl's back or front. Drawn straight to a side all pixels of a row are
+    // alike, or all of a column.
+    void PutPlaces(const Part& P, const Line& L, const Sheet& S, Span X, bool Back,
+                   bool Again) const {
+        if (X.A >= X.B) return;
+        if (Again) return std::fill(P.V + X.A, P.V + X.B, L.Y << 16);
+        const int End = L.Nx == 0 ? X.A + 1 : X.B;
+        const Fold* F = Folds(Back);
+        for (int I = X.A; I < End; ++I) {
+            const auto Bend = static_cast<std::size_t>((L.At(I) - S.Axis) / kBendStep);
+            PutPlace(P, L, I, Bend, F[Bend]);
+        }
+        if (End == X.B) return;
+        StepSpan(P.U + X.A, X.A << 16, One, X.B - X.A);
+        for (int* Same : {P.V, P.Seen, P.Light}) std::fill(Same + End, Same + X.B, Same[X.A]);
+    }
+
+    Fold* Folds(bool Back) const {
+        const int Count = static_cast<int>(mBends.size());
+        return Scratch<Fold, PageEngine>(2 * Count) + (Back ? Count : 0);
+    }
+
+    void FillFolds(const Sheet& S, bool Back) const {
+        Fold* Out = Folds(Back);
+        for (std::size_t I = 0; I < mBends.size(); ++I) {
+            const std::int64_t Off = static_cast<std::int64_t>(I) * kBendStep + kBendStep / 2;
+            const std::int64_t Arc = mBends[I].Arc, Along = Back ? S.HalfTurn - Arc : Arc;
+            const std::int64_t Inside = (S.End - S.Axis - Along + One / 2) >> 8;
+            const int Rim =
+                static_cast<int>(std::clamp<std::int64_t>((S.Radius - Off) >> 8, 0, 256));
+            Out[I] = {static_cast<int>(((Along - Off) * mNx) >> 16),
+                      static_cast<int>(((Along - Off) * mNy) >> 16),
+                      static_cast<int>(std::clamp<std::int64_t>(Inside, 0, 256)) * Rim >> 8};
+        }
+    }
+
+    static int SidesAt(const Frame& F, int U, int V) {
+        return std::min(Coverage(U + One / 2, F.Width << 16),
+                        Coverage(V + One / 2, F.Height << 16));
+    }
+
+    void PutPlace(const Part& P, const Line& L, int I, std::size_t Bend, const Fold& At) const {
+        const bool Other = L.Nx != mNx || L.Ny != mNy;
+        P.U[I] = (I << 16) + (Other ? -At.U : At.U);
+        P.V[I] = (L.Y << 16) + (Other ? -At.V : At.V);
+        P.Seen[I] = At.Seen == 0 ? 0 : At.Seen * SidesAt(L.F, P.U[I], P.V[I]) >> 8;
+        P.Light[I] = mBends[Bend].Light;
     }
 
     QSize mSize;
@@ -237,7 +308,7 @@ class PageEngine : public Engine {
     int mNx, mNy;
     std::int64_t mReach, mRadius;
     bool mStraight;
-    std::array<int, kArcSteps + 1> mArcs{};
+    std::vector<Bend> mBends;
 };
 
 }  // namespace

@@ -16,7 +16,8 @@ struct Run {
     bool Still;    // the picture as it is, pixel for pixel
 };
 
-constexpr int kMostColumns = 256;  // of a run
+// Of a run, and of a block of runs.
+constexpr int kMostColumns = 128, kMostRows = 32;
 
 // A stretch of a row: of it the middle part is wholly covered by the panel.
 struct Stretch {
@@ -111,12 +112,14 @@ class PerspectiveEngine : public Engine {
             ++Last->X1;
     }
 
-    // Run by run, so that what a row reads is still at hand when the next one comes to it.
+    // In blocks, so that what a row reads is still at hand when the next one comes to it.
     void DrawUpright(const Frame& F, const PanelScene& S, const ViewLine* Lines, int Y0,
                      int Y1) const {
         const Columns C = FindColumns(Lines, F);
-        for (int R = 0; R < C.Count; ++R)
-            for (int Y = Y0; Y < Y1; ++Y) DrawRun(F, S, C, C.Runs[R], Y);
+        for (int Top = Y0; Top < Y1; Top += kMostRows)
+            for (int R = 0; R < C.Count; ++R)
+                for (int Y = Top; Y < std::min(Y1, Top + kMostRows); ++Y)
+                    DrawRun(F, S, C, C.Runs[R], Y);
     }
 
     void DrawRun(const Frame& F, const PanelScene& S, const Columns& C, const Run& R, int Y) const {
@@ -182,15 +185,20 @@ class PerspectiveEngine : public Engine {
     // Below the panel its mirror image, fainter the further down.
     static void PutReflection(QRgb* Out, const Columns& C, const Run& R, const Stretch& S,
                               int Height, int Y) {
-        const int Bottom = (2 * Height - 1) << 16;
+        const auto PlaceAt = [&](int X) {
+            return ((2 * Height - 1) << 16) - C.Start[X] - Y * C.Zoom[X];
+        };
+        const auto DarknessAt = [&](int V) {
+            const int Depth = (((Height - 1) << 16) - V) / Height;
+            return Clamp(170 + R.Shade / 3 + (Depth >> 7), 0, 256);
+        };
         const auto Put = [&](int A, int B) {
+            while (A < B && DarknessAt(PlaceAt(A)) == 256) ++A;
+            while (A < B && DarknessAt(PlaceAt(B - 1)) == 256) --B;
             if (A >= B) return;
-            for (int X = A; X < B; ++X) C.V[X - A] = Bottom - C.Start[X] - Y * C.Zoom[X];
+            for (int X = A; X < B; ++X) C.V[X - A] = PlaceAt(X);
             SamplePlaces(Out + A, *R.Source, C.U + A, C.V, B - A);
-            for (int X = A; X < B; ++X) {
-                const int Depth = (((Height - 1) << 16) - C.V[X - A]) / Height;
-                Out[X] = Darken(Out[X], Clamp(170 + R.Shade / 3 + (Depth >> 7), 0, 256));
-            }
+            for (int X = A; X < B; ++X) Out[X] = Darken(Out[X], DarknessAt(C.V[X - A]));
         };
         Put(R.X0, S.A);
         Put(S.B, R.X1);

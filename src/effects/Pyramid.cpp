@@ -59,8 +59,7 @@ void FillBetween(QRgb* Out, QRgb A, QRgb B, int Shift) {
     At = _mm_add_epi16(_mm_add_epi16(At, Way), Second);
     for (int I = 0; I < Count; I += 4) {
         const __m128i Next = _mm_add_epi16(At, Step);
-        const __m128i Four =
-            _mm_packus_epi16(_mm_srl_epi16(At, Right), _mm_srl_epi16(Next, Right));
+        const __m128i Four = _mm_packus_epi16(_mm_srl_epi16(At, Right), _mm_srl_epi16(Next, Right));
         _mm_storeu_si128(reinterpret_cast<__m128i*>(Out + I), Four);
         At = _mm_add_epi16(Next, Step);
     }

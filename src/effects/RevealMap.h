@@ -37,7 +37,7 @@ class RevealMap {
     void ForRuns(int Y, int Edge, Taker&& Take) const;
 
   private:
-    static constexpr int kTile = 16;
+    static constexpr int kTile = 32;
     static constexpr int kGroup = 8;  // tiles that are looked at together
 
     std::size_t RowOf(int Y) const { return mRowOf[static_cast<std::size_t>(Y)]; }

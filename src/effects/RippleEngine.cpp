@@ -15,9 +15,9 @@ class WaterEngine : public PolarEngine {
 
   protected:
     Ring RingAt(int Distance, int Progress, bool) const override {
-        // The ring is nearly as wide as the picture; its head starts in the middle, its tail ends
+        // The ring is as wide as the picture; its head starts in the middle, its tail ends
         // in the corners.
-        const int Width = Reach() * 4 / 5 + 1;
+        const int Width = Reach() + 1;
         const int Behind = Scale(Reach() + Width, Progress) - Distance;
         if (Behind <= 0) return {Distance << 16, 0, 0, 0};
         if (Behind >= Width) return {Distance << 16, 0, One, 0};
@@ -37,27 +37,26 @@ class WaterEngine : public PolarEngine {
 
 class TwirlEngine : public PolarEngine {
   public:
-    TwirlEngine(QSize Size, int Quarters) : PolarEngine(Size, false, false), mQuarters(Quarters) {}
+    TwirlEngine(QSize Size, int Eighths) : PolarEngine(Size, false, false), mEighths(Eighths) {}
 
   protected:
     Ring RingAt(int Distance, int Progress, bool) const override {
         const int Inner =
             Clamp(One - static_cast<int>(std::int64_t{Distance} * One / (Reach() + 1)), 0, One);
-        const int Angle = Scale(Hump(Progress), Scale(Inner, Inner)) / 4 * mQuarters;
+        const int Angle = Scale(Hump(Progress), Scale(Inner, Inner)) / 8 * mEighths;
         // The new picture wells up in the middle and spreads while the turning is strongest.
         const int Spread = Clamp((Progress - One / 3) * 3, 0, One);
-        const int Weight = Clamp((Scale(9 * One / 8, Spread) - (One - Inner)) * 8, 0, One);
+        const int Weight = Clamp((Scale(11 * One / 10, Spread) - (One - Inner)) * 10, 0, One);
         return {Distance << 16, Angle, Weight, 0};
     }
 
   private:
-    int mQuarters;
+    int mEighths;
 };
 
 class SwirlZoomEngine : public PolarEngine {
   public:
-    SwirlZoomEngine(QSize Size, int Quarters)
-        : PolarEngine(Size, false, true), mQuarters(Quarters) {}
+    SwirlZoomEngine(QSize Size, int Eighths) : PolarEngine(Size, false, true), mEighths(Eighths) {}
 
   protected:
     Ring RingAt(int Distance, int Progress, bool OfNew) const override {
@@ -65,10 +64,10 @@ class SwirlZoomEngine : public PolarEngine {
             Clamp(One - static_cast<int>(std::int64_t{Distance} * One / (Reach() + 1)), 0, One);
         const int Wound = OfNew ? Ease(Clamp(WoundAt(One - Progress), 0, One))
                                 : Ease(Clamp(WoundAt(Progress), 0, One));
-        const int Angle = Scale(Wound, Scale(Inner, Inner)) / 4 * mQuarters;
+        const int Angle = Scale(Wound, Scale(Inner, Inner)) / 8 * mEighths;
         const int Near = One + 2 * Scale(Wound, Wound);
         const auto Place = static_cast<int>((std::int64_t{Distance} << 32) / Near);
-        const int Weight = Ease(Clamp((Progress - One * 2 / 5) * 5, 0, One));
+        const int Weight = Ease(Clamp((Progress - One * 7 / 16) * 8, 0, One));
         return {Place, OfNew ? -Angle : Angle, Weight, 0};
     }
 
@@ -76,7 +75,7 @@ class SwirlZoomEngine : public PolarEngine {
     // One when the other picture has taken over.
     static int WoundAt(int Progress) { return Scale(Progress, One * 5 / 3); }
 
-    int mQuarters;
+    int mEighths;
 };
 
 struct Drop {
@@ -97,7 +96,7 @@ class RainEngine : public WarpEngine {
     RainEngine(QSize Size, int Drops) : WarpEngine(Size, false) {
         const int W = Size.width(), H = Size.height();
         mReach = Root(std::int64_t{W} * W + std::int64_t{H} * H) + 1;
-        mWidth = mReach / 6 + 2;
+        mWidth = mReach / 7 + 2;
         for (int I = 0; I < Drops; ++I) {
             // Scattered evenly, by steps that fill a square without a pattern.
             const int Across = (I * 49445 + 24000) & (One - 1);
@@ -174,11 +173,11 @@ Recipe WaterRing(int Waves) {
 Recipe RainRings(int Drops) {
     return Make<RainEngine>("Water", Drops);
 }
-Recipe Twirl(int Quarters) {
-    return Make<TwirlEngine>("Twirl", Quarters);
+Recipe Twirl(int Eighths) {
+    return Make<TwirlEngine>("Twirl", Eighths);
 }
-Recipe SwirlZoom(int Quarters) {
-    return Make<SwirlZoomEngine>("Twirl", Quarters);
+Recipe SwirlZoom(int Eighths) {
+    return Make<SwirlZoomEngine>("Twirl", Eighths);
 }
 
 }  // namespace neb::effects

@@ -10,9 +10,9 @@ namespace neb::effects {
 Recipe WaterRing(int Waves);
 // Drops: how many fall, one after another.
 Recipe RainRings(int Drops);
-// Quarters: how far the middle is turned, in quarter turns; below 0 the other way.
-Recipe Twirl(int Quarters);
+// Eighths: how far the middle is turned, in eighths of a turn; below 0 the other way.
+Recipe Twirl(int Eighths);
 // The old picture is wound up and comes nearer; the new one unwinds from there and settles.
-Recipe SwirlZoom(int Quarters);
+Recipe SwirlZoom(int Eighths);
 
 }  // namespace neb::effects

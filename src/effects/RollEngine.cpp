@@ -69,7 +69,7 @@ class RollEngine : public Engine {
     // its end lies inside.
     Roll RollAt(const Frame& F, int Part) const {
         const std::int64_t Length = std::int64_t{F.Height} << 16, Thickest = Length / 11;
-        const std::int64_t Axis = Length - (((Length + 5 * Thickest / 2) * Part) >> 16);
+        const std::int64_t Axis = Length - (((Length + 3 * Thickest) * Part) >> 16);
         const std::int64_t Rolled = Length - std::max<std::int64_t>(0, Axis);
         const int Share = Root((Rolled << 32) / Length);
         const std::int64_t Radius = std::min((Thickest * Share) >> 16, Rolled / 5);

@@ -62,8 +62,8 @@ NEB_AVX2 __m256i FourMixed(const QRgb* Old, const QRgb* New, const Shade* All,
     const __m128i N = _mm_loadu_si128(reinterpret_cast<const __m128i*>(New));
     const __m256i Near = Weighed(_mm_unpacklo_epi32(O, N), SharesOf(A, B));
     const __m256i Far = Weighed(_mm_unpackhi_epi32(O, N), SharesOf(C, D));
-    const __m256i Light = _mm256_inserti128_si256(_mm256_castsi128_si256(LightsOf(A, C)),
-                                                  LightsOf(B, D), 1);
+    const __m256i Light =
+        _mm256_inserti128_si256(_mm256_castsi128_si256(LightsOf(A, C)), LightsOf(B, D), 1);
     return _mm256_srli_epi16(_mm256_add_epi16(_mm256_unpacklo_epi64(Near, Far), Light), 8);
 }
 

@@ -37,7 +37,7 @@ constexpr Stop Covered(int At, int Shown, QRgb Colour, int Tint) {
 constexpr Stop Filtered(int At, int Shown, QRgb Colour) {
     return {At, Shown, Colour, kNone};
 }
-// With light of a colour thrown on top of it, and seen through a glass before.
+// With light of a colour thrown on it: dark places take it on, bright ones have it already.
 constexpr Stop Lit(int At, int Shown, QRgb Colour) {
     return {At, Shown, ~Colour, Colour & 0xFFFFFFu};
 }

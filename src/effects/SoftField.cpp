@@ -66,10 +66,14 @@ NEB_WIDE void AddLine(int* Sums, const int* Line, int Sign, int Count) {
     for (int I = 0; I < Count; ++I) Sums[I] += Line[I] * Sign;
 }
 
-NEB_WIDE void MixLines(std::uint16_t* Out, const int* Upper, const int* Lower, int Low, int Count) {
+NEB_WIDE void MixLines(std::uint16_t* Out, const std::uint16_t* Upper, const std::uint16_t* Lower,
+                       int Low, int Count) {
+    const auto A = static_cast<std::uint16_t>(kStep - Low), B = static_cast<std::uint16_t>(Low);
     NEB_INDEPENDENT
-    for (int I = 0; I < Count; ++I)
-        Out[I] = static_cast<std::uint16_t>((Upper[I] * (kStep - Low) + Lower[I] * Low) / kStep);
+    for (int I = 0; I < Count; ++I) {
+        const auto Sum = static_cast<std::uint16_t>(Upper[I] * A + Lower[I] * B);
+        Out[I] = static_cast<std::uint16_t>(Sum >> 2);
+    }
 }
 
 NEB_WIDE void Widen(std::int16_t* Out, const std::uint16_t* Points, int Count) {
@@ -151,12 +155,15 @@ void SoftField::EvenOut(bool Backwards) {
         const std::int64_t Rank = (Below[I] + Below[I + 1]) * (Levels - 1) / (2 * All);
         Moments[I] = static_cast<int>(Backwards ? Levels - 1 - Rank : Rank);
     }
-    for (int& P : mPoints) P = Moments[Bin(P)];
+    mMoments.reserve(mPoints.size());
+    for (const int P : mPoints) mMoments.push_back(static_cast<std::uint16_t>(Moments[Bin(P)]));
+    mPoints = {};
 }
 
 void SoftField::FillRow(int Y, std::int16_t* Row) const {
     auto* Points = Scratch<std::uint16_t, SoftField>(mAcross);
-    MixLines(Points, Line(Y / Step), Line(Y / Step + 1), Y % Step, mAcross);
+    const std::uint16_t* Upper = mMoments.data() + std::size_t(Y / Step) * std::size_t(mAcross);
+    MixLines(Points, Upper, Upper + mAcross, Y % Step, mAcross);
     const int Whole = mWidth / Step;
     Widen(Row, Points, Whole);
     for (int X = Whole * Step, Part = 0; X < mWidth; ++X, ++Part)

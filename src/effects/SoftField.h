@@ -27,7 +27,7 @@ class SoftField {
     // Adds another field of the same size, Parts of it to one of this.
     void Add(const SoftField& Other, int Parts);
     // Turns values into moments in which equal areas have each moment, so that a change goes on
-    // evenly; Backwards: from the highest value to the lowest. Needed before reading.
+    // evenly; Backwards: from the highest value to the lowest. Comes once, last, before reading.
     void EvenOut(bool Backwards = false);
 
     // The moments of one row of the picture, Width of them.
@@ -35,10 +35,10 @@ class SoftField {
 
   private:
     int* Line(int Y) { return mPoints.data() + std::size_t(Y) * std::size_t(mAcross); }
-    const int* Line(int Y) const { return mPoints.data() + std::size_t(Y) * std::size_t(mAcross); }
 
     int mWidth, mAcross, mDown;
-    std::vector<int> mPoints;
+    std::vector<int> mPoints;             // until they are evened out
+    std::vector<std::uint16_t> mMoments;  // from then on
 };
 
 // Drifting clouds, Count along the longer side; not yet evened out.

@@ -13,12 +13,12 @@ using Motion = SpritePlace (*)(QSize Size, int Part);
 SpritePlace Away(QSize Size, int Part) {
     const int Gone = Ease(Part);
     const std::int64_t X = std::int64_t{Size.width()} << 15, Y = std::int64_t{Size.height()} << 15;
-    return {X, Y, Scale(Gone, One * 9 / 8), One - Gone};
+    return {X, Y, Scale(Gone, One * 9 / 8), Scale(One - Gone, One - Gone / 2)};
 }
 
 SpritePlace Nail(QSize Size, int Part) {
     // Slowly at first, as a thing falls; a little past the point where it is out of view.
-    const int Angle = Scale(Scale(Part, Part) / 2 + Ease(Part) / 2, One * 9 / 32);
+    const int Angle = Scale(Ease(Part), One * 9 / 32);
     const std::int64_t X = Size.width(), Y = Size.height(), C = Cosine(Angle), S = Sine(Angle);
     return {(X * C - Y * S) / 2, (X * S + Y * C) / 2, Angle, One};
 }

@@ -8,8 +8,8 @@
 namespace neb::effects {
 namespace {
 
-constexpr int kBehind = 150;         // darkness of the new picture behind the tiles
-constexpr int kShare = One * 2 / 5;  // of the whole time that one tile takes to turn
+constexpr int kBehind = 150;          // darkness of the new picture behind the tiles
+constexpr int kShare = One * 3 / 10;  // of the whole time that one tile takes to turn
 
 class TilesEngine : public Engine {
   public:
@@ -81,9 +81,10 @@ class TilesEngine : public Engine {
     static void Read(QRgb* Out, const HalfSizes& Face, int U, int Step, int Y, int Count) {
         int* Across = Scratch<int, TilesEngine>(2 * Count);
         int* Down = Across + Count;
-        for (int I = 0; I < Count; ++I) Across[I] = U + I * Step;
+        const int Level = Face.LevelFor(Step), Start = Face.AcrossAt(U, Level);
+        for (int I = 0; I < Count; ++I) Across[I] = Start + I * (Step >> Level);
         std::fill_n(Down, Count, Y << 16);
-        Face.Read(Out, Across, Down, Count, Step);
+        SamplePlaces(Out, Face.At(Level), Across, Down, Count);
     }
 
     static void SoftenSide(QRgb& Out, QRgb Behind, std::int64_t Off, std::int64_t Half) {

@@ -9,7 +9,7 @@ namespace {
 
 constexpr int kBlock = WarpEngine::kBlock;
 // Up to such a spread one tap, or two, leave nothing out.
-constexpr int kOneTap = One / 4, kTwoTaps = One;
+constexpr int kOneTap = One * 3 / 8, kTwoTaps = One;
 
 // The nodes about one block: its own and those of its right and lower borders.
 struct Patch {
@@ -133,11 +133,11 @@ struct Strip {
 // Where the pixels of a strip read.
 class Reader {
   public:
-    void Find(const Strip& S, const Frame& F, int First, bool Wide) {
+    void Find(const Strip& S, const Picture& P, int First, bool Wide) {
         SpreadPart(mU, S.Line, First, S.Bits);
         SpreadPart(mV, S.Line, First + 1, S.Bits);
-        Place(mU, S.X, 1, F.Width - 1);
-        Place(mV, S.Y, 0, F.Height - 1);
+        Place(mU, S.X, 1, P.Width - 1);
+        Place(mV, S.Y, 0, P.Height - 1);
         if (!Wide) return;
         SpreadPart(mSpreadU, S.Line, First + 2, S.Bits);
         SpreadPart(mSpreadV, S.Line, First + 3, S.Bits);
@@ -183,7 +183,7 @@ Views ReadViews(const Frame& F, const Strip& S, const Traits& T, QRgb* OldRoom, 
         Out.Of[K] = P.Row(S.Y) + S.X;
         if (!T.Moved[K] || !T.Sees(K)) continue;
         const bool Known = K == 1 && T.Alike && T.Sees(0);
-        if (!Known) R.Find(S, F, K ? NewAcross : OldAcross, T.Widest[K] > kOneTap);
+        if (!Known) R.Find(S, P, K ? NewAcross : OldAcross, T.Widest[K] > kOneTap);
         R.Read(Rooms[K], P, T.Widest[K], S.Count);
         Out.Of[K] = Rooms[K];
     }

@@ -32,8 +32,8 @@ class WarpEngine : public Engine {
   public:
     void Draw(const Frame& F, int Y0, int Y1) const override;
 
-    static constexpr int kBlock = 64;  // pixels across that are drawn at once
-    static constexpr int kLines = 16;  // and down
+    static constexpr int kBlock = 128;  // pixels across that are drawn at once
+    static constexpr int kLines = 16;   // and down
 
   protected:
     // Fine: twice as many nodes each way.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "effects/HalfSizes.h"
 #include "effects/WarpEngine.h"
 
 namespace neb::effects {
@@ -13,7 +14,7 @@ class SwellEngine : public WarpEngine {
 
   protected:
     void FillLine(const Frame& F, int Y, int Bits, WarpNode* Nodes, int Count) const override {
-        const int Width = mSize.width() * 9 / 16 + 1;
+        const int Width = mSize.width() * 7 / 16 + 1;
         // The crests stand a little aslant and are bent.
         const int Down = static_cast<int>(std::int64_t{Y} * One / mSize.height());
         const int Lag = Scale(mSize.width() / 16, Down) -
@@ -32,7 +33,7 @@ class SwellEngine : public WarpEngine {
         const int Swell = Scale(Hump(Place), Strength);
         const int Wave = Scale(Sine(Place * mWaves), Swell);
         const int Slope = Scale(Cosine(Place * mWaves), Swell);
-        Parts[OldDown] = Parts[NewDown] = mSize.height() / 22 * Wave;
+        Parts[OldDown] = Parts[NewDown] = mSize.height() / 17 * Wave;
         Parts[OldAcross] = Parts[NewAcross] = mSize.width() / (mWaves * 20) * Slope;
         Parts[Light] = Slope / 5;
         Parts[NewWeight] = Ease(Clamp((Place - One * 7 / 16) * 8, 0, One));
@@ -44,15 +45,28 @@ class SwellEngine : public WarpEngine {
 
 class CurtainEngine : public WarpEngine {
   public:
-    CurtainEngine(QSize Size, int Folds) : WarpEngine(Size, false), mSize(Size), mFolds(Folds) {}
+    CurtainEngine(const Pair& P, int Folds)
+        : WarpEngine(P.Size(), false),
+          mCloth(P.Old, HalfSizes::Way::Across, 2),
+          mSize(P.Size()),
+          mFolds(Folds) {}
+
+    void Draw(const Frame& F, int Y0, int Y1) const override {
+        Frame Gathered = F;
+        Gathered.Old = mCloth.At(LevelAt(F.Progress));
+        WarpEngine::Draw(Gathered, Y0, Y1);
+    }
 
   protected:
     void FillLine(const Frame& F, int Y, int Bits, WarpNode* Nodes, int Count) const override {
         const Half H = HalfAt(F.Progress, Y);
+        const int Level = LevelAt(F.Progress);
         for (int N = 0; N < Count; ++N) {
             const int X = N << Bits;
             const bool Right = 2 * X >= mSize.width();
             FillNode(Nodes[N].At, H, Right ? mSize.width() - 1 - X : X, Y, Right);
+            const int Place = (N << Bits << 16) + Nodes[N].At[OldAcross];
+            Nodes[N].At[OldAcross] = mCloth.AcrossAt(Place, Level) - (N << Bits << 16);
         }
     }
 
@@ -82,11 +96,9 @@ class CurtainEngine : public WarpEngine {
         const int Along = static_cast<int>(std::min<std::int64_t>(One, (Off << 16) / H.Wide));
         const int Deep = Ease(Clamp(H.Drawn * 3, 0, One));
         const int Fold = Scale(Sine(Along * mFolds), Deep);
-        const int Slope = Scale(Cosine(Along * mFolds), Deep);
         const std::int64_t Wave = (H.Whole * Fold / mFolds) >> 20;
         const auto Way = static_cast<int>(((H.Whole * Along) >> 16) + Wave - Off - H.Start);
         Parts[OldAcross] = Right ? -Way : Way;
-        Parts[OldSpreadAcross] = SpreadOf(H, One + Slope * 3 / 8);
         Parts[OldDown] = LiftAt(Y, Scale(Deep, One / 2) - Fold / 2);
         const std::int64_t Edge = H.Wide - Off;
         const std::int64_t Hem =
@@ -97,10 +109,12 @@ class CurtainEngine : public WarpEngine {
         Parts[Light] = Inside > 0 ? Fold / 4 - Deep / 10 : ShadowAt(-Inside);
     }
 
-    // Squeeze: of the fold at a place, beside that of the curtain as a whole.
-    static int SpreadOf(const Half& H, int Squeeze) {
-        const std::int64_t Ratio = (H.Whole * Squeeze) / H.Wide;
-        return static_cast<int>(std::clamp<std::int64_t>((Ratio - One) / 2, 0, 3 * One));
+    // Which version of the picture is read: the further drawn, the smaller.
+    int LevelAt(int Progress) const {
+        const Half H = HalfAt(Progress, mSize.height() / 2);
+        const std::int64_t Wide = std::max<std::int64_t>(H.Wide, One);
+        return mCloth.LevelFor(
+            static_cast<int>(std::min<std::int64_t>((H.Whole << 16) / Wide, 8 * One)));
     }
 
     // Folds lift the hem.
@@ -115,6 +129,7 @@ class CurtainEngine : public WarpEngine {
         return -Scale(Near, Near) * 3 / 8;
     }
 
+    HalfSizes mCloth;
     QSize mSize;
     int mFolds;
 };
@@ -125,8 +140,7 @@ Recipe WaveAcross(int Waves) {
     return {"Wave", [=](const Pair& P) { return std::make_unique<SwellEngine>(P.Size(), Waves); }};
 }
 Recipe Curtain(int Folds) {
-    return {"Curtain",
-            [=](const Pair& P) { return std::make_unique<CurtainEngine>(P.Size(), Folds); }};
+    return {"Curtain", [=](const Pair& P) { return std::make_unique<CurtainEngine>(P, Folds); }};
 }
 
 }  // namespace neb::effects

@@ -79,9 +79,4 @@ class SoftSaw {
     MomentLine mMoments;
 };
 
-// A fraction of One, for means without a division in a pixel.
-constexpr int Share(int Part, int Whole) {
-    return One / Whole * Part;
-}
-
 }  // namespace neb::effects

@@ -74,6 +74,6 @@ extern const WipeShape Honey;     // Count: six-sided cells along the longer sid
 
 // WipeShapesPaint.cpp: as if by hand and weather
 extern const WipeShape Brush;  // Count: strokes, to and fro from the top down
-extern const WipeShape Drops;  // Count: growing drops at scattered places
+extern const WipeShape RainDrops;  // Count: growing drops at scattered places
 
 }  // namespace neb::effects

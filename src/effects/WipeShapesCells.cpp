@@ -22,10 +22,6 @@ int PartStart(int I, int Length, int Count) {
     return static_cast<int>((std::int64_t{I} * Length + Count - 1) / Count);
 }
 
-std::int16_t Reversed(int Moment) {
-    return static_cast<std::int16_t>(kLevels - 1 - Moment);
-}
-
 // Rows of two kinds that take turns, band after band.
 class BandRows : public WipeRows {
   public:
@@ -160,7 +156,8 @@ class SpiralRows : public WipeRows {
     std::vector<int> mStarts;
 };
 
-// Bands across and bands down that go over and under each other, each drawn through from one side.
+// Bands across, drawn through from the left, and bands down, drawn through from the top, that go
+// over and under each other.
 class WeaveRows : public WipeRows {
   public:
     WeaveRows(QSize Size, int Count) : mSize(Size), mCells(CellsFor(Size, Count)) {
@@ -174,10 +171,9 @@ class WeaveRows : public WipeRows {
         for (int I = 0; I < mCells.Across; ++I) {
             const int X0 = mStarts[std::size_t(I)], X1 = mStarts[std::size_t(I) + 1];
             if ((I + Band) % 2)
-                std::fill(Row + X0, Row + X1, I % 2 ? Reversed(Down) : Down);
+                std::fill(Row + X0, Row + X1, Down);
             else
-                for (int X = X0; X < X1; ++X)
-                    Row[X] = Band % 2 ? Reversed(mAcross[std::size_t(X)]) : mAcross[std::size_t(X)];
+                std::copy(mAcross.begin() + X0, mAcross.begin() + X1, Row + X0);
         }
     }
 
@@ -201,8 +197,7 @@ MomentLine OffMiddles(int Length, std::int64_t Side, int Half, int Shift) {
 class HalftoneRows : public WipeRows {
   public:
     HalftoneRows(QSize Size, int Count)
-        : mAcross(MakeLine(Size.width(),
-                           [&](int X) { return Level(X, Size.width()) * Share(7, 10) >> 16; })) {
+        : mAcross(MakeLine(Size.width(), [&](int X) { return Level(X, Size.width()) * 7 / 10; })) {
         const std::int64_t Side = std::int64_t{std::max(Size.width(), Size.height())} * One / Count;
         mOffX = OffMiddles(Size.width(), Side, kHalf, 0);
         mOffY = OffMiddles(Size.height(), Side, kHalf, 0);

@@ -168,6 +168,6 @@ class DropRows : public WipeRows {
 }  // namespace
 
 constinit const WipeShape Brush = MakeShape<BrushRows>;
-constinit const WipeShape Drops = MakeShape<DropRows>;
+constinit const WipeShape RainDrops = MakeShape<DropRows>;
 
 }  // namespace neb::effects

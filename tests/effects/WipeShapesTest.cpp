@@ -47,7 +47,7 @@ const Named kShapes[] = {
     {"Halftone", Halftone, 30, 700},
     {"Honey", Honey, 18, 500},
     {"Brush", Brush, 6, 0},
-    {"Drops", Drops, 40, 500},
+    {"RainDrops", RainDrops, 40, 500},
 };
 
 const QSize kSizes[] = {{1, 1}, {1, 50}, {50, 1}, {2, 3}, {37, 91}, {321, 200}, {640, 400}};
