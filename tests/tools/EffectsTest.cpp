@@ -109,6 +109,19 @@ TEST_F(NebctlEffectsTest, TheFileOfTimesIsReadByTheEngineToTheFourthDecimal) {
     }
 }
 
+TEST_F(NebctlEffectsTest, TheTimesBesideTheProgramClassTheEffectsOfTheSpeedTest) {
+    const clsDBEngine Engine = EngineBeside(QCoreApplication::applicationDirPath(), Dir.Path());
+    ASSERT_EQ(Engine.EffectStats.size(), std::size_t(EffectCount()));
+    for (const EffectStatRecord& Row : Engine.EffectStats) EXPECT_GT(Row.AvgTime, 0) << Row.Effect;
+    const auto Levels = LevelsOf(Engine);
+    EXPECT_EQ(Levels[118], 3);
+    EXPECT_EQ(Levels[121], 3);
+    EXPECT_EQ(Levels[56], 2);
+    EXPECT_EQ(Levels[1], 2);
+    EXPECT_EQ(Levels[70], 1);
+    EXPECT_EQ(Levels[85], 1);
+}
+
 TEST_F(NebctlEffectsTest, ALargerScreenTakesLonger) {
     const auto Time = [](QSize Size) {
         return TimeTransition(118, Slope(Size, 1), Slope(Size, 5));
