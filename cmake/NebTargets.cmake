@@ -12,6 +12,13 @@ if(NEB_SANITIZE)
   target_link_options(neb_flags INTERFACE -fsanitize=address,undefined)
 endif()
 
+# Floating point that comes out alike on every machine: nothing fused, nothing reckoned too exactly.
+add_library(neb_exact INTERFACE)
+target_compile_options(neb_exact INTERFACE -ffp-contract=off)
+if(CMAKE_SIZEOF_VOID_P EQUAL 4 AND CMAKE_SYSTEM_PROCESSOR MATCHES "86")
+  target_compile_options(neb_exact INTERFACE -msse2 -mfpmath=sse)
+endif()
+
 # neb_layer(NAME support DIR support HEADERS_FOR core|gui DEPENDS neb_x Qt6::Y [HIDDEN z])
 # All sources of one folder (not of folders below it) as the library neb_NAME. What is DEPENDS
 # is passed on to the users of the layer, what is HIDDEN is not.

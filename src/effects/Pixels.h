@@ -6,10 +6,10 @@
 #include <QRgb>
 #include <cstdint>
 #include <cstring>
-#include <vector>
 
 #include "effects/Engine.h"
 #include "effects/Fixed.h"
+#include "effects/Scratch.h"
 
 // Compiled a second time for wider vectors where the machine has them. NEB_NARROW: as on a machine
 // that has none, for the tests.
@@ -67,15 +67,6 @@ void DarkenSpan(QRgb* Out, int Darkness, int Count);
 inline int Coverage(int Place, int Length) {
     const int Inside = Place < Length - Place ? Place : Length - Place;
     return Clamp((Inside + One / 2) >> 8, 0, 256);
-}
-
-// Room for one line of intermediate values, kept by the thread from frame to frame. User: a type
-// of the caller's own, so that routines that call each other do not share their room.
-template <typename T, typename User>
-T* Scratch(int Count) {
-    thread_local std::vector<T> Room;
-    if (Room.size() < static_cast<std::size_t>(Count)) Room.resize(static_cast<std::size_t>(Count));
-    return Room.data();
 }
 
 }  // namespace neb::effects

@@ -52,6 +52,7 @@ void Transition::Draw(double Progress, QImage& Out) const {
 void Transition::DrawRows(double Progress, QImage& Out, int First, int Last) const {
     if (!Fits(Out, Size()))
         throw Fault(QStringLiteral("The frame of a transition must be of its size."));
+    ReadyScratch();
     const int P = FixedProgress(Progress);
     const Frame F{mPair.Old,
                   mPair.New,

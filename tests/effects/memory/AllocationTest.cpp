@@ -49,18 +49,17 @@ TEST(Allocations, AreCountedHoweverTheyAreMade) {
     EXPECT_GE(AllocationsOf(Nothing, [] { QImage(9, 9, QImage::Format_RGB32).fill(0); }), 1);
 }
 
-// The thread's room grows while a transition is drawn for the first time, and is kept then.
-TEST_P(EachNumber, TakesNoMemoryInAFrameDrawnBeforeAndHardlyAnyBefore) {
+// The first frame makes the thread's room, from which all later frames take their lines.
+TEST_P(EachNumber, TakesNoMemoryInAFrameAfterTheFirst) {
     if (!CountsAllocations()) GTEST_SKIP() << "a sanitizer brings an allocator of its own";
-    constexpr int kSteps = 40;
-    for (const QSize Size : {QSize(641, 359), QSize(40, 301), QSize(1280, 1)}) {
+    for (const QSize Size : {QSize(641, 359), QSize(40, 301), QSize(1280, 1), QSize(1920, 1080)}) {
         const Transition T(GetParam(), Scene(Size, 1), Scene(Size, 2));
         QImage Out(Size, QImage::Format_RGB32);
-        const auto First = [&] { T.Draw(1.0 / kSteps, Out); };
+        const int Steps = Size.height() > 1000 ? 10 : 40;
+        const auto First = [&] { T.Draw(1.0 / Steps, Out); };
         const auto All = [&] {
-            for (int Step = 0; Step <= kSteps; ++Step) T.Draw(Step / double{kSteps}, Out);
+            for (int Step = 0; Step <= Steps; ++Step) T.Draw(Step / double{Steps}, Out);
         };
-        EXPECT_LT(AllocationsOf(First, All), kSteps) << Size.width() << "x" << Size.height();
-        EXPECT_EQ(AllocationsOf(All, All), 0) << Size.width() << "x" << Size.height();
+        EXPECT_EQ(AllocationsOf(First, All), 0) << Size.width() << "x" << Size.height();
     }
 }
