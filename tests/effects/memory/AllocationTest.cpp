@@ -58,7 +58,7 @@ TEST_P(EachNumber, TakesNoMemoryInAFrameAfterTheFirst) {
         const int Steps = Size.height() > 1000 ? 10 : 40;
         const auto First = [&] { T.Draw(1.0 / Steps, Out); };
         const auto All = [&] {
-            for (int Step = 0; Step <= Steps; ++Step) T.Draw(Step / double{Steps}, Out);
+            for (int Step = 0; Step <= Steps; ++Step) T.Draw(1.0 * Step / Steps, Out);
         };
         EXPECT_EQ(AllocationsOf(First, All), 0) << Size.width() << "x" << Size.height();
     }
