@@ -122,7 +122,7 @@ const std::vector<EffectRow> kRows = {
      Zoom({.NewFrom = {-75, -75, 250, 250}, .Fades = true, .FadeFrom = 10, .FadeTo = 80})},
     {75, u"Page Turn Up"_s, PageTurn({0, -1})},
     {76, u"Sweep Corner"_s, Wipe(Sweep)},
-    {77, u"Push Halves"_s, PushHalves()},
+    {77, u"Simple Fade"_s, SimpleFade()},
     {78, u"Iris Cross"_s, Wipe(Cross)},
     {79, u"Strips From Both Sides"_s, SlidingStrips(8)},
     {80, u"Shrink to the Corner"_s,

@@ -38,6 +38,15 @@ class CrossFadeEngine : public Engine {
     std::vector<std::int16_t> mAcross, mDown;
 };
 
+class SimpleFadeEngine : public Engine {
+  public:
+    void Draw(const Frame& F, int Y0, int Y1) const override {
+        const int Weight = (Ease(F.Progress) + 128) >> 8;
+        for (int Y = Y0; Y < Y1; ++Y)
+            MixSpan(F.Row(Y), F.Old.Row(Y), F.New.Row(Y), Weight, F.Width);
+    }
+};
+
 class FadeThroughEngine : public Engine {
   public:
     explicit FadeThroughEngine(QRgb Colour) : mColour(Colour) {}
@@ -92,6 +101,10 @@ class OldPrintEngine : public Engine {
 Recipe CrossFade() {
     return {"Fade", [](const Pair& P) { return std::make_unique<CrossFadeEngine>(P.Size()); },
             true};
+}
+
+Recipe SimpleFade() {
+    return {"Fade", [](const Pair&) { return std::make_unique<SimpleFadeEngine>(); }, true};
 }
 
 Recipe FadeThrough(QRgb Colour) {

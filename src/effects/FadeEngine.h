@@ -5,7 +5,8 @@
 
 namespace neb::effects {
 
-Recipe CrossFade();
+Recipe CrossFade();   // as light adds up, the middle a little before the corners
+Recipe SimpleFade();  // byte by byte, for machines on which the finer one would stutter
 Recipe FadeThrough(QRgb Colour);
 // The colours leave the old picture as in an old brown photograph and come back in the new one.
 Recipe FadeThroughOldPrint();

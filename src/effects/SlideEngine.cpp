@@ -68,14 +68,6 @@ void AddPush(Arrangement& A, const Area& Part, Step Way, QSize Size, int Progres
     A.Add(Coming(Part, Way, Size, Progress));
 }
 
-Arrangement PlanPushHalves(QSize Size, int Progress) {
-    Arrangement A;
-    const int Half = Size.height() / 2;
-    AddPush(A, {0, 0, Size.width(), Half}, {-1, 0}, Size, Progress);
-    AddPush(A, {0, Half, Size.width(), Size.height()}, {1, 0}, Size, Progress);
-    return A;
-}
-
 // The progress of one of several sheets that start one after the other; each takes Share of the
 // whole time, in hundredths.
 int ProgressOf(int Index, int Count, int Share, int Progress) {
@@ -182,9 +174,6 @@ Recipe Uncover(Heading Way) {
     });
 }
 
-Recipe PushHalves() {
-    return Make("Slide", PlanPushHalves);
-}
 Recipe SlidingStrips(int Count) {
     return Make("Slide", [=](QSize Size, int P) { return PlanStrips(Size, P, Count); });
 }

@@ -12,8 +12,6 @@ Recipe Push(Heading Way);
 Recipe Cover(Heading Way);    // the new picture moves in, with a soft shadow before it
 Recipe Uncover(Heading Way);  // the old picture moves out, with a soft shadow behind it
 
-// The upper half is pushed to the left, the lower one to the right.
-Recipe PushHalves();
 // Lanes of the new picture slide in over the old one, from the left and the right in turn.
 Recipe SlidingStrips(int Count);
 // Columns of the new picture come down over the old one, one after the other; up to 24.
