@@ -42,8 +42,9 @@ class SpinEngine : public Engine {
         for (int Y = Y0; Y < Y1; ++Y) {
             CopySpan(F.Row(Y), Back.Row(Y), F.Width);
             S.DrawShadow(F.Row(Y), Y, F.Width, Wide, 110);
-            S.DrawRow(F.Row(Y), Y, F.Width);
         }
+        for (int Y = Y0; Y < Y1; Y += Sprite::kBand)
+            S.DrawRows(F, Y, std::min(Y + Sprite::kBand, Y1));
     }
 
   private:

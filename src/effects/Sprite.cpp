@@ -5,7 +5,7 @@
 namespace neb::effects {
 namespace {
 
-constexpr int kRun = 256;
+constexpr int kRun = 128;
 
 NEB_WIDE void FillPlaces(int* __restrict U, int* __restrict V, int U0, int V0, int Du, int Dv,
                          int Count) {
@@ -99,20 +99,42 @@ void Sprite::Read(QRgb* Out, const Axis& A, const Axis& B, Run R) const {
     }
 }
 
-void Sprite::DrawRow(QRgb* Out, int Y, int Width) const {
-    if (!Touches(Y)) return;
+Sprite::Line Sprite::LineAt(int Y, int Width) const {
     const Axis A = AcrossAt(Y), B = DownAt(Y);
     const Run Seen = Inside(A, B, mGrain / 2, Width);
-    if (Seen.From >= Seen.To) return;
-    Run Whole = Inside(A, B, -(mGrain + 1) / 2, Width);
-    if (Whole.From >= Whole.To) Whole = {Seen.To, Seen.To};
+    const Run Whole = Inside(A, B, -(mGrain + 1) / 2, Width);
+    return {A, B, Seen, Whole.From < Whole.To ? Whole : Run{Seen.To, Seen.To}};
+}
+
+void Sprite::DrawEdges(QRgb* Out, const Line& L, int Width) const {
     QRgb* Row = Scratch<QRgb, Sprite>(Width);
-    Read(Out, A, B, Whole);
-    for (const Run& Edge : {Run{Seen.From, Whole.From}, Run{Whole.To, Seen.To}}) {
-        Read(Row, A, B, Edge);
+    for (const Run& Edge : {Run{L.Seen.From, L.Whole.From}, Run{L.Whole.To, L.Seen.To}}) {
+        Read(Row, L.A, L.B, Edge);
         for (int X = Edge.From; X < Edge.To; ++X)
-            Out[X] = Mix(Out[X], Row[X], CoverAt(A, X) * CoverAt(B, X) >> 8);
+            Out[X] = Mix(Out[X], Row[X], CoverAt(L.A, X) * CoverAt(L.B, X) >> 8);
     }
+}
+
+// Rows of a turned picture cross a great many of its lines. Neighbouring rows cross nearly the
+// same ones, so they are drawn side by side in columns while those lines are at hand.
+void Sprite::DrawRows(const Frame& F, int Y0, int Y1) const {
+    Y0 = std::max(Y0, mTop);
+    Y1 = std::min(Y1, mBottom + 1);
+    Line Lines[kBand];
+    int From = F.Width, To = 0;
+    for (int Y = Y0; Y < Y1; ++Y) {
+        Line& L = Lines[Y - Y0] = LineAt(Y, F.Width);
+        if (L.Seen.From >= L.Seen.To) L.Seen = L.Whole = {0, 0};
+        if (L.Whole.From >= L.Whole.To) continue;
+        From = std::min(From, L.Whole.From);
+        To = std::max(To, L.Whole.To);
+    }
+    for (int X = From; X < To; X += kRun)
+        for (int Y = Y0; Y < Y1; ++Y) {
+            const Line& L = Lines[Y - Y0];
+            Read(F.Row(Y), L.A, L.B, {std::max(X, L.Whole.From), std::min(X + kRun, L.Whole.To)});
+        }
+    for (int Y = Y0; Y < Y1; ++Y) DrawEdges(F.Row(Y), Lines[Y - Y0], F.Width);
 }
 
 void Sprite::DrawShadow(QRgb* Out, int Y, int Width, int Wide, int Depth) const {
