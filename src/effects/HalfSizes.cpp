@@ -1,5 +1,7 @@
 #include "effects/HalfSizes.h"
 
+#include <algorithm>
+
 namespace neb::effects {
 namespace {
 
@@ -15,6 +17,16 @@ QRgb MeanDown(QRgb A, QRgb B) {
 NEB_WIDE void HalveDown(QRgb* Out, const QRgb* Upper, const QRgb* Lower, int Count) {
     NEB_INDEPENDENT
     for (int I = 0; I < Count; ++I) Out[I] = MeanUp(Upper[I], Lower[I]);
+}
+
+// As HalfSizes::AcrossAt and DownAt, with nothing that needs more than 32 bits.
+NEB_WIDE void HalvePlaces(int* __restrict Out, const int* Places, int Level, int Count) {
+    if (Level == 0) {
+        std::copy_n(Places, Count, Out);
+        return;
+    }
+    for (int I = 0; I < Count; ++I)
+        Out[I] = (((Places[I] >> 1) + One / 4) >> (Level - 1)) - One / 2;
 }
 
 #ifdef __SSE2__
@@ -103,10 +115,8 @@ void HalfSizes::ReadLevel(QRgb* Out, const int* U, const int* V, int Count, int 
     if (Level == 0) return SamplePlaces(Out, At(0), U, V, Count);
     int* Across = Scratch<int, HalfSizes>(2 * Count);
     int* Down = Across + Count;
-    for (int I = 0; I < Count; ++I) {
-        Across[I] = AcrossAt(U[I], Level);
-        Down[I] = DownAt(V[I], Level);
-    }
+    HalvePlaces(Across, U, mWay == Way::Down ? 0 : Level, Count);
+    HalvePlaces(Down, V, mWay == Way::Across ? 0 : Level, Count);
     SamplePlaces(Out, At(Level), Across, Down, Count);
 }
 

@@ -31,6 +31,8 @@ class Sprite {
     static constexpr int kBand = 32;  // the most rows that are drawn at once
     // Draws what lies in the rows Y0 up to Y1, at most kBand, of the frame.
     void DrawRows(const Frame& F, int Y0, int Y1) const;
+    // The pixels of a row that it hides: what lies behind them need not be drawn.
+    void FindHidden(int Y, int Width, int& From, int& To) const;
     // Darkens a row about it, most at its edges. Wide: pixels, Depth: 0..256; Width: of the frame.
     void DrawShadow(QRgb* Out, int Y, int Width, int Wide, int Depth) const;
 
