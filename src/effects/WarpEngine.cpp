@@ -8,14 +8,15 @@ namespace neb::effects {
 namespace {
 
 constexpr int kBlock = WarpEngine::kBlock;
-// Up to such a spread one tap, or two, leave nothing out.
-constexpr int kOneTap = One * 3 / 8, kTwoTaps = One;
+// Up to such a spread one tap, or two, leave out nothing that is missed while it moves.
+constexpr int kOneTap = One * 9 / 16, kTwoTaps = One * 5 / 4;
 
 // The nodes about one block: its own and those of its right and lower borders.
 struct Patch {
     const WarpNode* Nodes;
     int Count;  // nodes in a line of the grid
     int Bits;
+    bool Alike;  // both pictures are bent as the old one
     int Across() const { return (kBlock >> Bits) + 1; }
     int Down() const { return (WarpEngine::kLines >> Bits) + 1; }
 };
@@ -26,18 +27,23 @@ struct Traits {
     int Widest[2] = {0, 0};
     int Light = 0;
     int Low = One, High = 0;  // weights
-    bool Alike = true;        // both pictures are bent in the same way
+    bool Alike = false;       // both pictures are bent in the same way
 
+    void AddBend(int Which, const int* P) {
+        Moved[Which] |= P[0] | P[1] | P[2] | P[3];
+        Widest[Which] = std::max({Widest[Which], std::abs(P[2]), std::abs(P[3])});
+    }
     void Add(const WarpNode& N) {
-        for (int K = 0; K < 2; ++K) {
-            const int* P = N.At + (K ? NewAcross : OldAcross);
-            Moved[K] |= P[0] | P[1] | P[2] | P[3];
-            Widest[K] = std::max({Widest[K], std::abs(P[2]), std::abs(P[3])});
-        }
-        Alike = Alike && std::equal(N.At + OldAcross, N.At + NewAcross, N.At + NewAcross);
+        AddBend(0, N.At + OldAcross);
+        if (!Alike) AddBend(1, N.At + NewAcross);
         Light |= std::abs(N.At[WarpPart::Light]) >> 8;
         Low = std::min(Low, std::max(0, N.At[NewWeight]));
         High = std::max(High, std::min(One, N.At[NewWeight]));
+    }
+    void Close() {
+        if (!Alike) return;
+        Moved[1] = Moved[0];
+        Widest[1] = Widest[0];
     }
     bool Sees(int Which) const { return Which ? High > 0 : Low < One; }
     // Which picture is seen as it is; -1 when none is.
@@ -50,8 +56,10 @@ struct Traits {
 
 Traits TraitsOf(const Patch& P) {
     Traits T;
+    T.Alike = P.Alike;
     for (int J = 0; J < P.Down(); ++J)
         for (int I = 0; I < P.Across(); ++I) T.Add(P.Nodes[J * P.Count + I]);
+    T.Close();
     return T;
 }
 
@@ -183,7 +191,8 @@ Views ReadViews(const Frame& F, const Strip& S, const Traits& T, QRgb* OldRoom, 
         Out.Of[K] = P.Row(S.Y) + S.X;
         if (!T.Moved[K] || !T.Sees(K)) continue;
         const bool Known = K == 1 && T.Alike && T.Sees(0);
-        if (!Known) R.Find(S, P, K ? NewAcross : OldAcross, T.Widest[K] > kOneTap);
+        const int First = K == 1 && !T.Alike ? NewAcross : OldAcross;
+        if (!Known) R.Find(S, P, First, T.Widest[K] > kOneTap);
         R.Read(Rooms[K], P, T.Widest[K], S.Count);
         Out.Of[K] = Rooms[K];
     }
@@ -225,9 +234,9 @@ void CopyBlocks(const Frame& F, int Which, int X0, int X1, int Y0, int Y1) {
 
 }  // namespace
 
-WarpEngine::WarpEngine(QSize Size, bool Fine) {
+WarpEngine::WarpEngine(QSize Size, Bend How) : mAlike(How == Bend::Alike) {
     const int Longer = std::max(Size.width(), Size.height());
-    mBits = Clamp((Longer >= 1200 ? 3 : 2) - (Longer < 500) - Fine, 1, 3);
+    mBits = Longer >= 1200 ? 3 : (Longer < 500 ? 1 : 2);
 }
 
 void WarpEngine::Draw(const Frame& F, int Y0, int Y1) const {
@@ -253,7 +262,7 @@ void WarpEngine::DrawLines(const Frame& F, const WarpNode* Nodes, int Count, int
     // Blocks of one plain picture are copied together.
     int Plain = -1, Start = 0;
     for (int X = 0; X < F.Width; X += kBlock) {
-        const Patch P{Nodes + (X >> mBits), Count, mBits};
+        const Patch P{Nodes + (X >> mBits), Count, mBits, mAlike};
         const Traits T = TraitsOf(P);
         const int Now = T.PlainOne();
         if (Plain >= 0 && Now != Plain) CopyBlocks(F, Plain, Start, X, Y0, Y1);
