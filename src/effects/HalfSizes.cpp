@@ -100,10 +100,10 @@ int HalfSizes::LevelFor(int Shrink) const {
 }
 
 void HalfSizes::Read(QRgb* Out, const int* U, const int* V, int Count, int Shrink) const {
-    // From 5/4 to 7/4 pixels the next version takes over.
+    // From 11/8 to 13/8 pixels the next version takes over.
     int Level = 0;
-    while (Level < Last() && Shrink >> Level >= 7 * (One / 4)) ++Level;
-    const int Next = Level < Last() ? Clamp(((Shrink >> Level) - 5 * (One / 4)) >> 7, 0, 256) : 0;
+    while (Level < Last() && Shrink >> Level >= 13 * (One / 8)) ++Level;
+    const int Next = Level < Last() ? Clamp(((Shrink >> Level) - 11 * (One / 8)) >> 6, 0, 256) : 0;
     ReadLevel(Out, U, V, Count, Level);
     if (Next == 0) return;
     QRgb* Other = Scratch<QRgb, HalfSizes>(Count);

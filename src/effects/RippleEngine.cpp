@@ -41,12 +41,12 @@ class TwirlEngine : public PolarEngine {
 
   protected:
     Ring RingAt(int Distance, int Progress, bool) const override {
-        const int Inner =
-            Clamp(One - static_cast<int>(std::int64_t{Distance} * One / (Reach() + 1)), 0, One);
+        const int Far = static_cast<int>(std::int64_t{Distance} * One / (Reach() + 1));
+        const int Inner = Clamp(One - Far * 3 / 2, 0, One);  // the corners stand still
         const int Angle = Scale(Hump(Progress), Scale(Inner, Inner)) / 8 * mEighths;
         // The new picture wells up in the middle and spreads while the turning is strongest.
         const int Spread = Clamp((Progress - One / 3) * 3, 0, One);
-        const int Weight = Clamp((Scale(11 * One / 10, Spread) - (One - Inner)) * 16, 0, One);
+        const int Weight = Clamp((Scale(11 * One / 10, Spread) - Far) * 16, 0, One);
         return {Distance << 16, Angle, Weight, 0};
     }
 
