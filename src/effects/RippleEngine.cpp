@@ -98,7 +98,7 @@ class RainEngine : public WarpEngine {
     RainEngine(QSize Size, int Drops) : WarpEngine(Size, Bend::Alike) {
         const int W = Size.width(), H = Size.height();
         mReach = Root(std::int64_t{W} * W + std::int64_t{H} * H) + 1;
-        mWidth = mReach / 7 + 2;
+        mWidth = mReach / 10 + 2;
         for (int I = 0; I < Drops; ++I) {
             // Scattered evenly, by steps that fill a square without a pattern.
             const int Across = (I * 49445 + 24000) & (One - 1);
@@ -122,20 +122,29 @@ class RainEngine : public WarpEngine {
                         std::int64_t{4} * Front * Front,
                         4 * Tail * Tail,
                         Front,
-                        Fade * mWidth / 26};
+                        Fade * mWidth / 24};
         }
     }
 
     void FillLine(const Frame&, int Y, int Bits, WarpNode* Nodes, int Count) const override {
         const PondRing* Rings = Scratch<PondRing, RainEngine>(int(mDrops.size()));
-        for (std::size_t I = 0; I < mDrops.size(); ++I)
-            for (int N = 0; N < Count; ++N) AddRing(Nodes[N], Rings[I], N << Bits, Y);
+        for (std::size_t I = 0; I < mDrops.size(); ++I) AddRing(Nodes, Rings[I], Y, Bits, Count);
     }
 
   private:
     static constexpr int kWaves = 3;
 
-    void AddRing(WarpNode& Node, const PondRing& R, int X, int Y) const {
+    // To the nodes of a line that it has reached.
+    void AddRing(WarpNode* Nodes, const PondRing& R, int Y, int Bits, int Count) const {
+        const std::int64_t Dy = 2 * Y + 1 - R.Y;
+        if (Dy * Dy >= R.Head) return;
+        const int Half = Root(R.Head - Dy * Dy) + 2;
+        const int From = std::max(0, (R.X - Half) / 2) >> Bits;
+        const int To = std::min(Count - 1, std::max(0, (R.X + Half) / 2) >> Bits);
+        for (int N = From; N <= To; ++N) AddTo(Nodes[N], R, N << Bits, Y);
+    }
+
+    void AddTo(WarpNode& Node, const PondRing& R, int X, int Y) const {
         const std::int64_t Dx = 2 * X + 1 - R.X, Dy = 2 * Y + 1 - R.Y;
         const std::int64_t Square = Dx * Dx + Dy * Dy;
         if (Square >= R.Head) return;
