@@ -176,7 +176,7 @@ const std::vector<EffectRow> kRows = {
     {120, u"Swirl Zoom"_s, SwirlZoom(3)},
     {121, u"Twirl"_s, Twirl(4)},
     {122, u"Wave Across"_s, WaveAcross(3)},
-    {123, u"Rain on the Pond"_s, RainRings(9)},
+    {123, u"Rain on the Pond"_s, RainRings(7)},
     {124, u"Page Turn Corner"_s, PageTurn({-4, -3})},
     {125, u"Lens Passing"_s, LensPass()},
     {126, u"Curtain"_s, Curtain(6)},

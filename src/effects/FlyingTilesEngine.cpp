@@ -152,13 +152,10 @@ class FlyingTilesEngine : public Engine {
         Flyer* Flyers = Scratch<Flyer, FlyingTilesEngine>(Count);
         auto* Rests = Scratch<std::uint8_t, FlyingTilesEngine>(Count);
         const int Flying = Place(Flyers, Rests, F);
-        for (int Y = Y0; Y < Y1; ++Y) {
-            DrawResting(F, Rests, Y);
-            for (int I = 0; I < Flying; ++I) {
-                const Flyer& Now = Flyers[I];
-                if (Now.Shadow) Now.Shape.DrawShadow(F.Row(Y), Y, F.Width, mShadow, Now.Shadow);
-                Now.Shape.DrawRow(F.Row(Y), Y, F.Width);
-            }
+        for (int Top = Y0; Top < Y1; Top += Sprite::kBand) {
+            const int Under = std::min(Top + Sprite::kBand, Y1);
+            for (int Y = Top; Y < Under; ++Y) DrawResting(F, Rests, Y);
+            for (int I = 0; I < Flying; ++I) DrawFlyer(F, Flyers[I], Top, Under);
         }
     }
 
@@ -180,6 +177,12 @@ class FlyingTilesEngine : public Engine {
             Flyers[Flying++] = {Sprite(mFace, T.Area, Now.Place), Depth};
         }
         return Flying;
+    }
+
+    void DrawFlyer(const Frame& F, const Flyer& Now, int Y0, int Y1) const {
+        for (int Y = Y0; Now.Shadow && Y < Y1; ++Y)
+            Now.Shape.DrawShadow(F.Row(Y), Y, F.Width, mShadow, Now.Shadow);
+        Now.Shape.DrawRows(F, Y0, Y1);
     }
 
     // The tiles at rest and what lies behind the others, in runs.

@@ -1,5 +1,7 @@
 #include "effects/HalfSizes.h"
 
+#include <algorithm>
+
 namespace neb::effects {
 namespace {
 
@@ -15,6 +17,16 @@ QRgb MeanDown(QRgb A, QRgb B) {
 NEB_WIDE void HalveDown(QRgb* Out, const QRgb* Upper, const QRgb* Lower, int Count) {
     NEB_INDEPENDENT
     for (int I = 0; I < Count; ++I) Out[I] = MeanUp(Upper[I], Lower[I]);
+}
+
+// As HalfSizes::AcrossAt and DownAt, with nothing that needs more than 32 bits.
+NEB_WIDE void HalvePlaces(int* __restrict Out, const int* Places, int Level, int Count) {
+    if (Level == 0) {
+        std::copy_n(Places, Count, Out);
+        return;
+    }
+    for (int I = 0; I < Count; ++I)
+        Out[I] = (((Places[I] >> 1) + One / 4) >> (Level - 1)) - One / 2;
 }
 
 #ifdef __SSE2__
@@ -88,10 +100,10 @@ int HalfSizes::LevelFor(int Shrink) const {
 }
 
 void HalfSizes::Read(QRgb* Out, const int* U, const int* V, int Count, int Shrink) const {
-    // From 5/4 to 7/4 pixels the next version takes over.
+    // From 11/8 to 13/8 pixels the next version takes over.
     int Level = 0;
-    while (Level < Last() && Shrink >> Level >= 7 * (One / 4)) ++Level;
-    const int Next = Level < Last() ? Clamp(((Shrink >> Level) - 5 * (One / 4)) >> 7, 0, 256) : 0;
+    while (Level < Last() && Shrink >> Level >= 13 * (One / 8)) ++Level;
+    const int Next = Level < Last() ? Clamp(((Shrink >> Level) - 11 * (One / 8)) >> 6, 0, 256) : 0;
     ReadLevel(Out, U, V, Count, Level);
     if (Next == 0) return;
     QRgb* Other = Scratch<QRgb, HalfSizes>(Count);
@@ -103,10 +115,8 @@ void HalfSizes::ReadLevel(QRgb* Out, const int* U, const int* V, int Count, int 
     if (Level == 0) return SamplePlaces(Out, At(0), U, V, Count);
     int* Across = Scratch<int, HalfSizes>(2 * Count);
     int* Down = Across + Count;
-    for (int I = 0; I < Count; ++I) {
-        Across[I] = AcrossAt(U[I], Level);
-        Down[I] = DownAt(V[I], Level);
-    }
+    HalvePlaces(Across, U, mWay == Way::Down ? 0 : Level, Count);
+    HalvePlaces(Down, V, mWay == Way::Across ? 0 : Level, Count);
     SamplePlaces(Out, At(Level), Across, Down, Count);
 }
 

@@ -11,7 +11,7 @@ class LensEngine : public PolarEngine {
   public:
     // As high as the picture.
     explicit LensEngine(QSize Size)
-        : PolarEngine(Size, false, false), mRadius(Size.height() / 2 + 2) {}
+        : PolarEngine(Size, Bend::Alike), mRadius(Size.height() / 2 + 2) {}
 
   protected:
     Ring RingAt(int Distance, int, bool) const override {

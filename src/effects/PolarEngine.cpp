@@ -77,8 +77,8 @@ void Put(int* Parts, const Turn& A, const Turn& B, int Part, std::int64_t Dx, st
 
 }  // namespace
 
-PolarEngine::PolarEngine(QSize Size, bool Fine, bool Apart)
-    : WarpEngine(Size, Fine), mSize(Size), mApart(Apart) {
+PolarEngine::PolarEngine(QSize Size, Bend How)
+    : WarpEngine(Size, How), mSize(Size), mApart(How == Bend::Apart) {
     const std::int64_t W = Size.width(), H = Size.height();
     mReach = Root(W * W + H * H) / 2 + 1;
 }
@@ -118,10 +118,7 @@ void PolarEngine::FillLine(const Frame& F, int Y, int Bits, WarpNode* Nodes, int
         const int Part = Sixteenths & 15;
         int* To = Nodes[N].At;
         Put(To + OldAcross, A.Old, B.Old, Part, Dx, Dy);
-        if (mApart)
-            Put(To + NewAcross, A.New, B.New, Part, Dx, Dy);
-        else
-            std::copy_n(To + OldAcross, 4, To + NewAcross);
+        if (mApart) Put(To + NewAcross, A.New, B.New, Part, Dx, Dy);
         To[NewWeight] = Lerp(A.Weight, B.Weight, Part);
         To[Light] = Lerp(A.Light, B.Light, Part);
     }

@@ -16,8 +16,7 @@ struct Ring {
 
 class PolarEngine : public WarpEngine {
   protected:
-    // Apart: the two pictures are bent each in its own way.
-    PolarEngine(QSize Size, bool Fine, bool Apart);
+    PolarEngine(QSize Size, Bend How);
 
     int Reach() const { return mReach; }  // pixels from the middle to the corners
     // Distance in pixels, from 0 up to beyond the corners. OfNew: of the new picture; weights and

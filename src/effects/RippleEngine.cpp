@@ -11,7 +11,7 @@ namespace {
 
 class WaterEngine : public PolarEngine {
   public:
-    WaterEngine(QSize Size, int Waves) : PolarEngine(Size, true, false), mWaves(Waves) {}
+    WaterEngine(QSize Size, int Waves) : PolarEngine(Size, Bend::Alike), mWaves(Waves) {}
 
   protected:
     Ring RingAt(int Distance, int Progress, bool) const override {
@@ -26,7 +26,7 @@ class WaterEngine : public PolarEngine {
         const int Strength = Scale(Scale(Hump(Place), Hump(Progress)), Calm);
         const int Wave = Scale(Sine(Place * mWaves), Strength);
         const int Slope = Scale(Cosine(Place * mWaves), Strength);
-        const int Weight = Ease(Clamp((Place - 3 * One / 8) * 4, 0, One));
+        const int Weight = Ease(Clamp((Place - 7 * One / 16) * 8, 0, One));
         const auto Along = static_cast<int>((std::int64_t{Width} * Wave) / (mWaves * 8));
         return {std::max(0, (Distance << 16) + Along), 0, Weight, Slope / 4};
     }
@@ -37,16 +37,16 @@ class WaterEngine : public PolarEngine {
 
 class TwirlEngine : public PolarEngine {
   public:
-    TwirlEngine(QSize Size, int Eighths) : PolarEngine(Size, false, false), mEighths(Eighths) {}
+    TwirlEngine(QSize Size, int Eighths) : PolarEngine(Size, Bend::Alike), mEighths(Eighths) {}
 
   protected:
     Ring RingAt(int Distance, int Progress, bool) const override {
-        const int Inner =
-            Clamp(One - static_cast<int>(std::int64_t{Distance} * One / (Reach() + 1)), 0, One);
+        const int Far = static_cast<int>(std::int64_t{Distance} * One / (Reach() + 1));
+        const int Inner = Clamp(One - Far * 3 / 2, 0, One);  // the corners stand still
         const int Angle = Scale(Hump(Progress), Scale(Inner, Inner)) / 8 * mEighths;
         // The new picture wells up in the middle and spreads while the turning is strongest.
         const int Spread = Clamp((Progress - One / 3) * 3, 0, One);
-        const int Weight = Clamp((Scale(11 * One / 10, Spread) - (One - Inner)) * 10, 0, One);
+        const int Weight = Clamp((Scale(11 * One / 10, Spread) - Far) * 16, 0, One);
         return {Distance << 16, Angle, Weight, 0};
     }
 
@@ -56,7 +56,7 @@ class TwirlEngine : public PolarEngine {
 
 class SwirlZoomEngine : public PolarEngine {
   public:
-    SwirlZoomEngine(QSize Size, int Eighths) : PolarEngine(Size, false, true), mEighths(Eighths) {}
+    SwirlZoomEngine(QSize Size, int Eighths) : PolarEngine(Size, Bend::Apart), mEighths(Eighths) {}
 
   protected:
     Ring RingAt(int Distance, int Progress, bool OfNew) const override {
@@ -67,7 +67,9 @@ class SwirlZoomEngine : public PolarEngine {
         const int Angle = Scale(Wound, Scale(Inner, Inner)) / 8 * mEighths;
         const int Near = One + 2 * Scale(Wound, Wound);
         const auto Place = static_cast<int>((std::int64_t{Distance} << 32) / Near);
-        const int Weight = Ease(Clamp((Progress - One * 7 / 16) * 8, 0, One));
+        // The new picture opens in the middle while both are wound up most.
+        const int Open = Scale(Clamp((Progress - One * 13 / 32) * 16 / 3, 0, One), One * 9 / 8);
+        const int Weight = Ease(Clamp((Open - (One - Inner)) * 8, 0, One));
         return {Place, OfNew ? -Angle : Angle, Weight, 0};
     }
 
@@ -93,10 +95,10 @@ struct PondRing {
 
 class RainEngine : public WarpEngine {
   public:
-    RainEngine(QSize Size, int Drops) : WarpEngine(Size, false) {
+    RainEngine(QSize Size, int Drops) : WarpEngine(Size, Bend::Alike) {
         const int W = Size.width(), H = Size.height();
         mReach = Root(std::int64_t{W} * W + std::int64_t{H} * H) + 1;
-        mWidth = mReach / 7 + 2;
+        mWidth = mReach / 10 + 2;
         for (int I = 0; I < Drops; ++I) {
             // Scattered evenly, by steps that fill a square without a pattern.
             const int Across = (I * 49445 + 24000) & (One - 1);
@@ -120,22 +122,29 @@ class RainEngine : public WarpEngine {
                         std::int64_t{4} * Front * Front,
                         4 * Tail * Tail,
                         Front,
-                        Fade * mWidth / 26};
+                        Fade * mWidth / 24};
         }
     }
 
     void FillLine(const Frame&, int Y, int Bits, WarpNode* Nodes, int Count) const override {
         const PondRing* Rings = Scratch<PondRing, RainEngine>(int(mDrops.size()));
-        for (std::size_t I = 0; I < mDrops.size(); ++I)
-            for (int N = 0; N < Count; ++N) AddRing(Nodes[N], Rings[I], N << Bits, Y);
-        for (int N = 0; N < Count; ++N)
-            std::copy_n(Nodes[N].At + OldAcross, 4, Nodes[N].At + NewAcross);
+        for (std::size_t I = 0; I < mDrops.size(); ++I) AddRing(Nodes, Rings[I], Y, Bits, Count);
     }
 
   private:
     static constexpr int kWaves = 3;
 
-    void AddRing(WarpNode& Node, const PondRing& R, int X, int Y) const {
+    // To the nodes of a line that it has reached.
+    void AddRing(WarpNode* Nodes, const PondRing& R, int Y, int Bits, int Count) const {
+        const std::int64_t Dy = 2 * Y + 1 - R.Y;
+        if (Dy * Dy >= R.Head) return;
+        const int Half = Root(R.Head - Dy * Dy) + 2;
+        const int From = std::max(0, (R.X - Half) / 2) >> Bits;
+        const int To = std::min(Count - 1, std::max(0, (R.X + Half) / 2) >> Bits);
+        for (int N = From; N <= To; ++N) AddTo(Nodes[N], R, N << Bits, Y);
+    }
+
+    void AddTo(WarpNode& Node, const PondRing& R, int X, int Y) const {
         const std::int64_t Dx = 2 * X + 1 - R.X, Dy = 2 * Y + 1 - R.Y;
         const std::int64_t Square = Dx * Dx + Dy * Dy;
         if (Square >= R.Head) return;
@@ -152,7 +161,7 @@ class RainEngine : public WarpEngine {
         Node.At[OldAcross] += static_cast<int>(Dx * Wave * 8 / Away);
         Node.At[OldDown] += static_cast<int>(Dy * Wave * 8 / Away);
         Node.At[Light] += Scale(Cosine(Place * kWaves), Strength) / mWidth * 6;
-        const int Weight = Ease(Clamp((Place - One / 4) * 2, 0, One));
+        const int Weight = Ease(Clamp((Place - One * 3 / 8) * 4, 0, One));
         Node.At[NewWeight] = std::max(Node.At[NewWeight], Weight);
     }
 

@@ -40,10 +40,14 @@ class SpinEngine : public Engine {
         const Picture& Back = mArrives ? F.Old : F.New;
         const int Wide = Scale(std::max(F.Width, F.Height) / 32 + 1, Place.Size) + 1;
         for (int Y = Y0; Y < Y1; ++Y) {
-            CopySpan(F.Row(Y), Back.Row(Y), F.Width);
+            int From, To;
+            S.FindHidden(Y, F.Width, From, To);
+            CopySpan(F.Row(Y), Back.Row(Y), From);
+            CopySpan(F.Row(Y) + To, Back.Row(Y) + To, F.Width - To);
             S.DrawShadow(F.Row(Y), Y, F.Width, Wide, 110);
-            S.DrawRow(F.Row(Y), Y, F.Width);
         }
+        for (int Y = Y0; Y < Y1; Y += Sprite::kBand)
+            S.DrawRows(F, Y, std::min(Y + Sprite::kBand, Y1));
     }
 
   private:

@@ -5,13 +5,33 @@
 namespace neb::effects {
 namespace {
 
-constexpr int kRun = 256;
+constexpr int kRun = 128;
 
 NEB_WIDE void FillPlaces(int* __restrict U, int* __restrict V, int U0, int V0, int Du, int Dv,
                          int Count) {
     for (int I = 0; I < Count; ++I) {
         U[I] = U0 + I * Du;
         V[I] = V0 + I * Dv;
+    }
+}
+
+// One direction of the pixels in a shadow: the places of all of them fit.
+struct Sides {
+    int Start, Step, Length;
+};
+
+// Darkens by the way out of a rectangle; Margin: 256ths of a pixel, where the shadow ends.
+NEB_WIDE void ShadeSpan(QRgb* Out, Sides A, Sides B, int Margin, int Depth, int Count) {
+    constexpr std::uint32_t kEven = 0x00FF00FFu, kHalf = 0x00800080u;
+    const int Share = (1 << 24) / Margin;
+    for (int I = 0; I < Count; ++I) {
+        const int U = A.Start + I * A.Step, V = B.Start + I * B.Step;
+        const int Away = std::max(std::max(-U, U - A.Length), std::max(-V, V - B.Length));
+        const int Near = std::max(0, 256 - ((std::max(0, Away >> 8) * Share) >> 16));
+        const auto Keep = static_cast<std::uint32_t>(256 - (Depth * Near * Near >> 16));
+        const std::uint32_t Even = (Out[I] & kEven) * Keep + kHalf;
+        const std::uint32_t Odd = ((Out[I] >> 8) & kEven) * Keep + kHalf;
+        Out[I] = ((Even >> 8) & kEven) | (Odd & ~kEven) | kBlack;
     }
 }
 
@@ -99,37 +119,65 @@ void Sprite::Read(QRgb* Out, const Axis& A, const Axis& B, Run R) const {
     }
 }
 
-void Sprite::DrawRow(QRgb* Out, int Y, int Width) const {
-    if (!Touches(Y)) return;
+Sprite::Line Sprite::LineAt(int Y, int Width) const {
     const Axis A = AcrossAt(Y), B = DownAt(Y);
     const Run Seen = Inside(A, B, mGrain / 2, Width);
-    if (Seen.From >= Seen.To) return;
-    Run Whole = Inside(A, B, -(mGrain + 1) / 2, Width);
-    if (Whole.From >= Whole.To) Whole = {Seen.To, Seen.To};
+    const Run Whole = Inside(A, B, -(mGrain + 1) / 2, Width);
+    return {A, B, Seen, Whole.From < Whole.To ? Whole : Run{Seen.To, Seen.To}};
+}
+
+void Sprite::FindHidden(int Y, int Width, int& From, int& To) const {
+    const Run Whole = Touches(Y) ? LineAt(Y, Width).Whole : Run{0, 0};
+    From = Whole.From;
+    To = Whole.To;
+}
+
+void Sprite::DrawEdges(QRgb* Out, const Line& L, int Width) const {
     QRgb* Row = Scratch<QRgb, Sprite>(Width);
-    Read(Out, A, B, Whole);
-    for (const Run& Edge : {Run{Seen.From, Whole.From}, Run{Whole.To, Seen.To}}) {
-        Read(Row, A, B, Edge);
+    for (const Run& Edge : {Run{L.Seen.From, L.Whole.From}, Run{L.Whole.To, L.Seen.To}}) {
+        Read(Row, L.A, L.B, Edge);
         for (int X = Edge.From; X < Edge.To; ++X)
-            Out[X] = Mix(Out[X], Row[X], CoverAt(A, X) * CoverAt(B, X) >> 8);
+            Out[X] = Mix(Out[X], Row[X], CoverAt(L.A, X) * CoverAt(L.B, X) >> 8);
     }
+}
+
+// Rows of a turned picture cross a great many of its lines. Neighbouring rows cross nearly the
+// same ones, so they are drawn side by side in columns while those lines are at hand.
+void Sprite::DrawRows(const Frame& F, int Y0, int Y1) const {
+    Y0 = std::max(Y0, mTop);
+    Y1 = std::min(Y1, mBottom + 1);
+    Line Lines[kBand];
+    int From = F.Width, To = 0;
+    for (int Y = Y0; Y < Y1; ++Y) {
+        Line& L = Lines[Y - Y0] = LineAt(Y, F.Width);
+        if (L.Seen.From >= L.Seen.To) L.Seen = L.Whole = {0, 0};
+        if (L.Whole.From >= L.Whole.To) continue;
+        From = std::min(From, L.Whole.From);
+        To = std::max(To, L.Whole.To);
+    }
+    for (int X = From; X < To; X += kRun)
+        for (int Y = Y0; Y < Y1; ++Y) {
+            const Line& L = Lines[Y - Y0];
+            Read(F.Row(Y), L.A, L.B, {std::max(X, L.Whole.From), std::min(X + kRun, L.Whole.To)});
+        }
+    for (int Y = Y0; Y < Y1; ++Y) DrawEdges(F.Row(Y), Lines[Y - Y0], F.Width);
 }
 
 void Sprite::DrawShadow(QRgb* Out, int Y, int Width, int Wide, int Depth) const {
     if (!Touches(Y, Wide)) return;
     const Axis A = AcrossAt(Y), B = DownAt(Y);
     const std::int64_t Margin = std::int64_t{Wide} * mGrain;
-    const std::int64_t Share = (std::int64_t{1} << 32) / Margin;
     const Run Seen = Inside(A, B, Margin, Width), Whole = Inside(A, B, -mGrain, Width);
-    for (int X = Seen.From; X < Seen.To; ++X) {
-        if (X == Whole.From && Whole.To > X) X = Whole.To;
-        if (X >= Seen.To) break;
-        const std::int64_t U = A.Start + std::int64_t{X} * A.Step;
-        const std::int64_t V = B.Start + std::int64_t{X} * B.Step;
-        const std::int64_t Away = std::max(std::max(-U, U - A.Length), std::max(-V, V - B.Length));
-        const auto Near = 256 - static_cast<int>((std::max<std::int64_t>(0, Away) * Share) >> 24);
-        if (Near > 0) Out[X] = Darken(Out[X], Depth * Near * Near >> 16);
-    }
+    const bool Hollow = Whole.From < Whole.To;
+    const auto Shade = [&](int From, int To) {
+        const auto U = static_cast<int>(A.Start + std::int64_t{From} * A.Step);
+        const auto V = static_cast<int>(B.Start + std::int64_t{From} * B.Step);
+        ShadeSpan(Out + From, {U, A.Step, A.Length}, {V, B.Step, B.Length},
+                  static_cast<int>(Margin >> 8), Depth, To - From);
+    };
+    if (Seen.From >= Seen.To) return;
+    Shade(Seen.From, Hollow ? Whole.From : Seen.To);
+    if (Hollow) Shade(Whole.To, Seen.To);
 }
 
 }  // namespace neb::effects

@@ -28,9 +28,12 @@ class Sprite {
     int Top() const { return mTop; }
     int Bottom() const { return mBottom; }
 
-    // Draws what lies in a row of the frame; Width: of the frame.
-    void DrawRow(QRgb* Out, int Y, int Width) const;
-    // Darkens the row about it, most at its edges. Wide: pixels, Depth: 0..256.
+    static constexpr int kBand = 32;  // the most rows that are drawn at once
+    // Draws what lies in the rows Y0 up to Y1, at most kBand, of the frame.
+    void DrawRows(const Frame& F, int Y0, int Y1) const;
+    // The pixels of a row that it hides: what lies behind them need not be drawn.
+    void FindHidden(int Y, int Width, int& From, int& To) const;
+    // Darkens a row about it, most at its edges. Wide: pixels, Depth: 0..256; Width: of the frame.
     void DrawShadow(QRgb* Out, int Y, int Width, int Wide, int Depth) const;
 
   private:
@@ -43,6 +46,13 @@ class Sprite {
     struct Run {
         int From, To;
     };
+    // What a row of the frame shows of it: pixels at all, and pixels in full.
+    struct Line {
+        Axis A, B;
+        Run Seen, Whole;
+    };
+    Line LineAt(int Y, int Width) const;
+    void DrawEdges(QRgb* Out, const Line& L, int Width) const;
     Axis AcrossAt(int Y) const;
     Axis DownAt(int Y) const;
     // The pixels of a row whose places lie within the rectangle made larger by Margin all round.

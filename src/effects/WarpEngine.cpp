@@ -8,14 +8,15 @@ namespace neb::effects {
 namespace {
 
 constexpr int kBlock = WarpEngine::kBlock;
-// Up to such a spread one tap, or two, leave nothing out.
-constexpr int kOneTap = One * 3 / 8, kTwoTaps = One;
+// Up to such a spread one tap, or two, leave out nothing that is missed while it moves.
+constexpr int kOneTap = One * 9 / 16, kTwoTaps = One * 5 / 4;
 
 // The nodes about one block: its own and those of its right and lower borders.
 struct Patch {
     const WarpNode* Nodes;
     int Count;  // nodes in a line of the grid
     int Bits;
+    bool Alike;  // both pictures are bent as the old one
     int Across() const { return (kBlock >> Bits) + 1; }
     int Down() const { return (WarpEngine::kLines >> Bits) + 1; }
 };
@@ -26,18 +27,23 @@ struct Traits {
     int Widest[2] = {0, 0};
     int Light = 0;
     int Low = One, High = 0;  // weights
-    bool Alike = true;        // both pictures are bent in the same way
+    bool Alike = false;       // both pictures are bent in the same way
 
+    void AddBend(int Which, const int* P) {
+        Moved[Which] |= P[0] | P[1] | P[2] | P[3];
+        Widest[Which] = std::max({Widest[Which], std::abs(P[2]), std::abs(P[3])});
+    }
     void Add(const WarpNode& N) {
-        for (int K = 0; K < 2; ++K) {
-            const int* P = N.At + (K ? NewAcross : OldAcross);
-            Moved[K] |= P[0] | P[1] | P[2] | P[3];
-            Widest[K] = std::max({Widest[K], std::abs(P[2]), std::abs(P[3])});
-        }
-        Alike = Alike && std::equal(N.At + OldAcross, N.At + NewAcross, N.At + NewAcross);
+        AddBend(0, N.At + OldAcross);
+        if (!Alike) AddBend(1, N.At + NewAcross);
         Light |= std::abs(N.At[WarpPart::Light]) >> 8;
         Low = std::min(Low, std::max(0, N.At[NewWeight]));
         High = std::max(High, std::min(One, N.At[NewWeight]));
+    }
+    void Close() {
+        if (!Alike) return;
+        Moved[1] = Moved[0];
+        Widest[1] = Widest[0];
     }
     bool Sees(int Which) const { return Which ? High > 0 : Low < One; }
     // Which picture is seen as it is; -1 when none is.
@@ -50,8 +56,10 @@ struct Traits {
 
 Traits TraitsOf(const Patch& P) {
     Traits T;
+    T.Alike = P.Alike;
     for (int J = 0; J < P.Down(); ++J)
         for (int I = 0; I < P.Across(); ++I) T.Add(P.Nodes[J * P.Count + I]);
+    T.Close();
     return T;
 }
 
@@ -130,6 +138,24 @@ struct Strip {
     int X, Y, Count;
 };
 
+// Some pixels of a strip.
+struct Run {
+    int From, To;
+};
+
+// The pixels in which a picture is seen: all others may be left out.
+Run SeenIn(const Strip& S, int Which) {
+    const int Cells = (S.Count + (1 << S.Bits) - 1) >> S.Bits;
+    const auto Seen = [&](int C) {
+        const int A = S.Line[C].At[NewWeight], B = S.Line[C + 1].At[NewWeight];
+        return Which ? std::max(A, B) > 0 : std::min(A, B) < One;
+    };
+    int From = 0, To = Cells;
+    while (From < To && !Seen(From)) ++From;
+    while (From < To && !Seen(To - 1)) --To;
+    return {From << S.Bits, std::min(S.Count, To << S.Bits)};
+}
+
 // Where the pixels of a strip read.
 class Reader {
   public:
@@ -142,28 +168,30 @@ class Reader {
         SpreadPart(mSpreadU, S.Line, First + 2, S.Bits);
         SpreadPart(mSpreadV, S.Line, First + 3, S.Bits);
     }
-    // With so many taps as the widest spread asks for.
-    void Read(QRgb* Out, const Picture& P, int Widest, int Count) {
-        if (Widest <= kOneTap) return SamplePlaces(Out, P, mU, mV, Count);
-        ReadBoth(Out, P, 256, Count);
+    // With so many taps as the widest spread asks for; the pixels R of the strip.
+    void Read(QRgb* Out, const Picture& P, int Widest, Run R) {
+        if (R.From >= R.To) return;
+        if (Widest <= kOneTap)
+            return SamplePlaces(Out + R.From, P, mU + R.From, mV + R.From, R.To - R.From);
+        ReadBoth(Out, P, 256, R);
         if (Widest <= kTwoTaps) return;
         QRgb Inner[kBlock];
-        ReadBoth(Inner, P, 85, Count);
-        MixSpan(Out, Out, Inner, 128, Count);
+        ReadBoth(Inner, P, 85, R);
+        MixSpan(Out + R.From, Out + R.From, Inner + R.From, 128, R.To - R.From);
     }
 
   private:
     // The mean of the places as far to both sides; Share: of the spread, 256 for all of it.
-    void ReadBoth(QRgb* Out, const Picture& P, int Share, int Count) {
+    void ReadBoth(QRgb* Out, const Picture& P, int Share, Run R) {
         QRgb Other[kBlock];
-        ReadShifted(Out, P, -Share, Count);
-        ReadShifted(Other, P, Share, Count);
-        MixSpan(Out, Out, Other, 128, Count);
+        ReadShifted(Out, P, -Share, R);
+        ReadShifted(Other, P, Share, R);
+        MixSpan(Out + R.From, Out + R.From, Other + R.From, 128, R.To - R.From);
     }
-    void ReadShifted(QRgb* Out, const Picture& P, int Share, int Count) {
+    void ReadShifted(QRgb* Out, const Picture& P, int Share, Run R) {
         Shifted(mAtU, mU, mSpreadU, Share);
         Shifted(mAtV, mV, mSpreadV, Share);
-        SamplePlaces(Out, P, mAtU, mAtV, Count);
+        SamplePlaces(Out + R.From, P, mAtU + R.From, mAtV + R.From, R.To - R.From);
     }
 
     int mU[kBlock], mV[kBlock], mSpreadU[kBlock], mSpreadV[kBlock], mAtU[kBlock], mAtV[kBlock];
@@ -174,33 +202,47 @@ struct Views {
     const QRgb* Of[2];
 };
 
-Views ReadViews(const Frame& F, const Strip& S, const Traits& T, QRgb* OldRoom, QRgb* NewRoom) {
+Views ReadViews(const Frame& F, const Strip& S, const Traits& T, QRgb* const (&Rooms)[2],
+                const Run (&Seen)[2]) {
     Reader R;
     Views Out{};
-    QRgb* const Rooms[2] = {OldRoom, NewRoom};
+    bool Known = false;
     for (int K = 0; K < 2; ++K) {
         const Picture& P = K ? F.New : F.Old;
         Out.Of[K] = P.Row(S.Y) + S.X;
-        if (!T.Moved[K] || !T.Sees(K)) continue;
-        const bool Known = K == 1 && T.Alike && T.Sees(0);
-        if (!Known) R.Find(S, P, K ? NewAcross : OldAcross, T.Widest[K] > kOneTap);
-        R.Read(Rooms[K], P, T.Widest[K], S.Count);
+        if (!T.Moved[K] || Seen[K].From >= Seen[K].To) continue;
+        const int First = K == 1 && !T.Alike ? NewAcross : OldAcross;
+        if (!Known || !T.Alike) R.Find(S, P, First, T.Widest[K] > kOneTap);
+        Known = true;
+        R.Read(Rooms[K], P, T.Widest[K], Seen[K]);
         Out.Of[K] = Rooms[K];
     }
     return Out;
+}
+
+void CopyPart(QRgb* Out, const QRgb* From, int X0, int X1) {
+    if (Out != From) CopySpan(Out + X0, From + X0, X1 - X0);
 }
 
 void DrawStrip(const Frame& F, const Strip& S, const Traits& T) {
     QRgb Room[kBlock];
     int Parts[kBlock];
     QRgb* Out = F.Row(S.Y) + S.X;
-    if (T.Sees(0) && T.Sees(1)) {
-        const Views V = ReadViews(F, S, T, Out, Room);
+    QRgb* const Rooms[2] = {Out, Room};
+    const Run Seen[2] = {T.Sees(0) ? SeenIn(S, 0) : Run{0, 0},
+                         T.Sees(1) ? SeenIn(S, 1) : Run{0, 0}};
+    const Views V = ReadViews(F, S, T, Rooms, Seen);
+    const Run Both{std::max(Seen[0].From, Seen[1].From), std::min(Seen[0].To, Seen[1].To)};
+    if (Both.From < Both.To) {
         SpreadPart(Parts, S.Line, NewWeight, S.Bits);
-        MixByParts(Out, V.Of[0], V.Of[1], Parts, S.Count);
+        for (int K = 0; K < 2; ++K) {
+            CopyPart(Out, V.Of[K], Seen[K].From, std::min(Both.From, Seen[K].To));
+            CopyPart(Out, V.Of[K], std::max(Both.To, Seen[K].From), Seen[K].To);
+        }
+        MixByParts(Out + Both.From, V.Of[0] + Both.From, V.Of[1] + Both.From, Parts + Both.From,
+                   Both.To - Both.From);
     } else {
-        const QRgb* Seen = ReadViews(F, S, T, Out, Out).Of[T.Sees(1) ? 1 : 0];
-        if (Seen != Out) CopySpan(Out, Seen, S.Count);
+        for (int K = 0; K < 2; ++K) CopyPart(Out, V.Of[K], Seen[K].From, Seen[K].To);
     }
     if (!T.Light) return;
     SpreadPart(Parts, S.Line, Light, S.Bits);
@@ -225,9 +267,9 @@ void CopyBlocks(const Frame& F, int Which, int X0, int X1, int Y0, int Y1) {
 
 }  // namespace
 
-WarpEngine::WarpEngine(QSize Size, bool Fine) {
+WarpEngine::WarpEngine(QSize Size, Bend How) : mAlike(How == Bend::Alike) {
     const int Longer = std::max(Size.width(), Size.height());
-    mBits = Clamp((Longer >= 1200 ? 3 : 2) - (Longer < 500) - Fine, 1, 3);
+    mBits = Longer >= 1200 ? 3 : (Longer < 500 ? 1 : 2);
 }
 
 void WarpEngine::Draw(const Frame& F, int Y0, int Y1) const {
@@ -253,7 +295,7 @@ void WarpEngine::DrawLines(const Frame& F, const WarpNode* Nodes, int Count, int
     // Blocks of one plain picture are copied together.
     int Plain = -1, Start = 0;
     for (int X = 0; X < F.Width; X += kBlock) {
-        const Patch P{Nodes + (X >> mBits), Count, mBits};
+        const Patch P{Nodes + (X >> mBits), Count, mBits, mAlike};
         const Traits T = TraitsOf(P);
         const int Now = T.PlainOne();
         if (Plain >= 0 && Now != Plain) CopyBlocks(F, Plain, Start, X, Y0, Y1);

@@ -36,8 +36,10 @@ class WarpEngine : public Engine {
     static constexpr int kLines = 16;   // and down
 
   protected:
-    // Fine: twice as many nodes each way.
-    WarpEngine(QSize Size, bool Fine);
+    // How the two pictures are bent: in the same way, so that only the old one's parts of the nodes
+    // count, or each in its own.
+    enum class Bend { Alike, Apart };
+    WarpEngine(QSize Size, Bend How);
 
     // Before the lines of a frame; tables go to Scratch.
     virtual void Prepare(const Frame&) const {}
@@ -48,6 +50,7 @@ class WarpEngine : public Engine {
     void DrawLines(const Frame& F, const WarpNode* Nodes, int Count, int Top, int Y0, int Y1) const;
 
     int mBits;
+    bool mAlike;
 };
 
 }  // namespace neb::effects

@@ -10,7 +10,8 @@ namespace {
 
 class SwellEngine : public WarpEngine {
   public:
-    SwellEngine(QSize Size, int Waves) : WarpEngine(Size, false), mSize(Size), mWaves(Waves) {}
+    SwellEngine(QSize Size, int Waves)
+        : WarpEngine(Size, Bend::Alike), mSize(Size), mWaves(Waves) {}
 
   protected:
     void FillLine(const Frame& F, int Y, int Bits, WarpNode* Nodes, int Count) const override {
@@ -33,8 +34,8 @@ class SwellEngine : public WarpEngine {
         const int Swell = Scale(Hump(Place), Strength);
         const int Wave = Scale(Sine(Place * mWaves), Swell);
         const int Slope = Scale(Cosine(Place * mWaves), Swell);
-        Parts[OldDown] = Parts[NewDown] = mSize.height() / 17 * Wave;
-        Parts[OldAcross] = Parts[NewAcross] = mSize.width() / (mWaves * 20) * Slope;
+        Parts[OldDown] = mSize.height() / 17 * Wave;
+        Parts[OldAcross] = mSize.width() / (mWaves * 20) * Slope;
         Parts[Light] = Slope / 5;
         Parts[NewWeight] = Ease(Clamp((Place - One * 7 / 16) * 8, 0, One));
     }
@@ -46,7 +47,7 @@ class SwellEngine : public WarpEngine {
 class CurtainEngine : public WarpEngine {
   public:
     CurtainEngine(const Pair& P, int Folds)
-        : WarpEngine(P.Size(), false),
+        : WarpEngine(P.Size(), Bend::Apart),
           mCloth(P.Old, HalfSizes::Way::Across, 2),
           mSize(P.Size()),
           mFolds(Folds) {}
