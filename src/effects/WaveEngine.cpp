@@ -15,7 +15,7 @@ class SwellEngine : public WarpEngine {
 
   protected:
     void FillLine(const Frame& F, int Y, int Bits, WarpNode* Nodes, int Count) const override {
-        const int Width = mSize.width() * 7 / 16 + 1;
+        const int Width = mSize.width() * 3 / 8 + 1;
         // The crests stand a little aslant and are bent.
         const int Down = static_cast<int>(std::int64_t{Y} * One / mSize.height());
         const int Lag = Scale(mSize.width() / 16, Down) -
@@ -34,7 +34,7 @@ class SwellEngine : public WarpEngine {
         const int Swell = Scale(Hump(Place), Strength);
         const int Wave = Scale(Sine(Place * mWaves), Swell);
         const int Slope = Scale(Cosine(Place * mWaves), Swell);
-        Parts[OldDown] = mSize.height() / 17 * Wave;
+        Parts[OldDown] = mSize.height() / 19 * Wave;
         Parts[OldAcross] = mSize.width() / (mWaves * 20) * Slope;
         Parts[Light] = Slope / 5;
         Parts[NewWeight] = Ease(Clamp((Place - One * 7 / 16) * 8, 0, One));
