@@ -1,6 +1,8 @@
 #include "presentation/frmPreferences.h"
 
+#include <QAbstractItemView>
 #include <QScreen>
+#include <QStyle>
 
 #include "db/clsDBEngine.h"
 #include "platform/ComboBoxList.h"
@@ -34,6 +36,17 @@ void SelectOrNothing(ComboBoxList& Combo, std::int32_t ID) {
     if (ID != 0) ComboSelectByData(Combo, ID, -1);
 }
 
+// The box itself stays narrow beside the picture, but names may differ at their end alone. Not
+// every style opens a list wider than its box by itself.
+void OpenAsWideAsNames(QComboBox& Box) {
+    int Widest = 0;
+    for (int Item = 0; Item < Box.count(); ++Item)
+        Widest = std::max(Widest, Box.fontMetrics().horizontalAdvance(Box.itemText(Item)));
+    const int Margins = 2 * Box.style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr);
+    const int Room = Box.screen()->availableSize().width() * 2 / 3;
+    Box.view()->setMinimumWidth(std::min(Widest + Margins, Room));
+}
+
 std::optional<PreferencesEntries::Choice> Chosen(QComboBox& Box) {
     const ComboBoxList Combo(Box);
     if (Combo.ListIndex() < 0) return std::nullopt;
@@ -48,6 +61,8 @@ frmPreferences::frmPreferences() : mUi(std::make_unique<Ui::frmPreferences>()) {
     mState.SlideTimeout = neb::SlideTimeout;
     mUi->setupUi(this);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
+    for (QComboBox* Box : {mUi->cboAlbums, mUi->cboSlideShows})
+        Box->view()->setAccessibleName(Box->accessibleName());
     SetUpGrid();
     ConnectControls();
 }
@@ -123,6 +138,7 @@ void frmPreferences::LoadAlbums() {
     mState.AlbumName.clear();
     ComboBoxList Albums(*mUi->cboAlbums);
     if (DBEngine) DBEngine->LoadAlbumsCombo(Albums, false);
+    OpenAsWideAsNames(*mUi->cboAlbums);
     SayWhatToDo();
     SelectOrNothing(Albums, mState.AlbumID);
     if (Albums.ListIndex() < 0) return;
@@ -140,6 +156,7 @@ void frmPreferences::LoadSlideShows() {
     if (DBEngine && Albums.ListIndex() >= 0)
         DBEngine->LoadSlideShowsCombo(SlideShows, Albums.ItemData(Albums.ListIndex()));
     SlideShows.SetListIndex(-1);
+    OpenAsWideAsNames(*mUi->cboSlideShows);
     SayWhatToDo();
 }
 

@@ -56,6 +56,27 @@ TEST_F(MachineSettings, AResultIsStoredInItsShortestForm) {
     EXPECT_EQ(Value("MaxEffectLevel"), "3");
 }
 
+TEST_F(MachineSettings, ATestThatWasCutOffKeepsItsLevelsAndIsNotRunAgain) {
+    int Runs = 0;
+    const auto CutOff = [&Runs] {
+        SpeedTestResult Result;
+        Result.StepH = 20;
+        Result.DelayH = 100;
+        Result.AvgTimeH = 4.5F;
+        return ++Runs, Result;
+    };
+    EnsureMachineSettings(CutOff);
+    EnsureMachineSettings(CutOff);
+    EXPECT_EQ(Runs, 1);
+    EXPECT_EQ(Value("StepH"), "20");
+    EXPECT_EQ(Value("DelayH"), "100");
+    for (const char* Key : {"TimeoutH", "TimeoutM", "TimeoutL", "Timeout"})
+        EXPECT_EQ(Value(Key), "10") << Key;
+    for (const char* Key : {"StepM", "StepL"}) EXPECT_EQ(Value(Key), "33") << Key;
+    for (const char* Key : {"DelayM", "DelayL"}) EXPECT_EQ(Value(Key), "1000") << Key;
+    EXPECT_EQ(Value("MaxEffectLevel"), "0");
+}
+
 TEST_F(MachineSettings, ATimeoutBelowTenIsNotTaken) {
     clsSettings Settings = OpenSettings();
     SpeedTestResult Result;

@@ -1,6 +1,8 @@
-// The Preferences window: what it shows, what Apply takes and refuses, what Close leaves.
+// The Preferences window: what it shows, how it looks, what Close leaves.
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QFile>
+#include <QScreen>
 
 #include "PreferencesRig.h"
 #include "presentation/ShowSettings.h"
@@ -10,7 +12,6 @@ namespace neb::test {
 namespace {
 
 using PreferencesWindow = PreferencesRig;
-using PreferencesApply = PreferencesRig;
 
 QStringList Items(const QComboBox& Box) {
     QStringList All;
@@ -170,7 +171,16 @@ TEST_F(PreferencesWindow, EscapeInACellEndsTheEditAlone) {
 
 TEST_F(PreferencesWindow, ComesBackAsLargeAsItWasLeft) {
     Open([&] { Window->resize(1111, 777); });
-    Open([&] { EXPECT_EQ(QSize(1111, 777), Window->size()); });
+    Open([&] {
+        EXPECT_EQ(QSize(1111, 777), Window->size());
+        Window->resize(5000, 4000);
+    });
+    Open([&] {
+        const QSize Room = Window->screen()->availableSize();
+        EXPECT_LT(Window->width(), Room.width()) << "never larger than the screen";
+        EXPECT_LT(Window->height(), Room.height());
+        Window->resize(1000, 700);
+    });
 }
 
 TEST_F(PreferencesWindow, ThePictureIsTheLargestThingAndGrowsWithTheWindow) {
@@ -207,149 +217,37 @@ TEST_F(PreferencesWindow, FitsASmallScreenInAFontHalfAsLargeAgain) {
     QApplication::setFont(Usual);
 }
 
-TEST_F(PreferencesApply, KeepsAllThatWasEntered) {
-    AddAlbum("Garden", {"Roses", "Trees"});
+TEST_F(PreferencesWindow, LongNamesMakeItNoWiderAndTakeNothingFromThePicture) {
+    int Least = 0, Shown = 0;
     Open([&] {
-        Combo("cboAlbums").setCurrentText("Garden");
-        Combo("cboSlideShows").setCurrentText("Trees");
-        Type("txtNextSlide", "6");
-        Type("txtSlideTimeout", "4");
-        QTest::keyClick(&In<QSlider>("sdrMaxEffectLevel"), Qt::Key_End);
-        QTest::mouseClick(&In<QRadioButton>("optEffects1"), Qt::LeftButton, {}, {10, 10});
-        Press("cmdSelectNone");
-        List().setFocus();
-        GoTo(2);
-        QTest::keyClick(&List(), Qt::Key_Space);
-        const char* Cells[] = {"1", "0", "100", "1000", "33", "5"};
-        for (int I = 0; I < 6; ++I) TypeInCell(I / 2, ColStep + I % 2, Cells[I]);
-        Press("cmdApply");
-        EXPECT_FALSE(IsOpen());
+        Least = Window->minimumSizeHint().width();
+        Shown = View().width();
     });
-    const PreferencesState Now = ReadPreferences(OpenSettings());
-    EXPECT_EQ(Window->AlbumID(), Now.AlbumID);
-    EXPECT_EQ("Garden", Window->AlbumName());
-    EXPECT_EQ(Engine.GetAlbum(Now.AlbumID)->GetSlideShow(Now.SlideShowID)->SlideShowName, "Trees");
-    EXPECT_EQ(6, Now.NextSlideSeq);
-    EXPECT_EQ(4, Now.SlideTimeout);
-    EXPECT_EQ(3, Now.Effects.MaxEffectLevel);
-    EXPECT_FALSE(Now.Effects.UseEffectLevel);
-    for (size_t Effect = 0; Effect <= 127; ++Effect)
-        EXPECT_EQ(Effect == 0 || Effect == 3, Now.EffectSelected[Effect]) << Effect;
-    EXPECT_EQ("1,0,100,1000,33,5",
-              (Setting("StepL") + ',' + Setting("DelayL") + ',' + Setting("StepM") + ',' +
-               Setting("DelayM") + ',' + Setting("StepH") + ',' + Setting("DelayH")));
-    EXPECT_EQ(1000, Now.Effects.DelayL) << "a delay of 0 is corrected at the next reading";
-}
-
-TEST_F(PreferencesApply, WithNoAlbumChosenWritesAlbumZeroAndLeavesTheShow) {
-    Put("ActiveAlbum", "77");
-    Put("ActiveSlideShow", "5");
-    Open([&] { Press("cmdApply"); });
-    EXPECT_EQ("0", Setting("ActiveAlbum"));
-    EXPECT_EQ("5", Setting("ActiveSlideShow"));
-    EXPECT_EQ(0, Window->AlbumID());
-    EXPECT_EQ(5, Window->SlideShowID());
-}
-
-TEST_F(PreferencesApply, WithNoShowChosenWritesShowZero) {
-    MakeActive();
-    Put("ActiveSlideShow", "77");
-    Open([&] { Press("cmdApply"); });
-    EXPECT_EQ(QString::number(Album), Setting("ActiveAlbum"));
-    EXPECT_EQ("0", Setting("ActiveSlideShow"));
-}
-
-TEST_F(PreferencesApply, ReadsAndWritesTheFlagOfNumberZero) {
-    Put("Effect.000", "off", "Effect Selections");
+    const QString Long(80, u'W');  // as long as they may be
+    Put("ActiveAlbum", QString::number(AddAlbum(Long.toLatin1().constData(), {Long})));
     Open([&] {
-        Press("cmdSelectAll");
-        Press("cmdApply");
+        EXPECT_EQ(Long, Combo("cboAlbums").currentText());
+        EXPECT_EQ(Long, Combo("cboSlideShows").itemText(0));
+        EXPECT_EQ(Least, Window->minimumSizeHint().width());
+        EXPECT_EQ(Shown, View().width());
     });
-    const clsSettings Settings = OpenSettings();
-    EXPECT_EQ("False", Settings.GetValue("Effect Selections", "Effect.000", "none"));
-    EXPECT_EQ("True", Settings.GetValue("Effect Selections", "Effect.001", "none"));
 }
 
-TEST_F(PreferencesApply, IsWhatEnterDoes) {
-    for (const char* Place : {"txtSlideTimeout", "lstEffects", "cboAlbums"})
-        Open([&] {
-            EXPECT_TRUE(In<QPushButton>("cmdApply").isDefault());
-            In<QWidget>(Place).setFocus();
-            QTest::keyClick(&In<QWidget>(Place), Qt::Key_Return);
-            EXPECT_FALSE(IsOpen()) << Place;
-        });
-    EXPECT_EQ("20", Setting("Timeout"));
-}
-
-TEST_F(PreferencesApply, TakesACellThatIsStillBeingTyped) {
+TEST_F(PreferencesWindow, LongNamesAreSeenWholeInTheListsThatOpen) {
+    const QString Long = QStringLiteral("All the summers of the whole family by the sea");
+    Put("ActiveAlbum", QString::number(AddAlbum(Long.toLatin1().constData(), {Long})));
     Open([&] {
-        TypeInCell(2, ColDelay, "321", false);
-        Press("cmdApply");
-        EXPECT_FALSE(IsOpen());
+        for (const char* Name : {"cboAlbums", "cboSlideShows"}) {
+            QComboBox& Box = Combo(Name);
+            const int Width = Box.fontMetrics().horizontalAdvance(Long);
+            EXPECT_GT(Box.view()->minimumWidth(), Width) << "in every style";
+            Box.showPopup();
+            Spin(1);
+            EXPECT_GT(Box.view()->viewport()->width(), Width) << Name << " at " << Box.width();
+            EXPECT_LT(Box.view()->window()->width(), Box.screen()->availableSize().width());
+            Box.hidePopup();
+        }
     });
-    EXPECT_EQ("321", Setting("DelayH"));
-}
-
-TEST_F(PreferencesApply, RefusesATimeoutBelowFourSeconds) {
-    Open([&] {
-        const QByteArray Before = FileText();
-        ExpectRefusal("The Slide Timeout must be >= 4 seconds.");
-        ApplyTimeout(*Window, "3.9");
-        ExpectRefusal("The Slide Timeout must be numeric.");
-        Text("txtSlideTimeout").clear();
-        ApplyTimeout(*Window, "x.");
-        EXPECT_EQ(2, Boxes.ShownCount());
-        EXPECT_TRUE(IsOpen());
-        EXPECT_EQ(Before, FileText());
-        EXPECT_EQ(20, Window->SlideTimeout());
-        EXPECT_EQ(".", Text("txtSlideTimeout").selectedText()) << "ready to be typed over";
-        ApplyTimeout(*Window, "4");
-        EXPECT_FALSE(IsOpen());
-    });
-    EXPECT_EQ("4", Setting("Timeout"));
-    EXPECT_EQ(4, Window->SlideTimeout());
-}
-
-TEST_F(PreferencesApply, RefusesCellsOutOfRangeAndGoesThere) {
-    const struct {
-        int Row, Col;
-        const char *Text, *Message;
-    } Cases[] = {
-        {0, ColStep, "0", "You must enter an integer from 1 to 100 for the step."},
-        {1, ColStep, "101", "You must enter an integer from 1 to 100 for the step."},
-        {2, ColStep, "", "You must enter an integer from 1 to 100 for the step."},
-        {0, ColDelay, "-1", "You must enter an integer from 0 to 1000 for the delay."},
-        {1, ColDelay, "1001", "You must enter an integer from 0 to 1000 for the delay."},
-        {2, ColDelay, "1.5", "You must enter an integer from 0 to 1000 for the delay."},
-    };
-    const QByteArray Before = FileText();
-    for (const auto& Case : Cases)
-        Open([&] {
-            TypeInCell(Case.Row, Case.Col, Case.Text);
-            ExpectRefusal(Case.Message);
-            Press("cmdApply");
-            EXPECT_TRUE(IsOpen());
-            EXPECT_EQ(Case.Row, Grid().Row());
-            EXPECT_EQ(Case.Col, Grid().Col());
-            EXPECT_EQ(25, ReadPreferences(OpenSettings()).Effects.StepL);
-        });
-    EXPECT_EQ(Before, FileText());
-    EXPECT_EQ(6, Boxes.ShownCount());
-}
-
-TEST_F(PreferencesApply, ThatCannotSaveSaysSoAndStaysOpen) {
-    Open([&] {
-        SetHostWatcher([](HostStep Step, const QString& Path, qint64&) {
-            if (Step == HostStep::Write && Path.contains(QStringLiteral("QLM.ini")))
-                throw Fault(QStringLiteral("the disk is full"), Path);
-        });
-        Boxes.Expect(QStringLiteral("the disk is full\n%1.new").arg(OpenSettings().FileName()),
-                     QStringLiteral("Operation Failed"), BoxIcon::Critical, BoxAnswer::Ok);
-        Press("cmdApply");
-        SetHostWatcher({});
-        EXPECT_TRUE(IsOpen());
-    });
-    EXPECT_EQ(1, Boxes.ShownCount());
 }
 
 TEST_F(PreferencesWindow, OfTheModuleSetItsTimeout) {

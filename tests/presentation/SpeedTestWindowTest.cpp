@@ -93,6 +93,7 @@ class SpeedTestWindow : public ::testing::Test {
         QTimer::singleShot(20000, mWindow.get(), &Form::Unload);
         mWindow->ShowModal();
         EXPECT_FALSE(mWindow->isVisible());
+        EXPECT_FALSE(Show1()->IsRunning()) << "nothing goes on behind a closed window";
         EXPECT_EQ(ScreenPointer(), Pointer::Default);
     }
 
