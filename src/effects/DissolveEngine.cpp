@@ -84,7 +84,7 @@ Recipe CloudDissolve(int Count, int SoftBits) {
 }
 
 Recipe LightDissolve(bool BrightFirst) {
-    return {"Light Dissolve",
+    return {"Dissolve",
             [=](const Pair& P) {
                 return std::make_unique<LightEngine>(MakeLightField(P.New, BrightFirst));
             },

@@ -1,5 +1,6 @@
 // What every effect engine is made of: the pictures of one frame, and an object prepared once
-// for a pair of pictures that draws any progress in any order. Used by the engines and by Transition.
+// for a pair of pictures that draws any progress in any order. Used by the engines and by
+// Transition.
 #pragma once
 
 #include <QRgb>

@@ -4,10 +4,7 @@
 #include <array>
 #include <cmath>
 
-#if defined(__x86_64__) && defined(__GNUC__) && !defined(NEB_NARROW)
-#define NEB_EIGHT_AT_A_TIME
-#include <immintrin.h>
-#endif
+#include "effects/WideVectors.h"
 
 namespace neb::effects {
 namespace {
@@ -68,14 +65,12 @@ QRgb MixPixel(QRgb Old, QRgb New, std::uint32_t Weight, float Grain) {
 }
 
 #ifdef NEB_EIGHT_AT_A_TIME
-#define NEB_AVX2 __attribute__((target("avx2"))) inline
-
 // The grain of eight pixels, in the order in which they are taken apart.
 struct EightGrains {
     __m256 First, Second, Third, Fourth;  // pixels 0 and 4, 1 and 5, 2 and 6, 3 and 7
 };
 
-NEB_AVX2 EightGrains GrainsOfEight(int Y) {
+NEB_AVX2 inline EightGrains GrainsOfEight(int Y) {
     const Grains& G = GrainsOf(Y);
     return {_mm256_setr_m128(_mm_set1_ps(G[0]), _mm_set1_ps(G[4])),
             _mm256_setr_m128(_mm_set1_ps(G[1]), _mm_set1_ps(G[5])),
@@ -83,11 +78,11 @@ NEB_AVX2 EightGrains GrainsOfEight(int Y) {
             _mm256_setr_m128(_mm_set1_ps(G[3]), _mm_set1_ps(G[7]))};
 }
 
-NEB_AVX2 __m256i LightOfLanes(__m256i V) {
+NEB_AVX2 inline __m256i LightOfLanes(__m256i V) {
     return _mm256_add_epi16(_mm256_mullo_epi16(V, V), V);
 }
 
-NEB_AVX2 __m256i MixedLight(__m256i Old, __m256i New, __m256i Weight) {
+NEB_AVX2 inline __m256i MixedLight(__m256i Old, __m256i New, __m256i Weight) {
     const __m256i A = LightOfLanes(Old), B = LightOfLanes(New);
     const __m256i Left = _mm256_xor_si256(Weight, _mm256_set1_epi16(-1));
     const __m256i Up = _mm256_mulhi_epu16(_mm256_subs_epu16(B, A), Weight);
@@ -95,18 +90,18 @@ NEB_AVX2 __m256i MixedLight(__m256i Old, __m256i New, __m256i Weight) {
     return _mm256_add_epi16(_mm256_min_epu16(A, B), _mm256_add_epi16(Up, Down));
 }
 
-NEB_AVX2 __m256i RootOf(__m256i Light, __m256 Grain) {
+NEB_AVX2 inline __m256i RootOf(__m256i Light, __m256 Grain) {
     return _mm256_cvttps_epi32(_mm256_add_ps(_mm256_sqrt_ps(_mm256_cvtepi32_ps(Light)), Grain));
 }
 
-NEB_AVX2 __m256i RootOfLanes(__m256i Light, __m256 Near, __m256 Far) {
+NEB_AVX2 inline __m256i RootOfLanes(__m256i Light, __m256 Near, __m256 Far) {
     const __m256i Zero = _mm256_setzero_si256();
     return _mm256_packs_epi32(RootOf(_mm256_unpacklo_epi16(Light, Zero), Near),
                               RootOf(_mm256_unpackhi_epi16(Light, Zero), Far));
 }
 
-NEB_AVX2 void MixEight(QRgb* Out, const QRgb* Old, const QRgb* New, __m256i Low, __m256i High,
-                       const EightGrains& G) {
+NEB_AVX2 inline void MixEight(QRgb* Out, const QRgb* Old, const QRgb* New, __m256i Low,
+                              __m256i High, const EightGrains& G) {
     const __m256i Zero = _mm256_setzero_si256();
     const __m256i O = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(Old));
     const __m256i N = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(New));
@@ -119,7 +114,7 @@ NEB_AVX2 void MixEight(QRgb* Out, const QRgb* Old, const QRgb* New, __m256i Low,
 }
 
 // As WeightOf does it.
-NEB_AVX2 __m128i WeightsOf(__m128i Moments, __m128i Edge, __m128i Most, __m128i Shift) {
+NEB_AVX2 inline __m128i WeightsOf(__m128i Moments, __m128i Edge, __m128i Most, __m128i Shift) {
     const __m128i Way = _mm_sub_epi16(Edge, Moments);
     const __m128i Inside = _mm_min_epi16(_mm_max_epi16(Way, _mm_setzero_si128()), Most);
     const __m128i T = _mm_sll_epi16(Inside, Shift);
@@ -129,9 +124,8 @@ NEB_AVX2 __m128i WeightsOf(__m128i Moments, __m128i Edge, __m128i Most, __m128i 
     return _mm_or_si128(_mm_add_epi16(Half, Half), _mm_cmpeq_epi16(Inside, Most));
 }
 
-__attribute__((target("avx2"))) int MixEights(QRgb* Out, const QRgb* Old, const QRgb* New,
-                                              const std::int16_t* Moments, const Front& F, int Y,
-                                              int Count) {
+NEB_AVX2 int MixEights(QRgb* Out, const QRgb* Old, const QRgb* New, const std::int16_t* Moments,
+                       const Front& F, int Y, int Count) {
     // The weights of the pixels 0, 1, 4, 5 and of 2, 3, 6, 7, four times each.
     const __m256i Low = _mm256_setr_epi8(0, 1, 0, 1, 0, 1, 0, 1, 2, 3, 2, 3, 2, 3, 2, 3, 8, 9, 8, 9,
                                          8, 9, 8, 9, 10, 11, 10, 11, 10, 11, 10, 11);
@@ -158,7 +152,7 @@ void MixLightByMoments(QRgb* Out, const QRgb* Old, const QRgb* New, const std::i
     const Front F{Edge, SoftBits};
     int I = 0;
 #ifdef NEB_EIGHT_AT_A_TIME
-    if (__builtin_cpu_supports("avx2")) I = MixEights(Out, Old, New, Moments, F, Y, Count);
+    if (HasWideVectors()) I = MixEights(Out, Old, New, Moments, F, Y, Count);
 #endif
     for (; I < Count; ++I)
         Out[I] =

@@ -2,11 +2,7 @@
 // Both reckon alike to the bit.
 #include "effects/Pixels.h"
 #include "effects/RevealMap.h"
-
-#if defined(__x86_64__) && defined(__GNUC__) && !defined(NEB_NARROW)
-#define NEB_EIGHT_AT_A_TIME
-#include <immintrin.h>
-#endif
+#include "effects/WideVectors.h"
 
 namespace neb::effects {
 namespace {
@@ -18,14 +14,12 @@ void MixOneByOne(QRgb* Out, const QRgb* Old, const QRgb* New, const std::int16_t
 }
 
 #ifdef NEB_EIGHT_AT_A_TIME
-#define NEB_AVX2 __attribute__((target("avx2"))) inline
-
-NEB_AVX2 __m256i Load(const QRgb* From) {
+NEB_AVX2 inline __m256i Load(const QRgb* From) {
     return _mm256_loadu_si256(reinterpret_cast<const __m256i*>(From));
 }
 
 // Old + (New - Old) * Weight for sixteen parts; what runs over in between falls away again.
-NEB_AVX2 __m256i MixParts(__m256i Old, __m256i New, __m256i Weight) {
+NEB_AVX2 inline __m256i MixParts(__m256i Old, __m256i New, __m256i Weight) {
     const __m256i Part = _mm256_mullo_epi16(_mm256_sub_epi16(New, Old), Weight);
     const __m256i Sum = _mm256_add_epi16(_mm256_slli_epi16(Old, 8), Part);
     return _mm256_srli_epi16(_mm256_add_epi16(Sum, _mm256_set1_epi16(128)), 8);
@@ -33,7 +27,7 @@ NEB_AVX2 __m256i MixParts(__m256i Old, __m256i New, __m256i Weight) {
 
 // Weights: of the eight pixels, 16 bits each. Each weight is needed four times, in the order in
 // which unpacking brings the parts of the pixels.
-NEB_AVX2 __m256i MixEight(const QRgb* Old, const QRgb* New, __m128i Weights) {
+NEB_AVX2 inline __m256i MixEight(const QRgb* Old, const QRgb* New, __m128i Weights) {
     const __m256i Zero = _mm256_setzero_si256();
     const __m256i Near = _mm256_setr_epi8(0, 1, 0, 1, 0, 1, 0, 1, 2, 3, 2, 3, 2, 3, 2, 3, 8, 9, 8,
                                           9, 8, 9, 8, 9, 10, 11, 10, 11, 10, 11, 10, 11);
@@ -47,9 +41,8 @@ NEB_AVX2 __m256i MixEight(const QRgb* Old, const QRgb* New, __m128i Weights) {
     return _mm256_packus_epi16(Low, High);
 }
 
-__attribute__((target("avx2"))) void MixByEight(QRgb* Out, const QRgb* Old, const QRgb* New,
-                                                const std::int16_t* Moments, int Count, int Edge,
-                                                int Shift) {
+NEB_AVX2 void MixByEight(QRgb* Out, const QRgb* Old, const QRgb* New, const std::int16_t* Moments,
+                         int Count, int Edge, int Shift) {
     const __m128i Zero = _mm_setzero_si128(), Full = _mm_set1_epi16(256);
     const __m128i Far = _mm_set1_epi16(static_cast<std::int16_t>(Edge));
     const __m128i Bits = _mm_cvtsi32_si128(Shift);
@@ -71,8 +64,7 @@ void MixByMoments(QRgb* Out, const QRgb* Old, const QRgb* New, const std::int16_
                   int Count, int Edge, int SoftBits) {
     const int Shift = SoftBits - 8;
 #ifdef NEB_EIGHT_AT_A_TIME
-    if (__builtin_cpu_supports("avx2"))
-        return MixByEight(Out, Old, New, Moments, Count, Edge, Shift);
+    if (HasWideVectors()) return MixByEight(Out, Old, New, Moments, Count, Edge, Shift);
 #endif
     MixOneByOne(Out, Old, New, Moments, Count, Edge, Shift);
 }

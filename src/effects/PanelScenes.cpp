@@ -155,7 +155,8 @@ void PlanMap(PanelScene& Scene, const Stage& S, int Progress) {
 
 void PlanPrisms(PanelScene& Scene, const Stage& S, int Progress) {
     constexpr int kCount = 9, kThird = One / 3;
-    Scene.SetBehind(S.New.At(0), 200);
+    // Light again at the end, when nothing but the finest gaps are left of it.
+    Scene.SetBehind(S.New.At(0), Scale(200, Ease(std::min(One, 8 * (One - Progress)))));
     for (int I = 0; I < kCount; ++I) {
         const Strip T = StripAt(S.Length, I, kCount, Progress);
         const std::int64_t X = T.Start + T.Length / 2 - S.Length / 2;

@@ -64,14 +64,20 @@ class Viewer {
         return static_cast<int>(std::clamp<std::int64_t>(Line, -mLength, 2 * mLength));
     }
 
+    // What is nearer is seen; where two panels meet, the one that has more of the line.
+    static bool Hides(const ViewLine& L, std::int64_t Zoom, int Cover) {
+        return L.Source && (L.Zoom < Zoom || (L.Zoom == Zoom && L.Cover > Cover));
+    }
+
     void Put(ViewLine& L, const Panel& P, int Index, std::int64_t Sight) const {
         Meeting M{};
         if (!Meet(P, Sight, mEye, M) || M.Zoom > mMostZoom) return;
         const HalfSizes* Source = M.Facing ? P.Front : P.Back;
-        if (!Source || (L.Source && L.Zoom < M.Zoom)) return;
+        const int Cover = CoverAt(P, M.Along);
+        if (!Source || Cover == 0 || Hides(L, M.Zoom, Cover)) return;
         const std::int64_t U = M.Facing ? P.FrontStart + M.Along : P.BackStart + P.Length - M.Along;
         L = {Source, 2 * Index + M.Facing,     static_cast<int>(U) - One / 2,
-             One,    static_cast<int>(M.Zoom), CoverAt(P, M.Along),
+             One,    static_cast<int>(M.Zoom), Cover,
              P.Shade};
     }
 

@@ -1,11 +1,7 @@
 // SamplePlaces: eight pixels at a time where the machine has such vectors, one at a time else.
 // Both reckon alike to the bit.
 #include "effects/Sampling.h"
-
-#if defined(__x86_64__) && defined(__GNUC__) && !defined(NEB_NARROW)
-#define NEB_EIGHT_AT_A_TIME
-#include <immintrin.h>
-#endif
+#include "effects/WideVectors.h"
 
 namespace neb::effects {
 namespace {
@@ -15,8 +11,6 @@ void SampleOneByOne(QRgb* Out, const Picture& P, const int* U, const int* V, int
 }
 
 #ifdef NEB_EIGHT_AT_A_TIME
-#define NEB_AVX2 __attribute__((target("avx2"))) inline
-
 // What is the same for all pixels of a picture.
 struct Source {
     const QRgb *High, *Under;  // its rows, and the rows below them
@@ -32,18 +26,18 @@ struct Places {
     __m256i Low;    // bytes 2 and 3 together: of the lower row, -32768..0
 };
 
-NEB_AVX2 Source MakeSource(const Picture& P) {
+NEB_AVX2 inline Source MakeSource(const Picture& P) {
     return {P.Bits, P.Bits + P.Stride, _mm256_set1_epi32(((P.Width - 1) << 16) - 1),
             _mm256_set1_epi32(((P.Height - 1) << 16) - 1),
             _mm256_set1_epi32(static_cast<int>(P.Stride << 16) + 1)};
 }
 
-NEB_AVX2 __m256i Within(const int* Places, __m256i Last) {
+NEB_AVX2 inline __m256i Within(const int* Places, __m256i Last) {
     const __m256i At = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(Places));
     return _mm256_min_epi32(_mm256_max_epi32(At, _mm256_setzero_si256()), Last);
 }
 
-NEB_AVX2 Places Find(const Source& S, const int* U, const int* V) {
+NEB_AVX2 inline Places Find(const Source& S, const int* U, const int* V) {
     const __m256i Zero = _mm256_setzero_si256();
     const __m256i X = Within(U, S.LastX), Y = Within(V, S.LastY);
     const __m256i Whole = _mm256_blend_epi16(_mm256_srli_epi32(X, 16), Y, 0xAA);
@@ -54,14 +48,14 @@ NEB_AVX2 Places Find(const Source& S, const int* U, const int* V) {
     return {_mm256_madd_epi16(Whole, S.Steps), _mm256_xor_si256(Left, Low), Low};
 }
 
-NEB_AVX2 __m128i TwoPairs(const QRgb* A, const QRgb* B) {
+NEB_AVX2 inline __m128i TwoPairs(const QRgb* A, const QRgb* B) {
     const __m128i First = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(A));
     return _mm_castps_si128(
         _mm_loadh_pi(_mm_castsi128_ps(First), reinterpret_cast<const __m64*>(B)));
 }
 
 // The pairs of a row of four squares, weighed: a part of a pixel in each 16 bits, below nought.
-NEB_AVX2 __m256i MixPairs(const QRgb* Row, const unsigned* Index, __m256i Sides) {
+NEB_AVX2 inline __m256i MixPairs(const QRgb* Row, const unsigned* Index, __m256i Sides) {
     const __m128i Near = TwoPairs(Row + Index[0], Row + Index[1]);
     const __m128i Far = TwoPairs(Row + Index[4], Row + Index[5]);
     const __m256i Four = _mm256_inserti128_si256(_mm256_castsi128_si256(Near), Far, 1);
@@ -71,7 +65,8 @@ NEB_AVX2 __m256i MixPairs(const QRgb* Row, const unsigned* Index, __m256i Sides)
 }
 
 // Four of the eight squares: the first two of each half, or with Index two further the others.
-NEB_AVX2 __m256i FourSquares(const Source& S, const unsigned* Index, __m256i Sides, __m256i Low) {
+NEB_AVX2 inline __m256i FourSquares(const Source& S, const unsigned* Index, __m256i Sides,
+                                    __m256i Low) {
     const __m256i High = MixPairs(S.High, Index, Sides);
     const __m256i Under = MixPairs(S.Under, Index, Sides);
     const __m256i Way = _mm256_mulhrs_epi16(_mm256_sub_epi16(High, Under), Low);
@@ -79,7 +74,7 @@ NEB_AVX2 __m256i FourSquares(const Source& S, const unsigned* Index, __m256i Sid
     return _mm256_srli_epi16(_mm256_sub_epi16(_mm256_set1_epi16(64), Sum), 7);
 }
 
-NEB_AVX2 __m256i EightSquares(const Source& S, const Places& At) {
+NEB_AVX2 inline __m256i EightSquares(const Source& S, const Places& At) {
     alignas(32) unsigned Index[8];
     _mm256_store_si256(reinterpret_cast<__m256i*>(Index), At.Index);
     // By way of memory: taking the numbers out of a vector one by one costs twice as much.
@@ -95,8 +90,7 @@ NEB_AVX2 __m256i EightSquares(const Source& S, const Places& At) {
     return _mm256_packus_epi16(A, B);
 }
 
-__attribute__((target("avx2"))) void SampleByEight(QRgb* Out, const Picture& P, const int* U,
-                                                   const int* V, int Count) {
+NEB_AVX2 void SampleByEight(QRgb* Out, const Picture& P, const int* U, const int* V, int Count) {
     const Source S = MakeSource(P);
     for (int I = 0; I < Count; I += 8) {
         const int At = I + 8 <= Count ? I : Count - 8;  // the last may overlap those before
@@ -107,9 +101,8 @@ __attribute__((target("avx2"))) void SampleByEight(QRgb* Out, const Picture& P, 
 
 // Short runs are not worth it, and the steps must fit their lanes.
 bool Suits(const Picture& P, int Count) {
-    static const bool HasWideVectors = __builtin_cpu_supports("avx2");
     return Count >= 8 && P.Width > 1 && P.Height > 1 && P.Stride < 32768 && P.Height < 32768 &&
-           HasWideVectors;
+           HasWideVectors();
 }
 #endif
 

@@ -10,9 +10,7 @@
 
 namespace neb::effects {
 
-// The mean of two pixels that follow each other, Weight of the second, 0..256.
-inline QRgb MixPair(const QRgb* P, int Weight);
-// The same of four pixels that form a square. Right: the weight of the right column, Low: of the
+// The mean of four pixels that form a square. Right: the weight of the right column, Low: of the
 // lower row, both 0..128: so much fits the lanes of 16 bits of the quickest multiplications.
 inline QRgb MixSquare(const QRgb* Top, qsizetype Stride, int Right, int Low);
 
@@ -25,17 +23,12 @@ inline __m128i WeighPair(const QRgb* P, __m128i Sides) {
     const __m128i Weighed = _mm_mullo_epi16(LoadPair(P), Sides);
     return _mm_add_epi16(Weighed, _mm_srli_si128(Weighed, 8));
 }
-inline __m128i SidesOf(int Weight, int Full) {
-    const __m128i W = _mm_cvtsi32_si128((Weight << 16) + Full - Weight);
+inline __m128i SidesOf(int Right) {
+    const __m128i W = _mm_cvtsi32_si128((Right << 16) + 128 - Right);
     return _mm_shuffle_epi32(_mm_unpacklo_epi16(W, W), 0x50);
 }
-inline QRgb MixPair(const QRgb* P, int Weight) {
-    const __m128i Sum = _mm_add_epi16(WeighPair(P, SidesOf(Weight, 256)), _mm_set1_epi16(128));
-    const __m128i Bytes = _mm_srli_epi16(Sum, 8);
-    return static_cast<QRgb>(_mm_cvtsi128_si32(_mm_packus_epi16(Bytes, Bytes)));
-}
 inline QRgb MixSquare(const QRgb* Top, qsizetype Stride, int Right, int Low) {
-    const __m128i Sides = SidesOf(Right, 128);
+    const __m128i Sides = SidesOf(Right);
     const __m128i High = WeighPair(Top, Sides), Under = WeighPair(Top + Stride, Sides);
     const __m128i Half = _mm_set1_epi16(64);
     // In 32 bits: the way down from the upper row, rounded.
@@ -46,9 +39,6 @@ inline QRgb MixSquare(const QRgb* Top, qsizetype Stride, int Right, int Low) {
     return static_cast<QRgb>(_mm_cvtsi128_si32(_mm_packus_epi16(Bytes, Bytes)));
 }
 #else
-inline QRgb MixPair(const QRgb* P, int Weight) {
-    return Mix(P[0], P[1], Weight);
-}
 inline QRgb MixSquare(const QRgb* Top, qsizetype Stride, int Right, int Low) {
     const QRgb* Under = Top + Stride;
     QRgb Out = 0;
@@ -78,21 +68,5 @@ inline QRgb Sample(const Picture& P, int U, int V) {
 void SamplePlaces(QRgb* Out, const Picture& P, const int* U, const int* V, int Count);
 // Places that lie evenly: Start, Start + Step, Start + 2 * Step ...
 void StepSpan(int* Out, int Start, int Step, int Count);
-
-// The same where one pixel of the frame covers Du by Dv of the picture: pictures that shrink
-// are averaged, so that nothing sparkles.
-QRgb SampleMany(const Picture& P, int U, int V, int Du, int Dv);
-inline bool IsShrunk(int Du, int Dv) {
-    return Du >= 3 * (One / 2) || Dv >= 3 * (One / 2);
-}
-inline QRgb SampleArea(const Picture& P, int U, int V, int Du, int Dv) {
-    if (!IsShrunk(Du, Dv)) return Sample(P, U, V);
-    const bool Pair = Du < 5 * (One / 2) && !IsShrunk(0, Dv);
-    if (!Pair) return SampleMany(P, U, V, Du, Dv);
-    return Mix(Sample(P, U - Du / 4, V), Sample(P, U + Du / 4, V), 128);
-}
-
-// A run of a row of such places: U grows by Du from pixel to pixel, V stays.
-void SampleRow(QRgb* Out, const Picture& P, std::int64_t U, int Du, int V, int Dv, int Count);
 
 }  // namespace neb::effects

@@ -4,11 +4,7 @@
 #include <cstdlib>
 
 #include "effects/Pixels.h"
-
-#if defined(__x86_64__) && defined(__GNUC__) && !defined(NEB_NARROW)
-#define NEB_EIGHT_AT_A_TIME
-#include <immintrin.h>
-#endif
+#include "effects/WideVectors.h"
 
 namespace neb::effects {
 namespace {
@@ -34,10 +30,8 @@ struct Tent {
 };
 
 #ifdef NEB_EIGHT_AT_A_TIME
-#define NEB_AVX2 __attribute__((target("avx2"))) inline
-
 // Two pixels of the frame, each part in 32 bits.
-NEB_AVX2 __m256i TwoPixels(const QRgb* Row, const int* Start, const std::int16_t* Share) {
+NEB_AVX2 inline __m256i TwoPixels(const QRgb* Row, const int* Start, const std::int16_t* Share) {
     const __m256i LowPixels = _mm256_broadcastsi128_si256(
         _mm_setr_epi8(0, -1, 4, -1, 1, -1, 5, -1, 2, -1, 6, -1, 3, -1, 7, -1));
     const __m256i HighPixels = _mm256_broadcastsi128_si256(
@@ -45,9 +39,8 @@ NEB_AVX2 __m256i TwoPixels(const QRgb* Row, const int* Start, const std::int16_t
     const __m256i LowShares = _mm256_setr_epi8(0, 1, 2, 3, 0, 1, 2, 3, 0, 1, 2, 3, 0, 1, 2, 3, 8, 9,
                                                10, 11, 8, 9, 10, 11, 8, 9, 10, 11, 8, 9, 10, 11);
     const __m256i HighShares = _mm256_add_epi8(LowShares, _mm256_set1_epi8(4));
-    const auto Load = [](const void* P) __attribute__((target("avx2"))) {
-        return _mm_loadu_si128(static_cast<const __m128i*>(P));
-    };
+    const auto Load = [](const void* P)
+                          NEB_AVX2 { return _mm_loadu_si128(static_cast<const __m128i*>(P)); };
     const __m256i Eight = _mm256_inserti128_si256(_mm256_castsi128_si256(Load(Row + Start[0])),
                                                   Load(Row + Start[1]), 1);
     const __m256i Shares = _mm256_broadcastsi128_si256(Load(Share));
@@ -59,12 +52,12 @@ NEB_AVX2 __m256i TwoPixels(const QRgb* Row, const int* Start, const std::int16_t
     return _mm256_srli_epi32(Sum, 14);
 }
 
-__attribute__((target("avx2"))) int ScaleByEight(QRgb* Out, const QRgb* Row, const int* Start,
-                                                 const std::int16_t* Share, int Count) {
+NEB_AVX2 int ScaleByEight(QRgb* Out, const QRgb* Row, const int* Start, const std::int16_t* Share,
+                          int Count) {
     const __m256i Order = _mm256_setr_epi32(0, 4, 1, 5, 2, 6, 3, 7);
     int I = 0;
     for (; I + 8 <= Count; I += 8) {
-        const auto Two = [=](int K) __attribute__((target("avx2"))) {
+        const auto Two = [=](int K) NEB_AVX2 {
             return TwoPixels(Row, Start + I + K, Share + kTaps * (I + K));
         };
         const __m256i A = _mm256_packs_epi32(Two(0), Two(2));
@@ -75,10 +68,6 @@ __attribute__((target("avx2"))) int ScaleByEight(QRgb* Out, const QRgb* Row, con
     return I;
 }
 
-bool HasWideVectors() {
-    static const bool Has = __builtin_cpu_supports("avx2");
-    return Has;
-}
 #endif
 
 QRgb OnePixel(const QRgb* Row, const std::int16_t* Share) {

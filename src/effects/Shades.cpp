@@ -2,10 +2,7 @@
 
 #include <algorithm>
 
-#if defined(__x86_64__) && defined(__GNUC__) && !defined(NEB_NARROW)
-#define NEB_EIGHT_AT_A_TIME
-#include <immintrin.h>
-#endif
+#include "effects/WideVectors.h"
 
 namespace neb::effects {
 namespace {
@@ -34,29 +31,27 @@ QRgb Mixed(QRgb Old, QRgb New, const Shade& S) {
 }
 
 #ifdef NEB_EIGHT_AT_A_TIME
-#define NEB_AVX2 __attribute__((target("avx2"))) inline
-
 // The shares of two pixels, of the old and the new picture in turn.
-NEB_AVX2 __m256i SharesOf(const Shade& A, const Shade& B) {
+NEB_AVX2 inline __m256i SharesOf(const Shade& A, const Shade& B) {
     const auto* First = reinterpret_cast<const __m128i*>(&A.Old);
     const auto* Second = reinterpret_cast<const __m128i*>(&B.Old);
     return _mm256_inserti128_si256(_mm256_castsi128_si256(_mm_load_si128(First)),
                                    _mm_load_si128(Second), 1);
 }
 
-NEB_AVX2 __m128i LightsOf(const Shade& A, const Shade& B) {
+NEB_AVX2 inline __m128i LightsOf(const Shade& A, const Shade& B) {
     return _mm_unpacklo_epi64(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(&A.Light)),
                               _mm_loadl_epi64(reinterpret_cast<const __m128i*>(&B.Light)));
 }
 
-NEB_AVX2 __m256i Weighed(__m128i Pixels, __m256i Shares) {
+NEB_AVX2 inline __m256i Weighed(__m128i Pixels, __m256i Shares) {
     const __m256i Product = _mm256_mullo_epi16(_mm256_cvtepu8_epi16(Pixels), Shares);
     return _mm256_add_epi16(Product, _mm256_shuffle_epi32(Product, 0x4E));
 }
 
 // Four pixels in 16 bits a part: the first and third in the lower half, then the others.
-NEB_AVX2 __m256i FourMixed(const QRgb* Old, const QRgb* New, const Shade* All,
-                           const std::int16_t* Which) {
+NEB_AVX2 inline __m256i FourMixed(const QRgb* Old, const QRgb* New, const Shade* All,
+                                  const std::int16_t* Which) {
     const Shade &A = All[Which[0]], &B = All[Which[1]], &C = All[Which[2]], &D = All[Which[3]];
     const __m128i O = _mm_loadu_si128(reinterpret_cast<const __m128i*>(Old));
     const __m128i N = _mm_loadu_si128(reinterpret_cast<const __m128i*>(New));
@@ -67,9 +62,8 @@ NEB_AVX2 __m256i FourMixed(const QRgb* Old, const QRgb* New, const Shade* All,
     return _mm256_srli_epi16(_mm256_add_epi16(_mm256_unpacklo_epi64(Near, Far), Light), 8);
 }
 
-__attribute__((target("avx2"))) int MixEights(QRgb* Out, const QRgb* Old, const QRgb* New,
-                                              const Shade* All, const std::int16_t* Which,
-                                              int Count) {
+NEB_AVX2 int MixEights(QRgb* Out, const QRgb* Old, const QRgb* New, const Shade* All,
+                       const std::int16_t* Which, int Count) {
     const __m256i Order = _mm256_setr_epi32(0, 4, 1, 5, 2, 6, 3, 7);
     int I = 0;
     for (; I + 8 <= Count; I += 8) {
@@ -125,8 +119,7 @@ void Shades::Draw(QRgb* Out, const QRgb* Old, const QRgb* New, const std::int16_
         FindShades(Which, Moments + X, Edge, SoftBits - 8, N);
         int I = 0;
 #ifdef NEB_EIGHT_AT_A_TIME
-        if (__builtin_cpu_supports("avx2"))
-            I = MixEights(Out + X, Old + X, New + X, mShades.data(), Which, N);
+        if (HasWideVectors()) I = MixEights(Out + X, Old + X, New + X, mShades.data(), Which, N);
 #endif
         for (; I < N; ++I)
             Out[X + I] = Mixed(Old[X + I], New[X + I], mShades[static_cast<std::size_t>(Which[I])]);

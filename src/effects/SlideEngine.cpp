@@ -20,8 +20,8 @@ class SlideEngine : public Engine {
     Planner mPlan;
 };
 
-Recipe Make(const char* Name, const Planner& Plan) {
-    return {Name, [=](const Pair&) { return std::make_unique<SlideEngine>(Plan); }};
+Recipe Make(const Planner& Plan) {
+    return {"Slide", [=](const Pair&) { return std::make_unique<SlideEngine>(Plan); }};
 }
 
 struct Step {
@@ -149,7 +149,7 @@ Arrangement PlanClose(QSize Size, int Progress, bool Across) {
 }  // namespace
 
 Recipe Push(Heading Way) {
-    return Make("Slide", [=](QSize Size, int Progress) {
+    return Make([=](QSize Size, int Progress) {
         Arrangement A;
         AddPush(A, WholeOf(Size), StepOf(Way), Size, Progress);
         return A;
@@ -157,7 +157,7 @@ Recipe Push(Heading Way) {
 }
 
 Recipe Cover(Heading Way) {
-    return Make("Slide", [=](QSize Size, int Progress) {
+    return Make([=](QSize Size, int Progress) {
         Arrangement A;
         A.Still = Side::Old;
         A.Add(Coming(WholeOf(Size), StepOf(Way), Size, Progress));
@@ -166,7 +166,7 @@ Recipe Cover(Heading Way) {
 }
 
 Recipe Uncover(Heading Way) {
-    return Make("Slide", [=](QSize Size, int Progress) {
+    return Make([=](QSize Size, int Progress) {
         Arrangement A;
         A.Still = Side::New;
         A.Add(Going(WholeOf(Size), StepOf(Way), Size, Progress));
@@ -175,19 +175,19 @@ Recipe Uncover(Heading Way) {
 }
 
 Recipe SlidingStrips(int Count) {
-    return Make("Slide", [=](QSize Size, int P) { return PlanStrips(Size, P, Count); });
+    return Make([=](QSize Size, int P) { return PlanStrips(Size, P, Count); });
 }
 Recipe FallingColumns(int Count) {
-    return Make("Slide", [=](QSize Size, int P) { return PlanColumns(Size, P, Count); });
+    return Make([=](QSize Size, int P) { return PlanColumns(Size, P, Count); });
 }
 Recipe QuartersPart() {
-    return Make("Doors", PlanQuarters);
+    return Make(PlanQuarters);
 }
 Recipe DoorsOpen(bool Across) {
-    return Make("Doors", [=](QSize Size, int P) { return PlanOpen(Size, P, Across); });
+    return Make([=](QSize Size, int P) { return PlanOpen(Size, P, Across); });
 }
 Recipe DoorsClose(bool Across) {
-    return Make("Doors", [=](QSize Size, int P) { return PlanClose(Size, P, Across); });
+    return Make([=](QSize Size, int P) { return PlanClose(Size, P, Across); });
 }
 
 }  // namespace neb::effects

@@ -107,7 +107,9 @@ class CurtainEngine : public WarpEngine {
         const std::int64_t Inside = std::min(Edge, Hem);
         Parts[NewWeight] =
             static_cast<int>(std::clamp<std::int64_t>(One / 2 - Inside, -64 * One, 64 * One));
-        Parts[Light] = Inside > 0 ? Fold / 4 - Deep / 10 : ShadowAt(-Inside);
+        // The shadow goes with the last of the cloth.
+        const int Cloth = Clamp((One - H.Drawn) * 6, 0, One);
+        Parts[Light] = Inside > 0 ? Fold / 4 - Deep / 10 : Scale(ShadowAt(-Inside), Cloth);
     }
 
     // Which version of the picture is read: the further drawn, the smaller.

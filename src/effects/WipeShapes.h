@@ -73,7 +73,7 @@ extern const WipeShape Halftone;  // Count: growing dots along the longer side, 
 extern const WipeShape Honey;     // Count: six-sided cells along the longer side, outwards
 
 // WipeShapesPaint.cpp: as if by hand and weather
-extern const WipeShape Brush;  // Count: strokes, to and fro from the top down
+extern const WipeShape Brush;      // Count: strokes, to and fro from the top down
 extern const WipeShape RainDrops;  // Count: growing drops at scattered places
 
 }  // namespace neb::effects
