@@ -17,6 +17,7 @@
 #include <thread>
 #include <vector>
 
+#include "BenchScene.h"
 #include "effects/EffectCatalogue.h"
 #include "effects/Transition.h"
 #include "effects/memory/AllocationCount.h"
@@ -37,19 +38,6 @@ struct Timing {
     double Prepare;      // ms
     int Taken;           // allocations in all frames after the first
 };
-
-QImage Scene(std::uint32_t Seed) {
-    QImage P(kSize, QImage::Format_RGB32);
-    for (int Y = 0; Y < P.height(); ++Y) {
-        auto* Row = reinterpret_cast<QRgb*>(P.scanLine(Y));
-        for (int X = 0; X < P.width(); ++X) {
-            Seed = Seed * 1664525u + 1013904223u;
-            const int Grain = static_cast<int>(Seed >> 28);
-            Row[X] = qRgb(X * 200 / P.width() + Grain, Y * 200 / P.height() + Grain, 100 + Grain);
-        }
-    }
-    return P;
-}
 
 // Of this process: on one thread the time that goes by, less what other programs take of it.
 template <typename Work>
@@ -183,7 +171,7 @@ std::vector<int> Wanted(int Count, char** Arguments) {
 }  // namespace
 
 int main(int Count, char** Arguments) {
-    const QImage Old = Scene(1), New = Scene(2);
+    const QImage Old = BenchScene(kSize, 1), New = BenchScene(kSize, 2);
     QImage Out(kSize, QImage::Format_RGB32);
     const CopyTimes Copy = TimeCopies(Old, Out);
     std::printf("one copy of a frame: %.2f ms, %.2f ms in the cache\n", Copy.Cold, Copy.Warm);

@@ -9,6 +9,7 @@
 #include <ctime>
 #include <memory>
 
+#include "BenchScene.h"
 #include "effects/EffectCatalogue.h"
 #include "platform/XShow.h"
 #include "platform/XShowBands.h"
@@ -20,19 +21,6 @@ namespace {
 
 constexpr int Steps = 100;
 constexpr double SecondMs = 1000;
-
-QImage Scene(QSize Size, std::uint32_t Seed) {
-    QImage P(Size, QImage::Format_RGB32);
-    for (int Y = 0; Y < P.height(); ++Y) {
-        auto* Row = reinterpret_cast<QRgb*>(P.scanLine(Y));
-        for (int X = 0; X < P.width(); ++X) {
-            Seed = Seed * 1664525u + 1013904223u;
-            const int Grain = static_cast<int>(Seed >> 28);
-            Row[X] = qRgb(X * 200 / P.width() + Grain, Y * 200 / P.height() + Grain, 100 + Grain);
-        }
-    }
-    return P;
-}
 
 double Elapsed(const QElapsedTimer& Watch) {
     return static_cast<double>(Watch.nsecsElapsed()) * 1e-6;
@@ -115,7 +103,7 @@ int main(int argc, char** argv) {
     }
     if (Words.isEmpty())
         for (const int N : {1, 2, 20, 56, 70, 85, 118, 121}) Words << QString::number(N);
-    const QImage One = Scene(Size, 1), Two = Scene(Size, 2);
+    const QImage One = BenchScene(Size, 1), Two = BenchScene(Size, 2);
     XShow::SetReader([&](const QString& Name) { return Name == QStringLiteral("1") ? One : Two; });
     XShow View;
     View.setWindowFlags(Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint);

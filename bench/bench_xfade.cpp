@@ -11,6 +11,7 @@
 #include <cstdio>
 #include <ctime>
 
+#include "BenchScene.h"
 #include "effects/EffectCatalogue.h"
 #include "effects/Transition.h"
 
@@ -105,21 +106,11 @@ double EffectSeconds(int Number, const QImage& Old, const QImage& New) {
     return OurSeconds([&](double Progress) { T.Draw(Progress, Out); });
 }
 
-QImage Scene(int Seed) {
-    QImage P(kSize, QImage::Format_RGB32);
-    for (int Y = 0; Y < P.height(); ++Y) {
-        auto* Row = reinterpret_cast<QRgb*>(P.scanLine(Y));
-        for (int X = 0; X < P.width(); ++X)
-            Row[X] = qRgb(X * Seed / 16 & 255, Y * 200 / P.height(), (X ^ Y) & 255);
-    }
-    return P;
-}
-
 }  // namespace
 
 int main(int Count, char** Arguments) {
     const QCoreApplication App(Count, Arguments);
-    const QImage Old = Scene(1), New = Scene(2);
+    const QImage Old = BenchScene(kSize, 1), New = BenchScene(kSize, 2);
     const double Empty = Least([] { return FilterSeconds(QStringLiteral("[b]nullsink;[a]null")); });
     if (Empty < 0) {
         std::fprintf(stderr, "bench_xfade: ffmpeg cannot be run.\n");

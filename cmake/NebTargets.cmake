@@ -61,8 +61,8 @@ function(neb_test)
   if(T_SHARDS)
     math(EXPR last "${T_SHARDS} - 1")
     foreach(shard RANGE ${last})
-      add_test(NAME ${T_NAME}.Part${shard} COMMAND test_${T_NAME} --gtest_brief=1)
-      set_tests_properties(${T_NAME}.Part${shard} PROPERTIES TIMEOUT 300
+      add_test(NAME ${T_NAME}.Slice${shard} COMMAND test_${T_NAME} --gtest_brief=1)
+      set_tests_properties(${T_NAME}.Slice${shard} PROPERTIES TIMEOUT 300
         ENVIRONMENT "GTEST_TOTAL_SHARDS=${T_SHARDS};GTEST_SHARD_INDEX=${shard}")
     endforeach()
     return()
