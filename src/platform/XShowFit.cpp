@@ -7,12 +7,24 @@
 namespace neb {
 namespace {
 
+// Of a side of the view: bars that are narrower, both together, look like a fault of the screen,
+// and nobody sees so little of a stretch.
+constexpr int kHairline = 100;
+
+int Snapped(int Length, int Room) {
+    return (Room - Length) * kHairline < Room ? Room : Length;
+}
+
+// A length in proportion, rounded; never nothing.
+int Share(qint64 Product, qint64 Whole) {
+    return std::max(1, static_cast<int>((Product + Whole / 2) / Whole));
+}
+
 QSize InProportion(QSize Picture, QSize View) {
     const qint64 W = Picture.width(), H = Picture.height();
     const bool WidthDecides = W * View.height() >= H * View.width();
-    if (WidthDecides)
-        return {View.width(), std::max(1, static_cast<int>((H * View.width() + W / 2) / W))};
-    return {std::max(1, static_cast<int>((W * View.height() + H / 2) / H)), View.height()};
+    if (WidthDecides) return {View.width(), Snapped(Share(H * View.width(), W), View.height())};
+    return {Snapped(Share(W * View.height(), H), View.width()), View.height()};
 }
 
 QSize SizeInView(QSize Picture, const XShowLayout& L) {

@@ -9,7 +9,8 @@ namespace neb {
 struct XShowLayout {
     QSize View;                // in pixels of the screen
     bool Fitted = false;       // option A: made to fit the view, else at its own size
-    bool InProportion = true;  // option B: width to height as they are; else the view is filled
+    bool InProportion = true;  // option B: width to height as they are, but for less than a
+                               // hundredth that would leave hairlines; else the view is filled
     bool Centred = false;      // option C: in the middle, else at the top left
     bool operator==(const XShowLayout&) const = default;
 };

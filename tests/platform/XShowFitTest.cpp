@@ -38,6 +38,11 @@ const Case kCases[] = {
     {{50, 30}, {100, 60}, true, true, true, {0, 0, 100, 60}},
     {{1, 10000}, {100, 60}, true, true, true, {49, 0, 1, 60}},
     {{10000, 1}, {100, 60}, true, true, true, {0, 29, 100, 1}},
+    // Bars of less than a hundredth are spared; a full hundredth is not.
+    {{640, 480}, {652, 486}, true, true, true, {0, 0, 652, 486}},
+    {{1920, 1080}, {1366, 768}, true, true, true, {0, 0, 1366, 768}},
+    {{1000, 995}, {1000, 1000}, true, true, true, {0, 0, 1000, 1000}},
+    {{1000, 990}, {1000, 1000}, true, true, true, {0, 5, 1000, 990}},
 };
 
 }  // namespace
