@@ -7,7 +7,7 @@
 namespace neb::effects {
 namespace {
 
-// Where the picture in front is; Part 0: in its own place, One: gone.
+// Where the picture in front is; Part: of the way from its own place (0) until it is gone (One).
 using Motion = SpritePlace (*)(QSize Size, int Part);
 
 SpritePlace Away(QSize Size, int Part) {
