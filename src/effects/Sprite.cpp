@@ -2,18 +2,12 @@
 
 #include <algorithm>
 
+#include "effects/Sampling.h"
+
 namespace neb::effects {
 namespace {
 
 constexpr int kRun = 128;
-
-NEB_WIDE void FillPlaces(int* __restrict U, int* __restrict V, int U0, int V0, int Du, int Dv,
-                         int Count) {
-    for (int I = 0; I < Count; ++I) {
-        U[I] = U0 + I * Du;
-        V[I] = V0 + I * Dv;
-    }
-}
 
 // One direction of the pixels in a shadow: the places of all of them fit.
 struct Sides {
@@ -114,7 +108,8 @@ void Sprite::Read(QRgb* Out, const Axis& A, const Axis& B, Run R) const {
         const auto U0 = static_cast<int>(A.Start + std::int64_t{X} * A.Step) + mLeft - One / 2;
         const auto V0 = static_cast<int>(B.Start + std::int64_t{X} * B.Step) + mUp - One / 2;
         if (CopyWhole(Out + X, U0, V0, A.Step, B.Step, Count)) continue;
-        FillPlaces(U, V, U0, V0, A.Step, B.Step, Count);
+        StepSpan(U, U0, A.Step, Count);
+        StepSpan(V, V0, B.Step, Count);
         mSource->Read(Out + X, U, V, Count, mGrain);
     }
 }
