@@ -19,6 +19,12 @@ struct ShowSoundFields {
     bool TrackEndsHere = false;  // the running slide is the track's last
     bool SoundRepeat = false;    // the repeat flag of what was last started
     bool Reposition = false;     // a user step brought the slide up
+    QString CurrentSoundFile;    // path last loaded with success
+    // Where a track stood when the first of a run of overriding clips took its place.
+    double SavedSoundPos = 0;        // seconds; 0 for none
+    std::int32_t SavedSoundSeq = 0;  // SlideSeq of that slide; 0 for none
+    QString SavedSoundFile;          // the track's file
+    std::int32_t LastClipSeq = 0;    // SlideSeq of the last overriding clip; 0 for none
 };
 
 // The slide that has just come up.

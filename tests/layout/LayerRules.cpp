@@ -153,13 +153,13 @@ QStringList DrawingOrder(const QStringList& Existing) {
 
 const QStringList& LayerOrder() {
     static const QStringList Order{
-        QStringLiteral("support"),      QStringLiteral("support/windows"),
-        QStringLiteral("effects"),      QStringLiteral("platform"),
-        QStringLiteral("db"),           QStringLiteral("shell"),
-        QStringLiteral("presentation"), QStringLiteral("printing"),
-        QStringLiteral("intake"),       QStringLiteral("authoring"),
-        QStringLiteral("transfer"),     QStringLiteral("shell/main"),
-        QStringLiteral("tools")};
+        QStringLiteral("support"),        QStringLiteral("support/windows"),
+        QStringLiteral("effects"),        QStringLiteral("platform"),
+        QStringLiteral("platform/sound"), QStringLiteral("db"),
+        QStringLiteral("shell"),          QStringLiteral("presentation"),
+        QStringLiteral("printing"),       QStringLiteral("intake"),
+        QStringLiteral("authoring"),      QStringLiteral("transfer"),
+        QStringLiteral("shell/main"),     QStringLiteral("tools")};
     return Order;
 }
 

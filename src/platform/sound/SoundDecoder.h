@@ -1,0 +1,25 @@
+// A sound file as a row of samples: WAV and MP3, told apart by what is in them, never by their
+// names. The players read it on a thread of their own.
+#pragma once
+
+#include <QString>
+#include <memory>
+
+namespace neb {
+
+class SoundDecoder {
+  public:
+    virtual ~SoundDecoder() = default;
+    virtual int Rate() const = 0;       // frames a second
+    virtual int Channels() const = 0;   // 1 to 8, in the order of WAV files
+    virtual qint64 Frames() const = 0;  // the whole length, exact from the start
+    // Up to so many frames of interleaved samples, -1 to 1. Fewer at the end alone, then 0; a
+    // damaged or missing rest is the end. Never throws.
+    virtual qint64 Read(float* Into, qint64 MaxFrames) = 0;
+    virtual void Seek(qint64 Frame) = 0;  // 0 to Frames()
+};
+
+// Throws Fault, with a sentence and the path, for what cannot be played at all.
+std::unique_ptr<SoundDecoder> OpenSound(const QString& Path);
+
+}  // namespace neb
