@@ -1,11 +1,8 @@
-// The window: its start and end, settings, size, keys, mouse and menu. What is shown when is in
-// frmSlideShowProjectorShow.cpp.
 #include "presentation/frmSlideShowProjector.h"
 
 #include <QKeyEvent>
 #include <QScreen>
 
-#include "db/clsDBEngine.h"
 #include "platform/XShow.h"
 #include "presentation/ProgramScreen.h"
 #include "presentation/ShowSettings.h"
@@ -66,12 +63,13 @@ struct HourglassUntilEnd {
 
 frmSlideShowProjector::frmSlideShowProjector()
     : mUi(std::make_unique<Ui::frmSlideShowProjector>()),
-      mSound(std::make_shared<SilentShowSound>()),
+      mRun(*this),
       Timer1(new QTimer(this)),
       Timer2(new QTimer(this)) {
     mUi->setupUi(this);
     Timer1->setObjectName(QStringLiteral("Timer1"));
     Timer1->setInterval(100);
+    Timer1->setTimerType(Qt::PreciseTimer);
     Timer2->setObjectName(QStringLiteral("Timer2"));
     Timer2->setInterval(1000);
     connect(Timer1, &QTimer::timeout, this, &frmSlideShowProjector::Timer1_Timer);
@@ -105,10 +103,13 @@ void frmSlideShowProjector::LoadSlideShow(std::int32_t SlideShowID) {
 }
 
 void frmSlideShowProjector::Form_Load() {
-    InitEffectTables();
-    mSound = TheShowSoundMaker()();
+    mRun.AlbumID = AlbumID;
+    mRun.Load(mSlideShowID);
     mScreenStaysOn.emplace(tr("A slide show is running"));
-    LoadSettings();
+    FillScreen();
+    DoEvents();
+    ResizeControls();
+    DoEvents();
 }
 
 void frmSlideShowProjector::Form_Activate() {
@@ -116,34 +117,6 @@ void frmSlideShowProjector::Form_Activate() {
     mStarted = true;
     activateWindow();  // the keys are the show's, with or without a window manager
     PlayPause();
-}
-
-void frmSlideShowProjector::InitEffectTables() {
-    mEffects = EffectTables();
-    if (DBEngine) DBEngine->ClassifyEffects(mEffects.EffectLevels, EffectPlaces);
-}
-
-void frmSlideShowProjector::LoadSettings() {
-    CurrentSlideShowID = 0;
-    CurrentSlideSeq = 0;
-    const clsSettings Settings = OpenSettings();
-    const ShowSettings Read = ReadShowSettings(Settings, AlbumID, mSlideShowID);
-    mResumeSeq = Read.ResumeSeq;
-    mResumeValid = Read.ResumeValid;
-    SlideTimeout = Read.SlideTimeout;
-    mSettings = ReadEffectSettings(Settings, 0);
-    ReadEffectSelections(Settings, mEffects);
-    mSoundFields.SlideInterval = SlideTimeout;
-    FillScreen();
-    DoEvents();
-    ResizeControls();
-    DoEvents();
-}
-
-void frmSlideShowProjector::ReloadEffectSettings() {
-    const clsSettings Settings = OpenSettings();
-    mSettings = ReadEffectSettings(Settings, 1);
-    ReadEffectSelections(Settings, mEffects);
 }
 
 // A desktop without a window manager takes the size from the window itself.
@@ -156,16 +129,10 @@ void frmSlideShowProjector::FillScreen() {
 
 bool frmSlideShowProjector::Form_Unload() {
     const HourglassUntilEnd Pointer;
-    SetTimers(false, false);
     mUi->Show1->StopEffect();
     mScreenStaysOn.reset();
-    try {
-        mSound->StopSound();
-    } catch (const Fault&) {
-        // the sound is released in any case
-    }
-    mSound = std::make_shared<SilentShowSound>();
-    if (mResumeValid) SaveNextSlideSeq();
+    mRun.End();
+    if (mRun.ResumeValid()) SaveNextSlideSeq();
     return true;
 }
 
@@ -201,7 +168,7 @@ void frmSlideShowProjector::ResizeControls() {
 
 void frmSlideShowProjector::keyPressEvent(QKeyEvent* Event) {
     if (Event->key() == Qt::Key_Escape) {
-        if (Timer1->isActive()) mUi->Show1->StopEffect();
+        if (mRun.Timer1On()) mUi->Show1->StopEffect();
         Unload();
         return;
     }
@@ -209,7 +176,7 @@ void frmSlideShowProjector::keyPressEvent(QKeyEvent* Event) {
         return Row.Key == Event->key();
     });
     if (Found == std::end(Keys)) return;
-    if (!Found->AutomaticOnly || mProgressionMethod == 0) (this->*Found->Run)();
+    if (!Found->AutomaticOnly || !mRun.IsManual()) (this->*Found->Run)();
 }
 
 void frmSlideShowProjector::mouseReleaseEvent(QMouseEvent* Event) {
@@ -217,7 +184,7 @@ void frmSlideShowProjector::mouseReleaseEvent(QMouseEvent* Event) {
 }
 
 void frmSlideShowProjector::SurfaceClick() {
-    if (mProgressionMethod == 1) NextSlide();
+    if (mRun.IsManual()) NextSlide();
 }
 
 void frmSlideShowProjector::SurfaceMouseDown(int Button) {
@@ -225,20 +192,19 @@ void frmSlideShowProjector::SurfaceMouseDown(int Button) {
 }
 
 void frmSlideShowProjector::StopMe() {
-    mResumeAfterRestart = Timer1->isActive();
-    if (mResumeAfterRestart) PlayPause();
+    mRun.StopMe();
     setEnabled(false);
 }
 
 void frmSlideShowProjector::ReStartMe() {
     setEnabled(true);
-    if (std::exchange(mResumeAfterRestart, false)) PlayPause();
+    mRun.ReStartMe();
 }
 
 void frmSlideShowProjector::ShowPopupMenu() {
     const auto Held = shared_from_this();
     auto Popup = NewForm<frmPopup>();
-    Popup->SetEntries(mState, mProgressionMethod != 0, CurrentSlideSeq != 0);
+    Popup->SetEntries(State(), mRun.IsManual(), CurrentSlideSeq != 0);
     if (ReadOnlyDB) Popup->mnuPreferences->setEnabled(false);
     Popup->PopupMenu(QCursor::pos());
     const QString Word = Popup->SelectedCommand().toUpper();
@@ -252,15 +218,46 @@ void frmSlideShowProjector::RunCommand(const QString& Word) {
         if (Word == Row.Word) return (this->*Row.Run)();
 }
 
-// A slide whose time comes from its track keeps that time.
 void frmSlideShowProjector::EditPreferences() {
-    const bool Running = Timer1->isActive();
-    if (Running) PlayPause();
-    const double Before = SlideTimeout;
-    EditSlideShowPreferences();
-    if (Before == mSoundFields.SlideInterval) mSoundFields.SlideInterval = SlideTimeout;
-    ReloadEffectSettings();
-    if (Running) PlayPause();
+    mRun.EditPreferences(EditSlideShowPreferences);
+}
+
+void frmSlideShowProjector::ShowCaption(const QString& Text) {
+    mUi->lblCaption->setText(Text);
+}
+
+bool frmSlideShowProjector::ShowPicture(const QString& Path, const EffectChoice& Choice) {
+    XShow& Show = *mUi->Show1;
+    if (Show.IsRunning()) Show.StopEffect();
+    ResizeControls();
+    if (Choice.EffectDelay) Show.SetEffectDelay(*Choice.EffectDelay);
+    if (Choice.EffectStep) Show.SetEffectStep(*Choice.EffectStep);
+    Show.SetShowOptionD(true);
+    try {
+        Show.LoadPicture(Path);
+    } catch (const Fault&) {
+        return false;
+    }
+    if (Choice.EffectNumber) Show.SetEffectNumber(*Choice.EffectNumber);
+    Show.RunEffect();
+    return true;
+}
+
+void frmSlideShowProjector::Prefetch(const QString& Path) {
+    mUi->Show1->Prefetch(Path);
+}
+
+void frmSlideShowProjector::SetTimer1(bool On) {
+    On&& IsLoaded() ? Timer1->start() : Timer1->stop();
+}
+
+void frmSlideShowProjector::SetTimer2(bool On) {
+    On&& IsLoaded() ? Timer2->start() : Timer2->stop();
+}
+
+void frmSlideShowProjector::Tell(const QString& Message) {
+    ResizeControls();
+    MsgBox(Message);
 }
 
 }  // namespace neb

@@ -1,15 +1,13 @@
-// The full-screen window that runs one slide show: pictures with their transitions, captions, the
-// clock of the slides, keys and the right-click menu. Opened through RunSlideShow of modSlideShows.
+// The full-screen window that runs one slide show: pictures with their transitions, captions, keys
+// and the right-click menu. What comes up when is ShowRun's. Opened through RunSlideShow of
+// modSlideShows.
 #pragma once
 
 #include <exception>
 #include <optional>
 
 #include "presentation/BlankingHold.h"
-#include "presentation/DetailChooser.h"
-#include "presentation/EffectChooser.h"
-#include "presentation/ShowSound.h"
-#include "presentation/ShowState.h"
+#include "presentation/ShowRun.h"
 #include "support/windows/Form.h"
 
 namespace neb {
@@ -18,9 +16,7 @@ namespace Ui {
 class frmSlideShowProjector;
 }
 
-class clsNEBAlbum;
-
-class frmSlideShowProjector : public Form {
+class frmSlideShowProjector : public Form, private ShowStage {
     Q_OBJECT
 
   public:
@@ -37,24 +33,24 @@ class frmSlideShowProjector : public Form {
     void ReStartMe();
 
     // The user's commands.
-    void PlayPause();
-    void StopRestart();
-    void NextSlide();
-    void PreviousSlide();
-    void GotoStart();
-    void GotoEnd();
+    void PlayPause() { mRun.PlayPause(); }
+    void StopRestart() { mRun.StopRestart(); }
+    void NextSlide() { mRun.NextSlide(); }
+    void PreviousSlide() { mRun.PreviousSlide(); }
+    void GotoStart() { mRun.GotoStart(); }
+    void GotoEnd() { mRun.GotoEnd(); }
     void ShowPopupMenu();
     void EditPreferences();
     // The ticks: every 100 ms the clock of the slides, every 1000 ms the loop of the sound.
-    void Timer1_Timer();
-    void Timer2_Timer();
+    void Timer1_Timer() { mRun.Timer1_Timer(); }
+    void Timer2_Timer() { mRun.Timer2_Timer(); }
 
-    const ShowState& State() const { return mState; }
-    const EffectTables& Effects() const { return mEffects; }
-    const EffectSettings& Settings() const { return mSettings; }
-    double SlideInterval() const { return mSoundFields.SlideInterval; }  // seconds
-    const QString& CurrentFile() const { return mCurrentFile; }
-    const QString& SlideShowName() const { return mSlideShowName; }
+    const ShowState& State() const { return mRun.State(); }
+    const EffectTables& Effects() const { return mRun.Effects(); }
+    const EffectSettings& Settings() const { return mRun.Settings(); }
+    double SlideInterval() const { return mRun.SoundFields().SlideInterval; }  // seconds
+    const QString& CurrentFile() const { return mRun.CurrentFile(); }
+    const QString& SlideShowName() const { return mRun.SlideShowName(); }
 
   protected:
     void Form_Load() override;
@@ -65,51 +61,26 @@ class frmSlideShowProjector : public Form {
     void mouseReleaseEvent(QMouseEvent* Event) override;
 
   private:
+    void ShowCaption(const QString& Text) override;
+    bool ShowPicture(const QString& Path, const EffectChoice& Choice) override;
+    void Prefetch(const QString& Path) override;
+    void SetTimer1(bool On) override;
+    void SetTimer2(bool On) override;
+    void Tell(const QString& Message) override;
+
     void PrepareControls();
     void FillScreen();
-    void InitEffectTables();
-    void LoadSettings();
-    void ReloadEffectSettings();
     void ResizeControls();
     void SurfaceClick();
     void SurfaceMouseDown(int Button);
     void RunCommand(const QString& Word);
     void SaveNextSlideSeq();
 
-    void Enter(const ShowTransition& Transition);
-    void GotoFirstSlide();
-    void SetTimers(bool Timer1On, bool Timer2On);
-    void ResetSlideClock();
-    void UserStep(std::int32_t SlideSeq);
-    void AdvanceSlide();
-    bool ShowCurrentSlide();
-    bool ShowPlace(clsNEBAlbum& Album, const clsNEBSlideShow& SlideShow);
-    bool Fail(const QString& Message);
-    void StopShow();
-    bool DisplaySlideFile(const QString& File);
-    bool DisplayPicture(const QString& Path);
-    QString SlidePath(const QString& SlideLoc) const;
-    void PrefetchNext(clsNEBAlbum& Album, const clsNEBSlideShow& SlideShow);
-    void SetFadeVolume(float Elapsed);
-
     std::unique_ptr<Ui::frmSlideShowProjector> mUi;
     std::optional<BlankingHold> mScreenStaysOn;
-    std::shared_ptr<ShowSound> mSound;
-    ShowSoundFields mSoundFields;
-    ShowState mState;
-    EffectTables mEffects;
-    EffectSettings mSettings;
+    ShowRun mRun;
     std::int32_t mSlideShowID = 0;
-    QString mSlideShowName;
-    std::int32_t mProgressionMethod = 0;  // 0 automatic, 1 manual
-    std::int32_t mSlideCount = 0;
-    std::int32_t mLastSeq = 0;
-    std::int32_t mResumeSeq = 0;
-    bool mResumeValid = false;
-    bool mResumeAfterRestart = false;
     bool mStarted = false;
-    float mSlideStartTime = 0;  // seconds since midnight
-    QString mCurrentFile;
     QTimer* Timer1;
     QTimer* Timer2;
     std::exception_ptr mSaveFault;
