@@ -93,11 +93,12 @@ class ProjectorRig : public ::testing::Test {
     QTimer* Timer1 = nullptr;
     QTimer* Timer2 = nullptr;
 
+    Services mBefore;  // the machine's own, for tests that want them
+    ShowSoundMaker mMakerBefore;
+
   private:
     void Attach(frmSlideShowProjector& Window);
 
-    Services mBefore;
-    ShowSoundMaker mMakerBefore;
     QMutex mReadLock;
     std::vector<QString> mRead;
 };
