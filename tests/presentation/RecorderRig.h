@@ -21,7 +21,7 @@ class FakeCaptureBuffer : public CaptureBuffer {
                       std::int32_t Bytes)
         : mTold(Told), mCurrent(Current), mFormat(Format), mSize(Bytes) {
         mCurrent = this;
-        mTold.push_back("buffer of " + std::to_string(Bytes));
+        mTold.emplace_back("buffer of " + std::to_string(Bytes));
     }
     ~FakeCaptureBuffer() override {
         if (mCurrent == this) mCurrent = nullptr;
@@ -35,11 +35,11 @@ class FakeCaptureBuffer : public CaptureBuffer {
 
     void Start() override {
         mRunning = true;
-        mTold.push_back("record");
+        mTold.emplace_back("record");
     }
     void Stop() override {
         mRunning = false;
-        mTold.push_back("stop recording");
+        mTold.emplace_back("stop recording");
     }
     std::int32_t GetCurrentPosition() const override {
         return static_cast<std::int32_t>(mBytes.size());
@@ -65,7 +65,7 @@ class FakePlayer : public SoundGraph {
                const QByteArray& Bytes)
         : mTold(Told), mCurrent(Current), mFormat(Format), mBytes(Bytes) {
         mCurrent = this;
-        mTold.push_back("player of " + std::to_string(Bytes.size()));
+        mTold.emplace_back("player of " + std::to_string(Bytes.size()));
     }
     ~FakePlayer() override {
         if (mCurrent == this) mCurrent = nullptr;
@@ -80,12 +80,12 @@ class FakePlayer : public SoundGraph {
     void RenderFile(const QString&) override { ADD_FAILURE() << "a recording is no file"; }
     void Run() override {
         mRunning = true;
-        mTold.push_back("play");
+        mTold.emplace_back("play");
     }
     void Pause() override { ADD_FAILURE() << "nobody pauses a recording"; }
     void Stop() override {
         mRunning = false;
-        mTold.push_back("stop playing");
+        mTold.emplace_back("stop playing");
     }
     bool IsRunning() const override { return mRunning; }
     void PutVolume(int) override { ADD_FAILURE() << "the volume is applied to nothing"; }
@@ -137,7 +137,7 @@ class FakeSound : public SoundDevices {
 class FakeMicrophone : public CaptureDevice {
   public:
     explicit FakeMicrophone(FakeSound& Sound) : mSound(Sound) {}
-    ~FakeMicrophone() override { mSound.Told.push_back("microphone released"); }
+    ~FakeMicrophone() override { mSound.Told.emplace_back("microphone released"); }
     std::uint32_t GetCaps() const override { return mSound.Caps; }
     std::unique_ptr<CaptureBuffer> CreateCaptureBuffer(const WaveFormat& Format,
                                                        std::int32_t Bytes) override {
