@@ -212,7 +212,7 @@ void frmSoundRecorder::LoadIcons() {
         const char* IconName;
     } Icons[] = {{mUi->cmdRecord, "record"},
                  {mUi->cmdStop, "stop"},
-                 {mUi->cmdPlay, "slide-show-play"},
+                 {mUi->cmdPlay, "sound"},
                  {mUi->cmdSave, "save"}};
     for (const auto& Each : Icons)
         Each.Button->setIcon(ThemeIcon(QString::fromLatin1(Each.IconName), palette()));

@@ -111,6 +111,8 @@ class FakeSound : public SoundDevices {
     ~FakeSound() override { TheServices().Sound = mBefore; }
 
     bool HasMicrophone = true;
+    // Another in place of the scripted one.
+    std::function<std::unique_ptr<CaptureDevice>()> Microphone;
     bool Unplugged = false;  // after it was opened
     std::uint32_t Caps = CaptureDevice::Mono8At11025 | CaptureDevice::Mono8At22050;
     PlaybackState Playback = PlaybackState::Ready;
@@ -151,6 +153,7 @@ class FakeMicrophone : public CaptureDevice {
 
 inline std::unique_ptr<CaptureDevice> FakeSound::CreateCapture() {
     ++Opened;
+    if (Microphone) return Microphone();
     return HasMicrophone ? std::make_unique<FakeMicrophone>(*this) : nullptr;
 }
 

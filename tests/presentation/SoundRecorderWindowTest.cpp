@@ -5,8 +5,10 @@
 #include <QSlider>
 #include <QTest>
 #include <QTimer>
+#include <QtEndian>
 
 #include "RecorderRig.h"
+#include "platform/sound/SdlCapture.h"
 #include "presentation/LevelMeter.h"
 #include "presentation/frmSoundRecorder.h"
 #include "support/Fault.h"
@@ -434,6 +436,28 @@ TEST_F(SoundRecorderWindow, CutsNoTextInALargerType) {
             EXPECT_GE(Label.height(), Label.heightForWidth(Label.width()));
         });
     }
+}
+
+// With the sound library's microphone, which hears a plain file.
+TEST_F(SoundRecorderWindow, RecordsFromARealMicrophoneWhatTheUserSays) {
+    QByteArray Spoken;
+    for (int I = 0; I < 22050; ++I) Spoken.append(static_cast<char>(I * I >> 3));
+    WriteFile(mFolder / "in.raw", Spoken);
+    qputenv("SDL_AUDIODRIVER", "disk");
+    qputenv("SDL_DISKAUDIOFILEIN", (mFolder / "in.raw").toUtf8());
+    mSound.Microphone = &OpenSdlCapture;
+    Open([&] {
+        Press("cmdRecord");
+        EXPECT_TRUE(QTest::qWaitFor([&] { return In<LevelMeter>("lvlSound").Shown() > 0.5; }));
+        EXPECT_EQ(Status(), "Recording");
+        Press("cmdStop");
+        Press("cmdSave");
+    });
+    for (const char* Name : {"SDL_AUDIODRIVER", "SDL_DISKAUDIOFILEIN"}) qunsetenv(Name);
+    const QByteArray File = ReadFile(SavePath());
+    ASSERT_GT(File.size(), 400);
+    const auto Bytes = static_cast<qsizetype>(qFromLittleEndian<quint32>(File.constData() + 40));
+    EXPECT_EQ(File.mid(44, Bytes), Spoken.left(Bytes - 1) + '\x80');
 }
 
 TEST(LevelMeter, GoesUpAtOnceAndFallsCalmly) {
