@@ -35,7 +35,11 @@ class ShowSimulation : public RehearsalRig {
         mLengths[GetFileBaseName(Path)] = Seconds;
     }
     RehearsalOptions Options() {
-        return {{}, [this](const QString& Path) { return mLengths.value(GetFileBaseName(Path)); }};
+        RehearsalOptions Chosen;
+        Chosen.LengthOfSound = [this](const QString& Path) {
+            return mLengths.value(GetFileBaseName(Path));
+        };
+        return Chosen;
     }
     // "0 load a|0 play a@0|15 end a@15": all but the volumes.
     static std::string Heard(const Rehearsal& Of) {
