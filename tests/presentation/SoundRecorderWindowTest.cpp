@@ -224,11 +224,12 @@ TEST_F(SoundRecorderWindow, ShowsTheTimeAndTheLevelWhileItRecordsAndPlays) {
     Open([&] {
         const LevelMeter& Meter = In<LevelMeter>("lvlSound");
         Press("cmdRecord");
-        EXPECT_EQ(Status(), "Waiting for the microphone");
+        EXPECT_EQ(Status(), "Recording");
+        EXPECT_EQ(Time(), "0:00 of 0:20");
         EXPECT_EQ(Meter.Shown(), 0);
         mSound.Buffer->Feed(QByteArray(7 * 22050 + 1000, '\xC0'));
-        EXPECT_TRUE(QTest::qWaitFor([&] { return Status() == "Recording"; }));
-        EXPECT_EQ(Time(), "0:07 of 0:20");
+        EXPECT_TRUE(QTest::qWaitFor([&] { return Time() == "0:07 of 0:20"; }));
+        EXPECT_EQ(Status(), "Recording");
         EXPECT_GT(Meter.Shown(), 0.8);
         Press("cmdStop");
         EXPECT_EQ(Status(), "Recorded");
@@ -389,6 +390,26 @@ TEST_F(SoundRecorderWindow, EveryButtonHasAnAccelerator) {
     EXPECT_TRUE(mWindow->SoundRecorded());
 }
 
+TEST_F(SoundRecorderWindow, AMicrophoneThatDoesNotBeginIsTold) {
+    Open([&] {
+        Press("cmdRecord");
+        EXPECT_TRUE(QTest::qWaitFor([&] { return Status() == "Waiting for the microphone"; }));
+        mSound.Buffer->Feed(Speech(500));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return Status() == "Recording"; }));
+    });
+}
+
+// The button runs a moment after its key.
+TEST_F(SoundRecorderWindow, AKeyPressedRightBeforeClosingRecordsNothing) {
+    Open([&] {
+        Key(Qt::Key_R, Qt::AltModifier);
+        mWindow->close();
+        EXPECT_FALSE(mWindow->IsLoaded());
+        QTest::qWait(200);
+    });
+    EXPECT_FALSE(Told("record"));
+}
+
 TEST_F(SoundRecorderWindow, EnterOnTheVolumeIsForTheButtonThatComesNext) {
     Open([&] {
         In<QSlider>("sdrVolume").setFocus();
@@ -405,8 +426,9 @@ TEST_F(SoundRecorderWindow, AMicrophoneThatFallsSilentInARecordingIsToldAndLeave
     Open([&] {
         Press("cmdRecord");
         mSound.Buffer->Feed(QByteArray(22050, '\xC0'));
-        EXPECT_TRUE(QTest::qWaitFor([&] { return Status() == "Recording"; }));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return In<LevelMeter>("lvlSound").Shown() > 0.5; }));
         EXPECT_TRUE(QTest::qWaitFor([&] { return In<LevelMeter>("lvlSound").Shown() == 0; }));
+        EXPECT_EQ(Status(), "Recording") << "a moment's silence is nothing";
         EXPECT_TRUE(QTest::qWaitFor([&] { return Status() == "Waiting for the microphone"; }));
         Press("cmdStop");
         EXPECT_EQ(Time(), "0:01");
