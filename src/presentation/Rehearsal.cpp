@@ -139,7 +139,8 @@ void Rehearsal::Fire(Ticking& Timer) {
 void Rehearsal::AdvanceTo(qint64 Milliseconds) {
     mClock.AdvanceTo(Milliseconds);
     mSound.Settle();
-    if (!mLog.Cues.empty()) mLog.Cues.back().Seconds = Now() - mLog.Cues.back().At;
+    if (!mLog.Cues.empty())
+        mLog.Cues.back().Seconds = static_cast<double>(mClock.Milliseconds() - mCueBegan) / 1000;
 }
 
 // What nobody catches comes up as a box, as in the event loop of the program.
@@ -172,6 +173,7 @@ bool Rehearsal::SlideComesUp(const SlideSound& Slide) {
     mRoundIsOver = ComesRound(Slide);
     if (mRoundIsOver) return false;
     mNext.At = Now();
+    mCueBegan = mClock.Milliseconds();
     mNext.SlideSeq = Slide.SlideSeq;
     const auto* Detail = Slide.SlideShow->GetDetail(Slide.SlideSeq);
     mNext.SlideID = Detail ? Detail->SlideID : 0;

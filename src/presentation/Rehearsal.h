@@ -98,7 +98,8 @@ class Rehearsal : private ShowStage {
     RehearsalWorld mWorld;
     std::array<Ticking, 2> mTimers{{{100, &ShowRun::Timer1_Timer}, {1000, &ShowRun::Timer2_Timer}}};
     int mStarts = 0;
-    RehearsalCue mNext;  // the slide that is on its way
+    RehearsalCue mNext;    // the slide that is on its way
+    qint64 mCueBegan = 0;  // milliseconds, of the slide that is up
     int mEffectDelay = 0, mEffectStep = 100;
     bool mOneRound = false, mRoundIsOver = false;
     const std::int32_t mSlideShowID;

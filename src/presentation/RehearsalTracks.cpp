@@ -158,7 +158,7 @@ void TrackCheck::CheckCut() {
         Heard = std::max(
             Heard, Cue->Sound.EndsAt >= 0 ? mFacts.Length : Cue->Sound.Position + Cue->Seconds);
     if (Heard >= mFacts.Length - Unnoticed) return;
-    const QString Text = QStringLiteral("its last slide ends when %1 of its %2 have been heard")
+    const QString Text = QStringLiteral("it is cut off when its slides end, after %1 of its %2")
                              .arg(SecondsText(Heard), SecondsText(mFacts.Length));
     const bool Wasted = Heard < mFacts.Length / 2 && !mTrack.Fade && !mBook.IsManual;
     Wasted ? Tell(Text) : Note(Text);

@@ -147,18 +147,18 @@ TEST_F(RehearsalFindingsTest, TracksThatAreCutOff) {
     AddSlides(2);
     clsNEBSlideShowSoundTrack& Track = AddTrack(u"song.mp3"_s, 1, 2, 18);
     EXPECT_EQ(
-        "note: sound track 1 (song.mp3, slides 1 to 2): its last slide ends when 10.0 s of its "
-        "18.0 s have been heard\n",
+        "note: sound track 1 (song.mp3, slides 1 to 2): it is cut off when its slides end, "
+        "after 10.0 s of its 18.0 s\n",
         Found());
     Lengths[u"song.mp3"_s] = 60;
     EXPECT_EQ(
-        "sound track 1 (song.mp3, slides 1 to 2): its last slide ends when 10.0 s of its 60.0 s "
-        "have been heard\n",
+        "sound track 1 (song.mp3, slides 1 to 2): it is cut off when its slides end, after "
+        "10.0 s of its 60.0 s\n",
         Found());
     Track.Fade = true;
     EXPECT_EQ(
-        "note: sound track 1 (song.mp3, slides 1 to 2): its last slide ends when 10.0 s of its "
-        "60.0 s have been heard\n",
+        "note: sound track 1 (song.mp3, slides 1 to 2): it is cut off when its slides end, "
+        "after 10.0 s of its 60.0 s\n",
         Found());
 }
 
