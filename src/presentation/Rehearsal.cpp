@@ -37,7 +37,7 @@ class Rehearsal::BoxLog : public MessageBoxes {
   public:
     explicit BoxLog(Rehearsal& Owner) : mOwner(Owner) {}
     BoxAnswer Show(const BoxRequest& Request) override {
-        mOwner.Tell(Request.Text);
+        mOwner.NoteBox(RehearsalBoxFrom::Sound, Request.Text);
         return Request.Buttons == BoxButtons::Ok ? BoxAnswer::Ok : BoxAnswer::No;
     }
 
@@ -148,7 +148,7 @@ void Rehearsal::TakeStep(const std::function<void()>& Step) {
     try {
         Step();
     } catch (const Fault& Problem) {
-        Tell(Problem.Text());
+        NoteBox(RehearsalBoxFrom::Fault, Problem.Text());
     }
 }
 
@@ -189,8 +189,8 @@ void Rehearsal::SlideIsUp(const SlideSound& Slide, const ShowSoundFields& Fields
     mSound.SlideIsUp(SoundPathOf(Slide, DBEngine->DBPath()));
 }
 
-void Rehearsal::Tell(const QString& Message) {
-    mLog.Boxes.push_back({Now(), PlaceOnItsWay(), Message});
+void Rehearsal::NoteBox(RehearsalBoxFrom From, const QString& Text) {
+    mLog.Boxes.push_back({Now(), PlaceOnItsWay(), Text, From});
 }
 
 std::int32_t Rehearsal::PlaceOnItsWay() const {

@@ -76,7 +76,7 @@ class Rehearsal : private ShowStage {
     void Prefetch(const QString&) override {}
     void SetTimer1(bool On) override { SetTimer(mTimers[0], On); }
     void SetTimer2(bool On) override { SetTimer(mTimers[1], On); }
-    void Tell(const QString& Message) override;
+    void Tell(const QString& Message) override { NoteBox(RehearsalBoxFrom::Run, Message); }
 
     void SetTimer(Ticking& Timer, bool On);
     Ticking* NextTimer();
@@ -88,6 +88,7 @@ class Rehearsal : private ShowStage {
     bool ComesRound(const SlideSound& Slide) const;
     bool SlideComesUp(const SlideSound& Slide);
     void SlideIsUp(const SlideSound& Slide, const ShowSoundFields& Fields);
+    void NoteBox(RehearsalBoxFrom From, const QString& Text);
     std::int32_t PlaceOnItsWay() const;
 
     const RehearsalOptions mOptions;

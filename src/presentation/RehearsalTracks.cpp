@@ -85,13 +85,9 @@ void TrackCheck::TakeCue(std::int32_t Place) {
 }
 
 void TrackCheck::ExplainBoxes() {
-    const QString Box =
-        mFacts.State == SoundState::Missing
-            ? QStringLiteral("The Sound Track for this group of slides does not exist.")
-            : QStringLiteral("The Sound Track for this group of slides appears to be empty.");
     if (mFacts.State == SoundState::Sound) return;
     for (std::int32_t Place = mReach.First; Place <= mReach.Last; ++Place)
-        mBook.Explain(Place, Box);
+        mBook.Explain(Place, RehearsalBoxFrom::Sound);
 }
 
 bool TrackCheck::HasSlides() {

@@ -126,6 +126,7 @@ void PrintTable(const std::vector<RehearsalCue>& Cues, std::ostream& Out) {
     std::vector<Row> Rows;
     for (const RehearsalCue& Cue : Cues) Rows.push_back(RowOf(Cue));
     const Widths Wide = WidthsOf(Rows);
+    Out << '\n';
     PrintRow(HeadRow(), Wide, Out);
     for (const Row& Each : Rows) PrintRow(Each, Wide, Out);
 }
@@ -205,7 +206,7 @@ void PutFindings(JsonWriter& Json, const char* Name,
 }  // namespace
 
 void PrintCueSheet(const CueSheet& Sheet, std::ostream& Out) {
-    PrintLine(Out, QStringLiteral("Album \"%1\", show \"%2\": %3, %4 s a slide\n")
+    PrintLine(Out, QStringLiteral("Album \"%1\", show \"%2\": %3, %4 s a slide")
                        .arg(Sheet.Album, Sheet.SlideShow.SlideShowName,
                             Sheet.SlideShow.ProgressionMethod == 0 ? QStringLiteral("automatic")
                                                                    : QStringLiteral("manual"))

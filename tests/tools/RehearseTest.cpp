@@ -122,7 +122,7 @@ TEST_F(RehearseTest, PrintsTheCueSheetOfASilentShow) {
         "Album \"Holiday\", show \"Lake\": automatic, 5 s a slide\n"
         "\n"
         "  Time  Slide    For  Caption     Picture       Transition      Takes  What it does\n"
-        "0:00.0      1  5.0 s  The boat    00000001.jpg    1 Dissolve    0.4 s  silent\n"
+        "0:00.0      1  5.0 s  The boat    00000001.jpg    1 Cross Fade  0.4 s  silent\n"
         "0:05.0      2  5.0 s  Tom & Anna  00000002.jpg    2 Wipe Right  0.4 s  silent\n"
         "0:10.0      3  5.0 s  Evening     00000003.jpg    3 Push Left   0.4 s  silent\n"
         "\n"
@@ -142,7 +142,7 @@ TEST_F(RehearseTest, PrintsWhatTheSoundDoesAndWhatIsWrong) {
         "\n"
         "  Time  Slide    For  Caption                          Picture       Transition        "
         "Takes  Sound       From  Volume  What it does\n"
-        "0:00.0      1  5.0 s  The boat                         00000001.jpg    1 Dissolve      "
+        "0:00.0      1  5.0 s  The boat                         00000001.jpg    1 Cross Fade    "
         "0.4 s  song.wav  0:00.0     100  starts\n"
         "0:05.0      2  5.0 s  Tom & Anna                       00000002.jpg    2 Wipe Right    "
         "0.4 s  song.wav  0:05.0     100  goes on, fades to 2\n"
@@ -204,7 +204,7 @@ TEST_F(RehearseTest, RehearsesAShowWithNothingInIt) {
     const Outcome Result = Rehearse({}, u"Hills"_s);
     EXPECT_EQ(
         "Album \"Holiday\", show \"Hills\": automatic, 5 s a slide\n"
-        "\n\n"
+        "\n"
         "Problems:\n"
         "  the show has no slides\n"
         "\n"
