@@ -92,13 +92,12 @@ void TrackCheck::ExplainBoxes() {
 
 bool TrackCheck::HasSlides() {
     if (mTrack.SlideSeqStart > mTrack.SlideSeqEnd)
-        mBook.Problem(mTrack.SlideSeqStart,
-                      QStringLiteral("sound track %1 (%2): it starts at slide %3 and ends at slide "
-                                     "%4, so that it is never heard")
-                          .arg(mTrack.SoundTrackSeq)
-                          .arg(GetFileName(mPath))
-                          .arg(mTrack.SlideSeqStart)
-                          .arg(mTrack.SlideSeqEnd));
+        mBook.Problem(
+            mTrack.SlideSeqStart,
+            QStringLiteral("sound track %1 (%2): it starts at slide %3 and ends at slide "
+                           "%4, so that it is never heard")
+                .arg(QString::number(mTrack.SoundTrackSeq), GetFileName(mPath),
+                     QString::number(mTrack.SlideSeqStart), QString::number(mTrack.SlideSeqEnd)));
     else if (mReach.First > mReach.Last)
         Tell(QStringLiteral("the show has no such slide, so that it is never heard"));
     return mReach.First <= mReach.Last;
@@ -164,15 +163,12 @@ void CheckOverlap(Notebook& Book, const Track& First, const Track& Second) {
     const Reach Both = ReachOf(Book, std::max(First.SlideSeqStart, Second.SlideSeqStart),
                                std::min(First.SlideSeqEnd, Second.SlideSeqEnd));
     if (Both.First > Both.Last) return;
-    Book.Problem(
-        Both.First,
-        QStringLiteral("%1: both sound track %2 (%3) and sound track %4 (%5) are laid over "
-                       "it; number %2 is heard")
-            .arg(SlidesText(Both.First, Both.Last))
-            .arg(First.SoundTrackSeq)
-            .arg(GetFileName(First.SoundTrackLoc))
-            .arg(Second.SoundTrackSeq)
-            .arg(GetFileName(Second.SoundTrackLoc)));
+    Book.Problem(Both.First,
+                 QStringLiteral(
+                     "%1: sound track %2 (%3) and sound track %4 (%5) overlap; number %2 is heard")
+                     .arg(SlidesText(Both.First, Both.Last), QString::number(First.SoundTrackSeq),
+                          GetFileName(First.SoundTrackLoc), QString::number(Second.SoundTrackSeq),
+                          GetFileName(Second.SoundTrackLoc)));
 }
 
 }  // namespace

@@ -161,11 +161,11 @@ TEST_F(RehearsalFindingsTest, TracksThatAreCutOff) {
 
 TEST_F(RehearsalFindingsTest, TracksThatOverlap) {
     AddSlides(4);
-    AddTrack(u"one.mp3"_s, 1, 3, 15);
+    AddTrack(u"one%2.mp3"_s, 1, 3, 15);
     AddTrack(u"two.mp3"_s, 2, 4, 5);
     EXPECT_EQ(
-        "slides 2 to 3: both sound track 1 (one.mp3) and sound track 2 (two.mp3) are laid over "
-        "it; number 1 is heard\n",
+        "slides 2 to 3: sound track 1 (one%2.mp3) and sound track 2 (two.mp3) overlap; number 1 is "
+        "heard\n",
         Found());
 }
 
