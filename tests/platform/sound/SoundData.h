@@ -158,6 +158,7 @@ inline QString RefusalOf(const QString& Path) {
 inline std::unique_ptr<SoundDecoder> OpenBytes(const harness::TempFolder& Folder,
                                                const QByteArray& Bytes) {
     const QString Path = Folder / QStringLiteral("sound.bin");
+    DeleteFile(Path);  // some disks make a file that is written over wait for the platter
     WriteFile(Path, Bytes);
     return OpenSound(Path);
 }
