@@ -13,10 +13,11 @@ class SoundDecoder {
     virtual int Rate() const = 0;       // frames a second
     virtual int Channels() const = 0;   // 1 to 8, in the order of WAV files
     virtual qint64 Frames() const = 0;  // the whole length, exact from the start
-    // Up to so many frames of interleaved samples, -1 to 1. Fewer at the end alone, then 0; a
-    // damaged or missing rest is the end. Never throws.
+    // Up to so many frames of interleaved samples, -1 to 1. Fewer at the end alone, then 0. What a
+    // damaged MP3 leaves out is silence, so that reading gives Frames() in all; any other damaged
+    // file may end sooner. Never throws.
     virtual qint64 Read(float* Into, qint64 MaxFrames) = 0;
-    virtual void Seek(qint64 Frame) = 0;  // 0 to Frames()
+    virtual void Seek(qint64 Frame) = 0;  // 0 to Frames(), exact; beyond them, their ends
 };
 
 // Throws Fault, with a sentence and the path, for what cannot be played at all.
