@@ -2,8 +2,6 @@
 // RehearsalTracks.cpp.
 #include "presentation/RehearsalFindings.h"
 
-#include <algorithm>
-
 #include "db/modAlbumFiles.h"
 #include "presentation/CaptionFit.h"
 #include "presentation/RehearsalNotebook.h"
@@ -18,9 +16,7 @@ using Notebook = RehearsalNotebook;
 // A run of places without slides ends the round: what lies behind it never comes up.
 void CheckGaps(Notebook& Book) {
     std::int32_t Before = 0;
-    std::vector<std::int32_t> Places(Book.Details.keyBegin(), Book.Details.keyEnd());
-    std::sort(Places.begin(), Places.end());
-    for (const std::int32_t Place : Places) {
+    for (const std::int32_t Place : Book.Places) {
         if (Place < 1)
             Book.OfSlide(Place, QStringLiteral("no show comes to this place"));
         else if (Place > Before + 1)
@@ -31,7 +27,7 @@ void CheckGaps(Notebook& Book) {
                              .arg(Place));
         Before = std::max(Before, Place);
     }
-    if (!Places.empty()) return;
+    if (!Book.Places.empty()) return;
     Book.Problem(0, QStringLiteral("the show has no slides"));
     Book.Explain(1, RehearsalBoxFrom::Run);
 }
