@@ -1,8 +1,8 @@
 #include "presentation/EngineSound.h"
 
 #include "db/clsDBEngine.h"
+#include "presentation/ShowBox.h"
 #include "shell/modNEBSlideShow.h"
-#include "support/Services.h"
 #include "support/modHostFiles.h"
 
 namespace neb {
@@ -75,7 +75,7 @@ void EngineSound::Do(const SoundAction& Action) {
     using Deed = void (*)(clsDirectSound&, const SoundAction&);
     // In the order of SoundAction::Kind.
     static constexpr Deed Deeds[] = {
-        [](clsDirectSound&, const SoundAction& This) { MsgBox(This.Text); },
+        [](clsDirectSound&, const SoundAction& This) { TellOnce(This.Text); },
         [](clsDirectSound& Engine, const SoundAction& This) { Engine.LoadFile(This.Text); },
         [](clsDirectSound& Engine, const SoundAction&) { Engine.UnloadFile(); },
         [](clsDirectSound& Engine, const SoundAction& This) {

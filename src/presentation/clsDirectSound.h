@@ -66,6 +66,7 @@ class clsDirectSound {
     std::unique_ptr<SoundGraph> mGraph;  // empty when no file is loaded
 
     class Recorder;
+    Recorder& TheRecorder();
     std::shared_ptr<Recorder> mRecorder;  // empty until a microphone is asked for
 };
 

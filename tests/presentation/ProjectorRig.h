@@ -44,7 +44,8 @@ class CountedBlanking : public ScreenBlanking {
 struct SoundLog {
     QStringList Calls;
     std::function<bool(const SlideSound&, ShowSoundFields&)> OnStep;
-    std::function<void()> OnStop;
+    std::function<void()> OnRelease;
+    std::vector<std::int32_t> Ahead;  // places whose sound was opened ahead
 
     // What was asked since the last call.
     std::string Taken() { return std::exchange(Calls, {}).join(u'|').toStdString(); }
@@ -93,11 +94,12 @@ class ProjectorRig : public ::testing::Test {
     QTimer* Timer1 = nullptr;
     QTimer* Timer2 = nullptr;
 
+    Services mBefore;  // the machine's own, for tests that want them
+    ShowSoundMaker mMakerBefore;
+
   private:
     void Attach(frmSlideShowProjector& Window);
 
-    Services mBefore;
-    ShowSoundMaker mMakerBefore;
     QMutex mReadLock;
     std::vector<QString> mRead;
 };

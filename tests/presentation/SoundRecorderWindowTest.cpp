@@ -1,0 +1,325 @@
+// The window of the sound recorder: what its buttons do, and what it shows.
+#include <QtEndian>
+
+#include "RecorderWindowRig.h"
+#include "platform/sound/SdlCapture.h"
+#include "support/Fault.h"
+
+namespace neb::test {
+namespace {
+
+TEST_F(SoundRecorderWindow, OpensReadyToRecordAndDoesNotListenYet) {
+    Open([&] {
+        EXPECT_EQ(mWindow->windowTitle(), "Slide Sound Recorder");
+        EXPECT_EQ(On(), "Record");
+        EXPECT_EQ(Mode(), "");
+        EXPECT_EQ(Focus(), "cmdRecord");
+        EXPECT_EQ(Status(), "Press Record and speak.");
+        EXPECT_EQ(Time(), "0:00 of 0:20");
+        EXPECT_EQ(Timer1().interval(), 100);
+        EXPECT_FALSE(Timer1().isActive());
+        EXPECT_FALSE(Told("record"));
+    });
+    EXPECT_FALSE(mWindow->SoundRecorded());
+}
+
+TEST_F(SoundRecorderWindow, ItsControlsSayWhatTheyDo) {
+    Open([&] {
+        const char* const Texts[][3] = {{"cmdRecord", "Record", "Start Recording"},
+                                        {"cmdStop", "Stop", "Stop Recording/Playing"},
+                                        {"cmdPlay", "Play", "Play the recorded sound"},
+                                        {"cmdSave", "Save", "Save the current recording"}};
+        for (const auto& [Name, Caption, Tip] : Texts) {
+            EXPECT_EQ(Button(Name).text().remove(u'&'), Caption);
+            EXPECT_EQ(Button(Name).accessibleName(), Caption);
+            EXPECT_EQ(Button(Name).toolTip(), Tip);
+        }
+        const QSlider& Volume = In<QSlider>("sdrVolume");
+        EXPECT_EQ(Volume.toolTip(), "Volume to record at");
+        EXPECT_EQ(Volume.minimum(), 1);
+        EXPECT_EQ(Volume.maximum(), 100);
+        EXPECT_EQ(Volume.value(), 50);
+    });
+}
+
+TEST_F(SoundRecorderWindow, EachCommandSwitchesTheButtons) {
+    Open([&] {
+        Press("cmdRecord");
+        EXPECT_EQ(Mode(), "Recording");
+        EXPECT_EQ(On(), "Stop");
+        EXPECT_FALSE(Timer1().isActive());
+        mSound.Buffer->Feed(Speech(22050));
+        Press("cmdStop");
+        EXPECT_EQ(Mode(), "");
+        EXPECT_EQ(On(), "Record Play Save");
+        EXPECT_EQ(mSound.Told.back(), "stop recording");
+        Press("cmdPlay");
+        EXPECT_EQ(Mode(), "Playing");
+        EXPECT_EQ(On(), "Stop");
+        EXPECT_TRUE(Timer1().isActive());
+        EXPECT_EQ(mSound.Told.back(), "play");
+        Press("cmdStop");
+        EXPECT_EQ(Mode(), "");
+        EXPECT_EQ(On(), "Record Play Save");
+        EXPECT_EQ(mSound.Told.back(), "stop playing");
+        EXPECT_TRUE(Timer1().isActive()) << "only the end of a playback stops it";
+        Press("cmdRecord");
+        EXPECT_EQ(On(), "Stop");
+    });
+}
+
+TEST_F(SoundRecorderWindow, SavesTheRecordingAndCloses) {
+    Open([&] {
+        Record(Speech(300));
+        Press("cmdSave");
+        EXPECT_FALSE(mWindow->IsLoaded());
+    });
+    EXPECT_TRUE(mWindow->SoundRecorded());
+    EXPECT_EQ(ReadFile(SavePath()).mid(44), Speech(300) + '\x80' + '\0');
+    EXPECT_TRUE(Told("microphone released"));
+}
+
+TEST_F(SoundRecorderWindow, ClosingInAnyOtherWayWritesNothing) {
+    for (const bool ByEscape : {true, false}) {
+        Open([&] {
+            Record(Speech(300));
+            if (ByEscape)
+                Key(Qt::Key_Escape);
+            else
+                mWindow->close();
+            EXPECT_FALSE(mWindow->IsLoaded());
+        });
+        EXPECT_FALSE(mWindow->SoundRecorded());
+        EXPECT_FALSE(NameExists(SavePath()));
+    }
+}
+
+TEST_F(SoundRecorderWindow, ClosingWhileItRecordsStopsTheMicrophoneAndWritesNothing) {
+    Open([&] {
+        Press("cmdRecord");
+        mSound.Buffer->Feed(Speech(300));
+        Key(Qt::Key_Escape);
+        EXPECT_FALSE(mWindow->IsLoaded());
+        EXPECT_TRUE(Told("stop recording"));
+        EXPECT_EQ(mSound.Buffer, nullptr);
+    });
+    EXPECT_FALSE(mWindow->SoundRecorded());
+    EXPECT_FALSE(NameExists(SavePath()));
+}
+
+TEST_F(SoundRecorderWindow, ClosingWhileItPlaysStopsTheSound) {
+    Open([&] {
+        Record(Speech(300));
+        Press("cmdPlay");
+        mWindow->close();
+        EXPECT_TRUE(Told("stop playing"));
+        EXPECT_EQ(mSound.Player, nullptr);
+    });
+}
+
+TEST_F(SoundRecorderWindow, TellsWhyThereIsNoRecordingAndDoesNotStayOpen) {
+    mSound.HasMicrophone = false;
+    mBoxes.Expect("Unable to initialize sound card for capture.", {}, BoxIcon::Plain,
+                  BoxAnswer::Ok);
+    Open([&] { ADD_FAILURE() << "the window stands there"; });
+    mSound.HasMicrophone = true;
+    mSound.Caps = 0;
+    mBoxes.Expect("Recording is not supported by your sound card.", {}, BoxIcon::Plain,
+                  BoxAnswer::Ok);
+    Open([&] { ADD_FAILURE() << "the window stands there"; });
+    TheServices().Sound = nullptr;
+    mBoxes.Expect("Unable to initialize DirectX 8.", {}, BoxIcon::Plain, BoxAnswer::Ok);
+    Open([&] { ADD_FAILURE() << "the window stands there"; });
+    EXPECT_FALSE(mWindow->SoundRecorded());
+}
+
+TEST_F(SoundRecorderWindow, TheEndOfThePlaybackReturnsTheButtonsWithin100Ms) {
+    Open([&] {
+        Record(Speech(22050));
+        Press("cmdPlay");
+        mSound.Player->PutOn(0.5);
+        QTest::qWait(150);
+        EXPECT_EQ(On(), "Stop") << "while it still plays";
+        mSound.Player->PutOn(0.6);
+        int Ticks = 0;
+        QObject::connect(&Timer1(), &QTimer::timeout, mWindow.get(), [&] { ++Ticks; });
+        EXPECT_TRUE(QTest::qWaitFor([&] { return On() != "Stop"; }));
+        EXPECT_EQ(Ticks, 1);
+        EXPECT_EQ(Timer1().interval(), 100);
+        EXPECT_EQ(On(), "Record Play Save");
+        EXPECT_EQ(Mode(), "");
+        EXPECT_FALSE(Timer1().isActive());
+        EXPECT_EQ(Focus(), "cmdPlay");
+        Press("cmdPlay");
+        EXPECT_TRUE(Timer1().isActive());
+        EXPECT_EQ(mSound.Player->GetCurrentPosition(), 0);
+    });
+}
+
+TEST_F(SoundRecorderWindow, ShowsTheTimeAndTheLevelWhileItRecordsAndPlays) {
+    Open([&] {
+        const LevelMeter& Meter = In<LevelMeter>("lvlSound");
+        Press("cmdRecord");
+        EXPECT_EQ(Status(), "Recording");
+        EXPECT_EQ(Time(), "0:00 of 0:20");
+        EXPECT_EQ(Meter.Shown(), 0);
+        mSound.Buffer->Feed(QByteArray(7 * 22050 + 1000, '\xC0'));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return Time() == "0:07 of 0:20"; }));
+        EXPECT_EQ(Status(), "Recording");
+        EXPECT_GT(Meter.Shown(), 0.8);
+        Press("cmdStop");
+        EXPECT_EQ(Status(), "Recorded");
+        EXPECT_EQ(Time(), "0:07");
+        EXPECT_EQ(Meter.Shown(), 0);
+        Press("cmdPlay");
+        EXPECT_EQ(Time(), "0:00 of 0:07");
+        mSound.Player->PutOn(3.5);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return Time() == "0:03 of 0:07"; }));
+        EXPECT_EQ(Status(), "Playing");
+        EXPECT_GT(Meter.Shown(), 0.8);
+    });
+}
+
+TEST_F(SoundRecorderWindow, ARecordingOfMoreThan20SecondsGoesOnShowingItUntilStop) {
+    Open([&] {
+        Press("cmdRecord");
+        mSound.Buffer->Feed(Speech(30 * 22050));
+        EXPECT_TRUE(
+            QTest::qWaitFor([&] { return Status() == "Recording: the 20 seconds are full."; }));
+        EXPECT_EQ(Time(), "0:20 of 0:20");
+        EXPECT_EQ(Mode(), "Recording");
+        EXPECT_EQ(On(), "Stop");
+        EXPECT_TRUE(QTest::qWaitFor([&] { return In<LevelMeter>("lvlSound").Shown() == 0; }))
+            << "nothing is listened to any more";
+        Press("cmdStop");
+        Press("cmdSave");
+    });
+    EXPECT_EQ(ReadFile(SavePath()).mid(44), Speech(20 * 22050) + '\x80' + '\0');
+}
+
+TEST_F(SoundRecorderWindow, SavingARecordingOfNothingWritesNoFileAndClosesAllTheSame) {
+    Open([&] {
+        Record({});
+        EXPECT_EQ(Status(), "Nothing was recorded.");
+        Press("cmdPlay");
+        EXPECT_EQ(Status(), "You Must First Record a Sound.");
+        EXPECT_EQ(On(), "Stop");
+        Press("cmdStop");
+        EXPECT_EQ(On(), "Record Play Save");
+        Press("cmdSave");
+        EXPECT_FALSE(mWindow->IsLoaded());
+    });
+    EXPECT_TRUE(mWindow->SoundRecorded());
+    EXPECT_FALSE(NameExists(SavePath()));
+}
+
+TEST_F(SoundRecorderWindow, AFullDiskIsToldAndLeavesWindowAndRecording) {
+    Open([&] {
+        Record(Speech(300));
+        SetHostWatcher([](HostStep, const QString&, qint64& Length) { Length = 0; });
+        mBoxes.Expect("The file cannot be written. (no space left on device)\n" + SavePath() +
+                      ".new");
+        Press("cmdSave");
+        EXPECT_TRUE(mWindow->IsLoaded());
+        EXPECT_FALSE(mWindow->SoundRecorded());
+        EXPECT_EQ(On(), "Record Play Save");
+        EXPECT_TRUE(ListDir(mFolder.Path()).empty());
+        SetHostWatcher({});
+        Press("cmdSave");
+    });
+    EXPECT_TRUE(mWindow->SoundRecorded());
+    EXPECT_EQ(ReadFile(SavePath()).mid(44), Speech(300) + '\x80' + '\0');
+}
+
+TEST_F(SoundRecorderWindow, AnOutputInUseIsToldInTheWindowAndSavingWorks) {
+    mSound.Playback = PlaybackState::Allocated;
+    const char* const HalfDuplex =
+        "This card does not support full duplex.  You may still record sound.";
+    Open([&] {
+        EXPECT_EQ(Status(), HalfDuplex);
+        EXPECT_EQ(On(), "Record");
+        Record(Speech(300));
+        EXPECT_EQ(Status(), "Recorded");
+        Press("cmdPlay");
+        EXPECT_EQ(Status(), HalfDuplex);
+        QTest::qWait(150);
+        EXPECT_EQ(On(), "Stop");
+        EXPECT_EQ(Status(), HalfDuplex);
+        Press("cmdStop");
+        Press("cmdSave");
+    });
+    EXPECT_EQ(ReadFile(SavePath()).size(), 44 + 302);
+}
+
+TEST_F(SoundRecorderWindow, AMicrophonePulledOutBetweenTwoRecordingsIsTold) {
+    Open([&] {
+        Record(Speech(22050));
+        mSound.Unplugged = true;
+        Press("cmdRecord");
+        EXPECT_EQ(Status(), "Unable to initialize sound card for capture.");
+        EXPECT_EQ(On(), "Stop");
+        Press("cmdStop");
+        EXPECT_EQ(Time(), "0:01");
+        Press("cmdSave");
+    });
+    EXPECT_EQ(ReadFile(SavePath()).mid(44), Speech(22050) + '\x80' + '\0');
+}
+
+TEST_F(SoundRecorderWindow, TheVolumeIsKeptAndChangesNothing) {
+    Open([&] {
+        In<QSlider>("sdrVolume").setValue(1);
+        In<QSlider>("sdrVolume").setValue(100);
+        Record(Speech(300));
+        Press("cmdSave");
+    });
+    EXPECT_EQ(ReadFile(SavePath()).mid(44), Speech(300) + '\x80' + '\0');
+}
+
+TEST_F(SoundRecorderWindow, AMicrophoneThatDoesNotBeginIsTold) {
+    Open([&] {
+        Press("cmdRecord");
+        EXPECT_TRUE(QTest::qWaitFor([&] { return Status() == "Waiting for the microphone"; }));
+        mSound.Buffer->Feed(Speech(500));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return Status() == "Recording"; }));
+    });
+}
+
+TEST_F(SoundRecorderWindow, AMicrophoneThatFallsSilentInARecordingIsToldAndLeavesWhatItHeard) {
+    Open([&] {
+        Press("cmdRecord");
+        mSound.Buffer->Feed(QByteArray(22050, '\xC0'));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return In<LevelMeter>("lvlSound").Shown() > 0.5; }));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return In<LevelMeter>("lvlSound").Shown() == 0; }));
+        EXPECT_EQ(Status(), "Recording") << "a moment's silence is nothing";
+        EXPECT_TRUE(QTest::qWaitFor([&] { return Status() == "Waiting for the microphone"; }));
+        Press("cmdStop");
+        EXPECT_EQ(Time(), "0:01");
+        Press("cmdSave");
+    });
+    EXPECT_EQ(ReadFile(SavePath()).size(), 44 + 22050 + 2);
+}
+
+// With the sound library's microphone, which hears a plain file.
+TEST_F(SoundRecorderWindow, RecordsFromARealMicrophoneWhatTheUserSays) {
+    QByteArray Spoken;
+    for (int I = 0; I < 22050; ++I) Spoken.append(static_cast<char>(I * I >> 3));
+    WriteFile(mFolder / "in.raw", Spoken);
+    qputenv("SDL_AUDIODRIVER", "disk");
+    qputenv("SDL_DISKAUDIOFILEIN", (mFolder / "in.raw").toUtf8());
+    mSound.Microphone = &OpenSdlCapture;
+    Open([&] {
+        Press("cmdRecord");
+        EXPECT_TRUE(QTest::qWaitFor([&] { return In<LevelMeter>("lvlSound").Shown() > 0.5; }));
+        EXPECT_EQ(Status(), "Recording");
+        Press("cmdStop");
+        Press("cmdSave");
+    });
+    for (const char* Name : {"SDL_AUDIODRIVER", "SDL_DISKAUDIOFILEIN"}) qunsetenv(Name);
+    const QByteArray File = ReadFile(SavePath());
+    ASSERT_GT(File.size(), 400);
+    const auto Bytes = static_cast<qsizetype>(qFromLittleEndian<quint32>(File.constData() + 40));
+    EXPECT_EQ(File.mid(44, Bytes), Spoken.left(Bytes - 1) + '\x80');
+}
+
+}  // namespace
+}  // namespace neb::test
