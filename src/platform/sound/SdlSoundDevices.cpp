@@ -1,6 +1,7 @@
 #include "platform/sound/SdlSoundDevices.h"
 
 #include "platform/sound/PcmDecoder.h"
+#include "platform/sound/SdlCapture.h"
 #include "platform/sound/SdlOutput.h"
 #include "platform/sound/SoundPlayers.h"
 #include "platform/sound/SoundShelf.h"
@@ -43,7 +44,7 @@ void SdlSoundDevices::LoadAhead(const QString& Path) {
 }
 
 std::unique_ptr<CaptureDevice> SdlSoundDevices::CreateCapture() {
-    return nullptr;
+    return OpenSdlCapture();
 }
 
 PlaybackState SdlSoundDevices::CheckPlayback() {
