@@ -111,6 +111,24 @@ void CheckCaption(Notebook& Book, const RehearsalCue& Cue) {
     Book.OfSlide(Cue.SlideSeq, Text + QStringLiteral(": \"%1\"").arg(Shortened(Cue.Caption)));
 }
 
+// Slides of fitted tracks are told of one by one, with their track; all others have one time.
+void CheckTransitions(Notebook& Book) {
+    const RehearsalCue* First = nullptr;
+    int Count = 0;
+    for (const RehearsalCue& Cue : Book.Show.Log.Cues) {
+        if (Cue.FitToSong || Cue.EffectSeconds <= Cue.SlideInterval) continue;
+        if (!First) First = &Cue;
+        ++Count;
+    }
+    if (!First || Book.IsManual) return;
+    Book.OfSlide(
+        First->SlideSeq,
+        QStringLiteral("it stays up for %1, but its transition takes %2; %3 in all have "
+                       "too little time")
+            .arg(SecondsText(First->SlideInterval), SecondsText(First->EffectSeconds),
+                 Count == 1 ? QStringLiteral("1 slide") : QStringLiteral("%1 slides").arg(Count)));
+}
+
 void CheckBoxes(Notebook& Book) {
     for (const RehearsalBox& Box : Book.Show.Log.Boxes) {
         if (Book.IsExplained(Box)) continue;
@@ -138,6 +156,7 @@ RehearsalFindings FindProblems(const RehearsedShow& Show) {
     for (const auto& Detail : Book.SlideShow.Details)
         if (Book.Details.value(Detail->SlideSeq) == Detail.get()) CheckDetail(Book, *Detail);
     for (const RehearsalCue& Cue : Show.Log.Cues) CheckCaption(Book, Cue);
+    CheckTransitions(Book);
     CheckTracks(Book);
     CheckBoxes(Book);
     return Book.Taken();

@@ -243,6 +243,17 @@ TEST_F(RehearsalFindingsTest, FittedSlidesWithTooLittleTime) {
         Found());
 }
 
+TEST_F(RehearsalFindingsTest, SlidesThatGoBeforeTheirTransitionIsOver) {
+    AddSlides(3);
+    for (const char* Step : {"StepL", "StepM", "StepH"}) Put(Step, u"1"_s);
+    EXPECT_EQ(
+        "slide 1: it stays up for 5.0 s, but its transition takes 10.0 s; 3 slides in all have too "
+        "little time\n",
+        Found());
+    Put("Timeout", u"10"_s);
+    EXPECT_EQ("", Found());
+}
+
 TEST_F(RehearsalFindingsTest, ShowsThatTakeForever) {
     AddSlides(1);
     Put("Timeout", u"100000"_s);

@@ -133,6 +133,21 @@ TEST_F(RehearsalRig, TicksInTheOrderOfStarting) {
     EXPECT_EQ(1, Of.Cues()[1].Sound.Loops);
 }
 
+TEST(BeginsLikePicture, KnowsEveryKindOfPictureByItsHead) {
+    int Pictures = 0;
+    for (const QString& Folder : {harness::DataFile("pictures/"), harness::DataFile("")})
+        for (const DirEntry& Entry : ListDir(Folder)) {
+            static const QStringList Kinds =
+                QStringLiteral("bmp emf jpg pcd pcx png psd tga tif wbmp wmf").split(u' ');
+            if (Entry.IsFolder || !Kinds.contains(GetFileExt(Entry.Name).mid(1))) continue;
+            EXPECT_TRUE(BeginsLikePicture(Folder + Entry.Name)) << Entry.Name.toStdString();
+            ++Pictures;
+        }
+    EXPECT_GT(Pictures, 40);
+    EXPECT_FALSE(BeginsLikePicture(harness::DataFile("none.jpg")));
+    EXPECT_FALSE(BeginsLikePicture(QStringLiteral(NEB_SOURCE_DIR "/README.md")));
+}
+
 TEST_F(RehearsalRig, LeavesEverythingAsItWas) {
     AddSlides(2);
     clsDBEngine Other;
