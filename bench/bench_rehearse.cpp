@@ -1,5 +1,6 @@
 // A show of 5,000 slides with sound tracks is rehearsed and judged, as nebctl rehearse does,
-// against the plain reading of its database. Prints milliseconds and the ratio.
+// against the plain reading of its database; and how exactly the slides of an hour's fitted show
+// come up, in ticks of the slide clock. Prints milliseconds and ratios.
 #include <QGuiApplication>
 #include <QTemporaryDir>
 #include <chrono>
@@ -18,6 +19,8 @@ namespace {
 constexpr int Slides = 5000;
 constexpr int SlidesOfTrack = 50;
 constexpr int Runs = 3;
+constexpr int FittedSlides = 251;  // to an hour: 14.34 s each
+constexpr double Hour = 3600, Tick = 0.1;
 
 double Milliseconds() {
     using namespace std::chrono;
@@ -50,6 +53,11 @@ void MakeShow(const QString& Dir) {
         Show.SaveSoundTrack(I + 1, Name, I * SlidesOfTrack + 1, (I + 1) * SlidesOfTrack, true,
                             I % 2 == 0, false);
     }
+    std::int32_t FittedID = 0;
+    Album.SaveSlideShow(FittedID, QStringLiteral("Fitted"), 0, Engine);
+    clsNEBSlideShow& Fitted = *Album.GetSlideShow(FittedID);
+    for (int I = 1; I <= FittedSlides; ++I) Fitted.SaveDetail(I, I, {});
+    Fitted.SaveSoundTrack(1, QStringLiteral("0.wav"), 1, FittedSlides, false, true, false);
     Engine.FinalizeDB();
 }
 
@@ -61,6 +69,23 @@ size_t Rehearse(clsDBEngine& Engine) {
     const RehearsalEnd End = Of.RunWhole();
     if (Of.Cues().size() != Slides) std::puts("the show was not rehearsed as a whole");
     return FindProblems({Engine, 1, 1, Of.Log(), End, {1920, 1080}, Options}).Problems.size();
+}
+
+void PrintFit(clsDBEngine& Engine) {
+    RehearsalOptions Options;
+    Options.LengthOfSound = [](const QString&) { return Hour; };
+    Rehearsal Of(Engine, 1, 2, Options);
+    Of.RunWhole();
+    double Latest = 0, Earliest = 0, Last = 0;
+    for (const RehearsalCue& Cue : Of.Cues()) {
+        Last = Cue.At - Hour * (Cue.SlideSeq - 1) / FittedSlides;
+        Latest = std::max(Latest, Last);
+        Earliest = std::min(Earliest, Last);
+    }
+    std::printf("An hour of music fitted to %zu slides\n", Of.Cues().size());
+    std::printf(
+        "  slides come up       %7.2f to %.2f ticks after their time (limit 1), the last %.2f\n",
+        Earliest / Tick, Latest / Tick, Last / Tick);
 }
 
 }  // namespace
@@ -88,5 +113,9 @@ int main(int argc, char** argv) {
     std::printf("  reading the database %7.1f ms\n", Reading);
     std::printf("  rehearsing the show  %7.1f ms   %.0f x the reading (limit 1000 ms)\n",
                 Rehearsing, Rehearsing / Reading);
+    clsDBEngine Engine;
+    Engine.SetDBPath(Dir.path());
+    Engine.InitializeDB(Recovery::InMemory);
+    PrintFit(Engine);
     return 0;
 }
