@@ -66,7 +66,8 @@ class clsDirectSound {
     std::unique_ptr<SoundGraph> mGraph;  // empty when no file is loaded
 
     class Recorder;
-    std::unique_ptr<Recorder> mRecorder;
+    Recorder& TheRecorder();
+    std::shared_ptr<Recorder> mRecorder;  // empty until a microphone is asked for
 };
 
 }  // namespace neb

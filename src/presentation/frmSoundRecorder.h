@@ -1,0 +1,60 @@
+// The dialog in which a user speaks a clip for a slide. The caller gives the path of the WAV file,
+// shows the window modally and asks afterwards whether anything was saved.
+#pragma once
+
+#include "support/windows/Form.h"
+
+class QPushButton;
+
+namespace neb {
+
+class clsDirectSound;
+
+namespace Ui {
+class frmSoundRecorder;
+}
+
+class frmSoundRecorder : public Form {
+    Q_OBJECT
+
+  public:
+    frmSoundRecorder();
+    ~frmSoundRecorder() override;
+
+    void SetSoundSavePath(const QString& Path) { mSoundSavePath = Path; }
+    // True once the user has pressed Save and the file could be written.
+    bool SoundRecorded() const { return mSoundRecorded; }
+    const QString& RecorderMode() const { return mRecorderMode; }  // "Recording", "Playing" or ""
+
+  protected:
+    void Form_Load() override;
+    bool Form_Unload() override;
+    void changeEvent(QEvent* Event) override;
+
+  private:
+    struct Command;
+    static const Command Record, Play, StopRecording, StopPlaying;
+
+    void Run(const Command& Chosen);
+    void Stop();
+    void Save();
+    void Tick();
+    void LoadIcons();
+    void Enable(const Command& Chosen);
+    QPushButton* FocusOf(const Command& Chosen) const;
+    void ShowProgress();
+    QString StatusText() const;
+    QString TimeText() const;
+
+    std::unique_ptr<Ui::frmSoundRecorder> mUi;
+    std::unique_ptr<clsDirectSound> mSound;
+    QTimer* Timer1;
+    QTimer* tmrMeter;
+    QString mSoundSavePath;
+    QString mRecorderMode;
+    QString mRefusal;             // of the last command
+    double mRecordedSeconds = 0;  // of the last recording
+    bool mSoundRecorded = false;
+};
+
+}  // namespace neb
