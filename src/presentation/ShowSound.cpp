@@ -1,5 +1,7 @@
 #include "presentation/ShowSound.h"
 
+#include "presentation/EngineSound.h"
+
 namespace neb {
 
 bool SilentShowSound::SoundStep(const SlideSound&, ShowSoundFields& Fields) {
@@ -8,7 +10,7 @@ bool SilentShowSound::SoundStep(const SlideSound&, ShowSoundFields& Fields) {
 }
 
 ShowSoundMaker& TheShowSoundMaker() {
-    static ShowSoundMaker Maker = [] { return std::make_unique<SilentShowSound>(); };
+    static ShowSoundMaker Maker = [] { return std::make_unique<EngineSound>(); };
     return Maker;
 }
 

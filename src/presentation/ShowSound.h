@@ -50,6 +50,11 @@ class ShowSound {
     // Moves a fitted track to a place, counted from 1, of Interval seconds each.
     virtual void SyncSoundToSlide(std::int32_t Place, double Interval, bool Force,
                                   ShowSoundFields& Fields) = 0;
+    // Opens the sound of the slide that comes next in the background.
+    virtual void LoadAhead(const SlideSound&) {}
+    // The end of the show: stops and unloads. Nothing sounds afterwards, not even out of a step
+    // that stands in a box meanwhile; every later call does nothing.
+    virtual void Release() {}
 };
 
 // A show without sound: no file is ever loaded.
@@ -64,7 +69,8 @@ class SilentShowSound : public ShowSound {
     void SyncSoundToSlide(std::int32_t, double, bool, ShowSoundFields&) override {}
 };
 
-// How each run of a show comes by its sound; silent unless somebody puts another maker here.
+// How each run of a show comes by its sound; an EngineSound unless another maker is
+// put here.
 using ShowSoundMaker = std::function<std::unique_ptr<ShowSound>()>;
 ShowSoundMaker& TheShowSoundMaker();
 

@@ -6,11 +6,10 @@
 #include <functional>
 #include <vector>
 
+#include "db/clsNEBSlideShowSoundTrack.h"
 #include "presentation/ShowSound.h"
 
 namespace neb {
-
-class clsNEBSlideShowSoundTrack;
 
 // The player, at the moment of asking.
 struct PlayerState {
@@ -31,29 +30,42 @@ struct SoundAction {
 };
 using SoundActions = std::vector<SoundAction>;
 
-// What is left to do once the actions of the first half have been carried out.
-enum class SoundSequel { None, Clip, OverridingClip, NewTrack, SameTrack };
+// How a step goes on once the actions of a stage have been carried out; None: it is over.
+enum class SoundSequel {
+    None,
+    MissingOverridingClip,
+    OverridingClip,
+    MissingTrack,
+    NewTrack,    // loaded
+    StartTrack,  // loaded and measured
+    SameTrack,
+    MissingClip,
+    Clip,
+    Silence,
+};
 
-struct SoundOpening {
+// A part of a step in which nothing is asked of the player: a box lets other steps run, so what
+// comes after one looks at the player anew.
+struct SoundStage {
     SoundActions Actions;
     SoundSequel Sequel = SoundSequel::None;
-    QString Path;                                      // of the clip or the track
-    const clsNEBSlideShowSoundTrack* Track = nullptr;  // that covers the slide, where it counts
-    bool WatchRepeat = false;                          // CheckRepeat is wanted afterwards
+    QString Path;                     // of the clip or the track
+    clsNEBSlideShowSoundTrack Track;  // that covers the slide, where it counts
+    bool WatchRepeat = false;         // CheckRepeat is wanted after the step
 };
 
 using FileTest = std::function<bool(const QString& Path)>;
 
-// The first half of the step: chooses clip or track, tells of a missing file, loads. DBPath ends in
-// a separator. Sets FitToSong, FadeOnLast and TrackEndsHere of Fields.
-SoundOpening OpenSoundStep(const SlideSound& Slide, const QString& DBPath,
-                           const PlayerState& Before, const FileTest& Exists,
-                           ShowSoundFields& Fields);
-// The second half, with the player as the first half has left it: starts, moves, fits. Before is
-// the state that the first half was given.
-SoundActions CloseSoundStep(const SoundOpening& Opening, const SlideSound& Slide,
-                            const PlayerState& Before, const PlayerState& Now,
-                            ShowSoundFields& Fields);
+// The first stage of a step: chooses clip or track, tells of a missing file, loads. DBPath ends in
+// a separator. Sets FitToSong, FadeOnLast and TrackEndsHere of Fields where a track covers the
+// slide; they are false before a step.
+SoundStage OpenSoundStep(const SlideSound& Slide, const QString& DBPath, const PlayerState& Before,
+                         const FileTest& Exists, ShowSoundFields& Fields);
+// The stage that follows, with the player as the actions of Stage have left it: starts, moves,
+// fits, saves. Before is the state that OpenSoundStep was given. Called until there is no Sequel.
+SoundStage NextSoundStage(const SoundStage& Stage, const SlideSound& Slide,
+                          const PlayerState& Before, const PlayerState& Now,
+                          ShowSoundFields& Fields);
 
 // Moves a fitted track to a place, counted from 1, of Interval seconds each; without Force only
 // when it is more than a twentieth off.
