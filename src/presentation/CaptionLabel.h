@@ -21,10 +21,6 @@ class CaptionLabel : public QLabel {
 
   protected:
     void paintEvent(QPaintEvent* Event) override;
-
-  private:
-    int HeightAt(double Points, int Width) const;
-    QFont FontAt(double Points) const;
 };
 
 }  // namespace neb

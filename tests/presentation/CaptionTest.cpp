@@ -2,6 +2,7 @@
 
 #include <QImage>
 
+#include "presentation/CaptionFit.h"
 #include "presentation/CaptionLabel.h"
 #include "presentation/CaptionText.h"
 
@@ -111,6 +112,31 @@ TEST(Caption, ShrinksWhenItWouldTakeMoreThanAThirdOfTheScreen) {
     Label.setText(QStringLiteral("few"));
     Label.FitTo(640, 480, 160);
     EXPECT_EQ(12, Label.font().pointSizeF());
+}
+
+// The rehearsal reads the same figures as the label has them.
+TEST(Caption, IsSetAsTheLabelSetsIt) {
+    const CaptionSpace Space{640, 480, 160};
+    for (const int Words : {0, 1, 20, 200, 5000}) {
+        CaptionLabel Label;
+        Label.setText(QStringLiteral("many words ").repeated(Words));
+        const int Height = Label.FitTo(Space.Width, Space.ScreenHeight, Space.MostHeight);
+        const CaptionSetting Setting = FitCaption(Label.ShownText(), Space);
+        EXPECT_EQ(Height, Setting.Height) << Words;
+        EXPECT_EQ(Label.font().pointSizeF(), Setting.Points) << Words;
+    }
+}
+
+TEST(Caption, CountsTheLinesAtTheStandardType) {
+    const CaptionSpace Space{640, 480, 160};
+    EXPECT_EQ(1, StandardCaption({}, Space).Lines);
+    EXPECT_EQ(1, StandardCaption(QStringLiteral("A day at the lake"), Space).Lines);
+    const CaptionSetting Two = StandardCaption(QStringLiteral("many words ").repeated(8), Space);
+    EXPECT_EQ(2, Two.Lines);
+    EXPECT_EQ(12, Two.Points);
+    const QString Long = QStringLiteral("many words ").repeated(200);
+    EXPECT_GT(StandardCaption(Long, Space).Height, 160);
+    EXPECT_LT(FitCaption(Long, Space).Points, 12);
 }
 
 TEST(Caption, KeepsOneLineWhenItIsEmpty) {

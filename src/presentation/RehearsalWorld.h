@@ -1,0 +1,34 @@
+// What a rehearsal puts in the place of the program's own clock, boxes, sound and database for as
+// long as it lives. Used by Rehearsal alone.
+#pragma once
+
+#include <functional>
+
+#include "presentation/ShowSound.h"
+#include "support/Services.h"
+
+namespace neb {
+
+class clsDBEngine;
+
+class RehearsalWorld {
+  public:
+    // Makes the sound of the run out of the one that the program would have made.
+    using SoundWrapper = std::function<std::unique_ptr<ShowSound>(std::unique_ptr<ShowSound>)>;
+
+    RehearsalWorld(clsDBEngine& Engine, Clock& Time, MessageBoxes& Boxes, SoundWrapper Wrap);
+    ~RehearsalWorld();
+    RehearsalWorld(const RehearsalWorld&) = delete;
+    RehearsalWorld& operator=(const RehearsalWorld&) = delete;
+
+  private:
+    Services mServices;
+    ShowSoundMaker mMaker;
+    clsDBEngine* mEngine;
+    bool mReadOnly;
+    QString mDBPath;
+    std::int32_t mSlideSeq, mSlideShowID;
+    double mTimeout;
+};
+
+}  // namespace neb

@@ -1,0 +1,101 @@
+// The run of a show on a rehearsal's clock: which slides come up when, and where it ends.
+#include "RehearsalRig.h"
+#include "presentation/modSlideShows.h"
+
+namespace neb::test {
+namespace {
+
+// "1@0 2@5": the places and the times at which they came up.
+std::string Places(const Rehearsal& Of) {
+    QStringList Words;
+    for (const RehearsalCue& Cue : Of.Cues()) Words << u"%1@%2"_s.arg(Cue.SlideSeq).arg(Cue.At);
+    return Words.join(u' ').toStdString();
+}
+
+TEST_F(RehearsalRig, GivesEachSlideItsTime) {
+    AddSlides(3);
+    Rehearsal Of(Engine, Album, Show);
+    Of.Start();
+    Of.RunFor(12);
+    EXPECT_EQ("1@0 2@5 3@10", Places(Of));
+    EXPECT_EQ(12, Of.Now());
+    EXPECT_EQ(5, Of.Cues()[1].Seconds);
+    EXPECT_EQ(2, Of.Cues()[2].Seconds);
+    EXPECT_EQ("Slide 2", Of.Cues()[1].Caption.toStdString());
+    EXPECT_EQ(PicturePath(2).toStdString(), Of.Cues()[1].Picture.toStdString());
+    Of.RunFor(10);
+    EXPECT_EQ("1@0 2@5 3@10 1@15 2@20", Places(Of));
+}
+
+TEST_F(RehearsalRig, EndsWhenTheShowComesRound) {
+    AddSlides(3);
+    Rehearsal Of(Engine, Album, Show);
+    EXPECT_EQ(RehearsalEnd::CameRound, Of.RunWhole());
+    EXPECT_EQ("1@0 2@5 3@10", Places(Of));
+    EXPECT_EQ(15, Of.Now());
+}
+
+TEST_F(RehearsalRig, AsksForTheNextSlideOfAManualShow) {
+    AddSlides(3);
+    SlideShow->ProgressionMethod = 1;
+    Rehearsal Of(Engine, Album, Show);
+    EXPECT_EQ(RehearsalEnd::CameRound, Of.RunWhole());
+    EXPECT_EQ("1@0 2@5 3@10", Places(Of));
+    EXPECT_EQ(15, Of.Now());
+}
+
+TEST_F(RehearsalRig, WaitsForTheUserInAManualShowOtherwise) {
+    AddSlides(3);
+    SlideShow->ProgressionMethod = 1;
+    Rehearsal Of(Engine, Album, Show);
+    Of.Start();
+    Of.RunFor(100);
+    Of.Run().PreviousSlide();
+    Of.RunFor(1);
+    Of.Run().NextSlide();
+    EXPECT_EQ("1@0 3@100 1@101", Places(Of));
+}
+
+TEST_F(RehearsalRig, LeavesEverythingAsItWas) {
+    AddSlides(2);
+    clsDBEngine Other;
+    DBEngine = &Other;
+    CurrentSlideSeq = 7;
+    SlideTimeout = 3;
+    Clock* const Time = TheServices().Time;
+    {
+        Rehearsal Of(Engine, Album, Show);
+        EXPECT_NE(Time, TheServices().Time);
+        Of.RunWhole();
+    }
+    EXPECT_EQ(&Other, DBEngine);
+    EXPECT_EQ(7, CurrentSlideSeq);
+    EXPECT_EQ(3, SlideTimeout);
+    EXPECT_FALSE(ReadOnlyDB);
+    EXPECT_EQ(Time, TheServices().Time);
+    EXPECT_EQ(nullptr, TheServices().Boxes);
+    DBEngine = nullptr;
+}
+
+TEST_F(RehearsalRig, WritesBoxesDownAndEndsWhereTheShowStops) {
+    AddSlides(3);
+    SlideShow->Details[1]->SlideID = 99;
+    Rehearsal Of(Engine, Album, Show);
+    EXPECT_EQ(RehearsalEnd::Stopped, Of.RunWhole());
+    EXPECT_EQ("1@0", Places(Of));
+    const std::vector<RehearsalBox> Wanted = {
+        {5, 2, u"Slide #2 of the current slide show does not exist!"_s}};
+    EXPECT_EQ(Wanted, Of.Boxes());
+}
+
+TEST_F(RehearsalRig, EndsForShowsWithoutAnythingToShow) {
+    EXPECT_EQ(RehearsalEnd::Stopped, Rehearsal(Engine, Album, Show).RunWhole());
+    EXPECT_EQ(RehearsalEnd::Stopped, Rehearsal(Engine, Album, 99).RunWhole());
+    EXPECT_EQ(RehearsalEnd::Stopped, Rehearsal(Engine, 99, Show).RunWhole());
+    AddSlides(2);
+    Put("Timeout", u"1000000"_s);
+    EXPECT_EQ(RehearsalEnd::TooLong, Rehearsal(Engine, Album, Show).RunWhole());
+}
+
+}  // namespace
+}  // namespace neb::test
