@@ -4,8 +4,8 @@
 #include <QCoreApplication>
 #include <QTextStream>
 
-#include "Music.h"
 #include "Samples.h"
+#include "music/Music.h"
 #include "support/Fault.h"
 
 namespace {

@@ -1,5 +1,5 @@
 // The sample music: always the same bytes, at its level, without clicks, out of silence and back.
-#include "demo/Music.h"
+#include "demo/music/Music.h"
 
 #include <gtest/gtest.h>
 
@@ -8,8 +8,8 @@
 #include <cmath>
 #include <map>
 
-#include "demo/Room.h"
-#include "demo/Scores.h"
+#include "demo/music/Room.h"
+#include "demo/music/Scores.h"
 #include "harness/TempFolder.h"
 #include "support/modHostFiles.h"
 

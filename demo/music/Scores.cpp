@@ -4,7 +4,7 @@
 #include <array>
 #include <cstdlib>
 
-#include "Noise.h"
+#include "demo/Noise.h"
 
 namespace neb::demo {
 namespace {

@@ -1,9 +1,10 @@
 #include "Room.h"
 
-#include <QtEndian>
 #include <algorithm>
 #include <array>
 #include <cmath>
+
+#include "presentation/WaveFile.h"
 
 namespace neb::demo {
 namespace {
@@ -91,30 +92,20 @@ void FadeSide(std::vector<double>& Side, int Rate, double FadeOut) {
     }
 }
 
-template <class Number>
-void Put(QByteArray& Bytes, Number Value) {
-    const Number Little = qToLittleEndian(Value);
-    Bytes.append(reinterpret_cast<const char*>(&Little), sizeof Little);
+void Put(QByteArray& Samples, double Value) {
+    const auto Whole = static_cast<int>(std::floor(std::clamp(Value, -1.0, 1.0) * 32767 + 0.5));
+    Samples.append(static_cast<char>(Whole & 0xff));
+    Samples.append(static_cast<char>(Whole >> 8));
 }
 
-QByteArray WaveHead(int Rate, int Channels, quint32 DataBytes) {
-    QByteArray Head("RIFF");
-    Put<quint32>(Head, DataBytes + 36);
-    Head += "WAVEfmt ";
-    Put<quint32>(Head, 16);
-    Put<quint16>(Head, 1);
-    Put<quint16>(Head, static_cast<quint16>(Channels));
-    Put<quint32>(Head, static_cast<quint32>(Rate));
-    Put<quint32>(Head, static_cast<quint32>(Rate * Channels * 2));
-    Put<quint16>(Head, static_cast<quint16>(Channels * 2));
-    Put<quint16>(Head, 16);
-    Head += "data";
-    Put<quint32>(Head, DataBytes);
-    return Head;
-}
-
-qint16 AsSample(double Value) {
-    return static_cast<qint16>(std::floor(std::clamp(Value, -1.0, 1.0) * 32767 + 0.5));
+WaveFormat FormatOf(int Rate, int Channels) {
+    WaveFormat Format;
+    Format.BitsPerSample = 16;
+    Format.Channels = static_cast<std::uint16_t>(Channels);
+    Format.BlockAlign = static_cast<std::uint16_t>(Channels * 2);
+    Format.SamplesPerSec = static_cast<std::uint32_t>(Rate);
+    Format.AvgBytesPerSec = Format.SamplesPerSec * Format.BlockAlign;
+    return Format;
 }
 
 }  // namespace
@@ -139,13 +130,13 @@ void Master(Stereo& Sound, double FadeOut) {
 }
 
 QByteArray AsWave(const Stereo& Sound, bool Mono) {
-    QByteArray Data;
-    Data.reserve(static_cast<qsizetype>(Sound.Left.size() * 4));
+    QByteArray Samples;
+    Samples.reserve(static_cast<qsizetype>(Sound.Left.size() * 4));
     for (size_t I = 0; I < Sound.Left.size(); ++I) {
-        Put(Data, AsSample(Sound.Left[I]));
-        if (!Mono) Put(Data, AsSample(Sound.Right[I]));
+        Put(Samples, Sound.Left[I]);
+        if (!Mono) Put(Samples, Sound.Right[I]);
     }
-    return WaveHead(Sound.Rate, Mono ? 1 : 2, static_cast<quint32>(Data.size())) + Data;
+    return WaveFileBytes(FormatOf(Sound.Rate, Mono ? 1 : 2), Samples);
 }
 
 }  // namespace neb::demo
