@@ -29,6 +29,12 @@ constexpr FormatRow Formats[] = {
 
 std::atomic<bool> ExtraFormats = false;
 
+const FormatRow* FindFormat(const ByteView& Bytes) {
+    for (const FormatRow& Row : Formats)
+        if ((!Row.Extra || ExtraFormats) && Row.LooksLike(Bytes)) return &Row;
+    return nullptr;
+}
+
 constexpr qint64 ShareBytes = 1 << 20;
 constexpr int BudgetShares = 820;
 
@@ -54,13 +60,15 @@ void SetExtraFormats(bool On) {
     ExtraFormats = On;
 }
 
+bool LooksLikePicture(const QByteArray& Head) {
+    return FindFormat(Head) != nullptr;
+}
+
 DecodedPicture DecodePicture(const QByteArray& Bytes, const NeededSize& Needed) {
     if (Bytes.isEmpty()) ThrowEndsEarly();
-    const ByteView View(Bytes);
-    for (const FormatRow& Row : Formats)
-        if ((!Row.Extra || ExtraFormats) && Row.LooksLike(View))
-            return Row.Decode({Bytes, Row.Name, Needed});
-    ThrowUnknownPicture();
+    const FormatRow* Row = FindFormat(Bytes);
+    if (!Row) ThrowUnknownPicture();
+    return Row->Decode({Bytes, Row->Name, Needed});
 }
 
 }  // namespace neb

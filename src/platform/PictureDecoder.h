@@ -19,6 +19,10 @@ using NeededSize = std::function<QSize(QSize Full)>;
 // Throws Fault (numbers in PictureFaults.h), without the file's name.
 DecodedPicture DecodePicture(const QByteArray& Bytes, const NeededSize& Needed = {});
 
+// Whether a file that begins with these bytes, four thousand of them or its whole, is taken for a
+// picture.
+bool LooksLikePicture(const QByteArray& Head);
+
 // Files of formats that the program does not list (GIF, WebP, HEIC, AVIF) are pictures, too.
 // Off at start; for the whole program.
 void SetExtraFormats(bool On);

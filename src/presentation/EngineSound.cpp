@@ -1,8 +1,8 @@
 #include "presentation/EngineSound.h"
 
 #include "db/clsDBEngine.h"
+#include "presentation/ShowBox.h"
 #include "shell/modNEBSlideShow.h"
-#include "support/Services.h"
 #include "support/modHostFiles.h"
 
 namespace neb {
@@ -72,8 +72,10 @@ void EngineSound::CarryOut(const SoundActions& Actions) {
 }
 
 void EngineSound::Do(const SoundAction& Action) {
-    static const std::function<void(clsDirectSound&, const SoundAction&)> Doing[] = {
-        [](clsDirectSound&, const SoundAction& This) { MsgBox(This.Text); },
+    using Deed = void (*)(clsDirectSound&, const SoundAction&);
+    // In the order of SoundAction::Kind.
+    static constexpr Deed Deeds[] = {
+        [](clsDirectSound&, const SoundAction& This) { TellOnce(This.Text); },
         [](clsDirectSound& Engine, const SoundAction& This) { Engine.LoadFile(This.Text); },
         [](clsDirectSound& Engine, const SoundAction&) { Engine.UnloadFile(); },
         [](clsDirectSound& Engine, const SoundAction& This) {
@@ -81,7 +83,7 @@ void EngineSound::Do(const SoundAction& Action) {
         },
         [](clsDirectSound& Engine, const SoundAction& This) { Engine.Play(This.Repeat); },
     };
-    Doing[static_cast<size_t>(Action.What)](mEngine, Action);
+    Deeds[static_cast<size_t>(Action.What)](mEngine, Action);
 }
 
 }  // namespace neb

@@ -1,35 +1,35 @@
 #include "presentation/Rehearsal.h"
 
 #include "db/clsDBEngine.h"
+#include "platform/PictureDecoder.h"
+#include "platform/sound/SoundDecoder.h"
 #include "presentation/CaptionText.h"
-#include "presentation/RehearsalWorld.h"
+#include "presentation/EngineSound.h"
 #include "presentation/modSlideShows.h"
 #include "shell/modNEBSlideShow.h"
 #include "support/Fault.h"
+#include "support/modHostFiles.h"
 
 namespace neb {
 
-// Passes everything on, and tells the rehearsal of each slide.
-class Rehearsal::SoundSteps : public ShowSound {
+// The player's own steps, and the rehearsal hears of each slide.
+class Rehearsal::SoundSteps : public EngineSound {
   public:
-    SoundSteps(Rehearsal& Owner, std::unique_ptr<ShowSound> Sound)
-        : mOwner(Owner), mSound(std::move(Sound)) {}
-    void Play(bool Repeat) override { mSound->Play(Repeat); }
-    void PauseSound() override { mSound->PauseSound(); }
-    void StopSound() override { mSound->StopSound(); }
-    void SetVolume(int Value) override { mSound->SetVolume(Value); }
-    void CheckRepeat() override { mSound->CheckRepeat(); }
-    bool SoundStep(const SlideSound& Slide, ShowSoundFields& Fields) override {
-        return mOwner.SlideComesUp(Slide, Fields, *mSound);
+    explicit SoundSteps(Rehearsal& Owner) : mOwner(Owner) {}
+    void CheckRepeat() override {
+        mOwner.mSound.SetWatchingRepeat(true);
+        EngineSound::CheckRepeat();
+        mOwner.mSound.SetWatchingRepeat(false);
     }
-    void SyncSoundToSlide(std::int32_t Place, double Interval, bool Force,
-                          ShowSoundFields& Fields) override {
-        mSound->SyncSoundToSlide(Place, Interval, Force, Fields);
+    bool SoundStep(const SlideSound& Slide, ShowSoundFields& Fields) override {
+        if (!mOwner.SlideComesUp(Slide)) return false;
+        const bool WatchRepeat = EngineSound::SoundStep(Slide, Fields);
+        mOwner.SlideIsUp(Slide, Fields);
+        return WatchRepeat;
     }
 
   private:
     Rehearsal& mOwner;
-    std::unique_ptr<ShowSound> mSound;
 };
 
 // Boxes are answered at once and written down.
@@ -45,15 +45,27 @@ class Rehearsal::BoxLog : public MessageBoxes {
     Rehearsal& mOwner;
 };
 
+bool BeginsLikePicture(const QString& Path) {
+    constexpr qint64 HeadBytes = 4096;
+    try {
+        return LooksLikePicture(ReadFileHead(Path, HeadBytes));
+    } catch (const Fault&) {
+        return false;
+    }
+}
+
+double LengthOfSoundFile(const QString& Path) {
+    const auto Decoder = OpenSound(Path);
+    return static_cast<double>(Decoder->Frames()) / Decoder->Rate();
+}
+
 Rehearsal::Rehearsal(clsDBEngine& Engine, std::int32_t AlbumID, std::int32_t SlideShowID,
                      RehearsalOptions Options)
     : mOptions(std::move(Options)),
+      mSound(mClock, mOptions.LengthOfSound, mLog),
       mBoxes(std::make_unique<BoxLog>(*this)),
-      mWorld(std::make_unique<RehearsalWorld>(Engine, mClock, *mBoxes,
-                                              [this](std::unique_ptr<ShowSound> Sound) {
-                                                  return std::make_unique<SoundSteps>(
-                                                      *this, std::move(Sound));
-                                              })),
+      mWorld({Engine, mClock, *mBoxes, mSound.Devices(),
+              [this] { return std::make_unique<SoundSteps>(*this); }}),
       mSlideShowID(SlideShowID),
       mRun(*this) {
     mRun.AlbumID = AlbumID;
@@ -126,6 +138,7 @@ void Rehearsal::Fire(Ticking& Timer) {
 
 void Rehearsal::AdvanceTo(qint64 Milliseconds) {
     mClock.AdvanceTo(Milliseconds);
+    mSound.Settle();
     if (!mLog.Cues.empty()) mLog.Cues.back().Seconds = Now() - mLog.Cues.back().At;
 }
 
@@ -141,7 +154,7 @@ void Rehearsal::TakeStep(const std::function<void()>& Step) {
 bool Rehearsal::ShowPicture(const QString& Path, const EffectChoice& Choice) {
     mEffectDelay = std::clamp(Choice.EffectDelay.value_or(mEffectDelay), 0, 1000);
     mEffectStep = std::clamp(Choice.EffectStep.value_or(mEffectStep), 1, 100);
-    if (mOptions.CanReadPicture && !mOptions.CanReadPicture(Path)) return false;
+    if (!mOptions.CanReadPicture(Path)) return false;
     const int Steps = (100 + mEffectStep - 1) / mEffectStep;
     mNext.Picture = Path;
     mNext.EffectNumber = Choice.EffectNumber.value_or(0);
@@ -154,22 +167,24 @@ bool Rehearsal::ComesRound(const SlideSound& Slide) const {
     return mOneRound && !mLog.Cues.empty() && Slide.SlideSeq <= mLog.Cues.back().SlideSeq;
 }
 
-bool Rehearsal::SlideComesUp(const SlideSound& Slide, ShowSoundFields& Fields, ShowSound& Sound) {
-    if (ComesRound(Slide)) {
-        mRoundIsOver = true;
-        return false;
-    }
+// False when it is no longer the rehearsal's to tell.
+bool Rehearsal::SlideComesUp(const SlideSound& Slide) {
+    mRoundIsOver = ComesRound(Slide);
+    if (mRoundIsOver) return false;
     mNext.At = Now();
     mNext.SlideSeq = Slide.SlideSeq;
     const auto* Detail = Slide.SlideShow->GetDetail(Slide.SlideSeq);
     mNext.SlideID = Detail ? Detail->SlideID : 0;
     mNext.Caption = ShownCaptionText(mNext.Caption);
     mLog.Cues.push_back(mNext);
-    const bool WatchRepeat = Sound.SoundStep(Slide, Fields);
+    return true;
+}
+
+void Rehearsal::SlideIsUp(const SlideSound& Slide, const ShowSoundFields& Fields) {
     RehearsalCue& Cue = mLog.Cues.back();
     Cue.SlideInterval = Fields.SlideInterval;
     Cue.FitToSong = Fields.FitToSong;
-    return WatchRepeat;
+    mSound.SlideIsUp(SoundPathOf(Slide, DBEngine->DBPath()));
 }
 
 void Rehearsal::Tell(const QString& Message) {

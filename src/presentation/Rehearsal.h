@@ -7,20 +7,21 @@
 #include <functional>
 #include <memory>
 
-#include "presentation/RehearsalClock.h"
-#include "presentation/RehearsalLog.h"
+#include "presentation/RehearsalSound.h"
+#include "presentation/RehearsalWorld.h"
 #include "presentation/ShowRun.h"
 
 namespace neb {
 
-class clsDBEngine;
-class RehearsalWorld;
+// Whether the first bytes of a file are those of a picture; damage behind them is not seen.
+bool BeginsLikePicture(const QString& Path);
+// Seconds of a sound file. Throws Fault for what cannot be played.
+double LengthOfSoundFile(const QString& Path);
 
+// How the rehearsal looks at the files of the show; it asks only for those that are there.
 struct RehearsalOptions {
-    // Whether a picture file that is there can be read; empty: its first bytes are looked at.
-    std::function<bool(const QString& Path)> CanReadPicture;
-    // Seconds of a sound file; throws Fault for what cannot be played. Empty: the file is opened.
-    std::function<double(const QString& Path)> LengthOfSound;
+    std::function<bool(const QString& Path)> CanReadPicture = BeginsLikePicture;
+    std::function<double(const QString& Path)> LengthOfSound = LengthOfSoundFile;  // throws Fault
 };
 
 enum class RehearsalEnd {
@@ -85,14 +86,16 @@ class Rehearsal : private ShowStage {
     RehearsalEnd RunRound();
     qint64 NextPress() const;
     bool ComesRound(const SlideSound& Slide) const;
-    bool SlideComesUp(const SlideSound& Slide, ShowSoundFields& Fields, ShowSound& Sound);
+    bool SlideComesUp(const SlideSound& Slide);
+    void SlideIsUp(const SlideSound& Slide, const ShowSoundFields& Fields);
     std::int32_t PlaceOnItsWay() const;
 
     const RehearsalOptions mOptions;
     RehearsalClock mClock;
     RehearsalLog mLog;
+    RehearsalSound mSound;
     std::unique_ptr<BoxLog> mBoxes;
-    std::unique_ptr<RehearsalWorld> mWorld;
+    RehearsalWorld mWorld;
     std::array<Ticking, 2> mTimers{{{100, &ShowRun::Timer1_Timer}, {1000, &ShowRun::Timer2_Timer}}};
     int mStarts = 0;
     RehearsalCue mNext;  // the slide that is on its way

@@ -6,8 +6,7 @@
 
 namespace neb {
 
-RehearsalWorld::RehearsalWorld(clsDBEngine& Engine, Clock& Time, MessageBoxes& Boxes,
-                               SoundWrapper Wrap)
+RehearsalWorld::RehearsalWorld(Parts Instead)
     : mServices(TheServices()),
       mMaker(TheShowSoundMaker()),
       mEngine(DBEngine),
@@ -16,12 +15,13 @@ RehearsalWorld::RehearsalWorld(clsDBEngine& Engine, Clock& Time, MessageBoxes& B
       mSlideSeq(CurrentSlideSeq),
       mSlideShowID(CurrentSlideShowID),
       mTimeout(SlideTimeout) {
-    TheServices().Time = &Time;
-    TheServices().Boxes = &Boxes;
-    TheShowSoundMaker() = [Maker = mMaker, Wrap = std::move(Wrap)] { return Wrap(Maker()); };
-    DBEngine = &Engine;
+    TheServices().Time = &Instead.Time;
+    TheServices().Boxes = &Instead.Boxes;
+    TheServices().Sound = &Instead.Sound;
+    TheShowSoundMaker() = std::move(Instead.Maker);
+    DBEngine = &Instead.Engine;
     ReadOnlyDB = true;
-    DBPathCache = Engine.DBPath();
+    DBPathCache = Instead.Engine.DBPath();
 }
 
 RehearsalWorld::~RehearsalWorld() {

@@ -2,8 +2,6 @@
 // long as it lives. Used by Rehearsal alone.
 #pragma once
 
-#include <functional>
-
 #include "presentation/ShowSound.h"
 #include "support/Services.h"
 
@@ -13,10 +11,15 @@ class clsDBEngine;
 
 class RehearsalWorld {
   public:
-    // Makes the sound of the run out of the one that the program would have made.
-    using SoundWrapper = std::function<std::unique_ptr<ShowSound>(std::unique_ptr<ShowSound>)>;
+    struct Parts {
+        clsDBEngine& Engine;
+        Clock& Time;
+        MessageBoxes& Boxes;
+        SoundDevices& Sound;
+        ShowSoundMaker Maker;
+    };
 
-    RehearsalWorld(clsDBEngine& Engine, Clock& Time, MessageBoxes& Boxes, SoundWrapper Wrap);
+    explicit RehearsalWorld(Parts Instead);
     ~RehearsalWorld();
     RehearsalWorld(const RehearsalWorld&) = delete;
     RehearsalWorld& operator=(const RehearsalWorld&) = delete;

@@ -65,9 +65,9 @@ void ShowRun::End() {
     SetTimer2(false);
     mEnded = true;
     try {
-        mSound->StopSound();
+        mSound->Release();
     } catch (const Fault&) {
-        // the sound is released in any case
+        // a show ends whatever its sound says
     }
     mSound = std::make_shared<SilentShowSound>();
 }

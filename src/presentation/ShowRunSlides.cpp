@@ -127,7 +127,9 @@ bool ShowRun::DisplayPicture(const QString& Path) {
 void ShowRun::PrefetchNext(clsNEBAlbum& Album, const clsNEBSlideShow& SlideShow) {
     const ChosenDetail Next = ChooseDetail(SlideShow, CurrentSlideSeq + 1);
     const clsNEBSlide* Slide = Next.Detail ? Album.GetSlide(Next.Detail->SlideID) : nullptr;
-    if (Slide) mStage.Prefetch(SlidePath(Slide->SlideLoc));
+    if (!Slide) return;
+    mStage.Prefetch(SlidePath(Slide->SlideLoc));
+    mSound->LoadAhead(SoundOf(Next, *Slide, SlideShow));
 }
 
 }  // namespace neb

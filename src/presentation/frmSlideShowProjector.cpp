@@ -5,6 +5,7 @@
 
 #include "platform/XShow.h"
 #include "presentation/ProgramScreen.h"
+#include "presentation/ShowBox.h"
 #include "presentation/ShowSettings.h"
 #include "presentation/frmPopup.h"
 #include "presentation/modSlideShows.h"
@@ -257,7 +258,7 @@ void frmSlideShowProjector::SetTimer2(bool On) {
 
 void frmSlideShowProjector::Tell(const QString& Message) {
     ResizeControls();
-    MsgBox(Message);
+    TellOnce(Message);
 }
 
 }  // namespace neb

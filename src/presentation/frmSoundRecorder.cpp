@@ -15,9 +15,15 @@ namespace {
 constexpr int CompletionMs = 100;
 constexpr int MeterMs = 50;
 constexpr int MostSeconds = 20;
+constexpr int StillSteps = 40;  // of the meter, after which a microphone counts as silent
+constexpr int StatusLines = 2;
 
 const auto Recording = QStringLiteral("Recording");
 const auto Playing = QStringLiteral("Playing");
+
+// The longest status: the window keeps room for it, so that it never jumps in size.
+const auto LongestStatus =
+    QStringLiteral("This card does not support full duplex.  You may still record sound.");
 
 QString Minutes(double Seconds) {
     const int Whole = static_cast<int>(std::floor(Seconds));
@@ -74,6 +80,7 @@ frmSoundRecorder::frmSoundRecorder()
       tmrMeter(new QTimer(this)) {
     mUi->setupUi(this);
     LoadIcons();
+    ReserveStatus();
     Timer1->setObjectName(QStringLiteral("Timer1"));
     Timer1->setInterval(CompletionMs);
     Timer1->setTimerType(Qt::PreciseTimer);
@@ -118,6 +125,7 @@ void frmSoundRecorder::Run(const Command& Chosen) {
     Enable(Chosen);
     if (Chosen.StartsTimer1) Timer1->start();
     mUi->lvlSound->Clear();
+    mStillSteps = 0;
     ShowProgress();
     if (mRecorderMode.isEmpty())
         tmrMeter->stop();
@@ -127,7 +135,7 @@ void frmSoundRecorder::Run(const Command& Chosen) {
 
 // The keyboard stays on a button that works; else it would be left on one that is off.
 void frmSoundRecorder::Enable(const Command& Chosen) {
-    const auto* Before = qobject_cast<QPushButton*>(focusWidget());
+    const QWidget* Before = focusWidget();
     mUi->cmdRecord->setEnabled(Chosen.cmdRecord);
     mUi->cmdPlay->setEnabled(Chosen.cmdPlay);
     mUi->cmdStop->setEnabled(Chosen.cmdStop);
@@ -155,32 +163,47 @@ void frmSoundRecorder::Tick() {
     Stop();
 }
 
+// A level counts as long as time moves on: a full recording and a microphone that was pulled out
+// have none.
 void frmSoundRecorder::ShowProgress() {
-    mUi->lblStatus->setText(StatusText());
+    const double Seconds = mSound->RecorderSeconds();
+    const bool Moves = std::exchange(mShownSeconds, Seconds) != Seconds;
+    mStillSteps = Moves ? 0 : mStillSteps + 1;
+    mUi->lvlSound->SetLevel(Moves ? mSound->RecorderLevel() : 0);
+    mUi->lblStatus->setText(mRefusal.isEmpty() ? StatusText() : mRefusal);
     mUi->lblTime->setText(TimeText());
-    mUi->lvlSound->SetLevel(mSound->RecorderLevel());
 }
 
 QString frmSoundRecorder::StatusText() const {
-    if (!mRefusal.isEmpty()) return mRefusal;
     if (mRecorderMode == Playing) return tr("Playing");
-    if (mRecorderMode.isEmpty())
-        return mUi->cmdPlay->isEnabled() ? tr("Recorded") : tr("Press Record and speak.");
-    const double Seconds = mSound->RecorderSeconds();
-    if (Seconds >= MostSeconds) return tr("Recording: the 20 seconds are full.");
-    return Seconds > 0 ? tr("Recording") : tr("Waiting for the microphone");
+    if (mRecorderMode.isEmpty()) return IdleText();
+    if (mShownSeconds >= MostSeconds) return tr("Recording: the 20 seconds are full.");
+    const bool Waits = mShownSeconds == 0 || mStillSteps > StillSteps;
+    return Waits ? tr("Waiting for the microphone") : tr("Recording");
+}
+
+QString frmSoundRecorder::IdleText() const {
+    if (!mUi->cmdPlay->isEnabled()) return tr("Press Record and speak.");
+    return mRecordedSeconds > 0 ? tr("Recorded") : tr("Nothing was recorded.");
 }
 
 QString frmSoundRecorder::TimeText() const {
     const bool Ended = mRecorderMode.isEmpty() && mUi->cmdPlay->isEnabled();
     if (Ended) return Minutes(mRecordedSeconds);
     const double Whole = mRecorderMode == Playing ? mRecordedSeconds : MostSeconds;
-    return tr("%1 of %2").arg(Minutes(mSound->RecorderSeconds()), Minutes(Whole));
+    return tr("%1 of %2").arg(Minutes(mShownSeconds), Minutes(Whole));
 }
 
 void frmSoundRecorder::changeEvent(QEvent* Event) {
     Form::changeEvent(Event);
     if (Event->type() == QEvent::PaletteChange) LoadIcons();
+    if (Event->type() == QEvent::FontChange) ReserveStatus();
+}
+
+void frmSoundRecorder::ReserveStatus() {
+    const QFontMetrics Metrics = mUi->lblStatus->fontMetrics();
+    const int Width = Metrics.horizontalAdvance(LongestStatus) * 6 / 5 / StatusLines;
+    mUi->lblStatus->setMinimumSize(Width, Metrics.lineSpacing() * StatusLines);
 }
 
 void frmSoundRecorder::LoadIcons() {
@@ -189,7 +212,7 @@ void frmSoundRecorder::LoadIcons() {
         const char* IconName;
     } Icons[] = {{mUi->cmdRecord, "record"},
                  {mUi->cmdStop, "stop"},
-                 {mUi->cmdPlay, "slide-show-play"},
+                 {mUi->cmdPlay, "sound"},
                  {mUi->cmdSave, "save"}};
     for (const auto& Each : Icons)
         Each.Button->setIcon(ThemeIcon(QString::fromLatin1(Each.IconName), palette()));

@@ -4,8 +4,6 @@
 
 #include "support/windows/Form.h"
 
-class QPushButton;
-
 namespace neb {
 
 class clsDirectSound;
@@ -40,10 +38,11 @@ class frmSoundRecorder : public Form {
     void Save();
     void Tick();
     void LoadIcons();
+    void ReserveStatus();
     void Enable(const Command& Chosen);
-    QPushButton* FocusOf(const Command& Chosen) const;
     void ShowProgress();
     QString StatusText() const;
+    QString IdleText() const;
     QString TimeText() const;
 
     std::unique_ptr<Ui::frmSoundRecorder> mUi;
@@ -54,6 +53,8 @@ class frmSoundRecorder : public Form {
     QString mRecorderMode;
     QString mRefusal;             // of the last command
     double mRecordedSeconds = 0;  // of the last recording
+    double mShownSeconds = 0;     // of what runs, as last shown
+    int mStillSteps = 0;          // of the meter since they last changed
     bool mSoundRecorded = false;
 };
 

@@ -30,7 +30,7 @@ TEST_F(ProjectorEnd, StopsTheSoundAndTheTimers) {
     Run([&](Projector& Window) {
         Sound.Taken();
         Window.Unload();
-        EXPECT_EQ("Stop", Sound.Taken());
+        EXPECT_EQ("Release", Sound.Taken());
         EXPECT_EQ("off off", Timers());
     });
     EXPECT_EQ("", Sound.Taken()) << "only once";
@@ -38,7 +38,7 @@ TEST_F(ProjectorEnd, StopsTheSoundAndTheTimers) {
 
 TEST_F(ProjectorEnd, ShowsTheHourglassOnlyWhileItEnds) {
     AddSlides(1);
-    Sound.OnStop = [] { EXPECT_EQ(Pointer::Hourglass, ScreenPointer()); };
+    Sound.OnRelease = [] { EXPECT_EQ(Pointer::Hourglass, ScreenPointer()); };
     Run([&](Projector&) {});
     EXPECT_EQ(Pointer::Default, ScreenPointer());
 }
@@ -46,7 +46,7 @@ TEST_F(ProjectorEnd, ShowsTheHourglassOnlyWhileItEnds) {
 TEST_F(ProjectorEnd, IgnoresAFaultOfTheSoundWhileStopping) {
     AddSlides(1);
     MakeActive();
-    Sound.OnStop = [] { throw Fault(QStringLiteral("the device is gone")); };
+    Sound.OnRelease = [] { throw Fault(QStringLiteral("the device is gone")); };
     Run([&](Projector&) {});
     EXPECT_EQ("1", Setting("NextSlideSeq").toStdString());
     EXPECT_EQ(0, Blanking.Held);

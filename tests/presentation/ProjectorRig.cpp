@@ -15,9 +15,11 @@ class LoggedSound : public ShowSound {
     explicit LoggedSound(SoundLog& Log) : mLog(Log) {}
     void Play(bool Repeat) override { Note(QStringLiteral("Play %1").arg(Repeat)); }
     void PauseSound() override { Note(QStringLiteral("Pause")); }
-    void StopSound() override {
-        Note(QStringLiteral("Stop"));
-        if (mLog.OnStop) mLog.OnStop();
+    void StopSound() override { Note(QStringLiteral("Stop")); }
+    void LoadAhead(const SlideSound& Next) override { mLog.Ahead.push_back(Next.SlideSeq); }
+    void Release() override {
+        Note(QStringLiteral("Release"));
+        if (mLog.OnRelease) mLog.OnRelease();
     }
     void SetVolume(int Value) override { Note(QStringLiteral("Volume %1").arg(Value)); }
     void CheckRepeat() override { Note(QStringLiteral("CheckRepeat")); }

@@ -44,7 +44,8 @@ class CountedBlanking : public ScreenBlanking {
 struct SoundLog {
     QStringList Calls;
     std::function<bool(const SlideSound&, ShowSoundFields&)> OnStep;
-    std::function<void()> OnStop;
+    std::function<void()> OnRelease;
+    std::vector<std::int32_t> Ahead;  // places whose sound was opened ahead
 
     // What was asked since the last call.
     std::string Taken() { return std::exchange(Calls, {}).join(u'|').toStdString(); }

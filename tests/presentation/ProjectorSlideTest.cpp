@@ -336,5 +336,14 @@ TEST_F(ProjectorFailure, StaysStoppedWhenARestartFails) {
     });
 }
 
+TEST_F(ProjectorSlide, OpensTheSoundOfTheSlideAheadWhileThisOneIsUp) {
+    AddSlides(3);
+    Run([&](Projector& Window) {
+        Window.NextSlide();
+        Window.NextSlide();
+        EXPECT_EQ((std::vector<std::int32_t>{2, 3, 1}), Sound.Ahead);
+    });
+}
+
 }  // namespace
 }  // namespace neb::test

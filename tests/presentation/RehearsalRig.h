@@ -9,6 +9,8 @@
 #include "harness/TempFolder.h"
 #include "presentation/Rehearsal.h"
 #include "shell/modNEBSlideShow.h"
+#include "support/Fault.h"
+#include "support/modFUFL.h"
 #include "support/modHostFiles.h"
 
 namespace neb::test {
@@ -63,11 +65,38 @@ class RehearsalRig : public ::testing::Test {
         return SlidesFolder(Engine.DBPath(), Album) + FileStem(SlideID) + u".jpg"_s;
     }
 
+    // A track whose file is there and has a length in seconds.
+    clsNEBSlideShowSoundTrack& AddTrack(const QString& Name, std::int32_t From, std::int32_t To,
+                                        double Length) {
+        AddSound(SoundTracksFolder(Engine.DBPath(), Album) + Name, Length);
+        SlideShow->SaveSoundTrack(static_cast<std::int32_t>(SlideShow->SoundTracks.size()) + 1,
+                                  Name, From, To, false, false, false);
+        return *SlideShow->SoundTracks.back();
+    }
+    clsNEBSlide& AddClip(int Place, const QString& Name, double Length) {
+        AddSound(SlidesFolder(Engine.DBPath(), Album) + Name, Length);
+        Slide(Place).SoundTrackLoc = Name;
+        return Slide(Place);
+    }
+    void AddSound(const QString& Path, double Length) {
+        WriteFile(Path, "sound");
+        Lengths[GetFileName(Path)] = Length;
+    }
+    RehearsalOptions Options() const {
+        RehearsalOptions Fake;
+        Fake.LengthOfSound = [this](const QString& Path) {
+            if (!Lengths.contains(GetFileName(Path))) throw Fault(u"No sound."_s, Path);
+            return Lengths[GetFileName(Path)];
+        };
+        return Fake;
+    }
+
     // The first bytes of a picture of one pixel.
     static inline const QByteArray Picture = QByteArray::fromHex("ffd8ffe000104a464946000101");
 
     harness::TempFolder Folder;
     clsDBEngine Engine;
+    QHash<QString, double> Lengths;  // of the sounds that can be played, by file name
     std::int32_t Album = 0, Show = 0;
     clsNEBAlbum* InAlbum = nullptr;
     clsNEBSlideShow* SlideShow = nullptr;

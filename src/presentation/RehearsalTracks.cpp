@@ -1,0 +1,190 @@
+// The sound tracks of a rehearsed show: files, reach, overlaps, fades, lengths.
+#include <algorithm>
+
+#include "db/modAlbumFiles.h"
+#include "presentation/RehearsalNotebook.h"
+#include "support/modFUFL.h"
+
+namespace neb {
+namespace {
+
+using Notebook = RehearsalNotebook;
+using Track = clsNEBSlideShowSoundTrack;
+
+constexpr double Unnoticed = 0.5;  // seconds of silence or sound that nobody misses
+
+// The slides of the show that lie in its reach; First > Last: none.
+struct Reach {
+    std::int32_t First = 0, Last = -1;
+};
+
+Reach ReachOf(const Notebook& Book, std::int32_t Start, std::int32_t End) {
+    Reach Found;
+    for (const std::int32_t Place : Book.Details.keys()) {
+        if (Place < Start || Place > End) continue;
+        Found = Found.Last < Found.First
+                    ? Reach{Place, Place}
+                    : Reach{std::min(Found.First, Place), std::max(Found.Last, Place)};
+    }
+    return Found;
+}
+
+// One track: its findings begin with its number, its file and its slides.
+class TrackCheck {
+  public:
+    TrackCheck(Notebook& Book, const Track& Of)
+        : mBook(Book),
+          mTrack(Of),
+          mPath(Book.AlbumFile(SoundTracksFolder, Of.SoundTrackLoc)),
+          mReach(ReachOf(Book, Of.SlideSeqStart, Of.SlideSeqEnd)),
+          mFacts(Book.LookAtSound(mPath)) {
+        for (std::int32_t Place = mReach.First; Place <= mReach.Last; ++Place) TakeCue(Place);
+    }
+
+    void Run() {
+        if (!mFacts.Problem.isEmpty()) Tell(mFacts.Problem);
+        ExplainBoxes();
+        if (!HasSlides()) return;
+        if (mTrack.Fade) CheckFade();
+        if (mCues.empty() || mFacts.State != SoundState::Sound) return;
+        if (mTrack.FitToSong) CheckFitted();
+        if (!mTrack.FitToSong && !mTrack.Repeat) CheckSilence();
+        CheckCut();
+    }
+
+  private:
+    void TakeCue(std::int32_t Place);
+    void ExplainBoxes();
+    bool HasSlides();
+    void CheckFade();
+    QString WhyNoFade() const;
+    void CheckFitted();
+    void CheckSilence();
+    void CheckCut();
+    void Tell(const QString& Text) { mBook.Problem(mTrack.SlideSeqStart, Line(Text)); }
+    void Note(const QString& Text) { mBook.Note(mTrack.SlideSeqStart, Line(Text)); }
+    QString Line(const QString& Text) const {
+        return QStringLiteral("sound track %1 (%2, %3): %4")
+            .arg(mTrack.SoundTrackSeq)
+            .arg(GetFileName(mPath), SlidesText(mTrack.SlideSeqStart, mTrack.SlideSeqEnd), Text);
+    }
+
+    Notebook& mBook;
+    const Track& mTrack;
+    const QString mPath;
+    const Reach mReach;
+    const SoundFacts mFacts;
+    std::vector<const RehearsalCue*> mCues;  // of the slides on which it was heard or to be heard
+};
+
+void TrackCheck::TakeCue(std::int32_t Place) {
+    const RehearsalCue* Cue = mBook.CueAt(Place);
+    if (Cue && mBook.TrackAt(Place) == &mTrack && Cue->Sound.File == mPath) mCues.push_back(Cue);
+}
+
+void TrackCheck::ExplainBoxes() {
+    const QString Box =
+        mFacts.State == SoundState::Missing
+            ? QStringLiteral("The Sound Track for this group of slides does not exist.")
+            : QStringLiteral("The Sound Track for this group of slides appears to be empty.");
+    if (mFacts.State == SoundState::Sound) return;
+    for (std::int32_t Place = mReach.First; Place <= mReach.Last; ++Place)
+        mBook.Explain(Place, Box);
+}
+
+bool TrackCheck::HasSlides() {
+    if (mTrack.SlideSeqStart > mTrack.SlideSeqEnd)
+        mBook.Problem(mTrack.SlideSeqStart,
+                      QStringLiteral("sound track %1 (%2): it starts at slide %3 and ends at slide "
+                                     "%4, so that it is never heard")
+                          .arg(mTrack.SoundTrackSeq)
+                          .arg(GetFileName(mPath))
+                          .arg(mTrack.SlideSeqStart)
+                          .arg(mTrack.SlideSeqEnd));
+    else if (mReach.First > mReach.Last)
+        Tell(QStringLiteral("the show has no such slide, so that it is never heard"));
+    return mReach.First <= mReach.Last;
+}
+
+QString TrackCheck::WhyNoFade() const {
+    const std::int32_t Last = mTrack.SlideSeqEnd;
+    if (mBook.IsManual) return QStringLiteral("there is no fade in a manual show");
+    if (!mBook.Details.contains(Last))
+        return QStringLiteral("it never fades, because the show has no slide %1").arg(Last);
+    const RehearsalCue* Cue = mBook.CueAt(Last);
+    if (Cue && Cue->Sound.EndVolume == Cue->Sound.Volume)
+        return QStringLiteral("it never fades, because slide %1 does not sound of it").arg(Last);
+    return {};
+}
+
+void TrackCheck::CheckFade() {
+    const QString Why = WhyNoFade();
+    if (!Why.isEmpty()) Tell(Why);
+}
+
+void TrackCheck::CheckFitted() {
+    const double Each = mFacts.Length / (mTrack.SlideSeqEnd - mTrack.SlideSeqStart + 1);
+    if (Each < 1) Tell(QStringLiteral("its slides stay up for %1 each").arg(SecondsText(Each)));
+    for (const RehearsalCue* Cue : mCues)
+        if (Cue->EffectSeconds > Cue->SlideInterval)
+            mBook.OfSlide(Cue->SlideSeq,
+                          QStringLiteral("it stays up for %1, but its transition takes %2: %3")
+                              .arg(SecondsText(Cue->SlideInterval), SecondsText(Cue->EffectSeconds),
+                                   GetFileName(Cue->Picture)));
+}
+
+// From where it ends to where its slides end.
+void TrackCheck::CheckSilence() {
+    const auto Ends = std::find_if(mCues.begin(), mCues.end(),
+                                   [](const auto* Cue) { return Cue->Sound.EndsAt >= 0; });
+    if (Ends == mCues.end()) return;
+    const double Silence = mCues.back()->At + mCues.back()->Seconds - (*Ends)->Sound.EndsAt;
+    if (Silence <= Unnoticed) return;
+    const QString Text = QStringLiteral(
+                             "it is %1 long and falls silent on slide %2, %3 before its "
+                             "last slide is over")
+                             .arg(SecondsText(mFacts.Length))
+                             .arg((*Ends)->SlideSeq)
+                             .arg(SecondsText(Silence));
+    mBook.IsManual ? Note(Text) : Tell(Text);
+}
+
+// Somebody who lets it fade means to cut it.
+void TrackCheck::CheckCut() {
+    double Heard = 0;
+    for (const RehearsalCue* Cue : mCues)
+        Heard = std::max(Heard, Cue->Sound.Loops > 0 || Cue->Sound.EndsAt >= 0
+                                    ? mFacts.Length
+                                    : Cue->Sound.Position + Cue->Seconds);
+    if (Heard >= mFacts.Length - Unnoticed) return;
+    const QString Text = QStringLiteral("its last slide ends when %1 of its %2 have been heard")
+                             .arg(SecondsText(Heard), SecondsText(mFacts.Length));
+    const bool Wasted = Heard < mFacts.Length / 2 && !mTrack.Fade && !mBook.IsManual;
+    Wasted ? Tell(Text) : Note(Text);
+}
+
+void CheckOverlap(Notebook& Book, const Track& First, const Track& Second) {
+    const Reach Both = ReachOf(Book, std::max(First.SlideSeqStart, Second.SlideSeqStart),
+                               std::min(First.SlideSeqEnd, Second.SlideSeqEnd));
+    if (Both.First > Both.Last) return;
+    Book.Problem(Both.First,
+                 QStringLiteral("%1: sound tracks %2 (%3) and %4 (%5) both cover them; %3 is heard")
+                     .arg(SlidesText(Both.First, Both.Last))
+                     .arg(First.SoundTrackSeq)
+                     .arg(GetFileName(First.SoundTrackLoc))
+                     .arg(Second.SoundTrackSeq)
+                     .arg(GetFileName(Second.SoundTrackLoc)));
+}
+
+}  // namespace
+
+void CheckTracks(RehearsalNotebook& Book) {
+    const auto& Tracks = Book.SlideShow.SoundTracks;
+    for (auto First = Tracks.begin(); First != Tracks.end(); ++First) {
+        TrackCheck(Book, **First).Run();
+        for (auto Second = std::next(First); Second != Tracks.end(); ++Second)
+            CheckOverlap(Book, **First, **Second);
+    }
+}
+
+}  // namespace neb
