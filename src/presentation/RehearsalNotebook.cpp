@@ -19,7 +19,7 @@ SoundFacts FactsOf(const QString& Path, const RehearsalOptions& Options) {
         return {SoundState::Empty, 0, QStringLiteral("is empty: %1").arg(Path)};
     } catch (const Fault& Problem) {
         return {SoundState::Unplayable, 0,
-                QStringLiteral("cannot be played: %1 %2").arg(Path, Problem.What())};
+                QStringLiteral("cannot be played: %1: %2").arg(Path, Problem.What())};
     }
 }
 

@@ -45,10 +45,12 @@ class TrackCheck {
         if (!mFacts.Problem.isEmpty()) Tell(mFacts.Problem);
         ExplainBoxes();
         if (!HasSlides()) return;
+        if (mFacts.State != SoundState::Sound) return;
         if (mTrack.Fade) CheckFade();
-        if (mCues.empty() || mFacts.State != SoundState::Sound) return;
+        if (mCues.empty()) return;
         if (mTrack.FitToSong) CheckFitted();
-        if (!mTrack.FitToSong && !mTrack.Repeat) CheckSilence();
+        if (mTrack.Repeat) return;  // meant to fill whatever time there is
+        if (!mTrack.FitToSong) CheckSilence();
         CheckCut();
     }
 
@@ -153,9 +155,8 @@ void TrackCheck::CheckSilence() {
 void TrackCheck::CheckCut() {
     double Heard = 0;
     for (const RehearsalCue* Cue : mCues)
-        Heard = std::max(Heard, Cue->Sound.Loops > 0 || Cue->Sound.EndsAt >= 0
-                                    ? mFacts.Length
-                                    : Cue->Sound.Position + Cue->Seconds);
+        Heard = std::max(
+            Heard, Cue->Sound.EndsAt >= 0 ? mFacts.Length : Cue->Sound.Position + Cue->Seconds);
     if (Heard >= mFacts.Length - Unnoticed) return;
     const QString Text = QStringLiteral("its last slide ends when %1 of its %2 have been heard")
                              .arg(SecondsText(Heard), SecondsText(mFacts.Length));
@@ -167,13 +168,15 @@ void CheckOverlap(Notebook& Book, const Track& First, const Track& Second) {
     const Reach Both = ReachOf(Book, std::max(First.SlideSeqStart, Second.SlideSeqStart),
                                std::min(First.SlideSeqEnd, Second.SlideSeqEnd));
     if (Both.First > Both.Last) return;
-    Book.Problem(Both.First,
-                 QStringLiteral("%1: sound tracks %2 (%3) and %4 (%5) both cover them; %3 is heard")
-                     .arg(SlidesText(Both.First, Both.Last))
-                     .arg(First.SoundTrackSeq)
-                     .arg(GetFileName(First.SoundTrackLoc))
-                     .arg(Second.SoundTrackSeq)
-                     .arg(GetFileName(Second.SoundTrackLoc)));
+    Book.Problem(
+        Both.First,
+        QStringLiteral("%1: both sound track %2 (%3) and sound track %4 (%5) are laid over "
+                       "it; number %2 is heard")
+            .arg(SlidesText(Both.First, Both.Last))
+            .arg(First.SoundTrackSeq)
+            .arg(GetFileName(First.SoundTrackLoc))
+            .arg(Second.SoundTrackSeq)
+            .arg(GetFileName(Second.SoundTrackLoc)));
 }
 
 }  // namespace

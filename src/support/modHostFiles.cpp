@@ -222,4 +222,8 @@ qint64 HostReader::Read(char* Into, qint64 MaxLength) {
     return Total;
 }
 
+void HostReader::Seek(qint64 Place) {
+    if (!mState->File.seek(Place)) FailRead(mState->File, mState->Path);
+}
+
 }  // namespace neb

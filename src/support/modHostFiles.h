@@ -57,6 +57,7 @@ class HostReader {
     ~HostReader();
     qint64 Length() const;                      // bytes when it was opened
     qint64 Read(char* Into, qint64 MaxLength);  // bytes read: fewer at the end alone, then 0
+    void Seek(qint64 Place);  // bytes from the start, 0 or more; beyond the end nothing is read
 
   private:
     struct State;

@@ -22,10 +22,10 @@ bool ErrorsGoToATerminal() {
 #endif
 }
 
-// Reading pictures needs the toolkit's fonts and readers, but no display.
+// Reading pictures and setting captions needs the toolkit's fonts and readers, but no display.
 std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char** argv) {
     const std::string_view Command = argc < 2 ? "" : argv[1];
-    if (Command != "import" && Command != "effects")
+    if (Command != "import" && Command != "effects" && Command != "rehearse")
         return std::make_unique<QCoreApplication>(argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     return std::make_unique<QGuiApplication>(argc, argv);

@@ -7,6 +7,7 @@
 #include "tools/modDump.h"
 #include "tools/modEffects.h"
 #include "tools/modImportFolder.h"
+#include "tools/modRehearse.h"
 #include "tools/modRewrite.h"
 
 namespace neb {
@@ -54,6 +55,35 @@ constexpr Command Table[] = {
      "  effects sheet OUT [--pictures OLD NEW]\n"
      "      Draws all transitions half way, with their names, into the .png or .jpg file OUT.\n",
      RunEffects},
+    {"rehearse", "DIR --album NAME --show NAME [--json] [--screen WxH] [--documents DIR]",
+     "run a show in a moment and look for what is wrong",
+     "Runs the show as the projector would, by the user's own settings, on a clock that does not\n"
+     "wait, and prints its cue sheet: when each slide comes up and for how long, its caption and\n"
+     "picture, the transition to it and what its sound does. A manual show is taken on when a\n"
+     "slide has been up for the time of an automatic one. Nothing on the disk is changed.\n"
+     "\n"
+     "Then it lists the problems: pictures and sounds that are missing or cannot be read, places\n"
+     "of the show that are missing or taken twice, captions of more than one line, sound tracks\n"
+     "that are too short, overlap, cover no slide, cannot fade or leave slides too little time,\n"
+     "slide sounds that are never heard, and all boxes that would come up. Pictures are judged\n"
+     "by their first bytes: damage behind these is not seen. A track that goes on behind its last\n"
+     "slide is a note, and a problem when more than half of it is never heard and it does not\n"
+     "fade.\n"
+     "\n"
+     "  --screen WxH     the screen on which captions must fit; 1920x1080 unless told otherwise\n"
+     "  --documents DIR  the settings kept below DIR instead of the documents folder\n"
+     "  --json           the same as JSON. All times are seconds.\n"
+     "      Album, Show, Manual, Timeout, ScreenWidth, ScreenHeight, RunningTime, End\n"
+     "      (\"came round\", \"stopped\", \"too long\");\n"
+     "      Cues: Time, Seconds, SlideSeq, SlideID, Caption, Picture, EffectNumber, EffectName,\n"
+     "      EffectSeconds, FitToSong, and Sound: What (\"silent\", \"starts\", \"resumes\", "
+     "\"moves\",\n"
+     "      \"goes on\", \"over\", \"not played\"), File, Position, Duration, Volume, EndVolume "
+     "(0 to\n"
+     "      100), Loops, EndsAt (null: it does not end on the slide);\n"
+     "      Problems and Notes: SlideSeq (0: the whole show), Text.\n"
+     "Exit code 0: no problems; 1: problems; 2: not rehearsed.\n",
+     RunRehearse},
 };
 
 constexpr const char* Outline =

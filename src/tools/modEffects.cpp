@@ -12,6 +12,7 @@
 #include "tools/EffectSheet.h"
 #include "tools/EffectTiming.h"
 #include "tools/JsonWriter.h"
+#include "tools/modWords.h"
 
 namespace neb {
 namespace {
@@ -54,28 +55,6 @@ int List(const QStringList& Words, ToolIO& IO) {
     }
     Json.EndList();
     return ExitDone;
-}
-
-// The value behind a word, which goes with the word; nothing when the word is not there. The
-// value is empty when the line ends before it.
-std::optional<QString> TakeOption(QStringList& Words, const QString& Name) {
-    const qsizetype At = Words.indexOf(Name);
-    if (At < 0) return std::nullopt;
-    const QString Value = Words.value(At + 1);
-    Words.remove(At, std::min<qsizetype>(2, Words.size() - At));
-    return Value;
-}
-
-std::optional<int> WholeNumber(const QString& Text, int Low, int High) {
-    bool Sound = false;
-    const int Value = Text.toInt(&Sound);
-    return Sound && Value >= Low && Value <= High ? std::optional(Value) : std::nullopt;
-}
-
-std::optional<QSize> SizeOf(const QString& Text) {
-    const auto Width = WholeNumber(Text.section(u'x', 0, 0), 1, 16384);
-    const auto Height = WholeNumber(Text.section(u'x', 1), 1, 16384);
-    return Width && Height ? std::optional(QSize(*Width, *Height)) : std::nullopt;
 }
 
 // False after a line on Err.

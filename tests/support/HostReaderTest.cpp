@@ -21,6 +21,24 @@ TEST(HostReader, HandsAFileOutInPiecesThenNothing) {
     EXPECT_EQ(Reader.Read(Bytes, 8), 0);
 }
 
+TEST(HostReader, GoesToAnyPlaceOfItsFile) {
+    const harness::TempFolder Dir;
+    WriteFile(Dir / "a.dat", "0123456789");
+    HostReader Reader(Dir / "a.dat");
+    char Bytes[8] = {};
+    Reader.Seek(7);
+    EXPECT_EQ(Reader.Read(Bytes, 8), 3);
+    EXPECT_EQ(QByteArray(Bytes, 3), "789");
+    Reader.Seek(0);
+    EXPECT_EQ(Reader.Read(Bytes, 2), 2);
+    EXPECT_EQ(QByteArray(Bytes, 2), "01");
+    Reader.Seek(10);
+    EXPECT_EQ(Reader.Read(Bytes, 8), 0);
+    Reader.Seek(1000);
+    EXPECT_EQ(Reader.Read(Bytes, 8), 0);
+    EXPECT_THROW(Reader.Seek(-1), Fault);
+}
+
 TEST(HostReader, AFileThatIsNotThereIsAFault) {
     const harness::TempFolder Dir;
     EXPECT_THROW(HostReader(Dir / "none"), Fault);
