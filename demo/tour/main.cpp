@@ -1,4 +1,4 @@
-// usage: neb-demo --folder PICTURES --documents DIR --screenshots DIR [--name NAME] [--music DIR]
+// usage: neb-demo --folder PICTURES --documents DIR --screenshots DIR [--show NAME] [--music DIR]
 #include <QCommandLineParser>
 #include <QtEndian>
 #include <cstdio>
@@ -37,7 +37,8 @@ int main(int argc, char** argv) {
                        {"documents", "Documents folder of the database.", "dir"},
                        {"screenshots", "Where the screenshots go.", "dir"},
                        {"music", "Sample music to lay over the show.", "dir"},
-                       {"name", "Name of the album and the show.", "name", "A Year in Pictures"}});
+                       // Not "name": the window system takes that for itself.
+                       {"show", "Name of the album and the show.", "name", "A Year in Pictures"}});
     Parser.process(App);
     for (const char* Needed : {"folder", "documents", "screenshots"})
         if (!Parser.isSet(Needed)) return std::fprintf(stderr, "neb-demo: --%s?\n", Needed), 2;
@@ -50,7 +51,7 @@ int main(int argc, char** argv) {
     neb::SetDocumentsPath(Parser.value("documents"));
     neb::frmNEBSlideShow Window;
     Tour Guide(Parser.value("screenshots"));
-    AddSteps(Guide, Window, Parser.value("folder"), Parser.value("name"));
+    AddSteps(Guide, Window, Parser.value("folder"), Parser.value("show"));
     QObject::connect(&Guide, &Tour::Ended, &App, &QApplication::quit);
     App.setQuitOnLastWindowClosed(false);
     Guide.Start();
