@@ -1,0 +1,46 @@
+// Stereo frames that wait to be heard, first in first out, in memory that is taken once. Voices
+// guard it with their own lock.
+#pragma once
+
+#include <algorithm>
+#include <vector>
+
+namespace neb {
+
+class StereoRing {
+  public:
+    explicit StereoRing(int Frames) : mFrames(Frames), mSamples(2 * static_cast<size_t>(Frames)) {}
+
+    int Count() const { return mCount; }
+    int Room() const { return mFrames - mCount; }
+    void Clear() { mCount = 0; }
+    // Two samples; Index counts from the oldest frame.
+    float* Frame(int Index) {
+        return &mSamples[2 * static_cast<size_t>((mFirst + Index) % mFrames)];
+    }
+    // The oldest frames that lie side by side in memory.
+    int Contiguous() const { return std::min(mCount, mFrames - mFirst); }
+    void Drop(int Frames) {
+        mFirst = (mFirst + Frames) % mFrames;
+        mCount -= Frames;
+    }
+    // No more frames than there is room for.
+    void Push(const float* From, int Frames) {
+        while (Frames > 0) {
+            const int At = (mFirst + mCount) % mFrames;
+            const int Part = std::min(Frames, mFrames - At);
+            std::copy_n(From, 2 * Part, &mSamples[2 * static_cast<size_t>(At)]);
+            From += 2 * Part;
+            Frames -= Part;
+            mCount += Part;
+        }
+    }
+
+  private:
+    int mFrames;
+    std::vector<float> mSamples;
+    int mFirst = 0;
+    int mCount = 0;
+};
+
+}  // namespace neb
