@@ -11,6 +11,7 @@
 #include "demo/music/Room.h"
 #include "demo/music/Scores.h"
 #include "harness/TempFolder.h"
+#include "platform/sound/SoundDecoder.h"
 #include "support/modHostFiles.h"
 
 namespace neb::demo {
@@ -76,6 +77,18 @@ TEST(Music, ItsFilesTellTheirOwnFormatAndLength) {
         EXPECT_EQ(Wave.mid(36, 4), "data");
         EXPECT_EQ(NumberAt(Wave, 40, 4), Wave.size() - 44);
         EXPECT_EQ(Wave.size() - 44, static_cast<int>(Music.Seconds * Music.Rate * FrameBytes));
+    }
+}
+
+TEST(Music, TheProgramItselfReadsIt) {
+    harness::TempFolder Dir;
+    for (const Tune& Music : AllTunes()) {
+        const QString Path = Dir / QString::fromUtf8(Music.FileName);
+        WriteFile(Path, AsWave(Sound(Music), Music.Mono));
+        const auto Read = OpenSound(Path);
+        EXPECT_EQ(Read->Rate(), Music.Rate);
+        EXPECT_EQ(Read->Channels(), Music.Mono ? 1 : 2);
+        EXPECT_EQ(Read->Frames(), static_cast<qint64>(Music.Seconds * Music.Rate));
     }
 }
 
