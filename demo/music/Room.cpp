@@ -131,7 +131,7 @@ void Master(Stereo& Sound, double FadeOut) {
 
 QByteArray AsWave(const Stereo& Sound, bool Mono) {
     QByteArray Samples;
-    Samples.reserve(static_cast<qsizetype>(Sound.Left.size() * 4));
+    Samples.reserve(static_cast<qsizetype>(Sound.Left.size()) * 4);
     for (size_t I = 0; I < Sound.Left.size(); ++I) {
         Put(Samples, Sound.Left[I]);
         if (!Mono) Put(Samples, Sound.Right[I]);

@@ -10,7 +10,7 @@ constexpr double Pi = 3.14159265358979323846;
 constexpr double HalfTone = 1.0594630943592953;  // the twelfth root of two
 
 size_t FramesOf(double Seconds, int Rate) {
-    return static_cast<size_t>(Seconds * Rate + 0.5);
+    return static_cast<size_t>(std::lround(Seconds * Rate));
 }
 
 // From 0 to 1 without a corner at either end.
