@@ -37,7 +37,7 @@ class Rehearsal::BoxLog : public MessageBoxes {
   public:
     explicit BoxLog(Rehearsal& Owner) : mOwner(Owner) {}
     BoxAnswer Show(const BoxRequest& Request) override {
-        mOwner.Tell(Request.Text);
+        mOwner.NoteBox(RehearsalBoxFrom::Sound, Request.Text);
         return Request.Buttons == BoxButtons::Ok ? BoxAnswer::Ok : BoxAnswer::No;
     }
 
@@ -139,7 +139,8 @@ void Rehearsal::Fire(Ticking& Timer) {
 void Rehearsal::AdvanceTo(qint64 Milliseconds) {
     mClock.AdvanceTo(Milliseconds);
     mSound.Settle();
-    if (!mLog.Cues.empty()) mLog.Cues.back().Seconds = Now() - mLog.Cues.back().At;
+    if (!mLog.Cues.empty())
+        mLog.Cues.back().Seconds = static_cast<double>(mClock.Milliseconds() - mCueBegan) / 1000;
 }
 
 // What nobody catches comes up as a box, as in the event loop of the program.
@@ -147,7 +148,7 @@ void Rehearsal::TakeStep(const std::function<void()>& Step) {
     try {
         Step();
     } catch (const Fault& Problem) {
-        Tell(Problem.Text());
+        NoteBox(RehearsalBoxFrom::Fault, Problem.Text());
     }
 }
 
@@ -172,6 +173,7 @@ bool Rehearsal::SlideComesUp(const SlideSound& Slide) {
     mRoundIsOver = ComesRound(Slide);
     if (mRoundIsOver) return false;
     mNext.At = Now();
+    mCueBegan = mClock.Milliseconds();
     mNext.SlideSeq = Slide.SlideSeq;
     const auto* Detail = Slide.SlideShow->GetDetail(Slide.SlideSeq);
     mNext.SlideID = Detail ? Detail->SlideID : 0;
@@ -187,8 +189,8 @@ void Rehearsal::SlideIsUp(const SlideSound& Slide, const ShowSoundFields& Fields
     mSound.SlideIsUp(SoundPathOf(Slide, DBEngine->DBPath()));
 }
 
-void Rehearsal::Tell(const QString& Message) {
-    mLog.Boxes.push_back({Now(), PlaceOnItsWay(), Message});
+void Rehearsal::NoteBox(RehearsalBoxFrom From, const QString& Text) {
+    mLog.Boxes.push_back({Now(), PlaceOnItsWay(), Text, From});
 }
 
 std::int32_t Rehearsal::PlaceOnItsWay() const {

@@ -76,7 +76,7 @@ class Rehearsal : private ShowStage {
     void Prefetch(const QString&) override {}
     void SetTimer1(bool On) override { SetTimer(mTimers[0], On); }
     void SetTimer2(bool On) override { SetTimer(mTimers[1], On); }
-    void Tell(const QString& Message) override;
+    void Tell(const QString& Message) override { NoteBox(RehearsalBoxFrom::Run, Message); }
 
     void SetTimer(Ticking& Timer, bool On);
     Ticking* NextTimer();
@@ -88,6 +88,7 @@ class Rehearsal : private ShowStage {
     bool ComesRound(const SlideSound& Slide) const;
     bool SlideComesUp(const SlideSound& Slide);
     void SlideIsUp(const SlideSound& Slide, const ShowSoundFields& Fields);
+    void NoteBox(RehearsalBoxFrom From, const QString& Text);
     std::int32_t PlaceOnItsWay() const;
 
     const RehearsalOptions mOptions;
@@ -98,7 +99,8 @@ class Rehearsal : private ShowStage {
     RehearsalWorld mWorld;
     std::array<Ticking, 2> mTimers{{{100, &ShowRun::Timer1_Timer}, {1000, &ShowRun::Timer2_Timer}}};
     int mStarts = 0;
-    RehearsalCue mNext;  // the slide that is on its way
+    RehearsalCue mNext;    // the slide that is on its way
+    qint64 mCueBegan = 0;  // milliseconds, of the slide that is up
     int mEffectDelay = 0, mEffectStep = 100;
     bool mOneRound = false, mRoundIsOver = false;
     const std::int32_t mSlideShowID;

@@ -31,7 +31,9 @@ void CheckGaps(Notebook& Book) {
                              .arg(Place));
         Before = std::max(Before, Place);
     }
-    if (Places.empty()) Book.Problem(0, QStringLiteral("the show has no slides"));
+    if (!Places.empty()) return;
+    Book.Problem(0, QStringLiteral("the show has no slides"));
+    Book.Explain(1, RehearsalBoxFrom::Run);
 }
 
 void CheckDoubles(Notebook& Book) {
@@ -64,8 +66,7 @@ void CheckClip(Notebook& Book, std::int32_t Place, const clsNEBSlide& Slide) {
     const QString Path = Book.AlbumFile(SlidesFolder, Slide.SoundTrackLoc);
     const SoundFacts Facts = Book.LookAtSound(Path);
     if (!Facts.Problem.isEmpty()) Book.OfSlide(Place, QStringLiteral("its sound ") + Facts.Problem);
-    if (Facts.State == SoundState::Missing)
-        Book.Explain(Place, QStringLiteral("The Sound Track for this slide does not exist."));
+    if (Facts.State != SoundState::Sound) Book.Explain(Place, RehearsalBoxFrom::Sound);
     const auto* Track = Book.TrackAt(Place);
     if (Track && !Slide.Override)
         Book.OfSlide(Place, QStringLiteral("its sound is never heard, because it does not override "
@@ -83,8 +84,7 @@ void CheckDetail(Notebook& Book, const clsNEBSlideShowDetail& Detail) {
     }
     Book.OfSlide(Place, QStringLiteral("the album has no slide number %1; the show stops there")
                             .arg(Detail.SlideID));
-    Book.Explain(Place,
-                 QStringLiteral("Slide #%1 of the current slide show does not exist!").arg(Place));
+    Book.Explain(Place, RehearsalBoxFrom::Run);
 }
 
 QString Shortened(const QString& Text) {
@@ -111,7 +111,7 @@ void CheckBoxes(Notebook& Book) {
         Book.OfSlide(
             Box.SlideSeq,
             QStringLiteral("a box comes up: \"%1\"").arg(QString(Box.Text).replace(u'\n', u' ')));
-        Book.Explain(Box.SlideSeq, Box.Text);
+        Book.Explain(Box.SlideSeq, Box.From);
     }
 }
 

@@ -71,11 +71,18 @@ struct RehearsalSoundEvent {
     bool operator==(const RehearsalSoundEvent&) const = default;
 };
 
+enum class RehearsalBoxFrom {
+    Run,    // the show itself, which stops
+    Sound,  // the sound of a slide
+    Fault,  // something that nobody caught
+};
+
 // A box that would have come up; it waits for nobody here.
 struct RehearsalBox {
     double At = 0;
     std::int32_t SlideSeq = 0;  // the slide that was on its way, or up
     QString Text;
+    RehearsalBoxFrom From = RehearsalBoxFrom::Run;
 
     bool operator==(const RehearsalBox&) const = default;
 };

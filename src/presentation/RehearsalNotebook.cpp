@@ -63,12 +63,12 @@ void RehearsalNotebook::OfSlide(std::int32_t SlideSeq, const QString& Text) {
     Problem(SlideSeq, QStringLiteral("slide %1: ").arg(SlideSeq) + Text);
 }
 
-void RehearsalNotebook::Explain(std::int32_t SlideSeq, const QString& BoxText) {
-    mExplained.insert({SlideSeq, BoxText});
+void RehearsalNotebook::Explain(std::int32_t SlideSeq, RehearsalBoxFrom From) {
+    mExplained.insert({SlideSeq, static_cast<int>(From)});
 }
 
 bool RehearsalNotebook::IsExplained(const RehearsalBox& Box) const {
-    return mExplained.contains({Box.SlideSeq, Box.Text});
+    return mExplained.contains({Box.SlideSeq, static_cast<int>(Box.From)});
 }
 
 const clsNEBSlide* RehearsalNotebook::SlideAt(std::int32_t SlideSeq) const {

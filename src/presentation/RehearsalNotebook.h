@@ -38,8 +38,8 @@ class RehearsalNotebook {
     void Note(std::int32_t SlideSeq, const QString& Text);
     void OfSlide(std::int32_t SlideSeq, const QString& Text);  // "slide 3: " before it
 
-    // Boxes of this text at this place have been told of.
-    void Explain(std::int32_t SlideSeq, const QString& BoxText);
+    // A problem says why such boxes come up at this place.
+    void Explain(std::int32_t SlideSeq, RehearsalBoxFrom From);
     bool IsExplained(const RehearsalBox& Box) const;
 
     const clsNEBSlide* SlideAt(std::int32_t SlideSeq) const;
@@ -54,7 +54,7 @@ class RehearsalNotebook {
 
   private:
     RehearsalFindings mFound;
-    QSet<std::pair<std::int32_t, QString>> mExplained;
+    QSet<std::pair<std::int32_t, int>> mExplained;
     QHash<std::int32_t, const RehearsalCue*> mCues;
     QHash<QString, SoundFacts> mSounds;
 };

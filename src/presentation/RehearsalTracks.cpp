@@ -85,24 +85,19 @@ void TrackCheck::TakeCue(std::int32_t Place) {
 }
 
 void TrackCheck::ExplainBoxes() {
-    const QString Box =
-        mFacts.State == SoundState::Missing
-            ? QStringLiteral("The Sound Track for this group of slides does not exist.")
-            : QStringLiteral("The Sound Track for this group of slides appears to be empty.");
     if (mFacts.State == SoundState::Sound) return;
     for (std::int32_t Place = mReach.First; Place <= mReach.Last; ++Place)
-        mBook.Explain(Place, Box);
+        mBook.Explain(Place, RehearsalBoxFrom::Sound);
 }
 
 bool TrackCheck::HasSlides() {
     if (mTrack.SlideSeqStart > mTrack.SlideSeqEnd)
-        mBook.Problem(mTrack.SlideSeqStart,
-                      QStringLiteral("sound track %1 (%2): it starts at slide %3 and ends at slide "
-                                     "%4, so that it is never heard")
-                          .arg(mTrack.SoundTrackSeq)
-                          .arg(GetFileName(mPath))
-                          .arg(mTrack.SlideSeqStart)
-                          .arg(mTrack.SlideSeqEnd));
+        mBook.Problem(
+            mTrack.SlideSeqStart,
+            QStringLiteral("sound track %1 (%2): it starts at slide %3 and ends at slide "
+                           "%4, so that it is never heard")
+                .arg(QString::number(mTrack.SoundTrackSeq), GetFileName(mPath),
+                     QString::number(mTrack.SlideSeqStart), QString::number(mTrack.SlideSeqEnd)));
     else if (mReach.First > mReach.Last)
         Tell(QStringLiteral("the show has no such slide, so that it is never heard"));
     return mReach.First <= mReach.Last;
@@ -158,7 +153,7 @@ void TrackCheck::CheckCut() {
         Heard = std::max(
             Heard, Cue->Sound.EndsAt >= 0 ? mFacts.Length : Cue->Sound.Position + Cue->Seconds);
     if (Heard >= mFacts.Length - Unnoticed) return;
-    const QString Text = QStringLiteral("its last slide ends when %1 of its %2 have been heard")
+    const QString Text = QStringLiteral("it is cut off when its slides end, after %1 of its %2")
                              .arg(SecondsText(Heard), SecondsText(mFacts.Length));
     const bool Wasted = Heard < mFacts.Length / 2 && !mTrack.Fade && !mBook.IsManual;
     Wasted ? Tell(Text) : Note(Text);
@@ -168,15 +163,12 @@ void CheckOverlap(Notebook& Book, const Track& First, const Track& Second) {
     const Reach Both = ReachOf(Book, std::max(First.SlideSeqStart, Second.SlideSeqStart),
                                std::min(First.SlideSeqEnd, Second.SlideSeqEnd));
     if (Both.First > Both.Last) return;
-    Book.Problem(
-        Both.First,
-        QStringLiteral("%1: both sound track %2 (%3) and sound track %4 (%5) are laid over "
-                       "it; number %2 is heard")
-            .arg(SlidesText(Both.First, Both.Last))
-            .arg(First.SoundTrackSeq)
-            .arg(GetFileName(First.SoundTrackLoc))
-            .arg(Second.SoundTrackSeq)
-            .arg(GetFileName(Second.SoundTrackLoc)));
+    Book.Problem(Both.First,
+                 QStringLiteral(
+                     "%1: sound track %2 (%3) and sound track %4 (%5) overlap; number %2 is heard")
+                     .arg(SlidesText(Both.First, Both.Last), QString::number(First.SoundTrackSeq),
+                          GetFileName(First.SoundTrackLoc), QString::number(Second.SoundTrackSeq),
+                          GetFileName(Second.SoundTrackLoc)));
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <QEvent>
 #include <QTimer>
+#include <algorithm>
 #include <cmath>
 
 #include "platform/Icons.h"
@@ -15,11 +16,33 @@ namespace {
 constexpr int CompletionMs = 100;
 constexpr int MeterMs = 50;
 constexpr int MostSeconds = 20;
-constexpr int StillSteps = 40;  // of the meter, after which a microphone counts as silent
+constexpr int StillSteps = 20;  // of the meter, after which a microphone counts as silent
 constexpr int StatusLines = 2;
 
-const auto Recording = QStringLiteral("Recording");
-const auto Playing = QStringLiteral("Playing");
+constexpr char Idle[] = "";
+constexpr char Recording[] = "Recording";
+constexpr char Playing[] = "Playing";
+
+enum Buttons : unsigned { cmdRecord = 1, cmdPlay = 2, cmdStop = 4, cmdSave = 8 };
+constexpr unsigned AllButStop = cmdRecord | cmdPlay | cmdSave;
+
+// What a button does: the engine's part, and how the window looks afterwards.
+struct Command {
+    Buttons Pressed;
+    const char* In;  // the mode in which it does so; nothing in the others
+    void (*Engine)(clsDirectSound& Sound);
+    const char* RecorderMode;
+    unsigned On;  // the buttons that work then
+    bool StartsTimer1;
+};
+const Command Commands[] = {
+    {cmdRecord, Idle, [](auto& Sound) { Sound.RecorderStartRecording(); }, Recording, cmdStop,
+     false},
+    {cmdPlay, Idle, [](auto& Sound) { Sound.RecorderStartPlayback(); }, Playing, cmdStop, true},
+    {cmdStop, Recording, [](auto& Sound) { Sound.RecorderStopRecording(); }, Idle, AllButStop,
+     false},
+    {cmdStop, Playing, [](auto& Sound) { Sound.RecorderStopPlayback(); }, Idle, AllButStop, false},
+};
 
 // The longest status: the window keeps room for it, so that it never jumps in size.
 const auto LongestStatus =
@@ -31,48 +54,6 @@ QString Minutes(double Seconds) {
 }
 
 }  // namespace
-
-// What a button does: the engine's part, and how the window looks afterwards.
-struct frmSoundRecorder::Command {
-    void (*Engine)(clsDirectSound& Sound);
-    QString RecorderMode;
-    bool cmdRecord;
-    bool cmdPlay;
-    bool cmdStop;
-    bool cmdSave;
-    bool StartsTimer1;
-};
-
-const frmSoundRecorder::Command frmSoundRecorder::Record = {
-    [](clsDirectSound& Sound) { Sound.RecorderStartRecording(); },
-    Recording,
-    false,
-    false,
-    true,
-    false,
-    false};
-const frmSoundRecorder::Command frmSoundRecorder::Play = {
-    [](clsDirectSound& Sound) { Sound.RecorderStartPlayback(); },
-    Playing,
-    false,
-    false,
-    true,
-    false,
-    true};
-const frmSoundRecorder::Command frmSoundRecorder::StopRecording = {[](clsDirectSound& Sound) { Sound.RecorderStopRecording(); },
-                                                                   {},
-                                                                   true,
-                                                                   true,
-                                                                   false,
-                                                                   true,
-                                                                   false};
-const frmSoundRecorder::Command frmSoundRecorder::StopPlaying = {[](clsDirectSound& Sound) { Sound.RecorderStopPlayback(); },
-                                                                 {},
-                                                                 true,
-                                                                 true,
-                                                                 false,
-                                                                 true,
-                                                                 false};
 
 frmSoundRecorder::frmSoundRecorder()
     : mUi(std::make_unique<Ui::frmSoundRecorder>()),
@@ -88,12 +69,13 @@ frmSoundRecorder::frmSoundRecorder()
     tmrMeter->setInterval(MeterMs);
     connect(Timer1, &QTimer::timeout, this, &frmSoundRecorder::Tick);
     connect(tmrMeter, &QTimer::timeout, this, &frmSoundRecorder::ShowProgress);
-    connect(mUi->cmdRecord, &QPushButton::clicked, this, [this] { Run(Record); });
-    connect(mUi->cmdPlay, &QPushButton::clicked, this, [this] { Run(Play); });
-    connect(mUi->cmdStop, &QPushButton::clicked, this, &frmSoundRecorder::Stop);
+    connect(mUi->cmdRecord, &QPushButton::clicked, this, [this] { Run(cmdRecord); });
+    connect(mUi->cmdPlay, &QPushButton::clicked, this, [this] { Run(cmdPlay); });
+    connect(mUi->cmdStop, &QPushButton::clicked, this, [this] { Run(cmdStop); });
     connect(mUi->cmdSave, &QPushButton::clicked, this, &frmSoundRecorder::Save);
-    connect(mUi->sdrVolume, &QSlider::valueChanged, this,
-            [this](int Value) { mSound->SetRecorderVolume(Value); });
+    connect(mUi->sdrVolume, &QSlider::valueChanged, this, [this](int Value) {
+        if (mSound) mSound->SetRecorderVolume(Value);
+    });
 }
 
 frmSoundRecorder::~frmSoundRecorder() = default;
@@ -116,42 +98,49 @@ bool frmSoundRecorder::Form_Unload() {
     return true;
 }
 
-void frmSoundRecorder::Run(const Command& Chosen) {
-    Chosen.Engine(*mSound);
+// A key pressed at the last moment runs its button when the window has gone.
+void frmSoundRecorder::Run(unsigned Pressed) {
+    if (!mSound) return;
+    const auto Chosen =
+        std::find_if(std::begin(Commands), std::end(Commands), [&](const auto& Row) {
+            return Row.Pressed == Pressed && mRecorderMode == QLatin1String(Row.In);
+        });
+    if (Chosen == std::end(Commands)) return;
+    Chosen->Engine(*mSound);
     mRefusal = mSound->LastError();
-    if (Chosen.RecorderMode.isEmpty() && mRecorderMode == Recording)
+    if (Pressed == cmdStop && mRecorderMode == QLatin1String(Recording))
         mRecordedSeconds = mSound->RecorderSeconds();
-    mRecorderMode = Chosen.RecorderMode;
-    Enable(Chosen);
-    if (Chosen.StartsTimer1) Timer1->start();
+    mRecorderMode = QString::fromLatin1(Chosen->RecorderMode);
+    Enable(Chosen->On);
+    if (Chosen->StartsTimer1) Timer1->start();
+    StartProgress();
+}
+
+// The keyboard stays on a button that works; else it would be left on one that is off.
+void frmSoundRecorder::Enable(unsigned On) {
+    const QWidget* Before = focusWidget();
+    mUi->cmdRecord->setEnabled(On & cmdRecord);
+    mUi->cmdPlay->setEnabled(On & cmdPlay);
+    mUi->cmdStop->setEnabled(On & cmdStop);
+    mUi->cmdSave->setEnabled(On & cmdSave);
+    QPushButton* Next = On & cmdStop ? mUi->cmdStop : mUi->cmdPlay;
+    Next->setDefault(true);
+    if (!Before || !Before->isEnabled()) Next->setFocus();
+}
+
+void frmSoundRecorder::StartProgress() {
     mUi->lvlSound->Clear();
-    mStillSteps = 0;
     ShowProgress();
+    mStillSteps = 0;
     if (mRecorderMode.isEmpty())
         tmrMeter->stop();
     else
         tmrMeter->start();
 }
 
-// The keyboard stays on a button that works; else it would be left on one that is off.
-void frmSoundRecorder::Enable(const Command& Chosen) {
-    const QWidget* Before = focusWidget();
-    mUi->cmdRecord->setEnabled(Chosen.cmdRecord);
-    mUi->cmdPlay->setEnabled(Chosen.cmdPlay);
-    mUi->cmdStop->setEnabled(Chosen.cmdStop);
-    mUi->cmdSave->setEnabled(Chosen.cmdSave);
-    QPushButton* Next = Chosen.cmdStop ? mUi->cmdStop : mUi->cmdPlay;
-    Next->setDefault(true);
-    if (!Before || !Before->isEnabled()) Next->setFocus();
-}
-
-void frmSoundRecorder::Stop() {
-    if (mRecorderMode == Recording) Run(StopRecording);
-    if (mRecorderMode == Playing) Run(StopPlaying);
-}
-
 // A file that cannot be written leaves the window, and the recording in it, as they are.
 void frmSoundRecorder::Save() {
+    if (!mSound) return;
     mSound->RecorderSaveToFile(mSoundSavePath);
     mSoundRecorded = true;
     Unload();
@@ -160,7 +149,7 @@ void frmSoundRecorder::Save() {
 void frmSoundRecorder::Tick() {
     if (!mSound->RecorderPlaybackComplete()) return;
     Timer1->stop();
-    Stop();
+    Run(cmdStop);
 }
 
 // A level counts as long as time moves on: a full recording and a microphone that was pulled out
@@ -175,11 +164,10 @@ void frmSoundRecorder::ShowProgress() {
 }
 
 QString frmSoundRecorder::StatusText() const {
-    if (mRecorderMode == Playing) return tr("Playing");
+    if (mRecorderMode == QLatin1String(Playing)) return tr("Playing");
     if (mRecorderMode.isEmpty()) return IdleText();
     if (mShownSeconds >= MostSeconds) return tr("Recording: the 20 seconds are full.");
-    const bool Waits = mShownSeconds == 0 || mStillSteps > StillSteps;
-    return Waits ? tr("Waiting for the microphone") : tr("Recording");
+    return mStillSteps > StillSteps ? tr("Waiting for the microphone") : tr("Recording");
 }
 
 QString frmSoundRecorder::IdleText() const {
@@ -190,7 +178,7 @@ QString frmSoundRecorder::IdleText() const {
 QString frmSoundRecorder::TimeText() const {
     const bool Ended = mRecorderMode.isEmpty() && mUi->cmdPlay->isEnabled();
     if (Ended) return Minutes(mRecordedSeconds);
-    const double Whole = mRecorderMode == Playing ? mRecordedSeconds : MostSeconds;
+    const double Whole = mRecorderMode == QLatin1String(Playing) ? mRecordedSeconds : MostSeconds;
     return tr("%1 of %2").arg(Minutes(mShownSeconds), Minutes(Whole));
 }
 

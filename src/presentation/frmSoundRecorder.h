@@ -30,16 +30,13 @@ class frmSoundRecorder : public Form {
     void changeEvent(QEvent* Event) override;
 
   private:
-    struct Command;
-    static const Command Record, Play, StopRecording, StopPlaying;
-
-    void Run(const Command& Chosen);
-    void Stop();
+    void Run(unsigned Pressed);
+    void Enable(unsigned On);
+    void StartProgress();
     void Save();
     void Tick();
     void LoadIcons();
     void ReserveStatus();
-    void Enable(const Command& Chosen);
     void ShowProgress();
     QString StatusText() const;
     QString IdleText() const;

@@ -1,6 +1,7 @@
 #include "tools/modRehearseSheet.h"
 
 #include <array>
+#include <cmath>
 #include <cstring>
 #include <limits>
 
@@ -16,6 +17,8 @@ constexpr const char* SoundWords[] = {"silent",  "starts", "resumes",   "moves",
                                       "goes on", "over",   "not played"};
 // In the order of RehearsalEnd.
 constexpr const char* EndWords[] = {"came round", "stopped", "too long"};
+
+constexpr double Unnoticed = 0.1;  // seconds
 
 QString SoundWord(const CueSound& Sound) {
     return QLatin1String(SoundWords[static_cast<size_t>(Sound.Kind)]);
@@ -49,14 +52,16 @@ bool Sounds(const CueSound& Sound) {
     return Sound.Kind != CueSoundKind::Silent && Sound.Kind != CueSoundKind::Unplayed;
 }
 
-// What becomes of the sound while the slide is up.
-QString Happenings(const CueSound& Sound) {
+// What becomes of the sound while the slide is up. That it ends when the slide goes is no news.
+QString Happenings(const RehearsalCue& Cue) {
+    const CueSound& Sound = Cue.Sound;
     QString Text = SoundWord(Sound);
     if (Sound.Loops == 1) Text += QStringLiteral(", begins anew");
     if (Sound.Loops > 1) Text += QStringLiteral(", begins anew %1 times").arg(Sound.Loops);
     if (Sound.EndVolume < Sound.Volume)
         Text += QStringLiteral(", fades to %1").arg(Sound.EndVolume);
-    if (Sound.EndsAt >= 0) Text += QStringLiteral(", ends at %1").arg(TimeText(Sound.EndsAt));
+    if (Sound.EndsAt >= 0 && Sound.EndsAt < Cue.At + Cue.Seconds - Unnoticed)
+        Text += QStringLiteral(", ends at %1").arg(TimeText(Sound.EndsAt));
     return Text;
 }
 
@@ -85,7 +90,7 @@ Row RowOf(const RehearsalCue& Cue) {
             OneLine(GetFileName(Sound.File), NameWidth),
             Sounds(Sound) ? TimeText(Sound.Position) : QString(),
             Sounds(Sound) ? QString::number(Sound.Volume) : QString(),
-            Happenings(Sound)};
+            Happenings(Cue)};
 }
 
 Row HeadRow() {
@@ -121,6 +126,7 @@ void PrintTable(const std::vector<RehearsalCue>& Cues, std::ostream& Out) {
     std::vector<Row> Rows;
     for (const RehearsalCue& Cue : Cues) Rows.push_back(RowOf(Cue));
     const Widths Wide = WidthsOf(Rows);
+    Out << '\n';
     PrintRow(HeadRow(), Wide, Out);
     for (const Row& Each : Rows) PrintRow(Each, Wide, Out);
 }
@@ -150,31 +156,36 @@ QString Summary(const CueSheet& Sheet) {
     return Text + u'.';
 }
 
+// To the millisecond; null for a time that never comes.
+void PutSeconds(JsonWriter& Json, const char* Name, double Seconds) {
+    constexpr double Never = std::numeric_limits<double>::quiet_NaN();
+    Json.Value(Name, Seconds < 0 ? Never : std::round(Seconds * 1000) / 1000);
+}
+
 void PutSound(JsonWriter& Json, const CueSound& Sound) {
     Json.BeginObject("Sound");
     Json.Value("What", SoundWord(Sound));
     Json.Value("File", Sound.File);
-    Json.Value("Position", Sound.Position);
-    Json.Value("Duration", Sound.Duration);
+    PutSeconds(Json, "Position", Sound.Position);
+    PutSeconds(Json, "Duration", Sound.Duration);
     Json.Value("Volume", std::int32_t{Sound.Volume});
     Json.Value("EndVolume", std::int32_t{Sound.EndVolume});
     Json.Value("Loops", std::int32_t{Sound.Loops});
-    Json.Value("EndsAt",
-               Sound.EndsAt < 0 ? std::numeric_limits<double>::quiet_NaN() : Sound.EndsAt);
+    PutSeconds(Json, "EndsAt", Sound.EndsAt);
     Json.EndObject();
 }
 
 void PutCue(JsonWriter& Json, const RehearsalCue& Cue) {
     Json.BeginObject();
-    Json.Value("Time", Cue.At);
-    Json.Value("Seconds", Cue.Seconds);
+    PutSeconds(Json, "Time", Cue.At);
+    PutSeconds(Json, "Seconds", Cue.Seconds);
     Json.Value("SlideSeq", Cue.SlideSeq);
     Json.Value("SlideID", Cue.SlideID);
     Json.Value("Caption", Cue.Caption);
     Json.Value("Picture", Cue.Picture);
     Json.Value("EffectNumber", std::int32_t{Cue.EffectNumber});
     Json.Value("EffectName", EffectName(Cue.EffectNumber));
-    Json.Value("EffectSeconds", Cue.EffectSeconds);
+    PutSeconds(Json, "EffectSeconds", Cue.EffectSeconds);
     Json.Value("FitToSong", Cue.FitToSong);
     PutSound(Json, Cue.Sound);
     Json.EndObject();
@@ -195,11 +206,11 @@ void PutFindings(JsonWriter& Json, const char* Name,
 }  // namespace
 
 void PrintCueSheet(const CueSheet& Sheet, std::ostream& Out) {
-    PrintLine(Out, QStringLiteral("Album \"%1\", show \"%2\": %3, %4 s a slide\n")
+    PrintLine(Out, QStringLiteral("Album \"%1\", show \"%2\": %3, %4 s a slide")
                        .arg(Sheet.Album, Sheet.SlideShow.SlideShowName,
                             Sheet.SlideShow.ProgressionMethod == 0 ? QStringLiteral("automatic")
-                                                                   : QStringLiteral("manual"))
-                       .arg(Sheet.Timeout));
+                                                                   : QStringLiteral("manual"),
+                            QString::number(Sheet.Timeout)));
     if (!Sheet.Run.Log.Cues.empty()) PrintTable(Sheet.Run.Log.Cues, Out);
     PrintFindings("Problems", Sheet.Findings.Problems, Out);
     PrintFindings("Notes", Sheet.Findings.Notes, Out);
@@ -220,7 +231,7 @@ void PrintCueSheetAsJson(const CueSheet& Sheet, std::ostream& Out) {
     Json.EndList();
     PutFindings(Json, "Problems", Sheet.Findings.Problems);
     PutFindings(Json, "Notes", Sheet.Findings.Notes);
-    Json.Value("RunningTime", Sheet.RunningTime);
+    PutSeconds(Json, "RunningTime", Sheet.RunningTime);
     Json.Value("End", QString(QLatin1String(EndWords[static_cast<size_t>(Sheet.Run.End)])));
     Json.EndObject();
 }

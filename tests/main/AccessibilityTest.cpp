@@ -14,6 +14,7 @@
 #include "intake/frmPicturePopup.h"
 #include "intake/frmQuickShow.h"
 #include "presentation/frmPreferences.h"
+#include "presentation/frmSoundRecorder.h"
 #include "shell/main/frmAbout.h"
 #include "shell/main/frmHelp.h"
 #include "shell/modNEBSlideShow.h"
@@ -64,8 +65,9 @@ class EachWindow : public ::testing::Test {
     harness::TempFolder mDocuments;
 };
 
-using Windows = ::testing::Types<frmAbout, frmDirSelect, frmHelp, frmImportFilter, frmLoading,
-                                 frmMsgBoxEx, frmPicturePopup, frmPreferences, frmQuickShow>;
+using Windows =
+    ::testing::Types<frmAbout, frmDirSelect, frmHelp, frmImportFilter, frmLoading, frmMsgBoxEx,
+                     frmPicturePopup, frmPreferences, frmQuickShow, frmSoundRecorder>;
 TYPED_TEST_SUITE(EachWindow, Windows);
 
 TYPED_TEST(EachWindow, HasNamesToolTipsAndReachableControls) {

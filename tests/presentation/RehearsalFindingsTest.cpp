@@ -76,10 +76,7 @@ TEST_F(RehearsalFindingsTest, PlacesThatAreMissingOrTakenTwice) {
 }
 
 TEST_F(RehearsalFindingsTest, ShowsWithoutSlides) {
-    EXPECT_EQ(
-        "the show has no slides\n"
-        "slide 1: a box comes up: \"Slide #1 of the current slide show does not exist!\"\n",
-        Found());
+    EXPECT_EQ("the show has no slides\n", Found());
 }
 
 TEST_F(RehearsalFindingsTest, CaptionsOfMoreThanOneLine) {
@@ -147,28 +144,28 @@ TEST_F(RehearsalFindingsTest, TracksThatAreCutOff) {
     AddSlides(2);
     clsNEBSlideShowSoundTrack& Track = AddTrack(u"song.mp3"_s, 1, 2, 18);
     EXPECT_EQ(
-        "note: sound track 1 (song.mp3, slides 1 to 2): its last slide ends when 10.0 s of its "
-        "18.0 s have been heard\n",
+        "note: sound track 1 (song.mp3, slides 1 to 2): it is cut off when its slides end, "
+        "after 10.0 s of its 18.0 s\n",
         Found());
     Lengths[u"song.mp3"_s] = 60;
     EXPECT_EQ(
-        "sound track 1 (song.mp3, slides 1 to 2): its last slide ends when 10.0 s of its 60.0 s "
-        "have been heard\n",
+        "sound track 1 (song.mp3, slides 1 to 2): it is cut off when its slides end, after "
+        "10.0 s of its 60.0 s\n",
         Found());
     Track.Fade = true;
     EXPECT_EQ(
-        "note: sound track 1 (song.mp3, slides 1 to 2): its last slide ends when 10.0 s of its "
-        "60.0 s have been heard\n",
+        "note: sound track 1 (song.mp3, slides 1 to 2): it is cut off when its slides end, "
+        "after 10.0 s of its 60.0 s\n",
         Found());
 }
 
 TEST_F(RehearsalFindingsTest, TracksThatOverlap) {
     AddSlides(4);
-    AddTrack(u"one.mp3"_s, 1, 3, 15);
+    AddTrack(u"one%2.mp3"_s, 1, 3, 15);
     AddTrack(u"two.mp3"_s, 2, 4, 5);
     EXPECT_EQ(
-        "slides 2 to 3: both sound track 1 (one.mp3) and sound track 2 (two.mp3) are laid over "
-        "it; number 1 is heard\n",
+        "slides 2 to 3: sound track 1 (one%2.mp3) and sound track 2 (two.mp3) overlap; number 1 is "
+        "heard\n",
         Found());
 }
 

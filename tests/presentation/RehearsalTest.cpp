@@ -84,7 +84,7 @@ TEST_F(RehearsalRig, WritesBoxesDownAndEndsWhereTheShowStops) {
     EXPECT_EQ(RehearsalEnd::Stopped, Of.RunWhole());
     EXPECT_EQ("1@0", Places(Of));
     const std::vector<RehearsalBox> Wanted = {
-        {5, 2, u"Slide #2 of the current slide show does not exist!"_s}};
+        {5, 2, u"Slide #2 of the current slide show does not exist!"_s, RehearsalBoxFrom::Run}};
     EXPECT_EQ(Wanted, Of.Boxes());
 }
 

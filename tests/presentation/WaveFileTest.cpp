@@ -2,8 +2,12 @@
 #include "presentation/WaveFile.h"
 
 #include <gtest/gtest.h>
+#include <sndfile.h>
 
 #include <initializer_list>
+
+#include "harness/TempFolder.h"
+#include "support/modHostFiles.h"
 
 namespace neb {
 namespace {
@@ -47,6 +51,24 @@ TEST(WaveFile, HoldsMoreThan64Kilobytes) {
     EXPECT_EQ(File.mid(40, 4), Bytes({0xA9, 0xBA, 6, 0}));
     EXPECT_EQ(File.mid(44, 441001), Samples);
     EXPECT_EQ(File.size(), 44 + 441002);
+}
+
+TEST(WaveFile, IsReadByOthers) {
+    harness::TempFolder Folder;
+    WaveFormat Format;
+    Format.SamplesPerSec = Format.AvgBytesPerSec = 11025;
+    WriteFile(Folder / "clip.wav", WaveFileBytes(Format, Bytes({0, 64, 128, 192, 255})));
+    SF_INFO Info{};
+    SNDFILE* File = sf_open(qPrintable(Folder / "clip.wav"), SFM_READ, &Info);
+    ASSERT_NE(File, nullptr) << sf_strerror(nullptr);
+    EXPECT_EQ(Info.samplerate, 11025);
+    EXPECT_EQ(Info.channels, 1);
+    EXPECT_EQ(Info.format, SF_FORMAT_WAV | SF_FORMAT_PCM_U8);
+    short Samples[6] = {};
+    EXPECT_EQ(sf_read_short(File, Samples, 6), 5);
+    const short Expected[6] = {-128 * 256, -64 * 256, 0, 64 * 256, 127 * 256, 0};
+    EXPECT_TRUE(std::equal(std::begin(Samples), std::end(Samples), Expected));
+    sf_close(File);
 }
 
 }  // namespace

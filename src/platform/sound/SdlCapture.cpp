@@ -4,6 +4,7 @@
 #include <SDL.h>
 
 #include <algorithm>
+#include <atomic>
 #include <memory>
 #include <mutex>
 
@@ -78,13 +79,16 @@ class Recording : public std::enable_shared_from_this<Recording> {
         if (mDevice) SDL_PauseAudioDevice(mDevice, 0);
     }
     void Close() {
-        if (mDevice) SDL_CloseAudioDevice(std::exchange(mDevice, 0));
+        if (mDevice) SDL_CloseAudioDevice(mDevice);
+        mDevice = 0;
     }
     // On the microphone's own thread, which may not close it.
     void Add(const Uint8* Piece, int Length) {
-        if (!IsTaking() || TakeAndAskForMore(Piece, Length)) return;
-        Stop();
+        if (!IsTaking()) return;
+        if (HasGone() || !TakeAndAskForMore(Piece, Length)) Stop();
     }
+    // The library makes up silence for a microphone that was pulled out.
+    bool HasGone() const { return SDL_GetAudioDeviceStatus(mDevice) == SDL_AUDIO_STOPPED; }
     bool TakeAndAskForMore(const Uint8* Piece, std::int32_t Length) {
         const std::lock_guard Lock(mMutex);
         if (!mTaking) return true;
@@ -97,7 +101,7 @@ class Recording : public std::enable_shared_from_this<Recording> {
 
     std::shared_ptr<SdlSession> mSession;
     SDL_AudioSpec mWanted;
-    SDL_AudioDeviceID mDevice = 0;  // known to the jobs alone
+    std::atomic<SDL_AudioDeviceID> mDevice = 0;  // set by the jobs alone
     mutable std::mutex mMutex;
     QByteArray mBytes;
     std::int32_t mPosition = 0;

@@ -1,0 +1,92 @@
+// A show of 5,000 slides with sound tracks is rehearsed and judged, as nebctl rehearse does,
+// against the plain reading of its database. Prints milliseconds and the ratio.
+#include <QGuiApplication>
+#include <QTemporaryDir>
+#include <chrono>
+#include <cstdio>
+
+#include "db/clsDBEngine.h"
+#include "db/modAlbumFiles.h"
+#include "presentation/RehearsalFindings.h"
+#include "shell/modNEBSlideShow.h"
+#include "support/modHostFiles.h"
+
+using namespace neb;
+
+namespace {
+
+constexpr int Slides = 5000;
+constexpr int SlidesOfTrack = 50;
+constexpr int Runs = 3;
+
+double Milliseconds() {
+    using namespace std::chrono;
+    return duration<double, std::milli>(steady_clock::now().time_since_epoch()).count();
+}
+
+void MakeShow(const QString& Dir) {
+    clsDBEngine Engine;
+    Engine.SetDBPath(Dir);
+    Engine.InitializeDB();
+    std::int32_t AlbumID = 0, ShowID = 0;
+    Engine.SaveAlbum(AlbumID, QStringLiteral("Long"));
+    clsNEBAlbum& Album = *Engine.GetAlbum(AlbumID);
+    Album.SaveSlideShow(ShowID, QStringLiteral("Long"), 0, Engine);
+    clsNEBSlideShow& Show = *Album.GetSlideShow(ShowID);
+    MakeDirs(SlidesFolder(Engine.DBPath(), AlbumID));
+    MakeDirs(SoundTracksFolder(Engine.DBPath(), AlbumID));
+    for (int I = 1; I <= Slides; ++I) {
+        std::int32_t SlideID = 0;
+        clsNEBSlide* Slide = Album.SaveSlide2(SlideID, QStringLiteral("Holiday picture %1").arg(I),
+                                              {}, {}, false, false, Engine);
+        Slide->SlideLoc = FileStem(SlideID) + QStringLiteral(".jpg");
+        WriteFile(SlidesFolder(Engine.DBPath(), AlbumID) + Slide->SlideLoc,
+                  QByteArray("\xFF\xD8\xFF") + QByteArray(8000, 'x'));
+        Show.SaveDetail(SlideID, I, {});
+    }
+    for (int I = 0; I < Slides / SlidesOfTrack; ++I) {
+        const QString Name = QStringLiteral("%1.wav").arg(I);
+        WriteFile(SoundTracksFolder(Engine.DBPath(), AlbumID) + Name, "x");
+        Show.SaveSoundTrack(I + 1, Name, I * SlidesOfTrack + 1, (I + 1) * SlidesOfTrack, true,
+                            I % 2 == 0, false);
+    }
+    Engine.FinalizeDB();
+}
+
+// The problems that were found, which are to be none.
+size_t Rehearse(clsDBEngine& Engine) {
+    RehearsalOptions Options;
+    Options.LengthOfSound = [](const QString&) { return 300.0; };
+    Rehearsal Of(Engine, 1, 1, Options);
+    const RehearsalEnd End = Of.RunWhole();
+    if (Of.Cues().size() != Slides) std::puts("the show was not rehearsed as a whole");
+    return FindProblems({Engine, 1, 1, Of.Log(), End, {1920, 1080}, Options}).Problems.size();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QGuiApplication App(argc, argv);
+    QTemporaryDir Dir;
+    SetDocumentsPath(Dir.path());
+    MakeShow(Dir.path());
+    double Reading = 1e9, Rehearsing = 1e9;
+    size_t Problems = 0;
+    for (int I = 0; I < Runs; ++I) {
+        clsDBEngine Engine;
+        Engine.SetDBPath(Dir.path());
+        double Start = Milliseconds();
+        Engine.InitializeDB(Recovery::InMemory);
+        Reading = std::min(Reading, Milliseconds() - Start);
+        Start = Milliseconds();
+        Problems = Rehearse(Engine);
+        Rehearsing = std::min(Rehearsing, Milliseconds() - Start);
+    }
+    std::printf("Show of %d slides and %d tracks (best of %d), %zu problems\n", Slides,
+                Slides / SlidesOfTrack, Runs, Problems);
+    std::printf("  reading the database %7.1f ms\n", Reading);
+    std::printf("  rehearsing the show  %7.1f ms   %.0f x the reading (limit 1000 ms)\n",
+                Rehearsing, Rehearsing / Reading);
+    return 0;
+}

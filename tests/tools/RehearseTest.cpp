@@ -1,0 +1,285 @@
+// nebctl rehearse: the cue sheet of small shows as people and as programs read it, its exit codes,
+// and that it leaves no trace.
+#include <gtest/gtest.h>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <sstream>
+
+#include "db/Fixtures.h"
+#include "db/modAlbumFiles.h"
+#include "shell/modNEBSlideShow.h"
+#include "support/Fault.h"
+#include "tools/modCommands.h"
+
+namespace neb {
+namespace {
+
+using namespace harness;
+
+struct Outcome {
+    int Code;
+    std::string Out, Err;
+};
+
+Outcome Tool(const QStringList& Arguments) {
+    std::ostringstream Out, Err;
+    ToolIO IO{Out, Err, false};
+    const int Code = RunTool(Arguments, IO);
+    return {Code, Out.str(), Err.str()};
+}
+
+// Eight bits a sample, one channel, silence.
+QByteArray Wave(int Seconds) {
+    constexpr int Rate = 8000;
+    const int Bytes = Seconds * Rate;
+    QByteArray File;
+    const auto Put = [&File](int Number, int Size) {
+        for (int I = 0; I < Size; ++I) File.append(static_cast<char>(Number >> (8 * I)));
+    };
+    File += "RIFF";
+    Put(36 + Bytes, 4);
+    File += "WAVEfmt ";
+    for (const auto& [Number, Size] :
+         {std::pair(16, 4), {1, 2}, {1, 2}, {Rate, 4}, {Rate, 4}, {1, 2}, {8, 2}})
+        Put(Number, Size);
+    File += "data";
+    Put(Bytes, 4);
+    return File + QByteArray(Bytes, '\x80');
+}
+
+// All that lies below a directory, with contents and dates.
+QStringList Everything(const QString& Dir) {
+    QStringList All;
+    for (const DirEntry& Entry : ListDir(Dir)) {
+        const QString Path = Dir + Entry.Name;
+        All << Path << FileTime(Path)->toString(Qt::ISODateWithMs);
+        if (Entry.IsFolder)
+            All << Everything(Path + u'/');
+        else
+            All << QString::fromLatin1(ReadFile(Path).toHex());
+    }
+    return All;
+}
+
+class RehearseTest : public ::testing::Test {
+  protected:
+    // Album "Holiday" with the shows "Lake" (three slides, a track) and "Hills" (nothing).
+    RehearseTest() {
+        AppPathCache = Folder / u"program/"_s;
+        WriteAt(AppPathCache, u"NoSlide.bmp"_s, Picture);
+        WriteAt(Folder / u"docs/NEB/NEB Slide Show/"_s, u"QLM.ini"_s,
+                "Timeout=5\nUseEffectLevel=False\nDelayL=200\nStepL=5\n");
+        Change([this](clsDBEngine& Engine) {
+            std::int32_t AlbumID = 0, Lake = 0, Hills = 0;
+            Engine.SaveAlbum(AlbumID, u"Holiday"_s);
+            clsNEBAlbum& Album = *Engine.GetAlbum(AlbumID);
+            Album.SaveSlideShow(Lake, u"Lake"_s, 0, Engine);
+            Album.SaveSlideShow(Hills, u"Hills"_s, 0, Engine);
+            for (const char16_t* Caption : {u"The boat", u"Tom & Anna", u"Evening"}) {
+                std::int32_t SlideID = 0;
+                clsNEBSlide& Slide = *Album.SaveSlide2(SlideID, QString::fromUtf16(Caption), {}, {},
+                                                       false, false, Engine);
+                Slide.SlideLoc = FileStem(SlideID) + u".jpg"_s;
+                WriteAt(Slides(), Slide.SlideLoc, Picture);
+                Engine.SaveSlideShowDetail(Lake, AlbumID, SlideID, SlideID, {});
+            }
+        });
+    }
+    ~RehearseTest() override { AppPathCache.clear(); }
+
+    void WriteAt(const QString& Dir, const QString& Name, const QByteArray& Bytes) {
+        MakeDirs(Dir);
+        WriteFile(Dir + Name, Bytes);
+    }
+    QString Slides() const { return SlidesFolder(Folder / u"db/"_s, 1); }
+    QString Sounds() const { return SoundTracksFolder(Folder / u"db/"_s, 1); }
+    void Change(const std::function<void(clsDBEngine& Engine)>& Do) {
+        MakeDirs(Folder / u"db/"_s);
+        const auto Engine = OpenEngine(Folder / u"db/"_s);
+        Do(*Engine);
+        Engine->FinalizeDB();
+    }
+    void AddTrack(const QString& Name, std::int32_t From, std::int32_t To, bool Fade) {
+        Change([&](clsDBEngine& Engine) {
+            Engine.SaveSlideShowSoundTrack(1, 1, 1, Name, From, To, false, false, Fade);
+        });
+    }
+    Outcome Rehearse(const QStringList& More = {}, const QString& Show = u"lake"_s) {
+        return Tool(QStringList{u"rehearse"_s, Folder / u"db"_s, u"--album"_s, u"HOLIDAY"_s,
+                                u"--show"_s, Show, u"--documents"_s, Folder / u"docs"_s} +
+                    More);
+    }
+
+    static inline const QByteArray Picture = QByteArray::fromHex("ffd8ffe000104a464946000101");
+    TempFolder Folder;
+};
+
+TEST_F(RehearseTest, PrintsTheCueSheetOfASilentShow) {
+    const Outcome Result = Rehearse();
+    EXPECT_EQ(
+        "Album \"Holiday\", show \"Lake\": automatic, 5 s a slide\n"
+        "\n"
+        "  Time  Slide    For  Caption     Picture       Transition      Takes  What it does\n"
+        "0:00.0      1  5.0 s  The boat    00000001.jpg    1 Cross Fade  0.4 s  silent\n"
+        "0:05.0      2  5.0 s  Tom & Anna  00000002.jpg    2 Wipe Right  0.4 s  silent\n"
+        "0:10.0      3  5.0 s  Evening     00000003.jpg    3 Push Left   0.4 s  silent\n"
+        "\n"
+        "3 slides, running time 0:15.0, no problems.\n",
+        Result.Out);
+    EXPECT_EQ("", Result.Err);
+    EXPECT_EQ(ExitDone, Result.Code);
+}
+
+TEST_F(RehearseTest, PrintsWhatTheSoundDoesAndWhatIsWrong) {
+    AddTrack(u"song.wav"_s, 1, 2, true);
+    WriteAt(Sounds(), u"song.wav"_s, Wave(12));
+    DeleteFile(Slides() + u"00000003.jpg"_s);
+    const Outcome Result = Rehearse();
+    EXPECT_EQ(
+        "Album \"Holiday\", show \"Lake\": automatic, 5 s a slide\n"
+        "\n"
+        "  Time  Slide    For  Caption                          Picture       Transition        "
+        "Takes  Sound       From  Volume  What it does\n"
+        "0:00.0      1  5.0 s  The boat                         00000001.jpg    1 Cross Fade    "
+        "0.4 s  song.wav  0:00.0     100  starts\n"
+        "0:05.0      2  5.0 s  Tom & Anna                       00000002.jpg    2 Wipe Right    "
+        "0.4 s  song.wav  0:05.0     100  goes on, fades to 2\n"
+        "0:10.0      3  5.0 s  Evening: Current slide missing!  NoSlide.bmp       plain change  "
+        "0.0 s                            silent\n"
+        "\n"
+        "Problems:\n"
+        "  slide 3: the picture is missing (NoSlide.bmp takes its place): " +
+            (Slides() + u"00000003.jpg"_s).toStdString() +
+            "\n\n"
+            "Notes:\n"
+            "  sound track 1 (song.wav, slides 1 to 2): it is cut off when its slides end, after "
+            "10.0 s of its 12.0 s\n"
+            "\n"
+            "3 slides, running time 0:15.0, 1 problem, 1 note.\n",
+        Result.Out);
+    EXPECT_EQ("", Result.Err);
+    EXPECT_EQ(ExitFound, Result.Code);
+}
+
+TEST_F(RehearseTest, PrintsTheSameAsJson) {
+    AddTrack(u"song.wav"_s, 1, 2, false);
+    WriteAt(Sounds(), u"song.wav"_s, Wave(7));
+    const Outcome Result = Rehearse({u"--json"_s, u"--screen"_s, u"1280x1024"_s});
+    QJsonParseError Error;
+    const QJsonObject All =
+        QJsonDocument::fromJson(QByteArray::fromStdString(Result.Out), &Error).object();
+    ASSERT_EQ(QJsonParseError::NoError, Error.error) << Result.Out;
+    EXPECT_EQ(All.keys(),
+              QStringList({"Album", "Cues", "End", "Manual", "Notes", "Problems", "RunningTime",
+                           "ScreenHeight", "ScreenWidth", "Show", "Timeout"}));
+    EXPECT_EQ("Lake", All["Show"].toString().toStdString());
+    EXPECT_EQ(1280, All["ScreenWidth"].toInt());
+    EXPECT_EQ(15, All["RunningTime"].toDouble());
+    EXPECT_EQ("came round", All["End"].toString().toStdString());
+    ASSERT_EQ(3, All["Cues"].toArray().size());
+    const QByteArray Second =
+        QJsonDocument(All["Cues"].toArray()[1].toObject()).toJson(QJsonDocument::Compact);
+    EXPECT_EQ(
+        "{\"Caption\":\"Tom & Anna\",\"EffectName\":\"Wipe Right\",\"EffectNumber\":2,"
+        "\"EffectSeconds\":0.4,\"FitToSong\":false,\"Picture\":\"" +
+            (Slides() + u"00000002.jpg"_s).toStdString() +
+            "\",\"Seconds\":5,\"SlideID\":2,\"SlideSeq\":2,\"Sound\":{\"Duration\":7,"
+            "\"EndVolume\":100,\"EndsAt\":7,\"File\":\"" +
+            (Sounds() + u"song.wav"_s).toStdString() +
+            "\",\"Loops\":0,\"Position\":5,\"Volume\":100,\"What\":\"goes on\"},\"Time\":5}",
+        Second.toStdString());
+    const QJsonObject Problem = All["Problems"].toArray()[0].toObject();
+    EXPECT_EQ(1, Problem["SlideSeq"].toInt());
+    EXPECT_EQ(
+        "sound track 1 (song.wav, slides 1 to 2): it is 7.0 s long and falls silent on slide "
+        "2, 3.0 s before its last slide is over",
+        Problem["Text"].toString().toStdString());
+    EXPECT_EQ(0, All["Notes"].toArray().size());
+    EXPECT_EQ(ExitFound, Result.Code);
+}
+
+TEST_F(RehearseTest, RehearsesAShowWithNothingInIt) {
+    const Outcome Result = Rehearse({}, u"Hills"_s);
+    EXPECT_EQ(
+        "Album \"Holiday\", show \"Hills\": automatic, 5 s a slide\n"
+        "\n"
+        "Problems:\n"
+        "  the show has no slides\n"
+        "\n"
+        "no slides, running time 0:00.0, 1 problem; the show stops by itself.\n",
+        Result.Out);
+    EXPECT_EQ(ExitFound, Result.Code);
+}
+
+TEST_F(RehearseTest, SaysWhatThereIsWhenANameIsUnknown) {
+    const QString Db = Folder / u"db"_s;
+    EXPECT_EQ("nebctl: There is no album \"Work\"; there are: \"Holiday\".\n",
+              Tool({u"rehearse"_s, Db, u"--album"_s, u"Work"_s, u"--show"_s, u"Lake"_s}).Err);
+    const Outcome NoShow = Rehearse({}, u"Sea"_s);
+    EXPECT_EQ("nebctl: There is no show \"Sea\"; there are: \"Lake\", \"Hills\".\n", NoShow.Err);
+    EXPECT_EQ("", NoShow.Out);
+    EXPECT_EQ(ExitFailed, NoShow.Code);
+    EXPECT_EQ("nebctl: --album NAME is wanted; there are: \"Holiday\".\n",
+              Tool({u"rehearse"_s, Db}).Err);
+}
+
+TEST_F(RehearseTest, RefusesWhatItDoesNotUnderstand) {
+    const QString Db = Folder / u"db"_s;
+    for (const QStringList& Words : {QStringList{u"--screen"_s, u"wide"_s},
+                                     {u"--album"_s},
+                                     {u"--screen"_s},
+                                     {u"--loud"_s},
+                                     {Db}})
+        EXPECT_EQ(ExitFailed, Rehearse(Words).Code) << Words.join(u' ').toStdString();
+    EXPECT_EQ(ExitFailed, Tool({u"rehearse"_s}).Code);
+    EXPECT_EQ(ExitFailed, Tool({u"rehearse"_s, Folder / u"none"_s}).Code);
+}
+
+TEST_F(RehearseTest, LeavesNoTraceOnTheDisk) {
+    AddTrack(u"song.wav"_s, 1, 3, false);
+    WriteAt(Sounds(), u"song.wav"_s, Wave(7));
+    WriteAt(Folder / u"docs/NEB/NEB Slide Show/"_s, u"QLM.ini"_s,
+            "Timeout=5\nActiveAlbum=1\nActiveSlideShow=1\nNextSlideSeq=2\nno setting\n");
+    const QStringList Before = Everything(Folder.Path());
+    EXPECT_EQ(ExitFound, Rehearse().Code);
+    EXPECT_EQ(ExitFound, Rehearse({u"--json"_s}).Code);
+    EXPECT_EQ(Before, Everything(Folder.Path()));
+}
+
+TEST_F(RehearseTest, MakesNoFolderForSettingsThatAreNotThere) {
+    Change([](clsDBEngine&) {});
+    const QString Away = Folder / u"away"_s;
+    EXPECT_EQ(ExitDone, Tool({u"rehearse"_s, Folder / u"db"_s, u"--album"_s, u"Holiday"_s,
+                              u"--show"_s, u"Lake"_s, u"--documents"_s, Away})
+                            .Code);
+    EXPECT_FALSE(NameExists(Away));
+}
+
+TEST_F(RehearseTest, RehearsesByTheRecordsThatTheNextStartWillFind) {
+    {
+        const auto Engine = OpenEngine(Folder / u"db/"_s);
+        Engine->Albums[0]->Slides[0]->SlideText = u"The ship"_s;
+        SetHostWatcher([](HostStep Step, const QString& Path, qint64&) {
+            if (Step == HostStep::Write && Path.endsWith(u"Slides.dat")) throw Fault(u"no"_s, Path);
+        });
+        EXPECT_THROW(Engine->FinalizeDB(), Fault);
+        SetHostWatcher({});
+    }
+    const QStringList Before = Everything(Folder.Path());
+    EXPECT_NE(std::string::npos, Rehearse().Out.find("The ship"));
+    EXPECT_EQ(Before, Everything(Folder.Path()));
+}
+
+TEST_F(RehearseTest, ExplainsItself) {
+    const Outcome Help = Tool({u"rehearse"_s, u"--help"_s});
+    EXPECT_EQ(ExitDone, Help.Code);
+    for (const char* Word : {"--album NAME", "--show NAME", "--json", "--screen WxH",
+                             "--documents DIR", "EffectSeconds", "EndsAt", "Exit code"})
+        EXPECT_NE(std::string::npos, Help.Out.find(Word)) << Word;
+    EXPECT_NE(std::string::npos, Tool({u"--help"_s}).Out.find("rehearse"));
+}
+
+}  // namespace
+}  // namespace neb
