@@ -100,6 +100,7 @@ RehearsalEnd Rehearsal::RunRound() {
         Ticking& Next = *NextTimer();
         if (mRun.IsManual() && NextPress() <= Next.Due) {
             AdvanceTo(NextPress());
+            mPressed = mClock.Milliseconds();
             TakeStep([this] { mRun.NextSlide(); });
         } else {
             Fire(Next);
@@ -111,8 +112,9 @@ RehearsalEnd Rehearsal::RunRound() {
 
 // When somebody who leaves each slide its time asks for the next one; in milliseconds.
 qint64 Rehearsal::NextPress() const {
-    const double At = mLog.Cues.empty() ? 0 : mLog.Cues.back().At;
-    return qRound64((At + mRun.SoundFields().SlideInterval) * 1000);
+    constexpr qint64 Quickest = 100;
+    const qint64 Interval = qRound64(mRun.SoundFields().SlideInterval * 1000);
+    return std::max(mPressed, mCueBegan) + std::max(Quickest, Interval);
 }
 
 Rehearsal::Ticking* Rehearsal::NextTimer() {

@@ -102,6 +102,7 @@ class Rehearsal : private ShowStage {
     RehearsalCue mNext;    // the slide that is on its way
     qint64 mCueBegan = 0;  // milliseconds, of the slide that is up
     int mEffectDelay = 0, mEffectStep = 100;
+    qint64 mPressed = 0;  // milliseconds, when the next slide was asked for
     bool mOneRound = false, mRoundIsOver = false;
     const std::int32_t mSlideShowID;
     ShowRun mRun;

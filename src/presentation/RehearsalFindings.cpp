@@ -2,8 +2,6 @@
 // RehearsalTracks.cpp.
 #include "presentation/RehearsalFindings.h"
 
-#include <algorithm>
-
 #include "db/modAlbumFiles.h"
 #include "presentation/CaptionFit.h"
 #include "presentation/RehearsalNotebook.h"
@@ -16,22 +14,30 @@ namespace {
 using Notebook = RehearsalNotebook;
 
 // A run of places without slides ends the round: what lies behind it never comes up.
-void CheckGaps(Notebook& Book) {
+void CheckGap(Notebook& Book, std::int32_t First, std::int32_t Next) {
+    const QString Where = SlidesText(First, Next - 1);
+    if (First > 1)
+        return Book.Problem(First,
+                            QStringLiteral("%1: nothing has this place; the show goes back to "
+                                           "its start there, and slide %2 never comes up by "
+                                           "itself")
+                                .arg(Where)
+                                .arg(Next));
+    Book.Problem(First,
+                 QStringLiteral("%1: nothing has this place; the show cannot start").arg(Where));
+    Book.Explain(First, RehearsalBoxFrom::Run);
+}
+
+void CheckPlaces(Notebook& Book) {
     std::int32_t Before = 0;
-    std::vector<std::int32_t> Places(Book.Details.keyBegin(), Book.Details.keyEnd());
-    std::sort(Places.begin(), Places.end());
-    for (const std::int32_t Place : Places) {
+    for (const std::int32_t Place : Book.Places) {
         if (Place < 1)
             Book.OfSlide(Place, QStringLiteral("no show comes to this place"));
         else if (Place > Before + 1)
-            Book.Problem(Before + 1,
-                         QStringLiteral("%1: nothing has this place; the show goes back to its "
-                                        "start there, and slide %2 never comes up by itself")
-                             .arg(SlidesText(Before + 1, Place - 1))
-                             .arg(Place));
+            CheckGap(Book, Before + 1, Place);
         Before = std::max(Before, Place);
     }
-    if (!Places.empty()) return;
+    if (Before > 0) return;
     Book.Problem(0, QStringLiteral("the show has no slides"));
     Book.Explain(1, RehearsalBoxFrom::Run);
 }
@@ -127,7 +133,7 @@ void CheckEnd(Notebook& Book) {
 RehearsalFindings FindProblems(const RehearsedShow& Show) {
     Notebook Book(Show);
     CheckEnd(Book);
-    CheckGaps(Book);
+    CheckPlaces(Book);
     CheckDoubles(Book);
     for (const auto& Detail : Book.SlideShow.Details)
         if (Book.Details.value(Detail->SlideSeq) == Detail.get()) CheckDetail(Book, *Detail);

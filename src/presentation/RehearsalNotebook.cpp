@@ -45,9 +45,11 @@ RehearsalNotebook::RehearsalNotebook(const RehearsedShow& Of)
       SlideShow(*Album.GetSlideShow(Of.SlideShowID)),
       IsManual(SlideShow.ProgressionMethod != 0) {
     for (const auto& Detail : SlideShow.Details) {
-        if (!Details.contains(Detail->SlideSeq)) Details.insert(Detail->SlideSeq, Detail.get());
-        LastPlace = std::max(LastPlace, Detail->SlideSeq);
+        if (Details.contains(Detail->SlideSeq)) continue;
+        Details.insert(Detail->SlideSeq, Detail.get());
+        Places.push_back(Detail->SlideSeq);
     }
+    std::sort(Places.begin(), Places.end());
     for (const RehearsalCue& Cue : Of.Log.Cues) mCues.insert(Cue.SlideSeq, &Cue);
 }
 

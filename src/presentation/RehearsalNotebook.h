@@ -30,9 +30,9 @@ class RehearsalNotebook {
     clsNEBAlbum& Album;
     const clsNEBSlideShow& SlideShow;
     const bool IsManual;
-    // The details by their places, each place's first; and the last place.
+    // The details by their places, each place's first; the places in their order.
     QHash<std::int32_t, const clsNEBSlideShowDetail*> Details;
-    std::int32_t LastPlace = 0;
+    std::vector<std::int32_t> Places;
 
     void Problem(std::int32_t SlideSeq, const QString& Text);
     void Note(std::int32_t SlideSeq, const QString& Text);

@@ -1,5 +1,6 @@
 // The sound tracks of a rehearsed show: files, reach, overlaps, fades, lengths.
 #include <algorithm>
+#include <span>
 
 #include "db/modAlbumFiles.h"
 #include "presentation/RehearsalNotebook.h"
@@ -13,20 +14,13 @@ using Track = clsNEBSlideShowSoundTrack;
 
 constexpr double Unnoticed = 0.5;  // seconds of silence or sound that nobody misses
 
-// The slides of the show that lie in its reach; First > Last: none.
-struct Reach {
-    std::int32_t First = 0, Last = -1;
-};
+// The places of the show from Start to End.
+using Reach = std::span<const std::int32_t>;
 
 Reach ReachOf(const Notebook& Book, std::int32_t Start, std::int32_t End) {
-    Reach Found;
-    for (const std::int32_t Place : Book.Details.keys()) {
-        if (Place < Start || Place > End) continue;
-        Found = Found.Last < Found.First
-                    ? Reach{Place, Place}
-                    : Reach{std::min(Found.First, Place), std::max(Found.Last, Place)};
-    }
-    return Found;
+    if (Start > End) return {};
+    const auto First = std::lower_bound(Book.Places.begin(), Book.Places.end(), Start);
+    return {First, std::upper_bound(First, Book.Places.end(), End)};
 }
 
 // One track: its findings begin with its number, its file and its slides.
@@ -38,7 +32,7 @@ class TrackCheck {
           mPath(Book.AlbumFile(SoundTracksFolder, Of.SoundTrackLoc)),
           mReach(ReachOf(Book, Of.SlideSeqStart, Of.SlideSeqEnd)),
           mFacts(Book.LookAtSound(mPath)) {
-        for (std::int32_t Place = mReach.First; Place <= mReach.Last; ++Place) TakeCue(Place);
+        for (const std::int32_t Place : mReach) TakeCue(Place);
     }
 
     void Run() {
@@ -86,8 +80,7 @@ void TrackCheck::TakeCue(std::int32_t Place) {
 
 void TrackCheck::ExplainBoxes() {
     if (mFacts.State == SoundState::Sound) return;
-    for (std::int32_t Place = mReach.First; Place <= mReach.Last; ++Place)
-        mBook.Explain(Place, RehearsalBoxFrom::Sound);
+    for (const std::int32_t Place : mReach) mBook.Explain(Place, RehearsalBoxFrom::Sound);
 }
 
 bool TrackCheck::HasSlides() {
@@ -98,9 +91,9 @@ bool TrackCheck::HasSlides() {
                            "%4, so that it is never heard")
                 .arg(QString::number(mTrack.SoundTrackSeq), GetFileName(mPath),
                      QString::number(mTrack.SlideSeqStart), QString::number(mTrack.SlideSeqEnd)));
-    else if (mReach.First > mReach.Last)
+    else if (mReach.empty())
         Tell(QStringLiteral("the show has no such slide, so that it is never heard"));
-    return mReach.First <= mReach.Last;
+    return !mReach.empty();
 }
 
 QString TrackCheck::WhyNoFade() const {
@@ -120,7 +113,7 @@ void TrackCheck::CheckFade() {
 }
 
 void TrackCheck::CheckFitted() {
-    const double Each = mFacts.Length / (mTrack.SlideSeqEnd - mTrack.SlideSeqStart + 1);
+    const double Each = mFacts.Length / (1.0 + mTrack.SlideSeqEnd - mTrack.SlideSeqStart);
     if (Each < 1) Tell(QStringLiteral("its slides stay up for %1 each").arg(SecondsText(Each)));
     for (const RehearsalCue* Cue : mCues)
         if (Cue->EffectSeconds > Cue->SlideInterval)
@@ -162,13 +155,14 @@ void TrackCheck::CheckCut() {
 void CheckOverlap(Notebook& Book, const Track& First, const Track& Second) {
     const Reach Both = ReachOf(Book, std::max(First.SlideSeqStart, Second.SlideSeqStart),
                                std::min(First.SlideSeqEnd, Second.SlideSeqEnd));
-    if (Both.First > Both.Last) return;
-    Book.Problem(Both.First,
-                 QStringLiteral(
-                     "%1: sound track %2 (%3) and sound track %4 (%5) overlap; number %2 is heard")
-                     .arg(SlidesText(Both.First, Both.Last), QString::number(First.SoundTrackSeq),
-                          GetFileName(First.SoundTrackLoc), QString::number(Second.SoundTrackSeq),
-                          GetFileName(Second.SoundTrackLoc)));
+    if (Both.empty()) return;
+    Book.Problem(
+        Both.front(),
+        QStringLiteral(
+            "%1: sound track %2 (%3) and sound track %4 (%5) overlap; number %2 is heard")
+            .arg(SlidesText(Both.front(), Both.back()), QString::number(First.SoundTrackSeq),
+                 GetFileName(First.SoundTrackLoc), QString::number(Second.SoundTrackSeq),
+                 GetFileName(Second.SoundTrackLoc)));
 }
 
 }  // namespace

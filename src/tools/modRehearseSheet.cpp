@@ -206,10 +206,10 @@ void PutFindings(JsonWriter& Json, const char* Name,
 }  // namespace
 
 void PrintCueSheet(const CueSheet& Sheet, std::ostream& Out) {
-    PrintLine(Out, QStringLiteral("Album \"%1\", show \"%2\": %3, %4 s a slide")
+    PrintLine(Out, QStringLiteral("Album \"%1\", show \"%2\": %3 %4 s a slide")
                        .arg(Sheet.Album, Sheet.SlideShow.SlideShowName,
-                            Sheet.SlideShow.ProgressionMethod == 0 ? QStringLiteral("automatic")
-                                                                   : QStringLiteral("manual"),
+                            Sheet.SlideShow.ProgressionMethod == 0 ? QStringLiteral("automatic,")
+                                                                   : QStringLiteral("manual, here"),
                             QString::number(Sheet.Timeout)));
     if (!Sheet.Run.Log.Cues.empty()) PrintTable(Sheet.Run.Log.Cues, Out);
     PrintFindings("Problems", Sheet.Findings.Problems, Out);

@@ -75,6 +75,36 @@ TEST_F(RehearsalFindingsTest, PlacesThatAreMissingOrTakenTwice) {
         Found());
 }
 
+TEST_F(RehearsalFindingsTest, ShowsWithoutAFirstSlide) {
+    AddSlides(1);
+    SlideShow->Details[0]->SlideSeq = 3;
+    EXPECT_EQ("slides 1 to 2: nothing has this place; the show cannot start\n", Found());
+}
+
+TEST_F(RehearsalFindingsTest, TracksAndPlacesOfAnyNumberAtAll) {
+    constexpr std::int32_t Last = std::numeric_limits<std::int32_t>::max();
+    AddSlides(2);
+    SlideShow->Details[1]->SlideSeq = Last;
+    AddTrack(u"song.mp3"_s, 2, Last, 10).FitToSong = true;
+    AddTrack(u"two.mp3"_s, -Last, Last - 1, 5);
+    EXPECT_EQ(
+        "slides 2 to 2147483646: nothing has this place; the show goes back to its start there, "
+        "and slide 2147483647 never comes up by itself\n",
+        Found());
+}
+
+TEST_F(RehearsalFindingsTest, BoxesThatNothingElseExplains) {
+    AddSlides(2);
+    RehearsalLog Log;
+    Log.Boxes = {{0, 2, u"Out of\npaper"_s, RehearsalBoxFrom::Fault},
+                 {5, 2, u"Out of\npaper"_s, RehearsalBoxFrom::Fault}};
+    const RehearsalFindings Findings =
+        FindProblems({Engine, Album, Show, Log, RehearsalEnd::CameRound, Screen, Options()});
+    const std::vector<RehearsalFinding> Wanted = {
+        {2, u"slide 2: a box comes up: \"Out of paper\""_s}};
+    EXPECT_EQ(Wanted, Findings.Problems);
+}
+
 TEST_F(RehearsalFindingsTest, ShowsWithoutSlides) {
     EXPECT_EQ("the show has no slides\n", Found());
 }

@@ -56,6 +56,83 @@ TEST_F(RehearsalRig, WaitsForTheUserInAManualShowOtherwise) {
     EXPECT_EQ("1@0 3@100 1@101", Places(Of));
 }
 
+TEST_F(RehearsalRig, GoesOnWhereTheShowWasLeftUnlessItIsTheWholeShow) {
+    AddSlides(3);
+    Put("ActiveAlbum", QString::number(Album));
+    Put("ActiveSlideShow", QString::number(Show));
+    Put("NextSlideSeq", u"3"_s);
+    {
+        Rehearsal Of(Engine, Album, Show);
+        Of.Start();
+        Of.RunFor(5);
+        EXPECT_EQ("3@0 1@5", Places(Of));
+    }
+    Rehearsal Whole(Engine, Album, Show);
+    Whole.RunWhole();
+    EXPECT_EQ("1@0 2@5 3@10", Places(Whole));
+}
+
+TEST_F(RehearsalRig, TellsOfFaultsAndGoesOn) {
+    AddSlides(3);
+    for (const int Manual : {0, 1}) {
+        SlideShow->ProgressionMethod = Manual;
+        RehearsalOptions Failing;
+        Failing.CanReadPicture = [this](const QString& Path) {
+            if (Path == PicturePath(2)) throw Fault(u"The disk is gone."_s, Path);
+            return true;
+        };
+        Rehearsal Of(Engine, Album, Show, Failing);
+        EXPECT_EQ(RehearsalEnd::CameRound, Of.RunWhole());
+        EXPECT_EQ("1@0 3@10", Places(Of));
+        ASSERT_EQ(1u, Of.Boxes().size());
+        EXPECT_EQ(RehearsalBoxFrom::Fault, Of.Boxes()[0].From);
+        EXPECT_EQ(2, Of.Boxes()[0].SlideSeq);
+    }
+}
+
+TEST_F(RehearsalRig, TakesTheUsersSteps) {
+    AddSlides(4);
+    Rehearsal Of(Engine, Album, Show);
+    Of.Start();
+    Of.RunFor(2);
+    Of.Run().NextSlide();
+    Of.RunFor(1);
+    Of.Run().PlayPause();
+    EXPECT_FALSE(Of.Timer1On());
+    EXPECT_TRUE(Of.Timer2On());
+    Of.RunFor(60);
+    Of.Run().PlayPause();
+    Of.RunFor(4.9);
+    EXPECT_EQ("1@0 2@2", Places(Of));
+    Of.RunFor(0.1);
+    Of.Run().StopRestart();
+    EXPECT_FALSE(Of.Timer2On());
+    EXPECT_EQ("1@0 2@2 3@68", Places(Of));
+}
+
+TEST_F(RehearsalRig, PassesMidnight) {
+    AddSlides(2);
+    Put("Timeout", u"40000"_s);
+    Rehearsal Of(Engine, Album, Show);
+    EXPECT_EQ(RehearsalEnd::CameRound, Of.RunWhole());
+    EXPECT_EQ("1@0 2@40000", Places(Of));
+    EXPECT_EQ(80000, Of.Now());
+}
+
+// The clock of the slides was set going before the watch over the sound: what falls due together
+// comes in that order.
+TEST_F(RehearsalRig, TicksInTheOrderOfStarting) {
+    AddSlides(2);
+    AddTrack(u"song.mp3"_s, 1, 2, 5).Repeat = true;
+    Rehearsal Of(Engine, Album, Show, Options());
+    Of.RunWhole();
+    ASSERT_EQ(2u, Of.Cues().size());
+    EXPECT_EQ(0, Of.Cues()[0].Sound.Loops);
+    EXPECT_EQ(5, Of.Cues()[0].Sound.EndsAt);
+    EXPECT_EQ(CueSoundKind::Over, Of.Cues()[1].Sound.Kind);
+    EXPECT_EQ(1, Of.Cues()[1].Sound.Loops);
+}
+
 TEST_F(RehearsalRig, LeavesEverythingAsItWas) {
     AddSlides(2);
     clsDBEngine Other;
