@@ -17,7 +17,6 @@ class Ramp {
         mLeft = Frames;
         mStep = (Goal - mLevel) / static_cast<float>(Frames);
     }
-    void JumpToGoal() { JumpTo(mGoal); }
     bool IsStill() const { return mLeft == 0; }
     float Level() const { return mLevel; }
     // The level of the next frame.

@@ -98,14 +98,14 @@ std::optional<MpegFrame> FrameWalk::FrameAt(qint64 At) {
     return ReadMpegHeader(Header);
 }
 
-// Whether a frame is the first of a row. A short sound may end before the row is complete, but
-// then it has to be the whole file.
+// Whether a frame is the first of a row. A short sound may end after two, but then it has to be
+// the whole file.
 bool FrameWalk::BeginsARow(qint64 At, MpegFrame Frame) {
     const bool FromTheStart = At == 0;
     const quint32 Kind = Frame.Kind;
     for (int Count = 1; Count < FramesInARow; ++Count) {
         At += Frame.Bytes;
-        if (At + HeaderLength > mEnd) return FromTheStart && (At == mEnd || Count > 1);
+        if (At + HeaderLength > mEnd) return FromTheStart && Count > 1;
         const auto Next = FrameAt(At);
         if (!Next || Next->Kind != Kind) return false;
         Frame = *Next;

@@ -45,6 +45,12 @@ const SoundSource::Part& SoundSource::PartAt(qint64 Place) const {
     return *std::prev(Next);
 }
 
+void SoundSource::Correct(qint64 At, const QByteArray& Bytes) {
+    mCorrectAt = mWindow.First + At;
+    mCorrect = Bytes;
+    mBlock.clear();
+}
+
 bool SoundSource::LoadBlock(qint64 At) {
     mBlockAt = At;
     mBlock.resize(BlockLength);
@@ -53,6 +59,10 @@ bool SoundSource::LoadBlock(qint64 At) {
         mBlock.resize(mReader.Read(mBlock.data(), BlockLength));
     } catch (const Fault&) {
         mBlock.clear();
+    }
+    for (qint64 I = 0; I < mCorrect.size(); ++I) {
+        const qint64 Its = mCorrectAt + I - mBlockAt;
+        if (Its >= 0 && Its < mBlock.size()) mBlock[Its] = mCorrect[I];
     }
     return !mBlock.isEmpty();
 }

@@ -28,6 +28,8 @@ class SoundSource {
     // Of what Narrow left, these pieces alone, one behind the other, in place of those kept before;
     // none: all of it. The place is the start.
     void Keep(const std::vector<SoundPiece>& Pieces);
+    // Bytes that are to be read in place of those in the file, at a place.
+    void Correct(qint64 At, const QByteArray& Bytes);
     qint64 Read(void* Into, qint64 MaxLength);  // bytes read: fewer at the end alone, then 0
     // As fseek does it: SEEK_SET, SEEK_CUR, SEEK_END. The new place, or -1 and all as before for
     // one that is not in the file.
@@ -48,6 +50,8 @@ class SoundSource {
     HostReader mReader;
     SoundPiece mWindow;  // what Narrow left
     std::vector<Part> mParts;
+    qint64 mCorrectAt = 0;  // in the whole file
+    QByteArray mCorrect;
     qint64 mLength = 0;
     qint64 mPlace = 0;
     QByteArray mBlock;  // what was read last, from mBlockAt of the whole file

@@ -77,7 +77,7 @@ WaveSound::WaveSound(std::unique_ptr<SoundSource> Source) : mSource(std::move(So
     // The length that the file tells may be wrong (it was cut, or a recording was never closed):
     // then what can be decoded counts.
     mFrames = Its.Frames;
-    if (!IsThere(Its.Frames - 1)) mFrames = MoveTo(0) ? Skip(MostCounted) : 0;
+    if (!IsThere(Its.Frames - 1)) mFrames = Open().Channels == mChannels ? Skip(MostCounted) : 0;
     Check(MoveTo(0) || mFrames == 0, QStringLiteral("The sound is damaged and cannot be played."),
           *mSource);
 }
@@ -104,9 +104,10 @@ qint64 WaveSound::Decode(float* Into, qint64 MaxFrames) {
     return sf_readf_float(mFile.get(), Into, MaxFrames);
 }
 
-// A few old kinds (GSM) can only be read from the start.
+// A few old kinds (GSM) can only be read from the start, and some decoders go on after an error
+// only then.
 bool WaveSound::MoveTo(qint64 Frame) {
-    if (mCanSeek) return sf_seek(mFile.get(), Frame, SEEK_SET) == Frame;
+    if (mCanSeek && sf_seek(mFile.get(), Frame, SEEK_SET) == Frame) return true;
     return Open().Channels == mChannels && Skip(Frame) == Frame;
 }
 

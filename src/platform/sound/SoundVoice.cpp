@@ -13,8 +13,6 @@ constexpr int AheadFrames = kMixRate;  // a second
 constexpr int PieceFrames = 2048;
 constexpr int VolumeFrames = kMixRate / 100;  // of a change of volume
 constexpr int Silence = -10000;
-// Enough for the device to ask once without running dry at once again.
-constexpr int StartFrames = kDeviceFrames + kFadeFrames;
 
 float GainOf(int Hundredths) {
     return Hundredths <= Silence ? 0 : static_cast<float>(std::pow(10.0, Hundredths / 2000.0));
@@ -170,13 +168,12 @@ int SoundVoice::Playable() const {
 
 bool SoundVoice::CanSound() const {
     if (!mRunning || mAtEnd) return false;
-    return mSounding || mAllFed || mRing.Count() >= StartFrames;
+    return mSounding || mAllFed || Playable() > 0;
 }
 
 // The start of a file is as its maker wanted it; elsewhere it would begin with a click.
 void SoundVoice::BeginToSound() {
     mSounding = true;
-    mGain.JumpToGoal();
     mFade.JumpTo(1);
     if (mBase == 0 && mPlayed == 0) return;
     mFade.JumpTo(0);

@@ -24,6 +24,7 @@ DesktopServices::DesktopServices() {
     TheServices().Boxes = &mBoxes;
     TheServices().Dialogs = &mDialogs;
     TheServices().Blanking = &mBlanking;
+    TheServices().Sound = &mSound;
     XShow::SetReader(&ReadPicture);
 }
 
@@ -31,6 +32,7 @@ DesktopServices::~DesktopServices() {
     TheServices().Boxes = nullptr;
     TheServices().Dialogs = nullptr;
     TheServices().Blanking = nullptr;
+    TheServices().Sound = nullptr;
 }
 
 }  // namespace neb

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/ScreenBlanking.h"
+#include "platform/sound/SdlSoundDevices.h"
 #include "support/windows/DesktopBoxes.h"
 
 namespace neb {
@@ -18,6 +19,7 @@ class DesktopServices {
     DesktopBoxes mBoxes;
     DesktopFileDialogs mDialogs;
     DesktopScreenBlanking mBlanking;
+    SdlSoundDevices mSound;
 };
 
 }  // namespace neb

@@ -61,6 +61,24 @@ TEST(SoundKeeper, ADeviceThatTakesTooLongToOpenIsStoodInForByAClock) {
     EXPECT_NEAR(Now + 0.01, P.Position(), 1e-9);
 }
 
+TEST(SoundKeeper, WithoutADeviceTheClockStartsAtOnce) {
+    PluggedPlayers P;
+    P.Socket->State = PlaybackState::Missing;
+    P.Times.FirstWait = 10s;
+    P.Start();
+    EXPECT_TRUE(WaitUntil([&] { return P.Position() > 0; }, 1s));
+}
+
+TEST(SoundKeeper, ADeviceThatNeverAsksIsNotTriedInHaste) {
+    PluggedPlayers P;
+    P.Times.Stall = 20ms;
+    P.Times.Retry = 10s;
+    P.Start();
+    ASSERT_TRUE(WaitUntil([&] { return P.Socket->Closings == 1; }));
+    std::this_thread::sleep_for(150ms);
+    EXPECT_EQ(1, P.Socket->Openings);
+}
+
 TEST(SoundKeeper, TheClockKeepsTime) {
     PluggedPlayers P;
     P.Socket->State = PlaybackState::Missing;
@@ -184,6 +202,16 @@ TEST(SoundKeeper, TheCheckTellsWhatOpeningTheDeviceSays) {
         P.Make();
         EXPECT_EQ(State, P.Players->Keeper().Check(2s));
     }
+}
+
+TEST(SoundKeeper, ALaterCheckLooksAnew) {
+    PluggedPlayers P;
+    P.Socket->State = PlaybackState::Missing;
+    P.Make();
+    EXPECT_EQ(PlaybackState::Missing, P.Players->Keeper().Check(2s));
+    std::this_thread::sleep_for(2 * P.Times.Linger);
+    P.Socket->State = PlaybackState::Ready;
+    EXPECT_EQ(PlaybackState::Ready, P.Players->Keeper().Check(2s));
 }
 
 TEST(SoundKeeper, TheCheckDoesNotWaitForADeviceThatTakesItsTime) {

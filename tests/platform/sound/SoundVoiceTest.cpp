@@ -99,6 +99,17 @@ TEST(SoundVoice, AtTheEndThePositionIsExactlyTheDurationAtEveryRateAndLength) {
         }
 }
 
+TEST(SoundVoice, NoPlaceBeforeTheEndReadsAsTheEnd) {
+    PulledMixer Pulled;
+    const auto Voice = Pulled.Voice({Constant(0.1F), 8000, 8000});
+    Voice->PutPosition(4000.4 / 8000);
+    Voice->Run();
+    Pulled.Pull(22049);
+    EXPECT_LT(Voice->Position(), 1);
+    Pulled.Pull(1);
+    EXPECT_EQ(1, Voice->Position());
+}
+
 TEST(SoundVoice, AnEmptyFileIsAtItsEndFromTheStart) {
     PulledMixer Pulled;
     const auto Voice = Pulled.RunningVoice({Count(), 0});
