@@ -1,30 +1,16 @@
 // usage: neb-demo --folder PICTURES --documents DIR --screenshots DIR [--show NAME] [--music DIR]
 #include <QCommandLineParser>
-#include <QtEndian>
 #include <cstdio>
 
 #include "Tour.h"
 #include "TourMusic.h"
 #include "TourSound.h"
 #include "TourSteps.h"
-#include "platform/sound/ClockedSound.h"
 #include "shell/main/DesktopServices.h"
 #include "shell/main/frmNEBSlideShow.h"
 #include "shell/modNEBSlideShow.h"
 #include "support/Services.h"
-#include "support/modHostFiles.h"
 #include "support/windows/NebApplication.h"
-
-namespace {
-
-// Until the machine's own sound is there: the length from the head of a WAV file.
-double WaveSeconds(const QString& Path) {
-    const QByteArray Head = neb::ReadFileHead(Path, 44);
-    const auto PerSecond = qFromLittleEndian<quint32>(Head.leftJustified(44).constData() + 28);
-    return static_cast<double>(neb::FileSize(Path) - 44) / PerSecond;
-}
-
-}  // namespace
 
 int main(int argc, char** argv) {
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
@@ -43,8 +29,6 @@ int main(int argc, char** argv) {
     for (const char* Needed : {"folder", "documents", "screenshots"})
         if (!Parser.isSet(Needed)) return std::fprintf(stderr, "neb-demo: --%s?\n", Needed), 2;
 
-    neb::ClockedSoundDevices Unheard(&WaveSeconds);
-    if (!neb::TheServices().Sound) neb::TheServices().Sound = &Unheard;
     TourSound Sound(*neb::TheServices().Sound);
     neb::TheServices().Sound = &Sound;
     if (Parser.isSet("music")) LayMusicOverFirstShow(Parser.value("music"));
