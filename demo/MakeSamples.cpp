@@ -1,9 +1,11 @@
-// neb-make-samples: paints the sample pictures that the guided demonstration shows.
+// neb-make-samples: paints the sample pictures that the guided demonstration shows, and makes the
+// music for them in a folder "music" beside them.
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QTextStream>
 
 #include "Samples.h"
+#include "music/Music.h"
 #include "support/Fault.h"
 
 namespace {
@@ -11,6 +13,7 @@ namespace {
 int Run(const QString& Folder, int Percent) {
     try {
         neb::demo::WriteSamples(Folder, Percent);
+        neb::demo::WriteMusic(Folder + QStringLiteral("/music"));
         return 0;
     } catch (const neb::Fault& Error) {
         QTextStream(stderr) << Error.Text() << '\n';
@@ -24,7 +27,8 @@ int main(int argc, char** argv) {
     // It paints in memory alone, so it needs no display.
     const QCoreApplication App(argc, argv);
     QCommandLineParser Parser;
-    Parser.setApplicationDescription(QStringLiteral("Paints the sample pictures of the program."));
+    Parser.setApplicationDescription(
+        QStringLiteral("Makes the sample pictures and music of the program."));
     Parser.addHelpOption();
     Parser.addPositionalArgument(QStringLiteral("folder"), QStringLiteral("Where they go."));
     const QCommandLineOption Size(QStringLiteral("size"),

@@ -47,6 +47,7 @@ void Tour::Poll() {
     if (!Now.Moving && mSettled++ < SettlePolls) return PollLater();
     mSettled = 0;
     if (Now.Shot) TakeShot(Now.Name);
+    Print(mTell ? mTell() : QString());
     ++mDone;
     mWaiting.start();
     PollLater();
@@ -71,7 +72,12 @@ void Tour::TakeShot(const QString& Name) {
     Buffer.open(QIODevice::WriteOnly);
     GrabScreen().save(&Buffer, "PNG");
     neb::WriteFile(File, Png);
-    std::printf("  %s\n", qPrintable(File));
+    Print(File);
+}
+
+void Tour::Print(const QString& Line) {
+    if (Line.isEmpty()) return;
+    std::printf("  %s\n", qPrintable(Line));
     std::fflush(stdout);
 }
 

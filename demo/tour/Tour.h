@@ -24,6 +24,8 @@ class Tour : public QObject {
     // Screenshots go to that folder as 01-name.png, 02-...
     explicit Tour(const QString& ScreenshotDir) : mScreenshotDir(ScreenshotDir) {}
 
+    // Asked at each step; what it answers is printed as a line of its own, unless it is empty.
+    void SetTeller(std::function<QString()> Tell) { mTell = std::move(Tell); }
     void Add(Step Next) { mSteps.push_back(std::move(Next)); }
     void Start();
     bool Succeeded() const { return mDone == mSteps.size(); }
@@ -34,11 +36,13 @@ class Tour : public QObject {
   private:
     void Poll();
     void PollLater();
+    void Print(const QString& Line);
     void TakeShot(const QString& Name);
     void Fail(const QString& Reason);
     bool WaitsOn(const Step& Now);
 
     QString mScreenshotDir;
+    std::function<QString()> mTell;
     std::vector<Step> mSteps;
     size_t mDone = 0;
     int mShots = 0;

@@ -7,8 +7,11 @@
 #include <QProgressBar>
 #include <QTest>
 #include <QToolButton>
+#include <cstdio>
 
 #include "Tour.h"
+#include "TourMusic.h"
+#include "TourSound.h"
 #include "intake/frmDirSelect.h"
 #include "intake/frmPicturePopup.h"
 #include "intake/frmQuickShow.h"
@@ -18,8 +21,11 @@
 #include "presentation/EffectList.h"
 #include "presentation/frmPreferences.h"
 #include "presentation/frmSlideShowProjector.h"
+#include "presentation/frmSoundRecorder.h"
 #include "presentation/frmSpeedTest.h"
 #include "shell/main/frmNEBSlideShow.h"
+#include "support/Fault.h"
+#include "support/modHostFiles.h"
 #include "support/windows/frmLoading.h"
 #include "support/windows/frmProgress.h"
 
@@ -219,15 +225,65 @@ void AddPreferencesSteps(Tour& Guide, frmNEBSlideShow& Window) {
                Press<frmPreferences>("cmdApply"), false});
 }
 
+// The slide manager's way to a clip: the recorder, modal, and the clip to a slide.
+void RecordClip() {
+    const QString Path = RecordedClipPath();
+    const auto Recorder = NewForm<frmSoundRecorder>();
+    Recorder->SetSoundSavePath(Path);
+    Recorder->ShowModal();
+    if (!Recorder->SoundRecorded()) throw Fault(QStringLiteral("Nothing was recorded."));
+    std::printf("  The recorder saved %lld bytes\n", static_cast<long long>(FileSize(Path)));
+    GiveRecordedClip();
+}
+
+std::function<bool()> RecorderStandsAt(const char* Status, const char* Time) {
+    return [Status, Time] {
+        const auto Says = [](const char* Label, const char* Text) {
+            return Find<QLabel, frmSoundRecorder>(Label)->text().startsWith(QLatin1String(Text));
+        };
+        return Says("lblStatus", Status) && Says("lblTime", Time);
+    };
+}
+
+void AddRecorderSteps(Tour& Guide) {
+    const auto Press = [](const char* Button) { return ::Press<frmSoundRecorder>(Button); };
+    Guide.Add({"open-the-recorder", [] { return !Open<frmPreferences>(); }, &RecordClip, false});
+    Guide.Add({"sound-recorder", IsOpen<frmSoundRecorder>(), Press("cmdRecord")});
+    Guide.Add({"sound-recording", RecorderStandsAt("Recording", "0:01"), {}, true, true});
+    Guide.Add(
+        {"stop-recording", RecorderStandsAt("Recording", "0:02"), Press("cmdStop"), false, true});
+    Guide.Add({"sound-recorded", RecorderStandsAt("Recorded", "0:02"), Press("cmdPlay")});
+    // Without a sound card the window says so instead, until it is stopped.
+    const auto IsRefused = [] {
+        const QString Status = Find<QLabel, frmSoundRecorder>("lblStatus")->text();
+        return Status.startsWith(QStringLiteral("There is no sound card"));
+    };
+    const auto IsHeard = RecorderStandsAt("Playing", "0:01");
+    Guide.Add({"sound-playing", [IsRefused, IsHeard] { return IsRefused() || IsHeard(); },
+               [IsRefused, Press] {
+                   if (IsRefused()) Press("cmdStop")();
+               },
+               true, true});
+    Guide.Add(
+        {"save-the-recording", RecorderStandsAt("Recorded", "0:02"), Press("cmdSave"), false});
+}
+
+QString TellSound() {
+    const QString Now = Open<frmSlideShowProjector>() ? TourSound::NowPlaying() : QString();
+    return Now.isEmpty() ? Now : QStringLiteral("The show plays ") + Now;
+}
+
 }  // namespace
 
 void AddSteps(Tour& Guide, frmNEBSlideShow& Window, const QString& Folder,
               const QString& ShowName) {
+    Guide.SetTeller(&TellSound);
     AddSpeedTestSteps(Guide);
     AddQuickShowSteps(Guide, Window);
     AddDirectorySteps(Guide, Folder);
     AddSelectionSteps(Guide, ShowName);
     AddShowSteps(Guide);
     AddPreferencesSteps(Guide, Window);
-    Guide.Add({"end", [] { return !Open<frmPreferences>(); }, [&] { Window.close(); }, false});
+    AddRecorderSteps(Guide);
+    Guide.Add({"end", [] { return !Open<frmSoundRecorder>(); }, [&] { Window.close(); }, false});
 }

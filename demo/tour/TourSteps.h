@@ -1,5 +1,5 @@
-// The steps of the demonstration: Quick Show on a folder, Save, the show, Preferences,
-// the end.
+// The steps of the demonstration: Quick Show on a folder, Save, the show with its
+// music, Preferences, the sound recorder, the end.
 #pragma once
 
 #include <QString>

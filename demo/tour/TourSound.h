@@ -1,0 +1,28 @@
+// The machine's sound as the tour has it: it knows what plays, for the tour to tell, and its
+// microphone hears the sample chime, so that the tour is the same on each machine and listens to
+// nobody's room.
+#pragma once
+
+#include <functional>
+
+#include "platform/sound/SoundDevices.h"
+
+class TourSound : public neb::SoundDevices {
+  public:
+    explicit TourSound(neb::SoundDevices& Machine) : mMachine(Machine) {}
+
+    // The player that runs at the moment: "00000001_1.wav at 0:03"; empty when none does.
+    static QString NowPlaying();
+
+    std::unique_ptr<neb::SoundGraph> CreateGraph() override;
+    void LoadAhead(const QString& Path) override { mMachine.LoadAhead(Path); }
+    std::unique_ptr<neb::CaptureDevice> CreateCapture() override;
+    neb::PlaybackState CheckPlayback() override { return mMachine.CheckPlayback(); }
+    std::unique_ptr<neb::SoundGraph> CreateSoundBuffer(const neb::WaveFormat& Format,
+                                                       const QByteArray& Bytes) override {
+        return mMachine.CreateSoundBuffer(Format, Bytes);
+    }
+
+  private:
+    neb::SoundDevices& mMachine;
+};
