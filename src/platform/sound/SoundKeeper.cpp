@@ -17,6 +17,7 @@ using std::chrono::milliseconds;
 
 constexpr milliseconds ClockStep{15};
 constexpr milliseconds WatchStep{100};
+constexpr milliseconds LastBuffers{50};  // two of the device
 // After a longer gap (the machine was asleep) the time between is not made up for.
 constexpr qint64 MostBehind = kMixRate / 2;
 
@@ -46,6 +47,7 @@ struct SoundKeeper::Core : std::enable_shared_from_this<Core> {
     quint64 Session = 0;        // of the device that may pull; 0: none
     bool SessionHeard = false;  // it has pulled
     std::optional<PlaybackState> Known;
+    KeeperTimes::Span NextPause{};  // after the next attempt that fails
     std::array<float, 2 * kDeviceFrames> Unheard{};
 
     void Run();
@@ -68,6 +70,7 @@ struct SoundKeeper::Core : std::enable_shared_from_this<Core> {
 void SoundKeeper::Core::Want(Moment At) {
     if (IsWanted(At)) return;
     WantedSince = NextTry = At;
+    NextPause = Times.Retry;
     Known.reset();
 }
 
@@ -84,6 +87,8 @@ void SoundKeeper::Core::Run() {
         Carry(What);
         Lock.lock();
     }
+    // What has just been released is still to fade out.
+    if (Source == Puller::Device) Changed.wait_for(Lock, LastBuffers);
     Session = 0;
     Source = Puller::Nobody;
     Lock.unlock();
@@ -158,7 +163,9 @@ void SoundKeeper::Core::Answered(PlaybackState State) {
     Known = State;
     Now = State == PlaybackState::Ready ? Stage::Open : Stage::Closed;
     LastPull = std::max(LastPull, At);
-    NextTry = At + Times.Retry;
+    NextTry = At + NextPause;
+    NextPause =
+        State == PlaybackState::Ready ? Times.Retry : std::min(2 * NextPause, Times.MostRetry);
     Changed.notify_all();
 }
 

@@ -16,7 +16,8 @@ struct KeeperTimes {
     using Span = std::chrono::milliseconds;
     Span FirstWait{1000};  // for a device that is being opened, before the clock takes its place
     Span Stall{500};       // without a sign of the device, after which it counts as gone
-    Span Retry{1000};      // between two attempts to open it
+    Span Retry{1000};      // between two attempts to open it; doubles with each that fails,
+    Span MostRetry{5000};  // up to this
     Span Linger{3000};     // that the device stays open for nobody
 };
 

@@ -69,7 +69,7 @@ class MadeUpOutput : public SoundOutput {
 // Players of one endless sound, over a plug. Short waits, so that a test is.
 struct PluggedPlayers {
     std::shared_ptr<Plug> Socket = std::make_shared<Plug>();
-    KeeperTimes Times{100ms, 150ms, 60ms, 60ms};
+    KeeperTimes Times{100ms, 150ms, 60ms, 60ms, 60ms};
     TestSound Sound{Constant(0.5F), 4410000};
     std::unique_ptr<SoundPlayers> Players;
     std::unique_ptr<SoundGraph> Graph;

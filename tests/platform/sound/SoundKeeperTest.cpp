@@ -69,6 +69,32 @@ TEST(SoundKeeper, WithoutADeviceTheClockStartsAtOnce) {
     EXPECT_TRUE(WaitUntil([&] { return P.Position() > 0; }, 1s));
 }
 
+TEST(SoundKeeper, AMissingDeviceIsTriedLessAndLessOften) {
+    PluggedPlayers P;
+    P.Socket->State = PlaybackState::Missing;
+    P.Times.Retry = 20ms;
+    P.Times.MostRetry = 10s;
+    P.Start();
+    std::this_thread::sleep_for(500ms);
+    EXPECT_LE(P.Socket->Openings, 6);
+    EXPECT_GE(P.Socket->Openings, 3);
+}
+
+TEST(SoundKeeper, WhatIsReleasedAtTheVeryEndStillFadesOut) {
+    PluggedPlayers P;
+    P.Times.Stall = 10s;
+    P.Start();
+    ASSERT_TRUE(P.Opened(1));
+    P.Socket->Pull(1000);
+    P.Graph.reset();
+    std::thread Ender([&] { P.Players.reset(); });
+    std::this_thread::sleep_for(10ms);
+    const Samples Heard = P.Socket->Pull(500);
+    Ender.join();
+    EXPECT_GT(Left(Heard, 0), 0.4);
+    EXPECT_EQ(0, Left(Heard, 499));
+}
+
 TEST(SoundKeeper, ADeviceThatNeverAsksIsNotTriedInHaste) {
     PluggedPlayers P;
     P.Times.Stall = 20ms;
