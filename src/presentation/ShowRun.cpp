@@ -165,7 +165,8 @@ void ShowRun::ResetSlideClock() {
 void ShowRun::StartSlideClock(double Start) {
     mSlideStart = std::fmod(Start, SecondsOfDay);
     const double Now = TheServices().Time->Timer();
-    const bool JustAhead = mSlideStart > Now && mSlideStart < Now + 1;
+    const double Ahead = std::fmod(mSlideStart - Now + SecondsOfDay, SecondsOfDay);
+    const bool JustAhead = Ahead > 0 && Ahead < 1;
     mSlideStartTime = static_cast<float>(JustAhead ? Now : mSlideStart);
 }
 
@@ -178,7 +179,10 @@ void ShowRun::Timer1_Timer() {
     const double Due = mSlideStart + Before.SlideInterval;
     StartSlideClock(Now);
     if (mProgressionMethod != 0) return;
+    const double Started = mSlideStart;
     AdvanceSlide();
+    // Behind a box other slides may have come up, each with a time of its own.
+    if (mSlideStart != Started) return;
     // Within a fitted track the slides keep to the music: what a tick came late is not lost.
     const bool SameTrack = Before.FitToSong && mSoundFields.FitToSong && !Before.TrackEndsHere &&
                            Before.CurrentSoundFile == mSoundFields.CurrentSoundFile;

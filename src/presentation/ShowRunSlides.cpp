@@ -108,6 +108,7 @@ bool ShowRun::DisplaySlideFile(const QString& File) {
         return true;
     }
     if (IsNoSlide(Path)) {
+        mSoundFields.Reposition = false;
         StopShow();
         return false;
     }

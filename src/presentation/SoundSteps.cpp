@@ -37,7 +37,7 @@ class Script {
         mNow.CurrentPosition = Position;
         Play(Repeat);
     }
-    void Sync(std::int32_t Place, double Interval, bool Force, bool Repeat);
+    void Sync(std::int64_t Place, double Interval, bool Force, bool Repeat);
 
     const PlayerState& Now() const { return mNow; }
     SoundActions Take() { return std::move(mActions); }
@@ -47,10 +47,10 @@ class Script {
     SoundActions mActions;
 };
 
-void Script::Sync(std::int32_t Place, double Interval, bool Force, bool Repeat) {
-    const std::int32_t Before = Place - 1;
+void Script::Sync(std::int64_t Place, double Interval, bool Force, bool Repeat) {
+    const std::int64_t Before = Place - 1;
     if (Before <= 0) return PlayFrom(0, Repeat);
-    const double Target = Before * Interval;
+    const double Target = static_cast<double>(Before) * Interval;
     const double Slack = Target / 20;
     const double Position = mNow.CurrentPosition;
     if (Force || Target + Slack < Position || Target - Slack > Position)
@@ -115,7 +115,10 @@ struct Turn {
     const PlayerState& Now;
     ShowSoundFields& Fields;
 
-    std::int32_t Place() const { return Slide.SlideSeq - Stage.Track.SlideSeqStart + 1; }
+    // Wider than the numbers of a track: a hand-made file may hold any.
+    std::int64_t Place() const {
+        return std::int64_t{Slide.SlideSeq} - Stage.Track.SlideSeqStart + 1;
+    }
 };
 
 // A stage that ends the step; CheckRepeat is wanted as before.
@@ -148,8 +151,8 @@ void Start(const Turn& At, bool Repeat, Script& Do) {
 
 void Fit(const Turn& At) {
     const Track& Found = At.Stage.Track;
-    if (Found.FitToSong)
-        At.Fields.SlideInterval = At.Now.Duration / (Found.SlideSeqEnd - Found.SlideSeqStart + 1);
+    const double Slides = static_cast<double>(Found.SlideSeqEnd) - Found.SlideSeqStart + 1;
+    if (Found.FitToSong) At.Fields.SlideInterval = At.Now.Duration / Slides;
 }
 
 void SyncToPlace(const Turn& At, Script& Do) {

@@ -319,6 +319,34 @@ TEST_F(EngineSoundRun, TheNextSoundIsOpenedAheadUnlessItIsLoadedOrMissing) {
     EXPECT_EQ(Taken(), "ahead bird.wav 0");
 }
 
+TEST_F(EngineSoundRun, AFileThatIsDeletedPlaysOnInItsGroupAndIsMissedWhenItIsWantedAgain) {
+    AddSong(Song, 100);
+    AddTrack(Song, 1, 3);
+    Step(1);
+    Taken();
+    DeleteFile(SoundTracksFolder(Engine.DBPath(), 7) + Song);
+    EXPECT_TRUE(Step(2));
+    EXPECT_EQ(Taken(), "");
+    Step(4);
+    EXPECT_EQ(Taken(), "released song.mp3 0");
+    Boxes.Expect(NoTrack);
+    EXPECT_TRUE(Step(1));
+    EXPECT_EQ(Taken(), "");
+}
+
+TEST_F(EngineSoundRun, AFileThatIsReplacedIsMeasuredAnewWhenItIsLoadedAgain) {
+    AddSong(Song, 100);
+    AddTrack(Song, 1, 2, true);
+    Step(1);
+    EXPECT_EQ(Fields.SlideInterval, 50);
+    AddSong(Song, 30);
+    Step(2);
+    EXPECT_EQ(Fields.SlideInterval, 50) << "what plays is still the old one";
+    Step(4);
+    Step(1);
+    EXPECT_EQ(Fields.SlideInterval, 15);
+}
+
 TEST_F(EngineSoundRun, AMachineWithoutSoundShowsItsShowInSilence) {
     AddSong(Song, 100);
     AddTrack(Song, 1, 3);

@@ -232,6 +232,19 @@ TEST_F(ProjectorFailure, StopsWithoutABoxWhenTheStandInIsMissingAsWell) {
     EXPECT_EQ(0, Boxes.ShownCount());
 }
 
+TEST_F(ProjectorFailure, AStepThatCameToNothingAsksForNoRepositioningLater) {
+    AddSlides(2);
+    DeleteFile(PicturePath(2));
+    DeleteFile(AppPath() + QStringLiteral("NoSlide.bmp"));
+    Run([&](Projector& Window) {
+        Window.NextSlide();
+        MakePicture(PicturePath(2), Qt::green);
+        Sound.Taken();
+        Window.StopRestart();
+        EXPECT_EQ("Play 0|Step 2", Sound.Taken());
+    });
+}
+
 TEST_F(ProjectorFailure, StaysStoppedWhenTheVeryFirstSlideCannotBeShown) {
     AddSlides(1);
     DeleteFile(PicturePath(1));

@@ -263,6 +263,54 @@ TEST_F(ProjectorTicks, GoOnOverMidnight) {
     });
 }
 
+// To the ticks it is midnight already; a start a moment after it is no day away.
+TEST_F(ProjectorTicks, KeepAFittedSlideThatIsDueAMomentAfterMidnight) {
+    AddSlides(3);
+    Sound.OnStep = [](const SlideSound&, ShowSoundFields& Fields) {
+        Fields.FitToSong = true;
+        return true;
+    };
+    Time.Seconds = 86390.001;
+    Run([&](Projector& Window) {
+        Time.Seconds = 86399.999;
+        Window.Timer1_Timer();
+        ASSERT_EQ(2, CurrentSlideSeq);
+        Window.Timer1_Timer();
+        EXPECT_EQ(2, CurrentSlideSeq);
+        Time.Seconds = 9.9;
+        Window.Timer1_Timer();
+        EXPECT_EQ(2, CurrentSlideSeq);
+        Time.Seconds = 10.1;
+        Window.Timer1_Timer();
+        EXPECT_EQ(3, CurrentSlideSeq);
+    });
+}
+
+// The second slide stands in a box while the third comes up: that one keeps its whole time.
+TEST_F(ProjectorTicks, LeaveASlideItsTimeThatCameUpBehindABox) {
+    AddSlides(4);
+    frmSlideShowProjector* Shown = nullptr;
+    Sound.OnStep = [&](const SlideSound& Slide, ShowSoundFields& Fields) {
+        Fields.FitToSong = Slide.SlideSeq != 2;
+        if (Slide.SlideSeq != 2) return true;
+        Time.Seconds += 10;
+        Shown->Timer1_Timer();
+        return false;
+    };
+    Run([&](Projector& Window) {
+        Shown = &Window;
+        Time.Seconds += 10;
+        Window.Timer1_Timer();
+        ASSERT_EQ(3, CurrentSlideSeq);
+        Time.Seconds += 9.9;
+        Window.Timer1_Timer();
+        EXPECT_EQ(3, CurrentSlideSeq);
+        Time.Seconds += 0.1;
+        Window.Timer1_Timer();
+        EXPECT_EQ(4, CurrentSlideSeq);
+    });
+}
+
 TEST_F(ProjectorTicks, FadeTheSoundOverTheLastSlideOfATrack) {
     AddSlides(3);
     Sound.OnStep = [](const SlideSound& Slide, ShowSoundFields& Fields) {

@@ -1,3 +1,5 @@
+#include <limits>
+
 #include "SoundStepsRig.h"
 
 namespace neb::test {
@@ -70,6 +72,21 @@ TEST_F(SoundSteps, FitToSongSharesTheLengthOutAmongTheSlides) {
         Step(Row.First);
         EXPECT_EQ(Fields.SlideInterval, Row.Interval) << "the same track again";
     }
+}
+
+TEST_F(SoundSteps, AFittedTrackOfAnyNumbersGivesASlideAShareOfItsTime) {
+    constexpr auto Least = std::numeric_limits<std::int32_t>::min();
+    constexpr auto Most = std::numeric_limits<std::int32_t>::max();
+    for (const std::int32_t First : {Least, -1, 0}) {
+        Show.ClearSoundTracks();
+        Player = {};
+        AddTrack(Song, First, Most, 100, false, true);
+        Step(2);
+        EXPECT_GT(Fields.SlideInterval, 0) << First;
+        EXPECT_LT(Fields.SlideInterval, 1e-6) << First;
+        EXPECT_GE(Player.CurrentPosition, 0) << First;
+    }
+    EXPECT_TRUE(Player.IsPlaying);
 }
 
 TEST_F(SoundSteps, AFittedTrackThatIsEnteredInTheMiddleStartsThere) {

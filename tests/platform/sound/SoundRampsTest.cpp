@@ -142,6 +142,38 @@ TEST(SoundRamps, AChangeOfVolumeTakesTenMilliseconds) {
     for (size_t I = 441; I < 500; ++I) ASSERT_FLOAT_EQ(0.05F, Left(Heard, I));
 }
 
+TEST(SoundRamps, AVolumeThatIsSetInAPauseHoldsFromTheFirstSoundOn) {
+    PulledMixer Pulled;
+    const auto Voice = Pulled.RunningVoice({Constant(0.5F), 100000});
+    Pulled.Pull(1000);
+    Voice->Halt();
+    Pulled.Pull(1000);
+    Voice->PutVolume(-2000);
+    EXPECT_EQ(-2000, Voice->Volume());
+    Voice->Run();
+    const Samples Heard = Pulled.Pull(1000);
+    EXPECT_LE(Peak(Heard), 0.0501F);
+    EXPECT_FLOAT_EQ(0.05F, Left(Heard, kFadeFrames));
+}
+
+TEST(SoundRamps, AFileShorterThanARampIsPausedAndPlayedToItsEnd) {
+    constexpr int Length = kFadeFrames / 2;
+    PulledMixer Pulled;
+    const auto Voice = Pulled.RunningVoice({Constant(0.5F), Length});
+    Pulled.Pull(50);
+    Voice->Halt();
+    const Samples Fading = Pulled.Pull(1000);
+    EXPECT_GT(Left(Fading, 0), 0.4F);
+    EXPECT_LT(Left(Fading, Length - 51), 0.01F);
+    EXPECT_EQ(0, Left(Fading, Length - 50));
+    EXPECT_EQ(50 / 44100.0, Voice->Position());
+    Voice->Run();
+    const Samples Rest = Pulled.Pull(1000);
+    EXPECT_GT(Left(Rest, Length - 51), 0);
+    EXPECT_EQ(0, Left(Rest, Length - 50));
+    EXPECT_EQ(Voice->Duration(), Voice->Position());
+}
+
 TEST(SoundRamps, BackToFullVolumeTheFileIsUnchangedAgain) {
     PulledMixer Pulled;
     const auto Voice = Pulled.RunningVoice({Count(), 100000});
