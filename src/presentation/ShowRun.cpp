@@ -23,6 +23,12 @@ void GiveTo(ShowSound& Sound, SoundCommand Command, bool Repeat) {
     if (Command == SoundCommand::Stop) Sound.StopSound();
 }
 
+// Whether a slide is followed by another of the same fitted track.
+bool GoesOnFitted(const ShowSoundFields& Before, const ShowSoundFields& After) {
+    return Before.FitToSong && After.FitToSong && !Before.TrackEndsHere &&
+           Before.CurrentSoundFile == After.CurrentSoundFile;
+}
+
 }  // namespace
 
 ShowRun::ShowRun(ShowStage& Stage) : mStage(Stage), mSound(std::make_shared<SilentShowSound>()) {}
@@ -184,9 +190,8 @@ void ShowRun::Timer1_Timer() {
     // Behind a box other slides may have come up, each with a time of its own.
     if (mSlideStart != Started) return;
     // Within a fitted track the slides keep to the music: what a tick came late is not lost.
-    const bool SameTrack = Before.FitToSong && mSoundFields.FitToSong && !Before.TrackEndsHere &&
-                           Before.CurrentSoundFile == mSoundFields.CurrentSoundFile;
-    if (SameTrack && Elapsed < 2 * Before.SlideInterval) StartSlideClock(Due);
+    if (GoesOnFitted(Before, mSoundFields) && Elapsed < 2 * Before.SlideInterval)
+        StartSlideClock(Due);
 }
 
 void ShowRun::SetFadeVolume(float Elapsed) {
