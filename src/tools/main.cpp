@@ -31,9 +31,15 @@ std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char** argv) {
     return std::make_unique<QGuiApplication>(argc, argv);
 }
 
+// The toolkit's remarks on the desktop are nothing to somebody at a terminal without one.
+void SayWhatIsGrave(QtMsgType Type, const QMessageLogContext&, const QString& Text) {
+    if (Type == QtCriticalMsg || Type == QtFatalMsg) std::cerr << Text.toStdString() << std::endl;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
+    qInstallMessageHandler(&SayWhatIsGrave);
     const auto App = MakeApplication(argc, argv);
     std::ios::sync_with_stdio(false);
     neb::ToolIO IO{std::cout, std::cerr, ErrorsGoToATerminal()};
