@@ -52,7 +52,7 @@ void EngineSound::LoadAhead(const SlideSound& Next) {
     if (mReleased) return;
     const QString Path = SoundPathOf(Next, DatabaseFolder());
     if (Path.isEmpty() || Path == mEngine.SoundFile() || !FileExists(Path)) return;
-    clsDirectSound::LoadAhead(Path);
+    mEngine.LoadAhead(Path);
 }
 
 void EngineSound::Release() {

@@ -32,7 +32,7 @@ bool clsDirectSound::LoadFile(const QString& Path) {
     const QString NewFile = Path;
     UnloadFile();
     mSoundFile = NewFile;
-    if (!TheServices().Sound) return false;
+    if (!HoldDevices()) return false;
     IgnoringFaults([this] {
         std::unique_ptr<SoundGraph> Graph = TheServices().Sound->CreateGraph();
         if (Graph) Graph->RenderFile(mSoundFile);
@@ -115,7 +115,13 @@ bool clsDirectSound::IsPlaying() const {
 }
 
 void clsDirectSound::LoadAhead(const QString& Path) {
-    if (TheServices().Sound) TheServices().Sound->LoadAhead(Path);
+    if (HoldDevices()) TheServices().Sound->LoadAhead(Path);
+}
+
+// False on a machine without sound.
+bool clsDirectSound::HoldDevices() {
+    if (TheServices().Sound && !mHold) mHold = TheServices().Sound->Hold();
+    return TheServices().Sound != nullptr;
 }
 
 }  // namespace neb

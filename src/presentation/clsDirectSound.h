@@ -41,7 +41,7 @@ class clsDirectSound {
     void SetCurrentPosition(double Seconds);  // nothing with no file. Throws Fault below 0
     bool IsPlaying() const;                   // false when paused, stopped or with no file
     // Opens and measures a file in the background that will be loaded soon.
-    static void LoadAhead(const QString& Path);
+    void LoadAhead(const QString& Path);
 
     // The recorder. True when there is a microphone; asks the machine once.
     bool RecordingSupported(QWidget* Owner);
@@ -59,11 +59,14 @@ class clsDirectSound {
     double RecorderLevel() const;
 
   private:
+    bool HoldDevices();
+
     QString mLastError;
     QString mSoundFile;
     bool mRepeatFlag = false;
     bool mIsStarted = false;
     std::unique_ptr<SoundGraph> mGraph;  // empty when no file is loaded
+    std::shared_ptr<void> mHold;         // of the devices, from the first file on
 
     class Recorder;
     Recorder& TheRecorder();

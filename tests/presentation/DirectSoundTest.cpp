@@ -68,12 +68,15 @@ class LoggedDevices : public SoundDevices, public Machine {
         Note(QStringLiteral("Create"));
         return std::make_unique<LoggedGraph>(*this);
     }
+    std::shared_ptr<void> Hold() override { return Held; }
     void LoadAhead(const QString& Path) override { Note(QStringLiteral("Ahead"), Path); }
     std::unique_ptr<CaptureDevice> CreateCapture() override { return nullptr; }
     PlaybackState CheckPlayback() override { return PlaybackState::Missing; }
     std::unique_ptr<SoundGraph> CreateSoundBuffer(const WaveFormat&, const QByteArray&) override {
         return nullptr;
     }
+
+    const std::shared_ptr<int> Held = std::make_shared<int>();
 };
 
 class DirectSound : public ::testing::Test {
@@ -310,11 +313,24 @@ TEST_F(DirectSound, TheEndOfTheObjectReleasesTheFile) {
     EXPECT_EQ(Devices.Taken(), "Release");
 }
 
+TEST_F(DirectSound, TheDevicesAreHeldFromTheFirstFileToTheEnd) {
+    {
+        clsDirectSound Show;
+        EXPECT_EQ(1, Devices.Held.use_count());
+        Show.LoadAhead(QStringLiteral("a.mp3"));
+        EXPECT_EQ(2, Devices.Held.use_count());
+        Show.LoadFile(QStringLiteral("a.mp3"));
+        Show.UnloadFile();
+        EXPECT_EQ(2, Devices.Held.use_count());
+    }
+    EXPECT_EQ(1, Devices.Held.use_count());
+}
+
 TEST_F(DirectSound, AFileIsOpenedAheadWhereThereIsAMachine) {
-    clsDirectSound::LoadAhead(QStringLiteral("next.mp3"));
+    Sound.LoadAhead(QStringLiteral("next.mp3"));
     EXPECT_EQ(Devices.Taken(), "Ahead next.mp3");
     TheServices().Sound = nullptr;
-    clsDirectSound::LoadAhead(QStringLiteral("next.mp3"));
+    Sound.LoadAhead(QStringLiteral("next.mp3"));
     EXPECT_EQ(Devices.Taken(), "");
 }
 

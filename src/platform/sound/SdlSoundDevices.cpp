@@ -15,7 +15,8 @@ DecoderSource SourceOf(const std::shared_ptr<SoundShelf>& Shelf) {
     return {[Shelf](const QString& Path) { return Shelf->Take(Path); },
             [Shelf](const QString& Path, std::unique_ptr<SoundDecoder> Used) {
                 Shelf->Put(Path, std::move(Used));
-            }};
+            },
+            [Shelf] { Shelf->Clear(); }};
 }
 
 }  // namespace
@@ -37,6 +38,10 @@ SdlSoundDevices::Parts& SdlSoundDevices::Made() {
 
 std::unique_ptr<SoundGraph> SdlSoundDevices::CreateGraph() {
     return Made().Players.CreateGraph();
+}
+
+std::shared_ptr<void> SdlSoundDevices::Hold() {
+    return Made().Players.Keeper().Hold();
 }
 
 void SdlSoundDevices::LoadAhead(const QString& Path) {

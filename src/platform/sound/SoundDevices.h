@@ -73,6 +73,9 @@ class SoundDevices {
     virtual ~SoundDevices() = default;
     // A file's player. Works without any device, too: the sound then runs on in silence.
     virtual std::unique_ptr<SoundGraph> CreateGraph() = 0;
+    // Whoever will play again and again holds this meanwhile: the device stays open between two
+    // sounds, and what was opened ahead stays ready. May be null.
+    virtual std::shared_ptr<void> Hold() { return nullptr; }
     // Opens and measures a file in the background, so that rendering it takes no time.
     virtual void LoadAhead(const QString& Path) = 0;
     // The default microphone; null when there is none.

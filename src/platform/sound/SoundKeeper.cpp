@@ -25,16 +25,18 @@ constexpr qint64 MostBehind = kMixRate / 2;
 
 struct SoundKeeper::Core : std::enable_shared_from_this<Core> {
     enum class Stage { Closed, Opening, Open };
-    enum class Step { Wait, Open, Close };
+    enum class Step { Wait, Open, Close, Rest };
 
     std::shared_ptr<SoundMixer> Mixer;
     std::unique_ptr<SoundOutput> Output;  // known to the keeper's own thread alone
     KeeperTimes Times;
+    std::function<void()> Rest;
 
     mutable std::mutex Mutex;  // guards what follows; whoever pulls holds it meanwhile
     std::condition_variable Changed;
     int Holds = 0;
     bool Ending = false;
+    bool Rested = true;
     Moment WantedUntil{};  // when nobody holds it
     Moment WantedSince{};
     Moment NextTry{};
@@ -72,6 +74,7 @@ void SoundKeeper::Core::Want(Moment At) {
     WantedSince = NextTry = At;
     NextPause = Times.Retry;
     Known.reset();
+    Rested = false;
 }
 
 void SoundKeeper::Core::Run() {
@@ -111,7 +114,7 @@ SoundKeeper::Core::Step SoundKeeper::Core::Next(Moment At) {
 
 SoundKeeper::Core::Step SoundKeeper::Core::Forget() {
     Source = Puller::Nobody;
-    if (Now != Stage::Open) return Step::Wait;
+    if (Now != Stage::Open) return std::exchange(Rested, true) ? Step::Wait : Step::Rest;
     Session = 0;
     Now = Stage::Closed;
     return Step::Close;
@@ -136,10 +139,9 @@ SoundKeeper::Core::Step SoundKeeper::Core::Watch(Moment At) {
 }
 
 void SoundKeeper::Core::Carry(Step What) {
-    if (What == Step::Close)
-        Output->Close();
-    else
-        OpenOutput();
+    if (What == Step::Close) Output->Close();
+    if (What == Step::Open) OpenOutput();
+    if (What == Step::Rest && Rest) Rest();
 }
 
 quint64 SoundKeeper::Core::BeginSession() {
@@ -201,13 +203,14 @@ void SoundKeeper::Core::PullByClock(Moment At) {
 }
 
 SoundKeeper::SoundKeeper(std::shared_ptr<SoundMixer> Mixer, std::unique_ptr<SoundOutput> Output,
-                         KeeperTimes Times)
+                         KeeperTimes Times, std::function<void()> Rest)
     : mCore(std::make_shared<Core>()), mThread([Shared = mCore] { Shared->Run(); }) {
     // The thread waits for the first holder before it looks at any of these.
     const std::lock_guard Lock(mCore->Mutex);
     mCore->Mixer = std::move(Mixer);
     mCore->Output = std::move(Output);
     mCore->Times = Times;
+    mCore->Rest = std::move(Rest);
 }
 
 SoundKeeper::~SoundKeeper() {

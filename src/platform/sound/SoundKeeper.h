@@ -26,12 +26,13 @@ class SoundKeeper {
     enum class Puller { Nobody, Device, Clock };
 
     SoundKeeper(std::shared_ptr<SoundMixer> Mixer, std::unique_ptr<SoundOutput> Output,
-                KeeperTimes Times = {});
+                KeeperTimes Times = {}, std::function<void()> Rest = {});
     ~SoundKeeper();
     SoundKeeper(const SoundKeeper&) = delete;
     SoundKeeper& operator=(const SoundKeeper&) = delete;
 
-    // The mix flows for as long as one of these lives; they may outlive the keeper.
+    // The mix flows for as long as one of these lives; they may outlive the keeper. When the last
+    // is gone and the device closed, Rest is called.
     std::shared_ptr<void> Hold();
     // Whether there is a device; waits so long at most for one that is being opened, and takes it
     // for ready then.

@@ -70,7 +70,7 @@ SoundPlayers::SoundPlayers(DecoderSource Source, std::unique_ptr<SoundOutput> Ou
                            KeeperTimes Times)
     : mSource(std::move(Source)),
       mMixer(std::make_shared<SoundMixer>()),
-      mKeeper(mMixer, std::move(Output), Times) {}
+      mKeeper(mMixer, std::move(Output), Times, mSource.Rest) {}
 
 std::unique_ptr<SoundGraph> SoundPlayers::CreateGraph() {
     return std::make_unique<VoiceGraph>(mSource, mMixer, mKeeper.Hold());

@@ -14,8 +14,9 @@ namespace neb {
 // Where the decoders of files come from and go back to.
 struct DecoderSource {
     std::function<std::unique_ptr<SoundDecoder>(const QString& Path)> Take;  // throws Fault
-    // On any thread; may be none.
+    // These on any thread; may be none.
     std::function<void(const QString& Path, std::unique_ptr<SoundDecoder>)> Put;
+    std::function<void()> Rest;  // nobody plays any more, nor has for a while
 };
 
 class SoundPlayers {

@@ -135,6 +135,13 @@ SoundShelf::~SoundShelf() {
     mState->Wanted.clear();
 }
 
+void SoundShelf::Clear() {
+    std::deque<Sound> Gone;
+    const QMutexLocker Lock(&mState->Mutex);
+    mState->Wanted.clear();
+    Gone.swap(mState->Kept);
+}
+
 void SoundShelf::Prepare(const QString& Path) {
     const QMutexLocker Lock(&mState->Mutex);
     auto& Wanted = mState->Wanted;

@@ -24,6 +24,8 @@ class SoundShelf {
     // Gives back what Take returned, for the next Take of that path. The shelf keeps four sounds;
     // the oldest goes. Anything else than a sound of Take's is dropped.
     void Put(const QString& Path, std::unique_ptr<SoundDecoder> Decoder);
+    // Lets go of all files: one that is held open keeps its medium from being taken out.
+    void Clear();
 
   private:
     struct State;

@@ -69,6 +69,7 @@ class MadeUpOutput : public SoundOutput {
 // Players of one endless sound, over a plug. Short waits, so that a test is.
 struct PluggedPlayers {
     std::shared_ptr<Plug> Socket = std::make_shared<Plug>();
+    std::atomic<int> Rests = 0;
     KeeperTimes Times{100ms, 150ms, 60ms, 60ms, 60ms};
     TestSound Sound{Constant(0.5F), 4410000};
     std::unique_ptr<SoundPlayers> Players;
@@ -76,7 +77,8 @@ struct PluggedPlayers {
 
     void Make() {
         Players = std::make_unique<SoundPlayers>(
-            DecoderSource{[this](const QString&) { return Decoder(Sound); }, {}},
+            DecoderSource{
+                [this](const QString&) { return Decoder(Sound); }, {}, [this] { ++Rests; }},
             std::make_unique<MadeUpOutput>(Socket), Times);
     }
     // A player that runs and has something decoded ahead.

@@ -268,3 +268,40 @@ TEST(SoundKeeper, PlayersMayOutliveTheDevices) {
     EXPECT_EQ(2, P.Position());
     P.Graph.reset();
 }
+
+TEST(SoundKeeper, ItRestsOnceWhenNobodyHasPlayedForAWhile) {
+    PluggedPlayers P;
+    P.Times.Stall = 10s;
+    P.Start();
+    ASSERT_TRUE(P.Opened(1));
+    std::this_thread::sleep_for(3 * P.Times.Linger);
+    EXPECT_EQ(0, P.Rests);
+    P.Graph.reset();
+    ASSERT_TRUE(WaitUntil([&] { return P.Rests == 1; }));
+    EXPECT_EQ(1, P.Socket->Closings);
+    std::this_thread::sleep_for(3 * P.Times.Linger);
+    EXPECT_EQ(1, P.Rests);
+}
+
+TEST(SoundKeeper, ItRestsWithoutADeviceToo) {
+    PluggedPlayers P;
+    P.Socket->State = PlaybackState::Missing;
+    P.Start();
+    ASSERT_TRUE(P.PulledBy(Puller::Clock));
+    P.Graph.reset();
+    EXPECT_TRUE(WaitUntil([&] { return P.Rests == 1; }));
+}
+
+TEST(SoundKeeper, AHoldKeepsTheDeviceOpenBetweenTwoSounds) {
+    PluggedPlayers P;
+    P.Start();
+    ASSERT_TRUE(P.Opened(1));
+    const auto Show = P.Players->Keeper().Hold();
+    P.Graph.reset();
+    for (int I = 0; I < 30; ++I) {
+        P.Socket->Pull(100);
+        std::this_thread::sleep_for(10ms);
+    }
+    EXPECT_EQ(0, P.Socket->Closings);
+    EXPECT_EQ(0, P.Rests);
+}

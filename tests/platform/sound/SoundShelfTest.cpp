@@ -204,3 +204,15 @@ TEST(SoundShelf, ManyThreadsMayUseIt) {
     EXPECT_EQ(0, Wrong);
     EXPECT_LE(OpenFiles(Folder), 5);
 }
+
+TEST(SoundShelf, ClearLetsGoOfTheFiles) {
+    const harness::TempFolder Folder;
+    SoundShelf Shelf;
+    Shelf.Prepare(MakeTone(Folder, 1));
+    const QString Used = MakeTone(Folder, 2);
+    Shelf.Put(Used, Shelf.Take(Used));
+    ASSERT_TRUE(WaitForOpenFiles(Folder, 2));
+    Shelf.Clear();
+    EXPECT_EQ(0, OpenFiles(Folder));
+    EXPECT_NE(nullptr, Shelf.Take(Used));
+}
