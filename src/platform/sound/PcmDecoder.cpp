@@ -3,6 +3,7 @@
 #include <QtEndian>
 #include <algorithm>
 
+#include "platform/sound/SoundFormat.h"
 #include "support/Fault.h"
 
 namespace neb {
@@ -12,7 +13,7 @@ constexpr std::uint32_t MostRate = 384000;
 
 bool IsPlayable(const WaveFormat& Format) {
     return Format.FormatTag == 1 && Format.Channels >= 1 && Format.Channels <= 8 &&
-           Format.SamplesPerSec >= 1 && Format.SamplesPerSec <= MostRate &&
+           Format.SamplesPerSec >= kLeastRate && Format.SamplesPerSec <= MostRate &&
            (Format.BitsPerSample == 8 || Format.BitsPerSample == 16);
 }
 

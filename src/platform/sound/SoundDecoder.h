@@ -10,7 +10,7 @@ namespace neb {
 class SoundDecoder {
   public:
     virtual ~SoundDecoder() = default;
-    virtual int Rate() const = 0;       // frames a second
+    virtual int Rate() const = 0;       // frames a second, kLeastRate to 1000000
     virtual int Channels() const = 0;   // 1 to 8, in the order of WAV files
     virtual qint64 Frames() const = 0;  // the whole length, exact from the start
     // Up to so many frames of interleaved samples, -1 to 1. Fewer at the end alone, then 0. What a

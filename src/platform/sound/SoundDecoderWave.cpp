@@ -6,6 +6,7 @@
 #include <array>
 #include <vector>
 
+#include "platform/sound/SoundFormat.h"
 #include "support/Fault.h"
 
 namespace neb {
@@ -13,9 +14,9 @@ namespace neb {
 namespace {
 
 constexpr int MostChannels = 8;
-constexpr int LeastRate = 100, MostRate = 1000000;  // frames a second
-constexpr qint64 MostFrames = qint64(1) << 40;      // 288 days; beyond that it is no length
-constexpr qint64 MostCounted = qint64(1) << 32;     // 27 hours; a bound on time, not on sounds
+constexpr int MostRate = 1000000;                // frames a second
+constexpr qint64 MostFrames = qint64(1) << 40;   // 288 days; beyond that it is no length
+constexpr qint64 MostCounted = qint64(1) << 32;  // 27 hours; a bound on time, not on sounds
 constexpr qint64 SkippedAtOnce = 4096;
 
 SoundSource& Its(void* Source) {
@@ -63,7 +64,7 @@ WaveSound::Shape WaveSound::Open() {
 
 WaveSound::WaveSound(std::unique_ptr<SoundSource> Source) : mSource(std::move(Source)) {
     const Shape Its = Open();
-    Check(Its.Channels > 0 && Its.Rate >= LeastRate && Its.Rate <= MostRate,
+    Check(Its.Channels > 0 && Its.Rate >= kLeastRate && Its.Rate <= MostRate,
           QStringLiteral("The sound is damaged, or of a kind that this program cannot play."),
           *mSource);
     Check(Its.Channels <= MostChannels,

@@ -1,7 +1,10 @@
 #include "platform/sound/StereoReader.h"
 
+#include <samplerate.h>
+
 #include <algorithm>
 #include <cmath>
+#include <new>
 
 #include "platform/sound/StereoDownmix.h"
 
@@ -9,82 +12,102 @@ namespace neb {
 namespace {
 
 constexpr int PieceFrames = 1024;  // read from the decoder at a time
+// Of the lower rate: more than those before a place that have a part in the sound there.
+constexpr qint64 HistoryFrames = 64;
 
-// Output frames that lie within so many of the source.
-qint64 OutputFrames(qint64 Source, int Rate) {
-    return (Source * kMixRate + Rate - 1) / Rate;
+// The fastest kind dims the highest tones; the best takes four times as long.
+SRC_STATE* NewConverter(src_callback_t Supply, void* Reader) {
+    int Error = 0;
+    SRC_STATE* const New = src_callback_new(Supply, SRC_SINC_MEDIUM_QUALITY, 2, &Error, Reader);
+    if (!New) throw std::bad_alloc();
+    return New;
 }
 
 }  // namespace
 
-StereoReader::StereoReader(std::unique_ptr<SoundDecoder> Decoder) : mDecoder(std::move(Decoder)) {
+void StereoReader::Closer::operator()(SRC_STATE_tag* Converter) const {
+    src_delete(Converter);
+}
+
+StereoReader::StereoReader(std::unique_ptr<SoundDecoder> Decoder)
+    : mDecoder(std::move(Decoder)), mEnd(mDecoder->Frames()) {
     mRaw.resize(static_cast<size_t>(PieceFrames) * static_cast<size_t>(mDecoder->Channels()));
+    if (mDecoder->Rate() == kMixRate) return;
     mStereo.resize(2 * static_cast<size_t>(PieceFrames));
-    if (mDecoder->Rate() != kMixRate)
-        mResampler = std::make_unique<StereoResampler>(mDecoder->Rate());
-    Begin(0);
+    mConverter.reset(NewConverter(&Supply, this));
 }
 
 double StereoReader::Duration() const {
     return static_cast<double>(mDecoder->Frames()) / mDecoder->Rate();
 }
 
-void StereoReader::Begin(qint64 SourceFrame) {
-    mLeft = OutputFrames(mDecoder->Frames() - SourceFrame, mDecoder->Rate());
-    mSourceLeft = mDecoder->Frames() - SourceFrame;
-    mEnded = mLeft == 0;
-    mEndedEarly = false;
+// Those that lie within so many of the decoder.
+qint64 StereoReader::OutputFrames(qint64 Source) const {
+    return (Source * kMixRate + mDecoder->Rate() - 1) / mDecoder->Rate();
+}
+
+qint64 StereoReader::Left() const {
+    return std::max<qint64>(0, OutputFrames(mEnd - mStart) - mDone);
 }
 
 void StereoReader::Seek(double Seconds) {
-    const qint64 Place =
-        std::clamp<qint64>(std::llround(Seconds * mDecoder->Rate()), 0, mDecoder->Frames());
-    // The frames before the place have a part in it: it sounds as if it had been played up to.
-    const qint64 History = mResampler ? std::min<qint64>(mResampler->Reach(), Place) : 0;
-    mDecoder->Seek(Place - History);
-    Begin(Place);
-    if (!mResampler) return;
-    mResampler->Restart(static_cast<int>(History));
-    mSourceLeft += History;
+    mStart = std::clamp<qint64>(std::llround(Seconds * mDecoder->Rate()), 0, mDecoder->Frames());
+    mEnd = mDecoder->Frames();
+    mDone = 0;
+    const qint64 Reach = HistoryFrames * std::max(kMixRate, mDecoder->Rate()) / kMixRate;
+    const qint64 History = mConverter ? std::min(Reach, mStart) : 0;
+    mNext = mStart - History;
+    mDecoder->Seek(mNext);
+    if (mConverter) PassUnheard(History);
+}
+
+// It sounds as if it had been played up to the place. At a rate at which the frames on the way are
+// a whole number, since the converter can begin nowhere else than at one.
+void StereoReader::PassUnheard(qint64 Source) {
+    src_reset(mConverter.get());
+    if (Source == 0) return;
+    const auto Frames = std::max<qint64>(1, Source * kMixRate / mDecoder->Rate());
+    std::vector<float> Unheard(2 * static_cast<size_t>(Frames));
+    src_callback_read(mConverter.get(), static_cast<double>(Frames) / static_cast<double>(Source),
+                      Frames, Unheard.data());
+    src_set_ratio(mConverter.get(), static_cast<double>(kMixRate) / mDecoder->Rate());
 }
 
 int StereoReader::ReadStereo(float* Into, int MaxFrames) {
-    const auto Wanted = static_cast<int>(std::min<qint64>({MaxFrames, PieceFrames, mSourceLeft}));
-    if (Wanted == 0) return 0;
+    const auto Wanted = static_cast<int>(std::min<qint64>({MaxFrames, PieceFrames, mEnd - mNext}));
     const auto Read = static_cast<int>(mDecoder->Read(mRaw.data(), Wanted));
     MixToStereo(mRaw.data(), mDecoder->Channels(), Into, Read);
-    mSourceLeft -= Read;
-    if (Read < Wanted) {
-        mEndedEarly = true;
-        mSourceLeft = 0;
-    }
+    mNext += Read;
+    if (Read < Wanted) mEnd = mNext;
     return Read;
 }
 
-// One more piece for the resampler; silence behind the last.
-void StereoReader::Supply() {
-    const int Read = ReadStereo(mStereo.data(), PieceFrames);
-    mResampler->Push(mStereo.data(), Read);
-    if (mSourceLeft == 0) mResampler->PushSilence(mResampler->Reach() + 1);
+// One more piece for the converter; silence behind the last, or it would keep back the end.
+long StereoReader::Supply(void* Reader, float** Piece) {
+    auto& Its = *static_cast<StereoReader*>(Reader);
+    *Piece = Its.mStereo.data();
+    const int Read = Its.mNext < Its.mEnd ? Its.ReadStereo(*Piece, PieceFrames) : 0;
+    std::fill(Its.mStereo.begin() + 2 * static_cast<std::ptrdiff_t>(Read), Its.mStereo.end(), 0.F);
+    return PieceFrames;
 }
 
-int StereoReader::Deliver(float* Into, int MaxFrames) {
-    if (!mResampler) return ReadStereo(Into, MaxFrames);
-    for (;;) {
-        const int Pulled = mResampler->Pull(Into, MaxFrames);
-        if (Pulled > 0 || mSourceLeft == 0) return Pulled;
-        Supply();
-    }
+int StereoReader::Convert(float* Into, int MaxFrames) {
+    const double Ratio = static_cast<double>(kMixRate) / mDecoder->Rate();
+    const long Read = src_callback_read(mConverter.get(), Ratio, MaxFrames, Into);
+    // Only at a rate beyond those of files: no sound, rather than waiting for ever.
+    if (Read < MaxFrames) mEnd = mStart;
+    // The decoder's end may have been found early on the way.
+    return static_cast<int>(std::clamp<qint64>(Read, 0, Left()));
 }
 
 int StereoReader::Read(float* Into, int MaxFrames) {
     int Done = 0;
-    while (!mEnded && Done < MaxFrames) {
-        const auto Wanted = static_cast<int>(std::min<qint64>(MaxFrames - Done, mLeft));
-        const int Part = Deliver(Into + 2 * static_cast<std::ptrdiff_t>(Done), Wanted);
+    while (Done < MaxFrames && !AtEnd()) {
+        const auto Wanted = static_cast<int>(std::min<qint64>(MaxFrames - Done, Left()));
+        float* const Place = Into + 2 * static_cast<std::ptrdiff_t>(Done);
+        const int Part = mConverter ? Convert(Place, Wanted) : ReadStereo(Place, Wanted);
         Done += Part;
-        mLeft -= Part;
-        mEnded = Part == 0 || mLeft == 0;
+        mDone += Part;
     }
     return Done;
 }

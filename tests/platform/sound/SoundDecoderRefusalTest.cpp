@@ -52,6 +52,7 @@ TEST(SoundDecoderRefusal, HeadersWithoutASoundAreDamaged) {
     EXPECT_EQ(Damaged, RefusalOfBytes("RIFF\x10\1\1\1WAVEfmt "));
     EXPECT_EQ(Damaged, RefusalOfBytes("OggS and nothing else"));
     EXPECT_EQ(Damaged, RefusalOfBytes(WavBytes({0, 2, 16, false}, 10)));
+    EXPECT_EQ(Damaged, RefusalOfBytes(WavBytes({199, 1, 16, false}, 10)));
     EXPECT_EQ(Damaged, RefusalOfBytes(WavBytes({2000000000, 1, 8, false}, 10)));
     EXPECT_EQ(Damaged, RefusalOfBytes(WavBytes({44100, 0, 16, false}, 10)));
 }

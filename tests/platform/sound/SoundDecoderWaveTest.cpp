@@ -51,7 +51,7 @@ TEST(SoundDecoderWave, EveryNumberOfChannelsUpToEightIsReadInOrder) {
 }
 
 TEST(SoundDecoderWave, EveryRateIsTaken) {
-    for (int Rate : {100, 4000, 8000, 11025, 22050, 32000, 37777, 96000, 192000, 384000}) {
+    for (int Rate : {200, 4000, 8000, 11025, 22050, 32000, 37777, 96000, 192000, 384000, 1000000}) {
         SCOPED_TRACE(Rate);
         ExpectTone({Rate, 1, 16, false}, 1.0 / 32768);
     }

@@ -157,6 +157,9 @@ TEST(PcmDecoder, OtherKindsAreRefused) {
     EXPECT_THROW(PcmDecoder(Format(8, 0), {}), Fault);
     EXPECT_THROW(PcmDecoder(Format(8, 9), {}), Fault);
     WaveFormat Other = Format(8);
+    Other.SamplesPerSec = 199;
+    EXPECT_THROW(PcmDecoder(Other, {}), Fault);
+    Other = Format(8);
     Other.FormatTag = 3;
     EXPECT_THROW(PcmDecoder(Other, {}), Fault);
     Other = Format(8);

@@ -47,14 +47,17 @@ std::pair<float, float> Mixed(std::vector<float> Frame) {
 }  // namespace
 
 TEST(StereoReader, TheLengthIsExactAtEveryRate) {
-    for (const int Rate : {8000, 11025, 22050, 32000, 44056, 44100, 48000, 88200, 96000, 192000})
-        EXPECT_EQ(2 * ((12347 * 44100LL + Rate - 1) / Rate),
-                  static_cast<qint64>(ReadAll({Tone(400), 12347, Rate}).size()))
-            << Rate;
+    for (const int Rate :
+         {200, 8000, 11025, 22050, 32000, 44056, 44100, 48000, 88200, 96000, 192000, 1000000})
+        for (const qint64 Frames : {1, 1000, 2347})
+            EXPECT_EQ(2 * ((Frames * 44100 + Rate - 1) / Rate),
+                      static_cast<qint64>(ReadAll({Tone(40), Frames, Rate}).size()))
+                << Rate;
 }
 
 TEST(StereoReader, AToneStaysInTuneAndInPlaceAtEveryRate) {
-    for (const int Rate : {8000, 11025, 22050, 32000, 44056, 48000, 88200, 96000, 192000}) {
+    for (const int Rate :
+         {8000, 11025, 22050, 32000, 44056, 48000, 88200, 96000, 192000, 1000000}) {
         const Samples Read = ReadAll({Tone(1000, 0.5, Rate), Rate / 2, Rate});
         EXPECT_LT(LargestDifference(Read, Tone(1000)), 3e-4) << Rate;
     }
@@ -91,16 +94,46 @@ TEST(StereoReader, ThePiecesItIsReadInMakeNoDifference) {
 }
 
 TEST(StereoReader, FromAPlaceOnItSoundsAsIfPlayedUpToThere) {
-    const TestSound Sound{Tone(1234, 0.5, 48000), 96000, 48000};
-    StereoReader Reader(Decoder(Sound));
-    const Samples Whole = ReadAll(Reader);
-    for (const int Seconds : {1, 0}) {
-        Reader.Seek(Seconds);
+    const std::pair<int, qint64> Places[] = {
+        {48000, 48000}, {48000, 0}, {48000, 160}, {8000, 80},      {8000, 8000},     {200, 200},
+        {44056, 44056}, {88200, 2}, {441000, 10}, {192000, 19200}, {1000000, 100000}};
+    for (const auto& [Rate, Place] : Places) {
+        StereoReader Reader(Decoder({Tone(77, 0.5, Rate, 0.2), Place + Rate / 2, Rate}));
+        const Samples Whole = ReadAll(Reader);
+        Reader.Seek(static_cast<double>(Place) / Rate);
         const Samples Rest = ReadAll(Reader);
-        ASSERT_EQ(Whole.size() - static_cast<size_t>(Seconds) * 88200, Rest.size());
+        const auto Start = 2 * static_cast<size_t>(Place * 44100 / Rate);
+        ASSERT_EQ(Whole.size() - Start, Rest.size()) << Rate;
         for (size_t I = 0; I < Rest.size(); ++I)
-            ASSERT_NEAR(Whole[I + static_cast<size_t>(Seconds) * 88200], Rest[I], 1e-6) << I;
+            ASSERT_NEAR(Whole[I + Start], Rest[I], 1e-6) << Rate << " " << Place << " " << I;
     }
+}
+
+TEST(StereoReader, FromAPlaceBetweenTwoFramesItBeginsExactlyThere) {
+    for (const auto& [Rate, Place] : {std::pair(44056, 10007), {48000, 9999}, {192000, 50001}}) {
+        StereoReader Reader(Decoder({Tone(1000, 0.5, Rate), Rate, Rate}));
+        Reader.Seek(static_cast<double>(Place) / Rate);
+        const Wave Wanted = Tone(1000, 0.5, 44100, 1000.0 * Place / Rate);
+        EXPECT_LT(LargestDifference(ReadAll(Reader), Wanted, 0), 3e-4) << Rate;
+    }
+}
+
+TEST(StereoReader, FromAPlaceBeforeTheSecondFrameItBeginsExactlyThere) {
+    const Wave Sound = Tone(1000, 0.5, 441000, 0.2);
+    const Wave Later = [&](qint64 I, int Channel) { return I < 5 ? 0 : Sound(I - 5, Channel); };
+    StereoReader Reader(Decoder({Sound, 20000, 441000}));
+    Reader.Seek(5.0 / 441000);
+    const Samples Rest = ReadAll(Reader);
+    const Samples Whole = ReadAll({Later, 20005, 441000});
+    ASSERT_EQ(Whole.size() - 2, Rest.size());
+    for (size_t I = 0; I < Rest.size(); ++I) ASSERT_NEAR(Whole[I + 2], Rest[I], 1e-6) << I;
+}
+
+TEST(StereoReader, ARateThatCannotBeConvertedIsOverAtOnce) {
+    StereoReader Reader(Decoder({Tone(40), 1000, 100}));
+    EXPECT_TRUE(ReadAll(Reader).empty());
+    EXPECT_TRUE(Reader.AtEnd());
+    EXPECT_TRUE(Reader.EndedEarly());
 }
 
 TEST(StereoReader, AtItsEndNothingIsLeft) {
@@ -124,6 +157,27 @@ TEST(StereoReader, ADamagedRestIsMissingAndToldOf) {
         EXPECT_FALSE(Reader.AtEnd());
         EXPECT_FALSE(Reader.EndedEarly());
     }
+}
+
+TEST(StereoReader, ADamagedRestIsToldOfAtItsEndAlone) {
+    for (const int Rate : {44100, 48000}) {
+        TestSound Sound{Tone(400), 48000, Rate};
+        Sound.BreaksOffAt = 10000;
+        StereoReader Reader(Decoder(Sound));
+        float Frame[2];
+        do EXPECT_EQ(Reader.AtEnd(), Reader.EndedEarly());
+        while (Reader.Read(Frame, 1) == 1);
+        EXPECT_TRUE(Reader.EndedEarly());
+    }
+}
+
+TEST(StereoReader, APlaceBehindTheDamageIsTheEnd) {
+    TestSound Sound{Tone(400), 48000, 48000};
+    Sound.BreaksOffAt = 10000;
+    StereoReader Reader(Decoder(Sound));
+    Reader.Seek(0.5);
+    EXPECT_TRUE(ReadAll(Reader).empty());
+    EXPECT_TRUE(Reader.EndedEarly());
 }
 
 TEST(StereoDownmix, OneChannelIsHeardOnBothSides) {
