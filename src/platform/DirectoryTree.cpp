@@ -1,18 +1,17 @@
 #include "platform/DirectoryTree.h"
 
-#include <QAbstractItemView>
 #include <QComboBox>
-#include <QCompleter>
-#include <QFileSystemModel>
-#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QStandardPaths>
 #include <QStorageInfo>
 #include <QTreeView>
+#include <QUrl>
 #include <QVBoxLayout>
 
+#include "platform/DirectoryModel.h"
+#include "platform/DirectoryProposals.h"
 #include "support/modFUFL.h"
 #include "support/modHostFiles.h"
 
@@ -43,7 +42,7 @@ void AddVolumes(QComboBox& Drives) {
     for (const QStorageInfo& Volume : QStorageInfo::mountedVolumes()) {
         const QString Root = Volume.rootPath();
         const bool Media = Root.startsWith(u"/media/") || Root.startsWith(u"/run/media/") ||
-                           Root.startsWith(u"/mnt") || Root.contains(u':');
+                           Root == u"/mnt" || Root.startsWith(u"/mnt/") || Root.contains(u':');
         if (Volume.isReady() && Media) AddPlace(Drives, Volume.displayName(), Root);
     }
     AddPlace(Drives, QObject::tr("Computer"), QStringLiteral("/"));
@@ -55,7 +54,8 @@ DirectoryTree::DirectoryTree(QWidget* Parent)
     : QWidget(Parent),
       mTyped(new QLineEdit(this)),
       mTree(new QTreeView(this)),
-      mModel(new QFileSystemModel(this)) {
+      mModel(new DirectoryModel(this)),
+      mProposals(new DirectoryProposals(mTyped)) {
     auto* Layout = new QVBoxLayout(this);
     Layout->setContentsMargins(0, 0, 0, 0);
     Layout->addWidget(mTyped);
@@ -63,35 +63,36 @@ DirectoryTree::DirectoryTree(QWidget* Parent)
     SetUpTree();
     mTyped->setAccessibleName(tr("Directory"));
     mTyped->setToolTip(tr("The directory; type a path and press Enter to go there"));
-    mTyped->setCompleter(new QCompleter(mModel, mTyped));
     connect(mTyped, &QLineEdit::editingFinished, this, &DirectoryTree::TakeTyped);
     SetPath(FirstPlace());
 }
 
 void DirectoryTree::SetUpTree() {
-    mModel->setFilter(QDir::AllDirs | QDir::NoDotAndDotDot | QDir::Drives);
-    mModel->setOption(QFileSystemModel::DontUseCustomDirectoryIcons);
-    mModel->setRootPath(QStringLiteral("/"));
     mTree->setModel(mModel);
     mTree->setHeaderHidden(true);
     mTree->setUniformRowHeights(true);
-    for (int Col = 1; Col < mModel->columnCount(); ++Col) mTree->hideColumn(Col);
     mTree->setAccessibleName(tr("Directories"));
     connect(mTree->selectionModel(), &QItemSelectionModel::currentChanged, this,
-            [this](const QModelIndex& Index) { TreeMoved(mModel->filePath(Index)); });
+            [this](const QModelIndex& Index) { TreeMoved(mModel->Path(Index)); });
     mTree->installEventFilter(this);
     mTree->viewport()->installEventFilter(this);
     connect(mTree->verticalScrollBar(), &QScrollBar::actionTriggered, this,
             [this] { mInSight = false; });
     // the model reads directories in the background, and rows come in above this one
-    connect(mModel, &QFileSystemModel::directoryLoaded, this, &DirectoryTree::BringIntoSight);
-    connect(mModel, &QFileSystemModel::layoutChanged, this, &DirectoryTree::BringIntoSight);
-    connect(mModel, &QFileSystemModel::rowsInserted, this, &DirectoryTree::BringIntoSight,
+    connect(mModel, &DirectoryModel::rowsInserted, this, &DirectoryTree::BringIntoSight,
             Qt::QueuedConnection);
+    connect(mTree, &QTreeView::collapsed, this, &DirectoryTree::Collapsed);
 }
 
 void DirectoryTree::BringIntoSight() {
     if (mInSight) mTree->scrollTo(mTree->currentIndex(), QAbstractItemView::PositionAtCenter);
+}
+
+// A directory that is opened again shows what it holds by then.
+void DirectoryTree::Collapsed(const QModelIndex& Index) {
+    if (!WithSeparator(mPath).startsWith(WithSeparator(mModel->Path(Index))) ||
+        mPath == mModel->Path(Index))
+        mModel->Forget(Index);
 }
 
 // What the user does in the tree counts from then on, and what was typed in vain is dropped.
@@ -105,12 +106,12 @@ bool DirectoryTree::eventFilter(QObject* Watched, QEvent* Event) {
 
 void DirectoryTree::SetPath(const QString& Path) {
     if (!FolderExists(Path)) return;
-    const QModelIndex Index = mModel->index(ResolvePath(Path));
+    const QModelIndex Index = mModel->Reveal(ResolvePath(Path));
     mInSight = true;
     mTree->setCurrentIndex(Index);
     mTree->expand(Index);
     BringIntoSight();
-    TreeMoved(mModel->filePath(Index));
+    TreeMoved(mModel->Path(Index));
     mTyped->setText(mPath);
 }
 
@@ -143,18 +144,21 @@ QString DirectoryTree::TypedText() const {
     return mTyped->text();
 }
 
-bool DirectoryTree::TakeTyped() {
-    if (!FolderExists(mTyped->text())) return false;
-    SetPath(mTyped->text());
-    EndProposals();
-    return true;
+// What people type or paste: a path, one from their home or from the directory shown, an address.
+QString DirectoryTree::TypedPath() const {
+    const QString Text = mTyped->text();
+    if (Text == u"~" || Text.startsWith(u"~/"))
+        return QStandardPaths::writableLocation(QStandardPaths::HomeLocation) + Text.mid(1);
+    if (Text.startsWith(u"file:")) return QUrl(Text).toLocalFile();
+    return AbsolutePath(Text, mPath);
 }
 
-// The completer waits for directories that are still being read, and would come up later over
-// the tree and swallow the next click.
-void DirectoryTree::EndProposals() {
-    mTyped->completer()->setCompletionPrefix({});
-    mTyped->completer()->popup()->hide();
+bool DirectoryTree::TakeTyped() {
+    const QString Path = TypedPath();
+    if (!FolderExists(Path)) return false;
+    SetPath(Path);
+    mProposals->End();
+    return true;
 }
 
 // Enter in the typed path goes there, and does not press the window's default button as well.

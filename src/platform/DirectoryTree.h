@@ -7,12 +7,15 @@
 
 QT_BEGIN_NAMESPACE
 class QComboBox;
-class QFileSystemModel;
 class QLineEdit;
+class QModelIndex;
 class QTreeView;
 QT_END_NAMESPACE
 
 namespace neb {
+
+class DirectoryModel;
+class DirectoryProposals;
 
 class DirectoryTree : public QWidget {
     Q_OBJECT
@@ -24,7 +27,8 @@ class DirectoryTree : public QWidget {
     QString Path() const { return mPath; }
     // Goes to a directory; one that does not exist changes nothing.
     void SetPath(const QString& Path);
-    // The text in the line, and going to the directory it names. False when there is none.
+    // The text in the line, and going to the directory it names: a path, "~" for the home, an
+    // address of "file:". False when there is none.
     QString TypedText() const;
     bool TakeTyped();
     // Fills the list with places; choosing one goes there, and it shows the place that holds the
@@ -42,12 +46,14 @@ class DirectoryTree : public QWidget {
     void SetUpTree();
     void BringIntoSight();
     void ShowPlace();
-    void EndProposals();
+    void Collapsed(const QModelIndex& Index);
+    QString TypedPath() const;
     void TreeMoved(const QString& Path);
 
     QLineEdit* mTyped;
     QTreeView* mTree;
-    QFileSystemModel* mModel;
+    DirectoryModel* mModel;
+    DirectoryProposals* mProposals;
     QPointer<QComboBox> mDrives;
     QString mPath;
     bool mInSight = true;  // the tree scrolls to the directory until the user takes it over

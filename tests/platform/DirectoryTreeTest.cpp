@@ -14,6 +14,7 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <QTreeView>
+#include <QUrl>
 #include <QVBoxLayout>
 
 #include "harness/TempFolder.h"
@@ -131,6 +132,27 @@ TEST_F(DirectoryTreeTest, GoesToATypedDirectoryAndPressesNothingElse) {
     EXPECT_TRUE(Tree.TakeTyped());
 }
 
+TEST_F(DirectoryTreeTest, UnderstandsTheHomeAnAddressAndANameInTheDirectoryShown) {
+    MakeDirs(Folder / u"a b/c"_s);
+    Enter(QUrl::fromLocalFile(Folder / u"a b"_s).toString(QUrl::FullyEncoded));
+    EXPECT_EQ(Folder / u"a b"_s, Tree.Path());
+    Enter(u"c"_s);
+    EXPECT_EQ(Folder / u"a b/c"_s, Tree.Path());
+    EXPECT_EQ(Folder / u"a b/c"_s, Typed().text());
+    Enter(u".."_s);
+    EXPECT_EQ(Folder / u"a b"_s, Tree.Path());
+    const QByteArray Home = qgetenv("HOME");
+    qputenv("HOME", Folder.Path().chopped(1).toUtf8());
+    Enter(u"~/a b/c"_s);
+    EXPECT_EQ(Folder / u"a b/c"_s, Tree.Path());
+    Enter(u"~"_s);
+    EXPECT_EQ(Folder.Path().chopped(1), Tree.Path());
+    qputenv("HOME", Home);
+    Enter(u"~nobody"_s);
+    EXPECT_FALSE(Tree.TakeTyped());
+    EXPECT_EQ(Folder.Path().chopped(1), Tree.Path());
+}
+
 // An open list of completions would swallow the user's next click.
 TEST_F(DirectoryTreeTest, IsWalkedThroughWithTheTabKey) {
     Drives.setFocus();
@@ -149,6 +171,53 @@ TEST_F(DirectoryTreeTest, ProposesNothingMoreOnceATypedDirectoryIsTaken) {
     QTest::qWait(400);
     EXPECT_EQ(nullptr, QApplication::activePopupWidget());
     EXPECT_FALSE(Typed().completer()->popup()->isVisible());
+}
+
+TEST_F(DirectoryTreeTest, ProposesTheDirectoriesThatATypedPathMayMean) {
+    MakeDirs(Folder / u"summer"_s);
+    MakeDirs(Folder / u"Sunday"_s);
+    MakeDirs(Folder / u"winter"_s);
+    Typed().setFocus();
+    Typed().selectAll();
+    QTest::keyClicks(&Typed(), Folder / u"su"_s);
+    const auto& Popup = *Typed().completer()->popup();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Popup.isVisible(); }, 2000));
+    EXPECT_EQ(2, Popup.model()->rowCount());
+    EXPECT_EQ(Folder / u"summer"_s, Popup.model()->index(0, 0).data().toString());
+}
+
+TEST_F(DirectoryTreeTest, ShowsWhatADirectoryHoldsByThenWhenItIsOpenedAgain) {
+    MakeDirs(Folder / u"a/b"_s);
+    MakeDirs(Folder / u"a/.hidden"_s);
+    Tree.SetPath(Folder / u"a"_s);
+    const QModelIndex Place = View().currentIndex();
+    const auto Inside = [&] { return View().model()->rowCount(Place); };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Inside() == 1; }, 2000));
+    MakeDirs(Folder / u"a/c"_s);
+    DeleteTree(Folder / u"a/b"_s);
+    View().collapse(Place);
+    View().expand(Place);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Inside() == 1; }, 2000));
+    EXPECT_EQ("c", View().model()->index(0, 0, Place).data().toString().toStdString());
+    EXPECT_EQ(Folder / u"a"_s, Tree.Path());
+    DeleteTree(Folder / u"a/c"_s);
+    View().collapse(Place);
+    EXPECT_TRUE(View().model()->hasChildren(Place)) << "nobody has looked yet";
+    View().expand(Place);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !View().model()->hasChildren(Place); }, 2000));
+}
+
+TEST_F(DirectoryTreeTest, PutsAHiddenDirectoryInItsPlaceBeforeAndAfterTheOthersAreRead) {
+    for (const char* Name : {"a", "B", "c", ".h", "x1", "X"})
+        MakeDirs(Folder / QString::fromLatin1(Name));
+    Tree.SetPath(Folder / u".h"_s);
+    const QModelIndex Above = View().currentIndex().parent();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return View().model()->rowCount(Above) == 6; }, 2000));
+    QStringList Names;
+    for (int I = 0; I < 6; ++I) Names << View().model()->index(I, 0, Above).data().toString();
+    EXPECT_EQ(".h a B c X x1", Names.join(u' ').toStdString());
+    EXPECT_EQ(Folder / u".h"_s, Tree.Path());
+    EXPECT_EQ(u".h"_s, View().currentIndex().data().toString());
 }
 
 TEST_F(DirectoryTreeTest, KeepsATypedDirectoryThatDoesNotExistUntilAnotherIsChosen) {

@@ -1,0 +1,121 @@
+#include "support/modHostFilesWalk.h"
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QFile>
+#include <algorithm>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "support/modHostFiles.h"
+
+namespace neb {
+namespace {
+
+class OpenDir {
+  public:
+    explicit OpenDir(const std::string& Path) : mDir(opendir(Path.c_str())) {}
+    ~OpenDir() {
+        if (mDir) closedir(mDir);
+    }
+    OpenDir(const OpenDir&) = delete;
+    OpenDir& operator=(const OpenDir&) = delete;
+    explicit operator bool() const { return mDir != nullptr; }
+    int Number() const { return dirfd(mDir); }
+    const dirent* Next() { return readdir(mDir); }
+
+  private:
+    DIR* mDir;
+};
+
+enum class Kind { Folder, File, Other };
+
+// The listing mostly tells what an entry is, and the host need not be asked once more.
+Kind KindOf(const OpenDir& Dir, const dirent& Entry) {
+    if (Entry.d_type == DT_DIR) return Kind::Folder;
+    if (Entry.d_type == DT_REG) return Kind::File;
+    if (Entry.d_type != DT_LNK && Entry.d_type != DT_UNKNOWN) return Kind::Other;
+    struct stat Real = {};
+    if (fstatat(Dir.Number(), Entry.d_name, &Real, 0) != 0) return Kind::Other;
+    if (S_ISDIR(Real.st_mode)) return Kind::Folder;
+    return S_ISREG(Real.st_mode) ? Kind::File : Kind::Other;
+}
+
+class Walker {
+  public:
+    Walker(bool Recurse, const FileWalk& Walk) : mRecurse(Recurse), mWalk(Walk) {}
+
+    // Path ends in a separator. False when the walk was ended.
+    bool Enter(const std::string& Path) {
+        std::vector<std::string> Below;
+        {
+            OpenDir Dir(Path);  // closed before the walk goes deeper: open ones are scarce
+            if (!Dir || !GoDown(Dir)) return true;
+            if (!List(Dir, Below)) return false;
+        }
+        const bool WentOn = std::all_of(Below.begin(), Below.end(), [&](const std::string& Name) {
+            return Enter(Path + Name + '/');
+        });
+        mWayDown.pop_back();
+        return WentOn;
+    }
+
+  private:
+    // False when the directory stands on the way down already.
+    bool GoDown(const OpenDir& Dir) {
+        struct stat Real = {};
+        if (fstat(Dir.Number(), &Real) != 0) return false;
+        const std::pair Identity(Real.st_dev, Real.st_ino);
+        if (std::find(mWayDown.begin(), mWayDown.end(), Identity) != mWayDown.end()) return false;
+        mWayDown.push_back(Identity);
+        return true;
+    }
+    bool List(OpenDir& Dir, std::vector<std::string>& Below) {
+        while (const dirent* Entry = Dir.Next()) {
+            const std::string_view Name = Entry->d_name;
+            if (Name == "." || Name == "..") continue;
+            if (mRecurse || mWalk.Wants(Name)) Take(Dir, *Entry, Below);
+            if (!mWalk.GoesOn()) return false;
+        }
+        return true;
+    }
+    void Take(const OpenDir& Dir, const dirent& Entry, std::vector<std::string>& Below) {
+        const Kind What = KindOf(Dir, Entry);
+        if (What == Kind::Folder && mRecurse) Below.emplace_back(Entry.d_name);
+        if (What != Kind::File || !mWalk.Wants(Entry.d_name)) return;
+        if (faccessat(Dir.Number(), Entry.d_name, R_OK, AT_EACCESS) == 0) mWalk.Found();
+    }
+
+    bool mRecurse;
+    const FileWalk& mWalk;
+    std::vector<std::pair<dev_t, ino_t>> mWayDown;  // the directories above, and the present one
+};
+
+}  // namespace
+
+void WalkFiles(const QString& Dir, bool Recurse, const FileWalk& Walk) {
+    if (!Dir.isEmpty())
+        Walker(Recurse, Walk).Enter(QFile::encodeName(ResolvePath(Dir)).toStdString() + '/');
+}
+
+bool FolderNameLess(const QString& A, const QString& B) {
+    const int Order = A.compare(B, Qt::CaseInsensitive);
+    return Order != 0 ? Order < 0 : A < B;
+}
+
+QStringList ListFolders(const QString& Dir) {
+    QStringList Names;
+    OpenDir Open(QFile::encodeName(Dir).toStdString());
+    const dirent* Entry = nullptr;
+    while (Open && (Entry = Open.Next()))
+        if (Entry->d_name[0] != '.' && KindOf(Open, *Entry) == Kind::Folder)
+            Names.append(QFile::decodeName(Entry->d_name));
+    std::sort(Names.begin(), Names.end(), &FolderNameLess);
+    return Names;
+}
+
+}  // namespace neb
