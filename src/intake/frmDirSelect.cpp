@@ -1,62 +1,12 @@
 #include "intake/frmDirSelect.h"
 
-#include "intake/modPictureFiles.h"
-#include "platform/DirectoryTree.h"
-#include "shell/modNEBSlideShow.h"
 #include "support/Fault.h"
-#include "support/Services.h"
-#include "support/modHostFiles.h"
-#include "support/windows/ScreenPointer.h"
 #include "ui_frmDirSelect.h"
 
 namespace neb {
-namespace {
-
-constexpr double YieldMs = 40;
-
-QString MemoryFile() {
-    return AppPath() + QStringLiteral("DS.ini");
-}
-
-// Lets events run now and then, however many entries a directory has.
-WalkPoll YieldingPoll(std::function<bool()> GoesOn) {
-    double Last = TheServices().Time->Ticks();
-    return [Last, GoesOn]() mutable {
-        const double Now = TheServices().Time->Ticks();
-        if (Now - Last < YieldMs) return true;
-        DoEvents();
-        Last = TheServices().Time->Ticks();
-        return GoesOn();
-    };
-}
-
-}  // namespace
-
-QString ReadLastDirectory() {
-    try {
-        if (!FileExists(MemoryFile())) return {};
-        QByteArray Line = ReadFile(MemoryFile()).split('\n').value(0);
-        if (Line.endsWith('\r')) Line.chop(1);
-        return QString::fromUtf8(Line);
-    } catch (const Fault&) {
-        return {};
-    }
-}
-
-void WriteLastDirectory(const QString& Directory) {
-    try {
-        DeleteFile(MemoryFile());
-        WriteFile(MemoryFile(), Directory.toUtf8() + '\n');
-    } catch (const Fault&) {
-        // a program folder that cannot be written remembers nothing
-    }
-}
 
 frmDirSelect::frmDirSelect() : mUi(std::make_unique<Ui::frmDirSelect>()) {
     mUi->setupUi(this);
-    mUi->Dir1->SetDrives(mUi->Drive1);
-    connect(mUi->Dir1, &DirectoryTree::Change, this, &frmDirSelect::ShowCount);
-    connect(mUi->chkRecurseDir, &QCheckBox::clicked, this, &frmDirSelect::RecurseClicked);
     connect(mUi->cmdSelect, &QPushButton::clicked, this, &frmDirSelect::Select);
     connect(mUi->cmdCancel, &QPushButton::clicked, this, &frmDirSelect::Unload);
 }
@@ -64,38 +14,31 @@ frmDirSelect::frmDirSelect() : mUi(std::make_unique<Ui::frmDirSelect>()) {
 frmDirSelect::~frmDirSelect() = default;
 
 void frmDirSelect::Form_Load() {
-    SetCountGraphics(true);
-    SetRecurseDirOption(true);
-    const QString Last = ReadLastDirectory();
-    if (FolderExists(Last)) mUi->Dir1->SetPath(Last);
-}
-
-// The window is there at once; the count of what it shows follows.
-void frmDirSelect::Form_Activate() {
-    if (!std::exchange(mActivated, true)) ShowCount();
+    mUi->pnlDirectory->Begin();
 }
 
 bool frmDirSelect::Form_Unload() {
-    ++mCounting;
-    WriteLastDirectory(mUi->Dir1->Path());
+    mUi->pnlDirectory->End();
     return true;
 }
 
 void frmDirSelect::SetRecurseDirOption(bool Offered) {
     Load();
-    mRecurseDirOption = Offered;
-    mUi->chkRecurseDir->setVisible(Offered);
+    mUi->pnlDirectory->SetRecurseDirOption(Offered);
 }
 
 void frmDirSelect::SetCountGraphics(bool Shown) {
     Load();
-    mCountGraphics = Shown;
-    mUi->lblDirSummary->setVisible(Shown);
+    mUi->pnlDirectory->SetCountGraphics(Shown);
+}
+
+bool frmDirSelect::RecurseDir() const {
+    return mUi->pnlDirectory->RecurseDir();
 }
 
 QString frmDirSelect::SelectDirectory() {
     mSelectedDir.clear();
-    mRecurseDir = false;
+    mUi->pnlDirectory->ClearRecurseDir();
     try {
         ShowModal();
     } catch (const Fault&) {
@@ -104,32 +47,9 @@ QString frmDirSelect::SelectDirectory() {
     return mSelectedDir;
 }
 
-void frmDirSelect::RecurseClicked() {
-    if (!mRecurseDirOption) return;
-    mRecurseDir = mUi->chkRecurseDir->isChecked();
-    ShowCount();
-}
-
-// The count goes on while the user steps to another directory, which then has its own.
-void frmDirSelect::ShowCount() {
-    if (!mCountGraphics || !mActivated || !IsLoaded()) return;
-    const auto Held = shared_from_this();
-    const int Mine = ++mCounting;
-    const PointerScope Working(Pointer::Hourglass);
-    const auto Poll = YieldingPoll([this, Mine] { return mCounting == Mine; });
-    const std::int32_t Count = CountGraphicFiles(mUi->Dir1->Path(), mRecurseDir, Poll);
-    if (mCounting != Mine) return;
-    mUi->lblDirSummary->setText(QString::number(Count) +
-                                QStringLiteral(" graphics files detected."));
-}
-
 void frmDirSelect::Select() {
-    if (!mUi->Dir1->TakeTyped()) {
-        MsgBox(tr("There is no directory of this name.") + u'\n' + mUi->Dir1->TypedText());
-        return;
-    }
-    mSelectedDir = mUi->Dir1->Path();
-    mRecurseDir = mUi->chkRecurseDir->isChecked();
+    if (!mUi->pnlDirectory->TakeChoice()) return;
+    mSelectedDir = mUi->pnlDirectory->Path();
     Unload();
 }
 

@@ -1,19 +1,16 @@
 #include "intake/modPictureFiles.h"
 
-#include "shell/modNEBSlideShow.h"
 #include "support/modFUFL.h"
 #include "support/modHostFiles.h"
+#include "support/modHostFilesWalk.h"
 
 namespace neb {
 namespace {
 
-// What a walk does with a picture; false ends the walk.
-using PictureVisitor = std::function<bool(const QString& Path)>;
-
 class PictureWalk {
   public:
-    PictureWalk(bool Recurse, const WalkPoll& Poll, const PictureVisitor& Visit)
-        : mRecurse(Recurse), mPoll(Poll), mVisit(Visit) {}
+    PictureWalk(bool Recurse, const WalkPoll& Poll, QStringList& Found)
+        : mRecurse(Recurse), mPoll(Poll), mFound(Found) {}
 
     // False when the walk was ended.
     bool Walk(const QString& Directory) {
@@ -33,8 +30,8 @@ class PictureWalk {
             const QString Path = Directory + Entry.Name;
             if (Entry.IsFolder)
                 SubDirectories.append(Path);
-            else if (IsPictureName(Entry.Name) && !mVisit(Path))
-                return false;
+            else if (IsPictureName(Entry.Name))
+                mFound.append(Path);
         }
         return !mRecurse || std::all_of(SubDirectories.begin(), SubDirectories.end(),
                                         [this](const QString& Path) { return Walk(Path); });
@@ -42,38 +39,54 @@ class PictureWalk {
 
     bool mRecurse;
     const WalkPoll& mPoll;
-    const PictureVisitor& mVisit;
+    QStringList& mFound;
     QStringList mWayDown;  // the real directories above the present one
 };
+
+const QStringList& Extensions() {
+    static const QStringList All = {".BMP", ".EMF", ".JPEG", ".JPG",  ".PCD", ".PCX",  ".PNG",
+                                    ".PSD", ".TGA", ".TIF",  ".TIFF", ".TLA", ".WBMP", ".WMF"};
+    return All;
+}
+
+char Upper(char Letter) {
+    return Letter >= 'a' && Letter <= 'z' ? static_cast<char>(Letter - 'a' + 'A') : Letter;
+}
+
+// The same as IsPictureName for a name in the host's encoding, without making a text of each of
+// thousands of names. Letters that are not plain ones may have plain capitals.
+bool IsHostPictureName(std::string_view Name) {
+    const size_t Dot = Name.rfind('.');
+    if (Dot == Name.npos) return false;
+    const std::string_view Ending = Name.substr(Dot);
+    if (std::any_of(Ending.begin(), Ending.end(),
+                    [](char Each) { return static_cast<unsigned char>(Each) > 127; }))
+        return IsPictureName(QString::fromLocal8Bit(Ending));
+    const auto IsThis = [&](const QString& Extension) {
+        return std::equal(Ending.begin(), Ending.end(), Extension.begin(), Extension.end(),
+                          [](char A, QChar B) { return QLatin1Char(Upper(A)) == B; });
+    };
+    return std::any_of(Extensions().begin(), Extensions().end(), IsThis);
+}
 
 }  // namespace
 
 bool IsPictureName(const QString& Name) {
-    static const QStringList Extensions = {".BMP",  ".EMF", ".JPEG", ".JPG", ".PCD",
-                                           ".PCX",  ".PNG", ".PSD",  ".TGA", ".TIF",
-                                           ".TIFF", ".TLA", ".WBMP", ".WMF"};
-    return Extensions.contains(GetFileExt(Name).toUpper());
+    return Extensions().contains(GetFileExt(Name).toUpper());
 }
 
 QStringList ScanDirectory(const QString& Directory, bool Recurse, const WalkPoll& Poll) {
     QStringList Found;
-    const PictureVisitor Take = [&](const QString& Path) {
-        Found.append(Path);
-        return true;
-    };
-    PictureWalk(Recurse, Poll, Take).Walk(Directory);
+    PictureWalk(Recurse, Poll, Found).Walk(Directory);
     return Found;
 }
 
-std::int32_t CountGraphicFiles(const QString& Directory, bool Recurse, const WalkPoll& Poll) {
-    if (!IsPathValid(Directory)) return 0;
-    std::int32_t Count = 0;
-    const PictureVisitor Add = [&](const QString& Path) {
-        Count += IsPathValid(Path) ? 1 : 0;
-        return true;
-    };
-    PictureWalk(Recurse, Poll, Add).Walk(Directory);
-    return Count;
+std::int32_t CountGraphicFiles(const QString& Directory, bool Recurse, RunningCount& Count) {
+    const FileWalk Walk{.Wants = &IsHostPictureName,
+                        .Found = [&] { ++Count.SoFar; },
+                        .GoesOn = [&] { return !Count.Stop; }};
+    WalkFiles(Directory, Recurse, Walk);
+    return Count.SoFar;
 }
 
 }  // namespace neb

@@ -4,6 +4,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <atomic>
 #include <cstdint>
 #include <functional>
 
@@ -20,7 +21,14 @@ using WalkPoll = std::function<bool()>;
 // to a directory on the way down is not entered. Pictures found before a stop are in the list.
 QStringList ScanDirectory(const QString& Directory, bool Recurse, const WalkPoll& Poll);
 
-// The number of pictures that can be opened; 0 for a path that does not exist. Poll as above.
-std::int32_t CountGraphicFiles(const QString& Directory, bool Recurse, const WalkPoll& Poll);
+// A count that may run on a helper thread: who waits for it sees how far it is and may end it.
+struct RunningCount {
+    std::atomic<std::int32_t> SoFar = 0;
+    std::atomic<bool> Stop = false;
+};
+
+// The number of pictures that can be opened, in the directory and, when Recurse, all below it; 0
+// for a path that does not exist. Ended by Stop: what was counted until then.
+std::int32_t CountGraphicFiles(const QString& Directory, bool Recurse, RunningCount& Count);
 
 }  // namespace neb

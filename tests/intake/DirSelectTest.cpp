@@ -3,6 +3,8 @@
 #include <QComboBox>
 
 #include "IntakeHarness.h"
+#include "harness/WithoutPrivileges.h"
+#include "intake/DirectoryPanel.h"
 #include "intake/frmDirSelect.h"
 #include "platform/DirectoryTree.h"
 
@@ -25,10 +27,6 @@ class DirSelect : public Intake {
         Window = NewForm<frmDirSelect>();
         WhenOpen<frmDirSelect>([Do](frmDirSelect& Shown) { Do(Shown); });
         return Window->SelectDirectory();
-    }
-    static DirectoryTree& Dir1(const QWidget& Shown) { return In<DirectoryTree>(Shown, "Dir1"); }
-    static std::string Summary(const QWidget& Shown) {
-        return In<QLabel>(Shown, "lblDirSummary").text().toStdString();
     }
     static QCheckBox& Recurse(const QWidget& Shown) {
         return In<QCheckBox>(Shown, "chkRecurseDir");
@@ -132,6 +130,77 @@ TEST_F(DirSelect, OffersTheBoxAndTheCountOnlyWhenWanted) {
         Press(Shown, "cmdSelect");
     });
     EXPECT_EQ(Folder(), Window->SelectDirectory());
+}
+
+TEST_F(DirSelect, LeavesTheChoiceAsItWasWithoutTheOfferOfSubdirectories) {
+    Window = NewForm<frmDirSelect>();
+    Window->SetRecurseDirOption(false);
+    EXPECT_FALSE(Window->RecurseDir());
+    Dir1(*Window).SetPath(Folder());
+    Recurse(*Window).click();
+    EXPECT_FALSE(Window->RecurseDir());
+    EXPECT_EQ("2 graphics files detected.", Summary(*Window));
+    Window->Unload();
+}
+
+// The stop of the walk waits for nothing but the entry at hand, however long the walk would be.
+TEST_F(DirSelect, AnswersTheKeyboardWhileItCountsAndForgetsTheCountThatNobodyWantsAnyMore) {
+    for (int I = 0; I < 40; ++I)
+        for (int J = 0; J < 50; ++J) WriteFile(Pics / u"many%1-%2.jpg"_s.arg(I).arg(J), {});
+    int Turns = 0;
+    Ask([&](frmDirSelect& Shown) {
+        Dir1(Shown).SetPath(Folder());
+        Dir1(Shown).SetPath(Pics / u"sub"_s);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return ++Turns > 20; }));
+        EXPECT_EQ("1 graphics files detected.", Summary(Shown));
+        EXPECT_EQ(Pointer::Default, ScreenPointer());
+        Dir1(Shown).SetPath(Folder());
+        EXPECT_EQ("2002 graphics files detected.", Summary(Shown));
+        Dir1(Shown).SetPath(Pics / u"sub"_s);
+        Dir1(Shown).SetPath(Folder());
+        Shown.close();
+    });
+    EXPECT_EQ(Pointer::Default, ScreenPointer());
+    EXPECT_EQ(Folder().toUtf8() + '\n', ReadFile(Memory()));
+}
+
+TEST_F(DirSelect, CountsNothingInADirectoryThatCannotBeRead) {
+    MakePicture(Pics / u"locked/a.jpg"_s);
+    const auto All = QFile::Permissions(0x7755);
+    QFile::setPermissions(Pics.Path(), All);
+    QFile::setPermissions(Pics / u"locked"_s, {});
+    Ask([&](frmDirSelect& Shown) {
+        const WithoutPrivileges User;
+        Dir1(Shown).SetPath(Pics / u"locked"_s);
+        EXPECT_EQ(Pics / u"locked"_s, Dir1(Shown).Path());
+        EXPECT_EQ("0 graphics files detected.", Summary(Shown));
+        Shown.close();
+    });
+    QFile::setPermissions(Pics / u"locked"_s, All);
+}
+
+TEST_F(DirSelect, IsWorkedWithTheKeyboardAlone) {
+    const QString Answer = Ask([&](frmDirSelect& Shown) {
+        const auto Key = [&](Qt::Key Code, Qt::KeyboardModifiers With = {}) {
+            QTest::keyClick(Shown.focusWidget() ? Shown.focusWidget() : &Shown, Code, With);
+        };
+        Activate(Shown);
+        In<QComboBox>(Shown, "Drive1").setFocus();
+        Key(Qt::Key_Tab);
+        QTest::keyClick(Shown.focusWidget(), Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(Shown.focusWidget(), Folder());
+        Key(Qt::Key_Return);
+        EXPECT_EQ("2 graphics files detected.", Summary(Shown));
+        Key(Qt::Key_I, Qt::AltModifier);  // a button's key takes a moment to press it
+        EXPECT_TRUE(QTest::qWaitFor([&] { return Shown.RecurseDir(); }, 2000));
+        EXPECT_EQ("4 graphics files detected.", Summary(Shown));
+        Key(Qt::Key_S, Qt::AltModifier);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !Shown.IsLoaded(); }, 2000));
+        if (Shown.IsLoaded()) Shown.close();
+    });
+    EXPECT_EQ(Folder(), Answer);
+    EXPECT_TRUE(Window->RecurseDir());
+    EXPECT_EQ("", Ask([](frmDirSelect& Shown) { QTest::keyClick(&Shown, Qt::Key_Escape); }));
 }
 
 TEST_F(DirSelect, RemembersNothingInAFolderThatCannotBeWritten) {

@@ -8,6 +8,7 @@
 #include "harness/ScriptedBoxes.h"
 #include "harness/TempFolder.h"
 #include "intake/frmImportFilter.h"
+#include "platform/DirectoryTree.h"
 #include "platform/GridHarness.h"
 #include "platform/ImgX.h"
 #include "shell/clsFileSystem.h"
@@ -85,8 +86,19 @@ class Intake : public ::testing::Test {
     // A window manager gives the keyboard to a new window in its own time.
     static void ShowActive(Form& Window) {
         Window.ShowModeless();
+        Activate(Window);
+    }
+    static void Activate(Form& Window) {
         Window.activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&Window, 2000));
+    }
+
+    static DirectoryTree& Dir1(const QWidget& Window) { return In<DirectoryTree>(Window, "Dir1"); }
+    // What a window says of its directory once the count is over.
+    static std::string Summary(const QWidget& Window) {
+        const auto& Label = In<QLabel>(Window, "lblDirSummary");
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !Label.text().endsWith(u"so far ..."); }));
+        return Label.text().toStdString();
     }
 
     static FlexGrid& NonSelected(const QWidget& Window) {

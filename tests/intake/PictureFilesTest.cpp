@@ -1,4 +1,6 @@
 // Which files are pictures, and the walks that collect and count them.
+#include <sys/stat.h>
+
 #include <QFile>
 
 #include "IntakeHarness.h"
@@ -24,11 +26,15 @@ class PictureFiles : public Intake {
         return Names.join(u' ').toStdString();
     }
     void Touch(const char* Name) {
-        const QString Path = Pics / QString::fromLatin1(Name);
+        const QString Path = Pics / QString::fromUtf8(Name);
         MakeDirs(Path.left(Path.lastIndexOf(u'/')));
         WriteFile(Path, "x");
     }
-    std::int32_t Count(bool Recurse) { return CountGraphicFiles(Pics.Path(), Recurse, GoOn); }
+    std::int32_t Count(bool Recurse) { return CountIn(Pics.Path(), Recurse); }
+    static std::int32_t CountIn(const QString& Directory, bool Recurse) {
+        RunningCount Counted;
+        return CountGraphicFiles(Directory, Recurse, Counted);
+    }
 };
 
 TEST_F(PictureFiles, CountAsPicturesByTheirLastExtensionInAnyCase) {
@@ -68,8 +74,61 @@ TEST_F(PictureFiles, CountUpperAndLowerCaseNamesAndNoBackups) {
 }
 
 TEST_F(PictureFiles, NumberNoneInADirectoryThatHasVanished) {
-    EXPECT_EQ(0, CountGraphicFiles(Pics / u"gone"_s, true, GoOn));
+    EXPECT_EQ(0, CountIn(Pics / u"gone"_s, true));
     EXPECT_TRUE(ScanDirectory(Pics / u"gone/"_s, true, GoOn).isEmpty());
+}
+
+TEST_F(PictureFiles, AreCountedByTheSameNamesThatTheImportTakes) {
+    for (const char* Name :
+         {"a.jpg", "b.JPEG", "c.wBmp",
+          "d.t\xC4\xB1"
+          "f",
+          "e.jp", "f.jpgx", "g", ".png", "sub.tif/\xC3\xA4.tla", "sub.tif/h.gif"})
+        Touch(Name);
+    for (bool Recurse : {false, true}) {
+        QStringList Found = ScanDirectory(Pics.Path(), Recurse, GoOn);
+        EXPECT_EQ(Recurse ? 6 : 5, Found.size());
+        EXPECT_EQ(Found.size(), Count(Recurse));
+    }
+}
+
+TEST_F(PictureFiles, AreNoPipesOfTheirName) {
+    Touch("a.jpg");
+    ASSERT_EQ(0, mkfifo(qPrintable(Pics / u"pipe.jpg"_s), 0600));
+    EXPECT_EQ(1, Count(true));
+}
+
+TEST_F(PictureFiles, AreCountedInDirectoriesOfAnyDepth) {
+    QString Deep = Pics.Path();
+    for (int I = 0; I < 300; ++I) Deep += u"d/"_s;
+    MakePicture(Deep + u"a.jpg"_s);
+    EXPECT_EQ(1, Count(true));
+}
+
+TEST_F(PictureFiles, AreCountedNoFurtherOnceTheCountIsStopped) {
+    for (const char* Name : {"a.jpg", "b.jpg", "sub/c.jpg"}) Touch(Name);
+    RunningCount Stopped;
+    Stopped.Stop = true;
+    EXPECT_GE(1, CountGraphicFiles(Pics.Path(), true, Stopped));
+}
+
+TEST_F(PictureFiles, BehindALinkAreCounted) {
+    Touch("a.jpg");
+    TempFolder Other;
+    MakePicture(Other / u"b.jpg"_s);
+    ASSERT_TRUE(QFile::link(Other.Path().chopped(1), Pics / u"other"_s));
+    ASSERT_TRUE(QFile::link(Other / u"b.jpg"_s, Pics / u"b.jpg"_s));
+    EXPECT_EQ(2, Count(false));
+    EXPECT_EQ(3, Count(true));
+}
+
+TEST_F(PictureFiles, ThatMayNotBeReadAreNotCounted) {
+    Touch("a.jpg");
+    Touch("b.jpg");
+    QFile::setPermissions(Pics / u"b.jpg"_s, QFile::WriteOwner);
+    QFile::setPermissions(Pics.Path(), QFile::Permissions(0x7755));
+    const harness::WithoutPrivileges User;
+    EXPECT_EQ(1, Count(false));
 }
 
 TEST_F(PictureFiles, ThatDoNotOpenAreNotCounted) {

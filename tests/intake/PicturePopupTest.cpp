@@ -36,6 +36,20 @@ TEST_F(PicturePopup, ClosesByClickEnterAndEsc) {
     EXPECT_FALSE(ClosesBy([](auto& Shown) { QTest::mouseClick(&View(Shown), Qt::RightButton); }));
 }
 
+TEST_F(PicturePopup, KeepsTheEscKeyFromTheWindowBelow) {
+    MakePictures(1);
+    const auto Below = ShowFilter(MakeAlbum(u"Garden"_s), Pics.Path());
+    const auto Window = NewForm<frmPicturePopup>();
+    QString Path = Pics / u"a.jpg"_s;
+    Window->LoadSlide(Path);
+    WhenOpen<frmPicturePopup>([](auto& Shown) { QTest::keyClick(&Shown, Qt::Key_Escape); });
+    Window->ShowModal();
+    QTest::qWait(20);
+    EXPECT_FALSE(Window->IsLoaded());
+    EXPECT_TRUE(Below->IsLoaded());
+    Below->Unload();
+}
+
 // The second click of a double click opened it: letting go must not close it again.
 TEST_F(PicturePopup, StaysWhenAButtonIsLetGoThatWasPressedElsewhere) {
     EXPECT_FALSE(ClosesBy([](auto& Shown) { QTest::mouseRelease(&View(Shown), Qt::LeftButton); }));

@@ -1,0 +1,68 @@
+// What the windows share that ask for a directory of pictures: a list of places, a tree, the box
+// for subdirectories, and the count of the pictures that lie there, made beside the window's other
+// work. The directory last shown is remembered in "DS.ini" in the program's folder.
+#pragma once
+
+#include <QTimer>
+#include <QWidget>
+#include <memory>
+
+#include "platform/AheadQueue.h"
+
+namespace neb {
+
+namespace Ui {
+class DirectoryPanel;
+}
+struct RunningCount;
+
+class DirectoryPanel : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit DirectoryPanel(QWidget* Parent = nullptr);
+    ~DirectoryPanel() override;
+
+    // At the load of the window: goes to the directory last shown and counts from then on.
+    void Begin();
+    // At its unload: counts no more and remembers the directory.
+    void End();
+
+    // Whether the box for subdirectories, and the count, are offered; both are at first.
+    void SetRecurseDirOption(bool Offered);
+    void SetCountGraphics(bool Shown);
+    QString Path() const;
+    // Whether subdirectories are wanted: what the box said when it was last clicked or taken.
+    bool RecurseDir() const { return mRecurseDir; }
+    void ClearRecurseDir() { mRecurseDir = false; }
+    // Takes what the controls say, a directory that is typed and not yet entered included; false
+    // after a box when there is none of that name.
+    bool TakeChoice();
+
+  private:
+    void RecurseClicked();
+    void StartCount();
+    void LookAtCount();
+    void StopCount();
+
+    std::unique_ptr<Ui::DirectoryPanel> mUi;
+    bool mBegun = false;
+    bool mRecurseDir = false;
+    bool mCountGraphics = true;
+    bool mRecurseDirOption = true;
+
+    struct CountOrder {
+        QString Directory;
+        bool Recurse = false;
+        std::shared_ptr<RunningCount> Count;
+    };
+    std::shared_ptr<RunningCount> mCount;  // of the count under way
+    std::unique_ptr<AheadQueue<CountOrder, std::int32_t>> mCounter;
+    QTimer mLook;  // runs while a count does
+};
+
+// The memory of the directory last shown; errors are ignored both ways.
+QString ReadLastDirectory();
+void WriteLastDirectory(const QString& Directory);
+
+}  // namespace neb
