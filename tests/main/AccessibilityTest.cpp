@@ -11,6 +11,7 @@
 #include "harness/TempFolder.h"
 #include "intake/frmDirSelect.h"
 #include "intake/frmImportFilter.h"
+#include "intake/frmNewAlbumWzd1.h"
 #include "intake/frmPicturePopup.h"
 #include "intake/frmQuickShow.h"
 #include "presentation/frmPreferences.h"
@@ -65,9 +66,9 @@ class EachWindow : public ::testing::Test {
     harness::TempFolder mDocuments;
 };
 
-using Windows =
-    ::testing::Types<frmAbout, frmDirSelect, frmHelp, frmImportFilter, frmLoading, frmMsgBoxEx,
-                     frmPicturePopup, frmPreferences, frmQuickShow, frmSoundRecorder>;
+using Windows = ::testing::Types<frmAbout, frmDirSelect, frmHelp, frmImportFilter, frmLoading,
+                                 frmMsgBoxEx, frmNewAlbumWzd1, frmPicturePopup, frmPreferences,
+                                 frmQuickShow, frmSoundRecorder>;
 TYPED_TEST_SUITE(EachWindow, Windows);
 
 TYPED_TEST(EachWindow, HasNamesToolTipsAndReachableControls) {

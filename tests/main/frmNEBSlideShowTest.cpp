@@ -13,6 +13,7 @@
 #include <QPushButton>
 #include <QSet>
 #include <QTest>
+#include <QTimer>
 
 #include "MeasuredMachine.h"
 #include "db/clsDBEngine.h"
@@ -20,6 +21,7 @@
 #include "harness/TempFolder.h"
 #include "harness/WithoutPrivileges.h"
 #include "intake/clsImageBuffer.h"
+#include "intake/frmNewAlbumWzd1.h"
 #include "intake/frmQuickShow.h"
 #include "platform/FlexGrid.h"
 #include "presentation/frmPreferences.h"
@@ -438,6 +440,24 @@ TEST_F(MainWindow, PreferencesOpenFromTheMenu) {
     });
     EXPECT_TRUE(Entry("mnuSlideShowPrefs")->isEnabled());
     Press("mnuSlideShowPrefs");
+    EXPECT_EQ(Opened, 1);
+}
+
+TEST_F(MainWindow, ANewAlbumIsAskedForFromTheMenu) {
+    Start();
+    EXPECT_TRUE(Entry("mnuAlbumNew")->isEnabled());
+    EXPECT_EQ(Entry("mnuAlbumNew")->shortcut(), QKeySequence("Ctrl+N"));
+    int Opened = 0;
+    QTimer Poll;
+    QObject::connect(&Poll, &QTimer::timeout, [&] {
+        auto* Window = Find<frmNewAlbumWzd1>();
+        if (!Window || !Window->isVisible()) return;
+        ++Opened;
+        EXPECT_TRUE(Window->isModal());
+        Window->Unload();
+    });
+    Poll.start(2);
+    Press("mnuAlbumNew");
     EXPECT_EQ(Opened, 1);
 }
 

@@ -4,6 +4,7 @@
 #include <QMenu>
 
 #include "db/clsDBEngine.h"
+#include "intake/frmNewAlbumWzd1.h"
 #include "intake/frmQuickShow.h"
 #include "presentation/ShowSettings.h"
 #include "presentation/modSlideShows.h"
@@ -24,9 +25,9 @@ namespace {
 
 // The windows that come with later versions; until then their entries rest.
 constexpr const char* NotYet[] = {
-    "mnuAlbumNew",     "mnuAlbumRename",     "mnuAlbumDelete",     "mnuAlbumExport",
-    "mnuAlbumImport",  "mnuAlbumPrint",      "mnuSlideMgr",        "mnuSlideMgrBulk",
-    "mnuSlideShowMgr", "mnuSlideShowExport", "mnuSlideShowImport", "mnuSlideShowPrint",
+    "mnuAlbumRename",     "mnuAlbumDelete",     "mnuAlbumExport",    "mnuAlbumImport",
+    "mnuAlbumPrint",      "mnuSlideMgr",        "mnuSlideMgrBulk",   "mnuSlideShowMgr",
+    "mnuSlideShowExport", "mnuSlideShowImport", "mnuSlideShowPrint",
 };
 
 }  // namespace
@@ -35,6 +36,7 @@ void frmNEBSlideShow::SetUpMenu() {
     mMenu = std::make_unique<MainMenu>(BuildMainMenu(*this));
     for (const char* Entry : NotYet) mMenu->Entries[QString::fromLatin1(Entry)]->setEnabled(false);
     Connect("mnuQuickShow", [this] { OpenQuickShow(); });
+    Connect("mnuAlbumNew", [] { NewForm<frmNewAlbumWzd1>()->ShowModal(); });
     Connect("mnuExit", [this] { close(); });
     Connect("mnuSlideShowPrefs", [] { EditSlideShowPreferences(); });
     Connect("mnuSlideShowViewer", [this] { PlayActiveShow(); });
