@@ -1,5 +1,6 @@
 #include "db/modAlbumFiles.h"
 
+#include "support/modFUFL.h"
 #include "support/modNumbers.h"
 
 namespace neb {
@@ -18,6 +19,10 @@ QString SoundTracksFolder(const QString& DBPath, std::int32_t AlbumID) {
 
 QString FileStem(std::int32_t ID) {
     return Format(ID, "00000000");
+}
+
+QString SlidePath(const QString& DBPath, std::int32_t AlbumID, const QString& SlideLoc) {
+    return HoldsSeparator(SlideLoc) ? SlideLoc : SlidesFolder(DBPath, AlbumID) + SlideLoc;
 }
 
 QString ThumbnailName(std::int32_t SlideID) {

@@ -13,6 +13,8 @@ QString SoundTracksFolder(const QString& DBPath, std::int32_t AlbumID);
 
 // The ID in eight digits (more when it is larger): how all files of a slide or a show begin.
 QString FileStem(std::int32_t ID);
+// Where a slide's picture lies: SlideLoc as a record has it, a name in the album or a full path.
+QString SlidePath(const QString& DBPath, std::int32_t AlbumID, const QString& SlideLoc);
 // The thumbnail of a slide: the stem and "Small.bmp".
 QString ThumbnailName(std::int32_t SlideID);
 

@@ -32,11 +32,8 @@ QString PercentComplete(double Part, double Whole) {
     return Format(Part / Whole * 100, "##0") + QStringLiteral("% Complete");
 }
 
-// The folder of the program's own albums is no source of pictures; says so and is true.
 bool IsReserved(const QString& Path) {
-    if (!Path.startsWith(AppPath() + QStringLiteral("Albums/"))) return false;
-    MsgBox(QStringLiteral("This directory is reserved for Albums.  You cannot import from it."));
-    return true;
+    return IsReservedForAlbums(Path, AppPath());
 }
 
 QString AsDropped(const QString& Path) {

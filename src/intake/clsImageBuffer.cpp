@@ -23,8 +23,7 @@ QString SmallName(const QString& FileName) {
 }
 
 QString FullPath(std::int32_t AlbumID, const QString& SlideLoc) {
-    return HoldsSeparator(SlideLoc) ? SlideLoc
-                                    : SlidesFolder(DBEngine->DBPath(), AlbumID) + SlideLoc;
+    return SlidePath(DBEngine->DBPath(), AlbumID, SlideLoc);
 }
 
 QImage LoadPicture(const QString& FileName) {

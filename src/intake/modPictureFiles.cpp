@@ -1,5 +1,7 @@
 #include "intake/modPictureFiles.h"
 
+#include "shell/modNEBSlideShow.h"
+#include "support/Services.h"
 #include "support/modFUFL.h"
 #include "support/modHostFiles.h"
 #include "support/modHostFilesWalk.h"
@@ -73,6 +75,12 @@ bool IsHostPictureName(std::string_view Name) {
 
 bool IsPictureName(const QString& Name) {
     return Extensions().contains(GetFileExt(Name).toUpper());
+}
+
+bool IsReservedForAlbums(const QString& Path, const QString& Root) {
+    if (!Path.startsWith(Root + QStringLiteral("Albums/"))) return false;
+    MsgBox(QStringLiteral("This directory is reserved for Albums.  You cannot import from it."));
+    return true;
 }
 
 QStringList ScanDirectory(const QString& Directory, bool Recurse, const WalkPoll& Poll) {

@@ -13,6 +13,10 @@ namespace neb {
 // Whether the name ends in one of the picture extensions, without regard to case.
 bool IsPictureName(const QString& Name);
 
+// The folder of the albums below Root is no source of pictures: for a path that begins like it, to
+// the letter, says so in a box and is true. Root ends in a separator.
+bool IsReservedForAlbums(const QString& Path, const QString& Root);
+
 // Asked after every directory entry; false ends the walk at once.
 using WalkPoll = std::function<bool()>;
 

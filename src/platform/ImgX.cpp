@@ -150,8 +150,13 @@ QSize FitSize(QSize Full) {
 QByteArray FittedJpeg(const QString& File) {
     ImgX Picture;
     Picture.LoadAtLeast(File, SlideLimit);
+    return FittedJpeg(std::move(Picture));
+}
+
+QByteArray FittedJpeg(ImgX Picture) {
     const QSize Size = FitSize(Picture.FullSize());
     Picture.Resize(Size.width(), Size.height(), SlideSelector);
+    Picture.SetJpgQuality(100);
     return Picture.ToJpeg();
 }
 

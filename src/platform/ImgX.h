@@ -59,6 +59,8 @@ QSize FitSize(QSize Full);
 
 // A picture file as the JPEG bytes of a slide: fitted, quality 100. Throws as ImgX::Load does.
 QByteArray FittedJpeg(const QString& File);
+// The same from a picture in memory. Throws FaultNotSaved when there is none.
+QByteArray FittedJpeg(ImgX Picture);
 // The thumbnail of a picture file: stretched to exactly ThumbnailSize. Throws as ImgX::Load does.
 QImage MakeThumbnail(const QString& File);
 // The same from a picture in memory.

@@ -4,7 +4,6 @@
 #include <cstdlib>
 
 #include "presentation/WaveFile.h"
-#include "support/Fault.h"
 #include "support/Services.h"
 #include "support/modHostFiles.h"
 
@@ -35,16 +34,6 @@ std::uint32_t RateFor(std::uint32_t Caps) {
     for (const RateOfCaps& Each : Rates)
         if (Caps & Each.Caps) return Each.Rate;
     return 0;
-}
-
-// A file that could not be written whole is worth less than none.
-void ReplaceWhole(const QString& Path, const QByteArray& Bytes) {
-    try {
-        ReplaceFile(Path, Bytes);
-    } catch (const Fault&) {
-        DeleteFile(Path + QStringLiteral(".new"));
-        throw;
-    }
 }
 
 }  // namespace
@@ -165,7 +154,7 @@ bool clsDirectSound::Recorder::PlaybackComplete() const {
 
 bool clsDirectSound::Recorder::SaveToFile(const QString& Path) {
     if (!HasClip()) return false;
-    ReplaceWhole(Path, WaveFileBytes(mCaptureFormat, mBytes));
+    ReplaceFile(Path, WaveFileBytes(mCaptureFormat, mBytes));
     return true;
 }
 

@@ -65,7 +65,8 @@ class HostReader {
 };
 
 void WriteFile(const QString& Path, const QByteArray& Bytes);  // creates or replaces, in place
-// Writes beside the file and renames over it, so that the old or the new content is there.
+// Writes beside the file and renames over it, so that the old or the new content is there, and
+// nothing beside it.
 void ReplaceFile(const QString& Path, const QByteArray& Bytes);
 void AppendFile(const QString& Path, const QByteArray& Bytes);
 void CopyFile(const QString& From, const QString& To);  // replaces To

@@ -69,6 +69,15 @@ void WriteWhole(const QString& Path, const QByteArray& Bytes, QIODevice::OpenMod
     File.close();
 }
 
+// What is left of a file that could not be written whole; the fault before is the one to tell.
+void DeleteMade(const QString& Path) {
+    try {
+        DeleteFile(Path);
+    } catch (const Fault&) {
+        return;
+    }
+}
+
 }  // namespace
 
 void SetHostWatcher(HostWatcher NewWatcher) {
@@ -81,9 +90,14 @@ void WriteFile(const QString& Path, const QByteArray& Bytes) {
 
 void ReplaceFile(const QString& Path, const QByteArray& Bytes) {
     const QString Beside = ResolvePath(Path) + QStringLiteral(".new");
-    WriteFile(Beside, Bytes);
-    SyncFile(Beside);
-    RenameFile(Beside, Path);
+    try {
+        WriteFile(Beside, Bytes);
+        SyncFile(Beside);
+        RenameFile(Beside, Path);
+    } catch (const Fault&) {
+        DeleteMade(Beside);
+        throw;
+    }
 }
 
 void AppendFile(const QString& Path, const QByteArray& Bytes) {

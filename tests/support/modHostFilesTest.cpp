@@ -143,6 +143,7 @@ TEST(HostFiles, AReplacedFileIsTheOldOneWhenTheDiskIsFull) {
     EXPECT_THROW(ReplaceFile(Dir / "a", "new content"), Fault);
     SetHostWatcher({});
     EXPECT_EQ(ReadFile(Dir / "a"), "old");
+    EXPECT_EQ(ListDir(Dir.Path()).size(), 1u) << "a part of the new one";
 }
 
 TEST(HostFiles, AWriterGivesBackWhatItWasGiven) {
