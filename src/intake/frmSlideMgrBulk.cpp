@@ -2,11 +2,14 @@
 // the other windows is in frmSlideMgrBulkFill.cpp.
 #include "intake/frmSlideMgrBulk.h"
 
+#include <QAbstractItemView>
+
 #include "db/clsDBEngine.h"
 #include "intake/BulkSlides.h"
 #include "intake/frmPicturePopup.h"
 #include "platform/ComboBoxList.h"
 #include "platform/FlexGrid.h"
+#include "platform/Icons.h"
 #include "shell/Openers.h"
 #include "shell/modNEBSlideShow.h"
 #include "shell/modWindowState.h"
@@ -27,6 +30,7 @@ constexpr int HeaderWidth = 16;
 frmSlideMgrBulk::frmSlideMgrBulk() : mUi(std::make_unique<Ui::frmSlideMgrBulk>()) {
     mUi->setupUi(this);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
+    mUi->cboAlbum->view()->setAccessibleName(mUi->cboAlbum->accessibleName());
     SetUpGrid();
     SetUpButtons();
     connect(mUi->cboAlbum, &QComboBox::currentIndexChanged, this, &frmSlideMgrBulk::AlbumChosen);
@@ -38,14 +42,18 @@ frmSlideMgrBulk::~frmSlideMgrBulk() = default;
 // click on it, as names are in a list of files.
 void frmSlideMgrBulk::SetUpGrid() {
     FlexGrid& Grid = *mUi->flxAlbum;
+    const auto Digits = [this](int Count) {  // the captions have most of the room
+        return fontMetrics().horizontalAdvance(QString(Count, u'0')) + HeaderWidth;
+    };
     Grid.SetCols(ColCount);
     Grid.SetColumn(ColHeader, {.Kind = FlexKind::Fixed, .Width = HeaderWidth});
     Grid.SetColumn(clsImageBuffer::ColPicture,
                    {.Kind = FlexKind::Picture, .Align = Qt::AlignCenter, .Heading = tr("Picture")});
     Grid.SetColumn(clsImageBuffer::ColText,
                    {.Editable = !ReadOnlyDB, .Stretch = true, .Heading = tr("Caption")});
-    Grid.SetColumn(clsImageBuffer::ColPath, {.Heading = tr("File")});
-    Grid.SetColumn(clsImageBuffer::ColSlideID, {.Align = Qt::AlignRight, .Heading = tr("Slide")});
+    Grid.SetColumn(clsImageBuffer::ColPath, {.Width = Digits(14), .Heading = tr("File")});
+    Grid.SetColumn(clsImageBuffer::ColSlideID,
+                   {.Width = Digits(6), .Align = Qt::AlignRight, .Heading = tr("Slide")});
     Grid.SetColumn(ColUnused, {.Hidden = true});
     Grid.SetKeyColumn(clsImageBuffer::ColSlideID);
     Grid.SetKeyPressEdit(&FixQuoteKeyInGrid);
@@ -58,10 +66,20 @@ void frmSlideMgrBulk::SetUpGrid() {
 }
 
 void frmSlideMgrBulk::SetUpButtons() {
-    connect(mUi->cmdSave, &QPushButton::clicked, this, &frmSlideMgrBulk::Save);
-    connect(mUi->cmdCancel, &QPushButton::clicked, this, &frmSlideMgrBulk::Cancel);
-    connect(mUi->cmdDelete, &QPushButton::clicked, this, &frmSlideMgrBulk::Delete);
-    connect(mUi->cmdClose, &QPushButton::clicked, this, &frmSlideMgrBulk::Unload);
+    const struct {
+        QPushButton* Button;
+        const char* Icon;
+        void (frmSlideMgrBulk::*Action)();
+    } Buttons[] = {
+        {mUi->cmdSave, "save", &frmSlideMgrBulk::Save},
+        {mUi->cmdCancel, "cancel", &frmSlideMgrBulk::Cancel},
+        {mUi->cmdDelete, "delete", &frmSlideMgrBulk::Delete},
+        {mUi->cmdClose, "exit", &frmSlideMgrBulk::Close},
+    };
+    for (const auto& Each : Buttons) {
+        Each.Button->setIcon(ThemeIcon(Each.Icon));
+        connect(Each.Button, &QPushButton::clicked, this, Each.Action);
+    }
 }
 
 void frmSlideMgrBulk::LoadAlbumMgr(std::int32_t AlbumID) {
@@ -131,7 +149,8 @@ int frmSlideMgrBulk::RowOf(std::int32_t SlideID) const {
 }
 
 std::int32_t frmSlideMgrBulk::SlideIDIn(int Row) const {
-    return mUi->flxAlbum->TextMatrix(Row, clsImageBuffer::ColSlideID).toInt();
+    const CellValue& Key = mUi->flxAlbum->CellData(Row, clsImageBuffer::ColSlideID);
+    return static_cast<std::int32_t>(std::get<double>(Key));
 }
 
 std::vector<std::int32_t> frmSlideMgrBulk::SelectedIDs() const {

@@ -67,6 +67,7 @@ class frmSlideMgrBulk : public Form, public ProgressParent, public ChangeReceive
     SlideTally SaveRows();
     bool SaveRow(clsNEBAlbum& Album, SlideFinder& Finder, int Row);
     void Cancel();
+    void Close() { Unload(); }
     void Delete();
     SlideTally DeleteSlides(clsNEBAlbum& Album, const std::vector<std::int32_t>& SlideIDs);
 

@@ -13,6 +13,7 @@
 #include "intake/frmImportFilter.h"
 #include "intake/frmPicturePopup.h"
 #include "intake/frmQuickShow.h"
+#include "intake/frmSlideMgrBulk.h"
 #include "presentation/frmPreferences.h"
 #include "presentation/frmSoundRecorder.h"
 #include "shell/main/frmAbout.h"
@@ -65,9 +66,9 @@ class EachWindow : public ::testing::Test {
     harness::TempFolder mDocuments;
 };
 
-using Windows =
-    ::testing::Types<frmAbout, frmDirSelect, frmHelp, frmImportFilter, frmLoading, frmMsgBoxEx,
-                     frmPicturePopup, frmPreferences, frmQuickShow, frmSoundRecorder>;
+using Windows = ::testing::Types<frmAbout, frmDirSelect, frmHelp, frmImportFilter, frmLoading,
+                                 frmMsgBoxEx, frmPicturePopup, frmPreferences, frmQuickShow,
+                                 frmSlideMgrBulk, frmSoundRecorder>;
 TYPED_TEST_SUITE(EachWindow, Windows);
 
 TYPED_TEST(EachWindow, HasNamesToolTipsAndReachableControls) {
