@@ -11,7 +11,6 @@
 #include "platform/ToolBar.h"
 #include "shell/modNEBSlideShow.h"
 #include "shell/modWindowState.h"
-#include "support/Fault.h"
 #include "support/Services.h"
 #include "support/modDEValidation.h"
 #include "support/modNumbers.h"
@@ -158,14 +157,7 @@ void ImportForm::MoveRows(FlexGrid& From, FlexGrid& To, bool All) {
 
 void ImportForm::ShowPreview(const FlexGrid& Grid, int Row) {
     const auto Held = shared_from_this();
-    QString Path = Grid.TextMatrix(Row, ColPath);
-    try {
-        const auto Preview = NewForm<frmPicturePopup>();
-        Preview->LoadSlide(Path);
-        Preview->ShowModal();
-    } catch (const Fault&) {
-        // a preview that cannot be shown is simply not shown
-    }
+    PopUpPicture(Grid.TextMatrix(Row, ColPath));
 }
 
 void ImportForm::Form_Load() {

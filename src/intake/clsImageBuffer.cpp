@@ -185,6 +185,7 @@ bool clsImageBuffer::ReadThumbnail(const QString& FileName, FlexGrid& Grid, int 
 }
 
 void clsImageBuffer::SaveThumbnail(const FlexGrid& Grid, int Row) const {
+    if (ReadOnlyDB) return;
     const QString Path = SlidesFolder(DBEngine->DBPath(), KeyIn(Grid, Row, ColAlbumID)) +
                          ThumbnailName(KeyIn(Grid, Row, ColSlideID));
     DropFile(Path);

@@ -59,4 +59,14 @@ void frmPicturePopup::keyPressEvent(QKeyEvent* Event) {
     }
 }
 
+void PopUpPicture(QString Path) {
+    try {
+        const auto Popup = NewForm<frmPicturePopup>();
+        Popup->LoadSlide(Path);
+        Popup->ShowModal();
+    } catch (const Fault&) {
+        // a preview that cannot be shown is simply not shown
+    }
+}
+
 }  // namespace neb

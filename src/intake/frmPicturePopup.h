@@ -31,4 +31,7 @@ class frmPicturePopup : public Form {
     std::unique_ptr<Ui::frmPicturePopup> mUi;
 };
 
+// Shows the window on a picture; returns when it has closed. One that cannot be shown is not.
+void PopUpPicture(QString Path);
+
 }  // namespace neb

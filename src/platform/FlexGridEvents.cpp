@@ -25,6 +25,8 @@ bool FlexGrid::MayEdit(const QModelIndex& Index) const {
 
 bool FlexGrid::edit(const QModelIndex& Index, EditTrigger Trigger, QEvent* Event) {
     const bool Starts = Trigger == AllEditTriggers || editTriggers() & Trigger;
+    // a double click that edits nothing still calls off the edit that its first half announced
+    if (!Starts && Trigger == DoubleClicked) return QTableView::edit(Index, Trigger, Event);
     if (!Starts || IsEditing() || !(mModel->flags(Index) & Qt::ItemIsEditable) || !MayEdit(Index))
         return false;
     mEditing = Index;

@@ -14,6 +14,7 @@
 #include "intake/frmNewAlbumWzd1.h"
 #include "intake/frmPicturePopup.h"
 #include "intake/frmQuickShow.h"
+#include "intake/frmSlideMgrBulk.h"
 #include "presentation/frmPreferences.h"
 #include "presentation/frmSoundRecorder.h"
 #include "shell/main/frmAbout.h"
@@ -68,7 +69,7 @@ class EachWindow : public ::testing::Test {
 
 using Windows = ::testing::Types<frmAbout, frmDirSelect, frmHelp, frmImportFilter, frmLoading,
                                  frmMsgBoxEx, frmNewAlbumWzd1, frmPicturePopup, frmPreferences,
-                                 frmQuickShow, frmSoundRecorder>;
+                                 frmQuickShow, frmSlideMgrBulk, frmSoundRecorder>;
 TYPED_TEST_SUITE(EachWindow, Windows);
 
 TYPED_TEST(EachWindow, HasNamesToolTipsAndReachableControls) {

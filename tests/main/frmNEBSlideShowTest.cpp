@@ -23,6 +23,7 @@
 #include "intake/clsImageBuffer.h"
 #include "intake/frmNewAlbumWzd1.h"
 #include "intake/frmQuickShow.h"
+#include "intake/frmSlideMgrBulk.h"
 #include "platform/FlexGrid.h"
 #include "presentation/frmPreferences.h"
 #include "presentation/frmSlideShowProjector.h"
@@ -289,6 +290,27 @@ TEST_F(MainWindow, QuickShowWindowsStandInTheCascade) {
     EXPECT_EQ(Frames[0]->pos(), QPoint(0, 0));
     EXPECT_EQ(Frames[1]->pos(), QPoint(22, 22));
     EXPECT_TRUE(Frames[1]->isVisible());
+}
+
+TEST_F(MainWindow, CtrlBOpensABulkSlideManagerEachTime) {
+    Start();
+    SaveAlbum("Holidays");
+    EXPECT_TRUE(Entry("mnuSlideMgrBulk")->isEnabled());
+    EXPECT_EQ(Entry("mnuSlideMgrBulk")->shortcut(), QKeySequence("Ctrl+B"));
+    Press("mnuSlideMgrBulk");
+    Press("mnuSlideMgrBulk");
+    const auto Frames = mWindow->findChild<QMdiArea*>()->subWindowList();
+    ASSERT_EQ(Frames.size(), 2);
+    for (const QMdiSubWindow* Each : Frames) {
+        EXPECT_TRUE(qobject_cast<frmSlideMgrBulk*>(Each->widget()));
+        EXPECT_EQ(Each->windowTitle(), "Bulk Slide Manager - Holidays");
+        EXPECT_TRUE(Each->isVisible());
+    }
+    EXPECT_EQ(Frames[1]->pos(), QPoint(22, 22));
+    QTest::keyClick(Frames[0]->widget(), Qt::Key_Escape);
+    EXPECT_TRUE(Frames[0]->isVisible()) << "Esc leaves captions that are being typed";
+    EXPECT_TRUE(mWindow->close());
+    EXPECT_TRUE(LoadedForms().empty());
 }
 
 TEST_F(MainWindow, TheWindowMenuListsTheOpenWindows) {

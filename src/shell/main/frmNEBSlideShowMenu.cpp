@@ -6,6 +6,7 @@
 #include "db/clsDBEngine.h"
 #include "intake/frmNewAlbumWzd1.h"
 #include "intake/frmQuickShow.h"
+#include "intake/frmSlideMgrBulk.h"
 #include "presentation/ShowSettings.h"
 #include "presentation/modSlideShows.h"
 #include "shell/Openers.h"
@@ -25,9 +26,9 @@ namespace {
 
 // The windows that come with later versions; until then their entries rest.
 constexpr const char* NotYet[] = {
-    "mnuAlbumRename",     "mnuAlbumDelete",     "mnuAlbumExport",    "mnuAlbumImport",
-    "mnuAlbumPrint",      "mnuSlideMgr",        "mnuSlideMgrBulk",   "mnuSlideShowMgr",
-    "mnuSlideShowExport", "mnuSlideShowImport", "mnuSlideShowPrint",
+    "mnuAlbumRename",     "mnuAlbumDelete",    "mnuAlbumExport",  "mnuAlbumImport",
+    "mnuAlbumPrint",      "mnuSlideMgr",       "mnuSlideShowMgr", "mnuSlideShowExport",
+    "mnuSlideShowImport", "mnuSlideShowPrint",
 };
 
 }  // namespace
@@ -35,6 +36,7 @@ constexpr const char* NotYet[] = {
 void frmNEBSlideShow::SetUpMenu() {
     mMenu = std::make_unique<MainMenu>(BuildMainMenu(*this));
     for (const char* Entry : NotYet) mMenu->Entries[QString::fromLatin1(Entry)]->setEnabled(false);
+    Connect("mnuSlideMgrBulk", [] { NewForm<frmSlideMgrBulk>()->LoadAlbumMgr(0); });
     Connect("mnuQuickShow", [this] { OpenQuickShow(); });
     Connect("mnuAlbumNew", [] { NewForm<frmNewAlbumWzd1>()->ShowModal(); });
     Connect("mnuExit", [this] { close(); });
