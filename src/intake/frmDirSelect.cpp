@@ -12,22 +12,8 @@
 namespace neb {
 namespace {
 
-constexpr double YieldMs = 40;
-
 QString MemoryFile() {
     return AppPath() + QStringLiteral("DS.ini");
-}
-
-// Lets events run now and then, however many entries a directory has.
-WalkPoll YieldingPoll(std::function<bool()> GoesOn) {
-    double Last = TheServices().Time->Ticks();
-    return [Last, GoesOn]() mutable {
-        const double Now = TheServices().Time->Ticks();
-        if (Now - Last < YieldMs) return true;
-        DoEvents();
-        Last = TheServices().Time->Ticks();
-        return GoesOn();
-    };
 }
 
 }  // namespace

@@ -1,11 +1,14 @@
 #include "intake/modPictureFiles.h"
 
 #include "shell/modNEBSlideShow.h"
+#include "support/Services.h"
 #include "support/modFUFL.h"
 #include "support/modHostFiles.h"
 
 namespace neb {
 namespace {
+
+constexpr double YieldMs = 40;
 
 // What a walk does with a picture; false ends the walk.
 using PictureVisitor = std::function<bool(const QString& Path)>;
@@ -47,6 +50,17 @@ class PictureWalk {
 };
 
 }  // namespace
+
+WalkPoll YieldingPoll(std::function<bool()> GoesOn) {
+    double Last = TheServices().Time->Ticks();
+    return [Last, GoesOn]() mutable {
+        const double Now = TheServices().Time->Ticks();
+        if (Now - Last < YieldMs) return true;
+        DoEvents();
+        Last = TheServices().Time->Ticks();
+        return GoesOn();
+    };
+}
 
 bool IsPictureName(const QString& Name) {
     static const QStringList Extensions = {".BMP",  ".EMF", ".JPEG", ".JPG", ".PCD",

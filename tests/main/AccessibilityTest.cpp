@@ -9,7 +9,10 @@
 #include <QTextEdit>
 
 #include "harness/TempFolder.h"
+#include "intake/frmAlbumDelete.h"
+#include "intake/frmAlbumRename.h"
 #include "intake/frmDirSelect.h"
+#include "intake/frmGetObjectName.h"
 #include "intake/frmImportFilter.h"
 #include "intake/frmPicturePopup.h"
 #include "intake/frmQuickShow.h"
@@ -66,8 +69,9 @@ class EachWindow : public ::testing::Test {
 };
 
 using Windows =
-    ::testing::Types<frmAbout, frmDirSelect, frmHelp, frmImportFilter, frmLoading, frmMsgBoxEx,
-                     frmPicturePopup, frmPreferences, frmQuickShow, frmSoundRecorder>;
+    ::testing::Types<frmAbout, frmAlbumDelete, frmAlbumRename, frmDirSelect, frmGetObjectName,
+                     frmHelp, frmImportFilter, frmLoading, frmMsgBoxEx, frmPicturePopup,
+                     frmPreferences, frmQuickShow, frmSoundRecorder>;
 TYPED_TEST_SUITE(EachWindow, Windows);
 
 TYPED_TEST(EachWindow, HasNamesToolTipsAndReachableControls) {
