@@ -9,6 +9,8 @@
 namespace neb {
 namespace {
 
+constexpr double YieldMs = 40;
+
 class PictureWalk {
   public:
     PictureWalk(bool Recurse, const WalkPoll& Poll, QStringList& Found)
@@ -72,6 +74,17 @@ bool IsHostPictureName(std::string_view Name) {
 }
 
 }  // namespace
+
+WalkPoll YieldingPoll(std::function<bool()> GoesOn) {
+    double Last = TheServices().Time->Ticks();
+    return [Last, GoesOn]() mutable {
+        const double Now = TheServices().Time->Ticks();
+        if (Now - Last < YieldMs) return true;
+        DoEvents();
+        Last = TheServices().Time->Ticks();
+        return GoesOn();
+    };
+}
 
 bool IsPictureName(const QString& Name) {
     return Extensions().contains(GetFileExt(Name).toUpper());

@@ -19,6 +19,8 @@ bool IsReservedForAlbums(const QString& Path, const QString& Root);
 
 // Asked after every directory entry; false ends the walk at once.
 using WalkPoll = std::function<bool()>;
+// Lets events run now and then, however many entries there are, and asks GoesOn whenever it has.
+WalkPoll YieldingPoll(std::function<bool()> GoesOn);
 
 // The full paths of a directory's pictures in listing order, then, when Recurse, those of its
 // subdirectories, depth first. A directory that cannot be listed holds none; a symbolic link back

@@ -1,6 +1,9 @@
 #include "platform/ComboBoxList.h"
 
+#include <QAbstractItemView>
+#include <QScreen>
 #include <QSignalBlocker>
+#include <QStyle>
 
 namespace neb {
 
@@ -30,6 +33,16 @@ void ComboBoxList::RemoveItem(int Index) {
 
 std::int32_t ComboBoxList::ItemData(int Index) const {
     return mBox.itemData(Index).toInt();
+}
+
+// Not every style opens a list wider than its box by itself.
+void OpenAsWideAsNames(QComboBox& Box) {
+    int Widest = 0;
+    for (int Item = 0; Item < Box.count(); ++Item)
+        Widest = std::max(Widest, Box.fontMetrics().horizontalAdvance(Box.itemText(Item)));
+    const int Margins = 2 * Box.style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr);
+    const int Room = Box.screen()->availableSize().width() * 2 / 3;
+    Box.view()->setMinimumWidth(std::min(Widest + Margins, Room));
 }
 
 }  // namespace neb

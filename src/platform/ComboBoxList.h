@@ -26,4 +26,8 @@ class ComboBoxList : public ComboList {
     QComboBox& mBox;
 };
 
+// Opens the list wide enough for the names, which may differ at their end alone, however narrow
+// the box itself is; to be called when the entries are new.
+void OpenAsWideAsNames(QComboBox& Box);
+
 }  // namespace neb

@@ -1,8 +1,6 @@
 #include "presentation/frmPreferences.h"
 
-#include <QAbstractItemView>
 #include <QScreen>
-#include <QStyle>
 
 #include "db/clsDBEngine.h"
 #include "platform/ComboBoxList.h"
@@ -34,17 +32,6 @@ QSize& LastSize() {
 void SelectOrNothing(ComboBoxList& Combo, std::int32_t ID) {
     Combo.SetListIndex(-1);
     if (ID != 0) ComboSelectByData(Combo, ID, -1);
-}
-
-// The box itself stays narrow beside the picture, but names may differ at their end alone. Not
-// every style opens a list wider than its box by itself.
-void OpenAsWideAsNames(QComboBox& Box) {
-    int Widest = 0;
-    for (int Item = 0; Item < Box.count(); ++Item)
-        Widest = std::max(Widest, Box.fontMetrics().horizontalAdvance(Box.itemText(Item)));
-    const int Margins = 2 * Box.style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr);
-    const int Room = Box.screen()->availableSize().width() * 2 / 3;
-    Box.view()->setMinimumWidth(std::min(Widest + Margins, Room));
 }
 
 std::optional<PreferencesEntries::Choice> Chosen(QComboBox& Box) {

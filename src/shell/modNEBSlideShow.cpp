@@ -107,6 +107,10 @@ bool ValidateUserInput(const QString& FieldName, const QString& Text) {
     return false;
 }
 
+bool StartsWithVowel(const QString& Word) {
+    return !Word.isEmpty() && QStringView(u"AEIOU").contains(Word.front().toUpper());
+}
+
 bool IsPathValid(const QString& Path) {
     if (!FileSystem) return false;
     if (FileSystem->DriveExists(Path)) return true;

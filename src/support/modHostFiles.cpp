@@ -140,6 +140,12 @@ bool FolderExists(const QString& Path) {
     return !Path.isEmpty() && Look(Path).isDir();
 }
 
+bool IsLink(const QString& Path) {
+    QString Host = ResolvePath(Path);
+    while (Host.endsWith(u'/')) Host.chop(1);  // with it the link would be followed
+    return QFileInfo(Host).isSymLink();
+}
+
 bool IsReadOnly(const QString& Path) {
     const QString Host = ResolvePath(Path);
     const auto WriteBits =

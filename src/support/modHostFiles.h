@@ -28,6 +28,7 @@ QString AbsolutePath(const QString& Path, const QString& Base = {});
 bool FileExists(const QString& Path);  // a file that is no directory
 bool NameExists(const QString& Path);  // anything: a file, a directory, a link that leads nowhere
 bool FolderExists(const QString& Path);
+bool IsLink(const QString& Path);       // a symbolic link, whatever it leads to
 bool IsReadOnly(const QString& Path);   // no write bit is set, or the medium is read-only
 bool CanReadFile(const QString& Path);  // exists and opens for reading
 qint64 FileSize(const QString& Path);   // bytes; -1 when there is none
@@ -77,6 +78,11 @@ void SyncFile(const QString& Path);                       // content is on the d
 void SyncDir(const QString& Dir);                         // names are on the disk afterwards
 void MakeDirs(const QString& Dir);                        // with parents; no fault when it exists
 void DeleteTree(const QString& Dir);  // a directory and all in it; errors are ignored
+// The files and links in a directory, not the directories in it, nor what a link leads to; nothing
+// when Dir itself is a link. Errors are ignored, each by itself. Between is called all the while.
+void DeleteFilesIn(const QString& Dir, const std::function<void()>& Between = {});
+// A directory in which nothing is left, or the link that stands for one; errors are ignored.
+void DeleteFolder(const QString& Dir);
 
 // A file written piece by piece: the record files and the journal.
 class HostWriter {

@@ -6,6 +6,7 @@
 #include <QTemporaryDir>
 #include <cerrno>
 #include <cstdio>
+#include <filesystem>
 
 #include "support/Fault.h"
 #include "support/NameCache.h"
@@ -19,6 +20,9 @@
 #endif
 
 namespace neb {
+
+namespace fs = std::filesystem;
+
 namespace {
 
 HostWatcher& Watcher() {
@@ -76,6 +80,39 @@ void DeleteMade(const QString& Path) {
     } catch (const Fault&) {
         return;
     }
+}
+
+// Without a closing separator, with which a link would be followed.
+fs::path NativePath(const QString& Path) {
+    QString Host = ResolvePath(Path);
+    while (Host.endsWith(u'/')) Host.chop(1);
+    return fs::path(QFile::encodeName(Host).constData());
+}
+
+// In the host's own names, which may hold a "\" or be no text at all.
+std::vector<fs::path> FilesIn(const fs::path& Dir, const std::function<void()>& Between) {
+    std::vector<fs::path> Files;
+    std::error_code Error;
+    fs::directory_iterator Entry(Dir, Error);
+    for (; !Error && Entry != fs::directory_iterator(); Entry.increment(Error)) {
+        std::error_code Ignored;
+        if (Entry->is_symlink(Ignored) || !Entry->is_directory(Ignored))
+            Files.push_back(Entry->path());
+        if (Between) Between();
+    }
+    return Files;
+}
+
+// A file, a link or an empty directory; what cannot go stays.
+void Drop(const fs::path& Path) {
+    const QString Host = QFile::decodeName(Path.string().c_str());
+    std::error_code Ignored;
+    try {
+        Announce(HostStep::Delete, Host);
+    } catch (const Fault&) {
+        return;
+    }
+    if (fs::remove(Path, Ignored)) NoteNameGone(Host);
 }
 
 }  // namespace
@@ -167,6 +204,18 @@ void MakeDirs(const QString& Dir) {
 
 void DeleteTree(const QString& Dir) {
     if (FolderExists(Dir)) QDir(ResolvePath(Dir)).removeRecursively();
+}
+
+void DeleteFilesIn(const QString& Dir, const std::function<void()>& Between) {
+    if (IsLink(Dir)) return;
+    for (const fs::path& File : FilesIn(NativePath(Dir), Between)) {
+        Drop(File);
+        if (Between) Between();
+    }
+}
+
+void DeleteFolder(const QString& Dir) {
+    Drop(NativePath(Dir));
 }
 
 struct HostWriter::State {

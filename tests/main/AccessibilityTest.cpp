@@ -9,7 +9,10 @@
 #include <QTextEdit>
 
 #include "harness/TempFolder.h"
+#include "intake/frmAlbumDelete.h"
+#include "intake/frmAlbumRename.h"
 #include "intake/frmDirSelect.h"
+#include "intake/frmGetObjectName.h"
 #include "intake/frmImportFilter.h"
 #include "intake/frmNewAlbumWzd1.h"
 #include "intake/frmPicturePopup.h"
@@ -67,7 +70,8 @@ class EachWindow : public ::testing::Test {
     harness::TempFolder mDocuments;
 };
 
-using Windows = ::testing::Types<frmAbout, frmDirSelect, frmHelp, frmImportFilter, frmLoading,
+using Windows = ::testing::Types<frmAbout, frmAlbumDelete, frmAlbumRename, frmDirSelect,
+                                 frmGetObjectName, frmHelp, frmImportFilter, frmLoading,
                                  frmMsgBoxEx, frmNewAlbumWzd1, frmPicturePopup, frmPreferences,
                                  frmQuickShow, frmSlideMgrBulk, frmSoundRecorder>;
 TYPED_TEST_SUITE(EachWindow, Windows);

@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
+#include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
@@ -21,6 +22,8 @@
 #include "harness/TempFolder.h"
 #include "harness/WithoutPrivileges.h"
 #include "intake/clsImageBuffer.h"
+#include "intake/frmAlbumDelete.h"
+#include "intake/frmAlbumRename.h"
 #include "intake/frmNewAlbumWzd1.h"
 #include "intake/frmQuickShow.h"
 #include "intake/frmSlideMgrBulk.h"
@@ -65,15 +68,19 @@ class MainWindow : public ::testing::Test {
         Entry(Name)->trigger();
         DoEvents();
     }
-    // Calls Do with the Preferences window once it stands open, and unloads it.
-    static void WhenPreferencesOpen(std::function<void(frmPreferences&)> Do) {
+    // Calls Do with a window once it stands open, and unloads it.
+    template <class Window>
+    static void WhenOpen(std::function<void(Window&)> Do) {
         QTimer::singleShot(0, qApp, [Do = std::move(Do)] {
-            auto* Window = Find<frmPreferences>();
-            if (!Window || !Window->isVisible()) return WhenPreferencesOpen(Do);
-            const auto Held = Window->shared_from_this();
-            Do(*Window);
-            Window->Unload();
+            auto* Shown = Find<Window>();
+            if (!Shown || !Shown->isVisible()) return WhenOpen<Window>(Do);
+            const auto Held = Shown->shared_from_this();
+            Do(*Shown);
+            Shown->Unload();
         });
+    }
+    static void WhenPreferencesOpen(std::function<void(frmPreferences&)> Do) {
+        WhenOpen<frmPreferences>(std::move(Do));
     }
     template <class Window>
     static Window* Find() {
@@ -481,6 +488,38 @@ TEST_F(MainWindow, ANewAlbumIsAskedForFromTheMenu) {
     Poll.start(2);
     Press("mnuAlbumNew");
     EXPECT_EQ(Opened, 1);
+}
+
+TEST_F(MainWindow, AnAlbumIsRenamedFromTheMenu) {
+    Start();
+    SaveAlbum("Holidays");
+    EXPECT_TRUE(Entry("mnuAlbumRename")->isEnabled());
+    WhenOpen<frmAlbumRename>([](frmAlbumRename& Window) {
+        EXPECT_TRUE(Window.isModal());
+        auto* Albums = Window.findChild<QComboBox*>("cboAlbum");
+        EXPECT_EQ(Albums->currentIndex(), -1) << "the user is to choose";
+        Albums->setCurrentIndex(0);
+        Window.findChild<QLineEdit*>("txtAlbumName")->setText("Winter");
+        QTest::mouseClick(Window.findChild<QPushButton*>("cmdSave"), Qt::LeftButton);
+    });
+    Press("mnuAlbumRename");
+    EXPECT_TRUE(DBEngine->FindAlbum(0, "Winter"));
+}
+
+TEST_F(MainWindow, AnAlbumIsDeletedFromTheMenu) {
+    Start();
+    SaveAlbum("Holidays");
+    EXPECT_TRUE(Entry("mnuAlbumDelete")->isEnabled());
+    mBoxes.Expect(
+        "Are you sure you want to delete the selected Album?\n"
+        "If you proceed all the slides and slide shows within\nwill be lost.",
+        BoxAnswer::Yes);
+    WhenOpen<frmAlbumDelete>([](frmAlbumDelete& Window) {
+        Window.findChild<QComboBox*>("cboAlbum")->setCurrentIndex(0);
+        QTest::mouseClick(Window.findChild<QPushButton*>("cmdDelete"), Qt::LeftButton);
+    });
+    Press("mnuAlbumDelete");
+    EXPECT_TRUE(DBEngine->Albums.empty());
 }
 
 TEST_F(MainWindow, PlayingAnAlbumThatIsGoneStopsWithoutAWord) {

@@ -213,6 +213,57 @@ TEST(HostFiles, ALinkThatLeadsNowhereIsANameButNoFile) {
     EXPECT_TRUE(NameExists(Dir.Path()));
 }
 
+TEST(HostFiles, TheFilesInADirectoryGoAndItsDirectoriesStay) {
+    TempFolder Dir;
+    for (const char* Name : {"set/a.jpg", "set/no ending", "set/.hidden", "set/sub/b.jpg"}) {
+        MakeDirs((Dir / QString(Name)).section(u'/', 0, -2));
+        WriteFile(Dir / Name, "x");
+    }
+    int Steps = 0;
+    DeleteFilesIn(Dir / "SET/", [&] { ++Steps; });
+    EXPECT_GE(Steps, 3);
+    EXPECT_EQ(ListDir(Dir / "set").size(), 1u);
+    EXPECT_TRUE(FileExists(Dir / "set/sub/b.jpg"));
+    DeleteFolder(Dir / "set/");
+    EXPECT_TRUE(FolderExists(Dir / "set")) << "something is left in it";
+    DeleteFilesIn(Dir / "set/sub");
+    DeleteFolder(Dir / "set/sub");
+    EXPECT_FALSE(NameExists(Dir / "set/sub"));
+    DeleteFilesIn(Dir / "nothing");
+    DeleteFolder(Dir / "nothing");
+    DeleteFilesIn({});
+    DeleteFolder({});
+}
+
+TEST(HostFiles, LinksAreNeverFollowedWhenFilesGo) {
+    TempFolder Dir, Elsewhere;
+    WriteFile(Elsewhere / "a.jpg", "x");
+    MakeDirs(Dir / "set");
+    QFile::link(Elsewhere.Path(), Dir / "set/link");
+    EXPECT_TRUE(IsLink(Dir / "set/link"));
+    EXPECT_TRUE(IsLink(Dir / "set/link/"));
+    EXPECT_FALSE(IsLink(Dir / "set/"));
+    DeleteFilesIn(Dir / "set/link/");
+    EXPECT_TRUE(FileExists(Elsewhere / "a.jpg"));
+    DeleteFilesIn(Dir / "set/");
+    EXPECT_TRUE(ListDir(Dir / "set").empty());
+    QFile::link(Elsewhere.Path(), Dir / "set/link");
+    DeleteFolder(Dir / "set/link/");
+    EXPECT_FALSE(NameExists(Dir / "set/link"));
+    EXPECT_TRUE(FileExists(Elsewhere / "a.jpg"));
+}
+
+TEST(HostFiles, AFileThatCannotGoKeepsNoOtherFromGoing) {
+    TempFolder Dir;
+    for (const char* Name : {"a", "b", "c"}) WriteFile(Dir / Name, "x");
+    SetHostWatcher([](HostStep, const QString& Path, qint64&) {
+        if (Path.endsWith(u"b")) throw Fault("in use", Path);
+    });
+    DeleteFilesIn(Dir.Path());
+    SetHostWatcher({});
+    EXPECT_EQ(ListMask(Dir / "*.*"), QStringList("b"));
+}
+
 TEST(HostFiles, OnlyRelativePathsAreMadeAbsolute) {
     EXPECT_EQ(AbsolutePath("db", "/a/b/"), u"/a/b/db");
     EXPECT_EQ(AbsolutePath("../c\\d", "/a/b/"), u"/a/c/d");

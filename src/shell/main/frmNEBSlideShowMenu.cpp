@@ -7,6 +7,7 @@
 #include "intake/frmNewAlbumWzd1.h"
 #include "intake/frmQuickShow.h"
 #include "intake/frmSlideMgrBulk.h"
+#include "intake/modAlbumNames.h"
 #include "presentation/ShowSettings.h"
 #include "presentation/modSlideShows.h"
 #include "shell/Openers.h"
@@ -26,9 +27,8 @@ namespace {
 
 // The windows that come with later versions; until then their entries rest.
 constexpr const char* NotYet[] = {
-    "mnuAlbumRename",     "mnuAlbumDelete",    "mnuAlbumExport",  "mnuAlbumImport",
-    "mnuAlbumPrint",      "mnuSlideMgr",       "mnuSlideShowMgr", "mnuSlideShowExport",
-    "mnuSlideShowImport", "mnuSlideShowPrint",
+    "mnuAlbumExport",  "mnuAlbumImport",     "mnuAlbumPrint",      "mnuSlideMgr",
+    "mnuSlideShowMgr", "mnuSlideShowExport", "mnuSlideShowImport", "mnuSlideShowPrint",
 };
 
 }  // namespace
@@ -37,6 +37,8 @@ void frmNEBSlideShow::SetUpMenu() {
     mMenu = std::make_unique<MainMenu>(BuildMainMenu(*this));
     for (const char* Entry : NotYet) mMenu->Entries[QString::fromLatin1(Entry)]->setEnabled(false);
     Connect("mnuSlideMgrBulk", [] { NewForm<frmSlideMgrBulk>()->LoadAlbumMgr(0); });
+    Connect("mnuAlbumRename", [] { ShowRenameAlbum(0); });
+    Connect("mnuAlbumDelete", [] { ShowDeleteAlbum(0); });
     Connect("mnuQuickShow", [this] { OpenQuickShow(); });
     Connect("mnuAlbumNew", [] { NewForm<frmNewAlbumWzd1>()->ShowModal(); });
     Connect("mnuExit", [this] { close(); });
