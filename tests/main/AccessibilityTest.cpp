@@ -13,6 +13,7 @@
 #include "intake/frmImportFilter.h"
 #include "intake/frmPicturePopup.h"
 #include "intake/frmQuickShow.h"
+#include "intake/frmSlideDBM.h"
 #include "presentation/frmPreferences.h"
 #include "presentation/frmSoundRecorder.h"
 #include "shell/main/frmAbout.h"
@@ -67,7 +68,7 @@ class EachWindow : public ::testing::Test {
 
 using Windows =
     ::testing::Types<frmAbout, frmDirSelect, frmHelp, frmImportFilter, frmLoading, frmMsgBoxEx,
-                     frmPicturePopup, frmPreferences, frmQuickShow, frmSoundRecorder>;
+                     frmPicturePopup, frmPreferences, frmQuickShow, frmSlideDBM, frmSoundRecorder>;
 TYPED_TEST_SUITE(EachWindow, Windows);
 
 TYPED_TEST(EachWindow, HasNamesToolTipsAndReachableControls) {

@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
+#include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
@@ -21,6 +22,7 @@
 #include "harness/WithoutPrivileges.h"
 #include "intake/clsImageBuffer.h"
 #include "intake/frmQuickShow.h"
+#include "intake/frmSlideDBM.h"
 #include "platform/FlexGrid.h"
 #include "presentation/frmPreferences.h"
 #include "presentation/frmSlideShowProjector.h"
@@ -287,6 +289,58 @@ TEST_F(MainWindow, QuickShowWindowsStandInTheCascade) {
     EXPECT_EQ(Frames[0]->pos(), QPoint(0, 0));
     EXPECT_EQ(Frames[1]->pos(), QPoint(22, 22));
     EXPECT_TRUE(Frames[1]->isVisible());
+}
+
+TEST_F(MainWindow, SlideManagersOpenAsChildrenAsManyAsAreWanted) {
+    Start();
+    SaveAlbum("Holidays");
+    EXPECT_EQ(Entry("mnuSlideMgr")->shortcut(), QKeySequence("Ctrl+E"));
+    EXPECT_TRUE(Entry("mnuSlideMgr")->isEnabled());
+    Press("mnuSlideMgr");
+    Press("mnuSlideMgr");
+    const auto Frames = mWindow->findChild<QMdiArea*>()->subWindowList();
+    ASSERT_EQ(Frames.size(), 2);
+    for (const QMdiSubWindow* Frame : Frames) {
+        ASSERT_TRUE(qobject_cast<frmSlideDBM*>(Frame->widget()));
+        EXPECT_TRUE(Frame->widget()->isVisible());
+        const auto* Albums = Frame->widget()->findChild<QComboBox*>("cboAlbum");
+        EXPECT_TRUE(QTest::qWaitFor([&] { return Albums->count() == 1; }, 2000));
+    }
+    EXPECT_EQ(Frames[1]->pos(), QPoint(22, 22));
+}
+
+TEST_F(MainWindow, ASlideManagerComesBackAsLargeAsItWasAndMaximised) {
+    Start();
+    SaveAlbum("Holidays");
+    for (const bool Maximised : {false, true}) {
+        Press("mnuSlideMgr");
+        auto* Frame = mWindow->findChild<QMdiArea*>()->subWindowList().first();
+        EXPECT_EQ(Frame->isMaximized(), false);
+        if (Maximised)
+            Frame->showMaximized();
+        else
+            Frame->resize(Frame->size() + QSize(30, 20));
+        const QSize Size = Frame->size();
+        Find<frmSlideDBM>()->Unload();
+        Press("mnuSlideMgr");
+        Frame = mWindow->findChild<QMdiArea*>()->subWindowList().first();
+        EXPECT_EQ(Frame->isMaximized(), Maximised);
+        EXPECT_EQ(Frame->size(), Size);
+        Find<frmSlideDBM>()->Unload();
+    }
+}
+
+TEST_F(MainWindow, ASlideManagerWithChangesKeepsTheProgramOpenWhenTheUserWants) {
+    Start();
+    SaveAlbum("Holidays");
+    Press("mnuSlideMgr");
+    Find<frmSlideDBM>()->findChild<QLineEdit*>("txtDscr")->setText("mine");
+    const QString Question = "Are you sure you want to discard the changes to the current slide?";
+    mBoxes.Expect(Question, BoxAnswer::No);
+    EXPECT_FALSE(mWindow->close());
+    EXPECT_TRUE(Find<frmSlideDBM>());
+    mBoxes.Expect(Question, BoxAnswer::Yes);
+    EXPECT_TRUE(mWindow->close());
 }
 
 TEST_F(MainWindow, TheWindowMenuListsTheOpenWindows) {

@@ -5,6 +5,7 @@
 
 #include "db/clsDBEngine.h"
 #include "intake/frmQuickShow.h"
+#include "intake/frmSlideDBM.h"
 #include "presentation/ShowSettings.h"
 #include "presentation/modSlideShows.h"
 #include "shell/Openers.h"
@@ -24,9 +25,9 @@ namespace {
 
 // The windows that come with later versions; until then their entries rest.
 constexpr const char* NotYet[] = {
-    "mnuAlbumNew",     "mnuAlbumRename",     "mnuAlbumDelete",     "mnuAlbumExport",
-    "mnuAlbumImport",  "mnuAlbumPrint",      "mnuSlideMgr",        "mnuSlideMgrBulk",
-    "mnuSlideShowMgr", "mnuSlideShowExport", "mnuSlideShowImport", "mnuSlideShowPrint",
+    "mnuAlbumNew",        "mnuAlbumRename",     "mnuAlbumDelete",    "mnuAlbumExport",
+    "mnuAlbumImport",     "mnuAlbumPrint",      "mnuSlideMgrBulk",   "mnuSlideShowMgr",
+    "mnuSlideShowExport", "mnuSlideShowImport", "mnuSlideShowPrint",
 };
 
 }  // namespace
@@ -35,6 +36,7 @@ void frmNEBSlideShow::SetUpMenu() {
     mMenu = std::make_unique<MainMenu>(BuildMainMenu(*this));
     for (const char* Entry : NotYet) mMenu->Entries[QString::fromLatin1(Entry)]->setEnabled(false);
     Connect("mnuQuickShow", [this] { OpenQuickShow(); });
+    Connect("mnuSlideMgr", [] { NewForm<frmSlideDBM>()->LoadSlideMgr(); });
     Connect("mnuExit", [this] { close(); });
     Connect("mnuSlideShowPrefs", [] { EditSlideShowPreferences(); });
     Connect("mnuSlideShowViewer", [this] { PlayActiveShow(); });
