@@ -3,6 +3,7 @@
 // frmSlideDBMFollow.cpp.
 #include "intake/frmSlideDBM.h"
 
+#include <QAbstractItemView>
 #include <QHeaderView>
 #include <QMdiSubWindow>
 
@@ -90,6 +91,8 @@ void frmSlideDBM::SetUpButtons() {
     On(mUi->chkOverride, &QCheckBox::clicked, &frmSlideDBM::MarkDirty);
     On(mUi->chkRepeat, &QCheckBox::clicked, &frmSlideDBM::MarkDirty);
     new KeyFilter(mUi->txtDscr, &FixQuoteKey);
+    for (QComboBox* Box : {mUi->cboAlbum, mUi->cboSlides})
+        Box->view()->setAccessibleName(Box->accessibleName());
 }
 
 void frmSlideDBM::SetUpToolBar() {
@@ -178,16 +181,16 @@ void frmSlideDBM::changeEvent(QEvent* Event) {
     if (Event->type() == QEvent::FontChange) FitMessage();
 }
 
+// Loaded inside its frame, to which its size belongs.
 void frmSlideDBM::LoadSlideMgr() {
-    Load();
-    for (QWidget* Each : std::initializer_list<QWidget*>{
-             mUi->txtDscr, mUi->cmdNew, mUi->cmdSave, mUi->cmdDelete, mUi->cmdCancel, mUi->cmdFlip1,
-             mUi->cmdFlip2, mUi->cmdRotate1, mUi->cmdRotate2, mUi->cmdPicture, mUi->cmdRecord})
-        Each->setEnabled(!ReadOnlyDB);
     if (TheOpeners().ShowAsChild)
         TheOpeners().ShowAsChild(*this);
     else
         ShowModeless();
+    for (QWidget* Each : std::initializer_list<QWidget*>{
+             mUi->txtDscr, mUi->cmdNew, mUi->cmdSave, mUi->cmdDelete, mUi->cmdCancel, mUi->cmdFlip1,
+             mUi->cmdFlip2, mUi->cmdRotate1, mUi->cmdRotate2, mUi->cmdPicture, mUi->cmdRecord})
+        Each->setEnabled(!ReadOnlyDB);
 }
 
 void frmSlideDBM::Form_Load() {

@@ -17,6 +17,7 @@
 #include "intake/frmNewAlbumWzd1.h"
 #include "intake/frmPicturePopup.h"
 #include "intake/frmQuickShow.h"
+#include "intake/frmSlideDBM.h"
 #include "intake/frmSlideMgrBulk.h"
 #include "presentation/frmPreferences.h"
 #include "presentation/frmSoundRecorder.h"
@@ -73,7 +74,7 @@ class EachWindow : public ::testing::Test {
 using Windows = ::testing::Types<frmAbout, frmAlbumDelete, frmAlbumRename, frmDirSelect,
                                  frmGetObjectName, frmHelp, frmImportFilter, frmLoading,
                                  frmMsgBoxEx, frmNewAlbumWzd1, frmPicturePopup, frmPreferences,
-                                 frmQuickShow, frmSlideMgrBulk, frmSoundRecorder>;
+                                 frmQuickShow, frmSlideDBM, frmSlideMgrBulk, frmSoundRecorder>;
 TYPED_TEST_SUITE(EachWindow, Windows);
 
 TYPED_TEST(EachWindow, HasNamesToolTipsAndReachableControls) {

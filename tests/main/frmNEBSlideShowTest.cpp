@@ -26,6 +26,7 @@
 #include "intake/frmAlbumRename.h"
 #include "intake/frmNewAlbumWzd1.h"
 #include "intake/frmQuickShow.h"
+#include "intake/frmSlideDBM.h"
 #include "intake/frmSlideMgrBulk.h"
 #include "platform/FlexGrid.h"
 #include "presentation/frmPreferences.h"
@@ -318,6 +319,58 @@ TEST_F(MainWindow, CtrlBOpensABulkSlideManagerEachTime) {
     EXPECT_TRUE(Frames[0]->isVisible()) << "Esc leaves captions that are being typed";
     EXPECT_TRUE(mWindow->close());
     EXPECT_TRUE(LoadedForms().empty());
+}
+
+TEST_F(MainWindow, SlideManagersOpenAsChildrenAsManyAsAreWanted) {
+    Start();
+    SaveAlbum("Holidays");
+    EXPECT_EQ(Entry("mnuSlideMgr")->shortcut(), QKeySequence("Ctrl+E"));
+    EXPECT_TRUE(Entry("mnuSlideMgr")->isEnabled());
+    Press("mnuSlideMgr");
+    Press("mnuSlideMgr");
+    const auto Frames = mWindow->findChild<QMdiArea*>()->subWindowList();
+    ASSERT_EQ(Frames.size(), 2);
+    for (const QMdiSubWindow* Frame : Frames) {
+        ASSERT_TRUE(qobject_cast<frmSlideDBM*>(Frame->widget()));
+        EXPECT_TRUE(Frame->widget()->isVisible());
+        const auto* Albums = Frame->widget()->findChild<QComboBox*>("cboAlbum");
+        EXPECT_TRUE(QTest::qWaitFor([&] { return Albums->count() == 1; }, 2000));
+    }
+    EXPECT_EQ(Frames[1]->pos(), QPoint(22, 22));
+}
+
+TEST_F(MainWindow, ASlideManagerComesBackAsLargeAsItWasAndMaximised) {
+    Start();
+    SaveAlbum("Holidays");
+    for (const bool Maximised : {false, true}) {
+        Press("mnuSlideMgr");
+        auto* Frame = mWindow->findChild<QMdiArea*>()->subWindowList().first();
+        EXPECT_EQ(Frame->isMaximized(), false);
+        if (Maximised)
+            Frame->showMaximized();
+        else
+            Frame->resize(Frame->size() + QSize(30, 20));
+        const QSize Size = Frame->size();
+        Find<frmSlideDBM>()->Unload();
+        Press("mnuSlideMgr");
+        Frame = mWindow->findChild<QMdiArea*>()->subWindowList().first();
+        EXPECT_EQ(Frame->isMaximized(), Maximised);
+        EXPECT_EQ(Frame->size(), Size);
+        Find<frmSlideDBM>()->Unload();
+    }
+}
+
+TEST_F(MainWindow, ASlideManagerWithChangesKeepsTheProgramOpenWhenTheUserWants) {
+    Start();
+    SaveAlbum("Holidays");
+    Press("mnuSlideMgr");
+    Find<frmSlideDBM>()->findChild<QLineEdit*>("txtDscr")->setText("mine");
+    const QString Question = "Are you sure you want to discard the changes to the current slide?";
+    mBoxes.Expect(Question, BoxAnswer::No);
+    EXPECT_FALSE(mWindow->close());
+    EXPECT_TRUE(Find<frmSlideDBM>());
+    mBoxes.Expect(Question, BoxAnswer::Yes);
+    EXPECT_TRUE(mWindow->close());
 }
 
 TEST_F(MainWindow, TheWindowMenuListsTheOpenWindows) {

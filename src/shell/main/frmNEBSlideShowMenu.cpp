@@ -6,6 +6,7 @@
 #include "db/clsDBEngine.h"
 #include "intake/frmNewAlbumWzd1.h"
 #include "intake/frmQuickShow.h"
+#include "intake/frmSlideDBM.h"
 #include "intake/frmSlideMgrBulk.h"
 #include "intake/modAlbumNames.h"
 #include "presentation/ShowSettings.h"
@@ -27,8 +28,8 @@ namespace {
 
 // The windows that come with later versions; until then their entries rest.
 constexpr const char* NotYet[] = {
-    "mnuAlbumExport",  "mnuAlbumImport",     "mnuAlbumPrint",      "mnuSlideMgr",
-    "mnuSlideShowMgr", "mnuSlideShowExport", "mnuSlideShowImport", "mnuSlideShowPrint",
+    "mnuAlbumExport",     "mnuAlbumImport",     "mnuAlbumPrint",     "mnuSlideShowMgr",
+    "mnuSlideShowExport", "mnuSlideShowImport", "mnuSlideShowPrint",
 };
 
 }  // namespace
@@ -41,6 +42,7 @@ void frmNEBSlideShow::SetUpMenu() {
     Connect("mnuAlbumDelete", [] { ShowDeleteAlbum(0); });
     Connect("mnuQuickShow", [this] { OpenQuickShow(); });
     Connect("mnuAlbumNew", [] { NewForm<frmNewAlbumWzd1>()->ShowModal(); });
+    Connect("mnuSlideMgr", [] { NewForm<frmSlideDBM>()->LoadSlideMgr(); });
     Connect("mnuExit", [this] { close(); });
     Connect("mnuSlideShowPrefs", [] { EditSlideShowPreferences(); });
     Connect("mnuSlideShowViewer", [this] { PlayActiveShow(); });
