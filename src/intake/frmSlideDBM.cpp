@@ -128,6 +128,7 @@ void frmSlideDBM::SetUpMessage() {
     Grid.verticalHeader()->hide();
     Grid.verticalHeader()->setMinimumSectionSize(1);
     Grid.setShowGrid(false);
+    Grid.viewport()->installEventFilter(this);
     Grid.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     Grid.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     connect(&Grid, &FlexGrid::CellDblClicked, this, [this] { ChoosePicture(); });
@@ -170,9 +171,9 @@ void frmSlideDBM::FitMessage() {
     Grid.verticalHeader()->resizeSection(0, std::max(1, Place.height()));
 }
 
-void frmSlideDBM::resizeEvent(QResizeEvent* Event) {
-    Form::resizeEvent(Event);
-    FitMessage();
+bool frmSlideDBM::eventFilter(QObject* Watched, QEvent* Event) {
+    if (Event->type() == QEvent::Resize) FitMessage();
+    return Form::eventFilter(Watched, Event);
 }
 
 void frmSlideDBM::changeEvent(QEvent* Event) {

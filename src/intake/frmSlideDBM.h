@@ -34,7 +34,7 @@ class frmSlideDBM : public Form, public ChangeReceiver {
     void Form_Load() override;
     void Form_Activate() override;
     bool Form_Unload() override;
-    void resizeEvent(QResizeEvent* Event) override;
+    bool eventFilter(QObject* Watched, QEvent* Event) override;
     void changeEvent(QEvent* Event) override;
     void dragEnterEvent(QDragEnterEvent* Event) override;
     void dropEvent(QDropEvent* Event) override;

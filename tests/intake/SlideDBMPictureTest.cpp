@@ -86,7 +86,10 @@ TEST_F(SlideDBMPicture, ThePlaceForAPictureSaysWhatToDo) {
     const int Before = In<FlexGrid>(*W, "flxMsg").font().pixelSize();
     W->resize(1200, 900);
     QCoreApplication::processEvents();
-    EXPECT_GT(In<FlexGrid>(*W, "flxMsg").font().pixelSize(), Before);
+    const auto& Place = In<FlexGrid>(*W, "flxMsg");
+    EXPECT_GT(Place.font().pixelSize(), Before);
+    EXPECT_LE(Place.rowHeight(0), Place.viewport()->height());
+    EXPECT_LE(Place.fontMetrics().horizontalAdvance(Place.TextMatrix(0, 0)), Place.columnWidth(0));
 }
 
 TEST_F(SlideDBMPicture, ThePlaceForAPictureIsThereWithoutTheProgramsOwn) {
