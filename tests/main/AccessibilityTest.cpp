@@ -10,6 +10,7 @@
 
 #include "harness/TempFolder.h"
 #include "intake/frmDirSelect.h"
+#include "intake/frmFindGraphics.h"
 #include "intake/frmImportFilter.h"
 #include "intake/frmPicturePopup.h"
 #include "intake/frmQuickShow.h"
@@ -66,8 +67,8 @@ class EachWindow : public ::testing::Test {
 };
 
 using Windows =
-    ::testing::Types<frmAbout, frmDirSelect, frmHelp, frmImportFilter, frmLoading, frmMsgBoxEx,
-                     frmPicturePopup, frmPreferences, frmQuickShow, frmSoundRecorder>;
+    ::testing::Types<frmAbout, frmDirSelect, frmFindGraphics, frmHelp, frmImportFilter, frmLoading,
+                     frmMsgBoxEx, frmPicturePopup, frmPreferences, frmQuickShow, frmSoundRecorder>;
 TYPED_TEST_SUITE(EachWindow, Windows);
 
 TYPED_TEST(EachWindow, HasNamesToolTipsAndReachableControls) {
