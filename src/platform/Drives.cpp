@@ -10,8 +10,8 @@ namespace neb {
 
 bool IsUserVolume(const QString& Root) {
     for (const char* Parent : {"/media/", "/run/media/", "/mnt/"})
-        if (WithSeparator(Root).startsWith(QLatin1String(Parent))) return true;
-    return Root.contains(u':');
+        if (Root.startsWith(QLatin1String(Parent))) return true;
+    return Root == u"/mnt" || Root.contains(u':');
 }
 
 QStringList OutermostPaths(const QStringList& Paths) {

@@ -49,12 +49,14 @@ std::optional<FileFacts> ReadableFileFacts(const QString& Path) {
     return FileFacts{Info.size(), Info.lastModified().toSecsSinceEpoch()};
 }
 #else
-// Two calls of the host a file, and nothing is opened: a tree may have hundreds of thousands.
+// Mostly one call of the host a file, and nothing is opened: a tree may have hundreds of thousands.
 std::optional<FileFacts> ReadableFileFacts(const QString& Path) {
     const QByteArray Native = QFile::encodeName(Path);
     struct stat Found = {};
     if (::stat(Native.constData(), &Found) != 0 || !S_ISREG(Found.st_mode)) return std::nullopt;
-    if (::faccessat(AT_FDCWD, Native.constData(), R_OK, AT_EACCESS) != 0) return std::nullopt;
+    const bool ForAll = (Found.st_mode & 0444) == 0444;
+    if (!ForAll && ::faccessat(AT_FDCWD, Native.constData(), R_OK, AT_EACCESS) != 0)
+        return std::nullopt;
     return FileFacts{Found.st_size, Found.st_mtime};
 }
 #endif

@@ -38,6 +38,7 @@ bool IsToolkitPart(const QWidget& Widget) {
            qobject_cast<const QAbstractItemView*>(Widget.parentWidget()) ||
            QByteArray(Widget.metaObject()->className()).contains("HeaderView") ||
            Widget.parentWidget()->objectName() == u"qt_scrollarea_viewport" ||
+           QByteArray(Widget.parentWidget()->metaObject()->className()).contains("Private") ||
            QByteArray(Widget.metaObject()->className()).contains("Private");
 }
 
