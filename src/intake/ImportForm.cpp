@@ -121,13 +121,13 @@ void ImportForm::SetUpToolBar() {
                           QStringLiteral("find-graphics"), QKeySequence(Qt::CTRL | Qt::Key_F));
     mUi->abrMenu->AddTool(QStringLiteral("mnuExit"), tr("Exit"), tr("Close this window"),
                           QStringLiteral("exit"));
-    mUi->abrMenu->SetToolEnabled(QStringLiteral("mnuFindGraphics"), false);  // not there yet
     connect(mUi->abrMenu, &ToolBar::ToolClicked, this, &ImportForm::ToolClicked);
 }
 
 void ImportForm::ToolClicked(const QString& Name) {
     const auto Held = shared_from_this();
     if (Name == u"mnuImportDirectory") ImportAnotherDirectory();
+    if (Name == u"mnuFindGraphics") ImportFoundGraphics();
     if (Name == u"mnuExit") Unload();
 }
 

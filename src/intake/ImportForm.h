@@ -1,6 +1,6 @@
-// The body that the picture import window and Quick Show share: it reads directories, shows each
-// picture as a thumbnail in the grid of those not yet selected, lets the user move pictures to
-// the selected ones, and carries the import. The two windows say what becomes of the selection.
+// The body that the picture import window and Quick Show share: it reads directories and found
+// files, shows each picture as a thumbnail in the grid of those not yet selected, lets the user
+// move pictures to the selected ones, and carries the import.
 #pragma once
 
 #include <QImage>
@@ -81,11 +81,12 @@ class ImportForm : public Form, public ProgressParent {
     void EnterRows(clsNEBAlbum& Album, const RowDone& Done, const std::function<void()>& Yield);
 
     void ImportAnotherDirectory();
+    void ImportFoundGraphics();
     bool AskDiscardRemaining();
     bool IsFree() const;
     void ReadUnderLoading();
     void ReadDirectory();
-    QStringList CollectFiles(const QStringList& Dropped);
+    QStringList CollectFiles(const QStringList& Named);
     void ReadDropped(const QStringList& Paths);
     void LoadPictures(const QStringList& Files);
     bool LoadPicture(AheadQueue<QString, std::optional<QImage>>& Ahead, const QString& Path);
@@ -98,7 +99,7 @@ class ImportForm : public Form, public ProgressParent {
     bool mAbort = false;
     std::shared_ptr<frmLoading> mLoadingForm;
     QString mImportDir;
-    QStringList mDropped;  // files and directories to read in place of mImportDir
+    QStringList mNamed;  // files and directories to read in place of mImportDir
     bool mRecurseDir = false;
     bool mInForm_Load = false;
     bool mAborted = false;

@@ -1,4 +1,4 @@
-// How the import windows read directories: chosen, set by the caller or dropped.
+// How the import windows read directories and files: chosen, set by the caller, found or dropped.
 #include <QApplication>
 #include <QDragEnterEvent>
 #include <QMimeData>
@@ -6,6 +6,7 @@
 
 #include "intake/ImportForm.h"
 #include "intake/frmDirSelect.h"
+#include "intake/frmFindGraphics.h"
 #include "intake/modPictureFiles.h"
 #include "platform/FlexGrid.h"
 #include "platform/ImgX.h"
@@ -58,7 +59,7 @@ void MoveBar(frmLoading& Loading, int Value, int Max) {
 
 void ImportForm::ReadUnderLoading() {
     ReleaseLoading();
-    if (mImportDir.isEmpty() && mDropped.isEmpty()) return DoActivity();
+    if (mImportDir.isEmpty() && mNamed.isEmpty()) return DoActivity();
     mLoadingForm = NewForm<frmLoading>();
     const auto Shown = mLoadingForm;
     Shown->SupportsAbort(true);
@@ -88,13 +89,13 @@ bool ImportForm::Stopped() {
 }
 
 void ImportForm::ReadDirectory() {
-    const QStringList Dropped = std::exchange(mDropped, {});
-    if (mImportDir.isEmpty() && Dropped.isEmpty()) return;
+    const QStringList Named = std::exchange(mNamed, {});
+    if (mImportDir.isEmpty() && Named.isEmpty()) return;
     mLoadingForm->SupportsAbort(true);
     mLoadingForm->setWindowTitle(QStringLiteral("Reading Slides ..."));
     DoEvents();
     if (Stopped()) return;
-    const QStringList Files = CollectFiles(Dropped);
+    const QStringList Files = CollectFiles(Named);
     if (Files.isEmpty()) {
         mInForm_Load = false;
         return;
@@ -102,14 +103,14 @@ void ImportForm::ReadDirectory() {
     LoadPictures(Files);
 }
 
-QStringList ImportForm::CollectFiles(const QStringList& Dropped) {
+QStringList ImportForm::CollectFiles(const QStringList& Named) {
     const WalkPoll Poll = [this] {
         DoEvents();
         return !mAbort && !mAborted;
     };
-    if (Dropped.isEmpty()) return ScanDirectory(WithSeparator(mImportDir), mRecurseDir, Poll);
+    if (Named.isEmpty()) return ScanDirectory(WithSeparator(mImportDir), mRecurseDir, Poll);
     QStringList Files;
-    for (const QString& Path : Dropped)
+    for (const QString& Path : Named)
         if (FolderExists(Path))
             Files += ScanDirectory(WithSeparator(Path), mRecurseDir, Poll);
         else if (IsPictureName(Path))
@@ -192,6 +193,24 @@ void ImportForm::ImportAnotherDirectory() {
     UpdateButtons();
 }
 
+void ImportForm::ImportFoundGraphics() {
+    if (AskDiscardRemaining()) mUi->flxNonSelected->SetRows(0);
+    UpdateButtons();
+    mBusy = true;
+    mAbort = false;
+    const auto Finder = NewForm<frmFindGraphics>();
+    try {
+        Finder->ShowModal();
+    } catch (const Fault&) {
+        // what was found until then can still be brought in
+    }
+    mBusy = false;
+    if (Finder->FileCnt() < 1 || !IsLoaded()) return;
+    for (int I = 1; I <= Finder->FileCnt(); ++I) mNamed.append(Finder->Files(I));
+    ReadUnderLoading();
+    UpdateButtons();
+}
+
 // Whether no work is under way and no other window holds the user's attention.
 bool ImportForm::IsFree() const {
     const QWidget* Modal = QApplication::activeModalWidget();
@@ -217,7 +236,7 @@ void ImportForm::ReadDropped(const QStringList& Paths) {
     if (!IsFree() || std::any_of(Paths.begin(), Paths.end(), &IsReserved)) return;
     const auto Held = shared_from_this();
     if (AskDiscardRemaining()) mUi->flxNonSelected->SetRows(0);
-    mDropped = Paths;
+    mNamed = Paths;
     if (FolderExists(Paths.front())) DirectoryChosen(Paths.front());
     ReadUnderLoading();
     UpdateButtons();

@@ -12,6 +12,7 @@
 
 #include "platform/DirectoryModel.h"
 #include "platform/DirectoryProposals.h"
+#include "platform/Drives.h"
 #include "support/modFUFL.h"
 #include "support/modHostFiles.h"
 
@@ -37,13 +38,10 @@ void AddUserPlaces(QComboBox& Drives) {
         AddPlace(Drives, Paths::displayName(Place), Paths::writableLocation(Place));
 }
 
-// Media and drives that a user would look for, not the system's own mounts.
 void AddVolumes(QComboBox& Drives) {
     for (const QStorageInfo& Volume : QStorageInfo::mountedVolumes()) {
         const QString Root = Volume.rootPath();
-        const bool Media = Root.startsWith(u"/media/") || Root.startsWith(u"/run/media/") ||
-                           Root == u"/mnt" || Root.startsWith(u"/mnt/") || Root.contains(u':');
-        if (Volume.isReady() && Media) AddPlace(Drives, Volume.displayName(), Root);
+        if (Volume.isReady() && IsUserVolume(Root)) AddPlace(Drives, Volume.displayName(), Root);
     }
     AddPlace(Drives, QObject::tr("Computer"), QStringLiteral("/"));
 }

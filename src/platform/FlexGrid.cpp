@@ -72,6 +72,11 @@ int FlexGrid::AddItem() {
     return Rows() - 1;
 }
 
+void FlexGrid::AddItems(const std::vector<QStringList>& Texts) {
+    mModel->AppendItems(Texts);
+    mSelectionKnown = !Redraw();
+}
+
 void FlexGrid::InsertItem(int Row) {
     mModel->InsertItems(Row, 1);
     mSelected.RowsInserted(Row, 1);

@@ -24,6 +24,8 @@ class FlexGrid : public QTableView {
     int Cols() const { return Content().Cols(); }
     void SetCols(int Cols);
     int AddItem();  // an empty row at the end; its number
+    // Rows at the end with these texts by column; the view hears of them at once, together.
+    void AddItems(const std::vector<QStringList>& Texts);
     void InsertItem(int Row);
     void RemoveItem(int Row);
     void SetRowPosition(int Row, int NewRow);  // the selection goes with the row

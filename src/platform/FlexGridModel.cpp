@@ -36,6 +36,19 @@ void FlexGridModel::InsertItems(int At, int Count) {
     if (!mQuiet) endInsertRows();
 }
 
+void FlexGridModel::AppendItems(const std::vector<QStringList>& Texts) {
+    const int At = mStore.Rows(), Count = static_cast<int>(Texts.size());
+    if (Count == 0) return;
+    if (!mQuiet) beginInsertRows({}, At, At + Count - 1);
+    mStore.InsertRows(At, Count);
+    for (int Row = 0; Row < Count; ++Row) {
+        const QStringList& Cells = Texts[static_cast<size_t>(Row)];
+        for (int Col = 0; Col < std::min(static_cast<int>(Cells.size()), mStore.Cols()); ++Col)
+            mStore.SetText(At + Row, Col, Cells[Col]);
+    }
+    if (!mQuiet) endInsertRows();
+}
+
 void FlexGridModel::RemoveItems(int At, int Count) {
     if (Count == 0) return;
     mStore.RequireRows(At, Count);

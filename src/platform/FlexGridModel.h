@@ -43,6 +43,7 @@ class FlexGridModel : public QAbstractTableModel {
     bool HasHeadings() const;
 
     void InsertItems(int At, int Count);
+    void AppendItems(const std::vector<QStringList>& Texts);
     void RemoveItems(int At, int Count);
     void MoveItem(int From, int To);
     void SetText(int Row, int Col, const QString& Text);

@@ -9,6 +9,7 @@
 
 #include "support/Fault.h"
 #include "support/NameCache.h"
+#include "support/modHostFilesMask.h"
 
 namespace neb {
 namespace {
@@ -31,37 +32,19 @@ QString CorrectCase(const QString& Host) {
     return Known;
 }
 
-bool MatchesMask(QStringView Name, QStringView Mask) {
-    qsizetype N = 0, M = 0, Star = -1, Resume = 0;
-    while (N < Name.size()) {
-        if (M < Mask.size() && Mask[M] == u'*') {
-            Star = M++;
-            Resume = N;
-        } else if (M < Mask.size() && (Mask[M] == u'?' || Mask[M] == Name[N])) {
-            ++M;
-            ++N;
-        } else if (Star >= 0) {
-            M = Star + 1;
-            N = ++Resume;
-        } else {
-            return false;
-        }
-    }
-    while (M < Mask.size() && Mask[M] == u'*') ++M;
-    return M == Mask.size();
-}
-
-void ReadNames(const QString& Dir, std::vector<DirEntry>& Entries, bool& Readable) {
+// False when the directory cannot be opened; Error also tells of a listing that broke off.
+bool ReadNames(const QString& Dir, std::vector<DirEntry>& Entries, std::error_code& Error) {
     namespace fs = std::filesystem;
-    std::error_code Error;
     const auto Native = QFile::encodeName(Dir.isEmpty() ? QStringLiteral(".") : Dir);
     fs::directory_iterator Iterator(fs::path(Native.constData()), Error);
-    Readable = !Error;
+    const bool Readable = !Error;
     for (; !Error && Iterator != fs::directory_iterator(); Iterator.increment(Error)) {
         std::error_code Ignored;
         const std::string Name = Iterator->path().filename().string();
-        Entries.push_back({QFile::decodeName(Name.c_str()), Iterator->is_directory(Ignored)});
+        Entries.push_back({QFile::decodeName(Name.c_str()), Iterator->is_directory(Ignored),
+                           Iterator->is_symlink(Ignored)});
     }
+    return Readable;
 }
 
 void SortByUpperName(std::vector<DirEntry>& Entries) {
@@ -171,21 +154,27 @@ std::optional<QDateTime> FileTime(const QString& Path) {
 
 std::vector<DirEntry> ListDir(const QString& Dir, bool* Readable) {
     std::vector<DirEntry> Entries;
-    bool CouldRead = false;
-    ReadNames(ResolvePath(Dir), Entries, CouldRead);
+    std::error_code Error;
+    const bool CouldRead = ReadNames(ResolvePath(Dir), Entries, Error);
     SortByUpperName(Entries);
     if (Readable) *Readable = CouldRead;
+    return Entries;
+}
+
+std::vector<DirEntry> ListDir(const QString& Dir, std::error_code& Error) {
+    std::vector<DirEntry> Entries;
+    ReadNames(ResolvePath(Dir), Entries, Error);
+    SortByUpperName(Entries);
     return Entries;
 }
 
 QStringList ListMask(const QString& Mask) {
     const QString Host = HostForm(Mask);
     const qsizetype Cut = Host.lastIndexOf(u'/') + 1;
-    const QString Pattern = Host.mid(Cut).toUpper();
+    const NameMask Pattern(Host.mid(Cut));
     QStringList Names;
     for (const DirEntry& Entry : ListDir(Host.left(Cut)))
-        if (!Entry.IsFolder && (Pattern == u"*.*" || MatchesMask(Entry.Name.toUpper(), Pattern)))
-            Names.append(Entry.Name);
+        if (!Entry.IsFolder && Pattern.Matches(Entry.Name)) Names.append(Entry.Name);
     return Names;
 }
 

@@ -14,6 +14,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <system_error>
 #include <vector>
 
 namespace neb {
@@ -37,10 +38,14 @@ std::optional<QDateTime> FileTime(const QString& Path);  // last change
 struct DirEntry {
     QString Name;  // without directory
     bool IsFolder = false;
+    bool IsLink = false;  // a symbolic link, to a file or a folder
 };
 // Everything in a directory but "." and "..", in the order of the upper-cased names. Empty when
 // the directory cannot be listed; Readable, when given, tells the two apart.
 std::vector<DirEntry> ListDir(const QString& Dir, bool* Readable = nullptr);
+// The same; Error tells why the list is empty or ends early, else it is none.
+std::vector<DirEntry> ListDir(const QString& Dir, std::error_code& Error);
+
 // Names of the files (no directories) that match a wild-card mask, case-blind; "*.*" is
 // everything. Mask is a full path whose last component may hold "*" and "?".
 QStringList ListMask(const QString& Mask);

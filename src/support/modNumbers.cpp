@@ -24,6 +24,14 @@ QString ZeroPadded(std::int64_t Value, int Digits) {
     return Value < 0 ? u'-' + Text : Text;
 }
 
+QString WithThousands(QString Text) {
+    const qsizetype Point = Text.indexOf(u'.');
+    const qsizetype First = Text.startsWith(u'-') ? 1 : 0;
+    for (qsizetype At = (Point < 0 ? Text.size() : Point) - 3; At > First; At -= 3)
+        Text.insert(At, u',');
+    return Text;
+}
+
 }  // namespace
 
 double Val(QStringView Text) {
@@ -51,6 +59,7 @@ QString Format(double Value, const char* Mask) {
     const int Decimals = Point ? static_cast<int>(std::strlen(Point)) - 1 : 0;
     const double Scale = std::pow(10.0, Decimals);
     const QString Text = QString::number(std::round(Value * Scale) / Scale, 'f', Decimals);
+    if (std::strchr(Mask, ',')) return WithThousands(Text);
     return Mask[0] == '0' && !Point
                ? ZeroPadded(Text.toLongLong(), static_cast<int>(std::strlen(Mask)))
                : Text;

@@ -14,7 +14,8 @@ double Val(QStringView Text);
 std::int32_t CInt(double Value);
 
 // The masks in use: "0…0" pads an integer with zeros to that many digits (more digits stay),
-// "##0" rounds to an integer, "##0.0" to one decimal. Halves go away from zero.
+// "##0" rounds to an integer, "##0.0" to one decimal, "###,##0.0" also parts the thousands by
+// commas. Halves go away from zero.
 QString Format(double Value, const char* Mask);
 QString Format(std::int32_t Value, const char* Mask);
 

@@ -107,7 +107,7 @@ TEST_F(ImportMore, RefusesTheProgramsAlbumsAlone) {
 
 TEST_F(ImportMore, EndsByTheExitTool) {
     Show();
-    EXPECT_FALSE(In<ToolBar>(*Window, "abrMenu").Tool(u"mnuFindGraphics"_s)->isEnabled());
+    EXPECT_TRUE(In<ToolBar>(*Window, "abrMenu").Tool(u"mnuFindGraphics"_s)->isEnabled());
     PressTool("mnuExit");
     EXPECT_FALSE(Window->IsLoaded());
 }

@@ -12,6 +12,7 @@
 #include "intake/frmAlbumDelete.h"
 #include "intake/frmAlbumRename.h"
 #include "intake/frmDirSelect.h"
+#include "intake/frmFindGraphics.h"
 #include "intake/frmGetObjectName.h"
 #include "intake/frmImportFilter.h"
 #include "intake/frmNewAlbumWzd1.h"
@@ -43,6 +44,7 @@ bool IsToolkitPart(const QWidget& Widget) {
            qobject_cast<const QAbstractItemView*>(Widget.parentWidget()) ||
            QByteArray(Widget.metaObject()->className()).contains("HeaderView") ||
            Widget.parentWidget()->objectName() == u"qt_scrollarea_viewport" ||
+           QByteArray(Widget.parentWidget()->metaObject()->className()).contains("Private") ||
            QByteArray(Widget.metaObject()->className()).contains("Private");
 }
 
@@ -71,10 +73,11 @@ class EachWindow : public ::testing::Test {
     harness::TempFolder mDocuments;
 };
 
-using Windows = ::testing::Types<frmAbout, frmAlbumDelete, frmAlbumRename, frmDirSelect,
-                                 frmGetObjectName, frmHelp, frmImportFilter, frmLoading,
-                                 frmMsgBoxEx, frmNewAlbumWzd1, frmPicturePopup, frmPreferences,
-                                 frmQuickShow, frmSlideDBM, frmSlideMgrBulk, frmSoundRecorder>;
+using Windows =
+    ::testing::Types<frmAbout, frmAlbumDelete, frmAlbumRename, frmDirSelect, frmFindGraphics,
+                     frmGetObjectName, frmHelp, frmImportFilter, frmLoading, frmMsgBoxEx,
+                     frmNewAlbumWzd1, frmPicturePopup, frmPreferences, frmQuickShow, frmSlideDBM,
+                     frmSlideMgrBulk, frmSoundRecorder>;
 TYPED_TEST_SUITE(EachWindow, Windows);
 
 TYPED_TEST(EachWindow, HasNamesToolTipsAndReachableControls) {

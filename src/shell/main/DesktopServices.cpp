@@ -25,6 +25,7 @@ DesktopServices::DesktopServices() {
     TheServices().Dialogs = &mDialogs;
     TheServices().Blanking = &mBlanking;
     TheServices().Sound = &mSound;
+    TheServices().Drives = &mDrives;
     XShow::SetReader(&ReadPicture);
 }
 
@@ -33,6 +34,7 @@ DesktopServices::~DesktopServices() {
     TheServices().Dialogs = nullptr;
     TheServices().Blanking = nullptr;
     TheServices().Sound = nullptr;
+    TheServices().Drives = nullptr;
 }
 
 }  // namespace neb

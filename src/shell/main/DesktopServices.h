@@ -2,6 +2,7 @@
 // in place. The program's entry and the guided demonstration hold one.
 #pragma once
 
+#include "platform/Drives.h"
 #include "platform/ScreenBlanking.h"
 #include "platform/sound/SdlSoundDevices.h"
 #include "support/windows/DesktopBoxes.h"
@@ -20,6 +21,7 @@ class DesktopServices {
     DesktopFileDialogs mDialogs;
     DesktopScreenBlanking mBlanking;
     SdlSoundDevices mSound;
+    DesktopDrives mDrives;
 };
 
 }  // namespace neb

@@ -28,8 +28,7 @@ namespace {
 
 // The windows that come with later versions; until then their entries rest.
 constexpr const char* NotYet[] = {
-    "mnuAlbumExport",     "mnuAlbumImport",     "mnuAlbumPrint",     "mnuSlideShowMgr",
-    "mnuSlideShowExport", "mnuSlideShowImport", "mnuSlideShowPrint",
+"mnuAlbumExport", "mnuAlbumImport", "mnuAlbumPrint", "mnuSlideShowMgr", "mnuSlideShowExport", "mnuSlideShowImport", "mnuSlideShowPrint",
 };
 
 }  // namespace

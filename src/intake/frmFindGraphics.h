@@ -1,0 +1,74 @@
+// Searches drives or a directory tree for picture files by type and name, lists what it finds and
+// hands the selected rows back as full paths. The import windows show it modally and then read
+// FileCnt and Files. It neither opens nor copies a picture.
+#pragma once
+
+#include <QStringList>
+#include <vector>
+
+#include "support/windows/Form.h"
+
+QT_BEGIN_NAMESPACE
+class QWidget;
+QT_END_NAMESPACE
+
+namespace neb {
+
+namespace Ui {
+class frmFindGraphics;
+}
+class clsSettings;
+struct SearchStep;
+
+class frmFindGraphics : public Form {
+    Q_OBJECT
+
+  public:
+    frmFindGraphics();
+    ~frmFindGraphics() override;
+
+    // The selected full paths, from 1 to FileCnt; no Fault, but empty, outside.
+    QString Files(int Index) const { return mFiles.value(Index - 1); }
+    int FileCnt() const { return static_cast<int>(mFiles.size()); }
+
+  protected:
+    void Form_Load() override;
+    bool Form_Unload() override;
+    void reject() override;  // Esc: ends the search first, then the window
+
+  private:
+    void SetUpGrid();
+    void SetUpButtons();
+    void FitColumns();
+    void FillSearchPath();
+    void SearchPathChosen();
+    void Search();
+    void SearchChosen();
+    void SearchEnded();
+    void EnableForSearch(bool Searching);
+    QStringList SelectedTypes() const;
+    bool SearchDirectory(const QString& Directory);
+    bool TakeStep(const SearchStep& Step, int& Found);
+    void TickFile();
+    void TickDirectory();
+    void ShowProgress();
+    void ShowFound();
+    void ShowSelected();
+    void Import();
+
+    void RestorePlace();
+    void RestoreColumns(const clsSettings& Settings);
+    void SavePlace() const;
+
+    std::unique_ptr<Ui::frmFindGraphics> mUi;
+    bool mCancel = false;
+    int mDirsSearched = 0;  // both are counted until the window closes
+    int mFilesFound = 0;
+    int mResultCount = 0;
+    bool mSearching = false;
+    double mNextYield = 0;  // ticks of the clock
+    QStringList mFiles;
+    std::vector<QStringList> mFound;  // rows not yet in the grid
+};
+
+}  // namespace neb

@@ -1,0 +1,311 @@
+// Find Graphics through its window: the drives, the filter, the counts, what may go wrong, and what
+// it hands back.
+#include <QComboBox>
+#include <QElapsedTimer>
+#include <QListWidget>
+
+#include "FindGraphicsHarness.h"
+#include "harness/WithoutPrivileges.h"
+
+namespace neb {
+namespace {
+
+using namespace harness;
+
+TEST_F(FindGraphics, OffersReadyDrivesThenAllOfThemThenBrowse) {
+    MakeDirs(Pics / u"one"_s);
+    Drives.Paths = {Pics / u"one"_s, Pics / u"empty"_s};
+    Show();
+    EXPECT_EQ(QStringList({Pics / u"one"_s, u"All Drives"_s, u"Browse"_s}), PathTexts());
+    EXPECT_EQ("All Drives", Path().currentText().toStdString());
+    EXPECT_EQ("Find Graphics", Window->windowTitle().toStdString());
+    EXPECT_EQ(12, In<QListWidget>(*Window, "lstTypeFilter").selectedItems().size());
+    EXPECT_EQ("0 Results", Label("lblResults"));
+    EXPECT_EQ("0 Selected", Label("lblSelected"));
+    EXPECT_FALSE(Button("cmdCancel").isEnabled());
+    EXPECT_TRUE(Button("cmdImport").isEnabled());
+}
+
+TEST_F(FindGraphics, ListsNamePathSizeAndDate) {
+    WriteFile(Pics / u"a.JPG"_s, QByteArray(1536, 'x'));
+    Show();
+    Search();
+    ASSERT_EQ(1, Grid().Rows());
+    EXPECT_EQ("a.JPG", Grid().TextMatrix(0, 0).toStdString());
+    EXPECT_EQ(Pics.Path(), Grid().TextMatrix(0, 1));
+    EXPECT_EQ("1.5 KB", Grid().TextMatrix(0, 2).toStdString());
+    EXPECT_EQ(FileTime(Pics / u"a.JPG"_s)->toString(u"MM/dd/yyyy hh:mm AP"_s),
+              Grid().TextMatrix(0, 3));
+    EXPECT_EQ("1 Results", Label("lblResults"));
+    EXPECT_EQ("*.*", Filter().text().toStdString());
+}
+
+TEST_F(FindGraphics, ShowsTheFilterAsItTookIt) {
+    Make({"photo1.jpg", "photograph.png", "myphoto.jpg"});
+    Show();
+    QTest::keyClicks(&Filter(), u"photo"_s);
+    QTest::keyClick(&Filter(), Qt::Key_Return);
+    EXPECT_EQ("photo*.*", Filter().text().toStdString());
+    EXPECT_EQ("photo1.jpg,photograph.png", Names());
+}
+
+TEST_F(FindGraphics, FindsTheSelectedTypesAlone) {
+    Make({"a.tif", "b.jpeg", "c.JPG", "d.txt"});
+    Show();
+    auto& Types = In<QListWidget>(*Window, "lstTypeFilter");
+    Types.clearSelection();
+    Search();
+    EXPECT_EQ("", Names());
+    EXPECT_FALSE(Button("cmdImport").isEnabled());
+    Types.item(2)->setSelected(true);
+    Search();
+    EXPECT_EQ("b.jpeg,c.JPG", Names());
+    Filter().setText(u"*.tif"_s);
+    Search();
+    EXPECT_EQ("", Names());
+}
+
+TEST_F(FindGraphics, CountsOnInItsCaptionButNotInItsResults) {
+    Make({"a.jpg", "sub/b.jpg"});
+    Show();
+    QStringList Captions;
+    SetDoEventsHook([&] { Captions << Window->windowTitle(); });
+    Search();
+    Search();
+    SetDoEventsHook({});
+    EXPECT_EQ("a.jpg,b.jpg", Names());
+    EXPECT_EQ("2 Results", Label("lblResults"));
+    EXPECT_EQ("Find Graphics", Window->windowTitle().toStdString());
+    for (const char* Seen : {"Find Graphics - 1 Directories Searched: 1 Graphics Files Found",
+                             "Find Graphics - 2 Directories Searched: 2 Graphics Files Found",
+                             "Find Graphics - 3 Directories Searched: 3 Graphics Files Found",
+                             "Find Graphics - 4 Directories Searched: 4 Graphics Files Found"})
+        EXPECT_TRUE(Captions.contains(QString::fromLatin1(Seen))) << Seen;
+}
+
+TEST_F(FindGraphics, HandsBackTheSelectedRowsInTheOrderOfTheGrid) {
+    Make({"x/a.jpg", "x/b.jpg", "y/c.jpg"});
+    Show();
+    Search();
+    Grid().SelectRow(2);
+    Grid().SelectRow(0);
+    EXPECT_EQ("2 Selected", Label("lblSelected"));
+    Press(*Window, "cmdImport");
+    EXPECT_FALSE(Window->IsLoaded());
+    ASSERT_EQ(2, Window->FileCnt());
+    EXPECT_EQ(Pics / u"x/a.jpg"_s, Window->Files(1));
+    EXPECT_EQ(Pics / u"y/c.jpg"_s, Window->Files(2));
+}
+
+TEST_F(FindGraphics, HandsBackNothingWhenClosed) {
+    Make({"a.jpg"});
+    Show();
+    Search();
+    Grid().selectAll();
+    Press(*Window, "cmdClose");
+    EXPECT_FALSE(Window->IsLoaded());
+    EXPECT_EQ(0, Window->FileCnt());
+}
+
+TEST_F(FindGraphics, AsksForASelectionBeforeAnImport) {
+    Make({"a.jpg"});
+    Show();
+    Search();
+    Grid().ClearSelection();
+    Boxes.Expect(u"You must first select the files you want to import."_s,
+                 u"Missing Selection(s)"_s, BoxIcon::Information, BoxAnswer::Ok);
+    Press(*Window, "cmdImport");
+    EXPECT_TRUE(Window->IsLoaded());
+    EXPECT_EQ(0, Window->FileCnt());
+}
+
+TEST_F(FindGraphics, BrowsesToADirectoryThatAllDrivesLeavesOut) {
+    Make({"drive/a.jpg", "other/b.jpg"});
+    Drives.Paths = {Pics / u"drive"_s};
+    Show();
+    Browse(Pics / u"other"_s);
+    EXPECT_EQ(QStringList({Pics / u"drive"_s, Pics / u"other"_s, u"All Drives"_s, u"Browse"_s}),
+              PathTexts());
+    EXPECT_EQ(1, Path().currentIndex());
+    Search();
+    EXPECT_EQ("b.jpg", Names());
+    Path().setCurrentText(u"All Drives"_s);
+    Search();
+    EXPECT_EQ("a.jpg", Names());
+}
+
+TEST_F(FindGraphics, StaysAtBrowseWhenNoDirectoryIsChosen) {
+    Make({"a.jpg"});
+    Show();
+    Browse({});
+    EXPECT_EQ("Browse", Path().currentText().toStdString());
+    WhenOpen<frmDirSelect>([](frmDirSelect& Selector) { Press(Selector, "cmdCancel"); });
+    Search();
+    EXPECT_EQ(0, Grid().Rows());
+    EXPECT_TRUE(Button("cmdSearch").isEnabled());
+    Answer(Pics.Path().chopped(1));
+    Search();
+    EXPECT_EQ("a.jpg", Names());
+}
+
+TEST_F(FindGraphics, KeepsWhatWasFoundWhenItIsCancelled) {
+    MakeMany(30);
+    Show();
+    AtDirectory(5, [&] {
+        EXPECT_TRUE(Button("cmdCancel").isEnabled());
+        for (const char* Name : {"cmdImport", "cmdSearch"})
+            EXPECT_FALSE(Button(Name).isEnabled()) << Name;
+        EXPECT_EQ(Pointer::Hourglass, ScreenPointer());
+        Press(*Window, "cmdCancel");
+    });
+    Search();
+    EXPECT_EQ(4, Grid().Rows());
+    EXPECT_EQ("4 Results", Label("lblResults"));
+    EXPECT_TRUE(Button("cmdImport").isEnabled());
+    EXPECT_FALSE(Button("cmdCancel").isEnabled());
+    Search();
+    EXPECT_EQ(30, Grid().Rows());
+}
+
+TEST_F(FindGraphics, LetsTheRowsBeLookedAtDuringTheSearch) {
+    MakeMany(60);
+    Show();
+    AtDirectory(40, [&] {
+        EXPECT_EQ(39, Grid().Rows());
+        Grid().setFocus();
+        QTest::keyClick(&Grid(), Qt::Key_End);
+        EXPECT_EQ(38, Grid().Row());
+        EXPECT_EQ("1 Selected", Label("lblSelected"));
+        QTest::keyClick(&Grid(), Qt::Key_Up, Qt::ShiftModifier);
+        EXPECT_EQ("2 Selected", Label("lblSelected"));
+    });
+    Search();
+    EXPECT_EQ(60, Grid().Rows());
+    EXPECT_EQ("2 Selected", Label("lblSelected"));
+    EXPECT_TRUE(Grid().IsSelected(37) && Grid().IsSelected(38));
+}
+
+TEST_F(FindGraphics, EscEndsTheSearchFirstAndThenTheWindow) {
+    MakeMany(20);
+    Show();
+    AtDirectory(5, [&] { QTest::keyClick(&*Window, Qt::Key_Escape); });
+    Search();
+    EXPECT_TRUE(Window->IsLoaded());
+    EXPECT_EQ("4 Results", Label("lblResults"));
+    QTest::keyClick(&*Window, Qt::Key_Escape);
+    EXPECT_FALSE(Window->IsLoaded());
+}
+
+TEST_F(FindGraphics, MayBeClosedDuringTheSearch) {
+    MakeMany(20);
+    Show();
+    AtDirectory(5, [&] { Window->close(); });
+    Search();
+    EXPECT_FALSE(Window->IsLoaded());
+    EXPECT_EQ(0, Window->FileCnt());
+}
+
+TEST_F(FindGraphics, TellsOfADriveThatMayNotBeReadAndEnds) {
+    Make({"one/a.jpg", "two/b.jpg", "three/c.jpg"});
+    Drives.Paths = {Pics / u"one"_s, Pics / u"two"_s, Pics / u"three"_s};
+    Show();
+    Lock(u"two"_s);
+    Boxes.Expect(u"Access Denied to '"_s + Pics / u"two"_s + u'\'', u"Operation Failed"_s);
+    {
+        const WithoutPrivileges User;
+        Search();
+    }
+    EXPECT_EQ("a.jpg", Names());
+    EXPECT_EQ("1 Results", Label("lblResults"));
+    EXPECT_TRUE(Button("cmdImport").isEnabled());
+}
+
+TEST_F(FindGraphics, TellsOfADirectoryBelowAndKeepsTheRowsUncounted) {
+    Make({"a.jpg", "locked/b.jpg", "z/c.jpg"});
+    Show();
+    Lock(u"locked"_s);
+    Boxes.Expect(
+        u"Error Searching Sub Directory '"_s + Pics / u"locked"_s + u"'\n\nPermission denied"_s,
+        u"Operation Failed"_s);
+    Boxes.WhileNextIsOpen([&] { EXPECT_EQ("a.jpg", Names()); });
+    {
+        const WithoutPrivileges User;
+        Search();
+    }
+    EXPECT_EQ("a.jpg", Names());
+    EXPECT_EQ("0 Results", Label("lblResults"));
+    EXPECT_FALSE(Button("cmdImport").isEnabled());
+    EXPECT_TRUE(Button("cmdSearch").isEnabled());
+}
+
+TEST_F(FindGraphics, PassesOverADriveThatHasGone) {
+    Make({"one/a.jpg", "two/b.jpg"});
+    Drives.Paths = {Pics / u"one"_s, Pics / u"two"_s};
+    Show();
+    DeleteTree(Pics / u"one"_s);
+    Search();
+    EXPECT_EQ("b.jpg", Names());
+}
+
+TEST_F(FindGraphics, TellsOfAnErrorOfAnotherKindAndIsReadyAgain) {
+    Make({"a.jpg"});
+    Show();
+    SetDoEventsHook([] { throw Fault(u"The lights went out."_s); });
+    Boxes.Expect(u"Error Searching\nThe lights went out."_s, u"Operation Failed"_s);
+    Search();
+    SetDoEventsHook({});
+    EXPECT_TRUE(Button("cmdSearch").isEnabled());
+    EXPECT_EQ("Find Graphics", Window->windowTitle().toStdString());
+}
+
+TEST_F(FindGraphics, RemembersItsSizeAndColumns) {
+    Show();
+    EXPECT_GE(Grid().columnWidth(0), 131);
+    Window->resize(700, 500);
+    Grid().setColumnWidth(1, 333);
+    Window->Unload();
+    const QString Section = u"Find Graphics Window"_s;
+    EXPECT_EQ("0", OpenSettings().GetValue(Section, u"WindowState"_s, {}).toStdString());
+    EXPECT_EQ("10500", OpenSettings().GetValue(Section, u"WindowWidth"_s, {}).toStdString());
+    EXPECT_EQ("7500", OpenSettings().GetValue(Section, u"WindowHeight"_s, {}).toStdString());
+    EXPECT_EQ("4995", OpenSettings().GetValue(Section, u"Col1.Width"_s, {}).toStdString());
+    Show();
+    EXPECT_EQ(QSize(700, 500), Window->size());
+    EXPECT_EQ(333, Grid().columnWidth(1));
+    Window->setWindowState(Qt::WindowMaximized);
+    QCoreApplication::processEvents();
+    Window->Unload();
+    EXPECT_EQ("2", OpenSettings().GetValue(Section, u"WindowState"_s, {}).toStdString());
+    EXPECT_EQ("10500", OpenSettings().GetValue(Section, u"WindowWidth"_s, {}).toStdString());
+    Show();
+    EXPECT_TRUE(Window->isMaximized());
+}
+
+TEST_F(FindGraphics, IsNeverSmallerThanItsControlsNeed) {
+    Show();
+    Window->resize(10, 10);
+    EXPECT_GE(Window->width(), 413);
+    EXPECT_GE(Window->height(), 233);
+}
+
+TEST_F(FindGraphics, IsWorkedByTheKeyboardAlone) {
+    Make({"a.jpg", "b.jpg", "c.png"});
+    Show();
+    Path().setFocus();
+    QTest::keyClick(&*Window, Qt::Key_F, Qt::AltModifier);
+    EXPECT_TRUE(Filter().hasFocus());
+    QTest::keyClicks(&Filter(), u"?.jpg"_s);
+    QTest::keyClick(&*Window, Qt::Key_S, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Label("lblResults") == "2 Results"; }));
+    EXPECT_EQ("a.jpg,b.jpg", Names());
+    QTest::keyClick(&*Window, Qt::Key_R, Qt::AltModifier);
+    EXPECT_TRUE(Grid().hasFocus());
+    QTest::keyClick(&Grid(), Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ("2 Selected", Label("lblSelected"));
+    QTest::keyClick(&*Window, Qt::Key_I, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !Window->IsLoaded(); }));
+    EXPECT_EQ(2, Window->FileCnt());
+}
+
+}  // namespace
+}  // namespace neb

@@ -1,0 +1,48 @@
+// What a walk over many files asks: masks, and what is to be known of a file.
+#include "support/modHostFilesMask.h"
+
+#include <gtest/gtest.h>
+
+#include "harness/TempFolder.h"
+#include "support/modHostFiles.h"
+
+namespace neb {
+namespace {
+
+TEST(HostFilesWalk, AMaskIsBlindToCaseAndStarPointStarIsEverything) {
+    const struct {
+        const char *Mask, *Name;
+        bool Matches;
+    } Table[] = {{"*.*", "noext", true},       {"photo*.*", "PHOTO1.jpg", true},
+                 {"photo*.*", "photo", false}, {"photo*.*", "myphoto.jpg", false},
+                 {"*.JPG", "a.jpg", true},     {"?.jpg", "ab.jpg", false},
+                 {"a.*", "a.b.c", true},       {"*", "", true}};
+    for (const auto& Row : Table)
+        EXPECT_EQ(Row.Matches,
+                  NameMask(QString::fromLatin1(Row.Mask)).Matches(QString::fromLatin1(Row.Name)))
+            << Row.Mask << ' ' << Row.Name;
+}
+
+TEST(HostFilesWalk, TellsSizeAndTimeOfAFileAlone) {
+    const harness::TempFolder Folder;
+    const QString File = Folder / QStringLiteral("a.jpg");
+    WriteFile(File, "12345");
+    const auto Facts = ReadableFileFacts(File);
+    ASSERT_TRUE(Facts);
+    EXPECT_EQ(5, Facts->Size);
+    EXPECT_EQ(FileTime(File)->toSecsSinceEpoch(), Facts->Changed);
+    EXPECT_FALSE(ReadableFileFacts(Folder.Path()));
+    EXPECT_FALSE(ReadableFileFacts(Folder / QStringLiteral("none.jpg")));
+}
+
+TEST(HostFilesWalk, AListingSaysWhyItIsEmpty) {
+    const harness::TempFolder Folder;
+    std::error_code Error;
+    EXPECT_TRUE(ListDir(Folder.Path(), Error).empty());
+    EXPECT_FALSE(Error);
+    EXPECT_TRUE(ListDir(Folder / QStringLiteral("none"), Error).empty());
+    EXPECT_EQ(std::errc::no_such_file_or_directory, Error);
+}
+
+}  // namespace
+}  // namespace neb
