@@ -117,6 +117,8 @@ TEST_F(AlbumRename, ANameThatIsTooLongIsRefusedByTheEngine) {
 TEST_F(AlbumRename, QuotesBecomeTypographicWhenTypedAndWhenPasted) {
     const std::int32_t AlbumID = MakeAlbum(u"Garden"_s);
     Rename(AlbumID, [](frmAlbumRename& Window) {
+        Window.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&Window));
         auto& Field = In<QLineEdit>(Window, "txtAlbumName");
         QTest::keyClicks(&Field, u"Mary's"_s);
         EXPECT_EQ(u"Mary’s"_s.toStdString(), Field.text().toStdString());
