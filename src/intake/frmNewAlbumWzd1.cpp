@@ -4,7 +4,7 @@
 
 #include "db/clsDBEngine.h"
 #include "intake/frmImportFilter.h"
-#include "platform/KeyFilter.h"
+#include "intake/modAlbumNames.h"
 #include "shell/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/Services.h"
@@ -17,8 +17,7 @@ namespace neb {
 frmNewAlbumWzd1::frmNewAlbumWzd1() : mUi(std::make_unique<Ui::frmNewAlbumWzd1>()) {
     mUi->setupUi(this);
     mUi->lblInitialDir->setBuddy(mUi->pnlDirectory->findChild<QTreeView*>());
-    new KeyFilter(mUi->txtAlbumName, &FixQuoteKey);
-    connect(mUi->txtAlbumName, &QLineEdit::editingFinished, this, &frmNewAlbumWzd1::CleanName);
+    KeepQuotesClean(*mUi->txtAlbumName);
     connect(mUi->cmdNext, &QPushButton::clicked, this, &frmNewAlbumWzd1::Next);
     connect(mUi->cmdCancel, &QPushButton::clicked, this, &frmNewAlbumWzd1::Unload);
 }
@@ -32,11 +31,6 @@ void frmNewAlbumWzd1::Form_Load() {
 bool frmNewAlbumWzd1::Form_Unload() {
     mUi->pnlDirectory->End();
     return true;
-}
-
-void frmNewAlbumWzd1::CleanName() {
-    const QString Clean = ConvertQuotes(mUi->txtAlbumName->text());
-    if (Clean != mUi->txtAlbumName->text()) mUi->txtAlbumName->setText(Clean);
 }
 
 void frmNewAlbumWzd1::Next() {
@@ -56,7 +50,7 @@ bool frmNewAlbumWzd1::HasFreeName() {
         mUi->txtAlbumName->setFocus();
         return false;
     }
-    CleanName();
+    mUi->txtAlbumName->setText(ConvertQuotes(mUi->txtAlbumName->text()));
     if (!DBEngine->FindAlbum(0, mUi->txtAlbumName->text())) return true;
     MsgBox(QStringLiteral("Album Name is already in use."), QStringLiteral("Invalid Album Name"),
            BoxIcon::Critical);

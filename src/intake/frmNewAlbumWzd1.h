@@ -24,7 +24,6 @@ class frmNewAlbumWzd1 : public Form {
     bool Form_Unload() override;
 
   private:
-    void CleanName();
     void Next();
     bool HasFreeName();
     bool HasFreeDirectory();

@@ -9,6 +9,7 @@
 
 #include "db/Fixtures.h"
 #include "db/modAlbumFiles.h"
+#include "harness/SoundFiles.h"
 #include "shell/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "tools/modCommands.h"
@@ -30,23 +31,9 @@ Outcome Tool(const QStringList& Arguments) {
     return {Code, Out.str(), Err.str()};
 }
 
-// Eight bits a sample, one channel, silence.
 QByteArray Wave(int Seconds) {
     constexpr int Rate = 8000;
-    const int Bytes = Seconds * Rate;
-    QByteArray File;
-    const auto Put = [&File](int Number, int Size) {
-        for (int I = 0; I < Size; ++I) File.append(static_cast<char>(Number >> (8 * I)));
-    };
-    File += "RIFF";
-    Put(36 + Bytes, 4);
-    File += "WAVEfmt ";
-    for (const auto& [Number, Size] :
-         {std::pair(16, 4), {1, 2}, {1, 2}, {Rate, 4}, {Rate, 4}, {1, 2}, {8, 2}})
-        Put(Number, Size);
-    File += "data";
-    Put(Bytes, 4);
-    return File + QByteArray(Bytes, '\x80');
+    return WaveBytes(std::vector<float>(static_cast<size_t>(Seconds * Rate)), Rate);
 }
 
 // All that lies below a directory, with contents and dates.

@@ -23,15 +23,15 @@ SDL_AudioDeviceID OpenMicrophone(const SDL_AudioSpec& Wanted) {
     return SDL_OpenAudioDevice(nullptr, 1, &Wanted, &Obtained, 0);
 }
 
-SDL_AudioSpec SpecOf(const WaveFormat& Format) {
-    SDL_AudioSpec Spec{};
-    Spec.freq = static_cast<int>(Format.SamplesPerSec);
-    Spec.format = AUDIO_U8;
-    Spec.channels = static_cast<Uint8>(Format.Channels);
+SDL_AudioSpec WantedFor(const WaveFormat& Format) {
+    SDL_AudioSpec Wanted{};
+    Wanted.freq = static_cast<int>(Format.SamplesPerSec);
+    Wanted.format = AUDIO_U8;
+    Wanted.channels = static_cast<Uint8>(Format.Channels);
     int Samples = 64;
-    while (Samples * PiecesPerSecond < Spec.freq - Samples) Samples *= 2;
-    Spec.samples = static_cast<Uint16>(Samples);
-    return Spec;
+    while (Samples * PiecesPerSecond < Wanted.freq - Samples) Samples *= 2;
+    Wanted.samples = static_cast<Uint16>(Samples);
+    return Wanted;
 }
 
 // What a microphone adds to and the window reads. Its jobs keep it alive until the microphone is
@@ -39,7 +39,7 @@ SDL_AudioSpec SpecOf(const WaveFormat& Format) {
 class Recording : public std::enable_shared_from_this<Recording> {
   public:
     Recording(std::shared_ptr<SdlSession> Session, const WaveFormat& Format, std::int32_t Bytes)
-        : mSession(std::move(Session)), mWanted(SpecOf(Format)), mBytes(Bytes, Silence) {
+        : mSession(std::move(Session)), mWanted(WantedFor(Format)), mBytes(Bytes, Silence) {
         mWanted.userdata = this;
         mWanted.callback = [](void* To, Uint8* Piece, int Length) {
             static_cast<Recording*>(To)->Add(Piece, Length);
@@ -164,7 +164,7 @@ Found FindMicrophone() {
     Found Answer{SdlSession::Open()};
     if (!Answer.Session) return {};
     Answer.Known = SDL_GetNumAudioDevices(1);
-    const SDL_AudioDeviceID Device = OpenMicrophone(SpecOf(WaveFormat{}));
+    const SDL_AudioDeviceID Device = OpenMicrophone(WantedFor(WaveFormat{}));
     if (!Device) return {};
     SDL_CloseAudioDevice(Device);
     return Answer;
