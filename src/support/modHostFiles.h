@@ -75,7 +75,8 @@ void WriteFile(const QString& Path, const QByteArray& Bytes);  // creates or rep
 // nothing beside it.
 void ReplaceFile(const QString& Path, const QByteArray& Bytes);
 void AppendFile(const QString& Path, const QByteArray& Bytes);
-void CopyFile(const QString& From, const QString& To);  // replaces To
+// The old or the new content is at To, and nothing beside it. Between is called all the while.
+void CopyFile(const QString& From, const QString& To, const std::function<void()>& Between = {});
 void DeleteFile(const QString& Path);                   // no fault when there is none
 void DeleteMask(const QString& Mask);  // every match; goes on past failures, then throws the first
 void RenameFile(const QString& From, const QString& To);  // replaces To

@@ -141,10 +141,6 @@ void AppendFile(const QString& Path, const QByteArray& Bytes) {
     WriteWhole(Path, Bytes, QIODevice::WriteOnly | QIODevice::Append);
 }
 
-void CopyFile(const QString& From, const QString& To) {
-    WriteFile(To, ReadFile(From));
-}
-
 void DeleteFile(const QString& Path) {
     const QString Host = ResolvePath(Path);
     if (!QFileInfo::exists(Host) && !QFileInfo(Host).isSymLink()) return;
@@ -256,6 +252,28 @@ void HostWriter::Sync() {
 void HostWriter::Close() {
     mState->Flush();
     mState->File.close();
+}
+
+// In pieces that reach the disk one by one: no wait for it is long.
+void CopyFile(const QString& From, const QString& To, const std::function<void()>& Between) {
+    const QString Beside = ResolvePath(To) + QStringLiteral(".new");
+    HostReader Source(From);
+    try {
+        HostWriter Copy(Beside);
+        std::vector<char> Piece(1 << 22);
+        for (;;) {
+            const qint64 Length = Source.Read(Piece.data(), static_cast<qint64>(Piece.size()));
+            Copy.Write(Piece.data(), Length);
+            Copy.Sync();
+            if (Length == 0) break;
+            if (Between) Between();
+        }
+        Copy.Close();
+        RenameFile(Beside, To);
+    } catch (const Fault&) {
+        DeleteMade(Beside);
+        throw;
+    }
 }
 
 ScratchDir::ScratchDir() {
