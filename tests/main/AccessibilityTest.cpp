@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QTextEdit>
 
+#include "authoring/frmSlideShowDBM.h"
 #include "harness/TempFolder.h"
 #include "intake/frmAlbumDelete.h"
 #include "intake/frmAlbumRename.h"
@@ -77,7 +78,7 @@ using Windows =
     ::testing::Types<frmAbout, frmAlbumDelete, frmAlbumRename, frmDirSelect, frmFindGraphics,
                      frmGetObjectName, frmHelp, frmImportFilter, frmLoading, frmMsgBoxEx,
                      frmNewAlbumWzd1, frmPicturePopup, frmPreferences, frmQuickShow, frmSlideDBM,
-                     frmSlideMgrBulk, frmSoundRecorder>;
+                     frmSlideMgrBulk, frmSlideShowDBM, frmSoundRecorder>;
 TYPED_TEST_SUITE(EachWindow, Windows);
 
 TYPED_TEST(EachWindow, HasNamesToolTipsAndReachableControls) {
