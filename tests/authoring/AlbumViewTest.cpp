@@ -4,7 +4,6 @@
 #include <QMdiSubWindow>
 
 #include "ViewRig.h"
-#include "intake/SlideRows.h"
 #include "shell/Openers.h"
 #include "support/modTwips.h"
 
