@@ -9,6 +9,7 @@
 #include "platform/FlexGrid.h"
 #include "platform/Icons.h"
 #include "shell/modNEBSlideShow.h"
+#include "shell/modWindowState.h"
 #include "support/Fault.h"
 #include "support/Services.h"
 #include "support/modNumbers.h"
@@ -340,7 +341,7 @@ void frmFindGraphics::SavePlace() const {
     }
     for (int Col = 0; Col < ColCount; ++Col)
         PutTwips(Settings, WidthKey(Col), mUi->flxResults->columnWidth(Col));
-    Settings.Save();
+    SaveMemory(Settings);
 }
 
 }  // namespace neb

@@ -16,7 +16,6 @@
 #include "shell/Openers.h"
 #include "shell/modNEBSlideShow.h"
 #include "shell/modWindowState.h"
-#include "support/Fault.h"
 #include "support/Services.h"
 #include "support/modDEValidation.h"
 #include "support/modTwips.h"
@@ -28,16 +27,6 @@ namespace {
 const WindowMemory Memory{QStringLiteral("frmSlideDBM"), 7200, 7815};
 constexpr int LeastWidth = 7695;  // twips; the least height is that of the controls
 const QString Caption = QStringLiteral("Slide Manager");
-
-// A place that cannot be remembered must not keep the window open.
-void RememberPlace(const Form& Window) {
-    if (ReadOnlyDB) return;
-    try {
-        SaveWindow(Window, Memory);
-    } catch (const Fault&) {
-        return;
-    }
-}
 
 }  // namespace
 
@@ -210,7 +199,7 @@ void frmSlideDBM::Form_Activate() {
 
 bool frmSlideDBM::Form_Unload() {
     if (mDirty && !AskDiscard()) return false;
-    RememberPlace(*this);
+    SaveWindow(*this, Memory);
     return true;
 }
 
