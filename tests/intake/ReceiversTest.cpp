@@ -96,6 +96,10 @@ struct Row {
     bool KeepsCaption = true;                    // which is typed in a bulk window and not saved
 };
 
+std::ostream& operator<<(std::ostream& Out, const Row& Each) {
+    return Out << Each.Change;
+}
+
 class OpenWindows : public SessionRig {
   public:
     // The album Garden has the slides a, b and c, and b is chosen everywhere; Attic has d.
