@@ -205,19 +205,24 @@ void frmSlideMgrBulk::Save() {
 
 // While a box is open anything may happen, so the album is asked for anew behind it.
 SlideTally frmSlideMgrBulk::SaveRows() {
+    FlexGrid& Grid = *mUi->flxAlbum;
     SlideTally Tally;
     SlideFinder Finder;
     mEdits.clear();
     clsNEBAlbum* Album = ShownAlbum();
-    for (int Row = 0; Album && Row < mUi->flxAlbum->Rows(); ++Row) {
+    Grid.SetRedraw(false);
+    for (int Row = 0; Album && Row < Grid.Rows(); ++Row) {
         const bool Success = SaveRow(*Album, Finder, Row);
         Tally.Count(Success);
         if (Success) continue;
         NoteEdit(Row);
+        Grid.SetRedraw(true);
         MsgBox(QStringLiteral("Slide #%1 Not Found.").arg(Row + 1),
                QStringLiteral("Failed to Save Slide"), BoxIcon::Information);
+        Grid.SetRedraw(false);
         Album = ShownAlbum();
     }
+    Grid.SetRedraw(true);
     return Tally;
 }
 

@@ -24,8 +24,8 @@ std::int16_t QuoteFor(char16_t Typed, QStringView Before) {
 }
 
 QChar FromCode(std::int16_t Code) {
-    const char Byte = static_cast<char>(Code);
-    return FromAnsi(&Byte, 1)[0];
+    static const QString Typographic = FromAnsi("\x91\x92\x93\x94", 4);
+    return Typographic[Code - SingleQuotes.Opening];
 }
 
 bool IsDigit(char16_t Code) {
