@@ -24,6 +24,7 @@ namespace {
 
 const WindowMemory Memory{QStringLiteral("frmSlideMgrBulk"), 6315};
 constexpr int HeaderWidth = 16;
+constexpr int CaptionBytes = 80;  // in the record of a slide
 
 }  // namespace
 
@@ -59,7 +60,7 @@ void frmSlideMgrBulk::SetUpGrid() {
     Grid.SetKeyPressEdit(&FixQuoteKeyInGrid);
     Grid.SetEditOnDblClick(false);
     Grid.setEditTriggers(Grid.editTriggers() | QAbstractItemView::SelectedClicked);
-    connect(&Grid, &FlexGrid::AfterEdit, this, &frmSlideMgrBulk::NoteEdit);
+    connect(&Grid, &FlexGrid::AfterEdit, this, &frmSlideMgrBulk::AfterEdit);
     connect(&Grid, &FlexGrid::CellDblClicked, this, &frmSlideMgrBulk::ShowPicture);
     connect(&Grid, &FlexGrid::RowActivated, this, &frmSlideMgrBulk::ShowPicture);
     connect(&Grid, &FlexGrid::DeletePressed, mUi->cmdDelete, &QPushButton::click);
@@ -166,6 +167,16 @@ void frmSlideMgrBulk::MakeCurrent(int Row) {
     Grid.selectionModel()->setCurrentIndex(Grid.model()->index(Row, clsImageBuffer::ColText),
                                            QItemSelectionModel::NoUpdate);
     Grid.EnsureRowVisible(Row);
+}
+
+// What a record has no room for is cut at once, where the user sees it, and not when all is
+// written.
+void frmSlideMgrBulk::AfterEdit(int Row) {
+    FlexGrid& Grid = *mUi->flxAlbum;
+    const QString& Typed = Grid.TextMatrix(Row, clsImageBuffer::ColText);
+    const QString Fitting = FitToRecord(Typed, CaptionBytes);
+    if (Fitting != Typed) Grid.SetTextMatrix(Row, clsImageBuffer::ColText, Fitting);
+    NoteEdit(Row);
 }
 
 void frmSlideMgrBulk::NoteEdit(int Row) {

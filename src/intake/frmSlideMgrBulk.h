@@ -27,7 +27,8 @@ class frmSlideMgrBulk : public Form, public ProgressParent, public ChangeReceive
     // Fills the list of albums, shows the window and the slides of the album; 0: of the first
     // album, -1: of none.
     void LoadAlbumMgr(std::int32_t AlbumID);
-    void DoActivity() override;  // fills the grid, under frmLoading
+    void DoActivity() override;      // fills the grid, under frmLoading
+    void StartOperation() override;  // deletes the selected slides, under frmProgress
     void ReceiveEvent(const QString& ObjectType, const QString& EventType,
                       const EventKeys& EventData) override;
 
