@@ -3,7 +3,6 @@
 #include <QScopedValueRollback>
 
 #include "db/clsDBEngine.h"
-#include "intake/BulkSlides.h"
 #include "intake/frmSlideMgrBulk.h"
 #include "platform/ComboBoxList.h"
 #include "platform/FlexGrid.h"
