@@ -1,6 +1,9 @@
 // What the slide manager keeps: checks in their order, the three ways of a picture, the three of a
 // sound, and what is left when a file cannot be written.
+#include <QFile>
+
 #include "SlideRig.h"
+#include "harness/WithoutPrivileges.h"
 #include "intake/SlideSave.h"
 
 namespace neb {
@@ -171,21 +174,6 @@ TEST_F(SlideDBMSave, WithoutAnAlbumItSaysSoAndKeepsTheChanges) {
     EXPECT_TRUE(Dirty());
 }
 
-TEST_F(SlideDBMSave, CaptionsOfEveryKindComeThrough) {
-    OpenAlbum();
-    MakePicture(Pics / u"a.png"_s);
-    for (const QString& Words :
-         {u"€‚ƒ„…†‡ˆ‰Š‹Œ Ž‘’“”•–—˜™š›œ žŸ ¡ÿ"_s, u"日本 Ελλάς"_s, u"same"_s, u"same"_s}) {
-        Push("cmdNew");
-        PickPicture(Pics / u"a.png"_s);
-        Caption().setText(Words);
-        Push("cmdSave");
-        EXPECT_EQ(Words.toStdString(), Slide(Chosen()).SlideText.toStdString());
-        EXPECT_EQ(Words.toStdString(), Text());
-    }
-    EXPECT_EQ(4u, Album().Slides.size());
-}
-
 TEST_F(SlideDBMSave, AFullDiskKeepsTheOldPictureAndTheChangesOnTheScreen) {
     const auto ID = AddSlide(u"a"_s, 40, 30);
     const QByteArray Before = ReadFile(Stored(u"00000001.jpg"_s));
@@ -216,6 +204,33 @@ TEST_F(SlideDBMSave, AFullDiskLeavesANewSlideWithoutAPicture) {
     ASSERT_EQ(1u, Album().Slides.size());
     EXPECT_EQ("", Slide(1).SlideLoc.toStdString());
     EXPECT_TRUE(Dirty());
+}
+
+TEST_F(SlideDBMSave, AFolderThatMayNotBeWrittenIsSaidAndTheNextSaveSucceeds) {
+    constexpr auto Read = QFileDevice::Permissions(0x5555),
+                   Write = QFileDevice::Permissions(0x7755);
+    const auto ID = AddSlide(u"a"_s, 40, 30);
+    const QByteArray Before = ReadFile(Stored(u"00000001.jpg"_s));
+    OpenSlide(ID);
+    Type(u"b"_s);
+    Push("cmdRotate1");
+    ASSERT_TRUE(QFile::setPermissions(Db.Path(), Write));
+    ASSERT_TRUE(QFile::setPermissions(Stored({}), Read));
+    {
+        const WithoutPrivileges User;
+        Boxes.Expect(
+            u"The file cannot be written. (Permission denied)\n"_s + Stored(u"00000001.jpg.new"_s),
+            u"Operation Failed"_s);
+        Push("cmdSave");
+    }
+    EXPECT_EQ(Before, ReadFile(Stored(u"00000001.jpg"_s)));
+    EXPECT_EQ(QSize(30, 40), Shown().size());
+    EXPECT_EQ("b", Text());
+    EXPECT_TRUE(Dirty());
+    ASSERT_TRUE(QFile::setPermissions(Stored({}), Write));
+    Push("cmdSave");
+    EXPECT_EQ(QSize(30, 40), SizeOf(Stored(u"00000001.jpg"_s)));
+    EXPECT_FALSE(Dirty());
 }
 
 TEST_F(SlideDBMSave, StoredNamesAreFoundWhateverTheirCase) {
