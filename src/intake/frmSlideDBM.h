@@ -97,6 +97,7 @@ class frmSlideDBM : public Form, public ChangeReceiver {
     bool ConfirmCaption();
     bool HasPictureToSave();
     SlideEdits Edits() const;
+    void StoreFiles(std::int32_t AlbumID, clsNEBSlide& Slide);
     void Delete();
     void Import();
     void ImportFromDirectory();

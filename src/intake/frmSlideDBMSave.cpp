@@ -71,7 +71,23 @@ SlideEdits frmSlideDBM::Edits() const {
     return Made;
 }
 
-// A fault on the way leaves the changes on the screen, to be saved again.
+// A fault on the way leaves the changes on the screen, to be saved again. A new slide is in the
+// album by then: it is chosen, so that the next save completes it and makes no second one.
+void frmSlideDBM::StoreFiles(std::int32_t AlbumID, clsNEBSlide& Slide) try {
+    const PointerScope Working(Pointer::Hourglass);
+    StorePicture(*DBEngine, AlbumID, Slide, Edits());
+    StoreSound(*DBEngine, AlbumID, Slide, Edits());
+} catch (const Fault&) {
+    mCurrentAlbumID = AlbumID;
+    mCurrentSlideID = Slide.SlideID;
+    LoadAlbumSlides();
+    const Guard Quiet(mIgnoreClick);
+    ComboBoxList List = Slides();
+    ComboSelectByData(List, mCurrentSlideID, 0);
+    mUi->cmdDelete->setEnabled(true);
+    throw;
+}
+
 void frmSlideDBM::Save() {
     if (ReadOnlyDB || !ConfirmCaption()) return;
     mUi->txtDscr->setText(ConvertQuotes(mUi->txtDscr->text()));
@@ -85,11 +101,7 @@ void frmSlideDBM::Save() {
     std::int32_t Slide = SlideID();
     clsNEBSlide* Stored = SlideToSave(*Found, Slide, mUi->txtDscr->text());
     if (!Stored) return;
-    {
-        const PointerScope Working(Pointer::Hourglass);
-        StorePicture(*DBEngine, Album, *Stored, Edits());
-        StoreSound(*DBEngine, Album, *Stored, Edits());
-    }
+    StoreFiles(Album, *Stored);
     BroadcastEvent(QStringLiteral("Album"), QStringLiteral("Add Slides"), this, {Album, Slide});
     SetClean();
     LoadAlbumSlides();

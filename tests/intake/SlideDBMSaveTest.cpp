@@ -194,16 +194,46 @@ TEST_F(SlideDBMSave, AFullDiskKeepsTheOldPictureAndTheChangesOnTheScreen) {
     EXPECT_EQ(QSize(30, 40), SizeOf(Stored(u"00000001.jpg"_s)));
 }
 
-TEST_F(SlideDBMSave, AFullDiskLeavesANewSlideWithoutAPicture) {
+TEST_F(SlideDBMSave, AFullDiskLeavesANewSlideWithoutAPictureForTheNextSaveToComplete) {
     OpenAlbum();
-    PickPicture(MakePicture(Pics / u"a.png"_s));
+    PickPicture(MakePicture(Pics / u"a.png"_s, 50, 20));
     Type(u"b"_s);
     FillDisk(u".jpg"_s);
     ExpectFullDisk(u"00000001.jpg"_s);
     Push("cmdSave");
     ASSERT_EQ(1u, Album().Slides.size());
     EXPECT_EQ("", Slide(1).SlideLoc.toStdString());
+    EXPECT_EQ("b", Text());
+    EXPECT_EQ(QSize(50, 20), Shown().size());
     EXPECT_TRUE(Dirty());
+    EXPECT_EQ(1, Chosen());
+    SetHostWatcher({});
+    Push("cmdSave");
+    ASSERT_EQ(1u, Album().Slides.size());
+    EXPECT_EQ("00000001.JPG", Slide(1).SlideLoc.toStdString());
+    EXPECT_EQ(QSize(50, 20), SizeOf(Stored(u"00000001.jpg"_s)));
+    EXPECT_FALSE(Dirty());
+}
+
+TEST_F(SlideDBMSave, ANewSlideThatCouldNotBeStoredCanBeTakenBack) {
+    OpenAlbum();
+    PickPicture(MakePicture(Pics / u"a.png"_s));
+    Type(u"b"_s);
+    FillDisk(u".jpg"_s);
+    ExpectFullDisk(u"00000001.jpg"_s);
+    Push("cmdSave");
+    Boxes.Expect(u"The Current Slide Appears to be Corrupt."_s);
+    Push("cmdCancel");
+    EXPECT_EQ("b", Text());
+    EXPECT_FALSE(Dirty());
+    Boxes.Expect(
+        u"Are you sure you want to delete the selected slide defintion?\n"
+        "WARNING: If you procede the slide will be deleted from all\n"
+        "Slide Shows that use it?"_s,
+        BoxAnswer::Yes);
+    Boxes.Expect(u"Slide Deleted Successfully."_s);
+    Push("cmdDelete");
+    EXPECT_TRUE(Album().Slides.empty());
 }
 
 TEST_F(SlideDBMSave, AFolderThatMayNotBeWrittenIsSaidAndTheNextSaveSucceeds) {
