@@ -57,6 +57,7 @@ frmSlideDBM::~frmSlideDBM() = default;
 template <class Sender, class Signal>
 void frmSlideDBM::On(Sender* Control, Signal Happens, void (frmSlideDBM::*Do)()) {
     connect(Control, Happens, this, [this, Do] {
+        if (mWorking) return;
         const auto Held = shared_from_this();
         (this->*Do)();
     });
@@ -209,7 +210,7 @@ void frmSlideDBM::Form_Activate() {
 }
 
 bool frmSlideDBM::Form_Unload() {
-    if (mDirty && !AskDiscard()) return false;
+    if (mWorking || (mDirty && !AskDiscard())) return false;
     RememberPlace(*this);
     return true;
 }
