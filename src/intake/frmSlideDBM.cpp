@@ -46,6 +46,7 @@ frmSlideDBM::~frmSlideDBM() = default;
 template <class Sender, class Signal>
 void frmSlideDBM::On(Sender* Control, Signal Happens, void (frmSlideDBM::*Do)()) {
     connect(Control, Happens, this, [this, Do] {
+        if (mWorking) return;
         const auto Held = shared_from_this();
         (this->*Do)();
     });
@@ -198,7 +199,7 @@ void frmSlideDBM::Form_Activate() {
 }
 
 bool frmSlideDBM::Form_Unload() {
-    if (mDirty && !AskDiscard()) return false;
+    if (mWorking || (mDirty && !AskDiscard())) return false;
     SaveWindow(*this, Memory);
     return true;
 }
