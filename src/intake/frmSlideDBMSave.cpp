@@ -90,7 +90,8 @@ void frmSlideDBM::StoreFiles(std::int32_t AlbumID, clsNEBSlide& Slide, const Sli
 // wrong with it comes up in its turn.
 void frmSlideDBM::Save() {
     if (ReadOnlyDB || !ConfirmCaption()) return;
-    mUi->txtDscr->setText(ConvertQuotes(mUi->txtDscr->text()));
+    mUi->txtDscr->setText(
+        FitToRecord(ConvertQuotes(mUi->txtDscr->text()), clsNEBSlide::CaptionBytes));
     if (!HasPictureToSave()) return;
     SlideEdits Made = Edits();
     if (Made.Jpeg) Made.Jpeg = [Ready = Aside(Made.Jpeg)] { return Ready.get(); };

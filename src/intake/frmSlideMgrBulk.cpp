@@ -26,7 +26,6 @@ namespace {
 
 const WindowMemory Memory{QStringLiteral("frmSlideMgrBulk"), 6315};
 constexpr int HeaderWidth = 16;
-constexpr int CaptionBytes = 80;  // in the record of a slide
 
 }  // namespace
 
@@ -177,7 +176,7 @@ void frmSlideMgrBulk::MakeCurrent(int Row) {
 void frmSlideMgrBulk::AfterEdit(int Row) {
     FlexGrid& Grid = *mUi->flxAlbum;
     const QString& Typed = Grid.TextMatrix(Row, clsImageBuffer::ColText);
-    const QString Fitting = FitToRecord(Typed, CaptionBytes);
+    const QString Fitting = FitToRecord(Typed, clsNEBSlide::CaptionBytes);
     if (Fitting != Typed) Grid.SetTextMatrix(Row, clsImageBuffer::ColText, Fitting);
     NoteEdit(Row);
 }

@@ -2,6 +2,7 @@
 // as far as a record can hold it, and slides are told apart by more than their captions.
 #include "SlideRig.h"
 #include "support/modDEValidation.h"
+#include "support/modText.h"
 
 namespace neb {
 namespace {
@@ -66,6 +67,22 @@ TEST_F(SlideDBMCaption, CharactersThatNoRecordHoldsStayUntilTheEndAndAreReplaced
     OpenSlide(1);
     EXPECT_EQ("Mir ?", Text());
     EXPECT_FALSE(ShowsMessage());
+}
+
+// A letter may take several in a record.
+TEST_F(SlideDBMCaption, WhatARecordHasNoRoomForIsCutWhereTheUserSeesIt) {
+    OpenAlbum();
+    PickPicture(MakePicture(Pics / u"a.png"_s));
+    Caption().setText(QString(80, u'ﬁ'));
+    Push("cmdSave");
+    const QString Kept = Caption().text();
+    EXPECT_TRUE(!Kept.isEmpty() && Kept.size() < 80);
+    const QString Stored = AsStored(Kept);
+    EXPECT_LE(Stored.size(), 80);
+    Push("cmdClose");
+    Engine.FinalizeDB();
+    Engine.InitializeDB();
+    EXPECT_EQ(Stored.toStdString(), Slide(1).SlideText.toStdString());
 }
 
 TEST_F(SlideDBMCaption, TwoSlidesOfTheSameCaptionStayTwo) {
