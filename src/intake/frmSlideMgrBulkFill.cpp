@@ -3,7 +3,6 @@
 #include <QScopedValueRollback>
 
 #include "db/clsDBEngine.h"
-#include "intake/BulkSlides.h"
 #include "intake/frmSlideMgrBulk.h"
 #include "platform/ComboBoxList.h"
 #include "platform/FlexGrid.h"
@@ -183,8 +182,10 @@ void frmSlideMgrBulk::SlidesAdded(const EventKeys& Keys) {
     ShowSlide(Row >= 0 ? Row : mUi->flxAlbum->AddItem(), *Slide, nullptr);
 }
 
+// An editor that is open on another row would not be known as one any more, and its text be lost.
 void frmSlideMgrBulk::SlidesDeleted(const EventKeys& Keys) {
     if (Keys[0] != AlbumID() || Keys.size() < 2) return;
+    mUi->flxAlbum->FinishEdit();
     mEdits.remove(Keys[1]);
     if (mFilling) return Fill();
     if (const int Row = RowOf(Keys[1]); Row >= 0) mUi->flxAlbum->RemoveItem(Row);

@@ -1,5 +1,7 @@
 #include "support/modDEValidation.h"
 
+#include <algorithm>
+
 #include "support/modText.h"
 
 namespace neb {
@@ -24,8 +26,8 @@ std::int16_t QuoteFor(char16_t Typed, QStringView Before) {
 }
 
 QChar FromCode(std::int16_t Code) {
-    const char Byte = static_cast<char>(Code);
-    return FromAnsi(&Byte, 1)[0];
+    static const QString Typographic = FromAnsi("\x91\x92\x93\x94", 4);
+    return Typographic[Code - SingleQuotes.Opening];
 }
 
 bool IsDigit(char16_t Code) {
@@ -50,6 +52,15 @@ void FixQuoteKey(const EntryState& Field, std::int16_t& KeyAscii) {
 
 void FixQuoteKeyInGrid(const EntryState& Editor, std::int16_t& KeyAscii) {
     FixQuoteKey(Editor, KeyAscii);
+}
+
+// In steps that shrink with what is too much: somebody may have pasted a whole book.
+QString FitToRecord(QString Text, qsizetype Bytes) {
+    for (qsizetype Over; (Over = ToAnsi(Text).size() - Bytes) > 0;) {
+        Text.chop(std::max<qsizetype>(1, Over / 8));
+        if (!Text.isEmpty() && Text.back().isHighSurrogate()) Text.chop(1);
+    }
+    return Text;
 }
 
 bool IsNumericText(const QString& Text, QString& Message, bool AllowNegative) {
