@@ -12,7 +12,7 @@ class FlexGrid;
 class clsNEBSlide;
 class frmLoading;
 
-enum SlideColumn { ColPlace = 0, ColOwnText = 5, SlideColumns };
+enum ShowColumn { ColPlace = 0, ColOwnText = 5, SlideColumns };
 
 // The six columns; those for no eye hidden. A place and a caption can be typed when Editable.
 void SetUpSlideColumns(FlexGrid& Grid, bool WithPlace, bool Editable);

@@ -61,6 +61,7 @@ class frmSlideShowDBM : public Form, public ProgressParent, public ChangeReceive
     void SetUpToolBar();
     void SetUpKeys();
     void LoadIcons();
+    void FitToolBar();
     void SetReadOnlyLook();
     bool IsBusy() const { return mReading || mWriting; }
     void Do(Action Command);
