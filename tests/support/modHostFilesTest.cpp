@@ -146,6 +146,33 @@ TEST(HostFiles, AReplacedFileIsTheOldOneWhenTheDiskIsFull) {
     EXPECT_EQ(ListDir(Dir.Path()).size(), 1u) << "a part of the new one";
 }
 
+TEST(HostFiles, ACopyOfSeveralPiecesIsWholeAndTellsOfEach) {
+    const TempFolder Dir;
+    const QByteArray Content = QByteArray(5 << 20, 'a') + QByteArray(5 << 20, 'b');
+    WriteFile(Dir / "from", Content);
+    WriteFile(Dir / "to", "old");
+    int Pieces = 0;
+    CopyFile(Dir / "from", Dir / "to", [&] { ++Pieces; });
+    EXPECT_EQ(Content, ReadFile(Dir / "to"));
+    EXPECT_GE(Pieces, 2);
+    EXPECT_EQ(2u, ListDir(Dir.Path()).size());
+}
+
+TEST(HostFiles, ACopyThatFailsLeavesWhatWasThere) {
+    const TempFolder Dir;
+    WriteFile(Dir / "from", QByteArray(10 << 20, 'a'));
+    WriteFile(Dir / "to", "old");
+    SetHostWatcher([Written = 0](HostStep Step, const QString& Path, qint64&) mutable {
+        if (Step == HostStep::Write && ++Written == 2) throw Fault("The disk is full.", Path);
+    });
+    EXPECT_THROW(CopyFile(Dir / "from", Dir / "to"), Fault);
+    SetHostWatcher({});
+    EXPECT_EQ("old", ReadFile(Dir / "to"));
+    EXPECT_EQ(2u, ListDir(Dir.Path()).size());
+    EXPECT_THROW(CopyFile(Dir / "gone", Dir / "to"), Fault);
+    EXPECT_EQ("old", ReadFile(Dir / "to"));
+}
+
 TEST(HostFiles, AWriterGivesBackWhatItWasGiven) {
     TempFolder Dir;
     QByteArray Expected;
