@@ -32,6 +32,9 @@ class FlexGridStore {
     void InsertRows(int At, int Count);  // empty rows before row At; At may be Rows()
     void RemoveRows(int At, int Count);
     void MoveRow(int From, int To);  // To: the row's place afterwards
+    // These rows (ascending, none twice) together before row Before; Before may be Rows().
+    void MoveRowsBefore(const std::vector<int>& Rows, int Before);
+    bool WouldMove(const std::vector<int>& Rows, int Before) const;
 
     void RequireRows(int At, int Count) const;  // a Fault unless these rows are there
 

@@ -37,4 +37,18 @@ void RowSet::RowMoved(int From, int To) {
     if (Held) Add(To);
 }
 
+void RowSet::RowsMoved(const std::vector<int>& Moved, int Before) {
+    const auto MovedAbove = [&Moved](int Row) {
+        return static_cast<int>(std::lower_bound(Moved.begin(), Moved.end(), Row) - Moved.begin());
+    };
+    const int Count = static_cast<int>(Moved.size()), At = Before - MovedAbove(Before);
+    std::vector<int> Now;
+    for (const int Row : mRows) {
+        const int Above = MovedAbove(Row);
+        const bool Goes = Above < Count && Moved[static_cast<size_t>(Above)] == Row;
+        Now.push_back(Goes ? At + Above : Row - Above + (Row >= Before ? Count : 0));
+    }
+    Assign(std::move(Now));
+}
+
 }  // namespace neb
