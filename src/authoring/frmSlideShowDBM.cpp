@@ -76,6 +76,9 @@ void frmSlideShowDBM::SetUpGrids() {
         const auto Show = [this, Grid](int Row) { ShowPicture(*Grid, Row); };
         connect(Grid, &FlexGrid::CellDblClicked, this, Show);
         connect(Grid, &FlexGrid::RowActivated, this, Show);
+        Grid->SetRowDrag(ReadOnlyDB ? QString() : QStringLiteral("slides"));
+        connect(Grid, &FlexGrid::RowsDropped, this,
+                [this, Grid](FlexGrid* From, int Before) { RowsDropped(*From, *Grid, Before); });
     }
     connect(mUi->flxSelected, &FlexGrid::AfterEdit, this, &frmSlideShowDBM::AfterEdit);
 }

@@ -100,6 +100,7 @@ class frmSlideShowDBM : public Form, public ProgressParent, public ChangeReceive
     void MoveDown() { MoveBy(1); }
     void MoveBy(int Step);
     void AfterEdit(int Row, int Col);
+    void RowsDropped(FlexGrid& From, FlexGrid& To, int Before);
     void ShowPicture(const FlexGrid& Grid, int Row);
 
     // The list of tracks.

@@ -1,4 +1,7 @@
 // The two lists of the slide show manager: slides go from one to the other and change places.
+#include <algorithm>
+#include <numeric>
+
 #include "authoring/SlideGrids.h"
 #include "authoring/frmSlideShowDBM.h"
 #include "authoring/modLoadShow.h"
@@ -6,6 +9,7 @@
 #include "intake/frmPicturePopup.h"
 #include "platform/FlexGrid.h"
 #include "platform/GridRows.h"
+#include "shell/modNEBSlideShow.h"
 #include "ui_frmSlideShowDBM.h"
 
 namespace neb {
@@ -68,6 +72,31 @@ void frmSlideShowDBM::AfterEdit(int Row, int Col) {
     Grid.SetRedraw(true);
     Grid.SetRow(NewRow);
     Grid.EnsureRowVisible(NewRow);
+}
+
+// Rows that were dragged: into the show at the place where they were let go, out of it at the end.
+// The list of the album has no order of its own.
+void frmSlideShowDBM::RowsDropped(FlexGrid& From, FlexGrid& To, int Before) {
+    FlexGrid &Show = *mUi->flxSelected, &Album = *mUi->flxNonSelected;
+    if (IsBusy() || ReadOnlyDB) return;
+    FinishEdits();
+    if (&To == &Album && &From == &Show) return MoveLeftOne();
+    if (&To != &Show) return;
+    std::vector<int> Rows = RowsToMove(From, false);
+    const int Count = static_cast<int>(Rows.size());
+    if (Count == 0) return;
+    const QuietGrids Quiet(Album, Show);
+    if (&From == &Album) {
+        MoveRowsTo(Album, Show, Rows, clsImageBuffer::ColPicture);
+        std::iota(Rows.begin(), Rows.end(), Show.Rows() - Count);
+    }
+    const int First =
+        Before - static_cast<int>(std::count_if(Rows.begin(), Rows.end(),
+                                                [=](int Row) { return Row < Before; }));
+    Show.MoveRowsBefore(Rows, Before);
+    RenumberSelected();
+    Show.SetRow(First);
+    for (int Row = First; Row < First + Count; ++Row) Show.SelectRow(Row);
 }
 
 void frmSlideShowDBM::ShowPicture(const FlexGrid& Grid, int Row) {
