@@ -3,17 +3,11 @@
 // Save. A child of the main window; several may be open, on one album, too.
 #pragma once
 
-#include <optional>
-
 #include "authoring/ShowContent.h"
 #include "platform/ComboBoxList.h"
 #include "shell/modBroadcast.h"
 #include "support/windows/Form.h"
 #include "support/windows/Progress.h"
-
-QT_BEGIN_NAMESPACE
-class QDropEvent;
-QT_END_NAMESPACE
 
 namespace neb {
 
@@ -23,7 +17,6 @@ class frmSlideShowDBM;
 class FlexGrid;
 class clsNEBAlbum;
 class clsNEBSlide;
-class clsNEBSlideShow;
 class frmLoading;
 
 class frmSlideShowDBM : public Form, public ProgressParent, public ChangeReceiver {
