@@ -27,7 +27,10 @@ void frmSlideShowDBM::Move(FlexGrid& From, FlexGrid& To, bool All) {
     if (Rows.empty()) return;
     {
         const QuietGrids Quiet(From, To);
-        MoveRowsTo(From, To, Rows, clsImageBuffer::ColPicture);
+        From.GiveRows(Rows, To);
+        if (&To == mUi->flxNonSelected)  // a place is one in the show
+            for (int Row = To.Rows() - static_cast<int>(Rows.size()); Row < To.Rows(); ++Row)
+                To.SetTextMatrix(Row, ColPlace, {});
         RenumberSelected();
     }
     if (From.Rows() > 0) From.SetRow(std::min(Rows.front(), From.Rows() - 1));
@@ -87,7 +90,7 @@ void frmSlideShowDBM::RowsDropped(FlexGrid& From, FlexGrid& To, int Before) {
     if (Count == 0) return;
     const QuietGrids Quiet(Album, Show);
     if (&From == &Album) {
-        MoveRowsTo(Album, Show, Rows, clsImageBuffer::ColPicture);
+        Album.GiveRows(Rows, Show);
         std::iota(Rows.begin(), Rows.end(), Show.Rows() - Count);
     }
     const int First =

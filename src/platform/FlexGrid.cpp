@@ -108,6 +108,18 @@ void FlexGrid::MoveRowsBefore(const std::vector<int>& Moved, int Before) {
     SetRedraw(Shown);
 }
 
+void FlexGrid::GiveRows(const std::vector<int>& Given, FlexGrid& To) {
+    Content().RequireGift(Given, To.Content());
+    const bool Shown = Redraw(), ToShown = To.Redraw();
+    SetRedraw(false);
+    To.SetRedraw(false);
+    mModel->GiveItemsUntold(Given, *To.mModel);
+    mSelected.RowsTaken(Given);
+    mCurrent.RowsTaken(Given);
+    SetRedraw(Shown);
+    To.SetRedraw(ToShown);
+}
+
 void FlexGrid::SetTextMatrix(int Row, int Col, const QString& Text) {
     mModel->SetText(Row, Col, Text);
 }

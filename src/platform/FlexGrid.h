@@ -29,7 +29,8 @@ class FlexGrid : public QTableView {
     void AddItems(const std::vector<QStringList>& Texts);
     void InsertItem(int Row);
     void RemoveItem(int Row);
-    void SetRowPosition(int Row, int NewRow);  // the selection goes with the row
+    void SetRowPosition(int Row, int NewRow);                   // the selection goes with the row
+    void GiveRows(const std::vector<int>& Rows, FlexGrid& To);  // ascending; to its end
     void MoveRowsBefore(const std::vector<int>& Rows, int Before);  // ascending; to 0 to Rows()
 
     const QString& TextMatrix(int Row, int Col) const { return Content().Cell(Row, Col).Text; }
@@ -142,8 +143,7 @@ class FlexGrid : public QTableView {
     QPersistentModelIndex mEditing;
     bool mEdited = false;
     QPersistentModelIndex mPressed;
-    int mMouseRow = -1;
-    int mMouseCol = -1;
+    int mMouseRow = -1, mMouseCol = -1;
     QString mEmptyText;
 };
 

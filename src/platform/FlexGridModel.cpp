@@ -70,6 +70,10 @@ void FlexGridModel::MoveItemsUntold(const std::vector<int>& Rows, int Before) {
     mStore.MoveRowsBefore(Rows, Before);
 }
 
+void FlexGridModel::GiveItemsUntold(const std::vector<int>& Rows, FlexGridModel& To) {
+    mStore.GiveRows(Rows, To.mStore);
+}
+
 void FlexGridModel::CellChanged(int Row, int Col) {
     if (mQuiet) return;
     const QModelIndex Changed = index(Row, Col);

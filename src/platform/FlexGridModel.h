@@ -46,6 +46,7 @@ class FlexGridModel : public QAbstractTableModel {
     void AppendItems(const std::vector<QStringList>& Texts);
     void RemoveItems(int At, int Count);
     void MoveItem(int From, int To);
+    void GiveItemsUntold(const std::vector<int>& Rows, FlexGridModel& To);
     void MoveItemsUntold(const std::vector<int>& Rows, int Before);  // only while quiet
     void SetText(int Row, int Col, const QString& Text);
     void SetCellData(int Row, int Col, const CellValue& Data);

@@ -106,14 +106,31 @@ bool FlexGridStore::WouldMove(const std::vector<int>& Moved, int Before) const {
     return !OneBlock || Before < First || Before > First + Span;
 }
 
-void FlexGridStore::MoveRowsBefore(const std::vector<int>& Moved, int Before) {
-    if (!WouldMove(Moved, Before)) return;
-    std::vector<RowPtr> Taken;
-    for (const int Row : Moved) {
-        Taken.push_back(std::move(mRows[static_cast<size_t>(Row)]));
-        LeaveAll(*Taken.back());
+std::vector<FlexGridStore::RowPtr> FlexGridStore::TakeRows(const std::vector<int>& Taken) {
+    std::vector<RowPtr> Out;
+    for (const int Row : Taken) {
+        Out.push_back(std::move(mRows[static_cast<size_t>(Row)]));
+        LeaveAll(*Out.back());
     }
     std::erase(mRows, nullptr);
+    return Out;
+}
+
+void FlexGridStore::RequireGift(const std::vector<int>& Given, const FlexGridStore& To) const {
+    if (&To == this || To.mCols != mCols) Outside();
+    WouldMove(Given, 0);  // a Fault for rows that are not there
+}
+
+void FlexGridStore::GiveRows(const std::vector<int>& Given, FlexGridStore& To) {
+    RequireGift(Given, To);
+    const int At = To.Rows();
+    To.PlaceRows(TakeRows(Given), At);
+    for (int Row = At; Row < To.Rows(); ++Row) To.EnterAll(*To.mRows[static_cast<size_t>(Row)]);
+}
+
+void FlexGridStore::MoveRowsBefore(const std::vector<int>& Moved, int Before) {
+    if (!WouldMove(Moved, Before)) return;
+    std::vector<RowPtr> Taken = TakeRows(Moved);
     const auto Above = std::lower_bound(Moved.begin(), Moved.end(), Before) - Moved.begin();
     const int At = Before - static_cast<int>(Above);
     PlaceRows(std::move(Taken), At);

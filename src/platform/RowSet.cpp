@@ -37,6 +37,17 @@ void RowSet::RowMoved(int From, int To) {
     if (Held) Add(To);
 }
 
+void RowSet::RowsTaken(const std::vector<int>& Taken) {
+    std::vector<int> Left;
+    auto Above = Taken.begin();
+    for (const int Row : mRows) {
+        Above = std::lower_bound(Above, Taken.end(), Row);
+        const bool Goes = Above != Taken.end() && *Above == Row;
+        if (!Goes) Left.push_back(Row - static_cast<int>(Above - Taken.begin()));
+    }
+    mRows = std::move(Left);
+}
+
 void RowSet::RowsMoved(const std::vector<int>& Moved, int Before) {
     const auto MovedAbove = [&Moved](int Row) {
         return static_cast<int>(std::lower_bound(Moved.begin(), Moved.end(), Row) - Moved.begin());
