@@ -66,7 +66,12 @@ void frmSlideShowDBM::ReadUnderLoading(Read What) {
     mRead = What;
     mLoadingForm = NewForm<frmLoading>();
     const auto Shown = mLoadingForm;
-    Shown->ShowProgressMeter(*this);
+    try {
+        Shown->ShowProgressMeter(*this);
+    } catch (...) {
+        mLoadingForm = nullptr;
+        throw;
+    }
     mLoadingForm = nullptr;
     if (!IsLoaded()) return;
     RenumberSelected();

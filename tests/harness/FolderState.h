@@ -10,7 +10,7 @@
 
 namespace neb::harness {
 
-// Every file below a folder with its bytes and its date.
+// Every file and folder below a folder with its bytes and its date.
 inline QStringList Everything(const QString& Folder) {
     using namespace Qt::StringLiterals;
     QStringList All;
