@@ -1,10 +1,8 @@
 #include "authoring/SlideGrids.h"
 
-#include "db/clsNEBSlide.h"
+#include "intake/SlideRows.h"
 #include "intake/clsImageBuffer.h"
 #include "platform/FlexGrid.h"
-#include "shell/modNEBSlideShow.h"
-#include "support/Fault.h"
 
 namespace neb {
 namespace {
@@ -35,20 +33,10 @@ std::int32_t SlideIn(const FlexGrid& Grid, int Row) {
     return static_cast<std::int32_t>(std::get<double>(Grid.CellData(Row, Buffer::ColSlideID)));
 }
 
-// The image buffer has the caption with which it met the slide first.
 void LoadSlideRow(FlexGrid& Grid, int Row, std::int32_t AlbumID, const clsNEBSlide& Slide,
                   const std::shared_ptr<frmLoading>& Loading) {
-    const QString Caption = Slide.SlideText;
-    Grid.SetCellData(Row, Buffer::ColSlideID, static_cast<double>(Slide.SlideID));
-    Grid.SetTextMatrix(Row, Buffer::ColSlideID, QString::number(Slide.SlideID));
-    try {
-        ImageBuffer->LoadSlide(Grid, Row, AlbumID, Slide, Loading, false);
-    } catch (const Fault&) {
-        const FlexGrid& Known = *ImageBuffer->BufferGrid;
-        Grid.CopyCell(Known, RowOfSlide(Known, SlideIn(Grid, Row)), Buffer::ColPath, Row,
-                      Buffer::ColPath);
-    }
-    for (int Col : {int(Buffer::ColText), int(ColOwnText)}) Grid.SetTextMatrix(Row, Col, Caption);
+    ShowSlideInRow(Grid, Row, AlbumID, Slide, Loading);
+    Grid.SetTextMatrix(Row, ColOwnText, Grid.TextMatrix(Row, Buffer::ColText));
 }
 
 void CopySlideRow(const FlexGrid& From, int FromRow, FlexGrid& To, int ToRow) {

@@ -12,7 +12,7 @@ class FlexGrid;
 class clsNEBSlide;
 class frmLoading;
 
-enum SlideColumn { ColPlace = 0, ColOwnText = 5, SlideColumns };
+enum ShowColumn { ColPlace = 0, ColOwnText = 5, SlideColumns };
 
 // The six columns; those for no eye hidden. A place and a caption can be typed when Editable.
 void SetUpSlideColumns(FlexGrid& Grid, bool WithPlace, bool Editable);
@@ -20,8 +20,7 @@ void SetUpSlideColumns(FlexGrid& Grid, bool WithPlace, bool Editable);
 int RowOfSlide(const FlexGrid& Grid, std::int32_t SlideID);  // -1 for none
 std::int32_t SlideIn(const FlexGrid& Grid, int Row);
 
-// Fills a row from the image buffer, with the caption that the slide has now. A picture that cannot
-// be decoded leaves its cell empty.
+// Fills a row as all lists of slides are filled (SlideRows.h), and with the slide's own caption.
 void LoadSlideRow(FlexGrid& Grid, int Row, std::int32_t AlbumID, const clsNEBSlide& Slide,
                   const std::shared_ptr<frmLoading>& Loading);
 void CopySlideRow(const FlexGrid& From, int FromRow, FlexGrid& To, int ToRow);

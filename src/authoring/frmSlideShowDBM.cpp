@@ -27,6 +27,7 @@ namespace {
 
 const WindowMemory Memory{QStringLiteral("frmSlideShowDBM"), 9075};
 const QKeyCombination NewKeys = Qt::CTRL | Qt::Key_N;
+constexpr int ListsRoom = 280, TracksRoom = 140;  // parts of the height at first
 
 }  // namespace
 
@@ -52,6 +53,9 @@ void frmSlideShowDBM::SetUpChoice() {
     connect(mUi->cboSlideShows, &QComboBox::currentIndexChanged, this,
             &frmSlideShowDBM::cboSlideShows_Click);
     new KeyFilter(mUi->txtName, &FixQuoteKey);
+    mUi->splMain->setSizes({ListsRoom, TracksRoom});
+    mUi->splMain->setStretchFactor(0, 1);  // the pictures get the room of a larger window
+    mUi->splMain->setStretchFactor(1, 0);
 }
 
 // A double click shows the picture; a cell is edited by typing, by F2 or Enter, or by a second
@@ -72,6 +76,9 @@ void frmSlideShowDBM::SetUpGrids() {
         const auto Show = [this, Grid](int Row) { ShowPicture(*Grid, Row); };
         connect(Grid, &FlexGrid::CellDblClicked, this, Show);
         connect(Grid, &FlexGrid::RowActivated, this, Show);
+        Grid->SetRowDrag(ReadOnlyDB ? QString() : QStringLiteral("slides"));
+        connect(Grid, &FlexGrid::RowsDropped, this,
+                [this, Grid](FlexGrid* From, int Before) { RowsDropped(*From, *Grid, Before); });
     }
     connect(mUi->flxSelected, &FlexGrid::AfterEdit, this, &frmSlideShowDBM::AfterEdit);
 }
@@ -202,6 +209,7 @@ void frmSlideShowDBM::Form_Load() {
     FollowAlbum();
     RenumberSelected();
     SetReadOnlyLook();
+    FitToolBar();
     RestoreWindow(*this, Memory);
 }
 
@@ -225,14 +233,17 @@ bool frmSlideShowDBM::Form_Unload() {
     return true;
 }
 
-// The main window has a use for the keys as well: here they are for a new show.
+// The main window has a use for the keys as well: here they are for a new show. They are taken
+// before any control sees them, as a list of choices would look for an entry.
 bool frmSlideShowDBM::event(QEvent* Event) {
     const auto Type = Event->type();
     const bool IsNew = (Type == QEvent::ShortcutOverride || Type == QEvent::KeyPress) &&
                        static_cast<QKeyEvent*>(Event)->keyCombination() == NewKeys;
     if (!IsNew) return Form::event(Event);
     Event->accept();
-    if (Type == QEvent::KeyPress) mUi->abrMenu->Tool(QStringLiteral("mnuSlideShowNew"))->trigger();
+    if (Type == QEvent::ShortcutOverride)
+        QMetaObject::invokeMethod(mUi->abrMenu->Tool(QStringLiteral("mnuSlideShowNew")),
+                                  &QAction::trigger, Qt::QueuedConnection);
     return true;
 }
 
@@ -243,6 +254,12 @@ bool frmSlideShowDBM::eventFilter(QObject* Watched, QEvent* Event) {
 void frmSlideShowDBM::changeEvent(QEvent* Event) {
     Form::changeEvent(Event);
     if (Event->type() == QEvent::PaletteChange) LoadIcons();
+    if (Event->type() == QEvent::FontChange) FitToolBar();
+}
+
+// All its tools are seen, however large the letters are.
+void frmSlideShowDBM::FitToolBar() {
+    mUi->abrMenu->setMinimumWidth(mUi->abrMenu->sizeHint().width());
 }
 
 ComboBoxList frmSlideShowDBM::Albums() const {

@@ -3,17 +3,11 @@
 // Save. A child of the main window; several may be open, on one album, too.
 #pragma once
 
-#include <optional>
-
 #include "authoring/ShowContent.h"
 #include "platform/ComboBoxList.h"
 #include "shell/modBroadcast.h"
 #include "support/windows/Form.h"
 #include "support/windows/Progress.h"
-
-QT_BEGIN_NAMESPACE
-class QDropEvent;
-QT_END_NAMESPACE
 
 namespace neb {
 
@@ -23,7 +17,6 @@ class frmSlideShowDBM;
 class FlexGrid;
 class clsNEBAlbum;
 class clsNEBSlide;
-class clsNEBSlideShow;
 class frmLoading;
 
 class frmSlideShowDBM : public Form, public ProgressParent, public ChangeReceiver {
@@ -61,6 +54,7 @@ class frmSlideShowDBM : public Form, public ProgressParent, public ChangeReceive
     void SetUpToolBar();
     void SetUpKeys();
     void LoadIcons();
+    void FitToolBar();
     void SetReadOnlyLook();
     bool IsBusy() const { return mReading || mWriting; }
     void Do(Action Command);
@@ -99,6 +93,7 @@ class frmSlideShowDBM : public Form, public ProgressParent, public ChangeReceive
     void MoveDown() { MoveBy(1); }
     void MoveBy(int Step);
     void AfterEdit(int Row, int Col);
+    void RowsDropped(FlexGrid& From, FlexGrid& To, int Before);
     void ShowPicture(const FlexGrid& Grid, int Row);
 
     // The list of tracks.

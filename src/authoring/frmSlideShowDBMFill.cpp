@@ -7,6 +7,7 @@
 #include "authoring/modLoadShow.h"
 #include "db/clsDBEngine.h"
 #include "intake/BulkSlides.h"
+#include "intake/SlideRows.h"
 #include "intake/clsImageBuffer.h"
 #include "platform/FlexGrid.h"
 #include "platform/GridRows.h"
@@ -17,16 +18,6 @@
 #include "ui_frmSlideShowDBM.h"
 
 namespace neb {
-namespace {
-
-void MoveBar(frmLoading& Loading, int Value) {
-    Loading.pgbLoadingProgress()->setValue(Value);
-    Loading.Refresh();
-    DoEvents();
-}
-
-}  // namespace
-
 // Another album that is chosen while one is being read is read next.
 void frmSlideShowDBM::cboAlbum_Click() {
     const auto Held = shared_from_this();
@@ -75,7 +66,12 @@ void frmSlideShowDBM::ReadUnderLoading(Read What) {
     mRead = What;
     mLoadingForm = NewForm<frmLoading>();
     const auto Shown = mLoadingForm;
-    Shown->ShowProgressMeter(*this);
+    try {
+        Shown->ShowProgressMeter(*this);
+    } catch (...) {
+        mLoadingForm = nullptr;
+        throw;
+    }
     mLoadingForm = nullptr;
     if (!IsLoaded()) return;
     RenumberSelected();

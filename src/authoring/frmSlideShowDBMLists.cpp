@@ -1,4 +1,7 @@
 // The two lists of the slide show manager: slides go from one to the other and change places.
+#include <algorithm>
+#include <numeric>
+
 #include "authoring/SlideGrids.h"
 #include "authoring/frmSlideShowDBM.h"
 #include "authoring/modLoadShow.h"
@@ -6,6 +9,7 @@
 #include "intake/frmPicturePopup.h"
 #include "platform/FlexGrid.h"
 #include "platform/GridRows.h"
+#include "shell/modNEBSlideShow.h"
 #include "ui_frmSlideShowDBM.h"
 
 namespace neb {
@@ -23,7 +27,10 @@ void frmSlideShowDBM::Move(FlexGrid& From, FlexGrid& To, bool All) {
     if (Rows.empty()) return;
     {
         const QuietGrids Quiet(From, To);
-        MoveRowsTo(From, To, Rows, clsImageBuffer::ColPicture);
+        From.GiveRows(Rows, To);
+        if (&To == mUi->flxNonSelected)  // a place is one in the show
+            for (int Row = To.Rows() - static_cast<int>(Rows.size()); Row < To.Rows(); ++Row)
+                To.SetTextMatrix(Row, ColPlace, {});
         RenumberSelected();
     }
     if (From.Rows() > 0) From.SetRow(std::min(Rows.front(), From.Rows() - 1));
@@ -68,6 +75,31 @@ void frmSlideShowDBM::AfterEdit(int Row, int Col) {
     Grid.SetRedraw(true);
     Grid.SetRow(NewRow);
     Grid.EnsureRowVisible(NewRow);
+}
+
+// Rows that were dragged: into the show at the place where they were let go, out of it at the end.
+// The list of the album has no order of its own.
+void frmSlideShowDBM::RowsDropped(FlexGrid& From, FlexGrid& To, int Before) {
+    FlexGrid &Show = *mUi->flxSelected, &Album = *mUi->flxNonSelected;
+    if (IsBusy() || ReadOnlyDB) return;
+    FinishEdits();
+    if (&To == &Album && &From == &Show) return MoveLeftOne();
+    if (&To != &Show) return;
+    std::vector<int> Rows = RowsToMove(From, false);
+    const int Count = static_cast<int>(Rows.size());
+    if (Count == 0) return;
+    const QuietGrids Quiet(Album, Show);
+    if (&From == &Album) {
+        Album.GiveRows(Rows, Show);
+        std::iota(Rows.begin(), Rows.end(), Show.Rows() - Count);
+    }
+    const int First =
+        Before - static_cast<int>(std::count_if(Rows.begin(), Rows.end(),
+                                                [=](int Row) { return Row < Before; }));
+    Show.MoveRowsBefore(Rows, Before);
+    RenumberSelected();
+    Show.SetRow(First);
+    for (int Row = First; Row < First + Count; ++Row) Show.SelectRow(Row);
 }
 
 void frmSlideShowDBM::ShowPicture(const FlexGrid& Grid, int Row) {

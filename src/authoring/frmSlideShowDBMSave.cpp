@@ -1,5 +1,6 @@
 // What the user does with a whole show in the slide show manager.
 #include <QScopedValueRollback>
+#include <optional>
 
 #include "authoring/frmSlideShowDBM.h"
 #include "authoring/modSaveShow.h"

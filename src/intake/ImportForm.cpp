@@ -115,10 +115,7 @@ void ImportForm::UpdateButtons() {
 }
 
 void ImportForm::MoveRows(FlexGrid& From, FlexGrid& To, bool All) {
-    {
-        const QuietGrids Quiet(From, To);
-        MoveRowsTo(From, To, RowsToMove(From, All));
-    }
+    From.GiveRows(RowsToMove(From, All), To);
     UpdateButtons();
 }
 

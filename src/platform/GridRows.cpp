@@ -21,14 +21,4 @@ std::vector<int> RowsToMove(const FlexGrid& From, bool All) {
     return Rows;
 }
 
-void MoveRowsTo(FlexGrid& From, FlexGrid& To, const std::vector<int>& Rows, int FirstCol) {
-    const int Count = static_cast<int>(Rows.size()), Before = To.Rows();
-    To.SetRows(Before + Count);
-    for (int I = 0; I < Count; ++I)
-        for (int Col = FirstCol; Col < From.Cols(); ++Col)
-            To.CopyCell(From, Rows[static_cast<size_t>(I)], Col, Before + I, Col);
-    if (Count == From.Rows()) return From.SetRows(0);
-    for (auto Row = Rows.rbegin(); Row != Rows.rend(); ++Row) From.RemoveItem(*Row);
-}
-
 }  // namespace neb

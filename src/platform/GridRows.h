@@ -22,8 +22,5 @@ class QuietGrids {
 
 // The rows that a move would take, from the top: all, or those that are selected.
 std::vector<int> RowsToMove(const FlexGrid& From, bool All);
-// Puts these rows at the end of To, in their order and with their columns from FirstCol on, and
-// takes them out of From. Rows are in ascending order.
-void MoveRowsTo(FlexGrid& From, FlexGrid& To, const std::vector<int>& Rows, int FirstCol = 0);
 
 }  // namespace neb

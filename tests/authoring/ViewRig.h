@@ -2,12 +2,9 @@
 // another one beside it.
 #pragma once
 
-#include <QDir>
-#include <QDirIterator>
-#include <QFile>
-
 #include "authoring/frmAlbumView.h"
 #include "authoring/frmSlideShowView.h"
+#include "harness/FolderState.h"
 #include "intake/IntakeHarness.h"
 #include "intake/clsImageBuffer.h"
 #include "intake/frmPicturePopup.h"
@@ -105,21 +102,6 @@ class ViewRig : public Intake {
         });
         Do();
         return Popups;
-    }
-
-    // Every file and folder below a folder with its bytes and its date.
-    static QStringList Everything(const QString& Folder) {
-        QStringList All;
-        QDirIterator Walk(Folder, QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden,
-                          QDirIterator::Subdirectories);
-        while (Walk.hasNext()) {
-            const QFileInfo Each(Walk.next());
-            const QByteArray Bytes = Each.isFile() ? ReadFile(Each.filePath()) : QByteArray();
-            All << Each.filePath() + u' ' + Each.lastModified().toString(Qt::ISODateWithMs) + u' ' +
-                       QString::number(qHash(Bytes));
-        }
-        All.sort();
-        return All;
     }
 
     TempFolder OtherDb;
