@@ -12,8 +12,7 @@
 #include "support/Fault.h"
 #include "support/modHostFiles.h"
 
-using namespace neb;
-
+namespace neb::demo {
 namespace {
 
 clsNEBAlbum& NewestAlbum() {
@@ -38,11 +37,10 @@ struct Track {
     std::int32_t SlideSeqStart, SlideSeqEnd;
     bool Repeat, FitToSong, Fade;
 };
-constexpr Track Tracks[] = {{0, 1, 3, false, true, false}, {1, 4, 6, true, false, true}};
-constexpr std::int32_t ChimeSeq = 5;
+constexpr Track Tracks[] = {{0, 1, 4, false, true, false}, {1, 5, 6, false, false, true}};
 
 QString TuneFile(const QString& MusicDir, size_t Tune) {
-    return MusicDir + u'/' + QString::fromUtf8(demo::AllTunes()[Tune].FileName);
+    return MusicDir + u'/' + QString::fromUtf8(AllTunes()[Tune].FileName);
 }
 
 void LayTrack(const TourShow& Over, const QString& File, std::int32_t Seq, const Track& Laid) {
@@ -55,23 +53,11 @@ void LayTrack(const TourShow& Over, const QString& File, std::int32_t Seq, const
                                       Laid.SlideSeqEnd, Laid.Repeat, Laid.FitToSong, Laid.Fade);
 }
 
-void GiveClip(const QString& ClipPath, std::int32_t SlideSeq, bool Override) {
-    const TourShow Of;
-    const clsNEBSlideShowDetail* Detail = Of.Show.GetDetail(SlideSeq);
-    const clsNEBSlide* Slide = Detail ? Of.Album.GetSlide(Detail->SlideID) : nullptr;
-    if (!Slide) throw Fault(QStringLiteral("There is no slide %1.").arg(SlideSeq));
-    const QString Name = FileStem(Slide->SlideID) + QStringLiteral(".wav");
-    CopyFile(ClipPath, SlidesFolder(DBEngine->DBPath(), Of.Album.AlbumID) + Name);
-    DBEngine->SaveSlide(Slide->SlideID, Of.Album.AlbumID, Slide->SlideText, Slide->SlideLoc, Name,
-                        Override, false);
-}
-
 void LayMusic(const QString& MusicDir) {
     const TourShow Over;
     if (Over.Show.Details.size() < static_cast<size_t>(std::end(Tracks)[-1].SlideSeqEnd)) return;
     std::int32_t Seq = 0;
     for (const Track& Laid : Tracks) LayTrack(Over, TuneFile(MusicDir, Laid.Tune), ++Seq, Laid);
-    GiveClip(TuneFile(MusicDir, 2), ChimeSeq, true);
 }
 
 // The show begins without music then, as it does for a user whose files have gone.
@@ -92,13 +78,4 @@ void LayMusicOverFirstShow(const QString& MusicDir) {
     };
 }
 
-QString RecordedClipPath() {
-    const QString Folder = DBEngine->DBPath() + QStringLiteral("Temp/");
-    MakeDirs(Folder);
-    return Folder + QStringLiteral("tmp.wav");
-}
-
-void GiveRecordedClip() {
-    const auto Slides = static_cast<std::int32_t>(TourShow().Show.Details.size());
-    GiveClip(RecordedClipPath(), std::min(std::end(Tracks)[-1].SlideSeqEnd + 1, Slides), false);
-}
+}  // namespace neb::demo
