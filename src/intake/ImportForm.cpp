@@ -7,6 +7,7 @@
 #include "db/clsDBEngine.h"
 #include "intake/frmPicturePopup.h"
 #include "platform/FlexGrid.h"
+#include "platform/GridRows.h"
 #include "platform/Icons.h"
 #include "platform/ToolBar.h"
 #include "shell/modNEBSlideShow.h"
@@ -21,35 +22,6 @@
 
 namespace neb {
 namespace {
-
-// Both grids stand still during the work and catch up at its end.
-class QuietGrids {
-  public:
-    QuietGrids(FlexGrid& One, FlexGrid& Other) : mOne(One), mOther(Other) { Redraw(false); }
-    ~QuietGrids() { Redraw(true); }
-    QuietGrids(const QuietGrids&) = delete;
-    QuietGrids& operator=(const QuietGrids&) = delete;
-
-  private:
-    void Redraw(bool On) {
-        mOne.SetRedraw(On);
-        mOther.SetRedraw(On);
-    }
-    FlexGrid& mOne;
-    FlexGrid& mOther;
-};
-
-std::vector<int> RowsToMove(const FlexGrid& From, bool All) {
-    std::vector<int> Rows;
-    const int Count = All ? From.Rows() : From.SelectedRows();
-    for (int I = 0; I < Count; ++I) Rows.push_back(All ? I : From.SelectedRow(I));
-    return Rows;
-}
-
-void CopyRow(const FlexGrid& From, int FromRow, FlexGrid& To) {
-    const int Row = To.AddItem();
-    for (int Col = 0; Col < ImportForm::ColCount; ++Col) To.CopyCell(From, FromRow, Col, Row, Col);
-}
 
 // Ends an import whose window has been closed.
 struct WindowGone {};
@@ -143,15 +115,7 @@ void ImportForm::UpdateButtons() {
 }
 
 void ImportForm::MoveRows(FlexGrid& From, FlexGrid& To, bool All) {
-    {
-        const QuietGrids Quiet(From, To);
-        const std::vector<int> Rows = RowsToMove(From, All);
-        for (int Row : Rows) CopyRow(From, Row, To);
-        if (All)
-            From.SetRows(0);
-        else
-            for (auto Row = Rows.rbegin(); Row != Rows.rend(); ++Row) From.RemoveItem(*Row);
-    }
+    From.GiveRows(RowsToMove(From, All), To);
     UpdateButtons();
 }
 

@@ -22,6 +22,10 @@ QString SmallName(const QString& FileName) {
     return GetFileBaseName(FileName) + QStringLiteral("Small.bmp");
 }
 
+QString SmallFile(const QString& FileName) {
+    return GetFilePath(FileName) + SmallName(FileName);
+}
+
 QString FullPath(std::int32_t AlbumID, const QString& SlideLoc) {
     return SlidePath(DBEngine->DBPath(), AlbumID, SlideLoc);
 }
@@ -167,18 +171,20 @@ void clsImageBuffer::Show(const QImage& Picture) {
     if (mLoadingForm) mLoadingForm->ShowPicture(Picture);
 }
 
+QImage clsImageBuffer::Thumbnail(const QString& FileName) const {
+    if (FileName.isEmpty() || !FileExists(FileName)) return {};
+    const QString Small = SmallFile(FileName);
+    if (UseSmallFiles && FileExists(Small)) return LoadPicture(Small);
+    QImage Painted;
+    for (int Pass = 0; Pass < Passes; ++Pass) Painted = PaintThumbnail(FileName);
+    return Painted;
+}
+
 bool clsImageBuffer::ReadThumbnail(const QString& FileName, FlexGrid& Grid, int Row) {
     if (FileName.isEmpty() || !FileExists(FileName)) return true;
-    const QString Thumbnail = GetFilePath(FileName) + SmallName(FileName);
-    const bool Exists = FileExists(Thumbnail);
+    const bool Exists = FileExists(SmallFile(FileName));
     if (Exists) StampThumbnail(FileName, Row);
-    if (UseSmallFiles && Exists) {
-        Grid.SetCellPicture(Row, ColPicture, LoadPicture(Thumbnail));
-    } else {
-        QImage Painted;
-        for (int Pass = 0; Pass < Passes; ++Pass) Painted = PaintThumbnail(FileName);
-        Grid.SetCellPicture(Row, ColPicture, Painted);
-    }
+    Grid.SetCellPicture(Row, ColPicture, Thumbnail(FileName));
     Show(Grid.CellPicture(Row, ColPicture));
     if (!Exists) SaveThumbnail(Grid, Row);
     return true;

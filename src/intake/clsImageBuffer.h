@@ -44,6 +44,10 @@ class clsImageBuffer : public ProgressParent {
     bool LoadSlide(FlexGrid& TargetGrid, std::int32_t TargetRow, std::int32_t AlbumID,
                    const clsNEBSlide& Slide, const std::shared_ptr<frmLoading>& LoadingForm,
                    bool KeepCaption);
+    // The thumbnail of a picture of any database: from the small file beside it when that is there
+    // and trusted, else built. Keeps and writes nothing; null when there is no such picture, a
+    // Fault when it cannot be decoded.
+    QImage Thumbnail(const QString& FileName) const;
     void DoActivity() override;  // for the progress windows alone
 
   private:

@@ -98,6 +98,28 @@ void FlexGrid::SetRowPosition(int Row, int NewRow) {
     mSelectionKnown = !Redraw();
 }
 
+void FlexGrid::MoveRowsBefore(const std::vector<int>& Moved, int Before) {
+    if (!Content().WouldMove(Moved, Before)) return;
+    const bool Shown = Redraw();
+    SetRedraw(false);
+    mModel->MoveItemsUntold(Moved, Before);
+    mSelected.RowsMoved(Moved, Before);
+    mCurrent.RowsMoved(Moved, Before);
+    SetRedraw(Shown);
+}
+
+void FlexGrid::GiveRows(const std::vector<int>& Given, FlexGrid& To) {
+    Content().RequireGift(Given, To.Content());
+    const bool Shown = Redraw(), ToShown = To.Redraw();
+    SetRedraw(false);
+    To.SetRedraw(false);
+    mModel->GiveItemsUntold(Given, *To.mModel);
+    mSelected.RowsTaken(Given);
+    mCurrent.RowsTaken(Given);
+    SetRedraw(Shown);
+    To.SetRedraw(ToShown);
+}
+
 void FlexGrid::SetTextMatrix(int Row, int Col, const QString& Text) {
     mModel->SetText(Row, Col, Text);
 }
@@ -186,8 +208,9 @@ void FlexGrid::RestoreSelection() {
     const int Col = currentIndex().column(), Before = currentIndex().row();
     {
         const QSignalBlocker Quiet(selectionModel());
+        selectionModel()->clearSelection();  // first: thousands of ranges are slow to compare
         mModel->SetQuiet(false);
-        selectionModel()->select(Ranges(Kept), QItemSelectionModel::ClearAndSelect);
+        selectionModel()->select(Ranges(Kept), QItemSelectionModel::Select);
     }
     mSelectionKnown = false;
     const int Now =

@@ -13,6 +13,7 @@
 namespace neb {
 
 class FlexGridDelegate;
+class FlexGridDrag;
 
 class FlexGrid : public QTableView {
     Q_OBJECT
@@ -28,7 +29,9 @@ class FlexGrid : public QTableView {
     void AddItems(const std::vector<QStringList>& Texts);
     void InsertItem(int Row);
     void RemoveItem(int Row);
-    void SetRowPosition(int Row, int NewRow);  // the selection goes with the row
+    void SetRowPosition(int Row, int NewRow);                   // the selection goes with the row
+    void GiveRows(const std::vector<int>& Rows, FlexGrid& To);  // ascending; to its end
+    void MoveRowsBefore(const std::vector<int>& Rows, int Before);  // ascending; to 0 to Rows()
 
     const QString& TextMatrix(int Row, int Col) const { return Content().Cell(Row, Col).Text; }
     void SetTextMatrix(int Row, int Col, const QString& Text);
@@ -79,6 +82,11 @@ class FlexGrid : public QTableView {
 
     void SetEmptyText(const QString& Text);  // shown while there are no rows
 
+    // Lets rows be dragged out of this grid and dropped onto grids of the same group within the
+    // same window, itself too; the grid moves none. An empty group ends it.
+    void SetRowDrag(const QString& Group);
+    FlexGridDrag* RowDrag() const { return mDrag; }  // null when rows cannot be dragged
+
   Q_SIGNALS:
     void CellDblClicked(int Row, int Col);
     void AfterEdit(int Row, int Col);
@@ -87,6 +95,9 @@ class FlexGrid : public QTableView {
     void DeletePressed();
     void SelChange();
     void EnterCell(int Row, int Col);
+    // The selected rows of From are to stand before row Before of this grid; Rows(): at the end.
+    // The drag is over by then.
+    void RowsDropped(FlexGrid* From, int Before);
 
   protected:
     bool edit(const QModelIndex& Index, EditTrigger Trigger, QEvent* Event) override;
@@ -97,6 +108,7 @@ class FlexGrid : public QTableView {
     void mouseMoveEvent(QMouseEvent* Event) override;
     void mouseReleaseEvent(QMouseEvent* Event) override;
     void mouseDoubleClickEvent(QMouseEvent* Event) override;
+    void startDrag(Qt::DropActions Actions) override;
     void paintEvent(QPaintEvent* Event) override;
     void changeEvent(QEvent* Event) override;
 
@@ -118,9 +130,11 @@ class FlexGrid : public QTableView {
     bool PressCell(const QModelIndex& Index);
     bool KeyHandled(const QKeyEvent& Event);
     QModelIndex NoteMouse(const QMouseEvent& Event);
+    bool OnHotSpot(const QModelIndex& Index, const QMouseEvent& Event) const;
 
     FlexGridModel* mModel;
     FlexGridDelegate* mDelegate;
+    FlexGridDrag* mDrag = nullptr;
     mutable RowSet mSelected;
     mutable bool mSelectionKnown = false;
     RowSet mCurrent;  // while redraw is off
@@ -129,8 +143,7 @@ class FlexGrid : public QTableView {
     QPersistentModelIndex mEditing;
     bool mEdited = false;
     QPersistentModelIndex mPressed;
-    int mMouseRow = -1;
-    int mMouseCol = -1;
+    int mMouseRow = -1, mMouseCol = -1;
     QString mEmptyText;
 };
 

@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPainter>
+#include <QScopedValueRollback>
 #include <QToolTip>
 
 #include "platform/FlexGrid.h"
@@ -15,6 +16,27 @@ namespace {
 
 constexpr int Margin = 4;
 const QString Dots = QStringLiteral("...");
+
+// A key or the wheel only goes through the entries: the choice is made when the list that opens
+// has closed, or at Return.
+class ListField : public QComboBox {
+  public:
+    using QComboBox::QComboBox;
+    bool IsPassing() const { return mPassing; }
+
+  protected:
+    void keyPressEvent(QKeyEvent* Event) override {
+        const QScopedValueRollback<bool> Passing(mPassing, true);
+        QComboBox::keyPressEvent(Event);
+    }
+    void wheelEvent(QWheelEvent* Event) override {
+        const QScopedValueRollback<bool> Passing(mPassing, true);
+        QComboBox::wheelEvent(Event);
+    }
+
+  private:
+    bool mPassing = false;
+};
 
 QStyle& StyleOf(const QStyleOptionViewItem& Option) {
     return *Option.widget->style();
@@ -163,9 +185,11 @@ QWidget* FlexGridDelegate::createEditor(QWidget* Parent, const QStyleOptionViewI
 }
 
 QWidget* FlexGridDelegate::ListEditor(QWidget* Parent, const QStringList& Entries) {
-    auto* Box = new QComboBox(Parent);
+    auto* Box = new ListField(Parent);
     Box->addItems(Entries);
-    connect(Box, &QComboBox::activated, this, [this, Box] { End(Box, true); });
+    connect(Box, &QComboBox::activated, this, [this, Box] {
+        if (!Box->IsPassing()) End(Box, true);
+    });
     return Box;
 }
 

@@ -6,6 +6,7 @@
 
 #include "platform/FlexGrid.h"
 #include "platform/FlexGridDelegate.h"
+#include "platform/FlexGridDrag.h"
 
 namespace neb {
 
@@ -131,30 +132,56 @@ QModelIndex FlexGrid::NoteMouse(const QMouseEvent& Event) {
     return Under;
 }
 
+bool FlexGrid::OnHotSpot(const QModelIndex& Index, const QMouseEvent& Event) const {
+    QStyleOptionViewItem Option;
+    initViewItemOption(&Option);
+    Option.rect = visualRect(Index);
+    return mDelegate->HotSpot(Option, Index.column()).contains(Event.position().toPoint());
+}
+
+void FlexGrid::SetRowDrag(const QString& Group) {
+    const bool On = !Group.isEmpty();
+    if (mDrag) mDrag->SetGroup(Group);
+    if (mDrag && !On) std::exchange(mDrag, nullptr)->deleteLater();
+    if (!mDrag && On) mDrag = new FlexGridDrag(*this, Group);
+    mModel->SetRowsDraggable(On);
+    setDragEnabled(On);
+    setAcceptDrops(On);
+}
+
+void FlexGrid::startDrag(Qt::DropActions Actions) {
+    if (!mDrag) return QTableView::startDrag(Actions);
+    if (mPressed.isValid() && IsSelected(mPressed.row())) mDrag->Begin();
+}
+
 void FlexGrid::mousePressEvent(QMouseEvent* Event) {
+    if (mDrag) FinishEdit();
     mPressed = NoteMouse(*Event);
+    if (mDrag)
+        mDrag->Pressed(Event->button() == Qt::LeftButton && mPressed.isValid() &&
+                       !OnHotSpot(mPressed, *Event));
     QTableView::mousePressEvent(Event);
 }
 
 void FlexGrid::mouseMoveEvent(QMouseEvent* Event) {
     NoteMouse(*Event);
+    // where rows are dragged, a drag selects none
+    if (mDrag && Event->buttons() != Qt::NoButton && !mDrag->MayMove()) return;
     QTableView::mouseMoveEvent(Event);
 }
 
 void FlexGrid::mouseReleaseEvent(QMouseEvent* Event) {
+    if (mDrag && !mDrag->Released()) return;
     QTableView::mouseReleaseEvent(Event);
     const QModelIndex Under = indexAt(Event->position().toPoint());
     if (Event->button() != Qt::LeftButton || !Under.isValid() || Under != mPressed) return;
-    QStyleOptionViewItem Option;
-    initViewItemOption(&Option);
-    Option.rect = visualRect(Under);
-    if (mDelegate->HotSpot(Option, Under.column()).contains(Event->position().toPoint()))
-        PressCell(Under);
+    if (OnHotSpot(Under, *Event)) PressCell(Under);
 }
 
 void FlexGrid::mouseDoubleClickEvent(QMouseEvent* Event) {
     const QModelIndex Under = NoteMouse(*Event);
     mPressed = Under;
+    if (mDrag) mDrag->Pressed(false);
     QTableView::mouseDoubleClickEvent(Event);
     const bool Reported = Event->button() == Qt::LeftButton && Under.isValid() && !IsEditing() &&
                           Column(Under.column()).Kind != FlexKind::Check;
@@ -163,6 +190,7 @@ void FlexGrid::mouseDoubleClickEvent(QMouseEvent* Event) {
 
 void FlexGrid::paintEvent(QPaintEvent* Event) {
     QTableView::paintEvent(Event);
+    if (mDrag) mDrag->PaintLine();
     if (Rows() > 0 || mEmptyText.isEmpty()) return;
     QPainter Painter(viewport());
     Painter.setPen(palette().color(QPalette::PlaceholderText));

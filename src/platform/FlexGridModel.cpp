@@ -66,6 +66,14 @@ void FlexGridModel::MoveItem(int From, int To) {
     if (!mQuiet) endMoveRows();
 }
 
+void FlexGridModel::MoveItemsUntold(const std::vector<int>& Rows, int Before) {
+    mStore.MoveRowsBefore(Rows, Before);
+}
+
+void FlexGridModel::GiveItemsUntold(const std::vector<int>& Rows, FlexGridModel& To) {
+    mStore.GiveRows(Rows, To.mStore);
+}
+
 void FlexGridModel::CellChanged(int Row, int Col) {
     if (mQuiet) return;
     const QModelIndex Changed = index(Row, Col);
@@ -169,6 +177,7 @@ Qt::ItemFlags FlexGridModel::flags(const QModelIndex& Index) const {
     const bool Typed =
         Each.Kind == FlexKind::Text || Each.Kind == FlexKind::List || Each.Kind == FlexKind::Button;
     if (Each.Editable && Typed) Flags |= Qt::ItemIsEditable;
+    if (mRowsDraggable) Flags |= Qt::ItemIsDragEnabled;
     return Flags;
 }
 

@@ -46,10 +46,13 @@ class FlexGridModel : public QAbstractTableModel {
     void AppendItems(const std::vector<QStringList>& Texts);
     void RemoveItems(int At, int Count);
     void MoveItem(int From, int To);
+    void GiveItemsUntold(const std::vector<int>& Rows, FlexGridModel& To);
+    void MoveItemsUntold(const std::vector<int>& Rows, int Before);  // only while quiet
     void SetText(int Row, int Col, const QString& Text);
     void SetCellData(int Row, int Col, const CellValue& Data);
     void SetPicture(int Row, int Col, const QImage& Picture);
     void SetKeyColumn(int Col) { mStore.SetKeyColumn(Col); }
+    void SetRowsDraggable(bool On) { mRowsDraggable = On; }
 
     bool IsQuiet() const { return mQuiet; }
     void SetQuiet(bool Quiet);  // false tells all changes at once
@@ -69,6 +72,7 @@ class FlexGridModel : public QAbstractTableModel {
 
     FlexGridStore mStore;
     std::vector<FlexColumn> mColumns;
+    bool mRowsDraggable = false;
     bool mQuiet = false;
     int mRowsToldOf = 0;
 };

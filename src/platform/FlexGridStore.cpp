@@ -1,6 +1,7 @@
 #include "platform/FlexGridStore.h"
 
 #include <algorithm>
+#include <functional>
 #include <iterator>
 
 #include "support/Fault.h"
@@ -92,6 +93,48 @@ void FlexGridStore::MoveRow(int From, int To) {
     mRows.erase(mRows.begin() + From);
     PlaceRows(std::move(Moved), To);
     EnterAll(Row);
+}
+
+bool FlexGridStore::WouldMove(const std::vector<int>& Moved, int Before) const {
+    RequireRows(Before, 0);
+    if (Moved.empty()) return false;
+    const int First = Moved.front(), Span = Moved.back() - First + 1;
+    RequireRows(First, Span);
+    if (std::adjacent_find(Moved.begin(), Moved.end(), std::greater_equal<>()) != Moved.end())
+        Outside();
+    const bool OneBlock = Span == static_cast<int>(Moved.size());
+    return !OneBlock || Before < First || Before > First + Span;
+}
+
+std::vector<FlexGridStore::RowPtr> FlexGridStore::TakeRows(const std::vector<int>& Taken) {
+    std::vector<RowPtr> Out;
+    for (const int Row : Taken) {
+        Out.push_back(std::move(mRows[static_cast<size_t>(Row)]));
+        LeaveAll(*Out.back());
+    }
+    std::erase(mRows, nullptr);
+    return Out;
+}
+
+void FlexGridStore::RequireGift(const std::vector<int>& Given, const FlexGridStore& To) const {
+    if (&To == this || To.mCols != mCols) Outside();
+    WouldMove(Given, 0);  // a Fault for rows that are not there
+}
+
+void FlexGridStore::GiveRows(const std::vector<int>& Given, FlexGridStore& To) {
+    RequireGift(Given, To);
+    const int At = To.Rows();
+    To.PlaceRows(TakeRows(Given), At);
+    for (int Row = At; Row < To.Rows(); ++Row) To.EnterAll(*To.mRows[static_cast<size_t>(Row)]);
+}
+
+void FlexGridStore::MoveRowsBefore(const std::vector<int>& Moved, int Before) {
+    if (!WouldMove(Moved, Before)) return;
+    std::vector<RowPtr> Taken = TakeRows(Moved);
+    const auto Above = std::lower_bound(Moved.begin(), Moved.end(), Before) - Moved.begin();
+    const int At = Before - static_cast<int>(Above);
+    PlaceRows(std::move(Taken), At);
+    for (size_t I = 0; I < Moved.size(); ++I) EnterAll(*mRows[static_cast<size_t>(At) + I]);
 }
 
 void FlexGridStore::SetText(int Row, int Col, const QString& Text) {

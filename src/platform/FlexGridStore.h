@@ -32,6 +32,13 @@ class FlexGridStore {
     void InsertRows(int At, int Count);  // empty rows before row At; At may be Rows()
     void RemoveRows(int At, int Count);
     void MoveRow(int From, int To);  // To: the row's place afterwards
+    // These rows (ascending, none twice) together before row Before; Before may be Rows().
+    void MoveRowsBefore(const std::vector<int>& Rows, int Before);
+    // These rows (ascending, none twice), cells and all, to the end of a store with as many
+    // columns.
+    void GiveRows(const std::vector<int>& Rows, FlexGridStore& To);
+    void RequireGift(const std::vector<int>& Rows, const FlexGridStore& To) const;  // else a Fault
+    bool WouldMove(const std::vector<int>& Rows, int Before) const;
 
     void RequireRows(int At, int Count) const;  // a Fault unless these rows are there
 
@@ -57,6 +64,7 @@ class FlexGridStore {
     using KeyIndex = std::unordered_map<double, std::vector<const RowCells*>>;
 
     FlexCell& CellAt(int Row, int Col);
+    std::vector<RowPtr> TakeRows(const std::vector<int>& Rows);
     void PlaceRows(std::vector<RowPtr> NewRows, int At);
     void GiveOrder(int At, int Count);
     int PlaceOf(const RowCells& Row) const;

@@ -37,4 +37,29 @@ void RowSet::RowMoved(int From, int To) {
     if (Held) Add(To);
 }
 
+void RowSet::RowsTaken(const std::vector<int>& Taken) {
+    std::vector<int> Left;
+    auto Above = Taken.begin();
+    for (const int Row : mRows) {
+        Above = std::lower_bound(Above, Taken.end(), Row);
+        const bool Goes = Above != Taken.end() && *Above == Row;
+        if (!Goes) Left.push_back(Row - static_cast<int>(Above - Taken.begin()));
+    }
+    mRows = std::move(Left);
+}
+
+void RowSet::RowsMoved(const std::vector<int>& Moved, int Before) {
+    const auto MovedAbove = [&Moved](int Row) {
+        return static_cast<int>(std::lower_bound(Moved.begin(), Moved.end(), Row) - Moved.begin());
+    };
+    const int Count = static_cast<int>(Moved.size()), At = Before - MovedAbove(Before);
+    std::vector<int> Now;
+    for (const int Row : mRows) {
+        const int Above = MovedAbove(Row);
+        const bool Goes = Above < Count && Moved[static_cast<size_t>(Above)] == Row;
+        Now.push_back(Goes ? At + Above : Row - Above + (Row >= Before ? Count : 0));
+    }
+    Assign(std::move(Now));
+}
+
 }  // namespace neb

@@ -16,7 +16,9 @@ class RowSet {
 
     void RowsInserted(int At, int Count);
     void RowsRemoved(int At, int Count);
+    void RowsTaken(const std::vector<int>& Rows);  // ascending
     void RowMoved(int From, int To);
+    void RowsMoved(const std::vector<int>& Moved, int Before);  // ascending; together before it
 
   private:
     std::vector<int> mRows;

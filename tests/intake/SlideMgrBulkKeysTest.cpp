@@ -1,9 +1,6 @@
 // The bulk slide manager with the keyboard alone, and on a database that may not be changed.
-#include <QDir>
-#include <QDirIterator>
-#include <QFile>
-
 #include "BulkRig.h"
+#include "harness/FolderState.h"
 #include "intake/frmPicturePopup.h"
 
 namespace neb {
@@ -119,21 +116,6 @@ TEST_F(SlideMgrBulkKeys, TheToolTipsAreTheDictatedOnes) {
     };
     for (const auto& [Name, Tip] : Tips)
         EXPECT_EQ(Tip, In<QWidget>(*Bulk, Name).toolTip().toStdString());
-}
-
-// Every file below a folder with its bytes and its date.
-QStringList Everything(const QString& Folder) {
-    QStringList All;
-    QDirIterator Walk(Folder, QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden,
-                      QDirIterator::Subdirectories);
-    while (Walk.hasNext()) {
-        const QFileInfo Each(Walk.next());
-        const QByteArray Bytes = Each.isFile() ? ReadFile(Each.filePath()) : QByteArray();
-        All << Each.filePath() + u' ' + Each.lastModified().toString(Qt::ISODateWithMs) + u' ' +
-                   QString::number(qHash(Bytes));
-    }
-    All.sort();
-    return All;
 }
 
 TEST_F(SlideMgrBulkKeys, AReadOnlyDatabaseIsShownAndNotChanged) {

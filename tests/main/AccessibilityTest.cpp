@@ -8,6 +8,9 @@
 #include <QLineEdit>
 #include <QTextEdit>
 
+#include "authoring/frmAlbumView.h"
+#include "authoring/frmSlideShowDBM.h"
+#include "authoring/frmSlideShowView.h"
 #include "harness/TempFolder.h"
 #include "intake/frmAlbumDelete.h"
 #include "intake/frmAlbumRename.h"
@@ -74,10 +77,11 @@ class EachWindow : public ::testing::Test {
 };
 
 using Windows =
-    ::testing::Types<frmAbout, frmAlbumDelete, frmAlbumRename, frmDirSelect, frmFindGraphics,
-                     frmGetObjectName, frmHelp, frmImportFilter, frmLoading, frmMsgBoxEx,
-                     frmNewAlbumWzd1, frmPicturePopup, frmPreferences, frmQuickShow, frmSlideDBM,
-                     frmSlideMgrBulk, frmSoundRecorder>;
+    ::testing::Types<frmAbout, frmAlbumDelete, frmAlbumRename, frmAlbumView, frmDirSelect,
+                     frmFindGraphics, frmGetObjectName, frmHelp, frmImportFilter, frmLoading,
+                     frmMsgBoxEx, frmNewAlbumWzd1, frmPicturePopup, frmPreferences, frmQuickShow,
+                     frmSlideDBM, frmSlideMgrBulk, frmSlideShowDBM, frmSlideShowView,
+                     frmSoundRecorder>;
 TYPED_TEST_SUITE(EachWindow, Windows);
 
 TYPED_TEST(EachWindow, HasNamesToolTipsAndReachableControls) {

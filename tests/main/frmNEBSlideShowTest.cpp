@@ -17,6 +17,7 @@
 #include <QTimer>
 
 #include "MeasuredMachine.h"
+#include "authoring/frmSlideShowDBM.h"
 #include "db/clsDBEngine.h"
 #include "harness/ScriptedBoxes.h"
 #include "harness/TempFolder.h"
@@ -257,6 +258,24 @@ TEST_F(MainWindow, TheLogTellsTheStartWhenItIsWanted) {
 TEST_F(MainWindow, WithoutTheSwitchThereIsNoLog) {
     Start();
     EXPECT_FALSE(FileExists(AppPath() + "QLM.log"));
+}
+
+TEST_F(MainWindow, SlideShowManagersOpenFromTheMenuAndForWhoeverWantsOne) {
+    Start();
+    SaveAlbum("Garden");
+    std::int32_t ShowID = 0;
+    DBEngine->GetAlbum(1)->SaveSlideShow(ShowID, "Walk", 1, *DBEngine);
+    EXPECT_EQ(Entry("mnuSlideShowMgr")->shortcut(), QKeySequence("Ctrl+M"));
+    Press("mnuSlideShowMgr");
+    auto* Area = mWindow->findChild<QMdiArea*>();
+    ASSERT_EQ(Area->subWindowList().size(), 1);
+    EXPECT_EQ(Area->subWindowList()[0]->widget()->windowTitle(), "Slide Show Manager");
+    TheOpeners().SlideShowMgr(1, ShowID);
+    ASSERT_EQ(Area->subWindowList().size(), 2);
+    auto* Shown = qobject_cast<frmSlideShowDBM*>(Area->subWindowList()[1]->widget());
+    ASSERT_TRUE(Shown);
+    EXPECT_EQ(Shown->windowTitle(), "Slide Show Manager - Garden");
+    EXPECT_EQ(Shown->findChild<QLineEdit*>("txtName")->text(), "Walk");
 }
 
 TEST_F(MainWindow, EveryMenuEntryIsInItsPlace) {

@@ -261,6 +261,26 @@ TEST_F(FlexGridKinds, AnEntryIsChosenFromAList) {
     EXPECT_EQ(Edited.count(), 1);
 }
 
+TEST_F(FlexGridKinds, KeysGoThroughAListUntilReturnAndALongNumberIsTyped) {
+    QStringList Numbers;
+    for (int I = 1; I <= 30; ++I) Numbers << QString::number(I);
+    Grid.SetColList(Start, Numbers);
+    ASSERT_TRUE(Grid.EditCell(0, Start));
+    for (int I = 0; I < 3; ++I) Press(Qt::Key_Down);
+    EXPECT_TRUE(Grid.IsEditing());
+    Press(Qt::Key_Return);
+    EXPECT_EQ(Grid.TextMatrix(0, Start), "3");
+    ASSERT_TRUE(Grid.EditCell(1, Start));
+    Type("27");
+    Press(Qt::Key_Return);
+    EXPECT_EQ(Grid.TextMatrix(1, Start), "27");
+    ASSERT_TRUE(Grid.EditCell(2, Start));
+    Press(Qt::Key_Down);
+    Press(Qt::Key_Escape);
+    EXPECT_EQ(Grid.TextMatrix(2, Start), "");
+    EXPECT_EQ(Edited.count(), 2);
+}
+
 TEST_F(FlexGridKinds, TheArrowOfAListOpensItAtOnce) {
     const QRect Cell = Grid.visualRect(Grid.model()->index(1, Start));
     QTest::mouseClick(Grid.viewport(), Qt::LeftButton, {},

@@ -3,6 +3,7 @@
 #include <QMdiSubWindow>
 #include <QMenu>
 
+#include "authoring/frmSlideShowDBM.h"
 #include "db/clsDBEngine.h"
 #include "intake/frmNewAlbumWzd1.h"
 #include "intake/frmQuickShow.h"
@@ -28,7 +29,7 @@ namespace {
 
 // The windows that come with later versions; until then their entries rest.
 constexpr const char* NotYet[] = {
-"mnuAlbumExport", "mnuAlbumImport", "mnuAlbumPrint", "mnuSlideShowMgr", "mnuSlideShowExport", "mnuSlideShowImport", "mnuSlideShowPrint",
+"mnuAlbumExport", "mnuAlbumImport", "mnuAlbumPrint", "mnuSlideShowExport", "mnuSlideShowImport", "mnuSlideShowPrint",
 };
 
 }  // namespace
@@ -42,6 +43,7 @@ void frmNEBSlideShow::SetUpMenu() {
     Connect("mnuQuickShow", [this] { OpenQuickShow(); });
     Connect("mnuAlbumNew", [] { NewForm<frmNewAlbumWzd1>()->ShowModal(); });
     Connect("mnuSlideMgr", [] { NewForm<frmSlideDBM>()->LoadSlideMgr(); });
+    Connect("mnuSlideShowMgr", [] { TheOpeners().SlideShowMgr(0, 0); });
     Connect("mnuExit", [this] { close(); });
     Connect("mnuSlideShowPrefs", [] { EditSlideShowPreferences(); });
     Connect("mnuSlideShowViewer", [this] { PlayActiveShow(); });
@@ -69,6 +71,9 @@ void frmNEBSlideShow::Connect(const char* Entry, std::function<void()> Action) {
 
 void frmNEBSlideShow::FillOpeners() {
     TheOpeners().ShowAsChild = [this](Form& Child) { ShowAsChild(Child); };
+    TheOpeners().SlideShowMgr = [](std::int32_t AlbumID, std::int32_t SlideShowID) {
+        NewForm<frmSlideShowDBM>()->LoadSlideShowMgr(AlbumID, SlideShowID);
+    };
 }
 
 void frmNEBSlideShow::ShowAsChild(Form& Child) {

@@ -1,0 +1,46 @@
+// An album for the benchmarks of the windows that list one: slides with captions and thumbnails,
+// and pictures that are never looked at.
+#pragma once
+
+#include <chrono>
+
+#include "db/clsDBEngine.h"
+#include "db/modAlbumFiles.h"
+#include "intake/modImport.h"
+#include "platform/ImgX.h"
+#include "support/modHostFiles.h"
+
+namespace neb {
+
+inline double Seconds() {
+    using namespace std::chrono;
+    return duration<double>(steady_clock::now().time_since_epoch()).count();
+}
+
+inline QString ThumbnailPath(const clsDBEngine& Engine, std::int32_t AlbumID,
+                             std::int32_t SlideID) {
+    return SlidesFolder(Engine.DBPath(), AlbumID) + ThumbnailName(SlideID);
+}
+
+// The captions are in another order than the numbers.
+inline std::int32_t MakeBenchAlbum(clsDBEngine& Engine, int Slides) {
+    std::int32_t AlbumID = 0;
+    Engine.SaveAlbum(AlbumID, QStringLiteral("Album of %1").arg(Slides));
+    MakeAlbumFolders(Engine, AlbumID);
+    QImage Thumbnail(ThumbnailSize, QImage::Format_RGB32);
+    for (int I = 0; I < Slides; ++I) {
+        std::int32_t SlideID = 0;
+        clsNEBSlide* Slide = Engine.GetAlbum(AlbumID)->SaveSlide2(
+            SlideID, QStringLiteral("Holiday picture %1").arg(I * 7919 % Slides), {}, {}, false,
+            false, Engine);
+        Slide->SlideLoc = FileStem(SlideID) + QStringLiteral(".JPG");
+        Thumbnail.fill(0xFF000000U | static_cast<unsigned>(I * 7919));
+        WriteFile(
+            SlidesFolder(Engine.DBPath(), AlbumID) + FileStem(SlideID) + QStringLiteral(".jpg"),
+            "x");
+        WriteFile(ThumbnailPath(Engine, AlbumID, SlideID), ThumbnailBmp(Thumbnail));
+    }
+    return AlbumID;
+}
+
+}  // namespace neb

@@ -1,0 +1,151 @@
+// How the slide show manager follows what other windows do. What has been composed and not yet
+// saved stays, as far as its slides and its album are still there.
+#include <QScopedValueRollback>
+#include <unordered_set>
+
+#include "authoring/SlideGrids.h"
+#include "authoring/frmSlideShowDBM.h"
+#include "authoring/modLoadShow.h"
+#include "db/clsDBEngine.h"
+#include "platform/FlexGrid.h"
+#include "platform/GridRows.h"
+#include "shell/modNEBSlideShow.h"
+#include "ui_frmSlideShowDBM.h"
+
+namespace neb {
+
+void frmSlideShowDBM::ReceiveEvent(const QString& ObjectType, const QString& EventType,
+                                   const EventKeys& EventData) {
+    if (EventData.empty()) return;
+    const auto Held = shared_from_this();
+    mWaiting.push_back({ObjectType, EventType, EventData});
+    FollowWaiting();
+}
+
+// What changes while an album or a show is read or written is followed behind that.
+void frmSlideShowDBM::FollowWaiting() {
+    while (!IsBusy() && IsLoaded() && !mWaiting.empty()) {
+        const ChangeEvent Next = mWaiting.front();
+        mWaiting.erase(mWaiting.begin());
+        Follow(Next);
+    }
+}
+
+void frmSlideShowDBM::Follow(const ChangeEvent& Change) {
+    static const struct {
+        const char *ObjectType, *EventType;
+        size_t LeastKeys;
+        void (frmSlideShowDBM::*React)(const EventKeys& Keys);
+    } Reactions[] = {
+        {"Album", "Delete", 1, &frmSlideShowDBM::AlbumDeleted},
+        {"Album", "Insert", 1, &frmSlideShowDBM::AlbumsChanged},
+        {"Album", "Update", 1, &frmSlideShowDBM::AlbumsChanged},
+        {"Album", "Add Slides", 1, &frmSlideShowDBM::SlidesAdded},
+        {"Album", "Delete Slides", 1, &frmSlideShowDBM::SlidesDeleted},
+        {"Slide Show", "Delete", 2, &frmSlideShowDBM::ShowDeleted},
+        {"Slide Show", "Insert", 2, &frmSlideShowDBM::ShowsChanged},
+        {"Slide Show", "Update", 2, &frmSlideShowDBM::ShowsChanged},
+    };
+    for (const auto& Each : Reactions)
+        if (Change.ObjectType == QLatin1String(Each.ObjectType) &&
+            Change.EventType == QLatin1String(Each.EventType) &&
+            Change.Keys.size() >= Each.LeastKeys)
+            (this->*Each.React)(Change.Keys);
+}
+
+// The slides of a deleted album are gone: there is nothing left to compose.
+void frmSlideShowDBM::AlbumDeleted(const EventKeys& Keys) {
+    const bool Shown = Keys[0] == AlbumID();
+    ComboBoxList List = Albums();
+    const QSignalBlocker Quiet(mUi->cboAlbum);
+    if (Shown) List.SetListIndex(-1);
+    ComboRemoveByData(List, Keys[0]);
+    if (Shown) {
+        FinishEdits();
+        ClearContent();
+    }
+    FollowAlbum();
+    mUi->cboAlbum->update();
+}
+
+void frmSlideShowDBM::AlbumsChanged(const EventKeys& Keys) {
+    const std::int32_t Shown = AlbumID();
+    {
+        const QSignalBlocker Quiet(mUi->cboAlbum);
+        ComboBoxList List = Albums();
+        DBEngine->LoadAlbumsCombo(List, false);
+        if (Shown != 0) ComboSelectByData(List, Shown, -2);
+        OpenAsWideAsNames(*mUi->cboAlbum);
+        mUi->cboAlbum->update();
+    }
+    if (AlbumID() != Shown) ClearContent();
+    FollowAlbum();
+    if (Shown == 0 || AlbumID() != Keys[0]) return;
+    DropSlides();
+    SlidesAdded({Shown});
+}
+
+void frmSlideShowDBM::SlidesAdded(const EventKeys& Keys) {
+    if (!ShownAlbum() || Keys[0] != AlbumID()) return;
+    FinishEdits();
+    const std::int32_t SlideID = Keys.size() > 1 ? Keys[1] : 0;
+    if (SlideID <= 0) return ReadUnderLoading(Read::Changes);
+    const clsNEBSlide* Slide = ShownAlbum()->GetSlide(SlideID);
+    if (!Slide) return;
+    RefreshSlideRows(*Slide);
+    RenumberSelected();
+    FollowAlbum();
+}
+
+void frmSlideShowDBM::SlidesDeleted(const EventKeys& Keys) {
+    if (AlbumID() != 0 && Keys[0] == AlbumID()) DropSlides();
+}
+
+// Takes the slides out that the album has no more.
+void frmSlideShowDBM::DropSlides() {
+    const clsNEBAlbum* Album = ShownAlbum();
+    if (!Album) return;
+    FinishEdits();
+    std::unordered_set<std::int32_t> There;
+    for (const auto& Slide : Album->Slides) There.insert(Slide->SlideID);
+    for (int Row = mBuffer->Rows() - 1; Row >= 0; --Row) {
+        const std::int32_t SlideID = SlideIn(*mBuffer, Row);
+        if (There.contains(SlideID)) continue;
+        for (FlexGrid* Grid : {mUi->flxNonSelected, mUi->flxSelected})
+            if (const int Gone = RowOfSlide(*Grid, SlideID); Gone >= 0) Grid->RemoveItem(Gone);
+        mBuffer->RemoveItem(Row);
+    }
+    RenumberSelected();
+    FollowAlbum();
+}
+
+// What the show held stays in the window, from where it can be saved as a new one.
+void frmSlideShowDBM::ShowDeleted(const EventKeys& Keys) {
+    if (AlbumID() == 0 || Keys[0] != AlbumID()) return;
+    const QScopedValueRollback<bool> Quiet(mSuppressShowClick, true);
+    ComboBoxList List = Shows();
+    if (Keys[1] != 0 && Keys[1] == SlideShowID()) List.SetListIndex(-1);
+    ComboRemoveByData(List, Keys[1]);
+    mUi->cboSlideShows->update();
+}
+
+// A show in which nothing has been changed here is shown as it is now.
+void frmSlideShowDBM::ShowsChanged(const EventKeys& Keys) {
+    if (!ShownAlbum() || Keys[0] != AlbumID()) return;
+    FinishEdits();
+    const int Index = mUi->cboSlideShows->currentIndex();
+    const std::int32_t Shown = SlideShowID();
+    const bool Untouched = Shown != 0 && Shown == Keys[1] && SameContent(Content(), mAsLoaded);
+    {
+        const QScopedValueRollback<bool> Quiet(mSuppressShowClick, true);
+        LoadSlideShowsList();
+        ComboBoxList List = Shows();
+        if (Shown == 0)
+            List.SetListIndex(std::min(Index, List.ListCount() - 1));
+        else
+            ComboSelectByData(List, Shown, -2);
+    }
+    if (Untouched) cboSlideShows_Click();
+}
+
+}  // namespace neb

@@ -1,0 +1,151 @@
+// The list of sound tracks of the slide show manager: what is offered, chosen, typed, dropped.
+#include <QComboBox>
+#include <QDropEvent>
+#include <QMimeData>
+
+#include "ManagerRig.h"
+
+namespace neb {
+namespace {
+
+using namespace harness;
+
+class ManagerTracks : public ManagerRig {
+  protected:
+    // Lets files go over a row; whether they were taken.
+    bool Drop(const QStringList& Paths, int Row) {
+        QMimeData Data;
+        QList<QUrl> Urls;
+        for (const QString& Each : Paths) Urls << QUrl::fromLocalFile(Each);
+        Data.setUrls(Urls);
+        QWidget* Port = Tracks().viewport();
+        const QPoint At = CellCentre(Tracks(), Row, Mgr::ColFile);
+        QDragEnterEvent Enter(At, Qt::CopyAction, &Data, Qt::LeftButton, {});
+        QApplication::sendEvent(Port, &Enter);
+        QDragMoveEvent Move(At, Qt::CopyAction, &Data, Qt::LeftButton, {});
+        QApplication::sendEvent(Port, &Move);
+        if (!Enter.isAccepted() || !Move.isAccepted()) return false;
+        QDropEvent Let(At, Qt::CopyAction, &Data, Qt::LeftButton, {});
+        QApplication::sendEvent(Port, &Let);
+        return Let.isAccepted();
+    }
+    std::string File(int Row) { return Tracks().TextMatrix(Row, Mgr::ColFile).toStdString(); }
+    void PressDots(int Row) {
+        const QRect Cell = Tracks().visualRect(Tracks().model()->index(Row, Mgr::ColFile));
+        const QPoint Dots(Cell.right() - 5, Cell.center().y());
+        QTest::mouseClick(Tracks().viewport(), Qt::LeftButton, {}, Dots);
+    }
+    std::string Offered(int Col) { return Tracks().Column(Col).List.join(u'|').toStdString(); }
+    static void KeyReturn() { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); }
+    void GoTo(int Row, int Col) { ClickCell(Tracks(), Row, Col); }
+};
+
+TEST_F(ManagerTracks, TheHeadingsStandInTwoLines) {
+    OpenMgr(0);
+    QStringList All;
+    for (int Col = 0; Col < Tracks().Cols(); ++Col) All << Tracks().Column(Col).Heading;
+    EXPECT_EQ(
+        "Start Slide\nSeq|End Slide\nSeq|Repeat|Fit To\nSong|Fade On\nLast Slide|"
+        "Sound Track\nFile Location",
+        All.join(u'|').toStdString());
+}
+
+TEST_F(ManagerTracks, ThePlacesOfTheShowAreOfferedOnEnteringTheirColumns) {
+    OpenGarden({1, 2, 3});
+    GoTo(0, Mgr::ColFile);
+    EXPECT_EQ("", Offered(Mgr::ColStart));
+    GoTo(2, Mgr::ColEnd);
+    EXPECT_EQ("1|2|3", Offered(Mgr::ColEnd));
+    Push("cmdMoveRightAll");
+    EXPECT_EQ("1|2|3|4|5", Offered(Mgr::ColEnd)) << "the cell was current already";
+    GoTo(2, Mgr::ColStart);
+    EXPECT_EQ("1|2|3|4|5", Offered(Mgr::ColStart));
+    GoTo(2, Mgr::ColFile);
+    EXPECT_EQ("", Offered(Mgr::ColStart));
+}
+
+TEST_F(ManagerTracks, APlaceIsChosenFromTheList) {
+    OpenGarden({1, 2, 3});
+    GoTo(1, Mgr::ColStart);
+    ASSERT_TRUE(Tracks().EditCell(1, Mgr::ColStart));
+    auto* Box = Tracks().findChild<QComboBox*>();
+    ASSERT_TRUE(Box);
+    EXPECT_EQ(3, Box->count());
+    QTest::keyClick(Box, Qt::Key_Down);
+    QTest::keyClick(Box, Qt::Key_Down);
+    KeyReturn();
+    EXPECT_EQ("2: 2,,,,,", TrackCells());
+    ASSERT_TRUE(Tracks().EditCell(1, Mgr::ColStart));
+    Type("3");
+    KeyReturn();
+    EXPECT_EQ("2: 3,,,,,", TrackCells()) << "a place is typed as well";
+}
+
+TEST_F(ManagerTracks, AChoiceThatIsOpenCountsWhenACommandIsGiven) {
+    OpenGarden({1, 2, 3});
+    ASSERT_TRUE(Tracks().EditCell(0, Mgr::ColEnd));
+    Tracks().findChild<QComboBox*>()->setCurrentIndex(2);
+    Push("cmdMoveRightAll");
+    EXPECT_EQ("1: ,3,,,,", TrackCells());
+}
+
+TEST_F(ManagerTracks, TheFlagsAreTicked) {
+    OpenGarden({1});
+    for (int Col : {Mgr::ColRepeat, Mgr::ColFitToSong, Mgr::ColFade}) GoTo(0, Col);
+    EXPECT_EQ("1: ,,True,True,True,", TrackCells());
+    GoTo(0, Mgr::ColFitToSong);
+    EXPECT_EQ("1: ,,True,False,True,", TrackCells());
+}
+
+TEST_F(ManagerTracks, TheButtonAsksForASoundFile) {
+    OpenGarden({1});
+    Dialogs.Answer = MakeSound(u"song.mp3"_s);
+    PressDots(1);
+    EXPECT_EQ(1, Dialogs.Count);
+    EXPECT_EQ("Wave Audio Files (*.wav)|*.wav|MP3 Audio Files (*.mp3)|*.mp3",
+              Dialogs.Filters.toStdString());
+    EXPECT_EQ((Sounds / u"song.mp3"_s).toStdString(), File(1));
+    Dialogs.Answer.clear();
+    PressDots(1);
+    EXPECT_EQ(2, Dialogs.Count);
+    EXPECT_EQ((Sounds / u"song.mp3"_s).toStdString(), File(1)) << "a cancel leaves the cell";
+}
+
+TEST_F(ManagerTracks, APathIsTyped) {
+    OpenGarden({1});
+    Put(Tracks(), 0, Mgr::ColFile, u"/music/a.wav"_s);
+    EXPECT_EQ("1: ,,,,,/music/a.wav", TrackCells());
+    Begin(Tracks(), 1, Mgr::ColFile, u"/music/b.wav"_s);
+    Name().setFocus();
+    EXPECT_EQ("/music/b.wav", File(1)) << "typing is kept when another control is chosen";
+    Begin(Tracks(), 2, Mgr::ColFile, u"x"_s);
+    QTest::keyClick(&Editor(Tracks()), Qt::Key_Escape);
+    EXPECT_EQ("", File(2));
+}
+
+TEST_F(ManagerTracks, SoundFilesAreDroppedOnARow) {
+    OpenGarden({1});
+    SetTrack(2, {u"1"_s, u"1"_s, {}, {}, {}, u"kept.wav"_s});
+    EXPECT_TRUE(Drop({Sounds / u"A.WAV"_s, Sounds / u"note.txt"_s, Sounds / u"b.mp3"_s}, 1));
+    EXPECT_EQ((Sounds / u"A.WAV"_s).toStdString(), File(1));
+    EXPECT_EQ("kept.wav", File(2));
+    EXPECT_EQ((Sounds / u"b.mp3"_s).toStdString(), File(3)) << "in the next free row";
+    EXPECT_TRUE(Drop({Sounds / u"c.mp3"_s}, 2));
+    EXPECT_EQ((Sounds / u"c.mp3"_s).toStdString(), File(2)) << "a row takes what it is given";
+    EXPECT_FALSE(Drop({Sounds / u"note.txt"_s}, 0));
+    EXPECT_FALSE(Drop({}, 0));
+    EXPECT_EQ("", File(0));
+}
+
+TEST_F(ManagerTracks, DeleteEmptiesTheSelectedRowsAndTheOthersKeepTheirNumbers) {
+    OpenGarden({1});
+    for (int Row = 0; Row < 4; ++Row)
+        SetTrack(Row, {u"1"_s, u"1"_s, u"True"_s, {}, {}, u"%1.wav"_s.arg(Row)});
+    Pick(Tracks(), {1, 2});
+    Tracks().setFocus();
+    QTest::keyClick(&Tracks(), Qt::Key_Delete);
+    EXPECT_EQ("1: 1,1,True,,,0.wav|4: 1,1,True,,,3.wav", TrackCells());
+}
+
+}  // namespace
+}  // namespace neb
