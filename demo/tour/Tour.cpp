@@ -16,8 +16,8 @@ namespace neb::demo {
 namespace {
 
 constexpr int PollMs = 30;
-constexpr int SettlePolls = 6;      // until what has just opened is painted
-constexpr int PatienceMs = 120000;  // a slow machine reads many pictures
+constexpr int SettlePolls = 6;     // until what has just opened is painted
+constexpr int PatienceMs = 60000;  // a slow machine reads many pictures
 
 // The whole screen; where the desktop does not give that out, the window in front.
 QPixmap GrabScreen() {
@@ -30,6 +30,12 @@ QPixmap GrabScreen() {
 QString BoxInTheWay() {
     const auto* Box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
     return Box ? Box->text() : QString();
+}
+
+QString InFront() {
+    const QWidget* Front = QApplication::activeWindow();
+    return Front ? Front->objectName() + u'/' + QLatin1String(Front->metaObject()->className())
+                 : QStringLiteral("nothing");
 }
 
 }  // namespace
@@ -125,8 +131,8 @@ void Tour::TakeShot(const QString& Name) {
 
 void Tour::Fail(const QString& Name, const QString& Reason) {
     TakeShot(QStringLiteral("failed"));
-    std::fprintf(stderr, "neb-demo: at the step \"%s\": %s\n", qPrintable(Name),
-                 qPrintable(Reason));
+    std::fprintf(stderr, "neb-demo: at the step \"%s\": %s (in front: %s)\n", qPrintable(Name),
+                 qPrintable(Reason), qPrintable(InFront()));
     std::_Exit(1);
 }
 

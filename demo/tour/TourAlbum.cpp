@@ -24,8 +24,7 @@ FlexGrid& Results() {
 }
 
 void UseWizard(Tour& Guide, frmNEBSlideShow& Window, const QString& Folder) {
-    Guide.Do("open-the-wizard", {},
-             [&] { QTest::keyClick(&Window, Qt::Key_N, Qt::ControlModifier); });
+    Guide.Do("open-the-wizard", IsInFront(Window), Keys(Window, Qt::Key_N, Qt::ControlModifier));
     Guide.Do("name-the-album", IsOpen<frmNewAlbumWzd1>(), [Folder] {
         Type(In<QLineEdit, frmNewAlbumWzd1>("txtAlbumName"), FirstAlbumName);
         TypeDirectory(Opened<frmNewAlbumWzd1>(), Folder);
@@ -37,7 +36,11 @@ void UseWizard(Tour& Guide, frmNEBSlideShow& Window, const QString& Folder) {
 // The first pictures of the folder, by a click and a click with Shift.
 void SelectSome(Tour& Guide) {
     Guide.Do(
-        "select-some", [] { return !Open<frmLoading>() && Grid("flxNonSelected").Rows() > Taken; },
+        "select-some",
+        [] {
+            return Open<frmImportFilter>() && !Open<frmLoading>() &&
+                   Grid("flxNonSelected").Rows() > Taken;
+        },
         [] {
             ClickCell(Grid("flxNonSelected"), 0, 1);
             ClickCell(Grid("flxNonSelected"), Taken - 1, 1, Qt::ShiftModifier);

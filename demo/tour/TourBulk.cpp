@@ -26,8 +26,8 @@ void Caption(const QString& Old, const QString& New) {
 }  // namespace
 
 void AddBulkManager(Tour& Guide, frmNEBSlideShow& Window) {
-    Guide.Do("open-the-bulk-manager", {},
-             [&] { QTest::keyClick(&Window, Qt::Key_B, Qt::ControlModifier); });
+    Guide.Do("open-the-bulk-manager", IsInFront(Window),
+             Keys(Window, Qt::Key_B, Qt::ControlModifier));
     Guide.Do(
         "see-the-album", [] { return Open<frmSlideMgrBulk>() && SlidesAreShown(); },
         [] { Choose(In<QComboBox, frmSlideMgrBulk>("cboAlbum"), FirstAlbumName); });
@@ -42,8 +42,7 @@ void AddBulkManager(Tour& Guide, frmNEBSlideShow& Window) {
 }
 
 void AddRename(Tour& Guide, frmNEBSlideShow& Window) {
-    Guide.Do("open-the-album-menu", {},
-             [&] { QTest::keyClick(&Window, Qt::Key_A, Qt::AltModifier); });
+    Guide.Do("open-the-album-menu", IsInFront(Window), Keys(Window, Qt::Key_A, Qt::AltModifier));
     Guide.Add({"album-menu", MenuIsOpen(), MenuKey(Qt::Key_R)});
     Guide.Do("type-the-new-name", IsOpen<frmAlbumRename>(), [] {
         Choose(In<QComboBox, frmAlbumRename>("cboAlbum"), FirstAlbumName);

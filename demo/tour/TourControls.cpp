@@ -60,6 +60,14 @@ void PressTool(const QWidget& Window, const char* Name) {
     QTest::mouseClick(Bar.widgetForAction(Bar.Tool(QString::fromLatin1(Name))), Qt::LeftButton);
 }
 
+std::function<bool()> IsInFront(const QWidget& Window) {
+    return [&Window] { return Window.isVisible() && Window.isActiveWindow(); };
+}
+
+std::function<void()> Keys(QWidget& Window, Qt::Key Key, Qt::KeyboardModifiers With) {
+    return [&Window, Key, With] { QTest::keyClick(&Window, Key, With); };
+}
+
 void Type(QLineEdit& Field, const QString& Text) {
     Field.setFocus();
     EnterText(Field, Text);
@@ -115,7 +123,9 @@ void DoubleClickCell(FlexGrid& Grid, int Row, int Col) {
     QTest::mouseDClick(Grid.viewport(), Qt::LeftButton, {}, PlaceOf(Grid, Row, Col));
 }
 
+// A click on a selected row would open the editor by itself, a moment later.
 void TypeInCell(FlexGrid& Grid, int Row, int Col, const QString& Text) {
+    if (Grid.IsSelected(Row)) ClickCell(Grid, Row > 0 ? Row - 1 : Row + 1, Col);
     ClickCell(Grid, Row, Col);
     if (!Grid.IsEditing()) QTest::keyClick(&Grid, Qt::Key_F2);
     auto& Field = OpenEditor<QLineEdit>(Grid);

@@ -63,6 +63,10 @@ std::function<void()> Press(const char* Name) {
 
 void PressTool(const QWidget& Window, const char* Name);
 
+// The keys of a window's menu work while it is in front, a moment after a box over it has gone.
+std::function<bool()> IsInFront(const QWidget& Window);
+std::function<void()> Keys(QWidget& Window, Qt::Key Key, Qt::KeyboardModifiers With = {});
+
 // In place of what stands there.
 void Type(QLineEdit& Field, const QString& Text);
 // Opens the list and goes by the keyboard to the entry that ends so.

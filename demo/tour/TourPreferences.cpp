@@ -18,8 +18,8 @@ XShow& Preview() {
 }
 
 void MakeActive() {
-    Choose(In<QComboBox, frmPreferences>("cboAlbums"), QuickShowName);
-    Choose(In<QComboBox, frmPreferences>("cboSlideShows"), QuickShowName);
+    Choose(In<QComboBox, frmPreferences>("cboAlbums"), AlbumName);
+    Choose(In<QComboBox, frmPreferences>("cboSlideShows"), SlideShowName);
     Type(In<QLineEdit, frmPreferences>("txtSlideTimeout"), QStringLiteral("4"));
     auto& Effects = In<EffectList, frmPreferences>("lstEffects");
     Effects.setFocus();
@@ -29,8 +29,7 @@ void MakeActive() {
 }  // namespace
 
 void AddPreferences(Tour& Guide, frmNEBSlideShow& Window) {
-    Guide.Do("open-preferences", {},
-             [&] { QTest::keyClick(&Window, Qt::Key_R, Qt::ControlModifier); });
+    Guide.Do("open-preferences", IsInFront(Window), Keys(Window, Qt::Key_R, Qt::ControlModifier));
     Guide.Do("make-the-show-active", IsOpen<frmPreferences>(), &MakeActive);
     Guide.Add({"preferences", {}, Press<frmPreferences>("cmdPreview")});
     Guide.Add({"preview-begins", [] { return Preview().IsRunning(); },

@@ -25,8 +25,8 @@ FlexGrid& Grid(const char* Name) {
 }
 
 void OpenIt(Tour& Guide, frmNEBSlideShow& Window, const QString& Folder) {
-    Guide.Add({"main-window", [&] { return Window.isVisible() && !Open<frmSpeedTest>(); },
-               [&] { QTest::keyClick(&Window, Qt::Key_F, Qt::AltModifier); }});
+    Guide.Add({"main-window", [&] { return IsInFront(Window)() && !Open<frmSpeedTest>(); },
+               Keys(Window, Qt::Key_F, Qt::AltModifier)});
     Guide.Add({"file-menu", MenuIsOpen(), MenuKey(Qt::Key_Q)});
     Guide.Add({"quick-show", IsOpen<frmQuickShow>(),
                [] { PressTool(Opened<frmQuickShow>(), "mnuImportDirectory"); }});

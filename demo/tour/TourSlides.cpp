@@ -21,8 +21,8 @@ std::function<void()> Press(const char* Name) {
 }
 
 void OpenAlbum(Tour& Guide, frmNEBSlideShow& Window) {
-    Guide.Do("open-the-slide-manager", {},
-             [&] { QTest::keyClick(&Window, Qt::Key_E, Qt::ControlModifier); });
+    Guide.Do("open-the-slide-manager", IsInFront(Window),
+             Keys(Window, Qt::Key_E, Qt::ControlModifier));
     Guide.Do("choose-the-album", IsOpen<frmSlideDBM>(),
              [] { Choose(In<QComboBox>("cboAlbum"), FirstAlbumName); });
 }

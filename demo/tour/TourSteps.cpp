@@ -15,8 +15,7 @@ namespace neb::demo {
 namespace {
 
 void EndProgram(Tour& Guide, frmNEBSlideShow& Window) {
-    Guide.Do("end-the-program", {},
-             [&] { QTest::keyClick(&Window, Qt::Key_Q, Qt::ControlModifier); });
+    Guide.Do("end-the-program", IsInFront(Window), Keys(Window, Qt::Key_Q, Qt::ControlModifier));
     Guide.Do("the-end", [&] { return !Window.isVisible(); }, {});
 }
 
@@ -39,9 +38,11 @@ void AddRoad(Tour& Guide, frmNEBSlideShow& Window, const Story& Told) {
     AddQuickShow(Guide, Window, Told);
     if (!Told.Music.isEmpty()) {
         AddNewAlbum(Guide, Window, Told);
+        AddShowManagerOpened(Guide);
         AddSlideManager(Guide, Window);
         AddBulkManager(Guide, Window);
         AddRename(Guide, Window);
+        AddShowManager(Guide, Told);
         AddPreferences(Guide, Window);
         AddTheShow(Guide, Window);
     }
@@ -50,9 +51,7 @@ void AddRoad(Tour& Guide, frmNEBSlideShow& Window, const Story& Told) {
 
 void AddReturn(Tour& Guide, frmNEBSlideShow& Window) {
     Guide.SetTeller(&TellShow);
-    Guide.Do(
-        "start-again", [&] { return Window.isVisible(); },
-        [&] { QTest::keyClick(&Window, Qt::Key_F5); });
+    Guide.Do("start-again", IsInFront(Window), Keys(Window, Qt::Key_F5));
     Guide.Do("the-show-goes-on", IsOpen<frmSlideShowProjector>(), {});
     Guide.Add({"show-resumed", [] { return !ShowView().IsRunning(); },
                [] {

@@ -21,6 +21,7 @@ struct Story {
 constexpr const char* QuickShowName = "At First Sight";
 constexpr const char* FirstAlbumName = "Pictures";
 constexpr const char* AlbumName = "A Year in Pictures";
+constexpr const char* SlideShowName = "Four Seasons";
 
 // The whole road; the short one without music.
 void AddRoad(Tour& Guide, frmNEBSlideShow& Window, const Story& Told);
@@ -34,6 +35,9 @@ void AddNewAlbum(Tour& Guide, frmNEBSlideShow& Window, const Story& Told);
 void AddSlideManager(Tour& Guide, frmNEBSlideShow& Window);
 void AddBulkManager(Tour& Guide, frmNEBSlideShow& Window);
 void AddRename(Tour& Guide, frmNEBSlideShow& Window);
+// The wizard has opened the show manager; a show is composed in it when the album is ready.
+void AddShowManagerOpened(Tour& Guide);
+void AddShowManager(Tour& Guide, const Story& Told);
 void AddPreferences(Tour& Guide, frmNEBSlideShow& Window);
 void AddTheShow(Tour& Guide, frmNEBSlideShow& Window);
 

@@ -4,7 +4,6 @@
 
 #include "Tour.h"
 #include "TourControls.h"
-#include "TourSound.h"
 #include "TourSteps.h"
 #include "TourWatch.h"
 #include "platform/XShow.h"
@@ -41,9 +40,9 @@ void GoOn(Tour& Guide) {
 }
 
 void Begin(Tour& Guide, frmNEBSlideShow& Window) {
-    Guide.Do("play-the-active-show", {}, [&] {
+    Guide.Do("play-the-active-show", IsInFront(Window), [&] {
         Print(QStringLiteral("The active show begins"));
-        QTest::keyClick(&Window, Qt::Key_F5);
+        Keys(Window, Qt::Key_F5)();
     });
     Guide.Do("the-show-begins", IsOpen<frmSlideShowProjector>(), [] { WatchProgress(ShowView()); });
 }
@@ -61,19 +60,18 @@ void ThroughTheMusic(Tour& Guide) {
     AddSlide(Guide, WithClip);
 }
 
-// Behind the clip there is nothing more to hear.
+// The last slide has no music: there is nothing to hear while it stands.
 void LeaveInSilence(Tour& Guide) {
-    Guide.Do(
-        "the-clip-ends", [] { return TourSound::NowPlaying().isEmpty(); }, [] { Key(Qt::Key_Up); });
-    AddSlide(Guide, Silent);
     const auto Since = std::make_shared<QElapsedTimer>();
-    Guide.Do("listen", {}, [Since] { Since->start(); });
-    Guide.Do(
-        "leave-the-show", [Since] { return Since->hasExpired(ListenMs); },
-        [] {
-            Print(QStringLiteral("The show was left at slide %1").arg(CurrentSlideSeq));
-            Key(Qt::Key_Escape);
-        });
+    Guide.Add({"listen-to-the-silence", [] { return CurrentSlideSeq == Silent; },
+               [Since] { Since->start(); }, false, true});
+    AddSlide(Guide, Silent);
+    Guide.Add({"leave-the-show", [Since] { return Since->hasExpired(ListenMs); },
+               [] {
+                   Print(QStringLiteral("The show was left at slide %1").arg(CurrentSlideSeq));
+                   Key(Qt::Key_Escape);
+               },
+               false, true});
 }
 
 }  // namespace

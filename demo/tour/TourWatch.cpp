@@ -28,6 +28,7 @@ QString TellFile() {
 void WatchProgress(XShow& View) {
     Shown = 0;
     QObject::connect(&View, &XShow::EffectStepped, &View, [](double Now) { Shown = Now; });
+    QObject::connect(&View, &XShow::EffectEnded, &View, [] { Shown = 0; });
 }
 
 double Progress() {
@@ -48,7 +49,7 @@ std::function<bool()> SlideStands(int SlideSeq) {
 
 std::function<bool()> IsBetween(int SlideSeq) {
     return [SlideSeq] {
-        return CurrentSlideSeq == SlideSeq && ShowView().IsRunning() && Shown > TellingMoment;
+        return CurrentSlideSeq == SlideSeq && (!ShowView().IsRunning() || Shown > TellingMoment);
     };
 }
 

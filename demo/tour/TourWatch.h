@@ -20,7 +20,8 @@ XShow& ShowView();
 std::function<bool()> ShowIsOver();
 // The show stands at this place, its transition is over.
 std::function<bool()> SlideStands(int SlideSeq);
-// A little before the middle of a transition; of the one to this place.
+// A little before the middle of the transition to this place, or behind it: on a slow machine it
+// may have but one step.
 std::function<bool()> IsBetween(int SlideSeq);
 
 // Which slide is on the screen and what sounds; nothing without a show.

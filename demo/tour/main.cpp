@@ -4,7 +4,6 @@
 #include <cstdio>
 
 #include "Tour.h"
-#include "TourMusic.h"
 #include "TourSound.h"
 #include "TourSteps.h"
 #include "shell/main/DesktopServices.h"
@@ -60,7 +59,6 @@ int main(int argc, char** argv) {
         return std::fprintf(stderr, "neb-demo: --%s?\n", Option), 2;
     neb::demo::TourSound Sound(*neb::TheServices().Sound);
     neb::TheServices().Sound = &Sound;
-    if (Parser.isSet("music")) neb::demo::LayMusicOverFirstShow(Parser.value("music"));
     neb::SetDocumentsPath(Parser.value("documents"));
     return Walk(App, Parser);
 }
