@@ -9,8 +9,6 @@ namespace neb {
 
 class clsNEBSlide {
   public:
-    static constexpr qsizetype CaptionBytes = 80;  // of Windows-1252; what a record has room for
-
     std::int32_t SlideID = 0;
     QString SlideText;
     QString SlideLoc;       // a name in the album's Slides folder, or a full path outside

@@ -90,8 +90,7 @@ void frmSlideDBM::StoreFiles(std::int32_t AlbumID, clsNEBSlide& Slide, const Sli
 // wrong with it comes up in its turn.
 void frmSlideDBM::Save() {
     if (ReadOnlyDB || !ConfirmCaption()) return;
-    mUi->txtDscr->setText(
-        FitToRecord(ConvertQuotes(mUi->txtDscr->text()), clsNEBSlide::CaptionBytes));
+    mUi->txtDscr->setText(CleanText(mUi->txtDscr->text()));
     if (!HasPictureToSave()) return;
     SlideEdits Made = Edits();
     if (Made.Jpeg) Made.Jpeg = [Ready = Aside(Made.Jpeg)] { return Ready.get(); };

@@ -6,6 +6,7 @@
 #include <QProgressBar>
 
 #include "db/clsDBEngine.h"
+#include "intake/SlideRows.h"
 #include "intake/frmPicturePopup.h"
 #include "platform/ComboBoxList.h"
 #include "platform/FlexGrid.h"
@@ -25,7 +26,6 @@ namespace neb {
 namespace {
 
 const WindowMemory Memory{QStringLiteral("frmSlideMgrBulk"), 6315};
-constexpr int HeaderWidth = 16;
 
 }  // namespace
 
@@ -44,19 +44,7 @@ frmSlideMgrBulk::~frmSlideMgrBulk() = default;
 // click on it, as names are in a list of files.
 void frmSlideMgrBulk::SetUpGrid() {
     FlexGrid& Grid = *mUi->flxAlbum;
-    const auto Digits = [this](int Count) {  // the captions have most of the room
-        return fontMetrics().horizontalAdvance(QString(Count, u'0')) + HeaderWidth;
-    };
-    Grid.SetCols(ColCount);
-    Grid.SetColumn(ColHeader, {.Kind = FlexKind::Fixed, .Width = HeaderWidth});
-    Grid.SetColumn(clsImageBuffer::ColPicture,
-                   {.Kind = FlexKind::Picture, .Align = Qt::AlignCenter, .Heading = tr("Picture")});
-    Grid.SetColumn(clsImageBuffer::ColText,
-                   {.Editable = !ReadOnlyDB, .Stretch = true, .Heading = tr("Caption")});
-    Grid.SetColumn(clsImageBuffer::ColPath, {.Width = Digits(14), .Heading = tr("File")});
-    Grid.SetColumn(clsImageBuffer::ColSlideID,
-                   {.Width = Digits(6), .Align = Qt::AlignRight, .Heading = tr("Slide")});
-    Grid.SetColumn(ColUnused, {.Hidden = true});
+    SetSlideColumns(Grid, !ReadOnlyDB);
     Grid.SetKeyColumn(clsImageBuffer::ColSlideID);
     Grid.SetKeyPressEdit(&FixQuoteKeyInGrid);
     Grid.SetEditOnDblClick(false);
@@ -147,19 +135,10 @@ void frmSlideMgrBulk::FollowAlbum() {
                  : tr("Choose an album above to see its slides here."));
 }
 
-int frmSlideMgrBulk::RowOf(std::int32_t SlideID) const {
-    return mUi->flxAlbum->FindRow(clsImageBuffer::ColSlideID, SlideID);
-}
-
-std::int32_t frmSlideMgrBulk::SlideIDIn(int Row) const {
-    const CellValue& Key = mUi->flxAlbum->CellData(Row, clsImageBuffer::ColSlideID);
-    return static_cast<std::int32_t>(std::get<double>(Key));
-}
-
 std::vector<std::int32_t> frmSlideMgrBulk::SelectedIDs() const {
     std::vector<std::int32_t> IDs;
     for (int I = 0; I < mUi->flxAlbum->SelectedRows(); ++I)
-        IDs.push_back(SlideIDIn(mUi->flxAlbum->SelectedRow(I)));
+        IDs.push_back(SlideIn(*mUi->flxAlbum, mUi->flxAlbum->SelectedRow(I)));
     return IDs;
 }
 
@@ -171,18 +150,13 @@ void frmSlideMgrBulk::MakeCurrent(int Row) {
     Grid.EnsureRowVisible(Row);
 }
 
-// What a record has no room for is cut at once, where the user sees it, and not when all is
-// written.
-void frmSlideMgrBulk::AfterEdit(int Row) {
-    FlexGrid& Grid = *mUi->flxAlbum;
-    const QString& Typed = Grid.TextMatrix(Row, clsImageBuffer::ColText);
-    const QString Fitting = FitToRecord(Typed, clsNEBSlide::CaptionBytes);
-    if (Fitting != Typed) Grid.SetTextMatrix(Row, clsImageBuffer::ColText, Fitting);
+void frmSlideMgrBulk::AfterEdit(int Row, int Col) {
+    FitCaption(*mUi->flxAlbum, Row, Col);
     NoteEdit(Row);
 }
 
 void frmSlideMgrBulk::NoteEdit(int Row) {
-    const std::int32_t SlideID = SlideIDIn(Row);
+    const std::int32_t SlideID = SlideIn(*mUi->flxAlbum, Row);
     const QString& Caption = mUi->flxAlbum->TextMatrix(Row, clsImageBuffer::ColText);
     clsNEBAlbum* Album = ShownAlbum();
     const clsNEBSlide* Slide = Album ? Album->GetSlide(SlideID) : nullptr;
@@ -242,9 +216,9 @@ SlideTally frmSlideMgrBulk::SaveRows() {
 bool frmSlideMgrBulk::SaveRow(clsNEBAlbum& Album, SlideFinder& Finder, int Row) {
     FlexGrid& Grid = *mUi->flxAlbum;
     const QString& Typed = Grid.TextMatrix(Row, clsImageBuffer::ColText);
-    const QString Caption = ConvertQuotes(Typed);
+    const QString Caption = CleanText(Typed);
     if (Caption != Typed) Grid.SetTextMatrix(Row, clsImageBuffer::ColText, Caption);
-    clsNEBSlide* Slide = Finder.Find(Album, SlideIDIn(Row));
+    clsNEBSlide* Slide = Finder.Find(Album, SlideIn(Grid, Row));
     if (!Slide) return false;
     Slide->SlideText = Caption;
     return true;

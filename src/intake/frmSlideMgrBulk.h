@@ -32,9 +32,6 @@ class frmSlideMgrBulk : public Form, public ProgressParent, public ChangeReceive
     void ReceiveEvent(const QString& ObjectType, const QString& EventType,
                       const EventKeys& EventData) override;
 
-    // Columns 1 to 4 of flxAlbum are those of the image buffer.
-    enum Column { ColHeader = 0, ColUnused = 5, ColCount };
-
   protected:
     void Form_Load() override;
     bool Form_Unload() override;
@@ -56,12 +53,10 @@ class frmSlideMgrBulk : public Form, public ProgressParent, public ChangeReceive
     bool Stopped() const;
     void Reload();
 
-    int RowOf(std::int32_t SlideID) const;
-    std::int32_t SlideIDIn(int Row) const;
     std::vector<std::int32_t> SelectedIDs() const;
     void SelectAgain(const std::vector<std::int32_t>& SlideIDs, std::int32_t CurrentID);
     void MakeCurrent(int Row);
-    void AfterEdit(int Row);
+    void AfterEdit(int Row, int Col);
     void NoteEdit(int Row);
     void ShowPicture(int Row);
 

@@ -3,9 +3,10 @@
 // slide that he saves. AheadQueue.h is for many pieces, one after the other.
 #pragma once
 
-#include <QCoreApplication>
 #include <chrono>
 #include <future>
+
+#include "support/Services.h"
 
 namespace neb {
 
@@ -24,7 +25,7 @@ auto FinishAside(Function Work) -> std::shared_future<std::invoke_result_t<Funct
     const auto Result = std::async(std::launch::async, std::move(Do)).share();
     for (auto Patience = 30ms; Result.wait_for(Patience) != std::future_status::ready;
          Patience = 5ms)
-        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+        DoEventsButInput();
     return Result;
 }
 

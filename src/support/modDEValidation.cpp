@@ -8,6 +8,7 @@ namespace neb {
 namespace {
 
 constexpr std::int16_t Backspace = 8;
+constexpr qsizetype RecordTextBytes = 80;  // of every name and caption
 
 struct QuotePair {
     std::int16_t Opening, Other;
@@ -55,12 +56,16 @@ void FixQuoteKeyInGrid(const EntryState& Editor, std::int16_t& KeyAscii) {
 }
 
 // In steps that shrink with what is too much: somebody may have pasted a whole book.
-QString FitToRecord(QString Text, qsizetype Bytes) {
-    for (qsizetype Over; (Over = ToAnsi(Text).size() - Bytes) > 0;) {
+QString FitToRecord(QString Text) {
+    for (qsizetype Over; (Over = ToAnsi(Text).size() - RecordTextBytes) > 0;) {
         Text.chop(std::max<qsizetype>(1, Over / 8));
         if (!Text.isEmpty() && Text.back().isHighSurrogate()) Text.chop(1);
     }
     return Text;
+}
+
+QString CleanText(const QString& Text) {
+    return FitToRecord(ConvertQuotes(Text));
 }
 
 bool IsNumericText(const QString& Text, QString& Message, bool AllowNegative) {

@@ -273,7 +273,7 @@ TEST(FitToRecord, CutsByTheBytesThatARecordNeedsAndNeverThroughACharacter) {
         {{}, {}},
     };
     for (const auto& [Typed, Fitting] : Texts)
-        EXPECT_EQ(Fitting.toStdString(), FitToRecord(Typed, 80).toStdString());
+        EXPECT_EQ(Fitting.toStdString(), FitToRecord(Typed).toStdString());
 }
 
 TEST_F(SlideMgrBulk, ACaptionIsCutWhereItIsTypedToWhatItsRecordHolds) {
