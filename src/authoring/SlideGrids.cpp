@@ -25,14 +25,6 @@ void SetUpSlideColumns(FlexGrid& Grid, bool WithPlace, bool Editable) {
     Grid.SetKeyColumn(Buffer::ColSlideID);
 }
 
-int RowOfSlide(const FlexGrid& Grid, std::int32_t SlideID) {
-    return Grid.FindRow(Buffer::ColSlideID, SlideID);
-}
-
-std::int32_t SlideIn(const FlexGrid& Grid, int Row) {
-    return static_cast<std::int32_t>(std::get<double>(Grid.CellData(Row, Buffer::ColSlideID)));
-}
-
 void LoadSlideRow(FlexGrid& Grid, int Row, std::int32_t AlbumID, const clsNEBSlide& Slide,
                   const std::shared_ptr<frmLoading>& Loading) {
     ShowSlideInRow(Grid, Row, AlbumID, Slide, Loading);

@@ -17,9 +17,6 @@ enum ShowColumn { ColPlace = 0, ColOwnText = 5, SlideColumns };
 // The six columns; those for no eye hidden. A place and a caption can be typed when Editable.
 void SetUpSlideColumns(FlexGrid& Grid, bool WithPlace, bool Editable);
 
-int RowOfSlide(const FlexGrid& Grid, std::int32_t SlideID);  // -1 for none
-std::int32_t SlideIn(const FlexGrid& Grid, int Row);
-
 // Fills a row as all lists of slides are filled (SlideRows.h), and with the slide's own caption.
 void LoadSlideRow(FlexGrid& Grid, int Row, std::int32_t AlbumID, const clsNEBSlide& Slide,
                   const std::shared_ptr<frmLoading>& Loading);

@@ -209,7 +209,7 @@ void frmSlideShowDBM::TakeSlides(const ShowContent& Stored) {
     ResetSlideGrids();
     std::vector<int> Taken;
     for (const ShowSlide& Slide : Stored.Slides) {
-        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+        DoEventsButInput();
         if (!IsLoaded()) return;
         const int Source = RowOfSlide(From, Slide.SlideID);
         if (Source < 0 || RowOfSlide(To, Slide.SlideID) >= 0) continue;

@@ -7,6 +7,7 @@
 #include "authoring/frmSlideShowDBM.h"
 #include "authoring/modLoadShow.h"
 #include "db/clsDBEngine.h"
+#include "intake/SlideRows.h"
 #include "platform/FlexGrid.h"
 #include "platform/GridRows.h"
 #include "shell/modNEBSlideShow.h"

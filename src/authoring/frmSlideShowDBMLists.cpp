@@ -5,6 +5,7 @@
 #include "authoring/SlideGrids.h"
 #include "authoring/frmSlideShowDBM.h"
 #include "authoring/modLoadShow.h"
+#include "intake/SlideRows.h"
 #include "intake/clsImageBuffer.h"
 #include "intake/frmPicturePopup.h"
 #include "platform/FlexGrid.h"
@@ -65,8 +66,8 @@ void frmSlideShowDBM::MoveBy(int Step) {
 
 // A caption stands as it was typed; a place takes the slide there, or is put back.
 void frmSlideShowDBM::AfterEdit(int Row, int Col) {
-    if (Col != ColPlace) return;
     FlexGrid& Grid = *mUi->flxSelected;
+    if (Col != ColPlace) return FitCaption(Grid, Row, Col);
     const int NewRow = TypedPlace(Grid.TextMatrix(Row, ColPlace), Grid.Rows()).value_or(Row);
     if (NewRow == Row) return Grid.SetTextMatrix(Row, ColPlace, QString::number(Row + 1));
     Grid.SetRedraw(false);

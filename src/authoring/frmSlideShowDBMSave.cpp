@@ -44,11 +44,10 @@ void frmSlideShowDBM::Save() {
 // copied need not be there a second time.
 bool frmSlideShowDBM::Write(ShowContent& Show) {
     const bool IsNew = Show.SlideShowID == 0;
-    const auto Paint = [] { QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); };
     try {
         const PointerScope Working(Pointer::Hourglass);
         const QScopedValueRollback<bool> Writing(mWriting, true);
-        const bool Done = WriteShow(Show, *DBEngine, Paint);
+        const bool Done = WriteShow(Show, *DBEngine, &DoEventsButInput);
         ShowTracks(Show.Tracks);
         return Done;
     } catch (const Fault&) {

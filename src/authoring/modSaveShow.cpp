@@ -93,8 +93,8 @@ Check CheckNames(const ShowContent& Content, const clsNEBAlbum& Album) {
 
 // A caption that the user has emptied is one blank: none at all would stand for the slide's own.
 QString StoredCaption(const ShowSlide& Slide) {
-    const QString Text = ConvertQuotes(Slide.SlideText);
-    if (Text == ConvertQuotes(Slide.OwnText)) return {};
+    const QString Text = CleanText(Slide.SlideText);
+    if (Text == CleanText(Slide.OwnText)) return {};
     return Text.isEmpty() ? QStringLiteral(" ") : Text;
 }
 
@@ -224,7 +224,7 @@ std::optional<BoxRequest> CheckShow(ShowContent& Content, const clsDBEngine& the
         return Plain(QStringLiteral("You must first select an album to save the slide show in."));
     if (Content.Name.isEmpty())
         return Plain(QStringLiteral("You have to enter a name for the slide show."));
-    Content.Name = ConvertQuotes(Content.Name);
+    Content.Name = CleanText(Content.Name);
     if (Content.Slides.empty())
         return Plain(QStringLiteral("You must select atleast 1 slide for the Slide Show."));
     if (Check Refused = CheckTracks(Content)) return Refused;

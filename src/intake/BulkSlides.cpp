@@ -1,24 +1,20 @@
 #include "intake/BulkSlides.h"
 
-#include <algorithm>
-
 #include "db/clsNEBAlbum.h"
 
 namespace neb {
 
+// From the end, so that the first of two slides with one ID is the one that is found.
 void SlideFinder::Learn(const clsNEBAlbum& Album) {
-    mPlaces.reserve(Album.Slides.size());
-    for (size_t I = 0; I < Album.Slides.size(); ++I)
-        mPlaces.emplace_back(Album.Slides[I]->SlideID, I);
-    std::sort(mPlaces.begin(), mPlaces.end());
+    mPlaces.reserve(static_cast<qsizetype>(Album.Slides.size()));
+    for (size_t I = Album.Slides.size(); I-- > 0;) mPlaces.insert(Album.Slides[I]->SlideID, I);
 }
 
 clsNEBSlide* SlideFinder::Find(clsNEBAlbum& Album, std::int32_t SlideID) {
-    if (mPlaces.empty()) Learn(Album);
-    const auto Found =
-        std::lower_bound(mPlaces.begin(), mPlaces.end(), std::pair(SlideID, size_t{0}));
-    if (Found != mPlaces.end() && Found->second < Album.Slides.size()) {
-        clsNEBSlide* Slide = Album.Slides[Found->second].get();
+    if (mPlaces.isEmpty()) Learn(Album);
+    const auto Found = mPlaces.constFind(SlideID);
+    if (Found != mPlaces.cend() && *Found < Album.Slides.size()) {
+        clsNEBSlide* Slide = Album.Slides[*Found].get();
         if (Slide->SlideID == SlideID) return Slide;
     }
     return Album.GetSlide(SlideID);

@@ -2,10 +2,9 @@
 // one after the other in no time, and counts what became of them.
 #pragma once
 
+#include <QHash>
 #include <QString>
 #include <cstdint>
-#include <utility>
-#include <vector>
 
 namespace neb {
 
@@ -22,7 +21,7 @@ class SlideFinder {
   private:
     void Learn(const clsNEBAlbum& Album);
 
-    std::vector<std::pair<std::int32_t, size_t>> mPlaces;  // by ID, the first of equals first
+    QHash<std::int32_t, size_t> mPlaces;  // in the list of slides, by ID
 };
 
 // How many of the slides went well, and how many did not.

@@ -6,10 +6,12 @@
 #include <ctime>
 #include <deque>
 #include <mutex>
+#include <thread>
 
 #include "platform/sound/LeftThread.h"
 #include "support/modFUFL.h"
 #include "support/modHostFilesMask.h"
+#include "support/modHostFilesWalk.h"
 #include "support/modNumbers.h"
 
 namespace neb {
@@ -20,6 +22,26 @@ constexpr size_t MostWaiting = 512;
 
 bool IsMissing(const std::error_code& Error) {
     return Error == std::errc::no_such_file_or_directory || Error == std::errc::not_a_directory;
+}
+
+// A directory that the walk is in, and the medium on which it lay when the walk came to it.
+struct Level {
+    QString Path, Real;
+    std::optional<std::uint64_t> Medium;
+};
+
+// Whether a medium has been taken away from under the walk. It has when a directory lies on
+// another one by now; one that is gone may have been deleted, unless all that is searched or a
+// whole medium went with it.
+bool HasLostMedium(const std::vector<Level>& WayDown) {
+    std::optional<std::uint64_t> Above;
+    for (const Level& Each : WayDown) {
+        const auto Now = MediumOf(Each.Path);
+        if (!Now) return Each.Medium && Each.Medium != Above;
+        if (Now != Each.Medium) return true;
+        Above = Each.Medium;
+    }
+    return false;
 }
 
 // The extensions, as the names bear them, of the selected types.
@@ -94,40 +116,69 @@ class GraphicsSearch::Walk {
   private:
     // False when the walk has ended.
     bool Enter(const QString& Directory, const QString& Real, bool IsSub) {
-        if (Real.isEmpty() || mWayDown.contains(Real)) return true;
-        SearchStep Step{Directory, IsSub, {}, {}, {}};
-        std::vector<DirEntry> SubDirectories;
+        if (Real.isEmpty() || IsOnWayDown(Real)) return true;
         const QString Path = WithSeparator(Directory);
-        const std::vector<DirEntry> Entries = mList(Path, Step.Error);
-        if (IsMissing(Step.Error)) return true;  // gone since it was seen
+        mWayDown.push_back({Path, Real, MediumOf(Path)});
+        const bool GoesOn = Search({Directory, IsSub, {}, {}, {}});
+        mWayDown.pop_back();
+        return GoesOn;
+    }
+
+    bool Search(SearchStep Step) {
+        const std::vector<DirEntry> Entries = mList(mWayDown.back().Path, Step.Error);
+        if (IsMissing(Step.Error)) {
+            if (!HasLostMedium(mWayDown)) return true;  // gone since it was seen
+            Step.Error = std::make_error_code(std::errc::no_such_device);
+        }
+        std::vector<DirEntry> SubDirectories;
+        if (!TakeEntries(Entries, Step, SubDirectories)) return false;
+        const bool Failed = static_cast<bool>(Step.Error);
+        return HandOver(std::move(Step)) && !Failed && EnterAll(SubDirectories);
+    }
+
+    bool IsOnWayDown(const QString& Real) const {
+        return std::any_of(mWayDown.begin(), mWayDown.end(),
+                           [&](const Level& Each) { return Each.Real == Real; });
+    }
+
+    // False when nobody wants them any more.
+    bool TakeEntries(const std::vector<DirEntry>& Entries, SearchStep& Step,
+                     std::vector<DirEntry>& SubDirectories) const {
+        const QString Path = mWayDown.back().Path;
+        QString Passed;
         for (const DirEntry& Entry : Entries) {
             if (mTo->Abandoned) return false;
             if (Entry.IsFolder)
                 SubDirectories.push_back(Entry);
-            else
-                TakeFile(Path, Entry.Name, Step);
+            else if (IsWanted(Entry.Name) && !TakeFile(Path, Entry.Name, Step) && Passed.isEmpty())
+                Passed = Entry.Name;
         }
         if (!Entries.empty()) Step.Entry = Entries.back().Name;
-        const bool Failed = static_cast<bool>(Step.Error);
-        if (!HandOver(std::move(Step)) || Failed) return false;
-        mWayDown.append(Real);
-        const bool GoesOn = EnterAll(Path, Real, SubDirectories);
-        mWayDown.removeLast();
-        return GoesOn;
+        if (Step.Error || Passed.isEmpty() || !HasLostMedium(mWayDown)) return true;
+        Step.Entry = Passed;
+        Step.Error = std::make_error_code(std::errc::no_such_device);
+        return true;
     }
 
-    bool EnterAll(const QString& Path, const QString& Real, const std::vector<DirEntry>& Entries) {
+    bool EnterAll(const std::vector<DirEntry>& Entries) {
+        const QString Path = mWayDown.back().Path;
+        const QString Real = mWayDown.back().Real;
         return std::all_of(Entries.begin(), Entries.end(), [&](const DirEntry& Entry) {
             const QString Sub = Path + Entry.Name;
             return Enter(Sub, Entry.IsLink ? RealDir(Sub) : WithSeparator(Real) + Entry.Name, true);
         });
     }
 
-    void TakeFile(const QString& Path, const QString& Name, SearchStep& Step) const {
-        if (!mExtensions.contains(GetFileExt(Name).toUpper()) || !mMask.Matches(Name)) return;
+    bool IsWanted(const QString& Name) const {
+        return mExtensions.contains(GetFileExt(Name).toUpper()) && mMask.Matches(Name);
+    }
+
+    // False when it cannot be opened, and is passed over.
+    static bool TakeFile(const QString& Path, const QString& Name, SearchStep& Step) {
         const std::optional<FileFacts> Facts = ReadableFileFacts(Path + Name);
         if (Facts)
             Step.Files.push_back({Name, Path, SizeText(Facts->Size), DateText(Facts->Changed)});
+        return Facts.has_value();
     }
 
     // Waits while enough is waiting already. False when nobody wants it any more.
@@ -145,7 +196,7 @@ class GraphicsSearch::Walk {
     NameMask mMask;
     QStringList mExtensions;
     Lister mList;
-    QStringList mWayDown;  // the real directories above the present one
+    std::vector<Level> mWayDown;  // the directories above, and the present one
 };
 
 GraphicsSearch::GraphicsSearch(const QString& Directory, const QString& Filter,
@@ -157,10 +208,13 @@ GraphicsSearch::GraphicsSearch(const QString& Directory, const QString& Filter,
     mThread = std::make_unique<LeftThread>([Work, Directory] { Work->Run(Directory); });
 }
 
+// Its thread may be in the middle of a large directory on a slow medium. Who cancels the search
+// does not wait for that: another thread does.
 GraphicsSearch::~GraphicsSearch() {
     const std::lock_guard Lock(mShared->Mutex);
     mShared->Abandoned = true;
     mShared->Changed.notify_all();
+    std::thread([Left = std::move(mThread)] {}).detach();
 }
 
 bool GraphicsSearch::Wait(int Milliseconds) {

@@ -5,6 +5,7 @@
 #include <QProgressBar>
 
 #include "db/clsDBEngine.h"
+#include "intake/SlideRows.h"
 #include "intake/frmPicturePopup.h"
 #include "platform/FlexGrid.h"
 #include "platform/GridRows.h"
@@ -55,6 +56,8 @@ void ImportForm::SetUpGrid(FlexGrid& Grid, const QString& EmptyText) {
     Grid.SetColumn(ColPath, {.Hidden = true});
     Grid.SetEmptyText(EmptyText);
     Grid.SetKeyPressEdit(&FixQuoteKeyInGrid);
+    connect(&Grid, &FlexGrid::AfterEdit, this,
+            [&Grid](int Row, int Col) { FitCaption(Grid, Row, Col); });
     connect(&Grid, &FlexGrid::CellDblClicked, this, [this, &Grid](int Row, int Col) {
         if (Row >= 0 && Col == ColPicture) ShowPreview(Grid, Row);
     });

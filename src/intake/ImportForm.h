@@ -99,7 +99,7 @@ class ImportForm : public Form, public ProgressParent {
     bool mAbort = false;
     std::shared_ptr<frmLoading> mLoadingForm;
     QString mImportDir;
-    QStringList mNamed;  // files and directories to read in place of mImportDir
+    QStringList mNamed;  // files, and directories with their separator, to read first
     bool mRecurseDir = false;
     bool mInForm_Load = false;
     bool mAborted = false;

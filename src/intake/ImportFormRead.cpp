@@ -111,8 +111,8 @@ QStringList ImportForm::CollectFiles(const QStringList& Named) {
     if (Named.isEmpty()) return ScanDirectory(WithSeparator(mImportDir), mRecurseDir, Poll);
     QStringList Files;
     for (const QString& Path : Named)
-        if (FolderExists(Path))
-            Files += ScanDirectory(WithSeparator(Path), mRecurseDir, Poll);
+        if (Path.endsWith(u'/'))
+            Files += ScanDirectory(Path, mRecurseDir, Poll);
         else if (IsPictureName(Path))
             Files += Path;
     return Files;

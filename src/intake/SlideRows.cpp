@@ -8,6 +8,7 @@
 #include "shell/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/Services.h"
+#include "support/modDEValidation.h"
 #include "support/windows/frmLoading.h"
 
 namespace neb {
@@ -48,10 +49,25 @@ void ShowSlideInRow(FlexGrid& Grid, int Row, std::int32_t AlbumID, const clsNEBS
     } catch (const Fault&) {
         // a picture that cannot be decoded leaves its cell blank; the caption is still of use
         const FlexGrid& Buffer = *ImageBuffer->BufferGrid;
-        const int Known = Buffer.FindRow(clsImageBuffer::ColSlideID, SlideID);
-        Grid.CopyCell(Buffer, Known, clsImageBuffer::ColPath, Row, clsImageBuffer::ColPath);
+        Grid.CopyCell(Buffer, RowOfSlide(Buffer, SlideID), clsImageBuffer::ColPath, Row,
+                      clsImageBuffer::ColPath);
     }
     Grid.SetTextMatrix(Row, clsImageBuffer::ColText, Caption);
+}
+
+int RowOfSlide(const FlexGrid& Grid, std::int32_t SlideID) {
+    return Grid.FindRow(clsImageBuffer::ColSlideID, SlideID);
+}
+
+std::int32_t SlideIn(const FlexGrid& Grid, int Row) {
+    const CellValue& Key = Grid.CellData(Row, clsImageBuffer::ColSlideID);
+    return static_cast<std::int32_t>(std::get<double>(Key));
+}
+
+void FitCaption(FlexGrid& Grid, int Row, int Col) {
+    const QString& Typed = Grid.TextMatrix(Row, Col);
+    const QString Fitting = FitToRecord(Typed);
+    if (Fitting != Typed) Grid.SetTextMatrix(Row, Col, Fitting);
 }
 
 void MoveBar(frmLoading& Loading, int Value) {

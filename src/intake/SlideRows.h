@@ -15,7 +15,7 @@ class frmLoading;
 
 // The columns of such a list: a heading at the side, columns 1 to 4 of the image buffer, and one
 // that nobody uses.
-enum SlideColumn { SlideColHeader = 0, SlideColUnused = 5, SlideColCount };
+enum SlideListColumn { SlideColHeader = 0, SlideColUnused = 5, SlideColCount };
 
 // Sets these columns up; the caption alone can be edited, when EditCaptions.
 void SetSlideColumns(FlexGrid& Grid, bool EditCaptions);
@@ -27,6 +27,12 @@ void ShowSlideInRow(FlexGrid& Grid, int Row, std::int32_t AlbumID, const clsNEBS
                     const std::shared_ptr<frmLoading>& Loading);
 // The first two of these things: the slide's number, as text and datum, and its present caption.
 void SetSlideKeys(FlexGrid& Grid, int Row, std::int32_t SlideID, const QString& Caption);
+
+int RowOfSlide(const FlexGrid& Grid, std::int32_t SlideID);  // -1 for none
+std::int32_t SlideIn(const FlexGrid& Grid, int Row);
+// A caption that was typed is cut where the user sees it to what a record holds, and not when all
+// is written.
+void FitCaption(FlexGrid& Grid, int Row, int Col);
 
 // Sets the bar, brings the window up to date and lets waiting events run.
 void MoveBar(frmLoading& Loading, int Value);

@@ -23,13 +23,18 @@ void ClearSound(const QString& File, clsNEBSlide& Slide) {
 
 }  // namespace
 
+std::function<QByteArray()> JpegToStore(const QString& SlideLoc, const ImgX* Edited) {
+    if (Edited) return [Picture = *Edited] { return FittedJpeg(Picture); };
+    if (HoldsSeparator(SlideLoc)) return [SlideLoc] { return FittedJpeg(SlideLoc); };
+    return {};
+}
+
 void StorePicture(const clsDBEngine& theDB, std::int32_t AlbumID, clsNEBSlide& Slide,
                   const SlideEdits& Edits) {
-    if (!Edits.Edited && !HoldsSeparator(Edits.SlideLoc)) return;
+    if (!Edits.Jpeg) return;
     const QString Folder = SlidesFolder(theDB.DBPath(), AlbumID);
     const QString Stem = FileStem(Slide.SlideID);
-    ReplaceFile(Folder + Stem + QStringLiteral(".jpg"),
-                Edits.Edited ? FittedJpeg(*Edits.Edited) : FittedJpeg(Edits.SlideLoc));
+    ReplaceFile(Folder + Stem + QStringLiteral(".jpg"), Edits.Jpeg());
     DropFile(Folder + ThumbnailName(Slide.SlideID));
     Slide.SlideLoc = (Stem + QStringLiteral(".jpg")).toUpper();
 }

@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QString>
 #include <cstdint>
+#include <functional>
 #include <optional>
 
 namespace neb {
@@ -15,18 +16,20 @@ class clsNEBSlide;
 
 // What the user has made of a slide.
 struct SlideEdits {
-    QString SlideLoc;              // the stored name, or the full path of a chosen file
-    const ImgX* Edited = nullptr;  // the picture when it was turned or flipped; all its pixels
-    QString SoundLoc;              // the sound that the slide had; empty for none
-    bool SoundCleared = false;     // goes before a recording
+    std::function<QByteArray()> Jpeg;     // makes the new picture; none: the stored one stands
+    QString SoundLoc;                     // the sound that the slide had; empty for none
+    bool SoundCleared = false;            // goes before a recording
     std::optional<QByteArray> Recording;  // bytes of a WAV file
     bool Override = false;
     bool Repeat = false;
 };
 
-// Writes the edited picture, or else a chosen file, fitted, as the slide's JPEG, and drops its
-// thumbnail; a stored picture that was not edited stands. Throws Fault when the picture cannot be
-// read or written: slide and old picture are then as they were.
+// How the slide's JPEG is made, fitted: from the edited picture (all its pixels; null when it was
+// not turned or flipped), else from a chosen file, which SlideLoc gives by its full path; a stored
+// picture that was not edited stands: no function. It throws Fault, on any thread.
+std::function<QByteArray()> JpegToStore(const QString& SlideLoc, const ImgX* Edited);
+// Writes a new picture as the slide's JPEG and drops its thumbnail. Throws Fault when the picture
+// cannot be read or written: slide and old picture are then as they were.
 void StorePicture(const clsDBEngine& theDB, std::int32_t AlbumID, clsNEBSlide& Slide,
                   const SlideEdits& Edits);
 // Takes the sound away, or stores the recording, or sets how the sound that is there is played.

@@ -4,10 +4,10 @@
 
 #include "db/clsDBEngine.h"
 #include "intake/modAlbumNames.h"
-#include "intake/modPictureFiles.h"
 #include "platform/Icons.h"
 #include "shell/modNEBSlideShow.h"
 #include "support/Services.h"
+#include "support/windows/PaintRate.h"
 #include "support/windows/ScreenPointer.h"
 #include "ui_frmAlbumDelete.h"
 
@@ -42,7 +42,10 @@ void frmAlbumDelete::DeleteFiles(std::int32_t AlbumID) {
     const QScopedValueRollback<bool> Deleting(mDeleting, true);
     const PointerScope Working(Pointer::Hourglass);
     setEnabled(false);
-    DeleteAlbumFiles(DBEngine->DBPath(), AlbumID, YieldingPoll([] { return true; }));
+    PaintRate Rate;
+    DeleteAlbumFiles(DBEngine->DBPath(), AlbumID, [&Rate] {
+        if (Rate.IsDue()) DoEvents();
+    });
 }
 
 }  // namespace neb

@@ -9,6 +9,7 @@
 #include "platform/FlexGrid.h"
 #include "platform/Icons.h"
 #include "shell/modNEBSlideShow.h"
+#include "shell/modWindowState.h"
 #include "support/Fault.h"
 #include "support/Services.h"
 #include "support/modNumbers.h"
@@ -57,6 +58,14 @@ int StoredPixels(const clsSettings& Settings, const QString& Key, int Present) {
 
 void PutTwips(clsSettings& Settings, const QString& Key, int Pixels) {
     Settings.PutValue(Section, Key, QString::number(ToTwips(Pixels)));
+}
+
+QStringList ReadyDrives() {
+    QStringList Ready;
+    const DriveList* Drives = TheServices().Drives;
+    for (const QString& Drive : Drives ? Drives->Drives() : QStringList())
+        if (Drives->IsReady(Drive)) Ready.append(Drive);
+    return Ready;
 }
 
 void TellFailure(const SearchStep& Step) {
@@ -110,6 +119,7 @@ void frmFindGraphics::Form_Load() {
     mUi->lstTypeFilter->addItems(GraphicTypes());
     mUi->lstTypeFilter->selectAll();
     FillSearchPath();
+    if (TheServices().Drives) TheServices().Drives->Watch(*this, [this] { FollowDrives(); });
     FitColumns();
     RestorePlace();
 }
@@ -124,15 +134,26 @@ void frmFindGraphics::FitColumns() {
     }
 }
 
+// The drives first, then what was browsed to; the choice stays as long as it is there.
 void frmFindGraphics::FillSearchPath() {
+    mDrives = ReadyDrives();
     ComboBoxList Paths(*mUi->cboSearchPath);
+    const QString Chosen = mUi->cboSearchPath->currentText();
+    QStringList Others;
+    for (int I = 0; I < Paths.ListCount(); ++I)
+        if (Paths.ItemData(I) == NotSearched) Others.append(Paths.List(I));
+    if (Others.isEmpty()) Others = {AllDrives, Browse};
     Paths.Clear();
-    const DriveList* Drives = TheServices().Drives;
-    for (const QString& Drive : Drives ? Drives->Drives() : QStringList())
-        if (Drives->IsReady(Drive)) Paths.AddItem(Drive, Searched);
-    Paths.AddItem(AllDrives, NotSearched);
-    Paths.AddItem(Browse, NotSearched);
-    Paths.SetListIndex(Paths.ListCount() - 2);
+    for (const QString& Drive : mDrives) Paths.AddItem(Drive, Searched);
+    for (const QString& Other : Others) Paths.AddItem(Other, NotSearched);
+    const int Place = mUi->cboSearchPath->findText(Chosen);
+    Paths.SetListIndex(Place < 0 ? Paths.ListCount() - 2 : Place);
+}
+
+// A search goes on over the list with which it began.
+void frmFindGraphics::FollowDrives() {
+    mDrivesMoved = mSearching;
+    if (IsLoaded() && !mSearching && ReadyDrives() != mDrives) FillSearchPath();
 }
 
 // A directory that was browsed to stays in the list until the window closes.
@@ -195,6 +216,7 @@ void frmFindGraphics::SearchEnded() {
     setWindowTitle(Caption);
     mSearching = false;
     if (IsLoaded() && !focusWidget()) mUi->flxResults->setFocus();
+    if (mDrivesMoved) FollowDrives();
 }
 
 void frmFindGraphics::EnableForSearch(bool Searching) {
@@ -340,7 +362,7 @@ void frmFindGraphics::SavePlace() const {
     }
     for (int Col = 0; Col < ColCount; ++Col)
         PutTwips(Settings, WidthKey(Col), mUi->flxResults->columnWidth(Col));
-    Settings.Save();
+    SaveMemory(Settings);
 }
 
 }  // namespace neb

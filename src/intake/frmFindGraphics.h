@@ -41,6 +41,7 @@ class frmFindGraphics : public Form {
     void SetUpButtons();
     void FitColumns();
     void FillSearchPath();
+    void FollowDrives();
     void SearchPathChosen();
     void Search();
     void SearchChosen();
@@ -66,7 +67,9 @@ class frmFindGraphics : public Form {
     int mFilesFound = 0;
     int mResultCount = 0;
     bool mSearching = false;
-    double mNextYield = 0;  // ticks of the clock
+    double mNextYield = 0;      // ticks of the clock
+    QStringList mDrives;        // those in the list
+    bool mDrivesMoved = false;  // during the search
     QStringList mFiles;
     std::vector<QStringList> mFound;  // rows not yet in the grid
 };

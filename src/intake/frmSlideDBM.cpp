@@ -16,7 +16,6 @@
 #include "shell/Openers.h"
 #include "shell/modNEBSlideShow.h"
 #include "shell/modWindowState.h"
-#include "support/Fault.h"
 #include "support/Services.h"
 #include "support/modDEValidation.h"
 #include "support/modTwips.h"
@@ -28,16 +27,6 @@ namespace {
 const WindowMemory Memory{QStringLiteral("frmSlideDBM"), 7200, 7815};
 constexpr int LeastWidth = 7695;  // twips; the least height is that of the controls
 const QString Caption = QStringLiteral("Slide Manager");
-
-// A place that cannot be remembered must not keep the window open.
-void RememberPlace(const Form& Window) {
-    if (ReadOnlyDB) return;
-    try {
-        SaveWindow(Window, Memory);
-    } catch (const Fault&) {
-        return;
-    }
-}
 
 }  // namespace
 
@@ -57,6 +46,7 @@ frmSlideDBM::~frmSlideDBM() = default;
 template <class Sender, class Signal>
 void frmSlideDBM::On(Sender* Control, Signal Happens, void (frmSlideDBM::*Do)()) {
     connect(Control, Happens, this, [this, Do] {
+        if (mWorking) return;
         const auto Held = shared_from_this();
         (this->*Do)();
     });
@@ -209,8 +199,8 @@ void frmSlideDBM::Form_Activate() {
 }
 
 bool frmSlideDBM::Form_Unload() {
-    if (mDirty && !AskDiscard()) return false;
-    RememberPlace(*this);
+    if (mWorking || (mDirty && !AskDiscard())) return false;
+    SaveWindow(*this, Memory);
     return true;
 }
 

@@ -7,8 +7,10 @@
 
 #include "platform/ComboBoxList.h"
 #include "platform/ImgX.h"
+#include "platform/WorkAside.h"
 #include "shell/modBroadcast.h"
 #include "support/windows/Form.h"
+#include "support/windows/ScreenPointer.h"
 
 namespace neb {
 
@@ -44,6 +46,18 @@ class frmSlideDBM : public Form, public ChangeReceiver {
     struct Guard : QScopedValueRollback<bool> {
         explicit Guard(bool& Flag) : QScopedValueRollback(Flag, true) {}
     };
+    struct ReadyPicture {
+        ImgX Whole;
+        QImage OnScreen;
+    };
+    static ReadyPicture MakeReady(ImgX Whole, QSize LargestScreen);
+    // Large pictures take their time. Nothing can be begun in the window meanwhile.
+    template <class Function>
+    auto Aside(Function Work) {
+        const PointerScope Working(Pointer::Hourglass);
+        const Guard Busy(mWorking);
+        return FinishAside(std::move(Work));
+    }
 
     void SetUpButtons();
     void SetUpToolBar();
@@ -78,7 +92,7 @@ class frmSlideDBM : public Form, public ChangeReceiver {
     void MarkDirty();
     bool AskDiscard();
     bool LoadGraphic(const QString& Path);
-    void ShowPicture();
+    void ShowPicture(const ReadyPicture& Ready);
     bool HasPicture() const;
 
     // What the user does.
@@ -97,6 +111,7 @@ class frmSlideDBM : public Form, public ChangeReceiver {
     bool ConfirmCaption();
     bool HasPictureToSave();
     SlideEdits Edits() const;
+    void StoreFiles(std::int32_t AlbumID, clsNEBSlide& Slide, const SlideEdits& Made);
     void Delete();
     void Import();
     void ImportFromDirectory();
@@ -118,6 +133,7 @@ class frmSlideDBM : public Form, public ChangeReceiver {
     bool mIgnoreClick = false;
     bool mCancelling = false;
     bool mFollowing = false;           // another window's change: nothing is asked or told
+    bool mWorking = false;             // on a picture, beside the window
     std::int32_t mCurrentSlideID = 0;  // of the slide last shown; 0 for a new one
     std::int32_t mCurrentAlbumID = 0;  // its album
     QString mSoundLoc;

@@ -15,7 +15,6 @@
 #include "support/modDEValidation.h"
 #include "support/modFUFL.h"
 #include "support/modHostFiles.h"
-#include "support/windows/ScreenPointer.h"
 #include "ui_frmSlideDBM.h"
 
 namespace neb {
@@ -61,8 +60,7 @@ bool frmSlideDBM::HasPictureToSave() {
 
 SlideEdits frmSlideDBM::Edits() const {
     SlideEdits Made;
-    Made.SlideLoc = mSlideLoc;
-    Made.Edited = mPictureEdited ? &mPicture : nullptr;
+    Made.Jpeg = JpegToStore(mSlideLoc, mPictureEdited ? &mPicture : nullptr);
     Made.SoundLoc = mSoundLoc;
     Made.SoundCleared = mSoundCleared;
     if (mSoundRecorded) Made.Recording = mRecording;
@@ -71,11 +69,31 @@ SlideEdits frmSlideDBM::Edits() const {
     return Made;
 }
 
-// A fault on the way leaves the changes on the screen, to be saved again.
+// A fault on the way leaves the changes on the screen, to be saved again. A new slide is in the
+// album by then: it is chosen, so that the next save completes it and makes no second one.
+void frmSlideDBM::StoreFiles(std::int32_t AlbumID, clsNEBSlide& Slide, const SlideEdits& Made) try {
+    const PointerScope Working(Pointer::Hourglass);
+    StorePicture(*DBEngine, AlbumID, Slide, Made);
+    StoreSound(*DBEngine, AlbumID, Slide, Made);
+} catch (const Fault&) {
+    mCurrentAlbumID = AlbumID;
+    mCurrentSlideID = Slide.SlideID;
+    LoadAlbumSlides();
+    const Guard Quiet(mIgnoreClick);
+    ComboBoxList List = Slides();
+    ComboSelectByData(List, mCurrentSlideID, 0);
+    mUi->cmdDelete->setEnabled(true);
+    throw;
+}
+
+// The picture is made before anything is changed, so that the rest is done in one go; what went
+// wrong with it comes up in its turn.
 void frmSlideDBM::Save() {
     if (ReadOnlyDB || !ConfirmCaption()) return;
-    mUi->txtDscr->setText(ConvertQuotes(mUi->txtDscr->text()));
+    mUi->txtDscr->setText(CleanText(mUi->txtDscr->text()));
     if (!HasPictureToSave()) return;
+    SlideEdits Made = Edits();
+    if (Made.Jpeg) Made.Jpeg = [Ready = Aside(Made.Jpeg)] { return Ready.get(); };
     const std::int32_t Album = AlbumID();
     clsNEBAlbum* Found = DBEngine->GetAlbum(Album);
     if (!Found) {
@@ -85,11 +103,7 @@ void frmSlideDBM::Save() {
     std::int32_t Slide = SlideID();
     clsNEBSlide* Stored = SlideToSave(*Found, Slide, mUi->txtDscr->text());
     if (!Stored) return;
-    {
-        const PointerScope Working(Pointer::Hourglass);
-        StorePicture(*DBEngine, Album, *Stored, Edits());
-        StoreSound(*DBEngine, Album, *Stored, Edits());
-    }
+    StoreFiles(Album, *Stored, Made);
     BroadcastEvent(QStringLiteral("Album"), QStringLiteral("Add Slides"), this, {Album, Slide});
     SetClean();
     LoadAlbumSlides();
@@ -122,6 +136,7 @@ void frmSlideDBM::Delete() {
 }
 
 void frmSlideDBM::ToolClicked(const QString& Name) {
+    if (mWorking) return;
     const auto Held = shared_from_this();
     if (Name == u"mnuImport") Import();
     if (Name == u"mnuExit") Unload();
@@ -159,7 +174,7 @@ void frmSlideDBM::ImportFromDirectory() {
 // Whether no other window holds the user's attention.
 bool frmSlideDBM::IsFree() const {
     const QWidget* Modal = QApplication::activeModalWidget();
-    return IsLoaded() && (!Modal || Modal == this);
+    return IsLoaded() && !mWorking && (!Modal || Modal == this);
 }
 
 }  // namespace neb

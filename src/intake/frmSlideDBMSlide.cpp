@@ -15,7 +15,6 @@
 #include "support/Services.h"
 #include "support/modFUFL.h"
 #include "support/modHostFiles.h"
-#include "support/windows/ScreenPointer.h"
 #include "ui_frmSlideDBM.h"
 
 namespace neb {
@@ -38,6 +37,8 @@ constexpr char PictureFilters[] =
     "*.wbmp;*.wmf";
 
 constexpr quint32 BadFileName = 52;
+// What is smaller is done at once: a thread of its own would hold up the walk through an album.
+constexpr qint64 QuickBytes = 2'000'000, QuickPixels = 4'000'000;
 
 QString Placeholder() {
     return AppPath() + QStringLiteral("NoSlide.bmp");
@@ -174,13 +175,24 @@ bool frmSlideDBM::AskDiscard() {
         QStringLiteral("Discard Changes Confirmation"));
 }
 
+frmSlideDBM::ReadyPicture frmSlideDBM::MakeReady(ImgX Whole, QSize LargestScreen) {
+    QImage OnScreen = PictureView::ForScreens(Whole.Picture(), LargestScreen);
+    return {std::move(Whole), std::move(OnScreen)};
+}
+
 bool frmSlideDBM::LoadGraphic(const QString& Path) {
     const bool IsPlaceholder = Path == Placeholder();
     mPictureEdited = false;
-    ImgX Loaded;
-    try {
-        const PointerScope Working(Pointer::Hourglass);
+    const auto Read = [Path, Largest = PictureView::LargestScreen()] {
+        ImgX Loaded;
         Loaded.Load(Path);
+        return MakeReady(std::move(Loaded), Largest);
+    };
+    ReadyPicture Loaded;
+    try {
+        const bool Stored = !HoldsSeparator(mSlideLoc) && FileSize(Path) < QuickBytes;
+        const PointerScope Working(Pointer::Hourglass);
+        Loaded = IsPlaceholder || Stored ? Read() : Aside(Read).get();
     } catch (const Fault& Problem) {
         if (!IsPlaceholder) {
             LoadGraphic(Placeholder());
@@ -193,16 +205,20 @@ bool frmSlideDBM::LoadGraphic(const QString& Path) {
             return false;
         }
     }
-    mPicture = Loaded;
     mUi->stkPicture->setCurrentWidget(IsPlaceholder ? static_cast<QWidget*>(mUi->flxMsg)
                                                     : mUi->imgSlide);
-    ShowPicture();
+    ShowPicture(Loaded);
     return true;
 }
 
-void frmSlideDBM::ShowPicture() {
-    mUi->imgSlide->SetPicture(mPicture.Picture());
+void frmSlideDBM::ShowPicture(const ReadyPicture& Ready) {
+    mUi->imgSlide->SetPicture(Ready.OnScreen);
     FitMessage();
+    if (qint64(mPicture.Width()) * mPicture.Height() < QuickPixels) {
+        mPicture = Ready.Whole;
+        return;
+    }
+    Aside([Before = std::exchange(mPicture, Ready.Whole)] { return Before.Width(); });
 }
 
 bool frmSlideDBM::HasPicture() const {
@@ -211,15 +227,19 @@ bool frmSlideDBM::HasPicture() const {
 
 // The placeholder is no picture of the user's: it is not turned, and so never stored.
 void frmSlideDBM::Edit(void (*Operation)(ImgX& Picture)) {
-    if (ReadOnlyDB || !HasPicture()) return;
-    Operation(mPicture);
-    ShowPicture();
+    if (ReadOnlyDB || mWorking || !HasPicture()) return;
+    const auto Held = shared_from_this();
+    auto Turn = [Operation, Largest = PictureView::LargestScreen(), Turned = mPicture]() mutable {
+        Operation(Turned);
+        return MakeReady(std::move(Turned), Largest);
+    };
+    ShowPicture(Aside(std::move(Turn)).get());
     mPictureEdited = true;
     MarkDirty();
 }
 
 void frmSlideDBM::ChoosePicture() {
-    if (ReadOnlyDB) return;
+    if (ReadOnlyDB || mWorking) return;
     const auto Held = shared_from_this();
     const QString Path = TheServices().Dialogs->OpenFile(
         tr("Choose a Picture"), HoldsSeparator(mSlideLoc) ? GetFilePath(mSlideLoc) : QString(),

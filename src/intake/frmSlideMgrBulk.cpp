@@ -3,9 +3,10 @@
 #include "intake/frmSlideMgrBulk.h"
 
 #include <QAbstractItemView>
+#include <QProgressBar>
 
 #include "db/clsDBEngine.h"
-#include "intake/BulkSlides.h"
+#include "intake/SlideRows.h"
 #include "intake/frmPicturePopup.h"
 #include "platform/ComboBoxList.h"
 #include "platform/FlexGrid.h"
@@ -15,15 +16,16 @@
 #include "shell/modWindowState.h"
 #include "support/Services.h"
 #include "support/modDEValidation.h"
+#include "support/windows/PaintRate.h"
 #include "support/windows/ScreenPointer.h"
 #include "support/windows/frmLoading.h"
+#include "support/windows/frmProgress.h"
 #include "ui_frmSlideMgrBulk.h"
 
 namespace neb {
 namespace {
 
 const WindowMemory Memory{QStringLiteral("frmSlideMgrBulk"), 6315};
-constexpr int HeaderWidth = 16;
 
 }  // namespace
 
@@ -42,24 +44,12 @@ frmSlideMgrBulk::~frmSlideMgrBulk() = default;
 // click on it, as names are in a list of files.
 void frmSlideMgrBulk::SetUpGrid() {
     FlexGrid& Grid = *mUi->flxAlbum;
-    const auto Digits = [this](int Count) {  // the captions have most of the room
-        return fontMetrics().horizontalAdvance(QString(Count, u'0')) + HeaderWidth;
-    };
-    Grid.SetCols(ColCount);
-    Grid.SetColumn(ColHeader, {.Kind = FlexKind::Fixed, .Width = HeaderWidth});
-    Grid.SetColumn(clsImageBuffer::ColPicture,
-                   {.Kind = FlexKind::Picture, .Align = Qt::AlignCenter, .Heading = tr("Picture")});
-    Grid.SetColumn(clsImageBuffer::ColText,
-                   {.Editable = !ReadOnlyDB, .Stretch = true, .Heading = tr("Caption")});
-    Grid.SetColumn(clsImageBuffer::ColPath, {.Width = Digits(14), .Heading = tr("File")});
-    Grid.SetColumn(clsImageBuffer::ColSlideID,
-                   {.Width = Digits(6), .Align = Qt::AlignRight, .Heading = tr("Slide")});
-    Grid.SetColumn(ColUnused, {.Hidden = true});
+    SetSlideColumns(Grid, !ReadOnlyDB);
     Grid.SetKeyColumn(clsImageBuffer::ColSlideID);
     Grid.SetKeyPressEdit(&FixQuoteKeyInGrid);
     Grid.SetEditOnDblClick(false);
     Grid.setEditTriggers(Grid.editTriggers() | QAbstractItemView::SelectedClicked);
-    connect(&Grid, &FlexGrid::AfterEdit, this, &frmSlideMgrBulk::NoteEdit);
+    connect(&Grid, &FlexGrid::AfterEdit, this, &frmSlideMgrBulk::AfterEdit);
     connect(&Grid, &FlexGrid::CellDblClicked, this, &frmSlideMgrBulk::ShowPicture);
     connect(&Grid, &FlexGrid::RowActivated, this, &frmSlideMgrBulk::ShowPicture);
     connect(&Grid, &FlexGrid::DeletePressed, mUi->cmdDelete, &QPushButton::click);
@@ -103,6 +93,7 @@ void frmSlideMgrBulk::Form_Load() {
 bool frmSlideMgrBulk::Form_Unload() {
     SaveWindow(*this, Memory);
     if (mLoadingForm) std::exchange(mLoadingForm, nullptr)->ClearParent();
+    if (mProgressForm) std::exchange(mProgressForm, nullptr)->ClearParent();
     return true;
 }
 
@@ -144,19 +135,10 @@ void frmSlideMgrBulk::FollowAlbum() {
                  : tr("Choose an album above to see its slides here."));
 }
 
-int frmSlideMgrBulk::RowOf(std::int32_t SlideID) const {
-    return mUi->flxAlbum->FindRow(clsImageBuffer::ColSlideID, SlideID);
-}
-
-std::int32_t frmSlideMgrBulk::SlideIDIn(int Row) const {
-    const CellValue& Key = mUi->flxAlbum->CellData(Row, clsImageBuffer::ColSlideID);
-    return static_cast<std::int32_t>(std::get<double>(Key));
-}
-
 std::vector<std::int32_t> frmSlideMgrBulk::SelectedIDs() const {
     std::vector<std::int32_t> IDs;
     for (int I = 0; I < mUi->flxAlbum->SelectedRows(); ++I)
-        IDs.push_back(SlideIDIn(mUi->flxAlbum->SelectedRow(I)));
+        IDs.push_back(SlideIn(*mUi->flxAlbum, mUi->flxAlbum->SelectedRow(I)));
     return IDs;
 }
 
@@ -168,8 +150,13 @@ void frmSlideMgrBulk::MakeCurrent(int Row) {
     Grid.EnsureRowVisible(Row);
 }
 
+void frmSlideMgrBulk::AfterEdit(int Row, int Col) {
+    FitCaption(*mUi->flxAlbum, Row, Col);
+    NoteEdit(Row);
+}
+
 void frmSlideMgrBulk::NoteEdit(int Row) {
-    const std::int32_t SlideID = SlideIDIn(Row);
+    const std::int32_t SlideID = SlideIn(*mUi->flxAlbum, Row);
     const QString& Caption = mUi->flxAlbum->TextMatrix(Row, clsImageBuffer::ColText);
     clsNEBAlbum* Album = ShownAlbum();
     const clsNEBSlide* Slide = Album ? Album->GetSlide(SlideID) : nullptr;
@@ -205,28 +192,33 @@ void frmSlideMgrBulk::Save() {
 
 // While a box is open anything may happen, so the album is asked for anew behind it.
 SlideTally frmSlideMgrBulk::SaveRows() {
+    FlexGrid& Grid = *mUi->flxAlbum;
     SlideTally Tally;
     SlideFinder Finder;
     mEdits.clear();
     clsNEBAlbum* Album = ShownAlbum();
-    for (int Row = 0; Album && Row < mUi->flxAlbum->Rows(); ++Row) {
+    Grid.SetRedraw(false);
+    for (int Row = 0; Album && Row < Grid.Rows(); ++Row) {
         const bool Success = SaveRow(*Album, Finder, Row);
         Tally.Count(Success);
         if (Success) continue;
         NoteEdit(Row);
+        Grid.SetRedraw(true);
         MsgBox(QStringLiteral("Slide #%1 Not Found.").arg(Row + 1),
                QStringLiteral("Failed to Save Slide"), BoxIcon::Information);
+        Grid.SetRedraw(false);
         Album = ShownAlbum();
     }
+    Grid.SetRedraw(true);
     return Tally;
 }
 
 bool frmSlideMgrBulk::SaveRow(clsNEBAlbum& Album, SlideFinder& Finder, int Row) {
     FlexGrid& Grid = *mUi->flxAlbum;
     const QString& Typed = Grid.TextMatrix(Row, clsImageBuffer::ColText);
-    const QString Caption = ConvertQuotes(Typed);
+    const QString Caption = CleanText(Typed);
     if (Caption != Typed) Grid.SetTextMatrix(Row, clsImageBuffer::ColText, Caption);
-    clsNEBSlide* Slide = Finder.Find(Album, SlideIDIn(Row));
+    clsNEBSlide* Slide = Finder.Find(Album, SlideIn(Grid, Row));
     if (!Slide) return false;
     Slide->SlideText = Caption;
     return true;
@@ -250,34 +242,54 @@ void frmSlideMgrBulk::Delete() {
     if (!AskYesNo(QStringLiteral("Are you sure you want to delete the selected slides?"),
                   QStringLiteral("Delete Confirmation")))
         return;
-    clsNEBAlbum* Album = ShownAlbum();
-    if (!Album) {
+    if (!ShownAlbum()) {
         MsgBox(QStringLiteral("Album not found."));
         return;
     }
     const int First = mUi->flxAlbum->SelectedRow(0);
-    const SlideTally Tally = DeleteSlides(*Album, SelectedIDs());
+    const SlideTally Tally = DeleteSlides(SelectedIDs());
+    if (!IsLoaded()) return;
     MsgBox(Tally.Text(QStringLiteral("deleted"), QStringLiteral("delete")),
            QStringLiteral("Operation Completed"), BoxIcon::Information);
     Fill();
     MakeCurrent(std::min(First, mUi->flxAlbum->Rows() - 1));
 }
 
-SlideTally frmSlideMgrBulk::DeleteSlides(clsNEBAlbum& Album,
-                                         const std::vector<std::int32_t>& SlideIDs) {
+SlideTally frmSlideMgrBulk::DeleteSlides(std::vector<std::int32_t> SlideIDs) {
+    mDeleting = std::move(SlideIDs);
+    mTally = {};
+    mProgressForm = NewForm<frmProgress>();
+    const auto Shown = mProgressForm;
+    Shown->ShowProgressMeter(*this);
+    mProgressForm = nullptr;
+    return mTally;
+}
+
+// At each yield the window may go, or the album: what is left then stays.
+void frmSlideMgrBulk::StartOperation() {
+    const auto Held = shared_from_this();
     const PointerScope Working(Pointer::Hourglass);
-    const std::int32_t From = Album.AlbumID;
-    SlideTally Tally;
-    for (std::int32_t SlideID : SlideIDs) {
-        const bool Success = Album.DeleteSlide(SlideID, *DBEngine);
-        Tally.Count(Success);
-        if (!Success) continue;
-        mEdits.remove(SlideID);
-        BroadcastEvent(QStringLiteral("Album"), QStringLiteral("Delete Slides"), this,
-                       {From, SlideID});
+    const auto Progress = mProgressForm;
+    QProgressBar& Bar = *Progress->pgbLoadingProgress();
+    Progress->setWindowTitle(tr("Deleting Slides ..."));
+    Bar.setMaximum(static_cast<int>(mDeleting.size()));
+    Bar.setValue(0);
+    PaintRate Rate;
+    for (size_t I = 0; I < mDeleting.size() && IsLoaded() && ShownAlbum(); ++I) {
+        DeleteSlide(*ShownAlbum(), mDeleting[I]);
+        Bar.setValue(static_cast<int>(I) + 1);
+        if (Rate.IsDue()) DoEvents();
     }
-    Album.SortSlides();
-    return Tally;
+    if (clsNEBAlbum* Album = ShownAlbum()) Album->SortSlides();
+}
+
+void frmSlideMgrBulk::DeleteSlide(clsNEBAlbum& Album, std::int32_t SlideID) {
+    const bool Success = Album.DeleteSlide(SlideID, *DBEngine);
+    mTally.Count(Success);
+    if (!Success) return;
+    mEdits.remove(SlideID);
+    BroadcastEvent(QStringLiteral("Album"), QStringLiteral("Delete Slides"), this,
+                   {Album.AlbumID, SlideID});
 }
 
 }  // namespace neb

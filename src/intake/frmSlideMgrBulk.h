@@ -4,6 +4,7 @@
 
 #include <QHash>
 
+#include "intake/BulkSlides.h"
 #include "intake/clsImageBuffer.h"
 #include "shell/modBroadcast.h"
 #include "support/windows/Form.h"
@@ -13,9 +14,8 @@ namespace neb {
 namespace Ui {
 class frmSlideMgrBulk;
 }
-class SlideFinder;
 class clsNEBAlbum;
-struct SlideTally;
+class frmProgress;
 
 class frmSlideMgrBulk : public Form, public ProgressParent, public ChangeReceiver {
     Q_OBJECT
@@ -27,12 +27,10 @@ class frmSlideMgrBulk : public Form, public ProgressParent, public ChangeReceive
     // Fills the list of albums, shows the window and the slides of the album; 0: of the first
     // album, -1: of none.
     void LoadAlbumMgr(std::int32_t AlbumID);
-    void DoActivity() override;  // fills the grid, under frmLoading
+    void DoActivity() override;      // fills the grid, under frmLoading
+    void StartOperation() override;  // deletes the selected slides, under frmProgress
     void ReceiveEvent(const QString& ObjectType, const QString& EventType,
                       const EventKeys& EventData) override;
-
-    // Columns 1 to 4 of flxAlbum are those of the image buffer.
-    enum Column { ColHeader = 0, ColUnused = 5, ColCount };
 
   protected:
     void Form_Load() override;
@@ -55,11 +53,10 @@ class frmSlideMgrBulk : public Form, public ProgressParent, public ChangeReceive
     bool Stopped() const;
     void Reload();
 
-    int RowOf(std::int32_t SlideID) const;
-    std::int32_t SlideIDIn(int Row) const;
     std::vector<std::int32_t> SelectedIDs() const;
     void SelectAgain(const std::vector<std::int32_t>& SlideIDs, std::int32_t CurrentID);
     void MakeCurrent(int Row);
+    void AfterEdit(int Row, int Col);
     void NoteEdit(int Row);
     void ShowPicture(int Row);
 
@@ -69,7 +66,8 @@ class frmSlideMgrBulk : public Form, public ProgressParent, public ChangeReceive
     void Cancel();
     void Close() { Unload(); }
     void Delete();
-    SlideTally DeleteSlides(clsNEBAlbum& Album, const std::vector<std::int32_t>& SlideIDs);
+    SlideTally DeleteSlides(std::vector<std::int32_t> SlideIDs);
+    void DeleteSlide(clsNEBAlbum& Album, std::int32_t SlideID);
 
     void AlbumDeleted(const EventKeys& Keys);
     void AlbumsChanged(const EventKeys& Keys);
@@ -78,6 +76,9 @@ class frmSlideMgrBulk : public Form, public ProgressParent, public ChangeReceive
 
     std::unique_ptr<Ui::frmSlideMgrBulk> mUi;
     std::shared_ptr<frmLoading> mLoadingForm;
+    std::shared_ptr<frmProgress> mProgressForm;
+    std::vector<std::int32_t> mDeleting;  // the slides that the work under mProgressForm is to take
+    SlideTally mTally;                    // what has become of them
     QHash<std::int32_t, QString> mEdits;  // captions that are typed and not yet saved, by SlideID
     bool mFilling = false;
     bool mFillAgain = false;  // the album has changed during the fill

@@ -3,28 +3,17 @@
 #include <QScopedValueRollback>
 
 #include "db/clsDBEngine.h"
-#include "intake/BulkSlides.h"
+#include "intake/SlideRows.h"
 #include "intake/frmSlideMgrBulk.h"
 #include "platform/ComboBoxList.h"
 #include "platform/FlexGrid.h"
 #include "shell/modNEBSlideShow.h"
-#include "support/Fault.h"
 #include "support/Services.h"
 #include "support/windows/ScreenPointer.h"
 #include "support/windows/frmLoading.h"
 #include "ui_frmSlideMgrBulk.h"
 
 namespace neb {
-namespace {
-
-void MoveBar(frmLoading& Loading, int Value) {
-    Loading.pgbLoadingProgress()->setValue(Value);
-    Loading.Refresh();
-    DoEvents();
-}
-
-}  // namespace
-
 // An album that changes while it is being shown is shown once more.
 void frmSlideMgrBulk::Fill() {
     const auto Held = shared_from_this();
@@ -94,23 +83,13 @@ void frmSlideMgrBulk::AddSlideRow(SlideFinder& Finder, std::int32_t SlideID) {
         MsgBox(QStringLiteral("Slide could not be found."));
 }
 
-// The buffer still has the caption with which it met the slide first: to show that would let the
-// next save undo what was saved since. A caption that is being worked on stays.
+// A caption that is being worked on stays.
 void frmSlideMgrBulk::ShowSlide(int Row, const clsNEBSlide& Slide,
                                 const std::shared_ptr<frmLoading>& Loading) {
-    FlexGrid& Grid = *mUi->flxAlbum;
-    const QString Caption = mEdits.value(Slide.SlideID, Slide.SlideText);
-    Grid.SetCellData(Row, clsImageBuffer::ColSlideID, static_cast<double>(Slide.SlideID));
-    Grid.SetTextMatrix(Row, clsImageBuffer::ColSlideID, QString::number(Slide.SlideID));
-    try {
-        ImageBuffer->LoadSlide(Grid, Row, AlbumID(), Slide, Loading, false);
-    } catch (const Fault&) {
-        // a picture that cannot be decoded leaves its cell blank; the caption is still of use
-        const FlexGrid& Buffer = *ImageBuffer->BufferGrid;
-        const int Known = Buffer.FindRow(clsImageBuffer::ColSlideID, Slide.SlideID);
-        Grid.CopyCell(Buffer, Known, clsImageBuffer::ColPath, Row, clsImageBuffer::ColPath);
-    }
-    Grid.SetTextMatrix(Row, clsImageBuffer::ColText, Caption);
+    const auto Edited = mEdits.constFind(Slide.SlideID);
+    const QString Caption = Edited != mEdits.constEnd() ? *Edited : Slide.SlideText;
+    ShowSlideInRow(*mUi->flxAlbum, Row, AlbumID(), Slide, Loading);
+    mUi->flxAlbum->SetTextMatrix(Row, clsImageBuffer::ColText, Caption);
 }
 
 // Fills the grid anew for a change that came from elsewhere: what was selected and what was typed
@@ -121,7 +100,7 @@ void frmSlideMgrBulk::Reload() {
     FlexGrid& Grid = *mUi->flxAlbum;
     Grid.FinishEdit();
     const std::vector<std::int32_t> Selected = SelectedIDs();
-    const std::int32_t Current = Grid.Row() >= 0 ? SlideIDIn(Grid.Row()) : 0;
+    const std::int32_t Current = Grid.Row() >= 0 ? SlideIn(Grid, Grid.Row()) : 0;
     Fill();
     SelectAgain(Selected, Current);
 }
@@ -131,9 +110,9 @@ void frmSlideMgrBulk::SelectAgain(const std::vector<std::int32_t>& SlideIDs,
     FlexGrid& Grid = *mUi->flxAlbum;
     Grid.SetRedraw(false);
     for (std::int32_t SlideID : SlideIDs)
-        if (const int Row = RowOf(SlideID); Row >= 0) Grid.SelectRow(Row);
+        if (const int Row = RowOfSlide(*mUi->flxAlbum, SlideID); Row >= 0) Grid.SelectRow(Row);
     Grid.SetRedraw(true);
-    MakeCurrent(RowOf(CurrentID));
+    MakeCurrent(RowOfSlide(*mUi->flxAlbum, CurrentID));
 }
 
 void frmSlideMgrBulk::ReceiveEvent(const QString& ObjectType, const QString& EventType,
@@ -179,15 +158,18 @@ void frmSlideMgrBulk::SlidesAdded(const EventKeys& Keys) {
     const clsNEBSlide* Slide = Album ? Album->GetSlide(SlideID) : nullptr;
     if (!Slide) return;
     mUi->flxAlbum->FinishEdit();
-    const int Row = RowOf(SlideID);
+    const int Row = RowOfSlide(*mUi->flxAlbum, SlideID);
     ShowSlide(Row >= 0 ? Row : mUi->flxAlbum->AddItem(), *Slide, nullptr);
 }
 
+// An editor that is open on another row would not be known as one any more, and its text be lost.
 void frmSlideMgrBulk::SlidesDeleted(const EventKeys& Keys) {
     if (Keys[0] != AlbumID() || Keys.size() < 2) return;
+    mUi->flxAlbum->FinishEdit();
     mEdits.remove(Keys[1]);
     if (mFilling) return Fill();
-    if (const int Row = RowOf(Keys[1]); Row >= 0) mUi->flxAlbum->RemoveItem(Row);
+    if (const int Row = RowOfSlide(*mUi->flxAlbum, Keys[1]); Row >= 0)
+        mUi->flxAlbum->RemoveItem(Row);
 }
 
 }  // namespace neb

@@ -1,6 +1,8 @@
 #include "intake/modAlbumNames.h"
 
 #include <QLineEdit>
+#include <chrono>
+#include <future>
 
 #include "db/modAlbumFiles.h"
 #include "intake/frmAlbumDelete.h"
@@ -11,6 +13,18 @@
 #include "support/modHostFiles.h"
 
 namespace neb {
+namespace {
+
+constexpr std::chrono::milliseconds Pause(5);
+
+// A host may take a quarter of a second to give back the room of a folder that held thousands of
+// files, in one call.
+void DropFolder(const QString& Folder, const std::function<void()>& Between) {
+    const auto Gone = std::async(std::launch::async, [&Folder] { DeleteFolder(Folder); });
+    while (Gone.wait_for(Pause) != std::future_status::ready) Between();
+}
+
+}  // namespace
 
 bool ShowRenameAlbum(std::int32_t AlbumID) {
     const auto Window = NewForm<frmAlbumRename>();
@@ -34,7 +48,7 @@ bool IsNameGiven(const QString& Adjective, const QString& Name) {
 void KeepQuotesClean(QLineEdit& Field) {
     new KeyFilter(&Field, &FixQuoteKey);
     QObject::connect(&Field, &QLineEdit::editingFinished, &Field, [&Field] {
-        const QString Clean = ConvertQuotes(Field.text());
+        const QString Clean = CleanText(Field.text());
         if (Clean != Field.text()) Field.setText(Clean);
     });
 }
@@ -46,7 +60,7 @@ void DeleteAlbumFiles(const QString& DBPath, std::int32_t AlbumID,
         for (const QString& Folder :
              {SoundTracksFolder(DBPath, AlbumID), SlidesFolder(DBPath, AlbumID)}) {
             DeleteFilesIn(Folder, Between);
-            DeleteFolder(Folder);
+            DropFolder(Folder, Between);
         }
     }
     DeleteFolder(Album);

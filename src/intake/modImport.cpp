@@ -52,8 +52,7 @@ void DropFile(const QString& Path) {
 std::int32_t EnterPicture(clsDBEngine& theDB, clsNEBAlbum& Album, const QString& Caption,
                           const std::function<QByteArray()>& Jpeg, const QImage& Thumbnail) {
     std::int32_t SlideID = 0;
-    clsNEBSlide* Slide =
-        Album.SaveSlide2(SlideID, ConvertQuotes(Caption), {}, {}, false, false, theDB);
+    clsNEBSlide* Slide = Album.SaveSlide2(SlideID, CleanText(Caption), {}, {}, false, false, theDB);
     const QString Stem = FileStem(SlideID);
     const QString Folder = SlidesFolder(theDB.DBPath(), Album.AlbumID);
     StoreFile(Folder + Stem + QStringLiteral(".jpg"), Jpeg());

@@ -5,7 +5,6 @@
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QStandardPaths>
-#include <QStorageInfo>
 #include <QTreeView>
 #include <QUrl>
 #include <QVBoxLayout>
@@ -13,6 +12,7 @@
 #include "platform/DirectoryModel.h"
 #include "platform/DirectoryProposals.h"
 #include "platform/Drives.h"
+#include "support/Services.h"
 #include "support/modFUFL.h"
 #include "support/modHostFiles.h"
 
@@ -38,12 +38,12 @@ void AddUserPlaces(QComboBox& Drives) {
         AddPlace(Drives, Paths::displayName(Place), Paths::writableLocation(Place));
 }
 
-void AddVolumes(QComboBox& Drives) {
-    for (const QStorageInfo& Volume : QStorageInfo::mountedVolumes()) {
-        const QString Root = Volume.rootPath();
-        if (Volume.isReady() && IsUserVolume(Root)) AddPlace(Drives, Volume.displayName(), Root);
-    }
-    AddPlace(Drives, QObject::tr("Computer"), QStringLiteral("/"));
+// Marks the places that are volumes.
+constexpr int VolumeRole = Qt::UserRole + 1;
+
+std::vector<Volume> VolumesNow() {
+    const DriveList* Drives = TheServices().Drives;
+    return Drives ? Drives->Volumes() : std::vector<Volume>();
 }
 
 }  // namespace
@@ -115,13 +115,34 @@ void DirectoryTree::SetPath(const QString& Path) {
 
 void DirectoryTree::SetDrives(QComboBox* Drives) {
     AddUserPlaces(*Drives);
-    AddVolumes(*Drives);
+    AddPlace(*Drives, tr("Computer"), QStringLiteral("/"));
     mDrives = Drives;
-    ShowPlace();
+    FollowVolumes();
+    if (TheServices().Drives) TheServices().Drives->Watch(*this, [this] { FollowVolumes(); });
     connect(Drives, &QComboBox::activated, this, [this, Drives] {
         SetPath(Drives->currentData().toString());
         ShowPlace();
     });
+}
+
+// The list may be open: what stays in it is not touched.
+void DirectoryTree::FollowVolumes() {
+    if (!mDrives) return;
+    const std::vector<Volume> Now = VolumesNow();
+    for (int I = mDrives->count() - 1; I >= 0; --I) {
+        const QString Root = mDrives->itemData(I).toString();
+        const bool Stays = std::any_of(Now.begin(), Now.end(),
+                                       [&](const Volume& Each) { return Each.Root == Root; });
+        if (mDrives->itemData(I, VolumeRole).toBool() && !Stays) mDrives->removeItem(I);
+    }
+    for (const Volume& Each : Now) {
+        if (mDrives->findData(Each.Root) >= 0) continue;
+        const int Last = mDrives->findData(QStringLiteral("/"));
+        const int Place = Last < 0 ? mDrives->count() : Last;
+        mDrives->insertItem(Place, Each.Name, Each.Root);
+        mDrives->setItemData(Place, true, VolumeRole);
+    }
+    ShowPlace();
 }
 
 // Of several places that hold the directory the nearest one.

@@ -32,7 +32,7 @@ class DirectoryTree : public QWidget {
     QString TypedText() const;
     bool TakeTyped();
     // Fills the list with places; choosing one goes there, and it shows the place that holds the
-    // directory, or nothing.
+    // directory, or nothing. Volumes come and go in it as they do on the host.
     void SetDrives(QComboBox* Drives);
 
   Q_SIGNALS:
@@ -45,6 +45,7 @@ class DirectoryTree : public QWidget {
   private:
     void SetUpTree();
     void BringIntoSight();
+    void FollowVolumes();
     void ShowPlace();
     void Collapsed(const QModelIndex& Index);
     QString TypedPath() const;

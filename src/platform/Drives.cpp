@@ -5,6 +5,7 @@
 
 #include "support/modFUFL.h"
 #include "support/modHostFiles.h"
+#include "support/modHostFilesMounts.h"
 
 namespace neb {
 
@@ -36,6 +37,18 @@ bool DesktopDrives::IsReady(const QString& Drive) const {
     bool Readable = false;
     ListDir(Drive, &Readable);
     return Readable;
+}
+
+std::vector<Volume> DesktopDrives::Volumes() const {
+    std::vector<Volume> All;
+    for (const QStorageInfo& Each : QStorageInfo::mountedVolumes())
+        if (IsUserVolume(Each.rootPath()) && Each.isReady())
+            All.push_back({Each.displayName(), Each.rootPath()});
+    return All;
+}
+
+void DesktopDrives::Watch(QObject& Owner, std::function<void()> Changed) const {
+    new MountWatch(std::move(Changed), &Owner);
 }
 
 }  // namespace neb

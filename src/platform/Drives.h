@@ -4,20 +4,37 @@
 #pragma once
 
 #include <QStringList>
+#include <functional>
+#include <vector>
+
+QT_BEGIN_NAMESPACE
+class QObject;
+QT_END_NAMESPACE
 
 namespace neb {
+
+struct Volume {
+    QString Name;  // as the user knows it
+    QString Root;  // its path
+};
 
 class DriveList {
   public:
     virtual ~DriveList() = default;
     virtual QStringList Drives() const = 0;                // paths, in the order of the list
     virtual bool IsReady(const QString& Drive) const = 0;  // false for an empty removable drive
+    // The volumes that are mounted for the user and can be read, by themselves.
+    virtual std::vector<Volume> Volumes() const { return {}; }
+    // Calls Changed soon after a volume has come or gone, as long as Owner lives.
+    virtual void Watch(QObject&, std::function<void()>) const {}
 };
 
 class DesktopDrives : public DriveList {
   public:
     QStringList Drives() const override;
     bool IsReady(const QString& Drive) const override;
+    std::vector<Volume> Volumes() const override;
+    void Watch(QObject& Owner, std::function<void()> Changed) const override;
 };
 
 // Media and drives that a user would look for, not the system's own mounts.

@@ -3,6 +3,8 @@
 #include <QPaintEngine>
 #include <QPainterPath>
 
+#include "platform/WorkTimer.h"
+
 namespace neb {
 namespace {
 
@@ -21,9 +23,7 @@ bool IsTooLongToDash(const QRectF& Bounds, const QTransform& Transform) {
 class PatientDevice::Engine : public QPaintEngine {
   public:
     Engine(QImage& OnPicture, int Milliseconds)
-        : QPaintEngine(AllFeatures), mPicture(OnPicture), mMost(Milliseconds) {
-        mTime.start();
-    }
+        : QPaintEngine(AllFeatures), mPicture(OnPicture), mMost(Milliseconds) {}
 
     bool GaveUp() const { return mGaveUp; }
     Type type() const override { return User; }
@@ -70,7 +70,7 @@ class PatientDevice::Engine : public QPaintEngine {
 
   private:
     bool IsPatient() {
-        mGaveUp = mGaveUp || mTime.elapsed() > mMost;
+        mGaveUp = mGaveUp || mTime.Milliseconds() > mMost;
         return !mGaveUp;
     }
     void UndashIfLong(const QRectF& Bounds) {
@@ -89,7 +89,7 @@ class PatientDevice::Engine : public QPaintEngine {
 
     QImage& mPicture;
     QPainter mTarget;
-    QElapsedTimer mTime;
+    WorkTimer mTime;
     int mMost;
     bool mGaveUp = false;
 };

@@ -2,7 +2,6 @@
 // unfinished. Used where drawings of unknown origin are painted by a library.
 #pragma once
 
-#include <QElapsedTimer>
 #include <QImage>
 #include <QPaintDevice>
 #include <QPainter>

@@ -1,6 +1,5 @@
 // JPEG by libjpeg itself: it can leave pixels away that nobody needs while it decodes, and it
 // tells when a file ends too early.
-#include <QElapsedTimer>
 #include <csetjmp>
 #include <cstdio>
 
@@ -13,6 +12,7 @@
 #include "platform/PictureFaults.h"
 #include "platform/PictureFormats.h"
 #include "platform/TiffTags.h"
+#include "platform/WorkTimer.h"
 
 namespace neb {
 namespace {
@@ -62,7 +62,7 @@ class JpegReader {
     jpeg_error_mgr mErrors = {};
     jpeg_progress_mgr mProgress = {};
     std::jmp_buf mJump;
-    QElapsedTimer mTime;
+    WorkTimer mTime;
     char mMessage[JMSG_LENGTH_MAX] = {};
     QImage mPicture;
     QByteArray mProfile;
@@ -79,7 +79,6 @@ JpegReader::JpegReader(const PictureSource& Source) : mSource(Source) {
     mErrors.output_message = [](j_common_ptr) {};
     mProgress.progress_monitor = OnProgress;
     mInfo.client_data = this;
-    mTime.start();
 }
 
 void JpegReader::OnError(j_common_ptr Info) {
@@ -96,7 +95,7 @@ void JpegReader::OnMessage(j_common_ptr Info, int Level) {
 
 void JpegReader::OnProgress(j_common_ptr Info) {
     JpegReader& Self = Of(Info);
-    if (Self.mInfo.input_scan_number <= MostScans && Self.mTime.elapsed() < MostMilliseconds)
+    if (Self.mInfo.input_scan_number <= MostScans && Self.mTime.Milliseconds() < MostMilliseconds)
         return;
     Self.mTooLong = true;
     std::longjmp(Self.mJump, 1);

@@ -1,6 +1,8 @@
 #include "platform/PictureView.h"
 
+#include <QGuiApplication>
 #include <QMouseEvent>
+#include <QScreen>
 
 namespace neb {
 
@@ -12,6 +14,18 @@ void PictureView::SetPicture(const QImage& Picture) {
     mPicture = Picture;
     mScaled = {};
     update();
+}
+
+QSize PictureView::LargestScreen() {
+    QSize Largest(2048, 1536);  // a screen that is plugged in later is hardly smaller
+    for (const QScreen* Each : QGuiApplication::screens())
+        Largest = Largest.expandedTo((QSizeF(Each->size()) * Each->devicePixelRatio()).toSize());
+    return Largest;
+}
+
+QImage PictureView::ForScreens(const QImage& Picture, QSize Largest) {
+    if (Picture.size().boundedTo(Largest) == Picture.size()) return Picture;
+    return Picture.scaled(Largest, Qt::KeepAspectRatio, Qt::SmoothTransformation);
 }
 
 void PictureView::SetEmptyText(const QString& Text) {

@@ -14,6 +14,10 @@ class PictureView : public QWidget {
     explicit PictureView(QWidget* Parent = nullptr);
 
     void SetPicture(const QImage& Picture);  // a null picture leaves the view empty
+    // What to show of a picture that has far more pixels than any screen: sizing a window paints
+    // it again and again. One that has not is given back as it is. For worker threads, too.
+    static QImage ForScreens(const QImage& Picture, QSize Largest);
+    static QSize LargestScreen();  // device pixels along each side
     const QImage& Picture() const { return mPicture; }
     // Shown in place of a picture.
     void SetEmptyText(const QString& Text);

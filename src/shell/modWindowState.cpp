@@ -5,6 +5,7 @@
 #include <QScreen>
 
 #include "shell/modNEBSlideShow.h"
+#include "support/Fault.h"
 #include "support/modNumbers.h"
 #include "support/modTwips.h"
 #include "support/windows/Form.h"
@@ -115,7 +116,16 @@ void SaveWindow(const Form& Window, const WindowMemory& Memory) {
         PutTwips(Settings, Memory.Section, "Left", Frame.x());
         PutTwips(Settings, Memory.Section, "Top", Frame.y());
     }
-    Settings.Save();
+    SaveMemory(Settings);
+}
+
+void SaveMemory(clsSettings& Settings) {
+    if (ReadOnlyDB) return;
+    try {
+        Settings.Save();
+    } catch (const Fault&) {
+        // the window opens as it did before
+    }
 }
 
 QPoint ChildPlace(const Form& Window, int Mode) {

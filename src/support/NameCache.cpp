@@ -2,7 +2,7 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QHash>
+#include <QMultiMap>
 #include <QMutex>
 #include <list>
 
@@ -19,7 +19,7 @@ struct Listing {
     QDateTime Changed;
     QDateTime OwnChange;  // time stamp after the program's own last change
     bool Doubtful = true;
-    QHash<QString, QString> NameByUpper;
+    QMultiMap<QString, QString> NameByUpper;  // names may differ in case alone
 };
 
 QMutex& Guard() {
@@ -38,8 +38,8 @@ QDateTime ChangeTime(const QString& Dir) {
 
 void Relist(Listing& Of) {
     Of.Changed = ChangeTime(Of.Dir);
-    Of.Doubtful = Of.Changed != Of.OwnChange &&
-                  Of.Changed.msecsTo(QDateTime::currentDateTime()) < DoubtfulMs;
+    Of.Doubtful =
+        Of.Changed != Of.OwnChange && Of.Changed.msecsTo(QDateTime::currentDateTime()) < DoubtfulMs;
     Of.NameByUpper.clear();
     const QDir Dir(Of.Dir.isEmpty() ? QStringLiteral(".") : Of.Dir);
     for (const QString& Entry : Dir.entryList(
@@ -85,12 +85,26 @@ QString FindNameInCase(const QString& Dir, const QString& Name) {
     return ListingOf(Dir).NameByUpper.value(Name.toUpper());
 }
 
+QStringList FindNamesByStart(const QString& Dir, const QString& Start) {
+    const QMutexLocker Lock(&Guard());
+    const auto& Names = ListingOf(Dir).NameByUpper;
+    const QString Upper = Start.toUpper();
+    QStringList Found;
+    for (auto Each = Names.lowerBound(Upper); Each != Names.end(); ++Each) {
+        if (!Each.key().startsWith(Upper)) break;
+        Found << Each.value();
+    }
+    return Found;
+}
+
 void NoteNameMade(const QString& Path) {
-    NoteChange(Path, [](auto& Names, const QString& Name) { Names.insert(Name.toUpper(), Name); });
+    NoteChange(Path, [](auto& Names, const QString& Name) {
+        if (!Names.contains(Name.toUpper(), Name)) Names.insert(Name.toUpper(), Name);
+    });
 }
 
 void NoteNameGone(const QString& Path) {
-    NoteChange(Path, [](auto& Names, const QString& Name) { Names.remove(Name.toUpper()); });
+    NoteChange(Path, [](auto& Names, const QString& Name) { Names.remove(Name.toUpper(), Name); });
 }
 
 }  // namespace neb

@@ -3,7 +3,7 @@
 // host file routines alone; safe to call from worker threads.
 #pragma once
 
-#include <QString>
+#include <QStringList>
 #include <optional>
 
 namespace neb {
@@ -11,6 +11,8 @@ namespace neb {
 // The entry of Dir that is Name but for case; empty text when there is none. Dir is a host path
 // with closing separator, or empty for the current directory.
 QString FindNameInCase(const QString& Dir, const QString& Name);
+// The names in Dir that begin with Start, case-blind.
+QStringList FindNamesByStart(const QString& Dir, const QString& Start);
 // The program itself has made or removed this entry: what is remembered stays true.
 void NoteNameMade(const QString& Path);
 void NoteNameGone(const QString& Path);

@@ -50,6 +50,12 @@ void DoEvents() {
     if (DoEventsHook()) DoEventsHook()();
 }
 
+void DoEventsButInput() {
+    if (QCoreApplication::instance())
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    if (DoEventsHook()) DoEventsHook()();
+}
+
 void SetDoEventsHook(std::function<void()> Hook) {
     DoEventsHook() = std::move(Hook);
 }

@@ -83,6 +83,8 @@ bool AskYesNo(const QString& Text, const QString& Title);
 
 // Lets waiting events run: the one way for long work to yield.
 void DoEvents();
+// The same, but what the user does waits: for work that must not be begun a second time.
+void DoEventsButInput();
 // A test's own step at each DoEvents; {} for none.
 void SetDoEventsHook(std::function<void()> Hook);
 

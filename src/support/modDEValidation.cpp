@@ -1,11 +1,14 @@
 #include "support/modDEValidation.h"
 
+#include <algorithm>
+
 #include "support/modText.h"
 
 namespace neb {
 namespace {
 
 constexpr std::int16_t Backspace = 8;
+constexpr qsizetype RecordTextBytes = 80;  // of every name and caption
 
 struct QuotePair {
     std::int16_t Opening, Other;
@@ -24,8 +27,8 @@ std::int16_t QuoteFor(char16_t Typed, QStringView Before) {
 }
 
 QChar FromCode(std::int16_t Code) {
-    const char Byte = static_cast<char>(Code);
-    return FromAnsi(&Byte, 1)[0];
+    static const QString Typographic = FromAnsi("\x91\x92\x93\x94", 4);
+    return Typographic[Code - SingleQuotes.Opening];
 }
 
 bool IsDigit(char16_t Code) {
@@ -50,6 +53,19 @@ void FixQuoteKey(const EntryState& Field, std::int16_t& KeyAscii) {
 
 void FixQuoteKeyInGrid(const EntryState& Editor, std::int16_t& KeyAscii) {
     FixQuoteKey(Editor, KeyAscii);
+}
+
+// In steps that shrink with what is too much: somebody may have pasted a whole book.
+QString FitToRecord(QString Text) {
+    for (qsizetype Over; (Over = ToAnsi(Text).size() - RecordTextBytes) > 0;) {
+        Text.chop(std::max<qsizetype>(1, Over / 8));
+        if (!Text.isEmpty() && Text.back().isHighSurrogate()) Text.chop(1);
+    }
+    return Text;
+}
+
+QString CleanText(const QString& Text) {
+    return FitToRecord(ConvertQuotes(Text));
 }
 
 bool IsNumericText(const QString& Text, QString& Message, bool AllowNegative) {

@@ -22,6 +22,11 @@ QString ConvertQuotes(const QString& Text);
 // The same for one key in a text field, and in the cell editor of a grid.
 void FixQuoteKey(const EntryState& Field, std::int16_t& KeyAscii);
 void FixQuoteKeyInGrid(const EntryState& Editor, std::int16_t& KeyAscii);
+// The start of a name or a caption for which a record has room: 80 bytes of Windows-1252, of which
+// a character that the code page does not have may need several.
+QString FitToRecord(QString Text);
+// A typed name or caption as it is kept: its quotes converted, and no longer than a record holds.
+QString CleanText(const QString& Text);
 // Digits alone, with a "-" in front when AllowNegative; an empty text passes. On a refusal
 // Message names the first character that is no digit.
 bool IsNumericText(const QString& Text, QString& Message, bool AllowNegative);

@@ -1,5 +1,7 @@
 #include "support/modHostFilesMask.h"
 
+#include <algorithm>
+
 #ifdef _WIN32
 #include <QDateTime>
 #include <QFileInfo>
@@ -40,6 +42,11 @@ NameMask::NameMask(const QString& Mask) : mUpper(Mask.toUpper()) {}
 
 bool NameMask::Matches(const QString& Name) const {
     return mUpper == u"*.*" || MatchesMask(Name.toUpper(), mUpper);
+}
+
+QString NameMask::Start() const {
+    const auto IsWild = [](QChar Character) { return Character == u'*' || Character == u'?'; };
+    return mUpper.left(std::find_if(mUpper.begin(), mUpper.end(), IsWild) - mUpper.begin());
 }
 
 #ifdef _WIN32

@@ -13,6 +13,8 @@ class NameMask {
   public:
     explicit NameMask(const QString& Mask);
     bool Matches(const QString& Name) const;
+    // How every name that matches begins, upper-cased; empty when they differ.
+    QString Start() const;
 
   private:
     QString mUpper;

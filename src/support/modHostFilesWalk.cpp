@@ -45,6 +45,14 @@ Kind KindOf(const OpenDir& Dir, const dirent& Entry) {
     return S_ISREG(Real.st_mode) ? Kind::File : Kind::Other;
 }
 
+// Whether the program can address a file of this name: not when its bytes are no text.
+bool IsText(std::string_view Name) {
+    const auto IsPlain = [](char Each) { return static_cast<unsigned char>(Each) < 128; };
+    if (std::all_of(Name.begin(), Name.end(), IsPlain)) return true;
+    const QByteArray Bytes(Name.data(), static_cast<qsizetype>(Name.size()));
+    return QFile::encodeName(QFile::decodeName(Bytes)) == Bytes;
+}
+
 class Walker {
   public:
     Walker(bool Recurse, const FileWalk& Walk) : mRecurse(Recurse), mWalk(Walk) {}
@@ -85,6 +93,7 @@ class Walker {
     }
     void Take(const OpenDir& Dir, const dirent& Entry, std::vector<std::string>& Below) {
         const Kind What = KindOf(Dir, Entry);
+        if (What == Kind::Other || !IsText(Entry.d_name)) return;
         if (What == Kind::Folder && mRecurse) Below.emplace_back(Entry.d_name);
         if (What != Kind::File || !mWalk.Wants(Entry.d_name)) return;
         if (faccessat(Dir.Number(), Entry.d_name, R_OK, AT_EACCESS) == 0) mWalk.Found();
@@ -100,6 +109,12 @@ class Walker {
 void WalkFiles(const QString& Dir, bool Recurse, const FileWalk& Walk) {
     if (!Dir.isEmpty())
         Walker(Recurse, Walk).Enter(QFile::encodeName(ResolvePath(Dir)).toStdString() + '/');
+}
+
+std::optional<std::uint64_t> MediumOf(const QString& Dir) {
+    struct stat Found = {};
+    if (stat(QFile::encodeName(Dir).constData(), &Found) != 0 || !S_ISDIR(Found.st_mode)) return {};
+    return Found.st_dev;
 }
 
 bool FolderNameLess(const QString& A, const QString& B) {

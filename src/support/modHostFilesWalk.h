@@ -5,7 +5,9 @@
 
 #include <QString>
 #include <QStringList>
+#include <cstdint>
 #include <functional>
+#include <optional>
 #include <string_view>
 
 namespace neb {
@@ -13,7 +15,8 @@ namespace neb {
 struct FileWalk {
     // Whether a file of this name (in the host's own encoding, without directory) is looked for.
     std::function<bool(std::string_view Name)> Wants;
-    // A wanted name of an ordinary file that the user may read. Links to files are files.
+    // A wanted name of an ordinary file that the user may read. Links to files are files; a file
+    // whose name is no text, with bytes of another encoding, cannot be opened and does not count.
     std::function<void()> Found;
     // Asked after every entry of a directory; false ends the walk at once.
     std::function<bool()> GoesOn;
@@ -23,6 +26,10 @@ struct FileWalk {
 // the depth. What cannot be listed holds nothing. Links to directories are followed, but never to
 // one on the way down.
 void WalkFiles(const QString& Dir, bool Recurse, const FileWalk& Walk);
+
+// The number of the medium on which a directory lies at the moment: another one when a medium has
+// been unmounted from under the path. None when there is no directory or it does not answer.
+std::optional<std::uint64_t> MediumOf(const QString& Dir);
 
 // The order in which directories are shown: without regard to case, equal ones by character code.
 bool FolderNameLess(const QString& A, const QString& B);

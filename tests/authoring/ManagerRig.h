@@ -7,6 +7,7 @@
 #include "authoring/modLoadShow.h"
 #include "intake/BulkRig.h"
 #include "intake/SlideRig.h"
+#include "intake/SlideRows.h"
 #include "support/modDEValidation.h"
 
 namespace neb::harness {

@@ -1,29 +1,38 @@
-// Everything below a folder as one list of texts: a test that compares two of them sees whether
-// anything was changed.
+// What lies below a folder at a moment, for tests that prove that nothing was touched there.
 #pragma once
 
 #include <QDateTime>
 #include <QDirIterator>
-#include <QStringList>
-
-#include "support/modHostFiles.h"
+#include <QFile>
+#include <string>
 
 namespace neb::harness {
 
-// Every file and folder below a folder with its bytes and its date.
+// A line for every file and folder, with its bytes and the date of its last change.
 inline QStringList Everything(const QString& Folder) {
-    using namespace Qt::StringLiterals;
     QStringList All;
-    QDirIterator Walk(Folder, QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden,
+    QDirIterator Walk(Folder, QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden,
                       QDirIterator::Subdirectories);
     while (Walk.hasNext()) {
         const QFileInfo Each(Walk.next());
-        const QByteArray Bytes = Each.isFile() ? ReadFile(Each.filePath()) : QByteArray();
+        QFile File(Each.filePath());
+        const bool Opened = Each.isFile() && File.open(QIODevice::ReadOnly);
         All << Each.filePath() + u' ' + Each.lastModified().toString(Qt::ISODateWithMs) + u' ' +
-                   QString::number(qHash(Bytes));
+                   QString::fromLatin1(Opened ? File.readAll().toHex() : QByteArray());
     }
     All.sort();
     return All;
+}
+
+// The beginnings of the lines that went and that came; empty when the two are alike.
+inline std::string Differences(const QStringList& Before, const QStringList& Now) {
+    constexpr qsizetype Shown = 200;
+    QString Text;
+    for (const QString& Each : Before)
+        if (!Now.contains(Each)) Text += QStringLiteral("\n- ") + Each.left(Shown);
+    for (const QString& Each : Now)
+        if (!Before.contains(Each)) Text += QStringLiteral("\n+ ") + Each.left(Shown);
+    return Text.toStdString();
 }
 
 }  // namespace neb::harness

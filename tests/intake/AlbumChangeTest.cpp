@@ -1,6 +1,7 @@
 // What other windows make of an album that is renamed or deleted, with the real windows; and that
 // a read-only database is shown by them and never changed.
 #include "AlbumHarness.h"
+#include "harness/FolderState.h"
 
 namespace neb {
 namespace {
@@ -15,19 +16,6 @@ class AlbumChange : public AlbumWindows {
     }
     static void RenameIt(std::int32_t AlbumID, const QString& Name) {
         EXPECT_TRUE(Rename(AlbumID, [&](frmAlbumRename& Window) { RenameTo(Window, Name); }));
-    }
-    // Every file below the folders, with its content and the time of its last change.
-    static QStringList Snapshot(const QString& Folder) {
-        QStringList All;
-        for (const DirEntry& Entry : ListDir(Folder)) {
-            const QString Path = Folder + Entry.Name;
-            All << Path + u' ' + FileTime(Path)->toString(Qt::ISODateWithMs);
-            if (Entry.IsFolder)
-                All << Snapshot(Path + u'/');
-            else
-                All << QString::fromLatin1(ReadFile(Path).toHex());
-        }
-        return All;
     }
 };
 
@@ -139,7 +127,7 @@ TEST_F(AlbumChange, AReadOnlyDatabaseIsShownAndStaysToTheByte) {
     MakePicture(SlidesFolder(Db.Path(), AlbumID) + u"00000001.jpg"_s);
     WriteFile(SoundTracksFolder(Db.Path(), AlbumID) + u"00000001.mp3"_s, "x");
     Engine.FinalizeDB();
-    const QStringList Before = Snapshot(Db.Path());
+    const QStringList Before = Everything(Db.Path());
     ASSERT_GT(Before.size(), 10);
     ReadOnlyDB = true;
     EXPECT_FALSE(Rename(AlbumID, [](frmAlbumRename& Window) {
@@ -163,7 +151,7 @@ TEST_F(AlbumChange, AReadOnlyDatabaseIsShownAndStaysToTheByte) {
     }));
     EXPECT_EQ("Garden", NameOf(AlbumID));
     EXPECT_EQ("", Heard());
-    EXPECT_EQ(Before, Snapshot(Db.Path()));
+    EXPECT_EQ("", Differences(Before, Everything(Db.Path())));
 }
 
 }  // namespace

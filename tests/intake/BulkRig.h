@@ -7,6 +7,7 @@
 #include "IntakeHarness.h"
 #include "intake/clsImageBuffer.h"
 #include "intake/frmSlideMgrBulk.h"
+#include "support/windows/frmProgress.h"
 
 namespace neb::harness {
 
@@ -99,6 +100,15 @@ class BulkRig : public Intake {
         SetDoEventsHook([Value, Do, Done = false]() mutable {
             const auto* Loading = harness::Open<frmLoading>();
             if (Done || !Loading || Loading->pgbLoadingProgress()->value() < Value) return;
+            Done = true;
+            Do();
+        });
+    }
+
+    // Something that happens once, at the first yield while slides are being deleted.
+    static void AtProgress(std::function<void()> Do) {
+        SetDoEventsHook([Do, Done = false]() mutable {
+            if (Done || !harness::Open<frmProgress>()) return;
             Done = true;
             Do();
         });

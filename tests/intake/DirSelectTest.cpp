@@ -2,10 +2,11 @@
 #include <QCheckBox>
 #include <QComboBox>
 
-#include "IntakeHarness.h"
+#include "FindGraphicsHarness.h"
 #include "harness/WithoutPrivileges.h"
 #include "intake/DirectoryPanel.h"
 #include "intake/frmDirSelect.h"
+#include "intake/modPictureFiles.h"
 #include "platform/DirectoryTree.h"
 
 namespace neb {
@@ -177,6 +178,43 @@ TEST_F(DirSelect, CountsNothingInADirectoryThatCannotBeRead) {
         Shown.close();
     });
     QFile::setPermissions(Pics / u"locked"_s, All);
+}
+
+// It could not be brought in either: the program names files by text.
+TEST_F(DirSelect, CountsNoFileWhoseNameIsNoText) {
+    const std::string Dir = Pics.Path().toStdString() + "sub/\xe4";
+    EXPECT_EQ(0, mkdir(Dir.c_str(), 0755));
+    for (const std::string& Name : {Dir + "/a.jpg", Dir + ".jpg"})
+        EXPECT_EQ(0, mknod(Name.c_str(), S_IFREG | 0644, 0));
+    MakePicture(Pics / u"sub/Grün.jpg"_s);
+    RunningCount Count;
+    EXPECT_EQ(2, CountGraphicFiles(Pics / u"sub"_s, true, Count));
+    for (const std::string& Name : {Dir + "/a.jpg", Dir + ".jpg", Dir})
+        EXPECT_EQ(0, remove(Name.c_str()));  // Qt cannot address them either
+}
+
+TEST_F(DirSelect, FollowsMediaThatComeAndGo) {
+    ScriptedDrives Drives;
+    MakeDirs(Pics / u"stick"_s);
+    Ask([&](frmDirSelect& Shown) {
+        auto& Places = In<QComboBox>(Shown, "Drive1");
+        const int Before = Places.count();
+        Drives.Sticks = {{u"STICK"_s, Pics / u"stick"_s}};
+        Drives.TellChange();
+        EXPECT_EQ(Before + 1, Places.count());
+        EXPECT_EQ(Before - 1, Places.findText(u"STICK"_s)) << "the computer is the last";
+        Places.setCurrentText(u"STICK"_s);
+        Q_EMIT Places.activated(Places.currentIndex());
+        EXPECT_EQ(Pics / u"stick"_s, Dir1(Shown).Path());
+        Drives.TellChange();
+        EXPECT_EQ("STICK", Places.currentText().toStdString());
+        Drives.Sticks.clear();
+        Drives.TellChange();
+        EXPECT_EQ(Before, Places.count());
+        EXPECT_EQ(-1, Places.findText(u"STICK"_s));
+        Shown.close();
+    });
+    Drives.TellChange();  // nobody hears it any more
 }
 
 TEST_F(DirSelect, IsWorkedWithTheKeyboardAlone) {

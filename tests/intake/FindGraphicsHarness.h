@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 
 #include <QComboBox>
+#include <QPointer>
 
 #include "IntakeHarness.h"
 #include "harness/HastyClock.h"
@@ -22,7 +23,19 @@ class ScriptedDrives : public DriveList {
     ~ScriptedDrives() override { TheServices().Drives = nullptr; }
     QStringList Drives() const override { return Paths; }
     bool IsReady(const QString& Drive) const override { return FolderExists(Drive); }
+    std::vector<Volume> Volumes() const override { return Sticks; }
+    void Watch(QObject& Owner, std::function<void()> Changed) const override {
+        mWatchers.emplace_back(&Owner, std::move(Changed));
+    }
+    void TellChange() const {
+        for (const auto& [Owner, Changed] : mWatchers)
+            if (Owner) Changed();
+    }
     QStringList Paths;
+    std::vector<Volume> Sticks;
+
+  private:
+    mutable std::vector<std::pair<QPointer<QObject>, std::function<void()>>> mWatchers;
 };
 
 // So slow are directories in the eyes of this clock that the window yields at each.

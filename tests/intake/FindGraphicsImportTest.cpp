@@ -1,4 +1,7 @@
 // Find Graphics from the import windows: what was found comes in like the pictures of a directory.
+#include <QSet>
+#include <ctime>
+
 #include "FindGraphicsHarness.h"
 #include "intake/frmQuickShow.h"
 #include "platform/ToolBar.h"
@@ -85,6 +88,90 @@ TEST_F(FindGraphicsImport, StopsReadingWhenTheUserAborts) {
     Find(*Filter, &ImportAll);
     EXPECT_EQ("b", CaptionsOf(NonSelected(*Filter)));
     Filter->Unload();
+}
+
+// The longest work of the window's own thread between two yields, in milliseconds of its processor
+// time: what else runs on the machine does not count.
+class LongestStep {
+  public:
+    LongestStep() {
+        SetDoEventsHook([this] { Look(); });
+    }
+    ~LongestStep() { SetDoEventsHook({}); }
+    double Milliseconds() const { return mLongest; }
+    std::function<void()> OnYield;
+
+  private:
+    static double Now() {
+        timespec Time = {};
+        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &Time);
+        return double(Time.tv_sec) * 1000 + double(Time.tv_nsec) / 1e6;
+    }
+    void Look() {
+        if (mLast > 0) mLongest = std::max(mLongest, Now() - mLast);
+        if (OnYield) OnYield();
+        mLast = Now();
+    }
+    double mLast = 0, mLongest = 0;
+};
+
+TEST_F(FindGraphicsImport, ShowsHowFarItIsAndAnswersWhileManyAreRead) {
+    DeleteTree(Pics / u"y"_s);
+    MakePicture(Pics / u"many/0.jpg"_s, 40, 30);
+    const QByteArray Picture = ReadFile(Pics / u"many/0.jpg"_s);
+    for (int I = 1; I < 498; ++I) WriteFile(Pics / u"many/%1.jpg"_s.arg(I), Picture);
+    const auto Filter = ShowFilter(MakeAlbum(u"Garden"_s), {});
+    QSet<QString> Titles;
+    QSet<int> Values;
+    LongestStep Longest;
+    Longest.OnYield = [&] {
+        const auto* Loading = Open<frmLoading>();
+        if (!Loading) return;
+        Titles << Loading->windowTitle();
+        Values << Loading->pgbLoadingProgress()->value();
+        EXPECT_TRUE(In<QPushButton>(*Loading, "cmdStop").isEnabled());
+    };
+    Find(*Filter, &ImportAll);
+    EXPECT_EQ(500, NonSelected(*Filter).Rows());
+    EXPECT_EQ(QSet<QString>({u"Reading Slides ..."_s, u"Loading Slides ..."_s}), Titles);
+    EXPECT_EQ(501, Values.size());
+    EXPECT_LT(Longest.Milliseconds(), 100);
+    Press(*Filter, "cmdMoveRightAll");
+    EXPECT_EQ(500, Selected(*Filter).Rows());
+    Filter->Unload();
+}
+
+// A medium that goes between the search and the reading must not be asked for each of them.
+TEST_F(FindGraphicsImport, AnswersThoughAllThatWasFoundHasGone) {
+    MakeDirs(Pics / u"many"_s);
+    for (int I = 0; I < 500; ++I) WriteFile(Pics / u"many/%1.jpg"_s.arg(I), "x");
+    const auto Filter = ShowFilter(MakeAlbum(u"Garden"_s), {});
+    std::optional<LongestStep> Longest;
+    Find(*Filter, [&](frmFindGraphics& Finder) {
+        DeleteTree(Pics / u"many"_s);
+        ImportAll(Finder);
+        Longest.emplace();
+    });
+    EXPECT_EQ(503, NonSelected(*Filter).Rows()) << "those that have gone are told at the import";
+    EXPECT_LT(Longest->Milliseconds(), 100);
+    Longest.reset();
+    Filter->Unload();
+}
+
+// Only the files that the user selected come in.
+TEST_F(FindGraphicsImport, TakesAFoundNameForAFileThoughADirectoryHasTakenItsPlace) {
+    const auto Filter = ShowFilter(MakeAlbum(u"Garden"_s), {});
+    Find(*Filter, [&](frmFindGraphics& Finder) {
+        In<FlexGrid>(Finder, "flxResults").SelectRow(0);
+        DeleteFile(Pics / u"x/b.jpg"_s);
+        MakePicture(Pics / u"x/b.jpg/inner.png"_s);
+        Press(Finder, "cmdImport");
+    });
+    EXPECT_EQ("b", CaptionsOf(NonSelected(*Filter)));
+    EXPECT_TRUE(NonSelected(*Filter).CellPicture(0, ImportForm::ColPicture).isNull());
+    Press(*Filter, "cmdMoveRightAll");
+    Boxes.Expect(u"0 slides successfully imported.\n1 slides discarded."_s);
+    Press(*Filter, "cmdImport");
 }
 
 TEST_F(FindGraphicsImport, FollowsTheImportWindowThatIsClosedMeanwhile) {

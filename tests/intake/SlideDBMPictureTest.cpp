@@ -1,6 +1,8 @@
 // The picture of the slide manager: chosen, dropped, turned, missing, broken.
 #include <QDragEnterEvent>
 #include <QMimeData>
+#include <QProcess>
+#include <QRandomGenerator>
 
 #include "SlideRig.h"
 
@@ -37,6 +39,24 @@ class SlideDBMPicture : public SlideRig {
             All += ' ';
         }
         return All;
+    }
+    QString MakeNoise(QSize Size) {
+        QRandomGenerator Dice(1);
+        QImage Picture(Size, QImage::Format_RGB32);
+        for (int Y = 0; Y < Size.height(); ++Y)
+            for (int X = 0; X < Size.width(); ++X) Picture.setPixel(X, Y, Dice.generate());
+        Picture.save(Pics / u"noise.png"_s);
+        return Pics / u"noise.png"_s;
+    }
+    // Whether Painted has every pixel of Picture, from the pixel at Corner on. What stands half on
+    // a pixel may go to either side, and its rim may be cut.
+    static bool Holds(const QImage& Painted, const QImage& Picture, QPointF Corner) {
+        const QRect Inner = Picture.rect().adjusted(1, 1, -1, -1);
+        const QImage Wanted = Picture.copy(Inner).convertToFormat(Painted.format());
+        for (const int X : {int(std::floor(Corner.x())), int(std::ceil(Corner.x()))})
+            for (const int Y : {int(std::floor(Corner.y())), int(std::ceil(Corner.y()))})
+                if (Painted.copy(Inner.translated(X, Y)) == Wanted) return true;
+        return false;
     }
     bool Drop(const QList<QUrl>& Urls) {
         QMimeData Data;
@@ -236,6 +256,43 @@ TEST_F(SlideDBMPicture, FillsItsPlaceWithItsShapeKept) {
         EXPECT_TRUE(Place.width() == View.width() || Place.height() == View.height());
         EXPECT_NEAR(4.0 / 3, double(Place.width()) / Place.height(), 0.02);
         EXPECT_GT(View.width() * View.height() * 3, W->width() * W->height());
+    }
+}
+
+TEST_F(SlideDBMPicture, IsSharpAtEverySize) {
+    OpenAlbum();
+    PickPicture(MakeNoise({500, 400}));
+    const auto& View = In<PictureView>(*W, "imgSlide");
+    const double Ratio = W->devicePixelRatioF();
+    EXPECT_EQ(qEnvironmentVariable("QT_SCALE_FACTOR", u"1"_s).toDouble(), Ratio);
+    for (const QSize Size : {QSize(601, 563), QSize(997, 776), QSize(800, 651)}) {
+        W->resize(Size);
+        QCoreApplication::processEvents();
+        const QRect Place = View.PictureRect();
+        const QImage Sharp = Shown().scaled((QSizeF(Place.size()) * Ratio).toSize(),
+                                            Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        QImage Painted = W->grab().toImage();
+        Painted.setDevicePixelRatio(1);
+        const QPointF Corner = QPointF(View.mapTo(W, Place.topLeft())) * Ratio;
+        EXPECT_TRUE(Holds(Painted, Sharp, Corner)) << Size.width() << " at " << Ratio;
+    }
+}
+
+// The scaling of a display is fixed when a program starts.
+TEST_F(SlideDBMPicture, IsSharpAtEveryScalingOfTheDisplay) {
+    for (const char* Scale : {"1", "1.25", "1.5", "2"}) {
+        QProcessEnvironment Environment = QProcessEnvironment::systemEnvironment();
+        Environment.insert(u"QT_SCALE_FACTOR"_s, QString::fromLatin1(Scale));
+        QProcess Copy;
+        Copy.setProcessEnvironment(Environment);
+        Copy.setProcessChannelMode(QProcess::MergedChannels);
+        Copy.start(QCoreApplication::applicationFilePath(),
+                   {u"--gtest_filter=SlideDBMPicture.IsSharpAtEverySize"_s});
+        ASSERT_TRUE(Copy.waitForFinished(20000));
+        const QByteArray Said = Copy.readAll();
+        EXPECT_EQ(QProcess::NormalExit, Copy.exitStatus());
+        EXPECT_EQ(0, Copy.exitCode()) << Scale << ": " << Said.toStdString();
+        EXPECT_TRUE(Said.contains("1 test")) << Said.toStdString();
     }
 }
 

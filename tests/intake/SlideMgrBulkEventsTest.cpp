@@ -134,6 +134,50 @@ TEST_F(SlideMgrBulkEvents, AnAlbumDeletedElsewhereLeavesTheWindowEmpty) {
     EXPECT_EQ("Bulk Slide Manager - Attic", Title(Bulk));
 }
 
+TEST_F(SlideMgrBulkEvents, AnAlbumDeletedElsewhereTakesAnOpenEditorWithIt) {
+    AddSlides({u"a"_s, u"b"_s});
+    const std::int32_t Attic = MakeAlbum(u"Attic"_s);
+    std::int32_t SlideID = 0;
+    Engine.GetAlbum(Attic)->SaveSlide2(SlideID, u"z"_s, {}, {}, false, false, Engine);
+    const Window Bulk = OpenBulk(AlbumID);
+    TypeInto(Bulk, 0, u"Rose"_s);
+    Engine.DeleteAlbum(AlbumID);
+    Tell(u"Delete"_s, {AlbumID});
+    EXPECT_FALSE(GridOf(Bulk).IsEditing());
+    EXPECT_EQ(0, GridOf(Bulk).Rows());
+    AlbumsOf(Bulk).setCurrentIndex(0);
+    EXPECT_EQ("z", Shown(Bulk)) << "what was typed is not for another album";
+    Edit(Bulk, 0, u"Zinnia"_s);
+    SaveExpecting(Bulk, u"1 slides successfully saved."_s);
+    EXPECT_EQ("Zinnia", Engine.GetAlbum(Attic)->GetSlide(SlideID)->SlideText.toStdString());
+}
+
+TEST_F(SlideMgrBulkEvents, ATextInAnOpenEditorSurvivesThatAnotherSlideGoes) {
+    AddSlides({u"a"_s, u"b"_s, u"c"_s});
+    const Window Bulk = OpenBulk(AlbumID);
+    TypeInto(Bulk, 1, u"Rose"_s);
+    Album().DeleteSlide(1, Engine);
+    Tell(u"Delete Slides"_s, {AlbumID, 1});
+    Tell(u"Add Slides"_s, {AlbumID, 0});
+    EXPECT_EQ("Rose|c", Shown(Bulk));
+    SaveExpecting(Bulk, u"2 slides successfully saved."_s);
+    EXPECT_EQ("Rose", CaptionInAlbum(2));
+    EXPECT_EQ("c", CaptionInAlbum(3));
+}
+
+TEST_F(SlideMgrBulkEvents, AnEditorGoesWithItsSlideAndTheNextOneWorks) {
+    AddSlides({u"a"_s, u"b"_s});
+    const Window Bulk = OpenBulk(AlbumID);
+    TypeInto(Bulk, 0, u"Rose"_s);
+    Album().DeleteSlide(1, Engine);
+    Tell(u"Delete Slides"_s, {AlbumID, 1});
+    EXPECT_FALSE(GridOf(Bulk).IsEditing());
+    EXPECT_EQ("b", Shown(Bulk));
+    Edit(Bulk, 0, u"Tulip"_s);
+    SaveExpecting(Bulk, u"1 slides successfully saved."_s);
+    EXPECT_EQ("Tulip", CaptionInAlbum(2));
+}
+
 TEST_F(SlideMgrBulkEvents, AnotherAlbumThatIsDeletedOnlyLeavesTheList) {
     AddSlides({u"a"_s});
     const std::int32_t Attic = MakeAlbum(u"Attic"_s);

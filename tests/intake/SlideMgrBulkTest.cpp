@@ -262,6 +262,35 @@ TEST_F(SlideMgrBulk, CaptionsOfEveryCharacterComeBackFromTheDisk) {
                       ->SlideText.toStdString());
 }
 
+TEST(FitToRecord, CutsByTheBytesThatARecordNeedsAndNeverThroughACharacter) {
+    const std::pair<QString, QString> Texts[] = {
+        {QString(80, u'€'), QString(80, u'€')},
+        {QString(81, u'€'), QString(80, u'€')},
+        {QString(79, u'n') + u"ﬁ"_s, QString(79, u'n')},
+        {QString(78, u'n') + u"ﬁ"_s, QString(78, u'n') + u"ﬁ"_s},
+        {QString(79, u'n') + u"🌹🌹"_s, QString(79, u'n') + u"🌹"_s},
+        {QString(30000, u'n'), QString(80, u'n')},
+        {{}, {}},
+    };
+    for (const auto& [Typed, Fitting] : Texts)
+        EXPECT_EQ(Fitting.toStdString(), FitToRecord(Typed).toStdString());
+}
+
+TEST_F(SlideMgrBulk, ACaptionIsCutWhereItIsTypedToWhatItsRecordHolds) {
+    AddSlides({u"a"_s, u"a"_s});
+    const Window Bulk = OpenBulk(AlbumID);
+    for (int Row : {0, 1}) {
+        TypeInto(Bulk, Row, u"x"_s);
+        const QChar Letter = Row == 0 ? u'm' : u'n';
+        EditorOf(Bulk).setText(QString(100, Letter));
+        QTest::keyClick(&EditorOf(Bulk), Qt::Key_Return);
+        EXPECT_EQ(QString(80, Letter), GridOf(Bulk).TextMatrix(Row, Text));
+    }
+    SaveExpecting(Bulk, u"2 slides successfully saved."_s);
+    EXPECT_EQ(std::string(80, 'm'), CaptionInAlbum(1));
+    EXPECT_EQ(std::string(80, 'n'), CaptionInAlbum(2)) << "two slides that had one caption";
+}
+
 TEST_F(SlideMgrBulk, TypedQuotesBecomeTypographicAtOnceAndOnlyCaptionsCanBeTyped) {
     AddSlides({u"a"_s});
     const Window Bulk = OpenBulk(AlbumID);

@@ -4,7 +4,9 @@
 #include <gtest/gtest.h>
 
 #include <QStandardPaths>
+#include <QTest>
 
+#include "harness/MountedMemory.h"
 #include "harness/TempFolder.h"
 #include "support/modFUFL.h"
 #include "support/modHostFiles.h"
@@ -41,6 +43,31 @@ TEST(Drives, AreReadyOnlyWhileTheyCanBeRead) {
     EXPECT_TRUE(DesktopDrives().IsReady(Folder / QStringLiteral("stick")));
     DeleteTree(Folder / QStringLiteral("stick"));
     EXPECT_FALSE(DesktopDrives().IsReady(Folder / QStringLiteral("stick")));
+}
+
+TEST(Drives, AreVolumesOfTheUserAlone) {
+    for (const Volume& Each : DesktopDrives().Volumes()) {
+        EXPECT_TRUE(IsUserVolume(Each.Root)) << Each.Root.toStdString();
+        EXPECT_FALSE(Each.Name.isEmpty());
+    }
+}
+
+TEST(Drives, TellOfWhatIsMountedAndUnmountedWhileSomebodyListens) {
+    const harness::TempFolder Folder;
+    int Told = 0;
+    auto Listener = std::make_unique<QObject>();
+    DesktopDrives().Watch(*Listener, [&] { ++Told; });
+    {
+        const harness::MountedMemory Stick(Folder.Path());
+        if (!Stick.IsThere()) GTEST_SKIP() << "nothing can be mounted here";
+        EXPECT_TRUE(QTest::qWaitFor([&] { return Told > 0; }, 3000));
+    }
+    const int Before = Told;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Told > Before; }, 3000));
+    Listener.reset();
+    Told = 0;
+    const harness::MountedMemory Stick(Folder.Path());
+    EXPECT_FALSE(QTest::qWaitFor([&] { return Told > 0; }, 500));
 }
 
 }  // namespace

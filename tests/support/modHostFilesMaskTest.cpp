@@ -23,6 +23,13 @@ TEST(HostFilesWalk, AMaskIsBlindToCaseAndStarPointStarIsEverything) {
             << Row.Mask << ' ' << Row.Name;
 }
 
+TEST(HostFilesWalk, AMaskKnowsHowItsNamesBegin) {
+    EXPECT_EQ(QString("00000012."), NameMask(QString("00000012.*")).Start());
+    EXPECT_EQ(QString("PLAIN.BMP"), NameMask(QString("plain.bmp")).Start());
+    for (const char* Any : {"*.*", "*x", "?x", ""})
+        EXPECT_EQ(QString(""), NameMask(QString::fromLatin1(Any)).Start()) << Any;
+}
+
 TEST(HostFilesWalk, TellsSizeAndTimeOfAFileAlone) {
     const harness::TempFolder Folder;
     const QString File = Folder / QStringLiteral("a.jpg");

@@ -2,9 +2,11 @@
 #include "support/modHostFiles.h"
 
 #include <gtest/gtest.h>
+
 #include <sys/stat.h>
 #include <QDir>
 #include <QFile>
+#include <fstream>
 
 #include "harness/TempFolder.h"
 #include "support/Fault.h"
@@ -90,6 +92,22 @@ TEST(HostFiles, AMaskMatchesWithoutRegardToCase) {
     EXPECT_EQ(ListMask(Dir / "00000012.*"), QStringList({"00000012.jpg", "00000012.WAV"}));
     EXPECT_EQ(ListMask(Dir / "00000012SMALL.*"), QStringList({"00000012Small.bmp"}));
     EXPECT_EQ(ListMask(Dir / "0000012?.jpg"), QStringList({"00000123.jpg"}));
+}
+
+TEST(HostFiles, AMaskFindsNamesThatDifferInCaseAloneAndFollowsWhatComesAndGoes) {
+    const TempFolder Dir;
+    for (const char* Name : {"12.jpg", "12.JPG", "12.wav", "12Small.bmp", "123.jpg", "1.jpg"})
+        std::ofstream((Dir / QString::fromLatin1(Name)).toStdString()) << "x";
+    MakeDirs(Dir / "12.dir");
+    EXPECT_EQ(QStringList({"12.JPG", "12.jpg", "12.wav"}), ListMask(Dir / "12.*"));
+    DeleteFile(Dir / "12.jpg");
+    EXPECT_EQ(QStringList({"12.JPG", "12.wav"}), ListMask(Dir / "12.*"));
+    WriteFile(Dir / "12.png", "x");
+    EXPECT_EQ(QStringList({"12.JPG", "12.png", "12.wav"}), ListMask(Dir / "12.*"));
+    EXPECT_EQ(QStringList({"12Small.bmp"}), ListMask(Dir / "12small.*"));
+    EXPECT_EQ(QStringList(), ListMask(Dir / "nowhere/12.*"));
+    RenameFile(Dir / "1.jpg", Dir / "12.mp3");
+    EXPECT_EQ(QStringList({"12.JPG", "12.mp3", "12.png", "12.wav"}), ListMask(Dir / "12.*"));
 }
 
 TEST(HostFiles, DeletingAMaskLeavesTheRest) {

@@ -1,0 +1,32 @@
+#include "support/modHostFilesMounts.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <QSocketNotifier>
+
+namespace neb {
+namespace {
+
+constexpr int SoonMs = 200;
+
+}  // namespace
+
+// The host marks the table as exceptional whenever it has changed, and takes the mark away when it
+// is looked at: nothing is read, and nothing happens while nothing is mounted.
+MountWatch::MountWatch(std::function<void()> Changed, QObject* Parent)
+    : QObject(Parent), mTable(open("/proc/self/mountinfo", O_RDONLY | O_CLOEXEC)) {
+    mSoon.setSingleShot(true);
+    mSoon.setInterval(SoonMs);
+    connect(&mSoon, &QTimer::timeout, this, std::move(Changed));
+    if (mTable < 0) return;
+    auto* Marked = new QSocketNotifier(mTable, QSocketNotifier::Exception, this);
+    connect(Marked, &QSocketNotifier::activated, this, [this] { mSoon.start(); });
+}
+
+MountWatch::~MountWatch() {
+    qDeleteAll(findChildren<QSocketNotifier*>());
+    if (mTable >= 0) close(mTable);
+}
+
+}  // namespace neb
