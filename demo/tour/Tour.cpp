@@ -5,16 +5,19 @@
 #include <QMessageBox>
 #include <QPixmap>
 #include <QScreen>
+#include <QTest>
 #include <QTimer>
 #include <cstdio>
 
+#include "support/Fault.h"
 #include "support/modHostFiles.h"
 
+namespace neb::demo {
 namespace {
 
 constexpr int PollMs = 30;
-constexpr int SettlePolls = 6;      // until what has just opened is painted
-constexpr int PatienceMs = 120000;  // a slow machine reads many pictures
+constexpr int SettlePolls = 6;     // until what has just opened is painted
+constexpr int PatienceMs = 60000;  // a slow machine reads many pictures
 
 // The whole screen; where the desktop does not give that out, the window in front.
 QPixmap GrabScreen() {
@@ -24,10 +27,48 @@ QPixmap GrabScreen() {
     return Screen.isNull() && Front ? Front->grab() : Screen;
 }
 
+QString BoxInTheWay() {
+    const auto* Box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    return Box ? Box->text() : QString();
+}
+
+QString InFront() {
+    const QWidget* Front = QApplication::activeWindow();
+    return Front ? Front->objectName() + u'/' + QLatin1String(Front->metaObject()->className())
+                 : QStringLiteral("nothing");
+}
+
 }  // namespace
 
+void Print(const QString& Line) {
+    if (Line.isEmpty()) return;
+    std::printf("  %s\n", qPrintable(Line));
+    std::fflush(stdout);
+}
+
+Tour::Tour(const QString& ScreenshotDir) : mScreenshotDir(ScreenshotDir) {
+    MakeDirs(mScreenshotDir);
+    mShots = ListMask(mScreenshotDir + QStringLiteral("/*.png")).size();
+}
+
+void Tour::Do(const QString& Name, std::function<bool()> Ready, std::function<void()> Act) {
+    Add({Name, std::move(Ready), std::move(Act), false});
+}
+
+void Tour::Look(const QString& Name, std::function<bool()> Ready) {
+    Add({Name, std::move(Ready), {}, true, true});
+}
+
+void Tour::Answer(const QString& Name, const QString& Box, bool Shot) {
+    Add({Name,
+         {},
+         [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return); },
+         Shot,
+         false,
+         Box});
+}
+
 void Tour::Start() {
-    neb::MakeDirs(mScreenshotDir);
     mWaiting.start();
     PollLater();
 }
@@ -37,29 +78,42 @@ void Tour::PollLater() {
     QTimer::singleShot(PollMs, this, &Tour::Poll);
 }
 
+template <class Part>
+auto Tour::Try(const QString& Name, const Part& Do) {
+    try {
+        return Do();
+    } catch (const Fault& Problem) {
+        Fail(Name, Problem.Text());
+    }
+}
+
 void Tour::Poll() {
     if (mDone == mSteps.size()) return Q_EMIT Ended();
     const Step& Now = mSteps[mDone];
-    if (WaitsOn(Now)) {
-        if (mWaiting.elapsed() > PatienceMs) return Fail(QStringLiteral("it took too long"));
+    if (Try(Now.Name, [&] { return WaitsOn(Now); })) {
+        if (mWaiting.elapsed() > PatienceMs) Fail(Now.Name, QStringLiteral("it took too long"));
         return PollLater();
     }
     if (!Now.Moving && mSettled++ < SettlePolls) return PollLater();
     mSettled = 0;
+    PollStep(Now);
+}
+
+void Tour::PollStep(const Step& Now) {
     if (Now.Shot) TakeShot(Now.Name);
     Print(mTell ? mTell() : QString());
     ++mDone;
     mWaiting.start();
     PollLater();
-    if (Now.Act) Now.Act();
+    if (Now.Act) Try(Now.Name, Now.Act);
 }
 
 // A box that the step does not speak of stands in the way.
 bool Tour::WaitsOn(const Step& Now) {
-    const auto* Box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-    if (Box && Box->text() != Now.Box)
-        Fail(QStringLiteral("a message box stands in the way: ") + Box->text());
-    return (!Box && !Now.Box.isEmpty()) || (Now.Ready && !Now.Ready());
+    const QString Box = BoxInTheWay();
+    if (Box != Now.Box && !Box.isEmpty())
+        throw Fault(QStringLiteral("a message box stands in the way: ") + Box);
+    return Box != Now.Box || (Now.Ready && !Now.Ready());
 }
 
 void Tour::TakeShot(const QString& Name) {
@@ -71,20 +125,15 @@ void Tour::TakeShot(const QString& Name) {
     QBuffer Buffer(&Png);
     Buffer.open(QIODevice::WriteOnly);
     GrabScreen().save(&Buffer, "PNG");
-    neb::WriteFile(File, Png);
+    WriteFile(File, Png);
     Print(File);
 }
 
-void Tour::Print(const QString& Line) {
-    if (Line.isEmpty()) return;
-    std::printf("  %s\n", qPrintable(Line));
-    std::fflush(stdout);
+void Tour::Fail(const QString& Name, const QString& Reason) {
+    TakeShot(QStringLiteral("failed"));
+    std::fprintf(stderr, "neb-demo: at the step \"%s\": %s (in front: %s)\n", qPrintable(Name),
+                 qPrintable(Reason), qPrintable(InFront()));
+    std::_Exit(1);
 }
 
-void Tour::Fail(const QString& Reason) {
-    TakeShot(QStringLiteral("failed"));
-    std::fprintf(stderr, "neb-demo: at the step \"%s\": %s\n", qPrintable(mSteps[mDone].Name),
-                 qPrintable(Reason));
-    QApplication::exit(1);
-    std::exit(1);
-}
+}  // namespace neb::demo

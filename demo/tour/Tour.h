@@ -1,5 +1,6 @@
 // Walks through the program as a user would, one step after the other: each step waits until the
-// program is ready for it, takes a picture of the screen and then presses a key or a button.
+// program is ready for it, takes a picture of the screen and then presses a key or a button. What
+// goes wrong ends the walk and is told under the step's name.
 #pragma once
 
 #include <QElapsedTimer>
@@ -7,6 +8,8 @@
 #include <QString>
 #include <functional>
 #include <vector>
+
+namespace neb::demo {
 
 class Tour : public QObject {
     Q_OBJECT
@@ -21,12 +24,17 @@ class Tour : public QObject {
         QString Box = {};     // what the message box says that is up then; empty: none may be
     };
 
-    // Screenshots go to that folder as 01-name.png, 02-...
-    explicit Tour(const QString& ScreenshotDir) : mScreenshotDir(ScreenshotDir) {}
+    // Screenshots go to that folder as 01-name.png, 02-...; behind those that are there already.
+    explicit Tour(const QString& ScreenshotDir);
 
     // Asked at each step; what it answers is printed as a line of its own, unless it is empty.
     void SetTeller(std::function<QString()> Tell) { mTell = std::move(Tell); }
     void Add(Step Next) { mSteps.push_back(std::move(Next)); }
+    // Steps without a picture and those that do not wait until the window is painted.
+    void Do(const QString& Name, std::function<bool()> Ready, std::function<void()> Act);
+    void Look(const QString& Name, std::function<bool()> Ready);
+    // Presses the default button of a message box.
+    void Answer(const QString& Name, const QString& Box, bool Shot = true);
     void Start();
     bool Succeeded() const { return mDone == mSteps.size(); }
 
@@ -35,17 +43,25 @@ class Tour : public QObject {
 
   private:
     void Poll();
+    void PollStep(const Step& Now);
     void PollLater();
-    void Print(const QString& Line);
     void TakeShot(const QString& Name);
-    void Fail(const QString& Reason);
+    [[noreturn]] void Fail(const QString& Name, const QString& Reason);
     bool WaitsOn(const Step& Now);
+    // Runs a part of a step; a fault in it fails the step.
+    template <class Part>
+    auto Try(const QString& Name, const Part& Do);
 
     QString mScreenshotDir;
     std::function<QString()> mTell;
     std::vector<Step> mSteps;
     size_t mDone = 0;
-    int mShots = 0;
+    qsizetype mShots = 0;
     int mSettled = 0;
     QElapsedTimer mWaiting;
 };
+
+// A line of the tour's tale on the standard output.
+void Print(const QString& Line);
+
+}  // namespace neb::demo

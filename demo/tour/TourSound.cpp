@@ -7,8 +7,7 @@
 #include "support/Services.h"
 #include "support/modFUFL.h"
 
-using namespace neb;
-
+namespace neb::demo {
 namespace {
 
 class ToldGraph;
@@ -44,10 +43,10 @@ class ToldGraph : public SoundGraph {
 
 // The chime as bytes of 8 bits, at the rate that the recorder asks for; silence after it.
 QByteArray ChimeBytes(std::uint32_t Rate) {
-    demo::Tune Chime = demo::AllTunes().back();
+    Tune Chime = AllTunes().back();
     Chime.Rate = static_cast<int>(Rate);
     QByteArray Bytes;
-    for (const double Sample : demo::Render(Chime).Left)
+    for (const double Sample : Render(Chime).Left)
         Bytes.append(static_cast<char>(std::lround(128 + Sample * 127)));
     return Bytes;
 }
@@ -117,3 +116,5 @@ std::unique_ptr<SoundGraph> TourSound::CreateGraph() {
 std::unique_ptr<CaptureDevice> TourSound::CreateCapture() {
     return std::make_unique<ChimeMicrophone>();
 }
+
+}  // namespace neb::demo

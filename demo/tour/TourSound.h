@@ -7,22 +7,27 @@
 
 #include "platform/sound/SoundDevices.h"
 
-class TourSound : public neb::SoundDevices {
+namespace neb::demo {
+
+class TourSound : public SoundDevices {
   public:
-    explicit TourSound(neb::SoundDevices& Machine) : mMachine(Machine) {}
+    explicit TourSound(SoundDevices& Machine) : mMachine(Machine) {}
 
     // The player that runs at the moment: "00000001_1.wav at 0:03"; empty when none does.
     static QString NowPlaying();
 
-    std::unique_ptr<neb::SoundGraph> CreateGraph() override;
+    std::unique_ptr<SoundGraph> CreateGraph() override;
+    std::shared_ptr<void> Hold() override { return mMachine.Hold(); }
     void LoadAhead(const QString& Path) override { mMachine.LoadAhead(Path); }
-    std::unique_ptr<neb::CaptureDevice> CreateCapture() override;
-    neb::PlaybackState CheckPlayback() override { return mMachine.CheckPlayback(); }
-    std::unique_ptr<neb::SoundGraph> CreateSoundBuffer(const neb::WaveFormat& Format,
-                                                       const QByteArray& Bytes) override {
+    std::unique_ptr<CaptureDevice> CreateCapture() override;
+    PlaybackState CheckPlayback() override { return mMachine.CheckPlayback(); }
+    std::unique_ptr<SoundGraph> CreateSoundBuffer(const WaveFormat& Format,
+                                                  const QByteArray& Bytes) override {
         return mMachine.CreateSoundBuffer(Format, Bytes);
     }
 
   private:
-    neb::SoundDevices& mMachine;
+    SoundDevices& mMachine;
 };
+
+}  // namespace neb::demo

@@ -1,9 +1,9 @@
-// usage: neb-demo --folder PICTURES --documents DIR --screenshots DIR [--show NAME] [--music DIR]
+// usage: neb-demo --folder PICTURES --documents DIR --screenshots DIR [--music DIR]
+//        neb-demo --again --documents DIR --screenshots DIR
 #include <QCommandLineParser>
 #include <cstdio>
 
 #include "Tour.h"
-#include "TourMusic.h"
 #include "TourSound.h"
 #include "TourSteps.h"
 #include "shell/main/DesktopServices.h"
@@ -12,34 +12,53 @@
 #include "support/Services.h"
 #include "support/windows/NebApplication.h"
 
-int main(int argc, char** argv) {
-    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    neb::NebApplication App(argc, argv);
-    const neb::DesktopServices Services;
+namespace {
 
-    QCommandLineParser Parser;
+void AddOptions(QCommandLineParser& Parser) {
     Parser.addHelpOption();
     Parser.addOptions({{"folder", "Pictures to show.", "dir"},
                        {"documents", "Documents folder of the database.", "dir"},
                        {"screenshots", "Where the screenshots go.", "dir"},
-                       {"music", "Sample music to lay over the show.", "dir"},
-                       // Not "name": the window system takes that for itself.
-                       {"show", "Name of the album and the show.", "name", "A Year in Pictures"}});
-    Parser.process(App);
-    for (const char* Needed : {"folder", "documents", "screenshots"})
-        if (!Parser.isSet(Needed)) return std::fprintf(stderr, "neb-demo: --%s?\n", Needed), 2;
+                       {"music", "Sample music for a show; without it Quick Show alone.", "dir"},
+                       {"again", "Start once more and go on with the show that was left."}});
+}
 
-    TourSound Sound(*neb::TheServices().Sound);
-    neb::TheServices().Sound = &Sound;
-    if (Parser.isSet("music")) LayMusicOverFirstShow(Parser.value("music"));
-    neb::SetDocumentsPath(Parser.value("documents"));
+// Null when all is there that is needed.
+const char* Missing(const QCommandLineParser& Parser) {
+    for (const char* Needed : {"documents", "screenshots", "folder"})
+        if (!Parser.isSet(Needed) && !(Parser.isSet("again") && qstrcmp(Needed, "folder") == 0))
+            return Needed;
+    return nullptr;
+}
+
+int Walk(neb::NebApplication& App, const QCommandLineParser& Parser) {
     neb::frmNEBSlideShow Window;
-    Tour Guide(Parser.value("screenshots"));
-    AddSteps(Guide, Window, Parser.value("folder"), Parser.value("show"));
-    QObject::connect(&Guide, &Tour::Ended, &App, &QApplication::quit);
+    neb::demo::Tour Guide(Parser.value("screenshots"));
+    if (Parser.isSet("again"))
+        neb::demo::AddReturn(Guide, Window);
+    else
+        neb::demo::AddRoad(Guide, Window, {Parser.value("folder"), Parser.value("music")});
+    QObject::connect(&Guide, &neb::demo::Tour::Ended, &App, &QApplication::quit);
     App.setQuitOnLastWindowClosed(false);
     Guide.Start();
     Window.Form_Load({});
     App.exec();
     return Guide.Succeeded() ? 0 : 1;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    neb::NebApplication App(argc, argv);
+    const neb::DesktopServices Services;
+    QCommandLineParser Parser;
+    AddOptions(Parser);
+    Parser.process(App);
+    if (const char* Option = Missing(Parser))
+        return std::fprintf(stderr, "neb-demo: --%s?\n", Option), 2;
+    neb::demo::TourSound Sound(*neb::TheServices().Sound);
+    neb::TheServices().Sound = &Sound;
+    neb::SetDocumentsPath(Parser.value("documents"));
+    return Walk(App, Parser);
 }

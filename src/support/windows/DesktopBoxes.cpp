@@ -5,6 +5,7 @@
 #include <QMessageBox>
 #include <QPointer>
 
+#include "support/windows/FocusReturn.h"
 #include "support/windows/ScreenPointer.h"
 
 namespace neb {
@@ -63,6 +64,7 @@ BoxAnswer DesktopBoxes::Show(const BoxRequest& Request) {
     Fill(*Box, Request);
     const int Button = Box->exec();
     delete Box;
+    AwaitFocus();
     if (Request.Buttons == BoxButtons::Ok) return BoxAnswer::Ok;
     return Button == QMessageBox::Yes ? BoxAnswer::Yes : BoxAnswer::No;
 }

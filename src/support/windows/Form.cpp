@@ -4,6 +4,8 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 
+#include "support/windows/FocusReturn.h"
+
 namespace neb {
 namespace {
 
@@ -45,6 +47,7 @@ void Form::ShowModal() {
     mModal = true;
     exec();
     mModal = false;
+    AwaitFocus();
     if (mRaised) std::rethrow_exception(std::exchange(mRaised, nullptr));
 }
 
