@@ -56,6 +56,7 @@ void frmSlideShowDBM::SetUpTracks() {
         Grid.SetColumn(Col, {.Kind = Columns[Col].Kind,
                              .Editable = !ReadOnlyDB,
                              .Stretch = Col == ColFile,
+                             .IsPath = Col == ColFile,
                              .Heading = QString::fromLatin1(Columns[Col].Heading)});
     Grid.SetRows(TrackRows);
     Grid.SetBeforeEdit([this](int Row, int) { return Row < mUi->flxSoundTracks->Rows(); });

@@ -25,7 +25,8 @@ void SetSlideColumns(FlexGrid& Grid, bool EditCaptions) {
         {.Kind = FlexKind::Picture, .Align = Qt::AlignCenter, .Heading = FlexGrid::tr("Picture")});
     Grid.SetColumn(clsImageBuffer::ColText,
                    {.Editable = EditCaptions, .Stretch = true, .Heading = FlexGrid::tr("Caption")});
-    Grid.SetColumn(clsImageBuffer::ColPath, {.Width = Digits(14), .Heading = FlexGrid::tr("File")});
+    Grid.SetColumn(clsImageBuffer::ColPath,
+                   {.IsPath = true, .Width = Digits(18), .Heading = FlexGrid::tr("File")});
     Grid.SetColumn(clsImageBuffer::ColSlideID,
                    {.Width = Digits(6), .Align = Qt::AlignRight, .Heading = FlexGrid::tr("Slide")});
     Grid.SetColumn(SlideColUnused, {.Hidden = true});

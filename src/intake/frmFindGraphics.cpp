@@ -97,7 +97,9 @@ void frmFindGraphics::SetUpGrid() {
     Grid.SetCols(ColCount);
     for (int Col = 0; Col < ColCount; ++Col) {
         const auto& Each = Columns[Col];
-        Grid.SetColumn(Col, {.Align = Each.Align, .Heading = QString::fromLatin1(Each.Heading)});
+        Grid.SetColumn(Col, {.IsPath = Col == ColPath,
+                             .Align = Each.Align,
+                             .Heading = QString::fromLatin1(Each.Heading)});
     }
     Grid.SetEmptyText(
         tr("Choose where to look and press Search.\n"

@@ -52,7 +52,7 @@ QStyleOptionViewItem FlexGridDelegate::Styled(const QStyleOptionViewItem& Option
     initStyleOption(&Own, Index);
     if (!Own.widget) Own.widget = mGrid;
     Own.features &= ~QStyleOptionViewItem::HasCheckIndicator;  // ours stands in the middle
-    Own.textElideMode = Qt::ElideRight;
+    Own.textElideMode = mGrid->Column(Index.column()).IsPath ? Qt::ElideMiddle : Qt::ElideRight;
     if (mGrid->Column(Index.column()).Kind == FlexKind::Fixed)
         Own.backgroundBrush = Own.palette.button();
     return Own;

@@ -25,6 +25,7 @@ struct FlexColumn {
     bool Editable = false;
     bool Stretch = false;  // takes the room that the others leave
     bool Hidden = false;
+    bool IsPath = false;  // of the path of a file its end is seen in any case
     int Width = 0;  // pixels; 0: what the kind of column needs
     Qt::Alignment Align = Qt::AlignLeft;
     QString Heading;   // a grid with no headings shows no heading row
