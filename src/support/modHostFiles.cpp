@@ -5,10 +5,10 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QStorageInfo>
-#include <filesystem>
 
 #include "support/Fault.h"
 #include "support/NameCache.h"
+#include "support/OpenDir.h"
 #include "support/modHostFilesMask.h"
 
 namespace neb {
@@ -34,17 +34,14 @@ QString CorrectCase(const QString& Host) {
 
 // False when the directory cannot be opened; Error also tells of a listing that broke off.
 bool ReadNames(const QString& Dir, std::vector<DirEntry>& Entries, std::error_code& Error) {
-    namespace fs = std::filesystem;
-    const auto Native = QFile::encodeName(Dir.isEmpty() ? QStringLiteral(".") : Dir);
-    fs::directory_iterator Iterator(fs::path(Native.constData()), Error);
-    const bool Readable = !Error;
-    for (; !Error && Iterator != fs::directory_iterator(); Iterator.increment(Error)) {
-        std::error_code Ignored;
-        const std::string Name = Iterator->path().filename().string();
-        Entries.push_back({QFile::decodeName(Name.c_str()), Iterator->is_directory(Ignored),
-                           Iterator->is_symlink(Ignored)});
-    }
-    return Readable;
+    OpenDir Open(QFile::encodeName(Dir.isEmpty() ? QStringLiteral(".") : Dir).toStdString());
+    const dirent* Entry = nullptr;
+    while (Open && (Entry = Open.Next()))
+        if (!IsDots(Entry->d_name))
+            Entries.push_back({QFile::decodeName(Entry->d_name),
+                               KindOf(Open, *Entry) == Kind::Folder, IsLink(Open, *Entry)});
+    Error = Open.Error();
+    return static_cast<bool>(Open);
 }
 
 void SortByUpperName(std::vector<DirEntry>& Entries) {

@@ -1,8 +1,5 @@
 #include "support/modHostFilesWalk.h"
 
-#include <dirent.h>
-#include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <QFile>
@@ -11,39 +8,11 @@
 #include <utility>
 #include <vector>
 
+#include "support/OpenDir.h"
 #include "support/modHostFiles.h"
 
 namespace neb {
 namespace {
-
-class OpenDir {
-  public:
-    explicit OpenDir(const std::string& Path) : mDir(opendir(Path.c_str())) {}
-    ~OpenDir() {
-        if (mDir) closedir(mDir);
-    }
-    OpenDir(const OpenDir&) = delete;
-    OpenDir& operator=(const OpenDir&) = delete;
-    explicit operator bool() const { return mDir != nullptr; }
-    int Number() const { return dirfd(mDir); }
-    const dirent* Next() { return readdir(mDir); }
-
-  private:
-    DIR* mDir;
-};
-
-enum class Kind { Folder, File, Other };
-
-// The listing mostly tells what an entry is, and the host need not be asked once more.
-Kind KindOf(const OpenDir& Dir, const dirent& Entry) {
-    if (Entry.d_type == DT_DIR) return Kind::Folder;
-    if (Entry.d_type == DT_REG) return Kind::File;
-    if (Entry.d_type != DT_LNK && Entry.d_type != DT_UNKNOWN) return Kind::Other;
-    struct stat Real = {};
-    if (fstatat(Dir.Number(), Entry.d_name, &Real, 0) != 0) return Kind::Other;
-    if (S_ISDIR(Real.st_mode)) return Kind::Folder;
-    return S_ISREG(Real.st_mode) ? Kind::File : Kind::Other;
-}
 
 // Whether the program can address a file of this name: not when its bytes are no text.
 bool IsText(std::string_view Name) {
@@ -85,7 +54,7 @@ class Walker {
     bool List(OpenDir& Dir, std::vector<std::string>& Below) {
         while (const dirent* Entry = Dir.Next()) {
             const std::string_view Name = Entry->d_name;
-            if (Name == "." || Name == "..") continue;
+            if (IsDots(Entry->d_name)) continue;
             if (mRecurse || mWalk.Wants(Name)) Take(Dir, *Entry, Below);
             if (!mWalk.GoesOn()) return false;
         }
