@@ -41,7 +41,7 @@ void frmAlbumRename::Save() {
     const auto Chosen = ChosenAlbum();
     if (!Chosen || !IsNameGiven(mAdjective, mUi->txtAlbumName->text())) return;
     std::int32_t AlbumID = *Chosen;
-    DBEngine->SaveAlbum(AlbumID, CleanText(mUi->txtAlbumName->text()));
+    DBEngine->SaveAlbum(AlbumID, ConvertQuotes(mUi->txtAlbumName->text()));
     Broadcast(QStringLiteral("Update"), AlbumID);
     NoteDone();
     Unload();

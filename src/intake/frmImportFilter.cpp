@@ -57,7 +57,7 @@ void frmImportFilter::StartOperation() {
 }
 
 bool frmImportFilter::MakeAlbum() {
-    if (!NewAlbum(*DBEngine, mAlbumID, CleanText(mAlbumName))) return false;
+    if (!NewAlbum(*DBEngine, mAlbumID, ConvertQuotes(mAlbumName))) return false;
     BroadcastEvent(QStringLiteral("Album"), QStringLiteral("Insert"), this, {mAlbumID});
     return true;
 }

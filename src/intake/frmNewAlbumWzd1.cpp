@@ -50,7 +50,7 @@ bool frmNewAlbumWzd1::HasFreeName() {
         mUi->txtAlbumName->setFocus();
         return false;
     }
-    mUi->txtAlbumName->setText(CleanText(mUi->txtAlbumName->text()));
+    mUi->txtAlbumName->setText(ConvertQuotes(mUi->txtAlbumName->text()));
     if (!DBEngine->FindAlbum(0, mUi->txtAlbumName->text())) return true;
     MsgBox(QStringLiteral("Album Name is already in use."), QStringLiteral("Invalid Album Name"),
            BoxIcon::Critical);

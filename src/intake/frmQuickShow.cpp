@@ -37,7 +37,7 @@ frmQuickShow::frmQuickShow() : ImportForm(Memory) {
 void frmQuickShow::DirectoryChosen(const QString& Directory) {
     const bool Typed = !mUi->txtName->text().isEmpty() && mUi->txtName->text() != mProposedName;
     if (Typed || mUi->flxSelected->Rows() > 0 || mUi->flxNonSelected->Rows() > 0) return;
-    mProposedName = CleanText(GetFileName(Directory.chopped(1)));
+    mProposedName = ConvertQuotes(GetFileName(Directory.chopped(1)));
     mUi->txtName->setText(mProposedName);
 }
 
@@ -48,7 +48,7 @@ void frmQuickShow::Import() {
         MsgBox(QStringLiteral("You must specify a name for the new slideshow."));
         return;
     }
-    mUi->txtName->setText(CleanText(mUi->txtName->text()));
+    mUi->txtName->setText(ConvertQuotes(mUi->txtName->text()));
     if (!HasSelection()) return;
     if (DBEngine->FindAlbum(0, mUi->txtName->text())) {
         MsgBox(QStringLiteral("Album Name is already in use."),
@@ -74,7 +74,7 @@ void frmQuickShow::StartOperation() {
 }
 
 bool frmQuickShow::MakeAlbum() {
-    if (!NewAlbum(*DBEngine, mAlbumID, CleanText(mAlbumName))) {
+    if (!NewAlbum(*DBEngine, mAlbumID, ConvertQuotes(mAlbumName))) {
         MsgBox(QStringLiteral("Failed to save album."));
         return false;
     }
@@ -89,7 +89,7 @@ clsNEBSlideShow* frmQuickShow::MakeSlideShow() {
     clsNEBAlbum* Album = DBEngine->GetAlbum(mAlbumID);
     mSlideShowID = 0;
     const bool Saved =
-        Album->SaveSlideShow(mSlideShowID, CleanText(mAlbumName), Automatic, *DBEngine);
+        Album->SaveSlideShow(mSlideShowID, ConvertQuotes(mAlbumName), Automatic, *DBEngine);
     clsNEBSlideShow* SlideShow = Saved ? Album->GetSlideShow(mSlideShowID) : nullptr;
     if (SlideShow) return SlideShow;
     MsgBox(Saved ? QStringLiteral("Failed to load slide show after save.")

@@ -48,7 +48,7 @@ bool IsNameGiven(const QString& Adjective, const QString& Name) {
 void KeepQuotesClean(QLineEdit& Field) {
     new KeyFilter(&Field, &FixQuoteKey);
     QObject::connect(&Field, &QLineEdit::editingFinished, &Field, [&Field] {
-        const QString Clean = CleanText(Field.text());
+        const QString Clean = ConvertQuotes(Field.text());
         if (Clean != Field.text()) Field.setText(Clean);
     });
 }

@@ -8,7 +8,7 @@
 
 #include "support/Fault.h"
 #include "support/NameCache.h"
-#include "support/OpenDir.h"
+#include "support/modHostFilesListing.h"
 #include "support/modHostFilesMask.h"
 
 namespace neb {

@@ -8,8 +8,8 @@
 #include <utility>
 #include <vector>
 
-#include "support/OpenDir.h"
 #include "support/modHostFiles.h"
+#include "support/modHostFilesListing.h"
 
 namespace neb {
 namespace {

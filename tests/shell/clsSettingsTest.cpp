@@ -268,7 +268,7 @@ TEST_F(SettingsTest, ADamagedFileIsNotReplacedWhenItCannotBeKeptAside) {
     const QByteArray Old = "no setting at all\n";
     clsSettings Settings = OpenWith(Old);
     SetHostWatcher([](HostStep Step, const QString& At, qint64&) {
-        if (Step == HostStep::Write && At.endsWith(QStringLiteral(".damaged")))
+        if (Step == HostStep::Write && At.contains(QStringLiteral(".damaged")))
             throw Fault(QStringLiteral("refused"), At);
     });
     EXPECT_THROW(Settings.Save(), Fault);
