@@ -2,12 +2,17 @@
 // and pictures that are never looked at.
 #pragma once
 
+#include <QTemporaryDir>
 #include <chrono>
+#include <cstdio>
 
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
+#include "intake/clsImageBuffer.h"
 #include "intake/modImport.h"
+#include "platform/FlexGrid.h"
 #include "platform/ImgX.h"
+#include "shell/modNEBSlideShow.h"
 #include "support/modHostFiles.h"
 
 namespace neb {
@@ -42,5 +47,43 @@ inline std::int32_t MakeBenchAlbum(clsDBEngine& Engine, int Slides) {
     }
     return AlbumID;
 }
+
+// Reads the thumbnails of an album whose slides are numbered from 1: what a list of them costs at
+// least.
+inline double PlainReading(const clsDBEngine& Engine, std::int32_t AlbumID, int Slides) {
+    const double Start = Seconds();
+    qint64 Pixels = 0;
+    for (int ID = 1; ID <= Slides; ++ID)
+        Pixels += QImage(ThumbnailPath(Engine, AlbumID, ID)).width();
+    if (Pixels != Slides * ThumbnailSize.width()) std::puts("the thumbnails were not read");
+    return Seconds() - Start;
+}
+
+// A database of its own for as long as it lives, as the program's.
+struct BenchDatabase {
+    BenchDatabase() {
+        SetDocumentsPath(Dir.path() + u'/');
+        Engine.SetDBPath(Dir.path());
+        Engine.InitializeDB();
+        DBEngine = &Engine;
+    }
+    QTemporaryDir Dir;
+    clsDBEngine Engine;
+};
+
+// The store of thumbnails of the program, empty at first.
+struct BenchBuffer {
+    BenchBuffer() {
+        Buffer.BufferGrid = &Store;
+        Buffer.UseSmallFiles = true;
+        ImageBuffer = &Buffer;
+    }
+    ~BenchBuffer() {
+        ImageBuffer = nullptr;
+        Buffer.BufferGrid = nullptr;
+    }
+    FlexGrid Store;
+    clsImageBuffer Buffer;
+};
 
 }  // namespace neb

@@ -2,20 +2,11 @@
 // of the same thumbnail files, and saving all captions, against a plain loop that writes the same
 // texts.
 #include <QPushButton>
-#include <QTemporaryDir>
-#include <chrono>
 #include <cstdio>
 
-#include "db/clsDBEngine.h"
-#include "db/modAlbumFiles.h"
-#include "intake/clsImageBuffer.h"
+#include "BenchAlbum.h"
 #include "intake/frmSlideMgrBulk.h"
-#include "intake/modImport.h"
-#include "platform/FlexGrid.h"
-#include "platform/ImgX.h"
-#include "shell/modNEBSlideShow.h"
 #include "support/Services.h"
-#include "support/modHostFiles.h"
 #include "support/windows/NebApplication.h"
 
 using namespace neb;
@@ -25,11 +16,6 @@ namespace {
 constexpr int Slides = 10000;
 constexpr int Runs = 3;
 constexpr int Saves = 10;  // in each run: a save is over in a few milliseconds
-
-double Seconds() {
-    using namespace std::chrono;
-    return duration<double>(steady_clock::now().time_since_epoch()).count();
-}
 
 // Answers at once, and notes how long ago the work began.
 class QuickBoxes : public MessageBoxes {
@@ -42,38 +28,6 @@ class QuickBoxes : public MessageBoxes {
     }
     double Began = 0, Took = 0;
 };
-
-QString ThumbnailPath(const clsDBEngine& Engine, std::int32_t SlideID) {
-    return SlidesFolder(Engine.DBPath(), 1) + ThumbnailName(SlideID);
-}
-
-void MakeAlbum(clsDBEngine& Engine) {
-    std::int32_t AlbumID = 0;
-    Engine.SaveAlbum(AlbumID, QStringLiteral("Ten thousand"));
-    MakeAlbumFolders(Engine, AlbumID);
-    QImage Thumbnail(ThumbnailSize, QImage::Format_RGB32);
-    for (int I = 0; I < Slides; ++I) {
-        std::int32_t SlideID = 0;
-        // the captions in another order than the numbers
-        clsNEBSlide* Slide = Engine.GetAlbum(AlbumID)->SaveSlide2(
-            SlideID, QStringLiteral("Holiday picture %1").arg(I * 7919 % Slides), {}, {}, false,
-            false, Engine);
-        Slide->SlideLoc = FileStem(SlideID) + QStringLiteral(".JPG");
-        Thumbnail.fill(0xFF000000U | static_cast<unsigned>(I * 7919));
-        WriteFile(
-            SlidesFolder(Engine.DBPath(), AlbumID) + FileStem(SlideID) + QStringLiteral(".jpg"),
-            "x");
-        WriteFile(ThumbnailPath(Engine, SlideID), ThumbnailBmp(Thumbnail));
-    }
-}
-
-double PlainReading(const clsDBEngine& Engine) {
-    const double Start = Seconds();
-    qint64 Pixels = 0;
-    for (int ID = 1; ID <= Slides; ++ID) Pixels += QImage(ThumbnailPath(Engine, ID)).width();
-    if (Pixels != Slides * ThumbnailSize.width()) std::puts("the thumbnails were not read");
-    return Seconds() - Start;
-}
 
 // The same texts written to the same slides in the same order, each a text of its own.
 double PlainRewriting(clsNEBAlbum& Album, const FlexGrid& Grid) {
@@ -107,12 +61,8 @@ struct Figures {
 };
 
 void Measure(clsDBEngine& Engine, QuickBoxes& Boxes, Figures& Best) {
-    FlexGrid Store;
-    clsImageBuffer Buffer;
-    Buffer.BufferGrid = &Store;
-    Buffer.UseSmallFiles = true;
-    ImageBuffer = &Buffer;
-    Best.Reading = std::min(Best.Reading, PlainReading(Engine));
+    const BenchBuffer Thumbnails;
+    Best.Reading = std::min(Best.Reading, PlainReading(Engine, 1, Slides));
     const auto Window = NewForm<frmSlideMgrBulk>();
     double Start = Seconds(), Last = Start;
     SetDoEventsHook([&] {
@@ -146,18 +96,13 @@ void Measure(clsDBEngine& Engine, QuickBoxes& Boxes, Figures& Best) {
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     NebApplication App(argc, argv);
-    QTemporaryDir Dir;
-    SetDocumentsPath(Dir.path() + u'/');
-    clsDBEngine Engine;
-    Engine.SetDBPath(Dir.path());
-    Engine.InitializeDB();
-    DBEngine = &Engine;
-    MakeAlbum(Engine);
+    BenchDatabase Database;
+    MakeBenchAlbum(Database.Engine, Slides);
     QuickBoxes Boxes;
     TheServices().Boxes = &Boxes;
 
     Figures Best;
-    for (int I = 0; I < Runs; ++I) Measure(Engine, Boxes, Best);
+    for (int I = 0; I < Runs; ++I) Measure(Database.Engine, Boxes, Best);
     std::printf("Bulk slide manager on an album of %d slides (best of %d)\n", Slides, Runs);
     std::printf("  filling, first time   %7.0f rows/s   %.2f x the plain reading (limit 3)\n",
                 Slides / Best.Filling, Best.Filling / Best.Reading);

@@ -3,25 +3,16 @@
 //   bench_bulk_delete [SLIDES]   so many slides are deleted one by one, at first 1000
 #include <QComboBox>
 #include <QPushButton>
-#include <QTemporaryDir>
 #include <QTimer>
-#include <chrono>
 #include <cstdio>
 #include <ctime>
 
-#include "db/clsDBEngine.h"
-#include "db/modAlbumFiles.h"
-#include "intake/clsImageBuffer.h"
+#include "BenchAlbum.h"
 #include "intake/frmAlbumDelete.h"
 #include "intake/frmSlideDBM.h"
 #include "intake/frmSlideMgrBulk.h"
 #include "intake/modAlbumNames.h"
-#include "intake/modImport.h"
-#include "platform/FlexGrid.h"
-#include "platform/ImgX.h"
-#include "shell/modNEBSlideShow.h"
 #include "support/Services.h"
-#include "support/modHostFiles.h"
 #include "support/windows/NebApplication.h"
 
 using namespace neb;
@@ -29,11 +20,6 @@ using namespace neb;
 namespace {
 
 constexpr int BigAlbum = 10000;  // slides, and twice as many files
-
-double Seconds() {
-    using namespace std::chrono;
-    return duration<double>(steady_clock::now().time_since_epoch()).count();
-}
 
 class YesBoxes : public MessageBoxes {
   public:
@@ -78,25 +64,6 @@ class GapMeter {
     double mLastWork = WorkSeconds(), mWork = 0;
 };
 
-std::int32_t MakeAlbum(clsDBEngine& Engine, int Slides) {
-    std::int32_t AlbumID = 0;
-    Engine.SaveAlbum(AlbumID, QStringLiteral("Album of %1").arg(Slides));
-    MakeAlbumFolders(Engine, AlbumID);
-    QImage Thumbnail(ThumbnailSize, QImage::Format_RGB32);
-    Thumbnail.fill(Qt::red);
-    const QString Folder = SlidesFolder(Engine.DBPath(), AlbumID);
-    for (int I = 0; I < Slides; ++I) {
-        std::int32_t SlideID = 0;
-        clsNEBSlide* Slide = Engine.GetAlbum(AlbumID)->SaveSlide2(
-            SlideID, QStringLiteral("Holiday picture %1").arg(I * 7919 % Slides), {}, {}, false,
-            false, Engine);
-        Slide->SlideLoc = FileStem(SlideID) + QStringLiteral(".JPG");
-        WriteFile(Folder + FileStem(SlideID) + QStringLiteral(".jpg"), "x");
-        WriteFile(Folder + ThumbnailName(SlideID), ThumbnailBmp(Thumbnail));
-    }
-    return AlbumID;
-}
-
 std::shared_ptr<frmSlideMgrBulk> OpenBulk(std::int32_t AlbumID) {
     auto Window = NewForm<frmSlideMgrBulk>();
     Window->LoadAlbumMgr(AlbumID);
@@ -105,7 +72,7 @@ std::shared_ptr<frmSlideMgrBulk> OpenBulk(std::int32_t AlbumID) {
 
 // Half of an album's slides go; every other row, so that the rows do not lie together.
 void DeleteSlides(clsDBEngine& Engine, YesBoxes& Boxes, int Slides) {
-    const std::int32_t AlbumID = MakeAlbum(Engine, 2 * Slides);
+    const std::int32_t AlbumID = MakeBenchAlbum(Engine, 2 * Slides);
     const auto One = OpenBulk(AlbumID), Other = OpenBulk(AlbumID);
     const auto Manager = NewForm<frmSlideDBM>();
     Manager->LoadSlideMgr();
@@ -128,7 +95,7 @@ void DeleteSlides(clsDBEngine& Engine, YesBoxes& Boxes, int Slides) {
 }
 
 void DeleteAlbum(clsDBEngine& Engine) {
-    const std::int32_t AlbumID = MakeAlbum(Engine, BigAlbum);
+    const std::int32_t AlbumID = MakeBenchAlbum(Engine, BigAlbum);
     QTimer::singleShot(0, [] {
         for (const auto& Each : LoadedForms())
             if (auto* Window = dynamic_cast<frmAlbumDelete*>(Each.get()))
@@ -147,27 +114,17 @@ void DeleteAlbum(clsDBEngine& Engine) {
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     NebApplication App(argc, argv);
-    QTemporaryDir Dir;
-    SetDocumentsPath(Dir.path() + u'/');
-    AppPathCache = Dir.path() + u'/';
-    QImage(60, 40, QImage::Format_RGB32).save(Dir.path() + QStringLiteral("/NoSlide.bmp"));
-    clsDBEngine Engine;
-    Engine.SetDBPath(Dir.path());
-    Engine.InitializeDB();
-    DBEngine = &Engine;
-    FlexGrid Store;
-    clsImageBuffer Buffer;
-    Buffer.BufferGrid = &Store;
-    Buffer.UseSmallFiles = true;
-    ImageBuffer = &Buffer;
+    BenchDatabase Database;
+    AppPathCache = Database.Dir.path() + u'/';
+    QImage(60, 40, QImage::Format_RGB32).save(AppPathCache + QStringLiteral("NoSlide.bmp"));
+    const BenchBuffer Thumbnails;
     YesBoxes Boxes;
     TheServices().Boxes = &Boxes;
     const int Slides = argc > 1 ? std::atoi(argv[1]) : 1000;
     std::puts("Deleting slides, with a second bulk slide manager and a slide manager open");
-    for (const int Count : {Slides / 4, Slides / 2, Slides}) DeleteSlides(Engine, Boxes, Count);
+    for (const int Count : {Slides / 4, Slides / 2, Slides})
+        DeleteSlides(Database.Engine, Boxes, Count);
     std::puts("Deleting an album");
-    for (int I = 0; I < 3; ++I) DeleteAlbum(Engine);
-    ImageBuffer = nullptr;
-    Buffer.BufferGrid = nullptr;
+    for (int I = 0; I < 3; ++I) DeleteAlbum(Database.Engine);
     return 0;
 }

@@ -3,14 +3,9 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QTemporaryDir>
-#include <cstdio>
 
 #include "BenchAlbum.h"
 #include "authoring/frmSlideShowDBM.h"
-#include "intake/clsImageBuffer.h"
-#include "platform/FlexGrid.h"
-#include "shell/modNEBSlideShow.h"
 #include "support/Services.h"
 #include "support/windows/NebApplication.h"
 
@@ -126,23 +121,14 @@ Figures MeasureAlbum(clsDBEngine& Engine, int Slides, QuickBoxes& Boxes, double&
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     NebApplication App(argc, argv);
-    QTemporaryDir Dir;
-    SetDocumentsPath(Dir.path() + u'/');
-    clsDBEngine Engine;
-    Engine.SetDBPath(Dir.path());
-    Engine.InitializeDB();
-    DBEngine = &Engine;
-    FlexGrid Store;
-    clsImageBuffer Buffer;
-    Buffer.BufferGrid = &Store;
-    Buffer.UseSmallFiles = true;
-    ImageBuffer = &Buffer;
+    BenchDatabase Database;
+    const BenchBuffer Thumbnails;
     QuickBoxes Boxes;
     TheServices().Boxes = &Boxes;
 
     double LongestYield = 0;
-    const Figures Small = MeasureAlbum(Engine, Few, Boxes, LongestYield);
-    const Figures Large = MeasureAlbum(Engine, Many, Boxes, LongestYield);
+    const Figures Small = MeasureAlbum(Database.Engine, Few, Boxes, LongestYield);
+    const Figures Large = MeasureAlbum(Database.Engine, Many, Boxes, LongestYield);
     std::printf("Slide show manager, %d and %d slides (best of %d)\n", Few, Many, Runs);
     for (const auto& Row : Rows)
         std::printf("  %-24s %8.2f ms %8.2f ms   %5.1f x (limit 12)\n", Row.Name,
