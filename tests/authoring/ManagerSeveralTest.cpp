@@ -66,6 +66,19 @@ TEST_F(ManagerSeveral, AShowFollowsAlthoughACaptionOfTheAlbumChangedBefore) {
     EXPECT_EQ(" / anemone|b|c|d|e", ListsOf(Other)) << "nothing was composed there";
 }
 
+TEST_F(ManagerSeveral, AShowFollowsAlthoughASlideOfItWasDeletedBefore) {
+    const std::int32_t Walk = OpenGarden({1, 2, 3});
+    Mgr& One = *W;
+    Mgr& Other = OpenMgr(AlbumID, Walk);
+    DeleteSlideInSlideManager(2);
+    EXPECT_EQ("d|e / a|c", ListsOf(Other));
+    EXPECT_EQ("d|e / a|c", ListsOf(One));
+    In(One);
+    Push("cmdMoveRightAll");
+    SaveIn(One);
+    EXPECT_EQ(" / a|c|d|e", ListsOf(Other)) << "nothing was composed there";
+}
+
 TEST_F(ManagerSeveral, SlidesDeletedElsewhereLeaveEveryShowThatIsBeingComposed) {
     const std::int32_t Walk = OpenGarden({1, 2, 3});
     Mgr& One = *W;
