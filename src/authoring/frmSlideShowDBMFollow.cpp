@@ -83,6 +83,7 @@ void frmSlideShowDBM::AlbumsChanged(const EventKeys& Keys) {
     FollowAlbum();
     if (Shown == 0 || AlbumID() != Keys[0]) return;
     DropSlides();
+    ShowsChanged({Shown, 0});  // an album that was replaced has other shows, too
     SlidesAdded({Shown});
 }
 

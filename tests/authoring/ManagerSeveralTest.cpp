@@ -99,6 +99,20 @@ TEST_F(ManagerSeveral, SlidesDeletedElsewhereLeaveEveryShowThatIsBeingComposed) 
     EXPECT_EQ("All 0 1:1[] 2:2[Rose] 3:4[] 4:5[]", Stored(2));
 }
 
+TEST_F(ManagerSeveral, AnAlbumWhoseShowsWereReplacedOffersThoseThatAreThere) {
+    const std::int32_t Walk = OpenGarden({1, 2});
+    AddShow(u"Alley"_s, {3});
+    Album().ClearContents();
+    AddAlbumSlides({u"x"_s, u"y"_s});
+    const std::int32_t Path = AddShow(u"Path"_s, {7, 6});
+    Tell(u"Album"_s, u"Update"_s, {AlbumID});
+    EXPECT_EQ("x|y / ", Lists());
+    EXPECT_EQ("<NEW SLIDE SHOW>|Path", Entries("cboSlideShows"));
+    EXPECT_EQ(-1, Combo("cboSlideShows").currentIndex()) << Walk << " is gone";
+    Choose("cboSlideShows", Path);
+    EXPECT_EQ(" / y|x", Lists());
+}
+
 TEST_F(ManagerSeveral, TwoUsersOfOneShowSaveOneAfterTheOther) {
     const std::int32_t Walk = OpenGarden({1, 2});
     Mgr& One = *W;
