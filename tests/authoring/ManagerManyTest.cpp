@@ -142,6 +142,20 @@ TEST_F(ManagerMany, FollowingAnotherWindowNeverKeepsTheUserWaiting) {
     ExpectQuick("a changed slide", [&] { Tell(u"Album"_s, u"Add Slides"_s, {AlbumID, Many - 1}); });
     ExpectQuick("all slides again", [&] { Tell(u"Album"_s, u"Add Slides"_s, {AlbumID, 0}); });
     EXPECT_EQ(Many - Tries, Left().Rows() + Right().Rows());
+    ExpectQuick(
+        "an album that was emptied",
+        [&] {
+            Album().Slides.clear();
+            Tell(u"Album"_s, u"Update"_s, {AlbumID});
+            EXPECT_EQ("0/0", Counts());
+        },
+        [&] {
+            for (int I = 1; I <= Many; ++I) {
+                std::int32_t SlideID = 0;
+                Album().SaveSlide2(SlideID, u"s"_s, {}, {}, false, false, Engine);
+            }
+            Tell(u"Album"_s, u"Update"_s, {AlbumID});
+        });
 }
 
 }  // namespace
