@@ -2,6 +2,7 @@
 // album folder that may not be written, edits that are still open when the window moves on.
 #include <QDir>
 #include <QFile>
+#include <QWheelEvent>
 
 #include "ManagerRig.h"
 #include "harness/WithoutPrivileges.h"
@@ -235,6 +236,21 @@ TEST_F(ManagerEnds, AnotherShowIsShownAsItIsAlthoughSomethingWasBeingTyped) {
     EXPECT_EQ("c|d|e / a|b", Lists());
     EXPECT_EQ("Walk 0 1:1[] 2:2[]", Stored(Walk));
     EXPECT_EQ("Alley 0 1:2[] 2:1[] 3:3[]", Stored(2));
+}
+
+TEST_F(ManagerEnds, ATurnOfTheWheelChoosesNoOtherShow) {
+    const std::int32_t Walk = OpenGarden({1, 2});
+    Push("cmdMoveRightAll");
+    for (const char* Box : {"cboSlideShows", "cboAlbum"}) {
+        Combo(Box).setFocus();
+        for (const int Turn : {120, -120}) {
+            QWheelEvent Wheel({5, 5}, Combo(Box).mapToGlobal(QPointF(5, 5)), {}, {0, Turn},
+                              Qt::NoButton, {}, Qt::NoScrollPhase, false);
+            QApplication::sendEvent(&Combo(Box), &Wheel);
+            EXPECT_EQ(Walk, Chosen());
+            EXPECT_EQ(" / a|b|c|d|e", Lists()) << Box << Turn;
+        }
+    }
 }
 
 TEST_F(ManagerEnds, ClosingAsksNothingAndLeavesTheStoredShow) {
