@@ -238,6 +238,26 @@ TEST_F(ManagerEnds, AnotherShowIsShownAsItIsAlthoughSomethingWasBeingTyped) {
     EXPECT_EQ("Alley 0 1:2[] 2:1[] 3:3[]", Stored(2));
 }
 
+TEST_F(ManagerEnds, AnotherAlbumIsShownAsItIsAlthoughSomethingWasBeingTyped) {
+    OpenGarden({1, 2});
+    const std::int32_t Garden = AlbumID;
+    AlbumID = MakeAlbum(u"Attic"_s);
+    AddAlbumSlides({u"chest"_s, u"trunk"_s});
+    Tell(u"Album"_s, u"Insert"_s, {AlbumID});
+    for (const int Col : {int(clsImageBuffer::ColText), int(ColPlace)}) {
+        Choose("cboAlbum", Garden);
+        Push("cmdMoveRightAll");
+        Begin(Right(), 3, Col, u"1"_s);
+        Choose("cboAlbum", AlbumID);
+        EXPECT_FALSE(Right().IsEditing());
+        EXPECT_EQ("chest|trunk / ", Lists());
+        Push("cmdMoveRightAll");
+        PutCaption(1, u"Rose"_s);
+        Put(Right(), 1, ColPlace, u"1"_s);
+        EXPECT_EQ(" / Rose|chest", Lists());
+    }
+}
+
 TEST_F(ManagerEnds, ATurnOfTheWheelChoosesNoOtherShow) {
     const std::int32_t Walk = OpenGarden({1, 2});
     Push("cmdMoveRightAll");
