@@ -110,6 +110,18 @@ class ManagerWalk : public ManagerRig, public ::testing::WithParamInterface<unsi
         mAlbum.push_back({SlideID, Text});
         mRest.push_back({SlideID, Text});
     }
+    // A caption of the show's own stays.
+    void ChangeSlide() {
+        Line& Slide = mAlbum[static_cast<size_t>(Below(mAlbum.size()))];
+        const QString Before = Slide.Caption;
+        Slide.Caption = u"slide %1"_s.arg(++mMade);
+        Album().GetSlide(Slide.SlideID)->SlideText = Slide.Caption;
+        Tell(u"Album"_s, u"Add Slides"_s, {AlbumID, Slide.SlideID});
+        for (Lines* Each : {&mRest, &mShow})
+            for (Line& Row : *Each)
+                if (Row.SlideID == Slide.SlideID && Row.Caption == Before)
+                    Row.Caption = Slide.Caption;
+    }
     // The slides that stay in the album stand in its order again, with their own captions.
     void SaveAll() {
         if (mShow.empty()) return;
@@ -128,6 +140,8 @@ class ManagerWalk : public ManagerRig, public ::testing::WithParamInterface<unsi
             mRest.erase(Slide);
         }
         EXPECT_EQ(Kept.toStdString(), Stored(1));
+        EXPECT_EQ(Meant(mRest), Shown(NonSelected(*mBeside))) << "the other window follows";
+        EXPECT_EQ(Meant(mShow), Shown(Selected(*mBeside))) << "the other window follows";
     }
     void Step() {
         const std::function<void()> Steps[] = {
@@ -141,6 +155,7 @@ class ManagerWalk : public ManagerRig, public ::testing::WithParamInterface<unsi
             [this] { TypeCaption(); },
             [this] { Drag(Right(), mShow); },
             [this] { Drag(Left(), mRest); },
+            [this] { ChangeSlide(); },
             [this] { Below(3) == 0 ? SaveAll() : TypeCaption(); },
         };
         mLast = Below(std::size(Steps));
@@ -150,10 +165,12 @@ class ManagerWalk : public ManagerRig, public ::testing::WithParamInterface<unsi
     std::mt19937 mDice{GetParam()};
     Lines mAlbum, mRest, mShow;
     int mMade = 0, mLast = 0;
+    Mgr* mBeside = nullptr;  // in which nothing is composed
 };
 
 TEST_P(ManagerWalk, LeavesTheListsAsAPlainListWouldBe) {
     const std::int32_t Walk = AddShow(u"Walk"_s, {});
+    mBeside = &OpenMgr(AlbumID, Walk);
     OpenMgr(AlbumID, Walk);
     W->resize(900, 900);
     for (int I = 0; I < 12; ++I) NewSlide();
