@@ -12,7 +12,13 @@ namespace {
 using namespace harness;
 
 constexpr int Many = 5000;
+#if defined(__SANITIZE_ADDRESS__)
+constexpr qint64 LongestMs = 1000;  // a program that watches over each of its steps is slower
+#elif defined(__has_feature)
+constexpr qint64 LongestMs = __has_feature(address_sanitizer) ? 1000 : 100;
+#else
 constexpr qint64 LongestMs = 100;
+#endif
 constexpr int Tries = 3;  // another program may take the processor for a while
 
 // How long the program was deaf at the longest: a timer of 10 ms that came late.
