@@ -83,6 +83,7 @@ void frmSlideShowDBM::AlbumsChanged(const EventKeys& Keys) {
     FollowAlbum();
     if (Shown == 0 || AlbumID() != Keys[0]) return;
     DropSlides();
+    ShowsChanged({Shown, 0});  // an album that was replaced has other shows, too
     SlidesAdded({Shown});
 }
 
@@ -102,7 +103,7 @@ void frmSlideShowDBM::SlidesDeleted(const EventKeys& Keys) {
     if (AlbumID() != 0 && Keys[0] == AlbumID()) DropSlides();
 }
 
-// Takes the slides out that the album has no more.
+// Takes the slides out that the album has no more. A show from which they went so is not changed.
 void frmSlideShowDBM::DropSlides() {
     const clsNEBAlbum* Album = ShownAlbum();
     if (!Album) return;
@@ -116,6 +117,8 @@ void frmSlideShowDBM::DropSlides() {
             if (const int Gone = RowOfSlide(*Grid, SlideID); Gone >= 0) Grid->RemoveItem(Gone);
         mBuffer->RemoveItem(Row);
     }
+    std::erase_if(mAsLoaded.Slides,
+                  [&There](const ShowSlide& Slide) { return !There.contains(Slide.SlideID); });
     RenumberSelected();
     FollowAlbum();
 }

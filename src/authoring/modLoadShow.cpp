@@ -34,8 +34,15 @@ auto ByNumber(const Things& All, size_t Highest, Number NumberOf) {
     return Found;
 }
 
+bool HasOwnCaption(const ShowSlide& Slide) {
+    return Slide.SlideText != Slide.OwnText;
+}
+
+// A caption that comes from the slide may have changed there: that is no change of the show.
 bool SameSlide(const ShowSlide& One, const ShowSlide& Other) {
-    return One.SlideID == Other.SlideID && One.SlideText == Other.SlideText;
+    const bool OwnCaption = HasOwnCaption(One);
+    return One.SlideID == Other.SlideID && OwnCaption == HasOwnCaption(Other) &&
+           (!OwnCaption || One.SlideText == Other.SlideText);
 }
 
 }  // namespace

@@ -121,13 +121,13 @@ class TrackFiles {
 
     // A new file takes the place of the one with its name. Where another row plays that one still,
     // it is kept under a number that no row has.
-    void KeepPlayed(std::vector<ShowTrack>& Tracks) const {
+    void KeepPlayed(std::vector<ShowTrack>& Tracks, const std::function<void()>& Between) const {
         for (size_t I = 0; I < Tracks.size(); ++I) {
             if (!IsNew(Tracks[I])) continue;
             const QString Place = mFolder + NameFor(I, Tracks[I]);
             QString Kept;
             for (size_t J = 0; J < Tracks.size(); ++J)
-                if (J != I && Plays(Tracks[J], Place)) KeepBeside(Place, Kept, Tracks[J]);
+                if (J != I && Plays(Tracks[J], Place)) KeepBeside(Place, Kept, Tracks[J], Between);
         }
     }
 
@@ -171,13 +171,14 @@ class TrackFiles {
         const QString Loc = Track.SoundTrackLoc.trimmed();
         return ResolvePath(HoldsSeparator(Loc) ? Loc : mFolder + Loc) == ResolvePath(Path);
     }
-    void KeepBeside(const QString& Place, QString& Kept, ShowTrack& Track) const {
+    void KeepBeside(const QString& Place, QString& Kept, ShowTrack& Track,
+                    const std::function<void()>& Between) const {
         if (!FileExists(Place)) return;
         if (Kept.isEmpty()) {
             size_t Number = 100;  // the rows are numbered up to 99
             while (NameExists(mFolder + Numbered(Number, Place))) ++Number;
             Kept = Numbered(Number, Place);
-            CopyFile(Place, mFolder + Kept);
+            CopyFile(Place, mFolder + Kept, Between);
         }
         Track.SoundTrackLoc = Kept;
     }
@@ -244,7 +245,7 @@ bool WriteShow(ShowContent& Content, clsDBEngine& theDB, const std::function<voi
     Show->ClearSoundTracks();
     std::int32_t SlideSeq = 0;
     for (const ShowSlide& Slide : Content.Slides) WriteSlide(*Show, Slide, ++SlideSeq);
-    Files.KeepPlayed(Content.Tracks);
+    Files.KeepPlayed(Content.Tracks, Between);
     for (size_t Row = 0; Row < Content.Tracks.size(); ++Row) {
         if (!Content.Tracks[Row].IsFilled()) continue;
         Files.TakeIn(Content.Tracks[Row], Row, Between);

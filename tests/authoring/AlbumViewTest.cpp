@@ -61,7 +61,9 @@ TEST_F(AlbumView, TakesThePicturesOfAnotherDatabaseFromThere) {
 
 TEST_F(AlbumView, NeverWritesIntoAnotherDatabase) {
     AddSlides(Other, {u"a"_s, u"b"_s});
-    StoreFile(SmallPath(Other, 1), ThumbnailBmp(QImage(72, 72, QImage::Format_RGB32)));
+    QImage Grey(72, 72, QImage::Format_RGB32);
+    Grey.fill(Qt::gray);
+    StoreFile(SmallPath(Other, 1), ThumbnailBmp(Grey));
     Other.FinalizeDB();
     const QStringList Before = Everything(OtherDb.Path());
     EXPECT_GT(Before.size(), 10);

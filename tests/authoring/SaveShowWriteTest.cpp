@@ -238,5 +238,17 @@ TEST_F(SaveShow, LetsTheWindowPaintWhileALongFileIsCopied) {
     EXPECT_EQ(9 << 20, FileSize(SoundTracksFolder(Engine.DBPath(), AlbumID) + u"00000001_1.wav"_s));
 }
 
+TEST_F(SaveShow, LetsTheWindowPaintWhileALongFileThatIsStillPlayedMakesRoom) {
+    WriteFile(Sounds / u"long.wav"_s, QByteArray(9 << 20, 'x'));
+    ShowContent Content = NewShow(4);
+    Content.Tracks = {NewTrack(1, 2, Sounds / u"long.wav"_s), {}};
+    Save(Content);
+    Content.Tracks[1] = NewTrack(3, 4, Content.Tracks[0].SoundTrackLoc);
+    Content.Tracks[0].SoundTrackLoc = MakeSound(u"short.wav"_s);
+    int Calls = 0;
+    EXPECT_TRUE(WriteShow(Content, Engine, [&] { ++Calls; }));
+    EXPECT_GE(Calls, 4);
+}
+
 }  // namespace
 }  // namespace neb::harness
