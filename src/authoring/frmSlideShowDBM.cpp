@@ -49,7 +49,7 @@ frmSlideShowDBM::~frmSlideShowDBM() = default;
 void frmSlideShowDBM::SetUpChoice() {
     for (QComboBox* Box : {mUi->cboAlbum, mUi->cboSlideShows, mUi->cboProgressionMethod})
         Box->view()->setAccessibleName(Box->accessibleName());
-    for (QComboBox* Box : {mUi->cboAlbum, mUi->cboSlideShows}) Box->installEventFilter(this);
+    for (QComboBox* Box : {mUi->cboAlbum, mUi->cboSlideShows}) ChooseNotByWheel(*Box);
     connect(mUi->cboAlbum, &QComboBox::currentIndexChanged, this, &frmSlideShowDBM::cboAlbum_Click);
     connect(mUi->cboSlideShows, &QComboBox::currentIndexChanged, this,
             &frmSlideShowDBM::cboSlideShows_Click);
@@ -248,15 +248,8 @@ bool frmSlideShowDBM::event(QEvent* Event) {
     return true;
 }
 
-// Another show takes the place of the one in hand without a question: a turn of the wheel, meant
-// for a list below, must not choose one.
 bool frmSlideShowDBM::eventFilter(QObject* Watched, QEvent* Event) {
-    const bool IsChoice = qobject_cast<QComboBox*>(Watched) != nullptr;
-    if (IsChoice && Event->type() == QEvent::Wheel) {
-        Event->ignore();
-        return true;
-    }
-    return (!IsChoice && FilterDrop(*Event)) || Form::eventFilter(Watched, Event);
+    return FilterDrop(*Event) || Form::eventFilter(Watched, Event);
 }
 
 void frmSlideShowDBM::changeEvent(QEvent* Event) {

@@ -130,7 +130,7 @@ class frmSlideShowDBM : public Form, public ProgressParent, public ChangeReceive
     void AlbumsChanged(const EventKeys& Keys);
     void SlidesAdded(const EventKeys& Keys);
     void SlidesDeleted(const EventKeys& Keys);
-    void DropSlides();
+    void DropSlides(const std::vector<std::int32_t>& Gone);
     void ShowDeleted(const EventKeys& Keys);
     void ShowsChanged(const EventKeys& Keys);
 

@@ -1,6 +1,7 @@
 // How the slide show manager follows what other windows do. What has been composed and not yet
 // saved stays, as far as its slides and its album are still there.
 #include <QScopedValueRollback>
+#include <algorithm>
 #include <unordered_set>
 
 #include "authoring/SlideGrids.h"
@@ -14,6 +15,20 @@
 #include "ui_frmSlideShowDBM.h"
 
 namespace neb {
+namespace {
+
+// Those that are listed and not in the album any more.
+std::vector<std::int32_t> GoneSlides(const FlexGrid& Listed, const clsNEBAlbum& Album) {
+    std::unordered_set<std::int32_t> There;
+    for (const auto& Slide : Album.Slides) There.insert(Slide->SlideID);
+    std::vector<std::int32_t> Gone;
+    for (int Row = 0; Row < Listed.Rows(); ++Row)
+        if (const std::int32_t SlideID = SlideIn(Listed, Row); !There.contains(SlideID))
+            Gone.push_back(SlideID);
+    return Gone;
+}
+
+}  // namespace
 
 void frmSlideShowDBM::ReceiveEvent(const QString& ObjectType, const QString& EventType,
                                    const EventKeys& EventData) {
@@ -81,8 +96,8 @@ void frmSlideShowDBM::AlbumsChanged(const EventKeys& Keys) {
     }
     if (AlbumID() != Shown) ClearContent();
     FollowAlbum();
-    if (Shown == 0 || AlbumID() != Keys[0]) return;
-    DropSlides();
+    if (!ShownAlbum() || AlbumID() != Keys[0]) return;
+    DropSlides(GoneSlides(*mBuffer, *ShownAlbum()));
     ShowsChanged({Shown, 0});  // an album that was replaced has other shows, too
     SlidesAdded({Shown});
 }
@@ -99,26 +114,25 @@ void frmSlideShowDBM::SlidesAdded(const EventKeys& Keys) {
     FollowAlbum();
 }
 
+// Of thousands that are deleted one by one, each is looked for by itself.
 void frmSlideShowDBM::SlidesDeleted(const EventKeys& Keys) {
-    if (AlbumID() != 0 && Keys[0] == AlbumID()) DropSlides();
+    clsNEBAlbum* Album = ShownAlbum();
+    if (!Album || Keys[0] != AlbumID()) return;
+    const std::int32_t SlideID = Keys.size() > 1 ? Keys[1] : 0;
+    const bool IsTheOnlyOne = !Album->GetSlide(SlideID) && RowOfSlide(*mBuffer, SlideID) >= 0 &&
+                              mBuffer->Rows() == static_cast<int>(Album->Slides.size()) + 1;
+    DropSlides(IsTheOnlyOne ? std::vector{SlideID} : GoneSlides(*mBuffer, *Album));
 }
 
 // Takes the slides out that the album has no more. A show from which they went so is not changed.
-void frmSlideShowDBM::DropSlides() {
-    const clsNEBAlbum* Album = ShownAlbum();
-    if (!Album) return;
+void frmSlideShowDBM::DropSlides(const std::vector<std::int32_t>& Gone) {
     FinishEdits();
-    std::unordered_set<std::int32_t> There;
-    for (const auto& Slide : Album->Slides) There.insert(Slide->SlideID);
-    for (int Row = mBuffer->Rows() - 1; Row >= 0; --Row) {
-        const std::int32_t SlideID = SlideIn(*mBuffer, Row);
-        if (There.contains(SlideID)) continue;
-        for (FlexGrid* Grid : {mUi->flxNonSelected, mUi->flxSelected})
-            if (const int Gone = RowOfSlide(*Grid, SlideID); Gone >= 0) Grid->RemoveItem(Gone);
-        mBuffer->RemoveItem(Row);
-    }
-    std::erase_if(mAsLoaded.Slides,
-                  [&There](const ShowSlide& Slide) { return !There.contains(Slide.SlideID); });
+    for (std::int32_t SlideID : Gone)
+        for (FlexGrid* Grid : {mUi->flxNonSelected, mUi->flxSelected, mBuffer})
+            if (const int Row = RowOfSlide(*Grid, SlideID); Row >= 0) Grid->RemoveItem(Row);
+    std::erase_if(mAsLoaded.Slides, [&Gone](const ShowSlide& Slide) {
+        return std::find(Gone.begin(), Gone.end(), Slide.SlideID) != Gone.end();
+    });
     RenumberSelected();
     FollowAlbum();
 }

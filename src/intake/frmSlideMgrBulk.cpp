@@ -33,6 +33,7 @@ frmSlideMgrBulk::frmSlideMgrBulk() : mUi(std::make_unique<Ui::frmSlideMgrBulk>()
     mUi->setupUi(this);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     mUi->cboAlbum->view()->setAccessibleName(mUi->cboAlbum->accessibleName());
+    ChooseNotByWheel(*mUi->cboAlbum);
     SetUpGrid();
     SetUpButtons();
     connect(mUi->cboAlbum, &QComboBox::currentIndexChanged, this, &frmSlideMgrBulk::AlbumChosen);

@@ -35,6 +35,19 @@ std::int32_t ComboBoxList::ItemData(int Index) const {
     return mBox.itemData(Index).toInt();
 }
 
+void ChooseNotByWheel(QComboBox& Box) {
+    class Filter : public QObject {
+      public:
+        using QObject::QObject;
+        bool eventFilter(QObject*, QEvent* Event) override {
+            if (Event->type() != QEvent::Wheel) return false;
+            Event->ignore();
+            return true;
+        }
+    };
+    Box.installEventFilter(new Filter(&Box));
+}
+
 // Not every style opens a list wider than its box by itself.
 void OpenAsWideAsNames(QComboBox& Box) {
     int Widest = 0;

@@ -26,6 +26,10 @@ class ComboBoxList : public ComboList {
     QComboBox& mBox;
 };
 
+// For a box whose choice takes the place of work in hand: a turn of the wheel, meant for what lies
+// below, chooses nothing.
+void ChooseNotByWheel(QComboBox& Box);
+
 // Opens the list wide enough for the names, which may differ at their end alone, however narrow
 // the box itself is; to be called when the entries are new.
 void OpenAsWideAsNames(QComboBox& Box);

@@ -3,8 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QElapsedTimer>
 #include <QSignalSpy>
+#include <QWheelEvent>
 
 namespace neb {
 namespace {
@@ -70,6 +72,22 @@ TEST_F(ComboBoxListOf, TheUtilitiesWorkOnIt) {
     EXPECT_EQ(List.ListIndex(), 0);
     EXPECT_TRUE(ComboRemoveByData(List, 3));
     EXPECT_EQ(List.ListCount(), 1);
+}
+
+TEST_F(ComboBoxListOf, ATurnOfTheWheelChoosesAnEntryOnlyWhereItMay) {
+    Fill({3, 4, 5});
+    List.SetListIndex(1);
+    const auto Turn = [this] {
+        QWheelEvent Wheel({5, 5}, Box.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton, {},
+                          Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&Box, &Wheel);
+    };
+    Turn();
+    EXPECT_EQ(List.ListIndex(), 2);
+    ChooseNotByWheel(Box);
+    List.SetListIndex(1);
+    Turn();
+    EXPECT_EQ(List.ListIndex(), 1);
 }
 
 TEST_F(ComboBoxListOf, ThousandsOfEntriesComeAtOnce) {
