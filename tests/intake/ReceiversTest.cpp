@@ -138,11 +138,11 @@ class OpenWindows : public SessionRig {
         Made.Captions->LoadAlbumMgr(Album);
         Grid(*Made.Captions).SetRow(Album == AlbumID ? 1 : 0);
         Made.Import = NewForm<Hearing<frmImportFilter>>();
-        SetUp(*Made.Import, Album);
+        Prepare(*Made.Import, Album);
         Made.Import->ShowModeless();
         return Made;
     }
-    void SetUp(frmImportFilter& Window, std::int32_t Album) {
+    void Prepare(frmImportFilter& Window, std::int32_t Album) {
         Window.SetImportDir(Pics.Path());
         Window.SetAlbumID(Album);
         Window.SetAlbumName(Album == 0 ? u"Zoo"_s : Engine.GetAlbum(Album)->AlbumName);
@@ -217,7 +217,7 @@ class OpenWindows : public SessionRig {
     }
     void ImportANewAlbum() {
         const auto Window = NewForm<frmImportFilter>();
-        SetUp(*Window, 0);
+        Prepare(*Window, 0);
         Window->ShowModeless();
         Boxes.Expect(u"1 slides successfully imported."_s);
         ImportInto(*Window);
