@@ -143,7 +143,7 @@ class GraphicsSearch::Walk {
 
     // False when nobody wants them any more.
     bool TakeEntries(const std::vector<DirEntry>& Entries, SearchStep& Step,
-                     std::vector<DirEntry>& SubDirectories) const {
+                     std::vector<DirEntry>& SubDirectories) {
         const QString Path = mWayDown.back().Path;
         QString Passed;
         for (const DirEntry& Entry : Entries) {
@@ -174,11 +174,21 @@ class GraphicsSearch::Walk {
     }
 
     // False when it cannot be opened, and is passed over.
-    static bool TakeFile(const QString& Path, const QString& Name, SearchStep& Step) {
+    bool TakeFile(const QString& Path, const QString& Name, SearchStep& Step) {
         const std::optional<FileFacts> Facts = ReadableFileFacts(Path + Name);
         if (Facts)
-            Step.Files.push_back({Name, Path, SizeText(Facts->Size), DateText(Facts->Changed)});
+            Step.Files.push_back({Name, Path, SizeText(Facts->Size), DateOf(Facts->Changed)});
         return Facts.has_value();
+    }
+
+    // The pictures of a directory often come from one minute.
+    const QString& DateOf(qint64 SecondsSince1970) {
+        const qint64 Minute = (SecondsSince1970 - (SecondsSince1970 < 0 ? 59 : 0)) / 60;
+        if (mMinute != Minute) {
+            mMinute = Minute;
+            mDate = DateText(SecondsSince1970);
+        }
+        return mDate;
     }
 
     // Waits while enough is waiting already. False when nobody wants it any more.
@@ -196,7 +206,9 @@ class GraphicsSearch::Walk {
     NameMask mMask;
     QStringList mExtensions;
     Lister mList;
-    std::vector<Level> mWayDown;  // the directories above, and the present one
+    std::vector<Level> mWayDown;    // the directories above, and the present one
+    std::optional<qint64> mMinute;  // since the start of 1970, the one that mDate tells
+    QString mDate;
 };
 
 GraphicsSearch::GraphicsSearch(const QString& Directory, const QString& Filter,
