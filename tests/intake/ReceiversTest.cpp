@@ -1,7 +1,7 @@
 // What every open window makes of a change in another: for each kind of change and each window that
 // makes it, what two windows of each kind on the album show afterwards, and that windows on another
 // album stay as they were. The changes are made by a user in the real windows.
-#include "SessionRig.h"
+#include "AllWindowsRig.h"
 #include "intake/frmAlbumDelete.h"
 #include "intake/frmAlbumRename.h"
 #include "intake/frmQuickShow.h"
@@ -100,7 +100,7 @@ std::ostream& operator<<(std::ostream& Out, const Row& Each) {
     return Out << Each.Change;
 }
 
-class OpenWindows : public SessionRig {
+class OpenWindows : public AllWindowsRig {
   public:
     // The album Garden has the slides a, b and c, and b is chosen everywhere; Attic has d.
     OpenWindows() {

@@ -1,4 +1,4 @@
-// A long session on a database that may not be changed: each window of albums and slides is opened
+// A long visit to a database that may not be changed: each window of albums and slides is opened
 // and everything in it is tried. All of it is shown, and no file is touched.
 #include <sys/stat.h>
 
@@ -6,8 +6,8 @@
 #include <QDropEvent>
 #include <QMimeData>
 
+#include "AllWindowsRig.h"
 #include "FindGraphicsHarness.h"
-#include "SessionRig.h"
 #include "harness/FolderState.h"
 #include "harness/WithoutPrivileges.h"
 #include "intake/DirectoryPanel.h"
@@ -33,9 +33,9 @@ class Assent : public MessageBoxes {
     QStringList Asked;
 };
 
-class ReadOnlySession : public SessionRig {
+class ReadOnlyVisit : public AllWindowsRig {
   protected:
-    ReadOnlySession() {
+    ReadOnlyVisit() {
         SetDocumentsPath(Db / u"home"_s);  // the settings lie with the albums, as they often do
         Drives.Paths = {Pics.Path().chopped(1)};
         AddSound(AddSlide(u"a"_s), true, false);
@@ -50,7 +50,7 @@ class ReadOnlySession : public SessionRig {
         WriteLastDirectory(Folder());
         Records = Remembered();
     }
-    ~ReadOnlySession() override {
+    ~ReadOnlyVisit() override {
         mVisiting = false;
         TheServices().Boxes = &Boxes;
     }
@@ -162,7 +162,7 @@ class ReadOnlySession : public SessionRig {
                 QTest::mouseClick(Each, Qt::LeftButton, {}, QPoint(8, Each->height() / 2));
     }
 
-    // The session.
+    // The visit.
     void WorkInAll();
     void UseSlideManager();
     void UseBulkManager();
@@ -184,7 +184,7 @@ class ReadOnlySession : public SessionRig {
     QList<Form*> mVisited;
 };
 
-void ReadOnlySession::UseSlideManager() {
+void ReadOnlyVisit::UseSlideManager() {
     Dialogs.Answer = Pics / u"a.jpg"_s;
     OpenSlide(1);
     EXPECT_EQ(2, Box("cboAlbum").count());
@@ -200,7 +200,7 @@ void ReadOnlySession::UseSlideManager() {
     EXPECT_EQ(0, Dialogs.Count);
 }
 
-void ReadOnlySession::UseBulkManager() {
+void ReadOnlyVisit::UseBulkManager() {
     const auto Window = NewForm<frmSlideMgrBulk>();
     Window->LoadAlbumMgr(AlbumID);
     const auto& Grid = In<FlexGrid>(*Window, "flxAlbum");
@@ -212,7 +212,7 @@ void ReadOnlySession::UseBulkManager() {
     EXPECT_FALSE(Window->IsLoaded());
 }
 
-void ReadOnlySession::UseImports() {
+void ReadOnlyVisit::UseImports() {
     const std::shared_ptr<ImportForm> Imports[] = {LoadFilter(AlbumID, Pics.Path()),
                                                    NewForm<frmQuickShow>()};
     Imports[1]->SetImportDir(Pics.Path());
@@ -225,7 +225,7 @@ void ReadOnlySession::UseImports() {
     }
 }
 
-void ReadOnlySession::UseFinder() {
+void ReadOnlyVisit::UseFinder() {
     const auto Window = NewForm<frmFindGraphics>();
     ShowActive(*Window);
     Press(*Window, "cmdSearch");
@@ -236,7 +236,7 @@ void ReadOnlySession::UseFinder() {
     EXPECT_EQ(2, Window->FileCnt());
 }
 
-void ReadOnlySession::WorkInAll() {
+void ReadOnlyVisit::WorkInAll() {
     const auto Pictures = [](Form& Window) {
         EXPECT_EQ("a,b", CaptionsOf(NonSelected(Window)));
         EXPECT_FALSE(NonSelected(Window).CellPicture(1, ImportForm::ColPicture).isNull());
@@ -278,7 +278,7 @@ void ReadOnlySession::WorkInAll() {
     EXPECT_EQ("", Differences(Records, Remembered()));
 }
 
-TEST_F(ReadOnlySession, ShowsAllAndTouchesNoFileOfTheDatabase) {
+TEST_F(ReadOnlyVisit, ShowsAllAndTouchesNoFileOfTheDatabase) {
     ReadOnlyDB = true;
     const QStringList Before = Everything(Db.Path()), Pictures = Everything(Pics.Path());
     WorkInAll();
@@ -289,7 +289,7 @@ TEST_F(ReadOnlySession, ShowsAllAndTouchesNoFileOfTheDatabase) {
 }
 
 // As from a disc, or in a folder that belongs to somebody else.
-TEST_F(ReadOnlySession, WorksWhereNothingCanBeWritten) {
+TEST_F(ReadOnlyVisit, WorksWhereNothingCanBeWritten) {
     const QString Roots[] = {Db.Path(), App.Path(), Pics.Path()};
     const auto Allow = [&](const QString& Root, unsigned OfFolders, unsigned OfFiles) {
         QDirIterator Walk(Root, QDir::AllEntries | QDir::NoDotAndDotDot,

@@ -8,14 +8,14 @@
 
 namespace neb::harness {
 
-class SessionRig : public SlideRig {
+class AllWindowsRig : public SlideRig {
   protected:
-    SessionRig() {
+    AllWindowsRig() {
         Buffer.BufferGrid = &Store;
         Buffer.UseSmallFiles = true;
         ImageBuffer = &Buffer;
     }
-    ~SessionRig() override {
+    ~AllWindowsRig() override {
         Yes Answers;
         TheServices().Boxes = &Answers;  // a slide manager with changes asks
         for (const auto& Each : LoadedForms()) Each->Unload();

@@ -4,8 +4,8 @@
 #include <QListWidget>
 #include <QTreeView>
 
+#include "AllWindowsRig.h"
 #include "FindGraphicsHarness.h"
-#include "SessionRig.h"
 #include "intake/DirectoryPanel.h"
 #include "intake/frmAlbumDelete.h"
 #include "intake/frmAlbumRename.h"
@@ -24,10 +24,10 @@ namespace {
 
 using namespace harness;
 
-class KeyboardSession : public SessionRig {
+class KeyboardTasks : public AllWindowsRig {
   protected:
-    KeyboardSession() { XShow::SetReader(&ReadBack); }
-    ~KeyboardSession() override { XShow::SetReader({}); }
+    KeyboardTasks() { XShow::SetReader(&ReadBack); }
+    ~KeyboardTasks() override { XShow::SetReader({}); }
 
     static QWidget* Focus() { return QApplication::focusWidget(); }
     static std::string FocusName() {
@@ -119,7 +119,7 @@ class KeyboardSession : public SessionRig {
     }
 };
 
-TEST_F(KeyboardSession, ANewAlbumIsMadeOfAFolderOfPictures) {
+TEST_F(KeyboardTasks, ANewAlbumIsMadeOfAFolderOfPictures) {
     MakePictures(3);
     Boxes.Expect(u"2 slides successfully imported."_s);
     WhenOpen<frmNewAlbumWzd1>([this](frmNewAlbumWzd1& Wizard) {
@@ -136,7 +136,7 @@ TEST_F(KeyboardSession, ANewAlbumIsMadeOfAFolderOfPictures) {
     EXPECT_EQ("Rose|c", CaptionsIn(Album(u"Holiday"_s)));
 }
 
-TEST_F(KeyboardSession, AQuickShowIsMadeAndLeft) {
+TEST_F(KeyboardTasks, AQuickShowIsMadeAndLeft) {
     MakePictures(3);
     const auto Window = NewForm<frmQuickShow>();
     ShowActive(*Window);
@@ -155,7 +155,7 @@ TEST_F(KeyboardSession, AQuickShowIsMadeAndLeft) {
     EXPECT_EQ("Rose|c", CaptionsIn(Album(u"Holiday"_s)));
 }
 
-TEST_F(KeyboardSession, ASlideIsMadeTurnedSavedAndDeleted) {
+TEST_F(KeyboardTasks, ASlideIsMadeTurnedSavedAndDeleted) {
     AddSlide(u"b"_s);
     OpenWindow();
     TabTo("cboAlbum");
@@ -191,7 +191,7 @@ TEST_F(KeyboardSession, ASlideIsMadeTurnedSavedAndDeleted) {
     EXPECT_FALSE(W->IsLoaded());
 }
 
-TEST_F(KeyboardSession, ASoundIsRecordedSetAndCleared) {
+TEST_F(KeyboardTasks, ASoundIsRecordedSetAndCleared) {
     test::FakeSound Sound;
     const auto ID = AddSlide(u"a"_s);
     OpenWindow();
@@ -221,7 +221,7 @@ TEST_F(KeyboardSession, ASoundIsRecordedSetAndCleared) {
     EXPECT_EQ(u""_s, Slide(ID).SoundTrackLoc);
 }
 
-TEST_F(KeyboardSession, ADirectoryIsImportedFromTheSlideManager) {
+TEST_F(KeyboardTasks, ADirectoryIsImportedFromTheSlideManager) {
     MakePictures(3);
     OpenWindow();
     TabTo("cboAlbum");
@@ -248,7 +248,7 @@ TEST_F(KeyboardSession, ADirectoryIsImportedFromTheSlideManager) {
     EXPECT_EQ("Rose|c", CaptionsIn(SlideRig::Album()));
 }
 
-TEST_F(KeyboardSession, CaptionsAreEditedInTheBulkManagerAndSlidesDeleted) {
+TEST_F(KeyboardTasks, CaptionsAreEditedInTheBulkManagerAndSlidesDeleted) {
     for (const char* Text : {"a", "b", "c", "d"}) AddSlide(QString::fromLatin1(Text));
     MakeAlbum(u"Attic"_s);
     const auto Window = NewForm<frmSlideMgrBulk>();
@@ -286,7 +286,7 @@ TEST_F(KeyboardSession, CaptionsAreEditedInTheBulkManagerAndSlidesDeleted) {
     EXPECT_FALSE(Window->IsLoaded());
 }
 
-TEST_F(KeyboardSession, GraphicsAreFoundAndChosen) {
+TEST_F(KeyboardTasks, GraphicsAreFoundAndChosen) {
     LongStrides Strides;
     ScriptedDrives Drives;
     Drives.Paths = {Folder()};
@@ -319,7 +319,7 @@ TEST_F(KeyboardSession, GraphicsAreFoundAndChosen) {
     EXPECT_EQ(2, Window->FileCnt());
 }
 
-TEST_F(KeyboardSession, ADirectoryIsChosenByWalkingTheTree) {
+TEST_F(KeyboardTasks, ADirectoryIsChosenByWalkingTheTree) {
     MakePicture(Pics / u"below/deep/a.jpg"_s);
     MakePicture(Pics / u"beside/b.jpg"_s);
     const auto Selector = NewForm<frmDirSelect>();
@@ -346,7 +346,7 @@ TEST_F(KeyboardSession, ADirectoryIsChosenByWalkingTheTree) {
     EXPECT_TRUE(Selector->RecurseDir());
 }
 
-TEST_F(KeyboardSession, AnAlbumIsRenamedAndDeleted) {
+TEST_F(KeyboardTasks, AnAlbumIsRenamedAndDeleted) {
     MakeAlbum(u"Pears"_s);
     WhenOpen<frmAlbumRename>([](frmAlbumRename& Window) {
         Activate(Window);
