@@ -13,7 +13,7 @@
 #include "platform/FlexGrid.h"
 #include "platform/ImgX.h"
 #include "shell/modNEBSlideShow.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb {
 

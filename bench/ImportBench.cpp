@@ -12,9 +12,9 @@
 #include <cstdio>
 #include <random>
 
-#include "platform/AheadQueue.h"
 #include "platform/ImgX.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
+#include "support/work/AheadQueue.h"
 
 namespace {
 

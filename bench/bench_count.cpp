@@ -15,7 +15,7 @@
 #include "intake/modPictureFiles.h"
 #include "platform/DirectoryTree.h"
 #include "shell/modNEBSlideShow.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 using namespace neb;
 

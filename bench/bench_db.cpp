@@ -12,7 +12,7 @@
 
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace {
 

@@ -20,7 +20,7 @@
 #include "platform/FlexGrid.h"
 #include "shell/modNEBSlideShow.h"
 #include "support/Services.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 #include "support/windows/NebApplication.h"
 
 using namespace neb;

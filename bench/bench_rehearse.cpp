@@ -10,7 +10,7 @@
 #include "db/modAlbumFiles.h"
 #include "presentation/RehearsalFindings.h"
 #include "shell/modNEBSlideShow.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 using namespace neb;
 

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "platform/sound/SoundDecoder.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 using namespace neb;
 

@@ -1,4 +1,4 @@
-# How this project's targets are made: one static library a layer, one test program a layer.
+# How this project's targets are made: one static library and one test program a top folder.
 
 add_library(neb_flags INTERFACE)
 target_compile_options(neb_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor
@@ -19,11 +19,45 @@ if(CMAKE_SIZEOF_VOID_P EQUAL 4 AND CMAKE_SYSTEM_PROCESSOR MATCHES "86")
   target_compile_options(neb_exact INTERFACE -msse2 -mfpmath=sse)
 endif()
 
+# neb_library(NAME sound FLOOR 2 KNOWS texts|pictures|windows ROOMS decoding mixing devices .
+#             DEPENDS neb_x Qt6::Y [HIDDEN z])
+# The top folder src/NAME as the library neb_NAME, with the sources of its ROOMS: its subfolders and,
+# as ".", the folder itself. The order of these calls, and of the rooms in each, is the order of the
+# house: a room uses those named before it, of the libraries that its own DEPENDS on. What KNOWS
+# texts sees no part of Qt's drawing, what knows pictures no window. What is DEPENDS is passed on to
+# the users of the library, what is HIDDEN is not. tests/layout checks it all.
+set_property(GLOBAL PROPERTY NEB_HOUSE "")
+set(neb_headers_texts core)
+set(neb_headers_pictures core)
+set(neb_headers_windows gui)
+function(neb_library)
+  cmake_parse_arguments(L "" "NAME;FLOOR;KNOWS" "ROOMS;DEPENDS;HIDDEN" ${ARGN})
+  set(uses ${L_DEPENDS})
+  list(FILTER uses INCLUDE REGEX "^neb_")
+  list(TRANSFORM uses REPLACE "^neb_" "")
+  list(JOIN uses "," uses)
+  set(sources)
+  foreach(room ${L_ROOMS})
+    string(REGEX REPLACE "/\\.$" "" folder ${L_NAME}/${room})
+    set_property(GLOBAL APPEND PROPERTY NEB_HOUSE ${L_FLOOR}:${folder}:${L_KNOWS}:${uses})
+    set(dir ${PROJECT_SOURCE_DIR}/src/${folder})
+    file(GLOB found CONFIGURE_DEPENDS ${dir}/*.cpp ${dir}/*.h ${dir}/*.ui ${dir}/*.qrc)
+    list(APPEND sources ${found})
+  endforeach()
+  list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
+  add_library(neb_${L_NAME} STATIC ${sources})
+  set_target_properties(neb_${L_NAME} PROPERTIES AUTOMOC ON AUTOUIC ON AUTORCC ON)
+  target_link_libraries(neb_${L_NAME} PUBLIC neb_flags ${L_DEPENDS} PRIVATE ${L_HIDDEN})
+  target_precompile_headers(neb_${L_NAME} PRIVATE
+                            ${PROJECT_SOURCE_DIR}/cmake/pch_${neb_headers_${L_KNOWS}}.h)
+endfunction()
+
 # neb_layer(NAME support DIR support HEADERS_FOR core|gui DEPENDS neb_x Qt6::Y [HIDDEN z])
 # All sources of one folder (not of folders below it) as the library neb_NAME. What is DEPENDS
 # is passed on to the users of the layer, what is HIDDEN is not.
 function(neb_layer)
   cmake_parse_arguments(L "" "NAME;DIR;HEADERS_FOR" "DEPENDS;HIDDEN" ${ARGN})
+  set_property(GLOBAL APPEND PROPERTY NEB_HOUSE 4:${L_DIR}:windows:*)
   set(dir ${PROJECT_SOURCE_DIR}/src/${L_DIR})
   file(GLOB sources CONFIGURE_DEPENDS ${dir}/*.cpp ${dir}/*.h ${dir}/*.ui ${dir}/*.qrc)
   list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
@@ -40,13 +74,16 @@ function(neb_layer)
 endfunction()
 
 # neb_test(NAME support DIR tests/support DEPENDS neb_support)
-# All sources of one folder of tests, or the FILES of it alone, as one program; every test in it is
-# a test of ctest. SHARDS: ctest runs them in so many parts instead, for where there are so many
+# All sources of one folder of tests and of those below it (but not of BUT), or the FILES of it alone,
+# as one program; every test in it is a test of ctest. SHARDS: ctest runs them in so many parts instead, for where there are so many
 # short ones that starting the program for each would take most of the time.
 function(neb_test)
-  cmake_parse_arguments(T "" "NAME;DIR;SHARDS" "DEPENDS;FILES" ${ARGN})
+  cmake_parse_arguments(T "" "NAME;DIR;SHARDS;BUT" "DEPENDS;FILES" ${ARGN})
   set(dir ${PROJECT_SOURCE_DIR}/${T_DIR})
-  file(GLOB sources CONFIGURE_DEPENDS ${dir}/*.cpp ${dir}/*.h)
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${dir}/*.cpp ${dir}/*.h)
+  if(T_BUT)
+    list(FILTER sources EXCLUDE REGEX "^${dir}/${T_BUT}/")
+  endif()
   if(T_FILES)
     list(TRANSFORM T_FILES PREPEND ${dir}/ OUTPUT_VARIABLE sources)
   endif()

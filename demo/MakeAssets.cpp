@@ -6,7 +6,7 @@
 #include "Encode.h"
 #include "Placeholder.h"
 #include "support/Fault.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace {
 

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "Encode.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb::demo {
 namespace {

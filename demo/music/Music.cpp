@@ -2,7 +2,7 @@
 
 #include "Room.h"
 #include "Scores.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb::demo {
 namespace {

@@ -10,7 +10,7 @@
 #include <cstdio>
 
 #include "support/Fault.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb::demo {
 namespace {

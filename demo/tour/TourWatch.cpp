@@ -5,7 +5,7 @@
 #include "platform/XShow.h"
 #include "presentation/frmSlideShowProjector.h"
 #include "presentation/modSlideShows.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb::demo {
 namespace {

@@ -4,9 +4,9 @@
 #include "db/modAlbumFiles.h"
 #include "platform/FlexGridModel.h"
 #include "support/Fault.h"
+#include "support/files/modHostFiles.h"
 #include "support/modDEValidation.h"
 #include "support/modFUFL.h"
-#include "support/modHostFiles.h"
 #include "support/modNumbers.h"
 
 namespace neb {

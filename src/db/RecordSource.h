@@ -8,7 +8,7 @@
 #include <optional>
 
 #include "db/modRecordFiles.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb {
 

@@ -6,8 +6,8 @@
 #include "db/modLoadRecords.h"
 #include "db/modNameIndex.h"
 #include "support/Services.h"
+#include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
-#include "support/modHostFiles.h"
 
 namespace neb {
 namespace {

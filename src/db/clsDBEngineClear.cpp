@@ -5,8 +5,8 @@
 #include "db/modAlbumFiles.h"
 #include "support/Fault.h"
 #include "support/Services.h"
+#include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
-#include "support/modHostFiles.h"
 
 namespace neb {
 namespace {

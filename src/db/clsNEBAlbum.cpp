@@ -4,7 +4,7 @@
 #include "db/modAlbumFiles.h"
 #include "db/modNameIndex.h"
 #include "support/Fault.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 #include "support/modNumbers.h"
 
 namespace neb {

@@ -5,7 +5,7 @@
 
 #include "db/RecordCodec.h"
 #include "support/Fault.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 #include "support/modNumbers.h"
 
 namespace neb {

@@ -4,7 +4,7 @@
 #include "shell/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/Services.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 #include "support/windows/ScreenPointer.h"
 #include "ui_DirectoryPanel.h"
 

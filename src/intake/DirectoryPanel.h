@@ -7,7 +7,7 @@
 #include <QWidget>
 #include <memory>
 
-#include "platform/AheadQueue.h"
+#include "support/work/AheadQueue.h"
 
 namespace neb {
 

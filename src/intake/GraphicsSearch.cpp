@@ -8,11 +8,11 @@
 #include <mutex>
 #include <thread>
 
-#include "platform/sound/LeftThread.h"
+#include "support/files/modHostFilesMask.h"
+#include "support/files/modHostFilesWalk.h"
 #include "support/modFUFL.h"
-#include "support/modHostFilesMask.h"
-#include "support/modHostFilesWalk.h"
 #include "support/modNumbers.h"
+#include "support/work/LeftThread.h"
 
 namespace neb {
 namespace {

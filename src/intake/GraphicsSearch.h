@@ -9,7 +9,7 @@
 #include <system_error>
 #include <vector>
 
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb {
 

@@ -4,8 +4,8 @@
 #include "db/modAlbumFiles.h"
 #include "intake/modImport.h"
 #include "platform/ImgX.h"
+#include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
-#include "support/modHostFiles.h"
 
 namespace neb {
 namespace {

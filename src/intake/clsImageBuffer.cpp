@@ -7,8 +7,8 @@
 #include "platform/ImgX.h"
 #include "shell/modNEBSlideShow.h"
 #include "support/Fault.h"
+#include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
-#include "support/modHostFiles.h"
 #include "support/windows/frmLoadSlide.h"
 #include "support/windows/frmLoading.h"
 

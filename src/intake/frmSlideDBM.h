@@ -7,10 +7,10 @@
 
 #include "platform/ComboBoxList.h"
 #include "platform/ImgX.h"
-#include "platform/WorkAside.h"
 #include "shell/modBroadcast.h"
 #include "support/windows/Form.h"
 #include "support/windows/ScreenPointer.h"
+#include "support/work/WorkAside.h"
 
 namespace neb {
 

@@ -12,9 +12,9 @@
 #include "shell/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/Services.h"
+#include "support/files/modHostFiles.h"
 #include "support/modDEValidation.h"
 #include "support/modFUFL.h"
-#include "support/modHostFiles.h"
 #include "ui_frmSlideDBM.h"
 
 namespace neb {

@@ -10,7 +10,7 @@
 #include "platform/KeyFilter.h"
 #include "shell/modNEBSlideShow.h"
 #include "support/Services.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb {
 namespace {

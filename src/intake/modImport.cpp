@@ -4,8 +4,8 @@
 #include "db/modAlbumFiles.h"
 #include "platform/ImgX.h"
 #include "support/Fault.h"
+#include "support/files/modHostFiles.h"
 #include "support/modDEValidation.h"
-#include "support/modHostFiles.h"
 
 namespace neb {
 

@@ -8,7 +8,7 @@
 #include <cstdint>
 #include <functional>
 
-#include "platform/AheadQueue.h"
+#include "support/work/AheadQueue.h"
 
 namespace neb {
 

@@ -2,9 +2,9 @@
 
 #include "shell/modNEBSlideShow.h"
 #include "support/Services.h"
+#include "support/files/modHostFiles.h"
+#include "support/files/modHostFilesWalk.h"
 #include "support/modFUFL.h"
-#include "support/modHostFiles.h"
-#include "support/modHostFilesWalk.h"
 
 namespace neb {
 namespace {

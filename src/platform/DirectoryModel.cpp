@@ -4,8 +4,8 @@
 #include <QStyle>
 #include <algorithm>
 
+#include "support/files/modHostFilesWalk.h"
 #include "support/modFUFL.h"
-#include "support/modHostFilesWalk.h"
 
 namespace neb {
 namespace {

@@ -10,7 +10,7 @@
 #include <memory>
 #include <vector>
 
-#include "platform/AheadQueue.h"
+#include "support/work/AheadQueue.h"
 
 namespace neb {
 

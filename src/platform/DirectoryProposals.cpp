@@ -5,8 +5,8 @@
 #include <QLineEdit>
 #include <QStringListModel>
 
+#include "support/files/modHostFilesWalk.h"
 #include "support/modFUFL.h"
-#include "support/modHostFilesWalk.h"
 
 namespace neb {
 namespace {

@@ -7,7 +7,7 @@
 #include <QTimer>
 #include <memory>
 
-#include "platform/AheadQueue.h"
+#include "support/work/AheadQueue.h"
 
 QT_BEGIN_NAMESPACE
 class QLineEdit;

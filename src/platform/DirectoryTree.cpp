@@ -13,8 +13,8 @@
 #include "platform/DirectoryProposals.h"
 #include "platform/Drives.h"
 #include "support/Services.h"
+#include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
-#include "support/modHostFiles.h"
 
 namespace neb {
 namespace {

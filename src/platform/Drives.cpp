@@ -3,9 +3,9 @@
 #include <QStandardPaths>
 #include <QStorageInfo>
 
+#include "support/files/modHostFiles.h"
+#include "support/files/modHostFilesMounts.h"
 #include "support/modFUFL.h"
-#include "support/modHostFiles.h"
-#include "support/modHostFilesMounts.h"
 
 namespace neb {
 

@@ -6,7 +6,7 @@
 #include "platform/JpegWriter.h"
 #include "platform/PictureFaults.h"
 #include "platform/PictureResize.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb {
 namespace {

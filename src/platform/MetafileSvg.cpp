@@ -9,7 +9,7 @@
 #include "platform/ByteView.h"
 #include "platform/PictureFaults.h"
 #include "platform/PictureFormats.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb {
 namespace {

@@ -3,7 +3,7 @@
 #include <QPaintEngine>
 #include <QPainterPath>
 
-#include "platform/WorkTimer.h"
+#include "support/work/WorkTimer.h"
 
 namespace neb {
 namespace {

@@ -12,7 +12,7 @@
 #include "platform/PictureFaults.h"
 #include "platform/PictureFormats.h"
 #include "platform/TiffTags.h"
-#include "platform/WorkTimer.h"
+#include "support/work/WorkTimer.h"
 
 namespace neb {
 namespace {

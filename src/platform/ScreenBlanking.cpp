@@ -7,7 +7,7 @@
 #include <QGuiApplication>
 #include <QLibrary>
 
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb {
 namespace {

@@ -5,7 +5,7 @@
 #include <optional>
 
 #include "support/Fault.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb {
 namespace {

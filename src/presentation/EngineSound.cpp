@@ -3,7 +3,7 @@
 #include "db/clsDBEngine.h"
 #include "presentation/ShowBox.h"
 #include "shell/modNEBSlideShow.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb {
 namespace {

@@ -8,7 +8,7 @@
 #include "presentation/modSlideShows.h"
 #include "shell/modNEBSlideShow.h"
 #include "support/Fault.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb {
 

@@ -6,7 +6,7 @@
 #include "presentation/CaptionFit.h"
 #include "presentation/RehearsalNotebook.h"
 #include "shell/modNEBSlideShow.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb {
 namespace {

@@ -4,8 +4,8 @@
 
 #include "db/clsDBEngine.h"
 #include "support/Fault.h"
+#include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
-#include "support/modHostFiles.h"
 
 namespace neb {
 namespace {

@@ -1,7 +1,7 @@
 #include "presentation/RehearsalSound.h"
 
 #include "support/Fault.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb {
 namespace {

@@ -5,8 +5,8 @@
 #include "presentation/ShowRun.h"
 #include "presentation/modSlideShows.h"
 #include "shell/modNEBSlideShow.h"
+#include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
-#include "support/modHostFiles.h"
 
 namespace neb {
 namespace {

@@ -5,7 +5,7 @@
 
 #include "presentation/WaveFile.h"
 #include "support/Services.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb {
 namespace {

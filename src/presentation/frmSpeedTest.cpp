@@ -10,7 +10,7 @@
 #include "shell/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/Services.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 #include "support/windows/ScreenPointer.h"
 #include "ui_frmSpeedTest.h"
 

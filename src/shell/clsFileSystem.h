@@ -3,7 +3,7 @@
 
 #include <QString>
 
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb {
 

@@ -5,8 +5,8 @@
 
 #include <QStringDecoder>
 
+#include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
-#include "support/modHostFiles.h"
 #include "support/modText.h"
 
 namespace neb {

@@ -6,8 +6,8 @@
 #include "shell/clsFileSystem.h"
 #include "support/Fault.h"
 #include "support/Services.h"
+#include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
-#include "support/modHostFiles.h"
 
 namespace neb {
 

@@ -6,7 +6,7 @@
 #include "platform/ImgX.h"
 #include "platform/XShowFit.h"
 #include "support/Fault.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb {
 namespace {

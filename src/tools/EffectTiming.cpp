@@ -10,7 +10,7 @@
 
 #include "effects/EffectCatalogue.h"
 #include "effects/Transition.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 #include "tools/EffectPictures.h"
 
 namespace neb {

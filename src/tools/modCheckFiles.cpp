@@ -3,8 +3,8 @@
 #include <set>
 
 #include "db/modAlbumFiles.h"
+#include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
-#include "support/modHostFiles.h"
 
 namespace neb {
 namespace {

@@ -1,8 +1,8 @@
 #include "tools/modCommands.h"
 
 #include "support/Fault.h"
+#include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
-#include "support/modHostFiles.h"
 #include "tools/modCheck.h"
 #include "tools/modDump.h"
 #include "tools/modEffects.h"

@@ -7,7 +7,7 @@
 #include "effects/EffectCatalogue.h"
 #include "effects/Transition.h"
 #include "support/Fault.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 #include "tools/EffectPictures.h"
 #include "tools/EffectSheet.h"
 #include "tools/EffectTiming.h"

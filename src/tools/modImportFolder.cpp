@@ -8,9 +8,9 @@
 #include "platform/ImgX.h"
 #include "support/Fault.h"
 #include "support/Services.h"
+#include "support/files/modHostFiles.h"
 #include "support/modDEValidation.h"
 #include "support/modFUFL.h"
-#include "support/modHostFiles.h"
 #include "tools/modCommands.h"
 
 namespace neb {

@@ -3,7 +3,7 @@
 #include "db/clsDBEngine.h"
 #include "db/modDatabaseLock.h"
 #include "db/modJournal.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 #include "tools/modCommands.h"
 
 namespace neb {

@@ -10,9 +10,9 @@
 #include "harness/ScriptedBoxes.h"
 #include "harness/TempFolder.h"
 #include "support/Fault.h"
+#include "support/files/modHostFiles.h"
 #include "support/modDEValidation.h"
 #include "support/modFUFL.h"
-#include "support/modHostFiles.h"
 
 namespace neb::harness {
 

@@ -8,7 +8,7 @@
 #include "db/clsDBEngine.h"
 #include "db/modJournal.h"
 #include "harness/TempFolder.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb::harness {
 

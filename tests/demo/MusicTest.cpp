@@ -12,7 +12,7 @@
 #include "demo/music/Scores.h"
 #include "harness/TempFolder.h"
 #include "platform/sound/SoundDecoder.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb::demo {
 namespace {

@@ -12,7 +12,7 @@
 #include "demo/Encode.h"
 #include "demo/Noise.h"
 #include "harness/TempFolder.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb::demo {
 namespace {

@@ -6,7 +6,7 @@
 
 #include "platform/sound/SoundDecoder.h"
 #include "support/Fault.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace {
 

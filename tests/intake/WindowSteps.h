@@ -14,7 +14,7 @@
 #include "platform/FlexGrid.h"
 #include "shell/modBroadcast.h"
 #include "support/Fault.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 #include "support/windows/Form.h"
 
 namespace neb::harness {

@@ -1,30 +1,43 @@
 #include "LayerRules.h"
 
+#include <QMap>
 #include <QRegularExpression>
+#include <algorithm>
 
 namespace neb::layout {
 namespace {
 
 constexpr qsizetype SourceLines = 400;
 constexpr qsizetype HeaderLines = 150;
+constexpr int RoomFiles = 35;
 
-const QStringList FreeOfOrder{QStringLiteral("shell/main"), QStringLiteral("tools")};
-const QStringList WithoutWindows{QStringLiteral("support"), QStringLiteral("db")};
+// Headers of Qt's modules that somebody might reach for: what draws, and what is or serves a
+// window.
+const QString Drawing = QStringLiteral(
+    "Bitmap|Brush|Color|ColorSpace|Font|FontMetrics|Image|ImageReader|ImageWriter|PaintDevice|"
+    "Painter|PainterPath|Palette|PdfWriter|Pen|Picture|Pixmap|Polygon|PolygonF|Printer|PrinterInfo|"
+    "Raster[A-Z][A-Za-z]*|"
+    "Region|RgbaFloat|SvgRenderer|TextDocument|TextLayout|Transform|Vector[234]D");
+const QString Windows = QStringLiteral(
+    "Abstract(?:Button|ItemView|ScrollArea)|Action|Application|Check?Box|Clipboard|ComboBox|Cursor|"
+    "DesktopServices|Dialog|DialogButtonBox|Drag|FileDialog|FileSystemModel|Frame|GridLayout|"
+    "GroupBox|HBoxLayout|Icon|KeyEvent|KeySequence|Label|Layout|LineEdit|ListView|ListWidget|"
+    "MainWindow|MdiArea|MdiSubWindow|Menu|MenuBar|MessageBox|MouseEvent|Movie|PlainTextEdit|"
+    "PrintDialog|ProgressBar|PushButton|RadioButton|Screen|ScrollArea|ScrollBar|Slider|SpinBox|"
+    "StandardItemModel|Style|StyleOption|StyledItemDelegate|TabWidget|TableView|TableWidget|"
+    "TextEdit|ToolBar|ToolButton|ToolTip|TreeView|TreeWidget|VBoxLayout|Validator|Widget|Window|"
+    "Wizard");
 
-// Headers of Qt's drawing and windows modules that somebody might reach for.
-const QRegularExpression GuiHeader(QStringLiteral(
-    "^(?:Qt(?:Gui|Widgets|PrintSupport|Svg)/.*|Q(?:Abstract(?:Button|ItemView|ScrollArea)|Action|"
-    "Application|Bitmap|Brush|Check?Box|Clipboard|Color|ColorSpace|ComboBox|Cursor|"
-    "DesktopServices|Dialog|DialogButtonBox|Drag|FileDialog|FileSystemModel|Font|FontMetrics|"
-    "Frame|GridLayout|GroupBox|GuiApplication|HBoxLayout|Icon|Image|ImageReader|ImageWriter|"
-    "KeyEvent|KeySequence|Label|Layout|LineEdit|ListView|ListWidget|MainWindow|MdiArea|"
-    "MdiSubWindow|Menu|MenuBar|MessageBox|MouseEvent|Movie|PaintDevice|Painter|PainterPath|"
-    "Palette|PdfWriter|Pen|Picture|Pixmap|PlainTextEdit|Polygon|PolygonF|PrintDialog|Printer|"
-    "PrinterInfo|ProgressBar|PushButton|RadioButton|Raster[A-Z][A-Za-z]*|Region|RgbaFloat|Screen|"
-    "ScrollArea|ScrollBar|Slider|SpinBox|StandardItemModel|Style|StyleOption|SvgRenderer|"
-    "TabWidget|TableView|TableWidget|TextDocument|TextEdit|ToolBar|ToolButton|ToolTip|Transform|"
-    "TreeView|TreeWidget|VBoxLayout|Validator|Vector[234]D|Widget|Window|Wizard)|q(?:widget|"
-    "image|pixmap|painter|dialog|application|color|font)\\.h)$"));
+QRegularExpression HeaderOf(const QString& Modules, const QString& Classes, const QString& Old) {
+    return QRegularExpression(
+        QStringLiteral("^(?:Qt(?:%1)/.*|Q(?:%2)|q(?:%3)\\.h)$").arg(Modules, Classes, Old));
+}
+
+const QRegularExpression DrawingHeader =
+    HeaderOf(QStringLiteral("Gui|Svg|PrintSupport"), Drawing,
+             QStringLiteral("image|pixmap|painter|color|font"));
+const QRegularExpression WindowHeader =
+    HeaderOf(QStringLiteral("Widgets"), Windows, QStringLiteral("widget|dialog|application"));
 
 // The filter names and the separator of QDir look at no disk.
 const QRegularExpression HostFileUse(QStringLiteral(
@@ -33,8 +46,7 @@ const QRegularExpression HostFileUse(QStringLiteral(
     "QDirIterator|QLockFile|QFileDevice|[iow]?[io]?fstream|filebuf|fopen|freopen|opendir|"
     "(?:std::)?filesystem(?=::))\\b"));
 
-const QRegularExpression HostFileSource(
-    QStringLiteral("^support/(?:modHostFiles[A-Za-z]*|NameCache)\\.(?:cpp|h)$"));
+const QRegularExpression HostFileSource(QStringLiteral("^support/files/[A-Za-z]*\\.(?:cpp|h)$"));
 
 const QRegularExpression Include(QStringLiteral("^\\s*#\\s*include\\s*(?:\"([^\"]*)\"|<([^>]*)>)"));
 
@@ -42,24 +54,50 @@ QString At(const QString& Path, qsizetype Line, const QString& What) {
     return QStringLiteral("%1:%2: %3").arg(Path).arg(Line).arg(What);
 }
 
-QString OrderFault(const QString& From, const QString& Header) {
-    const QString To = LayerOf(Header);
-    if (!Header.contains(u'/')) {
-        const bool Outside = Header.startsWith(QStringLiteral("ui_")) || Header.endsWith(u".moc") ||
-                             Header == QStringLiteral("InitAssets.h");
-        return Outside ? QString() : Header + QStringLiteral(" is not written from the root");
-    }
-    if (To.isEmpty()) return Header + QStringLiteral(" lies in no layer");
-    if (WithoutWindows.contains(From) && To != From && To != QStringLiteral("support"))
-        return From + QStringLiteral(" may use support alone, not ") + Header;
-    if (FreeOfOrder.contains(From) || LayerOrder().indexOf(To) <= LayerOrder().indexOf(From))
-        return {};
-    return QStringLiteral("%1 may not use %2, which comes after it").arg(From, Header);
+QString TopOf(const QString& Folder) {
+    return Folder.section(u'/', 0, 0);
 }
 
-QString GuiFault(const QString& From, const QString& Header) {
-    if (!WithoutWindows.contains(From) || !GuiHeader.match(Header).hasMatch()) return {};
-    return QStringLiteral("%1 knows no windows or pictures: <%2>").arg(From, Header);
+qsizetype PlaceOf(const House& Rooms, const QString& Folder) {
+    for (qsizetype I = 0; I < Rooms.size(); ++I)
+        if (Rooms[I].Folder == Folder) return I;
+    return -1;
+}
+
+// Whether a top folder is built upon another, straight or through a third.
+bool StandsOn(const House& Rooms, const Room& From, const QString& Top) {
+    if (TopOf(From.Folder) == Top || From.Uses.contains(u"*") || From.Uses.contains(Top))
+        return true;
+    return std::any_of(Rooms.begin(), Rooms.end(), [&](const Room& Each) {
+        return From.Uses.contains(TopOf(Each.Folder)) && TopOf(Each.Folder) != TopOf(From.Folder) &&
+               StandsOn(Rooms, Each, Top);
+    });
+}
+
+// What Qt's tools and the build make has no folder.
+bool IsMade(const QString& Header) {
+    return Header.startsWith(QStringLiteral("ui_")) || Header.endsWith(u".moc") ||
+           Header == QStringLiteral("InitAssets.h");
+}
+
+QString OrderFault(const House& Rooms, const Room& From, const QString& Header) {
+    if (IsMade(Header)) return {};
+    if (!Header.contains(u'/')) return Header + QStringLiteral(" is not written from the root");
+    const Room* To = RoomOf(Rooms, Header);
+    if (!To) return Header + QStringLiteral(" lies in no room");
+    if (PlaceOf(Rooms, To->Folder) > PlaceOf(Rooms, From.Folder))
+        return QStringLiteral("%1 may not use %2, which stands above it").arg(From.Folder, Header);
+    if (StandsOn(Rooms, From, TopOf(To->Folder))) return {};
+    return QStringLiteral("%1 may not use %2: it is not built upon it").arg(From.Folder, Header);
+}
+
+QString DrawingFault(const Room& From, const QString& Header) {
+    const bool Window = WindowHeader.match(Header).hasMatch();
+    if (Window && From.Knows != u"windows")
+        return QStringLiteral("%1 knows no windows: <%2>").arg(From.Folder, Header);
+    if (DrawingHeader.match(Header).hasMatch() && From.Knows == u"texts")
+        return QStringLiteral("%1 knows no pictures: <%2>").arg(From.Folder, Header);
+    return {};
 }
 
 // Finds the end of what starts at From: a comment, a string, a raw string, or one character.
@@ -108,8 +146,8 @@ Piece PieceAt(const QString& Text, qsizetype From) {
     return Quote ? Piece{EndOfQuoted(Text, From) - From, false, true} : Piece{};
 }
 
-// The directories drawn below "src/", with their parents: "support", "support/windows", ...
-QStringList DrawnLayers(const QString& Document) {
+// The folders drawn below "src/", with their parents: "support", "support/files", ...
+QStringList DrawnFolders(const QString& Document) {
     static const QRegularExpression Folder(QStringLiteral("^([^A-Za-z`]*)([a-z]+)/(?:\\s|$)"));
     QStringList Drawn, Parents;
     QList<qsizetype> Indents;
@@ -138,34 +176,54 @@ QStringList DrawnLayers(const QString& Document) {
     return Drawn;
 }
 
-// A folder inside another is drawn right below it, whatever its place in the order.
-QStringList DrawingOrder(const QStringList& Existing) {
+// As a house is drawn: the roof first, what a top folder holds right below its name.
+QStringList DrawingOrder(const House& Rooms) {
     QStringList Order;
-    for (const QString& Layer : LayerOrder()) {
-        if (!Existing.contains(Layer)) continue;
-        const qsizetype Parent = Order.indexOf(Layer.section(u'/', 0, 0));
-        Order.insert(Layer.contains(u'/') && Parent >= 0 ? Parent + 1 : Order.size(), Layer);
+    for (auto Each = Rooms.rbegin(); Each != Rooms.rend(); ++Each) {
+        const QString Top = TopOf(Each->Folder);
+        if (!Order.contains(Top)) Order << Top;
+        if (Each->Folder != Top) Order << Each->Folder;
     }
     return Order;
 }
 
 }  // namespace
 
-const QStringList& LayerOrder() {
-    static const QStringList Order{
-        QStringLiteral("support"),        QStringLiteral("support/windows"),
-        QStringLiteral("effects"),        QStringLiteral("platform"),
-        QStringLiteral("platform/sound"), QStringLiteral("db"),
-        QStringLiteral("shell"),          QStringLiteral("presentation"),
-        QStringLiteral("printing"),       QStringLiteral("intake"),
-        QStringLiteral("authoring"),      QStringLiteral("transfer"),
-        QStringLiteral("shell/main"),     QStringLiteral("tools")};
-    return Order;
+House ReadHouse(const QString& List) {
+    House Rooms;
+    for (const QString& Line : List.split(u'|', Qt::SkipEmptyParts)) {
+        const QStringList Fields = Line.split(u':');
+        Rooms << Room{Fields.value(1), Fields.value(0).toInt(), Fields.value(2),
+                      Fields.value(3).split(u',', Qt::SkipEmptyParts)};
+    }
+    return Rooms;
 }
 
-QString LayerOf(const QString& Path) {
-    const QString Folder = Path.left(Path.lastIndexOf(u'/'));
-    return Path.contains(u'/') && LayerOrder().contains(Folder) ? Folder : QString();
+const Room* RoomOf(const House& Rooms, const QString& Path) {
+    const qsizetype Place = PlaceOf(Rooms, Path.left(Path.lastIndexOf(u'/')));
+    return Path.contains(u'/') && Place >= 0 ? &Rooms[Place] : nullptr;
+}
+
+QStringList FloorFaults(const House& Rooms) {
+    QStringList Faults;
+    for (qsizetype I = 1; I < Rooms.size(); ++I)
+        if (Rooms[I].Floor < Rooms[I - 1].Floor)
+            Faults
+                << QStringLiteral("%1 comes after a room of a higher floor").arg(Rooms[I].Folder);
+    return Faults;
+}
+
+QStringList CrowdFaults(const QStringList& Sources) {
+    QMap<QString, int> Counts;
+    for (const QString& Path : Sources) ++Counts[Path.left(Path.lastIndexOf(u'/'))];
+    QStringList Faults;
+    for (auto Each = Counts.begin(); Each != Counts.end(); ++Each)
+        if (Each.value() > RoomFiles)
+            Faults << QStringLiteral("%1 holds %2 files, more than %3")
+                          .arg(Each.key())
+                          .arg(Each.value())
+                          .arg(RoomFiles);
+    return Faults;
 }
 
 QString WithoutComments(const QString& Text, bool KeepStrings) {
@@ -181,9 +239,9 @@ QString WithoutComments(const QString& Text, bool KeepStrings) {
     return Out;
 }
 
-QStringList IncludeFaults(const QString& Path, const QString& Text) {
-    const QString From = LayerOf(Path);
-    if (From.isEmpty()) return {At(Path, 1, QStringLiteral("the file lies in no layer"))};
+QStringList IncludeFaults(const House& Rooms, const QString& Path, const QString& Text) {
+    const Room* From = RoomOf(Rooms, Path);
+    if (!From) return {At(Path, 1, QStringLiteral("the file lies in no room"))};
     QStringList Faults;
     qsizetype Line = 0;
     for (const QString& Code : WithoutComments(Text, true).split(u'\n')) {
@@ -191,8 +249,8 @@ QStringList IncludeFaults(const QString& Path, const QString& Text) {
         const auto Match = Include.match(Code);
         if (!Match.hasMatch()) continue;
         const QString Own = Match.captured(1), Foreign = Match.captured(2);
-        for (const QString& Fault :
-             {Own.isEmpty() ? QString() : OrderFault(From, Own), GuiFault(From, Own + Foreign)})
+        for (const QString& Fault : {Own.isEmpty() ? QString() : OrderFault(Rooms, *From, Own),
+                                     DrawingFault(*From, Own + Foreign)})
             if (!Fault.isEmpty()) Faults << At(Path, Line, Fault);
     }
     return Faults;
@@ -222,18 +280,16 @@ QStringList SizeFaults(const QString& Path, const QString& Text) {
     return {At(Path, Lines, QStringLiteral("longer than %1 lines").arg(Limit))};
 }
 
-QStringList DrawingFaults(const QString& Document, const QStringList& Existing) {
-    QStringList Expected = DrawingOrder(Existing), Faults;
-    QStringList Drawn = DrawnLayers(Document);
-    for (const QString& Layer : Expected)
-        if (!Drawn.contains(Layer))
-            Faults << Layer + QStringLiteral("/ is missing in the drawing of src/");
-    for (const QString& Layer : Drawn)
-        if (!LayerOrder().contains(Layer)) Faults << Layer + QStringLiteral("/ is no layer");
-    if (!Faults.isEmpty()) return Faults;
-    Expected = DrawingOrder(Drawn);
-    if (Drawn != Expected)
-        Faults << QStringLiteral("the drawing has the layers in the order ") + Drawn.join(u", ") +
+QStringList DrawingFaults(const House& Rooms, const QString& Document) {
+    const QStringList Expected = DrawingOrder(Rooms), Drawn = DrawnFolders(Document);
+    QStringList Faults;
+    for (const QString& Folder : Expected)
+        if (!Drawn.contains(Folder))
+            Faults << Folder + QStringLiteral("/ is missing in the drawing of src/");
+    for (const QString& Folder : Drawn)
+        if (!Expected.contains(Folder)) Faults << Folder + QStringLiteral("/ is no room");
+    if (Faults.isEmpty() && Drawn != Expected)
+        Faults << QStringLiteral("the drawing has the rooms in the order ") + Drawn.join(u", ") +
                       QStringLiteral(" instead of ") + Expected.join(u", ");
     return Faults;
 }

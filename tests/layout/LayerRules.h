@@ -7,23 +7,39 @@
 
 namespace neb::layout {
 
-// From the lowest layer to the highest.
-const QStringList& LayerOrder();
-// The layer of a path below src ("support/windows/Form.h" is of "support/windows"); empty when
-// it lies in none.
-QString LayerOf(const QString& Path);
+// A folder of src: "support/files", on which floor, what of Qt it knows ("texts", "pictures" or
+// "windows"), and the top folders that its own is built upon ("*": any).
+struct Room {
+    QString Folder;
+    int Floor = 0;
+    QString Knows;
+    QStringList Uses;
+};
+
+// From the ground up: a room uses those before it and none after it.
+using House = QList<Room>;
+
+// The house as CMake tells it: "1:support:texts:|2:db:texts:support".
+House ReadHouse(const QString& List);
+// The room of a path below src; null when it lies in none.
+const Room* RoomOf(const House& Rooms, const QString& Path);
+
+// Rooms that stand after one of a higher floor.
+QStringList FloorFaults(const House& Rooms);
+// Folders of more than 35 files; the paths of all files are given.
+QStringList CrowdFaults(const QStringList& Sources);
 
 // The same text with comments blanked, and strings too unless they are wanted; lines stay.
 QString WithoutComments(const QString& Text, bool KeepStrings);
 
-// Includes that go against the order, that are not written from the root, or that bring windows
-// into a layer that knows none.
-QStringList IncludeFaults(const QString& Path, const QString& Text);
+// Includes that go up the house, or sideways to what the room is not built upon, that are not
+// written from the root, or that bring windows or pictures into a room that knows none.
+QStringList IncludeFaults(const House& Rooms, const QString& Path, const QString& Text);
 // Uses of file system classes outside the host file routines.
 QStringList FileSystemFaults(const QString& Path, const QString& Text);
 // Sources of more than 400 lines, headers of more than 150.
 QStringList SizeFaults(const QString& Path, const QString& Text);
-// The drawing of src/ in a fenced block has to name the layers that exist, in their order.
-QStringList DrawingFaults(const QString& Document, const QStringList& Existing);
+// The drawing of src/ in a fenced block has to name all rooms, the roof first.
+QStringList DrawingFaults(const House& Rooms, const QString& Document);
 
 }  // namespace neb::layout

@@ -26,7 +26,18 @@ QStringList Sources() {
     return Found;
 }
 
-QStringList FaultsOfAll(QStringList (*Check)(const QString&, const QString&)) {
+const House& TheHouse() {
+    static const House Rooms = ReadHouse(QStringLiteral(NEB_HOUSE));
+    return Rooms;
+}
+
+// A house to try the rules on.
+const House Small = ReadHouse(QStringLiteral(
+    "1:support:texts:|1:support/files:texts:|2:sound:texts:support|2:db/records:texts:support|"
+    "2:db:texts:support|3:albums:pictures:db|3:controls:windows:support|"
+    "4:windows/frame:windows:controls,albums|4:tools:pictures:albums|5:program:windows:windows"));
+
+QStringList FaultsOfAll(QStringList (*Check)(const QString& Path, const QString& Text)) {
     QStringList Faults;
     for (const QString& Path : Sources())
         Faults << Check(Path, TextOf(Root + QStringLiteral("src/") + Path));
@@ -38,24 +49,27 @@ std::string Lines(const QStringList& Faults) {
 }
 
 std::string Includes(const char* Path, const char* Text) {
-    return Lines(IncludeFaults(QString::fromUtf8(Path), QString::fromUtf8(Text)));
+    return Lines(IncludeFaults(Small, QString::fromUtf8(Path), QString::fromUtf8(Text)));
 }
 
 std::string HostFiles(const char* Path, const char* Text) {
     return Lines(FileSystemFaults(QString::fromUtf8(Path), QString::fromUtf8(Text)));
 }
 
-std::string Drawing(const char* Text, const QStringList& Existing) {
-    return Lines(DrawingFaults(QString::fromUtf8(Text), Existing));
+std::string Drawing(const char* Text) {
+    static const House Three = ReadHouse(
+        QStringLiteral("1:support:texts:|1:support/files:texts:|2:db/records:texts:|2:db:texts:|"
+                       "5:program:windows:"));
+    return Lines(DrawingFaults(Three, QString::fromUtf8(Text)));
 }
-
-const QStringList Four{QStringLiteral("support"), QStringLiteral("support/windows"),
-                       QStringLiteral("shell"), QStringLiteral("shell/main")};
 
 }  // namespace
 
-TEST(Layers, IncludesGoUpTheOrderOnly) {
-    EXPECT_EQ("", Lines(FaultsOfAll(IncludeFaults)));
+TEST(Layers, NoArrowGoesUp) {
+    EXPECT_EQ("", Lines(FloorFaults(TheHouse())));
+    EXPECT_EQ("", Lines(FaultsOfAll([](const QString& Path, const QString& Text) {
+                  return IncludeFaults(TheHouse(), Path, Text);
+              })));
 }
 
 TEST(Layers, OnlyTheHostFileRoutinesTouchTheFileSystem) {
@@ -66,75 +80,109 @@ TEST(Layers, SourcesAndHeadersKeepToTheirSize) {
     EXPECT_EQ("", Lines(FaultsOfAll(SizeFaults)));
 }
 
-TEST(Layers, TheDrawingOfTheArchitectureShowsThemInTheirOrder) {
+TEST(Layers, TheDrawingOfTheArchitectureShowsTheHouse) {
     const QString Path = Root + QStringLiteral("docs/ARCHITECTURE.md");
     ASSERT_TRUE(QFile::exists(Path));
-    QStringList Existing;
-    for (const QString& Source : Sources())
-        if (!Existing.contains(LayerOf(Source))) Existing << LayerOf(Source);
-    EXPECT_EQ("", Lines(DrawingFaults(TextOf(Path), Existing)));
+    EXPECT_EQ("", Lines(DrawingFaults(TheHouse(), TextOf(Path))));
 }
 
 TEST(Layers, TheScanSeesTheSources) {
-    EXPECT_TRUE(Sources().contains(QStringLiteral("support/modHostFiles.cpp")));
+    EXPECT_TRUE(Sources().contains(QStringLiteral("support/files/modHostFiles.cpp")));
     EXPECT_TRUE(Sources().contains(QStringLiteral("shell/main/main.cpp")));
     EXPECT_GT(Sources().size(), 50);
+    EXPECT_GT(TheHouse().size(), 10);
 }
 
-TEST(LayerRules, AFileBelongsToTheLayerOfItsFolder) {
-    EXPECT_EQ(u"support", LayerOf(QStringLiteral("support/Fault.h")));
-    EXPECT_EQ(u"support/windows", LayerOf(QStringLiteral("support/windows/Form.h")));
-    EXPECT_EQ(u"shell/main", LayerOf(QStringLiteral("shell/main/main.cpp")));
-    EXPECT_EQ(u"", LayerOf(QStringLiteral("misc/x.h")));
-    EXPECT_EQ(u"", LayerOf(QStringLiteral("x.h")));
+TEST(LayerRules, AFileBelongsToTheRoomOfItsFolder) {
+    const auto Folder = [](const char* Path) {
+        const Room* Found = RoomOf(Small, QString::fromUtf8(Path));
+        return Found ? Found->Folder : QString();
+    };
+    EXPECT_EQ(u"support", Folder("support/Fault.h"));
+    EXPECT_EQ(u"windows/frame", Folder("windows/frame/Openers.h"));
+    EXPECT_EQ(u"", Folder("windows/Openers.h")) << "windows are sorted into rooms";
+    EXPECT_EQ(u"", Folder("misc/x.h"));
+    EXPECT_EQ(u"", Folder("x.h"));
+}
+
+TEST(LayerRules, TheHouseIsReadFromItsList) {
+    EXPECT_EQ(u"windows/frame", Small[7].Folder);
+    EXPECT_EQ(4, Small[7].Floor);
+    EXPECT_EQ(u"windows", Small[7].Knows);
+    EXPECT_EQ((QStringList{QStringLiteral("controls"), QStringLiteral("albums")}), Small[7].Uses);
+    EXPECT_EQ("", Lines(FloorFaults(Small)));
+    EXPECT_EQ("db comes after a room of a higher floor",
+              Lines(FloorFaults(ReadHouse(QStringLiteral("2:albums:texts:|1:db:texts:")))));
 }
 
 TEST(LayerRules, AnIncludeAgainstTheOrderIsFound) {
-    EXPECT_EQ("db/a.cpp:2: db may use support alone, not shell/x.h",
-              Includes("db/a.cpp", "#include \"support/Fault.h\"\n#include \"shell/x.h\"\n"));
-    EXPECT_EQ("effects/a.h:1: effects may not use platform/x.h, which comes after it",
-              Includes("effects/a.h", "  #  include \"platform/x.h\""));
-    EXPECT_EQ("support/a.h:1: support may use support alone, not support/windows/Form.h",
-              Includes("support/a.h", "#include \"support/windows/Form.h\""));
-    EXPECT_EQ("shell/a.h:1: shell may not use shell/main/x.h, which comes after it",
-              Includes("shell/a.h", "#include \"shell/main/x.h\""));
-    EXPECT_EQ("printing/a.h:1: printing may not use intake/x.h, which comes after it",
-              Includes("printing/a.h", "#include \"intake/x.h\""));
-    EXPECT_EQ("transfer/a.h:1: transfer may not use tools/x.h, which comes after it",
-              Includes("transfer/a.h", "#include \"tools/x.h\""));
+    EXPECT_EQ("db/a.cpp:2: db may not use albums/x.h, which stands above it",
+              Includes("db/a.cpp", "#include \"support/Fault.h\"\n#include \"albums/x.h\"\n"));
+    EXPECT_EQ("db/records/a.h:1: db/records may not use db/x.h, which stands above it",
+              Includes("db/records/a.h", "  #  include \"db/x.h\""));
+    EXPECT_EQ("support/a.h:1: support may not use support/files/x.h, which stands above it",
+              Includes("support/a.h", "#include \"support/files/x.h\""));
+    EXPECT_EQ("windows/frame/a.h:1: windows/frame may not use program/x.h, which stands above it",
+              Includes("windows/frame/a.h", "#include \"program/x.h\""));
 }
 
-TEST(LayerRules, IncludesUpTheOrderAreFine) {
-    EXPECT_EQ("", Includes("transfer/a.cpp",
-                           "#include \"transfer/a.h\"\n#include \"authoring/x.h\"\n"
-                           "#include \"support/windows/Form.h\"\n#include <QWidget>\n"
+TEST(LayerRules, AnIncludeOfWhatTheRoomIsNotBuiltUponIsFound) {
+    EXPECT_EQ("db/a.cpp:1: db may not use sound/x.h: it is not built upon it",
+              Includes("db/a.cpp", "#include \"sound/x.h\""));
+    EXPECT_EQ("tools/a.cpp:1: tools may not use windows/frame/x.h: it is not built upon it",
+              Includes("tools/a.cpp", "#include \"windows/frame/x.h\""));
+    EXPECT_EQ("albums/a.cpp:1: albums may not use sound/x.h: it is not built upon it",
+              Includes("albums/a.cpp", "#include \"sound/x.h\""));
+}
+
+TEST(LayerRules, IncludesDownTheHouseAreFine) {
+    EXPECT_EQ("", Includes("windows/frame/a.cpp",
+                           "#include \"windows/frame/a.h\"\n#include \"albums/x.h\"\n"
+                           "#include \"support/files/x.h\"\n#include <QWidget>\n"
                            "#include \"ui_frmAlbumExport.h\"\n#include \"a.moc\"\n"));
-    EXPECT_EQ("", Includes("shell/main/a.cpp", "#include \"tools/x.h\"\n#include \"intake/y.h\""));
-    EXPECT_EQ("", Includes("tools/a.cpp", "#include \"shell/main/x.h\""));
+    EXPECT_EQ("", Includes("program/a.cpp", "#include \"windows/frame/x.h\""));
+    EXPECT_EQ("", Includes("db/a.cpp", "#include \"db/records/y.h\""));
+}
+
+TEST(LayerRules, ACrowdedRoomIsFound) {
+    QStringList Paths;
+    for (int I = 0; I < 35; ++I) Paths << QStringLiteral("db/%1.h").arg(I);
+    EXPECT_EQ("", Lines(CrowdFaults(Paths)));
+    Paths << QStringLiteral("db/records/x.h");
+    EXPECT_EQ("", Lines(CrowdFaults(Paths)));
+    Paths << QStringLiteral("db/one-more.ui");
+    EXPECT_EQ("db holds 36 files, more than 35", Lines(CrowdFaults(Paths)));
 }
 
 TEST(LayerRules, CommentedIncludesDoNotCountAndHiddenOnesDo) {
     EXPECT_EQ("",
-              Includes("db/a.cpp", "// #include \"shell/x.h\"\n/* \n#include \"shell/x.h\"\n*/"));
-    EXPECT_EQ("db/a.cpp:3: db may use support alone, not shell/x.h",
-              Includes("db/a.cpp", "/* two\nlines */\n#include \"shell/x.h\"  // why\n"));
+              Includes("db/a.cpp", "// #include \"albums/x.h\"\n/* \n#include \"albums/x.h\"\n*/"));
+    EXPECT_EQ("db/a.cpp:3: db may not use albums/x.h, which stands above it",
+              Includes("db/a.cpp", "/* two\nlines */\n#include \"albums/x.h\"  // why\n"));
 }
 
 TEST(LayerRules, IncludesThatAreNotFromTheRootOrLeadNowhereAreFound) {
     EXPECT_EQ("db/a.cpp:1: a.h is not written from the root",
               Includes("db/a.cpp", "#include \"a.h\""));
-    EXPECT_EQ("db/a.cpp:1: misc/a.h lies in no layer",
+    EXPECT_EQ("db/a.cpp:1: misc/a.h lies in no room",
               Includes("db/a.cpp", "#include \"misc/a.h\""));
-    EXPECT_EQ("misc/a.cpp:1: the file lies in no layer", Includes("misc/a.cpp", ""));
+    EXPECT_EQ("misc/a.cpp:1: the file lies in no room", Includes("misc/a.cpp", ""));
 }
 
-TEST(LayerRules, WindowsAndPicturesAreFoundInTheLayersThatKnowNone) {
-    for (const char* Header : {"QWidget", "QImage", "QPixmap", "QDialog", "QPainter", "QCheckBox",
-                               "QtGui/QColor", "QtWidgets/QLabel", "qwidget.h"}) {
-        const std::string Text = std::string("#include <") + Header + ">";
-        EXPECT_NE("", Includes("support/a.cpp", Text.c_str())) << Header;
-        EXPECT_NE("", Includes("db/a.cpp", Text.c_str())) << Header;
-        EXPECT_EQ("", Includes("support/windows/a.cpp", Text.c_str())) << Header;
+TEST(LayerRules, WindowsAndPicturesAreFoundInTheRoomsThatKnowNone) {
+    const auto Of = [](const char* Path, const char* Header) {
+        return Includes(Path, (std::string("#include <") + Header + ">").c_str());
+    };
+    for (const char* Header : {"QImage", "QPixmap", "QPainter", "QtGui/QColor", "QTextLayout"}) {
+        EXPECT_NE("", Of("db/a.cpp", Header)) << Header;
+        EXPECT_EQ("", Of("albums/a.cpp", Header)) << Header;
+        EXPECT_EQ("", Of("windows/frame/a.cpp", Header)) << Header;
+    }
+    for (const char* Header :
+         {"QWidget", "QDialog", "QCheckBox", "QtWidgets/QLabel", "qwidget.h"}) {
+        EXPECT_NE("", Of("db/a.cpp", Header)) << Header;
+        EXPECT_NE("", Of("albums/a.cpp", Header)) << Header;
+        EXPECT_EQ("", Of("windows/frame/a.cpp", Header)) << Header;
     }
     EXPECT_EQ("",
               Includes("db/a.cpp", "#include <QString>\n#include <QDateTime>\n#include <QRect>"));
@@ -147,9 +195,9 @@ TEST(LayerRules, UsesOfTheFileSystemAreFound) {
           "QDirIterator I(P);", "QLockFile L(P);", "std::ifstream In(P);", "std::ofstream Out;",
           "std::fstream F;", "std::fopen(P, \"r\");", "std::filesystem::exists(P);",
           "namespace fs = std::filesystem; fs::x(); filesystem::path P;"})
-        EXPECT_NE("", HostFiles("intake/a.cpp", Use)) << Use;
-    EXPECT_EQ("intake/a.cpp:2: QFile belongs into the host file routines alone",
-              HostFiles("intake/a.cpp", "int A;\nQFile F(\"x\");\n"));
+        EXPECT_NE("", HostFiles("windows/a.cpp", Use)) << Use;
+    EXPECT_EQ("windows/a.cpp:2: QFile belongs into the host file routines alone",
+              HostFiles("windows/a.cpp", "int A;\nQFile F(\"x\");\n"));
 }
 
 TEST(LayerRules, WhatOnlyLooksLikeTheFileSystemIsNotFound) {
@@ -157,15 +205,14 @@ TEST(LayerRules, WhatOnlyLooksLikeTheFileSystemIsNotFound) {
          {"QFileDialog::getOpenFileName();", "// a QFile would do", "/* QDir */ int A;",
           "Text(\"QFile\");", "QFileSystemModel M;", "M.setFilter(QDir::AllDirs | QDir::Drives);",
           "QDir::separator()", "#include <QDir>", "MyQFile F;", "R\"x(QFile \" QDir)x\""})
-        EXPECT_EQ("", HostFiles("intake/a.cpp", Use)) << Use;
+        EXPECT_EQ("", HostFiles("windows/a.cpp", Use)) << Use;
 }
 
 TEST(LayerRules, TheHostFileRoutinesThemselvesMayUseTheFileSystem) {
-    for (const char* Path :
-         {"support/modHostFiles.cpp", "support/modHostFilesWrite.cpp", "support/NameCache.cpp"})
+    for (const char* Path : {"support/files/modHostFiles.cpp", "support/files/NameCache.h"})
         EXPECT_EQ("", HostFiles(Path, "QFile F;")) << Path;
     for (const char* Path :
-         {"support/modFUFL.cpp", "db/modHostFiles.cpp", "support/NameCacheX.cpp"})
+         {"support/modFUFL.cpp", "db/modHostFiles.cpp", "support/work/NameCache.cpp"})
         EXPECT_NE("", HostFiles(Path, "QFile F;")) << Path;
 }
 
@@ -198,22 +245,22 @@ TEST(LayerRules, TooLongFilesAreFound) {
     EXPECT_EQ("", Size("a.ui", 2000));
 }
 
-TEST(LayerRules, ADrawingInTheRightOrderIsAccepted) {
+TEST(LayerRules, ADrawingFromTheRoofDownIsAccepted) {
     const char* Plain =
-        "# Architecture\n\n```\nsrc/\n  support/   texts\n    windows/ boxes\n"
-        "  shell/     paths\n    main/    entry\ntests/<layer>/\nbench/  speed\n```\n";
-    EXPECT_EQ("", Drawing(Plain, Four));
+        "# Architecture\n\n```\nsrc/\n  program/   entry\n  db/    albums\n    records/ layouts\n"
+        "  support/     texts\n    files/    the disk\ntests/<folder>/\nbench/  speed\n```\n";
+    EXPECT_EQ("", Drawing(Plain));
     const char* Tree =
-        "```\nsrc/\n├── support/\n│   └── windows/\n└── shell/\n    └── main/\n```\n";
-    EXPECT_EQ("", Drawing(Tree, Four));
+        "```\nsrc/\n├── program/\n├── db/\n│   └── records/\n└── support/\n    └── files/\n```\n";
+    EXPECT_EQ("", Drawing(Tree));
 }
 
-TEST(LayerRules, AMissingAForeignAndAMisplacedLayerAreFoundInADrawing) {
-    EXPECT_EQ("shell/main/ is missing in the drawing of src/",
-              Drawing("```\nsrc/\n  support/\n    windows/\n  shell/\n```\n", Four));
-    EXPECT_EQ(
-        "misc/ is no layer",
-        Drawing("```\nsrc/\n  support/\n    windows/\n  misc/\n  shell/\n    main/\n```\n", Four));
-    EXPECT_NE("", Drawing("```\nsrc/\n  shell/\n    main/\n  support/\n    windows/\n```\n", Four));
-    EXPECT_NE("", Drawing("support, shell: words alone\n", Four));
+TEST(LayerRules, AMissingAForeignAndAMisplacedRoomAreFoundInADrawing) {
+    EXPECT_EQ("db/records/ is missing in the drawing of src/",
+              Drawing("```\nsrc/\n  program/\n  db/\n  support/\n    files/\n```\n"));
+    EXPECT_EQ("misc/ is no room", Drawing("```\nsrc/\n  program/\n  misc/\n  db/\n    records/\n"
+                                          "  support/\n    files/\n```\n"));
+    EXPECT_NE("",
+              Drawing("```\nsrc/\n  db/\n    records/\n  program/\n  support/\n    files/\n```\n"));
+    EXPECT_NE("", Drawing("program, support: words alone\n"));
 }

@@ -37,7 +37,7 @@
 #include "shell/main/frmHelp.h"
 #include "shell/modNEBSlideShow.h"
 #include "support/Fault.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb {
 namespace {

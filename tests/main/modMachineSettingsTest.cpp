@@ -8,7 +8,7 @@
 #include "harness/TempFolder.h"
 #include "platform/XShow.h"
 #include "shell/modNEBSlideShow.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 #include "support/windows/Form.h"
 #include "support/windows/ScreenPointer.h"
 

@@ -20,7 +20,7 @@
 #include "shell/main/frmAbout.h"
 #include "shell/main/frmNEBSlideShow.h"
 #include "shell/modNEBSlideShow.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb {
 namespace {

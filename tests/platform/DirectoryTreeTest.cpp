@@ -18,7 +18,7 @@
 #include <QVBoxLayout>
 
 #include "harness/TempFolder.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb {
 namespace {

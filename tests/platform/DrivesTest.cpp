@@ -8,8 +8,8 @@
 
 #include "harness/MountedMemory.h"
 #include "harness/TempFolder.h"
+#include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
-#include "support/modHostFiles.h"
 
 namespace neb {
 namespace {

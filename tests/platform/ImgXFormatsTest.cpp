@@ -1,7 +1,7 @@
 // Every format and kind of pixel gives the same motif.
-#include "platform/AheadQueue.h"
 #include "platform/PictureFaults.h"
 #include "platform/Pictures.h"
+#include "support/work/AheadQueue.h"
 
 using namespace neb;
 using namespace neb::tests;

@@ -8,7 +8,7 @@
 #include "harness/TempFolder.h"
 #include "platform/ImgX.h"
 #include "support/Fault.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb::tests {
 

@@ -10,7 +10,7 @@
 #include "XShowRig.h"
 #include "harness/ChildRole.h"
 #include "harness/TempFolder.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 using namespace neb;
 using namespace neb::test;

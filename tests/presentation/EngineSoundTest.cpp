@@ -10,7 +10,7 @@
 #include "platform/sound/ClockedSound.h"
 #include "shell/modNEBSlideShow.h"
 #include "support/Fault.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb::test {
 namespace {

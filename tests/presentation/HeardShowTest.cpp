@@ -7,7 +7,7 @@
 #include "harness/SoundFiles.h"
 #include "platform/sound/SdlSoundDevices.h"
 #include "shell/modNEBSlideShow.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb::test {
 namespace {

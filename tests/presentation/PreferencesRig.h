@@ -13,7 +13,7 @@
 #include "presentation/EffectList.h"
 #include "presentation/frmPreferences.h"
 #include "shell/modNEBSlideShow.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb::test {
 

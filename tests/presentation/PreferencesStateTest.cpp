@@ -6,7 +6,7 @@
 #include "harness/TempFolder.h"
 #include "presentation/ShowSettings.h"
 #include "shell/clsSettings.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb {
 namespace {

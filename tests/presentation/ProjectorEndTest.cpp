@@ -2,7 +2,7 @@
 #include "ProjectorRig.h"
 
 #include "support/Fault.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 #include "support/windows/ScreenPointer.h"
 
 namespace neb::test {

@@ -5,7 +5,7 @@
 
 #include "shell/modNEBSlideShow.h"
 #include "support/Fault.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb::test {
 namespace {

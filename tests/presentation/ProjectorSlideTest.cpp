@@ -4,7 +4,7 @@
 #include <QTest>
 
 #include "shell/modNEBSlideShow.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb::test {
 namespace {

@@ -11,7 +11,7 @@
 #include "RecorderRig.h"
 #include "presentation/LevelMeter.h"
 #include "presentation/frmSoundRecorder.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb::test {
 

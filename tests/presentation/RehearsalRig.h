@@ -10,8 +10,8 @@
 #include "presentation/Rehearsal.h"
 #include "shell/modNEBSlideShow.h"
 #include "support/Fault.h"
+#include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
-#include "support/modHostFiles.h"
 
 namespace neb::test {
 

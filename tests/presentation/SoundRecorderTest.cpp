@@ -4,7 +4,7 @@
 #include "RecorderRig.h"
 #include "presentation/WaveFile.h"
 #include "support/Fault.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb::test {
 namespace {

@@ -15,7 +15,7 @@
 #include "platform/XShow.h"
 #include "shell/modNEBSlideShow.h"
 #include "support/Fault.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 #include "support/windows/ScreenPointer.h"
 
 namespace neb {

@@ -7,7 +7,7 @@
 #include <initializer_list>
 
 #include "harness/TempFolder.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb {
 namespace {

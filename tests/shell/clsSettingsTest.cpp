@@ -2,7 +2,7 @@
 
 #include "harness/TempFolder.h"
 #include "support/Fault.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 using namespace neb;
 using namespace neb::harness;

@@ -7,7 +7,7 @@
 #include "shell/clsFileSystem.h"
 #include "support/Fault.h"
 #include "support/Services.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 using namespace neb;
 using namespace neb::harness;

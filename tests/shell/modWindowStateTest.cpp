@@ -8,7 +8,7 @@
 #include "harness/TempFolder.h"
 #include "shell/modNEBSlideShow.h"
 #include "support/Fault.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 #include "support/modTwips.h"
 #include "support/windows/TestForm.h"
 

@@ -11,7 +11,7 @@
 #include "effects/EffectCatalogue.h"
 #include "effects/Transition.h"
 #include "harness/TempFolder.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 #include "tools/EffectPictures.h"
 #include "tools/EffectTiming.h"
 #include "tools/modCommands.h"

@@ -7,7 +7,7 @@
 
 #include <vector>
 
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb {
 

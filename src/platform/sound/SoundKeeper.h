@@ -6,9 +6,9 @@
 #include <chrono>
 #include <memory>
 
-#include "platform/sound/LeftThread.h"
 #include "platform/sound/SoundMixer.h"
 #include "platform/sound/SoundOutput.h"
+#include "support/work/LeftThread.h"
 
 namespace neb {
 

@@ -7,8 +7,8 @@
 #include <mutex>
 #include <vector>
 
-#include "platform/sound/LeftThread.h"
 #include "platform/sound/SoundVoice.h"
+#include "support/work/LeftThread.h"
 
 namespace neb {
 

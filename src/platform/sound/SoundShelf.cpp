@@ -8,7 +8,7 @@
 #include <utility>
 
 #include "support/Fault.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb {
 

@@ -5,7 +5,7 @@
 #include <QMdiSubWindow>
 #include <QMimeData>
 
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb {
 namespace {

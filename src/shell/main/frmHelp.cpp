@@ -3,7 +3,7 @@
 #include <QTextBrowser>
 #include <QVBoxLayout>
 
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb {
 

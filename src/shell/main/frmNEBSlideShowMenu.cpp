@@ -22,14 +22,15 @@
 #include "shell/modWindowState.h"
 #include "support/Fault.h"
 #include "support/Services.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb {
 namespace {
 
 // The windows that come with later versions; until then their entries rest.
 constexpr const char* NotYet[] = {
-"mnuAlbumExport", "mnuAlbumImport", "mnuAlbumPrint", "mnuSlideShowExport", "mnuSlideShowImport", "mnuSlideShowPrint",
+    "mnuAlbumExport",     "mnuAlbumImport",     "mnuAlbumPrint",
+    "mnuSlideShowExport", "mnuSlideShowImport", "mnuSlideShowPrint",
 };
 
 }  // namespace

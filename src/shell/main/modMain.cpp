@@ -12,7 +12,7 @@
 #include "shell/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/Services.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 #include "support/windows/Form.h"
 #include "support/windows/NebApplication.h"
 

@@ -6,7 +6,7 @@
 #include <cstring>
 
 #include "support/Fault.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace {
 

@@ -8,7 +8,7 @@
 #include <csignal>
 
 #include "harness/TempFolder.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb {
 namespace {

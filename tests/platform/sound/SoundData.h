@@ -12,7 +12,7 @@
 #include "harness/TempFolder.h"
 #include "platform/sound/SoundDecoder.h"
 #include "support/Fault.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb::tests {
 

@@ -1,4 +1,4 @@
-#include "support/NameCache.h"
+#include "support/files/NameCache.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -3,7 +3,7 @@
 
 #include "harness/TempFolder.h"
 #include "support/Fault.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb {
 namespace {

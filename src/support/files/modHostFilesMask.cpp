@@ -1,4 +1,4 @@
-#include "support/modHostFilesMask.h"
+#include "support/files/modHostFilesMask.h"
 
 #include <algorithm>
 

@@ -9,8 +9,8 @@
 #include <filesystem>
 
 #include "support/Fault.h"
-#include "support/NameCache.h"
-#include "support/modHostFiles.h"
+#include "support/files/NameCache.h"
+#include "support/files/modHostFiles.h"
 
 #ifdef _WIN32
 #include <io.h>

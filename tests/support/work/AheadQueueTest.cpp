@@ -1,4 +1,4 @@
-#include "platform/AheadQueue.h"
+#include "support/work/AheadQueue.h"
 
 #include <gtest/gtest.h>
 

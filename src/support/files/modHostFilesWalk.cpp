@@ -1,4 +1,4 @@
-#include "support/modHostFilesWalk.h"
+#include "support/files/modHostFilesWalk.h"
 
 #include <unistd.h>
 
@@ -8,8 +8,8 @@
 #include <utility>
 #include <vector>
 
-#include "support/modHostFiles.h"
-#include "support/modHostFilesListing.h"
+#include "support/files/modHostFiles.h"
+#include "support/files/modHostFilesListing.h"
 
 namespace neb {
 namespace {

@@ -1,4 +1,4 @@
-#include "support/modHostFilesMounts.h"
+#include "support/files/modHostFilesMounts.h"
 
 #include <fcntl.h>
 #include <unistd.h>

@@ -1,5 +1,5 @@
 // Looking at the file system; what changes it is in modHostFilesWrite.cpp.
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 #include <QDir>
 #include <QFile>
@@ -7,9 +7,9 @@
 #include <QStorageInfo>
 
 #include "support/Fault.h"
-#include "support/NameCache.h"
-#include "support/modHostFilesListing.h"
-#include "support/modHostFilesMask.h"
+#include "support/files/NameCache.h"
+#include "support/files/modHostFilesListing.h"
+#include "support/files/modHostFilesMask.h"
 
 namespace neb {
 namespace {

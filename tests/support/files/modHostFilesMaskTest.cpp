@@ -1,10 +1,10 @@
 // What a walk over many files asks: masks, and what is to be known of a file.
-#include "support/modHostFilesMask.h"
+#include "support/files/modHostFilesMask.h"
 
 #include <gtest/gtest.h>
 
 #include "harness/TempFolder.h"
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb {
 namespace {

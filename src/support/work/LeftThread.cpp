@@ -1,4 +1,4 @@
-#include "platform/sound/LeftThread.h"
+#include "support/work/LeftThread.h"
 
 #include <chrono>
 

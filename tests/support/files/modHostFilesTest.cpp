@@ -1,5 +1,5 @@
 // The rules of names, listings, wild cards and read-only files.
-#include "support/modHostFiles.h"
+#include "support/files/modHostFiles.h"
 
 #include <gtest/gtest.h>
 
