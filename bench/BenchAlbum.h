@@ -10,9 +10,9 @@
 #include "db/modAlbumFiles.h"
 #include "intake/clsImageBuffer.h"
 #include "intake/modImport.h"
+#include "pictures/ImgX.h"
 #include "platform/FlexGrid.h"
-#include "platform/ImgX.h"
-#include "shell/modNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
 #include "support/files/modHostFiles.h"
 
 namespace neb {

@@ -12,7 +12,7 @@
 #include <cstdio>
 #include <random>
 
-#include "platform/ImgX.h"
+#include "pictures/ImgX.h"
 #include "support/files/modHostFiles.h"
 #include "support/work/AheadQueue.h"
 

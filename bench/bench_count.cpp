@@ -14,7 +14,7 @@
 #include "intake/frmDirSelect.h"
 #include "intake/modPictureFiles.h"
 #include "platform/DirectoryTree.h"
-#include "shell/modNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
 #include "support/files/modHostFiles.h"
 
 using namespace neb;

@@ -20,8 +20,8 @@
 #include "BenchScene.h"
 #include "effects/EffectCatalogue.h"
 #include "effects/Transition.h"
+#include "effects/XShowBands.h"
 #include "effects/memory/AllocationCount.h"
-#include "platform/XShowBands.h"
 
 using namespace neb;
 

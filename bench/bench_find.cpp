@@ -18,7 +18,7 @@
 #include "intake/frmFindGraphics.h"
 #include "platform/Drives.h"
 #include "platform/FlexGrid.h"
-#include "shell/modNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
 #include "support/Services.h"
 #include "support/files/modHostFiles.h"
 #include "support/windows/NebApplication.h"

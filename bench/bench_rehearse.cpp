@@ -9,7 +9,7 @@
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
 #include "presentation/RehearsalFindings.h"
-#include "shell/modNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
 #include "support/files/modHostFiles.h"
 
 using namespace neb;

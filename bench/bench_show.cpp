@@ -11,8 +11,8 @@
 
 #include "BenchScene.h"
 #include "effects/EffectCatalogue.h"
+#include "effects/XShowBands.h"
 #include "platform/XShow.h"
-#include "platform/XShowBands.h"
 #include "support/windows/NebApplication.h"
 
 using namespace neb;

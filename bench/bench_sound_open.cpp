@@ -7,7 +7,7 @@
 #include <ctime>
 #include <vector>
 
-#include "platform/sound/SoundDecoder.h"
+#include "sound/decoding/SoundDecoder.h"
 #include "support/files/modHostFiles.h"
 
 using namespace neb;

@@ -13,9 +13,9 @@
 #include <ctime>
 #include <thread>
 
-#include "platform/sound/SdlOutput.h"
-#include "platform/sound/SoundFormat.h"
-#include "platform/sound/SoundPlayers.h"
+#include "sound/decoding/SoundFormat.h"
+#include "sound/devices/SdlOutput.h"
+#include "sound/devices/SoundPlayers.h"
 
 using namespace neb;
 

@@ -8,9 +8,9 @@
 #include <chrono>
 #include <cstdio>
 
+#include "settings/modNEBSlideShow.h"
 #include "shell/main/DesktopServices.h"
 #include "shell/main/frmNEBSlideShow.h"
-#include "shell/modNEBSlideShow.h"
 #include "support/windows/NebApplication.h"
 
 namespace {

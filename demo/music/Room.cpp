@@ -4,7 +4,7 @@
 #include <array>
 #include <cmath>
 
-#include "presentation/WaveFile.h"
+#include "sound/WaveFile.h"
 
 namespace neb::demo {
 namespace {

@@ -5,7 +5,7 @@
 
 #include <functional>
 
-#include "platform/sound/SoundDevices.h"
+#include "sound/devices/SoundDevices.h"
 
 namespace neb::demo {
 

@@ -6,9 +6,9 @@
 #include "Tour.h"
 #include "TourSound.h"
 #include "TourSteps.h"
+#include "settings/modNEBSlideShow.h"
 #include "shell/main/DesktopServices.h"
 #include "shell/main/frmNEBSlideShow.h"
-#include "shell/modNEBSlideShow.h"
 #include "support/Services.h"
 #include "support/windows/NebApplication.h"
 

@@ -11,7 +11,7 @@
 #include "intake/clsImageBuffer.h"
 #include "platform/FlexGrid.h"
 #include "platform/GridRows.h"
-#include "shell/modNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
 #include "support/Services.h"
 #include "support/windows/ScreenPointer.h"
 #include "support/windows/frmLoading.h"

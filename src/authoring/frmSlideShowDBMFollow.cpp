@@ -11,7 +11,7 @@
 #include "intake/SlideRows.h"
 #include "platform/FlexGrid.h"
 #include "platform/GridRows.h"
-#include "shell/modNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
 #include "ui_frmSlideShowDBM.h"
 
 namespace neb {

@@ -6,7 +6,7 @@
 #include "authoring/frmSlideShowDBM.h"
 #include "authoring/modLoadShow.h"
 #include "platform/FlexGrid.h"
-#include "shell/modNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
 #include "support/Services.h"
 #include "support/modFUFL.h"
 #include "ui_frmSlideShowDBM.h"

@@ -2,9 +2,9 @@
 // clearing for transfers in clsDBEngineClear.cpp.
 #include "db/clsDBEngine.h"
 
-#include "db/RecordCodec.h"
 #include "db/modLoadRecords.h"
 #include "db/modNameIndex.h"
+#include "db/records/RecordCodec.h"
 #include "support/Services.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"

@@ -2,7 +2,7 @@
 
 #include <unordered_map>
 
-#include "db/RecordCodec.h"
+#include "db/records/RecordCodec.h"
 
 namespace neb {
 namespace {

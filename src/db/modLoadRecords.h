@@ -3,7 +3,7 @@
 #pragma once
 
 #include "db/clsDBEngine.h"
-#include "db/modJournal.h"
+#include "db/records/modJournal.h"
 
 namespace neb {
 

@@ -3,7 +3,7 @@
 #include <QRegularExpression>
 #include <cmath>
 
-#include "db/RecordCodec.h"
+#include "db/records/RecordCodec.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
 #include "support/modNumbers.h"

@@ -5,7 +5,7 @@
 #include <span>
 #include <vector>
 
-#include "db/RecordSource.h"
+#include "db/records/RecordSource.h"
 #include "support/modDEComboUFL.h"
 
 namespace neb {

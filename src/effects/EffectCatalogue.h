@@ -4,7 +4,7 @@
 
 #include <QString>
 
-#include "effects/Engine.h"
+#include "effects/drawing/Engine.h"
 
 namespace neb {
 

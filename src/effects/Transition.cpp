@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "effects/EffectCatalogue.h"
-#include "effects/Pixels.h"
+#include "effects/drawing/Pixels.h"
 #include "support/Fault.h"
 
 namespace neb {

@@ -5,7 +5,7 @@
 #include <QImage>
 #include <memory>
 
-#include "effects/Engine.h"
+#include "effects/drawing/Engine.h"
 
 namespace neb {
 

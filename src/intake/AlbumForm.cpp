@@ -6,7 +6,7 @@
 
 #include "db/clsDBEngine.h"
 #include "platform/ComboBoxList.h"
-#include "shell/modNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
 #include "support/Services.h"
 
 namespace neb {

@@ -1,7 +1,7 @@
 #include "intake/DirectoryPanel.h"
 
 #include "intake/modPictureFiles.h"
-#include "shell/modNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/Services.h"
 #include "support/files/modHostFiles.h"

@@ -11,7 +11,7 @@
 #include "platform/GridRows.h"
 #include "platform/Icons.h"
 #include "platform/ToolBar.h"
-#include "shell/modNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
 #include "shell/modWindowState.h"
 #include "support/Services.h"
 #include "support/modDEValidation.h"

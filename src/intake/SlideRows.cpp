@@ -5,7 +5,7 @@
 #include "db/clsNEBSlide.h"
 #include "intake/clsImageBuffer.h"
 #include "platform/FlexGrid.h"
-#include "shell/modNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/Services.h"
 #include "support/modDEValidation.h"

@@ -3,7 +3,7 @@
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
 #include "intake/modImport.h"
-#include "platform/ImgX.h"
+#include "pictures/ImgX.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
 

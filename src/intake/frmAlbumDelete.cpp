@@ -5,7 +5,7 @@
 #include "db/clsDBEngine.h"
 #include "intake/modAlbumNames.h"
 #include "platform/Icons.h"
-#include "shell/modNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
 #include "support/Services.h"
 #include "support/windows/PaintRate.h"
 #include "support/windows/ScreenPointer.h"

@@ -3,7 +3,7 @@
 #include "db/clsDBEngine.h"
 #include "intake/modAlbumNames.h"
 #include "platform/Icons.h"
-#include "shell/modNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
 #include "support/modDEValidation.h"
 #include "ui_frmAlbumRename.h"
 

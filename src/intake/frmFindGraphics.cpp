@@ -8,7 +8,7 @@
 #include "platform/Drives.h"
 #include "platform/FlexGrid.h"
 #include "platform/Icons.h"
-#include "shell/modNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
 #include "shell/modWindowState.h"
 #include "support/Fault.h"
 #include "support/Services.h"

@@ -1,7 +1,7 @@
 #include "intake/frmGetObjectName.h"
 
 #include "intake/modAlbumNames.h"
-#include "shell/modNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
 #include "ui_frmGetObjectName.h"
 
 namespace neb {

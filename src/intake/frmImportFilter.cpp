@@ -1,8 +1,8 @@
 #include "intake/frmImportFilter.h"
 
 #include "db/clsDBEngine.h"
+#include "settings/modNEBSlideShow.h"
 #include "shell/Openers.h"
-#include "shell/modNEBSlideShow.h"
 #include "shell/modWindowState.h"
 #include "support/Fault.h"
 #include "support/Services.h"

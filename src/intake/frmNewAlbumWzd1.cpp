@@ -5,7 +5,7 @@
 #include "db/clsDBEngine.h"
 #include "intake/frmImportFilter.h"
 #include "intake/modAlbumNames.h"
-#include "shell/modNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/Services.h"
 #include "support/modDEValidation.h"

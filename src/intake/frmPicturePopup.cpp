@@ -2,7 +2,7 @@
 
 #include <QKeyEvent>
 
-#include "platform/ImgX.h"
+#include "pictures/ImgX.h"
 #include "platform/PictureView.h"
 #include "shell/modWindowState.h"
 #include "support/Fault.h"

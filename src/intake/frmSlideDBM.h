@@ -5,8 +5,8 @@
 
 #include <QScopedValueRollback>
 
+#include "pictures/ImgX.h"
 #include "platform/ComboBoxList.h"
-#include "platform/ImgX.h"
 #include "shell/modBroadcast.h"
 #include "support/windows/Form.h"
 #include "support/windows/ScreenPointer.h"

@@ -4,7 +4,7 @@
 #include "db/clsDBEngine.h"
 #include "intake/frmSlideDBM.h"
 #include "platform/FlexGrid.h"
-#include "shell/modNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
 #include "support/Services.h"
 #include "ui_frmSlideDBM.h"
 

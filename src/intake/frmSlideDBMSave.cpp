@@ -9,7 +9,7 @@
 #include "intake/frmSlideDBM.h"
 #include "intake/modPictureFiles.h"
 #include "platform/FlexGrid.h"
-#include "shell/modNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/Services.h"
 #include "support/files/modHostFiles.h"

@@ -7,7 +7,7 @@
 #include "intake/frmSlideMgrBulk.h"
 #include "platform/ComboBoxList.h"
 #include "platform/FlexGrid.h"
-#include "shell/modNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
 #include "support/Services.h"
 #include "support/windows/ScreenPointer.h"
 #include "support/windows/frmLoading.h"

@@ -8,7 +8,7 @@
 #include "intake/frmAlbumDelete.h"
 #include "intake/frmAlbumRename.h"
 #include "platform/KeyFilter.h"
-#include "shell/modNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
 #include "support/Services.h"
 #include "support/files/modHostFiles.h"
 

@@ -2,7 +2,7 @@
 
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
-#include "platform/ImgX.h"
+#include "pictures/ImgX.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
 #include "support/modDEValidation.h"

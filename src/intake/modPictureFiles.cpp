@@ -1,6 +1,6 @@
 #include "intake/modPictureFiles.h"
 
-#include "shell/modNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
 #include "support/Services.h"
 #include "support/files/modHostFiles.h"
 #include "support/files/modHostFilesWalk.h"

@@ -7,7 +7,7 @@
 #include <cmath>
 
 #include "effects/EffectCatalogue.h"
-#include "platform/XShowBands.h"
+#include "effects/XShowBands.h"
 #include "support/Services.h"
 
 namespace neb {

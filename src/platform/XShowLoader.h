@@ -7,7 +7,7 @@
 #include <future>
 #include <memory>
 
-#include "platform/XShowFit.h"
+#include "pictures/XShowFit.h"
 
 namespace neb {
 

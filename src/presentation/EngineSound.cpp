@@ -2,7 +2,7 @@
 
 #include "db/clsDBEngine.h"
 #include "presentation/ShowBox.h"
-#include "shell/modNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
 #include "support/files/modHostFiles.h"
 
 namespace neb {

@@ -4,7 +4,7 @@
 
 #include "presentation/ShowSound.h"
 #include "presentation/SoundSteps.h"
-#include "presentation/clsDirectSound.h"
+#include "sound/clsDirectSound.h"
 
 namespace neb {
 

@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "presentation/ShowSettings.h"
-#include "shell/clsSettings.h"
+#include "settings/clsSettings.h"
 #include "support/modNumbers.h"
 
 namespace neb {

@@ -1,12 +1,12 @@
 #include "presentation/Rehearsal.h"
 
 #include "db/clsDBEngine.h"
-#include "platform/PictureDecoder.h"
-#include "platform/sound/SoundDecoder.h"
+#include "pictures/formats/PictureDecoder.h"
 #include "presentation/CaptionText.h"
 #include "presentation/EngineSound.h"
 #include "presentation/modSlideShows.h"
-#include "shell/modNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
+#include "sound/decoding/SoundDecoder.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
 

@@ -5,7 +5,7 @@
 #include "db/modAlbumFiles.h"
 #include "presentation/CaptionFit.h"
 #include "presentation/RehearsalNotebook.h"
-#include "shell/modNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
 #include "support/files/modHostFiles.h"
 
 namespace neb {

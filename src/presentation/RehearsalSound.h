@@ -4,9 +4,9 @@
 
 #include <QHash>
 
-#include "platform/sound/ClockedSound.h"
 #include "presentation/RehearsalClock.h"
 #include "presentation/RehearsalLog.h"
+#include "sound/devices/ClockedSound.h"
 
 namespace neb {
 

@@ -2,7 +2,7 @@
 
 #include "db/clsDBEngine.h"
 #include "presentation/modSlideShows.h"
-#include "shell/modNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
 
 namespace neb {
 

@@ -7,7 +7,7 @@
 #include "db/clsDBEngine.h"
 #include "presentation/ShowSettings.h"
 #include "presentation/modSlideShows.h"
-#include "shell/modNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/Services.h"
 #include "support/modNumbers.h"

@@ -4,7 +4,7 @@
 #include "presentation/CaptionText.h"
 #include "presentation/ShowRun.h"
 #include "presentation/modSlideShows.h"
-#include "shell/modNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
 

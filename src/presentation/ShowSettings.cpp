@@ -2,7 +2,7 @@
 
 #include <QStringList>
 
-#include "shell/modNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
 #include "support/modNumbers.h"
 
 namespace neb {

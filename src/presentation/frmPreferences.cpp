@@ -8,7 +8,7 @@
 #include "platform/KeyFilter.h"
 #include "platform/XShow.h"
 #include "presentation/modSlideShows.h"
-#include "shell/modNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/Services.h"
 #include "support/modNumbers.h"

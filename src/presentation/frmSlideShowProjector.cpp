@@ -9,7 +9,7 @@
 #include "presentation/ShowSettings.h"
 #include "presentation/frmPopup.h"
 #include "presentation/modSlideShows.h"
-#include "shell/modNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/modTwips.h"
 #include "support/windows/ScreenPointer.h"

@@ -6,7 +6,7 @@
 #include <cmath>
 
 #include "platform/Icons.h"
-#include "presentation/clsDirectSound.h"
+#include "sound/clsDirectSound.h"
 #include "support/Services.h"
 #include "ui_frmSoundRecorder.h"
 

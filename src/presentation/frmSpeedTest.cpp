@@ -7,7 +7,7 @@
 
 #include "platform/XShow.h"
 #include "presentation/ProgramScreen.h"
-#include "shell/modNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/Services.h"
 #include "support/files/modHostFiles.h"

@@ -4,7 +4,7 @@
 #include <QMdiSubWindow>
 #include <QScreen>
 
-#include "shell/modNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/modNumbers.h"
 #include "support/modTwips.h"

@@ -3,8 +3,8 @@
 #include <QBuffer>
 #include <QCoreApplication>
 
-#include "platform/ImgX.h"
-#include "platform/XShowFit.h"
+#include "pictures/ImgX.h"
+#include "pictures/XShowFit.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
 

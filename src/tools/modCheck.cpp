@@ -1,6 +1,6 @@
 #include "tools/modCheck.h"
 
-#include "db/modJournal.h"
+#include "db/records/modJournal.h"
 #include "tools/modCheckFiles.h"
 #include "tools/modCheckRecords.h"
 #include "tools/modCommands.h"

@@ -2,7 +2,7 @@
 
 #include <set>
 
-#include "db/RecordCodec.h"
+#include "db/records/RecordCodec.h"
 
 namespace neb {
 namespace {

@@ -1,7 +1,7 @@
 // The part of nebctl check that looks at the record files alone: tails, keys, owners, counters.
 #pragma once
 
-#include "db/RecordSource.h"
+#include "db/records/RecordSource.h"
 #include "tools/Findings.h"
 
 namespace neb {

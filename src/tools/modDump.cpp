@@ -1,7 +1,7 @@
 #include "tools/modDump.h"
 
 #include "db/clsDBEngine.h"
-#include "db/modJournal.h"
+#include "db/records/modJournal.h"
 #include "tools/JsonWriter.h"
 #include "tools/modCommands.h"
 

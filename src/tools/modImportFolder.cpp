@@ -2,10 +2,10 @@
 
 #include "db/clsDBEngine.h"
 #include "db/modDatabaseLock.h"
-#include "db/modJournal.h"
+#include "db/records/modJournal.h"
 #include "intake/modImport.h"
 #include "intake/modPictureFiles.h"
-#include "platform/ImgX.h"
+#include "pictures/ImgX.h"
 #include "support/Fault.h"
 #include "support/Services.h"
 #include "support/files/modHostFiles.h"

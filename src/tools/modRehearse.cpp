@@ -6,7 +6,7 @@
 #include "db/clsDBEngine.h"
 #include "presentation/RehearsalFindings.h"
 #include "presentation/modSlideShows.h"
-#include "shell/modNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
 #include "support/modDEValidation.h"
 #include "tools/modCommands.h"
 #include "tools/modRehearseSheet.h"

@@ -2,7 +2,7 @@
 
 #include "db/clsDBEngine.h"
 #include "db/modDatabaseLock.h"
-#include "db/modJournal.h"
+#include "db/records/modJournal.h"
 #include "support/files/modHostFiles.h"
 #include "tools/modCommands.h"
 

@@ -6,7 +6,7 @@
 #include <sstream>
 
 #include "db/clsDBEngine.h"
-#include "db/modJournal.h"
+#include "db/records/modJournal.h"
 #include "harness/TempFolder.h"
 #include "support/files/modHostFiles.h"
 

@@ -4,8 +4,8 @@
 #include <QFile>
 
 #include "Fixtures.h"
-#include "db/RecordCodec.h"
 #include "db/modLoadRecords.h"
+#include "db/records/RecordCodec.h"
 #include "support/Fault.h"
 
 namespace neb {

@@ -1,4 +1,4 @@
-#include "effects/LightMix.h"
+#include "effects/drawing/LightMix.h"
 
 #include <gtest/gtest.h>
 

@@ -1,11 +1,11 @@
-#include "effects/Pyramid.h"
+#include "effects/drawing/Pyramid.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 
 #include "effects/Pictures.h"
-#include "effects/Pixels.h"
+#include "effects/drawing/Pixels.h"
 
 using namespace neb::effects;
 using neb::effectstest::Scene;

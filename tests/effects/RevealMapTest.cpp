@@ -1,9 +1,9 @@
-#include "effects/RevealMap.h"
+#include "effects/reveals/RevealMap.h"
 
 #include <gtest/gtest.h>
 
-#include "effects/Fixed.h"
 #include "effects/Pictures.h"
+#include "effects/drawing/Fixed.h"
 
 using namespace neb::effects;
 using namespace neb::effectstest;

@@ -1,9 +1,9 @@
-#include "effects/Sampling.h"
+#include "effects/drawing/Sampling.h"
 
 #include <gtest/gtest.h>
 
-#include "effects/HalfSizes.h"
 #include "effects/Pictures.h"
+#include "effects/drawing/HalfSizes.h"
 
 using namespace neb::effects;
 using namespace neb::effectstest;

@@ -1,4 +1,4 @@
-#include "effects/ScaleRows.h"
+#include "effects/drawing/ScaleRows.h"
 
 #include <gtest/gtest.h>
 
@@ -6,7 +6,7 @@
 #include <numeric>
 #include <vector>
 
-#include "effects/Pixels.h"
+#include "effects/drawing/Pixels.h"
 
 using namespace neb::effects;
 

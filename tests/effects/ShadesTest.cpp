@@ -1,4 +1,4 @@
-#include "effects/Shades.h"
+#include "effects/reveals/Shades.h"
 
 #include <gtest/gtest.h>
 

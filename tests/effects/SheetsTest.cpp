@@ -1,10 +1,10 @@
-#include "effects/Sheets.h"
+#include "effects/whole/Sheets.h"
 
 #include <gtest/gtest.h>
 
-#include "effects/Fixed.h"
 #include "effects/Pictures.h"
 #include "effects/Transition.h"
+#include "effects/drawing/Fixed.h"
 
 using namespace neb;
 using namespace neb::effects;

@@ -1,4 +1,4 @@
-#include "effects/SoftField.h"
+#include "effects/reveals/SoftField.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
-#include "effects/WipeShapes.h"
+#include "effects/reveals/WipeShapes.h"
 
 #include <gtest/gtest.h>
 
-#include "effects/Fixed.h"
-#include "effects/WipeEngine.h"
-#include "effects/WipeTurns.h"
+#include "effects/drawing/Fixed.h"
+#include "effects/reveals/WipeEngine.h"
+#include "effects/reveals/WipeTurns.h"
 
 using namespace neb::effects;
 

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <cstdlib>
 
-#include "platform/sound/SoundDecoder.h"
+#include "sound/decoding/SoundDecoder.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
 

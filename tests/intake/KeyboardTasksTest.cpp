@@ -15,9 +15,9 @@
 #include "intake/frmQuickShow.h"
 #include "intake/modAlbumNames.h"
 #include "platform/XShow.h"
-#include "presentation/RecorderRig.h"
 #include "presentation/frmSlideShowProjector.h"
 #include "presentation/frmSoundRecorder.h"
+#include "sound/RecorderRig.h"
 
 namespace neb {
 namespace {

@@ -1,7 +1,7 @@
 // The sound of a slide in the slide manager: recorded through the sound recorder, cleared, kept.
 #include "SlideRig.h"
-#include "presentation/RecorderRig.h"
 #include "presentation/frmSoundRecorder.h"
+#include "sound/RecorderRig.h"
 
 namespace neb {
 namespace {

@@ -25,9 +25,9 @@
 #include "intake/frmSlideMgrBulk.h"
 #include "presentation/frmPreferences.h"
 #include "presentation/frmSoundRecorder.h"
+#include "settings/modNEBSlideShow.h"
 #include "shell/main/frmAbout.h"
 #include "shell/main/frmHelp.h"
-#include "shell/modNEBSlideShow.h"
 #include "support/windows/frmLoading.h"
 #include "support/windows/frmMsgBoxEx.h"
 

@@ -1,8 +1,8 @@
 // A settings file on which the speed test has already run, for tests of what comes after it.
 #pragma once
 
+#include "settings/modNEBSlideShow.h"
 #include "shell/main/modMachineSettings.h"
-#include "shell/modNEBSlideShow.h"
 
 namespace neb::test {
 

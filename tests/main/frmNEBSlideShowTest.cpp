@@ -32,10 +32,10 @@
 #include "platform/FlexGrid.h"
 #include "presentation/frmPreferences.h"
 #include "presentation/frmSlideShowProjector.h"
+#include "settings/modNEBSlideShow.h"
 #include "shell/Openers.h"
 #include "shell/main/frmAbout.h"
 #include "shell/main/frmHelp.h"
-#include "shell/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
 

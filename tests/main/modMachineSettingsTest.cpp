@@ -7,7 +7,7 @@
 #include "harness/ScriptedBoxes.h"
 #include "harness/TempFolder.h"
 #include "platform/XShow.h"
-#include "shell/modNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
 #include "support/files/modHostFiles.h"
 #include "support/windows/Form.h"
 #include "support/windows/ScreenPointer.h"

@@ -17,9 +17,9 @@
 #include "db/modDatabaseLock.h"
 #include "harness/ScriptedBoxes.h"
 #include "harness/TempFolder.h"
+#include "settings/modNEBSlideShow.h"
 #include "shell/main/frmAbout.h"
 #include "shell/main/frmNEBSlideShow.h"
-#include "shell/modNEBSlideShow.h"
 #include "support/files/modHostFiles.h"
 
 namespace neb {

@@ -7,8 +7,8 @@
 #include "db/modAlbumFiles.h"
 #include "harness/ScriptedBoxes.h"
 #include "harness/TempFolder.h"
-#include "platform/sound/ClockedSound.h"
-#include "shell/modNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
+#include "sound/devices/ClockedSound.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
 

@@ -5,8 +5,8 @@
 
 #include "ProjectorRig.h"
 #include "harness/SoundFiles.h"
-#include "platform/sound/SdlSoundDevices.h"
-#include "shell/modNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
+#include "sound/devices/SdlSoundDevices.h"
 #include "support/files/modHostFiles.h"
 
 namespace neb::test {

@@ -12,7 +12,7 @@
 #include "platform/FlexGrid.h"
 #include "presentation/EffectList.h"
 #include "presentation/frmPreferences.h"
-#include "shell/modNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
 #include "support/files/modHostFiles.h"
 
 namespace neb::test {

@@ -5,7 +5,7 @@
 
 #include "harness/TempFolder.h"
 #include "presentation/ShowSettings.h"
-#include "shell/clsSettings.h"
+#include "settings/clsSettings.h"
 #include "support/files/modHostFiles.h"
 
 namespace neb {

@@ -3,7 +3,7 @@
 #include <QBuffer>
 #include <QTest>
 
-#include "shell/modNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
 

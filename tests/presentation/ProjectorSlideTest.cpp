@@ -3,7 +3,7 @@
 
 #include <QTest>
 
-#include "shell/modNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
 #include "support/files/modHostFiles.h"
 
 namespace neb::test {

@@ -6,7 +6,7 @@
 #include <QScreen>
 #include <QTest>
 
-#include "shell/modNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 
 namespace neb::test {

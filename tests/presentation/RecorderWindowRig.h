@@ -8,9 +8,9 @@
 #include <QTest>
 #include <QTimer>
 
-#include "RecorderRig.h"
 #include "presentation/LevelMeter.h"
 #include "presentation/frmSoundRecorder.h"
+#include "sound/RecorderRig.h"
 #include "support/files/modHostFiles.h"
 
 namespace neb::test {

@@ -8,7 +8,7 @@
 #include "db/modAlbumFiles.h"
 #include "harness/TempFolder.h"
 #include "presentation/Rehearsal.h"
-#include "shell/modNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"

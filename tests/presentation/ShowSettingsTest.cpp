@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "shell/clsSettings.h"
+#include "settings/clsSettings.h"
 
 namespace neb {
 namespace {

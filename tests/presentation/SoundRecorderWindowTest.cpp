@@ -2,7 +2,7 @@
 #include <QtEndian>
 
 #include "RecorderWindowRig.h"
-#include "platform/sound/SdlCapture.h"
+#include "sound/devices/SdlCapture.h"
 #include "support/Fault.h"
 
 namespace neb::test {

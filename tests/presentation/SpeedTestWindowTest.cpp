@@ -13,7 +13,7 @@
 #include "harness/ScriptedBoxes.h"
 #include "harness/TempFolder.h"
 #include "platform/XShow.h"
-#include "shell/modNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
 #include "support/windows/ScreenPointer.h"

@@ -6,7 +6,7 @@
 #include <QScreen>
 
 #include "harness/TempFolder.h"
-#include "shell/modNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
 #include "support/modTwips.h"

@@ -10,7 +10,7 @@
 #include "db/Fixtures.h"
 #include "db/modAlbumFiles.h"
 #include "harness/SoundFiles.h"
-#include "shell/modNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "tools/modCommands.h"
 

@@ -1,7 +1,7 @@
 #include "shell/main/DesktopServices.h"
 
 #include "InitAssets.h"
-#include "platform/ImgX.h"
+#include "pictures/ImgX.h"
 #include "platform/XShow.h"
 
 namespace neb {

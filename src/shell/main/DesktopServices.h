@@ -4,7 +4,7 @@
 
 #include "platform/Drives.h"
 #include "platform/ScreenBlanking.h"
-#include "platform/sound/SdlSoundDevices.h"
+#include "sound/devices/SdlSoundDevices.h"
 #include "support/windows/DesktopBoxes.h"
 
 namespace neb {

@@ -6,13 +6,13 @@
 #include <QStatusBar>
 
 #include "db/clsDBEngine.h"
-#include "db/modJournal.h"
+#include "db/records/modJournal.h"
 #include "intake/clsImageBuffer.h"
 #include "platform/FlexGrid.h"
+#include "settings/modNEBSlideShow.h"
 #include "shell/main/MainMenu.h"
 #include "shell/main/Workspace.h"
 #include "shell/main/modMachineSettings.h"
-#include "shell/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/Services.h"
 #include "support/files/modHostFiles.h"

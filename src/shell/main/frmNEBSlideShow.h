@@ -6,7 +6,7 @@
 #include <functional>
 #include <memory>
 
-#include "shell/clsFileSystem.h"
+#include "settings/clsFileSystem.h"
 #include "shell/main/CommandLine.h"
 
 namespace neb {

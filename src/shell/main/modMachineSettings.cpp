@@ -1,7 +1,7 @@
 #include "shell/main/modMachineSettings.h"
 
 #include "presentation/frmSpeedTest.h"
-#include "shell/modNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
 #include "support/modNumbers.h"
 #include "support/windows/ScreenPointer.h"
 

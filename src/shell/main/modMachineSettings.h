@@ -4,7 +4,7 @@
 #include <functional>
 
 #include "presentation/SpeedLadder.h"
-#include "shell/clsSettings.h"
+#include "settings/clsSettings.h"
 
 namespace neb {
 

@@ -5,11 +5,11 @@
 #include <cstdio>
 
 #include "db/modDatabaseLock.h"
+#include "settings/modNEBSlideShow.h"
 #include "shell/main/CommandLine.h"
 #include "shell/main/DesktopServices.h"
 #include "shell/main/TerminationWatch.h"
 #include "shell/main/frmNEBSlideShow.h"
-#include "shell/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/Services.h"
 #include "support/files/modHostFiles.h"

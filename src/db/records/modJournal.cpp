@@ -1,0 +1,193 @@
+#include "db/records/modJournal.h"
+
+#include <QCryptographicHash>
+#include <QtEndian>
+#include <span>
+
+#include "support/Fault.h"
+#include "support/files/modHostFiles.h"
+
+namespace neb {
+namespace {
+
+// Magic, for each file the packed and the unpacked length, the packed files, the check sum.
+constexpr QByteArrayView Magic = "NEBJRNL1";
+constexpr qsizetype CountLength = 8;
+constexpr qsizetype HeadLength = 8 + 2 * CountLength * static_cast<qsizetype>(RecordFileCount);
+constexpr auto Method = QCryptographicHash::Blake2b_256;
+constexpr qsizetype SumLength = 32;
+
+constexpr std::array FilesWrittenTogether = {RecordFile::Albums, RecordFile::Slides,
+                                             RecordFile::SlideShows, RecordFile::SlideShowDetails,
+                                             RecordFile::SlideShowSoundTracks};
+
+QString TempFolder(const QString& DBPath) {
+    return DBPath + QStringLiteral("Temp/");
+}
+
+// A folder of its own: the end of the program empties Temp of its files before it writes, which
+// must not take a journal along that an earlier try could not carry out.
+QString JournalFolder(const QString& DBPath) {
+    return TempFolder(DBPath) + QStringLiteral("Journal/");
+}
+
+// A journal comes into being under another name, so that one that is whole already, left by a
+// write that failed later, is not lost while the next one is being written.
+QString UnfinishedPath(const QString& DBPath) {
+    return JournalPath(DBPath) + QStringLiteral(".new");
+}
+
+void DeleteIfPossible(const QString& Path) {
+    try {
+        DeleteFile(Path);
+    } catch (const Fault&) {
+        // It does no harm: it is not whole, and the next journal takes its place.
+    }
+}
+
+QByteArray JournalHead(const RecordImage& Image) {
+    QByteArray Head = Magic.toByteArray();
+    const auto Append = [&](qint64 Number) {
+        char Bytes[CountLength];
+        qToLittleEndian(Number, Bytes);
+        Head.append(Bytes, CountLength);
+    };
+    for (const PackedRecords& File : Image.Files) {
+        Append(File.Bytes().size());
+        Append(File.Length());
+    }
+    return Head;
+}
+
+void WriteUnfinishedJournal(const QString& Path, const RecordImage& Image) {
+    HostWriter Writer(Path);
+    QCryptographicHash Sum(Method);
+    const auto Put = [&](const QByteArray& Bytes) {
+        Sum.addData(Bytes);
+        Writer.Write(Bytes.constData(), Bytes.size());
+    };
+    Put(JournalHead(Image));
+    for (const PackedRecords& File : Image.Files) Put(File.Bytes());
+    Writer.Write(Sum.result().constData(), SumLength);
+    Writer.Sync();
+    Writer.Close();
+}
+
+void WriteJournal(const QString& DBPath, const RecordImage& Image) {
+    const QString Folder = JournalFolder(DBPath);
+    if (!FolderExists(Folder)) {
+        MakeDirs(Folder);
+        SyncDir(TempFolder(DBPath));
+        SyncDir(DBPath);
+    }
+    try {
+        WriteUnfinishedJournal(UnfinishedPath(DBPath), Image);
+        RenameFile(UnfinishedPath(DBPath), JournalPath(DBPath));
+    } catch (const Fault&) {
+        DeleteIfPossible(UnfinishedPath(DBPath));
+        throw;
+    }
+    SyncDir(Folder);
+}
+
+// Deleted, made anew, written whole, flushed.
+void WriteFiles(const QString& DBPath, const RecordImage& Image,
+                std::span<const RecordFile> Files) {
+    for (const RecordFile File : Files) DeleteFile(RecordPath(DBPath, File));
+    std::vector<std::unique_ptr<HostWriter>> Writers;
+    for (const RecordFile File : Files)
+        Writers.push_back(std::make_unique<HostWriter>(RecordPath(DBPath, File)));
+    for (size_t I = 0; I < Files.size(); ++I)
+        Image[Files[I]].Unpack(
+            [&](const char* Data, qint64 Length) { Writers[I]->Write(Data, Length); });
+    for (const auto& Writer : Writers) Writer->Sync();
+    for (const auto& Writer : Writers) Writer->Close();
+}
+
+void CarryOut(const QString& DBPath, const RecordImage& Image) {
+    for (const RecordFile File :
+         {RecordFile::Properties, RecordFile::EffectStats, RecordFile::NextIDs})
+        WriteFiles(DBPath, Image, std::span(&File, 1));
+    WriteFiles(DBPath, Image, FilesWrittenTogether);
+    SyncDir(DBPath);
+    DeleteFile(JournalPath(DBPath));
+    SyncDir(JournalFolder(DBPath));
+}
+
+qint64 CountAt(const QByteArray& Journal, size_t Index) {
+    return qFromLittleEndian<qint64>(Journal.constData() + Magic.size() +
+                                     static_cast<qsizetype>(Index) * CountLength);
+}
+
+bool IsSound(const QByteArray& Journal) {
+    if (Journal.size() < HeadLength + SumLength || !Journal.startsWith(Magic)) return false;
+    const QByteArrayView Covered = QByteArrayView(Journal).chopped(SumLength);
+    QCryptographicHash Sum(Method);
+    Sum.addData(Covered);
+    return Sum.result() == QByteArrayView(Journal).last(SumLength);
+}
+
+bool Unfold(const QByteArray& Journal, RecordImage& Image) {
+    qsizetype Place = HeadLength;
+    const qsizetype End = Journal.size() - SumLength;
+    for (size_t I = 0; I < RecordFileCount; ++I) {
+        const qint64 Packed = CountAt(Journal, 2 * I);
+        if (Packed < 0 || Packed > End - Place) return false;
+        auto File =
+            PackedRecords::FromBytes(Journal.mid(Place, Packed), CountAt(Journal, 2 * I + 1));
+        if (!File) return false;
+        Image.Files[I] = std::move(*File);
+        Place += Packed;
+    }
+    return Place == End;
+}
+
+}  // namespace
+
+RecordSource RecordsInImage(RecordImage Image) {
+    return [Image = std::move(Image)](RecordFile File) { return Image[File].Unpack(); };
+}
+
+QString JournalPath(const QString& DBPath) {
+    return JournalFolder(DBPath) + QStringLiteral("Records.journal");
+}
+
+JournalState ReadJournal(const QString& DBPath, RecordImage* Image) {
+    const QString Path = JournalPath(DBPath);
+    if (!FileExists(Path))
+        return FileExists(UnfinishedPath(DBPath)) ? JournalState::Torn : JournalState::None;
+    const QByteArray Journal = ReadFile(Path);
+    RecordImage Content;
+    if (!IsSound(Journal) || !Unfold(Journal, Content)) return JournalState::Torn;
+    if (Image) *Image = std::move(Content);
+    return JournalState::Whole;
+}
+
+void WriteDatabase(const QString& DBPath, const RecordImage& Image) {
+    if (!FolderExists(DBPath))
+        throw Fault(QStringLiteral("The database directory is not there."), DBPath);
+    WriteJournal(DBPath, Image);
+    CarryOut(DBPath, Image);
+}
+
+bool MayWriteDatabase(const QString& DBPath) {
+    const QString Counters = RecordPath(DBPath, RecordFile::NextIDs);
+    return !IsReadOnly(DBPath) && !(FileExists(Counters) && IsReadOnly(Counters));
+}
+
+bool CountersAreMissing(const QString& DBPath) {
+    return FileSize(RecordPath(DBPath, RecordFile::Albums)) > 0 &&
+           !NameExists(RecordPath(DBPath, RecordFile::NextIDs)) &&
+           ReadJournal(DBPath) != JournalState::Whole;
+}
+
+void RecoverDatabase(const QString& DBPath) {
+    RecordImage Image;
+    const JournalState State = ReadJournal(DBPath, &Image);
+    if (State == JournalState::None) return;
+    if (State == JournalState::Whole) CarryOut(DBPath, Image);
+    DeleteIfPossible(JournalPath(DBPath));
+    DeleteIfPossible(UnfinishedPath(DBPath));
+}
+
+}  // namespace neb

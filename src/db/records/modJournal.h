@@ -1,0 +1,47 @@
+// Writing all record files so that a crash at any moment leaves either the old database or the
+// new one. The complete new content goes into a checked journal below Temp first; the files are
+// then written from it, and a start that finds a whole journal does that again. Used by the
+// engine and the command-line companion.
+#pragma once
+
+#include <array>
+
+#include "db/records/PackedRecords.h"
+#include "db/records/RecordSource.h"
+
+namespace neb {
+
+// The content of all eight record files, by RecordFile.
+struct RecordImage {
+    std::array<PackedRecords, RecordFileCount> Files;
+    PackedRecords& operator[](RecordFile File) { return Files[static_cast<size_t>(File)]; }
+    const PackedRecords& operator[](RecordFile File) const {
+        return Files[static_cast<size_t>(File)];
+    }
+};
+
+RecordSource RecordsInImage(RecordImage Image);
+
+// The journal of a database directory. DBPath ends in a separator everywhere.
+QString JournalPath(const QString& DBPath);
+
+enum class JournalState { None, Torn, Whole };
+// Looks without changing anything; Image, when given, receives the content of a whole one.
+JournalState ReadJournal(const QString& DBPath, RecordImage* Image = nullptr);
+
+// Journal, files, end of the journal; all of it is on the disk afterwards. Throws Fault: when
+// the journal could not be written the old database stands untouched; later, the journal
+// stays and the next start finishes the work.
+void WriteDatabase(const QString& DBPath, const RecordImage& Image);
+
+// False when the directory or its NextIDs.dat is read-only: then nothing is ever written.
+bool MayWriteDatabase(const QString& DBPath);
+
+// True when albums are there but not the counters, without which a directory counts as a new
+// database: its albums would be overwritten.
+bool CountersAreMissing(const QString& DBPath);
+
+// Carries out a whole journal and removes a torn one.
+void RecoverDatabase(const QString& DBPath);
+
+}  // namespace neb

@@ -1,0 +1,71 @@
+// A picture in memory: read from a file of any format that the program lists, fitted, turned,
+// written as JPEG. Used by every window that shows, keeps or prints pictures. Safe to use on
+// worker threads, one object a thread.
+#pragma once
+
+#include <QImage>
+#include <QString>
+
+#include "pictures/formats/PictureDecoder.h"
+
+namespace neb {
+
+// The least size of a stored slide's limits, and the sides of a thumbnail, in pixels.
+inline constexpr QSize SlideLimit(1024, 768);
+inline constexpr QSize ThumbnailSize(72, 72);
+
+class ImgX {
+  public:
+    // All pixels of the file. Throws Fault with the file's name and one of the numbers of
+    // PictureFaults.h (FaultCannotOpen when the file is missing or may not be read); the picture
+    // held before stays.
+    void Load(const QString& File);
+    // The same for a caller who will fit the picture into Least: may leave pixels away that no one
+    // would see, never so many that fitting would have to enlarge. FullSize tells the file's own.
+    void LoadAtLeast(const QString& File, QSize Least);
+
+    int Width() const { return mPicture.width(); }
+    int Height() const { return mPicture.height(); }
+    // Upright pixels of the picture in the file; turns and flips follow, a resize sets it.
+    QSize FullSize() const { return mFull; }
+    // Pixels, at least 1 by 1. Selector 4 (thumbnails): mean of the covered area; 3 (slides) and
+    // all others: sharp. Throws FaultTooLarge.
+    void Resize(int W, int H, int Selector);
+    // Clockwise where positive. Other than quarter turns leave white corners.
+    void Rotate(int Degrees);
+    void Flip(int Selector);  // 0: left to right, 1: top to bottom
+
+    int JpgQuality() const { return mJpgQuality; }
+    void SetJpgQuality(int Quality) { mJpgQuality = Quality; }  // 1 to 100
+    // Colours at full resolution. Both throw Fault: no picture, disk full.
+    QByteArray ToJpeg() const;
+    void SaveJpeg(const QString& File) const;
+
+    const QImage& Picture() const { return mPicture; }  // Format_RGB32; null before a load
+    void SetPicture(const QImage& Picture);             // any format, sRGB
+
+  private:
+    void LoadFor(const QString& File, const NeededSize& Needed);
+    friend QImage MakeThumbnail(const QString& File);
+
+    QImage mPicture;
+    QSize mFull;
+    int mJpgQuality = 100;
+};
+
+// The size at which a picture of that size is stored as a slide: left alone within the limits,
+// else made smaller with its proportions, halves rounded to even. No side vanishes: 1 at least.
+QSize FitSize(QSize Full);
+
+// A picture file as the JPEG bytes of a slide: fitted, quality 100. Throws as ImgX::Load does.
+QByteArray FittedJpeg(const QString& File);
+// The same from a picture in memory. Throws FaultNotSaved when there is none.
+QByteArray FittedJpeg(ImgX Picture);
+// The thumbnail of a picture file: stretched to exactly ThumbnailSize. Throws as ImgX::Load does.
+QImage MakeThumbnail(const QString& File);
+// The same from a picture in memory.
+QImage MakeThumbnail(const QImage& Picture);
+// A Windows bitmap's bytes, 24 bits a pixel; the same bytes for the same picture always.
+QByteArray ThumbnailBmp(const QImage& Picture);
+
+}  // namespace neb

@@ -1,0 +1,74 @@
+// PNG, BMP and WBMP, and with the extra formats GIF and WebP, by Qt's readers.
+#include <QBuffer>
+#include <QColorSpace>
+#include <QImageReader>
+
+#include "pictures/formats/PictureColour.h"
+#include "pictures/formats/PictureFaults.h"
+#include "pictures/formats/PictureFormats.h"
+#include "pictures/formats/TiffTags.h"
+
+namespace neb {
+namespace {
+
+// The reader's own limit is off: ours is checked before.
+void LiftReaderLimit() {
+    static const bool Done = (QImageReader::setAllocationLimit(0), true);
+    Q_UNUSED(Done);
+}
+
+// A pixel as the reader has it, and as a picture for the screen besides it unless one can become
+// the other in place.
+qint64 BytesNeeded(const QImageReader& Reader, QSize Size, const PictureSource& Source) {
+    const QPixelFormat Format = QImage::toPixelFormat(Reader.imageFormat());
+    const int Own = Reader.imageFormat() == QImage::Format_Invalid ? 4 : Format.bitsPerPixel() / 8;
+    const bool InPlace = Own == 4;
+    return PixelCount(Size) * (InPlace ? 4 : Own + 4) + Source.Bytes.size();
+}
+
+int OrientationOf(const PictureSource& Source) {
+    const auto Exif = PngChunk(ByteView(Source.Bytes), "eXIf");
+    return Exif ? TiffTags(*Exif).Orientation() : 1;
+}
+
+// A bare gamma of 2.2 is how sRGB was written before there was a word for it; only an embedded
+// profile means it to the letter.
+QByteArray ProfileOf(const QImage& Picture, const PictureSource& Source) {
+    QColorSpace Space = Picture.colorSpace();
+    const bool Bare = !PngChunk(ByteView(Source.Bytes), "iCCP");
+    if (Bare && std::abs(Space.gamma() - 2.2F) < 0.02F)
+        Space.setTransferFunction(QColorSpace::TransferFunction::SRgb);
+    return Space.iccProfile();
+}
+
+}  // namespace
+
+// Qt leaves the colours of 16-bit bitmaps too dark: white would be grey.
+DecodedPicture DecodeBmp(const PictureSource& Source) {
+    if (BmpLayout(Source.Bytes).Depth != 16) return DecodeByQt(Source);
+    return DecodeByMagick({Source.Bytes, "BMP", Source.Needed});
+}
+
+DecodedPicture DecodeByQt(const PictureSource& Source) {
+    LiftReaderLimit();
+    QBuffer Buffer(const_cast<QByteArray*>(&Source.Bytes));
+    Buffer.open(QIODevice::ReadOnly);
+    QImageReader Reader(&Buffer, Source.Format);
+    const bool IsBmp = qstrcmp(Source.Format, "bmp") == 0;
+    const QSize Stored = IsBmp ? BmpLayout(Source.Bytes).Size : Reader.size();
+    if (Stored.isEmpty()) {
+        CheckIsWhole(Source);
+        ThrowDamaged();
+    }
+    const DecodeBudget Budget(Stored, BytesNeeded(Reader, Stored, Source));
+    CheckIsWhole(Source);
+    QImage Picture = Reader.read();
+    if (Picture.isNull()) ThrowDamaged();
+    const QByteArray Profile = ProfileOf(Picture, Source);
+    Picture = ToScreenColours(std::move(Picture), Profile);
+    Picture = Upright(Picture, OrientationOf(Source));
+    const QSize Full = Picture.size();
+    return {std::move(Picture), Full};
+}
+
+}  // namespace neb

@@ -1,0 +1,131 @@
+#include "settings/modNEBSlideShow.h"
+
+#include <QCoreApplication>
+#include <QStandardPaths>
+
+#include "settings/clsFileSystem.h"
+#include "support/Fault.h"
+#include "support/Services.h"
+#include "support/files/modHostFiles.h"
+#include "support/modFUFL.h"
+
+namespace neb {
+
+clsDBEngine* DBEngine = nullptr;
+clsImageBuffer* ImageBuffer = nullptr;
+clsFileSystem* FileSystem = nullptr;
+bool DebugMode = false;
+bool ReadOnlyDB = false;
+QString AppPathCache;
+QString DBPathCache;
+QString DocumentsPath;
+
+namespace {
+
+constexpr char16_t LegalSigns[] = u"!#$().,_-~@^:;'<>/\\=+|[]{} ";
+
+QString UserDocuments() {
+    const QString Path = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    MakeDir(Path);
+    return Path;
+}
+
+}  // namespace
+
+void SetDocumentsPath(const QString& Path) {
+    DocumentsPath = WithSeparator(AbsolutePath(Path));
+    DBPathCache.clear();
+}
+
+QString AppPath() {
+    if (AppPathCache.isEmpty())
+        AppPathCache = WithSeparator(QCoreApplication::applicationDirPath());
+    return AppPathCache;
+}
+
+QString INIFileName() {
+    return QStringLiteral("QLM.ini");
+}
+
+QString SettingsDir() {
+    if (DocumentsPath.isEmpty()) DocumentsPath = WithSeparator(UserDocuments());
+    return DocumentsPath + QStringLiteral("NEB/NEB Slide Show/");
+}
+
+clsSettings OpenSettings() {
+    clsSettings Settings;
+    Settings.SetFileName(SettingsDir() + INIFileName());
+    Settings.Load();
+    return Settings;
+}
+
+QString DBPath() {
+    if (!DBPathCache.isEmpty()) return DBPathCache;
+    const QString Chosen =
+        OpenSettings().GetValue(QStringLiteral("General"), QStringLiteral("DBPath"), {});
+    // A relative one means the same database wherever the program was started from.
+    DBPathCache =
+        WithSeparator(Chosen.isEmpty() ? SettingsDir() : AbsolutePath(Chosen, SettingsDir()));
+    return DBPathCache;
+}
+
+void LogMessage(const QString& Level, const QString& Message) {
+    const QString Time = TheServices().Time->Now().toString(QStringLiteral("MM-dd-yyyy hh:mm"));
+    const QString Line = Time + u'\t' + Level + u'\t' + Message + u'\n';
+    try {
+        AppendFile(AppPath() + QStringLiteral("QLM.log"), Line.toUtf8());
+    } catch (const Fault&) {
+        // a program folder that cannot be written simply has no log
+    }
+}
+
+void MakeDir(const QString& Path) {
+    try {
+        MakeDirs(Path);
+    } catch (const Fault&) {
+        // whoever needs the directory will say what is missing
+    }
+}
+
+bool IsLegalChar(QChar CharCode) {
+    const QChar Upper = CharCode.toUpper();
+    return (Upper >= u'A' && Upper <= u'Z') || (Upper >= u'0' && Upper <= u'9') ||
+           QStringView(LegalSigns).contains(CharCode) || CharCode == QChar(8);
+}
+
+bool ValidateUserInput(const QString& FieldName, const QString& Text) {
+    QString Illegal;
+    for (const char32_t Code : Text.toStdU32String()) {
+        const QString Sign = QString::fromUcs4(&Code, 1);  // two units outside the basic plane
+        const bool Legal = Sign.size() == 1 && IsLegalChar(Sign.front());
+        if (!Legal && !Illegal.contains(Sign)) Illegal += Sign;
+    }
+    if (Illegal.isEmpty()) return true;
+    MsgBox(QStringLiteral("The entered ") + FieldName +
+               QStringLiteral(" contained the following illegal characters:\n") + Illegal,
+           QStringLiteral("Invalid User Input"), BoxIcon::Information);
+    return false;
+}
+
+bool StartsWithVowel(const QString& Word) {
+    return !Word.isEmpty() && QStringView(u"AEIOU").contains(Word.front().toUpper());
+}
+
+bool IsPathValid(const QString& Path) {
+    if (!FileSystem) return false;
+    if (FileSystem->DriveExists(Path)) return true;
+    if (FileSystem->FileExists(Path)) return CanOpenFile(Path);
+    return FileSystem->FolderExists(Path);
+}
+
+bool CanListDir(const QString& Path) {
+    bool Readable = false;
+    ListDir(Path, &Readable);
+    return Readable;
+}
+
+bool CanOpenFile(const QString& Path) {
+    return CanReadFile(Path);
+}
+
+}  // namespace neb

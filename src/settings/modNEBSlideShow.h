@@ -1,0 +1,47 @@
+// The module that every window leans on: the shared globals, the paths of the program and of the
+// database, the settings file, the debug log, and the tests of typed names and paths.
+#pragma once
+
+#include <QString>
+
+#include "settings/clsSettings.h"
+
+namespace neb {
+
+class clsDBEngine;
+class clsFileSystem;
+class clsImageBuffer;
+
+// Set by the main window and released by it; null outside its life.
+extern clsDBEngine* DBEngine;        // the main database
+extern clsImageBuffer* ImageBuffer;  // the shared thumbnails
+extern clsFileSystem* FileSystem;    // used by IsPathValid
+extern bool DebugMode;               // log lines are wanted
+extern bool ReadOnlyDB;              // the database may not be changed
+
+// Caches, empty until first asked; all with closing separator. A test may set or empty them.
+extern QString AppPathCache;
+extern QString DBPathCache;
+extern QString DocumentsPath;
+
+// Another documents folder than the user's own, for portable use; before anything asks.
+void SetDocumentsPath(const QString& Path);
+
+QString AppPath();      // the program's directory
+QString INIFileName();  // "QLM.ini"
+QString SettingsDir();  // the folder of the settings file
+QString DBPath();       // the database directory: the key "DBPath", else SettingsDir
+clsSettings OpenSettings();
+// One line of date and time, level and text at the end of "QLM.log"; every error is ignored.
+void LogMessage(const QString& Level, const QString& Message);
+void MakeDir(const QString& Path);  // every error is ignored
+
+bool IsLegalChar(QChar CharCode);
+// False after a box that names each illegal character of the text once.
+bool ValidateUserInput(const QString& FieldName, const QString& Text);
+bool StartsWithVowel(const QString& Word);  // whether "an" goes before it; false for none
+bool IsPathValid(const QString& Path);      // a drive, a file that opens, or a folder
+bool CanListDir(const QString& Path);
+bool CanOpenFile(const QString& Path);
+
+}  // namespace neb

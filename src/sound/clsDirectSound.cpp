@@ -1,0 +1,127 @@
+#include "sound/clsDirectSound.h"
+
+#include "support/Fault.h"
+#include "support/Services.h"
+#include "support/modNumbers.h"
+
+namespace neb {
+namespace {
+
+const auto NothingLoaded = QStringLiteral("You must first load a sound file to be played.");
+const auto BadVolume = QStringLiteral("Volume must be >0 and <=100");
+
+constexpr double QuietestHundredths = -2500;
+
+// A show goes on without its sound rather than stop over a device that has gone.
+template <typename Call>
+void IgnoringFaults(Call&& Do) {
+    try {
+        Do();
+    } catch (const Fault&) {  // Silence is all that follows.
+    }
+}
+
+}  // namespace
+
+clsDirectSound::clsDirectSound() = default;
+clsDirectSound::~clsDirectSound() = default;
+
+bool clsDirectSound::LoadFile(const QString& Path) {
+    mLastError.clear();
+    // Before the earlier file goes: Path may be a reference to its name.
+    const QString NewFile = Path;
+    UnloadFile();
+    mSoundFile = NewFile;
+    if (!HoldDevices()) return false;
+    IgnoringFaults([this] {
+        std::unique_ptr<SoundGraph> Graph = TheServices().Sound->CreateGraph();
+        if (Graph) Graph->RenderFile(mSoundFile);
+        mGraph = std::move(Graph);
+    });
+    return mGraph != nullptr;
+}
+
+void clsDirectSound::UnloadFile() {
+    mGraph.reset();
+    mSoundFile.clear();
+    mRepeatFlag = false;
+    mIsStarted = false;
+}
+
+int clsDirectSound::GetVolume() {
+    if (mGraph) return mGraph->GetVolume();
+    mLastError = NothingLoaded;
+    return -1;
+}
+
+void clsDirectSound::SetVolume(int Value) {
+    mLastError.clear();
+    if (Value < 0 || Value > 100) {
+        mLastError = BadVolume;
+    } else if (!mGraph) {
+        mLastError = NothingLoaded;
+    } else {
+        const int Hundredths = CInt((100 - Value) / 100.0 * QuietestHundredths);
+        IgnoringFaults([&] { mGraph->PutVolume(Hundredths); });
+    }
+}
+
+bool clsDirectSound::Play(bool Repeat) {
+    mLastError.clear();
+    if (!mGraph) {
+        mLastError = NothingLoaded;
+        return false;
+    }
+    IgnoringFaults([this] { mGraph->Run(); });
+    mRepeatFlag = Repeat;
+    mIsStarted = true;
+    return true;
+}
+
+bool clsDirectSound::StopSound() {
+    if (!mGraph) return true;
+    IgnoringFaults([this] { mGraph->PutCurrentPosition(0); });
+    IgnoringFaults([this] { mGraph->Stop(); });
+    return true;
+}
+
+bool clsDirectSound::PauseSound() {
+    if (mGraph) IgnoringFaults([this] { mGraph->Pause(); });
+    return true;
+}
+
+void clsDirectSound::CheckRepeat() {
+    if (!mGraph || !mIsStarted || !mRepeatFlag) return;
+    // Exact on purpose: a graph that has come to its end stands at its duration.
+    if (CurrentPosition() != Duration()) return;
+    StopSound();
+    Play(mRepeatFlag);
+}
+
+double clsDirectSound::Duration() const {
+    return mGraph ? mGraph->GetDuration() : 0;
+}
+
+double clsDirectSound::CurrentPosition() const {
+    return mGraph ? mGraph->GetCurrentPosition() : 0;
+}
+
+void clsDirectSound::SetCurrentPosition(double Seconds) {
+    if (mGraph) mGraph->PutCurrentPosition(Seconds);
+}
+
+bool clsDirectSound::IsPlaying() const {
+    return mGraph && mGraph->IsRunning();
+}
+
+void clsDirectSound::LoadAhead(const QString& Path) {
+    if (HoldDevices()) TheServices().Sound->LoadAhead(Path);
+}
+
+// False on a machine without sound.
+bool clsDirectSound::HoldDevices() {
+    if (TheServices().Sound && !mHold) mHold = TheServices().Sound->Hold();
+    return TheServices().Sound != nullptr;
+}
+
+}  // namespace neb

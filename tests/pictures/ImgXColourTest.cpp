@@ -1,0 +1,165 @@
+// Which way up, and in which colours.
+#include <QBuffer>
+#include <QColorSpace>
+
+#include "pictures/Pictures.h"
+#include "pictures/formats/PictureColour.h"
+
+using namespace neb;
+using namespace neb::tests;
+
+namespace {
+
+// An EXIF block with one directory of one entry.
+QByteArray ExifBlock(bool BigEndian, int Orientation) {
+    QByteArray Block = BigEndian ? QByteArray::fromHex(
+                                       "4d4d002a00000008"
+                                       "0001"
+                                       "0112"
+                                       "0003"
+                                       "00000001"
+                                       "00000000"
+                                       "00000000")
+                                 : QByteArray::fromHex(
+                                       "49492a0008000000"
+                                       "0100"
+                                       "1201"
+                                       "0300"
+                                       "01000000"
+                                       "00000000"
+                                       "00000000");
+    Block[BigEndian ? 19 : 18] = static_cast<char>(Orientation);
+    return Block;
+}
+
+QByteArray WithExif(const QByteArray& Jpeg, const QByteArray& Block) {
+    const QByteArray Body = QByteArray("Exif\0\0", 6) + Block;
+    const int Length = static_cast<int>(Body.size()) + 2;
+    QByteArray Marker("\xFF\xE1");
+    Marker.append(static_cast<char>(Length >> 8)).append(static_cast<char>(Length & 255));
+    return Jpeg.left(2) + Marker + Body + Jpeg.mid(2);
+}
+
+QByteArray JpegOf(const QImage& Picture) {
+    ImgX Made;
+    Made.SetPicture(Picture);
+    return Made.ToJpeg();
+}
+
+// How the motif lies in a file of each orientation.
+struct Lying {
+    int Orientation;
+    QColor TL, TR, BL, BR;
+};
+const Lying AllLying[] = {{1, Red, Green, Blue, Grey}, {2, Green, Red, Grey, Blue},
+                          {3, Grey, Blue, Green, Red}, {4, Blue, Grey, Red, Green},
+                          {5, Red, Blue, Green, Grey}, {6, Green, Grey, Red, Blue},
+                          {7, Grey, Green, Blue, Red}, {8, Blue, Red, Grey, Green}};
+
+}  // namespace
+
+TEST(ImgXOrientation, AllEightComeUprightInBothByteOrders) {
+    const harness::TempFolder Folder;
+    const QString File = Folder / QStringLiteral("turned.jpg");
+    for (const Lying& How : AllLying) {
+        const QSize Stored = How.Orientation >= 5 ? QSize(32, 48) : QSize(48, 32);
+        const QByteArray Jpeg = JpegOf(Fields(How.TL, How.TR, How.BL, How.BR, Stored));
+        for (bool BigEndian : {false, true}) {
+            SCOPED_TRACE(How.Orientation);
+            WriteFile(File, WithExif(Jpeg, ExifBlock(BigEndian, How.Orientation)));
+            const ImgX Picture = Loaded(File);
+            EXPECT_EQ(QSize(48, 32), Picture.Picture().size());
+            EXPECT_EQ(QSize(48, 32), Picture.FullSize());
+            ExpectFields(Picture.Picture(), Red, Green, Blue, Grey, 3);
+        }
+    }
+}
+
+TEST(ImgXOrientation, ShrinkingWhileDecodingKeepsTheUprightSize) {
+    const harness::TempFolder Folder;
+    const QString File = Folder / QStringLiteral("tall.jpg");
+    const QByteArray Jpeg = JpegOf(Fields(Green, Grey, Red, Blue, {3000, 4000}));
+    WriteFile(File, WithExif(Jpeg, ExifBlock(false, 6)));
+    ImgX Picture;
+    Picture.LoadAtLeast(File, SlideLimit);
+    EXPECT_EQ(QSize(4000, 3000), Picture.FullSize());
+    EXPECT_EQ(QSize(2000, 1500), Picture.Picture().size());
+    ExpectFields(Picture.Picture(), Red, Green, Blue, Grey, 3);
+}
+
+TEST(ImgXColour, AdobeRgbBecomesSrgb) {
+    const harness::TempFolder Folder;
+    QImage Stored(32, 32, QImage::Format_RGB32);
+    Stored.fill(QColor(100, 200, 50));
+    Stored.setColorSpace(QColorSpace::AdobeRgb);
+    QImage Wanted = Stored;
+    Wanted.convertToColorSpace(QColorSpace::SRgb);
+    ASSERT_GT(Distance(Wanted.pixel(9, 9), Stored.pixel(9, 9)), 20);
+    for (const char* Name : {"adobe.png", "adobe.jpg"}) {
+        SCOPED_TRACE(Name);
+        const QString File = Folder / QString::fromLatin1(Name);
+        ASSERT_TRUE(Stored.save(File, nullptr, 100));
+        EXPECT_LE(Distance(Loaded(File).Picture().pixel(9, 9), Wanted.pixel(9, 9)), 3);
+    }
+}
+
+TEST(ImgXColour, ACamerasMarkForAdobeRgbCountsAsItsProfile) {
+    const harness::TempFolder Folder;
+    QImage Stored(32, 32, QImage::Format_RGB32);
+    Stored.fill(QColor(100, 200, 50));
+    const QByteArray Block = QByteArray::fromHex(
+        "49492a0008000000"
+        "0100"
+        "6987"
+        "0400"
+        "01000000"
+        "1a000000"
+        "00000000"
+        "0100"
+        "05a0"
+        "0400"
+        "01000000"
+        "2c000000"
+        "00000000"
+        "0100"
+        "0100"
+        "0200"
+        "04000000"
+        "52303300"
+        "00000000");
+    const QString File = Folder / QStringLiteral("camera.jpg");
+    WriteFile(File, WithExif(JpegOf(Stored), Block));
+    Stored.setColorSpace(QColorSpace::AdobeRgb);
+    Stored.convertToColorSpace(QColorSpace::SRgb);
+    EXPECT_LE(Distance(Loaded(File).Picture().pixel(9, 9), Stored.pixel(9, 9)), 3);
+}
+
+TEST(ImgXColour, AProfileThatIsSrgbChangesNoPixel) {
+    QImage Picture(256, 256, QImage::Format_RGB32);
+    for (int Y = 0; Y < 256; ++Y)
+        for (int X = 0; X < 256; ++X) Picture.setPixel(X, Y, qRgb(X, Y, (X * Y) & 255));
+    const QByteArray Profile = QColorSpace(QColorSpace::SRgb).iccProfile();
+    EXPECT_EQ(Picture, ToScreenColours(Picture, Profile));
+}
+
+TEST(ImgXColour, AProfileThatIsNoProfileIsIgnored) {
+    EXPECT_EQ(Motif(), ToScreenColours(Motif(), QByteArray(500, 'x')));
+}
+
+TEST(ImgXColour, HalfTransparentPixelsMixWithWhite) {
+    QImage Picture(2, 1, QImage::Format_ARGB32);
+    Picture.setPixel(0, 0, qRgba(0, 0, 0, 128));
+    Picture.setPixel(1, 0, qRgba(200, 0, 0, 0));
+    const QImage Laid = ToScreenColours(Picture, {});
+    EXPECT_EQ(qRgb(127, 127, 127), Laid.pixel(0, 0));
+    EXPECT_EQ(qRgb(255, 255, 255), Laid.pixel(1, 0));
+}
+
+TEST(ImgXColour, A32BitTargaWhoseFourthByteIsAlwaysZeroIsOpaque) {
+    const harness::TempFolder Folder;
+    const QString File = Folder / QStringLiteral("zero.tga");
+    QByteArray Bytes = ReadFile(PictureFile(QStringLiteral("alpha32.tga")));
+    for (qsizetype At = 18 + 3; At < 18 + 48 * 32 * 4; At += 4) Bytes[At] = '\0';
+    WriteFile(File, Bytes);
+    ExpectFields(Loaded(File).Picture(), Red, Green, Blue, Grey, 0);
+}

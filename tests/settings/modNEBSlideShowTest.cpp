@@ -1,0 +1,234 @@
+#include "settings/modNEBSlideShow.h"
+
+#include <QDir>
+
+#include "harness/ScriptedBoxes.h"
+#include "harness/TempFolder.h"
+#include "settings/clsFileSystem.h"
+#include "support/Fault.h"
+#include "support/Services.h"
+#include "support/files/modHostFiles.h"
+
+using namespace neb;
+using namespace neb::harness;
+
+namespace {
+
+class StoppedClock : public Clock {
+  public:
+    QDateTime At{QDate(2004, 2, 3), QTime(14, 5, 59)};
+    QDateTime Now() const override { return At; }
+    double Ticks() const override { return 0; }
+};
+
+// A documents and a program folder of its own, and the globals as they were afterwards.
+struct ShellTest : ::testing::Test {
+    TempFolder Documents, Program;
+    clsFileSystem Files;
+
+    void SetUp() override {
+        SetDocumentsPath(Documents.Path());
+        AppPathCache = Program.Path();
+        FileSystem = &Files;
+    }
+    void TearDown() override {
+        SetHostWatcher({});
+        FileSystem = nullptr;
+        AppPathCache.clear();
+        DBPathCache.clear();
+        DocumentsPath.clear();
+    }
+    QString Home() const { return Documents / QStringLiteral("NEB/NEB Slide Show/"); }
+    QString WithDBPath(const QByteArray& Value) const {
+        MakeDirs(Home());
+        WriteFile(Home() + QStringLiteral("QLM.ini"), "[General]\nDBPath=" + Value + "\n");
+        DBPathCache.clear();
+        return DBPath();
+    }
+};
+
+bool Accepts(const char16_t* Text) {
+    for (const QChar Character : QStringView(Text))
+        if (!IsLegalChar(Character)) return false;
+    return true;
+}
+
+}  // namespace
+
+TEST_F(ShellTest, TheDatabaseLiesBesideTheSettingsUnlessTheFileSaysOtherwise) {
+    EXPECT_EQ(Home(), DBPath());
+    EXPECT_EQ(Home(), SettingsDir());
+    EXPECT_EQ(u"QLM.ini", INIFileName());
+    EXPECT_EQ(Home() + INIFileName(), OpenSettings().FileName());
+}
+
+TEST_F(ShellTest, ADBPathOfTheSettingsGetsItsClosingSeparator) {
+    EXPECT_EQ(u"/srv/pictures/", WithDBPath("/srv/pictures"));
+    EXPECT_EQ(u"/srv/pictures/", WithDBPath("/srv/pictures/"));
+    EXPECT_EQ(u"D:\\Pictures\\", WithDBPath("D:\\Pictures"));
+    EXPECT_EQ(u"D:\\Pictures\\", WithDBPath("D:\\Pictures\\"));
+    EXPECT_EQ(u"/srv/My Pictures/", WithDBPath("\"/srv/My Pictures\""));
+}
+
+TEST_F(ShellTest, RelativePathsMeanTheSameWhereverTheProgramWasStarted) {
+    EXPECT_EQ(Home() + QStringLiteral("albums/"), WithDBPath("albums"));
+    EXPECT_EQ(Documents / QStringLiteral("NEB/albums/"), WithDBPath("../albums/"));
+    const QString Before = QDir::currentPath();
+    QDir::setCurrent(Documents.Path());
+    SetDocumentsPath(QStringLiteral("stick"));
+    QDir::setCurrent(Before);
+    EXPECT_EQ(Documents / QStringLiteral("stick/NEB/NEB Slide Show/"), DBPath());
+    SetDocumentsPath(Documents.Path());
+}
+
+TEST_F(ShellTest, AnEmptyDBPathCountsAsNone) {
+    EXPECT_EQ(Home(), WithDBPath(""));
+    EXPECT_EQ(Home(), WithDBPath("   "));
+}
+
+TEST_F(ShellTest, TheDatabasePathIsAskedForOnce) {
+    EXPECT_EQ(Home(), DBPath());
+    MakeDirs(Home());
+    WriteFile(Home() + INIFileName(), "[General]\nDBPath=/elsewhere\n");
+    EXPECT_EQ(Home(), DBPath());
+    SetDocumentsPath(Documents.Path());
+    EXPECT_EQ(u"/elsewhere/", DBPath()) << "until the documents move";
+}
+
+TEST_F(ShellTest, AskingForThePathsWritesNothing) {
+    DBPath();
+    EXPECT_FALSE(FileExists(Home() + INIFileName()));
+}
+
+TEST_F(ShellTest, AnotherDocumentsFolderOverridesTheUsersOwn) {
+    const TempFolder Stick;
+    QString Path = Stick.Path();
+    Path.chop(1);
+    SetDocumentsPath(Path);
+    EXPECT_EQ(Stick / QStringLiteral("NEB/NEB Slide Show/"), DBPath());
+}
+
+TEST_F(ShellTest, TheProgramsFolderEndsWithASeparatorAndIsCached) {
+    EXPECT_EQ(Program.Path(), AppPath());
+    AppPathCache.clear();
+    EXPECT_EQ(QCoreApplication::applicationDirPath() + u'/', AppPath());
+    EXPECT_EQ(AppPath(), AppPathCache);
+}
+
+TEST_F(ShellTest, ALogLineIsTimeLevelAndTextWithTabs) {
+    StoppedClock Stopped;
+    Clock* const Before = std::exchange(TheServices().Time, &Stopped);
+    LogMessage(QStringLiteral("Information"), QStringLiteral("Showing Main Form"));
+    Stopped.At = QDateTime(QDate(2004, 11, 30), QTime(0, 0));
+    LogMessage(QStringLiteral("Information"), QStringLiteral("Größe"));
+    TheServices().Time = Before;
+    EXPECT_EQ(
+        "02-03-2004 14:05\tInformation\tShowing Main Form\n"
+        "11-30-2004 00:00\tInformation\tGröße\n",
+        ReadFile(Program / QStringLiteral("QLM.log")).toStdString());
+}
+
+TEST_F(ShellTest, ALogThatCannotBeWrittenIsPassedOver) {
+    SetHostWatcher([](HostStep, const QString& Path, qint64&) {
+        throw Fault(QStringLiteral("read-only"), Path);
+    });
+    EXPECT_NO_THROW(LogMessage(QStringLiteral("Information"), QStringLiteral("x")));
+    SetHostWatcher({});
+    AppPathCache = Program / QStringLiteral("missing/");
+    EXPECT_NO_THROW(LogMessage(QStringLiteral("Information"), QStringLiteral("x")));
+    EXPECT_FALSE(FolderExists(AppPathCache));
+}
+
+TEST_F(ShellTest, MakeDirIgnoresWhateverGoesWrong) {
+    const QString Dir = Documents / QStringLiteral("Albums");
+    MakeDir(Dir);
+    EXPECT_TRUE(FolderExists(Dir));
+    EXPECT_NO_THROW(MakeDir(Dir));
+    WriteFile(Documents / QStringLiteral("File"), "x");
+    EXPECT_NO_THROW(MakeDir(Documents / QStringLiteral("File")));
+    EXPECT_NO_THROW(MakeDir(Documents / QStringLiteral("File/Below")));
+    EXPECT_NO_THROW(MakeDir(QString()));
+    SetHostWatcher([](HostStep, const QString& Path, qint64&) {
+        throw Fault(QStringLiteral("read-only"), Path);
+    });
+    EXPECT_NO_THROW(MakeDir(Documents / QStringLiteral("Temp")));
+}
+
+TEST_F(ShellTest, LettersDigitsAndTheListedSignsAreLegal) {
+    EXPECT_TRUE(Accepts(u"abcxyzABCXYZ0123456789"));
+    EXPECT_TRUE(Accepts(u"!#$().,_-~@^:;'<>/\\=+|[]{} "));
+    EXPECT_TRUE(IsLegalChar(QChar(8)));
+    EXPECT_TRUE(IsLegalChar(QChar(46)));
+}
+
+TEST_F(ShellTest, EveryOtherSignIsIllegal) {
+    for (const QChar Character : QStringLiteral("\"%&*?`äöüßÄéÿ\n\r\t€"))
+        EXPECT_FALSE(IsLegalChar(Character)) << int(Character.unicode());
+    EXPECT_FALSE(IsLegalChar(QChar(0)));
+    EXPECT_FALSE(IsLegalChar(QChar(0x7f)));
+}
+
+TEST_F(ShellTest, ALegalTextIsAcceptedWithoutABox) {
+    const ScriptedBoxes Boxes;
+    EXPECT_TRUE(ValidateUserInput(QStringLiteral("Album Name"), QStringLiteral("Summer (2003)")));
+    EXPECT_TRUE(ValidateUserInput(QStringLiteral("Album Name"), QString()));
+    EXPECT_EQ(0, Boxes.ShownCount());
+}
+
+TEST_F(ShellTest, IllegalSignsAreNamedOnceEachInTheirOrder) {
+    ScriptedBoxes Boxes;
+    Boxes.Expect(
+        QStringLiteral("The entered Album Name contained the following illegal characters:\n*?"),
+        QStringLiteral("Invalid User Input"), BoxIcon::Information, BoxAnswer::Ok);
+    EXPECT_FALSE(ValidateUserInput(QStringLiteral("Album Name"), QStringLiteral("a*b?c*d")));
+}
+
+TEST_F(ShellTest, SignsOutsideTheBasicPlaneAreNamedWhole) {
+    ScriptedBoxes Boxes;
+    Boxes.Expect(
+        QStringLiteral("The entered Caption contained the following illegal characters:\n😀😁"),
+        QStringLiteral("Invalid User Input"), BoxIcon::Information, BoxAnswer::Ok);
+    EXPECT_FALSE(ValidateUserInput(QStringLiteral("Caption"), QStringLiteral("a😀b😁c😀")));
+}
+
+TEST_F(ShellTest, APathIsValidWhenItIsAFileThatOpensOrAFolder) {
+    const QString File = Documents / QStringLiteral("a.jpg");
+    WriteFile(File, "x");
+    EXPECT_TRUE(IsPathValid(File));
+    EXPECT_TRUE(IsPathValid(Documents.Path()));
+    EXPECT_TRUE(IsPathValid(Documents / QStringLiteral("A.JPG"))) << "in another case too";
+    EXPECT_FALSE(IsPathValid(Documents / QStringLiteral("b.jpg")));
+    EXPECT_FALSE(IsPathValid(QString()));
+    EXPECT_TRUE(CanOpenFile(File));
+    EXPECT_FALSE(CanOpenFile(Documents.Path()));
+    EXPECT_FALSE(CanOpenFile(Documents / QStringLiteral("b.jpg")));
+}
+
+TEST_F(ShellTest, NoPathIsValidBeforeTheMainWindowHasLoaded) {
+    FileSystem = nullptr;
+    EXPECT_FALSE(IsPathValid(Documents.Path()));
+}
+
+TEST_F(ShellTest, ADirectoryCanBeListedAFileAndNothingCannot) {
+    EXPECT_TRUE(CanListDir(Documents.Path()));
+    WriteFile(Documents / QStringLiteral("a.jpg"), "x");
+    EXPECT_TRUE(CanListDir(Documents.Path()));
+    EXPECT_FALSE(CanListDir(Documents / QStringLiteral("a.jpg")));
+    EXPECT_FALSE(CanListDir(Documents / QStringLiteral("missing/")));
+}
+
+TEST_F(ShellTest, TheFileSystemObjectTellsFilesFromFoldersAndDeletes) {
+    const QString File = Documents / QStringLiteral("a.jpg");
+    WriteFile(File, "x");
+    EXPECT_TRUE(Files.FileExists(File));
+    EXPECT_FALSE(Files.FolderExists(File));
+    EXPECT_FALSE(Files.FileExists(Documents.Path()));
+    EXPECT_TRUE(Files.FolderExists(Documents.Path()));
+    Files.DeleteFile(File);
+    EXPECT_FALSE(Files.FileExists(File));
+    EXPECT_NO_THROW(Files.DeleteFile(File));
+#ifndef _WIN32
+    EXPECT_FALSE(Files.DriveExists(QStringLiteral("C:")));
+    EXPECT_FALSE(Files.DriveExists(QStringLiteral("/")));
+#endif
+}
