@@ -6,12 +6,12 @@
 #include <chrono>
 #include <cstdio>
 
+#include "albums/modImport.h"
+#include "controls/grid/FlexGrid.h"
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
 #include "intake/clsImageBuffer.h"
-#include "intake/modImport.h"
 #include "pictures/ImgX.h"
-#include "platform/FlexGrid.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/files/modHostFiles.h"
 

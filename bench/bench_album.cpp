@@ -7,10 +7,10 @@
 #include <cstdio>
 
 #include "BenchAlbum.h"
+#include "controls/forms/NebApplication.h"
+#include "controls/forms/Progress.h"
+#include "controls/forms/frmLoading.h"
 #include "support/Services.h"
-#include "support/windows/NebApplication.h"
-#include "support/windows/Progress.h"
-#include "support/windows/frmLoading.h"
 
 using namespace neb;
 

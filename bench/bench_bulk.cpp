@@ -5,9 +5,9 @@
 #include <cstdio>
 
 #include "BenchAlbum.h"
+#include "controls/forms/NebApplication.h"
 #include "intake/frmSlideMgrBulk.h"
 #include "support/Services.h"
-#include "support/windows/NebApplication.h"
 
 using namespace neb;
 

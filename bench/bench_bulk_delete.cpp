@@ -8,12 +8,12 @@
 #include <ctime>
 
 #include "BenchAlbum.h"
+#include "controls/forms/NebApplication.h"
 #include "intake/frmAlbumDelete.h"
 #include "intake/frmSlideDBM.h"
 #include "intake/frmSlideMgrBulk.h"
 #include "intake/modAlbumNames.h"
 #include "support/Services.h"
-#include "support/windows/NebApplication.h"
 
 using namespace neb;
 

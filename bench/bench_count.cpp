@@ -11,9 +11,9 @@
 #include <algorithm>
 #include <cstdio>
 
+#include "albums/modPictureFiles.h"
+#include "controls/directories/DirectoryTree.h"
 #include "intake/frmDirSelect.h"
-#include "intake/modPictureFiles.h"
-#include "platform/DirectoryTree.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/files/modHostFiles.h"
 

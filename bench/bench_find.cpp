@@ -14,14 +14,14 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "intake/GraphicsSearch.h"
+#include "albums/GraphicsSearch.h"
+#include "controls/directories/Drives.h"
+#include "controls/forms/NebApplication.h"
+#include "controls/grid/FlexGrid.h"
 #include "intake/frmFindGraphics.h"
-#include "platform/Drives.h"
-#include "platform/FlexGrid.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Services.h"
 #include "support/files/modHostFiles.h"
-#include "support/windows/NebApplication.h"
 
 using namespace neb;
 

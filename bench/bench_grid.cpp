@@ -9,7 +9,7 @@
 #include <algorithm>
 #include <cstdio>
 
-#include "platform/FlexGrid.h"
+#include "controls/grid/FlexGrid.h"
 
 using namespace neb;
 

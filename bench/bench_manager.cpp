@@ -6,8 +6,8 @@
 
 #include "BenchAlbum.h"
 #include "authoring/frmSlideShowDBM.h"
+#include "controls/forms/NebApplication.h"
 #include "support/Services.h"
-#include "support/windows/NebApplication.h"
 
 using namespace neb;
 

@@ -8,8 +8,8 @@
 
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
-#include "presentation/RehearsalFindings.h"
 #include "settings/modNEBSlideShow.h"
+#include "show/rehearsal/RehearsalFindings.h"
 #include "support/files/modHostFiles.h"
 
 using namespace neb;

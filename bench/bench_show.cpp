@@ -10,10 +10,10 @@
 #include <memory>
 
 #include "BenchScene.h"
+#include "controls/forms/NebApplication.h"
+#include "controls/picture/XShow.h"
 #include "effects/EffectCatalogue.h"
 #include "effects/XShowBands.h"
-#include "platform/XShow.h"
-#include "support/windows/NebApplication.h"
 
 using namespace neb;
 

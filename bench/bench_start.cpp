@@ -8,10 +8,10 @@
 #include <chrono>
 #include <cstdio>
 
+#include "controls/forms/NebApplication.h"
 #include "settings/modNEBSlideShow.h"
 #include "shell/main/DesktopServices.h"
 #include "shell/main/frmNEBSlideShow.h"
-#include "support/windows/NebApplication.h"
 
 namespace {
 

@@ -2,13 +2,13 @@
 #include "Tour.h"
 #include "TourControls.h"
 #include "TourSteps.h"
+#include "controls/forms/frmLoading.h"
+#include "controls/forms/frmProgress.h"
 #include "intake/frmDirSelect.h"
 #include "intake/frmFindGraphics.h"
 #include "intake/frmImportFilter.h"
 #include "intake/frmNewAlbumWzd1.h"
 #include "shell/main/frmNEBSlideShow.h"
-#include "support/windows/frmLoading.h"
-#include "support/windows/frmProgress.h"
 
 namespace neb::demo {
 namespace {

@@ -2,10 +2,10 @@
 #include "Tour.h"
 #include "TourControls.h"
 #include "TourSteps.h"
+#include "controls/forms/frmLoading.h"
 #include "intake/frmAlbumRename.h"
 #include "intake/frmSlideMgrBulk.h"
 #include "shell/main/frmNEBSlideShow.h"
-#include "support/windows/frmLoading.h"
 
 namespace neb::demo {
 namespace {

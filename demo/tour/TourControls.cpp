@@ -4,7 +4,7 @@
 #include <QApplication>
 #include <QFileDialog>
 
-#include "platform/ToolBar.h"
+#include "controls/fields/ToolBar.h"
 
 namespace neb::demo {
 namespace {

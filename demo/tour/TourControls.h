@@ -10,9 +10,9 @@
 #include <QPushButton>
 #include <QTest>
 
-#include "platform/FlexGrid.h"
+#include "controls/forms/Form.h"
+#include "controls/grid/FlexGrid.h"
 #include "support/Fault.h"
-#include "support/windows/Form.h"
 
 namespace neb::demo {
 

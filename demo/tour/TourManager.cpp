@@ -5,8 +5,8 @@
 #include "TourSteps.h"
 #include "authoring/SlideGrids.h"
 #include "authoring/frmSlideShowDBM.h"
+#include "controls/forms/frmLoading.h"
 #include "intake/clsImageBuffer.h"
-#include "support/windows/frmLoading.h"
 
 namespace neb::demo {
 namespace {

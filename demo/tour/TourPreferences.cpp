@@ -3,7 +3,7 @@
 #include "TourControls.h"
 #include "TourSteps.h"
 #include "TourWatch.h"
-#include "platform/XShow.h"
+#include "controls/picture/XShow.h"
 #include "presentation/EffectList.h"
 #include "presentation/frmPreferences.h"
 #include "shell/main/frmNEBSlideShow.h"

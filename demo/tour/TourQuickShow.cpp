@@ -5,15 +5,15 @@
 #include "TourControls.h"
 #include "TourSteps.h"
 #include "TourWatch.h"
+#include "controls/forms/frmLoading.h"
+#include "controls/forms/frmProgress.h"
+#include "controls/picture/XShow.h"
 #include "intake/frmDirSelect.h"
 #include "intake/frmPicturePopup.h"
 #include "intake/frmQuickShow.h"
-#include "platform/XShow.h"
 #include "presentation/frmSlideShowProjector.h"
 #include "presentation/frmSpeedTest.h"
 #include "shell/main/frmNEBSlideShow.h"
-#include "support/windows/frmLoading.h"
-#include "support/windows/frmProgress.h"
 
 namespace neb::demo {
 namespace {

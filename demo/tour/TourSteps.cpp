@@ -5,7 +5,7 @@
 #include "Tour.h"
 #include "TourControls.h"
 #include "TourWatch.h"
-#include "platform/XShow.h"
+#include "controls/picture/XShow.h"
 #include "presentation/frmSlideShowProjector.h"
 #include "presentation/frmSpeedTest.h"
 #include "presentation/modSlideShows.h"

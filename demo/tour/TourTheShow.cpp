@@ -6,7 +6,7 @@
 #include "TourControls.h"
 #include "TourSteps.h"
 #include "TourWatch.h"
-#include "platform/XShow.h"
+#include "controls/picture/XShow.h"
 #include "presentation/frmSlideShowProjector.h"
 #include "presentation/modSlideShows.h"
 #include "shell/main/frmNEBSlideShow.h"

@@ -2,7 +2,7 @@
 
 #include "TourControls.h"
 #include "TourSound.h"
-#include "platform/XShow.h"
+#include "controls/picture/XShow.h"
 #include "presentation/frmSlideShowProjector.h"
 #include "presentation/modSlideShows.h"
 #include "support/files/modHostFiles.h"

@@ -6,11 +6,11 @@
 #include "Tour.h"
 #include "TourSound.h"
 #include "TourSteps.h"
+#include "controls/forms/NebApplication.h"
 #include "settings/modNEBSlideShow.h"
 #include "shell/main/DesktopServices.h"
 #include "shell/main/frmNEBSlideShow.h"
 #include "support/Services.h"
-#include "support/windows/NebApplication.h"
 
 namespace {
 

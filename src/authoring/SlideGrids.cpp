@@ -1,8 +1,8 @@
 #include "authoring/SlideGrids.h"
 
+#include "controls/grid/FlexGrid.h"
 #include "intake/SlideRows.h"
 #include "intake/clsImageBuffer.h"
-#include "platform/FlexGrid.h"
 
 namespace neb {
 namespace {

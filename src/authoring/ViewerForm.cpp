@@ -4,18 +4,18 @@
 #include <QProgressBar>
 #include <QPushButton>
 
+#include "controls/fields/Icons.h"
+#include "controls/forms/ScreenPointer.h"
+#include "controls/forms/frmLoading.h"
+#include "controls/grid/FlexGrid.h"
 #include "db/modAlbumFiles.h"
 #include "intake/SlideRows.h"
 #include "intake/clsImageBuffer.h"
 #include "intake/frmPicturePopup.h"
-#include "platform/FlexGrid.h"
-#include "platform/Icons.h"
 #include "settings/modNEBSlideShow.h"
 #include "shell/Openers.h"
 #include "support/Fault.h"
 #include "support/Services.h"
-#include "support/windows/ScreenPointer.h"
-#include "support/windows/frmLoading.h"
 
 namespace neb {
 namespace {

@@ -6,11 +6,11 @@
 #include <optional>
 #include <vector>
 
+#include "albums/BulkSlides.h"
+#include "controls/forms/Form.h"
+#include "controls/forms/Progress.h"
 #include "db/clsDBEngine.h"
-#include "intake/BulkSlides.h"
 #include "shell/modWindowState.h"
-#include "support/windows/Form.h"
-#include "support/windows/Progress.h"
 
 QT_BEGIN_NAMESPACE
 class QPushButton;

@@ -1,6 +1,6 @@
 #include "authoring/frmAlbumView.h"
 
-#include "platform/FlexGrid.h"
+#include "controls/grid/FlexGrid.h"
 #include "ui_frmAlbumView.h"
 
 namespace neb {

@@ -9,17 +9,17 @@
 #include <QShortcut>
 
 #include "authoring/SlideGrids.h"
+#include "controls/fields/Icons.h"
+#include "controls/fields/KeyFilter.h"
+#include "controls/fields/ToolBar.h"
+#include "controls/forms/frmLoading.h"
+#include "controls/grid/FlexGrid.h"
 #include "db/clsDBEngine.h"
 #include "intake/clsImageBuffer.h"
-#include "platform/FlexGrid.h"
-#include "platform/Icons.h"
-#include "platform/KeyFilter.h"
-#include "platform/ToolBar.h"
 #include "settings/modNEBSlideShow.h"
 #include "shell/Openers.h"
 #include "shell/modWindowState.h"
 #include "support/modDEValidation.h"
-#include "support/windows/frmLoading.h"
 #include "ui_frmSlideShowDBM.h"
 
 namespace neb {

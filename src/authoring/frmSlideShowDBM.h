@@ -3,11 +3,11 @@
 // Save. A child of the main window; several may be open, on one album, too.
 #pragma once
 
-#include "authoring/ShowContent.h"
-#include "platform/ComboBoxList.h"
+#include "albums/ShowContent.h"
+#include "controls/fields/ComboBoxList.h"
+#include "controls/forms/Form.h"
+#include "controls/forms/Progress.h"
 #include "shell/modBroadcast.h"
-#include "support/windows/Form.h"
-#include "support/windows/Progress.h"
 
 namespace neb {
 

@@ -2,19 +2,19 @@
 #include <QProgressBar>
 #include <QScopedValueRollback>
 
+#include "albums/BulkSlides.h"
+#include "albums/modLoadShow.h"
 #include "authoring/SlideGrids.h"
 #include "authoring/frmSlideShowDBM.h"
-#include "authoring/modLoadShow.h"
+#include "controls/forms/ScreenPointer.h"
+#include "controls/forms/frmLoading.h"
+#include "controls/grid/FlexGrid.h"
+#include "controls/grid/GridRows.h"
 #include "db/clsDBEngine.h"
-#include "intake/BulkSlides.h"
 #include "intake/SlideRows.h"
 #include "intake/clsImageBuffer.h"
-#include "platform/FlexGrid.h"
-#include "platform/GridRows.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Services.h"
-#include "support/windows/ScreenPointer.h"
-#include "support/windows/frmLoading.h"
 #include "ui_frmSlideShowDBM.h"
 
 namespace neb {

@@ -4,13 +4,13 @@
 #include <algorithm>
 #include <unordered_set>
 
+#include "albums/modLoadShow.h"
 #include "authoring/SlideGrids.h"
 #include "authoring/frmSlideShowDBM.h"
-#include "authoring/modLoadShow.h"
+#include "controls/grid/FlexGrid.h"
+#include "controls/grid/GridRows.h"
 #include "db/clsDBEngine.h"
 #include "intake/SlideRows.h"
-#include "platform/FlexGrid.h"
-#include "platform/GridRows.h"
 #include "settings/modNEBSlideShow.h"
 #include "ui_frmSlideShowDBM.h"
 

@@ -2,14 +2,14 @@
 #include <algorithm>
 #include <numeric>
 
+#include "albums/modLoadShow.h"
 #include "authoring/SlideGrids.h"
 #include "authoring/frmSlideShowDBM.h"
-#include "authoring/modLoadShow.h"
+#include "controls/grid/FlexGrid.h"
+#include "controls/grid/GridRows.h"
 #include "intake/SlideRows.h"
 #include "intake/clsImageBuffer.h"
 #include "intake/frmPicturePopup.h"
-#include "platform/FlexGrid.h"
-#include "platform/GridRows.h"
 #include "settings/modNEBSlideShow.h"
 #include "ui_frmSlideShowDBM.h"
 

@@ -2,15 +2,15 @@
 #include <QScopedValueRollback>
 #include <optional>
 
+#include "albums/modSaveShow.h"
 #include "authoring/frmSlideShowDBM.h"
-#include "authoring/modSaveShow.h"
+#include "controls/forms/ScreenPointer.h"
+#include "controls/grid/FlexGrid.h"
 #include "db/clsDBEngine.h"
-#include "platform/FlexGrid.h"
 #include "presentation/modSlideShows.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/Services.h"
-#include "support/windows/ScreenPointer.h"
 #include "ui_frmSlideShowDBM.h"
 
 namespace neb {

@@ -3,9 +3,9 @@
 #include <QMimeData>
 #include <QUrl>
 
+#include "albums/modLoadShow.h"
 #include "authoring/frmSlideShowDBM.h"
-#include "authoring/modLoadShow.h"
-#include "platform/FlexGrid.h"
+#include "controls/grid/FlexGrid.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Services.h"
 #include "support/modFUFL.h"

@@ -1,6 +1,6 @@
 #include "authoring/frmSlideShowView.h"
 
-#include "platform/FlexGrid.h"
+#include "controls/grid/FlexGrid.h"
 #include "support/Services.h"
 #include "ui_frmSlideShowView.h"
 

@@ -6,16 +6,11 @@
 
 #include "db/clsNEBSlide.h"
 #include "db/clsNEBSlideShow.h"
+#include "db/modNameIndex.h"
 
 namespace neb {
 
 class clsDBEngine;
-
-// A row of a view sorted by a text.
-struct NameIndexEntry {
-    QString Name;
-    std::int32_t ID = 0;
-};
 
 class clsNEBAlbum {
   public:

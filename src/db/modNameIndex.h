@@ -1,9 +1,17 @@
 // Sorting the views that are ordered by a name: albums, slides, shows.
 #pragma once
 
-#include "db/clsNEBAlbum.h"
+#include <QString>
+#include <cstdint>
+#include <vector>
 
 namespace neb {
+
+// A row of a view sorted by a text.
+struct NameIndexEntry {
+    QString Name;
+    std::int32_t ID = 0;
+};
 
 enum class NameTies { ByID, AsTheyFall };
 

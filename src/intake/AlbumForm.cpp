@@ -4,8 +4,8 @@
 #include <QLabel>
 #include <QLayout>
 
+#include "controls/fields/ComboBoxList.h"
 #include "db/clsDBEngine.h"
-#include "platform/ComboBoxList.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Services.h"
 

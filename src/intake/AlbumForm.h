@@ -4,8 +4,8 @@
 
 #include <optional>
 
+#include "controls/forms/Form.h"
 #include "shell/modBroadcast.h"
-#include "support/windows/Form.h"
 
 QT_BEGIN_NAMESPACE
 class QComboBox;

@@ -1,11 +1,11 @@
 #include "intake/DirectoryPanel.h"
 
-#include "intake/modPictureFiles.h"
+#include "albums/modPictureFiles.h"
+#include "controls/forms/ScreenPointer.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/Services.h"
 #include "support/files/modHostFiles.h"
-#include "support/windows/ScreenPointer.h"
 #include "ui_DirectoryPanel.h"
 
 namespace neb {

@@ -4,21 +4,21 @@
 
 #include <QProgressBar>
 
+#include "controls/fields/Icons.h"
+#include "controls/fields/ToolBar.h"
+#include "controls/forms/ScreenPointer.h"
+#include "controls/forms/frmLoading.h"
+#include "controls/forms/frmProgress.h"
+#include "controls/grid/FlexGrid.h"
+#include "controls/grid/GridRows.h"
 #include "db/clsDBEngine.h"
 #include "intake/SlideRows.h"
 #include "intake/frmPicturePopup.h"
-#include "platform/FlexGrid.h"
-#include "platform/GridRows.h"
-#include "platform/Icons.h"
-#include "platform/ToolBar.h"
 #include "settings/modNEBSlideShow.h"
 #include "shell/modWindowState.h"
 #include "support/Services.h"
 #include "support/modDEValidation.h"
 #include "support/modNumbers.h"
-#include "support/windows/ScreenPointer.h"
-#include "support/windows/frmLoading.h"
-#include "support/windows/frmProgress.h"
 #include "ui_ImportForm.h"
 
 namespace neb {

@@ -6,9 +6,9 @@
 #include <QImage>
 #include <QStringList>
 
-#include "intake/modImport.h"
-#include "support/windows/Form.h"
-#include "support/windows/Progress.h"
+#include "albums/modImport.h"
+#include "controls/forms/Form.h"
+#include "controls/forms/Progress.h"
 
 namespace neb {
 

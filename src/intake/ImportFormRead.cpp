@@ -4,20 +4,20 @@
 #include <QMimeData>
 #include <QProgressBar>
 
+#include "albums/modPictureFiles.h"
+#include "controls/forms/ScreenPointer.h"
+#include "controls/forms/frmLoading.h"
+#include "controls/grid/FlexGrid.h"
 #include "intake/ImportForm.h"
 #include "intake/frmDirSelect.h"
 #include "intake/frmFindGraphics.h"
-#include "intake/modPictureFiles.h"
 #include "pictures/ImgX.h"
-#include "platform/FlexGrid.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/Services.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
 #include "support/modNumbers.h"
-#include "support/windows/ScreenPointer.h"
-#include "support/windows/frmLoading.h"
 #include "ui_ImportForm.h"
 
 namespace neb {

@@ -2,14 +2,14 @@
 
 #include <QProgressBar>
 
+#include "controls/forms/frmLoading.h"
+#include "controls/grid/FlexGrid.h"
 #include "db/clsNEBSlide.h"
 #include "intake/clsImageBuffer.h"
-#include "platform/FlexGrid.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/Services.h"
 #include "support/modDEValidation.h"
-#include "support/windows/frmLoading.h"
 
 namespace neb {
 

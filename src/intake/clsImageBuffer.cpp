@@ -1,16 +1,16 @@
 #include "intake/clsImageBuffer.h"
 
+#include "albums/modImport.h"
+#include "controls/forms/frmLoadSlide.h"
+#include "controls/forms/frmLoading.h"
+#include "controls/grid/FlexGrid.h"
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
-#include "intake/modImport.h"
 #include "pictures/ImgX.h"
-#include "platform/FlexGrid.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
-#include "support/windows/frmLoadSlide.h"
-#include "support/windows/frmLoading.h"
 
 namespace neb {
 namespace {

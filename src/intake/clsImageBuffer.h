@@ -10,7 +10,7 @@
 #include <cstdint>
 #include <memory>
 
-#include "support/windows/Progress.h"
+#include "controls/forms/Progress.h"
 
 QT_BEGIN_NAMESPACE
 class QImage;

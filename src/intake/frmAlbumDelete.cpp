@@ -2,13 +2,14 @@
 
 #include <QScopedValueRollback>
 
+#include "albums/AlbumRemoval.h"
+#include "controls/fields/Icons.h"
+#include "controls/forms/PaintRate.h"
+#include "controls/forms/ScreenPointer.h"
 #include "db/clsDBEngine.h"
 #include "intake/modAlbumNames.h"
-#include "platform/Icons.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Services.h"
-#include "support/windows/PaintRate.h"
-#include "support/windows/ScreenPointer.h"
 #include "ui_frmAlbumDelete.h"
 
 namespace neb {

@@ -1,8 +1,8 @@
 #include "intake/frmAlbumRename.h"
 
+#include "controls/fields/Icons.h"
 #include "db/clsDBEngine.h"
 #include "intake/modAlbumNames.h"
-#include "platform/Icons.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/modDEValidation.h"
 #include "ui_frmAlbumRename.h"

@@ -4,7 +4,7 @@
 
 #include <QString>
 
-#include "support/windows/Form.h"
+#include "controls/forms/Form.h"
 
 namespace neb {
 

@@ -2,19 +2,19 @@
 
 #include <QHeaderView>
 
-#include "intake/GraphicsSearch.h"
+#include "albums/GraphicsSearch.h"
+#include "controls/directories/Drives.h"
+#include "controls/fields/ComboBoxList.h"
+#include "controls/fields/Icons.h"
+#include "controls/forms/ScreenPointer.h"
+#include "controls/forms/modTwips.h"
+#include "controls/grid/FlexGrid.h"
 #include "intake/frmDirSelect.h"
-#include "platform/ComboBoxList.h"
-#include "platform/Drives.h"
-#include "platform/FlexGrid.h"
-#include "platform/Icons.h"
 #include "settings/modNEBSlideShow.h"
 #include "shell/modWindowState.h"
 #include "support/Fault.h"
 #include "support/Services.h"
 #include "support/modNumbers.h"
-#include "support/modTwips.h"
-#include "support/windows/ScreenPointer.h"
 #include "ui_frmFindGraphics.h"
 
 namespace neb {

@@ -6,7 +6,7 @@
 #include <QStringList>
 #include <vector>
 
-#include "support/windows/Form.h"
+#include "controls/forms/Form.h"
 
 QT_BEGIN_NAMESPACE
 class QWidget;

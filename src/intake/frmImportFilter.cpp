@@ -1,5 +1,6 @@
 #include "intake/frmImportFilter.h"
 
+#include "controls/forms/ScreenPointer.h"
 #include "db/clsDBEngine.h"
 #include "settings/modNEBSlideShow.h"
 #include "shell/Openers.h"
@@ -7,7 +8,6 @@
 #include "support/Fault.h"
 #include "support/Services.h"
 #include "support/modDEValidation.h"
-#include "support/windows/ScreenPointer.h"
 #include "ui_ImportForm.h"
 
 namespace neb {

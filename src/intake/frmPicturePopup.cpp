@@ -2,8 +2,8 @@
 
 #include <QKeyEvent>
 
+#include "controls/picture/PictureView.h"
 #include "pictures/ImgX.h"
-#include "platform/PictureView.h"
 #include "shell/modWindowState.h"
 #include "support/Fault.h"
 #include "support/Services.h"

@@ -3,7 +3,7 @@
 
 #include <QString>
 
-#include "support/windows/Form.h"
+#include "controls/forms/Form.h"
 
 namespace neb {
 

@@ -1,8 +1,9 @@
 #include "intake/frmQuickShow.h"
 
+#include "controls/fields/KeyFilter.h"
+#include "controls/forms/ScreenPointer.h"
+#include "controls/grid/FlexGrid.h"
 #include "db/clsDBEngine.h"
-#include "platform/FlexGrid.h"
-#include "platform/KeyFilter.h"
 #include "presentation/modSlideShows.h"
 #include "settings/modNEBSlideShow.h"
 #include "shell/modBroadcast.h"
@@ -11,7 +12,6 @@
 #include "support/Services.h"
 #include "support/modDEValidation.h"
 #include "support/modFUFL.h"
-#include "support/windows/ScreenPointer.h"
 #include "ui_ImportForm.h"
 
 namespace neb {

@@ -7,18 +7,18 @@
 #include <QHeaderView>
 #include <QMdiSubWindow>
 
+#include "albums/SlideSave.h"
+#include "controls/fields/Icons.h"
+#include "controls/fields/KeyFilter.h"
+#include "controls/fields/ToolBar.h"
+#include "controls/forms/modTwips.h"
+#include "controls/grid/FlexGrid.h"
 #include "db/clsDBEngine.h"
-#include "intake/SlideSave.h"
-#include "platform/FlexGrid.h"
-#include "platform/Icons.h"
-#include "platform/KeyFilter.h"
-#include "platform/ToolBar.h"
 #include "settings/modNEBSlideShow.h"
 #include "shell/Openers.h"
 #include "shell/modWindowState.h"
 #include "support/Services.h"
 #include "support/modDEValidation.h"
-#include "support/modTwips.h"
 #include "ui_frmSlideDBM.h"
 
 namespace neb {

@@ -5,11 +5,11 @@
 
 #include <QScopedValueRollback>
 
+#include "controls/fields/ComboBoxList.h"
+#include "controls/forms/Form.h"
+#include "controls/forms/ScreenPointer.h"
 #include "pictures/ImgX.h"
-#include "platform/ComboBoxList.h"
 #include "shell/modBroadcast.h"
-#include "support/windows/Form.h"
-#include "support/windows/ScreenPointer.h"
 #include "support/work/WorkAside.h"
 
 namespace neb {

@@ -1,9 +1,9 @@
 // How the slide manager follows what other windows do. It asks and tells nothing meanwhile, and
 // what the user is in the middle of stays on the screen: it can be saved as before, or as a new
 // slide where its own, or its album, has gone.
+#include "controls/grid/FlexGrid.h"
 #include "db/clsDBEngine.h"
 #include "intake/frmSlideDBM.h"
-#include "platform/FlexGrid.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Services.h"
 #include "ui_frmSlideDBM.h"

@@ -1,14 +1,14 @@
 // What the slide manager keeps: the save and the deletion of a slide, and the import of many.
 #include <QApplication>
 
+#include "albums/SlideSave.h"
+#include "albums/modPictureFiles.h"
+#include "controls/grid/FlexGrid.h"
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
-#include "intake/SlideSave.h"
 #include "intake/frmDirSelect.h"
 #include "intake/frmImportFilter.h"
 #include "intake/frmSlideDBM.h"
-#include "intake/modPictureFiles.h"
-#include "platform/FlexGrid.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/Services.h"

@@ -2,13 +2,13 @@
 #include <QDragEnterEvent>
 #include <QMimeData>
 
+#include "albums/SlideSave.h"
+#include "albums/modPictureFiles.h"
+#include "controls/grid/FlexGrid.h"
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
-#include "intake/SlideSave.h"
 #include "intake/frmSlideDBM.h"
-#include "intake/modPictureFiles.h"
 #include "pictures/formats/PictureFaults.h"
-#include "platform/FlexGrid.h"
 #include "presentation/frmSoundRecorder.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"

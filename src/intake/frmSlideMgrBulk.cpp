@@ -5,21 +5,21 @@
 #include <QAbstractItemView>
 #include <QProgressBar>
 
+#include "controls/fields/ComboBoxList.h"
+#include "controls/fields/Icons.h"
+#include "controls/forms/PaintRate.h"
+#include "controls/forms/ScreenPointer.h"
+#include "controls/forms/frmLoading.h"
+#include "controls/forms/frmProgress.h"
+#include "controls/grid/FlexGrid.h"
 #include "db/clsDBEngine.h"
 #include "intake/SlideRows.h"
 #include "intake/frmPicturePopup.h"
-#include "platform/ComboBoxList.h"
-#include "platform/FlexGrid.h"
-#include "platform/Icons.h"
 #include "settings/modNEBSlideShow.h"
 #include "shell/Openers.h"
 #include "shell/modWindowState.h"
 #include "support/Services.h"
 #include "support/modDEValidation.h"
-#include "support/windows/PaintRate.h"
-#include "support/windows/ScreenPointer.h"
-#include "support/windows/frmLoading.h"
-#include "support/windows/frmProgress.h"
 #include "ui_frmSlideMgrBulk.h"
 
 namespace neb {

@@ -4,10 +4,10 @@
 
 #include <QHash>
 
-#include "intake/BulkSlides.h"
+#include "albums/BulkSlides.h"
+#include "controls/forms/Form.h"
 #include "intake/clsImageBuffer.h"
 #include "shell/modBroadcast.h"
-#include "support/windows/Form.h"
 
 namespace neb {
 

@@ -2,15 +2,15 @@
 #include <QProgressBar>
 #include <QScopedValueRollback>
 
+#include "controls/fields/ComboBoxList.h"
+#include "controls/forms/ScreenPointer.h"
+#include "controls/forms/frmLoading.h"
+#include "controls/grid/FlexGrid.h"
 #include "db/clsDBEngine.h"
 #include "intake/SlideRows.h"
 #include "intake/frmSlideMgrBulk.h"
-#include "platform/ComboBoxList.h"
-#include "platform/FlexGrid.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Services.h"
-#include "support/windows/ScreenPointer.h"
-#include "support/windows/frmLoading.h"
 #include "ui_frmSlideMgrBulk.h"
 
 namespace neb {

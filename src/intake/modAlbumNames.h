@@ -1,10 +1,9 @@
 // The calls that rename and delete albums, and what the windows around names share: the question
-// for a missing name, the cleaning of quotes, and the removal of a deleted album's files.
+// for a missing name, and the cleaning of quotes.
 #pragma once
 
 #include <QString>
 #include <cstdint>
-#include <functional>
 
 QT_BEGIN_NAMESPACE
 class QLineEdit;
@@ -20,11 +19,5 @@ bool ShowDeleteAlbum(std::int32_t AlbumID);
 bool IsNameGiven(const QString& Adjective, const QString& Name);
 // Straight quotes become typographic ones when they are typed, and when the field is left.
 void KeepQuotesClean(QLineEdit& Field);
-
-// Takes the sounds, the pictures and the folders of an album off the disk. What cannot be removed,
-// and what is not the program's, stays with its folder. A link is removed, what it leads to is not.
-// Between is called all the while.
-void DeleteAlbumFiles(const QString& DBPath, std::int32_t AlbumID,
-                      const std::function<void()>& Between);
 
 }  // namespace neb

@@ -2,8 +2,8 @@
 
 #include <QPainter>
 
-#include "presentation/CaptionFit.h"
-#include "presentation/CaptionText.h"
+#include "show/CaptionFit.h"
+#include "show/CaptionText.h"
 
 namespace neb {
 

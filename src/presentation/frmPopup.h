@@ -5,8 +5,8 @@
 #include <QAction>
 #include <QMenu>
 
-#include "presentation/ShowState.h"
-#include "support/windows/Form.h"
+#include "controls/forms/Form.h"
+#include "show/ShowState.h"
 
 namespace neb {
 

@@ -2,11 +2,11 @@
 
 #include <QScreen>
 
+#include "controls/fields/ComboBoxList.h"
+#include "controls/fields/KeyFilter.h"
+#include "controls/grid/FlexGrid.h"
+#include "controls/picture/XShow.h"
 #include "db/clsDBEngine.h"
-#include "platform/ComboBoxList.h"
-#include "platform/FlexGrid.h"
-#include "platform/KeyFilter.h"
-#include "platform/XShow.h"
 #include "presentation/modSlideShows.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"

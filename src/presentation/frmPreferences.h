@@ -2,8 +2,8 @@
 // with a preview of each. Opened by modSlideShows for the main window, the projector and others.
 #pragma once
 
-#include "presentation/PreferencesState.h"
-#include "support/windows/Form.h"
+#include "controls/forms/Form.h"
+#include "show/PreferencesState.h"
 
 namespace neb {
 

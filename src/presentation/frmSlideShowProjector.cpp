@@ -3,16 +3,16 @@
 #include <QKeyEvent>
 #include <QScreen>
 
-#include "platform/XShow.h"
+#include "controls/forms/ScreenPointer.h"
+#include "controls/forms/modTwips.h"
+#include "controls/picture/XShow.h"
 #include "presentation/ProgramScreen.h"
-#include "presentation/ShowBox.h"
-#include "presentation/ShowSettings.h"
 #include "presentation/frmPopup.h"
 #include "presentation/modSlideShows.h"
 #include "settings/modNEBSlideShow.h"
+#include "show/ShowBox.h"
+#include "show/ShowSettings.h"
 #include "support/Fault.h"
-#include "support/modTwips.h"
-#include "support/windows/ScreenPointer.h"
 #include "ui_frmSlideShowProjector.h"
 
 namespace neb {

@@ -6,9 +6,9 @@
 #include <exception>
 #include <optional>
 
+#include "controls/forms/Form.h"
 #include "presentation/BlankingHold.h"
-#include "presentation/ShowRun.h"
-#include "support/windows/Form.h"
+#include "show/ShowRun.h"
 
 namespace neb {
 

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "platform/Icons.h"
+#include "controls/fields/Icons.h"
 #include "sound/clsDirectSound.h"
 #include "support/Services.h"
 #include "ui_frmSoundRecorder.h"

@@ -2,7 +2,7 @@
 // shows the window modally and asks afterwards whether anything was saved.
 #pragma once
 
-#include "support/windows/Form.h"
+#include "controls/forms/Form.h"
 
 namespace neb {
 

@@ -5,13 +5,13 @@
 #include <QStyle>
 #include <QTimer>
 
-#include "platform/XShow.h"
+#include "controls/forms/ScreenPointer.h"
+#include "controls/picture/XShow.h"
 #include "presentation/ProgramScreen.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/Services.h"
 #include "support/files/modHostFiles.h"
-#include "support/windows/ScreenPointer.h"
 #include "ui_frmSpeedTest.h"
 
 namespace neb {

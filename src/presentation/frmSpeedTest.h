@@ -2,8 +2,8 @@
 // and closes by itself. Opened once in the life of a settings file, at the start of the program.
 #pragma once
 
-#include "presentation/SpeedLadder.h"
-#include "support/windows/Form.h"
+#include "controls/forms/Form.h"
+#include "show/SpeedLadder.h"
 
 namespace neb {
 

@@ -6,10 +6,6 @@
 
 namespace neb {
 
-std::int32_t CurrentSlideSeq = 0;
-std::int32_t CurrentSlideShowID = 0;
-double SlideTimeout = 20;
-
 void RunSlideShow(std::int32_t AlbumID, const QString& AlbumName, std::int32_t SlideShowID) {
     const auto Projector = NewForm<frmSlideShowProjector>();
     Projector->AlbumID = AlbumID;

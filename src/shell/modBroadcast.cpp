@@ -1,6 +1,6 @@
 #include "shell/modBroadcast.h"
 
-#include "support/windows/Form.h"
+#include "controls/forms/Form.h"
 
 namespace neb {
 

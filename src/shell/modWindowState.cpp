@@ -4,11 +4,11 @@
 #include <QMdiSubWindow>
 #include <QScreen>
 
+#include "controls/forms/Form.h"
+#include "controls/forms/modTwips.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/modNumbers.h"
-#include "support/modTwips.h"
-#include "support/windows/Form.h"
 
 namespace neb {
 namespace {

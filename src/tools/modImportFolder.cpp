@@ -1,10 +1,10 @@
 #include "tools/modImportFolder.h"
 
+#include "albums/modImport.h"
+#include "albums/modPictureFiles.h"
 #include "db/clsDBEngine.h"
 #include "db/modDatabaseLock.h"
 #include "db/records/modJournal.h"
-#include "intake/modImport.h"
-#include "intake/modPictureFiles.h"
 #include "pictures/ImgX.h"
 #include "support/Fault.h"
 #include "support/Services.h"

@@ -4,9 +4,9 @@
 #include <optional>
 
 #include "db/clsDBEngine.h"
-#include "presentation/RehearsalFindings.h"
 #include "presentation/modSlideShows.h"
 #include "settings/modNEBSlideShow.h"
+#include "show/rehearsal/RehearsalFindings.h"
 #include "support/modDEValidation.h"
 #include "tools/modCommands.h"
 #include "tools/modRehearseSheet.h"

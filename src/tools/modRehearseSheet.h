@@ -2,7 +2,7 @@
 #pragma once
 
 #include "db/clsNEBSlideShow.h"
-#include "presentation/RehearsalFindings.h"
+#include "show/rehearsal/RehearsalFindings.h"
 #include "tools/ToolIO.h"
 
 namespace neb {

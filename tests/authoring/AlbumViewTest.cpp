@@ -4,8 +4,8 @@
 #include <QMdiSubWindow>
 
 #include "ViewRig.h"
+#include "controls/forms/modTwips.h"
 #include "shell/Openers.h"
-#include "support/modTwips.h"
 
 namespace neb {
 namespace {

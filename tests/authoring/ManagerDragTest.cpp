@@ -1,6 +1,6 @@
 // Slides are dragged inside the show, into it and out of it.
 #include "ManagerRig.h"
-#include "platform/GridDragRig.h"
+#include "controls/grid/GridDragRig.h"
 
 namespace neb {
 namespace {

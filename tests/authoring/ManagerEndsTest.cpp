@@ -5,9 +5,9 @@
 #include <QWheelEvent>
 
 #include "ManagerRig.h"
+#include "controls/fields/ToolBar.h"
+#include "controls/picture/XShow.h"
 #include "harness/WithoutPrivileges.h"
-#include "platform/ToolBar.h"
-#include "platform/XShow.h"
 #include "presentation/CaptionLabel.h"
 #include "presentation/frmSlideShowProjector.h"
 

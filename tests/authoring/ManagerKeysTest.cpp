@@ -4,9 +4,9 @@
 #include <QMdiSubWindow>
 
 #include "ManagerRig.h"
+#include "controls/fields/ToolBar.h"
 #include "harness/FolderState.h"
 #include "intake/frmPicturePopup.h"
-#include "platform/ToolBar.h"
 
 namespace neb {
 namespace {

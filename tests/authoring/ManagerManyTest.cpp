@@ -4,7 +4,7 @@
 #include <QElapsedTimer>
 
 #include "ManagerRig.h"
-#include "platform/GridDragRig.h"
+#include "controls/grid/GridDragRig.h"
 
 namespace neb {
 namespace {

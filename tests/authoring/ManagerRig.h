@@ -2,9 +2,9 @@
 // read as one line each, sounds to choose from.
 #pragma once
 
+#include "albums/modLoadShow.h"
 #include "authoring/SlideGrids.h"
 #include "authoring/frmSlideShowDBM.h"
-#include "authoring/modLoadShow.h"
 #include "intake/BulkRig.h"
 #include "intake/SlideRig.h"
 #include "intake/SlideRows.h"

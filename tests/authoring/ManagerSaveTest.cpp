@@ -1,6 +1,6 @@
 // A composed show is saved, saved as another, deleted and played through the window.
 #include "ManagerRig.h"
-#include "platform/ToolBar.h"
+#include "controls/fields/ToolBar.h"
 #include "presentation/frmPreferences.h"
 
 namespace neb {

@@ -3,7 +3,7 @@
 #include <random>
 
 #include "ManagerRig.h"
-#include "platform/GridDragRig.h"
+#include "controls/grid/GridDragRig.h"
 
 namespace neb {
 namespace {

@@ -1,7 +1,7 @@
 #include "effects/XShowBands.h"
 
+#include "controls/picture/XShowRig.h"
 #include "effects/EffectCatalogue.h"
-#include "platform/XShowRig.h"
 
 using namespace neb;
 using namespace neb::test;

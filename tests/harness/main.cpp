@@ -4,8 +4,8 @@
 
 #include <QFile>
 #include <QTemporaryDir>
+#include "controls/forms/NebApplication.h"
 #include "harness/ChildRole.h"
-#include "support/windows/NebApplication.h"
 
 namespace {
 

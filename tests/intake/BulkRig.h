@@ -5,9 +5,9 @@
 #include <QComboBox>
 
 #include "IntakeHarness.h"
+#include "controls/forms/frmProgress.h"
 #include "intake/clsImageBuffer.h"
 #include "intake/frmSlideMgrBulk.h"
-#include "support/windows/frmProgress.h"
 
 namespace neb::harness {
 

@@ -3,11 +3,11 @@
 #include <QComboBox>
 
 #include "FindGraphicsHarness.h"
+#include "albums/modPictureFiles.h"
+#include "controls/directories/DirectoryTree.h"
 #include "harness/WithoutPrivileges.h"
 #include "intake/DirectoryPanel.h"
 #include "intake/frmDirSelect.h"
-#include "intake/modPictureFiles.h"
-#include "platform/DirectoryTree.h"
 
 namespace neb {
 namespace {

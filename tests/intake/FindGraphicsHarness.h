@@ -8,11 +8,11 @@
 #include <QPointer>
 
 #include "IntakeHarness.h"
+#include "controls/directories/DirectoryTree.h"
+#include "controls/directories/Drives.h"
 #include "harness/HastyClock.h"
 #include "intake/frmDirSelect.h"
 #include "intake/frmFindGraphics.h"
-#include "platform/DirectoryTree.h"
-#include "platform/Drives.h"
 #include "support/Services.h"
 
 namespace neb::harness {

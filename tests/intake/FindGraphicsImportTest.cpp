@@ -3,8 +3,8 @@
 #include <ctime>
 
 #include "FindGraphicsHarness.h"
+#include "controls/fields/ToolBar.h"
 #include "intake/frmQuickShow.h"
-#include "platform/ToolBar.h"
 
 namespace neb {
 namespace {

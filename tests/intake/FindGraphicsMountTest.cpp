@@ -1,9 +1,9 @@
 // Find Graphics on media that come and go.
 #include <sys/stat.h>
 
-#include "FindGraphicsHarness.h"
+#include "albums/GraphicsSearch.h"
 #include "harness/MountedMemory.h"
-#include "intake/GraphicsSearch.h"
+#include "intake/FindGraphicsHarness.h"
 
 namespace neb {
 namespace {

@@ -1,8 +1,8 @@
 // The store of thumbnails: one row a slide, the thumbnail files that it reads, makes and saves,
 // its odd answers that windows rely on, and pictures that are missing or bad.
 #include "IntakeHarness.h"
+#include "controls/forms/frmLoadSlide.h"
 #include "intake/clsImageBuffer.h"
-#include "support/windows/frmLoadSlide.h"
 
 namespace neb {
 namespace {

@@ -5,10 +5,10 @@
 #include <QMimeData>
 
 #include "IntakeHarness.h"
+#include "controls/directories/DirectoryTree.h"
+#include "controls/fields/ToolBar.h"
 #include "intake/frmDirSelect.h"
 #include "intake/frmQuickShow.h"
-#include "platform/DirectoryTree.h"
-#include "platform/ToolBar.h"
 
 namespace neb {
 namespace {

@@ -1,8 +1,8 @@
 // What an import leaves in the album and on the disk, what it says, who hears of it, and what
 // happens when it cannot go on.
 #include "IntakeHarness.h"
+#include "controls/forms/frmProgress.h"
 #include "shell/Openers.h"
-#include "support/windows/frmProgress.h"
 
 namespace neb {
 namespace {

@@ -3,18 +3,18 @@
 #pragma once
 
 #include "WindowSteps.h"
+#include "controls/directories/DirectoryTree.h"
+#include "controls/forms/ScreenPointer.h"
+#include "controls/forms/frmLoading.h"
+#include "controls/grid/GridHarness.h"
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
 #include "harness/ScriptedBoxes.h"
 #include "harness/TempFolder.h"
 #include "intake/frmImportFilter.h"
 #include "pictures/ImgX.h"
-#include "platform/DirectoryTree.h"
-#include "platform/GridHarness.h"
 #include "settings/clsFileSystem.h"
 #include "settings/modNEBSlideShow.h"
-#include "support/windows/ScreenPointer.h"
-#include "support/windows/frmLoading.h"
 
 namespace neb::harness {
 

@@ -6,6 +6,7 @@
 
 #include "AllWindowsRig.h"
 #include "FindGraphicsHarness.h"
+#include "controls/picture/XShow.h"
 #include "intake/DirectoryPanel.h"
 #include "intake/frmAlbumDelete.h"
 #include "intake/frmAlbumRename.h"
@@ -14,7 +15,6 @@
 #include "intake/frmPicturePopup.h"
 #include "intake/frmQuickShow.h"
 #include "intake/modAlbumNames.h"
-#include "platform/XShow.h"
 #include "presentation/frmSlideShowProjector.h"
 #include "presentation/frmSoundRecorder.h"
 #include "sound/RecorderRig.h"

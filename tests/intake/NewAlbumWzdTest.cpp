@@ -4,9 +4,9 @@
 #include <QTreeView>
 
 #include "IntakeHarness.h"
+#include "controls/directories/DirectoryTree.h"
 #include "intake/DirectoryPanel.h"
 #include "intake/frmNewAlbumWzd1.h"
-#include "platform/DirectoryTree.h"
 #include "shell/Openers.h"
 
 namespace neb {

@@ -1,7 +1,7 @@
 // The picture preview: what closes it, what it says about a file it cannot open, its place.
 #include "IntakeHarness.h"
+#include "controls/picture/PictureView.h"
 #include "intake/frmPicturePopup.h"
-#include "platform/PictureView.h"
 
 namespace neb {
 namespace {

@@ -1,11 +1,11 @@
 // Quick Show: its checks in their order, the album and the show that it makes, that nothing stays
 // of a half-made one, and that the show runs when the window has gone.
 #include "IntakeHarness.h"
+#include "controls/forms/frmProgress.h"
+#include "controls/picture/XShow.h"
 #include "intake/frmQuickShow.h"
-#include "platform/XShow.h"
 #include "presentation/frmSlideShowProjector.h"
 #include "presentation/modSlideShows.h"
-#include "support/windows/frmProgress.h"
 
 namespace neb {
 namespace {

@@ -8,6 +8,7 @@
 
 #include "AllWindowsRig.h"
 #include "FindGraphicsHarness.h"
+#include "controls/fields/ToolBar.h"
 #include "harness/FolderState.h"
 #include "harness/WithoutPrivileges.h"
 #include "intake/DirectoryPanel.h"
@@ -16,7 +17,6 @@
 #include "intake/frmPicturePopup.h"
 #include "intake/frmQuickShow.h"
 #include "intake/modAlbumNames.h"
-#include "platform/ToolBar.h"
 
 namespace neb {
 namespace {

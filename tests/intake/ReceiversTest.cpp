@@ -2,11 +2,11 @@
 // makes it, what two windows of each kind on the album show afterwards, and that windows on another
 // album stay as they were. The changes are made by a user in the real windows.
 #include "AllWindowsRig.h"
+#include "controls/picture/XShow.h"
 #include "intake/frmAlbumDelete.h"
 #include "intake/frmAlbumRename.h"
 #include "intake/frmQuickShow.h"
 #include "intake/modAlbumNames.h"
-#include "platform/XShow.h"
 #include "presentation/frmSlideShowProjector.h"
 
 namespace neb {

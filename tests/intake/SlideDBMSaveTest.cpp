@@ -3,8 +3,8 @@
 #include <QFile>
 
 #include "SlideRig.h"
+#include "albums/SlideSave.h"
 #include "harness/WithoutPrivileges.h"
-#include "intake/SlideSave.h"
 
 namespace neb {
 namespace {

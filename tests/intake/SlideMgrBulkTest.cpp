@@ -1,11 +1,11 @@
 // The bulk slide manager by itself: what its grid shows, what saving and deleting do, and which
 // captions survive what.
 #include "BulkRig.h"
-#include "intake/BulkSlides.h"
+#include "albums/BulkSlides.h"
+#include "controls/forms/modTwips.h"
 #include "intake/frmPicturePopup.h"
 #include "support/modDEValidation.h"
 #include "support/modText.h"
-#include "support/modTwips.h"
 
 namespace neb {
 namespace {

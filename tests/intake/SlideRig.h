@@ -7,10 +7,10 @@
 #include <QStackedWidget>
 
 #include "IntakeHarness.h"
+#include "albums/modImport.h"
+#include "controls/picture/PictureView.h"
 #include "db/modAlbumFiles.h"
 #include "intake/frmSlideDBM.h"
-#include "intake/modImport.h"
-#include "platform/PictureView.h"
 
 namespace neb::harness {
 

@@ -11,11 +11,11 @@
 #include <QTest>
 #include <QTimer>
 
-#include "platform/FlexGrid.h"
+#include "controls/forms/Form.h"
+#include "controls/grid/FlexGrid.h"
 #include "shell/modBroadcast.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
-#include "support/windows/Form.h"
 
 namespace neb::harness {
 

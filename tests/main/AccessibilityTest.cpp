@@ -11,6 +11,8 @@
 #include "authoring/frmAlbumView.h"
 #include "authoring/frmSlideShowDBM.h"
 #include "authoring/frmSlideShowView.h"
+#include "controls/forms/frmLoading.h"
+#include "controls/forms/frmMsgBoxEx.h"
 #include "harness/TempFolder.h"
 #include "intake/frmAlbumDelete.h"
 #include "intake/frmAlbumRename.h"
@@ -28,8 +30,6 @@
 #include "settings/modNEBSlideShow.h"
 #include "shell/main/frmAbout.h"
 #include "shell/main/frmHelp.h"
-#include "support/windows/frmLoading.h"
-#include "support/windows/frmMsgBoxEx.h"
 
 namespace neb {
 namespace {

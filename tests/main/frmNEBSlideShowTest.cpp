@@ -18,6 +18,7 @@
 
 #include "MeasuredMachine.h"
 #include "authoring/frmSlideShowDBM.h"
+#include "controls/grid/FlexGrid.h"
 #include "db/clsDBEngine.h"
 #include "harness/ScriptedBoxes.h"
 #include "harness/TempFolder.h"
@@ -29,7 +30,6 @@
 #include "intake/frmQuickShow.h"
 #include "intake/frmSlideDBM.h"
 #include "intake/frmSlideMgrBulk.h"
-#include "platform/FlexGrid.h"
 #include "presentation/frmPreferences.h"
 #include "presentation/frmSlideShowProjector.h"
 #include "settings/modNEBSlideShow.h"

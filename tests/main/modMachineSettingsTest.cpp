@@ -3,14 +3,14 @@
 
 #include <gtest/gtest.h>
 
+#include "controls/forms/Form.h"
+#include "controls/forms/ScreenPointer.h"
+#include "controls/picture/XShow.h"
 #include "harness/HastyClock.h"
 #include "harness/ScriptedBoxes.h"
 #include "harness/TempFolder.h"
-#include "platform/XShow.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/files/modHostFiles.h"
-#include "support/windows/Form.h"
-#include "support/windows/ScreenPointer.h"
 
 namespace neb {
 namespace {

@@ -2,9 +2,9 @@
 
 #include <QImage>
 
-#include "presentation/CaptionFit.h"
 #include "presentation/CaptionLabel.h"
-#include "presentation/CaptionText.h"
+#include "show/CaptionFit.h"
+#include "show/CaptionText.h"
 
 namespace neb {
 namespace {

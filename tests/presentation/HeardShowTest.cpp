@@ -3,8 +3,8 @@
 #include <cmath>
 #include <cstring>
 
-#include "ProjectorRig.h"
 #include "harness/SoundFiles.h"
+#include "presentation/ProjectorRig.h"
 #include "settings/modNEBSlideShow.h"
 #include "sound/devices/SdlSoundDevices.h"
 #include "support/files/modHostFiles.h"

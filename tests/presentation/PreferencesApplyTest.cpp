@@ -1,6 +1,6 @@
 // Apply in the Preferences window: what it takes over and writes, what it refuses.
 #include "PreferencesRig.h"
-#include "presentation/ShowSettings.h"
+#include "show/ShowSettings.h"
 #include "support/Fault.h"
 
 namespace neb::test {

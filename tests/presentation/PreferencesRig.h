@@ -9,7 +9,7 @@
 #include <QTest>
 
 #include "ProjectorRig.h"
-#include "platform/FlexGrid.h"
+#include "controls/grid/FlexGrid.h"
 #include "presentation/EffectList.h"
 #include "presentation/frmPreferences.h"
 #include "settings/modNEBSlideShow.h"

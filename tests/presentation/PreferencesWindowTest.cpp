@@ -6,7 +6,7 @@
 
 #include "PreferencesRig.h"
 #include "harness/WithoutPrivileges.h"
-#include "presentation/ShowSettings.h"
+#include "show/ShowSettings.h"
 #include "support/Fault.h"
 
 namespace neb::test {

@@ -1,9 +1,9 @@
 // How a show ends: the place that is kept, and everything that comes back, faults included.
 #include "ProjectorRig.h"
 
+#include "controls/forms/ScreenPointer.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
-#include "support/windows/ScreenPointer.h"
 
 namespace neb::test {
 namespace {

@@ -7,14 +7,14 @@
 #include <QElapsedTimer>
 #include <QMutex>
 
+#include "controls/picture/XShow.h"
 #include "db/clsDBEngine.h"
 #include "harness/ScriptedBoxes.h"
 #include "harness/TempFolder.h"
-#include "platform/XShow.h"
 #include "presentation/CaptionLabel.h"
-#include "presentation/ShowSound.h"
 #include "presentation/frmSlideShowProjector.h"
 #include "presentation/modSlideShows.h"
+#include "show/ShowSound.h"
 #include "support/Services.h"
 
 namespace neb::test {

@@ -9,14 +9,14 @@
 #include <QTest>
 #include <QTimer>
 
+#include "controls/forms/ScreenPointer.h"
+#include "controls/picture/XShow.h"
 #include "harness/HastyClock.h"
 #include "harness/ScriptedBoxes.h"
 #include "harness/TempFolder.h"
-#include "platform/XShow.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
-#include "support/windows/ScreenPointer.h"
 
 namespace neb {
 namespace {

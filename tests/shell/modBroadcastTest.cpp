@@ -2,9 +2,9 @@
 
 #include <stdexcept>
 
+#include "controls/forms/TestForm.h"
 #include "shell/Openers.h"
 #include "support/Fault.h"
-#include "support/windows/TestForm.h"
 
 using namespace neb;
 using namespace neb::harness;

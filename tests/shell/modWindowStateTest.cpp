@@ -5,12 +5,12 @@
 #include <QMdiSubWindow>
 #include <QScreen>
 
+#include "controls/forms/TestForm.h"
+#include "controls/forms/modTwips.h"
 #include "harness/TempFolder.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
-#include "support/modTwips.h"
-#include "support/windows/TestForm.h"
 
 using namespace neb;
 using namespace neb::harness;

@@ -1,8 +1,8 @@
 #include "shell/main/DesktopServices.h"
 
 #include "InitAssets.h"
+#include "controls/picture/XShow.h"
 #include "pictures/ImgX.h"
-#include "platform/XShow.h"
 
 namespace neb {
 namespace {

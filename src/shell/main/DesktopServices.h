@@ -2,10 +2,10 @@
 // in place. The program's entry and the guided demonstration hold one.
 #pragma once
 
-#include "platform/Drives.h"
+#include "controls/directories/Drives.h"
+#include "controls/forms/DesktopBoxes.h"
 #include "platform/ScreenBlanking.h"
 #include "sound/devices/SdlSoundDevices.h"
-#include "support/windows/DesktopBoxes.h"
 
 namespace neb {
 

@@ -5,7 +5,7 @@
 #include <QMenu>
 #include <QMenuBar>
 
-#include "platform/Icons.h"
+#include "controls/fields/Icons.h"
 
 namespace neb {
 namespace {

@@ -2,7 +2,7 @@
 // system information tool.
 #pragma once
 
-#include "support/windows/Form.h"
+#include "controls/forms/Form.h"
 
 namespace neb {
 

@@ -1,7 +1,7 @@
 // Shows the program's help, a text with links that lies beside the program.
 #pragma once
 
-#include "support/windows/Form.h"
+#include "controls/forms/Form.h"
 
 QT_BEGIN_NAMESPACE
 class QTextBrowser;

@@ -5,10 +5,12 @@
 #include <QScreen>
 #include <QStatusBar>
 
+#include "controls/forms/Form.h"
+#include "controls/forms/ScreenPointer.h"
+#include "controls/grid/FlexGrid.h"
 #include "db/clsDBEngine.h"
 #include "db/records/modJournal.h"
 #include "intake/clsImageBuffer.h"
-#include "platform/FlexGrid.h"
 #include "settings/modNEBSlideShow.h"
 #include "shell/main/MainMenu.h"
 #include "shell/main/Workspace.h"
@@ -16,8 +18,6 @@
 #include "support/Fault.h"
 #include "support/Services.h"
 #include "support/files/modHostFiles.h"
-#include "support/windows/Form.h"
-#include "support/windows/ScreenPointer.h"
 
 namespace neb {
 namespace {

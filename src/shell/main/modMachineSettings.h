@@ -3,8 +3,8 @@
 
 #include <functional>
 
-#include "presentation/SpeedLadder.h"
 #include "settings/clsSettings.h"
+#include "show/SpeedLadder.h"
 
 namespace neb {
 

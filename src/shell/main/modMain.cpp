@@ -4,6 +4,8 @@
 #include <QTimer>
 #include <cstdio>
 
+#include "controls/forms/Form.h"
+#include "controls/forms/NebApplication.h"
 #include "db/modDatabaseLock.h"
 #include "settings/modNEBSlideShow.h"
 #include "shell/main/CommandLine.h"
@@ -13,8 +15,6 @@
 #include "support/Fault.h"
 #include "support/Services.h"
 #include "support/files/modHostFiles.h"
-#include "support/windows/Form.h"
-#include "support/windows/NebApplication.h"
 
 namespace neb {
 namespace {

@@ -1,0 +1,16 @@
+// The files of a deleted album go. Used by the window that deletes albums.
+#pragma once
+
+#include <QString>
+#include <cstdint>
+#include <functional>
+
+namespace neb {
+
+// Takes the sounds, the pictures and the folders of an album off the disk. What cannot be removed,
+// and what is not the program's, stays with its folder. A link is removed, what it leads to is not.
+// Between is called all the while.
+void DeleteAlbumFiles(const QString& DBPath, std::int32_t AlbumID,
+                      const std::function<void()>& Between);
+
+}  // namespace neb

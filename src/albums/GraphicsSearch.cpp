@@ -1,0 +1,251 @@
+#include "albums/GraphicsSearch.h"
+
+#include <QDateTime>
+#include <atomic>
+#include <condition_variable>
+#include <ctime>
+#include <deque>
+#include <mutex>
+#include <thread>
+
+#include "support/files/modHostFilesMask.h"
+#include "support/files/modHostFilesWalk.h"
+#include "support/modFUFL.h"
+#include "support/modNumbers.h"
+#include "support/work/LeftThread.h"
+
+namespace neb {
+namespace {
+
+// Directories found and not yet shown, at most: memory stays small however slow the window is.
+constexpr size_t MostWaiting = 512;
+
+bool IsMissing(const std::error_code& Error) {
+    return Error == std::errc::no_such_file_or_directory || Error == std::errc::not_a_directory;
+}
+
+// A directory that the walk is in, and the medium on which it lay when the walk came to it.
+struct Level {
+    QString Path, Real;
+    std::optional<std::uint64_t> Medium;
+};
+
+// Whether a medium has been taken away from under the walk. It has when a directory lies on
+// another one by now; one that is gone may have been deleted, unless all that is searched or a
+// whole medium went with it.
+bool HasLostMedium(const std::vector<Level>& WayDown) {
+    std::optional<std::uint64_t> Above;
+    for (const Level& Each : WayDown) {
+        const auto Now = MediumOf(Each.Path);
+        if (!Now) return Each.Medium && Each.Medium != Above;
+        if (Now != Each.Medium) return true;
+        Above = Each.Medium;
+    }
+    return false;
+}
+
+// The extensions, as the names bear them, of the selected types.
+QStringList ExtensionsOf(const QStringList& Types) {
+    QStringList All;
+    for (const QString& Type : Types)
+        for (const QString& Each : Type.split(u'/')) All.append(u'.' + Each);
+    return All;
+}
+
+}  // namespace
+
+const QStringList& GraphicTypes() {
+    static const QStringList Types{"BMP", "EMF", "JPEG/JPG", "PCD", "PCX",  "PNG",
+                                   "PSD", "TGA", "TIFF/TIF", "TLA", "WBMP", "WMF"};
+    return Types;
+}
+
+bool IsSelectedType(const QString& Extension, const QStringList& Selected) {
+    return ExtensionsOf(Selected).contains(Extension);
+}
+
+QString NormalFilter(const QString& Text) {
+    if (Text.trimmed().isEmpty()) return QStringLiteral("*.*");
+    if (Text.endsWith(u'.')) return Text + u'*';
+    if (Text.contains(u'.') || Text.endsWith(u'*')) return Text;
+    return Text + QStringLiteral("*.*");
+}
+
+QString SizeText(qint64 Bytes) {
+    return Format(static_cast<double>(Bytes) / 1024, "###,##0.0") + QStringLiteral(" KB");
+}
+
+QString DateText(qint64 SecondsSince1970) {
+    const std::time_t Moment = SecondsSince1970;
+    std::tm Local = {};
+#ifdef _WIN32
+    if (localtime_s(&Local, &Moment) != 0) return {};
+#else
+    if (!localtime_r(&Moment, &Local)) return {};
+#endif
+    char Text[64];
+    const size_t Length = std::strftime(Text, sizeof Text, "%m/%d/%Y %I:%M ", &Local);
+    return QString::fromLatin1(Text, static_cast<qsizetype>(Length)) +
+           (Local.tm_hour < 12 ? QStringLiteral("AM") : QStringLiteral("PM"));
+}
+
+struct GraphicsSearch::Shared {
+    std::mutex Mutex;
+    std::condition_variable Changed;
+    std::deque<SearchStep> Steps;
+    bool AtEnd = false;
+    std::atomic<bool> Abandoned = false;
+};
+
+// What the thread does; it owns all that it uses.
+class GraphicsSearch::Walk {
+  public:
+    Walk(std::shared_ptr<Shared> To, const QString& Filter, const QStringList& Types, Lister List)
+        : mTo(std::move(To)),
+          mMask(Filter),
+          mExtensions(ExtensionsOf(Types)),
+          mList(std::move(List)) {}
+
+    void Run(const QString& Directory) {
+        if (FolderExists(Directory)) Enter(Directory, RealDir(Directory), false);
+        const std::lock_guard Lock(mTo->Mutex);
+        mTo->AtEnd = true;
+        mTo->Changed.notify_all();
+    }
+
+  private:
+    // False when the walk has ended.
+    bool Enter(const QString& Directory, const QString& Real, bool IsSub) {
+        if (Real.isEmpty() || IsOnWayDown(Real)) return true;
+        const QString Path = WithSeparator(Directory);
+        mWayDown.push_back({Path, Real, MediumOf(Path)});
+        const bool GoesOn = Search({Directory, IsSub, {}, {}, {}});
+        mWayDown.pop_back();
+        return GoesOn;
+    }
+
+    bool Search(SearchStep Step) {
+        const std::vector<DirEntry> Entries = mList(mWayDown.back().Path, Step.Error);
+        if (IsMissing(Step.Error)) {
+            if (!HasLostMedium(mWayDown)) return true;  // gone since it was seen
+            Step.Error = std::make_error_code(std::errc::no_such_device);
+        }
+        std::vector<DirEntry> SubDirectories;
+        if (!TakeEntries(Entries, Step, SubDirectories)) return false;
+        const bool Failed = static_cast<bool>(Step.Error);
+        return HandOver(std::move(Step)) && !Failed && EnterAll(SubDirectories);
+    }
+
+    bool IsOnWayDown(const QString& Real) const {
+        return std::any_of(mWayDown.begin(), mWayDown.end(),
+                           [&](const Level& Each) { return Each.Real == Real; });
+    }
+
+    // False when nobody wants them any more.
+    bool TakeEntries(const std::vector<DirEntry>& Entries, SearchStep& Step,
+                     std::vector<DirEntry>& SubDirectories) {
+        const QString Path = mWayDown.back().Path;
+        QString Passed;
+        for (const DirEntry& Entry : Entries) {
+            if (mTo->Abandoned) return false;
+            if (Entry.IsFolder)
+                SubDirectories.push_back(Entry);
+            else if (IsWanted(Entry.Name) && !TakeFile(Path, Entry.Name, Step) && Passed.isEmpty())
+                Passed = Entry.Name;
+        }
+        if (!Entries.empty()) Step.Entry = Entries.back().Name;
+        if (Step.Error || Passed.isEmpty() || !HasLostMedium(mWayDown)) return true;
+        Step.Entry = Passed;
+        Step.Error = std::make_error_code(std::errc::no_such_device);
+        return true;
+    }
+
+    bool EnterAll(const std::vector<DirEntry>& Entries) {
+        const QString Path = mWayDown.back().Path;
+        const QString Real = mWayDown.back().Real;
+        return std::all_of(Entries.begin(), Entries.end(), [&](const DirEntry& Entry) {
+            const QString Sub = Path + Entry.Name;
+            return Enter(Sub, Entry.IsLink ? RealDir(Sub) : WithSeparator(Real) + Entry.Name, true);
+        });
+    }
+
+    bool IsWanted(const QString& Name) const {
+        return mExtensions.contains(GetFileExt(Name).toUpper()) && mMask.Matches(Name);
+    }
+
+    // False when it cannot be opened, and is passed over.
+    bool TakeFile(const QString& Path, const QString& Name, SearchStep& Step) {
+        const std::optional<FileFacts> Facts = ReadableFileFacts(Path + Name);
+        if (Facts)
+            Step.Files.push_back({Name, Path, SizeText(Facts->Size), DateOf(Facts->Changed)});
+        return Facts.has_value();
+    }
+
+    // The pictures of a directory often come from one minute.
+    const QString& DateOf(qint64 SecondsSince1970) {
+        const qint64 Minute = (SecondsSince1970 - (SecondsSince1970 < 0 ? 59 : 0)) / 60;
+        if (mMinute != Minute) {
+            mMinute = Minute;
+            mDate = DateText(SecondsSince1970);
+        }
+        return mDate;
+    }
+
+    // Waits while enough is waiting already. False when nobody wants it any more.
+    bool HandOver(SearchStep Step) {
+        std::unique_lock Lock(mTo->Mutex);
+        mTo->Changed.wait(Lock,
+                          [this] { return mTo->Abandoned || mTo->Steps.size() < MostWaiting; });
+        if (mTo->Abandoned) return false;
+        mTo->Steps.push_back(std::move(Step));
+        mTo->Changed.notify_all();
+        return true;
+    }
+
+    std::shared_ptr<Shared> mTo;
+    NameMask mMask;
+    QStringList mExtensions;
+    Lister mList;
+    std::vector<Level> mWayDown;    // the directories above, and the present one
+    std::optional<qint64> mMinute;  // since the start of 1970, the one that mDate tells
+    QString mDate;
+};
+
+GraphicsSearch::GraphicsSearch(const QString& Directory, const QString& Filter,
+                               const QStringList& Types, Lister List)
+    : mShared(std::make_shared<Shared>()) {
+    if (!List)
+        List = [](const QString& Dir, std::error_code& Error) { return ListDir(Dir, Error); };
+    const auto Work = std::make_shared<Walk>(mShared, Filter, Types, std::move(List));
+    mThread = std::make_unique<LeftThread>([Work, Directory] { Work->Run(Directory); });
+}
+
+// Its thread may be in the middle of a large directory on a slow medium. Who cancels the search
+// does not wait for that: another thread does.
+GraphicsSearch::~GraphicsSearch() {
+    const std::lock_guard Lock(mShared->Mutex);
+    mShared->Abandoned = true;
+    mShared->Changed.notify_all();
+    std::thread([Left = std::move(mThread)] {}).detach();
+}
+
+bool GraphicsSearch::Wait(int Milliseconds) {
+    std::unique_lock Lock(mShared->Mutex);
+    return mShared->Changed.wait_for(Lock, std::chrono::milliseconds(Milliseconds),
+                                     [this] { return mShared->AtEnd || !mShared->Steps.empty(); });
+}
+
+bool GraphicsSearch::AtEnd() const {
+    const std::lock_guard Lock(mShared->Mutex);
+    return mShared->AtEnd && mShared->Steps.empty();
+}
+
+SearchStep GraphicsSearch::Take() {
+    const std::lock_guard Lock(mShared->Mutex);
+    SearchStep Next = std::move(mShared->Steps.front());
+    mShared->Steps.pop_front();
+    mShared->Changed.notify_all();
+    return Next;
+}
+
+}  // namespace neb

@@ -1,0 +1,113 @@
+#include "albums/modPictureFiles.h"
+
+#include "settings/modNEBSlideShow.h"
+#include "support/Services.h"
+#include "support/files/modHostFiles.h"
+#include "support/files/modHostFilesWalk.h"
+#include "support/modFUFL.h"
+
+namespace neb {
+namespace {
+
+constexpr double YieldMs = 40;
+
+class PictureWalk {
+  public:
+    PictureWalk(bool Recurse, const WalkPoll& Poll, QStringList& Found)
+        : mRecurse(Recurse), mPoll(Poll), mFound(Found) {}
+
+    // False when the walk was ended.
+    bool Walk(const QString& Directory) {
+        const QString Real = RealDir(Directory);
+        if (Real.isEmpty() || mWayDown.contains(Real)) return true;
+        mWayDown.append(Real);
+        const bool GoesOn = WalkEntries(WithSeparator(Directory));
+        mWayDown.removeLast();
+        return GoesOn;
+    }
+
+  private:
+    bool WalkEntries(const QString& Directory) {
+        QStringList SubDirectories;
+        for (const DirEntry& Entry : ListDir(Directory)) {
+            if (!mPoll()) return false;
+            const QString Path = Directory + Entry.Name;
+            if (Entry.IsFolder)
+                SubDirectories.append(Path);
+            else if (IsPictureName(Entry.Name))
+                mFound.append(Path);
+        }
+        return !mRecurse || std::all_of(SubDirectories.begin(), SubDirectories.end(),
+                                        [this](const QString& Path) { return Walk(Path); });
+    }
+
+    bool mRecurse;
+    const WalkPoll& mPoll;
+    QStringList& mFound;
+    QStringList mWayDown;  // the real directories above the present one
+};
+
+const QStringList& Extensions() {
+    static const QStringList All = {".BMP", ".EMF", ".JPEG", ".JPG",  ".PCD", ".PCX",  ".PNG",
+                                    ".PSD", ".TGA", ".TIF",  ".TIFF", ".TLA", ".WBMP", ".WMF"};
+    return All;
+}
+
+char Upper(char Letter) {
+    return Letter >= 'a' && Letter <= 'z' ? static_cast<char>(Letter - 'a' + 'A') : Letter;
+}
+
+// The same as IsPictureName for a name in the host's encoding, without making a text of each of
+// thousands of names. Letters that are not plain ones may have plain capitals.
+bool IsHostPictureName(std::string_view Name) {
+    const size_t Dot = Name.rfind('.');
+    if (Dot == Name.npos) return false;
+    const std::string_view Ending = Name.substr(Dot);
+    if (std::any_of(Ending.begin(), Ending.end(),
+                    [](char Each) { return static_cast<unsigned char>(Each) > 127; }))
+        return IsPictureName(QString::fromLocal8Bit(Ending));
+    const auto IsThis = [&](const QString& Extension) {
+        return std::equal(Ending.begin(), Ending.end(), Extension.begin(), Extension.end(),
+                          [](char A, QChar B) { return QLatin1Char(Upper(A)) == B; });
+    };
+    return std::any_of(Extensions().begin(), Extensions().end(), IsThis);
+}
+
+}  // namespace
+
+WalkPoll YieldingPoll(std::function<bool()> GoesOn) {
+    double Last = TheServices().Time->Ticks();
+    return [Last, GoesOn]() mutable {
+        const double Now = TheServices().Time->Ticks();
+        if (Now - Last < YieldMs) return true;
+        DoEvents();
+        Last = TheServices().Time->Ticks();
+        return GoesOn();
+    };
+}
+
+bool IsPictureName(const QString& Name) {
+    return Extensions().contains(GetFileExt(Name).toUpper());
+}
+
+bool IsReservedForAlbums(const QString& Path, const QString& Root) {
+    if (!Path.startsWith(Root + QStringLiteral("Albums/"))) return false;
+    MsgBox(QStringLiteral("This directory is reserved for Albums.  You cannot import from it."));
+    return true;
+}
+
+QStringList ScanDirectory(const QString& Directory, bool Recurse, const WalkPoll& Poll) {
+    QStringList Found;
+    PictureWalk(Recurse, Poll, Found).Walk(Directory);
+    return Found;
+}
+
+std::int32_t CountGraphicFiles(const QString& Directory, bool Recurse, RunningCount& Count) {
+    const FileWalk Walk{.Wants = &IsHostPictureName,
+                        .Found = [&] { ++Count.SoFar; },
+                        .GoesOn = [&] { return !Count.Stop; }};
+    WalkFiles(Directory, Recurse, Walk);
+    return Count.SoFar;
+}
+
+}  // namespace neb

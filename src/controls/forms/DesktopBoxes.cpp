@@ -1,0 +1,88 @@
+#include "controls/forms/DesktopBoxes.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPointer>
+
+#include "controls/forms/FocusReturn.h"
+#include "controls/forms/ScreenPointer.h"
+
+namespace neb {
+namespace {
+
+QMessageBox::Icon BoxIconFor(BoxIcon Icon) {
+    switch (Icon) {
+        case BoxIcon::Information:
+            return QMessageBox::Information;
+        case BoxIcon::Question:
+            return QMessageBox::Question;
+        case BoxIcon::Critical:
+            return QMessageBox::Critical;
+        case BoxIcon::Plain:
+            break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+const QString AllFiles = QStringLiteral("*.*");
+
+// "Name (*.a;*.b)|*.a;*.b|..." as the toolkit wants it: "Name (*.a *.b);;...".
+QString ToolkitFilters(const QString& Filters) {
+    QStringList Out;
+    const QStringList Pieces = Filters.split(u'|', Qt::SkipEmptyParts);
+    for (qsizetype I = 0; I + 1 < Pieces.size(); I += 2) {
+        const QString Name = Pieces[I].section(u'(', 0, 0).trimmed();
+        QStringList Masks = QString(Pieces[I + 1]).split(u';');
+        Masks.replaceInStrings(AllFiles, QStringLiteral("*"));  // names without a dot as well
+        Out << Name + QStringLiteral(" (") + Masks.join(u' ') + u')';
+    }
+    return Out.join(QStringLiteral(";;"));
+}
+
+void Fill(QMessageBox& Box, const BoxRequest& Request) {
+    Box.setWindowTitle(Request.Title.isEmpty() ? QApplication::applicationDisplayName()
+                                               : Request.Title);
+    Box.setTextFormat(Qt::PlainText);
+    Box.setText(Request.Text);
+    Box.setIcon(BoxIconFor(Request.Icon));
+    if (Request.Buttons == BoxButtons::Ok) {
+        Box.setStandardButtons(QMessageBox::Ok);
+        return;
+    }
+    Box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+    Box.setDefaultButton(QMessageBox::Yes);
+    Box.setEscapeButton(QMessageBox::No);
+}
+
+}  // namespace
+
+BoxAnswer DesktopBoxes::Show(const BoxRequest& Request) {
+    const PointerScope Normal(Pointer::Default);
+    // The window below may go while the box is up, and takes the box with it.
+    const QPointer<QMessageBox> Box = new QMessageBox(QApplication::activeWindow());
+    Fill(*Box, Request);
+    const int Button = Box->exec();
+    delete Box;
+    AwaitFocus();
+    if (Request.Buttons == BoxButtons::Ok) return BoxAnswer::Ok;
+    return Button == QMessageBox::Yes ? BoxAnswer::Yes : BoxAnswer::No;
+}
+
+QString DesktopFileDialogs::OpenFile(const QString& Title, const QString& StartDir,
+                                     const QString& Filters) {
+    return QFileDialog::getOpenFileName(QApplication::activeWindow(), Title, StartDir,
+                                        ToolkitFilters(Filters));
+}
+
+QString DesktopFileDialogs::SaveFile(const QString& Title, const QString& StartPath,
+                                     const QString& Filters) {
+    return QFileDialog::getSaveFileName(QApplication::activeWindow(), Title, StartPath,
+                                        ToolkitFilters(Filters));
+}
+
+QString DesktopFileDialogs::ChooseFolder(const QString& Title, const QString& StartDir) {
+    return QFileDialog::getExistingDirectory(QApplication::activeWindow(), Title, StartDir);
+}
+
+}  // namespace neb

@@ -1,0 +1,152 @@
+#include "controls/forms/Form.h"
+
+#include <QCloseEvent>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+
+#include "controls/forms/FocusReturn.h"
+
+namespace neb {
+namespace {
+
+std::vector<std::shared_ptr<Form>>& Registry() {
+    static std::vector<std::shared_ptr<Form>> Forms;
+    return Forms;
+}
+
+void Unregister(const Form* Gone) {
+    std::erase_if(Registry(), [Gone](const auto& Held) { return Held.get() == Gone; });
+}
+
+}  // namespace
+
+std::vector<std::shared_ptr<Form>> LoadedForms() {
+    return Registry();
+}
+
+Form::Form() {
+    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+}
+
+void Form::Load() {
+    if (mState != State::Created) return;
+    mState = State::Loaded;
+    Registry().push_back(shared_from_this());
+    try {
+        Form_Load();
+    } catch (...) {
+        Abandon();
+        throw;
+    }
+}
+
+void Form::ShowModal() {
+    const auto Held = shared_from_this();
+    Load();
+    if (!IsLoaded()) return;
+    mModal = true;
+    exec();
+    mModal = false;
+    AwaitFocus();
+    if (mRaised) std::rethrow_exception(std::exchange(mRaised, nullptr));
+}
+
+void Form::ShowModeless() {
+    const auto Held = shared_from_this();
+    Load();
+    if (!IsLoaded()) return;
+    QWidget* Frame = qobject_cast<QMdiSubWindow*>(parentWidget());
+    if (Frame) Frame->show();
+    show();
+}
+
+bool Form::Unload() {
+    if (mState != State::Loaded) return mState != State::Unloading;
+    const auto Held = shared_from_this();
+    if (!AgreesToUnload()) return false;
+    Finish();
+    return true;
+}
+
+bool Form::AgreesToUnload() {
+    mState = State::Unloading;
+    try {
+        if (Form_Unload()) return true;
+    } catch (...) {
+        mState = State::Loaded;
+        throw;
+    }
+    mState = State::Loaded;
+    return false;
+}
+
+void Form::Finish() {
+    mState = State::Unloaded;
+    LeaveFrame();
+    done(0);
+    Unregister(this);
+}
+
+// After a fault the window goes even if it would rather stay: nobody could close it any more, and
+// the fault that ended it is the one to tell.
+void Form::Abandon() {
+    const auto Held = shared_from_this();
+    try {
+        Unload();
+    } catch (const std::exception&) {
+    }
+    if (mState == State::Loaded) Finish();
+}
+
+// A child of the main window leaves its frame behind, which then goes.
+void Form::LeaveFrame() {
+    auto* Frame = qobject_cast<QMdiSubWindow*>(parentWidget());
+    if (!Frame) return;
+    hide();
+    Frame->setWidget(nullptr);
+    setParent(nullptr);
+    if (QMdiArea* Area = Frame->mdiArea()) Area->removeSubWindow(Frame);
+    Frame->hide();
+    Frame->deleteLater();
+}
+
+void Form::reject() {
+    if (!qobject_cast<QMdiSubWindow*>(parentWidget())) CloseRequested();
+}
+
+void Form::closeEvent(QCloseEvent* Event) {
+    CloseRequested();
+    Event->setAccepted(mState == State::Unloaded || mState == State::Created);
+}
+
+// Platforms without a window manager report no activation by themselves.
+void Form::showEvent(QShowEvent* Event) {
+    QDialog::showEvent(Event);
+    ActivateLater();
+}
+
+bool Form::event(QEvent* Event) {
+    const bool Handled = QDialog::event(Event);
+    if (Event->type() == QEvent::WindowActivate) ActivateLater();
+    return Handled;
+}
+
+// Some platforms report it from inside the showing: work that ended there would unload the window
+// before the modal wait has begun, which would then never end.
+void Form::ActivateLater() {
+    QMetaObject::invokeMethod(this, &Form::Activate, Qt::QueuedConnection);
+}
+
+void Form::Activate() {
+    if (!IsLoaded() || !isVisible()) return;
+    const auto Held = shared_from_this();
+    try {
+        Form_Activate();
+    } catch (...) {
+        if (!mModal) throw;
+        mRaised = std::current_exception();
+        Abandon();
+    }
+}
+
+}  // namespace neb

@@ -1,0 +1,44 @@
+// The window over work that is not to be stopped, such as an import: a bar, no buttons.
+#pragma once
+
+#include "controls/forms/Form.h"
+#include "controls/forms/PaintRate.h"
+
+QT_BEGIN_NAMESPACE
+class QProgressBar;
+QT_END_NAMESPACE
+
+namespace neb {
+
+namespace Ui {
+class frmProgress;
+}
+class ProgressParent;
+
+class frmProgress : public Form {
+    Q_OBJECT
+
+  public:
+    frmProgress();
+    ~frmProgress() override;
+
+    void ClearParent() { mParent = nullptr; }
+    // Shows the window over the parent's StartOperation; returns after it has closed.
+    void ShowProgressMeter(ProgressParent& Parent);
+    QProgressBar* pgbLoadingProgress() const;
+    // Brings the screen up to date, not more often than a screen can show.
+    void Refresh();
+
+  protected:
+    void Form_Activate() override;
+    bool Form_Unload() override;
+    void CloseRequested() override {}
+
+  private:
+    std::unique_ptr<Ui::frmProgress> mUi;
+    bool mActivated = false;
+    ProgressParent* mParent = nullptr;
+    PaintRate mPaintRate;
+};
+
+}  // namespace neb

@@ -1,0 +1,141 @@
+#include "show/PreferencesState.h"
+
+#include <cmath>
+
+#include "settings/clsSettings.h"
+#include "show/ShowSettings.h"
+#include "support/FlagText.h"
+#include "support/modNumbers.h"
+
+namespace neb {
+namespace {
+
+constexpr std::int32_t DefaultTimeout = 20;
+constexpr double LeastTimeout = 4;
+constexpr int LastEffect = EffectPlaces;
+
+// The whole text as a number; a decimal point in every country, as in the settings file.
+std::optional<double> NumberIn(const QString& Text) {
+    bool IsNumber = false;
+    const double Value = Text.trimmed().toDouble(&IsNumber);
+    if (!IsNumber || !std::isfinite(Value)) return std::nullopt;
+    return Value;
+}
+
+bool IsIntegerWithin(const QString& Cell, double Least, double Most) {
+    const QString Text = Cell.trimmed();
+    QString Message;
+    return !Text.isEmpty() && IsNumericText(Text, Message, false) && Val(Text) >= Least &&
+           Val(Text) <= Most;
+}
+
+std::optional<EntryProblem> CheckTimeout(const QString& Text) {
+    const auto Refused = [](const char* Message) {
+        return EntryProblem{EntryProblem::Field::Timeout, 0, QString::fromLatin1(Message)};
+    };
+    const std::optional<double> Value = NumberIn(Text);
+    if (!Value) return Refused("The Slide Timeout must be numeric.");
+    if (*Value < LeastTimeout) return Refused("The Slide Timeout must be >= 4 seconds.");
+    return std::nullopt;
+}
+
+void PutHead(clsSettings& Settings, const char* Key, const QString& Value) {
+    Settings.PutValue({}, QString::fromLatin1(Key), Value);
+}
+
+void PutHead(clsSettings& Settings, const char* Key, std::int32_t Value) {
+    PutHead(Settings, Key, QString::number(Value));
+}
+
+void PutSpeeds(clsSettings& Settings, const EffectSettings& Effects) {
+    PutHead(Settings, "DelayH", Effects.DelayH);
+    PutHead(Settings, "DelayM", Effects.DelayM);
+    PutHead(Settings, "DelayL", Effects.DelayL);
+    PutHead(Settings, "StepH", Effects.StepH);
+    PutHead(Settings, "StepM", Effects.StepM);
+    PutHead(Settings, "StepL", Effects.StepL);
+}
+
+}  // namespace
+
+PreferencesState ReadPreferences(const clsSettings& Settings) {
+    PreferencesState Read;
+    const ActiveShow Active = ReadActiveShow(Settings);
+    Read.AlbumID = Active.AlbumID;
+    Read.SlideShowID = Active.SlideShowID;
+    Read.NextSlideSeq = std::max(0, ReadNextSlideSeq(Settings));
+    Read.SlideTimeout = ReadSlideTimeout(Settings, DefaultTimeout);
+    Read.Effects = ReadEffectSettings(Settings, 1);
+    for (std::int32_t Effect = 0; Effect <= LastEffect; ++Effect)
+        Read.EffectSelected[static_cast<size_t>(Effect)] = ReadEffectSelected(Settings, Effect);
+    Read.EffectLevels.fill(1);
+    return Read;
+}
+
+void PutPreferences(clsSettings& Settings, const PreferencesState& State) {
+    PutHead(Settings, "ActiveAlbum", State.AlbumID);
+    PutHead(Settings, "ActiveSlideShow", State.SlideShowID);
+    PutHead(Settings, "NextSlideSeq", State.NextSlideSeq);
+    PutHead(Settings, "Timeout", ShortestDecimal(State.SlideTimeout));
+    PutHead(Settings, "UseEffectLevel", FlagText(State.Effects.UseEffectLevel));
+    PutHead(Settings, "MaxEffectLevel", State.Effects.MaxEffectLevel);
+    for (std::int32_t Effect = 0; Effect <= LastEffect; ++Effect)
+        PutEffectSelected(Settings, Effect, State.EffectSelected[static_cast<size_t>(Effect)]);
+    PutSpeeds(Settings, State.Effects);
+}
+
+std::optional<EntryProblem> CheckSpeed(const SpeedEntry& Entry, int Level) {
+    using Field = EntryProblem::Field;
+    if (!IsIntegerWithin(Entry.Delay, 0, 1000))
+        return EntryProblem{
+            Field::Delay, Level,
+            QStringLiteral("You must enter an integer from 0 to 1000 for the delay.")};
+    if (!IsIntegerWithin(Entry.Step, 1, 100))
+        return EntryProblem{
+            Field::Step, Level,
+            QStringLiteral("You must enter an integer from 1 to 100 for the step.")};
+    return std::nullopt;
+}
+
+EffectSpeed SpeedOf(const SpeedEntry& Entry) {
+    return {CInt(Val(Entry.Step.trimmed())), CInt(Val(Entry.Delay.trimmed()))};
+}
+
+std::optional<EntryProblem> CheckEntries(const PreferencesEntries& Entries) {
+    auto Problem = CheckTimeout(Entries.SlideTimeout);
+    for (int Level = 1; !Problem && Level <= std::ssize(Entries.Speeds); ++Level)
+        Problem = CheckSpeed(Entries.Speeds[Level - 1], Level);
+    return Problem;
+}
+
+void TakeEntries(PreferencesState& State, const PreferencesEntries& Entries) {
+    for (size_t Row = 0; Row < std::size(EffectLevelRows); ++Row) {
+        const EffectSpeed Speed = SpeedOf(Entries.Speeds[Row]);
+        State.Effects.*EffectLevelRows[Row].Step = Speed.Step;
+        State.Effects.*EffectLevelRows[Row].Delay = Speed.Delay;
+    }
+    State.AlbumID = Entries.Album ? Entries.Album->ID : 0;
+    State.AlbumName = Entries.Album ? Entries.Album->Name : QString();
+    if (Entries.Album) State.SlideShowID = Entries.SlideShow ? Entries.SlideShow->ID : 0;
+    State.SlideTimeout = NumberIn(Entries.SlideTimeout).value_or(0);
+    if (!(State.SlideTimeout > 0)) State.SlideTimeout = DefaultTimeout;
+    State.NextSlideSeq = std::max(0, CInt(Val(Entries.NextSlide)));
+    State.Effects.MaxEffectLevel = Entries.MaxEffectLevel;
+    State.Effects.UseEffectLevel = Entries.UseEffectLevel;
+    for (const PreferencesEntries::Flag& Each : Entries.Effects)
+        State.EffectSelected.at(static_cast<size_t>(Each.Effect)) = Each.Selected;
+}
+
+void FilterTimeoutKey(const EntryState& Field, std::int16_t& KeyAscii) {
+    constexpr std::int16_t Backspace = 8, Point = '.';
+    const bool Digit = KeyAscii >= '0' && KeyAscii <= '9';
+    const bool FirstPoint = KeyAscii == Point && !Field.Text.contains(u'.');
+    if (!Digit && !FirstPoint && KeyAscii != Backspace) KeyAscii = 0;
+}
+
+QString PreviewPictureAfter(const QString& Last) {
+    const QString First = QStringLiteral("SpeedTest1.bmp");
+    return Last == First ? QStringLiteral("SpeedTest2.bmp") : First;
+}
+
+}  // namespace neb

@@ -1,0 +1,93 @@
+// What preferences hold, and the rules for it: how it is read from the settings file, what a user
+// may enter, and how it is written back. The window shows it and asks for every decision here.
+#pragma once
+
+#include <QString>
+#include <optional>
+#include <vector>
+
+#include "show/EffectChooser.h"
+#include "support/modDEValidation.h"
+
+namespace neb {
+
+class clsSettings;
+
+struct PreferencesState {
+    std::int32_t AlbumID = 0;  // of the active show; 0: none
+    QString AlbumName;
+    std::int32_t SlideShowID = 0;  // 0: none
+    std::int32_t NextSlideSeq = 0;
+    double SlideTimeout = 20;  // seconds
+    EffectSettings Effects;
+    EffectArray<bool> EffectSelected{};        // numbers 0 to 127
+    EffectArray<std::uint8_t> EffectLevels{};  // numbers 0 to 127; 1 lite, 2 normal, 3 intense
+};
+
+// All effect levels are 1 until the database has been asked.
+PreferencesState ReadPreferences(const clsSettings& Settings);
+// Puts every key, in the order of the file. The caller saves.
+void PutPreferences(clsSettings& Settings, const PreferencesState& State);
+
+// The effect levels 1 to 3 by name, and where their speed lies.
+struct EffectLevelRow {
+    const char* Name;
+    std::int32_t EffectSettings::*Step;   // percent
+    std::int32_t EffectSettings::*Delay;  // 1/10 ms
+};
+constexpr EffectLevelRow EffectLevelRows[] = {
+    {"Lite", &EffectSettings::StepL, &EffectSettings::DelayL},
+    {"Normal", &EffectSettings::StepM, &EffectSettings::DelayM},
+    {"Intense", &EffectSettings::StepH, &EffectSettings::DelayH},
+};
+
+// The cells of one level as they stand on the screen.
+struct SpeedEntry {
+    QString Step, Delay;
+};
+struct EffectSpeed {
+    std::int32_t Step = 0;   // 1 to 100
+    std::int32_t Delay = 0;  // 0 to 1000
+};
+
+// Why an entry is refused, and where it stands.
+struct EntryProblem {
+    enum class Field { Timeout, Delay, Step };
+    Field Where;
+    int Level = 0;  // 1 to 3 for a delay or a step
+    QString Message;
+};
+
+// The delay is looked at first.
+std::optional<EntryProblem> CheckSpeed(const SpeedEntry& Entry, int Level);
+EffectSpeed SpeedOf(const SpeedEntry& Entry);  // of one that passed
+
+// All that a user has entered, as it stands on the screen.
+struct PreferencesEntries {
+    struct Choice {
+        std::int32_t ID;
+        QString Name;
+    };
+    std::optional<Choice> Album, SlideShow;
+    QString NextSlide, SlideTimeout;
+    std::int32_t MaxEffectLevel = 0;
+    bool UseEffectLevel = true;
+    struct Flag {
+        std::int32_t Effect;  // number, 0 to 127
+        bool Selected;
+    };
+    std::vector<Flag> Effects;  // what the list holds
+    SpeedEntry Speeds[std::size(EffectLevelRows)];
+};
+
+// The first entry that cannot be taken over.
+std::optional<EntryProblem> CheckEntries(const PreferencesEntries& Entries);
+// Takes over entries that passed. With no album chosen the show keeps its number.
+void TakeEntries(PreferencesState& State, const PreferencesEntries& Entries);
+
+// The keys of the timeout field: digits, and one point.
+void FilterTimeoutKey(const EntryState& Field, std::int16_t& KeyAscii);
+// The file name of the picture that a preview goes to; the two take turns.
+QString PreviewPictureAfter(const QString& Last);
+
+}  // namespace neb

@@ -1,0 +1,106 @@
+// One run of a slide show: its states, the user's steps, the clock of the slides, and which
+// picture, caption, transition and sound come up when. No window: the projector and the rehearsal
+// each give it a stage and call its ticks.
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "show/DetailChooser.h"
+#include "show/EffectChooser.h"
+#include "show/ShowSound.h"
+#include "show/ShowStage.h"
+#include "show/ShowState.h"
+
+namespace neb {
+
+class clsNEBAlbum;
+class clsNEBSlide;
+
+class ShowRun {
+  public:
+    explicit ShowRun(ShowStage& Stage);
+    ~ShowRun();
+
+    std::int32_t AlbumID = 0;
+    // Takes the show's settings and tables, and its sound; nothing is shown yet.
+    void Load(std::int32_t SlideShowID);
+    // The show begins at its first slide, wherever it was left.
+    void ForgetResumePoint() { mResumeSeq = 0; }
+    // Stops the sound and the ticks for good.
+    void End();
+
+    // The user's commands.
+    void PlayPause();
+    void StopRestart();
+    void NextSlide();
+    void PreviousSlide();
+    void GotoStart();
+    void GotoEnd();
+    // Halts a running show for another window's work, and takes it up again.
+    void StopMe();
+    void ReStartMe();
+    // Halts a running show while Edit changes the settings, and goes on by the new ones.
+    void EditPreferences(const std::function<void()>& Edit);
+    // The ticks: every 100 ms the clock of the slides, every 1000 ms the loop of the sound.
+    void Timer1_Timer();
+    void Timer2_Timer();
+
+    const ShowState& State() const { return mState; }
+    const EffectTables& Effects() const { return mEffects; }
+    const EffectSettings& Settings() const { return mSettings; }
+    const ShowSoundFields& SoundFields() const { return mSoundFields; }
+    const QString& CurrentFile() const { return mCurrentFile; }
+    const QString& SlideShowName() const { return mSlideShowName; }
+    bool IsManual() const { return mProgressionMethod != 0; }
+    bool ResumeValid() const { return mResumeValid; }
+    bool Timer1On() const { return mTimer1On; }
+
+  private:
+    void InitEffectTables();
+    void LoadSettings();
+    void ReloadEffectSettings();
+    void Enter(const ShowTransition& Transition);
+    void GotoFirstSlide();
+    void SetTimer1(bool On);
+    void SetTimer2(bool On);
+    void StartSlideClock(double Start);
+    void ResetSlideClock();
+    void UserStep(std::int32_t SlideSeq);
+    void AdvanceSlide();
+    void SetFadeVolume(float Elapsed);
+    bool ShowCurrentSlide();
+    bool ShowPlace(clsNEBAlbum& Album, const clsNEBSlideShow& SlideShow);
+    bool Fail(const QString& Message);
+    void StopShow();
+    void SetCaption(const QString& Text);
+    bool DisplaySlideFile(const QString& File);
+    bool DisplayPicture(const QString& Path);
+    QString SlidePath(const QString& SlideLoc) const;
+    SlideSound SoundOf(const ChosenDetail& Chosen, const clsNEBSlide& Slide,
+                       const clsNEBSlideShow& SlideShow) const;
+    void PrefetchNext(clsNEBAlbum& Album, const clsNEBSlideShow& SlideShow);
+
+    ShowStage& mStage;
+    std::shared_ptr<ShowSound> mSound;
+    ShowSoundFields mSoundFields;
+    ShowState mState;
+    EffectTables mEffects;
+    EffectSettings mSettings;
+    std::int32_t mSlideShowID = 0;
+    QString mSlideShowName;
+    QString mCaption;
+    QString mCurrentFile;
+    std::int32_t mProgressionMethod = 0;  // 0 automatic, 1 manual
+    std::int32_t mSlideCount = 0;
+    std::int32_t mLastSeq = 0;
+    std::int32_t mResumeSeq = 0;
+    bool mResumeValid = false;
+    bool mResumeAfterRestart = false;
+    bool mTimer1On = false;
+    bool mEnded = false;
+    double mSlideStart = 0;     // seconds since midnight
+    float mSlideStartTime = 0;  // the same, as the ticks compare it
+};
+
+}  // namespace neb

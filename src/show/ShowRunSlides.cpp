@@ -1,0 +1,136 @@
+// One slide after the other: which one comes up, with its caption, picture, transition and sound.
+#include "db/clsDBEngine.h"
+#include "db/modAlbumFiles.h"
+#include "settings/modNEBSlideShow.h"
+#include "show/CaptionText.h"
+#include "show/ShowMemory.h"
+#include "show/ShowRun.h"
+#include "support/files/modHostFiles.h"
+#include "support/modFUFL.h"
+
+namespace neb {
+namespace {
+
+constexpr EffectChoice WholeAtOnce{100, 100, {}};  // how the stand-in picture comes up
+
+QString NoSlidePath() {
+    return AppPath() + QStringLiteral("NoSlide.bmp");
+}
+
+bool IsNoSlide(const QString& Path) {
+    return ResolvePath(Path) == ResolvePath(NoSlidePath());
+}
+
+}  // namespace
+
+void ShowRun::AdvanceSlide() {
+    ++CurrentSlideSeq;
+    ShowCurrentSlide();
+}
+
+// False when the show has been stopped instead.
+bool ShowRun::ShowCurrentSlide() {
+    mSoundFields.TrackEndsHere = mSoundFields.FitToSong = mSoundFields.FadeOnLast = false;
+    mSoundFields.SlideInterval = SlideTimeout;
+    SetTimer2(false);
+    if (mSlideShowID < 1) return Fail(QStringLiteral("You must have an active slideshow!"));
+    if (mSlideShowID != CurrentSlideShowID) {
+        CurrentSlideSeq = 0;
+        CurrentSlideShowID = mSlideShowID;
+    }
+    clsNEBAlbum* Album = DBEngine ? DBEngine->GetAlbum(AlbumID) : nullptr;
+    if (!Album) return Fail(QStringLiteral("Could not find album."));
+    const clsNEBSlideShow* SlideShow = Album->GetSlideShow(mSlideShowID);
+    if (!SlideShow)
+        return Fail(
+            QStringLiteral("The Active Slide Show does not exist!  Please select a new one!"));
+    mSlideShowName = SlideShow->SlideShowName;
+    mProgressionMethod = SlideShow->ProgressionMethod;
+    mSlideCount = mLastSeq = static_cast<std::int32_t>(SlideShow->Details.size());
+    return ShowPlace(*Album, *SlideShow);
+}
+
+bool ShowRun::ShowPlace(clsNEBAlbum& Album, const clsNEBSlideShow& SlideShow) {
+    const ChosenDetail Chosen = ChooseDetail(SlideShow, CurrentSlideSeq);
+    SetCaption(Chosen.Detail ? FixCaptionText(Chosen.Detail->SlideText) : QString());
+    const clsNEBSlide* Slide = Chosen.Detail ? Album.GetSlide(Chosen.Detail->SlideID) : nullptr;
+    if (!Slide)
+        return Fail(QStringLiteral("Slide #%1 of the current slide show does not exist!")
+                        .arg(Chosen.Number));
+    if (mCaption.isEmpty()) SetCaption(FixCaptionText(Slide->SlideText));
+    if (!DisplaySlideFile(Slide->SlideLoc)) return false;
+    CurrentSlideSeq = Chosen.CurrentSeq;
+    const SlideSound Playing = SoundOf(Chosen, *Slide, SlideShow);
+    PrefetchNext(Album, SlideShow);
+    const auto Held = mSound;  // a box in the sound step may outlive the show
+    if (Held->SoundStep(Playing, mSoundFields)) SetTimer2(true);
+    return true;
+}
+
+SlideSound ShowRun::SoundOf(const ChosenDetail& Chosen, const clsNEBSlide& Slide,
+                            const clsNEBSlideShow& SlideShow) const {
+    const bool HasClip = !Slide.SoundTrackLoc.isEmpty();
+    return {AlbumID,
+            &SlideShow,
+            Chosen.Number,
+            Slide.SoundTrackLoc,
+            HasClip && Slide.Override,
+            HasClip && Slide.Repeat};
+}
+
+void ShowRun::SetCaption(const QString& Text) {
+    mCaption = Text;
+    mStage.ShowCaption(Text);
+}
+
+bool ShowRun::Fail(const QString& Message) {
+    mSoundFields.Reposition = false;
+    mStage.Tell(Message);
+    StopShow();
+    return false;
+}
+
+void ShowRun::StopShow() {
+    mState.StopCommand = QStringLiteral("Stop");
+    StopRestart();
+}
+
+QString ShowRun::SlidePath(const QString& SlideLoc) const {
+    return HoldsSeparator(SlideLoc) ? SlideLoc
+                                    : SlidesFolder(DBEngine->DBPath(), AlbumID) + SlideLoc;
+}
+
+// A picture that cannot be read counts as a missing one: no single file may halt a show.
+bool ShowRun::DisplaySlideFile(const QString& File) {
+    const QString Path = SlidePath(File);
+    if (FileExists(Path) && DisplayPicture(Path)) {
+        mCurrentFile = Path;
+        return true;
+    }
+    if (IsNoSlide(Path)) {
+        mSoundFields.Reposition = false;
+        StopShow();
+        return false;
+    }
+    SetCaption(mCaption + QStringLiteral(": Current slide missing!"));
+    return DisplaySlideFile(NoSlidePath());
+}
+
+bool ShowRun::DisplayPicture(const QString& Path) {
+    const std::int32_t Before = mEffects.CurrentEffect;
+    const EffectChoice Choice = IsNoSlide(Path) ? WholeAtOnce : ChooseEffect(mEffects, mSettings);
+    if (mStage.ShowPicture(Path, Choice)) return true;
+    mEffects.CurrentEffect = Before;
+    return false;
+}
+
+// What comes up when the time of this slide is over is made ready in the meantime.
+void ShowRun::PrefetchNext(clsNEBAlbum& Album, const clsNEBSlideShow& SlideShow) {
+    const ChosenDetail Next = ChooseDetail(SlideShow, CurrentSlideSeq + 1);
+    const clsNEBSlide* Slide = Next.Detail ? Album.GetSlide(Next.Detail->SlideID) : nullptr;
+    if (!Slide) return;
+    mStage.Prefetch(SlidePath(Slide->SlideLoc));
+    mSound->LoadAhead(SoundOf(Next, *Slide, SlideShow));
+}
+
+}  // namespace neb

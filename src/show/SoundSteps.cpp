@@ -1,0 +1,293 @@
+#include "show/SoundSteps.h"
+
+#include <algorithm>
+
+#include "db/clsNEBSlideShow.h"
+#include "db/modAlbumFiles.h"
+#include "support/modFUFL.h"
+
+namespace neb {
+namespace {
+
+using Track = clsNEBSlideShowSoundTrack;
+
+const auto NoClip = QStringLiteral("The Sound Track for this slide does not exist.");
+const auto NoTrack = QStringLiteral("The Sound Track for this group of slides does not exist.");
+const auto EmptyTrack =
+    QStringLiteral("The Sound Track for this group of slides appears to be empty.");
+
+// Actions in the making, with the player as it will stand after them.
+class Script {
+  public:
+    explicit Script(const PlayerState& Now) : mNow(Now) {}
+
+    void Play(bool Repeat) {
+        mActions.push_back({SoundAction::Kind::Play, {}, 0, Repeat});
+        mNow.IsPlaying = true;
+    }
+    void PlayUnlessPlaying(bool Repeat) {
+        if (!mNow.IsPlaying) Play(Repeat);
+    }
+    // A start that is followed by a jump is left out: nobody is to hear a snatch of the wrong
+    // moment.
+    void PlayFrom(double Position, bool Repeat) {
+        if (!mActions.empty() && mActions.back().What == SoundAction::Kind::Play)
+            mActions.pop_back();
+        mActions.push_back({SoundAction::Kind::SetPosition, {}, Position, false});
+        mNow.CurrentPosition = Position;
+        Play(Repeat);
+    }
+    void Sync(std::int64_t Place, double Interval, bool Force, bool Repeat);
+
+    const PlayerState& Now() const { return mNow; }
+    SoundActions Take() { return std::move(mActions); }
+
+  private:
+    PlayerState mNow;
+    SoundActions mActions;
+};
+
+void Script::Sync(std::int64_t Place, double Interval, bool Force, bool Repeat) {
+    const std::int64_t Before = Place - 1;
+    if (Before <= 0) return PlayFrom(0, Repeat);
+    const double Target = static_cast<double>(Before) * Interval;
+    const double Slack = Target / 20;
+    const double Position = mNow.CurrentPosition;
+    if (Force || Target + Slack < Position || Target - Slack > Position)
+        return PlayFrom(Target, Repeat);
+    PlayUnlessPlaying(Repeat);
+}
+
+SoundAction Tell(const QString& Text) {
+    return {SoundAction::Kind::Tell, Text, 0, false};
+}
+SoundAction Load(const QString& Path) {
+    return {SoundAction::Kind::LoadFile, Path, 0, false};
+}
+
+QString PathIn(const QString& Folder, const QString& Name) {
+    return HoldsSeparator(Name) ? Name : Folder + Name;
+}
+
+QString ClipPath(const SlideSound& Slide, const QString& DBPath) {
+    return PathIn(SlidesFolder(DBPath, Slide.AlbumID), Slide.SoundTrackLoc);
+}
+
+QString TrackPath(const SlideSound& Slide, const Track& Found, const QString& DBPath) {
+    return PathIn(SoundTracksFolder(DBPath, Slide.AlbumID), Found.SoundTrackLoc);
+}
+
+const Track* TrackAt(const SlideSound& Slide) {
+    if (!Slide.SlideShow) return nullptr;
+    const auto& Tracks = Slide.SlideShow->SoundTracks;
+    const auto Found = std::find_if(Tracks.begin(), Tracks.end(), [&](const auto& Each) {
+        return Each->SlideSeqStart <= Slide.SlideSeq && Slide.SlideSeq <= Each->SlideSeqEnd;
+    });
+    return Found == Tracks.end() ? nullptr : Found->get();
+}
+
+// A clip in either of its two places.
+SoundStage OpenClip(const QString& Path, const FileTest& Exists, SoundSequel Loaded,
+                    SoundSequel Missing) {
+    if (Exists(Path)) return {{Load(Path)}, Loaded, Path, {}, false};
+    // Loaded all the same: whatever sounded before is over.
+    return {{Tell(NoClip), Load(Path)}, Missing, Path, {}, false};
+}
+
+SoundStage OpenTrack(const Track& Found, const QString& Path, const PlayerState& Before,
+                     const FileTest& Exists) {
+    if (Path == Before.SoundFile) return {{}, SoundSequel::SameTrack, Path, Found, true};
+    if (Exists(Path)) return {{Load(Path)}, SoundSequel::NewTrack, Path, Found, true};
+    return {{Tell(NoTrack), Load(Path)}, SoundSequel::MissingTrack, Path, Found, true};
+}
+
+void NoteTrack(const Track& Found, const SlideSound& Slide, ShowSoundFields& Fields) {
+    Fields.FitToSong = Found.FitToSong;
+    Fields.FadeOnLast = Found.Fade;
+    if (Found.SlideSeqEnd == Slide.SlideSeq) Fields.TrackEndsHere = true;
+}
+
+// What a stage that follows is worked out from.
+struct Turn {
+    const SoundStage& Stage;
+    const SlideSound& Slide;
+    const PlayerState& Before;
+    const PlayerState& Now;
+    ShowSoundFields& Fields;
+
+    // Wider than the numbers of a track: a hand-made file may hold any.
+    std::int64_t Place() const {
+        return std::int64_t{Slide.SlideSeq} - Stage.Track.SlideSeqStart + 1;
+    }
+};
+
+// A stage that ends the step; CheckRepeat is wanted as before.
+SoundStage Ending(const Turn& At, SoundActions Actions = {}) {
+    return {std::move(Actions), SoundSequel::None, At.Stage.Path, At.Stage.Track,
+            At.Stage.WatchRepeat};
+}
+
+void EndTrackPath(ShowSoundFields& Fields) {
+    Fields.SavedSoundPos = 0;
+    Fields.SavedSoundSeq = 0;
+    Fields.LastClipSeq = 0;
+    Fields.Reposition = false;
+}
+
+// Only the first of a run of overriding clips saves, so that the track's place survives them all.
+void SavePlace(const Turn& At) {
+    if (At.Fields.SavedSoundSeq != 0) return;
+    At.Fields.SavedSoundPos = At.Before.IsPlaying ? At.Before.CurrentPosition : 0;
+    At.Fields.SavedSoundSeq = At.Slide.SlideSeq;
+    At.Fields.SavedSoundFile = At.Before.IsPlaying ? At.Before.SoundFile : QString();
+}
+
+// Starts what has just been loaded.
+void Start(const Turn& At, bool Repeat, Script& Do) {
+    At.Fields.CurrentSoundFile = At.Stage.Path;
+    At.Fields.SoundRepeat = Repeat;
+    Do.PlayUnlessPlaying(Repeat);
+}
+
+void Fit(const Turn& At) {
+    const Track& Found = At.Stage.Track;
+    const double Slides = static_cast<double>(Found.SlideSeqEnd) - Found.SlideSeqStart + 1;
+    if (Found.FitToSong) At.Fields.SlideInterval = At.Now.Duration / Slides;
+}
+
+void SyncToPlace(const Turn& At, Script& Do) {
+    Do.Sync(At.Place(), At.Fields.SlideInterval, false, At.Fields.SoundRepeat);
+}
+
+SoundStage AfterMissingOverridingClip(const Turn& At) {
+    At.Fields.Reposition = false;
+    return Ending(At);
+}
+
+SoundStage AfterOverridingClip(const Turn& At) {
+    Script Do(At.Now);
+    Start(At, At.Slide.Repeat, Do);
+    SavePlace(At);
+    At.Fields.Reposition = false;
+    At.Fields.LastClipSeq = At.Slide.SlideSeq;
+    return Ending(At, Do.Take());
+}
+
+SoundStage AfterNewTrack(const Turn& At) {
+    SoundStage Next = At.Stage;
+    Next.Sequel = SoundSequel::StartTrack;
+    Next.Actions.clear();
+    if (At.Now.Duration > 0)
+        Fit(At);
+    else if (At.Stage.Track.FitToSong)
+        Next.Actions = {Tell(EmptyTrack)};
+    return Next;
+}
+
+// The track picks up where an overriding clip cut it off.
+void PickUp(const Turn& At, Script& Do) {
+    const ShowSoundFields& Saved = At.Fields;
+    if (Saved.SavedSoundSeq > 0 && Saved.SavedSoundPos > 0 &&
+        At.Now.SoundFile == Saved.SavedSoundFile)
+        Do.PlayFrom(Saved.SavedSoundPos, Saved.SoundRepeat);
+}
+
+SoundStage AfterStartTrack(const Turn& At) {
+    Script Do(At.Now);
+    Start(At, At.Stage.Track.Repeat, Do);
+    if (At.Stage.Track.FitToSong)
+        SyncToPlace(At, Do);
+    else
+        PickUp(At, Do);
+    EndTrackPath(At.Fields);
+    return Ending(At, Do.Take());
+}
+
+// A plain advance inside a group leaves the sound alone.
+void GoOnPlaying(const Turn& At, Script& Do) {
+    if (At.Place() == 1) {
+        if (!At.Fields.SoundRepeat) Do.PlayFrom(0, At.Fields.SoundRepeat);
+    } else if (At.Fields.Reposition && At.Stage.Track.FitToSong) {
+        SyncToPlace(At, Do);
+    }
+}
+
+void StartAgain(const Turn& At, Script& Do) {
+    Do.Play(At.Fields.SoundRepeat);
+    if (At.Stage.Track.FitToSong) SyncToPlace(At, Do);
+}
+
+SoundStage AfterSameTrack(const Turn& At) {
+    Script Do(At.Now);
+    if (At.Now.Duration > 0) {
+        Fit(At);
+        At.Fields.SoundRepeat = At.Stage.Track.Repeat;
+        (At.Now.IsPlaying ? GoOnPlaying : StartAgain)(At, Do);
+    }
+    EndTrackPath(At.Fields);
+    return Ending(At, Do.Take());
+}
+
+SoundStage AfterClip(const Turn& At) {
+    Script Do(At.Now);
+    Start(At, At.Slide.Repeat, Do);
+    EndTrackPath(At.Fields);
+    return Ending(At, Do.Take());
+}
+
+SoundStage AfterNone(const Turn& At) {
+    return Ending(At);
+}
+
+SoundStage AfterSilence(const Turn& At) {
+    EndTrackPath(At.Fields);
+    return Ending(At);
+}
+
+// In the order of SoundSequel.
+using Sequel = SoundStage (*)(const Turn& At);
+constexpr Sequel Sequels[] = {
+    AfterNone,           AfterMissingOverridingClip,
+    AfterOverridingClip, AfterSilence,
+    AfterNewTrack,       AfterStartTrack,
+    AfterSameTrack,      AfterSilence,
+    AfterClip,           AfterSilence,
+};
+
+}  // namespace
+
+SoundStage OpenSoundStep(const SlideSound& Slide, const QString& DBPath, const PlayerState& Before,
+                         const FileTest& Exists, ShowSoundFields& Fields) {
+    if (Slide.Override)
+        return OpenClip(ClipPath(Slide, DBPath), Exists, SoundSequel::OverridingClip,
+                        SoundSequel::MissingOverridingClip);
+    if (const Track* Found = TrackAt(Slide)) {
+        NoteTrack(*Found, Slide, Fields);
+        return OpenTrack(*Found, TrackPath(Slide, *Found, DBPath), Before, Exists);
+    }
+    if (!Slide.SoundTrackLoc.isEmpty())
+        return OpenClip(ClipPath(Slide, DBPath), Exists, SoundSequel::Clip,
+                        SoundSequel::MissingClip);
+    return {{{SoundAction::Kind::UnloadFile, {}, 0, false}}, SoundSequel::Silence, {}, {}, false};
+}
+
+SoundStage NextSoundStage(const SoundStage& Stage, const SlideSound& Slide,
+                          const PlayerState& Before, const PlayerState& Now,
+                          ShowSoundFields& Fields) {
+    return Sequels[static_cast<size_t>(Stage.Sequel)]({Stage, Slide, Before, Now, Fields});
+}
+
+SoundActions SyncSoundToSlide(std::int32_t Place, double Interval, bool Force, bool SoundRepeat,
+                              const PlayerState& Now) {
+    Script Do(Now);
+    Do.Sync(Place, Interval, Force, SoundRepeat);
+    return Do.Take();
+}
+
+QString SoundPathOf(const SlideSound& Slide, const QString& DBPath) {
+    const Track* Found = Slide.Override ? nullptr : TrackAt(Slide);
+    if (Found) return TrackPath(Slide, *Found, DBPath);
+    return Slide.SoundTrackLoc.isEmpty() ? QString() : ClipPath(Slide, DBPath);
+}
+
+}  // namespace neb

@@ -1,0 +1,111 @@
+// Runs a show without a screen and without waiting: the projector's own run of a show, on a clock
+// that jumps from tick to tick and on sound devices that are silent. Writes down what came up when.
+// Used by nebctl rehearse and by tests of whole shows. Nothing on the disk is changed.
+#pragma once
+
+#include <array>
+#include <functional>
+#include <memory>
+
+#include "show/ShowRun.h"
+#include "show/rehearsal/RehearsalSound.h"
+#include "show/rehearsal/RehearsalWorld.h"
+
+namespace neb {
+
+// Whether the first bytes of a file are those of a picture; damage behind them is not seen.
+bool BeginsLikePicture(const QString& Path);
+// Seconds of a sound file. Throws Fault for what cannot be played.
+double LengthOfSoundFile(const QString& Path);
+
+// How the rehearsal looks at the files of the show; it asks only for those that are there.
+struct RehearsalOptions {
+    std::function<bool(const QString& Path)> CanReadPicture = BeginsLikePicture;
+    std::function<double(const QString& Path)> LengthOfSound = LengthOfSoundFile;  // throws Fault
+};
+
+enum class RehearsalEnd {
+    CameRound,  // every place that the show comes to was up once, and its time is over
+    Stopped,    // the show has stopped by itself: a slide could not be shown
+    TooLong,    // given up after LongestRehearsal
+};
+constexpr double LongestRehearsal = 7 * 86400;  // seconds
+
+// While one lives, its clock, boxes, sound and database stand in for the program's; afterwards all
+// is as it was before. One at a time.
+class Rehearsal : private ShowStage {
+  public:
+    Rehearsal(clsDBEngine& Engine, std::int32_t AlbumID, std::int32_t SlideShowID,
+              RehearsalOptions Options = {});
+    ~Rehearsal() override;
+    Rehearsal(const Rehearsal&) = delete;
+    Rehearsal& operator=(const Rehearsal&) = delete;
+
+    // The first slide comes up, as when the projector's window opens.
+    void Start();
+    // Lets the time pass, with all ticks that fall into it, those at its very end included.
+    void RunFor(double Seconds) { RunUntil(Now() + Seconds); }
+    void RunUntil(double Seconds);  // from the start
+    // In place of all these: the whole show from its first slide. In a manual one the next slide
+    // is asked for when a slide's time is over.
+    RehearsalEnd RunWhole();
+    // For the user's steps between the runs.
+    ShowRun& Run() { return mRun; }
+
+    double Now() const { return mClock.Seconds(); }  // since the start
+    bool Timer1On() const { return mTimers[0].On; }
+    bool Timer2On() const { return mTimers[1].On; }
+    const RehearsalLog& Log() const { return mLog; }
+    const std::vector<RehearsalCue>& Cues() const { return mLog.Cues; }
+    const std::vector<RehearsalSoundEvent>& SoundEvents() const { return mLog.SoundEvents; }
+    const std::vector<RehearsalBox>& Boxes() const { return mLog.Boxes; }
+
+  private:
+    struct Ticking {
+        qint64 Period;  // milliseconds
+        void (ShowRun::*Tick)();
+        bool On = false;
+        qint64 Due = 0;
+        int Started = 0;  // the order of starting settles what falls due at once
+    };
+    class SoundSteps;
+    class BoxLog;
+
+    void ShowCaption(const QString& Text) override { mNext.Caption = Text; }
+    bool ShowPicture(const QString& Path, const EffectChoice& Choice) override;
+    void Prefetch(const QString&) override {}
+    void SetTimer1(bool On) override { SetTimer(mTimers[0], On); }
+    void SetTimer2(bool On) override { SetTimer(mTimers[1], On); }
+    void Tell(const QString& Message) override { NoteBox(RehearsalBoxFrom::Run, Message); }
+
+    void SetTimer(Ticking& Timer, bool On);
+    Ticking* NextTimer();
+    void Fire(Ticking& Timer);
+    void AdvanceTo(qint64 Milliseconds);
+    void TakeStep(const std::function<void()>& Step);
+    RehearsalEnd RunRound();
+    qint64 NextPress() const;
+    bool ComesRound(const SlideSound& Slide) const;
+    bool SlideComesUp(const SlideSound& Slide);
+    void SlideIsUp(const SlideSound& Slide, const ShowSoundFields& Fields);
+    void NoteBox(RehearsalBoxFrom From, const QString& Text);
+    std::int32_t PlaceOnItsWay() const;
+
+    const RehearsalOptions mOptions;
+    RehearsalClock mClock;
+    RehearsalLog mLog;
+    RehearsalSound mSound;
+    std::unique_ptr<BoxLog> mBoxes;
+    RehearsalWorld mWorld;
+    std::array<Ticking, 2> mTimers{{{100, &ShowRun::Timer1_Timer}, {1000, &ShowRun::Timer2_Timer}}};
+    int mStarts = 0;
+    RehearsalCue mNext;    // the slide that is on its way
+    qint64 mCueBegan = 0;  // milliseconds, of the slide that is up
+    int mEffectDelay = 0, mEffectStep = 100;
+    qint64 mPressed = 0;  // milliseconds, when the next slide was asked for
+    bool mOneRound = false, mRoundIsOver = false;
+    const std::int32_t mSlideShowID;
+    ShowRun mRun;
+};
+
+}  // namespace neb

@@ -1,0 +1,122 @@
+#include "show/rehearsal/RehearsalSound.h"
+
+#include "support/Fault.h"
+#include "support/files/modHostFiles.h"
+
+namespace neb {
+namespace {
+
+using Heard = SoundEvent::Kind;
+using Noted = RehearsalSoundKind;
+
+constexpr double HundredthsAPercent = 25;
+
+// In the order of SoundEvent::Kind.
+constexpr Noted Names[] = {Noted::Loaded,  Noted::Loaded, Noted::Playing, Noted::Paused,
+                           Noted::Stopped, Noted::Moved,  Noted::Volume,  Noted::Released};
+
+int VolumeOf(int Hundredths) {
+    return qRound(100 + Hundredths / HundredthsAPercent);
+}
+
+}  // namespace
+
+RehearsalSound::RehearsalSound(const RehearsalClock& Clock, ClockedSoundDevices::LengthOf Length,
+                               RehearsalLog& Log)
+    : mClock(Clock),
+      mLength(std::move(Length)),
+      mLog(Log),
+      mDevices([this](const QString& Path) { return Measure(Path); },
+               [this](const SoundEvent& Event) { Hear(Event); }) {}
+
+double RehearsalSound::Measure(const QString& Path) {
+    mNow = {mClock.Seconds(), Noted::Failed, Path};
+    mPlaying = false;
+    const auto Known = mLengths.constFind(Path);
+    if (Known != mLengths.cend()) return *Known;
+    try {
+        if (!FileExists(Path)) throw Fault(QStringLiteral("There is no such file."), Path);
+        return *mLengths.insert(Path, std::max(0.0, mLength(Path)));
+    } catch (const Fault&) {
+        Note(Noted::Failed, mClock.Seconds());
+        throw;
+    }
+}
+
+void RehearsalSound::Settle() {
+    if (!mPlaying || mEnded || EndOfFile() > mClock.Seconds()) return;
+    const double End = EndOfFile();
+    mEnded = true;
+    mNow.Position = mNow.Duration;
+    mSince = End;
+    Note(Noted::Ended, End);
+    if (CueSound* Sound = Sounding()) Sound->EndsAt = End;
+}
+
+void RehearsalSound::Hear(const SoundEvent& Event) {
+    if (Event.What == Heard::LoadedAhead) return;
+    Settle();
+    const int Before = mNow.Volume;
+    TakeState(Event);
+    if (Event.What != Heard::Volume || mNow.Volume != Before)
+        Note(Names[static_cast<size_t>(Event.What)], mClock.Seconds());
+    if (CueSound* Sound = Sounding()) {
+        Sound->Volume = std::max(Sound->Volume, mNow.Volume);
+        Sound->EndVolume = mNow.Volume;
+        if (Event.What != Heard::Run || !mWatchingRepeat) return;
+        ++Sound->Loops;
+        Sound->EndsAt = -1;
+    }
+}
+
+void RehearsalSound::TakeState(const SoundEvent& Event) {
+    mNow.File = Event.Path;
+    mNow.Position = Event.Position;
+    mNow.Duration = mLengths.value(Event.Path);
+    mNow.Volume = VolumeOf(Event.Hundredths);
+    mSince = mClock.Seconds();
+    if (Event.What == Heard::Loaded) mLoaded = true;
+    if (Event.What == Heard::Moved && !mWatchingRepeat) mMoved = true;
+    if (Event.What == Heard::Run) mPlaying = true;
+    if (Event.What != Heard::Run && Event.What != Heard::Moved && Event.What != Heard::Volume)
+        mPlaying = false;
+    mEnded = mPlaying && mNow.Position >= mNow.Duration && mEnded;
+}
+
+void RehearsalSound::Note(Noted Kind, double At) {
+    mNow.Kind = Kind;
+    mNow.At = At;
+    mLog.SoundEvents.push_back(mNow);
+}
+
+// The sound of the slide that is up, where there is one.
+CueSound* RehearsalSound::Sounding() {
+    if (mLog.Cues.empty() || mLog.Cues.back().Sound.Kind == CueSoundKind::Silent) return nullptr;
+    return &mLog.Cues.back().Sound;
+}
+
+CueSoundKind RehearsalSound::KindOf(const QString& Path, double Position) const {
+    if (Path.isEmpty()) return CueSoundKind::Silent;
+    if (mNow.Kind == Noted::Failed) return CueSoundKind::Unplayed;
+    if (mEnded) return CueSoundKind::Over;
+    if (Position == 0) return CueSoundKind::Starts;
+    if (mLoaded) return CueSoundKind::Resumes;
+    return mMoved ? CueSoundKind::Moves : CueSoundKind::GoesOn;
+}
+
+void RehearsalSound::SlideIsUp(const QString& Path) {
+    Settle();
+    const double Position = mPlaying ? mNow.Position + mClock.Seconds() - mSince : mNow.Position;
+    CueSound Sound;
+    Sound.Kind = KindOf(Path, std::min(Position, mNow.Duration));
+    if (Sound.Kind != CueSoundKind::Silent) Sound.File = Path;
+    if (Sound.Kind != CueSoundKind::Silent && Sound.Kind != CueSoundKind::Unplayed) {
+        Sound.Position = std::min(Position, mNow.Duration);
+        Sound.Duration = mNow.Duration;
+        Sound.Volume = Sound.EndVolume = mNow.Volume;
+    }
+    mLog.Cues.back().Sound = Sound;
+    mLoaded = mMoved = false;
+}
+
+}  // namespace neb

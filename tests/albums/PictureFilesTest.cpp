@@ -1,0 +1,173 @@
+// Which files are pictures, and the walks that collect and count them.
+#include <sys/stat.h>
+
+#include <QFile>
+
+#include "albums/modPictureFiles.h"
+#include "harness/WithoutPrivileges.h"
+#include "intake/IntakeHarness.h"
+
+namespace neb {
+namespace {
+
+using namespace harness;
+
+const WalkPoll GoOn = [] { return true; };
+
+class PictureFiles : public Intake {
+  protected:
+    // What was found, without the folder of pictures in front.
+    std::string Scan(bool Recurse, const WalkPoll& Poll = GoOn) {
+        QStringList Names;
+        for (const QString& Path : ScanDirectory(Pics.Path(), Recurse, Poll)) {
+            EXPECT_TRUE(Path.startsWith(Pics.Path()));
+            Names << Path.mid(Pics.Path().size());
+        }
+        return Names.join(u' ').toStdString();
+    }
+    void Touch(const char* Name) {
+        const QString Path = Pics / QString::fromUtf8(Name);
+        MakeDirs(Path.left(Path.lastIndexOf(u'/')));
+        WriteFile(Path, "x");
+    }
+    std::int32_t Count(bool Recurse) { return CountIn(Pics.Path(), Recurse); }
+    static std::int32_t CountIn(const QString& Directory, bool Recurse) {
+        RunningCount Counted;
+        return CountGraphicFiles(Directory, Recurse, Counted);
+    }
+};
+
+TEST_F(PictureFiles, CountAsPicturesByTheirLastExtensionInAnyCase) {
+    for (const char* Name :
+         {"a.bmp", "a.EMF", "a.jpeg", "a.JPG", "a.pcd", "a.Pcx", "a.png", "a.psd", "a.tga", "a.tif",
+          "a.TIFF", "a.tla", "a.wbmp", "a.wmf", "a.b.jpg", ".jpg"})
+        EXPECT_TRUE(IsPictureName(QString::fromLatin1(Name))) << Name;
+    for (const char* Name : {"a.jpg.bak", "a.gif", "jpg", "a.", "", "a.jpg ", "a.webp", "a.jp"})
+        EXPECT_FALSE(IsPictureName(QString::fromLatin1(Name))) << Name;
+}
+
+TEST_F(PictureFiles, StandInTheOrderOfTheirUpperCasedNames) {
+    for (const char* Name : {"b.jpg", "A.jpg", "C.png", "a_.jpg", "notes.txt", "B1.jpg"})
+        Touch(Name);
+    EXPECT_EQ("A.jpg a_.jpg b.jpg B1.jpg C.png", Scan(false));
+}
+
+TEST_F(PictureFiles, OfADirectoryComeBeforeThoseOfItsSubdirectoriesDepthFirst) {
+    for (const char* Name : {"z.jpg", "A/m.jpg", "A/deep/x.jpg", "A/a.jpg", "b/y.jpg"}) Touch(Name);
+    EXPECT_EQ("z.jpg A/a.jpg A/m.jpg A/deep/x.jpg b/y.jpg", Scan(true));
+    EXPECT_EQ("z.jpg", Scan(false));
+}
+
+TEST_F(PictureFiles, AreNotDirectoriesOfTheirName) {
+    Touch("x.jpg/inside.png");
+    EXPECT_EQ("", Scan(false));
+    EXPECT_EQ("x.jpg/inside.png", Scan(true));
+    EXPECT_EQ(0, Count(false));
+    EXPECT_EQ(1, Count(true));
+}
+
+TEST_F(PictureFiles, CountUpperAndLowerCaseNamesAndNoBackups) {
+    for (const char* Name : {"a.JPG", "b.jpg", "c.jpg.bak", "d.txt", "sub/e.png", "sub/f.bak"})
+        Touch(Name);
+    EXPECT_EQ(2, Count(false));
+    EXPECT_EQ(3, Count(true));
+}
+
+TEST_F(PictureFiles, NumberNoneInADirectoryThatHasVanished) {
+    EXPECT_EQ(0, CountIn(Pics / u"gone"_s, true));
+    EXPECT_TRUE(ScanDirectory(Pics / u"gone/"_s, true, GoOn).isEmpty());
+}
+
+TEST_F(PictureFiles, AreCountedByTheSameNamesThatTheImportTakes) {
+    for (const char* Name :
+         {"a.jpg", "b.JPEG", "c.wBmp",
+          "d.t\xC4\xB1"
+          "f",
+          "e.jp", "f.jpgx", "g", ".png", "sub.tif/\xC3\xA4.tla", "sub.tif/h.gif"})
+        Touch(Name);
+    for (bool Recurse : {false, true}) {
+        QStringList Found = ScanDirectory(Pics.Path(), Recurse, GoOn);
+        EXPECT_EQ(Recurse ? 6 : 5, Found.size());
+        EXPECT_EQ(Found.size(), Count(Recurse));
+    }
+}
+
+TEST_F(PictureFiles, AreNoPipesOfTheirName) {
+    Touch("a.jpg");
+    ASSERT_EQ(0, mkfifo(qPrintable(Pics / u"pipe.jpg"_s), 0600));
+    EXPECT_EQ(1, Count(true));
+}
+
+TEST_F(PictureFiles, AreCountedInDirectoriesOfAnyDepth) {
+    QString Deep = Pics.Path();
+    for (int I = 0; I < 300; ++I) Deep += u"d/"_s;
+    MakePicture(Deep + u"a.jpg"_s);
+    EXPECT_EQ(1, Count(true));
+}
+
+TEST_F(PictureFiles, AreCountedNoFurtherOnceTheCountIsStopped) {
+    for (const char* Name : {"a.jpg", "b.jpg", "sub/c.jpg"}) Touch(Name);
+    RunningCount Stopped;
+    Stopped.Stop = true;
+    EXPECT_GE(1, CountGraphicFiles(Pics.Path(), true, Stopped));
+}
+
+TEST_F(PictureFiles, BehindALinkAreCounted) {
+    Touch("a.jpg");
+    TempFolder Other;
+    MakePicture(Other / u"b.jpg"_s);
+    ASSERT_TRUE(QFile::link(Other.Path().chopped(1), Pics / u"other"_s));
+    ASSERT_TRUE(QFile::link(Other / u"b.jpg"_s, Pics / u"b.jpg"_s));
+    EXPECT_EQ(2, Count(false));
+    EXPECT_EQ(3, Count(true));
+}
+
+TEST_F(PictureFiles, ThatMayNotBeReadAreNotCounted) {
+    Touch("a.jpg");
+    Touch("b.jpg");
+    QFile::setPermissions(Pics / u"b.jpg"_s, QFile::WriteOwner);
+    QFile::setPermissions(Pics.Path(), QFile::Permissions(0x7755));
+    const harness::WithoutPrivileges User;
+    EXPECT_EQ(1, Count(false));
+}
+
+TEST_F(PictureFiles, ThatDoNotOpenAreNotCounted) {
+    Touch("a.jpg");
+    ASSERT_TRUE(QFile::link(Pics / u"nowhere"_s, Pics / u"broken.jpg"_s));
+    EXPECT_EQ(1, Count(false));
+}
+
+TEST_F(PictureFiles, AreWalkedOnceThoughALinkLeadsBack) {
+    Touch("sub/a.jpg");
+    ASSERT_TRUE(QFile::link(Pics.Path(), Pics / u"sub/back"_s));
+    EXPECT_EQ("sub/a.jpg", Scan(true));
+    EXPECT_EQ(1, Count(true));
+}
+
+TEST_F(PictureFiles, FoundBeforeAStopAreKept) {
+    for (const char* Name : {"a.jpg", "b.jpg", "c.jpg", "d.jpg"}) Touch(Name);
+    int Polls = 0;
+    EXPECT_EQ("a.jpg b.jpg", Scan(false, [&] { return ++Polls < 3; }));
+    EXPECT_EQ(3, Polls);
+}
+
+TEST_F(PictureFiles, InAnUnreadableSubdirectoryArePassedOver) {
+    for (const char* Name : {"a.jpg", "locked/b.jpg", "open/c.jpg"}) Touch(Name);
+    const auto All = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
+    QFile::setPermissions(Pics / u"locked"_s, {});
+    QFile::setPermissions(
+        Pics.Path(), All | QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther);
+    std::string Found;
+    std::int32_t Counted = 0;
+    {
+        const harness::WithoutPrivileges User;
+        Found = Scan(true);
+        Counted = Count(true);
+    }
+    QFile::setPermissions(Pics / u"locked"_s, All);
+    EXPECT_EQ("a.jpg open/c.jpg", Found);
+    EXPECT_EQ(2, Counted);
+}
+
+}  // namespace
+}  // namespace neb

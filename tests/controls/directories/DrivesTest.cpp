@@ -1,0 +1,74 @@
+// The places where a search of all drives begins.
+#include "controls/directories/Drives.h"
+
+#include <gtest/gtest.h>
+
+#include <QStandardPaths>
+#include <QTest>
+
+#include "harness/MountedMemory.h"
+#include "harness/TempFolder.h"
+#include "support/files/modHostFiles.h"
+#include "support/modFUFL.h"
+
+namespace neb {
+namespace {
+
+TEST(Drives, HoldTheHomeDirectoryOrADriveAboveIt) {
+    const QString Home = QStandardPaths::writableLocation(QStandardPaths::HomeLocation);
+    const QStringList All = DesktopDrives().Drives();
+    EXPECT_TRUE(std::any_of(All.begin(), All.end(), [&](const QString& Drive) {
+        return WithSeparator(Home).startsWith(WithSeparator(Drive));
+    })) << All.join(u' ').toStdString();
+}
+
+TEST(Drives, OfferNoMountOfTheSystemsOwn) {
+    for (const char* Root : {"/", "/boot/efi", "/proc", "/sys/fs/cgroup", "/dev/shm", "/run/lock",
+                             "/media", "/mntother", "/snap/core/1", "/var/lib"})
+        EXPECT_FALSE(IsUserVolume(QString::fromLatin1(Root))) << Root;
+    for (const char* Root :
+         {"/media/anna/STICK", "/run/media/anna/CAMERA", "/mnt", "/mnt/nas", "C:/", "D:"})
+        EXPECT_TRUE(IsUserVolume(QString::fromLatin1(Root))) << Root;
+}
+
+TEST(Drives, StandInNoOtherDriveSoThatNothingIsFoundTwice) {
+    EXPECT_EQ(OutermostPaths({"/home/anna", "/media/a", "/media/a/b", "/home/anna", "/media/ab"}),
+              QStringList({"/home/anna", "/media/a", "/media/ab"}));
+    EXPECT_EQ(OutermostPaths({"C:/Users/anna", "C:/", "D:/"}), QStringList({"C:/", "D:/"}));
+}
+
+TEST(Drives, AreReadyOnlyWhileTheyCanBeRead) {
+    const harness::TempFolder Folder;
+    MakeDirs(Folder / QStringLiteral("stick"));
+    EXPECT_TRUE(DesktopDrives().IsReady(Folder / QStringLiteral("stick")));
+    DeleteTree(Folder / QStringLiteral("stick"));
+    EXPECT_FALSE(DesktopDrives().IsReady(Folder / QStringLiteral("stick")));
+}
+
+TEST(Drives, AreVolumesOfTheUserAlone) {
+    for (const Volume& Each : DesktopDrives().Volumes()) {
+        EXPECT_TRUE(IsUserVolume(Each.Root)) << Each.Root.toStdString();
+        EXPECT_FALSE(Each.Name.isEmpty());
+    }
+}
+
+TEST(Drives, TellOfWhatIsMountedAndUnmountedWhileSomebodyListens) {
+    const harness::TempFolder Folder;
+    int Told = 0;
+    auto Listener = std::make_unique<QObject>();
+    DesktopDrives().Watch(*Listener, [&] { ++Told; });
+    {
+        const harness::MountedMemory Stick(Folder.Path());
+        if (!Stick.IsThere()) GTEST_SKIP() << "nothing can be mounted here";
+        EXPECT_TRUE(QTest::qWaitFor([&] { return Told > 0; }, 3000));
+    }
+    const int Before = Told;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Told > Before; }, 3000));
+    Listener.reset();
+    Told = 0;
+    const harness::MountedMemory Stick(Folder.Path());
+    EXPECT_FALSE(QTest::qWaitFor([&] { return Told > 0; }, 500));
+}
+
+}  // namespace
+}  // namespace neb

@@ -1,0 +1,189 @@
+#include <QAbstractButton>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QTimer>
+
+#include "controls/forms/DesktopBoxes.h"
+#include "controls/forms/ScreenPointer.h"
+#include "controls/forms/TestForm.h"
+#include "controls/forms/frmMsgBoxEx.h"
+
+using namespace neb;
+using namespace neb::harness;
+
+namespace {
+
+// Does something with the box or dialog of this type once it stands on the screen.
+template <class Dialog>
+void WhenOpen(const std::function<void(Dialog&)>& Action) {
+    QTimer::singleShot(30, qApp, [Action] {
+        auto* Open = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(nullptr, Open);
+        Action(*Open);
+        if (QApplication::activeModalWidget() == Open) Open->reject();
+    });
+}
+
+BoxAnswer Answer(const BoxRequest& Request, const std::function<void(QMessageBox&)>& Action) {
+    WhenOpen<QMessageBox>(Action);
+    return DesktopBoxes().Show(Request);
+}
+
+const BoxRequest YesNo{QStringLiteral("Really?"), QStringLiteral("Delete Confirmation"),
+                       BoxIcon::Question, BoxButtons::YesNo};
+
+struct Boxes : ::testing::Test {
+    NoFormsLeft Clean;
+    void TearDown() override { SetScreenPointer(Pointer::Default); }
+};
+
+}  // namespace
+
+TEST_F(Boxes, ShowsTextTitleAndIconAsGiven) {
+    const auto Given = Answer(YesNo, [](QMessageBox& Box) {
+        EXPECT_EQ(u"Really?", Box.text());
+        EXPECT_EQ(u"Delete Confirmation", Box.windowTitle());
+        EXPECT_EQ(QMessageBox::Question, Box.icon());
+        EXPECT_EQ(QMessageBox::Yes | QMessageBox::No, Box.standardButtons());
+        Box.button(QMessageBox::No)->click();
+    });
+    EXPECT_EQ(BoxAnswer::No, Given);
+}
+
+TEST_F(Boxes, AnOkBoxHasOneButtonAndAnswersOkHoweverItIsClosed) {
+    const BoxRequest Plain{QStringLiteral("Done."), {}, BoxIcon::Information, BoxButtons::Ok};
+    EXPECT_EQ(BoxAnswer::Ok, Answer(Plain, [](QMessageBox& Box) {
+                  EXPECT_EQ(1, Box.buttons().size());
+                  EXPECT_EQ(QMessageBox::Information, Box.icon());
+                  QTest::keyClick(&Box, Qt::Key_Return);
+              }));
+    EXPECT_EQ(BoxAnswer::Ok,
+              Answer(Plain, [](QMessageBox& Box) { QTest::keyClick(&Box, Qt::Key_Escape); }));
+}
+
+TEST_F(Boxes, TheTitleIsTheProgramsNameWhenNoneIsGiven) {
+    const QString Before = QGuiApplication::applicationDisplayName();
+    QGuiApplication::setApplicationDisplayName(QStringLiteral("NEB Slide Show"));
+    Answer({QStringLiteral("Done."), {}, BoxIcon::Plain, BoxButtons::Ok}, [](QMessageBox& Box) {
+        EXPECT_EQ(u"NEB Slide Show", Box.windowTitle());
+        EXPECT_EQ(QMessageBox::NoIcon, Box.icon());
+    });
+    QGuiApplication::setApplicationDisplayName(Before);
+}
+
+TEST_F(Boxes, EnterIsYesAndEscapeAndTheCloseButtonAreNo) {
+    EXPECT_EQ(BoxAnswer::Yes, Answer(YesNo, [](QMessageBox& Box) {
+                  EXPECT_EQ(Box.button(QMessageBox::Yes), Box.defaultButton());
+                  QTest::keyClick(&Box, Qt::Key_Return);
+              }));
+    EXPECT_EQ(BoxAnswer::No,
+              Answer(YesNo, [](QMessageBox& Box) { QTest::keyClick(&Box, Qt::Key_Escape); }));
+    EXPECT_EQ(BoxAnswer::No, Answer(YesNo, [](QMessageBox& Box) { Box.close(); }));
+}
+
+TEST_F(Boxes, TextThatLooksLikeMarkupIsShownToTheLetter) {
+    const BoxRequest Odd{
+        QStringLiteral("<b>Holiday</b> & <i>Sea</i>"), {}, BoxIcon::Critical, BoxButtons::Ok};
+    Answer(Odd, [&](QMessageBox& Box) {
+        EXPECT_EQ(Qt::PlainText, Box.textFormat());
+        EXPECT_EQ(Odd.Text, Box.text());
+        EXPECT_EQ(QMessageBox::Critical, Box.icon());
+    });
+}
+
+TEST_F(Boxes, ThePointerIsNormalWhileABoxIsUpAndBackAfterwards) {
+    SetScreenPointer(Pointer::Hourglass);
+    Answer(YesNo, [](QMessageBox&) { EXPECT_EQ(Pointer::Default, ScreenPointer()); });
+    EXPECT_EQ(Pointer::Hourglass, ScreenPointer());
+}
+
+TEST_F(Boxes, ABoxSurvivesTheWindowThatItStandsOver) {
+    auto Under = NewForm<TestForm>();
+    Under->ShowModeless();
+    Under->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(Under.get()));
+    const QPointer<Form> Watched = Under.get();
+    const auto Given = Answer(YesNo, [&](QMessageBox&) {
+        Under->Unload();
+        Under.reset();
+        QTest::qWait(20);
+    });
+    EXPECT_EQ(BoxAnswer::No, Given);
+    Settle();
+    EXPECT_TRUE(Watched.isNull());
+}
+
+TEST_F(Boxes, FileDialogsOfferTheFiltersInOrder) {
+    const QString Filters = QStringLiteral("Pictures (*.bmp;*.jpg)|*.bmp;*.jpg|Sounds|*.wav");
+    WhenOpen<QFileDialog>([](QFileDialog& Dialog) {
+        EXPECT_EQ(QStringList(
+                      {QStringLiteral("Pictures (*.bmp *.jpg)"), QStringLiteral("Sounds (*.wav)")}),
+                  Dialog.nameFilters());
+        EXPECT_EQ(u"Choose", Dialog.windowTitle());
+        EXPECT_EQ(QFileDialog::AcceptOpen, Dialog.acceptMode());
+    });
+    EXPECT_TRUE(DesktopFileDialogs().OpenFile(QStringLiteral("Choose"), {}, Filters).isEmpty());
+}
+
+TEST_F(Boxes, TheFilterForAllFilesTakesNamesWithoutADotToo) {
+    WhenOpen<QFileDialog>([](QFileDialog& Dialog) {
+        EXPECT_EQ(QStringList(QStringLiteral("All Files (*)")), Dialog.nameFilters());
+        EXPECT_EQ(QFileDialog::AcceptSave, Dialog.acceptMode());
+    });
+    const QString Filters = QStringLiteral("All Files (*.*)|*.*");
+    EXPECT_TRUE(DesktopFileDialogs().SaveFile(QStringLiteral("Save"), {}, Filters).isEmpty());
+}
+
+namespace {
+
+struct LongMessage : Boxes {
+    std::shared_ptr<frmMsgBoxEx> Box = NewForm<frmMsgBoxEx>();
+    int Show(const std::function<void()>& WhileUp) {
+        QTimer::singleShot(30, Box.get(), WhileUp);
+        return Box->ShowMsgBox(QStringLiteral("Operation Failed"),
+                               QStringLiteral("<one>\ntwo & three"));
+    }
+};
+
+}  // namespace
+
+TEST_F(LongMessage, ShowsTheWholeTextUnderItsTitleAndAnswersZero) {
+    const int Result = Show([&] {
+        const auto* txtErrorText = Box->findChild<QPlainTextEdit*>(QStringLiteral("txtErrorText"));
+        ASSERT_NE(nullptr, txtErrorText);
+        EXPECT_EQ(u"<one>\ntwo & three", txtErrorText->toPlainText());
+        EXPECT_TRUE(txtErrorText->isReadOnly());
+        EXPECT_EQ(u"Operation Failed", Box->windowTitle());
+        EXPECT_TRUE(Box->isModal());
+        QTest::mouseClick(Box->findChild<QPushButton*>(QStringLiteral("cmdOkay")), Qt::LeftButton);
+    });
+    EXPECT_EQ(0, Result);
+    EXPECT_FALSE(Box->IsLoaded());
+}
+
+TEST_F(LongMessage, EnterInTheTextAndEscapeCloseIt) {
+    Show([&] {
+        auto* txtErrorText = Box->findChild<QPlainTextEdit*>(QStringLiteral("txtErrorText"));
+        QTest::keyClick(txtErrorText, Qt::Key_Return);
+        EXPECT_FALSE(Box->isVisible());
+        Box->Unload();
+    });
+    Box = NewForm<frmMsgBoxEx>();
+    Show([&] {
+        QTest::keyClick(Box.get(), Qt::Key_Escape);
+        EXPECT_FALSE(Box->isVisible());
+        Box->Unload();
+    });
+}
+
+TEST_F(LongMessage, HasANormalPointerWhileItIsUpAndPutsTheOldOneBack) {
+    SetScreenPointer(Pointer::Hourglass);
+    Show([&] {
+        EXPECT_EQ(Pointer::Default, ScreenPointer());
+        Box->Unload();
+    });
+    EXPECT_EQ(Pointer::Hourglass, ScreenPointer());
+}

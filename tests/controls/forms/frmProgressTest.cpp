@@ -1,0 +1,146 @@
+#include "controls/forms/frmProgress.h"
+
+#include <QPointer>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QTimer>
+
+#include "controls/forms/TestForm.h"
+#include "controls/forms/frmLoading.h"
+#include "harness/ScriptedBoxes.h"
+#include "support/Fault.h"
+#include "support/Services.h"
+
+using namespace neb;
+using namespace neb::harness;
+
+namespace {
+
+// A window that is the parent of its own long work, as the slide managers are.
+class WorkingForm : public TestForm, public ProgressParent {
+  public:
+    std::shared_ptr<frmLoading> Loading;
+    std::shared_ptr<frmProgress> Progress;
+    std::function<void()> Work;
+    void DoActivity() override { Work(); }
+    void StartOperation() override { Work(); }
+};
+
+// Runs Show in a button of a window that only the list of forms holds, and unloads that window
+// at a yield of the work.
+struct ClosedAtAYield : ::testing::Test {
+    NoFormsLeft Clean;
+    QPointer<WorkingForm> Window;
+    bool AliveAfterYield = false;
+
+    void Run(const std::function<void(WorkingForm&)>& Show) {
+        auto Made = NewForm<WorkingForm>();
+        Window = Made.get();
+        Made->Work = [this] {
+            QTimer::singleShot(0, Window, [this] { Window->Unload(); });
+            for (int I = 0; I < 20; ++I) DoEvents();
+            AliveAfterYield = !Window.isNull();
+        };
+        auto* Button = new QPushButton(Made.get());
+        QObject::connect(Button, &QPushButton::clicked, [&] { Show(*Window); });
+        Made->ShowModeless();
+        Made.reset();
+        QTimer::singleShot(0, Button, [Button] { QTest::mouseClick(Button, Qt::LeftButton); });
+        QTest::qWait(100);
+    }
+};
+
+struct ProgressTest : ::testing::Test {
+    NoFormsLeft Clean;
+    TestWorker Parent;
+    std::shared_ptr<frmProgress> Meter = NewForm<frmProgress>();
+};
+
+}  // namespace
+
+TEST_F(ClosedAtAYield, AParentWindowOfALoadLivesUntilItsWorkHasReturned) {
+    Run([](WorkingForm& Parent) {
+        Parent.Loading = NewForm<frmLoading>();
+        Parent.Loading->ShowProgressMeter(Parent);
+    });
+    EXPECT_TRUE(AliveAfterYield);
+    EXPECT_TRUE(Window.isNull()) << "and no longer";
+}
+
+TEST_F(ClosedAtAYield, AParentWindowOfAnOperationLivesUntilItsWorkHasReturned) {
+    Run([](WorkingForm& Parent) {
+        Parent.Progress = NewForm<frmProgress>();
+        Parent.Progress->ShowProgressMeter(Parent);
+    });
+    EXPECT_TRUE(AliveAfterYield);
+    EXPECT_TRUE(Window.isNull()) << "and no longer";
+}
+
+TEST_F(ProgressTest, RunsTheOperationOnceAndCloses) {
+    Parent.OnOperation = [&] {
+        EXPECT_TRUE(Meter->isVisible());
+        EXPECT_TRUE(Meter->isModal());
+        EXPECT_EQ(u"Working ...", Meter->windowTitle());
+        Meter->pgbLoadingProgress()->setValue(50);
+        Meter->Refresh();
+        DoEvents();
+    };
+    Meter->ShowProgressMeter(Parent);
+    EXPECT_EQ(1, Parent.Operations);
+    EXPECT_EQ(0, Parent.Activities);
+    EXPECT_FALSE(Meter->isVisible());
+    EXPECT_TRUE(LoadedForms().empty());
+}
+
+TEST_F(ProgressTest, MayBeUnloadedByTheWorker) {
+    Parent.OnOperation = [&] {
+        Meter->ClearParent();
+        Meter->Unload();
+    };
+    Meter->ShowProgressMeter(Parent);
+    EXPECT_EQ(1, Parent.Operations);
+    EXPECT_TRUE(LoadedForms().empty());
+}
+
+TEST_F(ProgressTest, EscapeAndTheCloseButtonDoNothing) {
+    const ScriptedBoxes Boxes;
+    Parent.OnOperation = [&] {
+        QTest::keyClick(Meter.get(), Qt::Key_Escape);
+        EXPECT_FALSE(Meter->close());
+        EXPECT_TRUE(Meter->isVisible());
+    };
+    Meter->ShowProgressMeter(Parent);
+    EXPECT_EQ(1, Parent.Operations);
+    EXPECT_EQ(0, Parent.Aborts);
+    EXPECT_EQ(0, Boxes.ShownCount());
+}
+
+TEST_F(ProgressTest, ASecondActivationStartsNothing) {
+    Parent.OnOperation = [&] {
+        QEvent Again(QEvent::WindowActivate);
+        QCoreApplication::sendEvent(Meter.get(), &Again);
+        QTest::qWait(10);
+    };
+    Meter->ShowProgressMeter(Parent);
+    EXPECT_EQ(1, Parent.Operations);
+}
+
+TEST_F(ProgressTest, AFaultOfTheOperationPassesOutWithTheWindowGone) {
+    Parent.OnOperation = [] { throw Fault(QStringLiteral("disk full")); };
+    EXPECT_THROW(Meter->ShowProgressMeter(Parent), Fault);
+    EXPECT_TRUE(LoadedForms().empty());
+}
+
+TEST_F(ProgressTest, ClosesWhenItsParentHasGoneBeforeTheFirstActivation) {
+    bool Stuck = false;
+    QTimer::singleShot(500, Meter.get(), [&] {
+        Stuck = true;
+        Meter->Unload();
+    });
+    QObject Early;
+    QMetaObject::invokeMethod(
+        &Early, [&] { Meter->ClearParent(); }, Qt::QueuedConnection);
+    Meter->ShowProgressMeter(Parent);
+    EXPECT_EQ(0, Parent.Operations);
+    EXPECT_FALSE(Stuck);
+}
