@@ -10,10 +10,10 @@
 #include "controls/grid/FlexGrid.h"
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
-#include "intake/clsImageBuffer.h"
 #include "pictures/ImgX.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/files/modHostFiles.h"
+#include "windows/lists/clsImageBuffer.h"
 
 namespace neb {
 

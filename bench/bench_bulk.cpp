@@ -6,8 +6,8 @@
 
 #include "BenchAlbum.h"
 #include "controls/forms/NebApplication.h"
-#include "intake/frmSlideMgrBulk.h"
 #include "support/Services.h"
+#include "windows/slides/frmSlideMgrBulk.h"
 
 using namespace neb;
 

@@ -9,11 +9,11 @@
 
 #include "BenchAlbum.h"
 #include "controls/forms/NebApplication.h"
-#include "intake/frmAlbumDelete.h"
-#include "intake/frmSlideDBM.h"
-#include "intake/frmSlideMgrBulk.h"
-#include "intake/modAlbumNames.h"
 #include "support/Services.h"
+#include "windows/albums/frmAlbumDelete.h"
+#include "windows/albums/modAlbumNames.h"
+#include "windows/slides/frmSlideDBM.h"
+#include "windows/slides/frmSlideMgrBulk.h"
 
 using namespace neb;
 

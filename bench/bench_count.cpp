@@ -13,9 +13,9 @@
 
 #include "albums/modPictureFiles.h"
 #include "controls/directories/DirectoryTree.h"
-#include "intake/frmDirSelect.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/files/modHostFiles.h"
+#include "windows/import/frmDirSelect.h"
 
 using namespace neb;
 

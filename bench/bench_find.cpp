@@ -18,10 +18,10 @@
 #include "controls/directories/Drives.h"
 #include "controls/forms/NebApplication.h"
 #include "controls/grid/FlexGrid.h"
-#include "intake/frmFindGraphics.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Services.h"
 #include "support/files/modHostFiles.h"
+#include "windows/import/frmFindGraphics.h"
 
 using namespace neb;
 

@@ -5,9 +5,9 @@
 #include <QPushButton>
 
 #include "BenchAlbum.h"
-#include "authoring/frmSlideShowDBM.h"
 #include "controls/forms/NebApplication.h"
 #include "support/Services.h"
+#include "windows/compose/frmSlideShowDBM.h"
 
 using namespace neb;
 

@@ -4,11 +4,11 @@
 #include "TourSteps.h"
 #include "controls/forms/frmLoading.h"
 #include "controls/forms/frmProgress.h"
-#include "intake/frmDirSelect.h"
-#include "intake/frmFindGraphics.h"
-#include "intake/frmImportFilter.h"
-#include "intake/frmNewAlbumWzd1.h"
 #include "shell/main/frmNEBSlideShow.h"
+#include "windows/import/frmDirSelect.h"
+#include "windows/import/frmFindGraphics.h"
+#include "windows/import/frmImportFilter.h"
+#include "windows/import/frmNewAlbumWzd1.h"
 
 namespace neb::demo {
 namespace {

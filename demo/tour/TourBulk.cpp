@@ -3,9 +3,9 @@
 #include "TourControls.h"
 #include "TourSteps.h"
 #include "controls/forms/frmLoading.h"
-#include "intake/frmAlbumRename.h"
-#include "intake/frmSlideMgrBulk.h"
 #include "shell/main/frmNEBSlideShow.h"
+#include "windows/albums/frmAlbumRename.h"
+#include "windows/slides/frmSlideMgrBulk.h"
 
 namespace neb::demo {
 namespace {

@@ -3,10 +3,10 @@
 #include "Tour.h"
 #include "TourControls.h"
 #include "TourSteps.h"
-#include "authoring/SlideGrids.h"
-#include "authoring/frmSlideShowDBM.h"
 #include "controls/forms/frmLoading.h"
-#include "intake/clsImageBuffer.h"
+#include "windows/compose/frmSlideShowDBM.h"
+#include "windows/lists/SlideGrids.h"
+#include "windows/lists/clsImageBuffer.h"
 
 namespace neb::demo {
 namespace {

@@ -4,9 +4,9 @@
 #include "TourSteps.h"
 #include "TourWatch.h"
 #include "controls/picture/XShow.h"
-#include "presentation/EffectList.h"
-#include "presentation/frmPreferences.h"
 #include "shell/main/frmNEBSlideShow.h"
+#include "windows/show/EffectList.h"
+#include "windows/show/frmPreferences.h"
 
 namespace neb::demo {
 namespace {

@@ -8,12 +8,12 @@
 #include "controls/forms/frmLoading.h"
 #include "controls/forms/frmProgress.h"
 #include "controls/picture/XShow.h"
-#include "intake/frmDirSelect.h"
-#include "intake/frmPicturePopup.h"
-#include "intake/frmQuickShow.h"
-#include "presentation/frmSlideShowProjector.h"
-#include "presentation/frmSpeedTest.h"
 #include "shell/main/frmNEBSlideShow.h"
+#include "windows/import/frmDirSelect.h"
+#include "windows/import/frmQuickShow.h"
+#include "windows/lists/frmPicturePopup.h"
+#include "windows/show/frmSlideShowProjector.h"
+#include "windows/show/frmSpeedTest.h"
 
 namespace neb::demo {
 namespace {

@@ -4,9 +4,9 @@
 #include "Tour.h"
 #include "TourControls.h"
 #include "TourSteps.h"
-#include "intake/frmSlideDBM.h"
-#include "presentation/frmSoundRecorder.h"
 #include "shell/main/frmNEBSlideShow.h"
+#include "windows/recorder/frmSoundRecorder.h"
+#include "windows/slides/frmSlideDBM.h"
 
 namespace neb::demo {
 namespace {

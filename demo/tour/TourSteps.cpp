@@ -6,10 +6,10 @@
 #include "TourControls.h"
 #include "TourWatch.h"
 #include "controls/picture/XShow.h"
-#include "presentation/frmSlideShowProjector.h"
-#include "presentation/frmSpeedTest.h"
-#include "presentation/modSlideShows.h"
 #include "shell/main/frmNEBSlideShow.h"
+#include "windows/show/frmSlideShowProjector.h"
+#include "windows/show/frmSpeedTest.h"
+#include "windows/show/modSlideShows.h"
 
 namespace neb::demo {
 namespace {

@@ -7,9 +7,9 @@
 #include "TourSteps.h"
 #include "TourWatch.h"
 #include "controls/picture/XShow.h"
-#include "presentation/frmSlideShowProjector.h"
-#include "presentation/modSlideShows.h"
 #include "shell/main/frmNEBSlideShow.h"
+#include "windows/show/frmSlideShowProjector.h"
+#include "windows/show/modSlideShows.h"
 
 namespace neb::demo {
 namespace {

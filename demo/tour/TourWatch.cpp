@@ -3,9 +3,9 @@
 #include "TourControls.h"
 #include "TourSound.h"
 #include "controls/picture/XShow.h"
-#include "presentation/frmSlideShowProjector.h"
-#include "presentation/modSlideShows.h"
 #include "support/files/modHostFiles.h"
+#include "windows/show/frmSlideShowProjector.h"
+#include "windows/show/modSlideShows.h"
 
 namespace neb::demo {
 namespace {

@@ -4,8 +4,8 @@
 #include <optional>
 
 #include "db/clsDBEngine.h"
-#include "presentation/modSlideShows.h"
 #include "settings/modNEBSlideShow.h"
+#include "show/ShowMemory.h"
 #include "show/rehearsal/RehearsalFindings.h"
 #include "support/modDEValidation.h"
 #include "tools/modCommands.h"

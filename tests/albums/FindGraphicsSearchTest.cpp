@@ -11,7 +11,7 @@
 #include "albums/modPictureFiles.h"
 #include "harness/TempFolder.h"
 #include "harness/WithoutPrivileges.h"
-#include "intake/WindowSteps.h"
+#include "windows/WindowSteps.h"
 
 namespace neb {
 namespace {

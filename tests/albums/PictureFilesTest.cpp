@@ -5,7 +5,7 @@
 
 #include "albums/modPictureFiles.h"
 #include "harness/WithoutPrivileges.h"
-#include "intake/IntakeHarness.h"
+#include "windows/import/IntakeHarness.h"
 
 namespace neb {
 namespace {

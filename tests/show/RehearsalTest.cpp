@@ -1,6 +1,6 @@
 // The run of a show on a rehearsal's clock: which slides come up when, and where it ends.
 #include "RehearsalRig.h"
-#include "presentation/modSlideShows.h"
+#include "windows/show/modSlideShows.h"
 
 namespace neb::test {
 namespace {

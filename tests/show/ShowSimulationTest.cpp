@@ -3,8 +3,8 @@
 #include <cmath>
 
 #include "RehearsalRig.h"
-#include "presentation/modSlideShows.h"
 #include "support/modFUFL.h"
+#include "windows/show/modSlideShows.h"
 
 namespace neb::test {
 namespace {

@@ -10,7 +10,6 @@
 #include "controls/grid/FlexGrid.h"
 #include "db/clsDBEngine.h"
 #include "db/records/modJournal.h"
-#include "intake/clsImageBuffer.h"
 #include "settings/modNEBSlideShow.h"
 #include "shell/main/MainMenu.h"
 #include "shell/main/Workspace.h"
@@ -18,6 +17,7 @@
 #include "support/Fault.h"
 #include "support/Services.h"
 #include "support/files/modHostFiles.h"
+#include "windows/lists/clsImageBuffer.h"
 
 namespace neb {
 namespace {

@@ -3,26 +3,26 @@
 #include <QMdiSubWindow>
 #include <QMenu>
 
-#include "authoring/frmSlideShowDBM.h"
 #include "db/clsDBEngine.h"
-#include "intake/frmNewAlbumWzd1.h"
-#include "intake/frmQuickShow.h"
-#include "intake/frmSlideDBM.h"
-#include "intake/frmSlideMgrBulk.h"
-#include "intake/modAlbumNames.h"
-#include "presentation/modSlideShows.h"
 #include "settings/modNEBSlideShow.h"
-#include "shell/Openers.h"
 #include "shell/main/MainMenu.h"
 #include "shell/main/Workspace.h"
 #include "shell/main/frmAbout.h"
 #include "shell/main/frmHelp.h"
 #include "shell/main/frmNEBSlideShow.h"
-#include "shell/modWindowState.h"
 #include "show/ShowSettings.h"
 #include "support/Fault.h"
 #include "support/Services.h"
 #include "support/files/modHostFiles.h"
+#include "windows/albums/modAlbumNames.h"
+#include "windows/compose/frmSlideShowDBM.h"
+#include "windows/frame/Openers.h"
+#include "windows/frame/modWindowState.h"
+#include "windows/import/frmNewAlbumWzd1.h"
+#include "windows/import/frmQuickShow.h"
+#include "windows/show/modSlideShows.h"
+#include "windows/slides/frmSlideDBM.h"
+#include "windows/slides/frmSlideMgrBulk.h"
 
 namespace neb {
 namespace {

@@ -1,9 +1,9 @@
 #include "shell/main/modMachineSettings.h"
 
 #include "controls/forms/ScreenPointer.h"
-#include "presentation/frmSpeedTest.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/modNumbers.h"
+#include "windows/show/frmSpeedTest.h"
 
 namespace neb {
 namespace {

@@ -1,0 +1,52 @@
+#include "windows/albums/frmAlbumDelete.h"
+
+#include <QScopedValueRollback>
+
+#include "albums/AlbumRemoval.h"
+#include "controls/fields/Icons.h"
+#include "controls/forms/PaintRate.h"
+#include "controls/forms/ScreenPointer.h"
+#include "db/clsDBEngine.h"
+#include "settings/modNEBSlideShow.h"
+#include "support/Services.h"
+#include "ui_frmAlbumDelete.h"
+#include "windows/albums/modAlbumNames.h"
+
+namespace neb {
+
+frmAlbumDelete::frmAlbumDelete() : mUi(std::make_unique<Ui::frmAlbumDelete>()) {
+    mUi->setupUi(this);
+    setWindowIcon(ThemeIcon(QStringLiteral("album-delete")));
+    SetControls({mUi->cboAlbum, mUi->lblHint, {mUi->lblAlbum, mUi->cboAlbum}, {mUi->cmdDelete}});
+    connect(mUi->cmdDelete, &QPushButton::clicked, this, &frmAlbumDelete::Delete);
+    connect(mUi->cmdClose, &QPushButton::clicked, this, &frmAlbumDelete::Unload);
+}
+
+frmAlbumDelete::~frmAlbumDelete() = default;
+
+void frmAlbumDelete::Delete() {
+    const auto AlbumID = ChosenAlbum();
+    if (!AlbumID) return;
+    const bool Sure = AskYesNo(
+        QStringLiteral("Are you sure you want to delete the selected Album?\n"
+                       "If you proceed all the slides and slide shows within\nwill be lost."),
+        QStringLiteral("Delete Confirmation"));
+    if (!Sure || !DBEngine->DeleteAlbum(*AlbumID)) return;
+    DeleteFiles(*AlbumID);
+    NoteDone();
+    Broadcast(QStringLiteral("Delete"), *AlbumID);
+    Unload();
+}
+
+// Thousands of files on a slow medium take their time; the window cannot be left meanwhile.
+void frmAlbumDelete::DeleteFiles(std::int32_t AlbumID) {
+    const QScopedValueRollback<bool> Deleting(mDeleting, true);
+    const PointerScope Working(Pointer::Hourglass);
+    setEnabled(false);
+    PaintRate Rate;
+    DeleteAlbumFiles(DBEngine->DBPath(), AlbumID, [&Rate] {
+        if (Rate.IsDue()) DoEvents();
+    });
+}
+
+}  // namespace neb

@@ -1,0 +1,132 @@
+#include "windows/import/DirectoryPanel.h"
+
+#include "albums/modPictureFiles.h"
+#include "controls/forms/ScreenPointer.h"
+#include "settings/modNEBSlideShow.h"
+#include "support/Fault.h"
+#include "support/Services.h"
+#include "support/files/modHostFiles.h"
+#include "ui_DirectoryPanel.h"
+
+namespace neb {
+namespace {
+
+constexpr int AtOnceMs = 30;  // a count that takes no longer is shown without an hourglass
+constexpr int LookMs = 50;
+
+QString MemoryFile() {
+    return AppPath() + QStringLiteral("DS.ini");
+}
+
+}  // namespace
+
+QString ReadLastDirectory() {
+    try {
+        if (!FileExists(MemoryFile())) return {};
+        QByteArray Line = ReadFile(MemoryFile()).split('\n').value(0);
+        if (Line.endsWith('\r')) Line.chop(1);
+        return QString::fromUtf8(Line);
+    } catch (const Fault&) {
+        return {};
+    }
+}
+
+void WriteLastDirectory(const QString& Directory) {
+    try {
+        DeleteFile(MemoryFile());
+        WriteFile(MemoryFile(), Directory.toUtf8() + '\n');
+    } catch (const Fault&) {
+        // a program folder that cannot be written remembers nothing
+    }
+}
+
+DirectoryPanel::DirectoryPanel(QWidget* Parent)
+    : QWidget(Parent), mUi(std::make_unique<Ui::DirectoryPanel>()) {
+    mUi->setupUi(this);
+    mUi->Dir1->SetDrives(mUi->Drive1);
+    connect(mUi->Dir1, &DirectoryTree::Change, this, &DirectoryPanel::StartCount);
+    connect(mUi->chkRecurseDir, &QCheckBox::clicked, this, &DirectoryPanel::RecurseClicked);
+    connect(&mLook, &QTimer::timeout, this, &DirectoryPanel::LookAtCount);
+}
+
+DirectoryPanel::~DirectoryPanel() {
+    StopCount();
+}
+
+void DirectoryPanel::Begin() {
+    mUi->Dir1->SetPath(ReadLastDirectory());
+    mBegun = true;
+    StartCount();
+}
+
+void DirectoryPanel::End() {
+    mBegun = false;
+    StopCount();
+    WriteLastDirectory(Path());
+}
+
+void DirectoryPanel::SetRecurseDirOption(bool Offered) {
+    mRecurseDirOption = Offered;
+    mUi->chkRecurseDir->setVisible(Offered);
+}
+
+void DirectoryPanel::SetCountGraphics(bool Shown) {
+    mCountGraphics = Shown;
+    mUi->lblDirSummary->setVisible(Shown);
+    mUi->lblDirSummary->clear();
+    StartCount();
+}
+
+QString DirectoryPanel::Path() const {
+    return mUi->Dir1->Path();
+}
+
+bool DirectoryPanel::TakeChoice() {
+    mRecurseDir = mUi->chkRecurseDir->isChecked();
+    if (mUi->Dir1->TakeTyped()) return true;
+    MsgBox(tr("There is no directory of this name.") + u'\n' + mUi->Dir1->TypedText());
+    return false;
+}
+
+void DirectoryPanel::RecurseClicked() {
+    if (!mRecurseDirOption) return;
+    mRecurseDir = mUi->chkRecurseDir->isChecked();
+    StartCount();
+}
+
+// Whatever is counted, the window stays alive; and the count of a directory that the user has
+// left already is not waited for.
+void DirectoryPanel::StartCount() {
+    StopCount();
+    if (!mCountGraphics || !mBegun) return;
+    mCount = std::make_shared<RunningCount>();
+    const auto Work = [](const CountOrder& Order) {
+        return CountGraphicFiles(Order.Directory, Order.Recurse, *Order.Count);
+    };
+    mCounter = std::make_unique<AheadQueue<CountOrder, std::int32_t>>(
+        std::vector{CountOrder{Path(), mRecurseDir, mCount}}, Work);
+    mLook.start(LookMs);
+    SetScreenPointer(Pointer::Hourglass);
+    mCounter->Wait(AtOnceMs);
+    LookAtCount();
+}
+
+void DirectoryPanel::LookAtCount() {
+    if (!mCounter->Ready()) {
+        mUi->lblDirSummary->setText(tr("%1 graphics files so far ...").arg(mCount->SoFar));
+        return;
+    }
+    mUi->lblDirSummary->setText(QString::number(mCounter->Take()) +
+                                QStringLiteral(" graphics files detected."));
+    StopCount();
+}
+
+void DirectoryPanel::StopCount() {
+    if (!mCounter) return;
+    mCount->Stop = true;
+    mCounter.reset();
+    mLook.stop();
+    SetScreenPointer(Pointer::Default);
+}
+
+}  // namespace neb

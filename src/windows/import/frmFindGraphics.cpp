@@ -1,0 +1,370 @@
+#include "windows/import/frmFindGraphics.h"
+
+#include <QHeaderView>
+
+#include "albums/GraphicsSearch.h"
+#include "controls/directories/Drives.h"
+#include "controls/fields/ComboBoxList.h"
+#include "controls/fields/Icons.h"
+#include "controls/forms/ScreenPointer.h"
+#include "controls/forms/modTwips.h"
+#include "controls/grid/FlexGrid.h"
+#include "settings/modNEBSlideShow.h"
+#include "support/Fault.h"
+#include "support/Services.h"
+#include "support/modNumbers.h"
+#include "ui_frmFindGraphics.h"
+#include "windows/frame/modWindowState.h"
+#include "windows/import/frmDirSelect.h"
+
+namespace neb {
+namespace {
+
+const QString AllDrives = QStringLiteral("All Drives");
+const QString Browse = QStringLiteral("Browse");
+const QString Caption = QStringLiteral("Find Graphics");
+const QString Section = QStringLiteral("Find Graphics Window");
+const QString Failed = QStringLiteral("Operation Failed");
+constexpr int FilesPerTick = 200;
+constexpr int WaitMs = 10;
+constexpr double YieldMs = 30;
+constexpr QSize LeastTwips(6200, 3500);
+
+enum ItemData : std::int32_t { Searched = 0, NotSearched = 1 };
+enum WindowState { Normal = 0, Minimised = 1, Maximised = 2 };
+
+// Sample is the longest usual text: a larger font makes the column wider.
+const struct {
+    const char *Heading, *Sample;
+    int Twips;
+    Qt::Alignment Align;
+} Columns[] = {{"File Name", "IMG_0000.JPEG", 1965, Qt::AlignLeft},
+               {"Path", "", 3030, Qt::AlignLeft},
+               {"Size", "00,000.0 KB", 990, Qt::AlignRight},
+               {"Date", "00/00/0000 00:00 AM", 2400, Qt::AlignLeft}};
+constexpr int ColCount = static_cast<int>(std::size(Columns));
+constexpr int ColName = 0;
+constexpr int ColPath = 1;
+
+QString WidthKey(int Col) {
+    return QStringLiteral("Col%1.Width").arg(Col);
+}
+
+// Stored twips in pixels, or what is there when there are none.
+int StoredPixels(const clsSettings& Settings, const QString& Key, int Present) {
+    const std::int32_t Twips = CInt(Val(Settings.GetValue(Section, Key, {})));
+    return Twips > 0 ? ToPixels(Twips) : Present;
+}
+
+void PutTwips(clsSettings& Settings, const QString& Key, int Pixels) {
+    Settings.PutValue(Section, Key, QString::number(ToTwips(Pixels)));
+}
+
+QStringList ReadyDrives() {
+    QStringList Ready;
+    const DriveList* Drives = TheServices().Drives;
+    for (const QString& Drive : Drives ? Drives->Drives() : QStringList())
+        if (Drives->IsReady(Drive)) Ready.append(Drive);
+    return Ready;
+}
+
+void TellFailure(const SearchStep& Step) {
+    const QString Given = u'\'' + Step.Directory + u'\'';
+    if (!Step.IsSub && Step.Error == std::errc::permission_denied) {
+        MsgBox(QStringLiteral("Access Denied to ") + Given, Failed);
+        return;
+    }
+    MsgBox((Step.IsSub ? QStringLiteral("Error Searching Sub Directory ")
+                       : QStringLiteral("Error Searching Directory ")) +
+               Given + u'\n' + Step.Entry + u'\n' + QString::fromStdString(Step.Error.message()),
+           Failed);
+}
+
+}  // namespace
+
+frmFindGraphics::frmFindGraphics() : mUi(std::make_unique<Ui::frmFindGraphics>()) {
+    mUi->setupUi(this);
+    setWindowFlag(Qt::WindowMaximizeButtonHint);
+    SetUpGrid();
+    SetUpButtons();
+    connect(mUi->cboSearchPath, &QComboBox::activated, this, &frmFindGraphics::SearchPathChosen);
+}
+
+frmFindGraphics::~frmFindGraphics() = default;
+
+void frmFindGraphics::SetUpGrid() {
+    FlexGrid& Grid = *mUi->flxResults;
+    Grid.SetCols(ColCount);
+    for (int Col = 0; Col < ColCount; ++Col) {
+        const auto& Each = Columns[Col];
+        Grid.SetColumn(Col, {.IsPath = Col == ColPath,
+                             .Align = Each.Align,
+                             .Heading = QString::fromLatin1(Each.Heading)});
+    }
+    Grid.SetEmptyText(
+        tr("Choose where to look and press Search.\n"
+           "The pictures found are listed here."));
+    connect(&Grid, &FlexGrid::SelChange, this, &frmFindGraphics::ShowSelected);
+}
+
+void frmFindGraphics::SetUpButtons() {
+    mUi->cmdSearch->setIcon(ThemeIcon(QStringLiteral("find-graphics")));
+    mUi->cmdCancel->setIcon(ThemeIcon(QStringLiteral("stop")));
+    mUi->cmdImport->setIcon(ThemeIcon(QStringLiteral("import")));
+    connect(mUi->cmdSearch, &QPushButton::clicked, this, &frmFindGraphics::Search);
+    connect(mUi->cmdCancel, &QPushButton::clicked, this, [this] { mCancel = true; });
+    connect(mUi->cmdImport, &QPushButton::clicked, this, &frmFindGraphics::Import);
+    connect(mUi->cmdClose, &QPushButton::clicked, this, &frmFindGraphics::Unload);
+}
+
+void frmFindGraphics::Form_Load() {
+    mUi->lstTypeFilter->addItems(GraphicTypes());
+    mUi->lstTypeFilter->selectAll();
+    FillSearchPath();
+    if (TheServices().Drives) TheServices().Drives->Watch(*this, [this] { FollowDrives(); });
+    FitColumns();
+    RestorePlace();
+}
+
+void frmFindGraphics::FitColumns() {
+    FlexGrid& Grid = *mUi->flxResults;
+    Grid.ensurePolished();  // the font is known only then
+    for (int Col = 0; Col < ColCount; ++Col) {
+        const QString Sample = QString::fromLatin1(Columns[Col].Sample);
+        Grid.setColumnWidth(Col, std::max(ToPixels(Columns[Col].Twips),
+                                          Grid.fontMetrics().horizontalAdvance(Sample) + 16));
+    }
+}
+
+// The drives first, then what was browsed to; the choice stays as long as it is there.
+void frmFindGraphics::FillSearchPath() {
+    mDrives = ReadyDrives();
+    ComboBoxList Paths(*mUi->cboSearchPath);
+    const QString Chosen = mUi->cboSearchPath->currentText();
+    QStringList Others;
+    for (int I = 0; I < Paths.ListCount(); ++I)
+        if (Paths.ItemData(I) == NotSearched) Others.append(Paths.List(I));
+    if (Others.isEmpty()) Others = {AllDrives, Browse};
+    Paths.Clear();
+    for (const QString& Drive : mDrives) Paths.AddItem(Drive, Searched);
+    for (const QString& Other : Others) Paths.AddItem(Other, NotSearched);
+    const int Place = mUi->cboSearchPath->findText(Chosen);
+    Paths.SetListIndex(Place < 0 ? Paths.ListCount() - 2 : Place);
+}
+
+// A search goes on over the list with which it began.
+void frmFindGraphics::FollowDrives() {
+    mDrivesMoved = mSearching;
+    if (IsLoaded() && !mSearching && ReadyDrives() != mDrives) FillSearchPath();
+}
+
+// A directory that was browsed to stays in the list until the window closes.
+void frmFindGraphics::SearchPathChosen() {
+    if (mUi->cboSearchPath->currentText() != Browse) return;
+    const auto Held = shared_from_this();
+    const auto Selector = NewForm<frmDirSelect>();
+    Selector->SetRecurseDirOption(false);
+    Selector->SetCountGraphics(false);
+    const QString Chosen = Selector->SelectDirectory();
+    if (Chosen.isEmpty() || !IsLoaded()) return;
+    ComboBoxList Paths(*mUi->cboSearchPath);
+    const int Place = Paths.ListCount() - 2;  // before "All Drives"
+    Paths.InsertItem(Place, Chosen, NotSearched);
+    Paths.SetListIndex(Place);
+}
+
+void frmFindGraphics::Search() {
+    if (mSearching) return;
+    const auto Held = shared_from_this();
+    mCancel = false;
+    mSearching = true;
+    mNextYield = 0;
+    setWindowTitle(Caption);
+    SearchPathChosen();
+    if (!IsLoaded() || mUi->cboSearchPath->currentText() == Browse) {
+        mSearching = false;
+        return;
+    }
+    const PointerScope Working(Pointer::Hourglass);
+    EnableForSearch(true);
+    try {
+        SearchChosen();
+    } catch (const std::exception& Problem) {
+        ShowFound();
+        MsgBox(QStringLiteral("Error Searching\n") + QString::fromUtf8(Problem.what()), Failed);
+    }
+    SearchEnded();
+}
+
+void frmFindGraphics::SearchChosen() {
+    mResultCount = 0;
+    mUi->lblResults->setText(QStringLiteral("0 Results"));
+    mUi->lblSelected->setText(QStringLiteral("0 Selected"));
+    mUi->flxResults->SetRows(0);
+    DoEvents();
+    const ComboBoxList Paths(*mUi->cboSearchPath);
+    if (mUi->cboSearchPath->currentText() != AllDrives) {
+        SearchDirectory(mUi->cboSearchPath->currentText());
+        return;
+    }
+    for (int I = 0; I < Paths.ListCount(); ++I)
+        if (Paths.ItemData(I) == Searched && (!SearchDirectory(Paths.List(I)) || mCancel)) return;
+}
+
+void frmFindGraphics::SearchEnded() {
+    EnableForSearch(false);
+    mUi->cmdImport->setEnabled(mResultCount > 0);
+    mUi->lblResults->setText(QString::number(mResultCount) + QStringLiteral(" Results"));
+    setWindowTitle(Caption);
+    mSearching = false;
+    if (IsLoaded() && !focusWidget()) mUi->flxResults->setFocus();
+    if (mDrivesMoved) FollowDrives();
+}
+
+void frmFindGraphics::EnableForSearch(bool Searching) {
+    QWidget* const Idle[] = {mUi->cmdSearch, mUi->cboSearchPath, mUi->lstTypeFilter,
+                             mUi->txtFilter};
+    // the keyboard stays in the window: what is disabled under it hands it to the grid
+    if (Searching) mUi->flxResults->setFocus();
+    if (Searching) mUi->cmdImport->setEnabled(false);
+    for (QWidget* Each : Idle) Each->setEnabled(!Searching);
+    mUi->cmdCancel->setEnabled(Searching);
+}
+
+QStringList frmFindGraphics::SelectedTypes() const {
+    QStringList Types;
+    for (int Row = 0; Row < mUi->lstTypeFilter->count(); ++Row)
+        if (mUi->lstTypeFilter->item(Row)->isSelected())
+            Types.append(mUi->lstTypeFilter->item(Row)->text());
+    return Types;
+}
+
+// False after a box: the whole search ends. What was found stays in the grid and is not counted.
+bool frmFindGraphics::SearchDirectory(const QString& Directory) {
+    mUi->txtFilter->setText(NormalFilter(mUi->txtFilter->text()));
+    GraphicsSearch Walk(Directory, mUi->txtFilter->text(), SelectedTypes());
+    int Found = 0;
+    bool GoesOn = true;
+    while (GoesOn && !mCancel) {
+        if (!Walk.Wait(WaitMs)) {
+            ShowFound();
+            DoEvents();
+            continue;
+        }
+        if (Walk.AtEnd()) break;
+        GoesOn = TakeStep(Walk.Take(), Found);
+    }
+    ShowFound();
+    if (GoesOn) mResultCount += Found;
+    return GoesOn;
+}
+
+bool frmFindGraphics::TakeStep(const SearchStep& Step, int& Found) {
+    for (const QStringList& File : Step.Files) {
+        mFound.push_back(File);
+        ++Found;
+        TickFile();
+        if (mCancel) return true;
+    }
+    if (!Step.Error) {
+        TickDirectory();
+        return true;
+    }
+    ShowFound();
+    TellFailure(Step);
+    return false;
+}
+
+void frmFindGraphics::TickFile() {
+    if (++mFilesFound % FilesPerTick == 0) ShowProgress();
+}
+
+void frmFindGraphics::TickDirectory() {
+    ++mDirsSearched;
+    ShowProgress();
+}
+
+// Thousands of times a second there is a reason to; nobody sees more than this, and each time the
+// list is painted anew.
+void frmFindGraphics::ShowProgress() {
+    if (TheServices().Time->Ticks() < mNextYield) return;
+    setWindowTitle(
+        QStringLiteral("Find Graphics - %1 Directories Searched: %2 Graphics Files Found")
+            .arg(mDirsSearched)
+            .arg(mFilesFound));
+    ShowFound();
+    DoEvents();
+    mNextYield = TheServices().Time->Ticks() + YieldMs;
+}
+
+// Before the user can look at the grid again, what was found is in it.
+void frmFindGraphics::ShowFound() {
+    mUi->flxResults->AddItems(mFound);
+    mFound.clear();
+}
+
+void frmFindGraphics::ShowSelected() {
+    mUi->lblSelected->setText(QString::number(mUi->flxResults->SelectedRows()) +
+                              QStringLiteral(" Selected"));
+}
+
+void frmFindGraphics::Import() {
+    const FlexGrid& Grid = *mUi->flxResults;
+    const int Count = Grid.SelectedRows();
+    if (Count == 0) {
+        MsgBox(QStringLiteral("You must first select the files you want to import."),
+               QStringLiteral("Missing Selection(s)"), BoxIcon::Information);
+        return;
+    }
+    for (int I = 0; I < Count; ++I) {
+        const int Row = Grid.SelectedRow(I);
+        mFiles.append(Grid.TextMatrix(Row, ColPath) + Grid.TextMatrix(Row, ColName));
+    }
+    Unload();
+}
+
+void frmFindGraphics::reject() {
+    if (mSearching)
+        mCancel = true;
+    else
+        Form::reject();
+}
+
+bool frmFindGraphics::Form_Unload() {
+    if (mSearching) mCancel = true;
+    SavePlace();
+    return true;
+}
+
+void frmFindGraphics::RestorePlace() {
+    const QSize Least(ToPixels(LeastTwips.width()), ToPixels(LeastTwips.height()));
+    setMinimumSize(Least.expandedTo(layout()->minimumSize()));
+    const clsSettings Settings = OpenSettings();
+    const int Kept = CInt(Val(Settings.GetValue(Section, QStringLiteral("WindowState"), {})));
+    if (Kept == Maximised) setWindowState(Qt::WindowMaximized);
+    if (Kept != Maximised && Kept != Minimised)
+        resize(StoredPixels(Settings, QStringLiteral("WindowWidth"), width()),
+               StoredPixels(Settings, QStringLiteral("WindowHeight"), height()));
+    RestoreColumns(Settings);
+}
+
+void frmFindGraphics::RestoreColumns(const clsSettings& Settings) {
+    FlexGrid& Grid = *mUi->flxResults;
+    for (int Col = 0; Col < ColCount; ++Col)
+        Grid.setColumnWidth(Col, StoredPixels(Settings, WidthKey(Col), Grid.columnWidth(Col)));
+}
+
+void frmFindGraphics::SavePlace() const {
+    clsSettings Settings = OpenSettings();
+    const int Kept = isMinimized() ? Minimised : isMaximized() ? Maximised : Normal;
+    Settings.PutValue(Section, QStringLiteral("WindowState"), QString::number(Kept));
+    if (Kept == Normal) {
+        PutTwips(Settings, QStringLiteral("WindowWidth"), width());
+        PutTwips(Settings, QStringLiteral("WindowHeight"), height());
+    }
+    for (int Col = 0; Col < ColCount; ++Col)
+        PutTwips(Settings, WidthKey(Col), mUi->flxResults->columnWidth(Col));
+    SaveMemory(Settings);
+}
+
+}  // namespace neb

@@ -1,0 +1,33 @@
+#include "windows/show/CaptionLabel.h"
+
+#include <QPainter>
+
+#include "show/CaptionFit.h"
+#include "show/CaptionText.h"
+
+namespace neb {
+
+CaptionLabel::CaptionLabel(QWidget* Parent) : QLabel(Parent) {
+    setTextFormat(Qt::PlainText);
+    setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    setFont(CaptionFont(StandardCaption({}, {}, this).Points));
+}
+
+QString CaptionLabel::ShownText() const {
+    return ShownCaptionText(text());
+}
+
+int CaptionLabel::FitTo(int Width, int ScreenHeight, int MostHeight) {
+    const CaptionSetting Setting = FitCaption(ShownText(), {Width, ScreenHeight, MostHeight}, this);
+    setFont(CaptionFont(Setting.Points));
+    setAccessibleName(ShownText());
+    return Setting.Height;
+}
+
+void CaptionLabel::paintEvent(QPaintEvent*) {
+    QPainter Painter(this);
+    Painter.setPen(palette().color(foregroundRole()));
+    PaintCaption(Painter, ShownText(), width(), this);
+}
+
+}  // namespace neb

@@ -1,0 +1,53 @@
+#include "windows/show/frmPopup.h"
+
+namespace neb {
+
+frmPopup::frmPopup() {
+    setObjectName(QStringLiteral("frmPopup"));
+    mnuPopup.setObjectName(QStringLiteral("mnuPopup"));
+    mnuPopup.setAccessibleName(tr("Slide show commands"));
+    mnuGotoStart = Add("mnuGotoStart", tr("Goto Start"), "GotoStart");
+    mnuPrevious = Add("mnuPrevious", tr("Previous"), "Previous");
+    mnuPlay = Add("mnuPlay", tr("Play"), "Play");
+    mnuStop = Add("mnuStop", tr("Stop"), "Stop");
+    mnuNext = Add("mnuNext", tr("Next"), "Next");
+    mnuGotoEnd = Add("mnuGotoEnd", tr("Goto End"), "GotoEnd");
+    mnuPopup.addSeparator();
+    mnuPreferences = Add("mnuPreferences", tr("Preferences"), "Preferences");
+    mnuPopup.addSeparator();
+    mnuExit = Add("mnuExit", tr("Exit"), "Exit");
+}
+
+QAction* frmPopup::Add(const char* Name, const QString& Caption, const char* Word) {
+    QAction* Entry = mnuPopup.addAction(Caption);
+    Entry->setObjectName(QString::fromLatin1(Name));
+    connect(Entry, &QAction::triggered, this, [this, Chosen = QString::fromLatin1(Word)] {
+        mSelectedCommand = Chosen;
+        Unload();
+    });
+    return Entry;
+}
+
+void frmPopup::SetEntries(const ShowState& Show, bool Manual, bool HasSlide) {
+    const bool Running = Show.PlayCommand == u"Pause";
+    const bool Stopped = Show.PlayCommand == u"Play";
+    if (!Running && !Stopped && Show.PlayCommand != u"Resume") return;
+    for (QAction* Step : {mnuGotoStart, mnuPrevious, mnuNext, mnuGotoEnd})
+        Step->setEnabled(Running);
+    mnuPlay->setText(Show.PlayCommand);
+    mnuPlay->setEnabled(!Manual);
+    mnuStop->setEnabled(!Stopped || HasSlide);
+    if (mnuStop->isEnabled()) mnuStop->setText(Stopped ? Show.StopCommand : tr("Stop"));
+}
+
+QString frmPopup::SelectedCommand() {
+    Unload();
+    return mSelectedCommand;
+}
+
+void frmPopup::PopupMenu(const QPoint& GlobalPlace) {
+    Load();
+    mnuPopup.exec(GlobalPlace);
+}
+
+}  // namespace neb

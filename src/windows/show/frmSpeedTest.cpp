@@ -1,0 +1,130 @@
+#include "windows/show/frmSpeedTest.h"
+
+#include <QResizeEvent>
+#include <QScreen>
+#include <QStyle>
+#include <QTimer>
+
+#include "controls/forms/ScreenPointer.h"
+#include "controls/picture/XShow.h"
+#include "settings/modNEBSlideShow.h"
+#include "support/Fault.h"
+#include "support/Services.h"
+#include "support/files/modHostFiles.h"
+#include "ui_frmSpeedTest.h"
+#include "windows/show/ProgramScreen.h"
+
+namespace neb {
+namespace {
+
+constexpr char FirstPicture[] = "SpeedTest1.bmp";
+constexpr char SecondPicture[] = "SpeedTest2.bmp";
+constexpr int CloseAfterMs = 250;
+constexpr double MostOfScreen = 0.85;  // the frame and the desktop's bars need some room
+
+QString PathOf(const char* File) {
+    return AppPath() + QString::fromLatin1(File);
+}
+
+float Now() {
+    return static_cast<float>(TheServices().Time->Timer());
+}
+
+}  // namespace
+
+frmSpeedTest::frmSpeedTest() : mUi(std::make_unique<Ui::frmSpeedTest>()), Timer1(new QTimer(this)) {
+    mUi->setupUi(this);
+    Timer1->setObjectName(QStringLiteral("Timer1"));
+    connect(Timer1, &QTimer::timeout, this, &frmSpeedTest::Unload);
+    connect(mUi->Show1, &XShow::EffectEnded, this, &frmSpeedTest::EffectEnded);
+}
+
+frmSpeedTest::~frmSpeedTest() = default;
+
+void frmSpeedTest::Form_Load() {
+    if (!FileExists(PathOf(FirstPicture)) || !FileExists(PathOf(SecondPicture))) return Abort();
+    SetScreenPointer(Pointer::Hourglass);
+    FitToScreen();
+}
+
+// In the middle of the program's screen, in the proportion of the pictures.
+void frmSpeedTest::FitToScreen() {
+    const QScreen* Screen = ProgramScreen();
+    if (!Screen) return;
+    const QRect Room = Screen->availableGeometry();
+    const QSize Size = this->size().scaled((Room.size() * MostOfScreen).boundedTo(this->size()),
+                                           Qt::KeepAspectRatio);
+    setGeometry(QStyle::alignedRect(layoutDirection(), Qt::AlignCenter, Size, Room));
+}
+
+void frmSpeedTest::Form_Activate() {
+    if (std::exchange(mStarted, true)) return;
+    MsgBox(QStringLiteral("NEB Slide Show will now test your graphics speed."),
+           QStringLiteral("Speed Test Notification"), BoxIcon::Information);
+    if (IsLoaded()) StartLevel();
+}
+
+bool frmSpeedTest::Form_Unload() {
+    Timer1->stop();
+    disconnect(mUi->Show1, nullptr, this, nullptr);
+    mUi->Show1->StopEffect();
+    SetScreenPointer(Pointer::Default);
+    return true;
+}
+
+void frmSpeedTest::resizeEvent(QResizeEvent* Event) {
+    Form::resizeEvent(Event);
+    if (isMinimized()) return;
+    XShow& Show1 = *mUi->Show1;
+    Show1.resize(width() > 0 ? width() : Show1.width(), height() > 0 ? height() : Show1.height());
+}
+
+void frmSpeedTest::StartLevel() {
+    mLadder.StartLevel(Now());
+    mUi->Show1->SetShowOptionA(true);
+    RunRound();
+}
+
+void frmSpeedTest::RunRound() {
+    mLadder.StartRound();
+    setWindowTitle(mLadder.Title());
+    mUi->Show1->SetEffectDelay(mLadder.EffectDelay());
+    mUi->Show1->SetEffectStep(mLadder.EffectStep());
+    RunTransition(FirstPicture);
+}
+
+void frmSpeedTest::RunTransition(const char* File) {
+    try {
+        mUi->Show1->LoadPicture(PathOf(File));
+    } catch (const Fault&) {
+        return Abort();  // a damaged picture is as good as a missing one
+    }
+    mUi->Show1->SetEffectNumber(mLadder.EffectNumber());
+    mUi->Show1->RunEffect();
+}
+
+void frmSpeedTest::EffectEnded() {
+    if (mLadder.SecondTransition())
+        RunTransition(SecondPicture);
+    else
+        RoundOver();
+}
+
+void frmSpeedTest::RoundOver() {
+    const SpeedLadder::Verdict Verdict = mLadder.RoundOver(Now());
+    if (Verdict.TooSlow)
+        MsgBox(
+            QStringLiteral("Your system may be too slow to properly show effects.\n"
+                           "Setting to lowest settings."));
+    if (!IsLoaded()) return;
+    if (Verdict.Then == SpeedLadder::Next::Round) return RunRound();
+    if (Verdict.Then == SpeedLadder::Next::Level) return StartLevel();
+    Timer1->start(CloseAfterMs);
+}
+
+void frmSpeedTest::Abort() {
+    MsgBox(QStringLiteral("Missing Component, Speed Test aborted."));
+    Unload();
+}
+
+}  // namespace neb

@@ -1,0 +1,30 @@
+#include "windows/show/modSlideShows.h"
+
+#include "support/Fault.h"
+#include "windows/show/frmPreferences.h"
+#include "windows/show/frmSlideShowProjector.h"
+
+namespace neb {
+
+void RunSlideShow(std::int32_t AlbumID, const QString& AlbumName, std::int32_t SlideShowID) {
+    const auto Projector = NewForm<frmSlideShowProjector>();
+    Projector->AlbumID = AlbumID;
+    Projector->AlbumName = AlbumName;
+    try {
+        Projector->LoadSlideShow(SlideShowID);
+    } catch (const Fault&) {
+        // a show that cannot run ends, and the window that started it goes on
+    }
+}
+
+void EditSlideShowPreferences() {
+    const auto Preferences = NewForm<frmPreferences>();
+    try {
+        Preferences->LoadPreferences();
+    } catch (const Fault&) {
+        // a show goes on with the settings that it has
+    }
+    SlideTimeout = Preferences->SlideTimeout();
+}
+
+}  // namespace neb

@@ -1,0 +1,38 @@
+#include "windows/transfer/frmAlbumView.h"
+
+#include "controls/grid/FlexGrid.h"
+#include "ui_frmAlbumView.h"
+
+namespace neb {
+
+frmAlbumView::frmAlbumView()
+    : ViewerForm({QStringLiteral("frmAlbumView"), 6315},
+                 {tr("This album has no slides.\nClose this window to choose another one."),
+                  tr("This album is no longer there.\nClose this window to choose another one.")}),
+      mUi(std::make_unique<Ui::frmAlbumView>()) {
+    mUi->setupUi(this);
+    SetControls(*mUi->flxAlbum, *mUi->cmdClose);
+}
+
+frmAlbumView::~frmAlbumView() = default;
+
+void frmAlbumView::ViewAlbum(clsDBEngine& objDB, std::int32_t AlbumID, const QString& AlbumTitle) {
+    View(objDB, AlbumID,
+         QStringLiteral("Album [") + objDB.DBPath() + u':' + AlbumTitle + QStringLiteral("]"));
+}
+
+std::optional<std::vector<std::int32_t>> frmAlbumView::SortedKeys(clsNEBAlbum& Album) {
+    Album.SortSlides();
+    std::vector<std::int32_t> Keys;
+    for (const NameIndexEntry& Row : Album.SlideIndex) Keys.push_back(Row.ID);
+    return Keys;
+}
+
+std::optional<ViewerForm::ViewedSlide> frmAlbumView::SlideOf(clsNEBAlbum& Album, std::int32_t Key,
+                                                             int) {
+    const clsNEBSlide* Slide = FindSlide(Album, Key);
+    if (!Slide) return std::nullopt;
+    return ViewedSlide{Slide, Slide->SlideText};
+}
+
+}  // namespace neb

@@ -1,0 +1,60 @@
+#include "windows/transfer/frmSlideShowView.h"
+
+#include "controls/grid/FlexGrid.h"
+#include "support/Services.h"
+#include "ui_frmSlideShowView.h"
+
+namespace neb {
+
+frmSlideShowView::frmSlideShowView()
+    : ViewerForm(
+          {QStringLiteral("frmSlideShowView"), 6315},
+          {tr("This slide show has no slides.\nClose this window to choose another one."),
+           tr("This slide show is no longer there.\nClose this window to choose another one.")}),
+      mUi(std::make_unique<Ui::frmSlideShowView>()) {
+    mUi->setupUi(this);
+    SetControls(*mUi->flxSlideShow, *mUi->cmdClose);
+}
+
+frmSlideShowView::~frmSlideShowView() = default;
+
+void frmSlideShowView::ViewSlideShow(clsDBEngine& objDB, std::int32_t AlbumID,
+                                     const QString& AlbumTitle, std::int32_t SlideShowID,
+                                     const QString& SlideShowTitle) {
+    mSlideShowID = SlideShowID;
+    View(objDB, AlbumID,
+         QStringLiteral("Slide Show [") + objDB.DBPath() + u':' + AlbumTitle + u':' +
+             SlideShowTitle + QStringLiteral("]"));
+}
+
+bool frmSlideShowView::IsThere(clsNEBAlbum& Album) const {
+    return Album.GetSlideShow(mSlideShowID) != nullptr;
+}
+
+// A show without details keeps the order that it had before they went.
+std::optional<std::vector<std::int32_t>> frmSlideShowView::SortedKeys(clsNEBAlbum& Album) {
+    clsNEBSlideShow* Show = Album.GetSlideShow(mSlideShowID);
+    if (!Show) return std::nullopt;
+    std::vector<std::int32_t> Keys;
+    if (Show->Details.empty()) return Keys;
+    Show->SortDetails();
+    for (const SeqIndexEntry& Row : Show->DetailIndex) Keys.push_back(Row.Seq);
+    return Keys;
+}
+
+std::optional<ViewerForm::ViewedSlide> frmSlideShowView::SlideOf(clsNEBAlbum& Album,
+                                                                 std::int32_t Key, int Number) {
+    const clsNEBSlideShowDetail* Detail = Album.GetSlideShow(mSlideShowID)->GetDetail(Key);
+    if (!Detail) {
+        MsgBox(QStringLiteral("Could not find Slide Show Detail #%1").arg(Number));
+        return std::nullopt;
+    }
+    const clsNEBSlide* Slide = FindSlide(Album, Detail->SlideID);
+    if (!Slide) {
+        MsgBox(QStringLiteral("Could not find the Slide for Slide Show Detail #%1").arg(Number));
+        return std::nullopt;
+    }
+    return ViewedSlide{Slide, Detail->SlideText};
+}
+
+}  // namespace neb

@@ -1,0 +1,198 @@
+// Shows as they are heard: the real window, the real timers and the real player, with a sound
+// device that writes every sample to a file.
+#include <cmath>
+#include <cstring>
+
+#include "harness/SoundFiles.h"
+#include "settings/modNEBSlideShow.h"
+#include "sound/devices/SdlSoundDevices.h"
+#include "support/files/modHostFiles.h"
+#include "windows/show/ProjectorRig.h"
+
+namespace neb::test {
+namespace {
+
+using Projector = frmSlideShowProjector;
+
+constexpr int Rate = 44100;
+constexpr int Buffer = 1024;  // frames that the device takes at once
+
+// What came out of the device, the left side of it.
+class Heard {
+  public:
+    explicit Heard(const QByteArray& Raw) {
+        const size_t Frames = static_cast<size_t>(Raw.size()) / (2 * sizeof(float));
+        std::vector<float> Both(Frames * 2);
+        std::memcpy(Both.data(), Raw.constData(), Both.size() * sizeof(float));
+        for (size_t I = 0; I < Frames; ++I) mLeft.push_back(Both[2 * I]);
+    }
+    size_t size() const { return mLeft.size(); }
+    float operator[](size_t Frame) const { return mLeft[Frame]; }
+    // The first frame from From on that is louder than a whisper; size() where there is none.
+    size_t FirstSound(size_t From = 0) const {
+        while (From < size() && std::abs(mLeft[From]) < 0.001F) ++From;
+        return From;
+    }
+    // The first frame from From on after which it stays silent for a tenth of a second.
+    size_t FirstSilence(size_t From) const {
+        size_t Quiet = 0;
+        for (size_t I = From; I < size(); ++I) {
+            Quiet = std::abs(mLeft[I]) < 0.001F ? Quiet + 1 : 0;
+            if (Quiet == Rate / 10) return I + 1 - Quiet;
+        }
+        return size();
+    }
+    // The level over 20 ms: 1 for the full level of the test tone.
+    double Level(size_t Middle) const {
+        double Sum = 0;
+        const size_t First = Middle - Rate / 100, Last = Middle + Rate / 100;
+        for (size_t I = First; I < Last && I < size(); ++I)
+            Sum += static_cast<double>(mLeft[I]) * static_cast<double>(mLeft[I]);
+        return std::sqrt(Sum * 2 / (Rate / 50)) / harness::ToneLevel;
+    }
+
+  private:
+    std::vector<float> mLeft;
+};
+
+class HeardShow : public ProjectorRig {
+  protected:
+    HeardShow() {
+        qputenv("SDL_AUDIODRIVER", "disk");
+        qputenv("SDL_DISKAUDIOFILE", RawPath().toLocal8Bit());
+        mDevices = std::make_unique<SdlSoundDevices>();
+        TheServices().Sound = mDevices.get();
+        TheServices().Time = mBefore.Time;
+        TheShowSoundMaker() = mMakerBefore;
+        Put("Timeout", QStringLiteral("1"));
+        AddSlides(3);
+    }
+    ~HeardShow() override {
+        TheServices().Sound = nullptr;
+        qunsetenv("SDL_AUDIODRIVER");
+        qunsetenv("SDL_DISKAUDIOFILE");
+    }
+
+    void AddTrack(const std::vector<float>& Samples, int First, int Last, bool Repeat, bool Fade) {
+        const QString Name = QStringLiteral("track%1.wav").arg(SlideShow->SoundTracks.size());
+        MakeDirs(Sounds());
+        WriteFile(Sounds() + Name, harness::WaveBytes(Samples, Rate));
+        SlideShow->SaveSoundTrack(static_cast<std::int32_t>(SlideShow->SoundTracks.size()) + 1,
+                                  Name, First, Last, Repeat, false, Fade);
+    }
+    // Runs the show for a while; what was heard.
+    Heard Listen(int Milliseconds, const Action& Do = {}) {
+        Run([&](Projector& Window) {
+            if (Do) Do(Window);
+            Spin(Milliseconds);
+        });
+        mDevices.reset();  // the last of it is on the disk
+        TheServices().Sound = nullptr;
+        return Heard(ReadFile(RawPath()));
+    }
+    QString Sounds() const {
+        return Folder / QStringLiteral("db/Albums/%1/SoundTracks/").arg(Album);
+    }
+    QString RawPath() const { return Folder / QStringLiteral("heard.raw"); }
+
+    std::unique_ptr<SdlSoundDevices> mDevices;
+};
+
+TEST_F(HeardShow, ATrackFadesByTheCurveOverItsLastSlideAndTheNextIsLoudAgain) {
+    AddTrack(harness::Tone(3.0, Rate), 1, 1, false, true);
+    AddTrack(harness::Tone(3.0, Rate), 2, 3, false, false);
+    const Heard Out = Listen(1700);
+    const size_t Start = Out.FirstSound();
+    ASSERT_LT(Start + 3 * Rate / 2, Out.size());
+    // A hundredth of the way is a quarter of a decibel; the volume moves ten times a second.
+    for (const double Seconds : {0.25, 0.45, 0.65, 0.85}) {
+        const double Level = Out.Level(Start + static_cast<size_t>(Seconds * Rate));
+        EXPECT_GE(Level, std::pow(10, -25 * (Seconds + 0.06) / 20)) << Seconds;
+        EXPECT_LE(Level, std::pow(10, -25 * (Seconds - 0.16) / 20)) << Seconds;
+    }
+    EXPECT_NEAR(1, Out.Level(Start + static_cast<size_t>(1.5 * Rate)), 0.01);
+}
+
+TEST_F(HeardShow, ARepeatingTrackStartsAgainWithinOneTickOfTheSecondClock) {
+    Put("Timeout", QStringLiteral("60"));
+    AddTrack(harness::Tone(0.8, Rate), 1, 3, true, false);
+    const Heard Out = Listen(1500);
+    const size_t Start = Out.FirstSound();
+    const size_t End = Out.FirstSilence(Start);
+    const size_t Again = Out.FirstSound(End + Rate / 100);
+    EXPECT_NEAR(0.8, static_cast<double>(End - Start) / Rate, 0.001);
+    ASSERT_LT(Again, Out.size()) << "it never started again";
+    EXPECT_LE(static_cast<double>(Again - End) / Rate, 1.05);
+    EXPECT_NEAR(1, Out.Level(Again + Rate / 10), 0.01);
+}
+
+TEST_F(HeardShow, ATrackGoesOnWhereAnOverridingClipCutItOff) {
+    Put("Timeout", QStringLiteral("60"));
+    // A track whose samples tell their own time, and a clip that cannot be mistaken for it.
+    AddTrack(harness::Ramp(10.0, Rate), 1, 3, false, false);
+    Slide(2).SoundTrackLoc = QStringLiteral("clip.wav");
+    Slide(2).Override = true;
+    WriteFile(Folder / QStringLiteral("db/Albums/%1/Slides/clip.wav").arg(Album),
+              harness::WaveBytes(std::vector<float>(Rate * 2, -0.5F), Rate));
+    const Heard Out = Listen(400, [&](Projector& Window) {
+        Spin(500);
+        Window.NextSlide();
+        Spin(400);
+        Window.NextSlide();
+    });
+    // The one sound may end a buffer before the other begins; ramps of some milliseconds lie around
+    // each end. The track rises all the while: its highest sample is the last before its ramp.
+    size_t Clip = Out.FirstSound(), After = Out.size();
+    float Highest = 0;
+    for (; Clip < Out.size() && Out[Clip] > -0.49F; ++Clip) Highest = std::max(Highest, Out[Clip]);
+    while (After > Clip && Out[After - 1] > -0.49F) --After;
+    while (After < Out.size() && Out[After] < 0.001F) ++After;
+    const size_t Margin = Rate / 50;
+    ASSERT_LT(After + Margin, Out.size());
+    const double Left = harness::RampTime(Highest);
+    const double Taken =
+        harness::RampTime(Out[After + Margin]) - static_cast<double>(Margin) / Rate;
+    EXPECT_GT(Left, 0.3);
+    EXPECT_NEAR(Left, Taken, static_cast<double>(Buffer) / Rate);
+}
+
+TEST_F(HeardShow, ATrackEndsInSilenceAtTheFirstSlideThatItDoesNotCover) {
+    AddTrack(harness::Tone(10.0, Rate), 1, 1, true, false);
+    const Heard Out = Listen(1600);
+    const size_t Start = Out.FirstSound();
+    const size_t End = Out.FirstSilence(Start);
+    EXPECT_NEAR(1.1, static_cast<double>(End - Start) / Rate, 0.15);
+    EXPECT_EQ(Out.size(), Out.FirstSound(End + Rate / 100));
+}
+
+TEST_F(HeardShow, ATrackThatIsOverIsFollowedBySilence) {
+    Put("Timeout", QStringLiteral("60"));
+    AddTrack(harness::Tone(0.5, Rate), 1, 3, false, false);
+    const Heard Out = Listen(1300);
+    const size_t Start = Out.FirstSound();
+    const size_t End = Out.FirstSilence(Start);
+    EXPECT_NEAR(0.5, static_cast<double>(End - Start) / Rate, 0.001);
+    EXPECT_EQ(Out.size(), Out.FirstSound(End + Rate / 100));
+}
+
+TEST_F(HeardShow, APauseHoldsTheSoundAndAResumeGoesOnWithinABuffer) {
+    Put("Timeout", QStringLiteral("60"));
+    AddTrack(harness::Ramp(10.0, Rate), 1, 3, false, false);
+    const Heard Out = Listen(300, [&](Projector& Window) {
+        Spin(400);
+        Window.PlayPause();
+        Spin(300);
+        Window.PlayPause();
+    });
+    const size_t End = Out.FirstSilence(Out.FirstSound());
+    const size_t Again = Out.FirstSound(End + Rate / 100);
+    ASSERT_LT(Again + Rate / 10, Out.size());
+    const size_t Margin = Rate / 50;
+    const double Left = harness::RampTime(Out[End - Margin]) + static_cast<double>(Margin) / Rate;
+    const double Taken =
+        harness::RampTime(Out[Again + Margin]) - static_cast<double>(Margin) / Rate;
+    EXPECT_NEAR(Left, Taken, static_cast<double>(Buffer) / Rate);
+}
+
+}  // namespace
+}  // namespace neb::test
