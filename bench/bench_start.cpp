@@ -9,9 +9,9 @@
 #include <cstdio>
 
 #include "controls/forms/NebApplication.h"
+#include "program/DesktopServices.h"
+#include "program/frmNEBSlideShow.h"
 #include "settings/modNEBSlideShow.h"
-#include "shell/main/DesktopServices.h"
-#include "shell/main/frmNEBSlideShow.h"
 
 namespace {
 

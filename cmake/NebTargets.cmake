@@ -52,31 +52,6 @@ function(neb_library)
                             ${PROJECT_SOURCE_DIR}/cmake/pch_${neb_headers_${L_KNOWS}}.h)
 endfunction()
 
-# neb_layer(NAME support DIR support HEADERS_FOR core|gui DEPENDS neb_x Qt6::Y [HIDDEN z])
-# All sources of one folder (not of folders below it) as the library neb_NAME. What is DEPENDS
-# is passed on to the users of the layer, what is HIDDEN is not.
-function(neb_layer)
-  cmake_parse_arguments(L "" "NAME;DIR;HEADERS_FOR" "DEPENDS;HIDDEN" ${ARGN})
-  set(floor 4)
-  if(L_NAME STREQUAL support_windows)
-    set(floor 1)
-  endif()
-  set_property(GLOBAL APPEND PROPERTY NEB_HOUSE ${floor}:${L_DIR}:windows:*)
-  set(dir ${PROJECT_SOURCE_DIR}/src/${L_DIR})
-  file(GLOB sources CONFIGURE_DEPENDS ${dir}/*.cpp ${dir}/*.h ${dir}/*.ui ${dir}/*.qrc)
-  list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
-  if(NOT sources)
-    add_library(neb_${L_NAME} INTERFACE)
-    target_link_libraries(neb_${L_NAME} INTERFACE neb_flags ${L_DEPENDS})
-    return()
-  endif()
-  add_library(neb_${L_NAME} STATIC ${sources})
-  set_target_properties(neb_${L_NAME} PROPERTIES AUTOMOC ON AUTOUIC ON AUTORCC ON)
-  target_link_libraries(neb_${L_NAME} PUBLIC neb_flags ${L_DEPENDS} PRIVATE ${L_HIDDEN})
-  target_precompile_headers(neb_${L_NAME} PRIVATE
-                            ${PROJECT_SOURCE_DIR}/cmake/pch_${L_HEADERS_FOR}.h)
-endfunction()
-
 # neb_test(NAME support DIR tests/support DEPENDS neb_support)
 # All sources of one folder of tests and of those below it (but not of BUT), or the FILES of it alone,
 # as one program; every test in it is a test of ctest. SHARDS: ctest runs them in so many parts instead, for where there are so many

@@ -4,7 +4,7 @@
 #include "TourSteps.h"
 #include "controls/forms/frmLoading.h"
 #include "controls/forms/frmProgress.h"
-#include "shell/main/frmNEBSlideShow.h"
+#include "program/frmNEBSlideShow.h"
 #include "windows/import/frmDirSelect.h"
 #include "windows/import/frmFindGraphics.h"
 #include "windows/import/frmImportFilter.h"

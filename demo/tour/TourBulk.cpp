@@ -3,7 +3,7 @@
 #include "TourControls.h"
 #include "TourSteps.h"
 #include "controls/forms/frmLoading.h"
-#include "shell/main/frmNEBSlideShow.h"
+#include "program/frmNEBSlideShow.h"
 #include "windows/albums/frmAlbumRename.h"
 #include "windows/slides/frmSlideMgrBulk.h"
 

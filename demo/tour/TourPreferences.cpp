@@ -4,7 +4,7 @@
 #include "TourSteps.h"
 #include "TourWatch.h"
 #include "controls/picture/XShow.h"
-#include "shell/main/frmNEBSlideShow.h"
+#include "program/frmNEBSlideShow.h"
 #include "windows/show/EffectList.h"
 #include "windows/show/frmPreferences.h"
 

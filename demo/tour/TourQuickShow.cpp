@@ -8,7 +8,7 @@
 #include "controls/forms/frmLoading.h"
 #include "controls/forms/frmProgress.h"
 #include "controls/picture/XShow.h"
-#include "shell/main/frmNEBSlideShow.h"
+#include "program/frmNEBSlideShow.h"
 #include "windows/import/frmDirSelect.h"
 #include "windows/import/frmQuickShow.h"
 #include "windows/lists/frmPicturePopup.h"

@@ -4,7 +4,7 @@
 #include "Tour.h"
 #include "TourControls.h"
 #include "TourSteps.h"
-#include "shell/main/frmNEBSlideShow.h"
+#include "program/frmNEBSlideShow.h"
 #include "windows/recorder/frmSoundRecorder.h"
 #include "windows/slides/frmSlideDBM.h"
 

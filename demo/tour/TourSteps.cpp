@@ -6,7 +6,7 @@
 #include "TourControls.h"
 #include "TourWatch.h"
 #include "controls/picture/XShow.h"
-#include "shell/main/frmNEBSlideShow.h"
+#include "program/frmNEBSlideShow.h"
 #include "windows/show/frmSlideShowProjector.h"
 #include "windows/show/frmSpeedTest.h"
 #include "windows/show/modSlideShows.h"

@@ -7,7 +7,7 @@
 #include "TourSteps.h"
 #include "TourWatch.h"
 #include "controls/picture/XShow.h"
-#include "shell/main/frmNEBSlideShow.h"
+#include "program/frmNEBSlideShow.h"
 #include "windows/show/frmSlideShowProjector.h"
 #include "windows/show/modSlideShows.h"
 

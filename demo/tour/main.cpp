@@ -7,9 +7,9 @@
 #include "TourSound.h"
 #include "TourSteps.h"
 #include "controls/forms/NebApplication.h"
+#include "program/DesktopServices.h"
+#include "program/frmNEBSlideShow.h"
 #include "settings/modNEBSlideShow.h"
-#include "shell/main/DesktopServices.h"
-#include "shell/main/frmNEBSlideShow.h"
 #include "support/Services.h"
 
 namespace {

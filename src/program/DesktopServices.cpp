@@ -1,4 +1,4 @@
-#include "shell/main/DesktopServices.h"
+#include "program/DesktopServices.h"
 
 #include "InitAssets.h"
 #include "controls/picture/XShow.h"

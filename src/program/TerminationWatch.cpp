@@ -1,4 +1,4 @@
-#include "shell/main/TerminationWatch.h"
+#include "program/TerminationWatch.h"
 
 #include <QSocketNotifier>
 

@@ -1,4 +1,4 @@
-#include "shell/main/modMain.h"
+#include "program/modMain.h"
 
 #include <QThread>
 #include <QTimer>
@@ -7,11 +7,11 @@
 #include "controls/forms/Form.h"
 #include "controls/forms/NebApplication.h"
 #include "db/modDatabaseLock.h"
+#include "program/CommandLine.h"
+#include "program/DesktopServices.h"
+#include "program/TerminationWatch.h"
+#include "program/frmNEBSlideShow.h"
 #include "settings/modNEBSlideShow.h"
-#include "shell/main/CommandLine.h"
-#include "shell/main/DesktopServices.h"
-#include "shell/main/TerminationWatch.h"
-#include "shell/main/frmNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/Services.h"
 #include "support/files/modHostFiles.h"

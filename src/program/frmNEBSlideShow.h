@@ -6,8 +6,8 @@
 #include <functional>
 #include <memory>
 
+#include "program/CommandLine.h"
 #include "settings/clsFileSystem.h"
-#include "shell/main/CommandLine.h"
 
 namespace neb {
 

@@ -1,4 +1,4 @@
-#include "shell/main/modMain.h"
+#include "program/modMain.h"
 
 int main(int argc, char** argv) {
     return neb::Main(argc, argv);

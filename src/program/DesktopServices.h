@@ -4,7 +4,7 @@
 
 #include "controls/directories/Drives.h"
 #include "controls/forms/DesktopBoxes.h"
-#include "platform/ScreenBlanking.h"
+#include "program/ScreenBlanking.h"
 #include "sound/devices/SdlSoundDevices.h"
 
 namespace neb {

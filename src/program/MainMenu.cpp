@@ -1,4 +1,4 @@
-#include "shell/main/MainMenu.h"
+#include "program/MainMenu.h"
 
 #include <QAction>
 #include <QMainWindow>

@@ -1,5 +1,5 @@
 // The one-time speed test and what it leaves in the settings file.
-#include "shell/main/modMachineSettings.h"
+#include "program/modMachineSettings.h"
 
 #include <gtest/gtest.h>
 

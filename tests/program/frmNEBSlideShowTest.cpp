@@ -1,5 +1,5 @@
 // The start, the menu and the end of the program, on the real main window.
-#include "shell/main/frmNEBSlideShow.h"
+#include "program/frmNEBSlideShow.h"
 
 #include <gtest/gtest.h>
 #include <QAction>
@@ -22,9 +22,9 @@
 #include "harness/ScriptedBoxes.h"
 #include "harness/TempFolder.h"
 #include "harness/WithoutPrivileges.h"
+#include "program/frmAbout.h"
+#include "program/frmHelp.h"
 #include "settings/modNEBSlideShow.h"
-#include "shell/main/frmAbout.h"
-#include "shell/main/frmHelp.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
 #include "windows/albums/frmAlbumDelete.h"

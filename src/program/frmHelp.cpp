@@ -1,4 +1,4 @@
-#include "shell/main/frmHelp.h"
+#include "program/frmHelp.h"
 
 #include <QTextBrowser>
 #include <QVBoxLayout>

@@ -1,4 +1,4 @@
-#include "platform/ScreenBlanking.h"
+#include "program/ScreenBlanking.h"
 
 #include <gtest/gtest.h>
 

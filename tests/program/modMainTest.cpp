@@ -1,5 +1,5 @@
 // The refusal of a second instance, also when the first one has left its lock behind by a crash.
-#include "shell/main/modMain.h"
+#include "program/modMain.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -17,9 +17,9 @@
 #include "db/modDatabaseLock.h"
 #include "harness/ScriptedBoxes.h"
 #include "harness/TempFolder.h"
+#include "program/frmAbout.h"
+#include "program/frmNEBSlideShow.h"
 #include "settings/modNEBSlideShow.h"
-#include "shell/main/frmAbout.h"
-#include "shell/main/frmNEBSlideShow.h"
 #include "support/files/modHostFiles.h"
 
 namespace neb {

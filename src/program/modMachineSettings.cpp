@@ -1,4 +1,4 @@
-#include "shell/main/modMachineSettings.h"
+#include "program/modMachineSettings.h"
 
 #include "controls/forms/ScreenPointer.h"
 #include "settings/modNEBSlideShow.h"

@@ -1,4 +1,4 @@
-#include "shell/main/frmAbout.h"
+#include "program/frmAbout.h"
 
 #include <QProcess>
 #include <QStandardPaths>

@@ -1,5 +1,5 @@
 // What the program understands from its command line.
-#include "shell/main/CommandLine.h"
+#include "program/CommandLine.h"
 
 #include <gtest/gtest.h>
 

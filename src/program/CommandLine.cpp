@@ -1,4 +1,4 @@
-#include "shell/main/CommandLine.h"
+#include "program/CommandLine.h"
 
 namespace neb {
 namespace {

@@ -1,5 +1,5 @@
 // The start and the end of the program; what the menu does is in frmNEBSlideShowMenu.cpp.
-#include "shell/main/frmNEBSlideShow.h"
+#include "program/frmNEBSlideShow.h"
 
 #include <QCloseEvent>
 #include <QScreen>
@@ -10,10 +10,10 @@
 #include "controls/grid/FlexGrid.h"
 #include "db/clsDBEngine.h"
 #include "db/records/modJournal.h"
+#include "program/MainMenu.h"
+#include "program/Workspace.h"
+#include "program/modMachineSettings.h"
 #include "settings/modNEBSlideShow.h"
-#include "shell/main/MainMenu.h"
-#include "shell/main/Workspace.h"
-#include "shell/main/modMachineSettings.h"
 #include "support/Fault.h"
 #include "support/Services.h"
 #include "support/files/modHostFiles.h"

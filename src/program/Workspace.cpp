@@ -1,4 +1,4 @@
-#include "shell/main/Workspace.h"
+#include "program/Workspace.h"
 
 #include <QApplication>
 #include <QDragEnterEvent>

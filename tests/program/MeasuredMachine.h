@@ -1,8 +1,8 @@
 // A settings file on which the speed test has already run, for tests of what comes after it.
 #pragma once
 
+#include "program/modMachineSettings.h"
 #include "settings/modNEBSlideShow.h"
-#include "shell/main/modMachineSettings.h"
 
 namespace neb::test {
 

@@ -4,12 +4,12 @@
 #include <QMenu>
 
 #include "db/clsDBEngine.h"
+#include "program/MainMenu.h"
+#include "program/Workspace.h"
+#include "program/frmAbout.h"
+#include "program/frmHelp.h"
+#include "program/frmNEBSlideShow.h"
 #include "settings/modNEBSlideShow.h"
-#include "shell/main/MainMenu.h"
-#include "shell/main/Workspace.h"
-#include "shell/main/frmAbout.h"
-#include "shell/main/frmHelp.h"
-#include "shell/main/frmNEBSlideShow.h"
 #include "show/ShowSettings.h"
 #include "support/Fault.h"
 #include "support/Services.h"
