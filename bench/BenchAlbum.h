@@ -13,6 +13,7 @@
 #include "pictures/ImgX.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/files/modHostFiles.h"
+#include "windows/frame/modBroadcast.h"
 #include "windows/lists/clsImageBuffer.h"
 
 namespace neb {
@@ -66,6 +67,7 @@ struct BenchDatabase {
         Engine.SetDBPath(Dir.path());
         Engine.InitializeDB();
         DBEngine = &Engine;
+        BroadcastChangesOf(Engine);
     }
     QTemporaryDir Dir;
     clsDBEngine Engine;

@@ -15,16 +15,17 @@ void MakeAlbumFolders(const clsDBEngine& theDB, std::int32_t AlbumID) {
     MakeDirs(SlidesFolder(theDB.DBPath(), AlbumID));
 }
 
-bool NewAlbum(clsDBEngine& theDB, std::int32_t& AlbumID, const QString& AlbumName) {
+Answer<> NewAlbum(clsDBEngine& theDB, std::int32_t& AlbumID, const QString& AlbumName) {
     AlbumID = 0;
-    if (!theDB.SaveAlbum(AlbumID, AlbumName)) return false;
+    Answer<> Saved = theDB.SaveAlbum(AlbumID, AlbumName);
+    if (!Saved) return Saved;
     try {
         MakeAlbumFolders(theDB, AlbumID);
     } catch (const Fault&) {
         DropAlbum(theDB, std::exchange(AlbumID, 0));
         throw;
     }
-    return true;
+    return Saved;
 }
 
 void DropAlbum(clsDBEngine& theDB, std::int32_t AlbumID) {

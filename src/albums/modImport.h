@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <functional>
 
+#include "support/Answer.h"
 #include "support/work/AheadQueue.h"
 
 namespace neb {
@@ -18,9 +19,9 @@ class clsNEBSlide;
 
 // Makes the folder of an album with its two folders; throws Fault.
 void MakeAlbumFolders(const clsDBEngine& theDB, std::int32_t AlbumID);
-// Makes an album with its folders; AlbumID is the new one. False after the engine's box. Throws
+// Makes an album with its folders; AlbumID is the new one. Refused as the engine refuses it. Throws
 // Fault when a folder cannot be made: the album is then gone again, and AlbumID is 0.
-bool NewAlbum(clsDBEngine& theDB, std::int32_t& AlbumID, const QString& AlbumName);
+Answer<> NewAlbum(clsDBEngine& theDB, std::int32_t& AlbumID, const QString& AlbumName);
 // Takes an album with all that it holds out of the engine and off the disk.
 void DropAlbum(clsDBEngine& theDB, std::int32_t AlbumID);
 

@@ -5,7 +5,6 @@
 #include "db/modLoadRecords.h"
 #include "db/modNameIndex.h"
 #include "db/records/RecordCodec.h"
-#include "support/Services.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
 
@@ -19,11 +18,6 @@ std::int32_t Draw(std::int32_t& Counter) {
     const std::int32_t Drawn = Counter;
     Counter = static_cast<std::int32_t>(static_cast<std::uint32_t>(Counter) + 1);
     return Drawn;
-}
-
-bool Refuse(const QString& Text) {
-    MsgBox(Text);
-    return false;
 }
 
 }  // namespace
@@ -69,7 +63,7 @@ void clsDBEngine::FinalizeDB() {
     WriteDatabase(mDBPath, BuildImage(*this));
 }
 
-bool clsDBEngine::SaveAlbum(std::int32_t& AlbumID, const QString& AlbumName) {
+Answer<> clsDBEngine::SaveAlbum(std::int32_t& AlbumID, const QString& AlbumName) {
     for (const auto& Other : Albums)
         if (Other->AlbumID != AlbumID && Other->AlbumName == AlbumName)
             return Refuse(QStringLiteral("An Album with this name already exists."));
@@ -84,7 +78,7 @@ bool clsDBEngine::SaveAlbum(std::int32_t& AlbumID, const QString& AlbumName) {
     }
     Album->AlbumName = AlbumName;
     SortAlbums();
-    return true;
+    return Done();
 }
 
 void clsDBEngine::SortAlbums() {

@@ -2,12 +2,14 @@
 // by FinalizeDB, asked and changed in between. The program owns one; a transfer makes a second
 // one on another directory.
 //
-// Boolean results are true on success; what refuses has shown its own box. Reading and writing
-// throw Fault.
+// Boolean results are true on success; an Answer that refuses says why. Reading and writing throw
+// Fault. Albums, slides and shows are changed through db/Changes.
 #pragma once
 
+#include "db/Change.h"
 #include "db/clsNEBAlbum.h"
 #include "db/modTables.h"
+#include "support/Answer.h"
 
 namespace neb {
 
@@ -26,6 +28,7 @@ class clsDBEngine {
     std::vector<NameIndexEntry> AlbumIndex;  // sorted by name; row N lies at N - 1
     PropertyRows Properties;
     EffectStatRows EffectStats;
+    ChangeListeners Listeners;  // who follows what db/Changes does here
 
     const QString& DBPath() const { return mDBPath; }  // with closing separator
     void SetDBPath(const QString& Path);
@@ -40,7 +43,7 @@ class clsDBEngine {
     void FinalizeDB();
 
     // Creates an album (ID 0 or unknown; AlbumID is the new one afterwards) or renames one.
-    bool SaveAlbum(std::int32_t& AlbumID, const QString& AlbumName);
+    Answer<> SaveAlbum(std::int32_t& AlbumID, const QString& AlbumName);
     void LoadAlbumsCombo(ComboList& cboAlbums, bool WithAddOption) const;
     // With an ID gives the name; with ID 0 gives the ID of the first album of that name, case
     // ignored. False, and nothing changed, when there is none.
@@ -49,23 +52,24 @@ class clsDBEngine {
     bool DeleteAlbum(std::int32_t AlbumID);  // always true; touches no files
     clsNEBAlbum* GetAlbum(std::int32_t AlbumID) const;
 
-    // Forwarded to the album or the show. Saving into one that is not there shows a box and is
-    // false; a list is left empty.
-    bool SaveSlide(std::int32_t SlideID, std::int32_t AlbumID, const QString& SlideText,
-                   const QString& SlideLoc, const QString& SoundTrackLoc, bool Override,
-                   bool Repeat);
+    // Forwarded to the album or the show. Saving into one that is not there is refused; a
+    // list is left empty.
+    Answer<> SaveSlide(std::int32_t SlideID, std::int32_t AlbumID, const QString& SlideText,
+                       const QString& SlideLoc, const QString& SoundTrackLoc, bool Override,
+                       bool Repeat);
     void LoadSlidesCombo(ComboList& cboSlides, std::int32_t AlbumID);
-    bool SaveSlideShow(std::int32_t SlideShowID, std::int32_t AlbumID, const QString& SlideShowName,
-                       std::int32_t ProgressionMethod);
+    Answer<> SaveSlideShow(std::int32_t SlideShowID, std::int32_t AlbumID,
+                           const QString& SlideShowName, std::int32_t ProgressionMethod);
     void LoadSlideShowsCombo(ComboList& cboSlideShows, std::int32_t AlbumID);
-    bool SaveSlideShowDetail(std::int32_t SlideShowID, std::int32_t AlbumID, std::int32_t SlideID,
-                             std::int32_t SlideSeq, const QString& SlideText);
+    Answer<> SaveSlideShowDetail(std::int32_t SlideShowID, std::int32_t AlbumID,
+                                 std::int32_t SlideID, std::int32_t SlideSeq,
+                                 const QString& SlideText);
     void LoadSlideShowDetailsCombo(ComboList& cboSlideShowDetails, std::int32_t AlbumID,
                                    std::int32_t SlideShowID);
-    bool SaveSlideShowSoundTrack(std::int32_t SlideShowID, std::int32_t AlbumID,
-                                 std::int32_t SoundTrackSeq, const QString& SoundTrackLoc,
-                                 std::int32_t SlideSeqStart, std::int32_t SlideSeqEnd, bool Repeat,
-                                 bool FitToSong, bool Fade);
+    Answer<> SaveSlideShowSoundTrack(std::int32_t SlideShowID, std::int32_t AlbumID,
+                                     std::int32_t SoundTrackSeq, const QString& SoundTrackLoc,
+                                     std::int32_t SlideSeqStart, std::int32_t SlideSeqEnd,
+                                     bool Repeat, bool FitToSong, bool Fade);
     // Looks for the show in all albums.
     void LoadSlideShowSoundTracksCombo(ComboList& cboSoundTracks, std::int32_t SlideShowID);
 
@@ -82,9 +86,9 @@ class clsDBEngine {
                          std::int32_t LowerBound = 0) const;
 
     // For transfers: empty an album or a show, with the files; a show takes the slides along that
-    // no other show of the album uses. The emptied object stays. False after a box.
-    bool ClearAlbumData(clsNEBAlbum& theAlbum);
-    bool ClearSlideShowData(clsNEBAlbum& theAlbum, clsNEBSlideShow& theSlideShow);
+    // no other show of the album uses. The emptied object stays.
+    Answer<> ClearAlbumData(clsNEBAlbum& theAlbum);
+    Answer<> ClearSlideShowData(clsNEBAlbum& theAlbum, clsNEBSlideShow& theSlideShow);
 
     // The current counter, which then goes up by one. For albums and shows, not for windows.
     std::int32_t AllocateAlbumID();
@@ -94,8 +98,8 @@ class clsDBEngine {
     void SortAlbums();  // rebuilds AlbumIndex; without albums it stays as it was
 
   private:
-    clsNEBAlbum* AlbumOrBox(std::int32_t AlbumID) const;
-    clsNEBSlideShow* SlideShowOrBox(std::int32_t AlbumID, std::int32_t SlideShowID) const;
+    Answer<clsNEBAlbum*> FoundAlbum(std::int32_t AlbumID) const;
+    Answer<clsNEBSlideShow*> FoundSlideShow(std::int32_t AlbumID, std::int32_t SlideShowID) const;
 
     QString mDBPath;
     QString mProgramPath;

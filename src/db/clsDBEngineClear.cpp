@@ -4,7 +4,6 @@
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
 #include "support/Fault.h"
-#include "support/Services.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
 
@@ -23,57 +22,61 @@ std::vector<std::int32_t> OrphansOf(const clsNEBAlbum& Album, const clsNEBSlideS
     return Orphans;
 }
 
-bool DeleteOrphans(clsNEBAlbum& Album, const std::vector<std::int32_t>& Orphans,
-                   const clsDBEngine& Engine) {
-    for (const std::int32_t SlideID : Orphans) {
-        if (Album.DeleteSlide(SlideID, Engine)) continue;
-        MsgBox(QStringLiteral("Error clearing orphan slides in destination album."));
-        return false;
-    }
-    return true;
+Answer<> DeleteOrphans(clsNEBAlbum& Album, const std::vector<std::int32_t>& Orphans,
+                       const clsDBEngine& Engine) {
+    for (const std::int32_t SlideID : Orphans)
+        if (!Album.DeleteSlide(SlideID, Engine))
+            return Refuse(QStringLiteral("Error clearing orphan slides in destination album."));
+    return Done();
 }
 
-// Runs the work; a fault becomes a box and the answer false.
-bool WithBox(const QString& Title, const QString& Sentence, const std::function<bool()>& Work) {
+// The sounds of the show in the database; one outside it is not ours to delete.
+QStringList OwnSounds(const clsNEBSlideShow& Show) {
+    QStringList Sounds;
+    for (const auto& Track : Show.SoundTracks)
+        if (!HoldsSeparator(Track->SoundTrackLoc)) Sounds.append(Track->SoundTrackLoc);
+    return Sounds;
+}
+
+// Runs the work; a fault becomes a refusal.
+Answer<> Told(const QString& Title, const QString& Sentence,
+              const std::function<Answer<>()>& Work) {
     try {
         return Work();
     } catch (const Fault& Problem) {
-        MsgBox(Sentence + u'\n' + Problem.Text(), Title, BoxIcon::Critical);
-        return false;
+        return BoxRequest{
+            .Text = Sentence + u'\n' + Problem.Text(), .Title = Title, .Icon = BoxIcon::Critical};
     }
 }
 
 }  // namespace
 
-bool clsDBEngine::ClearAlbumData(clsNEBAlbum& theAlbum) {
-    return WithBox(
+Answer<> clsDBEngine::ClearAlbumData(clsNEBAlbum& theAlbum) {
+    return Told(
         QStringLiteral("Clear Album Failed"), QStringLiteral("Failed to clear the album."), [&] {
-            if (!theAlbum.ClearContents()) return false;
+            theAlbum.ClearContents();
             DeleteMask(SoundTracksFolder(mDBPath, theAlbum.AlbumID) + QStringLiteral("*.*"));
             DeleteMask(SlidesFolder(mDBPath, theAlbum.AlbumID) + QStringLiteral("*.*"));
-            return true;
+            return Answer<>(Done());
         });
 }
 
-bool clsDBEngine::ClearSlideShowData(clsNEBAlbum& theAlbum, clsNEBSlideShow& theSlideShow) {
-    return WithBox(QStringLiteral("Clear Slide Show Failed"),
-                   QStringLiteral("Failed to clear the slide show."), [&] {
-                       QStringList Sounds;
-                       // A sound outside the database is not ours to delete.
-                       for (const auto& Track : theSlideShow.SoundTracks)
-                           if (!HoldsSeparator(Track->SoundTrackLoc))
-                               Sounds.append(Track->SoundTrackLoc);
-                       const std::vector<std::int32_t> Orphans = OrphansOf(theAlbum, theSlideShow);
-                       if (!theSlideShow.ClearContents()) return false;
-                       if (!DeleteOrphans(theAlbum, Orphans, *this)) return false;
-                       const QString SoundFolder = SoundTracksFolder(mDBPath, theAlbum.AlbumID);
-                       for (const QString& Sound : Sounds)
-                           if (FileExists(SoundFolder + Sound)) DeleteFile(SoundFolder + Sound);
-                       const QString Folder = SlidesFolder(mDBPath, theAlbum.AlbumID);
-                       for (const std::int32_t SlideID : Orphans)
-                           DeleteMask(Folder + FileStem(SlideID) + QStringLiteral("*.*"));
-                       return true;
-                   });
+Answer<> clsDBEngine::ClearSlideShowData(clsNEBAlbum& theAlbum, clsNEBSlideShow& theSlideShow) {
+    return Told(QStringLiteral("Clear Slide Show Failed"),
+                QStringLiteral("Failed to clear the slide show."), [&] {
+                    const QStringList Sounds = OwnSounds(theSlideShow);
+                    const std::vector<std::int32_t> Orphans = OrphansOf(theAlbum, theSlideShow);
+                    theSlideShow.ClearContents();
+                    Answer<> Emptied = DeleteOrphans(theAlbum, Orphans, *this);
+                    if (!Emptied) return Emptied;
+                    const QString SoundFolder = SoundTracksFolder(mDBPath, theAlbum.AlbumID);
+                    for (const QString& Sound : Sounds)
+                        if (FileExists(SoundFolder + Sound)) DeleteFile(SoundFolder + Sound);
+                    const QString Folder = SlidesFolder(mDBPath, theAlbum.AlbumID);
+                    for (const std::int32_t SlideID : Orphans)
+                        DeleteMask(Folder + FileStem(SlideID) + QStringLiteral("*.*"));
+                    return Emptied;
+                });
 }
 
 }  // namespace neb

@@ -1,29 +1,28 @@
 // What the engine hands on to the album, the show or the table that it concerns.
 #include "db/clsDBEngine.h"
-#include "support/Services.h"
 
 namespace neb {
 
-clsNEBAlbum* clsDBEngine::AlbumOrBox(std::int32_t AlbumID) const {
-    clsNEBAlbum* Album = GetAlbum(AlbumID);
-    if (!Album) MsgBox(QStringLiteral("The Album was not found."));
-    return Album;
+Answer<clsNEBAlbum*> clsDBEngine::FoundAlbum(std::int32_t AlbumID) const {
+    if (clsNEBAlbum* Album = GetAlbum(AlbumID)) return Album;
+    return Refuse(QStringLiteral("The Album was not found."));
 }
 
-clsNEBSlideShow* clsDBEngine::SlideShowOrBox(std::int32_t AlbumID, std::int32_t SlideShowID) const {
-    const clsNEBAlbum* Album = AlbumOrBox(AlbumID);
-    if (!Album) return nullptr;
-    clsNEBSlideShow* Show = Album->GetSlideShow(SlideShowID);
-    if (!Show) MsgBox(QStringLiteral("The Slide Show was not found."));
-    return Show;
+Answer<clsNEBSlideShow*> clsDBEngine::FoundSlideShow(std::int32_t AlbumID,
+                                                     std::int32_t SlideShowID) const {
+    Answer<clsNEBAlbum*> Album = FoundAlbum(AlbumID);
+    if (!Album) return Album.Refusal();
+    if (clsNEBSlideShow* Show = (*Album)->GetSlideShow(SlideShowID)) return Show;
+    return Refuse(QStringLiteral("The Slide Show was not found."));
 }
 
-bool clsDBEngine::SaveSlide(std::int32_t SlideID, std::int32_t AlbumID, const QString& SlideText,
-                            const QString& SlideLoc, const QString& SoundTrackLoc, bool Override,
-                            bool Repeat) {
-    clsNEBAlbum* Album = AlbumOrBox(AlbumID);
-    return Album &&
-           Album->SaveSlide(SlideID, SlideText, SlideLoc, SoundTrackLoc, Override, Repeat, *this);
+Answer<> clsDBEngine::SaveSlide(std::int32_t SlideID, std::int32_t AlbumID,
+                                const QString& SlideText, const QString& SlideLoc,
+                                const QString& SoundTrackLoc, bool Override, bool Repeat) {
+    Answer<clsNEBAlbum*> Album = FoundAlbum(AlbumID);
+    if (!Album) return Album.Refusal();
+    (*Album)->SaveSlide(SlideID, SlideText, SlideLoc, SoundTrackLoc, Override, Repeat, *this);
+    return Done();
 }
 
 void clsDBEngine::LoadSlidesCombo(ComboList& cboSlides, std::int32_t AlbumID) {
@@ -31,10 +30,12 @@ void clsDBEngine::LoadSlidesCombo(ComboList& cboSlides, std::int32_t AlbumID) {
     if (clsNEBAlbum* Album = GetAlbum(AlbumID)) Album->LoadSlidesCombo(cboSlides);
 }
 
-bool clsDBEngine::SaveSlideShow(std::int32_t SlideShowID, std::int32_t AlbumID,
-                                const QString& SlideShowName, std::int32_t ProgressionMethod) {
-    clsNEBAlbum* Album = AlbumOrBox(AlbumID);
-    return Album && Album->SaveSlideShow(SlideShowID, SlideShowName, ProgressionMethod, *this);
+Answer<> clsDBEngine::SaveSlideShow(std::int32_t SlideShowID, std::int32_t AlbumID,
+                                    const QString& SlideShowName, std::int32_t ProgressionMethod) {
+    Answer<clsNEBAlbum*> Album = FoundAlbum(AlbumID);
+    if (!Album) return Album.Refusal();
+    (*Album)->SaveSlideShow(SlideShowID, SlideShowName, ProgressionMethod, *this);
+    return Done();
 }
 
 void clsDBEngine::LoadSlideShowsCombo(ComboList& cboSlideShows, std::int32_t AlbumID) {
@@ -42,11 +43,13 @@ void clsDBEngine::LoadSlideShowsCombo(ComboList& cboSlideShows, std::int32_t Alb
     if (clsNEBAlbum* Album = GetAlbum(AlbumID)) Album->LoadSlideShowsCombo(cboSlideShows);
 }
 
-bool clsDBEngine::SaveSlideShowDetail(std::int32_t SlideShowID, std::int32_t AlbumID,
-                                      std::int32_t SlideID, std::int32_t SlideSeq,
-                                      const QString& SlideText) {
-    clsNEBSlideShow* Show = SlideShowOrBox(AlbumID, SlideShowID);
-    return Show && Show->SaveDetail(SlideID, SlideSeq, SlideText);
+Answer<> clsDBEngine::SaveSlideShowDetail(std::int32_t SlideShowID, std::int32_t AlbumID,
+                                          std::int32_t SlideID, std::int32_t SlideSeq,
+                                          const QString& SlideText) {
+    Answer<clsNEBSlideShow*> Show = FoundSlideShow(AlbumID, SlideShowID);
+    if (!Show) return Show.Refusal();
+    (*Show)->SaveDetail(SlideID, SlideSeq, SlideText);
+    return Done();
 }
 
 void clsDBEngine::LoadSlideShowDetailsCombo(ComboList& cboSlideShowDetails, std::int32_t AlbumID,
@@ -57,13 +60,16 @@ void clsDBEngine::LoadSlideShowDetailsCombo(ComboList& cboSlideShowDetails, std:
     if (Show) Show->LoadDetailsCombo(cboSlideShowDetails);
 }
 
-bool clsDBEngine::SaveSlideShowSoundTrack(std::int32_t SlideShowID, std::int32_t AlbumID,
-                                          std::int32_t SoundTrackSeq, const QString& SoundTrackLoc,
-                                          std::int32_t SlideSeqStart, std::int32_t SlideSeqEnd,
-                                          bool Repeat, bool FitToSong, bool Fade) {
-    clsNEBSlideShow* Show = SlideShowOrBox(AlbumID, SlideShowID);
-    return Show && Show->SaveSoundTrack(SoundTrackSeq, SoundTrackLoc, SlideSeqStart, SlideSeqEnd,
-                                        Repeat, FitToSong, Fade);
+Answer<> clsDBEngine::SaveSlideShowSoundTrack(std::int32_t SlideShowID, std::int32_t AlbumID,
+                                              std::int32_t SoundTrackSeq,
+                                              const QString& SoundTrackLoc,
+                                              std::int32_t SlideSeqStart, std::int32_t SlideSeqEnd,
+                                              bool Repeat, bool FitToSong, bool Fade) {
+    Answer<clsNEBSlideShow*> Show = FoundSlideShow(AlbumID, SlideShowID);
+    if (!Show) return Show.Refusal();
+    (*Show)->SaveSoundTrack(SoundTrackSeq, SoundTrackLoc, SlideSeqStart, SlideSeqEnd, Repeat,
+                            FitToSong, Fade);
+    return Done();
 }
 
 void clsDBEngine::LoadSlideShowSoundTracksCombo(ComboList& cboSoundTracks,

@@ -106,27 +106,44 @@ clsNEBSlideShow* clsNEBAlbum::GetSlideShow(std::int32_t SlideShowID,
     return nullptr;
 }
 
-bool clsNEBAlbum::DeleteSlide(std::int32_t SlideID, const clsDBEngine& theDB) {
-    if (SlideID == 0) return true;
+bool clsNEBAlbum::TakeSlide(std::int32_t SlideID) {
+    if (SlideID == 0) return false;
     const auto Found = std::find_if(Slides.begin(), Slides.end(),
                                     [&](const auto& Slide) { return Slide->SlideID == SlideID; });
-    if (Found == Slides.end()) return true;
+    if (Found == Slides.end()) return false;
     Slides.erase(Found);
-    const QString Stem = SlidesFolder(theDB.DBPath(), AlbumID) + FileStem(SlideID);
-    DeleteQuietly(Stem + QStringLiteral(".*"));
-    DeleteQuietly(Stem + QStringLiteral("Small.*"));
     return true;
 }
 
-bool clsNEBAlbum::DeleteSlideShow(std::int32_t SlideShowID, const clsDBEngine& theDB) {
-    if (SlideShowID == 0) return true;
+void clsNEBAlbum::DeleteSlideFiles(std::int32_t SlideID, const clsDBEngine& theDB) const {
+    const QString Stem = SlidesFolder(theDB.DBPath(), AlbumID) + FileStem(SlideID);
+    DeleteQuietly(Stem + QStringLiteral(".*"));
+    DeleteQuietly(Stem + QStringLiteral("Small.*"));
+}
+
+bool clsNEBAlbum::DeleteSlide(std::int32_t SlideID, const clsDBEngine& theDB) {
+    if (TakeSlide(SlideID)) DeleteSlideFiles(SlideID, theDB);
+    return true;
+}
+
+bool clsNEBAlbum::TakeSlideShow(std::int32_t SlideShowID) {
+    if (SlideShowID == 0) return false;
     const auto Found = std::find_if(SlideShows.begin(), SlideShows.end(), [&](const auto& Show) {
         return Show->SlideShowID == SlideShowID;
     });
-    if (Found == SlideShows.end()) return true;
+    if (Found == SlideShows.end()) return false;
+    SlideShows.erase(Found);
+    return true;
+}
+
+void clsNEBAlbum::DeleteSlideShowFiles(std::int32_t SlideShowID, const clsDBEngine& theDB) const {
     DeleteQuietly(SoundTracksFolder(theDB.DBPath(), AlbumID) + FileStem(SlideShowID) +
                   QStringLiteral("*.*"));
-    SlideShows.erase(Found);
+}
+
+// The show goes before its sounds: never a show without them.
+bool clsNEBAlbum::DeleteSlideShow(std::int32_t SlideShowID, const clsDBEngine& theDB) {
+    if (TakeSlideShow(SlideShowID)) DeleteSlideShowFiles(SlideShowID, theDB);
     return true;
 }
 

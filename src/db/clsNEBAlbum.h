@@ -51,6 +51,12 @@ class clsNEBAlbum {
     bool DeleteSlide(std::int32_t SlideID, const clsDBEngine& theDB);
     bool DeleteSlideShow(std::int32_t SlideShowID, const clsDBEngine& theDB);
 
+    // The two halves of a deletion: the thing (false when there is none), and its files.
+    bool TakeSlide(std::int32_t SlideID);
+    bool TakeSlideShow(std::int32_t SlideShowID);
+    void DeleteSlideFiles(std::int32_t SlideID, const clsDBEngine& theDB) const;
+    void DeleteSlideShowFiles(std::int32_t SlideShowID, const clsDBEngine& theDB) const;
+
     // Both collections emptied, for the clearing before a transfer; always true.
     bool ClearContents();
 };

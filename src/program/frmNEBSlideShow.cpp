@@ -17,6 +17,7 @@
 #include "support/Fault.h"
 #include "support/Services.h"
 #include "support/files/modHostFiles.h"
+#include "windows/frame/modBroadcast.h"
 #include "windows/lists/clsImageBuffer.h"
 
 namespace neb {
@@ -97,6 +98,7 @@ void frmNEBSlideShow::LoadDatabase() {
     mEngine->SetProgramPath(AppPath());
     mEngine->InitializeDB();
     DBEngine = mEngine.get();
+    BroadcastChangesOf(*DBEngine);
     Log("Completed Initializing and Buffering Database");
 }
 

@@ -126,7 +126,7 @@ class FolderImport {
         std::int32_t AlbumID = 0;
         QString Name = mOrder.Album;
         mIsNew = !mEngine.LoadAlbum(AlbumID, Name);
-        if (mIsNew && !mEngine.SaveAlbum(AlbumID, Name)) return false;
+        if (mIsNew && !MakeAlbum(AlbumID, Name)) return false;
         mAlbum = mEngine.GetAlbum(AlbumID);
         if (ShowExists()) {
             Fail(mIO,
@@ -135,6 +135,12 @@ class FolderImport {
         }
         MakeAlbumFolders(mEngine, AlbumID);
         return true;
+    }
+
+    bool MakeAlbum(std::int32_t& AlbumID, const QString& Name) {
+        const Answer<> Made = mEngine.SaveAlbum(AlbumID, Name);
+        if (!Made) Fail(mIO, Made.Refusal().Text);
+        return static_cast<bool>(Made);
     }
 
     bool ShowExists() const {

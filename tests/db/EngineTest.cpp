@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "Fixtures.h"
+#include "harness/Refusals.h"
 #include "harness/ScriptedBoxes.h"
 #include "support/Fault.h"
 
@@ -183,20 +184,15 @@ TEST_F(EngineTest, AnAlbumKeepsItsNameOnARenameToItself) {
 TEST_F(EngineTest, ASecondAlbumOfTheSameNameIsRefused) {
     NewAlbum(u"a"_s);
     std::int32_t AlbumID = 0;
-    Boxes.Expect(u"An Album with this name already exists."_s, QString(), BoxIcon::Plain,
-                 BoxAnswer::Ok);
-    EXPECT_FALSE(Engine->SaveAlbum(AlbumID, u"a"_s));
+    ExpectRefused(Engine->SaveAlbum(AlbumID, u"a"_s), u"An Album with this name already exists."_s);
     EXPECT_EQ(AlbumID, 0);
     EXPECT_EQ(NewAlbum(u"A"_s), 2);  // another case is another name
 }
 
 TEST_F(EngineTest, AnEmptyNameIsRefused) {
     std::int32_t AlbumID = 0;
-    for (const QString& Name : {QString(), u"   "_s}) {
-        Boxes.Expect(u"You must specify an Album name."_s, QString(), BoxIcon::Plain,
-                     BoxAnswer::Ok);
-        EXPECT_FALSE(Engine->SaveAlbum(AlbumID, Name));
-    }
+    for (const QString& Name : {QString(), u"   "_s})
+        ExpectRefused(Engine->SaveAlbum(AlbumID, Name), u"You must specify an Album name."_s);
     EXPECT_TRUE(Engine->Albums.empty());
 }
 
@@ -204,16 +200,15 @@ TEST_F(EngineTest, ADuplicateOfBlanksIsRefusedAsADuplicate) {
     NewAlbum(u"a"_s);
     Engine->Albums[0]->AlbumName = u"  "_s;
     std::int32_t AlbumID = 0;
-    Boxes.Expect(u"An Album with this name already exists."_s);
-    EXPECT_FALSE(Engine->SaveAlbum(AlbumID, u"  "_s));
+    ExpectRefused(Engine->SaveAlbum(AlbumID, u"  "_s),
+                  u"An Album with this name already exists."_s);
 }
 
 TEST_F(EngineTest, ANameOfEightyCharactersIsTheLongest) {
     NewAlbum(u"n"_s.repeated(80));
     std::int32_t AlbumID = 0;
-    Boxes.Expect(u"Album names must be <= 80 characters long."_s, QString(), BoxIcon::Plain,
-                 BoxAnswer::Ok);
-    EXPECT_FALSE(Engine->SaveAlbum(AlbumID, u"n"_s.repeated(81)));
+    ExpectRefused(Engine->SaveAlbum(AlbumID, u"n"_s.repeated(81)),
+                  u"Album names must be <= 80 characters long."_s);
 }
 
 TEST_F(EngineTest, ANameIsStoredUntrimmed) {
@@ -291,21 +286,18 @@ TEST_F(EngineTest, DeletingAnAlbumIsAlwaysTrueAndKeepsItsFiles) {
 
 TEST_F(EngineTest, SavingIntoAnAlbumThatIsNotThereIsRefused) {
     const QString Text = u"The Album was not found."_s;
-    for (int I = 0; I < 4; ++I) Boxes.Expect(Text, QString(), BoxIcon::Plain, BoxAnswer::Ok);
-    EXPECT_FALSE(Engine->SaveSlide(0, 5, {}, {}, {}, false, false));
-    EXPECT_FALSE(Engine->SaveSlideShow(0, 5, {}, 0));
-    EXPECT_FALSE(Engine->SaveSlideShowDetail(1, 5, 1, 1, {}));
-    EXPECT_FALSE(Engine->SaveSlideShowSoundTrack(1, 5, 1, {}, 1, 1, false, false, false));
-    EXPECT_EQ(Boxes.ShownCount(), 4);
+    ExpectRefused(Engine->SaveSlide(0, 5, {}, {}, {}, false, false), Text);
+    ExpectRefused(Engine->SaveSlideShow(0, 5, {}, 0), Text);
+    ExpectRefused(Engine->SaveSlideShowDetail(1, 5, 1, 1, {}), Text);
+    ExpectRefused(Engine->SaveSlideShowSoundTrack(1, 5, 1, {}, 1, 1, false, false, false), Text);
 }
 
 TEST_F(EngineTest, SavingIntoAShowThatIsNotThereIsRefused) {
     const std::int32_t AlbumID = NewAlbum(u"a"_s);
-    for (int I = 0; I < 2; ++I)
-        Boxes.Expect(u"The Slide Show was not found."_s, QString(), BoxIcon::Plain, BoxAnswer::Ok);
-    EXPECT_FALSE(Engine->SaveSlideShowDetail(1, AlbumID, 1, 1, {}));
-    EXPECT_FALSE(Engine->SaveSlideShowSoundTrack(1, AlbumID, 1, {}, 1, 1, false, false, false));
-    EXPECT_EQ(Boxes.ShownCount(), 2);
+    const QString Text = u"The Slide Show was not found."_s;
+    ExpectRefused(Engine->SaveSlideShowDetail(1, AlbumID, 1, 1, {}), Text);
+    ExpectRefused(Engine->SaveSlideShowSoundTrack(1, AlbumID, 1, {}, 1, 1, false, false, false),
+                  Text);
 }
 
 TEST_F(EngineTest, ListsOfThingsThatAreNotThereAreEmpty) {

@@ -3,6 +3,7 @@
 
 #include "Fixtures.h"
 #include "db/modAlbumFiles.h"
+#include "harness/Refusals.h"
 #include "harness/ScriptedBoxes.h"
 #include "support/Fault.h"
 
@@ -267,9 +268,9 @@ TEST_F(ObjectsTest, AFailureToClearAnAlbumIsShown) {
     SetHostWatcher([](HostStep Step, const QString& Path, qint64&) {
         if (Step == HostStep::Delete) throw Fault(u"It is in use."_s, Path);
     });
-    Boxes.Expect(u"Failed to clear the album.\nIt is in use.\n"_s + SlideFile(1, ".jpg"),
-                 u"Clear Album Failed"_s, BoxIcon::Critical, BoxAnswer::Ok);
-    EXPECT_FALSE(Engine->ClearAlbumData(*Album));
+    ExpectRefused(Engine->ClearAlbumData(*Album),
+                  u"Failed to clear the album.\nIt is in use.\n"_s + SlideFile(1, ".jpg"),
+                  u"Clear Album Failed"_s, BoxIcon::Critical);
     SetHostWatcher({});
 }
 
@@ -317,9 +318,9 @@ TEST_F(ObjectsTest, AFailureToClearAShowIsShownAndStopsTheWork) {
         WriteFile(SoundFile(Name), "x");
     }
     SetHostWatcher([](HostStep, const QString& Path, qint64&) { throw Fault(u"No."_s, Path); });
-    Boxes.Expect(u"Failed to clear the slide show.\nNo.\n"_s + SoundFile("a.mp3"),
-                 u"Clear Slide Show Failed"_s, BoxIcon::Critical, BoxAnswer::Ok);
-    EXPECT_FALSE(Engine->ClearSlideShowData(*Album, *Show));
+    ExpectRefused(Engine->ClearSlideShowData(*Album, *Show),
+                  u"Failed to clear the slide show.\nNo.\n"_s + SoundFile("a.mp3"),
+                  u"Clear Slide Show Failed"_s, BoxIcon::Critical);
     SetHostWatcher({});
     EXPECT_TRUE(FileExists(SoundFile("b.mp3")));
 }

@@ -60,6 +60,13 @@ void Form::ShowModeless() {
     show();
 }
 
+void Form::Command(const std::function<void()>& Do) {
+    const auto Held = shared_from_this();
+    if (!IsLoaded() || IsBusy()) return;
+    FinishEdits();
+    Do();
+}
+
 bool Form::Unload() {
     if (mState != State::Loaded) return mState != State::Unloading;
     const auto Held = shared_from_this();

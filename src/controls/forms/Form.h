@@ -5,6 +5,7 @@
 
 #include <QDialog>
 #include <exception>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -36,6 +37,21 @@ class Form : public QDialog, public std::enable_shared_from_this<Form> {
     // The close button, and Esc outside the main window's frame: unload, unless a window wants
     // otherwise. A child keeps its work when Esc is pressed once too often.
     virtual void CloseRequested() { Unload(); }
+
+    // A command is what the user asks for by a button, a key, a menu entry, a list. While work is
+    // under way in the window none begins.
+    virtual bool IsBusy() const { return false; }
+    // A command acts on what the user sees: what is being typed in a cell counts.
+    virtual void FinishEdits() {}
+    // Runs a command, unless the form is busy or not loaded; the form lives until it is over, even
+    // when a box or another window that it opened has the form closed.
+    void Command(const std::function<void()>& Do);
+    // Makes a signal of a control a command; Do is a member of the form.
+    template <class Sender, class Signal, class Window>
+    void On(Sender* Control, Signal Happens, void (Window::*Do)()) {
+        connect(Control, Happens, this,
+                [this, Do] { Command([this, Do] { (static_cast<Window*>(this)->*Do)(); }); });
+    }
 
     void closeEvent(QCloseEvent* Event) override;
     void showEvent(QShowEvent* Event) override;

@@ -1,6 +1,7 @@
 #include "windows/albums/frmAlbumRename.h"
 
 #include "controls/fields/Icons.h"
+#include "controls/forms/Tell.h"
 #include "db/clsDBEngine.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/modDEValidation.h"
@@ -41,7 +42,7 @@ void frmAlbumRename::Save() {
     const auto Chosen = ChosenAlbum();
     if (!Chosen || !IsNameGiven(mAdjective, mUi->txtAlbumName->text())) return;
     std::int32_t AlbumID = *Chosen;
-    DBEngine->SaveAlbum(AlbumID, ConvertQuotes(mUi->txtAlbumName->text()));
+    Tell(DBEngine->SaveAlbum(AlbumID, ConvertQuotes(mUi->txtAlbumName->text())));
     Broadcast(QStringLiteral("Update"), AlbumID);
     NoteDone();
     Unload();

@@ -177,11 +177,11 @@ void frmSlideShowDBM::LoadIcons() {
 
 // A command acts on what the user sees: an edit that is open counts as made. The window may go
 // while a box or another window is open inside a command.
-void frmSlideShowDBM::Do(Action Command) {
+void frmSlideShowDBM::Do(Action Chosen) {
     const auto Held = shared_from_this();
     if (IsBusy()) return;
     FinishEdits();
-    (this->*Command)();
+    (this->*Chosen)();
 }
 
 void frmSlideShowDBM::FinishEdits() {

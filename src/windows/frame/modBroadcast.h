@@ -12,6 +12,8 @@ QT_END_NAMESPACE
 
 namespace neb {
 
+class clsDBEngine;
+
 // The keys of an event: AlbumID, then SlideID or SlideShowID.
 using EventKeys = std::vector<std::int32_t>;
 
@@ -29,5 +31,9 @@ class ChangeReceiver {
 // an earlier receiver has unloaded is passed over.
 void BroadcastEvent(const QString& ObjectType, const QString& EventType, const QWidget* Sender,
                     const EventKeys& EventData);
+
+// Lets the windows follow what is changed in a database through db/Changes: each change is told by
+// BroadcastEvent. For the program's own database; a test sets it up where it stands in for it.
+void BroadcastChangesOf(clsDBEngine& theDB);
 
 }  // namespace neb

@@ -1,6 +1,7 @@
 #include "windows/import/frmImportFilter.h"
 
 #include "controls/forms/ScreenPointer.h"
+#include "controls/forms/Tell.h"
 #include "db/clsDBEngine.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
@@ -57,7 +58,7 @@ void frmImportFilter::StartOperation() {
 }
 
 bool frmImportFilter::MakeAlbum() {
-    if (!NewAlbum(*DBEngine, mAlbumID, ConvertQuotes(mAlbumName))) return false;
+    if (!Tell(NewAlbum(*DBEngine, mAlbumID, ConvertQuotes(mAlbumName)))) return false;
     BroadcastEvent(QStringLiteral("Album"), QStringLiteral("Insert"), this, {mAlbumID});
     return true;
 }

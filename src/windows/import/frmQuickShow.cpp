@@ -2,6 +2,7 @@
 
 #include "controls/fields/KeyFilter.h"
 #include "controls/forms/ScreenPointer.h"
+#include "controls/forms/Tell.h"
 #include "controls/grid/FlexGrid.h"
 #include "db/clsDBEngine.h"
 #include "settings/modNEBSlideShow.h"
@@ -74,7 +75,7 @@ void frmQuickShow::StartOperation() {
 }
 
 bool frmQuickShow::MakeAlbum() {
-    if (!NewAlbum(*DBEngine, mAlbumID, ConvertQuotes(mAlbumName))) {
+    if (!Tell(NewAlbum(*DBEngine, mAlbumID, ConvertQuotes(mAlbumName)))) {
         MsgBox(QStringLiteral("Failed to save album."));
         return false;
     }

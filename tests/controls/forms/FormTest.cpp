@@ -238,3 +238,41 @@ TEST_F(FormTest, ItsOwnButtonMayUnloadItAsItsLastReference) {
     Settle();
     EXPECT_TRUE(Watched.isNull());
 }
+
+TEST_F(FormTest, ACommandFinishesEditsBeforeItRuns) {
+    Window->Load();
+    int FinishedBefore = 0;
+    Window->Command([&] { FinishedBefore = Window->Finished; });
+    EXPECT_EQ(1, FinishedBefore);
+}
+
+TEST_F(FormTest, NoCommandBeginsWhileTheFormIsBusyOrNotLoaded) {
+    int Runs = 0;
+    Window->Command([&] { ++Runs; });
+    EXPECT_EQ(0, Runs) << "not loaded yet";
+    Window->Load();
+    Window->Busy = true;
+    Window->Command([&] { ++Runs; });
+    EXPECT_EQ(0, Runs);
+    EXPECT_EQ(0, Window->Finished) << "what is being typed is left alone";
+    Window->Busy = false;
+    Window->Command([&] { ++Runs; });
+    EXPECT_EQ(1, Runs);
+    Window->Unload();
+    Window->Command([&] { ++Runs; });
+    EXPECT_EQ(1, Runs) << "unloaded";
+}
+
+TEST_F(FormTest, AFormThatItsOwnCommandClosesLivesUntilTheCommandIsOver) {
+    const QPointer<Form> Watched = Window.get();
+    TestForm* Shown = Window.get();
+    Shown->ShowModeless();
+    Shown->Command([&] {
+        Shown->Unload();
+        Window.reset();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_FALSE(Watched.isNull());
+    });
+    Settle();
+    EXPECT_TRUE(Watched.isNull());
+}

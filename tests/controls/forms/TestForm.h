@@ -15,8 +15,14 @@ class TestForm : public Form {
     std::function<void()> OnLoad, OnActivate, OnClose;
     std::function<bool()> OnUnload;
     int Loads = 0, Activations = 0, Unloads = 0;
+    bool Busy = false;
+    int Finished = 0;
+    using Form::Command;
+    using Form::On;
 
   protected:
+    bool IsBusy() const override { return Busy; }
+    void FinishEdits() override { ++Finished; }
     void Form_Load() override {
         ++Loads;
         if (OnLoad) OnLoad();

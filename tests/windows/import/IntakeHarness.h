@@ -14,6 +14,7 @@
 #include "settings/clsFileSystem.h"
 #include "settings/modNEBSlideShow.h"
 #include "windows/WindowSteps.h"
+#include "windows/frame/modBroadcast.h"
 #include "windows/import/frmImportFilter.h"
 
 namespace neb::harness {
@@ -24,6 +25,7 @@ class Intake : public ::testing::Test {
         Engine.SetDBPath(Db.Path());
         Engine.InitializeDB();
         DBEngine = &Engine;
+        BroadcastChangesOf(Engine);
         FileSystem = &Files;
         AppPathCache = App.Path();
         SetDocumentsPath(Docs.Path());

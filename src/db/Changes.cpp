@@ -1,0 +1,122 @@
+#include "db/Changes.h"
+
+#include "db/clsDBEngine.h"
+
+namespace neb {
+namespace {
+
+const char* const NoAlbum = "The Album was not found.";
+const char* const NoSlide = "Slide could not be found.";
+
+BoxRequest Missing(const char* Text) {
+    return Refuse(QString::fromLatin1(Text));
+}
+
+}  // namespace
+
+Announcement::Announcement(const ChangeListeners* Listeners, const QObject* Asker, Change What)
+    : mListeners(Listeners), mAsker(Asker), mWhat(What) {}
+
+Announcement::Announcement(Announcement&& Other) noexcept
+    : mListeners(std::exchange(Other.mListeners, nullptr)),
+      mAsker(Other.mAsker),
+      mWhat(Other.mWhat) {}
+
+Announcement& Announcement::operator=(Announcement&& Other) noexcept {
+    if (this == &Other) return *this;
+    Now();
+    mListeners = std::exchange(Other.mListeners, nullptr);
+    mAsker = Other.mAsker;
+    mWhat = Other.mWhat;
+    return *this;
+}
+
+Announcement::~Announcement() {
+    Now();
+}
+
+void Announcement::Now() {
+    const ChangeListeners* Listeners = std::exchange(mListeners, nullptr);
+    if (Listeners && Listeners->Told) Listeners->Told(mWhat, mAsker);
+}
+
+Announcement Changes::Noted(Change What) {
+    if (mDB.Listeners.Noted) mDB.Listeners.Noted(What);
+    return {mTogether ? nullptr : &mDB.Listeners, mAsker, What};
+}
+
+Announcement Changes::AsOne(Change::Kind What, std::int32_t AlbumID) {
+    mTogether = true;
+    return {&mDB.Listeners, mAsker, {What, AlbumID}};
+}
+
+Answer<Announcement> Changes::MakeAlbum(const QString& AlbumName) {
+    std::int32_t AlbumID = 0;
+    const Answer<> Saved = mDB.SaveAlbum(AlbumID, AlbumName);
+    if (!Saved) return Saved.Refusal();
+    return Noted({Change::Kind::AlbumMade, AlbumID});
+}
+
+Answer<Announcement> Changes::RenameAlbum(std::int32_t AlbumID, const QString& AlbumName) {
+    if (!mDB.GetAlbum(AlbumID)) return Missing(NoAlbum);
+    const Answer<> Saved = mDB.SaveAlbum(AlbumID, AlbumName);
+    if (!Saved) return Saved.Refusal();
+    return Noted({Change::Kind::AlbumRenamed, AlbumID});
+}
+
+Answer<Announcement> Changes::DeleteAlbum(std::int32_t AlbumID) {
+    mDB.DeleteAlbum(AlbumID);
+    return Noted({Change::Kind::AlbumDeleted, AlbumID});
+}
+
+Answer<Announcement> Changes::SaveSlide(std::int32_t AlbumID, const clsNEBSlide& Slide) {
+    clsNEBAlbum* Album = mDB.GetAlbum(AlbumID);
+    if (!Album) return Missing(NoAlbum);
+    std::int32_t SlideID = Slide.SlideID;
+    Album->SaveSlide(SlideID, Slide.SlideText, Slide.SlideLoc, Slide.SoundTrackLoc, Slide.Override,
+                     Slide.Repeat, mDB);
+    return Noted({Change::Kind::SlideSaved, AlbumID, SlideID});
+}
+
+Answer<Announcement> Changes::SaveCaption(std::int32_t AlbumID, std::int32_t SlideID,
+                                          const QString& SlideText) {
+    clsNEBAlbum* Album = mDB.GetAlbum(AlbumID);
+    if (!Album) return Missing(NoAlbum);
+    clsNEBSlide* Slide = Album->GetSlide(SlideID);
+    if (!Slide) return Missing(NoSlide);
+    Slide->SlideText = SlideText;
+    return Noted({Change::Kind::SlideSaved, AlbumID, SlideID});
+}
+
+Answer<Announcement> Changes::DeleteSlide(std::int32_t AlbumID, std::int32_t SlideID) {
+    clsNEBAlbum* Album = mDB.GetAlbum(AlbumID);
+    if (!Album) return Missing(NoAlbum);
+    const bool WasThere = Album->TakeSlide(SlideID);
+    Announcement Deleted = Noted({Change::Kind::SlideDeleted, AlbumID, SlideID});
+    if (WasThere) Album->DeleteSlideFiles(SlideID, mDB);
+    return Deleted;
+}
+
+// The object stays: who shows it goes on showing it, with its new contents.
+Answer<Announcement> Changes::SaveShow(std::int32_t AlbumID, clsNEBSlideShow Show) {
+    clsNEBAlbum* Album = mDB.GetAlbum(AlbumID);
+    if (!Album) return Missing(NoAlbum);
+    const bool IsNew = !Album->GetSlideShow(Show.SlideShowID);
+    Album->SaveSlideShow(Show.SlideShowID, Show.SlideShowName, Show.ProgressionMethod, mDB);
+    clsNEBSlideShow& Stored = *Album->GetSlideShow(Show.SlideShowID);
+    Stored.Details = std::move(Show.Details);
+    Stored.SoundTracks = std::move(Show.SoundTracks);
+    const auto Kind = IsNew ? Change::Kind::ShowMade : Change::Kind::ShowReplaced;
+    return Noted({Kind, AlbumID, 0, Stored.SlideShowID});
+}
+
+Answer<Announcement> Changes::DeleteShow(std::int32_t AlbumID, std::int32_t SlideShowID) {
+    clsNEBAlbum* Album = mDB.GetAlbum(AlbumID);
+    if (!Album) return Missing(NoAlbum);
+    const bool WasThere = Album->TakeSlideShow(SlideShowID);
+    Announcement Deleted = Noted({Change::Kind::ShowDeleted, AlbumID, 0, SlideShowID});
+    if (WasThere) Album->DeleteSlideShowFiles(SlideShowID, mDB);
+    return Deleted;
+}
+
+}  // namespace neb

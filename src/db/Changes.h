@@ -1,0 +1,75 @@
+// The one door through which albums, slides and shows change: it does the change, notes it, and
+// gives out its announcement. Windows, imports and nebctl hold one for as long as they need it;
+// nothing else assigns the fields of records.
+#pragma once
+
+#include "db/Change.h"
+#include "db/clsNEBSlide.h"
+#include "db/clsNEBSlideShow.h"
+#include "support/Answer.h"
+
+namespace neb {
+
+class clsDBEngine;
+class clsNEBAlbum;
+
+// A change that is done and noted, and not yet told to the other windows: the user may be told
+// first. It is told by Now, at the latest at the end of its life, also when a fault passes by.
+class [[nodiscard]] Announcement {
+  public:
+    Announcement(const ChangeListeners* Listeners, const QObject* Asker, Change What);
+    Announcement(Announcement&& Other) noexcept;
+    Announcement& operator=(Announcement&& Other) noexcept;
+    ~Announcement();
+
+    const Change& What() const { return mWhat; }
+    void Now();
+    // Nobody is told: another announcement stands for this one, or the change was taken back.
+    void Never() { mListeners = nullptr; }
+
+  private:
+    const ChangeListeners* mListeners;
+    const QObject* mAsker;
+    Change mWhat;
+};
+
+// The answers refuse with the engine's own texts. Routines that delete files throw nothing: what
+// cannot be deleted stays.
+class Changes {
+  public:
+    // Asker: the window that asks; it is not told of its own changes.
+    explicit Changes(clsDBEngine& theDB, const QObject* Asker = nullptr)
+        : mDB(theDB), mAsker(Asker) {}
+
+    Answer<Announcement> MakeAlbum(const QString& AlbumName);  // What().AlbumID is the new one
+    Answer<Announcement> RenameAlbum(std::int32_t AlbumID, const QString& AlbumName);
+    // The records; the album's files are for the caller to remove, before or after.
+    Answer<Announcement> DeleteAlbum(std::int32_t AlbumID);
+
+    // All fields of one slide. SlideID 0, or one that the album does not have: a new slide, whose
+    // number is in What() afterwards.
+    Answer<Announcement> SaveSlide(std::int32_t AlbumID, const clsNEBSlide& Slide);
+    Answer<Announcement> SaveCaption(std::int32_t AlbumID, std::int32_t SlideID,
+                                     const QString& SlideText);
+    // The record goes, then the slide's files; a slide that is not there has gone already.
+    Answer<Announcement> DeleteSlide(std::int32_t AlbumID, std::int32_t SlideID);
+
+    // Replaces a show by these contents in one go; SlideShowID 0, or one that the album does not
+    // have: a new show, whose number is in What() afterwards.
+    Answer<Announcement> SaveShow(std::int32_t AlbumID, clsNEBSlideShow Show);
+    // The record goes, then the show's sounds.
+    Answer<Announcement> DeleteShow(std::int32_t AlbumID, std::int32_t SlideShowID);
+
+    // One announcement for many changes of an album (SlidesImported, CaptionsSaved): those made
+    // through this object from here on are noted one by one and told by this one alone.
+    Announcement AsOne(Change::Kind What, std::int32_t AlbumID);
+
+  private:
+    Announcement Noted(Change What);
+
+    clsDBEngine& mDB;
+    const QObject* mAsker;
+    bool mTogether = false;
+};
+
+}  // namespace neb

@@ -1,0 +1,225 @@
+// The door through which records change: each change is done, then noted, then told.
+#include <gtest/gtest.h>
+
+#include <QObject>
+
+#include "Fixtures.h"
+#include "db/Changes.h"
+#include "db/modAlbumFiles.h"
+#include "harness/Refusals.h"
+#include "support/Fault.h"
+
+namespace neb {
+namespace {
+
+using namespace harness;
+using Kind = Change::Kind;
+
+class ChangesTest : public ::testing::Test {
+  protected:
+    ChangesTest() {
+        Engine.SetDBPath(Dir.Path());
+        Engine.InitializeDB();
+        Engine.Listeners.Noted = [this](const Change& What) { Noted.push_back(What); };
+        Engine.Listeners.Told = [this](const Change& What, const QObject* Asker) {
+            Told.push_back(What);
+            Askers.push_back(Asker);
+        };
+    }
+    std::int32_t MakeAlbum() { return Changes(Engine).MakeAlbum(u"Garden"_s)->What().AlbumID; }
+    std::int32_t MakeSlide(std::int32_t AlbumID, const QString& Text) {
+        clsNEBSlide Slide;
+        Slide.SlideText = Text;
+        return Changes(Engine).SaveSlide(AlbumID, Slide)->What().SlideID;
+    }
+    void Forget() {
+        Noted.clear();
+        Told.clear();
+        Askers.clear();
+    }
+
+    TempFolder Dir;
+    clsDBEngine Engine;
+    QObject Window;
+    std::vector<Change> Noted, Told;
+    std::vector<const QObject*> Askers;
+};
+
+clsNEBSlideShow ShowOf(const QString& Name, const std::vector<std::int32_t>& SlideIDs) {
+    clsNEBSlideShow Show;
+    Show.SlideShowName = Name;
+    std::int32_t Seq = 0;
+    for (std::int32_t Each : SlideIDs) Show.SaveDetail(Each, ++Seq, {});
+    return Show;
+}
+
+TEST_F(ChangesTest, AnAlbumIsMadeNotedAndTold) {
+    const std::int32_t AlbumID = MakeAlbum();
+    ASSERT_NE(Engine.GetAlbum(AlbumID), nullptr);
+    const std::vector<Change> Expected{{Kind::AlbumMade, AlbumID}};
+    EXPECT_EQ(Noted, Expected);
+    EXPECT_EQ(Told, Expected);
+}
+
+TEST_F(ChangesTest, WhoAskedIsNamedToThoseWhoAreTold) {
+    Changes(Engine, &Window).MakeAlbum(u"Yard"_s)->Now();
+    EXPECT_EQ(Askers, std::vector<const QObject*>{&Window});
+}
+
+TEST_F(ChangesTest, WhatIsRefusedIsNeitherNotedNorTold) {
+    MakeAlbum();
+    Forget();
+    ExpectRefused(Changes(Engine).MakeAlbum(u"Garden"_s),
+                  u"An Album with this name already exists."_s);
+    ExpectRefused(Changes(Engine).MakeAlbum(u" "_s), u"You must specify an Album name."_s);
+    ExpectRefused(Changes(Engine).RenameAlbum(77, u"x"_s), u"The Album was not found."_s);
+    ExpectRefused(Changes(Engine).SaveSlide(77, {}), u"The Album was not found."_s);
+    ExpectRefused(Changes(Engine).SaveShow(77, ShowOf(u"x"_s, {})), u"The Album was not found."_s);
+    ExpectRefused(Changes(Engine).SaveCaption(1, 77, u"x"_s), u"Slide could not be found."_s);
+    EXPECT_TRUE(Noted.empty());
+    EXPECT_TRUE(Told.empty());
+    EXPECT_EQ(Engine.Albums.size(), 1U);
+}
+
+TEST_F(ChangesTest, TheUserMayBeToldBeforeTheOtherWindows) {
+    {
+        const auto Renamed = Changes(Engine).RenameAlbum(MakeAlbum(), u"Yard"_s);
+        EXPECT_EQ(Noted.size(), 2U) << "noted at once";
+        EXPECT_EQ(Told.size(), 1U) << "of the making alone";
+    }
+    EXPECT_EQ(Told.back(), (Change{Kind::AlbumRenamed, 1}));
+    EXPECT_EQ(Engine.GetAlbum(1)->AlbumName, u"Yard");
+}
+
+TEST_F(ChangesTest, AnAnnouncementIsToldOnceWhereverItGoes) {
+    MakeAlbum();
+    Forget();
+    auto Renamed = Changes(Engine).RenameAlbum(1, u"Yard"_s);
+    Announcement Kept = std::move(*Renamed);
+    Kept.Now();
+    Kept.Now();
+    EXPECT_EQ(Told.size(), 1U);
+}
+
+TEST_F(ChangesTest, AnAnnouncementIsToldAlsoWhenAFaultPassesBy) {
+    MakeAlbum();
+    Forget();
+    try {
+        const auto Renamed = Changes(Engine).RenameAlbum(1, u"Yard"_s);
+        throw Fault(u"No."_s);
+    } catch (const Fault&) {
+        EXPECT_EQ(Told.size(), 1U);
+    }
+}
+
+TEST_F(ChangesTest, AnAnnouncementThatIsTakenBackIsNeverTold) {
+    {
+        auto Made = Changes(Engine).MakeAlbum(u"Yard"_s);
+        Made->Never();
+    }
+    EXPECT_TRUE(Told.empty());
+    EXPECT_EQ(Noted.size(), 1U);
+}
+
+TEST_F(ChangesTest, ASlideIsMadeAndChangedWithAllItsFields) {
+    const std::int32_t AlbumID = MakeAlbum();
+    const std::int32_t SlideID = MakeSlide(AlbumID, u"Roses"_s);
+    Forget();
+    clsNEBSlide Slide{SlideID, u"Tulips"_s, u"1.JPG"_s, u"1.wav"_s, true, true};
+    EXPECT_EQ(Changes(Engine).SaveSlide(AlbumID, Slide)->What().SlideID, SlideID);
+    const clsNEBSlide& Stored = *Engine.GetAlbum(AlbumID)->GetSlide(SlideID);
+    EXPECT_EQ(Stored.SlideText, u"Tulips");
+    EXPECT_EQ(Stored.SlideLoc, u"1.JPG");
+    EXPECT_EQ(Stored.SoundTrackLoc, u"1.wav");
+    EXPECT_TRUE(Stored.Override && Stored.Repeat);
+    EXPECT_EQ(Told, (std::vector<Change>{{Kind::SlideSaved, AlbumID, SlideID}}));
+}
+
+TEST_F(ChangesTest, ManyCaptionsAreNotedOneByOneAndToldAsOne) {
+    const std::int32_t AlbumID = MakeAlbum();
+    const std::int32_t One = MakeSlide(AlbumID, u"a"_s), Other = MakeSlide(AlbumID, u"b"_s);
+    Forget();
+    {
+        Changes Door(Engine, &Window);
+        const Announcement All = Door.AsOne(Kind::CaptionsSaved, AlbumID);
+        EXPECT_TRUE(Door.SaveCaption(AlbumID, One, u"c"_s));
+        EXPECT_TRUE(Door.SaveCaption(AlbumID, Other, u"d"_s));
+        EXPECT_TRUE(Told.empty());
+    }
+    EXPECT_EQ(Noted, (std::vector<Change>{{Kind::SlideSaved, AlbumID, One},
+                                          {Kind::SlideSaved, AlbumID, Other}}));
+    EXPECT_EQ(Told, (std::vector<Change>{{Kind::CaptionsSaved, AlbumID}}));
+    EXPECT_EQ(Engine.GetAlbum(AlbumID)->GetSlide(Other)->SlideText, u"d");
+}
+
+// Never a record without its picture: whoever notes the deletion finds the file still there.
+TEST_F(ChangesTest, TheRecordOfADeletedSlideGoesBeforeItsFiles) {
+    const std::int32_t AlbumID = MakeAlbum(), SlideID = MakeSlide(AlbumID, u"a"_s);
+    const QString Picture = SlidesFolder(Engine.DBPath(), AlbumID) + u"00000001.jpg"_s;
+    MakeDirs(SlidesFolder(Engine.DBPath(), AlbumID));
+    WriteFile(Picture, "x");
+    bool RecordGone = false, PictureThere = false;
+    Engine.Listeners.Noted = [&](const Change&) {
+        RecordGone = Engine.GetAlbum(AlbumID)->Slides.empty();
+        PictureThere = FileExists(Picture);
+    };
+    EXPECT_TRUE(Changes(Engine).DeleteSlide(AlbumID, SlideID));
+    EXPECT_TRUE(RecordGone);
+    EXPECT_TRUE(PictureThere);
+    EXPECT_FALSE(FileExists(Picture));
+}
+
+TEST_F(ChangesTest, AShowIsReplacedInOneGoAndStaysTheSameObject) {
+    const std::int32_t AlbumID = MakeAlbum(), SlideID = MakeSlide(AlbumID, u"a"_s);
+    Forget();
+    const std::int32_t ShowID =
+        Changes(Engine).SaveShow(AlbumID, ShowOf(u"One"_s, {SlideID}))->What().SlideShowID;
+    clsNEBSlideShow* Stored = Engine.GetAlbum(AlbumID)->GetSlideShow(ShowID);
+    ASSERT_NE(Stored, nullptr);
+    clsNEBSlideShow Next = ShowOf(u"Two"_s, {SlideID, SlideID});
+    Next.SlideShowID = ShowID;
+    Next.ProgressionMethod = 1;
+    Next.SaveSoundTrack(1, u"a.mp3"_s, 1, 2, true, false, true);
+    EXPECT_TRUE(Changes(Engine).SaveShow(AlbumID, std::move(Next)));
+    EXPECT_EQ(Engine.GetAlbum(AlbumID)->GetSlideShow(ShowID), Stored);
+    EXPECT_EQ(Stored->SlideShowName, u"Two");
+    EXPECT_EQ(Stored->ProgressionMethod, 1);
+    EXPECT_EQ(Stored->Details.size(), 2U);
+    ASSERT_EQ(Stored->SoundTracks.size(), 1U);
+    EXPECT_TRUE(Stored->SoundTracks[0]->Fade);
+    EXPECT_EQ(Told, (std::vector<Change>{{Kind::ShowMade, AlbumID, 0, ShowID},
+                                         {Kind::ShowReplaced, AlbumID, 0, ShowID}}));
+}
+
+TEST_F(ChangesTest, ADeletedShowTakesItsSoundsAlongAndLeavesItsSlides) {
+    const std::int32_t AlbumID = MakeAlbum(), SlideID = MakeSlide(AlbumID, u"a"_s);
+    const std::int32_t ShowID =
+        Changes(Engine).SaveShow(AlbumID, ShowOf(u"One"_s, {SlideID}))->What().SlideShowID;
+    const QString Sound = SoundTracksFolder(Engine.DBPath(), AlbumID) + u"00000001_1.mp3"_s;
+    MakeDirs(SoundTracksFolder(Engine.DBPath(), AlbumID));
+    WriteFile(Sound, "x");
+    Forget();
+    EXPECT_TRUE(Changes(Engine).DeleteShow(AlbumID, ShowID));
+    EXPECT_EQ(Engine.GetAlbum(AlbumID)->GetSlideShow(ShowID), nullptr);
+    EXPECT_NE(Engine.GetAlbum(AlbumID)->GetSlide(SlideID), nullptr);
+    EXPECT_FALSE(FileExists(Sound));
+    EXPECT_EQ(Told, (std::vector<Change>{{Kind::ShowDeleted, AlbumID, 0, ShowID}}));
+}
+
+TEST_F(ChangesTest, AnAlbumIsDeletedFromTheRecordsAlone) {
+    const std::int32_t AlbumID = MakeAlbum();
+    MakeDirs(SlidesFolder(Engine.DBPath(), AlbumID));
+    EXPECT_TRUE(Changes(Engine).DeleteAlbum(AlbumID));
+    EXPECT_TRUE(Engine.Albums.empty());
+    EXPECT_TRUE(FolderExists(SlidesFolder(Engine.DBPath(), AlbumID)));
+    EXPECT_EQ(Told.back(), (Change{Kind::AlbumDeleted, AlbumID}));
+}
+
+TEST_F(ChangesTest, ADatabaseThatNobodyFollowsChangesAllTheSame) {
+    Engine.Listeners = {};
+    EXPECT_EQ(MakeSlide(MakeAlbum(), u"a"_s), 1);
+    EXPECT_TRUE(Told.empty());
+}
+
+}  // namespace
+}  // namespace neb
