@@ -1,17 +1,14 @@
 #include "windows/transfer/ViewerForm.h"
 
 #include <QApplication>
-#include <QProgressBar>
 #include <QPushButton>
 
 #include "controls/fields/Icons.h"
-#include "controls/forms/ScreenPointer.h"
 #include "controls/forms/frmLoading.h"
 #include "controls/grid/FlexGrid.h"
 #include "db/modAlbumFiles.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
-#include "support/Services.h"
 #include "windows/frame/Openers.h"
 #include "windows/lists/SlideRows.h"
 #include "windows/lists/clsImageBuffer.h"
@@ -70,9 +67,7 @@ void ViewerForm::ShowWindow() {
 
 void ViewerForm::Form_Load() {
     RestoreWindow(*this, mMemory);
-    mLoadingForm = NewForm<frmLoading>();
-    const auto Shown = mLoadingForm;
-    Shown->ShowProgressMeter(*this);
+    mReading.Read(Reading());
     mDB = nullptr;
     if (mGrid->Rows() > 0) mGrid->SetRow(0);
 }
@@ -84,7 +79,7 @@ bool ViewerForm::Form_Unload() {
         SaveWindow(*this, mMemory);
     } catch (const Fault&) {
     }
-    if (mLoadingForm) std::exchange(mLoadingForm, nullptr)->ClearParent();
+    mReading.WindowClosed();
     return true;
 }
 
@@ -92,43 +87,35 @@ clsNEBAlbum* ViewerForm::Album() const {
     return mDB ? mDB->GetAlbum(mAlbumID) : nullptr;
 }
 
-void ViewerForm::DoActivity() {
-    const auto Held = shared_from_this();
-    const PointerScope Working(Pointer::Hourglass);
-    Fill();
+SlideReading::Order ViewerForm::Reading() {
+    return {.Begin =
+                [this] {
+                    Clear();
+                    return true;
+                },
+            .Keys = [this] { return Keys(); },
+            .MakeRow = [this](std::int32_t Key, int Number) { AddSlideRow(Key, Number); },
+            .IsThere = [this] { return IsStillThere(); },
+            .Grids = {mGrid},
+            .Shows = SlideReading::Bar::Count};
 }
 
-void ViewerForm::Fill() {
+void ViewerForm::Clear() {
     mGrid->SetRows(0);
     mGrid->SetEmptyText(mSays.Gone);
-    DoEvents();
-    if (!IsLoaded()) return;
-    clsNEBAlbum* Shown = Album();
-    const auto Keys = Shown ? SortedKeys(*Shown) : std::nullopt;
-    if (!Keys) return;
-    if (Keys->empty()) mGrid->SetEmptyText(mSays.Empty);
-    FillRows(*Keys);
 }
 
-void ViewerForm::FillRows(const std::vector<std::int32_t>& Keys) {
-    const auto Loading = mLoadingForm;
-    const int Count = static_cast<int>(Keys.size());
-    Loading->pgbLoadingProgress()->setMaximum(std::max(Count, 1));  // 0 would not be a bar
-    MoveBar(*Loading, 0);
-    mGrid->SetRedraw(false);
-    for (int I = 0; I < Count && !Stopped(); ++I) {
-        AddSlideRow(Keys[static_cast<size_t>(I)], I + 1);
-        MoveBar(*Loading, I + 1);
-    }
-    mGrid->SetRedraw(true);
-    Loading->ClearParent();
-    Loading->Unload();
+std::optional<SlideReading::KeyList> ViewerForm::Keys() {
+    clsNEBAlbum* Shown = Album();
+    auto Keys = Shown ? SortedKeys(*Shown) : std::nullopt;
+    if (Keys && Keys->empty()) mGrid->SetEmptyText(mSays.Empty);
+    return Keys;
 }
 
-// At each yield this window may be closed, and the album or the show deleted.
-bool ViewerForm::Stopped() const {
+// At each yield the album or the show may be deleted.
+bool ViewerForm::IsStillThere() const {
     clsNEBAlbum* Shown = Album();
-    return !IsLoaded() || !Shown || !IsThere(*Shown);
+    return Shown && IsThere(*Shown);
 }
 
 void ViewerForm::AddSlideRow(std::int32_t Key, int Number) {
@@ -138,7 +125,7 @@ void ViewerForm::AddSlideRow(std::int32_t Key, int Number) {
 // The shared thumbnails are those of the main database.
 void ViewerForm::ShowSlide(int Row, const ViewedSlide& Viewed) {
     if (mDBPath != DBEngine->DBPath()) return ShowForeignSlide(Row, Viewed);
-    ShowSlideInRow(*mGrid, Row, mAlbumID, *Viewed.Slide, mLoadingForm);
+    ShowSlideInRow(*mGrid, Row, mAlbumID, *Viewed.Slide, mReading.Window());
     mGrid->SetTextMatrix(Row, clsImageBuffer::ColText, Viewed.Caption);
 }
 
@@ -148,7 +135,7 @@ void ViewerForm::ShowForeignSlide(int Row, const ViewedSlide& Viewed) {
     mGrid->SetTextMatrix(Row, clsImageBuffer::ColPath, Path);
     const QImage Thumbnail = ThumbnailOrNone(Path);
     mGrid->SetCellPicture(Row, clsImageBuffer::ColPicture, Thumbnail);
-    mLoadingForm->ShowPicture(Thumbnail);
+    mReading.Window()->ShowPicture(Thumbnail);
 }
 
 void ViewerForm::ShowPicture(int Row) {

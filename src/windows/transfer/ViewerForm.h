@@ -8,9 +8,9 @@
 
 #include "albums/BulkSlides.h"
 #include "controls/forms/Form.h"
-#include "controls/forms/Progress.h"
 #include "db/clsDBEngine.h"
 #include "windows/frame/modWindowState.h"
+#include "windows/lists/SlideReading.h"
 
 QT_BEGIN_NAMESPACE
 class QPushButton;
@@ -19,14 +19,12 @@ QT_END_NAMESPACE
 namespace neb {
 
 class FlexGrid;
-class frmLoading;
 
-class ViewerForm : public Form, public ProgressParent {
+class ViewerForm : public Form {
     Q_OBJECT
 
   public:
     ~ViewerForm() override;
-    void DoActivity() override;  // fills the list, under frmLoading
 
   protected:
     struct Texts {
@@ -61,9 +59,10 @@ class ViewerForm : public Form, public ProgressParent {
 
   private:
     clsNEBAlbum* Album() const;
-    void Fill();
-    void FillRows(const std::vector<std::int32_t>& Keys);
-    bool Stopped() const;
+    SlideReading::Order Reading();
+    void Clear();
+    std::optional<SlideReading::KeyList> Keys();
+    bool IsStillThere() const;
     void AddSlideRow(std::int32_t Key, int Number);
     void ShowSlide(int Row, const ViewedSlide& Viewed);
     void ShowForeignSlide(int Row, const ViewedSlide& Viewed);
@@ -77,7 +76,7 @@ class ViewerForm : public Form, public ProgressParent {
     QString mDBPath;
     std::int32_t mAlbumID = 0;
     SlideFinder mFinder;
-    std::shared_ptr<frmLoading> mLoadingForm;
+    SlideReading mReading{*this};
 };
 
 }  // namespace neb

@@ -1,0 +1,116 @@
+#include "windows/lists/SlideReading.h"
+
+#include <QProgressBar>
+#include <QScopeGuard>
+#include <QScopedValueRollback>
+
+#include "controls/forms/Form.h"
+#include "controls/forms/ScreenPointer.h"
+#include "controls/forms/frmLoading.h"
+#include "controls/grid/FlexGrid.h"
+#include "support/Services.h"
+#include "support/modNumbers.h"
+
+namespace neb {
+namespace {
+
+void SetRedraw(const std::vector<FlexGrid*>& Grids, bool Redraw) {
+    for (FlexGrid* Grid : Grids) Grid->SetRedraw(Redraw);
+}
+
+QString PercentComplete(double Part, double Whole) {
+    return Format(Part / Whole * 100, "##0") + QStringLiteral("% Complete");
+}
+
+}  // namespace
+
+SlideReading::~SlideReading() = default;
+
+SlideReading::End SlideReading::Read(const Order& What) {
+    mAsked = What;
+    if (mReading) return mEnd = End::Again;
+    const auto Held = mWindow.shared_from_this();
+    const QScopedValueRollback<bool> Reading(mReading, true);
+    const auto Forget = qScopeGuard([this] {
+        mAsked.reset();
+        mOrder = {};
+    });
+    while (mAsked && mWindow.IsLoaded()) {
+        mOrder = *std::exchange(mAsked, std::nullopt);
+        mEnd = End::Done;
+        if (!mOrder.Begin || mOrder.Begin()) ReadOnce();
+    }
+    return mWindow.IsLoaded() ? mEnd : End::Closed;
+}
+
+void SlideReading::ReadOnce() {
+    if (!GoesOn()) return;
+    const auto Shown = NewForm<frmLoading>();
+    const QScopedValueRollback<std::shared_ptr<frmLoading>> Loading(mLoading, Shown);
+    if (mOrder.MayStop) Shown->SupportsAbort(true);
+    if (!mOrder.KeysTitle.isEmpty()) Shown->setWindowTitle(mOrder.KeysTitle);
+    Shown->ShowProgressMeter(*this);
+}
+
+// What was listed when it began need not be there any more: the keys say so themselves.
+void SlideReading::DoActivity() {
+    const PointerScope Working(Pointer::Hourglass);
+    if (!Yield()) return;
+    const std::optional<KeyList> Keys = mOrder.Keys();
+    if (!GoesOn()) return;
+    if (!Keys)
+        mEnd = End::Gone;
+    else if (!Keys->empty())
+        MakeRows(*Keys);
+}
+
+void SlideReading::MakeRows(const KeyList& Keys) {
+    const int Count = static_cast<int>(Keys.size());
+    mLoading->setWindowTitle(QStringLiteral("Loading Slides ..."));
+    mLoading->pgbLoadingProgress()->setMaximum(mOrder.Shows == Bar::Percent ? 100 : Count);
+    MoveBar(0, Count);
+    SetRedraw(mOrder.Grids, false);
+    const auto Painted = qScopeGuard([this] { SetRedraw(mOrder.Grids, true); });
+    for (int I = 0; I < Count && IsStillThere(); ++I) {
+        mOrder.MakeRow(Keys[static_cast<size_t>(I)], I + 1);
+        if (GoesOn()) MoveBar(I + 1, Count);
+    }
+    mLoading->ClearParent();
+    mLoading->Unload();
+}
+
+void SlideReading::MoveBar(int Value, int Count) {
+    QProgressBar& Shown = *mLoading->pgbLoadingProgress();
+    Shown.setValue(mOrder.Shows == Bar::Percent ? Value * 100 / Count : Value);
+    if (mOrder.Shows == Bar::CountAndText && Value > 0)
+        Shown.setToolTip(PercentComplete(Value, Count));
+    mLoading->Refresh();
+    DoEvents();
+}
+
+bool SlideReading::GoesOn() {
+    return mEnd == End::Done && mWindow.IsLoaded();
+}
+
+bool SlideReading::IsStillThere() {
+    if (GoesOn() && mOrder.IsThere && !mOrder.IsThere()) mEnd = End::Gone;
+    return GoesOn();
+}
+
+bool SlideReading::Yield() {
+    DoEvents();
+    return GoesOn();
+}
+
+void SlideReading::WindowClosed() {
+    if (mLoading) mLoading->ClearParent();
+}
+
+std::optional<SlideReading::HeardChange> SlideReading::NextWaiting() {
+    if (mWaiting.empty()) return std::nullopt;
+    HeardChange Next = std::move(mWaiting.front());
+    mWaiting.pop_front();
+    return Next;
+}
+
+}  // namespace neb
