@@ -87,7 +87,7 @@ Timed FastestFind(const QString& Dir) {
 
 Timed RunCount(const QString& Dir) {
     return Median([&] {
-        RunningCount Count;
+        JobState Count;
         return CountGraphicFiles(Dir, true, Count);
     });
 }

@@ -1,33 +1,30 @@
 #include "albums/AlbumRemoval.h"
 
-#include <chrono>
-#include <future>
-
 #include "db/modAlbumFiles.h"
 #include "support/files/modHostFiles.h"
+#include "support/work/Job.h"
 
 namespace neb {
 namespace {
 
-constexpr std::chrono::milliseconds Pause(5);
+constexpr int PauseMs = 5;
 
 // A host may take a quarter of a second to give back the room of a folder that held thousands of
 // files, in one call.
-void DropFolder(const QString& Folder, const std::function<void()>& Between) {
-    const auto Gone = std::async(std::launch::async, [&Folder] { DeleteFolder(Folder); });
-    while (Gone.wait_for(Pause) != std::future_status::ready) Between();
+void DropFolder(const QString& Folder, const Yield& LetRun) {
+    const Job<> Dropping([Folder](JobState&) { DeleteFolder(Folder); });
+    while (!Dropping.Wait(PauseMs)) LetRun();
 }
 
 }  // namespace
 
-void DeleteAlbumFiles(const QString& DBPath, std::int32_t AlbumID,
-                      const std::function<void()>& Between) {
+void DeleteAlbumFiles(const QString& DBPath, std::int32_t AlbumID, const Yield& LetRun) {
     const QString Album = AlbumFolder(DBPath, AlbumID);
     if (!IsLink(Album)) {
         for (const QString& Folder :
              {SoundTracksFolder(DBPath, AlbumID), SlidesFolder(DBPath, AlbumID)}) {
-            DeleteFilesIn(Folder, Between);
-            DropFolder(Folder, Between);
+            DeleteFilesIn(Folder, LetRun);
+            DropFolder(Folder, LetRun);
         }
     }
     DeleteFolder(Album);

@@ -3,14 +3,14 @@
 
 #include <QString>
 #include <cstdint>
-#include <functional>
+
+#include "support/KeepGoing.h"
 
 namespace neb {
 
 // Takes the sounds, the pictures and the folders of an album off the disk. What cannot be removed,
 // and what is not the program's, stays with its folder. A link is removed, what it leads to is not.
-// Between is called all the while.
-void DeleteAlbumFiles(const QString& DBPath, std::int32_t AlbumID,
-                      const std::function<void()>& Between);
+// LetRun is called all the while.
+void DeleteAlbumFiles(const QString& DBPath, std::int32_t AlbumID, const Yield& LetRun);
 
 }  // namespace neb

@@ -1,18 +1,15 @@
 #include "albums/GraphicsSearch.h"
 
 #include <QDateTime>
-#include <atomic>
 #include <condition_variable>
 #include <ctime>
 #include <deque>
 #include <mutex>
-#include <thread>
 
 #include "support/files/modHostFilesMask.h"
 #include "support/files/modHostFilesWalk.h"
 #include "support/modFUFL.h"
 #include "support/modNumbers.h"
-#include "support/work/LeftThread.h"
 
 namespace neb {
 namespace {
@@ -94,7 +91,6 @@ struct GraphicsSearch::Shared {
     std::condition_variable Changed;
     std::deque<SearchStep> Steps;
     bool AtEnd = false;
-    std::atomic<bool> Abandoned = false;
 };
 
 // What the thread does; it owns all that it uses.
@@ -106,7 +102,8 @@ class GraphicsSearch::Walk {
           mExtensions(ExtensionsOf(Types)),
           mList(std::move(List)) {}
 
-    void Run(const QString& Directory) {
+    void Run(const QString& Directory, const JobState& State) {
+        mState = &State;
         if (FolderExists(Directory)) Enter(Directory, RealDir(Directory), false);
         const std::lock_guard Lock(mTo->Mutex);
         mTo->AtEnd = true;
@@ -119,9 +116,9 @@ class GraphicsSearch::Walk {
         if (Real.isEmpty() || IsOnWayDown(Real)) return true;
         const QString Path = WithSeparator(Directory);
         mWayDown.push_back({Path, Real, MediumOf(Path)});
-        const bool GoesOn = Search({Directory, IsSub, {}, {}, {}});
+        const bool WentOn = Search({Directory, IsSub, {}, {}, {}});
         mWayDown.pop_back();
-        return GoesOn;
+        return WentOn;
     }
 
     bool Search(SearchStep Step) {
@@ -147,7 +144,7 @@ class GraphicsSearch::Walk {
         const QString Path = mWayDown.back().Path;
         QString Passed;
         for (const DirEntry& Entry : Entries) {
-            if (mTo->Abandoned) return false;
+            if (mState->Stop) return false;
             if (Entry.IsFolder)
                 SubDirectories.push_back(Entry);
             else if (IsWanted(Entry.Name) && !TakeFile(Path, Entry.Name, Step) && Passed.isEmpty())
@@ -194,14 +191,14 @@ class GraphicsSearch::Walk {
     // Waits while enough is waiting already. False when nobody wants it any more.
     bool HandOver(SearchStep Step) {
         std::unique_lock Lock(mTo->Mutex);
-        mTo->Changed.wait(Lock,
-                          [this] { return mTo->Abandoned || mTo->Steps.size() < MostWaiting; });
-        if (mTo->Abandoned) return false;
+        mTo->Changed.wait(Lock, [this] { return mState->Stop || mTo->Steps.size() < MostWaiting; });
+        if (mState->Stop) return false;
         mTo->Steps.push_back(std::move(Step));
         mTo->Changed.notify_all();
         return true;
     }
 
+    const JobState* mState = nullptr;  // while it runs
     std::shared_ptr<Shared> mTo;
     NameMask mMask;
     QStringList mExtensions;
@@ -217,16 +214,15 @@ GraphicsSearch::GraphicsSearch(const QString& Directory, const QString& Filter,
     if (!List)
         List = [](const QString& Dir, std::error_code& Error) { return ListDir(Dir, Error); };
     const auto Work = std::make_shared<Walk>(mShared, Filter, Types, std::move(List));
-    mThread = std::make_unique<LeftThread>([Work, Directory] { Work->Run(Directory); });
+    mJob = std::make_unique<Job<>>(
+        [Work, Directory](const JobState& State) { Work->Run(Directory, State); });
 }
 
-// Its thread may be in the middle of a large directory on a slow medium. Who cancels the search
-// does not wait for that: another thread does.
+// It may be in the middle of a large directory on a slow medium; nobody waits for that.
 GraphicsSearch::~GraphicsSearch() {
     const std::lock_guard Lock(mShared->Mutex);
-    mShared->Abandoned = true;
+    mJob->Cancel();
     mShared->Changed.notify_all();
-    std::thread([Left = std::move(mThread)] {}).detach();
 }
 
 bool GraphicsSearch::Wait(int Milliseconds) {

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "support/files/modHostFiles.h"
+#include "support/work/Job.h"
 
 namespace neb {
 
@@ -34,8 +35,6 @@ struct SearchStep {
     QString Entry;                   // the last one seen before the error
 };
 
-class LeftThread;
-
 class GraphicsSearch {
   public:
     using Lister = std::function<std::vector<DirEntry>(const QString& Dir, std::error_code&)>;
@@ -57,7 +56,7 @@ class GraphicsSearch {
     struct Shared;
     class Walk;
     std::shared_ptr<Shared> mShared;
-    std::unique_ptr<LeftThread> mThread;
+    std::unique_ptr<Job<>> mJob;
 };
 
 }  // namespace neb

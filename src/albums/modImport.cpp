@@ -63,10 +63,10 @@ std::int32_t EnterPicture(clsDBEngine& theDB, clsNEBAlbum& Album, const QString&
 }
 
 PictureImport::PictureImport(clsDBEngine& theDB, clsNEBAlbum& Album, QStringList Paths,
-                             std::function<void()> Idle)
+                             KeepGoing GoOn)
     : mDB(theDB),
       mAlbum(Album),
-      mIdle(std::move(Idle)),
+      mGoOn(std::move(GoOn)),
       mAhead(std::vector<QString>(Paths.begin(), Paths.end()), &PictureImport::Prepare) {}
 
 PictureImport::~PictureImport() = default;
@@ -91,7 +91,8 @@ QByteArray PictureImport::TakeJpeg(const QString& Path) {
 }
 
 PictureImport::Outcome PictureImport::EnterNext(const PictureToImport& Picture) {
-    while (!mAhead.Wait(10)) mIdle();
+    while (!mAhead.Wait(10))
+        if (!mGoOn()) return Outcome::Ended;
     if (!FileExists(Picture.Path)) {
         PassOver();
         return Outcome::Discarded;

@@ -9,6 +9,7 @@
 #include <functional>
 
 #include "support/Answer.h"
+#include "support/KeepGoing.h"
 #include "support/work/AheadQueue.h"
 
 namespace neb {
@@ -46,14 +47,17 @@ struct PictureToImport {
 // in order, on the caller's thread.
 class PictureImport {
   public:
-    // Idle is called while waiting for a picture, so that the caller's window stays alive.
-    PictureImport(clsDBEngine& theDB, clsNEBAlbum& Album, QStringList Paths,
-                  std::function<void()> Idle);
+    // GoOn is asked while a picture is waited for, so that the caller's window stays alive.
+    PictureImport(clsDBEngine& theDB, clsNEBAlbum& Album, QStringList Paths, KeepGoing GoOn);
     ~PictureImport();
     PictureImport(const PictureImport&) = delete;
     PictureImport& operator=(const PictureImport&) = delete;
 
-    enum class Outcome { Entered, Discarded };  // Discarded: there is no such file any more
+    enum class Outcome {
+        Entered,
+        Discarded,  // there is no such file any more
+        Ended       // GoOn has said so, and the album may be gone; nothing was entered
+    };
     // Enters the next of the paths: the slide, then its JPEG, then its thumbnail. Throws Fault
     // when the picture cannot be read or written; the slide then stands without a picture.
     Outcome EnterNext(const PictureToImport& Picture);
@@ -70,7 +74,7 @@ class PictureImport {
 
     clsDBEngine& mDB;
     clsNEBAlbum& mAlbum;
-    std::function<void()> mIdle;
+    KeepGoing mGoOn;
     std::int32_t mSlideID = 0;
     AheadQueue<QString, Prepared> mAhead;
 };

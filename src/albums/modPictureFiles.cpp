@@ -9,28 +9,26 @@
 namespace neb {
 namespace {
 
-constexpr double YieldMs = 40;
-
 class PictureWalk {
   public:
-    PictureWalk(bool Recurse, const WalkPoll& Poll, QStringList& Found)
-        : mRecurse(Recurse), mPoll(Poll), mFound(Found) {}
+    PictureWalk(bool Recurse, const KeepGoing& GoOn, QStringList& Found)
+        : mRecurse(Recurse), mGoOn(GoOn), mFound(Found) {}
 
     // False when the walk was ended.
     bool Walk(const QString& Directory) {
         const QString Real = RealDir(Directory);
         if (Real.isEmpty() || mWayDown.contains(Real)) return true;
         mWayDown.append(Real);
-        const bool GoesOn = WalkEntries(WithSeparator(Directory));
+        const bool WentOn = WalkEntries(WithSeparator(Directory));
         mWayDown.removeLast();
-        return GoesOn;
+        return WentOn;
     }
 
   private:
     bool WalkEntries(const QString& Directory) {
         QStringList SubDirectories;
         for (const DirEntry& Entry : ListDir(Directory)) {
-            if (!mPoll()) return false;
+            if (!mGoOn()) return false;
             const QString Path = Directory + Entry.Name;
             if (Entry.IsFolder)
                 SubDirectories.append(Path);
@@ -42,7 +40,7 @@ class PictureWalk {
     }
 
     bool mRecurse;
-    const WalkPoll& mPoll;
+    const KeepGoing& mGoOn;
     QStringList& mFound;
     QStringList mWayDown;  // the real directories above the present one
 };
@@ -75,17 +73,6 @@ bool IsHostPictureName(std::string_view Name) {
 
 }  // namespace
 
-WalkPoll YieldingPoll(std::function<bool()> GoesOn) {
-    double Last = TheServices().Time->Ticks();
-    return [Last, GoesOn]() mutable {
-        const double Now = TheServices().Time->Ticks();
-        if (Now - Last < YieldMs) return true;
-        DoEvents();
-        Last = TheServices().Time->Ticks();
-        return GoesOn();
-    };
-}
-
 bool IsPictureName(const QString& Name) {
     return Extensions().contains(GetFileExt(Name).toUpper());
 }
@@ -96,16 +83,16 @@ bool IsReservedForAlbums(const QString& Path, const QString& Root) {
     return true;
 }
 
-QStringList ScanDirectory(const QString& Directory, bool Recurse, const WalkPoll& Poll) {
+QStringList ScanDirectory(const QString& Directory, bool Recurse, const KeepGoing& GoOn) {
     QStringList Found;
-    PictureWalk(Recurse, Poll, Found).Walk(Directory);
+    PictureWalk(Recurse, GoOn, Found).Walk(Directory);
     return Found;
 }
 
-std::int32_t CountGraphicFiles(const QString& Directory, bool Recurse, RunningCount& Count) {
+std::int32_t CountGraphicFiles(const QString& Directory, bool Recurse, JobState& Count) {
     const FileWalk Walk{.Wants = &IsHostPictureName,
                         .Found = [&] { ++Count.SoFar; },
-                        .GoesOn = [&] { return !Count.Stop; }};
+                        .GoOn = [&] { return !Count.Stop; }};
     WalkFiles(Directory, Recurse, Walk);
     return Count.SoFar;
 }

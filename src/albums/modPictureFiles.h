@@ -4,9 +4,10 @@
 
 #include <QString>
 #include <QStringList>
-#include <atomic>
 #include <cstdint>
-#include <functional>
+
+#include "support/KeepGoing.h"
+#include "support/work/Job.h"
 
 namespace neb {
 
@@ -17,24 +18,14 @@ bool IsPictureName(const QString& Name);
 // the letter, says so in a box and is true. Root ends in a separator.
 bool IsReservedForAlbums(const QString& Path, const QString& Root);
 
-// Asked after every directory entry; false ends the walk at once.
-using WalkPoll = std::function<bool()>;
-// Lets events run now and then, however many entries there are, and asks GoesOn whenever it has.
-WalkPoll YieldingPoll(std::function<bool()> GoesOn);
-
 // The full paths of a directory's pictures in listing order, then, when Recurse, those of its
 // subdirectories, depth first. A directory that cannot be listed holds none; a symbolic link back
-// to a directory on the way down is not entered. Pictures found before a stop are in the list.
-QStringList ScanDirectory(const QString& Directory, bool Recurse, const WalkPoll& Poll);
-
-// A count that may run on a helper thread: who waits for it sees how far it is and may end it.
-struct RunningCount {
-    std::atomic<std::int32_t> SoFar = 0;
-    std::atomic<bool> Stop = false;
-};
+// to a directory on the way down is not entered. GoOn is asked after every entry; pictures found
+// before it ends the walk are in the list.
+QStringList ScanDirectory(const QString& Directory, bool Recurse, const KeepGoing& GoOn);
 
 // The number of pictures that can be opened, in the directory and, when Recurse, all below it; 0
-// for a path that does not exist. Ended by Stop: what was counted until then.
-std::int32_t CountGraphicFiles(const QString& Directory, bool Recurse, RunningCount& Count);
+// for a path that does not exist. Works for a job; ended by Stop: what was counted until then.
+std::int32_t CountGraphicFiles(const QString& Directory, bool Recurse, JobState& Count);
 
 }  // namespace neb

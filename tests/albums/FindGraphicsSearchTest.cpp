@@ -211,7 +211,7 @@ TEST_F(FindGraphicsSearch, TellsOfADirectoryThatLiesTooDeep) {
     close(Dir);
     EXPECT_TRUE(Walk().startsWith(u":a.jpg "));
     EXPECT_EQ(std::errc::filename_too_long, Last.Error);
-    RunningCount Count;
+    JobState Count;
     EXPECT_EQ(1, CountGraphicFiles(Pics.Path(), true, Count));
     QProcess::execute(u"rm"_s, {u"-rf"_s, Pics / QString::fromStdString(Name)});
 }

@@ -12,14 +12,14 @@ namespace {
 
 using namespace harness;
 
-const WalkPoll GoOn = [] { return true; };
+const KeepGoing GoOn = [] { return true; };
 
 class PictureFiles : public Intake {
   protected:
     // What was found, without the folder of pictures in front.
-    std::string Scan(bool Recurse, const WalkPoll& Poll = GoOn) {
+    std::string Scan(bool Recurse, const KeepGoing& Goes = GoOn) {
         QStringList Names;
-        for (const QString& Path : ScanDirectory(Pics.Path(), Recurse, Poll)) {
+        for (const QString& Path : ScanDirectory(Pics.Path(), Recurse, Goes)) {
             EXPECT_TRUE(Path.startsWith(Pics.Path()));
             Names << Path.mid(Pics.Path().size());
         }
@@ -32,7 +32,7 @@ class PictureFiles : public Intake {
     }
     std::int32_t Count(bool Recurse) { return CountIn(Pics.Path(), Recurse); }
     static std::int32_t CountIn(const QString& Directory, bool Recurse) {
-        RunningCount Counted;
+        JobState Counted;
         return CountGraphicFiles(Directory, Recurse, Counted);
     }
 };
@@ -107,7 +107,7 @@ TEST_F(PictureFiles, AreCountedInDirectoriesOfAnyDepth) {
 
 TEST_F(PictureFiles, AreCountedNoFurtherOnceTheCountIsStopped) {
     for (const char* Name : {"a.jpg", "b.jpg", "sub/c.jpg"}) Touch(Name);
-    RunningCount Stopped;
+    JobState Stopped;
     Stopped.Stop = true;
     EXPECT_GE(1, CountGraphicFiles(Pics.Path(), true, Stopped));
 }

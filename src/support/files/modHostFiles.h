@@ -17,6 +17,8 @@
 #include <system_error>
 #include <vector>
 
+#include "support/KeepGoing.h"
+
 namespace neb {
 
 // The path under which the host really has this file or directory (case of the last components
@@ -75,9 +77,9 @@ void WriteFile(const QString& Path, const QByteArray& Bytes);  // creates or rep
 // nothing beside it.
 void ReplaceFile(const QString& Path, const QByteArray& Bytes);
 void AppendFile(const QString& Path, const QByteArray& Bytes);
-// The old or the new content is at To, and nothing beside it. Between is called all the while.
-void CopyFile(const QString& From, const QString& To, const std::function<void()>& Between = {});
-void DeleteFile(const QString& Path);                   // no fault when there is none
+// The old or the new content is at To, and nothing beside it. LetRun is called all the while.
+void CopyFile(const QString& From, const QString& To, const Yield& LetRun = {});
+void DeleteFile(const QString& Path);  // no fault when there is none
 void DeleteMask(const QString& Mask);  // every match; goes on past failures, then throws the first
 void RenameFile(const QString& From, const QString& To);  // replaces To
 void SyncFile(const QString& Path);                       // content is on the disk afterwards
@@ -85,8 +87,8 @@ void SyncDir(const QString& Dir);                         // names are on the di
 void MakeDirs(const QString& Dir);                        // with parents; no fault when it exists
 void DeleteTree(const QString& Dir);  // a directory and all in it; errors are ignored
 // The files and links in a directory, not the directories in it, nor what a link leads to; nothing
-// when Dir itself is a link. Errors are ignored, each by itself. Between is called all the while.
-void DeleteFilesIn(const QString& Dir, const std::function<void()>& Between = {});
+// when Dir itself is a link. Errors are ignored, each by itself. LetRun is called all the while.
+void DeleteFilesIn(const QString& Dir, const Yield& LetRun = {});
 // A directory in which nothing is left, or the link that stands for one; errors are ignored.
 void DeleteFolder(const QString& Dir);
 

@@ -56,7 +56,7 @@ class Walker {
             const std::string_view Name = Entry->d_name;
             if (IsDots(Entry->d_name)) continue;
             if (mRecurse || mWalk.Wants(Name)) Take(Dir, *Entry, Below);
-            if (!mWalk.GoesOn()) return false;
+            if (!mWalk.GoOn()) return false;
         }
         return true;
     }

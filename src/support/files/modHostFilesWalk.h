@@ -10,6 +10,8 @@
 #include <optional>
 #include <string_view>
 
+#include "support/KeepGoing.h"
+
 namespace neb {
 
 struct FileWalk {
@@ -19,7 +21,7 @@ struct FileWalk {
     // whose name is no text, with bytes of another encoding, cannot be opened and does not count.
     std::function<void()> Found;
     // Asked after every entry of a directory; false ends the walk at once.
-    std::function<bool()> GoesOn;
+    KeepGoing GoOn;
 };
 
 // In the order in which the host lists. Walks a directory and, when Recurse, all below it, whatever

@@ -90,7 +90,7 @@ fs::path NativePath(const QString& Path) {
 }
 
 // In the host's own names, which may hold a "\" or be no text at all.
-std::vector<fs::path> FilesIn(const fs::path& Dir, const std::function<void()>& Between) {
+std::vector<fs::path> FilesIn(const fs::path& Dir, const Yield& LetRun) {
     std::vector<fs::path> Files;
     std::error_code Error;
     fs::directory_iterator Entry(Dir, Error);
@@ -98,7 +98,7 @@ std::vector<fs::path> FilesIn(const fs::path& Dir, const std::function<void()>& 
         std::error_code Ignored;
         if (Entry->is_symlink(Ignored) || !Entry->is_directory(Ignored))
             Files.push_back(Entry->path());
-        if (Between) Between();
+        if (LetRun) LetRun();
     }
     return Files;
 }
@@ -202,11 +202,11 @@ void DeleteTree(const QString& Dir) {
     if (FolderExists(Dir)) QDir(ResolvePath(Dir)).removeRecursively();
 }
 
-void DeleteFilesIn(const QString& Dir, const std::function<void()>& Between) {
+void DeleteFilesIn(const QString& Dir, const Yield& LetRun) {
     if (IsLink(Dir)) return;
-    for (const fs::path& File : FilesIn(NativePath(Dir), Between)) {
+    for (const fs::path& File : FilesIn(NativePath(Dir), LetRun)) {
         Drop(File);
-        if (Between) Between();
+        if (LetRun) LetRun();
     }
 }
 
@@ -255,7 +255,7 @@ void HostWriter::Close() {
 }
 
 // In pieces that reach the disk one by one: no wait for it is long.
-void CopyFile(const QString& From, const QString& To, const std::function<void()>& Between) {
+void CopyFile(const QString& From, const QString& To, const Yield& LetRun) {
     const QString Beside = ResolvePath(To) + QStringLiteral(".new");
     HostReader Source(From);
     try {
@@ -266,7 +266,7 @@ void CopyFile(const QString& From, const QString& To, const std::function<void()
             Copy.Write(Piece.data(), Length);
             Copy.Sync();
             if (Length == 0) break;
-            if (Between) Between();
+            if (LetRun) LetRun();
         }
         Copy.Close();
         RenameFile(Beside, To);

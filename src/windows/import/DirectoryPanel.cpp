@@ -99,32 +99,29 @@ void DirectoryPanel::RecurseClicked() {
 void DirectoryPanel::StartCount() {
     StopCount();
     if (!mCountGraphics || !mBegun) return;
-    mCount = std::make_shared<RunningCount>();
-    const auto Work = [](const CountOrder& Order) {
-        return CountGraphicFiles(Order.Directory, Order.Recurse, *Order.Count);
-    };
-    mCounter = std::make_unique<AheadQueue<CountOrder, std::int32_t>>(
-        std::vector{CountOrder{Path(), mRecurseDir, mCount}}, Work);
+    mCount = std::make_unique<Job<std::int32_t>>(
+        [Directory = Path(), Recurse = mRecurseDir](JobState& State) {
+            return CountGraphicFiles(Directory, Recurse, State);
+        });
     mLook.start(LookMs);
     SetScreenPointer(Pointer::Hourglass);
-    mCounter->Wait(AtOnceMs);
+    mCount->Wait(AtOnceMs);
     LookAtCount();
 }
 
 void DirectoryPanel::LookAtCount() {
-    if (!mCounter->Ready()) {
-        mUi->lblDirSummary->setText(tr("%1 graphics files so far ...").arg(mCount->SoFar));
+    if (!mCount->Wait(0)) {
+        mUi->lblDirSummary->setText(tr("%1 graphics files so far ...").arg(mCount->SoFar()));
         return;
     }
-    mUi->lblDirSummary->setText(QString::number(mCounter->Take()) +
+    mUi->lblDirSummary->setText(QString::number(mCount->Take()) +
                                 QStringLiteral(" graphics files detected."));
     StopCount();
 }
 
 void DirectoryPanel::StopCount() {
-    if (!mCounter) return;
-    mCount->Stop = true;
-    mCounter.reset();
+    if (!mCount) return;
+    mCount.reset();
     mLook.stop();
     SetScreenPointer(Pointer::Default);
 }

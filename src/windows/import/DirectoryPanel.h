@@ -7,14 +7,13 @@
 #include <QWidget>
 #include <memory>
 
-#include "support/work/AheadQueue.h"
+#include "support/work/Job.h"
 
 namespace neb {
 
 namespace Ui {
 class DirectoryPanel;
 }
-struct RunningCount;
 
 class DirectoryPanel : public QWidget {
     Q_OBJECT
@@ -51,14 +50,8 @@ class DirectoryPanel : public QWidget {
     bool mCountGraphics = true;
     bool mRecurseDirOption = true;
 
-    struct CountOrder {
-        QString Directory;
-        bool Recurse = false;
-        std::shared_ptr<RunningCount> Count;
-    };
-    std::shared_ptr<RunningCount> mCount;  // of the count under way
-    std::unique_ptr<AheadQueue<CountOrder, std::int32_t>> mCounter;
-    QTimer mLook;  // runs while a count does
+    std::unique_ptr<Job<std::int32_t>> mCount;  // null: none is under way
+    QTimer mLook;                               // runs while a count does
 };
 
 // The memory of the directory last shown; errors are ignored both ways.

@@ -24,9 +24,6 @@
 namespace neb {
 namespace {
 
-// Ends an import whose window has been closed.
-struct WindowGone {};
-
 // What the bar's tool tip says after item I of Count, I from 1: the item's index from 0 plus one
 // item's share of a hundred, as the program has always counted it here.
 QString ImportProgressText(int I, int Count) {
@@ -173,36 +170,33 @@ bool ImportForm::ImportRows(clsNEBAlbum& Album, const RowDone& Done) {
     Progress->pgbLoadingProgress()->setMaximum(mUi->flxSelected->Rows());
     Progress->pgbLoadingProgress()->setValue(0);
     Progress->Refresh();
-    const auto Yield = [this] {
-        DoEvents();
-        if (mAborted) throw WindowGone();
-    };
-    try {
-        Yield();
-        EnterRows(Album, Done, Yield);
-    } catch (const WindowGone&) {
-        return false;
-    }
-    return true;
+    return GoesOn() && EnterRows(Album, Done);
 }
 
-void ImportForm::EnterRows(clsNEBAlbum& Album, const RowDone& Done,
-                           const std::function<void()>& Yield) {
+// The window may be closed while it imports, and its album be gone then.
+bool ImportForm::GoesOn() const {
+    DoEvents();
+    return !mAborted;
+}
+
+bool ImportForm::EnterRows(clsNEBAlbum& Album, const RowDone& Done) {
     const FlexGrid& Grid = *mUi->flxSelected;
     const int Count = Grid.Rows();
     const auto Progress = mProgressForm;
     QStringList Paths;
     for (int Row = 0; Row < Count; ++Row) Paths.append(Grid.TextMatrix(Row, ColPath));
-    PictureImport Run(*DBEngine, Album, Paths, Yield);
+    PictureImport Run(*DBEngine, Album, Paths, [this] { return GoesOn(); });
     for (int Row = 0; Row < Count; ++Row) {
         const auto Outcome = Run.EnterNext(
             {Paths[Row], Grid.TextMatrix(Row, ColCaption), Grid.CellPicture(Row, ColPicture)});
+        if (Outcome == PictureImport::Outcome::Ended) return false;
         Done(Row, Outcome, Run.SlideID());
         Progress->pgbLoadingProgress()->setValue(Row + 1);
         Progress->pgbLoadingProgress()->setToolTip(ImportProgressText(Row + 1, Count));
         Progress->Refresh();
-        Yield();
+        if (!GoesOn()) return false;
     }
+    return true;
 }
 
 }  // namespace neb

@@ -78,7 +78,8 @@ class ImportForm : public Form, public ProgressParent {
     void UpdateButtons();
     void MoveRows(FlexGrid& From, FlexGrid& To, bool All);
     void ShowPreview(const FlexGrid& Grid, int Row);
-    void EnterRows(clsNEBAlbum& Album, const RowDone& Done, const std::function<void()>& Yield);
+    bool GoesOn() const;
+    bool EnterRows(clsNEBAlbum& Album, const RowDone& Done);
 
     void ImportAnotherDirectory();
     void ImportFoundGraphics();

@@ -104,15 +104,15 @@ void ImportForm::ReadDirectory() {
 }
 
 QStringList ImportForm::CollectFiles(const QStringList& Named) {
-    const WalkPoll Poll = [this] {
+    const KeepGoing GoOn = [this] {
         DoEvents();
         return !mAbort && !mAborted;
     };
-    if (Named.isEmpty()) return ScanDirectory(WithSeparator(mImportDir), mRecurseDir, Poll);
+    if (Named.isEmpty()) return ScanDirectory(WithSeparator(mImportDir), mRecurseDir, GoOn);
     QStringList Files;
     for (const QString& Path : Named)
         if (Path.endsWith(u'/'))
-            Files += ScanDirectory(Path, mRecurseDir, Poll);
+            Files += ScanDirectory(Path, mRecurseDir, GoOn);
         else if (IsPictureName(Path))
             Files += Path;
     return Files;

@@ -187,7 +187,7 @@ TEST_F(DirSelect, CountsNoFileWhoseNameIsNoText) {
     for (const std::string& Name : {Dir + "/a.jpg", Dir + ".jpg"})
         EXPECT_EQ(0, mknod(Name.c_str(), S_IFREG | 0644, 0));
     MakePicture(Pics / u"sub/Grün.jpg"_s);
-    RunningCount Count;
+    JobState Count;
     EXPECT_EQ(2, CountGraphicFiles(Pics / u"sub"_s, true, Count));
     for (const std::string& Name : {Dir + "/a.jpg", Dir + ".jpg", Dir})
         EXPECT_EQ(0, remove(Name.c_str()));  // Qt cannot address them either
