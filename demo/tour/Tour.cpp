@@ -16,8 +16,10 @@ namespace neb::demo {
 namespace {
 
 constexpr int PollMs = 30;
-constexpr int SettlePolls = 6;     // until what has just opened is painted
-constexpr int PatienceMs = 60000;  // a slow machine reads many pictures
+constexpr int SettlePolls = 6;  // until what has just opened is painted
+// A slow machine reads many pictures. Counted are the looks that the program has had time for, so
+// that a busy machine has its patience longer.
+constexpr int PatiencePolls = 2000;
 
 // The whole screen; where the desktop does not give that out, the window in front.
 QPixmap GrabScreen() {
@@ -25,6 +27,15 @@ QPixmap GrabScreen() {
     QWidget* Front = QApplication::activeModalWidget() ? QApplication::activeModalWidget()
                                                        : QApplication::activeWindow();
     return Screen.isNull() && Front ? Front->grab() : Screen;
+}
+
+// On a thread of its own: the show that the tour watches must not wait for it.
+void WritePng(const QImage& Screen, const QString& File) {
+    QByteArray Png;
+    QBuffer Buffer(&Png);
+    Buffer.open(QIODevice::WriteOnly);
+    Screen.save(&Buffer, "PNG");
+    WriteFile(File, Png);
 }
 
 QString BoxInTheWay() {
@@ -69,7 +80,6 @@ void Tour::Answer(const QString& Name, const QString& Box, bool Shot) {
 }
 
 void Tour::Start() {
-    mWaiting.start();
     PollLater();
 }
 
@@ -88,10 +98,13 @@ auto Tour::Try(const QString& Name, const Part& Do) {
 }
 
 void Tour::Poll() {
-    if (mDone == mSteps.size()) return Q_EMIT Ended();
+    if (mDone == mSteps.size()) {
+        Try(QStringLiteral("screenshots"), [this] { FinishShots(); });
+        return Q_EMIT Ended();
+    }
     const Step& Now = mSteps[mDone];
     if (Try(Now.Name, [&] { return WaitsOn(Now); })) {
-        if (mWaiting.elapsed() > PatienceMs) Fail(Now.Name, QStringLiteral("it took too long"));
+        if (++mWaited > PatiencePolls) Fail(Now.Name, QStringLiteral("it took too long"));
         return PollLater();
     }
     if (!Now.Moving && mSettled++ < SettlePolls) return PollLater();
@@ -103,7 +116,7 @@ void Tour::PollStep(const Step& Now) {
     if (Now.Shot) TakeShot(Now.Name);
     Print(mTell ? mTell() : QString());
     ++mDone;
-    mWaiting.start();
+    mWaited = 0;
     PollLater();
     if (Now.Act) Try(Now.Name, Now.Act);
 }
@@ -121,18 +134,19 @@ void Tour::TakeShot(const QString& Name) {
                              .arg(mScreenshotDir)
                              .arg(++mShots, 2, 10, QLatin1Char('0'))
                              .arg(Name);
-    QByteArray Png;
-    QBuffer Buffer(&Png);
-    Buffer.open(QIODevice::WriteOnly);
-    GrabScreen().save(&Buffer, "PNG");
-    WriteFile(File, Png);
+    mWriting.push_back(std::async(std::launch::async, &WritePng, GrabScreen().toImage(), File));
     Print(File);
+}
+
+void Tour::FinishShots() {
+    for (auto& Each : std::exchange(mWriting, {})) Each.get();
 }
 
 void Tour::Fail(const QString& Name, const QString& Reason) {
     TakeShot(QStringLiteral("failed"));
     std::fprintf(stderr, "neb-demo: at the step \"%s\": %s (in front: %s)\n", qPrintable(Name),
                  qPrintable(Reason), qPrintable(InFront()));
+    for (const auto& Each : mWriting) Each.wait();
     std::_Exit(1);
 }
 

@@ -3,10 +3,10 @@
 // goes wrong ends the walk and is told under the step's name.
 #pragma once
 
-#include <QElapsedTimer>
 #include <QObject>
 #include <QString>
 #include <functional>
+#include <future>
 #include <vector>
 
 namespace neb::demo {
@@ -46,6 +46,7 @@ class Tour : public QObject {
     void PollStep(const Step& Now);
     void PollLater();
     void TakeShot(const QString& Name);
+    void FinishShots();
     [[noreturn]] void Fail(const QString& Name, const QString& Reason);
     bool WaitsOn(const Step& Now);
     // Runs a part of a step; a fault in it fails the step.
@@ -57,8 +58,9 @@ class Tour : public QObject {
     std::vector<Step> mSteps;
     size_t mDone = 0;
     qsizetype mShots = 0;
+    std::vector<std::future<void>> mWriting;
     int mSettled = 0;
-    QElapsedTimer mWaiting;
+    int mWaited = 0;  // looks at what the next step waits for
 };
 
 // A line of the tour's tale on the standard output.

@@ -101,6 +101,10 @@ bool FileDialogIsOpen() {
     return qobject_cast<QFileDialog*>(QApplication::activeModalWidget()) != nullptr;
 }
 
+bool FileDialogIsInFront() {
+    return FileDialogIsOpen() && QApplication::activeModalWidget()->isActiveWindow();
+}
+
 void TypeFileName(const QString& Path) {
     if (!FileDialogIsOpen()) throw Fault(QStringLiteral("no file is asked for"));
     auto& Field = Inside<QLineEdit>(*QApplication::activeModalWidget(), "fileNameEdit");

@@ -78,6 +78,8 @@ bool PicturesAreCounted(const QWidget& Window);
 // Into the file dialog that is open, with Return.
 void TypeFileName(const QString& Path);
 bool FileDialogIsOpen();
+// Before it is, its field does not keep a whole path that is typed into it.
+bool FileDialogIsInFront();
 
 // Rows and columns from 0; a row is found by the text in a column.
 int RowWith(const FlexGrid& Grid, int Col, const QString& Text);

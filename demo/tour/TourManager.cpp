@@ -90,7 +90,7 @@ void ChooseTrackFile(Tour& Guide, int Row, const QString& File) {
     const QString Number = QString::number(Row + 1);
     Guide.Do("press-the-dots-" + Number, {},
              [Row] { PressCellButton(Tracks(), Row, Manager::ColFile); });
-    Guide.Add({"choose-music-" + Number, &FileDialogIsOpen, [File] { TypeFileName(File); }});
+    Guide.Add({"choose-music-" + Number, &FileDialogIsInFront, [File] { TypeFileName(File); }});
     Guide.Do("music-chosen-" + Number,
              [File, Row] {
                  return !FileDialogIsOpen() && Tracks().TextMatrix(Row, Manager::ColFile) == File;

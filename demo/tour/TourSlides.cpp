@@ -37,18 +37,25 @@ void TurnAndCaption(Tour& Guide) {
     Guide.Add({"slide-manager", {}, Press("cmdSave")});
 }
 
+QString Says(const char* Label) {
+    return demo::In<QLabel, frmSoundRecorder>(Label).text();
+}
+
+// The window says so and has come to that time, minutes and seconds, or past it.
 std::function<bool()> RecorderStandsAt(const char* Status, const char* Time) {
     return [Status, Time] {
-        const auto Says = [](const char* Label, const char* Text) {
-            return demo::In<QLabel, frmSoundRecorder>(Label).text().startsWith(QLatin1String(Text));
-        };
-        return Says("lblStatus", Status) && Says("lblTime", Time);
+        return Says("lblStatus").startsWith(QLatin1String(Status)) &&
+               Says("lblTime").left(4) >= QLatin1String(Time);
     };
 }
 
+// It may have come to its end before anyone looked.
+bool IsHeard() {
+    return RecorderStandsAt("Playing", "0:01")() || RecorderStandsAt("Recorded", "0:02")();
+}
+
 bool PlayingIsRefused() {
-    const QString Status = demo::In<QLabel, frmSoundRecorder>("lblStatus").text();
-    return Status.startsWith(QStringLiteral("There is no sound card"));
+    return Says("lblStatus").startsWith(QStringLiteral("There is no sound card"));
 }
 
 void Record(Tour& Guide) {
@@ -59,8 +66,7 @@ void Record(Tour& Guide) {
         {"stop-recording", RecorderStandsAt("Recording", "0:02"), Press("cmdStop"), false, true});
     Guide.Add({"sound-recorded", RecorderStandsAt("Recorded", "0:02"), Press("cmdPlay")});
     // Without a sound card the window says so instead, until it is stopped.
-    const auto IsHeard = RecorderStandsAt("Playing", "0:01");
-    Guide.Add({"sound-playing", [IsHeard] { return PlayingIsRefused() || IsHeard(); },
+    Guide.Add({"sound-playing", [] { return PlayingIsRefused() || IsHeard(); },
                [Press] {
                    if (PlayingIsRefused()) Press("cmdStop")();
                },

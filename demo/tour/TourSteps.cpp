@@ -26,9 +26,10 @@ void AddSpeedTest(Tour& Guide) {
     Guide.Answer("speed-test-notification", "NEB Slide Show will now test your graphics speed.");
     Guide.Do("speed-test-begins", IsOpen<frmSpeedTest>(),
              [] { WatchProgress(In<XShow, frmSpeedTest>("Show1")); });
+    // On a slow machine the test may be over before it comes to steps as small as that.
     Guide.Look("speed-test", [] {
-        return In<XShow, frmSpeedTest>("Show1").EffectStep() < 50 && Progress() > 0.35 &&
-               Progress() < 0.65;
+        return !Open<frmSpeedTest>() || (In<XShow, frmSpeedTest>("Show1").EffectStep() < 50 &&
+                                         Progress() > 0.35 && Progress() < 0.65);
     });
 }
 

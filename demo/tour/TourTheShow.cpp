@@ -1,7 +1,5 @@
 // Chapter: the active show is played, through the fitted track, into the one that fades and the
 // silence behind it, and left at a slide.
-#include <QElapsedTimer>
-
 #include "Tour.h"
 #include "TourControls.h"
 #include "TourSteps.h"
@@ -15,7 +13,7 @@ namespace neb::demo {
 namespace {
 
 constexpr int LastFitted = 4, Fading = 6, WithClip = 7, Silent = 8;
-constexpr int ListenMs = 1500;
+constexpr double ListenSeconds = 1.5;
 
 void Key(Qt::Key Pressed) {
     QTest::keyClick(&Opened<frmSlideShowProjector>(), Pressed);
@@ -27,16 +25,19 @@ QString Numbered(const char* Name, int SlideSeq) {
 
 // Tells the moment at which a slide begins; the show goes on to it by itself or by the key.
 void AddSlide(Tour& Guide, int SlideSeq) {
-    Guide.Add({Numbered("the-show-comes-to-", SlideSeq),
-               [SlideSeq] { return CurrentSlideSeq == SlideSeq; },
-               {},
-               false,
-               true});
+    Guide.Add({Numbered("the-show-comes-to-", SlideSeq), SlideIsUp(SlideSeq), {}, false, true});
     Guide.Add({Numbered("show-slide-", SlideSeq), SlideStands(SlideSeq), {}, true, true});
 }
 
-void GoOn(Tour& Guide) {
-    Guide.Do("next-slide", {}, [] { Key(Qt::Key_Up); });
+// By the key, unless the show has gone on by itself meanwhile.
+void GoOn(Tour& Guide, int SlideSeq) {
+    Guide.Add({"next-slide",
+               {},
+               [SlideSeq] {
+                   if (CurrentSlideSeq < SlideSeq) Key(Qt::Key_Up);
+               },
+               false,
+               true});
 }
 
 void Begin(Tour& Guide, frmNEBSlideShow& Window) {
@@ -52,7 +53,7 @@ void ThroughTheMusic(Tour& Guide) {
     Guide.Look("show-transition-2", IsBetween(2));
     AddSlide(Guide, 2);
     for (int SlideSeq = 3; SlideSeq <= LastFitted; ++SlideSeq) {
-        GoOn(Guide);
+        GoOn(Guide, SlideSeq);
         AddSlide(Guide, SlideSeq);
     }
     AddSlide(Guide, LastFitted + 1);
@@ -62,11 +63,8 @@ void ThroughTheMusic(Tour& Guide) {
 
 // The last slide has no music: there is nothing to hear while it stands.
 void LeaveInSilence(Tour& Guide) {
-    const auto Since = std::make_shared<QElapsedTimer>();
-    Guide.Add({"listen-to-the-silence", [] { return CurrentSlideSeq == Silent; },
-               [Since] { Since->start(); }, false, true});
     AddSlide(Guide, Silent);
-    Guide.Add({"leave-the-show", [Since] { return Since->hasExpired(ListenMs); },
+    Guide.Add({"leave-the-show", IsListenedTo(ListenSeconds),
                [] {
                    Print(QStringLiteral("The show was left at slide %1").arg(CurrentSlideSeq));
                    Key(Qt::Key_Escape);

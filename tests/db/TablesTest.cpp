@@ -144,6 +144,28 @@ TEST_F(TablesTest, ANewDatabaseTakesTheFactoryTimesOverAtItsSecondStart) {
     EXPECT_EQ(Engine->EffectStats.size(), 127U);
 }
 
+// Four decimals: with three of them or with five the classes at the limits would be others.
+TEST_F(TablesTest, FactoryTimesAreRoundedToFourDecimals) {
+    const struct {
+        const char* Text;
+        double Time;
+        int Class;
+    } Rows[] = {{"0.12344", 0.1234, 1}, {"0.12346", 0.1235, 1}, {"0.9899", 0.9899, 1},
+                {"0.98994", 0.9899, 1}, {"0.98996", 0.99, 2},   {"1.49994", 1.4999, 2},
+                {"1.49996", 1.5, 3},    {"2.00004", 2, 3},      {"12.345678", 12.3457, 3}};
+    QByteArray Text = "Effect,AvgTime\r\n";
+    for (int I = 0; I < 127; ++I)
+        Text += QByteArray::number(I + 1) + ',' + (I < 9 ? Rows[I].Text : "0.5") + "\r\n";
+    WriteFile(Program / "EffectStats.txt", Text);
+    Reload();
+    std::vector<std::uint8_t> Classes(128, 0);
+    Engine->ClassifyEffects(Classes, 127);
+    for (size_t I = 0; I < std::size(Rows); ++I) {
+        EXPECT_EQ(Rows[I].Time, Engine->EffectStats[I].AvgTime) << Rows[I].Text;
+        EXPECT_EQ(Rows[I].Class, Classes[I + 1]) << Rows[I].Text;
+    }
+}
+
 TEST_F(TablesTest, TheProgramsRecordFileComesBeforeItsText) {
     WriteFile(Program / "EffectStats.txt", FactoryText(127));
     WriteFile(Program / "EffectStats.dat", EffectRecord(9));

@@ -208,11 +208,17 @@ TEST_F(ManagerLoad, WithoutAnAlbumEachCommandAsksForOne) {
 TEST_F(ManagerLoad, TheHeightIsRememberedAndTheWidthIsNot) {
     OpenMgr(0);
     EXPECT_EQ(605, W->height());
-    W->resize(W->width() + 60, 640);
+    const int Width = W->width();
+    W->resize(Width + 60, 640);
+    ASSERT_EQ(QSize(Width + 60, 640), W->size());
     W->Unload();
-    EXPECT_EQ("9600", OpenSettings().GetValue(u"frmSlideShowDBM"_s, u"Height"_s, {}).toStdString());
+    const auto Kept = [](const QString& Key) {
+        return OpenSettings().GetValue(u"frmSlideShowDBM"_s, Key, u"(none)"_s).toStdString();
+    };
+    EXPECT_EQ("9600", Kept(u"Height"_s));
+    EXPECT_EQ("(none)", Kept(u"Width"_s));
     OpenMgr(0);
-    EXPECT_EQ(640, W->height());
+    EXPECT_EQ(QSize(Width, 640), W->size());
 }
 
 TEST_F(ManagerLoad, TheWindowMayGoWhileAnAlbumIsRead) {

@@ -3,28 +3,15 @@
 #include <QPainter>
 
 #include "SlideRig.h"
+#include "harness/Heartbeat.h"
 
 namespace neb {
 namespace {
 
 using namespace harness;
 
-// Ticks for as long as the event loop runs.
-class Pulse {
-  public:
-    Pulse() {
-        QObject::connect(&mTimer, &QTimer::timeout, &mTimer, [this] {
-            ++Beats;
-            if (OnBeat) OnBeat();
-        });
-        mTimer.start(10);
-    }
-    int Beats = 0;
-    std::function<void()> OnBeat;
-
-  private:
-    QTimer mTimer;
-};
+// The most that a window may stand still, in milliseconds.
+constexpr double Patience = 100;
 
 class SlideDBMPatience : public SlideRig {
   protected:
@@ -47,18 +34,24 @@ TEST_F(SlideDBMPatience, TheWindowLivesWhileALargePictureIsReadAndStored) {
     OpenAlbum();
     Type(u"large"_s);
     {
-        const Pulse Alive;
+        Heartbeat Heart;
         PickPicture(File);
-        EXPECT_GE(Alive.Beats, 2);
+        EXPECT_GE(Heart.Beats(), 2);
+        EXPECT_LT(Heart.LongestStandstill(), Patience);
     }
     EXPECT_TRUE(Dirty());
     EXPECT_FALSE(ShowsMessage());
-    Push("cmdRotate1");
+    {
+        Heartbeat Heart;
+        Push("cmdRotate1");
+        EXPECT_LT(Heart.LongestStandstill(), Patience);
+    }
     EXPECT_LT(Shown().width(), Shown().height());
     {
-        const Pulse Alive;
+        Heartbeat Heart;
         Push("cmdSave");
-        EXPECT_GE(Alive.Beats, 2);
+        EXPECT_GE(Heart.Beats(), 2);
+        EXPECT_LT(Heart.LongestStandstill(), Patience);
     }
     EXPECT_EQ(QSize(512, 768), SizeOf(Stored(u"00000001.jpg"_s))) << "all its pixels were turned";
     EXPECT_FALSE(Dirty());
@@ -71,8 +64,7 @@ TEST_F(SlideDBMPatience, NothingIsBegunMeanwhile) {
     OpenSlide(ID);
     int Tried = 0;
     {
-        Pulse Alive;
-        Alive.OnBeat = [&] {
+        const Heartbeat Heart([&] {
             if (Tried++) return;
             EXPECT_EQ(Pointer::Hourglass, ScreenPointer());
             for (const char* Name : {"cmdNext", "cmdNew", "cmdPicture", "cmdRotate1", "cmdRecord",
@@ -80,7 +72,7 @@ TEST_F(SlideDBMPatience, NothingIsBegunMeanwhile) {
                 Push(Name);
             In<QAction>(*W, "mnuExit").trigger();
             EXPECT_FALSE(W->Unload());
-        };
+        });
         PickPicture(File);
     }
     EXPECT_GT(Tried, 0);
