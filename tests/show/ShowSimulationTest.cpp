@@ -4,7 +4,6 @@
 
 #include "RehearsalRig.h"
 #include "support/modFUFL.h"
-#include "windows/show/modSlideShows.h"
 
 namespace neb::test {
 namespace {
