@@ -68,5 +68,18 @@ TEST_F(SlideClockRun, ATimeIsOverToTheMillisecond) {
     }
 }
 
+// Each sum is a hair off; that may not grow into a tick that comes too early for the slide.
+TEST_F(SlideClockRun, ATimeIsOverOnTimeHoweverManyWereAddedUp) {
+    for (const double Interval : {0.1, 0.3, 0.7, 1.1}) {
+        Time.Seconds = 40000;
+        Of.Start();
+        for (int Slide = 1; Slide <= 10000; ++Slide) {
+            Time.Seconds = 40000 + Slide * Interval;
+            ASSERT_TRUE(SlideClock::IsOver(Of.Elapsed(), Interval)) << Interval << ' ' << Slide;
+            Of.StartAt(Of.Due(Interval));
+        }
+    }
+}
+
 }  // namespace
 }  // namespace neb::test
