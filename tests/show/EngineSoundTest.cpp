@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QMap>
+
 #include "db/clsDBEngine.h"
 #include "db/clsNEBSlideShow.h"
 #include "db/modAlbumFiles.h"
@@ -85,13 +87,16 @@ class EngineSoundRun : public ::testing::Test {
 
   private:
     void Note(const SoundEvent& Event) {
-        static const char* const Names[] = {"ahead",   "loaded", "run",    "paused",
-                                            "stopped", "moved",  "volume", "released"};
+        using Kind = SoundEvent::Kind;
+        static const QMap<Kind, QString> Names = {
+            {Kind::LoadedAhead, "ahead"}, {Kind::Loaded, "loaded"},    {Kind::Run, "run"},
+            {Kind::Paused, "paused"},     {Kind::Stopped, "stopped"},  {Kind::Moved, "moved"},
+            {Kind::Volume, "volume"},     {Kind::Released, "released"}};
         const double Value =
             Event.What == SoundEvent::Kind::Volume ? Event.Hundredths : Event.Position;
         mEvents << QStringLiteral("%1 %2 %3")
-                       .arg(QString::fromLatin1(Names[static_cast<int>(Event.What)]),
-                            Event.Path.section(u'/', -1), QString::number(Value));
+                       .arg(Names[Event.What], Event.Path.section(u'/', -1),
+                            QString::number(Value));
     }
 
     QStringList mEvents;
