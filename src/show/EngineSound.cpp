@@ -1,18 +1,9 @@
 #include "show/EngineSound.h"
 
 #include "db/clsDBEngine.h"
-#include "settings/modNEBSlideShow.h"
-#include "show/ShowBox.h"
 #include "support/files/modHostFiles.h"
 
 namespace neb {
-namespace {
-
-QString DatabaseFolder() {
-    return DBEngine ? DBEngine->DBPath() : QString();
-}
-
-}  // namespace
 
 // A player that has been released has nothing loaded, and then these do nothing.
 void EngineSound::Play(bool Repeat) {
@@ -31,21 +22,22 @@ void EngineSound::CheckRepeat() {
     mEngine.CheckRepeat();
 }
 
-bool EngineSound::SoundStep(const SlideSound& Slide, ShowSoundFields& Fields) {
+bool EngineSound::SoundStep(const SlideSound& Slide, StepCause Cause, ShowSoundFields& Fields) {
     if (mReleased) return false;
+    const std::uint32_t Step = ++mStep;
     const PlayerState Before = Player();
     SoundStage Stage = OpenSoundStep(Slide, DatabaseFolder(), Before, FileExists, Fields);
-    CarryOut(Stage.Actions);
-    while (Stage.Sequel != SoundSequel::None && !mReleased) {
-        Stage = NextSoundStage(Stage, Slide, Before, Player(), Fields);
-        CarryOut(Stage.Actions);
+    CarryOut(Stage.Actions, Step);
+    while (Stage.Next && mStep == Step) {
+        Stage = Stage.Next({Stage, Slide, Cause, Before, Player(), Fields});
+        CarryOut(Stage.Actions, Step);
     }
-    return Stage.WatchRepeat && !mReleased;
+    return Stage.WatchRepeat && mStep == Step;
 }
 
 void EngineSound::SyncSoundToSlide(std::int32_t Place, double Interval, bool Force,
                                    ShowSoundFields& Fields) {
-    CarryOut(neb::SyncSoundToSlide(Place, Interval, Force, Fields.SoundRepeat, Player()));
+    CarryOut(neb::SyncSoundToSlide(Place, Interval, Force, Fields.SoundRepeat, Player()), mStep);
 }
 
 void EngineSound::LoadAhead(const SlideSound& Next) {
@@ -57,8 +49,13 @@ void EngineSound::LoadAhead(const SlideSound& Next) {
 
 void EngineSound::Release() {
     mReleased = true;
+    ++mStep;
     mEngine.StopSound();
     mEngine.UnloadFile();
+}
+
+QString EngineSound::DatabaseFolder() const {
+    return mDatabase ? mDatabase->DBPath() : QString();
 }
 
 PlayerState EngineSound::Player() const {
@@ -66,29 +63,10 @@ PlayerState EngineSound::Player() const {
             mEngine.SoundFile()};
 }
 
-void EngineSound::CarryOut(const SoundActions& Actions) {
+// The slide that the rest of an overtaken step is about has long gone.
+void EngineSound::CarryOut(const SoundActions& Actions, std::uint32_t Step) {
     for (const SoundAction& Each : Actions)
-        if (!mReleased) Do(Each);
-}
-
-void EngineSound::Do(const SoundAction& Action) {
-    using Deed = void (*)(clsDirectSound&, const SoundAction&);
-    // In the order of SoundAction::Kind.
-    static constexpr Deed Deeds[] = {
-        [](clsDirectSound&, const SoundAction& This) { TellOnce(This.Text); },
-        [](clsDirectSound& Engine, const SoundAction& This) { Engine.LoadFile(This.Text); },
-        [](clsDirectSound& Engine, const SoundAction&) { Engine.UnloadFile(); },
-        [](clsDirectSound& Engine, const SoundAction& This) {
-            Engine.SetCurrentPosition(This.Position);
-        },
-        [](clsDirectSound& Engine, const SoundAction& This) { Engine.Play(This.Repeat); },
-    };
-    Deeds[static_cast<size_t>(Action.What)](mEngine, Action);
-}
-
-ShowSoundMaker& TheShowSoundMaker() {
-    static ShowSoundMaker Maker = [] { return std::make_unique<EngineSound>(); };
-    return Maker;
+        if (mStep == Step) std::visit([this](const auto& This) { Do(This); }, Each);
 }
 
 }  // namespace neb

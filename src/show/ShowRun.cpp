@@ -2,20 +2,14 @@
 // ShowRunSlides.cpp.
 #include "show/ShowRun.h"
 
-#include <cmath>
-
 #include "db/clsDBEngine.h"
 #include "settings/modNEBSlideShow.h"
-#include "show/ShowMemory.h"
 #include "show/ShowSettings.h"
 #include "support/Fault.h"
-#include "support/Services.h"
 #include "support/modNumbers.h"
 
 namespace neb {
 namespace {
-
-constexpr double SecondsOfDay = 86400;
 
 void GiveTo(ShowSound& Sound, SoundCommand Command, bool Repeat) {
     if (Command == SoundCommand::Pause) Sound.PauseSound();
@@ -31,33 +25,36 @@ bool GoesOnFitted(const ShowSoundFields& Before, const ShowSoundFields& After) {
 
 }  // namespace
 
-ShowRun::ShowRun(ShowStage& Stage) : mStage(Stage), mSound(std::make_shared<SilentShowSound>()) {}
+ShowRun::ShowRun(ShowStage& Stage, ShowWorld World)
+    : mStage(Stage),
+      mWorld(std::move(World)),
+      mSlideClock(mWorld.Time),
+      mSound(std::make_shared<SilentShowSound>()) {}
 
 ShowRun::~ShowRun() = default;
 
-void ShowRun::Load(std::int32_t SlideShowID) {
-    mSlideShowID = SlideShowID;
+void ShowRun::Load() {
     InitEffectTables();
-    mSound = TheShowSoundMaker()();
+    mSound = mWorld.Sound([this](const QString& Message) { mStage.Tell(Message); });
     LoadSettings();
 }
 
 void ShowRun::InitEffectTables() {
     mEffects = EffectTables();
-    if (DBEngine) DBEngine->ClassifyEffects(mEffects.EffectLevels, EffectPlaces);
+    if (mWorld.Engine) mWorld.Engine->ClassifyEffects(mEffects.EffectLevels, EffectPlaces);
 }
 
 void ShowRun::LoadSettings() {
-    CurrentSlideShowID = 0;
-    CurrentSlideSeq = 0;
+    mWorld.Place.CurrentSlideShowID = 0;
+    mWorld.Place.CurrentSlideSeq = 0;
     const clsSettings Settings = OpenSettings();
-    const ShowSettings Read = ReadShowSettings(Settings, AlbumID, mSlideShowID);
+    const ShowSettings Read = ReadShowSettings(Settings, AlbumID, SlideShowID);
     mResumeSeq = Read.ResumeSeq;
     mResumeValid = Read.ResumeValid;
-    SlideTimeout = Read.SlideTimeout;
+    mWorld.Place.SlideTimeout = Read.SlideTimeout;
     mSettings = ReadEffectSettings(Settings, 0);
     ReadEffectSelections(Settings, mEffects);
-    mSoundFields.SlideInterval = SlideTimeout;
+    mSoundFields.SlideInterval = mWorld.Place.SlideTimeout;
 }
 
 void ShowRun::ReloadEffectSettings() {
@@ -70,6 +67,7 @@ void ShowRun::End() {
     SetTimer1(false);
     SetTimer2(false);
     mEnded = true;
+    ++mRunNumber;
     try {
         mSound->Release();
     } catch (const Fault&) {
@@ -86,24 +84,25 @@ void ShowRun::StopRestart() {
     Enter(StopRestartTransition(mState));
 }
 
-// A slide that could not be shown has stopped the show: nothing is set going after it.
+// Nothing is set going after a slide that could not be shown, which has stopped the show, nor after
+// one that has been overtaken.
 void ShowRun::Enter(const ShowTransition& Transition) {
+    ++mRunNumber;
     GiveTo(*mSound, Transition.Sound, mSoundFields.SoundRepeat);
     EnterState(mState, Transition);
     if (Transition.ToStart) GotoFirstSlide();
-    if (Transition.ShowsSlide && !ShowCurrentSlide()) return;
-    if (Transition.RestartsClock) StartSlideClock(TheServices().Time->Timer());
+    const StepCause Cause = Transition.ToStart ? StepCause::Start : StepCause::Restart;
+    if (Transition.ShowsSlide && !ShowCurrentSlide(Cause)) return;
+    if (Transition.RestartsClock) mSlideClock.Start();
     SetTimer1(Transition.Timer1);
     SetTimer2(Transition.Timer2);
 }
 
 void ShowRun::GotoFirstSlide() {
-    CurrentSlideSeq = 1;
-    if (mResumeSeq >= 1 && mResumeValid) {
-        CurrentSlideSeq = mResumeSeq;
-        CurrentSlideShowID = mSlideShowID;
-    }
-    mSoundFields.Reposition = true;
+    mWorld.Place.CurrentSlideSeq = 1;
+    if (mResumeSeq < 1 || !mResumeValid) return;
+    mWorld.Place.CurrentSlideSeq = mResumeSeq;
+    mWorld.Place.CurrentSlideShowID = SlideShowID;
 }
 
 void ShowRun::SetTimer1(bool On) {
@@ -128,19 +127,20 @@ void ShowRun::ReStartMe() {
 void ShowRun::EditPreferences(const std::function<void()>& Edit) {
     const bool Running = mTimer1On;
     if (Running) PlayPause();
-    const double Before = SlideTimeout;
+    const double Before = mWorld.Place.SlideTimeout;
     Edit();
-    if (Before == mSoundFields.SlideInterval) mSoundFields.SlideInterval = SlideTimeout;
+    if (Before == mSoundFields.SlideInterval)
+        mSoundFields.SlideInterval = mWorld.Place.SlideTimeout;
     ReloadEffectSettings();
     if (Running) PlayPause();
 }
 
 void ShowRun::NextSlide() {
-    UserStep(SeqAfter(CurrentSlideSeq, mSlideCount));
+    UserStep(SeqAfter(Memory().CurrentSlideSeq, mSlideCount));
 }
 
 void ShowRun::PreviousSlide() {
-    UserStep(SeqBefore(CurrentSlideSeq, mSlideCount));
+    UserStep(SeqBefore(Memory().CurrentSlideSeq, mSlideCount));
 }
 
 void ShowRun::GotoStart() {
@@ -152,49 +152,33 @@ void ShowRun::GotoEnd() {
 }
 
 void ShowRun::UserStep(std::int32_t SlideSeq) {
+    ++mRunNumber;
     ResetSlideClock();
-    CurrentSlideSeq = SlideSeq;
+    mWorld.Place.CurrentSlideSeq = SlideSeq;
     if (mSoundFields.FitToSong)
         mSound->SyncSoundToSlide(SlideSeq, mSoundFields.SlideInterval, true, mSoundFields);
-    mSoundFields.Reposition = true;
-    ShowCurrentSlide();
+    ShowCurrentSlide(StepCause::User);
 }
 
 void ShowRun::ResetSlideClock() {
-    StartSlideClock(TheServices().Time->Timer());
+    mSlideClock.Start();
     SetTimer1(true);
     SetTimer2(true);
 }
 
-// The start is kept in full and rounded anew for each slide, so that roundings do not add up. As
-// the ticks see it, it never lies ahead of the clock: that would read as midnight having passed.
-void ShowRun::StartSlideClock(double Start) {
-    mSlideStart = std::fmod(Start, SecondsOfDay);
-    const double Now = TheServices().Time->Timer();
-    const double Ahead = std::fmod(mSlideStart - Now + SecondsOfDay, SecondsOfDay);
-    const bool JustAhead = Ahead > 0 && Ahead < 1;
-    mSlideStartTime = static_cast<float>(JustAhead ? Now : mSlideStart);
-}
-
 void ShowRun::Timer1_Timer() {
-    const double Now = TheServices().Time->Timer();
-    float Elapsed = static_cast<float>(Now) - mSlideStartTime;
-    if (Elapsed < 0) Elapsed += static_cast<float>(SecondsOfDay);
-    if (static_cast<float>(mSoundFields.SlideInterval) > Elapsed) return SetFadeVolume(Elapsed);
     const ShowSoundFields Before = mSoundFields;
-    const double Due = mSlideStart + Before.SlideInterval;
-    StartSlideClock(Now);
-    if (mProgressionMethod != 0) return;
-    const double Started = mSlideStart;
-    AdvanceSlide();
-    // Behind a box other slides may have come up, each with a time of its own.
-    if (mSlideStart != Started) return;
+    const double Elapsed = mSlideClock.Elapsed();
+    if (!SlideClock::IsOver(Elapsed, Before.SlideInterval)) return SetFadeVolume(Elapsed);
+    const double Due = mSlideClock.Due(Before.SlideInterval);
+    mSlideClock.Start();
+    if (mProgressionMethod != 0 || !AdvanceSlide()) return;
     // Within a fitted track the slides keep to the music: what a tick came late is not lost.
     if (GoesOnFitted(Before, mSoundFields) && Elapsed < 2 * Before.SlideInterval)
-        StartSlideClock(Due);
+        mSlideClock.StartAt(Due);
 }
 
-void ShowRun::SetFadeVolume(float Elapsed) {
+void ShowRun::SetFadeVolume(double Elapsed) {
     const bool Fades =
         mProgressionMethod == 0 && mSoundFields.FadeOnLast && mSoundFields.TrackEndsHere;
     mSound->SetVolume(Fades ? CInt(100 - Elapsed / mSoundFields.SlideInterval * 100) : 100);

@@ -1,6 +1,6 @@
 // One run of a slide show: its states, the user's steps, the clock of the slides, and which
 // picture, caption, transition and sound come up when. No window: the projector and the rehearsal
-// each give it a stage and call its ticks.
+// each give it a stage and a world, and call its ticks.
 #pragma once
 
 #include <functional>
@@ -8,9 +8,10 @@
 
 #include "show/DetailChooser.h"
 #include "show/EffectChooser.h"
-#include "show/ShowSound.h"
 #include "show/ShowStage.h"
 #include "show/ShowState.h"
+#include "show/ShowWorld.h"
+#include "show/SlideClock.h"
 
 namespace neb {
 
@@ -19,12 +20,14 @@ class clsNEBSlide;
 
 class ShowRun {
   public:
-    explicit ShowRun(ShowStage& Stage);
+    ShowRun(ShowStage& Stage, ShowWorld World);
     ~ShowRun();
 
+    // Set before Load.
     std::int32_t AlbumID = 0;
+    std::int32_t SlideShowID = 0;
     // Takes the show's settings and tables, and its sound; nothing is shown yet.
-    void Load(std::int32_t SlideShowID);
+    void Load();
     // The show begins at its first slide, wherever it was left.
     void ForgetResumePoint() { mResumeSeq = 0; }
     // Stops the sound and the ticks for good.
@@ -50,6 +53,7 @@ class ShowRun {
     const EffectTables& Effects() const { return mEffects; }
     const EffectSettings& Settings() const { return mSettings; }
     const ShowSoundFields& SoundFields() const { return mSoundFields; }
+    const ShowMemory& Memory() const { return mWorld.Place; }
     const QString& CurrentFile() const { return mCurrentFile; }
     const QString& SlideShowName() const { return mSlideShowName; }
     bool IsManual() const { return mProgressionMethod != 0; }
@@ -64,13 +68,12 @@ class ShowRun {
     void GotoFirstSlide();
     void SetTimer1(bool On);
     void SetTimer2(bool On);
-    void StartSlideClock(double Start);
     void ResetSlideClock();
     void UserStep(std::int32_t SlideSeq);
-    void AdvanceSlide();
-    void SetFadeVolume(float Elapsed);
-    bool ShowCurrentSlide();
-    bool ShowPlace(clsNEBAlbum& Album, const clsNEBSlideShow& SlideShow);
+    bool AdvanceSlide();
+    void SetFadeVolume(double Elapsed);
+    bool ShowCurrentSlide(StepCause Cause);
+    bool ShowPlace(clsNEBAlbum& Album, const clsNEBSlideShow& SlideShow, StepCause Cause);
     bool Fail(const QString& Message);
     void StopShow();
     void SetCaption(const QString& Text);
@@ -82,12 +85,16 @@ class ShowRun {
     void PrefetchNext(clsNEBAlbum& Album, const clsNEBSlideShow& SlideShow);
 
     ShowStage& mStage;
+    const ShowWorld mWorld;
+    SlideClock mSlideClock;
+    // The number of the run through a slide or a state, counted up by each: what stands in a box
+    // while the number moves on has been overtaken, and is over.
+    std::uint32_t mRunNumber = 0;
     std::shared_ptr<ShowSound> mSound;
     ShowSoundFields mSoundFields;
     ShowState mState;
     EffectTables mEffects;
     EffectSettings mSettings;
-    std::int32_t mSlideShowID = 0;
     QString mSlideShowName;
     QString mCaption;
     QString mCurrentFile;
@@ -99,8 +106,6 @@ class ShowRun {
     bool mResumeAfterRestart = false;
     bool mTimer1On = false;
     bool mEnded = false;
-    double mSlideStart = 0;     // seconds since midnight
-    float mSlideStartTime = 0;  // the same, as the ticks compare it
 };
 
 }  // namespace neb

@@ -3,7 +3,6 @@
 #include "db/modAlbumFiles.h"
 #include "settings/modNEBSlideShow.h"
 #include "show/CaptionText.h"
-#include "show/ShowMemory.h"
 #include "show/ShowRun.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
@@ -23,35 +22,39 @@ bool IsNoSlide(const QString& Path) {
 
 }  // namespace
 
-void ShowRun::AdvanceSlide() {
-    ++CurrentSlideSeq;
-    ShowCurrentSlide();
+// As ShowCurrentSlide.
+bool ShowRun::AdvanceSlide() {
+    ++mRunNumber;
+    ++mWorld.Place.CurrentSlideSeq;
+    return ShowCurrentSlide(StepCause::Timer);
 }
 
-// False when the show has been stopped instead.
-bool ShowRun::ShowCurrentSlide() {
+// True when the slide is up and nothing has overtaken it.
+bool ShowRun::ShowCurrentSlide(StepCause Cause) {
+    ShowMemory& Place = mWorld.Place;
     mSoundFields.TrackEndsHere = mSoundFields.FitToSong = mSoundFields.FadeOnLast = false;
-    mSoundFields.SlideInterval = SlideTimeout;
+    mSoundFields.SlideInterval = Place.SlideTimeout;
     SetTimer2(false);
-    if (mSlideShowID < 1) return Fail(QStringLiteral("You must have an active slideshow!"));
-    if (mSlideShowID != CurrentSlideShowID) {
-        CurrentSlideSeq = 0;
-        CurrentSlideShowID = mSlideShowID;
+    if (SlideShowID < 1) return Fail(QStringLiteral("You must have an active slideshow!"));
+    if (SlideShowID != Place.CurrentSlideShowID) {
+        Place.CurrentSlideSeq = 0;
+        Place.CurrentSlideShowID = SlideShowID;
     }
-    clsNEBAlbum* Album = DBEngine ? DBEngine->GetAlbum(AlbumID) : nullptr;
+    clsNEBAlbum* Album = mWorld.Engine ? mWorld.Engine->GetAlbum(AlbumID) : nullptr;
     if (!Album) return Fail(QStringLiteral("Could not find album."));
-    const clsNEBSlideShow* SlideShow = Album->GetSlideShow(mSlideShowID);
+    const clsNEBSlideShow* SlideShow = Album->GetSlideShow(SlideShowID);
     if (!SlideShow)
         return Fail(
             QStringLiteral("The Active Slide Show does not exist!  Please select a new one!"));
     mSlideShowName = SlideShow->SlideShowName;
     mProgressionMethod = SlideShow->ProgressionMethod;
     mSlideCount = mLastSeq = static_cast<std::int32_t>(SlideShow->Details.size());
-    return ShowPlace(*Album, *SlideShow);
+    return ShowPlace(*Album, *SlideShow, Cause);
 }
 
-bool ShowRun::ShowPlace(clsNEBAlbum& Album, const clsNEBSlideShow& SlideShow) {
-    const ChosenDetail Chosen = ChooseDetail(SlideShow, CurrentSlideSeq);
+bool ShowRun::ShowPlace(clsNEBAlbum& Album, const clsNEBSlideShow& SlideShow, StepCause Cause) {
+    const std::uint32_t Run = mRunNumber;
+    const ChosenDetail Chosen = ChooseDetail(SlideShow, Memory().CurrentSlideSeq);
     SetCaption(Chosen.Detail ? FixCaptionText(Chosen.Detail->SlideText) : QString());
     const clsNEBSlide* Slide = Chosen.Detail ? Album.GetSlide(Chosen.Detail->SlideID) : nullptr;
     if (!Slide)
@@ -59,11 +62,13 @@ bool ShowRun::ShowPlace(clsNEBAlbum& Album, const clsNEBSlideShow& SlideShow) {
                         .arg(Chosen.Number));
     if (mCaption.isEmpty()) SetCaption(FixCaptionText(Slide->SlideText));
     if (!DisplaySlideFile(Slide->SlideLoc)) return false;
-    CurrentSlideSeq = Chosen.CurrentSeq;
+    mWorld.Place.CurrentSlideSeq = Chosen.CurrentSeq;
     const SlideSound Playing = SoundOf(Chosen, *Slide, SlideShow);
     PrefetchNext(Album, SlideShow);
-    const auto Held = mSound;  // a box in the sound step may outlive the show
-    if (Held->SoundStep(Playing, mSoundFields)) SetTimer2(true);
+    const auto Held = mSound;  // what the sound step has to tell may outlive the show
+    const bool WatchRepeat = Held->SoundStep(Playing, Cause, mSoundFields);
+    if (Run != mRunNumber) return false;
+    if (WatchRepeat) SetTimer2(true);
     return true;
 }
 
@@ -83,10 +88,11 @@ void ShowRun::SetCaption(const QString& Text) {
     mStage.ShowCaption(Text);
 }
 
+// A show that has gone on behind the box is not stopped for the slide that it left.
 bool ShowRun::Fail(const QString& Message) {
-    mSoundFields.Reposition = false;
+    const std::uint32_t Run = mRunNumber;
     mStage.Tell(Message);
-    StopShow();
+    if (Run == mRunNumber) StopShow();
     return false;
 }
 
@@ -97,7 +103,7 @@ void ShowRun::StopShow() {
 
 QString ShowRun::SlidePath(const QString& SlideLoc) const {
     return HoldsSeparator(SlideLoc) ? SlideLoc
-                                    : SlidesFolder(DBEngine->DBPath(), AlbumID) + SlideLoc;
+                                    : SlidesFolder(mWorld.Engine->DBPath(), AlbumID) + SlideLoc;
 }
 
 // A picture that cannot be read counts as a missing one: no single file may halt a show.
@@ -108,7 +114,6 @@ bool ShowRun::DisplaySlideFile(const QString& File) {
         return true;
     }
     if (IsNoSlide(Path)) {
-        mSoundFields.Reposition = false;
         StopShow();
         return false;
     }
@@ -126,7 +131,7 @@ bool ShowRun::DisplayPicture(const QString& Path) {
 
 // What comes up when the time of this slide is over is made ready in the meantime.
 void ShowRun::PrefetchNext(clsNEBAlbum& Album, const clsNEBSlideShow& SlideShow) {
-    const ChosenDetail Next = ChooseDetail(SlideShow, CurrentSlideSeq + 1);
+    const ChosenDetail Next = ChooseDetail(SlideShow, Memory().CurrentSlideSeq + 1);
     const clsNEBSlide* Slide = Next.Detail ? Album.GetSlide(Next.Detail->SlideID) : nullptr;
     if (!Slide) return;
     mStage.Prefetch(SlidePath(Slide->SlideLoc));

@@ -18,7 +18,6 @@ struct ShowSoundFields {
     bool FadeOnLast = false;
     bool TrackEndsHere = false;  // the running slide is the track's last
     bool SoundRepeat = false;    // the repeat flag of what was last started
-    bool Reposition = false;     // a user step brought the slide up
     QString CurrentSoundFile;    // path last loaded with success
     // Where a track stood when the first of a run of overriding clips took its place.
     double SavedSoundPos = 0;        // seconds; 0 for none
@@ -26,6 +25,19 @@ struct ShowSoundFields {
     QString SavedSoundFile;          // the track's file
     std::int32_t LastClipSeq = 0;    // SlideSeq of the last overriding clip; 0 for none
 };
+
+// Why a slide comes up.
+enum class StepCause {
+    Start,    // the show begins, at its first slide or where it was left
+    User,     // one of the user's four steps
+    Timer,    // the slide before it had its time
+    Restart,  // the slide of a stopped show once more
+};
+
+// Whether a fitted track that plays on is to be moved to the slide.
+constexpr bool Repositions(StepCause Cause) {
+    return Cause == StepCause::Start || Cause == StepCause::User;
+}
 
 // The slide that has just come up.
 struct SlideSound {
@@ -45,8 +57,10 @@ class ShowSound {
     virtual void StopSound() = 0;           // and back to the start
     virtual void SetVolume(int Value) = 0;  // 0 to 100
     virtual void CheckRepeat() = 0;         // once a second
-    // The last stage of showing a slide; clears Reposition. True: CheckRepeat is wanted again.
-    virtual bool SoundStep(const SlideSound& Slide, ShowSoundFields& Fields) = 0;
+    // The last stage of showing a slide. What it has to tell may take long, and the show goes on
+    // meanwhile: a step that a newer one has overtaken does nothing more. True: CheckRepeat is
+    // wanted again.
+    virtual bool SoundStep(const SlideSound& Slide, StepCause Cause, ShowSoundFields& Fields) = 0;
     // Moves a fitted track to a place, counted from 1, of Interval seconds each.
     virtual void SyncSoundToSlide(std::int32_t Place, double Interval, bool Force,
                                   ShowSoundFields& Fields) = 0;
@@ -65,13 +79,14 @@ class SilentShowSound : public ShowSound {
     void StopSound() override {}
     void SetVolume(int) override {}
     void CheckRepeat() override {}
-    bool SoundStep(const SlideSound&, ShowSoundFields& Fields) override;
+    bool SoundStep(const SlideSound&, StepCause, ShowSoundFields&) override { return false; }
     void SyncSoundToSlide(std::int32_t, double, bool, ShowSoundFields&) override {}
 };
 
-// How each run of a show comes by its sound; an EngineSound unless another maker is
-// put here.
-using ShowSoundMaker = std::function<std::unique_ptr<ShowSound>()>;
-ShowSoundMaker& TheShowSoundMaker();
+// Says something to whoever watches the show; events go on until it is answered.
+using ShowTeller = std::function<void(const QString& Message)>;
+
+// How each run of a show comes by its sound.
+using ShowSoundMaker = std::function<std::unique_ptr<ShowSound>(const ShowTeller& Tell)>;
 
 }  // namespace neb

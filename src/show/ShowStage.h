@@ -22,7 +22,7 @@ class ShowStage {
     // begins its time anew.
     virtual void SetTimer1(bool On) = 0;
     virtual void SetTimer2(bool On) = 0;
-    // A plain box; events go on meanwhile.
+    // A plain box; events go on meanwhile, and the show with them.
     virtual void Tell(const QString& Message) = 0;
 };
 

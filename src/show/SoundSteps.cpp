@@ -22,7 +22,7 @@ class Script {
     explicit Script(const PlayerState& Now) : mNow(Now) {}
 
     void Play(bool Repeat) {
-        mActions.push_back({SoundAction::Kind::Play, {}, 0, Repeat});
+        mActions.push_back(SoundDo::Play{Repeat});
         mNow.IsPlaying = true;
     }
     void PlayUnlessPlaying(bool Repeat) {
@@ -31,9 +31,9 @@ class Script {
     // A start that is followed by a jump is left out: nobody is to hear a snatch of the wrong
     // moment.
     void PlayFrom(double Position, bool Repeat) {
-        if (!mActions.empty() && mActions.back().What == SoundAction::Kind::Play)
+        if (!mActions.empty() && std::holds_alternative<SoundDo::Play>(mActions.back()))
             mActions.pop_back();
-        mActions.push_back({SoundAction::Kind::SetPosition, {}, Position, false});
+        mActions.push_back(SoundDo::SetPosition{Position});
         mNow.CurrentPosition = Position;
         Play(Repeat);
     }
@@ -58,13 +58,6 @@ void Script::Sync(std::int64_t Place, double Interval, bool Force, bool Repeat) 
     PlayUnlessPlaying(Repeat);
 }
 
-SoundAction Tell(const QString& Text) {
-    return {SoundAction::Kind::Tell, Text, 0, false};
-}
-SoundAction Load(const QString& Path) {
-    return {SoundAction::Kind::LoadFile, Path, 0, false};
-}
-
 QString PathIn(const QString& Folder, const QString& Name) {
     return HoldsSeparator(Name) ? Name : Folder + Name;
 }
@@ -86,56 +79,31 @@ const Track* TrackAt(const SlideSound& Slide) {
     return Found == Tracks.end() ? nullptr : Found->get();
 }
 
-// A clip in either of its two places.
-SoundStage OpenClip(const QString& Path, const FileTest& Exists, SoundSequel Loaded,
-                    SoundSequel Missing) {
-    if (Exists(Path)) return {{Load(Path)}, Loaded, Path, {}, false};
-    // Loaded all the same: whatever sounded before is over.
-    return {{Tell(NoClip), Load(Path)}, Missing, Path, {}, false};
-}
-
-SoundStage OpenTrack(const Track& Found, const QString& Path, const PlayerState& Before,
-                     const FileTest& Exists) {
-    if (Path == Before.SoundFile) return {{}, SoundSequel::SameTrack, Path, Found, true};
-    if (Exists(Path)) return {{Load(Path)}, SoundSequel::NewTrack, Path, Found, true};
-    return {{Tell(NoTrack), Load(Path)}, SoundSequel::MissingTrack, Path, Found, true};
-}
-
 void NoteTrack(const Track& Found, const SlideSound& Slide, ShowSoundFields& Fields) {
     Fields.FitToSong = Found.FitToSong;
     Fields.FadeOnLast = Found.Fade;
     if (Found.SlideSeqEnd == Slide.SlideSeq) Fields.TrackEndsHere = true;
 }
 
-// What a stage that follows is worked out from.
-struct Turn {
-    const SoundStage& Stage;
-    const SlideSound& Slide;
-    const PlayerState& Before;
-    const PlayerState& Now;
-    ShowSoundFields& Fields;
-
-    // Wider than the numbers of a track: a hand-made file may hold any.
-    std::int64_t Place() const {
-        return std::int64_t{Slide.SlideSeq} - Stage.Track.SlideSeqStart + 1;
-    }
-};
+// The slide's, in its track, from 1; wider than the numbers of a track: a hand-made file may hold
+// any.
+std::int64_t PlaceInTrack(const SoundTurn& At) {
+    return std::int64_t{At.Slide.SlideSeq} - At.Stage.Track.SlideSeqStart + 1;
+}
 
 // A stage that ends the step; CheckRepeat is wanted as before.
-SoundStage Ending(const Turn& At, SoundActions Actions = {}) {
-    return {std::move(Actions), SoundSequel::None, At.Stage.Path, At.Stage.Track,
-            At.Stage.WatchRepeat};
+SoundStage Ending(const SoundTurn& At, SoundActions Actions = {}) {
+    return {std::move(Actions), nullptr, At.Stage.Path, At.Stage.Track, At.Stage.WatchRepeat};
 }
 
 void EndTrackPath(ShowSoundFields& Fields) {
     Fields.SavedSoundPos = 0;
     Fields.SavedSoundSeq = 0;
     Fields.LastClipSeq = 0;
-    Fields.Reposition = false;
 }
 
 // Only the first of a run of overriding clips saves, so that the track's place survives them all.
-void SavePlace(const Turn& At) {
+void SavePlace(const SoundTurn& At) {
     if (At.Fields.SavedSoundSeq != 0) return;
     At.Fields.SavedSoundPos = At.Before.IsPlaying ? At.Before.CurrentPosition : 0;
     At.Fields.SavedSoundSeq = At.Slide.SlideSeq;
@@ -143,56 +111,39 @@ void SavePlace(const Turn& At) {
 }
 
 // Starts what has just been loaded.
-void Start(const Turn& At, bool Repeat, Script& Do) {
+void Start(const SoundTurn& At, bool Repeat, Script& Do) {
     At.Fields.CurrentSoundFile = At.Stage.Path;
     At.Fields.SoundRepeat = Repeat;
     Do.PlayUnlessPlaying(Repeat);
 }
 
-void Fit(const Turn& At) {
+void Fit(const SoundTurn& At) {
     const Track& Found = At.Stage.Track;
     const double Slides = static_cast<double>(Found.SlideSeqEnd) - Found.SlideSeqStart + 1;
     if (Found.FitToSong) At.Fields.SlideInterval = At.Now.Duration / Slides;
 }
 
-void SyncToPlace(const Turn& At, Script& Do) {
-    Do.Sync(At.Place(), At.Fields.SlideInterval, false, At.Fields.SoundRepeat);
+void SyncToPlace(const SoundTurn& At, Script& Do) {
+    Do.Sync(PlaceInTrack(At), At.Fields.SlideInterval, false, At.Fields.SoundRepeat);
 }
 
-SoundStage AfterMissingOverridingClip(const Turn& At) {
-    At.Fields.Reposition = false;
-    return Ending(At);
-}
-
-SoundStage AfterOverridingClip(const Turn& At) {
+SoundStage AfterOverridingClip(const SoundTurn& At) {
     Script Do(At.Now);
     Start(At, At.Slide.Repeat, Do);
     SavePlace(At);
-    At.Fields.Reposition = false;
     At.Fields.LastClipSeq = At.Slide.SlideSeq;
     return Ending(At, Do.Take());
 }
 
-SoundStage AfterNewTrack(const Turn& At) {
-    SoundStage Next = At.Stage;
-    Next.Sequel = SoundSequel::StartTrack;
-    Next.Actions.clear();
-    if (At.Now.Duration > 0)
-        Fit(At);
-    else if (At.Stage.Track.FitToSong)
-        Next.Actions = {Tell(EmptyTrack)};
-    return Next;
-}
-
 // The track picks up where an overriding clip cut it off.
-void PickUp(const Turn& At, Script& Do) {
+void PickUp(const SoundTurn& At, Script& Do) {
     const ShowSoundFields& Saved = At.Fields;
     if (Saved.SavedSoundSeq > 0 && Saved.SavedSoundPos > 0 &&
         At.Now.SoundFile == Saved.SavedSoundFile)
         Do.PlayFrom(Saved.SavedSoundPos, Saved.SoundRepeat);
 }
 
-SoundStage AfterStartTrack(const Turn& At) {
+SoundStage AfterStartTrack(const SoundTurn& At) {
     Script Do(At.Now);
     Start(At, At.Stage.Track.Repeat, Do);
     if (At.Stage.Track.FitToSong)
@@ -203,21 +154,32 @@ SoundStage AfterStartTrack(const Turn& At) {
     return Ending(At, Do.Take());
 }
 
+SoundStage AfterNewTrack(const SoundTurn& At) {
+    SoundStage Then = At.Stage;
+    Then.Next = AfterStartTrack;
+    Then.Actions.clear();
+    if (At.Now.Duration > 0)
+        Fit(At);
+    else if (At.Stage.Track.FitToSong)
+        Then.Actions = {SoundDo::Tell{EmptyTrack}};
+    return Then;
+}
+
 // A plain advance inside a group leaves the sound alone.
-void GoOnPlaying(const Turn& At, Script& Do) {
-    if (At.Place() == 1) {
+void GoOnPlaying(const SoundTurn& At, Script& Do) {
+    if (PlaceInTrack(At) == 1) {
         if (!At.Fields.SoundRepeat) Do.PlayFrom(0, At.Fields.SoundRepeat);
-    } else if (At.Fields.Reposition && At.Stage.Track.FitToSong) {
+    } else if (Repositions(At.Cause) && At.Stage.Track.FitToSong) {
         SyncToPlace(At, Do);
     }
 }
 
-void StartAgain(const Turn& At, Script& Do) {
+void StartAgain(const SoundTurn& At, Script& Do) {
     Do.Play(At.Fields.SoundRepeat);
     if (At.Stage.Track.FitToSong) SyncToPlace(At, Do);
 }
 
-SoundStage AfterSameTrack(const Turn& At) {
+SoundStage AfterSameTrack(const SoundTurn& At) {
     Script Do(At.Now);
     if (At.Now.Duration > 0) {
         Fit(At);
@@ -228,53 +190,48 @@ SoundStage AfterSameTrack(const Turn& At) {
     return Ending(At, Do.Take());
 }
 
-SoundStage AfterClip(const Turn& At) {
+SoundStage AfterClip(const SoundTurn& At) {
     Script Do(At.Now);
     Start(At, At.Slide.Repeat, Do);
     EndTrackPath(At.Fields);
     return Ending(At, Do.Take());
 }
 
-SoundStage AfterNone(const Turn& At) {
-    return Ending(At);
-}
-
-SoundStage AfterSilence(const Turn& At) {
+SoundStage AfterSilence(const SoundTurn& At) {
     EndTrackPath(At.Fields);
     return Ending(At);
 }
 
-// In the order of SoundSequel.
-using Sequel = SoundStage (*)(const Turn& At);
-constexpr Sequel Sequels[] = {
-    AfterNone,           AfterMissingOverridingClip,
-    AfterOverridingClip, AfterSilence,
-    AfterNewTrack,       AfterStartTrack,
-    AfterSameTrack,      AfterSilence,
-    AfterClip,           AfterSilence,
-};
+using Sequel = SoundStage (*)(const SoundTurn& At);
+
+// A clip in either of its two places.
+SoundStage OpenClip(const QString& Path, const FileTest& Exists, Sequel Loaded, Sequel Missing) {
+    if (Exists(Path)) return {{SoundDo::LoadFile{Path}}, Loaded, Path, {}, false};
+    // Loaded all the same: whatever sounded before is over.
+    return {{SoundDo::Tell{NoClip}, SoundDo::LoadFile{Path}}, Missing, Path, {}, false};
+}
+
+SoundStage OpenTrack(const Track& Found, const QString& Path, const PlayerState& Before,
+                     const FileTest& Exists) {
+    if (Path == Before.SoundFile) return {{}, AfterSameTrack, Path, Found, true};
+    if (Exists(Path)) return {{SoundDo::LoadFile{Path}}, AfterNewTrack, Path, Found, true};
+    return {{SoundDo::Tell{NoTrack}, SoundDo::LoadFile{Path}}, AfterSilence, Path, Found, true};
+}
 
 }  // namespace
 
 SoundStage OpenSoundStep(const SlideSound& Slide, const QString& DBPath, const PlayerState& Before,
                          const FileTest& Exists, ShowSoundFields& Fields) {
+    // A missing clip leaves what an earlier one has saved.
     if (Slide.Override)
-        return OpenClip(ClipPath(Slide, DBPath), Exists, SoundSequel::OverridingClip,
-                        SoundSequel::MissingOverridingClip);
+        return OpenClip(ClipPath(Slide, DBPath), Exists, AfterOverridingClip, nullptr);
     if (const Track* Found = TrackAt(Slide)) {
         NoteTrack(*Found, Slide, Fields);
         return OpenTrack(*Found, TrackPath(Slide, *Found, DBPath), Before, Exists);
     }
     if (!Slide.SoundTrackLoc.isEmpty())
-        return OpenClip(ClipPath(Slide, DBPath), Exists, SoundSequel::Clip,
-                        SoundSequel::MissingClip);
-    return {{{SoundAction::Kind::UnloadFile, {}, 0, false}}, SoundSequel::Silence, {}, {}, false};
-}
-
-SoundStage NextSoundStage(const SoundStage& Stage, const SlideSound& Slide,
-                          const PlayerState& Before, const PlayerState& Now,
-                          ShowSoundFields& Fields) {
-    return Sequels[static_cast<size_t>(Stage.Sequel)]({Stage, Slide, Before, Now, Fields});
+        return OpenClip(ClipPath(Slide, DBPath), Exists, AfterClip, AfterSilence);
+    return {{SoundDo::UnloadFile{}}, AfterSilence, {}, {}, false};
 }
 
 SoundActions SyncSoundToSlide(std::int32_t Place, double Interval, bool Force, bool SoundRepeat,

@@ -1,9 +1,10 @@
 // What the sound of a show does at a slide: which file plays, whether a running track is left
 // alone, moved or replaced, and how long a fitted slide stays up. Plain rules: they are given the
-// state of the player and answer with what to do; ShowSound carries it out.
+// state of the player and answer with what to do; EngineSound carries it out.
 #pragma once
 
 #include <functional>
+#include <variant>
 #include <vector>
 
 #include "db/clsNEBSlideShowSoundTrack.h"
@@ -19,53 +20,63 @@ struct PlayerState {
     QString SoundFile;
 };
 
-struct SoundAction {
-    enum class Kind { Tell, LoadFile, UnloadFile, SetPosition, Play };
-    Kind What = Kind::Tell;
-    QString Text;         // of the box, or the path
-    double Position = 0;  // seconds
-    bool Repeat = false;
-
-    bool operator==(const SoundAction&) const = default;
+// What the player, or the user, is told; each with what it needs.
+namespace SoundDo {
+struct Tell {
+    QString Text;
+    bool operator==(const Tell&) const = default;
 };
+struct LoadFile {
+    QString Path;
+    bool operator==(const LoadFile&) const = default;
+};
+struct UnloadFile {
+    bool operator==(const UnloadFile&) const = default;
+};
+struct SetPosition {
+    double Seconds = 0;
+    bool operator==(const SetPosition&) const = default;
+};
+struct Play {
+    bool Repeat = false;
+    bool operator==(const Play&) const = default;
+};
+}  // namespace SoundDo
+
+using SoundAction = std::variant<SoundDo::Tell, SoundDo::LoadFile, SoundDo::UnloadFile,
+                                 SoundDo::SetPosition, SoundDo::Play>;
 using SoundActions = std::vector<SoundAction>;
 
-// How a step goes on once the actions of a stage have been carried out; None: it is over.
-enum class SoundSequel {
-    None,
-    MissingOverridingClip,
-    OverridingClip,
-    MissingTrack,
-    NewTrack,    // loaded
-    StartTrack,  // loaded and measured
-    SameTrack,
-    MissingClip,
-    Clip,
-    Silence,
-};
+struct SoundTurn;
 
-// A part of a step in which nothing is asked of the player: a box lets other steps run, so what
-// comes after one looks at the player anew.
+// A part of a step in which nothing is asked of the player: a box lets time pass, so what comes
+// after one looks at the player anew.
 struct SoundStage {
     SoundActions Actions;
-    SoundSequel Sequel = SoundSequel::None;
+    // How the step goes on once they have been carried out; null: it is over.
+    SoundStage (*Next)(const SoundTurn& At) = nullptr;
     QString Path;                     // of the clip or the track
     clsNEBSlideShowSoundTrack Track;  // that covers the slide, where it counts
     bool WatchRepeat = false;         // CheckRepeat is wanted after the step
 };
 
+// What the stage that follows is worked out from.
+struct SoundTurn {
+    const SoundStage& Stage;
+    const SlideSound& Slide;
+    StepCause Cause;            // of the slide's coming up
+    const PlayerState& Before;  // as OpenSoundStep was given it
+    const PlayerState& Now;     // as the actions of Stage have left it
+    ShowSoundFields& Fields;
+};
+
 using FileTest = std::function<bool(const QString& Path)>;
 
-// The first stage of a step: chooses clip or track, tells of a missing file, loads. DBPath ends in
-// a separator. Sets FitToSong, FadeOnLast and TrackEndsHere of Fields where a track covers the
-// slide; they are false before a step.
+// The first stage of a step: chooses clip or track, tells of a missing file, loads; those that
+// follow start, move, fit and save. DBPath ends in a separator. Sets FitToSong, FadeOnLast and
+// TrackEndsHere of Fields where a track covers the slide; they are false before a step.
 SoundStage OpenSoundStep(const SlideSound& Slide, const QString& DBPath, const PlayerState& Before,
                          const FileTest& Exists, ShowSoundFields& Fields);
-// The stage that follows, with the player as the actions of Stage have left it: starts, moves,
-// fits, saves. Before is the state that OpenSoundStep was given. Called until there is no Sequel.
-SoundStage NextSoundStage(const SoundStage& Stage, const SlideSound& Slide,
-                          const PlayerState& Before, const PlayerState& Now,
-                          ShowSoundFields& Fields);
 
 // Moves a fitted track to a place, counted from 1, of Interval seconds each; without Force only
 // when it is more than a twentieth off.

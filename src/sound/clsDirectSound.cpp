@@ -1,7 +1,6 @@
 #include "sound/clsDirectSound.h"
 
 #include "support/Fault.h"
-#include "support/Services.h"
 #include "support/modNumbers.h"
 
 namespace neb {
@@ -23,7 +22,7 @@ void IgnoringFaults(Call&& Do) {
 
 }  // namespace
 
-clsDirectSound::clsDirectSound() = default;
+clsDirectSound::clsDirectSound(SoundDevices* Devices) : mDevices(Devices) {}
 clsDirectSound::~clsDirectSound() = default;
 
 bool clsDirectSound::LoadFile(const QString& Path) {
@@ -34,7 +33,7 @@ bool clsDirectSound::LoadFile(const QString& Path) {
     mSoundFile = NewFile;
     if (!HoldDevices()) return false;
     IgnoringFaults([this] {
-        std::unique_ptr<SoundGraph> Graph = TheServices().Sound->CreateGraph();
+        std::unique_ptr<SoundGraph> Graph = mDevices->CreateGraph();
         if (Graph) Graph->RenderFile(mSoundFile);
         mGraph = std::move(Graph);
     });
@@ -115,13 +114,13 @@ bool clsDirectSound::IsPlaying() const {
 }
 
 void clsDirectSound::LoadAhead(const QString& Path) {
-    if (HoldDevices()) TheServices().Sound->LoadAhead(Path);
+    if (HoldDevices()) mDevices->LoadAhead(Path);
 }
 
 // False on a machine without sound.
 bool clsDirectSound::HoldDevices() {
-    if (TheServices().Sound && !mHold) mHold = TheServices().Sound->Hold();
-    return TheServices().Sound != nullptr;
+    if (mDevices && !mHold) mHold = mDevices->Hold();
+    return mDevices != nullptr;
 }
 
 }  // namespace neb

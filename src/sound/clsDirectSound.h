@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "sound/devices/SoundDevices.h"
+#include "support/Services.h"
 
 class QWidget;
 
@@ -14,7 +15,8 @@ namespace neb {
 
 class clsDirectSound {
   public:
-    clsDirectSound();
+    // Null: a machine without sound. They outlive it.
+    explicit clsDirectSound(SoundDevices* Devices = TheServices().Sound);
     ~clsDirectSound();  // stops what runs
     clsDirectSound(const clsDirectSound&) = delete;
     clsDirectSound& operator=(const clsDirectSound&) = delete;
@@ -52,7 +54,9 @@ class clsDirectSound {
     bool RecorderPlaybackComplete();
     // As a WAV file. Throws Fault when it cannot be written; the recording is kept.
     bool RecorderSaveToFile(const QString& Path);
-    void SetRecorderVolume(int Value);  // 1 to 100; kept, and applied to nothing
+    // 1 to 100; kept, and applied to nothing. What there is to say of any other, which is not
+    // taken; else empty.
+    QString SetRecorderVolume(int Value);
     // For a meter: seconds recorded so far or played so far, and the peak of the last moment, 0
     // to 1.
     double RecorderSeconds() const;
@@ -61,6 +65,7 @@ class clsDirectSound {
   private:
     bool HoldDevices();
 
+    SoundDevices* mDevices;
     QString mLastError;
     QString mSoundFile;
     bool mRepeatFlag = false;

@@ -4,7 +4,6 @@
 #include <cstdlib>
 
 #include "sound/WaveFile.h"
-#include "support/Services.h"
 #include "support/files/modHostFiles.h"
 
 namespace neb {
@@ -54,7 +53,6 @@ bool clsDirectSound::Recorder::Supported() {
 }
 
 bool clsDirectSound::Recorder::Initialize() {
-    mDX = TheServices().Sound;
     if (!mDX) return Refuse(NoDirectX);
     mCapture = mDX->CreateCapture();
     if (!mCapture) return Refuse(NoCapture);
@@ -158,11 +156,10 @@ bool clsDirectSound::Recorder::SaveToFile(const QString& Path) {
     return true;
 }
 
-void clsDirectSound::Recorder::SetVolume(int Value) {
-    if (Value >= 1 && Value <= 100)
-        mVolume = Value;
-    else
-        MsgBox(QStringLiteral("Volume must be >0 and <=100"));
+QString clsDirectSound::Recorder::SetVolume(int Value) {
+    if (Value < 1 || Value > 100) return QStringLiteral("Volume must be >0 and <=100");
+    mVolume = Value;
+    return {};
 }
 
 std::int32_t clsDirectSound::Recorder::Position() const {
@@ -222,8 +219,8 @@ bool clsDirectSound::RecorderSaveToFile(const QString& Path) {
     return TheRecorder().SaveToFile(Path);
 }
 
-void clsDirectSound::SetRecorderVolume(int Value) {
-    TheRecorder().SetVolume(Value);
+QString clsDirectSound::SetRecorderVolume(int Value) {
+    return TheRecorder().SetVolume(Value);
 }
 
 double clsDirectSound::RecorderSeconds() const {
@@ -235,7 +232,7 @@ double clsDirectSound::RecorderLevel() const {
 }
 
 clsDirectSound::Recorder& clsDirectSound::TheRecorder() {
-    if (!mRecorder) mRecorder = std::make_shared<Recorder>(mLastError);
+    if (!mRecorder) mRecorder = std::make_shared<Recorder>(mDevices, mLastError);
     return *mRecorder;
 }
 

@@ -8,7 +8,7 @@ namespace neb {
 
 class clsDirectSound::Recorder {
   public:
-    explicit Recorder(QString& LastError) : mLastError(LastError) {}
+    Recorder(SoundDevices* Devices, QString& LastError) : mLastError(LastError), mDX(Devices) {}
     ~Recorder();  // stops what runs
     Recorder(const Recorder&) = delete;
     Recorder& operator=(const Recorder&) = delete;
@@ -21,7 +21,7 @@ class clsDirectSound::Recorder {
     void StopPlayback();
     bool PlaybackComplete() const;
     bool SaveToFile(const QString& Path);
-    void SetVolume(int Value);
+    QString SetVolume(int Value);
     double Seconds() const;
     double Level() const;
 
@@ -45,7 +45,7 @@ class clsDirectSound::Recorder {
     bool mHasOutput = false;
     WaveFormat mCaptureFormat;
     QByteArray mBytes;  // of the recording, once it is built, and one more
-    SoundDevices* mDX = nullptr;
+    SoundDevices* mDX;
     // In the order of creation, so that they are released in the reverse of it.
     std::unique_ptr<CaptureDevice> mCapture;
     std::unique_ptr<CaptureBuffer> mCaptureBuffer;

@@ -5,7 +5,6 @@
 
 #include "db/clsDBEngine.h"
 #include "settings/modNEBSlideShow.h"
-#include "show/ShowMemory.h"
 #include "show/rehearsal/RehearsalFindings.h"
 #include "support/modDEValidation.h"
 #include "tools/modCommands.h"
@@ -110,7 +109,7 @@ int Rehearse(clsDBEngine& Engine, const clsNEBAlbum& Album, const clsNEBSlideSho
     const RehearsedShow Run{
         Engine, Album.AlbumID, SlideShow.SlideShowID, Of.Log(), End, Order.Screen, {}};
     const RehearsalFindings Findings = FindProblems(Run);
-    const CueSheet Sheet{Album.AlbumName, SlideShow, SlideTimeout, Run, Findings, Of.Now()};
+    const CueSheet Sheet{Album.AlbumName, SlideShow, Of.SlideTimeout(), Run, Findings, Of.Now()};
     (Order.Json ? PrintCueSheetAsJson : PrintCueSheet)(Sheet, IO.Out);
     return Findings.Problems.empty() ? ExitDone : ExitFound;
 }

@@ -1,5 +1,6 @@
 #include "tools/modRehearseSheet.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstring>
@@ -12,16 +13,30 @@
 namespace neb {
 namespace {
 
-// In the order of CueSoundKind.
-constexpr const char* SoundWords[] = {"silent",  "starts", "resumes",   "moves",
-                                      "goes on", "over",   "not played"};
-// In the order of RehearsalEnd.
-constexpr const char* EndWords[] = {"came round", "stopped", "too long"};
+constexpr std::pair<CueSoundKind, const char*> SoundWords[] = {
+    {CueSoundKind::Silent, "silent"},       {CueSoundKind::Starts, "starts"},
+    {CueSoundKind::Resumes, "resumes"},     {CueSoundKind::Moves, "moves"},
+    {CueSoundKind::GoesOn, "goes on"},      {CueSoundKind::Over, "over"},
+    {CueSoundKind::Unplayed, "not played"},
+};
+constexpr std::pair<RehearsalEnd, const char*> EndWords[] = {
+    {RehearsalEnd::CameRound, "came round"},
+    {RehearsalEnd::Stopped, "stopped"},
+    {RehearsalEnd::TooLong, "too long"},
+};
 
 constexpr double Unnoticed = 0.1;  // seconds
 
+// Every value stands in its table.
+template <class Key, size_t Count>
+QString WordIn(const std::pair<Key, const char*> (&Words)[Count], Key Wanted) {
+    const auto* Found = std::find_if(std::begin(Words), std::end(Words),
+                                     [=](const auto& Row) { return Row.first == Wanted; });
+    return QLatin1String(Found->second);
+}
+
 QString SoundWord(const CueSound& Sound) {
-    return QLatin1String(SoundWords[static_cast<size_t>(Sound.Kind)]);
+    return WordIn(SoundWords, Sound.Kind);
 }
 
 // "m:ss.t"
@@ -232,7 +247,7 @@ void PrintCueSheetAsJson(const CueSheet& Sheet, std::ostream& Out) {
     PutFindings(Json, "Problems", Sheet.Findings.Problems);
     PutFindings(Json, "Notes", Sheet.Findings.Notes);
     PutSeconds(Json, "RunningTime", Sheet.RunningTime);
-    Json.Value("End", QString(QLatin1String(EndWords[static_cast<size_t>(Sheet.Run.End)])));
+    Json.Value("End", WordIn(EndWords, Sheet.Run.End));
     Json.EndObject();
 }
 

@@ -107,6 +107,19 @@ TEST_F(MachineSettings, TheTestRunsOnceInTheLifeOfASettingsFile) {
     EXPECT_EQ(Runs, 1);
 }
 
+// A window that a fault has torn down did not come to setting it back.
+TEST_F(MachineSettings, ThePointerIsSetBackAfterTheTestHoweverItEnded) {
+    bool Measured = false;
+    EnsureMachineSettings([&] {
+        SetScreenPointer(Pointer::Hourglass);
+        Measured = true;
+        return SpeedTestResult();
+    });
+    EXPECT_TRUE(Measured);
+    EXPECT_EQ(ScreenPointer(), Pointer::Default);
+    SetScreenPointer(Pointer::Default);
+}
+
 TEST_F(MachineSettings, WithoutThePicturesTheTestIsAbortedAndTheDefaultsStay) {
     harness::ScriptedBoxes Boxes;
     harness::TempFolder Program;

@@ -1,6 +1,9 @@
 #include "show/EngineSound.h"
+#include "show/ShowWorld.h"
 
 #include <gtest/gtest.h>
+
+#include <QMap>
 
 #include "db/clsDBEngine.h"
 #include "db/clsNEBSlideShow.h"
@@ -30,20 +33,13 @@ class StillClock : public Clock {
 // A show on sound that keeps time and makes none; the length of a file stands in it as text.
 class EngineSoundRun : public ::testing::Test {
   protected:
-    EngineSoundRun() : mBefore(TheServices()) {
-        TheServices().Time = &Time;
-        TheServices().Sound = &Devices;
+    EngineSoundRun() {
         Engine.SetDBPath(Folder / QStringLiteral("db/"));
         Engine.InitializeDB();
-        DBEngine = &Engine;
-        Sound = std::make_shared<EngineSound>();
+        Sound = std::make_shared<EngineSound>(&Engine, &Devices,
+                                              [](const QString& Message) { MsgBox(Message); });
     }
-    ~EngineSoundRun() override {
-        Sound.reset();
-        DBEngine = nullptr;
-        TheServices().Time = mBefore.Time;
-        TheServices().Sound = mBefore.Sound;
-    }
+    ~EngineSoundRun() override { Sound.reset(); }  // what it does then is still noted
 
     void AddTrack(const QString& Name, std::int32_t First, std::int32_t Last, bool Fit = false,
                   bool Repeat = false) {
@@ -62,11 +58,12 @@ class EngineSoundRun : public ::testing::Test {
     SlideSound Slide(std::int32_t Seq, const QString& Clip = {}, bool Override = false) {
         return {7, &Show, Seq, Clip, Override, false};
     }
-    bool Step(std::int32_t Seq, const QString& Clip = {}, bool Override = false) {
+    bool Step(std::int32_t Seq, const QString& Clip = {}, bool Override = false,
+              StepCause Cause = StepCause::Timer) {
         Fields.FitToSong = Fields.FadeOnLast = Fields.TrackEndsHere = false;
         Fields.SlideInterval = 12;
         const auto Held = Sound;
-        return Held->SoundStep(Slide(Seq, Clip, Override), Fields);
+        return Held->SoundStep(Slide(Seq, Clip, Override), Cause, Fields);
     }
     void Pass(double Seconds) { Time.Milliseconds += Seconds * 1000; }
     // What happened since the last call: "run song.mp3 0|moved song.mp3 30".
@@ -78,7 +75,8 @@ class EngineSoundRun : public ::testing::Test {
     clsDBEngine Engine;
     clsNEBSlideShow Show;
     ShowSoundFields Fields;
-    ClockedSoundDevices Devices{[](const QString& Path) {
+    ClockedSoundDevices Devices{Time,
+                                [](const QString& Path) {
                                     bool IsNumber = false;
                                     const double Seconds = ReadFile(Path).toDouble(&IsNumber);
                                     if (!IsNumber) throw Fault(QStringLiteral("No sound."), Path);
@@ -89,16 +87,18 @@ class EngineSoundRun : public ::testing::Test {
 
   private:
     void Note(const SoundEvent& Event) {
-        static const char* const Names[] = {"ahead",   "loaded", "run",    "paused",
-                                            "stopped", "moved",  "volume", "released"};
+        using Kind = SoundEvent::Kind;
+        static const QMap<Kind, QString> Names = {
+            {Kind::LoadedAhead, "ahead"}, {Kind::Loaded, "loaded"},    {Kind::Run, "run"},
+            {Kind::Paused, "paused"},     {Kind::Stopped, "stopped"},  {Kind::Moved, "moved"},
+            {Kind::Volume, "volume"},     {Kind::Released, "released"}};
         const double Value =
             Event.What == SoundEvent::Kind::Volume ? Event.Hundredths : Event.Position;
         mEvents << QStringLiteral("%1 %2 %3")
-                       .arg(QString::fromLatin1(Names[static_cast<int>(Event.What)]),
-                            Event.Path.section(u'/', -1), QString::number(Value));
+                       .arg(Names[Event.What], Event.Path.section(u'/', -1),
+                            QString::number(Value));
     }
 
-    Services mBefore;
     QStringList mEvents;
 };
 
@@ -106,8 +106,8 @@ const auto Song = QStringLiteral("song.mp3");
 const auto Bird = QStringLiteral("bird.wav");
 const auto Frog = QStringLiteral("frog.wav");
 
-TEST_F(EngineSoundRun, IsWhatAShowGetsUnlessToldOtherwise) {
-    const std::unique_ptr<ShowSound> Made = TheShowSoundMaker()();
+TEST_F(EngineSoundRun, IsTheSoundOfAShowOnTheDesktop) {
+    const std::unique_ptr<ShowSound> Made = DesktopShowWorld().Sound([](const QString&) {});
     EXPECT_NE(dynamic_cast<EngineSound*>(Made.get()), nullptr);
 }
 
@@ -162,8 +162,7 @@ TEST_F(EngineSoundRun, TheForcedCallMovesAFittedTrackToTheSlidesPlace) {
     Taken();
     EXPECT_EQ(Fields.SlideInterval, 10);
     Sound->SyncSoundToSlide(4, Fields.SlideInterval, true, Fields);
-    Fields.Reposition = true;
-    Step(4);
+    Step(4, {}, false, StepCause::User);
     EXPECT_EQ(Taken(), "moved song.mp3 30|run song.mp3 30");
 }
 
@@ -174,8 +173,7 @@ TEST_F(EngineSoundRun, AStepCorrectsAForcedCallOfAGroupThatBeginsLater) {
     Pass(8);
     Taken();
     Sound->SyncSoundToSlide(4, Fields.SlideInterval, true, Fields);
-    Fields.Reposition = true;
-    Step(4);
+    Step(4, {}, false, StepCause::User);
     EXPECT_EQ(Taken(), "moved song.mp3 30|run song.mp3 30|moved song.mp3 10|run song.mp3 10");
 }
 
@@ -277,7 +275,7 @@ TEST_F(EngineSoundRun, AReleasedSoundDoesNothingMore) {
     Sound->Release();
     EXPECT_EQ(Taken(), "moved song.mp3 0|stopped song.mp3 0|released song.mp3 0");
     const ShowSoundFields Before = Fields;
-    EXPECT_FALSE(Sound->SoundStep(Slide(2), Fields));
+    EXPECT_FALSE(Sound->SoundStep(Slide(2), StepCause::Timer, Fields));
     Sound->SyncSoundToSlide(4, 10, true, Fields);
     Sound->Play(true);
     Sound->PauseSound();
@@ -291,16 +289,54 @@ TEST_F(EngineSoundRun, AReleasedSoundDoesNothingMore) {
 }
 
 // The tick goes on behind the box; the step of the next slide runs whole before this one ends.
-TEST_F(EngineSoundRun, AStepDuringABoxRunsAndTheOuterOneEndsAfterIt) {
+TEST_F(EngineSoundRun, AStepThatANewerOneHasOvertakenLeavesItsSoundAlone) {
     AddSong(Song, 100);
     AddTrack(QStringLiteral("none.mp3"), 1, 1);
     AddTrack(Song, 2, 5);
     Boxes.WhileNextIsOpen([this] { EXPECT_TRUE(Step(2)); });
     Boxes.Expect(NoTrack);
-    EXPECT_TRUE(Step(1));
-    EXPECT_EQ(Taken(), "loaded song.mp3 0|run song.mp3 0|released song.mp3 0");
-    EXPECT_TRUE(Step(3));
+    EXPECT_FALSE(Step(1)) << "it is no longer the one that says what to watch";
     EXPECT_EQ(Taken(), "loaded song.mp3 0|run song.mp3 0");
+    Pass(12);
+    EXPECT_TRUE(Step(3));
+    EXPECT_EQ(Taken(), "") << "the song of the newer one goes on";
+}
+
+TEST_F(EngineSoundRun, AStepThatWasOvertakenInTheBoxOfAnEmptyTrackPlaysAndFitsNothing) {
+    AddSong(Song, 100);
+    AddSong(QStringLiteral("empty.mp3"), 0);
+    AddTrack(QStringLiteral("empty.mp3"), 1, 4, true, true);
+    AddTrack(Song, 5, 14, true);
+    Boxes.WhileNextIsOpen([this] {
+        Step(8);
+        Pass(3);
+    });
+    Boxes.Expect(EmptyTrack);
+    EXPECT_FALSE(Step(3));
+    EXPECT_EQ(Taken(),
+              "loaded empty.mp3 0|released empty.mp3 0|loaded song.mp3 0|moved song.mp3 30|"
+              "run song.mp3 30");
+    EXPECT_EQ(Fields.SlideInterval, 10);
+    EXPECT_FALSE(Fields.SoundRepeat);
+    EXPECT_TRUE(Fields.CurrentSoundFile.endsWith(Song));
+}
+
+TEST_F(EngineSoundRun, AnOverridingClipThatWasOvertakenInItsBoxSavesNoPlace) {
+    AddSong(Song, 100);
+    AddTrack(Song, 1, 5);
+    AddClip(Bird, 5);
+    Step(1);
+    Pass(12);
+    Boxes.WhileNextIsOpen([this] {
+        Step(3, Bird, true);
+        Pass(2);
+        Taken();
+    });
+    Boxes.Expect(NoClip);
+    EXPECT_FALSE(Step(2, Frog, true));
+    EXPECT_EQ(Taken(), "") << "the bird sings on";
+    EXPECT_EQ(Fields.SavedSoundSeq, 3);
+    EXPECT_EQ(Fields.SavedSoundPos, 12);
 }
 
 TEST_F(EngineSoundRun, TheNextSoundIsOpenedAheadUnlessItIsLoadedOrMissing) {
@@ -350,7 +386,7 @@ TEST_F(EngineSoundRun, AFileThatIsReplacedIsMeasuredAnewWhenItIsLoadedAgain) {
 TEST_F(EngineSoundRun, AMachineWithoutSoundShowsItsShowInSilence) {
     AddSong(Song, 100);
     AddTrack(Song, 1, 3);
-    TheServices().Sound = nullptr;
+    Sound = std::make_shared<EngineSound>(&Engine, nullptr, [](const QString&) {});
     EXPECT_TRUE(Step(1));
     EXPECT_TRUE(Step(2));
     EXPECT_FALSE(Step(4));

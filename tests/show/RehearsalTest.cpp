@@ -1,6 +1,5 @@
 // The run of a show on a rehearsal's clock: which slides come up when, and where it ends.
 #include "RehearsalRig.h"
-#include "windows/show/modSlideShows.h"
 
 namespace neb::test {
 namespace {
@@ -148,25 +147,51 @@ TEST(BeginsLikePicture, KnowsEveryKindOfPictureByItsHead) {
     EXPECT_FALSE(BeginsLikePicture(QStringLiteral(NEB_SOURCE_DIR "/README.md")));
 }
 
-TEST_F(RehearsalRig, LeavesEverythingAsItWas) {
-    AddSlides(2);
+// What belongs to the shows on the screen is another's while a rehearsal runs, as well as after it.
+TEST_F(RehearsalRig, TouchesNothingOfTheDesktops) {
+    AddSlides(3);
+    SlideShow->SaveSoundTrack(1, u"none.mp3"_s, 2, 2, false, false, false);
     clsDBEngine Other;
     DBEngine = &Other;
-    CurrentSlideSeq = 7;
-    SlideTimeout = 3;
-    Clock* const Time = TheServices().Time;
+    DBPathCache = u"/elsewhere/"_s;
+    const ShowMemory Before = TheShowMemory = {7, 8, 3};
+    const Services Machine = TheServices();
+    const auto IsAsItWas = [&] {
+        const Services& Now = TheServices();
+        return DBEngine == &Other && DBPathCache == u"/elsewhere/" && !ReadOnlyDB &&
+               TheShowMemory == Before && Now.Time == Machine.Time && Now.Boxes == Machine.Boxes &&
+               Now.Sound == Machine.Sound;
+    };
     {
         Rehearsal Of(Engine, Album, Show);
-        EXPECT_NE(Time, TheServices().Time);
-        Of.RunWhole();
+        EXPECT_TRUE(IsAsItWas()) << "from the first on";
+        Of.Start();
+        Of.RunFor(7);
+        EXPECT_TRUE(IsAsItWas()) << "in the middle";
+        EXPECT_EQ(5, Of.SlideTimeout());
+        EXPECT_EQ(1u, Of.Boxes().size());
     }
-    EXPECT_EQ(&Other, DBEngine);
-    EXPECT_EQ(7, CurrentSlideSeq);
-    EXPECT_EQ(3, SlideTimeout);
-    EXPECT_FALSE(ReadOnlyDB);
-    EXPECT_EQ(Time, TheServices().Time);
-    EXPECT_EQ(nullptr, TheServices().Boxes);
+    EXPECT_TRUE(IsAsItWas()) << "afterwards";
     DBEngine = nullptr;
+    TheShowMemory = {};
+}
+
+TEST_F(RehearsalRig, RunsBesideAnotherOfAnotherShow) {
+    AddSlides(3);
+    std::int32_t Short = 0;
+    InAlbum->SaveSlideShow(Short, u"Short"_s, 0, Engine);
+    for (std::int32_t Seq = 1; Seq <= 2; ++Seq)
+        InAlbum->GetSlideShow(Short)->SaveDetail(SlideShow->Details[0]->SlideID, Seq, {});
+    Rehearsal One(Engine, Album, Show), Other(Engine, Album, Short);
+    One.Start();
+    One.RunFor(6);
+    Other.Start();
+    for (int Second = 0; Second < 6; ++Second) {
+        One.RunFor(1);
+        Other.RunFor(1);
+    }
+    EXPECT_EQ("1@0 2@5 3@10", Places(One));
+    EXPECT_EQ("1@0 2@5", Places(Other));
 }
 
 TEST_F(RehearsalRig, WritesBoxesDownAndEndsWhereTheShowStops) {

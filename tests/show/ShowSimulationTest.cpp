@@ -1,18 +1,20 @@
 // Whole shows on a clock that jumps: what sounded when, against what the rules say, written out by
 // hand. Loaded is at the beginning and not playing; "25.5 moved a@30" is the device's own word.
+#include <QMap>
 #include <cmath>
 
 #include "RehearsalRig.h"
 #include "support/modFUFL.h"
-#include "windows/show/modSlideShows.h"
 
 namespace neb::test {
 namespace {
 
 using Kind = RehearsalSoundKind;
 
-constexpr const char* Words[] = {"load", "fail", "free", "play",  "pause",
-                                 "stop", "move", "end",  "volume"};
+const QMap<Kind, QString> Words = {
+    {Kind::Loaded, "load"},  {Kind::Failed, "fail"},  {Kind::Released, "free"},
+    {Kind::Playing, "play"}, {Kind::Paused, "pause"}, {Kind::Stopped, "stop"},
+    {Kind::Moved, "move"},   {Kind::Ended, "end"},    {Kind::Volume, "volume"}};
 
 class ShowSimulation : public RehearsalRig {
   protected:
@@ -46,8 +48,7 @@ class ShowSimulation : public RehearsalRig {
         QStringList Log;
         for (const RehearsalSoundEvent& Event : Of.SoundEvents()) {
             if (Event.Kind == Kind::Volume) continue;
-            QString Text =
-                u"%1 %2"_s.arg(Event.At).arg(QLatin1String(Words[static_cast<int>(Event.Kind)]));
+            QString Text = u"%1 %2"_s.arg(Event.At).arg(Words[Event.Kind]);
             if (Event.Kind != Kind::Released) Text += u' ' + GetFileBaseName(Event.File);
             if (Event.Kind != Kind::Released && Event.Kind != Kind::Loaded)
                 Text += u"@%1"_s.arg(std::round(Event.Position * 1000) / 1000);

@@ -21,12 +21,11 @@ TEST_F(SoundOverride, AnOverridingClipTakesTheTracksPlaceAndIsNotWatched) {
     AddTrack(Song, 1, 5, 100, false, true, true);
     Step(1);
     StandAt(17);
-    Fields.Reposition = true;
-    EXPECT_EQ(Step(2, {Bird, true, true}), "load Slides/bird.wav|play again and again");
+    EXPECT_EQ(Step(2, {Bird, true, true}, StepCause::User),
+              "load Slides/bird.wav|play again and again");
     EXPECT_TRUE(Fields.SoundRepeat);
     EXPECT_EQ(Fields.CurrentSoundFile, Full(QStringLiteral("Slides/bird.wav")));
     EXPECT_EQ(Saved(), "17 2 SoundTracks/song.mp3 clip 2");
-    EXPECT_FALSE(Fields.Reposition);
     EXPECT_FALSE(Fields.FitToSong);
     EXPECT_FALSE(Fields.FadeOnLast);
     EXPECT_EQ(Fields.SlideInterval, Timeout);
@@ -117,11 +116,9 @@ TEST_F(SoundOverride, AMissingOverridingClipTouchesNothingThatIsSaved) {
     Step(1);
     StandAt(17);
     Step(2, {Bird, true, true});
-    Fields.Reposition = true;
     EXPECT_EQ(Step(3, {QStringLiteral("none.wav"), true, false}),
               Line({NoClip, "load Slides/none.wav"}));
     EXPECT_EQ(Saved(), "17 2 SoundTracks/song.mp3 clip 2");
-    EXPECT_FALSE(Fields.Reposition);
     EXPECT_TRUE(Fields.SoundRepeat);
     EXPECT_EQ(Fields.CurrentSoundFile, Full(QStringLiteral("Slides/bird.wav")));
     EXPECT_EQ(Step(4), "load SoundTracks/song.mp3|to 17|play|watch");

@@ -43,7 +43,8 @@ class SoundStepsRig : public ::testing::Test {
     }
 
     // A step of the show: what was done, and the word "watch" when CheckRepeat is wanted.
-    std::string Step(std::int32_t SlideSeq, const ClipOf& Clip = {}) {
+    std::string Step(std::int32_t SlideSeq, const ClipOf& Clip = {},
+                     StepCause Cause = StepCause::Timer) {
         Fields.FitToSong = Fields.FadeOnLast = Fields.TrackEndsHere = false;
         Fields.SlideInterval = Timeout;
         const SlideSound Slide{7, &Show, SlideSeq, Clip.Name, Clip.Override, Clip.Repeat};
@@ -53,8 +54,9 @@ class SoundStepsRig : public ::testing::Test {
             Slide, QStringLiteral("/db/"), Before,
             [this](const QString& Path) { return Files.contains(Path); }, Fields);
         CarryOut(Stage.Actions);
-        while (Stage.Sequel != SoundSequel::None) {
-            Stage = NextSoundStage(Stage, Slide, Before, Player, Fields);
+        while (Stage.Next) {
+            const PlayerState Now = Player;
+            Stage = Stage.Next({Stage, Slide, Cause, Before, Now, Fields});
             CarryOut(Stage.Actions);
         }
         if (Stage.WatchRepeat) mDone << QStringLiteral("watch");
@@ -88,34 +90,28 @@ class SoundStepsRig : public ::testing::Test {
     static QString Short(QString Path) { return Path.remove(QStringLiteral("/db/Albums/7/")); }
 
     void CarryOut(const SoundActions& Actions) {
-        for (const SoundAction& Each : Actions) CarryOut(Each);
+        for (const SoundAction& Each : Actions)
+            std::visit([this](const auto& This) { Do(This); }, Each);
     }
-    void CarryOut(const SoundAction& Action) {
-        using Kind = SoundAction::Kind;
-        const bool Loaded = Player.Duration > 0;
-        switch (Action.What) {
-            case Kind::Tell:
-                mDone << Action.Text;
-                if (WhileBoxIsOpen) std::exchange(WhileBoxIsOpen, nullptr)();
-                break;
-            case Kind::LoadFile:
-                mDone << QStringLiteral("load ") + Short(Action.Text);
-                Player = {false, 0, Files.value(Action.Text), Action.Text};
-                break;
-            case Kind::UnloadFile:
-                mDone << QStringLiteral("unload");
-                Player = {};
-                break;
-            case Kind::SetPosition:
-                mDone << QStringLiteral("to %1").arg(Action.Position);
-                if (Loaded) Player.CurrentPosition = Action.Position;
-                break;
-            case Kind::Play:
-                mDone << (Action.Repeat ? QStringLiteral("play again and again")
-                                        : QStringLiteral("play"));
-                if (Loaded) Player.IsPlaying = true;
-                break;
-        }
+    void Do(const SoundDo::Tell& This) {
+        mDone << This.Text;
+        if (WhileBoxIsOpen) std::exchange(WhileBoxIsOpen, nullptr)();
+    }
+    void Do(const SoundDo::LoadFile& This) {
+        mDone << QStringLiteral("load ") + Short(This.Path);
+        Player = {false, 0, Files.value(This.Path), This.Path};
+    }
+    void Do(const SoundDo::UnloadFile&) {
+        mDone << QStringLiteral("unload");
+        Player = {};
+    }
+    void Do(const SoundDo::SetPosition& This) {
+        mDone << QStringLiteral("to %1").arg(This.Seconds);
+        if (Player.Duration > 0) Player.CurrentPosition = This.Seconds;
+    }
+    void Do(const SoundDo::Play& This) {
+        mDone << (This.Repeat ? QStringLiteral("play again and again") : QStringLiteral("play"));
+        if (Player.Duration > 0) Player.IsPlaying = true;
     }
 
     QStringList mDone;

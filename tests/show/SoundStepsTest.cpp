@@ -68,7 +68,6 @@ TEST_F(SoundSteps, FitToSongSharesTheLengthOutAmongTheSlides) {
         AddTrack(Song, Row.First, Row.Last, Row.Seconds, false, true);
         Step(Row.First);
         EXPECT_EQ(Fields.SlideInterval, Row.Interval);
-        Fields.Reposition = false;
         Step(Row.First);
         EXPECT_EQ(Fields.SlideInterval, Row.Interval) << "the same track again";
     }
@@ -101,7 +100,6 @@ TEST_F(SoundSteps, AnUnfittedTrackThatIsEnteredInTheMiddleStartsAtItsBeginning) 
 
 TEST_F(SoundSteps, AMissingTrackIsToldAndTheOldSoundIsGone) {
     AddTrack(Song, 1, 4, -1, true, true, true);
-    Fields.Reposition = true;
     Fields.SoundRepeat = false;
     Fields.CurrentSoundFile = QStringLiteral("before");
     EXPECT_EQ(Step(4), Line({NoTrack, "load SoundTracks/song.mp3|watch"}));
@@ -110,7 +108,6 @@ TEST_F(SoundSteps, AMissingTrackIsToldAndTheOldSoundIsGone) {
     EXPECT_EQ(Fields.CurrentSoundFile, QStringLiteral("before"));
     EXPECT_TRUE(Fields.FitToSong);
     EXPECT_TRUE(Fields.TrackEndsHere);
-    EXPECT_FALSE(Fields.Reposition);
 }
 
 TEST_F(SoundSteps, AMissingTrackIsToldOnceForItsWholeGroup) {
@@ -139,19 +136,17 @@ TEST_F(SoundSteps, AnEmptyTrackThatIsLoadedIsLeftAsItIs) {
     AddTrack(Song, 1, 4, 0, true, true);
     Step(1);
     Fields.SoundRepeat = false;
-    Fields.Reposition = true;
-    EXPECT_EQ(Step(2), "watch");
+    EXPECT_EQ(Step(2, {}, StepCause::User), "watch");
     EXPECT_FALSE(Fields.SoundRepeat);
     EXPECT_EQ(Fields.SlideInterval, Timeout);
-    EXPECT_FALSE(Fields.Reposition);
 }
 
-// The player as a box about an empty track leaves it is looked at anew.
-TEST_F(SoundSteps, ASoundThatWasStartedDuringTheBoxIsNotStartedAgain) {
+// A pause and its end behind the box start the track; it is looked at anew.
+TEST_F(SoundSteps, ATrackThatWasTakenUpDuringItsBoxIsNotStartedAgain) {
     AddTrack(Song, 1, 4, 0, false, true);
-    WhileBoxIsOpen = [this] { Player = {true, 13, 60, QStringLiteral("other")}; };
-    EXPECT_EQ(Step(2), Line({"load SoundTracks/song.mp3", EmptyTrack, "to 12|play|watch"}));
-    WhileBoxIsOpen = [this] { Player = {true, 12.5, 60, QStringLiteral("other")}; };
+    WhileBoxIsOpen = [this] { Player.IsPlaying = true; };
+    EXPECT_EQ(Step(1), Line({"load SoundTracks/song.mp3", EmptyTrack, "to 0|play|watch"}));
+    WhileBoxIsOpen = [this] { StandAt(12); };
     Player = {};
     EXPECT_EQ(Step(2), Line({"load SoundTracks/song.mp3", EmptyTrack, "watch"}));
 }
@@ -176,31 +171,38 @@ TEST_F(SoundSteps, ANameWithASeparatorIsAFullPath) {
 // Where the track that is loaded goes on: the row's state, and what comes of it.
 struct GoingOn {
     const char* Case;
-    bool Playing, Repeat, FitToSong, Reposition;
+    bool Playing, Repeat, FitToSong;
+    StepCause Cause;
     std::int32_t SlideSeq;
     double Position;
     const char* Done;
 };
 
 const GoingOn GoingOnTable[] = {
-    {"a plain advance", true, false, false, false, 4, 25, "watch"},
-    {"a plain advance, fitted", true, false, true, false, 4, 3, "watch"},
-    {"a user's step, not fitted", true, false, false, true, 4, 3, "watch"},
-    {"a user's step, fitted, far off", true, false, true, true, 4, 3, "to 20|play|watch"},
-    {"a user's step, fitted, near", true, false, true, true, 4, 20.5, "watch"},
-    {"round to the first slide", true, false, false, false, 2, 60, "to 0|play|watch"},
-    {"round to the first, fitted", true, false, true, false, 2, 60, "to 0|play|watch"},
-    {"round to the first, repeating", true, true, false, false, 2, 60, "watch"},
-    {"round, repeating, fitted, by a user", true, true, true, true, 2, 60, "watch"},
-    {"repeating, fitted, by a user", true, true, true, true, 4, 3,
+    {"a plain advance", true, false, false, StepCause::Timer, 4, 25, "watch"},
+    {"a plain advance, fitted", true, false, true, StepCause::Timer, 4, 3, "watch"},
+    {"a user's step, not fitted", true, false, false, StepCause::User, 4, 3, "watch"},
+    {"a user's step, fitted, far off", true, false, true, StepCause::User, 4, 3,
+     "to 20|play|watch"},
+    {"a user's step, fitted, near", true, false, true, StepCause::User, 4, 20.5, "watch"},
+    {"round to the first slide", true, false, false, StepCause::Timer, 2, 60, "to 0|play|watch"},
+    {"round to the first, fitted", true, false, true, StepCause::Timer, 2, 60, "to 0|play|watch"},
+    {"round to the first, repeating", true, true, false, StepCause::Timer, 2, 60, "watch"},
+    {"round, repeating, fitted, by a user", true, true, true, StepCause::User, 2, 60, "watch"},
+    {"repeating, fitted, by a user", true, true, true, StepCause::User, 4, 3,
      "to 20|play again and again|watch"},
-    {"not playing", false, false, false, false, 4, 33, "play|watch"},
-    {"not playing, repeating", false, true, false, false, 2, 33, "play again and again|watch"},
-    {"not playing, fitted, near", false, false, true, false, 4, 20.5, "play|watch"},
-    {"not playing, fitted, ahead", false, false, true, false, 4, 33, "to 20|play|watch"},
-    {"not playing, fitted, behind", false, true, true, false, 4, 3,
+    {"not playing", false, false, false, StepCause::Timer, 4, 33, "play|watch"},
+    {"not playing, repeating", false, true, false, StepCause::Timer, 2, 33,
+     "play again and again|watch"},
+    {"not playing, fitted, near", false, false, true, StepCause::Timer, 4, 20.5, "play|watch"},
+    {"not playing, fitted, ahead", false, false, true, StepCause::Timer, 4, 33, "to 20|play|watch"},
+    {"not playing, fitted, behind", false, true, true, StepCause::Timer, 4, 3,
      "to 20|play again and again|watch"},
-    {"not playing, fitted, at the first", false, false, true, false, 2, 3, "to 0|play|watch"},
+    {"not playing, fitted, at the first", false, false, true, StepCause::Timer, 2, 3,
+     "to 0|play|watch"},
+    {"the show begins, fitted, far off", true, false, true, StepCause::Start, 4, 3,
+     "to 20|play|watch"},
+    {"shown again, fitted, far off", true, false, true, StepCause::Restart, 4, 3, "watch"},
 };
 
 TEST_F(SoundSteps, ATrackThatIsLoadedGoesOn) {
@@ -208,12 +210,10 @@ TEST_F(SoundSteps, ATrackThatIsLoadedGoesOn) {
         Show.ClearSoundTracks();
         AddTrack(Song, 2, 7, 60, Row.Repeat, Row.FitToSong);
         Player = {Row.Playing, Row.Position, 60, Full(QStringLiteral("SoundTracks/song.mp3"))};
-        Fields.Reposition = Row.Reposition;
         Fields.SoundRepeat = !Row.Repeat;
-        EXPECT_EQ(Step(Row.SlideSeq), Row.Done) << Row.Case;
+        EXPECT_EQ(Step(Row.SlideSeq, {}, Row.Cause), Row.Done) << Row.Case;
         EXPECT_EQ(Fields.SoundRepeat, Row.Repeat) << Row.Case;
         EXPECT_EQ(Fields.SlideInterval, Row.FitToSong ? 10 : Timeout) << Row.Case;
-        EXPECT_FALSE(Fields.Reposition) << Row.Case;
     }
 }
 
@@ -299,10 +299,8 @@ TEST_F(SoundSteps, EveryWayThroughTheTrackPathForgets) {
         Fields.SavedSoundSeq = 8;
         Fields.SavedSoundFile = QStringLiteral("kept");
         Fields.LastClipSeq = 8;
-        Fields.Reposition = true;
         Step(Way.SlideSeq, {Way.Clip, false, false});
         EXPECT_EQ(Saved(), "0 0 kept clip 0") << Way.Case;
-        EXPECT_FALSE(Fields.Reposition) << Way.Case;
     }
 }
 

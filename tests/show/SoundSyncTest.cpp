@@ -14,10 +14,10 @@ std::string Told(std::int32_t Place, double Interval, bool Force, double Positio
     for (const SoundAction& Each :
          SyncSoundToSlide(Place, Interval, Force, Repeat, {Playing, Position, 100, QString()})) {
         if (!Line.empty()) Line += ", ";
-        if (Each.What == SoundAction::Kind::SetPosition)
-            Line += "to " + QString::number(Each.Position).toStdString();
-        else if (Each.What == SoundAction::Kind::Play)
-            Line += Each.Repeat ? "play again and again" : "play";
+        if (const auto* Move = std::get_if<SoundDo::SetPosition>(&Each))
+            Line += "to " + QString::number(Move->Seconds).toStdString();
+        else if (const auto* Start = std::get_if<SoundDo::Play>(&Each))
+            Line += Start->Repeat ? "play again and again" : "play";
         else
             Line += "?";
     }

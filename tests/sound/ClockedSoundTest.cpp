@@ -33,7 +33,8 @@ class ClockedSound : public ::testing::Test {
 
     StillClock Time;
     std::vector<SoundEvent> Events;
-    ClockedSoundDevices Devices{[](const QString& Path) {
+    ClockedSoundDevices Devices{Time,
+                                [](const QString& Path) {
                                     if (Path.contains(u"bad"))
                                         throw Fault(QStringLiteral("No sound."), Path);
                                     return 12.5;

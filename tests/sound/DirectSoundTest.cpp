@@ -81,9 +81,6 @@ class LoggedDevices : public SoundDevices, public Machine {
 
 class DirectSound : public ::testing::Test {
   protected:
-    DirectSound() : mBefore(TheServices().Sound) { TheServices().Sound = &Devices; }
-    ~DirectSound() override { TheServices().Sound = mBefore; }
-
     void Load() {
         ASSERT_TRUE(Sound.LoadFile(QStringLiteral("a.mp3")));
         Devices.Calls.clear();
@@ -95,10 +92,7 @@ class DirectSound : public ::testing::Test {
     }
 
     LoggedDevices Devices;
-    clsDirectSound Sound;
-
-  private:
-    SoundDevices* mBefore;
+    clsDirectSound Sound{&Devices};
 };
 
 TEST_F(DirectSound, AFileIsRenderedAndNotPlayed) {
@@ -140,10 +134,12 @@ TEST_F(DirectSound, AFailedLoadKeepsThePathAndHasNothingLoaded) {
 TEST_F(DirectSound, AMachineThatMakesNoGraphFailsTheLoad) {
     Devices.Failing << QStringLiteral("Create");
     EXPECT_FALSE(Sound.LoadFile(QStringLiteral("a.mp3")));
-    TheServices().Sound = nullptr;
-    EXPECT_FALSE(Sound.LoadFile(QStringLiteral("b.mp3")));
-    EXPECT_EQ(Sound.SoundFile(), QStringLiteral("b.mp3"));
-    EXPECT_FALSE(Sound.IsPlaying());
+    clsDirectSound Silent(nullptr);
+    for (clsDirectSound* Each : {&Sound, &Silent}) {
+        EXPECT_FALSE(Each->LoadFile(QStringLiteral("b.mp3")));
+        EXPECT_EQ(Each->SoundFile(), QStringLiteral("b.mp3"));
+        EXPECT_FALSE(Each->IsPlaying());
+    }
 }
 
 TEST_F(DirectSound, WithNoFileReadingIsNothingAndWritingIsSilent) {
@@ -306,7 +302,7 @@ TEST_F(DirectSound, UnloadReleasesAndForgets) {
 
 TEST_F(DirectSound, TheEndOfTheObjectReleasesTheFile) {
     {
-        clsDirectSound Short;
+        clsDirectSound Short(&Devices);
         Short.LoadFile(QStringLiteral("a.mp3"));
         Devices.Calls.clear();
     }
@@ -315,7 +311,7 @@ TEST_F(DirectSound, TheEndOfTheObjectReleasesTheFile) {
 
 TEST_F(DirectSound, TheDevicesAreHeldFromTheFirstFileToTheEnd) {
     {
-        clsDirectSound Show;
+        clsDirectSound Show(&Devices);
         EXPECT_EQ(1, Devices.Held.use_count());
         Show.LoadAhead(QStringLiteral("a.mp3"));
         EXPECT_EQ(2, Devices.Held.use_count());
@@ -329,8 +325,7 @@ TEST_F(DirectSound, TheDevicesAreHeldFromTheFirstFileToTheEnd) {
 TEST_F(DirectSound, AFileIsOpenedAheadWhereThereIsAMachine) {
     Sound.LoadAhead(QStringLiteral("next.mp3"));
     EXPECT_EQ(Devices.Taken(), "Ahead next.mp3");
-    TheServices().Sound = nullptr;
-    Sound.LoadAhead(QStringLiteral("next.mp3"));
+    clsDirectSound(nullptr).LoadAhead(QStringLiteral("next.mp3"));
     EXPECT_EQ(Devices.Taken(), "");
 }
 

@@ -33,7 +33,7 @@ class SoundRecorder : public RecorderRig {
 };
 
 TEST_F(SoundRecorder, WithoutSoundAtAllIsNotSupported) {
-    TheServices().Sound = nullptr;
+    mEngine = std::make_unique<clsDirectSound>(nullptr);
     EXPECT_FALSE(Supported());
     EXPECT_EQ(LastError(), "Unable to initialize DirectX 8.");
 }
@@ -282,13 +282,9 @@ TEST_F(SoundRecorder, AFileInNoFolderIsAFault) {
 }
 
 TEST_F(SoundRecorder, TheVolumeIsFrom1To100AndChangesNothing) {
-    mEngine->SetRecorderVolume(1);
-    mEngine->SetRecorderVolume(100);
-    EXPECT_EQ(mBoxes.ShownCount(), 0);
-    for (const int Wrong : {0, 101, -5}) {
-        mBoxes.Expect("Volume must be >0 and <=100", {}, BoxIcon::Plain, BoxAnswer::Ok);
-        mEngine->SetRecorderVolume(Wrong);
-    }
+    for (const int Right : {1, 50, 100}) EXPECT_EQ(mEngine->SetRecorderVolume(Right), u"");
+    for (const int Wrong : {0, 101, -5})
+        EXPECT_EQ(mEngine->SetRecorderVolume(Wrong), u"Volume must be >0 and <=100") << Wrong;
     ASSERT_TRUE(Supported());
     mEngine->SetRecorderVolume(3);
     Record(Speech(100));

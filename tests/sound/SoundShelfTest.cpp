@@ -15,23 +15,37 @@ using namespace neb::tests;
 
 namespace {
 
-// How many files of a folder this process has open.
-int OpenFiles(const harness::TempFolder& Folder) {
+// How many files this process has open whose paths begin so.
+int OpenFiles(const QString& Path) {
     int Count = 0;
     for (int Number = 0; Number < 256; ++Number) {
         char Target[4096];
         const auto Place = "/proc/self/fd/" + std::to_string(Number);
         const ssize_t Length = readlink(Place.c_str(), Target, sizeof Target);
-        if (Length > 0) Count += QString::fromUtf8(Target, Length).startsWith(Folder.Path());
+        if (Length > 0) Count += QString::fromUtf8(Target, Length).startsWith(Path);
     }
     return Count;
 }
 
-bool WaitForOpenFiles(const harness::TempFolder& Folder, int Count) {
+int OpenFiles(const harness::TempFolder& Folder) {
+    return OpenFiles(Folder.Path());
+}
+
+bool WaitForOpenFiles(const QString& Path, int Count) {
     QElapsedTimer Time;
     for (Time.start(); Time.elapsed() < 5000; QThread::msleep(1))
-        if (OpenFiles(Folder) == Count) return true;
+        if (OpenFiles(Path) == Count) return true;
     return false;
+}
+
+bool WaitForOpenFiles(const harness::TempFolder& Folder, int Count) {
+    return WaitForOpenFiles(Folder.Path(), Count);
+}
+
+// A song that takes a while to be opened: all of it is read for its length.
+QString MakeLongSong(const harness::TempFolder& Folder, const QString& Name) {
+    WriteFile(Folder / Name, ReadFile(SoundFile("cbr.mp3")).repeated(1000));
+    return Folder / Name;
 }
 
 QString MakeTone(const harness::TempFolder& Folder, int Number, qint64 Frames = 100) {
@@ -173,14 +187,29 @@ TEST(SoundShelf, OtherDecodersAreNotKept) {
     EXPECT_EQ(0, OpenFiles(Folder));
 }
 
-TEST(SoundShelf, ItGoesWhileItWorks) {
+TEST(SoundShelf, ItGoesOnceTheFileIsReadThatItIsBusyWithAndOpensNoOther) {
     const harness::TempFolder Folder;
-    for (int I = 0; I < 50; ++I) {
-        SoundShelf Shelf;
-        Shelf.Prepare(SoundFile("cbr.mp3"));
-        Shelf.Prepare(SoundFile("vbr.mp3"));
-        if (I % 2) QThread::usleep(200);
+    const QString Long = MakeLongSong(Folder, QStringLiteral("long.mp3"));
+    const QString Next = MakeLongSong(Folder, QStringLiteral("next.mp3"));
+    bool WasBusy = false;
+    for (int Try = 0; Try < 20 && !WasBusy; ++Try) {
+        auto Shelf = std::make_unique<SoundShelf>();
+        Shelf->Prepare(Long);
+        Shelf->Prepare(Next);
+        ASSERT_TRUE(WaitForOpenFiles(Long, 1));
+        std::atomic<int> LeftOpen = -1;
+        std::thread End([&] {
+            Shelf.reset();
+            LeftOpen = OpenFiles(Folder);
+        });
+        for (; LeftOpen < 0; QThread::msleep(1)) {
+            WasBusy |= OpenFiles(Long) == 1;
+            EXPECT_EQ(0, OpenFiles(Next)) << "that had not begun";
+        }
+        End.join();
+        EXPECT_EQ(0, LeftOpen) << "it does not wait for its thread";
     }
+    EXPECT_TRUE(WasBusy) << "there was never anything to wait for";
 }
 
 TEST(SoundShelf, ManyThreadsMayUseIt) {

@@ -2,10 +2,8 @@
 
 #include "db/clsDBEngine.h"
 #include "pictures/formats/PictureDecoder.h"
-#include "settings/modNEBSlideShow.h"
 #include "show/CaptionText.h"
 #include "show/EngineSound.h"
-#include "show/ShowMemory.h"
 #include "sound/decoding/SoundDecoder.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
@@ -15,30 +13,23 @@ namespace neb {
 // The player's own steps, and the rehearsal hears of each slide.
 class Rehearsal::SoundSteps : public EngineSound {
   public:
-    explicit SoundSteps(Rehearsal& Owner) : mOwner(Owner) {}
+    // What it tells needs no answer: it is written down.
+    explicit SoundSteps(Rehearsal& Owner)
+        : EngineSound(&Owner.mEngine, &Owner.mSound.Devices(),
+                      [&Owner](const QString& Message) {
+                          Owner.NoteBox(RehearsalBoxFrom::Sound, Message);
+                      }),
+          mOwner(Owner) {}
     void CheckRepeat() override {
         mOwner.mSound.SetWatchingRepeat(true);
         EngineSound::CheckRepeat();
         mOwner.mSound.SetWatchingRepeat(false);
     }
-    bool SoundStep(const SlideSound& Slide, ShowSoundFields& Fields) override {
+    bool SoundStep(const SlideSound& Slide, StepCause Cause, ShowSoundFields& Fields) override {
         if (!mOwner.SlideComesUp(Slide)) return false;
-        const bool WatchRepeat = EngineSound::SoundStep(Slide, Fields);
+        const bool WatchRepeat = EngineSound::SoundStep(Slide, Cause, Fields);
         mOwner.SlideIsUp(Slide, Fields);
         return WatchRepeat;
-    }
-
-  private:
-    Rehearsal& mOwner;
-};
-
-// Boxes are answered at once and written down.
-class Rehearsal::BoxLog : public MessageBoxes {
-  public:
-    explicit BoxLog(Rehearsal& Owner) : mOwner(Owner) {}
-    BoxAnswer Show(const BoxRequest& Request) override {
-        mOwner.NoteBox(RehearsalBoxFrom::Sound, Request.Text);
-        return Request.Buttons == BoxButtons::Ok ? BoxAnswer::Ok : BoxAnswer::No;
     }
 
   private:
@@ -63,13 +54,13 @@ Rehearsal::Rehearsal(clsDBEngine& Engine, std::int32_t AlbumID, std::int32_t Sli
                      RehearsalOptions Options)
     : mOptions(std::move(Options)),
       mSound(mClock, mOptions.LengthOfSound, mLog),
-      mBoxes(std::make_unique<BoxLog>(*this)),
-      mWorld({Engine, mClock, *mBoxes, mSound.Devices(),
-              [this] { return std::make_unique<SoundSteps>(*this); }}),
-      mSlideShowID(SlideShowID),
-      mRun(*this) {
+      mEngine(Engine),
+      mRun(*this,
+           {&Engine, mClock,
+            [this](const ShowTeller&) { return std::make_unique<SoundSteps>(*this); }, mMemory}) {
     mRun.AlbumID = AlbumID;
-    mRun.Load(SlideShowID);
+    mRun.SlideShowID = SlideShowID;
+    mRun.Load();
 }
 
 Rehearsal::~Rehearsal() {
@@ -188,7 +179,7 @@ void Rehearsal::SlideIsUp(const SlideSound& Slide, const ShowSoundFields& Fields
     RehearsalCue& Cue = mLog.Cues.back();
     Cue.SlideInterval = Fields.SlideInterval;
     Cue.FitToSong = Fields.FitToSong;
-    mSound.SlideIsUp(SoundPathOf(Slide, DBEngine->DBPath()));
+    mSound.SlideIsUp(SoundPathOf(Slide, mEngine.DBPath()));
 }
 
 void Rehearsal::NoteBox(RehearsalBoxFrom From, const QString& Text) {
@@ -196,9 +187,9 @@ void Rehearsal::NoteBox(RehearsalBoxFrom From, const QString& Text) {
 }
 
 std::int32_t Rehearsal::PlaceOnItsWay() const {
-    const clsNEBAlbum* Album = DBEngine->GetAlbum(mRun.AlbumID);
-    const clsNEBSlideShow* SlideShow = Album ? Album->GetSlideShow(mSlideShowID) : nullptr;
-    return SlideShow ? ChooseDetail(*SlideShow, CurrentSlideSeq).Number : 0;
+    const clsNEBAlbum* Album = mEngine.GetAlbum(mRun.AlbumID);
+    const clsNEBSlideShow* SlideShow = Album ? Album->GetSlideShow(mRun.SlideShowID) : nullptr;
+    return SlideShow ? ChooseDetail(*SlideShow, mMemory.CurrentSlideSeq).Number : 0;
 }
 
 }  // namespace neb

@@ -9,7 +9,6 @@
 
 #include "show/ShowRun.h"
 #include "show/rehearsal/RehearsalSound.h"
-#include "show/rehearsal/RehearsalWorld.h"
 
 namespace neb {
 
@@ -31,8 +30,7 @@ enum class RehearsalEnd {
 };
 constexpr double LongestRehearsal = 7 * 86400;  // seconds
 
-// While one lives, its clock, boxes, sound and database stand in for the program's; afterwards all
-// is as it was before. One at a time.
+// It lives in a world of its own: what the program shows and plays meanwhile is not touched.
 class Rehearsal : private ShowStage {
   public:
     Rehearsal(clsDBEngine& Engine, std::int32_t AlbumID, std::int32_t SlideShowID,
@@ -52,7 +50,8 @@ class Rehearsal : private ShowStage {
     // For the user's steps between the runs.
     ShowRun& Run() { return mRun; }
 
-    double Now() const { return mClock.Seconds(); }  // since the start
+    double SlideTimeout() const { return mMemory.SlideTimeout; }  // seconds, as the settings say
+    double Now() const { return mClock.Seconds(); }               // since the start
     bool Timer1On() const { return mTimers[0].On; }
     bool Timer2On() const { return mTimers[1].On; }
     const RehearsalLog& Log() const { return mLog; }
@@ -69,7 +68,6 @@ class Rehearsal : private ShowStage {
         int Started = 0;  // the order of starting settles what falls due at once
     };
     class SoundSteps;
-    class BoxLog;
 
     void ShowCaption(const QString& Text) override { mNext.Caption = Text; }
     bool ShowPicture(const QString& Path, const EffectChoice& Choice) override;
@@ -95,8 +93,7 @@ class Rehearsal : private ShowStage {
     RehearsalClock mClock;
     RehearsalLog mLog;
     RehearsalSound mSound;
-    std::unique_ptr<BoxLog> mBoxes;
-    RehearsalWorld mWorld;
+    ShowMemory mMemory;
     std::array<Ticking, 2> mTimers{{{100, &ShowRun::Timer1_Timer}, {1000, &ShowRun::Timer2_Timer}}};
     int mStarts = 0;
     RehearsalCue mNext;    // the slide that is on its way
@@ -104,7 +101,7 @@ class Rehearsal : private ShowStage {
     int mEffectDelay = 0, mEffectStep = 100;
     qint64 mPressed = 0;  // milliseconds, when the next slide was asked for
     bool mOneRound = false, mRoundIsOver = false;
-    const std::int32_t mSlideShowID;
+    clsDBEngine& mEngine;
     ShowRun mRun;
 };
 

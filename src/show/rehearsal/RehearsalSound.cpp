@@ -1,5 +1,7 @@
 #include "show/rehearsal/RehearsalSound.h"
 
+#include <algorithm>
+
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
 
@@ -11,9 +13,19 @@ using Noted = RehearsalSoundKind;
 
 constexpr double HundredthsAPercent = 25;
 
-// In the order of SoundEvent::Kind.
-constexpr Noted Names[] = {Noted::Loaded,  Noted::Loaded, Noted::Playing, Noted::Paused,
-                           Noted::Stopped, Noted::Moved,  Noted::Volume,  Noted::Released};
+// As what an event is noted; opening ahead is not.
+constexpr std::pair<Heard, Noted> Names[] = {
+    {Heard::Loaded, Noted::Loaded},     {Heard::Run, Noted::Playing},
+    {Heard::Paused, Noted::Paused},     {Heard::Stopped, Noted::Stopped},
+    {Heard::Moved, Noted::Moved},       {Heard::Volume, Noted::Volume},
+    {Heard::Released, Noted::Released},
+};
+
+Noted NameOf(Heard Event) {
+    return std::find_if(std::begin(Names), std::end(Names),
+                        [=](const auto& Row) { return Row.first == Event; })
+        ->second;
+}
 
 int VolumeOf(int Hundredths) {
     return qRound(100 + Hundredths / HundredthsAPercent);
@@ -26,8 +38,9 @@ RehearsalSound::RehearsalSound(const RehearsalClock& Clock, ClockedSoundDevices:
     : mClock(Clock),
       mLength(std::move(Length)),
       mLog(Log),
-      mDevices([this](const QString& Path) { return Measure(Path); },
-               [this](const SoundEvent& Event) { Hear(Event); }) {}
+      mDevices(
+          Clock, [this](const QString& Path) { return Measure(Path); },
+          [this](const SoundEvent& Event) { Hear(Event); }) {}
 
 double RehearsalSound::Measure(const QString& Path) {
     mNow = {mClock.Seconds(), Noted::Failed, Path};
@@ -59,7 +72,7 @@ void RehearsalSound::Hear(const SoundEvent& Event) {
     const int Before = mNow.Volume;
     TakeState(Event);
     if (Event.What != Heard::Volume || mNow.Volume != Before)
-        Note(Names[static_cast<size_t>(Event.What)], mClock.Seconds());
+        Note(NameOf(Event.What), mClock.Seconds());
     if (CueSound* Sound = Sounding()) {
         Sound->Volume = std::max(Sound->Volume, mNow.Volume);
         Sound->EndVolume = mNow.Volume;

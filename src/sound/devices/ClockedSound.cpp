@@ -10,14 +10,11 @@ namespace {
 
 using Kind = SoundEvent::Kind;
 
-double Ticks() {
-    return TheServices().Time->Ticks();
-}
-
 class ClockedGraph : public SoundGraph {
   public:
-    ClockedGraph(ClockedSoundDevices::LengthOf Length, ClockedSoundDevices::Listener OnEvent)
-        : mLength(std::move(Length)), mOnEvent(std::move(OnEvent)) {}
+    ClockedGraph(const Clock& Time, ClockedSoundDevices::LengthOf Length,
+                 ClockedSoundDevices::Listener OnEvent)
+        : mTime(Time), mLength(std::move(Length)), mOnEvent(std::move(OnEvent)) {}
     ~ClockedGraph() override {
         if (!mPath.isEmpty()) Report(Kind::Released);
     }
@@ -36,10 +33,12 @@ class ClockedGraph : public SoundGraph {
     void PutCurrentPosition(double Seconds) override;
 
   private:
+    double Ticks() const { return mTime.Ticks(); }
     void StandAt(double Seconds);
     void Enter(bool Running, Kind What);
     void Report(Kind What) const;
 
+    const Clock& mTime;
     ClockedSoundDevices::LengthOf mLength;
     ClockedSoundDevices::Listener mOnEvent;
     QString mPath;
@@ -91,15 +90,15 @@ void ClockedGraph::Report(Kind What) const {
 
 }  // namespace
 
-ClockedSoundDevices::ClockedSoundDevices(LengthOf Length, Listener OnEvent)
-    : mLength(std::move(Length)), mOnEvent(std::move(OnEvent)) {}
+ClockedSoundDevices::ClockedSoundDevices(const Clock& Time, LengthOf Length, Listener OnEvent)
+    : mTime(Time), mLength(std::move(Length)), mOnEvent(std::move(OnEvent)) {}
 
 std::unique_ptr<SoundGraph> ClockedSoundDevices::CreateGraph() {
-    return std::make_unique<ClockedGraph>(mLength, mOnEvent);
+    return std::make_unique<ClockedGraph>(mTime, mLength, mOnEvent);
 }
 
 void ClockedSoundDevices::LoadAhead(const QString& Path) {
-    if (mOnEvent) mOnEvent({Kind::LoadedAhead, Path, 0, 0, Ticks()});
+    if (mOnEvent) mOnEvent({Kind::LoadedAhead, Path, 0, 0, mTime.Ticks()});
 }
 
 }  // namespace neb

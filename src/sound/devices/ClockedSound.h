@@ -1,4 +1,4 @@
-// Sound that runs on the program's clock without making any: lengths, positions and states are
+// Sound that runs on a clock without making any: lengths, positions and states are
 // those that a listener would get. For rehearsals of a show, which tell what sounds when, and
 // tests.
 #pragma once
@@ -16,8 +16,10 @@ struct SoundEvent {
     QString Path;         // of the file that is loaded
     double Position = 0;  // seconds: where the sound stands then
     int Hundredths = 0;   // of a decibel: the volume then
-    double Ticks = 0;     // milliseconds of the program's clock
+    double Ticks = 0;     // milliseconds of the clock
 };
+
+class Clock;
 
 class ClockedSoundDevices : public SoundDevices {
   public:
@@ -26,8 +28,8 @@ class ClockedSoundDevices : public SoundDevices {
     using Listener = std::function<void(const SoundEvent& Event)>;
 
     // OnEvent, when given, hears of everything; it may not throw. The players live on when the
-    // devices go.
-    explicit ClockedSoundDevices(LengthOf Length, Listener OnEvent = {});
+    // devices go, but not without the clock.
+    ClockedSoundDevices(const Clock& Time, LengthOf Length, Listener OnEvent = {});
 
     std::unique_ptr<SoundGraph> CreateGraph() override;
     void LoadAhead(const QString& Path) override;
@@ -38,6 +40,7 @@ class ClockedSoundDevices : public SoundDevices {
     }
 
   private:
+    const Clock& mTime;
     LengthOf mLength;
     Listener mOnEvent;
 };

@@ -73,12 +73,15 @@ frmSoundRecorder::frmSoundRecorder()
     connect(mUi->cmdPlay, &QPushButton::clicked, this, [this] { Run(cmdPlay); });
     connect(mUi->cmdStop, &QPushButton::clicked, this, [this] { Run(cmdStop); });
     connect(mUi->cmdSave, &QPushButton::clicked, this, &frmSoundRecorder::Save);
-    connect(mUi->sdrVolume, &QSlider::valueChanged, this, [this](int Value) {
-        if (mSound) mSound->SetRecorderVolume(Value);
-    });
+    connect(mUi->sdrVolume, &QSlider::valueChanged, this, &frmSoundRecorder::SetVolume);
 }
 
 frmSoundRecorder::~frmSoundRecorder() = default;
+
+void frmSoundRecorder::SetVolume(int Value) {
+    const QString Refusal = mSound ? mSound->SetRecorderVolume(Value) : QString();
+    if (!Refusal.isEmpty()) MsgBox(Refusal);
+}
 
 void frmSoundRecorder::Form_Load() {
     mSound = std::make_unique<clsDirectSound>();
@@ -103,14 +106,14 @@ void frmSoundRecorder::Run(unsigned Pressed) {
     if (!mSound) return;
     const auto Chosen =
         std::find_if(std::begin(Commands), std::end(Commands), [&](const auto& Row) {
-            return Row.Pressed == Pressed && mRecorderMode == QLatin1String(Row.In);
+            return Row.Pressed == Pressed && mClip.Mode == QLatin1String(Row.In);
         });
     if (Chosen == std::end(Commands)) return;
     Chosen->Engine(*mSound);
     mRefusal = mSound->LastError();
-    if (Pressed == cmdStop && mRecorderMode == QLatin1String(Recording))
-        mRecordedSeconds = mSound->RecorderSeconds();
-    mRecorderMode = QString::fromLatin1(Chosen->RecorderMode);
+    if (Pressed == cmdStop && mClip.Mode == QLatin1String(Recording))
+        mClip.Seconds = mSound->RecorderSeconds();
+    mClip.Mode = QString::fromLatin1(Chosen->RecorderMode);
     Enable(Chosen->On);
     if (Chosen->StartsTimer1) Timer1->start();
     StartProgress();
@@ -131,8 +134,8 @@ void frmSoundRecorder::Enable(unsigned On) {
 void frmSoundRecorder::StartProgress() {
     mUi->lvlSound->Clear();
     ShowProgress();
-    mStillSteps = 0;
-    if (mRecorderMode.isEmpty())
+    mProgress.StillSteps = 0;
+    if (mClip.Mode.isEmpty())
         tmrMeter->stop();
     else
         tmrMeter->start();
@@ -141,8 +144,8 @@ void frmSoundRecorder::StartProgress() {
 // A file that cannot be written leaves the window, and the recording in it, as they are.
 void frmSoundRecorder::Save() {
     if (!mSound) return;
-    mSound->RecorderSaveToFile(mSoundSavePath);
-    mSoundRecorded = true;
+    mSound->RecorderSaveToFile(mClip.SavePath);
+    mClip.IsSaved = true;
     Unload();
 }
 
@@ -156,30 +159,30 @@ void frmSoundRecorder::Tick() {
 // have none.
 void frmSoundRecorder::ShowProgress() {
     const double Seconds = mSound->RecorderSeconds();
-    const bool Moves = std::exchange(mShownSeconds, Seconds) != Seconds;
-    mStillSteps = Moves ? 0 : mStillSteps + 1;
+    const bool Moves = std::exchange(mProgress.Seconds, Seconds) != Seconds;
+    mProgress.StillSteps = Moves ? 0 : mProgress.StillSteps + 1;
     mUi->lvlSound->SetLevel(Moves ? mSound->RecorderLevel() : 0);
     mUi->lblStatus->setText(mRefusal.isEmpty() ? StatusText() : mRefusal);
     mUi->lblTime->setText(TimeText());
 }
 
 QString frmSoundRecorder::StatusText() const {
-    if (mRecorderMode == QLatin1String(Playing)) return tr("Playing");
-    if (mRecorderMode.isEmpty()) return IdleText();
-    if (mShownSeconds >= MostSeconds) return tr("Recording: the 20 seconds are full.");
-    return mStillSteps > StillSteps ? tr("Waiting for the microphone") : tr("Recording");
+    if (mClip.Mode == QLatin1String(Playing)) return tr("Playing");
+    if (mClip.Mode.isEmpty()) return IdleText();
+    if (mProgress.Seconds >= MostSeconds) return tr("Recording: the 20 seconds are full.");
+    return mProgress.StillSteps > StillSteps ? tr("Waiting for the microphone") : tr("Recording");
 }
 
 QString frmSoundRecorder::IdleText() const {
     if (!mUi->cmdPlay->isEnabled()) return tr("Press Record and speak.");
-    return mRecordedSeconds > 0 ? tr("Recorded") : tr("Nothing was recorded.");
+    return mClip.Seconds > 0 ? tr("Recorded") : tr("Nothing was recorded.");
 }
 
 QString frmSoundRecorder::TimeText() const {
-    const bool Ended = mRecorderMode.isEmpty() && mUi->cmdPlay->isEnabled();
-    if (Ended) return Minutes(mRecordedSeconds);
-    const double Whole = mRecorderMode == QLatin1String(Playing) ? mRecordedSeconds : MostSeconds;
-    return tr("%1 of %2").arg(Minutes(mShownSeconds), Minutes(Whole));
+    const bool Ended = mClip.Mode.isEmpty() && mUi->cmdPlay->isEnabled();
+    if (Ended) return Minutes(mClip.Seconds);
+    const double Whole = mClip.Mode == QLatin1String(Playing) ? mClip.Seconds : MostSeconds;
+    return tr("%1 of %2").arg(Minutes(mProgress.Seconds), Minutes(Whole));
 }
 
 void frmSoundRecorder::changeEvent(QEvent* Event) {

@@ -19,10 +19,10 @@ class frmSoundRecorder : public Form {
     frmSoundRecorder();
     ~frmSoundRecorder() override;
 
-    void SetSoundSavePath(const QString& Path) { mSoundSavePath = Path; }
+    void SetSoundSavePath(const QString& Path) { mClip.SavePath = Path; }
     // True once the user has pressed Save and the file could be written.
-    bool SoundRecorded() const { return mSoundRecorded; }
-    const QString& RecorderMode() const { return mRecorderMode; }  // "Recording", "Playing" or ""
+    bool SoundRecorded() const { return mClip.IsSaved; }
+    const QString& RecorderMode() const { return mClip.Mode; }  // "Recording", "Playing" or ""
 
   protected:
     void Form_Load() override;
@@ -30,6 +30,20 @@ class frmSoundRecorder : public Form {
     void changeEvent(QEvent* Event) override;
 
   private:
+    // What the window is about.
+    struct ClipInHand {
+        QString SavePath;
+        QString Mode;        // as RecorderMode
+        double Seconds = 0;  // of the last recording
+        bool IsSaved = false;
+    };
+    // Of what runs.
+    struct Progress {
+        double Seconds = 0;  // as last shown
+        int StillSteps = 0;  // of the meter since they last changed
+    };
+
+    void SetVolume(int Value);
     void Run(unsigned Pressed);
     void Enable(unsigned On);
     void StartProgress();
@@ -46,13 +60,9 @@ class frmSoundRecorder : public Form {
     std::unique_ptr<clsDirectSound> mSound;
     QTimer* Timer1;
     QTimer* tmrMeter;
-    QString mSoundSavePath;
-    QString mRecorderMode;
-    QString mRefusal;             // of the last command
-    double mRecordedSeconds = 0;  // of the last recording
-    double mShownSeconds = 0;     // of what runs, as last shown
-    int mStillSteps = 0;          // of the meter since they last changed
-    bool mSoundRecorded = false;
+    ClipInHand mClip;
+    Progress mProgress;
+    QString mRefusal;  // of the last command
 };
 
 }  // namespace neb

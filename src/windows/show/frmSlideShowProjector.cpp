@@ -7,11 +7,11 @@
 #include "controls/forms/modTwips.h"
 #include "controls/picture/XShow.h"
 #include "settings/modNEBSlideShow.h"
-#include "show/ShowBox.h"
 #include "show/ShowSettings.h"
 #include "support/Fault.h"
 #include "ui_frmSlideShowProjector.h"
 #include "windows/show/ProgramScreen.h"
+#include "windows/show/ShowBox.h"
 #include "windows/show/frmPopup.h"
 #include "windows/show/modSlideShows.h"
 
@@ -62,9 +62,9 @@ struct HourglassUntilEnd {
 
 }  // namespace
 
-frmSlideShowProjector::frmSlideShowProjector()
+frmSlideShowProjector::frmSlideShowProjector(ShowWorld World)
     : mUi(std::make_unique<Ui::frmSlideShowProjector>()),
-      mRun(*this),
+      mRun(*this, std::move(World)),
       Timer1(new QTimer(this)),
       Timer2(new QTimer(this)) {
     mUi->setupUi(this);
@@ -98,14 +98,13 @@ void frmSlideShowProjector::PrepareControls() {
 }
 
 void frmSlideShowProjector::LoadSlideShow(std::int32_t SlideShowID) {
-    mSlideShowID = SlideShowID;
+    mRun.SlideShowID = SlideShowID;
     ShowModal();
     if (mSaveFault) std::rethrow_exception(std::exchange(mSaveFault, nullptr));
 }
 
 void frmSlideShowProjector::Form_Load() {
-    mRun.AlbumID = AlbumID;
-    mRun.Load(mSlideShowID);
+    mRun.Load();
     mScreenStaysOn.emplace(tr("A slide show is running"));
     FillScreen();
     DoEvents();
@@ -114,8 +113,7 @@ void frmSlideShowProjector::Form_Load() {
 }
 
 void frmSlideShowProjector::Form_Activate() {
-    if (mStarted) return;
-    mStarted = true;
+    if (!State().PlayCommand.isEmpty()) return;  // it has begun
     activateWindow();  // the keys are the show's, with or without a window manager
     PlayPause();
 }
@@ -140,7 +138,7 @@ bool frmSlideShowProjector::Form_Unload() {
 // The window must close even when the place cannot be kept; the opener hears of it afterwards.
 void frmSlideShowProjector::SaveNextSlideSeq() {
     try {
-        neb::SaveNextSlideSeq(CurrentSlideSeq);
+        neb::SaveNextSlideSeq(mRun.Memory().CurrentSlideSeq);
     } catch (const Fault&) {
         mSaveFault = std::current_exception();
     }
@@ -205,7 +203,7 @@ void frmSlideShowProjector::ReStartMe() {
 void frmSlideShowProjector::ShowPopupMenu() {
     const auto Held = shared_from_this();
     auto Popup = NewForm<frmPopup>();
-    Popup->SetEntries(State(), mRun.IsManual(), CurrentSlideSeq != 0);
+    Popup->SetEntries(State(), mRun.IsManual(), mRun.Memory().CurrentSlideSeq != 0);
     if (ReadOnlyDB) Popup->mnuPreferences->setEnabled(false);
     Popup->PopupMenu(QCursor::pos());
     const QString Word = Popup->SelectedCommand().toUpper();

@@ -20,11 +20,12 @@ class frmSlideShowProjector : public Form, private ShowStage {
     Q_OBJECT
 
   public:
-    frmSlideShowProjector();
+    explicit frmSlideShowProjector(ShowWorld World = DesktopShowWorld());
     ~frmSlideShowProjector() override;
 
-    std::int32_t AlbumID = 0;  // set before LoadSlideShow
-    QString AlbumName;
+    // Both before LoadSlideShow.
+    void SetAlbumID(std::int32_t ID) { mRun.AlbumID = ID; }
+    void SetAlbumName(const QString& Name) { mAlbumName = Name; }
     // Shows the window modally; returns when it has closed. Throws Fault when the first slide or
     // the saving of the place failed.
     void LoadSlideShow(std::int32_t SlideShowID);
@@ -79,8 +80,7 @@ class frmSlideShowProjector : public Form, private ShowStage {
     std::unique_ptr<Ui::frmSlideShowProjector> mUi;
     std::optional<BlankingHold> mScreenStaysOn;
     ShowRun mRun;
-    std::int32_t mSlideShowID = 0;
-    bool mStarted = false;
+    QString mAlbumName;
     QTimer* Timer1;
     QTimer* Timer2;
     std::exception_ptr mSaveFault;

@@ -7,9 +7,14 @@
 namespace neb {
 
 void RunSlideShow(std::int32_t AlbumID, const QString& AlbumName, std::int32_t SlideShowID) {
-    const auto Projector = NewForm<frmSlideShowProjector>();
-    Projector->AlbumID = AlbumID;
-    Projector->AlbumName = AlbumName;
+    RunSlideShowIn(DesktopShowWorld(), AlbumID, AlbumName, SlideShowID);
+}
+
+void RunSlideShowIn(const ShowWorld& World, std::int32_t AlbumID, const QString& AlbumName,
+                    std::int32_t SlideShowID) {
+    const auto Projector = NewForm<frmSlideShowProjector>(World);
+    Projector->SetAlbumID(AlbumID);
+    Projector->SetAlbumName(AlbumName);
     try {
         Projector->LoadSlideShow(SlideShowID);
     } catch (const Fault&) {

@@ -8,8 +8,13 @@
 
 namespace neb {
 
+struct ShowWorld;
+
 // Runs a show on the full screen; returns when the user has left it. Faults are ignored.
 void RunSlideShow(std::int32_t AlbumID, const QString& AlbumName, std::int32_t SlideShowID);
+// The same in another world than the desktop's.
+void RunSlideShowIn(const ShowWorld& World, std::int32_t AlbumID, const QString& AlbumName,
+                    std::int32_t SlideShowID);
 
 // Shows preferences; SlideTimeout is then as they say. Faults are ignored.
 void EditSlideShowPreferences();

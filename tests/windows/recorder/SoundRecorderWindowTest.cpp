@@ -275,6 +275,18 @@ TEST_F(SoundRecorderWindow, TheVolumeIsKeptAndChangesNothing) {
     EXPECT_EQ(ReadFile(SavePath()).mid(44), Speech(300) + '\x80' + '\0');
 }
 
+TEST_F(SoundRecorderWindow, AVolumeThatIsNoneIsTold) {
+    Open([&] {
+        auto& Volume = In<QSlider>("sdrVolume");
+        QTest::keyClick(&Volume, Qt::Key_End);
+        EXPECT_EQ(0, mBoxes.ShownCount());
+        Volume.setMaximum(150);
+        mBoxes.Expect("Volume must be >0 and <=100", {}, BoxIcon::Plain, BoxAnswer::Ok);
+        QTest::keyClick(&Volume, Qt::Key_End);
+    });
+    EXPECT_EQ(1, mBoxes.ShownCount());
+}
+
 TEST_F(SoundRecorderWindow, AMicrophoneThatDoesNotBeginIsTold) {
     Open([&] {
         Press("cmdRecord");

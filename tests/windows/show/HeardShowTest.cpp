@@ -63,7 +63,7 @@ class HeardShow : public ProjectorRig {
         mDevices = std::make_unique<SdlSoundDevices>();
         TheServices().Sound = mDevices.get();
         TheServices().Time = mBefore.Time;
-        TheShowSoundMaker() = mMakerBefore;
+        Maker = DesktopShowWorld().Sound;
         Put("Timeout", QStringLiteral("1"));
         AddSlides(3);
     }

@@ -38,8 +38,10 @@ TEST_F(ProjectorEnd, StopsTheSoundAndTheTimers) {
 
 TEST_F(ProjectorEnd, ShowsTheHourglassOnlyWhileItEnds) {
     AddSlides(1);
-    Sound.OnRelease = [] { EXPECT_EQ(Pointer::Hourglass, ScreenPointer()); };
-    Run([&](Projector&) {});
+    std::vector<Pointer> WhileItEnds;
+    Sound.OnRelease = [&] { WhileItEnds.push_back(ScreenPointer()); };
+    Run([&](Projector&) { EXPECT_EQ(Pointer::Default, ScreenPointer()); });
+    EXPECT_EQ((std::vector{Pointer::Hourglass}), WhileItEnds);
     EXPECT_EQ(Pointer::Default, ScreenPointer());
 }
 
@@ -76,7 +78,7 @@ TEST_F(ProjectorEnd, ComesAfterAFaultInTheFirstSlide) {
     Sound.OnStep = [](const SlideSound&, ShowSoundFields&) -> bool {
         throw Fault(QStringLiteral("no sound device"));
     };
-    RunSlideShow(Album, QStringLiteral("Holiday"), Show);
+    RunSlideShowIn(World(), Album, QStringLiteral("Holiday"), Show);
     EXPECT_EQ(1, Blanking.Asked);
     EXPECT_EQ(0, Blanking.Held);
     EXPECT_EQ(Pointer::Default, ScreenPointer());
@@ -85,10 +87,10 @@ TEST_F(ProjectorEnd, ComesAfterAFaultInTheFirstSlide) {
 
 TEST_F(ProjectorEnd, ComesAfterAFaultWhileLoading) {
     AddSlides(1);
-    TheShowSoundMaker() = []() -> std::unique_ptr<ShowSound> {
+    Maker = [](const ShowTeller&) -> std::unique_ptr<ShowSound> {
         throw Fault(QStringLiteral("no sound at all"));
     };
-    RunSlideShow(Album, QStringLiteral("Holiday"), Show);
+    RunSlideShowIn(World(), Album, QStringLiteral("Holiday"), Show);
     EXPECT_EQ(0, Blanking.Held);
     EXPECT_TRUE(LoadedForms().empty());
 }

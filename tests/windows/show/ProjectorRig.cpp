@@ -10,6 +10,20 @@
 namespace neb::test {
 namespace {
 
+QString WordOf(StepCause Cause) {
+    switch (Cause) {
+        case StepCause::Start:
+            return QStringLiteral("at the start");
+        case StepCause::User:
+            return QStringLiteral("by the user");
+        case StepCause::Timer:
+            return QStringLiteral("in time");
+        case StepCause::Restart:
+            return QStringLiteral("again");
+    }
+    return {};
+}
+
 class LoggedSound : public ShowSound {
   public:
     explicit LoggedSound(SoundLog& Log) : mLog(Log) {}
@@ -23,14 +37,12 @@ class LoggedSound : public ShowSound {
     }
     void SetVolume(int Value) override { Note(QStringLiteral("Volume %1").arg(Value)); }
     void CheckRepeat() override { Note(QStringLiteral("CheckRepeat")); }
-    bool SoundStep(const SlideSound& Slide, ShowSoundFields& Fields) override {
-        Note(QStringLiteral("Step %1%2%3%4%5")
+    bool SoundStep(const SlideSound& Slide, StepCause Cause, ShowSoundFields& Fields) override {
+        Note(QStringLiteral("Step %1%2%3%4 %5")
                  .arg(Slide.SlideSeq)
                  .arg(Slide.SoundTrackLoc.isEmpty() ? QString() : u' ' + Slide.SoundTrackLoc,
                       Slide.Override ? QStringLiteral(" override") : QString(),
-                      Slide.Repeat ? QStringLiteral(" repeat") : QString(),
-                      Fields.Reposition ? QStringLiteral(" reposition") : QString()));
-        Fields.Reposition = false;
+                      Slide.Repeat ? QStringLiteral(" repeat") : QString(), WordOf(Cause)));
         return mLog.OnStep && mLog.OnStep(Slide, Fields);
     }
     void SyncSoundToSlide(std::int32_t Place, double Interval, bool Force,
@@ -51,10 +63,10 @@ QImage Decode(const QString& Path) {
 
 }  // namespace
 
-ProjectorRig::ProjectorRig() : mBefore(TheServices()), mMakerBefore(TheShowSoundMaker()) {
+ProjectorRig::ProjectorRig() : mBefore(TheServices()) {
     TheServices().Time = &Time;
     TheServices().Blanking = &Blanking;
-    TheShowSoundMaker() = [this] { return std::make_unique<LoggedSound>(Sound); };
+    Maker = [this](const ShowTeller&) { return std::make_unique<LoggedSound>(Sound); };
     XShow::SetReader([this](const QString& Path) {
         const QMutexLocker Lock(&mReadLock);
         mRead.push_back(Path);
@@ -84,9 +96,14 @@ ProjectorRig::~ProjectorRig() {
     AppPathCache.clear();
     DBPathCache.clear();
     DocumentsPath.clear();
-    TheShowSoundMaker() = mMakerBefore;
     TheServices().Time = mBefore.Time;
     TheServices().Blanking = mBefore.Blanking;
+}
+
+ShowWorld ProjectorRig::World() const {
+    ShowWorld Of = DesktopShowWorld();
+    Of.Sound = Maker;
+    return Of;
 }
 
 void ProjectorRig::Put(const char* Key, const QString& Value, const QString& Section) {
@@ -162,16 +179,16 @@ void ProjectorRig::WhenStarted(Action Do) {
 }
 
 void ProjectorRig::Run(Action Do) {
-    const auto Window = NewForm<frmSlideShowProjector>();
-    Window->AlbumID = Album;
-    Window->AlbumName = QStringLiteral("Holiday");
+    const auto Window = NewForm<frmSlideShowProjector>(World());
+    Window->SetAlbumID(Album);
+    Window->SetAlbumName(QStringLiteral("Holiday"));
     WhenStarted(std::move(Do));
     Window->LoadSlideShow(Show);
 }
 
 void ProjectorRig::RunThroughModule(Action Do) {
     WhenStarted(std::move(Do));
-    RunSlideShow(Album, QStringLiteral("Holiday"), Show);
+    RunSlideShowIn(World(), Album, QStringLiteral("Holiday"), Show);
 }
 
 std::string ProjectorRig::Timers() const {

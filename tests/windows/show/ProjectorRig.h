@@ -11,7 +11,7 @@
 #include "db/clsDBEngine.h"
 #include "harness/ScriptedBoxes.h"
 #include "harness/TempFolder.h"
-#include "show/ShowSound.h"
+#include "show/ShowWorld.h"
 #include "support/Services.h"
 #include "windows/show/CaptionLabel.h"
 #include "windows/show/frmSlideShowProjector.h"
@@ -69,7 +69,7 @@ class ProjectorRig : public ::testing::Test {
     // Runs the show; Action is called once it has started, and the window is unloaded after it.
     using Action = std::function<void(frmSlideShowProjector& Window)>;
     void Run(Action Do);
-    void RunThroughModule(Action Do);  // through RunSlideShow
+    void RunThroughModule(Action Do);  // as RunSlideShow does
     // Calls Do with the next projector that has started.
     void WhenStarted(Action Do);
 
@@ -86,6 +86,9 @@ class ProjectorRig : public ::testing::Test {
     CountedBlanking Blanking;
     SoundLog Sound;
     clsDBEngine Engine;
+    // What the shows of the test run in: the desktop's, but for the sound, which is logged.
+    ShowWorld World() const;
+    ShowSoundMaker Maker;
     std::int32_t Album = 0, Show = 0;
     clsNEBSlideShow* SlideShow = nullptr;
     // Of the running window.
@@ -95,7 +98,6 @@ class ProjectorRig : public ::testing::Test {
     QTimer* Timer2 = nullptr;
 
     Services mBefore;  // the machine's own, for tests that want them
-    ShowSoundMaker mMakerBefore;
 
   private:
     void Attach(frmSlideShowProjector& Window);

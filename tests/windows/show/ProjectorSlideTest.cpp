@@ -70,7 +70,7 @@ TEST_F(ProjectorStart, BeginsAtTheFirstSlideWhenThePlaceKeptIsBeyondTheLast) {
     Put("NextSlideSeq", QStringLiteral("40"));
     Run([&](Projector&) {
         EXPECT_EQ(1, CurrentSlideSeq);
-        EXPECT_EQ("Step 1 reposition", Sound.Taken());
+        EXPECT_EQ("Step 1 at the start", Sound.Taken());
     });
 }
 
@@ -92,9 +92,9 @@ TEST_F(ProjectorSlide, HandsTheSlidesOwnClipToTheSound) {
     Slide(1).Override = Slide(1).Repeat = true;
     Slide(2).Override = Slide(2).Repeat = true;
     Run([&](Projector& Window) {
-        EXPECT_EQ("Step 1 00000001.wav override repeat reposition", Sound.Taken());
+        EXPECT_EQ("Step 1 00000001.wav override repeat at the start", Sound.Taken());
         Window.NextSlide();
-        EXPECT_EQ("Step 2 reposition", Sound.Taken()) << "without a clip the flags are false";
+        EXPECT_EQ("Step 2 by the user", Sound.Taken()) << "without a clip the flags are false";
     });
 }
 
@@ -232,7 +232,7 @@ TEST_F(ProjectorFailure, StopsWithoutABoxWhenTheStandInIsMissingAsWell) {
     EXPECT_EQ(0, Boxes.ShownCount());
 }
 
-TEST_F(ProjectorFailure, AStepThatCameToNothingAsksForNoRepositioningLater) {
+TEST_F(ProjectorFailure, AStepThatCameToNothingIsNoCauseOfALaterOne) {
     AddSlides(2);
     DeleteFile(PicturePath(2));
     DeleteFile(AppPath() + QStringLiteral("NoSlide.bmp"));
@@ -241,7 +241,7 @@ TEST_F(ProjectorFailure, AStepThatCameToNothingAsksForNoRepositioningLater) {
         MakePicture(PicturePath(2), Qt::green);
         Sound.Taken();
         Window.StopRestart();
-        EXPECT_EQ("Play 0|Step 2", Sound.Taken());
+        EXPECT_EQ("Play 0|Step 2 again", Sound.Taken());
     });
 }
 
@@ -334,6 +334,23 @@ TEST_F(ProjectorFailure, KeepsTheClockGoingWhileItsBoxIsOpen) {
         Boxes.Expect(QStringLiteral("Slide #2 of the current slide show does not exist!"));
         Window.NextSlide();
         EXPECT_EQ("off off", Timers());
+    });
+}
+
+TEST_F(ProjectorFailure, IsOverWhenTheShowHasGoneOnBehindItsBox) {
+    AddSlides(3);
+    Run([&](Projector& Window) {
+        Detail(2).SlideID = 77;
+        Boxes.WhileNextIsOpen([&] {
+            Time.Seconds += 11;
+            Window.Timer1_Timer();
+            EXPECT_EQ("Slide 3", Caption());
+        });
+        Boxes.Expect(QStringLiteral("Slide #2 of the current slide show does not exist!"));
+        Window.NextSlide();
+        EXPECT_EQ("Pause/Stop", Words(Window)) << "a running show is not stopped for it";
+        EXPECT_EQ("on off", Timers());
+        EXPECT_EQ(3, CurrentSlideSeq);
     });
 }
 

@@ -21,7 +21,7 @@ TEST_F(ProjectorState, RunsAsSoonAsItIsActivated) {
         EXPECT_EQ("Slide 1", Caption());
         EXPECT_EQ("Lake", Window.SlideShowName().toStdString());
         EXPECT_EQ(PicturePath(1).toStdString(), Window.CurrentFile().toStdString());
-        EXPECT_EQ("Step 1 reposition", Sound.Taken());
+        EXPECT_EQ("Step 1 at the start", Sound.Taken());
     });
 }
 
@@ -62,7 +62,7 @@ TEST_F(ProjectorState, StopsAndShowsTheSameSlideAgain) {
         Window.StopRestart();
         EXPECT_EQ("Pause/Stop", Words(Window));
         EXPECT_EQ("on on", Timers());
-        EXPECT_EQ("Play 1|Step 2", Sound.Taken());
+        EXPECT_EQ("Play 1|Step 2 again", Sound.Taken());
         EXPECT_EQ(2, CurrentSlideSeq);
     });
 }
@@ -87,7 +87,7 @@ TEST_F(ProjectorState, PlayAfterAStopGoesBackToTheFirstSlide) {
         EXPECT_EQ(1, CurrentSlideSeq);
         EXPECT_EQ("Pause/Stop", Words(Window));
         EXPECT_EQ("on on", Timers());
-        EXPECT_EQ("Step 1 reposition", Sound.Taken());
+        EXPECT_EQ("Step 1 at the start", Sound.Taken());
     });
 }
 
@@ -173,12 +173,12 @@ TEST_F(ProjectorSteps, LeaveTheLoopCheckOffWhereNoTrackWantsIt) {
     });
 }
 
-TEST_F(ProjectorSteps, AskForTheRepositioningOfASound) {
+TEST_F(ProjectorSteps, TellTheSoundThatTheUserTookThem) {
     AddSlides(3);
     Run([&](Projector& Window) {
         Sound.Taken();
         Window.NextSlide();
-        EXPECT_EQ("Step 2 reposition", Sound.Taken());
+        EXPECT_EQ("Step 2 by the user", Sound.Taken());
     });
 }
 
@@ -192,9 +192,9 @@ TEST_F(ProjectorSteps, MoveAFittedTrackBeforeTheSlideComesUp) {
     Run([&](Projector& Window) {
         Sound.Taken();
         Window.GotoEnd();
-        EXPECT_EQ("Sync 4 2.5 1|Step 4 reposition", Sound.Taken());
+        EXPECT_EQ("Sync 4 2.5 1|Step 4 by the user", Sound.Taken());
         Window.PreviousSlide();
-        EXPECT_EQ("Sync 3 2.5 1|Step 3 reposition", Sound.Taken());
+        EXPECT_EQ("Sync 3 2.5 1|Step 3 by the user", Sound.Taken());
         EXPECT_EQ(2.5, Window.SlideInterval());
     });
 }
@@ -223,7 +223,7 @@ TEST_F(ProjectorTicks, BringTheNextSlideWhenTheTimeIsOver) {
         Time.Seconds += 0.1;
         Window.Timer1_Timer();
         EXPECT_EQ(2, CurrentSlideSeq);
-        EXPECT_EQ("Step 2", Sound.Taken()) << "no volume on this tick, and no repositioning";
+        EXPECT_EQ("Step 2 in time", Sound.Taken()) << "and no volume on this tick";
         EXPECT_EQ("on off", Timers());
         Time.Seconds += 4;
         Window.Timer1_Timer();
@@ -263,26 +263,30 @@ TEST_F(ProjectorTicks, GoOnOverMidnight) {
     });
 }
 
-// To the ticks it is midnight already; a start a moment after it is no day away.
-TEST_F(ProjectorTicks, KeepAFittedSlideThatIsDueAMomentAfterMidnight) {
-    AddSlides(3);
+// The slides of a fitted track keep to the music: the second is due where the first was over, not
+// where the tick came, be it over midnight.
+TEST_F(ProjectorTicks, KeepAFittedSlideDueByTheMusicOverMidnight) {
+    AddSlides(4);
     Sound.OnStep = [](const SlideSound&, ShowSoundFields& Fields) {
         Fields.FitToSong = true;
         return true;
     };
-    Time.Seconds = 86390.001;
+    Time.Seconds = 86385.95;
     Run([&](Projector& Window) {
-        Time.Seconds = 86399.999;
+        Time.Seconds = 86396;
         Window.Timer1_Timer();
         ASSERT_EQ(2, CurrentSlideSeq);
         Window.Timer1_Timer();
         EXPECT_EQ(2, CurrentSlideSeq);
-        Time.Seconds = 9.9;
+        Time.Seconds = 5.9;
         Window.Timer1_Timer();
         EXPECT_EQ(2, CurrentSlideSeq);
-        Time.Seconds = 10.1;
+        Time.Seconds = 5.95;
         Window.Timer1_Timer();
         EXPECT_EQ(3, CurrentSlideSeq);
+        Time.Seconds = 15.95;
+        Window.Timer1_Timer();
+        EXPECT_EQ(4, CurrentSlideSeq);
     });
 }
 
@@ -311,6 +315,30 @@ TEST_F(ProjectorTicks, LeaveASlideItsTimeThatCameUpBehindABox) {
     });
 }
 
+// Whoever answers the box late does not set a halted show going.
+TEST_F(ProjectorSteps, ThatAHaltHasOvertakenStartNothingMore) {
+    AddSlides(3);
+    frmSlideShowProjector* Shown = nullptr;
+    std::function<void()> Meanwhile;
+    Sound.OnStep = [&](const SlideSound&, ShowSoundFields&) {
+        if (Meanwhile) std::exchange(Meanwhile, nullptr)();
+        return true;
+    };
+    Run([&](Projector& Window) {
+        Shown = &Window;
+        Window.StopRestart();
+        Meanwhile = [&] { Shown->PlayPause(); };
+        Window.StopRestart();
+        EXPECT_EQ("Resume/Stop", Words(Window));
+        EXPECT_EQ("off on", Timers());
+        Window.PlayPause();
+        Meanwhile = [&] { Shown->StopRestart(); };
+        Window.NextSlide();
+        EXPECT_EQ("Play/Resume", Words(Window));
+        EXPECT_EQ("off off", Timers());
+    });
+}
+
 TEST_F(ProjectorTicks, FadeTheSoundOverTheLastSlideOfATrack) {
     AddSlides(3);
     Sound.OnStep = [](const SlideSound& Slide, ShowSoundFields& Fields) {
@@ -326,11 +354,11 @@ TEST_F(ProjectorTicks, FadeTheSoundOverTheLastSlideOfATrack) {
             return Sound.Taken();
         };
         EXPECT_EQ("Volume 100", VolumeAfter(5));
-        EXPECT_EQ("Step 2", VolumeAfter(5));
+        EXPECT_EQ("Step 2 in time", VolumeAfter(5));
         EXPECT_EQ("Volume 75", VolumeAfter(2.5));
         EXPECT_EQ("Volume 50", VolumeAfter(2.5));
         EXPECT_EQ("Volume 1", VolumeAfter(4.9));
-        EXPECT_EQ("Step 3", VolumeAfter(0.1));
+        EXPECT_EQ("Step 3 in time", VolumeAfter(0.1));
         EXPECT_EQ("Volume 100", VolumeAfter(0.1));
     });
 }
@@ -366,7 +394,7 @@ TEST_F(ProjectorTicks, ComeByThemselves) {
         Time.Seconds += 11;
         Spin(250);
         EXPECT_EQ(2, CurrentSlideSeq);
-        EXPECT_EQ("Step 2|Volume 100", Sound.Taken());
+        EXPECT_EQ("Step 2 in time|Volume 100", Sound.Taken());
     });
 }
 

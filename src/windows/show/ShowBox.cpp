@@ -1,4 +1,4 @@
-#include "show/ShowBox.h"
+#include "windows/show/ShowBox.h"
 
 #include <QStringList>
 

@@ -1,0 +1,29 @@
+// How long the running slide has been up, over midnight too. Used by ShowRun; all in seconds, the
+// moments since midnight.
+#pragma once
+
+namespace neb {
+
+class Clock;
+
+class SlideClock {
+  public:
+    explicit SlideClock(const Clock& Time) : mTime(Time) {}
+
+    void Start();  // now
+    // At a moment that has just passed, so that what a tick came late does not add up.
+    void StartAt(double Moment);
+    // 0 up to 86400.
+    double Elapsed() const;
+    // The moment at which a slide of this time is over; from midnight on it may lie above 86400.
+    double Due(double Interval) const { return mStart + Interval; }
+
+    // Whether so much time is the whole of a slide's.
+    static bool IsOver(double Elapsed, double Interval);
+
+  private:
+    const Clock& mTime;
+    double mStart = 0;
+};
+
+}  // namespace neb
