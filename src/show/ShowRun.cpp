@@ -55,14 +55,14 @@ void ShowRun::LoadSettings() {
     mResumeSeq = Read.ResumeSeq;
     mResumeValid = Read.ResumeValid;
     SlideTimeout = Read.SlideTimeout;
-    mSettings = ReadEffectSettings(Settings, 0);
+    mSettings = ReadEffectSettings(Settings, SettingReader::Show);
     ReadEffectSelections(Settings, mEffects);
     mSoundFields.SlideInterval = SlideTimeout;
 }
 
 void ShowRun::ReloadEffectSettings() {
     const clsSettings Settings = OpenSettings();
-    mSettings = ReadEffectSettings(Settings, 1);
+    mSettings = ReadEffectSettings(Settings, SettingReader::Preferences);
     ReadEffectSelections(Settings, mEffects);
 }
 

@@ -1,6 +1,5 @@
 #include "windows/import/frmQuickShow.h"
 
-#include "controls/fields/KeyFilter.h"
 #include "controls/forms/ScreenPointer.h"
 #include "controls/grid/FlexGrid.h"
 #include "db/clsDBEngine.h"
@@ -10,6 +9,7 @@
 #include "support/modDEValidation.h"
 #include "support/modFUFL.h"
 #include "ui_ImportForm.h"
+#include "windows/albums/modAlbumNames.h"
 #include "windows/frame/modBroadcast.h"
 #include "windows/frame/modWindowState.h"
 #include "windows/show/modSlideShows.h"
@@ -29,7 +29,7 @@ frmQuickShow::frmQuickShow() : ImportForm(Memory) {
     mUi->cmdImport->setAccessibleName(tr("Save"));
     mUi->cmdImport->setToolTip(
         QStringLiteral("Create an Album and Slide Show from the Selected Pictures"));
-    new KeyFilter(mUi->txtName, &FixQuoteKey);
+    KeepQuotesClean(*mUi->txtName);
 }
 
 // The folder's own name is what most people would type. Whoever begins anew with another folder
