@@ -1,11 +1,13 @@
 #include "albums/GraphicsSearch.h"
 
 #include <QDateTime>
+#include <algorithm>
 #include <condition_variable>
 #include <ctime>
 #include <deque>
 #include <mutex>
 
+#include "support/MediaTypes.h"
 #include "support/files/modHostFilesMask.h"
 #include "support/files/modHostFilesWalk.h"
 #include "support/modFUFL.h"
@@ -41,24 +43,32 @@ bool HasLostMedium(const std::vector<Level>& WayDown) {
     return false;
 }
 
-// The extensions, as the names bear them, of the selected types.
-QStringList ExtensionsOf(const QStringList& Types) {
-    QStringList All;
-    for (const QString& Type : Types)
-        for (const QString& Each : Type.split(u'/')) All.append(u'.' + Each);
-    return All;
+// "JPEG/JPG": the extensions of a type, the longest first.
+QString TypeText(const MediaType& Type) {
+    QStringList Endings = Type.Endings();
+    std::sort(Endings.begin(), Endings.end(),
+              [](const QString& A, const QString& B) { return A.size() > B.size(); });
+    return Endings.join(u'/').toUpper();
+}
+
+QStringList TypeTexts() {
+    QStringList Texts;
+    for (const MediaType& Type : PictureTypes()) Texts << TypeText(Type);
+    return Texts;
 }
 
 }  // namespace
 
 const QStringList& GraphicTypes() {
-    static const QStringList Types{"BMP", "EMF", "JPEG/JPG", "PCD", "PCX",  "PNG",
-                                   "PSD", "TGA", "TIFF/TIF", "TLA", "WBMP", "WMF"};
+    static const QStringList Types = TypeTexts();
     return Types;
 }
 
 bool IsSelectedType(const QString& Extension, const QStringList& Selected) {
-    return ExtensionsOf(Selected).contains(Extension);
+    const QStringView Letters = QStringView(Extension).mid(1);
+    return std::any_of(Selected.begin(), Selected.end(), [&](const QString& Type) {
+        return QStringView(Type).split(u'/').contains(Letters);
+    });
 }
 
 QString NormalFilter(const QString& Text) {
@@ -97,10 +107,7 @@ struct GraphicsSearch::Shared {
 class GraphicsSearch::Walk {
   public:
     Walk(std::shared_ptr<Shared> To, const QString& Filter, const QStringList& Types, Lister List)
-        : mTo(std::move(To)),
-          mMask(Filter),
-          mExtensions(ExtensionsOf(Types)),
-          mList(std::move(List)) {}
+        : mTo(std::move(To)), mMask(Filter), mTypes(Types), mList(std::move(List)) {}
 
     void Run(const QString& Directory, const JobState& State) {
         mState = &State;
@@ -167,7 +174,7 @@ class GraphicsSearch::Walk {
     }
 
     bool IsWanted(const QString& Name) const {
-        return mExtensions.contains(GetFileExt(Name).toUpper()) && mMask.Matches(Name);
+        return IsSelectedType(GetFileExt(Name).toUpper(), mTypes) && mMask.Matches(Name);
     }
 
     // False when it cannot be opened, and is passed over.
@@ -201,7 +208,7 @@ class GraphicsSearch::Walk {
     const JobState* mState = nullptr;  // while it runs
     std::shared_ptr<Shared> mTo;
     NameMask mMask;
-    QStringList mExtensions;
+    QStringList mTypes;
     Lister mList;
     std::vector<Level> mWayDown;    // the directories above, and the present one
     std::optional<qint64> mMinute;  // since the start of 1970, the one that mDate tells

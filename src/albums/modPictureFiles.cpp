@@ -1,7 +1,5 @@
 #include "albums/modPictureFiles.h"
 
-#include "settings/modNEBSlideShow.h"
-#include "support/Services.h"
 #include "support/files/modHostFiles.h"
 #include "support/files/modHostFilesWalk.h"
 #include "support/modFUFL.h"
@@ -45,12 +43,6 @@ class PictureWalk {
     QStringList mWayDown;  // the real directories above the present one
 };
 
-const QStringList& Extensions() {
-    static const QStringList All = {".BMP", ".EMF", ".JPEG", ".JPG",  ".PCD", ".PCX",  ".PNG",
-                                    ".PSD", ".TGA", ".TIF",  ".TIFF", ".TLA", ".WBMP", ".WMF"};
-    return All;
-}
-
 char Upper(char Letter) {
     return Letter >= 'a' && Letter <= 'z' ? static_cast<char>(Letter - 'a' + 'A') : Letter;
 }
@@ -68,19 +60,14 @@ bool IsHostPictureName(std::string_view Name) {
         return std::equal(Ending.begin(), Ending.end(), Extension.begin(), Extension.end(),
                           [](char A, QChar B) { return QLatin1Char(Upper(A)) == B; });
     };
-    return std::any_of(Extensions().begin(), Extensions().end(), IsThis);
+    return std::any_of(PictureExtensions().begin(), PictureExtensions().end(), IsThis);
 }
 
 }  // namespace
 
-bool IsPictureName(const QString& Name) {
-    return Extensions().contains(GetFileExt(Name).toUpper());
-}
-
-bool IsReservedForAlbums(const QString& Path, const QString& Root) {
-    if (!Path.startsWith(Root + QStringLiteral("Albums/"))) return false;
-    MsgBox(QStringLiteral("This directory is reserved for Albums.  You cannot import from it."));
-    return true;
+std::optional<QString> WhyReservedForAlbums(const QString& Path, const QString& Root) {
+    if (!Path.startsWith(Root + QStringLiteral("Albums/"))) return std::nullopt;
+    return QStringLiteral("This directory is reserved for Albums.  You cannot import from it.");
 }
 
 QStringList ScanDirectory(const QString& Directory, bool Recurse, const KeepGoing& GoOn) {

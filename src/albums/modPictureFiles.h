@@ -1,22 +1,21 @@
-// Which files count as pictures, and the walks over directories that look for them. Used by the
+// The walks over directories that look for pictures, and where they may not look. Used by the
 // import windows, the directory selector and the command line.
 #pragma once
 
 #include <QString>
 #include <QStringList>
 #include <cstdint>
+#include <optional>
 
 #include "support/KeepGoing.h"
+#include "support/MediaTypes.h"
 #include "support/work/Job.h"
 
 namespace neb {
 
-// Whether the name ends in one of the picture extensions, without regard to case.
-bool IsPictureName(const QString& Name);
-
-// The folder of the albums below Root is no source of pictures: for a path that begins like it, to
-// the letter, says so in a box and is true. Root ends in a separator.
-bool IsReservedForAlbums(const QString& Path, const QString& Root);
+// The folder of the albums below Root is no source of pictures: what to say of a path that begins
+// like it, to the letter. Root ends in a separator.
+std::optional<QString> WhyReservedForAlbums(const QString& Path, const QString& Root);
 
 // The full paths of a directory's pictures in listing order, then, when Recurse, those of its
 // subdirectories, depth first. A directory that cannot be listed holds none; a symbolic link back

@@ -1,14 +1,57 @@
 #include "program/MainMenu.h"
 
 #include <QAction>
-#include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
 
 #include "controls/fields/Icons.h"
+#include "db/clsDBEngine.h"
+#include "program/Workspace.h"
+#include "program/frmAbout.h"
+#include "program/frmHelp.h"
+#include "program/frmNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
+#include "show/ShowSettings.h"
+#include "support/Fault.h"
+#include "support/Services.h"
+#include "windows/albums/modAlbumNames.h"
+#include "windows/frame/Openers.h"
+#include "windows/frame/modNotice.h"
+#include "windows/import/frmNewAlbumWzd1.h"
+#include "windows/show/modSlideShows.h"
+#include "windows/slides/frmSlideDBM.h"
+#include "windows/slides/frmSlideMgrBulk.h"
 
 namespace neb {
 namespace {
+
+void PlayActiveShow() {
+    ActiveShow Active = ReadActiveShow(OpenSettings());
+    if (Active.SlideShowID == 0) {
+        MsgBox(QStringLiteral("You must first select an Active Slide Show in Preferences!"),
+               QStringLiteral("No Active Slide Show"), BoxIcon::Information);
+        EditSlideShowPreferences();
+        Active = ReadActiveShow(OpenSettings());
+        if (Active.SlideShowID == 0) return;
+    }
+    QString AlbumName;
+    if (Active.AlbumID > 0 && !DBEngine->LoadAlbum(Active.AlbumID, AlbumName)) return;
+    RunSlideShow(Active.AlbumID, AlbumName, Active.SlideShowID);
+}
+
+void ShowHelp(const QString& Anchor) {
+    const auto Window = NewForm<frmHelp>();
+    Window->SetTopic(AppPath() + QStringLiteral("SlideShowHelp.hlp"), Anchor);
+    TheOpeners().ShowAsChild(*Window);
+}
+
+void ShowHelpContents() {
+    ShowHelp(QStringLiteral("contents"));
+}
+
+void ShowHelpIndex() {
+    ShowHelp(QStringLiteral("index"));
+}
 
 struct Header {
     const char* Name;
@@ -25,6 +68,8 @@ constexpr Header Headers[] = {
     {"mnuHelpHdr", "&Help"},
 };
 
+using Handler = void (*)(frmNEBSlideShow& Main);
+
 struct Entry {
     const char* Header;
     const char* Name;  // empty: a separator
@@ -32,59 +77,94 @@ struct Entry {
     const char* Keys;
     const char* Icon;
     const char* Tip;
+    Handler Run;
 };
+
+// Where a window comes with a later version.
+constexpr Handler NotYet = nullptr;
 
 constexpr Entry Entries[] = {
     {"mnuFileHdr", "mnuQuickShow", "&Quick Show...", "Ctrl+K", "quick-show",
-     "Turn a folder of pictures into a running show"},
-    {"mnuFileHdr", "", "", "", "", ""},
-    {"mnuFileHdr", "mnuExit", "E&xit", "Ctrl+Q", "exit", "Save everything and end the program"},
+     "Turn a folder of pictures into a running show",
+     [](frmNEBSlideShow& Main) { Main.OpenQuickShow(); }},
+    {"mnuFileHdr", "", "", "", "", "", nullptr},
+    {"mnuFileHdr", "mnuExit", "E&xit", "Ctrl+Q", "exit", "Save everything and end the program",
+     [](frmNEBSlideShow& Main) { Main.close(); }},
     {"mnuAlbumHdr", "mnuAlbumNew", "&New Album...", "Ctrl+N", "album-new",
-     "Make a new album and fill it with pictures"},
-    {"mnuAlbumHdr", "mnuAlbumRename", "&Rename Album...", "", "album-rename", "Rename an album"},
+     "Make a new album and fill it with pictures",
+     [](auto&) { NewForm<frmNewAlbumWzd1>()->ShowModal(); }},
+    {"mnuAlbumHdr", "mnuAlbumRename", "&Rename Album...", "", "album-rename", "Rename an album",
+     [](auto&) { ShowRenameAlbum(0); }},
     {"mnuAlbumHdr", "mnuAlbumDelete", "&Delete Album...", "", "album-delete",
-     "Delete an album and all that it holds"},
-    {"mnuAlbumHdr", "", "", "", "", ""},
+     "Delete an album and all that it holds", [](auto&) { ShowDeleteAlbum(0); }},
+    {"mnuAlbumHdr", "", "", "", "", "", nullptr},
     {"mnuAlbumHdr", "mnuSlideMgr", "&Slide Manager", "Ctrl+E", "slide-manager",
-     "Edit the slides of an album one by one"},
+     "Edit the slides of an album one by one",
+     [](auto&) { NewForm<frmSlideDBM>()->LoadSlideMgr(); }},
     {"mnuAlbumHdr", "mnuSlideMgrBulk", "&Bulk Slide Manager", "Ctrl+B", "slide-manager-bulk",
-     "Edit the captions of a whole album"},
+     "Edit the captions of a whole album",
+     [](auto&) { NewForm<frmSlideMgrBulk>()->LoadAlbumMgr(0); }},
     {"mnuSlideShowHdr", "mnuSlideShowMgr", "Slide Show &Manager", "Ctrl+M", "slide-show-manager",
-     "Compose slide shows"},
+     "Compose slide shows", [](auto&) { TheOpeners().SlideShowMgr(0, 0); }},
     {"mnuSlideShowHdr", "mnuSlideShowViewer", "&Play Slide Show", "F5", "slide-show-play",
-     "Play the active slide show"},
-    {"mnuSlideShowHdr", "", "", "", "", ""},
+     "Play the active slide show", [](auto&) { PlayActiveShow(); }},
+    {"mnuSlideShowHdr", "", "", "", "", "", nullptr},
     {"mnuSlideShowHdr", "mnuSlideShowPrefs", "P&references...", "Ctrl+R", "preferences",
-     "Choose the active slide show and its effects"},
+     "Choose the active slide show and its effects", [](auto&) { EditSlideShowPreferences(); }},
     {"mnuImportExportHdr", "mnuAlbumImport", "Import &Album...", "", "import",
-     "Bring an album in from another database"},
+     "Bring an album in from another database", NotYet},
     {"mnuImportExportHdr", "mnuAlbumExport", "E&xport Album...", "", "export",
-     "Take an album to another database"},
-    {"mnuImportExportHdr", "", "", "", "", ""},
+     "Take an album to another database", NotYet},
+    {"mnuImportExportHdr", "", "", "", "", "", nullptr},
     {"mnuImportExportHdr", "mnuSlideShowImport", "Import &Slide Show...", "", "import",
-     "Bring a slide show in from another database"},
+     "Bring a slide show in from another database", NotYet},
     {"mnuImportExportHdr", "mnuSlideShowExport", "Exp&ort Slide Show...", "", "export",
-     "Take a slide show to another database"},
-    {"mnuPrintHdr", "mnuAlbumPrint", "Print &Album...", "", "print", "Print the pages of an album"},
+     "Take a slide show to another database", NotYet},
+    {"mnuPrintHdr", "mnuAlbumPrint", "Print &Album...", "", "print", "Print the pages of an album",
+     NotYet},
     {"mnuPrintHdr", "mnuSlideShowPrint", "Print &Slide Show...", "", "print",
-     "Print the pages of a slide show"},
-    {"mnuWindows", "mnuCascade", "&Cascade", "", "", "Lay the windows one over the other"},
-    {"mnuWindows", "mnuTile", "&Tile", "", "", "Lay the windows side by side"},
-    {"mnuHelpHdr", "mnuHelpContents", "&Contents", "F1", "help", "What the program can do"},
-    {"mnuHelpHdr", "mnuHelpIndex", "&Index", "", "", "Find a subject by its name"},
-    {"mnuHelpHdr", "", "", "", "", ""},
-    {"mnuHelpHdr", "mnuAbout", "&About NEB Slide Show", "", "about", "The program's version"},
+     "Print the pages of a slide show", NotYet},
+    {"mnuWindows", "mnuCascade", "&Cascade", "", "", "Lay the windows one over the other",
+     [](frmNEBSlideShow& Main) { Main.Area().cascadeSubWindows(); }},
+    {"mnuWindows", "mnuTile", "&Tile", "", "", "Lay the windows side by side",
+     [](frmNEBSlideShow& Main) { Main.Area().tileSubWindows(); }},
+    {"mnuHelpHdr", "mnuHelpContents", "&Contents", "F1", "help", "What the program can do",
+     [](auto&) { ShowHelpContents(); }},
+    {"mnuHelpHdr", "mnuHelpIndex", "&Index", "", "", "Find a subject by its name",
+     [](auto&) { ShowHelpIndex(); }},
+    {"mnuHelpHdr", "", "", "", "", "", nullptr},
+    {"mnuHelpHdr", "mnuAbout", "&About NEB Slide Show", "", "about", "The program's version",
+     [](auto&) { NewForm<frmAbout>()->ShowModal(); }},
 };
 
-void AddEntry(QMainWindow& Window, QMenu& Menu, const Entry& Row, MainMenu& Made) {
+// Queued, so that a modal window does not hold whoever pressed the entry.
+void Connect(frmNEBSlideShow& Main, QAction& Action, Handler Run) {
+    const auto Guarded = [&Main, Run] {
+        try {
+            Run(Main);
+        } catch (const Fault& Problem) {
+            ShowNotice(Problem.Text());
+        }
+    };
+    QObject::connect(&Action, &QAction::triggered, &Main, Guarded, Qt::QueuedConnection);
+}
+
+QAction* MakeAction(frmNEBSlideShow& Main, const Entry& Row) {
+    auto* Action = new QAction(QObject::tr(Row.Text), &Main);
+    Action->setObjectName(QString::fromLatin1(Row.Name));
+    Action->setShortcut(QKeySequence(QString::fromLatin1(Row.Keys)));
+    Action->setStatusTip(QObject::tr(Row.Tip));
+    Action->setEnabled(Row.Run != NotYet);
+    if (Row.Run != NotYet) Connect(Main, *Action, Row.Run);
+    return Action;
+}
+
+void AddEntry(frmNEBSlideShow& Main, QMenu& Menu, const Entry& Row, MainMenu& Made) {
     if (!*Row.Name) {
         Menu.addSeparator();
         return;
     }
-    auto* Action = new QAction(QObject::tr(Row.Text), &Window);
-    Action->setObjectName(QString::fromLatin1(Row.Name));
-    Action->setShortcut(QKeySequence(QString::fromLatin1(Row.Keys)));
-    Action->setStatusTip(QObject::tr(Row.Tip));
+    QAction* Action = MakeAction(Main, Row);
     Menu.addAction(Action);
     // looked up when the menu is first opened: the start need not wait for a dozen icons
     QObject::connect(
@@ -96,7 +176,7 @@ void AddEntry(QMainWindow& Window, QMenu& Menu, const Entry& Row, MainMenu& Made
 
 }  // namespace
 
-MainMenu BuildMainMenu(QMainWindow& Window) {
+MainMenu BuildMainMenu(frmNEBSlideShow& Window) {
     MainMenu Made;
     for (const Header& Each : Headers) {
         QMenu* Menu = Window.menuBar()->addMenu(QObject::tr(Each.Text));

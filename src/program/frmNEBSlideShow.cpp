@@ -1,9 +1,10 @@
-// The start and the end of the program; what the menu does is in frmNEBSlideShowMenu.cpp.
+// The start and the end of the program; its menu is in frmNEBSlideShowMenu.cpp and MainMenu.cpp.
 #include "program/frmNEBSlideShow.h"
 
 #include <QCloseEvent>
 #include <QScreen>
 #include <QStatusBar>
+#include <functional>
 
 #include "controls/forms/Form.h"
 #include "controls/forms/ScreenPointer.h"
@@ -48,7 +49,7 @@ frmNEBSlideShow::frmNEBSlideShow() : mWorkspace(new Workspace(this)) {
     setObjectName(QStringLiteral("frmNEBSlideShow"));
     setWindowTitle(QApplication::applicationDisplayName());
     setCentralWidget(mWorkspace);
-    statusBar();  // says what a menu entry does
+    statusBar();  // says what a menu entry does, and takes the notices
     SetUpMenu();
     FillOpeners();
     connect(mWorkspace, &Workspace::FolderDropped, this, &frmNEBSlideShow::OpenQuickShow);

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <QMainWindow>
-#include <functional>
 #include <memory>
 
 #include "program/CommandLine.h"
@@ -39,6 +38,7 @@ class frmNEBSlideShow : public QMainWindow {
     void OpenQuickShow(const QString& Folder = {});
 
     FlexGrid* flxBuffer() const { return mBuffer; }
+    Workspace& Area() const { return *mWorkspace; }  // where the children stand
 
   protected:
     void closeEvent(QCloseEvent* Event) override;
@@ -46,7 +46,6 @@ class frmNEBSlideShow : public QMainWindow {
   private:
     void SetUpMenu();
     void FillOpeners();
-    void Connect(const char* Entry, std::function<void()> Action);
     void ListWindows();
     void ShowAsChild(Form& Child);
 
@@ -55,8 +54,6 @@ class frmNEBSlideShow : public QMainWindow {
     void MakeChildDirs();
     void CreateImageBuffer();
     bool WriteDatabase();
-    void PlayActiveShow();
-    void ShowHelp(const QString& Anchor);
 
     Workspace* mWorkspace;
     FlexGrid* mBuffer = nullptr;  // never shown: the store of the image buffer

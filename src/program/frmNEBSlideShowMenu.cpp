@@ -1,79 +1,40 @@
-// What the entries of the main window's menu do.
+// The menu of the main window and the children in its frame.
 #include <QAction>
 #include <QMdiSubWindow>
 #include <QMenu>
+#include <QPointer>
+#include <QStatusBar>
 
-#include "db/clsDBEngine.h"
+#include "controls/forms/Form.h"
 #include "program/MainMenu.h"
 #include "program/Workspace.h"
-#include "program/frmAbout.h"
-#include "program/frmHelp.h"
 #include "program/frmNEBSlideShow.h"
-#include "settings/modNEBSlideShow.h"
-#include "show/ShowSettings.h"
-#include "support/Fault.h"
 #include "support/Services.h"
 #include "support/files/modHostFiles.h"
-#include "windows/albums/modAlbumNames.h"
 #include "windows/compose/frmSlideShowDBM.h"
 #include "windows/frame/Openers.h"
 #include "windows/frame/modWindowState.h"
-#include "windows/import/frmNewAlbumWzd1.h"
 #include "windows/import/frmQuickShow.h"
-#include "windows/show/modSlideShows.h"
-#include "windows/slides/frmSlideDBM.h"
-#include "windows/slides/frmSlideMgrBulk.h"
 
 namespace neb {
 namespace {
 
-// The windows that come with later versions; until then their entries rest.
-constexpr const char* NotYet[] = {
-    "mnuAlbumExport",     "mnuAlbumImport",     "mnuAlbumPrint",
-    "mnuSlideShowExport", "mnuSlideShowImport", "mnuSlideShowPrint",
-};
+constexpr int NoticeMs = 10'000;
 
 }  // namespace
 
 void frmNEBSlideShow::SetUpMenu() {
     mMenu = std::make_unique<MainMenu>(BuildMainMenu(*this));
-    for (const char* Entry : NotYet) mMenu->Entries[QString::fromLatin1(Entry)]->setEnabled(false);
-    Connect("mnuSlideMgrBulk", [] { NewForm<frmSlideMgrBulk>()->LoadAlbumMgr(0); });
-    Connect("mnuAlbumRename", [] { ShowRenameAlbum(0); });
-    Connect("mnuAlbumDelete", [] { ShowDeleteAlbum(0); });
-    Connect("mnuQuickShow", [this] { OpenQuickShow(); });
-    Connect("mnuAlbumNew", [] { NewForm<frmNewAlbumWzd1>()->ShowModal(); });
-    Connect("mnuSlideMgr", [] { NewForm<frmSlideDBM>()->LoadSlideMgr(); });
-    Connect("mnuSlideShowMgr", [] { TheOpeners().SlideShowMgr(0, 0); });
-    Connect("mnuExit", [this] { close(); });
-    Connect("mnuSlideShowPrefs", [] { EditSlideShowPreferences(); });
-    Connect("mnuSlideShowViewer", [this] { PlayActiveShow(); });
-    Connect("mnuCascade", [this] { mWorkspace->cascadeSubWindows(); });
-    Connect("mnuTile", [this] { mWorkspace->tileSubWindows(); });
-    Connect("mnuHelpContents", [this] { ShowHelp(QStringLiteral("contents")); });
-    Connect("mnuHelpIndex", [this] { ShowHelp(QStringLiteral("index")); });
-    Connect("mnuAbout", [] { NewForm<frmAbout>()->ShowModal(); });
     connect(mMenu->Windows, &QMenu::aboutToShow, this, &frmNEBSlideShow::ListWindows);
-}
-
-// A fault in showing a window is ignored; the window then simply does not appear. The action runs
-// after the menu has closed, so that a modal window does not hold whoever pressed the entry.
-void frmNEBSlideShow::Connect(const char* Entry, std::function<void()> Action) {
-    const auto Run = [Action] {
-        try {
-            Action();
-        } catch (const Fault&) {
-            return;
-        }
-    };
-    connect(mMenu->Entries[QString::fromLatin1(Entry)], &QAction::triggered, this, Run,
-            Qt::QueuedConnection);
 }
 
 void frmNEBSlideShow::FillOpeners() {
     TheOpeners().ShowAsChild = [this](Form& Child) { ShowAsChild(Child); };
     TheOpeners().SlideShowMgr = [](std::int32_t AlbumID, std::int32_t SlideShowID) {
         NewForm<frmSlideShowDBM>()->LoadSlideShowMgr(AlbumID, SlideShowID);
+    };
+    TheOpeners().Notice = [Bar = QPointer(statusBar())](const QString& Text) {
+        if (Bar) Bar->showMessage(Text.simplified(), NoticeMs);
     };
 }
 
@@ -115,26 +76,6 @@ void frmNEBSlideShow::ListWindows() {
         connect(Entry, &QAction::triggered, Frame,
                 [this, Frame] { mWorkspace->setActiveSubWindow(Frame); });
     }
-}
-
-void frmNEBSlideShow::PlayActiveShow() {
-    ActiveShow Active = ReadActiveShow(OpenSettings());
-    if (Active.SlideShowID == 0) {
-        MsgBox(QStringLiteral("You must first select an Active Slide Show in Preferences!"),
-               QStringLiteral("No Active Slide Show"), BoxIcon::Information);
-        EditSlideShowPreferences();
-        Active = ReadActiveShow(OpenSettings());
-        if (Active.SlideShowID == 0) return;
-    }
-    QString AlbumName;
-    if (Active.AlbumID > 0 && !DBEngine->LoadAlbum(Active.AlbumID, AlbumName)) return;
-    RunSlideShow(Active.AlbumID, AlbumName, Active.SlideShowID);
-}
-
-void frmNEBSlideShow::ShowHelp(const QString& Anchor) {
-    const auto Window = NewForm<frmHelp>();
-    Window->SetTopic(AppPath() + QStringLiteral("SlideShowHelp.hlp"), Anchor);
-    ShowAsChild(*Window);
 }
 
 }  // namespace neb

@@ -1,6 +1,7 @@
 #include "program/modMachineSettings.h"
 
 #include "controls/forms/ScreenPointer.h"
+#include "settings/SettingKeys.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/modNumbers.h"
 #include "windows/show/frmSpeedTest.h"
@@ -8,15 +9,35 @@
 namespace neb {
 namespace {
 
-constexpr float EarnsLevel = 4.0F;  // seconds
+constexpr float EarnsLevel = 4.0F;     // seconds
+constexpr double LeastTimeout = 10.0;  // the same
+
+struct MeasuredLevel {
+    QChar Suffix;  // of its keys
+    double SpeedTestResult::*Timeout;
+    std::int32_t SpeedTestResult::*Step;
+    std::int32_t SpeedTestResult::*Delay;
+    float SpeedTestResult::*AvgTime;
+};
+using R = SpeedTestResult;
+constexpr MeasuredLevel MeasuredLevels[] = {
+    {u'H', &R::TimeoutH, &R::StepH, &R::DelayH, &R::AvgTimeH},
+    {u'M', &R::TimeoutM, &R::StepM, &R::DelayM, &R::AvgTimeM},
+    {u'L', &R::TimeoutL, &R::StepL, &R::DelayL, &R::AvgTimeL},
+};
 
 template <typename Number>
-QString ResultOr(Number Value, const char* Default) {
-    return Value > 0 ? ShortestDecimal(Value) : QString::fromLatin1(Default);
+void PutResult(clsSettings& Settings, const SettingAt& At, Number Value, Number Least) {
+    const bool Found = Value > 0 && Value >= Least;
+    PutText(Settings, At,
+            Found ? ShortestDecimal(Value) : QLatin1String(RowOf(At.Which).Unmeasured));
 }
 
-QString ResultOr(std::int32_t Value, const char* Default) {
-    return Value > 0 ? QString::number(Value) : QString::fromLatin1(Default);
+void PutLevel(clsSettings& Settings, const MeasuredLevel& Of, const SpeedTestResult& Result) {
+    PutResult(Settings, {Setting::TestTimeout, Of.Suffix}, Result.*Of.Timeout, 0.0);
+    PutResult(Settings, {Setting::Step, Of.Suffix}, double(Result.*Of.Step), 0.0);
+    PutResult(Settings, {Setting::Delay, Of.Suffix}, double(Result.*Of.Delay), 0.0);
+    PutResult(Settings, {Setting::AvgTime, Of.Suffix}, Result.*Of.AvgTime, 0.0F);
 }
 
 bool Earns(float AvgTime) {
@@ -32,23 +53,9 @@ int MaxEffectLevelFor(const SpeedTestResult& Result) {
 }
 
 void StoreMachineSettings(clsSettings& Settings, const SpeedTestResult& Result) {
-    const std::pair<const char*, QString> Keys[] = {
-        {"TimeoutH", ResultOr(Result.TimeoutH, "10")},
-        {"StepH", ResultOr(Result.StepH, "33")},
-        {"DelayH", ResultOr(Result.DelayH, "1000")},
-        {"AvgTimeH", ResultOr(Result.AvgTimeH, "N/A")},
-        {"TimeoutM", ResultOr(Result.TimeoutM, "10")},
-        {"StepM", ResultOr(Result.StepM, "33")},
-        {"DelayM", ResultOr(Result.DelayM, "1000")},
-        {"AvgTimeM", ResultOr(Result.AvgTimeM, "N/A")},
-        {"TimeoutL", ResultOr(Result.TimeoutL, "10")},
-        {"StepL", ResultOr(Result.StepL, "33")},
-        {"DelayL", ResultOr(Result.DelayL, "1000")},
-        {"AvgTimeL", ResultOr(Result.AvgTimeL, "N/A")},
-        {"Timeout", Result.Timeout >= 10 ? ShortestDecimal(Result.Timeout) : QString("10")},
-        {"MaxEffectLevel", QString::number(MaxEffectLevelFor(Result))},
-    };
-    for (const auto& [Key, Value] : Keys) Settings.PutValue({}, QString::fromLatin1(Key), Value);
+    for (const MeasuredLevel& Each : MeasuredLevels) PutLevel(Settings, Each, Result);
+    PutResult(Settings, Setting::Timeout, Result.Timeout, LeastTimeout);
+    PutNumber(Settings, Setting::MaxEffectLevel, MaxEffectLevelFor(Result));
     Settings.Save();
 }
 
@@ -64,7 +71,7 @@ SpeedTestResult RunSpeedTest() {
 
 void EnsureMachineSettings(const std::function<SpeedTestResult()>& Test) {
     clsSettings Settings = OpenSettings();
-    if (!Settings.GetValue({}, QStringLiteral("Timeout"), {}).isEmpty()) return;
+    if (HasSetting(Settings, Setting::Timeout)) return;
     const SpeedTestResult Result = Test();
     SetScreenPointer(Pointer::Default);
     StoreMachineSettings(Settings, Result);

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QStandardPaths>
 
+#include "settings/SettingKeys.h"
 #include "settings/clsFileSystem.h"
 #include "support/Fault.h"
 #include "support/Services.h"
@@ -61,8 +62,7 @@ clsSettings OpenSettings() {
 
 QString DBPath() {
     if (!DBPathCache.isEmpty()) return DBPathCache;
-    const QString Chosen =
-        OpenSettings().GetValue(QStringLiteral("General"), QStringLiteral("DBPath"), {});
+    const QString Chosen = ReadText(OpenSettings(), Setting::DBPath);
     // A relative one means the same database wherever the program was started from.
     DBPathCache =
         WithSeparator(Chosen.isEmpty() ? SettingsDir() : AbsolutePath(Chosen, SettingsDir()));
@@ -93,24 +93,22 @@ bool IsLegalChar(QChar CharCode) {
            QStringView(LegalSigns).contains(CharCode) || CharCode == QChar(8);
 }
 
-bool ValidateUserInput(const QString& FieldName, const QString& Text) {
+QString IllegalChars(const QString& Text) {
     QString Illegal;
     for (const char32_t Code : Text.toStdU32String()) {
         const QString Sign = QString::fromUcs4(&Code, 1);  // two units outside the basic plane
         const bool Legal = Sign.size() == 1 && IsLegalChar(Sign.front());
         if (!Legal && !Illegal.contains(Sign)) Illegal += Sign;
     }
-    if (Illegal.isEmpty()) return true;
-    MsgBox(QStringLiteral("The entered ") + FieldName +
-               QStringLiteral(" contained the following illegal characters:\n") + Illegal,
-           QStringLiteral("Invalid User Input"), BoxIcon::Information);
-    return false;
+    return Illegal;
 }
 
 bool StartsWithVowel(const QString& Word) {
     return !Word.isEmpty() && QStringView(u"AEIOU").contains(Word.front().toUpper());
 }
 
+// Nobody types a path that is used unseen: every one comes from a dialog or a tree. It and the next
+// stand ready for whoever takes a path from elsewhere.
 bool IsPathValid(const QString& Path) {
     if (!FileSystem) return false;
     if (FileSystem->DriveExists(Path)) return true;

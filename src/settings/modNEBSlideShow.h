@@ -37,8 +37,8 @@ void LogMessage(const QString& Level, const QString& Message);
 void MakeDir(const QString& Path);  // every error is ignored
 
 bool IsLegalChar(QChar CharCode);
-// False after a box that names each illegal character of the text once.
-bool ValidateUserInput(const QString& FieldName, const QString& Text);
+// Each illegal character of the text once, in order of first appearance.
+QString IllegalChars(const QString& Text);
 bool StartsWithVowel(const QString& Word);  // whether "an" goes before it; false for none
 bool IsPathValid(const QString& Path);      // a drive, a file that opens, or a folder
 bool CanListDir(const QString& Path);

@@ -4,7 +4,6 @@
 
 #include "settings/clsSettings.h"
 #include "show/ShowSettings.h"
-#include "support/FlagText.h"
 #include "support/modNumbers.h"
 
 namespace neb {
@@ -39,23 +38,6 @@ std::optional<EntryProblem> CheckTimeout(const QString& Text) {
     return std::nullopt;
 }
 
-void PutHead(clsSettings& Settings, const char* Key, const QString& Value) {
-    Settings.PutValue({}, QString::fromLatin1(Key), Value);
-}
-
-void PutHead(clsSettings& Settings, const char* Key, std::int32_t Value) {
-    PutHead(Settings, Key, QString::number(Value));
-}
-
-void PutSpeeds(clsSettings& Settings, const EffectSettings& Effects) {
-    PutHead(Settings, "DelayH", Effects.DelayH);
-    PutHead(Settings, "DelayM", Effects.DelayM);
-    PutHead(Settings, "DelayL", Effects.DelayL);
-    PutHead(Settings, "StepH", Effects.StepH);
-    PutHead(Settings, "StepM", Effects.StepM);
-    PutHead(Settings, "StepL", Effects.StepL);
-}
-
 }  // namespace
 
 PreferencesState ReadPreferences(const clsSettings& Settings) {
@@ -63,9 +45,9 @@ PreferencesState ReadPreferences(const clsSettings& Settings) {
     const ActiveShow Active = ReadActiveShow(Settings);
     Read.AlbumID = Active.AlbumID;
     Read.SlideShowID = Active.SlideShowID;
-    Read.NextSlideSeq = std::max(0, ReadNextSlideSeq(Settings));
-    Read.SlideTimeout = ReadSlideTimeout(Settings, DefaultTimeout);
-    Read.Effects = ReadEffectSettings(Settings, 1);
+    Read.NextSlideSeq = ReadNumber(Settings, Setting::NextSlideSeq);
+    Read.SlideTimeout = ReadDecimal(Settings, Setting::Timeout);
+    Read.Effects = ReadEffectSettings(Settings, SettingReader::Preferences);
     for (std::int32_t Effect = 0; Effect <= LastEffect; ++Effect)
         Read.EffectSelected[static_cast<size_t>(Effect)] = ReadEffectSelected(Settings, Effect);
     Read.EffectLevels.fill(1);
@@ -73,12 +55,12 @@ PreferencesState ReadPreferences(const clsSettings& Settings) {
 }
 
 void PutPreferences(clsSettings& Settings, const PreferencesState& State) {
-    PutHead(Settings, "ActiveAlbum", State.AlbumID);
-    PutHead(Settings, "ActiveSlideShow", State.SlideShowID);
-    PutHead(Settings, "NextSlideSeq", State.NextSlideSeq);
-    PutHead(Settings, "Timeout", ShortestDecimal(State.SlideTimeout));
-    PutHead(Settings, "UseEffectLevel", FlagText(State.Effects.UseEffectLevel));
-    PutHead(Settings, "MaxEffectLevel", State.Effects.MaxEffectLevel);
+    PutNumber(Settings, Setting::ActiveAlbum, State.AlbumID);
+    PutNumber(Settings, Setting::ActiveSlideShow, State.SlideShowID);
+    PutNumber(Settings, Setting::NextSlideSeq, State.NextSlideSeq);
+    PutDecimal(Settings, Setting::Timeout, State.SlideTimeout);
+    PutFlag(Settings, Setting::UseEffectLevel, State.Effects.UseEffectLevel);
+    PutNumber(Settings, Setting::MaxEffectLevel, State.Effects.MaxEffectLevel);
     for (std::int32_t Effect = 0; Effect <= LastEffect; ++Effect)
         PutEffectSelected(Settings, Effect, State.EffectSelected[static_cast<size_t>(Effect)]);
     PutSpeeds(Settings, State.Effects);

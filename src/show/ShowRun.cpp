@@ -52,14 +52,14 @@ void ShowRun::LoadSettings() {
     mResumeSeq = Read.ResumeSeq;
     mResumeValid = Read.ResumeValid;
     mWorld.Place.SlideTimeout = Read.SlideTimeout;
-    mSettings = ReadEffectSettings(Settings, 0);
+    mSettings = ReadEffectSettings(Settings, SettingReader::Show);
     ReadEffectSelections(Settings, mEffects);
     mSoundFields.SlideInterval = mWorld.Place.SlideTimeout;
 }
 
 void ShowRun::ReloadEffectSettings() {
     const clsSettings Settings = OpenSettings();
-    mSettings = ReadEffectSettings(Settings, 1);
+    mSettings = ReadEffectSettings(Settings, SettingReader::Preferences);
     ReadEffectSelections(Settings, mEffects);
 }
 

@@ -1,104 +1,75 @@
 #include "show/ShowSettings.h"
 
-#include <QStringList>
+#include <algorithm>
 
+#include "settings/SettingKeys.h"
 #include "settings/modNEBSlideShow.h"
-#include "support/FlagText.h"
 #include "support/modNumbers.h"
 
 namespace neb {
 namespace {
 
-QString Head(const clsSettings& Settings, const char* Key, const char* Default) {
-    return Settings.GetValue({}, QString::fromLatin1(Key), QString::fromLatin1(Default));
-}
+// The speed of one level; the suffixes of the keys are those of the members.
+struct LevelSpeed {
+    QChar Suffix;
+    std::int32_t EffectSettings::*Delay;
+    std::int32_t EffectSettings::*Step;
+};
+constexpr LevelSpeed LevelSpeeds[] = {
+    {u'H', &EffectSettings::DelayH, &EffectSettings::StepH},
+    {u'M', &EffectSettings::DelayM, &EffectSettings::StepM},
+    {u'L', &EffectSettings::DelayL, &EffectSettings::StepL},
+};
 
-std::int32_t Number(const clsSettings& Settings, const char* Key) {
-    return CInt(Val(Head(Settings, Key, "0")));
-}
-
-std::int32_t AtLeastOne(const clsSettings& Settings, const char* Key, const char* Default,
-                        std::int32_t Correction) {
-    const std::int32_t Value = CInt(Val(Head(Settings, Key, Default)));
-    return Value < 1 ? Correction : Value;
-}
-
-std::int32_t Delay(const clsSettings& Settings, const char* Key) {
-    return AtLeastOne(Settings, Key, "1000", 1000);
-}
-
-std::int32_t Step(const clsSettings& Settings, const char* Key) {
-    return AtLeastOne(Settings, Key, "25", 20);
-}
-
-std::int32_t MaxLevel(const clsSettings& Settings, std::int32_t LevelIfOutOfRange) {
-    const std::int32_t Level = CInt(Val(Head(Settings, "MaxEffectLevel", "1")));
-    return Level < 0 || Level > 3 ? LevelIfOutOfRange : Level;
-}
-
-bool IsNumber(const clsSettings& Settings, const char* Key, std::int32_t Wanted) {
-    return Val(Head(Settings, Key, "0")) == Wanted;
-}
-
-QString EffectSection() {
-    return QStringLiteral("Effect Selections");
+SettingAt EffectAt(std::int32_t Place) {
+    return {Setting::EffectSelected, Format(Place, "000")};
 }
 
 }  // namespace
 
 ActiveShow ReadActiveShow(const clsSettings& Settings) {
-    return {std::max(0, Number(Settings, "ActiveAlbum")),
-            std::max(0, Number(Settings, "ActiveSlideShow"))};
-}
-
-std::int32_t ReadNextSlideSeq(const clsSettings& Settings) {
-    return Number(Settings, "NextSlideSeq");
-}
-
-double ReadSlideTimeout(const clsSettings& Settings, std::int32_t Default) {
-    const double Timeout =
-        Val(Settings.GetValue({}, QStringLiteral("Timeout"), QString::number(Default)));
-    return Timeout > 0 ? Timeout : Default;
+    return {ReadNumber(Settings, Setting::ActiveAlbum),
+            ReadNumber(Settings, Setting::ActiveSlideShow)};
 }
 
 ShowSettings ReadShowSettings(const clsSettings& Settings, std::int32_t AlbumID,
                               std::int32_t SlideShowID) {
+    constexpr SettingReader Me = SettingReader::Show;
     ShowSettings Read;
-    if (IsNumber(Settings, "ActiveAlbum", AlbumID) &&
-        IsNumber(Settings, "ActiveSlideShow", SlideShowID)) {
-        Read.ResumeSeq = ReadNextSlideSeq(Settings);
-        Read.ResumeValid = true;
-    }
-    Read.SlideTimeout = ReadSlideTimeout(Settings, 10);
+    Read.ResumeValid = ReadDecimal(Settings, Setting::ActiveAlbum, Me) == AlbumID &&
+                       ReadDecimal(Settings, Setting::ActiveSlideShow, Me) == SlideShowID;
+    if (Read.ResumeValid) Read.ResumeSeq = ReadNumber(Settings, Setting::NextSlideSeq, Me);
+    Read.SlideTimeout = ReadDecimal(Settings, Setting::Timeout, Me);
     return Read;
 }
 
-EffectSettings ReadEffectSettings(const clsSettings& Settings, std::int32_t LevelIfOutOfRange) {
+EffectSettings ReadEffectSettings(const clsSettings& Settings, SettingReader Reader) {
     EffectSettings Read;
-    Read.UseEffectLevel = FlagValue(Head(Settings, "UseEffectLevel", "True"));
-    Read.MaxEffectLevel = MaxLevel(Settings, LevelIfOutOfRange);
-    Read.DelayH = Delay(Settings, "DelayH");
-    Read.DelayM = Delay(Settings, "DelayM");
-    Read.DelayL = Delay(Settings, "DelayL");
-    Read.StepH = Step(Settings, "StepH");
-    Read.StepM = Step(Settings, "StepM");
-    Read.StepL = Step(Settings, "StepL");
+    Read.UseEffectLevel = ReadFlag(Settings, Setting::UseEffectLevel);
+    Read.MaxEffectLevel = ReadNumber(Settings, Setting::MaxEffectLevel, Reader);
+    for (const LevelSpeed& Each : LevelSpeeds) {
+        Read.*Each.Delay = ReadNumber(Settings, {Setting::Delay, Each.Suffix}, Reader);
+        Read.*Each.Step = ReadNumber(Settings, {Setting::Step, Each.Suffix}, Reader);
+    }
     const std::int32_t Level = Read.MaxEffectLevel;
     Read.LevelDelay = Level == 3 ? Read.DelayH : Level == 2 ? Read.DelayM : Read.DelayL;
     Read.LevelStep = Level == 3 ? Read.StepH : Level == 2 ? Read.StepM : Read.StepL;
     return Read;
 }
 
-QString EffectKey(std::int32_t Place) {
-    return QStringLiteral("Effect.") + Format(Place, "000");
+void PutSpeeds(clsSettings& Settings, const EffectSettings& Effects) {
+    for (const LevelSpeed& Each : LevelSpeeds)
+        PutNumber(Settings, {Setting::Delay, Each.Suffix}, Effects.*Each.Delay);
+    for (const LevelSpeed& Each : LevelSpeeds)
+        PutNumber(Settings, {Setting::Step, Each.Suffix}, Effects.*Each.Step);
 }
 
 bool ReadEffectSelected(const clsSettings& Settings, std::int32_t Place) {
-    return FlagValue(Settings.GetValue(EffectSection(), EffectKey(Place), {}));
+    return ReadFlag(Settings, EffectAt(Place));
 }
 
 void PutEffectSelected(clsSettings& Settings, std::int32_t Place, bool Selected) {
-    Settings.PutValue(EffectSection(), EffectKey(Place), FlagText(Selected));
+    PutFlag(Settings, EffectAt(Place), Selected);
 }
 
 void ReadEffectSelections(const clsSettings& Settings, EffectTables& Tables) {
@@ -108,7 +79,7 @@ void ReadEffectSelections(const clsSettings& Settings, EffectTables& Tables) {
 
 void SaveNextSlideSeq(std::int32_t SlideSeq) {
     clsSettings Settings = OpenSettings();
-    Settings.PutValue({}, QStringLiteral("NextSlideSeq"), QString::number(SlideSeq));
+    PutNumber(Settings, Setting::NextSlideSeq, SlideSeq);
     Settings.Save();
 }
 

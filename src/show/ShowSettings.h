@@ -1,10 +1,10 @@
-// The keys of the settings file that a show goes by, and how they are read. The projector and
-// preferences read the same keys with corrections of their own.
+// What a show goes by in the settings file. The projector and preferences read the same keys, each
+// with the defaults that its column of the table of settings has.
 #pragma once
 
-#include <QString>
 #include <cstdint>
 
+#include "settings/SettingKeys.h"
 #include "show/EffectChooser.h"
 
 namespace neb {
@@ -18,10 +18,6 @@ struct ActiveShow {
 };
 
 ActiveShow ReadActiveShow(const clsSettings& Settings);
-// The place on which the active show was left, as it stands in the file.
-std::int32_t ReadNextSlideSeq(const clsSettings& Settings);
-// Seconds. Default stands for a missing value and for one that is not above 0.
-double ReadSlideTimeout(const clsSettings& Settings, std::int32_t Default);
 
 // Where the show goes on and how long a slide stays up.
 struct ShowSettings {
@@ -33,11 +29,11 @@ struct ShowSettings {
 ShowSettings ReadShowSettings(const clsSettings& Settings, std::int32_t AlbumID,
                               std::int32_t SlideShowID);
 
-// LevelIfOutOfRange stands for a "MaxEffectLevel" that is not 0 to 3.
-EffectSettings ReadEffectSettings(const clsSettings& Settings, std::int32_t LevelIfOutOfRange);
+EffectSettings ReadEffectSettings(const clsSettings& Settings, SettingReader Reader);
+// Puts the speeds of the three levels.
+void PutSpeeds(clsSettings& Settings, const EffectSettings& Effects);
 
-// The key in section "Effect Selections" of an effect's place, 0 to 127.
-QString EffectKey(std::int32_t Place);
+// Whether a user wants an effect, by its place, 0 to 127.
 bool ReadEffectSelected(const clsSettings& Settings, std::int32_t Place);
 void PutEffectSelected(clsSettings& Settings, std::int32_t Place, bool Selected);
 void ReadEffectSelections(const clsSettings& Settings, EffectTables& Tables);  // 1 to 127

@@ -2,7 +2,6 @@
 #include <QGuiApplication>
 #include <iostream>
 #include <memory>
-#include <string_view>
 
 #include "tools/modCommands.h"
 
@@ -22,10 +21,10 @@ bool ErrorsGoToATerminal() {
 #endif
 }
 
-// Reading pictures and setting captions needs the toolkit's fonts and readers, but no display.
+// Nothing needs a display.
 std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char** argv) {
-    const std::string_view Command = argc < 2 ? "" : argv[1];
-    if (Command != "import" && Command != "effects" && Command != "rehearse")
+    const auto* Command = neb::FindCommand(QString::fromLocal8Bit(argc < 2 ? "" : argv[1]));
+    if (!Command || Command->Needs != neb::Wants::Drawing)
         return std::make_unique<QCoreApplication>(argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     return std::make_unique<QGuiApplication>(argc, argv);

@@ -39,22 +39,9 @@ constexpr Command Table[] = {
      "the album NAME of the database in DIR. An album or a database that is not there is made.\n"
      "With --show a slide show of that name is made of the pictures, in their order. A file\n"
      "that cannot be read is named and left out. When the work fails nothing is changed.\n",
-     RunImport},
-    {"effects", "list | timings [FILE] | render ... | sheet OUT", "look at the transitions",
-     "  effects list\n"
-     "      Prints number, name, engine and level of each transition as JSON; the level (1 light\n"
-     "      to 3 heavy) follows from the times beside the program.\n"
-     "  effects timings [FILE] [--size WxH] [--runs N]\n"
-     "      Measures how long each transition takes, at 3840x2160 unless told otherwise, and\n"
-     "      writes the times as EffectStats.txt holds them, the shortest of 3 runs, to FILE or "
-     "the\n"
-     "      output. This takes ten minutes.\n"
-     "  effects render N OLD NEW PROGRESS OUT\n"
-     "      Draws one frame of transition N from the picture OLD to NEW, PROGRESS being 0 to 1,\n"
-     "      at the size of OLD, into the .png or .jpg file OUT.\n"
-     "  effects sheet OUT [--pictures OLD NEW]\n"
-     "      Draws all transitions half way, with their names, into the .png or .jpg file OUT.\n",
-     RunEffects},
+     RunImport, Wants::Drawing},
+    {"effects", "list | timings [FILE] | render ... | sheet OUT", "look at the transitions", "",
+     RunEffects, Wants::Drawing, PrintEffectsHelp},
     {"rehearse", "DIR --album NAME --show NAME [--json] [--screen WxH] [--documents DIR]",
      "run a show in a moment and look for what is wrong",
      "Runs the show as the projector would, by the user's own settings, on a clock that does not\n"
@@ -83,7 +70,7 @@ constexpr Command Table[] = {
      "      100), Loops, EndsAt (null: it does not end on the slide);\n"
      "      Problems and Notes: SlideSeq (0: the whole show), Text.\n"
      "Exit code 0: no problems; 1: problems; 2: not rehearsed.\n",
-     RunRehearse},
+     RunRehearse, Wants::Drawing},
 };
 
 constexpr const char* Outline =
@@ -107,12 +94,7 @@ void PrintOutline(std::ostream& Stream) {
 
 void PrintHelp(const Command& Row, std::ostream& Stream) {
     Stream << "Usage: nebctl " << Row.Name << ' ' << Row.Arguments << "\n\n" << Row.Help;
-}
-
-const Command* FindCommand(const QString& Name) {
-    for (const Command& Row : Commands())
-        if (Name == QLatin1String(Row.Name)) return &Row;
-    return nullptr;
+    if (Row.PrintMoreHelp) Row.PrintMoreHelp(Stream);
 }
 
 int RunGuarded(const Command& Row, const QStringList& Arguments, ToolIO& IO) {
@@ -132,6 +114,12 @@ int RunGuarded(const Command& Row, const QStringList& Arguments, ToolIO& IO) {
 
 std::span<const Command> Commands() {
     return Table;
+}
+
+const Command* FindCommand(const QString& Name) {
+    for (const Command& Row : Commands())
+        if (Name == QLatin1String(Row.Name)) return &Row;
+    return nullptr;
 }
 
 int RunTool(const QStringList& Arguments, ToolIO& IO) {

@@ -128,17 +128,50 @@ int Sheet(const QStringList& Words, ToolIO& IO) {
 
 struct EffectCommand {
     const char* Name;
+    const char* Arguments;
+    const char* Help;  // lines of 90 characters at most, indented when printed
     int (*Run)(const QStringList& Words, ToolIO& IO);
 };
 constexpr EffectCommand Table[] = {
-    {"list", List}, {"timings", Timings}, {"render", Render}, {"sheet", Sheet}};
+    {"list", "",
+     "Prints number, name, engine and level of each transition as JSON; the level (1 light\n"
+     "to 3 heavy) follows from the times beside the program.\n",
+     List},
+    {"timings", " [FILE] [--size WxH] [--runs N]",
+     "Measures how long each transition takes, at 3840x2160 unless told otherwise, and\n"
+     "writes the times as EffectStats.txt holds them, the shortest of 3 runs, to FILE or the\n"
+     "output. This takes ten minutes.\n",
+     Timings},
+    {"render", " N OLD NEW PROGRESS OUT",
+     "Draws one frame of transition N from the picture OLD to NEW, PROGRESS being 0 to 1,\n"
+     "at the size of OLD, into the .png or .jpg file OUT.\n",
+     Render},
+    {"sheet", " OUT [--pictures OLD NEW]",
+     "Draws all transitions half way, with their names, into the .png or .jpg file OUT.\n", Sheet},
+};
+
+// "list, timings, render and sheet"
+QString Names() {
+    QStringList All;
+    for (const EffectCommand& Row : Table) All << QLatin1String(Row.Name);
+    const QString Last = All.takeLast();
+    return All.join(QStringLiteral(", ")) + QStringLiteral(" and ") + Last;
+}
 
 }  // namespace
+
+void PrintEffectsHelp(std::ostream& Stream) {
+    for (const EffectCommand& Row : Table) {
+        Stream << "  effects " << Row.Name << Row.Arguments << '\n';
+        for (const QByteArray& Line : QByteArray(Row.Help).trimmed().split('\n'))
+            Stream << "      " << Line.constData() << '\n';
+    }
+}
 
 int RunEffects(const QStringList& Arguments, ToolIO& IO) {
     for (const EffectCommand& Row : Table)
         if (Arguments.value(0) == QLatin1String(Row.Name)) return Row.Run(Arguments.mid(1), IO);
-    return Misused(IO, QStringLiteral("One of list, timings, render and sheet is wanted"));
+    return Misused(IO, QStringLiteral("One of %1 is wanted").arg(Names()));
 }
 
 }  // namespace neb

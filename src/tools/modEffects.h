@@ -9,5 +9,6 @@
 namespace neb {
 
 int RunEffects(const QStringList& Arguments, ToolIO& IO);
+void PrintEffectsHelp(std::ostream& Stream);  // of each of its parts
 
 }  // namespace neb

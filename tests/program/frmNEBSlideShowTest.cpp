@@ -16,14 +16,13 @@
 #include <QTest>
 #include <QTimer>
 
-#include "MeasuredMachine.h"
+#include "MainWindowRig.h"
 #include "controls/grid/FlexGrid.h"
 #include "db/clsDBEngine.h"
 #include "harness/ScriptedBoxes.h"
 #include "harness/TempFolder.h"
 #include "harness/WithoutPrivileges.h"
 #include "program/frmAbout.h"
-#include "program/frmHelp.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
@@ -41,65 +40,6 @@
 
 namespace neb {
 namespace {
-
-class MainWindow : public ::testing::Test {
-  protected:
-    MainWindow() {
-        SetDocumentsPath(mDocuments.Path());
-        AppPathCache = mProgram.Path();
-        test::MarkAsMeasured();
-        ReadOnlyDB = false;
-        DebugMode = false;
-    }
-    ~MainWindow() override {
-        SetHostWatcher({});
-        for (const auto& Window : LoadedForms()) Window->Unload();
-        TheOpeners() = {};
-        AppPathCache.clear();
-    }
-
-    void Start(const CommandLine& Line = {}) {
-        mWindow = std::make_unique<frmNEBSlideShow>();
-        mWindow->Form_Load(Line);
-    }
-    QAction* Entry(const char* Name) const {
-        return mWindow->findChild<QAction*>(QString::fromLatin1(Name));
-    }
-    // Presses an entry and lets its queued action run.
-    void Press(const char* Name) {
-        Entry(Name)->trigger();
-        DoEvents();
-    }
-    // Calls Do with a window once it stands open, and unloads it.
-    template <class Window>
-    static void WhenOpen(std::function<void(Window&)> Do) {
-        QTimer::singleShot(0, qApp, [Do = std::move(Do)] {
-            auto* Shown = Find<Window>();
-            if (!Shown || !Shown->isVisible()) return WhenOpen<Window>(Do);
-            const auto Held = Shown->shared_from_this();
-            Do(*Shown);
-            Shown->Unload();
-        });
-    }
-    static void WhenPreferencesOpen(std::function<void(frmPreferences&)> Do) {
-        WhenOpen<frmPreferences>(std::move(Do));
-    }
-    template <class Window>
-    static Window* Find() {
-        for (const auto& Each : LoadedForms())
-            if (auto* Found = dynamic_cast<Window*>(Each.get())) return Found;
-        return nullptr;
-    }
-    static void SaveAlbum(const QString& Name) {
-        std::int32_t AlbumID = 0;
-        ASSERT_TRUE(DBEngine->SaveAlbum(AlbumID, Name));
-    }
-
-    harness::TempFolder mDocuments;
-    harness::TempFolder mProgram;
-    harness::ScriptedBoxes mBoxes;
-    std::unique_ptr<frmNEBSlideShow> mWindow;
-};
 
 TEST_F(MainWindow, AFirstStartMakesTheFoldersAndTheGlobals) {
     Start();
@@ -392,21 +332,6 @@ TEST_F(MainWindow, ASlideManagerWithChangesKeepsTheProgramOpenWhenTheUserWants) 
     EXPECT_TRUE(mWindow->close());
 }
 
-TEST_F(MainWindow, TheWindowMenuListsTheOpenWindows) {
-    Start();
-    Press("mnuQuickShow");
-    auto* Menu = mWindow->menuBar()->findChild<QMenu*>("mnuWindows");
-    for (int I = 0; I < 2; ++I) {  // opening the menu twice lists each window once
-        Q_EMIT Menu->aboutToShow();
-        QStringList Texts;
-        for (QAction* Each : Menu->actions()) Texts << Each->text();
-        EXPECT_EQ(Texts.filter("Quick Show").size(), 1);
-    }
-    Press("mnuTile");
-    Press("mnuCascade");
-    EXPECT_TRUE(Find<frmQuickShow>()->isVisible());
-}
-
 TEST_F(MainWindow, TheFrameOfAChildClosesItAndTheChildCanCloseItself) {
     Start();
     Press("mnuQuickShow");
@@ -631,15 +556,6 @@ TEST_F(MainWindow, SystemInformationStartsTheToolThatTheDesktopHas) {
     StartSysInfo();
     qputenv("PATH", Path);
     EXPECT_TRUE(QTest::qWaitFor([&] { return FileExists(mProgram / "started"); }, 3000));
-}
-
-TEST_F(MainWindow, HelpIsShownAndAMissingHelpFileIsIgnored) {
-    Start();
-    Press("mnuHelpContents");
-    EXPECT_EQ(Find<frmHelp>(), nullptr);
-    WriteFile(AppPath() + "SlideShowHelp.hlp", "<h1>Help</h1>");
-    Press("mnuHelpIndex");
-    EXPECT_TRUE(Find<frmHelp>());
 }
 
 TEST_F(MainWindow, ADatabaseThatCannotBeReadIsAFaultAndNothingIsWritten) {

@@ -239,7 +239,8 @@ TEST(PutPreferences, WritesTheKeysInTheirOrder) {
                             "StepL=25",
                             "[Effect Selections]"};
     for (int Effect = 0; Effect <= 127; ++Effect)
-        Expected << EffectKey(Effect) + (Effect == 127 ? "=False" : "=True");
+        Expected << QStringLiteral("Effect.%1").arg(Effect, 3, 10, QChar(u'0')) +
+                        (Effect == 127 ? "=False" : "=True");
     EXPECT_EQ(Expected.join(u'\n').toStdString(), Lines.join(u'\n').toStdString());
     EXPECT_EQ(1000, ReadPreferences(Settings).Effects.DelayL) << "a delay of 0 is not read back";
 }

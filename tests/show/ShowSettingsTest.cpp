@@ -52,7 +52,7 @@ TEST(ReadShowSettings, CountsAbsentActiveKeysAsZero) {
 }
 
 TEST(ReadEffectSettings, HasDefaultsOfItsOwn) {
-    const EffectSettings Read = ReadEffectSettings(With({}), 0);
+    const EffectSettings Read = ReadEffectSettings(With({}), SettingReader::Show);
     EXPECT_TRUE(Read.UseEffectLevel);
     EXPECT_EQ(1, Read.MaxEffectLevel);
     EXPECT_EQ(1000, Read.LevelDelay);
@@ -63,12 +63,18 @@ TEST(ReadEffectSettings, HasDefaultsOfItsOwn) {
 
 TEST(ReadEffectSettings, TakesTheReadersOwnLevelForOneOutOfRange) {
     for (const char* Bad : {"-1", "4", "99"}) {
-        EXPECT_EQ(0, ReadEffectSettings(With({{"MaxEffectLevel", Bad}}), 0).MaxEffectLevel) << Bad;
-        EXPECT_EQ(1, ReadEffectSettings(With({{"MaxEffectLevel", Bad}}), 1).MaxEffectLevel) << Bad;
+        EXPECT_EQ(
+            0,
+            ReadEffectSettings(With({{"MaxEffectLevel", Bad}}), SettingReader::Show).MaxEffectLevel)
+            << Bad;
+        EXPECT_EQ(1, ReadEffectSettings(With({{"MaxEffectLevel", Bad}}), SettingReader::Preferences)
+                         .MaxEffectLevel)
+            << Bad;
     }
     for (const char* Good : {"0", "1", "2", "3"})
         EXPECT_EQ(QString::fromLatin1(Good).toInt(),
-                  ReadEffectSettings(With({{"MaxEffectLevel", Good}}), 1).MaxEffectLevel);
+                  ReadEffectSettings(With({{"MaxEffectLevel", Good}}), SettingReader::Preferences)
+                      .MaxEffectLevel);
 }
 
 TEST(ReadEffectSettings, CorrectsDelaysToAThousandAndStepsToTwenty) {
@@ -78,7 +84,7 @@ TEST(ReadEffectSettings, CorrectsDelaysToAThousandAndStepsToTwenty) {
                                                          {"StepH", "0"},
                                                          {"StepM", "x"},
                                                          {"StepL", "1"}}),
-                                                   0);
+                                                   SettingReader::Preferences);
     EXPECT_EQ((std::array{1000, 1000, 1}), (std::array{Read.DelayH, Read.DelayM, Read.DelayL}));
     EXPECT_EQ((std::array{20, 20, 1}), (std::array{Read.StepH, Read.StepM, Read.StepL}));
 }
@@ -94,7 +100,7 @@ TEST(ReadEffectSettings, KeepsTheSpeedOfTheLevelInForce) {
                                                              {"StepH", "1"},
                                                              {"StepM", "2"},
                                                              {"StepL", "3"}}),
-                                                       0);
+                                                       SettingReader::Preferences);
         EXPECT_EQ(Speed, std::pair(Read.LevelDelay, Read.LevelStep)) << Level;
     }
 }

@@ -384,6 +384,30 @@ TEST_F(NebctlTest, HelpIsThereForTheProgramAndForEachCommand) {
     }
 }
 
+// Each part of effects has its own row there; this is what people read of them.
+TEST_F(NebctlTest, HelpOfEffectsTellsOfEachOfItsParts) {
+    const QString Out = Tool({u"effects"_s, u"--help"_s}).Out;
+    EXPECT_EQ(
+        "Usage: nebctl effects list | timings [FILE] | render ... | sheet OUT\n\n"
+        "  effects list\n"
+        "      Prints number, name, engine and level of each transition as JSON; the level (1 "
+        "light\n"
+        "      to 3 heavy) follows from the times beside the program.\n"
+        "  effects timings [FILE] [--size WxH] [--runs N]\n"
+        "      Measures how long each transition takes, at 3840x2160 unless told otherwise, and\n"
+        "      writes the times as EffectStats.txt holds them, the shortest of 3 runs, to FILE or "
+        "the\n"
+        "      output. This takes ten minutes.\n"
+        "  effects render N OLD NEW PROGRESS OUT\n"
+        "      Draws one frame of transition N from the picture OLD to NEW, PROGRESS being 0 to "
+        "1,\n"
+        "      at the size of OLD, into the .png or .jpg file OUT.\n"
+        "  effects sheet OUT [--pictures OLD NEW]\n"
+        "      Draws all transitions half way, with their names, into the .png or .jpg file OUT.\n",
+        Out.toStdString());
+    EXPECT_TRUE(Tool({u"effects"_s}).Err.contains(u"One of list, timings, render and sheet is"));
+}
+
 TEST_F(NebctlTest, ProgressGoesToATerminalAloneAndVanishes) {
     const Outcome Shown = Tool({u"check"_s, Dir.Path()}, true);
     EXPECT_TRUE(Shown.Err.contains(u"Checking 50 %"));

@@ -7,6 +7,7 @@
 
 #include "controls/forms/FocusReturn.h"
 #include "controls/forms/ScreenPointer.h"
+#include "controls/forms/frmMsgBoxEx.h"
 
 namespace neb {
 namespace {
@@ -40,9 +41,19 @@ QString ToolkitFilters(const QString& Filters) {
     return Out.join(QStringLiteral(";;"));
 }
 
+QString TitleOf(const BoxRequest& Request) {
+    return Request.Title.isEmpty() ? QApplication::applicationDisplayName() : Request.Title;
+}
+
+// A message box grows with its text, in the end beyond the screen with its button.
+bool IsTooLong(const BoxRequest& Request) {
+    constexpr qsizetype MostLines = 25, MostLetters = 2500;
+    return Request.Buttons == BoxButtons::Ok &&
+           (Request.Text.count(u'\n') >= MostLines || Request.Text.size() > MostLetters);
+}
+
 void Fill(QMessageBox& Box, const BoxRequest& Request) {
-    Box.setWindowTitle(Request.Title.isEmpty() ? QApplication::applicationDisplayName()
-                                               : Request.Title);
+    Box.setWindowTitle(TitleOf(Request));
     Box.setTextFormat(Qt::PlainText);
     Box.setText(Request.Text);
     Box.setIcon(BoxIconFor(Request.Icon));
@@ -58,6 +69,10 @@ void Fill(QMessageBox& Box, const BoxRequest& Request) {
 }  // namespace
 
 BoxAnswer DesktopBoxes::Show(const BoxRequest& Request) {
+    if (IsTooLong(Request)) {
+        NewForm<frmMsgBoxEx>()->ShowMsgBox(TitleOf(Request), Request.Text);
+        return BoxAnswer::Ok;
+    }
     const PointerScope Normal(Pointer::Default);
     // The window below may go while the box is up, and takes the box with it.
     const QPointer<QMessageBox> Box = new QMessageBox(QApplication::activeWindow());

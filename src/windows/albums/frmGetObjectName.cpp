@@ -3,6 +3,7 @@
 #include "settings/modNEBSlideShow.h"
 #include "ui_frmGetObjectName.h"
 #include "windows/albums/modAlbumNames.h"
+#include "windows/frame/modUserInput.h"
 
 namespace neb {
 

@@ -9,7 +9,6 @@
 #include <QShortcut>
 
 #include "controls/fields/Icons.h"
-#include "controls/fields/KeyFilter.h"
 #include "controls/fields/ToolBar.h"
 #include "controls/forms/frmLoading.h"
 #include "controls/grid/FlexGrid.h"
@@ -17,6 +16,7 @@
 #include "settings/modNEBSlideShow.h"
 #include "support/modDEValidation.h"
 #include "ui_frmSlideShowDBM.h"
+#include "windows/albums/modAlbumNames.h"
 #include "windows/frame/Openers.h"
 #include "windows/frame/modWindowState.h"
 #include "windows/lists/SlideGrids.h"
@@ -53,7 +53,7 @@ void frmSlideShowDBM::SetUpChoice() {
     connect(mUi->cboAlbum, &QComboBox::currentIndexChanged, this, &frmSlideShowDBM::cboAlbum_Click);
     connect(mUi->cboSlideShows, &QComboBox::currentIndexChanged, this,
             &frmSlideShowDBM::cboSlideShows_Click);
-    new KeyFilter(mUi->txtName, &FixQuoteKey);
+    KeepQuotesClean(*mUi->txtName);
     mUi->splMain->setSizes({ListsRoom, TracksRoom});
     mUi->splMain->setStretchFactor(0, 1);  // the pictures get the room of a larger window
     mUi->splMain->setStretchFactor(1, 0);

@@ -6,6 +6,7 @@
 #include "albums/modLoadShow.h"
 #include "controls/grid/FlexGrid.h"
 #include "settings/modNEBSlideShow.h"
+#include "support/MediaTypes.h"
 #include "support/Services.h"
 #include "support/modFUFL.h"
 #include "ui_frmSlideShowDBM.h"
@@ -14,24 +15,16 @@
 namespace neb {
 namespace {
 
-const QString SoundFilter =
-    QStringLiteral("Wave Audio Files (*.wav)|*.wav|MP3 Audio Files (*.mp3)|*.mp3");
-
 // What stands in each column of a row.
 QString ShowTrack::*const Cells[] = {
     &ShowTrack::SlideSeqStart, &ShowTrack::SlideSeqEnd, &ShowTrack::Repeat,
     &ShowTrack::FitToSong,     &ShowTrack::Fade,        &ShowTrack::SoundTrackLoc,
 };
 
-bool IsSound(const QString& File) {
-    const QString Ext = GetFileExt(GetFileName(File)).toLower();
-    return Ext == u".wav" || Ext == u".mp3";
-}
-
 QStringList SoundsIn(const QMimeData& Dragged) {
     QStringList Files;
     for (const QUrl& Each : Dragged.urls())
-        if (Each.isLocalFile() && IsSound(Each.toLocalFile())) Files << Each.toLocalFile();
+        if (Each.isLocalFile() && IsSoundName(Each.toLocalFile())) Files << Each.toLocalFile();
     return Files;
 }
 
@@ -107,7 +100,7 @@ void frmSlideShowDBM::ChooseFile(int Row) {
     const QString Present = Grid.TextMatrix(Row, ColFile).trimmed();
     const QString Folder = HoldsSeparator(Present) ? GetFilePath(Present) : mSoundFolder;
     const QString File =
-        TheServices().Dialogs->OpenFile(tr("Choose a Sound Track"), Folder, SoundFilter);
+        TheServices().Dialogs->OpenFile(tr("Choose a Sound Track"), Folder, SoundFilters());
     if (File.isEmpty()) return;
     mSoundFolder = GetFilePath(File);
     Grid.SetTextMatrix(Row, ColFile, File);

@@ -1,5 +1,5 @@
-// The few windows that are opened from layers that do not know them. The start of the program
-// fills the table; an entry that is empty belongs to a window that this build does not have.
+// What windows want of the main window, and of windows that they do not know. The start of the
+// program fills the table; an entry that is empty belongs to a window that this build does not have.
 #pragma once
 
 #include <QString>
@@ -16,6 +16,8 @@ struct Openers {
     std::function<void(std::int32_t AlbumID, std::int32_t SlideShowID)> SlideShowMgr;
     // Puts a window as a child into the main window's frame, placed in the cascade.
     std::function<void(Form& Window)> ShowAsChild;
+    // Writes a text in the status bar; modNotice is for those who have one to tell.
+    std::function<void(const QString& Text)> Notice;
 };
 
 Openers& TheOpeners();

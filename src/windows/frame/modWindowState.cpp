@@ -6,9 +6,10 @@
 
 #include "controls/forms/Form.h"
 #include "controls/forms/modTwips.h"
+#include "settings/SettingKeys.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
-#include "support/modNumbers.h"
+#include "windows/frame/modNotice.h"
 
 namespace neb {
 namespace {
@@ -31,15 +32,21 @@ int StateOf(const QWidget& Frame) {
     return Frame.isMinimized() ? Minimised : Frame.isMaximized() ? Maximised : Normal;
 }
 
-int ReadPixels(const clsSettings& Settings, const QString& Section, const QString& Key,
-               int Default) {
-    const std::int32_t Twips = CInt(Val(Settings.GetValue(Section, Key, {})));
+int ReadPixels(const clsSettings& Settings, const SettingAt& At, int Default) {
+    const std::int32_t Twips = ReadNumber(Settings, At);
     return ToPixels(Twips > 0 ? Twips : Default);  // no window is worth opening without a size
 }
 
-void PutTwips(clsSettings& Settings, const QString& Section, const char* Key, int Pixels) {
-    Settings.PutValue(Section, QString::fromLatin1(Key),
-                      ShortestDecimal(static_cast<float>(ToTwips(Pixels))));
+void PutPixels(clsSettings& Settings, const SettingAt& At, int Pixels) {
+    PutNumber(Settings, At, ToTwips(Pixels));
+}
+
+void PutSize(clsSettings& Settings, const WindowMemory& Memory, const QWidget& Frame) {
+    PutPixels(Settings, {Setting::WindowHeight, Memory.Section}, Frame.height());
+    if (Memory.DefaultWidth)
+        PutPixels(Settings, {Setting::WindowWidth, Memory.Section}, Frame.width());
+    PutPixels(Settings, {Setting::WindowLeft, Memory.Section}, Frame.x());
+    PutPixels(Settings, {Setting::WindowTop, Memory.Section}, Frame.y());
 }
 
 // A child of the main window keeps within the room that is there, so that its buttons are seen.
@@ -93,14 +100,14 @@ void RestoreWindow(Form& Window, const WindowMemory& Memory) {
     QWidget& Frame = FrameOf(Window);
     QSize Size = Frame.size();
     Size.setHeight(
-        ReadPixels(Settings, Memory.Section, QStringLiteral("Height"), Memory.DefaultHeight));
+        ReadPixels(Settings, {Setting::WindowHeight, Memory.Section}, Memory.DefaultHeight));
     if (Memory.DefaultWidth)
         Size.setWidth(
-            ReadPixels(Settings, Memory.Section, QStringLiteral("Width"), Memory.DefaultWidth));
+            ReadPixels(Settings, {Setting::WindowWidth, Memory.Section}, Memory.DefaultWidth));
     Frame.resize(WithinRoom(Frame, Size));
     if (!Memory.DefaultWidth) return;
-    const QString State = Settings.GetValue(Memory.Section, QStringLiteral("WindowState"), {});
-    if (CInt(Val(State)) == Maximised) Frame.setWindowState(Qt::WindowMaximized);
+    if (ReadNumber(Settings, {Setting::WindowState, Memory.Section}) == Maximised)
+        Frame.setWindowState(Qt::WindowMaximized);
 }
 
 void SaveWindow(const Form& Window, const WindowMemory& Memory) {
@@ -108,14 +115,8 @@ void SaveWindow(const Form& Window, const WindowMemory& Memory) {
     const int State = StateOf(Frame);
     if (State == Minimised) return;
     clsSettings Settings = OpenSettings();
-    if (Memory.DefaultWidth)
-        Settings.PutValue(Memory.Section, QStringLiteral("WindowState"), QString::number(State));
-    if (State == Normal) {
-        PutTwips(Settings, Memory.Section, "Height", Frame.height());
-        if (Memory.DefaultWidth) PutTwips(Settings, Memory.Section, "Width", Frame.width());
-        PutTwips(Settings, Memory.Section, "Left", Frame.x());
-        PutTwips(Settings, Memory.Section, "Top", Frame.y());
-    }
+    if (Memory.DefaultWidth) PutNumber(Settings, {Setting::WindowState, Memory.Section}, State);
+    if (State == Normal) PutSize(Settings, Memory, Frame);
     SaveMemory(Settings);
 }
 
@@ -123,8 +124,8 @@ void SaveMemory(clsSettings& Settings) {
     if (ReadOnlyDB) return;
     try {
         Settings.Save();
-    } catch (const Fault&) {
-        // the window opens as it did before
+    } catch (const Fault& Problem) {
+        ShowNotice(Problem.Text());  // the window will open as it did before
     }
 }
 

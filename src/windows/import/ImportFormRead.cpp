@@ -16,6 +16,7 @@
 #include "support/modFUFL.h"
 #include "support/modNumbers.h"
 #include "ui_ImportForm.h"
+#include "windows/frame/modUserInput.h"
 #include "windows/import/ImportForm.h"
 #include "windows/import/frmDirSelect.h"
 #include "windows/import/frmFindGraphics.h"

@@ -9,10 +9,10 @@
 #include "controls/forms/ScreenPointer.h"
 #include "controls/forms/modTwips.h"
 #include "controls/grid/FlexGrid.h"
+#include "settings/SettingKeys.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/Services.h"
-#include "support/modNumbers.h"
 #include "ui_frmFindGraphics.h"
 #include "windows/frame/modWindowState.h"
 #include "windows/import/frmDirSelect.h"
@@ -23,7 +23,6 @@ namespace {
 const QString AllDrives = QStringLiteral("All Drives");
 const QString Browse = QStringLiteral("Browse");
 const QString Caption = QStringLiteral("Find Graphics");
-const QString Section = QStringLiteral("Find Graphics Window");
 const QString Failed = QStringLiteral("Operation Failed");
 constexpr int FilesPerTick = 200;
 constexpr int WaitMs = 10;
@@ -46,18 +45,18 @@ constexpr int ColCount = static_cast<int>(std::size(Columns));
 constexpr int ColName = 0;
 constexpr int ColPath = 1;
 
-QString WidthKey(int Col) {
-    return QStringLiteral("Col%1.Width").arg(Col);
+SettingAt WidthOf(int Col) {
+    return {Setting::FindColumn, QString::number(Col)};
 }
 
 // Stored twips in pixels, or what is there when there are none.
-int StoredPixels(const clsSettings& Settings, const QString& Key, int Present) {
-    const std::int32_t Twips = CInt(Val(Settings.GetValue(Section, Key, {})));
+int StoredPixels(const clsSettings& Settings, const SettingAt& At, int Present) {
+    const std::int32_t Twips = ReadNumber(Settings, At);
     return Twips > 0 ? ToPixels(Twips) : Present;
 }
 
-void PutTwips(clsSettings& Settings, const QString& Key, int Pixels) {
-    Settings.PutValue(Section, Key, QString::number(ToTwips(Pixels)));
+void PutPixels(clsSettings& Settings, const SettingAt& At, int Pixels) {
+    PutNumber(Settings, At, ToTwips(Pixels));
 }
 
 QStringList ReadyDrives() {
@@ -146,8 +145,8 @@ void frmFindGraphics::FillSearchPath() {
         if (Paths.ItemData(I) == NotSearched) Others.append(Paths.List(I));
     if (Others.isEmpty()) Others = {AllDrives, Browse};
     Paths.Clear();
-    for (const QString& Drive : mDrives) Paths.AddItem(Drive, Searched);
-    for (const QString& Other : Others) Paths.AddItem(Other, NotSearched);
+    for (const QString& Drive : mDrives) ComboAddItem(Paths, Drive, Searched);
+    for (const QString& Other : Others) ComboAddItem(Paths, Other, NotSearched);
     const int Place = mUi->cboSearchPath->findText(Chosen);
     Paths.SetListIndex(Place < 0 ? Paths.ListCount() - 2 : Place);
 }
@@ -340,30 +339,30 @@ void frmFindGraphics::RestorePlace() {
     const QSize Least(ToPixels(LeastTwips.width()), ToPixels(LeastTwips.height()));
     setMinimumSize(Least.expandedTo(layout()->minimumSize()));
     const clsSettings Settings = OpenSettings();
-    const int Kept = CInt(Val(Settings.GetValue(Section, QStringLiteral("WindowState"), {})));
+    const int Kept = ReadNumber(Settings, Setting::FindState);
     if (Kept == Maximised) setWindowState(Qt::WindowMaximized);
     if (Kept != Maximised && Kept != Minimised)
-        resize(StoredPixels(Settings, QStringLiteral("WindowWidth"), width()),
-               StoredPixels(Settings, QStringLiteral("WindowHeight"), height()));
+        resize(StoredPixels(Settings, Setting::FindWidth, width()),
+               StoredPixels(Settings, Setting::FindHeight, height()));
     RestoreColumns(Settings);
 }
 
 void frmFindGraphics::RestoreColumns(const clsSettings& Settings) {
     FlexGrid& Grid = *mUi->flxResults;
     for (int Col = 0; Col < ColCount; ++Col)
-        Grid.setColumnWidth(Col, StoredPixels(Settings, WidthKey(Col), Grid.columnWidth(Col)));
+        Grid.setColumnWidth(Col, StoredPixels(Settings, WidthOf(Col), Grid.columnWidth(Col)));
 }
 
 void frmFindGraphics::SavePlace() const {
     clsSettings Settings = OpenSettings();
     const int Kept = isMinimized() ? Minimised : isMaximized() ? Maximised : Normal;
-    Settings.PutValue(Section, QStringLiteral("WindowState"), QString::number(Kept));
+    PutNumber(Settings, Setting::FindState, Kept);
     if (Kept == Normal) {
-        PutTwips(Settings, QStringLiteral("WindowWidth"), width());
-        PutTwips(Settings, QStringLiteral("WindowHeight"), height());
+        PutPixels(Settings, Setting::FindWidth, width());
+        PutPixels(Settings, Setting::FindHeight, height());
     }
     for (int Col = 0; Col < ColCount; ++Col)
-        PutTwips(Settings, WidthKey(Col), mUi->flxResults->columnWidth(Col));
+        PutPixels(Settings, WidthOf(Col), mUi->flxResults->columnWidth(Col));
     SaveMemory(Settings);
 }
 

@@ -1,6 +1,5 @@
 #include "windows/import/frmQuickShow.h"
 
-#include "controls/fields/KeyFilter.h"
 #include "controls/forms/ScreenPointer.h"
 #include "controls/forms/Tell.h"
 #include "controls/grid/FlexGrid.h"
@@ -11,6 +10,7 @@
 #include "support/modDEValidation.h"
 #include "support/modFUFL.h"
 #include "ui_ImportForm.h"
+#include "windows/albums/modAlbumNames.h"
 #include "windows/frame/modBroadcast.h"
 #include "windows/frame/modWindowState.h"
 #include "windows/show/modSlideShows.h"
@@ -30,7 +30,7 @@ frmQuickShow::frmQuickShow() : ImportForm(Memory) {
     mUi->cmdImport->setAccessibleName(tr("Save"));
     mUi->cmdImport->setToolTip(
         QStringLiteral("Create an Album and Slide Show from the Selected Pictures"));
-    new KeyFilter(mUi->txtName, &FixQuoteKey);
+    KeepQuotesClean(*mUi->txtName);
 }
 
 // The folder's own name is what most people would type. Whoever begins anew with another folder

@@ -41,6 +41,11 @@ std::optional<PreferencesEntries::Choice> Chosen(QComboBox& Box) {
                                       Combo.List(Combo.ListIndex())};
 }
 
+// For what is counted in whole numbers from 0: the next slide, and the cells of the speeds.
+void FilterDigitKey(const EntryState& Field, std::int16_t& KeyAscii) {
+    FilterNumericKey(Field, KeyAscii, false);
+}
+
 }  // namespace
 
 // Until the settings have been read, the time that is in force counts.
@@ -65,10 +70,12 @@ void frmPreferences::SetUpGrid() {
                    {.Editable = true, .Stretch = true, .Heading = QStringLiteral("Delay")});
     Grid.setSelectionBehavior(QAbstractItemView::SelectItems);
     Grid.setSelectionMode(QAbstractItemView::SingleSelection);
+    Grid.SetKeyPressEdit(&FilterDigitKey);
 }
 
 void frmPreferences::ConnectControls() {
     new KeyFilter(mUi->txtSlideTimeout, &FilterTimeoutKey);
+    new KeyFilter(mUi->txtNextSlide, &FilterDigitKey);
     connect(mUi->cboAlbums, &QComboBox::currentIndexChanged, this,
             &frmPreferences::cboAlbums_Click);
     connect(mUi->cmdSelectAll, &QPushButton::clicked, this,

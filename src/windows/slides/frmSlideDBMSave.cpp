@@ -13,6 +13,7 @@
 #include "support/modDEValidation.h"
 #include "support/modFUFL.h"
 #include "ui_frmSlideDBM.h"
+#include "windows/frame/modUserInput.h"
 #include "windows/import/frmDirSelect.h"
 #include "windows/import/frmImportFilter.h"
 #include "windows/slides/frmSlideDBM.h"

@@ -20,22 +20,6 @@
 namespace neb {
 namespace {
 
-constexpr char PictureFilters[] =
-    "Windows Bitmap Images (*.bmp)|*.bmp|"
-    "Windows Enhanced Meta Files (*.emf)|*.emf|"
-    "JPEG Images (*.jpg;*.jpeg)|*.jpg;*.jpeg|"
-    "Kodak (tm) PhotoCD Images (*.pcd)|*.pcd|"
-    "ZSoft PaintBrush Images (*.pcx)|*.pcx|"
-    "Portable Network Graphic Images (*.png)|*.png|"
-    "Photoshop Images (*.psd)|*.psd|"
-    "Truevision Targa Images (*.tga)|*.tga|"
-    "Tagged Image Files (*.tif;*.tiff)|*.tif;*.tiff|"
-    "TLA Images (*.tla)|*.tla|"
-    "Wireless Bitmap Images (*.wbmp)|*.wbmp|"
-    "Windows Meta Files (*.wmf)|*.wmf|"
-    "All Graphics Files|*.bmp;*.emf;*.jpeg;*.jpg;*.pcd;*.pcx;*.png;*.psd;*.tga;*.tif;*.tiff;*.tla;"
-    "*.wbmp;*.wmf";
-
 constexpr quint32 BadFileName = 52;
 // What is smaller is done at once: a thread of its own would hold up the walk through an album.
 constexpr qint64 QuickBytes = 2'000'000, QuickPixels = 4'000'000;
@@ -243,7 +227,7 @@ void frmSlideDBM::ChoosePicture() {
     const auto Held = shared_from_this();
     const QString Path = TheServices().Dialogs->OpenFile(
         tr("Choose a Picture"), HoldsSeparator(mSlideLoc) ? GetFilePath(mSlideLoc) : QString(),
-        QString::fromLatin1(PictureFilters));
+        PictureFilters());
     if (!Path.isEmpty() && IsLoaded()) TakePicture(Path);
 }
 

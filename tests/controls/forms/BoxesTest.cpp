@@ -53,6 +53,29 @@ TEST_F(Boxes, ShowsTextTitleAndIconAsGiven) {
     EXPECT_EQ(BoxAnswer::No, Given);
 }
 
+TEST_F(Boxes, AMessageThatIsTooLongScrollsInAWindow) {
+    for (const QString& Long : {QStringLiteral("A line.\n").repeated(30).trimmed(),
+                                QStringLiteral("word ").repeated(600).trimmed()}) {
+        bool Seen = false;
+        WhenOpen<frmMsgBoxEx>([&](frmMsgBoxEx& Window) {
+            Seen = true;
+            EXPECT_EQ(u"Delete Confirmation", Window.windowTitle());
+            EXPECT_EQ(Long, Window.findChild<QPlainTextEdit*>()->toPlainText());
+            EXPECT_LE(Window.height(), 600);
+            Window.findChild<QPushButton*>(QStringLiteral("cmdOkay"))->click();
+        });
+        EXPECT_EQ(BoxAnswer::Ok, DesktopBoxes().Show({Long, YesNo.Title, BoxIcon::Information}));
+        EXPECT_TRUE(Seen);
+    }
+}
+
+TEST_F(Boxes, AQuestionStaysAQuestionHoweverLong) {
+    BoxRequest Long = YesNo;
+    Long.Text = QStringLiteral("A line.\n").repeated(30);
+    EXPECT_EQ(BoxAnswer::Yes,
+              Answer(Long, [](QMessageBox& Box) { Box.button(QMessageBox::Yes)->click(); }));
+}
+
 TEST_F(Boxes, AnOkBoxHasOneButtonAndAnswersOkHoweverItIsClosed) {
     const BoxRequest Plain{QStringLiteral("Done."), {}, BoxIcon::Information, BoxButtons::Ok};
     EXPECT_EQ(BoxAnswer::Ok, Answer(Plain, [](QMessageBox& Box) {

@@ -158,34 +158,6 @@ TEST_F(WindowStateTest, OpensWithTheDefaultSizeOfItsKind) {
     EXPECT_EQ(QSize(521, 480), FrameOf(Window).size());
 }
 
-TEST_F(WindowStateTest, AllKindsHaveTheirSizeFromTheFile) {
-    struct Row {
-        const char* Section;
-        int Height, Width;
-    };
-    const std::vector<Row> Rows{{"frmSlideDBM", 7200, 7815},  {"frmPicturePopup", 6675, 7260},
-                                {"frmSlideShowDBM", 9075, 0}, {"frmImportFilter", 7080, 0},
-                                {"frmQuickShow", 6540, 0},    {"frmSlideMgrBulk", 6315, 0},
-                                {"frmAlbumView", 6315, 0},    {"frmSlideShowView", 6315, 0}};
-    for (const Row& Kind : Rows) {
-        const WindowMemory Memory{QString::fromLatin1(Kind.Section), Kind.Height, Kind.Width};
-        auto Window = Open(Memory);
-        EXPECT_EQ(ToPixels(Kind.Height), FrameOf(Window).height()) << Kind.Section;
-        if (Kind.Width) {
-            EXPECT_EQ(ToPixels(Kind.Width), FrameOf(Window).width()) << Kind.Section;
-        }
-        FrameOf(Window).resize(FrameOf(Window).width() + (Kind.Width ? 15 : 0), 450);
-        const QSize Left = FrameOf(Window).size();
-        EXPECT_TRUE(Window->Unload());
-        Window = Open(Memory);
-        EXPECT_EQ(450, FrameOf(Window).height()) << Kind.Section;
-        if (Kind.Width) {
-            EXPECT_EQ(Left, FrameOf(Window).size()) << Kind.Section;
-        }
-        EXPECT_TRUE(Window->Unload());
-    }
-}
-
 TEST_F(WindowStateTest, WritesPlaceSizeAndStateInTwips) {
     const auto Window = Open(Manager);
     FrameOf(Window).setGeometry(20, 30, 500, 410);

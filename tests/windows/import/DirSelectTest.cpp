@@ -144,8 +144,43 @@ TEST_F(DirSelect, LeavesTheChoiceAsItWasWithoutTheOfferOfSubdirectories) {
     Window->Unload();
 }
 
+// A folder below which nobody counts to the end: it holds links to links to many pictures.
+QString EndlessFolder(const QString& Root) {
+    const auto Below = [&Root](int Level) { return Root + u"deep%1"_s.arg(Level); };
+    MakeDirs(Below(0));
+    for (int I = 0; I < 1000; ++I) WriteFile(Below(0) + u"/%1.jpg"_s.arg(I), {});
+    for (int Level = 1; Level <= 3; ++Level) {
+        MakeDirs(Below(Level));
+        for (int I = 0; I < 40; ++I)
+            EXPECT_TRUE(QFile::link(Below(Level - 1), Below(Level) + u"/%1"_s.arg(I)));
+    }
+    return Below(3);
+}
+
+TEST_F(DirSelect, AnswersTheKeyboardWhileItCounts) {
+    const QString Endless = EndlessFolder(Pics.Path());
+    Ask([&](frmDirSelect& Shown) {
+        const auto& Label = In<QLabel>(Shown, "lblDirSummary");
+        Recurse(Shown).setFocus();
+        QTest::keyClick(&Recurse(Shown), Qt::Key_Space);
+        Dir1(Shown).SetPath(Endless);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return Label.text() > "1"; }));
+        EXPECT_TRUE(Label.text().endsWith(u" graphics files so far ..."))
+            << Label.text().toStdString();
+        EXPECT_EQ(Pointer::Hourglass, ScreenPointer());
+        QTest::keyClick(&Recurse(Shown), Qt::Key_Space);
+        EXPECT_FALSE(Recurse(Shown).isChecked());
+        EXPECT_EQ("0 graphics files detected.", Summary(Shown)) << "counted anew, without the rest";
+        QTest::keyClick(&Recurse(Shown), Qt::Key_Space);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return Label.text().endsWith(u"so far ..."); }));
+        QTest::keyClick(&Shown, Qt::Key_Escape);
+        EXPECT_FALSE(Shown.IsLoaded()) << "nor does the end of the window wait";
+    });
+    EXPECT_EQ(Pointer::Default, ScreenPointer());
+}
+
 // The stop of the walk waits for nothing but the entry at hand, however long the walk would be.
-TEST_F(DirSelect, AnswersTheKeyboardWhileItCountsAndForgetsTheCountThatNobodyWantsAnyMore) {
+TEST_F(DirSelect, ForgetsTheCountThatNobodyWantsAnyMore) {
     for (int I = 0; I < 40; ++I)
         for (int J = 0; J < 50; ++J) WriteFile(Pics / u"many%1-%2.jpg"_s.arg(I).arg(J), {});
     int Turns = 0;

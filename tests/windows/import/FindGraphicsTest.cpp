@@ -1,5 +1,6 @@
 // Find Graphics through its window: the drives, the filter, the counts, what may go wrong, and what
 // it hands back.
+#include <QLayout>
 #include <QComboBox>
 #include <QElapsedTimer>
 #include <QListWidget>
@@ -281,11 +282,44 @@ TEST_F(FindGraphics, RemembersItsSizeAndColumns) {
     EXPECT_TRUE(Window->isMaximized());
 }
 
+// What is seen of the window at its smallest: each control whole, and none over another's edge.
+void ExpectAllControlsWhole(const QWidget& Window) {
+    for (const QWidget* Each : Window.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+        if (!Each->isVisible() || Each->isWindow()) continue;
+        EXPECT_TRUE(Window.rect().contains(Each->geometry())) << Each->objectName().toStdString();
+        EXPECT_GE(Each->width(), Each->minimumSizeHint().width())
+            << Each->objectName().toStdString();
+        EXPECT_GE(Each->height(), Each->minimumSizeHint().height())
+            << Each->objectName().toStdString();
+    }
+}
+
 TEST_F(FindGraphics, IsNeverSmallerThanItsControlsNeed) {
+    const QFont Before = QApplication::font();
+    for (const double Factor : {1.0, 1.5}) {
+        QFont Font = Before;
+        Font.setPointSizeF(Before.pointSizeF() * Factor);
+        QApplication::setFont(Font);
+        Show();
+        Window->resize(10, 10);
+        QCoreApplication::processEvents();
+        ExpectAllControlsWhole(*Window);
+        Window->Unload();
+    }
+    QApplication::setFont(Before);
+}
+
+TEST_F(FindGraphics, IsNeverSmallerThanItsOwnLeastSizeHoweverSmallItsControls) {
+    const QFont Before = QApplication::font();
+    QFont Tiny = Before;
+    Tiny.setPixelSize(2);
+    QApplication::setFont(Tiny);
     Show();
+    ASSERT_LT(Window->layout()->minimumSize().height(), 233);
     Window->resize(10, 10);
     EXPECT_GE(Window->width(), 413);
-    EXPECT_GE(Window->height(), 233);
+    EXPECT_EQ(233, Window->height());
+    QApplication::setFont(Before);
 }
 
 TEST_F(FindGraphics, IsWorkedByTheKeyboardAlone) {

@@ -232,15 +232,6 @@ TEST_F(QuickShow, CancelledLeavesNoAlbum) {
     EXPECT_EQ("6540", OpenSettings().GetValue(u"frmQuickShow"_s, u"Height"_s, {}).toStdString());
 }
 
-TEST_F(QuickShow, TakesItsNameFromTheFolderUntilOneIsTyped) {
-    MakePicture(Pics / u"Mary's walk/a.jpg"_s);
-    Window = NewForm<frmQuickShow>();
-    Window->SetImportDir(Pics / u"Mary's walk"_s);
-    Window->ShowModeless();
-    EXPECT_EQ(u"Mary’s walk"_s.toStdString(),
-              In<QLineEdit>(*Window, "txtName").text().toStdString());
-}
-
 TEST_F(QuickShow, IsHeldBackByAReadOnlyDatabase) {
     ReadOnlyDB = true;
     Show(1, u"Trip"_s);

@@ -126,7 +126,7 @@ TEST_F(PreferencesApply, RefusesCellsOutOfRangeAndGoesThere) {
     const QByteArray Before = FileText();
     for (const auto& Case : Cases)
         Open([&] {
-            TypeInCell(Case.Row, Case.Col, Case.Text);
+            PasteInCell(Case.Row, Case.Col, Case.Text);
             ExpectRefusal(Case.Message);
             Press("cmdApply");
             EXPECT_TRUE(IsOpen());

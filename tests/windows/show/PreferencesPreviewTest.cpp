@@ -122,7 +122,7 @@ TEST_F(PreferencesPreview, RefusesCellsOutOfRangeAndGoesOnInTheTurnOfThePictures
 TEST_F(PreferencesPreview, LooksAtTheLevelOfTheEffectAlone) {
     Open([&] {
         TypeInCell(1, ColStep, "0");
-        TypeInCell(2, ColDelay, "x");
+        PasteInCell(2, ColDelay, "x");
         GoTo(1);
         Press("cmdPreview");
         EXPECT_TRUE(View().IsRunning());

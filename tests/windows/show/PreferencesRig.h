@@ -95,6 +95,12 @@ class PreferencesRig : public ProjectorRig {
         QTest::keyClicks(Editor, QString::fromLatin1(Typed));
         if (Enter) QTest::keyClick(Editor, Qt::Key_Return);
     }
+    // The same from the clipboard, which no key filter sees.
+    void PasteInCell(int Row, int Col, const char* Pasted) const {
+        TypeInCell(Row, Col, "", false);
+        CellEditor()->insert(QString::fromLatin1(Pasted));
+        QTest::keyClick(CellEditor(), Qt::Key_Return);
+    }
     QPoint OnName(int Row) const { return List().visualItemRect(List().item(Row)).center(); }
     void GoTo(int Row) const {
         List().scrollToItem(List().item(Row));

@@ -132,6 +132,19 @@ TEST_F(PreferencesWindow, TheTimeoutTakesDigitsAndOnePoint) {
     });
 }
 
+TEST_F(PreferencesWindow, TheNextSlideAndTheSpeedsTakeDigitsAlone) {
+    Open([&] {
+        Type("txtNextSlide", "-1.2a");
+        EXPECT_EQ("12", Text("txtNextSlide").text());
+        QTest::keyClick(&Text("txtNextSlide"), Qt::Key_Backspace);
+        EXPECT_EQ("1", Text("txtNextSlide").text());
+        TypeInCell(1, ColStep, "x2,5 ");
+        EXPECT_EQ("25", Grid().TextMatrix(1, ColStep));
+        TypeInCell(2, ColDelay, "-100.5");
+        EXPECT_EQ("1005", Grid().TextMatrix(2, ColDelay));
+    });
+}
+
 TEST_F(PreferencesWindow, SelectAllAndSelectNoneSelect) {
     Open([&] {
         Press("cmdSelectNone");

@@ -268,8 +268,21 @@ TEST_F(ProjectorMenu, HasNoPreferencesInAReadOnlyDatabase) {
 TEST_F(ProjectorMenu, OpensForTheRightButtonAlone) {
     AddSlides(1);
     Run([&](Projector&) {
-        QTest::mouseClick(Picture, Qt::MiddleButton);
-        EXPECT_EQ(nullptr, QApplication::activePopupWidget());
+        for (const auto Button :
+             {Qt::LeftButton, Qt::MiddleButton, Qt::BackButton, Qt::RightButton}) {
+            int Opened = 0;
+            QTimer Closer;  // a click does not return while its menu is open
+            QObject::connect(&Closer, &QTimer::timeout, [&Opened] {
+                QWidget* Menu = QApplication::activePopupWidget();
+                if (!Menu) return;
+                ++Opened;
+                Menu->close();
+            });
+            Closer.start(2);
+            QTest::mouseClick(Picture, Button);
+            QTest::qWait(20);
+            EXPECT_EQ(Button == Qt::RightButton ? 1 : 0, Opened) << Button;
+        }
     });
 }
 

@@ -1,0 +1,24 @@
+#include "windows/frame/modUserInput.h"
+
+#include "albums/modPictureFiles.h"
+#include "settings/modNEBSlideShow.h"
+#include "support/Services.h"
+
+namespace neb {
+
+bool ValidateUserInput(const QString& FieldName, const QString& Text) {
+    const QString Illegal = IllegalChars(Text);
+    if (Illegal.isEmpty()) return true;
+    MsgBox(QStringLiteral("The entered ") + FieldName +
+               QStringLiteral(" contained the following illegal characters:\n") + Illegal,
+           QStringLiteral("Invalid User Input"), BoxIcon::Information);
+    return false;
+}
+
+bool IsReservedForAlbums(const QString& Path, const QString& Root) {
+    const auto Why = WhyReservedForAlbums(Path, Root);
+    if (Why) MsgBox(*Why);
+    return Why.has_value();
+}
+
+}  // namespace neb

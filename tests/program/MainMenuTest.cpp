@@ -1,0 +1,159 @@
+// The menu of the main window: what its help, its list of windows and its notices do.
+#include "program/MainMenu.h"
+
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QScrollBar>
+#include <QStatusBar>
+#include <QTest>
+#include <QTextBlock>
+#include <QTextBrowser>
+
+#include "MainWindowRig.h"
+#include "program/frmHelp.h"
+#include "support/Fault.h"
+#include "windows/frame/modNotice.h"
+#include "windows/frame/modWindowState.h"
+#include "windows/import/frmQuickShow.h"
+#include "windows/slides/frmSlideMgrBulk.h"
+
+namespace neb {
+namespace {
+
+class TheMenu : public MainWindow {
+  protected:
+    // Opens the menu of the windows as a user does, and closes it again.
+    QStringList WindowEntries() {
+        QMenu* Menu = WindowMenu();
+        Menu->popup(mWindow->mapToGlobal(QPoint(0, 20)));
+        Menu->close();
+        QStringList Texts;
+        for (const QAction* Each : Menu->actions())
+            Texts << (Each->isSeparator() ? "-" : Each->text() + (Each->isChecked() ? " *" : ""));
+        return Texts;
+    }
+    QMenu* WindowMenu() const { return mWindow->menuBar()->findChild<QMenu*>("mnuWindows"); }
+    QMdiArea& Area() const { return *mWindow->findChild<QMdiArea*>(); }
+    QString Notice() const { return mWindow->statusBar()->currentMessage(); }
+
+    // The line at the top of the help as it stands on the screen.
+    QString TopOfHelp() const {
+        const auto* Text = Find<frmHelp>()->findChild<QTextBrowser*>("txtHelp");
+        return Text->cursorForPosition(QPoint(Text->width() / 2, 2)).block().text();
+    }
+    void WriteHelp() const {
+        const QString Much = QStringLiteral("<p>and so on</p>").repeated(200);
+        WriteFile(AppPath() + "SlideShowHelp.hlp",
+                  (Much + "<h1><a name=contents>All of it</a></h1>" + Much +
+                   "<h1><a name=index>By name</a></h1>" + Much)
+                      .toUtf8());
+    }
+};
+
+TEST_F(TheMenu, HelpOpensAtItsContentsAndAtItsIndex) {
+    Start();
+    WriteHelp();
+    Press("mnuHelpContents");
+    ASSERT_TRUE(Find<frmHelp>());
+    EXPECT_TRUE(Find<frmHelp>()->isVisible());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return TopOfHelp() == "All of it"; }, 2000))
+        << TopOfHelp().toStdString();
+    Find<frmHelp>()->Unload();
+    Press("mnuHelpIndex");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return TopOfHelp() == "By name"; }, 2000))
+        << TopOfHelp().toStdString();
+}
+
+TEST_F(TheMenu, TheHelpThatComesWithTheProgramHasBothPlaces) {
+    const QByteArray Help = ReadFile(NEB_SOURCE_DIR "/assets/help/SlideShowHelp.hlp");
+    for (const char* Place : {"<a name=\"contents\">", "<a name=\"index\">"})
+        EXPECT_TRUE(Help.contains(Place)) << Place;
+}
+
+TEST_F(TheMenu, AMissingHelpFileIsToldInTheStatusBarAlone) {
+    Start();
+    EXPECT_EQ("", Notice());
+    Press("mnuHelpContents");
+    EXPECT_EQ(Find<frmHelp>(), nullptr);
+    EXPECT_EQ(mBoxes.ShownCount(), 0);
+    EXPECT_TRUE(Notice().contains("SlideShowHelp.hlp")) << Notice().toStdString();
+}
+
+TEST_F(TheMenu, ANoticeOfAnyWindowStandsInTheStatusBarInOneLine) {
+    Start();
+    ShowNotice("The letter was sent.\nIt is on its way.");
+    EXPECT_EQ("The letter was sent. It is on its way.", Notice());
+    EXPECT_TRUE(mWindow->statusBar()->isVisible());
+    ShowNotice("Another.");
+    EXPECT_EQ("Another.", Notice());
+    mWindow.reset();
+    ShowNotice("Nobody is there.");
+}
+
+TEST_F(TheMenu, AWindowWhosePlaceCannotBeKeptClosesAndSaysSoInTheStatusBar) {
+    Start();
+    Press("mnuQuickShow");
+    SetHostWatcher([](HostStep Step, const QString& Path, qint64&) {
+        if (Step == HostStep::Write && Path.contains(u"QLM.ini")) throw Fault("No room.", Path);
+    });
+    EXPECT_TRUE(Find<frmQuickShow>()->Unload());
+    EXPECT_EQ(Find<frmQuickShow>(), nullptr);
+    EXPECT_TRUE(Notice().startsWith("No room.")) << Notice().toStdString();
+}
+
+TEST_F(TheMenu, ListsTheOpenWindowsOnceEachAndMarksTheActiveOne) {
+    Start();
+    SaveAlbum("Here & There");
+    EXPECT_EQ(QStringList({"&Cascade", "&Tile"}), WindowEntries());
+    Press("mnuQuickShow");
+    Press("mnuSlideMgrBulk");
+    const QStringList Both{"&Cascade", "&Tile", "-", "&1 Quick Show",
+                           "&2 Bulk Slide Manager - Here && There *"};
+    EXPECT_EQ(Both, WindowEntries());
+    EXPECT_EQ(Both, WindowEntries()) << "and the second time as well";
+    Find<frmQuickShow>()->Unload();
+    DoEvents();
+    EXPECT_EQ(QStringList({"&Cascade", "&Tile", "-", "&1 Bulk Slide Manager - Here && There *"}),
+              WindowEntries());
+}
+
+TEST_F(TheMenu, AnOpenWindowComesToTheFrontWhenItIsChosen) {
+    Start();
+    Press("mnuQuickShow");
+    Press("mnuSlideMgrBulk");
+    ASSERT_TRUE(qobject_cast<frmSlideMgrBulk*>(Area().activeSubWindow()->widget()));
+    WindowEntries();
+    WindowMenu()->actions().at(3)->trigger();
+    EXPECT_TRUE(qobject_cast<frmQuickShow*>(Area().activeSubWindow()->widget()));
+    EXPECT_EQ("&1 Quick Show *", WindowEntries().at(3));
+}
+
+TEST_F(TheMenu, TileLaysTheWindowsSideBySideAndCascadeOneOverTheOther) {
+    Start();
+    Press("mnuQuickShow");
+    Press("mnuSlideMgrBulk");
+    const auto Frames = Area().subWindowList();
+    Press("mnuTile");
+    EXPECT_FALSE(Frames[0]->geometry().intersects(Frames[1]->geometry()));
+    Press("mnuCascade");
+    EXPECT_TRUE(Frames[0]->geometry().intersects(Frames[1]->geometry()));
+    EXPECT_NE(Frames[0]->pos(), Frames[1]->pos());
+    for (const QMdiSubWindow* Each : Frames) EXPECT_TRUE(Each->widget()->isVisible());
+}
+
+TEST_F(TheMenu, OnlyTheEntriesOfWindowsToComeRest) {
+    Start();
+    QStringList Resting;
+    for (const QAction* Each : mWindow->findChildren<QAction*>())
+        if (Each->objectName().startsWith("mnu") && !Each->isEnabled())
+            Resting << Each->objectName();
+    Resting.sort();
+    EXPECT_EQ(QStringList({"mnuAlbumExport", "mnuAlbumImport", "mnuAlbumPrint",
+                           "mnuSlideShowExport", "mnuSlideShowImport", "mnuSlideShowPrint"}),
+              Resting);
+}
+
+}  // namespace
+}  // namespace neb
