@@ -29,15 +29,16 @@ void AddSlide(Tour& Guide, int SlideSeq) {
     Guide.Add({Numbered("show-slide-", SlideSeq), SlideStands(SlideSeq), {}, true, true});
 }
 
-// By the key, unless the show has gone on by itself meanwhile.
+// By the key, when the slide before has been listened to, unless the show has gone on by itself.
 void GoOn(Tour& Guide, int SlideSeq) {
     Guide.Add({"next-slide",
-               {},
+               [SlideSeq, IsHeard = IsListenedTo(ListenSeconds)] {
+                   return CurrentSlideSeq >= SlideSeq || IsHeard();
+               },
                [SlideSeq] {
                    if (CurrentSlideSeq < SlideSeq) Key(Qt::Key_Up);
                },
-               false,
-               true});
+               false, true});
 }
 
 void Begin(Tour& Guide, frmNEBSlideShow& Window) {

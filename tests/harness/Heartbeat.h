@@ -37,10 +37,15 @@ class Heartbeat {
         const double Now = TimeWithAProcessor();
         mLongest = std::max(mLongest, Now - std::exchange(mLast, Now));
     }
-    // The clock less what this thread has spent waiting for a processor.
+    // The clock less what this thread has spent waiting for a processor, both of one moment:
+    // between the two it may lose the processor.
     static double TimeWithAProcessor() {
-        const Milliseconds Now = std::chrono::steady_clock::now().time_since_epoch();
-        return Now.count() - Waited();
+        for (double Before = Waited();;) {
+            const Milliseconds Now = std::chrono::steady_clock::now().time_since_epoch();
+            const double After = Waited();
+            if (After == Before) return Now.count() - After;
+            Before = After;
+        }
     }
     // The second of the kernel's three figures: nanoseconds in the queue of a processor. Where the
     // kernel does not count them, 0: the test is then as strict as the clock.

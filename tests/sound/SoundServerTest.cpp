@@ -80,6 +80,16 @@ double LateToneLevel(const Samples& Heard) {
     return ToneLevel(Samples(Heard.begin() + From, Heard.end()), 882);
 }
 
+// Of the tenth of a second in which it is loudest: on a busy machine the sound has gaps, which take
+// from a level and never add to it.
+double BestToneLevel(const Samples& Heard) {
+    constexpr std::ptrdiff_t Tenth = 4410 * 2;
+    double Best = 0;
+    for (auto From = Heard.begin(); Heard.end() - From >= Tenth; From += Tenth)
+        Best = std::max(Best, ToneLevel(Samples(From, From + Tenth), 882));
+    return Best;
+}
+
 struct ServerPlayer {
     SoundServer Server;
     EnvironmentValue Driver{"SDL_AUDIODRIVER", "pulseaudio"};
@@ -102,6 +112,33 @@ struct ServerPlayer {
         return WaitUntil([&] { return Players->Keeper().Pulling() == Wanted; });
     }
     double Position() const { return Graph->GetCurrentPosition(); }
+    // The tone comes out as loud as it is played, and never louder.
+    void ExpectIsHeard() {
+        double Level = 0;
+        EXPECT_TRUE(WaitUntil([&] {
+            Level = BestToneLevel(Server.Listen(600));
+            return Level > 0.49;
+        })) << Level;
+        EXPECT_LT(Level, 0.51);
+    }
+    void ExpectSilence() {
+        double Level = 1;
+        EXPECT_TRUE(WaitUntil([&] {
+            Level = LateToneLevel(Server.Listen(900));
+            return Level < 0.001;
+        })) << Level;
+    }
+};
+
+// Where the player is, and between which two moments it was asked.
+struct PlaceInTime {
+    using Seconds = std::chrono::duration<double>;
+    static Seconds Now() { return std::chrono::steady_clock::now().time_since_epoch(); }
+
+    explicit PlaceInTime(const ServerPlayer& P) : Position(P.Position()) {}
+    Seconds Before = Now();
+    double Position;
+    Seconds After = Now();
 };
 
 }  // namespace
@@ -112,9 +149,9 @@ TEST(SoundServer, WhatIsPlayedIsHeardThere) {
     ASSERT_TRUE(P.Server.Start());
     P.Play();
     ASSERT_TRUE(P.PulledBy(SoundKeeper::Puller::Device));
-    EXPECT_NEAR(0.5, LateToneLevel(P.Server.Listen(600)), 0.01);
+    P.ExpectIsHeard();
     P.Graph->Pause();
-    EXPECT_LT(LateToneLevel(P.Server.Listen(900)), 0.001);
+    P.ExpectSilence();
 }
 
 TEST(SoundServer, AfterAServerThatDiesTheShowGoesOnAndTheNextOneIsUsed) {
@@ -126,12 +163,12 @@ TEST(SoundServer, AfterAServerThatDiesTheShowGoesOnAndTheNextOneIsUsed) {
     ASSERT_TRUE(WaitUntil([&] { return P.Position() > 0.2; }));
     P.Server.Kill();
     ASSERT_TRUE(P.PulledBy(SoundKeeper::Puller::Clock));
-    const auto Start = std::chrono::steady_clock::now();
-    const double First = P.Position();
+    const PlaceInTime First(P);
     std::this_thread::sleep_for(500ms);
-    const std::chrono::duration<double> Gone = std::chrono::steady_clock::now() - Start;
-    EXPECT_NEAR(Gone.count(), P.Position() - First, 0.05);
+    const PlaceInTime Second(P);
+    EXPECT_GT(Second.Position - First.Position, (Second.Before - First.After).count() - 0.05);
+    EXPECT_LT(Second.Position - First.Position, (Second.After - First.Before).count() + 0.05);
     ASSERT_TRUE(P.Server.Start());
     ASSERT_TRUE(P.PulledBy(SoundKeeper::Puller::Device));
-    EXPECT_NEAR(0.5, LateToneLevel(P.Server.Listen(600)), 0.01);
+    P.ExpectIsHeard();
 }
