@@ -1,6 +1,6 @@
 #include "albums/BulkSlides.h"
 
-#include "db/clsNEBAlbum.h"
+#include "db/clsDBEngine.h"
 
 namespace neb {
 
@@ -24,6 +24,43 @@ QString SlideTally::Text(const QString& DoneWord, const QString& DoWord) const {
     QString Told = QStringLiteral("%1 slides successfully %2.").arg(Done).arg(DoneWord);
     if (Failed > 0) Told += QStringLiteral("\nFailed to %1 %2 slides.").arg(DoWord).arg(Failed);
     return Told;
+}
+
+void CaptionEdits::Note(std::int32_t SlideID, const QString& Caption, const clsNEBSlide* Stored) {
+    if (Stored && Stored->SlideText == Caption)
+        mTyped.remove(SlideID);
+    else
+        mTyped[SlideID] = Caption;
+}
+
+QString CaptionEdits::ShownOf(const clsNEBSlide& Slide) const {
+    return mTyped.value(Slide.SlideID, Slide.SlideText);
+}
+
+CaptionSave::CaptionSave(clsDBEngine& theDB, const QObject* Asker, std::int32_t AlbumID)
+    : mDB(theDB),
+      mAlbumID(AlbumID),
+      mDoor(theDB, Asker),
+      mSaved(mDoor.AsOne(Change::Kind::CaptionsSaved, AlbumID)) {}
+
+bool CaptionSave::Save(std::int32_t SlideID, const QString& Caption) {
+    clsNEBAlbum* Album = mDB.GetAlbum(mAlbumID);
+    clsNEBSlide* Slide = Album ? mFinder.Find(*Album, SlideID) : nullptr;
+    mTally.Count(Slide != nullptr);
+    if (Slide) mDoor.SaveCaption(mAlbumID, *Slide, Caption).Never();
+    return Slide != nullptr;
+}
+
+SlideTally DeleteSlides(clsDBEngine& theDB, const QObject* Asker, std::int32_t AlbumID,
+                        const std::vector<std::int32_t>& SlideIDs, const KeepGoing& GoesOn) {
+    SlideTally Tally;
+    Changes Door(theDB, Asker);
+    for (const std::int32_t SlideID : SlideIDs) {
+        Tally.Count(bool(Door.DeleteSlide(AlbumID, SlideID)));
+        if (!GoesOn()) break;
+    }
+    if (clsNEBAlbum* Album = theDB.GetAlbum(AlbumID)) Album->SortSlides();
+    return Tally;
 }
 
 }  // namespace neb

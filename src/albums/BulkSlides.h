@@ -1,15 +1,19 @@
 // What the bulk slide manager does to an album that needs no window: it finds ten thousand slides
-// one after the other in no time, and counts what became of them.
+// one after the other in no time, keeps what is typed, saves captions, deletes slides, and counts
+// what became of them.
 #pragma once
 
 #include <QHash>
 #include <QString>
 #include <cstdint>
+#include <vector>
+
+#include "db/Changes.h"
+#include "support/KeepGoing.h"
 
 namespace neb {
 
 class clsNEBAlbum;
-class clsNEBSlide;
 
 // The slides of one album by ID. What it remembers are places, each looked at before it is
 // believed: slides may come and go between two calls.
@@ -34,5 +38,44 @@ struct SlideTally {
     // what was done ("saved"), DoWord what was tried ("save").
     QString Text(const QString& DoneWord, const QString& DoWord) const;
 };
+
+// Captions that are typed and not yet saved.
+class CaptionEdits {
+  public:
+    // A caption typed back to the one that is stored is none. Stored: nullptr when the slide has
+    // gone.
+    void Note(std::int32_t SlideID, const QString& Caption, const clsNEBSlide* Stored);
+    void Forget(std::int32_t SlideID) { mTyped.remove(SlideID); }
+    void Clear() { mTyped.clear(); }
+    QString ShownOf(const clsNEBSlide& Slide) const;  // what was typed for it, else its own
+
+  private:
+    QHash<std::int32_t, QString> mTyped;  // by SlideID
+};
+
+// The saving of many captions of an album. The other windows hear of it once: when Tell is called,
+// at the latest at the end.
+class CaptionSave {
+  public:
+    // Asker: the window that knows of it already.
+    CaptionSave(clsDBEngine& theDB, const QObject* Asker, std::int32_t AlbumID);
+    // False when there is no such slide; counted either way.
+    bool Save(std::int32_t SlideID, const QString& Caption);
+    const SlideTally& Tally() const { return mTally; }
+    void Tell() { mSaved.Now(); }
+
+  private:
+    clsDBEngine& mDB;
+    std::int32_t mAlbumID;
+    Changes mDoor;
+    Announcement mSaved;
+    SlideFinder mFinder;
+    SlideTally mTally;
+};
+
+// Deletes slides of an album one by one, each with its files, and tells of each at once. GoesOn is
+// asked after each; false ends the work, and what is left stays.
+SlideTally DeleteSlides(clsDBEngine& theDB, const QObject* Asker, std::int32_t AlbumID,
+                        const std::vector<std::int32_t>& SlideIDs, const KeepGoing& GoesOn);
 
 }  // namespace neb

@@ -3,54 +3,126 @@
 #include "albums/modImport.h"
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
-#include "pictures/ImgX.h"
+#include "support/Fault.h"
 #include "support/files/modHostFiles.h"
-#include "support/modFUFL.h"
 
 namespace neb {
 namespace {
 
-void SetPlaying(clsNEBSlide& Slide, const SlideEdits& Edits) {
-    Slide.Override = Edits.Override;
-    Slide.Repeat = Edits.Repeat;
+const QString NoAlbum = QStringLiteral("Could not find the album.");
+const QString MissingTitle = QStringLiteral("Missing Slide");
+
+QString PathOf(const QString& DBPath, const SlideInHand& InHand) {
+    return SlidePath(DBPath, InHand.AlbumID(), InHand.PictureName());
 }
 
-void ClearSound(const QString& File, clsNEBSlide& Slide) {
+void SetPlaying(clsNEBSlide& Record, const SlideInHand& InHand) {
+    Record.Override = InHand.Override();
+    Record.Repeat = InHand.Repeat();
+}
+
+void DropSound(const QString& File, clsNEBSlide& Record) {
     DeleteFile(File);
-    Slide.SoundTrackLoc.clear();
-    Slide.Override = Slide.Repeat = false;
+    Record.SoundTrackLoc.clear();
+    Record.Override = Record.Repeat = false;
+}
+
+// The new picture as the slide's JPEG; its thumbnail is made anew when it is asked for.
+void StorePicture(const clsDBEngine& theDB, std::int32_t AlbumID,
+                  const SlideInHand::JpegMaker& Jpeg, clsNEBSlide& Record) {
+    if (!Jpeg) return;
+    const QString Folder = SlidesFolder(theDB.DBPath(), AlbumID);
+    const QString Name = FileStem(Record.SlideID) + QStringLiteral(".jpg");
+    ReplaceFile(Folder + Name, Jpeg());
+    DropFile(Folder + ThumbnailName(Record.SlideID));
+    Record.SlideLoc = Name.toUpper();
+}
+
+// A new slide enters the album with its caption alone: its files are named after its number.
+Answer<> EnterNew(Changes& Door, SlideInHand& InHand) {
+    if (!InHand.IsNew()) return Done();
+    clsNEBSlide Record;
+    Record.SlideText = InHand.Caption();
+    Answer<Announcement> Made = Door.SaveSlide(InHand.AlbumID(), Record);
+    if (!Made) return Refuse(QStringLiteral("Failed to save slide."));
+    InHand.MoveTo(InHand.AlbumID(), Made->What().SlideID);
+    Made->Never();  // the save that follows tells of it
+    return Done();
+}
+
+// The record to be, its files in the album. Where one cannot be written, the record has what came
+// before it: the caption at least.
+clsNEBSlide WithFiles(const clsDBEngine& theDB, Changes& Door, const SlideInHand& InHand,
+                      const SlideInHand::JpegMaker& Jpeg, clsNEBSlide Record) {
+    Record.SlideText = InHand.Caption();
+    try {
+        StorePicture(theDB, InHand.AlbumID(), Jpeg, Record);
+        StoreSound(theDB, InHand, Record);
+    } catch (const Fault&) {
+        const auto AsFarAsItCame = Door.SaveSlide(InHand.AlbumID(), Record);
+        throw;
+    }
+    return Record;
 }
 
 }  // namespace
 
-std::function<QByteArray()> JpegToStore(const QString& SlideLoc, const ImgX* Edited) {
-    if (Edited) return [Picture = *Edited] { return FittedJpeg(Picture); };
-    if (HoldsSeparator(SlideLoc)) return [SlideLoc] { return FittedJpeg(SlideLoc); };
-    return {};
+Answer<QString> StoredPicture(const QString& DBPath, const SlideInHand& InHand) {
+    if (InHand.PictureName().isEmpty())
+        return Refuse(QStringLiteral("The Current Slide Appears to be Corrupt."));
+    const QString Path = PathOf(DBPath, InHand);
+    if (FileExists(Path)) return Path;
+    return BoxRequest{
+        .Text = QStringLiteral("The graphic for the current slide appears to have been deleted.\n"
+                               "Double Slick on the Slide Spaceholder to browse for it."),
+        .Title = QStringLiteral("Slide Missing")};
 }
 
-void StorePicture(const clsDBEngine& theDB, std::int32_t AlbumID, clsNEBSlide& Slide,
-                  const SlideEdits& Edits) {
-    if (!Edits.Jpeg) return;
-    const QString Folder = SlidesFolder(theDB.DBPath(), AlbumID);
-    const QString Stem = FileStem(Slide.SlideID);
-    ReplaceFile(Folder + Stem + QStringLiteral(".jpg"), Edits.Jpeg());
-    DropFile(Folder + ThumbnailName(Slide.SlideID));
-    Slide.SlideLoc = (Stem + QStringLiteral(".jpg")).toUpper();
+Answer<> CheckPicture(const QString& DBPath, const SlideInHand& InHand) {
+    if (InHand.PictureName().isEmpty())
+        return Refuse(
+            QStringLiteral("You must first select the picture you want to use for this slide."),
+            MissingTitle);
+    if (InHand.IsPictureLoose() || FileExists(PathOf(DBPath, InHand))) return Done();
+    return Refuse(QStringLiteral("The currently selected slide cannot be found.\n"
+                                 "You must select a new picture you want to use for this slide."),
+                  MissingTitle);
 }
 
-void StoreSound(const clsDBEngine& theDB, std::int32_t AlbumID, clsNEBSlide& Slide,
-                const SlideEdits& Edits) {
-    const QString Name = FileStem(Slide.SlideID) + QStringLiteral(".wav");
-    const QString File = SlidesFolder(theDB.DBPath(), AlbumID) + Name;
-    if (Edits.SoundCleared) return ClearSound(File, Slide);
-    if (!Edits.Recording) {
-        if (!Edits.SoundLoc.isEmpty()) SetPlaying(Slide, Edits);
+Answer<Announcement> SaveSlide(clsDBEngine& theDB, const QObject* Asker, SlideInHand& InHand,
+                               const SlideInHand::JpegMaker& Jpeg) {
+    clsNEBAlbum* Album = theDB.GetAlbum(InHand.AlbumID());
+    if (!Album) return Refuse(NoAlbum);
+    Changes Door(theDB, Asker);
+    const Answer<> Entered = EnterNew(Door, InHand);
+    if (!Entered) return Entered.Refusal();
+    const clsNEBSlide* Stored = Album->GetSlide(InHand.SlideID());
+    if (!Stored) return Refuse(QStringLiteral("Could not find the slide."));
+    const clsNEBSlide Record = WithFiles(theDB, Door, InHand, Jpeg, *Stored);
+    InHand.Take(InHand.AlbumID(), Record);
+    return Door.SaveSlide(InHand.AlbumID(), Record);
+}
+
+Answer<Announcement> DeleteSlide(clsDBEngine& theDB, const QObject* Asker, std::int32_t AlbumID,
+                                 std::int32_t SlideID) {
+    clsNEBAlbum* Album = theDB.GetAlbum(AlbumID);
+    if (!Album) return Refuse(NoAlbum);
+    Answer<Announcement> Deleted = Changes(theDB, Asker).DeleteSlide(AlbumID, SlideID);
+    Album->SortSlides();
+    return Deleted;
+}
+
+void StoreSound(const clsDBEngine& theDB, const SlideInHand& InHand, clsNEBSlide& Record) {
+    const QString Name = FileStem(Record.SlideID) + QStringLiteral(".wav");
+    const QString File = SlidesFolder(theDB.DBPath(), InHand.AlbumID()) + Name;
+    if (InHand.SoundState() == SlideInHand::Sound::Cleared) return DropSound(File, Record);
+    if (InHand.SoundState() == SlideInHand::Sound::Recorded) {
+        ReplaceFile(File, InHand.Recording());
+        Record.SoundTrackLoc = Name;
+    } else if (!InHand.HasSound()) {
         return;
     }
-    ReplaceFile(File, *Edits.Recording);
-    Slide.SoundTrackLoc = Name;
-    SetPlaying(Slide, Edits);
+    SetPlaying(Record, InHand);
 }
 
 int NextSlideIndex(int Index, int Last) {

@@ -1,41 +1,36 @@
-// The rules of keeping one slide, without a window: what becomes of its picture and of its sound
-// when it is saved, and which slide comes before and after it. For the slide manager.
+// The rules of keeping one slide, without a window: whether it can be saved, what becomes of its
+// picture and of its sound, how it goes, and which slide comes before and after it. For the slide
+// manager.
 #pragma once
 
-#include <QByteArray>
 #include <QString>
 #include <cstdint>
-#include <functional>
-#include <optional>
+
+#include "albums/SlideInHand.h"
+#include "db/Changes.h"
 
 namespace neb {
 
-class ImgX;
-class clsDBEngine;
-class clsNEBSlide;
+// Where the stored picture of the slide in hand lies. Refused, with what is to be said, when it has
+// none or its file has gone.
+Answer<QString> StoredPicture(const QString& DBPath, const SlideInHand& InHand);
+// Whether there is a picture to save it with.
+Answer<> CheckPicture(const QString& DBPath, const SlideInHand& InHand);
 
-// What the user has made of a slide.
-struct SlideEdits {
-    std::function<QByteArray()> Jpeg;     // makes the new picture; none: the stored one stands
-    QString SoundLoc;                     // the sound that the slide had; empty for none
-    bool SoundCleared = false;            // goes before a recording
-    std::optional<QByteArray> Recording;  // bytes of a WAV file
-    bool Override = false;
-    bool Repeat = false;
-};
+// Saves the slide in hand under its numbers, the picture and the sound first, then its record in
+// one go; it is in hand as stored afterwards, and has its number when it was new. Jpeg: as
+// SlideInHand::Jpeg, made ready or not. Throws Fault when a file cannot be written: the slide then
+// has its caption, a new one no picture, and what was made stays in hand for the next save.
+Answer<Announcement> SaveSlide(clsDBEngine& theDB, const QObject* Asker, SlideInHand& InHand,
+                               const SlideInHand::JpegMaker& Jpeg);
+// Deletes a slide with its files. Asker: the window that knows of it already.
+Answer<Announcement> DeleteSlide(clsDBEngine& theDB, const QObject* Asker, std::int32_t AlbumID,
+                                 std::int32_t SlideID);
 
-// How the slide's JPEG is made, fitted: from the edited picture (all its pixels; null when it was
-// not turned or flipped), else from a chosen file, which SlideLoc gives by its full path; a stored
-// picture that was not edited stands: no function. It throws Fault, on any thread.
-std::function<QByteArray()> JpegToStore(const QString& SlideLoc, const ImgX* Edited);
-// Writes a new picture as the slide's JPEG and drops its thumbnail. Throws Fault when the picture
-// cannot be read or written: slide and old picture are then as they were.
-void StorePicture(const clsDBEngine& theDB, std::int32_t AlbumID, clsNEBSlide& Slide,
-                  const SlideEdits& Edits);
-// Takes the sound away, or stores the recording, or sets how the sound that is there is played.
-// Throws Fault when a file cannot be written or deleted: slide and old sound are as they were.
-void StoreSound(const clsDBEngine& theDB, std::int32_t AlbumID, clsNEBSlide& Slide,
-                const SlideEdits& Edits);
+// Takes the sound away, or stores the recording, or sets how the sound that is there is played;
+// Record, not yet in the album, says so afterwards. Throws Fault when a file cannot be written or
+// deleted: record and old sound are as they were.
+void StoreSound(const clsDBEngine& theDB, const SlideInHand& InHand, clsNEBSlide& Record);
 
 // The entry of the list to go to; entry 0 is for a new slide, Last is the last one. Both walk
 // round in circles over 1 to Last; -1 when there is nowhere to go.

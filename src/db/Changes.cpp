@@ -84,8 +84,13 @@ Answer<Announcement> Changes::SaveCaption(std::int32_t AlbumID, std::int32_t Sli
     if (!Album) return Missing(NoAlbum);
     clsNEBSlide* Slide = Album->GetSlide(SlideID);
     if (!Slide) return Missing(NoSlide);
-    Slide->SlideText = SlideText;
-    return Noted({Change::Kind::SlideSaved, AlbumID, SlideID});
+    return SaveCaption(AlbumID, *Slide, SlideText);
+}
+
+Announcement Changes::SaveCaption(std::int32_t AlbumID, clsNEBSlide& Slide,
+                                  const QString& SlideText) {
+    Slide.SlideText = SlideText;
+    return Noted({Change::Kind::SlideSaved, AlbumID, Slide.SlideID});
 }
 
 Answer<Announcement> Changes::DeleteSlide(std::int32_t AlbumID, std::int32_t SlideID) {

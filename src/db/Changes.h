@@ -51,6 +51,8 @@ class Changes {
     Answer<Announcement> SaveSlide(std::int32_t AlbumID, const clsNEBSlide& Slide);
     Answer<Announcement> SaveCaption(std::int32_t AlbumID, std::int32_t SlideID,
                                      const QString& SlideText);
+    // The same for a slide of the album that the caller has found: thousands are saved in a row.
+    Announcement SaveCaption(std::int32_t AlbumID, clsNEBSlide& Slide, const QString& SlideText);
     // The record goes, then the slide's files; a slide that is not there has gone already.
     Answer<Announcement> DeleteSlide(std::int32_t AlbumID, std::int32_t SlideID);
 

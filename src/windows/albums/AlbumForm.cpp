@@ -66,10 +66,6 @@ std::optional<std::int32_t> AlbumForm::ChosenAlbum() const {
     return std::nullopt;
 }
 
-void AlbumForm::Broadcast(const QString& EventType, std::int32_t AlbumID) {
-    BroadcastEvent(QStringLiteral("Album"), EventType, this, {AlbumID});
-}
-
 void AlbumForm::ReceiveEvent(const QString& ObjectType, const QString& EventType,
                              const EventKeys& EventData) {
     if (ObjectType != u"Album") return;

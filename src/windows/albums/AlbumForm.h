@@ -1,5 +1,5 @@
 // The body that the windows share which do something to one album: they list the albums, hold the
-// one that the caller or the user has chosen, follow changes made elsewhere, and tell of their own.
+// one that the caller or the user has chosen, and follow changes made elsewhere.
 #pragma once
 
 #include <optional>
@@ -35,8 +35,6 @@ class AlbumForm : public Form, public ChangeReceiver {
     // Nothing after a box when no album is chosen.
     std::optional<std::int32_t> ChosenAlbum() const;
     void NoteDone() { mDone = true; }
-    // Tells the other windows what has become of an album.
-    void Broadcast(const QString& EventType, std::int32_t AlbumID);
 
     void Form_Load() override;
 

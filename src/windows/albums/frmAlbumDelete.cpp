@@ -6,6 +6,8 @@
 #include "controls/fields/Icons.h"
 #include "controls/forms/PaintRate.h"
 #include "controls/forms/ScreenPointer.h"
+#include "controls/forms/Tell.h"
+#include "db/Changes.h"
 #include "db/clsDBEngine.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Services.h"
@@ -18,8 +20,8 @@ frmAlbumDelete::frmAlbumDelete() : mUi(std::make_unique<Ui::frmAlbumDelete>()) {
     mUi->setupUi(this);
     setWindowIcon(ThemeIcon(QStringLiteral("album-delete")));
     SetControls({mUi->cboAlbum, mUi->lblHint, {mUi->lblAlbum, mUi->cboAlbum}, {mUi->cmdDelete}});
-    connect(mUi->cmdDelete, &QPushButton::clicked, this, &frmAlbumDelete::Delete);
-    connect(mUi->cmdClose, &QPushButton::clicked, this, &frmAlbumDelete::Unload);
+    On(mUi->cmdDelete, &QPushButton::clicked, &frmAlbumDelete::Delete);
+    On(mUi->cmdClose, &QPushButton::clicked, &frmAlbumDelete::Close);
 }
 
 frmAlbumDelete::~frmAlbumDelete() = default;
@@ -31,10 +33,12 @@ void frmAlbumDelete::Delete() {
         QStringLiteral("Are you sure you want to delete the selected Album?\n"
                        "If you proceed all the slides and slide shows within\nwill be lost."),
         QStringLiteral("Delete Confirmation"));
-    if (!Sure || !DBEngine->DeleteAlbum(*AlbumID)) return;
+    if (!Sure) return;
+    Answer<Announcement> Deleted = Changes(*DBEngine, this).DeleteAlbum(*AlbumID);
+    if (!Tell(Deleted)) return;
     DeleteFiles(*AlbumID);
     NoteDone();
-    Broadcast(QStringLiteral("Delete"), *AlbumID);
+    Deleted->Now();
     Unload();
 }
 

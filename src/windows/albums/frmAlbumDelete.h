@@ -21,9 +21,11 @@ class frmAlbumDelete : public AlbumForm {
 
   protected:
     bool Form_Unload() override { return !mDeleting; }
+    bool IsBusy() const override { return mDeleting; }
 
   private:
     void Delete();
+    void Close() { Unload(); }
     void DeleteFiles(std::int32_t AlbumID);
 
     std::unique_ptr<Ui::frmAlbumDelete> mUi;

@@ -2,7 +2,7 @@
 
 #include "controls/fields/Icons.h"
 #include "controls/forms/Tell.h"
-#include "db/clsDBEngine.h"
+#include "db/Changes.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/modDEValidation.h"
 #include "ui_frmAlbumRename.h"
@@ -19,8 +19,8 @@ frmAlbumRename::frmAlbumRename() : mUi(std::make_unique<Ui::frmAlbumRename>()) {
                  {mUi->txtAlbumName, mUi->cmdSave}});
     SetAdjective(QStringLiteral("Album"));
     KeepQuotesClean(*mUi->txtAlbumName);
-    connect(mUi->cmdSave, &QPushButton::clicked, this, &frmAlbumRename::Save);
-    connect(mUi->cmdCancel, &QPushButton::clicked, this, &frmAlbumRename::Unload);
+    On(mUi->cmdSave, &QPushButton::clicked, &frmAlbumRename::Save);
+    On(mUi->cmdCancel, &QPushButton::clicked, &frmAlbumRename::Close);
 }
 
 frmAlbumRename::~frmAlbumRename() = default;
@@ -37,13 +37,15 @@ void frmAlbumRename::Form_Load() {
     if (mUi->cboAlbum->currentIndex() >= 0) mUi->txtAlbumName->setFocus();
 }
 
-// A name that the engine refuses, which it says itself, ends the window as well.
+// A name that the engine refuses ends the window as well, and the others are told of it all the
+// same: they show what is so.
 void frmAlbumRename::Save() {
-    const auto Chosen = ChosenAlbum();
-    if (!Chosen || !IsNameGiven(mAdjective, mUi->txtAlbumName->text())) return;
-    std::int32_t AlbumID = *Chosen;
-    Tell(DBEngine->SaveAlbum(AlbumID, ConvertQuotes(mUi->txtAlbumName->text())));
-    Broadcast(QStringLiteral("Update"), AlbumID);
+    const auto AlbumID = ChosenAlbum();
+    if (!AlbumID || !Tell(CheckName(mAdjective, mUi->txtAlbumName->text()))) return;
+    Changes Door(*DBEngine, this);
+    Announcement Renamed = Door.AsOne(Change::Kind::AlbumRenamed, *AlbumID);
+    Tell(Door.RenameAlbum(*AlbumID, ConvertQuotes(mUi->txtAlbumName->text())));
+    Renamed.Now();
     NoteDone();
     Unload();
 }

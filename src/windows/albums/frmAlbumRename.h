@@ -26,6 +26,7 @@ class frmAlbumRename : public AlbumForm {
 
   private:
     void Save();
+    void Close() { Unload(); }
 
     std::unique_ptr<Ui::frmAlbumRename> mUi;
     QString mAdjective;

@@ -1,5 +1,6 @@
 #include "windows/albums/frmGetObjectName.h"
 
+#include "controls/forms/Tell.h"
 #include "settings/modNEBSlideShow.h"
 #include "ui_frmGetObjectName.h"
 #include "windows/albums/modAlbumNames.h"
@@ -11,8 +12,8 @@ frmGetObjectName::frmGetObjectName() : mUi(std::make_unique<Ui::frmGetObjectName
     mUi->setupUi(this);
     SetAdjective(QStringLiteral("Object"));
     KeepQuotesClean(*mUi->txtObjectName);
-    connect(mUi->cmdSave, &QPushButton::clicked, this, &frmGetObjectName::Save);
-    connect(mUi->cmdCancel, &QPushButton::clicked, this, &frmGetObjectName::Unload);
+    On(mUi->cmdSave, &QPushButton::clicked, &frmGetObjectName::Save);
+    On(mUi->cmdCancel, &QPushButton::clicked, &frmGetObjectName::Close);
 }
 
 frmGetObjectName::~frmGetObjectName() = default;
@@ -38,7 +39,7 @@ QString frmGetObjectName::GetObjectName(const QString& OldName) {
 
 void frmGetObjectName::Save() {
     const QString Name = mUi->txtObjectName->text();
-    if (!IsNameGiven(mAdjective, Name)) return;
+    if (!Tell(CheckName(mAdjective, Name))) return;
     if (!ValidateUserInput(mAdjective + QStringLiteral(" Name"), Name)) return;
     mObjectName = Name;
     Unload();

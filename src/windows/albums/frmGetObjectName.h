@@ -29,6 +29,7 @@ class frmGetObjectName : public Form {
 
   private:
     void Save();
+    void Close() { Unload(); }
 
     std::unique_ptr<Ui::frmGetObjectName> mUi;
     QString mAdjective;

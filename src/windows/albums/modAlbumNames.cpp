@@ -4,7 +4,6 @@
 
 #include "controls/fields/KeyFilter.h"
 #include "settings/modNEBSlideShow.h"
-#include "support/Services.h"
 #include "windows/albums/frmAlbumDelete.h"
 #include "windows/albums/frmAlbumRename.h"
 
@@ -20,13 +19,12 @@ bool ShowDeleteAlbum(std::int32_t AlbumID) {
     return NewForm<frmAlbumDelete>()->ShowDeleteAlbum(AlbumID);
 }
 
-bool IsNameGiven(const QString& Adjective, const QString& Name) {
-    if (!Name.trimmed().isEmpty()) return true;
+Answer<> CheckName(const QString& Adjective, const QString& Name) {
+    if (!Name.trimmed().isEmpty()) return Done();
     const QString Article = StartsWithVowel(Adjective) ? QStringLiteral("You must enter an ")
                                                        : QStringLiteral("You must enter a ");
-    MsgBox(Article + Adjective + QStringLiteral(" name."), QStringLiteral("Invalid User Input"),
-           BoxIcon::Information);
-    return false;
+    return Refuse(Article + Adjective + QStringLiteral(" name."),
+                  QStringLiteral("Invalid User Input"));
 }
 
 void KeepQuotesClean(QLineEdit& Field) {

@@ -1,9 +1,11 @@
-// The calls that rename and delete albums, and what the windows around names share: the question
-// for a missing name, and the cleaning of quotes.
+// The calls that rename and delete albums, and what the windows around names share: what is said of
+// a missing name, and the cleaning of quotes.
 #pragma once
 
 #include <QString>
 #include <cstdint>
+
+#include "support/Answer.h"
 
 QT_BEGIN_NAMESPACE
 class QLineEdit;
@@ -15,8 +17,8 @@ namespace neb {
 bool ShowRenameAlbum(std::int32_t AlbumID);
 bool ShowDeleteAlbum(std::int32_t AlbumID);
 
-// False after a box when the name is empty or blank. Adjective is the noun of the name.
-bool IsNameGiven(const QString& Adjective, const QString& Name);
+// Refused when the name is empty or blank. Adjective is the noun of the name.
+Answer<> CheckName(const QString& Adjective, const QString& Name);
 // Straight quotes become typographic ones when they are typed, and when the field is left by
 // somebody who has changed it.
 void KeepQuotesClean(QLineEdit& Field);

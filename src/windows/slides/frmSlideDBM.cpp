@@ -1,56 +1,45 @@
-// The slide manager's controls and its two lists. What stands on the screen is in
-// frmSlideDBMSlide.cpp, what is kept in frmSlideDBMSave.cpp, what other windows do in
-// frmSlideDBMFollow.cpp.
+// The slide manager's controls, its two lists, and how it follows other windows. What stands on the
+// screen and what the user does with it is in frmSlideDBMSlide.cpp.
 #include "windows/slides/frmSlideDBM.h"
 
 #include <QAbstractItemView>
-#include <QHeaderView>
-#include <QMdiSubWindow>
 
-#include "albums/SlideSave.h"
 #include "controls/fields/Icons.h"
 #include "controls/fields/KeyFilter.h"
 #include "controls/fields/ToolBar.h"
+#include "controls/forms/Tell.h"
 #include "controls/forms/modTwips.h"
 #include "controls/grid/FlexGrid.h"
-#include "db/clsDBEngine.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Services.h"
 #include "support/modDEValidation.h"
 #include "ui_frmSlideDBM.h"
 #include "windows/frame/Openers.h"
 #include "windows/frame/modWindowState.h"
+#include "windows/slides/PicturePlace.h"
 
 namespace neb {
 namespace {
 
 const WindowMemory Memory{QStringLiteral("frmSlideDBM"), 7200, 7815};
 constexpr int LeastWidth = 7695;  // twips; the least height is that of the controls
-const QString Caption = QStringLiteral("Slide Manager");
+const QString Title = QStringLiteral("Slide Manager");
 
 }  // namespace
 
 frmSlideDBM::frmSlideDBM() : mUi(std::make_unique<Ui::frmSlideDBM>()) {
     mUi->setupUi(this);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
-    SetUpMessage();
+    mPlace = new PicturePlace(*mUi->stkPicture, *mUi->imgSlide, *mUi->flxMsg);
     SetUpButtons();
+    SetUpTurns();
+    SetUpFields();
     SetUpToolBar();
     LoadIcons();
     mUi->lytMain->addStrut(ToPixels(LeastWidth) - 2 * mUi->lytMain->contentsMargins().left());
 }
 
 frmSlideDBM::~frmSlideDBM() = default;
-
-// The window may go while a box or another window is open inside what a control has begun.
-template <class Sender, class Signal>
-void frmSlideDBM::On(Sender* Control, Signal Happens, void (frmSlideDBM::*Do)()) {
-    connect(Control, Happens, this, [this, Do] {
-        if (mWorking) return;
-        const auto Held = shared_from_this();
-        (this->*Do)();
-    });
-}
 
 void frmSlideDBM::SetUpButtons() {
     const std::pair<QPushButton*, void (frmSlideDBM::*)()> Buttons[] = {
@@ -66,6 +55,9 @@ void frmSlideDBM::SetUpButtons() {
         {mUi->cmdPicture, &frmSlideDBM::ChoosePicture},
     };
     for (const auto& [Button, Do] : Buttons) On(Button, &QPushButton::clicked, Do);
+}
+
+void frmSlideDBM::SetUpTurns() {
     const std::pair<QPushButton*, void (*)(ImgX&)> Turns[] = {
         {mUi->cmdRotate1, [](ImgX& Picture) { Picture.Rotate(-90); }},
         {mUi->cmdRotate2, [](ImgX& Picture) { Picture.Rotate(90); }},
@@ -73,13 +65,17 @@ void frmSlideDBM::SetUpButtons() {
         {mUi->cmdFlip2, [](ImgX& Picture) { Picture.Flip(1); }},
     };
     for (const auto& [Button, Operation] : Turns)
-        connect(Button, &QPushButton::clicked, this, [this, Do = Operation] { Edit(Do); });
-    On(mUi->imgSlide, &PictureView::DoubleClicked, &frmSlideDBM::ChoosePicture);
-    On(mUi->cboAlbum, &QComboBox::currentIndexChanged, &frmSlideDBM::cboAlbum_Click);
-    On(mUi->cboSlides, &QComboBox::currentIndexChanged, &frmSlideDBM::cboSlides_Click);
-    On(mUi->txtDscr, &QLineEdit::textChanged, &frmSlideDBM::MarkDirty);
-    On(mUi->chkOverride, &QCheckBox::clicked, &frmSlideDBM::MarkDirty);
-    On(mUi->chkRepeat, &QCheckBox::clicked, &frmSlideDBM::MarkDirty);
+        connect(Button, &QPushButton::clicked, this,
+                [this, Do = Operation] { Command([this, Do] { Turn(Do); }); });
+}
+
+void frmSlideDBM::SetUpFields() {
+    On(mPlace, &PicturePlace::Opened, &frmSlideDBM::ChoosePicture);
+    On(mUi->cboAlbum, &QComboBox::currentIndexChanged, &frmSlideDBM::AlbumChosen);
+    On(mUi->cboSlides, &QComboBox::currentIndexChanged, &frmSlideDBM::SlideChosen);
+    On(mUi->txtDscr, &QLineEdit::textChanged, &frmSlideDBM::CaptionTyped);
+    for (QCheckBox* Box : {mUi->chkOverride, mUi->chkRepeat})
+        On(Box, &QCheckBox::clicked, &frmSlideDBM::PlayingSet);
     new KeyFilter(mUi->txtDscr, &FixQuoteKey);
     for (QComboBox* Box : {mUi->cboAlbum, mUi->cboSlides})
         Box->view()->setAccessibleName(Box->accessibleName());
@@ -104,25 +100,8 @@ void frmSlideDBM::SetUpToolBar() {
                               QKeySequence(QString::fromLatin1(Each.Keys)));
         mUi->abrMenu->SetToolEnabled(Name, Each.On);
     }
-    connect(mUi->abrMenu, &ToolBar::ToolClicked, this, &frmSlideDBM::ToolClicked);
-}
-
-// One cell that fills the place of the picture.
-void frmSlideDBM::SetUpMessage() {
-    FlexGrid& Grid = *mUi->flxMsg;
-    Grid.SetCols(1);
-    Grid.SetColumn(0, {.Stretch = true, .Align = Qt::AlignCenter});
-    Grid.AddItem();
-    Grid.SetTextMatrix(0, 0, QStringLiteral("Double-Click To Load a Graphic"));
-    Grid.horizontalHeader()->hide();
-    Grid.verticalHeader()->hide();
-    Grid.verticalHeader()->setMinimumSectionSize(1);
-    Grid.setShowGrid(false);
-    Grid.viewport()->installEventFilter(this);
-    Grid.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    Grid.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    connect(&Grid, &FlexGrid::CellDblClicked, this, [this] { ChoosePicture(); });
-    connect(&Grid, &FlexGrid::RowActivated, this, [this] { ChoosePicture(); });
+    connect(mUi->abrMenu, &ToolBar::ToolClicked, this,
+            [this](const QString& Name) { Command([&] { ToolClicked(Name); }); });
 }
 
 void frmSlideDBM::LoadIcons() {
@@ -145,31 +124,9 @@ void frmSlideDBM::LoadIcons() {
         Button->setIcon(ThemeIcon(QString::fromLatin1(Name), palette()));
 }
 
-// The message is as large as its place allows.
-void frmSlideDBM::FitMessage() {
-    constexpr int HeightsOfText = 12;
-    FlexGrid& Grid = *mUi->flxMsg;
-    const QSize Place = Grid.viewport()->size();
-    QFont Font = font();
-    const double Widths =
-        Place.width() /
-        std::max(1.0, 1.1 * QFontMetricsF(Font).horizontalAdvance(Grid.TextMatrix(0, 0)));
-    const double Largest = QFontMetricsF(Font).height() * Widths;
-    const int Pixels = static_cast<int>(std::min(Largest, Place.height() / double(HeightsOfText)));
-    Font.setPixelSize(std::max(Pixels, QFontInfo(font()).pixelSize()));
-    if (Grid.font() != Font) Grid.setFont(Font);
-    Grid.verticalHeader()->resizeSection(0, std::max(1, Place.height()));
-}
-
-bool frmSlideDBM::eventFilter(QObject* Watched, QEvent* Event) {
-    if (Event->type() == QEvent::Resize) FitMessage();
-    return Form::eventFilter(Watched, Event);
-}
-
 void frmSlideDBM::changeEvent(QEvent* Event) {
     Form::changeEvent(Event);
     if (Event->type() == QEvent::PaletteChange) LoadIcons();
-    if (Event->type() == QEvent::FontChange) FitMessage();
 }
 
 // Loaded inside its frame, to which its size belongs.
@@ -185,105 +142,128 @@ void frmSlideDBM::LoadSlideMgr() {
 }
 
 void frmSlideDBM::Form_Load() {
-    ClearSlideFields();
+    ShowNew();
     RestoreWindow(*this, Memory);
 }
 
 void frmSlideDBM::Form_Activate() {
-    if (std::exchange(mActivated, true)) return;
-    ComboBoxList List = Albums();
-    DBEngine->LoadAlbumsCombo(List, false);
-    if (List.ListCount() > 0) return mUi->cboAlbum->setFocus();
+    if (mStage != Stage::Opening) return;
+    mStage = Stage::Open;
+    Lists().ListAlbums();
+    if (mUi->cboAlbum->count() > 0) return mUi->cboAlbum->setFocus();
     MsgBox(QStringLiteral("You must first create an album."));
     Unload();
 }
 
 bool frmSlideDBM::Form_Unload() {
-    if (mWorking || (mDirty && !AskDiscard())) return false;
+    if (IsBusy() || (mInHand.IsChanged() && !AskDiscard())) return false;
     SaveWindow(*this, Memory);
     return true;
 }
 
-ComboBoxList frmSlideDBM::Albums() const {
-    return ComboBoxList(*mUi->cboAlbum);
-}
-
-ComboBoxList frmSlideDBM::Slides() const {
-    return ComboBoxList(*mUi->cboSlides);
-}
-
-std::int32_t frmSlideDBM::AlbumID() const {
-    return Albums().ItemData(mUi->cboAlbum->currentIndex());
-}
-
-std::int32_t frmSlideDBM::SlideID() const {
-    return Slides().ItemData(mUi->cboSlides->currentIndex());
-}
-
-void frmSlideDBM::SelectAlbumIndex(int Index) {
-    {
-        const Guard Quiet(mIgnoreClick);
-        mUi->cboAlbum->setCurrentIndex(Index);
-    }
-    cboAlbum_Click();
-}
-
-// A click comes even when the entry was chosen already: it shows the slide afresh.
-void frmSlideDBM::SelectSlideIndex(int Index) {
-    {
-        const Guard Quiet(mIgnoreClick);
-        mUi->cboSlides->setCurrentIndex(Index);
-    }
-    cboSlides_Click();
-}
-
-void frmSlideDBM::SelectSlide(std::int32_t SlideID) {
-    const int Index = mUi->cboSlides->findData(SlideID);
-    if (Index >= 0) SelectSlideIndex(Index);
+SlideLists frmSlideDBM::Lists() const {
+    return {*mUi->cboAlbum, *mUi->cboSlides};
 }
 
 void frmSlideDBM::ShowAlbumName() {
     const QString Name = mUi->cboAlbum->currentText();
-    setWindowTitle(AlbumID() == 0 ? Caption : Caption + QStringLiteral(" - ") + Name);
+    setWindowTitle(Lists().AlbumID() == 0 ? Title : Title + QStringLiteral(" - ") + Name);
 }
 
-void frmSlideDBM::LoadAlbumSlides() {
-    const Guard Quiet(mIgnoreClick);
-    ComboBoxList List = Slides();
-    List.Clear();
-    clsNEBAlbum* Album = DBEngine->GetAlbum(AlbumID());
-    if (!Album) return Report(QStringLiteral("Album not found."));
-    Album->LoadSlidesCombo(List);
-    List.InsertItem(0, QStringLiteral("<NEW SLIDE>"), 0);
-    mUi->cboSlides->update();
+void frmSlideDBM::LoadAlbumSlides(Cause Why) {
+    const Answer<> Listed = Lists().ListSlides();
+    if (Why != Cause::OtherWindow) Tell(Listed);
 }
 
-void frmSlideDBM::cboAlbum_Click() {
-    if (mIgnoreClick) return;
-    if (mUi->cboAlbum->count() > 0 && mUi->cboAlbum->currentIndex() < 0) return SelectAlbumIndex(0);
+void frmSlideDBM::ShowAlbum(Cause Why) {
+    if (mUi->cboAlbum->currentIndex() < 0) Lists().ChooseAlbumAt(0);
     ShowAlbumName();
     if (mUi->cboAlbum->count() == 0) return;
-    LoadAlbumSlides();
-    if (mUi->cboSlides->count() > 0) SelectSlideIndex(0);
+    LoadAlbumSlides(Why);
+    if (mUi->cboSlides->count() == 0) return;
+    Lists().ChooseSlideAt(0);
+    ShowChosen(Why);
 }
 
-void frmSlideDBM::cboSlides_Click() {
-    if (mIgnoreClick || mUi->cboAlbum->currentIndex() < 0) return;
+void frmSlideDBM::ShowChosen(Cause Why) {
+    if (mUi->cboAlbum->currentIndex() < 0) return;
     mUi->cmdDelete->setEnabled(!ReadOnlyDB);
-    if (!mCancelling && mDirty && !AskDiscard()) return BackToEdited();
-    if (mUi->cboSlides->currentIndex() < 1) return ClearSlideFields();
-    ShowSlide();
+    if (Why == Cause::User && mInHand.IsChanged() && !AskDiscard()) return BackToEdited();
+    if (mUi->cboSlides->currentIndex() < 1) return ShowNew();
+    const std::optional<BoxRequest> Problem = ShowSlide();
+    if (Problem && Why != Cause::OtherWindow) ShowBox(*Problem);
 }
 
 // The lists go back to the slide whose changes the user wants to keep, from another album, too.
 void frmSlideDBM::BackToEdited() {
-    const Guard Quiet(mIgnoreClick);
-    ComboBoxList AlbumList = Albums(), SlideList = Slides();
-    if (AlbumID() != mCurrentAlbumID && ComboSelectByData(AlbumList, mCurrentAlbumID, -2)) {
+    if (Lists().AlbumID() != mInHand.AlbumID() && Lists().ChooseAlbum(mInHand.AlbumID())) {
         ShowAlbumName();
-        LoadAlbumSlides();
+        LoadAlbumSlides(Cause::User);
     }
-    ComboSelectByData(SlideList, mCurrentSlideID, 0);
+    Lists().ChooseSlide(mInHand.SlideID());
+}
+
+// What the user is in the middle of stays on the screen: it can be saved as before, or as a new
+// slide where its own, or its album, has gone.
+void frmSlideDBM::ReceiveEvent(const QString& ObjectType, const QString& EventType,
+                               const EventKeys& EventData) {
+    static const struct {
+        QLatin1String EventType;
+        void (frmSlideDBM::*Follow)(const EventKeys& Keys);
+    } Events[] = {
+        {QLatin1String("Delete"), &frmSlideDBM::FollowDelete},
+        {QLatin1String("Insert"), &frmSlideDBM::FollowAlbums},
+        {QLatin1String("Update"), &frmSlideDBM::FollowUpdate},
+        {QLatin1String("Add Slides"), &frmSlideDBM::FollowAddSlides},
+        {QLatin1String("Delete Slides"), &frmSlideDBM::FollowDeleteSlides},
+    };
+    if (ObjectType != u"Album" || mStage == Stage::Opening) return;
+    for (const auto& Row : Events)
+        if (EventType == Row.EventType) (this->*Row.Follow)(EventData);
+}
+
+// The slide in hand has gone, or the album.
+void frmSlideDBM::LoseOwn() {
+    mInHand.MoveTo(Lists().AlbumID(), 0);
+    mUi->cmdDelete->setEnabled(false);
+    if (!mInHand.IsChanged()) ShowNew();
+}
+
+void frmSlideDBM::FollowDelete(const EventKeys& Keys) {
+    const bool Shown = Keys.at(0) == Lists().AlbumID();
+    Lists().RemoveAlbum(Keys.at(0));
+    if (!Shown) return;
+    Lists().Clear();
+    ShowAlbumName();
+    LoseOwn();
+}
+
+void frmSlideDBM::FollowAlbums(const EventKeys&) {
+    const bool Stands = Lists().ListAlbums();
+    if (!Stands) Lists().Clear();
+    ShowAlbumName();
+    if (!Stands) LoseOwn();
+}
+
+void frmSlideDBM::FollowUpdate(const EventKeys& Keys) {
+    FollowAlbums(Keys);
+    FollowAddSlides(Keys);
+}
+
+void frmSlideDBM::FollowAddSlides(const EventKeys& Keys) {
+    const std::int32_t Shown = Lists().SlideID();
+    if (Lists().AlbumID() == 0 || Keys.at(0) != Lists().AlbumID()) return;
+    LoadAlbumSlides(Cause::OtherWindow);
+    if (!Lists().ChooseSlide(Shown)) mInHand.MoveTo(Lists().AlbumID(), 0);
+    if (!mInHand.IsChanged()) ShowChosen(Cause::OtherWindow);
+}
+
+void frmSlideDBM::FollowDeleteSlides(const EventKeys& Keys) {
+    const std::int32_t Gone = Keys.at(1);
+    if (Lists().AlbumID() == 0 || Keys.at(0) != Lists().AlbumID() || Gone == 0) return;
+    const bool Shown = Gone == Lists().SlideID();
+    Lists().RemoveSlide(Gone);
+    if (Shown) LoseOwn();
 }
 
 }  // namespace neb

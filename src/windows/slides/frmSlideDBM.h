@@ -5,20 +5,20 @@
 
 #include <QScopedValueRollback>
 
-#include "controls/fields/ComboBoxList.h"
+#include "albums/SlideInHand.h"
 #include "controls/forms/Form.h"
 #include "controls/forms/ScreenPointer.h"
-#include "pictures/ImgX.h"
+#include "db/Changes.h"
 #include "support/work/WorkAside.h"
 #include "windows/frame/modBroadcast.h"
+#include "windows/slides/SlideLists.h"
 
 namespace neb {
 
 namespace Ui {
 class frmSlideDBM;
 }
-class clsNEBSlide;
-struct SlideEdits;
+class PicturePlace;
 
 class frmSlideDBM : public Form, public ChangeReceiver {
     Q_OBJECT
@@ -36,16 +36,17 @@ class frmSlideDBM : public Form, public ChangeReceiver {
     void Form_Load() override;
     void Form_Activate() override;
     bool Form_Unload() override;
-    bool eventFilter(QObject* Watched, QEvent* Event) override;
+    bool IsBusy() const override { return mStage == Stage::Working; }
     void changeEvent(QEvent* Event) override;
     void dragEnterEvent(QDragEnterEvent* Event) override;
     void dropEvent(QDropEvent* Event) override;
 
   private:
-    // Sets a flag and puts it back at the end of the scope.
-    struct Guard : QScopedValueRollback<bool> {
-        explicit Guard(bool& Flag) : QScopedValueRollback(Flag, true) {}
-    };
+    // Who has another slide shown. The user is asked about changes that would go, and told what is
+    // wrong with the slide. Where the program does it, the user was asked already; another window's
+    // change asks and tells nothing.
+    enum class Cause { User, Program, OtherWindow };
+    enum class Stage { Opening, Open, Working };  // Opening: the albums are not listed yet
     struct ReadyPicture {
         ImgX Whole;
         QImage OnScreen;
@@ -54,51 +55,45 @@ class frmSlideDBM : public Form, public ChangeReceiver {
     // Large pictures take their time. Nothing can be begun in the window meanwhile.
     template <class Function>
     auto Aside(Function Work) {
-        const PointerScope Working(Pointer::Hourglass);
-        const Guard Busy(mWorking);
+        const PointerScope Hourglass(Pointer::Hourglass);
+        const QScopedValueRollback Working(mStage, Stage::Working);
         return FinishAside(std::move(Work));
     }
 
     void SetUpButtons();
+    void SetUpTurns();
+    void SetUpFields();
     void SetUpToolBar();
-    void SetUpMessage();
     void LoadIcons();
-    void FitMessage();
-    template <class Sender, class Signal>
-    void On(Sender* Control, Signal Happens, void (frmSlideDBM::*Do)());
 
-    // The lists. A click runs at every choice, the code's own included, as the guards allow.
-    ComboBoxList Albums() const;
-    ComboBoxList Slides() const;
-    std::int32_t AlbumID() const;  // as chosen; 0 for none
-    std::int32_t SlideID() const;  // as chosen; 0 for none and for a new slide
-    void cboAlbum_Click();
-    void cboSlides_Click();
-    void SelectAlbumIndex(int Index);
-    void SelectSlideIndex(int Index);
-    void SelectSlide(std::int32_t SlideID);
-    void LoadAlbumSlides();
+    // The lists.
+    SlideLists Lists() const;
+    void AlbumChosen() { ShowAlbum(Cause::User); }
+    void SlideChosen() { ShowChosen(Cause::User); }
+    void ShowAlbum(Cause Why);
+    void ShowChosen(Cause Why);
+    void LoadAlbumSlides(Cause Why);
     void ShowAlbumName();
     void BackToEdited();
 
     // The slide on screen.
-    void ShowSlide();
-    void ShowStoredPicture(const QString& SlideLoc);
-    void ClearSlideFields();
-    void ClearSound();
-    void ShowSound(const clsNEBSlide& Slide);
-    void TellSound();
-    void SetClean();
-    void MarkDirty();
-    bool AskDiscard();
-    bool LoadGraphic(const QString& Path);
+    std::optional<BoxRequest> ShowSlide();
+    void ShowNew();
+    void ShowFields();
+    void ShowSound(bool HasSound);
+    void ShowChanged(bool Changed);
+    bool AskDiscard() const;
+    Answer<ReadyPicture> LoadGraphic(const QString& Path);
+    Answer<ReadyPicture> LoadStored();
     void ShowPicture(const ReadyPicture& Ready);
-    bool HasPicture() const;
+    void LetGo(std::optional<ImgX> Before);
 
     // What the user does.
+    void CaptionTyped();
+    void PlayingSet();
     void ChoosePicture();
     void TakePicture(const QString& Path);
-    void Edit(void (*Operation)(ImgX& Picture));
+    void Turn(void (*Operation)(ImgX& Picture));
     void Record();
     void DropSound();
     void New();
@@ -108,10 +103,8 @@ class frmSlideDBM : public Form, public ChangeReceiver {
     void Cancel();
     void Close() { Unload(); }
     void Save();
-    bool ConfirmCaption();
-    bool HasPictureToSave();
-    SlideEdits Edits() const;
-    void StoreFiles(std::int32_t AlbumID, clsNEBSlide& Slide, const SlideEdits& Made);
+    bool ConfirmCaption() const;
+    Answer<Announcement> Store(const SlideInHand::JpegMaker& Jpeg);
     void Delete();
     void Import();
     void ImportFromDirectory();
@@ -124,26 +117,12 @@ class frmSlideDBM : public Form, public ChangeReceiver {
     void FollowUpdate(const EventKeys& Keys);
     void FollowAddSlides(const EventKeys& Keys);
     void FollowDeleteSlides(const EventKeys& Keys);
-    void ReloadSlides();
-    void LeaveAlbum();
-    void Report(const QString& Text, const QString& Title = {}) const;
+    void LoseOwn();
 
     std::unique_ptr<Ui::frmSlideDBM> mUi;
-    bool mDirty = false;
-    bool mIgnoreClick = false;
-    bool mCancelling = false;
-    bool mFollowing = false;           // another window's change: nothing is asked or told
-    bool mWorking = false;             // on a picture, beside the window
-    std::int32_t mCurrentSlideID = 0;  // of the slide last shown; 0 for a new one
-    std::int32_t mCurrentAlbumID = 0;  // its album
-    QString mSoundLoc;
-    bool mSoundRecorded = false;
-    bool mSoundCleared = false;
-    QByteArray mRecording;  // kept here as well: all windows record into one file
-    QString mSlideLoc;      // the stored name, or the full path of a chosen file
-    ImgX mPicture;
-    bool mPictureEdited = false;
-    bool mActivated = false;
+    PicturePlace* mPlace;
+    SlideInHand mInHand;
+    Stage mStage = Stage::Opening;
 };
 
 }  // namespace neb

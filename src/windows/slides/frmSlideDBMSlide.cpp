@@ -1,20 +1,27 @@
-// The slide that the slide manager shows: its fields, its picture, and what the user changes.
+// The slide that the slide manager shows, and what the user does with it: its fields, its picture
+// and its sound are changed, it is saved and deleted, and many are imported.
+#include <QApplication>
 #include <QDragEnterEvent>
 #include <QMimeData>
+#include <QSignalBlocker>
 
 #include "albums/SlideSave.h"
-#include "albums/modPictureFiles.h"
+#include "controls/forms/Tell.h"
 #include "controls/grid/FlexGrid.h"
 #include "db/clsDBEngine.h"
-#include "db/modAlbumFiles.h"
 #include "pictures/formats/PictureFaults.h"
 #include "settings/modNEBSlideShow.h"
-#include "support/Fault.h"
+#include "support/MediaTypes.h"
 #include "support/Services.h"
 #include "support/files/modHostFiles.h"
+#include "support/modDEValidation.h"
 #include "support/modFUFL.h"
 #include "ui_frmSlideDBM.h"
-#include "windows/recorder/frmSoundRecorder.h"
+#include "windows/frame/modUserInput.h"
+#include "windows/import/frmDirSelect.h"
+#include "windows/import/frmImportFilter.h"
+#include "windows/slides/PicturePlace.h"
+#include "windows/slides/SlideChoice.h"
 #include "windows/slides/frmSlideDBM.h"
 
 namespace neb {
@@ -24,136 +31,72 @@ constexpr quint32 BadFileName = 52;
 // What is smaller is done at once: a thread of its own would hold up the walk through an album.
 constexpr qint64 QuickBytes = 2'000'000, QuickPixels = 4'000'000;
 
-QString Placeholder() {
-    return AppPath() + QStringLiteral("NoSlide.bmp");
-}
-
-QString ProblemText(const Fault& Problem) {
-    return Problem.Number() == BadFileName || Problem.Number() == FaultCannotOpen
-               ? QStringLiteral(
-                     "Error Loading the File.  Make sure that you have access "
-                     "permissions to it.")
-               : Problem.What();
-}
-
-// The first picture among what is dragged; empty when there is none.
-QString DraggedPicture(const QMimeData& Data) {
-    for (const QUrl& Url : Data.urls())
-        if (Url.isLocalFile() && IsPictureName(Url.toLocalFile())) return Url.toLocalFile();
-    return {};
-}
-
-QString TemporarySound() {
-    return DBEngine->DBPath() + QStringLiteral("Temp/tmp.wav");
-}
-
-// What was recorded. The recorder may report a recording though nothing was said into it: then
-// there is nothing to keep, an earlier recording of another slide least of all.
-std::optional<QByteArray> RecordSound() {
-    try {
-        DeleteFile(TemporarySound());
-        const auto Recorder = NewForm<frmSoundRecorder>();
-        Recorder->SetSoundSavePath(TemporarySound());
-        Recorder->ShowModal();
-        if (Recorder->SoundRecorded() && FileExists(TemporarySound()))
-            return ReadFile(TemporarySound());
-    } catch (const Fault&) {
-        // the recorder has said so in its own window
-    }
-    return {};
+BoxRequest LoadProblem(const Fault& Problem) {
+    const bool NoAccess = Problem.Number() == BadFileName || Problem.Number() == FaultCannotOpen;
+    const QString What = NoAccess ? QStringLiteral(
+                                        "Error Loading the File.  Make sure that you have access "
+                                        "permissions to it.")
+                                  : Problem.What();
+    return {.Text = What + QStringLiteral(
+                               "\nAn Error occured while attempting to Load the graphic for the "
+                               "current slide.\nDouble Slick on the Slide Spaceholder to browse "
+                               "for it."),
+            .Title = QStringLiteral("Error Loading Slide")};
 }
 
 }  // namespace
 
-void frmSlideDBM::ShowSlide() {
-    clsNEBAlbum* Album = DBEngine->GetAlbum(AlbumID());
-    if (!Album) return Report(QStringLiteral("Could not find the album."));
-    mCurrentAlbumID = AlbumID();
-    mCurrentSlideID = SlideID();
-    const clsNEBSlide* Slide = Album->GetSlide(mCurrentSlideID);
-    if (!Slide) return Report(QStringLiteral("Could not find the slide."));
-    const clsNEBSlide Stored = *Slide;  // it may go while a box is open
-    ShowStoredPicture(Stored.SlideLoc);
-    mUi->txtDscr->setText(Stored.SlideText);
+// What is to be said about it, if anything.
+std::optional<BoxRequest> frmSlideDBM::ShowSlide() {
+    const std::int32_t Album = Lists().AlbumID(), Slide = Lists().SlideID();
+    clsNEBAlbum* Found = DBEngine->GetAlbum(Album);
+    if (!Found) return Refuse(QStringLiteral("Could not find the album."));
+    mInHand.MoveTo(Album, Slide);
+    const clsNEBSlide* Stored = Found->GetSlide(Slide);
+    if (!Stored) return Refuse(QStringLiteral("Could not find the slide."));
+    mInHand.Take(Album, *Stored);
+    Answer<ReadyPicture> Ready = LoadStored();
+    ShowPicture(Ready ? *Ready : ReadyPicture());
+    ShowFields();
+    if (Ready) return {};
+    return Ready.Refusal();
+}
+
+void frmSlideDBM::ShowNew() {
+    mInHand.TakeNew(Lists().AlbumID());
+    ShowPicture({});
+    ShowFields();
+    mUi->cmdDelete->setEnabled(false);
+}
+
+void frmSlideDBM::ShowFields() {
+    const QSignalBlocker Quiet(mUi->txtDscr);
+    mUi->txtDscr->setText(mInHand.Caption());
     mUi->txtDscr->setCursorPosition(0);
-    ShowSound(Stored);
-    SetClean();
+    mUi->chkOverride->setChecked(mInHand.Override());
+    mUi->chkRepeat->setChecked(mInHand.Repeat());
+    ShowSound(mInHand.HasSound());
+    ShowChanged(false);
 }
 
-void frmSlideDBM::ShowStoredPicture(const QString& SlideLoc) {
-    mSlideLoc = SlideLoc;
-    if (SlideLoc.isEmpty()) {
-        LoadGraphic(Placeholder());
-        return Report(QStringLiteral("The Current Slide Appears to be Corrupt."));
-    }
-    const QString Path = SlidePath(DBEngine->DBPath(), AlbumID(), SlideLoc);
-    if (FileExists(Path)) {
-        LoadGraphic(Path);
-        return;
-    }
-    LoadGraphic(Placeholder());
-    Report(QStringLiteral("The graphic for the current slide appears to have been deleted.\n"
-                          "Double Slick on the Slide Spaceholder to browse for it."),
-           QStringLiteral("Slide Missing"));
-}
-
-void frmSlideDBM::ClearSound() {
-    mSoundLoc.clear();
-    mRecording.clear();
-    for (QCheckBox* Box : {mUi->chkOverride, mUi->chkRepeat}) {
-        Box->setChecked(false);
-        Box->setEnabled(false);
-    }
-    mUi->cmdClearSound->setEnabled(false);
-    mSoundRecorded = mSoundCleared = false;
-    TellSound();
-}
-
-void frmSlideDBM::ShowSound(const clsNEBSlide& Slide) {
-    ClearSound();
-    if (Slide.SoundTrackLoc.isEmpty()) return;
-    mSoundLoc = Slide.SoundTrackLoc;
-    mUi->chkOverride->setChecked(Slide.Override);
-    mUi->chkRepeat->setChecked(Slide.Repeat);
+void frmSlideDBM::ShowSound(bool HasSound) {
     for (QWidget* Each :
          std::initializer_list<QWidget*>{mUi->chkOverride, mUi->chkRepeat, mUi->cmdClearSound})
-        Each->setEnabled(!ReadOnlyDB);
-    TellSound();
+        Each->setEnabled(HasSound && !ReadOnlyDB);
+    using Sound = SlideInHand::Sound;
+    const Sound Is = mInHand.SoundState();
+    mUi->lblSound->setText(Is == Sound::Cleared    ? tr("The sound goes with the next save.")
+                           : Is == Sound::Recorded ? tr("A new recording, not yet saved.")
+                           : mInHand.HasSound()    ? tr("This slide has a sound.")
+                                                   : tr("This slide has no sound."));
 }
 
-void frmSlideDBM::TellSound() {
-    const QString Text = mSoundCleared          ? tr("The sound goes with the next save.")
-                         : mSoundRecorded       ? tr("A new recording, not yet saved.")
-                         : !mSoundLoc.isEmpty() ? tr("This slide has a sound.")
-                                                : tr("This slide has no sound.");
-    mUi->lblSound->setText(Text);
+void frmSlideDBM::ShowChanged(bool Changed) {
+    mUi->cmdSave->setEnabled(Changed);
+    mUi->cmdCancel->setEnabled(Changed);
 }
 
-// The name of the picture stays: a new slide saved without one has passed the check for years.
-void frmSlideDBM::ClearSlideFields() {
-    LoadGraphic(Placeholder());
-    mCurrentAlbumID = AlbumID();
-    mCurrentSlideID = 0;
-    mUi->txtDscr->clear();
-    ClearSound();
-    mUi->cmdDelete->setEnabled(false);
-    SetClean();
-}
-
-void frmSlideDBM::SetClean() {
-    mUi->cmdSave->setEnabled(false);
-    mUi->cmdCancel->setEnabled(false);
-    mDirty = false;
-}
-
-void frmSlideDBM::MarkDirty() {
-    if (ReadOnlyDB) return;
-    mUi->cmdSave->setEnabled(true);
-    mUi->cmdCancel->setEnabled(true);
-    mDirty = true;
-}
-
-bool frmSlideDBM::AskDiscard() {
+bool frmSlideDBM::AskDiscard() const {
     return AskYesNo(
         QStringLiteral("Are you sure you want to discard the changes to the current slide?"),
         QStringLiteral("Discard Changes Confirmation"));
@@ -164,92 +107,94 @@ frmSlideDBM::ReadyPicture frmSlideDBM::MakeReady(ImgX Whole, QSize LargestScreen
     return {std::move(Whole), std::move(OnScreen)};
 }
 
-bool frmSlideDBM::LoadGraphic(const QString& Path) {
-    const bool IsPlaceholder = Path == Placeholder();
-    mPictureEdited = false;
+Answer<frmSlideDBM::ReadyPicture> frmSlideDBM::LoadGraphic(const QString& Path) {
     const auto Read = [Path, Largest = PictureView::LargestScreen()] {
         ImgX Loaded;
         Loaded.Load(Path);
         return MakeReady(std::move(Loaded), Largest);
     };
-    ReadyPicture Loaded;
     try {
-        const bool Stored = !HoldsSeparator(mSlideLoc) && FileSize(Path) < QuickBytes;
         const PointerScope Working(Pointer::Hourglass);
-        Loaded = IsPlaceholder || Stored ? Read() : Aside(Read).get();
+        const bool Stored = !HoldsSeparator(mInHand.PictureName());
+        return Stored && FileSize(Path) < QuickBytes ? Read() : Aside(Read).get();
     } catch (const Fault& Problem) {
-        if (!IsPlaceholder) {
-            LoadGraphic(Placeholder());
-            Report(
-                ProblemText(Problem) +
-                    QStringLiteral("\nAn Error occured while attempting to Load the graphic for "
-                                   "the current slide.\nDouble Slick on the Slide Spaceholder to "
-                                   "browse for it."),
-                QStringLiteral("Error Loading Slide"));
-            return false;
-        }
+        return LoadProblem(Problem);
     }
-    mUi->stkPicture->setCurrentWidget(IsPlaceholder ? static_cast<QWidget*>(mUi->flxMsg)
-                                                    : mUi->imgSlide);
-    ShowPicture(Loaded);
-    return true;
 }
 
+Answer<frmSlideDBM::ReadyPicture> frmSlideDBM::LoadStored() {
+    Answer<QString> Path = StoredPicture(DBEngine->DBPath(), mInHand);
+    return Path ? LoadGraphic(*Path) : Path.Refusal();
+}
+
+// One without pixels leaves the place to its message.
 void frmSlideDBM::ShowPicture(const ReadyPicture& Ready) {
-    mUi->imgSlide->SetPicture(Ready.OnScreen);
-    FitMessage();
-    if (qint64(mPicture.Width()) * mPicture.Height() < QuickPixels) {
-        mPicture = Ready.Whole;
-        return;
-    }
-    Aside([Before = std::exchange(mPicture, Ready.Whole)] { return Before.Width(); });
+    mPlace->Show(Ready.OnScreen);
+    LetGo(mInHand.SetPicture(Ready.OnScreen.isNull() ? std::nullopt : std::optional(Ready.Whole)));
 }
 
-bool frmSlideDBM::HasPicture() const {
-    return mUi->stkPicture->currentWidget() == mUi->imgSlide;
+void frmSlideDBM::LetGo(std::optional<ImgX> Before) {
+    if (!Before || qint64(Before->Width()) * Before->Height() < QuickPixels) return;
+    Aside([Before = std::move(Before)] { return Before->Width(); });
 }
 
-// The placeholder is no picture of the user's: it is not turned, and so never stored.
-void frmSlideDBM::Edit(void (*Operation)(ImgX& Picture)) {
-    if (ReadOnlyDB || mWorking || !HasPicture()) return;
-    const auto Held = shared_from_this();
-    auto Turn = [Operation, Largest = PictureView::LargestScreen(), Turned = mPicture]() mutable {
+void frmSlideDBM::CaptionTyped() {
+    if (ReadOnlyDB) return;
+    mInHand.SetCaption(mUi->txtDscr->text());
+    ShowChanged(true);
+}
+
+void frmSlideDBM::PlayingSet() {
+    if (ReadOnlyDB) return;
+    mInHand.SetPlaying(mUi->chkOverride->isChecked(), mUi->chkRepeat->isChecked());
+    ShowChanged(true);
+}
+
+// The message is no picture of the user's: it is not turned, and so never stored.
+void frmSlideDBM::Turn(void (*Operation)(ImgX& Picture)) {
+    if (ReadOnlyDB || !mInHand.Picture()) return;
+    auto Work = [Operation, Largest = PictureView::LargestScreen(),
+                 Turned = *mInHand.Picture()]() mutable {
         Operation(Turned);
         return MakeReady(std::move(Turned), Largest);
     };
-    ShowPicture(Aside(std::move(Turn)).get());
-    mPictureEdited = true;
-    MarkDirty();
+    const ReadyPicture Ready = Aside(std::move(Work)).get();
+    mPlace->Show(Ready.OnScreen);
+    LetGo(mInHand.Turn(Ready.Whole));
+    ShowChanged(true);
 }
 
 void frmSlideDBM::ChoosePicture() {
-    if (ReadOnlyDB || mWorking) return;
-    const auto Held = shared_from_this();
-    const QString Path = TheServices().Dialogs->OpenFile(
-        tr("Choose a Picture"), HoldsSeparator(mSlideLoc) ? GetFilePath(mSlideLoc) : QString(),
-        PictureFilters());
+    if (ReadOnlyDB) return;
+    const QString Path = AskForPicture(mInHand.PictureName());
     if (!Path.isEmpty() && IsLoaded()) TakePicture(Path);
 }
 
 void frmSlideDBM::TakePicture(const QString& Path) {
-    mSlideLoc = AbsolutePath(Path);
-    LoadGraphic(mSlideLoc);
-    MarkDirty();
+    mInHand.ChoosePicture(AbsolutePath(Path));
+    Answer<ReadyPicture> Ready = LoadGraphic(mInHand.PictureName());
+    ShowPicture(Ready ? *Ready : ReadyPicture());
+    ShowChanged(true);
+    Tell(Ready);
+}
+
+// Whether no other window holds the user's attention.
+bool frmSlideDBM::IsFree() const {
+    const QWidget* Modal = QApplication::activeModalWidget();
+    return IsLoaded() && !IsBusy() && !ReadOnlyDB && (!Modal || Modal == this);
 }
 
 void frmSlideDBM::dragEnterEvent(QDragEnterEvent* Event) {
-    if (IsFree() && !ReadOnlyDB && !DraggedPicture(*Event->mimeData()).isEmpty())
-        Event->acceptProposedAction();
+    if (IsFree() && !DraggedPicture(*Event->mimeData()).isEmpty()) Event->acceptProposedAction();
 }
 
 void frmSlideDBM::dropEvent(QDropEvent* Event) {
     const QString Path = DraggedPicture(*Event->mimeData());
-    if (Path.isEmpty() || ReadOnlyDB || !IsFree()) return;
+    if (Path.isEmpty() || !IsFree()) return;
     Event->acceptProposedAction();
     // a box about the picture waits until the drag is over, so that the source is not held up
     const auto Take = [this, Path] {
-        const auto Held = shared_from_this();
-        if (IsFree()) TakePicture(Path);
+        if (IsFree()) Command([&] { TakePicture(Path); });
     };
     QMetaObject::invokeMethod(this, Take, Qt::QueuedConnection);
 }
@@ -258,36 +203,30 @@ void frmSlideDBM::Record() {
     if (ReadOnlyDB) return;
     const std::optional<QByteArray> Recorded = RecordSound();
     if (!Recorded || !IsLoaded()) return;
-    mRecording = *Recorded;
-    mSoundRecorded = true;
-    for (QWidget* Each :
-         std::initializer_list<QWidget*>{mUi->chkOverride, mUi->chkRepeat, mUi->cmdClearSound})
-        Each->setEnabled(true);
-    TellSound();
-    MarkDirty();
+    mInHand.Record(*Recorded);
+    ShowSound(true);
+    ShowChanged(true);
 }
 
 void frmSlideDBM::DropSound() {
     if (ReadOnlyDB) return;
-    mSoundCleared = true;
-    TellSound();
-    MarkDirty();
+    mInHand.ClearSound();
+    ShowSound(true);
+    ShowChanged(true);
 }
 
 void frmSlideDBM::New() {
-    if (mDirty && !AskDiscard()) return;
-    const Guard Quiet(mIgnoreClick);
-    mUi->cboSlides->setCurrentIndex(mUi->cboSlides->count() > 0 ? 0 : -1);
-    ClearSlideFields();
+    if (mInHand.IsChanged() && !AskDiscard()) return;
+    Lists().ChooseSlideAt(mUi->cboSlides->count() > 0 ? 0 : -1);
+    ShowNew();
 }
 
-// The question was asked: the move that follows does not ask again.
 void frmSlideDBM::GoTo(int (*Step)(int Index, int Last)) {
-    if (mDirty && !AskDiscard()) return;
+    if (mInHand.IsChanged() && !AskDiscard()) return;
     const int Index = Step(mUi->cboSlides->currentIndex(), mUi->cboSlides->count() - 1);
     if (Index < 0) return;
-    const Guard Asked(mCancelling);
-    SelectSlideIndex(Index);
+    Lists().ChooseSlideAt(Index);
+    ShowChosen(Cause::Program);
 }
 
 void frmSlideDBM::Next() {
@@ -300,9 +239,100 @@ void frmSlideDBM::Previous() {
 
 // Without an album there is nothing stored to come back.
 void frmSlideDBM::Cancel() {
-    if (mUi->cboAlbum->currentIndex() < 0) return ClearSlideFields();
-    const Guard Cancelling(mCancelling);
-    cboSlides_Click();
+    if (mUi->cboAlbum->currentIndex() < 0) return ShowNew();
+    ShowChosen(Cause::Program);
+}
+
+bool frmSlideDBM::ConfirmCaption() const {
+    if (!mUi->txtDscr->text().trimmed().isEmpty()) return true;
+    return AskYesNo(QStringLiteral("Are you sure you want to save the slide without a caption?\n"
+                                   "NOTE: It may be hard to tell slides apart in the combo\n"
+                                   "without captions."),
+                    QStringLiteral("Missing Caption Confirmation"));
+}
+
+// A fault on the way leaves the changes on the screen, to be saved again. A new slide is in the
+// album by then: it is chosen, so that the next save completes it and makes no second one.
+Answer<Announcement> frmSlideDBM::Store(const SlideInHand::JpegMaker& Jpeg) try {
+    const PointerScope Working(Pointer::Hourglass);
+    return SaveSlide(*DBEngine, this, mInHand, Jpeg);
+} catch (const Fault&) {
+    LoadAlbumSlides(Cause::Program);
+    Lists().ChooseSlide(mInHand.SlideID());
+    mUi->cmdDelete->setEnabled(true);
+    throw;
+}
+
+// The picture is made before anything is changed, so that the rest is done in one go; what went
+// wrong with it comes up in its turn.
+void frmSlideDBM::Save() {
+    if (ReadOnlyDB || !ConfirmCaption()) return;
+    mUi->txtDscr->setText(CleanText(mUi->txtDscr->text()));
+    mInHand.MoveTo(Lists().AlbumID(), Lists().SlideID());
+    if (!Tell(CheckPicture(DBEngine->DBPath(), mInHand))) return;
+    SlideInHand::JpegMaker Jpeg = mInHand.Jpeg();
+    if (Jpeg) Jpeg = [Ready = Aside(Jpeg)] { return Ready.get(); };
+    Answer<Announcement> Saved = Store(Jpeg);
+    if (!Tell(Saved)) return;
+    Saved->Now();
+    ShowChanged(false);
+    LoadAlbumSlides(Cause::Program);
+    Lists().ChooseSlide(mInHand.SlideID());
+    ShowChosen(Cause::Program);
+}
+
+void frmSlideDBM::Delete() {
+    if (ReadOnlyDB) return;
+    if (mUi->cboSlides->currentIndex() < 1) return SlideChosen();
+    if (!AskYesNo(QStringLiteral("Are you sure you want to delete the selected slide defintion?\n"
+                                 "WARNING: If you procede the slide will be deleted from all\n"
+                                 "Slide Shows that use it?"),
+                  QStringLiteral("Delete Confirmation")))
+        return;
+    const std::int32_t Album = Lists().AlbumID();
+    Answer<Announcement> Deleted = DeleteSlide(*DBEngine, this, Album, Lists().SlideID());
+    if (!Tell(Deleted)) return;
+    Deleted->Now();
+    MsgBox(QStringLiteral("Slide Deleted Successfully."), QStringLiteral("Delete Successful"),
+           BoxIcon::Information);
+    mInHand.TakeNew(Album);
+    Lists().ChooseAlbum(Album);
+    ShowAlbum(Cause::Program);
+    New();
+}
+
+void frmSlideDBM::ToolClicked(const QString& Name) {
+    if (Name == u"mnuImport") Import();
+    if (Name == u"mnuExit") Unload();
+}
+
+void frmSlideDBM::Import() {
+    if (mUi->cboAlbum->currentIndex() < 0) {
+        MsgBox(QStringLiteral("You must first select an album to import into."),
+               QStringLiteral("Missing User Input"), BoxIcon::Information);
+        return;
+    }
+    ImportFromDirectory();
+    if (IsLoaded()) AlbumChosen();
+}
+
+void frmSlideDBM::ImportFromDirectory() {
+    const auto Selector = NewForm<frmDirSelect>();
+    const QString Chosen = Selector->SelectDirectory();
+    if (Chosen.isEmpty() || !IsLoaded()) return;
+    const QString Directory = WithSeparator(Chosen);
+    if (IsReservedForAlbums(Directory, DBEngine->DBPath())) return;
+    const auto Filter = NewForm<frmImportFilter>();
+    Filter->SetRecurseDir(Selector->RecurseDir());
+    Filter->SetImportDir(Directory);
+    Filter->SetAlbumID(Lists().AlbumID());
+    Filter->SetAlbumName(mUi->cboAlbum->currentText());
+    if (Filter->Aborted()) return;
+    try {
+        Filter->ShowModal();
+    } catch (const Fault&) {
+        // what came in before it has come in
+    }
 }
 
 }  // namespace neb

@@ -3,14 +3,9 @@
 #include "windows/slides/frmSlideMgrBulk.h"
 
 #include <QAbstractItemView>
-#include <QProgressBar>
 
 #include "controls/fields/ComboBoxList.h"
 #include "controls/fields/Icons.h"
-#include "controls/forms/PaintRate.h"
-#include "controls/forms/ScreenPointer.h"
-#include "controls/forms/frmLoading.h"
-#include "controls/forms/frmProgress.h"
 #include "controls/grid/FlexGrid.h"
 #include "db/clsDBEngine.h"
 #include "settings/modNEBSlideShow.h"
@@ -20,7 +15,9 @@
 #include "windows/frame/Openers.h"
 #include "windows/frame/modWindowState.h"
 #include "windows/lists/SlideRows.h"
+#include "windows/lists/clsImageBuffer.h"
 #include "windows/lists/frmPicturePopup.h"
+#include "windows/slides/SlideDeletion.h"
 
 namespace neb {
 namespace {
@@ -36,7 +33,7 @@ frmSlideMgrBulk::frmSlideMgrBulk() : mUi(std::make_unique<Ui::frmSlideMgrBulk>()
     ChooseNotByWheel(*mUi->cboAlbum);
     SetUpGrid();
     SetUpButtons();
-    connect(mUi->cboAlbum, &QComboBox::currentIndexChanged, this, &frmSlideMgrBulk::AlbumChosen);
+    On(mUi->cboAlbum, &QComboBox::currentIndexChanged, &frmSlideMgrBulk::AlbumChosen);
 }
 
 frmSlideMgrBulk::~frmSlideMgrBulk() = default;
@@ -51,8 +48,9 @@ void frmSlideMgrBulk::SetUpGrid() {
     Grid.SetEditOnDblClick(false);
     Grid.setEditTriggers(Grid.editTriggers() | QAbstractItemView::SelectedClicked);
     connect(&Grid, &FlexGrid::AfterEdit, this, &frmSlideMgrBulk::AfterEdit);
-    connect(&Grid, &FlexGrid::CellDblClicked, this, &frmSlideMgrBulk::ShowPicture);
-    connect(&Grid, &FlexGrid::RowActivated, this, &frmSlideMgrBulk::ShowPicture);
+    const auto Show = [this](int Row) { Command([this, Row] { ShowPicture(Row); }); };
+    connect(&Grid, &FlexGrid::CellDblClicked, this, Show);
+    connect(&Grid, &FlexGrid::RowActivated, this, Show);
     connect(&Grid, &FlexGrid::DeletePressed, mUi->cmdDelete, &QPushButton::click);
 }
 
@@ -69,7 +67,7 @@ void frmSlideMgrBulk::SetUpButtons() {
     };
     for (const auto& Each : Buttons) {
         Each.Button->setIcon(ThemeIcon(Each.Icon));
-        connect(Each.Button, &QPushButton::clicked, this, Each.Action);
+        On(Each.Button, &QPushButton::clicked, Each.Action);
     }
 }
 
@@ -93,9 +91,12 @@ void frmSlideMgrBulk::Form_Load() {
 // Work that is under way sees that the window has gone and ends by itself.
 bool frmSlideMgrBulk::Form_Unload() {
     SaveWindow(*this, Memory);
-    if (mLoadingForm) std::exchange(mLoadingForm, nullptr)->ClearParent();
-    if (mProgressForm) std::exchange(mProgressForm, nullptr)->ClearParent();
+    mReading.WindowClosed();
     return true;
+}
+
+void frmSlideMgrBulk::FinishEdits() {
+    mUi->flxAlbum->FinishEdit();
 }
 
 // Tells nobody of the choice: whoever lists the albums knows what comes of it.
@@ -119,7 +120,7 @@ clsNEBAlbum* frmSlideMgrBulk::ShownAlbum() const {
 }
 
 void frmSlideMgrBulk::AlbumChosen() {
-    mEdits.clear();
+    mEdits.Clear();
     FollowAlbum();
     Fill();
 }
@@ -158,83 +159,65 @@ void frmSlideMgrBulk::AfterEdit(int Row, int Col) {
 
 void frmSlideMgrBulk::NoteEdit(int Row) {
     const std::int32_t SlideID = SlideIn(*mUi->flxAlbum, Row);
-    const QString& Caption = mUi->flxAlbum->TextMatrix(Row, clsImageBuffer::ColText);
     clsNEBAlbum* Album = ShownAlbum();
-    const clsNEBSlide* Slide = Album ? Album->GetSlide(SlideID) : nullptr;
-    if (Slide && Slide->SlideText == Caption)
-        mEdits.remove(SlideID);
-    else
-        mEdits[SlideID] = Caption;
+    mEdits.Note(SlideID, mUi->flxAlbum->TextMatrix(Row, clsImageBuffer::ColText),
+                Album ? Album->GetSlide(SlideID) : nullptr);
 }
 
 void frmSlideMgrBulk::ShowPicture(int Row) {
-    const auto Held = shared_from_this();
     PopUpPicture(mUi->flxAlbum->TextMatrix(Row, clsImageBuffer::ColPath));
 }
 
+// Whether there is an album to work on: one that is chosen, and is there.
+bool frmSlideMgrBulk::HasAlbum() const {
+    if (!ShownAlbum()) MsgBox(QStringLiteral("Album not found."));
+    return ShownAlbum() != nullptr;
+}
+
 void frmSlideMgrBulk::Save() {
-    const auto Held = shared_from_this();
-    mUi->flxAlbum->FinishEdit();
-    const std::int32_t Saved = AlbumID();
-    if (Saved == 0) {
+    if (AlbumID() == 0) {
         MsgBox(QStringLiteral("You must first select the album changes are to be made to."));
         return;
     }
-    if (!ShownAlbum()) {
-        MsgBox(QStringLiteral("Album not found."));
-        return;
-    }
-    const SlideTally Tally = SaveRows();
-    MsgBox(Tally.Text(QStringLiteral("saved"), QStringLiteral("save")),
+    if (!HasAlbum()) return;
+    CaptionSave Saved(*DBEngine, this, AlbumID());
+    SaveRows(Saved);
+    MsgBox(Saved.Tally().Text(QStringLiteral("saved"), QStringLiteral("save")),
            QStringLiteral("Operation Completed"), BoxIcon::Information);
-    BroadcastEvent(QStringLiteral("Album"), QStringLiteral("Add Slides"), this, {Saved, 0});
+    Saved.Tell();
     mUi->cboAlbum->setFocus();
 }
 
-// While a box is open anything may happen, so the album is asked for anew behind it.
-SlideTally frmSlideMgrBulk::SaveRows() {
+// While a box is open anything may happen, so the album is looked for anew behind it.
+void frmSlideMgrBulk::SaveRows(CaptionSave& Saved) {
     FlexGrid& Grid = *mUi->flxAlbum;
-    SlideTally Tally;
-    SlideFinder Finder;
-    mEdits.clear();
-    clsNEBAlbum* Album = ShownAlbum();
+    mEdits.Clear();
     Grid.SetRedraw(false);
-    for (int Row = 0; Album && Row < Grid.Rows(); ++Row) {
-        const bool Success = SaveRow(*Album, Finder, Row);
-        Tally.Count(Success);
-        if (Success) continue;
+    for (int Row = 0; ShownAlbum() && Row < Grid.Rows(); ++Row) {
+        if (SaveRow(Saved, Row)) continue;
         NoteEdit(Row);
         Grid.SetRedraw(true);
         MsgBox(QStringLiteral("Slide #%1 Not Found.").arg(Row + 1),
                QStringLiteral("Failed to Save Slide"), BoxIcon::Information);
         Grid.SetRedraw(false);
-        Album = ShownAlbum();
     }
     Grid.SetRedraw(true);
-    return Tally;
 }
 
-bool frmSlideMgrBulk::SaveRow(clsNEBAlbum& Album, SlideFinder& Finder, int Row) {
+bool frmSlideMgrBulk::SaveRow(CaptionSave& Saved, int Row) {
     FlexGrid& Grid = *mUi->flxAlbum;
     const QString& Typed = Grid.TextMatrix(Row, clsImageBuffer::ColText);
     const QString Caption = CleanText(Typed);
     if (Caption != Typed) Grid.SetTextMatrix(Row, clsImageBuffer::ColText, Caption);
-    clsNEBSlide* Slide = Finder.Find(Album, SlideIn(Grid, Row));
-    if (!Slide) return false;
-    Slide->SlideText = Caption;
-    return true;
+    return Saved.Save(SlideIn(Grid, Row), Caption);
 }
 
 void frmSlideMgrBulk::Cancel() {
-    const auto Held = shared_from_this();
-    mUi->flxAlbum->FinishEdit();
-    mEdits.clear();
+    mEdits.Clear();
     Fill();
 }
 
 void frmSlideMgrBulk::Delete() {
-    const auto Held = shared_from_this();
-    mUi->flxAlbum->FinishEdit();
     if (AlbumID() == 0) {
         MsgBox(
             QStringLiteral("You must first select the album the slides are to be deleted from."));
@@ -243,12 +226,9 @@ void frmSlideMgrBulk::Delete() {
     if (!AskYesNo(QStringLiteral("Are you sure you want to delete the selected slides?"),
                   QStringLiteral("Delete Confirmation")))
         return;
-    if (!ShownAlbum()) {
-        MsgBox(QStringLiteral("Album not found."));
-        return;
-    }
+    if (!HasAlbum()) return;
     const int First = mUi->flxAlbum->SelectedRow(0);
-    const SlideTally Tally = DeleteSlides(SelectedIDs());
+    const SlideTally Tally = DeleteSelected();
     if (!IsLoaded()) return;
     MsgBox(Tally.Text(QStringLiteral("deleted"), QStringLiteral("delete")),
            QStringLiteral("Operation Completed"), BoxIcon::Information);
@@ -256,41 +236,12 @@ void frmSlideMgrBulk::Delete() {
     MakeCurrent(std::min(First, mUi->flxAlbum->Rows() - 1));
 }
 
-SlideTally frmSlideMgrBulk::DeleteSlides(std::vector<std::int32_t> SlideIDs) {
-    mDeleting = std::move(SlideIDs);
-    mTally = {};
-    mProgressForm = NewForm<frmProgress>();
-    const auto Shown = mProgressForm;
-    Shown->ShowProgressMeter(*this);
-    mProgressForm = nullptr;
-    return mTally;
-}
-
-// At each yield the window may go, or the album: what is left then stays.
-void frmSlideMgrBulk::StartOperation() {
-    const auto Held = shared_from_this();
-    const PointerScope Working(Pointer::Hourglass);
-    const auto Progress = mProgressForm;
-    QProgressBar& Bar = *Progress->pgbLoadingProgress();
-    Progress->setWindowTitle(tr("Deleting Slides ..."));
-    Bar.setMaximum(static_cast<int>(mDeleting.size()));
-    Bar.setValue(0);
-    PaintRate Rate;
-    for (size_t I = 0; I < mDeleting.size() && IsLoaded() && ShownAlbum(); ++I) {
-        DeleteSlide(*ShownAlbum(), mDeleting[I]);
-        Bar.setValue(static_cast<int>(I) + 1);
-        if (Rate.IsDue()) DoEvents();
-    }
-    if (clsNEBAlbum* Album = ShownAlbum()) Album->SortSlides();
-}
-
-void frmSlideMgrBulk::DeleteSlide(clsNEBAlbum& Album, std::int32_t SlideID) {
-    const bool Success = Album.DeleteSlide(SlideID, *DBEngine);
-    mTally.Count(Success);
-    if (!Success) return;
-    mEdits.remove(SlideID);
-    BroadcastEvent(QStringLiteral("Album"), QStringLiteral("Delete Slides"), this,
-                   {Album.AlbumID, SlideID});
+SlideTally frmSlideMgrBulk::DeleteSelected() {
+    const std::vector<std::int32_t> SlideIDs = SelectedIDs();
+    SlideDeletion Work(*this, AlbumID(), SlideIDs, [this] { return IsLoaded() && ShownAlbum(); });
+    const SlideTally Tally = Work.Run();
+    for (int I = 0; I < Tally.Done; ++I) mEdits.Forget(SlideIDs[static_cast<size_t>(I)]);
+    return Tally;
 }
 
 }  // namespace neb

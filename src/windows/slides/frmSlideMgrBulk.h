@@ -2,12 +2,10 @@
 // child of the main window; several may stand open, on one album, too.
 #pragma once
 
-#include <QHash>
-
 #include "albums/BulkSlides.h"
 #include "controls/forms/Form.h"
 #include "windows/frame/modBroadcast.h"
-#include "windows/lists/clsImageBuffer.h"
+#include "windows/lists/SlideReading.h"
 
 namespace neb {
 
@@ -15,9 +13,8 @@ namespace Ui {
 class frmSlideMgrBulk;
 }
 class clsNEBAlbum;
-class frmProgress;
 
-class frmSlideMgrBulk : public Form, public ProgressParent, public ChangeReceiver {
+class frmSlideMgrBulk : public Form, public ChangeReceiver {
     Q_OBJECT
 
   public:
@@ -27,14 +24,13 @@ class frmSlideMgrBulk : public Form, public ProgressParent, public ChangeReceive
     // Fills the list of albums, shows the window and the slides of the album; 0: of the first
     // album, -1: of none.
     void LoadAlbumMgr(std::int32_t AlbumID);
-    void DoActivity() override;      // fills the grid, under frmLoading
-    void StartOperation() override;  // deletes the selected slides, under frmProgress
     void ReceiveEvent(const QString& ObjectType, const QString& EventType,
                       const EventKeys& EventData) override;
 
   protected:
     void Form_Load() override;
     bool Form_Unload() override;
+    void FinishEdits() override;
 
   private:
     void SetUpGrid();
@@ -46,11 +42,9 @@ class frmSlideMgrBulk : public Form, public ProgressParent, public ChangeReceive
     void FollowAlbum();
 
     void Fill();
-    void FillGrid();
-    void FillRows(const std::vector<std::int32_t>& SlideIDs);
+    std::optional<SlideReading::KeyList> SlidesToList();
     void AddSlideRow(SlideFinder& Finder, std::int32_t SlideID);
-    void ShowSlide(int Row, const clsNEBSlide& Slide, const std::shared_ptr<frmLoading>& Loading);
-    bool Stopped() const;
+    void ShowSlide(int Row, const clsNEBSlide& Slide);
     void Reload();
 
     std::vector<std::int32_t> SelectedIDs() const;
@@ -60,14 +54,14 @@ class frmSlideMgrBulk : public Form, public ProgressParent, public ChangeReceive
     void NoteEdit(int Row);
     void ShowPicture(int Row);
 
+    bool HasAlbum() const;
     void Save();
-    SlideTally SaveRows();
-    bool SaveRow(clsNEBAlbum& Album, SlideFinder& Finder, int Row);
+    void SaveRows(CaptionSave& Saved);
+    bool SaveRow(CaptionSave& Saved, int Row);
     void Cancel();
     void Close() { Unload(); }
     void Delete();
-    SlideTally DeleteSlides(std::vector<std::int32_t> SlideIDs);
-    void DeleteSlide(clsNEBAlbum& Album, std::int32_t SlideID);
+    SlideTally DeleteSelected();
 
     void AlbumDeleted(const EventKeys& Keys);
     void AlbumsChanged(const EventKeys& Keys);
@@ -75,13 +69,8 @@ class frmSlideMgrBulk : public Form, public ProgressParent, public ChangeReceive
     void SlidesDeleted(const EventKeys& Keys);
 
     std::unique_ptr<Ui::frmSlideMgrBulk> mUi;
-    std::shared_ptr<frmLoading> mLoadingForm;
-    std::shared_ptr<frmProgress> mProgressForm;
-    std::vector<std::int32_t> mDeleting;  // the slides that the work under mProgressForm is to take
-    SlideTally mTally;                    // what has become of them
-    QHash<std::int32_t, QString> mEdits;  // captions that are typed and not yet saved, by SlideID
-    bool mFilling = false;
-    bool mFillAgain = false;  // the album has changed during the fill
+    SlideReading mReading{*this};
+    CaptionEdits mEdits;
 };
 
 }  // namespace neb

@@ -1,102 +1,62 @@
 // How the grid of the bulk slide manager is filled, and how it follows the other windows.
-#include <QProgressBar>
-#include <QScopedValueRollback>
-
 #include "controls/fields/ComboBoxList.h"
-#include "controls/forms/ScreenPointer.h"
-#include "controls/forms/frmLoading.h"
 #include "controls/grid/FlexGrid.h"
 #include "db/clsDBEngine.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Services.h"
 #include "ui_frmSlideMgrBulk.h"
 #include "windows/lists/SlideRows.h"
+#include "windows/lists/clsImageBuffer.h"
 #include "windows/slides/frmSlideMgrBulk.h"
 
 namespace neb {
+
 // An album that changes while it is being shown is shown once more.
 void frmSlideMgrBulk::Fill() {
-    const auto Held = shared_from_this();
-    if (mFilling) {
-        mFillAgain = true;
-        return;
-    }
-    do {
-        mFillAgain = false;
-        mUi->flxAlbum->SetRows(0);
-        if (AlbumID() == 0) break;
-        if (mLoadingForm) std::exchange(mLoadingForm, nullptr)->Unload();
-        mLoadingForm = NewForm<frmLoading>();
-        const auto Shown = mLoadingForm;
-        Shown->ShowProgressMeter(*this);
-    } while (mFillAgain && IsLoaded());
+    const auto Finder = std::make_shared<SlideFinder>();
+    mReading.Read({
+        .Begin =
+            [this] {
+                mUi->flxAlbum->SetRows(0);
+                return AlbumID() != 0;
+            },
+        .Keys = [this] { return SlidesToList(); },
+        .MakeRow = [this, Finder](std::int32_t SlideID, int) { AddSlideRow(*Finder, SlideID); },
+        .IsThere = [this] { return ShownAlbum() != nullptr; },
+        .Grids = {mUi->flxAlbum},
+    });
 }
 
-void frmSlideMgrBulk::DoActivity() {
-    const auto Held = shared_from_this();
-    const PointerScope Working(Pointer::Hourglass);
-    const QScopedValueRollback<bool> Filling(mFilling, true);
-    FillGrid();
-}
-
-void frmSlideMgrBulk::FillGrid() {
-    mUi->flxAlbum->SetRows(0);
-    DoEvents();
-    if (!IsLoaded() || AlbumID() == 0) return;
+std::optional<SlideReading::KeyList> frmSlideMgrBulk::SlidesToList() {
     clsNEBAlbum* Album = ShownAlbum();
     if (!Album) {
         MsgBox(QStringLiteral("Album not found."));
-        return;
+        return {};
     }
     Album->SortSlides();
-    std::vector<std::int32_t> SlideIDs;
+    SlideReading::KeyList SlideIDs;
     for (const NameIndexEntry& Row : Album->SlideIndex) SlideIDs.push_back(Row.ID);
-    FillRows(SlideIDs);
-}
-
-void frmSlideMgrBulk::FillRows(const std::vector<std::int32_t>& SlideIDs) {
-    const auto Loading = mLoadingForm;
-    const int Count = static_cast<int>(SlideIDs.size());
-    SlideFinder Finder;
-    Loading->pgbLoadingProgress()->setMaximum(100);
-    MoveBar(*Loading, 0);
-    mUi->flxAlbum->SetRedraw(false);
-    for (int I = 0; I < Count && !Stopped(); ++I) {
-        AddSlideRow(Finder, SlideIDs[static_cast<size_t>(I)]);
-        MoveBar(*Loading, (I + 1) * 100 / Count);
-    }
-    mUi->flxAlbum->SetRedraw(true);
-    Loading->ClearParent();
-    Loading->Unload();
-}
-
-// At each yield the window may be closed, the album deleted or its slides changed.
-bool frmSlideMgrBulk::Stopped() const {
-    return !IsLoaded() || mFillAgain || !ShownAlbum();
+    return SlideIDs;
 }
 
 void frmSlideMgrBulk::AddSlideRow(SlideFinder& Finder, std::int32_t SlideID) {
-    const clsNEBSlide* Slide = Finder.Find(*ShownAlbum(), SlideID);
-    if (Slide)
-        ShowSlide(mUi->flxAlbum->AddItem(), *Slide, mLoadingForm);
+    if (const clsNEBSlide* Slide = Finder.Find(*ShownAlbum(), SlideID))
+        ShowSlide(mUi->flxAlbum->AddItem(), *Slide);
     else
         MsgBox(QStringLiteral("Slide could not be found."));
 }
 
 // A caption that is being worked on stays.
-void frmSlideMgrBulk::ShowSlide(int Row, const clsNEBSlide& Slide,
-                                const std::shared_ptr<frmLoading>& Loading) {
-    const auto Edited = mEdits.constFind(Slide.SlideID);
-    const QString Caption = Edited != mEdits.constEnd() ? *Edited : Slide.SlideText;
-    ShowSlideInRow(*mUi->flxAlbum, Row, AlbumID(), Slide, Loading);
+void frmSlideMgrBulk::ShowSlide(int Row, const clsNEBSlide& Slide) {
+    const QString Caption = mEdits.ShownOf(Slide);
+    ShowSlideInRow(*mUi->flxAlbum, Row, AlbumID(), Slide, mReading.Window());
     mUi->flxAlbum->SetTextMatrix(Row, clsImageBuffer::ColText, Caption);
 }
 
 // Fills the grid anew for a change that came from elsewhere: what was selected and what was typed
 // stays.
 void frmSlideMgrBulk::Reload() {
-    const auto Held = shared_from_this();
-    if (mFilling) return Fill();
+    if (mReading.IsReading()) return Fill();
     FlexGrid& Grid = *mUi->flxAlbum;
     Grid.FinishEdit();
     const std::vector<std::int32_t> Selected = SelectedIDs();
@@ -153,21 +113,21 @@ void frmSlideMgrBulk::AlbumsChanged(const EventKeys& Keys) {
 void frmSlideMgrBulk::SlidesAdded(const EventKeys& Keys) {
     const std::int32_t SlideID = Keys.size() > 1 ? Keys[1] : 0;
     if (Keys[0] != AlbumID()) return;
-    if (SlideID == 0 || mFilling) return Reload();
+    if (SlideID == 0 || mReading.IsReading()) return Reload();
     clsNEBAlbum* Album = ShownAlbum();
     const clsNEBSlide* Slide = Album ? Album->GetSlide(SlideID) : nullptr;
     if (!Slide) return;
     mUi->flxAlbum->FinishEdit();
     const int Row = RowOfSlide(*mUi->flxAlbum, SlideID);
-    ShowSlide(Row >= 0 ? Row : mUi->flxAlbum->AddItem(), *Slide, nullptr);
+    ShowSlide(Row >= 0 ? Row : mUi->flxAlbum->AddItem(), *Slide);
 }
 
 // An editor that is open on another row would not be known as one any more, and its text be lost.
 void frmSlideMgrBulk::SlidesDeleted(const EventKeys& Keys) {
     if (Keys[0] != AlbumID() || Keys.size() < 2) return;
     mUi->flxAlbum->FinishEdit();
-    mEdits.remove(Keys[1]);
-    if (mFilling) return Fill();
+    mEdits.Forget(Keys[1]);
+    if (mReading.IsReading()) return Fill();
     if (const int Row = RowOfSlide(*mUi->flxAlbum, Keys[1]); Row >= 0)
         mUi->flxAlbum->RemoveItem(Row);
 }

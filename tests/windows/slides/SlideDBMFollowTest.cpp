@@ -142,6 +142,51 @@ TEST_F(SlideDBMFollow, ChangesToASlideThatWasDeletedCanBeSavedAsANewOne) {
     EXPECT_EQ(QSize(50, 20), SizeOf(Stored(u"00000002.jpg"_s)));
 }
 
+TEST_F(SlideDBMFollow, ATurnedSlideThatWasDeletedCanBeSavedAsANewOne) {
+    OpenTwo(AddSlide(u"a"_s));
+    InFirst([&] { Push("cmdRotate1"); });
+    DeleteHere();
+    InFirst([&] {
+        EXPECT_EQ(QSize(30, 40), Shown().size());
+        Push("cmdSave");
+        EXPECT_FALSE(Dirty());
+    });
+    ASSERT_EQ(1u, Album().Slides.size());
+    EXPECT_EQ("a", Slide(2).SlideText.toStdString());
+    EXPECT_EQ("00000002.JPG", Slide(2).SlideLoc.toStdString());
+    EXPECT_EQ(QSize(30, 40), SizeOf(Stored(u"00000002.jpg"_s)));
+}
+
+TEST_F(SlideDBMFollow, ATurnedSlideThatWasDeletedIsKeptWhenTheDiskIsFullAtFirst) {
+    OpenTwo(AddSlide(u"a"_s));
+    InFirst([&] { Push("cmdRotate1"); });
+    DeleteHere();
+    SetHostWatcher([](HostStep Step, const QString& Path, qint64& Length) {
+        if (Step == HostStep::Write && Path.contains(u".jpg"_s)) Length = 1;
+    });
+    Boxes.Expect(u"The file cannot be written. (no space left on device)\n"_s +
+                     Stored(u"00000002.jpg.new"_s),
+                 u"Operation Failed"_s);
+    InFirst([&] { Push("cmdSave"); });
+    SetHostWatcher({});
+    InFirst([&] { Push("cmdSave"); });
+    ASSERT_EQ(1u, Album().Slides.size());
+    EXPECT_EQ(QSize(30, 40), SizeOf(Stored(u"00000002.jpg"_s)));
+}
+
+TEST_F(SlideDBMFollow, ATurnedSlideOfADeletedAlbumCanGoIntoAnother) {
+    const auto Other = MakeAlbum(u"Other"_s);
+    OpenSlide(AddSlide(u"a"_s));
+    Push("cmdRotate1");
+    DeleteAlbum(AlbumID);
+    ExpectDiscard(BoxAnswer::No);
+    Choose("cboAlbum", Other);
+    Push("cmdSave");
+    AlbumID = Other;
+    ASSERT_EQ(1u, Album().Slides.size());
+    EXPECT_EQ(QSize(30, 40), SizeOf(Stored(Album().Slides[0]->SlideLoc)));
+}
+
 TEST_F(SlideDBMFollow, ADeletedAlbumLeavesNothingChosen) {
     const auto Other = MakeAlbum(u"Other"_s);
     OpenSlide(AddSlide(u"a"_s));

@@ -117,6 +117,30 @@ TEST_F(SlideDBMSave, AfterNewACaptionAloneIsSavedAsASlideWithoutAPicture) {
     EXPECT_TRUE(ShowsMessage());
 }
 
+TEST_F(SlideDBMSave, AfterNewThePictureThatWasDiscardedIsNotStored) {
+    OpenSlide(AddSlide(u"a"_s));
+    PickPicture(MakePicture(Pics / u"discarded.png"_s, 50, 20));
+    ExpectDiscard(BoxAnswer::Yes);
+    Push("cmdNew");
+    EXPECT_TRUE(ShowsMessage());
+    Type(u"b"_s);
+    Boxes.Expect(u"The Current Slide Appears to be Corrupt."_s);
+    Push("cmdSave");
+    EXPECT_EQ("", Slide(2).SlideLoc.toStdString());
+    EXPECT_FALSE(FileExists(Stored(u"00000002.jpg"_s)));
+}
+
+TEST_F(SlideDBMSave, ACancelledPictureOfANewSlideIsNotStored) {
+    OpenAlbum();
+    PickPicture(MakePicture(Pics / u"cancelled.png"_s));
+    Push("cmdCancel");
+    EXPECT_TRUE(ShowsMessage());
+    Type(u"b"_s);
+    Boxes.Expect(u"You must first select the picture you want to use for this slide."_s);
+    Push("cmdSave");
+    EXPECT_TRUE(Album().Slides.empty());
+}
+
 TEST_F(SlideDBMSave, AFreshWindowAsksForAPicture) {
     OpenAlbum();
     Type(u"b"_s);
@@ -215,6 +239,19 @@ TEST_F(SlideDBMSave, AFullDiskLeavesANewSlideWithoutAPictureForTheNextSaveToComp
     EXPECT_FALSE(Dirty());
 }
 
+TEST_F(SlideDBMSave, OtherWindowsHearOfASlideThatIsThereWithoutItsPicture) {
+    const auto Others = NewForm<Listener>();
+    Others->Load();
+    OpenAlbum();
+    PickPicture(MakePicture(Pics / u"a.png"_s));
+    Type(u"b"_s);
+    FillDisk(u".jpg"_s);
+    ExpectFullDisk(u"00000001.jpg"_s);
+    Push("cmdSave");
+    EXPECT_EQ("Album Add Slides 1 1", Others->Heard.join(u'|').toStdString());
+    Others->Unload();
+}
+
 TEST_F(SlideDBMSave, ANewSlideThatCouldNotBeStoredCanBeTakenBack) {
     OpenAlbum();
     PickPicture(MakePicture(Pics / u"a.png"_s));
@@ -289,59 +326,66 @@ TEST(SlideSave, TheWalkGoesRoundOverTheSlidesAlone) {
     }
 }
 
+// What happens to a sound below the window.
 class SlideSaveSound : public SlideRig {
   protected:
-    SlideSaveSound() : ID(AddSound(AddSlide(u"a"_s), true, false)) {}
+    SlideSaveSound() : ID(AddSound(AddSlide(u"a"_s), true, false)) {
+        InHand.Take(AlbumID, Slide(ID));
+    }
+    clsNEBSlide Stored() {
+        clsNEBSlide Record = Slide(ID);
+        StoreSound(Engine, InHand, Record);
+        return Record;
+    }
+    QString File() { return SlideRig::Stored(u"00000001.wav"_s); }
     std::int32_t ID;
-    const QString Name = u"00000001.wav"_s;
+    SlideInHand InHand;
 };
 
-TEST_F(SlideSaveSound, ClearingGoesBeforeARecording) {
-    SlideEdits Edits;
-    Edits.SoundCleared = true;
-    Edits.Recording = "new";
-    Edits.Override = Edits.Repeat = true;
-    StoreSound(Engine, AlbumID, Slide(ID), Edits);
-    EXPECT_FALSE(FileExists(Stored(Name)));
-    EXPECT_EQ("", Slide(ID).SoundTrackLoc.toStdString());
-    EXPECT_FALSE(Slide(ID).Override);
-    EXPECT_FALSE(Slide(ID).Repeat);
+TEST_F(SlideSaveSound, AClearedSoundGoesWithItsSettings) {
+    InHand.SetPlaying(true, true);
+    InHand.ClearSound();
+    const clsNEBSlide Record = Stored();
+    EXPECT_FALSE(FileExists(File()));
+    EXPECT_EQ("", Record.SoundTrackLoc.toStdString());
+    EXPECT_FALSE(Record.Override);
+    EXPECT_FALSE(Record.Repeat);
 }
 
-TEST_F(SlideSaveSound, ARecordingReplacesTheSound) {
-    SlideEdits Edits;
-    Edits.Recording = "new";
-    Edits.Repeat = true;
-    StoreSound(Engine, AlbumID, Slide(ID), Edits);
-    EXPECT_EQ("new", ReadFile(Stored(Name)));
-    EXPECT_EQ(Name, Slide(ID).SoundTrackLoc);
-    EXPECT_FALSE(Slide(ID).Override);
-    EXPECT_TRUE(Slide(ID).Repeat);
+TEST_F(SlideSaveSound, ARecordingReplacesTheSoundAndTheOneBeforeItThatWasCleared) {
+    InHand.ClearSound();
+    InHand.Record("new");
+    InHand.SetPlaying(false, true);
+    const clsNEBSlide Record = Stored();
+    EXPECT_EQ("new", ReadFile(File()));
+    EXPECT_EQ("00000001.wav", Record.SoundTrackLoc.toStdString());
+    EXPECT_FALSE(Record.Override);
+    EXPECT_TRUE(Record.Repeat);
 }
 
 TEST_F(SlideSaveSound, ASoundThatStaysTakesItsSettingsAndNoneLeavesThem) {
-    SlideEdits Edits;
-    Edits.Repeat = true;
-    StoreSound(Engine, AlbumID, Slide(ID), Edits);
-    EXPECT_TRUE(Slide(ID).Override) << "there was no sound";
-    Edits.SoundLoc = Name;
-    StoreSound(Engine, AlbumID, Slide(ID), Edits);
-    EXPECT_FALSE(Slide(ID).Override);
-    EXPECT_TRUE(Slide(ID).Repeat);
-    EXPECT_EQ("old sound", ReadFile(Stored(Name)));
+    InHand.SetPlaying(false, true);
+    EXPECT_FALSE(Stored().Override);
+    EXPECT_TRUE(Stored().Repeat);
+    EXPECT_EQ("old sound", ReadFile(File()));
+    clsNEBSlide Silent = Slide(ID);
+    Silent.SoundTrackLoc.clear();
+    InHand.Take(AlbumID, Silent);
+    InHand.SetCaption(u"b"_s);
+    EXPECT_TRUE(Stored().Override) << "there was no sound";
 }
 
 TEST_F(SlideSaveSound, AFullDiskKeepsTheOldSound) {
-    SlideEdits Edits;
-    Edits.Recording = "new recording";
+    InHand.Record("new recording");
+    clsNEBSlide Record = Slide(ID);
     SetHostWatcher([](HostStep Step, const QString&, qint64& Length) {
         if (Step == HostStep::Write) Length = 3;
     });
-    EXPECT_THROW(StoreSound(Engine, AlbumID, Slide(ID), Edits), Fault);
+    EXPECT_THROW(StoreSound(Engine, InHand, Record), Fault);
     SetHostWatcher({});
-    EXPECT_EQ("old sound", ReadFile(Stored(Name)));
-    EXPECT_TRUE(Slide(ID).Override);
-    EXPECT_TRUE(ListMask(Stored(u"*.new"_s)).isEmpty());
+    EXPECT_EQ("old sound", ReadFile(File()));
+    EXPECT_TRUE(Record.Override);
+    EXPECT_TRUE(ListMask(SlideRig::Stored(u"*.new"_s)).isEmpty());
 }
 
 }  // namespace

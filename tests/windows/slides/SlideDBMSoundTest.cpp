@@ -124,11 +124,23 @@ TEST_F(SlideDBMSound, AClearedSoundGoesWithTheSaveAndNotBefore) {
     EXPECT_FALSE(IsOn("chkRepeat"));
 }
 
-TEST_F(SlideDBMSound, ClearedAndRecordedAgainItIsStillRemoved) {
+TEST_F(SlideDBMSound, ARecordingAfterTheSoundWasClearedIsStored) {
     const auto ID = AddSound(AddSlide(u"a"_s), true, true);
     OpenSlide(ID);
     Push("cmdClearSound");
     Record(test::Speech(100));
+    EXPECT_EQ("A new recording, not yet saved.", SoundText());
+    Push("cmdSave");
+    EXPECT_TRUE(StoredSound(ID).contains(test::Speech(100)));
+    EXPECT_EQ("00000001.wav", Slide(ID).SoundTrackLoc.toStdString());
+    EXPECT_TRUE(Slide(ID).Override);
+}
+
+TEST_F(SlideDBMSound, ASoundClearedAfterARecordingIsRemoved) {
+    const auto ID = AddSound(AddSlide(u"a"_s), true, true);
+    OpenSlide(ID);
+    Record(test::Speech(100));
+    Push("cmdClearSound");
     EXPECT_EQ("The sound goes with the next save.", SoundText());
     Push("cmdSave");
     EXPECT_EQ("", StoredSound(ID));

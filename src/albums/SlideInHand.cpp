@@ -1,0 +1,86 @@
+#include "albums/SlideInHand.h"
+
+#include "support/modFUFL.h"
+
+namespace neb {
+
+void SlideInHand::Renew(std::int32_t AlbumID, const clsNEBSlide& Now) {
+    mAlbumID = AlbumID;
+    mNow = Now;
+    mRecording.clear();
+    mSound = Sound::AsStored;
+    mTurned = mMoved = mChanged = false;
+}
+
+// How a sound is played is of no concern where there is none.
+void SlideInHand::Take(std::int32_t AlbumID, const clsNEBSlide& Stored) {
+    Renew(AlbumID, Stored);
+    mNameBefore = Stored.SlideLoc;
+    if (!HasSound()) mNow.Override = mNow.Repeat = false;
+}
+
+void SlideInHand::TakeNew(std::int32_t AlbumID) {
+    Renew(AlbumID, {});
+}
+
+void SlideInHand::MoveTo(std::int32_t AlbumID, std::int32_t SlideID) {
+    mMoved = mMoved || SlideID != mNow.SlideID;
+    mAlbumID = AlbumID;
+    mNow.SlideID = SlideID;
+}
+
+std::optional<ImgX> SlideInHand::SetPicture(std::optional<ImgX> Read) {
+    mTurned = false;
+    return std::exchange(mPicture, std::move(Read));
+}
+
+void SlideInHand::SetCaption(const QString& Caption) {
+    mNow.SlideText = Caption;
+    mChanged = true;
+}
+
+void SlideInHand::SetPlaying(bool Override, bool Repeat) {
+    mNow.Override = Override;
+    mNow.Repeat = Repeat;
+    mChanged = true;
+}
+
+void SlideInHand::ChoosePicture(const QString& Path) {
+    mNow.SlideLoc = Path;
+    mTurned = false;
+    mChanged = true;
+}
+
+std::optional<ImgX> SlideInHand::Turn(ImgX Turned) {
+    auto Before = SetPicture(std::move(Turned));
+    mTurned = mChanged = true;
+    return Before;
+}
+
+void SlideInHand::Record(const QByteArray& Wave) {
+    mRecording = Wave;
+    mSound = Sound::Recorded;
+    mChanged = true;
+}
+
+void SlideInHand::ClearSound() {
+    mRecording.clear();
+    mSound = Sound::Cleared;
+    mChanged = true;
+}
+
+const QString& SlideInHand::PictureName() const {
+    return mNow.SlideLoc.isEmpty() && (IsNew() || mMoved) ? mNameBefore : mNow.SlideLoc;
+}
+
+bool SlideInHand::IsPictureLoose() const {
+    return mMoved && mTurned && !HoldsSeparator(mNow.SlideLoc);
+}
+
+SlideInHand::JpegMaker SlideInHand::Jpeg() const {
+    if (mTurned) return [Turned = *mPicture] { return FittedJpeg(Turned); };
+    if (HoldsSeparator(mNow.SlideLoc)) return [File = mNow.SlideLoc] { return FittedJpeg(File); };
+    return {};
+}
+
+}  // namespace neb
