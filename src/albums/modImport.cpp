@@ -15,22 +15,22 @@ void MakeAlbumFolders(const clsDBEngine& theDB, std::int32_t AlbumID) {
     MakeDirs(SlidesFolder(theDB.DBPath(), AlbumID));
 }
 
-Answer<> NewAlbum(clsDBEngine& theDB, std::int32_t& AlbumID, const QString& AlbumName) {
-    AlbumID = 0;
-    Answer<> Saved = theDB.SaveAlbum(AlbumID, AlbumName);
-    if (!Saved) return Saved;
+Answer<Announcement> NewAlbum(Changes& Door, clsDBEngine& theDB, const QString& AlbumName) {
+    Answer<Announcement> Made = Door.MakeAlbum(AlbumName);
+    if (!Made) return Made;
     try {
-        MakeAlbumFolders(theDB, AlbumID);
+        MakeAlbumFolders(theDB, Made->What().AlbumID);
     } catch (const Fault&) {
-        DropAlbum(theDB, std::exchange(AlbumID, 0));
+        Made->Never();
+        DropAlbum(theDB, Made->What().AlbumID);
         throw;
     }
-    return Saved;
+    return Made;
 }
 
 void DropAlbum(clsDBEngine& theDB, std::int32_t AlbumID) {
     DeleteTree(AlbumFolder(theDB.DBPath(), AlbumID));
-    theDB.DeleteAlbum(AlbumID);
+    if (auto Deleted = Changes(theDB).DeleteAlbum(AlbumID)) Deleted->Never();
 }
 
 void StoreFile(const QString& Path, const QByteArray& Bytes) {
@@ -50,22 +50,32 @@ void DropFile(const QString& Path) {
     }
 }
 
-std::int32_t EnterPicture(clsDBEngine& theDB, clsNEBAlbum& Album, const QString& Caption,
-                          const std::function<QByteArray()>& Jpeg, const QImage& Thumbnail) {
-    std::int32_t SlideID = 0;
-    clsNEBSlide* Slide = Album.SaveSlide2(SlideID, CleanText(Caption), {}, {}, false, false, theDB);
-    const QString Stem = FileStem(SlideID);
-    const QString Folder = SlidesFolder(theDB.DBPath(), Album.AlbumID);
-    StoreFile(Folder + Stem + QStringLiteral(".jpg"), Jpeg());
-    Slide->SlideLoc = Stem + QStringLiteral(".JPG");
-    if (!Thumbnail.isNull()) StoreFile(Folder + ThumbnailName(SlideID), ThumbnailBmp(Thumbnail));
+Answer<std::int32_t> EnterPicture(Changes& Door, const clsDBEngine& theDB, std::int32_t AlbumID,
+                                  const PictureToEnter& Picture) {
+    if (!theDB.GetAlbum(AlbumID)) return Refuse(QStringLiteral("The Album was not found."));
+    const std::int32_t SlideID = theDB.NextSlideID;  // which the new slide will have
+    const QString Folder = SlidesFolder(theDB.DBPath(), AlbumID);
+    clsNEBSlide Slide;
+    Slide.SlideText = CleanText(Picture.Caption);
+    try {
+        StoreFile(Folder + FileStem(SlideID) + QStringLiteral(".jpg"), Picture.Jpeg());
+    } catch (...) {
+        static_cast<void>(Door.SaveSlide(AlbumID, Slide));
+        throw;
+    }
+    Slide.SlideLoc = FileStem(SlideID) + QStringLiteral(".JPG");
+    const Answer<Announcement> Saved = Door.SaveSlide(AlbumID, Slide);
+    if (!Saved) return Saved.Refusal();
+    if (!Picture.Thumbnail.isNull())
+        StoreFile(Folder + ThumbnailName(SlideID), ThumbnailBmp(Picture.Thumbnail));
     return SlideID;
 }
 
-PictureImport::PictureImport(clsDBEngine& theDB, clsNEBAlbum& Album, QStringList Paths,
-                             KeepGoing GoOn)
-    : mDB(theDB),
-      mAlbum(Album),
+PictureImport::PictureImport(Changes& Door, const clsDBEngine& theDB, std::int32_t AlbumID,
+                             QStringList Paths, KeepGoing GoOn)
+    : mDoor(Door),
+      mDB(theDB),
+      mAlbumID(AlbumID),
       mGoOn(std::move(GoOn)),
       mAhead(std::vector<QString>(Paths.begin(), Paths.end()), &PictureImport::Prepare) {}
 
@@ -97,8 +107,11 @@ PictureImport::Outcome PictureImport::EnterNext(const PictureToImport& Picture) 
         PassOver();
         return Outcome::Discarded;
     }
-    mSlideID = EnterPicture(
-        mDB, mAlbum, Picture.Caption, [&] { return TakeJpeg(Picture.Path); }, Picture.Thumbnail);
+    const auto Jpeg = [this, &Picture] { return TakeJpeg(Picture.Path); };
+    Answer<std::int32_t> Entered =
+        EnterPicture(mDoor, mDB, mAlbumID, {Picture.Caption, Jpeg, Picture.Thumbnail});
+    if (!Entered) return Outcome::Refused;
+    mSlideID = *Entered;
     return Outcome::Entered;
 }
 

@@ -8,29 +8,33 @@
 #include <cstdint>
 #include <functional>
 
-#include "support/Answer.h"
+#include "db/Changes.h"
 #include "support/KeepGoing.h"
 #include "support/work/AheadQueue.h"
 
 namespace neb {
 
 class clsDBEngine;
-class clsNEBAlbum;
-class clsNEBSlide;
 
 // Makes the folder of an album with its two folders; throws Fault.
 void MakeAlbumFolders(const clsDBEngine& theDB, std::int32_t AlbumID);
-// Makes an album with its folders; AlbumID is the new one. Refused as the engine refuses it. Throws
-// Fault when a folder cannot be made: the album is then gone again, and AlbumID is 0.
-Answer<> NewAlbum(clsDBEngine& theDB, std::int32_t& AlbumID, const QString& AlbumName);
-// Takes an album with all that it holds out of the engine and off the disk.
+// Makes an album of theDB, for which Door is, with its folders. Refused as the engine refuses it.
+// Throws Fault when a folder cannot be made: the album is then gone again and nobody is told.
+Answer<Announcement> NewAlbum(Changes& Door, clsDBEngine& theDB, const QString& AlbumName);
+// Takes an album with all that it holds out of the engine and off the disk; nobody is told.
 void DropAlbum(clsDBEngine& theDB, std::int32_t AlbumID);
 
-// Enters a picture in an album: the slide, then its JPEG, then its thumbnail (a null one writes
-// none). Jpeg is asked for the stored bytes once the slide is there; when it throws, the slide
-// stands without a picture. Returns the slide's number. Throws Fault.
-std::int32_t EnterPicture(clsDBEngine& theDB, clsNEBAlbum& Album, const QString& Caption,
-                          const std::function<QByteArray()>& Jpeg, const QImage& Thumbnail);
+// A picture as it comes into an album of theDB.
+struct PictureToEnter {
+    QString Caption;                   // as typed; cleaned on entry
+    std::function<QByteArray()> Jpeg;  // gives the stored bytes when they are wanted
+    QImage Thumbnail;                  // 72 by 72; a null one writes no thumbnail
+};
+// Enters a picture as one change: its JPEG, then the slide, then its thumbnail. When the JPEG
+// cannot be had or written, the slide stands without a picture. Gives the slide's number; refused
+// when there is no such album. Throws Fault.
+Answer<std::int32_t> EnterPicture(Changes& Door, const clsDBEngine& theDB, std::int32_t AlbumID,
+                                  const PictureToEnter& Picture);
 // Writes a picture's file as a whole: where that cannot be done (Fault) no part of it stays.
 void StoreFile(const QString& Path, const QByteArray& Bytes);
 // Deletes a file; errors are ignored.
@@ -48,7 +52,8 @@ struct PictureToImport {
 class PictureImport {
   public:
     // GoOn is asked while a picture is waited for, so that the caller's window stays alive.
-    PictureImport(clsDBEngine& theDB, clsNEBAlbum& Album, QStringList Paths, KeepGoing GoOn);
+    PictureImport(Changes& Door, const clsDBEngine& theDB, std::int32_t AlbumID, QStringList Paths,
+                  KeepGoing GoOn);
     ~PictureImport();
     PictureImport(const PictureImport&) = delete;
     PictureImport& operator=(const PictureImport&) = delete;
@@ -56,10 +61,11 @@ class PictureImport {
     enum class Outcome {
         Entered,
         Discarded,  // there is no such file any more
+        Refused,    // the slide could not be made
         Ended       // GoOn has said so, and the album may be gone; nothing was entered
     };
-    // Enters the next of the paths: the slide, then its JPEG, then its thumbnail. Throws Fault
-    // when the picture cannot be read or written; the slide then stands without a picture.
+    // Enters the next of the paths. Throws Fault when the picture cannot be read or written; the
+    // slide then stands without a picture.
     Outcome EnterNext(const PictureToImport& Picture);
     std::int32_t SlideID() const { return mSlideID; }  // of the slide last entered
 
@@ -72,8 +78,9 @@ class PictureImport {
     void PassOver();
     QByteArray TakeJpeg(const QString& Path);
 
-    clsDBEngine& mDB;
-    clsNEBAlbum& mAlbum;
+    Changes& mDoor;
+    const clsDBEngine& mDB;
+    const std::int32_t mAlbumID;
     KeepGoing mGoOn;
     std::int32_t mSlideID = 0;
     AheadQueue<QString, Prepared> mAhead;

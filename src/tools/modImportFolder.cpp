@@ -7,7 +7,6 @@
 #include "db/records/modJournal.h"
 #include "pictures/ImgX.h"
 #include "support/Fault.h"
-#include "support/Services.h"
 #include "support/files/modHostFiles.h"
 #include "support/modDEValidation.h"
 #include "support/modFUFL.h"
@@ -24,23 +23,6 @@ struct ImportOrder {
     QString Album;
     QString Show;  // empty: no show
     bool Recurse = false;
-};
-
-// The refusals of the album store, as lines on the error output.
-class ErrorLines : public MessageBoxes {
-  public:
-    explicit ErrorLines(ToolIO& IO) : mIO(IO), mBefore(TheServices().Boxes) {
-        TheServices().Boxes = this;
-    }
-    ~ErrorLines() override { TheServices().Boxes = mBefore; }
-    BoxAnswer Show(const BoxRequest& Request) override {
-        Fail(mIO, Request.Text);
-        return Request.Buttons == BoxButtons::Ok ? BoxAnswer::Ok : BoxAnswer::No;
-    }
-
-  private:
-    ToolIO& mIO;
-    MessageBoxes* mBefore;
 };
 
 // A picture made ready on a worker; Problem says why there is none.
@@ -126,7 +108,7 @@ class FolderImport {
         std::int32_t AlbumID = 0;
         QString Name = mOrder.Album;
         mIsNew = !mEngine.LoadAlbum(AlbumID, Name);
-        if (mIsNew && !MakeAlbum(AlbumID, Name)) return false;
+        if (mIsNew && !MakeAlbum(AlbumID)) return false;
         mAlbum = mEngine.GetAlbum(AlbumID);
         if (ShowExists()) {
             Fail(mIO,
@@ -137,9 +119,12 @@ class FolderImport {
         return true;
     }
 
-    bool MakeAlbum(std::int32_t& AlbumID, const QString& Name) {
-        const Answer<> Made = mEngine.SaveAlbum(AlbumID, Name);
-        if (!Made) Fail(mIO, Made.Refusal().Text);
+    bool MakeAlbum(std::int32_t& AlbumID) {
+        auto Made = mDoor.MakeAlbum(mOrder.Album);
+        if (Made)
+            AlbumID = Made->What().AlbumID;
+        else
+            Fail(mIO, Made.Refusal().Text);
         return static_cast<bool>(Made);
     }
 
@@ -159,18 +144,24 @@ class FolderImport {
             if (!Picture.Problem.isEmpty())
                 Fail(mIO, QStringLiteral("left out: %1: %2").arg(Paths[I], Picture.Problem));
             else
-                mEntered.push_back(EnterPicture(
-                    mEngine, *mAlbum, GetFileBaseName(Paths[I]),
-                    [&Picture] { return Picture.Jpeg; }, Picture.Thumbnail));
+                Enter({GetFileBaseName(Paths[I]), [&Picture] { return Picture.Jpeg; },
+                       Picture.Thumbnail});
         }
     }
 
+    void Enter(const PictureToEnter& Picture) {
+        auto Entered = EnterPicture(mDoor, mEngine, mAlbum->AlbumID, Picture);
+        if (!Entered) throw Fault(Entered.Refusal().Text);
+        mEntered.push_back(*Entered);
+    }
+
     void MakeShow() {
-        std::int32_t SlideShowID = 0;
-        mAlbum->SaveSlideShow(SlideShowID, mOrder.Show, 0, mEngine);
-        clsNEBSlideShow* SlideShow = mAlbum->GetSlideShow(SlideShowID);
+        clsNEBSlideShow Show;
+        Show.SlideShowName = mOrder.Show;
         std::int32_t SlideSeq = 0;
-        for (const std::int32_t SlideID : mEntered) SlideShow->SaveDetail(SlideID, ++SlideSeq, {});
+        for (const std::int32_t SlideID : mEntered) Show.SaveDetail(SlideID, ++SlideSeq, {});
+        auto Saved = mDoor.SaveShow(mAlbum->AlbumID, std::move(Show));
+        if (!Saved) throw Fault(Saved.Refusal().Text);
     }
 
     // Once the journal is whole the import stands: the next start will complete it, and its records
@@ -185,10 +176,11 @@ class FolderImport {
     void TakeBack() {
         if (mIsNew) return DropAlbum(mEngine, mAlbum->AlbumID);
         for (std::int32_t SlideID = mFirstSlideID; SlideID < mEngine.NextSlideID; ++SlideID)
-            mAlbum->DeleteSlide(SlideID, mEngine);
+            static_cast<void>(mDoor.DeleteSlide(mAlbum->AlbumID, SlideID));
     }
 
     clsDBEngine& mEngine;
+    Changes mDoor{mEngine};
     const ImportOrder& mOrder;
     ToolIO& mIO;
     clsNEBAlbum* mAlbum = nullptr;
@@ -220,7 +212,6 @@ int RunImport(const QStringList& Arguments, ToolIO& IO) {
     if (!Lock.TryLock())
         return Fail(IO,
                     QStringLiteral("The database in %1 is in use by the program.").arg(Order->Dir));
-    const ErrorLines Boxes(IO);
     clsDBEngine Engine;
     Engine.SetDBPath(Order->Dir);
     Engine.InitializeDB();

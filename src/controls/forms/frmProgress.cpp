@@ -4,6 +4,21 @@
 #include "ui_frmProgress.h"
 
 namespace neb {
+namespace {
+
+class ProgressWork : public ProgressParent {
+  public:
+    ProgressWork(frmProgress& Bar, const std::function<void(frmProgress&)>& Work)
+        : mBar(Bar), mWork(Work) {}
+    void StartOperation() override { mWork(mBar); }
+
+  private:
+    frmProgress& mBar;
+    const std::function<void(frmProgress&)>& mWork;
+};
+
+}  // namespace
+
 frmProgress::frmProgress() : mUi(std::make_unique<Ui::frmProgress>()) {
     mUi->setupUi(this);
 }
@@ -35,6 +50,13 @@ void frmProgress::Form_Activate() {
 bool frmProgress::Form_Unload() {
     mParent = nullptr;
     return true;
+}
+
+void RunUnderProgress(Form& Asker, const std::function<void(frmProgress& Bar)>& Work) {
+    const auto Held = Asker.shared_from_this();
+    const auto Bar = NewForm<frmProgress>();
+    ProgressWork Parent(*Bar, Work);
+    Bar->ShowProgressMeter(Parent);
 }
 
 }  // namespace neb

@@ -1,6 +1,8 @@
 // The window over work that is not to be stopped, such as an import: a bar, no buttons.
 #pragma once
 
+#include <functional>
+
 #include "controls/forms/Form.h"
 #include "controls/forms/PaintRate.h"
 
@@ -40,5 +42,9 @@ class frmProgress : public Form {
     ProgressParent* mParent = nullptr;
     PaintRate mPaintRate;
 };
+
+// Shows a frmProgress, runs the work from its first activation and returns when both are over; what
+// the work throws passes out. The window that asks lives as long, even when the work closes it.
+void RunUnderProgress(Form& Asker, const std::function<void(frmProgress& Bar)>& Work);
 
 }  // namespace neb

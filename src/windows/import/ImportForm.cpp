@@ -3,11 +3,11 @@
 #include "windows/import/ImportForm.h"
 
 #include <QProgressBar>
+#include <QScopeGuard>
 
 #include "controls/fields/Icons.h"
 #include "controls/fields/ToolBar.h"
 #include "controls/forms/ScreenPointer.h"
-#include "controls/forms/frmLoading.h"
 #include "controls/forms/frmProgress.h"
 #include "controls/grid/FlexGrid.h"
 #include "controls/grid/GridRows.h"
@@ -24,8 +24,9 @@
 namespace neb {
 namespace {
 
-// What the bar's tool tip says after item I of Count, I from 1: the item's index from 0 plus one
-// item's share of a hundred, as the program has always counted it here.
+// What the bar's tool tip says after item I of Count, I from 1: the item's
+// index from 0 plus one item's share of a hundred, as the program has always
+// counted it here.
 QString ImportProgressText(int I, int Count) {
     return Format((I - 1) + 100.0 / Count, "##0") + QStringLiteral("% Complete");
 }
@@ -36,9 +37,8 @@ ImportForm::ImportForm(const WindowMemory& Memory)
     : mUi(std::make_unique<Ui::ImportForm>()), mMemory(Memory) {
     mUi->setupUi(this);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
-    SetUpGrid(
-        *mUi->flxNonSelected,
-        tr("No pictures here.\nImport a directory, or drop files and folders on this window."));
+    SetUpGrid(*mUi->flxNonSelected, tr("No pictures here.\nImport a directory, or drop files and "
+                                       "folders on this window."));
     SetUpGrid(*mUi->flxSelected, tr("Pictures moved here are imported,\nin this order."));
     SetUpButtons();
     SetUpToolBar();
@@ -55,11 +55,13 @@ void ImportForm::SetUpGrid(FlexGrid& Grid, const QString& EmptyText) {
     Grid.SetKeyPressEdit(&FixQuoteKeyInGrid);
     connect(&Grid, &FlexGrid::AfterEdit, this,
             [&Grid](int Row, int Col) { FitCaption(Grid, Row, Col); });
-    connect(&Grid, &FlexGrid::CellDblClicked, this, [this, &Grid](int Row, int Col) {
-        if (Row >= 0 && Col == ColPicture) ShowPreview(Grid, Row);
+    const auto Preview = [this, &Grid](int Row) {
+        Command([&Grid, Row] { PopUpPicture(Grid.TextMatrix(Row, ColPath)); });
+    };
+    connect(&Grid, &FlexGrid::CellDblClicked, this, [Preview](int Row, int Col) {
+        if (Row >= 0 && Col == ColPicture) Preview(Row);
     });
-    connect(&Grid, &FlexGrid::RowActivated, this,
-            [this, &Grid](int Row) { ShowPreview(Grid, Row); });
+    connect(&Grid, &FlexGrid::RowActivated, this, Preview);
 }
 
 void ImportForm::SetUpButtons() {
@@ -76,31 +78,39 @@ void ImportForm::SetUpButtons() {
     };
     for (const auto& Move : Moves) {
         Move.Button->setIcon(ThemeIcon(Move.Icon));
-        connect(Move.Button, &QPushButton::clicked, this,
-                [this, Move] { MoveRows(*Move.From, *Move.To, Move.All); });
+        connect(Move.Button, &QPushButton::clicked, this, [this, Move] {
+            Command([this, Move] { MoveRows(*Move.From, *Move.To, Move.All); });
+        });
     }
-    connect(mUi->cmdImport, &QPushButton::clicked, this, &ImportForm::Import);
-    connect(mUi->cmdCancel, &QPushButton::clicked, this, &ImportForm::Unload);
+    On(mUi->cmdImport, &QPushButton::clicked, &ImportForm::Import);
+    On(mUi->cmdCancel, &QPushButton::clicked, &ImportForm::Close);
     UpdateButtons();
 }
 
 void ImportForm::SetUpToolBar() {
-    mUi->abrMenu->AddTool(QStringLiteral("mnuImportDirectory"), tr("Import Graphics Directory"),
-                          tr("Import the graphics in a directory"),
-                          QStringLiteral("import-directory"), QKeySequence(Qt::CTRL | Qt::Key_O));
-    mUi->abrMenu->AddTool(QStringLiteral("mnuFindGraphics"), tr("Find Graphics"),
-                          tr("Search drives for graphics to import"),
-                          QStringLiteral("find-graphics"), QKeySequence(Qt::CTRL | Qt::Key_F));
-    mUi->abrMenu->AddTool(QStringLiteral("mnuExit"), tr("Exit"), tr("Close this window"),
-                          QStringLiteral("exit"));
-    connect(mUi->abrMenu, &ToolBar::ToolClicked, this, &ImportForm::ToolClicked);
-}
-
-void ImportForm::ToolClicked(const QString& Name) {
-    const auto Held = shared_from_this();
-    if (Name == u"mnuImportDirectory") ImportAnotherDirectory();
-    if (Name == u"mnuFindGraphics") ImportFoundGraphics();
-    if (Name == u"mnuExit") Unload();
+    const struct {
+        const char* Name;
+        QString Caption, ToolTip;
+        const char* Icon;
+        QKeySequence Key;
+        void (ImportForm::*Do)();
+    } Tools[] = {
+        {"mnuImportDirectory", tr("Import Graphics Directory"),
+         tr("Import the graphics in a directory"), "import-directory",
+         QKeySequence(Qt::CTRL | Qt::Key_O), &ImportForm::ImportAnotherDirectory},
+        {"mnuFindGraphics", tr("Find Graphics"), tr("Search drives for graphics to import"),
+         "find-graphics", QKeySequence(Qt::CTRL | Qt::Key_F), &ImportForm::ImportFoundGraphics},
+        {"mnuExit", tr("Exit"), tr("Close this window"), "exit", {}, &ImportForm::Close},
+    };
+    for (const auto& Tool : Tools) {
+        const QString Name = QString::fromLatin1(Tool.Name);
+        mUi->abrMenu->AddTool(Name, Tool.Caption, Tool.ToolTip, QString::fromLatin1(Tool.Icon),
+                              Tool.Key);
+        connect(mUi->abrMenu, &ToolBar::ToolClicked, this,
+                [this, Name, Do = Tool.Do](const QString& Clicked) {
+                    if (Clicked == Name) Command([this, Do] { (this->*Do)(); });
+                });
+    }
 }
 
 // A button is of use while the grid that it takes from has rows.
@@ -119,24 +129,29 @@ void ImportForm::MoveRows(FlexGrid& From, FlexGrid& To, bool All) {
     UpdateButtons();
 }
 
-void ImportForm::ShowPreview(const FlexGrid& Grid, int Row) {
-    const auto Held = shared_from_this();
-    PopUpPicture(Grid.TextMatrix(Row, ColPath));
+// A caption that is being typed counts, and goes with its row.
+void ImportForm::FinishEdits() {
+    mUi->flxNonSelected->FinishEdit();
+    mUi->flxSelected->FinishEdit();
 }
 
 void ImportForm::Form_Load() {
-    mInForm_Load = true;
-    ReadUnderLoading();
+    ReadPictures();
+    Leave(Phase::Loading);
     UpdateButtons();
     if (IsLoaded()) RestoreWindow(*this, mMemory);
 }
 
 bool ImportForm::Form_Unload() {
-    mAborted = true;
-    if (mProgressForm) std::exchange(mProgressForm, nullptr)->Unload();
-    ReleaseLoading();
-    if (!mInForm_Load) SaveWindow(*this, mMemory);  // else it has had no place yet
+    if (mPhase != Phase::Loading) SaveWindow(*this, mMemory);
+    mPhase = Phase::Closed;
+    mReading.WindowClosed();
     return true;
+}
+
+// Whatever has ended, a window that was closed stays so.
+void ImportForm::Leave(Phase Done) {
+    if (mPhase == Done) mPhase = Phase::Waiting;
 }
 
 bool ImportForm::HasSelection() const {
@@ -146,54 +161,53 @@ bool ImportForm::HasSelection() const {
 }
 
 void ImportForm::RunImport() {
-    const auto Held = shared_from_this();
-    mUi->flxSelected->FinishEdit();
-    ReleaseLoading();
-    mProgressForm = NewForm<frmProgress>();
-    const auto Shown = mProgressForm;
-    try {
-        Shown->ShowProgressMeter(*this);
-    } catch (...) {
-        EndOperation();
-        throw;
-    }
+    mPhase = Phase::Importing;
+    const auto Over = qScopeGuard([this] { Leave(Phase::Importing); });
+    RunUnderProgress(*this, [this](frmProgress& Bar) { StartOperation(Bar); });
 }
 
-void ImportForm::EndOperation() {
-    SetScreenPointer(Pointer::Default);
-    if (mProgressForm) std::exchange(mProgressForm, nullptr)->Unload();
+Answer<Announcement> ImportForm::MakeAlbum(Changes& Door, const QString& Name) {
+    const PointerScope Working(Pointer::Hourglass);
+    return NewAlbum(Door, *DBEngine, ConvertQuotes(Name));
 }
 
-bool ImportForm::ImportRows(clsNEBAlbum& Album, const RowDone& Done) {
-    const auto Progress = mProgressForm;
-    Progress->setWindowTitle(QStringLiteral("Importing Slides ..."));
-    Progress->pgbLoadingProgress()->setMaximum(mUi->flxSelected->Rows());
-    Progress->pgbLoadingProgress()->setValue(0);
-    Progress->Refresh();
-    return GoesOn() && EnterRows(Album, Done);
+QStringList ImportForm::SelectedPaths() const {
+    const FlexGrid& Grid = *mUi->flxSelected;
+    QStringList Paths;
+    for (int Row = 0; Row < Grid.Rows(); ++Row) Paths.append(Grid.TextMatrix(Row, ColPath));
+    return Paths;
+}
+
+bool ImportForm::ImportRows(Changes& Door, std::int32_t AlbumID, frmProgress& Bar,
+                            const RowDone& Done) {
+    const PointerScope Working(Pointer::Hourglass);
+    Bar.setWindowTitle(QStringLiteral("Importing Slides ..."));
+    Bar.pgbLoadingProgress()->setMaximum(mUi->flxSelected->Rows());
+    Bar.pgbLoadingProgress()->setValue(0);
+    Bar.Refresh();
+    if (!GoesOn()) return false;
+    PictureImport Run(Door, *DBEngine, AlbumID, SelectedPaths(), [this] { return GoesOn(); });
+    return EnterRows(Run, Bar, Done);
 }
 
 // The window may be closed while it imports, and its album be gone then.
 bool ImportForm::GoesOn() const {
     DoEvents();
-    return !mAborted;
+    return IsLoaded();
 }
 
-bool ImportForm::EnterRows(clsNEBAlbum& Album, const RowDone& Done) {
+bool ImportForm::EnterRows(PictureImport& Run, frmProgress& Bar, const RowDone& Done) {
     const FlexGrid& Grid = *mUi->flxSelected;
     const int Count = Grid.Rows();
-    const auto Progress = mProgressForm;
-    QStringList Paths;
-    for (int Row = 0; Row < Count; ++Row) Paths.append(Grid.TextMatrix(Row, ColPath));
-    PictureImport Run(*DBEngine, Album, Paths, [this] { return GoesOn(); });
     for (int Row = 0; Row < Count; ++Row) {
-        const auto Outcome = Run.EnterNext(
-            {Paths[Row], Grid.TextMatrix(Row, ColCaption), Grid.CellPicture(Row, ColPicture)});
+        const auto Outcome =
+            Run.EnterNext({Grid.TextMatrix(Row, ColPath), Grid.TextMatrix(Row, ColCaption),
+                           Grid.CellPicture(Row, ColPicture)});
         if (Outcome == PictureImport::Outcome::Ended) return false;
-        Done(Row, Outcome, Run.SlideID());
-        Progress->pgbLoadingProgress()->setValue(Row + 1);
-        Progress->pgbLoadingProgress()->setToolTip(ImportProgressText(Row + 1, Count));
-        Progress->Refresh();
+        if (!Done(Row, Outcome, Run.SlideID())) return false;
+        Bar.pgbLoadingProgress()->setValue(Row + 1);
+        Bar.pgbLoadingProgress()->setToolTip(ImportProgressText(Row + 1, Count));
+        Bar.Refresh();
         if (!GoesOn()) return false;
     }
     return true;

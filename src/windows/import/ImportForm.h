@@ -8,7 +8,7 @@
 
 #include "albums/modImport.h"
 #include "controls/forms/Form.h"
-#include "controls/forms/Progress.h"
+#include "windows/lists/SlideReading.h"
 
 namespace neb {
 
@@ -17,25 +17,23 @@ class ImportForm;
 }
 class FlexGrid;
 class ToolBar;
-class frmLoading;
 class frmProgress;
 struct WindowMemory;
 
-class ImportForm : public Form, public ProgressParent {
+class ImportForm : public Form {
     Q_OBJECT
 
   public:
     ~ImportForm() override;
 
     // Whether the window was closed, before or after it was shown.
-    bool Aborted() const { return mAborted; }
-    void SetImportDir(const QString& Directory) { mImportDir = Directory; }
-    void SetRecurseDir(bool Recurse) { mRecurseDir = Recurse; }
-    const QString& ImportDir() const { return mImportDir; }
+    bool Aborted() const { return mPhase == Phase::Closed; }
+    void SetImportDir(const QString& Directory) { mSource.Directory = Directory; }
+    void SetRecurseDir(bool Recurse) { mSource.Recurse = Recurse; }
+    const QString& ImportDir() const { return mSource.Directory; }
 
-    void DoActivity() override;  // reads the directory, under frmLoading
-    void DoAbort() override { mAbort = true; }
-    // Puts paths in the order of their bare names by character code, equal names as they were.
+    // Puts paths in the order of their bare names by character code, equal names as they were. No
+    // window asks for it: pictures stay in the order in which they were found.
     void SortFiles(QStringList& Paths);
 
     // The columns of both grids.
@@ -58,52 +56,65 @@ class ImportForm : public Form, public ProgressParent {
     bool HasSelection() const;
     // Shows frmProgress over StartOperation.
     void RunImport();
-    // What a row of the selection turned into; Row counts from 0.
+    // The import itself, under the bar.
+    virtual void StartOperation(frmProgress& Bar) = 0;
+    // Makes an album with its folders; the name is cleaned.
+    Answer<Announcement> MakeAlbum(Changes& Door, const QString& Name);
+    // What a row of the selection turned into, Row from 0; false ends the import.
     using RowDone =
-        std::function<void(int Row, PictureImport::Outcome Outcome, std::int32_t SlideID)>;
-    // Enters every selected picture in the album, with the bar under way. False when the window
-    // was closed meanwhile: the album may then be gone.
-    bool ImportRows(clsNEBAlbum& Album, const RowDone& Done);
-    // Puts the pointer back and takes the progress window away.
-    void EndOperation();
+        std::function<bool(int Row, PictureImport::Outcome Outcome, std::int32_t SlideID)>;
+    // Enters every selected picture in the album and moves the bar. False when RowDone has ended
+    // it, or when the window was closed meanwhile: the album may then be gone.
+    bool ImportRows(Changes& Door, std::int32_t AlbumID, frmProgress& Bar, const RowDone& Done);
 
     std::unique_ptr<Ui::ImportForm> mUi;
-    std::shared_ptr<frmProgress> mProgressForm;
 
   private:
+    // What the window is at; reading is known to mReading.
+    enum class Phase {
+        Loading,    // until the first read is over; the window has had no place yet
+        Waiting,    // for the user
+        Searching,  // for pictures, in a window of its own
+        Importing,
+        Closed
+    };
+    // Where pictures come from: what is named, else the directory.
+    struct Source {
+        QString Directory;
+        bool Recurse = false;
+        QStringList Named;  // files, and directories with their separator
+    };
+    struct FoundPictures;
+
     void SetUpGrid(FlexGrid& Grid, const QString& EmptyText);
     void SetUpButtons();
     void SetUpToolBar();
-    void ToolClicked(const QString& Name);
     void UpdateButtons();
     void MoveRows(FlexGrid& From, FlexGrid& To, bool All);
-    void ShowPreview(const FlexGrid& Grid, int Row);
+    void Close() { Unload(); }
+
+    bool IsBusy() const override { return mPhase != Phase::Waiting || mReading.IsReading(); }
+    void FinishEdits() override;
+    void Leave(Phase Done);
     bool GoesOn() const;
-    bool EnterRows(clsNEBAlbum& Album, const RowDone& Done);
+    bool EnterRows(PictureImport& Run, frmProgress& Bar, const RowDone& Done);
+    QStringList SelectedPaths() const;
 
     void ImportAnotherDirectory();
     void ImportFoundGraphics();
-    bool AskDiscardRemaining();
+    void DropRemaining();
     bool IsFree() const;
-    void ReadUnderLoading();
-    void ReadDirectory();
-    QStringList CollectFiles(const QStringList& Named);
     void ReadDropped(const QStringList& Paths);
-    void LoadPictures(const QStringList& Files);
-    bool LoadPicture(AheadQueue<QString, std::optional<QImage>>& Ahead, const QString& Path);
+    void ReadPictures();
+    SlideReading::Order Reading(const Source& From);
+    QStringList CollectFiles(const Source& From);
+    void LoadPicture(FoundPictures& Found, const QString& Path);
     void AddRow(const QString& Path, const QImage& Thumbnail);
-    bool Stopped();
-    void ReleaseLoading();
 
     const WindowMemory& mMemory;
-    bool mBusy = false;
-    bool mAbort = false;
-    std::shared_ptr<frmLoading> mLoadingForm;
-    QString mImportDir;
-    QStringList mNamed;  // files, and directories with their separator, to read first
-    bool mRecurseDir = false;
-    bool mInForm_Load = false;
-    bool mAborted = false;
+    Phase mPhase = Phase::Loading;
+    Source mSource;
+    SlideReading mReading{*this};
 };
 
 }  // namespace neb

@@ -7,7 +7,7 @@ namespace neb {
 
 frmDirSelect::frmDirSelect() : mUi(std::make_unique<Ui::frmDirSelect>()) {
     mUi->setupUi(this);
-    connect(mUi->cmdSelect, &QPushButton::clicked, this, &frmDirSelect::Select);
+    On(mUi->cmdSelect, &QPushButton::clicked, &frmDirSelect::Select);
     connect(mUi->cmdCancel, &QPushButton::clicked, this, &frmDirSelect::Unload);
 }
 

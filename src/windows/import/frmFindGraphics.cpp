@@ -86,7 +86,7 @@ frmFindGraphics::frmFindGraphics() : mUi(std::make_unique<Ui::frmFindGraphics>()
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     SetUpGrid();
     SetUpButtons();
-    connect(mUi->cboSearchPath, &QComboBox::activated, this, &frmFindGraphics::SearchPathChosen);
+    On(mUi->cboSearchPath, &QComboBox::activated, &frmFindGraphics::SearchPathChosen);
 }
 
 frmFindGraphics::~frmFindGraphics() = default;
@@ -110,9 +110,10 @@ void frmFindGraphics::SetUpButtons() {
     mUi->cmdSearch->setIcon(ThemeIcon(QStringLiteral("find-graphics")));
     mUi->cmdCancel->setIcon(ThemeIcon(QStringLiteral("stop")));
     mUi->cmdImport->setIcon(ThemeIcon(QStringLiteral("import")));
-    connect(mUi->cmdSearch, &QPushButton::clicked, this, &frmFindGraphics::Search);
-    connect(mUi->cmdCancel, &QPushButton::clicked, this, [this] { mCancel = true; });
-    connect(mUi->cmdImport, &QPushButton::clicked, this, &frmFindGraphics::Import);
+    On(mUi->cmdSearch, &QPushButton::clicked, &frmFindGraphics::Search);
+    On(mUi->cmdImport, &QPushButton::clicked, &frmFindGraphics::Import);
+    // these two end a search
+    connect(mUi->cmdCancel, &QPushButton::clicked, this, &frmFindGraphics::Cancel);
     connect(mUi->cmdClose, &QPushButton::clicked, this, &frmFindGraphics::Unload);
 }
 
@@ -137,7 +138,6 @@ void frmFindGraphics::FitColumns() {
 
 // The drives first, then what was browsed to; the choice stays as long as it is there.
 void frmFindGraphics::FillSearchPath() {
-    mDrives = ReadyDrives();
     ComboBoxList Paths(*mUi->cboSearchPath);
     const QString Chosen = mUi->cboSearchPath->currentText();
     QStringList Others;
@@ -145,22 +145,31 @@ void frmFindGraphics::FillSearchPath() {
         if (Paths.ItemData(I) == NotSearched) Others.append(Paths.List(I));
     if (Others.isEmpty()) Others = {AllDrives, Browse};
     Paths.Clear();
-    for (const QString& Drive : mDrives) ComboAddItem(Paths, Drive, Searched);
+    for (const QString& Drive : ReadyDrives()) ComboAddItem(Paths, Drive, Searched);
     for (const QString& Other : Others) ComboAddItem(Paths, Other, NotSearched);
     const int Place = mUi->cboSearchPath->findText(Chosen);
     Paths.SetListIndex(Place < 0 ? Paths.ListCount() - 2 : Place);
 }
 
+QStringList frmFindGraphics::ListedDrives() const {
+    const ComboBoxList Paths(*mUi->cboSearchPath);
+    QStringList Drives;
+    for (int I = 0; I < Paths.ListCount(); ++I)
+        if (Paths.ItemData(I) == Searched) Drives.append(Paths.List(I));
+    return Drives;
+}
+
 // A search goes on over the list with which it began.
 void frmFindGraphics::FollowDrives() {
-    mDrivesMoved = mSearching;
-    if (IsLoaded() && !mSearching && ReadyDrives() != mDrives) FillSearchPath();
+    if (mHunt)
+        mHunt->DrivesMoved = true;
+    else if (IsLoaded() && ReadyDrives() != ListedDrives())
+        FillSearchPath();
 }
 
 // A directory that was browsed to stays in the list until the window closes.
 void frmFindGraphics::SearchPathChosen() {
     if (mUi->cboSearchPath->currentText() != Browse) return;
-    const auto Held = shared_from_this();
     const auto Selector = NewForm<frmDirSelect>();
     Selector->SetRecurseDirOption(false);
     Selector->SetCountGraphics(false);
@@ -173,15 +182,11 @@ void frmFindGraphics::SearchPathChosen() {
 }
 
 void frmFindGraphics::Search() {
-    if (mSearching) return;
-    const auto Held = shared_from_this();
-    mCancel = false;
-    mSearching = true;
-    mNextYield = 0;
+    mHunt.emplace();
     setWindowTitle(Caption);
     SearchPathChosen();
     if (!IsLoaded() || mUi->cboSearchPath->currentText() == Browse) {
-        mSearching = false;
+        mHunt.reset();
         return;
     }
     const PointerScope Working(Pointer::Hourglass);
@@ -196,28 +201,30 @@ void frmFindGraphics::Search() {
 }
 
 void frmFindGraphics::SearchChosen() {
-    mResultCount = 0;
     mUi->lblResults->setText(QStringLiteral("0 Results"));
     mUi->lblSelected->setText(QStringLiteral("0 Selected"));
     mUi->flxResults->SetRows(0);
     DoEvents();
-    const ComboBoxList Paths(*mUi->cboSearchPath);
     if (mUi->cboSearchPath->currentText() != AllDrives) {
         SearchDirectory(mUi->cboSearchPath->currentText());
         return;
     }
-    for (int I = 0; I < Paths.ListCount(); ++I)
-        if (Paths.ItemData(I) == Searched && (!SearchDirectory(Paths.List(I)) || mCancel)) return;
+    for (const QString& Drive : ListedDrives())
+        if (!SearchDirectory(Drive) || mHunt->Cancelled) return;
 }
 
 void frmFindGraphics::SearchEnded() {
+    const Hunt Ended = *std::exchange(mHunt, std::nullopt);
     EnableForSearch(false);
-    mUi->cmdImport->setEnabled(mResultCount > 0);
-    mUi->lblResults->setText(QString::number(mResultCount) + QStringLiteral(" Results"));
+    mUi->cmdImport->setEnabled(Ended.Results > 0);
+    mUi->lblResults->setText(QString::number(Ended.Results) + QStringLiteral(" Results"));
     setWindowTitle(Caption);
-    mSearching = false;
     if (IsLoaded() && !focusWidget()) mUi->flxResults->setFocus();
-    if (mDrivesMoved) FollowDrives();
+    if (Ended.DrivesMoved) FollowDrives();
+}
+
+void frmFindGraphics::Cancel() {
+    if (mHunt) mHunt->Cancelled = true;
 }
 
 void frmFindGraphics::EnableForSearch(bool Searching) {
@@ -243,27 +250,27 @@ bool frmFindGraphics::SearchDirectory(const QString& Directory) {
     mUi->txtFilter->setText(NormalFilter(mUi->txtFilter->text()));
     GraphicsSearch Walk(Directory, mUi->txtFilter->text(), SelectedTypes());
     int Found = 0;
-    bool GoesOn = true;
-    while (GoesOn && !mCancel) {
+    bool Ok = true;
+    while (Ok && !mHunt->Cancelled) {
         if (!Walk.Wait(WaitMs)) {
             ShowFound();
             DoEvents();
             continue;
         }
         if (Walk.AtEnd()) break;
-        GoesOn = TakeStep(Walk.Take(), Found);
+        Ok = TakeStep(Walk.Take(), Found);
     }
     ShowFound();
-    if (GoesOn) mResultCount += Found;
-    return GoesOn;
+    if (Ok) mHunt->Results += Found;
+    return Ok;
 }
 
 bool frmFindGraphics::TakeStep(const SearchStep& Step, int& Found) {
     for (const QStringList& File : Step.Files) {
-        mFound.push_back(File);
+        mHunt->Waiting.push_back(File);
         ++Found;
         TickFile();
-        if (mCancel) return true;
+        if (mHunt->Cancelled) return true;
     }
     if (!Step.Error) {
         TickDirectory();
@@ -275,31 +282,30 @@ bool frmFindGraphics::TakeStep(const SearchStep& Step, int& Found) {
 }
 
 void frmFindGraphics::TickFile() {
-    if (++mFilesFound % FilesPerTick == 0) ShowProgress();
+    if (++mTally.Files % FilesPerTick == 0) ShowProgress();
 }
 
 void frmFindGraphics::TickDirectory() {
-    ++mDirsSearched;
+    ++mTally.Directories;
     ShowProgress();
 }
 
 // Thousands of times a second there is a reason to; nobody sees more than this, and each time the
 // list is painted anew.
 void frmFindGraphics::ShowProgress() {
-    if (TheServices().Time->Ticks() < mNextYield) return;
+    if (TheServices().Time->Ticks() < mHunt->NextYield) return;
     setWindowTitle(
         QStringLiteral("Find Graphics - %1 Directories Searched: %2 Graphics Files Found")
-            .arg(mDirsSearched)
-            .arg(mFilesFound));
+            .arg(mTally.Directories)
+            .arg(mTally.Files));
     ShowFound();
     DoEvents();
-    mNextYield = TheServices().Time->Ticks() + YieldMs;
+    mHunt->NextYield = TheServices().Time->Ticks() + YieldMs;
 }
 
 // Before the user can look at the grid again, what was found is in it.
 void frmFindGraphics::ShowFound() {
-    mUi->flxResults->AddItems(mFound);
-    mFound.clear();
+    mUi->flxResults->AddItems(std::exchange(mHunt->Waiting, {}));
 }
 
 void frmFindGraphics::ShowSelected() {
@@ -323,14 +329,14 @@ void frmFindGraphics::Import() {
 }
 
 void frmFindGraphics::reject() {
-    if (mSearching)
-        mCancel = true;
+    if (mHunt)
+        Cancel();
     else
         Form::reject();
 }
 
 bool frmFindGraphics::Form_Unload() {
-    if (mSearching) mCancel = true;
+    Cancel();
     SavePlace();
     return true;
 }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QStringList>
+#include <optional>
 #include <vector>
 
 #include "controls/forms/Form.h"
@@ -37,13 +38,29 @@ class frmFindGraphics : public Form {
     void reject() override;  // Esc: ends the search first, then the window
 
   private:
+    // A search that is under way.
+    struct Hunt {
+        bool Cancelled = false;
+        bool DrivesMoved = false;  // meanwhile
+        int Results = 0;
+        double NextYield = 0;              // ticks of the clock
+        std::vector<QStringList> Waiting;  // rows not yet in the grid
+    };
+    // Over all searches until the window closes.
+    struct Tally {
+        int Directories = 0, Files = 0;
+    };
+
+    bool IsBusy() const override { return mHunt.has_value(); }
     void SetUpGrid();
     void SetUpButtons();
     void FitColumns();
     void FillSearchPath();
+    QStringList ListedDrives() const;
     void FollowDrives();
     void SearchPathChosen();
     void Search();
+    void Cancel();
     void SearchChosen();
     void SearchEnded();
     void EnableForSearch(bool Searching);
@@ -62,16 +79,9 @@ class frmFindGraphics : public Form {
     void SavePlace() const;
 
     std::unique_ptr<Ui::frmFindGraphics> mUi;
-    bool mCancel = false;
-    int mDirsSearched = 0;  // both are counted until the window closes
-    int mFilesFound = 0;
-    int mResultCount = 0;
-    bool mSearching = false;
-    double mNextYield = 0;      // ticks of the clock
-    QStringList mDrives;        // those in the list
-    bool mDrivesMoved = false;  // during the search
+    std::optional<Hunt> mHunt;  // none: the window waits
+    Tally mTally;
     QStringList mFiles;
-    std::vector<QStringList> mFound;  // rows not yet in the grid
 };
 
 }  // namespace neb

@@ -1,7 +1,7 @@
 #include "windows/import/frmImportFilter.h"
 
-#include "controls/forms/ScreenPointer.h"
 #include "controls/forms/Tell.h"
+#include "controls/forms/frmProgress.h"
 #include "db/clsDBEngine.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
@@ -16,15 +16,15 @@ namespace {
 
 const WindowMemory Memory{QStringLiteral("frmImportFilter"), 7080};
 
-QString ImportedText(int Count, int Discarded) {
-    QString Text =
-        QString::number(Count - Discarded) + QStringLiteral(" slides successfully imported.");
-    if (Discarded > 0)
-        Text += u'\n' + QString::number(Discarded) + QStringLiteral(" slides discarded.");
-    return Text;
-}
-
 }  // namespace
+
+QString frmImportFilter::ImportTally::Text() const {
+    QString Told =
+        QString::number(Rows - Discarded) + QStringLiteral(" slides successfully imported.");
+    if (Discarded > 0)
+        Told += u'\n' + QString::number(Discarded) + QStringLiteral(" slides discarded.");
+    return Told;
+}
 
 frmImportFilter::frmImportFilter() : ImportForm(Memory) {
     setObjectName(QStringLiteral("frmImportFilter"));
@@ -37,49 +37,64 @@ frmImportFilter::frmImportFilter() : ImportForm(Memory) {
 
 void frmImportFilter::SetAlbumName(const QString& AlbumName) {
     if (Aborted()) return;
-    mAlbumName = AlbumName;
-    setWindowTitle(QStringLiteral("Picture Import Filter - ") + AlbumName);
+    ShowName(AlbumName);
     Load();
+}
+
+void frmImportFilter::ShowName(const QString& AlbumName) {
+    mTarget.AlbumName = AlbumName;
+    setWindowTitle(QStringLiteral("Picture Import Filter - ") + AlbumName);
 }
 
 void frmImportFilter::Import() {
     if (HasSelection()) RunImport();
 }
 
-void frmImportFilter::StartOperation() {
-    SetScreenPointer(Pointer::Hourglass);
-    if (mAlbumID == 0 && !MakeAlbum()) {
-        SetScreenPointer(Pointer::Default);
-        MsgBox(QStringLiteral("Failed to create album."));
-    } else {
-        ImportIntoAlbum();
+void frmImportFilter::StartOperation(frmProgress& Bar) {
+    if (mTarget.AlbumID != 0 || MakeTarget()) ImportIntoAlbum(Bar);
+}
+
+bool frmImportFilter::MakeTarget() {
+    Changes Door(*DBEngine, this);
+    if (auto Made = MakeAlbum(Door, mTarget.AlbumName); Tell(Made)) {
+        mTarget.AlbumID = Made->What().AlbumID;
+        return true;
     }
-    EndOperation();
+    MsgBox(QStringLiteral("Failed to create album."));
+    return false;
 }
 
-bool frmImportFilter::MakeAlbum() {
-    if (!Tell(NewAlbum(*DBEngine, mAlbumID, ConvertQuotes(mAlbumName)))) return false;
-    BroadcastEvent(QStringLiteral("Album"), QStringLiteral("Insert"), this, {mAlbumID});
-    return true;
-}
-
-void frmImportFilter::ImportIntoAlbum() {
-    clsNEBAlbum* Album = DBEngine->GetAlbum(mAlbumID);
-    if (!Album) throw Fault(QStringLiteral("The Album was not found."));
-    int Count = 0;
-    int Discarded = 0;
-    const auto CountRow = [&](int, PictureImport::Outcome Outcome, std::int32_t) {
-        ++Count;
-        if (Outcome == PictureImport::Outcome::Discarded) ++Discarded;
-    };
-    if (!ImportRows(*Album, CountRow)) return;
-    SetScreenPointer(Pointer::Default);
-    MsgBox(ImportedText(Count, Discarded));
-    BroadcastEvent(QStringLiteral("Album"), QStringLiteral("Add Slides"), this, {mAlbumID, 0});
+void frmImportFilter::ImportIntoAlbum(frmProgress& Bar) {
+    Changes Door(*DBEngine, this);
+    Announcement Imported = Door.AsOne(Change::Kind::SlidesImported, mTarget.AlbumID);
+    const std::optional<ImportTally> Tally = EnterAll(Door, Bar);
+    if (!Tally) return Imported.Never();
+    MsgBox(Tally->Text());
+    Imported.Now();
+    Bar.Unload();
     Unload();
-    if (!mLoadSlideShowMgr || !TheOpeners().SlideShowMgr) return;
+    OpenSlideShowMgr();
+}
+
+// Nothing when the window was closed meanwhile: its album may have gone.
+std::optional<frmImportFilter::ImportTally> frmImportFilter::EnterAll(Changes& Door,
+                                                                      frmProgress& Bar) {
+    ImportTally Tally;
+    const auto CountRow = [&](int Row, PictureImport::Outcome Outcome, std::int32_t) {
+        ++Tally.Rows;
+        if (Outcome == PictureImport::Outcome::Discarded) ++Tally.Discarded;
+        if (Outcome == PictureImport::Outcome::Refused)
+            MsgBox(QStringLiteral("Failed to save slide %1").arg(Row));
+        return true;
+    };
+    if (!ImportRows(Door, mTarget.AlbumID, Bar, CountRow)) return std::nullopt;
+    return Tally;
+}
+
+void frmImportFilter::OpenSlideShowMgr() const {
+    if (!mTarget.LoadSlideShowMgr || !TheOpeners().SlideShowMgr) return;
     try {
-        TheOpeners().SlideShowMgr(mAlbumID, 0);
+        TheOpeners().SlideShowMgr(mTarget.AlbumID, 0);
     } catch (const Fault&) {
         // the pictures are in; the manager can be opened from the menu
     }
@@ -87,17 +102,16 @@ void frmImportFilter::ImportIntoAlbum() {
 
 void frmImportFilter::ReceiveEvent(const QString& ObjectType, const QString& EventType,
                                    const EventKeys& EventData) {
-    if (mAlbumID == 0 || ObjectType != u"Album" || EventData.at(0) != mAlbumID) return;
+    const std::int32_t AlbumID = mTarget.AlbumID;
+    if (AlbumID == 0 || ObjectType != u"Album" || EventData.at(0) != AlbumID) return;
     if (EventType == u"Delete") Unload();
     if (EventType == u"Update") FollowName();
 }
 
 void frmImportFilter::FollowName() {
     QString Name;
-    std::int32_t AlbumID = mAlbumID;
-    if (!DBEngine->LoadAlbum(AlbumID, Name) || Name == mAlbumName) return;
-    mAlbumName = Name;
-    setWindowTitle(QStringLiteral("Picture Import Filter - ") + Name);
+    std::int32_t AlbumID = mTarget.AlbumID;
+    if (DBEngine->LoadAlbum(AlbumID, Name) && Name != mTarget.AlbumName) ShowName(Name);
 }
 
 }  // namespace neb

@@ -3,6 +3,8 @@
 // and reads the directory. Unless it was Aborted by then, the caller shows it modally.
 #pragma once
 
+#include <optional>
+
 #include "windows/frame/modBroadcast.h"
 #include "windows/import/ImportForm.h"
 
@@ -14,27 +16,41 @@ class frmImportFilter : public ImportForm, public ChangeReceiver {
   public:
     frmImportFilter();
 
-    void SetLoadSlideShowMgr(bool Load) { mLoadSlideShowMgr = Load; }
+    void SetLoadSlideShowMgr(bool Load) { mTarget.LoadSlideShowMgr = Load; }
     // 0: a new album is made under the name.
-    void SetAlbumID(std::int32_t AlbumID) { mAlbumID = AlbumID; }
-    std::int32_t AlbumID() const { return mAlbumID; }
+    void SetAlbumID(std::int32_t AlbumID) { mTarget.AlbumID = AlbumID; }
+    std::int32_t AlbumID() const { return mTarget.AlbumID; }
     void SetAlbumName(const QString& AlbumName);
 
-    void StartOperation() override;  // the import, under frmProgress
     void ReceiveEvent(const QString& ObjectType, const QString& EventType,
                       const EventKeys& EventData) override;
 
   protected:
     void Import() override;
+    void StartOperation(frmProgress& Bar) override;
 
   private:
-    bool MakeAlbum();
-    void ImportIntoAlbum();
+    // What the caller has set.
+    struct Target {
+        std::int32_t AlbumID = 0;
+        QString AlbumName;
+        bool LoadSlideShowMgr = false;
+    };
+
+    // How many rows the import has been through, and how many had no file any more.
+    struct ImportTally {
+        int Rows = 0, Discarded = 0;
+        QString Text() const;
+    };
+
+    bool MakeTarget();
+    void ImportIntoAlbum(frmProgress& Bar);
+    std::optional<ImportTally> EnterAll(Changes& Door, frmProgress& Bar);
+    void OpenSlideShowMgr() const;
+    void ShowName(const QString& AlbumName);
     void FollowName();
 
-    std::int32_t mAlbumID = 0;
-    QString mAlbumName;
-    bool mLoadSlideShowMgr = false;
+    Target mTarget;
 };
 
 }  // namespace neb

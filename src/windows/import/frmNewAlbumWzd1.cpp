@@ -18,7 +18,7 @@ frmNewAlbumWzd1::frmNewAlbumWzd1() : mUi(std::make_unique<Ui::frmNewAlbumWzd1>()
     mUi->setupUi(this);
     mUi->lblInitialDir->setBuddy(mUi->pnlDirectory->findChild<QTreeView*>());
     KeepQuotesClean(*mUi->txtAlbumName);
-    connect(mUi->cmdNext, &QPushButton::clicked, this, &frmNewAlbumWzd1::Next);
+    On(mUi->cmdNext, &QPushButton::clicked, &frmNewAlbumWzd1::Next);
     connect(mUi->cmdCancel, &QPushButton::clicked, this, &frmNewAlbumWzd1::Unload);
 }
 
@@ -34,7 +34,6 @@ bool frmNewAlbumWzd1::Form_Unload() {
 }
 
 void frmNewAlbumWzd1::Next() {
-    const auto Held = shared_from_this();
     if (!mUi->pnlDirectory->TakeChoice()) return;
     mInitialDir = mUi->pnlDirectory->Path();
     mRecurseDir = mUi->pnlDirectory->RecurseDir();

@@ -1,7 +1,8 @@
 #include "windows/import/frmQuickShow.h"
 
-#include "controls/forms/ScreenPointer.h"
+#include "controls/fields/KeyFilter.h"
 #include "controls/forms/Tell.h"
+#include "controls/forms/frmProgress.h"
 #include "controls/grid/FlexGrid.h"
 #include "db/clsDBEngine.h"
 #include "settings/modNEBSlideShow.h"
@@ -11,7 +12,6 @@
 #include "support/modFUFL.h"
 #include "ui_ImportForm.h"
 #include "windows/albums/modAlbumNames.h"
-#include "windows/frame/modBroadcast.h"
 #include "windows/frame/modWindowState.h"
 #include "windows/show/modSlideShows.h"
 
@@ -42,87 +42,85 @@ void frmQuickShow::DirectoryChosen(const QString& Directory) {
     mUi->txtName->setText(mProposedName);
 }
 
+bool frmQuickShow::HasFreeName() {
+    if (!DBEngine->FindAlbum(0, mUi->txtName->text())) return true;
+    MsgBox(QStringLiteral("Album Name is already in use."), QStringLiteral("Invalid Album Name"),
+           BoxIcon::Critical);
+    return false;
+}
+
 // The show runs when both windows, this one and the one of the progress, have gone.
 void frmQuickShow::Import() {
-    const auto Held = shared_from_this();
     if (mUi->txtName->text().isEmpty()) {
         MsgBox(QStringLiteral("You must specify a name for the new slideshow."));
         return;
     }
     mUi->txtName->setText(ConvertQuotes(mUi->txtName->text()));
-    if (!HasSelection()) return;
-    if (DBEngine->FindAlbum(0, mUi->txtName->text())) {
-        MsgBox(QStringLiteral("Album Name is already in use."),
-               QStringLiteral("Invalid Album Name"), BoxIcon::Critical);
+    if (!HasSelection() || !HasFreeName()) return;
+    RunImport();
+    if (mMade.SlideShowID != 0) RunSlideShow(mMade.AlbumID, mMade.Name, mMade.SlideShowID);
+}
+
+// The one name is the album's and the show's. Nothing of a half-made show stays, and nobody hears
+// of it.
+void frmQuickShow::StartOperation(frmProgress& Bar) {
+    Changes Door(*DBEngine, this);
+    Made What{.Name = mUi->txtName->text()};
+    auto Album = MakeAlbum(Door, What.Name);
+    if (!Tell(Album)) {
+        MsgBox(QStringLiteral("Failed to save album."));
         return;
     }
-    RunImport();
-    if (std::exchange(mRunWhenClosed, false)) RunSlideShow(mAlbumID, mAlbumName, mSlideShowID);
-}
-
-void frmQuickShow::StartOperation() {
-    const auto Held = shared_from_this();
-    mAlbumName = mUi->txtName->text();
-    SetScreenPointer(Pointer::Hourglass);
-    mAlbumID = 0;
-    clsNEBSlideShow* SlideShow = MakeAlbum() ? MakeSlideShow() : nullptr;
-    if (SlideShow && FillSlideShow(*SlideShow)) {
-        mRunWhenClosed = true;
-        BroadcastEvent(QStringLiteral("Album"), QStringLiteral("Insert"), this, {mAlbumID});
+    What.AlbumID = Album->What().AlbumID;
+    clsNEBSlideShow Show;
+    if (!FillAlbum(Door, What, Show, Bar) || !SaveShow(Door, What, std::move(Show))) {
+        Album->Never();
+        return;
     }
-    EndOperation();
-    if (mRunWhenClosed) Unload();
+    mMade = What;
+    Album->Now();
+    Bar.Unload();
+    Unload();
 }
 
-bool frmQuickShow::MakeAlbum() {
-    if (!Tell(NewAlbum(*DBEngine, mAlbumID, ConvertQuotes(mAlbumName)))) {
-        MsgBox(QStringLiteral("Failed to save album."));
-        return false;
-    }
-    if (!DBEngine->GetAlbum(mAlbumID)) {
-        MsgBox(QStringLiteral("Failed to load album after save."));
-        return false;
-    }
-    return true;
-}
-
-clsNEBSlideShow* frmQuickShow::MakeSlideShow() {
-    clsNEBAlbum* Album = DBEngine->GetAlbum(mAlbumID);
-    mSlideShowID = 0;
-    const bool Saved =
-        Album->SaveSlideShow(mSlideShowID, ConvertQuotes(mAlbumName), Automatic, *DBEngine);
-    clsNEBSlideShow* SlideShow = Saved ? Album->GetSlideShow(mSlideShowID) : nullptr;
-    if (SlideShow) return SlideShow;
-    MsgBox(Saved ? QStringLiteral("Failed to load slide show after save.")
-                 : QStringLiteral("Failed to save slide show."));
-    DropMadeAlbum();
-    return nullptr;
-}
-
-// Nothing of a half-made show stays: a picture that fails takes the album with it.
-bool frmQuickShow::FillSlideShow(clsNEBSlideShow& SlideShow) {
-    int Number = 1;
-    const auto AddDetail = [&](int Row, PictureImport::Outcome Outcome, std::int32_t SlideID) {
-        if (Outcome == PictureImport::Outcome::Entered) SlideShow.SaveDetail(SlideID, Row + 1, {});
-        ++Number;
-    };
+// A picture that fails takes the album with it.
+bool frmQuickShow::FillAlbum(Changes& Door, const Made& Into, clsNEBSlideShow& Show,
+                             frmProgress& Bar) {
+    Door.AsOne(Change::Kind::SlidesImported, Into.AlbumID).Never();
     QString Problem;
+    int Number = 1;
+    const auto Failed = [&] { return QStringLiteral("Failed to save slide #%1").arg(Number); };
+    const auto AddDetail = [&](int Row, PictureImport::Outcome Outcome, std::int32_t SlideID) {
+        if (Outcome == PictureImport::Outcome::Refused) Problem = Failed();
+        if (Outcome == PictureImport::Outcome::Entered) Show.SaveDetail(SlideID, Row + 1, {});
+        ++Number;
+        return Problem.isEmpty();
+    };
     try {
-        if (ImportRows(*DBEngine->GetAlbum(mAlbumID), AddDetail)) return true;
+        if (ImportRows(Door, Into.AlbumID, Bar, AddDetail)) return true;
     } catch (const std::exception& Reason) {
-        Problem = QStringLiteral("Failed to save slide #%1\n").arg(Number) +
-                  QString::fromUtf8(Reason.what());
+        Problem = Failed() + u'\n' + QString::fromUtf8(Reason.what());
     }
-    DropMadeAlbum();
-    SetScreenPointer(Pointer::Default);
+    DropMade(Into);
     if (!Problem.isEmpty()) MsgBox(Problem);
     return false;
 }
 
-void frmQuickShow::DropMadeAlbum() {
-    if (DBEngine) DropAlbum(*DBEngine, mAlbumID);  // at the end of the program it has gone
-    mAlbumID = 0;
-    mSlideShowID = 0;
+void frmQuickShow::DropMade(const Made& Half) {
+    if (DBEngine) DropAlbum(*DBEngine, Half.AlbumID);  // at the end of the program it has gone
+}
+
+bool frmQuickShow::SaveShow(Changes& Door, Made& What, clsNEBSlideShow Show) {
+    Show.SlideShowName = ConvertQuotes(What.Name);
+    Show.ProgressionMethod = Automatic;
+    Answer<Announcement> Saved = Door.SaveShow(What.AlbumID, std::move(Show));
+    if (!Saved) {
+        MsgBox(QStringLiteral("Failed to save slide show."));
+        DropMade(What);
+        return false;
+    }
+    What.SlideShowID = Saved->What().SlideShowID;
+    return true;
 }
 
 void frmQuickShow::Form_Load() {

@@ -6,35 +6,35 @@
 
 namespace neb {
 
-class clsNEBSlideShow;
-
 class frmQuickShow : public ImportForm {
     Q_OBJECT
 
   public:
     frmQuickShow();
 
-    std::int32_t AlbumID() const { return mAlbumID; }
-    std::int32_t SlideShowID() const { return mSlideShowID; }
-
-    void StartOperation() override;  // makes album and show, under frmProgress
+    // What was made; 0 before that, and when nothing was.
+    std::int32_t AlbumID() const { return mMade.AlbumID; }
+    std::int32_t SlideShowID() const { return mMade.SlideShowID; }
 
   protected:
     void Import() override;
+    void StartOperation(frmProgress& Bar) override;  // makes album and show
     void DirectoryChosen(const QString& Directory) override;
     void Form_Load() override;
 
   private:
-    bool MakeAlbum();
-    clsNEBSlideShow* MakeSlideShow();
-    bool FillSlideShow(clsNEBSlideShow& SlideShow);
-    void DropMadeAlbum();
+    struct Made {
+        std::int32_t AlbumID = 0, SlideShowID = 0;
+        QString Name;
+    };
+
+    bool HasFreeName();
+    void DropMade(const Made& Half);
+    bool FillAlbum(Changes& Door, const Made& Into, clsNEBSlideShow& Show, frmProgress& Bar);
+    bool SaveShow(Changes& Door, Made& What, clsNEBSlideShow Show);
 
     QString mProposedName;  // taken from the folder; empty: none yet
-    QString mAlbumName;
-    std::int32_t mAlbumID = 0;
-    std::int32_t mSlideShowID = 0;
-    bool mRunWhenClosed = false;
+    Made mMade;
 };
 
 }  // namespace neb

@@ -42,14 +42,12 @@ void ViewerForm::SetControls(FlexGrid& Grid, QPushButton& cmdClose) {
     connect(&Grid, &FlexGrid::CellDblClicked, this, &ViewerForm::ShowPicture);
     connect(&Grid, &FlexGrid::RowActivated, this, &ViewerForm::ShowPicture);
     cmdClose.setIcon(ThemeIcon("exit"));
-    connect(&cmdClose, &QPushButton::clicked, this, [this] { Unload(); });
+    On(&cmdClose, &QPushButton::clicked, &ViewerForm::Close);
 }
 
 void ViewerForm::View(clsDBEngine& objDB, std::int32_t AlbumID, const QString& Title) {
     const auto Held = shared_from_this();
-    mDB = &objDB;
-    mDBPath = objDB.DBPath();
-    mAlbumID = AlbumID;
+    mSubject = {&objDB, objDB.DBPath(), AlbumID};
     setWindowTitle(Title);
     ShowWindow();
 }
@@ -68,7 +66,7 @@ void ViewerForm::ShowWindow() {
 void ViewerForm::Form_Load() {
     RestoreWindow(*this, mMemory);
     mReading.Read(Reading());
-    mDB = nullptr;
+    mSubject.DB = nullptr;
     if (mGrid->Rows() > 0) mGrid->SetRow(0);
 }
 
@@ -84,7 +82,7 @@ bool ViewerForm::Form_Unload() {
 }
 
 clsNEBAlbum* ViewerForm::Album() const {
-    return mDB ? mDB->GetAlbum(mAlbumID) : nullptr;
+    return mSubject.DB ? mSubject.DB->GetAlbum(mSubject.AlbumID) : nullptr;
 }
 
 SlideReading::Order ViewerForm::Reading() {
@@ -124,13 +122,13 @@ void ViewerForm::AddSlideRow(std::int32_t Key, int Number) {
 
 // The shared thumbnails are those of the main database.
 void ViewerForm::ShowSlide(int Row, const ViewedSlide& Viewed) {
-    if (mDBPath != DBEngine->DBPath()) return ShowForeignSlide(Row, Viewed);
-    ShowSlideInRow(*mGrid, Row, mAlbumID, *Viewed.Slide, mReading.Window());
+    if (mSubject.DBPath != DBEngine->DBPath()) return ShowForeignSlide(Row, Viewed);
+    ShowSlideInRow(*mGrid, Row, mSubject.AlbumID, *Viewed.Slide, mReading.Window());
     mGrid->SetTextMatrix(Row, clsImageBuffer::ColText, Viewed.Caption);
 }
 
 void ViewerForm::ShowForeignSlide(int Row, const ViewedSlide& Viewed) {
-    const QString Path = SlidePath(mDBPath, mAlbumID, Viewed.Slide->SlideLoc);
+    const QString Path = SlidePath(mSubject.DBPath, mSubject.AlbumID, Viewed.Slide->SlideLoc);
     SetSlideKeys(*mGrid, Row, Viewed.Slide->SlideID, Viewed.Caption);
     mGrid->SetTextMatrix(Row, clsImageBuffer::ColPath, Path);
     const QImage Thumbnail = ThumbnailOrNone(Path);
@@ -139,8 +137,7 @@ void ViewerForm::ShowForeignSlide(int Row, const ViewedSlide& Viewed) {
 }
 
 void ViewerForm::ShowPicture(int Row) {
-    const auto Held = shared_from_this();
-    PopUpPicture(mGrid->TextMatrix(Row, clsImageBuffer::ColPath));
+    Command([this, Row] { PopUpPicture(mGrid->TextMatrix(Row, clsImageBuffer::ColPath)); });
 }
 
 }  // namespace neb

@@ -68,13 +68,19 @@ class ViewerForm : public Form {
     void ShowForeignSlide(int Row, const ViewedSlide& Viewed);
     void ShowWindow();
     void ShowPicture(int Row);
+    void Close() { Unload(); }
+
+    // What is looked into.
+    struct Subject {
+        clsDBEngine* DB = nullptr;  // null outside View
+        QString DBPath;
+        std::int32_t AlbumID = 0;
+    };
 
     const WindowMemory mMemory;
     const Texts mSays;
     FlexGrid* mGrid = nullptr;
-    clsDBEngine* mDB = nullptr;  // null outside View
-    QString mDBPath;
-    std::int32_t mAlbumID = 0;
+    Subject mSubject;
     SlideFinder mFinder;
     SlideReading mReading{*this};
 };

@@ -61,8 +61,10 @@ class SlideRig : public Intake {
         Picture.fill(Colour);
         ImgX Jpeg;
         Jpeg.SetPicture(Picture);
-        return EnterPicture(
-            Engine, Album(), Text, [&] { return Jpeg.ToJpeg(); }, MakeThumbnail(Picture));
+        Changes Door(Engine);
+        Door.AsOne(Change::Kind::SlidesImported, AlbumID).Never();
+        const auto Stored = [&] { return Jpeg.ToJpeg(); };
+        return *EnterPicture(Door, Engine, AlbumID, {Text, Stored, MakeThumbnail(Picture)});
     }
     std::int32_t AddSound(std::int32_t ID, bool Override, bool Repeat) {
         WriteFile(Stored(FileStem(ID) + u".wav"_s), "old sound");
