@@ -6,6 +6,7 @@
 #include <QAbstractSpinBox>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QSlider>
 #include <QTextEdit>
 
 #include "controls/forms/frmLoading.h"
@@ -23,7 +24,6 @@
 #include "windows/import/frmImportFilter.h"
 #include "windows/import/frmNewAlbumWzd1.h"
 #include "windows/import/frmQuickShow.h"
-#include "windows/lists/frmPicturePopup.h"
 #include "windows/recorder/frmSoundRecorder.h"
 #include "windows/show/frmPreferences.h"
 #include "windows/slides/frmSlideDBM.h"
@@ -37,7 +37,9 @@ namespace {
 bool IsControl(const QWidget& Widget) {
     return qobject_cast<const QAbstractButton*>(&Widget) ||
            qobject_cast<const QLineEdit*>(&Widget) || qobject_cast<const QComboBox*>(&Widget) ||
-           qobject_cast<const QAbstractItemView*>(&Widget);
+           qobject_cast<const QAbstractItemView*>(&Widget) ||
+           qobject_cast<const QTextEdit*>(&Widget) ||
+           qobject_cast<const QAbstractSpinBox*>(&Widget) || qobject_cast<const QSlider*>(&Widget);
 }
 
 // Pieces that the toolkit puts inside its own controls, such as the corner of a grid.
@@ -51,9 +53,12 @@ bool IsToolkitPart(const QWidget& Widget) {
            QByteArray(Widget.metaObject()->className()).contains("Private");
 }
 
-void CheckControls(const QWidget& Window, const char* Name) {
+// How many controls the window has.
+int CheckControls(const QWidget& Window, const char* Name) {
+    int Count = 0;
     for (const QWidget* Each : Window.findChildren<QWidget*>()) {
         if (!IsControl(*Each) || IsToolkitPart(*Each)) continue;
+        ++Count;
         const auto* Button = qobject_cast<const QAbstractButton*>(Each);
         const bool Named =
             !Each->accessibleName().isEmpty() || (Button && !Button->text().isEmpty());
@@ -63,6 +68,7 @@ void CheckControls(const QWidget& Window, const char* Name) {
         EXPECT_FALSE(Button && Each->toolTip().isEmpty()) << Where;
         EXPECT_TRUE(Each->focusPolicy() & Qt::TabFocus) << Where;
     }
+    return Count;
 }
 
 template <class Window>
@@ -76,17 +82,17 @@ class EachWindow : public ::testing::Test {
     harness::TempFolder mDocuments;
 };
 
+// But for the pop-up of a picture, in which there is nothing to press.
 using Windows =
     ::testing::Types<frmAbout, frmAlbumDelete, frmAlbumRename, frmAlbumView, frmDirSelect,
                      frmFindGraphics, frmGetObjectName, frmHelp, frmImportFilter, frmLoading,
-                     frmMsgBoxEx, frmNewAlbumWzd1, frmPicturePopup, frmPreferences, frmQuickShow,
-                     frmSlideDBM, frmSlideMgrBulk, frmSlideShowDBM, frmSlideShowView,
-                     frmSoundRecorder>;
+                     frmMsgBoxEx, frmNewAlbumWzd1, frmPreferences, frmQuickShow, frmSlideDBM,
+                     frmSlideMgrBulk, frmSlideShowDBM, frmSlideShowView, frmSoundRecorder>;
 TYPED_TEST_SUITE(EachWindow, Windows);
 
 TYPED_TEST(EachWindow, HasNamesToolTipsAndReachableControls) {
     const auto Window = NewForm<TypeParam>();
-    CheckControls(*Window, Window->metaObject()->className());
+    EXPECT_GT(CheckControls(*Window, Window->metaObject()->className()), 0) << "nothing looked at";
 }
 
 }  // namespace

@@ -64,9 +64,11 @@ void ShareOneProcessor() {
 
 struct Crowd {
     Crowd() {
-        for (int I = 0; I < 4; ++I)
+        for (int I = 0; I < 16; ++I)
             mOthers.emplace_back([this] {
                 ShareOneProcessor();
+                // behind all others, so that no test that runs beside this one is slowed down
+                setpriority(PRIO_PROCESS, static_cast<id_t>(gettid()), 10);
                 while (mGoes) {
                 }
             });
@@ -94,11 +96,11 @@ TEST(Heartbeat, AThreadThatYieldsLivesHoweverBusyTheMachineIs) {
             const std::chrono::duration<double, std::milli> Gap = Now - std::exchange(Last, Now);
             ByTheClock = std::max(ByTheClock, Gap.count());
         });
-        for (const auto End = Clock::now() + 10s; Clock::now() < End && ByTheClock < 150;)
+        for (const auto End = Clock::now() + 30s; Clock::now() < End && ByTheClock < 120;)
             Loop.processEvents(QEventLoop::WaitForMoreEvents);
         Longest = Heart.LongestStandstill();
     }).join();
-    EXPECT_GT(ByTheClock, 150) << "it did not have to wait";
+    EXPECT_GT(ByTheClock, 120) << "it did not have to wait";
     EXPECT_LT(Longest, 100);
 }
 
