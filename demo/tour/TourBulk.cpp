@@ -5,6 +5,7 @@
 #include "controls/forms/frmLoading.h"
 #include "program/frmNEBSlideShow.h"
 #include "windows/albums/frmAlbumRename.h"
+#include "windows/lists/clsImageBuffer.h"
 #include "windows/slides/frmSlideMgrBulk.h"
 
 namespace neb::demo {

@@ -105,6 +105,7 @@ class frmSlideDBM : public Form, public ChangeReceiver {
     void Save();
     bool ConfirmCaption() const;
     Answer<Announcement> Store(const SlideInHand::JpegMaker& Jpeg);
+    bool ConfirmDelete() const;
     void Delete();
     void Import();
     void ImportFromDirectory();

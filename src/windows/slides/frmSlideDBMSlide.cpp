@@ -281,14 +281,17 @@ void frmSlideDBM::Save() {
     ShowChosen(Cause::Program);
 }
 
+bool frmSlideDBM::ConfirmDelete() const {
+    return AskYesNo(QStringLiteral("Are you sure you want to delete the selected slide defintion?\n"
+                                   "WARNING: If you procede the slide will be deleted from all\n"
+                                   "Slide Shows that use it?"),
+                    QStringLiteral("Delete Confirmation"));
+}
+
 void frmSlideDBM::Delete() {
     if (ReadOnlyDB) return;
     if (mUi->cboSlides->currentIndex() < 1) return SlideChosen();
-    if (!AskYesNo(QStringLiteral("Are you sure you want to delete the selected slide defintion?\n"
-                                 "WARNING: If you procede the slide will be deleted from all\n"
-                                 "Slide Shows that use it?"),
-                  QStringLiteral("Delete Confirmation")))
-        return;
+    if (!ConfirmDelete()) return;
     const std::int32_t Album = Lists().AlbumID();
     Answer<Announcement> Deleted = DeleteSlide(*DBEngine, this, Album, Lists().SlideID());
     if (!Tell(Deleted)) return;
