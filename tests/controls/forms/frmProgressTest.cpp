@@ -56,7 +56,45 @@ struct ProgressTest : ::testing::Test {
     std::shared_ptr<frmProgress> Meter = NewForm<frmProgress>();
 };
 
+struct UnderProgress : ::testing::Test {
+    UnderProgress() { Window->ShowModeless(); }
+
+    NoFormsLeft Clean;
+    std::shared_ptr<TestForm> Window = NewForm<TestForm>();
+};
+
 }  // namespace
+
+TEST_F(UnderProgress, WorkRunsOnceUnderABarThatGoesWithIt) {
+    QPointer<frmProgress> Shown;
+    int Runs = 0;
+    RunUnderProgress(*Window, [&](frmProgress& Bar) {
+        ++Runs;
+        Shown = &Bar;
+        EXPECT_TRUE(Bar.isVisible() && Bar.isModal());
+    });
+    EXPECT_EQ(1, Runs);
+    EXPECT_TRUE(!Shown || !Shown->IsLoaded());
+    EXPECT_EQ(1u, LoadedForms().size());
+}
+
+TEST_F(UnderProgress, AFaultPassesOutAndTheBarIsGone) {
+    const auto Fails = [](frmProgress&) { throw Fault(QStringLiteral("full")); };
+    EXPECT_THROW(RunUnderProgress(*Window, Fails), Fault);
+    EXPECT_EQ(1u, LoadedForms().size());
+}
+
+TEST_F(UnderProgress, TheWindowThatAsksMayGoWhileItRuns) {
+    QPointer<TestForm> Asks = Window.get();
+    TestForm& Asker = *std::exchange(Window, nullptr);
+    RunUnderProgress(Asker, [&](frmProgress&) {
+        Asks->Unload();
+        for (int I = 0; I < 20; ++I) DoEvents();
+        EXPECT_TRUE(Asks) << "it stands until the work is over";
+    });
+    Settle();
+    EXPECT_FALSE(Asks);
+}
 
 TEST_F(ClosedAtAYield, AParentWindowOfALoadLivesUntilItsWorkHasReturned) {
     Run([](WorkingForm& Parent) {

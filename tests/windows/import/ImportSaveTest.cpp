@@ -259,6 +259,29 @@ TEST_F(ImportSave, FollowsTheNameOfItsAlbumAndClosesWithIt) {
     EXPECT_FALSE(Window->IsLoaded());
 }
 
+TEST_F(ImportSave, NotesEachSlideOnceAndCompleteAndTellsOfAllAtOnce) {
+    MakePictures(3);
+    const std::int32_t AlbumID = MakeAlbum(u"Garden"_s);
+    Show(AlbumID);
+    std::vector<Change> Noted;
+    Engine.Listeners.Noted = [&](const Change& What) {
+        EXPECT_TRUE(Others->Heard.isEmpty());
+        EXPECT_EQ(FileStem(What.SlideID) + u".JPG",
+                  Album(AlbumID).GetSlide(What.SlideID)->SlideLoc);
+        EXPECT_TRUE(FileExists(SlidesFolder(Engine.DBPath(), AlbumID) + FileStem(What.SlideID) +
+                               u".jpg"_s));
+        Noted.push_back(What);
+    };
+    Boxes.WhileNextIsOpen([&] { EXPECT_TRUE(Others->Heard.isEmpty()); });
+    Boxes.Expect(u"3 slides successfully imported."_s);
+    Press(*Window, "cmdImport");
+    using enum Change::Kind;
+    EXPECT_EQ((std::vector<Change>{
+                  {SlideSaved, AlbumID, 1}, {SlideSaved, AlbumID, 2}, {SlideSaved, AlbumID, 3}}),
+              Noted);
+    EXPECT_EQ("Album Add Slides 1 0", Others->Heard.join(u'|').toStdString());
+}
+
 TEST_F(ImportSave, StopsAtTheFullDiskAndKeepsWhatIsIn) {
     MakePictures(3);
     const std::int32_t AlbumID = MakeAlbum(u"Garden"_s);
@@ -275,6 +298,8 @@ TEST_F(ImportSave, StopsAtTheFullDiskAndKeepsWhatIsIn) {
     EXPECT_EQ("", Album(AlbumID).Slides[1]->SlideLoc.toStdString());
     EXPECT_TRUE(FileExists(Stored(AlbumID, "00000001.jpg")));
     EXPECT_FALSE(FileExists(Stored(AlbumID, "00000002.jpg"))) << "half a picture is none";
+    EXPECT_EQ("Album Add Slides 1 0", Others->Heard.join(u'|').toStdString())
+        << "the others show what is in";
     EXPECT_TRUE(Window->IsLoaded());
     EXPECT_EQ(nullptr, Open<frmProgress>());
 }

@@ -79,6 +79,26 @@ TEST_F(QuickShow, MakesAnAlbumAndAShowAndRunsItWhenTheWindowHasGone) {
     EXPECT_EQ("Album Insert 1", Others->Heard.join(u'|').toStdString());
 }
 
+TEST_F(QuickShow, NotesTheAlbumItsSlidesAndTheWholeShow) {
+    Show(2, u"Trip"_s);
+    std::vector<Change> Noted;
+    size_t Details = 0;
+    Engine.Listeners.Noted = [&](const Change& What) {
+        Noted.push_back(What);
+        EXPECT_TRUE(Others->Heard.isEmpty()) << "it is told when all is there";
+        if (What.What == Change::Kind::ShowMade)
+            Details = Engine.GetAlbum(What.AlbumID)->GetSlideShow(What.SlideShowID)->Details.size();
+    };
+    LeaveTheShow();
+    Press(*Window, "cmdImport");
+    using enum Change::Kind;
+    EXPECT_EQ((std::vector<Change>{
+                  {AlbumMade, 1}, {SlideSaved, 1, 1}, {SlideSaved, 1, 2}, {ShowMade, 1, 0, 1}}),
+              Noted);
+    EXPECT_EQ(2u, Details);
+    EXPECT_EQ("Album Insert 1", Others->Heard.join(u'|').toStdString());
+}
+
 TEST_F(QuickShow, DetailsStandInTheOrderOfTheSelection) {
     Show(3, u"Trip"_s);
     LeaveTheShow();
