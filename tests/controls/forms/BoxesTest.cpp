@@ -57,10 +57,12 @@ TEST_F(Boxes, AMessageThatIsTooLongScrollsInAWindow) {
     for (const QString& Long : {QStringLiteral("A line.\n").repeated(30).trimmed(),
                                 QStringLiteral("word ").repeated(600).trimmed()}) {
         bool Seen = false;
-        WhenOpen<frmMsgBoxEx>([&](frmMsgBoxEx& Window) {
-            Seen = true;
+        WhenOpen<QDialog>([&](QDialog& Window) {
+            Seen = qobject_cast<frmMsgBoxEx*>(&Window) != nullptr;
             EXPECT_EQ(u"Delete Confirmation", Window.windowTitle());
-            EXPECT_EQ(Long, Window.findChild<QPlainTextEdit*>()->toPlainText());
+            const auto* Text = Window.findChild<QPlainTextEdit*>();
+            ASSERT_NE(nullptr, Text);
+            EXPECT_EQ(Long, Text->toPlainText());
             EXPECT_LE(Window.height(), 600);
             Window.findChild<QPushButton*>(QStringLiteral("cmdOkay"))->click();
         });
