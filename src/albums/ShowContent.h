@@ -1,9 +1,10 @@
 // What stands in the slide show manager, without the window: the show that is being composed, its
-// slides in their order and its sound tracks as they were typed. Saving works on this.
+// slides in their order and its sound tracks. Saving works on this.
 #pragma once
 
 #include <QString>
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 namespace neb {
@@ -14,17 +15,20 @@ struct ShowSlide {
     QString OwnText;    // the caption of the slide itself
 };
 
-// A row of the list of tracks, each cell as its text. Flags are "True" or "False", empty is false.
+// A row of the list of tracks; an empty one has these values.
 struct ShowTrack {
-    QString SlideSeqStart;
-    QString SlideSeqEnd;
-    QString Repeat;
-    QString FitToSong;
-    QString Fade;
-    QString SoundTrackLoc;  // a name in the album's SoundTracks folder, or the path of a new file
+    std::optional<double> SlideSeqStart;  // a place in the show, as it was typed; none: nothing was
+    std::optional<double> SlideSeqEnd;
+    bool Repeat = false;
+    bool FitToSong = false;
+    bool Fade = false;
+    // A name in the album's SoundTracks folder, or the full path of a new file; no blanks around.
+    QString SoundTrackLoc;
 
-    // A row with a place and a file; any other is passed over.
+    // A row with both places and a file; any other is passed over.
     bool IsFilled() const;
+    // Its file lies outside, or was chosen by its path, and is still to be copied into the album.
+    bool IsNewFile() const;
     bool operator==(const ShowTrack&) const = default;
 };
 

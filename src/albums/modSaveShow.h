@@ -2,26 +2,25 @@
 // written. Used by the slide show manager; no window is needed.
 #pragma once
 
-#include <functional>
-#include <optional>
-
 #include "albums/ShowContent.h"
-#include "support/Services.h"
+#include "db/Changes.h"
+#include "support/KeepGoing.h"
 
 namespace neb {
 
 class clsDBEngine;
 
-// The first thing that keeps a show from being saved, as the box that tells it; none when nothing
-// does. Cleans the quotes of Name. Changes nothing else.
-std::optional<BoxRequest> CheckShow(ShowContent& Content, const clsDBEngine& theDB);
+// Refuses with the first thing that keeps a show from being saved. Cleans the quotes of Name, also
+// where a later rule refuses. Changes nothing else.
+Answer<> CheckShow(ShowContent& Content, const clsDBEngine& theDB);
 
-// Replaces the stored show by the content, or makes a new one, and tells of it. New sound files
-// are copied into the album and their rows take the names they have there; files that the show no
-// longer plays are deleted. Between is called all the while that a file is copied. SlideShowID is
-// the show's afterwards. False after a box that says why there is nothing to write to. Throws Fault
-// when a file cannot be copied: Content still has everything, and a further save goes on from
-// there.
-bool WriteShow(ShowContent& Content, clsDBEngine& theDB, const std::function<void()>& Between = {});
+// Replaces the stored show by the content, or makes a new one. New sound files are copied into the
+// album and their rows take the names they have there; files that the show no longer plays are
+// deleted. LetRun is called all the while that a file is copied. SlideShowID is the show's
+// afterwards; Asker is the window that knows of it already. Refused when there is nothing to write
+// to; throws Fault when a file cannot be copied. Content, the stored show and the files of the
+// album are then as they were.
+Answer<Announcement> WriteShow(ShowContent& Content, clsDBEngine& theDB, const Yield& LetRun = {},
+                               const QObject* Asker = nullptr);
 
 }  // namespace neb

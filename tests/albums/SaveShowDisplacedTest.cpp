@@ -11,7 +11,8 @@ class DisplacedSound : public ShowRig {
     // row plays the new file.
     void Displace(ShowContent& Content, size_t To, const QString& NewFile) {
         Content.Tracks[To] = Content.Tracks[0];
-        Content.Tracks[To].SlideSeqStart = Content.Tracks[To].SlideSeqEnd = QString::number(To + 1);
+        Content.Tracks[To].SlideSeqStart = Content.Tracks[To].SlideSeqEnd =
+            static_cast<double>(To + 1);
         Content.Tracks[0].SoundTrackLoc = MakeSound(NewFile);
         Save(Content);
     }

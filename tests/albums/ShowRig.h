@@ -51,7 +51,7 @@ class ShowRig : public ::testing::Test {
         return Sounds / Name;
     }
     ShowTrack NewTrack(int Start, int End, const QString& File) {
-        return {QString::number(Start), QString::number(End), {}, {}, {}, File};
+        return {.SlideSeqStart = Start, .SlideSeqEnd = End, .SoundTrackLoc = File};
     }
     // "name=content" of every file in the album's folder of tracks, in the order of the names.
     std::string TrackFiles() {
@@ -80,8 +80,8 @@ class ShowRig : public ::testing::Test {
         return All.join(u'|').toStdString();
     }
     void Save(ShowContent& Content) {
-        const auto Refused = CheckShow(Content, Engine);
-        EXPECT_FALSE(Refused) << Refused->Text.toStdString();
+        const Answer<> IsRight = CheckShow(Content, Engine);
+        EXPECT_TRUE(IsRight) << IsRight.Refusal().Text.toStdString();
         EXPECT_TRUE(WriteShow(Content, Engine));
     }
 

@@ -1,26 +1,29 @@
-// The controls of the slide show manager. How an album and a show are taken up is in
-// frmSlideShowDBMFill.cpp, the lists are in frmSlideShowDBMLists.cpp, the tracks in
-// frmSlideShowDBMTracks.cpp, saving in frmSlideShowDBMSave.cpp, what other windows do in
-// frmSlideShowDBMFollow.cpp.
+// The controls of the slide show manager and what the user does with them. How an album and a show
+// are taken up, and what other windows do, is in frmSlideShowDBMFollow.cpp.
 #include "windows/compose/frmSlideShowDBM.h"
 
 #include <QAbstractItemView>
 #include <QKeyEvent>
+#include <QScopedValueRollback>
 #include <QShortcut>
 
+#include "albums/modSaveShow.h"
 #include "controls/fields/Icons.h"
 #include "controls/fields/ToolBar.h"
-#include "controls/forms/frmLoading.h"
-#include "controls/grid/FlexGrid.h"
+#include "controls/forms/ScreenPointer.h"
+#include "controls/forms/Tell.h"
 #include "db/clsDBEngine.h"
 #include "settings/modNEBSlideShow.h"
+#include "support/Fault.h"
 #include "support/modDEValidation.h"
 #include "ui_frmSlideShowDBM.h"
 #include "windows/albums/modAlbumNames.h"
+#include "windows/compose/TwoLists.h"
 #include "windows/frame/Openers.h"
 #include "windows/frame/modWindowState.h"
-#include "windows/lists/SlideGrids.h"
 #include "windows/lists/clsImageBuffer.h"
+#include "windows/lists/frmPicturePopup.h"
+#include "windows/show/modSlideShows.h"
 
 namespace neb {
 namespace {
@@ -31,12 +34,12 @@ constexpr int ListsRoom = 280, TracksRoom = 140;  // parts of the height at firs
 
 }  // namespace
 
-frmSlideShowDBM::frmSlideShowDBM()
-    : mUi(std::make_unique<Ui::frmSlideShowDBM>()), mBuffer(new FlexGrid(this)) {
+frmSlideShowDBM::frmSlideShowDBM() : mUi(std::make_unique<Ui::frmSlideShowDBM>()) {
     mUi->setupUi(this);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
+    mLists = new TwoLists(*mUi->flxNonSelected, *mUi->flxSelected, *this, !ReadOnlyDB);
     SetUpChoice();
-    SetUpGrids();
+    SetUpLists();
     SetUpTracks();
     SetUpButtons();
     SetUpToolBar();
@@ -51,37 +54,34 @@ void frmSlideShowDBM::SetUpChoice() {
         Box->view()->setAccessibleName(Box->accessibleName());
     for (QComboBox* Box : {mUi->cboAlbum, mUi->cboSlideShows}) ChooseNotByWheel(*Box);
     connect(mUi->cboAlbum, &QComboBox::currentIndexChanged, this, &frmSlideShowDBM::cboAlbum_Click);
-    connect(mUi->cboSlideShows, &QComboBox::currentIndexChanged, this,
-            &frmSlideShowDBM::cboSlideShows_Click);
+    On(mUi->cboSlideShows, &QComboBox::currentIndexChanged, &frmSlideShowDBM::cboSlideShows_Click);
     KeepQuotesClean(*mUi->txtName);
     mUi->splMain->setSizes({ListsRoom, TracksRoom});
     mUi->splMain->setStretchFactor(0, 1);  // the pictures get the room of a larger window
     mUi->splMain->setStretchFactor(1, 0);
 }
 
-// A double click shows the picture; a cell is edited by typing, by F2 or Enter, or by a second
-// click on it, as names are in a list of files.
-void frmSlideShowDBM::SetUpGrids() {
-    mBuffer->setObjectName(QStringLiteral("flxBuffer"));
-    mBuffer->setAccessibleName(tr("All slides of the album"));
-    mBuffer->hide();
-    SetUpSlideColumns(*mBuffer, false, false);
-    mBuffer->SetRedraw(false);
-    SetUpSlideColumns(*mUi->flxNonSelected, false, false);
-    SetUpSlideColumns(*mUi->flxSelected, true, !ReadOnlyDB);
-    mUi->flxSelected->SetKeyPressEdit(&FixQuoteKeyInGrid);
-    mUi->flxSelected->setEditTriggers(mUi->flxSelected->editTriggers() |
-                                      QAbstractItemView::SelectedClicked);
+void frmSlideShowDBM::SetUpLists() {
+    connect(mLists, &TwoLists::Counted, this, &frmSlideShowDBM::ShowCounts);
     for (FlexGrid* Grid : {mUi->flxNonSelected, mUi->flxSelected}) {
-        Grid->SetEditOnDblClick(false);
-        const auto Show = [this, Grid](int Row) { ShowPicture(*Grid, Row); };
+        const auto Show = [this, Grid](int Row) {
+            Command([=, this] { ShowPicture(*Grid, Row); });
+        };
         connect(Grid, &FlexGrid::CellDblClicked, this, Show);
         connect(Grid, &FlexGrid::RowActivated, this, Show);
-        Grid->SetRowDrag(ReadOnlyDB ? QString() : QStringLiteral("slides"));
-        connect(Grid, &FlexGrid::RowsDropped, this,
-                [this, Grid](FlexGrid* From, int Before) { RowsDropped(*From, *Grid, Before); });
+        connect(Grid, &FlexGrid::RowsDropped, this, [this, Grid](FlexGrid* From, int Before) {
+            Command([=, this] { mLists->TakeDragged(*From, *Grid, Before); });
+        });
     }
-    connect(mUi->flxSelected, &FlexGrid::AfterEdit, this, &frmSlideShowDBM::AfterEdit);
+}
+
+void frmSlideShowDBM::SetUpTracks() {
+    TrackList* List = mUi->flxSoundTracks;
+    List->SetUp(!ReadOnlyDB);
+    connect(List, &FlexGrid::CellButtonClicked, this,
+            [this, List](int Row) { Command([=] { List->ChooseFile(Row); }); });
+    connect(List, &FlexGrid::DeletePressed, this,
+            [this, List] { Command([=] { List->EmptySelected(); }); });
 }
 
 void frmSlideShowDBM::SetUpButtons() {
@@ -98,14 +98,13 @@ void frmSlideShowDBM::SetUpButtons() {
         {mUi->cmdDelete, &frmSlideShowDBM::Delete},
         {mUi->cmdClose, &frmSlideShowDBM::Close},
     };
-    for (const auto& [Button, Command] : Buttons)
-        connect(Button, &QPushButton::clicked, this, [this, Run = Command] { Do(Run); });
+    for (const auto& [Button, Does] : Buttons) On(Button, &QPushButton::clicked, Does);
 }
 
 void frmSlideShowDBM::SetUpToolBar() {
     static const struct {
         const char *Name, *Caption, *ToolTip, *IconName, *Keys;
-        Action Command;
+        Action Does;
     } Tools[] = {
         {"mnuSlideShowNew", "New", "Begin a new slide show", "new", "Ctrl+N",
          &frmSlideShowDBM::New},
@@ -127,8 +126,8 @@ void frmSlideShowDBM::SetUpToolBar() {
         QAction* Tool = mUi->abrMenu->AddTool(Name, tr(Each.Caption), tr(Each.ToolTip),
                                               QString::fromLatin1(Each.IconName),
                                               QKeySequence(QString::fromLatin1(Each.Keys)));
-        Tool->setEnabled(Each.Command != nullptr);
-        connect(Tool, &QAction::triggered, this, [this, Run = Each.Command] { Do(Run); });
+        Tool->setEnabled(Each.Does != nullptr);
+        if (Each.Does) On(Tool, &QAction::triggered, Each.Does);
     }
 }
 
@@ -137,7 +136,7 @@ void frmSlideShowDBM::SetUpKeys() {
     const struct {
         FlexGrid* Grid;
         const char* Keys;
-        Action Command;
+        Action Does;
     } Keys[] = {
         {mUi->flxNonSelected, "Ctrl+Right", &frmSlideShowDBM::MoveRightOne},
         {mUi->flxNonSelected, "Ctrl+Shift+Right", &frmSlideShowDBM::MoveRightAll},
@@ -146,15 +145,13 @@ void frmSlideShowDBM::SetUpKeys() {
         {mUi->flxSelected, "Alt+Up", &frmSlideShowDBM::MoveUp},
         {mUi->flxSelected, "Alt+Down", &frmSlideShowDBM::MoveDown},
     };
+    if (ReadOnlyDB) return;
     for (const auto& Each : Keys) {
-        if (ReadOnlyDB) break;
         auto* Key = new QShortcut(QKeySequence(QString::fromLatin1(Each.Keys)), Each.Grid);
         Key->setContext(Qt::WidgetShortcut);
-        connect(Key, &QShortcut::activated, this, [this, Run = Each.Command] { Do(Run); });
+        On(Key, &QShortcut::activated, Each.Does);
     }
-    connect(mUi->flxSelected, &FlexGrid::DeletePressed, this, [this] {
-        if (!ReadOnlyDB) Do(&frmSlideShowDBM::MoveLeftOne);
-    });
+    On(mUi->flxSelected, &FlexGrid::DeletePressed, &frmSlideShowDBM::MoveLeftOne);
 }
 
 void frmSlideShowDBM::LoadIcons() {
@@ -175,17 +172,13 @@ void frmSlideShowDBM::LoadIcons() {
         Button->setIcon(ThemeIcon(QString::fromLatin1(Name), palette()));
 }
 
-// A command acts on what the user sees: an edit that is open counts as made. The window may go
-// while a box or another window is open inside a command.
-void frmSlideShowDBM::Do(Action Chosen) {
-    const auto Held = shared_from_this();
-    if (IsBusy()) return;
-    FinishEdits();
-    (this->*Chosen)();
+bool frmSlideShowDBM::IsBusy() const {
+    return mReading.IsReading() || mStep != Step::None;
 }
 
 void frmSlideShowDBM::FinishEdits() {
-    for (FlexGrid* Grid : {mUi->flxSelected, mUi->flxSoundTracks}) Grid->FinishEdit();
+    mLists->FinishEdits();
+    mUi->flxSoundTracks->FinishEdit();
 }
 
 void frmSlideShowDBM::LoadSlideShowMgr(std::int32_t AlbumID, std::int32_t SlideShowID) {
@@ -208,7 +201,7 @@ void frmSlideShowDBM::Form_Load() {
     DBEngine->LoadAlbumsCombo(AlbumList, false);
     OpenAsWideAsNames(*mUi->cboAlbum);
     FollowAlbum();
-    RenumberSelected();
+    mLists->Renumber();
     SetReadOnlyLook();
     FitToolBar();
     RestoreWindow(*this, Memory);
@@ -228,9 +221,9 @@ void frmSlideShowDBM::SetReadOnlyLook() {
 
 // A show that is being written is not left half written.
 bool frmSlideShowDBM::Form_Unload() {
-    if (mWriting) return false;
+    if (mStep == Step::Writing) return false;
     SaveWindow(*this, Memory);
-    if (mLoadingForm) std::exchange(mLoadingForm, nullptr)->ClearParent();
+    mReading.WindowClosed();
     return true;
 }
 
@@ -248,10 +241,6 @@ bool frmSlideShowDBM::event(QEvent* Event) {
     return true;
 }
 
-bool frmSlideShowDBM::eventFilter(QObject* Watched, QEvent* Event) {
-    return FilterDrop(*Event) || Form::eventFilter(Watched, Event);
-}
-
 void frmSlideShowDBM::changeEvent(QEvent* Event) {
     Form::changeEvent(Event);
     if (Event->type() == QEvent::PaletteChange) LoadIcons();
@@ -263,24 +252,109 @@ void frmSlideShowDBM::FitToolBar() {
     mUi->abrMenu->setMinimumWidth(mUi->abrMenu->sizeHint().width());
 }
 
-ComboBoxList frmSlideShowDBM::Albums() const {
-    return ComboBoxList(*mUi->cboAlbum);
+void frmSlideShowDBM::ShowCounts(int NonSelected, int Selected) {
+    mUi->lblNonSelectedCnt->setText(QString::number(NonSelected));
+    mUi->lblSelectedCnt->setText(QString::number(Selected));
+    mUi->flxSoundTracks->SetPlaces(Selected);
 }
 
-ComboBoxList frmSlideShowDBM::Shows() const {
-    return ComboBoxList(*mUi->cboSlideShows);
+void frmSlideShowDBM::ShowPicture(const FlexGrid& Grid, int Row) {
+    PopUpPicture(Grid.TextMatrix(Row, clsImageBuffer::ColPath));
 }
 
-std::int32_t frmSlideShowDBM::AlbumID() const {
-    return Albums().ItemData(mUi->cboAlbum->currentIndex());
+void frmSlideShowDBM::MoveRightOne() {
+    mLists->MoveIntoShow(false);
 }
 
-std::int32_t frmSlideShowDBM::SlideShowID() const {
-    return Shows().ItemData(mUi->cboSlideShows->currentIndex());
+void frmSlideShowDBM::MoveRightAll() {
+    mLists->MoveIntoShow(true);
 }
 
-clsNEBAlbum* frmSlideShowDBM::ShownAlbum() const {
-    return DBEngine && AlbumID() != 0 ? DBEngine->GetAlbum(AlbumID()) : nullptr;
+void frmSlideShowDBM::MoveLeftOne() {
+    mLists->MoveOutOfShow(false);
+}
+
+void frmSlideShowDBM::MoveLeftAll() {
+    mLists->MoveOutOfShow(true);
+}
+
+void frmSlideShowDBM::MoveUp() {
+    mLists->MoveBy(-1);
+}
+
+void frmSlideShowDBM::MoveDown() {
+    mLists->MoveBy(1);
+}
+
+void frmSlideShowDBM::New() {
+    if (AlbumID() != 0) return ChooseShow(0, Cause::User);
+    MsgBox(QStringLiteral("You must first select an album."));
+}
+
+void frmSlideShowDBM::Save() {
+    ShowContent Show = Content();
+    const Answer<> IsRight = CheckShow(Show, *DBEngine);
+    mUi->txtName->setText(Show.Name);
+    if (!Tell(IsRight)) return;
+    Answer<Announcement> Written = Write(Show);
+    FollowWaiting();
+    if (!Tell(Written)) return;
+    MsgBox(QStringLiteral("Slide Show Saved Successfully."), QStringLiteral("Save Successful"),
+           BoxIcon::Information);
+    Written->Now();
+    if (!IsLoaded() || AlbumID() != Show.AlbumID) return;
+    LoadSlideShowsList();
+    ChooseShow(mUi->cboSlideShows->findData(Show.SlideShowID), Cause::User);
+}
+
+// What other windows do meanwhile is followed behind it, after a fault as well: what stands in the
+// window is then what stood there before, to be saved once more.
+Answer<Announcement> frmSlideShowDBM::Write(ShowContent& Show) {
+    try {
+        const PointerScope Working(Pointer::Hourglass);
+        const QScopedValueRollback<Step> Writing(mStep, Step::Writing);
+        return WriteShow(Show, *DBEngine, &DoEventsButInput, this);
+    } catch (const Fault&) {
+        FollowWaiting();
+        throw;
+    }
+}
+
+// The grids keep what they hold, and it is saved as no show that is there.
+void frmSlideShowDBM::SaveAsNew() {
+    ChooseShow(0, Cause::Program);
+    Save();
+}
+
+void frmSlideShowDBM::Delete() {
+    const std::int32_t From = AlbumID(), ShowID = SlideShowID();
+    if (From == 0 || ShowID == 0) return New();
+    if (!AskYesNo(QStringLiteral("Are you sure you want to delete the selected slide show?"),
+                  QStringLiteral("Delete Confirmation")))
+        return;
+    if (!DBEngine->GetAlbum(From)) {
+        MsgBox(QStringLiteral("Album not found."));
+        return;
+    }
+    Answer<Announcement> Deleted = Changes(*DBEngine, this).DeleteShow(From, ShowID);
+    if (!Tell(Deleted)) return;
+    MsgBox(QStringLiteral("Slide Show Deleted Successfully."), QStringLiteral("Delete Successful"),
+           BoxIcon::Information);
+    Deleted->Now();
+    if (!IsLoaded() || AlbumID() != From) return;
+    LoadSlideShowsList();
+    New();
+}
+
+void frmSlideShowDBM::View() {
+    if (AlbumID() != 0 && SlideShowID() != 0)
+        return RunSlideShow(AlbumID(), mUi->cboAlbum->currentText(), SlideShowID());
+    MsgBox(QStringLiteral("You must first select a Slide Show to View."),
+           QStringLiteral("Missing User Input"));
+}
+
+void frmSlideShowDBM::EditPreferences() {
+    EditSlideShowPreferences();
 }
 
 }  // namespace neb

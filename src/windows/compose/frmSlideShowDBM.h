@@ -1,13 +1,15 @@
 // The slide show manager: a show is composed from the slides of an album, with captions of its own
-// and sound tracks, and saved. It holds the whole show in its grids; nothing is written before
-// Save. A child of the main window; several may be open, on one album, too.
+// and sound tracks, and saved. It wires the draft of the show, the two lists of slides and the list
+// of tracks; nothing is written before Save. A child of the main window; several may be open, on
+// one album, too.
 #pragma once
 
-#include "albums/ShowContent.h"
+#include "albums/ShowDraft.h"
 #include "controls/fields/ComboBoxList.h"
 #include "controls/forms/Form.h"
-#include "controls/forms/Progress.h"
+#include "db/Changes.h"
 #include "windows/frame/modBroadcast.h"
+#include "windows/lists/SlideReading.h"
 
 namespace neb {
 
@@ -15,11 +17,10 @@ namespace Ui {
 class frmSlideShowDBM;
 }
 class FlexGrid;
+class TwoLists;
 class clsNEBAlbum;
-class clsNEBSlide;
-class frmLoading;
 
-class frmSlideShowDBM : public Form, public ProgressParent, public ChangeReceiver {
+class frmSlideShowDBM : public Form, public ChangeReceiver {
     Q_OBJECT
 
   public:
@@ -29,36 +30,38 @@ class frmSlideShowDBM : public Form, public ProgressParent, public ChangeReceive
     // Shows the window with that album and that show chosen; 0: none.
     void LoadSlideShowMgr(std::int32_t AlbumID, std::int32_t SlideShowID);
     QString ExitState() const { return {}; }
-    void DoActivity() override;  // reads the album, under frmLoading
     void ReceiveEvent(const QString& ObjectType, const QString& EventType,
                       const EventKeys& EventData) override;
-
-    // Columns of flxSoundTracks.
-    enum TrackColumn { ColStart, ColEnd, ColRepeat, ColFitToSong, ColFade, ColFile, TrackColumns };
 
   protected:
     void Form_Load() override;
     bool Form_Unload() override;
+    bool IsBusy() const override;
+    void FinishEdits() override;
     bool event(QEvent* Event) override;
-    bool eventFilter(QObject* Watched, QEvent* Event) override;
     void changeEvent(QEvent* Event) override;
 
   private:
     using Action = void (frmSlideShowDBM::*)();
-    enum class Read { Album, Changes };
+    using Heard = SlideReading::HeardChange;
+    // Who has chosen a show: the user, who is shown it, or the program, which brings the box in
+    // step while the window keeps what it holds.
+    enum class Cause { User, Program };
+    // What the window is at besides the reading of slides.
+    enum class Step { None, Showing, Writing };
 
     // The controls.
     void SetUpChoice();
-    void SetUpGrids();
+    void SetUpLists();
+    void SetUpTracks();
     void SetUpButtons();
     void SetUpToolBar();
     void SetUpKeys();
     void LoadIcons();
     void FitToolBar();
     void SetReadOnlyLook();
-    bool IsBusy() const { return mReading || mWriting; }
-    void Do(Action Command);
-    void FinishEdits();
+    void ShowCounts(int NonSelected, int Selected);
+    void ShowPicture(const FlexGrid& Grid, int Row);
 
     // The album and its shows.
     ComboBoxList Albums() const;
@@ -68,63 +71,38 @@ class frmSlideShowDBM : public Form, public ProgressParent, public ChangeReceive
     clsNEBAlbum* ShownAlbum() const;
     void cboAlbum_Click();
     void cboSlideShows_Click();
-    void SelectShowIndex(int Index);
+    void ChooseShow(int Index, Cause Who);
     void LoadSlideShowsList();
     void FollowAlbum();
     void ClearContent();
-    void ReadUnderLoading(Read What);
+    SlideReading::Order AlbumSlides(bool ListsToo);
+    std::optional<SlideReading::KeyList> SlideKeys() const;
     void LoadAlbumSlides();
-    void ReadSlides(const std::vector<std::int32_t>& SlideIDs);
-    bool Stopped() const;
-    void RefreshSlideRows(const clsNEBSlide& Slide);
+    void RefreshAlbumSlides();
+    void FollowReading();
     void ShowChosenShow();
-    void ResetSlideGrids();
-    void TakeSlides(const ShowContent& Stored);
+    void ShowDetails(const ShowContent& Show);
     ShowContent Content() const;
 
-    // The two lists.
-    void RenumberSelected();
-    void Move(FlexGrid& From, FlexGrid& To, bool All);
+    // What the user does.
     void MoveRightOne();
     void MoveRightAll();
     void MoveLeftOne();
     void MoveLeftAll();
-    void MoveUp() { MoveBy(-1); }
-    void MoveDown() { MoveBy(1); }
-    void MoveBy(int Step);
-    void AfterEdit(int Row, int Col);
-    void RowsDropped(FlexGrid& From, FlexGrid& To, int Before);
-    void ShowPicture(const FlexGrid& Grid, int Row);
-
-    // The list of tracks.
-    void SetUpTracks();
-    void ShowTracks(const std::vector<ShowTrack>& Tracks);
-    std::vector<ShowTrack> Tracks() const;
-    void OfferPlaces();
-    void ChooseFile(int Row);
-    void EmptyTracks();
-    bool FilterDrop(QEvent& Event);
-    void TakeFiles(const QStringList& Files, int Row);
-
-    // What the user does with the show.
+    void MoveUp();
+    void MoveDown();
     void New();
     void Save();
-    bool Write(ShowContent& Show);
-    void KeepOnAfterFault(const ShowContent& Show, bool IsNew);
+    Answer<Announcement> Write(ShowContent& Show);
     void SaveAsNew();
     void Cancel() { cboSlideShows_Click(); }
     void Close() { Unload(); }
     void Delete();
     void View();
     void EditPreferences();
-    void TellOthers(const QString& EventType, const ShowContent& Show);
 
     // What other windows have done.
-    struct ChangeEvent {
-        QString ObjectType, EventType;
-        EventKeys Keys;
-    };
-    void Follow(const ChangeEvent& Change);
+    void Follow(const Heard& Change);
     void FollowWaiting();
     void AlbumDeleted(const EventKeys& Keys);
     void AlbumsChanged(const EventKeys& Keys);
@@ -135,16 +113,10 @@ class frmSlideShowDBM : public Form, public ProgressParent, public ChangeReceive
     void ShowsChanged(const EventKeys& Keys);
 
     std::unique_ptr<Ui::frmSlideShowDBM> mUi;
-    FlexGrid* mBuffer;  // flxBuffer: every slide of the album, never seen
-    std::shared_ptr<frmLoading> mLoadingForm;
-    bool mSuppressShowClick = false;
-    bool mReading = false;
-    bool mWriting = false;
-    Read mRead = Read::Album;
-    bool mAlbumAgain = false;  // another album was chosen while one was being read
-    std::vector<ChangeEvent> mWaiting;
-    ShowContent mAsLoaded;  // what the grids held when the show was last shown
-    QString mSoundFolder;   // where the last file was chosen
+    TwoLists* mLists;
+    ShowDraft mDraft;
+    SlideReading mReading{*this};
+    Step mStep = Step::None;
 };
 
 }  // namespace neb

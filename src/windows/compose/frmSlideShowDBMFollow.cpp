@@ -1,53 +1,209 @@
-// How the slide show manager follows what other windows do. What has been composed and not yet
-// saved stays, as far as its slides and its album are still there.
+// How the slide show manager takes up an album and a show, and how it follows what other windows
+// do. What has been composed and not yet saved stays, as far as its slides and its album are still
+// there.
 #include <QScopedValueRollback>
-#include <algorithm>
-#include <unordered_set>
 
+#include "albums/BulkSlides.h"
 #include "albums/modLoadShow.h"
-#include "controls/grid/FlexGrid.h"
-#include "controls/grid/GridRows.h"
+#include "controls/forms/Tell.h"
 #include "db/clsDBEngine.h"
 #include "settings/modNEBSlideShow.h"
+#include "support/Services.h"
 #include "ui_frmSlideShowDBM.h"
+#include "windows/compose/TwoLists.h"
 #include "windows/compose/frmSlideShowDBM.h"
-#include "windows/lists/SlideGrids.h"
-#include "windows/lists/SlideRows.h"
 
 namespace neb {
-namespace {
 
-// Those that are listed and not in the album any more.
-std::vector<std::int32_t> GoneSlides(const FlexGrid& Listed, const clsNEBAlbum& Album) {
-    std::unordered_set<std::int32_t> There;
-    for (const auto& Slide : Album.Slides) There.insert(Slide->SlideID);
-    std::vector<std::int32_t> Gone;
-    for (int Row = 0; Row < Listed.Rows(); ++Row)
-        if (const std::int32_t SlideID = SlideIn(Listed, Row); !There.contains(SlideID))
-            Gone.push_back(SlideID);
-    return Gone;
+ComboBoxList frmSlideShowDBM::Albums() const {
+    return ComboBoxList(*mUi->cboAlbum);
 }
 
-}  // namespace
+ComboBoxList frmSlideShowDBM::Shows() const {
+    return ComboBoxList(*mUi->cboSlideShows);
+}
+
+std::int32_t frmSlideShowDBM::AlbumID() const {
+    return Albums().ItemData(mUi->cboAlbum->currentIndex());
+}
+
+std::int32_t frmSlideShowDBM::SlideShowID() const {
+    return Shows().ItemData(mUi->cboSlideShows->currentIndex());
+}
+
+clsNEBAlbum* frmSlideShowDBM::ShownAlbum() const {
+    return DBEngine && AlbumID() != 0 ? DBEngine->GetAlbum(AlbumID()) : nullptr;
+}
+
+// Another album that is chosen while one is being read is read next, and shown by who began.
+void frmSlideShowDBM::cboAlbum_Click() {
+    const auto Held = shared_from_this();
+    FollowAlbum();
+    if (AlbumID() == 0) return;
+    LoadAlbumSlides();
+}
+
+void frmSlideShowDBM::LoadAlbumSlides() {
+    SlideReading::Order Slides = AlbumSlides(false);
+    Slides.Begin = [this] {
+        ClearContent();
+        return AlbumID() != 0;
+    };
+    if (mReading.Read(Slides) == SlideReading::End::Again) return;
+    FollowReading();
+    if (!IsLoaded() || AlbumID() == 0) return;
+    LoadSlideShowsList();
+    if (mUi->cboSlideShows->count() > 0) ChooseShow(0, Cause::User);
+}
+
+void frmSlideShowDBM::RefreshAlbumSlides() {
+    mReading.Read(AlbumSlides(true));
+    FollowReading();
+}
+
+void frmSlideShowDBM::FollowReading() {
+    if (!IsLoaded()) return;
+    mLists->Renumber();
+    FollowAlbum();
+    FollowWaiting();
+}
+
+// The title, and what the empty lists say.
+void frmSlideShowDBM::FollowAlbum() {
+    const bool Shown = AlbumID() != 0;
+    const QString Name = mUi->cboAlbum->currentText();
+    setWindowTitle(Shown ? QStringLiteral("Slide Show Manager - ") + Name
+                         : QStringLiteral("Slide Show Manager"));
+    const bool NoAlbums = mUi->cboAlbum->count() == 0;
+    mUi->flxNonSelected->SetEmptyText(
+        NoAlbums ? tr("There is no album yet.\nMake one with New Album in the Album menu.")
+        : !Shown ? tr("Choose an album above to see its slides here.")
+        : mLists->IsAlbumEmpty()
+            ? tr("This album has no slides.\nAdd some with Slide Manager in the Album menu.")
+            : tr("Every slide of the album is in the show."));
+    mUi->flxSelected->SetEmptyText(Shown
+                                       ? tr("Move slides here:\nthe show plays them in this order.")
+                                       : tr("The slides of a show stand here."));
+}
+
+void frmSlideShowDBM::ClearContent() {
+    mLists->Clear();
+    mUi->txtName->clear();
+    mUi->flxSoundTracks->ShowTracks({});
+    Shows().Clear();
+    mUi->cboSlideShows->update();
+}
+
+// Before a show has been sorted in, all slides are read into the hidden list alone.
+SlideReading::Order frmSlideShowDBM::AlbumSlides(bool ListsToo) {
+    const auto Enter = ListsToo ? &TwoLists::RefreshSlide : &TwoLists::ReadSlide;
+    const auto MakeRow = [this, Enter, Finder = SlideFinder()](std::int32_t SlideID, int) mutable {
+        const clsNEBSlide* Slide = Finder.Find(*ShownAlbum(), SlideID);
+        if (Slide) (mLists->*Enter)(AlbumID(), *Slide, mReading.Window());
+    };
+    return {.Keys = [this] { return SlideKeys(); },
+            .MakeRow = MakeRow,
+            .IsThere = [this] { return ShownAlbum() != nullptr; },
+            .Grids = {mUi->flxNonSelected, mUi->flxSelected}};
+}
+
+std::optional<SlideReading::KeyList> frmSlideShowDBM::SlideKeys() const {
+    const clsNEBAlbum* Album = ShownAlbum();
+    if (!Album) {
+        MsgBox(QStringLiteral("Album not found."));
+        return {};
+    }
+    SlideReading::KeyList Keys;
+    for (const auto& Slide : Album->Slides) Keys.push_back(Slide->SlideID);
+    return Keys;
+}
+
+// An empty list where the album is gone.
+void frmSlideShowDBM::LoadSlideShowsList() {
+    const QSignalBlocker Quiet(mUi->cboSlideShows);
+    ComboBoxList List = Shows();
+    List.Clear();
+    clsNEBAlbum* Album = ShownAlbum();
+    if (!Album) {
+        MsgBox(QStringLiteral("Album not found."));
+        return;
+    }
+    Album->LoadSlideShowsCombo(List);
+    List.InsertItem(0, QStringLiteral("<NEW SLIDE SHOW>"), 0);
+    OpenAsWideAsNames(*mUi->cboSlideShows);
+    mUi->cboSlideShows->update();
+}
+
+// The user is shown the show also when its entry was chosen already: afresh.
+void frmSlideShowDBM::ChooseShow(int Index, Cause Who) {
+    {
+        const QSignalBlocker Quiet(mUi->cboSlideShows);
+        mUi->cboSlideShows->setCurrentIndex(Index);
+    }
+    mUi->cboSlideShows->update();
+    if (Who == Cause::User) cboSlideShows_Click();
+}
+
+void frmSlideShowDBM::cboSlideShows_Click() {
+    if (AlbumID() == 0) {
+        MsgBox(QStringLiteral("You must first select an album."));
+        return;
+    }
+    if (IsBusy()) return;
+    ShowChosenShow();
+    if (!IsLoaded()) return;
+    mDraft.Compose(Content());
+    mDraft.SetAsStored();
+    FollowWaiting();
+}
+
+// What the user does while the slides are sorted in waits until the show is there.
+void frmSlideShowDBM::ShowChosenShow() {
+    const std::int32_t ShowID = mUi->cboSlideShows->currentIndex() < 1 ? 0 : SlideShowID();
+    Answer<ShowContent> Stored = LoadShow(*DBEngine, AlbumID(), ShowID);
+    {
+        const QScopedValueRollback<Step> Showing(mStep, Step::Showing);
+        mLists->TakeShow(Stored ? Stored->Slides : std::vector<ShowSlide>(), [this] {
+            DoEventsButInput();
+            return IsLoaded();
+        });
+    }
+    if (IsLoaded() && Tell(Stored)) ShowDetails(*Stored);
+}
+
+void frmSlideShowDBM::ShowDetails(const ShowContent& Show) {
+    mUi->txtName->setText(Show.Name);
+    mUi->cboProgressionMethod->setCurrentIndex(Show.ProgressionMethod);
+    mUi->flxSoundTracks->ShowTracks(Show.Tracks);
+}
+
+ShowContent frmSlideShowDBM::Content() const {
+    return {.AlbumID = AlbumID(),
+            .SlideShowID = SlideShowID(),
+            .Name = mUi->txtName->text(),
+            .ProgressionMethod = mUi->cboProgressionMethod->currentIndex(),
+            .Slides = mLists->Slides(),
+            .Tracks = mUi->flxSoundTracks->Tracks()};
+}
 
 void frmSlideShowDBM::ReceiveEvent(const QString& ObjectType, const QString& EventType,
                                    const EventKeys& EventData) {
     if (EventData.empty()) return;
     const auto Held = shared_from_this();
-    mWaiting.push_back({ObjectType, EventType, EventData});
+    mReading.KeepForLater({ObjectType, EventType, EventData});
     FollowWaiting();
 }
 
 // What changes while an album or a show is read or written is followed behind that.
 void frmSlideShowDBM::FollowWaiting() {
-    while (!IsBusy() && IsLoaded() && !mWaiting.empty()) {
-        const ChangeEvent Next = mWaiting.front();
-        mWaiting.erase(mWaiting.begin());
-        Follow(Next);
+    while (!IsBusy() && IsLoaded()) {
+        const std::optional<Heard> Next = mReading.NextWaiting();
+        if (!Next) return;
+        Follow(*Next);
     }
 }
 
-void frmSlideShowDBM::Follow(const ChangeEvent& Change) {
+void frmSlideShowDBM::Follow(const Heard& Change) {
     static const struct {
         const char *ObjectType, *EventType;
         size_t LeastKeys;
@@ -97,7 +253,7 @@ void frmSlideShowDBM::AlbumsChanged(const EventKeys& Keys) {
     if (AlbumID() != Shown) ClearContent();
     FollowAlbum();
     if (!ShownAlbum() || AlbumID() != Keys[0]) return;
-    DropSlides(GoneSlides(*mBuffer, *ShownAlbum()));
+    DropSlides(mLists->GoneFrom(*ShownAlbum(), 0));
     ShowsChanged({Shown, 0});  // an album that was replaced has other shows, too
     SlidesAdded({Shown});
 }
@@ -106,43 +262,34 @@ void frmSlideShowDBM::SlidesAdded(const EventKeys& Keys) {
     if (!ShownAlbum() || Keys[0] != AlbumID()) return;
     FinishEdits();
     const std::int32_t SlideID = Keys.size() > 1 ? Keys[1] : 0;
-    if (SlideID <= 0) return ReadUnderLoading(Read::Changes);
+    if (SlideID <= 0) return RefreshAlbumSlides();
     const clsNEBSlide* Slide = ShownAlbum()->GetSlide(SlideID);
     if (!Slide) return;
-    RefreshSlideRows(*Slide);
-    RenumberSelected();
+    mLists->RefreshSlide(AlbumID(), *Slide, nullptr);
+    mLists->Renumber();
     FollowAlbum();
 }
 
-// Of thousands that are deleted one by one, each is looked for by itself.
 void frmSlideShowDBM::SlidesDeleted(const EventKeys& Keys) {
-    clsNEBAlbum* Album = ShownAlbum();
+    const clsNEBAlbum* Album = ShownAlbum();
     if (!Album || Keys[0] != AlbumID()) return;
-    const std::int32_t SlideID = Keys.size() > 1 ? Keys[1] : 0;
-    const bool IsTheOnlyOne = !Album->GetSlide(SlideID) && RowOfSlide(*mBuffer, SlideID) >= 0 &&
-                              mBuffer->Rows() == static_cast<int>(Album->Slides.size()) + 1;
-    DropSlides(IsTheOnlyOne ? std::vector{SlideID} : GoneSlides(*mBuffer, *Album));
+    DropSlides(mLists->GoneFrom(*Album, Keys.size() > 1 ? Keys[1] : 0));
 }
 
 // Takes the slides out that the album has no more. A show from which they went so is not changed.
 void frmSlideShowDBM::DropSlides(const std::vector<std::int32_t>& Gone) {
     FinishEdits();
-    for (std::int32_t SlideID : Gone)
-        for (FlexGrid* Grid : {mUi->flxNonSelected, mUi->flxSelected, mBuffer})
-            if (const int Row = RowOfSlide(*Grid, SlideID); Row >= 0) Grid->RemoveItem(Row);
-    std::erase_if(mAsLoaded.Slides, [&Gone](const ShowSlide& Slide) {
-        return std::find(Gone.begin(), Gone.end(), Slide.SlideID) != Gone.end();
-    });
-    RenumberSelected();
+    mLists->DropSlides(Gone);
+    mDraft.DropSlides(Gone);
     FollowAlbum();
 }
 
 // What the show held stays in the window, from where it can be saved as a new one.
 void frmSlideShowDBM::ShowDeleted(const EventKeys& Keys) {
     if (AlbumID() == 0 || Keys[0] != AlbumID()) return;
-    const QScopedValueRollback<bool> Quiet(mSuppressShowClick, true);
+    if (Keys[1] != 0 && Keys[1] == SlideShowID()) ChooseShow(-1, Cause::Program);
+    const QSignalBlocker Quiet(mUi->cboSlideShows);
     ComboBoxList List = Shows();
-    if (Keys[1] != 0 && Keys[1] == SlideShowID()) List.SetListIndex(-1);
     ComboRemoveByData(List, Keys[1]);
     mUi->cboSlideShows->update();
 }
@@ -153,17 +300,12 @@ void frmSlideShowDBM::ShowsChanged(const EventKeys& Keys) {
     FinishEdits();
     const int Index = mUi->cboSlideShows->currentIndex();
     const std::int32_t Shown = SlideShowID();
-    const bool Untouched = Shown != 0 && Shown == Keys[1] && SameContent(Content(), mAsLoaded);
-    {
-        const QScopedValueRollback<bool> Quiet(mSuppressShowClick, true);
-        LoadSlideShowsList();
-        ComboBoxList List = Shows();
-        if (Shown == 0)
-            List.SetListIndex(std::min(Index, List.ListCount() - 1));
-        else
-            ComboSelectByData(List, Shown, -2);
-    }
-    if (Untouched) cboSlideShows_Click();
+    mDraft.Compose(Content());
+    const bool Untouched = Shown != 0 && Shown == Keys[1] && !mDraft.IsChanged();
+    LoadSlideShowsList();
+    const int Same = std::min(Index, mUi->cboSlideShows->count() - 1);
+    ChooseShow(Shown == 0 ? Same : mUi->cboSlideShows->findData(Shown),
+               Untouched ? Cause::User : Cause::Program);
 }
 
 }  // namespace neb

@@ -241,7 +241,7 @@ TEST_F(ManagerKeys, AReadOnlyDatabaseIsShownAndNotChanged) {
     Tracks().SetRow(0);
     KeyTo(Qt::Key_Delete);
     Dialogs.Answer = MakeSound(u"a.wav"_s);
-    Tracks().setCurrentIndex(Tracks().model()->index(0, Mgr::ColFile));
+    Tracks().setCurrentIndex(Tracks().model()->index(0, TrackList::ColFile));
     KeyTo(Qt::Key_Space);
     EXPECT_EQ(0, Dialogs.Count);
     Right().setFocus();

@@ -110,11 +110,11 @@ TEST_F(ManagerMany, MovingThemNeverKeepsTheUserWaiting) {
             QCoreApplication::processEvents();
         },
         [this] { PickEverySecond(Selected(*W)); });
-    Tracks().setCurrentIndex(Tracks().model()->index(0, Mgr::ColEnd));
+    Tracks().setCurrentIndex(Tracks().model()->index(0, TrackList::ColEnd));
     ExpectQuick("one up while places are offered", [this] { Push("cmdMoveUp"); });
-    EXPECT_EQ(Many, Tracks().Column(Mgr::ColEnd).List.size());
+    EXPECT_EQ(Many, Tracks().Column(TrackList::ColEnd).List.size());
     ExpectQuick("opening a list of places", [this] {
-        ASSERT_TRUE(Tracks().EditCell(1, Mgr::ColEnd));
+        ASSERT_TRUE(Tracks().EditCell(1, TrackList::ColEnd));
         auto& Box = *Tracks().findChildren<QComboBox*>().back();
         Box.showPopup();
         QCoreApplication::processEvents();

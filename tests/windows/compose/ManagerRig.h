@@ -4,6 +4,8 @@
 
 #include "albums/modLoadShow.h"
 #include "support/modDEValidation.h"
+#include "windows/compose/TrackList.h"
+#include "windows/compose/TwoLists.h"
 #include "windows/compose/frmSlideShowDBM.h"
 #include "windows/lists/SlideGrids.h"
 #include "windows/lists/SlideRows.h"
@@ -55,7 +57,7 @@ class ManagerRig : public BulkRig {
     }
     FlexGrid& Left() { return NonSelected(*W); }
     FlexGrid& Right() { return Selected(*W); }
-    FlexGrid& Tracks() { return In<FlexGrid>(*W, "flxSoundTracks"); }
+    TrackList& Tracks() { return In<TrackList>(*W, "flxSoundTracks"); }
     static std::string Captions(const FlexGrid& Grid) {
         return Column(Grid, clsImageBuffer::ColText).join(u'|').toStdString();
     }

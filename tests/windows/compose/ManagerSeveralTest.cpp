@@ -183,7 +183,7 @@ TEST_F(ManagerSeveral, AnAlbumIsDeletedWhileShowsOfItAreBeingComposed) {
     Mgr& New = OpenMgr(Garden);
     Push("cmdMoveRightAll");
     SetTrack(0, {u"1"_s, u"2"_s, {}, {}, {}, MakeSound(u"a.wav"_s)});
-    Begin(Tracks(), 1, Mgr::ColFile, u"/music/b.wav"_s);
+    Begin(Tracks(), 1, TrackList::ColFile, u"/music/b.wav"_s);
     AlbumID = MakeAlbum(u"Attic"_s);
     AddAlbumSlides({u"chest"_s});
     Tell(u"Album"_s, u"Insert"_s, {AlbumID});

@@ -19,7 +19,7 @@ class ManagerTracks : public ManagerRig {
         for (const QString& Each : Paths) Urls << QUrl::fromLocalFile(Each);
         Data.setUrls(Urls);
         QWidget* Port = Tracks().viewport();
-        const QPoint At = CellCentre(Tracks(), Row, Mgr::ColFile);
+        const QPoint At = CellCentre(Tracks(), Row, TrackList::ColFile);
         QDragEnterEvent Enter(At, Qt::CopyAction, &Data, Qt::LeftButton, {});
         QApplication::sendEvent(Port, &Enter);
         QDragMoveEvent Move(At, Qt::CopyAction, &Data, Qt::LeftButton, {});
@@ -29,9 +29,9 @@ class ManagerTracks : public ManagerRig {
         QApplication::sendEvent(Port, &Let);
         return Let.isAccepted();
     }
-    std::string File(int Row) { return Tracks().TextMatrix(Row, Mgr::ColFile).toStdString(); }
+    std::string File(int Row) { return Tracks().TextMatrix(Row, TrackList::ColFile).toStdString(); }
     void PressDots(int Row) {
-        const QRect Cell = Tracks().visualRect(Tracks().model()->index(Row, Mgr::ColFile));
+        const QRect Cell = Tracks().visualRect(Tracks().model()->index(Row, TrackList::ColFile));
         const QPoint Dots(Cell.right() - 5, Cell.center().y());
         QTest::mouseClick(Tracks().viewport(), Qt::LeftButton, {}, Dots);
     }
@@ -52,22 +52,22 @@ TEST_F(ManagerTracks, TheHeadingsStandInTwoLines) {
 
 TEST_F(ManagerTracks, ThePlacesOfTheShowAreOfferedOnEnteringTheirColumns) {
     OpenGarden({1, 2, 3});
-    GoTo(0, Mgr::ColFile);
-    EXPECT_EQ("", Offered(Mgr::ColStart));
-    GoTo(2, Mgr::ColEnd);
-    EXPECT_EQ("1|2|3", Offered(Mgr::ColEnd));
+    GoTo(0, TrackList::ColFile);
+    EXPECT_EQ("", Offered(TrackList::ColStart));
+    GoTo(2, TrackList::ColEnd);
+    EXPECT_EQ("1|2|3", Offered(TrackList::ColEnd));
     Push("cmdMoveRightAll");
-    EXPECT_EQ("1|2|3|4|5", Offered(Mgr::ColEnd)) << "the cell was current already";
-    GoTo(2, Mgr::ColStart);
-    EXPECT_EQ("1|2|3|4|5", Offered(Mgr::ColStart));
-    GoTo(2, Mgr::ColFile);
-    EXPECT_EQ("", Offered(Mgr::ColStart));
+    EXPECT_EQ("1|2|3|4|5", Offered(TrackList::ColEnd)) << "the cell was current already";
+    GoTo(2, TrackList::ColStart);
+    EXPECT_EQ("1|2|3|4|5", Offered(TrackList::ColStart));
+    GoTo(2, TrackList::ColFile);
+    EXPECT_EQ("", Offered(TrackList::ColStart));
 }
 
 TEST_F(ManagerTracks, APlaceIsChosenFromTheList) {
     OpenGarden({1, 2, 3});
-    GoTo(1, Mgr::ColStart);
-    ASSERT_TRUE(Tracks().EditCell(1, Mgr::ColStart));
+    GoTo(1, TrackList::ColStart);
+    ASSERT_TRUE(Tracks().EditCell(1, TrackList::ColStart));
     auto* Box = Tracks().findChild<QComboBox*>();
     ASSERT_TRUE(Box);
     EXPECT_EQ(3, Box->count());
@@ -75,7 +75,7 @@ TEST_F(ManagerTracks, APlaceIsChosenFromTheList) {
     QTest::keyClick(Box, Qt::Key_Down);
     KeyReturn();
     EXPECT_EQ("2: 2,,,,,", TrackCells());
-    ASSERT_TRUE(Tracks().EditCell(1, Mgr::ColStart));
+    ASSERT_TRUE(Tracks().EditCell(1, TrackList::ColStart));
     Type("3");
     KeyReturn();
     EXPECT_EQ("2: 3,,,,,", TrackCells()) << "a place is typed as well";
@@ -83,7 +83,7 @@ TEST_F(ManagerTracks, APlaceIsChosenFromTheList) {
 
 TEST_F(ManagerTracks, AChoiceThatIsOpenCountsWhenACommandIsGiven) {
     OpenGarden({1, 2, 3});
-    ASSERT_TRUE(Tracks().EditCell(0, Mgr::ColEnd));
+    ASSERT_TRUE(Tracks().EditCell(0, TrackList::ColEnd));
     Tracks().findChild<QComboBox*>()->setCurrentIndex(2);
     Push("cmdMoveRightAll");
     EXPECT_EQ("1: ,3,,,,", TrackCells());
@@ -91,9 +91,10 @@ TEST_F(ManagerTracks, AChoiceThatIsOpenCountsWhenACommandIsGiven) {
 
 TEST_F(ManagerTracks, TheFlagsAreTicked) {
     OpenGarden({1});
-    for (int Col : {Mgr::ColRepeat, Mgr::ColFitToSong, Mgr::ColFade}) GoTo(0, Col);
+    for (int Col : {TrackList::ColRepeat, TrackList::ColFitToSong, TrackList::ColFade})
+        GoTo(0, Col);
     EXPECT_EQ("1: ,,True,True,True,", TrackCells());
-    GoTo(0, Mgr::ColFitToSong);
+    GoTo(0, TrackList::ColFitToSong);
     EXPECT_EQ("1: ,,True,False,True,", TrackCells());
 }
 
@@ -113,12 +114,12 @@ TEST_F(ManagerTracks, TheButtonAsksForASoundFile) {
 
 TEST_F(ManagerTracks, APathIsTyped) {
     OpenGarden({1});
-    Put(Tracks(), 0, Mgr::ColFile, u"/music/a.wav"_s);
+    Put(Tracks(), 0, TrackList::ColFile, u"/music/a.wav"_s);
     EXPECT_EQ("1: ,,,,,/music/a.wav", TrackCells());
-    Begin(Tracks(), 1, Mgr::ColFile, u"/music/b.wav"_s);
+    Begin(Tracks(), 1, TrackList::ColFile, u"/music/b.wav"_s);
     Name().setFocus();
     EXPECT_EQ("/music/b.wav", File(1)) << "typing is kept when another control is chosen";
-    Begin(Tracks(), 2, Mgr::ColFile, u"x"_s);
+    Begin(Tracks(), 2, TrackList::ColFile, u"x"_s);
     QTest::keyClick(&Editor(Tracks()), Qt::Key_Escape);
     EXPECT_EQ("", File(2));
 }

@@ -1,0 +1,161 @@
+#include "albums/TrackPlan.h"
+
+#include <algorithm>
+
+#include "albums/modImport.h"
+#include "db/modAlbumFiles.h"
+#include "support/Fault.h"
+#include "support/files/modHostFiles.h"
+#include "support/modFUFL.h"
+
+namespace neb {
+namespace {
+
+bool SameName(const QString& One, const QString& Other) {
+    return One.toUpper() == Other.toUpper();
+}
+
+class Planner {
+  public:
+    Planner(const QString& Folder, std::int32_t SlideShowID, const std::vector<ShowTrack>& Tracks)
+        : mStem(FileStem(SlideShowID)), mRows(Tracks) {
+        mPlan.Folder = Folder;
+    }
+
+    TrackPlan Plan(const std::vector<QString>& Stored) {
+        for (size_t Row = 0; Row < mRows.size(); ++Row) KeepPlayed(Row);
+        for (size_t Row = 0; Row < mRows.size(); ++Row) TakeIn(Row);
+        for (const QString& Name : Stored)
+            if (IsUnused(Name)) mPlan.Deletions.push_back(mPlan.Folder + Name);
+        for (const ShowTrack& Row : mRows) mPlan.Names.push_back(Row.SoundTrackLoc);
+        return mPlan;
+    }
+
+  private:
+    QString Numbered(size_t Number, const QString& Like) const {
+        return mStem + u'_' + QString::number(Number) + GetFileExt(GetFileName(Like));
+    }
+    QString PlaceFor(size_t Row) const {
+        return mPlan.Folder + Numbered(Row + 1, mRows[Row].SoundTrackLoc);
+    }
+    bool Plays(const ShowTrack& Track, const QString& Path) const {
+        if (!Track.IsFilled()) return false;
+        const QString& Loc = Track.SoundTrackLoc;
+        return ResolvePath(HoldsSeparator(Loc) ? Loc : mPlan.Folder + Loc) == ResolvePath(Path);
+    }
+
+    void KeepPlayed(size_t Row) {
+        if (!mRows[Row].IsNewFile()) return;
+        const QString Place = PlaceFor(Row);
+        if (!FileExists(Place)) return;
+        QString Kept;
+        for (size_t Other = 0; Other < mRows.size(); ++Other) {
+            if (Other == Row || !Plays(mRows[Other], Place)) continue;
+            if (Kept.isEmpty()) Kept = KeepBeside(Place);
+            mRows[Other].SoundTrackLoc = Kept;
+        }
+    }
+    QString KeepBeside(const QString& Place) {
+        size_t Number = 100;  // the rows are numbered up to 99
+        while (IsTaken(mPlan.Folder + Numbered(Number, Place))) ++Number;
+        const QString Kept = Numbered(Number, Place);
+        mPlan.Copies.push_back({Place, mPlan.Folder + Kept});
+        return Kept;
+    }
+    bool IsTaken(const QString& Path) const {
+        const auto& Copies = mPlan.Copies;
+        return NameExists(Path) ||
+               std::any_of(Copies.begin(), Copies.end(),
+                           [&](const TrackPlan::Copy& Each) { return SameName(Each.To, Path); });
+    }
+
+    // A file that was chosen where it lies already is not copied onto itself.
+    void TakeIn(size_t Row) {
+        ShowTrack& Track = mRows[Row];
+        if (!Track.IsNewFile()) return;
+        const QString Place = PlaceFor(Row);
+        if (ResolvePath(Track.SoundTrackLoc) != ResolvePath(Place))
+            mPlan.Copies.push_back({Track.SoundTrackLoc, Place});
+        Track.SoundTrackLoc = GetFileName(Place);
+    }
+
+    bool IsUnused(const QString& Name) const {
+        return !Name.isEmpty() && !HoldsSeparator(Name) &&
+               std::none_of(mRows.begin(), mRows.end(), [&](const ShowTrack& Row) {
+                   return Row.IsFilled() && SameName(Row.SoundTrackLoc, Name);
+               });
+    }
+
+    QString mStem;
+    std::vector<ShowTrack> mRows;
+    TrackPlan mPlan;
+};
+
+}  // namespace
+
+TrackPlan PlanTracks(const QString& Folder, std::int32_t SlideShowID,
+                     const std::vector<ShowTrack>& Tracks, const std::vector<QString>& Stored) {
+    return Planner(Folder, SlideShowID, Tracks).Plan(Stored);
+}
+
+TrackCopies::~TrackCopies() {
+    if (mKept) return;
+    std::for_each(mSteps.rbegin(), mSteps.rend(), &TrackCopies::TakeBack);
+}
+
+void TrackCopies::TakeBack(const Step& What) {
+    if (!What.Placed) DropFile(What.Made);
+    if (What.Before.isEmpty()) return;
+    if (!What.Placed) return DropFile(What.Before);
+    try {
+        RenameFile(What.Before, What.To);
+    } catch (const Fault&) {
+        return;  // the fault before is the one to tell; the file is still there under that name
+    }
+}
+
+void TrackCopies::Make(const Yield& LetRun) {
+    if (mPlan.Copies.empty()) return;
+    MakeDirs(mPlan.Folder);
+    for (const TrackPlan::Copy& Each : mPlan.Copies) MakeOne(Each, LetRun);
+    HoldReplaced(LetRun);
+    SyncDir(mPlan.Folder);
+}
+
+void TrackCopies::MakeOne(const TrackPlan::Copy& What, const Yield& LetRun) {
+    const bool Replaces = NameExists(What.To);
+    mSteps.push_back({What.To, Replaces ? What.To + QStringLiteral(".new") : What.To, {}});
+    CopyFile(What.From, mSteps.back().Made, LetRun);
+}
+
+// Behind the last rename nothing can fail any more: the file that it replaces need not be held.
+void TrackCopies::HoldReplaced(const Yield& LetRun) {
+    Step* Last = nullptr;
+    for (Step& Each : mSteps) {
+        if (Each.Made == Each.To) continue;
+        if (Step* Before = std::exchange(Last, &Each)) {
+            Before->Before = Before->To + QStringLiteral(".old");
+            CopyFile(Before->To, Before->Before, LetRun);
+        }
+    }
+}
+
+void TrackCopies::PutInPlace() {
+    for (Step& Each : mSteps) {
+        if (Each.Made == Each.To) continue;
+        RenameFile(Each.Made, Each.To);
+        Each.Placed = true;
+    }
+}
+
+void TrackCopies::Keep() {
+    mKept = true;
+    for (const Step& Each : mSteps)
+        if (!Each.Before.isEmpty()) DropFile(Each.Before);
+}
+
+void TrackCopies::DropUnused() {
+    for (const QString& Each : mPlan.Deletions) DropFile(Each);
+}
+
+}  // namespace neb
