@@ -50,6 +50,31 @@ const QRegularExpression HostFileSource(QStringLiteral("^support/files/[A-Za-z]*
 
 const QRegularExpression Include(QStringLiteral("^\\s*#\\s*include\\s*(?:\"([^\"]*)\"|<([^>]*)>)"));
 
+// What is left to some rooms alone.
+struct WordRule {
+    QRegularExpression Words, FreeIn;
+    const char* Says;
+};
+
+const WordRule WordRules[] = {
+    {QRegularExpression(
+         QStringLiteral("\\b(?:MsgBox|AskYesNo|ShowBox)\\s*\\(|Boxes\\s*->\\s*Show\\b")),
+     QRegularExpression(QStringLiteral("^(?:windows|controls|program)/|^support/Services\\.")),
+     "only windows show boxes"},
+    {QRegularExpression(QStringLiteral(
+         "\\b(?:[A-Za-z]*Engine|theDB|mDB|[A-Za-z]*Album|Found)(?:\\(\\))?(?:->|\\.)"
+         "(?:SaveAlbum|DeleteAlbum|SaveSlide2?|SaveSlideShow|DeleteSlide|DeleteSlideShow|"
+         "SaveSlideShowDetail|SaveSlideShowSoundTrack|ClearDetails|ClearSoundTracks|ClearContents)"
+         "\\s*\\(|->(?:AlbumName|SlideText|SlideLoc|SoundTrackLoc|"
+         "Override|Repeat|SlideShowName|"
+         "ProgressionMethod|FitToSong|Fade|Slides|SlideShows|Details|SoundTracks)\\s*=[^=]")),
+     QRegularExpression(QStringLiteral("^db/")),
+     "albums, slides and shows change through db/Changes alone"},
+    {QRegularExpression(QStringLiteral("\\bBroadcastEvent\\b")),
+     QRegularExpression(QStringLiteral("^windows/frame/")),
+     "changes are told by their announcement"},
+};
+
 QString At(const QString& Path, qsizetype Line, const QString& What) {
     return QStringLiteral("%1:%2: %3").arg(Path).arg(Line).arg(What);
 }
@@ -291,6 +316,46 @@ QStringList DrawingFaults(const House& Rooms, const QString& Document) {
     if (Faults.isEmpty() && Drawn != Expected)
         Faults << QStringLiteral("the drawing has the rooms in the order ") + Drawn.join(u", ") +
                       QStringLiteral(" instead of ") + Expected.join(u", ");
+    return Faults;
+}
+
+QStringList GuideFaults(const House& Rooms, const QString& Document, const QStringList& Sources) {
+    QStringList Faults;
+    for (const Room& Each : Rooms) {
+        const QRegularExpression Line(
+            QStringLiteral("^- `%1` — `([A-Za-z]+\\.h)`: ").arg(Each.Folder),
+            QRegularExpression::MultilineOption);
+        const auto Match = Line.match(Document);
+        if (!Match.hasMatch())
+            Faults << Each.Folder +
+                          QStringLiteral(" has no line that names the file to read first");
+        else if (!Sources.contains(Each.Folder + u'/' + Match.captured(1)))
+            Faults << QStringLiteral("%1 has no %2").arg(Each.Folder, Match.captured(1));
+    }
+    return Faults;
+}
+
+QStringList WindowTableFaults(const QString& Document, const QStringList& Forms) {
+    QStringList Faults;
+    for (const QString& Form : Forms) {
+        const QString Folder = Form.left(Form.lastIndexOf(u'/'));
+        const QString Class = Form.mid(Folder.size() + 1).section(u'.', 0, 0);
+        if (!Document.contains(QStringLiteral("| `%1` | `%2` |").arg(Class, Folder)))
+            Faults << QStringLiteral("%1 of %2 is not in the table of windows").arg(Class, Folder);
+    }
+    return Faults;
+}
+
+QStringList WordFaults(const QString& Path, const QString& Text) {
+    QStringList Faults;
+    const QString Code = WithoutComments(Text, false);
+    for (const WordRule& Rule : WordRules) {
+        if (Rule.FreeIn.match(Path).hasMatch()) continue;
+        const QStringList Lines = Code.split(u'\n');
+        for (qsizetype I = 0; I < Lines.size(); ++I)
+            if (Rule.Words.match(Lines[I]).hasMatch())
+                Faults << At(Path, I + 1, QString::fromUtf8(Rule.Says));
+    }
     return Faults;
 }
 

@@ -42,4 +42,13 @@ QStringList SizeFaults(const QString& Path, const QString& Text);
 // The drawing of src/ in a fenced block has to name all rooms, the roof first.
 QStringList DrawingFaults(const House& Rooms, const QString& Document);
 
+// Each room has a line "- `room` — `File.h`: ..." in the document, with a file that it holds.
+QStringList GuideFaults(const House& Rooms, const QString& Document, const QStringList& Sources);
+// Each window (a form with its controls in a .ui file) stands in the table of windows with its
+// class and its folder: "| Title | `frmClass` | `windows/x` | page |".
+QStringList WindowTableFaults(const QString& Document, const QStringList& Forms);
+// Words that a file below the windows, or a window, has to leave to others: boxes are shown by
+// windows alone, records changed by db and albums alone, changes told by windows/frame alone.
+QStringList WordFaults(const QString& Path, const QString& Text);
+
 }  // namespace neb::layout

@@ -15,15 +15,18 @@ QString TextOf(const QString& Path) {
 
 const QString Root = QStringLiteral(NEB_SOURCE_DIR "/");
 
-// Every source and header below src, as path from there.
-QStringList Sources() {
+// The files below src with these names, as paths from there.
+QStringList AllFiles(const QStringList& Masks) {
     QStringList Found;
-    QDirIterator Files(Root + QStringLiteral("src"),
-                       {QStringLiteral("*.cpp"), QStringLiteral("*.h")}, QDir::Files,
+    QDirIterator Files(Root + QStringLiteral("src"), Masks, QDir::Files,
                        QDirIterator::Subdirectories);
     while (Files.hasNext()) Found << Files.next().sliced(Root.size() + 4);
     Found.sort();
     return Found;
+}
+
+QStringList Sources() {
+    return AllFiles({QStringLiteral("*.cpp"), QStringLiteral("*.h")});
 }
 
 const House& TheHouse() {
@@ -73,7 +76,7 @@ TEST(Layers, NoArrowGoesUp) {
 }
 
 TEST(Layers, NoRoomIsCrowded) {
-    EXPECT_EQ("", Lines(CrowdFaults(Sources())));
+    EXPECT_EQ("", Lines(CrowdFaults(AllFiles({QStringLiteral("*")}))));
 }
 
 TEST(Layers, OnlyTheHostFileRoutinesTouchTheFileSystem) {
@@ -88,6 +91,22 @@ TEST(Layers, TheDrawingOfTheArchitectureShowsTheHouse) {
     const QString Path = Root + QStringLiteral("docs/ARCHITECTURE.md");
     ASSERT_TRUE(QFile::exists(Path));
     EXPECT_EQ("", Lines(DrawingFaults(TheHouse(), TextOf(Path))));
+}
+
+TEST(Layers, TheArchitectureNamesTheFileToReadFirstInEachRoom) {
+    const QString Document = TextOf(Root + QStringLiteral("docs/ARCHITECTURE.md"));
+    EXPECT_EQ("", Lines(GuideFaults(TheHouse(), Document, Sources())));
+}
+
+TEST(Layers, TheArchitectureKnowsEveryWindow) {
+    const QString Document = TextOf(Root + QStringLiteral("docs/ARCHITECTURE.md"));
+    QStringList Forms = AllFiles({QStringLiteral("frm*.ui")});
+    EXPECT_GT(Forms.size(), 15);
+    EXPECT_EQ("", Lines(WindowTableFaults(Document, Forms)));
+}
+
+TEST(Layers, WhatIsLeftToSomeRoomsIsNotDoneElsewhere) {
+    EXPECT_EQ("", Lines(FaultsOfAll(WordFaults)));
 }
 
 TEST(Layers, TheScanSeesTheSources) {
@@ -267,4 +286,41 @@ TEST(LayerRules, AMissingAForeignAndAMisplacedRoomAreFoundInADrawing) {
     EXPECT_NE("",
               Drawing("```\nsrc/\n  db/\n    records/\n  program/\n  support/\n    files/\n```\n"));
     EXPECT_NE("", Drawing("program, support: words alone\n"));
+}
+
+TEST(LayerRules, ARoomWithoutAFileToReadFirstIsFound) {
+    const House One = ReadHouse(QStringLiteral("1:db/records:texts:"));
+    const QStringList There{QStringLiteral("db/records/Codec.h")};
+    const auto Guide = [&](const char* Text) {
+        return Lines(GuideFaults(One, QString::fromUtf8(Text), There));
+    };
+    EXPECT_EQ("", Guide("# Rooms\n\n- `db/records` — `Codec.h`: layouts\n"));
+    EXPECT_EQ("db/records has no Other.h", Guide("- `db/records` — `Other.h`: layouts\n"));
+    EXPECT_NE("", Guide("The room `db/records` — `Codec.h`: layouts\n"));
+}
+
+TEST(LayerRules, AWindowThatTheTableDoesNotKnowIsFound) {
+    const QStringList Forms{QStringLiteral("windows/show/frmPreferences.ui")};
+    const auto Table = [&](const char* Text) {
+        return Lines(WindowTableFaults(QString::fromUtf8(Text), Forms));
+    };
+    EXPECT_EQ("", Table("| Preferences | `frmPreferences` | `windows/show` | prefs |"));
+    EXPECT_NE("", Table("| Preferences | `frmPreferences` | `windows/albums` | prefs |"));
+}
+
+TEST(LayerRules, BoxesRecordsAndNoticesAreLeftToTheirRooms) {
+    const auto Words = [](const char* Path, const char* Text) {
+        return Lines(WordFaults(QString::fromUtf8(Path), QString::fromUtf8(Text)));
+    };
+    EXPECT_EQ("show/a.cpp:1: only windows show boxes", Words("show/a.cpp", "MsgBox(Text);"));
+    EXPECT_NE("", Words("albums/a.cpp", "if (AskYesNo(A, B)) return;"));
+    EXPECT_NE("", Words("db/a.cpp", "TheServices().Boxes->Show(It);"));
+    EXPECT_EQ("", Words("windows/slides/a.cpp", "MsgBox(Text);"));
+    EXPECT_EQ("", Words("show/a.cpp", "// no MsgBox(here)\nText(\"MsgBox(\");"));
+    EXPECT_NE("", Words("windows/slides/a.cpp", "Slide->SlideText = Caption;"));
+    EXPECT_NE("", Words("windows/albums/a.cpp", "DBEngine->SaveAlbum(AlbumID, Name);"));
+    EXPECT_EQ("", Words("windows/slides/a.cpp", "if (Slide->SlideText == Caption) return;"));
+    EXPECT_EQ("", Words("db/Changes.cpp", "Slide->SlideText = SlideText;"));
+    EXPECT_NE("", Words("windows/slides/a.cpp", "BroadcastEvent(A, B, this, {});"));
+    EXPECT_EQ("", Words("windows/frame/modBroadcast.cpp", "void BroadcastEvent(A) {"));
 }
