@@ -1,5 +1,5 @@
-// Life cycle and albums; what is forwarded to albums and shows is in clsDBEngineForward.cpp, the
-// clearing for transfers in clsDBEngineClear.cpp.
+// Life cycle and albums; what is forwarded to albums, shows and tables is in
+// clsDBEngineForward.cpp.
 #include "db/clsDBEngine.h"
 
 #include "db/modLoadRecords.h"

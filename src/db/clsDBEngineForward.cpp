@@ -1,5 +1,6 @@
 // What the engine hands on to the album, the show or the table that it concerns.
 #include "db/clsDBEngine.h"
+#include "db/modClearRecords.h"
 
 namespace neb {
 
@@ -104,6 +105,14 @@ void clsDBEngine::LoadEffectStatsCombo(ComboList& cboEffectStats) const {
 void clsDBEngine::ClassifyEffects(std::span<std::uint8_t> EffectClasses, std::int32_t MaxEffect,
                                   std::int32_t LowerBound) const {
     ClassifyByTime(EffectStats, EffectClasses, MaxEffect, LowerBound);
+}
+
+Answer<> clsDBEngine::ClearAlbumData(clsNEBAlbum& theAlbum) {
+    return ClearAlbumContents(*this, theAlbum);
+}
+
+Answer<> clsDBEngine::ClearSlideShowData(clsNEBAlbum& theAlbum, clsNEBSlideShow& theSlideShow) {
+    return ClearSlideShowContents(*this, theAlbum, theSlideShow);
 }
 
 }  // namespace neb

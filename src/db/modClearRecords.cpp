@@ -1,4 +1,5 @@
-// Emptying an album or a show before a transfer writes new contents into it.
+#include "db/modClearRecords.h"
+
 #include <unordered_set>
 
 #include "db/clsDBEngine.h"
@@ -51,28 +52,29 @@ Answer<> Told(const QString& Title, const QString& Sentence,
 
 }  // namespace
 
-Answer<> clsDBEngine::ClearAlbumData(clsNEBAlbum& theAlbum) {
+Answer<> ClearAlbumContents(const clsDBEngine& theDB, clsNEBAlbum& theAlbum) {
     return Told(
         QStringLiteral("Clear Album Failed"), QStringLiteral("Failed to clear the album."), [&] {
             theAlbum.ClearContents();
-            DeleteMask(SoundTracksFolder(mDBPath, theAlbum.AlbumID) + QStringLiteral("*.*"));
-            DeleteMask(SlidesFolder(mDBPath, theAlbum.AlbumID) + QStringLiteral("*.*"));
+            DeleteMask(SoundTracksFolder(theDB.DBPath(), theAlbum.AlbumID) + QStringLiteral("*.*"));
+            DeleteMask(SlidesFolder(theDB.DBPath(), theAlbum.AlbumID) + QStringLiteral("*.*"));
             return Answer<>(Done());
         });
 }
 
-Answer<> clsDBEngine::ClearSlideShowData(clsNEBAlbum& theAlbum, clsNEBSlideShow& theSlideShow) {
+Answer<> ClearSlideShowContents(const clsDBEngine& theDB, clsNEBAlbum& theAlbum,
+                                clsNEBSlideShow& theSlideShow) {
     return Told(QStringLiteral("Clear Slide Show Failed"),
                 QStringLiteral("Failed to clear the slide show."), [&] {
                     const QStringList Sounds = OwnSounds(theSlideShow);
                     const std::vector<std::int32_t> Orphans = OrphansOf(theAlbum, theSlideShow);
                     theSlideShow.ClearContents();
-                    Answer<> Emptied = DeleteOrphans(theAlbum, Orphans, *this);
+                    Answer<> Emptied = DeleteOrphans(theAlbum, Orphans, theDB);
                     if (!Emptied) return Emptied;
-                    const QString SoundFolder = SoundTracksFolder(mDBPath, theAlbum.AlbumID);
+                    const QString SoundFolder = SoundTracksFolder(theDB.DBPath(), theAlbum.AlbumID);
                     for (const QString& Sound : Sounds)
                         if (FileExists(SoundFolder + Sound)) DeleteFile(SoundFolder + Sound);
-                    const QString Folder = SlidesFolder(mDBPath, theAlbum.AlbumID);
+                    const QString Folder = SlidesFolder(theDB.DBPath(), theAlbum.AlbumID);
                     for (const std::int32_t SlideID : Orphans)
                         DeleteMask(Folder + FileStem(SlideID) + QStringLiteral("*.*"));
                     return Emptied;
