@@ -167,9 +167,9 @@ void ShowRun::ResetSlideClock() {
 }
 
 void ShowRun::Timer1_Timer() {
-    const ShowSoundFields Before = mSoundFields;
     const double Elapsed = mSlideClock.Elapsed();
-    if (!SlideClock::IsOver(Elapsed, Before.SlideInterval)) return SetFadeVolume(Elapsed);
+    if (!SlideClock::IsOver(Elapsed, mSoundFields.SlideInterval)) return SetFadeVolume(Elapsed);
+    const ShowSoundFields Before = mSoundFields;
     const double Due = mSlideClock.Due(Before.SlideInterval);
     mSlideClock.Start();
     if (mProgressionMethod != 0 || !AdvanceSlide()) return;

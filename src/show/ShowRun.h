@@ -74,6 +74,7 @@ class ShowRun {
     void SetFadeVolume(double Elapsed);
     bool ShowCurrentSlide(StepCause Cause);
     bool ShowPlace(clsNEBAlbum& Album, const clsNEBSlideShow& SlideShow, StepCause Cause);
+    bool PlaySound(const SlideSound& Playing, StepCause Cause);
     bool Fail(const QString& Message);
     void StopShow();
     void SetCaption(const QString& Text);

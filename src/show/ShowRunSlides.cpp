@@ -61,10 +61,15 @@ bool ShowRun::ShowPlace(clsNEBAlbum& Album, const clsNEBSlideShow& SlideShow, St
         return Fail(QStringLiteral("Slide #%1 of the current slide show does not exist!")
                         .arg(Chosen.Number));
     if (mCaption.isEmpty()) SetCaption(FixCaptionText(Slide->SlideText));
-    if (!DisplaySlideFile(Slide->SlideLoc)) return false;
+    if (!DisplaySlideFile(Slide->SlideLoc) || Run != mRunNumber) return false;
     mWorld.Place.CurrentSlideSeq = Chosen.CurrentSeq;
     const SlideSound Playing = SoundOf(Chosen, *Slide, SlideShow);
     PrefetchNext(Album, SlideShow);
+    return PlaySound(Playing, Cause);
+}
+
+bool ShowRun::PlaySound(const SlideSound& Playing, StepCause Cause) {
+    const std::uint32_t Run = mRunNumber;
     const auto Held = mSound;  // what the sound step has to tell may outlive the show
     const bool WatchRepeat = Held->SoundStep(Playing, Cause, mSoundFields);
     if (Run != mRunNumber) return false;
