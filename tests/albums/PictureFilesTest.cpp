@@ -1,20 +1,24 @@
 // Which files are pictures, and the walks that collect and count them.
 #include <sys/stat.h>
 
+#include <gtest/gtest.h>
+
 #include <QFile>
 
 #include "albums/modPictureFiles.h"
+#include "harness/TempFolder.h"
 #include "harness/WithoutPrivileges.h"
-#include "windows/import/IntakeHarness.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb {
 namespace {
 
 using namespace harness;
+using namespace Qt::StringLiterals;
 
 const KeepGoing GoOn = [] { return true; };
 
-class PictureFiles : public Intake {
+class PictureFiles : public ::testing::Test {
   protected:
     // What was found, without the folder of pictures in front.
     std::string Scan(bool Recurse, const KeepGoing& Goes = GoOn) {
@@ -25,8 +29,8 @@ class PictureFiles : public Intake {
         }
         return Names.join(u' ').toStdString();
     }
-    void Touch(const char* Name) {
-        const QString Path = Pics / QString::fromUtf8(Name);
+    void Touch(const char* Name) { TouchAt(Pics / QString::fromUtf8(Name)); }
+    static void TouchAt(const QString& Path) {
         MakeDirs(Path.left(Path.lastIndexOf(u'/')));
         WriteFile(Path, "x");
     }
@@ -35,6 +39,8 @@ class PictureFiles : public Intake {
         JobState Counted;
         return CountGraphicFiles(Directory, Recurse, Counted);
     }
+
+    TempFolder Pics;
 };
 
 TEST_F(PictureFiles, CountAsPicturesByTheirLastExtensionInAnyCase) {
@@ -101,7 +107,7 @@ TEST_F(PictureFiles, AreNoPipesOfTheirName) {
 TEST_F(PictureFiles, AreCountedInDirectoriesOfAnyDepth) {
     QString Deep = Pics.Path();
     for (int I = 0; I < 300; ++I) Deep += u"d/"_s;
-    MakePicture(Deep + u"a.jpg"_s);
+    TouchAt(Deep + u"a.jpg"_s);
     EXPECT_EQ(1, Count(true));
 }
 
@@ -115,7 +121,7 @@ TEST_F(PictureFiles, AreCountedNoFurtherOnceTheCountIsStopped) {
 TEST_F(PictureFiles, BehindALinkAreCounted) {
     Touch("a.jpg");
     TempFolder Other;
-    MakePicture(Other / u"b.jpg"_s);
+    TouchAt(Other / u"b.jpg"_s);
     ASSERT_TRUE(QFile::link(Other.Path().chopped(1), Pics / u"other"_s));
     ASSERT_TRUE(QFile::link(Other / u"b.jpg"_s, Pics / u"b.jpg"_s));
     EXPECT_EQ(2, Count(false));
