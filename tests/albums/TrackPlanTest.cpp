@@ -152,16 +152,16 @@ TEST_F(TrackFault, ASourceThatIsMissingLeavesTheShowAndItsFilesAsTheyWere) {
 }
 
 // Records that were on the disk at that moment name the files by which the show was played: they
-// are there, whole, and still the old ones as long as anything is copied.
+// are there and whole.
 class TrackKill : public TrackFault {
   protected:
-    // False when the save got to its end before that step.
-    bool KilledAt(int Number) {
+    // False when the save got to its end before that step, of those of one kind or of all.
+    bool KilledAt(int Number, std::optional<HostStep> Only = {}) {
         PutOldFiles();
         const pid_t Child = ::fork();
         if (Child == 0) {
-            SetHostWatcher([Left = Number](HostStep, const QString&, qint64&) mutable {
-                if (--Left == 0) ::kill(::getpid(), SIGKILL);
+            SetHostWatcher([Left = Number, Only](HostStep Step, const QString&, qint64&) mutable {
+                if (Only.value_or(Step) == Step && --Left == 0) ::kill(::getpid(), SIGKILL);
             });
             ::_exit(WriteShow(Content, Engine) ? 0 : 1);
         }
@@ -201,6 +201,16 @@ TEST_F(TrackKill, AtAnyStepLeavesEachFileThatTheStoredShowPlays) {
         ASSERT_LT(Number, 200);
     }
     EXPECT_EQ(3, Most);
+    EXPECT_EQ(3, Replaced());
+}
+
+TEST_F(TrackKill, WhileAnythingIsCopiedLeavesTheOldFiles) {
+    int Number = 1;
+    for (; KilledAt(Number, HostStep::Write); ++Number) {
+        EXPECT_EQ(0, Replaced()) << "write " << Number;
+        ASSERT_LT(Number, 200);
+    }
+    EXPECT_GT(Number, 5) << "each file is written";
     EXPECT_EQ(3, Replaced());
 }
 
