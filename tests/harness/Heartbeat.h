@@ -1,13 +1,18 @@
 // How long a thread with an event loop stood still at a stretch: beats every 10 ms and keeps the
-// longest time between two beats. Time in which the thread would have run and got no processor is
-// not counted, so that a machine that is busy otherwise does not look like a frozen window.
+// longest time between two beats. Time in which this thread, or another of the program that it may
+// be waiting for, would have run and got no processor is not counted, so that a machine that is
+// busy otherwise does not look like a frozen window. What the thread itself has worked always
+// counts.
 #pragma once
 
+#include <QDir>
 #include <QFile>
 #include <QTimer>
 #include <algorithm>
 #include <chrono>
+#include <ctime>
 #include <functional>
+#include <map>
 
 namespace neb::harness {
 
@@ -34,23 +39,40 @@ class Heartbeat {
         if (mOnBeat) mOnBeat();
     }
     void Note() {
-        const double Now = TimeWithAProcessor();
-        mLongest = std::max(mLongest, Now - std::exchange(mLast, Now));
+        const double Now = TimeWithProcessors(), Worked = WorkedTime();
+        mLongest = std::max(
+            {mLongest, Now - std::exchange(mLast, Now), Worked - std::exchange(mWorked, Worked)});
     }
-    // The clock less what this thread has spent waiting for a processor, both of one moment:
-    // between the two it may lose the processor.
-    static double TimeWithAProcessor() {
-        for (double Before = Waited();;) {
+    static double WorkedTime() {
+        struct timespec Now = {};
+        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &Now);
+        return static_cast<double>(Now.tv_sec) * 1e3 + static_cast<double>(Now.tv_nsec) / 1e6;
+    }
+    // The clock less what has been spent waiting for processors, both of one moment: in between
+    // this thread may lose its own.
+    double TimeWithProcessors() {
+        for (double Before = Waited(QStringLiteral("thread-self"));;) {
             const Milliseconds Now = std::chrono::steady_clock::now().time_since_epoch();
-            const double After = Waited();
-            if (After == Before) return Now.count() - After;
+            const double All = WaitedByAll();
+            const double After = Waited(QStringLiteral("thread-self"));
+            if (After == Before) return Now.count() - All;
             Before = After;
         }
     }
+    // Threads come and go: what each has added since the last look is added up.
+    double WaitedByAll() {
+        for (const QString& Thread :
+             QDir(QStringLiteral("/proc/self/task")).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+            const double Now = Waited(QStringLiteral("self/task/") + Thread);
+            double& Known = mWaits[Thread];
+            mWaited += std::max(0.0, Now - std::exchange(Known, Now));
+        }
+        return mWaited;
+    }
     // The second of the kernel's three figures: nanoseconds in the queue of a processor. Where the
     // kernel does not count them, 0: the test is then as strict as the clock.
-    static double Waited() {
-        QFile File(QStringLiteral("/proc/thread-self/schedstat"));
+    static double Waited(const QString& Thread) {
+        QFile File(QStringLiteral("/proc/%1/schedstat").arg(Thread));
         if (!File.open(QIODevice::ReadOnly)) return 0;
         const QList<QByteArray> Figures = File.readAll().split(' ');
         return Figures.size() > 1 ? Figures[1].toDouble() / 1e6 : 0;
@@ -59,7 +81,10 @@ class Heartbeat {
     std::function<void()> mOnBeat;
     QTimer mTimer;
     int mBeats = 0;
-    double mLast = TimeWithAProcessor();
+    std::map<QString, double> mWaits;
+    double mWaited = 0;
+    double mLast = TimeWithProcessors();
+    double mWorked = WorkedTime();
     double mLongest = 0;
 };
 
