@@ -65,6 +65,8 @@ bool frmImportFilter::MakeTarget() {
 }
 
 void frmImportFilter::ImportIntoAlbum(frmProgress& Bar) {
+    if (!DBEngine->GetAlbum(mTarget.AlbumID))
+        throw Fault(QStringLiteral("The Album was not found."));
     Changes Door(*DBEngine, this);
     Announcement Imported = Door.AsOne(Change::Kind::SlidesImported, mTarget.AlbumID);
     const std::optional<ImportTally> Tally = EnterAll(Door, Bar);

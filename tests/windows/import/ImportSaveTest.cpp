@@ -347,6 +347,18 @@ TEST_F(ImportSave, ThatMeetsABrokenPictureSaysWhichOne) {
     EXPECT_TRUE(Window->IsLoaded());
 }
 
+TEST_F(ImportSave, SaysThatItsAlbumIsNotThereAndStaysOpen) {
+    MakePictures(2);
+    const std::int32_t AlbumID = MakeAlbum(u"Garden"_s);
+    Show(AlbumID);
+    DropAlbum(Engine, AlbumID);
+    Boxes.Expect(u"The Album was not found."_s, u"Operation Failed"_s);
+    Press(*Window, "cmdImport");
+    EXPECT_TRUE(Window->IsLoaded());
+    EXPECT_EQ(2, Selected(*Window).Rows());
+    EXPECT_TRUE(Others->Heard.isEmpty());
+}
+
 TEST_F(ImportSave, EndsWhenItsAlbumGoesUnderIt) {
     MakePictures(4);
     const std::int32_t AlbumID = MakeAlbum(u"Garden"_s);
