@@ -13,28 +13,16 @@ constexpr std::int32_t DefaultTimeout = 20;
 constexpr double LeastTimeout = 4;
 constexpr int LastEffect = EffectPlaces;
 
-// The whole text as a number; a decimal point in every country, as in the settings file.
-std::optional<double> NumberIn(const QString& Text) {
-    bool IsNumber = false;
-    const double Value = Text.trimmed().toDouble(&IsNumber);
-    if (!IsNumber || !std::isfinite(Value)) return std::nullopt;
-    return Value;
+bool IsWithin(std::optional<std::int32_t> Entry, std::int32_t Least, std::int32_t Most) {
+    return Entry && *Entry >= Least && *Entry <= Most;
 }
 
-bool IsIntegerWithin(const QString& Cell, double Least, double Most) {
-    const QString Text = Cell.trimmed();
-    QString Message;
-    return !Text.isEmpty() && IsNumericText(Text, Message, false) && Val(Text) >= Least &&
-           Val(Text) <= Most;
-}
-
-std::optional<EntryProblem> CheckTimeout(const QString& Text) {
+std::optional<EntryProblem> CheckTimeout(std::optional<double> Entry) {
     const auto Refused = [](const char* Message) {
         return EntryProblem{EntryProblem::Field::Timeout, 0, QString::fromLatin1(Message)};
     };
-    const std::optional<double> Value = NumberIn(Text);
-    if (!Value) return Refused("The Slide Timeout must be numeric.");
-    if (*Value < LeastTimeout) return Refused("The Slide Timeout must be >= 4 seconds.");
+    if (!Entry) return Refused("The Slide Timeout must be numeric.");
+    if (*Entry < LeastTimeout) return Refused("The Slide Timeout must be >= 4 seconds.");
     return std::nullopt;
 }
 
@@ -66,13 +54,27 @@ void PutPreferences(clsSettings& Settings, const PreferencesState& State) {
     PutSpeeds(Settings, State.Effects);
 }
 
+std::optional<double> DecimalIn(const QString& Text) {
+    bool IsNumber = false;
+    const double Value = Text.trimmed().toDouble(&IsNumber);
+    if (!IsNumber || !std::isfinite(Value)) return std::nullopt;
+    return Value;
+}
+
+std::optional<std::int32_t> WholeNumberIn(const QString& Text) {
+    const QString Digits = Text.trimmed();
+    QString Message;
+    if (Digits.isEmpty() || !IsNumericText(Digits, Message, false)) return std::nullopt;
+    return CInt(Val(Digits));
+}
+
 std::optional<EntryProblem> CheckSpeed(const SpeedEntry& Entry, int Level) {
     using Field = EntryProblem::Field;
-    if (!IsIntegerWithin(Entry.Delay, 0, 1000))
+    if (!IsWithin(Entry.Delay, 0, 1000))
         return EntryProblem{
             Field::Delay, Level,
             QStringLiteral("You must enter an integer from 0 to 1000 for the delay.")};
-    if (!IsIntegerWithin(Entry.Step, 1, 100))
+    if (!IsWithin(Entry.Step, 1, 100))
         return EntryProblem{
             Field::Step, Level,
             QStringLiteral("You must enter an integer from 1 to 100 for the step.")};
@@ -80,7 +82,7 @@ std::optional<EntryProblem> CheckSpeed(const SpeedEntry& Entry, int Level) {
 }
 
 EffectSpeed SpeedOf(const SpeedEntry& Entry) {
-    return {CInt(Val(Entry.Step.trimmed())), CInt(Val(Entry.Delay.trimmed()))};
+    return {Entry.Step.value_or(0), Entry.Delay.value_or(0)};
 }
 
 std::optional<EntryProblem> CheckEntries(const PreferencesEntries& Entries) {
@@ -99,9 +101,9 @@ void TakeEntries(PreferencesState& State, const PreferencesEntries& Entries) {
     State.AlbumID = Entries.Album ? Entries.Album->ID : 0;
     State.AlbumName = Entries.Album ? Entries.Album->Name : QString();
     if (Entries.Album) State.SlideShowID = Entries.SlideShow ? Entries.SlideShow->ID : 0;
-    State.SlideTimeout = NumberIn(Entries.SlideTimeout).value_or(0);
+    State.SlideTimeout = Entries.SlideTimeout.value_or(0);
     if (!(State.SlideTimeout > 0)) State.SlideTimeout = DefaultTimeout;
-    State.NextSlideSeq = std::max(0, CInt(Val(Entries.NextSlide)));
+    State.NextSlideSeq = std::max(0, Entries.NextSlide);
     State.Effects.MaxEffectLevel = Entries.MaxEffectLevel;
     State.Effects.UseEffectLevel = Entries.UseEffectLevel;
     for (const PreferencesEntries::Flag& Each : Entries.Effects)

@@ -41,9 +41,14 @@ constexpr EffectLevelRow EffectLevelRows[] = {
     {"Intense", &EffectSettings::StepH, &EffectSettings::DelayH},
 };
 
-// The cells of one level as they stand on the screen.
+// What the text of a field says: a number with a point in every country, as in the settings file; a
+// whole number from 0. Blanks around it do not matter; nothing for any other text.
+std::optional<double> DecimalIn(const QString& Text);
+std::optional<std::int32_t> WholeNumberIn(const QString& Text);
+
+// The speed of one level as it was entered; nothing where that is no whole number.
 struct SpeedEntry {
-    QString Step, Delay;
+    std::optional<std::int32_t> Step, Delay;
 };
 struct EffectSpeed {
     std::int32_t Step = 0;   // 1 to 100
@@ -62,14 +67,15 @@ struct EntryProblem {
 std::optional<EntryProblem> CheckSpeed(const SpeedEntry& Entry, int Level);
 EffectSpeed SpeedOf(const SpeedEntry& Entry);  // of one that passed
 
-// All that a user has entered, as it stands on the screen.
+// All that a user has entered.
 struct PreferencesEntries {
     struct Choice {
         std::int32_t ID;
         QString Name;
     };
     std::optional<Choice> Album, SlideShow;
-    QString NextSlide, SlideTimeout;
+    std::int32_t NextSlide = 0;          // below 1: none
+    std::optional<double> SlideTimeout;  // seconds; nothing where that is no number
     std::int32_t MaxEffectLevel = 0;
     bool UseEffectLevel = true;
     struct Flag {

@@ -20,12 +20,20 @@ clsSettings With(Pairs Values) {
     return Settings;
 }
 
+// As a window reads its fields.
+std::optional<double> Seconds(const char* Text) {
+    return DecimalIn(QString::fromLatin1(Text));
+}
+SpeedEntry Speed(const char* Step, const char* Delay) {
+    return {WholeNumberIn(QString::fromLatin1(Step)), WholeNumberIn(QString::fromLatin1(Delay))};
+}
+
 // Entries that pass, to be spoilt one by one.
 PreferencesEntries Good() {
     PreferencesEntries Entries;
-    Entries.NextSlide = QStringLiteral("3");
-    Entries.SlideTimeout = QStringLiteral("12.5");
-    for (SpeedEntry& Speed : Entries.Speeds) Speed = {"25", "1000"};
+    Entries.NextSlide = 3;
+    Entries.SlideTimeout = 12.5;
+    for (SpeedEntry& Each : Entries.Speeds) Each = {25, 1000};
     return Entries;
 }
 
@@ -96,7 +104,7 @@ TEST(CheckEntries, WantsANumberForTheTimeout) {
     PreferencesEntries Entries = Good();
     for (const char* Text :
          {"", " ", "soon", "5 s", "5,5", "1,000", "nan", "inf", "1e999", "--5"}) {
-        Entries.SlideTimeout = QString::fromLatin1(Text);
+        Entries.SlideTimeout = Seconds(Text);
         EXPECT_EQ("The Slide Timeout must be numeric.", Refusal(CheckEntries(Entries))) << Text;
     }
 }
@@ -104,44 +112,44 @@ TEST(CheckEntries, WantsANumberForTheTimeout) {
 TEST(CheckEntries, WantsFourSecondsForTheTimeout) {
     PreferencesEntries Entries = Good();
     for (const char* Text : {"3.9", "3.999999", "0", "-10"}) {
-        Entries.SlideTimeout = QString::fromLatin1(Text);
+        Entries.SlideTimeout = Seconds(Text);
         EXPECT_EQ("The Slide Timeout must be >= 4 seconds.", Refusal(CheckEntries(Entries)))
             << Text;
     }
     for (const char* Text : {"4", "4.", " 4.0 ", "1e1", "100000"}) {
-        Entries.SlideTimeout = QString::fromLatin1(Text);
+        Entries.SlideTimeout = Seconds(Text);
         EXPECT_EQ("", Refusal(CheckEntries(Entries))) << Text;
     }
 }
 
 TEST(CheckSpeed, TakesIntegersFromZeroToAThousandForTheDelay) {
     for (const char* Good : {"0", "1", " 1000 ", "0007"})
-        EXPECT_EQ("", Refusal(CheckSpeed({"25", QString::fromLatin1(Good)}, 1))) << Good;
+        EXPECT_EQ("", Refusal(CheckSpeed(Speed("25", Good), 1))) << Good;
     for (const char* Bad : {"", "  ", "-1", "-", "1001", "5.0", "1e2", "x", "99999999999"})
-        EXPECT_EQ(BadDelay, Refusal(CheckSpeed({"25", QString::fromLatin1(Bad)}, 1))) << Bad;
+        EXPECT_EQ(BadDelay, Refusal(CheckSpeed(Speed("25", Bad), 1))) << Bad;
 }
 
 TEST(CheckSpeed, TakesIntegersFromOneToAHundredForTheStep) {
     for (const char* Good : {"1", "100", " 50 "})
-        EXPECT_EQ("", Refusal(CheckSpeed({QString::fromLatin1(Good), "0"}, 1))) << Good;
+        EXPECT_EQ("", Refusal(CheckSpeed(Speed(Good, "0"), 1))) << Good;
     for (const char* Bad : {"0", "101", "", " ", "-5", "2.5", "ten"})
-        EXPECT_EQ(BadStep, Refusal(CheckSpeed({QString::fromLatin1(Bad), "0"}, 1))) << Bad;
+        EXPECT_EQ(BadStep, Refusal(CheckSpeed(Speed(Bad, "0"), 1))) << Bad;
 }
 
 TEST(CheckEntries, LooksAtTheTimeoutThenAtEachLevelThenAtDelayBeforeStep) {
     PreferencesEntries Entries = Good();
-    Entries.SlideTimeout = QStringLiteral("x");
-    for (SpeedEntry& Speed : Entries.Speeds) Speed = {"0", "-1"};
+    Entries.SlideTimeout = Seconds("x");
+    for (SpeedEntry& Each : Entries.Speeds) Each = Speed("0", "-1");
     EXPECT_EQ("The Slide Timeout must be numeric.", Refusal(CheckEntries(Entries)));
-    Entries.SlideTimeout = QStringLiteral("5");
+    Entries.SlideTimeout = 5;
     for (int Level = 1; Level <= 3; ++Level) {
-        SpeedEntry& Speed = Entries.Speeds[Level - 1];
+        SpeedEntry& Each = Entries.Speeds[Level - 1];
         EXPECT_EQ(BadDelay, Refusal(CheckEntries(Entries)));
         EXPECT_EQ(Level, CheckEntries(Entries)->Level);
-        Speed.Delay = QStringLiteral("0");
+        Each.Delay = 0;
         EXPECT_EQ(BadStep, Refusal(CheckEntries(Entries)));
         EXPECT_EQ(Level, CheckEntries(Entries)->Level);
-        Speed.Step = QStringLiteral("1");
+        Each.Step = 1;
     }
     EXPECT_FALSE(CheckEntries(Entries));
 }
@@ -149,9 +157,9 @@ TEST(CheckEntries, LooksAtTheTimeoutThenAtEachLevelThenAtDelayBeforeStep) {
 TEST(TakeEntries, TakesTheSpeedsOfEachLevel) {
     PreferencesState State;
     PreferencesEntries Entries = Good();
-    Entries.Speeds[0] = {"1", "0"};
-    Entries.Speeds[1] = {"2 ", " 20"};
-    Entries.Speeds[2] = {"3", "30"};
+    Entries.Speeds[0] = Speed("1", "0");
+    Entries.Speeds[1] = Speed("2 ", " 20");
+    Entries.Speeds[2] = Speed("3", "30");
     TakeEntries(State, Entries);
     EXPECT_EQ((std::array{1, 2, 3}),
               (std::array{State.Effects.StepL, State.Effects.StepM, State.Effects.StepH}));
@@ -189,12 +197,10 @@ TEST(TakeEntries, WithAnAlbumTakesTheShowOrNone) {
 TEST(TakeEntries, CountsANextSlideBelowOneAsZero) {
     PreferencesState State;
     PreferencesEntries Entries = Good();
-    const std::pair<const char*, int> Cases[] = {{"", 0},  {"0", 0},    {"-3", 0}, {"first", 0},
-                                                 {"1", 1}, {" 12", 12}, {"7th", 7}};
-    for (const auto& [Text, Expected] : Cases) {
-        Entries.NextSlide = QString::fromLatin1(Text);
+    for (const auto& [Entered, Expected] : {std::pair(0, 0), {-3, 0}, {1, 1}, {12, 12}}) {
+        Entries.NextSlide = Entered;
         TakeEntries(State, Entries);
-        EXPECT_EQ(Expected, State.NextSlideSeq) << Text;
+        EXPECT_EQ(Expected, State.NextSlideSeq) << Entered;
     }
 }
 

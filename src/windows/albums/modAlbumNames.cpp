@@ -31,7 +31,7 @@ void KeepQuotesClean(QLineEdit& Field) {
     new KeyFilter(&Field, &FixQuoteKey);
     QObject::connect(&Field, &QLineEdit::editingFinished, &Field, [&Field] {
         const QString Clean = ConvertQuotes(Field.text());
-        if (Field.isModified() && Clean != Field.text()) Field.setText(Clean);
+        if (Clean != Field.text()) Field.setText(Clean);
     });
 }
 

@@ -19,8 +19,7 @@ bool ShowDeleteAlbum(std::int32_t AlbumID);
 
 // Refused when the name is empty or blank. Adjective is the noun of the name.
 Answer<> CheckName(const QString& Adjective, const QString& Name);
-// Straight quotes become typographic ones when they are typed, and when the field is left by
-// somebody who has changed it.
+// Straight quotes become typographic ones when they are typed, and when the field is left.
 void KeepQuotesClean(QLineEdit& Field);
 
 }  // namespace neb

@@ -228,15 +228,16 @@ bool frmPreferences::CheckEffectSettings(int Effect) {
 
 SpeedEntry frmPreferences::SpeedInGrid(int Level) const {
     const FlexGrid& Grid = *mUi->flxEffectSettings;
-    return {Grid.TextMatrix(Level - 1, ColStep), Grid.TextMatrix(Level - 1, ColDelay)};
+    return {WholeNumberIn(Grid.TextMatrix(Level - 1, ColStep)),
+            WholeNumberIn(Grid.TextMatrix(Level - 1, ColDelay))};
 }
 
 PreferencesEntries frmPreferences::ReadControls() const {
     PreferencesEntries Entries;
     Entries.Album = Chosen(*mUi->cboAlbums);
     Entries.SlideShow = Chosen(*mUi->cboSlideShows);
-    Entries.NextSlide = mUi->txtNextSlide->text();
-    Entries.SlideTimeout = mUi->txtSlideTimeout->text();
+    Entries.NextSlide = CInt(Val(mUi->txtNextSlide->text()));
+    Entries.SlideTimeout = DecimalIn(mUi->txtSlideTimeout->text());
     Entries.MaxEffectLevel = mUi->sdrMaxEffectLevel->value();
     Entries.UseEffectLevel = mUi->optEffects0->isChecked();
     for (int Row = 0; Row < mUi->lstEffects->count(); ++Row)

@@ -1,6 +1,7 @@
 // The directory selector: its answer, its count, and what it remembers in "DS.ini".
 #include <QCheckBox>
 #include <QComboBox>
+#include <QElapsedTimer>
 
 #include "FindGraphicsHarness.h"
 #include "albums/modPictureFiles.h"
@@ -163,6 +164,8 @@ TEST_F(DirSelect, AnswersTheKeyboardWhileItCounts) {
         const auto& Label = In<QLabel>(Shown, "lblDirSummary");
         Recurse(Shown).setFocus();
         QTest::keyClick(&Recurse(Shown), Qt::Key_Space);
+        QElapsedTimer Watch;
+        Watch.start();
         Dir1(Shown).SetPath(Endless);
         EXPECT_TRUE(QTest::qWaitFor([&] { return Label.text() > "1"; }));
         EXPECT_TRUE(Label.text().endsWith(u" graphics files so far ..."))
@@ -175,6 +178,7 @@ TEST_F(DirSelect, AnswersTheKeyboardWhileItCounts) {
         EXPECT_TRUE(QTest::qWaitFor([&] { return Label.text().endsWith(u"so far ..."); }));
         QTest::keyClick(&Shown, Qt::Key_Escape);
         EXPECT_FALSE(Shown.IsLoaded()) << "nor does the end of the window wait";
+        EXPECT_LT(Watch.elapsed(), 2500) << "a count to its end takes far longer";
     });
     EXPECT_EQ(Pointer::Default, ScreenPointer());
 }
