@@ -154,6 +154,12 @@ void ImportForm::Leave(Phase Done) {
     if (mPhase == Done) mPhase = Phase::Waiting;
 }
 
+void ImportForm::During(Phase What, const std::function<void()>& Do) {
+    mPhase = What;
+    const auto Over = qScopeGuard([this, What] { Leave(What); });
+    Do();
+}
+
 bool ImportForm::HasSelection() const {
     if (mUi->flxSelected->Rows() > 0) return true;
     MsgBox(QStringLiteral("You must select atleast 1 picture in order to import."));
@@ -161,9 +167,8 @@ bool ImportForm::HasSelection() const {
 }
 
 void ImportForm::RunImport() {
-    mPhase = Phase::Importing;
-    const auto Over = qScopeGuard([this] { Leave(Phase::Importing); });
-    RunUnderProgress(*this, [this](frmProgress& Bar) { StartOperation(Bar); });
+    During(Phase::Importing,
+           [this] { RunUnderProgress(*this, [this](frmProgress& Bar) { StartOperation(Bar); }); });
 }
 
 Answer<Announcement> ImportForm::MakeAlbum(Changes& Door, const QString& Name) {

@@ -96,6 +96,7 @@ class ImportForm : public Form {
     bool IsBusy() const override { return mPhase != Phase::Waiting || mReading.IsReading(); }
     void FinishEdits() override;
     void Leave(Phase Done);
+    void During(Phase What, const std::function<void()>& Do);
     bool GoesOn() const;
     bool EnterRows(PictureImport& Run, frmProgress& Bar, const RowDone& Done);
     QStringList SelectedPaths() const;

@@ -150,13 +150,11 @@ void ImportForm::ImportAnotherDirectory() {
 void ImportForm::ImportFoundGraphics() {
     DropRemaining();
     const auto Finder = NewForm<frmFindGraphics>();
-    mPhase = Phase::Searching;
     try {
-        Finder->ShowModal();
+        During(Phase::Searching, [Finder] { Finder->ShowModal(); });
     } catch (const Fault&) {
         // what was found until then can still be brought in
     }
-    Leave(Phase::Searching);
     if (Finder->FileCnt() < 1 || !IsLoaded()) return;
     for (int I = 1; I <= Finder->FileCnt(); ++I) mSource.Named.append(Finder->Files(I));
     ReadPictures();
