@@ -24,6 +24,11 @@ namespace {
 
 const WindowMemory Memory{QStringLiteral("frmSlideMgrBulk"), 6315};
 
+bool ConfirmDelete() {
+    return AskYesNo(QStringLiteral("Are you sure you want to delete the selected slides?"),
+                    QStringLiteral("Delete Confirmation"));
+}
+
 }  // namespace
 
 frmSlideMgrBulk::frmSlideMgrBulk() : mUi(std::make_unique<Ui::frmSlideMgrBulk>()) {
@@ -223,10 +228,7 @@ void frmSlideMgrBulk::Delete() {
             QStringLiteral("You must first select the album the slides are to be deleted from."));
         return;
     }
-    if (!AskYesNo(QStringLiteral("Are you sure you want to delete the selected slides?"),
-                  QStringLiteral("Delete Confirmation")))
-        return;
-    if (!HasAlbum()) return;
+    if (!ConfirmDelete() || !HasAlbum()) return;
     const int First = mUi->flxAlbum->SelectedRow(0);
     const SlideTally Tally = DeleteSelected();
     if (!IsLoaded()) return;
