@@ -266,7 +266,7 @@ TEST_F(ImportSave, NotesEachSlideOnceAndCompleteAndTellsOfAllAtOnce) {
     std::vector<Change> Noted;
     Engine.Listeners.Noted = [&](const Change& What) {
         EXPECT_TRUE(Others->Heard.isEmpty());
-        EXPECT_EQ(FileStem(What.SlideID) + u".JPG",
+        EXPECT_EQ(FileStem(What.SlideID) + u".JPG"_s,
                   Album(AlbumID).GetSlide(What.SlideID)->SlideLoc);
         EXPECT_TRUE(FileExists(SlidesFolder(Engine.DBPath(), AlbumID) + FileStem(What.SlideID) +
                                u".jpg"_s));
