@@ -5,19 +5,27 @@
 namespace neb {
 namespace {
 
+// clang-format off
 constexpr MediaType Pictures[] = {
-    {"Windows Bitmap Images", "bmp"},   {"Windows Enhanced Meta Files", "emf"},
-    {"JPEG Images", "jpg jpeg"},        {"Kodak (tm) PhotoCD Images", "pcd"},
-    {"ZSoft PaintBrush Images", "pcx"}, {"Portable Network Graphic Images", "png"},
-    {"Photoshop Images", "psd"},        {"Truevision Targa Images", "tga"},
-    {"Tagged Image Files", "tif tiff"}, {"TLA Images", "tla"},
-    {"Wireless Bitmap Images", "wbmp"}, {"Windows Meta Files", "wmf"},
+    {"Windows Bitmap Images", "bmp"},
+    {"Windows Enhanced Meta Files", "emf"},
+    {"JPEG Images", "jpg jpeg"},
+    {"Kodak (tm) PhotoCD Images", "pcd"},
+    {"ZSoft PaintBrush Images", "pcx"},
+    {"Portable Network Graphic Images", "png"},
+    {"Photoshop Images", "psd"},
+    {"Truevision Targa Images", "tga"},
+    {"Tagged Image Files", "tif tiff"},
+    {"TLA Images", "tla"},
+    {"Wireless Bitmap Images", "wbmp"},
+    {"Windows Meta Files", "wmf"},
 };
 
 constexpr MediaType Sounds[] = {
     {"Wave Audio Files", "wav"},
     {"MP3 Audio Files", "mp3"},
 };
+// clang-format on
 
 QStringList ExtensionsOf(std::span<const MediaType> Types) {
     QStringList All;

@@ -4,6 +4,7 @@
 
 #include <QFile>
 
+#include "albums/GraphicsSearch.h"
 #include "albums/modPictureFiles.h"
 #include "harness/TempFolder.h"
 #include "harness/WithoutPrivileges.h"
@@ -49,6 +50,23 @@ TEST_F(PictureFiles, CountAsPicturesByTheirLastExtensionInAnyCase) {
         EXPECT_TRUE(IsPictureName(QString::fromLatin1(Name))) << Name;
     for (const char* Name : {"a.jpg.bak", "a.gif", "jpg", "a.", "", "a.jpg ", "a.webp", "a.jp"})
         EXPECT_FALSE(IsPictureName(QString::fromLatin1(Name))) << Name;
+}
+
+TEST_F(PictureFiles, AreTheSameForCountingForFindGraphicsAndForTheFileDialog) {
+    QStringList Found, Offered;
+    for (const QString& Each : GraphicTypes().join(u'/').split(u'/')) Found << u'.' + Each;
+    Found.sort();
+    EXPECT_EQ(PictureExtensions(), Found);
+    const QString All = PictureFilters().section(u'|', -1);
+    for (const QString& Mask : All.split(u';')) Offered << Mask.sliced(1).toUpper();
+    EXPECT_EQ(PictureExtensions(), Offered);
+    for (const QString& Each : PictureExtensions()) {
+        Touch(("picture" + Each.toLower().toLatin1()).constData());
+        EXPECT_TRUE(IsSelectedType(Each, GraphicTypes())) << Each.toStdString();
+    }
+    Touch("picture.gif");
+    EXPECT_EQ(PictureExtensions().size(), Count(false));
+    EXPECT_EQ(PictureExtensions().size(), QString::fromStdString(Scan(false)).split(u' ').size());
 }
 
 TEST_F(PictureFiles, StandInTheOrderOfTheirUpperCasedNames) {
