@@ -198,13 +198,15 @@ void frmSlideMgrBulk::SaveRows(CaptionSave& Saved) {
     FlexGrid& Grid = *mUi->flxAlbum;
     mEdits.Clear();
     Grid.SetRedraw(false);
-    for (int Row = 0; ShownAlbum() && Row < Grid.Rows(); ++Row) {
+    const clsNEBAlbum* Album = ShownAlbum();
+    for (int Row = 0; Album && Row < Grid.Rows(); ++Row) {
         if (SaveRow(Saved, Row)) continue;
         NoteEdit(Row);
         Grid.SetRedraw(true);
         MsgBox(QStringLiteral("Slide #%1 Not Found.").arg(Row + 1),
                QStringLiteral("Failed to Save Slide"), BoxIcon::Information);
         Grid.SetRedraw(false);
+        Album = ShownAlbum();
     }
     Grid.SetRedraw(true);
 }
