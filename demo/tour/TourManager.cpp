@@ -4,6 +4,7 @@
 #include "TourControls.h"
 #include "TourSteps.h"
 #include "controls/forms/frmLoading.h"
+#include "windows/compose/TrackList.h"
 #include "windows/compose/frmSlideShowDBM.h"
 #include "windows/lists/SlideGrids.h"
 #include "windows/lists/clsImageBuffer.h"
@@ -89,20 +90,20 @@ FlexGrid& Tracks() {
 void ChooseTrackFile(Tour& Guide, int Row, const QString& File) {
     const QString Number = QString::number(Row + 1);
     Guide.Do("press-the-dots-" + Number, {},
-             [Row] { PressCellButton(Tracks(), Row, Manager::ColFile); });
+             [Row] { PressCellButton(Tracks(), Row, TrackList::ColFile); });
     Guide.Add({"choose-music-" + Number, &FileDialogIsInFront, [File] { TypeFileName(File); }});
     Guide.Do("music-chosen-" + Number,
              [File, Row] {
-                 return !FileDialogIsOpen() && Tracks().TextMatrix(Row, Manager::ColFile) == File;
+                 return !FileDialogIsOpen() && Tracks().TextMatrix(Row, TrackList::ColFile) == File;
              },
              {});
 }
 
-void AddTrack(Tour& Guide, int Row, int First, int Last, Manager::TrackColumn Flag,
+void AddTrack(Tour& Guide, int Row, int First, int Last, TrackList::TrackColumn Flag,
               const QString& File) {
     Guide.Do(QStringLiteral("track-%1").arg(Row + 1), {}, [=] {
-        ChooseInCell(Tracks(), Row, Manager::ColStart, QString::number(First));
-        ChooseInCell(Tracks(), Row, Manager::ColEnd, QString::number(Last));
+        ChooseInCell(Tracks(), Row, TrackList::ColStart, QString::number(First));
+        ChooseInCell(Tracks(), Row, TrackList::ColEnd, QString::number(Last));
         ClickCell(Tracks(), Row, Flag);
         if (!Tracks().Checked(Row, Flag)) throw Fault(QStringLiteral("the box stays empty"));
     });
@@ -129,9 +130,9 @@ void AddShowManagerOpened(Tour& Guide) {
 void AddShowManager(Tour& Guide, const Story& Told) {
     MoveSlides(Guide);
     OrderSlides(Guide);
-    AddTrack(Guide, 0, 1, 4, Manager::ColFitToSong,
+    AddTrack(Guide, 0, 1, 4, TrackList::ColFitToSong,
              Told.Music + QStringLiteral("/Morning Light.wav"));
-    AddTrack(Guide, 1, 5, 6, Manager::ColFade, Told.Music + QStringLiteral("/Evening Waltz.wav"));
+    AddTrack(Guide, 1, 5, 6, TrackList::ColFade, Told.Music + QStringLiteral("/Evening Waltz.wav"));
     SaveShow(Guide);
     Guide.Do("close-the-show-manager", {}, Press("cmdClose"));
     Guide.Do("after-the-show-manager", IsClosed<Manager>(), {});
