@@ -204,6 +204,7 @@ TEST_F(FindGraphics, MayBeClosedDuringTheSearch) {
     Search();
     EXPECT_FALSE(Window->IsLoaded());
     EXPECT_EQ(0, Window->FileCnt());
+    EXPECT_EQ(4, Grid().Rows()) << "the search ends with it";
 }
 
 TEST_F(FindGraphics, TellsOfADriveThatMayNotBeReadAndEnds) {
