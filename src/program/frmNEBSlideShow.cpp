@@ -14,6 +14,7 @@
 #include "program/MainMenu.h"
 #include "program/Workspace.h"
 #include "program/modMachineSettings.h"
+#include "settings/clsFileSystem.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/Services.h"
@@ -33,6 +34,11 @@ void ProbeDatabaseFolder() {
     const QString Probe = DBPath() + QStringLiteral("Temp/probe.tmp");
     WriteFile(Probe, "x");
     DeleteFile(Probe);
+}
+
+clsFileSystem* TheFileSystem() {
+    static clsFileSystem Files;
+    return &Files;
 }
 
 void IgnoringFaults(const std::function<void()>& Action) {
@@ -59,13 +65,13 @@ frmNEBSlideShow::frmNEBSlideShow() : mWorkspace(new Workspace(this)) {
 frmNEBSlideShow::~frmNEBSlideShow() {
     if (DBEngine == mEngine.get()) DBEngine = nullptr;
     if (ImageBuffer == mImageBuffer.get()) ImageBuffer = nullptr;
-    if (FileSystem == &mFileSystem) FileSystem = nullptr;
+    if (FileSystem == TheFileSystem()) FileSystem = nullptr;
 }
 
 void frmNEBSlideShow::Form_Load(const CommandLine& Line) {
     DebugMode = Line.Debug;
     Log("Showing Main Form");
-    mLoading = true;
+    mStage = Stage::Loading;
     show();
     DoEvents();
     // drawn once the window stands, which need not wait for it
@@ -81,10 +87,9 @@ void frmNEBSlideShow::Form_Load(const CommandLine& Line) {
     Log("Attempt to make child dirs.");
     MakeChildDirs();
     Log("Load Completed Successfully.");
-    FileSystem = &mFileSystem;
+    FileSystem = TheFileSystem();
     CreateImageBuffer();
-    mLoading = false;
-    mLoaded = true;
+    mStage = Stage::Loaded;
 }
 
 void frmNEBSlideShow::LoadDatabase() {
@@ -145,7 +150,7 @@ bool frmNEBSlideShow::UnloadForms() {
 }
 
 bool frmNEBSlideShow::Unload() {
-    if (!mLoaded) return true;
+    if (mStage != Stage::Loaded) return true;
     if (!UnloadForms()) return false;
     const PointerScope Working(Pointer::Hourglass);
     IgnoringFaults([] { DeleteMask(DBPath() + QStringLiteral("Temp/*.*")); });
@@ -155,7 +160,7 @@ bool frmNEBSlideShow::Unload() {
     mEngine.reset();
     ImageBuffer = nullptr;
     mImageBuffer.reset();
-    mLoaded = false;
+    mStage = Stage::Empty;
     return true;
 }
 
@@ -177,7 +182,7 @@ bool frmNEBSlideShow::WriteDatabase() {
 }
 
 void frmNEBSlideShow::closeEvent(QCloseEvent* Event) {
-    Event->setAccepted(!mLoading && Unload());
+    Event->setAccepted(mStage != Stage::Loading && Unload());
 }
 
 }  // namespace neb

@@ -6,7 +6,6 @@
 #include <memory>
 
 #include "program/CommandLine.h"
-#include "settings/clsFileSystem.h"
 
 namespace neb {
 
@@ -60,9 +59,8 @@ class frmNEBSlideShow : public QMainWindow {
     std::unique_ptr<MainMenu> mMenu;
     std::unique_ptr<clsDBEngine> mEngine;
     std::unique_ptr<clsImageBuffer> mImageBuffer;
-    clsFileSystem mFileSystem;
-    bool mLoading = false;  // the window cannot be closed meanwhile
-    bool mLoaded = false;
+    enum class Stage { Empty, Loading, Loaded };  // Loading: the window cannot be closed
+    Stage mStage = Stage::Empty;
 };
 
 }  // namespace neb

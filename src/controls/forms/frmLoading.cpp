@@ -18,7 +18,6 @@ void frmLoading::Form_Load() {
 
 void frmLoading::SupportsAbort(bool Supported) {
     Load();
-    mSupportsAbort = Supported;
     mUi->cmdStop->setEnabled(Supported);
     mUi->cmdStop->setToolTip(Supported ? tr("Stop and keep what has been read so far (Esc)")
                                        : tr("This cannot be stopped"));
@@ -63,7 +62,7 @@ bool frmLoading::Form_Unload() {
 }
 
 void frmLoading::AskAbort() {
-    if (!mSupportsAbort || !mParent) return;
+    if (!mUi->cmdStop->isEnabled() || !mParent) return;
     if (AskYesNo(QStringLiteral("Are you sure you want to Abort the current process?"),
                  QStringLiteral("Abort Confirmation")) &&
         mParent)

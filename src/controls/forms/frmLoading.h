@@ -53,7 +53,6 @@ class frmLoading : public Form {
     bool mActivated = false;
     ProgressParent* mParent = nullptr;
     ProgressParent* mAltParent = nullptr;
-    bool mSupportsAbort = false;
     QImage mPicture;
     PaintRate mPaintRate;
 };
