@@ -1,7 +1,7 @@
 // What nebctl check has found: each finding is a line on the output as soon as it is known.
 #pragma once
 
-#include "tools/ToolIO.h"
+#include "tools/words/ToolIO.h"
 
 namespace neb {
 

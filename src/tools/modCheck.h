@@ -3,7 +3,7 @@
 
 #include <QStringList>
 
-#include "tools/ToolIO.h"
+#include "tools/words/ToolIO.h"
 
 namespace neb {
 

@@ -5,7 +5,7 @@
 #include <QStringList>
 #include <span>
 
-#include "tools/ToolIO.h"
+#include "tools/words/ToolIO.h"
 
 namespace neb {
 

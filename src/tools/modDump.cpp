@@ -2,8 +2,8 @@
 
 #include "db/clsDBEngine.h"
 #include "db/records/modJournal.h"
-#include "tools/JsonWriter.h"
 #include "tools/modCommands.h"
+#include "tools/words/JsonWriter.h"
 
 namespace neb {
 namespace {

@@ -8,11 +8,11 @@
 #include "effects/Transition.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
-#include "tools/EffectPictures.h"
-#include "tools/EffectSheet.h"
-#include "tools/EffectTiming.h"
-#include "tools/JsonWriter.h"
-#include "tools/modWords.h"
+#include "tools/effects/EffectPictures.h"
+#include "tools/effects/EffectSheet.h"
+#include "tools/effects/EffectTiming.h"
+#include "tools/words/JsonWriter.h"
+#include "tools/words/modWords.h"
 
 namespace neb {
 namespace {

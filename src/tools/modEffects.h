@@ -4,7 +4,7 @@
 
 #include <QStringList>
 
-#include "tools/ToolIO.h"
+#include "tools/words/ToolIO.h"
 
 namespace neb {
 

@@ -9,7 +9,7 @@
 #include "support/modDEValidation.h"
 #include "tools/modCommands.h"
 #include "tools/modRehearseSheet.h"
-#include "tools/modWords.h"
+#include "tools/words/modWords.h"
 
 namespace neb {
 namespace {

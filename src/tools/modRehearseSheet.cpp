@@ -8,7 +8,7 @@
 
 #include "effects/EffectCatalogue.h"
 #include "support/modFUFL.h"
-#include "tools/JsonWriter.h"
+#include "tools/words/JsonWriter.h"
 
 namespace neb {
 namespace {

@@ -3,7 +3,7 @@
 
 #include "db/clsNEBSlideShow.h"
 #include "show/rehearsal/RehearsalFindings.h"
-#include "tools/ToolIO.h"
+#include "tools/words/ToolIO.h"
 
 namespace neb {
 

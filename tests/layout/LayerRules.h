@@ -44,7 +44,7 @@ QStringList DrawingFaults(const House& Rooms, const QString& Document);
 
 // Each room has a line "- `room` — `File.h`: ..." in the document, with a file that it holds.
 QStringList GuideFaults(const House& Rooms, const QString& Document, const QStringList& Sources);
-// Each window (a form with its controls in a .ui file) stands in the table of windows with its
+// Each window (a form, by its header) stands in the table of windows with its
 // class and its folder: "| Title | `frmClass` | `windows/x` | page |".
 QStringList WindowTableFaults(const QString& Document, const QStringList& Forms);
 // Words that a file below the windows, or a window, has to leave to others: boxes are shown by

@@ -12,8 +12,8 @@
 #include "effects/Transition.h"
 #include "harness/TempFolder.h"
 #include "support/files/modHostFiles.h"
-#include "tools/EffectPictures.h"
-#include "tools/EffectTiming.h"
+#include "tools/effects/EffectPictures.h"
+#include "tools/effects/EffectTiming.h"
 #include "tools/modCommands.h"
 
 namespace neb {

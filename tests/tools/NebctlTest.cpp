@@ -11,8 +11,8 @@
 #include "db/Fixtures.h"
 #include "db/modAlbumFiles.h"
 #include "support/Fault.h"
-#include "tools/JsonWriter.h"
 #include "tools/modCommands.h"
+#include "tools/words/JsonWriter.h"
 
 namespace neb {
 namespace {

@@ -182,7 +182,7 @@ void frmFindGraphics::SearchPathChosen() {
 }
 
 void frmFindGraphics::Search() {
-    mHunt.emplace();
+    mHunt = Hunt{};
     setWindowTitle(Caption);
     SearchPathChosen();
     if (!IsLoaded() || mUi->cboSearchPath->currentText() == Browse) {

@@ -1,4 +1,4 @@
-#include "tools/EffectPictures.h"
+#include "tools/effects/EffectPictures.h"
 
 #include <QBuffer>
 #include <QCoreApplication>

@@ -1,4 +1,4 @@
-#include "tools/EffectTiming.h"
+#include "tools/effects/EffectTiming.h"
 
 #include <QDate>
 #include <QPainter>
@@ -11,7 +11,7 @@
 #include "effects/EffectCatalogue.h"
 #include "effects/Transition.h"
 #include "support/files/modHostFiles.h"
-#include "tools/EffectPictures.h"
+#include "tools/effects/EffectPictures.h"
 
 namespace neb {
 namespace {

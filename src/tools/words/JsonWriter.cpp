@@ -1,4 +1,4 @@
-#include "tools/JsonWriter.h"
+#include "tools/words/JsonWriter.h"
 
 #include <cmath>
 

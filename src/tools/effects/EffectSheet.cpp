@@ -1,4 +1,4 @@
-#include "tools/EffectSheet.h"
+#include "tools/effects/EffectSheet.h"
 
 #include <QFont>
 #include <QFontMetrics>
@@ -6,7 +6,7 @@
 
 #include "effects/EffectCatalogue.h"
 #include "effects/Transition.h"
-#include "tools/EffectPictures.h"
+#include "tools/effects/EffectPictures.h"
 
 namespace neb {
 namespace {

@@ -1,4 +1,4 @@
-#include "tools/modWords.h"
+#include "tools/words/modWords.h"
 
 namespace neb {
 
