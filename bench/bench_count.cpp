@@ -14,6 +14,7 @@
 #include "albums/modPictureFiles.h"
 #include "controls/directories/DirectoryTree.h"
 #include "settings/modNEBSlideShow.h"
+#include "support/MediaTypes.h"
 #include "support/files/modHostFiles.h"
 #include "windows/import/frmDirSelect.h"
 
@@ -73,9 +74,8 @@ Timed RunFind(const QString& Dir, const QString& Test) {
 
 // One test of each ending, or one expression for all: whichever find does faster.
 Timed FastestFind(const QString& Dir) {
-    const QStringList Endings =
-        QStringLiteral("bmp emf jpeg jpg pcd pcx png psd tga tif tiff tla wbmp wmf").split(u' ');
-    QStringList Each;
+    QStringList Endings, Each;
+    for (const QString& Extension : PictureExtensions()) Endings << Extension.mid(1);
     for (const QString& Ending : Endings) Each << QStringLiteral("-iname '*.%1'").arg(Ending);
     const Timed ByName =
         RunFind(Dir, QStringLiteral("\\( %1 \\)").arg(Each.join(QStringLiteral(" -o "))));

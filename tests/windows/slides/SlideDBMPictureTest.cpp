@@ -5,6 +5,7 @@
 #include <QRandomGenerator>
 
 #include "SlideRig.h"
+#include "support/MediaTypes.h"
 
 namespace neb {
 namespace {
@@ -74,16 +75,7 @@ class SlideDBMPicture : public SlideRig {
 TEST_F(SlideDBMPicture, ADoubleClickChoosesAPictureOfTheListedKinds) {
     OpenAlbum();
     PickPicture(MakePicture(Pics / u"a.png"_s, 64, 48));
-    EXPECT_EQ(
-        "Windows Bitmap Images (*.bmp)|*.bmp|Windows Enhanced Meta Files (*.emf)|*.emf|"
-        "JPEG Images (*.jpg;*.jpeg)|*.jpg;*.jpeg|Kodak (tm) PhotoCD Images (*.pcd)|*.pcd|"
-        "ZSoft PaintBrush Images (*.pcx)|*.pcx|Portable Network Graphic Images (*.png)|*.png|"
-        "Photoshop Images (*.psd)|*.psd|Truevision Targa Images (*.tga)|*.tga|"
-        "Tagged Image Files (*.tif;*.tiff)|*.tif;*.tiff|TLA Images (*.tla)|*.tla|"
-        "Wireless Bitmap Images (*.wbmp)|*.wbmp|Windows Meta Files (*.wmf)|*.wmf|"
-        "All Graphics Files|*.bmp;*.emf;*.jpeg;*.jpg;*.pcd;*.pcx;*.png;*.psd;*.tga;*.tif;*.tiff;"
-        "*.tla;*.wbmp;*.wmf",
-        Dialogs.Filters.toStdString());
+    EXPECT_EQ(PictureFilters(), Dialogs.Filters);
     EXPECT_EQ(QSize(64, 48), Shown().size());
     EXPECT_FALSE(ShowsMessage());
     EXPECT_TRUE(Dirty());
