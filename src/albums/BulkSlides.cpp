@@ -56,7 +56,9 @@ SlideTally DeleteSlides(clsDBEngine& theDB, const QObject* Asker, std::int32_t A
     SlideTally Tally;
     Changes Door(theDB, Asker);
     for (const std::int32_t SlideID : SlideIDs) {
-        Tally.Count(bool(Door.DeleteSlide(AlbumID, SlideID)));
+        Answer<Announcement> Deleted = Door.DeleteSlide(AlbumID, SlideID);
+        Tally.Count(static_cast<bool>(Deleted));
+        if (Deleted) Deleted->Now();
         if (!GoesOn()) break;
     }
     if (clsNEBAlbum* Album = theDB.GetAlbum(AlbumID)) Album->SortSlides();

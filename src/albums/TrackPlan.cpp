@@ -91,6 +91,17 @@ class Planner {
     TrackPlan mPlan;
 };
 
+// Where there are no second names a copy serves. A full disk ends the save as ever.
+bool CanBeHeld(const QString& File, const QString& Copy, const Yield& LetRun) {
+    try {
+        HostReader Readable(File);
+    } catch (const Fault&) {
+        return false;
+    }
+    CopyFile(File, Copy, LetRun);
+    return true;
+}
+
 }  // namespace
 
 TrackPlan PlanTracks(const QString& Folder, std::int32_t SlideShowID,
@@ -128,15 +139,13 @@ void TrackCopies::MakeOne(const TrackPlan::Copy& What, const Yield& LetRun) {
     CopyFile(What.From, mSteps.back().Made, LetRun);
 }
 
-// Behind the last rename nothing can fail any more: the file that it replaces need not be held.
+// A file that is about to be replaced stays at hand under a second name. One that cannot be read is
+// often just what the user wants to replace: it is not worth the save.
 void TrackCopies::HoldReplaced(const Yield& LetRun) {
-    Step* Last = nullptr;
     for (Step& Each : mSteps) {
         if (Each.Made == Each.To) continue;
-        if (Step* Before = std::exchange(Last, &Each)) {
-            Before->Before = Before->To + QStringLiteral(".old");
-            CopyFile(Before->To, Before->Before, LetRun);
-        }
+        const QString Before = Each.To + QStringLiteral(".old");
+        if (LinkFile(Each.To, Before) || CanBeHeld(Each.To, Before, LetRun)) Each.Before = Before;
     }
 }
 

@@ -121,11 +121,13 @@ TrackPlan PlanFor(const ShowContent& Content, std::int32_t SlideShowID, const cl
 // From here on nothing waits: the show and its files change together.
 Answer<Announcement> Store(ShowContent& Content, TrackCopies& Files, Changes Door) {
     Files.PutInPlace();
-    for (size_t Row = 0; Row < Content.Tracks.size(); ++Row)
-        Content.Tracks[Row].SoundTrackLoc = Files.Plan().Names[Row];
-    Files.Keep();
-    Answer<Announcement> Saved = Door.SaveShow(Content.AlbumID, Record(Content));
+    ShowContent Placed = Content;
+    for (size_t Row = 0; Row < Placed.Tracks.size(); ++Row)
+        Placed.Tracks[Row].SoundTrackLoc = Files.Plan().Names[Row];
+    Answer<Announcement> Saved = Door.SaveShow(Placed.AlbumID, Record(Placed));
     if (!Saved) return Saved;
+    Files.Keep();
+    Content = std::move(Placed);
     Content.SlideShowID = Saved->What().SlideShowID;
     Files.DropUnused();
     return Saved;

@@ -24,7 +24,7 @@ Announcement::Announcement(Announcement&& Other) noexcept
 
 Announcement& Announcement::operator=(Announcement&& Other) noexcept {
     if (this == &Other) return *this;
-    Now();
+    TellQuietly();
     mListeners = std::exchange(Other.mListeners, nullptr);
     mAsker = Other.mAsker;
     mWhat = Other.mWhat;
@@ -32,7 +32,17 @@ Announcement& Announcement::operator=(Announcement&& Other) noexcept {
 }
 
 Announcement::~Announcement() {
-    Now();
+    TellQuietly();
+}
+
+// Often on the way of a fault already, and nothing that goes wrong here may end the program: a
+// window that was not told stays as it was until the next change.
+void Announcement::TellQuietly() noexcept {
+    try {
+        Now();
+    } catch (...) {
+        return;
+    }
 }
 
 void Announcement::Now() {

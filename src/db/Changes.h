@@ -28,6 +28,8 @@ class [[nodiscard]] Announcement {
     void Never() { mListeners = nullptr; }
 
   private:
+    void TellQuietly() noexcept;
+
     const ChangeListeners* mListeners;
     const QObject* mAsker;
     Change mWhat;

@@ -93,11 +93,9 @@ void ShowRun::SetCaption(const QString& Text) {
     mStage.ShowCaption(Text);
 }
 
-// A show that has gone on behind the box is not stopped for the slide that it left.
 bool ShowRun::Fail(const QString& Message) {
-    const std::uint32_t Run = mRunNumber;
     mStage.Tell(Message);
-    if (Run == mRunNumber) StopShow();
+    StopShow();
     return false;
 }
 

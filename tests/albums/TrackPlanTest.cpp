@@ -3,6 +3,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <QFile>
 #include <csignal>
 
 #include "ShowRig.h"
@@ -149,6 +150,20 @@ TEST_F(TrackFault, ASourceThatIsMissingLeavesTheShowAndItsFilesAsTheyWere) {
     }
     Save(Content);
     ExpectSaved();
+}
+
+// A sound that has gone bad is just what somebody replaces, be it one or several at once.
+TEST_F(TrackFault, StoredSoundsThatCannotBeReadAreReplacedAllTheSame) {
+    const QString Folder = SoundTracksFolder(Engine.DBPath(), AlbumID);
+    for (const QString& Name : {u"00000001_1.mp3"_s, u"00000001_2.wav"_s}) {
+        DeleteFile(Folder + Name);
+        ASSERT_TRUE(QFile::link(u"/nowhere/gone"_s, Folder + Name));
+    }
+    Content.Tracks[3].SoundTrackLoc.clear();
+    Save(Content);
+    EXPECT_EQ("new a.mp3", ReadFile(Folder + u"00000001_1.mp3"_s).toStdString());
+    EXPECT_EQ("new b.wav", ReadFile(Folder + u"00000001_2.wav"_s).toStdString());
+    EXPECT_EQ(std::string::npos, TrackFiles().find(".old"));
 }
 
 // Records that were on the disk at that moment name the files by which the show was played: they

@@ -112,6 +112,17 @@ TEST_F(ChangesTest, AnAnnouncementIsToldAlsoWhenAFaultPassesBy) {
     }
 }
 
+TEST_F(ChangesTest, AListenerThatFailsDoesNotEndWhatIsBeingToldAtTheEndOfItsLife) {
+    Engine.Listeners.Told = [](const Change&, const QObject*) { throw std::bad_alloc(); };
+    {
+        const auto Made = Changes(Engine).MakeAlbum(u"Yard"_s);
+        EXPECT_TRUE(Made);
+    }
+    auto Renamed = Changes(Engine).RenameAlbum(1, u"Garden"_s);
+    EXPECT_THROW(Renamed->Now(), std::bad_alloc) << "one that is told in time tells of it";
+    EXPECT_EQ(Engine.GetAlbum(1)->AlbumName, u"Garden");
+}
+
 TEST_F(ChangesTest, AnAnnouncementThatIsTakenBackIsNeverTold) {
     {
         auto Made = Changes(Engine).MakeAlbum(u"Yard"_s);

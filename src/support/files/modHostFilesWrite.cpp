@@ -174,6 +174,18 @@ void RenameFile(const QString& From, const QString& To) {
     NoteNameMade(Target);
 }
 
+bool LinkFile(const QString& From, const QString& To) {
+    Announce(HostStep::Link, To);
+    const QString Target = ResolvePath(To);
+    const std::filesystem::path Name(Target.toStdU16String());
+    std::error_code Problem;
+    std::filesystem::remove(Name, Problem);
+    std::filesystem::create_hard_link(ResolvePath(From).toStdU16String(), Name, Problem);
+    if (Problem) return false;
+    NoteNameMade(Target);
+    return true;
+}
+
 void SyncFile(const QString& Path) {
     Announce(HostStep::Sync, Path);
     QFile File(ResolvePath(Path));

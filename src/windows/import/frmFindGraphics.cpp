@@ -186,7 +186,7 @@ void frmFindGraphics::Search() {
     setWindowTitle(Caption);
     SearchPathChosen();
     if (!IsLoaded() || mUi->cboSearchPath->currentText() == Browse) {
-        mHunt.reset();
+        if (std::exchange(mHunt, std::nullopt)->DrivesMoved) FollowDrives();
         return;
     }
     const PointerScope Working(Pointer::Hourglass);

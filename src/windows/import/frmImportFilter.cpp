@@ -58,6 +58,7 @@ bool frmImportFilter::MakeTarget() {
     Changes Door(*DBEngine, this);
     if (auto Made = MakeAlbum(Door, mTarget.AlbumName); Tell(Made)) {
         mTarget.AlbumID = Made->What().AlbumID;
+        Made->Now();
         return true;
     }
     MsgBox(QStringLiteral("Failed to create album."));

@@ -110,6 +110,22 @@ TEST_F(FindGraphics, FollowsDrivesThatComeAndGoAndKeepsTheChoice) {
     EXPECT_EQ("a.jpg", Names());
 }
 
+TEST_F(FindGraphics, FollowsADriveThatComesWhileADirectoryIsChosenInVain) {
+    Make({"late/a.jpg"});
+    const QString Late = Pics / u"late"_s;
+    Show();
+    Browse({});
+    ASSERT_EQ("Browse", Path().currentText().toStdString());
+    WhenOpen<frmDirSelect>([&](frmDirSelect& Selector) {
+        Drives.Paths << Late;
+        Drives.TellChange();
+        Press(Selector, "cmdCancel");
+    });
+    Search();
+    EXPECT_LE(0, Path().findText(Late));
+    EXPECT_EQ("Browse", Path().currentText().toStdString());
+}
+
 TEST_F(FindGraphics, FollowsADriveThatComesDuringTheSearchWhenThatIsOver) {
     MakeMany(10);
     const QString Late = Pics / u"d000"_s;
