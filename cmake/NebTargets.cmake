@@ -53,11 +53,13 @@ function(neb_library)
 endfunction()
 
 # neb_test(NAME support DIR tests/support DEPENDS neb_support)
-# All sources of one folder of tests and of those below it (but not of BUT), or the FILES of it alone,
-# as one program; every test in it is a test of ctest. SHARDS: ctest runs them in so many parts instead, for where there are so many
-# short ones that starting the program for each would take most of the time.
+# All sources of one folder of tests and of those below it (but not of BUT), or the FILES of it
+# alone, as one program; every test in it is a test of ctest. SHARDS: ctest runs them in so many
+# parts instead, for where there are so many short ones that starting the program for each would take
+# most of the time. OTHER_MACHINE: it is compiled for another processor than the harness, whose
+# precompiled headers it cannot share.
 function(neb_test)
-  cmake_parse_arguments(T "" "NAME;DIR;SHARDS;BUT" "DEPENDS;FILES" ${ARGN})
+  cmake_parse_arguments(T "OTHER_MACHINE" "NAME;DIR;SHARDS;BUT" "DEPENDS;FILES" ${ARGN})
   set(dir ${PROJECT_SOURCE_DIR}/${T_DIR})
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${dir}/*.cpp ${dir}/*.h)
   if(T_BUT)
@@ -73,7 +75,11 @@ function(neb_test)
   set_target_properties(test_${T_NAME} PROPERTIES AUTOMOC ON)
   target_link_libraries(test_${T_NAME} PRIVATE ${T_DEPENDS} neb_harness)
   target_include_directories(test_${T_NAME} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
-  target_precompile_headers(test_${T_NAME} PRIVATE ${PROJECT_SOURCE_DIR}/cmake/pch_test.h)
+  if(T_OTHER_MACHINE)
+    target_precompile_headers(test_${T_NAME} PRIVATE ${PROJECT_SOURCE_DIR}/cmake/pch_test.h)
+  else()
+    target_precompile_headers(test_${T_NAME} REUSE_FROM neb_harness)
+  endif()
   if(T_SHARDS)
     math(EXPR last "${T_SHARDS} - 1")
     foreach(shard RANGE ${last})

@@ -65,9 +65,10 @@ bool IsHostPictureName(std::string_view Name) {
 
 }  // namespace
 
-std::optional<QString> WhyReservedForAlbums(const QString& Path, const QString& Root) {
-    if (!Path.startsWith(Root + QStringLiteral("Albums/"))) return std::nullopt;
-    return QStringLiteral("This directory is reserved for Albums.  You cannot import from it.");
+Answer<> CheckSource(const QString& Path, const QString& Root) {
+    if (!Path.startsWith(Root + QStringLiteral("Albums/"))) return Done();
+    return Refuse(
+        QStringLiteral("This directory is reserved for Albums.  You cannot import from it."));
 }
 
 QStringList ScanDirectory(const QString& Directory, bool Recurse, const KeepGoing& GoOn) {

@@ -5,17 +5,17 @@
 #include <QString>
 #include <QStringList>
 #include <cstdint>
-#include <optional>
 
+#include "support/Answer.h"
 #include "support/KeepGoing.h"
 #include "support/MediaTypes.h"
 #include "support/work/Job.h"
 
 namespace neb {
 
-// The folder of the albums below Root is no source of pictures: what to say of a path that begins
-// like it, to the letter. Root ends in a separator.
-std::optional<QString> WhyReservedForAlbums(const QString& Path, const QString& Root);
+// The folder of the albums below Root is no source of pictures: a path that begins like it, to the
+// letter, is refused. Root ends in a separator.
+Answer<> CheckSource(const QString& Path, const QString& Root);
 
 // The full paths of a directory's pictures in listing order, then, when Recurse, those of its
 // subdirectories, depth first. A directory that cannot be listed holds none; a symbolic link back

@@ -7,7 +7,7 @@
 #include <memory>
 
 #include "sound/devices/SoundDevices.h"
-#include "support/Services.h"
+#include "support/Answer.h"
 
 class QWidget;
 
@@ -54,9 +54,8 @@ class clsDirectSound {
     bool RecorderPlaybackComplete();
     // As a WAV file. Throws Fault when it cannot be written; the recording is kept.
     bool RecorderSaveToFile(const QString& Path);
-    // 1 to 100; kept, and applied to nothing. What there is to say of any other, which is not
-    // taken; else empty.
-    QString SetRecorderVolume(int Value);
+    // 1 to 100; kept, and applied to nothing. Any other is refused.
+    Answer<> SetRecorderVolume(int Value);
     // For a meter: seconds recorded so far or played so far, and the peak of the last moment, 0
     // to 1.
     double RecorderSeconds() const;

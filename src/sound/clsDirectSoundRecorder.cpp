@@ -156,10 +156,10 @@ bool clsDirectSound::Recorder::SaveToFile(const QString& Path) {
     return true;
 }
 
-QString clsDirectSound::Recorder::SetVolume(int Value) {
-    if (Value < 1 || Value > 100) return QStringLiteral("Volume must be >0 and <=100");
+Answer<> clsDirectSound::Recorder::SetVolume(int Value) {
+    if (Value < 1 || Value > 100) return neb::Refuse(QStringLiteral("Volume must be >0 and <=100"));
     mVolume = Value;
-    return {};
+    return Done();
 }
 
 std::int32_t clsDirectSound::Recorder::Position() const {
@@ -219,7 +219,7 @@ bool clsDirectSound::RecorderSaveToFile(const QString& Path) {
     return TheRecorder().SaveToFile(Path);
 }
 
-QString clsDirectSound::SetRecorderVolume(int Value) {
+Answer<> clsDirectSound::SetRecorderVolume(int Value) {
     return TheRecorder().SetVolume(Value);
 }
 

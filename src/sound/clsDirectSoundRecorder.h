@@ -21,7 +21,7 @@ class clsDirectSound::Recorder {
     void StopPlayback();
     bool PlaybackComplete() const;
     bool SaveToFile(const QString& Path);
-    QString SetVolume(int Value);
+    Answer<> SetVolume(int Value);
     double Seconds() const;
     double Level() const;
 

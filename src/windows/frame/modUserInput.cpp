@@ -1,6 +1,7 @@
 #include "windows/frame/modUserInput.h"
 
 #include "albums/modPictureFiles.h"
+#include "controls/forms/Tell.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Services.h"
 
@@ -16,9 +17,7 @@ bool ValidateUserInput(const QString& FieldName, const QString& Text) {
 }
 
 bool IsReservedForAlbums(const QString& Path, const QString& Root) {
-    const auto Why = WhyReservedForAlbums(Path, Root);
-    if (Why) MsgBox(*Why);
-    return Why.has_value();
+    return !Tell(CheckSource(Path, Root));
 }
 
 }  // namespace neb

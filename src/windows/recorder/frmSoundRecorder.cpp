@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "controls/fields/Icons.h"
+#include "controls/forms/Tell.h"
 #include "sound/clsDirectSound.h"
 #include "support/Services.h"
 #include "ui_frmSoundRecorder.h"
@@ -79,8 +80,7 @@ frmSoundRecorder::frmSoundRecorder()
 frmSoundRecorder::~frmSoundRecorder() = default;
 
 void frmSoundRecorder::SetVolume(int Value) {
-    const QString Refusal = mSound ? mSound->SetRecorderVolume(Value) : QString();
-    if (!Refusal.isEmpty()) MsgBox(Refusal);
+    if (mSound) Tell(mSound->SetRecorderVolume(Value));
 }
 
 void frmSoundRecorder::Form_Load() {

@@ -82,9 +82,9 @@ void frmPreferences::ConnectControls() {
             [this] { mUi->lstEffects->SetAllSelected(true); });
     connect(mUi->cmdSelectNone, &QPushButton::clicked, this,
             [this] { mUi->lstEffects->SetAllSelected(false); });
-    connect(mUi->cmdPreview, &QPushButton::clicked, this, &frmPreferences::cmdPreview_Click);
-    connect(mUi->lstEffects, &EffectList::NameDblClicked, this, &frmPreferences::cmdPreview_Click);
-    connect(mUi->cmdApply, &QPushButton::clicked, this, &frmPreferences::cmdApply_Click);
+    On(mUi->cmdPreview, &QPushButton::clicked, &frmPreferences::cmdPreview_Click);
+    On(mUi->lstEffects, &EffectList::NameDblClicked, &frmPreferences::cmdPreview_Click);
+    On(mUi->cmdApply, &QPushButton::clicked, &frmPreferences::cmdApply_Click);
     connect(mUi->cmdClose, &QPushButton::clicked, this, &frmPreferences::Unload);
 }
 
@@ -200,8 +200,11 @@ void frmPreferences::LoadSpeeds() {
     }
 }
 
+void frmPreferences::FinishEdits() {
+    mUi->flxEffectSettings->FinishEdit();
+}
+
 void frmPreferences::cmdPreview_Click() {
-    const auto Held = shared_from_this();
     XShow& View = *mUi->XShow1;
     const int Effect = mUi->lstEffects->Number(mUi->lstEffects->currentRow());
     mPreviewPicture = PreviewPictureAfter(mPreviewPicture);
@@ -212,9 +215,7 @@ void frmPreferences::cmdPreview_Click() {
     View.RunEffect();
 }
 
-// A text that is still being typed counts like any other.
 bool frmPreferences::CheckEffectSettings(int Effect) {
-    mUi->flxEffectSettings->FinishEdit();
     const int Level = mState.EffectLevels[static_cast<size_t>(Effect)];
     const SpeedEntry Entry = SpeedInGrid(Level);
     if (const auto Problem = CheckSpeed(Entry, Level)) {
@@ -263,8 +264,6 @@ void frmPreferences::Refuse(const EntryProblem& Problem) {
 }
 
 void frmPreferences::cmdApply_Click() {
-    const auto Held = shared_from_this();
-    mUi->flxEffectSettings->FinishEdit();
     const PreferencesEntries Entries = ReadControls();
     if (const auto Problem = CheckEntries(Entries)) return Refuse(*Problem);
     TakeEntries(mState, Entries);

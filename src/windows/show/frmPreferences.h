@@ -32,6 +32,7 @@ class frmPreferences : public Form {
     void LoadPreferences();
 
   protected:
+    void FinishEdits() override;
     void Form_Load() override;
     bool Form_Unload() override;
 

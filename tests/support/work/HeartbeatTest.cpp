@@ -96,12 +96,12 @@ TEST(Heartbeat, AThreadThatYieldsLivesHoweverBusyTheMachineIs) {
             const std::chrono::duration<double, std::milli> Gap = Now - std::exchange(Last, Now);
             ByTheClock = std::max(ByTheClock, Gap.count());
         });
-        for (const auto End = Clock::now() + 30s; Clock::now() < End && ByTheClock < 120;)
+        for (const auto End = Clock::now() + 30s; Clock::now() < End && ByTheClock < 45;)
             Loop.processEvents(QEventLoop::WaitForMoreEvents);
         Longest = Heart.LongestStandstill();
     }).join();
-    EXPECT_GT(ByTheClock, 120) << "it did not have to wait";
-    EXPECT_LT(Longest, 100);
+    EXPECT_GE(ByTheClock, 45) << "it did not have to wait";
+    EXPECT_LT(Longest, ByTheClock - 15) << "what it waited for a processor is no standstill";
 }
 
 }  // namespace
