@@ -31,6 +31,10 @@ QString AppPath();      // the program's directory
 QString INIFileName();  // "QLM.ini"
 QString SettingsDir();  // the folder of the settings file
 QString DBPath();       // the database directory: the key "DBPath", else SettingsDir
+// The database that a user means by a directory: the directory itself where it is one; where it is
+// a documents folder, the database that the program keeps below it, its own key "DBPath" included;
+// else the directory itself. With closing separator.
+QString DatabaseIn(const QString& Dir);
 clsSettings OpenSettings();
 // One line of date and time, level and text at the end of "QLM.log"; every error is ignored.
 void LogMessage(const QString& Level, const QString& Message);

@@ -1,0 +1,43 @@
+// Another database than the program's own, opened for as long as a transfer needs it: found, locked
+// against other programs, read. Used by the transfer windows and nebctl.
+#pragma once
+
+#include "db/clsDBEngine.h"
+#include "support/files/modHostFiles.h"
+
+namespace neb {
+
+class OtherDatabase {
+  public:
+    enum class Use {
+        Source,      // is read alone: nothing in it is changed, not even an unfinished write
+        Destination  // must be writable; one that is not there begins as an empty one
+    };
+    // Dir is a database directory, with closing separator (DatabaseIn of settings finds it). The
+    // reading runs beside the caller, whose window goes on painting. Refused when it is in use,
+    // when it is to be written and read-only, when its counters are missing or too low. Throws
+    // Fault.
+    static Answer<std::shared_ptr<OtherDatabase>> Open(const QString& Dir, Use For);
+
+    clsDBEngine& Engine() { return mEngine; }
+    const QString& DBPath() const { return mEngine.DBPath(); }
+    Use For() const { return mFor; }
+    // Forgets what was changed in memory and reads again. Throws Fault.
+    void Reread();
+
+  private:
+    OtherDatabase(const QString& Dir, Use For);
+
+    const Use mFor;
+    InstanceLock mLock;
+    clsDBEngine mEngine;
+};
+
+// Whether there is a database in the directory: its counters, or a whole journal of them.
+bool HoldsDatabase(const QString& Dir);
+// A counter that is not above all that is there would give new pictures the places of old ones.
+bool CountersAreSound(const clsDBEngine& theDB);
+// Whether two directories are one: the host's own comparison (case, links, closing separators).
+bool IsSameDatabase(const QString& One, const QString& Other);
+
+}  // namespace neb

@@ -1,0 +1,27 @@
+// How far a transfer is, as numbers and as a line for people.
+#pragma once
+
+#include <QString>
+
+namespace neb {
+
+struct TransferProgress {
+    enum class Stage {
+        Looking,  // at what is to be copied: nothing is known yet
+        Copying,
+        Writing  // the records; cannot be stopped any more
+    };
+    Stage At = Stage::Looking;
+    int Pictures = 0;    // whole ones; thumbnails do not count
+    int OfPictures = 0;  // sounds count as pictures here where there are no pictures
+    qint64 Bytes = 0;
+    qint64 OfBytes = 0;
+};
+
+// "picture 120 of 2,000, 1.2 GB of 9 GB, about 3 minutes", Seconds after the first byte. Without
+// the time as long as it cannot be told.
+QString ProgressText(const TransferProgress& Now, double Seconds);
+// "1.2 GB", "640 MB", "12 KB", as powers of 1000.
+QString SizeText(qint64 Bytes);
+
+}  // namespace neb

@@ -1,0 +1,36 @@
+// The list of check sums that goes along with a folder of files, in the form that "sha256sum -c"
+// reads: written once over all that lies there, compared at any later time. Used by the window that
+// writes a folder for a disc, by the check of such a folder, and nebctl.
+#pragma once
+
+#include <QString>
+#include <functional>
+#include <optional>
+#include <vector>
+
+namespace neb {
+
+inline constexpr char SumsName[] = "Sums.sha256";
+
+struct SumsProgress {
+    int Files = 0, OfFiles = 0;
+    qint64 Bytes = 0, OfBytes = 0;
+};
+// Called many times a second on the caller's thread; false stops the work.
+using SumsGoOn = std::function<bool(const SumsProgress& Now)>;
+
+// Writes the list over every file in Dir and below it, the list itself and the lock of an open
+// database left out, in the order of their paths. False when it was stopped: there is no list then.
+// Throws Fault.
+bool WriteSums(const QString& Dir, const SumsGoOn& GoOn = {});
+
+struct SumsFinding {
+    enum class Kind { Missing, Unreadable, Changed };
+    Kind Is;
+    QString Path;  // as the list has it: relative, with "/"
+};
+// Compares every file of the list. Nothing when it was stopped. Throws Fault when there is no list
+// or a line of it cannot be understood.
+std::optional<std::vector<SumsFinding>> CheckSums(const QString& Dir, const SumsGoOn& GoOn = {});
+
+}  // namespace neb
