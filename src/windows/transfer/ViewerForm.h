@@ -28,6 +28,9 @@ class ViewerForm : public Form, public ChangeReceiver {
   public:
     ~ViewerForm() override;
 
+    std::int32_t AlbumID() const { return mSubject.AlbumID; }
+    // Fills the list anew from a database that nobody else tells of: the one it was shown from.
+    void Refill(clsDBEngine& objDB);
     void ReceiveEvent(const QString& ObjectType, const QString& EventType,
                       const EventKeys& EventData) override;
 
