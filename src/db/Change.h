@@ -14,6 +14,7 @@ struct Change {
     enum class Kind {
         AlbumMade,  // with all that was imported into it
         AlbumRenamed,
+        AlbumReplaced,  // its name and contents as a whole, by a transfer
         AlbumDeleted,
         SlideSaved,      // one slide: made, or any part of it changed
         SlidesImported,  // many slides of an album at once

@@ -125,6 +125,26 @@ Answer<Announcement> Changes::SaveShow(std::int32_t AlbumID, clsNEBSlideShow Sho
     return Noted({Kind, AlbumID, 0, Stored.SlideShowID});
 }
 
+// The album's object stays, as that of a show does; what it holds is new.
+std::vector<Announcement> Changes::PutAlbum(AlbumToPut What, std::int32_t SlideShowID) {
+    const std::int32_t AlbumID = What.Album.AlbumID;
+    clsNEBAlbum* Album = mDB.GetAlbum(AlbumID);
+    const auto Kind = Album ? Change::Kind::AlbumReplaced : Change::Kind::AlbumMade;
+    const bool HadShow = Album && Album->GetSlideShow(SlideShowID);
+    if (!Album) Album = mDB.Albums.emplace_back(std::make_unique<clsNEBAlbum>()).get();
+    *Album = std::move(What.Album);
+    mDB.NextAlbumID = What.Next.AlbumID;
+    mDB.NextSlideID = What.Next.SlideID;
+    mDB.NextSlideShowID = What.Next.SlideShowID;
+    mDB.SortAlbums();
+    std::vector<Announcement> Put;
+    Put.push_back(Noted({Kind, AlbumID}));
+    if (SlideShowID != 0)
+        Put.push_back(Noted({HadShow ? Change::Kind::ShowReplaced : Change::Kind::ShowMade, AlbumID,
+                             0, SlideShowID}));
+    return Put;
+}
+
 Answer<Announcement> Changes::DeleteShow(std::int32_t AlbumID, std::int32_t SlideShowID) {
     clsNEBAlbum* Album = mDB.GetAlbum(AlbumID);
     if (!Album) return Missing(NoAlbum);

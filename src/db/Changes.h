@@ -4,14 +4,12 @@
 #pragma once
 
 #include "db/Change.h"
-#include "db/clsNEBSlide.h"
-#include "db/clsNEBSlideShow.h"
+#include "db/clsNEBAlbum.h"
 #include "support/Answer.h"
 
 namespace neb {
 
 class clsDBEngine;
-class clsNEBAlbum;
 
 // A change that is done and noted, and not yet told to the other windows: the user may be told
 // first. It is told by Now, at the latest at the end of its life, also when a fault passes by.
@@ -33,6 +31,20 @@ class [[nodiscard]] Announcement {
     const ChangeListeners* mListeners;
     const QObject* mAsker;
     Change mWhat;
+};
+
+// The next free number of each kind.
+struct IDCounters {
+    std::int32_t AlbumID = 1;
+    std::int32_t SlideID = 1;
+    std::int32_t SlideShowID = 1;
+    bool operator==(const IDCounters&) const = default;
+};
+
+// An album as a transfer leaves it, and the counters behind it.
+struct AlbumToPut {
+    clsNEBAlbum Album;
+    IDCounters Next;
 };
 
 // The answers refuse with the engine's own texts. Routines that delete files throw nothing: what
@@ -63,6 +75,11 @@ class Changes {
     Answer<Announcement> SaveShow(std::int32_t AlbumID, clsNEBSlideShow Show);
     // The record goes, then the show's sounds.
     Answer<Announcement> DeleteShow(std::int32_t AlbumID, std::int32_t SlideShowID);
+
+    // Puts an album with all that it holds in the place of the one of its number, or behind the
+    // others, in one go. SlideShowID: a show of it that has come in or was replaced, and of which
+    // the second announcement tells; 0 for none.
+    std::vector<Announcement> PutAlbum(AlbumToPut What, std::int32_t SlideShowID);
 
     // One announcement for many changes of an album (SlidesImported, CaptionsSaved): those made
     // through this object from here on are noted one by one and told by this one alone.

@@ -63,7 +63,7 @@ void clsDBEngine::FinalizeDB() {
     WriteDatabase(mDBPath, BuildImage(*this));
 }
 
-Answer<> clsDBEngine::SaveAlbum(std::int32_t& AlbumID, const QString& AlbumName) {
+Answer<> clsDBEngine::CheckAlbumName(std::int32_t AlbumID, const QString& AlbumName) const {
     for (const auto& Other : Albums)
         if (Other->AlbumID != AlbumID && Other->AlbumName == AlbumName)
             return Refuse(QStringLiteral("An Album with this name already exists."));
@@ -71,6 +71,11 @@ Answer<> clsDBEngine::SaveAlbum(std::int32_t& AlbumID, const QString& AlbumName)
         return Refuse(QStringLiteral("You must specify an Album name."));
     if (AlbumName.size() > MaxAlbumName)
         return Refuse(QStringLiteral("Album names must be <= 80 characters long."));
+    return Done();
+}
+
+Answer<> clsDBEngine::SaveAlbum(std::int32_t& AlbumID, const QString& AlbumName) {
+    if (const Answer<> Is = CheckAlbumName(AlbumID, AlbumName); !Is) return Is;
     clsNEBAlbum* Album = AlbumID != 0 ? GetAlbum(AlbumID) : nullptr;
     if (!Album) {
         Album = Albums.emplace_back(std::make_unique<clsNEBAlbum>()).get();

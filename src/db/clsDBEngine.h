@@ -44,6 +44,8 @@ class clsDBEngine {
 
     // Creates an album (ID 0 or unknown; AlbumID is the new one afterwards) or renames one.
     Answer<> SaveAlbum(std::int32_t& AlbumID, const QString& AlbumName);
+    // Whether the album of this ID (0: a new one) may bear this name.
+    Answer<> CheckAlbumName(std::int32_t AlbumID, const QString& AlbumName) const;
     void LoadAlbumsCombo(ComboList& cboAlbums, bool WithAddOption) const;
     // With an ID gives the name; with ID 0 gives the ID of the first album of that name, case
     // ignored. False, and nothing changed, when there is none.

@@ -1,5 +1,6 @@
 #include "db/modClearRecords.h"
 
+#include <set>
 #include <unordered_set>
 
 #include "db/clsDBEngine.h"
@@ -31,11 +32,14 @@ Answer<> DeleteOrphans(clsNEBAlbum& Album, const std::vector<std::int32_t>& Orph
     return Done();
 }
 
-// The sounds of the show in the database; one outside it is not ours to delete.
-QStringList OwnSounds(const clsNEBSlideShow& Show) {
+// The sounds of the show in the database; one outside it is not ours to delete, and one that
+// another show of the album plays as well is still wanted.
+QStringList OwnSounds(const clsNEBAlbum& Album, const clsNEBSlideShow& Show) {
     QStringList Sounds;
     for (const auto& Track : Show.SoundTracks)
         if (!HoldsSeparator(Track->SoundTrackLoc)) Sounds.append(Track->SoundTrackLoc);
+    const std::set<QString> Wanted = SoundsOfOthers(Album, Show.SlideShowID);
+    Sounds.removeIf([&](const QString& Sound) { return Wanted.contains(Sound.toUpper()); });
     return Sounds;
 }
 
@@ -52,31 +56,53 @@ Answer<> Told(const QString& Title, const QString& Sentence,
 
 }  // namespace
 
+std::set<QString> SoundsOfOthers(const clsNEBAlbum& theAlbum, std::int32_t SlideShowID) {
+    std::set<QString> Names;
+    for (const auto& Show : theAlbum.SlideShows)
+        if (Show->SlideShowID != SlideShowID)
+            for (const auto& Track : Show->SoundTracks)
+                Names.insert(Track->SoundTrackLoc.toUpper());
+    return Names;
+}
+
+Clearing ClearingOf(const clsDBEngine& theDB, const clsNEBAlbum& theAlbum) {
+    Clearing All;
+    for (const auto& Slide : theAlbum.Slides) All.Slides.push_back(Slide->SlideID);
+    All.Masks = {SoundTracksFolder(theDB.DBPath(), theAlbum.AlbumID) + QStringLiteral("*.*"),
+                 SlidesFolder(theDB.DBPath(), theAlbum.AlbumID) + QStringLiteral("*.*")};
+    return All;
+}
+
+Clearing ClearingOf(const clsDBEngine& theDB, const clsNEBAlbum& theAlbum,
+                    const clsNEBSlideShow& theSlideShow) {
+    Clearing Own{OrphansOf(theAlbum, theSlideShow), {}};
+    const QString Sounds = SoundTracksFolder(theDB.DBPath(), theAlbum.AlbumID);
+    const QString Slides = SlidesFolder(theDB.DBPath(), theAlbum.AlbumID);
+    for (const QString& Sound : OwnSounds(theAlbum, theSlideShow)) Own.Masks << Sounds + Sound;
+    for (const std::int32_t SlideID : Own.Slides)
+        Own.Masks << Slides + FileStem(SlideID) + QStringLiteral("*.*");
+    return Own;
+}
+
 Answer<> ClearAlbumContents(const clsDBEngine& theDB, clsNEBAlbum& theAlbum) {
-    return Told(
-        QStringLiteral("Clear Album Failed"), QStringLiteral("Failed to clear the album."), [&] {
-            theAlbum.ClearContents();
-            DeleteMask(SoundTracksFolder(theDB.DBPath(), theAlbum.AlbumID) + QStringLiteral("*.*"));
-            DeleteMask(SlidesFolder(theDB.DBPath(), theAlbum.AlbumID) + QStringLiteral("*.*"));
-            return Answer<>(Done());
-        });
+    return Told(QStringLiteral("Clear Album Failed"), QStringLiteral("Failed to clear the album."),
+                [&] {
+                    const Clearing All = ClearingOf(theDB, theAlbum);
+                    theAlbum.ClearContents();
+                    for (const QString& Mask : All.Masks) DeleteMask(Mask);
+                    return Answer<>(Done());
+                });
 }
 
 Answer<> ClearSlideShowContents(const clsDBEngine& theDB, clsNEBAlbum& theAlbum,
                                 clsNEBSlideShow& theSlideShow) {
     return Told(QStringLiteral("Clear Slide Show Failed"),
                 QStringLiteral("Failed to clear the slide show."), [&] {
-                    const QStringList Sounds = OwnSounds(theSlideShow);
-                    const std::vector<std::int32_t> Orphans = OrphansOf(theAlbum, theSlideShow);
+                    const Clearing Own = ClearingOf(theDB, theAlbum, theSlideShow);
                     theSlideShow.ClearContents();
-                    Answer<> Emptied = DeleteOrphans(theAlbum, Orphans, theDB);
+                    Answer<> Emptied = DeleteOrphans(theAlbum, Own.Slides, theDB);
                     if (!Emptied) return Emptied;
-                    const QString SoundFolder = SoundTracksFolder(theDB.DBPath(), theAlbum.AlbumID);
-                    for (const QString& Sound : Sounds)
-                        if (FileExists(SoundFolder + Sound)) DeleteFile(SoundFolder + Sound);
-                    const QString Folder = SlidesFolder(theDB.DBPath(), theAlbum.AlbumID);
-                    for (const std::int32_t SlideID : Orphans)
-                        DeleteMask(Folder + FileStem(SlideID) + QStringLiteral("*.*"));
+                    for (const QString& Mask : Own.Masks) DeleteMask(Mask);
                     return Emptied;
                 });
 }

@@ -145,12 +145,17 @@ void LoadAlbumTree(clsDBEngine& Engine, const RecordSource& Source) {
     Loader.Load<SlideShowSoundTrackRecord>();
 }
 
-RecordImage BuildImage(const clsDBEngine& Engine) {
+RecordImage BuildImage(const clsDBEngine& Engine, const AlbumToPut* With) {
     RecordImage Image;
     PutLiveRows(Image, Engine.Properties);
     PutLiveRows(Image, Engine.EffectStats);
-    Put(Image, NextIDsRecord{Engine.NextAlbumID, Engine.NextSlideID, Engine.NextSlideShowID});
-    for (const auto& Album : Engine.Albums) PutAlbum(Image, *Album);
+    const IDCounters Next =
+        With ? With->Next
+             : IDCounters{Engine.NextAlbumID, Engine.NextSlideID, Engine.NextSlideShowID};
+    Put(Image, NextIDsRecord{Next.AlbumID, Next.SlideID, Next.SlideShowID});
+    for (const auto& Album : Engine.Albums)
+        PutAlbum(Image, With && With->Album.AlbumID == Album->AlbumID ? With->Album : *Album);
+    if (With && !Engine.GetAlbum(With->Album.AlbumID)) PutAlbum(Image, With->Album);
     for (PackedRecords& File : Image.Files) File.Finish();
     return Image;
 }

@@ -1,7 +1,8 @@
 // From record files to the objects of an engine, and back into the image that is written to the
-// disk. Only the engine calls it.
+// disk. The engine calls it, and a transfer, which writes a journal before its records change.
 #pragma once
 
+#include "db/Changes.h"
 #include "db/clsDBEngine.h"
 #include "db/records/modJournal.h"
 
@@ -11,7 +12,8 @@ namespace neb {
 // dropped.
 void LoadAlbumTree(clsDBEngine& Engine, const RecordSource& Source);
 
-// All eight files as they are to be written, in the order of the collections.
-RecordImage BuildImage(const clsDBEngine& Engine);
+// All eight files as they are to be written, in the order of the collections. With: as they will be
+// once this album stands there, at the end when it is a new one.
+RecordImage BuildImage(const clsDBEngine& Engine, const AlbumToPut* With = nullptr);
 
 }  // namespace neb

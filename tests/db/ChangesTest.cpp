@@ -232,5 +232,49 @@ TEST_F(ChangesTest, ADatabaseThatNobodyFollowsChangesAllTheSame) {
     EXPECT_TRUE(Told.empty());
 }
 
+// A transfer's whole album comes in through the door as well.
+AlbumToPut AlbumOf(std::int32_t AlbumID, const QString& Name) {
+    AlbumToPut What{{}, {AlbumID + 1, 50, 60}};
+    What.Album.AlbumID = AlbumID;
+    What.Album.AlbumName = Name;
+    What.Album.Slides.push_back(std::make_unique<clsNEBSlide>());
+    What.Album.Slides.back()->SlideID = 49;
+    What.Album.SlideShows.push_back(std::make_unique<clsNEBSlideShow>());
+    What.Album.SlideShows.back()->SlideShowID = 59;
+    return What;
+}
+
+TEST_F(ChangesTest, AnAlbumThatIsPutComesWithItsCountersAndIsToldOnce) {
+    auto Put = Changes(Engine).PutAlbum(AlbumOf(1, u"Sea"_s), 0);
+    ASSERT_EQ(1U, Put.size());
+    EXPECT_EQ((Change{Kind::AlbumMade, 1}), Put[0].What());
+    EXPECT_EQ((std::vector<Change>{{Kind::AlbumMade, 1}}), Noted);
+    EXPECT_TRUE(Told.empty());
+    EXPECT_EQ(u"Sea", Engine.AlbumIndex.at(0).Name);
+    EXPECT_EQ(2, Engine.NextAlbumID);
+    EXPECT_EQ(50, Engine.NextSlideID);
+    EXPECT_EQ(60, Engine.NextSlideShowID);
+    Put.clear();
+    EXPECT_EQ((std::vector<Change>{{Kind::AlbumMade, 1}}), Told);
+}
+
+TEST_F(ChangesTest, AnAlbumThatIsPutOverAnotherKeepsTheObjectAndTellsOfItsShow) {
+    const std::int32_t AlbumID = MakeAlbum();
+    MakeSlide(AlbumID, u"old"_s);
+    const clsNEBAlbum* Object = Engine.GetAlbum(AlbumID);
+    Forget();
+    { const auto Put = Changes(Engine).PutAlbum(AlbumOf(AlbumID, u"Sea"_s), 59); }
+    EXPECT_EQ(Object, Engine.GetAlbum(AlbumID));
+    EXPECT_EQ(49, Object->Slides.at(0)->SlideID);
+    EXPECT_EQ(
+        (std::vector<Change>{{Kind::AlbumReplaced, AlbumID}, {Kind::ShowMade, AlbumID, 0, 59}}),
+        Told);
+    Forget();
+    { const auto Put = Changes(Engine).PutAlbum(AlbumOf(AlbumID, u"Sea"_s), 59); }
+    EXPECT_EQ(
+        (std::vector<Change>{{Kind::AlbumReplaced, AlbumID}, {Kind::ShowReplaced, AlbumID, 0, 59}}),
+        Told);
+}
+
 }  // namespace
 }  // namespace neb

@@ -303,6 +303,15 @@ TEST_F(ObjectsTest, ClearingAnEmptyShowTouchesNoFile) {
     SetHostWatcher({});
 }
 
+TEST_F(ObjectsTest, ASoundThatAnotherShowPlaysAsWellIsNotDeleted) {
+    clsNEBSlideShow* Show = NewShow(u"s"_s, {});
+    Show->SaveSoundTrack(1, u"00000001_1.mp3"_s, 1, 2, false, false, false);
+    NewShow(u"t"_s, {})->SaveSoundTrack(1, u"00000001_1.MP3"_s, 1, 2, false, false, false);
+    WriteFile(SoundFile("00000001_1.mp3"), "x");
+    EXPECT_TRUE(Engine->ClearSlideShowData(*Album, *Show));
+    EXPECT_TRUE(FileExists(SoundFile("00000001_1.mp3")));
+}
+
 TEST_F(ObjectsTest, ASoundOutsideTheAlbumIsNotDeleted) {
     clsNEBSlideShow* Show = NewShow(u"s"_s, {});
     WriteFile(Dir / "Albums/1/mine.mp3", "x");

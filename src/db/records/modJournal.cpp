@@ -2,6 +2,7 @@
 
 #include <QCryptographicHash>
 #include <QtEndian>
+#include <functional>
 #include <span>
 
 #include "support/Fault.h"
@@ -59,7 +60,8 @@ QByteArray JournalHead(const RecordImage& Image) {
     return Head;
 }
 
-void WriteUnfinishedJournal(const QString& Path, const RecordImage& Image) {
+// The check sum of what was written.
+QByteArray WriteUnfinishedJournal(const QString& Path, const RecordImage& Image) {
     HostWriter Writer(Path);
     QCryptographicHash Sum(Method);
     const auto Put = [&](const QByteArray& Bytes) {
@@ -71,9 +73,12 @@ void WriteUnfinishedJournal(const QString& Path, const RecordImage& Image) {
     Writer.Write(Sum.result().constData(), SumLength);
     Writer.Sync();
     Writer.Close();
+    return Sum.result();
 }
 
-void WriteJournal(const QString& DBPath, const RecordImage& Image) {
+// BeforeItIsWhole gets its check sum.
+void WriteJournal(const QString& DBPath, const RecordImage& Image,
+                  const std::function<void(const QByteArray& Sum)>& BeforeItIsWhole = {}) {
     const QString Folder = JournalFolder(DBPath);
     if (!FolderExists(Folder)) {
         MakeDirs(Folder);
@@ -81,7 +86,8 @@ void WriteJournal(const QString& DBPath, const RecordImage& Image) {
         SyncDir(DBPath);
     }
     try {
-        WriteUnfinishedJournal(UnfinishedPath(DBPath), Image);
+        const QByteArray Sum = WriteUnfinishedJournal(UnfinishedPath(DBPath), Image);
+        if (BeforeItIsWhole) BeforeItIsWhole(Sum);
         RenameFile(UnfinishedPath(DBPath), JournalPath(DBPath));
     } catch (const Fault&) {
         DeleteIfPossible(UnfinishedPath(DBPath));
@@ -127,6 +133,13 @@ bool IsSound(const QByteArray& Journal) {
     return Sum.result() == QByteArrayView(Journal).last(SumLength);
 }
 
+// Of a whole journal; empty when there is none.
+QByteArray WholeSum(const QString& DBPath) {
+    if (!FileExists(JournalPath(DBPath))) return {};
+    const QByteArray Journal = ReadFile(JournalPath(DBPath));
+    return IsSound(Journal) ? Journal.last(SumLength) : QByteArray();
+}
+
 bool Unfold(const QByteArray& Journal, RecordImage& Image) {
     qsizetype Place = HeadLength;
     const qsizetype End = Journal.size() - SumLength;
@@ -166,8 +179,18 @@ JournalState ReadJournal(const QString& DBPath, RecordImage* Image) {
 void WriteDatabase(const QString& DBPath, const RecordImage& Image) {
     if (!FolderExists(DBPath))
         throw Fault(QStringLiteral("The database directory is not there."), DBPath);
+    SettleCommitted(DBPath);  // before the journal that it goes with is replaced
     WriteJournal(DBPath, Image);
     CarryOut(DBPath, Image);
+}
+
+void CommitDatabase(const QString& DBPath, const RecordImage& Image, const StagedChange& Files) {
+    WriteJournal(DBPath, Image,
+                 [&](const QByteArray& Sum) { NoteStagedChange(DBPath, Files, Sum); });
+}
+
+void SettleCommitted(const QString& DBPath) {
+    if (HasStagedFiles(DBPath)) SettleStagedFiles(DBPath, WholeSum(DBPath));
 }
 
 bool MayWriteDatabase(const QString& DBPath) {
@@ -182,6 +205,7 @@ bool CountersAreMissing(const QString& DBPath) {
 }
 
 void RecoverDatabase(const QString& DBPath) {
+    SettleCommitted(DBPath);
     RecordImage Image;
     const JournalState State = ReadJournal(DBPath, &Image);
     if (State == JournalState::None) return;

@@ -8,6 +8,7 @@
 
 #include "db/records/PackedRecords.h"
 #include "db/records/RecordSource.h"
+#include "db/records/StagedFiles.h"
 
 namespace neb {
 
@@ -34,6 +35,13 @@ JournalState ReadJournal(const QString& DBPath, RecordImage* Image = nullptr);
 // stays and the next start finishes the work.
 void WriteDatabase(const QString& DBPath, const RecordImage& Image);
 
+// Brings records and staged, flushed files (StagedFiles.h) into the database in one step: a whole
+// journal of the one with a note of the other. From here on the next opening has both, whatever
+// happens; SettleCommitted, or WriteDatabase, puts the files in their places at once. The record
+// files stay as they are. Throws Fault: then nothing has changed but what is staged.
+void CommitDatabase(const QString& DBPath, const RecordImage& Image, const StagedChange& Files);
+void SettleCommitted(const QString& DBPath);
+
 // False when the directory or its NextIDs.dat is read-only: then nothing is ever written.
 bool MayWriteDatabase(const QString& DBPath);
 
@@ -41,7 +49,8 @@ bool MayWriteDatabase(const QString& DBPath);
 // database: its albums would be overwritten.
 bool CountersAreMissing(const QString& DBPath);
 
-// Carries out a whole journal and removes a torn one.
+// Carries out a whole journal, with the files that were staged for it, and removes a torn one and
+// what was staged without a journal.
 void RecoverDatabase(const QString& DBPath);
 
 }  // namespace neb

@@ -11,6 +11,7 @@
 #include "support/Fault.h"
 #include "support/files/NameCache.h"
 #include "support/files/modHostFiles.h"
+#include "support/files/modHostFilesSteps.h"
 
 #ifdef _WIN32
 #include <io.h>
@@ -30,11 +31,6 @@ HostWatcher& Watcher() {
     return Instance;
 }
 
-void Announce(HostStep Step, const QString& Path) {
-    qint64 Length = 0;
-    if (Watcher()) Watcher()(Step, Path, Length);
-}
-
 [[noreturn]] void Fail(const QString& Sentence, const QString& Path, const QString& Reason) {
     throw Fault(Sentence + QStringLiteral(" (") + Reason + QStringLiteral(")"), Path);
 }
@@ -45,12 +41,9 @@ void Announce(HostStep Step, const QString& Path) {
 
 // Writes in one go; a watcher that shortens the write makes it a full disk.
 void WriteAll(QFile& File, const char* Data, qint64 Length, const QString& Path) {
-    qint64 Allowed = Length;
-    if (Watcher()) Watcher()(HostStep::Write, Path, Allowed);
+    const qint64 Allowed = AllowedToWrite(Path, Length);
     if (File.write(Data, Allowed) != Allowed || !File.flush()) FailWrite(File, Path);
-    if (Allowed < Length)
-        Fail(QStringLiteral("The file cannot be written."), Path,
-             QStringLiteral("no space left on device"));
+    if (Allowed < Length) FailNoSpace(Path);
 }
 
 bool SyncHandle(int Handle) {
@@ -108,7 +101,7 @@ void Drop(const fs::path& Path) {
     const QString Host = QFile::decodeName(Path.string().c_str());
     std::error_code Ignored;
     try {
-        Announce(HostStep::Delete, Host);
+        AnnounceStep(HostStep::Delete, Host);
     } catch (const Fault&) {
         return;
     }
@@ -119,6 +112,21 @@ void Drop(const fs::path& Path) {
 
 void SetHostWatcher(HostWatcher NewWatcher) {
     Watcher() = std::move(NewWatcher);
+}
+
+void AnnounceStep(HostStep Step, const QString& Path) {
+    qint64 Length = 0;
+    if (Watcher()) Watcher()(Step, Path, Length);
+}
+
+qint64 AllowedToWrite(const QString& Path, qint64 Length) {
+    if (Watcher()) Watcher()(HostStep::Write, Path, Length);
+    return Length;
+}
+
+void FailNoSpace(const QString& Path) {
+    Fail(QStringLiteral("The file cannot be written."), Path,
+         QStringLiteral("no space left on device"));
 }
 
 void WriteFile(const QString& Path, const QByteArray& Bytes) {
@@ -144,7 +152,7 @@ void AppendFile(const QString& Path, const QByteArray& Bytes) {
 void DeleteFile(const QString& Path) {
     const QString Host = ResolvePath(Path);
     if (!QFileInfo::exists(Host) && !QFileInfo(Host).isSymLink()) return;
-    Announce(HostStep::Delete, Path);
+    AnnounceStep(HostStep::Delete, Path);
     QFile File(Host);
     if (!File.remove())
         Fail(QStringLiteral("The file cannot be deleted."), Path, File.errorString());
@@ -165,7 +173,7 @@ void DeleteMask(const QString& Mask) {
 }
 
 void RenameFile(const QString& From, const QString& To) {
-    Announce(HostStep::Rename, To);
+    AnnounceStep(HostStep::Rename, To);
     const QString Source = ResolvePath(From);
     const QString Target = ResolvePath(To);
     if (std::rename(QFile::encodeName(Source).constData(), QFile::encodeName(Target).constData()))
@@ -175,7 +183,7 @@ void RenameFile(const QString& From, const QString& To) {
 }
 
 bool LinkFile(const QString& From, const QString& To) {
-    Announce(HostStep::Link, To);
+    AnnounceStep(HostStep::Link, To);
     const QString Target = ResolvePath(To);
     const std::filesystem::path Name(Target.toStdU16String());
     std::error_code Problem;
@@ -187,14 +195,14 @@ bool LinkFile(const QString& From, const QString& To) {
 }
 
 void SyncFile(const QString& Path) {
-    Announce(HostStep::Sync, Path);
+    AnnounceStep(HostStep::Sync, Path);
     QFile File(ResolvePath(Path));
     if (!File.open(QIODevice::ReadWrite | QIODevice::ExistingOnly) || !SyncHandle(File.handle()))
         FailWrite(File, Path);
 }
 
 void SyncDir(const QString& Dir) {
-    Announce(HostStep::SyncDir, Dir);
+    AnnounceStep(HostStep::SyncDir, Dir);
 #ifndef _WIN32
     const int Handle = ::open(QFile::encodeName(ResolvePath(Dir)).constData(), O_RDONLY);
     if (Handle < 0) return;  // some file systems do not let a directory be opened
@@ -206,7 +214,7 @@ void SyncDir(const QString& Dir) {
 void MakeDirs(const QString& Dir) {
     const QString Host = ResolvePath(Dir);
     if (QFileInfo(Host).isDir()) return;
-    Announce(HostStep::MakeDir, Dir);
+    AnnounceStep(HostStep::MakeDir, Dir);
     if (!QDir().mkpath(Host)) throw Fault(QStringLiteral("The directory cannot be made."), Dir);
 }
 
@@ -257,7 +265,7 @@ void HostWriter::Write(const char* Data, qint64 Length) {
 
 void HostWriter::Sync() {
     mState->Flush();
-    Announce(HostStep::Sync, mState->Path);
+    AnnounceStep(HostStep::Sync, mState->Path);
     if (!SyncHandle(mState->File.handle())) FailWrite(mState->File, mState->Path);
 }
 

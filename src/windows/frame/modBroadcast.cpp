@@ -30,6 +30,7 @@ EventKeys OfShow(const Change& What) {
 const EventRow EventRows[] = {
     {Change::Kind::AlbumMade, "Album", "Insert", OfAlbum},
     {Change::Kind::AlbumRenamed, "Album", "Update", OfAlbum},
+    {Change::Kind::AlbumReplaced, "Album", "Update", OfAlbum},
     {Change::Kind::AlbumDeleted, "Album", "Delete", OfAlbum},
     {Change::Kind::SlideSaved, "Album", "Add Slides", OfSlide},
     {Change::Kind::SlidesImported, "Album", "Add Slides", OfSlide},

@@ -1,0 +1,139 @@
+#include "albums/transfer/FileStage.h"
+
+#include <atomic>
+
+#include "db/records/StagedFiles.h"
+#include "support/files/modHostFiles.h"
+#include "support/files/modHostFilesCopy.h"
+#include "support/modFUFL.h"
+#include "support/work/Job.h"
+
+namespace neb {
+namespace {
+
+constexpr int PollMs = 20;
+// Copies wait in memory for the disk; so much of it and no more, that the progress is true and a
+// slow stick can be stopped.
+constexpr qint64 BytesUnflushed = qint64{128} << 20;
+
+// Waits for the work, asking all the while; false when it was stopped. It has ended in any case.
+template <class Result, class Tell>
+bool WaitFor(Job<Result>& Work, const Tell& GoOn) {
+    bool GoesOn = true;
+    try {
+        while (!Work.Wait(PollMs)) {
+            GoesOn = GoOn() && GoesOn;
+            if (!GoesOn) Work.Cancel();
+        }
+        return GoesOn && GoOn();
+    } catch (...) {
+        Work.Cancel();
+        while (!Work.Wait(PollMs)) continue;
+        throw;
+    }
+}
+
+FilesLookedFor Look(const std::vector<FileToCopy>& Files, const QStringList& OldMasks,
+                    const JobState& State) {
+    FilesLookedFor Looked;
+    for (size_t Which = 0; Which < Files.size() && !State.Stop; ++Which) {
+        const FileToCopy& File = Files[Which];
+        if (CanReadFile(File.From))
+            Looked.Found.push_back({ResolvePath(File.From), File.To, FileSize(File.From),
+                                    File.Is == FileToCopy::Kind::Picture});
+        else if (File.Is != FileToCopy::Kind::Thumbnail)
+            Looked.Missing.push_back(Which);
+    }
+    for (const QString& Mask : OldMasks) {
+        if (State.Stop) break;
+        for (const QString& Name : ListMask(Mask)) Looked.Old << GetFilePath(Mask) + Name;
+    }
+    return Looked;
+}
+
+// What the copying thread tells.
+struct Copied {
+    std::atomic<int> Pictures = 0;
+    std::atomic<qint64> Bytes = 0;
+};
+
+class Copier {
+  public:
+    Copier(std::vector<FoundFile> Files, QString Staging, std::shared_ptr<Copied> SoFar)
+        : mFiles(std::move(Files)), mStaging(std::move(Staging)), mSoFar(std::move(SoFar)) {}
+
+    void Run(const JobState& State) {
+        for (size_t Which = 0; Which < mFiles.size() && !State.Stop; ++Which) {
+            CopyBytes(mFiles[Which].From, mStaging + QString::number(Which), [&](qint64 Piece) {
+                Count(Piece);
+                return !State.Stop;
+            });
+            mSoFar->Pictures += mFiles[Which].IsPicture;
+        }
+        if (!State.Stop) SyncVolume(mStaging);
+    }
+
+  private:
+    void Count(qint64 Piece) {
+        mSoFar->Bytes += Piece;
+        mUnflushed += Piece;
+        if (mUnflushed < BytesUnflushed) return;
+        SyncVolume(mStaging);
+        mUnflushed = 0;
+    }
+
+    const std::vector<FoundFile> mFiles;
+    const QString mStaging;
+    const std::shared_ptr<Copied> mSoFar;
+    qint64 mUnflushed = 0;
+};
+
+TransferProgress AllOf(const std::vector<FoundFile>& Files) {
+    TransferProgress All{.At = TransferProgress::Stage::Copying};
+    for (const FoundFile& Each : Files) {
+        All.OfPictures += Each.IsPicture;
+        All.OfBytes += Each.Bytes;
+    }
+    return All;
+}
+
+}  // namespace
+
+std::optional<FilesLookedFor> LookForFiles(const std::vector<FileToCopy>& Files,
+                                           const QStringList& OldMasks, const TransferGoOn& GoOn) {
+    Job<FilesLookedFor> Work(
+        [Files, OldMasks](JobState& State) { return Look(Files, OldMasks, State); });
+    if (!WaitFor(Work, [&] { return GoOn({}); })) return std::nullopt;
+    return Work.Take();
+}
+
+FileStage::FileStage(const QString& DBPath, const std::vector<FoundFile>& Files)
+    : mDBPath(DBPath), mFiles(Files) {
+    for (const char* Folder : {"Temp/Journal/", "Temp/"})
+        if (!FolderExists(DBPath + QLatin1String(Folder)))
+            mMadeFolders.push_back(DBPath + QLatin1String(Folder));
+}
+
+FileStage::~FileStage() {
+    if (mKept) return;
+    DropStagedFiles(mDBPath);
+    for (const QString& Folder : mMadeFolders) DeleteFolder(Folder);
+}
+
+bool FileStage::Copy(const TransferGoOn& GoOn) {
+    DropStagedFiles(mDBPath);
+    MakeDirs(StagingFolder(mDBPath));
+    const auto SoFar = std::make_shared<Copied>();
+    Job<> Work([Mine = std::make_shared<Copier>(mFiles, ResolvePath(StagingFolder(mDBPath)),
+                                                SoFar)](JobState& State) { Mine->Run(State); });
+    TransferProgress Now = AllOf(mFiles);
+    const bool Whole = WaitFor(Work, [&] {
+        Now.Pictures = SoFar->Pictures;
+        Now.Bytes = SoFar->Bytes;
+        return GoOn(Now);
+    });
+    if (Whole) Work.Take();
+    return Whole;
+}
+
+}  // namespace neb

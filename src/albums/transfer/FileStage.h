@@ -1,0 +1,52 @@
+// The files of a transfer: looked for in the source, copied below the destination's Temp at full
+// speed on a thread of their own, and gone again unless they are kept. For TransferRun alone.
+#pragma once
+
+#include <functional>
+#include <optional>
+
+#include "albums/transfer/TransferPlan.h"
+#include "albums/transfer/TransferProgress.h"
+
+namespace neb {
+
+// Asked many times a second on the caller's thread; false stops.
+using TransferGoOn = std::function<bool(const TransferProgress& Now)>;
+
+struct FoundFile {
+    QString From;  // as the host has it
+    QString To;    // relative to the destination
+    qint64 Bytes;
+    bool IsPicture;
+};
+
+struct FilesLookedFor {
+    std::vector<FoundFile> Found;
+    std::vector<size_t> Missing;  // of the files that were asked for; thumbnails are never missed
+    QStringList Old;              // what the masks match, full paths
+};
+// Nothing when it was stopped.
+std::optional<FilesLookedFor> LookForFiles(const std::vector<FileToCopy>& Files,
+                                           const QStringList& OldMasks, const TransferGoOn& GoOn);
+
+class FileStage {
+  public:
+    FileStage(const QString& DBPath, const std::vector<FoundFile>& Files);
+    ~FileStage();  // unless kept, all that was made below Temp goes
+    FileStage(const FileStage&) = delete;
+    FileStage& operator=(const FileStage&) = delete;
+
+    // Copies all files, flushed; false when it was stopped. Throws Fault.
+    bool Copy(const TransferGoOn& GoOn);
+    // Of one of the files, in the staging folder.
+    QString NameOf(size_t Which) const { return QString::number(Which); }
+    void Keep() { mKept = true; }
+
+  private:
+    const QString mDBPath;
+    const std::vector<FoundFile>& mFiles;
+    std::vector<QString> mMadeFolders;  // from the innermost
+    bool mKept = false;
+};
+
+}  // namespace neb

@@ -1,0 +1,52 @@
+#include "albums/transfer/TransferProgress.h"
+
+#include <QLocale>
+#include <cmath>
+
+namespace neb {
+namespace {
+
+constexpr double LeastSeconds = 2;  // before that nothing can be said about the rest
+
+QString Count(qint64 Number) {
+    return QLocale(QLocale::English).toString(Number);
+}
+
+QString TimeText(double Seconds) {
+    if (Seconds < 50) {
+        const int Rounded = std::max(5, static_cast<int>(std::ceil(Seconds / 5)) * 5);
+        return QStringLiteral("about %1 seconds").arg(Rounded);
+    }
+    const int Minutes = std::max(1, static_cast<int>(std::lround(Seconds / 60)));
+    if (Minutes == 1) return QStringLiteral("about a minute");
+    if (Minutes < 90) return QStringLiteral("about %1 minutes").arg(Minutes);
+    return QStringLiteral("about %1 hours").arg(std::lround(Seconds / 3600));
+}
+
+}  // namespace
+
+QString SizeText(qint64 Bytes) {
+    const double Size = static_cast<double>(Bytes);
+    if (Size < 1e3) return QStringLiteral("%1 bytes").arg(Bytes);
+    if (Size < 1e6) return QStringLiteral("%1 KB").arg(std::lround(Size / 1e3));
+    if (Size < 1e9) return QStringLiteral("%1 MB").arg(std::lround(Size / 1e6));
+    const double Tenths = std::round(Size / 1e8);
+    const QString Text = QString::number(Tenths / 10, 'f', std::fmod(Tenths, 10) == 0 ? 0 : 1);
+    return Text + QStringLiteral(" GB");
+}
+
+QString ProgressText(const TransferProgress& Now, double Seconds) {
+    if (Now.At == TransferProgress::Stage::Looking)
+        return QStringLiteral("Looking at what is to be copied");
+    if (Now.At == TransferProgress::Stage::Writing) return QStringLiteral("Writing the records");
+    QStringList Parts;
+    if (Now.OfPictures > 0)
+        Parts << QStringLiteral("picture %1 of %2").arg(Count(Now.Pictures), Count(Now.OfPictures));
+    Parts << QStringLiteral("%1 of %2").arg(SizeText(Now.Bytes), SizeText(Now.OfBytes));
+    if (Now.Bytes > 0 && Seconds >= LeastSeconds)
+        Parts << TimeText(Seconds * static_cast<double>(Now.OfBytes - Now.Bytes) /
+                          static_cast<double>(Now.Bytes));
+    return Parts.join(QStringLiteral(", "));
+}
+
+}  // namespace neb

@@ -1,0 +1,191 @@
+#include "albums/transfer/TransferRun.h"
+
+#include "albums/transfer/FileStage.h"
+#include "db/clsDBEngine.h"
+#include "db/modAlbumFiles.h"
+#include "db/modLoadRecords.h"
+#include "support/Fault.h"
+#include "support/files/modHostFiles.h"
+#include "support/files/modHostFilesCopy.h"
+#include "support/work/WorkAside.h"
+
+namespace neb {
+namespace {
+
+constexpr qint64 RoomForRecords = 4 << 20;  // bytes: the journal, for a start
+
+std::unique_ptr<clsNEBSlideShow> CopyOf(const clsNEBSlideShow& Show) {
+    auto Copy = std::make_unique<clsNEBSlideShow>();
+    Copy->SlideShowID = Show.SlideShowID;
+    Copy->SlideShowName = Show.SlideShowName;
+    Copy->ProgressionMethod = Show.ProgressionMethod;
+    for (const auto& Each : Show.Details)
+        Copy->Details.push_back(std::make_unique<clsNEBSlideShowDetail>(*Each));
+    for (const auto& Each : Show.SoundTracks)
+        Copy->SoundTracks.push_back(std::make_unique<clsNEBSlideShowSoundTrack>(*Each));
+    return Copy;
+}
+
+class TransferRun {
+  public:
+    TransferRun(TransferPlan Plan, clsDBEngine& DstDB, const TransferDesk& Desk,
+                const QObject* Asker)
+        : mPlan(std::move(Plan)), mDB(DstDB), mDesk(Desk), mAsker(Asker) {}
+
+    TransferResult Run() {
+        if (!Look()) return Stopped();
+        if (const Answer<> Fits = CheckRoom(); !Fits) return Refused(Fits.Refusal());
+        FileStage Stage(mDB.DBPath(), mFiles);
+        if (!Stage.Copy([this](const TransferProgress& Now) { return Report(Now); }))
+            return Stopped();
+        if (!IsAsPlanned())
+            return Refused(Refuse(
+                QStringLiteral("The destination was changed meanwhile. Nothing was transferred.")));
+        Report(WritingNow());
+        AlbumToPut After = AlbumAfter();
+        Commit(After, Stage);
+        TransferResult Result = Put(std::move(After));
+        Settle();
+        return Result;
+    }
+
+  private:
+    static TransferResult Stopped() { return {.Is = TransferResult::End::Stopped}; }
+    static TransferResult Refused(const BoxRequest& Box) { return {.Boxes = {Box}}; }
+
+    bool Report(const TransferProgress& Now) const {
+        return !mDesk.Progress || mDesk.Progress(Now);
+    }
+
+    // False when it was stopped, also because something is missing.
+    bool Look() {
+        auto Looked = LookForFiles(mPlan.Files, mPlan.Gone.Masks,
+                                   [this](const TransferProgress& Now) { return Report(Now); });
+        if (!Looked) return false;
+        QStringList Missing;
+        for (const size_t Which : Looked->Missing) Missing << mPlan.Files[Which].From;
+        if (!Missing.isEmpty() && !(mDesk.GoOnWithout && mDesk.GoOnWithout(Missing))) return false;
+        mFiles = std::move(Looked->Found);
+        for (const size_t Which : Looked->Missing) GoWithout(mPlan.Files[Which]);
+        mOldFiles = std::move(Looked->Old);
+        return true;
+    }
+
+    // A thumbnail without its picture would be nobody's.
+    void GoWithout(const FileToCopy& Missing) {
+        mPlan.GoWithout(Missing);
+        if (Missing.Is != FileToCopy::Kind::Picture) return;
+        const QString Thumbnail =
+            SlidesFolder({}, mPlan.AlbumID) + ThumbnailName(mPlan.Slides[Missing.Of].SlideID);
+        std::erase_if(mFiles, [&](const FoundFile& Each) { return Each.To == Thumbnail; });
+    }
+
+    Answer<> CheckRoom() const {
+        qint64 Needed = RoomForRecords;
+        for (const FoundFile& Each : mFiles) Needed += Each.Bytes;
+        const qint64 Free = FreeSpace(mDB.DBPath());
+        if (Free < 0 || Free >= Needed) return Done();
+        return Refuse(QStringLiteral("There is not enough room: %1 are needed, %2 are free in\n%3")
+                          .arg(SizeText(Needed), SizeText(Free), mDB.DBPath()),
+                      QStringLiteral("Operation Unsuccessful"));
+    }
+
+    // While files were copied others may have been at work, and the numbers no longer free.
+    bool IsAsPlanned() const {
+        const IDCounters Now{mDB.NextAlbumID, mDB.NextSlideID, mDB.NextSlideShowID};
+        if (Now != mPlan.Base) return false;
+        const clsNEBAlbum* Album = mDB.GetAlbum(mPlan.AlbumID);
+        if (mPlan.IsNewAlbum) return !Album && !mDB.FindAlbum(0, mPlan.AlbumName);
+        return Album && (mPlan.ReplacedShowID == 0 || Album->GetSlideShow(mPlan.ReplacedShowID));
+    }
+
+    AlbumToPut AlbumAfter() {
+        AlbumToPut After{{}, mPlan.Next};
+        After.Album.AlbumID = mPlan.AlbumID;
+        After.Album.AlbumName = mPlan.AlbumName;
+        const clsNEBAlbum* Before = mDB.GetAlbum(mPlan.AlbumID);
+        if (Before && !mPlan.ClearsAlbum) KeepWhatStays(*Before, After.Album);
+        for (const clsNEBSlide& Slide : mPlan.Slides)
+            After.Album.Slides.push_back(std::make_unique<clsNEBSlide>(Slide));
+        for (const clsNEBSlideShow& Show : mPlan.Shows)
+            if (Show.SlideShowID != mPlan.ReplacedShowID)
+                After.Album.SlideShows.push_back(CopyOf(Show));
+        return After;
+    }
+
+    // A replaced show keeps its place among the others.
+    void KeepWhatStays(const clsNEBAlbum& Before, clsNEBAlbum& After) const {
+        const std::set<std::int32_t> Gone(mPlan.Gone.Slides.begin(), mPlan.Gone.Slides.end());
+        for (const auto& Slide : Before.Slides)
+            if (!Gone.contains(Slide->SlideID))
+                After.Slides.push_back(std::make_unique<clsNEBSlide>(*Slide));
+        for (const auto& Show : Before.SlideShows)
+            After.SlideShows.push_back(
+                CopyOf(Show->SlideShowID == mPlan.ReplacedShowID ? mPlan.Shows.front() : *Show));
+    }
+
+    StagedChange Staged(const FileStage& Stage) const {
+        StagedChange Change{
+            {SoundTracksFolder({}, mPlan.AlbumID), SlidesFolder({}, mPlan.AlbumID)}, {}, {}};
+        std::set<QString> Replaced;
+        for (size_t Which = 0; Which < mFiles.size(); ++Which) {
+            Change.Moves.push_back({Stage.NameOf(Which), mFiles[Which].To});
+            Replaced.insert(mFiles[Which].To.toUpper());
+        }
+        for (const QString& Old : mOldFiles) {
+            const QString Place = Old.mid(mDB.DBPath().size());
+            if (!Replaced.contains(Place.toUpper())) Change.Drops << Place;
+        }
+        return Change;
+    }
+
+    // From its end on the transfer stands, whatever happens.
+    void Commit(const AlbumToPut& After, FileStage& Stage) {
+        FinishAside([this, &After, Change = Staged(Stage)] {
+            CommitDatabase(mDB.DBPath(), BuildImage(mDB, &After), Change);
+        }).get();
+        Stage.Keep();
+    }
+
+    TransferResult Put(AlbumToPut After) {
+        TransferResult Result{.Is = TransferResult::End::Done,
+                              .DstAlbumID = mPlan.AlbumID,
+                              .Slides = static_cast<int>(mPlan.Slides.size()),
+                              .Shows = static_cast<int>(mPlan.Shows.size())};
+        Result.Changes = Changes(mDB, mAsker).PutAlbum(std::move(After), OneShow());
+        Result.DstSlideShowID = OneShow();
+        return Result;
+    }
+    std::int32_t OneShow() const { return mPlan.IsOfShow ? mPlan.Shows.front().SlideShowID : 0; }
+
+    void Settle() const {
+        try {
+            FinishAside([Path = mDB.DBPath()] { SettleCommitted(Path); }).get();
+        } catch (const Fault& Problem) {
+            throw Fault(
+                QStringLiteral("The transfer is done, but not all of its files are in their "
+                               "places yet; the next opening of the database will put them "
+                               "there. %1")
+                    .arg(Problem.What()),
+                Problem.File(), TransferUnfinished);
+        }
+    }
+
+    static TransferProgress WritingNow() { return {.At = TransferProgress::Stage::Writing}; }
+
+    TransferPlan mPlan;
+    clsDBEngine& mDB;
+    const TransferDesk& mDesk;
+    const QObject* mAsker;
+    std::vector<FoundFile> mFiles;
+    QStringList mOldFiles;  // full paths
+};
+
+}  // namespace
+
+TransferResult CarryOut(TransferPlan Plan, clsDBEngine& DstDB, const TransferDesk& Desk,
+                        const QObject* Asker) {
+    return TransferRun(std::move(Plan), DstDB, Desk, Asker).Run();
+}
+
+}  // namespace neb

@@ -1,0 +1,148 @@
+#include "db/records/StagedFiles.h"
+
+#include <QDataStream>
+#include <QIODevice>
+#include <optional>
+#include <set>
+
+#include "support/Fault.h"
+#include "support/files/modHostFiles.h"
+#include "support/modFUFL.h"
+
+namespace neb {
+namespace {
+
+constexpr char Magic[] = "NEBSTAGE1";
+
+struct Note {
+    QByteArray JournalSum;
+    StagedChange Change;
+};
+
+QString NotePath(const QString& DBPath) {
+    return StagingFolder(DBPath) + QStringLiteral("Note");
+}
+
+QDataStream& operator<<(QDataStream& Out, const StagedChange::Move& Row) {
+    return Out << Row.Staged << Row.To;
+}
+
+QDataStream& operator>>(QDataStream& In, StagedChange::Move& Row) {
+    return In >> Row.Staged >> Row.To;
+}
+
+QByteArray BytesOf(const Note& Noted) {
+    QByteArray Bytes;
+    QDataStream Out(&Bytes, QIODevice::WriteOnly);
+    Out.setVersion(QDataStream::Qt_6_0);
+    Out << QByteArray(Magic) << Noted.JournalSum << Noted.Change.Folders << Noted.Change.Drops;
+    Out << static_cast<quint32>(Noted.Change.Moves.size());
+    for (const StagedChange::Move& Row : Noted.Change.Moves) Out << Row;
+    return Bytes;
+}
+
+std::optional<Note> NoteIn(const QByteArray& Bytes) {
+    QDataStream In(Bytes);
+    In.setVersion(QDataStream::Qt_6_0);
+    QByteArray Head;
+    Note Noted;
+    quint32 Count = 0;
+    In >> Head >> Noted.JournalSum >> Noted.Change.Folders >> Noted.Change.Drops >> Count;
+    if (Head != QByteArray(Magic)) return std::nullopt;
+    for (quint32 I = 0; I < Count && In.status() == QDataStream::Ok; ++I)
+        In >> Noted.Change.Moves.emplace_back();
+    if (In.status() != QDataStream::Ok) return std::nullopt;
+    return Noted;
+}
+
+// A note comes into being whole, under another name first.
+std::optional<Note> ReadNote(const QString& DBPath) {
+    if (!FileExists(NotePath(DBPath))) return std::nullopt;
+    return NoteIn(ReadFile(NotePath(DBPath)));
+}
+
+// What a note says that somebody else has written must not reach beyond the database.
+bool IsInside(const QString& Place) {
+    return !Place.isEmpty() && !Place.startsWith(u'/') &&
+           !(u'/' + Place + u'/').contains(QStringLiteral("/../")) && !Place.contains(u'\\');
+}
+
+void DropIfPossible(const QString& Path) {
+    try {
+        DeleteFile(Path);
+    } catch (const Fault&) {
+        return;  // no record names it
+    }
+}
+
+class Settling {
+  public:
+    Settling(const QString& DBPath, const StagedChange& Change)
+        : mDBPath(DBPath), mStaging(StagingFolder(DBPath)), mChange(Change) {}
+
+    void Run() {
+        for (const QString& Folder : mChange.Folders)
+            if (IsInside(Folder)) MakeFolder(mDBPath + Folder);
+        for (const StagedChange::Move& Row : mChange.Moves) PutInPlace(Row);
+        for (const QString& Place : mChange.Drops)
+            if (IsInside(Place)) Drop(mDBPath + Place);
+        for (const QString& Folder : mTouched) SyncDir(Folder);
+        SyncDir(mStaging);
+    }
+
+  private:
+    void MakeFolder(const QString& Folder) {
+        MakeDirs(Folder);
+        mTouched.insert(Folder);
+        mTouched.insert(GetParentDir(Folder));
+    }
+    // One that is not staged any more is in its place already: an earlier try was cut short.
+    void PutInPlace(const StagedChange::Move& Row) {
+        if (!IsInside(Row.To) || !FileExists(mStaging + Row.Staged)) return;
+        RenameFile(mStaging + Row.Staged, mDBPath + Row.To);
+        mTouched.insert(GetFilePath(mDBPath + Row.To));
+    }
+    void Drop(const QString& Path) {
+        DropIfPossible(Path);
+        mTouched.insert(GetFilePath(Path));
+    }
+
+    const QString mDBPath, mStaging;
+    const StagedChange& mChange;
+    std::set<QString> mTouched;
+};
+
+}  // namespace
+
+QString StagingFolder(const QString& DBPath) {
+    return DBPath + QStringLiteral("Temp/Transfer/");
+}
+
+void NoteStagedChange(const QString& DBPath, const StagedChange& Change,
+                      const QByteArray& JournalSum) {
+    MakeDirs(StagingFolder(DBPath));
+    ReplaceFile(NotePath(DBPath), BytesOf({JournalSum, Change}));
+    SyncDir(StagingFolder(DBPath));
+    SyncDir(DBPath + QStringLiteral("Temp/"));
+    SyncDir(DBPath);
+}
+
+bool HasStagedFiles(const QString& DBPath) {
+    return FolderExists(StagingFolder(DBPath));
+}
+
+void SettleStagedFiles(const QString& DBPath, const QByteArray& JournalSum) {
+    if (!HasStagedFiles(DBPath)) return;
+    const std::optional<Note> Noted = ReadNote(DBPath);
+    if (Noted && !JournalSum.isEmpty() && Noted->JournalSum == JournalSum)
+        Settling(DBPath, Noted->Change).Run();
+    DropStagedFiles(DBPath);
+}
+
+// The note first: without it nothing that is left here can be taken for a change.
+void DropStagedFiles(const QString& DBPath) {
+    DropIfPossible(NotePath(DBPath));
+    DeleteTree(StagingFolder(DBPath));
+}
+
+}  // namespace neb

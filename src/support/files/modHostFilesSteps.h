@@ -1,0 +1,13 @@
+// What the routines that change the disk tell a test's watcher; for modHostFiles alone.
+#pragma once
+
+#include "support/files/modHostFiles.h"
+
+namespace neb {
+
+void AnnounceStep(HostStep Step, const QString& Path);
+// How many of these bytes a write may write: all, unless a watcher stands in for a full disk.
+qint64 AllowedToWrite(const QString& Path, qint64 Length);
+[[noreturn]] void FailNoSpace(const QString& Path);
+
+}  // namespace neb

@@ -1,0 +1,140 @@
+// Files that come into a database with its records: both are there afterwards, or neither is.
+#include <gtest/gtest.h>
+
+#include "Fixtures.h"
+#include "db/modLoadRecords.h"
+#include "support/Fault.h"
+
+namespace neb {
+namespace {
+
+using namespace harness;
+
+class StagedFiles : public ::testing::Test {
+  protected:
+    StagedFiles() {
+        FillDatabase(*Engine, u"old"_s);
+        Engine->FinalizeDB();
+        Put("Albums/1/Slides/gone.jpg", "old");
+        Put("Albums/1/SoundTracks/song.mp3", "old song");
+        FillDatabase(*Engine, u"new"_s);
+    }
+    ~StagedFiles() override { SetHostWatcher({}); }
+
+    void Put(const char* Place, const QByteArray& Bytes) {
+        MakeDirs(Dir.Path() + QString::fromLatin1(Place).section(u'/', 0, -2));
+        WriteFile(Dir.Path() + QLatin1String(Place), Bytes);
+    }
+    // One new file, one in the place of another, one that goes, one folder.
+    StagedChange Stage() {
+        MakeDirs(StagingFolder(Dir.Path()));
+        WriteFile(StagingFolder(Dir.Path()) + u"0"_s, "picture");
+        WriteFile(StagingFolder(Dir.Path()) + u"1"_s, "new song");
+        return {
+            {u"Albums/9/Slides/"_s},
+            {{u"0"_s, u"Albums/9/Slides/new.jpg"_s}, {u"1"_s, u"Albums/1/SoundTracks/song.mp3"_s}},
+            {u"Albums/1/Slides/gone.jpg"_s}};
+    }
+    void Commit() { CommitDatabase(Dir.Path(), BuildImage(*Engine), Stage()); }
+    std::string Text(const char* Place) const {
+        const QString Path = Dir.Path() + QLatin1String(Place);
+        return FileExists(Path) ? ReadFile(Path).toStdString() : "none";
+    }
+    // "old", "new" or "mixed".
+    std::string Files() const {
+        const auto All = Text("Albums/9/Slides/new.jpg") + "|" +
+                         Text("Albums/1/SoundTracks/song.mp3") + "|" +
+                         Text("Albums/1/Slides/gone.jpg");
+        if (All == "none|old song|old") return "old";
+        return All == "picture|new song|none" ? "new" : "mixed: " + All;
+    }
+    size_t AlbumsAtNextOpening() { return OpenEngine(Dir.Path())->Albums.size(); }
+
+    TempFolder Dir;
+    std::unique_ptr<clsDBEngine> Engine = OpenEngine(Dir.Path());
+};
+
+TEST_F(StagedFiles, StayWhereTheyAreUntilTheyAreSettled) {
+    Commit();
+    EXPECT_EQ("old", Files());
+    SettleCommitted(Dir.Path());
+    EXPECT_EQ("new", Files());
+    EXPECT_FALSE(HasStagedFiles(Dir.Path()));
+    EXPECT_EQ(4U, AlbumsAtNextOpening());
+}
+
+TEST_F(StagedFiles, AreSettledByTheNextOpeningTogetherWithTheRecords) {
+    Commit();
+    EXPECT_EQ(4U, AlbumsAtNextOpening());
+    EXPECT_EQ("new", Files());
+    EXPECT_FALSE(HasStagedFiles(Dir.Path()));
+}
+
+TEST_F(StagedFiles, AreSettledBeforeALaterWriteReplacesTheirJournal) {
+    Commit();
+    Engine->DeleteAlbum(1);
+    Engine->FinalizeDB();
+    EXPECT_EQ("new", Files());
+    EXPECT_EQ(3U, AlbumsAtNextOpening());
+}
+
+TEST_F(StagedFiles, GoAtTheNextOpeningWhenNoJournalHoldsThem) {
+    NoteStagedChange(Dir.Path(), Stage(), QByteArray(32, 'x'));
+    EXPECT_EQ(2U, AlbumsAtNextOpening());
+    EXPECT_EQ("old", Files());
+    EXPECT_FALSE(HasStagedFiles(Dir.Path()));
+}
+
+TEST_F(StagedFiles, GoWhenTheJournalIsThatOfAnEarlierChange) {
+    CommitDatabase(Dir.Path(), BuildImage(*Engine), {});
+    SettleCommitted(Dir.Path());
+    NoteStagedChange(Dir.Path(), Stage(), QByteArray(32, 'x'));
+    EXPECT_EQ(4U, AlbumsAtNextOpening());
+    EXPECT_EQ("old", Files());
+}
+
+TEST_F(StagedFiles, AreOnlyStagedWhileTheJournalCannotBeWritten) {
+    const StagedChange Change = Stage();
+    SetHostWatcher([](HostStep Step, const QString& Path, qint64&) {
+        if (Step == HostStep::Rename && Path.endsWith(u"Records.journal"_s)) throw Fault(u"No."_s);
+    });
+    EXPECT_THROW(CommitDatabase(Dir.Path(), BuildImage(*Engine), Change), Fault);
+    SetHostWatcher({});
+    EXPECT_EQ(2U, AlbumsAtNextOpening());
+    EXPECT_EQ("old", Files());
+}
+
+TEST_F(StagedFiles, AreSettledInTwoGoesWhenTheFirstWasCutShort) {
+    Commit();
+    SetHostWatcher([](HostStep Step, const QString& Path, qint64&) {
+        if (Step == HostStep::Rename && Path.endsWith(u"song.mp3"_s)) throw Fault(u"No."_s);
+    });
+    EXPECT_THROW(SettleCommitted(Dir.Path()), Fault);
+    SetHostWatcher({});
+    EXPECT_TRUE(HasStagedFiles(Dir.Path()));
+    SettleCommitted(Dir.Path());
+    EXPECT_EQ("new", Files());
+}
+
+TEST_F(StagedFiles, NeverReachOutsideTheDatabase) {
+    TempFolder Other;
+    WriteFile(Other / "mine", "x");
+    StagedChange Change = Stage();
+    const QString Outside = u"../"_s + Other.Path().section(u'/', -2, -2);
+    Change.Drops << Outside + u"/mine"_s << Other / "mine";
+    Change.Moves.push_back({u"0"_s, Outside + u"/put"_s});
+    CommitDatabase(Dir.Path(), BuildImage(*Engine), Change);
+    SettleCommitted(Dir.Path());
+    EXPECT_TRUE(FileExists(Other / "mine"));
+    EXPECT_FALSE(FileExists(Other / "put"));
+}
+
+TEST_F(StagedFiles, AreLeftAloneByALookThatChangesNothing) {
+    Commit();
+    EXPECT_EQ(4U, OpenEngine(Dir.Path(), Recovery::InMemory)->Albums.size());
+    EXPECT_TRUE(HasStagedFiles(Dir.Path()));
+    EXPECT_EQ("old", Files());
+}
+
+}  // namespace
+}  // namespace neb
