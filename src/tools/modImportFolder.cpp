@@ -65,10 +65,11 @@ std::optional<ImportOrder> ReadOrder(QStringList Arguments, ToolIO& IO) {
         Fail(IO, QStringLiteral("Slide show names must be <= 80 characters long."));
         return std::nullopt;
     }
-    for (const QString& Place : Places)
-        if (!OneDirectory({Place}, IO)) return std::nullopt;
-    Order.Dir = WithSeparator(Places[0]);
-    Order.Folder = WithSeparator(Places[1]);
+    const auto Dir = OneDirectory({Places[0]}, IO);
+    const auto Folder = Dir ? FolderNamed(Places[1], IO) : std::nullopt;
+    if (!Folder) return std::nullopt;
+    Order.Dir = *Dir;
+    Order.Folder = *Folder;
     return Order;
 }
 
