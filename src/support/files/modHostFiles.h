@@ -143,17 +143,7 @@ class InstanceLock {
 
 // What is about to happen to the disk. A test's watcher is called before each step and may
 // throw a Fault (a full disk), end the process, or for a write lower Length to write a part.
-enum class HostStep {
-    Write,
-    Sync,
-    SyncDir,
-    SyncVolume,
-    Delete,
-    Rename,
-    Link,
-    MakeDir,
-    SetReadOnly
-};
+enum class HostStep { Write, Sync, SyncDir, Delete, Rename, Link, MakeDir, SyncVolume, Protect };
 using HostWatcher = std::function<void(HostStep Step, const QString& Path, qint64& Length)>;
 void SetHostWatcher(HostWatcher Watcher);  // {} for none; for tests alone
 

@@ -199,7 +199,7 @@ void SetReadOnly(const QString& Path) {
                               QFileDevice::ReadGroup | QFileDevice::ReadOther |
                               QFileDevice::ExeOwner | QFileDevice::ExeUser | QFileDevice::ExeGroup |
                               QFileDevice::ExeOther;
-    AnnounceStep(HostStep::SetReadOnly, Path);
+    AnnounceStep(HostStep::Protect, Path);
     QFile File(ResolvePath(Path));
     if (!File.setPermissions(File.permissions() & ReadBits))
         Fail(QStringLiteral("The file cannot be made read-only."), Path, File.errorString());
