@@ -4,6 +4,7 @@
 #include <QSet>
 
 #include "albums/transfer/DiscReadme.h"
+#include "albums/transfer/FolderInTheMaking.h"
 #include "albums/transfer/OtherDatabase.h"
 #include "db/modAlbumFiles.h"
 #include "db/records/modRecordFiles.h"
@@ -11,16 +12,18 @@
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
+#include "support/files/modHostFilesCopy.h"
 #include "support/modDEValidation.h"
 #include "support/modFUFL.h"
+#include "support/work/WorkAside.h"
 
 namespace neb {
 namespace {
 
 using End = TransferResult::End;
 
-constexpr int CopyingShare = 80;  // percent: the check sums only read what has just been written
 constexpr qsizetype MaxAlbumName = 80;
+constexpr qint64 ThumbnailBytes = 16'000;
 
 const clsNEBSlideShow* ShowOf(const clsNEBAlbum& Album, std::int32_t SlideShowID) {
     return Album.GetSlideShow(SlideShowID);
@@ -47,105 +50,14 @@ QString Counted(int Number, const char* One, const char* Many) {
            QLatin1String(Number == 1 ? One : Many);
 }
 
-// The folder while it is being filled: unless it is kept, all that was made of it goes, with the
-// folders above that were not there either.
-class FolderInTheMaking {
-  public:
-    explicit FolderInTheMaking(const QString& Dir) : mDir(Dir), mMade(TopOfMissing(Dir)) {
-        try {
-            MakeDirs(mDir);
-        } catch (const Fault&) {
-            TakeBack();
-            throw;
-        }
-    }
-    ~FolderInTheMaking() {
-        if (!mKept) TakeBack();
-    }
-    FolderInTheMaking(const FolderInTheMaking&) = delete;
-    FolderInTheMaking& operator=(const FolderInTheMaking&) = delete;
-    void Keep() { mKept = true; }
-
-  private:
-    // The uppermost directory that has to be made; empty when all are there.
-    static QString TopOfMissing(const QString& Dir) {
-        QString Top;
-        for (QString Each = Dir; !Each.isEmpty() && !FolderExists(Each); Each = GetParentDir(Each))
-            Top = Each;
-        return Top;
-    }
-    void TakeBack() const {
-        if (!mMade.isEmpty()) return DeleteTree(mMade);
-        for (const DirEntry& Each : ListDir(mDir))
-            if (Each.IsFolder && !Each.IsLink) DeleteTree(mDir + Each.Name);
-        DeleteFilesIn(mDir);
-    }
-
-    const QString mDir;
-    const QString mMade;
-    bool mKept = false;
-};
-
-// One transfer after the other, told as one.
-class ProgressOfAll {
-  public:
-    explicit ProgressOfAll(const DiscDesk& Desk) : mDesk(Desk) {}
-
-    // Before anything is copied: a transfer that is still to come.
-    void Expect(const TransferProgress& Transfer) { mAhead.push_back(Transfer); }
-    void Begin() {
-        mNow = mAhead.front();
-        mAhead.erase(mAhead.begin());
-    }
-    void Finish() {
-        Add(mDone, mNow, true);
-        mNow = {};
-    }
-    bool Looking() { return Tell({}); }
-    bool Transferring(const TransferProgress& Now) {
-        if (Now.At != TransferProgress::Stage::Looking) mNow = Now;
-        DiscProgress All;
-        All.Copied = mDone;
-        Add(All.Copied, mNow, false);
-        for (const TransferProgress& Each : mAhead) Add(All.Copied, Each, false);
-        All.Copied.At = TransferProgress::Stage::Copying;
-        return Tell(All);
-    }
-    bool Summing(const SumsProgress& Now) {
-        mSums = Now;
-        return Tell({mDone, Now});
-    }
-    bool IsStopped() const { return mStopped; }
-    const SumsProgress& Sums() const { return mSums; }
-
-  private:
-    static void Add(TransferProgress& To, const TransferProgress& More, bool AllOfIt) {
-        To.Pictures += AllOfIt ? More.OfPictures : More.Pictures;
-        To.OfPictures += More.OfPictures;
-        To.Bytes += AllOfIt ? More.OfBytes : More.Bytes;
-        To.OfBytes += More.OfBytes;
-    }
-    // A stop that comes while records are written counts afterwards.
-    bool Tell(const DiscProgress& Now) {
-        if (mDesk.Progress && !mDesk.Progress(Now)) mStopped = true;
-        return !mStopped;
-    }
-
-    const DiscDesk& mDesk;
-    std::vector<TransferProgress> mAhead;
-    TransferProgress mDone, mNow;
-    SumsProgress mSums;
-    bool mStopped = false;
-};
-
 class DiscWriting {
   public:
     DiscWriting(clsDBEngine& From, const DiscContents& What, const QString& Dir,
                 const DiscDesk& Desk)
-        : mFrom(From), mWhat(What), mDir(Dir), mDesk(Desk), mProgress(Desk) {}
+        : mFrom(From), mWhat(What), mDir(Dir), mDesk(Desk), mProgress(Desk.Progress) {}
 
     DiscResult Run() {
-        if (!LookAhead() || !FillDatabase()) return Unfinished();
+        if (!LookAhead() || !HasRoom() || !FillDatabase()) return Unfinished();
         DeleteTree(mDir + QStringLiteral("Temp"));
         WriteSettings();
         ReplaceFile(mDir + QLatin1String(ReadmeName), ReadmeText(mListed).toUtf8());
@@ -157,10 +69,9 @@ class DiscWriting {
     }
 
   private:
-    DiscResult Unfinished() const {
-        return {mProgress.IsStopped() ? End::Stopped : End::Refused, mBoxes};
-    }
+    DiscResult Unfinished() const { return {mBoxes.empty() ? End::Stopped : End::Refused, mBoxes}; }
     bool LookAhead();
+    bool HasRoom();
     bool Expect(const clsNEBAlbum& Album, const QSet<std::int32_t>* SlideIDs);
     bool FillDatabase();
     bool CopyAlbum(clsDBEngine& To, std::int32_t AlbumID);
@@ -195,16 +106,29 @@ bool DiscWriting::LookAhead() {
 }
 
 bool DiscWriting::Expect(const clsNEBAlbum& Album, const QSet<std::int32_t>* SlideIDs) {
+    QStringList Paths;  // while they are looked at the album may go
+    for (const auto& Slide : Album.Slides)
+        if (!SlideIDs || SlideIDs->contains(Slide->SlideID))
+            Paths << SlidePath(mFrom.DBPath(), Album.AlbumID, Slide->SlideLoc);
     TransferProgress Coming;
-    for (const auto& Slide : Album.Slides) {
-        if (SlideIDs && !SlideIDs->contains(Slide->SlideID)) continue;
-        const QString Path = SlidePath(mFrom.DBPath(), Album.AlbumID, Slide->SlideLoc);
+    for (const QString& Path : Paths) {
         Coming.OfBytes += std::max<qint64>(FileSize(Path), 0);
-        ++Coming.OfPictures;
-        if (Coming.OfPictures % 16 == 0 && !mProgress.Looking()) return false;
+        if (++Coming.OfPictures % 16 == 0 && !mProgress.Looking()) return false;
     }
     mProgress.Expect(Coming);
     return mProgress.Looking();
+}
+
+// Each transfer looks by itself; but the last of them would be told after hours.
+bool DiscWriting::HasRoom() {
+    const TransferProgress All = mProgress.Ahead();
+    const qint64 Needed = All.OfBytes + All.OfPictures * ThumbnailBytes;
+    const qint64 Free = FreeSpace(mDir);
+    if (Free < 0 || Free >= Needed) return true;
+    mBoxes = {Refuse(QStringLiteral("There is not enough room: %1 are needed, %2 are free in\n%3")
+                         .arg(SizeText(Needed), SizeText(Free), mDir),
+                     QStringLiteral("Operation Unsuccessful"))};
+    return false;
 }
 
 bool DiscWriting::FillDatabase() {
@@ -219,7 +143,7 @@ bool DiscWriting::FillDatabase() {
         if (!(Whole ? CopyAlbum(To, Each.AlbumID) : CopyShows(To, Each))) return false;
     }
     To.EffectStats = mFrom.EffectStats;  // so that effects are as heavy there as here
-    To.FinalizeDB();
+    FinishAside([&To] { To.FinalizeDB(); }).get();
     return true;
 }
 
@@ -301,8 +225,14 @@ void DiscWriting::WriteSettings() const {
 
 // A folder that holds something already, and be it a hidden file, may hold what is dear to
 // somebody.
-std::optional<BoxRequest> WhyNot(const QString& Dir) {
+std::optional<BoxRequest> WhyNot(const QString& Dir, const QString& DBPath) {
     const QString Title = QStringLiteral("Invalid User Input");
+    for (QString Each = Dir; !Each.isEmpty(); Each = GetParentDir(Each))
+        if (IsSameDatabase(Each, DBPath))
+            return Refuse(QStringLiteral("The folder %1 lies among the albums themselves.\nChoose "
+                                         "one elsewhere.")
+                              .arg(Dir.chopped(1)),
+                          Title);
     if (FileExists(Dir.chopped(1)))
         return Refuse(QStringLiteral("%1 is a file and no folder.").arg(Dir.chopped(1)), Title);
     bool Readable = true;
@@ -336,32 +266,10 @@ DiscTally CountDisc(const clsDBEngine& Source, const DiscContents& What) {
     return Tally;
 }
 
-int SumsPercent(const SumsProgress& Now) {
-    return Now.OfBytes > 0 ? static_cast<int>(Now.Bytes * 100 / Now.OfBytes) : 0;
-}
-
-QString SumsText(const SumsProgress& Now) {
-    const QLocale English(QLocale::English);
-    return QStringLiteral("file %1 of %2, %3 of %4")
-        .arg(English.toString(Now.Files), English.toString(Now.OfFiles), SizeText(Now.Bytes),
-             SizeText(Now.OfBytes));
-}
-
-int DiscProgress::Percent() const {
-    if (Sums) return CopyingShare + SumsPercent(*Sums) * (100 - CopyingShare) / 100;
-    return Copied.OfBytes > 0 ? static_cast<int>(std::min(Copied.Bytes, Copied.OfBytes) *
-                                                 CopyingShare / Copied.OfBytes)
-                              : 0;
-}
-
-QString DiscProgress::Text(double Seconds) const {
-    return Sums ? QStringLiteral("check sums: ") + SumsText(*Sums) : ProgressText(Copied, Seconds);
-}
-
 DiscResult WriteDiscFolder(clsDBEngine& Source, const DiscContents& What, const QString& Dir,
                            const DiscDesk& Desk) {
     const QString Folder = WithSeparator(AbsolutePath(Dir));
-    if (const auto Refusal = WhyNot(Folder)) return {End::Refused, {*Refusal}};
+    if (const auto Refusal = WhyNot(Folder, Source.DBPath())) return {End::Refused, {*Refusal}};
     FolderInTheMaking Made(Folder);
     DiscResult Result = DiscWriting(Source, What, Folder, Desk).Run();
     if (Result) Made.Keep();

@@ -3,8 +3,8 @@
 // it. Written as a whole or not at all. Used by the window that asks what is to be in it.
 #pragma once
 
+#include "albums/transfer/DiscProgress.h"
 #include "albums/transfer/Transfer.h"
-#include "support/files/CheckSums.h"
 
 namespace neb {
 
@@ -24,16 +24,6 @@ struct DiscTally {
     QString Text() const;  // "2 albums, 3 slide shows, 214 slides"
 };
 DiscTally CountDisc(const clsDBEngine& Source, const DiscContents& What);
-
-struct DiscProgress {
-    TransferProgress Copied;             // of all that was chosen together
-    std::optional<SumsProgress> Sums;    // once the check sums are made
-    int Percent() const;                 // of the whole, 0 to 100
-    QString Text(double Seconds) const;  // Seconds after the first byte
-};
-// "file 120 of 2,000, 1.2 GB of 9 GB".
-QString SumsText(const SumsProgress& Now);
-int SumsPercent(const SumsProgress& Now);
 
 // As for a transfer; GoOnWithout may be asked once for each album.
 struct DiscDesk {
