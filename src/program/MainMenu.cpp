@@ -21,6 +21,10 @@
 #include "windows/show/modSlideShows.h"
 #include "windows/slides/frmSlideDBM.h"
 #include "windows/slides/frmSlideMgrBulk.h"
+#include "windows/transfer/frmAlbumExport.h"
+#include "windows/transfer/frmAlbumImport.h"
+#include "windows/transfer/frmSlideShowExport.h"
+#include "windows/transfer/frmSlideShowImport.h"
 
 namespace neb {
 namespace {
@@ -112,14 +116,18 @@ constexpr Entry Entries[] = {
     {"mnuSlideShowHdr", "mnuSlideShowPrefs", "P&references...", "Ctrl+R", "preferences",
      "Choose the active slide show and its effects", [](auto&) { EditSlideShowPreferences(); }},
     {"mnuImportExportHdr", "mnuAlbumImport", "Import &Album...", "", "import",
-     "Bring an album in from another database", NotYet},
+     "Bring an album in from another database",
+     [](auto&) { TheOpeners().ShowAsChild(*NewForm<frmAlbumImport>()); }},
     {"mnuImportExportHdr", "mnuAlbumExport", "E&xport Album...", "", "export",
-     "Take an album to another database", NotYet},
+     "Take an album to another database",
+     [](auto&) { TheOpeners().ShowAsChild(*NewForm<frmAlbumExport>()); }},
     {"mnuImportExportHdr", "", "", "", "", "", nullptr},
     {"mnuImportExportHdr", "mnuSlideShowImport", "Import &Slide Show...", "", "import",
-     "Bring a slide show in from another database", NotYet},
+     "Bring a slide show in from another database",
+     [](auto&) { TheOpeners().ShowAsChild(*NewForm<frmSlideShowImport>()); }},
     {"mnuImportExportHdr", "mnuSlideShowExport", "Exp&ort Slide Show...", "", "export",
-     "Take a slide show to another database", NotYet},
+     "Take a slide show to another database",
+     [](auto&) { TheOpeners().ShowAsChild(*NewForm<frmSlideShowExport>()); }},
     {"mnuPrintHdr", "mnuAlbumPrint", "Print &Album...", "", "print", "Print the pages of an album",
      NotYet},
     {"mnuPrintHdr", "mnuSlideShowPrint", "Print &Slide Show...", "", "print",

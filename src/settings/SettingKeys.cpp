@@ -16,6 +16,7 @@ using T = SettingType;
 constexpr char Levels[] = "H M L";  // intense, normal, lite
 constexpr char EffectNumbers[] = "000-127";
 constexpr char Columns[] = "0-3";
+constexpr char LastTen[] = "0-9";
 constexpr char Find[] = "Find Graphics Window";
 // The windows that remember their size; those of the first list their width and state as well.
 #define NEB_WIDE_WINDOWS "frmSlideDBM frmPicturePopup"
@@ -53,6 +54,7 @@ constexpr SettingRow Table[] = {
     {S::FindWidth,       Find,                "WindowWidth",     "",            T::Twips,   None,              None,             Any, Any,       nullptr, "Find Graphics"},
     {S::FindHeight,      Find,                "WindowHeight",    "",            T::Twips,   None,              None,             Any, Any,       nullptr, "Find Graphics"},
     {S::FindColumn,      Find,                "Col*.Width",      Columns,       T::Twips,   None,              None,             Any, Any,       nullptr, "Find Graphics"},
+    {S::TransferDirectory, "Transfer",        "Directory*",      LastTen,       T::Text,    None,              None,             Any, Any,       nullptr, "the transfer windows"},
 };
 // clang-format on
 

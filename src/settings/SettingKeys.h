@@ -33,7 +33,8 @@ enum class Setting {
     FindState,
     FindWidth,
     FindHeight,
-    FindColumn,  // of a column: "0" to "3"
+    FindColumn,         // of a column: "0" to "3"
+    TransferDirectory,  // the last one first: "0" to "9"
 };
 
 enum class SettingType { Text, Number, Seconds, Flag, Twips };

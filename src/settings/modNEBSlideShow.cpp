@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QStandardPaths>
 
+#include "db/records/modJournal.h"
 #include "settings/SettingKeys.h"
 #include "settings/clsFileSystem.h"
 #include "support/Fault.h"
@@ -25,10 +26,45 @@ namespace {
 
 constexpr char16_t LegalSigns[] = u"!#$().,_-~@^:;'<>/\\=+|[]{} ";
 
+constexpr char Maker[] = "NEB";
+constexpr char OwnFolder[] = "NEB Slide Show/";
+
 QString UserDocuments() {
     const QString Path = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     MakeDir(Path);
     return Path;
+}
+
+clsSettings SettingsIn(const QString& Folder) {
+    clsSettings Settings;
+    Settings.SetFileName(Folder + INIFileName());
+    Settings.Load();
+    return Settings;
+}
+
+// Where the settings of a folder say that its database is.
+QString DatabaseOf(const QString& Folder) {
+    const QString Chosen = ReadText(SettingsIn(Folder), Setting::DBPath);
+    // A relative one means the same database wherever the program was started from.
+    return WithSeparator(Chosen.isEmpty() ? Folder : AbsolutePath(Chosen, Folder));
+}
+
+bool HoldsRecords(const QString& Dir) {
+    return FileExists(RecordPath(Dir, RecordFile::NextIDs)) ||
+           ReadJournal(Dir) == JournalState::Whole;
+}
+
+// The settings' folder below a documents folder, or below the maker's folder in it; empty when it
+// is neither.
+QString SettingsFolderBelow(const QString& Dir) {
+    const QString Below = Dir + QLatin1String(Maker) + u'/' + QLatin1String(OwnFolder);
+    if (FolderExists(Below)) return ResolvePath(Below);
+    QString Name = AbsolutePath(Dir);
+    while (Name.size() > 1 && IsSeparator(Name.back())) Name.chop(1);
+    const bool IsMaker = GetFileName(Name).compare(QLatin1String(Maker), Qt::CaseInsensitive) == 0;
+    return IsMaker && FolderExists(Dir + QLatin1String(OwnFolder))
+               ? ResolvePath(Dir + QLatin1String(OwnFolder))
+               : QString();
 }
 
 }  // namespace
@@ -50,23 +86,24 @@ QString INIFileName() {
 
 QString SettingsDir() {
     if (DocumentsPath.isEmpty()) DocumentsPath = WithSeparator(UserDocuments());
-    return DocumentsPath + QStringLiteral("NEB/NEB Slide Show/");
+    return DocumentsPath + QLatin1String(Maker) + u'/' + QLatin1String(OwnFolder);
 }
 
 clsSettings OpenSettings() {
-    clsSettings Settings;
-    Settings.SetFileName(SettingsDir() + INIFileName());
-    Settings.Load();
-    return Settings;
+    return SettingsIn(SettingsDir());
 }
 
 QString DBPath() {
-    if (!DBPathCache.isEmpty()) return DBPathCache;
-    const QString Chosen = ReadText(OpenSettings(), Setting::DBPath);
-    // A relative one means the same database wherever the program was started from.
-    DBPathCache =
-        WithSeparator(Chosen.isEmpty() ? SettingsDir() : AbsolutePath(Chosen, SettingsDir()));
+    if (DBPathCache.isEmpty()) DBPathCache = DatabaseOf(SettingsDir());
     return DBPathCache;
+}
+
+QString DatabaseIn(const QString& Dir) {
+    const QString Place = WithSeparator(Dir);
+    if (HoldsRecords(Place)) return Place;
+    const QString Below = SettingsFolderBelow(Place);
+    if (!Below.isEmpty()) return DatabaseOf(Below);
+    return FileExists(Place + INIFileName()) ? DatabaseOf(Place) : Place;
 }
 
 void LogMessage(const QString& Level, const QString& Message) {

@@ -22,6 +22,12 @@ std::function<void()>& DoEventsHook() {
     return Hook;
 }
 
+BoxAnswer ShowOrWarn(const BoxRequest& Request) {
+    if (MessageBoxes* Boxes = TheServices().Boxes) return Boxes->Show(Request);
+    qWarning("%s", qPrintable(Request.Text));
+    return Request.Buttons == BoxButtons::Ok ? BoxAnswer::Ok : BoxAnswer::No;
+}
+
 }  // namespace
 
 double Clock::Timer() const {
@@ -35,14 +41,12 @@ Services& TheServices() {
 }
 
 BoxAnswer MsgBox(const QString& Text, const QString& Title, BoxIcon Icon, BoxButtons Buttons) {
-    MessageBoxes* Boxes = TheServices().Boxes;
-    if (Boxes) return Boxes->Show({Text, Title, Icon, Buttons});
-    qWarning("%s", qPrintable(Text));
-    return Buttons == BoxButtons::Ok ? BoxAnswer::Ok : BoxAnswer::No;
+    return ShowOrWarn({Text, Title, Icon, Buttons});
 }
 
-bool AskYesNo(const QString& Text, const QString& Title) {
-    return MsgBox(Text, Title, BoxIcon::Question, BoxButtons::YesNo) == BoxAnswer::Yes;
+bool AskYesNo(const QString& Text, const QString& Title, BoxAnswer Default) {
+    return ShowOrWarn({Text, Title, BoxIcon::Question, BoxButtons::YesNo, Default}) ==
+           BoxAnswer::Yes;
 }
 
 void DoEvents() {

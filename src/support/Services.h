@@ -18,6 +18,7 @@ struct BoxRequest {
     QString Title;  // empty: the program's own name
     BoxIcon Icon = BoxIcon::Plain;
     BoxButtons Buttons = BoxButtons::Ok;
+    BoxAnswer Default = BoxAnswer::Yes;  // of a Yes/No box: what Enter answers
 };
 
 class MessageBoxes {
@@ -33,6 +34,7 @@ class FileDialogs {
     // Filters as "Name (*.a;*.b)|*.a;*.b|..." pairs. The full path, or empty when cancelled.
     virtual QString OpenFile(const QString& Title, const QString& StartDir,
                              const QString& Filters) = 0;
+    // Names a place for a file; whether one that is there may be replaced is for the caller to ask.
     virtual QString SaveFile(const QString& Title, const QString& StartPath,
                              const QString& Filters) = 0;
     virtual QString ChooseFolder(const QString& Title, const QString& StartDir) = 0;
@@ -78,8 +80,8 @@ Services& TheServices();
 // Shows a plain OK box, or one with the given looks.
 BoxAnswer MsgBox(const QString& Text, const QString& Title = {}, BoxIcon Icon = BoxIcon::Plain,
                  BoxButtons Buttons = BoxButtons::Ok);
-// Asks in a Yes/No box with the question icon; true on Yes.
-bool AskYesNo(const QString& Text, const QString& Title);
+// Asks in a Yes/No box with the question icon; true on Yes. Default: what Enter answers.
+bool AskYesNo(const QString& Text, const QString& Title, BoxAnswer Default = BoxAnswer::Yes);
 
 // Lets waiting events run: the one way for long work to yield.
 void DoEvents();

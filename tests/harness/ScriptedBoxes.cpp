@@ -32,6 +32,7 @@ void ScriptedBoxes::WhileNextIsOpen(std::function<void()> Action) {
 
 BoxAnswer ScriptedBoxes::Show(const BoxRequest& Request) {
     ++mShown;
+    mLast = Request;
     if (mQueue.empty()) {
         ADD_FAILURE() << "unexpected box: " << Request.Text.toStdString();
         return Request.Buttons == BoxButtons::Ok ? BoxAnswer::Ok : BoxAnswer::No;

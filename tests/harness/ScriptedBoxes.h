@@ -24,6 +24,7 @@ class ScriptedBoxes : public MessageBoxes {
 
     BoxAnswer Show(const BoxRequest& Request) override;
     int ShownCount() const { return mShown; }
+    const BoxRequest& Last() const { return mLast; }
 
   private:
     struct Entry {
@@ -37,6 +38,7 @@ class ScriptedBoxes : public MessageBoxes {
     std::function<void()> mNextAction;
     MessageBoxes* mBefore;
     int mShown = 0;
+    BoxRequest mLast;
 };
 
 }  // namespace neb::harness

@@ -79,6 +79,8 @@ const struct Documented {
      nullptr},
     {"[Find Graphics Window]Col*.Width", Numbers(0, 3, 1), SettingType::Twips, "", "", nullptr,
      nullptr, nullptr},
+    {"[Transfer]Directory*", Numbers(0, 9, 1), SettingType::Text, "", "", nullptr, nullptr,
+     nullptr},
 };
 
 QStringList MembersOf(const SettingRow& Row) {
@@ -130,7 +132,7 @@ TEST(SettingKeys, EachStandsOnceAndSaysWhoReadsIt) {
         EXPECT_EQ(&Row, &RowOf(Row.Which)) << Row.Key;
         EXPECT_STRNE("", Row.Readers) << Row.Key;
     }
-    for (int Each = 0; Each <= static_cast<int>(Setting::FindColumn); ++Each)
+    for (int Each = 0; Each <= static_cast<int>(Setting::TransferDirectory); ++Each)
         EXPECT_TRUE(Seen.contains(Each)) << Each;
 }
 

@@ -2,6 +2,8 @@
 
 #include <QDir>
 
+#include "db/records/modJournal.h"
+#include "harness/FolderState.h"
 #include "harness/ScriptedBoxes.h"
 #include "harness/TempFolder.h"
 #include "settings/clsFileSystem.h"
@@ -46,6 +48,16 @@ struct ShellTest : ::testing::Test {
         return DBPath();
     }
 };
+
+// What stands in the journal of a write that is broken off behind it.
+QByteArray JournalOf(const QString& Dir) {
+    SetHostWatcher([](HostStep Step, const QString& Path, qint64&) {
+        if (Step == HostStep::Sync && Path.endsWith(u".dat")) throw Fault({}, Path);
+    });
+    EXPECT_THROW(WriteDatabase(Dir, {}), Fault);
+    SetHostWatcher({});
+    return ReadFile(JournalPath(Dir));
+}
 
 bool Accepts(const char16_t* Text) {
     for (const QChar Character : QStringView(Text))
@@ -98,6 +110,78 @@ TEST_F(ShellTest, TheDatabasePathIsAskedForOnce) {
 TEST_F(ShellTest, AskingForThePathsWritesNothing) {
     DBPath();
     EXPECT_FALSE(FileExists(Home() + INIFileName()));
+}
+
+TEST_F(ShellTest, ADirectoryWithCountersIsTheDatabaseThatTheUserMeans) {
+    WriteFile(Documents / QStringLiteral("nextids.DAT"), "x");
+    WithDBPath("/elsewhere");
+    EXPECT_EQ(Documents.Path(), DatabaseIn(Documents.Path())) << "whatever lies below it";
+    QString Path = Documents.Path();
+    Path.chop(1);
+    EXPECT_EQ(Documents.Path(), DatabaseIn(Path));
+}
+
+TEST_F(ShellTest, ADirectoryWithAWholeJournalIsADatabaseATornOneIsNot) {
+    MakeDirs(Home());
+    const QByteArray Journal = JournalOf(Program.Path());
+    MakeDirs(Documents / QStringLiteral("Temp/Journal"));
+    WriteFile(JournalPath(Documents.Path()), Journal);
+    EXPECT_EQ(Documents.Path(), DatabaseIn(Documents.Path()));
+    WriteFile(JournalPath(Documents.Path()), Journal.chopped(1));
+    EXPECT_EQ(Home(), DatabaseIn(Documents.Path()));
+}
+
+TEST_F(ShellTest, ADocumentsFolderMeansTheDatabaseThatTheProgramKeepsBelowIt) {
+    MakeDirs(Home());
+    EXPECT_EQ(Home(), DatabaseIn(Documents.Path())) << "with records or without, as the program";
+    EXPECT_EQ(Home(), DatabaseIn(Documents / QStringLiteral("NEB")));
+    EXPECT_EQ(Home(), DatabaseIn(Home()));
+    for (const char* Value : {"/elsewhere/pictures", "albums", "../albums", ""}) {
+        const QString Expected = WithDBPath(Value);
+        EXPECT_EQ(Expected, DatabaseIn(Documents.Path())) << Value;
+        EXPECT_EQ(Expected, DatabaseIn(Documents / QStringLiteral("NEB/"))) << Value;
+        EXPECT_EQ(Expected, DatabaseIn(Home())) << Value;
+    }
+}
+
+TEST_F(ShellTest, TheFolderOfTheSettingsWithRecordsIsOneOfThemAllTheSame) {
+    WithDBPath("/elsewhere");
+    WriteFile(Home() + QStringLiteral("NextIDs.dat"), "x");
+    EXPECT_EQ(u"/elsewhere/", DatabaseIn(Documents.Path())) << "there the program looks";
+    EXPECT_EQ(Home(), DatabaseIn(Home())) << "the user has named it";
+}
+
+TEST_F(ShellTest, ADocumentsFolderIsFoundInTheCaseThatADiscGivesIt) {
+    const QString Disc = Documents / QStringLiteral("NEB/NEB SLIDE SHOW/");
+    MakeDirs(Disc);
+    EXPECT_EQ(Disc, DatabaseIn(Documents.Path()));
+    EXPECT_EQ(Disc, DatabaseIn(Documents / QStringLiteral("neb")));
+    WriteFile(Disc + QStringLiteral("QLM.INI"), "[General]\nDBPath=albums\n");
+    EXPECT_EQ(Disc + QStringLiteral("albums/"), DatabaseIn(Documents.Path()));
+}
+
+TEST_F(ShellTest, ARelativeDirectoryIsUnderstoodFromTheWorkingDirectory) {
+    MakeDirs(Home());
+    const QString Before = QDir::currentPath();
+    QDir::setCurrent(Documents / QStringLiteral("NEB"));
+    EXPECT_EQ(Home(), AbsolutePath(DatabaseIn(QStringLiteral("."))) + u'/');
+    EXPECT_EQ(Home(), AbsolutePath(DatabaseIn(QStringLiteral(".."))) + u'/');
+    QDir::setCurrent(Before);
+}
+
+TEST_F(ShellTest, AnyOtherDirectoryMeansItself) {
+    EXPECT_EQ(Documents.Path(), DatabaseIn(Documents.Path()));
+    EXPECT_EQ(u"/nowhere/at/all/", DatabaseIn(QStringLiteral("/nowhere/at/all")));
+    MakeDirs(Documents / QStringLiteral("NEB Slide Show"));
+    EXPECT_EQ(Documents.Path(), DatabaseIn(Documents.Path())) << "the maker's folder bears a name";
+}
+
+TEST_F(ShellTest, LookingForADatabaseChangesNothing) {
+    WithDBPath("albums");
+    const QStringList Before = Everything(Documents.Path());
+    DatabaseIn(Documents.Path());
+    EXPECT_EQ("", Differences(Before, Everything(Documents.Path())));
+    EXPECT_EQ(Documents.Path(), DocumentsPath);
 }
 
 TEST_F(ShellTest, AnotherDocumentsFolderOverridesTheUsersOwn) {

@@ -62,7 +62,7 @@ void Fill(QMessageBox& Box, const BoxRequest& Request) {
         return;
     }
     Box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-    Box.setDefaultButton(QMessageBox::Yes);
+    Box.setDefaultButton(Request.Default == BoxAnswer::No ? QMessageBox::No : QMessageBox::Yes);
     Box.setEscapeButton(QMessageBox::No);
 }
 
@@ -93,7 +93,8 @@ QString DesktopFileDialogs::OpenFile(const QString& Title, const QString& StartD
 QString DesktopFileDialogs::SaveFile(const QString& Title, const QString& StartPath,
                                      const QString& Filters) {
     return QFileDialog::getSaveFileName(QApplication::activeWindow(), Title, StartPath,
-                                        ToolkitFilters(Filters));
+                                        ToolkitFilters(Filters), nullptr,
+                                        QFileDialog::DontConfirmOverwrite);
 }
 
 QString DesktopFileDialogs::ChooseFolder(const QString& Title, const QString& StartDir) {

@@ -16,12 +16,13 @@ struct SumsProgress {
     int Files = 0, OfFiles = 0;
     qint64 Bytes = 0, OfBytes = 0;
 };
-// Called many times a second on the caller's thread; false stops the work.
+// Called many times a second on the caller's thread, also while a slow medium does not answer: the
+// files are read on another one. False stops the work at once.
 using SumsGoOn = std::function<bool(const SumsProgress& Now)>;
 
-// Writes the list over every file in Dir and below it, the list itself and the lock of an open
-// database left out, in the order of their paths. False when it was stopped: there is no list then.
-// Throws Fault.
+// Writes the list over every file in Dir and below it, the list itself, the locks of open databases
+// and links left out, in the order of their paths. False when it was stopped. What is stopped or
+// fails leaves no new list. Throws Fault.
 bool WriteSums(const QString& Dir, const SumsGoOn& GoOn = {});
 
 struct SumsFinding {
@@ -29,8 +30,9 @@ struct SumsFinding {
     Kind Is;
     QString Path;  // as the list has it: relative, with "/"
 };
-// Compares every file of the list. Nothing when it was stopped. Throws Fault when there is no list
-// or a line of it cannot be understood.
+// Compares every file of the list; nothing outside of Dir is opened, whatever the list says.
+// Nothing when it was stopped. Throws Fault when there is no list, it is empty, or a line of it
+// cannot be understood.
 std::optional<std::vector<SumsFinding>> CheckSums(const QString& Dir, const SumsGoOn& GoOn = {});
 
 }  // namespace neb

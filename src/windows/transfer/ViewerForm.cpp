@@ -70,6 +70,13 @@ void ViewerForm::Form_Load() {
     if (mGrid->Rows() > 0) mGrid->SetRow(0);
 }
 
+void ViewerForm::Refill(clsDBEngine& objDB) {
+    if (!IsLoaded()) return;
+    mSubject.DB = &objDB;
+    mReading.Read(Reading());
+    mSubject.DB = nullptr;
+}
+
 // A place that cannot be remembered must not keep the window open. A fill that is under way sees
 // that the window has gone.
 bool ViewerForm::Form_Unload() {

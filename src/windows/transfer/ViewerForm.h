@@ -26,6 +26,10 @@ class ViewerForm : public Form {
   public:
     ~ViewerForm() override;
 
+    std::int32_t AlbumID() const { return mSubject.AlbumID; }
+    // Fills the list anew from a database that nobody else tells of: the one it was shown from.
+    void Refill(clsDBEngine& objDB);
+
   protected:
     struct Texts {
         QString Empty;  // what the list says when there is nothing in it

@@ -10,6 +10,8 @@
 #include "controls/forms/ScreenPointer.h"
 #include "controls/forms/TestForm.h"
 #include "controls/forms/frmMsgBoxEx.h"
+#include "harness/TempFolder.h"
+#include "support/files/modHostFiles.h"
 
 using namespace neb;
 using namespace neb::harness;
@@ -51,6 +53,14 @@ TEST_F(Boxes, ShowsTextTitleAndIconAsGiven) {
         Box.button(QMessageBox::No)->click();
     });
     EXPECT_EQ(BoxAnswer::No, Given);
+}
+
+TEST_F(Boxes, EnterAnswersAsTheQuestionWants) {
+    const auto Enter = [](QMessageBox& Box) { QTest::keyClick(&Box, Qt::Key_Return); };
+    BoxRequest Request = YesNo;
+    EXPECT_EQ(BoxAnswer::Yes, Answer(Request, Enter));
+    Request.Default = BoxAnswer::No;
+    EXPECT_EQ(BoxAnswer::No, Answer(Request, Enter));
 }
 
 TEST_F(Boxes, AMessageThatIsTooLongScrollsInAWindow) {
@@ -160,6 +170,16 @@ TEST_F(Boxes, TheFilterForAllFilesTakesNamesWithoutADotToo) {
     });
     const QString Filters = QStringLiteral("All Files (*.*)|*.*");
     EXPECT_TRUE(DesktopFileDialogs().SaveFile(QStringLiteral("Save"), {}, Filters).isEmpty());
+}
+
+// A file may stand for the folder that it lies in: nobody is to be frightened for it.
+TEST_F(Boxes, NamingAFileThatIsThereAsksNothing) {
+    const TempFolder Folder;
+    const QString Path = Folder / QStringLiteral("NextIDs.dat");
+    WriteFile(Path, "kept");
+    WhenOpen<QFileDialog>([](QFileDialog& Dialog) { Dialog.accept(); });
+    EXPECT_EQ(Path, DesktopFileDialogs().SaveFile(QStringLiteral("Save"), Path, {}));
+    EXPECT_EQ("kept", ReadFile(Path));
 }
 
 namespace {

@@ -1,0 +1,268 @@
+#include "support/files/CheckSums.h"
+
+#include <QCryptographicHash>
+#include <algorithm>
+#include <atomic>
+#include <memory>
+#include <set>
+
+#include "support/Fault.h"
+#include "support/files/modHostFiles.h"
+#include "support/modFUFL.h"
+#include "support/work/Job.h"
+
+namespace neb {
+namespace {
+
+constexpr qsizetype SumDigits = 64;
+constexpr qint64 PieceLength = 1 << 20;
+
+// Told by the thread that reads to the one that waits.
+struct Count {
+    std::atomic<int> Files = 0, OfFiles = 0;
+    std::atomic<qint64> Bytes = 0, OfBytes = 0;
+    SumsProgress Now() const { return {Files, OfFiles, Bytes, OfBytes}; }
+};
+
+// The folder as seen by the thread that reads it: a disc may be slow, or hang for good.
+class SumsReader {
+  public:
+    SumsReader(QString Dir, Count& Done, const JobState& State)
+        : mDir(std::move(Dir)), mRoot(WithSeparator(RealDir(mDir))), mDone(Done), mState(State) {}
+
+    const QString& Dir() const { return mDir; }
+    bool IsStopped() const { return mState.Stop; }
+    template <class Listed>
+    void Expect(const std::vector<Listed>& Files) {
+        mDone.OfFiles = static_cast<int>(Files.size());
+        for (size_t I = 0; I < Files.size() && !IsStopped(); ++I)
+            mDone.OfBytes += std::max<qint64>(0, FileSize(mDir + Files[I].Path));
+    }
+    // Of one file, as digits; senseless once the work is stopped.
+    QByteArray SumOf(const QString& Path) {
+        HostReader File(mDir + Path);
+        QCryptographicHash Sum(QCryptographicHash::Sha256);
+        while (const qint64 Length = IsStopped() ? 0 : File.Read(mPiece.data(), PieceLength)) {
+            Sum.addData(QByteArrayView(mPiece.data(), Length));
+            mDone.Bytes += Length;
+        }
+        return Sum.result().toHex();
+    }
+    void NextFile() { ++mDone.Files; }
+    // A link in the folder may lead anywhere.
+    bool LeadsOutside(const QString& Path) const {
+        const QString Real = RealDir(mDir + Path);
+        return !Real.isEmpty() && !Real.startsWith(mRoot);
+    }
+    // Whether the file is not there at all: what only cannot be seen is not missing.
+    bool IsMissing(const QString& Path) {
+        if (NameExists(mDir + Path)) return false;
+        const QString Parent = GetFilePath(mDir + Path);
+        if (Parent != mListed) List(Parent);
+        return !mHidden && !mNames.contains(GetFileName(Path).toUpper());
+    }
+
+  private:
+    void List(const QString& Parent) {
+        std::error_code Error;
+        mListed = Parent;
+        mNames.clear();
+        for (const DirEntry& Entry : ListDir(Parent, Error)) mNames.insert(Entry.Name.toUpper());
+        mHidden = Error && Error != std::errc::no_such_file_or_directory &&
+                  Error != std::errc::not_a_directory;
+    }
+
+    const QString mDir, mRoot;
+    Count& mDone;
+    const JobState& mState;
+    std::vector<char> mPiece = std::vector<char>(PieceLength);
+    QString mListed;  // the directory that was looked into last, and what is there
+    std::set<QString> mNames;
+    bool mHidden = false;
+};
+
+// Does Work(SumsReader&) on a thread of its own and tells GoOn meanwhile. Nothing when it was
+// stopped: then the thread is left to itself, so that a medium that hangs keeps nobody.
+template <class Function>
+auto Aside(const QString& Dir, const std::shared_ptr<Count>& Done, const SumsGoOn& GoOn,
+           Function Work) -> std::optional<std::invoke_result_t<Function, SumsReader&>> {
+    constexpr int Patience = 20;  // milliseconds
+    Job<std::invoke_result_t<Function, SumsReader&>> Busy(
+        [Done, Dir = WithSeparator(Dir), Work](JobState& State) {
+            SumsReader Reader(Dir, *Done, State);
+            return Work(Reader);
+        });
+    do {
+        if (GoOn && !GoOn(Done->Now())) return std::nullopt;
+    } while (!Busy.Wait(Patience));
+    auto Result = Busy.Take();
+    if (GoOn && !GoOn(Done->Now())) return std::nullopt;
+    return Result;
+}
+
+struct ListedFile {
+    QString Path;
+    QByteArray Sum;
+};
+
+bool HasDrive(const QString& Path) {
+    return Path.size() > 2 && Path[1] == u':' && IsSeparator(Path[2]);
+}
+
+// Whatever a list says, nothing is opened but what lies in the folder.
+bool LiesBelow(const QString& Path) {
+    if (Path.isEmpty() || IsSeparator(Path.front()) || HasDrive(Path)) return false;
+    const QStringList Parts = QString(Path).replace(u'\\', u'/').split(u'/');
+    return !Parts.contains(u"..");
+}
+
+// The names of open databases' locks, and of the list while it is being written.
+bool ComesAndGoes(const QString& Path) {
+    const QString Name = SumsName;
+    return Path == Name || Path == Name + QStringLiteral(".new") ||
+           GetFileName(Path) == QStringLiteral("InUse.lock");
+}
+
+// Links are no files of the folder: on the disc for which a list is written there are none.
+void Collect(const SumsReader& Reader, const QString& Below, std::vector<ListedFile>& Files) {
+    std::error_code Error;
+    const auto Entries = ListDir(Reader.Dir() + Below, Error);
+    if (Error)
+        throw Fault(QStringLiteral("The directory cannot be read: %1.")
+                        .arg(QString::fromStdString(Error.message())),
+                    Reader.Dir() + Below);
+    for (const DirEntry& Entry : Entries) {
+        const QString Path = Below + Entry.Name;
+        if (Entry.IsLink || Reader.IsStopped()) continue;
+        if (Entry.IsFolder)
+            Collect(Reader, Path + u'/', Files);
+        else if (!ComesAndGoes(Path))
+            Files.push_back({Path, {}});
+    }
+}
+
+QByteArray LineOf(const ListedFile& File) {
+    QByteArray Name = File.Path.toUtf8();
+    const QByteArray Plain = Name;
+    Name.replace('\\', "\\\\").replace('\n', "\\n").replace('\r', "\\r");
+    return (Name == Plain ? "" : "\\") + File.Sum + "  " + Name + '\n';
+}
+
+QByteArray MakeList(SumsReader& Reader) {
+    std::vector<ListedFile> Files;
+    Collect(Reader, {}, Files);
+    std::sort(Files.begin(), Files.end(), [](const ListedFile& A, const ListedFile& B) {
+        return A.Path.toUtf8() < B.Path.toUtf8();
+    });
+    Reader.Expect(Files);
+    QByteArray List;
+    for (ListedFile& File : Files) {
+        if (!LiesBelow(File.Path))
+            throw Fault(QStringLiteral("A file of this name cannot stand in a list of check sums."),
+                        Reader.Dir() + File.Path);
+        File.Sum = Reader.SumOf(File.Path);
+        List += LineOf(File);
+        Reader.NextFile();
+    }
+    return List;
+}
+
+// Nothing for what cannot have been written so.
+std::optional<QByteArray> WithoutEscapes(const QByteArray& Name) {
+    QByteArray Plain;
+    for (qsizetype I = 0; I < Name.size(); ++I) {
+        if (Name[I] != '\\') {
+            Plain += Name[I];
+            continue;
+        }
+        const qsizetype Which = QByteArrayView("\\nr").indexOf(++I < Name.size() ? Name[I] : '?');
+        if (Which < 0) return std::nullopt;
+        Plain += "\\\n\r"[Which];
+    }
+    return Plain;
+}
+
+bool IsSum(const QByteArray& Digits) {
+    return Digits.size() == SumDigits && std::all_of(Digits.begin(), Digits.end(), [](char Each) {
+               return std::isxdigit(static_cast<unsigned char>(Each)) != 0;
+           });
+}
+
+std::optional<ListedFile> ReadLine(QByteArray Line) {
+    const bool Escaped = Line.startsWith('\\');
+    if (Escaped) Line.remove(0, 1);
+    const QByteArray Marker = Line.mid(SumDigits, 2);
+    if (!IsSum(Line.left(SumDigits)) || (Marker != "  " && Marker != " *")) return std::nullopt;
+    const QByteArray Name = Line.mid(SumDigits + 2);
+    const auto Plain = Escaped ? WithoutEscapes(Name) : std::optional(Name);
+    const QString Path = Plain ? QString::fromUtf8(*Plain) : QString();
+    return LiesBelow(Path) ? std::optional(ListedFile{Path, Line.left(SumDigits).toLower()})
+                           : std::nullopt;
+}
+
+// Also as other programs and editors leave it: with a mark of the encoding, CR LF, blank lines.
+std::vector<ListedFile> ReadList(const QString& Dir) {
+    const QString Path = Dir + SumsName;
+    QByteArray Text = ReadFile(Path);
+    if (Text.startsWith("\xEF\xBB\xBF")) Text.remove(0, 3);
+    std::vector<ListedFile> Files;
+    int Number = 0;
+    for (QByteArray& Line : Text.split('\n')) {
+        ++Number;
+        if (Line.endsWith('\r')) Line.chop(1);
+        if (Line.trimmed().isEmpty() || Line.startsWith('#')) continue;
+        auto File = ReadLine(Line);
+        if (!File) throw Fault(QStringLiteral("Line %1 cannot be understood.").arg(Number), Path);
+        Files.push_back(std::move(*File));
+    }
+    if (Files.empty()) throw Fault(QStringLiteral("The list of check sums is empty."), Path);
+    return Files;
+}
+
+std::optional<SumsFinding::Kind> Compare(SumsReader& Reader, const ListedFile& File) {
+    if (Reader.LeadsOutside(File.Path)) return SumsFinding::Kind::Unreadable;
+    try {
+        if (Reader.SumOf(File.Path) == File.Sum) return std::nullopt;
+        return SumsFinding::Kind::Changed;
+    } catch (const Fault&) {
+        return Reader.IsMissing(File.Path) ? SumsFinding::Kind::Missing
+                                           : SumsFinding::Kind::Unreadable;
+    }
+}
+
+std::vector<SumsFinding> CompareAll(SumsReader& Reader) {
+    const std::vector<ListedFile> Files = ReadList(Reader.Dir());
+    Reader.Expect(Files);
+    std::vector<SumsFinding> Found;
+    for (const ListedFile& File : Files) {
+        if (Reader.IsStopped()) break;
+        if (const auto What = Compare(Reader, File)) Found.push_back({*What, File.Path});
+        Reader.NextFile();
+    }
+    return Found;
+}
+
+}  // namespace
+
+bool WriteSums(const QString& Dir, const SumsGoOn& GoOn) {
+    const auto Done = std::make_shared<Count>();
+    const auto List = Aside(Dir, Done, GoOn, &MakeList);
+    if (!List) return false;
+    // Too late to stop; but a slow medium must not keep the caller's windows even now.
+    const SumsGoOn Tell = [&GoOn](const SumsProgress& Now) {
+        if (GoOn) GoOn(Now);
+        return true;
+    };
+    Aside(Dir, Done, Tell, [List](const SumsReader& Reader) {
+        ReplaceFile(Reader.Dir() + SumsName, *List);
+        SyncDir(Reader.Dir());
+        return true;
+    });
+    return true;
+}
+
+std::optional<std::vector<SumsFinding>> CheckSums(const QString& Dir, const SumsGoOn& GoOn) {
+    return Aside(Dir, std::make_shared<Count>(), GoOn, &CompareAll);
+}
+
+}  // namespace neb

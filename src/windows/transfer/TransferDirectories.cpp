@@ -1,0 +1,70 @@
+#include "windows/transfer/TransferDirectories.h"
+
+#include <QAction>
+#include <QLineEdit>
+#include <QMenu>
+
+#include "controls/fields/Icons.h"
+#include "settings/SettingKeys.h"
+#include "settings/modNEBSlideShow.h"
+#include "windows/frame/modWindowState.h"
+
+namespace neb {
+namespace {
+
+SettingAt PlaceOf(qsizetype Number) {
+    return {Setting::TransferDirectory, QString::number(Number)};
+}
+
+// In a menu an ampersand marks a letter.
+QString AsEntry(QString Path) {
+    return Path.replace(u'&', QStringLiteral("&&"));
+}
+
+void ShowList(QLineEdit& Field, const std::function<void(const QString& Dir)>& Take) {
+    auto* Menu = new QMenu(&Field);
+    Menu->setObjectName(QStringLiteral("mnuDirectories"));
+    Menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (const QString& Each : LastDirectories())
+        QObject::connect(Menu->addAction(AsEntry(Each)), &QAction::triggered, &Field,
+                         [Take, Each] { Take(Each); });
+    if (Menu->isEmpty())
+        Menu->addAction(QObject::tr("No directory has been used yet"))->setEnabled(false);
+    Menu->setActiveAction(Menu->actions().front());
+    Menu->popup(Field.mapToGlobal(QPoint(0, Field.height())));
+}
+
+}  // namespace
+
+QStringList LastDirectories() {
+    const clsSettings Settings = OpenSettings();
+    QStringList All;
+    for (qsizetype Number = 0; Number < MostDirectories; ++Number)
+        if (const QString Dir = ReadText(Settings, PlaceOf(Number)); !Dir.isEmpty()) All << Dir;
+    return All;
+}
+
+void NoteDirectory(const QString& Dir) {
+    QStringList All = LastDirectories();
+    if (All.value(0) == Dir) return;
+    All.removeAll(Dir);
+    All.prepend(Dir);
+    clsSettings Settings = OpenSettings();
+    for (qsizetype Number = 0; Number < std::min<qsizetype>(All.size(), MostDirectories); ++Number)
+        PutText(Settings, PlaceOf(Number), All[Number]);
+    SaveMemory(Settings);
+}
+
+void OfferLastDirectories(QLineEdit& Field, std::function<void(const QString& Dir)> Take) {
+    auto* Open = new QAction(ThemeIcon(QStringLiteral("move-down")),
+                             QObject::tr("Directories used last"), &Field);
+    Open->setObjectName(QStringLiteral("mnuLastDirectories"));
+    Open->setToolTip(QObject::tr("Directories used last (Alt+Down)"));
+    Open->setShortcut(QKeySequence(Qt::ALT | Qt::Key_Down));
+    Open->setShortcutContext(Qt::WidgetShortcut);
+    QObject::connect(Open, &QAction::triggered, &Field,
+                     [&Field, Take = std::move(Take)] { ShowList(Field, Take); });
+    Field.addAction(Open, QLineEdit::TrailingPosition);
+}
+
+}  // namespace neb

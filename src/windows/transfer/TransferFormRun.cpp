@@ -1,0 +1,219 @@
+// Viewing either side of a transfer, and the transfer itself.
+#include <QGroupBox>
+#include <QPointer>
+#include <QScopeGuard>
+
+#include "controls/forms/ScreenPointer.h"
+#include "controls/forms/Tell.h"
+#include "settings/modNEBSlideShow.h"
+#include "support/Fault.h"
+#include "support/modDEValidation.h"
+#include "support/work/WorkAside.h"
+#include "ui_TransferForm.h"
+#include "windows/frame/modNotice.h"
+#include "windows/lists/clsImageBuffer.h"
+#include "windows/transfer/TransferForm.h"
+#include "windows/transfer/frmAlbumView.h"
+#include "windows/transfer/frmSlideShowView.h"
+#include "windows/transfer/frmTransferProgress.h"
+
+namespace neb {
+namespace {
+
+BoxRequest Failed(const QString& Text) {
+    return {Text, QStringLiteral("Operation Failed"), BoxIcon::Critical};
+}
+
+// Below a database its own path goes without saying.
+QString NamesOf(const QStringList& Paths, const QString& DBPath) {
+    constexpr qsizetype MostLines = 15;
+    QStringList Lines;
+    for (const QString& Each : Paths.mid(0, MostLines))
+        Lines << (Each.startsWith(DBPath) ? Each.mid(DBPath.size()) : Each);
+    if (Paths.size() > MostLines)
+        Lines << QObject::tr("... and %1 more").arg(Paths.size() - MostLines);
+    return Lines.join(u'\n');
+}
+
+// Enter, Esc and closing the box all stop.
+bool AskGoOnWithout(const QStringList& Missing, const QString& DBPath) {
+    const QString What = Missing.size() == 1
+                             ? QObject::tr("A file of the source is missing or cannot be read:")
+                             : QObject::tr("%1 files of the source are missing or cannot be read:")
+                                   .arg(Missing.size());
+    return AskYesNo(What + u'\n' + NamesOf(Missing, DBPath) + QStringLiteral("\n\n") +
+                        QObject::tr("Do you want to go on without what is missing?"),
+                    QObject::tr("Missing Files"), BoxAnswer::No);
+}
+
+QString Count(int Number, const QString& One, const QString& Many) {
+    return QString::number(Number) + u' ' + (Number == 1 ? One : Many);
+}
+
+}  // namespace
+
+void TransferForm::ViewAlbum(const TransferSide& Of) {
+    const auto Name = Of.AlbumName();
+    if (!Name) {
+        MsgBox(QStringLiteral("You must select an album in order to view it."));
+        return;
+    }
+    const auto Viewer = NewForm<frmAlbumView>();
+    Remember(Of, Viewer);
+    Viewer->ViewAlbum(*Of.Engine(), Of.AlbumID(), *Name);
+}
+
+void TransferForm::ViewSlideShow(const TransferSide& Of) {
+    const auto Album = Of.AlbumName(), Name = Of.SlideShowName();
+    if (!Album || !Name) {
+        MsgBox(QStringLiteral("You must select a slide show in order to view it."));
+        return;
+    }
+    const auto Viewer = NewForm<frmSlideShowView>();
+    Remember(Of, Viewer);
+    Viewer->ViewSlideShow(*Of.Engine(), Of.AlbumID(), *Album, Of.SlideShowID(), *Name);
+}
+
+void TransferForm::Remember(const TransferSide& Of, const std::shared_ptr<ViewerForm>& Viewer) {
+    if (mOther.Foreign() && Of.Engine() == mOther.Engine()) mOther.Remember(Viewer);
+}
+
+void TransferForm::Start() {
+    if (!IsReady()) return;
+    TransferResult Result = Run();
+    if (Result)
+        Finish(Result);
+    else
+        TellFailure(Result);
+}
+
+bool TransferForm::IsReady() {
+    if (IsUnread() && !(LoadNamed() && IsSourceMeant())) return false;
+    return HasChoices();
+}
+
+// Whoever has named a source and not yet seen what is in it has chosen only where there is nothing
+// to choose.
+bool TransferForm::IsSourceMeant() {
+    const bool OneAlbum = mSrc.AlbumEntries().size() <= 1;
+    const bool OneShow = !mKind.OfShows || mSrc.SlideShowEntries().size() <= 1;
+    if (mKind.Exports || (OneAlbum && OneShow)) return true;
+    (OneAlbum ? mUi->cboSrcSlideShow : mUi->cboSrcAlbum)->setFocus();
+    return false;
+}
+
+bool TransferForm::HasChoices() {
+    if (mKind.OfShows) {
+        if (!mOther.Engine()) TellNoDirectory();
+        return mOther.Engine() != nullptr;
+    }
+    if (!mSrc.HasAlbum())
+        MsgBox(QStringLiteral("You must first select a Source Album."),
+               QStringLiteral("No Source Selected"), BoxIcon::Information);
+    else if (!mDst.HasAlbum())
+        MsgBox(QStringLiteral("You must first select a Destination Album."),
+               QStringLiteral("No Destination Selected"), BoxIcon::Information);
+    return mSrc.HasAlbum() && mDst.HasAlbum();
+}
+
+TransferResult TransferForm::Run() {
+    const PointerScope Working(Pointer::Hourglass);
+    const QPointer<QWidget> Focus = focusWidget();
+    SetTransferring(true);
+    const auto Over = qScopeGuard([this, Focus] {
+        SetTransferring(false);
+        if (Focus) Focus->setFocus();
+    });
+    TransferResult Result;
+    const auto Bar = NewForm<frmTransferProgress>();
+    Bar->setWindowTitle(tr(mKind.Running));
+    try {
+        Bar->ShowOver([&] { Result = Transfer(DeskOf(*Bar)); });
+    } catch (const Fault& Problem) {
+        Result.Boxes = {Failed(Problem.Text())};
+    }
+    return Result;
+}
+
+void TransferForm::SetTransferring(bool Does) {
+    mTransferring = Does;
+    for (QWidget* Each : QList<QWidget*>{mUi->grpFrom, mUi->grpTo, mUi->cmdStart, mUi->cmdCancel})
+        Each->setEnabled(!Does);
+    if (!Does) UpdateControls();
+}
+
+TransferDesk TransferForm::DeskOf(frmTransferProgress& Bar) const {
+    return {.Progress = [&Bar](const TransferProgress& Now) { return Bar.Show(Now); },
+            .GoOnWithout =
+                [this](const QStringList& Missing) {
+                    return AskGoOnWithout(Missing, mSrc.Engine()->DBPath());
+                }};
+}
+
+TransferResult TransferForm::Transfer(const TransferDesk& Desk) {
+    const bool Replace = mUi->chkReplace->isChecked();
+    const bool Updates = mKind.OfShows ? mDst.SlideShowID() != 0 : Replace;
+    const QString Adjective = QString::fromLatin1(Updates ? "Update" : mKind.Adjective);
+    if (mKind.OfShows)
+        return TransferSlideShow(
+            {*mSrc.Engine(), mSrc.AlbumID(), mSrc.SlideShowID(), *mDst.Engine(), mDst.AlbumID(),
+             mDst.SlideShowID(), mUi->txtAlbumName->text(), mUi->txtSlideShowName->text(),
+             Adjective},
+            Desk, this);
+    return TransferAlbum({*mSrc.Engine(), mSrc.AlbumID(), *mDst.Engine(), mDst.AlbumID(), Replace,
+                          mUi->txtAlbumName->text(), Adjective},
+                         Desk, this);
+}
+
+void TransferForm::TellFailure(const TransferResult& Result) {
+    for (const BoxRequest& Each : Result.Boxes) ShowBox(Each);
+    if (mKind.Exports && mOther.Foreign()) RereadOther();
+    if (Result.Is == TransferResult::End::Stopped) ShowNotice(tr("Stopped; nothing was changed."));
+}
+
+void TransferForm::RereadOther() {
+    try {
+        const PointerScope Working(Pointer::Hourglass);
+        mOther.Foreign()->Reread();
+        ListOtherAgain();
+    } catch (const Fault& Problem) {
+        ShowBox(Failed(Problem.Text()));
+        CloseOther();
+    }
+}
+
+// The thumbnails of an album that was there are of slides that may be gone: whoever is told of the
+// change shall not find them.
+void TransferForm::Finish(TransferResult& Result) {
+    if (mKind.Exports && mOther.Foreign())
+        FinishOther(Result);
+    else if (!mKind.OfShows && !mDst.IsNewAlbum() && ImageBuffer)
+        ImageBuffer->ClearAlbum(Result.DstAlbumID);
+    for (Announcement& Each : Result.Changes) Each.Now();
+    const QString Text = DoneText(Result);
+    Unload();
+    ShowNotice(Text);
+}
+
+// What cannot be written to its end now is in the journal, and comes to its end by itself.
+void TransferForm::FinishOther(const TransferResult& Result) {
+    try {
+        const PointerScope Working(Pointer::Hourglass);
+        FinishAside([Other = mOther.Foreign()] { Other->Engine().FinalizeDB(); }).get();
+    } catch (const Fault& Problem) {
+        MsgBox(tr("The transfer is safe, and is completed when that database is opened next.") +
+                   u'\n' + Problem.Text(),
+               tr("Operation Not Yet Completed"), BoxIcon::Information);
+    }
+    mOther.RefillViewers(Result.DstAlbumID);
+}
+
+QString TransferForm::DoneText(const TransferResult& Result) const {
+    QString What = Count(Result.Slides, tr("slide"), tr("slides"));
+    if (!mKind.OfShows)
+        What += QStringLiteral(", ") + Count(Result.Shows, tr("slide show"), tr("slide shows"));
+    const QLineEdit& Name = mKind.OfShows ? *mUi->txtSlideShowName : *mUi->txtAlbumName;
+    return tr(mKind.Done).arg(ConvertQuotes(Name.text()), What);
+}
+
+}  // namespace neb

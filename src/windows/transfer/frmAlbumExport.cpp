@@ -1,0 +1,7 @@
+#include "windows/transfer/frmAlbumExport.h"
+
+namespace neb {
+
+frmAlbumExport::frmAlbumExport() : TransferForm(TransferWindow::AlbumExport) {}
+
+}  // namespace neb

@@ -1,0 +1,7 @@
+#include "windows/transfer/frmAlbumImport.h"
+
+namespace neb {
+
+frmAlbumImport::frmAlbumImport() : TransferForm(TransferWindow::AlbumImport) {}
+
+}  // namespace neb
