@@ -347,6 +347,25 @@ TEST_F(TransferToolTest, RecordsThatAreNotAllWrittenAreCompletedLater) {
     ExpectSound(Dst());
 }
 
+TEST_F(TransferToolTest, FilesThatAreNotAllInTheirPlacesAreNotCalledMissing) {
+    SetHostWatcher([](HostStep Step, const QString& Path, qint64&) {
+        if (Step == HostStep::Rename && Path.contains(u"/Albums/")) throw Fault(u"no"_s, Path);
+    });
+    const Outcome Failed = Transfer();
+    SetHostWatcher({});
+    EXPECT_EQ(Failed.Code, ExitFailed);
+    EXPECT_NE(Failed.Err.find("The transfer is done, but not all of its files are in their places"),
+              std::string::npos)
+        << Failed.Err;
+    EXPECT_EQ(Tool({u"check"_s, Dst()}).Out,
+              "the last write did not come to its end; the next start of the program will complete "
+              "it\nthe files of a transfer are not all in their places yet; the next start of the "
+              "program will put them there\n");
+    EXPECT_EQ(Tool({u"rewrite"_s, Dst()}).Code, ExitDone);
+    EXPECT_EQ(Told(Dst(), u"Holiday"_s), Slides + Shows);
+    ExpectSound(Dst());
+}
+
 TEST_F(TransferToolTest, AnUnfinishedWriteOfTheSourceIsReadAndLeftToTheSource) {
     {
         const auto Engine = OpenEngine(Src());
