@@ -36,6 +36,11 @@ void CheckDatabase(const QString& Dir, Findings& Found, ToolIO& IO) {
     ProgressLine Progress(IO, "Checking");
     const RecordSource Source = CheckJournal(Dir, Found);
     if (HasRecordFiles(Source)) CheckRecords(Source, Found);
+    // Pictures that still wait in Temp would all be called missing.
+    if (ReadJournal(Dir) == JournalState::Whole && HasStagedFiles(Dir))
+        return Found.Add(
+            QStringLiteral("the files of a transfer are not all in their places yet; "
+                           "the next start of the program will put them there"));
     clsDBEngine Engine;
     Engine.SetDBPath(Dir);
     Engine.LoadFrom(Source);

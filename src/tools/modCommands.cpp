@@ -10,6 +10,7 @@
 #include "tools/modImportFolder.h"
 #include "tools/modRehearse.h"
 #include "tools/modRewrite.h"
+#include "tools/modTransfer.h"
 
 namespace neb {
 namespace {
@@ -47,6 +48,27 @@ constexpr Command Table[] = {
      "With --show a slide show of that name is made of the pictures, in their order. A file\n"
      "that cannot be read is named and left out. When the work fails nothing is changed.\n",
      RunImport, Wants::Drawing},
+    {"transfer", "SRC DST --album NAME [--to NAME] [--show NAME] [--replace] [--without-missing]",
+     "copy an album or a show to another database",
+     "Copies the album NAME of the database SRC, with its slides, shows, pictures and sounds, "
+     "into\n"
+     "the album of that name in the database DST. An album that is not there is made; to one that\n"
+     "is there the slides and shows are added, and none of the shows may bear the name of one "
+     "that\n"
+     "is there. In an empty directory DST a database is made. SRC and DST may be the same "
+     "database.\n"
+     "All or nothing: what fails leaves both databases as they were.\n"
+     "\n"
+     "  --to NAME          the album in DST, when it is to bear another name\n"
+     "  --show NAME        only this show of the album, with the slides that it uses\n"
+     "  --replace          what the album holds goes; with --show, a show of the same name goes\n"
+     "  --without-missing  goes on without the pictures and sounds that are missing or cannot be\n"
+     "                     read; else they are listed and nothing is done\n"
+     "\n"
+     "Capital and small letters in names are the same. A database that is in use, and a DST that\n"
+     "is read-only, are left alone.\n"
+     "Exit code 0: transferred; 2: nothing was transferred, or a line says what is left to do.\n",
+     RunTransfer},
     {"effects", "list | timings [FILE] | render ... | sheet OUT", "look at the transitions", "",
      RunEffects, Wants::Drawing, PrintEffectsHelp},
     {"rehearse", "DIR --album NAME --show NAME [--json] [--screen WxH] [--documents DIR]",

@@ -2,6 +2,7 @@
 
 #include "albums/modImport.h"
 #include "albums/modPictureFiles.h"
+#include "albums/transfer/OtherDatabase.h"
 #include "db/clsDBEngine.h"
 #include "db/modDatabaseLock.h"
 #include "db/records/modJournal.h"
@@ -189,18 +190,6 @@ class FolderImport {
     std::int32_t mFirstSlideID = mEngine.NextSlideID;
     std::vector<std::int32_t> mEntered;
 };
-
-// A counter that is not above all that is there would give new pictures the places of old ones.
-bool CountersAreSound(const clsDBEngine& Engine) {
-    for (const auto& Album : Engine.Albums) {
-        if (Album->AlbumID >= Engine.NextAlbumID) return false;
-        for (const auto& Slide : Album->Slides)
-            if (Slide->SlideID >= Engine.NextSlideID) return false;
-        for (const auto& Show : Album->SlideShows)
-            if (Show->SlideShowID >= Engine.NextSlideShowID) return false;
-    }
-    return true;
-}
 
 }  // namespace
 

@@ -457,6 +457,16 @@ TEST_F(NebctlTest, WrongUsageIsTwo) {
         EXPECT_TRUE(Result.Err.contains(u"nowhere"));
         EXPECT_EQ(Result.Out, u"");
     }
+    for (const char* Name : {"import", "transfer"}) {
+        const QString Command = QLatin1String(Name);
+        EXPECT_EQ(Tool({Command}).Code, 2);
+        EXPECT_EQ(Tool({Command, Dir.Path()}).Code, 2);
+        const Outcome Result =
+            Tool({Command, Dir / "nowhere", Dir.Path(), u"--album"_s, u"Fürth"_s});
+        EXPECT_EQ(Result.Code, 2);
+        EXPECT_TRUE(Result.Err.contains(u"nowhere"));
+        EXPECT_EQ(Result.Out, u"");
+    }
     EXPECT_TRUE(Tool({u"frobnicate"_s}).Err.contains(u"frobnicate"));
 }
 
