@@ -47,7 +47,8 @@ QString CommandLineHelp() {
     return QStringLiteral(
         "Usage: neb-slide-show [/DEBUG] [--documents DIR] [FOLDER]\n"
         "  FOLDER           open Quick Show on a folder of pictures\n"
-        "  --documents DIR  keep albums and settings below DIR instead of the documents folder\n"
+        "  --documents DIR  keep albums and settings below DIR instead of the documents folder;\n"
+        "                   or open the albums in DIR, as on a disc\n"
         "  /DEBUG           write the log QLM.log beside the program\n");
 }
 

@@ -8,7 +8,7 @@ namespace neb {
 
 struct CommandLine {
     bool Debug = false;  // the text holds "/DEBUG", in any case
-    QString Documents;   // another documents folder; empty for the user's own
+    QString Documents;   // another documents folder, or a database; empty for the user's own
     QString Folder;      // Quick Show opens on it; empty for none
     QString Problem;     // what is wrong with the arguments; empty when nothing is
     bool WantsHelp = false;

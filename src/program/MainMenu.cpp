@@ -23,8 +23,10 @@
 #include "windows/slides/frmSlideMgrBulk.h"
 #include "windows/transfer/frmAlbumExport.h"
 #include "windows/transfer/frmAlbumImport.h"
+#include "windows/transfer/frmDiscFolder.h"
 #include "windows/transfer/frmSlideShowExport.h"
 #include "windows/transfer/frmSlideShowImport.h"
+#include "windows/transfer/modDiscCheck.h"
 
 namespace neb {
 namespace {
@@ -128,6 +130,13 @@ constexpr Entry Entries[] = {
     {"mnuImportExportHdr", "mnuSlideShowExport", "Exp&ort Slide Show...", "", "export",
      "Take a slide show to another database",
      [](auto&) { TheOpeners().ShowAsChild(*NewForm<frmSlideShowExport>()); }},
+    {"mnuImportExportHdr", "", "", "", "", "", nullptr},
+    {"mnuImportExportHdr", "mnuDiscWrite", "&Write to a Folder for a Disc...", "", "export",
+     "Write albums and slide shows into a folder that plays and checks itself",
+     [](auto&) { TheOpeners().ShowAsChild(*NewForm<frmDiscFolder>()); }},
+    {"mnuImportExportHdr", "mnuDiscCheck", "&Check a Disc...", "", "find-graphics",
+     "Compare a folder that was written for a disc with its check sums",
+     [](auto&) { CheckDisc(); }},
     {"mnuPrintHdr", "mnuAlbumPrint", "Print &Album...", "", "print", "Print the pages of an album",
      NotYet},
     {"mnuPrintHdr", "mnuSlideShowPrint", "Print &Slide Show...", "", "print",

@@ -1,5 +1,5 @@
 // The room in which the main window holds its children. While there are none it says what to do
-// first; folders dropped on it open in Quick Show.
+// first; it tells of folders that are dropped on it.
 #pragma once
 
 #include <QMdiArea>

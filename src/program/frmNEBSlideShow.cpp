@@ -58,7 +58,7 @@ frmNEBSlideShow::frmNEBSlideShow() : mWorkspace(new Workspace(this)) {
     statusBar();  // says what a menu entry does, and takes the notices
     SetUpMenu();
     FillOpeners();
-    connect(mWorkspace, &Workspace::FolderDropped, this, &frmNEBSlideShow::OpenQuickShow);
+    connect(mWorkspace, &Workspace::FolderDropped, this, &frmNEBSlideShow::OpenFolder);
     resize(screen()->availableSize() * 0.85);
 }
 
@@ -116,9 +116,9 @@ void frmNEBSlideShow::CheckReadOnly() {
 }
 
 void frmNEBSlideShow::MakeChildDirs() {
+    if (ReadOnlyDB) return;  // not even an empty folder comes into it
     MakeDir(DBPath() + QStringLiteral("Albums"));
     MakeDir(DBPath() + QStringLiteral("Temp"));
-    if (ReadOnlyDB) return;
     try {
         ProbeDatabaseFolder();
     } catch (const Fault& Problem) {

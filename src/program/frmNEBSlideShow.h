@@ -35,6 +35,9 @@ class frmNEBSlideShow : public QMainWindow {
     void UnloadChild(Form& Child);
     // Opens Quick Show on a folder (a box when it is none), or with no folder yet.
     void OpenQuickShow(const QString& Folder = {});
+    // A folder that was dropped on the window: albums open in a second instance of the program,
+    // pictures in Quick Show.
+    void OpenFolder(const QString& Folder);
 
     FlexGrid* flxBuffer() const { return mBuffer; }
     Workspace& Area() const { return *mWorkspace; }  // where the children stand

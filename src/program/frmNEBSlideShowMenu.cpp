@@ -5,14 +5,18 @@
 #include <QPointer>
 #include <QStatusBar>
 
+#include "albums/transfer/OtherDatabase.h"
 #include "controls/forms/Form.h"
 #include "program/MainMenu.h"
+#include "program/OtherInstance.h"
 #include "program/Workspace.h"
 #include "program/frmNEBSlideShow.h"
+#include "settings/modNEBSlideShow.h"
 #include "support/Services.h"
 #include "support/files/modHostFiles.h"
 #include "windows/compose/frmSlideShowDBM.h"
 #include "windows/frame/Openers.h"
+#include "windows/frame/modNotice.h"
 #include "windows/frame/modWindowState.h"
 #include "windows/import/frmQuickShow.h"
 
@@ -58,6 +62,17 @@ void frmNEBSlideShow::OpenQuickShow(const QString& Folder) {
     const auto Window = NewForm<frmQuickShow>();
     if (!Folder.isEmpty()) Window->SetImportDir(AbsolutePath(Folder));
     ShowAsChild(*Window);
+}
+
+void frmNEBSlideShow::OpenFolder(const QString& Folder) {
+    const QString Database = DatabaseIn(Folder);
+    if (!HoldsDatabase(Database)) return OpenQuickShow(Folder);
+    if (IsSameDatabase(Database, DBPath()))
+        return ShowNotice(tr("The albums in %1 are those that are open here.").arg(Folder));
+    if (OpenInOtherInstance(Database))
+        return ShowNotice(tr("The albums in %1 open in a window of their own.").arg(Folder));
+    MsgBox(tr("The program cannot be started once more to open the albums in %1.").arg(Folder),
+           tr("Albums Cannot Be Opened"), BoxIcon::Critical);
 }
 
 void frmNEBSlideShow::ListWindows() {

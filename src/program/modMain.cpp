@@ -7,8 +7,10 @@
 #include "controls/forms/Form.h"
 #include "controls/forms/NebApplication.h"
 #include "db/modDatabaseLock.h"
+#include "db/records/modJournal.h"
 #include "program/CommandLine.h"
 #include "program/DesktopServices.h"
+#include "program/OtherInstance.h"
 #include "program/TerminationWatch.h"
 #include "program/frmNEBSlideShow.h"
 #include "settings/modNEBSlideShow.h"
@@ -94,6 +96,10 @@ bool BecomeTheInstance(InstanceLock& Lock) {
     return false;
 }
 
+bool BecomeTheInstanceOn(const QString& Database, InstanceLock& Lock) {
+    return !MayWriteDatabase(Database) || BecomeTheInstance(Lock);
+}
+
 int Main(int argc, char** argv) {
     const CommandLine Asked = ParseCommandLine(WordsOf(argc, argv));
     if (Asked.WantsHelp || Asked.WantsVersion) return AnswerOnTerminal(Asked);
@@ -108,7 +114,8 @@ int Main(int argc, char** argv) {
     const std::optional<QString> Database = DatabaseToOpen();
     if (!Database) return 1;
     InstanceLock Lock(DatabaseLockPath(*Database));
-    if (!BecomeTheInstance(Lock)) return 0;
+    if (!BecomeTheInstanceOn(*Database, Lock)) return 0;
+    TheInstanceStarter() = &StartOwnProgram;
     return RunMainWindow(Line);
 }
 

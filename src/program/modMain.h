@@ -18,6 +18,8 @@ void CloseWhenIdle(frmNEBSlideShow& Window);
 
 // Takes the lock of the one running instance; false after a box when another one runs.
 bool BecomeTheInstance(InstanceLock& Lock);
+// The same for a database; any number may look at one that cannot be changed, and leave no lock.
+bool BecomeTheInstanceOn(const QString& Database, InstanceLock& Lock);
 
 // The exit code of the program.
 int Main(int argc, char** argv);

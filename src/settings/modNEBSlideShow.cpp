@@ -29,6 +29,12 @@ constexpr char16_t LegalSigns[] = u"!#$().,_-~@^:;'<>/\\=+|[]{} ";
 constexpr char Maker[] = "NEB";
 constexpr char OwnFolder[] = "NEB Slide Show/";
 
+// A database that is opened as it lies, on a disc or a stick, with its own settings beside its
+// records: it stands for the documents folder then.
+QString DatabaseAsDocuments;
+// One that cannot be changed is still visited with settings: they last as long as the program runs.
+std::unique_ptr<ScratchDir> SettingsOfVisit;
+
 QString UserDocuments() {
     const QString Path = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     MakeDir(Path);
@@ -39,6 +45,23 @@ clsSettings SettingsIn(const QString& Folder) {
     clsSettings Settings;
     Settings.SetFileName(Folder + INIFileName());
     Settings.Load();
+    return Settings;
+}
+
+// Without one the settings can be read alone.
+std::unique_ptr<ScratchDir> PlaceForSettings() {
+    try {
+        return std::make_unique<ScratchDir>();
+    } catch (const Fault&) {
+        return nullptr;
+    }
+}
+
+clsSettings VisitorsSettings() {
+    const QString Path = SettingsOfVisit->Path();
+    const bool Begun = FileExists(Path + INIFileName());
+    clsSettings Settings = SettingsIn(Begun ? Path : DatabaseAsDocuments);
+    Settings.SetFileName(Path + INIFileName());
     return Settings;
 }
 
@@ -71,7 +94,10 @@ QString SettingsFolderBelow(const QString& Dir) {
 
 void SetDocumentsPath(const QString& Path) {
     DocumentsPath = WithSeparator(AbsolutePath(Path));
-    DBPathCache.clear();
+    DatabaseAsDocuments = HoldsRecords(DocumentsPath) ? DocumentsPath : QString();
+    DBPathCache = DatabaseAsDocuments;
+    const bool IsFixed = !DatabaseAsDocuments.isEmpty() && !MayWriteDatabase(DatabaseAsDocuments);
+    SettingsOfVisit = IsFixed ? PlaceForSettings() : nullptr;
 }
 
 QString AppPath() {
@@ -86,10 +112,12 @@ QString INIFileName() {
 
 QString SettingsDir() {
     if (DocumentsPath.isEmpty()) DocumentsPath = WithSeparator(UserDocuments());
+    if (DocumentsPath == DatabaseAsDocuments) return DocumentsPath;
     return DocumentsPath + QLatin1String(Maker) + u'/' + QLatin1String(OwnFolder);
 }
 
 clsSettings OpenSettings() {
+    if (SettingsOfVisit && DocumentsPath == DatabaseAsDocuments) return VisitorsSettings();
     return SettingsIn(SettingsDir());
 }
 

@@ -24,7 +24,8 @@ extern QString AppPathCache;
 extern QString DBPathCache;
 extern QString DocumentsPath;
 
-// Another documents folder than the user's own, for portable use; before anything asks.
+// Another documents folder than the user's own, for portable use; before anything asks. A database
+// directory is opened as it lies: it is DBPath and SettingsDir then.
 void SetDocumentsPath(const QString& Path);
 
 QString AppPath();      // the program's directory
@@ -35,6 +36,8 @@ QString DBPath();       // the database directory: the key "DBPath", else Settin
 // a documents folder, the database that the program keeps below it, its own key "DBPath" included;
 // else the directory itself. With closing separator.
 QString DatabaseIn(const QString& Dir);
+// Those of a database that is opened as it lies and cannot be changed are kept elsewhere when they
+// are saved, and last as long as the program runs.
 clsSettings OpenSettings();
 // One line of date and time, level and text at the end of "QLM.log"; every error is ignored.
 void LogMessage(const QString& Level, const QString& Message);

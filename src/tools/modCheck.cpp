@@ -1,8 +1,12 @@
 #include "tools/modCheck.h"
 
 #include "db/records/modJournal.h"
+#include "support/files/CheckSums.h"
+#include "support/files/modHostFiles.h"
+#include "support/modFUFL.h"
 #include "tools/modCheckFiles.h"
 #include "tools/modCheckRecords.h"
+#include "tools/modCheckSums.h"
 #include "tools/modCommands.h"
 
 namespace neb {
@@ -28,19 +32,38 @@ bool HasRecordFiles(const RecordSource& Source) {
                        [&](RecordFile File) { return Source(File).has_value(); });
 }
 
+void CheckDatabase(const QString& Dir, Findings& Found, ToolIO& IO) {
+    ProgressLine Progress(IO, "Checking");
+    const RecordSource Source = CheckJournal(Dir, Found);
+    if (HasRecordFiles(Source)) CheckRecords(Source, Found);
+    // Pictures that still wait in Temp would all be called missing.
+    if (ReadJournal(Dir) == JournalState::Whole && HasStagedFiles(Dir))
+        return Found.Add(
+            QStringLiteral("the files of a transfer are not all in their places yet; "
+                           "the next start of the program will put them there"));
+    clsDBEngine Engine;
+    Engine.SetDBPath(Dir);
+    Engine.LoadFrom(Source);
+    CheckAlbumFiles(Engine, Found, Progress);
+}
+
+// The list lies at the top of what was written to a disc: that may be the documents folder above
+// the database.
+QString FolderOfSums(const QString& Named, const QString& Dir) {
+    const QString Top = WithSeparator(Named);
+    return FileExists(Top + QLatin1String(SumsName)) ? Top : Dir;
+}
+
 }  // namespace
 
 int RunCheck(const QStringList& Arguments, ToolIO& IO) {
-    const std::optional<QString> Dir = OneDirectory(Arguments, IO);
+    QStringList Words = Arguments;
+    const bool WithFiles = Words.removeAll(QStringLiteral("--files")) > 0;
+    const std::optional<QString> Dir = OneDirectory(Words, IO);
     if (!Dir) return ExitFailed;
     Findings Found(IO);
-    ProgressLine Progress(IO, "Checking");
-    const RecordSource Source = CheckJournal(*Dir, Found);
-    if (HasRecordFiles(Source)) CheckRecords(Source, Found);
-    clsDBEngine Engine;
-    Engine.SetDBPath(*Dir);
-    Engine.LoadFrom(Source);
-    CheckAlbumFiles(Engine, Found, Progress);
+    CheckDatabase(*Dir, Found, IO);
+    if (WithFiles) CompareWithSums(FolderOfSums(Words[0], *Dir), Found, IO);
     return Found.Count() == 0 ? ExitDone : ExitFound;
 }
 

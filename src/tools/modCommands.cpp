@@ -1,5 +1,6 @@
 #include "tools/modCommands.h"
 
+#include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
@@ -9,6 +10,7 @@
 #include "tools/modImportFolder.h"
 #include "tools/modRehearse.h"
 #include "tools/modRewrite.h"
+#include "tools/modTransfer.h"
 
 namespace neb {
 namespace {
@@ -20,11 +22,16 @@ constexpr Command Table[] = {
      "order of the files. Nothing in DIR is changed. When the last write did not come to its\n"
      "end, the records are shown as the next start of the program will complete them.\n",
      RunDump},
-    {"check", "DIR", "look for what is wrong with a database",
+    {"check", "DIR [--files]", "look for what is wrong with a database",
      "Prints one line for each record that the program would drop, each picture, thumbnail or\n"
      "sound that is missing, each file in Albums that no record names, each key that stands\n"
      "twice, each record file with an odd tail, each place of a show without its slide, and\n"
      "a write that did not come to its end. Nothing in DIR is changed.\n"
+     "\n"
+     "  --files  compares every file with the check sums in Sums.sha256, too, as they lie on a\n"
+     "           disc that the program has written: a line for each file that was changed, is\n"
+     "           missing or cannot be read\n"
+     "\n"
      "Exit code 0: nothing found; 1: something found; 2: not checked.\n",
      RunCheck},
     {"rewrite", "DIR", "load a database and write it again",
@@ -36,10 +43,32 @@ constexpr Command Table[] = {
     {"import", "DIR FOLDER --album NAME [--recurse] [--show NAME]",
      "bring a folder of pictures into an album",
      "Takes the pictures of FOLDER, with --recurse those of the folders below it as well, into\n"
-     "the album NAME of the database in DIR. An album or a database that is not there is made.\n"
+     "the album NAME of the database in DIR. An album or a database that is not there is made;\n"
+     "below a documents folder, where the program will look for it.\n"
      "With --show a slide show of that name is made of the pictures, in their order. A file\n"
      "that cannot be read is named and left out. When the work fails nothing is changed.\n",
      RunImport, Wants::Drawing},
+    {"transfer", "SRC DST --album NAME [--to NAME] [--show NAME] [--replace] [--without-missing]",
+     "copy an album or a show to another database",
+     "Copies the album NAME of the database SRC, with its slides, shows, pictures and sounds, "
+     "into\n"
+     "the album of that name in the database DST. An album that is not there is made; to one that\n"
+     "is there the slides and shows are added, and none of the shows may bear the name of one "
+     "that\n"
+     "is there. In an empty directory DST a database is made. SRC and DST may be the same "
+     "database.\n"
+     "All or nothing: what fails leaves both databases as they were.\n"
+     "\n"
+     "  --to NAME          the album in DST, when it is to bear another name\n"
+     "  --show NAME        only this show of the album, with the slides that it uses\n"
+     "  --replace          what the album holds goes; with --show, a show of the same name goes\n"
+     "  --without-missing  goes on without the pictures and sounds that are missing or cannot be\n"
+     "                     read; else they are listed and nothing is done\n"
+     "\n"
+     "Capital and small letters in names are the same. A database that is in use, and a DST that\n"
+     "is read-only, are left alone.\n"
+     "Exit code 0: transferred; 2: nothing was transferred, or a line says what is left to do.\n",
+     RunTransfer},
     {"effects", "list | timings [FILE] | render ... | sheet OUT", "look at the transitions", "",
      RunEffects, Wants::Drawing, PrintEffectsHelp},
     {"rehearse", "DIR --album NAME --show NAME [--json] [--screen WxH] [--documents DIR]",
@@ -77,6 +106,7 @@ constexpr const char* Outline =
     "nebctl looks into and after the databases of NEB Slide Show.\n\n"
     "Usage: nebctl COMMAND ARGUMENTS\n"
     "       nebctl COMMAND --help\n\n"
+    "Wherever a database is wanted, the documents folder above it will do as well.\n\n"
     "Commands:\n";
 
 bool AsksForHelp(const QString& Argument) {
@@ -148,11 +178,20 @@ std::optional<QString> OneDirectory(const QStringList& Arguments, ToolIO& IO) {
         Fail(IO, QStringLiteral("One database directory is wanted; see --help."));
         return std::nullopt;
     }
-    if (!FolderExists(Arguments[0])) {
-        Fail(IO, QStringLiteral("There is no directory %1.").arg(Arguments[0]));
-        return std::nullopt;
-    }
-    return WithSeparator(Arguments[0]);
+    const std::optional<QString> Named = FolderNamed(Arguments[0], IO);
+    if (!Named) return std::nullopt;
+    const QString Dir = DatabaseIn(*Named);
+    if (FolderExists(Dir)) return Dir;
+    Fail(IO, QStringLiteral("There is no directory %1, where the settings in %2 say that the "
+                            "database is.")
+                 .arg(Dir, *Named));
+    return std::nullopt;
+}
+
+std::optional<QString> FolderNamed(const QString& Argument, ToolIO& IO) {
+    if (FolderExists(Argument)) return WithSeparator(Argument);
+    Fail(IO, QStringLiteral("There is no directory %1.").arg(Argument));
+    return std::nullopt;
 }
 
 }  // namespace neb

@@ -2,6 +2,7 @@
 
 #include "albums/modImport.h"
 #include "albums/modPictureFiles.h"
+#include "albums/transfer/OtherDatabase.h"
 #include "db/clsDBEngine.h"
 #include "db/modDatabaseLock.h"
 #include "db/records/modJournal.h"
@@ -65,10 +66,11 @@ std::optional<ImportOrder> ReadOrder(QStringList Arguments, ToolIO& IO) {
         Fail(IO, QStringLiteral("Slide show names must be <= 80 characters long."));
         return std::nullopt;
     }
-    for (const QString& Place : Places)
-        if (!OneDirectory({Place}, IO)) return std::nullopt;
-    Order.Dir = WithSeparator(Places[0]);
-    Order.Folder = WithSeparator(Places[1]);
+    const auto Dir = OneDirectory({Places[0]}, IO);
+    const auto Folder = Dir ? FolderNamed(Places[1], IO) : std::nullopt;
+    if (!Folder) return std::nullopt;
+    Order.Dir = *Dir;
+    Order.Folder = *Folder;
     return Order;
 }
 
@@ -188,18 +190,6 @@ class FolderImport {
     std::int32_t mFirstSlideID = mEngine.NextSlideID;
     std::vector<std::int32_t> mEntered;
 };
-
-// A counter that is not above all that is there would give new pictures the places of old ones.
-bool CountersAreSound(const clsDBEngine& Engine) {
-    for (const auto& Album : Engine.Albums) {
-        if (Album->AlbumID >= Engine.NextAlbumID) return false;
-        for (const auto& Slide : Album->Slides)
-            if (Slide->SlideID >= Engine.NextSlideID) return false;
-        for (const auto& Show : Album->SlideShows)
-            if (Show->SlideShowID >= Engine.NextSlideShowID) return false;
-    }
-    return true;
-}
 
 }  // namespace
 

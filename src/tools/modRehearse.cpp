@@ -6,7 +6,7 @@
 #include "db/clsDBEngine.h"
 #include "settings/modNEBSlideShow.h"
 #include "show/rehearsal/RehearsalFindings.h"
-#include "support/modDEValidation.h"
+#include "tools/Named.h"
 #include "tools/modCommands.h"
 #include "tools/modRehearseSheet.h"
 #include "tools/words/modWords.h"
@@ -77,30 +77,6 @@ class UserSettings {
   private:
     QString mDocuments, mDBPath;
 };
-
-// The one of that name, case ignored; also as the program would have taken the typed quotes.
-template <class Object>
-const Object* Named(const std::vector<std::unique_ptr<Object>>& Objects, QString Object::*Name,
-                    const QString& Wanted) {
-    for (const QString& Text : {Wanted, ConvertQuotes(Wanted)})
-        for (const auto& Each : Objects)
-            if ((Each.get()->*Name).compare(Text, Qt::CaseInsensitive) == 0) return Each.get();
-    return nullptr;
-}
-
-template <class Object>
-QString NamesOf(const std::vector<std::unique_ptr<Object>>& Objects, QString Object::*Name) {
-    QStringList Names;
-    for (const auto& Each : Objects) Names << u'"' + Each.get()->*Name + u'"';
-    return Names.isEmpty() ? QStringLiteral("none") : Names.join(QStringLiteral(", "));
-}
-
-int Unknown(ToolIO& IO, const QString& What, const QString& Wanted, const QString& Names) {
-    if (Wanted.isEmpty())
-        return Fail(IO, QStringLiteral("--%1 NAME is wanted; there are: %2.").arg(What, Names));
-    return Fail(IO,
-                QStringLiteral("There is no %1 \"%2\"; there are: %3.").arg(What, Wanted, Names));
-}
 
 int Rehearse(clsDBEngine& Engine, const clsNEBAlbum& Album, const clsNEBSlideShow& SlideShow,
              const RehearseOrder& Order, ToolIO& IO) {

@@ -1,5 +1,6 @@
 #include "tools/modRewrite.h"
 
+#include "albums/transfer/OtherDatabase.h"
 #include "db/clsDBEngine.h"
 #include "db/modDatabaseLock.h"
 #include "db/records/modJournal.h"
@@ -7,20 +8,11 @@
 #include "tools/modCommands.h"
 
 namespace neb {
-namespace {
-
-// Loading a directory without counters forgets whatever records lie there; writing that back
-// would be the end of them.
-bool HoldsDatabase(const QString& Dir) {
-    return FileExists(RecordPath(Dir, RecordFile::NextIDs)) ||
-           ReadJournal(Dir) == JournalState::Whole;
-}
-
-}  // namespace
-
 int RunRewrite(const QStringList& Arguments, ToolIO& IO) {
     const std::optional<QString> Dir = OneDirectory(Arguments, IO);
     if (!Dir) return ExitFailed;
+    // Loading a directory without counters forgets whatever records lie there; writing that back
+    // would be the end of them.
     if (!HoldsDatabase(*Dir))
         return Fail(IO, QStringLiteral("There is no database in %1.").arg(*Dir));
     if (!MayWriteDatabase(*Dir))

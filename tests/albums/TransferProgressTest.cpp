@@ -43,7 +43,7 @@ TEST(TransferProgress, SaysWhatIsDoneBeforeAndAfterTheCopying) {
 }
 
 TEST(TransferProgress, SizesAreRoundedToWhatMatters) {
-    const auto Size = [](qint64 Bytes) { return SizeText(Bytes).toStdString(); };
+    const auto Size = [](qint64 Bytes) { return ShortSize(Bytes).toStdString(); };
     EXPECT_EQ("0 bytes", Size(0));
     EXPECT_EQ("999 bytes", Size(999));
     EXPECT_EQ("1 KB", Size(1000));

@@ -10,7 +10,9 @@
 
 #include "db/Fixtures.h"
 #include "db/modAlbumFiles.h"
+#include "db/modDatabaseLock.h"
 #include "support/Fault.h"
+#include "support/files/CheckSums.h"
 #include "tools/modCommands.h"
 #include "tools/words/JsonWriter.h"
 
@@ -299,6 +301,92 @@ TEST_F(NebctlTest, CheckFindsAnUnfinishedWrite) {
     EXPECT_TRUE(Tool({u"check"_s, Dir.Path()}).Out.startsWith(u"a write was given up"));
 }
 
+TEST_F(NebctlTest, CheckComparesTheFilesWithTheirSumsWhenAskedTo) {
+    WriteFile(Dir / "README.txt", "for people");
+    WriteFile(Dir / "QLM.ini", "Timeout=5\n");
+    InstanceLock Lock(DatabaseLockPath(Dir.Path()));
+    ASSERT_TRUE(Lock.TryLock());
+    ASSERT_TRUE(WriteSums(Dir.Path()));
+    EXPECT_FALSE(ReadFile(Dir / "Sums.sha256").contains("InUse.lock")) << "it comes and goes";
+    const QStringList Words = {u"check"_s, Dir.Path(), u"--files"_s};
+    const Outcome Clean = Tool(Words);
+    EXPECT_EQ(Clean.Code, ExitDone);
+    EXPECT_EQ(Clean.Out + Clean.Err, u"");
+    WriteFile(Dir / "Albums/1/Slides/00000001.jpg", "pictvre");
+    WriteFile(Dir / "README.txt", "");
+    DeleteFile(Dir / "QLM.ini");
+    const QStringList Before = Everything(Dir.Path());
+    const Outcome Damaged = Tool(Words);
+    EXPECT_EQ(Damaged.Code, ExitFound);
+    EXPECT_EQ(Damaged.Out,
+              u"changed: Albums/1/Slides/00000001.jpg\n"
+              "missing: QLM.ini\n"
+              "changed: README.txt\n"_s);
+    EXPECT_EQ(Everything(Dir.Path()), Before);
+    EXPECT_EQ(Tool({u"check"_s, Dir.Path()}).Code, ExitDone) << "only when asked to";
+}
+
+TEST_F(NebctlTest, CheckNamesWhatCannotBeReadAmongTheFiles) {
+    ASSERT_TRUE(WriteSums(Dir.Path()));
+    DeleteFile(Dir / "Albums/1/Slides/00000001Small.bmp");
+    MakeDirs(Dir / "Albums/1/Slides/00000001Small.bmp");
+    const Outcome Result = Tool({u"check"_s, u"--files"_s, Dir.Path()});
+    EXPECT_EQ(Result.Code, ExitFound);
+    EXPECT_TRUE(Result.Out.endsWith(u"\ncannot be read: Albums/1/Slides/00000001Small.bmp\n"))
+        << Result.Out.toStdString();
+}
+
+TEST_F(NebctlTest, CheckWithoutSumsOrWithSenselessOnesDoesNotCallTheFilesSound) {
+    const Outcome None = Tool({u"check"_s, Dir.Path(), u"--files"_s});
+    EXPECT_EQ(None.Code, ExitFound);
+    EXPECT_EQ(
+        None.Out,
+        u"there is no Sums.sha256 in %1, so that the files cannot be compared\n"_s.arg(Dir.Path()));
+    WriteFile(Dir / "Sums.sha256", "garbage\n");
+    const Outcome Garbage = Tool({u"check"_s, Dir.Path(), u"--files"_s});
+    EXPECT_EQ(Garbage.Code, ExitFailed);
+    EXPECT_TRUE(Garbage.Err.contains(u"Line 1 cannot be understood."_s));
+}
+
+TEST_F(NebctlTest, ComparingShowsItsProgressOnATerminal) {
+    ASSERT_TRUE(WriteSums(Dir.Path()));
+    const Outcome Shown = Tool({u"check"_s, Dir.Path(), u"--files"_s}, true);
+    EXPECT_TRUE(Shown.Err.contains(u"Comparing 100 %")) << Shown.Err.toStdString();
+    EXPECT_TRUE(Shown.Err.endsWith(u"\r\033[K"));
+    EXPECT_EQ(Shown.Out, u"");
+}
+
+// Moves the database to where the program keeps it below a documents folder.
+TEST_F(NebctlTest, TheDocumentsFolderAboveADatabaseWillDo) {
+    TempFolder Documents;
+    const QString Home = Documents / "NEB/NEB Slide Show/";
+    const QString Records = Tool({u"dump"_s, Dir.Path()}).Out;
+    MakeDirs(Documents / "NEB");
+    ASSERT_TRUE(QFile::rename(Dir.Path().chopped(1), Home.chopped(1)));
+    for (const QString& Named : {Documents.Path(), Documents / "NEB", Home}) {
+        EXPECT_EQ(Tool({u"dump"_s, Named}).Out, Records) << Named.toStdString();
+        EXPECT_EQ(Tool({u"rewrite"_s, Named}).Code, ExitDone);
+    }
+    WriteFile(Documents / "README.txt", "for people");
+    ASSERT_TRUE(WriteSums(Documents.Path()));
+    EXPECT_EQ(Tool({u"check"_s, Documents.Path(), u"--files"_s}).Out, u"");
+    WriteFile(Documents / "README.txt", "for nobody");
+    EXPECT_EQ(Tool({u"check"_s, Documents.Path(), u"--files"_s}).Out, u"changed: README.txt\n");
+    ASSERT_TRUE(QFile::rename(Home.chopped(1), Dir.Path().chopped(1)));
+}
+
+TEST_F(NebctlTest, ASettingThatLeadsNowhereIsToldAndNothingIsMadeThere) {
+    TempFolder Documents;
+    MakeDirs(Documents / "NEB/NEB Slide Show");
+    WriteFile(Documents / "NEB/NEB Slide Show/QLM.ini", "[General]\nDBPath=/nowhere/at/all\n");
+    const QStringList Before = Everything(Documents.Path());
+    const Outcome Result = Tool({u"import"_s, Documents.Path(), Dir.Path(), u"--album"_s, u"x"_s});
+    EXPECT_EQ(Result.Code, ExitFailed);
+    EXPECT_TRUE(Result.Err.contains(u"There is no directory /nowhere/at/all/, where "_s))
+        << Result.Err.toStdString();
+    EXPECT_EQ(Everything(Documents.Path()), Before);
+}
+
 TEST_F(NebctlTest, RewriteDropsOrphansAndLeavesACleanDatabase) {
     const auto Before = AllRecords(Dir.Path());
     EXPECT_EQ(Tool({u"rewrite"_s, Dir.Path()}).Code, 0);
@@ -365,6 +453,16 @@ TEST_F(NebctlTest, WrongUsageIsTwo) {
         EXPECT_EQ(Tool({Command, Dir.Path(), Dir.Path()}).Code, 2);
         EXPECT_EQ(Tool({Command, u"--unknown"_s}).Code, 2);
         const Outcome Result = Tool({Command, Dir / "nowhere"});
+        EXPECT_EQ(Result.Code, 2);
+        EXPECT_TRUE(Result.Err.contains(u"nowhere"));
+        EXPECT_EQ(Result.Out, u"");
+    }
+    for (const char* Name : {"import", "transfer"}) {
+        const QString Command = QLatin1String(Name);
+        EXPECT_EQ(Tool({Command}).Code, 2);
+        EXPECT_EQ(Tool({Command, Dir.Path()}).Code, 2);
+        const Outcome Result =
+            Tool({Command, Dir / "nowhere", Dir.Path(), u"--album"_s, u"Fürth"_s});
         EXPECT_EQ(Result.Code, 2);
         EXPECT_TRUE(Result.Err.contains(u"nowhere"));
         EXPECT_EQ(Result.Out, u"");
@@ -478,6 +576,34 @@ TEST_F(NebctlImportTest, MakesTheAlbumAndTheShowInAnEmptyDirectory) {
     const QString Stored = SlidesFolder(Database(), Album.AlbumID) + u"00000001.jpg"_s;
     EXPECT_EQ(QImage::fromData(ReadFile(Stored)).size(), QSize(984, 768));
     EXPECT_EQ(Tool({u"check"_s, Database()}).Code, ExitDone);
+}
+
+TEST_F(NebctlImportTest, ADocumentsFolderGetsNoSecondDatabaseThatTheProgramNeverSees) {
+    const QString Home = Database() + u"NEB/NEB Slide Show/"_s;
+    MakeDirs(Home);
+    WriteFile(Home + u"QLM.ini"_s, "Timeout=5\n");
+    for (const size_t Slides : {2U, 4U}) {
+        EXPECT_EQ(Import({}).Code, ExitDone);
+        EXPECT_EQ(ListDir(Database()).size(), 1U) << "beside the folder NEB nothing was made";
+        ASSERT_EQ(OpenEngine(Home)->Albums.size(), 1U);
+        EXPECT_EQ(OpenEngine(Home)->Albums[0]->Slides.size(), Slides);
+    }
+    EXPECT_EQ(Tool({u"check"_s, Home}).Code, ExitDone);
+}
+
+TEST_F(NebctlImportTest, TheSettingsOfADocumentsFolderLeadToItsDatabase) {
+    const QString Home = Database() + u"NEB/NEB Slide Show/"_s;
+    MakeDirs(Home + u"albums"_s);
+    WriteFile(Home + u"QLM.ini"_s, "[General]\nDBPath=albums\n");
+    EXPECT_EQ(Import({}).Code, ExitDone);
+    EXPECT_EQ(OpenEngine(Home + u"albums/"_s)->Albums.size(), 1U);
+    EXPECT_FALSE(FileExists(Home + u"NextIDs.dat"_s));
+}
+
+// The folder of pictures is taken as it is named, whatever lies below it.
+TEST_F(NebctlImportTest, ThePicturesOfADocumentsFolderAreThoseInIt) {
+    MakeDirs(Pictures() + u"NEB/NEB Slide Show"_s);
+    EXPECT_EQ(Import({}).Out, u"2 pictures imported into the album \"New\".\n"_s);
 }
 
 TEST_F(NebctlImportTest, WithoutRecurseTheFoldersBelowAreLeftAlone) {

@@ -200,6 +200,16 @@ TEST_F(RehearseTest, RehearsesAShowWithNothingInIt) {
     EXPECT_EQ(ExitFound, Result.Code);
 }
 
+TEST_F(RehearseTest, TheDocumentsFolderAboveTheDatabaseWillDo) {
+    WriteAt(Folder / u"docs/NEB/NEB Slide Show/"_s, u"QLM.ini"_s,
+            "Timeout=7\n[General]\nDBPath=../../../db\n");
+    const Outcome Result = Tool({u"rehearse"_s, Folder / u"docs"_s, u"--album"_s, u"Holiday"_s,
+                                 u"--show"_s, u"Lake"_s, u"--documents"_s, Folder / u"docs"_s});
+    EXPECT_EQ(ExitDone, Result.Code) << Result.Err;
+    EXPECT_TRUE(Result.Out.starts_with("Album \"Holiday\", show \"Lake\": automatic, 7 s a slide"))
+        << Result.Out;
+}
+
 TEST_F(RehearseTest, SaysWhatThereIsWhenANameIsUnknown) {
     const QString Db = Folder / u"db"_s;
     EXPECT_EQ("nebctl: There is no album \"Work\"; there are: \"Holiday\".\n",

@@ -2,7 +2,7 @@
 
 #include <atomic>
 
-#include "db/records/StagedFiles.h"
+#include "db/records/modJournal.h"
 #include "support/files/modHostFiles.h"
 #include "support/files/modHostFilesCopy.h"
 #include "support/modFUFL.h"
@@ -115,13 +115,14 @@ FileStage::FileStage(const QString& DBPath, const std::vector<FoundFile>& Files)
 }
 
 FileStage::~FileStage() {
-    if (mKept) return;
+    if (!mIsOurs) return;
     DropStagedFiles(mDBPath);
     for (const QString& Folder : mMadeFolders) DeleteFolder(Folder);
 }
 
 bool FileStage::Copy(const TransferGoOn& GoOn) {
-    DropStagedFiles(mDBPath);
+    SettleCommitted(mDBPath);  // what an earlier transfer may have left
+    mIsOurs = true;
     MakeDirs(StagingFolder(mDBPath));
     const auto SoFar = std::make_shared<Copied>();
     Job<> Work([Mine = std::make_shared<Copier>(mFiles, ResolvePath(StagingFolder(mDBPath)),

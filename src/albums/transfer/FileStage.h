@@ -32,7 +32,7 @@ std::optional<FilesLookedFor> LookForFiles(const std::vector<FileToCopy>& Files,
 class FileStage {
   public:
     FileStage(const QString& DBPath, const std::vector<FoundFile>& Files);
-    ~FileStage();  // unless kept, all that was made below Temp goes
+    ~FileStage();  // all that was made below Temp goes, unless it is kept
     FileStage(const FileStage&) = delete;
     FileStage& operator=(const FileStage&) = delete;
 
@@ -40,13 +40,13 @@ class FileStage {
     bool Copy(const TransferGoOn& GoOn);
     // Of one of the files, in the staging folder.
     QString NameOf(size_t Which) const { return QString::number(Which); }
-    void Keep() { mKept = true; }
+    void Keep() { mIsOurs = false; }  // what is staged belongs to a journal now
 
   private:
     const QString mDBPath;
     const std::vector<FoundFile>& mFiles;
     std::vector<QString> mMadeFolders;  // from the innermost
-    bool mKept = false;
+    bool mIsOurs = false;
 };
 
 }  // namespace neb

@@ -25,7 +25,7 @@ QString TimeText(double Seconds) {
 
 }  // namespace
 
-QString SizeText(qint64 Bytes) {
+QString ShortSize(qint64 Bytes) {
     const double Size = static_cast<double>(Bytes);
     if (Size < 1e3) return QStringLiteral("%1 bytes").arg(Bytes);
     if (Size < 1e6) return QStringLiteral("%1 KB").arg(std::lround(Size / 1e3));
@@ -42,7 +42,7 @@ QString ProgressText(const TransferProgress& Now, double Seconds) {
     QStringList Parts;
     if (Now.OfPictures > 0)
         Parts << QStringLiteral("picture %1 of %2").arg(Count(Now.Pictures), Count(Now.OfPictures));
-    Parts << QStringLiteral("%1 of %2").arg(SizeText(Now.Bytes), SizeText(Now.OfBytes));
+    Parts << QStringLiteral("%1 of %2").arg(ShortSize(Now.Bytes), ShortSize(Now.OfBytes));
     if (Now.Bytes > 0 && Seconds >= LeastSeconds)
         Parts << TimeText(Seconds * static_cast<double>(Now.OfBytes - Now.Bytes) /
                           static_cast<double>(Now.Bytes));

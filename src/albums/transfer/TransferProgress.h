@@ -22,6 +22,6 @@ struct TransferProgress {
 // the time as long as it cannot be told.
 QString ProgressText(const TransferProgress& Now, double Seconds);
 // "1.2 GB", "640 MB", "12 KB", as powers of 1000.
-QString SizeText(qint64 Bytes);
+QString ShortSize(qint64 Bytes);
 
 }  // namespace neb

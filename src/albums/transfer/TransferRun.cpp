@@ -86,7 +86,7 @@ class TransferRun {
         const qint64 Free = FreeSpace(mDB.DBPath());
         if (Free < 0 || Free >= Needed) return Done();
         return Refuse(QStringLiteral("There is not enough room: %1 are needed, %2 are free in\n%3")
-                          .arg(SizeText(Needed), SizeText(Free), mDB.DBPath()),
+                          .arg(ShortSize(Needed), ShortSize(Free), mDB.DBPath()),
                       QStringLiteral("Operation Unsuccessful"));
     }
 

@@ -85,10 +85,11 @@ void RenameFile(const QString& From, const QString& To);  // replaces To
 // A second name for a file, without reading it and without room for a copy; replaces To. False
 // where the file system knows no second names.
 bool LinkFile(const QString& From, const QString& To);
-void SyncFile(const QString& Path);   // content is on the disk afterwards
-void SyncDir(const QString& Dir);     // names are on the disk afterwards
-void MakeDirs(const QString& Dir);    // with parents; no fault when it exists
-void DeleteTree(const QString& Dir);  // a directory and all in it; errors are ignored
+void SetReadOnly(const QString& Path);  // no write bit is left
+void SyncFile(const QString& Path);     // content is on the disk afterwards
+void SyncDir(const QString& Dir);       // names are on the disk afterwards
+void MakeDirs(const QString& Dir);      // with parents; no fault when it exists
+void DeleteTree(const QString& Dir);    // a directory and all in it; errors are ignored
 // The files and links in a directory, not the directories in it, nor what a link leads to; nothing
 // when Dir itself is a link. Errors are ignored, each by itself. LetRun is called all the while.
 void DeleteFilesIn(const QString& Dir, const Yield& LetRun = {});
@@ -142,7 +143,7 @@ class InstanceLock {
 
 // What is about to happen to the disk. A test's watcher is called before each step and may
 // throw a Fault (a full disk), end the process, or for a write lower Length to write a part.
-enum class HostStep { Write, Sync, SyncDir, Delete, Rename, Link, MakeDir, SyncVolume };
+enum class HostStep { Write, Sync, SyncDir, Delete, Rename, Link, MakeDir, SyncVolume, Protect };
 using HostWatcher = std::function<void(HostStep Step, const QString& Path, qint64& Length)>;
 void SetHostWatcher(HostWatcher Watcher);  // {} for none; for tests alone
 

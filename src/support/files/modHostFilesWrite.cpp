@@ -194,6 +194,17 @@ bool LinkFile(const QString& From, const QString& To) {
     return true;
 }
 
+void SetReadOnly(const QString& Path) {
+    constexpr auto ReadBits = QFileDevice::ReadOwner | QFileDevice::ReadUser |
+                              QFileDevice::ReadGroup | QFileDevice::ReadOther |
+                              QFileDevice::ExeOwner | QFileDevice::ExeUser | QFileDevice::ExeGroup |
+                              QFileDevice::ExeOther;
+    AnnounceStep(HostStep::Protect, Path);
+    QFile File(ResolvePath(Path));
+    if (!File.setPermissions(File.permissions() & ReadBits))
+        Fail(QStringLiteral("The file cannot be made read-only."), Path, File.errorString());
+}
+
 void SyncFile(const QString& Path) {
     AnnounceStep(HostStep::Sync, Path);
     QFile File(ResolvePath(Path));

@@ -14,14 +14,22 @@ int Fail(ToolIO& IO, const QString& Text) {
 ProgressLine::ProgressLine(ToolIO& IO, const char* What) : mIO(IO), mWhat(What) {}
 
 ProgressLine::~ProgressLine() {
-    if (mShown >= 0) mIO.Err << "\r\033[K" << std::flush;
+    Clear();
 }
 
 void ProgressLine::Show(size_t Done, size_t Total) {
-    const int Percent = Total == 0 ? 100 : static_cast<int>(Done * 100 / Total);
-    if (!mIO.ErrIsTerminal || Percent == mShown) return;
-    mShown = Percent;
-    mIO.Err << '\r' << mWhat << ' ' << Percent << " %\033[K" << std::flush;
+    Say(QStringLiteral("%1 %").arg(Total == 0 ? 100 : Done * 100 / Total));
+}
+
+void ProgressLine::Say(const QString& Text) {
+    if (!mIO.ErrIsTerminal || Text == mShown) return;
+    mShown = Text;
+    mIO.Err << '\r' << mWhat << ' ' << Text.toUtf8().constData() << "\033[K" << std::flush;
+}
+
+void ProgressLine::Clear() {
+    if (!mShown.isEmpty()) mIO.Err << "\r\033[K" << std::flush;
+    mShown.clear();
 }
 
 }  // namespace neb

@@ -31,11 +31,13 @@ class ProgressLine {
     ProgressLine(const ProgressLine&) = delete;
     ProgressLine& operator=(const ProgressLine&) = delete;
     void Show(size_t Done, size_t Total);  // redrawn only when the percentage changes
+    void Say(const QString& Text);         // in place of a percentage; redrawn when it changes
+    void Clear();                          // before other lines; the next word brings it back
 
   private:
     ToolIO& mIO;
     const char* mWhat;
-    int mShown = -1;
+    QString mShown;
 };
 
 }  // namespace neb

@@ -41,6 +41,11 @@ std::optional<PreferencesEntries::Choice> Chosen(QComboBox& Box) {
                                       Combo.List(Combo.ListIndex())};
 }
 
+std::int32_t ChosenID(QComboBox& Box) {
+    const auto Found = Chosen(Box);
+    return Found ? Found->ID : 0;
+}
+
 // For what is counted in whole numbers from 0: the next slide, and the cells of the speeds.
 void FilterDigitKey(const EntryState& Field, std::int16_t& KeyAscii) {
     FilterNumericKey(Field, KeyAscii, false);
@@ -152,6 +157,40 @@ void frmPreferences::LoadSlideShows() {
     SlideShows.SetListIndex(-1);
     OpenAsWideAsNames(*mUi->cboSlideShows);
     SayWhatToDo();
+}
+
+void frmPreferences::ReceiveEvent(const QString& ObjectType, const QString& EventType,
+                                  const EventKeys& EventData) {
+    static constexpr const char* Followed[] = {"Delete", "Insert", "Update"};
+    const bool Lists = std::any_of(std::begin(Followed), std::end(Followed), [&](const char* Each) {
+        return EventType == QLatin1String(Each);
+    });
+    if (!Lists || EventData.empty()) return;
+    if (ObjectType == u"Album") FollowAlbums();
+    // An album that another has been laid upon has other shows than before.
+    if (EventData[0] == ChosenID(*mUi->cboAlbums)) FollowSlideShows();
+}
+
+// The shows of an album that has gone go with it.
+void frmPreferences::FollowAlbums() {
+    const std::int32_t Was = ChosenID(*mUi->cboAlbums);
+    {
+        const QSignalBlocker Quiet(mUi->cboAlbums);
+        ComboBoxList Albums(*mUi->cboAlbums);
+        Albums.Clear();
+        if (DBEngine) DBEngine->LoadAlbumsCombo(Albums, false);
+        SelectOrNothing(Albums, Was);
+        OpenAsWideAsNames(*mUi->cboAlbums);
+    }
+    if (ChosenID(*mUi->cboAlbums) != Was) LoadSlideShows();
+    SayWhatToDo();
+}
+
+void frmPreferences::FollowSlideShows() {
+    const std::int32_t Was = ChosenID(*mUi->cboSlideShows);
+    LoadSlideShows();
+    ComboBoxList SlideShows(*mUi->cboSlideShows);
+    SelectOrNothing(SlideShows, Was);
 }
 
 // What stands in a box in which nothing is chosen.

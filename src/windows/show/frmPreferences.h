@@ -4,6 +4,7 @@
 
 #include "controls/forms/Form.h"
 #include "show/PreferencesState.h"
+#include "windows/frame/modBroadcast.h"
 
 namespace neb {
 
@@ -11,7 +12,7 @@ namespace Ui {
 class frmPreferences;
 }
 
-class frmPreferences : public Form {
+class frmPreferences : public Form, public ChangeReceiver {
     Q_OBJECT
 
   public:
@@ -30,6 +31,9 @@ class frmPreferences : public Form {
 
     // Fills the controls and shows the window modally; returns when it has closed.
     void LoadPreferences();
+    // The lists of albums and shows follow; what is chosen stays, unless it has gone.
+    void ReceiveEvent(const QString& ObjectType, const QString& EventType,
+                      const EventKeys& EventData) override;
 
   protected:
     void FinishEdits() override;
@@ -42,6 +46,8 @@ class frmPreferences : public Form {
     void PrepareView();
     void LoadAlbums();
     void LoadSlideShows();
+    void FollowAlbums();
+    void FollowSlideShows();
     void SayWhatToDo();
     void LoadFields();
     void LoadEffectsList();

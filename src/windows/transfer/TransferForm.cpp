@@ -3,7 +3,6 @@
 #include "windows/transfer/TransferForm.h"
 
 #include <QDragEnterEvent>
-#include <QMimeData>
 
 #include "albums/transfer/SuggestedName.h"
 #include "controls/fields/Icons.h"
@@ -14,19 +13,12 @@
 #include "ui_TransferForm.h"
 #include "windows/albums/modAlbumNames.h"
 #include "windows/transfer/TransferDirectories.h"
+#include "windows/transfer/modTransferAsks.h"
 
 namespace neb {
 namespace {
 
 const QString Counters = QStringLiteral("NextIDs.dat");
-
-// The first folder that is dropped, or that of the first file.
-QString DroppedDirectory(const QMimeData& Data) {
-    for (const QUrl& Url : Data.urls())
-        if (const QString Path = Url.toLocalFile(); !Path.isEmpty())
-            return FolderExists(Path) ? Path : GetFilePath(Path);
-    return {};
-}
 
 void Rename(QWidget& Control, const char* Name) {
     Control.setObjectName(QString::fromLatin1(Name));

@@ -16,34 +16,13 @@
 #include "windows/transfer/frmAlbumView.h"
 #include "windows/transfer/frmSlideShowView.h"
 #include "windows/transfer/frmTransferProgress.h"
+#include "windows/transfer/modTransferAsks.h"
 
 namespace neb {
 namespace {
 
 BoxRequest Failed(const QString& Text) {
     return {Text, QStringLiteral("Operation Failed"), BoxIcon::Critical};
-}
-
-// Below a database its own path goes without saying.
-QString NamesOf(const QStringList& Paths, const QString& DBPath) {
-    constexpr qsizetype MostLines = 15;
-    QStringList Lines;
-    for (const QString& Each : Paths.mid(0, MostLines))
-        Lines << (Each.startsWith(DBPath) ? Each.mid(DBPath.size()) : Each);
-    if (Paths.size() > MostLines)
-        Lines << QObject::tr("... and %1 more").arg(Paths.size() - MostLines);
-    return Lines.join(u'\n');
-}
-
-// Enter, Esc and closing the box all stop.
-bool AskGoOnWithout(const QStringList& Missing, const QString& DBPath) {
-    const QString What = Missing.size() == 1
-                             ? QObject::tr("A file of the source is missing or cannot be read:")
-                             : QObject::tr("%1 files of the source are missing or cannot be read:")
-                                   .arg(Missing.size());
-    return AskYesNo(What + u'\n' + NamesOf(Missing, DBPath) + QStringLiteral("\n\n") +
-                        QObject::tr("Do you want to go on without what is missing?"),
-                    QObject::tr("Missing Files"), BoxAnswer::No);
 }
 
 QString Count(int Number, const QString& One, const QString& Many) {

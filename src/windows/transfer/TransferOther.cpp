@@ -1,25 +1,12 @@
 #include "windows/transfer/TransferOther.h"
 
-#include <QStandardPaths>
-#include <QUrl>
-
 #include "settings/modNEBSlideShow.h"
 #include "windows/transfer/ViewerForm.h"
+#include "windows/transfer/modTransferAsks.h"
 
 namespace neb {
-namespace {
-
-QString PathMeant(const QString& Typed) {
-    if (Typed == u"~" || Typed.startsWith(u"~/"))
-        return QStandardPaths::writableLocation(QStandardPaths::HomeLocation) + Typed.mid(1);
-    if (Typed.startsWith(u"file:")) return QUrl(Typed).toLocalFile();
-    return AbsolutePath(Typed);
-}
-
-}  // namespace
-
 QString TransferOther::DirectoryMeant(const QString& Typed) {
-    return DatabaseIn(PathMeant(Typed.trimmed()));
+    return DatabaseIn(PathMeant(Typed));
 }
 
 Answer<> TransferOther::Open(const QString& Dir, OtherDatabase::Use For) {

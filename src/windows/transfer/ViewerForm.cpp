@@ -2,8 +2,10 @@
 
 #include <QApplication>
 #include <QPushButton>
+#include <QScopedValueRollback>
 
 #include "controls/fields/Icons.h"
+#include "controls/forms/Tell.h"
 #include "controls/forms/frmLoading.h"
 #include "controls/grid/FlexGrid.h"
 #include "db/modAlbumFiles.h"
@@ -45,11 +47,15 @@ void ViewerForm::SetControls(FlexGrid& Grid, QPushButton& cmdClose) {
     On(&cmdClose, &QPushButton::clicked, &ViewerForm::Close);
 }
 
-void ViewerForm::View(clsDBEngine& objDB, std::int32_t AlbumID, const QString& Title) {
+void ViewerForm::View(clsDBEngine& objDB, std::int32_t AlbumID, const QString& Names) {
     const auto Held = shared_from_this();
     mSubject = {&objDB, objDB.DBPath(), AlbumID};
-    setWindowTitle(Title);
+    ShowTitle(Names);
     ShowWindow();
+}
+
+void ViewerForm::ShowTitle(const QString& Names) {
+    setWindowTitle(mSays.Kind + QStringLiteral(" [") + mSubject.DBPath + u':' + Names + u']');
 }
 
 // A modal window lets nobody at the windows beside it: whoever looks into a database from one gets
@@ -65,9 +71,12 @@ void ViewerForm::ShowWindow() {
 
 void ViewerForm::Form_Load() {
     RestoreWindow(*this, mMemory);
-    mReading.Read(Reading());
+    SlideReading::Order First = Reading();
+    First.MakeRow = [this](std::int32_t Key, int Number) { AddSlideRowOrTell(Key, Number); };
+    mReading.Read(First);
     mSubject.DB = nullptr;
     if (mGrid->Rows() > 0) mGrid->SetRow(0);
+    FollowWaiting();
 }
 
 void ViewerForm::Refill(clsDBEngine& objDB) {
@@ -99,7 +108,7 @@ SlideReading::Order ViewerForm::Reading() {
                     return true;
                 },
             .Keys = [this] { return Keys(); },
-            .MakeRow = [this](std::int32_t Key, int Number) { AddSlideRow(Key, Number); },
+            .MakeRow = [this](std::int32_t Key, int Number) { (void)AddSlideRow(Key, Number); },
             .IsThere = [this] { return IsStillThere(); },
             .Grids = {mGrid},
             .Shows = SlideReading::Bar::Count};
@@ -113,7 +122,7 @@ void ViewerForm::Clear() {
 std::optional<SlideReading::KeyList> ViewerForm::Keys() {
     clsNEBAlbum* Shown = Album();
     auto Keys = Shown ? SortedKeys(*Shown) : std::nullopt;
-    if (Keys && Keys->empty()) mGrid->SetEmptyText(mSays.Empty);
+    if (Keys) mGrid->SetEmptyText(mSays.Empty);
     return Keys;
 }
 
@@ -123,8 +132,15 @@ bool ViewerForm::IsStillThere() const {
     return Shown && IsThere(*Shown);
 }
 
-void ViewerForm::AddSlideRow(std::int32_t Key, int Number) {
-    if (const auto Viewed = SlideOf(*Album(), Key, Number)) ShowSlide(mGrid->AddItem(), *Viewed);
+Answer<ViewerForm::ViewedSlide> ViewerForm::AddSlideRow(std::int32_t Key, int Number) {
+    Answer<ViewedSlide> Viewed = SlideOf(*Album(), Key, Number);
+    if (Viewed) ShowSlide(mGrid->AddItem(), *Viewed);
+    return Viewed;
+}
+
+void ViewerForm::AddSlideRowOrTell(std::int32_t Key, int Number) {
+    const Answer<ViewedSlide> Added = AddSlideRow(Key, Number);
+    if (!Added && !Added.Refusal().Text.isEmpty()) Tell(Added);
 }
 
 // The shared thumbnails are those of the main database.
@@ -145,6 +161,83 @@ void ViewerForm::ShowForeignSlide(int Row, const ViewedSlide& Viewed) {
 
 void ViewerForm::ShowPicture(int Row) {
     Command([this, Row] { PopUpPicture(mGrid->TextMatrix(Row, clsImageBuffer::ColPath)); });
+}
+
+void ViewerForm::ReceiveEvent(const QString& ObjectType, const QString& EventType,
+                              const EventKeys& EventData) {
+    const SlideReading::HeardChange Heard{ObjectType, EventType, EventData};
+    if (!Concerns(Heard)) return;
+    mReading.KeepForLater(Heard);
+    if (!mReading.IsReading()) FollowWaiting();
+}
+
+// Of another database nobody tells.
+bool ViewerForm::Concerns(const SlideReading::HeardChange& Heard) const {
+    const EventKeys& Keys = Heard.Keys;
+    if (!DBEngine || mSubject.DBPath != DBEngine->DBPath()) return false;
+    if (Keys.empty() || Keys[0] != mSubject.AlbumID) return false;
+    return Heard.ObjectType == u"Album" ||
+           (SlideShowID() != 0 && Keys.size() > 1 && Keys[1] == SlideShowID());
+}
+
+void ViewerForm::FollowWaiting() {
+    const auto Held = shared_from_this();
+    while (IsLoaded() && DBEngine) {
+        const auto Next = mReading.NextWaiting();
+        if (!Next) return;
+        const QScopedValueRollback<clsDBEngine*> Asked(mSubject.DB, DBEngine);
+        Follow(*Next);
+    }
+}
+
+// Slides are saved and deleted one by one, and a thousand in a row: each is followed by itself.
+void ViewerForm::Follow(const SlideReading::HeardChange& Heard) {
+    const std::int32_t SlideID = Heard.Keys.size() > 1 ? Heard.Keys[1] : 0;
+    if (Heard.EventType == u"Delete")
+        Clear();
+    else if (Heard.EventType == u"Delete Slides")
+        SlideDeleted(SlideID);
+    else if (Heard.EventType == u"Add Slides" && SlideID != 0)
+        SlideSaved(SlideID);
+    else
+        Reload();
+}
+
+void ViewerForm::Reload() {
+    if (IsStillThere()) ShowTitle(NamesIn(*Album()));
+    KeepingTheRow([this] { mReading.Read(Reading()); });
+}
+
+// A show has captions of its own. In an album another caption means another place.
+void ViewerForm::SlideSaved(std::int32_t SlideID) {
+    const clsNEBSlide* Slide = IsStillThere() ? FindSlide(*Album(), SlideID) : nullptr;
+    const int First = RowOfSlide(*mGrid, SlideID);
+    if (!Slide || (First < 0 && SlideShowID() != 0)) return;
+    const auto CaptionIn = [this](int Row) -> const QString& {
+        return mGrid->TextMatrix(Row, clsImageBuffer::ColText);
+    };
+    if (First < 0 || (SlideShowID() == 0 && CaptionIn(First) != Slide->SlideText)) return Reload();
+    for (int Row = First; Row < mGrid->Rows(); ++Row)
+        if (SlideIn(*mGrid, Row) == SlideID) ShowSlide(Row, {Slide, CaptionIn(Row)});
+}
+
+void ViewerForm::SlideDeleted(std::int32_t SlideID) {
+    KeepingTheRow([this, SlideID] {
+        for (int Row = mGrid->Rows() - 1; Row >= 0; --Row)
+            if (SlideIn(*mGrid, Row) == SlideID) mGrid->RemoveItem(Row);
+    });
+}
+
+// The chosen slide stays chosen; where it has gone, the one that has come to its place.
+void ViewerForm::KeepingTheRow(const std::function<void()>& Change) {
+    const int Was = mGrid->Row();
+    const std::int32_t SlideID = Was >= 0 ? SlideIn(*mGrid, Was) : 0;
+    Change();
+    const int Last = mGrid->Rows() - 1;
+    if (!IsLoaded() || Last < 0) return;
+    const bool InPlace = Was >= 0 && Was <= Last && SlideIn(*mGrid, Was) == SlideID;
+    const int Row = InPlace ? Was : RowOfSlide(*mGrid, SlideID);
+    mGrid->SetRow(Row >= 0 ? Row : std::clamp(Was, 0, Last));
 }
 
 }  // namespace neb

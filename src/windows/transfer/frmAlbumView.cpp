@@ -7,7 +7,8 @@ namespace neb {
 
 frmAlbumView::frmAlbumView()
     : ViewerForm({QStringLiteral("frmAlbumView"), 6315},
-                 {tr("This album has no slides.\nClose this window to choose another one."),
+                 {QStringLiteral("Album"),
+                  tr("This album has no slides.\nClose this window to choose another one."),
                   tr("This album is no longer there.\nClose this window to choose another one.")}),
       mUi(std::make_unique<Ui::frmAlbumView>()) {
     mUi->setupUi(this);
@@ -17,8 +18,11 @@ frmAlbumView::frmAlbumView()
 frmAlbumView::~frmAlbumView() = default;
 
 void frmAlbumView::ViewAlbum(clsDBEngine& objDB, std::int32_t AlbumID, const QString& AlbumTitle) {
-    View(objDB, AlbumID,
-         QStringLiteral("Album [") + objDB.DBPath() + u':' + AlbumTitle + QStringLiteral("]"));
+    View(objDB, AlbumID, AlbumTitle);
+}
+
+QString frmAlbumView::NamesIn(const clsNEBAlbum& Album) const {
+    return Album.AlbumName;
 }
 
 std::optional<std::vector<std::int32_t>> frmAlbumView::SortedKeys(clsNEBAlbum& Album) {
@@ -28,10 +32,9 @@ std::optional<std::vector<std::int32_t>> frmAlbumView::SortedKeys(clsNEBAlbum& A
     return Keys;
 }
 
-std::optional<ViewerForm::ViewedSlide> frmAlbumView::SlideOf(clsNEBAlbum& Album, std::int32_t Key,
-                                                             int) {
+Answer<ViewerForm::ViewedSlide> frmAlbumView::SlideOf(clsNEBAlbum& Album, std::int32_t Key, int) {
     const clsNEBSlide* Slide = FindSlide(Album, Key);
-    if (!Slide) return std::nullopt;
+    if (!Slide) return Refuse({});  // has just gone: nobody need hear of it
     return ViewedSlide{Slide, Slide->SlideText};
 }
 

@@ -23,7 +23,8 @@ class frmAlbumView : public ViewerForm {
 
   protected:
     std::optional<std::vector<std::int32_t>> SortedKeys(clsNEBAlbum& Album) override;
-    std::optional<ViewedSlide> SlideOf(clsNEBAlbum& Album, std::int32_t Key, int Number) override;
+    Answer<ViewedSlide> SlideOf(clsNEBAlbum& Album, std::int32_t Key, int Number) override;
+    QString NamesIn(const clsNEBAlbum& Album) const override;
 
   private:
     std::unique_ptr<Ui::frmAlbumView> mUi;

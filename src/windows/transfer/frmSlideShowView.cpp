@@ -1,7 +1,6 @@
 #include "windows/transfer/frmSlideShowView.h"
 
 #include "controls/grid/FlexGrid.h"
-#include "support/Services.h"
 #include "ui_frmSlideShowView.h"
 
 namespace neb {
@@ -9,7 +8,8 @@ namespace neb {
 frmSlideShowView::frmSlideShowView()
     : ViewerForm(
           {QStringLiteral("frmSlideShowView"), 6315},
-          {tr("This slide show has no slides.\nClose this window to choose another one."),
+          {QStringLiteral("Slide Show"),
+           tr("This slide show has no slides.\nClose this window to choose another one."),
            tr("This slide show is no longer there.\nClose this window to choose another one.")}),
       mUi(std::make_unique<Ui::frmSlideShowView>()) {
     mUi->setupUi(this);
@@ -22,9 +22,11 @@ void frmSlideShowView::ViewSlideShow(clsDBEngine& objDB, std::int32_t AlbumID,
                                      const QString& AlbumTitle, std::int32_t SlideShowID,
                                      const QString& SlideShowTitle) {
     mSlideShowID = SlideShowID;
-    View(objDB, AlbumID,
-         QStringLiteral("Slide Show [") + objDB.DBPath() + u':' + AlbumTitle + u':' +
-             SlideShowTitle + QStringLiteral("]"));
+    View(objDB, AlbumID, AlbumTitle + u':' + SlideShowTitle);
+}
+
+QString frmSlideShowView::NamesIn(const clsNEBAlbum& Album) const {
+    return Album.AlbumName + u':' + Album.GetSlideShow(mSlideShowID)->SlideShowName;
 }
 
 bool frmSlideShowView::IsThere(clsNEBAlbum& Album) const {
@@ -42,18 +44,14 @@ std::optional<std::vector<std::int32_t>> frmSlideShowView::SortedKeys(clsNEBAlbu
     return Keys;
 }
 
-std::optional<ViewerForm::ViewedSlide> frmSlideShowView::SlideOf(clsNEBAlbum& Album,
-                                                                 std::int32_t Key, int Number) {
+Answer<ViewerForm::ViewedSlide> frmSlideShowView::SlideOf(clsNEBAlbum& Album, std::int32_t Key,
+                                                          int Number) {
     const clsNEBSlideShowDetail* Detail = Album.GetSlideShow(mSlideShowID)->GetDetail(Key);
-    if (!Detail) {
-        MsgBox(QStringLiteral("Could not find Slide Show Detail #%1").arg(Number));
-        return std::nullopt;
-    }
+    if (!Detail) return Refuse(QStringLiteral("Could not find Slide Show Detail #%1").arg(Number));
     const clsNEBSlide* Slide = FindSlide(Album, Detail->SlideID);
-    if (!Slide) {
-        MsgBox(QStringLiteral("Could not find the Slide for Slide Show Detail #%1").arg(Number));
-        return std::nullopt;
-    }
+    if (!Slide)
+        return Refuse(
+            QStringLiteral("Could not find the Slide for Slide Show Detail #%1").arg(Number));
     return ViewedSlide{Slide, Detail->SlideText};
 }
 

@@ -25,7 +25,9 @@ class frmSlideShowView : public ViewerForm {
   protected:
     std::optional<std::vector<std::int32_t>> SortedKeys(clsNEBAlbum& Album) override;
     bool IsThere(clsNEBAlbum& Album) const override;
-    std::optional<ViewedSlide> SlideOf(clsNEBAlbum& Album, std::int32_t Key, int Number) override;
+    Answer<ViewedSlide> SlideOf(clsNEBAlbum& Album, std::int32_t Key, int Number) override;
+    QString NamesIn(const clsNEBAlbum& Album) const override;
+    std::int32_t SlideShowID() const override { return mSlideShowID; }
 
   private:
     std::unique_ptr<Ui::frmSlideShowView> mUi;

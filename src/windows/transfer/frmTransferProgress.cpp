@@ -60,6 +60,16 @@ bool frmTransferProgress::Show(const TransferProgress& Now) {
     return !mAt->Stopped;
 }
 
+bool frmTransferProgress::Show(const QString& Line, int Percent) {
+    if (mAt->Rate.IsDue()) {
+        mUi->pgbTransfer->setMaximum(WholeBar);
+        mUi->pgbTransfer->setValue(Percent * WholeBar / 100);
+        if (!mAt->Stopped) mUi->lblProgress->setText(Line);
+    }
+    DoEvents();
+    return !mAt->Stopped;
+}
+
 double frmTransferProgress::SecondsSinceFirstByte(const TransferProgress& Now) {
     const double Ticks = TheServices().Time->Ticks();
     if (Now.Bytes > 0 && !mAt->FirstByte) mAt->FirstByte = Ticks;

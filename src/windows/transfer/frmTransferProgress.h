@@ -29,6 +29,8 @@ class frmTransferProgress : public Form {
     // From the work, many times a second: brings the window up to date and lets events run. False
     // when the user has stopped it.
     bool Show(const TransferProgress& Now);
+    // The same for other long work: a line and a part of the whole.
+    bool Show(const QString& Line, int Percent);
 
   protected:
     void Form_Activate() override;

@@ -1,0 +1,358 @@
+// A transfer ends by a kill, a power cut or a full disk at every single step of what it does to the
+// disk: at the next opening the destination is wholly the old one or wholly the new one, records
+// and files, and nothing is left of the attempt; the source is as it was.
+#include <csignal>
+#include <mutex>
+
+#include "TransferRig.h"
+
+#ifndef _WIN32
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#endif
+
+namespace neb::harness {
+namespace {
+
+// A database on the disk as the next opening finds it, Temp included.
+DatabaseState Reopened(const QString& Dir) {
+    clsDBEngine Engine;
+    Engine.SetDBPath(Dir);
+    Engine.InitializeDB();
+    return ReadDatabase(Dir);
+}
+
+// A transfer between two small databases, to be cut short: what both are like before, and what the
+// destination must be like afterwards.
+class Scene {
+  public:
+    // Empty Targets: into an empty database.
+    explicit Scene(const StatedTransfer& What, bool HasTarget = true)
+        : mWhat(What), mHasTarget(HasTarget) {
+        FilledDatabase Src(mSource.Path(), u"src"_s);
+        Fill(Src, u"Garden"_s);
+        mSourceBefore = Tree(mSource.Path());
+        TempFolder Dir;
+        Prepare(Dir.Path());
+        Old = ReadDatabase(Dir.Path());
+        New = Dictated(ReadDatabase(mSource.Path()), Old, mWhat);
+    }
+    void Prepare(const QString& Dir) const {
+        FilledDatabase Target(Dir, u"dst"_s);
+        if (mHasTarget) Fill(Target, u"Town"_s);
+    }
+    void Run(const QString& Dir) const {
+        clsDBEngine Source, Target;
+        Source.SetDBPath(mSource.Path());
+        Source.InitializeDB();
+        Target.SetDBPath(Dir);
+        Target.InitializeDB();
+        ASSERT_TRUE(Transfer(Source, Target, mWhat));
+        if (WritesRecords) Target.FinalizeDB();
+    }
+    // True when it is the new one.
+    bool ExpectOldOrNew(const QString& Dir, const std::string& Where) const {
+        const DatabaseState Found = Reopened(Dir);
+        const std::string FromOld = DifferencesFrom(Old, Found);
+        const std::string FromNew = DifferencesFrom(New, Found);
+        EXPECT_TRUE(FromOld.empty() || FromNew.empty()) << Where << "\nfrom the old one:\n"
+                                                        << FromOld << "\nfrom the new one:\n"
+                                                        << FromNew;
+        EXPECT_EQ("", TreeDifferences(mSourceBefore, Tree(mSource.Path()))) << Where;
+        return FromNew.empty();
+    }
+
+    DatabaseState Old, New;
+    bool WritesRecords = true;  // else the transfer alone: the program ends before its records
+
+  private:
+    // Two slides, one with a sound, in a show with two tracks of the same names everywhere.
+    static void Fill(FilledDatabase& Into, const QString& Name) {
+        const std::int32_t ID = Into.AddAlbum(Name);
+        const std::int32_t First = Into.AddSlide(ID, u"first"_s).SlideID;
+        clsNEBSlide& Second = Into.AddSlide(ID, u"second"_s);
+        Into.AddThumbnail(ID, First);
+        Into.AddSound(ID, Second);
+        clsNEBSlideShow& Show = Into.AddShow(ID, Name + u" walk"_s, 1, {First});
+        Into.AddTrack(ID, Show, 1, u".mp3"_s);
+        Into.AddTrack(ID, Show, 2, u".mp3"_s, true);
+        Into.Engine.FinalizeDB();
+    }
+
+    const StatedTransfer mWhat;
+    const bool mHasTarget;
+    TempFolder mSource;
+    std::map<QString, QByteArray> mSourceBefore;
+};
+
+StatedTransfer NewAlbum() {
+    return {.SrcAlbumID = 1, .NewAlbumName = u"Arrived"_s};
+}
+StatedTransfer ReplacedAlbum() {
+    return {.SrcAlbumID = 1, .DstAlbumID = 1, .Replace = true, .NewAlbumName = u"Arrived"_s};
+}
+StatedTransfer ReplacedShow() {
+    return {.SrcAlbumID = 1,
+            .SrcSlideShowID = 1,
+            .DstAlbumID = 1,
+            .DstSlideShowID = 1,
+            .NewAlbumName = u"Town"_s,
+            .NewSlideShowName = u"Tour"_s};
+}
+
+#ifndef _WIN32
+
+enum class Kill { BeforeStep, InsideWrite, PowerLoss };
+
+// Ends this process at step Number of what it does to the disk, on whichever thread that is.
+class Killer {
+  public:
+    Killer(int Number, Kill How, const QString& Dir) : mLeft(Number), mHow(How), mDir(Dir) {
+        SetHostWatcher([this](HostStep Step, const QString& Path, qint64& Length) {
+            const std::lock_guard<std::mutex> OneByOne(mLock);
+            if (--mLeft <= 0) Strike(Step, Length);
+            Note(Step, Path);
+        });
+    }
+
+  private:
+    void Strike(HostStep Step, qint64& Length) {
+        if (mLeft < 0 || mHow != Kill::InsideWrite || Step != HostStep::Write) End();
+        Length /= 2;  // this part is written, and the step after it is the last
+    }
+    // Files keep their numbers when they are renamed.
+    void Note(HostStep Step, const QString& Path) {
+        struct stat File = {};
+        const bool IsThere = ::stat(QFile::encodeName(Path).constData(), &File) == 0;
+        if (Step == HostStep::Write && IsThere) mUnsynced.insert(File.st_ino);
+        if (Step == HostStep::Sync && IsThere) mUnsynced.erase(File.st_ino);
+        if (Step == HostStep::SyncVolume) mUnsynced.clear();
+    }
+    // With the power goes all that was written and not yet flushed.
+    [[noreturn]] void End() {
+        if (mHow == Kill::PowerLoss) {
+            QDirIterator Walk(mDir, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+            while (Walk.hasNext()) {
+                const QByteArray Path = QFile::encodeName(Walk.next());
+                struct stat File = {};
+                if (::stat(Path.constData(), &File) == 0 && mUnsynced.contains(File.st_ino))
+                    ::truncate(Path.constData(), 0);
+            }
+        }
+        ::kill(::getpid(), SIGKILL);
+        std::abort();
+    }
+
+    std::mutex mLock;
+    int mLeft;
+    const Kill mHow;
+    const QString mDir;
+    std::set<ino_t> mUnsynced;
+};
+
+// Runs Work in a child that kills itself at step Number; true when it got to its end before.
+template <class WorkToDo>
+bool RunsThrough(int Number, Kill How, const QString& Dir, WorkToDo Work) {
+    const pid_t Child = ::fork();
+    if (Child == 0) {
+        Killer TheKiller(Number, How, Dir);
+        try {
+            Work();
+        } catch (const Fault&) {
+            ::kill(::getpid(),
+                   SIGKILL);  // a write that was cut short: the step after it is the last
+        }
+        ::_exit(::testing::Test::HasFailure() ? 1 : 0);
+    }
+    int Status = 0;
+    ::waitpid(Child, &Status, 0);
+    EXPECT_TRUE((WIFEXITED(Status) && WEXITSTATUS(Status) == 0) || WTERMSIG(Status) == SIGKILL);
+    return WIFEXITED(Status);
+}
+
+void KillAtEveryStep(const Scene& TheScene, Kill How) {
+    bool SawOld = false, SawNew = false;
+    for (int Number = 1;; ++Number) {
+        TempFolder Dir;
+        TheScene.Prepare(Dir.Path());
+        const bool Through =
+            RunsThrough(Number, How, Dir.Path(), [&] { TheScene.Run(Dir.Path()); });
+        const bool IsNew =
+            TheScene.ExpectOldOrNew(Dir.Path(), "killed at step " + std::to_string(Number));
+        (IsNew ? SawNew : SawOld) = true;
+        EXPECT_TRUE(!Through || IsNew);
+        EXPECT_TRUE(IsNew || !SawNew) << "the new database was there at an earlier step";
+        if (Through || ::testing::Test::HasFailure()) break;
+        ASSERT_LT(Number, 400);
+    }
+    EXPECT_TRUE(SawOld && SawNew);
+}
+
+struct Cut {
+    const char* Name;
+    StatedTransfer What;
+    bool HasTarget, WritesRecords;
+    Kill How;
+};
+void PrintTo(const Cut& Each, std::ostream* Out) {
+    *Out << Each.Name;
+}
+class TransferCut : public ::testing::TestWithParam<Cut> {};
+
+TEST_P(TransferCut, LeavesTheOldOrTheNewDatabase) {
+    Scene TheScene(GetParam().What, GetParam().HasTarget);
+    TheScene.WritesRecords = GetParam().WritesRecords;
+    KillAtEveryStep(TheScene, GetParam().How);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Crash, TransferCut,
+    ::testing::Values(
+        Cut{"NewAlbumByAKill", NewAlbum(), true, true, Kill::BeforeStep},
+        Cut{"NewAlbumInsideAWrite", NewAlbum(), true, true, Kill::InsideWrite},
+        Cut{"NewAlbumByALossOfPower", NewAlbum(), true, true, Kill::PowerLoss},
+        Cut{"FirstAlbumByAKill", NewAlbum(), false, true, Kill::BeforeStep},
+        Cut{"FirstAlbumByALossOfPower", NewAlbum(), false, true, Kill::PowerLoss},
+        Cut{"ReplacedAlbumByAKill", ReplacedAlbum(), true, true, Kill::BeforeStep},
+        Cut{"ReplacedAlbumInsideAWrite", ReplacedAlbum(), true, true, Kill::InsideWrite},
+        Cut{"ReplacedAlbumByALossOfPower", ReplacedAlbum(), true, true, Kill::PowerLoss},
+        Cut{"ReplacedShowByAKill", ReplacedShow(), true, true, Kill::BeforeStep},
+        Cut{"ReplacedShowInsideAWrite", ReplacedShow(), true, true, Kill::InsideWrite},
+        Cut{"ReplacedShowByALossOfPower", ReplacedShow(), true, true, Kill::PowerLoss},
+        Cut{"IntoTheRunningOneByAKill", ReplacedAlbum(), true, false, Kill::BeforeStep},
+        Cut{"IntoTheRunningOneInsideAWrite", ReplacedShow(), true, false, Kill::InsideWrite},
+        Cut{"IntoTheRunningOneByALossOfPower", ReplacedAlbum(), true, false, Kill::PowerLoss}),
+    [](const auto& Info) { return std::string(Info.param.Name); });
+
+// The transfer is cut at step First, then the next opening at some of its own steps: others for
+// each First, so that every step of it is tried from many states.
+bool CutTheNextOpening(const Scene& TheScene, int First, Kill How, bool& SawNew) {
+    constexpr int Stride = 7;
+    for (int Second = 1 + First % Stride;; Second += Stride) {
+        TempFolder Dir;
+        TheScene.Prepare(Dir.Path());
+        if (RunsThrough(First, Kill::BeforeStep, Dir.Path(), [&] { TheScene.Run(Dir.Path()); }))
+            return false;
+        const bool Through = RunsThrough(Second, How, Dir.Path(), [&] { Reopened(Dir.Path()); });
+        const std::string Where = std::to_string(First) + ", then " + std::to_string(Second);
+        const bool IsNew = TheScene.ExpectOldOrNew(Dir.Path(), Where);
+        EXPECT_TRUE(IsNew || !SawNew) << Where << ": what was there has gone again";
+        SawNew = SawNew || IsNew;
+        if (Through || ::testing::Test::HasFailure()) return true;
+    }
+}
+
+TEST(TransferRecovery, ACutDuringTheNextOpeningIsRecoveredFrom) {
+    for (const Kill How : {Kill::PowerLoss, Kill::InsideWrite}) {
+        Scene TheScene(ReplacedAlbum());
+        TheScene.WritesRecords = false;
+        bool SawNew = false;
+        for (int First = 1; CutTheNextOpening(TheScene, First, How, SawNew); ++First) {
+            ASSERT_FALSE(::testing::Test::HasFailure());
+            ASSERT_LT(First, 400);
+        }
+        EXPECT_TRUE(SawNew);
+    }
+}
+
+#endif  // _WIN32
+
+// The disk is full at write Number, of which half finds room; and from then on.
+class FullDisk {
+  public:
+    explicit FullDisk(int Number) : mLeft(Number) {
+        SetHostWatcher([this](HostStep Step, const QString&, qint64& Length) {
+            const std::lock_guard<std::mutex> OneByOne(mLock);
+            if (Step != HostStep::Write || --mLeft > 0) return;
+            Length = mLeft == 0 ? Length / 2 : 0;
+        });
+    }
+    ~FullDisk() { SetHostWatcher({}); }
+
+  private:
+    std::mutex mLock;
+    int mLeft;
+};
+
+TEST_F(TransferRig, AFullDiskAtAnyWriteLeavesBothAsTheyWere) {
+    const StatedTransfer All[] = {
+        {.SrcAlbumID = GardenID, .NewAlbumName = u"Arrived"_s},
+        {.SrcAlbumID = GardenID,
+         .DstAlbumID = TownID,
+         .Replace = true,
+         .NewAlbumName = u"Arrived"_s},
+        {.SrcAlbumID = GardenID,
+         .SrcSlideShowID = 1,
+         .DstAlbumID = TownID,
+         .DstSlideShowID = ShowNamed(Other.Engine, TownID, u"Town walk"_s),
+         .NewAlbumName = u"Town"_s,
+         .NewSlideShowName = u"Tour"_s}};
+    for (const StatedTransfer& Each : All) {
+        Other.Engine.InitializeDB();
+        const Untouched Both(Own.Engine, Other.Engine);
+        for (int Number = 1;; ++Number) {
+            bool Through = false;
+            try {
+                const FullDisk Disk(Number);
+                Through = static_cast<bool>(Transfer(Own.Engine, Other.Engine, Each));
+                EXPECT_TRUE(Through);
+            } catch (const Fault& Problem) {
+                EXPECT_TRUE(Problem.File().startsWith(Other.Dir())) << Problem.what();
+                EXPECT_NE(TransferUnfinished, Problem.Number());
+            }
+            if (Through) break;
+            Both.Expect("full at write " + std::to_string(Number));
+            ASSERT_FALSE(HasFailure());
+            ASSERT_LT(Number, 200);
+        }
+    }
+}
+
+// Any step but a write that fails, too: a name that cannot be given, a flush that is refused.
+TEST_F(TransferRig, AFaultAtAnyStepLeavesTheOldDatabaseOrTellsThatTheNewOneIsNotFinished) {
+    const StatedTransfer What{.SrcAlbumID = GardenID,
+                              .DstAlbumID = TownID,
+                              .Replace = true,
+                              .NewAlbumName = u"Arrived"_s};
+    const DatabaseState Before = ReadDatabase(Other.Dir()), Source = ReadDatabase(Own.Dir());
+    const auto Disk = Tree(Other.Dir());
+    int Unfinished = 0;
+    for (int Number = 1; Unfinished == 0 || Number < 400; ++Number) {
+        TempFolder Dir;
+        for (const auto& [Path, Content] : Disk)
+            if (Content == "a folder") MakeDirs(Dir / Path);
+        for (const auto& [Path, Content] : Disk)
+            if (Content != "a folder") WriteFile(Dir / Path, Content);
+        clsDBEngine Target;
+        Target.SetDBPath(Dir.Path());
+        Target.InitializeDB();
+        const Untouched Both(Own.Engine, Target);
+        std::mutex Lock;
+        int Left = Number;
+        SetHostWatcher([&](HostStep, const QString& Path, qint64&) {
+            const std::lock_guard<std::mutex> OneByOne(Lock);
+            if (--Left == 0) throw Fault(u"no"_s, Path);
+        });
+        bool Through = false, IsNew = false;
+        try {
+            Through = IsNew = static_cast<bool>(Transfer(Own.Engine, Target, What));
+        } catch (const Fault& Problem) {
+            IsNew = Problem.Number() == TransferUnfinished;
+        }
+        SetHostWatcher({});
+        Unfinished += IsNew && !Through;
+        if (!IsNew) Both.Expect("fault at step " + std::to_string(Number));
+        Target.FinalizeDB();
+        EXPECT_EQ("", IsNew ? CheckTransfer(Source, Before, ReadDatabase(Dir.Path()), What)
+                            : DifferencesFrom(Before, ReadDatabase(Dir.Path())))
+            << "fault at step " << Number;
+        ASSERT_FALSE(HasFailure());
+        if (Through && Left > 0) break;
+    }
+    EXPECT_GT(Unfinished, 0);
+}
+
+}  // namespace
+}  // namespace neb::harness
