@@ -28,7 +28,7 @@ class DiscSource {
         Engine.InitializeDB();
         Garden = MakeAlbum(u"Garden"_s);
         AddSlide(Garden, u"rose"_s, Qt::red);
-        AddSlide(Garden, u"elm"_s, Qt::green, u"wind"_s);
+        AddSlide(Garden, u"elm"_s, Qt::green, "wind");
         AddSlide(Garden, u"pond"_s, Qt::blue);
         Walk = AddShow(u"Walk"_s, {1, 2}).SlideShowID;
         clsNEBSlideShow& Second = AddShow(u"Spring"_s, {2, 3, 2});

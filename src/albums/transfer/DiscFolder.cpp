@@ -126,7 +126,7 @@ bool DiscWriting::HasRoom() {
     const qint64 Free = FreeSpace(mDir);
     if (Free < 0 || Free >= Needed) return true;
     mBoxes = {Refuse(QStringLiteral("There is not enough room: %1 are needed, %2 are free in\n%3")
-                         .arg(SizeText(Needed), SizeText(Free), mDir),
+                         .arg(ShortSize(Needed), ShortSize(Free), mDir),
                      QStringLiteral("Operation Unsuccessful"))};
     return false;
 }

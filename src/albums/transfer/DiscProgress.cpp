@@ -23,8 +23,8 @@ int SumsPercent(const SumsProgress& Now) {
 QString SumsText(const SumsProgress& Now) {
     const QLocale English(QLocale::English);
     return QStringLiteral("file %1 of %2, %3 of %4")
-        .arg(English.toString(Now.Files), English.toString(Now.OfFiles), SizeText(Now.Bytes),
-             SizeText(Now.OfBytes));
+        .arg(English.toString(Now.Files), English.toString(Now.OfFiles), ShortSize(Now.Bytes),
+             ShortSize(Now.OfBytes));
 }
 
 int DiscProgress::Percent() const {

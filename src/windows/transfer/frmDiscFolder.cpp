@@ -230,7 +230,7 @@ void frmDiscFolder::TellDone(const DiscResult& Result, const QString& What) {
               "in the folder by\nsha256sum -c Sums.sha256")
                .arg(Result.Dir, What)
                .arg(Result.Files)
-               .arg(SizeText(Result.Bytes)),
+               .arg(ShortSize(Result.Bytes)),
            tr("Operation Completed"), BoxIcon::Information);
     Unload();
 }
