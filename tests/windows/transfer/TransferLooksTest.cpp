@@ -27,14 +27,17 @@ TEST_F(TransferLooks, NothingIsCutInAFontHalfAsLargeAgain) {
             ShowActive(*Window);
             for (const QWidget* Part : Window->findChildren<QWidget*>()) {
                 const auto* Label = qobject_cast<const QLabel*>(Part);
-                const bool Says =
-                    qobject_cast<const QAbstractButton*>(Part) || (Label && !Label->wordWrap());
+                const bool Says = (qobject_cast<const QPushButton*>(Part) ||
+                                   qobject_cast<const QCheckBox*>(Part)) ||
+                                  (Label && !Label->wordWrap());
                 if (!Says || !Part->isVisible()) continue;
                 EXPECT_GE(Part->width(), Part->sizeHint().width())
                     << Part->objectName().toStdString();
                 EXPECT_GE(Part->height(), Part->sizeHint().height())
                     << Part->objectName().toStdString();
             }
+            const auto& View = In<QPushButton>(*Window, "cmdViewSrcAlbum");
+            EXPECT_EQ(View.sizeHint().width(), View.width()) << "the lists have the room";
             EXPECT_LE(Window->width(), 1000);
             EXPECT_LE(Window->height(), 700);
             if (qEnvironmentVariableIsSet("NEB_SHOTS"))
