@@ -12,14 +12,11 @@
 #include "windows/show/modSlideShows.h"
 
 namespace neb::demo {
-namespace {
 
 void EndProgram(Tour& Guide, frmNEBSlideShow& Window) {
     Guide.Do("end-the-program", IsInFront(Window), Keys(Window, Qt::Key_Q, Qt::ControlModifier));
     Guide.Do("the-end", [&] { return !Window.isVisible(); }, {});
 }
-
-}  // namespace
 
 // Settings without a speed test are new ones: the program measures before anything else.
 void AddSpeedTest(Tour& Guide) {
@@ -46,6 +43,7 @@ void AddRoad(Tour& Guide, frmNEBSlideShow& Window, const Story& Told) {
         AddShowManager(Guide, Told);
         AddPreferences(Guide, Window);
         AddTheShow(Guide, Window);
+        AddTransfer(Guide, Window, Told.Second);
     }
     EndProgram(Guide, Window);
 }

@@ -1,5 +1,6 @@
 // The steps of the demonstration, chapter by chapter: from a folder of pictures to a show with
-// music, and that show once more after a new start of the program.
+// music, an album brought into a second database, that show once more after a new start of the
+// program, and the second database opened.
 #pragma once
 
 #include <QString>
@@ -16,6 +17,7 @@ class Tour;
 struct Story {
     QString Folder;  // of the pictures
     QString Music;   // the folder of the sample music; empty: the short road, to Quick Show alone
+    QString Second;  // where a second database is made, beside Music
 };
 
 constexpr const char* QuickShowName = "At First Sight";
@@ -27,6 +29,9 @@ constexpr const char* SlideShowName = "Four Seasons";
 void AddRoad(Tour& Guide, frmNEBSlideShow& Window, const Story& Told);
 // The program has been started once more: the active show goes on where it was left.
 void AddReturn(Tour& Guide, frmNEBSlideShow& Window);
+
+// The program has been started on the second database.
+void AddVisit(Tour& Guide, frmNEBSlideShow& Window);
 
 // The chapters of the road.
 void AddSpeedTest(Tour& Guide);
@@ -40,6 +45,8 @@ void AddShowManagerOpened(Tour& Guide);
 void AddShowManager(Tour& Guide, const Story& Told);
 void AddPreferences(Tour& Guide, frmNEBSlideShow& Window);
 void AddTheShow(Tour& Guide, frmNEBSlideShow& Window);
+void AddTransfer(Tour& Guide, frmNEBSlideShow& Window, const QString& Second);
+void EndProgram(Tour& Guide, frmNEBSlideShow& Window);
 
 }  // namespace demo
 }  // namespace neb

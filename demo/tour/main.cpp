@@ -1,5 +1,7 @@
 // usage: neb-demo --folder PICTURES --documents DIR --screenshots DIR [--music DIR]
+//                 [--second DIR]
 //        neb-demo --again --documents DIR --screenshots DIR
+//        neb-demo --visit --documents DIR --screenshots DIR
 #include <QCommandLineParser>
 #include <cstdio>
 
@@ -20,15 +22,21 @@ void AddOptions(QCommandLineParser& Parser) {
                        {"documents", "Documents folder of the database.", "dir"},
                        {"screenshots", "Where the screenshots go.", "dir"},
                        {"music", "Sample music for a show; without it Quick Show alone.", "dir"},
+                       {"second", "Where a second database is made; with --music.", "dir"},
+                       {"visit", "Look at the albums that are there."},
                        {"again", "Start once more and go on with the show that was left."}});
+}
+
+bool LooksBack(const QCommandLineParser& Parser) {
+    return Parser.isSet("again") || Parser.isSet("visit");
 }
 
 // Null when all is there that is needed.
 const char* Missing(const QCommandLineParser& Parser) {
     for (const char* Needed : {"documents", "screenshots", "folder"})
-        if (!Parser.isSet(Needed) && !(Parser.isSet("again") && qstrcmp(Needed, "folder") == 0))
+        if (!Parser.isSet(Needed) && !(LooksBack(Parser) && qstrcmp(Needed, "folder") == 0))
             return Needed;
-    return nullptr;
+    return Parser.isSet("music") && !Parser.isSet("second") ? "second" : nullptr;
 }
 
 int Walk(neb::NebApplication& App, const QCommandLineParser& Parser) {
@@ -36,8 +44,11 @@ int Walk(neb::NebApplication& App, const QCommandLineParser& Parser) {
     neb::demo::Tour Guide(Parser.value("screenshots"));
     if (Parser.isSet("again"))
         neb::demo::AddReturn(Guide, Window);
+    else if (Parser.isSet("visit"))
+        neb::demo::AddVisit(Guide, Window);
     else
-        neb::demo::AddRoad(Guide, Window, {Parser.value("folder"), Parser.value("music")});
+        neb::demo::AddRoad(Guide, Window,
+                           {Parser.value("folder"), Parser.value("music"), Parser.value("second")});
     QObject::connect(&Guide, &neb::demo::Tour::Ended, &App, &QApplication::quit);
     App.setQuitOnLastWindowClosed(false);
     Guide.Start();
