@@ -7,11 +7,11 @@
 #include <QTreeWidget>
 
 #include "albums/DiscRig.h"
+#include "windows/disc/frmDiscFolder.h"
+#include "windows/disc/modDiscCheck.h"
 #include "windows/frame/Openers.h"
 #include "windows/import/IntakeHarness.h"
-#include "windows/transfer/frmDiscFolder.h"
 #include "windows/transfer/frmTransferProgress.h"
-#include "windows/transfer/modDiscCheck.h"
 
 namespace neb::harness {
 
