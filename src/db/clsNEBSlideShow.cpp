@@ -78,6 +78,18 @@ void clsNEBSlideShow::ClearSoundTracks() {
     SoundTracks.clear();
 }
 
+std::unique_ptr<clsNEBSlideShow> clsNEBSlideShow::Copy() const {
+    auto Made = std::make_unique<clsNEBSlideShow>();
+    Made->SlideShowID = SlideShowID;
+    Made->SlideShowName = SlideShowName;
+    Made->ProgressionMethod = ProgressionMethod;
+    for (const auto& Each : Details)
+        Made->Details.push_back(std::make_unique<clsNEBSlideShowDetail>(*Each));
+    for (const auto& Each : SoundTracks)
+        Made->SoundTracks.push_back(std::make_unique<clsNEBSlideShowSoundTrack>(*Each));
+    return Made;
+}
+
 bool clsNEBSlideShow::ClearContents() {
     ClearDetails();
     ClearSoundTracks();

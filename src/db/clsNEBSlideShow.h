@@ -49,6 +49,8 @@ class clsNEBSlideShow {
     void ClearDetails();
     void ClearSoundTracks();
 
+    // The show with all that it holds, without the views.
+    std::unique_ptr<clsNEBSlideShow> Copy() const;
     // Both collections at once, for the clearing before a transfer; always true.
     bool ClearContents();
 };

@@ -72,11 +72,6 @@ QString DatabaseOf(const QString& Folder) {
     return WithSeparator(Chosen.isEmpty() ? Folder : AbsolutePath(Chosen, Folder));
 }
 
-bool HoldsRecords(const QString& Dir) {
-    return FileExists(RecordPath(Dir, RecordFile::NextIDs)) ||
-           ReadJournal(Dir) == JournalState::Whole;
-}
-
 // The settings' folder below a documents folder, or below the maker's folder in it; empty when it
 // is neither.
 QString SettingsFolderBelow(const QString& Dir) {
@@ -94,7 +89,7 @@ QString SettingsFolderBelow(const QString& Dir) {
 
 void SetDocumentsPath(const QString& Path) {
     DocumentsPath = WithSeparator(AbsolutePath(Path));
-    DatabaseAsDocuments = HoldsRecords(DocumentsPath) ? DocumentsPath : QString();
+    DatabaseAsDocuments = HoldsDatabase(DocumentsPath) ? DocumentsPath : QString();
     DBPathCache = DatabaseAsDocuments;
     const bool IsFixed = !DatabaseAsDocuments.isEmpty() && !MayWriteDatabase(DatabaseAsDocuments);
     SettingsOfVisit = IsFixed ? PlaceForSettings() : nullptr;
@@ -128,7 +123,7 @@ QString DBPath() {
 
 QString DatabaseIn(const QString& Dir) {
     const QString Place = WithSeparator(Dir);
-    if (HoldsRecords(Place)) return Place;
+    if (HoldsDatabase(Place)) return Place;
     const QString Below = SettingsFolderBelow(Place);
     if (!Below.isEmpty()) return DatabaseOf(Below);
     return FileExists(Place + INIFileName()) ? DatabaseOf(Place) : Place;

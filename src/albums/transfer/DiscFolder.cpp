@@ -61,7 +61,7 @@ class DiscWriting {
         DeleteTree(mDir + QStringLiteral("Temp"));
         WriteSettings();
         ReplaceFile(mDir + QLatin1String(ReadmeName), ReadmeText(mListed).toUtf8());
-        SetReadOnly(RecordPath(mDir, RecordFile::NextIDs));
+        Protect();
         SyncDir(mDir);
         const auto GoOn = [this](const SumsProgress& Now) { return mProgress.Summing(Now); };
         if (!WriteSums(mDir, GoOn) || mProgress.IsStopped()) return Unfinished();
@@ -79,6 +79,7 @@ class DiscWriting {
     bool Took(const TransferResult& Result);
     void List(clsDBEngine& To, std::int32_t AlbumID);
     void WriteSettings() const;
+    void Protect() const;
     TransferDesk Desk();
 
     clsDBEngine& mFrom;
@@ -209,6 +210,16 @@ void DiscWriting::List(clsDBEngine& To, std::int32_t AlbumID) {
     for (const NameIndexEntry& Show : Album.SlideShowIndex)
         Listed.SlideShows.push_back({Show.ID, Show.Name});
     mListed.push_back(Listed);
+}
+
+// On a hard disk, too, it is to stay as it is. Some media know no such thing; what is burnt from
+// them is read-only anyway.
+void DiscWriting::Protect() const {
+    try {
+        SetReadOnly(RecordPath(mDir, RecordFile::NextIDs));
+    } catch (const Fault&) {
+        return;
+    }
 }
 
 // So that the first show can be played at once.

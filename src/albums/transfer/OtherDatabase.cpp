@@ -49,11 +49,6 @@ void OtherDatabase::Reread() {
     FinishAside([this, How] { mEngine.InitializeDB(How); }).get();
 }
 
-bool HoldsDatabase(const QString& Dir) {
-    return FileExists(RecordPath(Dir, RecordFile::NextIDs)) ||
-           ReadJournal(Dir) == JournalState::Whole;
-}
-
 bool CountersAreSound(const clsDBEngine& theDB) {
     for (const auto& Album : theDB.Albums) {
         if (Album->AlbumID >= theDB.NextAlbumID) return false;

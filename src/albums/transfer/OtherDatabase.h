@@ -3,6 +3,7 @@
 #pragma once
 
 #include "db/clsDBEngine.h"
+#include "db/records/modJournal.h"
 #include "support/files/modHostFiles.h"
 
 namespace neb {
@@ -33,8 +34,6 @@ class OtherDatabase {
     clsDBEngine mEngine;
 };
 
-// Whether there is a database in the directory: its counters, or a whole journal of them.
-bool HoldsDatabase(const QString& Dir);
 // A counter that is not above all that is there would give new pictures the places of old ones.
 bool CountersAreSound(const clsDBEngine& theDB);
 // Whether two directories are one: the host's own comparison (case, links, closing separators).

@@ -14,18 +14,6 @@ namespace {
 
 constexpr qint64 RoomForRecords = 4 << 20;  // bytes: the journal, for a start
 
-std::unique_ptr<clsNEBSlideShow> CopyOf(const clsNEBSlideShow& Show) {
-    auto Copy = std::make_unique<clsNEBSlideShow>();
-    Copy->SlideShowID = Show.SlideShowID;
-    Copy->SlideShowName = Show.SlideShowName;
-    Copy->ProgressionMethod = Show.ProgressionMethod;
-    for (const auto& Each : Show.Details)
-        Copy->Details.push_back(std::make_unique<clsNEBSlideShowDetail>(*Each));
-    for (const auto& Each : Show.SoundTracks)
-        Copy->SoundTracks.push_back(std::make_unique<clsNEBSlideShowSoundTrack>(*Each));
-    return Copy;
-}
-
 class TransferRun {
   public:
     TransferRun(TransferPlan Plan, clsDBEngine& DstDB, const TransferDesk& Desk,
@@ -109,7 +97,7 @@ class TransferRun {
             After.Album.Slides.push_back(std::make_unique<clsNEBSlide>(Slide));
         for (const clsNEBSlideShow& Show : mPlan.Shows)
             if (Show.SlideShowID != mPlan.ReplacedShowID)
-                After.Album.SlideShows.push_back(CopyOf(Show));
+                After.Album.SlideShows.push_back(Show.Copy());
         return After;
     }
 
@@ -121,7 +109,7 @@ class TransferRun {
                 After.Slides.push_back(std::make_unique<clsNEBSlide>(*Slide));
         for (const auto& Show : Before.SlideShows)
             After.SlideShows.push_back(
-                CopyOf(Show->SlideShowID == mPlan.ReplacedShowID ? mPlan.Shows.front() : *Show));
+                (Show->SlideShowID == mPlan.ReplacedShowID ? mPlan.Shows.front() : *Show).Copy());
     }
 
     StagedChange Staged(const FileStage& Stage) const {

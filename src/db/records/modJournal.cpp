@@ -198,6 +198,11 @@ bool MayWriteDatabase(const QString& DBPath) {
     return !IsReadOnly(DBPath) && !(FileExists(Counters) && IsReadOnly(Counters));
 }
 
+bool HoldsDatabase(const QString& DBPath) {
+    return FileExists(RecordPath(DBPath, RecordFile::NextIDs)) ||
+           ReadJournal(DBPath) == JournalState::Whole;
+}
+
 bool CountersAreMissing(const QString& DBPath) {
     return FileSize(RecordPath(DBPath, RecordFile::Albums)) > 0 &&
            !NameExists(RecordPath(DBPath, RecordFile::NextIDs)) &&

@@ -45,6 +45,9 @@ void SettleCommitted(const QString& DBPath);
 // False when the directory or its NextIDs.dat is read-only: then nothing is ever written.
 bool MayWriteDatabase(const QString& DBPath);
 
+// Whether there is a database in the directory: its counters, or a whole journal with them.
+bool HoldsDatabase(const QString& DBPath);
+
 // True when albums are there but not the counters, without which a directory counts as a new
 // database: its albums would be overwritten.
 bool CountersAreMissing(const QString& DBPath);

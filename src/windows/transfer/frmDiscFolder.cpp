@@ -137,9 +137,9 @@ DiscContents frmDiscFolder::Chosen() const {
     DiscContents Chosen;
     for (int I = 0; I < mUi->trvAlbums->topLevelItemCount(); ++I) {
         const QTreeWidgetItem& Album = *mUi->trvAlbums->topLevelItem(I);
-        const Qt::CheckState State = Album.checkState(ColName);
-        if (State == Qt::Checked) Chosen.push_back({IDOf(Album)});
-        if (State == Qt::PartiallyChecked) Chosen.push_back({IDOf(Album), ShowsChosen(Album)});
+        const Qt::CheckState Ticked = Album.checkState(ColName);
+        if (Ticked == Qt::Checked) Chosen.push_back({IDOf(Album)});
+        if (Ticked == Qt::PartiallyChecked) Chosen.push_back({IDOf(Album), ShowsChosen(Album)});
     }
     return Chosen;
 }

@@ -1,6 +1,7 @@
 // The window that writes a folder for a disc, worked with mouse and keyboard.
 #include "DiscRig.h"
 #include "db/Changes.h"
+#include "support/modFUFL.h"
 
 namespace neb {
 namespace {

@@ -1,6 +1,7 @@
 // The viewers while other windows change what they show.
 #include "ViewRig.h"
 #include "db/Changes.h"
+#include "windows/lists/SlideRows.h"
 
 namespace neb {
 namespace {
