@@ -101,6 +101,18 @@ TEST_F(TransferAlbumRules, AnEmptyDatabaseTakesItsFirstAlbum) {
     ExpectDone(Own.Engine, Fresh, ToNew(SeaID));
 }
 
+// Within one medium the host copies by itself, from one to another the program does.
+TEST_F(TransferAlbumRules, DatabasesOnADiskAreCopiedAlike) {
+    TempFolder One, Two;
+    FilledDatabase First(One.Path(), u"first"_s), Second(Two.Path(), u"second"_s);
+    const std::int32_t SrcID = First.AddFilledAlbum(u"Lake"_s);
+    const std::int32_t DstID = Second.AddFilledAlbum(u"River"_s);
+    const StatedTransfer What{
+        .SrcAlbumID = SrcID, .DstAlbumID = DstID, .Replace = true, .NewAlbumName = u"Sea"_s};
+    WriteFile(SlidesFolder(One.Path(), SrcID) + u"00000001.jpg"_s, QByteArray(9000001, 'x'));
+    ExpectDone(First.Engine, Second.Engine, What);
+}
+
 TEST_F(TransferAlbumRules, QuotesInTheNameBecomeTypographic) {
     Export(ToNew(GardenID, u"The \"best\" of O'Hara's 'garden'"_s));
     Export(ToTown(u"'Town'"_s));
@@ -273,7 +285,7 @@ TEST_F(TransferAlbumRules, LettersBeyondAsciiClashInAnyCaseToo) {
     ExpectExportRefused(ToTown(), ClashBox("Export"));
 }
 
-TEST_F(TransferAlbumRules, FiveThousandSlidesTakeASecondOrTwo) {
+TEST_F(TransferAlbumRules, FiveThousandSlidesTakeAFewSeconds) {
     const std::int32_t ID = Own.AddAlbum(u"Many"_s);
     std::vector<std::int32_t> All;
     for (int I = 0; I < 5000; ++I) {

@@ -210,7 +210,7 @@ TEST_F(TransferFiles, AFolderInThePlaceOfAPictureIsAMissingOne) {
 
 TEST_F(TransferFiles, AnUnreadableFileIsAskedAboutLikeAMissingOne) {
     const QString Picture = GardenFile(u"Slides/00000001.jpg"_s);
-    for (const TempFolder* Each : {&OwnFolder, &OtherFolder}) {
+    for (const MemoryFolder* Each : {&OwnFolder, &OtherFolder}) {
         QDirIterator Walk(Each->Path(), QDir::AllEntries | QDir::NoDotAndDotDot,
                           QDirIterator::Subdirectories);
         for (QString Path = Each->Path(); !Path.isEmpty();
@@ -288,58 +288,6 @@ TEST_F(TransferFiles, AFaultFromTheOneWhoWatchesLeavesBothAsTheyWere) {
     }};
     EXPECT_THROW(Transfer(Own.Engine, Other.Engine, OverTown(), Desk), Fault);
     Both.Expect();
-}
-
-// ------------------------------------------------------------------------ others at work meanwhile
-
-// What happens while the files are copied; the transfer must then be refused, and nothing else
-// have changed.
-struct Meanwhile {
-    const char* Name;
-    std::function<void(clsDBEngine& Dst, std::int32_t AlbumID)> Change;
-};
-const Meanwhile Changed[] = {
-    {"the album goes", [](clsDBEngine& Dst, std::int32_t ID) { Dst.DeleteAlbum(ID); }},
-    {"an album is made",
-     [](clsDBEngine& Dst, std::int32_t) {
-         std::int32_t Made = 0;
-         Dst.SaveAlbum(Made, u"Made"_s);
-     }},
-    {"a slide is made",
-     [](clsDBEngine& Dst, std::int32_t ID) {
-         std::int32_t Made = 0;
-         Dst.GetAlbum(ID)->SaveSlide(Made, u"made"_s, {}, {}, false, false, Dst);
-     }},
-    {"a show is made",
-     [](clsDBEngine& Dst, std::int32_t ID) {
-         std::int32_t Made = 0;
-         Dst.GetAlbum(ID)->SaveSlideShow(Made, u"made"_s, 0, Dst);
-     }},
-};
-
-TEST_F(TransferFiles, WhatOthersChangeWhileFilesAreCopiedIsKeptAndTheTransferRefused) {
-    for (const auto Stage : {TransferProgress::Stage::Copying, TransferProgress::Stage::Writing})
-        for (const Meanwhile& Each : Changed) {
-            SCOPED_TRACE(std::string(Each.Name) + " at stage " +
-                         std::to_string(static_cast<int>(Stage)));
-            Other.Engine.InitializeDB();
-            const auto Disk = Tree(Other.Dir());
-            std::map<std::string, QByteArray> After;
-            const TransferDesk Desk{.Progress = [&](const TransferProgress& Now) {
-                if (Now.At != Stage || !After.empty()) return true;
-                Each.Change(Other.Engine, TownID);
-                After = MemoryOf(Other.Engine);
-                return true;
-            }};
-            StatedTransfer Joined = OverTown();
-            Joined.Replace = false;
-            const TransferResult Result = Transfer(Own.Engine, Other.Engine, Joined, Desk);
-            EXPECT_EQ(TransferResult::End::Refused, Result.Is);
-            EXPECT_EQ("plain||The destination was changed meanwhile. Nothing was transferred.",
-                      BoxesOf(Result));
-            EXPECT_EQ(After, MemoryOf(Other.Engine));
-            EXPECT_EQ("", TreeDifferences(Disk, Tree(Other.Dir())));
-        }
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include "albums/FilledDatabase.h"
 #include "albums/UntouchedDatabases.h"
 #include "albums/transfer/Transfer.h"
+#include "harness/MemoryFolder.h"
 #include "harness/TempFolder.h"
 #include "harness/TransferChecker.h"
 #include "settings/modNEBSlideShow.h"
@@ -105,7 +106,7 @@ class TransferRig : public ::testing::Test {
         return Lines.join(u"\n---\n"_s).toStdString();
     }
 
-    TempFolder OwnFolder, OtherFolder;
+    MemoryFolder OwnFolder, OtherFolder;
     FilledDatabase Own{OwnFolder.Path(), u"own"_s}, Other{OtherFolder.Path(), u"other"_s};
     std::int32_t GardenID = 0, SeaID = 0, HillsID = 0, TownID = 0;
     std::vector<Change> Told;

@@ -40,8 +40,7 @@ TEST_P(ShowWays, TheShowArrivesAsTheRulesSay) {
     EXPECT_EQ(1, Result.Shows);
     const clsNEBAlbum* Album = Target().Engine.GetAlbum(Result.DstAlbumID);
     ASSERT_TRUE(Album && Album->GetSlideShow(Result.DstSlideShowID));
-    EXPECT_EQ(u"\u201CTour\u201D"_s,
-              Album->GetSlideShow(Result.DstSlideShowID)->SlideShowName);
+    EXPECT_EQ(u"\u201CTour\u201D"_s, Album->GetSlideShow(Result.DstSlideShowID)->SlideShowName);
 }
 
 TEST_P(ShowWays, ASecondTimeArrivesAsWell) {
@@ -172,7 +171,7 @@ TEST_F(TransferShowRules, SlidesThatAnotherShowUsesOrNoneStay) {
 TEST_F(TransferShowRules, ASlideOfTheAlbumThatOnlyTheReplacedShowHadGoesWithAllItsFiles) {
     const clsNEBSlide& Second = SlideAt(Other.Engine, TownID, 1);
     const QString Stem = u"Slides/"_s + FileStem(Second.SlideID);
-    for (const char* Each : {".bmp", "Small.jpg", "", " copy.jpg"})
+    for (const char* Each : {".bmp", "Small.jpg", " copy.jpg"})
         Other.PutFile(TownID, Stem + QLatin1String(Each));
     Export(ToTown(Run(), TownWalk()));
 }

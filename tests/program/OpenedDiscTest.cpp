@@ -17,6 +17,7 @@
 #include "program/Workspace.h"
 #include "program/modMain.h"
 #include "settings/SettingKeys.h"
+#include "support/modFUFL.h"
 #include "windows/import/frmQuickShow.h"
 #include "windows/show/frmSlideShowProjector.h"
 #include "windows/slides/frmSlideMgrBulk.h"
