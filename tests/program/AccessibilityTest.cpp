@@ -19,6 +19,7 @@
 #include "windows/albums/frmAlbumRename.h"
 #include "windows/albums/frmGetObjectName.h"
 #include "windows/compose/frmSlideShowDBM.h"
+#include "windows/disc/frmDiscFolder.h"
 #include "windows/import/frmDirSelect.h"
 #include "windows/import/frmFindGraphics.h"
 #include "windows/import/frmImportFilter.h"
@@ -90,9 +91,9 @@ class EachWindow : public ::testing::Test {
 // But for the pop-up of a picture, in which there is nothing to press.
 using Windows =
     ::testing::Types<frmAbout, frmAlbumDelete, frmAlbumExport, frmAlbumImport, frmAlbumRename,
-                     frmAlbumView, frmDirSelect, frmFindGraphics, frmGetObjectName, frmHelp,
-                     frmImportFilter, frmLoading, frmMsgBoxEx, frmNewAlbumWzd1, frmPreferences,
-                     frmQuickShow, frmSlideDBM, frmSlideMgrBulk, frmSlideShowDBM,
+                     frmAlbumView, frmDirSelect, frmDiscFolder, frmFindGraphics, frmGetObjectName,
+                     frmHelp, frmImportFilter, frmLoading, frmMsgBoxEx, frmNewAlbumWzd1,
+                     frmPreferences, frmQuickShow, frmSlideDBM, frmSlideMgrBulk, frmSlideShowDBM,
                      frmSlideShowExport, frmSlideShowImport, frmSlideShowView, frmSoundRecorder,
                      frmTransferProgress>;
 TYPED_TEST_SUITE(EachWindow, Windows);
