@@ -22,7 +22,7 @@ namespace {
 
 constexpr int Slides = 2000;
 constexpr qsizetype PictureBytes = 300000, ThumbnailBytes = 19000;
-constexpr int Runs = 7;
+constexpr int Runs = 5;
 
 double Seconds() {
     using namespace std::chrono;

@@ -163,5 +163,13 @@ TEST_F(TransferBeside, AlsoOneThatIsStoppedKeepsIt) {
     EXPECT_EQ("", CheckTransfer(Source, Before, ReadDatabase(Other.Dir()), First));
 }
 
+TEST_F(TransferBeside, TheWindowsHearOfOneThatIsNotWholeYet) {
+    const StatedTransfer What{
+        .SrcAlbumID = HillsID, .DstAlbumID = SeaID, .Replace = true, .NewAlbumName = u"Sea"_s};
+    const auto Run = [&] { Transfer(Other.Engine, Own.Engine, What); };
+    ASSERT_TRUE(BreakOff(Run, Own.Dir() + u"Albums/"_s));
+    EXPECT_EQ((std::vector<Change>{{Change::Kind::AlbumReplaced, SeaID}}), Told);
+}
+
 }  // namespace
 }  // namespace neb::harness

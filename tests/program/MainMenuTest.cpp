@@ -72,6 +72,22 @@ TEST_F(TheMenu, TheHelpThatComesWithTheProgramHasBothPlaces) {
         EXPECT_TRUE(Help.contains(Place)) << Place;
 }
 
+TEST_F(TheMenu, NoWindowOpensTooSmallForWhatItShows) {
+    Start();
+    mWindow->resize(1200, 900);
+    for (const char* Name :
+         {"mnuQuickShow", "mnuSlideMgr", "mnuSlideMgrBulk", "mnuSlideShowMgr", "mnuAlbumImport",
+          "mnuAlbumExport", "mnuSlideShowImport", "mnuSlideShowExport"}) {
+        Press(Name);
+        ASSERT_EQ(1, Area().subWindowList().size()) << Name;
+        const QWidget& Child = *Area().subWindowList().front()->widget();
+        EXPECT_GE(Child.height(), Child.minimumSizeHint().height()) << Name;
+        EXPECT_GE(Child.width(), Child.minimumSizeHint().width()) << Name;
+        LoadedForms().back()->Unload();
+        DoEvents();
+    }
+}
+
 TEST_F(TheMenu, AMissingHelpFileIsToldInTheStatusBarAlone) {
     Start();
     EXPECT_EQ("", Notice());

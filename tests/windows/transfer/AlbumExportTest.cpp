@@ -322,6 +322,24 @@ TEST_F(AlbumExport, AFaultInTheLastWriteLosesNothingAndSaysSo) {
     EXPECT_EQ("Attic: lamp [Winter 1]|Garden: rose tulip [Summer 2]", OnDisk(OtherDb.Path()));
 }
 
+TEST_F(AlbumExport, ATransferThatWaitsForItsCompletionIsToldAndNotBegunAgain) {
+    Load(*W, OtherDb.Path());
+    SetHostWatcher([](HostStep Step, const QString& Path, qint64&) {
+        if (Step == HostStep::Rename && Path.contains(u"/Slides/"_s))
+            throw Fault(u"The stick has gone."_s);
+    });
+    Boxes.Expect(
+        u"The transfer is done, but not all of its files are in their places yet; the "
+        "next opening of the database will put them there. The stick has gone."_s,
+        u"Operation Not Yet Completed"_s, BoxIcon::Information, BoxAnswer::Ok);
+    Press(*W, "cmdExport");
+    EXPECT_FALSE(W->IsLoaded());
+    SetHostWatcher({});
+    Reopen();
+    Load(*W, OtherDb.Path());
+    EXPECT_EQ("<NEW ALBUM>*|Attic|Garden", Listed(*W, "cboDstAlbum"));
+}
+
 TEST_F(AlbumExport, WhatIsMissingIsAskedOnceAndEnterStops) {
     for (const std::int32_t Each : {1, 2}) DeleteFile(PicturePath(Engine, Each));
     Load(*W, OtherDb.Path());

@@ -40,10 +40,6 @@ TEST_F(TransferLooks, NothingIsCutInAFontHalfAsLargeAgain) {
             EXPECT_EQ(View.sizeHint().width(), View.width()) << "the lists have the room";
             EXPECT_LE(Window->width(), 1000);
             EXPECT_LE(Window->height(), 700);
-            if (qEnvironmentVariableIsSet("NEB_SHOTS"))
-                Window->grab().save(qEnvironmentVariable("NEB_SHOTS") + u'/' +
-                                    Window->objectName() +
-                                    (Each == Large ? u"-large.png"_s : u".png"_s));
             Window->Unload();
         }
     }

@@ -55,6 +55,7 @@ class TransferRig : public ViewRig {
         Others->Load();
     }
     ~TransferRig() override {
+        for (const auto& Each : LoadedForms()) Each->Unload();  // before the folders go
         TheOpeners().Notice = {};
         TheOpeners().ShowAsChild = {};
         SetHostWatcher({});
