@@ -48,10 +48,12 @@ bool IsControl(const QWidget& Widget) {
            qobject_cast<const QAbstractSpinBox*>(&Widget) || qobject_cast<const QSlider*>(&Widget);
 }
 
-// Pieces that the toolkit puts inside its own controls, such as the corner of a grid.
+// Pieces that the toolkit puts inside its own controls, such as the corner of a grid, or a button
+// in a line of text, which has a key there.
 bool IsToolkitPart(const QWidget& Widget) {
     return Widget.objectName().startsWith(u"qt_") ||
            qobject_cast<const QComboBox*>(Widget.parentWidget()) ||
+           qobject_cast<const QLineEdit*>(Widget.parentWidget()) ||
            qobject_cast<const QAbstractItemView*>(Widget.parentWidget()) ||
            QByteArray(Widget.metaObject()->className()).contains("HeaderView") ||
            Widget.parentWidget()->objectName() == u"qt_scrollarea_viewport" ||
