@@ -34,8 +34,9 @@ bool WaitFor(Job<Result>& Work, const Tell& GoOn) {
 }
 
 FilesLookedFor Look(const std::vector<FileToCopy>& Files, const QStringList& OldMasks,
-                    const JobState& State) {
+                    const QString& DBPath, const JobState& State) {
     FilesLookedFor Looked;
+    Looked.Room = FreeSpace(DBPath);
     for (size_t Which = 0; Which < Files.size() && !State.Stop; ++Which) {
         const FileToCopy& File = Files[Which];
         if (CanReadFile(File.From))
@@ -100,9 +101,11 @@ TransferProgress AllOf(const std::vector<FoundFile>& Files) {
 }  // namespace
 
 std::optional<FilesLookedFor> LookForFiles(const std::vector<FileToCopy>& Files,
-                                           const QStringList& OldMasks, const TransferGoOn& GoOn) {
-    Job<FilesLookedFor> Work(
-        [Files, OldMasks](JobState& State) { return Look(Files, OldMasks, State); });
+                                           const QStringList& OldMasks, const QString& DBPath,
+                                           const TransferGoOn& GoOn) {
+    Job<FilesLookedFor> Work([Files, OldMasks, DBPath](JobState& State) {
+        return Look(Files, OldMasks, DBPath, State);
+    });
     if (!WaitFor(Work, [&] { return GoOn({}); })) return std::nullopt;
     return Work.Take();
 }

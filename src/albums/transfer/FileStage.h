@@ -24,10 +24,12 @@ struct FilesLookedFor {
     std::vector<FoundFile> Found;
     std::vector<size_t> Missing;  // of the files that were asked for; thumbnails are never missed
     QStringList Old;              // what the masks match, full paths
+    qint64 Room = -1;             // bytes free where they are to go; -1 when it is not known
 };
 // Nothing when it was stopped.
 std::optional<FilesLookedFor> LookForFiles(const std::vector<FileToCopy>& Files,
-                                           const QStringList& OldMasks, const TransferGoOn& GoOn);
+                                           const QStringList& OldMasks, const QString& DBPath,
+                                           const TransferGoOn& GoOn);
 
 class FileStage {
   public:

@@ -47,7 +47,7 @@ class TransferRun {
 
     // False when it was stopped, also because something is missing.
     bool Look() {
-        auto Looked = LookForFiles(mPlan.Files, mPlan.Gone.Masks,
+        auto Looked = LookForFiles(mPlan.Files, mPlan.Gone.Masks, mDB.DBPath(),
                                    [this](const TransferProgress& Now) { return Report(Now); });
         if (!Looked) return false;
         QStringList Missing;
@@ -56,6 +56,7 @@ class TransferRun {
         mFiles = std::move(Looked->Found);
         for (const size_t Which : Looked->Missing) GoWithout(mPlan.Files[Which]);
         mOldFiles = std::move(Looked->Old);
+        mRoom = Looked->Room;
         return true;
     }
 
@@ -71,10 +72,9 @@ class TransferRun {
     Answer<> CheckRoom() const {
         qint64 Needed = RoomForRecords;
         for (const FoundFile& Each : mFiles) Needed += Each.Bytes;
-        const qint64 Free = FreeSpace(mDB.DBPath());
-        if (Free < 0 || Free >= Needed) return Done();
+        if (mRoom < 0 || mRoom >= Needed) return Done();
         return Refuse(QStringLiteral("There is not enough room: %1 are needed, %2 are free in\n%3")
-                          .arg(ShortSize(Needed), ShortSize(Free), mDB.DBPath()),
+                          .arg(ShortSize(Needed), ShortSize(mRoom), mDB.DBPath()),
                       QStringLiteral("Operation Unsuccessful"));
     }
 
@@ -167,6 +167,7 @@ class TransferRun {
     const QObject* mAsker;
     std::vector<FoundFile> mFiles;
     QStringList mOldFiles;  // full paths
+    qint64 mRoom = -1;      // bytes
 };
 
 }  // namespace
