@@ -15,6 +15,8 @@
 #include "support/Fault.h"
 #include "support/Services.h"
 #include "windows/albums/modAlbumNames.h"
+#include "windows/disc/frmDiscFolder.h"
+#include "windows/disc/modDiscCheck.h"
 #include "windows/frame/Openers.h"
 #include "windows/frame/modNotice.h"
 #include "windows/import/frmNewAlbumWzd1.h"
@@ -23,10 +25,8 @@
 #include "windows/slides/frmSlideMgrBulk.h"
 #include "windows/transfer/frmAlbumExport.h"
 #include "windows/transfer/frmAlbumImport.h"
-#include "windows/transfer/frmDiscFolder.h"
 #include "windows/transfer/frmSlideShowExport.h"
 #include "windows/transfer/frmSlideShowImport.h"
-#include "windows/transfer/modDiscCheck.h"
 
 namespace neb {
 namespace {

@@ -50,6 +50,8 @@ void frmNEBSlideShow::ShowAsChild(Form& Child) {
     Frame->setAttribute(Qt::WA_DeleteOnClose, false);
     Child.Load();
     if (!Child.IsLoaded()) return;
+    // what its content needs is known now, and may be more than it was designed for
+    Frame->resize(Frame->size().expandedTo(Frame->minimumSizeHint()).boundedTo(mWorkspace->size()));
     PositionMDIChild(Child, 1);
     Child.ShowModeless();
 }

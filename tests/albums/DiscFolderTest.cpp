@@ -81,7 +81,7 @@ TEST_F(DiscFolder, IsWholeAndNothingElseLiesInIt) {
     const DiscResult Result = Write(Source.All());
     EXPECT_EQ(
         "Albums Albums.dat EffectStats.dat NextIDs.dat Properties.dat QLM.ini README.txt "
-        "SlideShowDetails.dat SlideShows.dat SlideShowSoundTracks.dat Slides.dat Sums.sha256",
+        "Slides.dat SlideShowDetails.dat SlideShows.dat SlideShowSoundTracks.dat Sums.sha256",
         Names(Dir).join(u' ').toStdString());
     EXPECT_TRUE(IsReadOnly(Dir + u"NextIDs.dat"_s));
     EXPECT_FALSE(IsReadOnly(Dir + u"Albums.dat"_s));

@@ -19,6 +19,7 @@
 #include "windows/albums/frmAlbumRename.h"
 #include "windows/albums/frmGetObjectName.h"
 #include "windows/compose/frmSlideShowDBM.h"
+#include "windows/disc/frmDiscFolder.h"
 #include "windows/import/frmDirSelect.h"
 #include "windows/import/frmFindGraphics.h"
 #include "windows/import/frmImportFilter.h"
@@ -28,8 +29,13 @@
 #include "windows/show/frmPreferences.h"
 #include "windows/slides/frmSlideDBM.h"
 #include "windows/slides/frmSlideMgrBulk.h"
+#include "windows/transfer/frmAlbumExport.h"
+#include "windows/transfer/frmAlbumImport.h"
 #include "windows/transfer/frmAlbumView.h"
+#include "windows/transfer/frmSlideShowExport.h"
+#include "windows/transfer/frmSlideShowImport.h"
 #include "windows/transfer/frmSlideShowView.h"
+#include "windows/transfer/frmTransferProgress.h"
 
 namespace neb {
 namespace {
@@ -84,10 +90,12 @@ class EachWindow : public ::testing::Test {
 
 // But for the pop-up of a picture, in which there is nothing to press.
 using Windows =
-    ::testing::Types<frmAbout, frmAlbumDelete, frmAlbumRename, frmAlbumView, frmDirSelect,
-                     frmFindGraphics, frmGetObjectName, frmHelp, frmImportFilter, frmLoading,
-                     frmMsgBoxEx, frmNewAlbumWzd1, frmPreferences, frmQuickShow, frmSlideDBM,
-                     frmSlideMgrBulk, frmSlideShowDBM, frmSlideShowView, frmSoundRecorder>;
+    ::testing::Types<frmAbout, frmAlbumDelete, frmAlbumExport, frmAlbumImport, frmAlbumRename,
+                     frmAlbumView, frmDirSelect, frmDiscFolder, frmFindGraphics, frmGetObjectName,
+                     frmHelp, frmImportFilter, frmLoading, frmMsgBoxEx, frmNewAlbumWzd1,
+                     frmPreferences, frmQuickShow, frmSlideDBM, frmSlideMgrBulk, frmSlideShowDBM,
+                     frmSlideShowExport, frmSlideShowImport, frmSlideShowView, frmSoundRecorder,
+                     frmTransferProgress>;
 TYPED_TEST_SUITE(EachWindow, Windows);
 
 TYPED_TEST(EachWindow, HasNamesToolTipsAndReachableControls) {

@@ -72,6 +72,22 @@ TEST_F(TheMenu, TheHelpThatComesWithTheProgramHasBothPlaces) {
         EXPECT_TRUE(Help.contains(Place)) << Place;
 }
 
+TEST_F(TheMenu, NoWindowOpensTooSmallForWhatItShows) {
+    Start();
+    mWindow->resize(1200, 900);
+    for (const char* Name :
+         {"mnuQuickShow", "mnuSlideMgr", "mnuSlideMgrBulk", "mnuSlideShowMgr", "mnuAlbumImport",
+          "mnuAlbumExport", "mnuSlideShowImport", "mnuSlideShowExport"}) {
+        Press(Name);
+        ASSERT_EQ(1, Area().subWindowList().size()) << Name;
+        const QWidget& Child = *Area().subWindowList().front()->widget();
+        EXPECT_GE(Child.height(), Child.minimumSizeHint().height()) << Name;
+        EXPECT_GE(Child.width(), Child.minimumSizeHint().width()) << Name;
+        LoadedForms().back()->Unload();
+        DoEvents();
+    }
+}
+
 TEST_F(TheMenu, AMissingHelpFileIsToldInTheStatusBarAlone) {
     Start();
     EXPECT_EQ("", Notice());
@@ -150,9 +166,20 @@ TEST_F(TheMenu, OnlyTheEntriesOfWindowsToComeRest) {
         if (Each->objectName().startsWith("mnu") && !Each->isEnabled())
             Resting << Each->objectName();
     Resting.sort();
-    EXPECT_EQ(QStringList({"mnuAlbumExport", "mnuAlbumImport", "mnuAlbumPrint",
-                           "mnuSlideShowExport", "mnuSlideShowImport", "mnuSlideShowPrint"}),
-              Resting);
+    EXPECT_EQ(QStringList({"mnuAlbumPrint", "mnuSlideShowPrint"}), Resting);
+}
+
+TEST_F(TheMenu, OpensTheWindowsOfTransferBesideTheOthers) {
+    Start();
+    const QStringList Entries{"mnuAlbumImport", "mnuAlbumExport", "mnuSlideShowImport",
+                              "mnuSlideShowExport"};
+    for (const QString& Each : Entries) Press(qPrintable(Each));
+    QStringList Opened;
+    for (const QMdiSubWindow* Each : Area().subWindowList())
+        if (Each->widget()->isVisible()) Opened << Each->widget()->objectName();
+    EXPECT_EQ(QStringList(
+                  {"frmAlbumImport", "frmAlbumExport", "frmSlideShowImport", "frmSlideShowExport"}),
+              Opened);
 }
 
 }  // namespace

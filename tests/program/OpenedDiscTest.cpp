@@ -2,6 +2,9 @@
 // lies: on a disc, on a stick, in a folder that nobody may write.
 #include <QComboBox>
 #include <QDropEvent>
+#include <QLabel>
+#include <QMdiSubWindow>
+#include <QMenuBar>
 #include <QMimeData>
 #include <QProcess>
 #include <QPushButton>
@@ -17,6 +20,8 @@
 #include "program/Workspace.h"
 #include "program/modMain.h"
 #include "settings/SettingKeys.h"
+#include "support/modFUFL.h"
+#include "windows/disc/frmDiscFolder.h"
 #include "windows/import/frmQuickShow.h"
 #include "windows/show/frmSlideShowProjector.h"
 #include "windows/slides/frmSlideMgrBulk.h"
@@ -111,6 +116,46 @@ class OpenedDisc : public MainWindow {
     QStringList Started;
     bool Starts = true;
 };
+
+// In the frame a key of the menu bar would be taken from it.
+TEST_F(OpenedDisc, TheMenuOpensTheWindowThatWritesOneWithKeysOfItsOwn) {
+    Start();
+    Press("mnuDiscWrite");
+    ASSERT_TRUE(Find<frmDiscFolder>());
+    EXPECT_EQ(1, mWindow->Area().subWindowList().size());
+    QSet<QKeySequence> Taken;
+    for (const QAction* Header : mWindow->menuBar()->actions())
+        Taken.insert(QKeySequence::mnemonic(Header->text()));
+    const auto Take = [&Taken](const QString& Text) {
+        const QKeySequence Key = QKeySequence::mnemonic(Text);
+        if (Key.isEmpty()) return;
+        EXPECT_FALSE(Taken.contains(Key)) << Text.toStdString();
+        Taken.insert(Key);
+    };
+    for (const auto* Each : Find<frmDiscFolder>()->findChildren<QPushButton*>()) Take(Each->text());
+    for (const auto* Each : Find<frmDiscFolder>()->findChildren<QLabel*>())
+        if (Each->buddy()) Take(Each->text());
+    EXPECT_EQ(7 + 5, Taken.size());
+}
+
+TEST_F(OpenedDisc, TheMenuChecksOne) {
+    class Chosen : public FileDialogs {
+      public:
+        QString OpenFile(const QString&, const QString&, const QString&) override { return {}; }
+        QString SaveFile(const QString&, const QString&, const QString&) override { return {}; }
+        QString ChooseFolder(const QString&, const QString&) override { return Folder; }
+        QString Folder;
+    } Dialog;
+    Start();
+    Dialog.Folder = Out.Path();
+    TheServices().Dialogs = &Dialog;
+    mBoxes.Expect(
+        u"There is no list of check sums in\n%1\nA folder that was written for a disc has "
+        "one, named Sums.sha256."_s.arg(Out.Path()),
+        u"Check a Disc"_s, BoxIcon::Information, BoxAnswer::Ok);
+    Press("mnuDiscCheck");
+    TheServices().Dialogs = nullptr;
+}
 
 TEST_F(OpenedDisc, AFolderOfAlbumsThatIsDroppedOpensInAnotherInstance) {
     WriteDisc(Out / u"disc"_s);

@@ -18,6 +18,10 @@
 #include "windows/lists/frmPicturePopup.h"
 #include "windows/recorder/frmSoundRecorder.h"
 #include "windows/show/frmSlideShowProjector.h"
+#include "windows/transfer/frmAlbumExport.h"
+#include "windows/transfer/frmAlbumImport.h"
+#include "windows/transfer/frmSlideShowExport.h"
+#include "windows/transfer/frmSlideShowImport.h"
 
 namespace neb {
 namespace {
@@ -344,6 +348,65 @@ TEST_F(KeyboardTasks, ADirectoryIsChosenByWalkingTheTree) {
     });
     EXPECT_EQ(Pics / u"below"_s, Selector->SelectDirectory());
     EXPECT_TRUE(Selector->RecurseDir());
+}
+
+TEST_F(KeyboardTasks, AnAlbumAndAShowGoToAnotherDatabaseAndComeBack) {
+    AddSlide(u"a"_s);
+    std::int32_t ShowID = 0;
+    SlideRig::Album().SaveSlideShow(ShowID, u"Summer"_s, 0, Engine);
+    SlideRig::Album().GetSlideShow(ShowID)->SaveDetail(1, 1, {});
+    TempFolder Stick;
+    const auto Out = NewForm<frmAlbumExport>();
+    ShowActive(*Out);
+    EXPECT_EQ("cboSrcAlbum", FocusName());
+    TabTo("txtDstDB");
+    Write(Stick.Path());
+    Boxes.Expect(
+        u"The specified directory does not hold an NEB Slide Show Database.\nDo you want to make a "
+        "new one there?"_s,
+        u"Invalid Directory"_s, BoxIcon::Question, BoxAnswer::Yes);
+    Key(Qt::Key_Return);
+    TabTo("txtAlbumName");
+    Rewrite(u"Flowers"_s);
+    PressKeyOn("cmdExport");
+    EXPECT_FALSE(Out->IsLoaded());
+    const auto ShowOut = NewForm<frmSlideShowExport>();
+    ShowActive(*ShowOut);
+    TabTo("txtDstDB");
+    Key(Qt::Key_Down, Qt::AltModifier);
+    ASSERT_NE(nullptr, QApplication::activePopupWidget());
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
+    Activate(*ShowOut);
+    TabTo("cboDstAlbum");
+    Key(Qt::Key_End);
+    TabTo("txtSlideShowName");
+    Rewrite(u"Winter"_s);
+    Key(Qt::Key_Return);
+    EXPECT_FALSE(ShowOut->IsLoaded()) << "Enter presses Export";
+    const auto In = NewForm<frmSlideShowImport>();
+    ShowActive(*In);
+    EXPECT_EQ("txtSrcDB", FocusName());
+    Write(Stick.Path());
+    Key(Qt::Key_Return);
+    TabTo("cboSrcSlideShow");
+    Key(Qt::Key_End);
+    PressKeyOn("cmdImport");
+    EXPECT_FALSE(In->IsLoaded());
+    const auto AlbumIn = NewForm<frmAlbumImport>();
+    ShowActive(*AlbumIn);
+    Write(Stick.Path());
+    Key(Qt::Key_Return);
+    TabTo("txtAlbumName");
+    Rewrite(u"Again"_s);
+    PressKeyOn("cmdImport");
+    EXPECT_EQ("a", CaptionsIn(Album(u"Flowers"_s)));
+    EXPECT_EQ("a|a", CaptionsIn(Album(u"Again"_s)));
+    EXPECT_EQ(2u, Album(u"Again"_s).SlideShows.size());
+    EXPECT_EQ("Winter", Album(u"Flowers"_s).SlideShows[0]->SlideShowName.toStdString());
+    const auto Left = NewForm<frmAlbumImport>();
+    ShowActive(*Left);
+    PressKeyOn("cmdCancel");
+    EXPECT_FALSE(Left->IsLoaded());
 }
 
 TEST_F(KeyboardTasks, AnAlbumIsRenamedAndDeleted) {

@@ -8,6 +8,10 @@
 #include "windows/albums/modAlbumNames.h"
 #include "windows/import/frmQuickShow.h"
 #include "windows/show/frmSlideShowProjector.h"
+#include "windows/transfer/frmAlbumExport.h"
+#include "windows/transfer/frmAlbumImport.h"
+#include "windows/transfer/frmSlideShowExport.h"
+#include "windows/transfer/frmSlideShowImport.h"
 
 namespace neb {
 namespace {
@@ -335,6 +339,34 @@ TEST_P(Receivers, KeepWhatWasTypedAndIsNotSaved) {
 
 INSTANTIATE_TEST_SUITE_P(, Receivers, ::testing::ValuesIn(Rows),
                          [](const auto& Each) { return std::string(Each.param.Change); });
+
+// The windows of transfer list albums as the managers do; what they show in detail is tested beside
+// them.
+TEST_F(OpenWindows, ThoseOfTransferListTheAlbumsThatAreThere) {
+    const std::vector<std::shared_ptr<Form>> Transfers = {
+        NewForm<Hearing<frmAlbumExport>>(), NewForm<Hearing<frmAlbumImport>>(),
+        NewForm<Hearing<frmSlideShowExport>>(), NewForm<Hearing<frmSlideShowImport>>()};
+    for (const auto& Each : Transfers) Each->ShowModeless();
+    const auto ListedNow = [&] {
+        return Entries(*Transfers[0], "cboSrcAlbum") + u' ' +
+               Entries(*Transfers[1], "cboDstAlbum") + u' ' +
+               Entries(*Transfers[2], "cboSrcAlbum") + u' ' + Entries(*Transfers[3], "cboDstAlbum");
+    };
+    EXPECT_EQ(u"Attic*|Garden <NEW ALBUM>*|Attic|Garden Attic*|Garden <NEW ALBUM>*|Attic|Garden"_s,
+              ListedNow());
+    RenameTheAlbum();
+    EXPECT_EQ(u"Attic*|Zoo <NEW ALBUM>*|Attic|Zoo Attic*|Zoo <NEW ALBUM>*|Attic|Zoo"_s,
+              ListedNow());
+    DeleteTheAlbum();
+    EXPECT_EQ(u"Attic* <NEW ALBUM>*|Attic Attic* <NEW ALBUM>*|Attic"_s, ListedNow());
+    MakeAQuickShow();
+    EXPECT_EQ(u"Attic*|Zoo <NEW ALBUM>*|Attic|Zoo Attic*|Zoo <NEW ALBUM>*|Attic|Zoo"_s,
+              ListedNow());
+    for (const char* Event : {"Delete", "Insert", "Update", "Add Slides", "Delete Slides"})
+        BroadcastEvent(u"Album"_s, QString::fromLatin1(Event), nullptr, {});
+    EXPECT_EQ(u"Attic*|Zoo <NEW ALBUM>*|Attic|Zoo Attic*|Zoo <NEW ALBUM>*|Attic|Zoo"_s, ListedNow())
+        << "an event that lacks its keys harms nothing";
+}
 
 // Told of what is no concern of theirs, while the engine is other than they show: nothing moves.
 TEST_F(OpenWindows, IgnoreAllOtherEvents) {

@@ -24,13 +24,15 @@ void Rename(QWidget& Control, const char* Name) {
     Control.setObjectName(QString::fromLatin1(Name));
 }
 
-// In a column of a grid.
+// In a column of a grid, of what does not reach into its neighbour as well.
 int WidestIn(const QGridLayout& Grid, int Column) {
+    const int Neighbour = Column == 0 ? 1 : Column - 1;
     int Widest = 0;
-    for (int Row = 0; Row < Grid.rowCount(); ++Row)
-        if (const auto* Item = Grid.itemAtPosition(Row, Column);
-            Item && !Item->isEmpty() && Grid.itemAtPosition(Row, 0) != Grid.itemAtPosition(Row, 1))
+    for (int Row = 0; Row < Grid.rowCount(); ++Row) {
+        const QLayoutItem* Item = Grid.itemAtPosition(Row, Column);
+        if (Item && !Item->isEmpty() && Item != Grid.itemAtPosition(Row, Neighbour))
             Widest = std::max(Widest, Item->sizeHint().width());
+    }
     return Widest;
 }
 
@@ -332,7 +334,7 @@ void TransferForm::ReceiveEvent(const QString& ObjectType, const QString& EventT
 // Enter in the directory loads it, and does not press the default button as well.
 void TransferForm::keyPressEvent(QKeyEvent* Event) {
     const bool Enter = Event->key() == Qt::Key_Return || Event->key() == Qt::Key_Enter;
-    if (!Enter || !mUi->txtDB->hasFocus()) return Form::keyPressEvent(Event);
+    if (!Enter || focusWidget() != mUi->txtDB) return Form::keyPressEvent(Event);
     Command([this] { LoadNamed(); });
 }
 

@@ -97,7 +97,7 @@ class TransferForm : public Form, public ChangeReceiver {
     bool IsReady();
     bool IsSourceMeant();
     bool HasChoices();
-    TransferResult Run();
+    std::optional<TransferResult> Run();
     TransferResult Transfer(const TransferDesk& Desk);
     TransferDesk DeskOf(frmTransferProgress& Bar) const;
     void SetTransferring(bool Does);

@@ -25,6 +25,10 @@ BoxRequest Failed(const QString& Text) {
     return {Text, QStringLiteral("Operation Failed"), BoxIcon::Critical};
 }
 
+BoxRequest NotYetCompleted(const QString& Text) {
+    return Refuse(Text, QObject::tr("Operation Not Yet Completed"));
+}
+
 QString Count(int Number, const QString& One, const QString& Many) {
     return QString::number(Number) + u' ' + (Number == 1 ? One : Many);
 }
@@ -59,11 +63,13 @@ void TransferForm::Remember(const TransferSide& Of, const std::shared_ptr<Viewer
 
 void TransferForm::Start() {
     if (!IsReady()) return;
-    TransferResult Result = Run();
-    if (Result)
-        Finish(Result);
+    auto Result = Run();
+    if (!Result)
+        Unload();
+    else if (*Result)
+        Finish(*Result);
     else
-        TellFailure(Result);
+        TellFailure(*Result);
 }
 
 bool TransferForm::IsReady() {
@@ -95,7 +101,8 @@ bool TransferForm::HasChoices() {
     return mSrc.HasAlbum() && mDst.HasAlbum();
 }
 
-TransferResult TransferForm::Run() {
+// Nothing after a box: it is done, and waits for the next opening of its destination.
+std::optional<TransferResult> TransferForm::Run() {
     const PointerScope Working(Pointer::Hourglass);
     const QPointer<QWidget> Focus = focusWidget();
     SetTransferring(true);
@@ -110,6 +117,10 @@ TransferResult TransferForm::Run() {
         Bar->ShowOver([&] { Result = Transfer(DeskOf(*Bar)); });
     } catch (const Fault& Problem) {
         Result.Boxes = {Failed(Problem.Text())};
+        if (Problem.Number() == TransferUnfinished) {
+            ShowBox(NotYetCompleted(Problem.Text()));
+            return std::nullopt;
+        }
     }
     return Result;
 }
@@ -180,9 +191,9 @@ void TransferForm::FinishOther(const TransferResult& Result) {
         const PointerScope Working(Pointer::Hourglass);
         FinishAside([Other = mOther.Foreign()] { Other->Engine().FinalizeDB(); }).get();
     } catch (const Fault& Problem) {
-        MsgBox(tr("The transfer is safe, and is completed when that database is opened next.") +
-                   u'\n' + Problem.Text(),
-               tr("Operation Not Yet Completed"), BoxIcon::Information);
+        ShowBox(NotYetCompleted(
+            tr("The transfer is safe, and is completed when that database is opened next.") +
+            u'\n' + Problem.Text()));
     }
     mOther.RefillViewers(Result.DstAlbumID);
 }

@@ -81,9 +81,8 @@ void ViewerForm::Form_Load() {
 
 void ViewerForm::Refill(clsDBEngine& objDB) {
     if (!IsLoaded()) return;
-    mSubject.DB = &objDB;
-    mReading.Read(Reading());
-    mSubject.DB = nullptr;
+    const QScopedValueRollback<clsDBEngine*> Asked(mSubject.DB, &objDB);
+    Reload();
 }
 
 // A place that cannot be remembered must not keep the window open. A fill that is under way sees

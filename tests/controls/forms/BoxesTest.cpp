@@ -177,7 +177,8 @@ TEST_F(Boxes, NamingAFileThatIsThereAsksNothing) {
     const TempFolder Folder;
     const QString Path = Folder / QStringLiteral("NextIDs.dat");
     WriteFile(Path, "kept");
-    WhenOpen<QFileDialog>([](QFileDialog& Dialog) { Dialog.accept(); });
+    WhenOpen<QFileDialog>(
+        [](QFileDialog& Dialog) { QMetaObject::invokeMethod(&Dialog, "accept"); });
     EXPECT_EQ(Path, DesktopFileDialogs().SaveFile(QStringLiteral("Save"), Path, {}));
     EXPECT_EQ("kept", ReadFile(Path));
 }

@@ -82,7 +82,7 @@ TEST_F(DiscCheck, BeginsInTheOpenDatabaseWhereThatHasAList) {
 TEST_F(DiscCheck, CanBeStopped) {
     WriteDisc();
     Said.Answer = BoxAnswer::Yes;
-    StopAt(0);
+    StopWhen([] { return true; });
     CheckDisc();
     ASSERT_EQ(1u, Said.Shown.size());
     EXPECT_EQ(AbortQuestion, LastBox().Text);

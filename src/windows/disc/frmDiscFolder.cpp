@@ -1,4 +1,4 @@
-#include "windows/transfer/frmDiscFolder.h"
+#include "windows/disc/frmDiscFolder.h"
 
 #include <QDragEnterEvent>
 #include <QHeaderView>

@@ -1,4 +1,4 @@
-#include "windows/transfer/modDiscCheck.h"
+#include "windows/disc/modDiscCheck.h"
 
 #include <QLocale>
 

@@ -7,11 +7,11 @@
 #include <QTreeWidget>
 
 #include "albums/DiscRig.h"
+#include "windows/disc/frmDiscFolder.h"
+#include "windows/disc/modDiscCheck.h"
 #include "windows/frame/Openers.h"
 #include "windows/import/IntakeHarness.h"
-#include "windows/transfer/frmDiscFolder.h"
 #include "windows/transfer/frmTransferProgress.h"
-#include "windows/transfer/modDiscCheck.h"
 
 namespace neb::harness {
 
@@ -59,12 +59,11 @@ class DiscUser : public Intake {
 
     // The box that was shown last; empty for none.
     BoxRequest LastBox() const { return Said.Shown.empty() ? BoxRequest() : Said.Shown.back(); }
-    // Presses Stop as soon as the bar is past this part of the whole.
-    static void StopAt(int Percent) {
-        SetDoEventsHook([Percent, Done = false]() mutable {
+    // Presses Stop once, at the first yield of the work at which Now says so.
+    static void StopWhen(std::function<bool()> Now) {
+        SetDoEventsHook([Now, Done = false]() mutable {
             const auto* Bar = harness::Open<frmTransferProgress>();
-            if (Done || !Bar || In<QProgressBar>(*Bar, "pgbTransfer").value() < Percent * 10)
-                return;
+            if (Done || !Bar || !Now()) return;
             Done = true;
             Press(*Bar, "cmdStop");
         });
