@@ -1,6 +1,7 @@
 // Others are at work in the destination while files are copied into it; and what a transfer leaves
 // behind that was cut short after its end was certain.
 #include "TransferRig.h"
+#include "harness/WithoutPrivileges.h"
 
 namespace neb::harness {
 namespace {
@@ -205,6 +206,24 @@ TEST_F(TransferBeside, APictureWithoutAnEndingGoesWithItsSlide) {
 TEST_F(TransferBeside, AFolderInTheWayOfAFileKeepsNobodyFromOpeningTheDatabase) {
     const QString Next = FileStem(Other.Engine.NextSlideID) + u".JPG"_s;
     MakeDirs(SlidesFolder(Other.Dir(), TownID) + Next + u"/deep"_s);
+    try {
+        Transfer(Own.Engine, Other.Engine, OverTownWalk());
+    } catch (const Fault&) {
+        SUCCEED();
+    }
+    EXPECT_NO_THROW(Other.Engine.FinalizeDB());
+    EXPECT_NO_THROW(Other.Engine.InitializeDB());
+}
+
+TEST_F(TransferBeside, NeitherDoesAnAlbumWhoseFolderIsNotOurs) {
+    for (const MemoryFolder* Each : {&OwnFolder, &OtherFolder}) {
+        QFile::setPermissions(Each->Path(), QFileDevice::Permissions(0x7777));
+        QDirIterator Walk(Each->Path(), QDir::AllEntries | QDir::NoDotAndDotDot,
+                          QDirIterator::Subdirectories);
+        while (Walk.hasNext()) QFile::setPermissions(Walk.next(), QFileDevice::Permissions(0x7777));
+    }
+    QFile::setPermissions(SlidesFolder(Other.Dir(), TownID), QFileDevice::Permissions(0x5555));
+    const WithoutPrivileges AsSomebody;
     try {
         Transfer(Own.Engine, Other.Engine, OverTownWalk());
     } catch (const Fault&) {
