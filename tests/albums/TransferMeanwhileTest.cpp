@@ -1,6 +1,7 @@
 // Others are at work in the destination while files are copied into it; and what a transfer leaves
 // behind that was cut short after its end was certain.
 #include "TransferRig.h"
+#include "harness/WithoutPrivileges.h"
 
 namespace neb::harness {
 namespace {
@@ -67,14 +68,20 @@ TEST_P(TransferMeanwhile, WhatOthersHaveChangedStaysAndTheTransferIsRefused) {
     EXPECT_EQ("", TreeDifferences(Disk, Tree(Other.Dir())));
 }
 
-INSTANTIATE_TEST_SUITE_P(Transfer, TransferMeanwhile,
-                         ::testing::Values(Meanwhile{"AlbumGoesAtALook", Stage::Looking, AlbumGoes},
-                                           Meanwhile{"AlbumGoes", Stage::Copying, AlbumGoes},
-                                           Meanwhile{"AlbumIsMade", Stage::Copying, AlbumIsMade},
-                                           Meanwhile{"SlideIsMade", Stage::Copying, SlideIsMade},
-                                           Meanwhile{"ShowIsMade", Stage::Copying, ShowIsMade},
-                                           Meanwhile{"ShowGoes", Stage::Copying, ShowGoes}),
-                         [](const auto& Info) { return std::string(Info.param.Name); });
+INSTANTIATE_TEST_SUITE_P(
+    Transfer, TransferMeanwhile,
+    ::testing::Values(Meanwhile{"AlbumGoesAtALook", Stage::Looking, AlbumGoes},
+                      Meanwhile{"AlbumGoes", Stage::Copying, AlbumGoes},
+                      Meanwhile{"AlbumIsMade", Stage::Copying, AlbumIsMade},
+                      Meanwhile{"SlideIsMade", Stage::Copying, SlideIsMade},
+                      Meanwhile{"ShowIsMade", Stage::Copying, ShowIsMade},
+                      Meanwhile{"ShowGoes", Stage::Copying, ShowGoes},
+                      Meanwhile{"AlbumGoesAtTheWriting", Stage::Writing, AlbumGoes},
+                      Meanwhile{"AlbumIsMadeAtTheWriting", Stage::Writing, AlbumIsMade},
+                      Meanwhile{"SlideIsMadeAtTheWriting", Stage::Writing, SlideIsMade},
+                      Meanwhile{"ShowIsMadeAtTheWriting", Stage::Writing, ShowIsMade},
+                      Meanwhile{"ShowGoesAtTheWriting", Stage::Writing, ShowGoes}),
+    [](const auto& Info) { return std::string(Info.param.Name); });
 
 // What concerns neither the album nor any number does no harm.
 TEST_F(TransferBeside, ACaptionThatIsChangedInAnotherAlbumIsKept) {
@@ -169,6 +176,61 @@ TEST_F(TransferBeside, TheWindowsHearOfOneThatIsNotWholeYet) {
     const auto Run = [&] { Transfer(Other.Engine, Own.Engine, What); };
     ASSERT_TRUE(BreakOff(Run, Own.Dir() + u"Albums/"_s));
     EXPECT_EQ((std::vector<Change>{{Change::Kind::AlbumReplaced, SeaID}}), Told);
+}
+
+// Only the replaced show has had the slide when the transfer began.
+TEST_F(TransferBeside, ASlideThatAnotherShowTakesMeanwhileStays) {
+    const StatedTransfer What = OverTownWalk();
+    const std::int32_t Second = SlideAt(Other.Engine, TownID, 1).SlideID;
+    const std::int32_t Run = ShowNamed(Other.Engine, TownID, u"Town run"_s);
+    bool Done = false;
+    const TransferDesk Desk{.Progress = [&](const TransferProgress& Now) {
+        if (Now.At == Stage::Copying && !std::exchange(Done, true))
+            Other.Engine.GetAlbum(TownID)->GetSlideShow(Run)->SaveDetail(Second, 3, {});
+        return true;
+    }};
+    Transfer(Own.Engine, Other.Engine, What, Desk);
+    EXPECT_TRUE(Other.Engine.GetAlbum(TownID)->GetSlide(Second)) << "a place without its slide";
+    EXPECT_TRUE(FileExists(SlidesFolder(Other.Dir(), TownID) + FileStem(Second) + u".JPG"_s));
+}
+
+TEST_F(TransferBeside, APictureWithoutAnEndingGoesWithItsSlide) {
+    clsNEBSlide& Second = SlideAt(Other.Engine, TownID, 1);
+    Second.SlideLoc = FileStem(Second.SlideID);
+    Other.PutFile(TownID, u"Slides/"_s + Second.SlideLoc);
+    QFile::remove(SlidesFolder(Other.Dir(), TownID) + Second.SlideLoc + u".jpg"_s);
+    ExpectDone(Own.Engine, Other.Engine, OverTownWalk());
+}
+
+// What has been decided must be possible: else no later opening gets past it.
+TEST_F(TransferBeside, AFolderInTheWayOfAFileKeepsNobodyFromOpeningTheDatabase) {
+    const QString Next = FileStem(Other.Engine.NextSlideID) + u".JPG"_s;
+    MakeDirs(SlidesFolder(Other.Dir(), TownID) + Next + u"/deep"_s);
+    try {
+        Transfer(Own.Engine, Other.Engine, OverTownWalk());
+    } catch (const Fault&) {
+        SUCCEED();
+    }
+    EXPECT_NO_THROW(Other.Engine.FinalizeDB());
+    EXPECT_NO_THROW(Other.Engine.InitializeDB());
+}
+
+TEST_F(TransferBeside, NeitherDoesAnAlbumWhoseFolderIsNotOurs) {
+    for (const MemoryFolder* Each : {&OwnFolder, &OtherFolder}) {
+        QFile::setPermissions(Each->Path(), QFileDevice::Permissions(0x7777));
+        QDirIterator Walk(Each->Path(), QDir::AllEntries | QDir::NoDotAndDotDot,
+                          QDirIterator::Subdirectories);
+        while (Walk.hasNext()) QFile::setPermissions(Walk.next(), QFileDevice::Permissions(0x7777));
+    }
+    QFile::setPermissions(SlidesFolder(Other.Dir(), TownID), QFileDevice::Permissions(0x5555));
+    const WithoutPrivileges AsSomebody;
+    try {
+        Transfer(Own.Engine, Other.Engine, OverTownWalk());
+    } catch (const Fault&) {
+        SUCCEED();
+    }
+    EXPECT_NO_THROW(Other.Engine.FinalizeDB());
+    EXPECT_NO_THROW(Other.Engine.InitializeDB());
 }
 
 }  // namespace

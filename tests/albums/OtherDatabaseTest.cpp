@@ -1,0 +1,146 @@
+// Another database is opened: to be read alone, or to be written; what keeps it from being opened,
+// and what is changed in it by that.
+#include "TransferRig.h"
+#include "albums/transfer/OtherDatabase.h"
+#include "db/modDatabaseLock.h"
+#include "harness/Refusals.h"
+
+namespace neb::harness {
+namespace {
+
+using Use = OtherDatabase::Use;
+
+class OpenedDatabase : public ::testing::Test {
+  protected:
+    OpenedDatabase() {
+        Filled.AddFilledAlbum(u"Hills"_s);
+        Filled.Engine.FinalizeDB();
+    }
+    ~OpenedDatabase() override { SetHostWatcher({}); }
+    void ExpectRefused(Use For, const char* Title, const char* Text) {
+        const auto Before = Tree(Folder.Path());
+        harness::ExpectRefused(OtherDatabase::Open(Folder.Path(), For),
+                               QLatin1String(Text).arg(Folder.Path()), QLatin1String(Title),
+                               BoxIcon::Information);
+        EXPECT_EQ("", TreeDifferences(Before, Tree(Folder.Path())));
+    }
+    // The times of effects come from beside the program where the database has none.
+    static void ExpectAlike(const clsDBEngine& One, const clsDBEngine& Other) {
+        auto Wanted = MemoryOf(One), Found = MemoryOf(Other);
+        Wanted.erase("EffectStats.dat");
+        Found.erase("EffectStats.dat");
+        EXPECT_TRUE(Wanted == Found);
+    }
+    // The record files have got half way.
+    void BreakWrite() {
+        Filled.Engine.Albums[0]->AlbumName = u"Valleys"_s;
+        SetHostWatcher([](HostStep Step, const QString& Path, qint64&) {
+            if (Step == HostStep::Write && Path.endsWith(u"Slides.dat")) throw Fault(u"full"_s);
+        });
+        EXPECT_THROW(Filled.Engine.FinalizeDB(), Fault);
+        SetHostWatcher({});
+    }
+
+    MemoryFolder Folder;
+    FilledDatabase Filled{Folder.Path(), u"other"_s};
+    static constexpr const char* Damaged =
+        "NextIDs.dat in\n%1\nis missing or damaged, so that new pictures might replace old ones. "
+        "nebctl check tells more.";
+};
+
+TEST_F(OpenedDatabase, HoldsWhatIsThere) {
+    for (const Use For : {Use::Source, Use::Destination}) {
+        auto Other = OtherDatabase::Open(Folder.Path(), For);
+        ASSERT_TRUE(Other);
+        EXPECT_EQ(For, (*Other)->For());
+        EXPECT_EQ(Folder.Path(), (*Other)->DBPath());
+        ExpectAlike(Filled.Engine, (*Other)->Engine());
+    }
+}
+
+TEST_F(OpenedDatabase, IsLockedForAsLongAsItIsOpen) {
+    {
+        auto Other = OtherDatabase::Open(Folder.Path(), Use::Source);
+        ASSERT_TRUE(Other);
+        const char* Text = "The database in\n%1\nis in use. Close it there and try again.";
+        ExpectRefused(Use::Source, "Database In Use", Text);
+        ExpectRefused(Use::Destination, "Database In Use", Text);
+    }
+    EXPECT_TRUE(OtherDatabase::Open(Folder.Path(), Use::Destination));
+    EXPECT_FALSE(FileExists(DatabaseLockPath(Folder.Path())));
+}
+
+TEST_F(OpenedDatabase, IsNotWrittenWhereItIsReadOnly) {
+    QFile::setPermissions(Folder / u"NextIDs.dat"_s, QFileDevice::ReadOwner);
+    ExpectRefused(Use::Destination, "Read-Only Database", "The database in\n%1\nis read-only.");
+    EXPECT_TRUE(OtherDatabase::Open(Folder.Path(), Use::Source));
+}
+
+TEST_F(OpenedDatabase, IsRefusedWithoutItsCounters) {
+    QFile::remove(Folder / u"NextIDs.dat"_s);
+    ExpectRefused(Use::Source, "Damaged Database", Damaged);
+    ExpectRefused(Use::Destination, "Damaged Database", Damaged);
+}
+
+TEST_F(OpenedDatabase, IsNotWrittenWhereACounterIsTooLow) {
+    for (std::int32_t clsDBEngine::*Counter :
+         {&clsDBEngine::NextAlbumID, &clsDBEngine::NextSlideID, &clsDBEngine::NextSlideShowID}) {
+        --(Filled.Engine.*Counter);
+        Filled.Engine.FinalizeDB();
+        ExpectRefused(Use::Destination, "Damaged Database", Damaged);
+        EXPECT_TRUE(OtherDatabase::Open(Folder.Path(), Use::Source));
+        ++(Filled.Engine.*Counter);
+    }
+    Filled.Engine.FinalizeDB();
+    EXPECT_TRUE(OtherDatabase::Open(Folder.Path(), Use::Destination));
+}
+
+TEST_F(OpenedDatabase, BeginsEmptyWhereThereIsNone) {
+    const QString New = Folder / u"a stick/of mine/"_s;
+    auto Other = OtherDatabase::Open(New, Use::Destination);
+    ASSERT_TRUE(Other);
+    EXPECT_TRUE((*Other)->Engine().Albums.empty());
+    ASSERT_TRUE(
+        Transfer(Filled.Engine, (*Other)->Engine(), {.SrcAlbumID = 1, .NewAlbumName = u"First"_s}));
+    (*Other)->Engine().FinalizeDB();
+    EXPECT_EQ(4U, ReadDatabase(New).Slides.size());
+}
+
+TEST_F(OpenedDatabase, AsASourceIsReadAsItWillBeAndLeftAsItIs) {
+    BreakWrite();
+    const QStringList Before = Everything(Folder.Path() + u"Temp"_s) + WithDates(Folder.Path());
+    auto Other = OtherDatabase::Open(Folder.Path(), Use::Source);
+    ASSERT_TRUE(Other);
+    EXPECT_EQ(u"Valleys"_s, (*Other)->Engine().Albums.at(0)->AlbumName);
+    EXPECT_EQ(
+        "", Differences(Before, Everything(Folder.Path() + u"Temp"_s) + WithDates(Folder.Path())));
+}
+
+TEST_F(OpenedDatabase, AsADestinationIsBroughtToTheEndOfItsWriteFirst) {
+    BreakWrite();
+    auto Other = OtherDatabase::Open(Folder.Path(), Use::Destination);
+    ASSERT_TRUE(Other);
+    EXPECT_EQ("Valleys", FieldText(ReadDatabase(Folder.Path()).Albums.at(0).AlbumName));
+    EXPECT_TRUE(ReadDatabase(Folder.Path()).Temp.empty());
+}
+
+TEST_F(OpenedDatabase, ForgetsOnRequestWhatWasChangedInMemory) {
+    auto Other = OtherDatabase::Open(Folder.Path(), Use::Destination);
+    (*Other)->Engine().DeleteAlbum(1);
+    (*Other)->Reread();
+    ExpectAlike(Filled.Engine, (*Other)->Engine());
+}
+
+TEST_F(OpenedDatabase, IsTheSameByWhateverNames) {
+    MemoryFolder Beside;
+    const QString Link = Beside / u"link"_s;
+    ASSERT_TRUE(QFile::link(Folder.Path().chopped(1), Link));
+    for (const QString& Name : {Folder.Path().chopped(1), Link, Link + u'/',
+                                Folder / u"Albums/.."_s, Folder.Path() + u'/'})
+        EXPECT_TRUE(IsSameDatabase(Folder.Path(), Name)) << Name.toStdString();
+    EXPECT_FALSE(IsSameDatabase(Folder.Path(), Beside.Path()));
+    EXPECT_FALSE(IsSameDatabase(Folder / u"not there"_s, Beside / u"not there"_s));
+}
+
+}  // namespace
+}  // namespace neb::harness
