@@ -79,8 +79,8 @@ Clearing ClearingOf(const clsDBEngine& theDB, const clsNEBAlbum& theAlbum,
     const QString Sounds = SoundTracksFolder(theDB.DBPath(), theAlbum.AlbumID);
     const QString Slides = SlidesFolder(theDB.DBPath(), theAlbum.AlbumID);
     for (const QString& Sound : OwnSounds(theAlbum, theSlideShow)) Own.Masks << Sounds + Sound;
-    for (const std::int32_t SlideID : Own.Slides)
-        Own.Masks << Slides + FileStem(SlideID) + QStringLiteral("*.*");
+    // a name without a dot goes along
+    for (const std::int32_t SlideID : Own.Slides) Own.Masks << Slides + FileStem(SlideID) + u'*';
     return Own;
 }
 

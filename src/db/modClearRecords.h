@@ -19,6 +19,7 @@ class clsNEBSlideShow;
 struct Clearing {
     std::vector<std::int32_t> Slides;  // each once, in the show's order; of an album: all
     QStringList Masks;                 // of the files, full paths
+    bool operator==(const Clearing&) const = default;
 };
 Clearing ClearingOf(const clsDBEngine& theDB, const clsNEBAlbum& theAlbum);
 // The slides that no other show of the album uses, and the sounds that no other one plays.

@@ -41,10 +41,12 @@ class StagedFiles : public ::testing::Test {
         return FileExists(Path) ? ReadFile(Path).toStdString() : "none";
     }
     // "old", "new" or "mixed".
+    std::string AllOfThem() const {
+        return Text("Albums/9/Slides/new.jpg") + "|" + Text("Albums/1/SoundTracks/song.mp3") + "|" +
+               Text("Albums/1/Slides/gone.jpg");
+    }
     std::string Files() const {
-        const auto All = Text("Albums/9/Slides/new.jpg") + "|" +
-                         Text("Albums/1/SoundTracks/song.mp3") + "|" +
-                         Text("Albums/1/Slides/gone.jpg");
+        const auto All = AllOfThem();
         if (All == "none|old song|old") return "old";
         return All == "picture|new song|none" ? "new" : "mixed: " + All;
     }
@@ -109,10 +111,39 @@ TEST_F(StagedFiles, AreSettledInTwoGoesWhenTheFirstWasCutShort) {
     SetHostWatcher([](HostStep Step, const QString& Path, qint64&) {
         if (Step == HostStep::Rename && Path.endsWith(u"song.mp3"_s)) throw Fault(u"No."_s);
     });
-    EXPECT_THROW(SettleCommitted(Dir.Path()), Fault);
+    EXPECT_EQ(u"No.", SettleCommitted(Dir.Path())->What());
     SetHostWatcher({});
+    EXPECT_EQ("picture|old song|none", AllOfThem()) << "what can be done is done";
+    EXPECT_FALSE(SettleCommitted(Dir.Path()).has_value());
+    EXPECT_EQ("new", Files());
+    EXPECT_FALSE(HasStagedFiles(Dir.Path()));
+}
+
+// A file that cannot have its place keeps nobody from opening or writing the database.
+TEST_F(StagedFiles, WaitThroughOpeningsAndWritesUntilTheirPlaceIsFree) {
+    Commit();
+    MakeDirs(Dir / "Albums/9/Slides/new.jpg/in the way");
+    EXPECT_EQ(4U, AlbumsAtNextOpening());
+    Engine->DeleteAlbum(1);
+    Engine->FinalizeDB();
+    EXPECT_EQ(3U, AlbumsAtNextOpening());
     EXPECT_TRUE(HasStagedFiles(Dir.Path()));
-    SettleCommitted(Dir.Path());
+    DeleteTree(Dir / "Albums/9/Slides/new.jpg");
+    EXPECT_EQ(3U, AlbumsAtNextOpening());
+    EXPECT_EQ("new", Files());
+    EXPECT_FALSE(HasStagedFiles(Dir.Path()));
+}
+
+TEST_F(StagedFiles, KeepTheirJournalWhenTheyWaitAndThatCannotBeNoted) {
+    Commit();
+    MakeDirs(Dir / "Albums/9/Slides/new.jpg/in the way");
+    SetHostWatcher([](HostStep Step, const QString& Path, qint64& Length) {
+        if (Step == HostStep::Write && Path.endsWith(u"Note.new"_s)) Length = 0;
+    });
+    EXPECT_THROW(Engine->FinalizeDB(), Fault) << "its journal would be gone";
+    SetHostWatcher({});
+    DeleteTree(Dir / "Albums/9/Slides/new.jpg");
+    EXPECT_EQ(4U, AlbumsAtNextOpening());
     EXPECT_EQ("new", Files());
 }
 

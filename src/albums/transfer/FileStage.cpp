@@ -5,8 +5,10 @@
 #include "db/records/modJournal.h"
 #include "support/files/modHostFiles.h"
 #include "support/files/modHostFilesCopy.h"
+#include "support/files/modHostFilesMask.h"
 #include "support/modFUFL.h"
 #include "support/work/Job.h"
+#include "support/work/WorkAside.h"
 
 namespace neb {
 namespace {
@@ -33,15 +35,34 @@ bool WaitFor(Job<Result>& Work, const Tell& GoOn) {
     }
 }
 
+// Where nothing can be put while the records of it can be written, nothing is to begin.
+std::optional<Fault> ObstacleTo(const std::vector<FoundFile>& Files, const QString& DBPath) {
+    std::set<QString> Folders;
+    for (const FoundFile& Each : Files) {
+        if (FolderExists(DBPath + Each.To))
+            return Fault(QStringLiteral("There is a folder in the place of a file."),
+                         DBPath + Each.To);
+        Folders.insert(GetFilePath(DBPath + Each.To));
+    }
+    for (QString Folder : Folders) {
+        while (!FolderExists(Folder) && Folder.size() > DBPath.size())
+            Folder = GetParentDir(Folder);
+        if (!MayWriteIn(Folder))
+            return Fault(QStringLiteral("You have no permission to write in the folder."), Folder);
+    }
+    return std::nullopt;
+}
+
 FilesLookedFor Look(const std::vector<FileToCopy>& Files, const QStringList& OldMasks,
                     const QString& DBPath, const JobState& State) {
     FilesLookedFor Looked;
     Looked.Room = FreeSpace(DBPath);
     for (size_t Which = 0; Which < Files.size() && !State.Stop; ++Which) {
         const FileToCopy& File = Files[Which];
-        if (CanReadFile(File.From))
-            Looked.Found.push_back({ResolvePath(File.From), File.To, FileSize(File.From),
-                                    File.Is == FileToCopy::Kind::Picture});
+        const QString From = ResolvePath(File.From);
+        if (const auto Facts = ReadableFileFacts(From))
+            Looked.Found.push_back(
+                {From, File.To, Facts->Size, File.Is == FileToCopy::Kind::Picture});
         else if (File.Is != FileToCopy::Kind::Thumbnail)
             Looked.Missing.push_back(Which);
     }
@@ -49,6 +70,7 @@ FilesLookedFor Look(const std::vector<FileToCopy>& Files, const QStringList& Old
         if (State.Stop) break;
         for (const QString& Name : ListMask(Mask)) Looked.Old << GetFilePath(Mask) + Name;
     }
+    Looked.Obstacle = ObstacleTo(Looked.Found, DBPath);
     return Looked;
 }
 
@@ -64,6 +86,7 @@ class Copier {
         : mFiles(std::move(Files)), mStaging(std::move(Staging)), mSoFar(std::move(SoFar)) {}
 
     void Run(const JobState& State) {
+        MakeDirs(mStaging);
         for (size_t Which = 0; Which < mFiles.size() && !State.Stop; ++Which) {
             CopyBytes(mFiles[Which].From, mStaging + QString::number(Which), [&](qint64 Piece) {
                 Count(Piece);
@@ -119,14 +142,13 @@ FileStage::FileStage(const QString& DBPath, const std::vector<FoundFile>& Files)
 
 FileStage::~FileStage() {
     if (!mIsOurs) return;
-    DropStagedFiles(mDBPath);
+    DropStagedFiles(mDBPath);  // what is left of it, beside Copy
     for (const QString& Folder : mMadeFolders) DeleteFolder(Folder);
 }
 
 bool FileStage::Copy(const TransferGoOn& GoOn) {
-    SettleCommitted(mDBPath);  // what an earlier transfer may have left
+    if (const auto Problem = SettleCommitted(mDBPath)) throw *Problem;  // of an earlier transfer
     mIsOurs = true;
-    MakeDirs(StagingFolder(mDBPath));
     const auto SoFar = std::make_shared<Copied>();
     Job<> Work([Mine = std::make_shared<Copier>(mFiles, ResolvePath(StagingFolder(mDBPath)),
                                                 SoFar)](JobState& State) { Mine->Run(State); });
@@ -136,6 +158,8 @@ bool FileStage::Copy(const TransferGoOn& GoOn) {
         Now.Bytes = SoFar->Bytes;
         return GoOn(Now);
     });
+    // gigabytes take their time to go
+    if (!Whole) FinishAside([Path = mDBPath] { DropStagedFiles(Path); }).get();
     if (Whole) Work.Take();
     return Whole;
 }

@@ -7,6 +7,7 @@
 
 #include "albums/transfer/TransferPlan.h"
 #include "albums/transfer/TransferProgress.h"
+#include "support/Fault.h"
 
 namespace neb {
 
@@ -22,9 +23,10 @@ struct FoundFile {
 
 struct FilesLookedFor {
     std::vector<FoundFile> Found;
-    std::vector<size_t> Missing;  // of the files that were asked for; thumbnails are never missed
-    QStringList Old;              // what the masks match, full paths
-    qint64 Room = -1;             // bytes free where they are to go; -1 when it is not known
+    std::vector<size_t> Missing;    // of the files that were asked for; thumbnails are never missed
+    QStringList Old;                // what the masks match, full paths
+    std::optional<Fault> Obstacle;  // why a file cannot have its place at the destination
+    qint64 Room = -1;               // bytes free where they are to go; -1 when it is not known
 };
 // Nothing when it was stopped.
 std::optional<FilesLookedFor> LookForFiles(const std::vector<FileToCopy>& Files,

@@ -99,9 +99,11 @@ void TransferPlanner::AddShow(const clsNEBSlideShow& Source, const QString& Name
         if (const auto Known = mMap.find(Detail->SlideID); Known != mMap.end())
             Copy.SaveDetail(Known->second, Detail->SlideSeq, Detail->SlideText);
     for (const auto& Track : Source.SoundTracks) {
-        const QString Loc = TrackName(Copy.SlideShowID, *Track, Taken);
+        const bool HasFile = !Track->SoundTrackLoc.trimmed().isEmpty();
+        const QString Loc = HasFile ? TrackName(Copy.SlideShowID, *Track, Taken) : QString();
         Copy.SaveSoundTrack(Track->SoundTrackSeq, Loc, Track->SlideSeqStart, Track->SlideSeqEnd,
                             Track->Repeat, Track->FitToSong, Track->Fade);
+        if (!HasFile) continue;
         AddFile(FileToCopy::Kind::Track,
                 SourcePath(SoundTracksFolder(mSrcDB.DBPath(), mSrcAlbumID), Track->SoundTrackLoc),
                 SoundTracksFolder({}, mPlan.AlbumID), Loc);

@@ -26,10 +26,10 @@ class TransferRun {
         FileStage Stage(mDB.DBPath(), mFiles);
         if (!Stage.Copy([this](const TransferProgress& Now) { return Report(Now); }))
             return Stopped();
+        Report(WritingNow());
         if (!IsAsPlanned())
             return Refused(Refuse(
                 QStringLiteral("The destination was changed meanwhile. Nothing was transferred.")));
-        Report(WritingNow());
         AlbumToPut After = AlbumAfter();
         Commit(After, Stage);
         TransferResult Result = Put(std::move(After));
@@ -53,6 +53,7 @@ class TransferRun {
         QStringList Missing;
         for (const size_t Which : Looked->Missing) Missing << mPlan.Files[Which].From;
         if (!Missing.isEmpty() && !(mDesk.GoOnWithout && mDesk.GoOnWithout(Missing))) return false;
+        if (Looked->Obstacle) throw *Looked->Obstacle;
         mFiles = std::move(Looked->Found);
         for (const size_t Which : Looked->Missing) GoWithout(mPlan.Files[Which]);
         mOldFiles = std::move(Looked->Old);
@@ -84,7 +85,16 @@ class TransferRun {
         if (Now != mPlan.Base) return false;
         const clsNEBAlbum* Album = mDB.GetAlbum(mPlan.AlbumID);
         if (mPlan.IsNewAlbum) return !Album && !mDB.FindAlbum(0, mPlan.AlbumName);
-        return Album && (mPlan.ReplacedShowID == 0 || Album->GetSlideShow(mPlan.ReplacedShowID));
+        if (!Album || (mPlan.ReplacedShowID != 0 && !Album->GetSlideShow(mPlan.ReplacedShowID)))
+            return false;
+        return GoingFrom(*Album) == mPlan.Gone;
+    }
+
+    // What another show of the album uses by now must not go.
+    Clearing GoingFrom(const clsNEBAlbum& Album) const {
+        if (mPlan.ClearsAlbum) return ClearingOf(mDB, Album);
+        if (mPlan.ReplacedShowID == 0) return {};
+        return ClearingOf(mDB, Album, *Album.GetSlideShow(mPlan.ReplacedShowID));
     }
 
     AlbumToPut AlbumAfter() {
@@ -146,17 +156,22 @@ class TransferRun {
     }
     std::int32_t OneShow() const { return mPlan.IsOfShow ? mPlan.Shows.front().SlideShowID : 0; }
 
-    void Settle() const {
+    // Why some of its files are not in their places, if they are not.
+    std::optional<Fault> Waiting() const {
         try {
-            FinishAside([Path = mDB.DBPath()] { SettleCommitted(Path); }).get();
+            return FinishAside([Path = mDB.DBPath()] { return SettleCommitted(Path); }).get();
         } catch (const Fault& Problem) {
-            throw Fault(
-                QStringLiteral("The transfer is done, but not all of its files are in their "
-                               "places yet; the next opening of the database will put them "
-                               "there. %1")
-                    .arg(Problem.What()),
-                Problem.File(), TransferUnfinished);
+            return Problem;
         }
+    }
+
+    void Settle() const {
+        if (const auto Problem = Waiting())
+            throw Fault(QStringLiteral("The transfer is done, but not all of its files are in "
+                                       "their places yet; the next opening of the database will "
+                                       "put them there. %1")
+                            .arg(Problem->What()),
+                        Problem->File(), TransferUnfinished);
     }
 
     static TransferProgress WritingNow() { return {.At = TransferProgress::Stage::Writing}; }

@@ -15,7 +15,7 @@ namespace {
 constexpr char Magic[] = "NEBSTAGE1";
 
 struct Note {
-    QByteArray JournalSum;
+    QByteArray JournalSum;  // empty: it waits, whatever the journal
     StagedChange Change;
 };
 
@@ -75,22 +75,37 @@ void DropIfPossible(const QString& Path) {
     }
 }
 
+void WriteNote(const QString& DBPath, const Note& Noted) {
+    ReplaceFile(NotePath(DBPath), BytesOf(Noted));
+    SyncDir(StagingFolder(DBPath));
+}
+
 class Settling {
   public:
     Settling(const QString& DBPath, const StagedChange& Change)
         : mDBPath(DBPath), mStaging(StagingFolder(DBPath)), mChange(Change) {}
 
-    void Run() {
+    // Why something waits still, if it does.
+    std::optional<Fault> Run() {
         for (const QString& Folder : mChange.Folders)
-            if (IsInside(Folder)) MakeFolder(mDBPath + Folder);
-        for (const StagedChange::Move& Row : mChange.Moves) PutInPlace(Row);
+            if (IsInside(Folder)) Try([&] { MakeFolder(mDBPath + Folder); });
+        for (const StagedChange::Move& Row : mChange.Moves) Try([&] { PutInPlace(Row); });
         for (const QString& Place : mChange.Drops)
             if (IsInside(Place)) Drop(mDBPath + Place);
         for (const QString& Folder : mTouched) SyncDir(Folder);
         SyncDir(mStaging);
+        return mProblem;
     }
 
   private:
+    template <class Part>
+    void Try(const Part& Do) {
+        try {
+            Do();
+        } catch (const Fault& Problem) {
+            if (!mProblem) mProblem = Problem;
+        }
+    }
     void MakeFolder(const QString& Folder) {
         MakeDirs(Folder);
         mTouched.insert(Folder);
@@ -110,6 +125,7 @@ class Settling {
     const QString mDBPath, mStaging;
     const StagedChange& mChange;
     std::set<QString> mTouched;
+    std::optional<Fault> mProblem;  // the first
 };
 
 }  // namespace
@@ -121,8 +137,7 @@ QString StagingFolder(const QString& DBPath) {
 void NoteStagedChange(const QString& DBPath, const StagedChange& Change,
                       const QByteArray& JournalSum) {
     MakeDirs(StagingFolder(DBPath));
-    ReplaceFile(NotePath(DBPath), BytesOf({JournalSum, Change}));
-    SyncDir(StagingFolder(DBPath));
+    WriteNote(DBPath, {JournalSum, Change});
     SyncDir(DBPath + QStringLiteral("Temp/"));
     SyncDir(DBPath);
 }
@@ -131,12 +146,17 @@ bool HasStagedFiles(const QString& DBPath) {
     return FolderExists(StagingFolder(DBPath));
 }
 
-void SettleStagedFiles(const QString& DBPath, const QByteArray& JournalSum) {
-    if (!HasStagedFiles(DBPath)) return;
+std::optional<Fault> SettleStagedFiles(const QString& DBPath, const QByteArray& JournalSum) {
+    if (!HasStagedFiles(DBPath)) return std::nullopt;
     const std::optional<Note> Noted = ReadNote(DBPath);
-    if (Noted && !JournalSum.isEmpty() && Noted->JournalSum == JournalSum)
-        Settling(DBPath, Noted->Change).Run();
-    DropStagedFiles(DBPath);
+    const bool Waits = Noted && Noted->JournalSum.isEmpty();
+    const bool IsCommitted = Noted && (Waits || Noted->JournalSum == JournalSum);
+    const auto Problem = IsCommitted ? Settling(DBPath, Noted->Change).Run() : std::nullopt;
+    if (!Problem)
+        DropStagedFiles(DBPath);
+    else if (!Waits)
+        WriteNote(DBPath, {{}, Noted->Change});
+    return Problem;
 }
 
 // The note first: without it nothing that is left here can be taken for a change.

@@ -10,7 +10,10 @@
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
+#include <optional>
 #include <vector>
+
+#include "support/Fault.h"
 
 namespace neb {
 
@@ -30,10 +33,11 @@ QString StagingFolder(const QString& DBPath);
 void NoteStagedChange(const QString& DBPath, const StagedChange& Change,
                       const QByteArray& JournalSum);
 bool HasStagedFiles(const QString& DBPath);
-// Carries out the change that was noted for the journal of this sum (empty: there is none), drops
-// everything else that is staged. Can be cut short and called again. Throws Fault: what is noted
-// stays noted.
-void SettleStagedFiles(const QString& DBPath, const QByteArray& JournalSum);
+// Carries out the change that was noted for the journal of this sum (empty: there is none), or that
+// waits since an earlier try; drops everything else that is staged. Can be cut short and called
+// again. Where a file cannot go to its place the others do; what is left of the change waits, no
+// longer bound to a journal, and the answer says why. Throws Fault when not even that can be noted.
+std::optional<Fault> SettleStagedFiles(const QString& DBPath, const QByteArray& JournalSum);
 // Throws away what is staged; errors are ignored.
 void DropStagedFiles(const QString& DBPath);
 

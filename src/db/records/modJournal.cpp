@@ -189,8 +189,9 @@ void CommitDatabase(const QString& DBPath, const RecordImage& Image, const Stage
                  [&](const QByteArray& Sum) { NoteStagedChange(DBPath, Files, Sum); });
 }
 
-void SettleCommitted(const QString& DBPath) {
-    if (HasStagedFiles(DBPath)) SettleStagedFiles(DBPath, WholeSum(DBPath));
+std::optional<Fault> SettleCommitted(const QString& DBPath) {
+    if (!HasStagedFiles(DBPath)) return std::nullopt;
+    return SettleStagedFiles(DBPath, WholeSum(DBPath));
 }
 
 bool MayWriteDatabase(const QString& DBPath) {

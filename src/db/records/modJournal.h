@@ -40,7 +40,8 @@ void WriteDatabase(const QString& DBPath, const RecordImage& Image);
 // happens; SettleCommitted, or WriteDatabase, puts the files in their places at once. The record
 // files stay as they are. Throws Fault: then nothing has changed but what is staged.
 void CommitDatabase(const QString& DBPath, const RecordImage& Image, const StagedChange& Files);
-void SettleCommitted(const QString& DBPath);
+// Why a file of it still waits, if one does: the rest is in its place, and each opening tries anew.
+std::optional<Fault> SettleCommitted(const QString& DBPath);
 
 // False when the directory or its NextIDs.dat is read-only: then nothing is ever written.
 bool MayWriteDatabase(const QString& DBPath);

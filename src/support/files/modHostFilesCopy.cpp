@@ -1,6 +1,7 @@
 #include "support/files/modHostFilesCopy.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QStorageInfo>
 #include <filesystem>
 #include <vector>
@@ -105,6 +106,15 @@ void SyncVolume(const QString& Dir) {
     if (!Done)
         throw Fault(
             QStringLiteral("What was copied cannot be brought to the disk: %1.").arg(Reason), Dir);
+#endif
+}
+
+bool MayWriteIn(const QString& Dir) {
+    const QByteArray Native = QFile::encodeName(ResolvePath(Dir));
+#ifdef _WIN32
+    return QFileInfo(QFile::decodeName(Native)).isWritable();
+#else
+    return ::faccessat(AT_FDCWD, Native.constData(), W_OK | X_OK, AT_EACCESS) == 0;
 #endif
 }
 

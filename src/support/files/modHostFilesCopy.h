@@ -16,6 +16,9 @@ bool CopyBytes(const QString& From, const QString& To,
 // All that was written to the medium of this directory is on the disk afterwards. Throws Fault.
 void SyncVolume(const QString& Dir);
 
+// Whether this user may put files into the directory.
+bool MayWriteIn(const QString& Dir);
+
 // Bytes that this user can still write there; -1 when it is not known.
 qint64 FreeSpace(const QString& Dir);
 
