@@ -1,5 +1,8 @@
 #include "db/clsNEBAlbum.h"
 
+#include <algorithm>
+#include <set>
+
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
 #include "db/modNameIndex.h"
@@ -145,6 +148,25 @@ void clsNEBAlbum::DeleteSlideShowFiles(std::int32_t SlideShowID, const clsDBEngi
 bool clsNEBAlbum::DeleteSlideShow(std::int32_t SlideShowID, const clsDBEngine& theDB) {
     if (TakeSlideShow(SlideShowID)) DeleteSlideShowFiles(SlideShowID, theDB);
     return true;
+}
+
+std::unique_ptr<clsNEBAlbum> clsNEBAlbum::Part(
+    const std::vector<std::int32_t>& SlideShowIDs) const {
+    auto Made = std::make_unique<clsNEBAlbum>();
+    Made->AlbumID = AlbumID;
+    Made->AlbumName = AlbumName;
+    const bool Whole = SlideShowIDs.empty();
+    std::set<std::int32_t> Used;
+    for (const auto& Show : SlideShows) {
+        if (!Whole && std::ranges::find(SlideShowIDs, Show->SlideShowID) == SlideShowIDs.end())
+            continue;
+        for (const auto& Detail : Show->Details) Used.insert(Detail->SlideID);
+        Made->SlideShows.push_back(Show->Copy());
+    }
+    for (const auto& Slide : Slides)
+        if (Whole || Used.contains(Slide->SlideID))
+            Made->Slides.push_back(std::make_unique<clsNEBSlide>(*Slide));
+    return Made;
 }
 
 bool clsNEBAlbum::ClearContents() {

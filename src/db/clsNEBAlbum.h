@@ -57,6 +57,9 @@ class clsNEBAlbum {
     void DeleteSlideFiles(std::int32_t SlideID, const clsDBEngine& theDB) const;
     void DeleteSlideShowFiles(std::int32_t SlideShowID, const clsDBEngine& theDB) const;
 
+    // The album with these of its shows and the slides that they use; without any named, as it is.
+    std::unique_ptr<clsNEBAlbum> Part(const std::vector<std::int32_t>& SlideShowIDs) const;
+
     // Both collections emptied, for the clearing before a transfer; always true.
     bool ClearContents();
 };

@@ -72,7 +72,7 @@ TEST_F(DiscFolder, HoldsShowsWithoutTheRestOfTheirAlbumInOneOfItsName) {
         Source.Engine, {{Source.Garden, {Source.Walk, Source.Spring}}}, Out / u"both"_s);
     ASSERT_TRUE(Both);
     EXPECT_EQ(
-        "Garden: rose elm elm pond; Walk=Walk1@rose Walk2@elm +0; "
+        "Garden: rose elm pond; Walk=Walk1@rose Walk2@elm +0; "
         "Spring=Spring2@elm Spring3@pond Spring2@elm +1",
         ContentsOf(Both.Dir));
 }
@@ -201,6 +201,20 @@ TEST_F(DiscFolder, MissingPicturesAreAskedAboutAndNoLeavesNothing) {
     GoOn = true;
     ASSERT_TRUE(Write(Source.All(), Desk));
     EXPECT_EQ(0, Sha256Sum(Dir));
+}
+
+TEST_F(DiscFolder, WhatIsMissingInAllOfItIsAskedAboutOnce) {
+    DeleteFile(SlidesFolder(Db.Path(), Source.Garden) + u"00000001.jpg"_s);
+    DeleteMask(SlidesFolder(Db.Path(), Source.Sea) + u"*.jpg"_s);
+    DeleteMask(SoundTracksFolder(Db.Path(), Source.Garden) + u"*.*"_s);
+    std::vector<qsizetype> Asked;
+    DiscDesk Desk;
+    Desk.GoOnWithout = [&](const QStringList& Missing) {
+        Asked.push_back(Missing.size());
+        return true;
+    };
+    ASSERT_TRUE(Write(Source.All(), Desk));
+    EXPECT_EQ(std::vector<qsizetype>{3}, Asked);
 }
 
 // The whole is told as one: it never goes back, and ends at all of it.

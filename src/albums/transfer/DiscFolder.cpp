@@ -4,9 +4,9 @@
 #include <QSet>
 
 #include "albums/transfer/DiscReadme.h"
+#include "albums/transfer/FileStage.h"
 #include "albums/transfer/FolderInTheMaking.h"
 #include "albums/transfer/OtherDatabase.h"
-#include "db/modAlbumFiles.h"
 #include "db/records/modRecordFiles.h"
 #include "settings/SettingKeys.h"
 #include "settings/modNEBSlideShow.h"
@@ -23,27 +23,6 @@ namespace {
 using End = TransferResult::End;
 
 constexpr qsizetype MaxAlbumName = 80;
-constexpr qint64 ThumbnailBytes = 16'000;
-
-const clsNEBSlideShow* ShowOf(const clsNEBAlbum& Album, std::int32_t SlideShowID) {
-    return Album.GetSlideShow(SlideShowID);
-}
-
-// The slides of a show that its album has, each once.
-QSet<std::int32_t> SlidesOf(const clsNEBSlideShow& Show) {
-    QSet<std::int32_t> SlideIDs;
-    for (const auto& Detail : Show.Details) SlideIDs.insert(Detail->SlideID);
-    return SlideIDs;
-}
-
-int CountSlides(const clsNEBAlbum& Album, const DiscAlbum& What) {
-    if (What.SlideShowIDs.empty()) return static_cast<int>(Album.Slides.size());
-    int Slides = 0;
-    for (const std::int32_t SlideShowID : What.SlideShowIDs)
-        if (const clsNEBSlideShow* Show = ShowOf(Album, SlideShowID))
-            Slides += static_cast<int>(SlidesOf(*Show).size());
-    return Slides;
-}
 
 QString Counted(int Number, const char* One, const char* Many) {
     return QLocale(QLocale::English).toString(Number) + u' ' +
@@ -54,10 +33,16 @@ class DiscWriting {
   public:
     DiscWriting(clsDBEngine& From, const DiscContents& What, const QString& Dir,
                 const DiscDesk& Desk)
-        : mFrom(From), mWhat(What), mDir(Dir), mDesk(Desk), mProgress(Desk.Progress) {}
+        : mFrom(From), mDir(Dir), mDesk(Desk), mProgress(Desk.Progress) {
+        for (const DiscAlbum& Each : What)
+            if (const clsNEBAlbum* Album = From.GetAlbum(Each.AlbumID))
+                mParts.push_back(Album->Part(Each.SlideShowIDs));
+            else
+                mBoxes = {Refuse(QStringLiteral("Failed to load the source album."))};
+    }
 
     DiscResult Run() {
-        if (!LookAhead() || !HasRoom() || !FillDatabase()) return Unfinished();
+        if (!mBoxes.empty() || !LookAhead() || !HasRoom() || !FillDatabase()) return Unfinished();
         DeleteTree(mDir + QStringLiteral("Temp"));
         WriteSettings();
         ReplaceFile(mDir + QLatin1String(ReadmeName), ReadmeText(mListed).toUtf8());
@@ -72,10 +57,9 @@ class DiscWriting {
     DiscResult Unfinished() const { return {mBoxes.empty() ? End::Stopped : End::Refused, mBoxes}; }
     bool LookAhead();
     bool HasRoom();
-    bool Expect(const clsNEBAlbum& Album, const QSet<std::int32_t>* SlideIDs);
+    bool LookAt(const clsNEBAlbum& Album, QStringList& Missing);
     bool FillDatabase();
-    bool CopyAlbum(clsDBEngine& To, std::int32_t AlbumID);
-    bool CopyShows(clsDBEngine& To, const DiscAlbum& What);
+    bool CopyAlbum(clsDBEngine& To, std::unique_ptr<clsNEBAlbum> Chosen);
     bool Took(const TransferResult& Result);
     void List(clsDBEngine& To, std::int32_t AlbumID);
     void WriteSettings() const;
@@ -83,47 +67,41 @@ class DiscWriting {
     TransferDesk Desk();
 
     clsDBEngine& mFrom;
-    const DiscContents& mWhat;
     const QString mDir;
     const DiscDesk& mDesk;
     ProgressOfAll mProgress;
+    std::vector<std::unique_ptr<clsNEBAlbum>> mParts;  // what was chosen, as it was then
+    QSet<QString> mAgreed;                             // files without which it goes on
     std::vector<BoxRequest> mBoxes;
     std::vector<ListedAlbum> mListed;  // what has come in
 };
 
-// How much each transfer will be, by its pictures.
+// What is chosen of each album, all that belongs to it, and whether it is there.
 bool DiscWriting::LookAhead() {
-    for (const DiscAlbum& Each : mWhat) {
-        const clsNEBAlbum* Album = mFrom.GetAlbum(Each.AlbumID);
-        if (!Album) continue;  // its transfer says so
-        if (Each.SlideShowIDs.empty() && !Expect(*Album, nullptr)) return false;
-        for (const std::int32_t SlideShowID : Each.SlideShowIDs) {
-            const clsNEBSlideShow* Show = ShowOf(*Album, SlideShowID);
-            const QSet<std::int32_t> SlideIDs = Show ? SlidesOf(*Show) : QSet<std::int32_t>();
-            if (!Expect(*Album, &SlideIDs)) return false;
-        }
-    }
-    return true;
+    QStringList Missing;
+    for (const auto& Each : mParts)
+        if (!LookAt(*Each, Missing)) return false;
+    if (Missing.isEmpty()) return true;
+    mAgreed = QSet<QString>(Missing.begin(), Missing.end());
+    return mDesk.GoOnWithout && mDesk.GoOnWithout(Missing);
 }
 
-bool DiscWriting::Expect(const clsNEBAlbum& Album, const QSet<std::int32_t>* SlideIDs) {
-    QStringList Paths;  // while they are looked at the album may go
-    for (const auto& Slide : Album.Slides)
-        if (!SlideIDs || SlideIDs->contains(Slide->SlideID))
-            Paths << SlidePath(mFrom.DBPath(), Album.AlbumID, Slide->SlideLoc);
-    TransferProgress Coming;
-    for (const QString& Path : Paths) {
-        Coming.OfBytes += std::max<qint64>(FileSize(Path), 0);
-        if (++Coming.OfPictures % 16 == 0 && !mProgress.Looking()) return false;
-    }
-    mProgress.Expect(Coming);
-    return mProgress.Looking();
+bool DiscWriting::LookAt(const clsNEBAlbum& Album, QStringList& Missing) {
+    TransferPlan Plan;
+    TransferPlanner(mFrom, Album.AlbumID, Plan).AddAlbum(Album);
+    const auto Looked = LookForFiles(
+        Plan.Files, {}, mDir, [this](const TransferProgress&) { return mProgress.Looking(); });
+    if (!Looked) return false;
+    if (Looked->Obstacle) throw *Looked->Obstacle;
+    for (const size_t Which : Looked->Missing) Missing << Plan.Files[Which].From;
+    mProgress.Expect(AllOf(Looked->Found));
+    return true;
 }
 
 // Each transfer looks by itself; but the last of them would be told after hours.
 bool DiscWriting::HasRoom() {
     const TransferProgress All = mProgress.Ahead();
-    const qint64 Needed = All.OfBytes + All.OfPictures * ThumbnailBytes;
+    const qint64 Needed = All.OfBytes;
     const qint64 Free = FreeSpace(mDir);
     if (Free < 0 || Free >= Needed) return true;
     mBoxes = {Refuse(QStringLiteral("There is not enough room: %1 are needed, %2 are free in\n%3")
@@ -139,18 +117,19 @@ bool DiscWriting::FillDatabase() {
         return false;
     }
     clsDBEngine& To = (*Opened)->Engine();
-    for (const DiscAlbum& Each : mWhat) {
-        const bool Whole = Each.SlideShowIDs.empty();
-        if (!(Whole ? CopyAlbum(To, Each.AlbumID) : CopyShows(To, Each))) return false;
-    }
+    for (auto& Each : mParts)
+        if (!CopyAlbum(To, std::move(Each))) return false;
     To.EffectStats = mFrom.EffectStats;  // so that effects are as heavy there as here
     FinishAside([&To] { To.FinalizeDB(); }).get();
     return true;
 }
 
+// What has gone since the user was asked ends it.
 TransferDesk DiscWriting::Desk() {
     return {[this](const TransferProgress& Now) { return mProgress.Transferring(Now); },
-            mDesk.GoOnWithout};
+            [this](const QStringList& Missing) {
+                return mAgreed.contains(QSet<QString>(Missing.begin(), Missing.end()));
+            }};
 }
 
 bool DiscWriting::Took(const TransferResult& Result) {
@@ -170,36 +149,18 @@ QString FreeName(const clsDBEngine& In, const QString& Wanted) {
     return Name;
 }
 
-QString NameOf(const clsDBEngine& In, std::int32_t AlbumID) {
-    const clsNEBAlbum* Album = In.GetAlbum(AlbumID);
-    return Album ? Album->AlbumName : QString();
-}
-
-bool DiscWriting::CopyAlbum(clsDBEngine& To, std::int32_t AlbumID) {
+// From an engine that holds the chosen part alone and looks for its files where they are.
+bool DiscWriting::CopyAlbum(clsDBEngine& To, std::unique_ptr<clsNEBAlbum> Chosen) {
     mProgress.Begin();
-    const QString Name = FreeName(To, NameOf(mFrom, AlbumID));
+    const std::int32_t AlbumID = Chosen->AlbumID;
+    const QString Name = FreeName(To, Chosen->AlbumName);
+    clsDBEngine From;
+    From.SetDBPath(mFrom.DBPath());
+    From.Albums.push_back(std::move(Chosen));
     const TransferResult Result =
-        TransferAlbum({mFrom, AlbumID, To, 0, false, Name, QStringLiteral("Export")}, Desk());
+        TransferAlbum({From, AlbumID, To, 0, false, Name, QStringLiteral("Export")}, Desk());
     if (!Took(Result)) return false;
     List(To, Result.DstAlbumID);
-    return true;
-}
-
-bool DiscWriting::CopyShows(clsDBEngine& To, const DiscAlbum& What) {
-    const QString Name = FreeName(To, NameOf(mFrom, What.AlbumID));
-    std::int32_t AlbumID = 0;
-    for (const std::int32_t SlideShowID : What.SlideShowIDs) {
-        mProgress.Begin();
-        const clsNEBAlbum* Album = mFrom.GetAlbum(What.AlbumID);
-        const clsNEBSlideShow* Show = Album ? ShowOf(*Album, SlideShowID) : nullptr;
-        const TransferResult Result =
-            TransferSlideShow({mFrom, What.AlbumID, SlideShowID, To, AlbumID, 0, Name,
-                               Show ? Show->SlideShowName : QString(), QStringLiteral("Export")},
-                              Desk());
-        if (!Took(Result)) return false;
-        AlbumID = Result.DstAlbumID;
-    }
-    List(To, AlbumID);
     return true;
 }
 
@@ -272,7 +233,7 @@ DiscTally CountDisc(const clsDBEngine& Source, const DiscContents& What) {
             Each.SlideShowIDs.empty() ? Album->SlideShows.size() : Each.SlideShowIDs.size();
         ++Tally.Albums;
         Tally.SlideShows += static_cast<int>(Shows);
-        Tally.Slides += CountSlides(*Album, Each);
+        Tally.Slides += static_cast<int>(Album->Part(Each.SlideShowIDs)->Slides.size());
     }
     return Tally;
 }

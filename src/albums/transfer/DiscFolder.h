@@ -25,7 +25,7 @@ struct DiscTally {
 };
 DiscTally CountDisc(const clsDBEngine& Source, const DiscContents& What);
 
-// As for a transfer; GoOnWithout may be asked once for each album.
+// As for a transfer.
 struct DiscDesk {
     std::function<bool(const DiscProgress& Now)> Progress;
     std::function<bool(const QStringList& Missing)> GoOnWithout;

@@ -112,6 +112,8 @@ class Copier {
     qint64 mUnflushed = 0;
 };
 
+}  // namespace
+
 TransferProgress AllOf(const std::vector<FoundFile>& Files) {
     TransferProgress All{.At = TransferProgress::Stage::Copying};
     for (const FoundFile& Each : Files) {
@@ -120,8 +122,6 @@ TransferProgress AllOf(const std::vector<FoundFile>& Files) {
     }
     return All;
 }
-
-}  // namespace
 
 std::optional<FilesLookedFor> LookForFiles(const std::vector<FileToCopy>& Files,
                                            const QStringList& OldMasks, const QString& DBPath,

@@ -1,5 +1,6 @@
 // The files of a transfer: looked for in the source, copied below the destination's Temp at full
-// speed on a thread of their own, and gone again unless they are kept. For TransferRun alone.
+// speed on a thread of their own, and gone again unless they are kept. For TransferRun, and
+// DiscFolder, which looks at all of its transfers first.
 #pragma once
 
 #include <functional>
@@ -28,6 +29,8 @@ struct FilesLookedFor {
     std::optional<Fault> Obstacle;  // why a file cannot have its place at the destination
     qint64 Room = -1;               // bytes free where they are to go; -1 when it is not known
 };
+// What there is to do before anything is done.
+TransferProgress AllOf(const std::vector<FoundFile>& Files);
 // Nothing when it was stopped.
 std::optional<FilesLookedFor> LookForFiles(const std::vector<FileToCopy>& Files,
                                            const QStringList& OldMasks, const QString& DBPath,

@@ -106,9 +106,7 @@ Decision DecideAlbum(const AlbumTransfer& What) {
     Plan.ClearsAlbum = What.Replace && Destination;
     if (Plan.ClearsAlbum) Plan.Gone = ClearingOf(What.DstDB, *Destination);
     if (!What.Replace) Made.No = CheckShowNames(*Source, Destination, What.Adjective);
-    TransferPlanner Planner(What.SrcDB, What.SrcAlbumID, Plan);
-    for (const auto& Slide : Source->Slides) Planner.AddSlide(*Slide);
-    for (const auto& Show : Source->SlideShows) Planner.AddShow(*Show, Show->SlideShowName, 0);
+    TransferPlanner(What.SrcDB, What.SrcAlbumID, Plan).AddAlbum(*Source);
     return Made;
 }
 

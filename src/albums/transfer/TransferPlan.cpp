@@ -53,6 +53,11 @@ void TransferPlanner::AddFile(FileToCopy::Kind Is, const QString& From, const QS
     mPlan.Files.push_back({Is, From, Folder + Name, Of});
 }
 
+void TransferPlanner::AddAlbum(const clsNEBAlbum& Source) {
+    for (const auto& Slide : Source.Slides) AddSlide(*Slide);
+    for (const auto& Show : Source.SlideShows) AddShow(*Show, Show->SlideShowName, 0);
+}
+
 void TransferPlanner::AddSlide(const clsNEBSlide& Source) {
     if (mMap.contains(Source.SlideID)) return;
     const std::int32_t SlideID = mPlan.Next.SlideID++;

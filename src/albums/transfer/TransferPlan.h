@@ -47,6 +47,8 @@ class TransferPlanner {
     TransferPlanner(const clsDBEngine& SrcDB, std::int32_t SrcAlbumID, TransferPlan& Plan)
         : mSrcDB(SrcDB), mSrcAlbumID(SrcAlbumID), mPlan(Plan) {}
 
+    // All slides and all shows, each under a new number.
+    void AddAlbum(const clsNEBAlbum& Source);
     // Once for each number.
     void AddSlide(const clsNEBSlide& Source);
     // The slide is shared with the source and keeps its number.
