@@ -1,6 +1,9 @@
 // Files that come into a database with its records: both are there afterwards, or neither is.
 #include <gtest/gtest.h>
 
+#include <QFile>
+#include <QTemporaryDir>
+
 #include "Fixtures.h"
 #include "db/modLoadRecords.h"
 #include "support/Fault.h"
@@ -158,6 +161,61 @@ TEST_F(StagedFiles, NeverReachOutsideTheDatabase) {
     SettleCommitted(Dir.Path());
     EXPECT_TRUE(FileExists(Other / "mine"));
     EXPECT_FALSE(FileExists(Other / "put"));
+}
+
+// What waits may wait for weeks, while somebody works with the database.
+TEST_F(StagedFiles, ThatWaitLeaveAloneWhatHasComeIntoAPlaceThatWasCleared) {
+    Commit();
+    MakeDirs(Dir / "Albums/9/Slides/new.jpg/in the way");
+    EXPECT_EQ(4U, AlbumsAtNextOpening());
+    EXPECT_EQ("none", Text("Albums/1/Slides/gone.jpg"));
+    Put("Albums/1/Slides/gone.jpg", "of today");
+    EXPECT_EQ(4U, AlbumsAtNextOpening());
+    EXPECT_EQ("of today", Text("Albums/1/Slides/gone.jpg"));
+}
+
+TEST_F(StagedFiles, ThatWaitDoNotReplaceWhatIsNewer) {
+    Commit();
+    SetHostWatcher([](HostStep Step, const QString& Path, qint64&) {
+        if (Step == HostStep::Rename && Path.endsWith(u"song.mp3"_s)) throw Fault(u"No."_s);
+    });
+    EXPECT_TRUE(SettleCommitted(Dir.Path()).has_value());
+    SetHostWatcher({});
+    Put("Albums/1/SoundTracks/song.mp3", "of today");
+    EXPECT_FALSE(SettleCommitted(Dir.Path()).has_value());
+    EXPECT_EQ("of today", Text("Albums/1/SoundTracks/song.mp3"));
+}
+
+TEST_F(StagedFiles, AreTakenFromNowhereElse) {
+    TempFolder Other;
+    WriteFile(Other / "mine", "x");
+    StagedChange Change = Stage();
+    Change.Moves.push_back({u"../../../"_s + Other.Path().section(u'/', -2, -2) + u"/mine"_s,
+                            u"Albums/9/Slides/theirs"_s});
+    CommitDatabase(Dir.Path(), BuildImage(*Engine), Change);
+    SettleCommitted(Dir.Path());
+    EXPECT_TRUE(FileExists(Other / "mine"));
+    EXPECT_FALSE(FileExists(Dir / "Albums/9/Slides/theirs"));
+}
+
+TEST_F(StagedFiles, BehindALinkAreNotOurs) {
+    TempFolder Other;
+    WriteFile(Other / "mine", "x");
+    MakeDirs(Dir / "Temp");
+    ASSERT_TRUE(QFile::link(Other.Path().chopped(1), Dir / "Temp/Transfer"));
+    EXPECT_EQ(2U, AlbumsAtNextOpening());
+    EXPECT_TRUE(FileExists(Other / "mine"));
+}
+
+// A user may have moved the pictures to a larger disk and left a link.
+TEST_F(StagedFiles, GoToAnAlbumThatLiesOnAnotherDisk) {
+    const QTemporaryDir Memory(u"/dev/shm/album-XXXXXX"_s);
+    if (!Memory.isValid()) GTEST_SKIP() << "no second disk";
+    ASSERT_TRUE(QFile::link(Memory.path(), Dir / "Albums/9"));
+    Commit();
+    const auto Problem = SettleCommitted(Dir.Path());
+    EXPECT_FALSE(Problem.has_value()) << qPrintable(Problem->Text());
+    EXPECT_EQ("new", Files());
 }
 
 TEST_F(StagedFiles, AreLeftAloneByALookThatChangesNothing) {
