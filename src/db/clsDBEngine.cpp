@@ -66,6 +66,10 @@ Answer<> clsDBEngine::CheckAlbumName(std::int32_t AlbumID, const QString& AlbumN
     for (const auto& Other : Albums)
         if (Other->AlbumID != AlbumID && Other->AlbumName == AlbumName)
             return Refuse(QStringLiteral("An Album with this name already exists."));
+    return CheckAlbumText(AlbumName);
+}
+
+Answer<> clsDBEngine::CheckAlbumText(const QString& AlbumName) {
     if (AlbumName.trimmed().isEmpty())
         return Refuse(QStringLiteral("You must specify an Album name."));
     if (AlbumName.size() > MaxAlbumName)

@@ -50,6 +50,8 @@ class clsDBEngine {
     Answer<> SaveAlbum(std::int32_t& AlbumID, const QString& AlbumName);
     // Whether the album of this ID (0: a new one) may bear this name.
     Answer<> CheckAlbumName(std::int32_t AlbumID, const QString& AlbumName) const;
+    // The part of that which asks for no other album: neither blank nor too long.
+    static Answer<> CheckAlbumText(const QString& AlbumName);
     void LoadAlbumsCombo(ComboList& cboAlbums, bool WithAddOption) const;
     // With an ID gives the name; with ID 0 gives the ID of the first album of that name, case
     // ignored. False, and nothing changed, when there is none.

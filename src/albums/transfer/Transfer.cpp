@@ -58,7 +58,7 @@ Boxes PlanOldAlbum(const clsDBEngine& DstDB, std::int32_t AlbumID, const QString
                    TransferPlan& Plan) {
     if (!DstDB.GetAlbum(AlbumID)) return Say("Failed to load the destination album.");
     Plan.AlbumID = AlbumID;
-    return Say(clsDBEngine().CheckAlbumName(AlbumID, Name));
+    return Say(clsDBEngine::CheckAlbumText(Name));
 }
 
 Boxes PlanDestination(const clsDBEngine& DstDB, std::int32_t AlbumID, const QString& NewAlbumName,
