@@ -117,11 +117,11 @@ QSize BalloonSize(const QString& Text, const QFont& Font) {
 }
 
 QPoint BalloonPlace(const QPoint& Pointer, const QSize& Size, const QRect& Screen) {
-    const int Below = Pointer.y() + BelowPointer;
-    const bool Fits = Below + Size.height() <= Screen.y() + Screen.height();
-    const int Top = Fits ? Below : Pointer.y() - AbovePointer - Size.height();
-    const int Furthest = Screen.x() + Screen.width() - Size.width();
-    return {std::max(Screen.x(), std::min(Pointer.x() - BesidePointer, Furthest)),
+    const int Below = Pointer.y() + BelowPointer, Above = Pointer.y() - AbovePointer;
+    const int Rightmost = Screen.x() + Screen.width() - Size.width();
+    const int Lowest = Screen.y() + Screen.height() - Size.height();
+    const int Top = Below <= Lowest ? Below : std::min(Above - Size.height(), Lowest);
+    return {std::max(Screen.x(), std::min(Pointer.x() - BesidePointer, Rightmost)),
             std::max(Screen.y(), Top)};
 }
 

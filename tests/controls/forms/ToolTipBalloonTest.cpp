@@ -196,6 +196,7 @@ TEST(BalloonPlaceOf, TheEdgesOfTheScreenHoldItAndThePointerStaysFree) {
     EXPECT_EQ(QPoint(1280, -180), BalloonPlace({1280, -200}, {80, 40}, Screen));
     EXPECT_EQ(QPoint(2000, 20), BalloonPlace({2079, 0}, {80, 40}, Screen));
     EXPECT_EQ(QPoint(1398, 341), BalloonPlace({1400, 385}, {80, 40}, Screen)) << "above";
+    EXPECT_EQ(QPoint(1398, 360), BalloonPlace({1400, 450}, {80, 40}, Screen)) << "beyond";
     EXPECT_EQ(QPoint(1280, 20), BalloonPlace({1900, 0}, {900, 40}, Screen)) << "too wide";
     EXPECT_EQ(QPoint(1398, -200), BalloonPlace({1400, 0}, {80, 700}, Screen)) << "too high";
 }
