@@ -40,13 +40,10 @@ void Attach(cairo_surface_t* To, const char* Kind, const QByteArray& Bytes) {
         [](void* Data) { delete static_cast<QByteArray*>(Data); }, Kept);
 }
 
-// Null where the library has no room for a picture of that size.
+// One dot holds its place, for the library takes the size from the file's bytes, and would touch
+// all the pixels of a larger one.
 PdfPicture AsItIs(const QByteArray& Bytes, const PlainJpeg& Plain) {
-    // Its pixels are never touched: the file's bytes stand for them.
-    PdfPicture Made{Owned(cairo_image_surface_create(CAIRO_FORMAT_RGB24, Plain.Stored.width(),
-                                                     Plain.Stored.height())),
-                    Plain.Orientation};
-    if (cairo_surface_status(Made.Pixels.get()) != CAIRO_STATUS_SUCCESS) return {};
+    PdfPicture Made{Owned(cairo_image_surface_create(CAIRO_FORMAT_RGB24, 1, 1)), Plain.Orientation};
     Attach(Made.Pixels.get(), CAIRO_MIME_TYPE_JPEG, Bytes);
     return Made;
 }
@@ -65,8 +62,7 @@ PdfPicture FromPixels(const QImage& Image) {
 
 PdfPicture Prepared(const PrintPicture& Picture, QSizeF Inches) {
     const QByteArray Bytes = FileBytesOf(Picture);
-    if (const auto Plain = ReadPlainJpeg(Bytes))
-        if (PdfPicture Made = AsItIs(Bytes, *Plain); Made.Pixels) return Made;
+    if (const auto Plain = ReadPlainJpeg(Bytes)) return AsItIs(Bytes, *Plain);
     return FromPixels(PixelsOf(Picture, (Inches * MostDotsToTheInch).toSize()));
 }
 

@@ -272,5 +272,30 @@ TEST_F(PdfWriterTest, AThousandPagesTakeNoMoreMemoryThanAHundred) {
     EXPECT_LT(Most - AtHundred, Allowed);
 }
 
+// The most that was in memory since the last call, in bytes.
+qint64 MostResident() {
+    QFile Status(u"/proc/self/status"_s), Reset(u"/proc/self/clear_refs"_s);
+    if (!Status.open(QIODevice::ReadOnly) || !Reset.open(QIODevice::WriteOnly)) return 0;
+    const QString Text = QString::fromLatin1(Status.readAll());
+    Reset.write("5");
+    const QRegularExpression Line(u"VmHWM:\\s+(\\d+) kB"_s);
+    return Line.match(Text).captured(1).toLongLong() * 1024;
+}
+
+TEST_F(PdfWriterTest, AJpegIsNotUnpackedHoweverLargeItIs) {
+    if (RunsUnderSanitizer || Resident() == 0) GTEST_SKIP() << "freed memory is kept, or unknown";
+    const QByteArray Jpeg = JpegOf(Plain(Blue, {4000, 3000}));
+    PrintDocument Document = Begun();
+    for (int Cell = 0; Cell < 8; ++Cell)
+        Place(Document, {File(u"%1.jpg"_s.arg(Cell), Jpeg), {}}, {1, 1.0 + Cell, 1, 0.75});
+    Document.EndDoc();
+    ASSERT_GT(MostResident(), 0);
+    const qint64 Before = Resident();
+    WritePdf(Document, Pdf());
+    constexpr qint64 OnePicture = 4000 * 3000 * 4;
+    EXPECT_LT(MostResident() - Before, OnePicture);
+    EXPECT_EQ(PicturesIn(Pdf()), QByteArrayList(8, Jpeg));
+}
+
 }  // namespace
 }  // namespace neb
