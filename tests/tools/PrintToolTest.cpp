@@ -200,5 +200,21 @@ TEST_F(PrintToolTest, AFullDiskLeavesTheOldFile) {
     ExpectRefusal("The file cannot be written.", {});
 }
 
+TEST_F(PrintToolTest, ThePaperIsThatOfTheUsersCountry) {
+    const std::pair<const char*, double> WidthOf[] = {
+        {"en_US.UTF-8", 792}, {"es_MX.UTF-8", 792}, {"de_DE.UTF-8", 841.89}, {"C", 841.89}};
+    for (const auto& [Locale, Points] : WidthOf) {
+        QProcess Process;
+        auto Environment = QProcessEnvironment::systemEnvironment();
+        Environment.insert(u"LC_ALL"_s, QLatin1String(Locale));
+        Process.setProcessEnvironment(Environment);
+        Process.start(QStringLiteral(NEB_BINARY_DIR "/bin/nebctl"),
+                      {u"print"_s, Dir(), u"--album"_s, u"Holiday"_s, Pdf()});
+        ASSERT_TRUE(Process.waitForFinished());
+        EXPECT_EQ(Process.exitCode(), ExitDone) << Process.readAllStandardError().toStdString();
+        EXPECT_NEAR(PageSizeIn(Pdf()).width(), Points, 0.01) << Locale;
+    }
+}
+
 }  // namespace
 }  // namespace neb
