@@ -8,6 +8,7 @@
 #include "tools/modDump.h"
 #include "tools/modEffects.h"
 #include "tools/modImportFolder.h"
+#include "tools/modPrint.h"
 #include "tools/modRehearse.h"
 #include "tools/modRewrite.h"
 #include "tools/modTransfer.h"
@@ -69,6 +70,25 @@ constexpr Command Table[] = {
      "is read-only, are left alone.\n"
      "Exit code 0: transferred; 2: nothing was transferred, or a line says what is left to do.\n",
      RunTransfer},
+    {"print",
+     "DIR --album NAME [--show NAME] [--columns 3] [--rows 4] [--landscape | --portrait]\n"
+     "             [--whole-sheet] OUT.pdf",
+     "write an album or a show as a PDF of sheets",
+     "Puts the slides of the album NAME in the database DIR, in the order of their captions, on\n"
+     "sheets, and writes them to OUT.pdf. JPEGs are in it with their own bytes. A file that is\n"
+     "there is replaced, in one step when all is written. Nothing in DIR is changed.\n"
+     "\n"
+     "  --show NAME    this show of the album instead, in its running order\n"
+     "  --columns N    pictures side by side, 3 unless told otherwise\n"
+     "  --rows N       pictures below each other, 4 unless told otherwise\n"
+     "  --portrait     the page upright; --landscape, on its side, is what it is without\n"
+     "  --whole-sheet  a sheet for each slide, which stands in every cell of it\n"
+     "\n"
+     "The paper is A4, or Letter where the country of the user's language prints on that.\n"
+     "In place of a picture that is missing or cannot be read, NoSlide.bmp is printed.\n"
+     "Exit code 0: written; 1: written, and a line for each picture or place of the show that\n"
+     "is missing; 2: not written.\n",
+     RunPrint, Wants::Drawing},
     {"effects", "list | timings [FILE] | render ... | sheet OUT", "look at the transitions", "",
      RunEffects, Wants::Drawing, PrintEffectsHelp},
     {"rehearse", "DIR --album NAME --show NAME [--json] [--screen WxH] [--documents DIR]",

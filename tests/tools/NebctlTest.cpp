@@ -457,12 +457,12 @@ TEST_F(NebctlTest, WrongUsageIsTwo) {
         EXPECT_TRUE(Result.Err.contains(u"nowhere"));
         EXPECT_EQ(Result.Out, u"");
     }
-    for (const char* Name : {"import", "transfer"}) {
-        const QString Command = QLatin1String(Name);
+    const std::pair<QString, QString> WithTwoPlaces[] = {
+        {u"import"_s, Dir.Path()}, {u"transfer"_s, Dir.Path()}, {u"print"_s, Dir / "out.pdf"}};
+    for (const auto& [Command, Second] : WithTwoPlaces) {
         EXPECT_EQ(Tool({Command}).Code, 2);
         EXPECT_EQ(Tool({Command, Dir.Path()}).Code, 2);
-        const Outcome Result =
-            Tool({Command, Dir / "nowhere", Dir.Path(), u"--album"_s, u"Fürth"_s});
+        const Outcome Result = Tool({Command, Dir / "nowhere", Second, u"--album"_s, u"Fürth"_s});
         EXPECT_EQ(Result.Code, 2);
         EXPECT_TRUE(Result.Err.contains(u"nowhere"));
         EXPECT_EQ(Result.Out, u"");

@@ -1,0 +1,124 @@
+#include "printing/PageLayouts.h"
+
+#include "support/modNumbers.h"
+
+namespace neb {
+namespace {
+
+constexpr double ShortSide = 6.5, LongSide = 9.0;
+constexpr double Gap = 0.15;         // between cells, in both directions
+constexpr double FromTheEdge = 1.0;  // of the page, to the left and at the top
+constexpr double LeastSide = 1.0;    // of a single picture
+
+double WidthOverHeight(QSize Picture) {
+    return static_cast<double>(Picture.width()) / Picture.height();
+}
+
+double HeightOverWidth(QSize Picture) {
+    return static_cast<double>(Picture.height()) / Picture.width();
+}
+
+double CellSide(double Area, int Count) {
+    return (Area - Gap * (Count - 1)) / Count;
+}
+
+BoxRequest RefuseNumber(const GridWish& Wish, const QString& Text) {
+    return Wish.OfOnePicture ? Refuse(Text) : Refuse(Text, QStringLiteral("Invalid User Input"));
+}
+
+QString TooMany(double Area, const char* What, const char* Direction) {
+    int Most = 1;
+    while (CellSide(Area, Most + 1) > 0) ++Most;
+    return QStringLiteral("There is room for at most %1 %2 on the page %3.")
+        .arg(Most)
+        .arg(QLatin1String(What), QLatin1String(Direction));
+}
+
+QString OutOfRange(const char* Relation, double Limit, const char* Side) {
+    return QStringLiteral("Picture must be %1 %2 %3.")
+        .arg(QLatin1String(Relation), ShortestDecimal(Limit), QLatin1String(Side));
+}
+
+}  // namespace
+
+QSizeF LargestOn(PageTurn Turn) {
+    return Turn == PageTurn::Landscape ? QSizeF(LongSide, ShortSide) : QSizeF(ShortSide, LongSide);
+}
+
+Answer<CellGrid> GridFor(const GridWish& Wish) {
+    // A number that is none is below one as well.
+    if (!(Wish.PerRow >= 1))
+        return RefuseNumber(Wish, Wish.OfOnePicture
+                                      ? QStringLiteral("You must have 1 or more copies per row.")
+                                      : QStringLiteral("You must have 1 or more slides per row."));
+    if (!(Wish.RowsPerPage >= 1))
+        return RefuseNumber(Wish, QStringLiteral("You must have 1 or more rows per page."));
+    const QSizeF Area = LargestOn(Wish.Turn);
+    const int Cols = CInt(Wish.PerRow), Rows = CInt(Wish.RowsPerPage);
+    const QSizeF Cell(CellSide(Area.width(), Cols), CellSide(Area.height(), Rows));
+    if (!(Cell.width() > 0))
+        return RefuseNumber(Wish, TooMany(Area.width(), "columns", "side by side"));
+    if (!(Cell.height() > 0))
+        return RefuseNumber(Wish, TooMany(Area.height(), "rows", "below each other"));
+    return CellGrid{Cols, Rows, Cell, Wish.Turn, Wish.KeepsRatio, Wish.WholeSheet};
+}
+
+QRectF CellAt(const CellGrid& Grid, int Row, int Col) {
+    return {QPointF(FromTheEdge + (Col - 1) * (Grid.Cell.width() + Gap),
+                    FromTheEdge + (Row - 1) * (Grid.Cell.height() + Gap)),
+            Grid.Cell};
+}
+
+QRectF CellAt(const CellGrid& Grid, int Index) {
+    return CellAt(Grid, Index / Grid.Cols + 1, Index % Grid.Cols + 1);
+}
+
+QSizeF SizeInCell(const CellGrid& Grid, QSize Picture) {
+    const double W = Grid.Cell.width(), H = Grid.Cell.height();
+    if (!Grid.KeepsRatio || Picture.isEmpty()) return Grid.Cell;
+    const double Wide = WidthOverHeight(Picture), High = HeightOverWidth(Picture);
+    if (Wide >= 1) return Wide * H > W ? QSizeF(W, W * High) : QSizeF(Wide * H, H);
+    return High * W > H ? QSizeF(H * Wide, H) : QSizeF(W, High * W);
+}
+
+int PagesFor(const CellGrid& Grid, int Pictures) {
+    const int PerPage = Grid.WholeSheet ? 1 : Grid.CellsPerPage();
+    return (Pictures + PerPage - 1) / PerPage;
+}
+
+SlideWish OpeningWish(QSize Picture) {
+    if (WidthOverHeight(Picture) <= 1) {
+        const double Height = HeightForWidth(ShortSide, Picture);
+        if (Height <= LongSide) return {ShortSide, Height, PageTurn::Portrait};
+        return {WidthForHeight(LongSide, Picture), LongSide, PageTurn::Portrait};
+    }
+    const double Width = WidthForHeight(ShortSide, Picture);
+    if (Width <= LongSide) return {Width, ShortSide, PageTurn::Landscape};
+    return {LongSide, HeightForWidth(LongSide, Picture), PageTurn::Landscape};
+}
+
+double HeightForWidth(double Width, QSize Picture) {
+    return Width * HeightOverWidth(Picture);
+}
+
+double WidthForHeight(double Height, QSize Picture) {
+    return Height * WidthOverHeight(Picture);
+}
+
+Answer<QSizeF> SlideSizeFor(const SlideWish& Wish, QSize Picture) {
+    const QSizeF Most = LargestOn(Wish.Turn);
+    if (!(Wish.Width >= LeastSide)) return Refuse(OutOfRange(">=", LeastSide, "inch wide"));
+    if (Wish.Width > Most.width()) return Refuse(OutOfRange("<=", Most.width(), "inches wide"));
+    if (!(Wish.Height >= LeastSide)) return Refuse(OutOfRange(">=", LeastSide, "inch high"));
+    if (Wish.Height > Most.height()) return Refuse(OutOfRange("<=", Most.height(), "inches high"));
+    if (!Wish.KeepsRatio) return QSizeF(Wish.Width, Wish.Height);
+    if (WidthOverHeight(Picture) <= 1)
+        return QSizeF(WidthForHeight(Wish.Height, Picture), Wish.Height);
+    return QSizeF(Wish.Width, HeightForWidth(Wish.Width, Picture));
+}
+
+QPointF SlidePlace() {
+    return {FromTheEdge, FromTheEdge};
+}
+
+}  // namespace neb

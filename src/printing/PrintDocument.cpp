@@ -1,0 +1,124 @@
+#include "printing/PrintDocument.h"
+
+#include "support/Fault.h"
+#include "support/modNumbers.h"
+
+namespace neb {
+namespace {
+
+const QString Unit = QStringLiteral("in");
+
+// The number under which a key is known, or the next one.
+template <class Key>
+int KnownAs(QHash<Key, int>& Known, const Key& Wanted, int Next) {
+    const auto Found = Known.constFind(Wanted);
+    if (Found != Known.constEnd()) return *Found;
+    Known.insert(Wanted, Next);
+    return Next;
+}
+
+void DrawSmoothly(QPainter& Painter, const QRectF& Target, const QImage& Pixels) {
+    Painter.save();
+    Painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    Painter.drawImage(Target, Pixels);
+    Painter.restore();
+}
+
+}  // namespace
+
+QString InchText(double Inches) {
+    return ShortestDecimal(Inches) + Unit;
+}
+
+double InchesIn(const QString& Text) {
+    bool Sound = Text.endsWith(Unit);
+    const double Inches = Sound ? QStringView(Text).chopped(Unit.size()).toDouble(&Sound) : 0;
+    if (!Sound || !std::isfinite(Inches))
+        throw Fault(QStringLiteral("\"%1\" is no measure in inches.").arg(Text));
+    return Inches;
+}
+
+PrintDocument::PrintDocument(PrintPicture StandIn, QSizeF Paper)
+    : mStandIn(std::move(StandIn)), mPaper(Paper) {}
+
+QSizeF PrintDocument::PageSize() const {
+    return mOrientation == PageTurn::Landscape ? mPaper.transposed() : mPaper;
+}
+
+void PrintDocument::Clear() {
+    mPictures.clear();
+    mByPath.clear();
+    mByBytes.clear();
+    mPlaces.clear();
+    mPageStarts.clear();
+    mOpen = false;
+}
+
+void PrintDocument::StartDoc() {
+    Clear();
+    mPageStarts.push_back(0);
+    mOpen = true;
+}
+
+void PrintDocument::MustBeOpen() const {
+    if (!mOpen) throw Fault(QStringLiteral("The document is not being composed."));
+}
+
+void PrintDocument::NewPage() {
+    MustBeOpen();
+    mPageStarts.push_back(mPlaces.size());
+}
+
+void PrintDocument::DrawPicture(const PrintPicture& Picture, const QString& X, const QString& Y,
+                                const QString& Width, const QString& Height) {
+    MustBeOpen();
+    const QRectF Place(InchesIn(X), InchesIn(Y), InchesIn(Width), InchesIn(Height));
+    if (!(Place.width() > 0 && Place.height() > 0))
+        throw Fault(QStringLiteral("A picture of %1 by %2 cannot be drawn.").arg(Width, Height));
+    mPlaces.push_back({NumberOf(Picture), Place});
+}
+
+void PrintDocument::EndDoc() {
+    MustBeOpen();
+    mOpen = false;
+}
+
+int PrintDocument::NumberOf(const PrintPicture& Picture) {
+    const int Next = static_cast<int>(mPictures.size());
+    const int Number = Picture.Path.isEmpty() ? KnownAs(mByBytes, Picture.Bytes, Next)
+                                              : KnownAs(mByPath, Picture.Path, Next);
+    if (Number == Next) mPictures.push_back(Picture);
+    return Number;
+}
+
+std::span<const PlacedPicture> PrintDocument::PlacesOn(int Page) const {
+    const std::size_t First = mPageStarts.at(static_cast<std::size_t>(Page) - 1);
+    const bool IsLast = Page == PageCount();
+    const std::size_t End = IsLast ? mPlaces.size() : mPageStarts[static_cast<std::size_t>(Page)];
+    return std::span(mPlaces).subspan(First, End - First);
+}
+
+QImage PrintDocument::PixelsAt(const PlacedPicture& Placed, QSize Most) const {
+    try {
+        return PixelsOf(Picture(Placed.Picture), Most);
+    } catch (const Fault&) {
+        return PixelsOf(mStandIn, Most);
+    }
+}
+
+void PrintDocument::PaintPage(QPainter& Painter, int Page, double Scale) const {
+    QImage Pixels;
+    QSize Most;
+    int Held = -1;
+    for (const PlacedPicture& Placed : PlacesOn(Page)) {
+        const QRectF Target(Placed.Place.topLeft() * Scale, Placed.Place.size() * Scale);
+        const QSize Dots = Painter.deviceTransform().mapRect(Target).size().toSize();
+        // A sheet shows one picture many times.
+        if (Placed.Picture != Held || Dots != Most) Pixels = PixelsAt(Placed, Dots);
+        Held = Placed.Picture;
+        Most = Dots;
+        DrawSmoothly(Painter, Target, Pixels);
+    }
+}
+
+}  // namespace neb

@@ -1,0 +1,93 @@
+// A document to be printed: pages of pictures, each at a place in inches from the page's edge. It
+// is composed once (StartDoc, DrawPicture, NewPage, EndDoc) and then looked at, printed and written
+// alike. Pictures are kept by reference and read when they are wanted (PrintPicture.h), so that a
+// thousand pages take next to no memory. Used by what composes sheets, by PdfWriter and by the
+// preview.
+#pragma once
+
+#include <QHash>
+#include <QPainter>
+#include <span>
+#include <vector>
+
+#include "printing/PageLayouts.h"
+#include "printing/PrintPicture.h"
+
+namespace neb {
+
+// What long printing tells and asks while it runs, in pictures: false ends it.
+struct PrintProgress {
+    int Done = 0;
+    int Total = 0;
+};
+using PrintGoOn = std::function<bool(const PrintProgress& Now)>;
+
+// Inches as the document takes them, such as "1.5in", and back. Throws Fault for what is no such
+// text.
+QString InchText(double Inches);
+double InchesIn(const QString& Text);
+
+// Sheets of paper, upright, in inches.
+inline constexpr QSizeF LetterPaper{8.5, 11.0};
+inline constexpr QSizeF A4Paper{210 / 25.4, 297 / 25.4};
+
+struct PlacedPicture {
+    int Picture = 0;  // its number in the document
+    QRectF Place;     // inches from the page's top left corner
+};
+
+class PrintDocument {
+  public:
+    // StandIn is drawn in place of a picture that cannot be read.
+    explicit PrintDocument(PrintPicture StandIn, QSizeF Paper = LetterPaper);
+
+    PageTurn Orientation() const { return mOrientation; }
+    void SetOrientation(PageTurn Turn) { mOrientation = Turn; }
+    QSizeF PageSize() const;  // inches, turned
+
+    // As texts with their unit. The places of pictures do not depend on them.
+    const QMarginsF& Margins() const { return mMargins; }  // inches
+    void SetMarginLeft(const QString& Text) { mMargins.setLeft(InchesIn(Text)); }
+    void SetMarginRight(const QString& Text) { mMargins.setRight(InchesIn(Text)); }
+    void SetMarginTop(const QString& Text) { mMargins.setTop(InchesIn(Text)); }
+    void SetMarginBottom(const QString& Text) { mMargins.setBottom(InchesIn(Text)); }
+
+    void Clear();  // no pages are left
+    // A document with an empty first page; what was composed before goes.
+    void StartDoc();
+    // These three throw Fault outside StartDoc and EndDoc.
+    void NewPage();
+    // X, Y, Width and Height as texts in inches. Throws Fault when they are none, or no size.
+    void DrawPicture(const PrintPicture& Picture, const QString& X, const QString& Y,
+                     const QString& Width, const QString& Height);
+    void EndDoc();
+
+    int PageCount() const { return static_cast<int>(mPageStarts.size()); }
+    int PlaceCount() const { return static_cast<int>(mPlaces.size()); }
+    // Pages from 1, as the user counts them.
+    std::span<const PlacedPicture> PlacesOn(int Page) const;
+    const PrintPicture& Picture(int Number) const { return mPictures[Number]; }
+    const PrintPicture& StandIn() const { return mStandIn; }
+
+    // Draws a page with its top left corner at the painter's origin, Scale units of the painter to
+    // the inch. Throws Fault when not even the picture that stands in can be read.
+    void PaintPage(QPainter& Painter, int Page, double Scale) const;
+
+  private:
+    void MustBeOpen() const;
+    int NumberOf(const PrintPicture& Picture);
+    QImage PixelsAt(const PlacedPicture& Placed, QSize Most) const;
+
+    PrintPicture mStandIn;
+    QSizeF mPaper;
+    PageTurn mOrientation = PageTurn::Portrait;
+    QMarginsF mMargins;
+    bool mOpen = false;
+    std::vector<PrintPicture> mPictures;  // each once
+    QHash<QString, int> mByPath;
+    QHash<QByteArray, int> mByBytes;
+    std::vector<PlacedPicture> mPlaces;    // of all pages
+    std::vector<std::size_t> mPageStarts;  // the first place on each page
+};
+
+}  // namespace neb

@@ -1,0 +1,25 @@
+// Fills a print document: sheets of many pictures in cells, or a single picture at a size of its
+// own. Used by the printing windows and by nebctl.
+#pragma once
+
+#include <QStringList>
+
+#include "printing/PrintDocument.h"
+
+namespace neb {
+
+struct ComposedSheets {
+    bool Whole = true;       // false: it was ended before the last picture
+    QStringList StoodInFor;  // the pictures that cannot be read, each once for every place
+};
+
+// Composes a document of its own out of picture files, in their order; without any it has no page.
+// GoOn hears of every picture and may be empty. Throws Fault when a picture cannot be read and the
+// document's stand-in neither.
+ComposedSheets ComposeSheets(PrintDocument& Into, const CellGrid& Grid, const QStringList& Paths,
+                             const PrintGoOn& GoOn = {});
+
+// Composes one page of one picture. Refused as its size is. Throws as ComposeSheets does.
+Answer<> ComposeSlide(PrintDocument& Into, const SlideWish& Wish, const QString& Path);
+
+}  // namespace neb

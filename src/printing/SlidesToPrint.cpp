@@ -1,0 +1,55 @@
+#include "printing/SlidesToPrint.h"
+
+#include <QHash>
+
+#include "db/modAlbumFiles.h"
+#include "settings/modNEBSlideShow.h"
+
+namespace neb {
+namespace {
+
+// The objects by their number, the first of each, so that none is searched for.
+template <class Object>
+QHash<std::int32_t, const Object*> ByNumber(const std::vector<std::unique_ptr<Object>>& Objects,
+                                            std::int32_t Object::*Number) {
+    QHash<std::int32_t, const Object*> Found;
+    for (const auto& Each : Objects)
+        if (!Found.contains((*Each).*Number)) Found.insert((*Each).*Number, Each.get());
+    return Found;
+}
+
+}  // namespace
+
+SlidesToPrint SlidesOf(clsNEBAlbum& Album, const QString& DBPath) {
+    SlidesToPrint Result;
+    const auto Slides = ByNumber(Album.Slides, &clsNEBSlide::SlideID);
+    Album.SortSlides();
+    for (const NameIndexEntry& Row : Album.SlideIndex)
+        Result.Paths << SlidePath(DBPath, Album.AlbumID, Slides[Row.ID]->SlideLoc);
+    return Result;
+}
+
+SlidesToPrint SlidesOf(const clsNEBAlbum& Album, const clsNEBSlideShow& SlideShow,
+                       const QString& DBPath) {
+    SlidesToPrint Result;
+    const auto Slides = ByNumber(Album.Slides, &clsNEBSlide::SlideID);
+    const auto Details = ByNumber(SlideShow.Details, &clsNEBSlideShowDetail::SlideSeq);
+    const int Places = static_cast<int>(SlideShow.Details.size());
+    for (int I = 1; I <= Places; ++I) {
+        const clsNEBSlideShowDetail* Detail = Details.value(I);
+        const clsNEBSlide* Slide = Detail ? Slides.value(Detail->SlideID) : nullptr;
+        if (Slide) {
+            Result.Paths << SlidePath(DBPath, Album.AlbumID, Slide->SlideLoc);
+            continue;
+        }
+        const QString What = Detail ? QStringLiteral("Slide") : QStringLiteral("Detail");
+        Result.Missing.push_back(Refuse(QStringLiteral("%1 #%2 not found.").arg(What).arg(I)));
+    }
+    return Result;
+}
+
+QString NoSlideFile() {
+    return AppPath() + QStringLiteral("NoSlide.bmp");
+}
+
+}  // namespace neb
