@@ -56,6 +56,7 @@ class TransferRun {
         if (Looked->Obstacle) throw *Looked->Obstacle;
         mFiles = std::move(Looked->Found);
         for (const size_t Which : Looked->Missing) GoWithout(mPlan.Files[Which]);
+        mLeftOut = static_cast<int>(Looked->Missing.size());
         mOldFiles = std::move(Looked->Old);
         mRoom = Looked->Room;
         return true;
@@ -149,7 +150,10 @@ class TransferRun {
         TransferResult Result{.Is = TransferResult::End::Done,
                               .DstAlbumID = mPlan.AlbumID,
                               .Slides = static_cast<int>(mPlan.Slides.size()),
-                              .Shows = static_cast<int>(mPlan.Shows.size())};
+                              .Shows = static_cast<int>(mPlan.Shows.size()),
+                              .LeftOut = mLeftOut};
+        for (const clsNEBSlideShow& Show : mPlan.Shows)
+            Result.Places += static_cast<int>(Show.Details.size());
         Result.Changes = Changes(mDB, mAsker).PutAlbum(std::move(After), OneShow());
         Result.DstSlideShowID = OneShow();
         return Result;
@@ -183,6 +187,7 @@ class TransferRun {
     std::vector<FoundFile> mFiles;
     QStringList mOldFiles;  // full paths
     qint64 mRoom = -1;      // bytes
+    int mLeftOut = 0;       // files
 };
 
 }  // namespace
