@@ -19,6 +19,7 @@ struct BoxRequest {
     BoxIcon Icon = BoxIcon::Plain;
     BoxButtons Buttons = BoxButtons::Ok;
     BoxAnswer Default = BoxAnswer::Yes;  // of a Yes/No box: what Enter answers
+    QString Details = {};  // a long list, say: opens at a button of the box, and scrolls
 };
 
 class MessageBoxes {

@@ -43,5 +43,21 @@ TEST(SuggestedName, IsTheSourcesOwnUnlessItIsTaken) {
     }
 }
 
+TEST(SuggestedName, IsCutSoThatItFitsWithItsNumber) {
+    const QString Long(80, u'x');
+    const QString Two = QString(78, u'x') + QStringLiteral(" 2");
+    EXPECT_EQ(Long, SuggestAlbumName(Long, {}, false)) << "as it is";
+    EXPECT_EQ(Two, SuggestAlbumName(Long, {}, true));
+    EXPECT_EQ(Two, SuggestSlideShowName(Long, {Long}, false));
+    QStringList Taken{Long};
+    for (int I = 2; I < 10; ++I) Taken << QString(78, u'x') + u' ' + QString::number(I);
+    EXPECT_EQ(QString(77, u'x') + QStringLiteral(" 10"), SuggestAlbumName(Long, Taken, true));
+    const QString Words = QString(76, u'x') + QStringLiteral("  yz");
+    EXPECT_EQ(QString(76, u'x') + QStringLiteral(" 2"), SuggestAlbumName(Words, {}, true));
+    const QString Wide = QString(77, u'x') + QString::fromUtf8("\xF0\x9F\x8C\xB9y");
+    EXPECT_EQ(QString(77, u'x') + QStringLiteral(" 2"), SuggestAlbumName(Wide, {}, true))
+        << "no half letter";
+}
+
 }  // namespace
 }  // namespace neb

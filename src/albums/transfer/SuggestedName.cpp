@@ -5,8 +5,21 @@
 namespace neb {
 namespace {
 
+constexpr qsizetype MaxName = 80;  // as wide as its field in the record
+
+// At most so long; never half a letter, and no blank at the end.
+QString Head(QString Name, qsizetype Length) {
+    if (Name.size() <= Length) return Name;
+    Name.truncate(Length);
+    if (Name.back().isHighSurrogate()) Name.chop(1);
+    while (!Name.isEmpty() && Name.back().isSpace()) Name.chop(1);
+    return Name;
+}
+
 QString Numbered(const QString& Name, int Number) {
-    return Number > 0 ? Name + u' ' + QString::number(Number) : Name;
+    if (Number == 0) return Name;
+    const QString Behind = u' ' + QString::number(Number);
+    return Head(Name, MaxName - Behind.size()) + Behind;
 }
 
 QString FreeName(const QString& Name, const QStringList& Taken, int First) {

@@ -9,7 +9,7 @@ namespace neb {
 
 // Source: the name of the chosen album, nothing when none is. Taken: the entries of the list at the
 // destination; upper and lower case count as equal. InSameDatabase: the copy gets a number in any
-// case, from 2 on. Empty without a source.
+// case, from 2 on. A name that is too long with its number is cut. Empty without a source.
 QString SuggestAlbumName(const std::optional<QString>& Source, const QStringList& Taken,
                          bool InSameDatabase);
 // The same for a show among the shows of the album that it comes into.

@@ -34,6 +34,8 @@ struct TransferResult {
     std::int32_t DstSlideShowID = 0;  // of a show's transfer
     int Slides = 0;                   // that came in
     int Shows = 0;
+    int Places = 0;   // of the shows that came in: a slide that stands twice in one counts twice
+    int LeftOut = 0;  // files that were missing, and without which it went on
     // What the other windows are to hear, in this order. Nobody follows another database than the
     // program's own.
     std::vector<Announcement> Changes = {};

@@ -58,6 +58,7 @@ class TransferRun {
         for (const size_t Which : Looked->Missing) Missing << mPlan.Files[Which].From;
         if (!Missing.isEmpty() && !(mDesk.GoOnWithout && mDesk.GoOnWithout(Missing))) return false;
         GoWithout(Looked->Missing);
+        mLeftOut = static_cast<int>(Looked->Missing.size());
         return true;
     }
 
@@ -153,7 +154,10 @@ class TransferRun {
         TransferResult Result{.Is = TransferResult::End::Done,
                               .DstAlbumID = mPlan.AlbumID,
                               .Slides = static_cast<int>(mPlan.Slides.size()),
-                              .Shows = static_cast<int>(mPlan.Shows.size())};
+                              .Shows = static_cast<int>(mPlan.Shows.size()),
+                              .LeftOut = mLeftOut};
+        for (const clsNEBSlideShow& Show : mPlan.Shows)
+            Result.Places += static_cast<int>(Show.Details.size());
         Result.Changes = Changes(mDB, mAsker).PutAlbum(std::move(After), OneShow());
         Result.DstSlideShowID = OneShow();
         return Result;
@@ -187,6 +191,7 @@ class TransferRun {
     std::vector<FoundFile> mFiles;
     QStringList mOldFiles;  // full paths
     qint64 mRoom = -1;      // bytes
+    int mLeftOut = 0;       // files
 };
 
 }  // namespace

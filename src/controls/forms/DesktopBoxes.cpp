@@ -57,6 +57,7 @@ void Fill(QMessageBox& Box, const BoxRequest& Request) {
     Box.setTextFormat(Qt::PlainText);
     Box.setText(Request.Text);
     Box.setIcon(BoxIconFor(Request.Icon));
+    if (!Request.Details.isEmpty()) Box.setDetailedText(Request.Details);
     if (Request.Buttons == BoxButtons::Ok) {
         Box.setStandardButtons(QMessageBox::Ok);
         return;

@@ -3,7 +3,9 @@
 namespace neb {
 
 BoxAnswer ShowBox(const BoxRequest& Request) {
-    return MsgBox(Request.Text, Request.Title, Request.Icon, Request.Buttons);
+    MessageBoxes* Boxes = TheServices().Boxes;
+    return Boxes ? Boxes->Show(Request)
+                 : MsgBox(Request.Text, Request.Title, Request.Icon, Request.Buttons);
 }
 
 }  // namespace neb

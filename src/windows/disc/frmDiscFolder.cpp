@@ -158,9 +158,9 @@ void frmDiscFolder::ReceiveEvent(const QString&, const QString&, const EventKeys
 }
 
 void frmDiscFolder::Browse() {
-    const QString Dir = TheServices().Dialogs->ChooseFolder(tr("Folder for the Disc"),
-                                                            PathMeant(mUi->txtFolder->text()));
-    if (!Dir.isEmpty()) mUi->txtFolder->setText(Dir);
+    const QString Dir =
+        TheServices().Dialogs->ChooseFolder(tr("Folder for the Disc"), PathIn(*mUi->txtFolder));
+    if (!Dir.isEmpty()) PutPath(*mUi->txtFolder, Dir);
 }
 
 void frmDiscFolder::dragEnterEvent(QDragEnterEvent* Event) {
@@ -171,18 +171,18 @@ void frmDiscFolder::dropEvent(QDropEvent* Event) {
     const QString Dir = DroppedDirectory(*Event->mimeData());
     if (Dir.isEmpty()) return;
     Event->acceptProposedAction();
-    mUi->txtFolder->setText(Dir);
+    PutPath(*mUi->txtFolder, Dir);
 }
 
 void frmDiscFolder::Write() {
     const DiscContents What = Chosen();
     if (!IsReady(What)) return;
     const QString Tally = CountDisc(*DBEngine, What).Text();
-    const DiscResult Result = Run(What);
-    if (Result)
-        TellDone(Result, Tally);
+    const Written Folder = Run(What);
+    if (Folder.Result)
+        TellDone(Folder, Tally);
     else
-        TellFailure(Result);
+        TellFailure(Folder.Result);
 }
 
 bool frmDiscFolder::IsReady(const DiscContents& What) {
@@ -198,39 +198,42 @@ bool frmDiscFolder::IsReady(const DiscContents& What) {
     return !What.empty() && !mUi->txtFolder->text().trimmed().isEmpty();
 }
 
-DiscResult frmDiscFolder::Run(const DiscContents& What) {
+frmDiscFolder::Written frmDiscFolder::Run(const DiscContents& What) {
     const PointerScope Working(Pointer::Hourglass);
     const QScopedValueRollback<bool> Writing(mWriting, true);
-    DiscResult Result;
+    Written Made;
     const auto Bar = NewForm<frmTransferProgress>();
     Bar->setWindowTitle(tr("Writing ..."));
-    const QString Dir = PathMeant(mUi->txtFolder->text());
+    const QString Dir = PathIn(*mUi->txtFolder);
     try {
-        Bar->ShowOver([&] { Result = WriteDiscFolder(*DBEngine, What, Dir, DeskOf(*Bar)); });
+        Bar->ShowOver([&] {
+            Made.Result = WriteDiscFolder(*DBEngine, What, Dir, DeskOf(*Bar, Made.LeftOut));
+        });
     } catch (const Fault& Problem) {
-        Result.Boxes = {{Problem.Text(), tr("Operation Failed"), BoxIcon::Critical}};
+        Made.Result.Boxes = {{Problem.Text(), tr("Operation Failed"), BoxIcon::Critical}};
     }
-    return Result;
+    return Made;
 }
 
-DiscDesk frmDiscFolder::DeskOf(frmTransferProgress& Bar) const {
+DiscDesk frmDiscFolder::DeskOf(frmTransferProgress& Bar, int& LeftOut) const {
     const auto Progress = [&Bar, Begun = std::optional<double>()](const DiscProgress& Now) mutable {
         const double Ticks = TheServices().Time->Ticks();
         if (Now.Copied.Bytes > 0 && !Begun) Begun = Ticks;
         return Bar.Show(Now.Text(Begun ? (Ticks - *Begun) / 1000 : 0), Now.Percent());
     };
-    return {.Progress = Progress, .GoOnWithout = [](const QStringList& Missing) {
+    return {.Progress = Progress, .GoOnWithout = [&LeftOut](const QStringList& Missing) {
+                LeftOut = static_cast<int>(Missing.size());
                 return AskGoOnWithout(Missing, DBEngine->DBPath());
             }};
 }
 
-void frmDiscFolder::TellDone(const DiscResult& Result, const QString& What) {
-    MsgBox(tr("The folder\n%1\nis ready: %2, in %3 files of %4.\n\nWhether it is still as it was "
+void frmDiscFolder::TellDone(const Written& Folder, const QString& What) {
+    const DiscResult& Result = Folder.Result;
+    MsgBox(tr("The folder\n%1\nis ready: %2, in %3 files of %4%5.\n\nWhether it is still as it was "
               "written can be looked up at any time: by Check a Disc in the menu Import/Export, or "
               "in the folder by\nsha256sum -c Sums.sha256")
-               .arg(Result.Dir, What)
-               .arg(Result.Files)
-               .arg(ShortSize(Result.Bytes)),
+               .arg(Result.Dir, What, QString::number(Result.Files), ShortSize(Result.Bytes),
+                    TextOfLeftOut(Folder.LeftOut)),
            tr("Operation Completed"), BoxIcon::Information);
     Unload();
 }

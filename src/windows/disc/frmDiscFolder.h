@@ -47,9 +47,13 @@ class frmDiscFolder : public Form, public ChangeReceiver {
     void Browse();
     void Write();
     bool IsReady(const DiscContents& What);
-    DiscResult Run(const DiscContents& What);
-    DiscDesk DeskOf(frmTransferProgress& Bar) const;
-    void TellDone(const DiscResult& Result, const QString& What);
+    struct Written {
+        DiscResult Result;
+        int LeftOut = 0;  // files that were missing
+    };
+    Written Run(const DiscContents& What);
+    DiscDesk DeskOf(frmTransferProgress& Bar, int& LeftOut) const;
+    void TellDone(const Written& Folder, const QString& What);
     void TellFailure(const DiscResult& Result);
     void Close() { Unload(); }
 

@@ -9,6 +9,7 @@
 #include "support/Services.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
+#include "support/work/WorkAside.h"
 #include "windows/frame/modNotice.h"
 #include "windows/transfer/frmTransferProgress.h"
 
@@ -22,8 +23,9 @@ struct Comparison {
     int Files = 0;
 };
 
+// A disc that was not in use turns up to its speed first.
 bool HasSums(const QString& Dir) {
-    return FileExists(Dir + QLatin1String(SumsName));
+    return FinishAside([Dir] { return FileExists(Dir + QLatin1String(SumsName)); }).get();
 }
 
 Comparison Compare(const QString& Dir) {
@@ -46,8 +48,8 @@ QString Count(int Number) {
 QString Line(const SumsFinding& Found) {
     using Kind = SumsFinding::Kind;
     const char* Is = Found.Is == Kind::Missing   ? "missing: "
-                     : Found.Is == Kind::Changed ? "damaged: "
-                                                 : "unreadable: ";
+                     : Found.Is == Kind::Changed ? "changed: "
+                                                 : "cannot be read: ";
     return QObject::tr(Is) + Found.Path;
 }
 

@@ -46,7 +46,7 @@ QStringList LastDirectories() {
 
 void NoteDirectory(const QString& Dir) {
     QStringList All = LastDirectories();
-    if (All.value(0) == Dir) return;
+    if (All.value(0) == Dir || Dir.contains(u'\n')) return;  // a setting is one line
     All.removeAll(Dir);
     All.prepend(Dir);
     clsSettings Settings = OpenSettings();

@@ -3,6 +3,7 @@
 #include "windows/transfer/TransferForm.h"
 
 #include <QDragEnterEvent>
+#include <QScopedValueRollback>
 
 #include "albums/transfer/SuggestedName.h"
 #include "controls/fields/Icons.h"
@@ -158,17 +159,17 @@ void TransferForm::AlignColumns() {
 }
 
 bool TransferForm::Form_Unload() {
-    if (mTransferring) return false;
+    if (mWork == Work::Transferring) return false;
     CloseOther();
     return true;
 }
 
 void TransferForm::CloseRequested() {
-    if (!mTransferring) Unload();
+    if (mWork != Work::Transferring) Unload();
 }
 
 void TransferForm::UpdateControls() {
-    const bool MayStart = mKind.Exports || !ReadOnlyDB;
+    const bool MayStart = (mKind.Exports || !ReadOnlyDB) && mWork != Work::Transferring;
     for (QWidget* Each :
          QList<QWidget*>{mUi->cmdStart, mUi->chkReplace, mUi->txtAlbumName, mUi->txtSlideShowName})
         Each->setEnabled(MayStart);
@@ -191,19 +192,21 @@ QString TransferForm::Hint() const {
 void TransferForm::Browse() {
     const QString Before = mUi->txtDB->text();
     const QString Path = TheServices().Dialogs->SaveFile(
-        tr(mKind.DirectoryName), (Before.isEmpty() ? Before : WithSeparator(Before)) + Counters,
+        tr(mKind.DirectoryName),
+        (Before.isEmpty() ? Before : WithSeparator(PathIn(*mUi->txtDB))) + Counters,
         tr("NEB Slide Show Databases (%1)|%1|All Files (*.*)|*.*").arg(Counters));
-    if (!Path.isEmpty()) Open(TransferOther::DirectoryMeant(GetFilePath(Path)));
+    if (!Path.isEmpty()) Open(LookAt(GetFilePath(Path)));
 }
 
 void TransferForm::ChooseFolder() {
-    const QString Dir =
-        TheServices().Dialogs->ChooseFolder(tr(mKind.DirectoryName), mUi->txtDB->text());
+    const QString Before = mUi->txtDB->text();
+    const QString Dir = TheServices().Dialogs->ChooseFolder(
+        tr(mKind.DirectoryName), Before.isEmpty() ? Before : PathIn(*mUi->txtDB));
     if (!Dir.isEmpty()) LoadDirectory(Dir);
 }
 
 void TransferForm::LoadDirectory(const QString& Dir) {
-    mUi->txtDB->setText(Dir);
+    PutPath(*mUi->txtDB, Dir);
     LoadNamed();
 }
 
@@ -214,17 +217,32 @@ bool TransferForm::LoadNamed() {
         CloseOther();
         return false;
     }
-    const QString Dir = TransferOther::DirectoryMeant(mUi->txtDB->text());
-    if (!mOther.Is(Dir)) {
-        mUi->txtDB->setText(Dir);
-        if (IsWanted(Dir)) return Open(Dir);
+    const auto Found = LookAt(PathIn(*mUi->txtDB));
+    if (!Found.IsOpen) {
+        PutPath(*mUi->txtDB, Found.Dir);
+        if (IsLoaded() && IsWanted(Found)) return Open(Found);
         CloseOther();
         return false;
     }
-    mUi->txtDB->setText(mOther.Dir());
+    PutPath(*mUi->txtDB, mOther.Dir());
     OtherSide().List(mOther.Engine());
     UpdateControls();
     return true;
+}
+
+TransferOther::Place TransferForm::LookAt(const QString& Path) {
+    const PointerScope Waiting(Pointer::Hourglass);
+    const QScopedValueRollback<Work> Looking(mWork, Work::Looking);
+    return mOther.LookAt(Path, OpenBeside());
+}
+
+QStringList TransferForm::OpenBeside() const {
+    QStringList Dirs;
+    for (const auto& Each : LoadedForms()) {
+        const auto* Other = dynamic_cast<const TransferForm*>(Each.get());
+        if (Other && Other != this && Other->mOther.Foreign()) Dirs << Other->mOther.Dir();
+    }
+    return Dirs;
 }
 
 void TransferForm::TellNoDirectory() {
@@ -233,12 +251,14 @@ void TransferForm::TellNoDirectory() {
 }
 
 bool TransferForm::IsUnread() const {
-    return mUi->txtDB->text() != mOther.Dir();
+    const QString Open = mOther.Dir();
+    if (Open.isEmpty() || mUi->txtDB->text().isEmpty()) return Open != mUi->txtDB->text();
+    return PathIn(*mUi->txtDB) != Open;
 }
 
 // A first export goes to a folder in which there is nothing yet.
-bool TransferForm::IsWanted(const QString& Dir) {
-    if (HoldsDatabase(Dir) || IsSameDatabase(Dir, DBEngine->DBPath())) return true;
+bool TransferForm::IsWanted(const TransferOther::Place& Found) {
+    if (Found.HoldsDatabase || Found.IsOwn) return true;
     const QString NoDatabase =
         QStringLiteral("The specified directory does not hold an NEB Slide Show Database.");
     const QString Title = QStringLiteral("Invalid Directory");
@@ -248,16 +268,21 @@ bool TransferForm::IsWanted(const QString& Dir) {
     return false;
 }
 
-bool TransferForm::Open(const QString& Dir) {
+bool TransferForm::Open(const TransferOther::Place& Found) {
     CloseOther();
-    mUi->txtDB->setText(Dir);
+    PutPath(*mUi->txtDB, Found.Dir);
     using Use = OtherDatabase::Use;
     const auto Opened = [&] {
         const PointerScope Working(Pointer::Hourglass);
-        return mOther.Open(Dir, mKind.Exports ? Use::Destination : Use::Source);
+        const QScopedValueRollback<Work> Looking(mWork, Work::Looking);
+        return mOther.Open(Found, mKind.Exports ? Use::Destination : Use::Source);
     }();
     if (!Tell(Opened)) return false;
-    NoteDirectory(Dir);
+    if (!IsLoaded()) {
+        mOther.Close();
+        return false;
+    }
+    NoteDirectory(Found.Dir);
     OtherSide().List(mOther.Engine());
     UpdateControls();
     return true;
@@ -339,8 +364,7 @@ void TransferForm::keyPressEvent(QKeyEvent* Event) {
 }
 
 void TransferForm::dragEnterEvent(QDragEnterEvent* Event) {
-    if (!mTransferring && !DroppedDirectory(*Event->mimeData()).isEmpty())
-        Event->acceptProposedAction();
+    if (!IsBusy() && !DroppedDirectory(*Event->mimeData()).isEmpty()) Event->acceptProposedAction();
 }
 
 // A question waits until the drag is over, so that its source is not held up.

@@ -36,7 +36,7 @@ class TransferForm : public Form, public ChangeReceiver {
 
     void Form_Load() override;
     bool Form_Unload() override;
-    bool IsBusy() const override { return mTransferring; }
+    bool IsBusy() const override { return mWork != Work::None; }
     void CloseRequested() override;
     void keyPressEvent(QKeyEvent* Event) override;
     void dragEnterEvent(QDragEnterEvent* Event) override;
@@ -63,8 +63,10 @@ class TransferForm : public Form, public ChangeReceiver {
     void LoadDirectory(const QString& Dir);
     bool LoadNamed();
     bool IsUnread() const;
-    bool IsWanted(const QString& Dir);
-    bool Open(const QString& Dir);
+    TransferOther::Place LookAt(const QString& Path);
+    QStringList OpenBeside() const;
+    bool IsWanted(const TransferOther::Place& Found);
+    bool Open(const TransferOther::Place& Found);
     void CloseOther();
     void TellNoDirectory();
 
@@ -97,13 +99,16 @@ class TransferForm : public Form, public ChangeReceiver {
     bool IsReady();
     bool IsSourceMeant();
     bool HasChoices();
+    std::optional<QString> RunToTheEnd();
     std::optional<TransferResult> Run();
     TransferResult Transfer(const TransferDesk& Desk);
-    TransferDesk DeskOf(frmTransferProgress& Bar) const;
+    TransferDesk DeskOf(frmTransferProgress& Bar);
     void SetTransferring(bool Does);
     void TellFailure(const TransferResult& Result);
     void RereadOther();
     void Finish(TransferResult& Result);
+    void FinishUnfinished();
+    void ForgetThumbnails() const;
     void FinishOther(const TransferResult& Result);
     QString DoneText(const TransferResult& Result) const;
     void Close() { Unload(); }
@@ -112,7 +117,7 @@ class TransferForm : public Form, public ChangeReceiver {
     std::unique_ptr<Ui::TransferForm> mUi;
     TransferSide mSrc, mDst;
     TransferOther mOther;
-    bool mTransferring = false;
+    enum class Work { None, Looking, Transferring } mWork = Work::None;
 };
 
 }  // namespace neb

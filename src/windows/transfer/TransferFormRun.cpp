@@ -63,13 +63,29 @@ void TransferForm::Remember(const TransferSide& Of, const std::shared_ptr<Viewer
 
 void TransferForm::Start() {
     if (!IsReady()) return;
+    const auto Notice = RunToTheEnd();
+    if (!Notice) return;
+    Unload();
+    if (!Notice->isEmpty()) ShowNotice(*Notice);
+}
+
+// What there is to be said when it is over and the window can go. Until then nothing else begins,
+// and the other database stays open.
+std::optional<QString> TransferForm::RunToTheEnd() {
+    const QPointer<QWidget> Focus = focusWidget();
+    SetTransferring(true);
+    const auto Over = qScopeGuard([this, Focus] {
+        SetTransferring(false);
+        if (Focus) Focus->setFocus();
+    });
     auto Result = Run();
-    if (!Result)
-        Unload();
-    else if (*Result)
+    if (!Result) return QString();
+    if (*Result) {
         Finish(*Result);
-    else
-        TellFailure(*Result);
+        return DoneText(*Result);
+    }
+    TellFailure(*Result);
+    return std::nullopt;
 }
 
 bool TransferForm::IsReady() {
@@ -104,12 +120,6 @@ bool TransferForm::HasChoices() {
 // Nothing after a box: it is done, and waits for the next opening of its destination.
 std::optional<TransferResult> TransferForm::Run() {
     const PointerScope Working(Pointer::Hourglass);
-    const QPointer<QWidget> Focus = focusWidget();
-    SetTransferring(true);
-    const auto Over = qScopeGuard([this, Focus] {
-        SetTransferring(false);
-        if (Focus) Focus->setFocus();
-    });
     TransferResult Result;
     const auto Bar = NewForm<frmTransferProgress>();
     Bar->setWindowTitle(tr(mKind.Running));
@@ -118,6 +128,7 @@ std::optional<TransferResult> TransferForm::Run() {
     } catch (const Fault& Problem) {
         Result.Boxes = {Failed(Problem.Text())};
         if (Problem.Number() == TransferUnfinished) {
+            FinishUnfinished();
             ShowBox(NotYetCompleted(Problem.Text()));
             return std::nullopt;
         }
@@ -126,14 +137,18 @@ std::optional<TransferResult> TransferForm::Run() {
 }
 
 void TransferForm::SetTransferring(bool Does) {
-    mTransferring = Does;
+    mWork = Does ? Work::Transferring : Work::None;
     for (QWidget* Each : QList<QWidget*>{mUi->grpFrom, mUi->grpTo, mUi->cmdStart, mUi->cmdCancel})
         Each->setEnabled(!Does);
     if (!Does) UpdateControls();
 }
 
-TransferDesk TransferForm::DeskOf(frmTransferProgress& Bar) const {
-    return {.Progress = [&Bar](const TransferProgress& Now) { return Bar.Show(Now); },
+TransferDesk TransferForm::DeskOf(frmTransferProgress& Bar) {
+    return {.Progress =
+                [this, &Bar](const TransferProgress& Now) {
+                    if (Now.At == TransferProgress::Stage::Writing) ForgetThumbnails();
+                    return Bar.Show(Now);
+                },
             .GoOnWithout =
                 [this](const QStringList& Missing) {
                     return AskGoOnWithout(Missing, mSrc.Engine()->DBPath());
@@ -164,7 +179,8 @@ void TransferForm::TellFailure(const TransferResult& Result) {
 void TransferForm::RereadOther() {
     try {
         const PointerScope Working(Pointer::Hourglass);
-        mOther.Foreign()->Reread();
+        const auto Held = mOther.Foreign();
+        Held->Reread();
         ListOtherAgain();
     } catch (const Fault& Problem) {
         ShowBox(Failed(Problem.Text()));
@@ -172,17 +188,26 @@ void TransferForm::RereadOther() {
     }
 }
 
+void TransferForm::Finish(TransferResult& Result) {
+    mOther.KeepFolders();
+    ForgetThumbnails();
+    if (mKind.Exports && mOther.Foreign()) FinishOther(Result);
+    for (Announcement& Each : Result.Changes) Each.Now();
+}
+
+// It is done all the same; the other windows have been told.
+void TransferForm::FinishUnfinished() {
+    mOther.KeepFolders();
+    ForgetThumbnails();
+    if (mKind.Exports) mOther.RefillViewers(mDst.AlbumID());
+}
+
 // The thumbnails of an album that was there are of slides that may be gone: whoever is told of the
 // change shall not find them.
-void TransferForm::Finish(TransferResult& Result) {
-    if (mKind.Exports && mOther.Foreign())
-        FinishOther(Result);
-    else if (!mKind.OfShows && !mDst.IsNewAlbum() && ImageBuffer)
-        ImageBuffer->ClearAlbum(Result.DstAlbumID);
-    for (Announcement& Each : Result.Changes) Each.Now();
-    const QString Text = DoneText(Result);
-    Unload();
-    ShowNotice(Text);
+void TransferForm::ForgetThumbnails() const {
+    const bool IsForeign = mKind.Exports && mOther.Foreign();
+    if (!IsForeign && !mKind.OfShows && !mDst.IsNewAlbum() && ImageBuffer)
+        ImageBuffer->ClearAlbum(mDst.AlbumID());
 }
 
 // What cannot be written to its end now is in the journal, and comes to its end by itself.
@@ -199,9 +224,10 @@ void TransferForm::FinishOther(const TransferResult& Result) {
 }
 
 QString TransferForm::DoneText(const TransferResult& Result) const {
-    QString What = Count(Result.Slides, tr("slide"), tr("slides"));
+    QString What = Count(mKind.OfShows ? Result.Places : Result.Slides, tr("slide"), tr("slides"));
     if (!mKind.OfShows)
         What += QStringLiteral(", ") + Count(Result.Shows, tr("slide show"), tr("slide shows"));
+    What += TextOfLeftOut(Result.LeftOut);
     const QLineEdit& Name = mKind.OfShows ? *mUi->txtSlideShowName : *mUi->txtAlbumName;
     return tr(mKind.Done).arg(ConvertQuotes(Name.text()), What);
 }

@@ -1,23 +1,60 @@
 #include "windows/transfer/TransferOther.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "settings/modNEBSlideShow.h"
+#include "support/files/modHostFiles.h"
+#include "support/modFUFL.h"
+#include "support/work/WorkAside.h"
 #include "windows/transfer/ViewerForm.h"
-#include "windows/transfer/modTransferAsks.h"
 
 namespace neb {
-QString TransferOther::DirectoryMeant(const QString& Typed) {
-    return DatabaseIn(PathMeant(Typed));
+namespace {
+
+QStringList FoldersNotThere(const QString& Dir) {
+    QStringList All;
+    for (QString Each = Dir; !Each.isEmpty() && !FolderExists(Each); Each = GetParentDir(Each))
+        All << Each;
+    return All;
 }
 
-Answer<> TransferOther::Open(const QString& Dir, OtherDatabase::Use For) {
+}  // namespace
+
+TransferOther::Place TransferOther::LookAt(const QString& Path, const QStringList& Beside) const {
+    return FinishAside([Path, Beside, Open = mDir, Own = DBEngine->DBPath()] {
+               Place Found{.Dir = DatabaseIn(Path)};
+               const auto IsFound = [&](const QString& Dir) {
+                   return !Dir.isEmpty() && IsSameDatabase(Dir, Found.Dir);
+               };
+               Found.IsOpen = IsFound(Open);
+               Found.IsOpenBeside = std::any_of(Beside.begin(), Beside.end(), IsFound);
+               Found.IsOwn = IsFound(Own);
+               Found.HoldsDatabase = HoldsDatabase(Found.Dir);
+               Found.NotThere = FoldersNotThere(Found.Dir);
+               return Found;
+           })
+        .get();
+}
+
+Answer<> TransferOther::Open(const Place& Found, OtherDatabase::Use For) {
     Close();
-    mIsOwn = IsSameDatabase(Dir, DBEngine->DBPath());
+    mIsOwn = Found.IsOwn;
     if (!mIsOwn) {
-        auto Opened = OtherDatabase::Open(Dir, For);
-        if (!Opened) return Answer<>::Because(Opened);
+        if (Found.IsOpenBeside)
+            return Refuse(QStringLiteral("The database in\n%1\nis open in another window here. "
+                                         "Close that window and try again.")
+                              .arg(Found.Dir),
+                          QStringLiteral("Database In Use"));
+        if (For == OtherDatabase::Use::Destination) mMadeFolders = Found.NotThere;
+        auto Opened = OtherDatabase::Open(Found.Dir, For);
+        if (!Opened) {
+            TakeBackFolders();
+            return Answer<>::Because(Opened);
+        }
         mForeign = *Opened;
     }
-    mDir = Dir;
+    mDir = Found.Dir;
     return Done{};
 }
 
@@ -27,15 +64,16 @@ void TransferOther::Close() {
     mIsOwn = false;
     mDir.clear();
     mViewers.clear();
+    TakeBackFolders();
+}
+
+void TransferOther::TakeBackFolders() {
+    for (const QString& Each : std::exchange(mMadeFolders, {})) DeleteFolder(Each);
 }
 
 clsDBEngine* TransferOther::Engine() const {
     if (mIsOwn) return DBEngine;
     return mForeign ? &mForeign->Engine() : nullptr;
-}
-
-bool TransferOther::Is(const QString& Dir) const {
-    return !mDir.isEmpty() && IsSameDatabase(Dir, mDir);
 }
 
 void TransferOther::RefillViewers(std::int32_t AlbumID) {

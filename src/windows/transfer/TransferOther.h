@@ -13,30 +13,42 @@ class ViewerForm;
 
 class TransferOther {
   public:
-    // What a user means by what he has typed or pasted: a path, "~" for his home, an address of
-    // "file:"; a documents folder is the database below it. With closing separator.
-    static QString DirectoryMeant(const QString& Typed);
+    // What is found where a path leads.
+    struct Place {
+        QString Dir;  // of the database that is meant: for a documents folder the one below it
+        bool IsOpen = false;         // here
+        bool IsOpenBeside = false;   // in one of the other windows
+        bool IsOwn = false;          // the program's
+        bool HoldsDatabase = false;  // no matter whose
+        QStringList NotThere = {};   // the folders that opening will make, the innermost first
+    };
+    // Looks beside the caller, whose window goes on painting: a stick that sleeps takes seconds.
+    // Beside: the directories that other windows have open. Throws Fault.
+    Place LookAt(const QString& Path, const QStringList& Beside) const;
 
-    // Lets go of what was open and opens the directory's database. Refused or a Fault: none is
-    // open.
-    Answer<> Open(const QString& Dir, OtherDatabase::Use For);
+    // Lets go of what was open and opens what was found. Refused or a Fault: none is open.
+    Answer<> Open(const Place& Found, OtherDatabase::Use For);
+    // Folders that were made for the opening, and in which there is nothing, go again.
     void Close();
+    void KeepFolders() { mMadeFolders.clear(); }
 
     clsDBEngine* Engine() const;  // null: none is open
     // Set when it is not the program's own.
     const std::shared_ptr<OtherDatabase>& Foreign() const { return mForeign; }
     bool IsOwn() const { return mIsOwn; }
     const QString& Dir() const { return mDir; }  // as it was opened; empty: none is open
-    bool Is(const QString& Dir) const;           // whether it is this directory's that is open
 
     // Those that still look at an album of it are filled anew.
     void Remember(const std::shared_ptr<ViewerForm>& Viewer) { mViewers.push_back(Viewer); }
     void RefillViewers(std::int32_t AlbumID);
 
   private:
+    void TakeBackFolders();
+
     std::shared_ptr<OtherDatabase> mForeign;
     bool mIsOwn = false;
     QString mDir;
+    QStringList mMadeFolders;  // the innermost first
     std::vector<std::weak_ptr<ViewerForm>> mViewers;
 };
 

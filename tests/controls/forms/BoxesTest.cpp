@@ -63,6 +63,23 @@ TEST_F(Boxes, EnterAnswersAsTheQuestionWants) {
     EXPECT_EQ(BoxAnswer::No, Answer(Request, Enter));
 }
 
+TEST_F(Boxes, DetailsOpenAtAButtonAndChangeNoAnswer) {
+    BoxRequest Request = YesNo;
+    Request.Default = BoxAnswer::No;
+    Request.Details = QStringLiteral("a line\n").repeated(2000);
+    const auto Given = Answer(Request, [&](QMessageBox& Box) {
+        EXPECT_EQ(Request.Details, Box.detailedText());
+        for (QAbstractButton* Each : Box.buttons())
+            if (Box.buttonRole(Each) == QMessageBox::ActionRole) Each->click();
+        EXPECT_TRUE(Box.isVisible());
+        EXPECT_LE(Box.height(), 600);
+        QTest::keyClick(&Box, Qt::Key_Return);
+    });
+    EXPECT_EQ(BoxAnswer::No, Given);
+    EXPECT_EQ(BoxAnswer::No,
+              Answer(Request, [](QMessageBox& Box) { QTest::keyClick(&Box, Qt::Key_Escape); }));
+}
+
 TEST_F(Boxes, AMessageThatIsTooLongScrollsInAWindow) {
     for (const QString& Long : {QStringLiteral("A line.\n").repeated(30).trimmed(),
                                 QStringLiteral("word ").repeated(600).trimmed()}) {

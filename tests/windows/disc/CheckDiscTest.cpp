@@ -39,7 +39,7 @@ TEST_F(DiscCheck, AGoodOneIsToldWithTheNumberOfItsFiles) {
     EXPECT_EQ(0u, Check().find("All is well"));
 }
 
-TEST_F(DiscCheck, DamagedAndMissingFilesAreListed) {
+TEST_F(DiscCheck, ChangedAndMissingFilesAreListedInTheWordsOfTheCommandLine) {
     WriteDisc();
     QByteArray Bytes = ReadFile(Dir + u"Albums/1/Slides/00000002.jpg"_s);
     Bytes[Bytes.size() / 2] = static_cast<char>(Bytes[Bytes.size() / 2] ^ 1);
@@ -47,7 +47,7 @@ TEST_F(DiscCheck, DamagedAndMissingFilesAreListed) {
     DeleteFile(Dir + u"README.txt"_s);
     EXPECT_EQ(
         u"2 of %1 files in\n%2\nare not as they were written.\n\n"
-        "damaged: Albums/1/Slides/00000002.jpg\nmissing: README.txt"_s.arg(FilesListed())
+        "changed: Albums/1/Slides/00000002.jpg\nmissing: README.txt"_s.arg(FilesListed())
             .arg(Dir)
             .toStdString(),
         Check());

@@ -111,6 +111,33 @@ TEST_F(DiscWindow, WritesWhatIsChosenAndTellsHowItIsChecked) {
         EXPECT_TRUE(LastBox().Text.contains(Part)) << LastBox().Text.toStdString();
 }
 
+TEST_F(DiscWindow, AFolderMayHaveAnyName) {
+    for (const QString& Name : {u"50%1 %2"_s, u" two\nlines "_s}) {
+        const QString Named = Out / Name + u'/';
+        const auto Next = NewForm<frmDiscFolder>();
+        ShowActive(*Next);
+        In<QTreeWidget>(*Next, "trvAlbums").topLevelItem(1)->setCheckState(0, Qt::Checked);
+        Dialog.Answer = Named.chopped(1);
+        Press(*Next, "cmdBrowse");
+        Press(*Next, "cmdWrite");
+        EXPECT_FALSE(Next->IsLoaded());
+        EXPECT_EQ(0, Sha256Sum(Named));
+        EXPECT_TRUE(LastBox().Text.startsWith(
+            u"The folder\n"_s + Named + u"\nis ready: 1 album, 0 slide shows, 1 slide, in "_s))
+            << LastBox().Text.toStdString();
+    }
+}
+
+TEST_F(DiscWindow, FilesThatWereLeftOutAreTold) {
+    DeleteFile(SlidesFolder(Own.Path(), Source.Sea) + FileStem(4) + u".jpg"_s);
+    Tick(u"Sea"_s);
+    TypeFolder(Dir);
+    Said.Answer = BoxAnswer::Yes;
+    Press(*Window, "cmdWrite");
+    EXPECT_FALSE(Window->IsLoaded());
+    EXPECT_TRUE(LastBox().Text.contains(u", 1 file left out.\n"_s)) << LastBox().Text.toStdString();
+}
+
 TEST_F(DiscWindow, TellsWhatIsMissing) {
     Press(*Window, "cmdWrite");
     EXPECT_EQ(u"You must first select the albums or slide shows to write."_s, LastBox().Text);
