@@ -27,7 +27,7 @@ struct Steps {
     QString Typed = {}, TypedShow = {};        // over those; null: left alone
 };
 
-class CombinationsRig : public TransferRig {
+class CombinationsRig : private TempInMemory, public TransferRig {
   protected:
     CombinationsRig() {
         DBEngine = &Mine.Engine;
