@@ -1,6 +1,7 @@
 // Windows that stand open on an album while a transfer brings something into it: each shows what is
 // there then, keeps what the user had chosen where it is still there, and what was typed.
 #include "FollowedRig.h"
+#include "harness/Heartbeat.h"
 #include "windows/show/PreferencesRig.h"
 
 namespace neb {
@@ -176,6 +177,26 @@ TEST_F(TransferFollowed, WhatWasTypedForSlidesThatHaveGoneHarmsNoneOfThoseThatHa
     Boxes.Expect(u"You must select atleast 1 slide for the Slide Show."_s);
     Press(*Shows, "cmdSave");
     EXPECT_EQ("Park: lamp moon [Winter 1]", Content(Engine));
+}
+
+TEST_F(TransferFollowed, TwoThousandSlidesAreFollowedAndNothingStandsStill) {
+    for (int I = 0; I < 2000; ++I) AddSlide(Other, u"x"_s, Qt::blue);
+    Other.FinalizeDB();
+    OpenAll();
+    const auto Window = OpenNew<frmAlbumImport>();
+    Import(*Window);
+    Heartbeat Beats;
+    Press(*Window, "cmdImport");
+    const double Longest = Beats.LongestStandstill();
+    EXPECT_FALSE(Window->IsLoaded());
+    EXPECT_GT(Beats.Beats(), 20);
+    EXPECT_LT(Longest, 100);
+    EXPECT_EQ(1 + 2005, In<QComboBox>(*Slides, "cboSlides").count());
+    for (const FlexGrid* Each : {&In<FlexGrid>(*Captions, "flxAlbum"), &GridOf(*OfAlbum)}) {
+        ASSERT_EQ(2005, Each->Rows());
+        EXPECT_EQ(u"blue"_s, Colour(Each->CellPicture(2004, ColPic)));
+    }
+    EXPECT_EQ(2003, In<FlexGrid>(*Shows, "flxNonSelected").Rows());
 }
 
 class TransferWithPreferences : public FollowedRig {
