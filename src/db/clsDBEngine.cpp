@@ -12,6 +12,7 @@ namespace neb {
 namespace {
 
 constexpr qsizetype MaxAlbumName = 80;
+constexpr std::int32_t MostNumbers = 2'000'000'000;  // behind it they would go round
 
 // The counter goes round at its end rather than stop the program.
 std::int32_t Draw(std::int32_t& Counter) {
@@ -31,10 +32,8 @@ void clsDBEngine::SetProgramPath(const QString& Path) {
 }
 
 void clsDBEngine::InitializeDB(Recovery How) {
-    if (How == Recovery::CarryOut && MayWriteDatabase(mDBPath)) {
-        RecoverDatabase(mDBPath);
+    if (How == Recovery::CarryOut && MayWriteDatabase(mDBPath) && RecoverDatabase(mDBPath))
         return LoadFrom(RecordsInDirectory(mDBPath));
-    }
     RecordImage Image;
     const bool Unfinished = ReadJournal(mDBPath, &Image) == JournalState::Whole;
     LoadFrom(Unfinished ? RecordsInImage(std::move(Image)) : RecordsInDirectory(mDBPath));
@@ -67,11 +66,30 @@ Answer<> clsDBEngine::CheckAlbumName(std::int32_t AlbumID, const QString& AlbumN
     for (const auto& Other : Albums)
         if (Other->AlbumID != AlbumID && Other->AlbumName == AlbumName)
             return Refuse(QStringLiteral("An Album with this name already exists."));
+    return CheckAlbumText(AlbumName);
+}
+
+Answer<> clsDBEngine::CheckAlbumText(const QString& AlbumName) {
     if (AlbumName.trimmed().isEmpty())
         return Refuse(QStringLiteral("You must specify an Album name."));
     if (AlbumName.size() > MaxAlbumName)
         return Refuse(QStringLiteral("Album names must be <= 80 characters long."));
     return Done();
+}
+
+bool clsDBEngine::CountersAreSound() const {
+    const auto IsFree = [](std::int32_t ID, std::int32_t Next) { return ID < Next; };
+    if (std::min({NextAlbumID, NextSlideID, NextSlideShowID}) < 1 ||
+        std::max({NextAlbumID, NextSlideID, NextSlideShowID}) > MostNumbers)
+        return false;
+    for (const auto& Album : Albums) {
+        if (!IsFree(Album->AlbumID, NextAlbumID)) return false;
+        for (const auto& Slide : Album->Slides)
+            if (!IsFree(Slide->SlideID, NextSlideID)) return false;
+        for (const auto& Show : Album->SlideShows)
+            if (!IsFree(Show->SlideShowID, NextSlideShowID)) return false;
+    }
+    return true;
 }
 
 Answer<> clsDBEngine::SaveAlbum(std::int32_t& AlbumID, const QString& AlbumName) {

@@ -42,10 +42,16 @@ class clsDBEngine {
     // Leaves either the old or the new database on the disk, whatever happens (modJournal.h).
     void FinalizeDB();
 
+    // Whether the next numbers are above all that are there: else new pictures and sounds would
+    // take the places of old ones.
+    bool CountersAreSound() const;
+
     // Creates an album (ID 0 or unknown; AlbumID is the new one afterwards) or renames one.
     Answer<> SaveAlbum(std::int32_t& AlbumID, const QString& AlbumName);
     // Whether the album of this ID (0: a new one) may bear this name.
     Answer<> CheckAlbumName(std::int32_t AlbumID, const QString& AlbumName) const;
+    // The part of that which asks for no other album: neither blank nor too long.
+    static Answer<> CheckAlbumText(const QString& AlbumName);
     void LoadAlbumsCombo(ComboList& cboAlbums, bool WithAddOption) const;
     // With an ID gives the name; with ID 0 gives the ID of the first album of that name, case
     // ignored. False, and nothing changed, when there is none.

@@ -68,20 +68,34 @@ std::set<QString> SoundsOfOthers(const clsNEBAlbum& theAlbum, std::int32_t Slide
 Clearing ClearingOf(const clsDBEngine& theDB, const clsNEBAlbum& theAlbum) {
     Clearing All;
     for (const auto& Slide : theAlbum.Slides) All.Slides.push_back(Slide->SlideID);
-    All.Masks = {SoundTracksFolder(theDB.DBPath(), theAlbum.AlbumID) + QStringLiteral("*.*"),
-                 SlidesFolder(theDB.DBPath(), theAlbum.AlbumID) + QStringLiteral("*.*")};
+    All.Folders = {SoundTracksFolder(theDB.DBPath(), theAlbum.AlbumID),
+                   SlidesFolder(theDB.DBPath(), theAlbum.AlbumID)};
     return All;
 }
 
 Clearing ClearingOf(const clsDBEngine& theDB, const clsNEBAlbum& theAlbum,
                     const clsNEBSlideShow& theSlideShow) {
-    Clearing Own{OrphansOf(theAlbum, theSlideShow), {}};
+    Clearing Own{.Slides = OrphansOf(theAlbum, theSlideShow)};
     const QString Sounds = SoundTracksFolder(theDB.DBPath(), theAlbum.AlbumID);
     const QString Slides = SlidesFolder(theDB.DBPath(), theAlbum.AlbumID);
-    for (const QString& Sound : OwnSounds(theAlbum, theSlideShow)) Own.Masks << Sounds + Sound;
-    // a name without a dot goes along
-    for (const std::int32_t SlideID : Own.Slides) Own.Masks << Slides + FileStem(SlideID) + u'*';
+    for (const QString& Sound : OwnSounds(theAlbum, theSlideShow)) Own.Files << Sounds + Sound;
+    for (const std::int32_t SlideID : Own.Slides) Own.Stems << Slides + FileStem(SlideID);
     return Own;
+}
+
+// Behind the number of a slide anything may stand but more of a longer number.
+QStringList FilesOf(const Clearing& What) {
+    QStringList Found;
+    for (const QString& File : What.Files)
+        if (FileExists(File)) Found << File;
+    for (const QString& Folder : What.Folders)
+        for (const QString& Name : ListMask(Folder + QStringLiteral("*.*"))) Found << Folder + Name;
+    for (const QString& Stem : What.Stems) {
+        const qsizetype Length = GetFileName(Stem).size();
+        for (const QString& Name : ListMask(Stem + u'*'))
+            if (Name.size() == Length || !Name[Length].isDigit()) Found << GetFilePath(Stem) + Name;
+    }
+    return Found;
 }
 
 Answer<> ClearAlbumContents(const clsDBEngine& theDB, clsNEBAlbum& theAlbum) {
@@ -89,7 +103,8 @@ Answer<> ClearAlbumContents(const clsDBEngine& theDB, clsNEBAlbum& theAlbum) {
                 [&] {
                     const Clearing All = ClearingOf(theDB, theAlbum);
                     theAlbum.ClearContents();
-                    for (const QString& Mask : All.Masks) DeleteMask(Mask);
+                    for (const QString& Each : All.Folders)
+                        DeleteMask(Each + QStringLiteral("*.*"));
                     return Answer<>(Done());
                 });
 }
@@ -102,7 +117,7 @@ Answer<> ClearSlideShowContents(const clsDBEngine& theDB, clsNEBAlbum& theAlbum,
                     theSlideShow.ClearContents();
                     Answer<> Emptied = DeleteOrphans(theAlbum, Own.Slides, theDB);
                     if (!Emptied) return Emptied;
-                    for (const QString& Mask : Own.Masks) DeleteMask(Mask);
+                    for (const QString& File : FilesOf(Own)) DeleteFile(File);
                     return Emptied;
                 });
 }

@@ -18,9 +18,13 @@ class clsNEBSlideShow;
 // What goes with an album or a show.
 struct Clearing {
     std::vector<std::int32_t> Slides;  // each once, in the show's order; of an album: all
-    QStringList Masks;                 // of the files, full paths
+    QStringList Folders;               // all that lies in them; full paths with closing separator
+    QStringList Stems;                 // of slides: full paths, and how their files begin
+    QStringList Files;                 // full paths
     bool operator==(const Clearing&) const = default;
 };
+// The files that are there of it, full paths. Looks at the disk.
+QStringList FilesOf(const Clearing& What);
 Clearing ClearingOf(const clsDBEngine& theDB, const clsNEBAlbum& theAlbum);
 // The slides that no other show of the album uses, and the sounds that no other one plays.
 Clearing ClearingOf(const clsDBEngine& theDB, const clsNEBAlbum& theAlbum,

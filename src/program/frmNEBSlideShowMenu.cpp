@@ -50,8 +50,9 @@ void frmNEBSlideShow::ShowAsChild(Form& Child) {
     Frame->setAttribute(Qt::WA_DeleteOnClose, false);
     Child.Load();
     if (!Child.IsLoaded()) return;
-    // what its content needs is known now, and may be more than it was designed for
-    Frame->resize(Frame->size().expandedTo(Frame->minimumSizeHint()).boundedTo(mWorkspace->size()));
+    // what its content needs is known now, and may be more than it was designed for, or even more
+    // than there is room for: the area scrolls then
+    Frame->resize(Frame->size().expandedTo(Frame->minimumSizeHint()));
     PositionMDIChild(Child, 1);
     Child.ShowModeless();
 }

@@ -37,10 +37,14 @@ void CheckDatabase(const QString& Dir, Findings& Found, ToolIO& IO) {
     const RecordSource Source = CheckJournal(Dir, Found);
     if (HasRecordFiles(Source)) CheckRecords(Source, Found);
     // Pictures that still wait in Temp would all be called missing.
-    if (ReadJournal(Dir) == JournalState::Whole && HasStagedFiles(Dir))
+    if (!CommittedPlaces(Dir).empty())
         return Found.Add(
             QStringLiteral("the files of a transfer are not all in their places yet; "
                            "the next start of the program will put them there"));
+    if (HasStagedFiles(Dir))
+        Found.Add(
+            QStringLiteral("a transfer was cut off; the next start of the program will remove "
+                           "what it has left in Temp"));
     clsDBEngine Engine;
     Engine.SetDBPath(Dir);
     Engine.LoadFrom(Source);

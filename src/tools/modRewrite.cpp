@@ -1,6 +1,5 @@
 #include "tools/modRewrite.h"
 
-#include "albums/transfer/OtherDatabase.h"
 #include "db/clsDBEngine.h"
 #include "db/modDatabaseLock.h"
 #include "db/records/modJournal.h"

@@ -163,6 +163,20 @@ TEST_F(DiscFolder, AFolderThatIsNotEmptyIsRefusedByNameAndLeftAlone) {
     EXPECT_EQ("", Differences(Before, Everything(Out.Path())));
 }
 
+// The program was killed, or the power failed, while it was being written.
+TEST_F(DiscFolder, OneThatWasNotFinishedIsBegunAnew) {
+    MakeDirs(Dir + u"Albums/1/Slides"_s);
+    WriteFile(Dir + u"Albums/1/Slides/00000009.JPG"_s, "half");
+    WriteFile(Dir + u"NextIDs.dat"_s, "old");
+    WriteFile(Dir + u"Sums.sha256.new"_s, {});
+    ASSERT_TRUE(Write(Source.All()));
+    EXPECT_FALSE(FileExists(Dir + u"Albums/1/Slides/00000009.JPG"_s));
+    EXPECT_FALSE(FileExists(Dir + u"Sums.sha256.new"_s));
+    EXPECT_EQ(0, Sha256Sum(Dir));
+    WriteFile(Dir + u"Sums.sha256.new"_s, {});
+    ExpectRefused(Write(Source.All()), u"The folder "_s + Dir.chopped(1) + u" is not empty."_s);
+}
+
 TEST_F(DiscFolder, AFileOrAPlaceAmongTheAlbumsIsRefused) {
     WriteFile(Out / u"file"_s, "x");
     ExpectRefused(WriteDiscFolder(Source.Engine, Source.All(), Out / u"file"_s),

@@ -182,6 +182,25 @@ TEST_F(TransferToolTest, AnAlbumArrivesWholeInAnEmptyDirectory) {
     EXPECT_EQ(Differences(Before, Contents(Src())), "");
 }
 
+// As one types it, standing beside it.
+TEST_F(TransferToolTest, ADirectoryMayBeNamedFromWhereOneStands) {
+    const QString Stood = QDir::currentPath();
+    QDir::setCurrent(Dir.Path());
+    MakeDirs(u"fresh"_s);
+    const Outcome Done = Tool({u"transfer"_s, u"src"_s, u"fresh"_s, u"--album"_s, u"Holiday"_s});
+    QDir::setCurrent(Stood);
+    EXPECT_EQ(ExitDone, Done.Code) << Done.Err;
+    EXPECT_EQ(Told(Dir / u"fresh/"_s, u"Holiday"_s), Slides + Shows);
+}
+
+TEST_F(TransferToolTest, WhatATransferThatWasCutOffHasLeftIsNamedByTheCheck) {
+    MakeDirs(Src() + u"Temp/Transfer"_s);
+    WriteFile(Src() + u"Temp/Transfer/0"_s, "half");
+    const Outcome Found = Tool({u"check"_s, Src()});
+    EXPECT_EQ(ExitFound, Found.Code);
+    EXPECT_NE(std::string::npos, Found.Out.find("a transfer was cut off")) << Found.Out;
+}
+
 TEST_F(TransferToolTest, ToAnAlbumThatIsThereItIsAdded) {
     FillDestination(u"HOLIDAY"_s, u"Sea"_s);
     EXPECT_EQ(Transfer().Out, "Album \"HOLIDAY\": 3 slides, 2 slide shows transferred.\n");

@@ -7,6 +7,7 @@
 #include "albums/transfer/FileStage.h"
 #include "albums/transfer/FolderInTheMaking.h"
 #include "albums/transfer/OtherDatabase.h"
+#include "db/modDatabaseLock.h"
 #include "db/records/modRecordFiles.h"
 #include "settings/SettingKeys.h"
 #include "settings/modNEBSlideShow.h"
@@ -89,8 +90,8 @@ bool DiscWriting::LookAhead() {
 bool DiscWriting::LookAt(const clsNEBAlbum& Album, QStringList& Missing) {
     TransferPlan Plan;
     TransferPlanner(mFrom, Album.AlbumID, Plan).AddAlbum(Album);
-    const auto Looked = LookForFiles(
-        Plan.Files, {}, mDir, [this](const TransferProgress&) { return mProgress.Looking(); });
+    const auto Looked =
+        LookForFiles(Plan, mDir, [this](const TransferProgress&) { return mProgress.Looking(); });
     if (!Looked) return false;
     if (Looked->Obstacle) throw *Looked->Obstacle;
     for (const size_t Which : Looked->Missing) Missing << Plan.Files[Which].From;
@@ -210,6 +211,8 @@ std::optional<BoxRequest> WhyNot(const QString& Dir, const QString& DBPath) {
     bool Readable = true;
     const bool IsEmpty = ListDir(Dir, &Readable).empty();
     if (!FolderExists(Dir) || (IsEmpty && Readable)) return std::nullopt;
+    if (FolderInTheMaking::IsUnfinished(Dir) && InstanceLock(DatabaseLockPath(Dir)).TryLock())
+        return std::nullopt;
     return Refuse(QStringLiteral("The folder %1 is not empty.\nChoose an empty folder, or give the "
                                  "name of one that is to be made.")
                       .arg(Dir.chopped(1)),

@@ -2,7 +2,9 @@
 
 #include <atomic>
 
+#include "db/modAlbumFiles.h"
 #include "db/records/modJournal.h"
+#include "support/Services.h"
 #include "support/files/modHostFiles.h"
 #include "support/files/modHostFilesCopy.h"
 #include "support/files/modHostFilesMask.h"
@@ -14,63 +16,97 @@ namespace neb {
 namespace {
 
 constexpr int PollMs = 20;
+constexpr int PatienceMs = 10000;  // with what was stopped and does not end
 // Copies wait in memory for the disk; so much of it and no more, that the progress is true and a
 // slow stick can be stopped.
 constexpr qint64 BytesUnflushed = qint64{128} << 20;
 
-// Waits for the work, asking all the while; false when it was stopped. It has ended in any case.
+// Waits for the work, asking all the while; false when it was stopped. Then it has ended, or it
+// hangs on a medium that does not answer, and is left to itself: what it works with it owns.
 template <class Result, class Tell>
 bool WaitFor(Job<Result>& Work, const Tell& GoOn) {
-    bool GoesOn = true;
-    try {
-        while (!Work.Wait(PollMs)) {
-            GoesOn = GoOn() && GoesOn;
-            if (!GoesOn) Work.Cancel();
-        }
-        return GoesOn && GoOn();
-    } catch (...) {
+    const auto LetEnd = [&] {
         Work.Cancel();
-        while (!Work.Wait(PollMs)) continue;
+        for (int Waited = 0; Waited < PatienceMs && !Work.Wait(PollMs); Waited += PollMs)
+            DoEventsButInput();
+        return false;
+    };
+    try {
+        while (!Work.Wait(PollMs))
+            if (!GoOn()) return LetEnd();
+        return GoOn();
+    } catch (...) {
+        LetEnd();
         throw;
     }
 }
 
-// Where nothing can be put while the records of it can be written, nothing is to begin.
-std::optional<Fault> ObstacleTo(const std::vector<FoundFile>& Files, const QString& DBPath) {
-    std::set<QString> Folders;
-    for (const FoundFile& Each : Files) {
-        if (FolderExists(DBPath + Each.To))
-            return Fault(QStringLiteral("There is a folder in the place of a file."),
-                         DBPath + Each.To);
-        Folders.insert(GetFilePath(DBPath + Each.To));
+// What the thread that looks works with.
+struct Wanted {
+    std::vector<FileToCopy> Files;
+    Clearing Gone;
+    QString SrcDBPath, DstDBPath;
+    QString SrcAlbum, DstAlbum;  // folders
+    bool IsWithinAlbum;
+};
+
+// A link can make two albums one: what is to replace would be what is replaced.
+bool IsLinkToSource(const Wanted& What) {
+    if (What.IsWithinAlbum) return false;
+    for (const char* Folder : {"", "Slides/", "SoundTracks/"}) {
+        const QString Name = QLatin1String(Folder);
+        if (IsSameDir(What.SrcAlbum + Name, What.DstAlbum + Name)) return true;
     }
-    for (QString Folder : Folders) {
-        while (!FolderExists(Folder) && Folder.size() > DBPath.size())
-            Folder = GetParentDir(Folder);
-        if (!MayWriteIn(Folder))
-            return Fault(QStringLiteral("You have no permission to write in the folder."), Folder);
-    }
-    return std::nullopt;
+    return false;
 }
 
-FilesLookedFor Look(const std::vector<FileToCopy>& Files, const QStringList& OldMasks,
-                    const QString& DBPath, const JobState& State) {
+// The folder in which something will be made: the last one that is there on the way to it.
+QString FolderAt(QString Folder, const QString& DBPath) {
+    while (!FolderExists(Folder) && Folder.size() > DBPath.size()) Folder = GetParentDir(Folder);
+    return Folder.size() > DBPath.size() ? Folder : DBPath;
+}
+
+// Where nothing can be put while the records of it can be written, nothing is to begin. The places
+// may lie on another disk than the database.
+void LookAtPlaces(const Wanted& What, FilesLookedFor& Looked) {
+    Looked.Room = FreeSpace(What.DstDBPath);
+    if (IsLinkToSource(What))
+        Looked.Obstacle = Fault(
+            QStringLiteral("The album at the destination is a link to the album at the source."),
+            What.DstAlbum);
+    std::set<QString> Folders;
+    for (const FoundFile& Each : Looked.Found) {
+        const QString Place = What.DstDBPath + Each.To;
+        if (FolderExists(Place))
+            Looked.Obstacle =
+                Fault(QStringLiteral("There is a folder in the place of a file."), Place);
+        Folders.insert(GetFilePath(Place));
+    }
+    for (const QString& Each : Folders) {
+        const QString Folder = FolderAt(Each, What.DstDBPath);
+        Looked.Room = std::min(Looked.Room, FreeSpace(Folder));
+        if (!MayWriteIn(Folder))
+            Looked.Obstacle =
+                Fault(QStringLiteral("You have no permission to write in the folder."), Folder);
+    }
+}
+
+FilesLookedFor Look(const Wanted& What, const JobState& State) {
     FilesLookedFor Looked;
-    Looked.Room = FreeSpace(DBPath);
-    for (size_t Which = 0; Which < Files.size() && !State.Stop; ++Which) {
-        const FileToCopy& File = Files[Which];
-        const QString From = ResolvePath(File.From);
+    const auto Staged = CommittedPlaces(What.SrcDBPath);
+    for (size_t Which = 0; Which < What.Files.size() && !State.Stop; ++Which) {
+        const FileToCopy& File = What.Files[Which];
+        const auto Waiting = Staged.find(File.From.toUpper());
+        const QString From = ResolvePath(Waiting != Staged.end() ? Waiting->second : File.From);
         if (const auto Facts = ReadableFileFacts(From))
             Looked.Found.push_back(
                 {From, File.To, Facts->Size, File.Is == FileToCopy::Kind::Picture});
         else if (File.Is != FileToCopy::Kind::Thumbnail)
             Looked.Missing.push_back(Which);
     }
-    for (const QString& Mask : OldMasks) {
-        if (State.Stop) break;
-        for (const QString& Name : ListMask(Mask)) Looked.Old << GetFilePath(Mask) + Name;
-    }
-    Looked.Obstacle = ObstacleTo(Looked.Found, DBPath);
+    if (State.Stop) return Looked;
+    Looked.Old = FilesOf(What.Gone);
+    LookAtPlaces(What, Looked);
     return Looked;
 }
 
@@ -123,12 +159,16 @@ TransferProgress AllOf(const std::vector<FoundFile>& Files) {
     return All;
 }
 
-std::optional<FilesLookedFor> LookForFiles(const std::vector<FileToCopy>& Files,
-                                           const QStringList& OldMasks, const QString& DBPath,
+std::optional<FilesLookedFor> LookForFiles(const TransferPlan& Plan, const QString& DstDBPath,
                                            const TransferGoOn& GoOn) {
-    Job<FilesLookedFor> Work([Files, OldMasks, DBPath](JobState& State) {
-        return Look(Files, OldMasks, DBPath, State);
-    });
+    const Wanted What{Plan.Files,
+                      Plan.Gone,
+                      Plan.SrcDBPath,
+                      DstDBPath,
+                      AlbumFolder(Plan.SrcDBPath, Plan.SrcAlbumID),
+                      AlbumFolder(DstDBPath, Plan.AlbumID),
+                      Plan.IsWithinAlbum};
+    Job<FilesLookedFor> Work([What](JobState& State) { return Look(What, State); });
     if (!WaitFor(Work, [&] { return GoOn({}); })) return std::nullopt;
     return Work.Take();
 }
@@ -140,10 +180,17 @@ FileStage::FileStage(const QString& DBPath, const std::vector<FoundFile>& Files)
             mMadeFolders.push_back(DBPath + QLatin1String(Folder));
 }
 
+// Gigabytes take their time to go.
 FileStage::~FileStage() {
     if (!mIsOurs) return;
-    DropStagedFiles(mDBPath);  // what is left of it, beside Copy
-    for (const QString& Folder : mMadeFolders) DeleteFolder(Folder);
+    try {
+        FinishAside([Path = mDBPath, Folders = mMadeFolders] {
+            DropStagedFiles(Path);
+            for (const QString& Folder : Folders) DeleteFolder(Folder);
+        }).wait();
+    } catch (...) {
+        return;  // of a window that was painted meanwhile; the files go at the next opening
+    }
 }
 
 bool FileStage::Copy(const TransferGoOn& GoOn) {
@@ -158,8 +205,6 @@ bool FileStage::Copy(const TransferGoOn& GoOn) {
         Now.Bytes = SoFar->Bytes;
         return GoOn(Now);
     });
-    // gigabytes take their time to go
-    if (!Whole) FinishAside([Path = mDBPath] { DropStagedFiles(Path); }).get();
     if (Whole) Work.Take();
     return Whole;
 }

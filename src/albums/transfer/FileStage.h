@@ -31,9 +31,9 @@ struct FilesLookedFor {
 };
 // What there is to do before anything is done.
 TransferProgress AllOf(const std::vector<FoundFile>& Files);
-// Nothing when it was stopped.
-std::optional<FilesLookedFor> LookForFiles(const std::vector<FileToCopy>& Files,
-                                           const QStringList& OldMasks, const QString& DBPath,
+// Looks in the source, and at the places in the destination, beside the caller. Nothing when it was
+// stopped.
+std::optional<FilesLookedFor> LookForFiles(const TransferPlan& Plan, const QString& DstDBPath,
                                            const TransferGoOn& GoOn);
 
 class FileStage {

@@ -1,6 +1,7 @@
 #include "albums/transfer/FolderInTheMaking.h"
 
 #include "support/Fault.h"
+#include "support/files/CheckSums.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
 #include "support/work/WorkAside.h"
@@ -15,6 +16,10 @@ QString TopOfMissing(const QString& Dir) {
     return Top;
 }
 
+QString MarkOf(const QString& Dir) {
+    return Dir + QLatin1String(SumsName) + QStringLiteral(".new");
+}
+
 void Empty(const QString& Dir, const QString& Made) {
     if (!Made.isEmpty()) return DeleteTree(Made);
     for (const DirEntry& Each : ListDir(Dir))
@@ -27,10 +32,16 @@ void Empty(const QString& Dir, const QString& Made) {
 FolderInTheMaking::FolderInTheMaking(const QString& Dir) : mDir(Dir), mMade(TopOfMissing(Dir)) {
     try {
         MakeDirs(mDir);
+        if (IsUnfinished(mDir)) FinishAside([Dir] { Empty(Dir, {}); }).get();
+        WriteFile(MarkOf(mDir), {});
     } catch (const Fault&) {
         TakeBack();
         throw;
     }
+}
+
+bool FolderInTheMaking::IsUnfinished(const QString& Dir) {
+    return FileExists(MarkOf(Dir)) && !FileExists(Dir + QLatin1String(SumsName));
 }
 
 FolderInTheMaking::~FolderInTheMaking() {

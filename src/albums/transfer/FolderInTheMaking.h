@@ -8,8 +8,12 @@ namespace neb {
 
 class FolderInTheMaking {
   public:
-    // Dir, with closing separator, is empty or not there; it is made. Throws Fault.
+    // Dir, with closing separator, is empty, was not finished, or is not there; it is made, or
+    // emptied. Throws Fault.
     explicit FolderInTheMaking(const QString& Dir);
+    // Whether the program was cut off while it filled the folder. The mark is the list of check
+    // sums, which comes last, under the name that it has while it is being made.
+    static bool IsUnfinished(const QString& Dir);
     ~FolderInTheMaking();
     FolderInTheMaking(const FolderInTheMaking&) = delete;
     FolderInTheMaking& operator=(const FolderInTheMaking&) = delete;

@@ -4,20 +4,35 @@
 #include "db/records/modJournal.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/files/modHostFilesCopy.h"
+#include "support/modFUFL.h"
 #include "support/work/WorkAside.h"
 
 namespace neb {
 namespace {
 
-const QString Damaged = QStringLiteral(
-    "NextIDs.dat in\n%1\nis missing or damaged, so that new pictures might replace old ones. "
-    "nebctl check tells more.");
-
 BoxRequest Refusal(const QString& Text, const QString& Dir, const QString& Title) {
     return Refuse(Text.arg(Dir), Title);
 }
 
+// The database among whose own folders a directory lies; empty when it does not. What is put there
+// would be taken for its pictures, or emptied at the program's end.
+QString DatabaseAround(const QString& Dir) {
+    QString Below = WithSeparator(Dir);
+    for (QString Above = GetParentDir(Below); !Above.isEmpty(); Above = GetParentDir(Above)) {
+        const QString Name = Below.mid(Above.size()).chopped(1).toUpper();
+        if ((Name == u"ALBUMS" || Name == u"TEMP") && HoldsDatabase(Above)) return Above;
+        Below = Above;
+    }
+    return {};
+}
+
 }  // namespace
+
+BoxRequest DamagedCounters(const QString& Dir) {
+    return Refusal(QStringLiteral("NextIDs.dat in\n%1\nis missing or damaged, so that new pictures "
+                                  "might replace old ones. nebctl check tells more."),
+                   Dir, QStringLiteral("Damaged Database"));
+}
 
 OtherDatabase::OtherDatabase(const QString& Dir, Use For)
     : mFor(For), mLock(DatabaseLockPath(Dir)) {
@@ -27,6 +42,10 @@ OtherDatabase::OtherDatabase(const QString& Dir, Use For)
 
 Answer<std::shared_ptr<OtherDatabase>> OtherDatabase::Open(const QString& Dir, Use For) {
     const bool ToWrite = For == Use::Destination;
+    if (const QString Owner = ToWrite ? DatabaseAround(Dir) : QString(); !Owner.isEmpty())
+        return Refusal(QStringLiteral("The directory lies among the files of the database in\n%1\n"
+                                      "Choose one elsewhere."),
+                       Owner, QStringLiteral("Invalid Directory"));
     if (ToWrite) MakeDirs(Dir);
     if (ToWrite && !MayWriteDatabase(Dir))
         return Refusal(QStringLiteral("The database in\n%1\nis read-only."), Dir,
@@ -36,10 +55,9 @@ Answer<std::shared_ptr<OtherDatabase>> OtherDatabase::Open(const QString& Dir, U
         return Refusal(
             QStringLiteral("The database in\n%1\nis in use. Close it there and try again."), Dir,
             QStringLiteral("Database In Use"));
-    if (CountersAreMissing(Dir)) return Refusal(Damaged, Dir, QStringLiteral("Damaged Database"));
+    if (CountersAreMissing(Dir)) return DamagedCounters(Dir);
     Other->Reread();
-    if (ToWrite && !CountersAreSound(Other->mEngine))
-        return Refusal(Damaged, Dir, QStringLiteral("Damaged Database"));
+    if (ToWrite && !Other->mEngine.CountersAreSound()) return DamagedCounters(Dir);
     return Other;
 }
 
@@ -47,17 +65,6 @@ Answer<std::shared_ptr<OtherDatabase>> OtherDatabase::Open(const QString& Dir, U
 void OtherDatabase::Reread() {
     const Recovery How = mFor == Use::Source ? Recovery::InMemory : Recovery::CarryOut;
     FinishAside([this, How] { mEngine.InitializeDB(How); }).get();
-}
-
-bool CountersAreSound(const clsDBEngine& theDB) {
-    for (const auto& Album : theDB.Albums) {
-        if (Album->AlbumID >= theDB.NextAlbumID) return false;
-        for (const auto& Slide : Album->Slides)
-            if (Slide->SlideID >= theDB.NextSlideID) return false;
-        for (const auto& Show : Album->SlideShows)
-            if (Show->SlideShowID >= theDB.NextSlideShowID) return false;
-    }
-    return true;
 }
 
 bool IsSameDatabase(const QString& One, const QString& Other) {

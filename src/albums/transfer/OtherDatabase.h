@@ -34,8 +34,8 @@ class OtherDatabase {
     clsDBEngine mEngine;
 };
 
-// A counter that is not above all that is there would give new pictures the places of old ones.
-bool CountersAreSound(const clsDBEngine& theDB);
+// What is said of a database whose counters are not to be relied on.
+BoxRequest DamagedCounters(const QString& Dir);
 // Whether two directories are one: the host's own comparison (case, links, closing separators).
 bool IsSameDatabase(const QString& One, const QString& Other);
 

@@ -58,7 +58,7 @@ Boxes PlanOldAlbum(const clsDBEngine& DstDB, std::int32_t AlbumID, const QString
                    TransferPlan& Plan) {
     if (!DstDB.GetAlbum(AlbumID)) return Say("Failed to load the destination album.");
     Plan.AlbumID = AlbumID;
-    return Say(clsDBEngine().CheckAlbumName(AlbumID, Name));
+    return Say(clsDBEngine::CheckAlbumText(Name));
 }
 
 Boxes PlanDestination(const clsDBEngine& DstDB, std::int32_t AlbumID, const QString& NewAlbumName,
@@ -66,7 +66,9 @@ Boxes PlanDestination(const clsDBEngine& DstDB, std::int32_t AlbumID, const QStr
     Plan.AlbumName = ConvertQuotes(NewAlbumName);
     Boxes No = AlbumID != 0 ? PlanOldAlbum(DstDB, AlbumID, Plan.AlbumName, Plan)
                             : PlanNewAlbum(DstDB, Plan.AlbumName, Plan);
-    if (!No.empty() || MayWriteDatabase(DstDB.DBPath())) return No;
+    if (!No.empty()) return No;
+    if (!DstDB.CountersAreSound()) return {DamagedCounters(DstDB.DBPath())};
+    if (MayWriteDatabase(DstDB.DBPath())) return {};
     return {Refuse(QStringLiteral("The database in\n%1\nis read-only.").arg(DstDB.DBPath()),
                    QStringLiteral("Read-Only Database"))};
 }
@@ -127,15 +129,18 @@ Boxes PlanReplacedShow(const SlideShowTransfer& What, TransferPlan& Plan) {
     return {};
 }
 
+bool IsWithinAlbum(const SlideShowTransfer& What) {
+    return What.SrcAlbumID == What.DstAlbumID &&
+           IsSameDatabase(What.SrcDB.DBPath(), What.DstDB.DBPath());
+}
+
 // Within one album slides are shared. Between two databases an equal number means nothing.
-Boxes PlanSlides(const SlideShowTransfer& What, clsNEBAlbum& Album, const clsNEBSlideShow& Source,
+Boxes PlanSlides(const TransferPlan& Plan, const clsNEBAlbum& Album, const clsNEBSlideShow& Source,
                  TransferPlanner& Planner) {
-    const bool IsShared = What.SrcAlbumID == What.DstAlbumID &&
-                          IsSameDatabase(What.SrcDB.DBPath(), What.DstDB.DBPath());
     std::unordered_map<std::int32_t, const clsNEBSlide*> Slides;
     for (const auto& Slide : Album.Slides) Slides.emplace(Slide->SlideID, Slide.get());
     for (const auto& Detail : Source.Details) {
-        if (IsShared) {
+        if (Plan.IsWithinAlbum) {
             Planner.ShareSlide(Detail->SlideID);
             continue;
         }
@@ -159,12 +164,13 @@ Decision DecideShow(const SlideShowTransfer& What) {
     Decision Made{PlanFor(What.DstDB), {}};
     TransferPlan& Plan = Made.Plan;
     Plan.IsOfShow = true;
+    Plan.IsWithinAlbum = IsWithinAlbum(What);
     const QString Name = ConvertQuotes(What.NewSlideShowName);
     Made.No = PlanDestination(What.DstDB, What.DstAlbumID, What.NewAlbumName, Plan);
     if (Made.No.empty()) Made.No = PlanReplacedShow(What, Plan);
     if (Made.No.empty()) Made.No = CheckShowName(Name);
     TransferPlanner Planner(What.SrcDB, What.SrcAlbumID, Plan);
-    if (Made.No.empty()) Made.No = PlanSlides(What, *Album, *Source, Planner);
+    if (Made.No.empty()) Made.No = PlanSlides(Plan, *Album, *Source, Planner);
     if (!Made.No.empty()) return Made;
     std::set<QString> Taken;
     if (const clsNEBAlbum* Destination = What.DstDB.GetAlbum(Plan.AlbumID))

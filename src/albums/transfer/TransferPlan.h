@@ -7,6 +7,7 @@
 #include <unordered_map>
 
 #include "db/Changes.h"
+#include "db/clsDBEngine.h"
 #include "db/modClearRecords.h"
 
 namespace neb {
@@ -20,11 +21,14 @@ struct FileToCopy {
 };
 
 struct TransferPlan {
+    QString SrcDBPath;
+    std::int32_t SrcAlbumID = 0;
     std::int32_t AlbumID = 0;  // of the destination, as it will be
     QString AlbumName;
     bool IsNewAlbum = false;
     bool ClearsAlbum = false;
     bool IsOfShow = false;            // of one show, which stands in Shows alone
+    bool IsWithinAlbum = false;       // the source is the album itself
     std::int32_t ReplacedShowID = 0;  // 0: none
     IDCounters Base;                  // the destination's counters on which the numbers stand
     IDCounters Next;                  // and what they are afterwards
@@ -45,7 +49,10 @@ class TransferPlanner {
     using SlideMap = std::unordered_map<std::int32_t, std::int32_t>;
 
     TransferPlanner(const clsDBEngine& SrcDB, std::int32_t SrcAlbumID, TransferPlan& Plan)
-        : mSrcDB(SrcDB), mSrcAlbumID(SrcAlbumID), mPlan(Plan) {}
+        : mSrcDB(SrcDB), mSrcAlbumID(SrcAlbumID), mPlan(Plan) {
+        Plan.SrcDBPath = SrcDB.DBPath();
+        Plan.SrcAlbumID = SrcAlbumID;
+    }
 
     // All slides and all shows, each under a new number.
     void AddAlbum(const clsNEBAlbum& Source);

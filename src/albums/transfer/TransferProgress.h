@@ -13,7 +13,7 @@ struct TransferProgress {
     };
     Stage At = Stage::Looking;
     int Pictures = 0;    // whole ones; thumbnails do not count
-    int OfPictures = 0;  // sounds count as pictures here where there are no pictures
+    int OfPictures = 0;
     qint64 Bytes = 0;
     qint64 OfBytes = 0;
 };

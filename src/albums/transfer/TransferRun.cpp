@@ -47,27 +47,31 @@ class TransferRun {
 
     // False when it was stopped, also because something is missing.
     bool Look() {
-        auto Looked = LookForFiles(mPlan.Files, mPlan.Gone.Masks, mDB.DBPath(),
+        auto Looked = LookForFiles(mPlan, mDB.DBPath(),
                                    [this](const TransferProgress& Now) { return Report(Now); });
         if (!Looked) return false;
+        if (Looked->Obstacle) throw *Looked->Obstacle;
+        mFiles = std::move(Looked->Found);
+        mOldFiles = std::move(Looked->Old);
+        mRoom = Looked->Room;
         QStringList Missing;
         for (const size_t Which : Looked->Missing) Missing << mPlan.Files[Which].From;
         if (!Missing.isEmpty() && !(mDesk.GoOnWithout && mDesk.GoOnWithout(Missing))) return false;
-        if (Looked->Obstacle) throw *Looked->Obstacle;
-        mFiles = std::move(Looked->Found);
-        for (const size_t Which : Looked->Missing) GoWithout(mPlan.Files[Which]);
-        mOldFiles = std::move(Looked->Old);
-        mRoom = Looked->Room;
+        GoWithout(Looked->Missing);
         return true;
     }
 
     // A thumbnail without its picture would be nobody's.
-    void GoWithout(const FileToCopy& Missing) {
-        mPlan.GoWithout(Missing);
-        if (Missing.Is != FileToCopy::Kind::Picture) return;
-        const QString Thumbnail =
-            SlidesFolder({}, mPlan.AlbumID) + ThumbnailName(mPlan.Slides[Missing.Of].SlideID);
-        std::erase_if(mFiles, [&](const FoundFile& Each) { return Each.To == Thumbnail; });
+    void GoWithout(const std::vector<size_t>& Missing) {
+        std::set<QString> Thumbnails;
+        for (const size_t Which : Missing) {
+            const FileToCopy& File = mPlan.Files[Which];
+            if (File.Is == FileToCopy::Kind::Picture)
+                Thumbnails.insert(SlidesFolder({}, mPlan.AlbumID) +
+                                  ThumbnailName(mPlan.Slides[File.Of].SlideID));
+            mPlan.GoWithout(File);
+        }
+        std::erase_if(mFiles, [&](const FoundFile& Each) { return Thumbnails.contains(Each.To); });
     }
 
     Answer<> CheckRoom() const {

@@ -67,6 +67,10 @@ bool IsInside(const QString& Place) {
            !(u'/' + Place + u'/').contains(QStringLiteral("/../")) && !Place.contains(u'\\');
 }
 
+bool IsName(const QString& Staged) {
+    return !Staged.isEmpty() && !HoldsSeparator(Staged) && Staged != u"..";
+}
+
 void DropIfPossible(const QString& Path) {
     try {
         DeleteFile(Path);
@@ -80,30 +84,50 @@ void WriteNote(const QString& DBPath, const Note& Noted) {
     SyncDir(StagingFolder(DBPath));
 }
 
+// Into the place, also where that lies on another disk. LeaveNewer: what has come there since then
+// stays, and what was staged for it goes.
+void PutInPlace(const QString& From, const QString& To, bool LeaveNewer) {
+    if (LeaveNewer && FileExists(To) && FileTime(To) > FileTime(From)) return DropIfPossible(From);
+    try {
+        RenameFile(From, To);
+    } catch (const Fault&) {
+        CopyFile(From, To);
+        DropIfPossible(From);
+    }
+}
+
+// Moves, to begin with, what is staged; what could not be moved is left over.
 class Settling {
   public:
-    Settling(const QString& DBPath, const StagedChange& Change)
-        : mDBPath(DBPath), mStaging(StagingFolder(DBPath)), mChange(Change) {}
+    Settling(const QString& DBPath, const Note& Noted)
+        : mDBPath(DBPath),
+          mStaging(StagingFolder(DBPath)),
+          mChange(Noted.Change),
+          mWaited(Noted.JournalSum.isEmpty()) {}
 
     // Why something waits still, if it does.
     std::optional<Fault> Run() {
         for (const QString& Folder : mChange.Folders)
             if (IsInside(Folder)) Try([&] { MakeFolder(mDBPath + Folder); });
-        for (const StagedChange::Move& Row : mChange.Moves) Try([&] { PutInPlace(Row); });
+        for (const StagedChange::Move& Row : mChange.Moves)
+            if (!Try([&] { Move(Row); })) mLeft.Moves.push_back(Row);
         for (const QString& Place : mChange.Drops)
             if (IsInside(Place)) Drop(mDBPath + Place);
         for (const QString& Folder : mTouched) SyncDir(Folder);
         SyncDir(mStaging);
-        return mProblem;
+        return mLeft.Moves.empty() ? std::nullopt : mProblem;
     }
+    const StagedChange& Left() const { return mLeft; }
 
   private:
     template <class Part>
-    void Try(const Part& Do) {
+    bool Try(const Part& Do) {
         try {
             Do();
+            return true;
         } catch (const Fault& Problem) {
             if (!mProblem) mProblem = Problem;
+            return false;
         }
     }
     void MakeFolder(const QString& Folder) {
@@ -112,10 +136,10 @@ class Settling {
         mTouched.insert(GetParentDir(Folder));
     }
     // One that is not staged any more is in its place already: an earlier try was cut short.
-    void PutInPlace(const StagedChange::Move& Row) {
-        if (!IsInside(Row.To) || !FileExists(mStaging + Row.Staged)) return;
-        RenameFile(mStaging + Row.Staged, mDBPath + Row.To);
-        mTouched.insert(GetFilePath(mDBPath + Row.To));
+    void Move(const StagedChange::Move& Row) {
+        if (!IsName(Row.Staged) || !IsInside(Row.To) || !FileExists(mStaging + Row.Staged)) return;
+        MakeFolder(GetFilePath(mDBPath + Row.To));
+        PutInPlace(mStaging + Row.Staged, mDBPath + Row.To, mWaited);
     }
     void Drop(const QString& Path) {
         DropIfPossible(Path);
@@ -124,9 +148,20 @@ class Settling {
 
     const QString mDBPath, mStaging;
     const StagedChange& mChange;
+    const bool mWaited;
+    StagedChange mLeft;
     std::set<QString> mTouched;
     std::optional<Fault> mProblem;  // the first
 };
+
+// Nobody's doing of ours: what it leads to is not entered, and the link goes.
+bool IsForeign(const QString& DBPath) {
+    return IsLink(StagingFolder(DBPath));
+}
+
+bool IsOfThisState(const Note& Noted, const QByteArray& JournalSum) {
+    return Noted.JournalSum.isEmpty() || Noted.JournalSum == JournalSum;
+}
 
 }  // namespace
 
@@ -148,19 +183,35 @@ bool HasStagedFiles(const QString& DBPath) {
 
 std::optional<Fault> SettleStagedFiles(const QString& DBPath, const QByteArray& JournalSum) {
     if (!HasStagedFiles(DBPath)) return std::nullopt;
-    const std::optional<Note> Noted = ReadNote(DBPath);
-    const bool Waits = Noted && Noted->JournalSum.isEmpty();
-    const bool IsCommitted = Noted && (Waits || Noted->JournalSum == JournalSum);
-    const auto Problem = IsCommitted ? Settling(DBPath, Noted->Change).Run() : std::nullopt;
-    if (!Problem)
+    const std::optional<Note> Noted = IsForeign(DBPath) ? std::nullopt : ReadNote(DBPath);
+    if (!Noted || !IsOfThisState(*Noted, JournalSum)) {
         DropStagedFiles(DBPath);
-    else if (!Waits)
-        WriteNote(DBPath, {{}, Noted->Change});
+        return std::nullopt;
+    }
+    Settling Work(DBPath, *Noted);
+    const auto Problem = Work.Run();
+    if (Problem)
+        WriteNote(DBPath, {{}, Work.Left()});
+    else
+        DropStagedFiles(DBPath);
     return Problem;
+}
+
+std::map<QString, QString> StagedPlaces(const QString& DBPath, const QByteArray& JournalSum) {
+    std::map<QString, QString> Places;
+    if (!HasStagedFiles(DBPath) || IsForeign(DBPath)) return Places;
+    const std::optional<Note> Noted = ReadNote(DBPath);
+    if (!Noted || !IsOfThisState(*Noted, JournalSum)) return Places;
+    for (const StagedChange::Move& Row : Noted->Change.Moves)
+        if (const QString Path = StagingFolder(DBPath) + Row.Staged;
+            IsName(Row.Staged) && FileExists(Path))
+            Places.emplace((DBPath + Row.To).toUpper(), Path);
+    return Places;
 }
 
 // The note first: without it nothing that is left here can be taken for a change.
 void DropStagedFiles(const QString& DBPath) {
+    if (IsForeign(DBPath)) return DeleteFolder(StagingFolder(DBPath));
     DropIfPossible(NotePath(DBPath));
     DeleteTree(StagingFolder(DBPath));
 }

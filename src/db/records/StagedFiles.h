@@ -10,6 +10,7 @@
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
+#include <map>
 #include <optional>
 #include <vector>
 
@@ -33,10 +34,14 @@ QString StagingFolder(const QString& DBPath);
 void NoteStagedChange(const QString& DBPath, const StagedChange& Change,
                       const QByteArray& JournalSum);
 bool HasStagedFiles(const QString& DBPath);
+// Where files lie that belong to the database already and are not in their places yet: by their
+// places, full paths upper-cased. For who only reads.
+std::map<QString, QString> StagedPlaces(const QString& DBPath, const QByteArray& JournalSum);
 // Carries out the change that was noted for the journal of this sum (empty: there is none), or that
 // waits since an earlier try; drops everything else that is staged. Can be cut short and called
-// again. Where a file cannot go to its place the others do; what is left of the change waits, no
-// longer bound to a journal, and the answer says why. Throws Fault when not even that can be noted.
+// again. Where a file cannot go to its place the others do; it waits, no longer bound to a journal,
+// as long as nothing newer stands there, and the answer says why. Throws Fault when not even that
+// can be noted: all is as it was noted before.
 std::optional<Fault> SettleStagedFiles(const QString& DBPath, const QByteArray& JournalSum);
 // Throws away what is staged; errors are ignored.
 void DropStagedFiles(const QString& DBPath);

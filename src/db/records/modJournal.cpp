@@ -194,6 +194,11 @@ std::optional<Fault> SettleCommitted(const QString& DBPath) {
     return SettleStagedFiles(DBPath, WholeSum(DBPath));
 }
 
+std::map<QString, QString> CommittedPlaces(const QString& DBPath) {
+    if (!HasStagedFiles(DBPath)) return {};
+    return StagedPlaces(DBPath, WholeSum(DBPath));
+}
+
 bool MayWriteDatabase(const QString& DBPath) {
     const QString Counters = RecordPath(DBPath, RecordFile::NextIDs);
     return !IsReadOnly(DBPath) && !(FileExists(Counters) && IsReadOnly(Counters));
@@ -210,14 +215,19 @@ bool CountersAreMissing(const QString& DBPath) {
            ReadJournal(DBPath) != JournalState::Whole;
 }
 
-void RecoverDatabase(const QString& DBPath) {
-    SettleCommitted(DBPath);
+bool RecoverDatabase(const QString& DBPath) {
+    try {
+        SettleCommitted(DBPath);
+    } catch (const Fault&) {
+        return false;
+    }
     RecordImage Image;
     const JournalState State = ReadJournal(DBPath, &Image);
-    if (State == JournalState::None) return;
+    if (State == JournalState::None) return true;
     if (State == JournalState::Whole) CarryOut(DBPath, Image);
     DeleteIfPossible(JournalPath(DBPath));
     DeleteIfPossible(UnfinishedPath(DBPath));
+    return true;
 }
 
 }  // namespace neb

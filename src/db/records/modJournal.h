@@ -42,6 +42,8 @@ void WriteDatabase(const QString& DBPath, const RecordImage& Image);
 void CommitDatabase(const QString& DBPath, const RecordImage& Image, const StagedChange& Files);
 // Why a file of it still waits, if one does: the rest is in its place, and each opening tries anew.
 std::optional<Fault> SettleCommitted(const QString& DBPath);
+// StagedPlaces for the journal that is there.
+std::map<QString, QString> CommittedPlaces(const QString& DBPath);
 
 // False when the directory or its NextIDs.dat is read-only: then nothing is ever written.
 bool MayWriteDatabase(const QString& DBPath);
@@ -54,7 +56,8 @@ bool HoldsDatabase(const QString& DBPath);
 bool CountersAreMissing(const QString& DBPath);
 
 // Carries out a whole journal, with the files that were staged for it, and removes a torn one and
-// what was staged without a journal.
-void RecoverDatabase(const QString& DBPath);
+// what was staged without a journal. False where staged files can neither go to their places nor be
+// noted as waiting: then nothing has changed, and the journal is to be read where it lies.
+bool RecoverDatabase(const QString& DBPath);
 
 }  // namespace neb
