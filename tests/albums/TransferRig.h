@@ -2,12 +2,12 @@
 // albums of slides, shows, pictures and sounds, and the comparison of both before and after.
 #pragma once
 
-#include "albums/FilledDatabase.h"
-#include "albums/UntouchedDatabases.h"
 #include "albums/transfer/Transfer.h"
+#include "harness/FilledDatabase.h"
 #include "harness/MemoryFolder.h"
 #include "harness/TempFolder.h"
 #include "harness/TransferChecker.h"
+#include "harness/UntouchedDatabases.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 
