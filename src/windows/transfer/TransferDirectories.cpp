@@ -21,13 +21,16 @@ QString AsEntry(QString Path) {
     return Path.replace(u'&', QStringLiteral("&&"));
 }
 
+// What is taken may open a box, which lets events run: the menu, which goes with them, shall have
+// come to the end of its own before.
 void ShowList(QLineEdit& Field, const std::function<void(const QString& Dir)>& Take) {
     auto* Menu = new QMenu(&Field);
     Menu->setObjectName(QStringLiteral("mnuDirectories"));
     Menu->setAttribute(Qt::WA_DeleteOnClose);
     for (const QString& Each : LastDirectories())
-        QObject::connect(Menu->addAction(AsEntry(Each)), &QAction::triggered, &Field,
-                         [Take, Each] { Take(Each); });
+        QObject::connect(
+            Menu->addAction(AsEntry(Each)), &QAction::triggered, &Field,
+            [Take, Each] { Take(Each); }, Qt::QueuedConnection);
     if (Menu->isEmpty())
         Menu->addAction(QObject::tr("No directory has been used yet"))->setEnabled(false);
     Menu->setActiveAction(Menu->actions().front());

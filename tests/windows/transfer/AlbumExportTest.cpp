@@ -1,6 +1,7 @@
 // The export of an album: the directory of the other database, the proposed names, the order of the
 // checks, what a failure leaves and what a success tells.
 #include <QFile>
+#include <QPointer>
 #include <QThread>
 
 #include "TransferRig.h"
@@ -401,6 +402,34 @@ TEST_F(AlbumExport, TheLastTenDirectoriesAreOfferedAtTheField) {
     QCoreApplication::processEvents();
     EXPECT_EQ(OtherDb.Path().toStdString(), DirectoryIn(*W));
     EXPECT_EQ("<NEW ALBUM>*|Attic", Listed(*W, "cboDstAlbum"));
+}
+
+// A box lets events run, and the menu goes with them.
+TEST_F(AlbumExport, TheMenuHasGoneWhenWhatWasChosenInItIsTold) {
+    NoteDirectory(Empty.Path());
+    for (const bool ByMouse : {false, true}) {
+        ShowActive(*W);
+        Directory(*W).setFocus();
+        QTest::keyClick(&Directory(*W), Qt::Key_Down, Qt::AltModifier);
+        const QPointer<QMenu> Menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_FALSE(Menu.isNull());
+        bool IsInMenu = true;
+        Boxes.WhileNextIsOpen([&] {
+            ASSERT_FALSE(IsInMenu) << "it would be deleted under its own feet";
+            DoEvents();
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            EXPECT_TRUE(Menu.isNull());
+        });
+        ExpectOffer(BoxAnswer::No);
+        if (ByMouse)
+            QTest::mouseClick(Menu, Qt::LeftButton, {},
+                              Menu->actionGeometry(Menu->actions().front()).center());
+        else
+            QTest::keyClick(Menu, Qt::Key_Return);
+        IsInMenu = false;
+        QCoreApplication::processEvents();
+        EXPECT_EQ(Empty.Path().toStdString(), DirectoryIn(*W));
+    }
 }
 
 TEST_F(AlbumExport, ADirectoryIsRememberedOnceItHasBeenOpened) {
