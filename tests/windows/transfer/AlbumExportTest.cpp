@@ -1,8 +1,11 @@
 // The export of an album: the directory of the other database, the proposed names, the order of the
 // checks, what a failure leaves and what a success tells.
+#include <QElapsedTimer>
 #include <QFile>
 #include <QPointer>
 #include <QThread>
+#include <chrono>
+#include <future>
 
 #include "TransferRig.h"
 
@@ -386,12 +389,15 @@ TEST_F(AlbumExport, ATypedDirectoryThatWasNotLoadedIsLoadedFirst) {
 }
 
 TEST_F(AlbumExport, TheLastTenDirectoriesAreOfferedAtTheField) {
-    for (int I = 0; I < 12; ++I) NoteDirectory(u"/stick/%1/"_s.arg(I));
-    NoteDirectory(u"/stick/5/"_s);
+    const auto Stick = [this](int Number) { return Empty / u"%1/"_s.arg(Number); };
+    for (int I = 0; I < 12; ++I) {
+        MakeDirs(Stick(I));
+        NoteDirectory(Stick(I));
+    }
+    NoteDirectory(Stick(5));
     NoteDirectory(OtherDb.Path());
-    EXPECT_EQ((QStringList{OtherDb.Path(), u"/stick/5/"_s, u"/stick/11/"_s, u"/stick/10/"_s,
-                           u"/stick/9/"_s, u"/stick/8/"_s, u"/stick/7/"_s, u"/stick/6/"_s,
-                           u"/stick/4/"_s, u"/stick/3/"_s}),
+    EXPECT_EQ((QStringList{OtherDb.Path(), Stick(5), Stick(11), Stick(10), Stick(9), Stick(8),
+                           Stick(7), Stick(6), Stick(4), Stick(3)}),
               LastDirectories());
     Directory(*W).setFocus();
     QTest::keyClick(&Directory(*W), Qt::Key_Down, Qt::AltModifier);
@@ -402,6 +408,54 @@ TEST_F(AlbumExport, TheLastTenDirectoriesAreOfferedAtTheField) {
     QCoreApplication::processEvents();
     EXPECT_EQ(OtherDb.Path().toStdString(), DirectoryIn(*W));
     EXPECT_EQ("<NEW ALBUM>*|Attic", Listed(*W, "cboDstAlbum"));
+}
+
+TEST_F(AlbumExport, DirectoriesThatHaveGoneAreNotOfferedUntilTheyAreBack) {
+    const QString Stick = Empty / u"stick/"_s;
+    NoteDirectory(OtherDb.Path());
+    NoteDirectory(Stick);
+    const auto Offered = [this] {
+        Directory(*W).setFocus();
+        QTest::keyClick(&Directory(*W), Qt::Key_Down, Qt::AltModifier);
+        auto* Menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        QStringList All;
+        for (const QAction* Each : Menu->actions()) All << Each->text();
+        QTest::keyClick(Menu, Qt::Key_Escape);
+        return All;
+    };
+    EXPECT_EQ(QStringList(OtherDb.Path()), Offered());
+    MakeDirs(Stick);
+    EXPECT_EQ((QStringList{Stick, OtherDb.Path()}), Offered());
+}
+
+TEST_F(AlbumExport, AMediumThatDoesNotAnswerHoldsUpNoListAndStaysInIt) {
+    using namespace std::chrono_literals;
+    struct Medium {
+        std::promise<void> Answers;
+        std::shared_future<void> Answer = Answers.get_future();
+    };
+    const auto Slow = std::make_shared<Medium>();
+    QElapsedTimer Since;
+    Since.start();
+    EXPECT_EQ((QStringList{u"slow"_s, u"there"_s, u"slow"_s}),
+              ThoseThere({u"slow"_s, u"gone"_s, u"there"_s, u"slow"_s}, 100ms,
+                         [Slow](const QString& Dir) {
+                             if (Dir == u"slow"_s) Slow->Answer.wait();
+                             return Dir != u"gone"_s;
+                         }));
+    EXPECT_GE(Since.elapsed(), 100);
+    EXPECT_LT(Since.elapsed(), 1000) << "not for each anew, nor until it answers";
+    Slow->Answers.set_value();
+}
+
+TEST_F(AlbumExport, OnePlaceIsRememberedInOneSpellingAndALinkAsItIsCalled) {
+    const QString Stick = Empty / u"stick"_s, Link = Empty / u"link"_s;
+    MakeDirs(Stick);
+    ASSERT_TRUE(QFile::link(Stick, Link));
+    NoteDirectory(Stick + u"//"_s);
+    NoteDirectory(Link);
+    NoteDirectory(Empty / u"other/../stick/."_s);
+    EXPECT_EQ((QStringList{Stick + u'/', Link + u'/'}), LastDirectories());
 }
 
 // A box lets events run, and the menu goes with them.
