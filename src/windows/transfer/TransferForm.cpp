@@ -19,6 +19,7 @@ namespace neb {
 namespace {
 
 const QString Counters = QStringLiteral("NextIDs.dat");
+constexpr int HintLines = 2;  // the most that it has: the window does not grow with it
 
 void Rename(QWidget& Control, const char* Name) {
     Control.setObjectName(QString::fromLatin1(Name));
@@ -144,6 +145,7 @@ void TransferForm::Form_Load() {
     OwnSide().List(DBEngine);
     UpdateControls();
     AlignColumns();
+    mUi->lblHint->setMinimumHeight(HintLines * mUi->lblHint->fontMetrics().lineSpacing());
     layout()->activate();
     adjustSize();
 }
