@@ -90,6 +90,7 @@ void TransferForm::SetUpOtherDB() {
     Other->addWidget(mUi->pnlDB, 1, 1, 1, 2);
     Own->addWidget(mUi->lblOwn, 0, 0);
     Own->addWidget(mUi->lblOwnDB, 0, 1, 1, 2);
+    connect(mUi->txtDB, &QLineEdit::textChanged, this, &TransferForm::UpdateControls);
     OfferLastDirectories(
         *mUi->txtDB, [this](const QString& Dir) { Command([this, Dir] { LoadDirectory(Dir); }); });
 }
@@ -182,6 +183,8 @@ QString TransferForm::Hint() const {
         return tr("The database is read-only:\nnothing can be brought into it.");
     if (mKind.Exports && mSrc.AlbumEntries().isEmpty())
         return tr("There are no albums yet.\nNew Album in the menu Album makes one.");
+    if (IsUnread() && !mUi->txtDB->text().trimmed().isEmpty())
+        return tr("Press Enter to open this directory.");
     if (!mOther.Engine()) return tr(mKind.WhatNow);
     if (mSrc.AlbumEntries().isEmpty())
         return tr("There are no albums in this database.\nChoose another one.");

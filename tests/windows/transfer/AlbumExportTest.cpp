@@ -388,6 +388,26 @@ TEST_F(AlbumExport, ATypedDirectoryThatWasNotLoadedIsLoadedFirst) {
     EXPECT_TRUE(Everything(Empty.Path()).isEmpty());
 }
 
+// What stands in the lists is still that of the directory before.
+TEST_F(AlbumExport, TheHintSaysWhatToDoWithADirectoryThatIsNotRead) {
+    const std::string WhatNow = HintIn(*W);
+    Retype(Directory(*W), OtherDb.Path());
+    const std::string PressEnter = "Press Enter to open this directory.";
+    EXPECT_EQ(PressEnter, HintIn(*W));
+    QTest::keyClick(&Directory(*W), Qt::Key_Tab);
+    EXPECT_EQ(PressEnter, HintIn(*W)) << "and no box";
+    Directory(*W).setFocus();
+    QTest::keyClick(&Directory(*W), Qt::Key_Return);
+    EXPECT_EQ("", HintIn(*W));
+    QTest::keyClicks(&Directory(*W), u"x"_s);
+    EXPECT_EQ(PressEnter, HintIn(*W));
+    QTest::keyClick(&Directory(*W), Qt::Key_Backspace);
+    EXPECT_EQ("", HintIn(*W));
+    Reopen();
+    Retype(Directory(*W), u"  "_s);
+    EXPECT_EQ(WhatNow, HintIn(*W));
+}
+
 TEST_F(AlbumExport, TheLastTenDirectoriesAreOfferedAtTheField) {
     const auto Stick = [this](int Number) { return Empty / u"%1/"_s.arg(Number); };
     for (int I = 0; I < 12; ++I) {
