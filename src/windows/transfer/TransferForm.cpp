@@ -115,6 +115,8 @@ void TransferForm::SetUpLists() {
                          mUi->lblSlideShowName, mUi->txtSlideShowName, mUi->lblNote})
         Each->setVisible(mKind.OfShows);
     mUi->chkReplace->setVisible(!mKind.OfShows);
+    // among the lists of shows no letter is free
+    if (!mKind.OfShows) mUi->cmdViewDstAlbum->setText(tr("Vi&ew..."));
     using Self = TransferForm;
     connect(mUi->cboSrcAlbum, &QComboBox::currentIndexChanged, this, &Self::cboSrcAlbum_Click);
     connect(mUi->cboDstAlbum, &QComboBox::currentIndexChanged, this, &Self::cboDstAlbum_Click);

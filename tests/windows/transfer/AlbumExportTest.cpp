@@ -40,7 +40,7 @@ TEST_F(AlbumExport, OpensWithTheFirstAlbumAndNoDestination) {
     EXPECT_EQ(
         u"Replace Destination Album Contents (if any).  If unchecked the source album will "
         "be added to the destination album."_s,
-        In<QCheckBox>(*W, "chkReplace").text().remove(u'\n'));
+        In<QCheckBox>(*W, "chkReplace").text().remove(u'\n').remove(u'&'));
     EXPECT_TRUE(In<QPushButton>(*W, "cmdExport").isDefault());
     EXPECT_FALSE(In<QWidget>(*W, "cboSrcSlideShow").isVisible());
     EXPECT_NE("", HintIn(*W));
