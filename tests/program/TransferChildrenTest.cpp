@@ -39,6 +39,23 @@ class TransferChildren : public MainWindow {
     }
 };
 
+TEST_F(TransferChildren, AViewerThatClosesLeavesTheWindowThatItWasOpenedFromInFront) {
+    Press("mnuAlbumExport");
+    Press("mnuAlbumImport");
+    auto* Import = Find<frmAlbumImport>();
+    auto* Album = Import->findChild<QComboBox*>("cboDstAlbum");
+    Album->setFocus();
+    PressKey(Qt::Key_End);
+    ASSERT_EQ("Garden", Album->currentText().toStdString());
+    QTest::mouseClick(Import->findChild<QPushButton*>("cmdViewDstAlbum"), Qt::LeftButton);
+    DoEvents();
+    ASSERT_TRUE(Find<frmAlbumView>());
+    ASSERT_EQ(Find<frmAlbumView>(), InFront());
+    PressKey(Qt::Key_Escape);
+    EXPECT_FALSE(Find<frmAlbumView>());
+    EXPECT_EQ(Import, InFront());
+}
+
 TEST_F(TransferChildren, EscapeClosesThem) {
     for (const char* Each : Entries) {
         Press(Each);
