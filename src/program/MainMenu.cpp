@@ -5,6 +5,7 @@
 #include <QMenuBar>
 
 #include "controls/fields/Icons.h"
+#include "controls/fields/MenuIcon.h"
 #include "db/clsDBEngine.h"
 #include "program/Workspace.h"
 #include "program/frmAbout.h"
@@ -186,7 +187,9 @@ void AddEntry(frmNEBSlideShow& Main, QMenu& Menu, const Entry& Row, MainMenu& Ma
     // looked up when the menu is first opened: the start need not wait for a dozen icons
     QObject::connect(
         &Menu, &QMenu::aboutToShow, Action,
-        [Action, Icon = QString::fromLatin1(Row.Icon)] { Action->setIcon(ThemeIcon(Icon)); },
+        [Action, &Menu, Icon = QString::fromLatin1(Row.Icon)] {
+            Action->setIcon(MenuIcon(ThemeIcon(Icon), Menu.palette()));
+        },
         Qt::SingleShotConnection);
     Made.Entries.insert(Action->objectName(), Action);
 }

@@ -30,6 +30,7 @@ QFont LargeFont(const QFont& Base) {
 Workspace::Workspace(QWidget* Parent) : QMdiArea(Parent) {
     setBackground(palette().brush(QPalette::Base));
     setAcceptDrops(true);
+    setActivationOrder(ActivationHistoryOrder);  // a viewer leaves the window it was opened from
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
 }

@@ -12,6 +12,7 @@
 #include <QTextBrowser>
 
 #include "MainWindowRig.h"
+#include "controls/fields/Icons.h"
 #include "program/frmHelp.h"
 #include "support/Fault.h"
 #include "windows/frame/modNotice.h"
@@ -180,6 +181,29 @@ TEST_F(TheMenu, OpensTheWindowsOfTransferBesideTheOthers) {
     EXPECT_EQ(QStringList(
                   {"frmAlbumImport", "frmAlbumExport", "frmSlideShowImport", "frmSlideShowExport"}),
               Opened);
+}
+
+TEST_F(TheMenu, TheIconOfAChosenEntryIsSeenUponTheHighlight) {
+    Start();
+    auto* Menu = mWindow->menuBar()->findChild<QMenu*>("mnuImportExportHdr");
+    Menu->popup(mWindow->mapToGlobal(QPoint(0, 20)));
+    QAction* Import = Entry("mnuAlbumImport");
+    Menu->setActiveAction(Import);
+    const QImage Chosen = Menu->grab(Menu->actionGeometry(Import)).toImage();
+    const int Behind = Menu->palette().color(QPalette::Highlight).lightness();
+    const int Text = Menu->palette().color(QPalette::HighlightedText).lightness();
+    int Pixels = 0;                            // nearer to the text than to what is behind it
+    for (int X = 0; X < Chosen.height(); ++X)  // a square at its left
+        for (int Y = 0; Y < Chosen.height(); ++Y) {
+            const int Here = Chosen.pixelColor(X, Y).lightness();
+            Pixels += std::abs(Here - Text) < std::abs(Here - Behind);
+        }
+    EXPECT_GT(Pixels, 20);
+    const QIcon Icon = Import->icon();
+    EXPECT_EQ(ThemeIcon("import").pixmap(QSize(16, 16), 1.0).toImage(),
+              Icon.pixmap(QSize(16, 16), 1.0).toImage())
+        << "and otherwise as it is";
+    Menu->close();
 }
 
 }  // namespace

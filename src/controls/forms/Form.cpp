@@ -4,6 +4,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 
+#include "controls/forms/DefaultButton.h"
 #include "controls/forms/FocusReturn.h"
 
 namespace neb {
@@ -38,6 +39,7 @@ void Form::Load() {
         Abandon();
         throw;
     }
+    KeepDefaultButton(*this);
 }
 
 void Form::ShowModal() {

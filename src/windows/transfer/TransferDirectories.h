@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QStringList>
+#include <chrono>
 #include <functional>
 
 QT_BEGIN_NAMESPACE
@@ -13,9 +14,14 @@ namespace neb {
 
 inline constexpr int MostDirectories = 10;
 
-QStringList LastDirectories();           // the last one first
-void NoteDirectory(const QString& Dir);  // puts it first
-// Adds the list to a field: at a button in it and at Alt+Down. Take gets what is chosen.
+QStringList LastDirectories();             // the last one first
+void NoteDirectory(const QString& Named);  // puts it first, in one spelling for one place
+// Those that IsThere says are there, and those of which it has not said so after Longest: it is
+// asked aside, of all at once, and may be left waiting.
+QStringList ThoseThere(const QStringList& Dirs, std::chrono::milliseconds Longest,
+                       const std::function<bool(const QString& Dir)>& IsThere);
+// Adds the list, of those that are there, to a field: at a button in it and at Alt+Down. Take gets
+// what is chosen.
 void OfferLastDirectories(QLineEdit& Field, std::function<void(const QString& Dir)> Take);
 
 }  // namespace neb

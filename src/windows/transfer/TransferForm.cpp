@@ -20,6 +20,7 @@ namespace neb {
 namespace {
 
 const QString Counters = QStringLiteral("NextIDs.dat");
+constexpr int HintLines = 2;  // the most that it has: the window does not grow with it
 
 void Rename(QWidget& Control, const char* Name) {
     Control.setObjectName(QString::fromLatin1(Name));
@@ -90,6 +91,7 @@ void TransferForm::SetUpOtherDB() {
     Other->addWidget(mUi->pnlDB, 1, 1, 1, 2);
     Own->addWidget(mUi->lblOwn, 0, 0);
     Own->addWidget(mUi->lblOwnDB, 0, 1, 1, 2);
+    connect(mUi->txtDB, &QLineEdit::textChanged, this, &TransferForm::UpdateControls);
     OfferLastDirectories(
         *mUi->txtDB, [this](const QString& Dir) { Command([this, Dir] { LoadDirectory(Dir); }); });
 }
@@ -114,6 +116,8 @@ void TransferForm::SetUpLists() {
                          mUi->lblSlideShowName, mUi->txtSlideShowName, mUi->lblNote})
         Each->setVisible(mKind.OfShows);
     mUi->chkReplace->setVisible(!mKind.OfShows);
+    // among the lists of shows no letter is free
+    if (!mKind.OfShows) mUi->cmdViewDstAlbum->setText(tr("Vi&ew..."));
     using Self = TransferForm;
     connect(mUi->cboSrcAlbum, &QComboBox::currentIndexChanged, this, &Self::cboSrcAlbum_Click);
     connect(mUi->cboDstAlbum, &QComboBox::currentIndexChanged, this, &Self::cboDstAlbum_Click);
@@ -145,6 +149,7 @@ void TransferForm::Form_Load() {
     OwnSide().List(DBEngine);
     UpdateControls();
     AlignColumns();
+    mUi->lblHint->setMinimumHeight(HintLines * mUi->lblHint->fontMetrics().lineSpacing());
     layout()->activate();
     adjustSize();
 }
@@ -181,6 +186,8 @@ QString TransferForm::Hint() const {
         return tr("The database is read-only:\nnothing can be brought into it.");
     if (mKind.Exports && mSrc.AlbumEntries().isEmpty())
         return tr("There are no albums yet.\nNew Album in the menu Album makes one.");
+    if (IsUnread() && !mUi->txtDB->text().trimmed().isEmpty())
+        return tr("Press Enter to open this directory.");
     if (!mOther.Engine()) return tr(mKind.WhatNow);
     if (mSrc.AlbumEntries().isEmpty())
         return tr("There are no albums in this database.\nChoose another one.");

@@ -38,6 +38,8 @@ class TransferForm : public Form, public ChangeReceiver {
     bool Form_Unload() override;
     bool IsBusy() const override { return mWork != Work::None; }
     void CloseRequested() override;
+    // There is nothing in it that would be lost by an Esc too many.
+    void reject() override { CloseRequested(); }
     void keyPressEvent(QKeyEvent* Event) override;
     void dragEnterEvent(QDragEnterEvent* Event) override;
     void dropEvent(QDropEvent* Event) override;

@@ -100,6 +100,7 @@ bool TransferForm::IsSourceMeant() {
     const bool OneShow = !mKind.OfShows || mSrc.SlideShowEntries().size() <= 1;
     if (mKind.Exports || (OneAlbum && OneShow)) return true;
     (OneAlbum ? mUi->cboSrcSlideShow : mUi->cboSrcAlbum)->setFocus();
+    mUi->lblHint->setText(OneAlbum ? tr("Choose the slide show.") : tr("Choose the album."));
     return false;
 }
 

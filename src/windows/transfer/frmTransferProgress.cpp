@@ -77,7 +77,7 @@ double frmTransferProgress::SecondsSinceFirstByte(const TransferProgress& Now) {
 }
 
 void frmTransferProgress::Paint(const TransferProgress& Now) {
-    const bool Known = Now.At != TransferProgress::Stage::Looking;
+    const bool Known = Now.At == TransferProgress::Stage::Copying;
     mUi->pgbTransfer->setMaximum(Known ? WholeBar : 0);
     mUi->pgbTransfer->setValue(PartOfBar(Now));
     mUi->cmdStop->setEnabled(!mAt->Stopped && Now.At != TransferProgress::Stage::Writing);

@@ -1,3 +1,4 @@
+#include <QListWidget>
 #include <QMainWindow>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -125,4 +126,80 @@ TEST_F(FormInFrame, AMaximisedChildMayBeClosed) {
     Settle();
     EXPECT_TRUE(Child.isNull());
     EXPECT_TRUE(Area->subWindowList().isEmpty());
+}
+
+namespace {
+
+// A list between three buttons, of which the last one is the default.
+struct DefaultInFrame : FormInFrame {
+    QListWidget* List = nullptr;
+    QPushButton *First = nullptr, *Second = nullptr, *Default = nullptr;
+    QStringList Pressed;
+
+    QPushButton* Add(const QString& Name) {
+        auto* Made = new QPushButton(Name, Child);
+        Child->layout()->addWidget(Made);
+        QObject::connect(Made, &QPushButton::clicked, [this, Name] { Pressed << Name; });
+        return Made;
+    }
+    void SetUp() override {
+        FormInFrame::SetUp();
+        Child->Unload();
+        const auto Window = NewForm<TestForm>();
+        Child = Window.get();
+        new QVBoxLayout(Child);
+        First = Add(QStringLiteral("first"));
+        Second = Add(QStringLiteral("second"));
+        List = new QListWidget(Child);
+        List->addItems({QStringLiteral("a"), QStringLiteral("b")});
+        Child->layout()->addWidget(List);
+        Default = Add(QStringLiteral("default"));
+        Default->setDefault(true);
+        Area->addSubWindow(Child);
+        Window->ShowModeless();
+        Main.activateWindow();
+        First->setFocus();
+        Settle();
+    }
+    QString PressEnter() {
+        Pressed.clear();
+        QTest::keyClick(Main.focusWidget(), Qt::Key_Return);
+        return Pressed.join(u'|');
+    }
+};
+
+}  // namespace
+
+TEST_F(DefaultInFrame, EnterPressesTheDefaultButtonAfterTheFocusWasOnOthers) {
+    QTest::keyClick(Main.focusWidget(), Qt::Key_Tab);
+    ASSERT_TRUE(Second->hasFocus());
+    QTest::keyClick(Main.focusWidget(), Qt::Key_Tab);
+    ASSERT_TRUE(List->hasFocus());
+    EXPECT_EQ(QStringLiteral("default"), PressEnter());
+    EXPECT_FALSE(First->isDefault() || Second->isDefault());
+}
+
+TEST_F(DefaultInFrame, AButtonThatHasTheFocusIsTheDefaultMeanwhile) {
+    List->setFocus();
+    QTest::keyClick(Main.focusWidget(), Qt::Key_Backtab);
+    ASSERT_TRUE(Second->hasFocus());
+    EXPECT_TRUE(Second->isDefault());
+    EXPECT_FALSE(Default->isDefault());
+    EXPECT_EQ(QStringLiteral("second"), PressEnter());
+    Second->setAutoDefault(false);
+    List->setFocus();
+    Second->setFocus();
+    EXPECT_EQ(QStringLiteral("default"), PressEnter());
+}
+
+TEST_F(DefaultInFrame, AnotherWindowThatIsEnteredInBetweenChangesNothing) {
+    const QPointer<TestForm> Other = OpenChild();
+    auto* Theirs = new QPushButton(Other);
+    Theirs->show();
+    Theirs->setFocus();
+    Settle();
+    Area->setActiveSubWindow(Frame());
+    Second->setFocus();
+    List->setFocus();
+    EXPECT_EQ(QStringLiteral("default"), PressEnter());
 }

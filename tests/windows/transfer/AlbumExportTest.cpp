@@ -1,7 +1,11 @@
 // The export of an album: the directory of the other database, the proposed names, the order of the
 // checks, what a failure leaves and what a success tells.
+#include <QElapsedTimer>
 #include <QFile>
+#include <QPointer>
 #include <QThread>
+#include <chrono>
+#include <future>
 
 #include "TransferRig.h"
 
@@ -36,7 +40,7 @@ TEST_F(AlbumExport, OpensWithTheFirstAlbumAndNoDestination) {
     EXPECT_EQ(
         u"Replace Destination Album Contents (if any).  If unchecked the source album will "
         "be added to the destination album."_s,
-        In<QCheckBox>(*W, "chkReplace").text().remove(u'\n'));
+        In<QCheckBox>(*W, "chkReplace").text().remove(u'\n').remove(u'&'));
     EXPECT_TRUE(In<QPushButton>(*W, "cmdExport").isDefault());
     EXPECT_FALSE(In<QWidget>(*W, "cboSrcSlideShow").isVisible());
     EXPECT_NE("", HintIn(*W));
@@ -384,13 +388,36 @@ TEST_F(AlbumExport, ATypedDirectoryThatWasNotLoadedIsLoadedFirst) {
     EXPECT_TRUE(Everything(Empty.Path()).isEmpty());
 }
 
+// What stands in the lists is still that of the directory before.
+TEST_F(AlbumExport, TheHintSaysWhatToDoWithADirectoryThatIsNotRead) {
+    const std::string WhatNow = HintIn(*W);
+    Retype(Directory(*W), OtherDb.Path());
+    const std::string PressEnter = "Press Enter to open this directory.";
+    EXPECT_EQ(PressEnter, HintIn(*W));
+    QTest::keyClick(&Directory(*W), Qt::Key_Tab);
+    EXPECT_EQ(PressEnter, HintIn(*W)) << "and no box";
+    Directory(*W).setFocus();
+    QTest::keyClick(&Directory(*W), Qt::Key_Return);
+    EXPECT_EQ("", HintIn(*W));
+    QTest::keyClicks(&Directory(*W), u"x"_s);
+    EXPECT_EQ(PressEnter, HintIn(*W));
+    QTest::keyClick(&Directory(*W), Qt::Key_Backspace);
+    EXPECT_EQ("", HintIn(*W));
+    Reopen();
+    Retype(Directory(*W), u"  "_s);
+    EXPECT_EQ(WhatNow, HintIn(*W));
+}
+
 TEST_F(AlbumExport, TheLastTenDirectoriesAreOfferedAtTheField) {
-    for (int I = 0; I < 12; ++I) NoteDirectory(u"/stick/%1/"_s.arg(I));
-    NoteDirectory(u"/stick/5/"_s);
+    const auto Stick = [this](int Number) { return Empty / u"%1/"_s.arg(Number); };
+    for (int I = 0; I < 12; ++I) {
+        MakeDirs(Stick(I));
+        NoteDirectory(Stick(I));
+    }
+    NoteDirectory(Stick(5));
     NoteDirectory(OtherDb.Path());
-    EXPECT_EQ((QStringList{OtherDb.Path(), u"/stick/5/"_s, u"/stick/11/"_s, u"/stick/10/"_s,
-                           u"/stick/9/"_s, u"/stick/8/"_s, u"/stick/7/"_s, u"/stick/6/"_s,
-                           u"/stick/4/"_s, u"/stick/3/"_s}),
+    EXPECT_EQ((QStringList{OtherDb.Path(), Stick(5), Stick(11), Stick(10), Stick(9), Stick(8),
+                           Stick(7), Stick(6), Stick(4), Stick(3)}),
               LastDirectories());
     Directory(*W).setFocus();
     QTest::keyClick(&Directory(*W), Qt::Key_Down, Qt::AltModifier);
@@ -401,6 +428,82 @@ TEST_F(AlbumExport, TheLastTenDirectoriesAreOfferedAtTheField) {
     QCoreApplication::processEvents();
     EXPECT_EQ(OtherDb.Path().toStdString(), DirectoryIn(*W));
     EXPECT_EQ("<NEW ALBUM>*|Attic", Listed(*W, "cboDstAlbum"));
+}
+
+TEST_F(AlbumExport, DirectoriesThatHaveGoneAreNotOfferedUntilTheyAreBack) {
+    const QString Stick = Empty / u"stick/"_s;
+    NoteDirectory(OtherDb.Path());
+    NoteDirectory(Stick);
+    const auto Offered = [this] {
+        Directory(*W).setFocus();
+        QTest::keyClick(&Directory(*W), Qt::Key_Down, Qt::AltModifier);
+        auto* Menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        QStringList All;
+        for (const QAction* Each : Menu->actions()) All << Each->text();
+        QTest::keyClick(Menu, Qt::Key_Escape);
+        return All;
+    };
+    EXPECT_EQ(QStringList(OtherDb.Path()), Offered());
+    MakeDirs(Stick);
+    EXPECT_EQ((QStringList{Stick, OtherDb.Path()}), Offered());
+}
+
+TEST_F(AlbumExport, AMediumThatDoesNotAnswerHoldsUpNoListAndStaysInIt) {
+    using namespace std::chrono_literals;
+    struct Medium {
+        std::promise<void> Answers;
+        std::shared_future<void> Answer = Answers.get_future();
+    };
+    const auto Slow = std::make_shared<Medium>();
+    QElapsedTimer Since;
+    Since.start();
+    EXPECT_EQ((QStringList{u"slow"_s, u"there"_s, u"slow"_s}),
+              ThoseThere({u"slow"_s, u"gone"_s, u"there"_s, u"slow"_s}, 100ms,
+                         [Slow](const QString& Dir) {
+                             if (Dir == u"slow"_s) Slow->Answer.wait();
+                             return Dir != u"gone"_s;
+                         }));
+    EXPECT_GE(Since.elapsed(), 100);
+    EXPECT_LT(Since.elapsed(), 1000) << "not for each anew, nor until it answers";
+    Slow->Answers.set_value();
+}
+
+TEST_F(AlbumExport, OnePlaceIsRememberedInOneSpellingAndALinkAsItIsCalled) {
+    const QString Stick = Empty / u"stick"_s, Link = Empty / u"link"_s;
+    MakeDirs(Stick);
+    ASSERT_TRUE(QFile::link(Stick, Link));
+    NoteDirectory(Stick + u"//"_s);
+    NoteDirectory(Link);
+    NoteDirectory(Empty / u"other/../stick/."_s);
+    EXPECT_EQ((QStringList{Stick + u'/', Link + u'/'}), LastDirectories());
+}
+
+// A box lets events run, and the menu goes with them.
+TEST_F(AlbumExport, TheMenuHasGoneWhenWhatWasChosenInItIsTold) {
+    NoteDirectory(Empty.Path());
+    for (const bool ByMouse : {false, true}) {
+        ShowActive(*W);
+        Directory(*W).setFocus();
+        QTest::keyClick(&Directory(*W), Qt::Key_Down, Qt::AltModifier);
+        const QPointer<QMenu> Menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_FALSE(Menu.isNull());
+        bool IsInMenu = true;
+        Boxes.WhileNextIsOpen([&] {
+            ASSERT_FALSE(IsInMenu) << "it would be deleted under its own feet";
+            DoEvents();
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            EXPECT_TRUE(Menu.isNull());
+        });
+        ExpectOffer(BoxAnswer::No);
+        if (ByMouse)
+            QTest::mouseClick(Menu, Qt::LeftButton, {},
+                              Menu->actionGeometry(Menu->actions().front()).center());
+        else
+            QTest::keyClick(Menu, Qt::Key_Return);
+        IsInMenu = false;
+        QCoreApplication::processEvents();
+        EXPECT_EQ(Empty.Path().toStdString(), DirectoryIn(*W));
+    }
 }
 
 TEST_F(AlbumExport, ADirectoryIsRememberedOnceItHasBeenOpened) {

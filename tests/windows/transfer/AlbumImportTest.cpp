@@ -149,7 +149,9 @@ TEST_F(AlbumImport, ATypedDirectoryIsLoadedFirstAndAChoiceAwaited) {
     ASSERT_TRUE(W->IsLoaded());
     EXPECT_EQ("Attic*|Barn", Listed(*W, "cboSrcAlbum"));
     EXPECT_EQ("cboSrcAlbum", W->focusWidget()->objectName().toStdString());
+    EXPECT_EQ("Choose the album.", HintIn(*W));
     Choose(*W, "cboSrcAlbum", u"Barn"_s);
+    EXPECT_EQ("", HintIn(*W));
     Press(*W, "cmdImport");
     EXPECT_TRUE(Engine.FindAlbum(0, u"Barn"_s));
 }

@@ -30,7 +30,7 @@ TEST_F(ShowTransfer, TheWindowsHaveShowsAndANoteInPlaceOfReplacing) {
         EXPECT_TRUE(In<QWidget>(*Each, "lblNote").isVisible());
         EXPECT_EQ(
             u"NOTE: If Exporting to an Existing Slide Show it will always overwrite the existing copy."_s,
-            In<QLabel>(*Each, "lblNote").text());
+            In<QLabel>(*Each, "lblNote").text().replace(u'\n', u' '));
     }
     EXPECT_EQ("Garden*", Listed(*W, "cboSrcAlbum"));
     EXPECT_EQ("Summer*", Listed(*W, "cboSrcSlideShow"));

@@ -119,6 +119,8 @@ TEST_F(UnderWay, WhatIsBeingWrittenCannotBeStopped) {
         EXPECT_TRUE(Bar->Show({.At = TransferProgress::Stage::Copying, .OfPictures = 3}));
         Before = In<QPushButton>(*Bar, "cmdStop").isEnabled();
         EXPECT_TRUE(Bar->Show({.At = TransferProgress::Stage::Writing}));
+        EXPECT_EQ("", In<QProgressBar>(*Bar, "pgbTransfer").text().toStdString());
+        EXPECT_EQ(0, In<QProgressBar>(*Bar, "pgbTransfer").maximum()) << "it shows as busy";
         While = In<QPushButton>(*Bar, "cmdStop").isEnabled();
         QTest::keyClick(Bar.get(), Qt::Key_Escape);
     });
