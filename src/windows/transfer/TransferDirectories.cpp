@@ -1,7 +1,6 @@
 #include "windows/transfer/TransferDirectories.h"
 
 #include <QAction>
-#include <QDir>
 #include <QLineEdit>
 #include <QMenu>
 #include <future>
@@ -11,6 +10,7 @@
 #include "settings/SettingKeys.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/files/modHostFiles.h"
+#include "support/files/modHostFilesSpelling.h"
 #include "support/modFUFL.h"
 #include "windows/frame/modWindowState.h"
 
@@ -25,7 +25,7 @@ SettingAt PlaceOf(qsizetype Number) {
 
 // One spelling for one place; what a link is called stays.
 QString Tidy(const QString& Dir) {
-    return WithSeparator(QDir::cleanPath(AbsolutePath(Dir)));
+    return WithSeparator(CleanPath(Dir));
 }
 
 // A medium that does not answer holds up nobody but the thread that asked it.

@@ -179,6 +179,14 @@ TEST_F(DefaultInFrame, EnterPressesTheDefaultButtonAfterTheFocusWasOnOthers) {
     EXPECT_FALSE(First->isDefault() || Second->isDefault());
 }
 
+TEST_F(DefaultInFrame, EnterPressesTheDefaultButtonAfterATourOfAllOfThem) {
+    List->setFocus();
+    for (int I = 0; I < 4; ++I) QTest::keyClick(Main.focusWidget(), Qt::Key_Tab);
+    ASSERT_TRUE(List->hasFocus());
+    EXPECT_EQ(QStringLiteral("default"), PressEnter());
+    EXPECT_TRUE(Default->isDefault());
+}
+
 TEST_F(DefaultInFrame, AButtonThatHasTheFocusIsTheDefaultMeanwhile) {
     List->setFocus();
     QTest::keyClick(Main.focusWidget(), Qt::Key_Backtab);
