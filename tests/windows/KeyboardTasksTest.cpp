@@ -376,6 +376,7 @@ TEST_F(KeyboardTasks, AnAlbumAndAShowGoToAnotherDatabaseAndComeBack) {
     Key(Qt::Key_Down, Qt::AltModifier);
     ASSERT_NE(nullptr, QApplication::activePopupWidget());
     QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
+    DoEvents();  // what was chosen is opened once the list has gone
     Activate(*ShowOut);
     TabTo("cboDstAlbum");
     Key(Qt::Key_End);
