@@ -13,7 +13,6 @@
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
-#include "support/files/modHostFilesCopy.h"
 #include "support/modDEValidation.h"
 #include "support/modFUFL.h"
 #include "support/work/WorkAside.h"
@@ -72,6 +71,7 @@ class DiscWriting {
     const DiscDesk& mDesk;
     ProgressOfAll mProgress;
     std::vector<std::unique_ptr<clsNEBAlbum>> mParts;  // what was chosen, as it was then
+    qint64 mRoom = -1;                                 // bytes free; -1: not known
     QSet<QString> mAgreed;                             // files without which it goes on
     std::vector<BoxRequest> mBoxes;
     std::vector<ListedAlbum> mListed;  // what has come in
@@ -95,20 +95,16 @@ bool DiscWriting::LookAt(const clsNEBAlbum& Album, QStringList& Missing) {
     if (!Looked) return false;
     if (Looked->Obstacle) throw *Looked->Obstacle;
     for (const size_t Which : Looked->Missing) Missing << Plan.Files[Which].From;
+    mRoom = Looked->Room;
     mProgress.Expect(AllOf(Looked->Found));
     return true;
 }
 
 // Each transfer looks by itself; but the last of them would be told after hours.
 bool DiscWriting::HasRoom() {
-    const TransferProgress All = mProgress.Ahead();
-    const qint64 Needed = All.OfBytes;
-    const qint64 Free = FreeSpace(mDir);
-    if (Free < 0 || Free >= Needed) return true;
-    mBoxes = {Refuse(QStringLiteral("There is not enough room: %1 are needed, %2 are free in\n%3")
-                         .arg(ShortSize(Needed), ShortSize(Free), mDir),
-                     QStringLiteral("Operation Unsuccessful"))};
-    return false;
+    const Answer<> Fits = CheckRoom(mProgress.Ahead().OfBytes, mRoom, mDir);
+    if (!Fits) mBoxes = {Fits.Refusal()};
+    return static_cast<bool>(Fits);
 }
 
 bool DiscWriting::FillDatabase() {

@@ -173,6 +173,13 @@ std::optional<FilesLookedFor> LookForFiles(const TransferPlan& Plan, const QStri
     return Work.Take();
 }
 
+Answer<> CheckRoom(qint64 Needed, qint64 Room, const QString& DstDBPath) {
+    if (Room < 0 || Room >= Needed) return Done();
+    return Refuse(QStringLiteral("There is not enough room: %1 are needed, %2 are free in\n%3")
+                      .arg(ShortSize(Needed), ShortSize(Room), DstDBPath),
+                  QStringLiteral("Operation Unsuccessful"));
+}
+
 FileStage::FileStage(const QString& DBPath, const std::vector<FoundFile>& Files)
     : mDBPath(DBPath), mFiles(Files) {
     for (const char* Folder : {"Temp/Journal/", "Temp/"})

@@ -36,6 +36,9 @@ TransferProgress AllOf(const std::vector<FoundFile>& Files);
 std::optional<FilesLookedFor> LookForFiles(const TransferPlan& Plan, const QString& DstDBPath,
                                            const TransferGoOn& GoOn);
 
+// Refused where so many bytes are more than the room that was found; -1 for room: not known.
+Answer<> CheckRoom(qint64 Needed, qint64 Room, const QString& DstDBPath);
+
 class FileStage {
   public:
     FileStage(const QString& DBPath, const std::vector<FoundFile>& Files);

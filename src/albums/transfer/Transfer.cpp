@@ -152,8 +152,7 @@ Boxes PlanSlides(const TransferPlan& Plan, const clsNEBAlbum& Album, const clsNE
 }
 
 Decision DecideShow(const SlideShowTransfer& What) {
-    if (What.SrcSlideShowID == What.DstSlideShowID && What.SrcAlbumID == What.DstAlbumID &&
-        IsSameDatabase(What.SrcDB.DBPath(), What.DstDB.DBPath()))
+    if (What.SrcSlideShowID == What.DstSlideShowID && IsWithinAlbum(What))
         return {{},
                 {Refuse(QStringLiteral("You cannot Export a Slide Show to itself!"),
                         QStringLiteral("Invalid User Input"))}};

@@ -12,7 +12,7 @@ struct TransferProgress {
         Writing  // the records; cannot be stopped any more
     };
     Stage At = Stage::Looking;
-    int Pictures = 0;    // whole ones; thumbnails do not count
+    int Pictures = 0;  // whole ones; thumbnails do not count
     int OfPictures = 0;
     qint64 Bytes = 0;
     qint64 OfBytes = 0;

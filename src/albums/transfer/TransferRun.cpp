@@ -6,7 +6,6 @@
 #include "db/modLoadRecords.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
-#include "support/files/modHostFilesCopy.h"
 #include "support/work/WorkAside.h"
 
 namespace neb {
@@ -22,7 +21,7 @@ class TransferRun {
 
     TransferResult Run() {
         if (!Look()) return Stopped();
-        if (const Answer<> Fits = CheckRoom(); !Fits) return Refused(Fits.Refusal());
+        if (const Answer<> Fits = HasRoom(); !Fits) return Refused(Fits.Refusal());
         FileStage Stage(mDB.DBPath(), mFiles);
         if (!Stage.Copy([this](const TransferProgress& Now) { return Report(Now); }))
             return Stopped();
@@ -75,13 +74,8 @@ class TransferRun {
         std::erase_if(mFiles, [&](const FoundFile& Each) { return Thumbnails.contains(Each.To); });
     }
 
-    Answer<> CheckRoom() const {
-        qint64 Needed = RoomForRecords;
-        for (const FoundFile& Each : mFiles) Needed += Each.Bytes;
-        if (mRoom < 0 || mRoom >= Needed) return Done();
-        return Refuse(QStringLiteral("There is not enough room: %1 are needed, %2 are free in\n%3")
-                          .arg(ShortSize(Needed), ShortSize(mRoom), mDB.DBPath()),
-                      QStringLiteral("Operation Unsuccessful"));
+    Answer<> HasRoom() const {
+        return CheckRoom(AllOf(mFiles).OfBytes + RoomForRecords, mRoom, mDB.DBPath());
     }
 
     // While files were copied others may have been at work, and the numbers no longer free.
