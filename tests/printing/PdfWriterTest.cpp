@@ -4,20 +4,14 @@
 #include <QBuffer>
 
 #include "harness/FolderState.h"
+#include "harness/Sanitizer.h"
 #include "printing/PrintRig.h"
 
 namespace neb {
 namespace {
 
+using namespace harness;
 using namespace tests;
-
-#if defined(__has_feature)
-constexpr bool RunsUnderSanitizer = __has_feature(address_sanitizer);
-#elif defined(__SANITIZE_ADDRESS__)
-constexpr bool RunsUnderSanitizer = true;
-#else
-constexpr bool RunsUnderSanitizer = false;
-#endif
 
 class PdfWriterTest : public ::testing::Test {
   protected:

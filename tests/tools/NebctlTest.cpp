@@ -11,6 +11,7 @@
 #include "db/Fixtures.h"
 #include "db/modAlbumFiles.h"
 #include "db/modDatabaseLock.h"
+#include "harness/Sanitizer.h"
 #include "support/Fault.h"
 #include "support/files/CheckSums.h"
 #include "tools/modCommands.h"
@@ -20,14 +21,6 @@ namespace neb {
 namespace {
 
 using namespace harness;
-
-#if defined(__has_feature)
-constexpr bool RunsUnderSanitizer = __has_feature(address_sanitizer);
-#elif defined(__SANITIZE_ADDRESS__)
-constexpr bool RunsUnderSanitizer = true;
-#else
-constexpr bool RunsUnderSanitizer = false;
-#endif
 
 struct Outcome {
     int Code;

@@ -2,27 +2,16 @@
 #include "harness/FolderState.h"
 #include "printing/PrintRig.h"
 
+#include "ToolRun.h"
 #include "db/Fixtures.h"
 #include "db/modAlbumFiles.h"
 #include "settings/modNEBSlideShow.h"
-#include "tools/modCommands.h"
 
 namespace neb {
 namespace {
 
+using namespace harness;
 using namespace tests;
-
-struct Outcome {
-    int Code;
-    std::string Out, Err;
-};
-
-Outcome Tool(const QStringList& Arguments) {
-    std::ostringstream Out, Err;
-    ToolIO IO{Out, Err, false};
-    const int Code = RunTool(Arguments, IO);
-    return {Code, Out.str(), Err.str()};
-}
 
 class PrintToolTest : public ::testing::Test {
   protected:
@@ -64,12 +53,12 @@ class PrintToolTest : public ::testing::Test {
     QString Picture(std::int32_t SlideID) const {
         return SlidesFolder(Dir(), 1) + FileStem(SlideID) + u".jpg"_s;
     }
-    Outcome Print(const QStringList& More = {}) const {
+    ToolRun Print(const QStringList& More = {}) const {
         return Tool(QStringList{u"print"_s, Dir(), u"--album"_s, u"holiday"_s, Pdf()} + More);
     }
     void ExpectRefusal(const QStringList& Arguments, const std::string& Text) const {
         const QStringList Before = harness::Everything(mFolder.Path());
-        const Outcome Result = Tool(Arguments);
+        const ToolRun Result = Tool(Arguments);
         EXPECT_EQ(Result.Code, ExitFailed);
         EXPECT_EQ(Result.Out, "");
         EXPECT_NE(Result.Err.find(Text), std::string::npos) << Result.Err;
@@ -90,7 +79,7 @@ constexpr double Width = 1.5125 * 4 / 3, Height = 1.5125;
 
 TEST_F(PrintToolTest, AnAlbumIsASheetInTheOrderOfItsCaptions) {
     const QStringList Before = harness::Everything(Dir());
-    const Outcome Done = Print();
+    const ToolRun Done = Print();
     EXPECT_EQ(Done.Out, Pdf().toStdString() + ": 3 slides, 1 page.\n");
     EXPECT_EQ(Done.Err, "");
     EXPECT_EQ(Done.Code, ExitDone);
@@ -105,7 +94,7 @@ TEST_F(PrintToolTest, AnAlbumIsASheetInTheOrderOfItsCaptions) {
 }
 
 TEST_F(PrintToolTest, AShowIsPrintedInItsRunningOrder) {
-    const Outcome Done = Print(
+    const ToolRun Done = Print(
         {u"--show"_s, u"LAKE"_s, u"--columns"_s, u"2.5"_s, u"--rows"_s, u"1"_s, u"--portrait"_s});
     EXPECT_EQ(Done.Out, Pdf().toStdString() + ": 3 slides, 2 pages.\n") << Done.Err;
     EXPECT_EQ(Done.Code, ExitDone);
@@ -122,7 +111,7 @@ TEST_F(PrintToolTest, AShowIsPrintedInItsRunningOrder) {
 }
 
 TEST_F(PrintToolTest, AWholeSheetIsOneSlide) {
-    const Outcome Done = Print({u"--whole-sheet"_s, u"--landscape"_s});
+    const ToolRun Done = Print({u"--whole-sheet"_s, u"--landscape"_s});
     EXPECT_EQ(Done.Out, Pdf().toStdString() + ": 3 slides, 3 pages.\n");
     // From the first cell to the end of the picture in the last, at 7.1 and 5.9875.
     ExpectPlace(PageIn(Pdf(), 2), Green, {1, 1, 6.1 + Width, 4.9875 + Height});
@@ -132,7 +121,7 @@ TEST_F(PrintToolTest, AWholeSheetIsOneSlide) {
 TEST_F(PrintToolTest, WhatIsMissingIsNamedAndStoodInFor) {
     DeleteFile(Picture(2));
     WriteFile(Picture(3), ReadFile(Picture(3)).left(300));
-    const Outcome Done = Print();
+    const ToolRun Done = Print();
     EXPECT_EQ(Done.Code, ExitFound);
     EXPECT_EQ(Done.Out, Pdf().toStdString() + ": 3 slides, 1 page.\n");
     const std::string Says = "nebctl: missing or cannot be read, NoSlide.bmp takes its place: ";
@@ -150,7 +139,7 @@ TEST_F(PrintToolTest, AShowWithPlacesThatAreMissingIsPrintedWithoutThem) {
         Engine->GetAlbum(1)->TakeSlide(2);
         Engine->FinalizeDB();
     }
-    const Outcome Done = Print({u"--show"_s, u"Lake"_s});
+    const ToolRun Done = Print({u"--show"_s, u"Lake"_s});
     EXPECT_EQ(Done.Err, "nebctl: Slide #2 not found.\n");
     EXPECT_EQ(Done.Out, Pdf().toStdString() + ": 2 slides, 1 page.\n");
     EXPECT_EQ(Done.Code, ExitFound);

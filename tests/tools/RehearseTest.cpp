@@ -7,29 +7,17 @@
 #include <QJsonObject>
 #include <sstream>
 
+#include "ToolRun.h"
 #include "db/Fixtures.h"
 #include "db/modAlbumFiles.h"
 #include "harness/SoundFiles.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
-#include "tools/modCommands.h"
 
 namespace neb {
 namespace {
 
 using namespace harness;
-
-struct Outcome {
-    int Code;
-    std::string Out, Err;
-};
-
-Outcome Tool(const QStringList& Arguments) {
-    std::ostringstream Out, Err;
-    ToolIO IO{Out, Err, false};
-    const int Code = RunTool(Arguments, IO);
-    return {Code, Out.str(), Err.str()};
-}
 
 QByteArray Wave(int Seconds) {
     constexpr int Rate = 8000;
@@ -93,7 +81,7 @@ class RehearseTest : public ::testing::Test {
             Engine.SaveSlideShowSoundTrack(1, 1, 1, Name, From, To, false, false, Fade);
         });
     }
-    Outcome Rehearse(const QStringList& More = {}, const QString& Show = u"lake"_s) {
+    ToolRun Rehearse(const QStringList& More = {}, const QString& Show = u"lake"_s) {
         return Tool(QStringList{u"rehearse"_s, Folder / u"db"_s, u"--album"_s, u"HOLIDAY"_s,
                                 u"--show"_s, Show, u"--documents"_s, Folder / u"docs"_s} +
                     More);
@@ -104,7 +92,7 @@ class RehearseTest : public ::testing::Test {
 };
 
 TEST_F(RehearseTest, PrintsTheCueSheetOfASilentShow) {
-    const Outcome Result = Rehearse();
+    const ToolRun Result = Rehearse();
     EXPECT_EQ(
         "Album \"Holiday\", show \"Lake\": automatic, 5 s a slide\n"
         "\n"
@@ -123,7 +111,7 @@ TEST_F(RehearseTest, PrintsWhatTheSoundDoesAndWhatIsWrong) {
     AddTrack(u"song.wav"_s, 1, 2, true);
     WriteAt(Sounds(), u"song.wav"_s, Wave(12));
     DeleteFile(Slides() + u"00000003.jpg"_s);
-    const Outcome Result = Rehearse();
+    const ToolRun Result = Rehearse();
     EXPECT_EQ(
         "Album \"Holiday\", show \"Lake\": automatic, 5 s a slide\n"
         "\n"
@@ -153,7 +141,7 @@ TEST_F(RehearseTest, PrintsWhatTheSoundDoesAndWhatIsWrong) {
 TEST_F(RehearseTest, PrintsTheSameAsJson) {
     AddTrack(u"song.wav"_s, 1, 2, false);
     WriteAt(Sounds(), u"song.wav"_s, Wave(7));
-    const Outcome Result = Rehearse({u"--json"_s, u"--screen"_s, u"1280x1024"_s});
+    const ToolRun Result = Rehearse({u"--json"_s, u"--screen"_s, u"1280x1024"_s});
     QJsonParseError Error;
     const QJsonObject All =
         QJsonDocument::fromJson(QByteArray::fromStdString(Result.Out), &Error).object();
@@ -188,7 +176,7 @@ TEST_F(RehearseTest, PrintsTheSameAsJson) {
 }
 
 TEST_F(RehearseTest, RehearsesAShowWithNothingInIt) {
-    const Outcome Result = Rehearse({}, u"Hills"_s);
+    const ToolRun Result = Rehearse({}, u"Hills"_s);
     EXPECT_EQ(
         "Album \"Holiday\", show \"Hills\": automatic, 5 s a slide\n"
         "\n"
@@ -203,7 +191,7 @@ TEST_F(RehearseTest, RehearsesAShowWithNothingInIt) {
 TEST_F(RehearseTest, TheDocumentsFolderAboveTheDatabaseWillDo) {
     WriteAt(Folder / u"docs/NEB/NEB Slide Show/"_s, u"QLM.ini"_s,
             "Timeout=7\n[General]\nDBPath=../../../db\n");
-    const Outcome Result = Tool({u"rehearse"_s, Folder / u"docs"_s, u"--album"_s, u"Holiday"_s,
+    const ToolRun Result = Tool({u"rehearse"_s, Folder / u"docs"_s, u"--album"_s, u"Holiday"_s,
                                  u"--show"_s, u"Lake"_s, u"--documents"_s, Folder / u"docs"_s});
     EXPECT_EQ(ExitDone, Result.Code) << Result.Err;
     EXPECT_TRUE(Result.Out.starts_with("Album \"Holiday\", show \"Lake\": automatic, 7 s a slide"))
@@ -214,7 +202,7 @@ TEST_F(RehearseTest, SaysWhatThereIsWhenANameIsUnknown) {
     const QString Db = Folder / u"db"_s;
     EXPECT_EQ("nebctl: There is no album \"Work\"; there are: \"Holiday\".\n",
               Tool({u"rehearse"_s, Db, u"--album"_s, u"Work"_s, u"--show"_s, u"Lake"_s}).Err);
-    const Outcome NoShow = Rehearse({}, u"Sea"_s);
+    const ToolRun NoShow = Rehearse({}, u"Sea"_s);
     EXPECT_EQ("nebctl: There is no show \"Sea\"; there are: \"Lake\", \"Hills\".\n", NoShow.Err);
     EXPECT_EQ("", NoShow.Out);
     EXPECT_EQ(ExitFailed, NoShow.Code);
@@ -270,7 +258,7 @@ TEST_F(RehearseTest, RehearsesByTheRecordsThatTheNextStartWillFind) {
 }
 
 TEST_F(RehearseTest, ExplainsItself) {
-    const Outcome Help = Tool({u"rehearse"_s, u"--help"_s});
+    const ToolRun Help = Tool({u"rehearse"_s, u"--help"_s});
     EXPECT_EQ(ExitDone, Help.Code);
     for (const char* Word : {"--album NAME", "--show NAME", "--json", "--screen WxH",
                              "--documents DIR", "EffectSeconds", "EndsAt", "Exit code"})

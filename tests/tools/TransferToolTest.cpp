@@ -6,29 +6,17 @@
 #include <QFile>
 #include <sstream>
 
+#include "ToolRun.h"
 #include "db/Fixtures.h"
 #include "db/modAlbumFiles.h"
 #include "db/modDatabaseLock.h"
 #include "harness/FolderState.h"
 #include "support/Fault.h"
-#include "tools/modCommands.h"
 
 namespace neb {
 namespace {
 
 using namespace harness;
-
-struct Outcome {
-    int Code;
-    std::string Out, Err;
-};
-
-Outcome Tool(const QStringList& Arguments, bool Terminal = false) {
-    std::ostringstream Out, Err;
-    ToolIO IO{Out, Err, Terminal};
-    const int Code = RunTool(Arguments, IO);
-    return {Code, Out.str(), Err.str()};
-}
 
 // Names and contents below a folder, without dates: what is staged and taken back touches folders.
 QStringList Contents(const QString& Folder) {
@@ -139,13 +127,13 @@ class TransferToolTest : public ::testing::Test {
         Make.Album(Album);
         Make.Show(Show, {Make.Slide(u"old"_s)});
     }
-    Outcome Transfer(const QStringList& More = {}) const {
+    ToolRun Transfer(const QStringList& More = {}) const {
         return Tool(QStringList{u"transfer"_s, Src(), Dst(), u"--album"_s, u"Holiday"_s} + More);
     }
     // Refused with these words, and nothing was touched anywhere.
     void ExpectRefusal(const QStringList& Arguments, const std::string& Text) const {
         const QStringList Before = Contents(Dir.Path());
-        const Outcome Result = Tool(Arguments);
+        const ToolRun Result = Tool(Arguments);
         EXPECT_EQ(Result.Code, ExitFailed);
         EXPECT_EQ(Result.Out, "");
         EXPECT_NE(Result.Err.find(Text), std::string::npos) << Result.Err;
@@ -170,7 +158,7 @@ class TransferToolTest : public ::testing::Test {
 
 TEST_F(TransferToolTest, AnAlbumArrivesWholeInAnEmptyDirectory) {
     const QStringList Before = Contents(Src());
-    const Outcome Done = Transfer();
+    const ToolRun Done = Transfer();
     EXPECT_EQ(Done.Out, "Album \"Holiday\": 3 slides, 2 slide shows transferred.\n");
     EXPECT_EQ(Done.Err, "");
     EXPECT_EQ(Done.Code, ExitDone);
@@ -187,7 +175,7 @@ TEST_F(TransferToolTest, ADirectoryMayBeNamedFromWhereOneStands) {
     const QString Stood = QDir::currentPath();
     QDir::setCurrent(Dir.Path());
     MakeDirs(u"fresh"_s);
-    const Outcome Done = Tool({u"transfer"_s, u"src"_s, u"fresh"_s, u"--album"_s, u"Holiday"_s});
+    const ToolRun Done = Tool({u"transfer"_s, u"src"_s, u"fresh"_s, u"--album"_s, u"Holiday"_s});
     QDir::setCurrent(Stood);
     EXPECT_EQ(ExitDone, Done.Code) << Done.Err;
     EXPECT_EQ(Told(Dir / u"fresh/"_s, u"Holiday"_s), Slides + Shows);
@@ -196,7 +184,7 @@ TEST_F(TransferToolTest, ADirectoryMayBeNamedFromWhereOneStands) {
 TEST_F(TransferToolTest, WhatATransferThatWasCutOffHasLeftIsNamedByTheCheck) {
     MakeDirs(Src() + u"Temp/Transfer"_s);
     WriteFile(Src() + u"Temp/Transfer/0"_s, "half");
-    const Outcome Found = Tool({u"check"_s, Src()});
+    const ToolRun Found = Tool({u"check"_s, Src()});
     EXPECT_EQ(ExitFound, Found.Code);
     EXPECT_NE(std::string::npos, Found.Out.find("a transfer was cut off")) << Found.Out;
 }
@@ -232,7 +220,7 @@ TEST_F(TransferToolTest, ReplacingWhatIsNotThereMakesIt) {
 
 TEST_F(TransferToolTest, TheDestinationsAlbumMayBearAnotherName) {
     FillDestination(u"Holiday"_s, u"Lake"_s);
-    const Outcome Done = Tool(
+    const ToolRun Done = Tool(
         {u"transfer"_s, Src(), Dst(), u"--album"_s, u"hOLIDAY"_s, u"--to"_s, u"Tom's \"lake\""_s});
     EXPECT_EQ(Done.Out, "Album \"Tom’s “lake”\": 3 slides, 2 slide shows transferred.\n");
     EXPECT_EQ(Told(Dst(), u"Tom’s “lake”"_s), Slides + Shows);
@@ -243,7 +231,7 @@ TEST_F(TransferToolTest, TheDestinationsAlbumMayBearAnotherName) {
 }
 
 TEST_F(TransferToolTest, AShowBringsItsOwnSlidesAloneIntoANewAlbum) {
-    const Outcome Done = Transfer({u"--show"_s, u"lake"_s});
+    const ToolRun Done = Transfer({u"--show"_s, u"lake"_s});
     EXPECT_EQ(Done.Out, "Album \"Holiday\": 2 slides, 1 slide show transferred.\n") << Done.Err;
     EXPECT_EQ(Told(Dst(), u"Holiday"_s), QStringList({Slides[1], Slides[0], Shows[0]}));
     ExpectSound(Dst());
@@ -272,7 +260,7 @@ TEST_F(TransferToolTest, WithinOneDatabaseAnAlbumIsCopiedButNotOntoItself) {
     ExpectRefusal({u"transfer"_s, Src(), Link, u"--album"_s, u"Holiday"_s, u"--show"_s, u"Lake"_s,
                    u"--replace"_s},
                   "You cannot Export a Slide Show to itself!");
-    const Outcome Done =
+    const ToolRun Done =
         Tool({u"transfer"_s, Src(), Link, u"--album"_s, u"Holiday"_s, u"--to"_s, u"Copy"_s});
     EXPECT_EQ(Done.Out, "Album \"Copy\": 3 slides, 2 slide shows transferred.\n") << Done.Err;
     EXPECT_EQ(Told(Src(), u"Copy"_s), Slides + Shows);
@@ -288,7 +276,7 @@ TEST_F(TransferToolTest, WhatIsMissingIsListedAndEndsItUnlessItIsToBeLeftOut) {
     ExpectRefusal("nebctl: missing or cannot be read: " + Picture.toStdString() +
                   "\nnebctl: missing or cannot be read: " + Sound.toStdString() +
                   "\nnebctl: Nothing has been changed; --without-missing ");
-    const Outcome Done = Transfer({u"--without-missing"_s});
+    const ToolRun Done = Transfer({u"--without-missing"_s});
     EXPECT_EQ(Done.Code, ExitDone);
     EXPECT_EQ(Done.Out, "Album \"Holiday\": 3 slides, 2 slide shows transferred.\n");
     EXPECT_EQ(Done.Err, "nebctl: left out, as it cannot be read: " + Picture.toStdString() +
@@ -344,7 +332,7 @@ TEST_F(TransferToolTest, AFullDiskLeavesBothAsTheyWere) {
             Length = std::min(Length, Free);
             Free -= Length;
         });
-        const Outcome Failed = Transfer({u"--replace"_s});
+        const ToolRun Failed = Transfer({u"--replace"_s});
         SetHostWatcher({});
         EXPECT_EQ(Failed.Code, ExitFailed) << Room;
         EXPECT_EQ(Failed.Out, "") << Room;
@@ -357,7 +345,7 @@ TEST_F(TransferToolTest, RecordsThatAreNotAllWrittenAreCompletedLater) {
     SetHostWatcher([](HostStep Step, const QString& Path, qint64&) {
         if (Step == HostStep::Write && Path.endsWith(u"Slides.dat")) throw Fault(u"no"_s, Path);
     });
-    const Outcome Failed = Transfer();
+    const ToolRun Failed = Transfer();
     SetHostWatcher({});
     EXPECT_EQ(Failed.Code, ExitFailed);
     EXPECT_NE(Failed.Err.find("nebctl rewrite"), std::string::npos) << Failed.Err;
@@ -370,7 +358,7 @@ TEST_F(TransferToolTest, FilesThatAreNotAllInTheirPlacesAreNotCalledMissing) {
     SetHostWatcher([](HostStep Step, const QString& Path, qint64&) {
         if (Step == HostStep::Rename && Path.contains(u"/Albums/")) throw Fault(u"no"_s, Path);
     });
-    const Outcome Failed = Transfer();
+    const ToolRun Failed = Transfer();
     SetHostWatcher({});
     EXPECT_EQ(Failed.Code, ExitFailed);
     EXPECT_NE(Failed.Err.find("The transfer is done, but not all of its files are in their places"),
@@ -416,7 +404,7 @@ TEST_F(TransferToolTest, DocumentsFoldersAreUnderstoodOnBothSides) {
 
 TEST_F(TransferToolTest, ProgressGoesToATerminalAloneAndVanishes) {
     const QStringList Words = {u"transfer"_s, Src(), Dst(), u"--album"_s, u"Holiday"_s};
-    const Outcome Shown = Tool(Words, true);
+    const ToolRun Shown = Tool(Words, true);
     EXPECT_NE(Shown.Err.find("\rTransferring Looking at"), std::string::npos) << Shown.Err;
     EXPECT_NE(Shown.Err.find("\rTransferring Writing the records"), std::string::npos);
     EXPECT_TRUE(Shown.Err.ends_with("\r\033[K"));
