@@ -14,18 +14,7 @@ namespace {
 
 using namespace harness;
 
-class AlbumExport : public TransferRig {
-  protected:
-    std::shared_ptr<frmAlbumExport> W = OpenNew<frmAlbumExport>();
-    void Reopen() {
-        W->Unload();
-        W = OpenNew<frmAlbumExport>();
-    }
-    void ExpectOffer(BoxAnswer Answer) {
-        Boxes.Expect(NoDatabase + u"\nDo you want to make a new one there?"_s, InvalidDirectory,
-                     BoxIcon::Question, Answer);
-    }
-};
+class AlbumExport : public ExportRig {};
 
 TEST_F(AlbumExport, OpensWithTheFirstAlbumAndNoDestination) {
     AddAlbum(u"Apples"_s);

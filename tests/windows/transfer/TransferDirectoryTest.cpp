@@ -13,18 +13,7 @@ namespace {
 
 using namespace harness;
 
-class OtherDirectory : public TransferRig {
-  protected:
-    std::shared_ptr<frmAlbumExport> W = OpenNew<frmAlbumExport>();
-    void Reopen() {
-        W->Unload();
-        W = OpenNew<frmAlbumExport>();
-    }
-    void ExpectOffer(BoxAnswer Answer) {
-        Boxes.Expect(NoDatabase + u"\nDo you want to make a new one there?"_s, InvalidDirectory,
-                     BoxIcon::Question, Answer);
-    }
-};
+class OtherDirectory : public ExportRig {};
 
 // A database that takes long to read, like a stick that sleeps: its journal looks like a large one
 // until its last byte has been read.

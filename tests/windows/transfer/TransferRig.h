@@ -184,4 +184,18 @@ inline const QString NoDatabase =
     u"The specified directory does not hold an NEB Slide Show Database."_s;
 inline const QString InvalidDirectory = u"Invalid Directory"_s;
 
+// A window that exports an album, which stands open.
+class ExportRig : public TransferRig {
+  protected:
+    std::shared_ptr<frmAlbumExport> W = OpenNew<frmAlbumExport>();
+    void Reopen() {
+        W->Unload();
+        W = OpenNew<frmAlbumExport>();
+    }
+    void ExpectOffer(BoxAnswer Answer) {
+        Boxes.Expect(NoDatabase + u"\nDo you want to make a new one there?"_s, InvalidDirectory,
+                     BoxIcon::Question, Answer);
+    }
+};
+
 }  // namespace neb::harness
