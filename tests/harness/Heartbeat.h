@@ -1,8 +1,9 @@
 // How long a thread with an event loop stood still at a stretch: beats every 10 ms and keeps the
 // longest time between two beats. Time in which this thread, or another of the program that it may
-// be waiting for, would have run and got no processor is not counted, so that a machine that is
-// busy otherwise does not look like a frozen window. What the thread itself has worked always
-// counts.
+// be waiting for, would have run and got no processor is not counted, and of a wait for anything
+// else (a disk that writes for others, the machine's own host) only what goes beyond Grace, so that
+// a machine that is busy otherwise does not look like a frozen window. What the thread itself has
+// worked always counts.
 #pragma once
 
 #include <QDir>
@@ -18,7 +19,8 @@ namespace neb::harness {
 
 class Heartbeat {
   public:
-    explicit Heartbeat(std::function<void()> OnBeat = {}) : mOnBeat(std::move(OnBeat)) {
+    explicit Heartbeat(std::function<void()> OnBeat = {}, double Grace = 400)  // milliseconds
+        : mOnBeat(std::move(OnBeat)), mGrace(Grace) {
         QObject::connect(&mTimer, &QTimer::timeout, &mTimer, [this] { Beat(); });
         mTimer.setTimerType(Qt::PreciseTimer);
         mTimer.start(10);
@@ -40,8 +42,8 @@ class Heartbeat {
     }
     void Note() {
         const double Now = TimeWithProcessors(), Worked = WorkedTime();
-        mLongest = std::max(
-            {mLongest, Now - std::exchange(mLast, Now), Worked - std::exchange(mWorked, Worked)});
+        mLongest = std::max({mLongest, Now - std::exchange(mLast, Now) - mGrace,
+                             Worked - std::exchange(mWorked, Worked)});
     }
     static double WorkedTime() {
         struct timespec Now = {};
@@ -79,6 +81,7 @@ class Heartbeat {
     }
 
     std::function<void()> mOnBeat;
+    double mGrace;
     QTimer mTimer;
     int mBeats = 0;
     std::map<QString, double> mWaits;
