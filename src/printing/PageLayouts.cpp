@@ -9,6 +9,9 @@ constexpr double ShortSide = 6.5, LongSide = 9.0;
 constexpr double Gap = 0.15;         // between cells, in both directions
 constexpr double FromTheEdge = 1.0;  // of the page, to the left and at the top
 constexpr double LeastSide = 1.0;    // of a single picture
+constexpr double TwoLines = 0.34;    // of a caption, with the gap above it
+constexpr double AboveCaption = 0.04;
+constexpr double AboveFoot = 0.2, FootHeight = 0.2;
 
 double WidthOverHeight(QSize Picture) {
     return static_cast<double>(Picture.width()) / Picture.height();
@@ -20,6 +23,11 @@ double HeightOverWidth(QSize Picture) {
 
 double CellSide(double Area, int Count) {
     return (Area - Gap * (Count - 1)) / Count;
+}
+
+// Two lines, but never more than a third of a small cell.
+double CaptionHeightIn(QSizeF Cell) {
+    return std::min(TwoLines, Cell.height() / 3);
 }
 
 BoxRequest RefuseNumber(const GridWish& Wish, const QString& Text) {
@@ -60,7 +68,13 @@ Answer<CellGrid> GridFor(const GridWish& Wish) {
         return RefuseNumber(Wish, TooMany(Area.width(), "columns", "side by side"));
     if (!(Cell.height() > 0))
         return RefuseNumber(Wish, TooMany(Area.height(), "rows", "below each other"));
-    return CellGrid{Cols, Rows, Cell, Wish.Turn, Wish.KeepsRatio, Wish.WholeSheet};
+    return CellGrid{Cols,
+                    Rows,
+                    Cell,
+                    Wish.Turn,
+                    Wish.KeepsRatio,
+                    Wish.WholeSheet,
+                    Wish.Captions ? CaptionHeightIn(Cell) : 0};
 }
 
 QRectF CellAt(const CellGrid& Grid, int Row, int Col) {
@@ -74,11 +88,21 @@ QRectF CellAt(const CellGrid& Grid, int Index) {
 }
 
 QSizeF SizeInCell(const CellGrid& Grid, QSize Picture) {
-    const double W = Grid.Cell.width(), H = Grid.Cell.height();
-    if (!Grid.KeepsRatio || Picture.isEmpty()) return Grid.Cell;
+    const double W = Grid.Cell.width(), H = Grid.Cell.height() - Grid.CaptionHeight;
+    if (!Grid.KeepsRatio || Picture.isEmpty()) return {W, H};
     const double Wide = WidthOverHeight(Picture), High = HeightOverWidth(Picture);
     if (Wide >= 1) return Wide * H > W ? QSizeF(W, W * High) : QSizeF(Wide * H, H);
     return High * W > H ? QSizeF(H * Wide, H) : QSizeF(W, High * W);
+}
+
+QRectF CaptionPlace(const CellGrid& Grid, const QRectF& Cell, QSizeF Drawn) {
+    return {Cell.left(), Cell.top() + Drawn.height() + AboveCaption, Cell.width(),
+            Grid.CaptionHeight - AboveCaption};
+}
+
+QRectF FootPlace(PageTurn Turn) {
+    const QSizeF Area = LargestOn(Turn);
+    return {FromTheEdge, FromTheEdge + Area.height() + AboveFoot, Area.width(), FootHeight};
 }
 
 int PagesFor(const CellGrid& Grid, int Pictures) {

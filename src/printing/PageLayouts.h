@@ -23,6 +23,7 @@ struct GridWish {
     bool KeepsRatio = true;     // else every picture fills its cell
     bool WholeSheet = false;    // a sheet for each picture, which stands in every cell of it
     bool OfOnePicture = false;  // the cells hold copies: refusals speak of these
+    bool Captions = false;      // each cell keeps room at its foot for a caption
 };
 
 // A grid that can be drawn: every cell has a positive size.
@@ -33,6 +34,7 @@ struct CellGrid {
     PageTurn Turn = PageTurn::Landscape;
     bool KeepsRatio = true;
     bool WholeSheet = false;
+    double CaptionHeight = 0;  // of the cell's height; 0 without captions
 
     int CellsPerPage() const { return Cols * Rows; }
 };
@@ -46,6 +48,10 @@ QRectF CellAt(const CellGrid& Grid, int Index);
 // A picture of so many pixels within a cell: as large as fits where ratios are kept. It stands at
 // the cell's top left.
 QSizeF SizeInCell(const CellGrid& Grid, QSize Picture);
+// The room for the caption of a picture that is drawn so large: as wide as the cell, just under it.
+QRectF CaptionPlace(const CellGrid& Grid, const QRectF& Cell, QSizeF Drawn);
+// The line at the foot of a page, below the area of the cells and as wide.
+QRectF FootPlace(PageTurn Turn);
 // The pages that so many pictures take.
 int PagesFor(const CellGrid& Grid, int Pictures);
 

@@ -1,5 +1,7 @@
 #include "printing/PrintDocument.h"
 
+#include <QLocale>
+
 #include "support/Fault.h"
 #include "support/modNumbers.h"
 
@@ -15,6 +17,16 @@ int KnownAs(QHash<Key, int>& Known, const Key& Wanted, int Next) {
     if (Found != Known.constEnd()) return *Found;
     Known.insert(Wanted, Next);
     return Next;
+}
+
+// Those of the page out of those of all pages.
+template <class Placed, class Start>
+std::span<const Placed> OfPage(const std::vector<Placed>& All, const std::vector<Start>& Starts,
+                               std::size_t Start::*First, int Page) {
+    const Start& At = Starts.at(static_cast<std::size_t>(Page) - 1);
+    const auto Next = static_cast<std::size_t>(Page);
+    const std::size_t End = Next < Starts.size() ? Starts[Next].*First : All.size();
+    return std::span(All).subspan(At.*First, End - At.*First);
 }
 
 void DrawSmoothly(QPainter& Painter, const QRectF& Target, const QImage& Pixels) {
@@ -38,6 +50,15 @@ double InchesIn(const QString& Text) {
     return Inches;
 }
 
+QSizeF PaperOfCountry() {
+    using enum QLocale::Territory;
+    constexpr QLocale::Territory OnLetter[] = {
+        UnitedStates, Canada,    Mexico,    Belize, Chile,      Colombia,    CostaRica,
+        ElSalvador,   Guatemala, Nicaragua, Panama, PuertoRico, Philippines, Venezuela};
+    const auto Country = QLocale::system().territory();
+    return std::ranges::find(OnLetter, Country) != std::end(OnLetter) ? LetterPaper : A4Paper;
+}
+
 PrintDocument::PrintDocument(PrintPicture StandIn, QSizeF Paper)
     : mStandIn(std::move(StandIn)), mPaper(Paper) {}
 
@@ -50,13 +71,14 @@ void PrintDocument::Clear() {
     mByPath.clear();
     mByBytes.clear();
     mPlaces.clear();
+    mTexts.clear();
     mPageStarts.clear();
     mOpen = false;
 }
 
 void PrintDocument::StartDoc() {
     Clear();
-    mPageStarts.push_back(0);
+    mPageStarts.emplace_back();
     mOpen = true;
 }
 
@@ -66,7 +88,7 @@ void PrintDocument::MustBeOpen() const {
 
 void PrintDocument::NewPage() {
     MustBeOpen();
-    mPageStarts.push_back(mPlaces.size());
+    mPageStarts.push_back({mPlaces.size(), mTexts.size()});
 }
 
 void PrintDocument::DrawPicture(const PrintPicture& Picture, const QString& X, const QString& Y,
@@ -76,6 +98,11 @@ void PrintDocument::DrawPicture(const PrintPicture& Picture, const QString& X, c
     if (!(Place.width() > 0 && Place.height() > 0))
         throw Fault(QStringLiteral("A picture of %1 by %2 cannot be drawn.").arg(Width, Height));
     mPlaces.push_back({NumberOf(Picture), Place});
+}
+
+void PrintDocument::DrawText(const PlacedText& Text) {
+    MustBeOpen();
+    if (!Text.Text.isEmpty()) mTexts.push_back(Text);
 }
 
 void PrintDocument::EndDoc() {
@@ -92,10 +119,18 @@ int PrintDocument::NumberOf(const PrintPicture& Picture) {
 }
 
 std::span<const PlacedPicture> PrintDocument::PlacesOn(int Page) const {
-    const std::size_t First = mPageStarts.at(static_cast<std::size_t>(Page) - 1);
-    const bool IsLast = Page == PageCount();
-    const std::size_t End = IsLast ? mPlaces.size() : mPageStarts[static_cast<std::size_t>(Page)];
-    return std::span(mPlaces).subspan(First, End - First);
+    return OfPage(mPlaces, mPageStarts, &PageStart::Place, Page);
+}
+
+std::span<const PlacedText> PrintDocument::TextsOn(int Page) const {
+    return OfPage(mTexts, mPageStarts, &PageStart::Text, Page);
+}
+
+QRectF PrintDocument::ContentOf(int Page) const {
+    QRectF Content;
+    for (const PlacedPicture& Each : PlacesOn(Page)) Content |= Each.Place;
+    for (const PlacedText& Each : TextsOn(Page)) Content |= Each.Place;
+    return Content;
 }
 
 QImage PrintDocument::PixelsAt(const PlacedPicture& Placed, QSize Most) const {

@@ -30,10 +30,21 @@ double InchesIn(const QString& Text);
 // Sheets of paper, upright, in inches.
 inline constexpr QSizeF LetterPaper{8.5, 11.0};
 inline constexpr QSizeF A4Paper{210 / 25.4, 297 / 25.4};
+// The paper that the user's country prints on.
+QSizeF PaperOfCountry();
 
 struct PlacedPicture {
     int Picture = 0;  // its number in the document
     QRectF Place;     // inches from the page's top left corner
+};
+
+enum class TextSide { Left, Right };
+
+// A text within a place: as many lines as have room, the last one cut short where there is more.
+struct PlacedText {
+    QString Text;
+    QRectF Place;  // inches from the page's top left corner
+    TextSide Side = TextSide::Left;
 };
 
 class PrintDocument {
@@ -43,7 +54,8 @@ class PrintDocument {
 
     PageTurn Orientation() const { return mOrientation; }
     void SetOrientation(PageTurn Turn) { mOrientation = Turn; }
-    QSizeF PageSize() const;  // inches, turned
+    const QSizeF& Paper() const { return mPaper; }  // inches, upright
+    QSizeF PageSize() const;                        // inches, turned
 
     // As texts with their unit. The places of pictures do not depend on them.
     const QMarginsF& Margins() const { return mMargins; }  // inches
@@ -55,19 +67,24 @@ class PrintDocument {
     void Clear();  // no pages are left
     // A document with an empty first page; what was composed before goes.
     void StartDoc();
-    // These three throw Fault outside StartDoc and EndDoc.
+    // These four throw Fault outside StartDoc and EndDoc.
     void NewPage();
     // X, Y, Width and Height as texts in inches. Throws Fault when they are none, or no size.
     void DrawPicture(const PrintPicture& Picture, const QString& X, const QString& Y,
                      const QString& Width, const QString& Height);
+    void DrawText(const PlacedText& Text);  // an empty one is not kept
     void EndDoc();
 
     int PageCount() const { return static_cast<int>(mPageStarts.size()); }
     int PlaceCount() const { return static_cast<int>(mPlaces.size()); }
     // Pages from 1, as the user counts them.
     std::span<const PlacedPicture> PlacesOn(int Page) const;
+    std::span<const PlacedText> TextsOn(int Page) const;
     const PrintPicture& Picture(int Number) const { return mPictures[Number]; }
     const PrintPicture& StandIn() const { return mStandIn; }
+
+    // The smallest box around all that stands on a page, in inches; empty for an empty page.
+    QRectF ContentOf(int Page) const;
 
     // Draws a page with its top left corner at the painter's origin, Scale units of the painter to
     // the inch. Throws Fault when not even the picture that stands in can be read.
@@ -86,8 +103,13 @@ class PrintDocument {
     std::vector<PrintPicture> mPictures;  // each once
     QHash<QString, int> mByPath;
     QHash<QByteArray, int> mByBytes;
-    std::vector<PlacedPicture> mPlaces;    // of all pages
-    std::vector<std::size_t> mPageStarts;  // the first place on each page
+    // Where the places and the texts of a page begin among those of all pages.
+    struct PageStart {
+        std::size_t Place = 0, Text = 0;
+    };
+    std::vector<PlacedPicture> mPlaces;
+    std::vector<PlacedText> mTexts;
+    std::vector<PageStart> mPageStarts;
 };
 
 }  // namespace neb

@@ -138,6 +138,7 @@ std::optional<PlainJpeg> ReadPlainJpeg(const QByteArray& Bytes) {
 }
 
 QByteArray FileBytesOf(const PrintPicture& Picture) {
+    if (Picture.Shelf) return Picture.Shelf->Read(Picture.At, Picture.Length);
     if (Picture.Path.isEmpty()) return Picture.Bytes;
     if (FileSize(Picture.Path) > LargestPictureFile) ThrowFileTooLarge();
     return ReadFile(Picture.Path);

@@ -6,13 +6,24 @@
 #include <QByteArray>
 #include <QImage>
 #include <QString>
+#include <memory>
 #include <optional>
 
 namespace neb {
 
+// A file that holds many pictures one behind the other, kept open. Read from any thread.
+class PictureShelf {
+  public:
+    virtual ~PictureShelf() = default;
+    // Throws Fault when they cannot be read.
+    virtual QByteArray Read(qint64 At, qint64 Length) const = 0;
+};
+
 struct PrintPicture {
-    QString Path;      // empty: Bytes are the picture
+    QString Path;      // empty: Bytes are the picture, or the part of a shelf
     QByteArray Bytes;  // of the whole file, of any format that the program reads
+    std::shared_ptr<const PictureShelf> Shelf = {};
+    qint64 At = 0, Length = 0;  // bytes from the shelf's start
 };
 
 // The bytes of its file. Throws Fault when it cannot be read.

@@ -38,42 +38,65 @@ void Draw(PrintDocument& Document, const PrintPicture& Picture, QPointF At, QSiz
 
 class Sheets {
   public:
-    Sheets(PrintDocument& Into, const CellGrid& Grid) : mInto(Into), mGrid(Grid) {}
+    Sheets(PrintDocument& Into, const CellGrid& Grid, const SheetContents& Contents)
+        : mInto(Into),
+          mGrid(Grid),
+          mContents(Contents),
+          mPages(PagesFor(Grid, static_cast<int>(Contents.Paths.size()))) {}
 
-    void Add(const Measured& Shown) {
+    void Add(const Measured& Shown, const QString& Caption) {
         if (mCell == mGrid.CellsPerPage()) {
             mInto.NewPage();
             mCell = 0;
         }
-        const QSizeF Size = SizeInCell(mGrid, Shown.Size);
-        do Draw(mInto, Shown.Picture, CellAt(mGrid, mCell).topLeft(), Size);
+        if (mCell == 0) DrawFoot();
+        do DrawInCell(Shown, Caption);
         while (++mCell < mGrid.CellsPerPage() && mGrid.WholeSheet);
     }
 
   private:
+    void DrawInCell(const Measured& Shown, const QString& Caption) {
+        const QRectF Cell = CellAt(mGrid, mCell);
+        const QSizeF Size = SizeInCell(mGrid, Shown.Size);
+        Draw(mInto, Shown.Picture, Cell.topLeft(), Size);
+        if (mGrid.CaptionHeight > 0) mInto.DrawText({Caption, CaptionPlace(mGrid, Cell, Size)});
+    }
+    // The number has the right third of the line, the name what is left of it.
+    void DrawFoot() {
+        QRectF Place = FootPlace(mGrid.Turn);
+        if (mContents.PageNumbers) {
+            const double Third = Place.width() / 3;
+            mInto.DrawText({QStringLiteral("%1 / %2").arg(mInto.PageCount()).arg(mPages),
+                            Place.adjusted(2 * Third, 0, 0, 0), TextSide::Right});
+            Place.setWidth(2 * Third);
+        }
+        mInto.DrawText({mContents.Name, Place});
+    }
+
     PrintDocument& mInto;
     const CellGrid& mGrid;
+    const SheetContents& mContents;
+    const int mPages;
     int mCell = 0;  // the next one on the page, from 0
 };
 
 }  // namespace
 
-ComposedSheets ComposeSheets(PrintDocument& Into, const CellGrid& Grid, const QStringList& Paths,
-                             const PrintGoOn& GoOn) {
+ComposedSheets ComposeSheets(PrintDocument& Into, const CellGrid& Grid,
+                             const SheetContents& Contents, const PrintGoOn& GoOn) {
     ComposedSheets Result;
-    if (Paths.isEmpty()) {
+    const auto Total = static_cast<int>(Contents.Paths.size());
+    if (Total == 0) {
         Into.Clear();
         return Result;
     }
     Begin(Into, Grid.Turn);
-    Sheets Filled(Into, Grid);
-    int Done = 0;
-    for (const QString& Path : Paths) {
-        const Measured Shown = Measure(Into, Path);
-        Filled.Add(Shown);
-        if (Shown.StandsIn) Result.StoodInFor << Path;
-        Result.Whole = !GoOn || GoOn({++Done, static_cast<int>(Paths.size())});
-        if (!Result.Whole) break;
+    Sheets Filled(Into, Grid, Contents);
+    for (int I = 0; I < Total && Result.Whole; ++I) {
+        const Measured Shown = Measure(Into, Contents.Paths[I]);
+        Filled.Add(Shown, Contents.Captions.value(I));
+        if (Shown.StandsIn) Result.StoodInFor << Contents.Paths[I];
+        Result.Whole = !GoOn || GoOn({I + 1, Total});
     }
     Into.EndDoc();
     return Result;

@@ -13,11 +13,18 @@ struct ComposedSheets {
     QStringList StoodInFor;  // the pictures that cannot be read, each once for every place
 };
 
-// Composes a document of its own out of picture files, in their order; without any it has no page.
-// GoOn hears of every picture and may be empty. Throws Fault when a picture cannot be read and the
-// document's stand-in neither.
-ComposedSheets ComposeSheets(PrintDocument& Into, const CellGrid& Grid, const QStringList& Paths,
-                             const PrintGoOn& GoOn = {});
+// What comes onto sheets.
+struct SheetContents {
+    QStringList Paths;          // the picture files, in their order
+    QStringList Captions = {};  // of the pictures, where the grid has room for them
+    QString Name = {};          // at the foot of each page; empty: none
+    bool PageNumbers = false;   // at the foot of each page
+};
+
+// Composes a document of its own; without pictures it has no page. GoOn hears of every picture and
+// may be empty. Throws Fault when a picture cannot be read and the document's stand-in neither.
+ComposedSheets ComposeSheets(PrintDocument& Into, const CellGrid& Grid,
+                             const SheetContents& Contents, const PrintGoOn& GoOn = {});
 
 // Composes one page of one picture. Refused as its size is. Throws as ComposeSheets does.
 Answer<> ComposeSlide(PrintDocument& Into, const SlideWish& Wish, const QString& Path);

@@ -18,6 +18,11 @@ QHash<std::int32_t, const Object*> ByNumber(const std::vector<std::unique_ptr<Ob
     return Found;
 }
 
+void Add(SlidesToPrint& To, const QString& DBPath, std::int32_t AlbumID, const clsNEBSlide& Slide) {
+    To.Paths << SlidePath(DBPath, AlbumID, Slide.SlideLoc);
+    To.Captions << Slide.SlideText;
+}
+
 }  // namespace
 
 SlidesToPrint SlidesOf(clsNEBAlbum& Album, const QString& DBPath) {
@@ -25,7 +30,7 @@ SlidesToPrint SlidesOf(clsNEBAlbum& Album, const QString& DBPath) {
     const auto Slides = ByNumber(Album.Slides, &clsNEBSlide::SlideID);
     Album.SortSlides();
     for (const NameIndexEntry& Row : Album.SlideIndex)
-        Result.Paths << SlidePath(DBPath, Album.AlbumID, Slides[Row.ID]->SlideLoc);
+        Add(Result, DBPath, Album.AlbumID, *Slides[Row.ID]);
     return Result;
 }
 
@@ -39,7 +44,7 @@ SlidesToPrint SlidesOf(const clsNEBAlbum& Album, const clsNEBSlideShow& SlideSho
         const clsNEBSlideShowDetail* Detail = Details.value(I);
         const clsNEBSlide* Slide = Detail ? Slides.value(Detail->SlideID) : nullptr;
         if (Slide) {
-            Result.Paths << SlidePath(DBPath, Album.AlbumID, Slide->SlideLoc);
+            Add(Result, DBPath, Album.AlbumID, *Slide);
             continue;
         }
         const QString What = Detail ? QStringLiteral("Slide") : QStringLiteral("Detail");

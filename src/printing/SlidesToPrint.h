@@ -12,6 +12,7 @@ namespace neb {
 
 struct SlidesToPrint {
     QStringList Paths;                // in their order; a file may be missing
+    QStringList Captions;             // as many
     std::vector<BoxRequest> Missing;  // what is to be said of places that have no slide
 };
 

@@ -1,6 +1,5 @@
 #include "tools/modPrint.h"
 
-#include <QLocale>
 #include <optional>
 
 #include "db/clsDBEngine.h"
@@ -78,16 +77,6 @@ std::optional<PrintOrder> ReadOrder(QStringList Words, ToolIO& IO) {
     return Order;
 }
 
-// The paper that the user's country prints on.
-QSizeF PaperOf(const QLocale& Locale) {
-    using enum QLocale::Territory;
-    constexpr QLocale::Territory OnLetter[] = {
-        UnitedStates, Canada,    Mexico,    Belize, Chile,      Colombia,    CostaRica,
-        ElSalvador,   Guatemala, Nicaragua, Panama, PuertoRico, Philippines, Venezuela};
-    const bool Letter = std::ranges::find(OnLetter, Locale.territory()) != std::end(OnLetter);
-    return Letter ? LetterPaper : A4Paper;
-}
-
 QString Counted(int Number, const char* What) {
     const QString Text = QString::number(Number) + u' ' + QLatin1String(What);
     return Number == 1 ? Text : Text + u's';
@@ -117,7 +106,7 @@ class ToolPrint {
         for (const BoxRequest& Box : Slides.Missing) Fail(mIO, Box.Text);
         if (Slides.Paths.isEmpty())
             return Fail(mIO, QStringLiteral("There are no slides; nothing has been written."));
-        PrintDocument Document(PrintPicture{NoSlideFile(), {}}, PaperOf(QLocale::system()));
+        PrintDocument Document(PrintPicture{NoSlideFile(), {}}, PaperOfCountry());
         const QStringList StoodInFor = Write(Document, Slides.Paths);
         for (const QString& Path : StoodInFor)
             Fail(mIO, QStringLiteral("missing or cannot be read, NoSlide.bmp takes its place: %1")
@@ -134,7 +123,7 @@ class ToolPrint {
             Line.Show(static_cast<size_t>(Now.Done), static_cast<size_t>(Now.Total));
             return true;
         };
-        const ComposedSheets Sheets = ComposeSheets(Document, mGrid, Paths);
+        const ComposedSheets Sheets = ComposeSheets(Document, mGrid, {Paths});
         WritePdf(Document, mOrder.Out, GoOn);
         return Sheets.StoodInFor;
     }

@@ -145,7 +145,7 @@ TEST_F(PrintDocumentTest, SheetsAreFilledCellByCellAndEndWithTheLastPicture) {
     QStringList Paths;
     for (int I = 0; I < 5; ++I) Paths << File(("p" + std::to_string(I)).c_str(), Red, {40, 30});
     PrintDocument Document = Empty();
-    const auto Sheets = ComposeSheets(Document, Grid({2, 1}), Paths);
+    const auto Sheets = ComposeSheets(Document, Grid({2, 1}), {Paths});
     EXPECT_TRUE(Sheets.Whole);
     EXPECT_TRUE(Sheets.StoodInFor.isEmpty());
     ASSERT_EQ(Document.PageCount(), 3);
@@ -156,7 +156,7 @@ TEST_F(PrintDocumentTest, SheetsAreFilledCellByCellAndEndWithTheLastPicture) {
     // (9 - 0.15) / 2 = 4.425 wide; 3 / 4 of it high.
     EXPECT_EQ(Document.PlacesOn(3)[0].Place, QRectF(1, 1, 4.425, 4.425 * 0.75));
     EXPECT_EQ(Document.PlacesOn(2)[1].Place.x(), 1 + 4.425 + 0.15);
-    ComposeSheets(Document, Grid({2, 1}), Paths.mid(1));
+    ComposeSheets(Document, Grid({2, 1}), {Paths.mid(1)});
     EXPECT_EQ(Document.PageCount(), 2) << "no empty page follows a full one";
 }
 
@@ -165,7 +165,7 @@ TEST_F(PrintDocumentTest, AWholeSheetShowsOnePictureInEveryCell) {
     Wish.WholeSheet = true;
     PrintDocument Document = Empty();
     const QString First = File("a.jpg", Red, {40, 30}), Second = File("b.jpg", Blue, {40, 30});
-    ComposeSheets(Document, Grid(Wish), {First, Second, First});
+    ComposeSheets(Document, Grid(Wish), {{First, Second, First}});
     ASSERT_EQ(Document.PageCount(), 3);
     for (int Page = 1; Page <= 3; ++Page) {
         ASSERT_EQ(Document.PlacesOn(Page).size(), 6U);
@@ -179,14 +179,14 @@ TEST_F(PrintDocumentTest, MissingAndDamagedPicturesAreStoodInForAndNamed) {
     WriteFile(Torn, ReadFile(Torn).left(200));
     PrintDocument Document = Empty();
     const auto Sheets =
-        ComposeSheets(Document, Grid({1, 1}), {Gone, File("a.jpg", Red, {40, 30}), Torn});
+        ComposeSheets(Document, Grid({1, 1}), {{Gone, File("a.jpg", Red, {40, 30}), Torn}});
     EXPECT_EQ(Sheets.StoodInFor, (QStringList{Gone, Torn}));
     EXPECT_EQ(Document.PageCount(), 3);
     EXPECT_EQ(Document.Picture(Document.PlacesOn(3)[0].Picture).Path, NoSlide());
     // Four by three, within 9 by 6.5.
     EXPECT_NEAR(Document.PlacesOn(3)[0].Place.width(), 6.5 * 4 / 3, 1e-9);
     DeleteFile(NoSlide());
-    EXPECT_THROW(ComposeSheets(Document, Grid({1, 1}), {Gone}), Fault);
+    EXPECT_THROW(ComposeSheets(Document, Grid({1, 1}), {{Gone}}), Fault);
 }
 
 TEST_F(PrintDocumentTest, ComposingTellsOfEveryPictureAndCanBeEnded) {
@@ -194,7 +194,7 @@ TEST_F(PrintDocumentTest, ComposingTellsOfEveryPictureAndCanBeEnded) {
     PrintDocument Document = Empty();
     std::vector<int> Told;
     const auto Sheets =
-        ComposeSheets(Document, Grid({1, 1}), {One, One, One, One}, [&](const PrintProgress& Now) {
+        ComposeSheets(Document, Grid({1, 1}), {{One, One, One, One}}, [&](const PrintProgress& Now) {
             EXPECT_EQ(Now.Total, 4);
             Told.push_back(Now.Done);
             return Now.Done < 2;
@@ -205,8 +205,8 @@ TEST_F(PrintDocumentTest, ComposingTellsOfEveryPictureAndCanBeEnded) {
 
 TEST_F(PrintDocumentTest, NoPicturesMakeNoPage) {
     PrintDocument Document = Empty();
-    ComposeSheets(Document, Grid({1, 1}), {File("a.jpg", Red, {40, 30})});
-    ComposeSheets(Document, Grid({1, 1}), {});
+    ComposeSheets(Document, Grid({1, 1}), {{File("a.jpg", Red, {40, 30})}});
+    ComposeSheets(Document, Grid({1, 1}), {{}});
     EXPECT_EQ(Document.PageCount(), 0);
 }
 
