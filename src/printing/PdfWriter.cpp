@@ -4,6 +4,7 @@
 
 #include <exception>
 
+#include "printing/TextLines.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
 
@@ -74,6 +75,18 @@ PdfPicture Named(PdfPicture Picture, int Number) {
     Attach(Pixels, CAIRO_MIME_TYPE_UNIQUE_ID,
            QByteArray(reinterpret_cast<const char*>(Parts), sizeof Parts));
     return Picture;
+}
+
+void AddPath(cairo_t* Paper, const QPainterPath& Path) {
+    for (int I = 0; I < Path.elementCount(); ++I) {
+        const QPainterPath::Element At = Path.elementAt(I);
+        if (At.isMoveTo()) cairo_move_to(Paper, At.x, At.y);
+        if (At.isLineTo()) cairo_line_to(Paper, At.x, At.y);
+        if (!At.isCurveTo()) continue;
+        // its other two points follow as elements of their own
+        const QPainterPath::Element Second = Path.elementAt(++I), End = Path.elementAt(++I);
+        cairo_curve_to(Paper, At.x, At.y, Second.x, Second.y, End.x, End.y);
+    }
 }
 
 // The file under its name for the time being; it goes with the object unless it took its place.
@@ -183,6 +196,7 @@ class PdfFile {
             Draw(Picture, Placed.Place);
             if (GoOn && !GoOn({++mDone, mDocument.PlaceCount()})) return false;
         }
+        for (const PlacedText& Text : mDocument.TextsOn(Page)) Draw(OutlinesOf(Text));
         return true;
     }
     PdfPicture PictureFor(const PlacedPicture& Placed) const {
@@ -204,6 +218,15 @@ class PdfFile {
         cairo_scale(mPaper, 1 / Width, 1 / Height);
         cairo_set_source_surface(mPaper, Picture.Pixels.get(), 0, 0);
         cairo_paint(mPaper);
+        cairo_restore(mPaper);
+    }
+
+    void Draw(const QPainterPath& Outlines) {
+        cairo_save(mPaper);
+        cairo_scale(mPaper, PointsToTheInch, PointsToTheInch);
+        AddPath(mPaper, Outlines);
+        cairo_set_source_rgb(mPaper, 0, 0, 0);
+        cairo_fill(mPaper);
         cairo_restore(mPaper);
     }
 

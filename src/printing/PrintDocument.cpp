@@ -2,6 +2,7 @@
 
 #include <QLocale>
 
+#include "printing/TextLines.h"
 #include "support/Fault.h"
 #include "support/modNumbers.h"
 
@@ -33,6 +34,13 @@ void DrawSmoothly(QPainter& Painter, const QRectF& Target, const QImage& Pixels)
     Painter.save();
     Painter.setRenderHint(QPainter::SmoothPixmapTransform);
     Painter.drawImage(Target, Pixels);
+    Painter.restore();
+}
+
+void DrawOutlines(QPainter& Painter, const QPainterPath& Outlines) {
+    Painter.save();
+    Painter.setRenderHint(QPainter::Antialiasing);
+    Painter.fillPath(Outlines, Qt::black);
     Painter.restore();
 }
 
@@ -154,6 +162,8 @@ void PrintDocument::PaintPage(QPainter& Painter, int Page, double Scale) const {
         Most = Dots;
         DrawSmoothly(Painter, Target, Pixels);
     }
+    for (const PlacedText& Text : TextsOn(Page))
+        DrawOutlines(Painter, QTransform::fromScale(Scale, Scale).map(OutlinesOf(Text)));
 }
 
 }  // namespace neb
