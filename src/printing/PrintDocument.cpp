@@ -51,7 +51,7 @@ double InchesIn(const QString& Text) {
 }
 
 QSizeF PaperOfCountry() {
-    using enum QLocale::Territory;
+    using enum QLocale::Country;
     constexpr QLocale::Territory OnLetter[] = {
         UnitedStates, Canada,    Mexico,    Belize, Chile,      Colombia,    CostaRica,
         ElSalvador,   Guatemala, Nicaragua, Panama, PuertoRico, Philippines, Venezuela};
