@@ -13,7 +13,7 @@ namespace neb {
 namespace {
 
 constexpr int Notch = 120;  // of a wheel
-constexpr int ShadowDepth = 7;
+constexpr int ShadowDepth = 7;  // pixels
 constexpr int FocusWidth = 2;
 constexpr QColor FaultText(0x60, 0x60, 0x60);
 
@@ -31,7 +31,7 @@ void PaintShadow(QPainter& Painter, const QRect& Place) {
     Painter.save();
     Painter.setRenderHint(QPainter::Antialiasing);
     Painter.setPen(Qt::NoPen);
-    Painter.setBrush(QColor(0, 0, 0, 14));
+    Painter.setBrush(QColor(0, 0, 0, 10));
     for (int Depth = ShadowDepth; Depth > 0; --Depth)
         Painter.drawRoundedRect(Place.adjusted(-Depth, 1 - Depth, Depth, Depth + 2), Depth, Depth);
     Painter.restore();

@@ -34,9 +34,9 @@ class PreviewLooks : public PreviewRig {
         const double Scale = View().Zoom() * View().logicalDpiX() / 100;
         return QPointF(At - View().PlaceOf(View().PreviewPage()).topLeft()) / Scale;
     }
-    void CloseMenu() {
+    void CloseMenu(const char* OpenedBy) {
         QWidget* Menu = QApplication::activePopupWidget();
-        ASSERT_NE(nullptr, qobject_cast<QMenu*>(Menu));
+        ASSERT_NE(nullptr, qobject_cast<QMenu*>(Menu)) << OpenedBy;
         EXPECT_EQ(View().actions(), Menu->actions());
         QTest::keyClick(Menu, Qt::Key_Escape);
         EXPECT_EQ(nullptr, QApplication::activePopupWidget());
@@ -74,11 +74,11 @@ TEST_F(PreviewLooks, TheNavigationMenuPopsUpAtThePointerAndByTheKeyboard) {
     QContextMenuEvent ByMouse(QContextMenuEvent::Mouse, {50, 60},
                               Port()->mapToGlobal(QPoint(50, 60)));
     QCoreApplication::sendEvent(Port(), &ByMouse);
-    CloseMenu();
+    CloseMenu("the mouse");
     Key(Qt::Key_F10, Qt::ShiftModifier);
-    CloseMenu();
-    QTest::keyClick(Window->windowHandle(), Qt::Key_Menu);
-    CloseMenu();
+    CloseMenu("Shift+F10");
+    Key(Qt::Key_Menu);
+    CloseMenu("the menu key");
 }
 
 TEST_F(PreviewLooks, EachViewShowsThePagesAsItSays) {
