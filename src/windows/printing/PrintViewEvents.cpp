@@ -12,7 +12,7 @@
 namespace neb {
 namespace {
 
-constexpr int Notch = 120;  // of a wheel
+constexpr int Notch = 120;      // of a wheel
 constexpr int ShadowDepth = 7;  // pixels
 constexpr int FocusWidth = 2;
 constexpr QColor FaultText(0x60, 0x60, 0x60);
@@ -28,7 +28,9 @@ QColor GroundOf(const QPalette& Palette) {
 }
 
 void PaintShadow(QPainter& Painter, const QRect& Place) {
+    const QRect Reach = Place.adjusted(-ShadowDepth, -ShadowDepth, ShadowDepth, ShadowDepth + 2);
     Painter.save();
+    Painter.setClipRegion(QRegion(Reach) - Place);
     Painter.setRenderHint(QPainter::Antialiasing);
     Painter.setPen(Qt::NoPen);
     Painter.setBrush(QColor(0, 0, 0, 10));

@@ -10,6 +10,7 @@ namespace {
 constexpr int Gap = 16;                // pixels around each sheet
 constexpr double ThumbnailSide = 1.6;  // inches of the screen, the longer side
 constexpr double LeastScale = 2;
+constexpr double MostSide = 100'000;  // pixels; no sheet of paper comes near it
 
 double ScaleToFit(QSizeF Paper, QSize Room) {
     return std::min(Room.width() / Paper.width(), Room.height() / Paper.height());
@@ -63,7 +64,8 @@ double ZoomBeside(double Percent, int Steps) {
 
 PrintViewLayout::PrintViewLayout(const PrintViewState& State) {
     if (State.Pages == 0 || State.Paper.isEmpty()) return;
-    mScale = std::max(LeastScale, ScaleOf(State));
+    const double Most = MostSide / std::max(State.Paper.width(), State.Paper.height());
+    mScale = std::min(Most, std::max(LeastScale, ScaleOf(State)));
     mSheet = (State.Paper * mScale).toSize().expandedTo({1, 1});
     mFirst = FirstOf(State);
     mColumns = ColumnsOf(State, mSheet.width());

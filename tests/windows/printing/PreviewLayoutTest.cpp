@@ -94,6 +94,18 @@ TEST(PreviewLayout, IsEmptyWithoutPagesAndHoldsInTheSmallestRoom) {
     }
 }
 
+TEST(PreviewLayout, NoPaperIsTooLargeOrTooNarrow) {
+    for (const QSizeF Paper : {QSizeF(1e9, 1e9), QSizeF(1e-9, 1e6), QSizeF(1e-9, 1e-9)})
+        for (const PageView Each : {PageView::ByZoom, PageView::WholePage, PageView::PageWidth,
+                                    PageView::TwoPages, PageView::Thumbnails}) {
+            PrintViewState State = With(Each);
+            State.Paper = Paper;
+            const QSize Sheet = PrintViewLayout(State).PlaceOf(1).size();
+            EXPECT_FALSE(Sheet.isEmpty());
+            EXPECT_EQ(Sheet, Sheet.boundedTo({100000, 100000}));
+        }
+}
+
 TEST(PreviewLayout, TheNextZoomIsTheNearestOfTheList) {
     EXPECT_EQ(150, ZoomBeside(100, 1));
     EXPECT_EQ(200, ZoomBeside(100, 5));

@@ -104,6 +104,20 @@ TEST_F(PreviewPixels, PaperStaysWhiteOnAGroundThatIsNot) {
     }
 }
 
+TEST_F(PreviewPixels, AreSeenCoarseUntilTheyAreThereAtANewSize) {
+    Show(1);
+    Settle();
+    View().SetZoom(200);
+    View().SetScrollTop(0);
+    View().SetScrollLeft(0);
+    const QRect Paper = View().PlaceOf(1);
+    const QPoint Middle = Paper.topLeft() + (PicturePlace.center() * 192).toPoint();
+    const QImage Image = Port()->grab().toImage();
+    EXPECT_FALSE(View().IsSharp());
+    EXPECT_LT(tests::Distance(Dot(Image, Middle), ColourOfPage(1).rgb()), 30);
+    EXPECT_TRUE(Shows(1));
+}
+
 TEST_F(PreviewPixels, ShowThatTheViewHasTheFocus) {
     Show(1);
     const QImage With = Seen();

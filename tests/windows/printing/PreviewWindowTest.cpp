@@ -171,6 +171,7 @@ TEST_F(PreviewWindow, EnterPressesTheButtonWithTheFocusAndNoOther) {
     Key(Qt::Key_Return);
     Key(Qt::Key_Enter);
     QTest::keyClick(&Zooms(), Qt::Key_Return);
+    QTest::keyClick(static_cast<QWidget*>(Window.get()), Qt::Key_Return);
     EXPECT_EQ(0, Prints.count());
     EXPECT_TRUE(Window->IsLoaded());
     auto& Next = In<QPushButton>(*Window, "cmdNextPage");
