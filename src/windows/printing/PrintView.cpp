@@ -1,7 +1,6 @@
 // What is shown and how; painting and the user's hands are in PrintViewEvents.cpp.
 #include "windows/printing/PrintView.h"
 
-#include <QAction>
 #include <QScrollBar>
 #include <QStyle>
 #include <algorithm>
@@ -48,14 +47,12 @@ void PrintView::MakeActions() {
     }
     auto* Line = new QAction(this);
     Line->setSeparator(true);
-    auto* In = new QAction(tr("Zoom &In"), this);
-    auto* Out = new QAction(tr("Zoom &Out"), this);
-    In->setShortcuts(
+    mZoomIn->setShortcuts(
         {QKeySequence(Qt::CTRL | Qt::Key_Plus), QKeySequence(Qt::CTRL | Qt::Key_Equal)});
-    Out->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Minus));
-    connect(In, &QAction::triggered, this, &PrintView::ZoomIn);
-    connect(Out, &QAction::triggered, this, &PrintView::ZoomOut);
-    addActions({Line, In, Out});
+    mZoomOut->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Minus));
+    connect(mZoomIn, &QAction::triggered, this, &PrintView::ZoomIn);
+    connect(mZoomOut, &QAction::triggered, this, &PrintView::ZoomOut);
+    addActions({Line, mZoomIn, mZoomOut});
 }
 
 void PrintView::SetDocument(std::shared_ptr<const PrintDocument> Document) {
@@ -187,6 +184,8 @@ void PrintView::Relayout() {
 void PrintView::Follow() {
     for (QAction* Each : actions())
         Each->setChecked(Each->data().isValid() && Each->data().toInt() == int(mLook.View));
+    mZoomIn->setEnabled(ZoomBeside(Zoom(), 1) != Zoom());
+    mZoomOut->setEnabled(ZoomBeside(Zoom(), -1) != Zoom());
     const QString Where = tr("Page %1 of %2").arg(mLook.Page).arg(PageCount());
     setAccessibleDescription(PageCount() > 0 ? Where : tr("There are no pages to look at."));
     ShowHand(CanScroll() && !IsGrid() ? Qt::OpenHandCursor : Qt::ArrowCursor);

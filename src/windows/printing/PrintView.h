@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QAbstractScrollArea>
+#include <QAction>
 #include <memory>
 #include <optional>
 
@@ -122,6 +123,8 @@ class PrintView : public QAbstractScrollArea {
     PageView mFormer = PageView::ByZoom;  // before the thumbnails
     Hand mHand;
     PrintViewLayout mLayout;
+    QAction* mZoomIn = new QAction(tr("Zoom &In"), this);
+    QAction* mZoomOut = new QAction(tr("Zoom &Out"), this);
 };
 
 }  // namespace neb

@@ -1,5 +1,4 @@
 // How the pages are painted, and what the user's hands do with them.
-#include <QAction>
 #include <QCoreApplication>
 #include <QMenu>
 #include <QPainter>
@@ -41,7 +40,7 @@ void PaintShadow(QPainter& Painter, const QRect& Place) {
 
 void PaintText(QPainter& Painter, const QRect& Place, const QString& Text, const QColor& Colour) {
     Painter.setPen(Colour);
-    Painter.drawText(Place, Qt::AlignCenter | Qt::TextWordWrap, Text);
+    Painter.drawText(Place, Qt::AlignCenter | Qt::TextWordWrap | Qt::TextWrapAnywhere, Text);
 }
 
 void PaintFrame(QPainter& Painter, const QRect& Inside, const QColor& Colour) {

@@ -156,8 +156,10 @@ TEST_F(PreviewLooks, PlusAndMinusZoomAlongTheList) {
     Key(Qt::Key_Plus);
     Key(Qt::Key_Plus);
     EXPECT_EQ(200, View().Zoom());
+    EXPECT_FALSE(Way("Zoom &In").isEnabled());
     for (int I = 0; I < 20; ++I) Key(Qt::Key_Minus);
     EXPECT_EQ(25, View().Zoom());
+    EXPECT_FALSE(Way("Zoom &Out").isEnabled());
     Way("Zoom &In").trigger();
     EXPECT_EQ("30", Zooms().currentText().toStdString());
     QTest::keyClick(&Zooms(), Qt::Key_Minus, Qt::ControlModifier);

@@ -173,6 +173,8 @@ TEST_F(PreviewWindow, EnterPressesTheButtonWithTheFocusAndNoOther) {
     QTest::keyClick(&Zooms(), Qt::Key_Return);
     QTest::keyClick(static_cast<QWidget*>(Window.get()), Qt::Key_Return);
     EXPECT_EQ(0, Prints.count());
+    for (const QPushButton* Each : Window->findChildren<QPushButton*>())
+        EXPECT_FALSE(Each->isDefault() || Each->autoDefault()) << Each->objectName().toStdString();
     EXPECT_TRUE(Window->IsLoaded());
     auto& Next = In<QPushButton>(*Window, "cmdNextPage");
     Next.setFocus();
