@@ -1,5 +1,7 @@
 #include "windows/printing/PageImages.h"
 
+#include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QPainter>
 #include <QThread>
 #include <algorithm>
@@ -10,12 +12,34 @@
 namespace neb {
 namespace {
 
-constexpr int LookEvery = 4;  // milliseconds
+constexpr int LookEvery = 4;         // milliseconds
+constexpr int PatienceAtEnd = 2000;  // milliseconds
 
 // One more than there are processors: a page that has just come into sight does not wait for
 // those that have gone out of it.
 std::size_t MostAtOnce() {
     return static_cast<std::size_t>(std::clamp(QThread::idealThreadCount() + 1, 2, 4));
+}
+
+using Presence = std::shared_ptr<const char>;
+
+void AwaitPainters();
+
+// Held by each thread that paints, whoever has gone meanwhile.
+const Presence& AtWork() {
+    static const auto* const All = [] {
+        qAddPostRoutine(&AwaitPainters);
+        return new Presence(std::make_shared<const char>());
+    }();
+    return *All;
+}
+
+// Fonts and decoders go with the program: it ends a little later than the last thread that uses
+// them, but for one that hangs on a medium which has gone.
+void AwaitPainters() {
+    QElapsedTimer Waited;
+    Waited.start();
+    while (AtWork().use_count() > 1 && Waited.elapsed() < PatienceAtEnd) QThread::msleep(1);
 }
 
 PageImage Painted(const PageImages::PaintFunction& Paint, const PageRequest& What) {
@@ -120,7 +144,10 @@ void PageImages::BeginNext() {
 
 void PageImages::Begin(const PageRequest& Next) {
     MakeRoom(Next.Bytes());
-    auto Work = [Paint = mPaint, Next](JobState&) { return neb::Painted(Paint, Next); };
+    auto Work = [Here = AtWork(), Paint = mPaint, Next](JobState&) mutable {
+        const Presence UntilPainted = std::move(Here);
+        return neb::Painted(Paint, Next);
+    };
     mRunning.push_back({Next, std::make_unique<Job<PageImage>>(std::move(Work))});
 }
 

@@ -2,6 +2,7 @@
 #include <QProcess>
 
 #include "PreviewRig.h"
+#include "harness/ChildRole.h"
 #include "harness/Heartbeat.h"
 
 namespace neb {
@@ -196,6 +197,32 @@ TEST_F(PreviewPixels, AreNoLongerWaitedForWhenTheWindowCloses) {
         EXPECT_TRUE(Window->Unload());
         Window.reset();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+}
+
+int CloseAndEnd() {
+    static const TempFolder Folder;
+    const auto Window = NewForm<frmPrintPreview>();
+    Window->ShowDocument(LargeDocument(Folder));
+    Window->ShowModeless();
+    QCoreApplication::processEvents();
+    Window->VSPrinter1().grab();
+    if (Window->VSPrinter1().IsSharp()) return 2;
+    Window->Unload();
+    return 0;
+}
+
+const ChildRole Ends("preview-closed-at-the-end", &CloseAndEnd);
+
+// A program that ends takes away what its threads paint with.
+TEST_F(PreviewPixels, MayStillBePaintedWhenTheProgramEnds) {
+    for (int I = 0; I < 8; ++I) {
+        QProcess Copy;
+        Copy.start(QCoreApplication::applicationFilePath(),
+                   {u"--role"_s, u"preview-closed-at-the-end"_s});
+        ASSERT_TRUE(Copy.waitForFinished(20000));
+        EXPECT_EQ(QProcess::NormalExit, Copy.exitStatus()) << I;
+        EXPECT_EQ(0, Copy.exitCode()) << I;
     }
 }
 
