@@ -5,6 +5,7 @@
 #include "printing/TextLines.h"
 #include "support/Fault.h"
 #include "support/modNumbers.h"
+#include "support/work/AheadQueue.h"
 
 namespace neb {
 namespace {
@@ -35,6 +36,14 @@ void DrawSmoothly(QPainter& Painter, const QRectF& Target, const QImage& Pixels)
     Painter.setRenderHint(QPainter::SmoothPixmapTransform);
     Painter.drawImage(Target, Pixels);
     Painter.restore();
+}
+
+QImage PixelsOrStandIn(const PrintPicture& Picture, const PrintPicture& StandIn, QSize Most) {
+    try {
+        return PixelsOf(Picture, Most);
+    } catch (const Fault&) {
+        return PixelsOf(StandIn, Most);
+    }
 }
 
 void DrawOutlines(QPainter& Painter, const QPainterPath& Outlines) {
@@ -149,26 +158,33 @@ QRectF PrintDocument::ContentOf(int Page) const {
     return Content;
 }
 
-QImage PrintDocument::PixelsAt(const PlacedPicture& Placed, QSize Most) const {
-    try {
-        return PixelsOf(Picture(Placed.Picture), Most);
-    } catch (const Fault&) {
-        return PixelsOf(mStandIn, Most);
-    }
-}
-
-void PrintDocument::PaintPage(QPainter& Painter, int Page, double Scale) const {
-    QImage Pixels;
-    QSize Most;
-    int Held = -1;
+std::vector<PrintDocument::ToDraw> PrintDocument::ToDrawOn(int Page, const QPainter& Painter,
+                                                           double Scale) const {
+    std::vector<ToDraw> All;
     for (const PlacedPicture& Placed : PlacesOn(Page)) {
         const QRectF Target(Placed.Place.topLeft() * Scale, Placed.Place.size() * Scale);
         const QSize Dots = Painter.deviceTransform().mapRect(Target).size().toSize();
         // A sheet shows one picture many times.
-        if (Placed.Picture != Held || Dots != Most) Pixels = PixelsAt(Placed, Dots);
-        Held = Placed.Picture;
-        Most = Dots;
-        DrawSmoothly(Painter, Target, Pixels);
+        const bool Again =
+            !All.empty() && All.back().Number == Placed.Picture && All.back().Dots == Dots;
+        if (Again)
+            All.back().Targets.push_back(Target);
+        else
+            All.push_back({Placed.Picture, Picture(Placed.Picture), Dots, {Target}});
+    }
+    return All;
+}
+
+// The pictures are read side by side on all processors.
+void PrintDocument::PaintPage(QPainter& Painter, int Page, double Scale) const {
+    AheadQueue<ToDraw, QImage> Ahead(ToDrawOn(Page, Painter, Scale),
+                                     [StandIn = mStandIn](const ToDraw& Is) {
+                                         return PixelsOrStandIn(Is.Picture, StandIn, Is.Dots);
+                                     });
+    while (!Ahead.AtEnd()) {
+        const std::vector<QRectF> Targets = Ahead.Next().Targets;
+        const QImage Pixels = Ahead.Take();
+        for (const QRectF& Target : Targets) DrawSmoothly(Painter, Target, Pixels);
     }
     for (const PlacedText& Text : TextsOn(Page))
         DrawOutlines(Painter, QTransform::fromScale(Scale, Scale).map(OutlinesOf(Text)));

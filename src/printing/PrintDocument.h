@@ -95,7 +95,14 @@ class PrintDocument {
   private:
     void MustBeOpen() const;
     int NumberOf(const PrintPicture& Picture);
-    QImage PixelsAt(const PlacedPicture& Placed, QSize Most) const;
+    // A picture of a page at one size, and all the places where it is drawn one after the other.
+    struct ToDraw {
+        int Number;
+        PrintPicture Picture;
+        QSize Dots;
+        std::vector<QRectF> Targets;
+    };
+    std::vector<ToDraw> ToDrawOn(int Page, const QPainter& Painter, double Scale) const;
 
     PrintPicture mStandIn;
     QSizeF mPaper;
