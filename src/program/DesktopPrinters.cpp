@@ -127,8 +127,9 @@ void FitTo(const PrintDocument& Document, QPrinter& Printer) {
 
 std::shared_ptr<QPrinter> PrinterFor(const QString& Device, const PrintDocument& Document,
                                      const PrintWish& Wish) {
-    const auto Made =
-        std::make_shared<QPrinter>(QPrinterInfo::printerInfo(Device), QPrinter::HighResolution);
+    const QPrinterInfo Info = QPrinterInfo::printerInfo(Device);
+    const auto Made = std::make_shared<QPrinter>(Info, QPrinter::HighResolution);
+    if (Info.defaultPageSize().isValid()) Made->setPageSize(Info.defaultPageSize());
     Made->setDocName(Wish.Title);
     Made->setCreator(QApplication::applicationDisplayName());
     FitTo(Document, *Made);
