@@ -4,8 +4,8 @@
 
 #include "controls/directories/Drives.h"
 #include "controls/forms/DesktopBoxes.h"
-#include "program/DesktopMail.h"
-#include "program/DesktopPrinters.h"
+#include "program/desktop/DesktopMail.h"
+#include "program/desktop/DesktopPrinters.h"
 #include "program/ScreenBlanking.h"
 #include "sound/devices/SdlSoundDevices.h"
 

@@ -7,7 +7,7 @@
 #include <QGuiApplication>
 #include <QLibrary>
 
-#include "program/SessionBus.h"
+#include "program/desktop/SessionBus.h"
 
 namespace neb {
 namespace {

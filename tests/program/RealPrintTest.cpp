@@ -13,7 +13,7 @@
 #include "harness/ChildRole.h"
 #include "printing/PrintRig.h"
 #include "printing/SheetComposer.h"
-#include "program/DesktopPrinters.h"
+#include "program/desktop/DesktopPrinters.h"
 #include "windows/printing/frmPrintPreview.h"
 #include "windows/transfer/frmTransferProgress.h"
 

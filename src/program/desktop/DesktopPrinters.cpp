@@ -1,4 +1,4 @@
-#include "program/DesktopPrinters.h"
+#include "program/desktop/DesktopPrinters.h"
 
 #include <QApplication>
 #include <QPointer>
@@ -7,7 +7,7 @@
 #include <QPrinterInfo>
 
 #include "printing/PrintReach.h"
-#include "program/QueueState.h"
+#include "program/desktop/QueueState.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
 #include "support/work/WorkAside.h"

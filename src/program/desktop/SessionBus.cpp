@@ -1,4 +1,4 @@
-#include "program/SessionBus.h"
+#include "program/desktop/SessionBus.h"
 
 #include "support/files/modHostFiles.h"
 

@@ -1,4 +1,4 @@
-#include "program/MailPortal.h"
+#include "program/desktop/MailPortal.h"
 
 #include <unistd.h>
 
@@ -9,8 +9,8 @@
 #include <QDBusUnixFileDescriptor>
 #include <QWidget>
 
-#include "program/AwaitAnswer.h"
-#include "program/DesktopMail.h"
+#include "program/desktop/AwaitAnswer.h"
+#include "program/desktop/DesktopMail.h"
 #include "support/Fault.h"
 #include "support/files/modHostFilesAccess.h"
 

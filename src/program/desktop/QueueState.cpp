@@ -1,4 +1,4 @@
-#include "program/QueueState.h"
+#include "program/desktop/QueueState.h"
 
 #include <cups/cups.h>
 

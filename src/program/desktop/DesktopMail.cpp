@@ -1,4 +1,4 @@
-#include "program/DesktopMail.h"
+#include "program/desktop/DesktopMail.h"
 
 #include <QProcess>
 #include <QRegularExpression>
@@ -6,9 +6,9 @@
 #include <memory>
 #include <optional>
 
-#include "program/AwaitAnswer.h"
-#include "program/MailPortal.h"
-#include "program/SessionBus.h"
+#include "program/desktop/AwaitAnswer.h"
+#include "program/desktop/MailPortal.h"
+#include "program/desktop/SessionBus.h"
 
 namespace neb {
 namespace {
