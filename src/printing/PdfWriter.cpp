@@ -4,8 +4,8 @@
 
 #include <exception>
 
+#include "printing/FileBeside.h"
 #include "support/Fault.h"
-#include "support/files/modHostFiles.h"
 
 namespace neb {
 namespace {
@@ -76,40 +76,6 @@ PdfPicture Named(PdfPicture Picture, int Number) {
     return Picture;
 }
 
-// The file under its name for the time being; it goes with the object unless it took its place.
-class FileBeside {
-  public:
-    explicit FileBeside(const QString& Path)
-        : mPath(Path), mBeside(ResolvePath(Path) + QStringLiteral(".new")) {
-        mWriter.emplace(mBeside);
-    }
-    ~FileBeside() {
-        mWriter.reset();
-        try {
-            if (!mKept) DeleteFile(mBeside);
-        } catch (const Fault&) {
-            return;  // the fault before is the one to tell
-        }
-    }
-    FileBeside(const FileBeside&) = delete;
-    FileBeside& operator=(const FileBeside&) = delete;
-
-    void Write(const uchar* Data, unsigned Length) {
-        mWriter->Write(reinterpret_cast<const char*>(Data), Length);
-    }
-    void TakePlace() {
-        mWriter->Sync();
-        mWriter->Close();
-        RenameFile(mBeside, mPath);
-        mKept = true;
-    }
-
-  private:
-    const QString mPath, mBeside;
-    std::optional<HostWriter> mWriter;
-    bool mKept = false;
-};
-
 class PdfFile {
   public:
     PdfFile(const PrintDocument& Document, const QString& Path)
@@ -157,7 +123,7 @@ class PdfFile {
     cairo_status_t Take(const uchar* Data, unsigned Length) noexcept {
         if (mProblem || mOver) return CAIRO_STATUS_WRITE_ERROR;
         try {
-            mFile.Write(Data, Length);
+            mFile.Write(reinterpret_cast<const char*>(Data), Length);
             return CAIRO_STATUS_SUCCESS;
         } catch (...) {
             mProblem = std::current_exception();

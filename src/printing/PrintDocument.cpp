@@ -51,7 +51,7 @@ double InchesIn(const QString& Text) {
 }
 
 QSizeF PaperOfCountry() {
-    using enum QLocale::Territory;
+    using enum QLocale::Country;
     constexpr QLocale::Territory OnLetter[] = {
         UnitedStates, Canada,    Mexico,    Belize, Chile,      Colombia,    CostaRica,
         ElSalvador,   Guatemala, Nicaragua, Panama, PuertoRico, Philippines, Venezuela};
@@ -70,6 +70,7 @@ void PrintDocument::Clear() {
     mPictures.clear();
     mByPath.clear();
     mByBytes.clear();
+    mByPart.clear();
     mPlaces.clear();
     mTexts.clear();
     mPageStarts.clear();
@@ -93,11 +94,16 @@ void PrintDocument::NewPage() {
 
 void PrintDocument::DrawPicture(const PrintPicture& Picture, const QString& X, const QString& Y,
                                 const QString& Width, const QString& Height) {
+    DrawPicture(Picture, QRectF(InchesIn(X), InchesIn(Y), InchesIn(Width), InchesIn(Height)));
+}
+
+void PrintDocument::DrawPicture(const PrintPicture& Picture, const QRectF& Inches) {
     MustBeOpen();
-    const QRectF Place(InchesIn(X), InchesIn(Y), InchesIn(Width), InchesIn(Height));
-    if (!(Place.width() > 0 && Place.height() > 0))
-        throw Fault(QStringLiteral("A picture of %1 by %2 cannot be drawn.").arg(Width, Height));
-    mPlaces.push_back({NumberOf(Picture), Place});
+    const double Sum = Inches.x() + Inches.y() + Inches.width() + Inches.height();
+    if (!(Inches.width() > 0 && Inches.height() > 0 && std::isfinite(Sum)))
+        throw Fault(QStringLiteral("A picture of %1 by %2 cannot be drawn.")
+                        .arg(InchText(Inches.width()), InchText(Inches.height())));
+    mPlaces.push_back({NumberOf(Picture), Inches});
 }
 
 void PrintDocument::DrawText(const PlacedText& Text) {
@@ -112,8 +118,10 @@ void PrintDocument::EndDoc() {
 
 int PrintDocument::NumberOf(const PrintPicture& Picture) {
     const int Next = static_cast<int>(mPictures.size());
-    const int Number = Picture.Path.isEmpty() ? KnownAs(mByBytes, Picture.Bytes, Next)
-                                              : KnownAs(mByPath, Picture.Path, Next);
+    const ShelfPart Part{Picture.Shelf.get(), {Picture.At, Picture.Length}};
+    const int Number = Picture.Shelf            ? KnownAs(mByPart, Part, Next)
+                       : Picture.Path.isEmpty() ? KnownAs(mByBytes, Picture.Bytes, Next)
+                                                : KnownAs(mByPath, Picture.Path, Next);
     if (Number == Next) mPictures.push_back(Picture);
     return Number;
 }

@@ -67,16 +67,18 @@ class PrintDocument {
     void Clear();  // no pages are left
     // A document with an empty first page; what was composed before goes.
     void StartDoc();
-    // These four throw Fault outside StartDoc and EndDoc.
+    // These throw Fault outside StartDoc and EndDoc.
     void NewPage();
     // X, Y, Width and Height as texts in inches. Throws Fault when they are none, or no size.
     void DrawPicture(const PrintPicture& Picture, const QString& X, const QString& Y,
                      const QString& Width, const QString& Height);
+    void DrawPicture(const PrintPicture& Picture, const QRectF& Inches);  // throws alike
     void DrawText(const PlacedText& Text);  // an empty one is not kept
     void EndDoc();
 
     int PageCount() const { return static_cast<int>(mPageStarts.size()); }
     int PlaceCount() const { return static_cast<int>(mPlaces.size()); }
+    int PictureCount() const { return static_cast<int>(mPictures.size()); }  // numbers from 0
     // Pages from 1, as the user counts them.
     std::span<const PlacedPicture> PlacesOn(int Page) const;
     std::span<const PlacedText> TextsOn(int Page) const;
@@ -103,6 +105,8 @@ class PrintDocument {
     std::vector<PrintPicture> mPictures;  // each once
     QHash<QString, int> mByPath;
     QHash<QByteArray, int> mByBytes;
+    using ShelfPart = std::pair<const PictureShelf*, std::pair<qint64, qint64>>;
+    QHash<ShelfPart, int> mByPart;
     // Where the places and the texts of a page begin among those of all pages.
     struct PageStart {
         std::size_t Place = 0, Text = 0;
