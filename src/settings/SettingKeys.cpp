@@ -19,7 +19,7 @@ constexpr char Columns[] = "0-3";
 constexpr char LastTen[] = "0-9";
 constexpr char Find[] = "Find Graphics Window";
 // The windows that remember their size; those of the first list their width and state as well.
-#define NEB_WIDE_WINDOWS "frmSlideDBM frmPicturePopup"
+#define NEB_WIDE_WINDOWS "frmSlideDBM frmPicturePopup frmPrintPreview"
 constexpr char Wide[] = NEB_WIDE_WINDOWS;
 constexpr char Windows[] = NEB_WIDE_WINDOWS
     " frmSlideShowDBM frmImportFilter frmQuickShow frmSlideMgrBulk frmAlbumView frmSlideShowView";

@@ -14,10 +14,10 @@ namespace neb {
 namespace {
 
 const QStringList Levels{"H", "M", "L"};
-const QStringList WideWindows{"frmSlideDBM", "frmPicturePopup"};
-const QStringList AllWindows{"frmSlideDBM",     "frmPicturePopup", "frmSlideShowDBM",
-                             "frmImportFilter", "frmQuickShow",    "frmSlideMgrBulk",
-                             "frmAlbumView",    "frmSlideShowView"};
+const QStringList WideWindows{"frmSlideDBM", "frmPicturePopup", "frmPrintPreview"};
+const QStringList AllWindows{"frmSlideDBM",     "frmPicturePopup",  "frmSlideShowDBM",
+                             "frmImportFilter", "frmQuickShow",     "frmSlideMgrBulk",
+                             "frmAlbumView",    "frmSlideShowView", "frmPrintPreview"};
 
 QStringList Numbers(int First, int Last, int Digits) {
     QStringList Out;

@@ -57,12 +57,17 @@ class frmPrintPreview : public Form {
     void Form_Load() override;
     bool Form_Unload() override;
     bool IsBusy() const override;
+    void keyPressEvent(QKeyEvent* Event) override;
 
   private:
     // looking through the pages
     void MakeMenu();
     void ConnectButtons();
+    void ShowIcons();
+    void KeepSize();
     void EndOfDocument();
+    void FollowPage();
+    void FollowView();
     void ZoomChosen();
     void MoveFirst();
     void PrevPage();
