@@ -54,7 +54,8 @@ class PrivateCups {
         mServer.waitForFinished(5000);
     }
 
-    // A printer that leaves a quarter of an inch white at each edge; the first is the default one.
+    // A printer that leaves a quarter of an inch white at each edge, half an inch at the foot; the
+    // first is the default one.
     void AddPrinter(const QString& Name) {
         EXPECT_EQ(0, Admin(u"lpadmin"_s, {u"-p"_s, Name, u"-E"_s, u"-v"_s, u"file:"_s + Paper(Name),
                                           u"-P"_s, mFolder / u"printer.ppd"_s}));
@@ -121,7 +122,7 @@ class PrivateCups {
         "*OpenUI *PageRegion: PickOne\n*DefaultPageRegion: Letter\n"
         "*PageRegion Letter/US Letter: \"\"\n*PageRegion A4/A4: \"\"\n*PageRegion A6/A6: \"\"\n"
         "*CloseUI: *PageRegion\n"
-        "*DefaultImageableArea: Letter\n*ImageableArea Letter/US Letter: \"18 18 594 774\"\n"
+        "*DefaultImageableArea: Letter\n*ImageableArea Letter/US Letter: \"18 36 594 774\"\n"
         "*ImageableArea A4/A4: \"18 18 577 824\"\n*ImageableArea A6/A6: \"18 18 279 402\"\n"
         "*DefaultPaperDimension: Letter\n*PaperDimension Letter/US Letter: \"612 792\"\n"
         "*PaperDimension A4/A4: \"595 842\"\n*PaperDimension A6/A6: \"297 420\"\n"

@@ -2,6 +2,9 @@
 // says when the printer does not print. The window stands in a copy of this program, which knows no
 // other service than the test's own.
 #include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
 #include <QPrintDialog>
 #include <QPushButton>
 #include <QRadioButton>
@@ -49,6 +52,17 @@ std::shared_ptr<PrintDocument> AlbumIn(const QString& Dir, PageTurn Turn, QSizeF
     return Made;
 }
 
+// A picture an inch high and wide, so far from the page's left edge.
+std::shared_ptr<PrintDocument> PictureAt(const QString& Dir, PageTurn Turn, double Left) {
+    const auto Made =
+        std::make_shared<PrintDocument>(PrintPicture{SlideFile(Dir, 0), {}}, LetterPaper);
+    Made->SetOrientation(Turn);
+    Made->StartDoc();
+    tests::Place(*Made, {SlideFile(Dir, 0), {}}, {Left, 1, 1, 1});
+    Made->EndDoc();
+    return Made;
+}
+
 // --- the copy ---
 
 QString Asked(const char* Name) {
@@ -93,6 +107,12 @@ void AnswerDialog() {
         Find<QSpinBox>("copies")->setValue(2);
     }
     if (Answer == u"duplex") Find<QRadioButton>("duplexLong")->click();
+    if (Answer == u"reverse") Find<QCheckBox>("reverse")->click();
+    if (Answer.startsWith(u'/')) {
+        auto* Printers = Find<QComboBox>("printers");
+        Printers->setCurrentIndex(Printers->findText(u"Print to File (PDF)"_s));
+        Find<QLineEdit>("filename")->setText(Answer);
+    }
     Dialog->accept();
 }
 
@@ -114,9 +134,11 @@ int PrintByPreview() {
     TheServices().Boxes = &Boxes;
     TheServices().Printers = &Printers;
     const auto Window = NewForm<frmPrintPreview>();
-    const bool Landscape = Asked("NEB_TURN") == u"landscape";
-    Window->ShowDocument(AlbumIn(
-        Asked("NEB_ALBUM"), Landscape ? PageTurn::Landscape : PageTurn::Portrait, LetterPaper));
+    const PageTurn Turn =
+        Asked("NEB_TURN") == u"landscape" ? PageTurn::Landscape : PageTurn::Portrait;
+    const QString Left = Asked("NEB_LEFT");
+    Window->ShowDocument(Left.isEmpty() ? AlbumIn(Asked("NEB_ALBUM"), Turn, LetterPaper)
+                                        : PictureAt(Asked("NEB_ALBUM"), Turn, Left.toDouble()));
     Window->setWindowTitle(u"Garden"_s);
     Window->ShowModeless();
     if (!Asked("NEB_DEVICE").isEmpty()) Window->SetDefaultPrinter(Asked("NEB_DEVICE"));
@@ -291,6 +313,27 @@ TEST_F(RealPrint, TheSidesOfTheSystemsDialogCount) {
     EXPECT_EQ("First|3|Garden|Letter|two-sided-long-edge", Cups->Jobs().join(u'\n').toStdString());
 }
 
+TEST_F(RealPrint, TheOrderOfTheSystemsDialogCounts) {
+    Cups->AddPrinter(u"First"_s);
+    EXPECT_EQ("printed, closed", Print({{u"NEB_DIALOG"_s, u"reverse"_s}}));
+    EXPECT_EQ(1, Cups->Jobs().size());
+    const QImage First = tests::PageIn(Cups->Paper(u"First"_s), 1);
+    EXPECT_FALSE(tests::WhereIs(First, Colours[8]).isEmpty());
+}
+
+TEST_F(RealPrint, AFileIsAPrinterOfTheSystemsDialogToo) {
+    Cups->AddPrinter(u"First"_s);
+    const QString Pdf = Album / u"out.pdf"_s;
+    EXPECT_EQ("printed, closed", Print({{u"NEB_DIALOG"_s, Pdf}}));
+    ExpectAlbum(Pdf, PageTurn::Portrait);
+    EXPECT_FALSE(AnythingPrinted());
+    MakeSlides(Album.Path(), {3000, 2000});
+    DeleteFile(Pdf);
+    const std::string Said = Print({{u"NEB_DIALOG"_s, Pdf}, {u"NEB_WHEN"_s, u"stop"_s}});
+    EXPECT_TRUE(Said.ends_with("Canceled the print job.\nnot printed, open")) << Said;
+    EXPECT_FALSE(FileExists(Pdf));
+}
+
 TEST_F(RealPrint, CancellingTheSystemsDialogIsTold) {
     Cups->AddPrinter(u"First"_s);
     EXPECT_EQ("Operation Failed: The User Canceled the print job.\nnot printed, open",
@@ -304,6 +347,20 @@ TEST_F(RealPrint, PicturesThatThePaperCannotShowAreAskedAbout) {
     const std::string Said = Print();
     EXPECT_TRUE(Said.starts_with("Print Document: The paper, 4.1")) << Said;
     EXPECT_TRUE(Said.ends_with("printed, closed")) << Said;
+}
+
+// Which way a landscape page goes through is the printer's business; it leaves a quarter of an inch
+// at either side, and half an inch at the end.
+TEST_F(RealPrint, PicturesNearerToTheEdgeThanThePrinterReachesAreAskedAbout) {
+    Cups->AddPrinter(u"First"_s);
+    const std::string Question =
+        "Print Document: The printer cannot reach so near to the edge of the paper as pictures lie "
+        "on page 1: they will be cut off there.  Print all the same?\nprinted, closed";
+    const QString Landscape = u"landscape"_s, Portrait = u"portrait"_s;
+    EXPECT_EQ(Question, Print({{u"NEB_LEFT"_s, u"0.2"_s}, {u"NEB_TURN"_s, Portrait}}));
+    EXPECT_EQ("printed, closed", Print({{u"NEB_LEFT"_s, u"0.3"_s}, {u"NEB_TURN"_s, Portrait}}));
+    EXPECT_EQ(Question, Print({{u"NEB_LEFT"_s, u"0.4"_s}, {u"NEB_TURN"_s, Landscape}}));
+    EXPECT_EQ("printed, closed", Print({{u"NEB_LEFT"_s, u"0.6"_s}, {u"NEB_TURN"_s, Landscape}}));
 }
 
 TEST_F(RealPrint, PaperThatIsOutIsAskedAbout) {
