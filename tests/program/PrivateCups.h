@@ -74,18 +74,25 @@ class PrivateCups {
     QString Server() const { return mFolder / u"cups.sock"_s; }
     // What came out of a printer.
     QString Paper(const QString& Name) const { return mFolder / (u"out/"_s + Name + u".pdf"_s); }
-    // Waits until nothing is under way any more; the printed jobs, a line each: printer, copies of
-    // pages, title, paper, sides.
-    QStringList Jobs() {
-        EXPECT_TRUE(QTest::qWaitFor(
-            [this] { return Admin(u"lpstat"_s, {u"-o"_s}) == 0 && mSaid.isEmpty(); }, 20000));
-        const QString Log = mFolder / u"page_log"_s;
-        const QString Text = FileExists(Log) ? QString::fromUtf8(ReadFile(Log)) : QString();
-        return Text.split(u'\n', Qt::SkipEmptyParts);
+    // Waits until so many jobs are printed and nothing is under way any more; the jobs, a line
+    // each: printer, pages, title, paper, sides.
+    QStringList Jobs(qsizetype Count = 1) {
+        QStringList Printed;
+        const auto AreDone = [&] {
+            Printed = PageLog();
+            return Printed.size() >= Count && Admin(u"lpstat"_s, {u"-o"_s}) == 0 && mSaid.isEmpty();
+        };
+        EXPECT_TRUE(QTest::qWaitFor(AreDone, 20000)) << Log().toStdString();
+        return Printed;
     }
     QByteArray Log() const { return ReadFile(mFolder / u"error_log"_s); }
 
   private:
+    QStringList PageLog() const {
+        const QString Path = mFolder / u"page_log"_s;
+        const QString Text = FileExists(Path) ? QString::fromUtf8(ReadFile(Path)) : QString();
+        return Text.split(u'\n', Qt::SkipEmptyParts);
+    }
     static QString Program(const QString& Name) {
         const QString Found = QStandardPaths::findExecutable(Name);
         return Found.isEmpty() ? QStandardPaths::findExecutable(Name, {u"/usr/sbin"_s}) : Found;

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPrintDialog>
 #include <QPushButton>
@@ -116,15 +117,19 @@ void AnswerDialog() {
     Dialog->accept();
 }
 
-void PressStopOnce() {
-    auto* Stop = Find<QPushButton>("cmdStop");
-    if (!Stop) return QTimer::singleShot(5, &PressStopOnce);
-    Stop->click();
+// The printing is under way.
+bool IsPrinting() {
+    const auto* Line = Find<QLabel>("lblProgress");
+    return Line && Line->text().startsWith(u"Page"_s);
 }
 
-// Once the bar is up.
+void PressStopOnce() {
+    if (!IsPrinting()) return QTimer::singleShot(2, &PressStopOnce);
+    Find<QPushButton>("cmdStop")->click();
+}
+
 void WaitForTestWhilePrinting() {
-    if (!Find<QPushButton>("cmdStop")) return QTimer::singleShot(2, &WaitForTestWhilePrinting);
+    if (!IsPrinting()) return QTimer::singleShot(2, &WaitForTestWhilePrinting);
     WaitForTest();
 }
 
@@ -211,7 +216,7 @@ class RealPrint : public ::testing::Test {
         EXPECT_EQ(std::size(Colours), Slide);
     }
     bool AnythingPrinted() {
-        return !Cups->Jobs().isEmpty() || FileExists(Cups->Paper(u"First"_s));
+        return !Cups->Jobs(0).isEmpty() || FileExists(Cups->Paper(u"First"_s));
     }
 
     TempFolder Album;
