@@ -26,6 +26,8 @@ DesktopServices::DesktopServices() {
     TheServices().Blanking = &mBlanking;
     TheServices().Sound = &mSound;
     TheServices().Drives = &mDrives;
+    TheServices().Printers = &mPrinters;
+    TheServices().Mail = &mMail;
     XShow::SetReader(&ReadPicture);
 }
 
@@ -35,6 +37,8 @@ DesktopServices::~DesktopServices() {
     TheServices().Blanking = nullptr;
     TheServices().Sound = nullptr;
     TheServices().Drives = nullptr;
+    TheServices().Printers = nullptr;
+    TheServices().Mail = nullptr;
 }
 
 }  // namespace neb

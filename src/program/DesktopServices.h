@@ -4,6 +4,8 @@
 
 #include "controls/directories/Drives.h"
 #include "controls/forms/DesktopBoxes.h"
+#include "program/desktop/DesktopMail.h"
+#include "program/desktop/DesktopPrinters.h"
 #include "program/ScreenBlanking.h"
 #include "sound/devices/SdlSoundDevices.h"
 
@@ -22,6 +24,8 @@ class DesktopServices {
     DesktopScreenBlanking mBlanking;
     SdlSoundDevices mSound;
     DesktopDrives mDrives;
+    DesktopPrinters mPrinters;
+    DesktopMail mMail;
 };
 
 }  // namespace neb

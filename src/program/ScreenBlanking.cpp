@@ -7,7 +7,7 @@
 #include <QGuiApplication>
 #include <QLibrary>
 
-#include "support/files/modHostFiles.h"
+#include "program/desktop/SessionBus.h"
 
 namespace neb {
 namespace {
@@ -26,13 +26,6 @@ QDBusMessage ServiceCall(const QString& Method) {
                                        QStringLiteral("org.freedesktop.ScreenSaver"), Method);
     Call.setAutoStartService(false);
     return Call;
-}
-
-// Connecting without a bus would make the library start one, which takes its time.
-bool HasSessionBus() {
-    return qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS") ||
-           (qEnvironmentVariableIsSet("XDG_RUNTIME_DIR") &&
-            FileExists(qEnvironmentVariable("XDG_RUNTIME_DIR") + QStringLiteral("/bus")));
 }
 
 #if QT_CONFIG(xcb)

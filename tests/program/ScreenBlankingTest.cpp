@@ -2,12 +2,12 @@
 
 #include <gtest/gtest.h>
 
-#include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QElapsedTimer>
-#include <QProcess>
 #include <QStandardPaths>
 #include <QTest>
+
+#include "MessageBus.h"
 
 namespace neb::test {
 
@@ -27,31 +27,23 @@ class FakeService : public QObject {
     void UnInhibit(quint32 Cookie) { Calls << QStringLiteral("UnInhibit %1").arg(Cookie); }
 };
 
-// A message bus of the test's own.
+// The bus, and the service on it.
 class PrivateBus {
   public:
     PrivateBus() {
-        mDaemon.start(QStringLiteral("dbus-daemon"),
-                      {QStringLiteral("--session"), QStringLiteral("--nofork"),
-                       QStringLiteral("--print-address")});
-        if (!mDaemon.waitForReadyRead(2000)) return;
-        mAddress = QString::fromLatin1(mDaemon.readLine()).trimmed();
-        qputenv("DBUS_SESSION_BUS_ADDRESS", mAddress.toLatin1());
-        mService = QDBusConnection::connectToBus(mAddress, QStringLiteral("test-service"));
-        mService.registerObject(QStringLiteral("/org/freedesktop/ScreenSaver"), &Service,
-                                QDBusConnection::ExportAllSlots);
-        mService.registerService(QStringLiteral("org.freedesktop.ScreenSaver"));
+        qputenv("DBUS_SESSION_BUS_ADDRESS", mBus.Address().toLatin1());
+        mBus.Service().registerObject(QStringLiteral("/org/freedesktop/ScreenSaver"), &Service,
+                                      QDBusConnection::ExportAllSlots);
+        mBus.Service().registerService(QStringLiteral("org.freedesktop.ScreenSaver"));
     }
-    ~PrivateBus() { End(); }
-    void Withdraw() { mService.unregisterService(QStringLiteral("org.freedesktop.ScreenSaver")); }
-    void End() {
-        QDBusConnection::disconnectFromBus(QStringLiteral("test-service"));
-        mDaemon.kill();
-        mDaemon.waitForFinished();
+    void Withdraw() {
+        mBus.Service().unregisterService(QStringLiteral("org.freedesktop.ScreenSaver"));
     }
-    bool IsThere() const { return mService.isConnected(); }
-    int Clients() const {
-        return static_cast<int>(mService.interface()
+    void End() { mBus.End(); }
+    bool IsThere() { return mBus.Service().isConnected(); }
+    int Clients() {
+        return static_cast<int>(mBus.Service()
+                                    .interface()
                                     ->registeredServiceNames()
                                     .value()
                                     .filter(QStringLiteral(":"))
@@ -66,9 +58,7 @@ class PrivateBus {
     FakeService Service;
 
   private:
-    QProcess mDaemon;
-    QString mAddress;
-    QDBusConnection mService{QString()};
+    MessageBus mBus{QStringLiteral("test-service")};
 };
 
 // One bus for all tests: the address is read once in a program's life.

@@ -4,10 +4,12 @@
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPointer>
+#include <QRegularExpression>
 
 #include "controls/forms/FocusReturn.h"
 #include "controls/forms/ScreenPointer.h"
 #include "controls/forms/frmMsgBoxEx.h"
+#include "support/modFUFL.h"
 
 namespace neb {
 namespace {
@@ -39,6 +41,12 @@ QString ToolkitFilters(const QString& Filters) {
         Out << Name + QStringLiteral(" (") + Masks.join(u' ') + u')';
     }
     return Out.join(QStringLiteral(";;"));
+}
+
+// Of a toolkit's filter for one kind of file, such as ".pdf"; empty for any other.
+QString ExtensionOf(const QString& Filter) {
+    static const QRegularExpression OneKind(QStringLiteral("\\(\\*(\\.[^.*? ]+)\\)$"));
+    return OneKind.match(Filter).captured(1);
 }
 
 QString TitleOf(const BoxRequest& Request) {
@@ -93,9 +101,12 @@ QString DesktopFileDialogs::OpenFile(const QString& Title, const QString& StartD
 
 QString DesktopFileDialogs::SaveFile(const QString& Title, const QString& StartPath,
                                      const QString& Filters) {
-    return QFileDialog::getSaveFileName(QApplication::activeWindow(), Title, StartPath,
-                                        ToolkitFilters(Filters), nullptr,
-                                        QFileDialog::DontConfirmOverwrite);
+    QString Filter;
+    const QString Path = QFileDialog::getSaveFileName(QApplication::activeWindow(), Title,
+                                                      StartPath, ToolkitFilters(Filters), &Filter,
+                                                      QFileDialog::DontConfirmOverwrite);
+    const bool IsWhole = Path.isEmpty() || GetFileName(Path).contains(u'.');
+    return IsWhole ? Path : Path + ExtensionOf(Filter);
 }
 
 QString DesktopFileDialogs::ChooseFolder(const QString& Title, const QString& StartDir) {

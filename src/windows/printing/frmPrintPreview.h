@@ -79,6 +79,7 @@ class frmPrintPreview : public Form {
     void PrintNow() { Print(false); }
     void PrintByDialog() { Print(true); }
     void Print(bool ShowDialog);
+    void PrintFailed(PrintError Error);  // None: the user would rather not
     void Save();
     void LoadDocument();
     void Mail();

@@ -1,5 +1,6 @@
 #include <QAbstractButton>
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPointer>
@@ -198,6 +199,27 @@ TEST_F(Boxes, NamingAFileThatIsThereAsksNothing) {
         [](QFileDialog& Dialog) { QMetaObject::invokeMethod(&Dialog, "accept"); });
     EXPECT_EQ(Path, DesktopFileDialogs().SaveFile(QStringLiteral("Save"), Path, {}));
     EXPECT_EQ("kept", ReadFile(Path));
+}
+
+TEST_F(Boxes, ANameWithoutAnExtensionGetsThatOfTheChosenFilter) {
+    const TempFolder Folder;
+    const QString Filters = QStringLiteral("PDF (*.pdf)|*.pdf|Two (*.a;*.b)|*.a;*.b|All|*.*");
+    const auto Named = [&](const char* Name, const char* Filter) {
+        WhenOpen<QFileDialog>([&](QFileDialog& Dialog) {
+            Dialog.selectNameFilter(QLatin1String(Filter));
+            Dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))
+                ->setText(QLatin1String(Name));
+            QMetaObject::invokeMethod(&Dialog, "accept");
+        });
+        return DesktopFileDialogs()
+            .SaveFile(QStringLiteral("Save"), Folder.Path(), Filters)
+            .mid(Folder.Path().size())
+            .toStdString();
+    };
+    EXPECT_EQ("trip.pdf", Named("trip", "PDF (*.pdf)"));
+    EXPECT_EQ("trip.x", Named("trip.x", "PDF (*.pdf)"));
+    EXPECT_EQ("trip", Named("trip", "Two (*.a *.b)"));
+    EXPECT_EQ("trip", Named("trip", "All (*)"));
 }
 
 namespace {

@@ -1,0 +1,189 @@
+#include "program/desktop/DesktopPrinters.h"
+
+#include <QApplication>
+#include <QPointer>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPrinterInfo>
+
+#include "printing/PrintReach.h"
+#include "program/desktop/QueueState.h"
+#include "support/Fault.h"
+#include "support/files/modHostFiles.h"
+#include "support/work/WorkAside.h"
+
+namespace neb {
+namespace {
+
+QPageLayout::Orientation TurnOf(const PrintDocument& Document) {
+    return Document.Orientation() == PageTurn::Landscape ? QPageLayout::Landscape
+                                                         : QPageLayout::Portrait;
+}
+
+bool GoesToFile(const QPrinter& Printer) {
+    return !Printer.outputFileName().isEmpty();
+}
+
+// The pages in the order in which they are printed, from 1; those that the printer cannot repeat by
+// itself as often as they are wanted.
+std::vector<int> PagesOf(const QPrinter& Printer, int PageCount) {
+    const bool Some = Printer.printRange() == QPrinter::PageRange && Printer.fromPage() > 0;
+    const int First = Some ? Printer.fromPage() : 1;
+    const int Last = Some ? std::min(Printer.toPage(), PageCount) : PageCount;
+    const bool Repeats = Printer.supportsMultipleCopies() || GoesToFile(Printer);
+    const int Copies = Repeats ? 1 : Printer.copyCount();
+    std::vector<int> Pages;
+    for (int Copy = 0; Copy < Copies; ++Copy)
+        for (int Page = First; Page <= Last; ++Page) Pages.push_back(Page);
+    if (!Printer.collateCopies()) std::ranges::sort(Pages);
+    if (Printer.pageOrder() == QPrinter::LastPageFirst) std::ranges::reverse(Pages);
+    return Pages;
+}
+
+// What the printer leaves white at the edges. Which way it turns a landscape page is its own
+// business: both ways must do.
+QMarginsF BlankEdges(const QPrinter& Printer) {
+    QPrinter Upright(QPrinterInfo::printerInfo(Printer.printerName()), QPrinter::HighResolution);
+    Upright.setPageSize(Printer.pageLayout().pageSize());
+    Upright.setPageOrientation(QPageLayout::Portrait);
+    const QMarginsF Is = Upright.pageLayout().minimumMargins() / 72;
+    if (Printer.pageLayout().orientation() == QPageLayout::Portrait) return Is;
+    const double Sides = std::max(Is.top(), Is.bottom());
+    const double Ends = std::max(Is.left(), Is.right());
+    return {Sides, Ends, Sides, Ends};
+}
+
+class DesktopPrinter : public ReadyPrinter {
+  public:
+    DesktopPrinter(std::shared_ptr<QPrinter> Printer, const QueueState& State)
+        : mPrinter(std::move(Printer)), mState(State) {}
+
+    QStringList Warnings(const PrintDocument& Document) const override;
+    PrintError Print(const PrintDocument& Document, const PrintGoOn& GoOn) override;
+
+  private:
+    bool Paint(QPainter& Painter, const PrintDocument& Document, const PrintGoOn& GoOn);
+    void Discard(QPainter& Painter);
+
+    const std::shared_ptr<QPrinter> mPrinter;
+    const QueueState mState;
+};
+
+QStringList DesktopPrinter::Warnings(const PrintDocument& Document) const {
+    const QPageLayout Layout = mPrinter->pageLayout();
+    QStringList Said;
+    if (mState.PaperOut) Said << QObject::tr("There is no paper in the printer.");
+    const QMarginsF Blank = GoesToFile(*mPrinter) ? QMarginsF() : BlankEdges(*mPrinter);
+    return Said + ReachWarnings(Document, PagesOf(*mPrinter, Document.PageCount()),
+                                {Layout.fullRect(QPageLayout::Inch).size(), Blank});
+}
+
+PrintError DesktopPrinter::Print(const PrintDocument& Document, const PrintGoOn& GoOn) {
+    QPainter Painter;
+    if (!Painter.begin(mPrinter.get()))
+        return GoesToFile(*mPrinter) ? PrintError::NoAccess : PrintError::NotResponding;
+    try {
+        if (!Paint(Painter, Document, GoOn)) {
+            Discard(Painter);
+            return PrintError::Cancelled;
+        }
+    } catch (const Fault&) {
+        Discard(Painter);
+        return PrintError::NoAccess;
+    }
+    const bool Sound = Painter.end();
+    return Sound && JobWasTaken() ? PrintError::None : PrintError::NotResponding;
+}
+
+// False when it was stopped.
+bool DesktopPrinter::Paint(QPainter& Painter, const PrintDocument& Document,
+                           const PrintGoOn& GoOn) {
+    const std::vector<int> Pages = PagesOf(*mPrinter, Document.PageCount());
+    const int Total = static_cast<int>(Pages.size());
+    for (int Done = 0; Done < Total; ++Done) {
+        if (!GoOn({Done, Total})) return false;
+        if (Done > 0 && !mPrinter->newPage()) throw Fault(QStringLiteral("No page follows."));
+        Document.PaintPage(Painter, Pages[static_cast<std::size_t>(Done)], mPrinter->resolution());
+    }
+    return GoOn({Total, Total});
+}
+
+void DesktopPrinter::Discard(QPainter& Painter) {
+    KeepJobsBack();
+    Painter.end();
+    try {
+        if (GoesToFile(*mPrinter)) DeleteFile(mPrinter->outputFileName());
+    } catch (const Fault&) {
+        // what the print ended with is what the user hears of
+    }
+}
+
+// Places are exact from the paper's corner.
+void FitTo(const PrintDocument& Document, QPrinter& Printer) {
+    Printer.setPageOrientation(TurnOf(Document));
+    Printer.setFullPage(true);
+    Printer.setPageMargins({});
+}
+
+std::shared_ptr<QPrinter> PrinterFor(const QString& Device, const PrintDocument& Document,
+                                     const PrintWish& Wish) {
+    const QPrinterInfo Info = QPrinterInfo::printerInfo(Device);
+    const auto Made = std::make_shared<QPrinter>(Info, QPrinter::HighResolution);
+    if (Info.defaultPageSize().isValid()) Made->setPageSize(Info.defaultPageSize());
+    Made->setDocName(Wish.Title);
+    Made->setCreator(QApplication::applicationDisplayName());
+    FitTo(Document, *Made);
+    return Made;
+}
+
+// The window below may go while the dialog is up, and takes it along.
+bool AskUser(QPrinter& Printer, int PageCount) {
+    const QPointer<QPrintDialog> Dialog = new QPrintDialog(&Printer, QApplication::activeWindow());
+    Dialog->setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintPageRange |
+                       QAbstractPrintDialog::PrintCollateCopies |
+                       QAbstractPrintDialog::PrintShowPageSize);
+    Dialog->setMinMax(1, PageCount);
+    const bool Accepted = Dialog->exec() == QDialog::Accepted;
+    delete Dialog;
+    return Accepted;
+}
+
+QueueState AskService(const QString& Device) {
+    return FinishAside([Device] { return StateOfQueue(Device); }).get();
+}
+
+ChosenPrinter Readied(const std::shared_ptr<QPrinter>& Printer) {
+    if (GoesToFile(*Printer))
+        return {PrintError::None, std::make_shared<DesktopPrinter>(Printer, QueueState())};
+    const QueueState State = AskService(Printer->printerName());
+    if (!State.TakesJobs) return {PrintError::NotResponding, nullptr};
+    return {PrintError::None, std::make_shared<DesktopPrinter>(Printer, State)};
+}
+
+}  // namespace
+
+QStringList DesktopPrinters::Devices() {
+    return FinishAside([] {
+               QStringList All = QPrinterInfo::availablePrinterNames();
+               const QString Default = QPrinterInfo::defaultPrinterName();
+               if (All.removeOne(Default)) All.prepend(Default);
+               return All;
+           })
+        .get();
+}
+
+// Where no default is set the first printer there is takes its place. A printer that was named was
+// there before: it does not respond now.
+ChosenPrinter DesktopPrinters::Choose(const PrintDocument& Document, const PrintWish& Wish) {
+    const QStringList All = Devices();
+    const bool IsNamed = !Wish.Device.isEmpty();
+    if (All.isEmpty() && !IsNamed) return {PrintError::NoAccess, nullptr};
+    if (IsNamed && !All.contains(Wish.Device)) return {PrintError::NotResponding, nullptr};
+    const auto Printer = PrinterFor(IsNamed ? Wish.Device : All.first(), Document, Wish);
+    if (!Wish.ShowDialog) return Readied(Printer);
+    if (!AskUser(*Printer, Document.PageCount())) return {PrintError::Cancelled, nullptr};
+    FitTo(Document, *Printer);
+    return Readied(Printer);
+}
+
+}  // namespace neb

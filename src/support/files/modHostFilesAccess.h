@@ -1,0 +1,16 @@
+// Who may get at a file: the read-only attribute taken away, a folder tried, a file handed open to
+// another program. Used by what leaves the print preview.
+#pragma once
+
+#include <QString>
+
+namespace neb {
+
+// The file's owner may write it from now on; nothing else about it changes. Throws Fault.
+void ClearReadOnly(const QString& Path);
+// Whether this user may make files in a folder that is there.
+bool CanWriteInto(const QString& Dir);
+// A descriptor of the file for another program to read by; the caller closes it. Throws Fault.
+int OpenForOther(const QString& Path);
+
+}  // namespace neb

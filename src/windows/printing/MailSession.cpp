@@ -1,0 +1,55 @@
+#include "windows/printing/MailSession.h"
+
+#include "settings/modNEBSlideShow.h"
+#include "support/files/modHostFilesAccess.h"
+#include "support/modFUFL.h"
+#include "windows/printing/PrintFiles.h"
+#include "windows/printing/frmPrintPreview.h"
+
+namespace neb {
+namespace {
+
+QString OrStandard(const QString& Text) {
+    const QString Given =
+        Text.isEmpty() ? QStringLiteral("Print Preview Document Attached.") : Text;
+    return u' ' + Given + u' ';
+}
+
+}  // namespace
+
+QString AutoSaveDir(const QString& AutoSavePath) {
+    if (!AutoSavePath.isEmpty()) return WithSeparator(AutoSavePath);
+    const QString Own = AppPath() + QStringLiteral("Documents");
+    MakeDir(Own);
+    return WithSeparator(CanWriteInto(Own) ? Own : UsersDocuments());
+}
+
+QString AttachmentNameFor(const QString& AutoSaveName, const QDateTime& Now) {
+    if (!AutoSaveName.isEmpty()) return AutoSaveName;
+    return QStringLiteral("AutoSave") + Now.toString(QStringLiteral("yyyyMMddHHmmss")) +
+           QStringLiteral(".pdf");
+}
+
+MailMessage ComposeMail(const PreviewSettings& Settings, const QString& Address,
+                        const QString& AttachmentPathName) {
+    return {.RecipAddress = Address,
+            .MsgSubject = OrStandard(Settings.EmailSubject),
+            .MsgNoteText = OrStandard(Settings.EmailMsg),
+            .AttachmentName = GetFileName(AttachmentPathName),
+            .AttachmentPathName = AttachmentPathName};
+}
+
+MailSession::MailSession(MailTransport* Carrier, const PreviewSettings& Settings)
+    : mCarrier(Carrier) {
+    if (mCarrier) mSessionID = mCarrier->SignOn(Settings.UserName, Settings.UserPassword);
+}
+
+MailSession::~MailSession() {
+    if (mSessionID != 0) mCarrier->SignOff(mSessionID);
+}
+
+bool MailSession::Send(const MailMessage& Message) {
+    return mSessionID != 0 && mCarrier->Send(mSessionID, Message);
+}
+
+}  // namespace neb

@@ -1,0 +1,75 @@
+#include "windows/printing/PrintFiles.h"
+
+#include <QScopeGuard>
+#include <QStandardPaths>
+
+#include "printing/PdfWriter.h"
+#include "printing/PpdFile.h"
+#include "settings/modNEBSlideShow.h"
+#include "support/Fault.h"
+#include "support/files/modHostFiles.h"
+#include "support/files/modHostFilesAccess.h"
+#include "support/modFUFL.h"
+
+namespace neb {
+namespace {
+
+const QString PdfExtension = QStringLiteral(".pdf");
+const QString PpdExtension = QStringLiteral(".ppd");
+
+bool EndsIn(const QString& Path, const QString& Extension) {
+    return Path.endsWith(Extension, Qt::CaseInsensitive);
+}
+
+void KeepReadOnly(const QString& Path) {
+    try {
+        SetReadOnly(Path);
+    } catch (const Fault&) {
+        // what went wrong before is what the user is to hear of
+    }
+}
+
+bool WriteKind(const PrintDocument& Document, const QString& Path, const PrintGoOn& GoOn) {
+    return EndsIn(Path, PpdExtension) ? WritePpd(Document, Path, GoOn)
+                                      : WritePdf(Document, Path, GoOn);
+}
+
+}  // namespace
+
+QString UsersDocuments() {
+    [[maybe_unused]] const QString Asked = SettingsDir();  // fills the cache
+    if (CanWriteInto(DocumentsPath)) return DocumentsPath;
+    return WithSeparator(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+}
+
+Answer<QString> PrintFilePath(const QString& Chosen) {
+    if (EndsIn(Chosen, PdfExtension) || EndsIn(Chosen, PpdExtension)) return Chosen;
+    const QString Name = GetFileName(Chosen);
+    if (!Name.contains(u'.')) return Chosen + PdfExtension;
+    return Refuse(QStringLiteral("\"%1\" is neither a PDF file (.pdf) nor a document of the "
+                                 "program's own (.ppd).\nPlease choose one of these two "
+                                 "extensions. Nothing was saved.")
+                      .arg(Name),
+                  QStringLiteral("Save Document"));
+}
+
+bool TryClearReadOnly(const QString& FileName) {
+    try {
+        if (FileExists(FileName) && IsReadOnly(FileName)) ClearReadOnly(FileName);
+        return true;
+    } catch (const Fault&) {
+        return false;
+    }
+}
+
+bool WritePrintFile(const PrintDocument& Document, const QString& Path, const PrintGoOn& GoOn) {
+    if (!FileExists(Path) || !IsReadOnly(Path)) return WriteKind(Document, Path, GoOn);
+    if (!TryClearReadOnly(Path))
+        throw Fault(QStringLiteral("The file is read-only, and that cannot be changed."), Path);
+    auto AsItWas = qScopeGuard([&Path] { KeepReadOnly(Path); });
+    const bool Written = WriteKind(Document, Path, GoOn);
+    if (Written) AsItWas.dismiss();
+    return Written;
+}
+
+}  // namespace neb

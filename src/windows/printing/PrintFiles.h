@@ -1,0 +1,31 @@
+// A document's way into a file and out of it: what the name says of the kind, and the write itself.
+// Used by the print preview.
+#pragma once
+
+#include <memory>
+
+#include "printing/PrintDocument.h"
+#include "support/Answer.h"
+
+namespace neb {
+
+inline const QString SaveFilter = QStringLiteral("PDF (*.pdf)|*.pdf|Custom (*.ppd)|*.ppd");
+inline const QString OpenFilter = QStringLiteral("Custom (*.ppd)|*.ppd");
+
+// Where the user keeps documents, with closing separator: where the file dialogs begin.
+QString UsersDocuments();
+
+// The path to write to for the name that the user has chosen: one without an extension becomes a
+// PDF. A foreign extension is refused.
+Answer<QString> PrintFilePath(const QString& Chosen);
+
+// Clears the read-only attribute of a file, where there is one; false when that fails.
+bool TryClearReadOnly(const QString& FileName);
+
+// Writes the kind that the name's last four characters say, ".pdf" or ".ppd"; any other as PDF. A
+// file of that name is replaced, even one that is read-only, when the new one is whole. False when
+// GoOn has ended it: then, as after a fault, the old file is as it was. Throws Fault. May run on a
+// worker thread.
+bool WritePrintFile(const PrintDocument& Document, const QString& Path, const PrintGoOn& GoOn);
+
+}  // namespace neb
