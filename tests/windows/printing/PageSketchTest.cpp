@@ -114,9 +114,9 @@ TEST_F(PrintLooks, NothingIsCutInLargeLetters) {
                 const int Needed = Part->hasHeightForWidth() ? Part->heightForWidth(Part->width())
                                                              : Part->sizeHint().height();
                 EXPECT_GE(Part->height(), Needed) << Part->objectName().toStdString();
-                if (!Part->hasHeightForWidth())
-                    EXPECT_GE(Part->width(), Part->sizeHint().width())
-                        << Part->objectName().toStdString();
+                if (Part->hasHeightForWidth()) continue;
+                EXPECT_GE(Part->width(), Part->sizeHint().width())
+                    << Part->objectName().toStdString();
             }
         });
     }
@@ -158,8 +158,8 @@ TEST_F(PrintLooks, EveryControlHasANameATipAndALetterOfItsOwn) {
                 Part->objectName().startsWith(u"qt_"))
                 continue;
             EXPECT_NE("", Part->accessibleName().toStdString()) << Part->objectName().toStdString();
-            if (!Part->inherits("QGroupBox"))
-                EXPECT_NE("", Part->toolTip().toStdString()) << Part->objectName().toStdString();
+            if (Part->inherits("QGroupBox")) continue;
+            EXPECT_NE("", Part->toolTip().toStdString()) << Part->objectName().toStdString();
         }
         EXPECT_GE(Count, 6);
     });
@@ -168,13 +168,16 @@ TEST_F(PrintLooks, EveryControlHasANameATipAndALetterOfItsOwn) {
 TEST_F(PrintLooks, TabGoesFromTheTopToTheBottom) {
     AddShow(u"Walk"_s, {AddSlide(u"rose"_s)});
     ForEach([&](Form& W) {
+        // the window begins with the first number, behind the choice of the page
+        auto& Begin =
+            In<QWidget>(W, W.findChild<QWidget*>(u"cboAlbum"_s) ? "cboAlbum" : "optLandscape");
+        Begin.setFocus();
         int Before = -1;
         QSet<QWidget*> Seen;
-        for (QWidget* At = W.focusWidget(); At && !Seen.contains(At);) {
+        for (QWidget* At = &Begin; At && !Seen.contains(At);) {
             Seen << At;
             const int Place = At->mapTo(&W, QPoint(0, At->height() / 2)).y();
-            if (Seen.size() > 1 && !W.findChild<QWidget*>(u"imgSlide"_s))
-                EXPECT_GE(Place, Before - 2) << At->objectName().toStdString();
+            EXPECT_GE(Place, Before - 2) << At->objectName().toStdString();
             Before = Place;
             QTest::keyClick(At, Qt::Key_Tab);
             At = QApplication::focusWidget();
