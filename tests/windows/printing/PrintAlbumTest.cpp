@@ -76,7 +76,7 @@ TEST_F(PrintAlbum, ChecksTheAlbumThenTheColumnsThenTheRows) {
             ExpectInformation(u"You must have 1 or more rows per page."_s, InvalidInput);
             ExpectRefused(W);
             Numbers(W, u"61"_s, u"4"_s);
-            ExpectInformation(u"There is room for at most 60 columns side by side on the page."_s,
+            ExpectInformation(u"There is room for at most 60 columns on the page side by side."_s,
                               InvalidInput);
             ExpectRefused(W);
             EXPECT_TRUE(IsOn(W, "cmdPrint")) << "and can be tried again";
@@ -378,7 +378,7 @@ TEST_F(PrintAlbum, TheDrawingFollowsEveryKey) {
         Click(W, "optPortrait");
         EXPECT_EQ(PaperOfCountry(), Sketch(W).Page().Size);
         Retype(W, "txtSlidesPerRow", u"45"_s);
-        EXPECT_EQ("There is room for at most 44 columns side by side on the page.", Says(W));
+        EXPECT_EQ("There is room for at most 44 columns on the page side by side.", Says(W));
     });
 }
 

@@ -73,7 +73,7 @@ TEST_F(PrintSheet, RefusesInPlainBoxesWithoutATitle) {
         Retype(W, "txtSlidesPerRow", u"1"_s);
         ExpectRefused(u"You must have 1 or more rows per page."_s);
         Retype(W, "txtRowsPerPage", u"45"_s);
-        ExpectRefused(u"There is room for at most 44 rows below each other on the page."_s);
+        ExpectRefused(u"There is room for at most 44 rows on the page below each other."_s);
         Retype(W, "txtRowsPerPage", u"1"_s);
         EXPECT_EQ("1 1 9 6", PlacesOn(Preview(W), 1));
         EXPECT_EQ("1 copy", Says(W));

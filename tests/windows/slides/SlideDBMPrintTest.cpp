@@ -85,7 +85,9 @@ TEST_F(SlideDBMPrint, WithoutAPictureNothingHappens) {
 TEST_F(SlideDBMPrint, AStoredNameWantsTheAlbumInWhichItLies) {
     const std::int32_t ID = AddSlide(u"rose"_s);
     OpenSlide(ID);
-    Box("cboAlbum").setCurrentIndex(-1);
+    auto Gone = Changes(Engine).DeleteAlbum(AlbumID);
+    ASSERT_TRUE(Gone);
+    Gone->Now();
     ASSERT_EQ(-1, Box("cboAlbum").currentIndex());
     for (const char* Tool : {"mnuPrintSlide", "mnuPrintSlideSheet"}) {
         Boxes.Expect(u"You must first select an album to print from."_s, u"Missing User Input"_s,
