@@ -102,6 +102,7 @@ QRectF PageSketch::PaperRect() const {
                       mSentence->y() - layout()->spacing() - Shadow - 1);
     QRectF Place(QPointF(), mPage.Size.scaled(Room.size(), Qt::KeepAspectRatio));
     Place.moveCenter(Room.center());
+    Place.moveTopLeft(Place.topLeft().toPoint());  // crisp edges
     return Place;
 }
 
@@ -126,9 +127,10 @@ void PageSketch::paintEvent(QPaintEvent*) {
     const auto Placed = [&](const QRectF& Inches) {
         return QRectF(Sheet.topLeft() + Inches.topLeft() * Scale, Inches.size() * Scale);
     };
-    Painter.setClipRect(Sheet.adjusted(0, 0, 1, 1));
+    Painter.setClipRect(Sheet);
     for (const QRectF& Each : mPage.Pictures) DrawPicture(Painter, Placed(Each));
     for (const QRectF& Each : mPage.Lines) Painter.fillRect(Placed(Each), Ink);
+    Painter.setClipping(false);
     Painter.setPen(QPen(Edge, 0));
     Painter.setBrush(Qt::NoBrush);
     Painter.drawRect(Sheet);
