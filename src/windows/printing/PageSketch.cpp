@@ -55,7 +55,6 @@ QString Counted(int Number, const QString& One, const QString& Many) {
 
 PageSketch::PageSketch(QWidget* Parent) : QWidget(Parent), mSentence(new QLabel(this)) {
     mSentence->setObjectName(QStringLiteral("lblPages"));
-    mSentence->setAccessibleName(tr("Pages"));
     mSentence->setWordWrap(true);
     mSentence->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     auto* Layout = new QVBoxLayout(this);

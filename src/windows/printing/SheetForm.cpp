@@ -133,11 +133,10 @@ SketchedFoot SheetForm::Foot() const {
     return {mUi->chkName->isChecked(), mUi->chkPageNumbers->isChecked()};
 }
 
-QString SheetForm::Sentence(Answer<CellGrid>& Grid) const {
+QString SheetForm::Sentence(Answer<CellGrid>& Grid, int Slides) const {
     if (!CanPrint()) return WhatToDo();
     if (const Answer<> Chosen = IsChosen(); !Chosen) return Chosen.Refusal().Text;
     if (!Grid) return Grid.Refusal().Text;
-    const int Slides = SlideCount();
     if (Slides == 0) return tr("There are no slides to print.");
     return Counted(Slides, tr("slide"), tr("slides")) + QStringLiteral(", ") +
            Counted(PagesFor(*Grid, Slides), tr("page"), tr("pages"));
@@ -147,10 +146,10 @@ void SheetForm::ShowSketch() {
     const GridWish Wanted = Wish();
     Answer<CellGrid> Grid = GridFor(Wanted);
     const QSizeF Paper = PaperOfCountry();
-    const bool Empty = !Grid || !CanPrint() || !IsChosen() || SlideCount() == 0;
-    mUi->sktPage->Show(Empty ? EmptyPage(Paper, Wanted.Turn)
-                             : FirstSheet(Paper, *Grid, SlideCount(), UsualShape, Foot()),
-                       Sentence(Grid));
+    const int Slides = CanPrint() && IsChosen() ? SlideCount() : 0;
+    mUi->sktPage->Show(Grid && Slides > 0 ? FirstSheet(Paper, *Grid, Slides, UsualShape, Foot())
+                                          : EmptyPage(Paper, Wanted.Turn),
+                       Sentence(Grid, Slides));
 }
 
 Answer<CellGrid> SheetForm::CheckedGrid() const {
@@ -171,7 +170,6 @@ void SheetForm::Print() {
 }
 
 SheetForm::Composed SheetForm::Compose(const CellGrid& Grid) try {
-    const PointerScope Working(Pointer::Hourglass);
     Answer<SheetMatter> Given = Matter();
     if (!Tell(Given)) return {};
     for (const BoxRequest& Each : Given->Slides.Missing) ShowBox(Each);
@@ -186,6 +184,7 @@ SheetForm::Composed SheetForm::Compose(const CellGrid& Grid) try {
 
 // Nothing when it was stopped.
 SheetForm::Composed SheetForm::ComposeBeside(const CellGrid& Grid, const SheetMatter& Given) {
+    const PointerScope Working(Pointer::Hourglass);
     const SheetContents Contents{Given.Slides.Paths, Given.Slides.Captions,
                                  Foot().Name ? Given.Name : QString(), Foot().PageNumber};
     const auto Work = [Grid, Contents,

@@ -60,7 +60,7 @@ class SheetForm : public Form {
     GridWish Wish() const;
     Answer<CellGrid> CheckedGrid() const;
     SketchedFoot Foot() const;
-    QString Sentence(Answer<CellGrid>& Grid) const;
+    QString Sentence(Answer<CellGrid>& Grid, int Slides) const;
     void Print();
     Composed Compose(const CellGrid& Grid);
     Composed ComposeBeside(const CellGrid& Grid, const SheetMatter& Given);

@@ -1,10 +1,8 @@
 #include "windows/printing/frmPrintSheet.h"
 
 #include "controls/fields/Icons.h"
-#include "controls/forms/ScreenPointer.h"
 #include "controls/forms/Tell.h"
 #include "printing/SheetComposer.h"
-#include "support/Fault.h"
 #include "support/modNumbers.h"
 #include "ui_frmPrintSheet.h"
 #include "windows/printing/NumberKeys.h"
@@ -65,19 +63,12 @@ void frmPrintSheet::ShowSketch() {
 }
 
 void frmPrintSheet::Print() {
-    auto Document = Compose();
-    if (Tell(Document)) PreviewDocument(*Document);
-}
-
-Answer<std::shared_ptr<const PrintDocument>> frmPrintSheet::Compose() const try {
     Answer<CellGrid> Grid = GridFor(Wish());
-    if (!Grid) return Grid.Refusal();
-    const PointerScope Working(Pointer::Hourglass);
-    const auto Document = NewPrintDocument();
-    ComposeSheets(*Document, *Grid, {{mPicture.Path}});
-    return std::shared_ptr<const PrintDocument>(Document);
-} catch (const Fault& Problem) {
-    return BoxRequest{.Text = Problem.Text(), .Title = windowTitle(), .Icon = BoxIcon::Critical};
+    if (!Tell(Grid)) return;
+    PreviewComposed(*this, [Cells = *Grid, Path = mPicture.Path](PrintDocument& Into) -> Answer<> {
+        ComposeSheets(Into, Cells, {{Path}});
+        return Done();
+    });
 }
 
 }  // namespace neb

@@ -28,7 +28,6 @@ class frmPrintSheet : public Form {
     GridWish Wish() const;
     void ShowSketch();
     void Print();
-    Answer<std::shared_ptr<const PrintDocument>> Compose() const;
     void Close() { Unload(); }
 
     std::unique_ptr<Ui::frmPrintSheet> mUi;

@@ -3,9 +3,7 @@
 #include <QSignalBlocker>
 
 #include "controls/fields/Icons.h"
-#include "controls/forms/Tell.h"
 #include "printing/SheetComposer.h"
-#include "support/Fault.h"
 #include "support/modNumbers.h"
 #include "ui_frmPrintSlide.h"
 #include "windows/printing/NumberKeys.h"
@@ -93,17 +91,9 @@ void frmPrintSlide::ShowSketch() {
 }
 
 void frmPrintSlide::Print() {
-    auto Document = Compose();
-    if (Tell(Document)) PreviewDocument(*Document);
-}
-
-Answer<std::shared_ptr<const PrintDocument>> frmPrintSlide::Compose() const try {
-    const auto Document = NewPrintDocument();
-    const Answer<> Composed = ComposeSlide(*Document, Wish(), mPicture.Path);
-    if (!Composed) return Composed.Refusal();
-    return std::shared_ptr<const PrintDocument>(Document);
-} catch (const Fault& Problem) {
-    return BoxRequest{.Text = Problem.Text(), .Title = windowTitle(), .Icon = BoxIcon::Critical};
+    PreviewComposed(*this, [Wanted = Wish(), Path = mPicture.Path](PrintDocument& Into) {
+        return ComposeSlide(Into, Wanted, Path);
+    });
 }
 
 }  // namespace neb

@@ -35,7 +35,6 @@ class frmPrintSlide : public Form {
     void HeightTyped();
     void ShowSketch();
     void Print();
-    Answer<std::shared_ptr<const PrintDocument>> Compose() const;
     void Close() { Unload(); }
 
     std::unique_ptr<Ui::frmPrintSlide> mUi;

@@ -1,6 +1,7 @@
 #include "windows/printing/modPrinting.h"
 
 #include "controls/forms/ScreenPointer.h"
+#include "controls/forms/Tell.h"
 #include "controls/picture/PictureView.h"
 #include "printing/SlidesToPrint.h"
 #include "support/Fault.h"
@@ -14,6 +15,19 @@ namespace {
 PictureToPrint Read(const QString& Path, QSize LargestScreen) {
     const PrintPicture Picture{Path, {}};
     return {Path, MeasurePicture(Picture), PixelsOf(Picture, LargestScreen)};
+}
+
+using Composed = std::shared_ptr<const PrintDocument>;
+
+// Formats that do not tell their size at once take their time.
+Answer<Composed> ComposeAside(const QString& Title, const Composer& Compose) try {
+    const PointerScope Working(Pointer::Hourglass);
+    const auto Document = NewPrintDocument();
+    const Answer<> Made = FinishAside([Compose, Document] { return Compose(*Document); }).get();
+    if (!Made) return Made.Refusal();
+    return Composed(Document);
+} catch (const Fault& Problem) {
+    return BoxRequest{.Text = Problem.Text(), .Title = Title, .Icon = BoxIcon::Critical};
 }
 
 }  // namespace
@@ -38,6 +52,11 @@ void PreviewDocument(std::shared_ptr<const PrintDocument> Document) {
     const auto Preview = NewForm<frmPrintPreview>();
     Preview->ShowDocument(std::move(Document));
     Preview->ShowModal();
+}
+
+void PreviewComposed(const Form& Window, const Composer& Compose) {
+    Answer<Composed> Made = ComposeAside(Window.windowTitle(), Compose);
+    if (Tell(Made) && Window.IsLoaded()) PreviewDocument(*Made);
 }
 
 void ShowPrintSlideShow(std::int32_t AlbumID, std::int32_t SlideShowID) {

@@ -10,6 +10,8 @@
 
 namespace neb {
 
+class Form;
+
 // A picture as it will be printed: the one that stands in for it where it is missing or cannot be
 // decoded.
 struct PictureToPrint {
@@ -25,6 +27,11 @@ PictureToPrint ReadToPrint(const QString& Path);
 std::shared_ptr<PrintDocument> NewPrintDocument();
 // The user looks through it, and prints it from there; returns when he has closed the preview.
 void PreviewDocument(std::shared_ptr<const PrintDocument> Document);
+
+// Has a document composed, beside the window and on any thread, and shows its preview; what is in
+// the way of that is told instead.
+using Composer = std::function<Answer<>(PrintDocument& Into)>;
+void PreviewComposed(const Form& Window, const Composer& Compose);
 
 // Shows the dialog that prints a slide show, with that one chosen. Faults are ignored.
 void ShowPrintSlideShow(std::int32_t AlbumID, std::int32_t SlideShowID);
