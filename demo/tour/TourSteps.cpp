@@ -43,6 +43,7 @@ void AddRoad(Tour& Guide, frmNEBSlideShow& Window, const Story& Told) {
         AddShowManager(Guide, Told);
         AddPreferences(Guide, Window);
         AddTheShow(Guide, Window);
+        AddPrinting(Guide, Window, Told.Second + QStringLiteral(".pdf"));
         AddTransfer(Guide, Window, Told.Second);
     }
     EndProgram(Guide, Window);

@@ -1,6 +1,6 @@
 // The steps of the demonstration, chapter by chapter: from a folder of pictures to a show with
-// music, an album brought into a second database, that show once more after a new start of the
-// program, and the second database opened.
+// music, an album printed and brought into a second database, that show once more after a new start
+// of the program, and the second database opened.
 #pragma once
 
 #include <QString>
@@ -17,7 +17,8 @@ class Tour;
 struct Story {
     QString Folder;  // of the pictures
     QString Music;   // the folder of the sample music; empty: the short road, to Quick Show alone
-    QString Second;  // where a second database is made, beside Music
+    // Where a second database is made, beside Music; the printed album is a PDF of that name.
+    QString Second;
 };
 
 constexpr const char* QuickShowName = "At First Sight";
@@ -45,6 +46,7 @@ void AddShowManagerOpened(Tour& Guide);
 void AddShowManager(Tour& Guide, const Story& Told);
 void AddPreferences(Tour& Guide, frmNEBSlideShow& Window);
 void AddTheShow(Tour& Guide, frmNEBSlideShow& Window);
+void AddPrinting(Tour& Guide, frmNEBSlideShow& Window, const QString& Pdf);
 void AddTransfer(Tour& Guide, frmNEBSlideShow& Window, const QString& Second);
 void EndProgram(Tour& Guide, frmNEBSlideShow& Window);
 

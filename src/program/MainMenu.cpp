@@ -21,6 +21,8 @@
 #include "windows/frame/Openers.h"
 #include "windows/frame/modNotice.h"
 #include "windows/import/frmNewAlbumWzd1.h"
+#include "windows/printing/frmPrintAlbum.h"
+#include "windows/printing/frmPrintSlideShow.h"
 #include "windows/show/modSlideShows.h"
 #include "windows/slides/frmSlideDBM.h"
 #include "windows/slides/frmSlideMgrBulk.h"
@@ -87,9 +89,6 @@ struct Entry {
     Handler Run;
 };
 
-// Where a window comes with a later version.
-constexpr Handler NotYet = nullptr;
-
 constexpr Entry Entries[] = {
     {"mnuFileHdr", "mnuQuickShow", "&Quick Show...", "Ctrl+K", "quick-show",
      "Turn a folder of pictures into a running show",
@@ -139,9 +138,10 @@ constexpr Entry Entries[] = {
      "Compare a folder that was written for a disc with its check sums",
      [](auto&) { CheckDisc(); }},
     {"mnuPrintHdr", "mnuAlbumPrint", "Print &Album...", "", "print", "Print the pages of an album",
-     NotYet},
+     [](auto&) { NewForm<frmPrintAlbum>()->PrintAlbum(0); }},
     {"mnuPrintHdr", "mnuSlideShowPrint", "Print &Slide Show...", "", "print",
-     "Print the pages of a slide show", NotYet},
+     "Print the pages of a slide show",
+     [](auto&) { NewForm<frmPrintSlideShow>()->PrintSlideShow(0, 0); }},
     {"mnuWindows", "mnuCascade", "&Cascade", "", "", "Lay the windows one over the other",
      [](frmNEBSlideShow& Main) { Main.Area().cascadeSubWindows(); }},
     {"mnuWindows", "mnuTile", "&Tile", "", "", "Lay the windows side by side",
@@ -172,8 +172,7 @@ QAction* MakeAction(frmNEBSlideShow& Main, const Entry& Row) {
     Action->setObjectName(QString::fromLatin1(Row.Name));
     Action->setShortcut(QKeySequence(QString::fromLatin1(Row.Keys)));
     Action->setStatusTip(QObject::tr(Row.Tip));
-    Action->setEnabled(Row.Run != NotYet);
-    if (Row.Run != NotYet) Connect(Main, *Action, Row.Run);
+    Connect(Main, *Action, Row.Run);
     return Action;
 }
 

@@ -23,6 +23,7 @@
 #include "windows/frame/modWindowState.h"
 #include "windows/lists/clsImageBuffer.h"
 #include "windows/lists/frmPicturePopup.h"
+#include "windows/printing/modPrinting.h"
 #include "windows/show/modSlideShows.h"
 
 namespace neb {
@@ -114,7 +115,8 @@ void frmSlideShowDBM::SetUpToolBar() {
          "save-as", "Ctrl+Shift+S", &frmSlideShowDBM::SaveAsNew},
         {"mnuSlideShowDelete", "Delete", "Delete the slide show", "delete", "",
          &frmSlideShowDBM::Delete},
-        {"mnuSlideShowPrint", "Print", "Print the slide show", "print", "", nullptr},
+        {"mnuSlideShowPrint", "Print", "Print the slide show as it was last saved", "print",
+         "Ctrl+P", &frmSlideShowDBM::Print},
         {"mnuSlideShowView", "View", "Play the slide show as it was last saved", "slide-show-play",
          "", &frmSlideShowDBM::View},
         {"mnuSlideShowPrefs", "Preferences", "Choose how slide shows are played", "preferences", "",
@@ -126,8 +128,7 @@ void frmSlideShowDBM::SetUpToolBar() {
         QAction* Tool = mUi->abrMenu->AddTool(Name, tr(Each.Caption), tr(Each.ToolTip),
                                               QString::fromLatin1(Each.IconName),
                                               QKeySequence(QString::fromLatin1(Each.Keys)));
-        Tool->setEnabled(Each.Does != nullptr);
-        if (Each.Does) On(Tool, &QAction::triggered, Each.Does);
+        On(Tool, &QAction::triggered, Each.Does);
     }
 }
 
@@ -344,6 +345,11 @@ void frmSlideShowDBM::Delete() {
     if (!IsLoaded() || AlbumID() != From) return;
     LoadSlideShowsList();
     New();
+}
+
+void frmSlideShowDBM::Print() {
+    if (AlbumID() != 0) return ShowPrintSlideShow(AlbumID(), SlideShowID());
+    MsgBox(QStringLiteral("You must first select an album."));
 }
 
 void frmSlideShowDBM::View() {

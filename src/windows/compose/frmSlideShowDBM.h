@@ -98,6 +98,7 @@ class frmSlideShowDBM : public Form, public ChangeReceiver {
     void Cancel() { cboSlideShows_Click(); }
     void Close() { Unload(); }
     void Delete();
+    void Print();
     void View();
     void EditPreferences();
 

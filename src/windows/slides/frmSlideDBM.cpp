@@ -88,9 +88,9 @@ void frmSlideDBM::SetUpToolBar() {
     } Tools[] = {
         {"mnuImport", "Import Graphics", "Import the graphics of a directory into the album",
          "import-directory", "Ctrl+O", !ReadOnlyDB},
-        {"mnuPrintSlide", "Print Slide", "Print this slide", "print", "", false},  // not there yet
+        {"mnuPrintSlide", "Print Slide", "Print this slide", "print", "Ctrl+P", true},
         {"mnuPrintSlideSheet", "Print Slide Sheet", "Print a sheet of this slide", "print-sheet",
-         "", false},
+         "", true},
         {"mnuExit", "Exit", "Close this window", "exit", "", true},
     };
     for (const auto& Each : Tools) {

@@ -109,6 +109,11 @@ class frmSlideDBM : public Form, public ChangeReceiver {
     void Delete();
     void Import();
     void ImportFromDirectory();
+    // The picture's file; after a box when no album is chosen to find it in, and without one:
+    // empty.
+    QString FileToPrint() const;
+    void PrintCurrentSlide();
+    void PrintCurrentSheet();
     void ToolClicked(const QString& Name);
     bool IsFree() const;
 

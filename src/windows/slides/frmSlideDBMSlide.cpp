@@ -9,6 +9,7 @@
 #include "controls/forms/Tell.h"
 #include "controls/grid/FlexGrid.h"
 #include "db/clsDBEngine.h"
+#include "db/modAlbumFiles.h"
 #include "pictures/formats/PictureFaults.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/MediaTypes.h"
@@ -20,6 +21,8 @@
 #include "windows/frame/modUserInput.h"
 #include "windows/import/frmDirSelect.h"
 #include "windows/import/frmImportFilter.h"
+#include "windows/printing/frmPrintSheet.h"
+#include "windows/printing/frmPrintSlide.h"
 #include "windows/slides/PicturePlace.h"
 #include "windows/slides/SlideChoice.h"
 #include "windows/slides/frmSlideDBM.h"
@@ -306,7 +309,29 @@ void frmSlideDBM::Delete() {
 
 void frmSlideDBM::ToolClicked(const QString& Name) {
     if (Name == u"mnuImport") Import();
+    if (Name == u"mnuPrintSlide") PrintCurrentSlide();
+    if (Name == u"mnuPrintSlideSheet") PrintCurrentSheet();
     if (Name == u"mnuExit") Unload();
+}
+
+QString frmSlideDBM::FileToPrint() const {
+    const QString& Name = mInHand.PictureName();
+    if (Name.isEmpty()) return {};
+    if (HoldsSeparator(Name) || mUi->cboAlbum->currentIndex() >= 0)
+        return SlidePath(DBEngine->DBPath(), Lists().AlbumID(), Name);
+    MsgBox(QStringLiteral("You must first select an album to print from."),
+           QStringLiteral("Missing User Input"), BoxIcon::Information);
+    return {};
+}
+
+void frmSlideDBM::PrintCurrentSlide() {
+    const QString Path = FileToPrint();
+    if (!Path.isEmpty()) NewForm<frmPrintSlide>()->PrintSlide(Path);
+}
+
+void frmSlideDBM::PrintCurrentSheet() {
+    const QString Path = FileToPrint();
+    if (!Path.isEmpty()) NewForm<frmPrintSheet>()->PrintSlide(Path, mUi->txtDscr->text());
 }
 
 void frmSlideDBM::Import() {

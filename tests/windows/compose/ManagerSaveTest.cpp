@@ -349,7 +349,6 @@ TEST_F(ManagerSave, TheToolBarHasTheCommands) {
     EXPECT_EQ(2, Chosen());
     Boxes.Expect(u"Are you sure you want to delete the selected slide show?"_s, BoxAnswer::No);
     Tool("mnuSlideShowDelete");
-    EXPECT_FALSE(In<ToolBar>(*W, "abrMenu").IsToolEnabled(u"mnuSlideShowPrint"_s));
     int Preferences = 0;
     WhenOpen<frmPreferences>([&](frmPreferences& Shown) {
         ++Preferences;

@@ -282,10 +282,8 @@ TEST_F(SlideDBM, ClosesThoughItsPlaceCannotBeRemembered) {
     EXPECT_FALSE(W->IsLoaded());
 }
 
-TEST_F(SlideDBM, TheToolBarLeavesPrintingForLaterAndExits) {
+TEST_F(SlideDBM, TheToolBarHasItsTextsAndExits) {
     OpenAlbum();
-    EXPECT_FALSE(In<QAction>(*W, "mnuPrintSlide").isEnabled());
-    EXPECT_FALSE(In<QAction>(*W, "mnuPrintSlideSheet").isEnabled());
     EXPECT_EQ("Import Graphics", In<QAction>(*W, "mnuImport").text().toStdString());
     EXPECT_EQ("Print Slide", In<QAction>(*W, "mnuPrintSlide").text().toStdString());
     EXPECT_EQ("Print Slide Sheet", In<QAction>(*W, "mnuPrintSlideSheet").text().toStdString());
