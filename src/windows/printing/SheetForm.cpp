@@ -15,7 +15,7 @@
 #include "support/modNumbers.h"
 #include "ui_SheetForm.h"
 #include "windows/frame/modNotice.h"
-#include "windows/printing/NumberKeys.h"
+#include "controls/fields/NumberKeys.h"
 #include "windows/printing/PageSketch.h"
 #include "windows/printing/modPrinting.h"
 

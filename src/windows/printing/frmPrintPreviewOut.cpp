@@ -11,7 +11,7 @@
 #include "windows/printing/MailSession.h"
 #include "windows/printing/PrintFiles.h"
 #include "windows/printing/PrintView.h"
-#include "windows/printing/frmInputBox.h"
+#include "windows/frame/frmInputBox.h"
 #include "windows/printing/frmPrintPreview.h"
 #include "windows/transfer/frmTransferProgress.h"
 

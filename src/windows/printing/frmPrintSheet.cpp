@@ -5,7 +5,7 @@
 #include "printing/SheetComposer.h"
 #include "support/modNumbers.h"
 #include "ui_frmPrintSheet.h"
-#include "windows/printing/NumberKeys.h"
+#include "controls/fields/NumberKeys.h"
 #include "windows/printing/PageSketch.h"
 
 namespace neb {

@@ -6,7 +6,7 @@
 #include "printing/SheetComposer.h"
 #include "support/modNumbers.h"
 #include "ui_frmPrintSlide.h"
-#include "windows/printing/NumberKeys.h"
+#include "controls/fields/NumberKeys.h"
 #include "windows/printing/PageSketch.h"
 
 namespace neb {

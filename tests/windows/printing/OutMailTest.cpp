@@ -1,7 +1,7 @@
 // Mail from the preview: to whom, with what texts, under which name, and what it says when nobody
 // takes it.
 #include "OutRig.h"
-#include "windows/printing/frmInputBox.h"
+#include "windows/frame/frmInputBox.h"
 
 namespace neb {
 namespace {

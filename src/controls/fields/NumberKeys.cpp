@@ -1,4 +1,4 @@
-#include "windows/printing/NumberKeys.h"
+#include "controls/fields/NumberKeys.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>

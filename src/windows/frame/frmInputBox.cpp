@@ -1,4 +1,4 @@
-#include "windows/printing/frmInputBox.h"
+#include "windows/frame/frmInputBox.h"
 
 #include "ui_frmInputBox.h"
 
