@@ -20,11 +20,17 @@
 #include "windows/albums/frmGetObjectName.h"
 #include "windows/compose/frmSlideShowDBM.h"
 #include "windows/disc/frmDiscFolder.h"
+#include "windows/frame/frmInputBox.h"
 #include "windows/import/frmDirSelect.h"
 #include "windows/import/frmFindGraphics.h"
 #include "windows/import/frmImportFilter.h"
 #include "windows/import/frmNewAlbumWzd1.h"
 #include "windows/import/frmQuickShow.h"
+#include "windows/printing/frmPrintAlbum.h"
+#include "windows/printing/frmPrintPreview.h"
+#include "windows/printing/frmPrintSheet.h"
+#include "windows/printing/frmPrintSlide.h"
+#include "windows/printing/frmPrintSlideShow.h"
 #include "windows/recorder/frmSoundRecorder.h"
 #include "windows/show/frmPreferences.h"
 #include "windows/slides/frmSlideDBM.h"
@@ -94,10 +100,11 @@ class EachWindow : public ::testing::Test {
 using Windows =
     ::testing::Types<frmAbout, frmAlbumDelete, frmAlbumExport, frmAlbumImport, frmAlbumRename,
                      frmAlbumView, frmDirSelect, frmDiscFolder, frmFindGraphics, frmGetObjectName,
-                     frmHelp, frmImportFilter, frmLoading, frmMsgBoxEx, frmNewAlbumWzd1,
-                     frmPreferences, frmQuickShow, frmSlideDBM, frmSlideMgrBulk, frmSlideShowDBM,
-                     frmSlideShowExport, frmSlideShowImport, frmSlideShowView, frmSoundRecorder,
-                     frmTransferProgress>;
+                     frmInputBox, frmPrintAlbum, frmPrintPreview, frmPrintSheet, frmPrintSlide,
+                     frmPrintSlideShow, frmHelp, frmImportFilter, frmLoading, frmMsgBoxEx,
+                     frmNewAlbumWzd1, frmPreferences, frmQuickShow, frmSlideDBM, frmSlideMgrBulk,
+                     frmSlideShowDBM, frmSlideShowExport, frmSlideShowImport, frmSlideShowView,
+                     frmSoundRecorder, frmTransferProgress>;
 TYPED_TEST_SUITE(EachWindow, Windows);
 
 TYPED_TEST(EachWindow, HasNamesToolTipsAndReachableControls) {
