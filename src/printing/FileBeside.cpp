@@ -3,10 +3,22 @@
 #include "support/Fault.h"
 
 namespace neb {
+namespace {
+
+// The user hears of the file that he has named: of the one beside it he knows nothing.
+template <class Step>
+void TellingOf(const QString& Path, const QString& Beside, const Step& Do) try {
+    Do();
+} catch (const Fault& Problem) {
+    if (Problem.File() != Beside) throw;
+    throw Fault(Problem.What(), Path, Problem.Number());
+}
+
+}  // namespace
 
 FileBeside::FileBeside(const QString& Path)
     : mPath(Path), mBeside(ResolvePath(Path) + QStringLiteral(".new")) {
-    mWriter.emplace(mBeside);
+    TellingOf(mPath, mBeside, [this] { mWriter.emplace(mBeside); });
 }
 
 FileBeside::~FileBeside() {
@@ -18,10 +30,16 @@ FileBeside::~FileBeside() {
     }
 }
 
+void FileBeside::Write(const char* Data, qint64 Length) {
+    TellingOf(mPath, mBeside, [&] { mWriter->Write(Data, Length); });
+}
+
 void FileBeside::TakePlace() {
-    mWriter->Sync();
-    mWriter->Close();
-    RenameFile(mBeside, mPath);
+    TellingOf(mPath, mBeside, [this] {
+        mWriter->Sync();
+        mWriter->Close();
+        RenameFile(mBeside, mPath);
+    });
     mKept = true;
 }
 

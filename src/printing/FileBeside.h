@@ -10,12 +10,12 @@ namespace neb {
 
 class FileBeside {
   public:
-    explicit FileBeside(const QString& Path);  // throws Fault, as all of these
+    explicit FileBeside(const QString& Path);  // throws Fault with that path, as all of these
     ~FileBeside();                             // the file goes unless it took its place
     FileBeside(const FileBeside&) = delete;
     FileBeside& operator=(const FileBeside&) = delete;
 
-    void Write(const char* Data, qint64 Length) { mWriter->Write(Data, Length); }
+    void Write(const char* Data, qint64 Length);
     void TakePlace();  // all of it is on the disk before
 
   private:

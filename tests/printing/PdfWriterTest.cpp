@@ -242,6 +242,27 @@ TEST_F(PdfWriterTest, AFailingStepAtTheEndLeavesTheOldFile) {
     EXPECT_THROW(WritePdf(Document, Folder / u"nowhere/out.pdf"_s), Fault);
 }
 
+TEST_F(PdfWriterTest, AFaultNamesTheFileThatTheUserHasNamed) {
+    const PrintDocument Document = Pages(1, JpegOf(Noise({90, 70}, 10)));
+    const auto FileNamed = [&Document](const QString& Path) {
+        try {
+            WritePdf(Document, Path);
+        } catch (const Fault& Problem) {
+            return Problem.File().toStdString();
+        }
+        return std::string("none");
+    };
+    const QString Nowhere = Folder / u"nowhere/out.pdf"_s;
+    EXPECT_EQ(Nowhere.toStdString(), FileNamed(Nowhere));
+    for (const HostStep Failing : {HostStep::Write, HostStep::Sync}) {
+        SetHostWatcher([&](HostStep Step, const QString& Path, qint64&) {
+            if (Step == Failing) throw Fault(u"no"_s, Path);
+        });
+        EXPECT_EQ(Pdf().toStdString(), FileNamed(Pdf()));
+        SetHostWatcher({});
+    }
+}
+
 // Bytes of this process that are in memory.
 qint64 Resident() {
     QFile Numbers(u"/proc/self/statm"_s);

@@ -26,11 +26,20 @@ WindowMemory MemoryOn(const QScreen& Screen) {
     return {QStringLiteral("frmPrintPreview"), ToTwips(Size.height()), ToTwips(Size.width())};
 }
 
+// The name of a view is no hint of what to choose: it is what is chosen.
+void ShowNamesInFull(QComboBox& Box) {
+    QPalette Colours = Box.palette();
+    Colours.setColor(QPalette::PlaceholderText, Colours.color(QPalette::ButtonText));
+    Box.setPalette(Colours);
+}
+
 }  // namespace
 
 frmPrintPreview::frmPrintPreview() : mUi(std::make_unique<Ui::frmPrintPreview>()) {
     mUi->setupUi(this);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
+    mUi->lblNotice->setMinimumHeight(fontMetrics().height());  // its place is kept
+    ShowNamesInFull(*mUi->cboZoom);
     MakeMenu();
     ConnectButtons();
     ShowIcons();

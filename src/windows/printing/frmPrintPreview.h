@@ -84,6 +84,9 @@ class frmPrintPreview : public Form {
     void LoadDocument();
     void Mail();
     void AutoSave();
+    // At the foot until there is something else to tell, and in the status bar of the main window,
+    // which this one may hide.
+    void Notify(const QString& Text);
 
     std::unique_ptr<Ui::frmPrintPreview> mUi;
     PreviewSettings mSettings;

@@ -7,11 +7,11 @@
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
 #include "ui_frmPrintPreview.h"
+#include "windows/frame/frmInputBox.h"
 #include "windows/frame/modNotice.h"
 #include "windows/printing/MailSession.h"
 #include "windows/printing/PrintFiles.h"
 #include "windows/printing/PrintView.h"
-#include "windows/frame/frmInputBox.h"
 #include "windows/printing/frmPrintPreview.h"
 #include "windows/transfer/frmTransferProgress.h"
 
@@ -127,12 +127,16 @@ QString AskAddress() {
         .trimmed();
 }
 
-void MailTo(const QString& Address, const Document& What, const PreviewSettings& Settings) {
+// What there is to say of it, unless a box has said it.
+QString MailTo(const QString& Address, const Document& What, const PreviewSettings& Settings) {
     MailSession Session(TheServices().Mail, Settings);
     const QString Path = AutoSaveDir(Settings.AutoSavePath) +
                          AttachmentNameFor(Settings.AutoSaveName, TheServices().Time->Now());
-    if (!SaveUnderBar(What, Path)) return ShowNotice(QObject::tr("Stopped; nothing was sent."));
-    if (!Session.Send(ComposeMail(Settings, Address, Path))) TellNotSent(Path);
+    if (!SaveUnderBar(What, Path)) return QObject::tr("Stopped; nothing was sent.");
+    if (Session.Send(ComposeMail(Settings, Address, Path)))
+        return QObject::tr("The message was handed to the mail program.");
+    TellNotSent(Path);
+    return {};
 }
 
 }  // namespace
@@ -163,12 +167,14 @@ void frmPrintPreview::Print(bool ShowDialog) {
     const Document What = mUi->VSPrinter1->Document();
     if (!What || What->PageCount() == 0) return;
     mSettings.UnloadAfterPrint = true;
+    Notify({});
     bool Cancel = false;
     Q_EMIT BeforePrint(Cancel);
     if (Cancel) return;
     const auto Error = PrintDoc(What, {mDefaultPrinter, ShowDialog, windowTitle()});
     if (Error != PrintError::None) return PrintFailed(Error.value_or(PrintError::None));
     mPrinted = true;
+    Notify(tr("The document was handed over for printing."));
     if (mSettings.UnloadAfterPrint) Unload();
     Q_EMIT AfterPrint();
 }
@@ -181,12 +187,21 @@ void frmPrintPreview::PrintFailed(PrintError Error) {
     if (Message == std::end(PrintMessages)) return;
     if (Message->ClearsPrinted) mPrinted = false;
     ShowBox(Message->Box);
-    if (Error == PrintError::NoAccess) mUi->cmdSave->setFocus();
+    if (Error != PrintError::NoAccess) return;
+    mUi->cmdSave->setFocus();
+    Notify(tr("Save writes the pages to a PDF instead."));
+}
+
+void frmPrintPreview::Notify(const QString& Text) {
+    mUi->lblNotice->setText(Text);
+    mUi->lblNotice->setToolTip(Text);
+    if (!Text.isEmpty()) ShowNotice(Text);
 }
 
 void frmPrintPreview::Save() {
     const Document What = mUi->VSPrinter1->Document();
     if (!What) return;
+    Notify({});
     const QString Chosen = TheServices().Dialogs->SaveFile(QStringLiteral("Save Document"),
                                                            UsersDocuments(), SaveFilter);
     if (Chosen.isEmpty()) return;
@@ -194,13 +209,14 @@ void frmPrintPreview::Save() {
     if (!Tell(Path) || !MayReplace(*Path)) return;
     try {
         const bool Saved = SaveUnderBar(What, *Path);
-        ShowNotice(Saved ? tr("Saved: %1").arg(*Path) : tr("Stopped; nothing was saved."));
+        Notify(Saved ? tr("Saved: %1").arg(*Path) : tr("Stopped; nothing was saved."));
     } catch (const Fault& Problem) {
         TellFault(Problem);
     }
 }
 
 void frmPrintPreview::LoadDocument() {
+    Notify({});
     const QString Path = TheServices().Dialogs->OpenFile(QStringLiteral("Load Document"),
                                                          UsersDocuments(), OpenFilter);
     if (Path.isEmpty()) return;
@@ -214,11 +230,12 @@ void frmPrintPreview::LoadDocument() {
 void frmPrintPreview::Mail() {
     const Document What = mUi->VSPrinter1->Document();
     if (!What) return;
+    Notify({});
     const QString Address =
         mSettings.EmailAddress.isEmpty() ? AskAddress() : mSettings.EmailAddress;
     if (Address.isEmpty()) return;
     try {
-        MailTo(Address, What, mSettings);
+        Notify(MailTo(Address, What, mSettings));
     } catch (const Fault& Problem) {
         TellFault(Problem);
     }

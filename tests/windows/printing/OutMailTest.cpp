@@ -132,6 +132,12 @@ TEST_F(OutMail, WhereNobodyTakesItTheUserIsToldWhereItLies) {
     TheServices().Mail = &Carrier;
 }
 
+TEST_F(OutMail, SaysWhenSomebodyHasTakenIt) {
+    SendTo(u"a@b"_s);
+    EXPECT_EQ(u"The message was handed to the mail program.", Notice);
+    EXPECT_EQ(Notice, In<QLabel>(*W, "lblNotice").text());
+}
+
 TEST_F(OutMail, AnAttachmentThatCannotBeWrittenIsToldAndTheSessionEnds) {
     DiskFull();
     const AgreeingBoxes Said;

@@ -35,6 +35,11 @@ TEST_F(OutPrint, TheButtonPrintsAllPagesWithoutADialogAndClosesTheWindow) {
     EXPECT_FALSE(W->IsLoaded());
 }
 
+TEST_F(OutPrint, SaysThatItIsDoneWhereTheWindowHasGone) {
+    Click("cmdPrint");
+    EXPECT_EQ(u"The document was handed over for printing.", Notice);
+}
+
 TEST_F(OutPrint, TheMenuEntryShowsTheDialogAndClosesTheWindowAsWell) {
     Choose("mnuPrint");
     ASSERT_EQ(1u, Printers.Wishes.size());
@@ -125,6 +130,7 @@ TEST_F(OutPrint, WithoutAPrinterTheDocumentIsOneKeyFromAPdf) {
     ExpectFailure(u"Could not access printer."_s);
     Click("cmdPrint");
     EXPECT_TRUE(In<QPushButton>(*W, "cmdSave").hasFocus());
+    EXPECT_EQ(u"Save writes the pages to a PDF instead.", In<QLabel>(*W, "lblNotice").text());
     Files.Answer = Out / u"a.pdf"_s;
     QTest::keyClick(W->focusWidget(), Qt::Key_Space);
     EXPECT_EQ(3, tests::PagesIn(Out / u"a.pdf"_s));

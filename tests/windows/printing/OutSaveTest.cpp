@@ -48,6 +48,26 @@ TEST_F(OutSave, WritesAPdfAndTellsItInTheStatusBar) {
     EXPECT_TRUE(W->IsLoaded());
 }
 
+// The main window lies behind this one.
+TEST_F(OutSave, TellsAtItsOwnFootAsWellUntilSomethingElseIsDone) {
+    const auto Told = [this] { return In<QLabel>(*W, "lblNotice").text().toStdString(); };
+    SaveAs(u"a.pdf"_s);
+    EXPECT_TRUE(In<QLabel>(*W, "lblNotice").isVisible());
+    EXPECT_EQ((u"Saved: "_s + (Out / u"a.pdf"_s)).toStdString(), Told());
+    Files.Answer.clear();
+    Click("cmdSave");
+    EXPECT_EQ("", Told());
+}
+
+TEST_F(OutSave, APathThatIsLongerThanTheWindowLeavesItsSize) {
+    const QSize Before = W->size();
+    const QRect Pages = W->VSPrinter1().geometry();
+    SaveAs(QString(200, u'w') + u".pdf"_s);
+    EXPECT_TRUE(In<QLabel>(*W, "lblNotice").text().endsWith(u"www.pdf"_s));
+    EXPECT_EQ(Before, W->size());
+    EXPECT_EQ(Pages, W->VSPrinter1().geometry());
+}
+
 TEST_F(OutSave, TheExtensionSaysTheKindInAnyCase) {
     for (const char* Name : {"A.PDF", "B.Pdf", "C.ppd", "D.PPD"}) SaveAs(QLatin1String(Name));
     EXPECT_EQ("A.PDF B.Pdf C.ppd D.PPD", Listed(Out.Path()));

@@ -37,6 +37,34 @@ TEST_F(PreviewWindow, OffersTheZoomsWithOneHundredChosen) {
     EXPECT_TRUE(View().hasFocus());
 }
 
+TEST_F(PreviewWindow, TheHelpNamesEachKeyOfItsMenus) {
+    Show(1);
+    const QByteArray Help = ReadFile(NEB_SOURCE_DIR "/assets/help/SlideShowHelp.hlp");
+    int Named = 0;
+    for (const QAction* Each : Window->findChildren<QAction*>()) {
+        const QByteArray Key = Each->shortcut().toString().toUtf8();
+        if (Key.isEmpty() || Each->objectName() == u"mnuExit") continue;
+        EXPECT_TRUE(Help.contains(Key)) << Key.toStdString();
+        ++Named;
+    }
+    EXPECT_EQ(6, Named);
+}
+
+// Some desktops leave hints dark on dark.
+TEST_F(PreviewWindow, TheNameOfAViewIsAsEasyToReadAsAZoom) {
+    const QPalette Before = QApplication::palette();
+    QPalette Dark(QColor(0x31, 0x36, 0x3b));
+    Dark.setColor(QPalette::PlaceholderText, QColor(0, 0, 0, 128));
+    QApplication::setPalette(Dark);
+    Show(1);
+    for (const QPalette::ColorGroup Group : {QPalette::Active, QPalette::Inactive}) {
+        const QPalette Colours = Zooms().palette();
+        EXPECT_EQ(Colours.color(Group, QPalette::ButtonText).rgba(),
+                  Colours.color(Group, QPalette::PlaceholderText).rgba());
+    }
+    QApplication::setPalette(Before);
+}
+
 TEST_F(PreviewWindow, ZoomsToTheEntryThatIsClicked) {
     Show(3);
     for (const char* Each : {"200", "75", "25"}) {
