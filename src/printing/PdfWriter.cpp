@@ -162,7 +162,10 @@ class PdfFile {
             Draw(Picture, Placed.Place);
             if (GoOn && !GoOn({++mDone, mDocument.PlaceCount()})) return false;
         }
-        for (const PlacedText& Text : mDocument.TextsOn(Page)) Draw(OutlinesOf(Text));
+        for (const PlacedText& Text : mDocument.TextsOn(Page)) {
+            Draw(OutlinesOf(Text));
+            if (GoOn && !GoOn({mDone, mDocument.PlaceCount()})) return false;
+        }
         return true;
     }
     PdfPicture PictureFor(const PlacedPicture& Placed) const {

@@ -12,6 +12,8 @@ namespace {
 constexpr double DotsToTheInch = 1440;
 constexpr double PointsToTheInch = 72;
 constexpr double LargestSize = 9;  // points
+// More than any page shows; the work grows faster than the text.
+constexpr qsizetype MostCharacters = 10000;
 
 // Smaller where not even one line has room.
 QFont FontFor(double Height) {
@@ -54,6 +56,13 @@ QString Shortened(const QTextLayout& Layout, int Lines, double Width) {
            QFontMetricsF(Layout.font()).elidedText(Rest, Qt::ElideRight, Width);
 }
 
+// As the layout takes it.
+QString Prepared(const QString& Text) {
+    QString Lines = Text.left(MostCharacters).replace(u'\n', QChar::LineSeparator);
+    if (Text.size() > MostCharacters) Lines += QChar(0x2026);  // an ellipsis
+    return Lines;
+}
+
 QPainterPath OutlinesOf(const QTextLayout& Layout) {
     QPainterPath Path;
     Path.setFillRule(Qt::WindingFill);
@@ -70,8 +79,7 @@ QPainterPath OutlinesOf(const QTextLayout& Layout) {
 
 QPainterPath OutlinesOf(const PlacedText& Text) {
     const QSizeF Room = Text.Place.size() * DotsToTheInch;
-    QTextLayout Layout(QString(Text.Text).replace(u'\n', QChar::LineSeparator),
-                       FontFor(Room.height()));
+    QTextLayout Layout(Prepared(Text.Text), FontFor(Room.height()));
     Layout.setTextOption(OptionFor(Text.Side));
     const int Lines = Break(Layout, Room);
     if (Lines < Layout.lineCount()) {

@@ -207,6 +207,17 @@ TEST_F(PdfWriterTest, EveryPictureIsToldOfAndStoppingLeavesTheOldFile) {
     EXPECT_EQ(PagesIn(Pdf()), 3);
 }
 
+TEST_F(PdfWriterTest, ItCanBeStoppedAmongTextsToo) {
+    PrintDocument Document({});
+    Document.StartDoc();
+    for (int I = 0; I < 3; ++I) Document.DrawText({u"rose"_s, {1, 1, 2, 0.3}});
+    Document.EndDoc();
+    int Told = 0;
+    EXPECT_FALSE(WritePdf(Document, Pdf(), [&](const PrintProgress&) { return ++Told < 2; }));
+    EXPECT_EQ(2, Told);
+    EXPECT_FALSE(FileExists(Pdf()));
+}
+
 TEST_F(PdfWriterTest, AFullDiskAtAnyByteLeavesTheOldFileAndNothingBeside) {
     const PrintDocument Document = Pages(3, JpegOf(Noise({900, 700}, 10)));
     WriteFile(Pdf(), "the old one");

@@ -2,6 +2,7 @@
 // sheets.
 #include "printing/TextLines.h"
 
+#include <QElapsedTimer>
 #include <atomic>
 #include <thread>
 
@@ -60,6 +61,17 @@ TEST(TextLines, WhatHasNoRoomAtAllIsCutShortByAnEllipsis) {
     const QRectF OneLine(0, 0, 0.6, 0.16);
     EXPECT_EQ(OutlinesOf({u"lamps of the garden"_s, OneLine}).elementCount(),
               OutlinesOf({u"lamps of the gardens and more"_s, OneLine}).elementCount());
+}
+
+// A file that was loaded may hold any text: whoever prints it waits for each of them.
+TEST(TextLines, ATextBeyondAllMeasureIsShortenedAsQuicklyAsALongOne) {
+    const QRectF Place(0, 0, 1.5, 0.34);
+    const QPainterPath Expected = OutlinesOf({u"unbroken"_s.repeated(500), Place});
+    QElapsedTimer Clock;
+    Clock.start();
+    EXPECT_EQ(Expected, OutlinesOf({u"unbroken"_s.repeated(30000), Place}));
+    EXPECT_LT(Clock.elapsed(), 1000);
+    EXPECT_GT(BoxOf(u"unbroken"_s.repeated(30000), {0, 0, 1.5, 100}).height(), 1);
 }
 
 TEST(TextLines, InALowPlaceTheLettersAreSmaller) {

@@ -46,14 +46,23 @@ class FakePortal : public QObject, protected QDBusContext {
         const QString Path = u"/org/freedesktop/portal/desktop/request/"_s +
                              message().service().mid(1).replace(u'.', u'_') + u'/' +
                              Given[u"handle_token"_s].toString();
-        if (Result) {
-            QDBusMessage Answer = QDBusMessage::createTargetedSignal(
-                message().service(), Path, u"org.freedesktop.portal.Request"_s, u"Response"_s);
-            Answer << *Result << QVariantMap();
-            connection().send(Answer);  // may well come before the call returns
-        }
+        if (Calls == 1) FirstPath = Path;
+        if (Result) Respond(Path, *Result);  // may well come before the call returns
+        if (FirstEndsLate && Calls == 2) Respond(FirstPath, 2);
         return QDBusObjectPath(Path);
     }
+
+  public:
+    bool FirstEndsLate = false;  // the first message fails when the second is under way
+
+  private:
+    void Respond(const QString& Path, uint Is) {
+        QDBusMessage Answer = QDBusMessage::createTargetedSignal(
+            message().service(), Path, u"org.freedesktop.portal.Request"_s, u"Response"_s);
+        Answer << Is << QVariantMap();
+        connection().send(Answer);
+    }
+    QString FirstPath;
 };
 
 int SendByDesktop() {
@@ -61,13 +70,16 @@ int SendByDesktop() {
     const std::int32_t Session = Mail.SignOn({}, {});
     std::cout << (Session == 0 ? "no session" : "session") << std::endl;
     if (Session == 0) return 0;
-    const bool Taken = Mail.Send(Session, {.RecipAddress = qEnvironmentVariable("NEB_TO"),
-                                           .MsgSubject = u" Gärten & \"Seen\" "_s,
-                                           .MsgNoteText = u" See\npage 2 $(touch x) "_s,
-                                           .AttachmentName = u"a b.pdf"_s,
-                                           .AttachmentPathName = qEnvironmentVariable("NEB_PDF")});
+    for (int Left = qEnvironmentVariableIntValue("NEB_TIMES"); Left > 0; --Left) {
+        const bool Taken =
+            Mail.Send(Session, {.RecipAddress = qEnvironmentVariable("NEB_TO"),
+                                .MsgSubject = u" Gärten & \"Seen\" "_s,
+                                .MsgNoteText = u" See\npage 2 $(touch x) "_s,
+                                .AttachmentName = u"a b.pdf"_s,
+                                .AttachmentPathName = qEnvironmentVariable("NEB_PDF")});
+        std::cout << (Taken ? "taken" : "not taken") << std::endl;
+    }
     Mail.SignOff(Session);
-    std::cout << (Taken ? "taken" : "not taken") << std::endl;
     return 0;
 }
 
@@ -110,6 +122,7 @@ class DesktopMailTest : public ::testing::Test {
         Around.insert(u"XDG_RUNTIME_DIR"_s, Folder.Path());
         Around.insert(u"PATH"_s, Bin() + (NoTools ? u""_s : u":/usr/bin:/bin"_s));
         Around.insert(u"NEB_TO"_s, To);
+        Around.insert(u"NEB_TIMES"_s, QString::number(Times));
         Around.insert(u"NEB_PDF"_s, Pdf);
         Around.insert(u"NEB_NOTES"_s, Notes);
         Copy.setProcessEnvironment(Around);
@@ -123,6 +136,7 @@ class DesktopMailTest : public ::testing::Test {
 
     harness::TempFolder Folder;
     const QString Pdf = Folder / u"a b.pdf"_s, Notes = Folder / u"notes"_s;
+    int Times = 1;        // that the message is sent
     bool NoTools = true;  // else the copy finds the machine's programs
     FakePortal Portal;
     std::optional<MessageBus> Bus;
@@ -159,6 +173,15 @@ TEST_F(DesktopMailTest, APortalThatStillAsksTheUserHasTakenIt) {
     Portal.Result.reset();
     EXPECT_EQ("session\ntaken", Send());
     EXPECT_EQ(1, Portal.Calls);
+}
+
+TEST_F(DesktopMailTest, WhatBecomesOfAnEarlierMessageIsNotTakenForTheAnswerToALaterOne) {
+    OfferPortal();
+    Portal.Result.reset();
+    Portal.FirstEndsLate = true;
+    Times = 2;
+    EXPECT_EQ("session\ntaken\ntaken", Send());
+    EXPECT_EQ(2, Portal.Calls);
 }
 
 TEST_F(DesktopMailTest, APortalThatFailsLeavesItToTheComposer) {

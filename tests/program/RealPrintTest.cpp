@@ -1,11 +1,15 @@
 // The print preview on a real print service: what comes out of the printer, and what the window
 // says when the printer does not print. The window stands in a copy of this program, which knows no
 // other service than the test's own.
+#include <signal.h>
+#include <sys/resource.h>
+
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPrintDialog>
 #include <QPushButton>
 #include <QRadioButton>
@@ -95,6 +99,20 @@ Thing* Find(const char* Name) {
     return nullptr;
 }
 
+// The system's dialog asks before it takes a file that is there.
+void AgreeToReplace() {
+    auto* Question = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (!Question) return QTimer::singleShot(20, &AgreeToReplace);
+    Question->button(QMessageBox::Yes)->click();
+}
+
+// A disk on which no file has room for more bytes than that.
+void LimitFiles(rlim_t Bytes) {
+    ::signal(SIGXFSZ, SIG_IGN);
+    const rlimit Room{Bytes, Bytes};
+    ::setrlimit(RLIMIT_FSIZE, &Room);
+}
+
 // A user at the system's own dialog.
 void AnswerDialog() {
     auto* Dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
@@ -113,6 +131,7 @@ void AnswerDialog() {
         auto* Printers = Find<QComboBox>("printers");
         Printers->setCurrentIndex(Printers->findText(u"Print to File (PDF)"_s));
         Find<QLineEdit>("filename")->setText(Answer);
+        if (FileExists(Answer)) AgreeToReplace();
     }
     Dialog->accept();
 }
@@ -147,6 +166,7 @@ int PrintByPreview() {
     Window->setWindowTitle(u"Garden"_s);
     Window->ShowModeless();
     if (!Asked("NEB_DEVICE").isEmpty()) Window->SetDefaultPrinter(Asked("NEB_DEVICE"));
+    if (!Asked("NEB_ROOM").isEmpty()) LimitFiles(Asked("NEB_ROOM").toUInt());
     const QString When = Asked("NEB_WHEN");
     if (When == u"before") WaitForTest();
     if (When == u"while") WaitForTestWhilePrinting();
@@ -337,6 +357,23 @@ TEST_F(RealPrint, AFileIsAPrinterOfTheSystemsDialogToo) {
     const std::string Said = Print({{u"NEB_DIALOG"_s, Pdf}, {u"NEB_WHEN"_s, u"stop"_s}});
     EXPECT_TRUE(Said.ends_with("Canceled the print job.\nnot printed, open")) << Said;
     EXPECT_FALSE(FileExists(Pdf));
+}
+
+TEST_F(RealPrint, AFileThatIsPrintedOverStaysAsItWasUntilTheNewOneIsWhole) {
+    Cups->AddPrinter(u"First"_s);
+    const QString Pdf = Album / u"out.pdf"_s;
+    WriteFile(Pdf, "old");
+    const std::string Full = Print({{u"NEB_DIALOG"_s, Pdf}, {u"NEB_ROOM"_s, u"5000"_s}});
+    EXPECT_EQ("Operation Failed: Could not access printer.\nnot printed, open", Full);
+    EXPECT_EQ("old", ReadFile(Pdf));
+    EXPECT_EQ("printed, closed", Print({{u"NEB_DIALOG"_s, Pdf}}));
+    ExpectAlbum(Pdf, PageTurn::Portrait);
+    MakeSlides(Album.Path(), {3000, 2000});
+    WriteFile(Pdf, "old");
+    const std::string Said = Print({{u"NEB_DIALOG"_s, Pdf}, {u"NEB_WHEN"_s, u"stop"_s}});
+    EXPECT_TRUE(Said.ends_with("Canceled the print job.\nnot printed, open")) << Said;
+    EXPECT_EQ("old", ReadFile(Pdf));
+    EXPECT_EQ(1, ListMask(Pdf + u'*').size()) << "nothing is left beside it";
 }
 
 TEST_F(RealPrint, CancellingTheSystemsDialogIsTold) {

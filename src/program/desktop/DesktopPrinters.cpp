@@ -53,20 +53,37 @@ QMarginsF BlankEdges(const QPrinter& Printer) {
     return {Sides, Ends, Sides, Ends};
 }
 
+// The toolkit tells of no write that has failed: then the file's last words are missing.
+bool IsWholePdf(const QString& Path) {
+    const QByteArray LastWords("%%EOF\n");
+    HostReader File(Path);
+    if (File.Length() < LastWords.size()) return false;
+    QByteArray End(LastWords.size(), '\0');
+    File.Seek(File.Length() - End.size());
+    return File.Read(End.data(), End.size()) == End.size() && End == LastWords;
+}
+
 class DesktopPrinter : public ReadyPrinter {
   public:
     DesktopPrinter(std::shared_ptr<QPrinter> Printer, const QueueState& State)
         : mPrinter(std::move(Printer)), mState(State) {}
+    // Printed beside the file, whose place is taken when the new one is whole.
+    explicit DesktopPrinter(std::shared_ptr<QPrinter> ToFile)
+        : mPrinter(std::move(ToFile)), mFile(mPrinter->outputFileName()) {
+        mPrinter->setOutputFileName(ResolvePath(mFile) + QStringLiteral(".new"));
+    }
 
     QStringList Warnings(const PrintDocument& Document) const override;
     PrintError Print(const PrintDocument& Document, const PrintGoOn& GoOn) override;
 
   private:
     bool Paint(QPainter& Painter, const PrintDocument& Document, const PrintGoOn& GoOn);
+    PrintError Finish(QPainter& Painter);
     void Discard(QPainter& Painter);
 
     const std::shared_ptr<QPrinter> mPrinter;
     const QueueState mState;
+    const QString mFile;  // that is printed to; empty: a queue
 };
 
 QStringList DesktopPrinter::Warnings(const PrintDocument& Document) const {
@@ -87,12 +104,11 @@ PrintError DesktopPrinter::Print(const PrintDocument& Document, const PrintGoOn&
             Discard(Painter);
             return PrintError::Cancelled;
         }
-    } catch (const Fault&) {
+        return Finish(Painter);
+    } catch (const std::exception&) {
         Discard(Painter);
         return PrintError::NoAccess;
     }
-    const bool Sound = Painter.end();
-    return Sound && JobWasTaken() ? PrintError::None : PrintError::NotResponding;
 }
 
 // False when it was stopped.
@@ -108,9 +124,20 @@ bool DesktopPrinter::Paint(QPainter& Painter, const PrintDocument& Document,
     return GoOn({Total, Total});
 }
 
+PrintError DesktopPrinter::Finish(QPainter& Painter) {
+    const bool Sound = Painter.end();
+    if (mFile.isEmpty())
+        return Sound && JobWasTaken() ? PrintError::None : PrintError::NotResponding;
+    const QString Beside = mPrinter->outputFileName();
+    if (!IsWholePdf(Beside)) throw Fault(QStringLiteral("There is no room for the file."), mFile);
+    SyncFile(Beside);
+    RenameFile(Beside, mFile);
+    return PrintError::None;
+}
+
 void DesktopPrinter::Discard(QPainter& Painter) {
     KeepJobsBack();
-    Painter.end();
+    if (Painter.isActive()) Painter.end();
     try {
         if (GoesToFile(*mPrinter)) DeleteFile(mPrinter->outputFileName());
     } catch (const Fault&) {
@@ -153,8 +180,7 @@ QueueState AskService(const QString& Device) {
 }
 
 ChosenPrinter Readied(const std::shared_ptr<QPrinter>& Printer) {
-    if (GoesToFile(*Printer))
-        return {PrintError::None, std::make_shared<DesktopPrinter>(Printer, QueueState())};
+    if (GoesToFile(*Printer)) return {PrintError::None, std::make_shared<DesktopPrinter>(Printer)};
     const QueueState State = AskService(Printer->printerName());
     if (!State.TakesJobs) return {PrintError::NotResponding, nullptr};
     return {PrintError::None, std::make_shared<DesktopPrinter>(Printer, State)};

@@ -20,7 +20,6 @@ namespace {
 const QString Service = QStringLiteral("org.freedesktop.portal.Desktop");
 const QString Object = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString Interface = QStringLiteral("org.freedesktop.portal.Email");
-const QString Token = QStringLiteral("neb_mail");
 
 // A portal that has to be started takes its time; one that asks the user takes his.
 constexpr int PatienceToBegin = 10000, PatienceToEnd = 3000;  // ms
@@ -37,7 +36,13 @@ Descriptors Attached(const QString& Path) {
     return All;
 }
 
-QVariantMap OptionsFor(const MailMessage& Message) {
+// The desktop may still be asking about an earlier message, whose answer is none to this one.
+QString NextToken() {
+    static int Last = 0;
+    return QStringLiteral("neb_mail_%1").arg(++Last);
+}
+
+QVariantMap OptionsFor(const MailMessage& Message, const QString& Token) {
     const QStringList To = Recipients(Message.RecipAddress);
     return {{QStringLiteral("handle_token"), Token},
             {QStringLiteral("address"), To.value(0)},
@@ -71,6 +76,7 @@ void MailPortal::Response(uint Result, const QVariantMap&) {
 
 bool MailPortal::Compose(const MailMessage& Message) {
     if (!(mBus.connectionCapabilities() & QDBusConnection::UnixFileDescriptorPassing)) return false;
+    const QString Token = NextToken();
     const QString Path = RequestPath(Token);
     const QString Answers = QStringLiteral("org.freedesktop.portal.Request");
     const auto* Slot = SLOT(Response(uint, QVariantMap));
@@ -79,7 +85,7 @@ bool MailPortal::Compose(const MailMessage& Message) {
     mBus.connect(Service, Path, Answers, QStringLiteral("Response"), this, Slot);
     bool Taken = false;
     try {
-        Taken = Ask(OptionsFor(Message));
+        Taken = Ask(OptionsFor(Message, Token));
     } catch (const Fault&) {
         // without the attachment there is nothing to send
     }

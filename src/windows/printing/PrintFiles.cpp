@@ -29,8 +29,9 @@ void KeepReadOnly(const QString& Path) {
     }
 }
 
-bool WriteKind(const PrintDocument& Document, const QString& Path, const PrintGoOn& GoOn) {
-    return EndsIn(Path, PpdExtension) ? WritePpd(Document, Path, GoOn)
+bool WriteKind(const PrintDocument& Document, const QString& Path, PrintFileKind Kind,
+               const PrintGoOn& GoOn) {
+    return Kind == PrintFileKind::Ppd ? WritePpd(Document, Path, GoOn)
                                       : WritePdf(Document, Path, GoOn);
 }
 
@@ -62,12 +63,17 @@ bool TryClearReadOnly(const QString& FileName) {
     }
 }
 
-bool WritePrintFile(const PrintDocument& Document, const QString& Path, const PrintGoOn& GoOn) {
-    if (!FileExists(Path) || !IsReadOnly(Path)) return WriteKind(Document, Path, GoOn);
+PrintFileKind PrintFileKindOf(const QString& Path) {
+    return EndsIn(Path, PpdExtension) ? PrintFileKind::Ppd : PrintFileKind::Pdf;
+}
+
+bool WritePrintFile(const PrintDocument& Document, const QString& Path, PrintFileKind Kind,
+                    const PrintGoOn& GoOn) {
+    if (!FileExists(Path) || !IsReadOnly(Path)) return WriteKind(Document, Path, Kind, GoOn);
     if (!TryClearReadOnly(Path))
         throw Fault(QStringLiteral("The file is read-only, and that cannot be changed."), Path);
     auto AsItWas = qScopeGuard([&Path] { KeepReadOnly(Path); });
-    const bool Written = WriteKind(Document, Path, GoOn);
+    const bool Written = WriteKind(Document, Path, Kind, GoOn);
     if (Written) AsItWas.dismiss();
     return Written;
 }

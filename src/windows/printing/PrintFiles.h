@@ -22,10 +22,14 @@ Answer<QString> PrintFilePath(const QString& Chosen);
 // Clears the read-only attribute of a file, where there is one; false when that fails.
 bool TryClearReadOnly(const QString& FileName);
 
-// Writes the kind that the name's last four characters say, ".pdf" or ".ppd"; any other as PDF. A
-// file of that name is replaced, even one that is read-only, when the new one is whole. False when
-// GoOn has ended it: then, as after a fault, the old file is as it was. Throws Fault. May run on a
-// worker thread.
-bool WritePrintFile(const PrintDocument& Document, const QString& Path, const PrintGoOn& GoOn);
+enum class PrintFileKind { Pdf, Ppd };
+// What the name's last four characters say; Pdf where they are neither ".pdf" nor ".ppd".
+PrintFileKind PrintFileKindOf(const QString& Path);
+
+// A file of that name is replaced, even one that is read-only, when the new one is whole. False
+// when GoOn has ended it: then, as after a fault, the old file is as it was. Throws Fault. May run
+// on a worker thread.
+bool WritePrintFile(const PrintDocument& Document, const QString& Path, PrintFileKind Kind,
+                    const PrintGoOn& GoOn);
 
 }  // namespace neb

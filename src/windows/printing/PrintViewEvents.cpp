@@ -11,8 +11,9 @@
 namespace neb {
 namespace {
 
-constexpr int Notch = 120;      // of a wheel
-constexpr int ShadowDepth = 7;  // pixels
+constexpr int Notch = 120;       // of a wheel
+constexpr int ShadowDepth = 7;   // pixels
+constexpr int ShadowSlice = 24;  // pixels
 constexpr int FocusWidth = 2;
 constexpr QColor FaultText(0x60, 0x60, 0x60);
 
@@ -26,15 +27,21 @@ QColor GroundOf(const QPalette& Palette) {
     return Palette.color(QPalette::Window).darker(IsDark(Palette) ? 135 : 122);
 }
 
+// In slices: the toolkit gives anything higher to other threads, and waits for them in line behind
+// the pages that are being painted.
 void PaintShadow(QPainter& Painter, const QRect& Place) {
     const QRect Reach = Place.adjusted(-ShadowDepth, -ShadowDepth, ShadowDepth, ShadowDepth + 2);
     Painter.save();
-    Painter.setClipRegion(QRegion(Reach) - Place);
     Painter.setRenderHint(QPainter::Antialiasing);
     Painter.setPen(Qt::NoPen);
     Painter.setBrush(QColor(0, 0, 0, 10));
-    for (int Depth = ShadowDepth; Depth > 0; --Depth)
-        Painter.drawRoundedRect(Place.adjusted(-Depth, 1 - Depth, Depth, Depth + 2), Depth, Depth);
+    for (int Top = Reach.top(); Top <= Reach.bottom(); Top += ShadowSlice) {
+        const QRect Slice(Reach.left(), Top, Reach.width(), ShadowSlice);
+        Painter.setClipRegion(QRegion(Reach & Slice) - Place);
+        for (int Depth = ShadowDepth; Depth > 0; --Depth)
+            Painter.drawRoundedRect(Place.adjusted(-Depth, 1 - Depth, Depth, Depth + 2), Depth,
+                                    Depth);
+    }
     Painter.restore();
 }
 

@@ -5,6 +5,7 @@
 
 #include "controls/fields/ComboBoxList.h"
 #include "controls/fields/Icons.h"
+#include "controls/fields/NumberKeys.h"
 #include "controls/forms/ScreenPointer.h"
 #include "controls/forms/Tell.h"
 #include "db/clsDBEngine.h"
@@ -15,7 +16,6 @@
 #include "support/modNumbers.h"
 #include "ui_SheetForm.h"
 #include "windows/frame/modNotice.h"
-#include "controls/fields/NumberKeys.h"
 #include "windows/printing/PageSketch.h"
 #include "windows/printing/modPrinting.h"
 

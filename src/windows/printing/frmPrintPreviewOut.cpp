@@ -71,10 +71,11 @@ Result UnderBar(const WorkWords& Words, std::function<Result(const PrintGoOn&)> 
     return *Made;
 }
 
-bool SaveUnderBar(const Document& What, const QString& Path) {
+bool SaveUnderBar(const Document& What, const QString& Path, PrintFileKind Kind) {
     const WorkWords Words{QObject::tr("Saving ..."), QObject::tr("Picture %1 of %2")};
-    return UnderBar<bool>(
-        Words, [What, Path](const PrintGoOn& GoOn) { return WritePrintFile(*What, Path, GoOn); });
+    return UnderBar<bool>(Words, [What, Path, Kind](const PrintGoOn& GoOn) {
+        return WritePrintFile(*What, Path, Kind, GoOn);
+    });
 }
 
 Document LoadUnderBar(const QString& Path) {
@@ -132,7 +133,7 @@ QString MailTo(const QString& Address, const Document& What, const PreviewSettin
     MailSession Session(TheServices().Mail, Settings);
     const QString Path = AutoSaveDir(Settings.AutoSavePath) +
                          AttachmentNameFor(Settings.AutoSaveName, TheServices().Time->Now());
-    if (!SaveUnderBar(What, Path)) return QObject::tr("Stopped; nothing was sent.");
+    if (!SaveUnderBar(What, Path, PrintFileKind::Pdf)) return QObject::tr("Stopped; nothing was sent.");
     if (Session.Send(ComposeMail(Settings, Address, Path)))
         return QObject::tr("The message was handed to the mail program.");
     TellNotSent(Path);
@@ -208,7 +209,7 @@ void frmPrintPreview::Save() {
     auto Path = PrintFilePath(Chosen);
     if (!Tell(Path) || !MayReplace(*Path)) return;
     try {
-        const bool Saved = SaveUnderBar(What, *Path);
+        const bool Saved = SaveUnderBar(What, *Path, PrintFileKindOf(*Path));
         Notify(Saved ? tr("Saved: %1").arg(*Path) : tr("Stopped; nothing was saved."));
     } catch (const Fault& Problem) {
         TellFault(Problem);
@@ -246,7 +247,7 @@ void frmPrintPreview::AutoSave() {
     if (mSettings.AutoSaveName.isEmpty() || !What) return;
     mSettings.AutoSavePath = AutoSaveDir(mSettings.AutoSavePath);
     try {
-        SaveUnderBar(What, mSettings.AutoSavePath + mSettings.AutoSaveName);
+        SaveUnderBar(What, mSettings.AutoSavePath + mSettings.AutoSaveName, PrintFileKind::Pdf);
     } catch (const Fault&) {
         // a window that closes has nobody left to tell
     }

@@ -1,11 +1,11 @@
 #include "windows/printing/frmPrintSheet.h"
 
 #include "controls/fields/Icons.h"
+#include "controls/fields/NumberKeys.h"
 #include "controls/forms/Tell.h"
 #include "printing/SheetComposer.h"
 #include "support/modNumbers.h"
 #include "ui_frmPrintSheet.h"
-#include "controls/fields/NumberKeys.h"
 #include "windows/printing/PageSketch.h"
 
 namespace neb {

@@ -3,10 +3,10 @@
 #include <QSignalBlocker>
 
 #include "controls/fields/Icons.h"
+#include "controls/fields/NumberKeys.h"
 #include "printing/SheetComposer.h"
 #include "support/modNumbers.h"
 #include "ui_frmPrintSlide.h"
-#include "controls/fields/NumberKeys.h"
 #include "windows/printing/PageSketch.h"
 
 namespace neb {

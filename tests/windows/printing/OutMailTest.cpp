@@ -106,6 +106,12 @@ TEST_F(OutMail, TheNameAndTheDirectoryMayBeTheCallersOwn) {
     EXPECT_FALSE(FolderExists(Own));
 }
 
+TEST_F(OutMail, TheAttachmentIsAPdfWhateverItsNameIs) {
+    W->Settings().AutoSaveName = u"trip.ppd"_s;
+    SendTo(u"a@b"_s);
+    EXPECT_EQ(3, tests::PagesIn(Own + u"trip.ppd"_s));
+}
+
 TEST_F(OutMail, LiesInTheUsersDocumentsWhereTheProgramsCannotBeMade) {
     WriteFile(App / u"Documents"_s, "in the way");
     SendTo(u"a@b"_s);

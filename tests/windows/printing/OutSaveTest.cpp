@@ -203,6 +203,12 @@ TEST_F(OutAutoSave, GoesIntoTheDirectoryThatTheCallerHasSet) {
     EXPECT_FALSE(FolderExists(App / u"Documents"_s));
 }
 
+TEST_F(OutAutoSave, IsAPdfWhateverItsNameIs) {
+    W->Settings().AutoSaveName = u"own.ppd"_s;
+    W->Unload();
+    EXPECT_EQ(3, tests::PagesIn(App / u"Documents/own.ppd"_s));
+}
+
 TEST_F(OutAutoSave, NothingIsWrittenWithoutAName) {
     W->Settings().AutoSavePath = Out.Path();
     W->Unload();
