@@ -99,6 +99,9 @@ class PdfFile {
           mPaper(cairo_create(mSurface.get())) {
         cairo_pdf_surface_set_metadata(mSurface.get(), CAIRO_PDF_METADATA_CREATOR,
                                        "NEB Slide Show");
+        if (!mDocument.Title().isEmpty())
+            cairo_pdf_surface_set_metadata(mSurface.get(), CAIRO_PDF_METADATA_TITLE,
+                                           mDocument.Title().toUtf8().constData());
     }
     ~PdfFile() {
         mOver = true;

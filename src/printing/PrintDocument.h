@@ -52,6 +52,9 @@ class PrintDocument {
     // StandIn is drawn in place of a picture that cannot be read.
     explicit PrintDocument(PrintPicture StandIn, QSizeF Paper = LetterPaper);
 
+    // What the user calls it: an album's name, say. Empty for none; not kept in a file.
+    const QString& Title() const { return mTitle; }
+    void SetTitle(const QString& Title) { mTitle = Title; }
     PageTurn Orientation() const { return mOrientation; }
     void SetOrientation(PageTurn Turn) { mOrientation = Turn; }
     const QSizeF& Paper() const { return mPaper; }  // inches, upright
@@ -105,6 +108,7 @@ class PrintDocument {
     std::vector<ToDraw> ToDrawOn(int Page, const QPainter& Painter, double Scale) const;
 
     PrintPicture mStandIn;
+    QString mTitle;
     QSizeF mPaper;
     PageTurn mOrientation = PageTurn::Portrait;
     QMarginsF mMargins;

@@ -66,6 +66,15 @@ TEST_F(PdfWriterTest, PagesHaveTheSizeOfThePaper) {
     }
 }
 
+TEST_F(PdfWriterTest, BearsTheTitleOfTheDocument) {
+    PrintDocument Document = Pages(1, JpegOf(Plain(Qt::red, {80, 60})));
+    WritePdf(Document, Pdf());
+    EXPECT_EQ("", InfoOf(Pdf(), u"Title"_s).toStdString());
+    Document.SetTitle(u"Łódź 2026"_s);
+    WritePdf(Document, Pdf());
+    EXPECT_EQ("Łódź 2026", InfoOf(Pdf(), u"Title"_s).toStdString());
+}
+
 TEST_F(PdfWriterTest, JpegsKeepTheirOwnBytes) {
     PrintDocument Document = Begun();
     QByteArrayList Files;

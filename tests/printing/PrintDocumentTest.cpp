@@ -193,12 +193,12 @@ TEST_F(PrintDocumentTest, ComposingTellsOfEveryPictureAndCanBeEnded) {
     const QString One = File("a.jpg", Red, {40, 30});
     PrintDocument Document = Empty();
     std::vector<int> Told;
-    const auto Sheets =
-        ComposeSheets(Document, Grid({1, 1}), {{One, One, One, One}}, [&](const PrintProgress& Now) {
-            EXPECT_EQ(Now.Total, 4);
-            Told.push_back(Now.Done);
-            return Now.Done < 2;
-        });
+    const auto Sheets = ComposeSheets(Document, Grid({1, 1}), {{One, One, One, One}},
+                                      [&](const PrintProgress& Now) {
+                                          EXPECT_EQ(Now.Total, 4);
+                                          Told.push_back(Now.Done);
+                                          return Now.Done < 2;
+                                      });
     EXPECT_FALSE(Sheets.Whole);
     EXPECT_EQ(Told, (std::vector{1, 2}));
 }

@@ -125,6 +125,11 @@ void AnswerDialog() {
         Find<QSpinBox>("to")->setValue(3);
         Find<QSpinBox>("copies")->setValue(2);
     }
+    if (Answer == u"list") {
+        EXPECT_FALSE(Find<QRadioButton>("pagesRadioButton")->isVisible());
+        EXPECT_EQ(1, Find<QSpinBox>("from")->value());
+        EXPECT_EQ(3, Find<QSpinBox>("to")->value());
+    }
     if (Answer == u"duplex") Find<QRadioButton>("duplexLong")->click();
     if (Answer == u"reverse") Find<QCheckBox>("reverse")->click();
     if (Answer.startsWith(u'/')) {
@@ -330,6 +335,12 @@ TEST_F(RealPrint, ThePagesAndCopiesOfTheSystemsDialogCount) {
     const QImage First = tests::PageIn(Cups->Paper(u"First"_s), 1);
     EXPECT_TRUE(tests::WhereIs(First, Colours[0]).isEmpty());
     EXPECT_FALSE(tests::WhereIs(First, Colours[4]).isEmpty());
+}
+
+TEST_F(RealPrint, TheSystemsDialogOffersAllPagesAndNoListThatItWouldRefuse) {
+    Cups->AddPrinter(u"First"_s);
+    EXPECT_EQ("printed, closed", Print({{u"NEB_DIALOG"_s, u"list"_s}}));
+    EXPECT_EQ("First|3|Garden|Letter|one-sided", Cups->Jobs().join(u'\n').toStdString());
 }
 
 TEST_F(RealPrint, TheSidesOfTheSystemsDialogCount) {

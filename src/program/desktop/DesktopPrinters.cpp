@@ -27,14 +27,14 @@ bool GoesToFile(const QPrinter& Printer) {
 // The pages in the order in which they are printed, from 1; those that the printer cannot repeat by
 // itself as often as they are wanted.
 std::vector<int> PagesOf(const QPrinter& Printer, int PageCount) {
-    const bool Some = Printer.printRange() == QPrinter::PageRange && Printer.fromPage() > 0;
-    const int First = Some ? Printer.fromPage() : 1;
-    const int Last = Some ? std::min(Printer.toPage(), PageCount) : PageCount;
+    const QPageRanges Ranges = Printer.pageRanges();
+    const bool Some = Printer.printRange() == QPrinter::PageRange && !Ranges.isEmpty();
     const bool Repeats = Printer.supportsMultipleCopies() || GoesToFile(Printer);
     const int Copies = Repeats ? 1 : Printer.copyCount();
     std::vector<int> Pages;
     for (int Copy = 0; Copy < Copies; ++Copy)
-        for (int Page = First; Page <= Last; ++Page) Pages.push_back(Page);
+        for (int Page = 1; Page <= PageCount; ++Page)
+            if (!Some || Ranges.contains(Page)) Pages.push_back(Page);
     if (!Printer.collateCopies()) std::ranges::sort(Pages);
     if (Printer.pageOrder() == QPrinter::LastPageFirst) std::ranges::reverse(Pages);
     return Pages;
@@ -163,6 +163,13 @@ std::shared_ptr<QPrinter> PrinterFor(const QString& Device, const PrintDocument&
     return Made;
 }
 
+// The toolkit's own check of a list of pages refuses every list ("1,3" as well as "1"): the field
+// for it would only be a trap. From one page to another works.
+void HideListOfPages(const QPrintDialog& Dialog) {
+    for (const char* Name : {"pagesRadioButton", "pagesLineEdit"})
+        if (auto* Part = Dialog.findChild<QWidget*>(QLatin1String(Name))) Part->hide();
+}
+
 // The window below may go while the dialog is up, and takes it along.
 bool AskUser(QPrinter& Printer, int PageCount) {
     const QPointer<QPrintDialog> Dialog = new QPrintDialog(&Printer, QApplication::activeWindow());
@@ -170,6 +177,9 @@ bool AskUser(QPrinter& Printer, int PageCount) {
                        QAbstractPrintDialog::PrintCollateCopies |
                        QAbstractPrintDialog::PrintShowPageSize);
     Dialog->setMinMax(1, PageCount);
+    Dialog->setFromTo(1, PageCount);
+    Dialog->setPrintRange(QAbstractPrintDialog::AllPages);
+    HideListOfPages(*Dialog);
     const bool Accepted = Dialog->exec() == QDialog::Accepted;
     delete Dialog;
     return Accepted;

@@ -21,6 +21,12 @@ bool EndsIn(const QString& Path, const QString& Extension) {
     return Path.endsWith(Extension, Qt::CaseInsensitive);
 }
 
+// The points of "Trip to St. Moritz" or "Summer 2.5 weeks" begin none.
+bool HasExtension(const QString& Name) {
+    const QString Last = Name.sliced(Name.lastIndexOf(u'.') + 1);
+    return Last.size() < Name.size() && Last.size() <= 5 && !Last.contains(u' ');
+}
+
 void KeepReadOnly(const QString& Path) {
     try {
         SetReadOnly(Path);
@@ -46,7 +52,7 @@ QString UsersDocuments() {
 Answer<QString> PrintFilePath(const QString& Chosen) {
     if (EndsIn(Chosen, PdfExtension) || EndsIn(Chosen, PpdExtension)) return Chosen;
     const QString Name = GetFileName(Chosen);
-    if (!Name.contains(u'.')) return Chosen + PdfExtension;
+    if (!HasExtension(Name)) return Chosen + PdfExtension;
     return Refuse(QStringLiteral("\"%1\" is neither a PDF file (.pdf) nor a document of the "
                                  "program's own (.ppd).\nPlease choose one of these two "
                                  "extensions. Nothing was saved.")

@@ -1,6 +1,7 @@
 // What is shown and how; painting and the user's hands are in PrintViewEvents.cpp.
 #include "windows/printing/PrintView.h"
 
+#include <QActionGroup>
 #include <QScrollBar>
 #include <QStyle>
 #include <algorithm>
@@ -38,8 +39,10 @@ QString PrintView::NavigationMenu() {
 
 void PrintView::MakeActions() {
     const QStringList Texts = NavigationMenu().split(u'|');
+    auto* OneOfThem = new QActionGroup(this);
+    OneOfThem->setExclusionPolicy(QActionGroup::ExclusionPolicy::ExclusiveOptional);
     for (int I = 0; I < Texts.size(); ++I) {
-        auto* Each = new QAction(Texts[I], this);
+        auto* Each = new QAction(Texts[I], OneOfThem);
         Each->setCheckable(true);
         Each->setData(static_cast<int>(Views[I]));
         connect(Each, &QAction::triggered, this, [this, I] { SetView(Views[I]); });

@@ -121,8 +121,8 @@ void SheetForm::UpdateControls() {
 }
 
 GridWish SheetForm::Wish() const {
-    return {.PerRow = Val(mUi->txtSlidesPerRow->text()),
-            .RowsPerPage = Val(mUi->txtRowsPerPage->text()),
+    return {.PerRow = NumberIn(*mUi->txtSlidesPerRow),
+            .RowsPerPage = NumberIn(*mUi->txtRowsPerPage),
             .Turn = mUi->optLandscape->isChecked() ? PageTurn::Landscape : PageTurn::Portrait,
             .KeepsRatio = mUi->chkMaintainRatio->isChecked(),
             .WholeSheet = mUi->chkWholeSheet->isChecked(),
@@ -175,7 +175,7 @@ SheetForm::Composed SheetForm::Compose(const CellGrid& Grid) try {
     for (const BoxRequest& Each : Given->Slides.Missing) ShowBox(Each);
     if (Given->Slides.Paths.isEmpty()) return {};
     Composed Document = ComposeBeside(Grid, *Given);
-    if (!Document) ShowNotice(tr("Stopped; nothing was printed."));
+    if (!Document) ShowNotice(tr("Stopped; there is no preview."));
     return Document;
 } catch (const Fault& Problem) {
     MsgBox(Problem.Text(), windowTitle(), BoxIcon::Critical);
@@ -188,7 +188,7 @@ SheetForm::Composed SheetForm::ComposeBeside(const CellGrid& Grid, const SheetMa
     const SheetContents Contents{Given.Slides.Paths, Given.Slides.Captions,
                                  Foot().Name ? Given.Name : QString(), Foot().PageNumber};
     const auto Work = [Grid, Contents,
-                       Document = NewPrintDocument()](const PrintGoOn& GoOn) -> Composed {
+                       Document = NewPrintDocument(Given.Name)](const PrintGoOn& GoOn) -> Composed {
         return ComposeSheets(*Document, Grid, Contents, GoOn).Whole ? Document : nullptr;
     };
     Composed Document =

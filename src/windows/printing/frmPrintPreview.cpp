@@ -52,6 +52,8 @@ PrintView& frmPrintPreview::VSPrinter1() {
 }
 
 void frmPrintPreview::ShowDocument(std::shared_ptr<const PrintDocument> Document) {
+    const QString Title = Document ? Document->Title() : QString();
+    setWindowTitle(Title.isEmpty() ? tr("Print Preview") : tr("Print Preview - %1").arg(Title));
     mUi->VSPrinter1->SetDocument(std::move(Document));
 }
 

@@ -133,7 +133,8 @@ QString MailTo(const QString& Address, const Document& What, const PreviewSettin
     MailSession Session(TheServices().Mail, Settings);
     const QString Path = AutoSaveDir(Settings.AutoSavePath) +
                          AttachmentNameFor(Settings.AutoSaveName, TheServices().Time->Now());
-    if (!SaveUnderBar(What, Path, PrintFileKind::Pdf)) return QObject::tr("Stopped; nothing was sent.");
+    if (!SaveUnderBar(What, Path, PrintFileKind::Pdf))
+        return QObject::tr("Stopped; nothing was sent.");
     if (Session.Send(ComposeMail(Settings, Address, Path)))
         return QObject::tr("The message was handed to the mail program.");
     TellNotSent(Path);
@@ -172,7 +173,8 @@ void frmPrintPreview::Print(bool ShowDialog) {
     bool Cancel = false;
     Q_EMIT BeforePrint(Cancel);
     if (Cancel) return;
-    const auto Error = PrintDoc(What, {mDefaultPrinter, ShowDialog, windowTitle()});
+    const QString Name = What->Title().isEmpty() ? windowTitle() : What->Title();
+    const auto Error = PrintDoc(What, {mDefaultPrinter, ShowDialog, Name});
     if (Error != PrintError::None) return PrintFailed(Error.value_or(PrintError::None));
     mPrinted = true;
     Notify(tr("The document was handed over for printing."));

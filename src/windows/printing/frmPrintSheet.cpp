@@ -45,8 +45,8 @@ void frmPrintSheet::Form_Load() {
 }
 
 GridWish frmPrintSheet::Wish() const {
-    return {.PerRow = Val(mUi->txtSlidesPerRow->text()),
-            .RowsPerPage = Val(mUi->txtRowsPerPage->text()),
+    return {.PerRow = NumberIn(*mUi->txtSlidesPerRow),
+            .RowsPerPage = NumberIn(*mUi->txtRowsPerPage),
             .Turn = mUi->optLandscape->isChecked() ? PageTurn::Landscape : PageTurn::Portrait,
             .KeepsRatio = mUi->chkMaintainRatio->isChecked(),
             .WholeSheet = true,
@@ -65,10 +65,11 @@ void frmPrintSheet::ShowSketch() {
 void frmPrintSheet::Print() {
     Answer<CellGrid> Grid = GridFor(Wish());
     if (!Tell(Grid)) return;
-    PreviewComposed(*this, [Cells = *Grid, Path = mPicture.Path](PrintDocument& Into) -> Answer<> {
-        ComposeSheets(Into, Cells, {{Path}});
-        return Done();
-    });
+    PreviewComposed(*this, mPicture,
+                    [Cells = *Grid, Path = mPicture.Path](PrintDocument& Into) -> Answer<> {
+                        ComposeSheets(Into, Cells, {{Path}});
+                        return Done();
+                    });
 }
 
 }  // namespace neb

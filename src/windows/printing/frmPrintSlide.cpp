@@ -64,19 +64,19 @@ void frmPrintSlide::ShowNumber(QLineEdit& In, double Inches) {
 
 void frmPrintSlide::WidthTyped() {
     if (mUi->chkMaintainRatio->isChecked())
-        ShowNumber(*mUi->txtHeight, HeightForWidth(Val(mUi->txtWidth->text()), mPicture.Size));
+        ShowNumber(*mUi->txtHeight, HeightForWidth(NumberIn(*mUi->txtWidth), mPicture.Size));
     ShowSketch();
 }
 
 void frmPrintSlide::HeightTyped() {
     if (mUi->chkMaintainRatio->isChecked())
-        ShowNumber(*mUi->txtWidth, WidthForHeight(Val(mUi->txtHeight->text()), mPicture.Size));
+        ShowNumber(*mUi->txtWidth, WidthForHeight(NumberIn(*mUi->txtHeight), mPicture.Size));
     ShowSketch();
 }
 
 SlideWish frmPrintSlide::Wish() const {
-    return {.Width = Val(mUi->txtWidth->text()),
-            .Height = Val(mUi->txtHeight->text()),
+    return {.Width = NumberIn(*mUi->txtWidth),
+            .Height = NumberIn(*mUi->txtHeight),
             .Turn = mUi->optLandscape->isChecked() ? PageTurn::Landscape : PageTurn::Portrait,
             .KeepsRatio = mUi->chkMaintainRatio->isChecked()};
 }
@@ -91,7 +91,7 @@ void frmPrintSlide::ShowSketch() {
 }
 
 void frmPrintSlide::Print() {
-    PreviewComposed(*this, [Wanted = Wish(), Path = mPicture.Path](PrintDocument& Into) {
+    PreviewComposed(*this, mPicture, [Wanted = Wish(), Path = mPicture.Path](PrintDocument& Into) {
         return ComposeSlide(Into, Wanted, Path);
     });
 }

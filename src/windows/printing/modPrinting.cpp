@@ -1,10 +1,14 @@
 #include "windows/printing/modPrinting.h"
 
+#include <QLineEdit>
+
 #include "controls/forms/ScreenPointer.h"
 #include "controls/forms/Tell.h"
 #include "controls/picture/PictureView.h"
 #include "printing/SlidesToPrint.h"
 #include "support/Fault.h"
+#include "support/modFUFL.h"
+#include "support/modNumbers.h"
 #include "support/work/WorkAside.h"
 #include "windows/printing/frmPrintPreview.h"
 #include "windows/printing/frmPrintSlideShow.h"
@@ -20,14 +24,16 @@ PictureToPrint Read(const QString& Path, QSize LargestScreen) {
 using Composed = std::shared_ptr<const PrintDocument>;
 
 // Formats that do not tell their size at once take their time.
-Answer<Composed> ComposeAside(const QString& Title, const Composer& Compose) try {
+Answer<Composed> ComposeAside(const Form& Window, const QString& Path,
+                              const Composer& Compose) try {
     const PointerScope Working(Pointer::Hourglass);
-    const auto Document = NewPrintDocument();
+    const auto Document = NewPrintDocument(GetFileName(Path));
     const Answer<> Made = FinishAside([Compose, Document] { return Compose(*Document); }).get();
     if (!Made) return Made.Refusal();
     return Composed(Document);
 } catch (const Fault& Problem) {
-    return BoxRequest{.Text = Problem.Text(), .Title = Title, .Icon = BoxIcon::Critical};
+    return BoxRequest{
+        .Text = Problem.Text(), .Title = Window.windowTitle(), .Icon = BoxIcon::Critical};
 }
 
 }  // namespace
@@ -44,8 +50,15 @@ PictureToPrint ReadToPrint(const QString& Path) {
     return FinishAside(Work).get();
 }
 
-std::shared_ptr<PrintDocument> NewPrintDocument() {
-    return std::make_shared<PrintDocument>(PrintPicture{NoSlideFile(), {}}, PaperOfCountry());
+std::shared_ptr<PrintDocument> NewPrintDocument(const QString& Title) {
+    const auto Document =
+        std::make_shared<PrintDocument>(PrintPicture{NoSlideFile(), {}}, PaperOfCountry());
+    Document->SetTitle(Title);
+    return Document;
+}
+
+double NumberIn(const QLineEdit& Field) {
+    return Val(Field.text().replace(u',', u'.'));
 }
 
 void PreviewDocument(std::shared_ptr<const PrintDocument> Document) {
@@ -54,8 +67,8 @@ void PreviewDocument(std::shared_ptr<const PrintDocument> Document) {
     Preview->ShowModal();
 }
 
-void PreviewComposed(const Form& Window, const Composer& Compose) {
-    Answer<Composed> Made = ComposeAside(Window.windowTitle(), Compose);
+void PreviewComposed(const Form& Window, const PictureToPrint& Picture, const Composer& Compose) {
+    Answer<Composed> Made = ComposeAside(Window, Picture.Path, Compose);
     if (Tell(Made) && Window.IsLoaded()) PreviewDocument(*Made);
 }
 

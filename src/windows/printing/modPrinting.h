@@ -8,6 +8,10 @@
 
 #include "printing/PrintDocument.h"
 
+QT_BEGIN_NAMESPACE
+class QLineEdit;
+QT_END_NAMESPACE
+
 namespace neb {
 
 class Form;
@@ -24,14 +28,16 @@ struct PictureToPrint {
 PictureToPrint ReadToPrint(const QString& Path);
 
 // An empty one, on the paper of the user's country.
-std::shared_ptr<PrintDocument> NewPrintDocument();
+std::shared_ptr<PrintDocument> NewPrintDocument(const QString& Title);
+// What is typed, with a decimal point or a comma; 0 for no number.
+double NumberIn(const QLineEdit& Field);
 // The user looks through it, and prints it from there; returns when he has closed the preview.
 void PreviewDocument(std::shared_ptr<const PrintDocument> Document);
 
-// Has a document composed, beside the window and on any thread, and shows its preview; what is in
-// the way of that is told instead.
+// Has a document of a picture composed, beside the window and on any thread, and shows its preview;
+// what is in the way of that is told instead.
 using Composer = std::function<Answer<>(PrintDocument& Into)>;
-void PreviewComposed(const Form& Window, const Composer& Compose);
+void PreviewComposed(const Form& Window, const PictureToPrint& Picture, const Composer& Compose);
 
 // Shows the dialog that prints a slide show, with that one chosen. Faults are ignored.
 void ShowPrintSlideShow(std::int32_t AlbumID, std::int32_t SlideShowID);

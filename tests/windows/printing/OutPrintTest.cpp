@@ -35,6 +35,15 @@ TEST_F(OutPrint, TheButtonPrintsAllPagesWithoutADialogAndClosesTheWindow) {
     EXPECT_FALSE(W->IsLoaded());
 }
 
+TEST_F(OutPrint, TheWindowAndTheJobBearTheNameOfTheDocument) {
+    const auto Named = std::make_shared<PrintDocument>(*Pages(2));
+    Named->SetTitle(u"Garden"_s);
+    W->ShowDocument(Named);
+    EXPECT_EQ("Print Preview - Garden", W->windowTitle().toStdString());
+    Click("cmdPrint");
+    EXPECT_EQ("Garden", Printers.Wishes.at(0).Title.toStdString());
+}
+
 TEST_F(OutPrint, SaysThatItIsDoneWhereTheWindowHasGone) {
     Click("cmdPrint");
     EXPECT_EQ(u"The document was handed over for printing.", Notice);

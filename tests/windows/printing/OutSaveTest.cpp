@@ -84,6 +84,12 @@ TEST_F(OutSave, ANameWithoutAnExtensionBecomesAPdf) {
     SaveAs(u"trip"_s);
 }
 
+TEST_F(OutSave, APointInANameBeginsNoExtension) {
+    SaveAs(u"Trip to St. Moritz"_s);
+    SaveAs(u"Summer.panoramas"_s);
+    EXPECT_EQ("Summer.panoramas.pdf Trip to St. Moritz.pdf", Listed(Out.Path()));
+}
+
 TEST_F(OutSave, AForeignExtensionIsRefusedInWords) {
     for (const char* Name : {"a.jpg", "a.pdf.txt", "a."}) {
         Boxes.Expect(u"\""_s + QLatin1String(Name) +

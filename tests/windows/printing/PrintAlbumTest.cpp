@@ -147,6 +147,9 @@ TEST_F(PrintAlbum, TwoAndAHalfColumnsAreTwoAndThreeAndAHalfAreFour) {
         EXPECT_EQ("1 1 4.425 2.95 | 5.575 1 4.425 2.95", PlacesOn(Preview(W), 1));
         Retype(W, "txtSlidesPerRow", u"3.5"_s);
         EXPECT_EQ(3, Preview(W)->PageCount());
+        Retype(W, "txtSlidesPerRow", u"3,5"_s);
+        EXPECT_EQ(3, Preview(W)->PageCount());
+        EXPECT_EQ("Garden", Preview(W)->Title().toStdString());
     });
 }
 
@@ -314,7 +317,7 @@ TEST_F(PrintAlbum, StopEndsItWithoutAPreviewAndTheDialogIsAsBefore) {
         });
         EXPECT_EQ(nullptr, Preview(W));
         SetDoEventsHook({});
-        EXPECT_EQ("Stopped; nothing was printed.", Notice.toStdString());
+        EXPECT_EQ("Stopped; there is no preview.", Notice.toStdString());
         EXPECT_TRUE(IsOn(W, "cmdPrint"));
         EXPECT_FALSE(In<QWidget>(W, "cmdStop").isVisible());
         EXPECT_FALSE(In<QWidget>(W, "pbrProgress").isVisible());

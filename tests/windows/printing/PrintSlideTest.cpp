@@ -75,6 +75,8 @@ TEST_F(PrintSlide, WidthAndHeightFollowEachOther) {
         EXPECT_EQ("3 by 2", Sizes(W));
         Retype(W, "txtHeight", u""_s);
         EXPECT_EQ("0 by ", Sizes(W));
+        Retype(W, "txtWidth", u"4,5"_s);
+        EXPECT_EQ("4,5 by 3", Sizes(W)) << "as many people write it";
         Retype(W, "txtWidth", u"6 inches"_s);
         EXPECT_EQ("6 inches by 4", Sizes(W));
         Click(W, "chkMaintainRatio");
