@@ -27,6 +27,12 @@ bool IsSize(QSizeF Size) {
            Size.height() <= MostInches;
 }
 
+// Where a page has next to no size no scale shows it.
+bool IsPaper(QSizeF Size) {
+    constexpr double Least = 0.01;
+    return IsSize(Size) && Size.width() >= Least && Size.height() >= Least;
+}
+
 class TableBytes {
   public:
     const QByteArray& Bytes() const { return mBytes; }
@@ -43,8 +49,8 @@ class TableBytes {
         if (!IsMeasure(Inches)) ThrowNoRoom();
         Add(Inches);
     }
-    void AddSize(QSizeF Size) {
-        if (!IsSize(Size)) ThrowNoRoom();
+    void AddPaper(QSizeF Size) {
+        if (!IsPaper(Size)) ThrowNoRoom();
         Add(Size.width());
         Add(Size.height());
     }
@@ -70,7 +76,7 @@ class TableBytes {
 
 void AddSetting(TableBytes& To, const PrintDocument& Document) {
     const QMarginsF& Margins = Document.Margins();
-    To.AddSize(Document.Paper());
+    To.AddPaper(Document.Paper());
     To.Add(static_cast<quint32>(Document.Orientation()));
     for (const double Each : {Margins.left(), Margins.top(), Margins.right(), Margins.bottom()})
         To.AddMeasure(Each);
@@ -121,9 +127,9 @@ class TableReader {
         Must(IsMeasure(Inches));
         return Inches;
     }
-    QSizeF TakeSize() {
+    QSizeF TakePaper() {
         const double Width = TakeMeasure(), Height = TakeMeasure();
-        Must(IsSize({Width, Height}));
+        Must(IsPaper({Width, Height}));
         return {Width, Height};
     }
     QRectF TakePlace() {
@@ -246,7 +252,7 @@ PpdContents ContentsOfPpdTable(const QByteArray& Table, const PrintPicture& Stan
                                const std::shared_ptr<const PictureShelf>& Shelf) {
     TableReader From(Table);
     PpdContents Found;
-    Found.Document = std::make_shared<PrintDocument>(StandIn, From.TakeSize());
+    Found.Document = std::make_shared<PrintDocument>(StandIn, From.TakePaper());
     TakeSetting(From, *Found.Document);
     Found.Pictures = TakePictures(From);
     TakePages(From, {From, Found.Pictures, Shelf, *Found.Document}, *Found.Document);

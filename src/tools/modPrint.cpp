@@ -66,6 +66,15 @@ std::optional<PrintOrder> ReadOrder(QStringList Words, ToolIO& IO) {
         !TakeTurn(Words, Order.Grid, IO))
         return std::nullopt;
     Order.Grid.WholeSheet = Words.removeAll(QStringLiteral("--whole-sheet")) > 0;
+    for (const QString& Word : Words)
+        if (Word.startsWith(u"--")) {
+            Misused(IO, QStringLiteral("%1 is no option of print").arg(Word));
+            return std::nullopt;
+        }
+    if (Order.Album.isEmpty()) {
+        Misused(IO, QStringLiteral("--album NAME is wanted"));
+        return std::nullopt;
+    }
     Order.Out = Words.size() == 2 ? Words.takeLast() : QString();
     if (!Order.Out.endsWith(u".pdf", Qt::CaseInsensitive)) {
         Misused(IO, QStringLiteral("A database and a file OUT.pdf are wanted"));

@@ -156,6 +156,8 @@ TEST_F(PpdDamageTest, MeasuresThatAreNoneAreRefused) {
         for (const qsizetype Size : {Width + 0, Height + 0, FirstPlace + 16, FirstPlace + 24})
             EXPECT_EQ(SaidWith(Size, Little(Wrong)), Damaged) << Wrong << ' ' << Size;
     }
+    for (const qsizetype Size : {Width + 0, Height + 0})
+        EXPECT_EQ(SaidWith(Size, Little(5e-324)), Damaged) << "paper that nobody could see";
     EXPECT_EQ(SaidWith(TextPlace + 16, Little(-1.0)), Damaged);
 }
 

@@ -159,6 +159,7 @@ TEST_F(PrintToolTest, NumbersThatMakeNoSheetAreRefused) {
     ExpectRefusal("--rows wants a number", {u"--rows"_s, u"four"_s});
     ExpectRefusal("--columns wants a number", {u"--columns"_s});
     ExpectRefusal("either --landscape or --portrait", {u"--landscape"_s, u"--portrait"_s});
+    ExpectRefusal("--captions is no option of print", {u"--captions"_s});
 }
 
 TEST_F(PrintToolTest, UnknownNamesAreToldWithThoseThatThereAre) {
