@@ -1,5 +1,6 @@
 #include "windows/printing/PrintFiles.h"
 
+#include <QRegularExpression>
 #include <QScopeGuard>
 #include <QStandardPaths>
 
@@ -47,6 +48,11 @@ QString UsersDocuments() {
     [[maybe_unused]] const QString Asked = SettingsDir();  // fills the cache
     if (CanWriteInto(DocumentsPath)) return DocumentsPath;
     return WithSeparator(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+}
+
+QString ProposedFile(const QString& Title) {
+    static const QRegularExpression NotInNames(QStringLiteral("[\\x00-\\x1F/\\\\:*?\"<>|]+"));
+    return UsersDocuments() + QString(Title).replace(NotInNames, QStringLiteral(" ")).trimmed();
 }
 
 Answer<QString> PrintFilePath(const QString& Chosen) {

@@ -14,6 +14,9 @@ inline const QString OpenFilter = QStringLiteral("Custom (*.ppd)|*.ppd");
 
 // Where the user keeps documents, with closing separator: where the file dialogs begin.
 QString UsersDocuments();
+// There, the name that is proposed for a document of this title, without an extension, which comes
+// with the kind that the user chooses; the directory alone where there is no title.
+QString ProposedFile(const QString& Title);
 
 // The path to write to for the name that the user has chosen: one without an extension becomes a
 // PDF. A foreign extension is refused.

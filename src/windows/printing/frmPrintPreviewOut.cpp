@@ -206,7 +206,7 @@ void frmPrintPreview::Save() {
     if (!What) return;
     Notify({});
     const QString Chosen = TheServices().Dialogs->SaveFile(QStringLiteral("Save Document"),
-                                                           UsersDocuments(), SaveFilter);
+                                                           ProposedFile(What->Title()), SaveFilter);
     if (Chosen.isEmpty()) return;
     auto Path = PrintFilePath(Chosen);
     if (!Tell(Path) || !MayReplace(*Path)) return;

@@ -21,13 +21,18 @@ PictureToPrint Read(const QString& Path, QSize LargestScreen) {
     return {Path, MeasurePicture(Picture), PixelsOf(Picture, LargestScreen)};
 }
 
+QString NameWithoutEnding(const QString& Path) {
+    const QString Name = GetFileName(Path);
+    return Name.left(Name.lastIndexOf(u'.'));
+}
+
 using Composed = std::shared_ptr<const PrintDocument>;
 
 // Formats that do not tell their size at once take their time.
 Answer<Composed> ComposeAside(const Form& Window, const QString& Path,
                               const Composer& Compose) try {
     const PointerScope Working(Pointer::Hourglass);
-    const auto Document = NewPrintDocument(GetFileName(Path));
+    const auto Document = NewPrintDocument(NameWithoutEnding(Path));
     const Answer<> Made = FinishAside([Compose, Document] { return Compose(*Document); }).get();
     if (!Made) return Made.Refusal();
     return Composed(Document);

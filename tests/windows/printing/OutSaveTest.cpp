@@ -1,5 +1,6 @@
 // Saving and loading from the preview, and the PDF that it writes by itself when it closes.
 #include "OutRig.h"
+#include "windows/printing/PrintFiles.h"
 
 namespace neb {
 namespace {
@@ -82,6 +83,17 @@ TEST_F(OutSave, ANameWithoutAnExtensionBecomesAPdf) {
     EXPECT_EQ("trip.pdf", Listed(Out.Path()));
     ExpectReplaceQuestion(u"trip.pdf"_s, BoxAnswer::No);
     SaveAs(u"trip"_s);
+}
+
+TEST_F(OutSave, ProposesTheNameOfTheDocument) {
+    EXPECT_EQ((Docs / u"Garden"_s).toStdString(), ProposedFile(u"Garden"_s).toStdString());
+    EXPECT_EQ((Docs / u"a b"_s).toStdString(), ProposedFile(u" a/:\nb?"_s).toStdString());
+    EXPECT_EQ(Docs.Path().toStdString(), ProposedFile({}).toStdString());
+    const auto Named = std::make_shared<PrintDocument>(*Pages(2));
+    Named->SetTitle(u"Garden"_s);
+    W->ShowDocument(Named);
+    Click("cmdSave");
+    EXPECT_EQ((Docs / u"Garden"_s).toStdString(), Files.Begun.value(0).toStdString());
 }
 
 TEST_F(OutSave, APointInANameBeginsNoExtension) {
