@@ -86,11 +86,6 @@ std::optional<PrintOrder> ReadOrder(QStringList Words, ToolIO& IO) {
     return Order;
 }
 
-QString Counted(int Number, const char* What) {
-    const QString Text = QString::number(Number) + u' ' + QLatin1String(What);
-    return Number == 1 ? Text : Text + u's';
-}
-
 // One order, in a database that is loaded.
 class ToolPrint {
   public:

@@ -113,11 +113,6 @@ class TerminalDesk {
     QElapsedTimer mSinceFirstByte;
 };
 
-QString Counted(int Number, const char* What) {
-    const QString Text = QString::number(Number) + u' ' + QLatin1String(What);
-    return Number == 1 ? Text : Text + u's';
-}
-
 // One order, between databases that are open.
 class ToolTransfer {
   public:

@@ -22,4 +22,9 @@ std::optional<QSize> SizeOf(const QString& Text) {
     return Width && Height ? std::optional(QSize(*Width, *Height)) : std::nullopt;
 }
 
+QString Counted(int Number, const char* What) {
+    const QString Text = QString::number(Number) + u' ' + QLatin1String(What);
+    return Number == 1 ? Text : Text + u's';
+}
+
 }  // namespace neb

@@ -16,4 +16,7 @@ std::optional<int> WholeNumber(const QString& Text, int Low, int High);
 // Of "1920x1080", sides 1 to 16384; nothing for what is no size.
 std::optional<QSize> SizeOf(const QString& Text);
 
+// A number of things, such as "1 slide" or "3 slides".
+QString Counted(int Number, const char* What);
+
 }  // namespace neb
