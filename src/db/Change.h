@@ -32,6 +32,11 @@ struct Change {
     bool operator==(const Change&) const = default;
 };
 
+// Whether it is about an album with all that it holds.
+constexpr bool IsWholeAlbum(const Change& Is) {
+    return Is.What != Change::Kind::AlbumRenamed && Is.SlideID == 0 && Is.SlideShowID == 0;
+}
+
 // Who follows the changes of a database. Noted comes the moment that a record has changed, before
 // any file is deleted for it; Told when the other windows shall hear of it, with the window that
 // asked for the change (null: none did), which knows already. Either may be empty.

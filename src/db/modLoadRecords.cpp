@@ -126,12 +126,20 @@ void PutShow(RecordImage& Image, std::int32_t AlbumID, const clsNEBSlideShow& Sh
                                              Track->Fade, 0});
 }
 
+void PutSlide(RecordImage& Image, std::int32_t AlbumID, const clsNEBSlide& Slide) {
+    Put(Image, SlideRecord{Slide.SlideID, AlbumID, Slide.SlideText, Slide.SlideLoc,
+                           Slide.SoundTrackLoc, Slide.Override, Slide.Repeat, 0});
+}
+
 void PutAlbum(RecordImage& Image, const clsNEBAlbum& Album) {
     Put(Image, AlbumRecord{Album.AlbumID, Album.AlbumName, 0});
-    for (const auto& Slide : Album.Slides)
-        Put(Image, SlideRecord{Slide->SlideID, Album.AlbumID, Slide->SlideText, Slide->SlideLoc,
-                               Slide->SoundTrackLoc, Slide->Override, Slide->Repeat, 0});
+    for (const auto& Slide : Album.Slides) PutSlide(Image, Album.AlbumID, *Slide);
     for (const auto& Show : Album.SlideShows) PutShow(Image, Album.AlbumID, *Show);
+}
+
+RecordImage Finished(RecordImage Image) {
+    for (PackedRecords& File : Image.Files) File.Finish();
+    return Image;
 }
 
 }  // namespace
@@ -156,8 +164,24 @@ RecordImage BuildImage(const clsDBEngine& Engine, const AlbumToPut* With) {
     for (const auto& Album : Engine.Albums)
         PutAlbum(Image, With && With->Album.AlbumID == Album->AlbumID ? With->Album : *Album);
     if (With && !Engine.GetAlbum(With->Album.AlbumID)) PutAlbum(Image, With->Album);
-    for (PackedRecords& File : Image.Files) File.Finish();
-    return Image;
+    return Finished(std::move(Image));
+}
+
+RecordImage BuildPart(const clsDBEngine& Engine, const Change& What) {
+    RecordImage Image;
+    Put(Image, NextIDsRecord{Engine.NextAlbumID, Engine.NextSlideID, Engine.NextSlideShowID});
+    clsNEBAlbum* const Album = Engine.GetAlbum(What.AlbumID);
+    if (!Album) return Finished(std::move(Image));
+    if (IsWholeAlbum(What)) {
+        PutAlbum(Image, *Album);
+        return Finished(std::move(Image));
+    }
+    Put(Image, AlbumRecord{Album->AlbumID, Album->AlbumName, 0});
+    if (const clsNEBSlide* Slide = Album->GetSlide(What.SlideID))
+        PutSlide(Image, What.AlbumID, *Slide);
+    if (const clsNEBSlideShow* Show = Album->GetSlideShow(What.SlideShowID))
+        PutShow(Image, What.AlbumID, *Show);
+    return Finished(std::move(Image));
 }
 
 }  // namespace neb

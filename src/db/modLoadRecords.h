@@ -16,4 +16,8 @@ void LoadAlbumTree(clsDBEngine& Engine, const RecordSource& Source);
 // once this album stands there, at the end when it is a new one.
 RecordImage BuildImage(const clsDBEngine& Engine, const AlbumToPut* With = nullptr);
 
+// The records of what has just been changed alone: the album's own, and of what it holds the slide,
+// the show or everything that the change is about; and the counters.
+RecordImage BuildPart(const clsDBEngine& Engine, const Change& What);
+
 }  // namespace neb

@@ -133,13 +133,6 @@ bool IsSound(const QByteArray& Journal) {
     return Sum.result() == QByteArrayView(Journal).last(SumLength);
 }
 
-// Of a whole journal; empty when there is none.
-QByteArray WholeSum(const QString& DBPath) {
-    if (!FileExists(JournalPath(DBPath))) return {};
-    const QByteArray Journal = ReadFile(JournalPath(DBPath));
-    return IsSound(Journal) ? Journal.last(SumLength) : QByteArray();
-}
-
 bool Unfold(const QByteArray& Journal, RecordImage& Image) {
     qsizetype Place = HeadLength;
     const qsizetype End = Journal.size() - SumLength;
@@ -163,6 +156,12 @@ RecordSource RecordsInImage(RecordImage Image) {
 
 QString JournalPath(const QString& DBPath) {
     return JournalFolder(DBPath) + QStringLiteral("Records.journal");
+}
+
+QByteArray SumOfJournal(const QString& DBPath) {
+    if (!FileExists(JournalPath(DBPath))) return {};
+    const QByteArray Journal = ReadFile(JournalPath(DBPath));
+    return IsSound(Journal) ? Journal.last(SumLength) : QByteArray();
 }
 
 JournalState ReadJournal(const QString& DBPath, RecordImage* Image) {
@@ -191,12 +190,12 @@ void CommitDatabase(const QString& DBPath, const RecordImage& Image, const Stage
 
 std::optional<Fault> SettleCommitted(const QString& DBPath) {
     if (!HasStagedFiles(DBPath)) return std::nullopt;
-    return SettleStagedFiles(DBPath, WholeSum(DBPath));
+    return SettleStagedFiles(DBPath, SumOfJournal(DBPath));
 }
 
 std::map<QString, QString> CommittedPlaces(const QString& DBPath) {
     if (!HasStagedFiles(DBPath)) return {};
-    return StagedPlaces(DBPath, WholeSum(DBPath));
+    return StagedPlaces(DBPath, SumOfJournal(DBPath));
 }
 
 bool MayWriteDatabase(const QString& DBPath) {

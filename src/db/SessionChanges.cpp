@@ -1,0 +1,126 @@
+#include "db/SessionChanges.h"
+
+#include <QtEndian>
+
+#include "db/clsDBEngine.h"
+#include "db/modLoadRecords.h"
+
+namespace neb {
+namespace {
+
+// Four numbers: what was changed, and the keys of the thing. Then, for each record file, the packed
+// and the unpacked length, and the packed records.
+constexpr qsizetype KeysLength = 4 * 4;
+
+void Append(QByteArray& To, std::int64_t Number) {
+    char Bytes[4];
+    qToLittleEndian(static_cast<std::int32_t>(Number), Bytes);
+    To.append(Bytes, sizeof Bytes);
+}
+
+class EntryReader {
+  public:
+    explicit EntryReader(const QByteArray& Entry) : mBytes(Entry) {}
+
+    std::optional<Change> Keys() {
+        if (mBytes.size() < KeysLength) return std::nullopt;
+        const std::int32_t What = Number();
+        if (What < 0 || What > static_cast<std::int32_t>(Change::Kind::ShowDeleted))
+            return std::nullopt;
+        const std::int32_t AlbumID = Number(), SlideID = Number();
+        return Change{static_cast<Change::Kind>(What), AlbumID, SlideID, Number()};
+    }
+    std::optional<RecordImage> Records() {
+        RecordImage Image;
+        for (PackedRecords& File : Image.Files) {
+            if (mBytes.size() - mPlace < 8) return std::nullopt;
+            const std::int32_t Packed = Number(), Length = Number();
+            if (Packed < 0 || Packed > mBytes.size() - mPlace) return std::nullopt;
+            auto Read = PackedRecords::FromBytes(mBytes.mid(mPlace, Packed), Length);
+            if (!Read) return std::nullopt;
+            File = std::move(*Read);
+            mPlace += Packed;
+        }
+        if (mPlace != mBytes.size()) return std::nullopt;
+        return Image;
+    }
+
+  private:
+    std::int32_t Number() {
+        mPlace += 4;
+        return qFromLittleEndian<std::int32_t>(mBytes.constData() + mPlace - 4);
+    }
+
+    const QByteArray& mBytes;
+    qsizetype mPlace = 0;
+};
+
+// The thing of that key in the place of the former, or behind the others.
+template <class Object>
+void PutInto(std::vector<std::unique_ptr<Object>>& All, std::unique_ptr<Object> New,
+             std::int32_t Object::*Key) {
+    for (std::unique_ptr<Object>& Each : All)
+        if ((*Each).*Key == (*New).*Key) {
+            Each = std::move(New);
+            return;
+        }
+    All.push_back(std::move(New));
+}
+
+void DropFrom(clsNEBAlbum& Album, const Change& What) {
+    if (What.SlideID != 0) Album.TakeSlide(What.SlideID);
+    if (What.SlideShowID != 0) Album.TakeSlideShow(What.SlideShowID);
+}
+
+void PutParts(clsNEBAlbum& Into, clsNEBAlbum& Read) {
+    for (auto& Slide : Read.Slides) PutInto(Into.Slides, std::move(Slide), &clsNEBSlide::SlideID);
+    for (auto& Show : Read.SlideShows)
+        PutInto(Into.SlideShows, std::move(Show), &clsNEBSlideShow::SlideShowID);
+}
+
+// Read: the album as the entry has it, with the parts that the entry is about.
+void Put(clsDBEngine& Engine, const Change& What, std::unique_ptr<clsNEBAlbum> Read) {
+    clsNEBAlbum* const There = Engine.GetAlbum(What.AlbumID);
+    if (!There || IsWholeAlbum(What))
+        return PutInto(Engine.Albums, std::move(Read), &clsNEBAlbum::AlbumID);
+    There->AlbumName = Read->AlbumName;
+    if (Read->Slides.empty() && Read->SlideShows.empty())
+        DropFrom(*There, What);
+    else
+        PutParts(*There, *Read);
+}
+
+}  // namespace
+
+QByteArray EntryOf(const clsDBEngine& Engine, const Change& What) {
+    QByteArray Entry;
+    for (const std::int32_t Key :
+         {static_cast<std::int32_t>(What.What), What.AlbumID, What.SlideID, What.SlideShowID})
+        Append(Entry, Key);
+    for (const PackedRecords& File : BuildPart(Engine, What).Files) {
+        Append(Entry, File.Bytes().size());
+        Append(Entry, File.Length());
+        Entry += File.Bytes();
+    }
+    return Entry;
+}
+
+bool CarryOutEntry(clsDBEngine& Engine, const QByteArray& Entry) {
+    EntryReader Reader(Entry);
+    const std::optional<Change> What = Reader.Keys();
+    auto Records = What ? Reader.Records() : std::nullopt;
+    if (!Records) return false;
+    clsDBEngine Part;
+    Part.LoadFrom(RecordsInImage(std::move(*Records)));
+    if (Part.Albums.empty())
+        Engine.DeleteAlbum(What->AlbumID);
+    else
+        Put(Engine, *What, std::move(Part.Albums.front()));
+    Engine.NextAlbumID = Part.NextAlbumID;
+    Engine.NextSlideID = Part.NextSlideID;
+    Engine.NextSlideShowID = Part.NextSlideShowID;
+    Engine.SortAlbums();
+    return true;
+}
+
+}  // namespace neb
