@@ -1,6 +1,7 @@
 #include "db/Changes.h"
 
 #include "db/clsDBEngine.h"
+#include "support/Fault.h"
 
 namespace neb {
 namespace {
@@ -51,8 +52,19 @@ void Announcement::Now() {
 }
 
 Announcement Changes::Noted(Change What) {
+    mDB.NoteInSession(What);
     if (mDB.Listeners.Noted) mDB.Listeners.Noted(What);
     return {mTogether ? nullptr : &mDB.Listeners, mAsker, What};
+}
+
+// Files go once no record names them any more, after a kill as well.
+bool Changes::IsStored() {
+    try {
+        mDB.StoreSession();
+        return true;
+    } catch (const Fault&) {
+        return false;  // the files stay, which harms nobody
+    }
 }
 
 Announcement Changes::AsOne(Change::Kind What, std::int32_t AlbumID) {
@@ -108,7 +120,7 @@ Answer<Announcement> Changes::DeleteSlide(std::int32_t AlbumID, std::int32_t Sli
     if (!Album) return Missing(NoAlbum);
     const bool WasThere = Album->TakeSlide(SlideID);
     Announcement Deleted = Noted({Change::Kind::SlideDeleted, AlbumID, SlideID});
-    if (WasThere) Album->DeleteSlideFiles(SlideID, mDB);
+    if (WasThere && IsStored()) Album->DeleteSlideFiles(SlideID, mDB);
     return Deleted;
 }
 
@@ -150,7 +162,7 @@ Answer<Announcement> Changes::DeleteShow(std::int32_t AlbumID, std::int32_t Slid
     if (!Album) return Missing(NoAlbum);
     const bool WasThere = Album->TakeSlideShow(SlideShowID);
     Announcement Deleted = Noted({Change::Kind::ShowDeleted, AlbumID, 0, SlideShowID});
-    if (WasThere) Album->DeleteSlideShowFiles(SlideShowID, mDB);
+    if (WasThere && IsStored()) Album->DeleteSlideShowFiles(SlideShowID, mDB);
     return Deleted;
 }
 

@@ -87,6 +87,7 @@ class Changes {
 
   private:
     Announcement Noted(Change What);
+    bool IsStored();
 
     clsDBEngine& mDB;
     const QObject* mAsker;

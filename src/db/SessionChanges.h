@@ -6,6 +6,7 @@
 #include <QByteArray>
 
 #include "db/Change.h"
+#include "db/records/SessionJournal.h"
 
 namespace neb {
 
@@ -15,5 +16,8 @@ class clsDBEngine;
 QByteArray EntryOf(const clsDBEngine& Engine, const Change& What);
 // False, and nothing changed, when the entry is none that EntryOf makes.
 bool CarryOutEntry(clsDBEngine& Engine, const QByteArray& Entry);
+
+// Carries out what a session left behind.
+LeftBehind BringBack(clsDBEngine& Engine, const LeftSession& Left);
 
 }  // namespace neb

@@ -2,6 +2,7 @@
 // clsDBEngineForward.cpp.
 #include "db/clsDBEngine.h"
 
+#include "db/SessionChanges.h"
 #include "db/modLoadRecords.h"
 #include "db/modNameIndex.h"
 #include "db/records/RecordCodec.h"
@@ -31,7 +32,36 @@ void clsDBEngine::SetProgramPath(const QString& Path) {
     mProgramPath = Path.isEmpty() ? QString() : WithSeparator(Path);
 }
 
+clsDBEngine::clsDBEngine() = default;
+
+clsDBEngine::~clsDBEngine() = default;
+
 void clsDBEngine::InitializeDB(Recovery How) {
+    const FoundSession Session = LookForSession(mDBPath);  // before anything is carried out
+    LoadRecords(How);
+    mFound = {};
+    mLeft.reset();
+    if (Session.Is == FoundSession::State::Goes) {
+        mFound = BringBack(*this, *Session.Left);
+        mLeft = Session.Left->End;
+    } else if (How == Recovery::CarryOut && MayWriteDatabase(mDBPath)) {
+        mFound.PutAside = SettleSession(mDBPath, Session);
+    }
+}
+
+void clsDBEngine::KeepSession() {
+    mSession = std::make_unique<SessionJournal>(mDBPath, mLeft);
+}
+
+void clsDBEngine::NoteInSession(const Change& What) {
+    if (mSession) mSession->Add(EntryOf(*this, What));
+}
+
+void clsDBEngine::StoreSession() {
+    if (mSession) mSession->Flush();
+}
+
+void clsDBEngine::LoadRecords(Recovery How) {
     if (How == Recovery::CarryOut && MayWriteDatabase(mDBPath) && RecoverDatabase(mDBPath))
         return LoadFrom(RecordsInDirectory(mDBPath));
     RecordImage Image;
@@ -59,7 +89,9 @@ void clsDBEngine::LoadFrom(const RecordSource& Source) {
 }
 
 void clsDBEngine::FinalizeDB() {
+    if (mSession) mSession->Pause();
     WriteDatabase(mDBPath, BuildImage(*this));
+    if (mSession) mSession->Restart();
 }
 
 Answer<> clsDBEngine::CheckAlbumName(std::int32_t AlbumID, const QString& AlbumName) const {

@@ -9,6 +9,7 @@
 #include "db/Change.h"
 #include "db/clsNEBAlbum.h"
 #include "db/modTables.h"
+#include "db/records/SessionJournal.h"
 #include "support/Answer.h"
 
 namespace neb {
@@ -21,6 +22,9 @@ enum class Recovery {
 
 class clsDBEngine {
   public:
+    clsDBEngine();
+    ~clsDBEngine();
+
     std::int32_t NextAlbumID = 0;
     std::int32_t NextSlideID = 0;
     std::int32_t NextSlideShowID = 0;
@@ -36,11 +40,20 @@ class clsDBEngine {
     void SetProgramPath(const QString& Path);
 
     // A directory without NextIDs.dat is a new database: all counters 1 and nothing else.
+    // Changes that a session left behind are brought back.
     void InitializeDB(Recovery How = Recovery::CarryOut);
+    const LeftBehind& Found() const { return mFound; }
     // The same from any source of record files.
     void LoadFrom(const RecordSource& Source);
     // Leaves either the old or the new database on the disk, whatever happens (modJournal.h).
     void FinalizeDB();
+
+    // From here on what db/Changes does is on the disk within moments, until FinalizeDB writes it.
+    void KeepSession();
+    // For db/Changes: a change was made; and all of them are on the disk. Without a session they do
+    // nothing. The second throws Fault.
+    void NoteInSession(const Change& What);
+    void StoreSession();
 
     // Whether the next numbers are above all that are there: else new pictures and sounds would
     // take the places of old ones.
@@ -109,8 +122,13 @@ class clsDBEngine {
     Answer<clsNEBAlbum*> FoundAlbum(std::int32_t AlbumID) const;
     Answer<clsNEBSlideShow*> FoundSlideShow(std::int32_t AlbumID, std::int32_t SlideShowID) const;
 
+    void LoadRecords(Recovery How);
+
     QString mDBPath;
     QString mProgramPath;
+    LeftBehind mFound;
+    std::optional<SessionEnd> mLeft;  // where the journal of the session before goes on
+    std::unique_ptr<SessionJournal> mSession;
 };
 
 }  // namespace neb

@@ -43,14 +43,24 @@ QByteArray HeadOf(const QByteArray& Base) {
     return Head + CheckOf({}, Head);
 }
 
-// A file's name, length and content, as part of the sum.
-void AddRecordFile(QCryptographicHash& Sum, const QString& Path) {
-    Sum.addData(BytesOf<qint64>(FileExists(Path) ? FileSize(Path) : -1));
-    if (!FileExists(Path)) return;
-    HostReader Reader(Path);
+constexpr qint64 NoFile = -1;
+
+// A file's length and content, as part of the sum.
+void AddRecordFile(QCryptographicHash& Sum, const std::optional<RecordBytes>& File) {
+    Sum.addData(BytesOf<qint64>(File ? File->Length : NoFile));
+    if (!File) return;
     QByteArray Room(1 << 18, Qt::Uninitialized);
-    for (qint64 Count; (Count = Reader.Read(Room.data(), Room.size())) > 0;)
+    for (qint64 Count; (Count = File->Read(Room.data(), Room.size())) > 0;)
         Sum.addData(QByteArrayView(Room).first(Count));
+}
+
+QString NameAside(const QString& Path, qint64 When) {
+    const QString Date = QDateTime::fromMSecsSinceEpoch(When).toString(u"yyyy-MM-dd hh.mm.ss");
+    const QString Stem = GetFilePath(Path) + QStringLiteral("Session ") + Date;
+    QString Name = Stem + QStringLiteral(".journal");
+    for (int Number = 2; NameExists(Name); ++Number)
+        Name = QStringLiteral("%1 (%2).journal").arg(Stem).arg(Number);
+    return Name;
 }
 
 // Walks over the bytes of a journal that was left behind.
@@ -61,8 +71,10 @@ class Walk {
     std::optional<LeftSession> Run() {
         LeftSession Found;
         if (!TakeHead(Found)) return std::nullopt;
+        const qsizetype All = HeadLength + mBytes.size();
         for (std::optional<SessionEntry> Entry; (Entry = Next());)
             Found.Entries.push_back(std::move(*Entry));
+        Found.End = {All - mBytes.size(), mCheck};
         Found.IsTorn = !mBytes.isEmpty();
         return Found;
     }
@@ -109,17 +121,20 @@ QString SessionJournalPath(const QString& DBPath) {
 }
 
 QByteArray SumOfRecords(const QString& DBPath) {
-    const QByteArray Journal = SumOfJournal(DBPath);
-    if (!Journal.isEmpty()) return Journal;
+    RecordImage Image;
+    const bool Unfinished = ReadJournal(DBPath, &Image) == JournalState::Whole;
+    const RecordSource Source =
+        Unfinished ? RecordsInImage(std::move(Image)) : RecordsInDirectory(DBPath);
     QCryptographicHash Sum(Method);
-    for (const RecordFile File : AllRecordFiles) AddRecordFile(Sum, RecordPath(DBPath, File));
+    for (const RecordFile File : AllRecordFiles) AddRecordFile(Sum, Source(File));
     return Sum.result();
 }
 
 // The thread works until Ends, batch by batch: what is added while one is flushed goes with the
 // next.
 struct SessionJournal::State {
-    explicit State(const QString& Path) : DBPath(Path) {}
+    State(const QString& Path, const std::optional<SessionEnd>& From)
+        : DBPath(Path), Good(From.value_or(SessionEnd())) {}
 
     void Run() {
         std::unique_lock Lock(Mutex);
@@ -137,6 +152,7 @@ struct SessionJournal::State {
     }
     std::optional<Fault> Store(const QList<QByteArray>& Batch) {
         try {
+            if (Good.Length > 0 && !FileExists(SessionJournalPath(DBPath))) Forget();
             if (!Writer) Open();
             for (const QByteArray& Entry : Batch) Put(Entry);
             Writer->Sync();
@@ -146,6 +162,11 @@ struct SessionJournal::State {
             Writer.reset();
             return Reason;
         }
+    }
+    // What it says stands in other records, which were written meanwhile.
+    void Forget() {
+        Writer.reset();
+        Good = {};
     }
     // Under another name first: what was flushed before a write failed is not lost meanwhile.
     void Open() {
@@ -173,10 +194,6 @@ struct SessionJournal::State {
         Changed.wait(Lock, [this] { return Waiting.isEmpty() || Problem; });
     }
 
-    struct End {
-        qint64 Length = 0;
-        QByteArray Check;
-    };
     const QString DBPath;
     std::mutex Mutex;
     std::condition_variable Changed;
@@ -185,11 +202,12 @@ struct SessionJournal::State {
     bool Ends = false;
     // of the thread, while it stores
     std::optional<HostWriter> Writer;
-    End Good, Written;  // what is on the disk; what was written
+    SessionEnd Good, Written;  // what is on the disk; what was written
     std::thread Thread;
 };
 
-SessionJournal::SessionJournal(const QString& DBPath) : mState(std::make_unique<State>(DBPath)) {}
+SessionJournal::SessionJournal(const QString& DBPath, const std::optional<SessionEnd>& From)
+    : mState(std::make_unique<State>(DBPath, From)) {}
 
 SessionJournal::~SessionJournal() {
     {
@@ -211,18 +229,22 @@ void SessionJournal::Add(const QByteArray& Entry) {
 }
 
 void SessionJournal::Flush() {
-    std::unique_lock Lock(mState->Mutex);
-    if (!mState->Waiting.isEmpty()) mState->WaitUntilStored(Lock);
+    Pause();
+    const std::lock_guard Lock(mState->Mutex);
     if (mState->Problem) throw Fault(*mState->Problem);
 }
 
-void SessionJournal::Restart() {
+void SessionJournal::Pause() {
     std::unique_lock Lock(mState->Mutex);
     if (!mState->Waiting.isEmpty()) mState->WaitUntilStored(Lock);
+}
+
+void SessionJournal::Restart() {
+    Pause();
+    const std::lock_guard Lock(mState->Mutex);
     mState->Waiting.clear();
-    mState->Writer.reset();
-    mState->Good = {};
-    DeleteFile(SessionJournalPath(mState->DBPath));
+    mState->Forget();
+    DropSessionJournal(mState->DBPath);
 }
 
 std::optional<LeftSession> ReadSessionJournal(const QString& DBPath) {
@@ -230,6 +252,31 @@ std::optional<LeftSession> ReadSessionJournal(const QString& DBPath) {
     if (!FileExists(Path)) return std::nullopt;
     const QByteArray Bytes = ReadFile(Path);
     return Walk(Bytes).Run();
+}
+
+void DropSessionJournal(const QString& DBPath) {
+    DeleteFile(SessionJournalPath(DBPath));
+}
+
+FoundSession LookForSession(const QString& DBPath) {
+    using enum FoundSession::State;
+    if (!FileExists(SessionJournalPath(DBPath))) return {};
+    std::optional<LeftSession> Left = ReadSessionJournal(DBPath);
+    if (Left && Left->Base == SumOfRecords(DBPath)) return {Goes, std::move(Left)};
+    const bool IsAfter = ReadJournal(DBPath) == JournalState::Whole;
+    return {Left && IsAfter ? IsStored : Foreign, std::move(Left)};
+}
+
+QString SettleSession(const QString& DBPath, const FoundSession& Found) {
+    if (Found.Is == FoundSession::State::IsStored) DropSessionJournal(DBPath);
+    if (Found.Is != FoundSession::State::Foreign) return {};
+    const bool Dated = Found.Left && !Found.Left->Entries.empty();
+    const QString Path = SessionJournalPath(DBPath);
+    const QString Aside = NameAside(
+        Path, Dated ? Found.Left->Entries.back().When : QDateTime::currentMSecsSinceEpoch());
+    RenameFile(Path, Aside);
+    SyncDir(GetFilePath(Path));
+    return Aside;
 }
 
 }  // namespace neb

@@ -16,15 +16,23 @@ namespace neb {
 
 QString SessionJournalPath(const QString& DBPath);
 
-// The records that are there now, as a check sum: of a whole journal of all of them where there is
-// one, else of the eight files. Throws Fault when they cannot be read.
+// The records that are there now, as a check sum over the content of all eight files: as a whole
+// journal has them where there is one, for they are written from it. Throws Fault when they cannot
+// be read.
 QByteArray SumOfRecords(const QString& DBPath);
+
+// Where a journal ends behind its last whole entry, so that it can go on there.
+struct SessionEnd {
+    qint64 Length = 0;  // bytes
+    QByteArray Check;
+};
 
 // One that is being written, by a thread of its own: no window waits for a disk.
 class SessionJournal {
   public:
-    // The file comes into being with the first entry, bound to the records that are there then.
-    explicit SessionJournal(const QString& DBPath);
+    // Goes on at the end of the one that is there, or begins it anew: with the first entry, bound
+    // to the records that are there then.
+    explicit SessionJournal(const QString& DBPath, const std::optional<SessionEnd>& From = {});
     ~SessionJournal();  // what was added is on the disk, as far as it can be
     SessionJournal(const SessionJournal&) = delete;
     SessionJournal& operator=(const SessionJournal&) = delete;
@@ -33,6 +41,9 @@ class SessionJournal {
     // Returns when everything added is on the disk. Throws Fault when it could not be written; it
     // is tried again with the next entry.
     void Flush();
+    // Stores what can be stored and returns; the next entry goes on. Before all records are
+    // written, which may delete the file.
+    void Pause();
     // Deletes the file: what it says stands in other records now. The next entry begins it anew.
     void Restart();
 
@@ -50,10 +61,35 @@ struct SessionEntry {
 struct LeftSession {
     QByteArray Base;  // SumOfRecords of the records that it goes with
     std::vector<SessionEntry> Entries;
+    SessionEnd End;
     bool IsTorn = false;  // more follows that is no whole entry
 };
 
 // Nothing when there is none, or its beginning is damaged. Changes nothing.
 std::optional<LeftSession> ReadSessionJournal(const QString& DBPath);
+void DropSessionJournal(const QString& DBPath);
+
+struct FoundSession {
+    enum class State {
+        None,
+        Goes,      // with the records that are there: it is to be carried out
+        IsStored,  // in the whole journal of all records that was begun after it
+        Foreign    // the records have been replaced by others, or it is damaged
+    };
+    State Is = State::None;
+    std::optional<LeftSession> Left = {};
+};
+// Changes nothing. To be asked before a journal of all records is carried out.
+FoundSession LookForSession(const QString& DBPath);
+// Deletes one that is stored, and keeps a foreign one under a name with the date of its last entry,
+// which is the answer; nothing is replaced. One that goes stays.
+QString SettleSession(const QString& DBPath, const FoundSession& Found);
+
+// What the opening of a database made of it.
+struct LeftBehind {
+    int Changes = 0;   // that were brought back
+    qint64 When = 0;   // the last of them; milliseconds since 1970, UTC
+    QString PutAside;  // the file of changes that do not go with these records; empty: none
+};
 
 }  // namespace neb

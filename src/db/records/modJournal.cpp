@@ -5,6 +5,7 @@
 #include <functional>
 #include <span>
 
+#include "db/records/SessionJournal.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
 
@@ -133,6 +134,13 @@ bool IsSound(const QByteArray& Journal) {
     return Sum.result() == QByteArrayView(Journal).last(SumLength);
 }
 
+// Of a whole journal; empty when there is none.
+QByteArray WholeSum(const QString& DBPath) {
+    if (!FileExists(JournalPath(DBPath))) return {};
+    const QByteArray Journal = ReadFile(JournalPath(DBPath));
+    return IsSound(Journal) ? Journal.last(SumLength) : QByteArray();
+}
+
 bool Unfold(const QByteArray& Journal, RecordImage& Image) {
     qsizetype Place = HeadLength;
     const qsizetype End = Journal.size() - SumLength;
@@ -158,12 +166,6 @@ QString JournalPath(const QString& DBPath) {
     return JournalFolder(DBPath) + QStringLiteral("Records.journal");
 }
 
-QByteArray SumOfJournal(const QString& DBPath) {
-    if (!FileExists(JournalPath(DBPath))) return {};
-    const QByteArray Journal = ReadFile(JournalPath(DBPath));
-    return IsSound(Journal) ? Journal.last(SumLength) : QByteArray();
-}
-
 JournalState ReadJournal(const QString& DBPath, RecordImage* Image) {
     const QString Path = JournalPath(DBPath);
     if (!FileExists(Path))
@@ -180,22 +182,24 @@ void WriteDatabase(const QString& DBPath, const RecordImage& Image) {
         throw Fault(QStringLiteral("The database directory is not there."), DBPath);
     SettleCommitted(DBPath);  // before the journal that it goes with is replaced
     WriteJournal(DBPath, Image);
+    DropSessionJournal(DBPath);  // the records that are being written have all of it
     CarryOut(DBPath, Image);
 }
 
 void CommitDatabase(const QString& DBPath, const RecordImage& Image, const StagedChange& Files) {
     WriteJournal(DBPath, Image,
                  [&](const QByteArray& Sum) { NoteStagedChange(DBPath, Files, Sum); });
+    DropSessionJournal(DBPath);
 }
 
 std::optional<Fault> SettleCommitted(const QString& DBPath) {
     if (!HasStagedFiles(DBPath)) return std::nullopt;
-    return SettleStagedFiles(DBPath, SumOfJournal(DBPath));
+    return SettleStagedFiles(DBPath, WholeSum(DBPath));
 }
 
 std::map<QString, QString> CommittedPlaces(const QString& DBPath) {
     if (!HasStagedFiles(DBPath)) return {};
-    return StagedPlaces(DBPath, SumOfJournal(DBPath));
+    return StagedPlaces(DBPath, WholeSum(DBPath));
 }
 
 bool MayWriteDatabase(const QString& DBPath) {

@@ -30,9 +30,6 @@ enum class JournalState { None, Torn, Whole };
 // Looks without changing anything; Image, when given, receives the content of a whole one.
 JournalState ReadJournal(const QString& DBPath, RecordImage* Image = nullptr);
 
-// The check sum of a whole journal; empty when there is none.
-QByteArray SumOfJournal(const QString& DBPath);
-
 // Journal, files, end of the journal; all of it is on the disk afterwards. Throws Fault: when
 // the journal could not be written the old database stands untouched; later, the journal
 // stays and the next start finishes the work.

@@ -1,0 +1,199 @@
+// A session that does not come to its end: what was changed in it is there at the next opening.
+#include <gtest/gtest.h>
+
+#include <QDateTime>
+#include "Fixtures.h"
+#include "db/Changes.h"
+#include "db/modAlbumFiles.h"
+#include "db/modLoadRecords.h"
+#include "db/records/SessionJournal.h"
+#include "support/Fault.h"
+#include "support/modFUFL.h"
+
+namespace neb {
+namespace {
+
+using namespace harness;
+
+std::map<std::string, QByteArray> ContentOf(const clsDBEngine& Engine) {
+    const RecordImage Image = BuildImage(Engine);
+    std::map<std::string, QByteArray> Files;
+    for (const RecordFile File : AllRecordFiles) Files[RecordFileName(File)] = Image[File].Unpack();
+    return Files;
+}
+
+class SessionTest : public ::testing::Test {
+  protected:
+    SessionTest() {
+        const auto Engine = OpenEngine(Dir.Path());
+        FillDatabase(*Engine, u"old"_s);
+        Engine->FinalizeDB();
+    }
+    ~SessionTest() override { SetHostWatcher({}); }
+    std::unique_ptr<clsDBEngine> Begin() const {
+        auto Engine = OpenEngine(Dir.Path());
+        Engine->KeepSession();
+        return Engine;
+    }
+    // A session that makes so many albums and is not ended; what it held.
+    std::map<std::string, QByteArray> Break(const QStringList& Albums) const {
+        const auto Engine = Begin();
+        for (const QString& Name : Albums) Changes(*Engine).MakeAlbum(Name);
+        return ContentOf(*Engine);
+    }
+    bool HasJournal() const { return FileExists(SessionJournalPath(Dir.Path())); }
+    QStringList Aside() const {
+        QStringList Names;
+        for (const DirEntry& Each : ListDir(GetFilePath(SessionJournalPath(Dir.Path()))))
+            if (Each.Name.startsWith(u"Session ")) Names << Each.Name;
+        return Names;
+    }
+
+    TempFolder Dir;
+};
+
+TEST_F(SessionTest, WhatItChangedIsBroughtBack) {
+    const auto Held = Break({u"Garden"_s, u"Park"_s});
+    const auto Records = AllRecords(Dir.Path());
+    const auto Engine = Begin();
+    EXPECT_EQ(Held, ContentOf(*Engine));
+    EXPECT_EQ(2, Engine->Found().Changes);
+    EXPECT_NEAR(static_cast<double>(QDateTime::currentMSecsSinceEpoch()),
+                static_cast<double>(Engine->Found().When), 60000);
+    EXPECT_EQ(Records, AllRecords(Dir.Path())) << "the record files are written at the end alone";
+}
+
+TEST_F(SessionTest, TheNextOneGoesOnInTheSameJournal) {
+    Break({u"Garden"_s});
+    const auto Held = Break({u"Park"_s});
+    const auto Engine = Begin();
+    EXPECT_EQ(Held, ContentOf(*Engine));
+    EXPECT_EQ(2, Engine->Found().Changes);
+    EXPECT_TRUE(Engine->FindAlbum(0, u"Garden"_s));
+    EXPECT_TRUE(Engine->FindAlbum(0, u"Park"_s));
+}
+
+TEST_F(SessionTest, AnOrderlyEndLeavesNoJournal) {
+    Break({u"Garden"_s});
+    std::map<std::string, QByteArray> Held;
+    {
+        const auto Engine = Begin();
+        Changes(*Engine).RenameAlbum(1, u"Sea"_s);
+        Held = ContentOf(*Engine);
+        Engine->FinalizeDB();
+    }
+    EXPECT_FALSE(HasJournal());
+    EXPECT_EQ(Held, AllRecords(Dir.Path()));
+    EXPECT_EQ(0, Begin()->Found().Changes);
+}
+
+TEST_F(SessionTest, WhatIsChangedAfterAnEndIsKeptToo) {
+    const auto Engine = Begin();
+    Changes(*Engine).MakeAlbum(u"Garden"_s);
+    Engine->FinalizeDB();
+    Changes(*Engine).MakeAlbum(u"Park"_s);
+    Engine->StoreSession();
+    const auto Next = OpenEngine(Dir.Path(), Recovery::InMemory);
+    EXPECT_EQ(ContentOf(*Engine), ContentOf(*Next));
+}
+
+TEST_F(SessionTest, LookingWithoutChangingSeesItAndLeavesIt) {
+    const auto Held = Break({u"Garden"_s});
+    EXPECT_EQ(Held, ContentOf(*OpenEngine(Dir.Path(), Recovery::InMemory)));
+    EXPECT_TRUE(HasJournal());
+    EXPECT_EQ(Held, ContentOf(*OpenEngine(Dir.Path())));
+}
+
+TEST_F(SessionTest, AfterABackupWasPutBackItIsPutAside) {
+    const auto Backup = AllRecords(Dir.Path());
+    {
+        const auto Engine = Begin();
+        Changes(*Engine).MakeAlbum(u"Garden"_s);
+        Engine->FinalizeDB();
+    }
+    Break({u"Park"_s});
+    for (const auto& [Name, Bytes] : Backup) WriteFile(Dir / QString::fromStdString(Name), Bytes);
+    const auto Engine = Begin();
+    EXPECT_EQ(0, Engine->Found().Changes);
+    EXPECT_EQ(Backup, ContentOf(*Engine));
+    ASSERT_EQ(1, Aside().size());
+    EXPECT_TRUE(Engine->Found().PutAside.endsWith(Aside().first()));
+    EXPECT_FALSE(HasJournal());
+    EXPECT_TRUE(Begin()->Found().PutAside.isEmpty()) << "it is told of once";
+}
+
+TEST_F(SessionTest, NothingThatWasPutAsideIsReplaced) {
+    Break({u"Park"_s});
+    const QByteArray Journal = ReadFile(SessionJournalPath(Dir.Path()));
+    for (const char* Albums : {"other", "another"}) {
+        WriteFile(SessionJournalPath(Dir.Path()), Journal);
+        AppendFile(Dir / u"Properties.dat"_s, Albums);
+        OpenEngine(Dir.Path());
+    }
+    EXPECT_EQ(2, Aside().size());
+}
+
+TEST_F(SessionTest, ADamagedOneIsPutAside) {
+    Break({u"Park"_s});
+    WriteFile(SessionJournalPath(Dir.Path()), "no journal");
+    EXPECT_FALSE(OpenEngine(Dir.Path())->Found().PutAside.isEmpty());
+    EXPECT_EQ(1, Aside().size());
+}
+
+TEST_F(SessionTest, TheRecordGoesBeforeTheFile) {
+    const auto Engine = Begin();
+    const QString Picture = SlidesFolder(Dir.Path(), 1) + u"00000001.jpg"_s;
+    MakeDirs(GetFilePath(Picture));
+    WriteFile(Picture, "picture");
+    SetHostWatcher([&](HostStep Step, const QString& Path, qint64&) {
+        if (Step != HostStep::Delete || !Path.contains(u"00000001"_s)) return;
+        const auto Now = OpenEngine(Dir.Path(), Recovery::InMemory);
+        EXPECT_EQ(nullptr, Now->GetAlbum(1)->GetSlide(1));
+    });
+    Changes(*Engine).DeleteSlide(1, 1);
+    EXPECT_FALSE(FileExists(Picture));
+}
+
+TEST_F(SessionTest, AFileStaysWhereItsRecordCannotGo) {
+    const auto Engine = Begin();
+    const QString Picture = SlidesFolder(Dir.Path(), 1) + u"00000001.jpg"_s;
+    MakeDirs(GetFilePath(Picture));
+    WriteFile(Picture, "picture");
+    SetHostWatcher([&](HostStep Step, const QString&, qint64&) {
+        if (Step == HostStep::Write) throw Fault(u"No space left."_s);
+    });
+    Changes(*Engine).DeleteSlide(1, 1);
+    EXPECT_TRUE(FileExists(Picture));
+    SetHostWatcher({});
+}
+
+// Whatever step of an end fails, once and for good, all is there at the next opening.
+TEST_F(SessionTest, AnEndThatFailsAtAnyStepLosesNothing) {
+    for (int Failing = 1; Failing < 200; ++Failing) {
+        int Steps = 0;
+        std::map<std::string, QByteArray> Held;
+        {
+            const auto Engine = Begin();
+            Changes(*Engine).RenameAlbum(1, u"Sea %1"_s.arg(Failing));
+            Engine->StoreSession();
+            Held = ContentOf(*Engine);
+            SetHostWatcher([&](HostStep, const QString&, qint64&) {
+                if (++Steps >= Failing) throw Fault(u"The medium has gone."_s);
+            });
+            try {
+                Engine->FinalizeDB();
+            } catch (const Fault&) {
+                EXPECT_GE(Steps, Failing);
+            }
+        }
+        SetHostWatcher({});
+        EXPECT_EQ(Held, ContentOf(*OpenEngine(Dir.Path(), Recovery::InMemory))) << Failing;
+        EXPECT_EQ(Held, ContentOf(*OpenEngine(Dir.Path()))) << Failing;
+        EXPECT_TRUE(Aside().isEmpty()) << Failing;
+        if (Steps < Failing) return;
+    }
+    FAIL() << "it never came to its end";
+}
+
+}  // namespace
+}  // namespace neb
