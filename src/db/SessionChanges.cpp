@@ -123,14 +123,12 @@ bool CarryOutEntry(clsDBEngine& Engine, const QByteArray& Entry) {
     return true;
 }
 
-LeftBehind BringBack(clsDBEngine& Engine, const LeftSession& Left) {
-    LeftBehind Brought;
+void BringBack(clsDBEngine& Engine, const LeftSession& Left, LeftBehind& Brought) {
     for (const SessionEntry& Each : Left.Entries) {
         if (!CarryOutEntry(Engine, Each.Body)) continue;
         ++Brought.Changes;
         Brought.When = Each.When;
     }
-    return Brought;
 }
 
 }  // namespace neb

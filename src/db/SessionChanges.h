@@ -18,6 +18,6 @@ QByteArray EntryOf(const clsDBEngine& Engine, const Change& What);
 bool CarryOutEntry(clsDBEngine& Engine, const QByteArray& Entry);
 
 // Carries out what a session left behind.
-LeftBehind BringBack(clsDBEngine& Engine, const LeftSession& Left);
+void BringBack(clsDBEngine& Engine, const LeftSession& Left, LeftBehind& Brought);
 
 }  // namespace neb

@@ -38,14 +38,14 @@ clsDBEngine::~clsDBEngine() = default;
 
 void clsDBEngine::InitializeDB(Recovery How) {
     const FoundSession Session = LookForSession(mDBPath);  // before anything is carried out
-    LoadRecords(How);
     mFound = {};
     mLeft.reset();
+    LoadRecords(How);
     if (Session.Is == FoundSession::State::Goes) {
-        mFound = BringBack(*this, *Session.Left);
+        BringBack(*this, *Session.Left, mFound);
         mLeft = Session.Left->End;
     } else if (How == Recovery::CarryOut && MayWriteDatabase(mDBPath)) {
-        mFound.PutAside = SettleSession(mDBPath, Session);
+        mFound.PutAside += SettleSession(mDBPath, Session);
     }
 }
 
@@ -62,7 +62,8 @@ void clsDBEngine::StoreSession() {
 }
 
 void clsDBEngine::LoadRecords(Recovery How) {
-    if (How == Recovery::CarryOut && MayWriteDatabase(mDBPath) && RecoverDatabase(mDBPath))
+    if (How == Recovery::CarryOut && MayWriteDatabase(mDBPath) &&
+        RecoverDatabase(mDBPath, mFound.PutAside))
         return LoadFrom(RecordsInDirectory(mDBPath));
     RecordImage Image;
     const bool Unfinished = ReadJournal(mDBPath, &Image) == JournalState::Whole;

@@ -1,6 +1,7 @@
 // A session that does not come to its end: what was changed in it is there at the next opening.
 #include <gtest/gtest.h>
 
+#include <QCryptographicHash>
 #include <QDateTime>
 #include "Fixtures.h"
 #include "db/Changes.h"
@@ -117,7 +118,7 @@ TEST_F(SessionTest, AfterABackupWasPutBackItIsPutAside) {
     EXPECT_EQ(0, Engine->Found().Changes);
     EXPECT_EQ(Backup, ContentOf(*Engine));
     ASSERT_EQ(1, Aside().size());
-    EXPECT_TRUE(Engine->Found().PutAside.endsWith(Aside().first()));
+    EXPECT_TRUE(Engine->Found().PutAside.value(0).endsWith(Aside().first()));
     EXPECT_FALSE(HasJournal());
     EXPECT_TRUE(Begin()->Found().PutAside.isEmpty()) << "it is told of once";
 }
@@ -193,6 +194,76 @@ TEST_F(SessionTest, AnEndThatFailsAtAnyStepLosesNothing) {
         if (Steps < Failing) return;
     }
     FAIL() << "it never came to its end";
+}
+
+// A write of all records that did not come to its end.
+class LeftJournal : public SessionTest {
+  protected:
+    // Leaves a whole journal; what it holds.
+    std::map<std::string, QByteArray> LeaveJournal() const {
+        const auto Engine = OpenEngine(Dir.Path());
+        Changes(*Engine).MakeAlbum(u"Garden"_s);
+        SetHostWatcher([](HostStep Step, const QString& Path, qint64&) {
+            if (Step == HostStep::Delete && Path.endsWith(u".dat"_s)) throw Fault(u"Gone."_s);
+        });
+        EXPECT_THROW(Engine->FinalizeDB(), Fault);
+        SetHostWatcher({});
+        return ContentOf(*Engine);
+    }
+    QStringList KeptAside() const {
+        QStringList Names;
+        for (const DirEntry& Each : ListDir(GetFilePath(JournalPath(Dir.Path()))))
+            if (Each.Name.startsWith(u"Records ")) Names << Each.Name;
+        return Names;
+    }
+};
+
+TEST_F(LeftJournal, IsCarriedOut) {
+    const auto Held = LeaveJournal();
+    const auto Engine = OpenEngine(Dir.Path());
+    EXPECT_EQ(Held, ContentOf(*Engine));
+    EXPECT_TRUE(Engine->Found().PutAside.isEmpty());
+    EXPECT_TRUE(KeptAside().isEmpty());
+}
+
+TEST_F(LeftJournal, IsPutAsideWhereOtherRecordsWerePutThere) {
+    LeaveJournal();
+    for (const char* Name : {"Slides.dat", "Properties.dat", "NextIDs.dat"}) {
+        WriteFile(Dir / QLatin1String(Name), FileBytes(Dir.Path(), Name) + "replaced");
+    }
+    const auto Lying = AllRecords(Dir.Path());
+    EXPECT_EQ(JournalState::Foreign, ReadJournal(Dir.Path()));
+    OpenEngine(Dir.Path(), Recovery::InMemory);
+    EXPECT_TRUE(KeptAside().isEmpty());
+    const auto Engine = OpenEngine(Dir.Path());
+    EXPECT_EQ(Lying, AllRecords(Dir.Path()));
+    EXPECT_FALSE(Engine->FindAlbum(0, u"Garden"_s));
+    EXPECT_EQ(1, Engine->Found().PutAside.size());
+    EXPECT_EQ(1, KeptAside().size());
+    EXPECT_EQ(JournalState::None, ReadJournal(Dir.Path()));
+}
+
+TEST_F(LeftJournal, IsPutAsideWhereItIsDamaged) {
+    LeaveJournal();
+    QByteArray Journal = ReadFile(JournalPath(Dir.Path()));
+    Journal[Journal.size() / 2] ^= 1;
+    WriteFile(JournalPath(Dir.Path()), Journal);
+    const auto Lying = AllRecords(Dir.Path());
+    const auto Engine = OpenEngine(Dir.Path());
+    EXPECT_EQ(Lying, AllRecords(Dir.Path()));
+    EXPECT_EQ(1, Engine->Found().PutAside.size());
+    EXPECT_EQ(1, KeptAside().size());
+}
+
+TEST_F(LeftJournal, OfAnEarlierVersionIsCarriedOut) {
+    const auto Held = LeaveJournal();
+    QByteArray Journal = ReadFile(JournalPath(Dir.Path()));
+    Journal = "NEBJRNL1" + Journal.sliced(8, 2 * 8 * 8) +
+              Journal.sliced(8 + 2 * 8 * 8 + 8 * 40).chopped(32);
+    Journal += QCryptographicHash::hash(Journal, QCryptographicHash::Blake2b_256);
+    WriteFile(JournalPath(Dir.Path()), Journal);
+    EXPECT_EQ(Held, ContentOf(*OpenEngine(Dir.Path())));
+    EXPECT_EQ(Held, AllRecords(Dir.Path()));
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include <mutex>
 #include <thread>
 
+#include "db/records/KeptAside.h"
 #include "db/records/modJournal.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
@@ -52,15 +53,6 @@ void AddRecordFile(QCryptographicHash& Sum, const std::optional<RecordBytes>& Fi
     QByteArray Room(1 << 18, Qt::Uninitialized);
     for (qint64 Count; (Count = File->Read(Room.data(), Room.size())) > 0;)
         Sum.addData(QByteArrayView(Room).first(Count));
-}
-
-QString NameAside(const QString& Path, qint64 When) {
-    const QString Date = QDateTime::fromMSecsSinceEpoch(When).toString(u"yyyy-MM-dd hh.mm.ss");
-    const QString Stem = GetFilePath(Path) + QStringLiteral("Session ") + Date;
-    QString Name = Stem + QStringLiteral(".journal");
-    for (int Number = 2; NameExists(Name); ++Number)
-        Name = QStringLiteral("%1 (%2).journal").arg(Stem).arg(Number);
-    return Name;
 }
 
 // Walks over the bytes of a journal that was left behind.
@@ -267,16 +259,12 @@ FoundSession LookForSession(const QString& DBPath) {
     return {Left && IsAfter ? IsStored : Foreign, std::move(Left)};
 }
 
-QString SettleSession(const QString& DBPath, const FoundSession& Found) {
+QStringList SettleSession(const QString& DBPath, const FoundSession& Found) {
     if (Found.Is == FoundSession::State::IsStored) DropSessionJournal(DBPath);
     if (Found.Is != FoundSession::State::Foreign) return {};
     const bool Dated = Found.Left && !Found.Left->Entries.empty();
-    const QString Path = SessionJournalPath(DBPath);
-    const QString Aside = NameAside(
-        Path, Dated ? Found.Left->Entries.back().When : QDateTime::currentMSecsSinceEpoch());
-    RenameFile(Path, Aside);
-    SyncDir(GetFilePath(Path));
-    return Aside;
+    return {PutAside(SessionJournalPath(DBPath), Dated ? Found.Left->Entries.back().When
+                                                       : QDateTime::currentMSecsSinceEpoch())};
 }
 
 }  // namespace neb

@@ -7,7 +7,7 @@
 #pragma once
 
 #include <QByteArray>
-#include <QString>
+#include <QStringList>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -82,14 +82,14 @@ struct FoundSession {
 // Changes nothing. To be asked before a journal of all records is carried out.
 FoundSession LookForSession(const QString& DBPath);
 // Deletes one that is stored, and keeps a foreign one under a name with the date of its last entry,
-// which is the answer; nothing is replaced. One that goes stays.
-QString SettleSession(const QString& DBPath, const FoundSession& Found);
+// whose path is the answer; nothing is replaced. One that goes stays.
+QStringList SettleSession(const QString& DBPath, const FoundSession& Found);
 
 // What the opening of a database made of it.
 struct LeftBehind {
-    int Changes = 0;   // that were brought back
-    qint64 When = 0;   // the last of them; milliseconds since 1970, UTC
-    QString PutAside;  // the file of changes that do not go with these records; empty: none
+    int Changes = 0;       // that were brought back
+    qint64 When = 0;       // the last of them; milliseconds since 1970, UTC
+    QStringList PutAside;  // files of changes that do not go with these records
 };
 
 }  // namespace neb

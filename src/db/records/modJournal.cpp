@@ -1,10 +1,12 @@
 #include "db/records/modJournal.h"
 
 #include <QCryptographicHash>
+#include <QDateTime>
 #include <QtEndian>
 #include <functional>
 #include <span>
 
+#include "db/records/KeptAside.h"
 #include "db/records/SessionJournal.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
@@ -12,12 +14,17 @@
 namespace neb {
 namespace {
 
-// Magic, for each file the packed and the unpacked length, the packed files, the check sum.
-constexpr QByteArrayView Magic = "NEBJRNL1";
+// Magic; for each file the packed and the unpacked length; for each file the length and the check
+// sum of the one that it takes the place of; the packed files; the check sum of all that. Journals
+// of the first kind do not know which files they replace.
+constexpr QByteArrayView Magic = "NEBJRNL2", FirstMagic = "NEBJRNL1";
 constexpr qsizetype CountLength = 8;
-constexpr qsizetype HeadLength = 8 + 2 * CountLength * static_cast<qsizetype>(RecordFileCount);
+constexpr qsizetype FileCount = static_cast<qsizetype>(RecordFileCount);
+constexpr qsizetype BaseStart = 8 + 2 * CountLength * FileCount;
 constexpr auto Method = QCryptographicHash::Blake2b_256;
 constexpr qsizetype SumLength = 32;
+constexpr qsizetype BaseLength = CountLength + SumLength;
+constexpr qint64 NoFile = -1;
 
 constexpr std::array FilesWrittenTogether = {RecordFile::Albums, RecordFile::Slides,
                                              RecordFile::SlideShows, RecordFile::SlideShowDetails,
@@ -47,29 +54,41 @@ void DeleteIfPossible(const QString& Path) {
     }
 }
 
-QByteArray JournalHead(const RecordImage& Image) {
+QByteArray Count(qint64 Number) {
+    QByteArray Bytes(CountLength, Qt::Uninitialized);
+    qToLittleEndian(Number, Bytes.data());
+    return Bytes;
+}
+
+// A record file as it is now: its length and check sum.
+QByteArray BaseOf(const QString& Path) {
+    if (!FileExists(Path)) return Count(NoFile) + QByteArray(SumLength, '\0');
+    HostReader Reader(Path);
+    QCryptographicHash Sum(Method);
+    QByteArray Room(1 << 20, Qt::Uninitialized);
+    for (qint64 Got; (Got = Reader.Read(Room.data(), Room.size())) > 0;)
+        Sum.addData(QByteArrayView(Room).first(Got));
+    return Count(Reader.Length()) + Sum.result();
+}
+
+QByteArray JournalHead(const QString& DBPath, const RecordImage& Image) {
     QByteArray Head = Magic.toByteArray();
-    const auto Append = [&](qint64 Number) {
-        char Bytes[CountLength];
-        qToLittleEndian(Number, Bytes);
-        Head.append(Bytes, CountLength);
-    };
-    for (const PackedRecords& File : Image.Files) {
-        Append(File.Bytes().size());
-        Append(File.Length());
-    }
+    for (const PackedRecords& File : Image.Files)
+        Head += Count(File.Bytes().size()) + Count(File.Length());
+    for (const RecordFile File : AllRecordFiles) Head += BaseOf(RecordPath(DBPath, File));
     return Head;
 }
 
 // The check sum of what was written.
-QByteArray WriteUnfinishedJournal(const QString& Path, const RecordImage& Image) {
-    HostWriter Writer(Path);
+QByteArray WriteUnfinishedJournal(const QString& DBPath, const RecordImage& Image) {
+    const QByteArray Head = JournalHead(DBPath, Image);
+    HostWriter Writer(UnfinishedPath(DBPath));
     QCryptographicHash Sum(Method);
     const auto Put = [&](const QByteArray& Bytes) {
         Sum.addData(Bytes);
         Writer.Write(Bytes.constData(), Bytes.size());
     };
-    Put(JournalHead(Image));
+    Put(Head);
     for (const PackedRecords& File : Image.Files) Put(File.Bytes());
     Writer.Write(Sum.result().constData(), SumLength);
     Writer.Sync();
@@ -87,7 +106,7 @@ void WriteJournal(const QString& DBPath, const RecordImage& Image,
         SyncDir(DBPath);
     }
     try {
-        const QByteArray Sum = WriteUnfinishedJournal(UnfinishedPath(DBPath), Image);
+        const QByteArray Sum = WriteUnfinishedJournal(DBPath, Image);
         if (BeforeItIsWhole) BeforeItIsWhole(Sum);
         RenameFile(UnfinishedPath(DBPath), JournalPath(DBPath));
     } catch (const Fault&) {
@@ -126,8 +145,15 @@ qint64 CountAt(const QByteArray& Journal, size_t Index) {
                                      static_cast<qsizetype>(Index) * CountLength);
 }
 
+// Where the packed files begin; 0 for what is no journal.
+qsizetype HeadLengthOf(const QByteArray& Journal) {
+    if (Journal.startsWith(FirstMagic)) return BaseStart;
+    return Journal.startsWith(Magic) ? BaseStart + BaseLength * FileCount : 0;
+}
+
 bool IsSound(const QByteArray& Journal) {
-    if (Journal.size() < HeadLength + SumLength || !Journal.startsWith(Magic)) return false;
+    const qsizetype Head = HeadLengthOf(Journal);
+    if (Head == 0 || Journal.size() < Head + SumLength) return false;
     const QByteArrayView Covered = QByteArrayView(Journal).chopped(SumLength);
     QCryptographicHash Sum(Method);
     Sum.addData(Covered);
@@ -142,7 +168,7 @@ QByteArray WholeSum(const QString& DBPath) {
 }
 
 bool Unfold(const QByteArray& Journal, RecordImage& Image) {
-    qsizetype Place = HeadLength;
+    qsizetype Place = HeadLengthOf(Journal);
     const qsizetype End = Journal.size() - SumLength;
     for (size_t I = 0; I < RecordFileCount; ++I) {
         const qint64 Packed = CountAt(Journal, 2 * I);
@@ -154,6 +180,44 @@ bool Unfold(const QByteArray& Journal, RecordImage& Image) {
         Place += Packed;
     }
     return Place == End;
+}
+
+// Whether what is there can be the beginning of what is being written.
+bool IsBeginningOf(const PackedRecords& New, const QString& Path) {
+    HostReader Reader(Path);
+    if (Reader.Length() > New.Length()) return false;
+    bool Same = true;
+    QByteArray There;
+    New.Unpack([&](const char* Data, qint64 Length) {
+        if (!Same) return;
+        There.resize(Length);
+        const qint64 Got = Reader.Read(There.data(), Length);
+        Same = QByteArrayView(There).first(Got) == QByteArrayView(Data, Got);
+    });
+    return Same;
+}
+
+// A carrying out that was cut short leaves files of before, none, and beginnings of the new ones.
+// Anything else has been put there since by somebody else.
+bool FilesWereReplaced(const QString& DBPath, const QByteArray& Journal, const RecordImage& Image) {
+    if (Journal.startsWith(FirstMagic)) return false;
+    for (const RecordFile File : AllRecordFiles) {
+        const QString Path = RecordPath(DBPath, File);
+        const qsizetype Base = BaseStart + BaseLength * static_cast<qsizetype>(File);
+        if (FileExists(Path) && BaseOf(Path) != Journal.sliced(Base, BaseLength) &&
+            !IsBeginningOf(Image[File], Path))
+            return true;
+    }
+    return false;
+}
+
+// With the files that were to come with it.
+QStringList PutJournalAside(const QString& DBPath) {
+    const qint64 Now = QDateTime::currentMSecsSinceEpoch();
+    QStringList Kept;
+    if (HasStagedFiles(DBPath)) Kept << PutAside(StagingFolder(DBPath).chopped(1), Now);
+    Kept << PutAside(JournalPath(DBPath), Now);
+    return Kept;
 }
 
 }  // namespace
@@ -173,6 +237,7 @@ JournalState ReadJournal(const QString& DBPath, RecordImage* Image) {
     const QByteArray Journal = ReadFile(Path);
     RecordImage Content;
     if (!IsSound(Journal) || !Unfold(Journal, Content)) return JournalState::Torn;
+    if (FilesWereReplaced(DBPath, Journal, Content)) return JournalState::Foreign;
     if (Image) *Image = std::move(Content);
     return JournalState::Whole;
 }
@@ -218,17 +283,17 @@ bool CountersAreMissing(const QString& DBPath) {
            ReadJournal(DBPath) != JournalState::Whole;
 }
 
-bool RecoverDatabase(const QString& DBPath) {
+bool RecoverDatabase(const QString& DBPath, QStringList& KeptAside) {
+    RecordImage Image;
+    const JournalState State = ReadJournal(DBPath, &Image);
+    const bool IsDamaged = State == JournalState::Torn && FileExists(JournalPath(DBPath));
+    if (State == JournalState::Foreign || IsDamaged) KeptAside += PutJournalAside(DBPath);
     try {
         SettleCommitted(DBPath);
     } catch (const Fault&) {
         return false;
     }
-    RecordImage Image;
-    const JournalState State = ReadJournal(DBPath, &Image);
-    if (State == JournalState::None) return true;
     if (State == JournalState::Whole) CarryOut(DBPath, Image);
-    DeleteIfPossible(JournalPath(DBPath));
     DeleteIfPossible(UnfinishedPath(DBPath));
     return true;
 }

@@ -4,6 +4,7 @@
 // engine and the command-line companion.
 #pragma once
 
+#include <QStringList>
 #include <array>
 
 #include "db/records/PackedRecords.h"
@@ -26,7 +27,12 @@ RecordSource RecordsInImage(RecordImage Image);
 // The journal of a database directory. DBPath ends in a separator everywhere.
 QString JournalPath(const QString& DBPath);
 
-enum class JournalState { None, Torn, Whole };
+enum class JournalState {
+    None,
+    Torn,
+    Whole,
+    Foreign,  // whole, but the record files have been replaced since it was begun
+};
 // Looks without changing anything; Image, when given, receives the content of a whole one.
 JournalState ReadJournal(const QString& DBPath, RecordImage* Image = nullptr);
 
@@ -55,9 +61,11 @@ bool HoldsDatabase(const QString& DBPath);
 // database: its albums would be overwritten.
 bool CountersAreMissing(const QString& DBPath);
 
-// Carries out a whole journal, with the files that were staged for it, and removes a torn one and
-// what was staged without a journal. False where staged files can neither go to their places nor be
-// noted as waiting: then nothing has changed, and the journal is to be read where it lies.
-bool RecoverDatabase(const QString& DBPath);
+// Carries out a whole journal, with the files that were staged for it, and removes what was staged
+// without a journal and a journal that never came to be whole. One that is damaged, or that does
+// not go with the record files, is kept aside with its files; PutAside gets their paths. False
+// where staged files can neither go to their places nor be noted as waiting: then nothing has
+// changed, and the journal is to be read where it lies.
+bool RecoverDatabase(const QString& DBPath, QStringList& PutAside);
 
 }  // namespace neb
