@@ -21,8 +21,15 @@ void SetPlaying(clsNEBSlide& Record, const SlideInHand& InHand) {
     Record.Repeat = InHand.Repeat();
 }
 
-void DropSound(const QString& File, clsNEBSlide& Record) {
-    DeleteFile(File);
+QString SoundName(std::int32_t SlideID) {
+    return FileStem(SlideID) + QStringLiteral(".wav");
+}
+
+QString SoundFile(const clsDBEngine& theDB, std::int32_t AlbumID, std::int32_t SlideID) {
+    return SlidesFolder(theDB.DBPath(), AlbumID) + SoundName(SlideID);
+}
+
+void ClearSound(clsNEBSlide& Record) {
     Record.SoundTrackLoc.clear();
     Record.Override = Record.Repeat = false;
 }
@@ -98,9 +105,13 @@ Answer<Announcement> SaveSlide(clsDBEngine& theDB, const QObject* Asker, SlideIn
     if (!Entered) return Entered.Refusal();
     const clsNEBSlide* Stored = Album->GetSlide(InHand.SlideID());
     if (!Stored) return Refuse(QStringLiteral("Could not find the slide."));
+    const bool DropsSound = InHand.SoundState() == SlideInHand::Sound::Cleared;
     const clsNEBSlide Record = WithFiles(theDB, Door, InHand, Jpeg, *Stored);
     InHand.Take(InHand.AlbumID(), Record);
-    return Door.SaveSlide(InHand.AlbumID(), Record);
+    Answer<Announcement> Saved = Door.SaveSlide(InHand.AlbumID(), Record);
+    if (DropsSound && Saved && theDB.IsSessionStored())
+        DropFile(SoundFile(theDB, InHand.AlbumID(), Record.SlideID));
+    return Saved;
 }
 
 Answer<Announcement> DeleteSlide(clsDBEngine& theDB, const QObject* Asker, std::int32_t AlbumID,
@@ -113,12 +124,10 @@ Answer<Announcement> DeleteSlide(clsDBEngine& theDB, const QObject* Asker, std::
 }
 
 void StoreSound(const clsDBEngine& theDB, const SlideInHand& InHand, clsNEBSlide& Record) {
-    const QString Name = FileStem(Record.SlideID) + QStringLiteral(".wav");
-    const QString File = SlidesFolder(theDB.DBPath(), InHand.AlbumID()) + Name;
-    if (InHand.SoundState() == SlideInHand::Sound::Cleared) return DropSound(File, Record);
+    if (InHand.SoundState() == SlideInHand::Sound::Cleared) return ClearSound(Record);
     if (InHand.SoundState() == SlideInHand::Sound::Recorded) {
-        ReplaceFile(File, InHand.Recording());
-        Record.SoundTrackLoc = Name;
+        ReplaceFile(SoundFile(theDB, InHand.AlbumID(), Record.SlideID), InHand.Recording());
+        Record.SoundTrackLoc = SoundName(Record.SlideID);
     } else if (!InHand.HasSound()) {
         return;
     }

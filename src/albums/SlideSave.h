@@ -27,9 +27,9 @@ Answer<Announcement> SaveSlide(clsDBEngine& theDB, const QObject* Asker, SlideIn
 Answer<Announcement> DeleteSlide(clsDBEngine& theDB, const QObject* Asker, std::int32_t AlbumID,
                                  std::int32_t SlideID);
 
-// Takes the sound away, or stores the recording, or sets how the sound that is there is played;
-// Record, not yet in the album, says so afterwards. Throws Fault when a file cannot be written or
-// deleted: record and old sound are as they were.
+// Clears the sound of Record, or stores the recording, or sets how the sound that is there is played;
+// Record, not yet in the album, says so afterwards. The file of a cleared sound is for SaveSlide to
+// delete. Throws Fault when a file cannot be written: record and old sound are as they were.
 void StoreSound(const clsDBEngine& theDB, const SlideInHand& InHand, clsNEBSlide& Record);
 
 // The entry of the list to go to; entry 0 is for a new slide, Last is the last one. Both walk

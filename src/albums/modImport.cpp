@@ -29,8 +29,8 @@ Answer<Announcement> NewAlbum(Changes& Door, clsDBEngine& theDB, const QString& 
 }
 
 void DropAlbum(clsDBEngine& theDB, std::int32_t AlbumID) {
-    DeleteTree(AlbumFolder(theDB.DBPath(), AlbumID));
     if (auto Deleted = Changes(theDB).DeleteAlbum(AlbumID)) Deleted->Never();
+    if (theDB.IsSessionStored()) DeleteTree(AlbumFolder(theDB.DBPath(), AlbumID));
 }
 
 void StoreFile(const QString& Path, const QByteArray& Bytes) {

@@ -119,7 +119,8 @@ TrackPlan PlanFor(const ShowContent& Content, std::int32_t SlideShowID, const cl
 }
 
 // From here on nothing waits: the show and its files change together.
-Answer<Announcement> Store(ShowContent& Content, TrackCopies& Files, Changes Door) {
+Answer<Announcement> Store(ShowContent& Content, TrackCopies& Files, clsDBEngine& theDB,
+                           Changes Door) {
     Files.PutInPlace();
     ShowContent Placed = Content;
     for (size_t Row = 0; Row < Placed.Tracks.size(); ++Row)
@@ -129,7 +130,7 @@ Answer<Announcement> Store(ShowContent& Content, TrackCopies& Files, Changes Doo
     Files.Keep();
     Content = std::move(Placed);
     Content.SlideShowID = Saved->What().SlideShowID;
-    Files.DropUnused();
+    if (theDB.IsSessionStored()) Files.DropUnused();
     return Saved;
 }
 
@@ -163,7 +164,7 @@ Answer<Announcement> WriteShow(ShowContent& Content, clsDBEngine& theDB, const Y
             if (NumberOf(Content, theDB)) throw;
         }
         Answer<std::int32_t> Now = NumberOf(Content, theDB);
-        if (Now && *Now == *Number) return Store(Content, Files, Changes(theDB, Asker));
+        if (Now && *Now == *Number) return Store(Content, Files, theDB, Changes(theDB, Asker));
     }
 }
 

@@ -1,7 +1,6 @@
 #include "db/Changes.h"
 
 #include "db/clsDBEngine.h"
-#include "support/Fault.h"
 
 namespace neb {
 namespace {
@@ -51,20 +50,10 @@ void Announcement::Now() {
     if (Listeners && Listeners->Told) Listeners->Told(mWhat, mAsker);
 }
 
-Announcement Changes::Noted(Change What) {
-    mDB.NoteInSession(What);
+Announcement Changes::Noted(Change What, With Files) {
+    mDB.NoteInSession(What, Files == With::Files);
     if (mDB.Listeners.Noted) mDB.Listeners.Noted(What);
     return {mTogether ? nullptr : &mDB.Listeners, mAsker, What};
-}
-
-// Files go once no record names them any more, after a kill as well.
-bool Changes::IsStored() {
-    try {
-        mDB.StoreSession();
-        return true;
-    } catch (const Fault&) {
-        return false;  // the files stay, which harms nobody
-    }
 }
 
 Announcement Changes::AsOne(Change::Kind What, std::int32_t AlbumID) {
@@ -83,12 +72,12 @@ Answer<Announcement> Changes::RenameAlbum(std::int32_t AlbumID, const QString& A
     if (!mDB.GetAlbum(AlbumID)) return Missing(NoAlbum);
     const Answer<> Saved = mDB.SaveAlbum(AlbumID, AlbumName);
     if (!Saved) return Saved.Refusal();
-    return Noted({Change::Kind::AlbumRenamed, AlbumID});
+    return Noted({Change::Kind::AlbumRenamed, AlbumID}, With::Nothing);
 }
 
 Answer<Announcement> Changes::DeleteAlbum(std::int32_t AlbumID) {
     mDB.DeleteAlbum(AlbumID);
-    return Noted({Change::Kind::AlbumDeleted, AlbumID});
+    return Noted({Change::Kind::AlbumDeleted, AlbumID}, With::Nothing);
 }
 
 Answer<Announcement> Changes::SaveSlide(std::int32_t AlbumID, const clsNEBSlide& Slide) {
@@ -112,15 +101,15 @@ Answer<Announcement> Changes::SaveCaption(std::int32_t AlbumID, std::int32_t Sli
 Announcement Changes::SaveCaption(std::int32_t AlbumID, clsNEBSlide& Slide,
                                   const QString& SlideText) {
     Slide.SlideText = SlideText;
-    return Noted({Change::Kind::SlideSaved, AlbumID, Slide.SlideID});
+    return Noted({Change::Kind::SlideSaved, AlbumID, Slide.SlideID}, With::Nothing);
 }
 
 Answer<Announcement> Changes::DeleteSlide(std::int32_t AlbumID, std::int32_t SlideID) {
     clsNEBAlbum* Album = mDB.GetAlbum(AlbumID);
     if (!Album) return Missing(NoAlbum);
     const bool WasThere = Album->TakeSlide(SlideID);
-    Announcement Deleted = Noted({Change::Kind::SlideDeleted, AlbumID, SlideID});
-    if (WasThere && IsStored()) Album->DeleteSlideFiles(SlideID, mDB);
+    Announcement Deleted = Noted({Change::Kind::SlideDeleted, AlbumID, SlideID}, With::Nothing);
+    if (WasThere && mDB.IsSessionStored()) Album->DeleteSlideFiles(SlideID, mDB);
     return Deleted;
 }
 
@@ -161,8 +150,9 @@ Answer<Announcement> Changes::DeleteShow(std::int32_t AlbumID, std::int32_t Slid
     clsNEBAlbum* Album = mDB.GetAlbum(AlbumID);
     if (!Album) return Missing(NoAlbum);
     const bool WasThere = Album->TakeSlideShow(SlideShowID);
-    Announcement Deleted = Noted({Change::Kind::ShowDeleted, AlbumID, 0, SlideShowID});
-    if (WasThere && IsStored()) Album->DeleteSlideShowFiles(SlideShowID, mDB);
+    Announcement Deleted =
+        Noted({Change::Kind::ShowDeleted, AlbumID, 0, SlideShowID}, With::Nothing);
+    if (WasThere && mDB.IsSessionStored()) Album->DeleteSlideShowFiles(SlideShowID, mDB);
     return Deleted;
 }
 

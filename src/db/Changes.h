@@ -86,8 +86,8 @@ class Changes {
     Announcement AsOne(Change::Kind What, std::int32_t AlbumID);
 
   private:
-    Announcement Noted(Change What);
-    bool IsStored();
+    enum class With { Files, Nothing };
+    Announcement Noted(Change What, With Files = With::Files);
 
     clsDBEngine& mDB;
     const QObject* mAsker;

@@ -6,6 +6,7 @@
 #include "db/modLoadRecords.h"
 #include "db/modNameIndex.h"
 #include "db/records/RecordCodec.h"
+#include "support/Fault.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
 
@@ -53,12 +54,17 @@ void clsDBEngine::KeepSession() {
     mSession = std::make_unique<SessionJournal>(mDBPath, mLeft);
 }
 
-void clsDBEngine::NoteInSession(const Change& What) {
-    if (mSession) mSession->Add(EntryOf(*this, What));
+void clsDBEngine::NoteInSession(const Change& What, bool WithFiles) {
+    if (mSession) mSession->Add(EntryOf(*this, What), WithFiles);
 }
 
-void clsDBEngine::StoreSession() {
-    if (mSession) mSession->Flush();
+bool clsDBEngine::IsSessionStored() {
+    try {
+        if (mSession) mSession->Flush();
+        return true;
+    } catch (const Fault&) {
+        return false;
+    }
 }
 
 void clsDBEngine::LoadRecords(Recovery How) {

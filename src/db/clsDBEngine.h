@@ -50,10 +50,12 @@ class clsDBEngine {
 
     // From here on what db/Changes does is on the disk within moments, until FinalizeDB writes it.
     void KeepSession();
-    // For db/Changes: a change was made; and all of them are on the disk. Without a session they do
-    // nothing. The second throws Fault.
-    void NoteInSession(const Change& What);
-    void StoreSession();
+    // For db/Changes: a change was made, for which files were written perhaps; they go to the disk
+    // before it does.
+    void NoteInSession(const Change& What, bool WithFiles);
+    // Waits until all changes are on the disk, before files go that the records of before name.
+    // False where that fails: then the files are to stay. Without a session it is true.
+    bool IsSessionStored();
 
     // Whether the next numbers are above all that are there: else new pictures and sounds would
     // take the places of old ones.

@@ -2,6 +2,8 @@
 #include "program/frmNEBSlideShow.h"
 
 #include <QCloseEvent>
+#include <QDateTime>
+#include <QLocale>
 #include <QScreen>
 #include <QStatusBar>
 #include <functional>
@@ -20,6 +22,7 @@
 #include "support/Services.h"
 #include "support/files/modHostFiles.h"
 #include "windows/frame/modBroadcast.h"
+#include "windows/frame/modNotice.h"
 #include "windows/lists/clsImageBuffer.h"
 
 namespace neb {
@@ -39,6 +42,14 @@ void ProbeDatabaseFolder() {
 clsFileSystem* TheFileSystem() {
     static clsFileSystem Files;
     return &Files;
+}
+
+QString TextOfBroughtBack(const LeftBehind& Found) {
+    const QDateTime When = QDateTime::fromMSecsSinceEpoch(Found.When);
+    const QString Date = QLocale(QLocale::English).toString(When, QStringLiteral("d MMMM, HH:mm"));
+    return Found.Changes == 1
+               ? QObject::tr("1 change of %1 was brought back.").arg(Date)
+               : QObject::tr("%1 changes of %2 were brought back.").arg(Found.Changes).arg(Date);
 }
 
 void IgnoringFaults(const std::function<void()>& Action) {
@@ -90,6 +101,21 @@ void frmNEBSlideShow::Form_Load(const CommandLine& Line) {
     FileSystem = TheFileSystem();
     CreateImageBuffer();
     mStage = Stage::Loaded;
+    TellLeftBehind();
+}
+
+// What was brought back is as the user left it: it needs no answer. What could not be is somewhere
+// else, and he must know where.
+void frmNEBSlideShow::TellLeftBehind() {
+    const LeftBehind& Found = mEngine->Found();
+    if (Found.Changes > 0) ShowNotice(TextOfBroughtBack(Found));
+    if (Found.PutAside.isEmpty()) return;
+    SetScreenPointer(Pointer::Default);
+    MsgBox(tr("The albums are not those that were changed when the program was last interrupted: "
+              "they have been replaced meanwhile, by a backup perhaps, or are damaged. They are "
+              "opened as they lie. The changes of then are kept here:\n\n%1")
+               .arg(Found.PutAside.join(u'\n')),
+           tr("Interrupted Changes Put Aside"), BoxIcon::Information);
 }
 
 void frmNEBSlideShow::LoadDatabase() {
@@ -103,6 +129,7 @@ void frmNEBSlideShow::LoadDatabase() {
     mEngine->SetDBPath(DBPath());
     mEngine->SetProgramPath(AppPath());
     mEngine->InitializeDB();
+    if (MayWriteDatabase(DBPath())) mEngine->KeepSession();
     DBEngine = mEngine.get();
     BroadcastChangesOf(*DBEngine);
     Log("Completed Initializing and Buffering Database");

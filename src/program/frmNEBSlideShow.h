@@ -54,6 +54,7 @@ class frmNEBSlideShow : public QMainWindow {
     void LoadDatabase();
     void CheckReadOnly();
     void MakeChildDirs();
+    void TellLeftBehind();
     void CreateImageBuffer();
     bool WriteDatabase();
 

@@ -205,6 +205,7 @@ int RunImport(const QStringList& Arguments, ToolIO& IO) {
     clsDBEngine Engine;
     Engine.SetDBPath(Order->Dir);
     Engine.InitializeDB();
+    Engine.KeepSession();
     if (CountersAreMissing(Order->Dir) || !Engine.CountersAreSound())
         return Fail(IO, QStringLiteral("NextIDs.dat in %1 is missing or damaged, so that new "
                                        "pictures might replace old ones; see nebctl check.")

@@ -93,7 +93,7 @@ TEST_F(SessionTest, WhatIsChangedAfterAnEndIsKeptToo) {
     Changes(*Engine).MakeAlbum(u"Garden"_s);
     Engine->FinalizeDB();
     Changes(*Engine).MakeAlbum(u"Park"_s);
-    Engine->StoreSession();
+    EXPECT_TRUE(Engine->IsSessionStored());
     const auto Next = OpenEngine(Dir.Path(), Recovery::InMemory);
     EXPECT_EQ(ContentOf(*Engine), ContentOf(*Next));
 }
@@ -176,7 +176,7 @@ TEST_F(SessionTest, AnEndThatFailsAtAnyStepLosesNothing) {
         {
             const auto Engine = Begin();
             Changes(*Engine).RenameAlbum(1, u"Sea %1"_s.arg(Failing));
-            Engine->StoreSession();
+            EXPECT_TRUE(Engine->IsSessionStored());
             Held = ContentOf(*Engine);
             SetHostWatcher([&](HostStep, const QString&, qint64&) {
                 if (++Steps >= Failing) throw Fault(u"The medium has gone."_s);

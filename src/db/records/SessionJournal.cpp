@@ -12,6 +12,7 @@
 #include "db/records/modJournal.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
+#include "support/files/modHostFilesCopy.h"
 #include "support/modFUFL.h"
 
 namespace neb {
@@ -125,6 +126,11 @@ QByteArray SumOfRecords(const QString& DBPath) {
 // The thread works until Ends, batch by batch: what is added while one is flushed goes with the
 // next.
 struct SessionJournal::State {
+    struct Item {
+        QByteArray Bytes;  // the entry with its head
+        bool WithFiles;
+    };
+
     State(const QString& Path, const std::optional<SessionEnd>& From)
         : DBPath(Path), Good(From.value_or(SessionEnd())) {}
 
@@ -133,7 +139,7 @@ struct SessionJournal::State {
         for (;;) {
             Changed.wait(Lock, [this] { return Ends || (!Waiting.isEmpty() && !Problem); });
             if (Waiting.isEmpty() || Problem) return;
-            const QList<QByteArray> Batch = Waiting;
+            const QList<Item> Batch = Waiting;
             Lock.unlock();
             std::optional<Fault> Failed = Store(Batch);
             Lock.lock();
@@ -142,11 +148,12 @@ struct SessionJournal::State {
             Changed.notify_all();
         }
     }
-    std::optional<Fault> Store(const QList<QByteArray>& Batch) {
+    std::optional<Fault> Store(const QList<Item>& Batch) {
         try {
             if (Good.Length > 0 && !FileExists(SessionJournalPath(DBPath))) Forget();
             if (!Writer) Open();
-            for (const QByteArray& Entry : Batch) Put(Entry);
+            if (std::ranges::any_of(Batch, &Item::WithFiles)) SyncVolume(DBPath);
+            for (const Item& Entry : Batch) Put(Entry.Bytes);
             Writer->Sync();
             Good = Written;
             return std::nullopt;
@@ -189,7 +196,7 @@ struct SessionJournal::State {
     const QString DBPath;
     std::mutex Mutex;
     std::condition_variable Changed;
-    QList<QByteArray> Waiting;  // entries with their heads
+    QList<Item> Waiting;
     std::optional<Fault> Problem;
     bool Ends = false;
     // of the thread, while it stores
@@ -211,10 +218,11 @@ SessionJournal::~SessionJournal() {
     if (mState->Thread.joinable()) mState->Thread.join();
 }
 
-void SessionJournal::Add(const QByteArray& Entry) {
+void SessionJournal::Add(const QByteArray& Entry, bool WithFiles) {
     const std::lock_guard Lock(mState->Mutex);
-    mState->Waiting.append(BytesOf(static_cast<quint32>(Entry.size())) +
-                           BytesOf<qint64>(QDateTime::currentMSecsSinceEpoch()) + Entry);
+    const QByteArray Bytes = BytesOf(static_cast<quint32>(Entry.size())) +
+                             BytesOf<qint64>(QDateTime::currentMSecsSinceEpoch()) + Entry;
+    mState->Waiting.append({Bytes, WithFiles});
     mState->Problem.reset();
     if (!mState->Thread.joinable()) mState->Thread = std::thread([this] { mState->Run(); });
     mState->Changed.notify_all();

@@ -37,7 +37,8 @@ class SessionJournal {
     SessionJournal(const SessionJournal&) = delete;
     SessionJournal& operator=(const SessionJournal&) = delete;
 
-    void Add(const QByteArray& Entry);
+    // WithFiles: what was written to the database's files before is on the disk before the entry.
+    void Add(const QByteArray& Entry, bool WithFiles = false);
     // Returns when everything added is on the disk. Throws Fault when it could not be written; it
     // is tried again with the next entry.
     void Flush();

@@ -36,7 +36,7 @@ void frmAlbumDelete::Delete() {
     if (!Sure) return;
     Answer<Announcement> Deleted = Changes(*DBEngine, this).DeleteAlbum(*AlbumID);
     if (!Tell(Deleted)) return;
-    DeleteFiles(*AlbumID);
+    if (DBEngine->IsSessionStored()) DeleteFiles(*AlbumID);
     NoteDone();
     Deleted->Now();
     Unload();

@@ -346,6 +346,8 @@ TEST_F(SlideSaveSound, AClearedSoundGoesWithItsSettings) {
     InHand.SetPlaying(true, true);
     InHand.ClearSound();
     const clsNEBSlide Record = Stored();
+    EXPECT_TRUE(FileExists(File())) << "the record goes first";
+    EXPECT_TRUE(SaveSlide(Engine, nullptr, InHand, {}));
     EXPECT_FALSE(FileExists(File()));
     EXPECT_EQ("", Record.SoundTrackLoc.toStdString());
     EXPECT_FALSE(Record.Override);
