@@ -35,6 +35,10 @@ void clsDBEngine::SetProgramPath(const QString& Path) {
 
 clsDBEngine::clsDBEngine() = default;
 
+clsDBEngine::clsDBEngine(clsDBEngine&&) noexcept = default;
+
+clsDBEngine& clsDBEngine::operator=(clsDBEngine&&) noexcept = default;
+
 clsDBEngine::~clsDBEngine() = default;
 
 void clsDBEngine::InitializeDB(Recovery How) {

@@ -23,6 +23,8 @@ enum class Recovery {
 class clsDBEngine {
   public:
     clsDBEngine();
+    clsDBEngine(clsDBEngine&&) noexcept;
+    clsDBEngine& operator=(clsDBEngine&&) noexcept;
     ~clsDBEngine();
 
     std::int32_t NextAlbumID = 0;
