@@ -13,6 +13,16 @@
 namespace neb {
 namespace {
 
+// Whether a write of these records waits for the next start.
+bool IsInJournal(const QString& DBPath, const RecordImage& Records) {
+    RecordImage There;
+    return ReadJournal(DBPath, &There) == JournalState::Whole &&
+           std::equal(There.Files.begin(), There.Files.end(), Records.Files.begin(),
+                      [](const PackedRecords& One, const PackedRecords& Other) {
+                          return One.Bytes() == Other.Bytes();
+                      });
+}
+
 constexpr qsizetype MaxAlbumName = 80;
 constexpr std::int32_t MostNumbers = 2'000'000'000;  // behind it they would go round
 
@@ -73,7 +83,7 @@ bool clsDBEngine::IsSessionStored() {
 
 void clsDBEngine::LoadRecords(Recovery How) {
     if (How == Recovery::CarryOut && MayWriteDatabase(mDBPath) &&
-        RecoverDatabase(mDBPath, mFound.PutAside))
+        RecoverDatabase(mDBPath, mFound.PutAside, mFound.NotKept))
         return LoadFrom(RecordsInDirectory(mDBPath));
     RecordImage Image;
     const bool Unfinished = ReadJournal(mDBPath, &Image) == JournalState::Whole;
@@ -99,10 +109,27 @@ void clsDBEngine::LoadFrom(const RecordSource& Source) {
     SortAlbums();
 }
 
-void clsDBEngine::FinalizeDB() {
+std::optional<Fault> clsDBEngine::FinalizeDB() {
     if (mSession) mSession->Pause();
-    WriteDatabase(mDBPath, BuildImage(*this));
+    std::optional<Fault> NotKept = WriteDatabase(mDBPath, BuildImage(*this));
     if (mSession) mSession->Restart();
+    return NotKept;
+}
+
+void clsDBEngine::ReplaceBy(const RecordImage& Records) {
+    if (mSession) mSession->Pause();
+    std::optional<Fault> Unfinished;
+    try {
+        WriteDatabase(mDBPath, Records);
+    } catch (const Fault& Problem) {
+        // From the whole journal on the next start has them, so the program has them, too.
+        if (!IsInJournal(mDBPath, Records)) throw;
+        Unfinished = Problem;
+    }
+    AlbumIndex.clear();
+    LoadFrom(RecordsInImage(Records));
+    if (mSession) mSession->Restart();
+    if (Unfinished) throw Fault(*Unfinished);
 }
 
 Answer<> clsDBEngine::CheckAlbumName(std::int32_t AlbumID, const QString& AlbumName) const {

@@ -11,8 +11,11 @@
 #include "db/modTables.h"
 #include "db/records/SessionJournal.h"
 #include "support/Answer.h"
+#include "support/Fault.h"
 
 namespace neb {
+
+struct RecordImage;
 
 // What InitializeDB does about the journal of a write that did not come to its end.
 enum class Recovery {
@@ -47,8 +50,13 @@ class clsDBEngine {
     const LeftBehind& Found() const { return mFound; }
     // The same from any source of record files.
     void LoadFrom(const RecordSource& Source);
-    // Leaves either the old or the new database on the disk, whatever happens (modJournal.h).
-    void FinalizeDB();
+    // Leaves either the old or the new database on the disk, whatever happens (modJournal.h). Why
+    // the old one could not be kept among the earlier states, where that was to be done.
+    std::optional<Fault> FinalizeDB();
+    // Other records in the place of all that is held, on the disk and here, or nothing changed; but
+    // a Fault behind which these stand here means that the next start has to finish the writing.
+    // Whatever points to an album, slide or show is void afterwards. modRestore asks for it.
+    void ReplaceBy(const RecordImage& Records);
 
     // From here on what db/Changes does is on the disk within moments, until FinalizeDB writes it.
     void KeepSession();

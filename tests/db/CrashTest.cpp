@@ -1,6 +1,7 @@
 // The program ends by a kill, or the disk is full, at every single step of a write: at the next
 // start the database is wholly the old one or wholly the new one.
 #include <gtest/gtest.h>
+#include <QDir>
 #include <QFile>
 #include <QRegularExpression>
 
@@ -358,8 +359,8 @@ TEST(Journal, TheRecordFilesAreTouchedInTheirOrderAfterItIsOnTheDisk) {
     const auto Engine = TheScene.Changed(Dir.Path());
     QStringList Steps;
     SetHostWatcher([&](HostStep Step, const QString& Path, qint64&) {
-        static const char* const Names[] = {"write",  "sync",   "syncdir",
-                                            "delete", "rename", "mkdir"};
+        static const char* const Names[] = {"write",  "sync", "syncdir", "delete",
+                                            "rename", "link", "mkdir"};
         Steps << QLatin1String(Names[static_cast<int>(Step)]) + u' ' + Path.mid(Dir.Path().size());
     });
     Engine->FinalizeDB();
@@ -367,6 +368,9 @@ TEST(Journal, TheRecordFilesAreTouchedInTheirOrderAfterItIsOnTheDisk) {
     QStringList Expected = {"write Temp/Journal/Records.journal.new",
                             "sync Temp/Journal/Records.journal.new",
                             "rename Temp/Journal/Records.journal", "syncdir Temp/Journal/"};
+    const QString Kept = u"Backups/"_s + QDir(Dir / "Backups").entryList({u"*.nebgen"_s}).value(0);
+    Expected << u"mkdir Backups/"_s << u"syncdir "_s << u"write "_s + Kept + u".new"_s
+             << u"sync "_s + Kept + u".new"_s << u"rename "_s + Kept << u"syncdir Backups/"_s;
     for (const char* Name : {"Properties", "EffectStats", "NextIDs"})
         for (const char* Step : {"delete ", "write ", "sync "})
             Expected << QLatin1String(Step) + QLatin1String(Name) + u".dat"_s;

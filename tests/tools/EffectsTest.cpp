@@ -35,12 +35,12 @@ Outcome Effects(const QStringList& Words, bool Terminal = false) {
 }
 
 // A new database on the disk, whose program lies in Program.
-clsDBEngine EngineBeside(const QString& Program, const QString& Database) {
+std::unique_ptr<clsDBEngine> EngineBeside(const QString& Program, const QString& Database) {
     WriteFile(Database + u"NextIDs.dat"_s, QByteArray::fromHex("010000000100000001000000"));
-    clsDBEngine Engine;
-    Engine.SetDBPath(Database);
-    Engine.SetProgramPath(Program);
-    Engine.InitializeDB();
+    auto Engine = std::make_unique<clsDBEngine>();
+    Engine->SetDBPath(Database);
+    Engine->SetProgramPath(Program);
+    Engine->InitializeDB();
     return Engine;
 }
 
@@ -81,7 +81,7 @@ TEST_F(NebctlEffectsTest, TheListHasEveryNumberOnceWithTheLevelOfANewDatabase) {
     EXPECT_EQ(Result.Code, ExitDone) << Result.Err.toStdString();
     const QJsonArray All = QJsonDocument::fromJson(Result.Out.toUtf8()).array();
     ASSERT_EQ(All.size(), EffectCount());
-    const auto Levels = LevelsOf(EngineBeside(QCoreApplication::applicationDirPath(), Dir.Path()));
+    const auto Levels = LevelsOf(*EngineBeside(QCoreApplication::applicationDirPath(), Dir.Path()));
     for (int N = 1; N <= EffectCount(); ++N) {
         const QJsonObject Row = All[N - 1].toObject();
         EXPECT_EQ(Row["Number"].toInt(), N);
@@ -100,20 +100,20 @@ TEST_F(NebctlEffectsTest, TheFileOfTimesIsReadByTheEngineToTheFourthDecimal) {
     ASSERT_EQ(Lines.size(), EffectCount() + 2);
     EXPECT_TRUE(Lines[0].contains(u"64x36"_s));
     EXPECT_TRUE(Lines.last().isEmpty());
-    const clsDBEngine Engine = EngineBeside(Dir.Path(), Dir.Path());
-    ASSERT_EQ(Engine.EffectStats.size(), std::size_t(EffectCount()));
+    const auto Engine = EngineBeside(Dir.Path(), Dir.Path());
+    ASSERT_EQ(Engine->EffectStats.size(), std::size_t(EffectCount()));
     for (int N = 1; N <= EffectCount(); ++N) {
-        const EffectStatRecord& Row = Engine.EffectStats[static_cast<std::size_t>(N - 1)];
+        const EffectStatRecord& Row = Engine->EffectStats[static_cast<std::size_t>(N - 1)];
         EXPECT_EQ(Row.Effect, N);
         EXPECT_EQ(Lines[N], u"%1, %2"_s.arg(N).arg(Row.AvgTime, 0, 'f', 4));
     }
 }
 
 TEST_F(NebctlEffectsTest, TheTimesBesideTheProgramClassTheEffectsOfTheSpeedTest) {
-    const clsDBEngine Engine = EngineBeside(QCoreApplication::applicationDirPath(), Dir.Path());
-    ASSERT_EQ(Engine.EffectStats.size(), std::size_t(EffectCount()));
-    for (const EffectStatRecord& Row : Engine.EffectStats) EXPECT_GT(Row.AvgTime, 0) << Row.Effect;
-    const auto Levels = LevelsOf(Engine);
+    const auto Engine = EngineBeside(QCoreApplication::applicationDirPath(), Dir.Path());
+    ASSERT_EQ(Engine->EffectStats.size(), std::size_t(EffectCount()));
+    for (const EffectStatRecord& Row : Engine->EffectStats) EXPECT_GT(Row.AvgTime, 0) << Row.Effect;
+    const auto Levels = LevelsOf(*Engine);
     EXPECT_EQ(Levels[118], 3);
     EXPECT_EQ(Levels[121], 3);
     EXPECT_EQ(Levels[56], 2);

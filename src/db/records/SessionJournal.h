@@ -91,6 +91,7 @@ struct LeftBehind {
     int Changes = 0;       // that were brought back
     qint64 When = 0;       // the last of them; milliseconds since 1970, UTC
     QStringList PutAside;  // files of changes that do not go with these records
+    QString NotKept;       // why the records of before are no earlier state now; empty: they are
 };
 
 }  // namespace neb

@@ -6,6 +6,7 @@
 #include <functional>
 #include <span>
 
+#include "db/records/Generations.h"
 #include "db/records/KeptAside.h"
 #include "db/records/SessionJournal.h"
 #include "support/Fault.h"
@@ -16,8 +17,9 @@ namespace {
 
 // Magic; for each file the packed and the unpacked length; for each file the length and the check
 // sum of the one that it takes the place of; the packed files; the check sum of all that. Journals
-// of the first kind do not know which files they replace.
-constexpr QByteArrayView Magic = "NEBJRNL2", FirstMagic = "NEBJRNL1";
+// of the first kind do not know which files they replace; those of the half kind replace what a
+// write has left that came to no end, which is no state to go back to.
+constexpr QByteArrayView Magic = "NEBJRNL2", FirstMagic = "NEBJRNL1", HalfMagic = "NEBJRNL3";
 constexpr qsizetype CountLength = 8;
 constexpr qsizetype FileCount = static_cast<qsizetype>(RecordFileCount);
 constexpr qsizetype BaseStart = 8 + 2 * CountLength * FileCount;
@@ -71,8 +73,48 @@ QByteArray BaseOf(const QString& Path) {
     return Count(Reader.Length()) + Sum.result();
 }
 
+// Where the packed files begin; 0 for what is no journal.
+qsizetype HeadLengthOf(const QByteArray& Journal) {
+    if (Journal.startsWith(FirstMagic)) return BaseStart;
+    const bool IsBound = Journal.startsWith(Magic) || Journal.startsWith(HalfMagic);
+    return IsBound ? BaseStart + BaseLength * FileCount : 0;
+}
+
+bool IsSound(const QByteArray& Journal) {
+    const qsizetype Head = HeadLengthOf(Journal);
+    if (Head == 0 || Journal.size() < Head + SumLength) return false;
+    const QByteArrayView Covered = QByteArrayView(Journal).chopped(SumLength);
+    QCryptographicHash Sum(Method);
+    Sum.addData(Covered);
+    return Sum.result() == QByteArrayView(Journal).last(SumLength);
+}
+
+QByteArray BaseIn(const QByteArray& Journal, RecordFile File) {
+    return Journal.sliced(BaseStart + BaseLength * static_cast<qsizetype>(File), BaseLength);
+}
+
+// Whether the record files are still all those that a sound journal takes the place of, and were
+// whole then.
+bool IsBoundToAll(const QString& DBPath, const QByteArray& Journal) {
+    return Journal.startsWith(Magic) &&
+           std::all_of(AllRecordFiles.begin(), AllRecordFiles.end(), [&](RecordFile File) {
+               return BaseOf(RecordPath(DBPath, File)) == BaseIn(Journal, File);
+           });
+}
+
+// Half: left by a write whose journal is still there.
+enum class FilesThere { Whole, Half };
+
+FilesThere LookAtFiles(const QString& DBPath) {
+    if (!FileExists(JournalPath(DBPath))) return FilesThere::Whole;
+    const QByteArray Journal = ReadFile(JournalPath(DBPath));
+    const bool Half = IsSound(Journal) && !IsBoundToAll(DBPath, Journal);
+    return Half ? FilesThere::Half : FilesThere::Whole;
+}
+
 QByteArray JournalHead(const QString& DBPath, const RecordImage& Image) {
-    QByteArray Head = Magic.toByteArray();
+    const bool OverHalf = LookAtFiles(DBPath) == FilesThere::Half;
+    QByteArray Head = (OverHalf ? HalfMagic : Magic).toByteArray();
     for (const PackedRecords& File : Image.Files)
         Head += Count(File.Bytes().size()) + Count(File.Length());
     for (const RecordFile File : AllRecordFiles) Head += BaseOf(RecordPath(DBPath, File));
@@ -130,7 +172,11 @@ void WriteFiles(const QString& DBPath, const RecordImage& Image,
     for (const auto& Writer : Writers) Writer->Close();
 }
 
-void CarryOut(const QString& DBPath, const RecordImage& Image) {
+// Why the state before could not be kept, if it could not: the journal holds the new one, which
+// must not wait for that.
+std::optional<Fault> CarryOut(const QString& DBPath, const RecordImage& Image, FilesThere Are) {
+    std::optional<Fault> NotKept;
+    if (Are == FilesThere::Whole) NotKept = KeepGenerationBefore(DBPath, Image);
     for (const RecordFile File :
          {RecordFile::Properties, RecordFile::EffectStats, RecordFile::NextIDs})
         WriteFiles(DBPath, Image, std::span(&File, 1));
@@ -138,26 +184,13 @@ void CarryOut(const QString& DBPath, const RecordImage& Image) {
     SyncDir(DBPath);
     DeleteFile(JournalPath(DBPath));
     SyncDir(JournalFolder(DBPath));
+    ThinOutGenerations(DBPath);
+    return NotKept;
 }
 
 qint64 CountAt(const QByteArray& Journal, size_t Index) {
     return qFromLittleEndian<qint64>(Journal.constData() + Magic.size() +
                                      static_cast<qsizetype>(Index) * CountLength);
-}
-
-// Where the packed files begin; 0 for what is no journal.
-qsizetype HeadLengthOf(const QByteArray& Journal) {
-    if (Journal.startsWith(FirstMagic)) return BaseStart;
-    return Journal.startsWith(Magic) ? BaseStart + BaseLength * FileCount : 0;
-}
-
-bool IsSound(const QByteArray& Journal) {
-    const qsizetype Head = HeadLengthOf(Journal);
-    if (Head == 0 || Journal.size() < Head + SumLength) return false;
-    const QByteArrayView Covered = QByteArrayView(Journal).chopped(SumLength);
-    QCryptographicHash Sum(Method);
-    Sum.addData(Covered);
-    return Sum.result() == QByteArrayView(Journal).last(SumLength);
 }
 
 // Of a whole journal; empty when there is none.
@@ -203,8 +236,7 @@ bool FilesWereReplaced(const QString& DBPath, const QByteArray& Journal, const R
     if (Journal.startsWith(FirstMagic)) return false;
     for (const RecordFile File : AllRecordFiles) {
         const QString Path = RecordPath(DBPath, File);
-        const qsizetype Base = BaseStart + BaseLength * static_cast<qsizetype>(File);
-        if (FileExists(Path) && BaseOf(Path) != Journal.sliced(Base, BaseLength) &&
+        if (FileExists(Path) && BaseOf(Path) != BaseIn(Journal, File) &&
             !IsBeginningOf(Image[File], Path))
             return true;
     }
@@ -242,13 +274,14 @@ JournalState ReadJournal(const QString& DBPath, RecordImage* Image) {
     return JournalState::Whole;
 }
 
-void WriteDatabase(const QString& DBPath, const RecordImage& Image) {
+std::optional<Fault> WriteDatabase(const QString& DBPath, const RecordImage& Image) {
     if (!FolderExists(DBPath))
         throw Fault(QStringLiteral("The database directory is not there."), DBPath);
     SettleCommitted(DBPath);  // before the journal that it goes with is replaced
+    const FilesThere Are = LookAtFiles(DBPath);
     WriteJournal(DBPath, Image);
     DropSessionJournal(DBPath);  // the records that are being written have all of it
-    CarryOut(DBPath, Image);
+    return CarryOut(DBPath, Image, Are);
 }
 
 void CommitDatabase(const QString& DBPath, const RecordImage& Image, const StagedChange& Files) {
@@ -283,7 +316,7 @@ bool CountersAreMissing(const QString& DBPath) {
            ReadJournal(DBPath) != JournalState::Whole;
 }
 
-bool RecoverDatabase(const QString& DBPath, QStringList& KeptAside) {
+bool RecoverDatabase(const QString& DBPath, QStringList& KeptAside, QString& NotKept) {
     RecordImage Image;
     const JournalState State = ReadJournal(DBPath, &Image);
     const bool IsDamaged = State == JournalState::Torn && FileExists(JournalPath(DBPath));
@@ -293,7 +326,9 @@ bool RecoverDatabase(const QString& DBPath, QStringList& KeptAside) {
     } catch (const Fault&) {
         return false;
     }
-    if (State == JournalState::Whole) CarryOut(DBPath, Image);
+    if (State == JournalState::Whole)
+        if (const auto Problem = CarryOut(DBPath, Image, LookAtFiles(DBPath)))
+            NotKept = Problem->Text();
     DeleteIfPossible(UnfinishedPath(DBPath));
     return true;
 }

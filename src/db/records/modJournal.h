@@ -38,8 +38,9 @@ JournalState ReadJournal(const QString& DBPath, RecordImage* Image = nullptr);
 
 // Journal, files, end of the journal; all of it is on the disk afterwards. Throws Fault: when
 // the journal could not be written the old database stands untouched; later, the journal
-// stays and the next start finishes the work.
-void WriteDatabase(const QString& DBPath, const RecordImage& Image);
+// stays and the next start finishes the work. The records that were there become the newest of the
+// earlier states (Generations.h); the answer says why, where that was not to be done.
+std::optional<Fault> WriteDatabase(const QString& DBPath, const RecordImage& Image);
 
 // Brings records and staged, flushed files (StagedFiles.h) into the database in one step: a whole
 // journal of the one with a note of the other. From here on the next opening has both, whatever
@@ -63,9 +64,10 @@ bool CountersAreMissing(const QString& DBPath);
 
 // Carries out a whole journal, with the files that were staged for it, and removes what was staged
 // without a journal and a journal that never came to be whole. One that is damaged, or that does
-// not go with the record files, is kept aside with its files; PutAside gets their paths. False
+// not go with the record files, is kept aside with its files; PutAside gets their paths, and
+// NotKept why the records of before could not be kept as an earlier state, if so. False
 // where staged files can neither go to their places nor be noted as waiting: then nothing has
 // changed, and the journal is to be read where it lies.
-bool RecoverDatabase(const QString& DBPath, QStringList& PutAside);
+bool RecoverDatabase(const QString& DBPath, QStringList& PutAside, QString& NotKept);
 
 }  // namespace neb
