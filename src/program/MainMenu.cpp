@@ -15,6 +15,7 @@
 #include "show/ShowSettings.h"
 #include "support/Fault.h"
 #include "support/Services.h"
+#include "windows/albums/frmRestore.h"
 #include "windows/albums/modAlbumNames.h"
 #include "windows/disc/frmDiscFolder.h"
 #include "windows/disc/modDiscCheck.h"
@@ -93,6 +94,10 @@ constexpr Entry Entries[] = {
     {"mnuFileHdr", "mnuQuickShow", "&Quick Show...", "Ctrl+K", "quick-show",
      "Turn a folder of pictures into a running show",
      [](frmNEBSlideShow& Main) { Main.OpenQuickShow(); }},
+    {"mnuFileHdr", "", "", "", "", "", nullptr},
+    {"mnuFileHdr", "mnuRestore", "Restore &Earlier Albums...", "", "",
+     "Go back to all albums and slide shows as they were saved before",
+     [](auto&) { NewForm<frmRestore>()->ShowModal(); }},
     {"mnuFileHdr", "", "", "", "", "", nullptr},
     {"mnuFileHdr", "mnuExit", "E&xit", "Ctrl+Q", "exit", "Save everything and end the program",
      [](frmNEBSlideShow& Main) { Main.close(); }},

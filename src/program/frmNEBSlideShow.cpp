@@ -60,6 +60,15 @@ void IgnoringFaults(const std::function<void()>& Action) {
     }
 }
 
+// All is saved; who relies on going back to the albums of before must know that these are not kept.
+void TellNotKept(const Fault& Reason) {
+    SetScreenPointer(Pointer::Default);
+    MsgBox(QObject::tr("The albums are saved. Those of before could not be kept among the earlier "
+                       "ones.\n\n%1")
+               .arg(Reason.Text()),
+           QObject::tr("Earlier Albums"), BoxIcon::Information);
+}
+
 }  // namespace
 
 frmNEBSlideShow::frmNEBSlideShow() : mWorkspace(new Workspace(this)) {
@@ -139,7 +148,9 @@ void frmNEBSlideShow::CheckReadOnly() {
     Log("Check if Read-Only");
     const QString Counters = DBPath() + QStringLiteral("NextIDs.dat");
     ReadOnlyDB = FileExists(Counters) && IsReadOnly(Counters);
-    if (ReadOnlyDB) mMenu->Entries[QStringLiteral("mnuAlbumNew")]->setEnabled(false);
+    if (!ReadOnlyDB) return;
+    for (const char* Name : {"mnuAlbumNew", "mnuRestore"})
+        mMenu->Entries[QLatin1String(Name)]->setEnabled(false);
 }
 
 void frmNEBSlideShow::MakeChildDirs() {
@@ -195,7 +206,7 @@ bool frmNEBSlideShow::Unload() {
 // try again; nothing is given up without a word.
 bool frmNEBSlideShow::WriteDatabase() {
     try {
-        mEngine->FinalizeDB();
+        if (const auto NotKept = mEngine->FinalizeDB()) TellNotKept(*NotKept);
         return true;
     } catch (const Fault& Problem) {
         SetScreenPointer(Pointer::Default);

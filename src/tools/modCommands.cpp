@@ -7,9 +7,11 @@
 #include "tools/modCheck.h"
 #include "tools/modDump.h"
 #include "tools/modEffects.h"
+#include "tools/modHistory.h"
 #include "tools/modImportFolder.h"
 #include "tools/modPrint.h"
 #include "tools/modRehearse.h"
+#include "tools/modRestoreState.h"
 #include "tools/modRewrite.h"
 #include "tools/modTransfer.h"
 
@@ -41,6 +43,28 @@ constexpr Command Table[] = {
      "moment leaves the old or the new records. A database that is read-only or in use by the\n"
      "program is left alone.\n",
      RunRewrite},
+    {"history", "DIR [--json]", "list the earlier states of a database",
+     "Lists the states that the database in DIR has kept of itself, the newest first: the last\n"
+     "ten, and of each month of two years the last. For each: its number, when it was saved, how\n"
+     "many albums, slides and slide shows it has, what would be different from now if it came\n"
+     "back, and how many of its pictures and sounds are missing. Nothing in DIR is changed.\n"
+     "\n"
+     "  --json  the same as JSON. Now: Albums, Slides, SlideShows. Earlier, a list: Number, Saved\n"
+     "          (UTC), Albums, Slides, SlideShows, Differences (names of what was there Then or "
+     "is\n"
+     "          there Now alone, and counts of what is changed), Missing (paths)\n",
+     RunHistory},
+    {"restore", "DIR N", "bring an earlier state of a database back",
+     "Makes the state N, as nebctl history numbers them, the present one: all albums, slides and\n"
+     "slide shows as they were saved then. What differs, and the pictures and sounds that are\n"
+     "missing by now, are listed. The present state is kept as another one, to which the same\n"
+     "command goes back; no picture or sound is deleted. All or nothing. A database that is\n"
+     "read-only or in use by the program is left alone.\n"
+     "\n"
+     "Exit code 0: restored; 1: restored, and pictures or sounds are missing; 2: not restored, or "
+     "a\n"
+     "line says that the next start of the program will finish it.\n",
+     RunRestore},
     {"import", "DIR FOLDER --album NAME [--recurse] [--show NAME]",
      "bring a folder of pictures into an album",
      "Takes the pictures of FOLDER, with --recurse those of the folders below it as well, into\n"

@@ -12,6 +12,7 @@
 #include "support/modDEValidation.h"
 #include "support/modFUFL.h"
 #include "tools/modCommands.h"
+#include "tools/modHistory.h"
 
 namespace neb {
 namespace {
@@ -94,7 +95,7 @@ class FolderImport {
                                      .arg(mOrder.Folder));
             }
             if (!mOrder.Show.isEmpty()) MakeShow();
-            mEngine.FinalizeDB();
+            TellNotKept(mIO, mEngine.FinalizeDB());
         } catch (const std::exception&) {
             GiveUp();
             throw;

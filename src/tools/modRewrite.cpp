@@ -5,6 +5,7 @@
 #include "db/records/modJournal.h"
 #include "support/files/modHostFiles.h"
 #include "tools/modCommands.h"
+#include "tools/modHistory.h"
 
 namespace neb {
 int RunRewrite(const QStringList& Arguments, ToolIO& IO) {
@@ -25,7 +26,7 @@ int RunRewrite(const QStringList& Arguments, ToolIO& IO) {
     Engine.SetDBPath(*Dir);
     Engine.InitializeDB();
     Progress.Show(1, 2);
-    Engine.FinalizeDB();
+    TellNotKept(IO, Engine.FinalizeDB());
     return ExitDone;
 }
 

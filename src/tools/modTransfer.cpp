@@ -9,6 +9,7 @@
 #include "support/Fault.h"
 #include "tools/Named.h"
 #include "tools/modCommands.h"
+#include "tools/modHistory.h"
 #include "tools/words/modWords.h"
 
 namespace neb {
@@ -180,7 +181,7 @@ class ToolTransfer {
     // Whatever happens now, the transfer stands.
     bool WriteRecords() {
         try {
-            mDst.FinalizeDB();
+            TellNotKept(mIO, mDst.FinalizeDB());
             return true;
         } catch (const Fault& Problem) {
             if (ReadJournal(mDst.DBPath()) != JournalState::Whole) throw;

@@ -18,6 +18,7 @@
 #include "windows/albums/frmAlbumDelete.h"
 #include "windows/albums/frmAlbumRename.h"
 #include "windows/albums/frmGetObjectName.h"
+#include "windows/albums/frmRestore.h"
 #include "windows/compose/frmSlideShowDBM.h"
 #include "windows/disc/frmDiscFolder.h"
 #include "windows/frame/frmInputBox.h"
@@ -102,9 +103,9 @@ using Windows =
                      frmAlbumView, frmDirSelect, frmDiscFolder, frmFindGraphics, frmGetObjectName,
                      frmInputBox, frmPrintAlbum, frmPrintPreview, frmPrintSheet, frmPrintSlide,
                      frmPrintSlideShow, frmHelp, frmImportFilter, frmLoading, frmMsgBoxEx,
-                     frmNewAlbumWzd1, frmPreferences, frmQuickShow, frmSlideDBM, frmSlideMgrBulk,
-                     frmSlideShowDBM, frmSlideShowExport, frmSlideShowImport, frmSlideShowView,
-                     frmSoundRecorder, frmTransferProgress>;
+                     frmNewAlbumWzd1, frmPreferences, frmQuickShow, frmRestore, frmSlideDBM,
+                     frmSlideMgrBulk, frmSlideShowDBM, frmSlideShowExport, frmSlideShowImport,
+                     frmSlideShowView, frmSoundRecorder, frmTransferProgress>;
 TYPED_TEST_SUITE(EachWindow, Windows);
 
 TYPED_TEST(EachWindow, HasNamesToolTipsAndReachableControls) {

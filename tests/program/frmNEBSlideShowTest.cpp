@@ -221,11 +221,11 @@ TEST_F(MainWindow, SlideShowManagersOpenFromTheMenuAndForWhoeverWantsOne) {
 TEST_F(MainWindow, EveryMenuEntryIsInItsPlace) {
     Start();
     for (const char* Name :
-         {"mnuAlbumNew", "mnuAlbumRename", "mnuAlbumDelete", "mnuAlbumExport", "mnuAlbumImport",
-          "mnuAlbumPrint", "mnuSlideMgr", "mnuSlideMgrBulk", "mnuSlideShowMgr",
-          "mnuSlideShowExport", "mnuSlideShowImport", "mnuSlideShowPrint", "mnuSlideShowPrefs",
-          "mnuSlideShowViewer", "mnuQuickShow", "mnuHelpContents", "mnuHelpIndex", "mnuAbout",
-          "mnuExit"})
+         {"mnuAlbumNew",       "mnuAlbumRename",     "mnuAlbumDelete",     "mnuAlbumExport",
+          "mnuAlbumImport",    "mnuAlbumPrint",      "mnuSlideMgr",        "mnuSlideMgrBulk",
+          "mnuSlideShowMgr",   "mnuSlideShowExport", "mnuSlideShowImport", "mnuSlideShowPrint",
+          "mnuSlideShowPrefs", "mnuSlideShowViewer", "mnuQuickShow",       "mnuRestore",
+          "mnuHelpContents",   "mnuHelpIndex",       "mnuAbout",           "mnuExit"})
         EXPECT_TRUE(Entry(Name)) << Name;
     for (const char* Name : {"mnuFileHdr", "mnuAlbumHdr", "mnuSlideShowHdr", "mnuImportExportHdr",
                              "mnuPrintHdr", "mnuWindows", "mnuHelpHdr"})

@@ -440,7 +440,7 @@ TEST_F(NebctlTest, AFullDiskIsReportedOnErr) {
 TEST_F(NebctlTest, WrongUsageIsTwo) {
     EXPECT_EQ(Tool({}).Code, 2);
     EXPECT_TRUE(Tool({}).Err.contains(u"Usage:"));
-    for (const char* Name : {"dump", "check", "rewrite"}) {
+    for (const char* Name : {"dump", "check", "rewrite", "history"}) {
         const QString Command = QLatin1String(Name);
         EXPECT_EQ(Tool({Command}).Code, 2);
         EXPECT_EQ(Tool({Command, Dir.Path(), Dir.Path()}).Code, 2);
@@ -460,6 +460,9 @@ TEST_F(NebctlTest, WrongUsageIsTwo) {
         EXPECT_TRUE(Result.Err.contains(u"nowhere"));
         EXPECT_EQ(Result.Out, u"");
     }
+    EXPECT_EQ(Tool({u"restore"_s}).Code, 2);
+    EXPECT_EQ(Tool({u"restore"_s, Dir.Path()}).Code, 2);
+    EXPECT_TRUE(Tool({u"restore"_s, Dir / "nowhere", u"1"_s}).Err.contains(u"nowhere"));
     EXPECT_TRUE(Tool({u"frobnicate"_s}).Err.contains(u"frobnicate"));
 }
 

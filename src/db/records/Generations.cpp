@@ -160,15 +160,23 @@ std::optional<Generation> AboutIn(const QByteArray& Head, qint64 FileLength) {
     return IsOne ? std::optional(About) : std::nullopt;
 }
 
+// One that cannot be read is none to go back to.
+std::optional<Generation> AboutAt(const QString& Path) {
+    try {
+        return AboutIn(ReadFileHead(Path, HeadLength), FileSize(Path));
+    } catch (const Fault&) {
+        return std::nullopt;
+    }
+}
+
 // The last kept first. By their heads alone: those that are damaged further down are among them.
 std::vector<Generation> HeadsIn(const QString& DBPath) {
     std::vector<Generation> Found;
     const QString Folder = GenerationsFolder(DBPath);
     for (const QString& Name : ListMask(Folder + QStringLiteral("*.nebgen"))) {
-        const QString Path = Folder + Name;
-        auto About = AboutIn(ReadFileHead(Path, HeadLength), FileSize(Path));
+        auto About = AboutAt(Folder + Name);
         if (!About) continue;
-        About->Path = Path;
+        About->Path = Folder + Name;
         Found.push_back(std::move(*About));
     }
     std::sort(Found.begin(), Found.end(), [](const Generation& One, const Generation& Other) {
@@ -284,7 +292,7 @@ std::vector<Generation> ListGenerations(const QString& DBPath) {
 }
 
 std::optional<RecordImage> ReadGeneration(const QString& Path) {
-    if (!AboutIn(ReadFileHead(Path, HeadLength), FileSize(Path))) return std::nullopt;
+    if (!AboutAt(Path)) return std::nullopt;
     return GenerationIn(ReadFile(Path));
 }
 
