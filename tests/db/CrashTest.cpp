@@ -10,6 +10,7 @@
 
 #include "Fixtures.h"
 #include "db/modLoadRecords.h"
+#include "db/modRestore.h"
 #include "support/Fault.h"
 
 #ifndef _WIN32
@@ -63,6 +64,9 @@ struct Scene {
         EXPECT_TRUE(Started == Old || Started == New) << Where;
         EXPECT_EQ(Looked, Started) << Where << ": looking without changing sees another one";
         EXPECT_EQ(ReadJournal(Dir), JournalState::None) << Where;
+        for (const Generation& Kept : ListGenerations(Dir)) {
+            EXPECT_TRUE(HasOld && ContentOf(*OpenGeneration(Kept, Dir)) == Old) << Where;
+        }
         const auto Records = AllRecords(Dir);
         if (HasOld || Started == New) {
             EXPECT_EQ(Records, Started) << Where;
@@ -132,6 +136,7 @@ void KillAtEveryStep(const Scene& TheScene, Kill How) {
         const bool IsNew =
             TheScene.ExpectOldOrNew(Dir.Path(), "killed at step " + std::to_string(Number));
         (IsNew ? SawNew : SawOld) = true;
+        EXPECT_EQ(ListGenerations(Dir.Path()).size(), IsNew && TheScene.HasOld ? 1u : 0u) << Number;
         EXPECT_TRUE(!Through || IsNew);
         EXPECT_TRUE(IsNew || !SawNew) << "the new database was there at an earlier step";
         if (Through || ::testing::Test::HasFailure()) break;
