@@ -86,6 +86,9 @@ void ReadFiles(DatabaseState& Into) {
                       QDirIterator::Subdirectories);
     while (Walk.hasNext()) {
         const QString Path = QDir(Into.Dir).relativeFilePath(Walk.next());
+        // earlier states, kept whenever the records are replaced
+        if (Path == QStringLiteral("Backups") || Path.startsWith(QStringLiteral("Backups/")))
+            continue;
         const bool IsTemp =
             Path == QStringLiteral("Temp") || Path.startsWith(QStringLiteral("Temp/"));
         if (Walk.fileInfo().isDir() && !Walk.fileInfo().isSymLink()) {

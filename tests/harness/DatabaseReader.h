@@ -54,7 +54,8 @@ struct DatabaseState {
     std::vector<DetailRow> Details;
     std::vector<TrackRow> Tracks;
     QByteArray Properties, EffectStats;
-    // All other files by their path below Dir; the lock of an open database and Temp left out.
+    // All other files by their path below Dir; the lock of an open database, Temp and
+    // Backups left out.
     std::map<QString, QByteArray> Files;
     std::set<QString> Folders;       // below Albums
     std::set<QString> Temp;          // files below Temp
