@@ -354,6 +354,20 @@ TEST(Generations, WhatABrokenWriteLeavesIsNone) {
     EXPECT_EQ(NamesIn(Dir.Path()), (QStringList{u"third"_s, u"first"_s}));
 }
 
+TEST(Generations, AWriteOverABrokenOneThatIsKilledAtOnceKeepsNoneEither) {
+    TempFolder Dir;
+    EndWith(Dir.Path(), u"first"_s);
+    BreakAt(Dir.Path(), "Albums.dat", u"second"_s);
+    ASSERT_EQ(ReadJournal(Dir.Path()), JournalState::Whole);
+    // the journal of the next write is whole, and no record file has been touched for it yet
+    const auto Changed = OpenEngine(Dir.Path(), Recovery::InMemory);
+    std::int32_t AlbumID = 1;
+    ASSERT_TRUE(Changed->SaveAlbum(AlbumID, u"third"_s));
+    CommitDatabase(Dir.Path(), BuildImage(*Changed), {});
+    EXPECT_EQ(OpenEngine(Dir.Path())->Albums[0]->AlbumName, u"third"_s);
+    EXPECT_EQ(NamesIn(Dir.Path()), (QStringList{u"first"_s}));
+}
+
 TEST(Generations, ADatabaseWithoutSomeOfItsFilesIsKeptAsItWas) {
     TempFolder Dir;
     EndWith(Dir.Path(), u"first"_s);
