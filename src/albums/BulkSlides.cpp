@@ -26,6 +26,11 @@ QString SlideTally::Text(const QString& DoneWord, const QString& DoWord) const {
     return Told;
 }
 
+void CaptionEdits::Begin(std::int32_t AlbumID) {
+    mAlbumID = AlbumID;
+    mTyped.clear();
+}
+
 void CaptionEdits::Note(std::int32_t SlideID, const QString& Caption, const clsNEBSlide* Stored) {
     if (Stored && Stored->SlideText == Caption)
         mTyped.remove(SlideID);

@@ -39,9 +39,14 @@ struct SlideTally {
     QString Text(const QString& DoneWord, const QString& DoWord) const;
 };
 
-// Captions that are typed and not yet saved.
+// Captions of one album that are typed and not yet saved.
 class CaptionEdits {
   public:
+    // Forgets all there are: from now on they are those of this album; 0: none.
+    void Begin(std::int32_t AlbumID);
+    std::int32_t AlbumID() const { return mAlbumID; }
+    bool IsEmpty() const { return mTyped.isEmpty(); }
+    const QHash<std::int32_t, QString>& All() const { return mTyped; }  // by SlideID
     // A caption typed back to the one that is stored is none. Stored: nullptr when the slide has
     // gone.
     void Note(std::int32_t SlideID, const QString& Caption, const clsNEBSlide* Stored);
@@ -50,7 +55,8 @@ class CaptionEdits {
     QString ShownOf(const clsNEBSlide& Slide) const;  // what was typed for it, else its own
 
   private:
-    QHash<std::int32_t, QString> mTyped;  // by SlideID
+    std::int32_t mAlbumID = 0;
+    QHash<std::int32_t, QString> mTyped;
 };
 
 // The saving of many captions of an album. The other windows hear of it once: when Tell is called,

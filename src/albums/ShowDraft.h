@@ -8,7 +8,7 @@ namespace neb {
 
 class ShowDraft {
   public:
-    const ShowContent& Content() const { return mContent; }
+    const ShowContent& Content() const { return mContent; }  // as it was last composed
     void Compose(ShowContent Now) { mContent = std::move(Now); }
     // The content is what is stored, as far as its slides are still there.
     void SetAsStored() { mAsStored = mContent; }

@@ -6,10 +6,12 @@
 #include <QLocale>
 #include <QScreen>
 #include <QStatusBar>
+#include <algorithm>
 #include <functional>
 
 #include "controls/forms/Form.h"
 #include "controls/forms/ScreenPointer.h"
+#include "controls/forms/Tell.h"
 #include "controls/grid/FlexGrid.h"
 #include "db/clsDBEngine.h"
 #include "db/records/modJournal.h"
@@ -67,6 +69,21 @@ void TellNotKept(const Fault& Reason) {
                        "ones.\n\n%1")
                .arg(Reason.Text()),
            QObject::tr("Earlier Albums"), BoxIcon::Information);
+}
+
+// Whether to end although the albums could not be saved.
+bool AskEndUnsaved(const QString& Problem) {
+    return ShowBox({.Text = QObject::tr("The albums could not be saved.\n\n%1\n\nThe program stays "
+                                        "open, so that nothing is lost. Mend what is wrong (make "
+                                        "room on the disk, say, or connect it again), then end "
+                                        "the program once more.")
+                                .arg(Problem),
+                    .Title = QObject::tr("Save Failed"),
+                    .Icon = BoxIcon::Critical,
+                    .Buttons = BoxButtons::YesNo,
+                    .Default = BoxAnswer::No,
+                    .YesWords = QObject::tr("&End and Lose the Changes"),
+                    .NoWords = QObject::tr("&Go On")}) == BoxAnswer::Yes;
 }
 
 }  // namespace
@@ -182,14 +199,21 @@ void frmNEBSlideShow::UnloadChild(Form& Child) {
     IgnoringFaults([&] { Child.Unload(); });
 }
 
+// A fault in the saving is told by who called: the window stays with its work, and the program.
+bool frmNEBSlideShow::QueryForms() {
+    const auto Windows = LoadedForms();
+    return std::all_of(Windows.begin(), Windows.end(),
+                       [](const auto& Window) { return Window->QueryUnload(); });
+}
+
 bool frmNEBSlideShow::UnloadForms() {
-    for (const auto& Window : LoadedForms()) UnloadChild(*Window);
+    for (const auto& Window : LoadedForms()) IgnoringFaults([&] { Window->UnloadAsked(); });
     return LoadedForms().empty();
 }
 
 bool frmNEBSlideShow::Unload() {
     if (mStage != Stage::Loaded) return true;
-    if (!UnloadForms()) return false;
+    if (!QueryForms() || !UnloadForms()) return false;
     const PointerScope Working(Pointer::Hourglass);
     IgnoringFaults([] { DeleteMask(DBPath() + QStringLiteral("Temp/*.*")); });
     if (!ReadOnlyDB && !WriteDatabase()) return false;
@@ -203,23 +227,20 @@ bool frmNEBSlideShow::Unload() {
 }
 
 // The one moment at which the records reach the disk. When that fails the user may make room and
-// try again; nothing is given up without a word.
+// try again: nothing is given up unless that is asked for in so many words. Whatever else closes
+// the box, a second request of the system to end among it, keeps the program open.
 bool frmNEBSlideShow::WriteDatabase() {
     try {
         if (const auto NotKept = mEngine->FinalizeDB()) TellNotKept(*NotKept);
         return true;
     } catch (const Fault& Problem) {
         SetScreenPointer(Pointer::Default);
-        const QString Question =
-            tr("The albums could not be saved.\n\n%1\n\nDo you want to go on with the program, so "
-               "that you can mend this and end it again? With No, changes made since the start "
-               "may be lost.")
-                .arg(Problem.Text());
-        return !AskYesNo(Question, tr("Save Failed"));
+        return AskEndUnsaved(Problem.Text());
     }
 }
 
 void frmNEBSlideShow::closeEvent(QCloseEvent* Event) {
+    Event->ignore();  // a fault on the way leaves the program open
     Event->setAccepted(mStage != Stage::Loading && Unload());
 }
 

@@ -26,10 +26,15 @@ class frmNEBSlideShow : public QMainWindow {
     // The start-up sequence: shows the window, loads the database, makes ready. Throws Fault when
     // the database cannot be read; the program is then to end without writing anything.
     void Form_Load(const CommandLine& Line);
-    // Takes the windows off the screen, one after the other; false when one has refused.
+    // Has every window ask about work that is not saved; false when one is to stay. Nothing is
+    // closed.
+    bool QueryForms();
+    // Takes the windows off the screen, one after the other, which have been asked; false when one
+    // has refused.
     bool UnloadForms();
-    // The end: unloads all forms, empties Temp, writes the database. False when a window refused
-    // or the database could not be written and the user stays; the program then goes on.
+    // The end: asks in all forms, unloads them, empties Temp, writes the database. False when a
+    // window refused or the database could not be written and the user stays; the program then
+    // goes on.
     bool Unload();
     // Unloads a form, ignoring faults.
     void UnloadChild(Form& Child);

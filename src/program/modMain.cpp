@@ -76,6 +76,27 @@ std::optional<QString> DatabaseToOpen() {
     }
 }
 
+namespace {
+
+// Makes way for the end: what is on top goes first, so that who opened it takes up what it was left
+// with. False when the user keeps a window for its work.
+bool CloseTopmost(frmNEBSlideShow& Window) {
+    QWidget* Modal = QApplication::activeModalWidget();
+    auto* Over = qobject_cast<Form*>(Modal);
+    if (!Modal) return Window.QueryForms() && (Window.UnloadForms(), true);
+    if (!Over) return Modal->close(), true;  // a box: it answers that nothing is to be done
+    const auto Held = Over->shared_from_this();
+    if (!Over->QueryUnload()) return false;
+    try {
+        Over->UnloadAsked();
+    } catch (const Fault&) {
+        // it has said so, or has nothing to lose
+    }
+    return true;
+}
+
+}  // namespace
+
 // What runs inside a modal window works on the database, which must not go away under it: the
 // windows go first, then, once their work has ended, the program.
 void CloseWhenIdle(frmNEBSlideShow& Window) {
@@ -83,9 +104,7 @@ void CloseWhenIdle(frmNEBSlideShow& Window) {
         if (Window.close()) QApplication::quit();
         return;
     }
-    QWidget* Modal = QApplication::activeModalWidget();
-    if (Modal && !qobject_cast<Form*>(Modal)) Modal->close();
-    Window.UnloadForms();
+    if (!CloseTopmost(Window)) return;
     QTimer::singleShot(RetryMs, &Window, [&Window] { CloseWhenIdle(Window); });
 }
 

@@ -25,10 +25,15 @@ std::function<void()>& DoEventsHook() {
 BoxAnswer ShowOrWarn(const BoxRequest& Request) {
     if (MessageBoxes* Boxes = TheServices().Boxes) return Boxes->Show(Request);
     qWarning("%s", qPrintable(Request.Text));
-    return Request.Buttons == BoxButtons::Ok ? BoxAnswer::Ok : BoxAnswer::No;
+    return AnswerOfClosing(Request.Buttons);
 }
 
 }  // namespace
+
+BoxAnswer AnswerOfClosing(BoxButtons Buttons) {
+    if (Buttons == BoxButtons::Ok) return BoxAnswer::Ok;
+    return Buttons == BoxButtons::YesNo ? BoxAnswer::No : BoxAnswer::Cancel;
+}
 
 double Clock::Timer() const {
     return Now().time().msecsSinceStartOfDay() / 1000.0;
@@ -47,6 +52,11 @@ BoxAnswer MsgBox(const QString& Text, const QString& Title, BoxIcon Icon, BoxBut
 bool AskYesNo(const QString& Text, const QString& Title, BoxAnswer Default) {
     return ShowOrWarn({Text, Title, BoxIcon::Question, BoxButtons::YesNo, Default}) ==
            BoxAnswer::Yes;
+}
+
+BoxAnswer AskSave(const QString& Text, const QString& Title) {
+    constexpr auto Buttons = BoxButtons::SaveDiscardCancel;
+    return ShowOrWarn({Text, Title, BoxIcon::Question, Buttons, AnswerOfClosing(Buttons)});
 }
 
 void DoEvents() {

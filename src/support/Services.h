@@ -10,22 +10,28 @@
 namespace neb {
 
 enum class BoxIcon { Plain, Information, Question, Critical };
-enum class BoxButtons { Ok, YesNo };
-enum class BoxAnswer { Ok, Yes, No };
+enum class BoxButtons { Ok, YesNo, SaveDiscardCancel };
+enum class BoxAnswer { Ok, Yes, No, Save, Discard, Cancel };
 
 struct BoxRequest {
     QString Text;
     QString Title;  // empty: the program's own name
     BoxIcon Icon = BoxIcon::Plain;
     BoxButtons Buttons = BoxButtons::Ok;
-    BoxAnswer Default = BoxAnswer::Yes;  // of a Yes/No box: what Enter answers
+    BoxAnswer Default = BoxAnswer::No;  // of a Yes/No box: what Enter answers
     QString Details = {};  // a long list, say: opens at a button of the box, and scrolls
+    // What the buttons of a Yes/No box say where that is not enough; empty: Yes and No.
+    QString YesWords = {}, NoWords = {};
 };
+
+// What closing a box by Esc or by its frame answers: nothing is done then. Enter answers it in a
+// box of Save, Discard and Cancel, too: of the three it alone neither writes nor gives up anything.
+BoxAnswer AnswerOfClosing(BoxButtons Buttons);
 
 class MessageBoxes {
   public:
     virtual ~MessageBoxes() = default;
-    // Shows the box modally and returns the answer; closing a Yes/No box is No.
+    // Shows the box modally and returns the answer.
     virtual BoxAnswer Show(const BoxRequest& Request) = 0;
 };
 
@@ -81,8 +87,11 @@ Services& TheServices();
 // Shows a plain OK box, or one with the given looks.
 BoxAnswer MsgBox(const QString& Text, const QString& Title = {}, BoxIcon Icon = BoxIcon::Plain,
                  BoxButtons Buttons = BoxButtons::Ok);
-// Asks in a Yes/No box with the question icon; true on Yes. Default: what Enter answers.
-bool AskYesNo(const QString& Text, const QString& Title, BoxAnswer Default = BoxAnswer::Yes);
+// Asks in a Yes/No box with the question icon; true on Yes. Default: what Enter answers; Yes only
+// where that neither discards nor deletes anything.
+bool AskYesNo(const QString& Text, const QString& Title, BoxAnswer Default = BoxAnswer::No);
+// Asks whether work is to be saved, in a box of Save, Discard and Cancel with the question icon.
+BoxAnswer AskSave(const QString& Text, const QString& Title);
 
 // Lets waiting events run: the one way for long work to yield.
 void DoEvents();

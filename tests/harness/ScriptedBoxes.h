@@ -5,6 +5,7 @@
 #include <deque>
 #include <functional>
 #include <optional>
+#include <utility>
 
 #include "support/Services.h"
 
@@ -39,6 +40,17 @@ class ScriptedBoxes : public MessageBoxes {
     MessageBoxes* mBefore;
     int mShown = 0;
     BoxRequest mLast;
+};
+
+// While it stands, work that windows still hold is given up: at the end of a test, say.
+class LettingGo : public MessageBoxes {
+  public:
+    LettingGo() : mBefore(std::exchange(TheServices().Boxes, this)) {}
+    ~LettingGo() override { TheServices().Boxes = mBefore; }
+    BoxAnswer Show(const BoxRequest& Request) override;
+
+  private:
+    MessageBoxes* mBefore;
 };
 
 }  // namespace neb::harness

@@ -31,6 +31,7 @@ class MainWindow : public ::testing::Test {
     }
     ~MainWindow() override {
         SetHostWatcher({});
+        const harness::LettingGo Answers;
         for (const auto& Window : LoadedForms()) Window->Unload();
         TheOpeners() = {};
         AppPathCache.clear();

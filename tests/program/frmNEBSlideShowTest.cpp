@@ -325,10 +325,10 @@ TEST_F(MainWindow, ASlideManagerWithChangesKeepsTheProgramOpenWhenTheUserWants) 
     Press("mnuSlideMgr");
     Find<frmSlideDBM>()->findChild<QLineEdit*>("txtDscr")->setText("mine");
     const QString Question = "Are you sure you want to discard the changes to the current slide?";
-    mBoxes.Expect(Question, BoxAnswer::No);
+    mBoxes.Expect(Question, BoxAnswer::Cancel);
     EXPECT_FALSE(mWindow->close());
     EXPECT_TRUE(Find<frmSlideDBM>());
-    mBoxes.Expect(Question, BoxAnswer::Yes);
+    mBoxes.Expect(Question, BoxAnswer::Discard);
     EXPECT_TRUE(mWindow->close());
 }
 
@@ -389,11 +389,16 @@ TEST_F(MainWindow, AFullDiskAtTheEndKeepsTheProgramOpenWhenTheUserWants) {
         BoxAnswer Show(const BoxRequest& Request) override {
             ++mCount;
             EXPECT_TRUE(Request.Text.contains("could not be saved"));
-            return BoxAnswer::Yes;
+            EXPECT_TRUE(Request.Text.contains("No space left on device")) << "what is wrong";
+            EXPECT_TRUE(Request.Text.contains("Mend what is wrong")) << "what to do";
+            EXPECT_EQ(Request.YesWords, "&End and Lose the Changes");
+            EXPECT_EQ(Request.Default, BoxAnswer::No);
+            return mGiven;
         }
+        BoxAnswer mGiven = BoxAnswer::No;
         int& mCount;
-    } Yes(Asked);
-    TheServices().Boxes = &Yes;
+    } Given(Asked);
+    TheServices().Boxes = &Given;
     EXPECT_FALSE(mWindow->close());
     EXPECT_EQ(Asked, 1);
     ASSERT_TRUE(DBEngine);
@@ -401,6 +406,19 @@ TEST_F(MainWindow, AFullDiskAtTheEndKeepsTheProgramOpenWhenTheUserWants) {
     EXPECT_TRUE(mWindow->close());
     EXPECT_EQ(FileSize(DBPath() + "Albums.dat"), 86);
     TheServices().Boxes = &mBoxes;
+}
+
+TEST_F(MainWindow, OnlyTheAnswerInWordsEndsTheProgramUnsaved) {
+    Start();
+    SaveAlbum("Holidays");
+    SetHostWatcher([](HostStep Step, const QString&, qint64& Length) {
+        if (Step == HostStep::Write) Length = 0;
+    });
+    const harness::LettingGo Given;  // answers by the button in words
+    EXPECT_TRUE(mWindow->close());
+    SetHostWatcher({});
+    EXPECT_EQ(DBEngine, nullptr);
+    EXPECT_FALSE(FileExists(DBPath() + "Albums.dat"));
 }
 
 TEST_F(MainWindow, AFolderThatCannotBeWrittenIsSaidAtTheStart) {

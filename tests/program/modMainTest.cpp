@@ -7,13 +7,19 @@
 #include <unistd.h>
 #include <QApplication>
 #include <QFile>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPointer>
 #include <QProcess>
+#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 
 #include <csignal>
 
 #include "MeasuredMachine.h"
+#include "controls/forms/DesktopBoxes.h"
+#include "db/clsDBEngine.h"
 #include "db/modDatabaseLock.h"
 #include "harness/ScriptedBoxes.h"
 #include "harness/TempFolder.h"
@@ -21,6 +27,8 @@
 #include "program/frmNEBSlideShow.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/files/modHostFiles.h"
+#include "windows/frame/Openers.h"
+#include "windows/slides/frmSlideDBM.h"
 
 namespace neb {
 namespace {
@@ -96,6 +104,100 @@ TEST(Main, ARequestToEndWaitsForTheWorkInAModalWindow) {
     EXPECT_TRUE(StillThere) << "what follows the modal window still has its database";
     EXPECT_EQ(DBEngine, nullptr);
     EXPECT_EQ(FileSize(DBPath() + "NextIDs.dat"), 12);
+}
+
+// The real boxes of a program that is asked to end; At is called with each that is open, counted
+// from 1, and at last with none.
+class EndAskedFor : public ::testing::Test {
+  protected:
+    EndAskedFor() {
+        SetDocumentsPath(mDocuments.Path());
+        test::MarkAsMeasured();
+        TheServices().Boxes = &mBoxes;
+        mWindow.Form_Load({});
+        std::int32_t AlbumID = 0;
+        EXPECT_TRUE(DBEngine->SaveAlbum(AlbumID, "Holidays"));
+    }
+    ~EndAskedFor() override {
+        SetHostWatcher({});
+        TheServices().Boxes = nullptr;
+        TheOpeners() = {};
+    }
+    void RunAsking(const std::function<void(int Number, QMessageBox* Open)>& At) {
+        QPointer<QMessageBox> Seen;
+        int Number = 0;
+        QTimer Look;
+        QObject::connect(&Look, &QTimer::timeout, &Look, [&] {
+            auto* Open = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (Open == Seen && (Open || Number < 2)) return;
+            Seen = Open;
+            if (Open) ++Number;
+            At(Number, Open);
+        });
+        Look.start(20);
+        QTimer::singleShot(0, &mWindow, [this] { CloseWhenIdle(mWindow); });
+        QTimer::singleShot(10000, &mWindow, [] {
+            ADD_FAILURE() << "the program goes on";
+            QApplication::quit();
+        });
+        QApplication::exec();
+    }
+
+    harness::TempFolder mDocuments;
+    DesktopBoxes mBoxes;
+    frmNEBSlideShow mWindow;
+};
+
+TEST_F(EndAskedFor, ASecondRequestNeverGivesUpWhatCouldNotBeSaved) {
+    SetHostWatcher([](HostStep Step, const QString&, qint64& Length) {
+        if (Step == HostStep::Write) Length = 0;
+    });
+    int Boxes = 0;
+    RunAsking([&](int Number, QMessageBox* Open) {
+        Boxes = Number;
+        EXPECT_TRUE(DBEngine);
+        if (Open && Number == 1) return CloseWhenIdle(mWindow);
+        SetHostWatcher({});
+        if (Open) return QTest::keyClick(Open, Qt::Key_Escape);
+        EXPECT_TRUE(mWindow.isVisible());
+        CloseWhenIdle(mWindow);
+    });
+    EXPECT_EQ(2, Boxes);
+    EXPECT_EQ(DBEngine, nullptr);
+    EXPECT_EQ(FileSize(DBPath() + "Albums.dat"), 86);
+}
+
+TEST_F(EndAskedFor, ASecondRequestAsksOnceMoreAboutUnsavedWork) {
+    const auto Manager = NewForm<frmSlideDBM>();
+    Manager->LoadSlideMgr();
+    DoEvents();
+    Manager->findChild<QLineEdit*>("txtDscr")->setText("mine");
+    int Boxes = 0;
+    RunAsking([&](int Number, QMessageBox* Open) {
+        Boxes = Number;
+        EXPECT_TRUE(Manager->IsLoaded());
+        EXPECT_EQ(Manager->findChild<QLineEdit*>("txtDscr")->text(), "mine");
+        if (Open && Number == 1) return CloseWhenIdle(mWindow);
+        if (Open) Open->button(QMessageBox::Discard)->click();
+    });
+    EXPECT_EQ(2, Boxes);
+    EXPECT_EQ(DBEngine, nullptr);
+}
+
+TEST_F(EndAskedFor, WhoKeepsAWindowIsNotAskedAgain) {
+    const auto Manager = NewForm<frmSlideDBM>();
+    Manager->LoadSlideMgr();
+    DoEvents();
+    Manager->findChild<QLineEdit*>("txtDscr")->setText("mine");
+    QTimer::singleShot(300, &mWindow,
+                       [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
+    QTimer::singleShot(800, &mWindow, &QApplication::quit);
+    QTimer::singleShot(0, &mWindow, [this] { CloseWhenIdle(mWindow); });
+    QApplication::exec();
+    EXPECT_TRUE(Manager->IsLoaded());
+    EXPECT_TRUE(DBEngine);
+    const harness::LettingGo Answers;
+    EXPECT_TRUE(mWindow.close());
 }
 
 TEST(Main, HelpAndVersionNeedNoDisplay) {

@@ -16,10 +16,8 @@ class AllWindowsRig : public SlideRig {
         ImageBuffer = &Buffer;
     }
     ~AllWindowsRig() override {
-        Yes Answers;
-        TheServices().Boxes = &Answers;  // a slide manager with changes asks
+        const LettingGo Answers;
         for (const auto& Each : LoadedForms()) Each->Unload();
-        TheServices().Boxes = &Boxes;
         ImageBuffer = nullptr;
         Buffer.BufferGrid = nullptr;
     }

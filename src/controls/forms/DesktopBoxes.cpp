@@ -4,6 +4,7 @@
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPointer>
+#include <QPushButton>
 #include <QRegularExpression>
 
 #include "controls/forms/FocusReturn.h"
@@ -60,19 +61,47 @@ bool IsTooLong(const BoxRequest& Request) {
            (Request.Text.count(u'\n') >= MostLines || Request.Text.size() > MostLetters);
 }
 
+void AddYesNo(QMessageBox& Box, const BoxRequest& Request) {
+    Box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+    if (!Request.YesWords.isEmpty()) Box.button(QMessageBox::Yes)->setText(Request.YesWords);
+    if (!Request.NoWords.isEmpty()) Box.button(QMessageBox::No)->setText(Request.NoWords);
+    Box.setDefaultButton(Request.Default == BoxAnswer::Yes ? QMessageBox::Yes : QMessageBox::No);
+    Box.setEscapeButton(QMessageBox::No);
+}
+
+// Discard is called so on every desktop: some would have it say something about closing.
+void AddSaveDiscardCancel(QMessageBox& Box) {
+    Box.setStandardButtons(QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
+    Box.button(QMessageBox::Discard)->setText(QObject::tr("&Discard"));
+    Box.setDefaultButton(QMessageBox::Cancel);
+    Box.setEscapeButton(QMessageBox::Cancel);
+}
+
 void Fill(QMessageBox& Box, const BoxRequest& Request) {
     Box.setWindowTitle(TitleOf(Request));
     Box.setTextFormat(Qt::PlainText);
     Box.setText(Request.Text);
     Box.setIcon(BoxIconFor(Request.Icon));
     if (!Request.Details.isEmpty()) Box.setDetailedText(Request.Details);
-    if (Request.Buttons == BoxButtons::Ok) {
+    if (Request.Buttons == BoxButtons::Ok)
         Box.setStandardButtons(QMessageBox::Ok);
-        return;
+    else if (Request.Buttons == BoxButtons::YesNo)
+        AddYesNo(Box, Request);
+    else
+        AddSaveDiscardCancel(Box);
+}
+
+BoxAnswer AnswerOf(int Button, BoxButtons Buttons) {
+    switch (Button) {
+        case QMessageBox::Yes:
+            return BoxAnswer::Yes;
+        case QMessageBox::Save:
+            return BoxAnswer::Save;
+        case QMessageBox::Discard:
+            return BoxAnswer::Discard;
+        default:
+            return AnswerOfClosing(Buttons);
     }
-    Box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-    Box.setDefaultButton(Request.Default == BoxAnswer::No ? QMessageBox::No : QMessageBox::Yes);
-    Box.setEscapeButton(QMessageBox::No);
 }
 
 }  // namespace
@@ -89,8 +118,7 @@ BoxAnswer DesktopBoxes::Show(const BoxRequest& Request) {
     const int Button = Box->exec();
     delete Box;
     AwaitFocus();
-    if (Request.Buttons == BoxButtons::Ok) return BoxAnswer::Ok;
-    return Button == QMessageBox::Yes ? BoxAnswer::Yes : BoxAnswer::No;
+    return AnswerOf(Button, Request.Buttons);
 }
 
 QString DesktopFileDialogs::OpenFile(const QString& Title, const QString& StartDir,

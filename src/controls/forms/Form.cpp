@@ -3,7 +3,9 @@
 #include <QCloseEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QScopeGuard>
 
+#include "controls/fields/WheelGuard.h"
 #include "controls/forms/DefaultButton.h"
 #include "controls/forms/FocusReturn.h"
 
@@ -40,6 +42,7 @@ void Form::Load() {
         throw;
     }
     KeepDefaultButton(*this);
+    KeepChoicesFromWheel(*this);
 }
 
 void Form::ShowModal() {
@@ -70,23 +73,31 @@ void Form::Command(const std::function<void()>& Do) {
 }
 
 bool Form::Unload() {
-    if (mState != State::Loaded) return mState != State::Unloading;
     const auto Held = shared_from_this();
-    if (!AgreesToUnload()) return false;
-    Finish();
+    return QueryUnload() && UnloadAsked();
+}
+
+bool Form::QueryUnload() {
+    if (mState == State::Loaded) FinishEdits();
+    return AgreesIn(State::Asking, &Form::Form_QueryUnload);
+}
+
+bool Form::UnloadAsked() {
+    const auto Held = shared_from_this();
+    if (!AgreesIn(State::Unloading, &Form::Form_Unload)) return false;
+    if (mState == State::Loaded) Finish();
     return true;
 }
 
-bool Form::AgreesToUnload() {
-    mState = State::Unloading;
-    try {
-        if (Form_Unload()) return true;
-    } catch (...) {
-        mState = State::Loaded;
-        throw;
-    }
-    mState = State::Loaded;
-    return false;
+// One that is not loaded has nothing to say; one that is just being asked has not said it yet.
+bool Form::AgreesIn(State Step, bool (Form::*Asked)()) {
+    if (mState != State::Loaded) return mState == State::Created || mState == State::Unloaded;
+    const auto Held = shared_from_this();
+    const auto Again = qScopeGuard([this, Step] {
+        if (mState == Step) mState = State::Loaded;
+    });
+    mState = Step;
+    return (this->*Asked)();
 }
 
 void Form::Finish() {
@@ -104,7 +115,7 @@ void Form::Abandon() {
         Unload();
     } catch (const std::exception&) {
     }
-    if (mState == State::Loaded) Finish();
+    if (IsLoaded()) Finish();
 }
 
 // A child of the main window leaves its frame behind, which then goes.
@@ -124,6 +135,7 @@ void Form::reject() {
 }
 
 void Form::closeEvent(QCloseEvent* Event) {
+    Event->ignore();  // a fault on the way leaves the window
     CloseRequested();
     Event->setAccepted(mState == State::Unloaded || mState == State::Created);
 }

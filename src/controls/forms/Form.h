@@ -17,7 +17,7 @@ class Form : public QDialog, public std::enable_shared_from_this<Form> {
   public:
     Form();
 
-    bool IsLoaded() const { return mState == State::Loaded; }
+    bool IsLoaded() const { return mState == State::Loaded || mState == State::Asking; }
     // Runs Form_Load the first time; later calls do nothing.
     void Load();
     // Loads and shows; returns after the unload. A fault raised by Form_Activate unloads the
@@ -25,14 +25,22 @@ class Form : public QDialog, public std::enable_shared_from_this<Form> {
     void ShowModal();
     // Loads and shows beside the other windows.
     void ShowModeless();
-    // Runs Form_Unload and takes the window off the screen; false when it was refused. A fault in
-    // Form_Unload leaves it loaded. The object lives on as long as somebody holds it. Harmless when
-    // repeated.
+    // Asks by Form_QueryUnload, runs Form_Unload and takes the window off the screen; false when
+    // either has refused. A fault in one of them leaves it loaded. The object lives on as long as
+    // somebody holds it. Harmless when repeated, also while it asks: the answer decides.
     bool Unload();
+    // Asks alone, and the window stays for now: false when it is to stay. For an end that asks all
+    // windows before the first of them goes.
+    bool QueryUnload();
+    // Unloads without asking, which QueryUnload has done.
+    bool UnloadAsked();
 
   protected:
     virtual void Form_Load() {}
     virtual void Form_Activate() {}  // at every activation
+    // Asks about work that is not saved, and saves it where the user wants that; false: the window
+    // stays. What is being typed in a cell has been finished.
+    virtual bool Form_QueryUnload() { return true; }
     virtual bool Form_Unload() { return true; }
     // The close button, and Esc outside the main window's frame: unload, unless a window wants
     // otherwise. A child keeps its work when Esc is pressed once too often.
@@ -62,9 +70,9 @@ class Form : public QDialog, public std::enable_shared_from_this<Form> {
     void accept() override {}
 
   private:
-    enum class State { Created, Loaded, Unloading, Unloaded };
+    enum class State { Created, Loaded, Asking, Unloading, Unloaded };
     void ActivateLater();
-    bool AgreesToUnload();
+    bool AgreesIn(State Step, bool (Form::*Asked)());
     void Finish();
     void Abandon();
     void LeaveFrame();

@@ -3,6 +3,7 @@
 #include <QScopedValueRollback>
 
 #include "albums/AlbumRemoval.h"
+#include "controls/fields/ComboBoxList.h"
 #include "controls/fields/Icons.h"
 #include "controls/forms/PaintRate.h"
 #include "controls/forms/ScreenPointer.h"
@@ -19,6 +20,7 @@ namespace neb {
 frmAlbumDelete::frmAlbumDelete() : mUi(std::make_unique<Ui::frmAlbumDelete>()) {
     mUi->setupUi(this);
     setWindowIcon(ThemeIcon(QStringLiteral("album-delete")));
+    ChooseNotByWheel(*mUi->cboAlbum);
     SetControls({mUi->cboAlbum, mUi->lblHint, {mUi->lblAlbum, mUi->cboAlbum}, {mUi->cmdDelete}});
     On(mUi->cmdDelete, &QPushButton::clicked, &frmAlbumDelete::Delete);
     On(mUi->cmdClose, &QPushButton::clicked, &frmAlbumDelete::Close);

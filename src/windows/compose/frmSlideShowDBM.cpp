@@ -220,6 +220,10 @@ void frmSlideShowDBM::SetReadOnlyLook() {
         mUi->abrMenu->SetToolEnabled(QString::fromLatin1(Tool), !ReadOnlyDB);
 }
 
+bool frmSlideShowDBM::Form_QueryUnload() {
+    return mStep != Step::Writing && MayLeave();
+}
+
 // A show that is being written is not left half written.
 bool frmSlideShowDBM::Form_Unload() {
     if (mStep == Step::Writing) return false;
@@ -288,24 +292,37 @@ void frmSlideShowDBM::MoveDown() {
 }
 
 void frmSlideShowDBM::New() {
-    if (AlbumID() != 0) return ChooseShow(0, Cause::User);
-    MsgBox(QStringLiteral("You must first select an album."));
+    if (AlbumID() == 0)
+        MsgBox(QStringLiteral("You must first select an album."));
+    else if (MayLeave())
+        ChooseShow(0, Cause::User);
 }
 
-void frmSlideShowDBM::Save() {
+// Whether what was composed has been dealt with.
+bool frmSlideShowDBM::MayLeave() {
+    if (!IsChanged()) return true;
+    const BoxAnswer Answered =
+        AskSave(tr("Are you sure you want to discard the changes to the current slide show?"),
+                QStringLiteral("Discard Changes Confirmation"));
+    return Answered == BoxAnswer::Save ? SaveShow(Cause::Program) : Answered == BoxAnswer::Discard;
+}
+
+bool frmSlideShowDBM::SaveShow(Cause Who) {
     ShowContent Show = Content();
     const Answer<> IsRight = CheckShow(Show, *DBEngine);
     mUi->txtName->setText(Show.Name);
-    if (!Tell(IsRight)) return;
+    if (!Tell(IsRight)) return false;
     Answer<Announcement> Written = Write(Show);
     FollowWaiting();
-    if (!Tell(Written)) return;
-    MsgBox(QStringLiteral("Slide Show Saved Successfully."), QStringLiteral("Save Successful"),
-           BoxIcon::Information);
+    if (!Tell(Written)) return false;
+    if (Who == Cause::User)
+        MsgBox(QStringLiteral("Slide Show Saved Successfully."), QStringLiteral("Save Successful"),
+               BoxIcon::Information);
     Written->Now();
-    if (!IsLoaded() || AlbumID() != Show.AlbumID) return;
+    if (!IsLoaded() || AlbumID() != Show.AlbumID) return true;
     LoadSlideShowsList();
     ChooseShow(mUi->cboSlideShows->findData(Show.SlideShowID), Cause::User);
+    return true;
 }
 
 // What other windows do meanwhile is followed behind it, after a fault as well: what stands in the
@@ -344,7 +361,7 @@ void frmSlideShowDBM::Delete() {
     Deleted->Now();
     if (!IsLoaded() || AlbumID() != From) return;
     LoadSlideShowsList();
-    New();
+    ChooseShow(0, Cause::User);
 }
 
 void frmSlideShowDBM::Print() {

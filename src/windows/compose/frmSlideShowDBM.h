@@ -35,6 +35,7 @@ class frmSlideShowDBM : public Form, public ChangeReceiver {
 
   protected:
     void Form_Load() override;
+    bool Form_QueryUnload() override;
     bool Form_Unload() override;
     bool IsBusy() const override;
     void FinishEdits() override;
@@ -45,7 +46,7 @@ class frmSlideShowDBM : public Form, public ChangeReceiver {
     using Action = void (frmSlideShowDBM::*)();
     using Heard = SlideReading::HeardChange;
     // Who has chosen a show: the user, who is shown it, or the program, which brings the box in
-    // step while the window keeps what it holds.
+    // step while the window keeps what it holds. And who has one saved: the user is told of it.
     enum class Cause { User, Program };
     // What the window is at besides the reading of slides.
     enum class Step { None, Showing, Writing };
@@ -71,6 +72,8 @@ class frmSlideShowDBM : public Form, public ChangeReceiver {
     clsNEBAlbum* ShownAlbum() const;
     void cboAlbum_Click();
     void cboSlideShows_Click();
+    bool MayTakeUpAlbum();
+    void ReadShow();
     void ChooseShow(int Index, Cause Who);
     void LoadSlideShowsList();
     void FollowAlbum();
@@ -82,6 +85,9 @@ class frmSlideShowDBM : public Form, public ChangeReceiver {
     void FollowReading();
     void ShowChosenShow();
     void ShowDetails(const ShowContent& Show);
+    void NoteAsStored();
+    bool IsChanged();
+    bool MayLeave();
     ShowContent Content() const;
 
     // What the user does.
@@ -92,10 +98,11 @@ class frmSlideShowDBM : public Form, public ChangeReceiver {
     void MoveUp();
     void MoveDown();
     void New();
-    void Save();
+    void Save() { SaveShow(Cause::User); }
+    bool SaveShow(Cause Who);
     Answer<Announcement> Write(ShowContent& Show);
     void SaveAsNew();
-    void Cancel() { cboSlideShows_Click(); }
+    void Cancel() { ReadShow(); }
     void Close() { Unload(); }
     void Delete();
     void Print();

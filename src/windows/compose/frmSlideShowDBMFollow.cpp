@@ -38,9 +38,26 @@ clsNEBAlbum* frmSlideShowDBM::ShownAlbum() const {
 // Another album that is chosen while one is being read is read next, and shown by who began.
 void frmSlideShowDBM::cboAlbum_Click() {
     const auto Held = shared_from_this();
+    if (!MayTakeUpAlbum()) return;
     FollowAlbum();
     if (AlbumID() == 0) return;
     LoadAlbumSlides();
+}
+
+// The box stands at the album whose show the question is about until that has been answered.
+bool frmSlideShowDBM::MayTakeUpAlbum() {
+    const std::int32_t Wanted = AlbumID();
+    FinishEdits();
+    ComboBoxList List = Albums();
+    const auto Choose = [&](std::int32_t AlbumID) {
+        const QSignalBlocker Quiet(mUi->cboAlbum);
+        if (!ComboSelectByData(List, AlbumID, -2)) List.SetListIndex(-1);
+        mUi->cboAlbum->update();
+    };
+    Choose(mDraft.Content().AlbumID);
+    const bool Leaves = MayLeave();
+    if (Leaves) Choose(Wanted);
+    return Leaves;
 }
 
 void frmSlideShowDBM::LoadAlbumSlides() {
@@ -92,6 +109,7 @@ void frmSlideShowDBM::ClearContent() {
     mUi->flxSoundTracks->ShowTracks({});
     Shows().Clear();
     mUi->cboSlideShows->update();
+    NoteAsStored();
 }
 
 // Before a show has been sorted in, all slides are read into the hidden list alone.
@@ -141,10 +159,21 @@ void frmSlideShowDBM::ChooseShow(int Index, Cause Who) {
         mUi->cboSlideShows->setCurrentIndex(Index);
     }
     mUi->cboSlideShows->update();
-    if (Who == Cause::User) cboSlideShows_Click();
+    if (Who == Cause::User)
+        ReadShow();
+    else
+        mDraft.Compose(Content());
 }
 
+// The box stands at the show that the question is about until that has been answered.
 void frmSlideShowDBM::cboSlideShows_Click() {
+    const std::int32_t Wanted = SlideShowID();
+    if (AlbumID() != 0)
+        ChooseShow(mUi->cboSlideShows->findData(mDraft.Content().SlideShowID), Cause::Program);
+    if (MayLeave()) ChooseShow(mUi->cboSlideShows->findData(Wanted), Cause::User);
+}
+
+void frmSlideShowDBM::ReadShow() {
     if (AlbumID() == 0) {
         MsgBox(QStringLiteral("You must first select an album."));
         return;
@@ -152,9 +181,20 @@ void frmSlideShowDBM::cboSlideShows_Click() {
     if (IsBusy()) return;
     ShowChosenShow();
     if (!IsLoaded()) return;
+    NoteAsStored();
+    FollowWaiting();
+}
+
+void frmSlideShowDBM::NoteAsStored() {
     mDraft.Compose(Content());
     mDraft.SetAsStored();
-    FollowWaiting();
+}
+
+// Nothing is while an album or a show is being taken up, nor where all can but be looked at.
+bool frmSlideShowDBM::IsChanged() {
+    if (ReadOnlyDB || AlbumID() == 0 || mStep != Step::None) return false;
+    mDraft.Compose(Content());
+    return mDraft.IsChanged();
 }
 
 // What the user does while the slides are sorted in waits until the show is there.

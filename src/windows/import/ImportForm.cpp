@@ -142,6 +142,24 @@ void ImportForm::Form_Load() {
     if (IsLoaded()) RestoreWindow(*this, mMemory);
 }
 
+// Pictures that were picked out, and captions typed for them.
+bool ImportForm::HoldsWork() const {
+    return !ReadOnlyDB && mPhase == Phase::Waiting && mUi->flxSelected->Rows() > 0;
+}
+
+// Where the window stays in the end because of another one, what it has kept is not kept twice.
+bool ImportForm::Form_QueryUnload() {
+    if (!HoldsWork()) return true;
+    const BoxAnswer Answered =
+        AskSave(tr("Are you sure you want to discard the selected pictures?"),
+                QStringLiteral("Discard Changes Confirmation"));
+    if (Answered != BoxAnswer::Save) return Answered == BoxAnswer::Discard;
+    if (!Keep()) return false;
+    mUi->flxSelected->SetRows(0);
+    UpdateButtons();
+    return true;
+}
+
 bool ImportForm::Form_Unload() {
     if (mPhase != Phase::Loading) SaveWindow(*this, mMemory);
     mPhase = Phase::Closed;
@@ -166,9 +184,11 @@ bool ImportForm::HasSelection() const {
     return false;
 }
 
-void ImportForm::RunImport() {
-    During(Phase::Importing,
-           [this] { RunUnderProgress(*this, [this](frmProgress& Bar) { StartOperation(Bar); }); });
+bool ImportForm::RunImport() {
+    bool Done = false;
+    const auto Work = [&](frmProgress& Bar) { Done = StartOperation(Bar); };
+    During(Phase::Importing, [&] { RunUnderProgress(*this, Work); });
+    return Done;
 }
 
 Answer<Announcement> ImportForm::MakeAlbum(Changes& Door, const QString& Name) {

@@ -42,22 +42,26 @@ class ImportForm : public Form {
   protected:
     explicit ImportForm(const WindowMemory& Memory);
 
-    // The click on the import button.
+    // The click on the import button: keeps the selection, and what follows upon that.
     virtual void Import() = 0;
+    // Brings the selected pictures in; false when that was refused, which the user has been told.
+    virtual bool Keep() = 0;
     // Called after a directory was chosen or dropped.
     virtual void DirectoryChosen(const QString&) {}
 
     void Form_Load() override;
+    bool Form_QueryUnload() override;
     bool Form_Unload() override;
     void dragEnterEvent(QDragEnterEvent* Event) override;
     void dropEvent(QDropEvent* Event) override;
 
     // False after a box when nothing is selected.
     bool HasSelection() const;
-    // Shows frmProgress over StartOperation.
-    void RunImport();
-    // The import itself, under the bar.
-    virtual void StartOperation(frmProgress& Bar) = 0;
+    // Shows frmProgress over StartOperation; whether that was done.
+    bool RunImport();
+    // The import itself, under the bar, at the end of which the window goes. False when nothing
+    // came of it.
+    virtual bool StartOperation(frmProgress& Bar) = 0;
     // Makes an album with its folders; the name is cleaned.
     Answer<Announcement> MakeAlbum(Changes& Door, const QString& Name);
     // What a row of the selection turned into, Row from 0; false ends the import.
@@ -97,6 +101,7 @@ class ImportForm : public Form {
     void FinishEdits() override;
     void Leave(Phase Done);
     void During(Phase What, const std::function<void()>& Do);
+    bool HoldsWork() const;
     bool GoesOn() const;
     bool EnterRows(PictureImport& Run, frmProgress& Bar, const RowDone& Done);
     QStringList SelectedPaths() const;

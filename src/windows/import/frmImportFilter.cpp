@@ -46,12 +46,12 @@ void frmImportFilter::ShowName(const QString& AlbumName) {
     setWindowTitle(QStringLiteral("Picture Import Filter - ") + AlbumName);
 }
 
-void frmImportFilter::Import() {
-    if (HasSelection()) RunImport();
+bool frmImportFilter::Keep() {
+    return HasSelection() && RunImport();
 }
 
-void frmImportFilter::StartOperation(frmProgress& Bar) {
-    if (mTarget.AlbumID != 0 || MakeTarget()) ImportIntoAlbum(Bar);
+bool frmImportFilter::StartOperation(frmProgress& Bar) {
+    return (mTarget.AlbumID != 0 || MakeTarget()) && ImportIntoAlbum(Bar);
 }
 
 bool frmImportFilter::MakeTarget() {
@@ -65,18 +65,19 @@ bool frmImportFilter::MakeTarget() {
     return false;
 }
 
-void frmImportFilter::ImportIntoAlbum(frmProgress& Bar) {
+// Who only wants the window closed is not led on to the next one.
+bool frmImportFilter::ImportIntoAlbum(frmProgress& Bar) {
     if (!DBEngine->GetAlbum(mTarget.AlbumID))
         throw Fault(QStringLiteral("The Album was not found."));
     Changes Door(*DBEngine, this);
     Announcement Imported = Door.AsOne(Change::Kind::SlidesImported, mTarget.AlbumID);
     const std::optional<ImportTally> Tally = EnterAll(Door, Bar);
-    if (!Tally) return Imported.Never();
+    if (!Tally) return Imported.Never(), false;
     MsgBox(Tally->Text());
     Imported.Now();
     Bar.Unload();
-    Unload();
-    OpenSlideShowMgr();
+    if (Unload()) OpenSlideShowMgr();
+    return true;
 }
 
 // Nothing when the window was closed meanwhile: its album may have gone.

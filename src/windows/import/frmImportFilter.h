@@ -26,8 +26,9 @@ class frmImportFilter : public ImportForm, public ChangeReceiver {
                       const EventKeys& EventData) override;
 
   protected:
-    void Import() override;
-    void StartOperation(frmProgress& Bar) override;
+    void Import() override { Keep(); }
+    bool Keep() override;
+    bool StartOperation(frmProgress& Bar) override;
 
   private:
     // What the caller has set.
@@ -44,7 +45,7 @@ class frmImportFilter : public ImportForm, public ChangeReceiver {
     };
 
     bool MakeTarget();
-    void ImportIntoAlbum(frmProgress& Bar);
+    bool ImportIntoAlbum(frmProgress& Bar);
     std::optional<ImportTally> EnterAll(Changes& Door, frmProgress& Bar);
     void OpenSlideShowMgr() const;
     void ShowName(const QString& AlbumName);

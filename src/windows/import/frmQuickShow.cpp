@@ -51,36 +51,39 @@ bool frmQuickShow::HasFreeName() {
 
 // The show runs when both windows, this one and the one of the progress, have gone.
 void frmQuickShow::Import() {
+    if (Keep()) RunSlideShow(mMade.AlbumID, mMade.Name, mMade.SlideShowID);
+}
+
+bool frmQuickShow::Keep() {
     if (mUi->txtName->text().isEmpty()) {
         MsgBox(QStringLiteral("You must specify a name for the new slideshow."));
-        return;
+        return false;
     }
     mUi->txtName->setText(ConvertQuotes(mUi->txtName->text()));
-    if (!HasSelection() || !HasFreeName()) return;
-    RunImport();
-    if (mMade.SlideShowID != 0) RunSlideShow(mMade.AlbumID, mMade.Name, mMade.SlideShowID);
+    return HasSelection() && HasFreeName() && RunImport();
 }
 
 // The one name is the album's and the show's. Nothing of a half-made show stays, and nobody hears
 // of it.
-void frmQuickShow::StartOperation(frmProgress& Bar) {
+bool frmQuickShow::StartOperation(frmProgress& Bar) {
     Changes Door(*DBEngine, this);
     Made What{.Name = mUi->txtName->text()};
     auto Album = MakeAlbum(Door, What.Name);
     if (!Tell(Album)) {
         MsgBox(QStringLiteral("Failed to save album."));
-        return;
+        return false;
     }
     What.AlbumID = Album->What().AlbumID;
     clsNEBSlideShow Show;
     if (!FillAlbum(Door, What, Show, Bar) || !SaveShow(Door, What, std::move(Show))) {
         Album->Never();
-        return;
+        return false;
     }
     mMade = What;
     Album->Now();
     Bar.Unload();
     Unload();
+    return true;
 }
 
 // A picture that fails takes the album with it.

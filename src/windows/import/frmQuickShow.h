@@ -18,7 +18,8 @@ class frmQuickShow : public ImportForm {
 
   protected:
     void Import() override;
-    void StartOperation(frmProgress& Bar) override;  // makes album and show
+    bool Keep() override;
+    bool StartOperation(frmProgress& Bar) override;  // makes album and show
     void DirectoryChosen(const QString& Directory) override;
     void Form_Load() override;
 

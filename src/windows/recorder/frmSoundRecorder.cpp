@@ -94,6 +94,17 @@ void frmSoundRecorder::Form_Load() {
     ShowProgress();
 }
 
+// What is still being spoken has been spoken for something.
+bool frmSoundRecorder::Form_QueryUnload() {
+    if (!mSound || mClip.IsSaved) return true;
+    if (mClip.Mode == QLatin1String(Recording)) Run(cmdStop);
+    if (mClip.Seconds <= 0) return true;
+    const BoxAnswer Answered = AskSave(tr("Are you sure you want to discard the recording?"),
+                                       QStringLiteral("Discard Changes Confirmation"));
+    if (Answered == BoxAnswer::Save) Keep();
+    return Answered != BoxAnswer::Cancel;
+}
+
 bool frmSoundRecorder::Form_Unload() {
     Timer1->stop();
     tmrMeter->stop();
@@ -144,9 +155,13 @@ void frmSoundRecorder::StartProgress() {
 // A file that cannot be written leaves the window, and the recording in it, as they are.
 void frmSoundRecorder::Save() {
     if (!mSound) return;
+    Keep();
+    Unload();
+}
+
+void frmSoundRecorder::Keep() {
     mSound->RecorderSaveToFile(mClip.SavePath);
     mClip.IsSaved = true;
-    Unload();
 }
 
 void frmSoundRecorder::Tick() {

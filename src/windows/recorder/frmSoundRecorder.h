@@ -26,6 +26,7 @@ class frmSoundRecorder : public Form {
 
   protected:
     void Form_Load() override;
+    bool Form_QueryUnload() override;
     bool Form_Unload() override;
     void changeEvent(QEvent* Event) override;
 
@@ -48,6 +49,7 @@ class frmSoundRecorder : public Form {
     void Enable(unsigned On);
     void StartProgress();
     void Save();
+    void Keep();
     void Tick();
     void LoadIcons();
     void ReserveStatus();

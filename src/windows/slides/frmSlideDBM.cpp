@@ -155,8 +155,12 @@ void frmSlideDBM::Form_Activate() {
     Unload();
 }
 
+bool frmSlideDBM::Form_QueryUnload() {
+    return !IsBusy() && MayLeave();
+}
+
 bool frmSlideDBM::Form_Unload() {
-    if (IsBusy() || (mInHand.IsChanged() && !AskDiscard())) return false;
+    if (IsBusy()) return false;
     SaveWindow(*this, Memory);
     return true;
 }
@@ -188,7 +192,7 @@ void frmSlideDBM::ShowAlbum(Cause Why) {
 void frmSlideDBM::ShowChosen(Cause Why) {
     if (mUi->cboAlbum->currentIndex() < 0) return;
     mUi->cmdDelete->setEnabled(!ReadOnlyDB);
-    if (Why == Cause::User && mInHand.IsChanged() && !AskDiscard()) return BackToEdited();
+    if (Why == Cause::User && mInHand.IsChanged() && !MayShowChosen()) return;
     if (mUi->cboSlides->currentIndex() < 1) return ShowNew();
     const std::optional<BoxRequest> Problem = ShowSlide();
     if (Problem && Why != Cause::OtherWindow) ShowBox(*Problem);
@@ -201,6 +205,20 @@ void frmSlideDBM::BackToEdited() {
         LoadAlbumSlides(Cause::User);
     }
     Lists().ChooseSlide(mInHand.SlideID());
+}
+
+// The lists stand at the slide that the question is about, and where it is saved, until that has
+// been answered; then at the chosen one again.
+bool frmSlideDBM::MayShowChosen() {
+    const std::int32_t Album = Lists().AlbumID(), Slide = Lists().SlideID();
+    BackToEdited();
+    if (!MayLeave()) return false;
+    if (Lists().AlbumID() != Album && Lists().ChooseAlbum(Album)) {
+        ShowAlbumName();
+        LoadAlbumSlides(Cause::User);
+    }
+    Lists().ChooseSlide(Slide);
+    return true;
 }
 
 // What the user is in the middle of stays on the screen: it can be saved as before, or as a new

@@ -35,6 +35,7 @@ class frmSlideDBM : public Form, public ChangeReceiver {
   protected:
     void Form_Load() override;
     void Form_Activate() override;
+    bool Form_QueryUnload() override;
     bool Form_Unload() override;
     bool IsBusy() const override { return mStage == Stage::Working; }
     void changeEvent(QEvent* Event) override;
@@ -75,6 +76,7 @@ class frmSlideDBM : public Form, public ChangeReceiver {
     void LoadAlbumSlides(Cause Why);
     void ShowAlbumName();
     void BackToEdited();
+    bool MayShowChosen();
 
     // The slide on screen.
     std::optional<BoxRequest> ShowSlide();
@@ -82,7 +84,7 @@ class frmSlideDBM : public Form, public ChangeReceiver {
     void ShowFields();
     void ShowSound(bool HasSound);
     void ShowChanged(bool Changed);
-    bool AskDiscard() const;
+    bool MayLeave();
     Answer<ReadyPicture> LoadGraphic(const QString& Path);
     Answer<ReadyPicture> LoadStored();
     void ShowPicture(const ReadyPicture& Ready);
@@ -102,7 +104,8 @@ class frmSlideDBM : public Form, public ChangeReceiver {
     void GoTo(int (*Step)(int Index, int Last));
     void Cancel();
     void Close() { Unload(); }
-    void Save();
+    void Save() { SaveInHand(); }
+    bool SaveInHand();
     bool ConfirmCaption() const;
     Answer<Announcement> Store(const SlideInHand::JpegMaker& Jpeg);
     bool ConfirmDelete() const;

@@ -99,10 +99,16 @@ void frmSlideDBM::ShowChanged(bool Changed) {
     mUi->cmdCancel->setEnabled(Changed);
 }
 
-bool frmSlideDBM::AskDiscard() const {
-    return AskYesNo(
-        QStringLiteral("Are you sure you want to discard the changes to the current slide?"),
-        QStringLiteral("Discard Changes Confirmation"));
+// Whether what was made of the slide has been dealt with. Without an album there is nowhere to save
+// it.
+bool frmSlideDBM::MayLeave() {
+    const auto Question =
+        QStringLiteral("Are you sure you want to discard the changes to the current slide?");
+    const auto Title = QStringLiteral("Discard Changes Confirmation");
+    if (!mInHand.IsChanged()) return true;
+    if (mUi->cboAlbum->currentIndex() < 0) return AskYesNo(Question, Title);
+    const BoxAnswer Answered = AskSave(Question, Title);
+    return Answered == BoxAnswer::Save ? SaveInHand() : Answered == BoxAnswer::Discard;
 }
 
 frmSlideDBM::ReadyPicture frmSlideDBM::MakeReady(ImgX Whole, QSize LargestScreen) {
@@ -219,13 +225,13 @@ void frmSlideDBM::DropSound() {
 }
 
 void frmSlideDBM::New() {
-    if (mInHand.IsChanged() && !AskDiscard()) return;
+    if (!MayLeave()) return;
     Lists().ChooseSlideAt(mUi->cboSlides->count() > 0 ? 0 : -1);
     ShowNew();
 }
 
 void frmSlideDBM::GoTo(int (*Step)(int Index, int Last)) {
-    if (mInHand.IsChanged() && !AskDiscard()) return;
+    if (!MayLeave()) return;
     const int Index = Step(mUi->cboSlides->currentIndex(), mUi->cboSlides->count() - 1);
     if (Index < 0) return;
     Lists().ChooseSlideAt(Index);
@@ -251,7 +257,7 @@ bool frmSlideDBM::ConfirmCaption() const {
     return AskYesNo(QStringLiteral("Are you sure you want to save the slide without a caption?\n"
                                    "NOTE: It may be hard to tell slides apart in the combo\n"
                                    "without captions."),
-                    QStringLiteral("Missing Caption Confirmation"));
+                    QStringLiteral("Missing Caption Confirmation"), BoxAnswer::Yes);
 }
 
 // A fault on the way leaves the changes on the screen, to be saved again. A new slide is in the
@@ -268,20 +274,21 @@ Answer<Announcement> frmSlideDBM::Store(const SlideInHand::JpegMaker& Jpeg) try 
 
 // The picture is made before anything is changed, so that the rest is done in one go; what went
 // wrong with it comes up in its turn.
-void frmSlideDBM::Save() {
-    if (ReadOnlyDB || !ConfirmCaption()) return;
+bool frmSlideDBM::SaveInHand() {
+    if (ReadOnlyDB || !ConfirmCaption()) return false;
     mUi->txtDscr->setText(CleanText(mUi->txtDscr->text()));
     mInHand.MoveTo(Lists().AlbumID(), Lists().SlideID());
-    if (!Tell(CheckPicture(DBEngine->DBPath(), mInHand))) return;
+    if (!Tell(CheckPicture(DBEngine->DBPath(), mInHand))) return false;
     SlideInHand::JpegMaker Jpeg = mInHand.Jpeg();
     if (Jpeg) Jpeg = [Ready = Aside(Jpeg)] { return Ready.get(); };
     Answer<Announcement> Saved = Store(Jpeg);
-    if (!Tell(Saved)) return;
+    if (!Tell(Saved)) return false;
     Saved->Now();
     ShowChanged(false);
     LoadAlbumSlides(Cause::Program);
     Lists().ChooseSlide(mInHand.SlideID());
     ShowChosen(Cause::Program);
+    return true;
 }
 
 bool frmSlideDBM::ConfirmDelete() const {

@@ -84,13 +84,17 @@ void frmSlideMgrBulk::LoadAlbumMgr(std::int32_t AlbumID) {
         TheOpeners().ShowAsChild(*this);
     else
         ShowModeless();
-    if (IsLoaded()) AlbumChosen();
+    if (IsLoaded()) ShowAlbum();
 }
 
 void frmSlideMgrBulk::Form_Load() {
     for (QPushButton* Button : {mUi->cmdSave, mUi->cmdDelete, mUi->cmdCancel})
         Button->setEnabled(!ReadOnlyDB);
     RestoreWindow(*this, Memory);
+}
+
+bool frmSlideMgrBulk::Form_QueryUnload() {
+    return MayLeave();
 }
 
 // Work that is under way sees that the window has gone and ends by itself.
@@ -115,6 +119,13 @@ void frmSlideMgrBulk::ListAlbums(std::int32_t AlbumID) {
         Albums.SetListIndex(0);
 }
 
+void frmSlideMgrBulk::ChooseAlbum(std::int32_t AlbumID) {
+    const QSignalBlocker Quiet(mUi->cboAlbum);
+    ComboBoxList Albums(*mUi->cboAlbum);
+    ComboSelectByData(Albums, AlbumID, -2);
+    mUi->cboAlbum->update();
+}
+
 std::int32_t frmSlideMgrBulk::AlbumID() const {
     const ComboBoxList Albums(*mUi->cboAlbum);
     return Albums.ListIndex() < 0 ? 0 : Albums.ItemData(Albums.ListIndex());
@@ -124,8 +135,19 @@ clsNEBAlbum* frmSlideMgrBulk::ShownAlbum() const {
     return DBEngine && AlbumID() != 0 ? DBEngine->GetAlbum(AlbumID()) : nullptr;
 }
 
+// The list stands at the album whose captions the question is about until that has been answered.
 void frmSlideMgrBulk::AlbumChosen() {
-    mEdits.Clear();
+    const std::int32_t Wanted = AlbumID();
+    if (HasEdits()) {
+        ChooseAlbum(mEdits.AlbumID());
+        if (!MayLeave()) return;
+        ChooseAlbum(Wanted);
+    }
+    ShowAlbum();
+}
+
+void frmSlideMgrBulk::ShowAlbum() {
+    mEdits.Begin(AlbumID());
     FollowAlbum();
     Fill();
 }
@@ -164,7 +186,7 @@ void frmSlideMgrBulk::AfterEdit(int Row, int Col) {
 
 void frmSlideMgrBulk::NoteEdit(int Row) {
     const std::int32_t SlideID = SlideIn(*mUi->flxAlbum, Row);
-    clsNEBAlbum* Album = ShownAlbum();
+    clsNEBAlbum* Album = DBEngine->GetAlbum(mEdits.AlbumID());
     mEdits.Note(SlideID, mUi->flxAlbum->TextMatrix(Row, clsImageBuffer::ColText),
                 Album ? Album->GetSlide(SlideID) : nullptr);
 }
@@ -193,10 +215,46 @@ void frmSlideMgrBulk::Save() {
     mUi->cboAlbum->setFocus();
 }
 
+// What was typed for a slide that has gone is no work any more.
+bool frmSlideMgrBulk::HasEdits() const {
+    clsNEBAlbum* Album = DBEngine->GetAlbum(mEdits.AlbumID());
+    const QList<std::int32_t> Typed = mEdits.All().keys();
+    return Album && std::any_of(Typed.begin(), Typed.end(), [Album](std::int32_t SlideID) {
+               return Album->GetSlide(SlideID) != nullptr;
+           });
+}
+
+// Whether the captions that were typed have been dealt with.
+bool frmSlideMgrBulk::MayLeave() {
+    if (!HasEdits()) return true;
+    const BoxAnswer Answered =
+        AskSave(tr("Are you sure you want to discard the changes to the captions?"),
+                QStringLiteral("Discard Changes Confirmation"));
+    return Answered == BoxAnswer::Save ? SaveEdits() : Answered == BoxAnswer::Discard;
+}
+
+// Those that were typed alone, also of slides that are just being listed anew.
+bool frmSlideMgrBulk::SaveEdits() {
+    if (!HasAlbum()) return false;
+    CaptionSave Saved(*DBEngine, this, AlbumID());
+    const auto Typed = mEdits.All();
+    for (auto Each = Typed.begin(); Each != Typed.end(); ++Each) SaveEdit(Saved, Each.key(), *Each);
+    if (Saved.Tally().Failed > 0)
+        MsgBox(Saved.Tally().Text(QStringLiteral("saved"), QStringLiteral("save")),
+               QStringLiteral("Operation Completed"), BoxIcon::Information);
+    return true;
+}
+
+void frmSlideMgrBulk::SaveEdit(CaptionSave& Saved, std::int32_t SlideID, const QString& Typed) {
+    const int Row = RowOfSlide(*mUi->flxAlbum, SlideID);
+    if (Row >= 0) return void(SaveRow(Saved, Row));
+    Saved.Save(SlideID, CleanText(Typed));
+    mEdits.Forget(SlideID);
+}
+
 // While a box is open anything may happen, so the album is looked for anew behind it.
 void frmSlideMgrBulk::SaveRows(CaptionSave& Saved) {
     FlexGrid& Grid = *mUi->flxAlbum;
-    mEdits.Clear();
     Grid.SetRedraw(false);
     const clsNEBAlbum* Album = ShownAlbum();
     for (int Row = 0; Album && Row < Grid.Rows(); ++Row) {
@@ -216,7 +274,9 @@ bool frmSlideMgrBulk::SaveRow(CaptionSave& Saved, int Row) {
     const QString& Typed = Grid.TextMatrix(Row, clsImageBuffer::ColText);
     const QString Caption = CleanText(Typed);
     if (Caption != Typed) Grid.SetTextMatrix(Row, clsImageBuffer::ColText, Caption);
-    return Saved.Save(SlideIn(Grid, Row), Caption);
+    const bool Done = Saved.Save(SlideIn(Grid, Row), Caption);
+    if (Done) mEdits.Forget(SlideIn(Grid, Row));
+    return Done;
 }
 
 void frmSlideMgrBulk::Cancel() {

@@ -29,6 +29,7 @@ class frmSlideMgrBulk : public Form, public ChangeReceiver {
 
   protected:
     void Form_Load() override;
+    bool Form_QueryUnload() override;
     bool Form_Unload() override;
     void FinishEdits() override;
 
@@ -36,9 +37,11 @@ class frmSlideMgrBulk : public Form, public ChangeReceiver {
     void SetUpGrid();
     void SetUpButtons();
     void ListAlbums(std::int32_t AlbumID);
+    void ChooseAlbum(std::int32_t AlbumID);
     std::int32_t AlbumID() const;  // of the album on view; 0: none
     clsNEBAlbum* ShownAlbum() const;
     void AlbumChosen();
+    void ShowAlbum();
     void FollowAlbum();
 
     void Fill();
@@ -56,6 +59,10 @@ class frmSlideMgrBulk : public Form, public ChangeReceiver {
 
     bool HasAlbum() const;
     void Save();
+    bool HasEdits() const;
+    bool MayLeave();
+    bool SaveEdits();
+    void SaveEdit(CaptionSave& Saved, std::int32_t SlideID, const QString& Typed);
     void SaveRows(CaptionSave& Saved);
     bool SaveRow(CaptionSave& Saved, int Row);
     void Cancel();

@@ -97,7 +97,7 @@ void frmSlideMgrBulk::AlbumDeleted(const EventKeys& Keys) {
     ComboBoxList Albums(*mUi->cboAlbum);
     ComboRemoveByData(Albums, Keys[0]);
     if (Shown)
-        AlbumChosen();
+        ShowAlbum();
     else
         FollowAlbum();
 }
@@ -105,7 +105,7 @@ void frmSlideMgrBulk::AlbumDeleted(const EventKeys& Keys) {
 void frmSlideMgrBulk::AlbumsChanged(const EventKeys& Keys) {
     const std::int32_t Shown = AlbumID();
     ListAlbums(Shown == 0 ? -1 : Shown);
-    if (AlbumID() != Shown) return AlbumChosen();
+    if (AlbumID() != Shown) return ShowAlbum();
     FollowAlbum();
     if (Shown != 0 && Shown == Keys[0]) Reload();
 }

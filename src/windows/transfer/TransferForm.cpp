@@ -270,7 +270,8 @@ bool TransferForm::IsWanted(const TransferOther::Place& Found) {
         QStringLiteral("The specified directory does not hold an NEB Slide Show Database.");
     const QString Title = QStringLiteral("Invalid Directory");
     if (mKind.Exports)
-        return AskYesNo(NoDatabase + u'\n' + tr("Do you want to make a new one there?"), Title);
+        return AskYesNo(NoDatabase + u'\n' + tr("Do you want to make a new one there?"), Title,
+                        BoxAnswer::Yes);
     MsgBox(NoDatabase, Title, BoxIcon::Information);
     return false;
 }

@@ -59,9 +59,45 @@ TEST_F(Boxes, ShowsTextTitleAndIconAsGiven) {
 TEST_F(Boxes, EnterAnswersAsTheQuestionWants) {
     const auto Enter = [](QMessageBox& Box) { QTest::keyClick(&Box, Qt::Key_Return); };
     BoxRequest Request = YesNo;
+    EXPECT_EQ(BoxAnswer::No, Answer(Request, Enter)) << "unless it says otherwise";
+    Request.Default = BoxAnswer::Yes;
     EXPECT_EQ(BoxAnswer::Yes, Answer(Request, Enter));
-    Request.Default = BoxAnswer::No;
-    EXPECT_EQ(BoxAnswer::No, Answer(Request, Enter));
+}
+
+TEST_F(Boxes, ABoxThatAsksAboutSavingAnswersWithItsButtonsAndCancelsByAnyOtherWay) {
+    BoxRequest Request = YesNo;
+    Request.Buttons = BoxButtons::SaveDiscardCancel;
+    const auto Click = [](QMessageBox::StandardButton Which) {
+        return [Which](QMessageBox& Box) { Box.button(Which)->click(); };
+    };
+    EXPECT_EQ(BoxAnswer::Save, Answer(Request, Click(QMessageBox::Save)));
+    EXPECT_EQ(BoxAnswer::Discard, Answer(Request, Click(QMessageBox::Discard)));
+    EXPECT_EQ(BoxAnswer::Cancel, Answer(Request, Click(QMessageBox::Cancel)));
+    for (const auto Key : {Qt::Key_Return, Qt::Key_Escape})
+        EXPECT_EQ(BoxAnswer::Cancel,
+                  Answer(Request, [Key](QMessageBox& Box) { QTest::keyClick(&Box, Key); }));
+    EXPECT_EQ(BoxAnswer::Cancel, Answer(Request, [](QMessageBox& Box) { Box.close(); }));
+    EXPECT_EQ(BoxAnswer::Discard, Answer(Request, [](QMessageBox& Box) {
+                  QTest::keyClick(&Box, Qt::Key_D, Qt::AltModifier);
+              }));
+}
+
+TEST_F(Boxes, AnAnswerInWordsIsGivenByItsButtonAlone) {
+    BoxRequest Request = YesNo;
+    Request.YesWords = QStringLiteral("End and Lose the Changes");
+    Request.NoWords = QStringLiteral("Go On");
+    const auto Press = [](const QString& Words) {
+        return [Words](QMessageBox& Box) {
+            for (QAbstractButton* Each : Box.buttons())
+                if (Each->text() == Words) Each->click();
+        };
+    };
+    EXPECT_EQ(BoxAnswer::Yes, Answer(Request, Press(Request.YesWords)));
+    EXPECT_EQ(BoxAnswer::No, Answer(Request, Press(Request.NoWords)));
+    for (const auto Key : {Qt::Key_Return, Qt::Key_Escape})
+        EXPECT_EQ(BoxAnswer::No,
+                  Answer(Request, [Key](QMessageBox& Box) { QTest::keyClick(&Box, Key); }));
+    EXPECT_EQ(BoxAnswer::No, Answer(Request, [](QMessageBox& Box) { Box.close(); }));
 }
 
 TEST_F(Boxes, DetailsOpenAtAButtonAndChangeNoAnswer) {
@@ -127,9 +163,9 @@ TEST_F(Boxes, TheTitleIsTheProgramsNameWhenNoneIsGiven) {
     QGuiApplication::setApplicationDisplayName(Before);
 }
 
-TEST_F(Boxes, EnterIsYesAndEscapeAndTheCloseButtonAreNo) {
-    EXPECT_EQ(BoxAnswer::Yes, Answer(YesNo, [](QMessageBox& Box) {
-                  EXPECT_EQ(Box.button(QMessageBox::Yes), Box.defaultButton());
+TEST_F(Boxes, EnterAndEscapeAndTheCloseButtonAreNo) {
+    EXPECT_EQ(BoxAnswer::No, Answer(YesNo, [](QMessageBox& Box) {
+                  EXPECT_EQ(Box.button(QMessageBox::No), Box.defaultButton());
                   QTest::keyClick(&Box, Qt::Key_Return);
               }));
     EXPECT_EQ(BoxAnswer::No,

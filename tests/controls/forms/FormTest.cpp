@@ -5,6 +5,7 @@
 #include <QTimer>
 
 #include "controls/forms/TestForm.h"
+#include "harness/ScriptedBoxes.h"
 #include "support/Fault.h"
 
 using namespace neb;
@@ -48,6 +49,63 @@ TEST_F(FormTest, ListsLoadedFormsInTheOrderOfLoading) {
     const std::vector<std::shared_ptr<Form>> Rest{Third, Second};
     EXPECT_EQ(Rest, LoadedForms());
     EXPECT_FALSE(Window->IsLoaded());
+}
+
+TEST_F(FormTest, ItAsksBeforeItGoesAndStaysWhenTheAnswerIsNo) {
+    Window->Load();
+    Window->OnQuery = [] { return false; };
+    EXPECT_FALSE(Window->Unload());
+    EXPECT_TRUE(Window->IsLoaded());
+    EXPECT_EQ(0, Window->Unloads);
+    EXPECT_EQ(1, Window->Finished) << "what is being typed counts";
+    Window->OnQuery = {};
+    EXPECT_TRUE(Window->Unload());
+    EXPECT_EQ(2, Window->Queries);
+    EXPECT_TRUE(Window->QueryUnload()) << "it has gone";
+    EXPECT_EQ(2, Window->Queries);
+}
+
+TEST_F(FormTest, OneThatWasAskedGoesWithoutBeingAskedAgain) {
+    Window->Load();
+    EXPECT_TRUE(Window->QueryUnload());
+    EXPECT_TRUE(Window->IsLoaded());
+    EXPECT_TRUE(Window->UnloadAsked());
+    EXPECT_FALSE(Window->IsLoaded());
+    EXPECT_EQ(1, Window->Queries);
+    EXPECT_EQ(1, Window->Unloads);
+}
+
+TEST_F(FormTest, WhileItAsksItIsThereAndGoesForNobody) {
+    Window->Load();
+    bool Went = true, Asked = true;
+    Window->OnQuery = [&] {
+        EXPECT_TRUE(Window->IsLoaded()) << "it may have to save";
+        Went = Window->Unload();
+        Asked = Window->QueryUnload();
+        return true;
+    };
+    EXPECT_TRUE(Window->Unload());
+    EXPECT_FALSE(Went);
+    EXPECT_FALSE(Asked);
+    EXPECT_EQ(1, Window->Queries);
+}
+
+TEST_F(FormTest, AFaultWhileItAsksLeavesItOnTheScreen) {
+    Window->ShowModeless();
+    for (const bool ByFrame : {false, true}) {
+        Window->OnQuery = []() -> bool { throw Fault(QStringLiteral("full")); };
+        if (ByFrame) {
+            ScriptedBoxes Boxes;
+            Boxes.Expect(QStringLiteral("full"), QStringLiteral("Operation Failed"), BoxAnswer::Ok);
+            Window->close();
+        } else {
+            EXPECT_EQ("full", TextOf([&] { Window->Unload(); }));
+        }
+        EXPECT_TRUE(Window->IsLoaded());
+        EXPECT_TRUE(Window->isVisible());
+    }
+    Window->OnQuery = {};
+    EXPECT_TRUE(Window->Unload());
 }
 
 TEST_F(FormTest, ALoadedFormOutlivesItsLastReferenceAndGoesAfterItsUnload) {

@@ -13,8 +13,8 @@ namespace neb::harness {
 class TestForm : public Form {
   public:
     std::function<void()> OnLoad, OnActivate, OnClose;
-    std::function<bool()> OnUnload;
-    int Loads = 0, Activations = 0, Unloads = 0;
+    std::function<bool()> OnQuery, OnUnload;
+    int Loads = 0, Activations = 0, Queries = 0, Unloads = 0;
     bool Busy = false;
     int Finished = 0;
     using Form::Command;
@@ -30,6 +30,10 @@ class TestForm : public Form {
     void Form_Activate() override {
         ++Activations;
         if (OnActivate) OnActivate();
+    }
+    bool Form_QueryUnload() override {
+        ++Queries;
+        return OnQuery ? OnQuery() : true;
     }
     bool Form_Unload() override {
         ++Unloads;

@@ -217,7 +217,7 @@ TEST_F(ManagerEnds, WhatIsBeingTypedIsKeptWhenAnotherWindowIsChosen) {
     EXPECT_EQ("2: ,,,,,/music/a.wav", TrackCells());
 }
 
-// Nobody is asked: another show takes the place of the one that was being composed.
+// Another show takes the place of the one that was being composed, which is discarded.
 TEST_F(ManagerEnds, AnotherShowIsShownAsItIsAlthoughSomethingWasBeingTyped) {
     const std::int32_t Walk = OpenGarden({1, 2});
     AddShow(u"Alley"_s, {2, 1, 3});
@@ -226,12 +226,14 @@ TEST_F(ManagerEnds, AnotherShowIsShownAsItIsAlthoughSomethingWasBeingTyped) {
          {std::pair{int(clsImageBuffer::ColText), u"Rose"_s}, {int(ColPlace), u"2"_s}}) {
         Choose("cboSlideShows", Walk);
         Begin(Right(), 0, Col, Text);
+        ExpectAsk();
         Choose("cboSlideShows", 2);
         EXPECT_EQ("d|e / b|a|c", Lists());
         EXPECT_EQ("1|2|3", Places());
         EXPECT_FALSE(Right().IsEditing());
     }
     Begin(Tracks(), 0, TrackList::ColFile, u"/music/a.wav"_s);
+    ExpectAsk();
     Choose("cboSlideShows", Walk);
     EXPECT_EQ("", TrackCells());
     EXPECT_EQ("c|d|e / a|b", Lists());
@@ -246,9 +248,9 @@ TEST_F(ManagerEnds, AnotherAlbumIsShownAsItIsAlthoughSomethingWasBeingTyped) {
     AddAlbumSlides({u"chest"_s, u"trunk"_s});
     Tell(u"Album"_s, u"Insert"_s, {AlbumID});
     for (const int Col : {int(clsImageBuffer::ColText), int(ColPlace)}) {
-        Choose("cboAlbum", Garden);
         Push("cmdMoveRightAll");
         Begin(Right(), 3, Col, u"1"_s);
+        ExpectAsk();
         Choose("cboAlbum", AlbumID);
         EXPECT_FALSE(Right().IsEditing());
         EXPECT_EQ("chest|trunk / ", Lists());
@@ -256,6 +258,8 @@ TEST_F(ManagerEnds, AnotherAlbumIsShownAsItIsAlthoughSomethingWasBeingTyped) {
         PutCaption(1, u"Rose"_s);
         Put(Right(), 1, ColPlace, u"1"_s);
         EXPECT_EQ(" / Rose|chest", Lists());
+        ExpectAsk();
+        Choose("cboAlbum", Garden);
     }
 }
 
@@ -274,14 +278,16 @@ TEST_F(ManagerEnds, ATurnOfTheWheelChoosesNoOtherShow) {
     }
 }
 
-TEST_F(ManagerEnds, ClosingAsksNothingAndLeavesTheStoredShow) {
+TEST_F(ManagerEnds, ClosingThatDiscardsLeavesTheStoredShow) {
     const std::int32_t Walk = OpenGarden({1, 2});
     Push("cmdMoveRightAll");
     Begin(Right(), 0, clsImageBuffer::ColText, u"Rose"_s);
+    ExpectAsk();
     Push("cmdClose");
     EXPECT_FALSE(W->IsLoaded());
     OpenMgr(AlbumID, Walk);
     Begin(Right(), 0, ColPlace, u"2"_s);
+    ExpectAsk();
     W->close();
     EXPECT_FALSE(W->IsLoaded());
     EXPECT_EQ("Walk 0 1:1[] 2:2[]", Stored(Walk));

@@ -144,6 +144,11 @@ class ManagerRig : public BulkRig {
         ExpectSaved();
         Push("cmdSave");
     }
+    // The question about changes to the show.
+    void ExpectAsk(BoxAnswer Answer = BoxAnswer::Discard) {
+        Boxes.Expect(u"Are you sure you want to discard the changes to the current slide show?"_s,
+                     u"Discard Changes Confirmation"_s, BoxIcon::Question, Answer);
+    }
     static void Tell(const QString& ObjectType, const QString& EventType, const EventKeys& Keys) {
         BroadcastEvent(ObjectType, EventType, nullptr, Keys);
     }

@@ -25,7 +25,7 @@ class ImportMore : public Intake {
         MakePicture(Pics / u"second/sub/c.jpg"_s);
     }
     ~ImportMore() override {
-        if (Window) Window->Unload();
+        if (Window) Intake::Drop(*Window);
     }
     void Show() { Window = ShowFilter(0, Pics / u"first"_s); }
     void PressTool(const char* Name) {

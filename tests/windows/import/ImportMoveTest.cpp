@@ -17,7 +17,7 @@ class ImportMove : public Intake {
         Right = &Selected(*Window);
     }
     ~ImportMove() override {
-        if (Window) Window->Unload();
+        if (Window) Drop(*Window);
     }
     // The four buttons in the order right one, right all, left one, left all: "1" when enabled.
     std::string Enabled() const {

@@ -15,7 +15,7 @@ class ImportSave : public Intake {
     ~ImportSave() override {
         TheOpeners().SlideShowMgr = {};
         Others->Unload();
-        if (Window) Window->Unload();
+        if (Window) Drop(*Window);
     }
     void Show(std::int32_t AlbumID) {
         Others->Load();

@@ -48,7 +48,13 @@ class Intake : public ::testing::Test {
         DBPathCache.clear();
     }
 
+    // Unloads a window with whatever work it holds.
+    static void Drop(Form& Window) {
+        const LettingGo Answers;
+        Window.Unload();
+    }
     static void CloseAll(const char* Why) {
+        const LettingGo Answers;
         for (const auto& Each : LoadedForms()) {
             ADD_FAILURE() << Why << ": " << Each->windowTitle().toStdString();
             Each->Unload();

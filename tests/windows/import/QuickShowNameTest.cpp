@@ -20,7 +20,7 @@ class QuickShowName : public Intake {
         Window->SetImportDir(Pics / u"Mary's walk"_s);
         ShowActive(*Window);
     }
-    ~QuickShowName() override { Window->Unload(); }
+    ~QuickShowName() override { Drop(*Window); }
     QLineEdit& Name() { return In<QLineEdit>(*Window, "txtName"); }
     std::string Text() { return Name().text().toStdString(); }
     void Type(const QString& Keys) {

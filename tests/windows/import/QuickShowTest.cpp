@@ -24,7 +24,7 @@ class QuickShow : public Intake {
     ~QuickShow() override {
         XShow::SetReader({});
         Others->Unload();
-        if (Window) Window->Unload();
+        if (Window) Drop(*Window);
     }
     void Show(int Count, const QString& Name) {
         MakePictures(Count);

@@ -30,6 +30,7 @@ class SoundRecorderWindow : public RecorderRig {
         QTimer::singleShot(0, mWindow.get(), [this, User] {
             (void)QTest::qWaitForWindowActive(mWindow.get());  // else it has no shortcuts yet
             User();
+            const harness::LettingGo Answers;
             mWindow->Unload();
         });
         mWindow->ShowModal();
@@ -62,6 +63,10 @@ class SoundRecorderWindow : public RecorderRig {
         Press("cmdRecord");
         mSound.Buffer->Feed(Bytes);
         Press("cmdStop");
+    }
+    void ExpectAsk(BoxAnswer Answer) {
+        mBoxes.Expect("Are you sure you want to discard the recording?",
+                      "Discard Changes Confirmation", BoxIcon::Question, Answer);
     }
     bool Told(const char* What) const {
         return std::count(mSound.Told.begin(), mSound.Told.end(), What) > 0;

@@ -79,28 +79,55 @@ TEST_F(SoundRecorderWindow, SavesTheRecordingAndCloses) {
     EXPECT_TRUE(Told("microphone released"));
 }
 
-TEST_F(SoundRecorderWindow, ClosingInAnyOtherWayWritesNothing) {
+TEST_F(SoundRecorderWindow, ClosingInAnyOtherWayAsksAndWritesNothingWhenItIsDiscarded) {
     for (const bool ByEscape : {true, false}) {
         Open([&] {
             Record(Speech(300));
-            if (ByEscape)
-                Key(Qt::Key_Escape);
-            else
-                mWindow->close();
-            EXPECT_FALSE(mWindow->IsLoaded());
+            for (const auto Answer : {BoxAnswer::Cancel, BoxAnswer::Discard}) {
+                ExpectAsk(Answer);
+                if (ByEscape)
+                    Key(Qt::Key_Escape);
+                else
+                    mWindow->close();
+                EXPECT_EQ(Answer == BoxAnswer::Cancel, mWindow->IsLoaded());
+            }
         });
         EXPECT_FALSE(mWindow->SoundRecorded());
         EXPECT_FALSE(NameExists(SavePath()));
     }
 }
 
-TEST_F(SoundRecorderWindow, ClosingWhileItRecordsStopsTheMicrophoneAndWritesNothing) {
+TEST_F(SoundRecorderWindow, ClosingSavesTheRecordingWhenThatIsWanted) {
+    Open([&] {
+        Record(Speech(300));
+        ExpectAsk(BoxAnswer::Save);
+        mWindow->close();
+        EXPECT_FALSE(mWindow->IsLoaded());
+    });
+    EXPECT_TRUE(mWindow->SoundRecorded());
+    EXPECT_EQ(ReadFile(SavePath()).mid(44), Speech(300) + '\x80' + '\0');
+}
+
+TEST_F(SoundRecorderWindow, ClosingAsksNothingWhereNothingWasSpoken) {
+    Open([&] {
+        Press("cmdRecord");
+        mWindow->close();
+        EXPECT_FALSE(mWindow->IsLoaded());
+    });
+}
+
+TEST_F(SoundRecorderWindow, ClosingWhileItRecordsStopsTheMicrophoneAndKeepsWhatWasSpoken) {
     Open([&] {
         Press("cmdRecord");
         mSound.Buffer->Feed(Speech(300));
+        ExpectAsk(BoxAnswer::Cancel);
+        Key(Qt::Key_Escape);
+        EXPECT_TRUE(mWindow->IsLoaded());
+        EXPECT_EQ(On(), "Record Play Save");
+        EXPECT_TRUE(Told("stop recording"));
+        ExpectAsk(BoxAnswer::Discard);
         Key(Qt::Key_Escape);
         EXPECT_FALSE(mWindow->IsLoaded());
-        EXPECT_TRUE(Told("stop recording"));
         EXPECT_EQ(mSound.Buffer, nullptr);
     });
     EXPECT_FALSE(mWindow->SoundRecorded());
@@ -111,6 +138,7 @@ TEST_F(SoundRecorderWindow, ClosingWhileItPlaysStopsTheSound) {
     Open([&] {
         Record(Speech(300));
         Press("cmdPlay");
+        ExpectAsk(BoxAnswer::Discard);
         mWindow->close();
         EXPECT_TRUE(Told("stop playing"));
         EXPECT_EQ(mSound.Player, nullptr);

@@ -23,6 +23,7 @@ class BulkRig : public Intake {
         Others->Load();
     }
     ~BulkRig() override {
+        const LettingGo Answers;
         for (const auto& Each : LoadedForms()) Each->Unload();
         ImageBuffer = nullptr;
         Buffer.BufferGrid = nullptr;

@@ -179,7 +179,7 @@ TEST_F(SlideDBMFollow, ATurnedSlideOfADeletedAlbumCanGoIntoAnother) {
     OpenSlide(AddSlide(u"a"_s));
     Push("cmdRotate1");
     DeleteAlbum(AlbumID);
-    ExpectDiscard(BoxAnswer::No);
+    ExpectDiscard(BoxAnswer::Cancel);
     Choose("cboAlbum", Other);
     Push("cmdSave");
     AlbumID = Other;
@@ -224,7 +224,7 @@ TEST_F(SlideDBMFollow, ChangesInAnAlbumThatWasDeletedCanGoIntoAnother) {
     EXPECT_EQ(QSize(50, 20), Shown().size());
     Boxes.Expect(u"Could not find the album."_s);
     Push("cmdSave");
-    ExpectDiscard(BoxAnswer::No);
+    ExpectDiscard(BoxAnswer::Cancel);
     Choose("cboAlbum", Other);
     EXPECT_EQ(Other, Chosen("cboAlbum"));
     EXPECT_EQ(0, Index());

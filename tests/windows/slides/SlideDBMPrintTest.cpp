@@ -59,7 +59,7 @@ TEST_F(SlideDBMPrint, AChosenFileIsPrintedFromWhereItLies) {
     PickPicture(File);
     EXPECT_EQ(File, SlidePrinted());
     EXPECT_EQ(File, SheetPrinted());
-    ExpectDiscard(BoxAnswer::Yes);
+    ExpectDiscard(BoxAnswer::Discard);
     Push("cmdNew");
 }
 
@@ -69,7 +69,7 @@ TEST_F(SlideDBMPrint, AChosenFileNeedsNoAlbum) {
     PickPicture(File);
     EXPECT_EQ(-1, Box("cboAlbum").currentIndex());
     EXPECT_EQ(File, SlidePrinted());
-    ExpectDiscard(BoxAnswer::Yes);
+    ExpectDiscard(BoxAnswer::Discard);
     Push("cmdNew");
 }
 

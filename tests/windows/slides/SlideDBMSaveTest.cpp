@@ -120,7 +120,7 @@ TEST_F(SlideDBMSave, AfterNewACaptionAloneIsSavedAsASlideWithoutAPicture) {
 TEST_F(SlideDBMSave, AfterNewThePictureThatWasDiscardedIsNotStored) {
     OpenSlide(AddSlide(u"a"_s));
     PickPicture(MakePicture(Pics / u"discarded.png"_s, 50, 20));
-    ExpectDiscard(BoxAnswer::Yes);
+    ExpectDiscard(BoxAnswer::Discard);
     Push("cmdNew");
     EXPECT_TRUE(ShowsMessage());
     Type(u"b"_s);

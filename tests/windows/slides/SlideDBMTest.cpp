@@ -86,7 +86,7 @@ TEST_F(SlideDBM, WithoutSlidesNextAndPreviousGoNowhereAndKeepWhatWasTyped) {
     Push("cmdPrev");
     EXPECT_EQ(0, Index());
     Type(u"x"_s);
-    ExpectDiscard(BoxAnswer::Yes);
+    ExpectDiscard(BoxAnswer::Discard);
     Push("cmdNext");
     EXPECT_EQ("x", Text());
     EXPECT_TRUE(Dirty());
@@ -141,14 +141,14 @@ TEST_F(SlideDBM, AskedInEachPlaceNoKeepsTheChangesAndTheSlide) {
     OpenSlide(ID);
     Type(u"changed"_s);
     for (const char* Name : {"cmdNew", "cmdNext", "cmdPrev", "cmdClose"}) {
-        ExpectDiscard(BoxAnswer::No);
+        ExpectDiscard(BoxAnswer::Cancel);
         Push(Name);
         EXPECT_EQ("changed", Text()) << Name;
         EXPECT_EQ(ID, Chosen()) << Name;
         EXPECT_TRUE(Dirty()) << Name;
     }
     for (const int Other : {2, 0}) {
-        ExpectDiscard(BoxAnswer::No);
+        ExpectDiscard(BoxAnswer::Cancel);
         Box("cboSlides").setCurrentIndex(Other);
         EXPECT_EQ("changed", Text());
         EXPECT_EQ(ID, Chosen());
@@ -162,7 +162,7 @@ TEST_F(SlideDBM, AskedInEachPlaceOnceYesDiscardsTheChanges) {
     const auto Change = [&] {
         Choose("cboSlides", ID);
         Type(u"changed"_s);
-        ExpectDiscard(BoxAnswer::Yes);
+        ExpectDiscard(BoxAnswer::Discard);
     };
     Change();
     Push("cmdNext");
@@ -189,7 +189,7 @@ TEST_F(SlideDBM, NoAtTheQuestionKeepsANewSlideNew) {
     OpenSlide(ID);
     Push("cmdNew");
     Type(u"my new one"_s);
-    ExpectDiscard(BoxAnswer::No);
+    ExpectDiscard(BoxAnswer::Cancel);
     Choose("cboSlides", ID);
     EXPECT_EQ(0, Index());
     EXPECT_EQ("my new one", Text());
@@ -200,13 +200,13 @@ TEST_F(SlideDBM, NoAtTheQuestionGoesBackToTheAlbumOfTheEditedSlide) {
     const auto Other = MakeAlbum(u"Other"_s);
     OpenSlide(ID);
     Type(u"changed"_s);
-    ExpectDiscard(BoxAnswer::No);
+    ExpectDiscard(BoxAnswer::Cancel);
     Choose("cboAlbum", Other);
     EXPECT_EQ(AlbumID, Chosen("cboAlbum"));
     EXPECT_EQ("Slide Manager - Garden", W->windowTitle().toStdString());
     EXPECT_EQ(ID, Chosen());
     EXPECT_EQ("changed", Text());
-    ExpectDiscard(BoxAnswer::Yes);
+    ExpectDiscard(BoxAnswer::Discard);
     Choose("cboAlbum", Other);
     EXPECT_EQ("Slide Manager - Other", W->windowTitle().toStdString());
     EXPECT_EQ("", Text());

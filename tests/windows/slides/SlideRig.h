@@ -45,10 +45,8 @@ class SlideRig : public Intake {
         AlbumID = MakeAlbum(u"Garden"_s);
     }
     ~SlideRig() override {
-        Yes Answers;
-        TheServices().Boxes = &Answers;  // a window with changes asks
+        const LettingGo Answers;
         for (const auto& Each : Windows) Each->Unload();
-        TheServices().Boxes = &Boxes;
     }
 
     clsNEBAlbum& Album() { return *Engine.GetAlbum(AlbumID); }
@@ -133,10 +131,6 @@ class SlideRig : public Intake {
     void ExpectDiscard(BoxAnswer Answer) {
         Boxes.Expect(DiscardText, DiscardTitle, BoxIcon::Question, Answer);
     }
-
-    class Yes : public MessageBoxes {
-        BoxAnswer Show(const BoxRequest&) override { return BoxAnswer::Yes; }
-    };
 
     FakeDialogs Dialogs;
     std::int32_t AlbumID = 0;

@@ -26,14 +26,9 @@ class FollowedRig : private TempInMemory, public TransferRig {
         Other.FinalizeDB();
     }
     ~FollowedRig() override {
-        Yes Answers;
-        TheServices().Boxes = &Answers;  // a window with changes asks
+        const LettingGo Answers;
         for (const auto& Each : LoadedForms()) Each->Unload();
-        TheServices().Boxes = &Boxes;
     }
-    class Yes : public MessageBoxes {
-        BoxAnswer Show(const BoxRequest&) override { return BoxAnswer::Yes; }
-    };
 
     // The captions that the show has of its own.
     void CaptionShow(clsDBEngine& In, const QStringList& Own) {
