@@ -22,6 +22,7 @@ constexpr int Moves = 100;
 class QuickBoxes : public MessageBoxes {
   public:
     BoxAnswer Show(const BoxRequest& Request) override {
+        if (Request.Buttons == BoxButtons::SaveDiscardCancel) return BoxAnswer::Discard;
         Took = Seconds() - Began;
         if (Request.Text != QStringLiteral("Slide Show Saved Successfully."))
             std::printf("  unexpected: %s\n", qPrintable(Request.Text));

@@ -4,6 +4,7 @@
 #include <QBuffer>
 #include <QMessageBox>
 #include <QPixmap>
+#include <QPushButton>
 #include <QScreen>
 #include <QTest>
 #include <QTimer>
@@ -43,6 +44,16 @@ QString BoxInTheWay() {
     return Box ? Box->text() : QString();
 }
 
+void AnswerBox() {
+    QWidget* Front = QApplication::activeModalWidget();
+    const auto* Box = qobject_cast<QMessageBox*>(Front);
+    QAbstractButton* Yes = Box ? Box->button(QMessageBox::Yes) : nullptr;
+    if (Yes)
+        QTest::mouseClick(Yes, Qt::LeftButton);
+    else
+        QTest::keyClick(Front, Qt::Key_Return);
+}
+
 QString InFront() {
     const QWidget* Front = QApplication::activeWindow();
     return Front ? Front->objectName() + u'/' + QLatin1String(Front->metaObject()->className())
@@ -71,12 +82,7 @@ void Tour::Look(const QString& Name, std::function<bool()> Ready) {
 }
 
 void Tour::Answer(const QString& Name, const QString& Box, bool Shot) {
-    Add({Name,
-         {},
-         [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return); },
-         Shot,
-         false,
-         Box});
+    Add({Name, {}, &AnswerBox, Shot, false, Box});
 }
 
 void Tour::Start() {

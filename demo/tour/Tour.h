@@ -33,7 +33,7 @@ class Tour : public QObject {
     // Steps without a picture and those that do not wait until the window is painted.
     void Do(const QString& Name, std::function<bool()> Ready, std::function<void()> Act);
     void Look(const QString& Name, std::function<bool()> Ready);
-    // Presses the default button of a message box.
+    // Presses Yes in a message box that asks, and the default button of any other.
     void Answer(const QString& Name, const QString& Box, bool Shot = true);
     void Start();
     bool Succeeded() const { return mDone == mSteps.size(); }

@@ -6,6 +6,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 #include <QApplication>
+#include <QComboBox>
 #include <QFile>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -123,6 +124,14 @@ class EndAskedFor : public ::testing::Test {
         TheServices().Boxes = nullptr;
         TheOpeners() = {};
     }
+    static std::shared_ptr<frmSlideDBM> OpenChanged() {
+        auto Manager = NewForm<frmSlideDBM>();
+        Manager->LoadSlideMgr();
+        DoEvents();
+        Manager->findChild<QComboBox*>("cboAlbum")->setCurrentIndex(0);
+        Manager->findChild<QLineEdit*>("txtDscr")->setText("mine");
+        return Manager;
+    }
     void RunAsking(const std::function<void(int Number, QMessageBox* Open)>& At) {
         QPointer<QMessageBox> Seen;
         int Number = 0;
@@ -168,10 +177,7 @@ TEST_F(EndAskedFor, ASecondRequestNeverGivesUpWhatCouldNotBeSaved) {
 }
 
 TEST_F(EndAskedFor, ASecondRequestAsksOnceMoreAboutUnsavedWork) {
-    const auto Manager = NewForm<frmSlideDBM>();
-    Manager->LoadSlideMgr();
-    DoEvents();
-    Manager->findChild<QLineEdit*>("txtDscr")->setText("mine");
+    const auto Manager = OpenChanged();
     int Boxes = 0;
     RunAsking([&](int Number, QMessageBox* Open) {
         Boxes = Number;
@@ -185,10 +191,7 @@ TEST_F(EndAskedFor, ASecondRequestAsksOnceMoreAboutUnsavedWork) {
 }
 
 TEST_F(EndAskedFor, WhoKeepsAWindowIsNotAskedAgain) {
-    const auto Manager = NewForm<frmSlideDBM>();
-    Manager->LoadSlideMgr();
-    DoEvents();
-    Manager->findChild<QLineEdit*>("txtDscr")->setText("mine");
+    const auto Manager = OpenChanged();
     QTimer::singleShot(300, &mWindow,
                        [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
     QTimer::singleShot(800, &mWindow, &QApplication::quit);

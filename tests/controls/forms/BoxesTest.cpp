@@ -77,9 +77,6 @@ TEST_F(Boxes, ABoxThatAsksAboutSavingAnswersWithItsButtonsAndCancelsByAnyOtherWa
         EXPECT_EQ(BoxAnswer::Cancel,
                   Answer(Request, [Key](QMessageBox& Box) { QTest::keyClick(&Box, Key); }));
     EXPECT_EQ(BoxAnswer::Cancel, Answer(Request, [](QMessageBox& Box) { Box.close(); }));
-    EXPECT_EQ(BoxAnswer::Discard, Answer(Request, [](QMessageBox& Box) {
-                  QTest::keyClick(&Box, Qt::Key_D, Qt::AltModifier);
-              }));
 }
 
 TEST_F(Boxes, AnAnswerInWordsIsGivenByItsButtonAlone) {

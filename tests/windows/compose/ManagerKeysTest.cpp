@@ -172,6 +172,7 @@ TEST_F(ManagerKeys, ANewShowIsBegunInsideAMainWindowThatKnowsTheSameKeys) {
         Push("cmdMoveRightAll");
         EXPECT_EQ(" / a", Lists());
         Each->setFocus();
+        ExpectAsk();
         KeyTo(Qt::Key_N, Qt::ControlModifier);
         QCoreApplication::processEvents();
         EXPECT_EQ("a / ", Lists()) << Each->objectName().toStdString();

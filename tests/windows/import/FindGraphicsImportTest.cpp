@@ -43,7 +43,7 @@ TEST_F(FindGraphicsImport, BringsInWhatCanBeDecodedInTheOrderOfTheRows) {
     EXPECT_EQ(Pics / u"y/a.bmp"_s, NonSelected(*Filter).TextMatrix(2, ImportForm::ColPath));
     EXPECT_FALSE(NonSelected(*Filter).CellPicture(2, ImportForm::ColPicture).isNull());
     EXPECT_TRUE(In<QPushButton>(*Filter, "cmdMoveRightAll").isEnabled());
-    Filter->Unload();
+    Drop(*Filter);
 }
 
 TEST_F(FindGraphicsImport, EntersTheFoundPicturesInTheAlbum) {
@@ -138,7 +138,7 @@ TEST_F(FindGraphicsImport, ShowsHowFarItIsAndAnswersWhileManyAreRead) {
     EXPECT_LT(Longest.Milliseconds(), 100);
     Press(*Filter, "cmdMoveRightAll");
     EXPECT_EQ(500, Selected(*Filter).Rows());
-    Filter->Unload();
+    Drop(*Filter);
 }
 
 // A medium that goes between the search and the reading must not be asked for each of them.

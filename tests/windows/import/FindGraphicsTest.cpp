@@ -1,8 +1,8 @@
 // Find Graphics through its window: the drives, the filter, the counts, what may go wrong, and what
 // it hands back.
-#include <QLayout>
 #include <QComboBox>
 #include <QElapsedTimer>
+#include <QLayout>
 #include <QListWidget>
 
 #include "FindGraphicsHarness.h"

@@ -190,7 +190,7 @@ TEST_F(ImportMore, SurvivesItsEndWhileTheDirectoryIsChosen) {
     bool Gone = false;
     WhenOpen<frmDirSelect>([&](frmDirSelect& Selector) {
         QObject::connect(Window.get(), &QObject::destroyed, qApp, [&] { Gone = true; });
-        Window->Unload();
+        Intake::Drop(*Window);
         Window.reset();
         QTest::qWait(5);
         EXPECT_FALSE(Gone) << "it still stands below";

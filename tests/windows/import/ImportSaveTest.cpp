@@ -156,6 +156,8 @@ TEST_F(ImportSave, LeavesNoTraceWhenTheWindowIsClosedInstead) {
     MakePictures(2);
     for (const char* Way : {"cmdCancel", "Esc", "close"}) {
         Show(0);
+        Boxes.Expect(u"Are you sure you want to discard the selected pictures?"_s,
+                     BoxAnswer::Discard);
         if (Way == "cmdCancel"s) Press(*Window, Way);
         if (Way == "Esc"s) QTest::keyClick(Window.get(), Qt::Key_Escape);
         if (Way == "close"s) Window->close();

@@ -153,6 +153,7 @@ TEST_F(NewAlbumWzd, ImportsSubdirectoriesWhenTheBoxIsChecked) {
 }
 
 TEST_F(NewAlbumWzd, LeavesNoAlbumBehindWhenTheImportIsCancelled) {
+    Boxes.Expect(u"Are you sure you want to discard the selected pictures?"_s, BoxAnswer::Discard);
     Import(u"Rose"_s, [](frmImportFilter& Filter) {
         Press(Filter, "cmdMoveRightAll");
         Press(Filter, "cmdCancel");
@@ -260,7 +261,7 @@ TEST_F(NewAlbumWzd, MakesNoSecondAlbumOfANameThatWasTakenMeanwhile) {
         Press(First, "cmdMoveRightAll");
         Press(First, "cmdImport");
         EXPECT_EQ("one,two", CaptionsOf(Selected(First))) << "the choice is not lost";
-        First.Unload();
+        Drop(First);
     });
     EXPECT_EQ(1u, Engine.Albums.size());
 }

@@ -246,6 +246,7 @@ TEST_F(QuickShow, KeepsThePlaceOfAPictureThatIsGone) {
 
 TEST_F(QuickShow, CancelledLeavesNoAlbum) {
     Show(2, u"Trip"_s);
+    Boxes.Expect(u"Are you sure you want to discard the selected pictures?"_s, BoxAnswer::Discard);
     Press(*Window, "cmdCancel");
     EXPECT_FALSE(Window->IsLoaded());
     ExpectNothingMade();

@@ -71,14 +71,16 @@ TEST_F(SlideDBMAsks, ASaveThatIsRefusedOrFailsKeepsTheSlideOnTheScreen) {
     Choose("cboSlides", 0);
     Caption().clear();
     Type(u"new"_s);
-    PickPicture(Db / u"no such.jpg"_s);
+    const QString Chosen = MakePicture(Pics / u"chosen.jpg"_s);
+    PickPicture(Chosen);
+    DeleteFile(Chosen);
     ExpectDiscard(BoxAnswer::Save);
     Boxes.Expect(
         u"The currently selected slide cannot be found.\n"
         "You must select a new picture you want to use for this slide."_s);
     Choose("cboSlides", B);
     EXPECT_EQ("new", Text());
-    EXPECT_EQ(0, Chosen());
+    EXPECT_EQ(0, Index());
     EXPECT_EQ(2u, Album().Slides.size());
 }
 

@@ -17,7 +17,7 @@ class SlideDBMSound : public SlideRig {
             if (!Words.isEmpty() && Sound.Buffer) Sound.Buffer->Feed(Words);
             Press(Recorder, "cmdStop");
             if (Saves) Press(Recorder, "cmdSave");
-            Recorder.Unload();
+            Drop(Recorder);
         });
         Push("cmdRecord");
     }

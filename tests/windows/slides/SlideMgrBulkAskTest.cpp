@@ -1,4 +1,5 @@
 // What the bulk slide manager asks before captions that were typed would go.
+#include "windows/lists/SlideRows.h"
 #include "windows/slides/BulkRig.h"
 
 namespace neb {
@@ -88,7 +89,7 @@ TEST_F(BulkAsks, NothingWhereNothingWouldGo) {
     Press(*W, "cmdCancel");
     EXPECT_TRUE(W->close()) << "cancelled";
     W = OpenEdited(u"Fern"_s);
-    Changes(Engine).DeleteSlide(AlbumID, 1)->Now();
+    Changes(Engine).DeleteSlide(AlbumID, SlideIn(GridOf(W), 0))->Now();
     EXPECT_TRUE(W->close()) << "its slide has gone";
     W = OpenBulk(AlbumID);
     Edit(W, 0, u"Fern"_s);

@@ -225,12 +225,15 @@ TEST_F(SlideMgrBulk, CancelAndAnotherAlbumDropWhatIsNotSaved) {
     Press(*Bulk, "cmdCancel");
     EXPECT_EQ("a|b", Shown(Bulk));
     Edit(Bulk, 0, u"Rose"_s);
+    const QString Question = u"Are you sure you want to discard the changes to the captions?"_s;
+    Boxes.Expect(Question, BoxAnswer::Discard);
     AlbumsOf(Bulk).setCurrentIndex(0);
     EXPECT_EQ("Bulk Slide Manager - Attic", Title(Bulk));
     EXPECT_EQ(0, GridOf(Bulk).Rows());
     AlbumsOf(Bulk).setCurrentIndex(1);
     EXPECT_EQ("a|b", Shown(Bulk));
     Edit(Bulk, 0, u"Rose"_s);
+    Boxes.Expect(Question, BoxAnswer::Discard);
     Press(*Bulk, "cmdClose");
     EXPECT_FALSE(Bulk->IsLoaded());
     EXPECT_EQ("a", CaptionInAlbum(1));
