@@ -17,9 +17,8 @@ bool SameSlide(const ShowSlide& One, const ShowSlide& Other) {
 }
 
 bool SameContent(const ShowContent& One, const ShowContent& Other) {
-    return One.AlbumID == Other.AlbumID && One.SlideShowID == Other.SlideShowID &&
-           One.Name == Other.Name && One.ProgressionMethod == Other.ProgressionMethod &&
-           One.Tracks == Other.Tracks &&
+    return One.AlbumID == Other.AlbumID && One.Name == Other.Name &&
+           One.ProgressionMethod == Other.ProgressionMethod && One.Tracks == Other.Tracks &&
            std::equal(One.Slides.begin(), One.Slides.end(), Other.Slides.begin(),
                       Other.Slides.end(), &SameSlide);
 }

@@ -13,6 +13,7 @@ class ShowDraft {
     // The content is what is stored, as far as its slides are still there.
     void SetAsStored() { mAsStored = mContent; }
     // A caption that comes from the slide may have changed there: that is no change of the show.
+    // Nor is it one that its record has gone: what it held was given up by whoever deleted it.
     bool IsChanged() const;
     // Slides that the album has no more leave the content and what it is measured against: a show
     // that lost them so is not changed.

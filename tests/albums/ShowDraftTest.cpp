@@ -35,7 +35,6 @@ TEST_F(Draft, IsNotChangedAsItWasStored) {
 TEST_F(Draft, IsChangedByEachOfItsParts) {
     const std::function<void(ShowContent&)> Changes[] = {
         [](ShowContent& C) { C.AlbumID = 3; },
-        [](ShowContent& C) { C.SlideShowID = 0; },
         [](ShowContent& C) { C.Name = u"walk"_s; },
         [](ShowContent& C) { C.ProgressionMethod = 1; },
         [](ShowContent& C) { C.Slides.pop_back(); },

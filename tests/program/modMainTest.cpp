@@ -147,7 +147,7 @@ class EndAskedFor : public ::testing::Test {
         QTimer::singleShot(0, &mWindow, [this] { CloseWhenIdle(mWindow); });
         QTimer::singleShot(10000, &mWindow, [] {
             ADD_FAILURE() << "the program goes on";
-            QApplication::quit();
+            QApplication::exit();
         });
         QApplication::exec();
     }
@@ -194,7 +194,7 @@ TEST_F(EndAskedFor, WhoKeepsAWindowIsNotAskedAgain) {
     const auto Manager = OpenChanged();
     QTimer::singleShot(300, &mWindow,
                        [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
-    QTimer::singleShot(800, &mWindow, &QApplication::quit);
+    QTimer::singleShot(800, &mWindow, [] { QApplication::exit(); });
     QTimer::singleShot(0, &mWindow, [this] { CloseWhenIdle(mWindow); });
     QApplication::exec();
     EXPECT_TRUE(Manager->IsLoaded());

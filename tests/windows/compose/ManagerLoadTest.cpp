@@ -155,6 +155,7 @@ TEST_F(ManagerLoad, CancelBringsTheStoredShowBackAndNewEmptiesANewOne) {
     EXPECT_EQ(Walk, Chosen());
     Push("cmdNew");
     Push("cmdMoveRightAll");
+    ExpectAsk();
     Push("cmdNew");
     EXPECT_EQ("a|b|c|d|e / ", Lists());
 }

@@ -99,6 +99,7 @@ TEST_F(ManagerSave, EachCheckIsToldInItsBoxAndChangesNothing) {
     OpenGarden({1, 2, 3});
     Name().clear();
     ExpectRefused(u"You have to enter a name for the slide show."_s, {});
+    ExpectAsk();
     Push("cmdNew");
     Name().setText(u"x"_s);
     ExpectRefused(u"You must select atleast 1 slide for the Slide Show."_s, {});
@@ -334,6 +335,7 @@ TEST_F(ManagerSave, DeletingAsksAndLeavesANewShow) {
     EXPECT_EQ(0, Combo("cboSlideShows").currentIndex());
     EXPECT_EQ("a|b|c|d|e / ", Lists());
     Push("cmdMoveRightAll");
+    ExpectAsk();
     Push("cmdDelete");
     EXPECT_EQ("a|b|c|d|e / ", Lists()) << "with no show it begins a new one";
 }
