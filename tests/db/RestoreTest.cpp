@@ -112,7 +112,7 @@ TEST_F(Restore, ChangesOfTheSessionAreKeptWithThePresentState) {
     Engine->KeepSession();
     Changes Door(*Engine);
     ASSERT_TRUE(Door.MakeAlbum(u"not yet written"_s));
-    Engine->StoreSession();
+    ASSERT_TRUE(Engine->IsSessionStored());
     ASSERT_TRUE(FileExists(SessionJournalPath(Dir.Path())));
     const Content Present = ContentOf(*Engine);
     RestoreState(*Engine, *Oldest(*Engine));
@@ -121,7 +121,7 @@ TEST_F(Restore, ChangesOfTheSessionAreKeptWithThePresentState) {
     EXPECT_FALSE(FileExists(SessionJournalPath(Dir.Path())));
     // what comes after it goes with the restored records
     ASSERT_TRUE(Door.MakeAlbum(u"later"_s));
-    Engine->StoreSession();
+    ASSERT_TRUE(Engine->IsSessionStored());
     const auto Again = OpenEngine(Dir.Path());
     EXPECT_EQ(Again->Found().Changes, 1);
     EXPECT_TRUE(Again->Found().PutAside.isEmpty());

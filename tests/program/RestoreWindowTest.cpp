@@ -256,7 +256,7 @@ TEST_F(TheRestore, TheSessionThatWasKeptGoesWithTheRecordsThatAreThere) {
         ExpectDone(TimeIn(Window, 1));
         PressRestore(Window);
     });
-    DBEngine->StoreSession();
+    ASSERT_TRUE(DBEngine->IsSessionStored());
     EXPECT_EQ(NamesOnDisk(), QStringList{"Sea"});  // a start after a kill has no more than that
     InWindow([&](frmRestore& Window) {
         ASSERT_EQ(List(Window).topLevelItemCount(), 4);
