@@ -63,26 +63,34 @@ void IgnoringFaults(const std::function<void()>& Action) {
 }
 
 // All is saved; who relies on going back to the albums of before must know that these are not kept.
-void TellNotKept(const Fault& Reason) {
+void TellNotKept(const QString& Reason) {
     SetScreenPointer(Pointer::Default);
     MsgBox(QObject::tr("The albums are saved. Those of before could not be kept among the earlier "
                        "ones.\n\n%1")
-               .arg(Reason.Text()),
+               .arg(Reason),
            QObject::tr("Earlier Albums"), BoxIcon::Information);
 }
 
-// Whether to end although the albums could not be saved.
-bool AskEndUnsaved(const QString& Problem) {
-    return ShowBox({.Text = QObject::tr("The albums could not be saved.\n\n%1\n\nThe program stays "
-                                        "open, so that nothing is lost. Mend what is wrong (make "
-                                        "room on the disk, say, or connect it again), then end "
-                                        "the program once more.")
-                                .arg(Problem),
+// Whether to end although the albums could not be saved. Are they kept in the session's journal, an
+// end loses nothing; else it is to be asked for in so many words.
+bool AskEndUnsaved(const QString& Problem, bool AreKept) {
+    const QString State =
+        AreKept ? QObject::tr(
+                      "All changes are kept beside them in a journal, from which the next "
+                      "start brings them back: nothing is lost.")
+                : QObject::tr(
+                      "The last changes are nowhere on the disk yet. The program stays "
+                      "open, so that nothing is lost.");
+    return ShowBox({.Text = QObject::tr("The albums could not be saved.\n\n%1\n\n%2 Mend what is "
+                                        "wrong (make room on the disk, say, or connect it again), "
+                                        "then end the program once more.")
+                                .arg(Problem, State),
                     .Title = QObject::tr("Save Failed"),
                     .Icon = BoxIcon::Critical,
                     .Buttons = BoxButtons::YesNo,
                     .Default = BoxAnswer::No,
-                    .YesWords = QObject::tr("&End and Lose the Changes"),
+                    .YesWords = AreKept ? QObject::tr("&End, the Changes Are Kept")
+                                        : QObject::tr("&End and Lose the Changes"),
                     .NoWords = QObject::tr("&Go On")}) == BoxAnswer::Yes;
 }
 
@@ -135,6 +143,7 @@ void frmNEBSlideShow::Form_Load(const CommandLine& Line) {
 void frmNEBSlideShow::TellLeftBehind() {
     const LeftBehind& Found = mEngine->Found();
     if (Found.Changes > 0) ShowNotice(TextOfBroughtBack(Found));
+    if (!Found.NotKept.isEmpty()) TellNotKept(Found.NotKept);
     if (Found.PutAside.isEmpty()) return;
     SetScreenPointer(Pointer::Default);
     MsgBox(tr("The albums are not those that were changed when the program was last interrupted: "
@@ -231,11 +240,11 @@ bool frmNEBSlideShow::Unload() {
 // the box, a second request of the system to end among it, keeps the program open.
 bool frmNEBSlideShow::WriteDatabase() {
     try {
-        if (const auto NotKept = mEngine->FinalizeDB()) TellNotKept(*NotKept);
+        if (const auto NotKept = mEngine->FinalizeDB()) TellNotKept(NotKept->Text());
         return true;
     } catch (const Fault& Problem) {
         SetScreenPointer(Pointer::Default);
-        return AskEndUnsaved(Problem.Text());
+        return AskEndUnsaved(Problem.Text(), mEngine->IsSessionStored());
     }
 }
 

@@ -8,6 +8,7 @@
 
 #include "MeasuredMachine.h"
 #include "controls/forms/Form.h"
+#include "db/Changes.h"
 #include "db/clsDBEngine.h"
 #include "harness/ScriptedBoxes.h"
 #include "harness/TempFolder.h"
@@ -70,8 +71,7 @@ class MainWindow : public ::testing::Test {
         return nullptr;
     }
     static void SaveAlbum(const QString& Name) {
-        std::int32_t AlbumID = 0;
-        ASSERT_TRUE(DBEngine->SaveAlbum(AlbumID, Name));
+        ASSERT_TRUE(Changes(*DBEngine).MakeAlbum(Name));
     }
 
     harness::TempFolder mDocuments;

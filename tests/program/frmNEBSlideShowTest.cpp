@@ -13,6 +13,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QSet>
+#include <QStatusBar>
 #include <QTest>
 #include <QTimer>
 
@@ -377,10 +378,10 @@ TEST_F(MainWindow, TheEndUnloadsEveryWindow) {
 
 TEST_F(MainWindow, AFullDiskAtTheEndKeepsTheProgramOpenWhenTheUserWants) {
     Start();
-    SaveAlbum("Holidays");
     SetHostWatcher([](HostStep Step, const QString&, qint64& Length) {
         if (Step == HostStep::Write) Length = 0;
     });
+    SaveAlbum("Holidays");
     int Asked = 0;
     TheServices().Boxes = nullptr;  // answered below, whatever the exact text
     class Answers : public MessageBoxes {
@@ -410,15 +411,48 @@ TEST_F(MainWindow, AFullDiskAtTheEndKeepsTheProgramOpenWhenTheUserWants) {
 
 TEST_F(MainWindow, OnlyTheAnswerInWordsEndsTheProgramUnsaved) {
     Start();
-    SaveAlbum("Holidays");
     SetHostWatcher([](HostStep Step, const QString&, qint64& Length) {
         if (Step == HostStep::Write) Length = 0;
     });
+    SaveAlbum("Holidays");
     const harness::LettingGo Given;  // answers by the button in words
     EXPECT_TRUE(mWindow->close());
     SetHostWatcher({});
     EXPECT_EQ(DBEngine, nullptr);
     EXPECT_FALSE(FileExists(DBPath() + "Albums.dat"));
+}
+
+TEST_F(MainWindow, AnEndThatCannotSaveLosesNothingOfWhatIsKeptInTheJournal) {
+    Start();
+    SaveAlbum("Holidays");
+    ASSERT_TRUE(DBEngine->IsSessionStored());
+    SetHostWatcher([](HostStep Step, const QString&, qint64& Length) {
+        if (Step == HostStep::Write) Length = 0;
+    });
+    BoxRequest Asked;
+    {
+        class Ends : public MessageBoxes {
+          public:
+            explicit Ends(BoxRequest& Asked) : mAsked(Asked) {}
+            BoxAnswer Show(const BoxRequest& Request) override {
+                mAsked = Request;
+                return BoxAnswer::Yes;
+            }
+            BoxRequest& mAsked;
+        } Boxes(Asked);
+        TheServices().Boxes = &Boxes;
+        EXPECT_TRUE(mWindow->close());
+        TheServices().Boxes = &mBoxes;
+    }
+    SetHostWatcher({});
+    EXPECT_TRUE(Asked.Text.contains("the next start brings them back"));
+    EXPECT_EQ(Asked.YesWords, "&End, the Changes Are Kept");
+    EXPECT_EQ(Asked.Default, BoxAnswer::No);
+    EXPECT_FALSE(FileExists(DBPath() + "Albums.dat"));
+    Start();
+    ASSERT_EQ(DBEngine->Albums.size(), 1U);
+    EXPECT_EQ(DBEngine->Albums[0]->AlbumName, "Holidays");
+    EXPECT_TRUE(mWindow->statusBar()->currentMessage().startsWith("1 change of "));
 }
 
 TEST_F(MainWindow, AFolderThatCannotBeWrittenIsSaidAtTheStart) {
