@@ -50,8 +50,8 @@ QString TextOfBroughtBack(const LeftBehind& Found) {
     const QDateTime When = QDateTime::fromMSecsSinceEpoch(Found.When);
     const QString Date = QLocale(QLocale::English).toString(When, QStringLiteral("d MMMM, HH:mm"));
     return Found.Changes == 1
-               ? QObject::tr("1 change of %1 was brought back.").arg(Date)
-               : QObject::tr("%1 changes of %2 were brought back.").arg(Found.Changes).arg(Date);
+               ? QObject::tr("1 change of %1, was brought back.").arg(Date)
+               : QObject::tr("%1 changes of %2, were brought back.").arg(Found.Changes).arg(Date);
 }
 
 void IgnoringFaults(const std::function<void()>& Action) {
