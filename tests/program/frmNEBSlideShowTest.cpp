@@ -12,6 +12,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QSet>
 #include <QStatusBar>
 #include <QTest>
@@ -452,7 +453,10 @@ TEST_F(MainWindow, AnEndThatCannotSaveLosesNothingOfWhatIsKeptInTheJournal) {
     Start();
     ASSERT_EQ(DBEngine->Albums.size(), 1U);
     EXPECT_EQ(DBEngine->Albums[0]->AlbumName, "Holidays");
-    EXPECT_TRUE(mWindow->statusBar()->currentMessage().startsWith("1 change of "));
+    const QRegularExpression Notice(
+        QStringLiteral("^1 change of \\d+ [A-Z][a-z]+, \\d\\d:\\d\\d, was brought back\\.$"));
+    EXPECT_TRUE(Notice.match(mWindow->statusBar()->currentMessage()).hasMatch())
+        << mWindow->statusBar()->currentMessage().toStdString();
 }
 
 TEST_F(MainWindow, AFolderThatCannotBeWrittenIsSaidAtTheStart) {
