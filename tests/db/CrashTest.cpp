@@ -8,6 +8,7 @@
 #include <set>
 
 #include "Fixtures.h"
+#include "db/Changes.h"
 #include "db/modLoadRecords.h"
 #include "db/modRestore.h"
 #include "harness/DiskKiller.h"
@@ -142,6 +143,54 @@ TEST(Crash, AKillDuringTheRecoveryIsRecoveredFrom) {
         ASSERT_GE(Tried.size(), (How == Kill::InsideWrite ? 1 : 3) * RecordFileCount);
         EXPECT_EQ(static_cast<int>(Tried.size()), *Tried.rbegin());
     }
+}
+
+// What the first has not flushed is on no disk yet, however long ago that was.
+TEST(Crash, ALossOfPowerInTheStartBehindAKillLeavesTheOldOrTheNewDatabase) {
+    constexpr int Stride = 4;
+    const Scene TheScene(true);
+    bool Through = false;
+    for (int First = 1; !Through && !HasFailure(); ++First)
+        for (int Second = 1 + First % Stride; Second < 40 && !Through; Second += Stride) {
+            MemoryFolder Dir;
+            TheScene.Prepare(Dir.Path());
+            const auto Engine = TheScene.Changed(Dir.Path());
+            Through = RunsThrough(
+                First, Second, Dir.Path(), [&] { Engine->FinalizeDB(); },
+                [&] { OpenEngine(Dir.Path()); });
+            TheScene.ExpectOldOrNew(Dir.Path(), "killed at step " + std::to_string(First) +
+                                                    ", power lost at " + std::to_string(Second));
+        }
+    EXPECT_TRUE(Through);
+}
+
+// The journal of a session, which the one of all records has all of, was not yet deleted; what
+// follows must not take it for one of other records.
+TEST(Crash, AKillOfTheStartThatFindsBothJournalsLosesNothing) {
+    for (const Kill How : {Kill::BeforeStep, Kill::PowerLoss})
+        for (int Number = 1, Through = 0; !Through; ++Number) {
+            MemoryFolder Dir;
+            Content Held;
+            {
+                const auto Engine = OpenEngine(Dir.Path());
+                Engine->KeepSession();
+                FillDatabase(*Engine, u"old"_s);
+                Changes(*Engine).RenameAlbum(1, u"Sea"_s);
+                EXPECT_TRUE(Engine->IsSessionStored());
+                SetHostWatcher([](HostStep Step, const QString& Path, qint64&) {
+                    if (Step == HostStep::Delete && Path.endsWith(u"Session.journal"_s))
+                        throw Fault(u"no"_s, Path);
+                });
+                EXPECT_THROW(Engine->FinalizeDB(), Fault);
+                SetHostWatcher({});
+                Held = ContentOf(*Engine);
+            }
+            Through = RunsThrough(Number, How, Dir.Path(), [&] { OpenEngine(Dir.Path()); });
+            const auto Engine = OpenEngine(Dir.Path());
+            EXPECT_EQ(Held, ContentOf(*Engine)) << Number;
+            EXPECT_TRUE(Engine->Found().PutAside.isEmpty()) << Number;
+            ASSERT_LT(Number, 200);
+        }
 }
 
 TEST(Crash, AKillDuringASecondTryDoesNotLoseTheFirst) {

@@ -13,6 +13,7 @@
 #include <mutex>
 #include <random>
 #include <set>
+#include <utility>
 
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
@@ -218,10 +219,24 @@ struct DiskKiller::State {
     }
 
     void AtStep(HostStep Step, const QString& Path, qint64& Length) {
-        const std::lock_guard<std::mutex> OneByOne(Lock);
+        std::unique_lock<std::mutex> OneByOne(Lock);
+        if (Left == 1 && Next) BeginNext(OneByOne);
         if (How == Kill::InsideWrite && Left > 1 && Step != HostStep::Write) return;
         if (--Left <= 0) Strike(Step, Length);
         if (Lasting) Note(Step, PathOf(ResolvePath(Path)));
+    }
+    // In another process, which knows what this one has not flushed.
+    [[noreturn]] void BeginNext(std::unique_lock<std::mutex>& OneByOne) {
+        const pid_t Child = ::fork();
+        if (Child != 0) {
+            ::waitpid(Child, nullptr, 0);
+            ::kill(::getpid(), SIGKILL);
+        }
+        Left = NextNumber;
+        const auto Work = std::exchange(Next, {});
+        OneByOne.unlock();
+        Work();
+        ::_exit(0);
     }
     void Strike(HostStep Step, qint64& Length) {
         if (Left < 0 || How != Kill::InsideWrite || Step != HostStep::Write) End();
@@ -246,6 +261,8 @@ struct DiskKiller::State {
     const int Seed;
     const Kill How;
     std::optional<Disk> Lasting;
+    int NextNumber = 0;
+    std::function<void()> Next;
 };
 
 DiskKiller::DiskKiller(int Number, Kill How, const QString& Dir)
@@ -264,10 +281,19 @@ void DiskKiller::End() {
     mState->End();
 }
 
-bool RunsThrough(int Number, Kill How, const QString& Dir, const std::function<void()>& Work) {
+void DiskKiller::ThenFail(int Number, const std::function<void()>& Next) {
+    mState->NextNumber = Number;
+    mState->Next = Next;
+}
+
+namespace {
+
+bool RunsIn(const std::function<void(DiskKiller&)>& Prepare, int Number, Kill How,
+            const QString& Dir, const std::function<void()>& Work) {
     const pid_t Child = ::fork();
     if (Child == 0) {
         DiskKiller Killer(Number, How, Dir);
+        Prepare(Killer);
         try {
             Work();
         } catch (const Fault&) {
@@ -281,6 +307,18 @@ bool RunsThrough(int Number, Kill How, const QString& Dir, const std::function<v
                 (WIFSIGNALED(Status) && WTERMSIG(Status) == SIGKILL))
         << "killed at step " << Number << ": status " << Status;
     return WIFEXITED(Status);
+}
+
+}  // namespace
+
+bool RunsThrough(int Number, Kill How, const QString& Dir, const std::function<void()>& Work) {
+    return RunsIn([](DiskKiller&) {}, Number, How, Dir, Work);
+}
+
+bool RunsThrough(int First, int Second, const QString& Dir, const std::function<void()>& Work,
+                 const std::function<void()>& Next) {
+    return RunsIn([&](DiskKiller& Killer) { Killer.ThenFail(Second, Next); }, First,
+                  Kill::PowerLoss, Dir, Work);
 }
 
 }  // namespace neb::harness

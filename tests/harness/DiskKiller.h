@@ -22,6 +22,8 @@ class DiskKiller {
     DiskKiller(const DiskKiller&) = delete;
     DiskKiller& operator=(const DiskKiller&) = delete;
     [[noreturn]] void End();
+    // Step Number of before is a kill alone; what comes next meets the loss of power at this step.
+    void ThenFail(int Number, const std::function<void()>& Next);
 
   private:
     struct State;
@@ -31,5 +33,11 @@ class DiskKiller {
 // Runs Work in a child that kills itself at step Number; true when it got to its end before. A
 // Fault of Work means that the disk is full by the kill's own write: it ends at once.
 bool RunsThrough(int Number, Kill How, const QString& Dir, const std::function<void()>& Work);
+
+// Work ends by a kill at step First, and Next, in another process, by a loss of power at step
+// Second, with which goes what neither has flushed; true when Work got to its end before. For work
+// on one thread.
+bool RunsThrough(int First, int Second, const QString& Dir, const std::function<void()>& Work,
+                 const std::function<void()>& Next);
 
 }  // namespace neb::harness
