@@ -233,6 +233,7 @@ struct DiskKiller::State {
             ::kill(::getpid(), SIGKILL);
         }
         Left = NextNumber;
+        Seed = Seed * 100 + NextNumber;
         const auto Work = std::exchange(Next, {});
         OneByOne.unlock();
         Work();
@@ -258,7 +259,7 @@ struct DiskKiller::State {
 
     std::mutex Lock;
     int Left;
-    const int Seed;
+    int Seed;
     const Kill How;
     std::optional<Disk> Lasting;
     int NextNumber = 0;
