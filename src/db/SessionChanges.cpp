@@ -3,7 +3,9 @@
 #include <QtEndian>
 
 #include "db/clsDBEngine.h"
+#include "db/modAlbumFiles.h"
 #include "db/modLoadRecords.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb {
 namespace {
@@ -90,6 +92,30 @@ void Put(clsDBEngine& Engine, const Change& What, std::unique_ptr<clsNEBAlbum> R
         PutParts(*There, *Read);
 }
 
+// As far as its files are the program's: what else lies there stays, with its folder.
+void DeleteAlbumFolder(const QString& DBPath, std::int32_t AlbumID) {
+    const QString Folder = AlbumFolder(DBPath, AlbumID);
+    if (!IsLink(Folder))
+        for (const QString& Part :
+             {SoundTracksFolder(DBPath, AlbumID), SlidesFolder(DBPath, AlbumID)}) {
+            DeleteFilesIn(Part);
+            DeleteFolder(Part);
+        }
+    DeleteFolder(Folder);
+}
+
+// By what is there after all of it: what was deleted and has come back has its files.
+void DeleteFilesOf(const clsDBEngine& Engine, const Change& What) {
+    clsNEBAlbum* const Album = Engine.GetAlbum(What.AlbumID);
+    const auto Is = [&](Change::Kind Kind) { return What.What == Kind; };
+    if (Is(Change::Kind::AlbumDeleted) && !Album && What.AlbumID > 0)
+        DeleteAlbumFolder(Engine.DBPath(), What.AlbumID);
+    if (Is(Change::Kind::SlideDeleted) && Album && !Album->GetSlide(What.SlideID))
+        Album->DeleteSlideFiles(What.SlideID, Engine);
+    if (Is(Change::Kind::ShowDeleted) && Album && !Album->GetSlideShow(What.SlideShowID))
+        Album->DeleteSlideShowFiles(What.SlideShowID, Engine);
+}
+
 }  // namespace
 
 QByteArray EntryOf(const clsDBEngine& Engine, const Change& What) {
@@ -121,6 +147,11 @@ bool CarryOutEntry(clsDBEngine& Engine, const QByteArray& Entry) {
     Engine.NextSlideShowID = Part.NextSlideShowID;
     Engine.SortAlbums();
     return true;
+}
+
+void FinishDeleting(const clsDBEngine& Engine, const LeftSession& Left) {
+    for (const SessionEntry& Each : Left.Entries)
+        if (const auto What = EntryReader(Each.Body).Keys()) DeleteFilesOf(Engine, *What);
 }
 
 void BringBack(clsDBEngine& Engine, const LeftSession& Left, LeftBehind& Brought) {

@@ -20,4 +20,7 @@ bool CarryOutEntry(clsDBEngine& Engine, const QByteArray& Entry);
 // Carries out what a session left behind.
 void BringBack(clsDBEngine& Engine, const LeftSession& Left, LeftBehind& Brought);
 
+// Deletes the files of what a session has deleted before it was cut short: its records have gone.
+void FinishDeleting(const clsDBEngine& Engine, const LeftSession& Left);
+
 }  // namespace neb

@@ -8,6 +8,7 @@
 #include "db/records/RecordCodec.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
+#include "support/files/modHostFilesCopy.h"
 #include "support/modFUFL.h"
 
 namespace neb {
@@ -33,6 +34,15 @@ std::int32_t Draw(std::int32_t& Counter) {
     return Drawn;
 }
 
+// What was deleted with a record must not come back when the session that tells of it has gone.
+void SyncIfPossible(const QString& DBPath) {
+    try {
+        SyncVolume(DBPath);
+    } catch (const Fault&) {
+        return;  // at worst a picture is there that no record names
+    }
+}
+
 }  // namespace
 
 void clsDBEngine::SetDBPath(const QString& Path) {
@@ -53,13 +63,16 @@ clsDBEngine::~clsDBEngine() = default;
 
 void clsDBEngine::InitializeDB(Recovery How) {
     const FoundSession Session = LookForSession(mDBPath);  // before anything is carried out
+    const bool MayWrite = How == Recovery::CarryOut && MayWriteDatabase(mDBPath);
     mFound = {};
     mLeft.reset();
     LoadRecords(How);
+    mIsStored = HasRecords(mDBPath);
     if (Session.Is == FoundSession::State::Goes) {
         BringBack(*this, *Session.Left, mFound);
         mLeft = Session.Left->End;
-    } else if (How == Recovery::CarryOut && MayWriteDatabase(mDBPath)) {
+        if (MayWrite) FinishDeleting(*this, *Session.Left);
+    } else if (MayWrite) {
         mFound.PutAside += SettleSession(mDBPath, Session);
     }
 }
@@ -79,6 +92,10 @@ bool clsDBEngine::IsSessionStored() {
     } catch (const Fault&) {
         return false;
     }
+}
+
+std::optional<Fault> clsDBEngine::SessionProblem() const {
+    return mSession ? mSession->Problem() : std::nullopt;
 }
 
 void clsDBEngine::LoadRecords(Recovery How) {
@@ -110,14 +127,18 @@ void clsDBEngine::LoadFrom(const RecordSource& Source) {
 }
 
 std::optional<Fault> clsDBEngine::FinalizeDB() {
-    if (mSession) mSession->Pause();
+    const SessionPause Pause(mSession.get());
+    if (mIsStored && !HasRecords(mDBPath))
+        throw Fault(QStringLiteral("The database is not there any more."), mDBPath);
+    if (mSession || mLeft) SyncIfPossible(mDBPath);
     std::optional<Fault> NotKept = WriteDatabase(mDBPath, BuildImage(*this));
+    mIsStored = true;
     if (mSession) mSession->Restart();
     return NotKept;
 }
 
 void clsDBEngine::ReplaceBy(const RecordImage& Records) {
-    if (mSession) mSession->Pause();
+    const SessionPause Pause(mSession.get());
     std::optional<Fault> Unfinished;
     try {
         WriteDatabase(mDBPath, Records);

@@ -66,6 +66,9 @@ class clsDBEngine {
     // Waits until all changes are on the disk, before files go that the records of before name.
     // False where that fails: then the files are to stay. Without a session it is true.
     bool IsSessionStored();
+    // Why changes are not on the disk at present, if so; they are tried again by and by. Never
+    // waits for a disk, so that a window may ask now and then.
+    std::optional<Fault> SessionProblem() const;
 
     // Whether the next numbers are above all that are there: else new pictures and sounds would
     // take the places of old ones.
@@ -139,6 +142,7 @@ class clsDBEngine {
     QString mDBPath;
     QString mProgramPath;
     LeftBehind mFound;
+    bool mIsStored = false;           // there are records of it on the disk
     std::optional<SessionEnd> mLeft;  // where the journal of the session before goes on
     std::unique_ptr<SessionJournal> mSession;
 };

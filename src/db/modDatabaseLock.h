@@ -2,7 +2,7 @@
 // command line do not write it at the same time.
 #pragma once
 
-#include <QString>
+#include "support/files/InstanceLock.h"
 
 namespace neb {
 

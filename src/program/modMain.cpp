@@ -108,8 +108,33 @@ void CloseWhenIdle(frmNEBSlideShow& Window) {
     QTimer::singleShot(RetryMs, &Window, [&Window] { CloseWhenIdle(Window); });
 }
 
+namespace {
+
+bool TakeOverFrom(const QString& Machine, InstanceLock& Lock) {
+    return AskYesNo(QObject::tr("These albums are open on the computer \"%1\", or the program has "
+                                "crashed there.\n\nWhen two programs write the same albums, what "
+                                "one of them has changed is lost. Only go on when the program is "
+                                "not running there.\n\nOpen the albums here?")
+                        .arg(Machine),
+                    QObject::tr("Albums In Use")) &&
+           Lock.TryLock(FromElsewhere::IsTakenOver);
+}
+
+bool TellUnlockable(const QString& Reason) {
+    MsgBox(QObject::tr("The albums cannot be opened, as nothing can be written beside them: "
+                       "%1.\n\nNothing has been changed.")
+               .arg(Reason),
+           QObject::tr("Albums Cannot Be Opened"), BoxIcon::Critical);
+    return false;
+}
+
+}  // namespace
+
 bool BecomeTheInstance(InstanceLock& Lock) {
-    if (Lock.TryLock()) return true;
+    const LockAnswer Is = Lock.TryLock();
+    if (Is) return true;
+    if (Is.Is == LockAnswer::State::HeldElsewhere) return TakeOverFrom(Is.Machine, Lock);
+    if (Is.Is == LockAnswer::State::CannotLock) return TellUnlockable(Is.Reason);
     MsgBox(QStringLiteral("You can only run a single instance of NEB Slide Show at a time."),
            QStringLiteral("Operation Denied"), BoxIcon::Information);
     return false;

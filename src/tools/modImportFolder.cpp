@@ -13,6 +13,7 @@
 #include "support/modFUFL.h"
 #include "tools/modCommands.h"
 #include "tools/modHistory.h"
+#include "tools/words/modLocking.h"
 
 namespace neb {
 namespace {
@@ -25,6 +26,7 @@ struct ImportOrder {
     QString Album;
     QString Show;  // empty: no show
     bool Recurse = false;
+    FromElsewhere Other = FromElsewhere::Counts;
 };
 
 // A picture made ready on a worker; Problem says why there is none.
@@ -45,6 +47,7 @@ Prepared Prepare(const QString& Path) {
 // The words of the command line; nothing after a line on Err when they do not make an order.
 std::optional<ImportOrder> ReadOrder(QStringList Arguments, ToolIO& IO) {
     ImportOrder Order;
+    Order.Other = TakeOver(Arguments);
     QStringList Places;
     while (!Arguments.isEmpty()) {
         const QString Word = Arguments.takeFirst();
@@ -200,9 +203,7 @@ int RunImport(const QStringList& Arguments, ToolIO& IO) {
     if (!MayWriteDatabase(Order->Dir))
         return Fail(IO, QStringLiteral("The database in %1 is read-only.").arg(Order->Dir));
     InstanceLock Lock(DatabaseLockPath(Order->Dir));
-    if (!Lock.TryLock())
-        return Fail(IO,
-                    QStringLiteral("The database in %1 is in use by the program.").arg(Order->Dir));
+    if (!TakeLock(Lock, Order->Dir, Order->Other, IO)) return ExitFailed;
     clsDBEngine Engine;
     Engine.SetDBPath(Order->Dir);
     Engine.InitializeDB();

@@ -6,6 +6,7 @@
 #include "support/files/modHostFiles.h"
 #include "tools/modCommands.h"
 #include "tools/modHistory.h"
+#include "tools/words/modLocking.h"
 #include "tools/words/modWords.h"
 
 namespace neb {
@@ -16,9 +17,11 @@ constexpr int MostStates = 1'000'000;
 struct RestoreOrder {
     QString Dir;
     int Number = 0;  // as the history counts
+    FromElsewhere Other = FromElsewhere::Counts;
 };
 
-std::optional<RestoreOrder> ReadOrder(const QStringList& Words, ToolIO& IO) {
+std::optional<RestoreOrder> ReadOrder(QStringList Words, ToolIO& IO) {
+    const FromElsewhere Other = TakeOver(Words);
     const auto Number = Words.size() == 2 ? WholeNumber(Words[1], 1, MostStates) : std::nullopt;
     if (!Number) {
         Fail(IO, QStringLiteral("A database directory and a number of nebctl history are wanted; "
@@ -27,7 +30,7 @@ std::optional<RestoreOrder> ReadOrder(const QStringList& Words, ToolIO& IO) {
     }
     const std::optional<QString> Dir = OneDirectory({Words[0]}, IO);
     if (!Dir) return std::nullopt;
-    return RestoreOrder{*Dir, *Number};
+    return RestoreOrder{*Dir, *Number, Other};
 }
 
 void PrintAll(ToolIO& IO, const QStringList& Lines) {
@@ -71,9 +74,7 @@ int RunRestore(const QStringList& Arguments, ToolIO& IO) {
     if (!MayWriteDatabase(Order->Dir))
         return Fail(IO, QStringLiteral("The database in %1 is read-only.").arg(Order->Dir));
     InstanceLock Lock(DatabaseLockPath(Order->Dir));
-    if (!Lock.TryLock())
-        return Fail(IO,
-                    QStringLiteral("The database in %1 is in use by the program.").arg(Order->Dir));
+    if (!TakeLock(Lock, Order->Dir, Order->Other, IO)) return ExitFailed;
     const std::vector<Generation> All = ListGenerations(Order->Dir);
     if (static_cast<size_t>(Order->Number) > All.size())
         return Fail(IO, QStringLiteral("There is no earlier state %1; nebctl history lists those "

@@ -6,10 +6,13 @@
 #include "support/files/modHostFiles.h"
 #include "tools/modCommands.h"
 #include "tools/modHistory.h"
+#include "tools/words/modLocking.h"
 
 namespace neb {
 int RunRewrite(const QStringList& Arguments, ToolIO& IO) {
-    const std::optional<QString> Dir = OneDirectory(Arguments, IO);
+    QStringList Words = Arguments;
+    const FromElsewhere Other = TakeOver(Words);
+    const std::optional<QString> Dir = OneDirectory(Words, IO);
     if (!Dir) return ExitFailed;
     // Loading a directory without counters forgets whatever records lie there; writing that back
     // would be the end of them.
@@ -18,8 +21,7 @@ int RunRewrite(const QStringList& Arguments, ToolIO& IO) {
     if (!MayWriteDatabase(*Dir))
         return Fail(IO, QStringLiteral("The database in %1 is read-only.").arg(*Dir));
     InstanceLock Lock(DatabaseLockPath(*Dir));
-    if (!Lock.TryLock())
-        return Fail(IO, QStringLiteral("The database in %1 is in use by the program.").arg(*Dir));
+    if (!TakeLock(Lock, *Dir, Other, IO)) return ExitFailed;
     ProgressLine Progress(IO, "Rewriting");
     Progress.Show(0, 2);
     clsDBEngine Engine;

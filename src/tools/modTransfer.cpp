@@ -10,6 +10,7 @@
 #include "tools/Named.h"
 #include "tools/modCommands.h"
 #include "tools/modHistory.h"
+#include "tools/words/modLocking.h"
 #include "tools/words/modWords.h"
 
 namespace neb {
@@ -20,6 +21,7 @@ struct TransferOrder {
     QString Album, Show;  // no show: the whole album
     QString To;           // the album in the destination
     bool Replace = false, WithoutMissing = false;
+    FromElsewhere Other = FromElsewhere::Counts;
 };
 
 bool Misused(ToolIO& IO, const QString& Wanted) {
@@ -37,6 +39,7 @@ bool TakeOptions(QStringList& Words, TransferOrder& Order, ToolIO& IO) {
             return Misused(IO, QStringLiteral("%1 wants a name").arg(QLatin1String(Name)));
         *Into = ConvertQuotes(Value.value_or(QString()));
     }
+    Order.Other = TakeOver(Words);
     Order.Replace = Words.removeAll(QStringLiteral("--replace")) > 0;
     Order.WithoutMissing = Words.removeAll(QStringLiteral("--without-missing")) > 0;
     if (Words.size() == 2) return true;
@@ -60,8 +63,9 @@ struct TwoDatabases {
     std::shared_ptr<OtherDatabase> Src, Dst;
 };
 
-std::shared_ptr<OtherDatabase> Opened(const QString& Dir, OtherDatabase::Use For, ToolIO& IO) {
-    auto Database = OtherDatabase::Open(Dir, For);
+std::shared_ptr<OtherDatabase> Opened(const QString& Dir, OtherDatabase::Use For,
+                                      FromElsewhere Other, ToolIO& IO) {
+    auto Database = OtherDatabase::Open(Dir, For, Other);
     if (Database) return *Database;
     Fail(IO, Database.Refusal().Text.simplified());
     return nullptr;
@@ -74,8 +78,8 @@ std::optional<TwoDatabases> OpenBoth(const TransferOrder& Order, ToolIO& IO) {
         return std::nullopt;
     }
     const bool IsOne = IsSameDatabase(Order.Src, Order.Dst);
-    const auto Src = IsOne ? nullptr : Opened(Order.Src, Source, IO);
-    const auto Dst = IsOne || Src ? Opened(Order.Dst, Destination, IO) : nullptr;
+    const auto Src = IsOne ? nullptr : Opened(Order.Src, Source, Order.Other, IO);
+    const auto Dst = IsOne || Src ? Opened(Order.Dst, Destination, Order.Other, IO) : nullptr;
     if (!Dst) return std::nullopt;
     return TwoDatabases{IsOne ? Dst : Src, Dst};
 }

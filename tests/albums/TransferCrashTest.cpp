@@ -1,17 +1,10 @@
 // A transfer ends by a kill, a power cut or a full disk at every single step of what it does to the
 // disk: at the next opening the destination is wholly the old one or wholly the new one, records
 // and files, and nothing is left of the attempt; the source is as it was.
-#include <csignal>
 #include <mutex>
 
 #include "TransferRig.h"
-
-#ifndef _WIN32
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
-#endif
+#include "harness/DiskKiller.h"
 
 namespace neb::harness {
 namespace {
@@ -102,78 +95,6 @@ StatedTransfer ReplacedShow() {
             .NewSlideShowName = u"Tour"_s};
 }
 
-#ifndef _WIN32
-
-enum class Kill { BeforeStep, InsideWrite, PowerLoss };
-
-// Ends this process at step Number of what it does to the disk, on whichever thread that is; inside
-// writes these alone are counted.
-class Killer {
-  public:
-    Killer(int Number, Kill How, const QString& Dir) : mLeft(Number), mHow(How), mDir(Dir) {
-        SetHostWatcher([this](HostStep Step, const QString& Path, qint64& Length) {
-            const std::lock_guard<std::mutex> OneByOne(mLock);
-            if (mHow == Kill::InsideWrite && mLeft > 1 && Step != HostStep::Write) return;
-            if (--mLeft <= 0) Strike(Step, Length);
-            Note(Step, Path);
-        });
-    }
-
-  private:
-    void Strike(HostStep Step, qint64& Length) {
-        if (mLeft < 0 || mHow != Kill::InsideWrite || Step != HostStep::Write) End();
-        Length /= 2;  // this part is written, and the step after it is the last
-    }
-    // Files keep their numbers when they are renamed.
-    void Note(HostStep Step, const QString& Path) {
-        struct stat File = {};
-        const bool IsThere = ::stat(QFile::encodeName(Path).constData(), &File) == 0;
-        if (Step == HostStep::Write && IsThere) mUnsynced.insert(File.st_ino);
-        if (Step == HostStep::Sync && IsThere) mUnsynced.erase(File.st_ino);
-        if (Step == HostStep::SyncVolume) mUnsynced.clear();
-    }
-    // With the power goes all that was written and not yet flushed.
-    [[noreturn]] void End() {
-        if (mHow == Kill::PowerLoss) {
-            QDirIterator Walk(mDir, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
-            while (Walk.hasNext()) {
-                const QByteArray Path = QFile::encodeName(Walk.next());
-                struct stat File = {};
-                if (::stat(Path.constData(), &File) == 0 && mUnsynced.contains(File.st_ino))
-                    ::truncate(Path.constData(), 0);
-            }
-        }
-        ::kill(::getpid(), SIGKILL);
-        std::abort();
-    }
-
-    std::mutex mLock;
-    int mLeft;
-    const Kill mHow;
-    const QString mDir;
-    std::set<ino_t> mUnsynced;
-};
-
-// Runs Work in a child that kills itself at step Number; true when it got to its end before.
-template <class WorkToDo>
-bool RunsThrough(int Number, Kill How, const QString& Dir, WorkToDo Work) {
-    const pid_t Child = ::fork();
-    if (Child == 0) {
-        Killer TheKiller(Number, How, Dir);
-        try {
-            Work();
-        } catch (const Fault&) {
-            ::kill(::getpid(),
-                   SIGKILL);  // a write that was cut short: the step after it is the last
-        }
-        ::_exit(::testing::Test::HasFailure() ? 1 : 0);
-    }
-    int Status = 0;
-    ::waitpid(Child, &Status, 0);
-    EXPECT_TRUE((WIFEXITED(Status) && WEXITSTATUS(Status) == 0) || WTERMSIG(Status) == SIGKILL);
-    return WIFEXITED(Status);
-}
-
 void KillAtEveryStep(const Scene& TheScene, Kill How) {
     bool SawOld = false, SawNew = false;
     for (int Number = 1;; ++Number) {
@@ -254,8 +175,6 @@ TEST(TransferRecovery, ACutDuringTheNextOpeningIsRecoveredFrom) {
     }
     EXPECT_TRUE(SawNew);
 }
-
-#endif  // _WIN32
 
 // The disk is full at write Number, of which half finds room; and from then on.
 class FullDisk {

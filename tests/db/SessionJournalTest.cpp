@@ -4,6 +4,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
+#include <atomic>
+#include <thread>
+
 #include "Fixtures.h"
 #include "db/Changes.h"
 #include "db/SessionChanges.h"
@@ -131,6 +135,62 @@ TEST_F(SessionJournalTest, AfterAWriteThatGotHalfThroughItGoesOnBehindTheLastWho
     SetHostWatcher({});
     Journal.Flush();
     EXPECT_EQ("one two", Left());
+}
+
+// Tries until it is so; for ever it is not.
+template <class Condition>
+bool Comes(const Condition& Is) {
+    for (int Tries = 0; Tries < 20'000 && !Is(); ++Tries)
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    return Is();
+}
+
+TEST_F(SessionJournalTest, WhatCannotBeWrittenIsToldAndTriedAgainByItself) {
+    std::atomic<bool> IsFull = true;
+    SetHostWatcher([&](HostStep Step, const QString&, qint64&) {
+        if (Step == HostStep::Write && IsFull) throw Fault(u"No space left."_s);
+    });
+    SessionJournal Journal(Dir.Path(), {}, std::chrono::milliseconds(1));
+    EXPECT_FALSE(Journal.Problem());
+    Journal.Add("one");
+    EXPECT_TRUE(Comes([&] { return Journal.Problem().has_value(); }));
+    EXPECT_EQ(u"No space left.", Journal.Problem()->What());
+    IsFull = false;
+    EXPECT_TRUE(Comes([&] { return !Journal.Problem(); }));
+    EXPECT_EQ("one", Left());
+}
+
+TEST_F(SessionJournalTest, NothingIsWrittenWhileItIsPaused) {
+    SessionJournal Journal(Dir.Path(), {}, std::chrono::milliseconds(1));
+    Journal.Add("one");
+    {
+        const SessionPause Pause(&Journal);
+        EXPECT_EQ("one", Left());
+        SetHostWatcher(
+            [](HostStep, const QString& Path, qint64&) { ADD_FAILURE() << qPrintable(Path); });
+        Journal.Add("two");
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+        EXPECT_EQ("one", Left());
+        SetHostWatcher({});
+    }
+    Journal.Flush();
+    EXPECT_EQ("one two", Left());
+}
+
+// A disk that was pulled, and an empty directory where it was.
+TEST_F(SessionJournalTest, NothingIsWrittenWhereTheDatabaseIsNotThereAnyMore) {
+    MakeDirs(Dir / u"db"_s);
+    WriteFile(Dir / u"db/NextIDs.dat"_s, QByteArray(12, '\1'));
+    SessionJournal Journal(Dir / u"db/"_s);
+    Journal.Add("one");
+    Journal.Flush();
+    ASSERT_TRUE(QDir().rename(Dir / u"db"_s, Dir / u"away"_s) && QDir().mkdir(Dir / u"db"_s));
+    Journal.Add("two");
+    EXPECT_THROW(Journal.Flush(), Fault);
+    EXPECT_TRUE(ListDir(Dir / u"db"_s).empty());
+    ASSERT_TRUE(QDir().rmdir(Dir / u"db"_s) && QDir().rename(Dir / u"away"_s, Dir / u"db"_s));
+    Journal.Flush();
+    EXPECT_EQ(2u, ReadSessionJournal(Dir / u"db/"_s)->Entries.size());
 }
 
 TEST_F(SessionJournalTest, BeginsAnewWhereItIsToldTo) {

@@ -1,13 +1,18 @@
 // A session that does not come to its end: what was changed in it is there at the next opening.
 #include <gtest/gtest.h>
 
+#include <unistd.h>
+
 #include <QCryptographicHash>
 #include <QDateTime>
+#include <QDir>
+#include <QFile>
 #include "Fixtures.h"
 #include "db/Changes.h"
 #include "db/modAlbumFiles.h"
 #include "db/modLoadRecords.h"
 #include "db/records/SessionJournal.h"
+#include "harness/WithoutPrivileges.h"
 #include "support/Fault.h"
 #include "support/modFUFL.h"
 
@@ -194,6 +199,115 @@ TEST_F(SessionTest, AnEndThatFailsAtAnyStepLosesNothing) {
         if (Steps < Failing) return;
     }
     FAIL() << "it never came to its end";
+}
+
+// From a whole journal on the session's own has nothing to say, whether or not it could be deleted;
+// what is changed behind that must not go with it.
+TEST_F(SessionTest, WhatIsChangedBehindAnEndThatFailedIsKeptToo) {
+    for (const char* Refused : {"Albums.dat", "Session.journal", "Records.journal"}) {
+        std::map<std::string, QByteArray> Held;
+        {
+            const auto Engine = Begin();
+            Changes(*Engine).MakeAlbum(u"Before %1"_s.arg(QLatin1String(Refused)));
+            EXPECT_TRUE(Engine->IsSessionStored());
+            SetHostWatcher([&](HostStep Step, const QString& Path, qint64&) {
+                if (Step == HostStep::Delete && Path.endsWith(QLatin1String(Refused)))
+                    throw Fault(u"It cannot be deleted."_s);
+            });
+            EXPECT_THROW(Engine->FinalizeDB(), Fault);
+            EXPECT_EQ(JournalState::Whole, ReadJournal(Dir.Path()));
+            Changes(*Engine).MakeAlbum(u"Behind %1"_s.arg(QLatin1String(Refused)));
+            EXPECT_TRUE(Engine->IsSessionStored());
+            Held = ContentOf(*Engine);
+        }
+        SetHostWatcher({});
+        EXPECT_EQ(Held, ContentOf(*OpenEngine(Dir.Path(), Recovery::InMemory))) << Refused;
+        const auto Next = Begin();
+        EXPECT_EQ(Held, ContentOf(*Next)) << Refused;
+        EXPECT_TRUE(Aside().isEmpty()) << Refused;
+        Next->FinalizeDB();
+        EXPECT_EQ(Held, AllRecords(Dir.Path())) << Refused;
+    }
+}
+
+// Without room a write that waits cannot be finished; the albums are there all the same.
+TEST_F(SessionTest, AFullDiskDoesNotBarTheNextStart) {
+    std::map<std::string, QByteArray> Held;
+    {
+        const auto Engine = Begin();
+        Changes(*Engine).MakeAlbum(u"Garden"_s);
+        SetHostWatcher([](HostStep Step, const QString& Path, qint64&) {
+            if (Step == HostStep::Write && Path.endsWith(u".dat"_s)) throw Fault(u"No space."_s);
+        });
+        EXPECT_THROW(Engine->FinalizeDB(), Fault);
+        Held = ContentOf(*Engine);
+    }
+    const auto Next = Begin();
+    EXPECT_EQ(Held, ContentOf(*Next));
+    EXPECT_THROW(Next->FinalizeDB(), Fault);
+    SetHostWatcher({});
+    Next->FinalizeDB();
+    EXPECT_EQ(Held, AllRecords(Dir.Path()));
+}
+
+TEST_F(SessionTest, AnEndDoesNotWriteWhereTheDatabaseIsNotThereAnyMore) {
+    const auto Engine = Begin();
+    Changes(*Engine).MakeAlbum(u"Garden"_s);
+    EXPECT_TRUE(Engine->IsSessionStored());
+    const QString Db = Dir.Path().chopped(1), Away = Db + u".away"_s;
+    ASSERT_TRUE(QDir().rename(Db, Away) && QDir().mkdir(Db));
+    EXPECT_THROW(Engine->FinalizeDB(), Fault);
+    EXPECT_TRUE(ListDir(Db).empty());
+    Changes(*Engine).MakeAlbum(u"Park"_s);
+    EXPECT_FALSE(Engine->IsSessionStored());
+    EXPECT_TRUE(Engine->SessionProblem());
+    ASSERT_TRUE(QDir().rmdir(Db) && QDir().rename(Away, Db));
+    Engine->FinalizeDB();
+    EXPECT_EQ(ContentOf(*Engine), AllRecords(Dir.Path()));
+    EXPECT_FALSE(Engine->SessionProblem());
+}
+
+TEST_F(SessionTest, InADirectoryOfSomebodyElseItIsToldAndNothingGoes) {
+    if (::geteuid() != 0) GTEST_SKIP() << "needs another user";
+    const auto Before = AllRecords(Dir.Path());
+    ASSERT_TRUE(QFile::setPermissions(Dir.Path(), QFile::permissions(Dir.Path()) |
+                                                      QFileDevice::ReadOther |
+                                                      QFileDevice::ExeOther));
+    {
+        const WithoutPrivileges Other;
+        const auto Engine = Begin();
+        Changes(*Engine).MakeAlbum(u"Garden"_s);
+        EXPECT_FALSE(Engine->IsSessionStored());
+        EXPECT_TRUE(Engine->SessionProblem());
+        EXPECT_THROW(Engine->FinalizeDB(), Fault);
+        EXPECT_TRUE(Engine->FindAlbum(0, u"Garden"_s));
+    }
+    EXPECT_EQ(Before, AllRecords(Dir.Path()));
+}
+
+// A kill between the two would leave pictures that no record names.
+TEST_F(SessionTest, TheNextStartDeletesTheFilesOfWhatWasDeleted) {
+    const QStringList Gone = {SlidesFolder(Dir.Path(), 1) + u"00000001.jpg"_s,
+                              SoundTracksFolder(Dir.Path(), 1) + u"00000001_1.mp3"_s,
+                              SlidesFolder(Dir.Path(), 2) + u"00000002.jpg"_s,
+                              SoundTracksFolder(Dir.Path(), 2) + u"00000002_1.mp3"_s};
+    const QString Other = SlidesFolder(Dir.Path(), 1) + u"00000003.jpg"_s;
+    {
+        const auto Engine = Begin();
+        Changes(*Engine).DeleteSlide(1, 1);
+        Changes(*Engine).DeleteShow(1, 1);
+        Changes(*Engine).DeleteAlbum(2);
+        for (const QString& Path : Gone + QStringList{Other}) {
+            MakeDirs(GetFilePath(Path));
+            WriteFile(Path, "x");
+        }
+    }
+    OpenEngine(Dir.Path(), Recovery::InMemory);
+    for (const QString& Path : Gone) EXPECT_TRUE(FileExists(Path));
+    OpenEngine(Dir.Path());
+    for (const QString& Path : Gone) EXPECT_FALSE(FileExists(Path)) << qPrintable(Path);
+    EXPECT_FALSE(FolderExists(AlbumFolder(Dir.Path(), 2)));
+    EXPECT_TRUE(FileExists(Other));
 }
 
 // A write of all records that did not come to its end.

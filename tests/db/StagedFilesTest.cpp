@@ -182,6 +182,10 @@ TEST_F(StagedFiles, ThatWaitDoNotReplaceWhatIsNewer) {
     EXPECT_TRUE(SettleCommitted(Dir.Path()).has_value());
     SetHostWatcher({});
     Put("Albums/1/SoundTracks/song.mp3", "of today");
+    QFile Newer(Dir / "Albums/1/SoundTracks/song.mp3");
+    ASSERT_TRUE(Newer.open(QIODevice::ReadWrite));
+    Newer.setFileTime(QDateTime::currentDateTime().addSecs(60), QFileDevice::FileModificationTime);
+    Newer.close();
     EXPECT_FALSE(SettleCommitted(Dir.Path()).has_value());
     EXPECT_EQ("of today", Text("Albums/1/SoundTracks/song.mp3"));
 }

@@ -10,8 +10,8 @@ namespace neb::harness {
 
 class MountedMemory {
   public:
-    explicit MountedMemory(const QString& Dir)
-        : mDir(Dir), mIsThere(mount("none", qPrintable(Dir), "tmpfs", 0, "size=64m") == 0) {}
+    explicit MountedMemory(const QString& Dir, const char* Options = "size=64m")
+        : mDir(Dir), mIsThere(mount("none", qPrintable(Dir), "tmpfs", 0, Options) == 0) {}
     ~MountedMemory() { TakeAway(); }
     MountedMemory(const MountedMemory&) = delete;
     MountedMemory& operator=(const MountedMemory&) = delete;

@@ -62,9 +62,35 @@ TEST(Main, ALockThatACrashHasLeftBehindDoesNotCount) {
     EXPECT_TRUE(BecomeTheInstance(Next));
 }
 
-TEST(Main, APlaceWhereNoLockCanBeWrittenLocksNothing) {
+// Two programs that hold no lock would overwrite each other.
+TEST(Main, APlaceWhereNoLockCanBeWrittenIsNotOpenedToBeChanged) {
     harness::ScriptedBoxes Boxes;
     InstanceLock Lock(DatabaseLockPath(QStringLiteral("/proc/1/nothing here/")));
+    Boxes.Expect(
+        "The albums cannot be opened, as nothing can be written beside them: No such file or "
+        "directory.\n\nNothing has been changed.",
+        "Albums Cannot Be Opened", BoxIcon::Critical, BoxAnswer::Ok);
+    EXPECT_FALSE(BecomeTheInstance(Lock));
+}
+
+TEST(Main, AlbumsThatAreOpenOnAnotherMachineAreOpenedOnlyWhereTheUserSaysSo) {
+    harness::TempFolder Database;
+    harness::ScriptedBoxes Boxes;
+    const QByteArray Left = "7\nneb-slide-show\nthe-laptop\nanother-machine\nanother-start\n";
+    WriteFile(DatabaseLockPath(Database.Path()), Left);
+    const QString Asked =
+        "These albums are open on the computer \"the-laptop\", or the program has crashed "
+        "there.\n\nWhen two programs write the same albums, what one of them has changed is lost. "
+        "Only go on when the program is not running there.\n\nOpen the albums here?";
+    Boxes.Expect(Asked, "Albums In Use", BoxIcon::Question, BoxAnswer::No);
+    {
+        InstanceLock Lock(DatabaseLockPath(Database.Path()));
+        EXPECT_FALSE(BecomeTheInstance(Lock));
+    }
+    EXPECT_EQ(BoxAnswer::No, Boxes.Last().Default);
+    EXPECT_EQ(Left, ReadFile(DatabaseLockPath(Database.Path())));
+    Boxes.Expect(Asked, "Albums In Use", BoxIcon::Question, BoxAnswer::Yes);
+    InstanceLock Lock(DatabaseLockPath(Database.Path()));
     EXPECT_TRUE(BecomeTheInstance(Lock));
 }
 

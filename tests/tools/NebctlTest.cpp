@@ -692,6 +692,27 @@ TEST_F(NebctlImportTest, ADatabaseInUseOrReadOnlyIsLeftAlone) {
     EXPECT_TRUE(Import({}).Err.contains(u"read-only"_s));
 }
 
+TEST_F(NebctlImportTest, ADatabaseInUseOnAnotherMachineIsTakenOverOnlyWhereThatIsSaid) {
+    Import({});
+    Import({});  // behind which there is an earlier state
+    const QByteArray Left = "7\nneb-slide-show\nthe-laptop\nanother-machine\nanother-start\n";
+    for (const QStringList& Words :
+         {QStringList{u"rewrite"_s, Database()}, QStringList{u"restore"_s, Database(), u"1"_s},
+          QStringList{u"import"_s, Database(), Pictures(), u"--album"_s, u"Other"_s},
+          QStringList{u"transfer"_s, Database(), Database(), u"--album"_s, u"Other"_s, u"--to"_s,
+                      u"Third"_s}}) {
+        WriteFile(DatabaseLockPath(Database()), Left);
+        const Outcome Refused = Tool(Words);
+        EXPECT_EQ(Refused.Code, ExitFailed);
+        EXPECT_TRUE(Refused.Err.contains(u"in use on the computer \"the-laptop\""_s))
+            << qPrintable(Refused.Err);
+        EXPECT_EQ(Left, ReadFile(DatabaseLockPath(Database())));
+        const Outcome Done = Tool(Words + QStringList{u"--take-over"_s});
+        EXPECT_NE(Done.Code, ExitFailed) << qPrintable(Words[0] + u' ' + Done.Err);
+        EXPECT_FALSE(FileExists(DatabaseLockPath(Database())));
+    }
+}
+
 TEST_F(NebctlImportTest, WrongWordsAreRefused) {
     for (const QStringList& Words :
          {QStringList{u"import"_s}, QStringList{u"import"_s, Database(), Pictures()},

@@ -40,7 +40,28 @@ OtherDatabase::OtherDatabase(const QString& Dir, Use For)
     mEngine.SetProgramPath(AppPath());
 }
 
-Answer<std::shared_ptr<OtherDatabase>> OtherDatabase::Open(const QString& Dir, Use For) {
+// A source is only read, and may lie where nothing can be written.
+std::optional<BoxRequest> OtherDatabase::WhyNotLocked(FromElsewhere Other) {
+    const LockAnswer Is = mLock.TryLock(Other);
+    const bool CannotLock = Is.Is == LockAnswer::State::CannotLock;
+    if (Is || (CannotLock && mFor == Use::Source)) return std::nullopt;
+    const QString Title = QStringLiteral("Database In Use");
+    if (CannotLock)
+        return Refusal(QStringLiteral("The database in\n%1\ncannot be locked: ") + Is.Reason + u'.',
+                       DBPath(), Title);
+    if (Is.Is == LockAnswer::State::HeldHere)
+        return Refusal(
+            QStringLiteral("The database in\n%1\nis in use. Close it there and try again."),
+            DBPath(), Title);
+    return Refuse(QStringLiteral("The database in\n%1\nis in use on the computer \"%2\". Close it "
+                                 "there and try again. If the program has crashed there, open that "
+                                 "database by itself first: it then asks whether to go on.")
+                      .arg(DBPath(), Is.Machine),
+                  Title);
+}
+
+Answer<std::shared_ptr<OtherDatabase>> OtherDatabase::Open(const QString& Dir, Use For,
+                                                           FromElsewhere From) {
     const bool ToWrite = For == Use::Destination;
     if (const QString Owner = ToWrite ? DatabaseAround(Dir) : QString(); !Owner.isEmpty())
         return Refusal(QStringLiteral("The directory lies among the files of the database in\n%1\n"
@@ -51,10 +72,7 @@ Answer<std::shared_ptr<OtherDatabase>> OtherDatabase::Open(const QString& Dir, U
         return Refusal(QStringLiteral("The database in\n%1\nis read-only."), Dir,
                        QStringLiteral("Read-Only Database"));
     const std::shared_ptr<OtherDatabase> Other(new OtherDatabase(Dir, For));
-    if (!Other->mLock.TryLock())
-        return Refusal(
-            QStringLiteral("The database in\n%1\nis in use. Close it there and try again."), Dir,
-            QStringLiteral("Database In Use"));
+    if (auto Reason = Other->WhyNotLocked(From)) return *std::move(Reason);
     if (CountersAreMissing(Dir)) return DamagedCounters(Dir);
     Other->Reread();
     if (ToWrite && !Other->mEngine.CountersAreSound()) return DamagedCounters(Dir);

@@ -4,7 +4,7 @@
 
 #include "db/clsDBEngine.h"
 #include "db/records/modJournal.h"
-#include "support/files/modHostFiles.h"
+#include "support/files/InstanceLock.h"
 
 namespace neb {
 
@@ -18,7 +18,8 @@ class OtherDatabase {
     // reading runs beside the caller, whose window goes on painting. Refused when it is in use,
     // when it is to be written and read-only, when its counters are missing or too low. Throws
     // Fault.
-    static Answer<std::shared_ptr<OtherDatabase>> Open(const QString& Dir, Use For);
+    static Answer<std::shared_ptr<OtherDatabase>> Open(const QString& Dir, Use For,
+                                                       FromElsewhere Other = FromElsewhere::Counts);
 
     clsDBEngine& Engine() { return mEngine; }
     const QString& DBPath() const { return mEngine.DBPath(); }
@@ -28,6 +29,7 @@ class OtherDatabase {
 
   private:
     OtherDatabase(const QString& Dir, Use For);
+    std::optional<BoxRequest> WhyNotLocked(FromElsewhere Other);
 
     const Use mFor;
     InstanceLock mLock;

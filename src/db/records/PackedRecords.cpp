@@ -7,6 +7,7 @@ namespace neb {
 namespace {
 
 constexpr char Blank = ' ';
+constexpr qsizetype MostBlanks = 255;  // of a piece; more would make much of very little
 
 struct Piece {
     const char* Data;
@@ -117,7 +118,7 @@ std::optional<PackedRecords> PackedRecords::FromBytes(QByteArray Packed, qint64 
     qsizetype Place = 0;
     Piece Next{};
     while (Place < Packed.size()) {
-        if (!NextPiece(Packed, Place, Next)) return std::nullopt;
+        if (!NextPiece(Packed, Place, Next) || Next.BlankCount > MostBlanks) return std::nullopt;
         Total += Next.Count + Next.BlankCount;
     }
     if (Total != Length) return std::nullopt;

@@ -10,8 +10,8 @@
 
 #include "db/records/KeptAside.h"
 #include "db/records/modJournal.h"
-#include "support/Fault.h"
 #include "support/files/modHostFiles.h"
+#include "support/files/modHostFilesAccess.h"
 #include "support/files/modHostFilesCopy.h"
 #include "support/modFUFL.h"
 
@@ -99,18 +99,35 @@ class Walk {
     QByteArray mCheck;
 };
 
+QString UnfinishedPath(const QString& DBPath) {
+    return SessionJournalPath(DBPath) + QStringLiteral(".new");
+}
+
+// Also the names of folders that somebody else has made a moment ago.
 void MakeFolderOf(const QString& DBPath) {
-    const QString Folder = GetFilePath(SessionJournalPath(DBPath));
-    if (FolderExists(Folder)) return;
-    MakeDirs(Folder);
+    MakeDirs(GetFilePath(SessionJournalPath(DBPath)));
     SyncDir(DBPath + QStringLiteral("Temp/"));
     SyncDir(DBPath);
+}
+
+// What changes when records are written, by whomever.
+QByteArray MarkOf(const QString& DBPath) {
+    return FileMark(RecordPath(DBPath, RecordFile::NextIDs)) + '/' + FileMark(JournalPath(DBPath));
+}
+
+// Of a journal that is there; empty when it is too short for one.
+QByteArray BaseIn(const QByteArray& Bytes) {
+    return Bytes.mid(Magic.size(), SumLength);
 }
 
 }  // namespace
 
 QString SessionJournalPath(const QString& DBPath) {
     return GetFilePath(JournalPath(DBPath)) + QStringLiteral("Session.journal");
+}
+
+bool HasRecords(const QString& DBPath) {
+    return FileExists(RecordPath(DBPath, RecordFile::NextIDs)) || FileExists(JournalPath(DBPath));
 }
 
 QByteArray SumOfRecords(const QString& DBPath) {
@@ -131,26 +148,45 @@ struct SessionJournal::State {
         bool WithFiles;
     };
 
-    State(const QString& Path, const std::optional<SessionEnd>& From)
-        : DBPath(Path), Good(From.value_or(SessionEnd())) {}
+    State(const QString& Path, const std::optional<SessionEnd>& From,
+          std::chrono::milliseconds After)
+        : DBPath(Path),
+          RetryAfter(After),
+          HadRecords(HasRecords(Path)),
+          Good(From.value_or(SessionEnd())) {}
 
     void Run() {
         std::unique_lock Lock(Mutex);
-        for (;;) {
-            Changed.wait(Lock, [this] { return Ends || (!Waiting.isEmpty() && !Problem); });
-            if (Waiting.isEmpty() || Problem) return;
-            const QList<Item> Batch = Waiting;
-            Lock.unlock();
-            std::optional<Fault> Failed = Store(Batch);
-            Lock.lock();
-            Problem = std::move(Failed);
-            if (!Problem) Waiting.remove(0, Batch.size());
-            Changed.notify_all();
+        for (bool IsLast = false; !IsLast;) {
+            WaitForWork(Lock);
+            IsLast = Ends;
+            if (!Waiting.isEmpty() && !IsHeld) StoreWaiting(Lock);
         }
+    }
+    void WaitForWork(std::unique_lock<std::mutex>& Lock) {
+        const auto IsTime = [this] { return Ends || (Asked && !IsHeld && !Waiting.isEmpty()); };
+        if (Problem && !IsHeld)
+            Changed.wait_for(Lock, RetryAfter, IsTime);
+        else
+            Changed.wait(Lock, IsTime);
+    }
+    void StoreWaiting(std::unique_lock<std::mutex>& Lock) {
+        const QList<Item> Batch = Waiting;
+        Asked = false;
+        IsStoring = true;
+        ++Tries;
+        Lock.unlock();
+        std::optional<Fault> Failed = Store(Batch);
+        Lock.lock();
+        IsStoring = false;
+        Problem = std::move(Failed);
+        if (Problem) LastFailed = Tries;
+        if (!Problem) Waiting.remove(0, Batch.size());
+        Changed.notify_all();
     }
     std::optional<Fault> Store(const QList<Item>& Batch) {
         try {
-            if (Good.Length > 0 && !FileExists(SessionJournalPath(DBPath))) Forget();
+            if (!IsAsItWas()) Writer.reset();
             if (!Writer) Open();
             if (std::ranges::any_of(Batch, &Item::WithFiles)) SyncVolume(DBPath);
             for (const Item& Entry : Batch) Put(Entry.Bytes);
@@ -160,26 +196,42 @@ struct SessionJournal::State {
         } catch (const Fault& Reason) {
             Writer.reset();
             return Reason;
+        } catch (const std::exception& Reason) {  // no memory
+            Writer.reset();
+            return Fault(QString::fromUtf8(Reason.what()), SessionJournalPath(DBPath));
         }
     }
-    // What it says stands in other records, which were written meanwhile.
-    void Forget() {
-        Writer.reset();
-        Good = {};
+    // Records that were written meanwhile have all that the journal says; and it may be gone.
+    bool IsAsItWas() const {
+        return FileExists(SessionJournalPath(DBPath)) && MarkOf(DBPath) == Mark;
     }
     // Under another name first: what was flushed before a write failed is not lost meanwhile.
     void Open() {
-        const QString Path = SessionJournalPath(DBPath), Beside = Path + QStringLiteral(".new");
+        if (!FolderExists(DBPath) || (HadRecords && !HasRecords(DBPath)))
+            throw Fault(QStringLiteral("The database is not there any more."), DBPath);
+        HadRecords = HasRecords(DBPath);
+        Mark = MarkOf(DBPath);
+        const QString Path = SessionJournalPath(DBPath);
+        const QByteArray Before = Beginning();
         MakeFolderOf(DBPath);
-        const QByteArray Before =
-            Good.Length > 0 ? ReadFile(Path).first(Good.Length) : HeadOf(SumOfRecords(DBPath));
-        Writer.emplace(Beside);
+        Writer.emplace(UnfinishedPath(DBPath));
         Writer->Write(Before.constData(), Before.size());
         Writer->Sync();
-        RenameFile(Beside, Path);
+        RenameFile(UnfinishedPath(DBPath), Path);
         SyncDir(GetFilePath(Path));
-        if (Good.Length == 0) Good = {Before.size(), Before.last(CheckLength)};
-        Written = Good;
+        Good = Written = {Before.size(), Before.last(CheckLength)};
+    }
+    // What stands before the next entry: all that was stored, as long as it goes with the records
+    // that are there; a new head where they were written since.
+    QByteArray Beginning() const {
+        const QByteArray Sum = SumOfRecords(DBPath);
+        if (Good.Length == 0) return HeadOf(Sum);
+        const QString Path = SessionJournalPath(DBPath);
+        if (!FileExists(Path) && HasRecords(DBPath)) return HeadOf(Sum);
+        const QByteArray Bytes = ReadFile(Path);
+        if (Bytes.size() >= Good.Length && BaseIn(Bytes) == Sum) return Bytes.first(Good.Length);
+        if (ReadJournal(DBPath) == JournalState::Whole) return HeadOf(Sum);
+        throw Fault(QStringLiteral("The records have been replaced by others."), DBPath);
     }
     void Put(const QByteArray& Entry) {
         Written.Check = CheckOf(Written.Check, Entry);
@@ -187,32 +239,46 @@ struct SessionJournal::State {
         Writer->Write(Whole.constData(), Whole.size());
         Written.Length += Whole.size();
     }
+
+    // Until what was added before is stored, or a try that begins from now on has failed.
     void WaitUntilStored(std::unique_lock<std::mutex>& Lock) {
-        Problem.reset();
+        const quint64 Before = Tries;
+        Asked = true;
         Changed.notify_all();
-        Changed.wait(Lock, [this] { return Waiting.isEmpty() || Problem; });
+        Changed.wait(Lock, [&] { return Waiting.isEmpty() || LastFailed > Before; });
+    }
+    void Forget(std::unique_lock<std::mutex>& Lock) {
+        Changed.wait(Lock, [this] { return !IsStoring; });
+        Waiting.clear();
+        Problem.reset();
+        Writer.reset();
+        Good = {};
     }
 
     const QString DBPath;
-    std::mutex Mutex;
+    const std::chrono::milliseconds RetryAfter;
+    mutable std::mutex Mutex;
     std::condition_variable Changed;
     QList<Item> Waiting;
     std::optional<Fault> Problem;
-    bool Ends = false;
+    bool Ends = false, Asked = false, IsStoring = false, IsHeld = false;
+    quint64 Tries = 0, LastFailed = 0;
     // of the thread, while it stores
+    bool HadRecords;
     std::optional<HostWriter> Writer;
+    QByteArray Mark;           // of the records when it was opened
     SessionEnd Good, Written;  // what is on the disk; what was written
     std::thread Thread;
 };
 
-SessionJournal::SessionJournal(const QString& DBPath, const std::optional<SessionEnd>& From)
-    : mState(std::make_unique<State>(DBPath, From)) {}
+SessionJournal::SessionJournal(const QString& DBPath, const std::optional<SessionEnd>& From,
+                               std::chrono::milliseconds RetryAfter)
+    : mState(std::make_unique<State>(DBPath, From, RetryAfter)) {}
 
 SessionJournal::~SessionJournal() {
     {
         const std::lock_guard Lock(mState->Mutex);
-        mState->Problem.reset();  // one last try
-        mState->Ends = true;
+        mState->Ends = true;  // after one last try
         mState->Changed.notify_all();
     }
     if (mState->Thread.joinable()) mState->Thread.join();
@@ -223,39 +289,57 @@ void SessionJournal::Add(const QByteArray& Entry, bool WithFiles) {
     const QByteArray Bytes = BytesOf(static_cast<quint32>(Entry.size())) +
                              BytesOf<qint64>(QDateTime::currentMSecsSinceEpoch()) + Entry;
     mState->Waiting.append({Bytes, WithFiles});
-    mState->Problem.reset();
+    mState->Asked = true;
     if (!mState->Thread.joinable()) mState->Thread = std::thread([this] { mState->Run(); });
     mState->Changed.notify_all();
 }
 
 void SessionJournal::Flush() {
-    Pause();
-    const std::lock_guard Lock(mState->Mutex);
+    std::unique_lock Lock(mState->Mutex);
+    if (!mState->Waiting.isEmpty()) mState->WaitUntilStored(Lock);
     if (mState->Problem) throw Fault(*mState->Problem);
 }
 
 void SessionJournal::Pause() {
     std::unique_lock Lock(mState->Mutex);
     if (!mState->Waiting.isEmpty()) mState->WaitUntilStored(Lock);
+    mState->IsHeld = true;
+    mState->Changed.wait(Lock, [this] { return !mState->IsStoring; });
+}
+
+void SessionJournal::GoOn() {
+    const std::lock_guard Lock(mState->Mutex);
+    mState->IsHeld = false;
+    mState->Asked = true;
+    mState->Changed.notify_all();
+}
+
+std::optional<Fault> SessionJournal::Problem() const {
+    const std::lock_guard Lock(mState->Mutex);
+    return mState->Problem;
 }
 
 void SessionJournal::Restart() {
-    Pause();
-    const std::lock_guard Lock(mState->Mutex);
-    mState->Waiting.clear();
-    mState->Forget();
+    std::unique_lock Lock(mState->Mutex);
+    mState->Forget(Lock);
     DropSessionJournal(mState->DBPath);
 }
 
 std::optional<LeftSession> ReadSessionJournal(const QString& DBPath) {
     const QString Path = SessionJournalPath(DBPath);
     if (!FileExists(Path)) return std::nullopt;
-    const QByteArray Bytes = ReadFile(Path);
-    return Walk(Bytes).Run();
+    return SessionIn(ReadFile(Path));
+}
+
+std::optional<LeftSession> SessionIn(const QByteArray& Journal) {
+    return Walk(Journal).Run();
 }
 
 void DropSessionJournal(const QString& DBPath) {
+    const bool IsThere = FileExists(SessionJournalPath(DBPath));
+    DeleteFile(UnfinishedPath(DBPath));
     DeleteFile(SessionJournalPath(DBPath));
+    if (IsThere) SyncDir(GetFilePath(SessionJournalPath(DBPath)));
 }
 
 FoundSession LookForSession(const QString& DBPath) {

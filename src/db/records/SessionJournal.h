@@ -8,13 +8,20 @@
 
 #include <QByteArray>
 #include <QStringList>
+#include <chrono>
 #include <memory>
 #include <optional>
 #include <vector>
 
+#include "support/Fault.h"
+
 namespace neb {
 
 QString SessionJournalPath(const QString& DBPath);
+
+// Whether there is a database at all, or a write of one that has begun: a disk that was taken away
+// leaves an empty directory, in which nobody would look for what is written there.
+bool HasRecords(const QString& DBPath);
 
 // The records that are there now, as a check sum over the content of all eight files: as a whole
 // journal has them where there is one, for they are written from it. Throws Fault when they cannot
@@ -31,8 +38,9 @@ struct SessionEnd {
 class SessionJournal {
   public:
     // Goes on at the end of the one that is there, or begins it anew: with the first entry, bound
-    // to the records that are there then.
-    explicit SessionJournal(const QString& DBPath, const std::optional<SessionEnd>& From = {});
+    // to the records that are there then. What cannot be written is tried again after so long.
+    explicit SessionJournal(const QString& DBPath, const std::optional<SessionEnd>& From = {},
+                            std::chrono::milliseconds RetryAfter = std::chrono::seconds(3));
     ~SessionJournal();  // what was added is on the disk, as far as it can be
     SessionJournal(const SessionJournal&) = delete;
     SessionJournal& operator=(const SessionJournal&) = delete;
@@ -40,17 +48,37 @@ class SessionJournal {
     // WithFiles: what was written to the database's files before is on the disk before the entry.
     void Add(const QByteArray& Entry, bool WithFiles = false);
     // Returns when everything added is on the disk. Throws Fault when it could not be written; it
-    // is tried again with the next entry.
+    // is tried again with the next entry, and now and then.
     void Flush();
-    // Stores what can be stored and returns; the next entry goes on. Before all records are
-    // written, which may delete the file.
+    // Stores what can be stored, and then nothing until GoOn: while all records are written, which
+    // may delete the file. What is stored after that begins it anew.
     void Pause();
+    void GoOn();
+    // Why what was added is not on the disk, if it cannot be written at present. Never waits for a
+    // disk.
+    std::optional<Fault> Problem() const;
     // Deletes the file: what it says stands in other records now. The next entry begins it anew.
     void Restart();
 
   private:
     struct State;
     std::unique_ptr<State> mState;
+};
+
+// While all records are written. No journal: nothing is paused.
+class SessionPause {
+  public:
+    explicit SessionPause(SessionJournal* Journal) : mJournal(Journal) {
+        if (mJournal) mJournal->Pause();
+    }
+    ~SessionPause() {
+        if (mJournal) mJournal->GoOn();
+    }
+    SessionPause(const SessionPause&) = delete;
+    SessionPause& operator=(const SessionPause&) = delete;
+
+  private:
+    SessionJournal* const mJournal;
 };
 
 struct SessionEntry {
@@ -68,6 +96,8 @@ struct LeftSession {
 
 // Nothing when there is none, or its beginning is damaged. Changes nothing.
 std::optional<LeftSession> ReadSessionJournal(const QString& DBPath);
+std::optional<LeftSession> SessionIn(const QByteArray& Journal);
+// From here on it does not count; its name is gone from the disk, too. Throws Fault.
 void DropSessionJournal(const QString& DBPath);
 
 struct FoundSession {

@@ -132,8 +132,9 @@ class Settling {
     }
     void MakeFolder(const QString& Folder) {
         MakeDirs(Folder);
-        mTouched.insert(Folder);
-        mTouched.insert(GetParentDir(Folder));
+        for (QString Each = Folder; Each.size() > mDBPath.size(); Each = GetParentDir(Each))
+            mTouched.insert(Each);
+        mTouched.insert(mDBPath);
     }
     // One that is not staged any more is in its place already: an earlier try was cut short.
     void Move(const StagedChange::Move& Row) {

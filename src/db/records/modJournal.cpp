@@ -138,15 +138,18 @@ QByteArray WriteUnfinishedJournal(const QString& DBPath, const RecordImage& Imag
     return Sum.result();
 }
 
+// Its name, and those of the folders above, which may have been made a moment ago, by a program
+// that was killed then.
+void SyncJournalNames(const QString& DBPath) {
+    SyncDir(JournalFolder(DBPath));
+    SyncDir(TempFolder(DBPath));
+    SyncDir(DBPath);
+}
+
 // BeforeItIsWhole gets its check sum.
 void WriteJournal(const QString& DBPath, const RecordImage& Image,
                   const std::function<void(const QByteArray& Sum)>& BeforeItIsWhole = {}) {
-    const QString Folder = JournalFolder(DBPath);
-    if (!FolderExists(Folder)) {
-        MakeDirs(Folder);
-        SyncDir(TempFolder(DBPath));
-        SyncDir(DBPath);
-    }
+    MakeDirs(JournalFolder(DBPath));
     try {
         const QByteArray Sum = WriteUnfinishedJournal(DBPath, Image);
         if (BeforeItIsWhole) BeforeItIsWhole(Sum);
@@ -155,7 +158,7 @@ void WriteJournal(const QString& DBPath, const RecordImage& Image,
         DeleteIfPossible(UnfinishedPath(DBPath));
         throw;
     }
-    SyncDir(Folder);
+    SyncJournalNames(DBPath);
 }
 
 // Deleted, made anew, written whole, flushed.
@@ -215,6 +218,12 @@ bool Unfold(const QByteArray& Journal, RecordImage& Image) {
     return Place == End;
 }
 
+// Byte by byte: what a loss of power has kept from the disk reads as zeros.
+bool IsWrittenSoFar(QByteArrayView There, const char* New) {
+    return std::equal(There.begin(), There.end(), New,
+                      [](char Is, char Will) { return Is == Will || Is == 0; });
+}
+
 // Whether what is there can be the beginning of what is being written.
 bool IsBeginningOf(const PackedRecords& New, const QString& Path) {
     HostReader Reader(Path);
@@ -225,7 +234,7 @@ bool IsBeginningOf(const PackedRecords& New, const QString& Path) {
         if (!Same) return;
         There.resize(Length);
         const qint64 Got = Reader.Read(There.data(), Length);
-        Same = QByteArrayView(There).first(Got) == QByteArrayView(Data, Got);
+        Same = IsWrittenSoFar(QByteArrayView(There).first(Got), Data);
     });
     return Same;
 }
@@ -241,6 +250,14 @@ bool FilesWereReplaced(const QString& DBPath, const QByteArray& Journal, const R
             return true;
     }
     return false;
+}
+
+// The session that it has all of goes first: without the journal it would be taken for one of other
+// records.
+void FinishWrite(const QString& DBPath, const RecordImage& Image, QString& NotKept) {
+    if (LookForSession(DBPath).Is == FoundSession::State::IsStored) DropSessionJournal(DBPath);
+    if (const auto Problem = CarryOut(DBPath, Image, LookAtFiles(DBPath)))
+        NotKept = Problem->Text();
 }
 
 // With the files that were to come with it.
@@ -262,15 +279,21 @@ QString JournalPath(const QString& DBPath) {
     return JournalFolder(DBPath) + QStringLiteral("Records.journal");
 }
 
+std::optional<RecordImage> RecordsInJournal(const QByteArray& Journal) {
+    RecordImage Content;
+    if (!IsSound(Journal) || !Unfold(Journal, Content)) return std::nullopt;
+    return Content;
+}
+
 JournalState ReadJournal(const QString& DBPath, RecordImage* Image) {
     const QString Path = JournalPath(DBPath);
     if (!FileExists(Path))
         return FileExists(UnfinishedPath(DBPath)) ? JournalState::Torn : JournalState::None;
     const QByteArray Journal = ReadFile(Path);
-    RecordImage Content;
-    if (!IsSound(Journal) || !Unfold(Journal, Content)) return JournalState::Torn;
-    if (FilesWereReplaced(DBPath, Journal, Content)) return JournalState::Foreign;
-    if (Image) *Image = std::move(Content);
+    std::optional<RecordImage> Content = RecordsInJournal(Journal);
+    if (!Content) return JournalState::Torn;
+    if (FilesWereReplaced(DBPath, Journal, *Content)) return JournalState::Foreign;
+    if (Image) *Image = std::move(*Content);
     return JournalState::Whole;
 }
 
@@ -287,7 +310,11 @@ std::optional<Fault> WriteDatabase(const QString& DBPath, const RecordImage& Ima
 void CommitDatabase(const QString& DBPath, const RecordImage& Image, const StagedChange& Files) {
     WriteJournal(DBPath, Image,
                  [&](const QByteArray& Sum) { NoteStagedChange(DBPath, Files, Sum); });
-    DropSessionJournal(DBPath);
+    try {
+        DropSessionJournal(DBPath);
+    } catch (const Fault&) {
+        return;  // it is known to be older, and the next start drops it
+    }
 }
 
 std::optional<Fault> SettleCommitted(const QString& DBPath) {
@@ -322,13 +349,12 @@ bool RecoverDatabase(const QString& DBPath, QStringList& KeptAside, QString& Not
     const bool IsDamaged = State == JournalState::Torn && FileExists(JournalPath(DBPath));
     if (State == JournalState::Foreign || IsDamaged) KeptAside += PutJournalAside(DBPath);
     try {
+        if (State == JournalState::Whole) SyncJournalNames(DBPath);
         SettleCommitted(DBPath);
+        if (State == JournalState::Whole) FinishWrite(DBPath, Image, NotKept);
     } catch (const Fault&) {
         return false;
     }
-    if (State == JournalState::Whole)
-        if (const auto Problem = CarryOut(DBPath, Image, LookAtFiles(DBPath)))
-            NotKept = Problem->Text();
     DeleteIfPossible(UnfinishedPath(DBPath));
     return true;
 }

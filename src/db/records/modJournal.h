@@ -36,6 +36,9 @@ enum class JournalState {
 // Looks without changing anything; Image, when given, receives the content of a whole one.
 JournalState ReadJournal(const QString& DBPath, RecordImage* Image = nullptr);
 
+// What a journal holds; nothing for bytes of any other kind.
+std::optional<RecordImage> RecordsInJournal(const QByteArray& Journal);
+
 // Journal, files, end of the journal; all of it is on the disk afterwards. Throws Fault: when
 // the journal could not be written the old database stands untouched; later, the journal
 // stays and the next start finishes the work. The records that were there become the newest of the
@@ -66,8 +69,8 @@ bool CountersAreMissing(const QString& DBPath);
 // without a journal and a journal that never came to be whole. One that is damaged, or that does
 // not go with the record files, is kept aside with its files; PutAside gets their paths, and
 // NotKept why the records of before could not be kept as an earlier state, if so. False
-// where staged files can neither go to their places nor be noted as waiting: then nothing has
-// changed, and the journal is to be read where it lies.
+// where that cannot be done now, for want of room say: the journal is whole still, and to be
+// read where it lies.
 bool RecoverDatabase(const QString& DBPath, QStringList& PutAside, QString& NotKept);
 
 }  // namespace neb

@@ -125,22 +125,6 @@ class ScratchDir {
     QString mPath;
 };
 
-// Held by the one running instance; a lock left behind by a crash does not count, not even one
-// that was cut short or was made on another machine.
-class InstanceLock {
-  public:
-    explicit InstanceLock(const QString& Path);
-    ~InstanceLock();
-    InstanceLock(const InstanceLock&) = delete;
-    InstanceLock& operator=(const InstanceLock&) = delete;
-    // False when another holds it. A place where no lock can be written locks nothing: true.
-    bool TryLock();
-
-  private:
-    struct State;
-    std::unique_ptr<State> mState;
-};
-
 // What is about to happen to the disk. A test's watcher is called before each step and may
 // throw a Fault (a full disk), end the process, or for a write lower Length to write a part.
 enum class HostStep { Write, Sync, SyncDir, Delete, Rename, Link, MakeDir, SyncVolume, Protect };

@@ -1,6 +1,7 @@
 #include "support/files/modHostFilesAccess.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <QFile>
@@ -24,6 +25,17 @@ void ClearReadOnly(const QString& Path) {
 bool CanWriteInto(const QString& Dir) {
     return FolderExists(Dir) &&
            ::access(QFile::encodeName(ResolvePath(Dir)).constData(), W_OK | X_OK) == 0;
+}
+
+QByteArray FileMark(const QString& Path) {
+    struct stat Is = {};
+    if (::stat(QFile::encodeName(ResolvePath(Path)).constData(), &Is) != 0) return {};
+    QByteArray Mark;
+    for (const auto Part : {static_cast<qint64>(Is.st_dev), static_cast<qint64>(Is.st_ino),
+                            static_cast<qint64>(Is.st_size), static_cast<qint64>(Is.st_mtim.tv_sec),
+                            static_cast<qint64>(Is.st_mtim.tv_nsec)})
+        Mark += QByteArray::number(Part) + ' ';
+    return Mark;
 }
 
 int OpenForOther(const QString& Path) {

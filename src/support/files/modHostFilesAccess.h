@@ -13,4 +13,8 @@ bool CanWriteInto(const QString& Dir);
 // A descriptor of the file for another program to read by; the caller closes it. Throws Fault.
 int OpenForOther(const QString& Path);
 
+// What tells a file from every other, and from itself once it has been written anew; empty where
+// there is none.
+QByteArray FileMark(const QString& Path);
+
 }  // namespace neb

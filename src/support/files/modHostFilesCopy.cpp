@@ -70,7 +70,7 @@ class BytesCopy {
         mTo.seek(mFrom.size() - mLeft);
         const qint64 Count = mFrom.read(mRoom.data(), Length);
         if (Count < 0) FailRead();
-        if (mTo.write(mRoom.data(), Count) != Count) FailWrite();
+        if (!WriteEach(mTo, mRoom.data(), Count)) FailWrite();
         return Count;
     }
 

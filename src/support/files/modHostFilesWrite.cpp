@@ -2,7 +2,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QLockFile>
 #include <QTemporaryDir>
 #include <cerrno>
 #include <cstdio>
@@ -39,10 +38,10 @@ HostWatcher& Watcher() {
     Fail(QStringLiteral("The file cannot be written."), Path, File.errorString());
 }
 
-// Writes in one go; a watcher that shortens the write makes it a full disk.
+// A watcher that shortens the write makes it a full disk.
 void WriteAll(QFile& File, const char* Data, qint64 Length, const QString& Path) {
     const qint64 Allowed = AllowedToWrite(Path, Length);
-    if (File.write(Data, Allowed) != Allowed || !File.flush()) FailWrite(File, Path);
+    if (!WriteEach(File, Data, Allowed) || !File.flush()) FailWrite(File, Path);
     if (Allowed < Length) FailNoSpace(Path);
 }
 
@@ -108,6 +107,23 @@ void Drop(const fs::path& Path) {
     if (fs::remove(Path, Ignored)) NoteNameGone(Host);
 }
 
+// What a link leads to stays.
+void DropTree(const fs::path& Dir) {
+    std::error_code Error;
+    std::vector<fs::path> All;
+    const bool IsOwn = !fs::is_symlink(fs::symlink_status(Dir, Error));
+    fs::directory_iterator Entry;
+    if (IsOwn) Entry = fs::directory_iterator(Dir, Error);
+    for (; !Error && Entry != fs::directory_iterator(); Entry.increment(Error))
+        All.push_back(Entry->path());
+    for (const fs::path& Each : All) {
+        std::error_code Ignored;
+        const bool IsFolder = fs::is_directory(fs::symlink_status(Each, Ignored));
+        IsFolder ? DropTree(Each) : Drop(Each);
+    }
+    Drop(Dir);
+}
+
 }  // namespace
 
 void SetHostWatcher(HostWatcher NewWatcher) {
@@ -122,6 +138,12 @@ void AnnounceStep(HostStep Step, const QString& Path) {
 qint64 AllowedToWrite(const QString& Path, qint64 Length) {
     if (Watcher()) Watcher()(HostStep::Write, Path, Length);
     return Length;
+}
+
+bool WriteEach(QFile& File, const char* Data, qint64 Length) {
+    for (qint64 Count; Length > 0; Data += Count, Length -= Count)
+        if ((Count = File.write(Data, Length)) <= 0) return false;
+    return true;
 }
 
 void FailNoSpace(const QString& Path) {
@@ -217,8 +239,12 @@ void SyncDir(const QString& Dir) {
 #ifndef _WIN32
     const int Handle = ::open(QFile::encodeName(ResolvePath(Dir)).constData(), O_RDONLY);
     if (Handle < 0) return;  // some file systems do not let a directory be opened
-    ::fsync(Handle);
+    const int Problem = ::fsync(Handle) == 0 ? 0 : errno;
     ::close(Handle);
+    // others do not know what that is
+    if (Problem == EIO || Problem == ENOSPC || Problem == EDQUOT)
+        Fail(QStringLiteral("The names cannot be brought to the disk."), Dir,
+             qt_error_string(Problem));
 #endif
 }
 
@@ -230,7 +256,7 @@ void MakeDirs(const QString& Dir) {
 }
 
 void DeleteTree(const QString& Dir) {
-    if (FolderExists(Dir)) QDir(ResolvePath(Dir)).removeRecursively();
+    if (FolderExists(Dir)) DropTree(NativePath(Dir));
 }
 
 void DeleteFilesIn(const QString& Dir, const Yield& LetRun) {
@@ -316,21 +342,6 @@ ScratchDir::ScratchDir() {
 
 ScratchDir::~ScratchDir() {
     QDir(mPath).removeRecursively();
-}
-
-struct InstanceLock::State {
-    explicit State(const QString& Path) : File(ResolvePath(Path)) { File.setStaleLockTime(0); }
-    // A live holder keeps the file locked by the host as well. A lock that nobody so keeps was left
-    // by a power failure (and names nobody), or on another machine.
-    bool TakeOver() { return File.removeStaleLockFile() && File.tryLock(0); }
-    QLockFile File;
-};
-
-InstanceLock::InstanceLock(const QString& Path) : mState(std::make_unique<State>(Path)) {}
-InstanceLock::~InstanceLock() = default;
-bool InstanceLock::TryLock() {
-    return mState->File.tryLock(0) || mState->File.error() != QLockFile::LockFailedError ||
-           mState->TakeOver();
 }
 
 }  // namespace neb

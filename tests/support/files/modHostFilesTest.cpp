@@ -3,9 +3,11 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <QDir>
 #include <QFile>
+#include <csignal>
 #include <fstream>
 
 #include "harness/TempFolder.h"
@@ -205,41 +207,23 @@ TEST(HostFiles, AWriterGivesBackWhatItWasGiven) {
     EXPECT_EQ(ReadFile(Dir / "a"), Expected);
 }
 
-TEST(HostFiles, TheLockIsRefusedToASecondHolderAndFreeAfterwards) {
+// The host writes a part of it and gives its reason at the next call alone.
+TEST(HostFiles, AWriteThatFindsNoRoomSaysSo) {
     TempFolder Dir;
-    {
-        InstanceLock First(Dir / "lock");
-        InstanceLock Second(Dir / "lock");
-        EXPECT_TRUE(First.TryLock());
-        EXPECT_FALSE(Second.TryLock());
+    rlimit Before = {};
+    ASSERT_EQ(0, ::getrlimit(RLIMIT_FSIZE, &Before));
+    ::signal(SIGXFSZ, SIG_IGN);
+    const rlimit Small = {1000, Before.rlim_max};
+    ASSERT_EQ(0, ::setrlimit(RLIMIT_FSIZE, &Small));
+    QString Said;
+    try {
+        WriteFile(Dir / "a", QByteArray(5000, 'x'));
+    } catch (const Fault& Problem) {
+        Said = Problem.What();
     }
-    InstanceLock Third(Dir / "lock");
-    EXPECT_TRUE(Third.TryLock());
-}
-
-TEST(HostFiles, ALockCutShortOrFromAnotherMachineDoesNotCount) {
-    TempFolder Dir;
-    for (const QByteArray Left : {"", "garb", "1\nneb-slide-show\nanother-machine\n\n\n"}) {
-        WriteFile(Dir / "lock", Left);
-        InstanceLock Next(Dir / "lock");
-        EXPECT_TRUE(Next.TryLock()) << Left.toStdString();
-    }
-}
-
-TEST(HostFiles, ALiveHolderIsRespectedWhateverTheLockFileSays) {
-    TempFolder Dir;
-    InstanceLock First(Dir / "lock");
-    ASSERT_TRUE(First.TryLock());
-    WriteFile(Dir / "lock", {});
-    InstanceLock Second(Dir / "lock");
-    EXPECT_FALSE(Second.TryLock());
-}
-
-TEST(HostFiles, ALockTakesEitherSeparator) {
-    TempFolder Dir;
-    InstanceLock First(Dir.Path().chopped(1) + "\\lock");
-    EXPECT_TRUE(First.TryLock());
-    EXPECT_TRUE(FileExists(Dir / "lock"));
+    ASSERT_EQ(0, ::setrlimit(RLIMIT_FSIZE, &Before));
+    EXPECT_EQ(1000, FileSize(Dir / "a"));
+    EXPECT_TRUE(Said.contains(qt_error_string(EFBIG))) << qPrintable(Said);
 }
 
 TEST(HostFiles, AReaderRefusesAPipeAtOnce) {

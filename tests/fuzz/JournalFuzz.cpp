@@ -1,0 +1,10 @@
+// The reader of the journal of all records under libFuzzer. Built with the sanitizers only.
+#include <cstdlib>
+
+#include "JournalFuzzEntry.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const unsigned char* Data, size_t Size) {
+    const QByteArray Bytes(reinterpret_cast<const char*>(Data), static_cast<qsizetype>(Size));
+    if (!neb::fuzz::RunJournal(Bytes)) std::abort();
+    return 0;
+}
