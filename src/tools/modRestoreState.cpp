@@ -1,11 +1,10 @@
 #include "tools/modRestoreState.h"
 
 #include "db/StateDifferences.h"
-#include "db/modDatabaseLock.h"
 #include "db/modRestore.h"
-#include "support/files/modHostFiles.h"
 #include "tools/modCommands.h"
 #include "tools/modHistory.h"
+#include "tools/words/ToolDatabase.h"
 #include "tools/words/modWords.h"
 
 namespace neb {
@@ -66,24 +65,19 @@ int Restore(clsDBEngine& Engine, const Generation& Which, ToolIO& IO) {
 }  // namespace
 
 int RunRestore(const QStringList& Arguments, ToolIO& IO) {
-    const std::optional<RestoreOrder> Order = ReadOrder(Arguments, IO);
+    QStringList Words = Arguments;
+    const std::optional<Mend> How = TakeMend(Words, IO);
+    const std::optional<RestoreOrder> Order = How ? ReadOrder(Words, IO) : std::nullopt;
     if (!Order) return ExitFailed;
-    if (!MayWriteDatabase(Order->Dir))
-        return Fail(IO, QStringLiteral("The database in %1 is read-only.").arg(Order->Dir));
-    InstanceLock Lock(DatabaseLockPath(Order->Dir));
-    if (!Lock.TryLock())
-        return Fail(IO,
-                    QStringLiteral("The database in %1 is in use by the program.").arg(Order->Dir));
     const std::vector<Generation> All = ListGenerations(Order->Dir);
     if (static_cast<size_t>(Order->Number) > All.size())
         return Fail(IO, QStringLiteral("There is no earlier state %1; nebctl history lists those "
                                        "that there are: %2.")
                             .arg(Order->Number)
                             .arg(All.size()));
-    clsDBEngine Engine;
-    Engine.SetDBPath(Order->Dir);
-    Engine.InitializeDB();
-    return Restore(Engine, All[static_cast<size_t>(Order->Number) - 1], IO);
+    const auto Database = ToolDatabase::Open(Order->Dir, *How, IO);
+    if (!Database) return ExitFailed;
+    return Restore(Database->Engine(), All[static_cast<size_t>(Order->Number) - 1], IO);
 }
 
 }  // namespace neb

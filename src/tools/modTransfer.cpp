@@ -5,11 +5,13 @@
 
 #include "albums/transfer/OtherDatabase.h"
 #include "albums/transfer/Transfer.h"
+#include "db/DatabaseHealth.h"
 #include "db/records/modJournal.h"
 #include "support/Fault.h"
 #include "tools/Named.h"
 #include "tools/modCommands.h"
 #include "tools/modHistory.h"
+#include "tools/words/ToolDatabase.h"
 #include "tools/words/modWords.h"
 
 namespace neb {
@@ -20,6 +22,7 @@ struct TransferOrder {
     QString Album, Show;  // no show: the whole album
     QString To;           // the album in the destination
     bool Replace = false, WithoutMissing = false;
+    Mend How = Mend::Not;  // a damaged destination
 };
 
 bool Misused(ToolIO& IO, const QString& Wanted) {
@@ -37,6 +40,9 @@ bool TakeOptions(QStringList& Words, TransferOrder& Order, ToolIO& IO) {
             return Misused(IO, QStringLiteral("%1 wants a name").arg(QLatin1String(Name)));
         *Into = ConvertQuotes(Value.value_or(QString()));
     }
+    const std::optional<Mend> How = TakeMend(Words, IO);
+    if (!How) return false;
+    Order.How = *How;
     Order.Replace = Words.removeAll(QStringLiteral("--replace")) > 0;
     Order.WithoutMissing = Words.removeAll(QStringLiteral("--without-missing")) > 0;
     if (Words.size() == 2) return true;
@@ -74,6 +80,8 @@ std::optional<TwoDatabases> OpenBoth(const TransferOrder& Order, ToolIO& IO) {
         return std::nullopt;
     }
     const bool IsOne = IsSameDatabase(Order.Src, Order.Dst);
+    if (!LookAtHealth(Order.Dst).IsSound() && !IsSoundOrMended(Order.Dst, Order.How, IO))
+        return std::nullopt;
     const auto Src = IsOne ? nullptr : Opened(Order.Src, Source, IO);
     const auto Dst = IsOne || Src ? Opened(Order.Dst, Destination, IO) : nullptr;
     if (!Dst) return std::nullopt;
