@@ -1,9 +1,49 @@
 #include "db/modAlbumFiles.h"
 
+#include <algorithm>
+
+#include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
 #include "support/modNumbers.h"
 
 namespace neb {
+namespace {
+
+constexpr qsizetype LeastStem = 8;
+
+// The digits at the beginning of a name as a number; 0 where they are none that can be given out.
+std::int32_t NumberOf(QStringView Digits) {
+    bool IsNumber = false;
+    const int Number = Digits.toInt(&IsNumber);
+    return IsNumber && Number > 0 && Number <= MostNumbers ? Number : 0;
+}
+
+qsizetype CountDigits(QStringView Name) {
+    qsizetype Count = 0;
+    while (Count < Name.size() && Name[Count] >= u'0' && Name[Count] <= u'9') ++Count;
+    return Count;
+}
+
+// Ends: what may stand behind the stem, in capitals.
+std::int32_t NumberInName(const QString& Name, std::initializer_list<QStringView> Ends) {
+    const qsizetype Digits = CountDigits(Name);
+    if (Digits < LeastStem) return 0;
+    const QStringView Rest = QStringView(Name).sliced(Digits);
+    const bool IsOurs =
+        Rest.isEmpty() || std::any_of(Ends.begin(), Ends.end(), [&](QStringView End) {
+            return Rest.startsWith(End, Qt::CaseInsensitive);
+        });
+    return IsOurs ? NumberOf(QStringView(Name).first(Digits)) : 0;
+}
+
+std::int32_t HighestIn(const QString& Folder, std::initializer_list<QStringView> Ends) {
+    std::int32_t Highest = 0;
+    for (const DirEntry& Entry : ListDir(Folder))
+        Highest = std::max(Highest, NumberInName(Entry.Name, Ends));
+    return Highest;
+}
+
+}  // namespace
 
 QString AlbumFolder(const QString& DBPath, std::int32_t AlbumID) {
     return DBPath + QStringLiteral("Albums/%1/").arg(AlbumID);
@@ -27,6 +67,19 @@ QString SlidePath(const QString& DBPath, std::int32_t AlbumID, const QString& Sl
 
 QString ThumbnailName(std::int32_t SlideID) {
     return FileStem(SlideID) + QStringLiteral("Small.bmp");
+}
+
+HighestNumbers NumbersInAlbums(const QString& DBPath) {
+    HighestNumbers Found;
+    for (const DirEntry& Entry : ListDir(DBPath + QStringLiteral("Albums/"))) {
+        const bool IsNumber = CountDigits(Entry.Name) == Entry.Name.size();
+        const std::int32_t AlbumID = IsNumber ? NumberOf(Entry.Name) : 0;
+        if (AlbumID == 0) continue;
+        Found =
+            HigherOf(Found, {AlbumID, HighestIn(SlidesFolder(DBPath, AlbumID), {u".", u"Small."}),
+                             HighestIn(SoundTracksFolder(DBPath, AlbumID), {u".", u"_"})});
+    }
+    return Found;
 }
 
 }  // namespace neb

@@ -5,6 +5,8 @@
 #include <QString>
 #include <cstdint>
 
+#include "db/records/RecordSurvey.h"
+
 namespace neb {
 
 QString AlbumFolder(const QString& DBPath, std::int32_t AlbumID);
@@ -17,5 +19,9 @@ QString FileStem(std::int32_t ID);
 QString SlidePath(const QString& DBPath, std::int32_t AlbumID, const QString& SlideLoc);
 // The thumbnail of a slide: the stem and "Small.bmp".
 QString ThumbnailName(std::int32_t SlideID);
+
+// What the folders and files below Albums are called after, whether a record names them or not: the
+// highest numbers of albums, of slides with pictures or sounds, of shows with sound tracks.
+HighestNumbers NumbersInAlbums(const QString& DBPath);
 
 }  // namespace neb

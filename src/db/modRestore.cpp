@@ -1,12 +1,15 @@
 #include "db/modRestore.h"
 
 #include "db/Changes.h"
+#include "db/SessionChanges.h"
+#include "db/modAlbumFiles.h"
 #include "db/modLoadRecords.h"
+#include "db/records/RecordCodec.h"
+#include "support/files/modHostFiles.h"
+#include "support/modFUFL.h"
 
 namespace neb {
 namespace {
-
-constexpr std::int32_t MostNumbers = 2'000'000'000;  // what is above them is damage
 
 void RaiseTo(std::int32_t& Counter, std::int32_t Next) {
     if (Next <= MostNumbers) Counter = std::max(Counter, Next);
@@ -26,6 +29,85 @@ void RaiseCounters(IDCounters& Next, const clsDBEngine& Records) {
     }
 }
 
+void RaiseCounters(IDCounters& Next, const HighestNumbers& Taken) {
+    RaiseTo(Next.AlbumID, Taken.AlbumID + 1);
+    RaiseTo(Next.SlideID, Taken.SlideID + 1);
+    RaiseTo(Next.SlideShowID, Taken.SlideShowID + 1);
+}
+
+bool IsGood(const Generation& Each) {
+    const std::optional<RecordImage> Image =
+        Each.Albums > 0 ? ReadGeneration(Each.Path) : std::nullopt;
+    if (!Image) return false;
+    const RecordSurvey Found = SurveyRecords(RecordsInImage(*Image));
+    return Found.SlidesAlone + Found.ShowsAlone + Found.PlacesAlone + Found.TracksAlone == 0 &&
+           Found.Senseless == 0 && Found.LiveIn(RecordFile::Albums) > 0;
+}
+
+QString FreeFolder(const QString& DBPath) {
+    const QString Stem = GenerationsFolder(DBPath) + QStringLiteral("Damaged ") +
+                         QDateTime::currentDateTime().toString(u"yyyy-MM-dd hh.mm.ss");
+    QString Folder = Stem;
+    for (int Number = 2; NameExists(Folder); ++Number)
+        Folder = QStringLiteral("%1 (%2)").arg(Stem).arg(Number);
+    return Folder + u'/';
+}
+
+void CopyInto(const QString& Folder, const QString& Path) {
+    if (FileExists(Path)) CopyFile(Path, Folder + GetFileName(Path));
+}
+
+// What cannot be read is moved there: no copy of it could be made. The copies stand first.
+QString KeepFiles(const QString& DBPath, const DatabaseHealth& Health) {
+    const QString Folder = FreeFolder(DBPath);
+    MakeDirs(Folder);
+    for (const RecordFile File : AllRecordFiles)
+        if (Health.CanBeUsed(File)) CopyInto(Folder, RecordPath(DBPath, File));
+    CopyInto(Folder, JournalPath(DBPath));
+    for (const QString& Each : {Folder, GenerationsFolder(DBPath), DBPath}) SyncDir(Each);
+    for (const RecordFile File : Health.Unusable)
+        RenameFile(RecordPath(DBPath, File), Folder + QLatin1String(RecordFileName(File)));
+    SyncDir(Folder);
+    SyncDir(DBPath);
+    return Folder;
+}
+
+// Without counters a database counts as a new one, and nothing else of it is read.
+RecordSource WithCounters(const RecordSource& Records, const IDCounters& Free) {
+    PackedRecords Counters;
+    EncodeRecord(Counters, NextIDsRecord{Free.AlbumID, Free.SlideID, Free.SlideShowID});
+    Counters.Finish();
+    return [Records, Bytes = Counters.Unpack()](RecordFile File) -> std::optional<RecordBytes> {
+        if (File == RecordFile::NextIDs) return Bytes;
+        return Records(File);
+    };
+}
+
+// A damaged database, its files kept and its journals out of the way.
+struct Rest {
+    clsDBEngine Engine;
+    KeptFiles Kept;
+};
+
+Rest KeepAndLoad(const QString& DBPath, const QString& ProgramPath, const DatabaseHealth& Health) {
+    Rest Left;
+    Left.Kept.Folder = KeepFiles(DBPath, Health);
+    const FoundSession Session = LookForSession(DBPath);
+    QString NotKept;  // it lies in the folder by now
+    if (!RecoverDatabase(DBPath, Left.Kept.PutAside, NotKept))
+        throw Fault(QStringLiteral("The files of an interrupted transfer cannot be put in their "
+                                   "places."),
+                    StagingFolder(DBPath));
+    Left.Engine.SetDBPath(DBPath);
+    Left.Engine.SetProgramPath(ProgramPath);
+    Left.Engine.LoadFrom(WithCounters(RecordsInDirectory(DBPath), Health.Free));
+    LeftBehind Brought;
+    if (Session.Is == FoundSession::State::Goes) BringBack(Left.Engine, *Session.Left, Brought);
+    Left.Kept.PutAside += SettleSession(DBPath, Session);
+    RaiseCounters(Left.Engine, Health.Free);
+    return Left;
+}
+
 }  // namespace
 
 std::unique_ptr<clsDBEngine> OpenGeneration(const Generation& Which, const QString& DBPath) {
@@ -41,11 +123,44 @@ void RestoreState(clsDBEngine& theDB, clsDBEngine& Then) {
     IDCounters Next;
     RaiseCounters(Next, Then);
     RaiseCounters(Next, theDB);
+    RaiseCounters(Next, NumbersInAlbums(theDB.DBPath()));
     Then.NextAlbumID = Next.AlbumID;
     Then.NextSlideID = Next.SlideID;
     Then.NextSlideShowID = Next.SlideShowID;
     KeepGenerationOf(theDB.DBPath(), BuildImage(theDB));
     theDB.ReplaceBy(BuildImage(Then));
+}
+
+void RaiseCounters(clsDBEngine& theDB, const IDCounters& Free) {
+    RaiseTo(theDB.NextAlbumID, Free.AlbumID);
+    RaiseTo(theDB.NextSlideID, Free.SlideID);
+    RaiseTo(theDB.NextSlideShowID, Free.SlideShowID);
+}
+
+std::optional<Generation> LastGoodGeneration(const QString& DBPath) {
+    for (const Generation& Each : ListGenerations(DBPath))
+        if (IsGood(Each)) return Each;
+    return std::nullopt;
+}
+
+KeptFiles GoOnWithRest(const QString& DBPath, const QString& ProgramPath,
+                       const DatabaseHealth& Health) {
+    Rest Left = KeepAndLoad(DBPath, ProgramPath, Health);
+    WriteDatabase(DBPath, BuildImage(Left.Engine));
+    return Left.Kept;
+}
+
+KeptFiles RestoreInstead(const QString& DBPath, const QString& ProgramPath,
+                         const DatabaseHealth& Health, const Generation& Which) {
+    const auto Then = OpenGeneration(Which, DBPath);
+    if (!Then) throw Fault(QStringLiteral("The earlier albums are damaged."), Which.Path);
+    Rest Left = KeepAndLoad(DBPath, ProgramPath, Health);
+    RestoreState(Left.Engine, *Then);
+    return Left.Kept;
+}
+
+void LoadRest(clsDBEngine& Into, const DatabaseHealth& Health) {
+    Into.LoadFrom(WithCounters(UsableRecords(Into.DBPath(), Health), Health.Free));
 }
 
 }  // namespace neb

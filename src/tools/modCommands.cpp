@@ -18,6 +18,17 @@
 namespace neb {
 namespace {
 
+// Of every command that writes.
+#define MEND_HELP                                                                               \
+    "\n"                                                                                        \
+    "Where records are missing, cut or torn, or new pictures would replace old ones, nothing\n" \
+    "is done, and what is wrong is told, unless one of these says what to do first:\n"          \
+    "  --restore  brings the last good albums back\n"                                           \
+    "  --go-on    goes on with what is left\n"                                                  \
+    "Both keep the present files in Backups. And\n"                                             \
+    "  --take-over  goes on although the database is marked as in use on another computer:\n"   \
+    "               for one that crashed there\n"
+
 constexpr Command Table[] = {
     {"dump", "DIR", "print all records as JSON",
      "Prints what the program would hold after loading the database in DIR: the counters, the\n"
@@ -37,14 +48,10 @@ constexpr Command Table[] = {
      "\n"
      "Exit code 0: nothing found; 1: something found; 2: not checked.\n",
      RunCheck},
-    {"rewrite", "DIR [--take-over]", "load a database and write it again",
+    {"rewrite", "DIR [--go-on | --restore] [--take-over]", "load a database and write it again",
      "Does what a start and an end of the program do: completes a write that did not come to\n"
-     "its end, drops records without owner, writes all record files anew. A crash at any\n"
-     "moment leaves the old or the new records. A database that is read-only or in use by the\n"
-     "program is left alone.\n"
-     "\n"
-     "  --take-over  goes on although the database is marked as in use on another computer: for\n"
-     "               one that crashed there\n",
+     "its end, writes all record files anew. A crash at any moment leaves the old or the new\n"
+     "records. A database that is read-only or in use by the program is left alone.\n" MEND_HELP,
      RunRewrite},
     {"history", "DIR [--json]", "list the earlier states of a database",
      "Lists the states that the database in DIR has kept of itself, the newest first: the last\n"
@@ -57,34 +64,30 @@ constexpr Command Table[] = {
      "is\n"
      "          there Now alone, and counts of what is changed), Missing (paths)\n",
      RunHistory},
-    {"restore", "DIR N [--take-over]", "bring an earlier state of a database back",
+    {"restore", "DIR N [--go-on | --restore] [--take-over]",
+     "bring an earlier state of a database back",
      "Makes the state N, as nebctl history numbers them, the present one: all albums, slides and\n"
      "slide shows as they were saved then. What differs, and the pictures and sounds that are\n"
      "missing by now, are listed. The present state is kept as another one, to which the same\n"
      "command goes back; no picture or sound is deleted. All or nothing. A database that is\n"
-     "read-only or in use by the program is left alone.\n"
-     "\n"
-     "  --take-over  goes on although the database is marked as in use on another computer: for\n"
-     "               one that crashed there\n"
-     "\n"
+     "read-only or in use by the program is left alone.\n" MEND_HELP "\n"
      "Exit code 0: restored; 1: restored, and pictures or sounds are missing; 2: not restored, or "
      "a\n"
      "line says that the next start of the program will finish it.\n",
      RunRestore},
-    {"import", "DIR FOLDER --album NAME [--recurse] [--show NAME] [--take-over]",
+    {"import",
+     "DIR FOLDER --album NAME [--recurse] [--show NAME] [--go-on | --restore] [--take-over]",
      "bring a folder of pictures into an album",
      "Takes the pictures of FOLDER, with --recurse those of the folders below it as well, into\n"
      "the album NAME of the database in DIR. An album or a database that is not there is made;\n"
      "below a documents folder, where the program will look for it.\n"
      "With --show a slide show of that name is made of the pictures, in their order. A file\n"
-     "that cannot be read is named and left out. When the work fails nothing is changed.\n"
-     "\n"
-     "  --take-over  goes on although the database is marked as in use on another computer: for\n"
-     "               one that crashed there\n",
+     "that cannot be read is named and left out. When the work fails nothing is "
+     "changed.\n" MEND_HELP,
      RunImport, Wants::Drawing},
     {"transfer",
      "SRC DST --album NAME [--to NAME] [--show NAME] [--replace] [--without-missing]\n"
-     "             [--take-over]",
+     "                [--go-on | --restore] [--take-over]",
      "copy an album or a show to another database",
      "Copies the album NAME of the database SRC, with its slides, shows, pictures and sounds, "
      "into\n"
@@ -100,11 +103,9 @@ constexpr Command Table[] = {
      "  --replace          what the album holds goes; with --show, a show of the same name goes\n"
      "  --without-missing  goes on without the pictures and sounds that are missing or cannot be\n"
      "                     read; else they are listed and nothing is done\n"
-     "  --take-over        goes on although a database is marked as in use on another computer:\n"
-     "                     for one that crashed there\n"
      "\n"
      "Capital and small letters in names are the same. A database that is in use, and a DST that\n"
-     "is read-only, are left alone.\n"
+     "is read-only, are left alone.\n" MEND_HELP
      "Exit code 0: transferred; 2: nothing was transferred, or a line says what is left to do.\n",
      RunTransfer},
     {"print",
@@ -158,6 +159,8 @@ constexpr Command Table[] = {
      "Exit code 0: no problems; 1: problems; 2: not rehearsed.\n",
      RunRehearse, Wants::Drawing},
 };
+
+#undef MEND_HELP
 
 constexpr const char* Outline =
     "nebctl looks into and after the databases of NEB Slide Show.\n\n"

@@ -2,9 +2,8 @@
 
 #include "albums/modImport.h"
 #include "albums/modPictureFiles.h"
-#include "albums/transfer/OtherDatabase.h"
 #include "db/clsDBEngine.h"
-#include "db/modDatabaseLock.h"
+#include "db/modAlbumFiles.h"
 #include "db/records/modJournal.h"
 #include "pictures/ImgX.h"
 #include "support/Fault.h"
@@ -13,7 +12,7 @@
 #include "support/modFUFL.h"
 #include "tools/modCommands.h"
 #include "tools/modHistory.h"
-#include "tools/words/modLocking.h"
+#include "tools/words/ToolDatabase.h"
 
 namespace neb {
 namespace {
@@ -26,7 +25,6 @@ struct ImportOrder {
     QString Album;
     QString Show;  // empty: no show
     bool Recurse = false;
-    FromElsewhere Other = FromElsewhere::Counts;
 };
 
 // A picture made ready on a worker; Problem says why there is none.
@@ -47,7 +45,6 @@ Prepared Prepare(const QString& Path) {
 // The words of the command line; nothing after a line on Err when they do not make an order.
 std::optional<ImportOrder> ReadOrder(QStringList Arguments, ToolIO& IO) {
     ImportOrder Order;
-    Order.Other = TakeOver(Arguments);
     QStringList Places;
     while (!Arguments.isEmpty()) {
         const QString Word = Arguments.takeFirst();
@@ -68,6 +65,10 @@ std::optional<ImportOrder> ReadOrder(QStringList Arguments, ToolIO& IO) {
     }
     if (Order.Show.size() > MaxShowName) {
         Fail(IO, QStringLiteral("Slide show names must be <= 80 characters long."));
+        return std::nullopt;
+    }
+    if (const Answer<> Is = clsDBEngine::CheckAlbumText(Order.Album); !Is) {
+        Fail(IO, Is.Refusal().Text);
         return std::nullopt;
     }
     const auto Dir = OneDirectory({Places[0]}, IO);
@@ -179,10 +180,13 @@ class FolderImport {
                                  "nebctl rewrite or the next start of the program will do it."));
     }
 
+    // A folder that was there before is left alone, whosever it is.
     void TakeBack() {
-        if (mIsNew) return DropAlbum(mEngine, mAlbum->AlbumID);
+        if (mIsNew && !mFolderWasThere) return DropAlbum(mEngine, mAlbum->AlbumID);
         for (std::int32_t SlideID = mFirstSlideID; SlideID < mEngine.NextSlideID; ++SlideID)
             static_cast<void>(mDoor.DeleteSlide(mAlbum->AlbumID, SlideID));
+        if (!mIsNew) return;
+        if (auto Gone = mDoor.DeleteAlbum(mAlbum->AlbumID)) Gone->Never();
     }
 
     clsDBEngine& mEngine;
@@ -191,6 +195,7 @@ class FolderImport {
     ToolIO& mIO;
     clsNEBAlbum* mAlbum = nullptr;
     bool mIsNew = false;
+    const bool mFolderWasThere = FolderExists(AlbumFolder(mEngine.DBPath(), mEngine.NextAlbumID));
     std::int32_t mFirstSlideID = mEngine.NextSlideID;
     std::vector<std::int32_t> mEntered;
 };
@@ -198,21 +203,14 @@ class FolderImport {
 }  // namespace
 
 int RunImport(const QStringList& Arguments, ToolIO& IO) {
-    const std::optional<ImportOrder> Order = ReadOrder(Arguments, IO);
+    QStringList Words = Arguments;
+    const std::optional<OpenWays> How = TakeWays(Words, IO);
+    const std::optional<ImportOrder> Order = How ? ReadOrder(Words, IO) : std::nullopt;
     if (!Order) return ExitFailed;
-    if (!MayWriteDatabase(Order->Dir))
-        return Fail(IO, QStringLiteral("The database in %1 is read-only.").arg(Order->Dir));
-    InstanceLock Lock(DatabaseLockPath(Order->Dir));
-    if (!TakeLock(Lock, Order->Dir, Order->Other, IO)) return ExitFailed;
-    clsDBEngine Engine;
-    Engine.SetDBPath(Order->Dir);
-    Engine.InitializeDB();
-    Engine.KeepSession();
-    if (CountersAreMissing(Order->Dir) || !Engine.CountersAreSound())
-        return Fail(IO, QStringLiteral("NextIDs.dat in %1 is missing or damaged, so that new "
-                                       "pictures might replace old ones; see nebctl check.")
-                            .arg(Order->Dir));
-    return FolderImport(Engine, *Order, IO).Run();
+    const auto Database = ToolDatabase::Open(Order->Dir, *How, IO);
+    if (!Database) return ExitFailed;
+    Database->Engine().KeepSession();
+    return FolderImport(Database->Engine(), *Order, IO).Run();
 }
 
 }  // namespace neb

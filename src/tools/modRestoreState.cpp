@@ -1,12 +1,10 @@
 #include "tools/modRestoreState.h"
 
 #include "db/StateDifferences.h"
-#include "db/modDatabaseLock.h"
 #include "db/modRestore.h"
-#include "support/files/modHostFiles.h"
 #include "tools/modCommands.h"
 #include "tools/modHistory.h"
-#include "tools/words/modLocking.h"
+#include "tools/words/ToolDatabase.h"
 #include "tools/words/modWords.h"
 
 namespace neb {
@@ -17,11 +15,9 @@ constexpr int MostStates = 1'000'000;
 struct RestoreOrder {
     QString Dir;
     int Number = 0;  // as the history counts
-    FromElsewhere Other = FromElsewhere::Counts;
 };
 
 std::optional<RestoreOrder> ReadOrder(QStringList Words, ToolIO& IO) {
-    const FromElsewhere Other = TakeOver(Words);
     const auto Number = Words.size() == 2 ? WholeNumber(Words[1], 1, MostStates) : std::nullopt;
     if (!Number) {
         Fail(IO, QStringLiteral("A database directory and a number of nebctl history are wanted; "
@@ -30,7 +26,7 @@ std::optional<RestoreOrder> ReadOrder(QStringList Words, ToolIO& IO) {
     }
     const std::optional<QString> Dir = OneDirectory({Words[0]}, IO);
     if (!Dir) return std::nullopt;
-    return RestoreOrder{*Dir, *Number, Other};
+    return RestoreOrder{*Dir, *Number};
 }
 
 void PrintAll(ToolIO& IO, const QStringList& Lines) {
@@ -69,22 +65,19 @@ int Restore(clsDBEngine& Engine, const Generation& Which, ToolIO& IO) {
 }  // namespace
 
 int RunRestore(const QStringList& Arguments, ToolIO& IO) {
-    const std::optional<RestoreOrder> Order = ReadOrder(Arguments, IO);
+    QStringList Words = Arguments;
+    const std::optional<OpenWays> How = TakeWays(Words, IO);
+    const std::optional<RestoreOrder> Order = How ? ReadOrder(Words, IO) : std::nullopt;
     if (!Order) return ExitFailed;
-    if (!MayWriteDatabase(Order->Dir))
-        return Fail(IO, QStringLiteral("The database in %1 is read-only.").arg(Order->Dir));
-    InstanceLock Lock(DatabaseLockPath(Order->Dir));
-    if (!TakeLock(Lock, Order->Dir, Order->Other, IO)) return ExitFailed;
     const std::vector<Generation> All = ListGenerations(Order->Dir);
     if (static_cast<size_t>(Order->Number) > All.size())
         return Fail(IO, QStringLiteral("There is no earlier state %1; nebctl history lists those "
                                        "that there are: %2.")
                             .arg(Order->Number)
                             .arg(All.size()));
-    clsDBEngine Engine;
-    Engine.SetDBPath(Order->Dir);
-    Engine.InitializeDB();
-    return Restore(Engine, All[static_cast<size_t>(Order->Number) - 1], IO);
+    const auto Database = ToolDatabase::Open(Order->Dir, *How, IO);
+    if (!Database) return ExitFailed;
+    return Restore(Database->Engine(), All[static_cast<size_t>(Order->Number) - 1], IO);
 }
 
 }  // namespace neb

@@ -1,34 +1,25 @@
 #include "tools/modRewrite.h"
 
-#include "db/clsDBEngine.h"
-#include "db/modDatabaseLock.h"
+#include "db/DatabaseHealth.h"
 #include "db/records/modJournal.h"
-#include "support/files/modHostFiles.h"
 #include "tools/modCommands.h"
 #include "tools/modHistory.h"
-#include "tools/words/modLocking.h"
+#include "tools/words/ToolDatabase.h"
 
 namespace neb {
 int RunRewrite(const QStringList& Arguments, ToolIO& IO) {
     QStringList Words = Arguments;
-    const FromElsewhere Other = TakeOver(Words);
-    const std::optional<QString> Dir = OneDirectory(Words, IO);
+    const std::optional<OpenWays> How = TakeWays(Words, IO);
+    const std::optional<QString> Dir = How ? OneDirectory(Words, IO) : std::nullopt;
     if (!Dir) return ExitFailed;
-    // Loading a directory without counters forgets whatever records lie there; writing that back
-    // would be the end of them.
-    if (!HoldsDatabase(*Dir))
+    if (!HoldsDatabase(*Dir) && LookAtHealth(*Dir).IsSound())
         return Fail(IO, QStringLiteral("There is no database in %1.").arg(*Dir));
-    if (!MayWriteDatabase(*Dir))
-        return Fail(IO, QStringLiteral("The database in %1 is read-only.").arg(*Dir));
-    InstanceLock Lock(DatabaseLockPath(*Dir));
-    if (!TakeLock(Lock, *Dir, Other, IO)) return ExitFailed;
     ProgressLine Progress(IO, "Rewriting");
     Progress.Show(0, 2);
-    clsDBEngine Engine;
-    Engine.SetDBPath(*Dir);
-    Engine.InitializeDB();
+    const auto Database = ToolDatabase::Open(*Dir, *How, IO);
+    if (!Database) return ExitFailed;
     Progress.Show(1, 2);
-    TellNotKept(IO, Engine.FinalizeDB());
+    TellNotKept(IO, Database->Engine().FinalizeDB());
     return ExitDone;
 }
 

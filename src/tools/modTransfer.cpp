@@ -5,12 +5,13 @@
 
 #include "albums/transfer/OtherDatabase.h"
 #include "albums/transfer/Transfer.h"
+#include "db/DatabaseHealth.h"
 #include "db/records/modJournal.h"
 #include "support/Fault.h"
 #include "tools/Named.h"
 #include "tools/modCommands.h"
 #include "tools/modHistory.h"
-#include "tools/words/modLocking.h"
+#include "tools/words/ToolDatabase.h"
 #include "tools/words/modWords.h"
 
 namespace neb {
@@ -21,7 +22,7 @@ struct TransferOrder {
     QString Album, Show;  // no show: the whole album
     QString To;           // the album in the destination
     bool Replace = false, WithoutMissing = false;
-    FromElsewhere Other = FromElsewhere::Counts;
+    OpenWays Ways;  // into the destination; a source is taken over alike
 };
 
 bool Misused(ToolIO& IO, const QString& Wanted) {
@@ -39,7 +40,9 @@ bool TakeOptions(QStringList& Words, TransferOrder& Order, ToolIO& IO) {
             return Misused(IO, QStringLiteral("%1 wants a name").arg(QLatin1String(Name)));
         *Into = ConvertQuotes(Value.value_or(QString()));
     }
-    Order.Other = TakeOver(Words);
+    const std::optional<OpenWays> Ways = TakeWays(Words, IO);
+    if (!Ways) return false;
+    Order.Ways = *Ways;
     Order.Replace = Words.removeAll(QStringLiteral("--replace")) > 0;
     Order.WithoutMissing = Words.removeAll(QStringLiteral("--without-missing")) > 0;
     if (Words.size() == 2) return true;
@@ -78,8 +81,10 @@ std::optional<TwoDatabases> OpenBoth(const TransferOrder& Order, ToolIO& IO) {
         return std::nullopt;
     }
     const bool IsOne = IsSameDatabase(Order.Src, Order.Dst);
-    const auto Src = IsOne ? nullptr : Opened(Order.Src, Source, Order.Other, IO);
-    const auto Dst = IsOne || Src ? Opened(Order.Dst, Destination, Order.Other, IO) : nullptr;
+    if (!LookAtHealth(Order.Dst).IsSound() && !IsSoundOrMended(Order.Dst, Order.Ways, IO))
+        return std::nullopt;
+    const auto Src = IsOne ? nullptr : Opened(Order.Src, Source, Order.Ways.Other, IO);
+    const auto Dst = IsOne || Src ? Opened(Order.Dst, Destination, Order.Ways.Other, IO) : nullptr;
     if (!Dst) return std::nullopt;
     return TwoDatabases{IsOne ? Dst : Src, Dst};
 }

@@ -17,11 +17,10 @@ class OpenedDatabase : public ::testing::Test {
         Filled.Engine.FinalizeDB();
     }
     ~OpenedDatabase() override { SetHostWatcher({}); }
-    void ExpectRefused(Use For, const char* Title, const char* Text) {
+    void ExpectRefused(Use For, const char* Title, const QString& Text) {
         const auto Before = Tree(Folder.Path());
-        harness::ExpectRefused(OtherDatabase::Open(Folder.Path(), For),
-                               QLatin1String(Text).arg(Folder.Path()), QLatin1String(Title),
-                               BoxIcon::Information);
+        harness::ExpectRefused(OtherDatabase::Open(Folder.Path(), For), Text.arg(Folder.Path()),
+                               QLatin1String(Title), BoxIcon::Information);
         EXPECT_EQ("", TreeDifferences(Before, Tree(Folder.Path())));
     }
     // The times of effects come from beside the program where the database has none.
@@ -43,9 +42,15 @@ class OpenedDatabase : public ::testing::Test {
 
     MemoryFolder Folder;
     FilledDatabase Filled{Folder.Path(), u"other"_s};
-    static constexpr const char* Damaged =
-        "NextIDs.dat in\n%1\nis missing or damaged, so that new pictures might replace old ones. "
-        "nebctl check tells more.";
+    static QString ToWrite(const char* Wrong) {
+        return u"The database in\n%1\nis damaged. It has not been changed.\n\n"_s +
+               QLatin1String(Wrong) +
+               u"\n\nOpen it with the program, which offers to bring its last good albums back or "
+               "to go on with what is left."_s;
+    }
+    const QString Damaged =
+        u"NextIDs.dat in\n%1\nis missing or damaged, so that new pictures might replace old ones. "
+        "nebctl check tells more."_s;
 };
 
 TEST_F(OpenedDatabase, HoldsWhatIsThere) {
@@ -62,7 +67,7 @@ TEST_F(OpenedDatabase, IsLockedForAsLongAsItIsOpen) {
     {
         auto Other = OtherDatabase::Open(Folder.Path(), Use::Source);
         ASSERT_TRUE(Other);
-        const char* Text = "The database in\n%1\nis in use. Close it there and try again.";
+        const QString Text = u"The database in\n%1\nis in use. Close it there and try again."_s;
         ExpectRefused(Use::Source, "Database In Use", Text);
         ExpectRefused(Use::Destination, "Database In Use", Text);
     }
@@ -72,14 +77,32 @@ TEST_F(OpenedDatabase, IsLockedForAsLongAsItIsOpen) {
 
 TEST_F(OpenedDatabase, IsNotWrittenWhereItIsReadOnly) {
     QFile::setPermissions(Folder / u"NextIDs.dat"_s, QFileDevice::ReadOwner);
-    ExpectRefused(Use::Destination, "Read-Only Database", "The database in\n%1\nis read-only.");
+    ExpectRefused(Use::Destination, "Read-Only Database", u"The database in\n%1\nis read-only."_s);
     EXPECT_TRUE(OtherDatabase::Open(Folder.Path(), Use::Source));
 }
 
 TEST_F(OpenedDatabase, IsRefusedWithoutItsCounters) {
     QFile::remove(Folder / u"NextIDs.dat"_s);
     ExpectRefused(Use::Source, "Damaged Database", Damaged);
-    ExpectRefused(Use::Destination, "Damaged Database", Damaged);
+    ExpectRefused(Use::Destination, "Damaged Database", ToWrite("NextIDs.dat is missing."));
+}
+
+TEST_F(OpenedDatabase, IsNotWrittenWhereRecordsAreLost) {
+    WriteFile(Folder / u"Albums.dat"_s, {});
+    ExpectRefused(Use::Destination, "Damaged Database",
+                  ToWrite("Albums.dat is empty, and was not when it was written.\n"
+                          "4 slides belong to an album that is not in Albums.dat.\n"
+                          "2 slide shows belong to an album that is not in Albums.dat."));
+    EXPECT_TRUE(OtherDatabase::Open(Folder.Path(), Use::Source));
+}
+
+TEST_F(OpenedDatabase, GivesNoNumberOutThatAFileBears) {
+    WriteFile(Folder / u"Albums/1/Slides/00000077.jpg"_s, "without a record");
+    auto Other = OtherDatabase::Open(Folder.Path(), Use::Destination);
+    ASSERT_TRUE(Other);
+    EXPECT_EQ(78, (*Other)->Engine().NextSlideID);
+    (*Other)->Reread();
+    EXPECT_EQ(78, (*Other)->Engine().NextSlideID);
 }
 
 TEST_F(OpenedDatabase, IsNotWrittenWhereACounterIsTooLow) {
@@ -87,7 +110,9 @@ TEST_F(OpenedDatabase, IsNotWrittenWhereACounterIsTooLow) {
          {&clsDBEngine::NextAlbumID, &clsDBEngine::NextSlideID, &clsDBEngine::NextSlideShowID}) {
         --(Filled.Engine.*Counter);
         Filled.Engine.FinalizeDB();
-        ExpectRefused(Use::Destination, "Damaged Database", Damaged);
+        const auto Opened = OtherDatabase::Open(Folder.Path(), Use::Destination);
+        EXPECT_FALSE(Opened);
+        EXPECT_TRUE(Opened.Refusal().Text.contains(u"is taken: new pictures or sounds would"_s));
         EXPECT_TRUE(OtherDatabase::Open(Folder.Path(), Use::Source));
         ++(Filled.Engine.*Counter);
     }

@@ -344,23 +344,6 @@ TEST_F(EngineTest, TwoEnginesKeepTheirDatabasesApart) {
     EXPECT_EQ(OpenEngine(OtherDir.Path())->NextAlbumID, 4);
 }
 
-TEST_F(EngineTest, CountersAreMissingOnlyWhenNoJournalHasThem) {
-    EXPECT_FALSE(CountersAreMissing(Dir.Path())) << "a new database";
-    FillDatabase(*Engine, u"old"_s);
-    Engine->FinalizeDB();
-    EXPECT_FALSE(CountersAreMissing(Dir.Path()));
-    SetHostWatcher([](HostStep Step, const QString& Path, qint64&) {
-        if (Step == HostStep::Write && Path.endsWith(u"NextIDs.dat")) throw Fault(u"no"_s, Path);
-    });
-    EXPECT_THROW(Engine->FinalizeDB(), Fault);
-    SetHostWatcher({});
-    DeleteFile(Dir / "NextIDs.dat");
-    EXPECT_FALSE(CountersAreMissing(Dir.Path())) << "the next start writes them";
-    OpenEngine(Dir.Path());
-    DeleteFile(Dir / "NextIDs.dat");
-    EXPECT_TRUE(CountersAreMissing(Dir.Path()));
-}
-
 TEST_F(EngineTest, CountersAreDrawnThenRaised) {
     EXPECT_EQ(Engine->AllocateSlideID(), 1);
     EXPECT_EQ(Engine->AllocateSlideID(), 2);

@@ -93,6 +93,8 @@ void ReadFiles(DatabaseState& Into) {
             Path == QStringLiteral("Temp") || Path.startsWith(QStringLiteral("Temp/"));
         if (Walk.fileInfo().isDir() && !Walk.fileInfo().isSymLink()) {
             if (!IsTemp) Into.Folders.insert(Path);
+        } else if (Path == QStringLiteral("Temp/Journal/Records.sums")) {
+            continue;  // what the last write has left there, of itself
         } else if (IsTemp) {
             Into.Temp.insert(Path);
         } else if (!IsRecordFile(Path) && Path != QStringLiteral("InUse.lock")) {

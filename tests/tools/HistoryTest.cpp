@@ -192,7 +192,9 @@ TEST_F(HistoryTest, ARestoreThatIsCutShortIsFinishedByTheNextStart) {
 }
 
 TEST_F(HistoryTest, ARewriteThatCannotKeepTheStateOfBeforeSaysSo) {
-    WriteFile(Dir / "SlideShows.dat", "xx");  // so that something differs
+    // so that something differs: a show with the mark of deletion
+    DeleteFile(Dir / "Temp/Journal/Records.sums");
+    WriteFile(Dir / "SlideShows.dat", QByteArray(90, ' ') + "\xFF\xFF");
     DeleteTree(Dir / "Backups");
     WriteFile(Dir / "Backups", "a file under this name");
     const ToolRun Run = Tool({u"rewrite"_s, Dir.Path()});

@@ -380,15 +380,20 @@ TEST_F(NebctlTest, ASettingThatLeadsNowhereIsToldAndNothingIsMadeThere) {
     EXPECT_EQ(Everything(Documents.Path()), Before);
 }
 
-TEST_F(NebctlTest, RewriteDropsOrphansAndLeavesACleanDatabase) {
+TEST_F(NebctlTest, RewriteDropsOrphansWhenToldToGoOnAndLeavesACleanDatabase) {
     const auto Before = AllRecords(Dir.Path());
     EXPECT_EQ(Tool({u"rewrite"_s, Dir.Path()}).Code, 0);
     EXPECT_EQ(AllRecords(Dir.Path()), Before);
     ChangeRecords("Slides.dat",
                   [](QByteArray& Bytes) { Bytes += QByteArray(602, 9) + Hex("0000"); });
     EXPECT_EQ(Tool({u"check"_s, Dir.Path()}).Code, 1);
-    EXPECT_EQ(Tool({u"rewrite"_s, Dir.Path()}).Code, 0);
-    EXPECT_EQ(AllRecords(Dir.Path()), Before);
+    const auto Torn = AllRecords(Dir.Path());
+    EXPECT_EQ(Tool({u"rewrite"_s, Dir.Path()}).Code, 2);
+    EXPECT_EQ(AllRecords(Dir.Path()), Torn);
+    EXPECT_EQ(Tool({u"rewrite"_s, Dir.Path(), u"--go-on"_s}).Code, 0);
+    auto After = AllRecords(Dir.Path());
+    After["NextIDs.dat"] = Before.at("NextIDs.dat");  // above the number of the orphan
+    EXPECT_EQ(After, Before);
 }
 
 TEST_F(NebctlTest, RewriteCompletesABrokenOffWrite) {
@@ -412,8 +417,11 @@ TEST_F(NebctlTest, RewriteRefusesADirectoryWithoutCounters) {
     const QStringList Before = Everything(Dir.Path());
     const Outcome Result = Tool({u"rewrite"_s, Dir.Path()});
     EXPECT_EQ(Result.Code, 2);
-    EXPECT_TRUE(Result.Err.contains(u"There is no database"));
+    EXPECT_TRUE(Result.Err.contains(u"NextIDs.dat is missing."));
     EXPECT_EQ(Everything(Dir.Path()), Before);
+    TempFolder Empty;
+    EXPECT_TRUE(Tool({u"rewrite"_s, Empty.Path()}).Err.contains(u"There is no database"));
+    EXPECT_TRUE(ListDir(Empty.Path()).empty());
 }
 
 TEST_F(NebctlTest, ARecordFileTooLargeForTheMemoryIsAnErrorAndNoCrash) {

@@ -306,9 +306,9 @@ TEST_F(TransferToolTest, AReadOnlyDatabaseIsASourceButNoDestination) {
 TEST_F(TransferToolTest, WithoutSoundCountersTheDestinationIsLeftAlone) {
     FillDestination(u"Trips"_s, u"Sea"_s);
     WriteFile(Dst() + u"NextIDs.dat"_s, QByteArray::fromHex("010000000100000001000000"));
-    ExpectRefusal("nebctl check tells more.");
+    ExpectRefusal("NextIDs.dat says that the next album has the number 1, but number 1 is taken");
     DeleteFile(Dst() + u"NextIDs.dat"_s);
-    ExpectRefusal("nebctl check tells more.");
+    ExpectRefusal("NextIDs.dat is missing.");
 }
 
 TEST_F(TransferToolTest, UnknownNamesAreToldWithThoseThatThereAre) {

@@ -1,6 +1,7 @@
 #include "albums/transfer/OtherDatabase.h"
 
 #include "db/modDatabaseLock.h"
+#include "db/modRestore.h"
 #include "db/records/modJournal.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/files/modHostFilesCopy.h"
@@ -24,6 +25,22 @@ QString DatabaseAround(const QString& Dir) {
         Below = Above;
     }
     return {};
+}
+
+// Nothing of it would be read.
+bool CountersAreMissing(const QString& DBPath) {
+    return FileSize(RecordPath(DBPath, RecordFile::Albums)) > 0 &&
+           !NameExists(RecordPath(DBPath, RecordFile::NextIDs)) &&
+           ReadJournal(DBPath) != JournalState::Whole;
+}
+
+BoxRequest DamagedDatabase(const QString& Dir, const DatabaseHealth& Health) {
+    return Refuse(
+        QStringLiteral("The database in\n%1\nis damaged. It has not been changed.\n\n%2\n\n"
+                       "Open it with the program, which offers to bring its last good albums back "
+                       "or to go on with what is left.")
+            .arg(Dir, Health.Wrong.join(u'\n')),
+        QStringLiteral("Damaged Database"));
 }
 
 }  // namespace
@@ -73,9 +90,13 @@ Answer<std::shared_ptr<OtherDatabase>> OtherDatabase::Open(const QString& Dir, U
                        QStringLiteral("Read-Only Database"));
     const std::shared_ptr<OtherDatabase> Other(new OtherDatabase(Dir, For));
     if (auto Reason = Other->WhyNotLocked(From)) return *std::move(Reason);
-    if (CountersAreMissing(Dir)) return DamagedCounters(Dir);
+    if (!ToWrite && CountersAreMissing(Dir)) return DamagedCounters(Dir);
+    if (ToWrite) {
+        const DatabaseHealth Health = FinishAside([Dir] { return LookAtHealth(Dir); }).get();
+        if (!Health.IsSound()) return DamagedDatabase(Dir, Health);
+        Other->mFree = Health.Free;
+    }
     Other->Reread();
-    if (ToWrite && !Other->mEngine.CountersAreSound()) return DamagedCounters(Dir);
     return Other;
 }
 
@@ -83,6 +104,7 @@ Answer<std::shared_ptr<OtherDatabase>> OtherDatabase::Open(const QString& Dir, U
 void OtherDatabase::Reread() {
     const Recovery How = mFor == Use::Source ? Recovery::InMemory : Recovery::CarryOut;
     FinishAside([this, How] { mEngine.InitializeDB(How); }).get();
+    if (mFor == Use::Destination) RaiseCounters(mEngine, mFree);
 }
 
 bool IsSameDatabase(const QString& One, const QString& Other) {

@@ -2,6 +2,7 @@
 // against other programs, read. Used by the transfer windows and nebctl.
 #pragma once
 
+#include "db/DatabaseHealth.h"
 #include "db/clsDBEngine.h"
 #include "db/records/modJournal.h"
 #include "support/files/InstanceLock.h"
@@ -16,8 +17,8 @@ class OtherDatabase {
     };
     // Dir is a database directory, with closing separator (DatabaseIn of settings finds it). The
     // reading runs beside the caller, whose window goes on painting. Refused when it is in use,
-    // when it is to be written and read-only, when its counters are missing or too low. Throws
-    // Fault.
+    // when it is to be written and read-only or damaged, and as a source when its counters are
+    // missing. Throws Fault.
     static Answer<std::shared_ptr<OtherDatabase>> Open(const QString& Dir, Use For,
                                                        FromElsewhere Other = FromElsewhere::Counts);
 
@@ -32,6 +33,7 @@ class OtherDatabase {
     std::optional<BoxRequest> WhyNotLocked(FromElsewhere Other);
 
     const Use mFor;
+    IDCounters mFree;  // above all that lies there
     InstanceLock mLock;
     clsDBEngine mEngine;
 };

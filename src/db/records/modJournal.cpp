@@ -8,9 +8,11 @@
 
 #include "db/records/Generations.h"
 #include "db/records/KeptAside.h"
+#include "db/records/RecordSums.h"
 #include "db/records/SessionJournal.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
+#include "support/files/modHostFilesAccess.h"
 
 namespace neb {
 namespace {
@@ -185,6 +187,7 @@ std::optional<Fault> CarryOut(const QString& DBPath, const RecordImage& Image, F
         WriteFiles(DBPath, Image, std::span(&File, 1));
     WriteFiles(DBPath, Image, FilesWrittenTogether);
     SyncDir(DBPath);
+    NoteRecords(DBPath);  // without the journal they stand by themselves
     DeleteFile(JournalPath(DBPath));
     SyncDir(JournalFolder(DBPath));
     ThinOutGenerations(DBPath);
@@ -327,20 +330,30 @@ std::map<QString, QString> CommittedPlaces(const QString& DBPath) {
     return StagedPlaces(DBPath, WholeSum(DBPath));
 }
 
-bool MayWriteDatabase(const QString& DBPath) {
+QString WhyNotWritable(const QString& DBPath) {
+    if (!CanWriteInto(DBPath)) return DBPath;
     const QString Counters = RecordPath(DBPath, RecordFile::NextIDs);
-    return !IsReadOnly(DBPath) && !(FileExists(Counters) && IsReadOnly(Counters));
+    if (FileExists(Counters) && IsReadOnly(Counters)) return Counters;
+    for (const QString& Folder : {TempFolder(DBPath), JournalFolder(DBPath)})
+        if (NameExists(Folder.chopped(1)) && !CanWriteInto(Folder)) return Folder;
+    for (const RecordFile File : AllRecordFiles)
+        if (const QString Path = RecordPath(DBPath, File); NameExists(Path) && !MayWrite(Path))
+            return Path;
+    return {};
+}
+
+bool MayWriteDatabase(const QString& DBPath) {
+    return WhyNotWritable(DBPath).isEmpty();
 }
 
 bool HoldsDatabase(const QString& DBPath) {
-    return FileExists(RecordPath(DBPath, RecordFile::NextIDs)) ||
+    const bool HasRecords =
+        std::any_of(AllRecordFiles.begin(), AllRecordFiles.end(), [&](RecordFile File) {
+            return File != RecordFile::Properties && File != RecordFile::EffectStats &&
+                   FileSize(RecordPath(DBPath, File)) > 0;
+        });
+    return HasRecords || NameExists(RecordPath(DBPath, RecordFile::NextIDs)) ||
            ReadJournal(DBPath) == JournalState::Whole;
-}
-
-bool CountersAreMissing(const QString& DBPath) {
-    return FileSize(RecordPath(DBPath, RecordFile::Albums)) > 0 &&
-           !NameExists(RecordPath(DBPath, RecordFile::NextIDs)) &&
-           ReadJournal(DBPath) != JournalState::Whole;
 }
 
 bool RecoverDatabase(const QString& DBPath, QStringList& KeptAside, QString& NotKept) {

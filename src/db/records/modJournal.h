@@ -55,15 +55,14 @@ std::optional<Fault> SettleCommitted(const QString& DBPath);
 // StagedPlaces for the journal that is there.
 std::map<QString, QString> CommittedPlaces(const QString& DBPath);
 
-// False when the directory or its NextIDs.dat is read-only: then nothing is ever written.
+// What this user cannot write: the directory, a record file, or Temp; NextIDs.dat also where it
+// bears the attribute. Empty: nothing of that. Else nothing is ever written.
+QString WhyNotWritable(const QString& DBPath);
 bool MayWriteDatabase(const QString& DBPath);
 
-// Whether there is a database in the directory: its counters, or a whole journal with them.
+// Whether there is a database in the directory, sound or not: its counters, records, or a whole
+// journal with them.
 bool HoldsDatabase(const QString& DBPath);
-
-// True when albums are there but not the counters, without which a directory counts as a new
-// database: its albums would be overwritten.
-bool CountersAreMissing(const QString& DBPath);
 
 // Carries out a whole journal, with the files that were staged for it, and removes what was staged
 // without a journal and a journal that never came to be whole. One that is damaged, or that does

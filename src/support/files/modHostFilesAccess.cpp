@@ -22,9 +22,28 @@ void ClearReadOnly(const QString& Path) {
                     Path);
 }
 
+namespace {
+
+// For the user on whose behalf the program works, who need not be the one who started it.
+bool Grants(const QString& Path, int Rights) {
+    return ::faccessat(AT_FDCWD, QFile::encodeName(ResolvePath(Path)).constData(), Rights,
+                       AT_EACCESS) == 0;
+}
+
+}  // namespace
+
 bool CanWriteInto(const QString& Dir) {
-    return FolderExists(Dir) &&
-           ::access(QFile::encodeName(ResolvePath(Dir)).constData(), W_OK | X_OK) == 0;
+    return FolderExists(Dir) && Grants(Dir, W_OK | X_OK);
+}
+
+bool MayWrite(const QString& Path) {
+    return FolderExists(Path) ? CanWriteInto(Path) : Grants(Path, W_OK);
+}
+
+QString WhyUnseen(const QString& Path) {
+    struct stat Is = {};
+    if (::stat(QFile::encodeName(ResolvePath(Path)).constData(), &Is) == 0) return {};
+    return errno == ENOENT ? QString() : qt_error_string(errno);
 }
 
 QByteArray FileMark(const QString& Path) {

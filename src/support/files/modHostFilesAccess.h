@@ -1,5 +1,6 @@
-// Who may get at a file: the read-only attribute taken away, a folder tried, a file handed open to
-// another program. Used by what leaves the print preview.
+// Who may get at a file: whether this user may write it or even see that it is there, the read-only
+// attribute taken away, a file handed open to another program. Used by what leaves the print
+// preview and by who opens a database.
 #pragma once
 
 #include <QString>
@@ -10,6 +11,11 @@ namespace neb {
 void ClearReadOnly(const QString& Path);
 // Whether this user may make files in a folder that is there.
 bool CanWriteInto(const QString& Dir);
+// Whether this user may write a file or folder that is there, as the system says: owner, rights and
+// medium together.
+bool MayWrite(const QString& Path);
+// Why it cannot be told whether something bears this name, and what; empty where it can be.
+QString WhyUnseen(const QString& Path);
 // A descriptor of the file for another program to read by; the caller closes it. Throws Fault.
 int OpenForOther(const QString& Path);
 
