@@ -70,7 +70,7 @@ void WriteWhole(const QString& Path, const QByteArray& Bytes, QIODevice::OpenMod
 void DeleteMade(const QString& Path) {
     try {
         DeleteFile(Path);
-    } catch (const Fault&) {
+    } catch (const std::exception&) {
         return;
     }
 }
@@ -139,7 +139,7 @@ void ReplaceFile(const QString& Path, const QByteArray& Bytes) {
         WriteFile(Beside, Bytes);
         SyncFile(Beside);
         RenameFile(Beside, Path);
-    } catch (const Fault&) {
+    } catch (...) {
         DeleteMade(Beside);
         throw;
     }
@@ -301,7 +301,7 @@ void CopyFile(const QString& From, const QString& To, const Yield& LetRun) {
         }
         Copy.Close();
         RenameFile(Beside, To);
-    } catch (const Fault&) {
+    } catch (...) {
         DeleteMade(Beside);
         throw;
     }
