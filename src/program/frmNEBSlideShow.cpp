@@ -21,6 +21,7 @@
 #include "settings/clsFileSystem.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
+#include "support/ReasonOf.h"
 #include "support/Services.h"
 #include "support/files/modHostFiles.h"
 #include "windows/frame/modBroadcast.h"
@@ -233,9 +234,9 @@ bool frmNEBSlideShow::WriteDatabase() {
     try {
         if (const auto NotKept = mEngine->FinalizeDB()) TellNotKept(*NotKept);
         return true;
-    } catch (const Fault& Problem) {
+    } catch (const std::exception& Problem) {
         SetScreenPointer(Pointer::Default);
-        return AskEndUnsaved(Problem.Text());
+        return AskEndUnsaved(ReasonOf(Problem));
     }
 }
 
