@@ -17,8 +17,9 @@ bool SameName(const QString& One, const QString& Other) {
 
 class Planner {
   public:
-    Planner(const QString& Folder, std::int32_t SlideShowID, const std::vector<ShowTrack>& Tracks)
-        : mStem(FileStem(SlideShowID)), mRows(Tracks) {
+    Planner(const QString& Folder, std::int32_t SlideShowID, const std::vector<ShowTrack>& Tracks,
+            const std::set<QString>& Named)
+        : mStem(FileStem(SlideShowID)), mRows(Tracks), mNamed(Named) {
         mPlan.Folder = Folder;
     }
 
@@ -38,6 +39,7 @@ class Planner {
     QString PlaceFor(size_t Row) const {
         return mPlan.Folder + Numbered(Row + 1, mRows[Row].SoundTrackLoc);
     }
+    bool IsNamed(const QString& Path) const { return mNamed.contains(GetFileName(Path).toUpper()); }
     bool Plays(const ShowTrack& Track, const QString& Path) const {
         if (!Track.IsFilled()) return false;
         const QString& Loc = Track.SoundTrackLoc;
@@ -47,7 +49,7 @@ class Planner {
     void KeepPlayed(size_t Row) {
         if (!mRows[Row].IsNewFile()) return;
         const QString Place = PlaceFor(Row);
-        if (!FileExists(Place)) return;
+        if (!FileExists(Place) || IsNamed(Place)) return;
         QString Kept;
         for (size_t Other = 0; Other < mRows.size(); ++Other) {
             if (Other == Row || !Plays(mRows[Other], Place)) continue;
@@ -56,15 +58,18 @@ class Planner {
         }
     }
     QString KeepBeside(const QString& Place) {
+        const QString Beside = PlaceBeside(Place);
+        mPlan.Copies.push_back({Place, Beside});
+        return GetFileName(Beside);
+    }
+    QString PlaceBeside(const QString& Like) const {
         size_t Number = 100;  // the rows are numbered up to 99
-        while (IsTaken(mPlan.Folder + Numbered(Number, Place))) ++Number;
-        const QString Kept = Numbered(Number, Place);
-        mPlan.Copies.push_back({Place, mPlan.Folder + Kept});
-        return Kept;
+        while (IsTaken(mPlan.Folder + Numbered(Number, Like))) ++Number;
+        return mPlan.Folder + Numbered(Number, Like);
     }
     bool IsTaken(const QString& Path) const {
         const auto& Copies = mPlan.Copies;
-        return NameExists(Path) ||
+        return IsNamed(Path) || NameExists(Path) ||
                std::any_of(Copies.begin(), Copies.end(),
                            [&](const TrackPlan::Copy& Each) { return SameName(Each.To, Path); });
     }
@@ -72,15 +77,28 @@ class Planner {
     // A file that was chosen where it lies already is not copied onto itself.
     void TakeIn(size_t Row) {
         ShowTrack& Track = mRows[Row];
-        if (!Track.IsNewFile()) return;
-        const QString Place = PlaceFor(Row);
+        if (!Track.IsNewFile()) return TellApart(Row);
+        QString Place = PlaceFor(Row);
+        if (IsNamed(Place)) Place = PlaceBeside(Place);
         if (ResolvePath(Track.SoundTrackLoc) != ResolvePath(Place))
             mPlan.Copies.push_back({Track.SoundTrackLoc, Place});
         Track.SoundTrackLoc = GetFileName(Place);
     }
 
+    // One copy serves all rows that play it.
+    void TellApart(size_t Row) {
+        const QString Shared = mRows[Row].SoundTrackLoc;
+        if (!mRows[Row].IsFilled() || !IsNamed(Shared) || !CanReadFile(mPlan.Folder + Shared))
+            return;
+        const QString Place = PlaceFor(Row), Own = IsTaken(Place) ? PlaceBeside(Place) : Place;
+        mPlan.Copies.push_back({mPlan.Folder + Shared, Own});
+        for (ShowTrack& Each : mRows)
+            if (Each.IsFilled() && SameName(Each.SoundTrackLoc, Shared))
+                Each.SoundTrackLoc = GetFileName(Own);
+    }
+
     bool IsUnused(const QString& Name) const {
-        return !Name.isEmpty() && !HoldsSeparator(Name) &&
+        return !Name.isEmpty() && !HoldsSeparator(Name) && !IsNamed(Name) &&
                std::none_of(mRows.begin(), mRows.end(), [&](const ShowTrack& Row) {
                    return Row.IsFilled() && SameName(Row.SoundTrackLoc, Name);
                });
@@ -88,6 +106,7 @@ class Planner {
 
     QString mStem;
     std::vector<ShowTrack> mRows;
+    const std::set<QString>& mNamed;
     TrackPlan mPlan;
 };
 
@@ -105,8 +124,9 @@ bool CanBeHeld(const QString& File, const QString& Copy, const Yield& LetRun) {
 }  // namespace
 
 TrackPlan PlanTracks(const QString& Folder, std::int32_t SlideShowID,
-                     const std::vector<ShowTrack>& Tracks, const std::vector<QString>& Stored) {
-    return Planner(Folder, SlideShowID, Tracks).Plan(Stored);
+                     const std::vector<ShowTrack>& Tracks, const std::vector<QString>& Stored,
+                     const std::set<QString>& Named) {
+    return Planner(Folder, SlideShowID, Tracks, Named).Plan(Stored);
 }
 
 TrackCopies::~TrackCopies() {
@@ -120,7 +140,7 @@ void TrackCopies::TakeBack(const Step& What) {
     if (!What.Placed) return DropFile(What.Before);
     try {
         RenameFile(What.Before, What.To);
-    } catch (const Fault&) {
+    } catch (const std::exception&) {
         return;  // the fault before is the one to tell; the file is still there under that name
     }
 }
@@ -155,6 +175,7 @@ void TrackCopies::PutInPlace() {
         RenameFile(Each.Made, Each.To);
         Each.Placed = true;
     }
+    if (!mSteps.empty()) SyncDir(mPlan.Folder);
 }
 
 void TrackCopies::Keep() {

@@ -2,6 +2,7 @@
 // then carried out so that a fault on the way leaves everything as it was. For modSaveShow.
 #pragma once
 
+#include <set>
 #include <vector>
 
 #include "albums/ShowContent.h"
@@ -23,8 +24,12 @@ struct TrackPlan {
 // The plan for these rows of the show, of which Stored are the files that it has now. A new file
 // takes the show's number and its row's as its name. Where another row still plays the file that
 // has this name, that one is kept under a number from 100 up, which no row has.
+// Named are the files, in upper case, that other shows or slides name: none of them is replaced or
+// deleted, and of one that this show plays as well it gets a copy of its own. One that cannot be
+// read stays what the row names.
 TrackPlan PlanTracks(const QString& Folder, std::int32_t SlideShowID,
-                     const std::vector<ShowTrack>& Tracks, const std::vector<QString>& Stored);
+                     const std::vector<ShowTrack>& Tracks, const std::vector<QString>& Stored,
+                     const std::set<QString>& Named = {});
 
 // The copies of a plan while they are made. Unless they are kept, the end of its life takes all
 // of them back: the folder is then as it was.
@@ -40,7 +45,7 @@ class TrackCopies {
     // the place of one has a name of its own until then. LetRun is called all the while. Throws
     // Fault.
     void Make(const Yield& LetRun);
-    void PutInPlace();  // by renaming. Throws Fault
+    void PutInPlace();  // by renaming, flushed. Throws Fault
     void Keep();        // from here on nothing is taken back
     void DropUnused();  // what cannot be deleted stays
 

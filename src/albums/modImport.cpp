@@ -4,6 +4,7 @@
 #include "db/modAlbumFiles.h"
 #include "pictures/ImgX.h"
 #include "support/Fault.h"
+#include "support/ReasonOf.h"
 #include "support/files/modHostFiles.h"
 #include "support/modDEValidation.h"
 
@@ -20,7 +21,7 @@ Answer<Announcement> NewAlbum(Changes& Door, clsDBEngine& theDB, const QString& 
     if (!Made) return Made;
     try {
         MakeAlbumFolders(theDB, Made->What().AlbumID);
-    } catch (const Fault&) {
+    } catch (...) {
         Made->Never();
         DropAlbum(theDB, Made->What().AlbumID);
         throw;
@@ -36,7 +37,7 @@ void DropAlbum(clsDBEngine& theDB, std::int32_t AlbumID) {
 void StoreFile(const QString& Path, const QByteArray& Bytes) {
     try {
         WriteFile(Path, Bytes);
-    } catch (const Fault&) {
+    } catch (...) {
         DropFile(Path);
         throw;
     }
@@ -45,7 +46,7 @@ void StoreFile(const QString& Path, const QByteArray& Bytes) {
 void DropFile(const QString& Path) {
     try {
         DeleteFile(Path);
-    } catch (const Fault&) {
+    } catch (const std::exception&) {
         // it stays where it is and does no harm
     }
 }
@@ -57,17 +58,18 @@ Answer<std::int32_t> EnterPicture(Changes& Door, const clsDBEngine& theDB, std::
     const QString Folder = SlidesFolder(theDB.DBPath(), AlbumID);
     clsNEBSlide Slide;
     Slide.SlideText = CleanText(Picture.Caption);
+    const QString Jpeg = Folder + FileStem(SlideID) + QStringLiteral(".jpg");
+    StoreFile(Jpeg, Picture.Jpeg());
     try {
-        StoreFile(Folder + FileStem(SlideID) + QStringLiteral(".jpg"), Picture.Jpeg());
+        if (!Picture.Thumbnail.isNull())
+            StoreFile(Folder + ThumbnailName(SlideID), ThumbnailBmp(Picture.Thumbnail));
     } catch (...) {
-        static_cast<void>(Door.SaveSlide(AlbumID, Slide));
+        DropFile(Jpeg);
         throw;
     }
     Slide.SlideLoc = FileStem(SlideID) + QStringLiteral(".JPG");
     const Answer<Announcement> Saved = Door.SaveSlide(AlbumID, Slide);
     if (!Saved) return Saved.Refusal();
-    if (!Picture.Thumbnail.isNull())
-        StoreFile(Folder + ThumbnailName(SlideID), ThumbnailBmp(Picture.Thumbnail));
     return SlideID;
 }
 
@@ -86,31 +88,28 @@ PictureImport::Prepared PictureImport::Prepare(const QString& Path) {
     return {true, FittedJpeg(Path)};
 }
 
-// What was prepared for a file that is gone is of no use, nor is the fault it may have met.
-void PictureImport::PassOver() {
+// Nothing where the picture is to be left out. What was prepared for a file that is gone is of no
+// use, nor is the fault it may have met.
+std::optional<QByteArray> PictureImport::TakeJpeg(const QString& Path) {
     try {
-        mAhead.Take();
-    } catch (const Fault&) {
-        return;
+        Prepared Ready = mAhead.Take();
+        if (FileExists(Path)) return Ready.Exists ? Ready.Jpeg : FittedJpeg(Path);
+        mReason = QStringLiteral("The file is not there any more.");
+    } catch (const std::exception& Problem) {
+        mReason = FileExists(Path) ? SentenceOf(Problem)
+                                   : QStringLiteral("The file is not there any more.");
     }
-}
-
-QByteArray PictureImport::TakeJpeg(const QString& Path) {
-    Prepared Ready = mAhead.Take();
-    return Ready.Exists ? Ready.Jpeg : FittedJpeg(Path);
+    return std::nullopt;
 }
 
 PictureImport::Outcome PictureImport::EnterNext(const PictureToImport& Picture) {
     while (!mAhead.Wait(10))
         if (!mGoOn()) return Outcome::Ended;
-    if (!FileExists(Picture.Path)) {
-        PassOver();
-        return Outcome::Discarded;
-    }
-    const auto Jpeg = [this, &Picture] { return TakeJpeg(Picture.Path); };
-    Answer<std::int32_t> Entered =
-        EnterPicture(mDoor, mDB, mAlbumID, {Picture.Caption, Jpeg, Picture.Thumbnail});
-    if (!Entered) return Outcome::Refused;
+    const std::optional<QByteArray> Jpeg = TakeJpeg(Picture.Path);
+    if (!Jpeg) return Outcome::LeftOut;
+    Answer<std::int32_t> Entered = EnterPicture(
+        mDoor, mDB, mAlbumID, {Picture.Caption, [&Jpeg] { return *Jpeg; }, Picture.Thumbnail});
+    if (!Entered) throw Fault(Entered.Refusal().Text);
     mSlideID = *Entered;
     return Outcome::Entered;
 }

@@ -30,9 +30,9 @@ struct PictureToEnter {
     std::function<QByteArray()> Jpeg;  // gives the stored bytes when they are wanted
     QImage Thumbnail;                  // 72 by 72; a null one writes no thumbnail
 };
-// Enters a picture as one change: its JPEG, then the slide, then its thumbnail. When the JPEG
-// cannot be had or written, the slide stands without a picture. Gives the slide's number; refused
-// when there is no such album. Throws Fault.
+// Enters a picture as one change: its JPEG and its thumbnail, then the slide. When one of them
+// cannot be had or written, nothing has been entered. Gives the slide's number; refused when there
+// is no such album. Throws Fault.
 Answer<std::int32_t> EnterPicture(Changes& Door, const clsDBEngine& theDB, std::int32_t AlbumID,
                                   const PictureToEnter& Picture);
 // Writes a picture's file as a whole: where that cannot be done (Fault) no part of it stays.
@@ -60,14 +60,14 @@ class PictureImport {
 
     enum class Outcome {
         Entered,
-        Discarded,  // there is no such file any more
-        Refused,    // the slide could not be made
-        Ended       // GoOn has said so, and the album may be gone; nothing was entered
+        LeftOut,  // it cannot be read, or is not there any more; Reason says which
+        Ended     // GoOn has said so, and the album may be gone; nothing was entered
     };
-    // Enters the next of the paths. Throws Fault when the picture cannot be read or written; the
-    // slide then stands without a picture.
+    // Enters the next of the paths. Throws Fault when the album cannot be written; nothing of this
+    // picture has been entered then.
     Outcome EnterNext(const PictureToImport& Picture);
     std::int32_t SlideID() const { return mSlideID; }  // of the slide last entered
+    const QString& Reason() const { return mReason; }  // a sentence, of the one last left out
 
   private:
     struct Prepared {
@@ -75,14 +75,14 @@ class PictureImport {
         QByteArray Jpeg;
     };
     static Prepared Prepare(const QString& Path);
-    void PassOver();
-    QByteArray TakeJpeg(const QString& Path);
+    std::optional<QByteArray> TakeJpeg(const QString& Path);
 
     Changes& mDoor;
     const clsDBEngine& mDB;
     const std::int32_t mAlbumID;
     KeepGoing mGoOn;
     std::int32_t mSlideID = 0;
+    QString mReason;
     AheadQueue<QString, Prepared> mAhead;
 };
 

@@ -1,6 +1,7 @@
 #include "albums/modSaveShow.h"
 
 #include "albums/TrackPlan.h"
+#include "db/NamedSounds.h"
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
 #include "support/Fault.h"
@@ -115,7 +116,8 @@ TrackPlan PlanFor(const ShowContent& Content, std::int32_t SlideShowID, const cl
     if (const auto* Show = theDB.GetAlbum(Content.AlbumID)->GetSlideShow(Content.SlideShowID))
         for (const auto& Track : Show->SoundTracks) Stored.push_back(Track->SoundTrackLoc);
     return PlanTracks(SoundTracksFolder(theDB.DBPath(), Content.AlbumID), SlideShowID,
-                      Content.Tracks, Stored);
+                      Content.Tracks, Stored,
+                      SoundsNamedBesides(theDB, Content.AlbumID, Content.SlideShowID));
 }
 
 // From here on nothing waits: the show and its files change together.

@@ -15,11 +15,11 @@ class clsDBEngine;
 Answer<> CheckShow(ShowContent& Content, const clsDBEngine& theDB);
 
 // Replaces the stored show by the content, or makes a new one. New sound files are copied into the
-// album and their rows take the names they have there; files that the show no longer plays are
-// deleted. LetRun is called all the while that a file is copied. SlideShowID is the show's
-// afterwards; Asker is the window that knows of it already. Refused when there is nothing to write
-// to; throws Fault when a file cannot be copied. Content, the stored show and the files of the
-// album are then as they were.
+// album and their rows take the names they have there, and so are copies of files that another show
+// plays as well; files that nobody plays any more are deleted at last. LetRun is called all the
+// while that a file is copied. SlideShowID is the show's afterwards; Asker is the window that knows
+// of it already. Refused when there is nothing to write to; throws Fault when a file cannot be
+// copied. Content, the stored show and the files of the album are then as they were.
 Answer<Announcement> WriteShow(ShowContent& Content, clsDBEngine& theDB, const Yield& LetRun = {},
                                const QObject* Asker = nullptr);
 

@@ -12,6 +12,23 @@ BoxRequest Missing(const char* Text) {
     return Refuse(QString::fromLatin1(Text));
 }
 
+// The show as it was before a change that could not be noted; Before is null for one that was made.
+// What the session's journal has of it is overtaken by what stands here again.
+void PutBack(clsDBEngine& theDB, clsNEBAlbum& Album, std::int32_t SlideShowID,
+             std::unique_ptr<clsNEBSlideShow> Before) {
+    using enum Change::Kind;
+    const auto Kind = Before ? ShowReplaced : ShowDeleted;
+    if (Before)
+        *Album.GetSlideShow(SlideShowID) = std::move(*Before);
+    else
+        Album.TakeSlideShow(SlideShowID);
+    try {
+        theDB.NoteInSession({Kind, Album.AlbumID, 0, SlideShowID}, false);
+    } catch (const std::exception&) {
+        return;  // the fault before is the one to tell
+    }
+}
+
 }  // namespace
 
 Announcement::Announcement(const ChangeListeners* Listeners, const QObject* Asker, Change What)
@@ -113,17 +130,24 @@ Answer<Announcement> Changes::DeleteSlide(std::int32_t AlbumID, std::int32_t Sli
     return Deleted;
 }
 
-// The object stays: who shows it goes on showing it, with its new contents.
+// The object stays: who shows it goes on showing it, with its new contents. Where it cannot be
+// noted nothing has changed, for its sound files are taken back then.
 Answer<Announcement> Changes::SaveShow(std::int32_t AlbumID, clsNEBSlideShow Show) {
     clsNEBAlbum* Album = mDB.GetAlbum(AlbumID);
     if (!Album) return Missing(NoAlbum);
-    const bool IsNew = !Album->GetSlideShow(Show.SlideShowID);
+    const clsNEBSlideShow* There = Album->GetSlideShow(Show.SlideShowID);
+    auto Before = There ? There->Copy() : nullptr;
     Album->SaveSlideShow(Show.SlideShowID, Show.SlideShowName, Show.ProgressionMethod, mDB);
     clsNEBSlideShow& Stored = *Album->GetSlideShow(Show.SlideShowID);
     Stored.Details = std::move(Show.Details);
     Stored.SoundTracks = std::move(Show.SoundTracks);
-    const auto Kind = IsNew ? Change::Kind::ShowMade : Change::Kind::ShowReplaced;
-    return Noted({Kind, AlbumID, 0, Stored.SlideShowID});
+    const auto Kind = Before ? Change::Kind::ShowReplaced : Change::Kind::ShowMade;
+    try {
+        return Noted({Kind, AlbumID, 0, Show.SlideShowID});
+    } catch (...) {
+        PutBack(mDB, *Album, Show.SlideShowID, std::move(Before));
+        throw;
+    }
 }
 
 // The album's object stays, as that of a show does; what it holds is new.
@@ -149,10 +173,12 @@ std::vector<Announcement> Changes::PutAlbum(AlbumToPut What, std::int32_t SlideS
 Answer<Announcement> Changes::DeleteShow(std::int32_t AlbumID, std::int32_t SlideShowID) {
     clsNEBAlbum* Album = mDB.GetAlbum(AlbumID);
     if (!Album) return Missing(NoAlbum);
-    const bool WasThere = Album->TakeSlideShow(SlideShowID);
+    const clsNEBSlideShow* There = Album->GetSlideShow(SlideShowID);
+    const auto Gone = There ? There->Copy() : nullptr;
+    Album->TakeSlideShow(SlideShowID);
     Announcement Deleted =
         Noted({Change::Kind::ShowDeleted, AlbumID, 0, SlideShowID}, With::Nothing);
-    if (WasThere && mDB.IsSessionStored()) Album->DeleteSlideShowFiles(SlideShowID, mDB);
+    if (Gone && mDB.IsSessionStored()) Album->DeleteSlideShowFiles(*Gone, mDB);
     return Deleted;
 }
 

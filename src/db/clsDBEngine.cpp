@@ -7,6 +7,7 @@
 #include "db/modNameIndex.h"
 #include "db/records/RecordCodec.h"
 #include "support/Fault.h"
+#include "support/ReasonOf.h"
 #include "support/files/modHostFiles.h"
 #include "support/files/modHostFilesCopy.h"
 #include "support/modFUFL.h"
@@ -142,10 +143,10 @@ void clsDBEngine::ReplaceBy(const RecordImage& Records) {
     std::optional<Fault> Unfinished;
     try {
         WriteDatabase(mDBPath, Records);
-    } catch (const Fault& Problem) {
+    } catch (const std::exception& Problem) {
         // From the whole journal on the next start has them, so the program has them, too.
         if (!IsInJournal(mDBPath, Records)) throw;
-        Unfinished = Problem;
+        Unfinished = Fault(ReasonOf(Problem));
     }
     AlbumIndex.clear();
     LoadFrom(RecordsInImage(Records));

@@ -3,11 +3,13 @@
 #include <algorithm>
 #include <set>
 
+#include "db/NamedSounds.h"
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
 #include "db/modNameIndex.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
+#include "support/modFUFL.h"
 #include "support/modNumbers.h"
 
 namespace neb {
@@ -18,6 +20,14 @@ std::int32_t IdInRow(const std::vector<NameIndexEntry>& Index, std::int32_t Row)
     if (static_cast<size_t>(Row) > Index.size())
         throw Fault(QStringLiteral("There is no row %1 in the list.").arg(Row));
     return Index[static_cast<size_t>(Row) - 1].ID;
+}
+
+void DropQuietly(const QString& File) {
+    try {
+        DeleteFile(File);
+    } catch (const Fault&) {
+        // one in use stays, and does no harm
+    }
 }
 
 void DeleteQuietly(const QString& Mask) {
@@ -139,14 +149,25 @@ bool clsNEBAlbum::TakeSlideShow(std::int32_t SlideShowID) {
     return true;
 }
 
-void clsNEBAlbum::DeleteSlideShowFiles(std::int32_t SlideShowID, const clsDBEngine& theDB) const {
-    DeleteQuietly(SoundTracksFolder(theDB.DBPath(), AlbumID) + FileStem(SlideShowID) +
-                  QStringLiteral("*.*"));
+// What begins with its number, and what it played besides: a show that was saved from another one
+// may have been left with that one's files.
+void clsNEBAlbum::DeleteSlideShowFiles(const clsNEBSlideShow& Gone,
+                                       const clsDBEngine& theDB) const {
+    const QString Folder = SoundTracksFolder(theDB.DBPath(), AlbumID);
+    const std::set<QString> Wanted = SoundsNamedBesides(theDB, AlbumID, Gone.SlideShowID);
+    QStringList Names = ListMask(Folder + FileStem(Gone.SlideShowID) + QStringLiteral("*.*"));
+    for (const auto& Track : Gone.SoundTracks)
+        if (!HoldsSeparator(Track->SoundTrackLoc)) Names.append(Track->SoundTrackLoc.trimmed());
+    for (const QString& Name : Names)
+        if (!Name.isEmpty() && !Wanted.contains(Name.toUpper())) DropQuietly(Folder + Name);
 }
 
 // The show goes before its sounds: never a show without them.
 bool clsNEBAlbum::DeleteSlideShow(std::int32_t SlideShowID, const clsDBEngine& theDB) {
-    if (TakeSlideShow(SlideShowID)) DeleteSlideShowFiles(SlideShowID, theDB);
+    const clsNEBSlideShow* There = GetSlideShow(SlideShowID);
+    if (!There) return true;
+    const auto Gone = There->Copy();
+    if (TakeSlideShow(SlideShowID)) DeleteSlideShowFiles(*Gone, theDB);
     return true;
 }
 

@@ -55,7 +55,8 @@ class clsNEBAlbum {
     bool TakeSlide(std::int32_t SlideID);
     bool TakeSlideShow(std::int32_t SlideShowID);
     void DeleteSlideFiles(std::int32_t SlideID, const clsDBEngine& theDB) const;
-    void DeleteSlideShowFiles(std::int32_t SlideShowID, const clsDBEngine& theDB) const;
+    // Gone: the show as it was. What another show or a slide still names stays.
+    void DeleteSlideShowFiles(const clsNEBSlideShow& Gone, const clsDBEngine& theDB) const;
 
     // The album with these of its shows and the slides that they use; without any named, as it is.
     std::unique_ptr<clsNEBAlbum> Part(const std::vector<std::int32_t>& SlideShowIDs) const;

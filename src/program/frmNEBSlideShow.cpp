@@ -21,6 +21,7 @@
 #include "settings/clsFileSystem.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
+#include "support/ReasonOf.h"
 #include "support/Services.h"
 #include "support/files/modHostFiles.h"
 #include "windows/frame/modBroadcast.h"
@@ -242,9 +243,9 @@ bool frmNEBSlideShow::WriteDatabase() {
     try {
         if (const auto NotKept = mEngine->FinalizeDB()) TellNotKept(NotKept->Text());
         return true;
-    } catch (const Fault& Problem) {
+    } catch (const std::exception& Problem) {
         SetScreenPointer(Pointer::Default);
-        return AskEndUnsaved(Problem.Text(), mEngine->IsSessionStored());
+        return AskEndUnsaved(ReasonOf(Problem), mEngine->IsSessionStored());
     }
 }
 

@@ -10,6 +10,7 @@
 #include "support/files/modHostFiles.h"
 #include "support/modDEValidation.h"
 #include "support/modFUFL.h"
+#include "support/modText.h"
 #include "tools/modCommands.h"
 #include "tools/modHistory.h"
 #include "tools/words/ToolDatabase.h"
@@ -17,7 +18,8 @@
 namespace neb {
 namespace {
 
-constexpr qsizetype MaxShowName = 80;  // as wide as its field in the record
+constexpr qsizetype MaxShowName = 80;   // as wide as its field in the record
+constexpr qsizetype MaxNameBytes = 80;  // of an album or a show, in its record
 
 struct ImportOrder {
     QString Dir;
@@ -40,6 +42,15 @@ Prepared Prepare(const QString& Path) {
     } catch (const Fault& Problem) {
         return {{}, {}, Problem.What()};
     }
+}
+
+// Whether both are the same name in the records, which hold no more letters than their code page
+// has.
+bool IsStoredAs(const QString& One, const QString& Other) {
+    const auto Stored = [](const QString& Name) {
+        return FromAnsi(ToAnsi(Name).left(MaxNameBytes));
+    };
+    return Stored(One).compare(Stored(Other), Qt::CaseInsensitive) == 0;
 }
 
 // The words of the command line; nothing after a line on Err when they do not make an order.
@@ -111,10 +122,20 @@ class FolderImport {
     }
 
   private:
-    bool FindOrMakeAlbum() {
+    // By the name that it has, or else by the one under which it would be stored: that is how it
+    // came back since.
+    std::int32_t NamedAlbum() const {
         std::int32_t AlbumID = 0;
         QString Name = mOrder.Album;
-        mIsNew = !mEngine.LoadAlbum(AlbumID, Name);
+        if (mEngine.LoadAlbum(AlbumID, Name)) return AlbumID;
+        for (const auto& Each : mEngine.Albums)
+            if (IsStoredAs(Each->AlbumName, mOrder.Album)) return Each->AlbumID;
+        return 0;
+    }
+
+    bool FindOrMakeAlbum() {
+        std::int32_t AlbumID = NamedAlbum();
+        mIsNew = AlbumID == 0;
         if (mIsNew && !MakeAlbum(AlbumID)) return false;
         mAlbum = mEngine.GetAlbum(AlbumID);
         if (ShowExists()) {
@@ -137,9 +158,8 @@ class FolderImport {
 
     bool ShowExists() const {
         return std::any_of(
-            mAlbum->SlideShows.begin(), mAlbum->SlideShows.end(), [this](const auto& Each) {
-                return Each->SlideShowName.compare(mOrder.Show, Qt::CaseInsensitive) == 0;
-            });
+            mAlbum->SlideShows.begin(), mAlbum->SlideShows.end(),
+            [this](const auto& Each) { return IsStoredAs(Each->SlideShowName, mOrder.Show); });
     }
 
     void EnterAll(const QStringList& Paths) {

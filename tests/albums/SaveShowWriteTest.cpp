@@ -151,7 +151,7 @@ TEST_F(SaveShow, LeavesAFileAloneThatWasChosenByItsOwnPath) {
     EXPECT_EQ("1:1-2 00000001_1.mp3", StoredTracks(1));
 }
 
-TEST_F(SaveShow, SharesFilesWithTheShowThatItWasMadeFrom) {
+TEST_F(SaveShow, HasFilesOfItsOwnWhereItIsMadeFromAnotherShow) {
     ShowContent Content = NewShow(4);
     Content.Tracks = {NewTrack(1, 2, MakeSound(u"a.mp3"_s))};
     Save(Content);
@@ -159,8 +159,8 @@ TEST_F(SaveShow, SharesFilesWithTheShowThatItWasMadeFrom) {
     Content.Name = u"Second"_s;
     Save(Content);
     EXPECT_EQ(2, Content.SlideShowID);
-    EXPECT_EQ("1:1-2 00000001_1.mp3", StoredTracks(2));
-    EXPECT_EQ("00000001_1.mp3=a.mp3", TrackFiles());
+    EXPECT_EQ("1:1-2 00000002_1.mp3", StoredTracks(2));
+    EXPECT_EQ("00000001_1.mp3=a.mp3 00000002_1.mp3=a.mp3", TrackFiles());
 }
 
 TEST_F(SaveShow, NeverDeletesAFileOutsideTheAlbum) {

@@ -209,6 +209,48 @@ TEST_F(TheRestore, AWindowWithChangesAsksAndNoStopsTheRestore) {
     EXPECT_EQ(NamesNow(), QStringList{"Sea"});
 }
 
+TEST_F(TheRestore, EveryWindowIsAskedBeforeTheFirstOfThemGoes) {
+    Start();
+    Press("mnuSlideMgrBulk");
+    Press("mnuSlideMgr");
+    Find<frmSlideDBM>()->findChild<QLineEdit*>("txtDscr")->setText("mine");
+    InWindow([&](frmRestore& Window) {
+        ExpectQuestion(TimeIn(Window, 1), BoxAnswer::Yes);
+        mBoxes.Expect("Are you sure you want to discard the changes to the current slide?",
+                      BoxAnswer::No);
+        Choose(Window, 1);
+        PressRestore(Window);
+        EXPECT_TRUE(Find<frmSlideMgrBulk>()) << "it was opened first";
+        EXPECT_TRUE(Find<frmSlideDBM>());
+    });
+    EXPECT_EQ(NamesNow(), (QStringList{"Ocean", "Hills"}));
+    mBoxes.Expect("Are you sure you want to discard the changes to the current slide?",
+                  BoxAnswer::Yes);
+    EXPECT_TRUE(mWindow->close());
+}
+
+TEST_F(TheRestore, WantOfMemoryIsToldAndLeavesTheWindowUsable) {
+    Start();
+    InWindow([&](frmRestore& Window) {
+        ExpectQuestion(TimeIn(Window, 0), BoxAnswer::Yes);
+        SetHostWatcher([](HostStep Step, const QString& Path, qint64&) {
+            if (Step == HostStep::Write && Path.contains("Backups")) throw std::bad_alloc();
+        });
+        mBoxes.Expect(
+            "The albums could not be restored. Nothing has changed.\n\n"
+            "There is not enough memory to do this.",
+            "Operation Failed", BoxIcon::Critical, BoxAnswer::Ok);
+        PressRestore(Window);
+        SetHostWatcher({});
+        EXPECT_TRUE(Window.isEnabled());
+        const QString Time = TimeIn(Window, 0);
+        ExpectQuestion(Time, BoxAnswer::Yes);
+        ExpectDone(Time);
+        PressRestore(Window);
+    });
+    EXPECT_EQ(NamesNow(), QStringList{"Ocean"});
+}
+
 TEST_F(TheRestore, PicturesThatAreGoneAreNamedBeforeAndAfter) {
     Start();
     std::int32_t SlideID = 0;

@@ -622,6 +622,22 @@ TEST_F(NebctlImportTest, AddsToAnAlbumThatIsThere) {
     EXPECT_EQ(Engine->Albums[0]->Slides.size(), 4U);
 }
 
+// The records have no letter for some of them.
+TEST_F(NebctlImportTest, FindsAnAlbumAndAShowByTheNamesThatWereStored) {
+    const QString Lodz = u"\u0141\u00f3d\u017a"_s;
+    const auto ImportInto = [this](const QString& Album, const QString& Show) {
+        return Tool({u"import"_s, Database(), Pictures(), u"--album"_s, Album, u"--show"_s, Show})
+            .Code;
+    };
+    EXPECT_EQ(ImportInto(Lodz, Lodz), ExitDone);
+    EXPECT_EQ(ImportInto(Lodz, u"Second"_s), ExitDone);
+    EXPECT_EQ(ImportInto(Lodz.toUpper(), Lodz.toLower()), ExitFailed) << "that show is there";
+    const auto Engine = OpenEngine(Database());
+    ASSERT_EQ(Engine->Albums.size(), 1U);
+    EXPECT_EQ(Engine->Albums[0]->Slides.size(), 4U);
+    EXPECT_EQ(Engine->Albums[0]->SlideShows.size(), 2U);
+}
+
 TEST_F(NebctlImportTest, APictureThatCannotBeReadIsNamedAndLeftOut) {
     WriteFile(Pictures() + u"bad.jpg"_s, "this is no picture");
     const Outcome Made = Import({});

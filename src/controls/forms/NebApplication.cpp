@@ -1,10 +1,9 @@
 #include "controls/forms/NebApplication.h"
 
 #include <QScopeGuard>
-#include <new>
 
 #include "controls/forms/ScreenPointer.h"
-#include "support/Fault.h"
+#include "support/ReasonOf.h"
 #include "support/Services.h"
 
 namespace neb {
@@ -24,17 +23,22 @@ void Report(const QString& Text) {
     }
 }
 
+// Where memory is so short that not even the box can be shown, the program goes on all the same.
+void ReportOrGoOn(const std::exception& Problem) noexcept {
+    try {
+        Report(ReasonOf(Problem));
+    } catch (...) {
+        return;
+    }
+}
+
 }  // namespace
 
 bool NebApplication::notify(QObject* Receiver, QEvent* Event) {
     try {
         return QApplication::notify(Receiver, Event);
-    } catch (const Fault& Problem) {
-        Report(Problem.Text());
-    } catch (const std::bad_alloc&) {
-        Report(tr("There is not enough memory to do this."));
     } catch (const std::exception& Problem) {
-        Report(QString::fromUtf8(Problem.what()));
+        ReportOrGoOn(Problem);
     }
     return true;
 }

@@ -69,7 +69,7 @@ void WriteWhole(const QString& Path, const QByteArray& Bytes, QIODevice::OpenMod
 void DeleteMade(const QString& Path) {
     try {
         DeleteFile(Path);
-    } catch (const Fault&) {
+    } catch (const std::exception&) {
         return;
     }
 }
@@ -161,7 +161,7 @@ void ReplaceFile(const QString& Path, const QByteArray& Bytes) {
         WriteFile(Beside, Bytes);
         SyncFile(Beside);
         RenameFile(Beside, Path);
-    } catch (const Fault&) {
+    } catch (...) {
         DeleteMade(Beside);
         throw;
     }
@@ -327,7 +327,7 @@ void CopyFile(const QString& From, const QString& To, const Yield& LetRun) {
         }
         Copy.Close();
         RenameFile(Beside, To);
-    } catch (const Fault&) {
+    } catch (...) {
         DeleteMade(Beside);
         throw;
     }

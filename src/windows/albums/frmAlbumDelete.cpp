@@ -1,5 +1,6 @@
 #include "windows/albums/frmAlbumDelete.h"
 
+#include <QScopeGuard>
 #include <QScopedValueRollback>
 
 #include "albums/AlbumRemoval.h"
@@ -38,8 +39,8 @@ void frmAlbumDelete::Delete() {
     if (!Sure) return;
     Answer<Announcement> Deleted = Changes(*DBEngine, this).DeleteAlbum(*AlbumID);
     if (!Tell(Deleted)) return;
-    if (DBEngine->IsSessionStored()) DeleteFiles(*AlbumID);
     NoteDone();
+    if (DBEngine->IsSessionStored()) DeleteFiles(*AlbumID);
     Deleted->Now();
     Unload();
 }
@@ -49,6 +50,7 @@ void frmAlbumDelete::DeleteFiles(std::int32_t AlbumID) {
     const QScopedValueRollback<bool> Deleting(mDeleting, true);
     const PointerScope Working(Pointer::Hourglass);
     setEnabled(false);
+    const auto Usable = qScopeGuard([this] { setEnabled(true); });
     PaintRate Rate;
     DeleteAlbumFiles(DBEngine->DBPath(), AlbumID, [&Rate] {
         if (Rate.IsDue()) DoEvents();

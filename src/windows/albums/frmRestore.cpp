@@ -2,8 +2,11 @@
 
 #include <QHeaderView>
 #include <QLocale>
+#include <QScopeGuard>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
+#include <algorithm>
+#include <functional>
 
 #include "controls/fields/Icons.h"
 #include "controls/forms/ScreenPointer.h"
@@ -11,6 +14,8 @@
 #include "db/StateDifferences.h"
 #include "db/modRestore.h"
 #include "settings/modNEBSlideShow.h"
+#include "support/ReasonOf.h"
+#include "support/Services.h"
 #include "support/work/WorkAside.h"
 #include "ui_frmRestore.h"
 #include "windows/frame/modNotice.h"
@@ -72,6 +77,16 @@ std::shared_ptr<Looked> LookAside(const Generation& Which) {
     const PointerScope Working(Pointer::Hourglass);
     return FinishAside([&Which] { return std::make_shared<Looked>(LookInto(Which, *DBEngine)); })
         .get();
+}
+
+// What goes wrong in a window is told before the box, and it stays.
+bool Agreed(const std::function<bool()>& Does) {
+    try {
+        return Does();
+    } catch (const std::exception& Problem) {
+        MsgBox(ReasonOf(Problem), QObject::tr("Operation Failed"), BoxIcon::Critical);
+        return false;
+    }
 }
 
 // The numbers of the albums whose thumbnails may be held.
@@ -149,12 +164,12 @@ void frmRestore::Restore() {
     if (!IsSure(Which, Found->Missing) || !CloseOthers()) return;
     try {
         Carry(*Found->Then);
-    } catch (const Fault& Problem) {
+    } catch (const std::exception& Problem) {
         const bool Waits = ReadJournal(DBEngine->DBPath()) == JournalState::Whole;
         MsgBox((Waits ? tr("The albums are back, but they are not all written yet. The end of the "
                            "program, or its next start, will do it.\n\n%1")
                       : tr("The albums could not be restored. Nothing has changed.\n\n%1"))
-                   .arg(Problem.Text()),
+                   .arg(ReasonOf(Problem)),
                tr("Operation Failed"), BoxIcon::Critical);
         return ListStates();
     }
@@ -175,20 +190,20 @@ bool frmRestore::IsSure(const Generation& Which, const QStringList& Missing) {
                     .Details = Missing.join(u'\n')}) == BoxAnswer::Yes;
 }
 
-// They show albums that will be others; each asks by itself what becomes of the work in it.
+// They show albums that will be others; each asks by itself what becomes of the work in it. All are
+// asked before the first of them goes: who keeps one keeps them all.
 bool frmRestore::CloseOthers() {
-    for (const auto& Window : LoadedForms()) {
-        if (Window.get() == this) continue;
-        try {
-            Window->Unload();
-        } catch (const Fault& Problem) {
-            ShowNotice(Problem.Text());
-        }
-        if (!Window->IsLoaded()) continue;
-        ShowNotice(tr("Nothing was restored: a window stayed open."));
-        return false;
-    }
-    return true;
+    auto Others = LoadedForms();
+    std::erase_if(Others, [this](const auto& Window) { return Window.get() == this; });
+    const auto Agrees = [](const auto& Window) {
+        return Agreed([&] { return Window->QueryUnload(); });
+    };
+    const auto Goes = [](const auto& Window) {
+        return Agreed([&] { return Window->UnloadAsked(); });
+    };
+    if (std::ranges::all_of(Others, Agrees) && std::ranges::all_of(Others, Goes)) return true;
+    ShowNotice(tr("Nothing was restored: a window stayed open."));
+    return false;
 }
 
 void frmRestore::Carry(clsDBEngine& Then) {
@@ -197,13 +212,8 @@ void frmRestore::Carry(clsDBEngine& Then) {
     if (ImageBuffer)
         for (const std::int32_t AlbumID : NumbersOfAlbums()) ImageBuffer->ClearAlbum(AlbumID);
     setEnabled(false);
-    try {
-        FinishAside([&Then] { RestoreState(*DBEngine, Then); }).get();
-    } catch (const Fault&) {
-        setEnabled(true);
-        throw;
-    }
-    setEnabled(true);
+    const auto Usable = qScopeGuard([this] { setEnabled(true); });
+    FinishAside([&Then] { RestoreState(*DBEngine, Then); }).get();
 }
 
 void frmRestore::TellDone(const Generation& Which, const QStringList& Missing) {

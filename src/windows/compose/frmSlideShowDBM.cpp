@@ -14,7 +14,6 @@
 #include "controls/forms/Tell.h"
 #include "db/clsDBEngine.h"
 #include "settings/modNEBSlideShow.h"
-#include "support/Fault.h"
 #include "support/modDEValidation.h"
 #include "ui_frmSlideShowDBM.h"
 #include "windows/albums/modAlbumNames.h"
@@ -304,11 +303,11 @@ bool frmSlideShowDBM::MayLeave() {
     const BoxAnswer Answered =
         AskSave(tr("Are you sure you want to discard the changes to the current slide show?"),
                 QStringLiteral("Discard Changes Confirmation"));
-    return Answered == BoxAnswer::Save ? SaveShow(Cause::Program) : Answered == BoxAnswer::Discard;
+    return Answered == BoxAnswer::Save ? SaveShow(Content(), Cause::Program)
+                                       : Answered == BoxAnswer::Discard;
 }
 
-bool frmSlideShowDBM::SaveShow(Cause Who) {
-    ShowContent Show = Content();
+bool frmSlideShowDBM::SaveShow(ShowContent Show, Cause Who) {
     const Answer<> IsRight = CheckShow(Show, *DBEngine);
     mUi->txtName->setText(Show.Name);
     if (!Tell(IsRight)) return false;
@@ -332,16 +331,18 @@ Answer<Announcement> frmSlideShowDBM::Write(ShowContent& Show) {
         const PointerScope Working(Pointer::Hourglass);
         const QScopedValueRollback<Step> Writing(mStep, Step::Writing);
         return WriteShow(Show, *DBEngine, &DoEventsButInput, this);
-    } catch (const Fault&) {
+    } catch (...) {
         FollowWaiting();
         throw;
     }
 }
 
-// The grids keep what they hold, and it is saved as no show that is there.
+// The grids keep what they hold, and it is saved as no show that is there. Where that is refused
+// the show that is edited stays the chosen one.
 void frmSlideShowDBM::SaveAsNew() {
-    ChooseShow(0, Cause::Program);
-    Save();
+    ShowContent Show = Content();
+    Show.SlideShowID = 0;
+    SaveShow(std::move(Show), Cause::User);
 }
 
 void frmSlideShowDBM::Delete() {

@@ -98,8 +98,8 @@ class frmSlideShowDBM : public Form, public ChangeReceiver {
     void MoveUp();
     void MoveDown();
     void New();
-    void Save() { SaveShow(Cause::User); }
-    bool SaveShow(Cause Who);
+    void Save() { SaveShow(Content(), Cause::User); }
+    bool SaveShow(ShowContent Show, Cause Who);
     Answer<Announcement> Write(ShowContent& Show);
     void SaveAsNew();
     void Cancel() { ReadShow(); }

@@ -1,5 +1,7 @@
 #include "windows/import/DirectoryPanel.h"
 
+#include <QScopeGuard>
+
 #include "albums/modPictureFiles.h"
 #include "controls/forms/ScreenPointer.h"
 #include "settings/modNEBSlideShow.h"
@@ -114,9 +116,9 @@ void DirectoryPanel::LookAtCount() {
         mUi->lblDirSummary->setText(tr("%1 graphics files so far ...").arg(mCount->SoFar()));
         return;
     }
+    const auto Over = qScopeGuard([this] { StopCount(); });
     mUi->lblDirSummary->setText(QString::number(mCount->Take()) +
                                 QStringLiteral(" graphics files detected."));
-    StopCount();
 }
 
 void DirectoryPanel::StopCount() {

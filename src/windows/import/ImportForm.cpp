@@ -13,6 +13,7 @@
 #include "controls/grid/GridRows.h"
 #include "db/clsDBEngine.h"
 #include "settings/modNEBSlideShow.h"
+#include "support/ReasonOf.h"
 #include "support/Services.h"
 #include "support/modDEValidation.h"
 #include "support/modNumbers.h"
@@ -203,16 +204,24 @@ QStringList ImportForm::SelectedPaths() const {
     return Paths;
 }
 
-bool ImportForm::ImportRows(Changes& Door, std::int32_t AlbumID, frmProgress& Bar,
-                            const RowDone& Done) {
+// What a medium or the memory ends has its reason; what came in before that is in.
+std::optional<ImportTally> ImportForm::ImportRows(Changes& Door, std::int32_t AlbumID,
+                                                  frmProgress& Bar, const SlideEntered& Entered) {
     const PointerScope Working(Pointer::Hourglass);
+    ImportTally Tally{.Of = mUi->flxSelected->Rows()};
     Bar.setWindowTitle(QStringLiteral("Importing Slides ..."));
-    Bar.pgbLoadingProgress()->setMaximum(mUi->flxSelected->Rows());
+    Bar.pgbLoadingProgress()->setMaximum(Tally.Of);
     Bar.pgbLoadingProgress()->setValue(0);
     Bar.Refresh();
-    if (!GoesOn()) return false;
-    PictureImport Run(Door, *DBEngine, AlbumID, SelectedPaths(), [this] { return GoesOn(); });
-    return EnterRows(Run, Bar, Done);
+    if (!GoesOn()) return std::nullopt;
+    try {
+        Tally.Entered.reserve(static_cast<size_t>(Tally.Of));
+        PictureImport Run(Door, *DBEngine, AlbumID, SelectedPaths(), [this] { return GoesOn(); });
+        if (!EnterRows(Run, Bar, Tally, Entered)) return std::nullopt;
+    } catch (const std::exception& Problem) {
+        Tally.Problem = ReasonOf(Problem);
+    }
+    return Tally;
 }
 
 // The window may be closed while it imports, and its album be gone then.
@@ -221,21 +230,51 @@ bool ImportForm::GoesOn() const {
     return IsLoaded();
 }
 
-bool ImportForm::EnterRows(PictureImport& Run, frmProgress& Bar, const RowDone& Done) {
+// The thumbnail was made when the file was read. One that could not be taken in since may be
+// another picture by now: its thumbnail is made from what is stored, when it is first wanted.
+PictureToImport ImportForm::PictureIn(int Row) const {
     const FlexGrid& Grid = *mUi->flxSelected;
-    const int Count = Grid.Rows();
-    for (int Row = 0; Row < Count; ++Row) {
-        const auto Outcome =
-            Run.EnterNext({Grid.TextMatrix(Row, ColPath), Grid.TextMatrix(Row, ColCaption),
-                           Grid.CellPicture(Row, ColPicture)});
+    const bool WasLeftOut = Grid.CellData(Row, ColPath) != CellValue();
+    return {Grid.TextMatrix(Row, ColPath), Grid.TextMatrix(Row, ColCaption),
+            WasLeftOut ? QImage() : Grid.CellPicture(Row, ColPicture)};
+}
+
+bool ImportForm::EnterRows(PictureImport& Run, frmProgress& Bar, ImportTally& Tally,
+                           const SlideEntered& Entered) {
+    for (int Row = 0; Row < Tally.Of; ++Row) {
+        const PictureToImport Picture = PictureIn(Row);
+        const auto Outcome = Run.EnterNext(Picture);
         if (Outcome == PictureImport::Outcome::Ended) return false;
-        if (!Done(Row, Outcome, Run.SlideID())) return false;
-        Bar.pgbLoadingProgress()->setValue(Row + 1);
-        Bar.pgbLoadingProgress()->setToolTip(ImportProgressText(Row + 1, Count));
-        Bar.Refresh();
+        if (Outcome == PictureImport::Outcome::LeftOut) {
+            Tally.LeftOut << Picture.Path + QStringLiteral(": ") + Run.Reason();
+            mUi->flxSelected->SetCellData(Row, ColPath, 1.0);
+        } else {
+            Tally.Entered.push_back(Row);
+            Entered(Run.SlideID());
+        }
+        MoveBar(Bar, Row + 1, Tally.Of);
         if (!GoesOn()) return false;
     }
     return true;
+}
+
+void ImportForm::MoveBar(frmProgress& Bar, int Done, int Count) {
+    Bar.pgbLoadingProgress()->setValue(Done);
+    Bar.pgbLoadingProgress()->setToolTip(ImportProgressText(Done, Count));
+    Bar.Refresh();
+}
+
+void ImportForm::DropEntered(const ImportTally& Tally) {
+    FlexGrid& Grid = *mUi->flxSelected;
+    if (static_cast<int>(Tally.Entered.size()) == Grid.Rows()) {
+        Grid.SetRows(0);
+    } else {
+        Grid.SetRedraw(false);
+        const auto Painted = qScopeGuard([&Grid] { Grid.SetRedraw(true); });
+        std::for_each(Tally.Entered.rbegin(), Tally.Entered.rend(),
+                      [&Grid](int Row) { Grid.RemoveItem(Row); });
+    }
+    UpdateButtons();
 }
 
 }  // namespace neb

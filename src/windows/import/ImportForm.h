@@ -5,9 +5,11 @@
 
 #include <QImage>
 #include <QStringList>
+#include <optional>
 
 #include "albums/modImport.h"
 #include "controls/forms/Form.h"
+#include "windows/import/ImportTally.h"
 #include "windows/lists/SlideReading.h"
 
 namespace neb {
@@ -59,17 +61,19 @@ class ImportForm : public Form {
     bool HasSelection() const;
     // Shows frmProgress over StartOperation; whether that was done.
     bool RunImport();
-    // The import itself, under the bar, at the end of which the window goes. False when nothing
-    // came of it.
+    // The import itself, under the bar. False when not all of it was done, which the user has been
+    // told.
     virtual bool StartOperation(frmProgress& Bar) = 0;
     // Makes an album with its folders; the name is cleaned.
     Answer<Announcement> MakeAlbum(Changes& Door, const QString& Name);
-    // What a row of the selection turned into, Row from 0; false ends the import.
-    using RowDone =
-        std::function<bool(int Row, PictureImport::Outcome Outcome, std::int32_t SlideID)>;
-    // Enters every selected picture in the album and moves the bar. False when RowDone has ended
-    // it, or when the window was closed meanwhile: the album may then be gone.
-    bool ImportRows(Changes& Door, std::int32_t AlbumID, frmProgress& Bar, const RowDone& Done);
+    using SlideEntered = std::function<void(std::int32_t SlideID)>;
+    // Enters the selected pictures in the album and moves the bar; those that cannot be read are
+    // left out. The rows stay. Nothing when the window was closed meanwhile: the album may then be
+    // gone.
+    std::optional<ImportTally> ImportRows(Changes& Door, std::int32_t AlbumID, frmProgress& Bar,
+                                          const SlideEntered& Entered);
+    // Takes the rows of what is in out of the selection, so that nothing is entered twice.
+    void DropEntered(const ImportTally& Tally);
 
     std::unique_ptr<Ui::ImportForm> mUi;
 
@@ -103,7 +107,10 @@ class ImportForm : public Form {
     void During(Phase What, const std::function<void()>& Do);
     bool HoldsWork() const;
     bool GoesOn() const;
-    bool EnterRows(PictureImport& Run, frmProgress& Bar, const RowDone& Done);
+    PictureToImport PictureIn(int Row) const;
+    bool EnterRows(PictureImport& Run, frmProgress& Bar, ImportTally& Tally,
+                   const SlideEntered& Entered);
+    void MoveBar(frmProgress& Bar, int Done, int Count);
     QStringList SelectedPaths() const;
 
     void ImportAnotherDirectory();

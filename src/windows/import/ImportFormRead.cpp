@@ -102,7 +102,7 @@ void ImportForm::LoadPicture(FoundPictures& Found, const QString& Path) {
         if (!mReading.Yield()) return;
     try {
         AddRow(Path, *Found.Thumbnails->Take());
-    } catch (const Fault&) {
+    } catch (const std::exception&) {
         return;
     }
 }

@@ -12,6 +12,7 @@
 #include "settings/SettingKeys.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
+#include "support/ReasonOf.h"
 #include "support/Services.h"
 #include "ui_frmFindGraphics.h"
 #include "windows/frame/modWindowState.h"
@@ -195,7 +196,7 @@ void frmFindGraphics::Search() {
         SearchChosen();
     } catch (const std::exception& Problem) {
         ShowFound();
-        MsgBox(QStringLiteral("Error Searching\n") + QString::fromUtf8(Problem.what()), Failed);
+        MsgBox(QStringLiteral("Error Searching\n") + ReasonOf(Problem), Failed);
     }
     SearchEnded();
 }

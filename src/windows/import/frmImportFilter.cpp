@@ -18,14 +18,6 @@ const WindowMemory Memory{QStringLiteral("frmImportFilter"), 7080};
 
 }  // namespace
 
-QString frmImportFilter::ImportTally::Text() const {
-    QString Told =
-        QString::number(Rows - Discarded) + QStringLiteral(" slides successfully imported.");
-    if (Discarded > 0)
-        Told += u'\n' + QString::number(Discarded) + QStringLiteral(" slides discarded.");
-    return Told;
-}
-
 frmImportFilter::frmImportFilter() : ImportForm(Memory) {
     setObjectName(QStringLiteral("frmImportFilter"));
     setWindowTitle(QStringLiteral("Picture Import Filter"));
@@ -65,34 +57,23 @@ bool frmImportFilter::MakeTarget() {
     return false;
 }
 
-// Who only wants the window closed is not led on to the next one.
+// What was left out stays selected, and the window with it. Who only wants the window closed is not
+// led on to the next one. Closed meanwhile, nothing is said: the album may have gone.
 bool frmImportFilter::ImportIntoAlbum(frmProgress& Bar) {
     if (!DBEngine->GetAlbum(mTarget.AlbumID))
         throw Fault(QStringLiteral("The Album was not found."));
     Changes Door(*DBEngine, this);
     Announcement Imported = Door.AsOne(Change::Kind::SlidesImported, mTarget.AlbumID);
-    const std::optional<ImportTally> Tally = EnterAll(Door, Bar);
+    const std::optional<ImportTally> Tally =
+        ImportRows(Door, mTarget.AlbumID, Bar, [](std::int32_t) {});
     if (!Tally) return Imported.Never(), false;
-    MsgBox(Tally->Text());
+    DropEntered(*Tally);
+    Tally->Tell();
     Imported.Now();
     Bar.Unload();
+    if (!Tally->IsWhole()) return false;
     if (Unload()) OpenSlideShowMgr();
     return true;
-}
-
-// Nothing when the window was closed meanwhile: its album may have gone.
-std::optional<frmImportFilter::ImportTally> frmImportFilter::EnterAll(Changes& Door,
-                                                                      frmProgress& Bar) {
-    ImportTally Tally;
-    const auto CountRow = [&](int Row, PictureImport::Outcome Outcome, std::int32_t) {
-        ++Tally.Rows;
-        if (Outcome == PictureImport::Outcome::Discarded) ++Tally.Discarded;
-        if (Outcome == PictureImport::Outcome::Refused)
-            MsgBox(QStringLiteral("Failed to save slide %1").arg(Row));
-        return true;
-    };
-    if (!ImportRows(Door, mTarget.AlbumID, Bar, CountRow)) return std::nullopt;
-    return Tally;
 }
 
 void frmImportFilter::OpenSlideShowMgr() const {

@@ -3,8 +3,6 @@
 // and reads the directory. Unless it was Aborted by then, the caller shows it modally.
 #pragma once
 
-#include <optional>
-
 #include "windows/frame/modBroadcast.h"
 #include "windows/import/ImportForm.h"
 
@@ -38,15 +36,8 @@ class frmImportFilter : public ImportForm, public ChangeReceiver {
         bool LoadSlideShowMgr = false;
     };
 
-    // How many rows the import has been through, and how many had no file any more.
-    struct ImportTally {
-        int Rows = 0, Discarded = 0;
-        QString Text() const;
-    };
-
     bool MakeTarget();
     bool ImportIntoAlbum(frmProgress& Bar);
-    std::optional<ImportTally> EnterAll(Changes& Door, frmProgress& Bar);
     void OpenSlideShowMgr() const;
     void ShowName(const QString& AlbumName);
     void FollowName();

@@ -1,12 +1,14 @@
 #include "windows/import/frmQuickShow.h"
 
+#include <algorithm>
+
 #include "controls/fields/KeyFilter.h"
 #include "controls/forms/Tell.h"
 #include "controls/forms/frmProgress.h"
 #include "controls/grid/FlexGrid.h"
 #include "db/clsDBEngine.h"
 #include "settings/modNEBSlideShow.h"
-#include "support/Fault.h"
+#include "support/ReasonOf.h"
 #include "support/Services.h"
 #include "support/modDEValidation.h"
 #include "support/modFUFL.h"
@@ -49,23 +51,67 @@ bool frmQuickShow::HasFreeName() {
     return false;
 }
 
-// The show runs when both windows, this one and the one of the progress, have gone.
-void frmQuickShow::Import() {
-    if (Keep()) RunSlideShow(mMade.AlbumID, mMade.Name, mMade.SlideShowID);
+// Whether what was made is still there, so that more can come to it.
+bool frmQuickShow::IsMade() const {
+    const clsNEBAlbum* Album = mMade.AlbumID != 0 ? DBEngine->GetAlbum(mMade.AlbumID) : nullptr;
+    return Album && Album->GetSlideShow(mMade.SlideShowID);
 }
 
+// The show runs when both windows, this one and the one of the progress, have gone.
+void frmQuickShow::Import() {
+    if (!Run() || !MayPlay()) return;
+    mUi->flxSelected->SetRows(0);
+    if (Unload()) RunSlideShow(mMade.AlbumID, mMade.Name, mMade.SlideShowID);
+}
+
+// Asked of a window that is to close: what was left out keeps it.
 bool frmQuickShow::Keep() {
+    if (!Run()) return false;
+    if (!mLast.IsWhole()) mLast.Tell();
+    return mLast.IsWhole();
+}
+
+// Whether there is a show with all pictures that could be read.
+bool frmQuickShow::Run() {
+    mLast = {};
+    if (IsMade()) return mUi->flxSelected->Rows() == 0 || RunImport();
+    mMade = {};
+    mUi->txtName->setReadOnly(false);
+    return MayMake() && RunImport();
+}
+
+bool frmQuickShow::MayMake() {
     if (mUi->txtName->text().isEmpty()) {
         MsgBox(QStringLiteral("You must specify a name for the new slideshow."));
         return false;
     }
     mUi->txtName->setText(ConvertQuotes(mUi->txtName->text()));
-    return HasSelection() && HasFreeName() && RunImport();
+    return HasSelection() && HasFreeName();
+}
+
+// Pictures that could not be read are nothing to wait for where nobody can mend them.
+bool frmQuickShow::MayPlay() const {
+    if (mLast.LeftOut.isEmpty()) return true;
+    return ShowBox({.Text = tr("%1 of %2 pictures have come into the slide show. %3 could not be "
+                               "read.\nDo you want to play the slide show as it is?")
+                                .arg(mLast.Entered.size())
+                                .arg(mLast.Of)
+                                .arg(mLast.LeftOut.size()),
+                    .Title = windowTitle(),
+                    .Icon = BoxIcon::Question,
+                    .Buttons = BoxButtons::YesNo,
+                    .Details = mLast.Details(),
+                    .YesWords = tr("&Play"),
+                    .NoWords = tr("&Stay Here")}) == BoxAnswer::Yes;
+}
+
+bool frmQuickShow::StartOperation(frmProgress& Bar) {
+    return IsMade() ? AddToShow(Bar) : MakeShow(Bar);
 }
 
 // The one name is the album's and the show's. Nothing of a half-made show stays, and nobody hears
 // of it.
-bool frmQuickShow::StartOperation(frmProgress& Bar) {
+bool frmQuickShow::MakeShow(frmProgress& Bar) {
     Changes Door(*DBEngine, this);
     Made What{.Name = mUi->txtName->text()};
     auto Album = MakeAlbum(Door, What.Name);
@@ -74,56 +120,87 @@ bool frmQuickShow::StartOperation(frmProgress& Bar) {
         return false;
     }
     What.AlbumID = Album->What().AlbumID;
-    clsNEBSlideShow Show;
-    if (!FillAlbum(Door, What, Show, Bar) || !SaveShow(Door, What, std::move(Show))) {
+    if (!FillShow(Door, What, Bar)) {
         Album->Never();
+        DropMade(What);
         return false;
     }
     mMade = What;
+    mUi->txtName->setReadOnly(true);
     Album->Now();
-    Bar.Unload();
-    Unload();
     return true;
 }
 
-// A picture that fails takes the album with it.
-bool frmQuickShow::FillAlbum(Changes& Door, const Made& Into, clsNEBSlideShow& Show,
-                             frmProgress& Bar) {
+bool frmQuickShow::FillShow(Changes& Door, Made& What, frmProgress& Bar) {
+    clsNEBSlideShow Show;
+    const std::optional<ImportTally> Tally = FillAlbum(What, Show, Bar);
+    if (!Tally || !HasPictures(*Tally) || !SaveShow(Door, What, std::move(Show))) return false;
+    KeepLeftOut(*Tally);
+    return true;
+}
+
+// The places are those of what has come in: a hole would make the show begin again there.
+std::optional<ImportTally> frmQuickShow::FillAlbum(const Made& Into, clsNEBSlideShow& Show,
+                                                   frmProgress& Bar) {
+    Changes Door(*DBEngine, this);
     Door.AsOne(Change::Kind::SlidesImported, Into.AlbumID).Never();
-    QString Problem;
-    int Number = 1;
-    const auto Failed = [&] { return QStringLiteral("Failed to save slide #%1").arg(Number); };
-    const auto AddDetail = [&](int Row, PictureImport::Outcome Outcome, std::int32_t SlideID) {
-        if (Outcome == PictureImport::Outcome::Refused) Problem = Failed();
-        if (Outcome == PictureImport::Outcome::Entered) Show.SaveDetail(SlideID, Row + 1, {});
-        ++Number;
-        return Problem.isEmpty();
-    };
-    try {
-        if (ImportRows(Door, Into.AlbumID, Bar, AddDetail)) return true;
-    } catch (const std::exception& Reason) {
-        Problem = Failed() + u'\n' + QString::fromUtf8(Reason.what());
-    }
-    DropMade(Into);
-    if (!Problem.isEmpty()) MsgBox(Problem);
-    return false;
+    auto Place = static_cast<std::int32_t>(Show.Details.size());
+    for (const auto& Detail : Show.Details) Place = std::max(Place, Detail->SlideSeq);
+    return ImportRows(Door, Into.AlbumID, Bar,
+                      [&](std::int32_t SlideID) { Show.SaveDetail(SlideID, ++Place, {}); });
 }
 
-void frmQuickShow::DropMade(const Made& Half) {
-    if (DBEngine) DropAlbum(*DBEngine, Half.AlbumID);  // at the end of the program it has gone
+// A medium that fails, or pictures of which none can be read, make no show.
+bool frmQuickShow::HasPictures(const ImportTally& Tally) const {
+    if (!Tally.Problem.isEmpty())
+        ShowBox(
+            {.Text = QStringLiteral("Failed to save slide #%1\n%2")
+                         .arg(Tally.Entered.size() + static_cast<size_t>(Tally.LeftOut.size()) + 1)
+                         .arg(Tally.Problem),
+             .Details = Tally.Details()});
+    else if (Tally.Entered.empty())
+        Tally.Tell();
+    return Tally.Problem.isEmpty() && !Tally.Entered.empty();
 }
 
-bool frmQuickShow::SaveShow(Changes& Door, Made& What, clsNEBSlideShow Show) {
+bool frmQuickShow::SaveShow(Changes& Door, Made& What, clsNEBSlideShow Show) try {
     Show.SlideShowName = ConvertQuotes(What.Name);
     Show.ProgressionMethod = Automatic;
     Answer<Announcement> Saved = Door.SaveShow(What.AlbumID, std::move(Show));
     if (!Saved) {
         MsgBox(QStringLiteral("Failed to save slide show."));
-        DropMade(What);
         return false;
     }
     What.SlideShowID = Saved->What().SlideShowID;
+    Saved->Never();
     return true;
+} catch (const std::exception& Problem) {
+    MsgBox(QStringLiteral("Failed to save slide show.\n") + ReasonOf(Problem));
+    return false;
+}
+
+// What comes in stays in, whatever ends it: the show is there already.
+bool frmQuickShow::AddToShow(frmProgress& Bar) {
+    Announcement Added =
+        Changes(*DBEngine, this).AsOne(Change::Kind::SlidesImported, mMade.AlbumID);
+    const auto Show = DBEngine->GetAlbum(mMade.AlbumID)->GetSlideShow(mMade.SlideShowID)->Copy();
+    const std::optional<ImportTally> Tally = FillAlbum(mMade, *Show, Bar);
+    if (!DBEngine || !IsMade()) return Added.Never(), false;
+    if (Tally) KeepLeftOut(*Tally);
+    Answer<Announcement> Saved = Changes(*DBEngine, this).SaveShow(mMade.AlbumID, std::move(*Show));
+    Added.Now();
+    if (!Tell(Saved) || !Tally) return false;
+    if (!Tally->Problem.isEmpty()) Tally->Tell();
+    return Tally->Problem.isEmpty();
+}
+
+void frmQuickShow::KeepLeftOut(const ImportTally& Tally) {
+    mLast = Tally;
+    DropEntered(Tally);
+}
+
+void frmQuickShow::DropMade(const Made& Half) {
+    if (DBEngine) DropAlbum(*DBEngine, Half.AlbumID);  // at the end of the program it has gone
 }
 
 void frmQuickShow::Form_Load() {

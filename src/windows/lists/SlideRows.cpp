@@ -47,7 +47,7 @@ void ShowSlideInRow(FlexGrid& Grid, int Row, std::int32_t AlbumID, const clsNEBS
     SetSlideKeys(Grid, Row, SlideID, Caption);
     try {
         ImageBuffer->LoadSlide(Grid, Row, AlbumID, Slide, Loading, false);
-    } catch (const Fault&) {
+    } catch (const std::exception&) {
         // a picture that cannot be decoded leaves its cell blank; the caption is still of use
         const FlexGrid& Buffer = *ImageBuffer->BufferGrid;
         Grid.CopyCell(Buffer, RowOfSlide(Buffer, SlideID), clsImageBuffer::ColPath, Row,

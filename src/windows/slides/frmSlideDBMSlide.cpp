@@ -265,7 +265,7 @@ bool frmSlideDBM::ConfirmCaption() const {
 Answer<Announcement> frmSlideDBM::Store(const SlideInHand::JpegMaker& Jpeg) try {
     const PointerScope Working(Pointer::Hourglass);
     return SaveSlide(*DBEngine, this, mInHand, Jpeg);
-} catch (const Fault&) {
+} catch (...) {
     LoadAlbumSlides(Cause::Program);
     Lists().ChooseSlide(mInHand.SlideID());
     mUi->cmdDelete->setEnabled(true);

@@ -3,6 +3,7 @@
 #include "windows/slides/frmSlideMgrBulk.h"
 
 #include <QAbstractItemView>
+#include <QScopeGuard>
 
 #include "controls/fields/ComboBoxList.h"
 #include "controls/fields/Icons.h"
@@ -256,6 +257,7 @@ void frmSlideMgrBulk::SaveEdit(CaptionSave& Saved, std::int32_t SlideID, const Q
 void frmSlideMgrBulk::SaveRows(CaptionSave& Saved) {
     FlexGrid& Grid = *mUi->flxAlbum;
     Grid.SetRedraw(false);
+    const auto Painted = qScopeGuard([&Grid] { Grid.SetRedraw(true); });
     const clsNEBAlbum* Album = ShownAlbum();
     for (int Row = 0; Album && Row < Grid.Rows(); ++Row) {
         if (SaveRow(Saved, Row)) continue;
@@ -266,7 +268,6 @@ void frmSlideMgrBulk::SaveRows(CaptionSave& Saved) {
         Grid.SetRedraw(false);
         Album = ShownAlbum();
     }
-    Grid.SetRedraw(true);
 }
 
 bool frmSlideMgrBulk::SaveRow(CaptionSave& Saved, int Row) {

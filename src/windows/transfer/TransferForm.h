@@ -111,6 +111,7 @@ class TransferForm : public Form, public ChangeReceiver {
     void Finish(TransferResult& Result);
     void FinishUnfinished();
     void ForgetThumbnails() const;
+    std::optional<Fault> WriteOther() const;
     void FinishOther(const TransferResult& Result);
     QString DoneText(const TransferResult& Result) const;
     void Close() { Unload(); }

@@ -7,6 +7,7 @@
 #include "controls/forms/Tell.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
+#include "support/ReasonOf.h"
 #include "support/modDEValidation.h"
 #include "support/work/WorkAside.h"
 #include "ui_TransferForm.h"
@@ -27,6 +28,15 @@ BoxRequest Failed(const QString& Text) {
 
 BoxRequest NotYetCompleted(const QString& Text) {
     return Refuse(Text, QObject::tr("Operation Not Yet Completed"));
+}
+
+// All is written; who relies on going back to the albums of before must know.
+void TellNotKept(const std::optional<Fault>& Reason) {
+    if (!Reason) return;
+    MsgBox(QObject::tr("The transfer is completed. The albums of before in that database could not "
+                       "be kept among the earlier ones.\n\n%1")
+               .arg(Reason->Text()),
+           QObject::tr("Earlier Albums"), BoxIcon::Information);
 }
 
 QString Count(int Number, const QString& One, const QString& Many) {
@@ -133,6 +143,9 @@ std::optional<TransferResult> TransferForm::Run() {
             ShowBox(NotYetCompleted(Problem.Text()));
             return std::nullopt;
         }
+    } catch (const std::exception& Problem) {
+        Result = {};
+        Result.Boxes = {Failed(ReasonOf(Problem))};
     }
     return Result;
 }
@@ -183,8 +196,8 @@ void TransferForm::RereadOther() {
         const auto Held = mOther.Foreign();
         Held->Reread();
         ListOtherAgain();
-    } catch (const Fault& Problem) {
-        ShowBox(Failed(Problem.Text()));
+    } catch (const std::exception& Problem) {
+        ShowBox(Failed(ReasonOf(Problem)));
         CloseOther();
     }
 }
@@ -211,15 +224,20 @@ void TransferForm::ForgetThumbnails() const {
         ImageBuffer->ClearAlbum(mDst.AlbumID());
 }
 
+// The answer: why the state of before could not be kept there.
+std::optional<Fault> TransferForm::WriteOther() const {
+    const PointerScope Working(Pointer::Hourglass);
+    return FinishAside([Other = mOther.Foreign()] { return Other->Engine().FinalizeDB(); }).get();
+}
+
 // What cannot be written to its end now is in the journal, and comes to its end by itself.
 void TransferForm::FinishOther(const TransferResult& Result) {
     try {
-        const PointerScope Working(Pointer::Hourglass);
-        FinishAside([Other = mOther.Foreign()] { Other->Engine().FinalizeDB(); }).get();
-    } catch (const Fault& Problem) {
+        TellNotKept(WriteOther());
+    } catch (const std::exception& Problem) {
         ShowBox(NotYetCompleted(
             tr("The transfer is safe, and is completed when that database is opened next.") +
-            u'\n' + Problem.Text()));
+            u'\n' + ReasonOf(Problem)));
     }
     mOther.RefillViewers(Result.DstAlbumID);
 }

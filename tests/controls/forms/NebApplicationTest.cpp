@@ -53,6 +53,18 @@ TEST_F(Unhandled, OtherExceptionsAndWantOfMemoryAreShownToo) {
     ClickRaising([] { throw std::bad_alloc(); });
 }
 
+TEST_F(Unhandled, WhereNotEvenABoxCanBeShownTheProgramGoesOn) {
+    struct NoBoxes : MessageBoxes {
+        BoxAnswer Show(const BoxRequest&) override { throw std::bad_alloc(); }
+    } None;
+    MessageBoxes* const Before = std::exchange(TheServices().Boxes, &None);
+    ClickRaising([] { throw std::bad_alloc(); });
+    TheServices().Boxes = Before;
+    Boxes.Expect(QStringLiteral("broken"), Failed);
+    ClickRaising([] { throw Fault(QStringLiteral("broken")); });
+    EXPECT_EQ(1, Boxes.ShownCount()) << "the next one is told again";
+}
+
 TEST_F(Unhandled, ThePointerIsNormalAgain) {
     SetScreenPointer(Pointer::Hourglass);
     Boxes.WhileNextIsOpen([] { EXPECT_EQ(Pointer::Default, ScreenPointer()); });

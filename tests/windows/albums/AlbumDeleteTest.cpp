@@ -216,6 +216,25 @@ TEST_F(AlbumDelete, CannotBeLeftOrPressedAgainWhileTheFilesGo) {
     EXPECT_FALSE(NameExists(Folder(AlbumID)));
 }
 
+TEST_F(AlbumDelete, WantOfMemoryWhileTheFilesGoLeavesTheWindowUsable) {
+    const std::int32_t AlbumID = MakeFullAlbum(u"Garden"_s);
+    SetHostWatcher([](HostStep Step, const QString& Path, qint64&) {
+        if (Step == HostStep::Delete && Path.endsWith(u".mp3")) throw std::bad_alloc();
+    });
+    ExpectQuestion(BoxAnswer::Yes);
+    Boxes.Expect(u"There is not enough memory to do this."_s, u"Operation Failed"_s);
+    EXPECT_TRUE(Delete(AlbumID, [](frmAlbumDelete& Window) {
+        Press(Window, "cmdDelete");
+        SetHostWatcher({});
+        EXPECT_TRUE(Window.isEnabled());
+        EXPECT_EQ(Pointer::Default, ScreenPointer());
+        Press(Window, "cmdClose");
+        EXPECT_FALSE(Window.IsLoaded());
+    }));
+    EXPECT_EQ(nullptr, Engine.GetAlbum(AlbumID));
+    EXPECT_EQ("Album Delete 1", Heard());
+}
+
 TEST_F(AlbumDelete, WorksByTheKeyboardAlone) {
     MakeFullAlbum(u"Apples"_s);
     const std::int32_t AlbumID = MakeFullAlbum(u"Pears"_s);

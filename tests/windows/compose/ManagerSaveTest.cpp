@@ -192,14 +192,88 @@ TEST_F(ManagerSave, SaveAsNewWantsAnotherNameAndKeepsTheOldShow) {
     PutCaption(0, u"Rose"_s);
     Boxes.Expect(u"A Slide Show with this name already exists in this Album."_s);
     Tool("mnuSlideShowSaveAs");
-    EXPECT_EQ(0, Combo("cboSlideShows").currentIndex());
+    EXPECT_EQ(Walk, Chosen()) << "the show that is edited stays the chosen one";
     EXPECT_EQ("c|d|e / Rose|b", Lists()) << "what stands in the window stays";
     Name().setText(u"Second"_s);
     ExpectSaved();
     Tool("mnuSlideShowSaveAs");
     EXPECT_EQ("Walk 0 1:1[] 2:2[] | 1:1-1 00000001_1.wav", Stored(Walk));
-    EXPECT_EQ("Second 0 1:1[Rose] 2:2[] | 1:1-1 00000001_1.wav", Stored(2)) << "the file is shared";
+    EXPECT_EQ("Second 0 1:1[Rose] 2:2[] | 1:1-1 00000002_1.wav", Stored(2));
+    EXPECT_EQ("00000001_1.wav=a.wav 00000002_1.wav=a.wav", TrackFiles());
     EXPECT_EQ(2, Chosen());
+    EXPECT_EQ("1: 1,1,False,False,False,00000002_1.wav", TrackCells());
+}
+
+TEST_F(ManagerSave, AShowThatWasSavedAsNewKeepsItsSoundsWhenTheOtherIsDeleted) {
+    const std::int32_t Walk = OpenGarden({1, 2});
+    SetTrack(0, {u"1"_s, u"1"_s, {}, {}, {}, MakeSound(u"a.wav"_s)});
+    SaveWell();
+    Name().setText(u"Second"_s);
+    ExpectSaved();
+    Tool("mnuSlideShowSaveAs");
+    Choose("cboSlideShows", Walk);
+    Boxes.Expect(u"Are you sure you want to delete the selected slide show?"_s, BoxAnswer::Yes);
+    Boxes.Expect(u"Slide Show Deleted Successfully."_s);
+    Push("cmdDelete");
+    EXPECT_EQ("00000002_1.wav=a.wav", TrackFiles());
+    EXPECT_EQ("Second 0 1:1[] 2:2[] | 1:1-1 00000002_1.wav", Stored(2));
+}
+
+TEST_F(ManagerSave, ASaveAsNewThatFailsLeavesTheEditedShowChosenAndTheNextSaveIsOfIt) {
+    const std::int32_t Walk = OpenGarden({1, 2});
+    SetTrack(0, {u"1"_s, u"1"_s, {}, {}, {}, MakeSound(u"a.wav"_s)});
+    SaveWell();
+    const QString NameBefore = Name().text();
+    Name().setText(u"Second"_s);
+    FailCopies(u"The disk is full."_s);
+    Boxes.Expect(u"The disk is full."_s);
+    QTest::keyClick(W, Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+    SetHostWatcher({});
+    EXPECT_EQ(Walk, Chosen());
+    EXPECT_EQ("none", Stored(2));
+    Name().setText(NameBefore);
+    PutCaption(1, u"Rose"_s);
+    SaveWell();
+    EXPECT_EQ("Walk 0 1:1[] 2:2[Rose] | 1:1-1 00000001_1.wav", Stored(Walk));
+    EXPECT_EQ("<NEW SLIDE SHOW>|Walk", Entries("cboSlideShows"));
+}
+
+// As earlier versions saved them.
+TEST_F(ManagerSave, ShowsThatShareAFilePartWhenOneIsSaved) {
+    AddAlbumSlides({u"a"_s, u"b"_s});
+    const std::int32_t Walk = AddShow(u"Walk"_s, {1}), Run = AddShow(u"Run"_s, {1, 2});
+    MakeDirs(TracksFolder());
+    WriteFile(TracksFolder() + u"00000001_1.wav"_s, "a");
+    AddTrack(Walk, 1, 1, 1, u"00000001_1.wav"_s);
+    AddTrack(Run, 1, 1, 2, u"00000001_1.wav"_s);
+    OpenMgr(AlbumID, Run);
+    PutCaption(0, u"Rose"_s);
+    SaveWell();
+    EXPECT_EQ("Run 0 1:1[Rose] 2:2[] | 1:1-2 00000002_1.wav", Stored(Run));
+    Choose("cboSlideShows", Walk);
+    SetTrack(0, {{}, {}, {}, {}, {}, QString()});
+    SaveWell();
+    EXPECT_EQ("00000002_1.wav=a", TrackFiles()) << "nobody plays the other one any more";
+}
+
+TEST_F(ManagerSave, WantOfMemoryLeavesTheShowTheWindowAndWhatItHearsUsable) {
+    OpenGarden({1, 2});
+    SetTrack(0, {u"1"_s, u"1"_s, {}, {}, {}, MakeSound(u"a.wav"_s)});
+    SetHostWatcher([&](HostStep Step, const QString& Path, qint64&) {
+        if (Step != HostStep::Write || !Path.contains(u"SoundTracks")) return;
+        Album().DeleteSlide(5, Engine);
+        Tell(u"Album"_s, u"Delete Slides"_s, {AlbumID, 5});
+        throw std::bad_alloc();
+    });
+    Boxes.Expect(u"There is not enough memory to do this."_s, u"Operation Failed"_s);
+    Push("cmdSave");
+    SetHostWatcher({});
+    EXPECT_EQ("c|d / a|b", Lists()) << "what happened meanwhile is followed";
+    EXPECT_EQ("Walk 0 1:1[] 2:2[]", Stored(1));
+    EXPECT_EQ("", TrackFiles());
+    EXPECT_EQ(Pointer::Default, ScreenPointer());
+    SaveWell();
+    EXPECT_EQ("Walk 0 1:1[] 2:2[] | 1:1-1 00000001_1.wav", Stored(1));
 }
 
 TEST_F(ManagerSave, ASoundFileThatHasVanishedLeavesAllInTheWindowAndASecondSaveGoesOn) {

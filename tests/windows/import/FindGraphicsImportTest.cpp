@@ -172,6 +172,8 @@ TEST_F(FindGraphicsImport, TakesAFoundNameForAFileThoughADirectoryHasTakenItsPla
     Press(*Filter, "cmdMoveRightAll");
     Boxes.Expect(u"0 slides successfully imported.\n1 slides discarded."_s);
     Press(*Filter, "cmdImport");
+    EXPECT_EQ("b", CaptionsOf(Selected(*Filter)));
+    Drop(*Filter);
 }
 
 TEST_F(FindGraphicsImport, FollowsTheImportWindowThatIsClosedMeanwhile) {

@@ -180,6 +180,7 @@ TEST_F(ImportRead, SurvivesADirectoryThatDisappears) {
     Boxes.Expect(u"0 slides successfully imported.\n%1 slides discarded."_s.arg(Rows));
     Press(*Window, "cmdImport");
     EXPECT_TRUE(Engine.GetAlbum(AlbumID)->Slides.empty());
+    Drop(*Window);
 }
 
 TEST_F(ImportRead, KeepsNamesFromAllScriptsToTheRecords) {

@@ -239,6 +239,23 @@ TEST_F(SlideDBMSave, AFullDiskLeavesANewSlideWithoutAPictureForTheNextSaveToComp
     EXPECT_FALSE(Dirty());
 }
 
+TEST_F(SlideDBMSave, WantOfMemoryLeavesANewSlideForTheNextSaveToComplete) {
+    OpenAlbum();
+    PickPicture(MakePicture(Pics / u"a.png"_s, 50, 20));
+    Type(u"b"_s);
+    SetHostWatcher([](HostStep Step, const QString& Path, qint64&) {
+        if (Step == HostStep::Write && Path.contains(u".jpg")) throw std::bad_alloc();
+    });
+    Boxes.Expect(u"There is not enough memory to do this."_s, u"Operation Failed"_s);
+    Push("cmdSave");
+    SetHostWatcher({});
+    EXPECT_EQ(1, Chosen());
+    EXPECT_TRUE(Dirty());
+    Push("cmdSave");
+    ASSERT_EQ(1u, Album().Slides.size());
+    EXPECT_EQ(QSize(50, 20), SizeOf(Stored(u"00000001.jpg"_s)));
+}
+
 TEST_F(SlideDBMSave, OtherWindowsHearOfASlideThatIsThereWithoutItsPicture) {
     const auto Others = NewForm<Listener>();
     Others->Load();

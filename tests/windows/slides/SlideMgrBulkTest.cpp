@@ -158,6 +158,24 @@ TEST_F(SlideMgrBulk, AnAlbumThatGoesWhileABoxIsOpenEndsTheSave) {
     SaveExpecting(Bulk, u"1 slides successfully saved.\nFailed to save 1 slides."_s);
 }
 
+TEST_F(SlideMgrBulk, WantOfMemoryInASaveLeavesTheListPaintedAndWhatIsNotSaved) {
+    AddSlides({u"a"_s, u"b"_s, u"c"_s});
+    const Window Bulk = OpenBulk(AlbumID);
+    Edit(Bulk, 0, u"Rose"_s);
+    Edit(Bulk, 2, u"Tulip"_s);
+    Engine.Listeners.Noted = [](const Change& What) {
+        if (What.SlideID == 2) throw std::bad_alloc();
+    };
+    Boxes.Expect(u"There is not enough memory to do this."_s, u"Operation Failed"_s);
+    Press(*Bulk, "cmdSave");
+    Engine.Listeners.Noted = {};
+    EXPECT_TRUE(GridOf(Bulk).Redraw());
+    EXPECT_EQ("Rose|b|Tulip", Shown(Bulk));
+    EXPECT_EQ("c", CaptionInAlbum(3));
+    SaveExpecting(Bulk, u"3 slides successfully saved."_s);
+    EXPECT_EQ("Tulip", CaptionInAlbum(3));
+}
+
 TEST_F(SlideMgrBulk, AsksForAnAlbumBeforeItSavesOrDeletes) {
     const Window Bulk = OpenBulk(-1);
     Boxes.Expect(u"You must first select the album changes are to be made to."_s);

@@ -297,6 +297,39 @@ TEST_F(AlbumExport, AFaultIsToldAndLeavesBothDatabasesAsTheyWere) {
     EXPECT_EQ(Before + "|Garden: rose tulip [Summer 2]", OnDisk(OtherDb.Path()));
 }
 
+TEST_F(AlbumExport, WantOfMemoryIsToldAndLeavesTheWindowUsable) {
+    Load(*W, OtherDb.Path());
+    const std::string Before = OnDisk(OtherDb.Path());
+    SetHostWatcher([](HostStep Step, const QString& Path, qint64&) {
+        if (Step == HostStep::Write && Path.endsWith(u"/0"_s)) throw std::bad_alloc();
+    });
+    Boxes.Expect(u"There is not enough memory to do this."_s, u"Operation Failed"_s,
+                 BoxIcon::Critical, BoxAnswer::Ok);
+    Press(*W, "cmdExport");
+    SetHostWatcher({});
+    ASSERT_TRUE(W->IsLoaded());
+    EXPECT_EQ(Before, OnDisk(OtherDb.Path()));
+    EXPECT_EQ("<NEW ALBUM>*|Attic", Listed(*W, "cboDstAlbum")) << "it has been read anew";
+    Press(*W, "cmdExport");
+    EXPECT_FALSE(W->IsLoaded());
+    EXPECT_EQ(Before + "|Garden: rose tulip [Summer 2]", OnDisk(OtherDb.Path()));
+}
+
+TEST_F(AlbumExport, ThatTheAlbumsOfBeforeCouldNotBeKeptThereIsTold) {
+    Load(*W, OtherDb.Path());
+    SetHostWatcher([](HostStep Step, const QString& Path, qint64&) {
+        if (Step == HostStep::Write && Path.contains(u"Backups")) throw Fault(u"full"_s, u"x"_s);
+    });
+    Boxes.Expect(
+        u"The transfer is completed. The albums of before in that database could not be kept among "
+        "the earlier ones.\n\nfull\nx"_s,
+        u"Earlier Albums"_s, BoxIcon::Information, BoxAnswer::Ok);
+    Press(*W, "cmdExport");
+    SetHostWatcher({});
+    EXPECT_FALSE(W->IsLoaded());
+    EXPECT_EQ("Attic: lamp [Winter 1]|Garden: rose tulip [Summer 2]", OnDisk(OtherDb.Path()));
+}
+
 // The records are in the journal then, and a later start brings them to their places.
 TEST_F(AlbumExport, AFaultInTheLastWriteLosesNothingAndSaysSo) {
     Load(*W, OtherDb.Path());

@@ -1,0 +1,33 @@
+#include "windows/import/ImportTally.h"
+
+#include "controls/forms/Tell.h"
+
+namespace neb {
+
+QString ImportTally::Text() const {
+    QString Told = QStringLiteral("%1 slides successfully imported.").arg(Entered.size());
+    if (!Problem.isEmpty())
+        Told = QObject::tr("%1\n\n%2 of %3 slides were imported before.")
+                   .arg(Problem)
+                   .arg(Entered.size())
+                   .arg(Of);
+    if (!LeftOut.isEmpty()) Told += QStringLiteral("\n%1 slides discarded.").arg(LeftOut.size());
+    return Told;
+}
+
+QString ImportTally::Details() const {
+    if (LeftOut.isEmpty()) return {};
+    return QObject::tr("These stay selected, and can be imported when they are mended:") + u'\n' +
+           LeftOut.join(u'\n');
+}
+
+void ImportTally::Tell() const {
+    BoxRequest Box{.Text = Text(), .Details = Details()};
+    if (!Problem.isEmpty()) {
+        Box.Title = QStringLiteral("Operation Failed");
+        Box.Icon = BoxIcon::Critical;
+    }
+    ShowBox(Box);
+}
+
+}  // namespace neb

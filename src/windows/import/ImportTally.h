@@ -1,0 +1,27 @@
+// What became of the pictures of one import, and how the user is told. The import windows have one
+// from the import that they share.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <vector>
+
+namespace neb {
+
+struct ImportTally {
+    int Of = 0;                // pictures that were chosen
+    std::vector<int> Entered;  // the rows that are in the album now, from 0, ascending
+    QStringList LeftOut;       // a line each: the file, and why
+    QString Problem;           // what ended the import before its end; empty: nothing did
+
+    bool IsWhole() const { return LeftOut.isEmpty() && Problem.isEmpty(); }
+    // Shows the box at the end of an import.
+    void Tell() const;
+    // The list of those left out, for a box that has room for it; empty: there are none.
+    QString Details() const;
+
+  private:
+    QString Text() const;
+};
+
+}  // namespace neb
