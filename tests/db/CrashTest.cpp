@@ -96,6 +96,7 @@ class Killer {
         ::kill(::getpid(), SIGKILL);
         std::abort();
     }
+    bool HasStruck() const { return mLeft <= 0; }
 
   private:
     void Strike(HostStep Step, qint64& Length) {
@@ -118,6 +119,7 @@ bool RunsThrough(int Number, Kill How, WorkToDo Work) {
         } catch (const Fault&) {
             TheKiller.End();
         }
+        if (TheKiller.HasStruck()) TheKiller.End();  // who was faulted has gone on without it
         ::_exit(0);
     }
     int Status = 0;

@@ -255,6 +255,17 @@ QStringList PutJournalAside(const QString& DBPath) {
     return Kept;
 }
 
+// What cannot be written now is read from the journal all the same; the end tries anew.
+bool FinishWrite(const QString& DBPath, const RecordImage& Image, QString& NotKept) {
+    try {
+        if (const auto Problem = CarryOut(DBPath, Image, LookAtFiles(DBPath)))
+            NotKept = Problem->Text();
+        return true;
+    } catch (const Fault&) {
+        return ReadJournal(DBPath) != JournalState::Whole;
+    }
+}
+
 }  // namespace
 
 RecordSource RecordsInImage(RecordImage Image) {
@@ -339,9 +350,7 @@ bool RecoverDatabase(const QString& DBPath, QStringList& KeptAside, QString& Not
     } catch (const Fault&) {
         return false;
     }
-    if (State == JournalState::Whole)
-        if (const auto Problem = CarryOut(DBPath, Image, LookAtFiles(DBPath)))
-            NotKept = Problem->Text();
+    if (State == JournalState::Whole && !FinishWrite(DBPath, Image, NotKept)) return false;
     DeleteIfPossible(UnfinishedPath(DBPath));
     return true;
 }

@@ -65,8 +65,8 @@ bool HoldsDatabase(const QString& DBPath);
 // without a journal and a journal that never came to be whole. One that is damaged, or that does
 // not go with the record files, is kept aside with its files; PutAside gets their paths, and
 // NotKept why the records of before could not be kept as an earlier state, if so. False
-// where staged files can neither go to their places nor be noted as waiting: then nothing has
-// changed, and the journal is to be read where it lies.
+// where staged files can neither go to their places nor be noted as waiting, or the records cannot
+// be written: the journal is to be read where it lies.
 bool RecoverDatabase(const QString& DBPath, QStringList& PutAside, QString& NotKept);
 
 }  // namespace neb
