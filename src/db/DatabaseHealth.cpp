@@ -80,7 +80,7 @@ class HealthLook {
             if (Found.Is == FileFound::State::NoFile)
                 Say(QStringLiteral("%1 is no file: %2.").arg(NameOf(File), Found.Why));
             if (Found.Is == FileFound::State::Unreadable)
-                Say(QStringLiteral("%1 cannot be read: %2").arg(NameOf(File), Found.Why));
+                Say(QStringLiteral("%1: %2").arg(NameOf(File), Found.Why));
             if (!Found.Why.isEmpty()) mFound.Unusable.push_back(File);
             mFiles[static_cast<size_t>(File)] = std::move(Found);
         }

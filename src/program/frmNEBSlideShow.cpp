@@ -14,7 +14,8 @@
 #include "controls/forms/Tell.h"
 #include "controls/grid/FlexGrid.h"
 #include "db/clsDBEngine.h"
-#include "db/records/modJournal.h"
+#include "db/modRestore.h"
+#include "db/records/RecordSums.h"
 #include "program/MainMenu.h"
 #include "program/Workspace.h"
 #include "program/modMachineSettings.h"
@@ -24,6 +25,8 @@
 #include "support/ReasonOf.h"
 #include "support/Services.h"
 #include "support/files/modHostFiles.h"
+#include "support/work/WorkAside.h"
+#include "windows/albums/frmDamage.h"
 #include "windows/frame/modBroadcast.h"
 #include "windows/frame/modNotice.h"
 #include "windows/lists/clsImageBuffer.h"
@@ -72,6 +75,36 @@ void TellNotKept(const QString& Reason) {
            QObject::tr("Earlier Albums"), BoxIcon::Information);
 }
 
+// How the database is once the user has had it mended where it is damaged; nothing when he ends the
+// program instead. One that cannot be written stays as it is.
+std::optional<DatabaseHealth> LookAtDatabase() {
+    const auto Look = [] { return FinishAside([] { return LookAtHealth(DBPath()); }).get(); };
+    const DatabaseHealth Health = Look();
+    if (Health.IsSound() || !MayWriteDatabase(DBPath())) return Health;
+    SetScreenPointer(Pointer::Default);
+    if (!NewForm<frmDamage>()->MakeSound(DBPath(), Health)) return std::nullopt;
+    return Look();
+}
+
+// In a folder that has no albums yet none could be kept: that must be mended first.
+void TellNothingCanBeKept(const QString& Reason) {
+    SetScreenPointer(Pointer::Default);
+    MsgBox(
+        QObject::tr("The folder of the albums cannot be written, so that nothing new can be "
+                    "kept.\nGive yourself permission to write there, or choose another folder by "
+                    "the setting DBPath.\n\n%1")
+            .arg(Reason),
+        QObject::tr("Albums Cannot Be Written"), BoxIcon::Critical);
+}
+
+void TellDamageOfReadOnly(const QStringList& Wrong) {
+    SetScreenPointer(Pointer::Default);
+    MsgBox(QObject::tr("The albums are damaged, and cannot be written where they lie. What is left "
+                       "of them is shown; nothing is changed.\n\n%1")
+               .arg(Wrong.join(u'\n')),
+           QObject::tr("Damaged Albums"), BoxIcon::Information);
+}
+
 // Whether to end although the albums could not be saved. Are they kept in the session's journal, an
 // end loses nothing; else it is to be asked for in so many words.
 bool AskEndUnsaved(const QString& Problem, bool AreKept) {
@@ -114,7 +147,7 @@ frmNEBSlideShow::~frmNEBSlideShow() {
     if (FileSystem == TheFileSystem()) FileSystem = nullptr;
 }
 
-void frmNEBSlideShow::Form_Load(const CommandLine& Line) {
+bool frmNEBSlideShow::Form_Load(const CommandLine& Line) {
     DebugMode = Line.Debug;
     Log("Showing Main Form");
     mStage = Stage::Loading;
@@ -124,7 +157,10 @@ void frmNEBSlideShow::Form_Load(const CommandLine& Line) {
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/neb/neb-slide-show.svg")));
     mWorkspace->viewport()->update();
     const PointerScope Working(Pointer::Hourglass);
-    LoadDatabase();
+    if (!LoadDatabase()) {
+        mStage = Stage::Empty;
+        return false;
+    }
     CheckReadOnly();
     if (!ReadOnlyDB) {
         Log("If not read-only, call Speed Tests routine.");
@@ -137,6 +173,7 @@ void frmNEBSlideShow::Form_Load(const CommandLine& Line) {
     CreateImageBuffer();
     mStage = Stage::Loaded;
     TellLeftBehind();
+    return true;
 }
 
 // What was brought back is as the user left it: it needs no answer. What could not be is somewhere
@@ -154,30 +191,43 @@ void frmNEBSlideShow::TellLeftBehind() {
            tr("Interrupted Changes Put Aside"), BoxIcon::Information);
 }
 
-void frmNEBSlideShow::LoadDatabase() {
+bool frmNEBSlideShow::LoadDatabase() {
     Log("Starting Initializing and Buffering Database");
-    if (CountersAreMissing(DBPath()))
-        throw Fault(tr("A file is missing, without which new pictures would take the places of old "
-                       "ones. Put it back from a backup; or, to begin without albums, move "
-                       "Albums.dat away."),
-                    DBPath() + QStringLiteral("NextIDs.dat"));
+    const std::optional<DatabaseHealth> Health = LookAtDatabase();
+    if (!Health) return false;
     mEngine = std::make_unique<clsDBEngine>();
     mEngine->SetDBPath(DBPath());
     mEngine->SetProgramPath(AppPath());
-    mEngine->InitializeDB();
-    if (MayWriteDatabase(DBPath())) mEngine->KeepSession();
+    ReadRecords(*Health);
     DBEngine = mEngine.get();
     BroadcastChangesOf(*DBEngine);
     Log("Completed Initializing and Buffering Database");
+    return true;
+}
+
+// Pictures that a crash has left without a record may lie above the counters.
+void frmNEBSlideShow::ReadRecords(const DatabaseHealth& Health) {
+    if (!Health.IsSound()) {
+        LoadRest(*mEngine, Health);
+        return TellDamageOfReadOnly(Health.Wrong);
+    }
+    mEngine->InitializeDB();
+    if (!MayWriteDatabase(DBPath())) return;
+    if (Health.IsNew) NoteRecords(DBPath());
+    RaiseCounters(*mEngine, Health.Free);
+    mEngine->KeepSession();
 }
 
 void frmNEBSlideShow::CheckReadOnly() {
     Log("Check if Read-Only");
-    const QString Counters = DBPath() + QStringLiteral("NextIDs.dat");
-    ReadOnlyDB = FileExists(Counters) && IsReadOnly(Counters);
+    const QString Fixed = WhyNotWritable(DBPath());
+    ReadOnlyDB = !Fixed.isEmpty();
     if (!ReadOnlyDB) return;
     for (const char* Name : {"mnuAlbumNew", "mnuRestore"})
         mMenu->Entries[QLatin1String(Name)]->setEnabled(false);
+    if (!HoldsDatabase(DBPath())) return TellNothingCanBeKept(Fixed);
+    ShowNotice(
+        tr("These albums can be looked at, but not changed: %1 cannot be written.").arg(Fixed));
 }
 
 void frmNEBSlideShow::MakeChildDirs() {
@@ -187,12 +237,7 @@ void frmNEBSlideShow::MakeChildDirs() {
     try {
         ProbeDatabaseFolder();
     } catch (const Fault& Problem) {
-        SetScreenPointer(Pointer::Default);
-        MsgBox(tr("The folder of the albums cannot be written, so that nothing new can be kept.\n"
-                  "Give yourself permission to write there, or choose another folder by the "
-                  "setting DBPath.\n\n%1")
-                   .arg(Problem.Text()),
-               tr("Albums Cannot Be Written"), BoxIcon::Critical);
+        TellNothingCanBeKept(Problem.Text());
     }
 }
 

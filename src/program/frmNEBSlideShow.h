@@ -14,6 +14,7 @@ class Form;
 class Workspace;
 class clsDBEngine;
 class clsImageBuffer;
+struct DatabaseHealth;
 struct MainMenu;
 
 class frmNEBSlideShow : public QMainWindow {
@@ -23,9 +24,10 @@ class frmNEBSlideShow : public QMainWindow {
     frmNEBSlideShow();
     ~frmNEBSlideShow() override;
 
-    // The start-up sequence: shows the window, loads the database, makes ready. Throws Fault when
-    // the database cannot be read; the program is then to end without writing anything.
-    void Form_Load(const CommandLine& Line);
+    // The start-up sequence: shows the window, loads the database, makes ready. False when the
+    // albums are damaged and the user ends the program for that. Throws Fault when the database
+    // cannot be read. In both cases the program is to end without writing anything.
+    bool Form_Load(const CommandLine& Line);
     // Has every window ask about work that is not saved; false when one is to stay. Nothing is
     // closed.
     bool QueryForms();
@@ -56,7 +58,8 @@ class frmNEBSlideShow : public QMainWindow {
     void ListWindows();
     void ShowAsChild(Form& Child);
 
-    void LoadDatabase();
+    bool LoadDatabase();
+    void ReadRecords(const DatabaseHealth& Health);
     void CheckReadOnly();
     void MakeChildDirs();
     void TellLeftBehind();

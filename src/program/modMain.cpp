@@ -17,6 +17,7 @@
 #include "support/Fault.h"
 #include "support/Services.h"
 #include "support/files/modHostFiles.h"
+#include "support/modFUFL.h"
 
 namespace neb {
 namespace {
@@ -50,7 +51,7 @@ int TellUnreadable(const std::exception& Problem) {
 int RunMainWindow(const CommandLine& Line) {
     frmNEBSlideShow Window;
     try {
-        Window.Form_Load(Line);
+        if (!Window.Form_Load(Line)) return 0;
     } catch (const std::exception& Problem) {
         return TellUnreadable(Problem);
     }
@@ -63,10 +64,35 @@ int RunMainWindow(const CommandLine& Line) {
 
 }  // namespace
 
+namespace {
+
+// A documents folder may be new as a whole, with all that the program makes below it. Where not
+// even the folder above is there, a disk is missing rather than the albums.
+bool PlaceIsThere(const QString& Database) {
+    const QString Place = Database == SettingsDir() ? DocumentsPath : Database;
+    return FolderExists(Place) || FolderExists(GetParentDir(Place));
+}
+
+void TellNoPlace(const QString& Database) {
+    MsgBox(
+        QObject::tr("The folder of the albums is not there:\n%1\n\nPerhaps it lies on a disk that "
+                    "is not connected. Connect it and start the program once more, or choose "
+                    "another folder by the setting DBPath in\n%2\n\nNothing has been made there.")
+            .arg(Database, SettingsDir() + INIFileName()),
+        QObject::tr("Albums Not Found"), BoxIcon::Critical);
+}
+
+}  // namespace
+
 std::optional<QString> DatabaseToOpen() {
     try {
-        MakeDir(DBPath());
-        return DBPath();
+        const QString Database = DBPath();
+        if (!PlaceIsThere(Database)) {
+            TellNoPlace(Database);
+            return std::nullopt;
+        }
+        MakeDir(Database);
+        return Database;
     } catch (const Fault& Problem) {
         MsgBox(QObject::tr("The settings cannot be read, so that it is not known where the albums "
                            "are.\n\n%1")

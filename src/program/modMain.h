@@ -10,7 +10,8 @@ namespace neb {
 class InstanceLock;
 class frmNEBSlideShow;
 
-// The database directory, made if need be; none after a box when the settings cannot be read.
+// The database directory, made if need be; none after a box when the settings cannot be read, or
+// when not even the folder above it is there: then nothing is made.
 std::optional<QString> DatabaseToOpen();
 // Closes the program as soon as no modal window is open any more; unloads those that are. For
 // the event loop itself to call.

@@ -37,7 +37,7 @@ std::unique_ptr<ScratchDir> SettingsOfVisit;
 
 QString UserDocuments() {
     const QString Path = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    MakeDir(Path);
+    if (FolderExists(GetParentDir(Path))) MakeDir(Path);  // else the disk with it is not there
     return Path;
 }
 

@@ -17,6 +17,7 @@
 #include "settings/modNEBSlideShow.h"
 #include "windows/albums/frmAlbumDelete.h"
 #include "windows/albums/frmAlbumRename.h"
+#include "windows/albums/frmDamage.h"
 #include "windows/albums/frmGetObjectName.h"
 #include "windows/albums/frmRestore.h"
 #include "windows/compose/frmSlideShowDBM.h"
@@ -103,9 +104,9 @@ using Windows =
                      frmAlbumView, frmDirSelect, frmDiscFolder, frmFindGraphics, frmGetObjectName,
                      frmInputBox, frmPrintAlbum, frmPrintPreview, frmPrintSheet, frmPrintSlide,
                      frmPrintSlideShow, frmHelp, frmImportFilter, frmLoading, frmMsgBoxEx,
-                     frmNewAlbumWzd1, frmPreferences, frmQuickShow, frmRestore, frmSlideDBM,
-                     frmSlideMgrBulk, frmSlideShowDBM, frmSlideShowExport, frmSlideShowImport,
-                     frmSlideShowView, frmSoundRecorder, frmTransferProgress>;
+                     frmNewAlbumWzd1, frmPreferences, frmQuickShow, frmRestore, frmDamage,
+                     frmSlideDBM, frmSlideMgrBulk, frmSlideShowDBM, frmSlideShowExport,
+                     frmSlideShowImport, frmSlideShowView, frmSoundRecorder, frmTransferProgress>;
 TYPED_TEST_SUITE(EachWindow, Windows);
 
 TYPED_TEST(EachWindow, HasNamesToolTipsAndReachableControls) {

@@ -113,6 +113,44 @@ TEST(Main, SettingsThatCannotBeReadEndInABox) {
     EXPECT_TRUE(FolderExists(SettingsDir()));
 }
 
+// The disk with it is not mounted.
+TEST(Main, AlbumsWhosePlaceIsNotThereAreNotMade) {
+    harness::TempFolder Documents;
+    harness::ScriptedBoxes Boxes;
+    SetDocumentsPath(Documents.Path());
+    MakeDirs(SettingsDir());
+    const QString Disk = Documents.Path() + "disk/";
+    WriteFile(SettingsDir() + INIFileName(), "[General]\nDBPath=" + Disk.toUtf8() + "albums\n");
+    Boxes.Expect("The folder of the albums is not there:\n" + Disk +
+                     "albums/\n\nPerhaps it lies on a disk that is not connected. Connect it and "
+                     "start the program once more, or choose another folder by the setting DBPath "
+                     "in\n" +
+                     SettingsDir() + INIFileName() + "\n\nNothing has been made there.",
+                 "Albums Not Found", BoxIcon::Critical, BoxAnswer::Ok);
+    EXPECT_FALSE(DatabaseToOpen());
+    EXPECT_FALSE(FolderExists(Disk));
+    MakeDirs(Disk);
+    EXPECT_EQ(DatabaseToOpen(), Disk + "albums/");
+    EXPECT_TRUE(FolderExists(Disk + "albums"));
+}
+
+TEST(Main, TheFirstStartMakesTheDocumentsFolderWithAllBelowItButNothingAboveIt) {
+    harness::TempFolder Home;
+    harness::ScriptedBoxes Boxes;
+    SetDocumentsPath(Home.Path() + "Documents");
+    EXPECT_EQ(DatabaseToOpen(), Home.Path() + "Documents/NEB/NEB Slide Show/");
+    EXPECT_TRUE(FolderExists(SettingsDir()));
+    SetDocumentsPath(Home.Path() + "disk/Documents");
+    Boxes.Expect("The folder of the albums is not there:\n" + SettingsDir() +
+                     "\n\nPerhaps it lies on a disk that is not connected. Connect it and "
+                     "start the program once more, or choose another folder by the setting DBPath "
+                     "in\n" +
+                     SettingsDir() + INIFileName() + "\n\nNothing has been made there.",
+                 "Albums Not Found", BoxIcon::Critical, BoxAnswer::Ok);
+    EXPECT_FALSE(DatabaseToOpen());
+    EXPECT_FALSE(FolderExists(Home.Path() + "disk"));
+}
+
 TEST(Main, ARequestToEndWaitsForTheWorkInAModalWindow) {
     harness::TempFolder Documents;
     harness::ScriptedBoxes Boxes;

@@ -111,7 +111,8 @@ HighestNumbers HigherOf(const HighestNumbers& One, const HighestNumbers& Other) 
 FileFound LookAtRecordFile(const QString& DBPath, RecordFile File) {
     using enum FileFound::State;
     const QString Path = RecordPath(DBPath, File);
-    if (const QString Why = WhyUnseen(Path); !Why.isEmpty()) return {Unreadable, 0, Why};
+    if (const QString Why = WhyUnseen(Path); !Why.isEmpty())
+        return {Unreadable, 0, QStringLiteral("The file cannot be read: %1.").arg(Why)};
     if (!NameExists(Path)) return {};
     if (FolderExists(Path)) return {NoFile, 0, QStringLiteral("it is a folder")};
     const qint64 Length = FileSize(Path);

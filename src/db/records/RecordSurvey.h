@@ -20,7 +20,7 @@ struct FileFound {
     enum class State { Missing, Whole, Cut, NoFile, Unreadable };
     State Is = State::Missing;
     qint64 Length = 0;  // bytes
-    QString Why;        // of what is no file or cannot be read, as the end of a sentence
+    QString Why;        // of what is no file (the end of a sentence) or cannot be read
 };
 // Cut: no whole number of records; for the counters, not just one. All of it is read.
 FileFound LookAtRecordFile(const QString& DBPath, RecordFile File);

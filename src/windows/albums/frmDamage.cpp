@@ -111,7 +111,8 @@ void frmDamage::TellFailure(const Fault& Problem) {
     MsgBox(tr("That did not succeed. No file is lost.\n\n%1").arg(Problem.Text()),
            tr("Operation Failed"), BoxIcon::Critical);
     DatabaseHealth Now = LookAtHealth(mDamage.DBPath);
-    if (Now.IsSound()) return;
+    mDamage.IsMended = Now.IsSound();  // the opening brings it to its end
+    if (mDamage.IsMended) return End();
     mDamage.Health = std::move(Now);
     mUi->txtWrong->setPlainText(mDamage.Health.Wrong.join(u'\n'));
 }
