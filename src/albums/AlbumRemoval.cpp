@@ -26,6 +26,7 @@ void DeleteAlbumFiles(const QString& DBPath, std::int32_t AlbumID, const Yield& 
             DeleteFilesIn(Folder, LetRun);
             DropFolder(Folder, LetRun);
         }
+        DeleteFilesIn(Album, LetRun);  // the list of their check sums
     }
     DeleteFolder(Album);
 }

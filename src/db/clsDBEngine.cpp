@@ -8,6 +8,7 @@
 #include "db/records/RecordCodec.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
+#include "support/files/modHostFilesCopy.h"
 #include "support/modFUFL.h"
 
 namespace neb {
@@ -69,6 +70,7 @@ void clsDBEngine::KeepSession() {
 }
 
 void clsDBEngine::NoteInSession(const Change& What, bool WithFiles) {
+    mHasNewFiles = mHasNewFiles || WithFiles;
     if (mSession) mSession->Add(EntryOf(*this, What), WithFiles);
 }
 
@@ -110,8 +112,11 @@ void clsDBEngine::LoadFrom(const RecordSource& Source) {
 }
 
 std::optional<Fault> clsDBEngine::FinalizeDB() {
-    if (mSession) mSession->Pause();
+    // The session's journal has flushed the files with what it has stored.
+    const bool AreFlushed = mSession && IsSessionStored();
+    if (mHasNewFiles && !AreFlushed) SyncVolume(mDBPath);
     std::optional<Fault> NotKept = WriteDatabase(mDBPath, BuildImage(*this));
+    mHasNewFiles = false;
     if (mSession) mSession->Restart();
     return NotKept;
 }

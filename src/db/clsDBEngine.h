@@ -141,6 +141,7 @@ class clsDBEngine {
     LeftBehind mFound;
     std::optional<SessionEnd> mLeft;  // where the journal of the session before goes on
     std::unique_ptr<SessionJournal> mSession;
+    bool mHasNewFiles = false;  // that records name, since all was written
 };
 
 }  // namespace neb

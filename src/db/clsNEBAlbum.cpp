@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <set>
 
+#include "db/AlbumSums.h"
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
 #include "db/modNameIndex.h"
@@ -20,12 +21,11 @@ std::int32_t IdInRow(const std::vector<NameIndexEntry>& Index, std::int32_t Row)
     return Index[static_cast<size_t>(Row) - 1].ID;
 }
 
-void DeleteQuietly(const QString& Mask) {
-    try {
-        DeleteMask(Mask);
-    } catch (const Fault&) {
-        // A file in use must not keep the slide in the album.
-    }
+// Full paths; what cannot be listed has none.
+QStringList FilesLike(const QString& Folder, const QString& Mask) {
+    QStringList Paths;
+    for (const QString& Name : ListMask(Folder + Mask)) Paths << Folder + Name;
+    return Paths;
 }
 
 }  // namespace
@@ -119,9 +119,9 @@ bool clsNEBAlbum::TakeSlide(std::int32_t SlideID) {
 }
 
 void clsNEBAlbum::DeleteSlideFiles(std::int32_t SlideID, const clsDBEngine& theDB) const {
-    const QString Stem = SlidesFolder(theDB.DBPath(), AlbumID) + FileStem(SlideID);
-    DeleteQuietly(Stem + QStringLiteral(".*"));
-    DeleteQuietly(Stem + QStringLiteral("Small.*"));
+    const QString Folder = SlidesFolder(theDB.DBPath(), AlbumID), Stem = FileStem(SlideID);
+    DropStored(FilesLike(Folder, Stem + QStringLiteral(".*")) +
+               FilesLike(Folder, Stem + QStringLiteral("Small.*")));
 }
 
 bool clsNEBAlbum::DeleteSlide(std::int32_t SlideID, const clsDBEngine& theDB) {
@@ -140,8 +140,8 @@ bool clsNEBAlbum::TakeSlideShow(std::int32_t SlideShowID) {
 }
 
 void clsNEBAlbum::DeleteSlideShowFiles(std::int32_t SlideShowID, const clsDBEngine& theDB) const {
-    DeleteQuietly(SoundTracksFolder(theDB.DBPath(), AlbumID) + FileStem(SlideShowID) +
-                  QStringLiteral("*.*"));
+    DropStored(FilesLike(SoundTracksFolder(theDB.DBPath(), AlbumID),
+                         FileStem(SlideShowID) + QStringLiteral("*.*")));
 }
 
 // The show goes before its sounds: never a show without them.
