@@ -10,6 +10,7 @@
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
 #include "db/records/modJournal.h"
+#include "pictures/ImgX.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
@@ -24,7 +25,8 @@ using Kind = PictureFinding::Kind;
 struct Named {
     QString Path;  // in the album
     QString What;
-    bool MayBeMissing = false;
+    QString Picture = {};  // of a thumbnail: the full path of the picture from which it is made
+    bool IsThumbnail() const { return !Picture.isEmpty(); }
 };
 
 // What the records say of an album, upper-cased by the files' paths in it.
@@ -44,8 +46,11 @@ class Expectations {
         Add(QStringLiteral("Slides/"), Slide.SoundTrackLoc.trimmed(),
             QStringLiteral("the sound") + Of);
         const QString Small = QStringLiteral("Slides/") + ThumbnailName(Slide.SlideID);
+        const QString Picture = HoldsSeparator(Slide.SlideLoc)
+                                    ? Slide.SlideLoc
+                                    : mAlbum.Folder + QStringLiteral("Slides/") + Slide.SlideLoc;
         mAlbum.Files.try_emplace(Small.toUpper(),
-                                 Named{Small, QStringLiteral("the thumbnail") + Of, true});
+                                 Named{Small, QStringLiteral("the thumbnail") + Of, Picture});
     }
     void Expect(const clsNEBSlideShow& Show) {
         for (const auto& Track : Show.SoundTracks)
@@ -142,20 +147,38 @@ class Checker {
     }
 
     void Check(const AlbumToCheck& Album, const std::vector<FileThere>& There) {
-        const std::optional<QByteArray> List = ReadList(Album.Folder);
-        std::multimap<QString, ListedSum> Listed;
-        for (ListedSum& Each : SumsIn(List.value_or(QByteArray())))
-            Listed.emplace(Each.Path.toUpper(), std::move(Each));
+        ListOfAlbum List{ReadList(Album.Folder), {}};
+        for (ListedSum& Each : SumsIn(List.Text.value_or(QByteArray())))
+            List.Lines.emplace(Each.Path.toUpper(), std::move(Each));
         std::set<QString> Upper;
         std::map<QString, ListedSum> Right;
         for (const FileThere& Each : There) {
             if (mState.Stop) return;
             Upper.insert(Each.Path.toUpper());
-            CheckOne(Album, Each, Listed, List.has_value(), Right);
+            if (auto Line = CheckOne(Album, Each, List))
+                Right.emplace(Each.Path.toUpper(), std::move(*Line));
         }
         FindMissing(Album, Upper);
-        PutRight(Album, List, Upper, Right);
+        PutRight(Album, List.Text, Upper, Right);
+        MendThumbnails();
     }
+
+    struct ListOfAlbum {
+        std::optional<QByteArray> Text;
+        std::multimap<QString, ListedSum> Lines;
+
+        bool Has(const QString& Upper) const { return Lines.contains(Upper); }
+        bool Has(const QString& Upper, const QByteArray& Sum) const {
+            const auto [First, Last] = Lines.equal_range(Upper);
+            return std::any_of(First, Last,
+                               [&](const auto& Each) { return Each.second.Sum == Sum; });
+        }
+        // The line that came last; nothing when there is none.
+        std::optional<ListedSum> LastOf(const QString& Upper) const {
+            const auto [First, Last] = Lines.equal_range(Upper);
+            return First == Last ? std::nullopt : std::optional(std::prev(Last)->second);
+        }
+    };
 
     // One that cannot be read counts as none, and is none that could be put right.
     std::optional<QByteArray> ReadList(const QString& Folder) {
@@ -167,55 +190,67 @@ class Checker {
         }
     }
 
-    // Of several lines for a name the one that matches is right: the file was being replaced.
-    void CheckOne(const AlbumToCheck& Album, const FileThere& File,
-                  const std::multimap<QString, ListedSum>& Listed, bool HasList,
-                  std::map<QString, ListedSum>& Right) {
-        const QString Upper = File.Path.toUpper(), Path = Album.Folder + File.Path;
+    // The line that the file is to have. Of several for a name the one that matches is right: the
+    // file was being replaced.
+    std::optional<ListedSum> CheckOne(const AlbumToCheck& Album, const FileThere& File,
+                                      const ListOfAlbum& List) {
+        const QString Upper = File.Path.toUpper();
         const auto Expected = Album.Files.find(Upper);
-        const auto [First, Last] = Listed.equal_range(Upper);
         if (Expected == Album.Files.end() || File.IsFolder) {
-            if (!IsInTheMaking(File.Path)) Add({Kind::Stray, Path, {}, Album.Name});
-            if (First != Last) Right.emplace(Upper, std::prev(Last)->second);
-            return;
+            if (!IsInTheMaking(File.Path))
+                Add({Kind::Stray, Album.Folder + File.Path, {}, Album.Name});
+            return List.LastOf(Upper);
         }
-        const auto Sum = Read(Album, File, Expected->second.What);
-        if (!Sum) {
-            if (First != Last) Right.emplace(Upper, std::prev(Last)->second);
-            return;
-        }
-        const bool Matches =
-            std::any_of(First, Last, [&](const auto& Each) { return Each.second.Sum == *Sum; });
-        if (First != Last && !Matches)
-            Add({Kind::Changed, Path, Expected->second.What, Album.Name});
-        Right.emplace(Upper, First != Last && !Matches ? std::prev(Last)->second
-                                                       : ListedSum{File.Path, *Sum});
-        if (HasList) mTold->Change([](PicturesChecked& Now) { ++Now.Files; });
+        const auto Sum = Read(Album, File, Expected->second);
+        if (!Sum) return List.LastOf(Upper);
+        if (List.Text) mTold->Change([](PicturesChecked& Now) { ++Now.Files; });
+        if (!List.Has(Upper) || List.Has(Upper, *Sum)) return ListedSum{File.Path, *Sum};
+        Damaged(Kind::Changed, Album, File, Expected->second);
+        return List.LastOf(Upper);
     }
 
     // Its check sum; nothing when it is empty, cannot be read, or the work is stopped.
     std::optional<QByteArray> Read(const AlbumToCheck& Album, const FileThere& File,
-                                   const QString& What) {
-        const QString Path = Album.Folder + File.Path;
+                                   const Named& Is) {
         ++mTold->Files;
         if (File.Size == 0) {
-            Add({Kind::Empty, Path, What, Album.Name});
+            Damaged(Kind::Empty, Album, File, Is);
             return std::nullopt;
         }
         try {
-            return SumOfFile(Path, [this](qint64 Piece) {
+            return SumOfFile(Album.Folder + File.Path, [this](qint64 Piece) {
                 mTold->Bytes += Piece;
                 return !mState.Stop;
             });
         } catch (const Fault&) {
-            Add({Kind::Unreadable, Path, What, Album.Name});
+            Damaged(Kind::Unreadable, Album, File, Is);
             return std::nullopt;
+        }
+    }
+
+    // A thumbnail is made of its picture again, where that is possible.
+    void Damaged(Kind What, const AlbumToCheck& Album, const FileThere& File, const Named& Is) {
+        const PictureFinding Found{What, Album.Folder + File.Path, Is.What, Album.Name};
+        if (Is.IsThumbnail() && mLists == SumsLists::PutRight)
+            mThumbnails.emplace_back(Found, Is.Picture);
+        else
+            Add(Found);
+    }
+    void MendThumbnails() {
+        for (const auto& [Found, Picture] : std::exchange(mThumbnails, {})) {
+            if (mState.Stop) return;
+            try {
+                StoreAnew(Found.Path, ThumbnailBmp(MakeThumbnail(Picture)));
+                ListStored(Found.Path);
+            } catch (const Fault&) {
+                Add(Found);
+            }
         }
     }
 
     void FindMissing(const AlbumToCheck& Album, const std::set<QString>& There) {
         for (const auto& [Upper, File] : Album.Files)
-            if (!File.MayBeMissing && !There.contains(Upper) &&
+            if (!File.IsThumbnail() && !There.contains(Upper) &&
                 !mWaiting.contains((Album.Folder + Upper).toUpper()))
                 Add({Kind::Missing, Album.Folder + File.Path, File.What, Album.Name});
         for (const auto& [Path, What] : Album.Outside)
@@ -271,6 +306,8 @@ class Checker {
     const SumsLists mLists;
     const std::shared_ptr<Told> mTold;
     const JobState& mState;
+    // Damaged ones of the album at hand, and their pictures.
+    std::vector<std::pair<PictureFinding, QString>> mThumbnails;
     std::set<QString> mWaiting;  // places of a transfer's files that are not there yet
 };
 

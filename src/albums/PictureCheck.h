@@ -39,7 +39,8 @@ enum class SumsLists { PutRight, LeftAlone };
 // Reads on a thread of its own; GoOn is called many times a second on the caller's, also while a
 // slow medium does not answer, and ends the check by answering false: what was found until then
 // counts. The records are those of now. A thumbnail that is missing is no finding: it is made when
-// it is wanted. Throws Fault when a list cannot be written.
+// it is wanted; one that is damaged is made anew with the lists. Throws Fault when a list cannot be
+// written.
 PicturesChecked CheckAllPictures(const clsDBEngine& theDB, SumsLists Lists,
                                  const SumsGoOn& GoOn = {});
 

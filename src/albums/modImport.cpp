@@ -55,15 +55,15 @@ Answer<std::int32_t> EnterPicture(Changes& Door, const clsDBEngine& theDB, std::
     Slide.SlideText = CleanText(Picture.Caption);
     try {
         StoreNew(Folder + FileStem(SlideID) + QStringLiteral(".jpg"), Picture.Jpeg());
+        Slide.SlideLoc = FileStem(SlideID) + QStringLiteral(".JPG");
+        if (!Picture.Thumbnail.isNull())
+            StoreNew(Folder + ThumbnailName(SlideID), ThumbnailBmp(Picture.Thumbnail));
     } catch (...) {
         static_cast<void>(Door.EnterSlide(AlbumID, Slide));
         throw;
     }
-    Slide.SlideLoc = FileStem(SlideID) + QStringLiteral(".JPG");
     const Answer<Announcement> Saved = Door.EnterSlide(AlbumID, Slide);
     if (!Saved) return Saved.Refusal();
-    if (!Picture.Thumbnail.isNull())
-        StoreAnew(Folder + ThumbnailName(SlideID), ThumbnailBmp(Picture.Thumbnail));
     return SlideID;
 }
 

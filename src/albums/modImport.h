@@ -31,9 +31,8 @@ struct PictureToEnter {
     std::function<QByteArray()> Jpeg;  // gives the stored bytes when they are wanted
     QImage Thumbnail;                  // 72 by 72; a null one writes no thumbnail
 };
-// Enters a picture as one change: its JPEG, then the slide, then its thumbnail, under a number for
-// which no file is there. When the JPEG cannot be had or written, the slide stands without a
-// picture. Gives the slide's number; refused when there is no such album. Throws Fault.
+// Enters a picture as one change: its JPEG, its thumbnail, then the slide, under a number for which
+// no file is there. When the JPEG cannot be had or written, the slide stands without a picture. Gives the slide's number; refused when there is no such album. Throws Fault.
 Answer<std::int32_t> EnterPicture(Changes& Door, const clsDBEngine& theDB, std::int32_t AlbumID,
                                   const PictureToEnter& Picture);
 // Deletes a file; errors are ignored.

@@ -32,7 +32,7 @@ QString NameInList(const QString& Path) {
 }
 
 struct Line {
-    qint64 Place;  // in the text
+    qint64 Place, End;  // in the text, its line feed included
     ListedSum File;
 };
 
@@ -45,10 +45,11 @@ Lines LinesIn(const QByteArray& Text) {
     Lines Found;
     for (qsizetype Place = 0; Place < Text.size();) {
         const qsizetype End = Text.indexOf('\n', Place);
+        const qsizetype Next = End < 0 ? Text.size() : End + 1;
         const QByteArray Each = Text.mid(Place, End < 0 ? -1 : End - Place);
-        if (auto File = ReadSumLine(Each)) Found.Valid.push_back({Place, std::move(*File)});
+        if (auto File = ReadSumLine(Each)) Found.Valid.push_back({Place, Next, std::move(*File)});
         if (Each.startsWith('#')) ++Found.Remarks;
-        Place = End < 0 ? Text.size() : End + 1;
+        Place = Next;
     }
     return Found;
 }
@@ -62,7 +63,8 @@ QByteArray Without(const Lines& All, const Which& Goes) {
     return Text;
 }
 
-// A list of little but remarks is written anew.
+// Lines that go become remarks; at the end of the list they go indeed, and what else stands there
+// and says nothing. A list of little but remarks is written anew.
 void DropLines(const QString& Album, const std::function<Which(const Lines&)>& Choose) {
     const std::lock_guard Lock(ListLock());
     const std::optional<QByteArray> Text = ReadAlbumSums(Album);
@@ -70,11 +72,17 @@ void DropLines(const QString& Album, const std::function<Which(const Lines&)>& C
     const Lines All = LinesIn(*Text);
     const Which Goes = Choose(All);
     std::vector<qint64> Places;
+    qint64 Length = 0;
     for (const Line& Each : All.Valid)
-        if (Goes(Each)) Places.push_back(Each.Place);
+        if (Goes(Each))
+            Places.push_back(Each.Place);
+        else
+            Length = Each.End;
+    std::erase_if(Places, [Length](qint64 Place) { return Place >= Length; });
     if (All.Remarks > FewRemarks && All.Remarks > static_cast<int>(All.Valid.size()))
         return ReplaceFile(AlbumSumsPath(Album), Without(All, Goes));
     MakeRemarks(AlbumSumsPath(Album), Places);
+    if (Length < Text->size()) CutFile(AlbumSumsPath(Album), Length);
 }
 
 // All lines of a file but the last.
@@ -138,8 +146,10 @@ void StoreBeside(const QString& Path, const QByteArray& Bytes, const Put& PutInP
     try {
         WriteFile(Beside, Bytes);
         PutInPlace(Beside);
-    } catch (const Fault&) {
+    } catch (const Fault& Problem) {
         Quietly([&] { DeleteFile(Beside); });
+        // the user knows the file by its own name
+        if (Problem.File() == Beside) throw Fault(Problem.What(), Path, Problem.Number());
         throw;
     }
 }
@@ -184,6 +194,15 @@ void PutStored(const QString& Made, const QString& Path) {
         PutOver(Made, Path, Sum);
     else
         PutNew(Made, Path, Sum);
+}
+
+void ListStored(const QString& Path) {
+    const std::optional<QByteArray> List = ReadAlbumSums(AlbumOf(Path));
+    if (!List) return;
+    const QString Name = NameInList(Path).toUpper();
+    for (const Line& Each : LinesIn(*List).Valid)
+        if (Each.File.Path.toUpper() == Name) return;
+    AddLine(Path, *SumOfFile(Path));
 }
 
 void DropStored(const QStringList& Paths) {

@@ -34,6 +34,8 @@ void StoreNew(const QString& Path, const QByteArray& Bytes);
 void StoreAnew(const QString& Path, const QByteArray& Bytes);
 // The same for what lies ready, whole and flushed, as another file in that folder.
 void PutStored(const QString& Made, const QString& Path);
+// A file that is there already and becomes one of the album: it gets a line if it has none.
+void ListStored(const QString& Path);
 // Deletes files, then their lines; what cannot be deleted stays, and so does its line.
 void DropStored(const QStringList& Paths);
 // The lines of files that are not there any more.

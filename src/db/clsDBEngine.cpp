@@ -3,6 +3,7 @@
 #include "db/clsDBEngine.h"
 
 #include "db/SessionChanges.h"
+#include "db/modAlbumFiles.h"
 #include "db/modLoadRecords.h"
 #include "db/modNameIndex.h"
 #include "db/records/RecordCodec.h"
@@ -22,6 +23,18 @@ bool IsInJournal(const QString& DBPath, const RecordImage& Records) {
                       [](const PackedRecords& One, const PackedRecords& Other) {
                           return One.Bytes() == Other.Bytes();
                       });
+}
+
+// An album's folders may be links to another disk than that of the records, with which they are not
+// flushed. What cannot be flushed there is told when it is read.
+void FlushElsewhere(const QString& DBPath, std::int32_t AlbumID) {
+    for (const QString& Folder :
+         {SlidesFolder(DBPath, AlbumID), SoundTracksFolder(DBPath, AlbumID)})
+        try {
+            if (!IsSameVolume(Folder, DBPath)) SyncVolume(Folder);
+        } catch (const Fault&) {
+            continue;
+        }
 }
 
 constexpr qsizetype MaxAlbumName = 80;
@@ -71,6 +84,7 @@ void clsDBEngine::KeepSession() {
 
 void clsDBEngine::NoteInSession(const Change& What, bool WithFiles) {
     mHasNewFiles = mHasNewFiles || WithFiles;
+    if (WithFiles) FlushElsewhere(mDBPath, What.AlbumID);
     if (mSession) mSession->Add(EntryOf(*this, What), WithFiles);
 }
 

@@ -1,14 +1,20 @@
 // The lists of check sums that albums keep: what stands in them after every store and delete, and
 // what an interruption between two steps leaves.
 #include <gtest/gtest.h>
+#include <QDir>
+#include <QFile>
 #include <QProcess>
+#include <random>
 
 #include "db/AlbumSums.h"
 #include "db/Changes.h"
 #include "db/Fixtures.h"
 #include "db/modAlbumFiles.h"
 #include "db/modClearRecords.h"
+#include "fuzz/SumsFuzzEntry.h"
+#include "harness/MemoryFolder.h"
 #include "support/Fault.h"
+#include "support/files/modHostFilesCopy.h"
 
 namespace neb {
 namespace {
@@ -54,7 +60,7 @@ class AlbumSums : public ::testing::Test {
     }
     ~AlbumSums() override { SetHostWatcher({}); }
 
-    TempFolder Dir;
+    MemoryFolder Dir;
     const QString Album = AlbumFolder(Dir.Path(), 1);
     const QString Slides = SlidesFolder(Dir.Path(), 1), Sounds = SoundTracksFolder(Dir.Path(), 1);
     const QString One = Slides + u"00000001.jpg"_s;
@@ -70,6 +76,7 @@ TEST_F(AlbumSums, AreThoseThatTheHostsOwnToolReads) {
     StoreAnew(One, "three");
     DropStored({Sounds + u"00000001_1.mp3"_s});
     EXPECT_EQ(Line(SumThree, "Slides/00000001.jpg"), Said());
+    EXPECT_TRUE(List().startsWith('#'));
     EXPECT_EQ(std::pair(0, QByteArray("Slides/00000001.jpg: OK\n")), HostTool()) << "with remarks";
     WriteFile(One, "thre3");
     EXPECT_EQ(1, HostTool().first);
@@ -170,6 +177,19 @@ TEST_F(AlbumSums, WhatCannotBeDeletedKeepsItsLine) {
     EXPECT_EQ("", Said());
 }
 
+TEST_F(AlbumSums, WhatGoesAgainLeavesTheListAsItWas) {
+    StoreNew(One, "one");
+    const QByteArray Before = List();
+    const QStringList More = {Slides + u"00000002.jpg"_s, Slides + u"00000003.jpg"_s};
+    for (const QString& Path : More) StoreNew(Path, "two");
+    DropStored({More[0]});
+    EXPECT_EQ(1u, List().count('#')) << "in the middle as a remark";
+    DropStored({More[1]});
+    EXPECT_EQ(Before, List());
+    StoreNew(More[0], "three");
+    EXPECT_EQ(Before + Line(SumThree, "Slides/00000002.jpg"), List());
+}
+
 TEST_F(AlbumSums, TheSameContentIsNotWrittenAgain) {
     StoreNew(One, "one");
     const QByteArray Before = List();
@@ -214,6 +234,30 @@ TEST_F(AlbumSums, AfterATransferAreThoseOfWhatStaysAndWhatCame) {
               SumsAfter(List, {u"slides/2.JPG"_s}, {{u"Slides/3.jpg"_s, SumThree}}));
     EXPECT_EQ(Line(SumTwo, "Slides/2.jpg") + Line(SumThree, "Slides/1.jpg"),
               SumsAfter(List, {}, {{u"Slides/1.jpg"_s, SumThree}}));
+}
+
+// Thousands of lists, each a whole one with some bytes changed, cut out or doubled.
+TEST_F(AlbumSums, DamagedListsAreReadAsFarAsTheyGo) {
+    std::mt19937 Random(4711);
+    const QByteArray Whole = Line(SumOne, "Slides/00000001.jpg") + "# a remark\n" +
+                             SumLine({u"Slides/odd\\na\nme.jpg"_s, SumTwo}) +
+                             Line(SumThree, "SoundTracks/00000001_1.mp3");
+    EXPECT_EQ(3u, SumsIn(Whole).size());
+    for (int Round = 0; Round < 4000; ++Round) {
+        QByteArray Bytes = Whole;
+        for (unsigned Changes = Random() % 6; Changes > 0 && !Bytes.isEmpty(); --Changes) {
+            const qsizetype Place = Random() % static_cast<unsigned>(Bytes.size());
+            const qsizetype Length = Random() % 40;
+            if (Random() % 3 == 0)
+                Bytes.remove(Place, Length);
+            else if (Random() % 2 == 0)
+                Bytes.insert(Place, Bytes.mid(Place, Length));
+            else
+                Bytes[Place] =
+                    static_cast<char>(Random() % 3 ? "\\\n#/. *"[Random() % 7] : Random());
+        }
+        ASSERT_TRUE(fuzz::RunSums(Bytes)) << "round " << Round << ": " << Bytes.toStdString();
+    }
 }
 
 // A database whose album has its files through the program's own ways.
@@ -289,6 +333,19 @@ TEST_F(SumsOfChanges, ASlideIsEnteredUnderItsOwnNumberOnce) {
     ASSERT_TRUE(Door.EnterSlide(AlbumID, Slide));
     EXPECT_EQ(8, Engine->NextSlideID);
     EXPECT_FALSE(Door.EnterSlide(99, Slide));
+}
+
+TEST_F(SumsOfChanges, FilesOnAnotherDiskThanTheRecordsAreFlushedThere) {
+    TempFolder Elsewhere;
+    ASSERT_TRUE(QDir(Slides).removeRecursively());
+    ASSERT_TRUE(QFile::link(Elsewhere.Path().chopped(1), Slides.chopped(1)));
+    if (IsSameVolume(Slides, Dir.Path())) GTEST_SKIP() << "there is one disk alone";
+    QStringList Flushed;
+    SetHostWatcher([&](HostStep Step, const QString& Path, qint64&) {
+        if (Step == HostStep::SyncVolume) Flushed << Path;
+    });
+    ASSERT_TRUE(Door.SaveSlide(AlbumID, {}));
+    EXPECT_EQ(QStringList(Slides), Flushed);
 }
 
 TEST_F(SumsOfChanges, FilesAreFlushedBeforeTheRecordsWhereTheSessionsJournalHasNotDoneIt) {

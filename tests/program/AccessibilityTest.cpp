@@ -17,6 +17,7 @@
 #include "settings/modNEBSlideShow.h"
 #include "windows/albums/frmAlbumDelete.h"
 #include "windows/albums/frmAlbumRename.h"
+#include "windows/albums/frmCheckPictures.h"
 #include "windows/albums/frmGetObjectName.h"
 #include "windows/albums/frmRestore.h"
 #include "windows/compose/frmSlideShowDBM.h"
@@ -100,12 +101,12 @@ class EachWindow : public ::testing::Test {
 // But for the pop-up of a picture, in which there is nothing to press.
 using Windows =
     ::testing::Types<frmAbout, frmAlbumDelete, frmAlbumExport, frmAlbumImport, frmAlbumRename,
-                     frmAlbumView, frmDirSelect, frmDiscFolder, frmFindGraphics, frmGetObjectName,
-                     frmInputBox, frmPrintAlbum, frmPrintPreview, frmPrintSheet, frmPrintSlide,
-                     frmPrintSlideShow, frmHelp, frmImportFilter, frmLoading, frmMsgBoxEx,
-                     frmNewAlbumWzd1, frmPreferences, frmQuickShow, frmRestore, frmSlideDBM,
-                     frmSlideMgrBulk, frmSlideShowDBM, frmSlideShowExport, frmSlideShowImport,
-                     frmSlideShowView, frmSoundRecorder, frmTransferProgress>;
+                     frmAlbumView, frmCheckPictures, frmDirSelect, frmDiscFolder, frmFindGraphics,
+                     frmGetObjectName, frmInputBox, frmPrintAlbum, frmPrintPreview, frmPrintSheet,
+                     frmPrintSlide, frmPrintSlideShow, frmHelp, frmImportFilter, frmLoading,
+                     frmMsgBoxEx, frmNewAlbumWzd1, frmPreferences, frmQuickShow, frmRestore,
+                     frmSlideDBM, frmSlideMgrBulk, frmSlideShowDBM, frmSlideShowExport,
+                     frmSlideShowImport, frmSlideShowView, frmSoundRecorder, frmTransferProgress>;
 TYPED_TEST_SUITE(EachWindow, Windows);
 
 TYPED_TEST(EachWindow, HasNamesToolTipsAndReachableControls) {

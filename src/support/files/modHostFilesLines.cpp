@@ -47,4 +47,11 @@ void MakeRemarks(const QString& Path, const std::vector<qint64>& Places) {
     for (const qint64 Place : Places) WriteAt(File, Place, "#", Path);
 }
 
+void CutFile(const QString& Path, qint64 Length) {
+    QFile File(ResolvePath(Path));
+    Open(File, Path);
+    AllowedToWrite(Path, 0);
+    if (!File.resize(Length)) FailWrite(File, Path);
+}
+
 }  // namespace neb

@@ -15,5 +15,7 @@ void AppendLines(const QString& Path, const QByteArray& Lines);
 // Makes remarks of the lines that begin at these places, by a "#" in the place of their first
 // character. Not flushed. Throws Fault.
 void MakeRemarks(const QString& Path, const std::vector<qint64>& Places);
+// Leaves only the beginning of a file. Not flushed. Throws Fault.
+void CutFile(const QString& Path, qint64 Length);
 
 }  // namespace neb
