@@ -1,5 +1,7 @@
 #include "albums/AlbumRemoval.h"
 
+#include "albums/modImport.h"
+#include "db/AlbumSums.h"
 #include "db/modAlbumFiles.h"
 #include "support/files/modHostFiles.h"
 #include "support/work/Job.h"
@@ -26,6 +28,8 @@ void DeleteAlbumFiles(const QString& DBPath, std::int32_t AlbumID, const Yield& 
             DeleteFilesIn(Folder, LetRun);
             DropFolder(Folder, LetRun);
         }
+        DropFile(AlbumSumsPath(Album));
+        DropFile(AlbumSumsPath(Album) + QStringLiteral(".new"));
     }
     DeleteFolder(Album);
 }

@@ -1,10 +1,12 @@
 #include "albums/SlideSave.h"
 
 #include "albums/modImport.h"
+#include "db/AlbumSums.h"
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
+#include "support/modFUFL.h"
 
 namespace neb {
 namespace {
@@ -40,9 +42,24 @@ void StorePicture(const clsDBEngine& theDB, std::int32_t AlbumID,
     if (!Jpeg) return;
     const QString Folder = SlidesFolder(theDB.DBPath(), AlbumID);
     const QString Name = FileStem(Record.SlideID) + QStringLiteral(".jpg");
-    ReplaceFile(Folder + Name, Jpeg());
-    DropFile(Folder + ThumbnailName(Record.SlideID));
+    StoreAnew(Folder + Name, Jpeg());
+    DropStored({Folder + ThumbnailName(Record.SlideID)});
     Record.SlideLoc = Name.toUpper();
+}
+
+// The slide's own files that it named before and names no more: those that came by a transfer have
+// the endings that they had.
+QStringList NoLongerNamed(const QString& Folder, const clsNEBSlide& Before,
+                          const clsNEBSlide& Now) {
+    const auto IsNamed = [&Now](const QString& Loc) {
+        return Loc.compare(Now.SlideLoc, Qt::CaseInsensitive) == 0 ||
+               Loc.compare(Now.SoundTrackLoc, Qt::CaseInsensitive) == 0;
+    };
+    QStringList Paths;
+    for (const QString& Loc : {Before.SlideLoc, Before.SoundTrackLoc})
+        if (!HoldsSeparator(Loc) && Loc.startsWith(FileStem(Now.SlideID) + u'.') && !IsNamed(Loc))
+            Paths << Folder + Loc;
+    return Paths;
 }
 
 // A new slide enters the album with its caption alone: its files are named after its number.
@@ -105,12 +122,15 @@ Answer<Announcement> SaveSlide(clsDBEngine& theDB, const QObject* Asker, SlideIn
     if (!Entered) return Entered.Refusal();
     const clsNEBSlide* Stored = Album->GetSlide(InHand.SlideID());
     if (!Stored) return Refuse(QStringLiteral("Could not find the slide."));
+    const clsNEBSlide Before = *Stored;
     const bool DropsSound = InHand.SoundState() == SlideInHand::Sound::Cleared;
-    const clsNEBSlide Record = WithFiles(theDB, Door, InHand, Jpeg, *Stored);
+    const clsNEBSlide Record = WithFiles(theDB, Door, InHand, Jpeg, Before);
     InHand.Take(InHand.AlbumID(), Record);
     Answer<Announcement> Saved = Door.SaveSlide(InHand.AlbumID(), Record);
-    if (DropsSound && Saved && theDB.IsSessionStored())
-        DropFile(SoundFile(theDB, InHand.AlbumID(), Record.SlideID));
+    QStringList Unnamed =
+        NoLongerNamed(SlidesFolder(theDB.DBPath(), InHand.AlbumID()), Before, Record);
+    if (DropsSound) Unnamed << SoundFile(theDB, InHand.AlbumID(), Record.SlideID);
+    if (Saved && !Unnamed.isEmpty() && theDB.IsSessionStored()) DropStored(Unnamed);
     return Saved;
 }
 
@@ -126,7 +146,7 @@ Answer<Announcement> DeleteSlide(clsDBEngine& theDB, const QObject* Asker, std::
 void StoreSound(const clsDBEngine& theDB, const SlideInHand& InHand, clsNEBSlide& Record) {
     if (InHand.SoundState() == SlideInHand::Sound::Cleared) return ClearSound(Record);
     if (InHand.SoundState() == SlideInHand::Sound::Recorded) {
-        ReplaceFile(SoundFile(theDB, InHand.AlbumID(), Record.SlideID), InHand.Recording());
+        StoreAnew(SoundFile(theDB, InHand.AlbumID(), Record.SlideID), InHand.Recording());
         Record.SoundTrackLoc = SoundName(Record.SlideID);
     } else if (!InHand.HasSound()) {
         return;

@@ -1,5 +1,6 @@
 #include "albums/modImport.h"
 
+#include "db/AlbumSums.h"
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
 #include "pictures/ImgX.h"
@@ -11,7 +12,10 @@
 namespace neb {
 
 void MakeAlbumFolders(const clsDBEngine& theDB, std::int32_t AlbumID) {
-    MakeDirs(AlbumFolder(theDB.DBPath(), AlbumID));
+    const QString Album = AlbumFolder(theDB.DBPath(), AlbumID);
+    const bool IsNew = !NameExists(Album);
+    MakeDirs(Album);
+    if (IsNew) BeginAlbumSums(Album);
     MakeDirs(SoundTracksFolder(theDB.DBPath(), AlbumID));
     MakeDirs(SlidesFolder(theDB.DBPath(), AlbumID));
 }
@@ -34,15 +38,6 @@ void DropAlbum(clsDBEngine& theDB, std::int32_t AlbumID) {
     if (theDB.IsSessionStored()) DeleteTree(AlbumFolder(theDB.DBPath(), AlbumID));
 }
 
-void StoreFile(const QString& Path, const QByteArray& Bytes) {
-    try {
-        WriteFile(Path, Bytes);
-    } catch (...) {
-        DropFile(Path);
-        throw;
-    }
-}
-
 void DropFile(const QString& Path) {
     try {
         DeleteFile(Path);
@@ -54,21 +49,22 @@ void DropFile(const QString& Path) {
 Answer<std::int32_t> EnterPicture(Changes& Door, const clsDBEngine& theDB, std::int32_t AlbumID,
                                   const PictureToEnter& Picture) {
     if (!theDB.GetAlbum(AlbumID)) return Refuse(QStringLiteral("The Album was not found."));
-    const std::int32_t SlideID = theDB.NextSlideID;  // which the new slide will have
+    const std::int32_t SlideID = Door.FreeSlideID(AlbumID);
     const QString Folder = SlidesFolder(theDB.DBPath(), AlbumID);
     clsNEBSlide Slide;
+    Slide.SlideID = SlideID;
     Slide.SlideText = CleanText(Picture.Caption);
     const QString Jpeg = Folder + FileStem(SlideID) + QStringLiteral(".jpg");
-    StoreFile(Jpeg, Picture.Jpeg());
+    StoreNew(Jpeg, Picture.Jpeg());
+    Slide.SlideLoc = FileStem(SlideID) + QStringLiteral(".JPG");
     try {
         if (!Picture.Thumbnail.isNull())
-            StoreFile(Folder + ThumbnailName(SlideID), ThumbnailBmp(Picture.Thumbnail));
+            StoreNew(Folder + ThumbnailName(SlideID), ThumbnailBmp(Picture.Thumbnail));
     } catch (...) {
-        DropFile(Jpeg);
+        DropStored({Jpeg});
         throw;
     }
-    Slide.SlideLoc = FileStem(SlideID) + QStringLiteral(".JPG");
-    const Answer<Announcement> Saved = Door.SaveSlide(AlbumID, Slide);
+    const Answer<Announcement> Saved = Door.EnterSlide(AlbumID, Slide);
     if (!Saved) return Saved.Refusal();
     return SlideID;
 }

@@ -16,7 +16,8 @@ namespace neb {
 
 class clsDBEngine;
 
-// Makes the folder of an album with its two folders; throws Fault.
+// Makes the folder of an album with its two folders, and for a new one the list of its check sums;
+// throws Fault.
 void MakeAlbumFolders(const clsDBEngine& theDB, std::int32_t AlbumID);
 // Makes an album of theDB, for which Door is, with its folders. Refused as the engine refuses it.
 // Throws Fault when a folder cannot be made: the album is then gone again and nobody is told.
@@ -30,13 +31,11 @@ struct PictureToEnter {
     std::function<QByteArray()> Jpeg;  // gives the stored bytes when they are wanted
     QImage Thumbnail;                  // 72 by 72; a null one writes no thumbnail
 };
-// Enters a picture as one change: its JPEG and its thumbnail, then the slide. When one of them
-// cannot be had or written, nothing has been entered. Gives the slide's number; refused when there
-// is no such album. Throws Fault.
+// Enters a picture as one change: its JPEG and its thumbnail, then the slide, under a number for
+// which no file is there. When one of them cannot be had or written, nothing has been entered.
+// Gives the slide's number; refused when there is no such album. Throws Fault.
 Answer<std::int32_t> EnterPicture(Changes& Door, const clsDBEngine& theDB, std::int32_t AlbumID,
                                   const PictureToEnter& Picture);
-// Writes a picture's file as a whole: where that cannot be done (Fault) no part of it stays.
-void StoreFile(const QString& Path, const QByteArray& Bytes);
 // Deletes a file; errors are ignored.
 void DropFile(const QString& Path);
 

@@ -1,12 +1,18 @@
 #include "db/Changes.h"
 
 #include "db/clsDBEngine.h"
+#include "db/modAlbumFiles.h"
 
 namespace neb {
 namespace {
 
 const char* const NoAlbum = "The Album was not found.";
 const char* const NoSlide = "Slide could not be found.";
+
+bool HasSlide(const clsDBEngine& theDB, std::int32_t SlideID) {
+    return std::ranges::any_of(
+        theDB.Albums, [&](const auto& Album) { return Album->GetSlide(SlideID) != nullptr; });
+}
 
 BoxRequest Missing(const char* Text) {
     return Refuse(QString::fromLatin1(Text));
@@ -80,8 +86,14 @@ Announcement Changes::AsOne(Change::Kind What, std::int32_t AlbumID) {
 
 Answer<Announcement> Changes::MakeAlbum(const QString& AlbumName) {
     std::int32_t AlbumID = 0;
+    // A folder with pictures belongs to an album whose record has been lost, and to no new one.
+    const std::int32_t Free = FreeAlbumID(mDB.DBPath(), mDB.NextAlbumID);
+    const std::int32_t Next = std::exchange(mDB.NextAlbumID, Free);
     const Answer<> Saved = mDB.SaveAlbum(AlbumID, AlbumName);
-    if (!Saved) return Saved.Refusal();
+    if (!Saved) {
+        mDB.NextAlbumID = Next;
+        return Saved.Refusal();
+    }
     return Noted({Change::Kind::AlbumMade, AlbumID});
 }
 
@@ -97,10 +109,25 @@ Answer<Announcement> Changes::DeleteAlbum(std::int32_t AlbumID) {
     return Noted({Change::Kind::AlbumDeleted, AlbumID}, With::Nothing);
 }
 
+std::int32_t Changes::FreeSlideID(std::int32_t AlbumID) const {
+    return neb::FreeSlideID(mDB.DBPath(), AlbumID, mDB.NextSlideID);
+}
+
+Answer<Announcement> Changes::EnterSlide(std::int32_t AlbumID, const clsNEBSlide& Slide) {
+    clsNEBAlbum* Album = mDB.GetAlbum(AlbumID);
+    if (!Album) return Missing(NoAlbum);
+    if (Slide.SlideID < mDB.NextSlideID && HasSlide(mDB, Slide.SlideID))
+        return Refuse(QStringLiteral("There is a slide of the number %1.").arg(Slide.SlideID));
+    Album->Slides.push_back(std::make_unique<clsNEBSlide>(Slide));
+    mDB.NextSlideID = std::max(mDB.NextSlideID, Slide.SlideID + 1);
+    return Noted({Change::Kind::SlideSaved, AlbumID, Slide.SlideID});
+}
+
 Answer<Announcement> Changes::SaveSlide(std::int32_t AlbumID, const clsNEBSlide& Slide) {
     clsNEBAlbum* Album = mDB.GetAlbum(AlbumID);
     if (!Album) return Missing(NoAlbum);
     std::int32_t SlideID = Slide.SlideID;
+    if (!Album->GetSlide(SlideID)) mDB.NextSlideID = FreeSlideID(AlbumID);
     Album->SaveSlide(SlideID, Slide.SlideText, Slide.SlideLoc, Slide.SoundTrackLoc, Slide.Override,
                      Slide.Repeat, mDB);
     return Noted({Change::Kind::SlideSaved, AlbumID, SlideID});

@@ -60,6 +60,12 @@ class Changes {
     // The records; the album's files are for the caller to remove, before or after.
     Answer<Announcement> DeleteAlbum(std::int32_t AlbumID);
 
+    // The next number for a slide of the album: one for which no picture, thumbnail or sound lies
+    // in its folder, whoever has put it there.
+    std::int32_t FreeSlideID(std::int32_t AlbumID) const;
+    // A new slide under its own number, which no slide has: FreeSlideID, or that of files that are
+    // there. Refused where one has it.
+    Answer<Announcement> EnterSlide(std::int32_t AlbumID, const clsNEBSlide& Slide);
     // All fields of one slide. SlideID 0, or one that the album does not have: a new slide, whose
     // number is in What() afterwards.
     Answer<Announcement> SaveSlide(std::int32_t AlbumID, const clsNEBSlide& Slide);

@@ -2,6 +2,7 @@
 
 #include <QtEndian>
 
+#include "db/AlbumSums.h"
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
 #include "db/modLoadRecords.h"
@@ -95,13 +96,21 @@ void Put(clsDBEngine& Engine, const Change& What, std::unique_ptr<clsNEBAlbum> R
 // As far as its files are the program's: what else lies there stays, with its folder.
 void DeleteAlbumFolder(const QString& DBPath, std::int32_t AlbumID) {
     const QString Folder = AlbumFolder(DBPath, AlbumID);
-    if (!IsLink(Folder))
-        for (const QString& Part :
-             {SoundTracksFolder(DBPath, AlbumID), SlidesFolder(DBPath, AlbumID)}) {
-            DeleteFilesIn(Part);
-            DeleteFolder(Part);
-        }
+    if (IsLink(Folder)) return DeleteFolder(Folder);
+    for (const QString& Part :
+         {SoundTracksFolder(DBPath, AlbumID), SlidesFolder(DBPath, AlbumID)}) {
+        DeleteFilesIn(Part);
+        DeleteFolder(Part);
+    }
+    DeleteFile(AlbumSumsPath(Folder));
     DeleteFolder(Folder);
+}
+
+// A show of which no more is known than its number.
+clsNEBSlideShow ShowOfNumber(std::int32_t SlideShowID) {
+    clsNEBSlideShow Show;
+    Show.SlideShowID = SlideShowID;
+    return Show;
 }
 
 // By what is there after all of it: what was deleted and has come back has its files.
@@ -113,7 +122,7 @@ void DeleteFilesOf(const clsDBEngine& Engine, const Change& What) {
     if (Is(Change::Kind::SlideDeleted) && Album && !Album->GetSlide(What.SlideID))
         Album->DeleteSlideFiles(What.SlideID, Engine);
     if (Is(Change::Kind::ShowDeleted) && Album && !Album->GetSlideShow(What.SlideShowID))
-        Album->DeleteSlideShowFiles(What.SlideShowID, Engine);
+        Album->DeleteSlideShowFiles(ShowOfNumber(What.SlideShowID), Engine);
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include "db/clsDBEngine.h"
 
 #include "db/SessionChanges.h"
+#include "db/modAlbumFiles.h"
 #include "db/modLoadRecords.h"
 #include "db/modNameIndex.h"
 #include "db/records/RecordCodec.h"
@@ -25,8 +26,19 @@ bool IsInJournal(const QString& DBPath, const RecordImage& Records) {
                       });
 }
 
+// An album's folders may be links to another disk than that of the records, with which they are not
+// flushed. What cannot be flushed there is told when it is read.
+void FlushElsewhere(const QString& DBPath, std::int32_t AlbumID) {
+    for (const QString& Folder :
+         {SlidesFolder(DBPath, AlbumID), SoundTracksFolder(DBPath, AlbumID)})
+        try {
+            if (!IsSameVolume(Folder, DBPath)) SyncVolume(Folder);
+        } catch (const Fault&) {
+            continue;
+        }
+}
+
 constexpr qsizetype MaxAlbumName = 80;
-constexpr std::int32_t MostNumbers = 2'000'000'000;  // behind it they would go round
 
 // The counter goes round at its end rather than stop the program.
 std::int32_t Draw(std::int32_t& Counter) {
@@ -83,6 +95,8 @@ void clsDBEngine::KeepSession() {
 }
 
 void clsDBEngine::NoteInSession(const Change& What, bool WithFiles) {
+    mHasNewFiles = mHasNewFiles || WithFiles;
+    if (WithFiles) FlushElsewhere(mDBPath, What.AlbumID);
     if (mSession) mSession->Add(EntryOf(*this, What), WithFiles);
 }
 
@@ -128,12 +142,18 @@ void clsDBEngine::LoadFrom(const RecordSource& Source) {
 }
 
 std::optional<Fault> clsDBEngine::FinalizeDB() {
+    // The session's journal has flushed the files with what it has stored.
+    const bool AreFlushed = mSession && IsSessionStored();
     const SessionPause Pause(mSession.get());
     if (mIsStored && !HasRecords(mDBPath))
         throw Fault(QStringLiteral("The database is not there any more."), mDBPath);
-    if (mSession || mLeft) SyncIfPossible(mDBPath);
+    if (mHasNewFiles && !AreFlushed)
+        SyncVolume(mDBPath);
+    else if (mSession || mLeft)
+        SyncIfPossible(mDBPath);
     std::optional<Fault> NotKept = WriteDatabase(mDBPath, BuildImage(*this));
     mIsStored = true;
+    mHasNewFiles = false;
     if (mSession) mSession->Restart();
     return NotKept;
 }

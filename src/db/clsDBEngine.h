@@ -145,6 +145,7 @@ class clsDBEngine {
     bool mIsStored = false;           // there are records of it on the disk
     std::optional<SessionEnd> mLeft;  // where the journal of the session before goes on
     std::unique_ptr<SessionJournal> mSession;
+    bool mHasNewFiles = false;  // that records name, since all was written
 };
 
 }  // namespace neb

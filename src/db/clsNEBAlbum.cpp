@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <set>
 
+#include "db/AlbumSums.h"
 #include "db/NamedSounds.h"
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
@@ -22,20 +23,11 @@ std::int32_t IdInRow(const std::vector<NameIndexEntry>& Index, std::int32_t Row)
     return Index[static_cast<size_t>(Row) - 1].ID;
 }
 
-void DropQuietly(const QString& File) {
-    try {
-        DeleteFile(File);
-    } catch (const Fault&) {
-        // one in use stays, and does no harm
-    }
-}
-
-void DeleteQuietly(const QString& Mask) {
-    try {
-        DeleteMask(Mask);
-    } catch (const Fault&) {
-        // A file in use must not keep the slide in the album.
-    }
+// Full paths; what cannot be listed has none.
+QStringList FilesLike(const QString& Folder, const QString& Mask) {
+    QStringList Paths;
+    for (const QString& Name : ListMask(Folder + Mask)) Paths << Folder + Name;
+    return Paths;
 }
 
 }  // namespace
@@ -129,9 +121,9 @@ bool clsNEBAlbum::TakeSlide(std::int32_t SlideID) {
 }
 
 void clsNEBAlbum::DeleteSlideFiles(std::int32_t SlideID, const clsDBEngine& theDB) const {
-    const QString Stem = SlidesFolder(theDB.DBPath(), AlbumID) + FileStem(SlideID);
-    DeleteQuietly(Stem + QStringLiteral(".*"));
-    DeleteQuietly(Stem + QStringLiteral("Small.*"));
+    const QString Folder = SlidesFolder(theDB.DBPath(), AlbumID), Stem = FileStem(SlideID);
+    DropStored(FilesLike(Folder, Stem + QStringLiteral(".*")) +
+               FilesLike(Folder, Stem + QStringLiteral("Small.*")));
 }
 
 bool clsNEBAlbum::DeleteSlide(std::int32_t SlideID, const clsDBEngine& theDB) {
@@ -158,8 +150,10 @@ void clsNEBAlbum::DeleteSlideShowFiles(const clsNEBSlideShow& Gone,
     QStringList Names = ListMask(Folder + FileStem(Gone.SlideShowID) + QStringLiteral("*.*"));
     for (const auto& Track : Gone.SoundTracks)
         if (!HoldsSeparator(Track->SoundTrackLoc)) Names.append(Track->SoundTrackLoc.trimmed());
+    QStringList Paths;
     for (const QString& Name : Names)
-        if (!Name.isEmpty() && !Wanted.contains(Name.toUpper())) DropQuietly(Folder + Name);
+        if (!Name.isEmpty() && !Wanted.contains(Name.toUpper())) Paths << Folder + Name;
+    DropStored(Paths);
 }
 
 // The show goes before its sounds: never a show without them.

@@ -43,6 +43,10 @@ std::int32_t HighestIn(const QString& Folder, std::initializer_list<QStringView>
     return Highest;
 }
 
+bool HasFiles(const QString& Folder) {
+    return !ListDir(Folder).empty();
+}
+
 }  // namespace
 
 QString AlbumFolder(const QString& DBPath, std::int32_t AlbumID) {
@@ -63,6 +67,39 @@ QString FileStem(std::int32_t ID) {
 
 QString SlidePath(const QString& DBPath, std::int32_t AlbumID, const QString& SlideLoc) {
     return HoldsSeparator(SlideLoc) ? SlideLoc : SlidesFolder(DBPath, AlbumID) + SlideLoc;
+}
+
+std::set<std::int32_t> NumbersIn(const QString& Folder) {
+    std::set<std::int32_t> Numbers;
+    for (const DirEntry& Entry : ListDir(Folder)) {
+        const qsizetype Digits = CountDigits(Entry.Name);
+        const std::int32_t Number = NumberOf(QStringView(Entry.Name).first(Digits));
+        if (Digits >= LeastStem && Number > 0) Numbers.insert(Number);
+    }
+    return Numbers;
+}
+
+std::int32_t FreeAlbumID(const QString& DBPath, std::int32_t From) {
+    while (HasFiles(SlidesFolder(DBPath, From)) || HasFiles(SoundTracksFolder(DBPath, From)))
+        ++From;
+    return From;
+}
+
+std::int32_t FreeSlideID(const QString& DBPath, std::int32_t AlbumID, std::int32_t From) {
+    const QString Folder = SlidesFolder(DBPath, AlbumID);
+    const auto IsTaken = [&Folder](const QString& Stem) {
+        return NameExists(Folder + Stem + QStringLiteral(".jpg")) ||
+               NameExists(Folder + Stem + QStringLiteral(".wav")) ||
+               NameExists(Folder + Stem + QStringLiteral("Small.bmp"));
+    };
+    while (IsTaken(FileStem(From))) ++From;
+    return From;
+}
+
+std::int32_t FreeSlideShowID(const QString& DBPath, std::int32_t AlbumID, std::int32_t From) {
+    const std::set<std::int32_t> Taken = NumbersIn(SoundTracksFolder(DBPath, AlbumID));
+    while (Taken.contains(From)) ++From;
+    return From;
 }
 
 QString ThumbnailName(std::int32_t SlideID) {

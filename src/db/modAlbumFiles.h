@@ -4,6 +4,7 @@
 
 #include <QString>
 #include <cstdint>
+#include <set>
 
 #include "db/records/RecordSurvey.h"
 
@@ -17,6 +18,14 @@ QString SoundTracksFolder(const QString& DBPath, std::int32_t AlbumID);
 QString FileStem(std::int32_t ID);
 // Where a slide's picture lies: SlideLoc as a record has it, a name in the album or a full path.
 QString SlidePath(const QString& DBPath, std::int32_t AlbumID, const QString& SlideLoc);
+// The numbers with which the names of a folder's files begin, of eight digits or more. What lies
+// there without a record keeps its number: nothing new is stored under it, or deleted with it.
+std::set<std::int32_t> NumbersIn(const QString& Folder);
+// The first number from From on that nothing there bears: an album of which no folder holds files,
+// a slide without picture, thumbnail or sound, a show without sounds.
+std::int32_t FreeAlbumID(const QString& DBPath, std::int32_t From);
+std::int32_t FreeSlideID(const QString& DBPath, std::int32_t AlbumID, std::int32_t From);
+std::int32_t FreeSlideShowID(const QString& DBPath, std::int32_t AlbumID, std::int32_t From);
 // The thumbnail of a slide: the stem and "Small.bmp".
 QString ThumbnailName(std::int32_t SlideID);
 

@@ -3,6 +3,7 @@
 #include <set>
 #include <unordered_set>
 
+#include "db/AlbumSums.h"
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
 #include "support/Fault.h"
@@ -41,6 +42,18 @@ QStringList OwnSounds(const clsNEBAlbum& Album, const clsNEBSlideShow& Show) {
     const std::set<QString> Wanted = SoundsOfOthers(Album, Show.SlideShowID);
     Sounds.removeIf([&](const QString& Sound) { return Wanted.contains(Sound.toUpper()); });
     return Sounds;
+}
+
+// Goes on past failures, then throws the first.
+void DeleteListed(const QStringList& Files) {
+    std::optional<Fault> First;
+    for (const QString& File : Files) try {
+            DeleteFile(File);
+        } catch (const Fault& Problem) {
+            if (!First) First = Problem;
+        }
+    ForgetStored(Files);
+    if (First) throw *First;
 }
 
 // Runs the work; a fault becomes a refusal.
@@ -103,8 +116,7 @@ Answer<> ClearAlbumContents(const clsDBEngine& theDB, clsNEBAlbum& theAlbum) {
                 [&] {
                     const Clearing All = ClearingOf(theDB, theAlbum);
                     theAlbum.ClearContents();
-                    for (const QString& Each : All.Folders)
-                        DeleteMask(Each + QStringLiteral("*.*"));
+                    DeleteListed(FilesOf(All));
                     return Answer<>(Done());
                 });
 }
@@ -117,7 +129,7 @@ Answer<> ClearSlideShowContents(const clsDBEngine& theDB, clsNEBAlbum& theAlbum,
                     theSlideShow.ClearContents();
                     Answer<> Emptied = DeleteOrphans(theAlbum, Own.Slides, theDB);
                     if (!Emptied) return Emptied;
-                    for (const QString& File : FilesOf(Own)) DeleteFile(File);
+                    DeleteListed(FilesOf(Own));
                     return Emptied;
                 });
 }

@@ -15,6 +15,7 @@
 #include "show/ShowSettings.h"
 #include "support/Fault.h"
 #include "support/Services.h"
+#include "windows/albums/frmCheckPictures.h"
 #include "windows/albums/frmRestore.h"
 #include "windows/albums/modAlbumNames.h"
 #include "windows/disc/frmDiscFolder.h"
@@ -98,6 +99,9 @@ constexpr Entry Entries[] = {
     {"mnuFileHdr", "mnuRestore", "Restore &Earlier Albums...", "", "",
      "Go back to all albums and slide shows as they were saved before",
      [](auto&) { NewForm<frmRestore>()->ShowModal(); }},
+    {"mnuFileHdr", "mnuCheckPictures", "&Check All Pictures...", "", "find-graphics",
+     "Read all pictures and sounds and name those that have changed or are missing",
+     [](auto&) { NewForm<frmCheckPictures>()->ShowModal(); }},
     {"mnuFileHdr", "", "", "", "", "", nullptr},
     {"mnuFileHdr", "mnuExit", "E&xit", "Ctrl+Q", "exit", "Save everything and end the program",
      [](frmNEBSlideShow& Main) { Main.close(); }},

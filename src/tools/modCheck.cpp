@@ -1,5 +1,6 @@
 #include "tools/modCheck.h"
 
+#include "db/modDatabaseLock.h"
 #include "db/records/modJournal.h"
 #include "support/files/CheckSums.h"
 #include "support/files/modHostFiles.h"
@@ -8,6 +9,7 @@
 #include "tools/modCheckRecords.h"
 #include "tools/modCheckSums.h"
 #include "tools/modCommands.h"
+#include "tools/words/modWords.h"
 
 namespace neb {
 namespace {
@@ -32,10 +34,28 @@ bool HasRecordFiles(const RecordSource& Source) {
                        [&](RecordFile File) { return Source(File).has_value(); });
 }
 
-void CheckDatabase(const QString& Dir, Findings& Found, ToolIO& IO) {
-    ProgressLine Progress(IO, "Checking");
-    const RecordSource Source = CheckJournal(Dir, Found);
-    if (HasRecordFiles(Source)) CheckRecords(Source, Found);
+// As the next start will have them, changes that a session left behind included.
+clsDBEngine OpenAsLeft(const QString& Dir, Findings& Found) {
+    clsDBEngine Engine;
+    Engine.SetDBPath(Dir);
+    Engine.InitializeDB(Recovery::InMemory);
+    if (Engine.Found().Changes > 0 && InstanceLock(DatabaseLockPath(Dir)).TryLock())
+        Found.Add(QStringLiteral("%1 of a session did not come to its end; the next start of the "
+                                 "program will bring them back")
+                      .arg(Counted(Engine.Found().Changes, "change")));
+    return Engine;
+}
+
+// The list of a disc lies at the top of what was written to it: that may be the documents folder
+// above the database. It has all files, those of the albums' own lists too.
+void CompareFiles(const QString& Named, const clsDBEngine& Engine, Findings& Found, ToolIO& IO) {
+    for (const QString& Top : {WithSeparator(Named), Engine.DBPath()})
+        if (FileExists(Top + QLatin1String(SumsName))) return CompareWithSums(Top, Found, IO);
+    CheckStoredFiles(Engine, Found, IO);
+}
+
+void CheckFiles(const QString& Named, const QString& Dir, bool ReadAll, Findings& Found,
+                ToolIO& IO) {
     // Pictures that still wait in Temp would all be called missing.
     if (!CommittedPlaces(Dir).empty())
         return Found.Add(
@@ -45,17 +65,12 @@ void CheckDatabase(const QString& Dir, Findings& Found, ToolIO& IO) {
         Found.Add(
             QStringLiteral("a transfer was cut off; the next start of the program will remove "
                            "what it has left in Temp"));
-    clsDBEngine Engine;
-    Engine.SetDBPath(Dir);
-    Engine.LoadFrom(Source);
-    CheckAlbumFiles(Engine, Found, Progress);
-}
-
-// The list lies at the top of what was written to a disc: that may be the documents folder above
-// the database.
-QString FolderOfSums(const QString& Named, const QString& Dir) {
-    const QString Top = WithSeparator(Named);
-    return FileExists(Top + QLatin1String(SumsName)) ? Top : Dir;
+    const clsDBEngine Engine = OpenAsLeft(Dir, Found);
+    {
+        ProgressLine Progress(IO, "Checking");
+        CheckAlbumFiles(Engine, Found, Progress);
+    }
+    if (ReadAll) CompareFiles(Named, Engine, Found, IO);
 }
 
 }  // namespace
@@ -66,8 +81,11 @@ int RunCheck(const QStringList& Arguments, ToolIO& IO) {
     const std::optional<QString> Dir = OneDirectory(Words, IO);
     if (!Dir) return ExitFailed;
     Findings Found(IO);
-    CheckDatabase(*Dir, Found, IO);
-    if (WithFiles) CompareWithSums(FolderOfSums(Words[0], *Dir), Found, IO);
+    {
+        const RecordSource Source = CheckJournal(*Dir, Found);
+        if (HasRecordFiles(Source)) CheckRecords(Source, Found);
+    }
+    CheckFiles(Words[0], *Dir, WithFiles, Found, IO);
     return Found.Count() == 0 ? ExitDone : ExitFound;
 }
 

@@ -3,6 +3,7 @@
 #include <set>
 
 #include "db/modAlbumFiles.h"
+#include "support/files/CheckSums.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
 
@@ -25,15 +26,20 @@ class CheckedFolder {
         const bool There = HoldsSeparator(Loc) ? FileExists(Loc) : mUpper.contains(Loc.toUpper());
         if (!There) mFound.Add(QStringLiteral("%1 is missing: %2").arg(What, FullPath(Loc)));
     }
+    // What may be there and need not. What a store that was cut short has left is nobody's.
+    void Allow(const QString& Name) { mNamed.insert(Name.toUpper()); }
     void ReportStrays() const {
         for (const QString& Name : mFiles)
-            if (!mNamed.contains(Name.toUpper()))
+            if (!mNamed.contains(Name.toUpper()) && !IsInTheMaking(Name))
                 mFound.Add(QStringLiteral("no record names the file %1").arg(mPath + Name));
         for (const QString& Name : mFolders)
             mFound.Add(QStringLiteral("no record names the folder %1").arg(mPath + Name));
     }
 
   private:
+    static bool IsInTheMaking(const QString& Name) {
+        return Name.endsWith(QStringLiteral(".new"), Qt::CaseInsensitive);
+    }
     QString FullPath(const QString& Loc) const { return HoldsSeparator(Loc) ? Loc : mPath + Loc; }
 
     QString mPath;
@@ -48,9 +54,10 @@ void CheckSlide(const clsNEBSlide& Slide, const QString& Where, CheckedFolder& F
         Found.Add(
             QStringLiteral("no picture is named by slide %1%2").arg(Slide.SlideID).arg(Where));
     Folder.ExpectFile(Slide.SlideLoc, QStringLiteral("the picture") + What);
-    // A picture that was not yet taken into the album has no thumbnail.
+    // A picture that was not yet taken into the album need have no thumbnail.
     if (!Slide.SlideLoc.isEmpty() && !HoldsSeparator(Slide.SlideLoc))
         Folder.ExpectFile(ThumbnailName(Slide.SlideID), QStringLiteral("the thumbnail") + What);
+    Folder.Allow(ThumbnailName(Slide.SlideID));
     Folder.ExpectFile(Slide.SoundTrackLoc, QStringLiteral("the sound") + What);
 }
 
@@ -73,10 +80,17 @@ void CheckSounds(const QString& DBPath, const clsNEBAlbum& Album, const QString&
     Folder.ReportStrays();
 }
 
+// Also as it is called while it is being written.
+bool IsAlbumSums(const QString& Name) {
+    return Name == QLatin1String(SumsName) ||
+           Name == QLatin1String(SumsName) + QStringLiteral(".new");
+}
+
 // Whatever else lies in a directory than the folders of these names.
 void ReportOthers(const QString& Path, const std::set<QString>& Known, Findings& Found) {
     for (const DirEntry& Entry : ListDir(Path)) {
         if (Entry.IsFolder && Known.contains(Entry.Name.toUpper())) continue;
+        if (!Entry.IsFolder && IsAlbumSums(Entry.Name)) continue;
         Found.Add((Entry.IsFolder ? QStringLiteral("no record names the folder %1")
                                   : QStringLiteral("no record names the file %1"))
                       .arg(Path + Entry.Name));

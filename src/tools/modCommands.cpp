@@ -4,6 +4,7 @@
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
+#include "tools/modAdopt.h"
 #include "tools/modCheck.h"
 #include "tools/modDump.h"
 #include "tools/modEffects.h"
@@ -42,9 +43,13 @@ constexpr Command Table[] = {
      "twice, each record file with an odd tail, each place of a show without its slide, and\n"
      "a write that did not come to its end. Nothing in DIR is changed.\n"
      "\n"
-     "  --files  compares every file with the check sums in Sums.sha256, too, as they lie on a\n"
-     "           disc that the program has written: a line for each file that was changed, is\n"
-     "           missing or cannot be read\n"
+     "  --files  reads every picture and sound, too, and compares it with the check sums that its\n"
+     "           album keeps in Sums.sha256, or with the list at the top of a disc that the "
+     "program\n"
+     "           has written: a line for each file that was changed, is empty, is missing or "
+     "cannot\n"
+     "           be read. Albums of earlier versions get their list by this, and one that a power\n"
+     "           failure has cut short is put right; not where DIR is read-only or in use\n"
      "\n"
      "Exit code 0: nothing found; 1: something found; 2: not checked.\n",
      RunCheck},
@@ -85,6 +90,21 @@ constexpr Command Table[] = {
      "that cannot be read is named and left out. When the work fails nothing is "
      "changed.\n" MEND_HELP,
      RunImport, Wants::Drawing},
+    {"adopt", "DIR [--go-on | --restore] [--take-over]",
+     "make slides again of pictures that no record names",
+     "Looks for pictures in the albums' folders of the database in DIR that belong to no slide,\n"
+     "because the records were damaged or an older state was put back, and makes slides of them.\n"
+     "A picture whose file bears the number of a slide that is lost becomes that slide, so that\n"
+     "shows find it again; its file stays as it is. The caption is the title, the description or\n"
+     "the date that the picture has in itself, else \"Recovered picture\" and a number. Pictures "
+     "of\n"
+     "an album without a record come into an album \"Recovered pictures\". A file that cannot be\n"
+     "read as a picture, and what is none, stays where it is. A database that is read-only or in\n"
+     "use by the program is left alone. What has been adopted when the work fails stays so.\n"
+     "\n"
+     "Exit code 0: no picture is without a slide; 1: some are, and are named; 2: not all was "
+     "done.\n" MEND_HELP,
+     RunAdopt, Wants::Drawing},
     {"transfer",
      "SRC DST --album NAME [--to NAME] [--show NAME] [--replace] [--without-missing]\n"
      "                [--go-on | --restore] [--take-over]",

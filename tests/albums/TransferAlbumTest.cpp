@@ -109,7 +109,7 @@ TEST_F(TransferAlbumRules, DatabasesOnADiskAreCopiedAlike) {
     const std::int32_t DstID = Second.AddFilledAlbum(u"River"_s);
     const StatedTransfer What{
         .SrcAlbumID = SrcID, .DstAlbumID = DstID, .Replace = true, .NewAlbumName = u"Sea"_s};
-    WriteFile(SlidesFolder(One.Path(), SrcID) + u"00000001.jpg"_s, QByteArray(9000001, 'x'));
+    StoreAnew(SlidesFolder(One.Path(), SrcID) + u"00000001.jpg"_s, QByteArray(9000001, 'x'));
     ExpectDone(First.Engine, Second.Engine, What);
 }
 

@@ -107,7 +107,7 @@ TEST_F(TransferFiles, StrayFilesStayWhereAlbumsAreJoinedAndGoWhereOneIsReplaced)
     Export(OverTown());
 }
 
-TEST_F(TransferFiles, AStrayFileGivesWayWhereANewPictureHasItsName) {
+TEST_F(TransferFiles, NoNewPictureTakesTheNumberOfAStrayFile) {
     const QString Next = u"Slides/"_s + FileStem(Other.Engine.NextSlideID);
     for (const char* Each : {".jpg", "Small.bmp", ".bmp", ".WAV"})
         Other.PutFile(TownID, Next + QLatin1String(Each));
@@ -116,7 +116,7 @@ TEST_F(TransferFiles, AStrayFileGivesWayWhereANewPictureHasItsName) {
     Export(Joined);
 }
 
-TEST_F(TransferFiles, AFolderLeftByAnAlbumOfThatNumberIsUsed) {
+TEST_F(TransferFiles, AFolderWithPicturesOfALostAlbumIsNotUsed) {
     Other.PutFile(TownID, u"Slides/x"_s);
     MakeDirs(SlidesFolder(Other.Dir(), 3));
     Other.PutFile(3, u"Slides/left.jpg"_s);
@@ -131,6 +131,30 @@ TEST_F(TransferFiles, APictureInTheFolderThatIsEmptiedArrives) {
     ExpectDone(
         Own.Engine, Own.Engine,
         {.SrcAlbumID = GardenID, .DstAlbumID = SeaID, .Replace = true, .NewAlbumName = u"Sea"_s});
+}
+
+// Damage that was done before is not taken for the picture itself.
+TEST_F(TransferFiles, APictureThatHadChangedByItselfIsRecognisedBehindTheTransfer) {
+    WriteFile(GardenFile(u"Slides/00000001.jpg"_s), "rotten");
+    const TransferResult Result =
+        Transfer(Own.Engine, Other.Engine, ToNew(GardenID), Asked(true));
+    ASSERT_TRUE(Result);
+    const DatabaseState After = ReadDatabase(Other.Dir());
+    ASSERT_EQ(1u, After.Irregular.size());
+    EXPECT_EQ(u"no right check sum of Albums/%1/Slides/%2.JPG"_s.arg(Result.DstAlbumID)
+                  .arg(FileStem(SlideAt(Other.Engine, Result.DstAlbumID, 0).SlideID)),
+              After.Irregular[0]);
+}
+
+TEST_F(TransferFiles, AnAlbumOfEarlierVersionsHasNoListBehindATransferEither) {
+    const std::int32_t Sea = Other.AddFilledAlbum(u"Sea"_s);
+    StatedTransfer Joined = OverTown();
+    Joined.DstAlbumID = Sea;
+    Joined.Replace = false;
+    Export(Joined);
+    EXPECT_FALSE(FileExists(AlbumSumsPath(AlbumFolder(Other.Dir(), Sea))));
+    const TransferResult Made = Export(ToNew(GardenID));
+    EXPECT_TRUE(FileExists(AlbumSumsPath(AlbumFolder(Other.Dir(), Made.DstAlbumID))));
 }
 
 // ------------------------------------------------------------------------ missing and unreadable

@@ -198,7 +198,7 @@ TEST_F(TransferBeside, APictureWithoutAnEndingGoesWithItsSlide) {
     clsNEBSlide& Second = SlideAt(Other.Engine, TownID, 1);
     Second.SlideLoc = FileStem(Second.SlideID);
     Other.PutFile(TownID, u"Slides/"_s + Second.SlideLoc);
-    QFile::remove(SlidesFolder(Other.Dir(), TownID) + Second.SlideLoc + u".jpg"_s);
+    DropStored({SlidesFolder(Other.Dir(), TownID) + Second.SlideLoc + u".jpg"_s});
     ExpectDone(Own.Engine, Other.Engine, OverTownWalk());
 }
 

@@ -221,7 +221,7 @@ TEST_F(TransferShowRules, EndingsThatDifferInCaseAreOneFile) {
     Export(ToTown(Loud.SlideShowID, TownWalk()));
 }
 
-TEST_F(TransferShowRules, AStrayFileGivesWayWhereANewSoundHasItsName) {
+TEST_F(TransferShowRules, NoNewShowTakesTheNumberOfAStraySound) {
     const QString Next = FileStem(Other.Engine.NextSlideShowID);
     Other.PutFile(TownID, u"SoundTracks/"_s + Next + u"_1.MP3"_s);
     Other.PutFile(TownID, u"SoundTracks/"_s + Next + u"_9.mp3"_s);

@@ -1,5 +1,6 @@
 #include "harness/DatabaseReader.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
@@ -97,10 +98,33 @@ void ReadFiles(DatabaseState& Into) {
             continue;  // what the last write has left there, of itself
         } else if (IsTemp) {
             Into.Temp.insert(Path);
+        } else if (Path.startsWith(QStringLiteral("Albums/")) && Path.count(u'/') == 2 &&
+                   Path.endsWith(QStringLiteral("/Sums.sha256"))) {
+            Into.Sums[Path.section(u'/', 0, 1) + u'/'] = BytesOf(Into.Dir + Path);
         } else if (!IsRecordFile(Path) && Path != QStringLiteral("InUse.lock")) {
             Into.Files[Path] = BytesOf(Into.Dir + Path);
         }
     }
+}
+
+// Every file of an album that has a list stands in it with its check sum, and nothing else does.
+void CheckSumsOf(DatabaseState& Into, const QString& Album, const QByteArray& List) {
+    std::map<QString, QByteArray> Listed;
+    for (const QByteArray& Line : List.split('\n'))
+        if (!Line.isEmpty() && !Line.startsWith('#'))
+            if (!Listed.emplace(QString::fromUtf8(Line.mid(66)), Line.left(64)).second)
+                Into.Irregular.push_back(Album +
+                                         QStringLiteral("Sums.sha256 has two lines of one"));
+    for (const auto& [Path, Content] : Into.Files) {
+        if (!Path.startsWith(Album) || Path.count(u'/') != 3) continue;
+        const auto Line = Listed.find(Path.mid(Album.size()));
+        if (Line == Listed.end() ||
+            Line->second != QCryptographicHash::hash(Content, QCryptographicHash::Sha256).toHex())
+            Into.Irregular.push_back(QStringLiteral("no right check sum of ") + Path);
+        if (Line != Listed.end()) Listed.erase(Line);
+    }
+    for (const auto& [Path, Sum] : Listed)
+        Into.Irregular.push_back(QStringLiteral("a check sum of no file: ") + Album + Path);
 }
 
 }  // namespace
@@ -117,6 +141,7 @@ DatabaseState ReadDatabase(const QString& Dir) {
     Found.Properties = BytesOf(Dir + QStringLiteral("Properties.dat"));
     Found.EffectStats = BytesOf(Dir + QStringLiteral("EffectStats.dat"));
     ReadFiles(Found);
+    for (const auto& [Album, List] : Found.Sums) CheckSumsOf(Found, Album, List);
     return Found;
 }
 

@@ -54,12 +54,15 @@ struct DatabaseState {
     std::vector<DetailRow> Details;
     std::vector<TrackRow> Tracks;
     QByteArray Properties, EffectStats;
-    // All other files by their path below Dir; the lock of an open database, Temp and
-    // Backups left out.
+    // All other files by their path below Dir; the lock of an open database, Temp, Backups and the
+    // albums' lists of check sums left out.
     std::map<QString, QByteArray> Files;
-    std::set<QString> Folders;       // below Albums
-    std::set<QString> Temp;          // files below Temp
-    std::vector<QString> Irregular;  // record files of an odd length, rows marked as deleted
+    std::map<QString, QByteArray> Sums;  // those lists, by the folders of their albums
+    std::set<QString> Folders;           // below Albums
+    std::set<QString> Temp;              // files below Temp
+    // Record files of an odd length, rows marked as deleted, lists of check sums that are not
+    // right.
+    std::vector<QString> Irregular;
 };
 
 // Dir with closing separator.

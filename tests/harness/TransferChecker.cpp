@@ -76,6 +76,7 @@ class Model {
     void TakeAlbum() {
         const QByteArray Name = TextField(NameBytes(mWhat.NewAlbumName), 80);
         if (mAlbumID == 0) {
+            while (HoldsFiles(mNow.NextAlbumID)) ++mNow.NextAlbumID;
             mAlbumID = mNow.NextAlbumID++;
             mNow.Albums.push_back({mAlbumID, Name, 0});
             mNow.Folders.insert(QStringLiteral("Albums"));
@@ -84,6 +85,25 @@ class Model {
         }
         for (AlbumRow& Each : mNow.Albums)
             if (Each.AlbumID == mAlbumID) Each.AlbumName = Name;
+        for (const auto& [Path, Content] : mNow.Files) mBefore.push_back(Path);
+    }
+    bool HoldsFiles(std::int32_t AlbumID) const {
+        const QString Upper = AlbumDir(AlbumID).toUpper();
+        const auto At = mNow.Files.lower_bound(Upper);
+        return At != mNow.Files.end() && At->first.startsWith(Upper);
+    }
+    // The next number that no file of the album bore before; the counter goes on behind it.
+    std::int32_t Draw(std::int32_t& Counter, const char* Folder) const {
+        const auto IsTaken = [&](std::int32_t Number) {
+            const QString Start =
+                (AlbumDir(mAlbumID) + QLatin1String(Folder) + Stem(Number)).toUpper();
+            return std::any_of(mBefore.begin(), mBefore.end(), [&](const QString& Path) {
+                return Path.startsWith(Start) &&
+                       !(Path.size() > Start.size() && Path[Start.size()].isDigit());
+            });
+        };
+        while (IsTaken(Counter)) ++Counter;
+        return Counter++;
     }
 
     void WholeAlbum() {
@@ -92,7 +112,7 @@ class Model {
             if (Each.AlbumID == mWhat.SrcAlbumID) CopySlide(Each);
         for (const ShowRow& Each : mSrc.Shows) {
             if (Each.AlbumID != mWhat.SrcAlbumID) continue;
-            const std::int32_t ID = mNow.NextSlideShowID++;
+            const std::int32_t ID = Draw(mNow.NextSlideShowID, "SoundTracks/");
             mNow.Shows.push_back({ID, mAlbumID, Each.SlideShowName, Each.ProgressionMethod, 0});
             FillShow(Each, ID);
         }
@@ -119,7 +139,7 @@ class Model {
         if (!Source) return mNow.Irregular.push_back(QStringLiteral("there is no such show"));
         std::int32_t ID = mWhat.DstSlideShowID;
         if (ID == 0) {
-            ID = mNow.NextSlideShowID++;
+            ID = Draw(mNow.NextSlideShowID, "SoundTracks/");
             mNow.Shows.push_back({ID, mAlbumID, {}, 0, 0});
         } else {
             EmptyShow(ID);
@@ -183,7 +203,7 @@ class Model {
 
     void CopySlide(const SlideRow& From) {
         SlideRow To = From;
-        To.SlideID = mNow.NextSlideID++;
+        To.SlideID = Draw(mNow.NextSlideID, "Slides/");
         To.AlbumID = mAlbumID;
         mMap[From.SlideID] = To.SlideID;
         const QString Folder = mSrc.Dir + AlbumDir(mWhat.SrcAlbumID) + u"Slides/"_s;
@@ -285,6 +305,7 @@ class Model {
     DatabaseState mNow;
     const StatedTransfer& mWhat;
     std::int32_t mAlbumID;
+    std::vector<QString> mBefore;  // paths of files, upper-cased
     std::map<std::int32_t, std::int32_t> mMap;
     QString mThumbnail;
 };

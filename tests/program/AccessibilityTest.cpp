@@ -17,6 +17,7 @@
 #include "settings/modNEBSlideShow.h"
 #include "windows/albums/frmAlbumDelete.h"
 #include "windows/albums/frmAlbumRename.h"
+#include "windows/albums/frmCheckPictures.h"
 #include "windows/albums/frmDamage.h"
 #include "windows/albums/frmGetObjectName.h"
 #include "windows/albums/frmRestore.h"
@@ -101,11 +102,11 @@ class EachWindow : public ::testing::Test {
 // But for the pop-up of a picture, in which there is nothing to press.
 using Windows =
     ::testing::Types<frmAbout, frmAlbumDelete, frmAlbumExport, frmAlbumImport, frmAlbumRename,
-                     frmAlbumView, frmDirSelect, frmDiscFolder, frmFindGraphics, frmGetObjectName,
-                     frmInputBox, frmPrintAlbum, frmPrintPreview, frmPrintSheet, frmPrintSlide,
-                     frmPrintSlideShow, frmHelp, frmImportFilter, frmLoading, frmMsgBoxEx,
-                     frmNewAlbumWzd1, frmPreferences, frmQuickShow, frmRestore, frmDamage,
-                     frmSlideDBM, frmSlideMgrBulk, frmSlideShowDBM, frmSlideShowExport,
+                     frmAlbumView, frmCheckPictures, frmDirSelect, frmDiscFolder, frmFindGraphics,
+                     frmGetObjectName, frmInputBox, frmPrintAlbum, frmPrintPreview, frmPrintSheet,
+                     frmPrintSlide, frmPrintSlideShow, frmHelp, frmImportFilter, frmLoading,
+                     frmMsgBoxEx, frmNewAlbumWzd1, frmPreferences, frmQuickShow, frmRestore,
+                     frmDamage, frmSlideDBM, frmSlideMgrBulk, frmSlideShowDBM, frmSlideShowExport,
                      frmSlideShowImport, frmSlideShowView, frmSoundRecorder, frmTransferProgress>;
 TYPED_TEST_SUITE(EachWindow, Windows);
 

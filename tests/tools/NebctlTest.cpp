@@ -222,8 +222,7 @@ TEST_F(NebctlTest, CheckFindsSlideSoundsAndPicturesOutside) {
     ExpectFindings(
         {u"the sound of slide 1 in album 1 is missing: "_s + (Dir / "Albums/1/Slides/00000001.wav"),
          u"the picture of slide 2 in album 2 is missing: "_s + (Dir / "outside.png"),
-         u"no record names the file "_s + Slides + u"00000002.jpg"_s,
-         u"no record names the file "_s + Slides + u"00000002Small.bmp"_s});
+         u"no record names the file "_s + Slides + u"00000002.jpg"_s});
 }
 
 TEST_F(NebctlTest, CheckFindsStrayFiles) {
@@ -329,12 +328,7 @@ TEST_F(NebctlTest, CheckNamesWhatCannotBeReadAmongTheFiles) {
         << Result.Out.toStdString();
 }
 
-TEST_F(NebctlTest, CheckWithoutSumsOrWithSenselessOnesDoesNotCallTheFilesSound) {
-    const Outcome None = Tool({u"check"_s, Dir.Path(), u"--files"_s});
-    EXPECT_EQ(None.Code, ExitFound);
-    EXPECT_EQ(
-        None.Out,
-        u"there is no Sums.sha256 in %1, so that the files cannot be compared\n"_s.arg(Dir.Path()));
+TEST_F(NebctlTest, CheckWithSenselessSumsDoesNotCallTheFilesSound) {
     WriteFile(Dir / "Sums.sha256", "garbage\n");
     const Outcome Garbage = Tool({u"check"_s, Dir.Path(), u"--files"_s});
     EXPECT_EQ(Garbage.Code, ExitFailed);

@@ -1,7 +1,9 @@
 #include "albums/transfer/FileStage.h"
 
 #include <atomic>
+#include <map>
 
+#include "db/AlbumSums.h"
 #include "db/modAlbumFiles.h"
 #include "db/records/modJournal.h"
 #include "support/Services.h"
@@ -91,16 +93,49 @@ void LookAtPlaces(const Wanted& What, FilesLookedFor& Looked) {
     }
 }
 
+// What the source's album says of its files.
+class SumsBySource {
+  public:
+    explicit SumsBySource(const QString& Album) : mAlbum(Album) {
+        for (const ListedSum& Each : SumsIn(TextOf(Album))) {
+            QByteArray& Sum = mSums[Each.Path.toUpper()];
+            Sum = Sum.isEmpty() || Sum == Each.Sum ? Each.Sum : QByteArray(Doubtful);
+        }
+    }
+    QByteArray Of(const QString& From) const {
+        const QString Folder = GetFilePath(From);
+        if (!IsSameDir(GetParentDir(Folder), mAlbum)) return {};
+        const QString Name = GetFileName(Folder.chopped(1)) + u'/' + GetFileName(From);
+        const auto Found = mSums.find(Name.toUpper());
+        return Found == mSums.end() || Found->second == Doubtful ? QByteArray() : Found->second;
+    }
+
+  private:
+    // Two lines for a file: it was being replaced.
+    static constexpr char Doubtful[] = "?";
+    static QByteArray TextOf(const QString& Album) {
+        try {
+            return ReadAlbumSums(Album).value_or(QByteArray());
+        } catch (const Fault&) {
+            return {};
+        }
+    }
+
+    const QString mAlbum;
+    std::map<QString, QByteArray> mSums;  // by their paths in the list, upper-cased
+};
+
 FilesLookedFor Look(const Wanted& What, const JobState& State) {
     FilesLookedFor Looked;
     const auto Staged = CommittedPlaces(What.SrcDBPath);
+    const SumsBySource Sums(What.SrcAlbum);
     for (size_t Which = 0; Which < What.Files.size() && !State.Stop; ++Which) {
         const FileToCopy& File = What.Files[Which];
         const auto Waiting = Staged.find(File.From.toUpper());
         const QString From = ResolvePath(Waiting != Staged.end() ? Waiting->second : File.From);
         if (const auto Facts = ReadableFileFacts(From))
             Looked.Found.push_back(
-                {From, File.To, Facts->Size, File.Is == FileToCopy::Kind::Picture});
+                {From, File.To, Facts->Size, File.Is == FileToCopy::Kind::Picture, Sums.Of(From)});
         else if (File.Is != FileToCopy::Kind::Thumbnail)
             Looked.Missing.push_back(Which);
     }
@@ -114,6 +149,7 @@ FilesLookedFor Look(const Wanted& What, const JobState& State) {
 struct Copied {
     std::atomic<int> Pictures = 0;
     std::atomic<qint64> Bytes = 0;
+    std::vector<QByteArray> Sums;  // by the files; whole when the thread has ended
 };
 
 class Copier {
@@ -128,12 +164,18 @@ class Copier {
                 Count(Piece);
                 return !State.Stop;
             });
+            mSoFar->Sums.push_back(SumOf(Which, State));
             mSoFar->Pictures += mFiles[Which].IsPicture;
         }
         if (!State.Stop) SyncVolume(mStaging);
     }
 
   private:
+    QByteArray SumOf(size_t Which, const JobState& State) const {
+        if (!mFiles[Which].Sum.isEmpty()) return mFiles[Which].Sum;
+        const auto GoesOn = [&State](qint64) { return !State.Stop; };
+        return SumOfFile(mStaging + QString::number(Which), GoesOn).value_or(QByteArray());
+    }
     void Count(qint64 Piece) {
         mSoFar->Bytes += Piece;
         mUnflushed += Piece;
@@ -212,8 +254,10 @@ bool FileStage::Copy(const TransferGoOn& GoOn) {
         Now.Bytes = SoFar->Bytes;
         return GoOn(Now);
     });
-    if (Whole) Work.Take();
-    return Whole;
+    if (!Whole) return false;
+    Work.Take();
+    mSums = std::move(SoFar->Sums);
+    return true;
 }
 
 }  // namespace neb

@@ -20,6 +20,7 @@ struct FoundFile {
     QString To;    // relative to the destination
     qint64 Bytes;
     bool IsPicture;
+    QByteArray Sum = {};  // its check sum as the source's album has it; empty: none
 };
 
 struct FilesLookedFor {
@@ -48,6 +49,9 @@ class FileStage {
 
     // Copies all files, flushed; false when it was stopped. Throws Fault.
     bool Copy(const TransferGoOn& GoOn);
+    // The check sum of one of them, once all are copied: that which the source's album has of it,
+    // so that damage done before is not taken for the file itself; else that of the copy.
+    const QByteArray& SumOf(size_t Which) const { return mSums[Which]; }
     // Of one of the files, in the staging folder.
     QString NameOf(size_t Which) const { return QString::number(Which); }
     void Keep() { mIsOurs = false; }  // what is staged belongs to a journal now
@@ -56,6 +60,7 @@ class FileStage {
     const QString mDBPath;
     const std::vector<FoundFile>& mFiles;
     std::vector<QString> mMadeFolders;  // from the innermost
+    std::vector<QByteArray> mSums;
     bool mIsOurs = false;
 };
 

@@ -4,6 +4,7 @@
 #include "albums/transfer/OtherDatabase.h"
 #include "albums/transfer/TransferRun.h"
 #include "db/clsDBEngine.h"
+#include "db/modAlbumFiles.h"
 #include "db/records/modJournal.h"
 #include "support/modDEValidation.h"
 
@@ -48,7 +49,8 @@ Boxes PlanNewAlbum(const clsDBEngine& DstDB, const QString& Name, TransferPlan& 
     if (const Answer<> Is = DstDB.CheckAlbumName(0, Name); !Is)
         return {Is.Refusal(), Refuse(QStringLiteral("Failed to create the album."))};
     Plan.IsNewAlbum = true;
-    Plan.AlbumID = Plan.Next.AlbumID++;
+    Plan.AlbumID = FreeAlbumID(DstDB.DBPath(), Plan.Next.AlbumID);
+    Plan.Next.AlbumID = Plan.AlbumID + 1;
     return {};
 }
 
@@ -67,6 +69,8 @@ Boxes PlanDestination(const clsDBEngine& DstDB, std::int32_t AlbumID, const QStr
     Boxes No = AlbumID != 0 ? PlanOldAlbum(DstDB, AlbumID, Plan.AlbumName, Plan)
                             : PlanNewAlbum(DstDB, Plan.AlbumName, Plan);
     if (!No.empty()) return No;
+    Plan.TakenSlides = NumbersIn(SlidesFolder(DstDB.DBPath(), Plan.AlbumID));
+    Plan.TakenShows = NumbersIn(SoundTracksFolder(DstDB.DBPath(), Plan.AlbumID));
     if (!DstDB.CountersAreSound()) return {DamagedCounters(DstDB.DBPath())};
     if (MayWriteDatabase(DstDB.DBPath())) return {};
     return {Refuse(QStringLiteral("The database in\n%1\nis read-only.").arg(DstDB.DBPath()),

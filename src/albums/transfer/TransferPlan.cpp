@@ -58,9 +58,19 @@ void TransferPlanner::AddAlbum(const clsNEBAlbum& Source) {
     for (const auto& Show : Source.SlideShows) AddShow(*Show, Show->SlideShowName, 0);
 }
 
+std::int32_t TransferPlanner::NextSlide() const {
+    while (mPlan.TakenSlides.contains(mPlan.Next.SlideID)) ++mPlan.Next.SlideID;
+    return mPlan.Next.SlideID++;
+}
+
+std::int32_t TransferPlanner::NextShow() const {
+    while (mPlan.TakenShows.contains(mPlan.Next.SlideShowID)) ++mPlan.Next.SlideShowID;
+    return mPlan.Next.SlideShowID++;
+}
+
 void TransferPlanner::AddSlide(const clsNEBSlide& Source) {
     if (mMap.contains(Source.SlideID)) return;
-    const std::int32_t SlideID = mPlan.Next.SlideID++;
+    const std::int32_t SlideID = NextSlide();
     mMap.emplace(Source.SlideID, SlideID);
     clsNEBSlide& Copy = mPlan.Slides.emplace_back();
     Copy.SlideID = SlideID;
@@ -97,7 +107,7 @@ void TransferPlanner::AddSlideSound(const clsNEBSlide& Source, clsNEBSlide& Copy
 void TransferPlanner::AddShow(const clsNEBSlideShow& Source, const QString& Name,
                               std::int32_t SlideShowID, std::set<QString> Taken) {
     clsNEBSlideShow& Copy = mPlan.Shows.emplace_back();
-    Copy.SlideShowID = SlideShowID != 0 ? SlideShowID : mPlan.Next.SlideShowID++;
+    Copy.SlideShowID = SlideShowID != 0 ? SlideShowID : NextShow();
     Copy.SlideShowName = Name;
     Copy.ProgressionMethod = Source.ProgressionMethod;
     for (const auto& Detail : Source.Details)

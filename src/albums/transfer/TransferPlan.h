@@ -32,6 +32,8 @@ struct TransferPlan {
     std::int32_t ReplacedShowID = 0;  // 0: none
     IDCounters Base;                  // the destination's counters on which the numbers stand
     IDCounters Next;                  // and what they are afterwards
+    // Numbers that files of the album bear already: no new ones.
+    std::set<std::int32_t> TakenSlides, TakenShows;
     std::vector<clsNEBSlide> Slides;
     std::vector<clsNEBSlideShow> Shows;
     std::vector<FileToCopy> Files;
@@ -66,6 +68,8 @@ class TransferPlanner {
                  std::set<QString> Taken = {});
 
   private:
+    std::int32_t NextSlide() const;
+    std::int32_t NextShow() const;
     void AddThumbnail(const QString& Picture, std::int32_t SlideID);
     void AddSlideSound(const clsNEBSlide& Source, clsNEBSlide& Copy);
     void AddFile(FileToCopy::Kind Is, const QString& From, const QString& Folder,

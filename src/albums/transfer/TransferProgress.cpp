@@ -35,6 +35,12 @@ QString ShortSize(qint64 Bytes) {
     return Text + QStringLiteral(" GB");
 }
 
+QString TimeLeftText(qint64 Bytes, qint64 OfBytes, double Seconds) {
+    if (Bytes <= 0 || Seconds < LeastSeconds) return {};
+    return QStringLiteral(", ") +
+           TimeText(Seconds * static_cast<double>(OfBytes - Bytes) / static_cast<double>(Bytes));
+}
+
 QString ProgressText(const TransferProgress& Now, double Seconds) {
     if (Now.At == TransferProgress::Stage::Looking)
         return QStringLiteral("Looking at what is to be copied");
@@ -43,10 +49,7 @@ QString ProgressText(const TransferProgress& Now, double Seconds) {
     if (Now.OfPictures > 0)
         Parts << QStringLiteral("picture %1 of %2").arg(Count(Now.Pictures), Count(Now.OfPictures));
     Parts << QStringLiteral("%1 of %2").arg(ShortSize(Now.Bytes), ShortSize(Now.OfBytes));
-    if (Now.Bytes > 0 && Seconds >= LeastSeconds)
-        Parts << TimeText(Seconds * static_cast<double>(Now.OfBytes - Now.Bytes) /
-                          static_cast<double>(Now.Bytes));
-    return Parts.join(QStringLiteral(", "));
+    return Parts.join(QStringLiteral(", ")) + TimeLeftText(Now.Bytes, Now.OfBytes, Seconds);
 }
 
 }  // namespace neb

@@ -21,6 +21,8 @@ struct TransferProgress {
 // "picture 120 of 2,000, 1.2 GB of 9 GB, about 3 minutes", Seconds after the first byte. Without
 // the time as long as it cannot be told.
 QString ProgressText(const TransferProgress& Now, double Seconds);
+// ", about 3 minutes" until so many bytes are done; empty as long as it cannot be told.
+QString TimeLeftText(qint64 Bytes, qint64 OfBytes, double Seconds);
 // "1.2 GB", "640 MB", "12 KB", as powers of 1000.
 QString ShortSize(qint64 Bytes);
 

@@ -1,11 +1,13 @@
 #include "albums/transfer/TransferRun.h"
 
 #include "albums/transfer/FileStage.h"
+#include "db/AlbumSums.h"
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
 #include "db/modLoadRecords.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
+#include "support/modFUFL.h"
 #include "support/work/WorkAside.h"
 
 namespace neb {
@@ -136,9 +138,34 @@ class TransferRun {
         return Change;
     }
 
+    // What takes the place of a file whose name differs in case has that one's name.
+    QString AsOnDisk(const QString& Place) const {
+        return GetFilePath(Place) + GetFileName(ResolvePath(mDB.DBPath() + Place));
+    }
+
+    // The list of the album's check sums comes in with the files; an album of earlier versions has
+    // none, and gets none here.
+    void StageSums(const FileStage& Stage, StagedChange& Change) const {
+        const QString Here = AlbumFolder({}, mPlan.AlbumID), Name = QStringLiteral("Sums");
+        std::optional<QByteArray> List =
+            mPlan.IsNewAlbum ? QByteArray() : ReadAlbumSums(mDB.DBPath() + Here);
+        if (!List) return;
+        QStringList Gone;
+        for (const QString& Place : Change.Drops) Gone << Place.mid(Here.size());
+        std::vector<ListedSum> Came;
+        for (size_t Which = 0; Which < mFiles.size(); ++Which)
+            Came.push_back({AsOnDisk(mFiles[Which].To).mid(Here.size()), Stage.SumOf(Which)});
+        const QString Path = StagingFolder(mDB.DBPath()) + Name;
+        MakeDirs(StagingFolder(mDB.DBPath()));
+        WriteFile(Path, SumsAfter(*List, Gone, Came));
+        SyncFile(Path);
+        Change.Moves.push_back({Name, AlbumSumsPath(Here)});
+    }
+
     // From its end on the transfer stands, whatever happens.
     void Commit(const AlbumToPut& After, FileStage& Stage) {
-        FinishAside([this, &After, Change = Staged(Stage)] {
+        FinishAside([this, &After, &Stage, Change = Staged(Stage)]() mutable {
+            StageSums(Stage, Change);
             CommitDatabase(mDB.DBPath(), BuildImage(mDB, &After), Change);
         }).get();
         Stage.Keep();

@@ -77,6 +77,18 @@ std::optional<quint32> TiffTags::ValueBehind(quint16 PointerTag, quint16 Tag) co
     return Directory ? ValueIn(*Directory, Tag) : std::nullopt;
 }
 
+QByteArrayView TiffTags::BytesIn(quint32 Directory, quint16 Tag) const {
+    const auto Entry = EntryIn(Directory, Tag);
+    if (!Entry) return {};
+    const Values All = ValuesOf(*Entry);
+    return mBytes.Part(All.At, qint64(All.Count) * All.Width);
+}
+
+QByteArrayView TiffTags::BytesBehind(quint16 PointerTag, quint16 Tag) const {
+    const auto Directory = Value(PointerTag);
+    return Directory ? BytesIn(*Directory, Tag) : QByteArrayView();
+}
+
 int TiffTags::Orientation() const {
     const quint32 Number = Value(OrientationTag).value_or(1);
     return Number >= 1 && Number <= 8 ? static_cast<int>(Number) : 1;

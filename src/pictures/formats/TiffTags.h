@@ -18,6 +18,10 @@ class TiffTags {
     std::optional<quint32> Value(quint16 Tag) const { return ValueIn(mFirst, Tag); }
     std::optional<quint32> ValueBehind(quint16 PointerTag, quint16 Tag) const;
 
+    // The bytes of a tag of either, as far as they are there.
+    QByteArrayView Bytes(quint16 Tag) const { return BytesIn(mFirst, Tag); }
+    QByteArrayView BytesBehind(quint16 PointerTag, quint16 Tag) const;
+
     // 1 to 8 as EXIF numbers them; 1 (upright) when there is none.
     int Orientation() const;
     // Cameras that shoot in Adobe RGB say so by this mark and embed no profile.
@@ -35,6 +39,7 @@ class TiffTags {
     quint32 ValueAt(const Values& All, quint32 Index) const;
     bool PiecesAreInside(quint16 PlaceTag, quint16 LengthTag) const;
     std::optional<qint64> EntryIn(quint32 Directory, quint16 Tag) const;
+    QByteArrayView BytesIn(quint32 Directory, quint16 Tag) const;
     std::optional<quint32> ValueIn(quint32 Directory, quint16 Tag) const;
 
     ByteView mBytes;

@@ -17,6 +17,38 @@ namespace {
 constexpr qsizetype SumDigits = 64;
 constexpr qint64 PieceLength = 1 << 20;
 
+bool HasDrive(const QString& Path) {
+    return Path.size() > 2 && Path[1] == u':' && IsSeparator(Path[2]);
+}
+
+// Whatever a list says, nothing is opened but what lies in the folder.
+bool LiesBelow(const QString& Path) {
+    if (Path.isEmpty() || IsSeparator(Path.front()) || HasDrive(Path)) return false;
+    const QStringList Parts = QString(Path).replace(u'\\', u'/').split(u'/');
+    return !Parts.contains(u"..");
+}
+
+// Nothing for what cannot have been written so.
+std::optional<QByteArray> WithoutEscapes(const QByteArray& Name) {
+    QByteArray Plain;
+    for (qsizetype I = 0; I < Name.size(); ++I) {
+        if (Name[I] != '\\') {
+            Plain += Name[I];
+            continue;
+        }
+        const qsizetype Which = QByteArrayView("\\nr").indexOf(++I < Name.size() ? Name[I] : '?');
+        if (Which < 0) return std::nullopt;
+        Plain += "\\\n\r"[Which];
+    }
+    return Plain;
+}
+
+bool IsSum(const QByteArray& Digits) {
+    return Digits.size() == SumDigits && std::all_of(Digits.begin(), Digits.end(), [](char Each) {
+               return std::isxdigit(static_cast<unsigned char>(Each)) != 0;
+           });
+}
+
 // Told by the thread that reads to the one that waits.
 struct Count {
     std::atomic<int> Files = 0, OfFiles = 0;
@@ -40,13 +72,12 @@ class SumsReader {
     }
     // Of one file, as digits; senseless once the work is stopped.
     QByteArray SumOf(const QString& Path) {
-        HostReader File(mDir + Path);
-        QCryptographicHash Sum(QCryptographicHash::Sha256);
-        while (const qint64 Length = IsStopped() ? 0 : File.Read(mPiece.data(), PieceLength)) {
-            Sum.addData(QByteArrayView(mPiece.data(), Length));
-            mDone.Bytes += Length;
-        }
-        return Sum.result().toHex();
+        return SumOfFile(mDir + Path,
+                         [this](qint64 Piece) {
+                             mDone.Bytes += Piece;
+                             return !IsStopped();
+                         })
+            .value_or(QByteArray());
     }
     void NextFile() { ++mDone.Files; }
     // A link in the folder may lead anywhere.
@@ -75,7 +106,6 @@ class SumsReader {
     const QString mDir, mRoot;
     Count& mDone;
     const JobState& mState;
-    std::vector<char> mPiece = std::vector<char>(PieceLength);
     QString mListed;  // the directory that was looked into last, and what is there
     std::set<QString> mNames;
     bool mHidden = false;
@@ -100,22 +130,6 @@ auto Aside(const QString& Dir, const std::shared_ptr<Count>& Done, const SumsGoO
     return Result;
 }
 
-struct ListedFile {
-    QString Path;
-    QByteArray Sum;
-};
-
-bool HasDrive(const QString& Path) {
-    return Path.size() > 2 && Path[1] == u':' && IsSeparator(Path[2]);
-}
-
-// Whatever a list says, nothing is opened but what lies in the folder.
-bool LiesBelow(const QString& Path) {
-    if (Path.isEmpty() || IsSeparator(Path.front()) || HasDrive(Path)) return false;
-    const QStringList Parts = QString(Path).replace(u'\\', u'/').split(u'/');
-    return !Parts.contains(u"..");
-}
-
 // The names of open databases' locks, and of the list while it is being written.
 bool ComesAndGoes(const QString& Path) {
     const QString Name = SumsName;
@@ -124,7 +138,7 @@ bool ComesAndGoes(const QString& Path) {
 }
 
 // Links are no files of the folder: on the disc for which a list is written there are none.
-void Collect(const SumsReader& Reader, const QString& Below, std::vector<ListedFile>& Files) {
+void Collect(const SumsReader& Reader, const QString& Below, std::vector<ListedSum>& Files) {
     std::error_code Error;
     const auto Entries = ListDir(Reader.Dir() + Below, Error);
     if (Error)
@@ -141,77 +155,37 @@ void Collect(const SumsReader& Reader, const QString& Below, std::vector<ListedF
     }
 }
 
-QByteArray LineOf(const ListedFile& File) {
-    QByteArray Name = File.Path.toUtf8();
-    const QByteArray Plain = Name;
-    Name.replace('\\', "\\\\").replace('\n', "\\n").replace('\r', "\\r");
-    return (Name == Plain ? "" : "\\") + File.Sum + "  " + Name + '\n';
-}
-
 QByteArray MakeList(SumsReader& Reader) {
-    std::vector<ListedFile> Files;
+    std::vector<ListedSum> Files;
     Collect(Reader, {}, Files);
-    std::sort(Files.begin(), Files.end(), [](const ListedFile& A, const ListedFile& B) {
+    std::sort(Files.begin(), Files.end(), [](const ListedSum& A, const ListedSum& B) {
         return A.Path.toUtf8() < B.Path.toUtf8();
     });
     Reader.Expect(Files);
     QByteArray List;
-    for (ListedFile& File : Files) {
+    for (ListedSum& File : Files) {
         if (!LiesBelow(File.Path))
             throw Fault(QStringLiteral("A file of this name cannot stand in a list of check sums."),
                         Reader.Dir() + File.Path);
         File.Sum = Reader.SumOf(File.Path);
-        List += LineOf(File);
+        List += SumLine(File);
         Reader.NextFile();
     }
     return List;
 }
 
-// Nothing for what cannot have been written so.
-std::optional<QByteArray> WithoutEscapes(const QByteArray& Name) {
-    QByteArray Plain;
-    for (qsizetype I = 0; I < Name.size(); ++I) {
-        if (Name[I] != '\\') {
-            Plain += Name[I];
-            continue;
-        }
-        const qsizetype Which = QByteArrayView("\\nr").indexOf(++I < Name.size() ? Name[I] : '?');
-        if (Which < 0) return std::nullopt;
-        Plain += "\\\n\r"[Which];
-    }
-    return Plain;
-}
-
-bool IsSum(const QByteArray& Digits) {
-    return Digits.size() == SumDigits && std::all_of(Digits.begin(), Digits.end(), [](char Each) {
-               return std::isxdigit(static_cast<unsigned char>(Each)) != 0;
-           });
-}
-
-std::optional<ListedFile> ReadLine(QByteArray Line) {
-    const bool Escaped = Line.startsWith('\\');
-    if (Escaped) Line.remove(0, 1);
-    const QByteArray Marker = Line.mid(SumDigits, 2);
-    if (!IsSum(Line.left(SumDigits)) || (Marker != "  " && Marker != " *")) return std::nullopt;
-    const QByteArray Name = Line.mid(SumDigits + 2);
-    const auto Plain = Escaped ? WithoutEscapes(Name) : std::optional(Name);
-    const QString Path = Plain ? QString::fromUtf8(*Plain) : QString();
-    return LiesBelow(Path) ? std::optional(ListedFile{Path, Line.left(SumDigits).toLower()})
-                           : std::nullopt;
-}
-
 // Also as other programs and editors leave it: with a mark of the encoding, CR LF, blank lines.
-std::vector<ListedFile> ReadList(const QString& Dir) {
+std::vector<ListedSum> ReadList(const QString& Dir) {
     const QString Path = Dir + SumsName;
     QByteArray Text = ReadFile(Path);
     if (Text.startsWith("\xEF\xBB\xBF")) Text.remove(0, 3);
-    std::vector<ListedFile> Files;
+    std::vector<ListedSum> Files;
     int Number = 0;
     for (QByteArray& Line : Text.split('\n')) {
         ++Number;
         if (Line.endsWith('\r')) Line.chop(1);
         if (Line.trimmed().isEmpty() || Line.startsWith('#')) continue;
-        auto File = ReadLine(Line);
+        auto File = ReadSumLine(Line);
         if (!File) throw Fault(QStringLiteral("Line %1 cannot be understood.").arg(Number), Path);
         Files.push_back(std::move(*File));
     }
@@ -219,7 +193,7 @@ std::vector<ListedFile> ReadList(const QString& Dir) {
     return Files;
 }
 
-std::optional<SumsFinding::Kind> Compare(SumsReader& Reader, const ListedFile& File) {
+std::optional<SumsFinding::Kind> Compare(SumsReader& Reader, const ListedSum& File) {
     if (Reader.LeadsOutside(File.Path)) return SumsFinding::Kind::Unreadable;
     try {
         if (Reader.SumOf(File.Path) == File.Sum) return std::nullopt;
@@ -231,10 +205,10 @@ std::optional<SumsFinding::Kind> Compare(SumsReader& Reader, const ListedFile& F
 }
 
 std::vector<SumsFinding> CompareAll(SumsReader& Reader) {
-    const std::vector<ListedFile> Files = ReadList(Reader.Dir());
+    const std::vector<ListedSum> Files = ReadList(Reader.Dir());
     Reader.Expect(Files);
     std::vector<SumsFinding> Found;
-    for (const ListedFile& File : Files) {
+    for (const ListedSum& File : Files) {
         if (Reader.IsStopped()) break;
         if (const auto What = Compare(Reader, File)) Found.push_back({*What, File.Path});
         Reader.NextFile();
@@ -243,6 +217,41 @@ std::vector<SumsFinding> CompareAll(SumsReader& Reader) {
 }
 
 }  // namespace
+
+QByteArray SumLine(const ListedSum& File) {
+    QByteArray Name = File.Path.toUtf8();
+    const QByteArray Plain = Name;
+    Name.replace('\\', "\\\\").replace('\n', "\\n").replace('\r', "\\r");
+    return (Name == Plain ? "" : "\\") + File.Sum + "  " + Name + '\n';
+}
+
+std::optional<ListedSum> ReadSumLine(QByteArray Line) {
+    const bool Escaped = Line.startsWith('\\');
+    if (Escaped) Line.remove(0, 1);
+    const QByteArray Marker = Line.mid(SumDigits, 2);
+    if (!IsSum(Line.left(SumDigits)) || (Marker != "  " && Marker != " *")) return std::nullopt;
+    const QByteArray Name = Line.mid(SumDigits + 2);
+    const auto Plain = Escaped ? WithoutEscapes(Name) : std::optional(Name);
+    const QString Path = Plain ? QString::fromUtf8(*Plain) : QString();
+    return LiesBelow(Path) ? std::optional(ListedSum{Path, Line.left(SumDigits).toLower()})
+                           : std::nullopt;
+}
+
+QByteArray SumOfBytes(const QByteArray& Bytes) {
+    return QCryptographicHash::hash(Bytes, QCryptographicHash::Sha256).toHex();
+}
+
+std::optional<QByteArray> SumOfFile(const QString& Path,
+                                    const std::function<bool(qint64 Piece)>& Tell) {
+    HostReader File(Path);
+    QCryptographicHash Sum(QCryptographicHash::Sha256);
+    std::vector<char> Piece(PieceLength);
+    while (const qint64 Length = File.Read(Piece.data(), PieceLength)) {
+        Sum.addData(QByteArrayView(Piece.data(), Length));
+        if (Tell && !Tell(Length)) return std::nullopt;
+    }
+    return Sum.result().toHex();
+}
 
 bool WriteSums(const QString& Dir, const SumsGoOn& GoOn) {
     const auto Done = std::make_shared<Count>();

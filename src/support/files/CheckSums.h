@@ -1,6 +1,7 @@
 // The list of check sums that goes along with a folder of files, in the form that "sha256sum -c"
 // reads: written once over all that lies there, compared at any later time. Used by the window that
-// writes a folder for a disc, by the check of such a folder, and nebctl.
+// writes a folder for a disc, by the check of such a folder, and nebctl. The lists of the albums
+// (db/AlbumSums.h), which grow with them, have their form from here.
 #pragma once
 
 #include <QString>
@@ -11,6 +12,22 @@
 namespace neb {
 
 inline constexpr char SumsName[] = "Sums.sha256";
+
+// A line of such a list.
+struct ListedSum {
+    QString Path;    // relative, with "/"
+    QByteArray Sum;  // 64 digits, small letters
+    bool operator==(const ListedSum&) const = default;
+};
+QByteArray SumLine(const ListedSum& File);  // with its line feed
+// Nothing for what is no such line, or names a file that does not lie below the list's folder.
+std::optional<ListedSum> ReadSumLine(QByteArray Line);  // without its line feed
+
+QByteArray SumOfBytes(const QByteArray& Bytes);
+// Tell hears of each piece of the file that was read; false ends the reading: the answer is
+// nothing. Throws Fault when it cannot be read.
+std::optional<QByteArray> SumOfFile(const QString& Path,
+                                    const std::function<bool(qint64 Piece)>& Tell = {});
 
 struct SumsProgress {
     int Files = 0, OfFiles = 0;

@@ -12,6 +12,7 @@
 
 #ifndef _WIN32
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -106,6 +107,18 @@ void SyncVolume(const QString& Dir) {
     if (!Done)
         throw Fault(
             QStringLiteral("What was copied cannot be brought to the disk: %1.").arg(Reason), Dir);
+#endif
+}
+
+bool IsSameVolume([[maybe_unused]] const QString& One, [[maybe_unused]] const QString& Other) {
+#ifdef __linux__
+    struct stat First = {}, Second = {};
+    if (::stat(QFile::encodeName(ResolvePath(One)).constData(), &First) != 0 ||
+        ::stat(QFile::encodeName(ResolvePath(Other)).constData(), &Second) != 0)
+        return true;
+    return First.st_dev == Second.st_dev;
+#else
+    return true;
 #endif
 }
 

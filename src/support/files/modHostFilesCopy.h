@@ -16,6 +16,9 @@ bool CopyBytes(const QString& From, const QString& To,
 // All that was written to the medium of this directory is on the disk afterwards. Throws Fault.
 void SyncVolume(const QString& Dir);
 
+// Whether both lie on one medium, which SyncVolume flushes at once. Paths that lead nowhere do.
+bool IsSameVolume(const QString& One, const QString& Other);
+
 // Whether this user may put files into the directory.
 bool MayWriteIn(const QString& Dir);
 

@@ -1,9 +1,9 @@
 #include "windows/lists/clsImageBuffer.h"
 
-#include "albums/modImport.h"
 #include "controls/forms/frmLoadSlide.h"
 #include "controls/forms/frmLoading.h"
 #include "controls/grid/FlexGrid.h"
+#include "db/AlbumSums.h"
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
 #include "pictures/ImgX.h"
@@ -43,6 +43,12 @@ QImage PaintThumbnail(const QString& FileName) {
                        static_cast<int>(std::lround(Source.height() / Overshoot)));
     return Source.copy(QRect({}, Inside.expandedTo({1, 1})))
         .scaled(ThumbnailSize, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+QImage Built(const QString& FileName) {
+    QImage Painted;
+    for (int Pass = 0; Pass < Passes; ++Pass) Painted = PaintThumbnail(FileName);
+    return Painted;
 }
 
 std::int32_t KeyIn(const FlexGrid& Grid, int Row, int Col) {
@@ -85,14 +91,26 @@ bool clsImageBuffer::LoadSlide(FlexGrid& TargetGrid, std::int32_t TargetRow, std
     const int Found = BufferGrid->Rows() > 0 ? FindSlide(Slide.SlideID) : -1;
     if (Found >= 0) {
         mRow = Found;
+        const bool Renewed = RenewPath(AlbumID, FullPath(AlbumID, Slide.SlideLoc));
         CopyTexts(TargetGrid, TargetRow, KeepCaption);
-        if (ThumbnailStale(BufferGrid->TextMatrix(mRow, ColPath), mRow)) RunLoad(LoadingForm);
+        if (Renewed || ThumbnailStale(BufferGrid->TextMatrix(mRow, ColPath), mRow))
+            RunLoad(LoadingForm);
     } else {
         AddSlide(AlbumID, Slide, FullPath(AlbumID, Slide.SlideLoc));
         RunLoad(LoadingForm);
         CopyTexts(TargetGrid, TargetRow, false);
     }
     TargetGrid.SetCellPicture(TargetRow, ColPicture, BufferGrid->CellPicture(mRow, ColPicture));
+    return true;
+}
+
+// A slide that was listed before it had its picture, or has another one by now.
+bool clsImageBuffer::RenewPath(std::int32_t AlbumID, const QString& Path) {
+    if (BufferGrid->TextMatrix(mRow, ColPath) == Path) return false;
+    BufferGrid->SetTextMatrix(mRow, ColPath, Path);
+    BufferGrid->SetTextMatrix(mRow, ColAlbumID, QString::number(AlbumID));
+    BufferGrid->SetCellData(mRow, ColAlbumID, double(AlbumID));
+    BufferGrid->SetCellPicture(mRow, ColPicture, {});
     return true;
 }
 
@@ -171,22 +189,32 @@ void clsImageBuffer::Show(const QImage& Picture) {
     if (mLoadingForm) mLoadingForm->ShowPicture(Picture);
 }
 
+// Null when it is not there, not trusted or cannot be read.
+QImage clsImageBuffer::TrustedThumbnail(const QString& FileName) const {
+    const QString Small = SmallFile(FileName);
+    if (!UseSmallFiles || !FileExists(Small)) return {};
+    try {
+        return LoadPicture(Small);
+    } catch (const Fault&) {
+        return {};
+    }
+}
+
 QImage clsImageBuffer::Thumbnail(const QString& FileName) const {
     if (FileName.isEmpty() || !FileExists(FileName)) return {};
-    const QString Small = SmallFile(FileName);
-    if (UseSmallFiles && FileExists(Small)) return LoadPicture(Small);
-    QImage Painted;
-    for (int Pass = 0; Pass < Passes; ++Pass) Painted = PaintThumbnail(FileName);
-    return Painted;
+    const QImage Trusted = TrustedThumbnail(FileName);
+    if (!Trusted.isNull()) return Trusted;
+    return Built(FileName);
 }
 
 bool clsImageBuffer::ReadThumbnail(const QString& FileName, FlexGrid& Grid, int Row) {
     if (FileName.isEmpty() || !FileExists(FileName)) return true;
     const bool Exists = FileExists(SmallFile(FileName));
     if (Exists) StampThumbnail(FileName, Row);
-    Grid.SetCellPicture(Row, ColPicture, Thumbnail(FileName));
+    const QImage Trusted = TrustedThumbnail(FileName);
+    Grid.SetCellPicture(Row, ColPicture, Trusted.isNull() ? Built(FileName) : Trusted);
     Show(Grid.CellPicture(Row, ColPicture));
-    if (!Exists) SaveThumbnail(Grid, Row);
+    if (Trusted.isNull() && (UseSmallFiles || !Exists)) SaveThumbnail(Grid, Row);
     return true;
 }
 
@@ -194,9 +222,12 @@ void clsImageBuffer::SaveThumbnail(const FlexGrid& Grid, int Row) const {
     if (ReadOnlyDB) return;
     const QString Path = SlidesFolder(DBEngine->DBPath(), KeyIn(Grid, Row, ColAlbumID)) +
                          ThumbnailName(KeyIn(Grid, Row, ColSlideID));
-    DropFile(Path);
     try {
-        StoreFile(Path, ThumbnailBmp(Grid.CellPicture(Row, ColPicture)));
+        const QByteArray Bytes = ThumbnailBmp(Grid.CellPicture(Row, ColPicture));
+        if (NameExists(Path))
+            StoreAnew(Path, Bytes);
+        else
+            StoreNew(Path, Bytes);  // not flushed: a thousand of them are made while a list is read
     } catch (const Fault&) {
         // the picture in the row is good; the next request tries again
     }

@@ -3,7 +3,8 @@
 //
 // The rows live in a hidden grid of the main window, one a slide, found by the slide's number.
 // Each request reads the small bitmap file again, so that a thumbnail deleted by a save is built
-// anew without any word between the windows and the buffer.
+// anew without any word between the windows and the buffer; so is one that cannot be read. The path
+// of the picture is the slide's own at each request.
 #pragma once
 
 #include <QString>
@@ -45,13 +46,15 @@ class clsImageBuffer : public ProgressParent {
                    const clsNEBSlide& Slide, const std::shared_ptr<frmLoading>& LoadingForm,
                    bool KeepCaption);
     // The thumbnail of a picture of any database: from the small file beside it when that is there
-    // and trusted, else built. Keeps and writes nothing; null when there is no such picture, a
-    // Fault when it cannot be decoded.
+    // and trusted and can be read, else built. Keeps and writes nothing; null when there is no such
+    // picture, a Fault when it cannot be decoded.
     QImage Thumbnail(const QString& FileName) const;
     void DoActivity() override;  // for the progress windows alone
 
   private:
     int FindSlide(std::int32_t SlideID) const;
+    bool RenewPath(std::int32_t AlbumID, const QString& Path);
+    QImage TrustedThumbnail(const QString& FileName) const;
     void AddSlide(std::int32_t AlbumID, const clsNEBSlide& Slide, const QString& Path);
     void SetKeys(std::int32_t AlbumID, const clsNEBSlide& Slide);
     void CopyTexts(FlexGrid& TargetGrid, std::int32_t TargetRow, bool KeepCaption) const;

@@ -290,7 +290,7 @@ TEST_F(ImportSave, StopsAtTheFullDiskAndKeepsWhatIsIn) {
     const std::int32_t AlbumID = MakeAlbum(u"Garden"_s);
     Show(AlbumID);
     SetHostWatcher([&](HostStep Step, const QString& Path, qint64& Length) {
-        if (Step == HostStep::Write && Path.endsWith(u"00000002.jpg")) Length = 10;
+        if (Step == HostStep::Write && Path.endsWith(u"00000002.jpg.new")) Length = 10;
     });
     Boxes.Expect(u"The file cannot be written. (no space left on device)\n"_s +
                      Stored(AlbumID, "00000002.jpg") + u"\n\n1 of 3 slides were imported before."_s,
@@ -311,7 +311,7 @@ TEST_F(ImportSave, LeavesNothingOfAPictureWhoseThumbnailFindsNoRoom) {
     const std::int32_t AlbumID = MakeAlbum(u"Garden"_s);
     Show(AlbumID);
     SetHostWatcher([&](HostStep Step, const QString& Path, qint64& Length) {
-        if (Step == HostStep::Write && Path.endsWith(u"Small.bmp")) Length = 10;
+        if (Step == HostStep::Write && Path.endsWith(u"Small.bmp.new")) Length = 10;
     });
     Boxes.Expect(u"The file cannot be written. (no space left on device)\n"_s +
                  Stored(AlbumID, "00000001Small.bmp") +

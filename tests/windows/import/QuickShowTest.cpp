@@ -189,7 +189,7 @@ TEST_F(QuickShow, LeavesNothingOfAShowOnAFullDisk) {
     Show(2, u"Trip"_s);
     LeaveTheShow();
     SetHostWatcher([](HostStep Step, const QString& Path, qint64& Length) {
-        if (Step == HostStep::Write && Path.endsWith(u"00000002Small.bmp")) Length = 1;
+        if (Step == HostStep::Write && Path.endsWith(u"00000002Small.bmp.new")) Length = 1;
     });
     Boxes.Expect(
         u"Failed to save slide #2\nThe file cannot be written. (no space left on device)\n"_s +

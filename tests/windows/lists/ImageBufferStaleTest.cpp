@@ -97,6 +97,7 @@ TEST_F(StaleThumbnail, AnUpdateByForceReadsARowThatWouldBeTrusted) {
 TEST_F(StaleThumbnail, AnUpdateReadsARowWhoseFileHasAnotherName) {
     Store.UseSmallFiles = false;
     EXPECT_EQ("red", Update(false));
+    QTest::qWait(20);  // so that the folder's time stamp tells that somebody else was there
     MakePicture(Folder() + u"00000001.png"_s, 60, 40, Qt::blue);
     Slide->SlideLoc = u"00000001.PNG"_s;
     EXPECT_EQ("blue", Update(false));

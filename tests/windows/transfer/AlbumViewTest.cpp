@@ -63,7 +63,7 @@ TEST_F(AlbumView, NeverWritesIntoAnotherDatabase) {
     AddSlides(Other, {u"a"_s, u"b"_s});
     QImage Grey(72, 72, QImage::Format_RGB32);
     Grey.fill(Qt::gray);
-    StoreFile(SmallPath(Other, 1), ThumbnailBmp(Grey));
+    WriteFile(SmallPath(Other, 1), ThumbnailBmp(Grey));
     Other.FinalizeDB();
     const QStringList Before = Everything(OtherDb.Path());
     EXPECT_GT(Before.size(), 10);
@@ -92,7 +92,7 @@ TEST_F(AlbumView, UsesTheSmallFileOfAnotherDatabaseOnlyWhileThoseAreTrusted) {
     AddSlide(Other, u"a"_s, Qt::red);
     QImage Green(72, 72, QImage::Format_RGB32);
     Green.fill(Qt::green);
-    StoreFile(SmallPath(Other, 1), ThumbnailBmp(Green));
+    WriteFile(SmallPath(Other, 1), ThumbnailBmp(Green));
     EXPECT_EQ(qRgb(0, 255, 0), ColourIn(*ViewAlbum(Other), 0));
     Buffer.UseSmallFiles = false;
     const auto Built = ViewAlbum(Other);
