@@ -139,6 +139,23 @@ TEST_F(TrackFault, AtAnyStepLeavesTheShowAndItsFilesAsTheyWere) {
     ExpectSaved();
 }
 
+TEST_F(TrackFault, FilesAndTheirNamesAreFlushedBeforeTheRecordNamesThem) {
+    QStringList Steps;
+    SetHostWatcher([&](HostStep Step, const QString&, qint64&) {
+        if (Step == HostStep::Sync) Steps << u"file"_s;
+        if (Step == HostStep::Rename) Steps << u"name"_s;
+        if (Step == HostStep::SyncDir) Steps << u"folder"_s;
+    });
+    Engine.Listeners.Noted = [&](const Change&) { Steps << u"record"_s; };
+    Save(Content);
+    Engine.Listeners.Noted = {};
+    const qsizetype Record = Steps.indexOf(u"record"_s);
+    ASSERT_GT(Record, 2);
+    EXPECT_EQ("folder", Steps[Record - 1].toStdString());
+    EXPECT_EQ("name", Steps[Record - 2].toStdString());
+    EXPECT_LT(Steps.lastIndexOf(u"file"_s), Steps.lastIndexOf(u"name"_s));
+}
+
 TEST_F(TrackFault, ASourceThatIsMissingLeavesTheShowAndItsFilesAsTheyWere) {
     for (const size_t Row : {0u, 1u, 2u, 4u}) {
         const QString File = Content.Tracks[Row].SoundTrackLoc;
