@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "albums/modImport.h"
+#include "db/AlbumSums.h"
 #include "db/modAlbumFiles.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
@@ -135,11 +136,14 @@ TrackCopies::~TrackCopies() {
 }
 
 void TrackCopies::TakeBack(const Step& What) {
-    if (!What.Placed) DropFile(What.Made);
+    if (!What.Placed)
+        DropFile(What.Made);
+    else if (!What.Replaces)
+        DropStored({What.To});
     if (What.Before.isEmpty()) return;
     if (!What.Placed) return DropFile(What.Before);
     try {
-        RenameFile(What.Before, What.To);
+        PutStored(What.Before, What.To);
     } catch (const std::exception&) {
         return;  // the fault before is the one to tell; the file is still there under that name
     }
@@ -154,8 +158,7 @@ void TrackCopies::Make(const Yield& LetRun) {
 }
 
 void TrackCopies::MakeOne(const TrackPlan::Copy& What, const Yield& LetRun) {
-    const bool Replaces = NameExists(What.To);
-    mSteps.push_back({What.To, Replaces ? What.To + QStringLiteral(".new") : What.To, {}});
+    mSteps.push_back({What.To, What.To + QStringLiteral(".new"), {}, NameExists(What.To)});
     CopyFile(What.From, mSteps.back().Made, LetRun);
 }
 
@@ -163,7 +166,7 @@ void TrackCopies::MakeOne(const TrackPlan::Copy& What, const Yield& LetRun) {
 // often just what the user wants to replace: it is not worth the save.
 void TrackCopies::HoldReplaced(const Yield& LetRun) {
     for (Step& Each : mSteps) {
-        if (Each.Made == Each.To) continue;
+        if (!Each.Replaces) continue;
         const QString Before = Each.To + QStringLiteral(".old");
         if (LinkFile(Each.To, Before) || CanBeHeld(Each.To, Before, LetRun)) Each.Before = Before;
     }
@@ -171,8 +174,7 @@ void TrackCopies::HoldReplaced(const Yield& LetRun) {
 
 void TrackCopies::PutInPlace() {
     for (Step& Each : mSteps) {
-        if (Each.Made == Each.To) continue;
-        RenameFile(Each.Made, Each.To);
+        PutStored(Each.Made, Each.To);
         Each.Placed = true;
     }
     if (!mSteps.empty()) SyncDir(mPlan.Folder);
@@ -185,7 +187,7 @@ void TrackCopies::Keep() {
 }
 
 void TrackCopies::DropUnused() {
-    for (const QString& Each : mPlan.Deletions) DropFile(Each);
+    DropStored({mPlan.Deletions.begin(), mPlan.Deletions.end()});
 }
 
 }  // namespace neb

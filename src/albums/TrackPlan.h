@@ -41,20 +41,19 @@ class TrackCopies {
     TrackCopies& operator=(const TrackCopies&) = delete;
 
     const TrackPlan& Plan() const { return mPlan; }
-    // Makes all copies, flushed, and lets go of none of the files that are there: what will take
-    // the place of one has a name of its own until then. LetRun is called all the while. Throws
-    // Fault.
+    // Makes all copies, flushed, under names of their own, and lets go of none of the files that
+    // are there. LetRun is called all the while. Throws Fault.
     void Make(const Yield& LetRun);
-    void PutInPlace();  // by renaming, flushed. Throws Fault
+    void PutInPlace();  // by renaming, flushed, with their lines in the album's sums. Throws Fault
     void Keep();        // from here on nothing is taken back
     void DropUnused();  // what cannot be deleted stays
 
   private:
     struct Step {
         QString To;
-        QString Made;    // where the copy is; To itself where nothing stood in its way
+        QString Made;    // where the copy is until then
         QString Before;  // where the file lies meanwhile that this one takes the place of
-        bool Placed = false;
+        bool Replaces = false, Placed = false;
     };
     void MakeOne(const TrackPlan::Copy& What, const Yield& LetRun);
     void HoldReplaced(const Yield& LetRun);
