@@ -67,7 +67,7 @@ void clsDBEngine::InitializeDB(Recovery How) {
     mFound = {};
     mLeft.reset();
     LoadRecords(How);
-    mIsStored = HasRecords(mDBPath);
+    mWasThere = IsDatabaseThere(mDBPath);
     if (Session.Is == FoundSession::State::Goes) {
         BringBack(*this, *Session.Left, mFound);
         mLeft = Session.Left->End;
@@ -128,11 +128,11 @@ void clsDBEngine::LoadFrom(const RecordSource& Source) {
 
 std::optional<Fault> clsDBEngine::FinalizeDB() {
     const SessionPause Pause(mSession.get());
-    if (mIsStored && !HasRecords(mDBPath))
+    if (mWasThere && !IsDatabaseThere(mDBPath))
         throw Fault(QStringLiteral("The database is not there any more."), mDBPath);
     if (mSession || mLeft) SyncIfPossible(mDBPath);
     std::optional<Fault> NotKept = WriteDatabase(mDBPath, BuildImage(*this));
-    mIsStored = true;
+    mWasThere = true;
     if (mSession) mSession->Restart();
     return NotKept;
 }
