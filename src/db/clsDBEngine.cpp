@@ -128,9 +128,9 @@ void clsDBEngine::LoadFrom(const RecordSource& Source) {
 
 std::optional<Fault> clsDBEngine::FinalizeDB() {
     const SessionPause Pause(mSession.get());
+    if (mSession || mLeft) SyncIfPossible(mDBPath);
     if (mWasThere && !IsDatabaseThere(mDBPath))
         throw Fault(QStringLiteral("The database is not there any more."), mDBPath);
-    if (mSession || mLeft) SyncIfPossible(mDBPath);
     std::optional<Fault> NotKept = WriteDatabase(mDBPath, BuildImage(*this));
     mWasThere = true;
     if (mSession) mSession->Restart();
