@@ -80,7 +80,7 @@ void clsDBEngine::InitializeDB(Recovery How) {
     mFound = {};
     mLeft.reset();
     LoadRecords(How);
-    mIsStored = HasRecords(mDBPath);
+    mWasThere = IsDatabaseThere(mDBPath);
     if (Session.Is == FoundSession::State::Goes) {
         BringBack(*this, *Session.Left, mFound);
         mLeft = Session.Left->End;
@@ -145,14 +145,14 @@ std::optional<Fault> clsDBEngine::FinalizeDB() {
     // The session's journal has flushed the files with what it has stored.
     const bool AreFlushed = mSession && IsSessionStored();
     const SessionPause Pause(mSession.get());
-    if (mIsStored && !HasRecords(mDBPath))
-        throw Fault(QStringLiteral("The database is not there any more."), mDBPath);
     if (mHasNewFiles && !AreFlushed)
         SyncVolume(mDBPath);
     else if (mSession || mLeft)
         SyncIfPossible(mDBPath);
+    if (mWasThere && !IsDatabaseThere(mDBPath))
+        throw Fault(QStringLiteral("The database is not there any more."), mDBPath);
     std::optional<Fault> NotKept = WriteDatabase(mDBPath, BuildImage(*this));
-    mIsStored = true;
+    mWasThere = true;
     mHasNewFiles = false;
     if (mSession) mSession->Restart();
     return NotKept;

@@ -142,7 +142,7 @@ class clsDBEngine {
     QString mDBPath;
     QString mProgramPath;
     LeftBehind mFound;
-    bool mIsStored = false;           // there are records of it on the disk
+    bool mWasThere = false;           // something of it lay on the disk
     std::optional<SessionEnd> mLeft;  // where the journal of the session before goes on
     std::unique_ptr<SessionJournal> mSession;
     bool mHasNewFiles = false;  // that records name, since all was written

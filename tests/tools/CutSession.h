@@ -62,8 +62,6 @@ class CutSession {
     };
 
     CutSession() {
-        for (const char* Name : {"one.mp3", "two.mp3", "three.wav"})
-            WriteFile(mSounds / QLatin1String(Name), QByteArray("sound ") + Name);
         MemoryFolder Dir;
         clsDBEngine Engine;
         Begin(Engine, Dir.Path());
@@ -214,7 +212,8 @@ class CutSession {
             Changes Door(Engine);
             EXPECT_TRUE(NewAlbum(Door, Engine, Name));
         };
-        static const QString Folder = Sounds().Path();
+        static const SoundFolder Sounds;
+        static const QString Folder = Sounds.Dir.Path();
         static const std::vector<Step> All = {
             {"an album is made", true, [](auto& E) { MakeAlbum(E, u"Garden"_s); }},
             {"picture 1 comes in", true, [](auto& E) { Enter(E, 1, u"one"_s); }},
@@ -248,12 +247,14 @@ class CutSession {
         };
         return All;
     }
-    static const MemoryFolder& Sounds() {
-        static const MemoryFolder Folder;
-        return Folder;
-    }
+    struct SoundFolder {
+        MemoryFolder Dir;
+        SoundFolder() {
+            for (const char* Name : {"one.mp3", "two.mp3", "three.wav"})
+                WriteFile(Dir / QLatin1String(Name), QByteArray("sound ") + Name);
+        }
+    };
 
-    const MemoryFolder& mSounds = Sounds();
     std::vector<Content> mStates;  // before the first step, and behind each
 };
 

@@ -38,7 +38,7 @@ TEST(SessionCrash, ALossOfPowerAtAnyStepLosesNothing) {
 // The session is cut at step First, the start behind it at some of its own steps, others for each
 // First, and once more a step later.
 bool CutTheStarts(const CutSession& Session, int First, Kill How) {
-    constexpr int Stride = 13;
+    constexpr int Stride = 17;
     for (int Second = 1 + First % Stride;; Second += Stride) {
         MemoryFolder Dir;
         const Progress Told;
@@ -57,7 +57,7 @@ bool CutTheStarts(const CutSession& Session, int First, Kill How) {
 
 void CutEachStart(Kill How) {
     const CutSession Session;
-    constexpr int Stride = 5;
+    constexpr int Stride = 7;
     for (int First = 1; CutTheStarts(Session, First, How); First += Stride) {
         ASSERT_FALSE(::testing::Test::HasFailure());
         ASSERT_LT(First, MostSteps);

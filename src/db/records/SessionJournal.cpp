@@ -4,6 +4,7 @@
 #include <QDateTime>
 #include <QList>
 #include <QtEndian>
+#include <algorithm>
 #include <condition_variable>
 #include <mutex>
 #include <thread>
@@ -126,8 +127,10 @@ QString SessionJournalPath(const QString& DBPath) {
     return GetFilePath(JournalPath(DBPath)) + QStringLiteral("Session.journal");
 }
 
-bool HasRecords(const QString& DBPath) {
-    return FileExists(RecordPath(DBPath, RecordFile::NextIDs)) || FileExists(JournalPath(DBPath));
+bool IsDatabaseThere(const QString& DBPath) {
+    return FolderExists(DBPath + QStringLiteral("Temp/")) ||
+           std::any_of(AllRecordFiles.begin(), AllRecordFiles.end(),
+                       [&](RecordFile File) { return FileExists(RecordPath(DBPath, File)); });
 }
 
 QByteArray SumOfRecords(const QString& DBPath) {
@@ -152,7 +155,7 @@ struct SessionJournal::State {
           std::chrono::milliseconds After)
         : DBPath(Path),
           RetryAfter(After),
-          HadRecords(HasRecords(Path)),
+          WasThere(IsDatabaseThere(Path)),
           Good(From.value_or(SessionEnd())) {}
 
     void Run() {
@@ -207,9 +210,8 @@ struct SessionJournal::State {
     }
     // Under another name first: what was flushed before a write failed is not lost meanwhile.
     void Open() {
-        if (!FolderExists(DBPath) || (HadRecords && !HasRecords(DBPath)))
+        if (!FolderExists(DBPath) || (WasThere && !IsDatabaseThere(DBPath)))
             throw Fault(QStringLiteral("The database is not there any more."), DBPath);
-        HadRecords = HasRecords(DBPath);
         Mark = MarkOf(DBPath);
         const QString Path = SessionJournalPath(DBPath);
         const QByteArray Before = Beginning();
@@ -220,18 +222,22 @@ struct SessionJournal::State {
         RenameFile(UnfinishedPath(DBPath), Path);
         SyncDir(GetFilePath(Path));
         Good = Written = {Before.size(), Before.last(CheckLength)};
+        WasThere = true;
     }
     // What stands before the next entry: all that was stored, as long as it goes with the records
     // that are there; a new head where they were written since.
-    QByteArray Beginning() const {
+    QByteArray Beginning() {
         const QByteArray Sum = SumOfRecords(DBPath);
-        if (Good.Length == 0) return HeadOf(Sum);
         const QString Path = SessionJournalPath(DBPath);
-        if (!FileExists(Path) && HasRecords(DBPath)) return HeadOf(Sum);
-        const QByteArray Bytes = ReadFile(Path);
-        if (Bytes.size() >= Good.Length && BaseIn(Bytes) == Sum) return Bytes.first(Good.Length);
-        if (ReadJournal(DBPath) == JournalState::Whole) return HeadOf(Sum);
-        throw Fault(QStringLiteral("The records have been replaced by others."), DBPath);
+        if (Good.Length > 0 && FileExists(Path)) {
+            const QByteArray Bytes = ReadFile(Path);
+            if (Bytes.size() >= Good.Length && BaseIn(Bytes) == Sum)
+                return Bytes.first(Good.Length);
+            if (ReadJournal(DBPath) != JournalState::Whole)
+                throw Fault(QStringLiteral("The records have been replaced by others."), DBPath);
+        }
+        Good = {};
+        return HeadOf(Sum);
     }
     void Put(const QByteArray& Entry) {
         Written.Check = CheckOf(Written.Check, Entry);
@@ -264,7 +270,7 @@ struct SessionJournal::State {
     bool Ends = false, Asked = false, IsStoring = false, IsHeld = false;
     quint64 Tries = 0, LastFailed = 0;
     // of the thread, while it stores
-    bool HadRecords;
+    bool WasThere;
     std::optional<HostWriter> Writer;
     QByteArray Mark;           // of the records when it was opened
     SessionEnd Good, Written;  // what is on the disk; what was written

@@ -19,9 +19,9 @@ namespace neb {
 
 QString SessionJournalPath(const QString& DBPath);
 
-// Whether there is a database at all, or a write of one that has begun: a disk that was taken away
-// leaves an empty directory, in which nobody would look for what is written there.
-bool HasRecords(const QString& DBPath);
+// Whether there is anything of a database: a disk that was taken away leaves an empty directory, in
+// which nobody would look for what is written there.
+bool IsDatabaseThere(const QString& DBPath);
 
 // The records that are there now, as a check sum over the content of all eight files: as a whole
 // journal has them where there is one, for they are written from it. Throws Fault when they cannot

@@ -182,6 +182,8 @@ void WriteFiles(const QString& DBPath, const RecordImage& Image,
 std::optional<Fault> CarryOut(const QString& DBPath, const RecordImage& Image, FilesThere Are) {
     std::optional<Fault> NotKept;
     if (Are == FilesThere::Whole) NotKept = KeepGenerationBefore(DBPath, Image);
+    if (!FileExists(JournalPath(DBPath)))  // the disk was taken away: what is here is not it
+        throw Fault(QStringLiteral("The database is not there any more."), DBPath);
     for (const RecordFile File :
          {RecordFile::Properties, RecordFile::EffectStats, RecordFile::NextIDs})
         WriteFiles(DBPath, Image, std::span(&File, 1));
