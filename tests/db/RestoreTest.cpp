@@ -94,6 +94,15 @@ TEST_F(Restore, TheCountersNeverGoDown) {
     EXPECT_EQ(Engine->NextSlideShowID, 5);
 }
 
+TEST_F(Restore, TheCountersGoAboveFilesThatNoRecordNames) {
+    const auto Engine = OpenEngine(Dir.Path());
+    MakeDirs(SlidesFolder(Dir.Path(), 70));
+    WriteFile(SlidesFolder(Dir.Path(), 70) + u"00000090.jpg"_s, "stray");
+    RestoreState(*Engine, *Oldest(*Engine));
+    EXPECT_EQ(Engine->NextAlbumID, 71);
+    EXPECT_EQ(Engine->NextSlideID, 91);
+}
+
 TEST_F(Restore, CountersThatAreTooLowForTheRecordsAreRaised) {
     const auto Engine = OpenEngine(Dir.Path());
     const auto Then = Oldest(*Engine);

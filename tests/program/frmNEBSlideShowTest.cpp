@@ -602,7 +602,7 @@ TEST_F(MainWindow, SystemInformationStartsTheToolThatTheDesktopHas) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return FileExists(mProgram / "started"); }, 3000));
 }
 
-// A journal in a folder that cannot be looked into may hold newer records.
+// A journal that cannot be read may hold newer records.
 TEST_F(MainWindow, ADatabaseThatCannotBeReadIsToldAndNothingIsWritten) {
     Start();
     SaveAlbum("Holidays");
