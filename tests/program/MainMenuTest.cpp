@@ -16,6 +16,7 @@
 #include "controls/fields/Icons.h"
 #include "program/frmHelp.h"
 #include "support/Fault.h"
+#include "windows/albums/frmCheckPictures.h"
 #include "windows/frame/modNotice.h"
 #include "windows/frame/modWindowState.h"
 #include "windows/import/frmQuickShow.h"
@@ -68,6 +69,18 @@ TEST_F(TheMenu, HelpOpensAtItsContentsAndAtItsIndex) {
     Press("mnuHelpIndex");
     EXPECT_TRUE(QTest::qWaitFor([this] { return TopOfHelp() == "By name"; }, 2000))
         << TopOfHelp().toStdString();
+}
+
+TEST_F(TheMenu, AllPicturesAreCheckedFromTheFileMenu) {
+    Start();
+    bool Opened = false;
+    WhenOpen<frmCheckPictures>([&](frmCheckPictures& Window) {
+        Opened = true;
+        QTest::qWaitFor([&] { return Window.Unload(); }, 2000);
+    });
+    Press("mnuCheckPictures");
+    EXPECT_TRUE(Opened);
+    EXPECT_FALSE(Find<frmCheckPictures>());
 }
 
 TEST_F(TheMenu, TheHelpThatComesWithTheProgramHasItsPlaces) {

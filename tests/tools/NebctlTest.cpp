@@ -442,7 +442,7 @@ TEST_F(NebctlTest, AFullDiskIsReportedOnErr) {
 TEST_F(NebctlTest, WrongUsageIsTwo) {
     EXPECT_EQ(Tool({}).Code, 2);
     EXPECT_TRUE(Tool({}).Err.contains(u"Usage:"));
-    for (const char* Name : {"dump", "check", "rewrite", "history"}) {
+    for (const char* Name : {"dump", "check", "rewrite", "history", "adopt"}) {
         const QString Command = QLatin1String(Name);
         EXPECT_EQ(Tool({Command}).Code, 2);
         EXPECT_EQ(Tool({Command, Dir.Path(), Dir.Path()}).Code, 2);

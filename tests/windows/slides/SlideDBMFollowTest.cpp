@@ -164,9 +164,9 @@ TEST_F(SlideDBMFollow, ATurnedSlideThatWasDeletedIsKeptWhenTheDiskIsFullAtFirst)
     SetHostWatcher([](HostStep Step, const QString& Path, qint64& Length) {
         if (Step == HostStep::Write && Path.contains(u".jpg"_s)) Length = 1;
     });
-    Boxes.Expect(u"The file cannot be written. (no space left on device)\n"_s +
-                     Stored(u"00000002.jpg.new"_s),
-                 u"Operation Failed"_s);
+    Boxes.Expect(
+        u"The file cannot be written. (no space left on device)\n"_s + Stored(u"00000002.jpg"_s),
+        u"Operation Failed"_s);
     InFirst([&] { Push("cmdSave"); });
     SetHostWatcher({});
     InFirst([&] { Push("cmdSave"); });

@@ -20,9 +20,8 @@ class SlideDBMSave : public SlideRig {
         });
     }
     void ExpectFullDisk(const QString& Name) {
-        Boxes.Expect(
-            u"The file cannot be written. (no space left on device)\n"_s + Stored(Name) + u".new"_s,
-            u"Operation Failed"_s);
+        Boxes.Expect(u"The file cannot be written. (no space left on device)\n"_s + Stored(Name),
+                     u"Operation Failed"_s);
     }
 };
 
@@ -303,7 +302,7 @@ TEST_F(SlideDBMSave, AFolderThatMayNotBeWrittenIsSaidAndTheNextSaveSucceeds) {
     {
         const WithoutPrivileges User;
         Boxes.Expect(
-            u"The file cannot be written. (Permission denied)\n"_s + Stored(u"00000001.jpg.new"_s),
+            u"The file cannot be written. (Permission denied)\n"_s + Stored(u"00000001.jpg"_s),
             u"Operation Failed"_s);
         Push("cmdSave");
     }

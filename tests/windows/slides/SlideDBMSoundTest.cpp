@@ -167,9 +167,9 @@ TEST_F(SlideDBMSound, AFullDiskKeepsTheRecordingForTheNextSave) {
     SetHostWatcher([](HostStep Step, const QString& Path, qint64& Length) {
         if (Step == HostStep::Write && Path.contains(u"00000001.wav")) Length = 5;
     });
-    Boxes.Expect(u"The file cannot be written. (no space left on device)\n"_s +
-                     Stored(u"00000001.wav.new"_s),
-                 u"Operation Failed"_s);
+    Boxes.Expect(
+        u"The file cannot be written. (no space left on device)\n"_s + Stored(u"00000001.wav"_s),
+        u"Operation Failed"_s);
     Push("cmdSave");
     EXPECT_EQ("old sound", StoredSound(ID));
     EXPECT_TRUE(Dirty());
