@@ -14,10 +14,10 @@ namespace neb {
 void MakeAlbumFolders(const clsDBEngine& theDB, std::int32_t AlbumID) {
     const QString Album = AlbumFolder(theDB.DBPath(), AlbumID);
     const bool IsNew = !NameExists(Album);
-    MakeDirs(Album);
+    MakeDirsIn(theDB.DBPath(), Album);
     if (IsNew) BeginAlbumSums(Album);
-    MakeDirs(SoundTracksFolder(theDB.DBPath(), AlbumID));
-    MakeDirs(SlidesFolder(theDB.DBPath(), AlbumID));
+    MakeDirsIn(theDB.DBPath(), SoundTracksFolder(theDB.DBPath(), AlbumID));
+    MakeDirsIn(theDB.DBPath(), SlidesFolder(theDB.DBPath(), AlbumID));
 }
 
 Answer<Announcement> NewAlbum(Changes& Door, clsDBEngine& theDB, const QString& AlbumName) {

@@ -70,6 +70,8 @@ struct CutShort {
     QString Said;
 
     void Run(const QString& Dir) {
+        // a step that fails half way has changed something, and takes it back
+        Engine.Listeners.Noted = [this](const Change&) { Since.push_back(ContentOf(Engine)); };
         try {
             CutSession::Begin(Engine, Dir);
             Note();

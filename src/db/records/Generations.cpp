@@ -229,7 +229,7 @@ QString FreePath(const QString& DBPath, qint64 Saved) {
 
 void MakeFolder(const QString& DBPath) {
     if (FolderExists(GenerationsFolder(DBPath))) return;
-    MakeDirs(GenerationsFolder(DBPath));
+    MakeDirsIn(DBPath, GenerationsFolder(DBPath));
     SyncDir(DBPath);
 }
 

@@ -105,7 +105,7 @@ void NoteRecords(const QString& DBPath) {
             const QString Path = RecordPath(DBPath, File);
             Text += LineOf(NameExists(Path) ? NotedAt(Path) : Noted());
         }
-        MakeDirs(GetFilePath(RecordSumsPath(DBPath)));
+        MakeDirsIn(DBPath, GetFilePath(RecordSumsPath(DBPath)));
         ReplaceFile(RecordSumsPath(DBPath), Text + SumOfText(Text));
         SyncDir(GetFilePath(RecordSumsPath(DBPath)));
     } catch (const Fault&) {

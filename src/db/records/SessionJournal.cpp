@@ -106,7 +106,7 @@ QString UnfinishedPath(const QString& DBPath) {
 
 // Also the names of folders that somebody else has made a moment ago.
 void MakeFolderOf(const QString& DBPath) {
-    MakeDirs(GetFilePath(SessionJournalPath(DBPath)));
+    MakeDirsIn(DBPath, GetFilePath(SessionJournalPath(DBPath)));
     SyncDir(DBPath + QStringLiteral("Temp/"));
     SyncDir(DBPath);
 }

@@ -131,7 +131,7 @@ class Settling {
         }
     }
     void MakeFolder(const QString& Folder) {
-        MakeDirs(Folder);
+        MakeDirsIn(mDBPath, Folder);
         for (QString Each = Folder; Each.size() > mDBPath.size(); Each = GetParentDir(Each))
             mTouched.insert(Each);
         mTouched.insert(mDBPath);
@@ -172,7 +172,7 @@ QString StagingFolder(const QString& DBPath) {
 
 void NoteStagedChange(const QString& DBPath, const StagedChange& Change,
                       const QByteArray& JournalSum) {
-    MakeDirs(StagingFolder(DBPath));
+    MakeDirsIn(DBPath, StagingFolder(DBPath));
     WriteNote(DBPath, {JournalSum, Change});
     SyncDir(DBPath + QStringLiteral("Temp/"));
     SyncDir(DBPath);

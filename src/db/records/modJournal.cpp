@@ -151,7 +151,7 @@ void SyncJournalNames(const QString& DBPath) {
 // BeforeItIsWhole gets its check sum.
 void WriteJournal(const QString& DBPath, const RecordImage& Image,
                   const std::function<void(const QByteArray& Sum)>& BeforeItIsWhole = {}) {
-    MakeDirs(JournalFolder(DBPath));
+    MakeDirsIn(DBPath, JournalFolder(DBPath));
     try {
         const QByteArray Sum = WriteUnfinishedJournal(DBPath, Image);
         if (BeforeItIsWhole) BeforeItIsWhole(Sum);

@@ -255,6 +255,19 @@ void MakeDirs(const QString& Dir) {
     if (!QDir().mkpath(Host)) throw Fault(QStringLiteral("The directory cannot be made."), Dir);
 }
 
+void MakeDirsIn(const QString& Base, const QString& Dir) {
+    const QString Host = ResolvePath(Dir);
+    if (QFileInfo(Host).isDir()) return;
+    AnnounceStep(HostStep::MakeDir, Dir);
+    for (qsizetype End = Base.size(); End < Dir.size(); ++End) {
+        End = Dir.indexOf(u'/', End);
+        if (End < 0) End = Dir.size();
+        const QString Part = ResolvePath(Dir.first(End));
+        if (!QDir().mkdir(Part) && !QFileInfo(Part).isDir())
+            throw Fault(QStringLiteral("The directory cannot be made."), Dir);
+    }
+}
+
 void DeleteTree(const QString& Dir) {
     if (FolderExists(Dir)) DropTree(NativePath(Dir));
 }

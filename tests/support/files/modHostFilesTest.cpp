@@ -293,6 +293,17 @@ TEST(HostFiles, AFileThatCannotGoKeepsNoOtherFromGoing) {
     EXPECT_EQ(ListMask(Dir / "*.*"), QStringList("b"));
 }
 
+TEST(HostFiles, BelowAFolderThatIsGoneNothingIsMade) {
+    const TempFolder Dir;
+    const QString Base = Dir / "disk/";
+    EXPECT_THROW(MakeDirsIn(Base, Base + "Temp/Journal/"), Fault);
+    EXPECT_FALSE(FolderExists(Base));
+    MakeDirs(Base);
+    MakeDirsIn(Base, Base + "Temp/Journal/");
+    EXPECT_TRUE(FolderExists(Base + "Temp/Journal"));
+    MakeDirsIn(Base, Base + "Temp");  // as it is
+}
+
 TEST(HostFiles, OnlyRelativePathsAreMadeAbsolute) {
     EXPECT_EQ(AbsolutePath("db", "/a/b/"), u"/a/b/db");
     EXPECT_EQ(AbsolutePath("../c\\d", "/a/b/"), u"/a/c/d");
