@@ -60,6 +60,9 @@ class clsDBEngine {
 
     // From here on what db/Changes does is on the disk within moments, until FinalizeDB writes it.
     void KeepSession();
+    // For who takes back all that he has changed, before files of it go: none of it is on the disk
+    // then, and nothing is kept from here on. Throws Fault: the next start may bring it back.
+    void TakeBackSession();
     // For db/Changes: a change was made, for which files were written perhaps; they go to the disk
     // before it does.
     void NoteInSession(const Change& What, bool WithFiles);
