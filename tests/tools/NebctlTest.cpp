@@ -702,6 +702,37 @@ TEST_F(NebctlImportTest, AFailedImportLeavesTheChangesThatACrashHasLeft) {
     EXPECT_EQ(Engine->Albums[0]->Slides.size(), 2U);
 }
 
+// Nobody looks for what he has not been told of.
+TEST_F(NebctlImportTest, ChangesThatGoWithOtherRecordsAreToldOf) {
+    Import({});
+    {
+        const auto Crashed = OpenEngine(Database());
+        Crashed->KeepSession();
+        ASSERT_TRUE(Changes(*Crashed).RenameAlbum(1, u"Renamed"_s));
+    }
+    QFile Albums(Database() + u"Albums.dat"_s);
+    ASSERT_TRUE(Albums.open(QIODevice::ReadWrite));
+    Albums.seek(4);
+    Albums.write("B");
+    Albums.close();
+    for (const RecordFile File : AllRecordFiles)  // as a whole backup that was put back
+        WriteFile(RecordPath(Database(), File), ReadFile(RecordPath(Database(), File)));
+    const Outcome Rewritten = Tool({u"rewrite"_s, Database()});
+    EXPECT_EQ(Rewritten.Code, ExitDone);
+    EXPECT_TRUE(Rewritten.Err.contains(u"Temp/Journal/Session "_s)) << Rewritten.Err.toStdString();
+}
+
+TEST_F(NebctlImportTest, ChangesThatWereBroughtBackAreToldOf) {
+    Import({});
+    {
+        const auto Crashed = OpenEngine(Database());
+        Crashed->KeepSession();
+        ASSERT_TRUE(Changes(*Crashed).RenameAlbum(1, u"Renamed"_s));
+    }
+    EXPECT_TRUE(Tool({u"rewrite"_s, Database()}).Err.contains(u"brought back: 1 change of"_s));
+    EXPECT_TRUE(Tool({u"rewrite"_s, Database()}).Err.isEmpty()) << "it is told of once";
+}
+
 TEST_F(NebctlImportTest, WithoutSoundCountersThePicturesThatAreThereAreLeftAlone) {
     Import({});
     for (const QByteArray Counters : {"", "\2\0\0\0"}) {
