@@ -308,9 +308,9 @@ TEST_F(Adopt, PicturesOfAnAlbumWithoutRecordComeIntoOneOfTheirOwn) {
     const clsNEBAlbum& Made = *Engine->Albums[1];
     EXPECT_EQ(u"Recovered pictures", Made.AlbumName);
     ASSERT_EQ(2u, Made.Slides.size());
-    EXPECT_EQ(4, Made.Slides[0]->SlideID) << "2 is taken";
+    EXPECT_EQ(41, Made.Slides[0]->SlideID) << "2 is taken, and 40 lies there";
     EXPECT_EQ(40, Made.Slides[1]->SlideID);
-    EXPECT_EQ(41, Engine->NextSlideID);
+    EXPECT_EQ(42, Engine->NextSlideID);
     EXPECT_TRUE(ListDir(Lost).empty());
     WriteFile(Lost + u"00000041.jpg"_s, Picture(Qt::red));
     ASSERT_EQ(ExitDone, Run().Code);
