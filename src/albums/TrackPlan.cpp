@@ -1,5 +1,6 @@
 #include "albums/TrackPlan.h"
 
+#include <QScopeGuard>
 #include <algorithm>
 
 #include "albums/modImport.h"
@@ -174,8 +175,8 @@ void TrackCopies::HoldReplaced(const Yield& LetRun) {
 
 void TrackCopies::PutInPlace() {
     for (Step& Each : mSteps) {
-        PutStored(Each.Made, Each.To);
-        Each.Placed = true;
+        const auto Look = qScopeGuard([&Each] { Each.Placed = !NameExists(Each.Made); });
+        PutStored(Each.Made, Each.To);  // may fail behind its rename
     }
     if (!mSteps.empty()) SyncDir(mPlan.Folder);
 }
