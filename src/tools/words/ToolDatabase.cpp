@@ -6,7 +6,6 @@
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
-#include "tools/modHistory.h"
 #include "tools/words/modLocking.h"
 #include "tools/words/modWords.h"
 
@@ -102,7 +101,9 @@ void TellLeftBehind(ToolIO& IO, const LeftBehind& Found) {
     if (Found.Changes > 0)
         Fail(IO, QStringLiteral("brought back: %1 of a session that did not come to its end.")
                      .arg(Counted(Found.Changes, "change")));
-    if (!Found.NotKept.isEmpty()) TellNotKept(IO, Fault(Found.NotKept));
+    if (!Found.NotKept.isEmpty())
+        Fail(IO, QStringLiteral("The state before an interrupted write could not be kept: %1")
+                     .arg(QString(Found.NotKept).replace(u'\n', u' ')));
     TellPutAside(Found.PutAside, IO);
 }
 
