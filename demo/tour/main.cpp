@@ -11,6 +11,7 @@
 #include "controls/forms/NebApplication.h"
 #include "program/DesktopServices.h"
 #include "program/frmNEBSlideShow.h"
+#include "program/modMain.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Services.h"
 
@@ -71,5 +72,6 @@ int main(int argc, char** argv) {
     neb::demo::TourSound Sound(*neb::TheServices().Sound);
     neb::TheServices().Sound = &Sound;
     neb::SetDocumentsPath(Parser.value("documents"));
+    if (!neb::DatabaseToOpen()) return 1;
     return Walk(App, Parser);
 }

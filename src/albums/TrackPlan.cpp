@@ -1,6 +1,5 @@
 #include "albums/TrackPlan.h"
 
-#include <QScopeGuard>
 #include <algorithm>
 
 #include "albums/modImport.h"
@@ -160,7 +159,14 @@ void TrackCopies::Make(const Yield& LetRun) {
 
 void TrackCopies::MakeOne(const TrackPlan::Copy& What, const Yield& LetRun) {
     mSteps.push_back({What.To, What.To + QStringLiteral(".new"), {}, NameExists(What.To)});
-    CopyFile(What.From, mSteps.back().Made, LetRun);
+    const QString& Made = mSteps.back().Made;
+    try {
+        CopyFile(What.From, Made, LetRun);
+    } catch (const Fault& Problem) {
+        // the user knows the file by its own name
+        if (Problem.File().startsWith(Made)) throw Fault(Problem.What(), What.To, Problem.Number());
+        throw;
+    }
 }
 
 // A file that is about to be replaced stays at hand under a second name. One that cannot be read is
@@ -175,8 +181,13 @@ void TrackCopies::HoldReplaced(const Yield& LetRun) {
 
 void TrackCopies::PutInPlace() {
     for (Step& Each : mSteps) {
-        const auto Look = qScopeGuard([&Each] { Each.Placed = !NameExists(Each.Made); });
-        PutStored(Each.Made, Each.To);  // may fail behind its rename
+        try {
+            PutStored(Each.Made, Each.To);
+        } catch (...) {
+            Each.Placed = !NameExists(Each.Made);
+            throw;
+        }
+        Each.Placed = true;
     }
     if (!mSteps.empty()) SyncDir(mPlan.Folder);
 }

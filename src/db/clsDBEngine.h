@@ -48,8 +48,7 @@ class clsDBEngine {
     // Changes that a session left behind are brought back.
     void InitializeDB(Recovery How = Recovery::CarryOut);
     const LeftBehind& Found() const { return mFound; }
-    // The same from any source of record files.
-    void LoadFrom(const RecordSource& Source);
+    void LoadFrom(const RecordSource& Source);  // the same from any source of record files
     // Leaves either the old or the new database on the disk, whatever happens (modJournal.h). Why
     // the old one could not be kept among the earlier states, where that was to be done.
     std::optional<Fault> FinalizeDB();

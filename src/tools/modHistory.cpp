@@ -1,7 +1,7 @@
 #include "tools/modHistory.h"
 
-#include "db/StateDifferences.h"
-#include "db/modRestore.h"
+#include "db/recovery/StateDifferences.h"
+#include "db/recovery/modRestore.h"
 #include "tools/modCommands.h"
 #include "tools/words/JsonWriter.h"
 

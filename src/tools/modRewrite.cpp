@@ -1,7 +1,7 @@
 #include "tools/modRewrite.h"
 
-#include "db/DatabaseHealth.h"
 #include "db/records/modJournal.h"
+#include "db/recovery/DatabaseHealth.h"
 #include "tools/modCommands.h"
 #include "tools/modHistory.h"
 #include "tools/words/ToolDatabase.h"

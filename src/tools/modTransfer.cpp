@@ -5,8 +5,8 @@
 
 #include "albums/transfer/OtherDatabase.h"
 #include "albums/transfer/Transfer.h"
-#include "db/DatabaseHealth.h"
 #include "db/records/modJournal.h"
+#include "db/recovery/DatabaseHealth.h"
 #include "support/Fault.h"
 #include "tools/Named.h"
 #include "tools/modCommands.h"

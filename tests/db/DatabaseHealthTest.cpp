@@ -1,13 +1,13 @@
 // What is said of a database before anything in it is written, and the two ways out of damage.
-#include "db/DatabaseHealth.h"
+#include "db/recovery/DatabaseHealth.h"
 
 #include <gtest/gtest.h>
 
 #include "DamageTable.h"
 #include "db/Changes.h"
-#include "db/modRestore.h"
 #include "db/records/Generations.h"
 #include "db/records/RecordSums.h"
+#include "db/recovery/modRestore.h"
 #include "harness/MemoryFolder.h"
 #include "harness/WithoutPrivileges.h"
 #include "support/Fault.h"

@@ -1,14 +1,14 @@
 // An earlier state comes back: what differs is told, the present one is kept, and a kill or a full
 // disk at any step leaves the one or the other.
-#include "db/modRestore.h"
+#include "db/recovery/modRestore.h"
 
 #include <gtest/gtest.h>
 
 #include "Fixtures.h"
 #include "db/Changes.h"
-#include "db/StateDifferences.h"
 #include "db/modAlbumFiles.h"
 #include "db/modLoadRecords.h"
+#include "db/recovery/StateDifferences.h"
 #include "support/Fault.h"
 
 #ifndef _WIN32

@@ -22,6 +22,8 @@ class DiskKiller {
     DiskKiller(const DiskKiller&) = delete;
     DiskKiller& operator=(const DiskKiller&) = delete;
     [[noreturn]] void End();
+    // Whether a write was cut that should have been the last thing to happen.
+    bool HasStruck() const;
     // Step Number of before is a kill alone; what comes next meets the loss of power at this step.
     void ThenFail(int Number, const std::function<void()>& Next);
 

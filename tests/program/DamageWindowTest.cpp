@@ -9,7 +9,7 @@
 #include "MainWindowRig.h"
 #include "db/Changes.h"
 #include "db/DamageTable.h"
-#include "db/DatabaseHealth.h"
+#include "db/recovery/DatabaseHealth.h"
 #include "harness/MemoryFolder.h"
 #include "harness/WithoutPrivileges.h"
 #include "program/modMain.h"

@@ -319,7 +319,7 @@ TEST_F(Adopt, PicturesOfAnAlbumWithoutRecordComeIntoOneOfTheirOwn) {
     const clsNEBAlbum& Made = *Engine->Albums[1];
     EXPECT_EQ(u"Recovered pictures", Made.AlbumName);
     ASSERT_EQ(2u, Made.Slides.size());
-    EXPECT_EQ(41, Made.Slides[0]->SlideID) << "2 is taken, and 40 lies there";
+    EXPECT_EQ(41, Made.Slides[0]->SlideID) << "2 is taken, and new numbers are above all others";
     EXPECT_EQ(40, Made.Slides[1]->SlideID);
     EXPECT_EQ(42, Engine->NextSlideID);
     EXPECT_TRUE(ListDir(Lost).empty());

@@ -4,8 +4,8 @@
 
 #include "ToolRun.h"
 #include "db/DamageTable.h"
-#include "db/DatabaseHealth.h"
 #include "db/records/Generations.h"
+#include "db/recovery/DatabaseHealth.h"
 #include "harness/MemoryFolder.h"
 #include "harness/WithoutPrivileges.h"
 

@@ -1,8 +1,8 @@
 #include "albums/transfer/OtherDatabase.h"
 
 #include "db/modDatabaseLock.h"
-#include "db/modRestore.h"
 #include "db/records/modJournal.h"
+#include "db/recovery/modRestore.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/files/modHostFilesCopy.h"
 #include "support/modFUFL.h"

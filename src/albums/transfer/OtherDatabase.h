@@ -2,9 +2,9 @@
 // against other programs, read. Used by the transfer windows and nebctl.
 #pragma once
 
-#include "db/DatabaseHealth.h"
 #include "db/clsDBEngine.h"
 #include "db/records/modJournal.h"
+#include "db/recovery/DatabaseHealth.h"
 #include "support/files/InstanceLock.h"
 
 namespace neb {

@@ -1,8 +1,8 @@
 #include "tools/words/ToolDatabase.h"
 
 #include "db/modDatabaseLock.h"
-#include "db/modRestore.h"
 #include "db/records/RecordSums.h"
+#include "db/recovery/modRestore.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"

@@ -6,7 +6,7 @@
 #include <memory>
 
 #include "controls/forms/Form.h"
-#include "db/modRestore.h"
+#include "db/recovery/modRestore.h"
 
 namespace neb {
 

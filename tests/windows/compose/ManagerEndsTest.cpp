@@ -70,7 +70,7 @@ TEST_F(ManagerEnds, AFolderOfSoundsThatMayNotBeWrittenIsSaidAndTheNextSaveSuccee
     OpenToAll();
     Permit(TracksFolder(), Readable);
     SaveFailing(u"The file cannot be written. (Permission denied)\n"_s + TracksFolder() +
-                u"00000002_1.wav.new"_s);
+                u"00000002_1.wav"_s);
     EXPECT_EQ(" / a|b|c|d|Rose", Lists());
     EXPECT_EQ("Second", Name().text().toStdString());
     EXPECT_EQ(Composed, TrackCells());

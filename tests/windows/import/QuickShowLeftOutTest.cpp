@@ -142,7 +142,7 @@ TEST_F(QuickShowLeftOut, AFullDiskLaterLeavesTheShowThatIsThere) {
     MakePicture(Pics / u"b.jpg"_s);
     MakePicture(Pics / u"c.jpg"_s);
     SetHostWatcher([](HostStep Step, const QString& Path, qint64& Length) {
-        if (Step == HostStep::Write && Path.endsWith(u"00000004.jpg")) Length = 1;
+        if (Step == HostStep::Write && Path.endsWith(u"00000004.jpg.new")) Length = 1;
     });
     Boxes.Expect(u"The file cannot be written. (no space left on device)\n"_s + Db.Path() +
                      u"Albums/1/Slides/00000004.jpg\n\n1 of 2 slides were imported before."_s,

@@ -1,4 +1,4 @@
-#include "db/StateDifferences.h"
+#include "db/recovery/StateDifferences.h"
 
 #include <algorithm>
 #include <set>

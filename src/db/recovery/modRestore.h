@@ -4,9 +4,9 @@
 
 #include <memory>
 
-#include "db/DatabaseHealth.h"
 #include "db/clsDBEngine.h"
 #include "db/records/Generations.h"
+#include "db/recovery/DatabaseHealth.h"
 
 namespace neb {
 

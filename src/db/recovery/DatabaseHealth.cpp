@@ -1,4 +1,4 @@
-#include "db/DatabaseHealth.h"
+#include "db/recovery/DatabaseHealth.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "db/modRestore.h"
+#include "db/recovery/modRestore.h"
 
 #include "db/Changes.h"
 #include "db/SessionChanges.h"
