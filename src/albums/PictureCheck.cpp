@@ -197,7 +197,7 @@ class Checker {
         const QString Upper = File.Path.toUpper();
         const auto Expected = Album.Files.find(Upper);
         if (Expected == Album.Files.end() || File.IsFolder) {
-            if (!IsInTheMaking(File.Path))
+            if (!IsInTheMaking(Album, File.Path))
                 Add({Kind::Stray, Album.Folder + File.Path, {}, Album.Name});
             return List.LastOf(Upper);
         }
@@ -283,9 +283,13 @@ class Checker {
         return !List && NameExists(AlbumSumsPath(Folder));
     }
 
-    // A store that was cut short has left it; no record ever named it.
-    static bool IsInTheMaking(const QString& Path) {
-        return Path.endsWith(QStringLiteral(".new"), Qt::CaseInsensitive);
+    // A store that was cut short has left it: no record ever named it, or the file that it was has
+    // another one in its place.
+    static bool IsInTheMaking(const AlbumToCheck& Album, const QString& Path) {
+        const QString Upper = Path.toUpper(),
+                      Of = Upper.chopped(std::min<qsizetype>(4, Path.size()));
+        return Upper.endsWith(u".NEW") || (Upper.endsWith(u".OLD") && Album.Files.contains(Of) &&
+                                           FileExists(Album.Folder + Path.chopped(4)));
     }
 
     void FindStrayAlbums() {

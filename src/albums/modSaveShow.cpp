@@ -105,7 +105,7 @@ Answer<std::int32_t> NumberOf(const ShowContent& Content, const clsDBEngine& the
     const clsNEBAlbum* Album = theDB.GetAlbum(Content.AlbumID);
     const bool IsNew = Content.SlideShowID == 0;
     if (IsNew && !Album) return Refuse(QStringLiteral("Failed to create Slide Show."));
-    if (IsNew) return theDB.NextSlideShowID;
+    if (IsNew) return FreeSlideShowID(theDB.DBPath(), Content.AlbumID, theDB.NextSlideShowID);
     if (!Album || !Album->GetSlideShow(Content.SlideShowID))
         return Refuse(QStringLiteral("Slide Show not found."));
     return Content.SlideShowID;
@@ -121,10 +121,11 @@ TrackPlan PlanFor(const ShowContent& Content, std::int32_t SlideShowID, const cl
 }
 
 // From here on nothing waits: the show and its files change together.
-Answer<Announcement> Store(ShowContent& Content, TrackCopies& Files, clsDBEngine& theDB,
-                           Changes Door) {
+Answer<Announcement> Store(ShowContent& Content, std::int32_t SlideShowID, TrackCopies& Files,
+                           clsDBEngine& theDB, Changes Door) {
     Files.PutInPlace();
     ShowContent Placed = Content;
+    Placed.SlideShowID = SlideShowID;
     for (size_t Row = 0; Row < Placed.Tracks.size(); ++Row)
         Placed.Tracks[Row].SoundTrackLoc = Files.Plan().Names[Row];
     Answer<Announcement> Saved = Door.SaveShow(Placed.AlbumID, Record(Placed));
@@ -165,8 +166,9 @@ Answer<Announcement> WriteShow(ShowContent& Content, clsDBEngine& theDB, const Y
         } catch (const Fault&) {
             if (NumberOf(Content, theDB)) throw;
         }
-        Answer<std::int32_t> Now = NumberOf(Content, theDB);
-        if (Now && *Now == *Number) return Store(Content, Files, theDB, Changes(theDB, Asker));
+        const bool IsItsOwn = Content.SlideShowID != 0 || theDB.NextSlideShowID <= *Number;
+        if (NumberOf(Content, theDB) && IsItsOwn)
+            return Store(Content, *Number, Files, theDB, Changes(theDB, Asker));
     }
 }
 

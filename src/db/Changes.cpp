@@ -157,6 +157,10 @@ Answer<Announcement> Changes::DeleteSlide(std::int32_t AlbumID, std::int32_t Sli
     return Deleted;
 }
 
+std::int32_t Changes::FreeSlideShowID(std::int32_t AlbumID) const {
+    return neb::FreeSlideShowID(mDB.DBPath(), AlbumID, mDB.NextSlideShowID);
+}
+
 // The object stays: who shows it goes on showing it, with its new contents. Where it cannot be
 // noted nothing has changed, for its sound files are taken back then.
 Answer<Announcement> Changes::SaveShow(std::int32_t AlbumID, clsNEBSlideShow Show) {
@@ -164,6 +168,10 @@ Answer<Announcement> Changes::SaveShow(std::int32_t AlbumID, clsNEBSlideShow Sho
     if (!Album) return Missing(NoAlbum);
     const clsNEBSlideShow* There = Album->GetSlideShow(Show.SlideShowID);
     auto Before = There ? There->Copy() : nullptr;
+    if (!There) {
+        const bool IsFree = Show.SlideShowID >= mDB.NextSlideShowID;
+        mDB.NextSlideShowID = IsFree ? Show.SlideShowID : FreeSlideShowID(AlbumID);
+    }
     Album->SaveSlideShow(Show.SlideShowID, Show.SlideShowName, Show.ProgressionMethod, mDB);
     clsNEBSlideShow& Stored = *Album->GetSlideShow(Show.SlideShowID);
     Stored.Details = std::move(Show.Details);

@@ -76,8 +76,10 @@ class Changes {
     // The record goes, then the slide's files; a slide that is not there has gone already.
     Answer<Announcement> DeleteSlide(std::int32_t AlbumID, std::int32_t SlideID);
 
+    // The same for a show: one for which no sound lies in the album's folder of tracks.
+    std::int32_t FreeSlideShowID(std::int32_t AlbumID) const;
     // Replaces a show by these contents in one go; SlideShowID 0, or one that the album does not
-    // have: a new show, whose number is in What() afterwards.
+    // have: a new show, whose number is in What() afterwards; one that was free is kept.
     Answer<Announcement> SaveShow(std::int32_t AlbumID, clsNEBSlideShow Show);
     // The record goes, then the show's sounds.
     Answer<Announcement> DeleteShow(std::int32_t AlbumID, std::int32_t SlideShowID);

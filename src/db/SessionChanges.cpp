@@ -6,6 +6,7 @@
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
 #include "db/modLoadRecords.h"
+#include "support/Fault.h"
 #include "support/files/modHostFiles.h"
 
 namespace neb {
@@ -158,9 +159,13 @@ bool CarryOutEntry(clsDBEngine& Engine, const QByteArray& Entry) {
     return true;
 }
 
+// A file that cannot go now bars nobody from his albums.
 void FinishDeleting(const clsDBEngine& Engine, const LeftSession& Left) {
-    for (const SessionEntry& Each : Left.Entries)
-        if (const auto What = EntryReader(Each.Body).Keys()) DeleteFilesOf(Engine, *What);
+    for (const SessionEntry& Each : Left.Entries) try {
+            if (const auto What = EntryReader(Each.Body).Keys()) DeleteFilesOf(Engine, *What);
+        } catch (const Fault&) {
+            continue;
+        }
 }
 
 void BringBack(clsDBEngine& Engine, const LeftSession& Left, LeftBehind& Brought) {

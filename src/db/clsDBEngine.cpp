@@ -94,6 +94,11 @@ void clsDBEngine::KeepSession() {
     mSession = std::make_unique<SessionJournal>(mDBPath, mLeft);
 }
 
+void clsDBEngine::TakeBackSession() {
+    if (mSession) mSession->TakeBack();
+    mSession.reset();
+}
+
 void clsDBEngine::NoteInSession(const Change& What, bool WithFiles) {
     mHasNewFiles = mHasNewFiles || WithFiles;
     if (WithFiles) FlushElsewhere(mDBPath, What.AlbumID);

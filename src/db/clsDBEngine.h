@@ -59,18 +59,17 @@ class clsDBEngine {
 
     // From here on what db/Changes does is on the disk within moments, until FinalizeDB writes it.
     void KeepSession();
-    // For db/Changes: a change was made, for which files were written perhaps; they go to the disk
-    // before it does.
+    // Before files of it go: none of it is on the disk then, nor kept from here on. Throws Fault.
+    void TakeBackSession();
+    // For db/Changes. WithFiles: files were written for it, and go to the disk before it does.
     void NoteInSession(const Change& What, bool WithFiles);
     // Waits until all changes are on the disk, before files go that the records of before name.
     // False where that fails: then the files are to stay. Without a session it is true.
     bool IsSessionStored();
-    // Why changes are not on the disk at present, if so; they are tried again by and by. Never
-    // waits for a disk, so that a window may ask now and then.
+    // Why changes are not on the disk at present, if so; tried again by and by. Never waits.
     std::optional<Fault> SessionProblem() const;
 
-    // Whether the next numbers are above all that are there: else new pictures and sounds would
-    // take the places of old ones.
+    // Whether the next numbers are above all that records have: else new pictures replace old.
     bool CountersAreSound() const;
 
     // Creates an album (ID 0 or unknown; AlbumID is the new one afterwards) or renames one.

@@ -37,8 +37,12 @@ class CheckedFolder {
     }
 
   private:
-    static bool IsInTheMaking(const QString& Name) {
-        return Name.endsWith(QStringLiteral(".new"), Qt::CaseInsensitive);
+    // Also what a file was whose place another has taken by now.
+    bool IsInTheMaking(const QString& Name) const {
+        const QString Upper = Name.toUpper(),
+                      Of = Upper.chopped(std::min<qsizetype>(4, Name.size()));
+        return Upper.endsWith(u".NEW") ||
+               (Upper.endsWith(u".OLD") && mNamed.contains(Of) && mUpper.contains(Of));
     }
     QString FullPath(const QString& Loc) const { return HoldsSeparator(Loc) ? Loc : mPath + Loc; }
 

@@ -192,16 +192,35 @@ class FolderImport {
     }
 
     // Once the journal is whole the import stands: the next start will complete it, and its records
-    // need their pictures.
+    // need their pictures. So it does where the records are written already.
     void GiveUp() {
-        if (!mAlbum) return;
+        if (!mAlbum || IsWritten()) return;
         if (ReadJournal(mOrder.Dir) != JournalState::Whole) return TakeBack();
         Fail(mIO, QStringLiteral("The pictures are in, but the records are not all written; "
                                  "nebctl rewrite or the next start of the program will do it."));
     }
+    bool IsWritten() const {
+        if (mEntered.empty() || ReadJournal(mOrder.Dir) == JournalState::Whole) return false;
+        clsDBEngine There;
+        There.SetDBPath(mOrder.Dir);
+        There.LoadFrom(RecordsInDirectory(mOrder.Dir));
+        clsNEBAlbum* const Album = There.GetAlbum(mAlbum->AlbumID);
+        return Album && Album->GetSlide(mEntered.front());
+    }
 
-    // A folder that was there before is left alone, whosever it is.
+    // Records first: what the journal still names keeps its pictures.
     void TakeBack() {
+        try {
+            mEngine.TakeBackSession();
+        } catch (const Fault&) {
+            return static_cast<void>(
+                Fail(mIO, QStringLiteral("The pictures that came in so far stay there; the next "
+                                         "start of the program brings their slides back.")));
+        }
+        DropEntered();
+    }
+    // A folder that was there before is left alone, whosever it is.
+    void DropEntered() {
         if (mIsNew && !mFolderWasThere) return DropAlbum(mEngine, mAlbum->AlbumID);
         for (std::int32_t SlideID = mFirstSlideID; SlideID < mEngine.NextSlideID; ++SlideID)
             static_cast<void>(mDoor.DeleteSlide(mAlbum->AlbumID, SlideID));

@@ -69,7 +69,11 @@ struct TwoDatabases {
 std::shared_ptr<OtherDatabase> Opened(const QString& Dir, OtherDatabase::Use For,
                                       FromElsewhere Other, ToolIO& IO) {
     auto Database = OtherDatabase::Open(Dir, For, Other);
-    if (Database) return *Database;
+    if (Database) {
+        if (For == OtherDatabase::Use::Destination)
+            TellLeftBehind(IO, (*Database)->Engine().Found());
+        return *Database;
+    }
     Fail(IO, Database.Refusal().Text.simplified());
     return nullptr;
 }

@@ -1,5 +1,6 @@
 // How a show is written: places, captions of its own, tracks and their files.
 #include "ShowRig.h"
+#include "db/Changes.h"
 
 namespace neb::harness {
 namespace {
@@ -225,6 +226,29 @@ TEST_F(SaveShow, LetsTheWindowPaintWhileALongFileThatIsStillPlayedMakesRoom) {
     int Calls = 0;
     EXPECT_TRUE(WriteShow(Content, Engine, [&] { ++Calls; }));
     EXPECT_GE(Calls, 4);
+}
+
+// Sounds of a show whose record has been lost: they are all that is left of it.
+TEST_F(SaveShow, GivesANewShowNoNumberThatAStraySoundHas) {
+    WriteFile(SoundTracksFolder(Engine.DBPath(), AlbumID) + u"00000001_1.mp3"_s, "stray");
+    ShowContent Content = NewShow(2);
+    Content.Tracks = {NewTrack(1, 2, MakeSound(u"a.mp3"_s))};
+    Save(Content);
+    EXPECT_EQ(2, Content.SlideShowID);
+    EXPECT_EQ("1:1-2 00000002_1.mp3", StoredTracks(2));
+    EXPECT_EQ("00000001_1.mp3=stray 00000002_1.mp3=a.mp3", TrackFiles());
+    EXPECT_TRUE(Changes(Engine).DeleteShow(AlbumID, 2));
+    EXPECT_EQ("00000001_1.mp3=stray", TrackFiles());
+}
+
+TEST_F(SaveShow, GivesAShowWithoutSoundsNoNumberThatAStraySoundHas) {
+    WriteFile(SoundTracksFolder(Engine.DBPath(), AlbumID) + u"00000001_1.mp3"_s, "stray");
+    auto Made = Changes(Engine).SaveShow(AlbumID, {});
+    ASSERT_TRUE(Made);
+    EXPECT_EQ(2, Made->What().SlideShowID);
+    EXPECT_EQ(3, Engine.NextSlideShowID);
+    EXPECT_TRUE(Changes(Engine).DeleteShow(AlbumID, 2));
+    EXPECT_EQ("00000001_1.mp3=stray", TrackFiles());
 }
 
 // What happens while files are copied is not looked for: it is what other windows do meanwhile.

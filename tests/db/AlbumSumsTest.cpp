@@ -284,9 +284,9 @@ TEST_F(SumsOfChanges, ADeletedSlideTakesItsLinesAlong) {
 }
 
 TEST_F(SumsOfChanges, ADeletedShowTakesItsLinesAlong) {
+    auto Made = Door.SaveShow(AlbumID, {});
     StoreNew(Sounds + u"00000001_1.mp3"_s, "one");
     StoreNew(Sounds + u"00000002_1.mp3"_s, "two");
-    auto Made = Door.SaveShow(AlbumID, {});
     ASSERT_TRUE(Door.DeleteShow(AlbumID, Made->What().SlideShowID));
     EXPECT_EQ(Line(SumTwo, "SoundTracks/00000002_1.mp3"), Said());
 }

@@ -205,6 +205,32 @@ TEST_F(SessionJournalTest, BeginsAnewWhereItIsToldTo) {
     EXPECT_EQ(SumOfRecords(Dir.Path()), ReadSessionJournal(Dir.Path())->Base);
 }
 
+TEST_F(SessionJournalTest, TakenBackItIsAsAnEarlierSessionHasLeftIt) {
+    {
+        SessionJournal First(Dir.Path());
+        First.Add("one");
+    }
+    const QByteArray Before = ReadFile(File());
+    SessionJournal Journal(Dir.Path(), ReadSessionJournal(Dir.Path())->End);
+    Journal.Add("two");
+    Journal.Flush();
+    Journal.Add("three");
+    Journal.TakeBack();
+    EXPECT_EQ(Before, ReadFile(File()));
+    Journal.Add("four");
+    Journal.Flush();
+    EXPECT_EQ("one four", Left());
+}
+
+TEST_F(SessionJournalTest, TakenBackThereIsNoneWhereNoneWas) {
+    SessionJournal Journal(Dir.Path());
+    Journal.Add("one");
+    Journal.Flush();
+    Journal.TakeBack();
+    EXPECT_EQ("-", Left());
+    EXPECT_FALSE(FileExists(File()));
+}
+
 // What an engine holds, as the record files that it would write.
 std::map<std::string, QByteArray> ContentOf(const clsDBEngine& Engine) {
     const RecordImage Image = BuildImage(Engine);

@@ -310,6 +310,24 @@ TEST_F(SessionTest, TheNextStartDeletesTheFilesOfWhatWasDeleted) {
     EXPECT_TRUE(FileExists(Other));
 }
 
+TEST_F(SessionTest, AFileThatCannotGoBarsNobodyFromHisAlbums) {
+    const QString Sums = AlbumFolder(Dir.Path(), 1) + u"Sums.sha256"_s;
+    MakeDirs(GetFilePath(Sums));
+    WriteFile(Sums, "");
+    {
+        const auto Engine = Begin();
+        Changes(*Engine).DeleteAlbum(1);
+        Changes(*Engine).DeleteAlbum(2);
+        MakeDirs(SlidesFolder(Dir.Path(), 2));
+    }
+    SetHostWatcher([&](HostStep Step, const QString& Path, qint64&) {
+        if (Step == HostStep::Delete && Path == Sums) throw Fault(u"no"_s, Path);
+    });
+    EXPECT_EQ(2, OpenEngine(Dir.Path())->Found().Changes);
+    EXPECT_TRUE(FileExists(Sums));
+    EXPECT_FALSE(FolderExists(AlbumFolder(Dir.Path(), 2))) << "the others go all the same";
+}
+
 // A write of all records that did not come to its end.
 class LeftJournal : public SessionTest {
   protected:

@@ -201,6 +201,17 @@ TEST_F(CheckFiles, HalfALineAndLinesOfNothingAreMendedInSilence) {
     ExpectMended(Before);
 }
 
+// What a save that was cut short has put by is none of the user's business; a copy of his own is.
+TEST_F(CheckFiles, TheFileInWhosePlaceAnotherLiesIsNoStrayOne) {
+    WriteFile(Slide(1) + u".old"_s, "before");
+    EXPECT_EQ("", Check().Out);
+    EXPECT_EQ("", Tool({u"check"_s, Dir.Path()}).Out);
+    WriteFile(Slide(9) + u".old"_s, "before");
+    EXPECT_NE(std::string::npos, Check().Out.find("00000009.jpg.old"));
+    EXPECT_EQ(std::string::npos, Check().Out.find("00000001.jpg.old"));
+    EXPECT_NE(std::string::npos, Tool({u"check"_s, Dir.Path()}).Out.find("00000009.jpg.old"));
+}
+
 TEST_F(CheckFiles, AListInUseOrOfAReadOnlyDatabaseIsLeftAlone) {
     DeleteFile(AlbumSumsPath(Album));
     {

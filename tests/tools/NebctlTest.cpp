@@ -8,6 +8,7 @@
 #include <QJsonObject>
 #include <QProcess>
 
+#include "db/Changes.h"
 #include "db/Fixtures.h"
 #include "db/modAlbumFiles.h"
 #include "db/modDatabaseLock.h"
@@ -664,6 +665,72 @@ TEST_F(NebctlImportTest, NothingIsChangedWhenNoPictureCanBeRead) {
     EXPECT_TRUE(Failed.Err.contains(u"No picture in "_s));
     EXPECT_EQ(OpenEngine(Database())->NextAlbumID, 1);
     EXPECT_TRUE(ListDir(Database() + u"Albums/"_s).empty());
+}
+
+// The records are in their places, and the last step of the write fails.
+TEST_F(NebctlImportTest, AWriteThatFailsBehindTheRecordsKeepsThePictures) {
+    bool AreWritten = false;
+    SetHostWatcher([&](HostStep Step, const QString& Path, qint64&) {
+        AreWritten |= Step == HostStep::Delete && Path == JournalPath(Database());
+        if (AreWritten && Step == HostStep::SyncDir) throw Fault(u"no"_s, Path);
+    });
+    EXPECT_EQ(Import({}).Code, ExitFailed);
+    SetHostWatcher({});
+    ASSERT_TRUE(AreWritten);
+    EXPECT_EQ(OpenEngine(Database())->Albums[0]->Slides.size(), 2U);
+    EXPECT_EQ(Tool({u"check"_s, Database()}).Code, ExitDone);
+}
+
+// What an earlier session has left is there still for the next start.
+TEST_F(NebctlImportTest, AFailedImportLeavesTheChangesThatACrashHasLeft) {
+    Import({});
+    {
+        const auto Crashed = OpenEngine(Database());
+        Crashed->KeepSession();
+        Changes Door(*Crashed);
+        ASSERT_TRUE(Door.RenameAlbum(1, u"Renamed"_s));
+        ASSERT_TRUE(Crashed->IsSessionStored());
+    }
+    const QByteArray Before = ReadFile(SessionJournalPath(Database()));
+    for (const QString& Name : ListMask(Pictures() + u"*.*"_s))
+        WriteFile(Pictures() + Name, "this is no picture");
+    EXPECT_EQ(Import({}).Code, ExitFailed);
+    EXPECT_EQ(ReadFile(SessionJournalPath(Database())), Before);
+    const auto Engine = OpenEngine(Database());
+    ASSERT_EQ(Engine->Albums.size(), 1U);
+    EXPECT_EQ(Engine->Albums[0]->AlbumName, u"Renamed"_s);
+    EXPECT_EQ(Engine->Albums[0]->Slides.size(), 2U);
+}
+
+// Nobody looks for what he has not been told of.
+TEST_F(NebctlImportTest, ChangesThatGoWithOtherRecordsAreToldOf) {
+    Import({});
+    {
+        const auto Crashed = OpenEngine(Database());
+        Crashed->KeepSession();
+        ASSERT_TRUE(Changes(*Crashed).RenameAlbum(1, u"Renamed"_s));
+    }
+    QFile Albums(Database() + u"Albums.dat"_s);
+    ASSERT_TRUE(Albums.open(QIODevice::ReadWrite));
+    Albums.seek(4);
+    Albums.write("B");
+    Albums.close();
+    for (const RecordFile File : AllRecordFiles)  // as a whole backup that was put back
+        WriteFile(RecordPath(Database(), File), ReadFile(RecordPath(Database(), File)));
+    const Outcome Rewritten = Tool({u"rewrite"_s, Database()});
+    EXPECT_EQ(Rewritten.Code, ExitDone);
+    EXPECT_TRUE(Rewritten.Err.contains(u"Temp/Journal/Session "_s)) << Rewritten.Err.toStdString();
+}
+
+TEST_F(NebctlImportTest, ChangesThatWereBroughtBackAreToldOf) {
+    Import({});
+    {
+        const auto Crashed = OpenEngine(Database());
+        Crashed->KeepSession();
+        ASSERT_TRUE(Changes(*Crashed).RenameAlbum(1, u"Renamed"_s));
+    }
+    EXPECT_TRUE(Tool({u"rewrite"_s, Database()}).Err.contains(u"brought back: 1 change of"_s));
+    EXPECT_TRUE(Tool({u"rewrite"_s, Database()}).Err.isEmpty()) << "it is told of once";
 }
 
 TEST_F(NebctlImportTest, WithoutSoundCountersThePicturesThatAreThereAreLeftAlone) {

@@ -311,6 +311,22 @@ TEST_F(TransferToolTest, WithoutSoundCountersTheDestinationIsLeftAlone) {
     ExpectRefusal("NextIDs.dat is missing.");
 }
 
+// An album that came without its slides would take the place of one that has them.
+TEST_F(TransferToolTest, ASourceThatHasLostRecordsReplacesNothing) {
+    FillDestination(u"Holiday"_s, u"LAKE"_s);
+    for (const RecordFile File :
+         {RecordFile::Slides, RecordFile::SlideShows, RecordFile::SlideShowDetails}) {
+        const QString Path = RecordPath(Src(), File);
+        const QByteArray Whole = ReadFile(Path);
+        WriteFile(Path, {});
+        ExpectRefusal(RecordFileName(File) + std::string(" is empty"), {u"--replace"_s});
+        DeleteFile(Path);
+        ExpectRefusal(RecordFileName(File) + std::string(" is missing"), {u"--replace"_s});
+        WriteFile(Path, Whole);
+    }
+    EXPECT_EQ(Transfer({u"--replace"_s}).Code, ExitDone);
+}
+
 TEST_F(TransferToolTest, UnknownNamesAreToldWithThoseThatThereAre) {
     ExpectRefusal({u"transfer"_s, Src(), Dst(), u"--album"_s, u"Nowhere"_s},
                   "There is no album \"Nowhere\"; there are: \"First\", \"Holiday\".");

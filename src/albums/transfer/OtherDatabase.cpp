@@ -91,11 +91,11 @@ Answer<std::shared_ptr<OtherDatabase>> OtherDatabase::Open(const QString& Dir, U
     const std::shared_ptr<OtherDatabase> Other(new OtherDatabase(Dir, For));
     if (auto Reason = Other->WhyNotLocked(From)) return *std::move(Reason);
     if (!ToWrite && CountersAreMissing(Dir)) return DamagedCounters(Dir);
-    if (ToWrite) {
-        const DatabaseHealth Health = FinishAside([Dir] { return LookAtHealth(Dir); }).get();
-        if (!Health.IsSound()) return DamagedDatabase(Dir, Health);
-        Other->mFree = Health.Free;
-    }
+    // Of a source that lacks records an album would come without its slides, perhaps in the place
+    // of one that has them.
+    const DatabaseHealth Health = FinishAside([Dir] { return LookAtHealth(Dir); }).get();
+    if (ToWrite ? !Health.IsSound() : Health.LacksRecords) return DamagedDatabase(Dir, Health);
+    Other->mFree = Health.Free;
     Other->Reread();
     return Other;
 }

@@ -17,8 +17,8 @@ class OtherDatabase {
     };
     // Dir is a database directory, with closing separator (DatabaseIn of settings finds it). The
     // reading runs beside the caller, whose window goes on painting. Refused when it is in use,
-    // when it is to be written and read-only or damaged, and as a source when its counters are
-    // missing. Throws Fault.
+    // when it is to be written and read-only or damaged, and as a source when counters or records
+    // of it are lost. Throws Fault.
     static Answer<std::shared_ptr<OtherDatabase>> Open(const QString& Dir, Use For,
                                                        FromElsewhere Other = FromElsewhere::Counts);
 

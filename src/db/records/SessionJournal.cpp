@@ -14,6 +14,7 @@
 #include "support/files/modHostFiles.h"
 #include "support/files/modHostFilesAccess.h"
 #include "support/files/modHostFilesCopy.h"
+#include "support/files/modHostFilesLines.h"
 #include "support/modFUFL.h"
 
 namespace neb {
@@ -151,12 +152,13 @@ struct SessionJournal::State {
         bool WithFiles;
     };
 
-    State(const QString& Path, const std::optional<SessionEnd>& From,
+    State(const QString& Path, const std::optional<SessionEnd>& Before,
           std::chrono::milliseconds After)
         : DBPath(Path),
           RetryAfter(After),
+          From(Before.value_or(SessionEnd())),
           WasThere(IsDatabaseThere(Path)),
-          Good(From.value_or(SessionEnd())) {}
+          Good(From) {}
 
     void Run() {
         std::unique_lock Lock(Mutex);
@@ -236,7 +238,7 @@ struct SessionJournal::State {
             if (ReadJournal(DBPath) != JournalState::Whole)
                 throw Fault(QStringLiteral("The records have been replaced by others."), DBPath);
         }
-        Good = {};
+        From = Good = {};
         return HeadOf(Sum);
     }
     void Put(const QByteArray& Entry) {
@@ -261,6 +263,19 @@ struct SessionJournal::State {
         Good = {};
     }
 
+    // What an earlier session has left stands at the beginning of the file still, unless all
+    // records have been written since.
+    void CutBack() {
+        if (From.Length == 0 || !FileExists(SessionJournalPath(DBPath)))
+            return DropSessionJournal(DBPath);
+        DeleteFile(UnfinishedPath(DBPath));
+        if (FileSize(SessionJournalPath(DBPath)) > From.Length) {
+            CutFile(SessionJournalPath(DBPath), From.Length);
+            SyncFile(SessionJournalPath(DBPath));
+        }
+        Good = From;
+    }
+
     const QString DBPath;
     const std::chrono::milliseconds RetryAfter;
     mutable std::mutex Mutex;
@@ -270,6 +285,7 @@ struct SessionJournal::State {
     bool Ends = false, Asked = false, IsStoring = false, IsHeld = false;
     quint64 Tries = 0, LastFailed = 0;
     // of the thread, while it stores
+    SessionEnd From;  // where an earlier session has ended
     bool WasThere;
     std::optional<HostWriter> Writer;
     QByteArray Mark;           // of the records when it was opened
@@ -328,7 +344,14 @@ std::optional<Fault> SessionJournal::Problem() const {
 void SessionJournal::Restart() {
     std::unique_lock Lock(mState->Mutex);
     mState->Forget(Lock);
+    mState->From = {};
     DropSessionJournal(mState->DBPath);
+}
+
+void SessionJournal::TakeBack() {
+    std::unique_lock Lock(mState->Mutex);
+    mState->Forget(Lock);
+    mState->CutBack();
 }
 
 std::optional<LeftSession> ReadSessionJournal(const QString& DBPath) {

@@ -59,6 +59,10 @@ class SessionJournal {
     std::optional<Fault> Problem() const;
     // Deletes the file: what it says stands in other records now. The next entry begins it anew.
     void Restart();
+    // Ends it as though nothing had been added since it was begun: the file is as From had it, on
+    // the disk, or gone. What is added after that goes on there. Throws Fault; then the file may
+    // still say all that was added.
+    void TakeBack();
 
   private:
     struct State;

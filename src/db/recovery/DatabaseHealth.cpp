@@ -51,6 +51,7 @@ class HealthLook {
         mInAlbums = NumbersInAlbums(mDBPath);
         mRecords = Survey();
         SetFree();
+        mFound.LacksRecords = !mFound.IsSound();
         if (!mGoesOn) Judge();
         return mFound;
     }
@@ -133,6 +134,7 @@ class HealthLook {
         if (!AsWritten) {
             JudgeFiles();
             JudgeEmptyOnes();
+            mFound.LacksRecords = !mFound.IsSound();
             JudgeOwners();
         }
         JudgeCounters(AsWritten);

@@ -20,6 +20,9 @@ struct DatabaseHealth {
     std::vector<RecordFile> Unusable;  // no files, or not to be read
     IDCounters Free;                   // above all numbers that are there, among the files as well
     bool IsNew = false;                // nothing is there yet
+    // What is read of it is less than there was: files of records are lost, empty, cut or changed.
+    // Numbers that are wrong, or records without an owner, are none of this.
+    bool LacksRecords = false;
 
     bool IsSound() const { return Wrong.isEmpty(); }
     bool CanBeUsed(RecordFile File) const;

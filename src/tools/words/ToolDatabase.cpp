@@ -35,11 +35,15 @@ bool Refuse(const QString& Dir, const DatabaseHealth& Health, ToolIO& IO) {
     return false;
 }
 
-void TellMended(const QString& What, const KeptFiles& Kept, ToolIO& IO) {
-    Fail(IO, QStringLiteral("%1 The files of before are kept in %2.").arg(What, Kept.Folder));
-    for (const QString& Each : Kept.PutAside)
+void TellPutAside(const QStringList& Paths, ToolIO& IO) {
+    for (const QString& Each : Paths)
         Fail(IO,
              QStringLiteral("Changes that do not go with these records are kept in %1.").arg(Each));
+}
+
+void TellMended(const QString& What, const KeptFiles& Kept, ToolIO& IO) {
+    Fail(IO, QStringLiteral("%1 The files of before are kept in %2.").arg(What, Kept.Folder));
+    TellPutAside(Kept.PutAside, IO);
 }
 
 bool Restore(const QString& Dir, const DatabaseHealth& Health, ToolIO& IO) {
@@ -93,6 +97,16 @@ std::optional<OpenWays> TakeWays(QStringList& Words, ToolIO& IO) {
     return OpenWays{GoesOn ? Mend::GoOn : Restores ? Mend::Restore : Mend::Not, Other};
 }
 
+void TellLeftBehind(ToolIO& IO, const LeftBehind& Found) {
+    if (Found.Changes > 0)
+        Fail(IO, QStringLiteral("brought back: %1 of a session that did not come to its end.")
+                     .arg(Counted(Found.Changes, "change")));
+    if (!Found.NotKept.isEmpty())
+        Fail(IO, QStringLiteral("The state before an interrupted write could not be kept: %1")
+                     .arg(QString(Found.NotKept).replace(u'\n', u' ')));
+    TellPutAside(Found.PutAside, IO);
+}
+
 bool IsSoundOrMended(const QString& Dir, OpenWays Ways, ToolIO& IO) {
     InstanceLock Lock(DatabaseLockPath(Dir));
     return IsFree(Dir, Lock, Ways.Other, IO) && MendLocked(Dir, Ways.How, IO).has_value();
@@ -110,6 +124,7 @@ std::unique_ptr<ToolDatabase> ToolDatabase::Open(const QString& Dir, OpenWays Wa
     if (!Health) return nullptr;
     if (Health->IsNew) NoteRecords(Dir);
     Made->mEngine.InitializeDB();
+    TellLeftBehind(IO, Made->mEngine.Found());
     RaiseCounters(Made->mEngine, Health->Free);
     return Made;
 }

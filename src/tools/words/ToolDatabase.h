@@ -30,6 +30,10 @@ std::optional<OpenWays> TakeWays(QStringList& Words, ToolIO& IO);
 // The caller has no lock on it. Throws Fault.
 bool IsSoundOrMended(const QString& Dir, OpenWays Ways, ToolIO& IO);
 
+// Says on Err what the opening of a database made of what a session or a write had left there: who
+// is not told of changes that were put aside never looks for them.
+void TellLeftBehind(ToolIO& IO, const LeftBehind& Found);
+
 class ToolDatabase {
   public:
     // Nothing after lines on Err: it is damaged, read-only or in use. Throws Fault.
