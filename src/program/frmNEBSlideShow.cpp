@@ -17,6 +17,7 @@
 #include "db/records/RecordSums.h"
 #include "db/recovery/modRestore.h"
 #include "program/MainMenu.h"
+#include "program/UnstoredNotice.h"
 #include "program/Workspace.h"
 #include "program/modMachineSettings.h"
 #include "settings/clsFileSystem.h"
@@ -134,7 +135,8 @@ frmNEBSlideShow::frmNEBSlideShow() : mWorkspace(new Workspace(this)) {
     setObjectName(QStringLiteral("frmNEBSlideShow"));
     setWindowTitle(QApplication::applicationDisplayName());
     setCentralWidget(mWorkspace);
-    statusBar();  // says what a menu entry does, and takes the notices
+    // It says what a menu entry does, and takes the notices.
+    new UnstoredNotice(*statusBar());
     SetUpMenu();
     FillOpeners();
     connect(mWorkspace, &Workspace::FolderDropped, this, &frmNEBSlideShow::OpenFolder);

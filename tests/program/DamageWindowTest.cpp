@@ -108,6 +108,23 @@ TEST_F(Damaged, EnterBringsTheLastGoodAlbumsBack) {
     EXPECT_TRUE(LookAtHealth(DBPath()).IsSound());
 }
 
+TEST_F(Damaged, TheWindowSaysHowMuchGoingOnWouldLeave) {
+    const auto LeftAfter = [this](RecordFile File) {
+        Harm(DBPath(), File, Damage::Empty);
+        QString Text;
+        EXPECT_FALSE(StartAnd([&](frmDamage& Window) {
+            Text = Window.findChild<QLabel*>(u"lblGood"_s)->text().section(u"\n\n"_s, 1);
+            QTest::keyClick(&Window, Qt::Key_Escape);
+        }));
+        mWindow.reset();
+        return Text.toStdString();
+    };
+    EXPECT_EQ(LeftAfter(RecordFile::NextIDs),
+              "What is left now: 2 albums, 8 slides, 4 slide shows.");
+    EXPECT_EQ(LeftAfter(RecordFile::Albums),
+              "What is left now: 0 albums, 0 slides, 0 slide shows.");
+}
+
 TEST_F(Damaged, AClickGoesOnWithWhatIsLeft) {
     Harm(DBPath(), RecordFile::NextIDs, Damage::Empty);
     EXPECT_TRUE(StartAnd([this](frmDamage& Window) {

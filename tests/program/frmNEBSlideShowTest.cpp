@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -363,6 +364,24 @@ TEST_F(MainWindow, TheEndUnloadsEveryWindow) {
     EXPECT_TRUE(LoadedForms().empty());
     const clsSettings Settings = OpenSettings();
     EXPECT_FALSE(Settings.GetValue("frmQuickShow", "Height", {}).isEmpty());
+}
+
+TEST_F(MainWindow, WhileChangesCannotBeStoredTheStatusBarSaysSo) {
+    Start();
+    const auto& Told = *mWindow->statusBar()->findChild<QLabel*>("lblUnstored");
+    QTest::qWait(1100);
+    EXPECT_FALSE(Told.isVisible());
+    SetHostWatcher([](HostStep Step, const QString&, qint64& Length) {
+        if (Step == HostStep::Write) Length = 0;
+    });
+    SaveAlbum("Holidays");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Told.isVisible(); }, 5000));
+    EXPECT_TRUE(Told.text().startsWith("The last changes are not on the disk yet"));
+    EXPECT_TRUE(Told.toolTip().contains(DBPath())) << "which file";
+    SetHostWatcher({});
+    EXPECT_TRUE(DBEngine->IsSessionStored());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !Told.isVisible(); }, 5000));
+    EXPECT_TRUE(mWindow->close());
 }
 
 TEST_F(MainWindow, AFullDiskAtTheEndKeepsTheProgramOpenWhenTheUserWants) {

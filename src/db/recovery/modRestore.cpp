@@ -163,4 +163,18 @@ void LoadRest(clsDBEngine& Into, const DatabaseHealth& Health) {
     Into.LoadFrom(WithCounters(UsableRecords(Into.DBPath(), Health), Health.Free));
 }
 
+std::optional<RestThere> CountRest(const QString& DBPath, const DatabaseHealth& Health) try {
+    clsDBEngine Left;
+    Left.SetDBPath(DBPath);
+    LoadRest(Left, Health);
+    RestThere Count{.Albums = std::ssize(Left.Albums)};
+    for (const auto& Album : Left.Albums) {
+        Count.Slides += std::ssize(Album->Slides);
+        Count.SlideShows += std::ssize(Album->SlideShows);
+    }
+    return Count;
+} catch (const Fault&) {
+    return std::nullopt;
+}
+
 }  // namespace neb

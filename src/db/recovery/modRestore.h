@@ -3,6 +3,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 
 #include "db/clsDBEngine.h"
 #include "db/records/Generations.h"
@@ -49,5 +50,11 @@ KeptFiles RestoreInstead(const QString& DBPath, const QString& ProgramPath,
 // Fills an engine with what can be read of a damaged database, to be looked at; the disk is left
 // as it is.
 void LoadRest(clsDBEngine& Into, const DatabaseHealth& Health);
+
+// How much that is; nothing where it cannot be told.
+struct RestThere {
+    qint64 Albums = 0, Slides = 0, SlideShows = 0;
+};
+std::optional<RestThere> CountRest(const QString& DBPath, const DatabaseHealth& Health);
 
 }  // namespace neb

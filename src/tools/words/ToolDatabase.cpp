@@ -20,18 +20,30 @@ QString Describe(const Generation& Good) {
              Counted(static_cast<int>(Good.SlideShows), "slide show"));
 }
 
+// Behind the words for what is left; empty where it cannot be told.
+QString CountsOfRest(const QString& Dir, const DatabaseHealth& Health) {
+    const auto Left = CountRest(Dir, Health);
+    if (!Left) return {};
+    return QStringLiteral(" (%1, %2, %3)")
+        .arg(Counted(static_cast<int>(Left->Albums), "album"),
+             Counted(static_cast<int>(Left->Slides), "slide"),
+             Counted(static_cast<int>(Left->SlideShows), "slide show"));
+}
+
 bool Refuse(const QString& Dir, const DatabaseHealth& Health, ToolIO& IO) {
     Fail(IO, QStringLiteral("The database in %1 is damaged:").arg(Dir));
     for (const QString& Each : Health.Wrong) Fail(IO, Each);
     const auto Good = LastGoodGeneration(Dir);
+    const QString Left = CountsOfRest(Dir, Health);
     Fail(IO,
          (Good ? QStringLiteral("Nothing has been changed. --restore brings the albums back %1, "
-                                "--go-on goes on with what is left; the present files are kept "
+                                "--go-on goes on with what is left%2; the present files are kept "
                                 "in Backups.")
-                     .arg(Describe(*Good))
-               : QStringLiteral("Nothing has been changed. --go-on goes on with what is left and "
+                     .arg(Describe(*Good), Left)
+               : QStringLiteral("Nothing has been changed. --go-on goes on with what is left%1 and "
                                 "keeps the present files in Backups; there are no earlier "
-                                "albums to restore.")));
+                                "albums to restore.")
+                     .arg(Left)));
     return false;
 }
 

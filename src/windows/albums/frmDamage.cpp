@@ -23,17 +23,29 @@ QString Counted(qint64 Count, const QString& One, const QString& Many) {
     return Count == 1 ? QStringLiteral("1 ") + One : QStringLiteral("%1 ").arg(Count) + Many;
 }
 
+QString TextOfCounts(qint64 Albums, qint64 Slides, qint64 SlideShows) {
+    return QStringLiteral("%1, %2, %3")
+        .arg(Counted(Albums, QObject::tr("album"), QObject::tr("albums")),
+             Counted(Slides, QObject::tr("slide"), QObject::tr("slides")),
+             Counted(SlideShows, QObject::tr("slide show"), QObject::tr("slide shows")));
+}
+
 QString TextOfGood(const std::optional<Generation>& Good) {
     if (!Good)
         return QObject::tr(
             "There are no earlier albums that could be brought back. You can go on "
             "with what is left.");
     return QObject::tr(
-               "The last good albums were saved on %1: %2, %3, %4. What has been changed "
+               "The last good albums were saved on %1: %2. What has been changed "
                "since then would have to be done again.")
-        .arg(TextOfTime(*Good), Counted(Good->Albums, QObject::tr("album"), QObject::tr("albums")),
-             Counted(Good->Slides, QObject::tr("slide"), QObject::tr("slides")),
-             Counted(Good->SlideShows, QObject::tr("slide show"), QObject::tr("slide shows")));
+        .arg(TextOfTime(*Good), TextOfCounts(Good->Albums, Good->Slides, Good->SlideShows));
+}
+
+// So that nobody gives up more than the damage has taken, nor goes on with nothing.
+QString TextOfLeft(const std::optional<RestThere>& Left) {
+    if (!Left) return {};
+    return QObject::tr("\n\nWhat is left now: %1.")
+        .arg(TextOfCounts(Left->Albums, Left->Slides, Left->SlideShows));
 }
 
 QString TextOfKept(const KeptFiles& Kept) {
@@ -64,19 +76,27 @@ bool frmDamage::MakeSound(const QString& DBPath, const DatabaseHealth& Health) {
 }
 
 void frmDamage::Form_Load() {
-    {
-        const PointerScope Working(Pointer::Hourglass);
-        mDamage.Good =
-            FinishAside([Path = mDamage.DBPath] { return LastGoodGeneration(Path); }).get();
-    }
-    mUi->txtWrong->setPlainText(mDamage.Health.Wrong.join(u'\n'));
+    Look();
+    ShowDamage();
     mUi->lblWhere->setText(
         tr("The albums in %1 are damaged. Nothing has been changed.").arg(mDamage.DBPath));
-    mUi->lblGood->setText(TextOfGood(mDamage.Good));
     mUi->cmdRestore->setEnabled(mDamage.Good.has_value());
     QPushButton* const First = mDamage.Good ? mUi->cmdRestore : mUi->cmdEnd;
     First->setDefault(true);
     First->setFocus();
+}
+
+void frmDamage::Look() {
+    const PointerScope Working(Pointer::Hourglass);
+    FinishAside([this] {
+        mDamage.Good = LastGoodGeneration(mDamage.DBPath);
+        mDamage.Left = CountRest(mDamage.DBPath, mDamage.Health);
+    }).get();
+}
+
+void frmDamage::ShowDamage() {
+    mUi->txtWrong->setPlainText(mDamage.Health.Wrong.join(u'\n'));
+    mUi->lblGood->setText(TextOfGood(mDamage.Good) + TextOfLeft(mDamage.Left));
 }
 
 void frmDamage::Restore() {
@@ -114,7 +134,8 @@ void frmDamage::TellFailure(const Fault& Problem) {
     mDamage.IsMended = Now.IsSound();  // the opening brings it to its end
     if (mDamage.IsMended) return End();
     mDamage.Health = std::move(Now);
-    mUi->txtWrong->setPlainText(mDamage.Health.Wrong.join(u'\n'));
+    mDamage.Left = CountRest(mDamage.DBPath, mDamage.Health);
+    ShowDamage();
 }
 
 }  // namespace neb

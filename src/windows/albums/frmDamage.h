@@ -35,9 +35,12 @@ class frmDamage : public Form {
         QString DBPath;
         DatabaseHealth Health;
         std::optional<Generation> Good;  // the albums that can come back
+        std::optional<RestThere> Left;   // what going on would leave
         bool IsWorking = false, IsMended = false;
     };
 
+    void Look();
+    void ShowDamage();
     void Restore();
     void GoOn();
     void End() { Unload(); }
