@@ -99,13 +99,21 @@ QString RecordSumsPath(const QString& DBPath) {
 }
 
 void NoteRecords(const QString& DBPath) {
+    try {
+        MakeDirs(GetFilePath(RecordSumsPath(DBPath)));
+    } catch (const Fault&) {
+        return;
+    }
+    NoteRecordsAgain(DBPath);
+}
+
+void NoteRecordsAgain(const QString& DBPath) {
     QByteArray Text = Head.toByteArray();
     try {
         for (const RecordFile File : AllRecordFiles) {
             const QString Path = RecordPath(DBPath, File);
             Text += LineOf(NameExists(Path) ? NotedAt(Path) : Noted());
         }
-        MakeDirsIn(DBPath, GetFilePath(RecordSumsPath(DBPath)));
         ReplaceFile(RecordSumsPath(DBPath), Text + SumOfText(Text));
         SyncDir(GetFilePath(RecordSumsPath(DBPath)));
     } catch (const Fault&) {

@@ -17,6 +17,8 @@ QString RecordSumsPath(const QString& DBPath);
 // Notes the record files as they lie, flushed. What cannot be noted is not: a start then knows
 // less.
 void NoteRecords(const QString& DBPath);
+// The same where its folder is there: none is made on a place from which the disk was taken away.
+void NoteRecordsAgain(const QString& DBPath);
 
 struct NotedRecords {
     enum class State {

@@ -189,7 +189,7 @@ std::optional<Fault> CarryOut(const QString& DBPath, const RecordImage& Image, F
         WriteFiles(DBPath, Image, std::span(&File, 1));
     WriteFiles(DBPath, Image, FilesWrittenTogether);
     SyncDir(DBPath);
-    NoteRecords(DBPath);  // without the journal they stand by themselves
+    NoteRecordsAgain(DBPath);  // without the journal they stand by themselves
     DeleteFile(JournalPath(DBPath));
     SyncDir(JournalFolder(DBPath));
     ThinOutGenerations(DBPath);
