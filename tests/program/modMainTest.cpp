@@ -9,6 +9,8 @@
 #include <QComboBox>
 #include <QFile>
 #include <QLineEdit>
+#include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QMessageBox>
 #include <QPointer>
 #include <QProcess>
@@ -24,6 +26,7 @@
 #include "db/modDatabaseLock.h"
 #include "harness/ScriptedBoxes.h"
 #include "harness/TempFolder.h"
+#include "program/Workspace.h"
 #include "program/frmAbout.h"
 #include "program/frmNEBSlideShow.h"
 #include "settings/modNEBSlideShow.h"
@@ -251,6 +254,22 @@ TEST_F(EndAskedFor, ASecondRequestAsksOnceMoreAboutUnsavedWork) {
         if (Open) Open->button(QMessageBox::Discard)->click();
     });
     EXPECT_EQ(2, Boxes);
+    EXPECT_EQ(DBEngine, nullptr);
+}
+
+TEST_F(EndAskedFor, TheWindowThatIsAskedAboutStandsInFront) {
+    const auto Manager = OpenChanged();
+    mWindow.findChild<QAction*>("mnuSlideMgrBulk")->trigger();
+    DoEvents();
+    const auto Front = [this] {
+        return mWindow.Area().subWindowList(QMdiArea::StackingOrder).last()->widget();
+    };
+    EXPECT_NE(Front(), Manager.get());
+    RunAsking([&](int, QMessageBox* Open) {
+        if (!Open) return;
+        EXPECT_EQ(Front(), Manager.get());
+        Open->button(QMessageBox::Discard)->click();
+    });
     EXPECT_EQ(DBEngine, nullptr);
 }
 

@@ -300,6 +300,7 @@ void frmSlideShowDBM::New() {
 // Whether what was composed has been dealt with.
 bool frmSlideShowDBM::MayLeave() {
     if (!IsChanged()) return true;
+    BringToFront(*this);
     const BoxAnswer Answered =
         AskSave(tr("Are you sure you want to discard the changes to the current slide show?"),
                 QStringLiteral("Discard Changes Confirmation"));

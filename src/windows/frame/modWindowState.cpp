@@ -146,4 +146,11 @@ void PositionMDIChild(Form& Window, int Mode) {
     if (Filled) Frame.setWindowState(State);
 }
 
+void BringToFront(const Form& Window) {
+    auto* const Frame = qobject_cast<QMdiSubWindow*>(Window.parentWidget());
+    if (!Frame || !Frame->mdiArea()) return;
+    if (Frame->isMinimized()) Frame->showNormal();
+    Frame->mdiArea()->setActiveSubWindow(Frame);
+}
+
 }  // namespace neb

@@ -28,5 +28,7 @@ void SaveMemory(clsSettings& Settings);
 // right of the outermost visible children, each way by itself. Else: the first free step.
 QPoint ChildPlace(const Form& Window, int Mode);
 void PositionMDIChild(Form& Window, int Mode);
+// Before the others, where a question is asked about it.
+void BringToFront(const Form& Window);
 
 }  // namespace neb

@@ -151,6 +151,7 @@ bool ImportForm::HoldsWork() const {
 // Where the window stays in the end because of another one, what it has kept is not kept twice.
 bool ImportForm::Form_QueryUnload() {
     if (!HoldsWork()) return true;
+    BringToFront(*this);
     const BoxAnswer Answered =
         AskSave(tr("Are you sure you want to discard the selected pictures?"),
                 QStringLiteral("Discard Changes Confirmation"));

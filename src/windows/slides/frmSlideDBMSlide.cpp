@@ -19,6 +19,7 @@
 #include "support/modFUFL.h"
 #include "ui_frmSlideDBM.h"
 #include "windows/frame/modUserInput.h"
+#include "windows/frame/modWindowState.h"
 #include "windows/import/frmDirSelect.h"
 #include "windows/import/frmImportFilter.h"
 #include "windows/printing/frmPrintSheet.h"
@@ -106,6 +107,7 @@ bool frmSlideDBM::MayLeave() {
         QStringLiteral("Are you sure you want to discard the changes to the current slide?");
     const auto Title = QStringLiteral("Discard Changes Confirmation");
     if (!mInHand.IsChanged()) return true;
+    BringToFront(*this);
     if (mUi->cboAlbum->currentIndex() < 0) return AskYesNo(Question, Title);
     const BoxAnswer Answered = AskSave(Question, Title);
     return Answered == BoxAnswer::Save ? SaveInHand() : Answered == BoxAnswer::Discard;

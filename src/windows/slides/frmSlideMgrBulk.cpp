@@ -228,6 +228,7 @@ bool frmSlideMgrBulk::HasEdits() const {
 // Whether the captions that were typed have been dealt with.
 bool frmSlideMgrBulk::MayLeave() {
     if (!HasEdits()) return true;
+    BringToFront(*this);
     const BoxAnswer Answered =
         AskSave(tr("Are you sure you want to discard the changes to the captions?"),
                 QStringLiteral("Discard Changes Confirmation"));
