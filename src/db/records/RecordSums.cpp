@@ -100,7 +100,7 @@ QString RecordSumsPath(const QString& DBPath) {
 
 void NoteRecords(const QString& DBPath) {
     try {
-        MakeDirs(GetFilePath(RecordSumsPath(DBPath)));
+        MakeDirsIn(DBPath, GetFilePath(RecordSumsPath(DBPath)));
     } catch (const Fault&) {
         return;
     }
