@@ -122,7 +122,7 @@ TEST_F(Damaged, TheWindowSaysHowMuchGoingOnWouldLeave) {
     EXPECT_EQ(LeftAfter(RecordFile::NextIDs),
               "What is left now: 2 albums, 8 slides, 4 slide shows.");
     EXPECT_EQ(LeftAfter(RecordFile::Albums),
-              "What is left now: 0 albums, 0 slides, 0 slide shows.");
+              "What is left now: 2 albums, 8 slides, 4 slide shows.");
 }
 
 TEST_F(Damaged, AClickGoesOnWithWhatIsLeft) {

@@ -1,5 +1,7 @@
 #include "db/recovery/modRestore.h"
 
+#include <set>
+
 #include "db/Changes.h"
 #include "db/SessionChanges.h"
 #include "db/modAlbumFiles.h"
@@ -83,6 +85,44 @@ RecordSource WithCounters(const RecordSource& Records, const IDCounters& Free) {
     };
 }
 
+// The numbers of albums without a record of which slides and a folder are there: a deleted album
+// leaves no folder.
+std::set<std::int32_t> LostAlbums(const QString& DBPath, const RecordSource& Records) {
+    std::set<std::int32_t> Looked, Lost;
+    if (const auto File = Records(RecordFile::Albums))
+        ForEachRecordAtAll<AlbumRecord>(
+            *File, [&](const AlbumRecord& Album) { Looked.insert(Album.AlbumID); });
+    if (const auto File = Records(RecordFile::Slides))
+        ForEachRecord<SlideRecord>(*File, [&](const SlideRecord& Slide) {
+            if (!Looked.insert(Slide.AlbumID).second || Slide.AlbumID < 1) return;
+            if (FolderExists(AlbumFolder(DBPath, Slide.AlbumID))) Lost.insert(Slide.AlbumID);
+        });
+    return Lost;
+}
+
+// With albums of made-up names for slides that have lost theirs: captions must not go with a name.
+RecordSource WithLostAlbums(const QString& DBPath, const RecordSource& Records) {
+    const std::set<std::int32_t> Lost = LostAlbums(DBPath, Records);
+    if (Lost.empty()) return Records;
+    PackedRecords Albums;
+    if (const auto File = Records(RecordFile::Albums))
+        ForEachRecordAtAll<AlbumRecord>(
+            *File, [&](const AlbumRecord& Album) { EncodeRecord(Albums, Album); });
+    for (const std::int32_t AlbumID : Lost)
+        EncodeRecord(Albums,
+                     AlbumRecord{AlbumID, QStringLiteral("Recovered album %1").arg(AlbumID)});
+    Albums.Finish();
+    return [Records, Bytes = Albums.Unpack()](RecordFile File) -> std::optional<RecordBytes> {
+        if (File == RecordFile::Albums) return Bytes;
+        return Records(File);
+    };
+}
+
+// All that can be read, in order.
+RecordSource Mended(const QString& DBPath, const RecordSource& Records, const IDCounters& Free) {
+    return WithLostAlbums(DBPath, WithCounters(Records, Free));
+}
+
 // A damaged database, its files kept and its journals out of the way.
 struct Rest {
     clsDBEngine Engine;
@@ -100,7 +140,7 @@ Rest KeepAndLoad(const QString& DBPath, const QString& ProgramPath, const Databa
                     StagingFolder(DBPath));
     Left.Engine.SetDBPath(DBPath);
     Left.Engine.SetProgramPath(ProgramPath);
-    Left.Engine.LoadFrom(WithCounters(RecordsInDirectory(DBPath), Health.Free));
+    Left.Engine.LoadFrom(Mended(DBPath, RecordsInDirectory(DBPath), Health.Free));
     LeftBehind Brought;
     if (Session.Is == FoundSession::State::Goes) BringBack(Left.Engine, *Session.Left, Brought);
     Left.Kept.PutAside += SettleSession(DBPath, Session);
@@ -160,7 +200,7 @@ KeptFiles RestoreInstead(const QString& DBPath, const QString& ProgramPath,
 }
 
 void LoadRest(clsDBEngine& Into, const DatabaseHealth& Health) {
-    Into.LoadFrom(WithCounters(UsableRecords(Into.DBPath(), Health), Health.Free));
+    Into.LoadFrom(Mended(Into.DBPath(), UsableRecords(Into.DBPath(), Health), Health.Free));
 }
 
 std::optional<RestThere> CountRest(const QString& DBPath, const DatabaseHealth& Health) try {
