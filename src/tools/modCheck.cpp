@@ -40,8 +40,8 @@ clsDBEngine OpenAsLeft(const QString& Dir, Findings& Found) {
     Engine.SetDBPath(Dir);
     Engine.InitializeDB(Recovery::InMemory);
     if (Engine.Found().Changes > 0 && InstanceLock(DatabaseLockPath(Dir)).TryLock())
-        Found.Add(QStringLiteral("%1 of a session did not come to its end; the next start of the "
-                                 "program will bring them back")
+        Found.Add(QStringLiteral("a session did not come to its end; the next start of the program "
+                                 "will bring back %1")
                       .arg(Counted(Engine.Found().Changes, "change")));
     return Engine;
 }

@@ -238,8 +238,8 @@ TEST_F(CheckFiles, ChangesThatASessionLeftBehindCount) {
             {u"Late"_s, [] { return Picture(Qt::gray); }, QImage(72, 72, QImage::Format_RGB32)}));
     }
     EXPECT_EQ(
-        "1 change of a session did not come to its end; the next start of the program will bring "
-        "them back\n",
+        "a session did not come to its end; the next start of the program will bring back 1 "
+        "change\n",
         Check().Out);
 }
 
