@@ -170,7 +170,7 @@ class CutSession {
     // By nebctl check. A thumbnail follows its picture, and what a step makes lies there first.
     static void ExpectClean(const QString& Dir, const Progress& Told, bool PowerFails,
                             const std::string& Where) {
-        const ToolRun Checked = Tool({u"check"_s, Dir});
+        const ToolRun Checked = Tool({u"check"_s, u"--files"_s, Dir});
         const int Begun = Told.Now().Begun;
         const bool Makes = Begun >= 0 && Steps()[static_cast<size_t>(Begun)].Makes;
         for (const QString& Line :
