@@ -327,8 +327,21 @@ QString PictureFinding::Line() const {
     return Text + Path;
 }
 
+namespace {
+
+constexpr int Patience = 20;  // milliseconds
+
+// A disk that answers ends the work at once, and nothing of it runs on into the end of the program;
+// one that hangs keeps nobody.
+void EndSoon(Job<>& Work, const Told& Tells, const SumsGoOn& GoOn) {
+    constexpr int Tries = 50;
+    Work.Cancel();
+    for (int Try = 0; Try < Tries && !Work.Wait(Patience); ++Try) GoOn(Tells.Now());
+}
+
+}  // namespace
+
 PicturesChecked CheckAllPictures(const clsDBEngine& theDB, SumsLists Lists, const SumsGoOn& GoOn) {
-    constexpr int Patience = 20;  // milliseconds
     std::vector<AlbumToCheck> Albums;
     std::set<std::int32_t> Seen;  // a second album of one number owns nothing
     for (const auto& Album : theDB.Albums)
@@ -337,7 +350,9 @@ PicturesChecked CheckAllPictures(const clsDBEngine& theDB, SumsLists Lists, cons
     Job<> Work([DBPath = theDB.DBPath(), Albums = std::move(Albums), Lists,
                 Tells](JobState& State) { Checker(DBPath, Albums, Lists, Tells, State).Run(); });
     do {
-        if (GoOn && !GoOn(Tells->Now())) return Tells->SoFar();
+        if (!GoOn || GoOn(Tells->Now())) continue;
+        EndSoon(Work, *Tells, GoOn);
+        return Tells->SoFar();
     } while (!Work.Wait(Patience));
     Work.Take();
     if (GoOn) GoOn(Tells->Now());
