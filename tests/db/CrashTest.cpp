@@ -12,6 +12,7 @@
 #include "db/modLoadRecords.h"
 #include "db/recovery/modRestore.h"
 #include "harness/DiskKiller.h"
+#include "harness/EngineContent.h"
 #include "harness/MemoryFolder.h"
 #include "support/Fault.h"
 
@@ -19,16 +20,6 @@ namespace neb {
 namespace {
 
 using namespace harness;
-
-using Content = std::map<std::string, QByteArray>;
-
-// What an engine holds, as the record files that it would write.
-Content ContentOf(const clsDBEngine& Engine) {
-    const RecordImage Image = BuildImage(Engine);
-    Content Files;
-    for (const RecordFile File : AllRecordFiles) Files[RecordFileName(File)] = Image[File].Unpack();
-    return Files;
-}
 
 // One write of a changed database over an older one (or over nothing), to be cut short.
 struct Scene {

@@ -9,6 +9,7 @@
 #include "db/modAlbumFiles.h"
 #include "db/modLoadRecords.h"
 #include "db/recovery/StateDifferences.h"
+#include "harness/EngineContent.h"
 #include "support/Fault.h"
 
 #ifndef _WIN32
@@ -22,15 +23,6 @@ namespace neb {
 namespace {
 
 using namespace harness;
-
-using Content = std::map<std::string, QByteArray>;
-
-Content ContentOf(const clsDBEngine& Engine) {
-    const RecordImage Image = BuildImage(Engine);
-    Content Files;
-    for (const RecordFile File : AllRecordFiles) Files[RecordFileName(File)] = Image[File].Unpack();
-    return Files;
-}
 
 // But for the counters, which never go back.
 Content WithoutCounters(Content Files) {

@@ -15,22 +15,13 @@
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
 #include "db/modLoadRecords.h"
+#include "harness/EngineContent.h"
 #include "harness/MemoryFolder.h"
 #include "support/files/modHostFiles.h"
 
 namespace neb::harness {
 
 using namespace Qt::StringLiterals;
-
-using Content = std::map<std::string, QByteArray>;
-
-// What an engine holds, as the record files that it would write.
-inline Content ContentOf(const clsDBEngine& Engine) {
-    const RecordImage Image = BuildImage(Engine);
-    Content Files;
-    for (const RecordFile File : AllRecordFiles) Files[RecordFileName(File)] = Image[File].Unpack();
-    return Files;
-}
 
 // How far a session has come, seen from the process that outlives it.
 class Progress {
