@@ -99,9 +99,11 @@ void ShowRun::Enter(const ShowTransition& Transition) {
 }
 
 void ShowRun::GotoFirstSlide() {
+    const std::int32_t Left = mResumeValid ? mResumeSeq : 0;
+    const std::int32_t First = mBeginsAt > 0 ? mBeginsAt : Left;
     mWorld.Place.CurrentSlideSeq = 1;
-    if (mResumeSeq < 1 || !mResumeValid) return;
-    mWorld.Place.CurrentSlideSeq = mResumeSeq;
+    if (First < 1) return;
+    mWorld.Place.CurrentSlideSeq = First;
     mWorld.Place.CurrentSlideShowID = SlideShowID;
 }
 
@@ -149,6 +151,10 @@ void ShowRun::GotoStart() {
 
 void ShowRun::GotoEnd() {
     UserStep(mLastSeq);
+}
+
+void ShowRun::GotoSlide(std::int32_t SlideSeq) {
+    UserStep(SlideSeq);
 }
 
 void ShowRun::UserStep(std::int32_t SlideSeq) {

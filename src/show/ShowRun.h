@@ -28,8 +28,8 @@ class ShowRun {
     std::int32_t SlideShowID = 0;
     // Takes the show's settings and tables, and its sound; nothing is shown yet.
     void Load();
-    // The show begins at its first slide, wherever it was left.
-    void ForgetResumePoint() { mResumeSeq = 0; }
+    // The show begins at this place, from 1, wherever it was left; 0: where it was left.
+    void BeginAt(std::int32_t SlideSeq) { mBeginsAt = SlideSeq; }
     // Stops the sound and the ticks for good.
     void End();
 
@@ -40,6 +40,8 @@ class ShowRun {
     void PreviousSlide();
     void GotoStart();
     void GotoEnd();
+    // To a place from 1 to SlideCount; one that the show does not have leads to its first slide.
+    void GotoSlide(std::int32_t SlideSeq);
     // Halts a running show for another window's work, and takes it up again.
     void StopMe();
     void ReStartMe();
@@ -57,6 +59,8 @@ class ShowRun {
     const QString& CurrentFile() const { return mCurrentFile; }
     const QString& SlideShowName() const { return mSlideShowName; }
     bool IsManual() const { return mProgressionMethod != 0; }
+    // Of the show as it stood when the present slide came up; 0 before the first.
+    std::int32_t SlideCount() const { return mSlideCount; }
     bool ResumeValid() const { return mResumeValid; }
     bool Timer1On() const { return mTimer1On; }
 
@@ -102,6 +106,7 @@ class ShowRun {
     std::int32_t mProgressionMethod = 0;  // 0 automatic, 1 manual
     std::int32_t mSlideCount = 0;
     std::int32_t mLastSeq = 0;
+    std::int32_t mBeginsAt = 0;
     std::int32_t mResumeSeq = 0;
     bool mResumeValid = false;
     bool mResumeAfterRestart = false;

@@ -79,7 +79,7 @@ void Rehearsal::RunUntil(double Seconds) {
 
 RehearsalEnd Rehearsal::RunWhole() {
     mOneRound = true;
-    mRun.ForgetResumePoint();
+    mRun.BeginAt(1);
     Start();
     const RehearsalEnd End = RunRound();
     mOneRound = false;

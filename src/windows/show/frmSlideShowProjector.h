@@ -26,6 +26,8 @@ class frmSlideShowProjector : public Form, private ShowStage {
     // Both before LoadSlideShow.
     void SetAlbumID(std::int32_t ID) { mRun.AlbumID = ID; }
     void SetAlbumName(const QString& Name) { mAlbumName = Name; }
+    // A place from 1, instead of the one where the show was left.
+    void BeginAt(std::int32_t SlideSeq) { mRun.BeginAt(SlideSeq); }
     // Shows the window modally; returns when it has closed. Throws Fault when the first slide or
     // the saving of the place failed.
     void LoadSlideShow(std::int32_t SlideShowID);
@@ -40,6 +42,7 @@ class frmSlideShowProjector : public Form, private ShowStage {
     void PreviousSlide() { mRun.PreviousSlide(); }
     void GotoStart() { mRun.GotoStart(); }
     void GotoEnd() { mRun.GotoEnd(); }
+    void GotoSlide(std::int32_t SlideSeq) { mRun.GotoSlide(SlideSeq); }
     void ShowPopupMenu();
     void EditPreferences();
     // The ticks: every 100 ms the clock of the slides, every 1000 ms the loop of the sound.

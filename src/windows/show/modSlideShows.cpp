@@ -6,15 +6,17 @@
 
 namespace neb {
 
-void RunSlideShow(std::int32_t AlbumID, const QString& AlbumName, std::int32_t SlideShowID) {
-    RunSlideShowIn(DesktopShowWorld(), AlbumID, AlbumName, SlideShowID);
+void RunSlideShow(std::int32_t AlbumID, const QString& AlbumName, std::int32_t SlideShowID,
+                  std::int32_t BeginAt) {
+    RunSlideShowIn(DesktopShowWorld(), AlbumID, AlbumName, SlideShowID, BeginAt);
 }
 
 void RunSlideShowIn(const ShowWorld& World, std::int32_t AlbumID, const QString& AlbumName,
-                    std::int32_t SlideShowID) {
+                    std::int32_t SlideShowID, std::int32_t BeginAt) {
     const auto Projector = NewForm<frmSlideShowProjector>(World);
     Projector->SetAlbumID(AlbumID);
     Projector->SetAlbumName(AlbumName);
+    Projector->BeginAt(BeginAt);
     try {
         Projector->LoadSlideShow(SlideShowID);
     } catch (const Fault&) {

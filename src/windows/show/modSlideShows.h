@@ -10,11 +10,13 @@ namespace neb {
 
 struct ShowWorld;
 
-// Runs a show on the full screen; returns when the user has left it. Faults are ignored.
-void RunSlideShow(std::int32_t AlbumID, const QString& AlbumName, std::int32_t SlideShowID);
+// Runs a show on the full screen; returns when the user has left it. Faults are ignored. BeginAt:
+// the slide to begin with, from 1; 0: where the show was left, or its first.
+void RunSlideShow(std::int32_t AlbumID, const QString& AlbumName, std::int32_t SlideShowID,
+                  std::int32_t BeginAt = 0);
 // The same in another world than the desktop's.
 void RunSlideShowIn(const ShowWorld& World, std::int32_t AlbumID, const QString& AlbumName,
-                    std::int32_t SlideShowID);
+                    std::int32_t SlideShowID, std::int32_t BeginAt = 0);
 
 // Shows preferences; SlideTimeout is then as they say. Faults are ignored.
 void EditSlideShowPreferences();
