@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "support/MediaTypes.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
 #include "support/modNumbers.h"
@@ -87,10 +88,11 @@ std::int32_t FreeAlbumID(const QString& DBPath, std::int32_t From) {
 
 std::int32_t FreeSlideID(const QString& DBPath, std::int32_t AlbumID, std::int32_t From) {
     const QString Folder = SlidesFolder(DBPath, AlbumID);
-    const auto IsTaken = [&Folder](const QString& Stem) {
-        return NameExists(Folder + Stem + QStringLiteral(".jpg")) ||
-               NameExists(Folder + Stem + QStringLiteral(".wav")) ||
-               NameExists(Folder + Stem + QStringLiteral("Small.bmp"));
+    QStringList Endings{QStringLiteral(".jpg"), QStringLiteral("Small.bmp")};
+    for (const QString& Sound : SoundExtensions()) Endings << Sound.toLower();
+    const auto IsTaken = [&](const QString& Stem) {
+        return std::any_of(Endings.cbegin(), Endings.cend(),
+                           [&](const QString& Each) { return NameExists(Folder + Stem + Each); });
     };
     while (IsTaken(FileStem(From))) ++From;
     return From;

@@ -24,6 +24,9 @@ constexpr MediaType Pictures[] = {
 constexpr MediaType Sounds[] = {
     {"Wave Audio Files", "wav"},
     {"MP3 Audio Files", "mp3"},
+    {"Ogg Audio Files", "ogg oga"},
+    {"FLAC Audio Files", "flac"},
+    {"AIFF Audio Files", "aif aiff"},
 };
 // clang-format on
 
@@ -38,6 +41,12 @@ QStringList ExtensionsOf(std::span<const MediaType> Types) {
 // "*.tif;*.tiff"
 QString MasksOf(const QStringList& Endings) {
     return QStringLiteral("*.") + Endings.join(QStringLiteral(";*."));
+}
+
+QString AllMasks(const QStringList& Extensions) {
+    QStringList Endings;
+    for (const QString& Extension : Extensions) Endings << Extension.toLower().sliced(1);
+    return MasksOf(Endings);
 }
 
 QStringList FiltersOf(std::span<const MediaType> Types) {
@@ -65,21 +74,25 @@ bool IsPictureName(const QString& Name) {
     return PictureExtensions().contains(GetFileExt(Name).toUpper());
 }
 
-bool IsSoundName(const QString& Name) {
+const QStringList& SoundExtensions() {
     static const QStringList All = ExtensionsOf(Sounds);
-    return All.contains(GetFileExt(Name).toUpper());
+    return All;
+}
+
+bool IsSoundName(const QString& Name) {
+    return SoundExtensions().contains(GetFileExt(Name).toUpper());
 }
 
 QString PictureFilters() {
-    QStringList All;
-    for (const QString& Extension : PictureExtensions()) All << Extension.toLower().sliced(1);
     QStringList Filters = FiltersOf(Pictures);
-    Filters << QStringLiteral("All Graphics Files|") + MasksOf(All);
+    Filters << QStringLiteral("All Graphics Files|") + AllMasks(PictureExtensions());
     return Filters.join(u'|');
 }
 
 QString SoundFilters() {
-    return FiltersOf(Sounds).join(u'|');
+    QStringList Filters = FiltersOf(Sounds);
+    Filters.prepend(QStringLiteral("All Sound Files|") + AllMasks(SoundExtensions()));
+    return Filters.join(u'|');
 }
 
 }  // namespace neb

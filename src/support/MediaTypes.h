@@ -17,14 +17,15 @@ struct MediaType {
 
 std::span<const MediaType> PictureTypes();
 
-// ".BMP" to ".WMF", sorted.
+// ".BMP" to ".WMF", and ".AIF" to ".WAV", sorted.
 const QStringList& PictureExtensions();
+const QStringList& SoundExtensions();
 // Whether a name, or the name at the end of a path, ends in one of the extensions, in any case.
 bool IsPictureName(const QString& Name);
 bool IsSoundName(const QString& Name);
 
 // For a file dialog, as "Name (*.a;*.b)|*.a;*.b|..."; that of pictures ends with all of them at
-// once.
+// once, that of sounds begins so.
 QString PictureFilters();
 QString SoundFilters();
 

@@ -299,6 +299,12 @@ TEST_F(SumsOfChanges, AnEmptiedAlbumHasAnEmptyList) {
     EXPECT_TRUE(ListDir(Slides).empty());
 }
 
+TEST_F(SumsOfChanges, ANumberIsNotGivenOutOverASoundOfAnyKind) {
+    for (const char* Name : {"00000001.mp3", "00000002.Ogg", "00000003.flac", "00000004.AIFF"})
+        WriteFile(Slides + QLatin1String(Name), "somebody's");
+    EXPECT_EQ(5, Door.FreeSlideID(AlbumID));
+}
+
 TEST_F(SumsOfChanges, ANumberIsNotGivenOutOverAFileThatIsThere) {
     for (const char* Name : {"00000001.jpg", "00000002.WAV", "00000003small.bmp"})
         WriteFile(Slides + QLatin1String(Name), "somebody's");

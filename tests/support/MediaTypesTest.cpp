@@ -11,7 +11,8 @@ TEST(MediaTypes, CountThesePicturesAndNoOthers) {
               PictureExtensions().join(u' ').toStdString());
     for (const QString& Each : PictureExtensions()) {
         EXPECT_TRUE(IsPictureName(QStringLiteral("a") + Each)) << Each.toStdString();
-        EXPECT_TRUE(IsPictureName(QStringLiteral("C:\\b.c\\a") + Each.toLower())) << Each.toStdString();
+        EXPECT_TRUE(IsPictureName(QStringLiteral("C:\\b.c\\a") + Each.toLower()))
+            << Each.toStdString();
         EXPECT_FALSE(IsPictureName(QStringLiteral("a") + Each + u'x')) << Each.toStdString();
     }
     for (const char* Other : {"", "jpg", "a.jpg.bak", "a.gif", "a.wav", "a.jpg "})
@@ -37,12 +38,17 @@ TEST(MediaTypes, ThePictureDialogOffersEachKindAndThenAllAtOnce) {
         PictureFilters().toStdString());
 }
 
-TEST(MediaTypes, TheSoundDialogOffersWaveAndMp3) {
-    EXPECT_EQ("Wave Audio Files (*.wav)|*.wav|MP3 Audio Files (*.mp3)|*.mp3",
-              SoundFilters().toStdString());
-    for (const char* Sound : {"a.wav", "b.MP3", "/x.y/c.Wav"})
+TEST(MediaTypes, TheSoundDialogOffersAllSoundsAtOnceAndThenEachKind) {
+    EXPECT_EQ(
+        "All Sound Files|*.aif;*.aiff;*.flac;*.mp3;*.oga;*.ogg;*.wav|"
+        "Wave Audio Files (*.wav)|*.wav|MP3 Audio Files (*.mp3)|*.mp3|"
+        "Ogg Audio Files (*.ogg;*.oga)|*.ogg;*.oga|FLAC Audio Files (*.flac)|*.flac|"
+        "AIFF Audio Files (*.aif;*.aiff)|*.aif;*.aiff",
+        SoundFilters().toStdString());
+    for (const char* Sound :
+         {"a.wav", "b.MP3", "/x.y/c.Wav", "d.ogg", "e.oga", "f.FLAC", "g.aif", "h.AIFF"})
         EXPECT_TRUE(IsSoundName(QString::fromLatin1(Sound))) << Sound;
-    for (const char* Other : {"a.ogg", "wav", "a.wav.jpg", "/x.wav/c", ""})
+    for (const char* Other : {"a.mid", "wav", "a.wav.jpg", "/x.wav/c", "a.flacs", ""})
         EXPECT_FALSE(IsSoundName(QString::fromLatin1(Other))) << Other;
 }
 
