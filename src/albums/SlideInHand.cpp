@@ -7,8 +7,7 @@ namespace neb {
 void SlideInHand::Renew(std::int32_t AlbumID, const clsNEBSlide& Now) {
     mAlbumID = AlbumID;
     mNow = Now;
-    mRecording.clear();
-    mSound = Sound::AsStored;
+    SetSound(Sound::AsStored, {}, {});
     mTurned = mMoved = mChanged = false;
 }
 
@@ -57,16 +56,23 @@ std::optional<ImgX> SlideInHand::Turn(ImgX Turned) {
     return Before;
 }
 
-void SlideInHand::Record(const QByteArray& Wave) {
-    mRecording = Wave;
-    mSound = Sound::Recorded;
+void SlideInHand::SetSound(Sound Now, const QByteArray& File, const QString& Ending) {
+    mSound = Now;
+    mNewSound = File;
+    mNewEnding = Ending;
     mChanged = true;
 }
 
+void SlideInHand::Record(const QByteArray& Wave) {
+    SetSound(Sound::Recorded, Wave, QStringLiteral(".wav"));
+}
+
+void SlideInHand::ChooseSound(const QByteArray& File, const QString& Ending) {
+    SetSound(Sound::Chosen, File, Ending);
+}
+
 void SlideInHand::ClearSound() {
-    mRecording.clear();
-    mSound = Sound::Cleared;
-    mChanged = true;
+    SetSound(Sound::Cleared, {}, {});
 }
 
 const QString& SlideInHand::PictureName() const {

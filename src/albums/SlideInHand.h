@@ -15,7 +15,7 @@ namespace neb {
 class SlideInHand {
   public:
     // What becomes of the sound at the next save: the user's last word on it counts.
-    enum class Sound { AsStored, Recorded, Cleared };
+    enum class Sound { AsStored, Recorded, Chosen, Cleared };
     // Makes the bytes of the slide's JPEG, fitted. It throws Fault, on any thread.
     using JpegMaker = std::function<QByteArray()>;
 
@@ -35,6 +35,8 @@ class SlideInHand {
     void ChoosePicture(const QString& Path);  // in full; its pixels follow
     std::optional<ImgX> Turn(ImgX Turned);    // turned or flipped; as SetPicture
     void Record(const QByteArray& Wave);      // the bytes of a WAV file
+    // The bytes of a sound file, and the ending (".flac") that it keeps.
+    void ChooseSound(const QByteArray& File, const QString& Ending);
     void ClearSound();
 
     std::int32_t AlbumID() const { return mAlbumID; }
@@ -54,18 +56,23 @@ class SlideInHand {
 
     Sound SoundState() const { return mSound; }
     bool HasSound() const { return !mNow.SoundTrackLoc.isEmpty(); }  // one is stored
-    const QByteArray& Recording() const { return mRecording; }
+    const QString& SoundName() const { return mNow.SoundTrackLoc; }  // of the one that is stored
+    // Of a sound that was recorded or chosen.
+    const QByteArray& NewSound() const { return mNewSound; }
+    const QString& NewEnding() const { return mNewEnding; }
     bool Override() const { return mNow.Override; }
     bool Repeat() const { return mNow.Repeat; }
 
   private:
     void Renew(std::int32_t AlbumID, const clsNEBSlide& Now);
+    void SetSound(Sound Now, const QByteArray& File, const QString& Ending);
 
     std::int32_t mAlbumID = 0;
     clsNEBSlide mNow;     // SlideLoc: the stored name, or the full path of a chosen file
     QString mNameBefore;  // of the picture of the slide that was taken last
     std::optional<ImgX> mPicture;
-    QByteArray mRecording;
+    QByteArray mNewSound;
+    QString mNewEnding;
     Sound mSound = Sound::AsStored;
     bool mTurned = false;
     bool mMoved = false;  // what was made began with another slide, or with none

@@ -23,12 +23,8 @@ void SetPlaying(clsNEBSlide& Record, const SlideInHand& InHand) {
     Record.Repeat = InHand.Repeat();
 }
 
-QString SoundName(std::int32_t SlideID) {
-    return FileStem(SlideID) + QStringLiteral(".wav");
-}
-
-QString SoundFile(const clsDBEngine& theDB, std::int32_t AlbumID, std::int32_t SlideID) {
-    return SlidesFolder(theDB.DBPath(), AlbumID) + SoundName(SlideID);
+QString RecordedSound(const clsDBEngine& theDB, std::int32_t AlbumID, std::int32_t SlideID) {
+    return SlidesFolder(theDB.DBPath(), AlbumID) + FileStem(SlideID) + QStringLiteral(".wav");
 }
 
 void ClearSound(clsNEBSlide& Record) {
@@ -129,7 +125,7 @@ Answer<Announcement> SaveSlide(clsDBEngine& theDB, const QObject* Asker, SlideIn
     Answer<Announcement> Saved = Door.SaveSlide(InHand.AlbumID(), Record);
     QStringList Unnamed =
         NoLongerNamed(SlidesFolder(theDB.DBPath(), InHand.AlbumID()), Before, Record);
-    if (DropsSound) Unnamed << SoundFile(theDB, InHand.AlbumID(), Record.SlideID);
+    if (DropsSound) Unnamed << RecordedSound(theDB, InHand.AlbumID(), Record.SlideID);
     if (Saved && !Unnamed.isEmpty() && theDB.IsSessionStored()) DropStored(Unnamed);
     return Saved;
 }
@@ -144,14 +140,21 @@ Answer<Announcement> DeleteSlide(clsDBEngine& theDB, const QObject* Asker, std::
 }
 
 void StoreSound(const clsDBEngine& theDB, const SlideInHand& InHand, clsNEBSlide& Record) {
-    if (InHand.SoundState() == SlideInHand::Sound::Cleared) return ClearSound(Record);
-    if (InHand.SoundState() == SlideInHand::Sound::Recorded) {
-        StoreAnew(SoundFile(theDB, InHand.AlbumID(), Record.SlideID), InHand.Recording());
-        Record.SoundTrackLoc = SoundName(Record.SlideID);
+    using Sound = SlideInHand::Sound;
+    const Sound Is = InHand.SoundState();
+    if (Is == Sound::Cleared) return ClearSound(Record);
+    if (Is == Sound::Recorded || Is == Sound::Chosen) {
+        const QString Name = FileStem(Record.SlideID) + InHand.NewEnding();
+        StoreAnew(SlidesFolder(theDB.DBPath(), InHand.AlbumID()) + Name, InHand.NewSound());
+        Record.SoundTrackLoc = Name;
     } else if (!InHand.HasSound()) {
         return;
     }
     SetPlaying(Record, InHand);
+}
+
+QString StoredSound(const QString& DBPath, const SlideInHand& InHand) {
+    return SlidePath(DBPath, InHand.AlbumID(), InHand.SoundName().trimmed());
 }
 
 int NextSlideIndex(int Index, int Last) {

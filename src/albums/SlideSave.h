@@ -27,10 +27,12 @@ Answer<Announcement> SaveSlide(clsDBEngine& theDB, const QObject* Asker, SlideIn
 Answer<Announcement> DeleteSlide(clsDBEngine& theDB, const QObject* Asker, std::int32_t AlbumID,
                                  std::int32_t SlideID);
 
-// Clears the sound of Record, or stores the recording, or sets how the sound that is there is played;
+// Clears the sound of Record, or stores the new one, or sets how the sound that is there is played;
 // Record, not yet in the album, says so afterwards. The file of a cleared sound is for SaveSlide to
 // delete. Throws Fault when a file cannot be written: record and old sound are as they were.
 void StoreSound(const clsDBEngine& theDB, const SlideInHand& InHand, clsNEBSlide& Record);
+// Where the sound is that is stored of the slide.
+QString StoredSound(const QString& DBPath, const SlideInHand& InHand);
 
 // The entry of the list to go to; entry 0 is for a new slide, Last is the last one. Both walk
 // round in circles over 1 to Last; -1 when there is nowhere to go.

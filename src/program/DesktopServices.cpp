@@ -3,9 +3,12 @@
 #include "InitAssets.h"
 #include "controls/picture/XShow.h"
 #include "pictures/ImgX.h"
+#include "sound/RecorderJobs.h"
 
 namespace neb {
 namespace {
+
+constexpr std::chrono::milliseconds RecorderEnd{3000};  // a microphone that is still being opened
 
 QImage ReadPicture(const QString& File) {
     ImgX Picture;
@@ -32,6 +35,7 @@ DesktopServices::DesktopServices() {
 }
 
 DesktopServices::~DesktopServices() {
+    RecorderJobs::AwaitAll(RecorderEnd);
     TheServices().Boxes = nullptr;
     TheServices().Dialogs = nullptr;
     TheServices().Blanking = nullptr;

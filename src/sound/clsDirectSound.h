@@ -1,4 +1,4 @@
-// The one class through which the program touches sound: a player of WAV and MP3 files (shows,
+// The one class through which the program touches sound: a player of sound files (shows,
 // slide windows) and a recorder of short clips (the sound recorder). Refusals leave a text in
 // LastError. All calls come on the window's thread.
 #pragma once
@@ -54,7 +54,8 @@ class clsDirectSound {
     bool RecorderPlaybackComplete();
     // As a WAV file. Throws Fault when it cannot be written; the recording is kept.
     bool RecorderSaveToFile(const QString& Path);
-    // 1 to 100; kept, and applied to nothing. Any other is refused.
+    // The level to record at, from now on: 1 to 100, 50 as it comes, a quarter of a decibel a
+    // step. Any other is refused.
     Answer<> SetRecorderVolume(int Value);
     // For a meter: seconds recorded so far or played so far, and the peak of the last moment, 0
     // to 1.

@@ -20,7 +20,7 @@ struct RateOfCaps {
 constexpr RateOfCaps Rates[] = {{CaptureDevice::Mono8At22050, 22050},
                                 {CaptureDevice::Mono8At11025, 11025}};
 
-const auto NoDirectX = QStringLiteral("Unable to initialize DirectX 8.");
+const auto NoSound = QStringLiteral("Unable to use the sound system.");
 const auto NoCapture = QStringLiteral("Unable to initialize sound card for capture.");
 const auto NoFormat = QStringLiteral("Recording is not supported by your sound card.");
 const auto NotSupported = QStringLiteral("Recording is not supported on your sound card.");
@@ -53,7 +53,7 @@ bool clsDirectSound::Recorder::Supported() {
 }
 
 bool clsDirectSound::Recorder::Initialize() {
-    if (!mDX) return Refuse(NoDirectX);
+    if (!mDX) return Refuse(NoSound);
     mCapture = mDX->CreateCapture();
     if (!mCapture) return Refuse(NoCapture);
     mInitialized = true;
@@ -88,6 +88,7 @@ bool clsDirectSound::Recorder::StartRecording() {
     StopRecording();
     StopPlayback();
     if (!InitCapture()) return false;
+    mLevel.Begin(mVolume);
     mCaptureBuffer->Start();
     mRecording = true;
     return true;
@@ -111,13 +112,19 @@ bool clsDirectSound::Recorder::HasClip() {
     return mBufferBuilt || Refuse(NoRecording);
 }
 
+QByteArray clsDirectSound::Recorder::ReadRecorded(std::int32_t First, std::int32_t Count) const {
+    QByteArray Samples = mCaptureBuffer->ReadBuffer(First, Count);
+    mLevel.Apply(Samples, First);
+    return Samples;
+}
+
 void clsDirectSound::Recorder::BuildPlaybackBuffer() {
     StopPlayback();
     mPlayBuffer.reset();
     mBytes.clear();
     const std::int32_t RecordedBytes = mCaptureBuffer->GetCurrentPosition();
     if (RecordedBytes == 0) return;
-    mBytes = mCaptureBuffer->ReadBuffer(0, RecordedBytes + 1);
+    mBytes = ReadRecorded(0, RecordedBytes + 1);
     // Beyond the recording there is nothing to hear, whatever the device has there.
     mBytes[RecordedBytes] = static_cast<char>(Silence);
     mBufferBuilt = true;
@@ -159,6 +166,7 @@ bool clsDirectSound::Recorder::SaveToFile(const QString& Path) {
 Answer<> clsDirectSound::Recorder::SetVolume(int Value) {
     if (Value < 1 || Value > 100) return neb::Refuse(QStringLiteral("Volume must be >0 and <=100"));
     mVolume = Value;
+    if (mRecording) mLevel.ChangeAt(Position(), Value);
     return Done();
 }
 
@@ -178,8 +186,7 @@ QByteArray clsDirectSound::Recorder::LastMoment() const {
     const std::int32_t Last = Position();
     const auto Moment = static_cast<std::int32_t>(mCaptureFormat.AvgBytesPerSec / MomentsPerSecond);
     const std::int32_t First = std::max(0, Last - Moment);
-    return mPlaying ? mBytes.mid(First, Last - First)
-                    : mCaptureBuffer->ReadBuffer(First, Last - First);
+    return mPlaying ? mBytes.mid(First, Last - First) : ReadRecorded(First, Last - First);
 }
 
 double clsDirectSound::Recorder::Level() const {

@@ -2,6 +2,7 @@
 // plays it back and gives the bytes of its WAV file.
 #pragma once
 
+#include "sound/RecordingLevel.h"
 #include "sound/clsDirectSound.h"
 
 namespace neb {
@@ -32,11 +33,13 @@ class clsDirectSound::Recorder {
     void CheckOutput();
     bool HasClip();
     void BuildPlaybackBuffer();
+    QByteArray ReadRecorded(std::int32_t First, std::int32_t Count) const;  // at the level
     std::int32_t Position() const;  // bytes, of what runs; else of what was recorded
     QByteArray LastMoment() const;
 
     QString& mLastError;
     int mVolume = 50;
+    RecordingLevel mLevel;  // of the last recording
     bool mInitialized = false;
     bool mHasRecording = false;
     bool mBufferBuilt = false;

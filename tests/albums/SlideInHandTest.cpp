@@ -88,7 +88,7 @@ TEST_F(InHand, TakenAnewItForgetsWhatWasMade) {
     EXPECT_EQ(u"Rose"_s, Slide.Caption());
     EXPECT_EQ(u"00000007.JPG"_s, Slide.PictureName());
     EXPECT_EQ(Sound::AsStored, Slide.SoundState());
-    EXPECT_TRUE(Slide.Recording().isEmpty());
+    EXPECT_TRUE(Slide.NewSound().isEmpty());
     EXPECT_FALSE(Slide.Jpeg());
 }
 
@@ -147,10 +147,15 @@ TEST_F(InHand, OfClearingAndRecordingTheLaterOneCounts) {
     Slide.ClearSound();
     Slide.Record("words");
     EXPECT_EQ(Sound::Recorded, Slide.SoundState());
-    EXPECT_EQ("words", Slide.Recording());
+    EXPECT_EQ("words", Slide.NewSound());
+    EXPECT_EQ(".wav", Slide.NewEnding().toStdString());
+    Slide.ChooseSound("music", u".flac"_s);
+    EXPECT_EQ(Sound::Chosen, Slide.SoundState());
+    EXPECT_EQ("music", Slide.NewSound());
+    EXPECT_EQ(".flac", Slide.NewEnding().toStdString());
     Slide.ClearSound();
     EXPECT_EQ(Sound::Cleared, Slide.SoundState());
-    EXPECT_TRUE(Slide.Recording().isEmpty());
+    EXPECT_TRUE(Slide.NewSound().isEmpty());
 }
 
 TEST_F(InHand, HowASoundIsPlayedIsOfNoConcernWithoutOne) {

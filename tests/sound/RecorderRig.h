@@ -4,11 +4,14 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <functional>
+#include <thread>
 
 #include "RecorderPlayer.h"
 #include "harness/ScriptedBoxes.h"
 #include "harness/TempFolder.h"
+#include "sound/RecorderJobs.h"
 #include "sound/devices/SoundDevices.h"
 #include "support/Services.h"
 
@@ -17,8 +20,8 @@ namespace neb::test {
 class FakeCaptureBuffer : public CaptureBuffer {
   public:
     FakeCaptureBuffer(Journal& Told, FakeCaptureBuffer*& Current, const WaveFormat& Format,
-                      std::int32_t Bytes)
-        : mTold(Told), mCurrent(Current), mFormat(Format), mSize(Bytes) {
+                      std::int32_t Bytes, std::chrono::milliseconds Delay)
+        : mTold(Told), mCurrent(Current), mFormat(Format), mSize(Bytes), mDelay(Delay) {
         mCurrent = this;
         mTold.emplace_back("buffer of " + std::to_string(Bytes));
     }
@@ -31,12 +34,15 @@ class FakeCaptureBuffer : public CaptureBuffer {
         if (mRunning) mBytes = (mBytes + Bytes).left(mSize);
     }
     const WaveFormat& Format() const { return mFormat; }
+    void SetDelay(std::chrono::milliseconds Delay) { mDelay = Delay; }
 
     void Start() override {
+        std::this_thread::sleep_for(mDelay);
         mRunning = true;
         mTold.emplace_back("record");
     }
     void Stop() override {
+        std::this_thread::sleep_for(mDelay);
         mRunning = false;
         mTold.emplace_back("stop recording");
     }
@@ -54,6 +60,7 @@ class FakeCaptureBuffer : public CaptureBuffer {
     FakeCaptureBuffer*& mCurrent;
     WaveFormat mFormat;
     qsizetype mSize;
+    std::chrono::milliseconds mDelay;
     QByteArray mBytes;
     bool mRunning = false;
 };
@@ -61,7 +68,12 @@ class FakeCaptureBuffer : public CaptureBuffer {
 class FakeSound : public SoundDevices {
   public:
     FakeSound() : mBefore(TheServices().Sound) { TheServices().Sound = this; }
-    ~FakeSound() override { TheServices().Sound = mBefore; }
+    ~FakeSound() override {
+        Settle();
+        TheServices().Sound = mBefore;
+    }
+    // Until what was begun aside is over, of windows that are gone, too.
+    static void Settle() { EXPECT_TRUE(RecorderJobs::AwaitAll(std::chrono::seconds(20))); }
 
     bool HasMicrophone = true;
     // Another in place of the scripted one.
@@ -70,7 +82,8 @@ class FakeSound : public SoundDevices {
     std::uint32_t Caps = CaptureDevice::Mono8At11025 | CaptureDevice::Mono8At22050;
     PlaybackState Playback = PlaybackState::Ready;
     bool PlayerFails = false;
-    int Opened = 0;  // microphones
+    std::chrono::milliseconds Delay{0};  // of each opening, start, stop and check
+    int Opened = 0;                      // microphones
     Journal Told;
     FakeCaptureBuffer* Buffer = nullptr;  // the last that lives
     FakePlayer* Player = nullptr;         // the last that lives
@@ -78,7 +91,10 @@ class FakeSound : public SoundDevices {
     std::unique_ptr<SoundGraph> CreateGraph() override { return nullptr; }
     void LoadAhead(const QString&) override {}
     std::unique_ptr<CaptureDevice> CreateCapture() override;
-    PlaybackState CheckPlayback() override { return Playback; }
+    PlaybackState CheckPlayback() override {
+        std::this_thread::sleep_for(Delay);
+        return Playback;
+    }
     std::unique_ptr<SoundGraph> CreateSoundBuffer(const WaveFormat& Format,
                                                   const QByteArray& Bytes) override {
         if (PlayerFails) return nullptr;
@@ -92,12 +108,16 @@ class FakeSound : public SoundDevices {
 class FakeMicrophone : public CaptureDevice {
   public:
     explicit FakeMicrophone(FakeSound& Sound) : mSound(Sound) {}
-    ~FakeMicrophone() override { mSound.Told.emplace_back("microphone released"); }
+    ~FakeMicrophone() override {
+        std::this_thread::sleep_for(mSound.Delay);
+        mSound.Told.emplace_back("microphone released");
+    }
     std::uint32_t GetCaps() const override { return mSound.Caps; }
     std::unique_ptr<CaptureBuffer> CreateCaptureBuffer(const WaveFormat& Format,
                                                        std::int32_t Bytes) override {
         if (mSound.Unplugged) return nullptr;
-        return std::make_unique<FakeCaptureBuffer>(mSound.Told, mSound.Buffer, Format, Bytes);
+        return std::make_unique<FakeCaptureBuffer>(mSound.Told, mSound.Buffer, Format, Bytes,
+                                                   mSound.Delay);
     }
 
   private:
@@ -106,6 +126,7 @@ class FakeMicrophone : public CaptureDevice {
 
 inline std::unique_ptr<CaptureDevice> FakeSound::CreateCapture() {
     ++Opened;
+    std::this_thread::sleep_for(Delay);
     if (Microphone) return Microphone();
     return HasMicrophone ? std::make_unique<FakeMicrophone>(*this) : nullptr;
 }

@@ -36,7 +36,7 @@ class SoundRecorder : public RecorderRig {
 TEST_F(SoundRecorder, WithoutSoundAtAllIsNotSupported) {
     mEngine = std::make_unique<clsDirectSound>(nullptr);
     EXPECT_FALSE(Supported());
-    EXPECT_EQ(LastError(), "Unable to initialize DirectX 8.");
+    EXPECT_EQ(LastError(), "Unable to use the sound system.");
 }
 
 TEST_F(SoundRecorder, WithoutAMicrophoneIsNotSupportedUntilOneIsPluggedIn) {
@@ -282,16 +282,39 @@ TEST_F(SoundRecorder, AFileInNoFolderIsAFault) {
     EXPECT_TRUE(mEngine->RecorderStartPlayback());
 }
 
-TEST_F(SoundRecorder, TheVolumeIsFrom1To100AndChangesNothing) {
+TEST_F(SoundRecorder, TheVolumeIsFrom1To100) {
     for (const int Right : {1, 50, 100}) EXPECT_TRUE(mEngine->SetRecorderVolume(Right));
     for (const int Wrong : {0, 101, -5})
         neb::harness::ExpectRefused(mEngine->SetRecorderVolume(Wrong),
                                     QStringLiteral("Volume must be >0 and <=100"));
+}
+
+TEST_F(SoundRecorder, RecordsAtTheVolumeThatWasSet) {
     ASSERT_TRUE(Supported());
-    mEngine->SetRecorderVolume(3);
-    Record(Speech(100));
+    EXPECT_TRUE(mEngine->SetRecorderVolume(74));  // 6 decibels more: twice as much
+    Record("\x80\x90\x70");
     ASSERT_TRUE(mEngine->RecorderStartPlayback());
-    EXPECT_EQ(mSound.Player->Bytes(), Speech(100) + '\x80');
+    EXPECT_EQ(mSound.Player->Bytes().toHex(), "80a06080");
+    EXPECT_TRUE(mEngine->SetRecorderVolume(26));
+    ASSERT_TRUE(mEngine->RecorderSaveToFile(SavePath()));
+    EXPECT_EQ(ReadFile(SavePath()).mid(44).toHex(), "80a06080") << "what was recorded stays";
+    Record("\x80\x90\x70");
+    ASSERT_TRUE(mEngine->RecorderStartPlayback());
+    EXPECT_EQ(mSound.Player->Bytes().toHex(), "80887880");
+}
+
+TEST_F(SoundRecorder, AVolumeThatIsChangedMeanwhileIsForWhatFollows) {
+    ASSERT_TRUE(Supported());
+    ASSERT_TRUE(mEngine->RecorderStartRecording());
+    mSound.Buffer->Feed(QByteArray(3000, '\x90'));
+    EXPECT_EQ(mEngine->RecorderLevel(), 0.125);
+    EXPECT_TRUE(mEngine->SetRecorderVolume(74));
+    mSound.Buffer->Feed(QByteArray(3000, '\x90'));
+    EXPECT_EQ(mEngine->RecorderLevel(), 0.25) << "the meter shows what is recorded";
+    mEngine->RecorderStopRecording();
+    ASSERT_TRUE(mEngine->RecorderSaveToFile(SavePath()));
+    EXPECT_EQ(ReadFile(SavePath()).mid(44),
+              QByteArray(3000, '\x90') + QByteArray(3000, '\xA0') + '\x80' + '\0');
 }
 
 TEST_F(SoundRecorder, TellsSecondsAndLevelWhileItRecords) {

@@ -32,7 +32,7 @@ SdlSoundDevices::SdlSoundDevices() = default;
 SdlSoundDevices::~SdlSoundDevices() = default;
 
 SdlSoundDevices::Parts& SdlSoundDevices::Made() {
-    if (!mParts) mParts = std::make_unique<Parts>();
+    std::call_once(mMade, [this] { mParts = std::make_unique<Parts>(); });
     return *mParts;
 }
 

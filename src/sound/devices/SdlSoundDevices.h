@@ -3,6 +3,7 @@
 #pragma once
 
 #include <memory>
+#include <mutex>
 
 #include "sound/devices/SoundDevices.h"
 
@@ -26,6 +27,7 @@ class SdlSoundDevices : public SoundDevices {
   private:
     struct Parts;
     Parts& Made();
+    std::once_flag mMade;           // the recorder asks on a thread of its own
     std::unique_ptr<Parts> mParts;  // none before the first use
 };
 

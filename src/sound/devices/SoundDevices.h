@@ -14,7 +14,7 @@ namespace neb {
 class SoundGraph {
   public:
     virtual ~SoundGraph() = default;
-    // Opens a WAV or MP3 file, at its start and not running. Length and position are exact at once.
+    // Opens a sound file, at its start and not running. Length and position are exact at once.
     // Throws Fault for a file that cannot be played.
     virtual void RenderFile(const QString& Path) = 0;
     virtual void Run() = 0;    // from where it stands

@@ -5,7 +5,6 @@
 
 #include "db/clsDBEngine.h"
 #include "settings/modNEBSlideShow.h"
-#include "support/Fault.h"
 #include "support/MediaTypes.h"
 #include "support/Services.h"
 #include "support/files/modHostFiles.h"
@@ -28,26 +27,33 @@ QString AskForPicture(const QString& Before) {
                                            PictureFilters());
 }
 
-QString DraggedPicture(const QMimeData& Data) {
+QString AskForSound() {
+    return TheServices().Dialogs->OpenFile(frmSlideDBM::tr("Choose a Sound"), {}, SoundFilters());
+}
+
+QString SoundEnding(const QString& Path) {
+    return IsSoundName(Path) ? GetFileExt(Path).toLower() : QStringLiteral(".wav");
+}
+
+QString HeardSound() {
+    return DBEngine->DBPath() + QStringLiteral("Temp/heard.wav");
+}
+
+QString DraggedFile(const QMimeData& Data) {
     for (const QUrl& Url : Data.urls())
-        if (Url.isLocalFile() && IsPictureName(Url.toLocalFile())) return Url.toLocalFile();
+        if (Url.isLocalFile() &&
+            (IsPictureName(Url.toLocalFile()) || IsSoundName(Url.toLocalFile())))
+            return Url.toLocalFile();
     return {};
 }
 
-// The recorder may report a recording though nothing was said into it: then there is nothing to
-// keep, an earlier recording of another slide least of all.
 std::optional<QByteArray> RecordSound() {
-    try {
-        DeleteFile(TemporarySound());
-        const auto Recorder = NewForm<frmSoundRecorder>();
-        Recorder->SetSoundSavePath(TemporarySound());
-        Recorder->ShowModal();
-        if (Recorder->SoundRecorded() && FileExists(TemporarySound()))
-            return ReadFile(TemporarySound());
-    } catch (const Fault&) {
-        // the recorder has said so in its own window
-    }
-    return {};
+    DeleteFile(TemporarySound());
+    const auto Recorder = NewForm<frmSoundRecorder>();
+    Recorder->SetSoundSavePath(TemporarySound());
+    Recorder->ShowModal();
+    if (!Recorder->SoundRecorded()) return {};
+    return ReadFile(TemporarySound());
 }
 
 }  // namespace neb

@@ -1,22 +1,29 @@
-// The slide manager's controls, its two lists, and how it follows other windows. What stands on the
-// screen and what the user does with it is in frmSlideDBMSlide.cpp.
+// The slide manager's controls, its two lists, the sound of its slide, and how it follows other
+// windows. What else stands on the screen and what the user does with it is in
+// frmSlideDBMSlide.cpp.
 #include "windows/slides/frmSlideDBM.h"
 
 #include <QAbstractItemView>
 
+#include "albums/SlideSave.h"
 #include "controls/fields/Icons.h"
 #include "controls/fields/KeyFilter.h"
 #include "controls/fields/ToolBar.h"
 #include "controls/forms/Tell.h"
 #include "controls/forms/modTwips.h"
 #include "controls/grid/FlexGrid.h"
+#include "db/clsDBEngine.h"
 #include "settings/modNEBSlideShow.h"
+#include "sound/decoding/SoundDecoder.h"
 #include "support/Services.h"
+#include "support/files/modHostFiles.h"
 #include "support/modDEValidation.h"
 #include "ui_frmSlideDBM.h"
 #include "windows/frame/Openers.h"
 #include "windows/frame/modWindowState.h"
+#include "windows/slides/ClipPlayer.h"
 #include "windows/slides/PicturePlace.h"
+#include "windows/slides/SlideChoice.h"
 
 namespace neb {
 namespace {
@@ -31,6 +38,7 @@ frmSlideDBM::frmSlideDBM() : mUi(std::make_unique<Ui::frmSlideDBM>()) {
     mUi->setupUi(this);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     mPlace = new PicturePlace(*mUi->stkPicture, *mUi->imgSlide, *mUi->flxMsg);
+    mPlayer = new ClipPlayer(*mUi->cmdPlaySound);
     SetUpButtons();
     SetUpTurns();
     SetUpFields();
@@ -51,6 +59,8 @@ void frmSlideDBM::SetUpButtons() {
         {mUi->cmdPrev, &frmSlideDBM::Previous},
         {mUi->cmdNext, &frmSlideDBM::Next},
         {mUi->cmdRecord, &frmSlideDBM::Record},
+        {mUi->cmdSoundFile, &frmSlideDBM::ChooseSound},
+        {mUi->cmdPlaySound, &frmSlideDBM::HearSound},
         {mUi->cmdClearSound, &frmSlideDBM::DropSound},
         {mUi->cmdPicture, &frmSlideDBM::ChoosePicture},
     };
@@ -113,6 +123,7 @@ void frmSlideDBM::LoadIcons() {
         {mUi->cmdPrev, "slide-previous"},
         {mUi->cmdNext, "slide-next"},
         {mUi->cmdRecord, "record"},
+        {mUi->cmdSoundFile, "open"},
         {mUi->cmdClearSound, "sound-remove"},
         {mUi->cmdPicture, "album"},
         {mUi->cmdRotate1, "rotate-left"},
@@ -122,6 +133,7 @@ void frmSlideDBM::LoadIcons() {
     };
     for (const auto& [Button, Name] : Icons)
         Button->setIcon(ThemeIcon(QString::fromLatin1(Name), palette()));
+    mPlayer->ShowButton();
 }
 
 void frmSlideDBM::changeEvent(QEvent* Event) {
@@ -137,7 +149,8 @@ void frmSlideDBM::LoadSlideMgr() {
         ShowModeless();
     for (QWidget* Each : std::initializer_list<QWidget*>{
              mUi->txtDscr, mUi->cmdNew, mUi->cmdSave, mUi->cmdDelete, mUi->cmdCancel, mUi->cmdFlip1,
-             mUi->cmdFlip2, mUi->cmdRotate1, mUi->cmdRotate2, mUi->cmdPicture, mUi->cmdRecord})
+             mUi->cmdFlip2, mUi->cmdRotate1, mUi->cmdRotate2, mUi->cmdPicture, mUi->cmdRecord,
+             mUi->cmdSoundFile})
         Each->setEnabled(!ReadOnlyDB);
 }
 
@@ -161,6 +174,7 @@ bool frmSlideDBM::Form_QueryUnload() {
 
 bool frmSlideDBM::Form_Unload() {
     if (IsBusy()) return false;
+    mPlayer->Stop();
     SaveWindow(*this, Memory);
     return true;
 }
@@ -219,6 +233,69 @@ bool frmSlideDBM::MayShowChosen() {
     }
     Lists().ChooseSlide(Slide);
     return true;
+}
+
+// Whatever was to be heard before is over.
+void frmSlideDBM::ShowSound(bool HasSound) {
+    mPlayer->Stop();
+    for (QWidget* Each :
+         std::initializer_list<QWidget*>{mUi->chkOverride, mUi->chkRepeat, mUi->cmdClearSound})
+        Each->setEnabled(HasSound && !ReadOnlyDB);
+    using Sound = SlideInHand::Sound;
+    const Sound Is = mInHand.SoundState();
+    mUi->cmdPlaySound->setEnabled(HasSound && Is != Sound::Cleared);
+    mUi->lblSound->setText(Is == Sound::Cleared    ? tr("The sound goes with the next save.")
+                           : Is == Sound::Recorded ? tr("A new recording, not yet saved.")
+                           : Is == Sound::Chosen   ? tr("A new sound, not yet saved.")
+                           : mInHand.HasSound()    ? tr("This slide has a sound.")
+                                                   : tr("This slide has no sound."));
+}
+
+void frmSlideDBM::Record() {
+    if (ReadOnlyDB) return;
+    mPlayer->Stop();  // the microphone would hear it
+    const std::optional<QByteArray> Recorded = RecordSound();
+    if (!Recorded || !IsLoaded()) return;
+    mInHand.Record(*Recorded);
+    ShowSound(true);
+    ShowChanged(true);
+}
+
+void frmSlideDBM::ChooseSound() {
+    if (ReadOnlyDB) return;
+    const QString Path = AskForSound();
+    if (!Path.isEmpty() && IsLoaded()) TakeSoundFile(Path);
+}
+
+// What cannot be played is told, and is not taken.
+void frmSlideDBM::TakeSoundFile(const QString& Path) {
+    const QByteArray Read = Aside([Path] {
+                                OpenSound(Path);
+                                return ReadFile(Path);
+                            }).get();
+    mInHand.ChooseSound(Read, SoundEnding(Path));
+    ShowSound(true);
+    ShowChanged(true);
+}
+
+void frmSlideDBM::DropSound() {
+    if (ReadOnlyDB) return;
+    mInHand.ClearSound();
+    ShowSound(true);
+    ShowChanged(true);
+}
+
+// A sound that is not yet saved is in no file of its own.
+void frmSlideDBM::HearSound() {
+    if (mPlayer->IsPlaying()) return mPlayer->Stop();
+    const bool Stored = mInHand.SoundState() == SlideInHand::Sound::AsStored;
+    const QString Path = Stored ? StoredSound(DBEngine->DBPath(), mInHand) : HeardSound();
+    const auto Opened = Aside([Stored, Path, Bytes = mInHand.NewSound()] {
+        if (!Stored) ReplaceFile(Path, Bytes);
+        return ClipPlayer::Open(Path);
+    });
+    Answer<ClipPlayer::Sound> Sound = Opened.get();
+    if (Tell(Sound)) mPlayer->Play(*Sound);
 }
 
 // What the user is in the middle of stays on the screen: it can be saved as before, or as a new

@@ -18,6 +18,7 @@ namespace neb {
 namespace Ui {
 class frmSlideDBM;
 }
+class ClipPlayer;
 class PicturePlace;
 
 class frmSlideDBM : public Form, public ChangeReceiver {
@@ -95,9 +96,13 @@ class frmSlideDBM : public Form, public ChangeReceiver {
     void PlayingSet();
     void ChoosePicture();
     void TakePicture(const QString& Path);
+    void TakeDragged(const QString& Path);
     void Turn(void (*Operation)(ImgX& Picture));
     void Record();
+    void ChooseSound();
+    void TakeSoundFile(const QString& Path);
     void DropSound();
+    void HearSound();
     void New();
     void Next();
     void Previous();
@@ -130,6 +135,7 @@ class frmSlideDBM : public Form, public ChangeReceiver {
 
     std::unique_ptr<Ui::frmSlideDBM> mUi;
     PicturePlace* mPlace;
+    ClipPlayer* mPlayer;
     SlideInHand mInHand;
     Stage mStage = Stage::Opening;
 };

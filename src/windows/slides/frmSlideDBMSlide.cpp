@@ -1,5 +1,5 @@
-// The slide that the slide manager shows, and what the user does with it: its fields, its picture
-// and its sound are changed, it is saved and deleted, and many are imported.
+// The slide that the slide manager shows, and what the user does with it: its fields and its
+// picture are changed, it is saved and deleted, and many are imported.
 #include <QApplication>
 #include <QDragEnterEvent>
 #include <QMimeData>
@@ -81,18 +81,6 @@ void frmSlideDBM::ShowFields() {
     mUi->chkRepeat->setChecked(mInHand.Repeat());
     ShowSound(mInHand.HasSound());
     ShowChanged(false);
-}
-
-void frmSlideDBM::ShowSound(bool HasSound) {
-    for (QWidget* Each :
-         std::initializer_list<QWidget*>{mUi->chkOverride, mUi->chkRepeat, mUi->cmdClearSound})
-        Each->setEnabled(HasSound && !ReadOnlyDB);
-    using Sound = SlideInHand::Sound;
-    const Sound Is = mInHand.SoundState();
-    mUi->lblSound->setText(Is == Sound::Cleared    ? tr("The sound goes with the next save.")
-                           : Is == Sound::Recorded ? tr("A new recording, not yet saved.")
-                           : mInHand.HasSound()    ? tr("This slide has a sound.")
-                                                   : tr("This slide has no sound."));
 }
 
 void frmSlideDBM::ShowChanged(bool Changed) {
@@ -196,34 +184,25 @@ bool frmSlideDBM::IsFree() const {
 }
 
 void frmSlideDBM::dragEnterEvent(QDragEnterEvent* Event) {
-    if (IsFree() && !DraggedPicture(*Event->mimeData()).isEmpty()) Event->acceptProposedAction();
+    if (IsFree() && !DraggedFile(*Event->mimeData()).isEmpty()) Event->acceptProposedAction();
+}
+
+void frmSlideDBM::TakeDragged(const QString& Path) {
+    if (IsPictureName(Path))
+        TakePicture(Path);
+    else
+        TakeSoundFile(Path);
 }
 
 void frmSlideDBM::dropEvent(QDropEvent* Event) {
-    const QString Path = DraggedPicture(*Event->mimeData());
+    const QString Path = DraggedFile(*Event->mimeData());
     if (Path.isEmpty() || !IsFree()) return;
     Event->acceptProposedAction();
-    // a box about the picture waits until the drag is over, so that the source is not held up
+    // a box about the file waits until the drag is over, so that the source is not held up
     const auto Take = [this, Path] {
-        if (IsFree()) Command([&] { TakePicture(Path); });
+        if (IsFree()) Command([&] { TakeDragged(Path); });
     };
     QMetaObject::invokeMethod(this, Take, Qt::QueuedConnection);
-}
-
-void frmSlideDBM::Record() {
-    if (ReadOnlyDB) return;
-    const std::optional<QByteArray> Recorded = RecordSound();
-    if (!Recorded || !IsLoaded()) return;
-    mInHand.Record(*Recorded);
-    ShowSound(true);
-    ShowChanged(true);
-}
-
-void frmSlideDBM::DropSound() {
-    if (ReadOnlyDB) return;
-    mInHand.ClearSound();
-    ShowSound(true);
-    ShowChanged(true);
 }
 
 void frmSlideDBM::New() {

@@ -29,6 +29,7 @@ class SoundRecorderWindow : public RecorderRig {
         mWindow->SetSoundSavePath(SavePath());
         QTimer::singleShot(0, mWindow.get(), [this, User] {
             (void)QTest::qWaitForWindowActive(mWindow.get());  // else it has no shortcuts yet
+            if (mSound.Delay.count() == 0) AwaitDevices();
             User();
             const harness::LettingGo Answers;
             mWindow->Unload();
@@ -36,6 +37,15 @@ class SoundRecorderWindow : public RecorderRig {
         mWindow->ShowModal();
         EXPECT_FALSE(mWindow->isVisible());
         EXPECT_FALSE(Timer1().isActive());
+        FakeSound::Settle();
+    }
+    // Devices that are open and closed at once may need a moment on a busy machine all the same.
+    void AwaitDevices() const {
+        EXPECT_TRUE(
+            QTest::qWaitFor([this] { return !mWindow->IsLoaded() || !On().empty(); }, 20000));
+    }
+    void ExpectGone() const {
+        EXPECT_TRUE(QTest::qWaitFor([this] { return !mWindow->IsLoaded(); }));
     }
 
     template <class Control>
@@ -44,9 +54,14 @@ class SoundRecorderWindow : public RecorderRig {
     }
     QAbstractButton& Button(const char* Name) const { return In<QAbstractButton>(Name); }
     QTimer& Timer1() const { return In<QTimer>("Timer1"); }
-    void Press(const char* Name) const { QTest::mouseClick(&Button(Name), Qt::LeftButton); }
+    void Click(const char* Name) const { QTest::mouseClick(&Button(Name), Qt::LeftButton); }
+    void Press(const char* Name) const {
+        Click(Name);
+        AwaitDevices();
+    }
     void Key(Qt::Key Pressed, Qt::KeyboardModifiers With = {}) const {
         QTest::keyClick(mWindow->focusWidget(), Pressed, With);
+        AwaitDevices();
     }
     std::string Focus() const { return mWindow->focusWidget()->objectName().toStdString(); }
     std::string Mode() const { return mWindow->RecorderMode().toStdString(); }
@@ -69,6 +84,7 @@ class SoundRecorderWindow : public RecorderRig {
                       "Discard Changes Confirmation", BoxIcon::Question, Answer);
     }
     bool Told(const char* What) const {
+        FakeSound::Settle();
         return std::count(mSound.Told.begin(), mSound.Told.end(), What) > 0;
     }
 

@@ -75,6 +75,7 @@ TEST_F(SoundRecorderKeys, EnterOnTheVolumeIsForTheButtonThatComesNext) {
             Key(Qt::Key_Return);
             EXPECT_EQ(On(), Expected);
             EXPECT_EQ(Focus(), "sdrVolume");
+            mSound.Buffer->Feed(Speech(300));
         }
         EXPECT_EQ(Mode(), "Playing");
     });

@@ -13,13 +13,24 @@ class SlideDBMSound : public SlideRig {
     // Presses Record in the slide manager and speaks; nothing: only stops and saves.
     void Record(const QByteArray& Words, bool Saves = true) {
         WhenOpen<frmSoundRecorder>([this, Words, Saves](frmSoundRecorder& Recorder) {
+            AwaitDevices(Recorder);
             Press(Recorder, "cmdRecord");
+            AwaitDevices(Recorder);
             if (!Words.isEmpty() && Sound.Buffer) Sound.Buffer->Feed(Words);
             Press(Recorder, "cmdStop");
+            AwaitDevices(Recorder);
             if (Saves) Press(Recorder, "cmdSave");
+            AwaitDevices(Recorder);
             Drop(Recorder);
         });
         Push("cmdRecord");
+    }
+    // All its buttons are off while they are busy.
+    static void AwaitDevices(frmSoundRecorder& Recorder) {
+        EXPECT_TRUE(QTest::qWaitFor([&] {
+            return !Recorder.IsLoaded() || In<QWidget>(Recorder, "cmdRecord").isEnabled() ||
+                   In<QWidget>(Recorder, "cmdStop").isEnabled();
+        }));
     }
     QByteArray StoredSound(std::int32_t ID) {
         const QString File = Stored(FileStem(ID) + u".wav"_s);

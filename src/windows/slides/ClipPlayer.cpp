@@ -1,0 +1,62 @@
+#include "windows/slides/ClipPlayer.h"
+
+#include <QPushButton>
+
+#include "controls/fields/Icons.h"
+#include "sound/clsDirectSound.h"
+#include "sound/decoding/SoundDecoder.h"
+#include "support/files/modHostFiles.h"
+
+namespace neb {
+namespace {
+
+constexpr int WatchMs = 100;
+
+}  // namespace
+
+ClipPlayer::ClipPlayer(QPushButton& Button) : QObject(&Button), mButton(Button) {
+    mWatch.setInterval(WatchMs);
+    connect(&mWatch, &QTimer::timeout, this, &ClipPlayer::Tick);
+}
+
+ClipPlayer::~ClipPlayer() = default;
+
+Answer<ClipPlayer::Sound> ClipPlayer::Open(const QString& Path) {
+    if (!FileExists(Path))
+        return Refuse(tr("The sound of this slide cannot be found.") + u'\n' + Path,
+                      tr("Sound Missing"));
+    const auto Opened = std::make_shared<clsDirectSound>();
+    if (Opened->LoadFile(Path)) return Opened;
+    OpenSound(Path);  // says what is wrong with it
+    return Refuse(tr("Unable to use the sound system."));
+}
+
+void ClipPlayer::Play(Sound Opened) {
+    mPlaying = std::move(Opened);
+    mPlaying->Play(false);
+    mWatch.start();
+    ShowButton();
+}
+
+void ClipPlayer::Stop() {
+    mWatch.stop();
+    mPlaying.reset();
+    ShowButton();
+}
+
+// A sound that has come to its end stands there.
+void ClipPlayer::Tick() {
+    if (mPlaying->CurrentPosition() >= mPlaying->Duration()) Stop();
+}
+
+void ClipPlayer::ShowButton() {
+    const QString Text = IsPlaying() ? tr("Sto&p") : tr("&Play");
+    mButton.setText(Text);
+    mButton.setAccessibleName(QString(Text).remove(u'&'));
+    mButton.setToolTip(IsPlaying() ? tr("Stop the sound of this slide")
+                                   : tr("Play the sound of this slide"));
+    mButton.setIcon(ThemeIcon(IsPlaying() ? QStringLiteral("stop") : QStringLiteral("sound"),
+                              mButton.palette()));
+}
+
+}  // namespace neb
