@@ -49,12 +49,13 @@ void ClipPlayer::Tick() {
     if (mPlaying->CurrentPosition() >= mPlaying->Duration()) Stop();
 }
 
+// The menu of the main window and the other buttons leave no letter of these words.
 void ClipPlayer::ShowButton() {
-    const QString Text = IsPlaying() ? tr("Sto&p") : tr("&Play");
-    mButton.setText(Text);
-    mButton.setAccessibleName(QString(Text).remove(u'&'));
-    mButton.setToolTip(IsPlaying() ? tr("Stop the sound of this slide")
-                                   : tr("Play the sound of this slide"));
+    mButton.setText(IsPlaying() ? tr("Stop") : tr("Play"));
+    mButton.setShortcut(QKeySequence(Qt::ALT | Qt::Key_K));
+    mButton.setAccessibleName(mButton.text());
+    mButton.setToolTip(IsPlaying() ? tr("Stop the sound of this slide (Alt+K)")
+                                   : tr("Play the sound of this slide (Alt+K)"));
     mButton.setIcon(ThemeIcon(IsPlaying() ? QStringLiteral("stop") : QStringLiteral("sound"),
                               mButton.palette()));
 }

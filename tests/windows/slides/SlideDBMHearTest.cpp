@@ -94,9 +94,9 @@ TEST_F(SlideDBMHear, ByTheKeyboardAsWell) {
     EXPECT_TRUE(Hears(Wave()));
     QTest::keyClick(&Play, Qt::Key_Space);
     EXPECT_EQ(nullptr, Sound.Heard);
-    QTest::keyClick(W, Qt::Key_P, Qt::AltModifier);
+    QTest::keyClick(W, Qt::Key_K, Qt::AltModifier);
     EXPECT_TRUE(QTest::qWaitFor([&] { return Hears(Wave()); }));
-    QTest::keyClick(W, Qt::Key_P, Qt::AltModifier);
+    QTest::keyClick(W, Qt::Key_K, Qt::AltModifier);
     EXPECT_TRUE(QTest::qWaitFor([&] { return Sound.Heard == nullptr; }));
 }
 

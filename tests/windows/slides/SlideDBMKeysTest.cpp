@@ -99,10 +99,10 @@ TEST_F(SlideDBMKeys, TabReachesEveryControlThatWorks) {
         Key(Qt::Key_Tab);
     }
     for (const char* Name :
-         {"cboAlbum",   "cboSlides",     "cmdPrev",     "cmdNext",   "cmdPicture",
-          "cmdRotate1", "cmdRotate2",    "cmdFlip1",    "cmdFlip2",  "txtDscr",
-          "cmdRecord",  "cmdClearSound", "chkOverride", "chkRepeat", "cmdNew",
-          "cmdDelete",  "cmdSave",       "cmdCancel",   "cmdClose",  "mnuImport"})
+         {"cboAlbum",     "cboSlides",     "cmdPrev",     "cmdNext",   "cmdPicture", "cmdRotate1",
+          "cmdRotate2",   "cmdFlip1",      "cmdFlip2",    "txtDscr",   "cmdRecord",  "cmdSoundFile",
+          "cmdPlaySound", "cmdClearSound", "chkOverride", "chkRepeat", "cmdNew",     "cmdDelete",
+          "cmdSave",      "cmdCancel",     "cmdClose",    "mnuImport"})
         EXPECT_TRUE(Seen.contains(QString::fromLatin1(Name))) << Name;
 }
 
@@ -114,7 +114,7 @@ TEST_F(SlideDBMKeys, LettersAreFreeAndUsedOnce) {
         if (!Each->shortcut().isEmpty()) Letters << Each->shortcut().toString();
     for (const auto* Each : W->findChildren<QLabel*>())
         if (Each->buddy()) Letters << QKeySequence::mnemonic(Each->text()).toString();
-    EXPECT_EQ(19, Letters.size());
+    EXPECT_EQ(21, Letters.size());
     EXPECT_EQ(0, Letters.removeDuplicates());
     for (const char Taken : {'F', 'A', 'L', 'I', 'P', 'W', 'H'})
         EXPECT_FALSE(Letters.contains(u"Alt+"_s + QLatin1Char(Taken))) << Taken;
@@ -153,11 +153,12 @@ TEST_F(SlideDBMReadOnly, ShowsEverythingAndChangesNothing) {
     EXPECT_TRUE(Check("chkOverride").isChecked());
     for (const char* Name : {"txtDscr", "cmdNew", "cmdSave", "cmdDelete", "cmdCancel", "cmdFlip1",
                              "cmdFlip2", "cmdRotate1", "cmdRotate2", "cmdPicture", "cmdRecord",
-                             "cmdClearSound", "chkOverride", "chkRepeat"})
+                             "cmdSoundFile", "cmdClearSound", "chkOverride", "chkRepeat"})
         EXPECT_FALSE(IsOn(Name)) << Name;
     EXPECT_FALSE(In<QAction>(*W, "mnuImport").isEnabled());
     for (auto* Each : W->findChildren<QPushButton*>())
-        if (Each->objectName() != u"cmdClose") QTest::mouseClick(Each, Qt::LeftButton);
+        if (Each->objectName() != u"cmdClose" && Each->objectName() != u"cmdPlaySound")
+            QTest::mouseClick(Each, Qt::LeftButton);
     for (const Qt::Key Each : {Qt::Key_S, Qt::Key_D, Qt::Key_U, Qt::Key_M, Qt::Key_G, Qt::Key_R})
         Key(Each, Qt::AltModifier);
     Key(Qt::Key_L, Qt::ControlModifier | Qt::ShiftModifier);
