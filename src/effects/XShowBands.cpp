@@ -10,7 +10,8 @@ namespace neb {
 namespace {
 
 constexpr int kWorthAThread = 100000;  // pixels; below that, waking a thread costs more
-constexpr int kBandsAThread = 4;       // whoever is done with an easy part takes the next one
+constexpr int kBlock = 32;             // rows that engines work on together
+constexpr int kLeastBand = 2 * kBlock;
 
 // A pool of its own: steps never wait behind other work.
 QThreadPool& Painters() {
@@ -24,6 +25,32 @@ int ThreadCount(QSize Size) {
     return std::clamp(Useful, 1, std::clamp(QThread::idealThreadCount(), 1, 8));
 }
 
+// Hands out the rows of a frame in bands, large ones first and ever smaller ones towards the end:
+// few of them, for each costs an engine some preparation, and yet all threads are done together
+// whichever part of the picture is the hard one.
+class BandKeeper {
+  public:
+    BandKeeper(int Height, int Threads) : mHeight(Height), mParts(2 * Threads) {}
+    // False when no rows are left.
+    bool Take(int& First, int& Last) {
+        First = mNext;
+        do {
+            if (First >= mHeight) return false;
+            Last = EndOf(First);
+        } while (!mNext.compare_exchange_weak(First, Last));
+        return true;
+    }
+
+  private:
+    int EndOf(int First) const {
+        const int Rows = std::max(kLeastBand, (mHeight - First) / mParts);
+        return std::min(mHeight, First + (Rows + kBlock - 1) / kBlock * kBlock);
+    }
+
+    int mHeight, mParts;
+    std::atomic<int> mNext = 0;
+};
+
 }  // namespace
 
 void DrawInBands(const Transition& T, double Progress, QImage& Out) {
@@ -31,13 +58,9 @@ void DrawInBands(const Transition& T, double Progress, QImage& Out) {
     const int Threads = ThreadCount(T.Size());
     if (Threads == 1) return T.Draw(Progress, Out);
     Out.bits();  // no longer shared with any other picture before threads write to it
-    const int Bands = Threads * kBandsAThread;
-    const qint64 Height = T.Size().height();
-    std::atomic<int> Next = 0;
+    BandKeeper Bands(T.Size().height(), Threads);
     const auto DrawBands = [&] {
-        for (int B = Next++; B < Bands; B = Next++)
-            T.DrawRows(Progress, Out, static_cast<int>(Height * B / Bands),
-                       static_cast<int>(Height * (B + 1) / Bands));
+        for (int First, Last; Bands.Take(First, Last);) T.DrawRows(Progress, Out, First, Last);
     };
     QSemaphore Done;
     for (int I = 1; I < Threads; ++I)

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "effects/Pictures.h"
+#include "effects/drawing/LightMixWide.h"
 
 using namespace neb::effects;
 using namespace neb::effectstest;
@@ -38,7 +39,43 @@ QRgb MixedAlone(QRgb Old, QRgb New, int Edge) {
     return Mixed({Old}, {New}, Edge, 3)[0];
 }
 
+#ifdef NEB_EIGHT_AT_A_TIME
+using WideMixer = int (*)(const LightRow&, const LightFront&, const LightGrains&);
+
+std::vector<WideMixer> MixersOfThisMachine() {
+    std::vector<WideMixer> Out;
+    if (HasWideVectors()) Out.push_back(MixLightByEight);
+    if (HasWidestVectors()) Out.push_back(MixLightBySixteen);
+    return Out;
+}
+#endif
+
 }  // namespace
+
+#ifdef NEB_EIGHT_AT_A_TIME
+// Every pair of values, in the three parts of a pixel.
+TEST(LightMix, MixesAllValuesWithEveryWidthOfVectorsAsOneByOne) {
+    std::vector<QRgb> Old, New;
+    for (int A = 0; A < 256; ++A)
+        for (int B = 0; B < 256; ++B) {
+            Old.push_back(qRgb(A, B, 255 - A));
+            New.push_back(qRgb(B, A, (A + B) / 2));
+        }
+    const auto Moments = MomentsOf(256 * 256);
+    for (int Y = 0; Y < 8; ++Y) {
+        const int Edge = 2000 + Y * 2500;
+        std::vector<QRgb> Single(Old.size()), Wide(Old.size());
+        LightRow Row{Single.data(), Old.data(), New.data(), Moments.data(), 256 * 256};
+        MixLightOneByOne(Row, {Edge, kSoft}, LightGrainsOf(Y));
+        Row.Out = Wide.data();
+        for (const WideMixer Mix : MixersOfThisMachine()) {
+            std::fill(Wide.begin(), Wide.end(), 0u);
+            ASSERT_EQ(Mix(Row, {Edge, kSoft}, LightGrainsOf(Y)), 256 * 256);
+            ASSERT_EQ(Single, Wide) << Y;
+        }
+    }
+}
+#endif
 
 TEST(LightMix, MixesEightPixelsAsItMixesFew) {
     const auto Old = RowOf(1), New = RowOf(2);

@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <limits>
+#include <thread>
 
 #include "effects/EffectCatalogue.h"
 #include "effects/Pictures.h"
@@ -52,6 +53,18 @@ TEST_P(EachEffect, BeginsWithTheOldPictureAndEndsWithTheNewOneToTheBit) {
         const Transition T(Number(), Old, New);
         EXPECT_EQ(Drawn(T, 0), Old) << Size.width() << "x" << Size.height();
         EXPECT_EQ(Drawn(T, 1), New) << Size.width() << "x" << Size.height();
+    }
+}
+
+TEST_P(EachEffect, DrawsTheSameWhateverItsThreadHasDrawnBefore) {
+    const QSize Size(160, 100);
+    const QImage Old = Scene(Size, 1), New = Scene(Size, 2);
+    const Transition T(Number(), Old, New), Swirl(Number() == 120 ? 118 : 120, Old, New);
+    QImage Fresh;
+    std::thread([&] { Fresh = Drawn(T, 0.4); }).join();
+    for (const double Before : {0.4, 0.6}) {
+        Drawn(Swirl, Before);
+        EXPECT_EQ(Drawn(T, 0.4), Fresh) << Before;
     }
 }
 
@@ -192,11 +205,9 @@ struct MirrorPair {
     int Slack;  // 0: to the bit; resampled effects may round differently
 };
 const MirrorPair kPairs[] = {
-    {2, 21, true, 0},  {22, 23, false, 0}, {3, 24, true, 0},   {36, 38, false, 0},
-    {18, 85, true, 0}, {14, 103, true, 2}, {20, 109, true, 2},
-    {48, 87, false, 0},
-    {106, 27, false, 2}, {39, 45, true, 2},
-    {11, 29, true, 0},
+    {2, 21, true, 0},    {22, 23, false, 0}, {3, 24, true, 0},   {36, 38, false, 0},
+    {18, 85, true, 0},   {14, 103, true, 2}, {20, 109, true, 2}, {48, 87, false, 0},
+    {106, 27, false, 2}, {39, 45, true, 2},  {11, 29, true, 0},
 };
 
 }  // namespace

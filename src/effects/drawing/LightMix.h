@@ -8,8 +8,8 @@ namespace neb::effects {
 
 // Mixes a whole row, the row Y of the picture: a pixel begins to turn where the edge passes its
 // moment and has turned 2^SoftBits later, SoftBits up to 14, slow at both ends. What lies between
-// two values is scattered over neighbouring pixels, so that soft skies show no steps. Out may be
-// Old or New.
+// two values is scattered over neighbouring pixels, so that soft skies show no steps. The
+// pixels are opaque. Out may be Old or New.
 void MixLightByMoments(QRgb* Out, const QRgb* Old, const QRgb* New, const std::int16_t* Moments,
                        int Edge, int SoftBits, int Y, int Count);
 

@@ -102,19 +102,32 @@ const RevealMap::Kind* RevealMap::FindKinds(int Y, int Edge) const {
     return Kinds;
 }
 
+std::span<const RevealMap::Run> RevealMap::FindRuns(int Y, int Edge) const {
+    Run* Room = Scratch<Run, RevealMap>(mTiles);
+    std::size_t Count = 0;
+    ForRuns(Y, Edge, [&](Kind What, int X0, int X1) { Room[Count++] = {What, X0, X1}; });
+    return {Room, Count};
+}
+
+void RevealMap::DrawRow(const Frame& F, std::span<const Run> Runs, int Y, int Edge) const {
+    const QRgb* Old = F.Old.Row(Y);
+    const QRgb* New = F.New.Row(Y);
+    const std::int16_t* Moments = Row(Y);
+    QRgb* Out = F.Row(Y);
+    for (const auto& [What, X0, X1] : Runs)
+        if (What == Kind::Mixed)
+            MixByMoments(Out + X0, Old + X0, New + X0, Moments + X0, X1 - X0, Edge, mSoftBits);
+        else
+            CopySpan(Out + X0, (What == Kind::New ? New : Old) + X0, X1 - X0);
+}
+
+// The rows of a straight edge are all alike, those of many others by turns.
 void RevealMap::Draw(const Frame& F, int Y0, int Y1) const {
     const int Edge = EdgeAt(F.Progress);
+    std::span<const Run> Runs;
     for (int Y = Y0; Y < Y1; ++Y) {
-        const QRgb* Old = F.Old.Row(Y);
-        const QRgb* New = F.New.Row(Y);
-        const std::int16_t* Moments = Row(Y);
-        QRgb* Out = F.Row(Y);
-        ForRuns(Y, Edge, [&](Kind What, int X0, int X1) {
-            if (What == Kind::Mixed)
-                MixByMoments(Out + X0, Old + X0, New + X0, Moments + X0, X1 - X0, Edge, mSoftBits);
-            else
-                CopySpan(Out + X0, (What == Kind::New ? New : Old) + X0, X1 - X0);
-        });
+        if (Y == Y0 || RowOf(Y) != RowOf(Y - 1)) Runs = FindRuns(Y, Edge);
+        DrawRow(F, Runs, Y, Edge);
     }
 }
 

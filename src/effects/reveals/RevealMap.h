@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <cstring>
 #include <functional>
+#include <span>
 #include <vector>
 
 #include "effects/drawing/Engine.h"
@@ -40,12 +41,20 @@ class RevealMap {
     static constexpr int kTile = 32;
     static constexpr int kGroup = 8;  // tiles that are looked at together
 
+    struct Run {
+        Kind What;
+        int X0, X1;
+    };
+
     std::size_t RowOf(int Y) const { return mRowOf[static_cast<std::size_t>(Y)]; }
     bool SameAs(const std::int16_t* Moments, std::size_t Kept) const;
     std::size_t Keep(const std::int16_t* Moments);
     void AddRow(const std::int16_t* Moments, int Height);
     // The kinds of the tiles of a row, filled up with the last one to whole groups.
     const Kind* FindKinds(int Y, int Edge) const;
+    // Good until the next call on this thread.
+    std::span<const Run> FindRuns(int Y, int Edge) const;
+    void DrawRow(const Frame& F, std::span<const Run> Runs, int Y, int Edge) const;
 
     int mWidth;
     int mTiles;

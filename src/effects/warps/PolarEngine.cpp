@@ -1,6 +1,7 @@
 #include "effects/warps/PolarEngine.h"
 
 #include <algorithm>
+#include <atomic>
 
 #include "effects/drawing/Pixels.h"
 
@@ -75,10 +76,22 @@ void Put(int* Parts, const Turn& A, const Turn& B, int Part, std::int64_t Dx, st
     Parts[3] = static_cast<int>((Dy * Wide + Dx * Tall) / 2);
 }
 
+std::uint64_t NewMark() {
+    static std::atomic<std::uint64_t> Last = 0;
+    return ++Last;
+}
+
+// Whose rims a thread has, and of which moment.
+struct RimsOf {
+    std::uint64_t Mark = 0;
+    int Progress = 0;
+    bool operator==(const RimsOf&) const = default;
+};
+
 }  // namespace
 
 PolarEngine::PolarEngine(QSize Size, Bend How)
-    : WarpEngine(Size, How), mSize(Size), mApart(How == Bend::Apart) {
+    : WarpEngine(Size, How), mSize(Size), mApart(How == Bend::Apart), mMark(NewMark()) {
     const std::int64_t W = Size.width(), H = Size.height();
     mReach = Root(W * W + H * H) / 2 + 1;
 }
@@ -87,7 +100,16 @@ PolarEngine::Point PolarEngine::CentreAt(int) const {
     return {mSize.width(), mSize.height()};
 }
 
+// A thread that draws several bands of a frame finds the rims once.
 void PolarEngine::Prepare(const Frame& F) const {
+    thread_local RimsOf Here;
+    const RimsOf Wanted{mMark, F.Progress};
+    if (Here == Wanted) return;
+    FindRims(F);
+    Here = Wanted;
+}
+
+void PolarEngine::FindRims(const Frame& F) const {
     const int Count = mReach + 2;
     Rim* Rims = Scratch<Rim, PolarEngine>(Count);
     for (const bool OfNew : {false, true}) {

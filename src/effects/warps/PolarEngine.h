@@ -2,6 +2,8 @@
 // both told for each distance. Used by the engines of ripples, swirls and lenses.
 #pragma once
 
+#include <cstdint>
+
 #include "effects/warps/WarpEngine.h"
 
 namespace neb::effects {
@@ -34,8 +36,11 @@ class PolarEngine : public WarpEngine {
     QSize mSize;
 
   private:
+    void FindRims(const Frame& F) const;
+
     int mReach;
     bool mApart;
+    std::uint64_t mMark;  // no other engine has the same
 };
 
 }  // namespace neb::effects
