@@ -108,6 +108,7 @@ int main(int argc, char** argv) {
     XShow View;
     View.setWindowFlags(Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint);
     View.SetShowOptionD(true);
+    View.SetPacing(XShow::Pacing::EveryStep);
     View.setGeometry(QRect(QPoint(), Size));
     View.show();
     Show(View, 1, 0);

@@ -32,6 +32,7 @@ DesktopServices::DesktopServices() {
 }
 
 DesktopServices::~DesktopServices() {
+    XShow::SetReader({});
     TheServices().Boxes = nullptr;
     TheServices().Dialogs = nullptr;
     TheServices().Blanking = nullptr;
