@@ -1,5 +1,6 @@
 // Chapter: Quick Show turns the folder into a running show.
 #include <QProgressBar>
+#include <QStatusBar>
 
 #include "Tour.h"
 #include "TourControls.h"
@@ -95,7 +96,8 @@ void AddQuickShow(Tour& Guide, frmNEBSlideShow& Window, const Story& Told) {
     SelectAndSave(Guide);
     WatchTheShow(Guide);
     Guide.Do("after-the-quick-show",
-             [] { return !Open<frmSlideShowProjector>() && !Open<frmQuickShow>(); }, {});
+             [] { return !Open<frmSlideShowProjector>() && !Open<frmQuickShow>(); },
+             [&] { Print(u"Quick Show: " + Window.statusBar()->currentMessage()); });
 }
 
 }  // namespace neb::demo
