@@ -95,9 +95,10 @@ void AddQuickShow(Tour& Guide, frmNEBSlideShow& Window, const Story& Told) {
     ReadPictures(Guide);
     SelectAndSave(Guide);
     WatchTheShow(Guide);
-    Guide.Do("after-the-quick-show",
-             [] { return !Open<frmSlideShowProjector>() && !Open<frmQuickShow>(); },
-             [&] { Print(u"Quick Show: " + Window.statusBar()->currentMessage()); });
+    Guide.Do(
+        "after-the-quick-show",
+        [] { return !Open<frmSlideShowProjector>() && !Open<frmQuickShow>(); },
+        [&] { Print(QStringLiteral("Quick Show: ") + Window.statusBar()->currentMessage()); });
 }
 
 }  // namespace neb::demo

@@ -82,7 +82,7 @@ void AddTheShow(Tour& Guide, frmNEBSlideShow& Window) {
     ThroughTheMusic(Guide);
     LeaveInSilence(Guide);
     Guide.Do("after-the-show", ShowIsOver(),
-             [&] { Print(u"The show: " + Window.statusBar()->currentMessage()); });
+             [&] { Print(QStringLiteral("The show: ") + Window.statusBar()->currentMessage()); });
 }
 
 }  // namespace neb::demo

@@ -1,6 +1,4 @@
 // One slide after the other: which one comes up, with its caption, picture, transition and sound.
-#include <QDir>
-
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
 #include "settings/modNEBSlideShow.h"
@@ -20,7 +18,7 @@ QString NoSlidePath() {
 
 // By the names alone: a look at the folder may hang.
 bool IsNoSlide(const QString& Path) {
-    const auto Plain = [](QString Name) { return QDir::cleanPath(Name.replace(u'\\', u'/')); };
+    const auto Plain = [](QString Name) { return Name.replace(u'\\', u'/'); };
     return Plain(Path).compare(Plain(NoSlidePath()), Qt::CaseInsensitive) == 0;
 }
 
