@@ -143,12 +143,10 @@ constexpr EffectCommand Table[] = {
     {"timings", " [FILE] [--size WxH] [--runs N]",
      "Measures how long each transition takes, at 3840x2160 unless told otherwise, and\n"
      "writes the times as EffectStats.txt holds them, the shortest of 3 runs, to FILE or the\n"
-     "output. This takes ten minutes. Last it tells how many of them keep within the 16.7 ms that "
-     "a\n"
-     "frame has at 60 refreshes a second: a show draws one frame a refresh on all cores and "
-     "leaves\n"
-     "out the steps that none would show; a frame that comes more than one refresh after its time\n"
-     "counts as late, and the end of a show says how many there were.\n",
+     "output. This takes ten minutes. Then tells how many of them keep within the 16.7 ms that\n"
+     "a frame has at 60 refreshes a second. A show draws at most one frame a refresh, on all\n"
+     "cores; one that comes more than one refresh after its time is late, and the end of the\n"
+     "show says how many were.\n",
      Timings},
     {"render", " N OLD NEW PROGRESS OUT",
      "Draws one frame of transition N from the picture OLD to NEW, PROGRESS being 0 to 1,\n"

@@ -38,6 +38,14 @@ class XShowPaceTest : public XShowRig {
         do LetRun(1);
         while (IsDue && Steps.size() == Before && Watch.elapsed() < 5000);
     }
+    // The next refresh at 60 a second; its frame has come then, if it has one.
+    void Refresh(HandClock& Hand) {
+        const auto Before = Steps.size();
+        Hand.PutOn(1000 / 60. + Hair);
+        QElapsedTimer Watch;
+        Watch.start();
+        while (View.IsRunning() && Steps.size() == Before && Watch.elapsed() < 200) LetRun(1);
+    }
     int StepOfLast() { return qRound(Steps.last().first().toDouble() * 100); }
     static int LastStep(const std::vector<int>& Drawn) {
         int Last = 0;
@@ -80,10 +88,8 @@ TEST_F(XShowPaceTest, ShowsTheFramesOfDictatedStepsAndNoOthers) {
     HandClock Hand;
     View.Rate = 60;
     Begin("slope5 120x40", 20, 200, 118);  // a step in 20 ms: five of them
-    for (int I = 0; I < 10; ++I) {
-        LetRun(20);
-        Hand.PutOn(1000 / 60. + Hair);
-    }
+    LetRun(20);
+    for (int I = 0; I < 10; ++I) Refresh(Hand);
     WaitForEnd();
     const Transition T(118, Slope({120, 40}, 1), Slope({120, 40}, 5));
     ASSERT_GE(Shown.size(), 5U);
@@ -101,10 +107,8 @@ TEST_F(XShowPaceTest, CountsAFrameThatWasDrawnForTooLong) {
     int Painted = 0;
     View.WhilePainting = [&] { Hand.PutOn(++Painted == 10 ? 45 : 0); };
     Begin("blue", 1, 100);
-    for (int I = 0; I < 100 && View.IsRunning(); ++I) {
-        LetRun(20);
-        Hand.PutOn(1000 / 60. + Hair);
-    }
+    AwaitFrame(true);
+    for (int I = 0; I < 100 && View.IsRunning(); ++I) Refresh(Hand);
     WaitForEnd();
     EXPECT_EQ(View.Frames().Late(), 2) << "and the one that had to wait for it";
     EXPECT_EQ(View.Frames().Transitions(), 1);
@@ -114,9 +118,9 @@ TEST_F(XShowPaceTest, CountsAFrameThatAnotherWorkHeldUp) {
     Put("red");
     HandClock Hand;
     Begin("blue", 1, 100);
-    LetRun(10);
+    AwaitFrame(true);
     Hand.PutOn(60);
-    LetRun(20);
+    AwaitFrame(true);
     EXPECT_EQ(View.Frames().Frames(), 2);
     EXPECT_EQ(View.Frames().Late(), 1);
     EXPECT_EQ(StepOfLast(), 6) << "the steps of before are left out";

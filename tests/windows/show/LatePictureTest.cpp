@@ -51,8 +51,10 @@ TEST_F(LatePicture, EscAnswersAtOnceWhileOneHangs) {
     Run([&](Projector& Window) {
         harness::Heartbeat Heart({}, 0);
         Spin(20);
-        for (int I = 0; I < 3; ++I) Press(Window, Qt::Key_Up);
-        Spin(20);
+        for (int I = 0; I < 3; ++I) {
+            Press(Window, Qt::Key_Up);
+            Spin(10);
+        }
         Press(Window, Qt::Key_Escape);
         EXPECT_FALSE(Window.isVisible());
         Spin(20);
