@@ -1,6 +1,8 @@
 // Transitions on the screen: how long one of a hundred steps of ten milliseconds takes against its
 // second, and, without delays, the processor time of the view against that of the plain drawing of
-// the same frames, which a busy machine does not change much.
+// the same frames, which a busy machine does not change much. Then the same second as a show has
+// it, paced by the screen: how many frames that were, how many of them late, and what of the
+// processor they took.
 //   bench_show [--size WxH] [NUMBER ...]   1920x1080, and effects of all weights, unless told
 #include <QElapsedTimer>
 #include <QEventLoop>
@@ -36,15 +38,19 @@ struct Shown {
     double Processor = 0;  // the same, of the processor
     double Longest = 0;    // from one step to the next, ms
     double First = 0;      // until RunEffect has prepared the transition, ms
+    int Frames = 0;        // of a view that is paced by the screen
+    int Late = 0;
 };
 
 // The next picture is always the one that is not up.
-Shown Show(XShow& View, int Number, int Delay) {
+Shown Show(XShow& View, int Number, int Delay, XShow::Pacing By = XShow::Pacing::EveryStep) {
     static bool Second = false;
     View.LoadPicture((Second = !Second) ? QStringLiteral("1") : QStringLiteral("2"));
     View.SetEffectNumber(Number);
     View.SetEffectStep(1);
     View.SetEffectDelay(Delay);
+    View.SetPacing(By);
+    const FrameCount Frames = View.Frames();
     Shown S;
     QEventLoop Loop;
     QElapsedTimer Watch;
@@ -62,6 +68,8 @@ Shown Show(XShow& View, int Number, int Delay) {
     Loop.exec();
     S.Ms = Elapsed(Watch);
     S.Processor = ProcessorMs() - Before;
+    S.Frames = View.Frames().Frames() - Frames.Frames();
+    S.Late = View.Frames().Late() - Frames.Late();
     return S;
 }
 
@@ -77,13 +85,15 @@ double DrawPlainly(int Number, const QImage& Old, const QImage& New) {
 void Measure(XShow& View, int Number, const QImage& One, const QImage& Two) {
     const Shown Timed = Show(View, Number, 100);
     const Shown Free = Show(View, Number, 0);
+    const Shown Paced = Show(View, Number, 100, XShow::Pacing::Screen);
     const double Plain = DrawPlainly(Number, One, Two);
     std::printf(
         "%4d %-26s %5.0f ms, %.3f of its second; processor: a step %4.1f ms, %.2f of its "
-        "drawing; ready in %3.0f ms, longest step %3.0f ms\n",
+        "drawing; ready in %3.0f ms, longest step %3.0f ms; paced: %4.0f ms, %d frames, %d late, "
+        "processor %4.0f ms\n",
         Number, qPrintable(EffectName(Number)), Timed.Ms, Timed.Ms / SecondMs,
         Free.Processor / Steps, Free.Processor / Plain, Free.First,
-        std::max(Timed.Longest, Free.Longest));
+        std::max(Timed.Longest, Free.Longest), Paced.Ms, Paced.Frames, Paced.Late, Paced.Processor);
     std::fflush(stdout);
 }
 

@@ -1,5 +1,6 @@
 // Chapter: Quick Show turns the folder into a running show.
 #include <QProgressBar>
+#include <QStatusBar>
 
 #include "Tour.h"
 #include "TourControls.h"
@@ -94,8 +95,10 @@ void AddQuickShow(Tour& Guide, frmNEBSlideShow& Window, const Story& Told) {
     ReadPictures(Guide);
     SelectAndSave(Guide);
     WatchTheShow(Guide);
-    Guide.Do("after-the-quick-show",
-             [] { return !Open<frmSlideShowProjector>() && !Open<frmQuickShow>(); }, {});
+    Guide.Do(
+        "after-the-quick-show",
+        [] { return !Open<frmSlideShowProjector>() && !Open<frmQuickShow>(); },
+        [&] { Print(QStringLiteral("Quick Show: ") + Window.statusBar()->currentMessage()); });
 }
 
 }  // namespace neb::demo

@@ -1,5 +1,7 @@
 // Chapter: the active show is played, through the fitted track, into the one that fades and the
 // silence behind it, and left at a slide.
+#include <QStatusBar>
+
 #include "Tour.h"
 #include "TourControls.h"
 #include "TourSteps.h"
@@ -79,7 +81,8 @@ void AddTheShow(Tour& Guide, frmNEBSlideShow& Window) {
     Begin(Guide, Window);
     ThroughTheMusic(Guide);
     LeaveInSilence(Guide);
-    Guide.Do("after-the-show", ShowIsOver(), {});
+    Guide.Do("after-the-show", ShowIsOver(),
+             [&] { Print(QStringLiteral("The show: ") + Window.statusBar()->currentMessage()); });
 }
 
 }  // namespace neb::demo

@@ -36,6 +36,7 @@ DesktopServices::DesktopServices() {
 
 DesktopServices::~DesktopServices() {
     RecorderJobs::AwaitAll(RecorderEnd);
+    XShow::SetReader({});
     TheServices().Boxes = nullptr;
     TheServices().Dialogs = nullptr;
     TheServices().Blanking = nullptr;

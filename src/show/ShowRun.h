@@ -50,6 +50,12 @@ class ShowRun {
     // The ticks: every 100 ms the clock of the slides, every 1000 ms the loop of the sound.
     void Timer1_Timer();
     void Timer2_Timer();
+    // What becomes of a picture that the stage has left on its way: it is late, and announced as
+    // such; it has come (false when no slide wants it any more, and it stays away); it cannot be
+    // read, and counts as missing.
+    void PictureLate();
+    bool PictureCame();
+    void PictureFailed();
 
     const ShowState& State() const { return mState; }
     const EffectTables& Effects() const { return mEffects; }
@@ -84,6 +90,7 @@ class ShowRun {
     void SetCaption(const QString& Text);
     bool DisplaySlideFile(const QString& File);
     bool DisplayPicture(const QString& Path);
+    bool DisplayStandIn(const QString& Path);
     QString SlidePath(const QString& SlideLoc) const;
     SlideSound SoundOf(const ChosenDetail& Chosen, const clsNEBSlide& Slide,
                        const clsNEBSlideShow& SlideShow) const;
@@ -103,6 +110,7 @@ class ShowRun {
     QString mSlideShowName;
     QString mCaption;
     QString mCurrentFile;
+    std::int32_t mEffectBefore = 0;       // what a picture that fails gives back
     std::int32_t mProgressionMethod = 0;  // 0 automatic, 1 manual
     std::int32_t mSlideCount = 0;
     std::int32_t mLastSeq = 0;
@@ -110,6 +118,7 @@ class ShowRun {
     std::int32_t mResumeSeq = 0;
     bool mResumeValid = false;
     bool mResumeAfterRestart = false;
+    bool mPictureWanted = false;  // the one that was asked for last
     bool mTimer1On = false;
     bool mEnded = false;
 };

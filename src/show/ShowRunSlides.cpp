@@ -16,8 +16,10 @@ QString NoSlidePath() {
     return AppPath() + QStringLiteral("NoSlide.bmp");
 }
 
+// By the names alone: a look at the folder may hang.
 bool IsNoSlide(const QString& Path) {
-    return ResolvePath(Path) == ResolvePath(NoSlidePath());
+    const auto Plain = [](QString Name) { return Name.replace(u'\\', u'/'); };
+    return Plain(Path).compare(Plain(NoSlidePath()), Qt::CaseInsensitive) == 0;
 }
 
 }  // namespace
@@ -34,6 +36,7 @@ bool ShowRun::ShowCurrentSlide(StepCause Cause) {
     ShowMemory& Place = mWorld.Place;
     mSoundFields.TrackEndsHere = mSoundFields.FitToSong = mSoundFields.FadeOnLast = false;
     mSoundFields.SlideInterval = Place.SlideTimeout;
+    mPictureWanted = false;
     SetTimer2(false);
     if (SlideShowID < 1) return Fail(QStringLiteral("You must have an active slideshow!"));
     if (SlideShowID != Place.CurrentSlideShowID) {
@@ -109,13 +112,25 @@ QString ShowRun::SlidePath(const QString& SlideLoc) const {
                                     : SlidesFolder(mWorld.Engine->DBPath(), AlbumID) + SlideLoc;
 }
 
-// A picture that cannot be read counts as a missing one: no single file may halt a show.
+// Whether a file is there shows when it is read, which need not be waited for.
 bool ShowRun::DisplaySlideFile(const QString& File) {
     const QString Path = SlidePath(File);
-    if (FileExists(Path) && DisplayPicture(Path)) {
-        mCurrentFile = Path;
-        return true;
-    }
+    if (!DisplayPicture(Path)) return DisplayStandIn(Path);
+    mCurrentFile = Path;
+    return true;
+}
+
+bool ShowRun::DisplayPicture(const QString& Path) {
+    mEffectBefore = mEffects.CurrentEffect;
+    const EffectChoice Choice = IsNoSlide(Path) ? WholeAtOnce : ChooseEffect(mEffects, mSettings);
+    mPictureWanted = mStage.ShowPicture(Path, Choice);
+    if (mPictureWanted) return true;
+    mEffects.CurrentEffect = mEffectBefore;
+    return false;
+}
+
+// A picture that cannot be read counts as a missing one: no single file may halt a show.
+bool ShowRun::DisplayStandIn(const QString& Path) {
     if (IsNoSlide(Path)) {
         StopShow();
         return false;
@@ -124,12 +139,20 @@ bool ShowRun::DisplaySlideFile(const QString& File) {
     return DisplaySlideFile(NoSlidePath());
 }
 
-bool ShowRun::DisplayPicture(const QString& Path) {
-    const std::int32_t Before = mEffects.CurrentEffect;
-    const EffectChoice Choice = IsNoSlide(Path) ? WholeAtOnce : ChooseEffect(mEffects, mSettings);
-    if (mStage.ShowPicture(Path, Choice)) return true;
-    mEffects.CurrentEffect = Before;
-    return false;
+void ShowRun::PictureLate() {
+    if (!mPictureWanted) return;
+    mStage.ShowCaption(mCaption + QStringLiteral(": Current slide still loading!"));
+}
+
+bool ShowRun::PictureCame() {
+    if (mPictureWanted) mStage.ShowCaption(mCaption);
+    return mPictureWanted;
+}
+
+void ShowRun::PictureFailed() {
+    if (!mPictureWanted) return;
+    mEffects.CurrentEffect = mEffectBefore;
+    DisplayStandIn(mCurrentFile);
 }
 
 // What comes up when the time of this slide is over is made ready in the meantime.

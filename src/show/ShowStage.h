@@ -14,7 +14,9 @@ class ShowStage {
     // As a label takes it: "&&" for an ampersand.
     virtual void ShowCaption(const QString& Text) = 0;
     // Ends a transition that still runs and begins the one to this picture; what Choice leaves
-    // empty stays as it was. False when the picture cannot be read.
+    // empty stays as it was. False when the picture cannot be read. One that is not here at once
+    // comes later (true): the run hears of it by PictureLate, PictureCame and PictureFailed, unless
+    // another picture has been asked for by then.
     virtual bool ShowPicture(const QString& Path, const EffectChoice& Choice) = 0;
     // The picture that will probably come next.
     virtual void Prefetch(const QString& Path) = 0;

@@ -135,9 +135,21 @@ TEST_F(NebctlEffectsTest, MeasuringShowsOnATerminalHowFarItHasCome) {
     const QStringList Words{u"timings"_s, u"--size"_s, u"4x4"_s, u"--runs"_s, u"1"_s};
     const Outcome Shown = Effects(Words, true), Quiet = Effects(Words);
     EXPECT_TRUE(Shown.Err.contains(u"Measuring 50 %"_s));
-    EXPECT_TRUE(Shown.Err.endsWith(u"\r\033[K"_s));
-    EXPECT_EQ(Quiet.Err, u"");
+    EXPECT_TRUE(Shown.Err.section(u'\r', -1).startsWith(u"\033[KAt 60 refreshes"_s));
+    EXPECT_FALSE(Quiet.Err.contains(u"Measuring"_s));
     EXPECT_EQ(Quiet.Out.count(u'\n'), EffectCount() + 1);
+}
+
+TEST_F(NebctlEffectsTest, TellsHowManyTransitionsKeepWithinARefresh) {
+    EXPECT_EQ(
+        FrameLimitText({1.6, 0.4, 1.7, 2.53}),
+        u"At 60 refreshes a second a frame has 16.7 ms: on one thread 2 of 4 transitions keep "
+        "within it, and the slowest, 4, takes 25.3 ms."_s);
+    const Outcome Told = Effects({u"timings"_s, u"--size"_s, u"4x4"_s, u"--runs"_s, u"1"_s});
+    EXPECT_TRUE(
+        Told.Err.startsWith(u"At 60 refreshes a second a frame has 16.7 ms: on one thread "
+                            "127 of 127 transitions keep within it"_s))
+        << Told.Err.toStdString();
 }
 
 TEST_F(NebctlEffectsTest, AFrameIsTheTransitionsOwnToTheBit) {

@@ -3,15 +3,24 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
+#include <QScreen>
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "effects/EffectCatalogue.h"
 #include "effects/XShowBands.h"
+#include "support/Fault.h"
 #include "support/Services.h"
 
 namespace neb {
 namespace {
+
+constexpr int LookMs = 10;              // for a picture that is on its way
+constexpr double AnnounceAfter = 1000;  // milliseconds
+constexpr int ShortPatience = 5;        // whose slides come one upon the other would wait often
+
+int gPatience = 50;
 
 int ButtonNumber(Qt::MouseButton Button) {
     if (Button == Qt::LeftButton) return 1;
@@ -32,23 +41,57 @@ void Fit(LoadedPicture& P, const XShowLayout& Layout) {
 
 }  // namespace
 
-XShow::XShow(QWidget* Parent) : QWidget(Parent) {
+XShow::XShow(QWidget* Parent) : QWidget(Parent), mRefresh(*this) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setAccessibleName(QStringLiteral("Slide picture"));
     mLayout.InProportion = false;
-    mTimer.setSingleShot(true);
-    mTimer.setTimerType(Qt::PreciseTimer);
-    connect(&mTimer, &QTimer::timeout, this, &XShow::OnTimer);
+    connect(&mRefresh, &ScreenRefresh::Reached, this, [this](bool Told) {
+        if (Told) mPace.RefreshBegins(TheServices().Time->Ticks());
+        OnTime();
+    });
+    connect(&mArrival, &QTimer::timeout, this, &XShow::LookForPicture);
 }
 
 XShow::~XShow() = default;
 
-void XShow::SetReader(PictureReader Reader) {
+void XShow::SetReader(PictureReader Reader, int Patience) {
     XShowLoader::SetReader(std::move(Reader));
+    gPatience = Patience;
 }
 
 void XShow::LoadPicture(const QString& File) {
-    mNext = mLoader.Load(File, LayoutNow());
+    ForgetPicture();
+    mLoader.Begin(File, LayoutNow());
+    mNext = mLoader.Take();
+}
+
+XShow::Arrival XShow::AskForPicture(const QString& File) {
+    const int Patience = mArrival.isActive() ? std::min(ShortPatience, gPatience) : gPatience;
+    ForgetPicture();
+    mLoader.Begin(File, LayoutNow());
+    if (mLoader.Wait(Patience)) return TakePicture() ? Arrival::Here : Arrival::Unreadable;
+    mAsked = TheServices().Time->Ticks();
+    mArrival.start(LookMs);
+    return Arrival::OnItsWay;
+}
+
+bool XShow::TakePicture() {
+    try {
+        mNext = mLoader.Take();
+    } catch (const Fault&) {
+        return false;
+    }
+    return true;
+}
+
+void XShow::LookForPicture() {
+    if (mLoader.Wait(0)) {
+        ForgetPicture();
+        TakePicture() ? Q_EMIT PictureCame() : Q_EMIT PictureFailed();
+    } else if (TheServices().Time->Ticks() - mAsked >= AnnounceAfter) {
+        mAsked = std::numeric_limits<double>::infinity();
+        Q_EMIT PictureLate();
+    }
 }
 
 void XShow::Prefetch(const QString& File) {
@@ -102,7 +145,16 @@ void XShow::RunEffect() {
     mRunning = true;
     ++mRunCount;
     mDue = Began + mRunDelay;
-    AwaitStep();
+    const double Ready = TheServices().Time->Ticks();
+    mPace.Begin(Began, Ready, mSteps, mRunDelay, RefreshRate());
+    if (mPacing == Pacing::EveryStep || mSteps == 0)
+        AwaitStep();
+    else
+        AwaitRefresh(Ready);
+}
+
+double XShow::RefreshRate() const {
+    return screen() ? screen()->refreshRate() : 0;
 }
 
 void XShow::TakeNext(const XShowLayout& Layout) {
@@ -154,27 +206,41 @@ void XShow::DrawStep() {
     if (mTransition && Progress > 0 && Progress < 1) DrawInBands(*mTransition, Progress, mFrame);
 }
 
-// The timer counts whole milliseconds; the rest of the wait goes round the event loop, so that
-// a hundred steps do not add up to a hundred roundings.
 void XShow::AwaitStep() {
-    const double Wait = mDue - TheServices().Time->Ticks();
-    mTimer.start(std::max(0, static_cast<int>(std::floor(Wait))));
+    mRefresh.WaitUntil(mDue);
 }
 
-void XShow::OnTimer() {
-    if (TheServices().Time->Ticks() < mDue)
-        AwaitStep();
-    else if (mSteps == 0)
-        Finish();
+void XShow::AwaitRefresh(double Earliest) {
+    if (mStep < mSteps)
+        mRefresh.WaitForRefresh(mPace.DrawAt(mStep + 1, Earliest), mPace.Period());
     else
-        DoStep();
+        mRefresh.WaitUntil(mPace.End());
+}
+
+void XShow::OnTime() {
+    if (mStep >= mSteps)
+        Finish();
+    else if (mPacing == Pacing::EveryStep)
+        DoStep(mStep + 1);
+    else
+        OnRefresh();
+}
+
+// Every step that is due when the frame will be seen has been taken by then.
+void XShow::OnRefresh() {
+    const double Now = TheServices().Time->Ticks();
+    const int Step = mPace.StepFor(Now);
+    if (Step > mStep)
+        DoStep(Step);
+    else
+        AwaitRefresh(mPace.SeenAt(Now));
 }
 
 // Whoever watches the painting or hears of the step may stop the transition, begin another or
 // delete the view.
-void XShow::DoStep() {
+void XShow::DoStep(int Step) {
     mDue = TheServices().Time->Ticks() + mRunDelay;
-    ++mStep;
+    const int Before = std::exchange(mStep, Step);
     if (!FitAgain()) DrawStep();
     const QPointer<XShow> Alive(this);
     const auto Goes = [&Alive, this, Run = mRunCount] {
@@ -182,10 +248,21 @@ void XShow::DoStep() {
     };
     ShowStep();
     if (!Goes()) return;
-    const bool Last = mStep >= mSteps;
-    if (!Last) AwaitStep();
+    const bool Last = mStep >= mSteps, EveryStep = mPacing == Pacing::EveryStep;
+    if (!EveryStep) CountFrame(Before);
+    if (!EveryStep)
+        AwaitRefresh(mPace.SeenAt(TheServices().Time->Ticks()));
+    else if (!Last)
+        AwaitStep();
     Q_EMIT EffectStepped(ProgressNow());
-    if (Last && Goes()) Finish();
+    if (Last && EveryStep && Goes()) Finish();
+}
+
+// A plain change is no transition, and what nobody sees is no frame.
+void XShow::CountFrame(int StepBefore) {
+    const QWindow* Window = window()->windowHandle();
+    if (mSteps < 2 || !Window || !Window->isExposed()) return;
+    mFrames.Add(StepBefore == 0, mPace.IsLate(StepBefore, TheServices().Time->Ticks()));
 }
 
 // Wholly on the screen before the next one is begun, if that is asked for.
@@ -201,7 +278,7 @@ void XShow::StopEffect() {
 }
 
 void XShow::Finish() {
-    mTimer.stop();
+    mRefresh.Stop();
     mRunning = false;
     mTransition.reset();
     mOld = {};

@@ -3,12 +3,15 @@
 #include <QDateTime>
 #include <QMutex>
 #include <optional>
+#include <utility>
 
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
 
 namespace neb {
 namespace {
+
+constexpr int WaitForReadersMs = 1000;
 
 QMutex gReaderLock;
 
@@ -46,40 +49,62 @@ FileState StateOf(const QString& File) {
 
 }  // namespace
 
-struct XShowLoader::Ahead {
-    QString File;
+struct XShowLoader::Reading {
     FileState State;
-    std::shared_future<LoadedPicture> Result;
+    LoadedPicture Picture;
+    std::exception_ptr Problem;
 };
-
-XShowLoader::XShowLoader() {
-    mPool.setMaxThreadCount(2);
-}
-
-XShowLoader::~XShowLoader() {
-    mPool.clear();
-    mPool.waitForDone();
-}
 
 void XShowLoader::SetReader(PictureReader NewReader) {
     const QMutexLocker Lock(&gReaderLock);
+    ReadThreads::AwaitAll(WaitForReadersMs);
     Reader() = std::move(NewReader);
 }
 
-void XShowLoader::Prefetch(const QString& File, const XShowLayout& Layout) {
-    const FileState State = StateOf(File);
-    if (mAhead && mAhead->File == File && mAhead->State == State) return;
-    mPool.clear();
-    const auto Task = std::make_shared<std::packaged_task<LoadedPicture()>>(
-        [Read = ReaderNow(), File, Layout] { return ReadAndFit(Read, File, Layout); });
-    mAhead = std::make_unique<Ahead>(Ahead{File, State, Task->get_future().share()});
-    mPool.start([Task] { (*Task)(); });
+// Even the look at what has become of a file may hang, and is taken on the thread.
+XShowLoader::Result XShowLoader::Put(ReadThreads::Kind Of, const QString& File,
+                                     const XShowLayout& Layout, Result Before) {
+    using Shared = std::shared_ptr<const Reading>;
+    const auto Work = [Read = ReaderNow(), File, Layout, Before]() -> Shared {
+        if (Before.valid() && Before.get()->State == StateOf(File)) return Before.get();
+        Reading R{StateOf(File), {}, {}};
+        try {
+            R.Picture = ReadAndFit(Read, File, Layout);
+        } catch (const Fault&) {
+            R.Problem = std::current_exception();
+        }
+        return std::make_shared<const Reading>(std::move(R));
+    };
+    const auto Task = std::make_shared<std::packaged_task<Shared()>>(Work);
+    Result Coming = Task->get_future().share();
+    mThreads.Put(Of, [Task] { (*Task)(); });
+    return Coming;
 }
 
-LoadedPicture XShowLoader::Load(const QString& File, const XShowLayout& Layout) {
-    const std::unique_ptr<Ahead> Ready = std::move(mAhead);
-    if (Ready && Ready->File == File && Ready->State == StateOf(File)) return Ready->Result.get();
-    return ReadAndFit(ReaderNow(), File, Layout);
+void XShowLoader::Prefetch(const QString& File, const XShowLayout& Layout) {
+    using namespace std::chrono_literals;
+    const bool Same = mAhead.valid() && mAheadFile == File;
+    if (Same && mAhead.wait_for(0s) != std::future_status::ready) return;
+    mAhead = Put(ReadThreads::Kind::Ahead, File, Layout, Same ? mAhead : Result());
+    mAheadFile = File;
+}
+
+void XShowLoader::Begin(const QString& File, const XShowLayout& Layout) {
+    const bool HasBegun = !mThreads.Withdraw(ReadThreads::Kind::Ahead);
+    const Result Ahead = std::exchange(mAhead, {});
+    const bool Useful = HasBegun && mAheadFile == File;
+    mBegun = Put(ReadThreads::Kind::Wanted, File, Layout, Useful ? Ahead : Result());
+}
+
+bool XShowLoader::Wait(int Milliseconds) {
+    mThreads.GoOn();
+    return mBegun.wait_for(std::chrono::milliseconds(Milliseconds)) == std::future_status::ready;
+}
+
+LoadedPicture XShowLoader::Take() {
+    const Result Came = std::exchange(mBegun, {});
+    if (Came.get()->Problem) std::rethrow_exception(Came.get()->Problem);
+    return Came.get()->Picture;
 }
 
 }  // namespace neb

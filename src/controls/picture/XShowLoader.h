@@ -1,12 +1,12 @@
-// Reads pictures for the transition view, ahead of time on a worker thread where it is asked to.
-// Used by XShow alone.
+// Reads pictures for the transition view on worker threads, ahead of time where it is asked to. A
+// medium that hangs holds up nobody who does not want to wait. Used by XShow alone.
 #pragma once
 
-#include <QThreadPool>
 #include <functional>
 #include <future>
 #include <memory>
 
+#include "controls/picture/ReadThreads.h"
 #include "pictures/XShowFit.h"
 
 namespace neb {
@@ -22,20 +22,27 @@ struct LoadedPicture {
 
 class XShowLoader {
   public:
-    XShowLoader();
-    ~XShowLoader();  // waits for a reading that is under way
-
+    // For all views. The readings that are under way with the reader of before are awaited, for a
+    // second at most: whoever takes his reader back may go then.
     static void SetReader(PictureReader Reader);
 
     // Begins to read a file and to fit it to a view; one file at a time, the latest counts.
     void Prefetch(const QString& File, const XShowLayout& Layout);
-    // The picture, read ahead or read now. Throws Fault.
-    LoadedPicture Load(const QString& File, const XShowLayout& Layout);
+    // Begins to bring a picture, which may have been read ahead; gives up the one before.
+    void Begin(const QString& File, const XShowLayout& Layout);
+    // Whether what was begun has come to its end, after at most so many milliseconds.
+    bool Wait(int Milliseconds);
+    // Waits for the picture that was begun; once. Throws Fault when it cannot be read.
+    LoadedPicture Take();
 
   private:
-    struct Ahead;
-    std::unique_ptr<Ahead> mAhead;
-    QThreadPool mPool;
+    struct Reading;
+    using Result = std::shared_future<std::shared_ptr<const Reading>>;
+    Result Put(ReadThreads::Kind Of, const QString& File, const XShowLayout& Layout, Result Before);
+
+    ReadThreads mThreads;
+    QString mAheadFile;
+    Result mAhead, mBegun;
 };
 
 }  // namespace neb

@@ -17,6 +17,7 @@ namespace neb {
 namespace {
 
 constexpr int Steps = 100;
+constexpr double FrameSeconds = 1 / 60.;
 
 #ifdef NDEBUG
 constexpr const char* BuildName = "release build";
@@ -67,8 +68,8 @@ double TimeTransition(int Number, const QImage& Old, const QImage& New) {
     return ProcessorSeconds() - Start;
 }
 
-QString EffectStatsText(const TimingOrder& Order, const QImage& Old, const QImage& New,
-                        const std::function<void(int Done)>& Measured) {
+std::vector<double> TimeAll(const TimingOrder& Order, const QImage& Old, const QImage& New,
+                            const std::function<void(int Done)>& Measured) {
     const QImage From = Filling(Old, Order.Size), To = Filling(New, Order.Size);
     std::vector<double> Best(std::size_t(EffectCount()), HUGE_VAL);
     // Round by round, so that a while in which the machine is busy spoils no effect's every run.
@@ -78,12 +79,27 @@ QString EffectStatsText(const TimingOrder& Order, const QImage& Old, const QImag
         double& Time = Best[static_cast<std::size_t>(Index)];
         Time = std::min(Time, TimeTransition(Index + 1, From, To));
     }
+    return Best;
+}
+
+QString EffectStatsText(const TimingOrder& Order, const std::vector<double>& Times) {
     QString Text = Heading(Order) + u'\n';
-    for (int Number = 1; Number <= EffectCount(); ++Number)
-        Text += QStringLiteral("%1, %2\n")
-                    .arg(Number)
-                    .arg(Best[static_cast<std::size_t>(Number - 1)], 0, 'f', 4);
+    for (std::size_t I = 0; I < Times.size(); ++I)
+        Text += QStringLiteral("%1, %2\n").arg(I + 1).arg(Times[I], 0, 'f', 4);
     return Text;
+}
+
+QString FrameLimitText(const std::vector<double>& Times) {
+    const auto Slowest = std::max_element(Times.begin(), Times.end());
+    const auto Within = std::count_if(Times.begin(), Times.end(),
+                                      [](double T) { return T / Steps <= FrameSeconds; });
+    return QStringLiteral(
+               "At 60 refreshes a second a frame has 16.7 ms: on one thread %1 of %2 transitions "
+               "keep within it, and the slowest, %3, takes %4 ms.")
+        .arg(Within)
+        .arg(Times.size())
+        .arg(Slowest - Times.begin() + 1)
+        .arg(*Slowest / Steps * 1000, 0, 'f', 1);
 }
 
 }  // namespace neb

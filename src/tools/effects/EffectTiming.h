@@ -5,6 +5,7 @@
 #include <QImage>
 #include <QString>
 #include <functional>
+#include <vector>
 
 namespace neb {
 
@@ -18,9 +19,16 @@ struct TimingOrder {
 // pictures are Format_RGB32 and of one size.
 double TimeTransition(int Number, const QImage& Old, const QImage& New);
 
-// The whole text of EffectStats.txt: a line that says how it came about, then a row for each of the
-// 127 numbers. Measured is called before each run with how many are done.
-QString EffectStatsText(const TimingOrder& Order, const QImage& Old, const QImage& New,
-                        const std::function<void(int Done)>& Measured);
+// The least times of all 127 numbers, in seconds. Measured is called before each run with how many
+// are done.
+std::vector<double> TimeAll(const TimingOrder& Order, const QImage& Old, const QImage& New,
+                            const std::function<void(int Done)>& Measured);
+
+// The whole text of EffectStats.txt: a line that says how it came about, then a row for each time.
+QString EffectStatsText(const TimingOrder& Order, const std::vector<double>& Times);
+
+// What these times mean for a show at 60 refreshes a second: how many of the transitions draw every
+// frame in the time of one, and which is the slowest. One line, without its end.
+QString FrameLimitText(const std::vector<double>& Times);
 
 }  // namespace neb

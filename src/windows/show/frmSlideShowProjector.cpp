@@ -10,6 +10,7 @@
 #include "show/ShowSettings.h"
 #include "support/Fault.h"
 #include "ui_frmSlideShowProjector.h"
+#include "windows/frame/modNotice.h"
 #include "windows/show/ProgramScreen.h"
 #include "windows/show/ShowBox.h"
 #include "windows/show/frmPopup.h"
@@ -92,6 +93,9 @@ void frmSlideShowProjector::PrepareControls() {
     mUi->Show1->setAttribute(Qt::WA_NoMousePropagation);
     mUi->lblCaption->setAttribute(Qt::WA_NoMousePropagation);
     connect(mUi->Show1, &XShow::EffectEnded, mUi->Show1, &XShow::StopEffect);
+    connect(mUi->Show1, &XShow::PictureCame, this, &frmSlideShowProjector::PictureCame);
+    connect(mUi->Show1, &XShow::PictureFailed, this, [this] { mRun.PictureFailed(); });
+    connect(mUi->Show1, &XShow::PictureLate, this, [this] { mRun.PictureLate(); });
     connect(mUi->Show1, &XShow::SurfaceClick, this, &frmSlideShowProjector::SurfaceClick);
     connect(mUi->Show1, &XShow::SurfaceMouseDown, this,
             [this](int Button) { SurfaceMouseDown(Button); });
@@ -128,11 +132,20 @@ void frmSlideShowProjector::FillScreen() {
 
 bool frmSlideShowProjector::Form_Unload() {
     const HourglassUntilEnd Pointer;
+    mUi->Show1->ForgetPicture();
     mUi->Show1->StopEffect();
     mScreenStaysOn.reset();
     mRun.End();
     if (mRun.ResumeValid()) SaveNextSlideSeq();
+    TellFrames();
     return true;
+}
+
+void frmSlideShowProjector::TellFrames() {
+    const QString Text = mUi->Show1->Frames().Text();
+    if (Text.isEmpty()) return;
+    ShowNotice(Text);
+    if (DebugMode) LogMessage(QStringLiteral("Information"), Text);
 }
 
 // The window must close even when the place cannot be kept; the opener hears of it afterwards.
@@ -232,14 +245,18 @@ bool frmSlideShowProjector::ShowPicture(const QString& Path, const EffectChoice&
     if (Choice.EffectDelay) Show.SetEffectDelay(*Choice.EffectDelay);
     if (Choice.EffectStep) Show.SetEffectStep(*Choice.EffectStep);
     Show.SetShowOptionD(true);
-    try {
-        Show.LoadPicture(Path);
-    } catch (const Fault&) {
-        return false;
-    }
+    const XShow::Arrival Is = Show.AskForPicture(Path);
+    if (Is == XShow::Arrival::Unreadable) return false;
     if (Choice.EffectNumber) Show.SetEffectNumber(*Choice.EffectNumber);
-    Show.RunEffect();
+    if (Is == XShow::Arrival::Here) Show.RunEffect();
     return true;
+}
+
+// The caption first: the picture is fitted to the room that it leaves.
+void frmSlideShowProjector::PictureCame() {
+    if (!mRun.PictureCame()) return;
+    ResizeControls();
+    mUi->Show1->RunEffect();
 }
 
 void frmSlideShowProjector::Prefetch(const QString& Path) {

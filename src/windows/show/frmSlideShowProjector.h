@@ -73,6 +73,8 @@ class frmSlideShowProjector : public Form, private ShowStage {
     void Tell(const QString& Message) override;
 
     void PrepareControls();
+    void PictureCame();
+    void TellFrames();
     void FillScreen();
     void ResizeControls();
     void SurfaceClick();

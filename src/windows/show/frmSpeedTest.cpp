@@ -36,6 +36,7 @@ frmSpeedTest::frmSpeedTest() : mUi(std::make_unique<Ui::frmSpeedTest>()), Timer1
     mUi->setupUi(this);
     Timer1->setObjectName(QStringLiteral("Timer1"));
     connect(Timer1, &QTimer::timeout, this, &frmSpeedTest::Unload);
+    mUi->Show1->SetPacing(XShow::Pacing::EveryStep);
     connect(mUi->Show1, &XShow::EffectEnded, this, &frmSpeedTest::EffectEnded);
 }
 

@@ -185,6 +185,7 @@ int MoveBetweenScreens() {
     View.setGeometry(10, 10, 100, 60);
     View.SetShowOptionA(true);
     View.SetShowOptionD(true);
+    View.SetPacing(XShow::Pacing::EveryStep);
     View.show();
     LetRun();
     for (const char* Name : {"slope1", "slope5"}) {

@@ -83,8 +83,10 @@ class WatchedShow : public XShow {
     // What lies in the window after each painting.
     std::function<void(const QImage& Painted)> AfterPaint;
     std::function<void()> WhilePainting;
+    double Rate = 60;  // refreshes of its screen a second
 
   protected:
+    double RefreshRate() const override { return Rate; }
     void paintEvent(QPaintEvent* Event) override {
         if (WhilePainting) WhilePainting();
         XShow::paintEvent(Event);
@@ -105,6 +107,7 @@ class XShowRig : public testing::Test {
     XShowRig() {
         XShow::SetReader(ReadByName);
         gReads = 0;
+        View.SetPacing(XShow::Pacing::EveryStep);
         View.resize(100, 60);
         View.show();
     }

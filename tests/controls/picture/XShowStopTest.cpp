@@ -16,6 +16,7 @@ namespace {
 struct LooseView {
     LooseView() {
         XShow::SetReader(ReadByName);
+        View->SetPacing(XShow::Pacing::EveryStep);
         View->resize(100, 60);
         View->show();
         View->LoadPicture(QStringLiteral("red"));

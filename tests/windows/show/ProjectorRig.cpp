@@ -55,6 +55,9 @@ class LoggedSound : public ShowSound {
     SoundLog& mLog;
 };
 
+// Pictures of the disk are here at once, on a busy machine, too.
+constexpr int PatientMs = 5000;
+
 QImage Decode(const QString& Path) {
     const QImage Image = QImage::fromData(ReadFile(Path));
     if (Image.isNull()) throw Fault(QStringLiteral("The picture cannot be read."), Path);
@@ -67,11 +70,13 @@ ProjectorRig::ProjectorRig() : mBefore(TheServices()) {
     TheServices().Time = &Time;
     TheServices().Blanking = &Blanking;
     Maker = [this](const ShowTeller&) { return std::make_unique<LoggedSound>(Sound); };
-    XShow::SetReader([this](const QString& Path) {
-        const QMutexLocker Lock(&mReadLock);
-        mRead.push_back(Path);
-        return Decode(Path);
-    });
+    XShow::SetReader(
+        [this](const QString& Path) {
+            const QMutexLocker Lock(&mReadLock);
+            mRead.push_back(Path);
+            return Decode(Path);
+        },
+        PatientMs);
     SetDocumentsPath(Folder.Path());
     AppPathCache = Folder / QStringLiteral("program/");
     DBPathCache.clear();
