@@ -48,7 +48,7 @@ void GotoField::Look() {
     if (Wanted.isEmpty()) return Close();
     const std::int32_t Found = mCaptions().Find(Wanted, mPresent);
     if (Found == 0) {
-        Say(tr("No slide has this number, and no caption these words."));
+        Say(tr("There is no such number or caption."));
         return mWanted->selectAll();
     }
     Close();
@@ -58,6 +58,7 @@ void GotoField::Look() {
 void GotoField::Say(const QString& Text) {
     mSays->setText(Text);
     mWanted->setAccessibleDescription(Text);
+    if (isVisible()) Place();
 }
 
 // No key of the field is one of the show behind it.

@@ -11,7 +11,7 @@ namespace neb {
 namespace {
 
 constexpr double SmallestPoints = 6;
-constexpr QColor Ground(24, 24, 24, 235);
+constexpr QColor Ground(24, 24, 24);
 constexpr QColor Edge(110, 110, 110);
 
 // Dark on every desktop: the room is, and a bright panel would be all that is seen of the show.

@@ -53,7 +53,7 @@ TEST_F(TheField, SaysThatNothingIsFoundAndStays) {
         Press(Qt::Key_G);
         Type("boat");
         EXPECT_TRUE(IsUp("GotoField"));
-        EXPECT_EQ("No slide has this number, and no caption these words.", Says());
+        EXPECT_EQ("There is no such number or caption.", Says());
         EXPECT_EQ(1, CurrentSlideSeq);
         Type("2");
         EXPECT_EQ(2, CurrentSlideSeq) << "typed over what was not found";
