@@ -1,6 +1,7 @@
 #include "program/MainMenu.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QMenu>
 #include <QMenuBar>
 
@@ -164,9 +165,11 @@ constexpr Entry Entries[] = {
      [](auto&) { NewForm<frmAbout>()->ShowModal(); }},
 };
 
-// Queued, so that a modal window does not hold whoever pressed the entry.
+// Queued, so that a modal window does not hold whoever pressed the entry. What was pressed twice
+// comes while the window of the first time is up, and is not opened inside it.
 void Connect(frmNEBSlideShow& Main, QAction& Action, Handler Run) {
     const auto Guarded = [&Main, Run] {
+        if (QApplication::activeModalWidget()) return;
         try {
             Run(Main);
         } catch (const Fault& Problem) {

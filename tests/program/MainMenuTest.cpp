@@ -83,6 +83,48 @@ TEST_F(TheMenu, AllPicturesAreCheckedFromTheFileMenu) {
     EXPECT_FALSE(Find<frmCheckPictures>());
 }
 
+// On a busy machine both presses are in the queue before the first of them is served.
+TEST_F(TheMenu, WhatIsPressedTwiceOpensOneWindow) {
+    Start();
+    size_t Most = 0;
+    QTimer Closer;
+    QObject::connect(&Closer, &QTimer::timeout, [&] {
+        const auto Open = LoadedForms();
+        Most = std::max(Most, Open.size());
+        for (const auto& Window : Open) Window->Unload();
+    });
+    Closer.start(100);
+    Entry("mnuSlideShowPrefs")->trigger();
+    Entry("mnuSlideShowPrefs")->trigger();
+    DoEvents();
+    EXPECT_EQ(1U, Most);
+    EXPECT_TRUE(LoadedForms().empty());
+}
+
+TEST_F(TheMenu, AShowThatIsAskedForTwiceRunsOnce) {
+    Start();
+    std::int32_t AlbumID = 0, ShowID = 0;
+    ASSERT_TRUE(DBEngine->SaveAlbum(AlbumID, "Holiday"));
+    DBEngine->GetAlbum(AlbumID)->SaveSlideShow(ShowID, "Lake", 0, *DBEngine);
+    clsSettings Settings = OpenSettings();
+    Settings.PutValue({}, "ActiveAlbum", QString::number(AlbumID));
+    Settings.PutValue({}, "ActiveSlideShow", QString::number(ShowID));
+    Settings.Save();
+    size_t Most = 0;
+    QTimer Closer;
+    QObject::connect(&Closer, &QTimer::timeout, [&] {
+        const auto Open = LoadedForms();
+        Most = std::max(Most, Open.size());
+        for (const auto& Window : Open) Window->Unload();
+    });
+    Closer.start(100);
+    mBoxes.Expect("Slide #1 of the current slide show does not exist!");
+    Entry("mnuSlideShowViewer")->trigger();
+    Entry("mnuSlideShowViewer")->trigger();
+    DoEvents();
+    EXPECT_EQ(1U, Most);
+}
+
 TEST_F(TheMenu, TheHelpThatComesWithTheProgramHasItsPlaces) {
     const QByteArray Help = ReadFile(NEB_SOURCE_DIR "/assets/help/SlideShowHelp.hlp");
     for (const char* Place :

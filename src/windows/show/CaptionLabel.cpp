@@ -1,5 +1,6 @@
 #include "windows/show/CaptionLabel.h"
 
+#include <QMouseEvent>
 #include <QPainter>
 
 #include "show/CaptionFit.h"
@@ -22,6 +23,10 @@ int CaptionLabel::FitTo(int Width, int ScreenHeight, int MostHeight) {
     setFont(CaptionFont(Setting.Points));
     setAccessibleName(ShownText());
     return Setting.Height;
+}
+
+void CaptionLabel::mousePressEvent(QMouseEvent* Event) {
+    if (Event->button() == Qt::RightButton) Q_EMIT RightPressed();
 }
 
 void CaptionLabel::paintEvent(QPaintEvent*) {

@@ -19,8 +19,12 @@ class CaptionLabel : public QLabel {
     // pixels) and shrinks as far as MostHeight asks for.
     int FitTo(int Width, int ScreenHeight, int MostHeight);
 
+  Q_SIGNALS:
+    void RightPressed();
+
   protected:
     void paintEvent(QPaintEvent* Event) override;
+    void mousePressEvent(QMouseEvent* Event) override;
 };
 
 }  // namespace neb

@@ -11,6 +11,7 @@
 #include "support/Fault.h"
 #include "ui_frmSlideShowProjector.h"
 #include "windows/frame/modNotice.h"
+#include "windows/handling/ShowHands.h"
 #include "windows/show/ProgramScreen.h"
 #include "windows/show/ShowBox.h"
 #include "windows/show/frmPopup.h"
@@ -21,38 +22,16 @@ namespace {
 
 constexpr int LeastPictureTwips = 200;
 constexpr int RightButton = 2;
-using Command = void (frmSlideShowProjector::*)();
-
-struct KeyCommand {
-    Command Run;
-    int Key;
-    bool AutomaticOnly = false;
-};
-
-constexpr KeyCommand Keys[] = {
-    {&frmSlideShowProjector::NextSlide, Qt::Key_Up},
-    {&frmSlideShowProjector::PreviousSlide, Qt::Key_Down},
-    {&frmSlideShowProjector::NextSlide, Qt::Key_W},
-    {&frmSlideShowProjector::NextSlide, Qt::Key_8},
-    {&frmSlideShowProjector::PreviousSlide, Qt::Key_S},
-    {&frmSlideShowProjector::PreviousSlide, Qt::Key_2},
-    {&frmSlideShowProjector::PlayPause, Qt::Key_P, true},
-    {&frmSlideShowProjector::StopRestart, Qt::Key_R},
-};
 
 struct MenuCommand {
     const char16_t* Word;
-    Command Run;
+    ShowCommand Command;
 };
 
 constexpr MenuCommand MenuCommands[] = {
-    {u"GOTOEND", &frmSlideShowProjector::GotoEnd},
-    {u"GOTOSTART", &frmSlideShowProjector::GotoStart},
-    {u"NEXT", &frmSlideShowProjector::NextSlide},
-    {u"PLAY", &frmSlideShowProjector::PlayPause},
-    {u"PREVIOUS", &frmSlideShowProjector::PreviousSlide},
-    {u"STOP", &frmSlideShowProjector::StopRestart},
-    {u"PREFERENCES", &frmSlideShowProjector::EditPreferences},
+    {u"GOTOEND", ShowCommand::Last},      {u"GOTOSTART", ShowCommand::First},
+    {u"NEXT", ShowCommand::Next},         {u"PLAY", ShowCommand::PlayPause},
+    {u"PREVIOUS", ShowCommand::Previous}, {u"STOP", ShowCommand::StopRestart},
 };
 
 // The normal pointer comes back however the scope is left.
@@ -65,10 +44,11 @@ struct HourglassUntilEnd {
 
 frmSlideShowProjector::frmSlideShowProjector(ShowWorld World)
     : mUi(std::make_unique<Ui::frmSlideShowProjector>()),
-      mRun(*this, std::move(World)),
+      mRun(*this, World),
       Timer1(new QTimer(this)),
       Timer2(new QTimer(this)) {
     mUi->setupUi(this);
+    mHands = std::make_unique<ShowHands>(*this, mRun, World.Engine);
     Timer1->setObjectName(QStringLiteral("Timer1"));
     Timer1->setInterval(100);
     Timer1->setTimerType(Qt::PreciseTimer);
@@ -77,28 +57,35 @@ frmSlideShowProjector::frmSlideShowProjector(ShowWorld World)
     connect(Timer1, &QTimer::timeout, this, &frmSlideShowProjector::Timer1_Timer);
     connect(Timer2, &QTimer::timeout, this, &frmSlideShowProjector::Timer2_Timer);
     PrepareControls();
+    ConnectHands();
 }
 
 frmSlideShowProjector::~frmSlideShowProjector() = default;
 
-// The pointer is hidden by the window alone: menus and boxes over it have their own, and it is
-// back by itself when the window goes.
 void frmSlideShowProjector::PrepareControls() {
     QPalette Dark;
     Dark.setColor(QPalette::Window, Qt::black);
     Dark.setColor(QPalette::WindowText, Qt::white);
     setPalette(Dark);
     setAutoFillBackground(true);
-    setCursor(Qt::BlankCursor);
     mUi->Show1->setAttribute(Qt::WA_NoMousePropagation);
     mUi->lblCaption->setAttribute(Qt::WA_NoMousePropagation);
     connect(mUi->Show1, &XShow::EffectEnded, mUi->Show1, &XShow::StopEffect);
     connect(mUi->Show1, &XShow::PictureCame, this, &frmSlideShowProjector::PictureCame);
     connect(mUi->Show1, &XShow::PictureFailed, this, [this] { mRun.PictureFailed(); });
     connect(mUi->Show1, &XShow::PictureLate, this, [this] { mRun.PictureLate(); });
-    connect(mUi->Show1, &XShow::SurfaceClick, this, &frmSlideShowProjector::SurfaceClick);
     connect(mUi->Show1, &XShow::SurfaceMouseDown, this,
             [this](int Button) { SurfaceMouseDown(Button); });
+}
+
+void frmSlideShowProjector::ConnectHands() {
+    connect(mUi->Show1, &XShow::SurfaceClick, mHands.get(), &ShowHands::Click);
+    connect(mUi->lblCaption, &CaptionLabel::RightPressed, this,
+            [this] { SurfaceMouseDown(RightButton); });
+    connect(mHands.get(), &ShowHands::LeaveAsked, this, &frmSlideShowProjector::Leave);
+    connect(mHands.get(), &ShowHands::CaptionsAsked, this, &frmSlideShowProjector::SwitchCaptions);
+    connect(mHands.get(), &ShowHands::MenuAsked, this,
+            [this](const QPoint& At) { ShowPopupMenu(mapToGlobal(At)); });
 }
 
 void frmSlideShowProjector::LoadSlideShow(std::int32_t SlideShowID) {
@@ -162,13 +149,19 @@ void frmSlideShowProjector::resizeEvent(QResizeEvent* Event) {
     ResizeControls();
 }
 
+void frmSlideShowProjector::showEvent(QShowEvent* Event) {
+    Form::showEvent(Event);
+    mHands->Attach();
+}
+
 // The caption gets the lines that it needs, up to a third of the window; the picture the rest.
 void frmSlideShowProjector::ResizeControls() {
     if (isMinimized()) return;
     mUi->Show1->SetShowOptionA(true);
     mUi->Show1->SetShowOptionB(true);
     mUi->Show1->SetShowOptionC(true);
-    const int LabelHeight = mUi->lblCaption->FitTo(width(), height(), height() / 3);
+    const int Fitting = mUi->lblCaption->FitTo(width(), height(), height() / 3);
+    const int LabelHeight = mUi->lblCaption->isHidden() ? 0 : Fitting;
     int PictureHeight = mUi->Show1->height();
     int LabelTop = mUi->lblCaption->y();
     if (ToTwips(LabelHeight) + LeastPictureTwips < ToTwips(height()))
@@ -179,28 +172,29 @@ void frmSlideShowProjector::ResizeControls() {
 }
 
 void frmSlideShowProjector::keyPressEvent(QKeyEvent* Event) {
-    if (Event->key() == Qt::Key_Escape) {
-        if (mRun.Timer1On()) mUi->Show1->StopEffect();
-        Unload();
-        return;
-    }
-    const auto* Found = std::find_if(std::begin(Keys), std::end(Keys), [&](const KeyCommand& Row) {
-        return Row.Key == Event->key();
-    });
-    if (Found == std::end(Keys)) return;
-    if (!Found->AutomaticOnly || !mRun.IsManual()) (this->*Found->Run)();
+    mHands->Press(*Event);
+}
+
+void frmSlideShowProjector::Leave() {
+    if (mRun.Timer1On()) mUi->Show1->StopEffect();
+    Unload();
+}
+
+void frmSlideShowProjector::SwitchCaptions() {
+    mUi->lblCaption->setVisible(mUi->lblCaption->isHidden());
+    ResizeControls();
+}
+
+void frmSlideShowProjector::mousePressEvent(QMouseEvent* Event) {
+    if (Event->button() == Qt::RightButton) SurfaceMouseDown(RightButton);
 }
 
 void frmSlideShowProjector::mouseReleaseEvent(QMouseEvent* Event) {
-    if (Event->button() == Qt::LeftButton) SurfaceClick();
-}
-
-void frmSlideShowProjector::SurfaceClick() {
-    if (mRun.IsManual()) NextSlide();
+    if (Event->button() == Qt::LeftButton) mHands->Click();
 }
 
 void frmSlideShowProjector::SurfaceMouseDown(int Button) {
-    if (Button & RightButton) ShowPopupMenu();
+    if (Button & RightButton) ShowPopupMenu(QCursor::pos());
 }
 
 void frmSlideShowProjector::StopMe() {
@@ -213,12 +207,12 @@ void frmSlideShowProjector::ReStartMe() {
     mRun.ReStartMe();
 }
 
-void frmSlideShowProjector::ShowPopupMenu() {
+void frmSlideShowProjector::ShowPopupMenu(const QPoint& GlobalPlace) {
     const auto Held = shared_from_this();
     auto Popup = NewForm<frmPopup>();
     Popup->SetEntries(State(), mRun.IsManual(), mRun.Memory().CurrentSlideSeq != 0);
     if (ReadOnlyDB) Popup->mnuPreferences->setEnabled(false);
-    Popup->PopupMenu(QCursor::pos());
+    Popup->PopupMenu(GlobalPlace);
     const QString Word = Popup->SelectedCommand().toUpper();
     Popup.reset();
     if (IsLoaded()) RunCommand(Word);
@@ -226,8 +220,9 @@ void frmSlideShowProjector::ShowPopupMenu() {
 
 void frmSlideShowProjector::RunCommand(const QString& Word) {
     if (Word == u"EXIT") Unload();
+    if (Word == u"PREFERENCES") EditPreferences();
     for (const MenuCommand& Row : MenuCommands)
-        if (Word == Row.Word) return (this->*Row.Run)();
+        if (Word == Row.Word) return mHands->Do(Row.Command);
 }
 
 void frmSlideShowProjector::EditPreferences() {
@@ -236,6 +231,7 @@ void frmSlideShowProjector::EditPreferences() {
 
 void frmSlideShowProjector::ShowCaption(const QString& Text) {
     mUi->lblCaption->setText(Text);
+    mHands->FollowShow();
 }
 
 bool frmSlideShowProjector::ShowPicture(const QString& Path, const EffectChoice& Choice) {
@@ -265,6 +261,7 @@ void frmSlideShowProjector::Prefetch(const QString& Path) {
 
 void frmSlideShowProjector::SetTimer1(bool On) {
     On&& IsLoaded() ? Timer1->start() : Timer1->stop();
+    mHands->FollowShow();
 }
 
 void frmSlideShowProjector::SetTimer2(bool On) {
@@ -272,6 +269,7 @@ void frmSlideShowProjector::SetTimer2(bool On) {
 }
 
 void frmSlideShowProjector::Tell(const QString& Message) {
+    mHands->Note(Message);
     ResizeControls();
     TellOnce(Message);
 }

@@ -1,6 +1,6 @@
-// The full-screen window that runs one slide show: pictures with their transitions, captions, keys
-// and the right-click menu. What comes up when is ShowRun's. Opened through RunSlideShow of
-// modSlideShows.
+// The full-screen window that runs one slide show: pictures with their transitions, captions and
+// the right-click menu. What comes up when is ShowRun's, what keys, mouse and fingers do
+// ShowHands'. Opened through RunSlideShow of modSlideShows.
 #pragma once
 
 #include <exception>
@@ -8,6 +8,7 @@
 
 #include "controls/forms/Form.h"
 #include "show/ShowRun.h"
+#include "windows/handling/ShowKeys.h"
 #include "windows/show/BlankingHold.h"
 
 namespace neb {
@@ -15,6 +16,8 @@ namespace neb {
 namespace Ui {
 class frmSlideShowProjector;
 }
+
+class ShowHands;
 
 class frmSlideShowProjector : public Form, private ShowStage {
     Q_OBJECT
@@ -43,7 +46,8 @@ class frmSlideShowProjector : public Form, private ShowStage {
     void GotoStart() { mRun.GotoStart(); }
     void GotoEnd() { mRun.GotoEnd(); }
     void GotoSlide(std::int32_t SlideSeq) { mRun.GotoSlide(SlideSeq); }
-    void ShowPopupMenu();
+    // At this place of the screen.
+    void ShowPopupMenu(const QPoint& GlobalPlace);
     void EditPreferences();
     // The ticks: every 100 ms the clock of the slides, every 1000 ms the loop of the sound.
     void Timer1_Timer() { mRun.Timer1_Timer(); }
@@ -61,7 +65,9 @@ class frmSlideShowProjector : public Form, private ShowStage {
     void Form_Activate() override;
     bool Form_Unload() override;
     void resizeEvent(QResizeEvent* Event) override;
+    void showEvent(QShowEvent* Event) override;
     void keyPressEvent(QKeyEvent* Event) override;
+    void mousePressEvent(QMouseEvent* Event) override;
     void mouseReleaseEvent(QMouseEvent* Event) override;
 
   private:
@@ -77,7 +83,9 @@ class frmSlideShowProjector : public Form, private ShowStage {
     void TellFrames();
     void FillScreen();
     void ResizeControls();
-    void SurfaceClick();
+    void ConnectHands();
+    void Leave();
+    void SwitchCaptions();
     void SurfaceMouseDown(int Button);
     void RunCommand(const QString& Word);
     void SaveNextSlideSeq();
@@ -85,6 +93,7 @@ class frmSlideShowProjector : public Form, private ShowStage {
     std::unique_ptr<Ui::frmSlideShowProjector> mUi;
     std::optional<BlankingHold> mScreenStaysOn;
     ShowRun mRun;
+    std::unique_ptr<ShowHands> mHands;
     QString mAlbumName;
     QTimer* Timer1;
     QTimer* Timer2;

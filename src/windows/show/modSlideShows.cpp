@@ -1,10 +1,23 @@
 #include "windows/show/modSlideShows.h"
 
+#include <algorithm>
+
 #include "support/Fault.h"
 #include "windows/show/frmPreferences.h"
 #include "windows/show/frmSlideShowProjector.h"
 
 namespace neb {
+namespace {
+
+// From the moment that it begins to load.
+bool IsShowUp() {
+    const auto Loaded = LoadedForms();
+    return std::any_of(Loaded.begin(), Loaded.end(), [](const auto& Window) {
+        return dynamic_cast<const frmSlideShowProjector*>(Window.get());
+    });
+}
+
+}  // namespace
 
 void RunSlideShow(std::int32_t AlbumID, const QString& AlbumName, std::int32_t SlideShowID,
                   std::int32_t BeginAt) {
@@ -13,6 +26,7 @@ void RunSlideShow(std::int32_t AlbumID, const QString& AlbumName, std::int32_t S
 
 void RunSlideShowIn(const ShowWorld& World, std::int32_t AlbumID, const QString& AlbumName,
                     std::int32_t SlideShowID, std::int32_t BeginAt) {
+    if (IsShowUp()) return;
     const auto Projector = NewForm<frmSlideShowProjector>(World);
     Projector->SetAlbumID(AlbumID);
     Projector->SetAlbumName(AlbumName);

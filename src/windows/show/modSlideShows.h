@@ -11,7 +11,8 @@ namespace neb {
 struct ShowWorld;
 
 // Runs a show on the full screen; returns when the user has left it. Faults are ignored. BeginAt:
-// the slide to begin with, from 1; 0: where the show was left, or its first.
+// the slide to begin with, from 1; 0: where the show was left, or its first. Nothing while another
+// show is up: a command given twice, on a machine that takes its time, is meant once.
 void RunSlideShow(std::int32_t AlbumID, const QString& AlbumName, std::int32_t SlideShowID,
                   std::int32_t BeginAt = 0);
 // The same in another world than the desktop's.

@@ -1,0 +1,68 @@
+#include "show/ShowCaptions.h"
+
+#include <QStringList>
+#include <algorithm>
+
+#include "db/clsDBEngine.h"
+#include "show/CaptionText.h"
+
+namespace neb {
+namespace {
+
+// Letters alone, without case and accents.
+QString Bare(const QString& Text) {
+    QString Letters = Text.normalized(QString::NormalizationForm_KD).toCaseFolded();
+    Letters.removeIf([](QChar C) { return C.isMark(); });
+    return Letters;
+}
+
+bool HoldsAll(const QString& Caption, const QStringList& Words) {
+    const QString Letters = Bare(Caption);
+    return std::ranges::all_of(Words, [&](const QString& Word) { return Letters.contains(Word); });
+}
+
+}  // namespace
+
+ShowCaptions::ShowCaptions(const clsDBEngine* Engine, std::int32_t AlbumID,
+                           std::int32_t SlideShowID) {
+    mAlbum = Engine ? Engine->GetAlbum(AlbumID) : nullptr;
+    mSlideShow = mAlbum ? mAlbum->GetSlideShow(SlideShowID) : nullptr;
+}
+
+std::int32_t ShowCaptions::Count() const {
+    return mSlideShow ? static_cast<std::int32_t>(mSlideShow->Details.size()) : 0;
+}
+
+QString ShowCaptions::Of(const clsNEBSlideShowDetail& Detail) const {
+    QString Text = FixCaptionText(Detail.SlideText);
+    const auto* Slide = Text.isEmpty() ? mAlbum->GetSlide(Detail.SlideID) : nullptr;
+    if (Slide) Text = FixCaptionText(Slide->SlideText);
+    return ShownCaptionText(Text);
+}
+
+QString ShowCaptions::At(std::int32_t SlideSeq) const {
+    const auto* Detail = mSlideShow ? mSlideShow->GetDetail(SlideSeq) : nullptr;
+    return Detail ? Of(*Detail) : QString();
+}
+
+// How many steps on from the present slide.
+std::int32_t ShowCaptions::WayTo(std::int32_t SlideSeq, std::int32_t Present) const {
+    const std::int32_t Way = (SlideSeq - Present) % Count();
+    return Way > 0 ? Way : Way + Count();
+}
+
+std::int32_t ShowCaptions::Find(const QString& Wanted, std::int32_t Present) const {
+    const std::int32_t Number = Wanted.toInt();
+    if (Number >= 1 && Number <= Count()) return Number;
+    const QStringList Words = Bare(Wanted).split(u' ', Qt::SkipEmptyParts);
+    if (Words.isEmpty() || Count() == 0) return 0;
+    std::int32_t Found = 0;
+    for (const auto& Detail : mSlideShow->Details) {
+        const std::int32_t Seq = Detail->SlideSeq;
+        const bool IsNearer = Found == 0 || WayTo(Seq, Present) < WayTo(Found, Present);
+        if (IsNearer && HoldsAll(Of(*Detail), Words)) Found = Seq;
+    }
+    return Found;
+}
+
+}  // namespace neb

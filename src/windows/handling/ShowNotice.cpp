@@ -1,0 +1,26 @@
+#include "windows/handling/ShowNotice.h"
+
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace neb {
+
+ShowNotice::ShowNotice(QWidget& Window) : ShowPanel(Window), mWords(new QLabel(this)) {
+    setObjectName(QStringLiteral("ShowNotice"));
+    auto* Column = new QVBoxLayout(this);
+    auto* Leaving = new QLabel(tr("Press Esc to leave, F1 for the keys."), this);
+    Column->addWidget(mWords);
+    Column->addWidget(Leaving);
+    for (QLabel* Line : {mWords, Leaving}) {
+        Line->setAlignment(Qt::AlignCenter);
+        Line->setTextFormat(Qt::PlainText);
+    }
+}
+
+void ShowNotice::Say(const QString& Words) {
+    mWords->setText(Words);
+    setAccessibleName(Words);
+    Open();
+}
+
+}  // namespace neb

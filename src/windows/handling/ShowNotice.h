@@ -1,0 +1,23 @@
+// What a show that has nothing to show says in the middle of its black screen. Used by ShowHands.
+#pragma once
+
+#include "windows/handling/ShowPanel.h"
+
+class QLabel;
+
+namespace neb {
+
+class ShowNotice : public ShowPanel {
+    Q_OBJECT
+
+  public:
+    explicit ShowNotice(QWidget& Window);
+
+    // What is wrong; how the show is left stands below it.
+    void Say(const QString& Words);
+
+  private:
+    QLabel* mWords;
+};
+
+}  // namespace neb
