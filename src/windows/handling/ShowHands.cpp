@@ -64,7 +64,7 @@ ShowHands::ShowHands(QWidget& Window, ShowRun& Run, const clsDBEngine* Engine)
       mUnderCard(Run),
       mBlack(BlackSheet(Window)),
       mLine(new TimeLine(Window, Run, [this] { return Captions(); })),
-      mNotice(new ShowNotice(Window)),
+      mNotice(new WordsOfFailure(Window)),
       mCard(new KeyCard(Window)),
       mField(new GotoField(Window, [this] { return Captions(); })) {
     mFollow.setSingleShot(true);

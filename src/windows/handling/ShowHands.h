@@ -8,10 +8,10 @@
 #include "windows/handling/GotoField.h"
 #include "windows/handling/KeyCard.h"
 #include "windows/handling/RestingPointer.h"
-#include "windows/handling/ShowNotice.h"
 #include "windows/handling/ShowWait.h"
 #include "windows/handling/TimeLine.h"
 #include "windows/handling/TouchGestures.h"
+#include "windows/handling/WordsOfFailure.h"
 
 namespace neb {
 
@@ -73,7 +73,7 @@ class ShowHands : public QObject {
     // Children of the window, the upper ones last.
     QWidget* mBlack;
     TimeLine* mLine;
-    ShowNotice* mNotice;
+    WordsOfFailure* mNotice;
     KeyCard* mCard;
     GotoField* mField;
 };

@@ -13,9 +13,9 @@ class AFailedStart : public HandsRig {
   protected:
     std::string Notice() {
         Spin(10);
-        if (!IsUp("ShowNotice")) return {};
+        if (!IsUp("WordsOfFailure")) return {};
         QStringList Lines;
-        for (const QLabel* Line : Part("ShowNotice")->findChildren<QLabel*>())
+        for (const QLabel* Line : Part("WordsOfFailure")->findChildren<QLabel*>())
             Lines << Line->text();
         return Lines.join(u'|').toStdString();
     }
@@ -28,12 +28,12 @@ TEST_F(AFailedStart, SaysWhatIsWrongAndHowToLeave) {
             "Slide #1 of the current slide show does not exist!|"
             "Press Esc to leave, F1 for the keys.",
             Notice());
-        EXPECT_TRUE(Shown.rect().contains(Part("ShowNotice")->geometry()));
+        EXPECT_TRUE(Shown.rect().contains(Part("WordsOfFailure")->geometry()));
         EXPECT_EQ(Qt::ArrowCursor, Shown.cursor().shape());
         Press(Qt::Key_F1);
         EXPECT_TRUE(IsUp("KeyCard"));
         Press(Qt::Key_Escape);
-        EXPECT_TRUE(IsUp("ShowNotice"));
+        EXPECT_TRUE(IsUp("WordsOfFailure"));
         Press(Qt::Key_Escape);
         EXPECT_FALSE(Shown.IsLoaded());
     });

@@ -1,12 +1,12 @@
-#include "windows/handling/ShowNotice.h"
+#include "windows/handling/WordsOfFailure.h"
 
 #include <QLabel>
 #include <QVBoxLayout>
 
 namespace neb {
 
-ShowNotice::ShowNotice(QWidget& Window) : ShowPanel(Window), mWords(new QLabel(this)) {
-    setObjectName(QStringLiteral("ShowNotice"));
+WordsOfFailure::WordsOfFailure(QWidget& Window) : ShowPanel(Window), mWords(new QLabel(this)) {
+    setObjectName(QStringLiteral("WordsOfFailure"));
     auto* Column = new QVBoxLayout(this);
     auto* Leaving = new QLabel(tr("Press Esc to leave, F1 for the keys."), this);
     Column->addWidget(mWords);
@@ -17,7 +17,7 @@ ShowNotice::ShowNotice(QWidget& Window) : ShowPanel(Window), mWords(new QLabel(t
     }
 }
 
-void ShowNotice::Say(const QString& Words) {
+void WordsOfFailure::Say(const QString& Words) {
     mWords->setText(Words);
     setAccessibleName(Words);
     Open();

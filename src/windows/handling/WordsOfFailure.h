@@ -7,11 +7,11 @@ class QLabel;
 
 namespace neb {
 
-class ShowNotice : public ShowPanel {
+class WordsOfFailure : public ShowPanel {
     Q_OBJECT
 
   public:
-    explicit ShowNotice(QWidget& Window);
+    explicit WordsOfFailure(QWidget& Window);
 
     // What is wrong; how the show is left stands below it.
     void Say(const QString& Words);
