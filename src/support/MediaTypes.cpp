@@ -79,7 +79,11 @@ QString PictureFilters() {
 }
 
 QString SoundFilters() {
-    return FiltersOf(Sounds).join(u'|');
+    QStringList All;
+    for (const MediaType& Type : Sounds) All << Type.Endings();
+    const QString Masks = MasksOf(All);
+    const QString First = QStringLiteral("All Sound Files (%1)|%1").arg(Masks);
+    return (QStringList(First) + FiltersOf(Sounds)).join(u'|');
 }
 
 }  // namespace neb

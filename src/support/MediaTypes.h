@@ -24,7 +24,7 @@ bool IsPictureName(const QString& Name);
 bool IsSoundName(const QString& Name);
 
 // For a file dialog, as "Name (*.a;*.b)|*.a;*.b|..."; that of pictures ends with all of them at
-// once.
+// once, that of sounds begins with them.
 QString PictureFilters();
 QString SoundFilters();
 

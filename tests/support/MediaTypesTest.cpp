@@ -11,7 +11,8 @@ TEST(MediaTypes, CountThesePicturesAndNoOthers) {
               PictureExtensions().join(u' ').toStdString());
     for (const QString& Each : PictureExtensions()) {
         EXPECT_TRUE(IsPictureName(QStringLiteral("a") + Each)) << Each.toStdString();
-        EXPECT_TRUE(IsPictureName(QStringLiteral("C:\\b.c\\a") + Each.toLower())) << Each.toStdString();
+        EXPECT_TRUE(IsPictureName(QStringLiteral("C:\\b.c\\a") + Each.toLower()))
+            << Each.toStdString();
         EXPECT_FALSE(IsPictureName(QStringLiteral("a") + Each + u'x')) << Each.toStdString();
     }
     for (const char* Other : {"", "jpg", "a.jpg.bak", "a.gif", "a.wav", "a.jpg "})
@@ -37,9 +38,11 @@ TEST(MediaTypes, ThePictureDialogOffersEachKindAndThenAllAtOnce) {
         PictureFilters().toStdString());
 }
 
-TEST(MediaTypes, TheSoundDialogOffersWaveAndMp3) {
-    EXPECT_EQ("Wave Audio Files (*.wav)|*.wav|MP3 Audio Files (*.mp3)|*.mp3",
-              SoundFilters().toStdString());
+TEST(MediaTypes, TheSoundDialogOffersAllSoundsFirst) {
+    EXPECT_EQ(
+        "All Sound Files (*.wav;*.mp3)|*.wav;*.mp3|"
+        "Wave Audio Files (*.wav)|*.wav|MP3 Audio Files (*.mp3)|*.mp3",
+        SoundFilters().toStdString());
     for (const char* Sound : {"a.wav", "b.MP3", "/x.y/c.Wav"})
         EXPECT_TRUE(IsSoundName(QString::fromLatin1(Sound))) << Sound;
     for (const char* Other : {"a.ogg", "wav", "a.wav.jpg", "/x.wav/c", ""})
