@@ -52,7 +52,9 @@ TEST(TablePages, StayWithinTheSheetAndKeepRowsApart) {
             if (Each.Text == u"Lake"_s && Each.Place.top() > 1) Foot = Each.Place.top();
         }
         for (const PlacedText& Each : Document.TextsOn(Page))
-            if (Each.Text.startsWith(u"Caption "_s)) EXPECT_LE(Each.Place.bottom(), Foot);
+            if (Each.Text.startsWith(u"Caption "_s)) {
+                EXPECT_LE(Each.Place.bottom(), Foot);
+            }
     }
 }
 

@@ -1,7 +1,5 @@
 #include "sound/decoding/SongTags.h"
 
-#include <QStringDecoder>
-
 #include "sound/decoding/SoundDecoderSource.h"
 #include "support/Fault.h"
 
@@ -21,10 +19,8 @@ QString SongTitle(const SongTags& Tags) {
 }
 
 QString TagText(const QByteArray& Bytes) {
-    QStringDecoder Decoder(QStringDecoder::Utf8);
-    QString Text = Decoder(Bytes);
-    if (Decoder.hasError()) Text = QString::fromLatin1(Bytes);
-    Text.remove(QChar::ReplacementCharacter);
+    QString Text = QString::fromUtf8(Bytes);
+    if (Text.contains(QChar::ReplacementCharacter)) Text = QString::fromLatin1(Bytes);
     for (QChar& Each : Text)
         if (Each.category() == QChar::Other_Control) Each = u' ';
     return Text.simplified();

@@ -39,8 +39,7 @@ using Handle = std::unique_ptr<mpg123_handle, decltype(&mpg123_delete)>;
 // Of the older kind, a field of fixed length.
 template <size_t Length>
 QString FieldText(const char (&Field)[Length]) {
-    const QByteArray Bytes(Field, Length);
-    return TagText(Bytes.left(Bytes.indexOf('\0')));
+    return TagText(QByteArray(Field, static_cast<qsizetype>(qstrnlen(Field, Length))));
 }
 
 QString NewerText(const mpg123_string* Text) {
