@@ -2,6 +2,7 @@
 
 #include "albums/modImport.h"
 #include "db/AlbumSums.h"
+#include "db/SongNames.h"
 #include "db/modAlbumFiles.h"
 #include "support/files/modHostFiles.h"
 #include "support/work/Job.h"
@@ -28,8 +29,10 @@ void DeleteAlbumFiles(const QString& DBPath, std::int32_t AlbumID, const Yield& 
             DeleteFilesIn(Folder, LetRun);
             DropFolder(Folder, LetRun);
         }
-        DropFile(AlbumSumsPath(Album));
-        DropFile(AlbumSumsPath(Album) + QStringLiteral(".new"));
+        for (const QString& List : {AlbumSumsPath(Album), SongNamesPath(Album)}) {
+            DropFile(List);
+            DropFile(List + QStringLiteral(".new"));
+        }
     }
     DeleteFolder(Album);
 }

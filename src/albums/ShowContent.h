@@ -25,7 +25,7 @@ struct ShowTrack {
     // A name in the album's SoundTracks folder, or the full path of a new file; no blanks around.
     QString SoundTrackLoc;
 
-    // A row with both places and a file; any other is passed over.
+    // A row with both places and a file. Of any other but an empty one a save tells.
     bool IsFilled() const;
     // Its file lies outside, or was chosen by its path, and is still to be copied into the album.
     bool IsNewFile() const;

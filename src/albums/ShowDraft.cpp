@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <unordered_set>
 
+#include "albums/TrackRanges.h"
+
 namespace neb {
 namespace {
 
@@ -31,9 +33,12 @@ bool ShowDraft::IsChanged() const {
 
 void ShowDraft::DropSlides(const std::vector<std::int32_t>& SlideIDs) {
     const std::unordered_set<std::int32_t> Gone(SlideIDs.begin(), SlideIDs.end());
-    for (ShowContent* Each : {&mContent, &mAsStored})
+    for (ShowContent* Each : {&mContent, &mAsStored}) {
+        const SlideOrder Before = OrderOf(Each->Slides);
         std::erase_if(Each->Slides,
                       [&Gone](const ShowSlide& Slide) { return Gone.contains(Slide.SlideID); });
+        Each->Tracks = TracksFollowing(Each->Tracks, Before, OrderOf(Each->Slides));
+    }
 }
 
 }  // namespace neb

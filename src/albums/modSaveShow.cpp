@@ -2,10 +2,13 @@
 
 #include "albums/TrackPlan.h"
 #include "db/NamedSounds.h"
+#include "db/SongNames.h"
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
 #include "support/Fault.h"
+#include "support/files/modHostFiles.h"
 #include "support/modDEValidation.h"
+#include "support/modFUFL.h"
 #include "support/modNumbers.h"
 
 namespace neb {
@@ -37,22 +40,35 @@ Answer<> CheckSequence(const ShowTrack& Track, size_t SlideCount) {
     return Done();
 }
 
-Answer<> CheckOptions(const ShowTrack& Track, std::int32_t ProgressionMethod) {
-    if (ProgressionMethod != 1) return Done();
-    if (Track.FitToSong)
-        return Refuse(QStringLiteral("You cannot select both Fit To Song and Manual Progression."),
-                      BadOptions);
-    if (Track.Fade)
-        return Refuse(QStringLiteral("You cannot select both Fade and Manual Progression."),
-                      BadOptions);
-    return Done();
+// What is missing, as a user calls it; empty for a whole row and for an empty one.
+QString MissingIn(const ShowTrack& Track) {
+    if (Track == ShowTrack()) return {};
+    QStringList Missing;
+    if (!Track.SlideSeqStart) Missing << QStringLiteral("a first slide");
+    if (!Track.SlideSeqEnd) Missing << QStringLiteral("a last slide");
+    if (Track.SoundTrackLoc.isEmpty()) Missing << QStringLiteral("a sound file");
+    if (Missing.size() < 2) return Missing.join(QString());
+    const QString Last = Missing.takeLast();
+    return Missing.join(QStringLiteral(", ")) + QStringLiteral(" and ") + Last;
+}
+
+Answer<> CheckWhole(const ShowTrack& Track, size_t Number) {
+    const QString Missing = MissingIn(Track);
+    if (Missing.isEmpty()) return Done();
+    return Refuse(QStringLiteral("Sound track %1 lacks %2. Complete its row, or empty it with the "
+                                 "Del key.")
+                      .arg(QString::number(Number), Missing),
+                  QStringLiteral("Incomplete Sound Track"));
 }
 
 Answer<> CheckTracks(const ShowContent& Content) {
     for (auto Track = Content.Tracks.begin(); Track != Content.Tracks.end(); ++Track) {
+        const auto Number = static_cast<size_t>(Track - Content.Tracks.begin()) + 1;
+        if (const Answer<> Is = CheckWhole(*Track, Number); !Is) return Is;
         if (!Track->IsFilled()) continue;
         if (const Answer<> Is = CheckSequence(*Track, Content.Slides.size()); !Is) return Is;
-        if (const Answer<> Is = CheckOptions(*Track, Content.ProgressionMethod); !Is) return Is;
+        if (const Answer<> Is = CheckTrackOptions(*Track, Content.ProgressionMethod); !Is)
+            return Is;
         for (auto Later = Track + 1; Later != Content.Tracks.end(); ++Later)
             if (Later->IsFilled() && Overlap(*Track, *Later))
                 return Refuse(QStringLiteral("A slide cannot use more than 1 sound track."),
@@ -120,6 +136,20 @@ TrackPlan PlanFor(const ShowContent& Content, std::int32_t SlideShowID, const cl
                       SoundsNamedBesides(theDB, Content.AlbumID, Content.SlideShowID));
 }
 
+// A copy of a sound that the album has already is called as that one is.
+void NoteNames(const TrackPlan& Plan, const QString& Album) {
+    const SongNames Before = SongNames::Of(Album);
+    std::vector<NamedSong> Came;
+    for (const TrackPlan::Copy& Each : Plan.Copies) {
+        const qint64 Bytes = FileSize(Each.To);
+        QString Name = GetFileName(Each.From);
+        if (ResolvePath(GetFilePath(Each.From)) == ResolvePath(Plan.Folder))
+            Name = Before.NameOf(Name, Bytes);
+        if (!Name.isEmpty()) Came.push_back({GetFileName(Each.To), Bytes, Name});
+    }
+    KeepSongNames(Album, Came);
+}
+
 // From here on nothing waits: the show and its files change together.
 Answer<Announcement> Store(ShowContent& Content, std::int32_t SlideShowID, TrackCopies& Files,
                            clsDBEngine& theDB, Changes Door) {
@@ -131,6 +161,7 @@ Answer<Announcement> Store(ShowContent& Content, std::int32_t SlideShowID, Track
     Answer<Announcement> Saved = Door.SaveShow(Placed.AlbumID, Record(Placed));
     if (!Saved) return Saved;
     Files.Keep();
+    NoteNames(Files.Plan(), AlbumFolder(theDB.DBPath(), Placed.AlbumID));
     Content = std::move(Placed);
     Content.SlideShowID = Saved->What().SlideShowID;
     if (theDB.IsSessionStored()) Files.DropUnused();
@@ -138,6 +169,17 @@ Answer<Announcement> Store(ShowContent& Content, std::int32_t SlideShowID, Track
 }
 
 }  // namespace
+
+Answer<> CheckTrackOptions(const ShowTrack& Track, std::int32_t ProgressionMethod) {
+    if (ProgressionMethod != 1) return Done();
+    if (Track.FitToSong)
+        return Refuse(QStringLiteral("You cannot select both Fit To Song and Manual Progression."),
+                      BadOptions);
+    if (Track.Fade)
+        return Refuse(QStringLiteral("You cannot select both Fade and Manual Progression."),
+                      BadOptions);
+    return Done();
+}
 
 Answer<> CheckShow(ShowContent& Content, const clsDBEngine& theDB) {
     if (Content.AlbumID == 0)

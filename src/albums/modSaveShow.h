@@ -10,6 +10,9 @@ namespace neb {
 
 class clsDBEngine;
 
+// Whether a track may have these flags in an automatic (0) or a manual show (1).
+Answer<> CheckTrackOptions(const ShowTrack& Track, std::int32_t ProgressionMethod);
+
 // Refuses with the first thing that keeps a show from being saved. Cleans the quotes of Name, also
 // where a later rule refuses. Changes nothing else.
 Answer<> CheckShow(ShowContent& Content, const clsDBEngine& theDB);

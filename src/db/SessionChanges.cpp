@@ -3,6 +3,7 @@
 #include <QtEndian>
 
 #include "db/AlbumSums.h"
+#include "db/SongNames.h"
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
 #include "db/modLoadRecords.h"
@@ -104,6 +105,7 @@ void DeleteAlbumFolder(const QString& DBPath, std::int32_t AlbumID) {
         DeleteFolder(Part);
     }
     DeleteFile(AlbumSumsPath(Folder));
+    DeleteFile(SongNamesPath(Folder));
     DeleteFolder(Folder);
 }
 

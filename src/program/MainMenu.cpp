@@ -26,6 +26,7 @@
 #include "windows/import/frmNewAlbumWzd1.h"
 #include "windows/printing/frmPrintAlbum.h"
 #include "windows/printing/frmPrintSlideShow.h"
+#include "windows/rehearsal/modRehearsals.h"
 #include "windows/show/modSlideShows.h"
 #include "windows/slides/frmSlideDBM.h"
 #include "windows/slides/frmSlideMgrBulk.h"
@@ -37,15 +38,24 @@
 namespace neb {
 namespace {
 
+// Where none has been chosen the user is asked to; SlideShowID 0: he did not.
+ActiveShow ChosenActiveShow() {
+    const ActiveShow Active = ReadActiveShow(OpenSettings());
+    if (Active.SlideShowID != 0) return Active;
+    MsgBox(QStringLiteral("You must first select an Active Slide Show in Preferences!"),
+           QStringLiteral("No Active Slide Show"), BoxIcon::Information);
+    EditSlideShowPreferences();
+    return ReadActiveShow(OpenSettings());
+}
+
+void RehearseActiveShow() {
+    const ActiveShow Active = ChosenActiveShow();
+    if (Active.SlideShowID != 0) ShowRehearsal(Active.AlbumID, Active.SlideShowID);
+}
+
 void PlayActiveShow() {
-    ActiveShow Active = ReadActiveShow(OpenSettings());
-    if (Active.SlideShowID == 0) {
-        MsgBox(QStringLiteral("You must first select an Active Slide Show in Preferences!"),
-               QStringLiteral("No Active Slide Show"), BoxIcon::Information);
-        EditSlideShowPreferences();
-        Active = ReadActiveShow(OpenSettings());
-        if (Active.SlideShowID == 0) return;
-    }
+    ActiveShow Active = ChosenActiveShow();
+    if (Active.SlideShowID == 0) return;
     QString AlbumName;
     if (Active.AlbumID > 0 && !DBEngine->LoadAlbum(Active.AlbumID, AlbumName)) return;
     RunSlideShow(Active.AlbumID, AlbumName, Active.SlideShowID);
@@ -124,6 +134,9 @@ constexpr Entry Entries[] = {
      "Compose slide shows", [](auto&) { TheOpeners().SlideShowMgr(0, 0); }},
     {"mnuSlideShowHdr", "mnuSlideShowViewer", "&Play Slide Show", "F5", "slide-show-play",
      "Play the active slide show", [](auto&) { PlayActiveShow(); }},
+    {"mnuSlideShowHdr", "mnuSlideShowRehearse", "Re&hearse...", "", "find-graphics",
+     "See what comes up when in the active slide show, and what is wrong with it",
+     [](auto&) { RehearseActiveShow(); }},
     {"mnuSlideShowHdr", "", "", "", "", "", nullptr},
     {"mnuSlideShowHdr", "mnuSlideShowPrefs", "P&references...", "Ctrl+R", "preferences",
      "Choose the active slide show and its effects", [](auto&) { EditSlideShowPreferences(); }},

@@ -15,6 +15,7 @@
 #include "support/Services.h"
 #include "support/files/modHostFiles.h"
 #include "windows/compose/frmSlideShowDBM.h"
+#include "windows/compose/modShowManagers.h"
 #include "windows/frame/Openers.h"
 #include "windows/frame/modNotice.h"
 #include "windows/frame/modWindowState.h"
@@ -37,6 +38,7 @@ void frmNEBSlideShow::FillOpeners() {
     TheOpeners().SlideShowMgr = [](std::int32_t AlbumID, std::int32_t SlideShowID) {
         NewForm<frmSlideShowDBM>()->LoadSlideShowMgr(AlbumID, SlideShowID);
     };
+    TheOpeners().SlideOfShow = &ShowSlideInManager;
     TheOpeners().Notice = [Bar = QPointer(statusBar())](const QString& Text) {
         if (Bar) Bar->showMessage(Text.simplified(), NoticeMs);
     };

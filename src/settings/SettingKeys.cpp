@@ -22,7 +22,7 @@ constexpr char Find[] = "Find Graphics Window";
 #define NEB_WIDE_WINDOWS "frmSlideDBM frmPicturePopup frmPrintPreview"
 constexpr char Wide[] = NEB_WIDE_WINDOWS;
 constexpr char Windows[] = NEB_WIDE_WINDOWS
-    " frmSlideShowDBM frmImportFilter frmQuickShow frmSlideMgrBulk frmAlbumView frmSlideShowView";
+    " frmSlideShowDBM frmImportFilter frmQuickShow frmSlideMgrBulk frmRehearsal frmAlbumView frmSlideShowView";
 #undef NEB_WIDE_WINDOWS
 
 constexpr double AboveZero = std::numeric_limits<double>::denorm_min();
@@ -54,6 +54,7 @@ constexpr SettingRow Table[] = {
     {S::FindWidth,       Find,                "WindowWidth",     "",            T::Twips,   None,              None,             Any, Any,       nullptr, "Find Graphics"},
     {S::FindHeight,      Find,                "WindowHeight",    "",            T::Twips,   None,              None,             Any, Any,       nullptr, "Find Graphics"},
     {S::FindColumn,      Find,                "Col*.Width",      Columns,       T::Twips,   None,              None,             Any, Any,       nullptr, "Find Graphics"},
+    {S::SoundFolder,     "Sounds",            "Folder",          "",            T::Text,    None,              None,             Any, Any,       nullptr, "the slide show manager"},
     {S::TransferDirectory, "Transfer",        "Directory*",      LastTen,       T::Text,    None,              None,             Any, Any,       nullptr, "the transfer windows"},
 };
 // clang-format on

@@ -34,6 +34,7 @@ enum class Setting {
     FindWidth,
     FindHeight,
     FindColumn,         // of a column: "0" to "3"
+    SoundFolder,        // in which a sound track was chosen last
     TransferDirectory,  // the last one first: "0" to "9"
 };
 

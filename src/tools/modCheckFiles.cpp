@@ -2,6 +2,7 @@
 
 #include <set>
 
+#include "db/SongNames.h"
 #include "db/modAlbumFiles.h"
 #include "support/files/CheckSums.h"
 #include "support/files/modHostFiles.h"
@@ -84,17 +85,17 @@ void CheckSounds(const QString& DBPath, const clsNEBAlbum& Album, const QString&
     Folder.ReportStrays();
 }
 
-// Also as it is called while it is being written.
-bool IsAlbumSums(const QString& Name) {
-    return Name == QLatin1String(SumsName) ||
-           Name == QLatin1String(SumsName) + QStringLiteral(".new");
+// The lists that an album keeps; also as one is called while it is being written.
+bool IsAlbumList(const QString& Name) {
+    const QString Whole = Name.endsWith(QStringLiteral(".new")) ? Name.chopped(4) : Name;
+    return Whole == QLatin1String(SumsName) || Whole == QLatin1String(SongNamesFile);
 }
 
 // Whatever else lies in a directory than the folders of these names.
 void ReportOthers(const QString& Path, const std::set<QString>& Known, Findings& Found) {
     for (const DirEntry& Entry : ListDir(Path)) {
         if (Entry.IsFolder && Known.contains(Entry.Name.toUpper())) continue;
-        if (!Entry.IsFolder && IsAlbumSums(Entry.Name)) continue;
+        if (!Entry.IsFolder && IsAlbumList(Entry.Name)) continue;
         Found.Add((Entry.IsFolder ? QStringLiteral("no record names the folder %1")
                                   : QStringLiteral("no record names the file %1"))
                       .arg(Path + Entry.Name));

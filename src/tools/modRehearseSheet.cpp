@@ -7,25 +7,19 @@
 #include <limits>
 
 #include "effects/EffectCatalogue.h"
+#include "show/rehearsal/CueTexts.h"
 #include "support/modFUFL.h"
 #include "tools/words/JsonWriter.h"
 
 namespace neb {
 namespace {
 
-constexpr std::pair<CueSoundKind, const char*> SoundWords[] = {
-    {CueSoundKind::Silent, "silent"},       {CueSoundKind::Starts, "starts"},
-    {CueSoundKind::Resumes, "resumes"},     {CueSoundKind::Moves, "moves"},
-    {CueSoundKind::GoesOn, "goes on"},      {CueSoundKind::Over, "over"},
-    {CueSoundKind::Unplayed, "not played"},
-};
 constexpr std::pair<RehearsalEnd, const char*> EndWords[] = {
     {RehearsalEnd::CameRound, "came round"},
     {RehearsalEnd::Stopped, "stopped"},
     {RehearsalEnd::TooLong, "too long"},
+    {RehearsalEnd::GivenUp, "given up"},
 };
-
-constexpr double Unnoticed = 0.1;  // seconds
 
 // Every value stands in its table.
 template <class Key, size_t Count>
@@ -33,19 +27,6 @@ QString WordIn(const std::pair<Key, const char*> (&Words)[Count], Key Wanted) {
     const auto* Found = std::find_if(std::begin(Words), std::end(Words),
                                      [=](const auto& Row) { return Row.first == Wanted; });
     return QLatin1String(Found->second);
-}
-
-QString SoundWord(const CueSound& Sound) {
-    return WordIn(SoundWords, Sound.Kind);
-}
-
-// "m:ss.t"
-QString TimeText(double Seconds) {
-    const qint64 Tenths = qRound64(Seconds * 10);
-    return QStringLiteral("%1:%2.%3")
-        .arg(Tenths / 600)
-        .arg(Tenths / 10 % 60, 2, 10, QLatin1Char('0'))
-        .arg(Tenths % 10);
 }
 
 QString OneLine(QString Text, qsizetype Most) {
@@ -61,23 +42,6 @@ QString TransitionText(const RehearsalCue& Cue) {
 
 QString SecondsOf(double Seconds) {
     return QString::number(Seconds, 'f', 1) + QStringLiteral(" s");
-}
-
-bool Sounds(const CueSound& Sound) {
-    return Sound.Kind != CueSoundKind::Silent && Sound.Kind != CueSoundKind::Unplayed;
-}
-
-// What becomes of the sound while the slide is up. That it ends when the slide goes is no news.
-QString Happenings(const RehearsalCue& Cue) {
-    const CueSound& Sound = Cue.Sound;
-    QString Text = SoundWord(Sound);
-    if (Sound.Loops == 1) Text += QStringLiteral(", begins anew");
-    if (Sound.Loops > 1) Text += QStringLiteral(", begins anew %1 times").arg(Sound.Loops);
-    if (Sound.EndVolume < Sound.Volume)
-        Text += QStringLiteral(", fades to %1").arg(Sound.EndVolume);
-    if (Sound.EndsAt >= 0 && Sound.EndsAt < Cue.At + Cue.Seconds - Unnoticed)
-        Text += QStringLiteral(", ends at %1").arg(TimeText(Sound.EndsAt));
-    return Text;
 }
 
 constexpr size_t Columns = 11;
@@ -105,7 +69,7 @@ Row RowOf(const RehearsalCue& Cue) {
             OneLine(GetFileName(Sound.File), NameWidth),
             Sounds(Sound) ? TimeText(Sound.Position) : QString(),
             Sounds(Sound) ? QString::number(Sound.Volume) : QString(),
-            Happenings(Cue)};
+            SoundText(Cue)};
 }
 
 Row HeadRow() {
@@ -151,24 +115,6 @@ void PrintFindings(const char* Head, const std::vector<RehearsalFinding>& Findin
     if (Findings.empty()) return;
     Out << '\n' << Head << ":\n";
     for (const RehearsalFinding& Each : Findings) PrintLine(Out, QStringLiteral("  ") + Each.Text);
-}
-
-QString Counted(size_t Count, const char* Thing) {
-    return QStringLiteral("%1 %2%3").arg(Count == 0 ? QStringLiteral("no") : QString::number(Count),
-                                         QLatin1String(Thing),
-                                         Count == 1 ? QString() : QStringLiteral("s"));
-}
-
-QString Summary(const CueSheet& Sheet) {
-    QString Text =
-        QStringLiteral("%1, running time %2, %3")
-            .arg(Counted(Sheet.Run.Log.Cues.size(), "slide"), TimeText(Sheet.RunningTime),
-                 Counted(Sheet.Findings.Problems.size(), "problem"));
-    if (!Sheet.Findings.Notes.empty())
-        Text += QStringLiteral(", ") + Counted(Sheet.Findings.Notes.size(), "note");
-    if (Sheet.Run.End == RehearsalEnd::Stopped)
-        Text += QStringLiteral("; the show stops by itself");
-    return Text + u'.';
 }
 
 // To the millisecond; null for a time that never comes.
@@ -229,7 +175,10 @@ void PrintCueSheet(const CueSheet& Sheet, std::ostream& Out) {
     if (!Sheet.Run.Log.Cues.empty()) PrintTable(Sheet.Run.Log.Cues, Out);
     PrintFindings("Problems", Sheet.Findings.Problems, Out);
     PrintFindings("Notes", Sheet.Findings.Notes, Out);
-    PrintLine(Out, u'\n' + Summary(Sheet));
+    PrintLine(Out, u'\n' +
+                       SummaryText(Sheet.Run.Log.Cues.size(), Sheet.RunningTime, Sheet.Findings,
+                                   Sheet.Run.End) +
+                       u'.');
 }
 
 void PrintCueSheetAsJson(const CueSheet& Sheet, std::ostream& Out) {

@@ -16,6 +16,8 @@ struct Case {
 
 const char* const Sequence = "Invalid Slide Sequence";
 const char* const Options = "Invalid Option Combination";
+const char* const Lacking = "Incomplete Sound Track";
+#define TOLD " Complete its row, or empty it with the Del key."
 const char* const TooEarly = "The Starting Slide # must be >=1.";
 const char* const TooLate = "The Ending Slide # must be <= the total number of slides in the show.";
 const char* const Backwards = "The Ending Slide # must be >= the Starting Slide #.";
@@ -60,9 +62,16 @@ const Case Cases[] = {
     {"StartBehindEnd", With({Track(5, 4)}), Backwards, Sequence},
     {"EarlyGoesBeforeLate", With({Track(-1, 11)}), TooEarly, Sequence},
     {"LateGoesBeforeBackwards", With({Track(12, 11)}), TooLate, Sequence},
-    {"NoStart", With({Track({}, 99)}), ""},
-    {"NoEnd", With({Track(-1, {})}), ""},
-    {"NoFile", With({Track(-1, 99, "")}), ""},
+    {"NoStart", With({Track({}, 99)}), "Sound track 1 lacks a first slide." TOLD, Lacking},
+    {"NoEnd", With({{}, Track(-1, {})}), "Sound track 2 lacks a last slide." TOLD, Lacking},
+    {"NoFile", With({Track(-1, 99, "")}), "Sound track 1 lacks a sound file." TOLD, Lacking},
+    {"NoPlaces", With({Track({}, {})}), "Sound track 1 lacks a first slide and a last slide." TOLD,
+     Lacking},
+    {"ATickAlone", With({{.Repeat = true}}),
+     "Sound track 1 lacks a first slide, a last slide and a sound file." TOLD, Lacking},
+    {"AnIncompleteRowGoesBeforeALaterFault", With({Track(1, {}), Track(5, 4)}),
+     "Sound track 1 lacks a last slide." TOLD, Lacking},
+    {"AFaultGoesBeforeALaterIncompleteRow", With({Track(5, 4), Track(1, {})}), Backwards, Sequence},
     {"AnEmptyRowBetween", With({Track(1, 2), {}, Track(4, 11)}), TooLate, Sequence},
     {"FitInAManualShow", Manual(true, false),
      "You cannot select both Fit To Song and Manual Progression.", Options},

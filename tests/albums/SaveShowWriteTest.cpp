@@ -1,6 +1,7 @@
 // How a show is written: places, captions of its own, tracks and their files.
 #include "ShowRig.h"
 #include "db/Changes.h"
+#include "db/SongNames.h"
 
 namespace neb::harness {
 namespace {
@@ -82,13 +83,26 @@ TEST_F(SaveShow, TakesTheExtensionOfTheNameAlone) {
     EXPECT_EQ("00000001_1=x", TrackFiles());
 }
 
-TEST_F(SaveShow, DropsRowsThatAreNotFilled) {
+TEST_F(SaveShow, KeepsWhatTheSongsWereCalled) {
+    const auto Called = [&](const QString& File) {
+        return SongNames::Of(AlbumFolder(Engine.DBPath(), AlbumID))
+            .NameOf(File, FileSize(SoundTracksFolder(Engine.DBPath(), AlbumID) + File))
+            .toStdString();
+    };
     ShowContent Content = NewShow(4);
-    Content.Tracks = {NewTrack(1, 2, MakeSound(u"a.mp3"_s)), NewTrack(3, 4, u""_s)};
-    Content.Tracks[0].SlideSeqEnd.reset();
+    Content.Tracks = {NewTrack(1, 2, MakeSound(u"Für Elise.mp3"_s)),
+                      NewTrack(3, 4, MakeSound(u"b.wav"_s))};
     Save(Content);
-    EXPECT_EQ("", StoredTracks(1));
-    EXPECT_EQ("", TrackFiles());
+    EXPECT_EQ("Für Elise.mp3", Called(u"00000001_1.mp3"_s));
+    Content.Tracks[1].SoundTrackLoc = MakeSound(u"other.wav"_s);
+    Save(Content);
+    EXPECT_EQ("Für Elise.mp3", Called(u"00000001_1.mp3"_s)) << "nobody has touched it";
+    EXPECT_EQ("other.wav", Called(u"00000001_2.wav"_s));
+    ShowContent Second = NewShow(4);
+    Second.Name = u"Second"_s;
+    Second.Tracks = Content.Tracks;
+    Save(Second);
+    EXPECT_EQ("Für Elise.mp3", Called(u"00000002_1.mp3"_s)) << "a copy is called as that one is";
 }
 
 TEST_F(SaveShow, DeletesFilesThatAreNoLongerPlayed) {

@@ -68,6 +68,8 @@ TEST_F(Draft, IsNotChangedBySlidesThatLeftTheAlbum) {
     Show.DropSlides({2, 9});
     EXPECT_EQ(1u, Show.Content().Slides.size());
     Now.Slides.pop_back();
+    EXPECT_EQ(1, Show.Content().Tracks[1].SlideSeqEnd) << "the track stays on what is left";
+    Now.Tracks = Show.Content().Tracks;
     EXPECT_FALSE(IsChanged());
     Now.Slides.clear();
     EXPECT_TRUE(IsChanged());

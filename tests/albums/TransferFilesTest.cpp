@@ -1,6 +1,7 @@
 // The files of a transfer: those with unusual names and places, those that are missing or cannot be
 // read; transfers that are stopped, or break off, or find the destination changed meanwhile.
 #include "TransferRig.h"
+#include "db/SongNames.h"
 #include "harness/WithoutPrivileges.h"
 
 namespace neb::harness {
@@ -58,6 +59,26 @@ TEST_F(TransferFiles, ASoundTrackOutsideTheDatabaseIsTakenIn) {
     clsNEBSlideShow& Show = Own.AddShow(GardenID, u"Far"_s, 0, {});
     Show.SaveSoundTrack(2, Outside(u"song.no.1.WAV"_s), 1, 2, false, true, false);
     Export(ToNew(GardenID));
+}
+
+TEST_F(TransferFiles, SongsKeepTheirNames) {
+    clsNEBSlideShow& Show = Own.AddShow(GardenID, u"Far"_s, 0, {});
+    Show.SaveSoundTrack(1, Outside(u"Sonata.wav"_s), 1, 1, false, false, false);
+    Show.SaveSoundTrack(2, u"00000077_2.mp3"_s, 2, 2, false, false, false);
+    WriteFile(GardenFile(u"SoundTracks/00000077_2.mp3"_s), "waltz");
+    KeepSongNames(GardenFile({}), {{u"00000077_2.mp3"_s, 5, u"Walzer.mp3"_s}});
+    const TransferResult Result = Export(ToNew(GardenID));
+    const QString There = AlbumFolder(Other.Dir(), Result.DstAlbumID);
+    const std::int32_t ShowID = ShowNamed(Other.Engine, Result.DstAlbumID, u"Far"_s);
+    std::string Names;
+    for (const auto& Track :
+         Other.Engine.GetAlbum(Result.DstAlbumID)->GetSlideShow(ShowID)->SoundTracks)
+        Names += SongNames::Of(There)
+                     .NameOf(Track->SoundTrackLoc,
+                             FileSize(There + u"SoundTracks/"_s + Track->SoundTrackLoc))
+                     .toStdString() +
+                 "|";
+    EXPECT_EQ("Sonata.wav|Walzer.mp3|", Names);
 }
 
 TEST_F(TransferFiles, ASlideWithoutAPictureStaysOne) {
@@ -136,8 +157,7 @@ TEST_F(TransferFiles, APictureInTheFolderThatIsEmptiedArrives) {
 // Damage that was done before is not taken for the picture itself.
 TEST_F(TransferFiles, APictureThatHadChangedByItselfIsRecognisedBehindTheTransfer) {
     WriteFile(GardenFile(u"Slides/00000001.jpg"_s), "rotten");
-    const TransferResult Result =
-        Transfer(Own.Engine, Other.Engine, ToNew(GardenID), Asked(true));
+    const TransferResult Result = Transfer(Own.Engine, Other.Engine, ToNew(GardenID), Asked(true));
     ASSERT_TRUE(Result);
     const DatabaseState After = ReadDatabase(Other.Dir());
     ASSERT_EQ(1u, After.Irregular.size());

@@ -101,6 +101,9 @@ void ReadFiles(DatabaseState& Into) {
         } else if (Path.startsWith(QStringLiteral("Albums/")) && Path.count(u'/') == 2 &&
                    Path.endsWith(QStringLiteral("/Sums.sha256"))) {
             Into.Sums[Path.section(u'/', 0, 1) + u'/'] = BytesOf(Into.Dir + Path);
+        } else if (Path.startsWith(QStringLiteral("Albums/")) && Path.count(u'/') == 2 &&
+                   Path.endsWith(QStringLiteral("/Songs.txt"))) {
+            continue;  // what the songs were called, which nobody depends on
         } else if (!IsRecordFile(Path) && Path != QStringLiteral("InUse.lock")) {
             Into.Files[Path] = BytesOf(Into.Dir + Path);
         }

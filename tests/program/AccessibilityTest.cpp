@@ -35,6 +35,7 @@
 #include "windows/printing/frmPrintSlide.h"
 #include "windows/printing/frmPrintSlideShow.h"
 #include "windows/recorder/frmSoundRecorder.h"
+#include "windows/rehearsal/frmRehearsal.h"
 #include "windows/show/frmPreferences.h"
 #include "windows/slides/frmSlideDBM.h"
 #include "windows/slides/frmSlideMgrBulk.h"
@@ -106,8 +107,9 @@ using Windows =
                      frmGetObjectName, frmInputBox, frmPrintAlbum, frmPrintPreview, frmPrintSheet,
                      frmPrintSlide, frmPrintSlideShow, frmHelp, frmImportFilter, frmLoading,
                      frmMsgBoxEx, frmNewAlbumWzd1, frmPreferences, frmQuickShow, frmRestore,
-                     frmDamage, frmSlideDBM, frmSlideMgrBulk, frmSlideShowDBM, frmSlideShowExport,
-                     frmSlideShowImport, frmSlideShowView, frmSoundRecorder, frmTransferProgress>;
+                     frmDamage, frmRehearsal, frmSlideDBM, frmSlideMgrBulk, frmSlideShowDBM,
+                     frmSlideShowExport, frmSlideShowImport, frmSlideShowView, frmSoundRecorder,
+                     frmTransferProgress>;
 TYPED_TEST_SUITE(EachWindow, Windows);
 
 TYPED_TEST(EachWindow, HasNamesToolTipsAndReachableControls) {

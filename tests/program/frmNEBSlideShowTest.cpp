@@ -26,6 +26,7 @@
 #include "harness/TempFolder.h"
 #include "harness/WithoutPrivileges.h"
 #include "program/frmAbout.h"
+#include "settings/SettingKeys.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
@@ -36,6 +37,7 @@
 #include "windows/import/frmNewAlbumWzd1.h"
 #include "windows/import/frmQuickShow.h"
 #include "windows/lists/clsImageBuffer.h"
+#include "windows/rehearsal/frmRehearsal.h"
 #include "windows/show/frmPreferences.h"
 #include "windows/show/frmSlideShowProjector.h"
 #include "windows/slides/frmSlideDBM.h"
@@ -211,12 +213,13 @@ TEST_F(MainWindow, SlideShowManagersOpenFromTheMenuAndForWhoeverWantsOne) {
 
 TEST_F(MainWindow, EveryMenuEntryIsInItsPlace) {
     Start();
-    for (const char* Name :
-         {"mnuAlbumNew",       "mnuAlbumRename",     "mnuAlbumDelete",     "mnuAlbumExport",
-          "mnuAlbumImport",    "mnuAlbumPrint",      "mnuSlideMgr",        "mnuSlideMgrBulk",
-          "mnuSlideShowMgr",   "mnuSlideShowExport", "mnuSlideShowImport", "mnuSlideShowPrint",
-          "mnuSlideShowPrefs", "mnuSlideShowViewer", "mnuQuickShow",       "mnuRestore",
-          "mnuHelpContents",   "mnuHelpIndex",       "mnuAbout",           "mnuExit"})
+    for (const char* Name : {"mnuAlbumNew",        "mnuAlbumRename",     "mnuAlbumDelete",
+                             "mnuAlbumExport",     "mnuAlbumImport",     "mnuAlbumPrint",
+                             "mnuSlideMgr",        "mnuSlideMgrBulk",    "mnuSlideShowMgr",
+                             "mnuSlideShowExport", "mnuSlideShowImport", "mnuSlideShowPrint",
+                             "mnuSlideShowPrefs",  "mnuSlideShowViewer", "mnuSlideShowRehearse",
+                             "mnuQuickShow",       "mnuRestore",         "mnuHelpContents",
+                             "mnuHelpIndex",       "mnuAbout",           "mnuExit"})
         EXPECT_TRUE(Entry(Name)) << Name;
     for (const char* Name : {"mnuFileHdr", "mnuAlbumHdr", "mnuSlideShowHdr", "mnuImportExportHdr",
                              "mnuPrintHdr", "mnuWindows", "mnuHelpHdr"})
@@ -518,6 +521,26 @@ TEST_F(MainWindow, PlayingGoesOnWithTheShowThatIsThenChosenInPreferences) {
     mBoxes.Expect("Slide #1 of the current slide show does not exist!");
     Press("mnuSlideShowViewer");
     EXPECT_EQ(Shown, 1);
+}
+
+TEST_F(MainWindow, TheActiveShowIsRehearsedFromTheMenu) {
+    Start();
+    std::int32_t AlbumID = 0, ShowID = 0, SlideID = 0;
+    ASSERT_TRUE(DBEngine->SaveAlbum(AlbumID, "Holiday"));
+    clsNEBAlbum& Album = *DBEngine->GetAlbum(AlbumID);
+    Album.SaveSlideShow(ShowID, "Lake", 0, *DBEngine);
+    Album.SaveSlide2(SlideID, "a", {}, {}, false, false, *DBEngine);
+    Album.GetSlideShow(ShowID)->SaveDetail(SlideID, 1, {});
+    clsSettings Settings = OpenSettings();
+    PutNumber(Settings, Setting::ActiveAlbum, AlbumID);
+    PutNumber(Settings, Setting::ActiveSlideShow, ShowID);
+    Settings.Save();
+    Press("mnuSlideShowRehearse");
+    ASSERT_TRUE(QTest::qWaitFor([] { return Find<frmRehearsal>() != nullptr; }, 3000));
+    EXPECT_EQ(Find<frmRehearsal>()->windowTitle(), "Rehearsal - Lake");
+    TheOpeners().SlideOfShow(AlbumID, ShowID, SlideID);
+    ASSERT_TRUE(Find<frmSlideShowDBM>());
+    EXPECT_TRUE(Find<frmSlideShowDBM>()->IsAbout(AlbumID, ShowID));
 }
 
 TEST_F(MainWindow, PreferencesOpenFromTheMenu) {

@@ -15,9 +15,9 @@ namespace {
 
 const QStringList Levels{"H", "M", "L"};
 const QStringList WideWindows{"frmSlideDBM", "frmPicturePopup", "frmPrintPreview"};
-const QStringList AllWindows{"frmSlideDBM",     "frmPicturePopup",  "frmSlideShowDBM",
-                             "frmImportFilter", "frmQuickShow",     "frmSlideMgrBulk",
-                             "frmAlbumView",    "frmSlideShowView", "frmPrintPreview"};
+const QStringList AllWindows{
+    "frmSlideDBM",     "frmPicturePopup", "frmSlideShowDBM",  "frmImportFilter", "frmQuickShow",
+    "frmSlideMgrBulk", "frmAlbumView",    "frmSlideShowView", "frmPrintPreview", "frmRehearsal"};
 
 QStringList Numbers(int First, int Last, int Digits) {
     QStringList Out;
@@ -79,6 +79,7 @@ const struct Documented {
      nullptr},
     {"[Find Graphics Window]Col*.Width", Numbers(0, 3, 1), SettingType::Twips, "", "", nullptr,
      nullptr, nullptr},
+    {"[Sounds]Folder", {""}, SettingType::Text, "", "", nullptr, nullptr, nullptr},
     {"[Transfer]Directory*", Numbers(0, 9, 1), SettingType::Text, "", "", nullptr, nullptr,
      nullptr},
 };

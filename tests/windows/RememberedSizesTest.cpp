@@ -4,6 +4,7 @@
 #include "windows/compose/frmSlideShowDBM.h"
 #include "windows/import/frmQuickShow.h"
 #include "windows/lists/frmPicturePopup.h"
+#include "windows/rehearsal/frmRehearsal.h"
 #include "windows/transfer/frmAlbumView.h"
 #include "windows/transfer/frmSlideShowView.h"
 
@@ -28,6 +29,7 @@ const struct RememberedSize {
     {"frmImportFilter", 7080, 0, &Make<frmImportFilter>},
     {"frmQuickShow", 6540, 0, &Make<frmQuickShow>},
     {"frmSlideMgrBulk", 6315, 0, &Make<frmSlideMgrBulk>},
+    {"frmRehearsal", 9000, 0, &Make<frmRehearsal>},
     {"frmAlbumView", 6315, 0, &Make<frmAlbumView>},
     {"frmSlideShowView", 6315, 0, &Make<frmSlideShowView>},
 };

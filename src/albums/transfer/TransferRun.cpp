@@ -2,6 +2,7 @@
 
 #include "albums/transfer/FileStage.h"
 #include "db/AlbumSums.h"
+#include "db/SongNames.h"
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
 #include "db/modLoadRecords.h"
@@ -162,10 +163,36 @@ class TransferRun {
         Change.Moves.push_back({Name, AlbumSumsPath(Here)});
     }
 
+    // So do the names of the songs.
+    void StageSongNames(StagedChange& Change) const {
+        const SongNames Source = SongNames::Of(AlbumFolder(mPlan.SrcDBPath, mPlan.SrcAlbumID));
+        const QString Here = AlbumFolder({}, mPlan.AlbumID), Name = QStringLiteral("Songs");
+        SongNames All = SongNames::Of(mDB.DBPath() + Here);
+        bool IsNew = false;
+        for (const FileToCopy& Each : mPlan.Files) {
+            if (Each.Is != FileToCopy::Kind::Track) continue;
+            const qint64 Bytes = FileSize(Each.From);
+            const QString Its = HoldsTrack(Each) ? Source.NameOf(GetFileName(Each.From), Bytes)
+                                                 : GetFileName(Each.From);
+            if (Its.isEmpty() || Bytes < 0) continue;
+            All.Enter({GetFileName(Each.To), Bytes, Its});
+            IsNew = true;
+        }
+        if (!IsNew) return;
+        WriteFile(StagingFolder(mDB.DBPath()) + Name, All.List());
+        SyncFile(StagingFolder(mDB.DBPath()) + Name);
+        Change.Moves.push_back({Name, SongNamesPath(Here)});
+    }
+    // Whether a file lies in the source album, under one of the program's names.
+    bool HoldsTrack(const FileToCopy& File) const {
+        return GetFilePath(File.From) == SoundTracksFolder(mPlan.SrcDBPath, mPlan.SrcAlbumID);
+    }
+
     // From its end on the transfer stands, whatever happens.
     void Commit(const AlbumToPut& After, FileStage& Stage) {
         FinishAside([this, &After, &Stage, Change = Staged(Stage)]() mutable {
             StageSums(Stage, Change);
+            StageSongNames(Change);
             CommitDatabase(mDB.DBPath(), BuildImage(mDB, &After), Change);
         }).get();
         Stage.Keep();

@@ -1,7 +1,9 @@
 #include "controls/grid/FlexGridDelegate.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -18,16 +20,25 @@ constexpr int Margin = 4;
 const QString Dots = QStringLiteral("...");
 
 // A key or the wheel only goes through the entries: the choice is made when the list that opens
-// has closed, or at Return.
+// has closed, or at Return. What is typed is looked for as a whole: 1 is the entry 1 and not 10,
+// and a 2 soon behind it makes it 12.
 class ListField : public QComboBox {
   public:
-    using QComboBox::QComboBox;
+    explicit ListField(QWidget* Parent) : QComboBox(Parent) { view()->installEventFilter(this); }
     bool IsPassing() const { return mPassing; }
 
   protected:
     void keyPressEvent(QKeyEvent* Event) override {
         const QScopedValueRollback<bool> Passing(mPassing, true);
+        if (const int Entry = Typed(*Event); Entry >= 0) return setCurrentIndex(Entry);
         QComboBox::keyPressEvent(Event);
+    }
+    bool eventFilter(QObject* Watched, QEvent* Event) override {
+        if (Watched != view() || Event->type() != QEvent::KeyPress)
+            return QComboBox::eventFilter(Watched, Event);
+        const int Entry = Typed(*static_cast<QKeyEvent*>(Event));
+        if (Entry >= 0) view()->setCurrentIndex(model()->index(Entry, modelColumn()));
+        return Entry >= 0;
     }
     void wheelEvent(QWheelEvent* Event) override {
         const QScopedValueRollback<bool> Passing(mPassing, true);
@@ -35,7 +46,28 @@ class ListField : public QComboBox {
     }
 
   private:
+    // The entry for what has been typed; -1 where the key is no letter, or nothing begins so.
+    int Typed(const QKeyEvent& Event) {
+        const QString Text = Event.text();
+        if (Event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier) || Text.isEmpty() ||
+            !Text[0].isLetterOrNumber())
+            return -1;
+        const bool GoesOn =
+            mSince.isValid() && !mSince.hasExpired(QApplication::keyboardInputInterval());
+        mTyped = GoesOn ? mTyped + Text : Text;
+        mSince.start();
+        if (const int Entry = EntryFor(mTyped); Entry >= 0) return Entry;
+        mTyped = Text;
+        return EntryFor(Text);
+    }
+    int EntryFor(const QString& Text) const {
+        const int Whole = findText(Text, Qt::MatchFixedString);
+        return Whole >= 0 ? Whole : findText(Text, Qt::MatchStartsWith);
+    }
+
     bool mPassing = false;
+    QString mTyped;
+    QElapsedTimer mSince;
 };
 
 QStyle& StyleOf(const QStyleOptionViewItem& Option) {

@@ -97,8 +97,13 @@ RehearsalEnd Rehearsal::RunRound() {
             Fire(Next);
         }
         if (mRoundIsOver) return RehearsalEnd::CameRound;
+        if (!GoesOn()) return RehearsalEnd::GivenUp;
     }
     return Timer1On() ? RehearsalEnd::TooLong : RehearsalEnd::Stopped;
+}
+
+bool Rehearsal::GoesOn() const {
+    return !mOptions.GoesOn || mOptions.GoesOn(mLog.Cues.empty() ? 0 : mLog.Cues.back().SlideSeq);
 }
 
 // When somebody who leaves each slide its time asks for the next one; in milliseconds.

@@ -1,6 +1,7 @@
 // Runs a show without a screen and without waiting: the projector's own run of a show, on a clock
 // that jumps from tick to tick and on sound devices that are silent. Writes down what came up when.
-// Used by nebctl rehearse and by tests of whole shows. Nothing on the disk is changed.
+// Used by nebctl rehearse, the
+// window of the rehearsal and tests of whole shows. Nothing on the disk is changed.
 #pragma once
 
 #include <array>
@@ -21,12 +22,15 @@ double LengthOfSoundFile(const QString& Path);
 struct RehearsalOptions {
     std::function<bool(const QString& Path)> CanReadPicture = BeginsLikePicture;
     std::function<double(const QString& Path)> LengthOfSound = LengthOfSoundFile;  // throws Fault
+    // Asked all the while with the slide that is up (0: none yet); false ends a whole run.
+    std::function<bool(std::int32_t SlideSeq)> GoesOn = {};
 };
 
 enum class RehearsalEnd {
     CameRound,  // every place that the show comes to was up once, and its time is over
     Stopped,    // the show has stopped by itself: a slide could not be shown
     TooLong,    // given up after LongestRehearsal
+    GivenUp,    // somebody did not want to wait for it
 };
 constexpr double LongestRehearsal = 7 * 86400;  // seconds
 
@@ -82,6 +86,7 @@ class Rehearsal : private ShowStage {
     void AdvanceTo(qint64 Milliseconds);
     void TakeStep(const std::function<void()>& Step);
     RehearsalEnd RunRound();
+    bool GoesOn() const;
     qint64 NextPress() const;
     bool ComesRound(const SlideSound& Slide) const;
     bool SlideComesUp(const SlideSound& Slide);

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "sound/decoding/SongTags.h"
 #include "support/Fault.h"
 
 namespace neb {
@@ -33,7 +34,44 @@ bool Configure(mpg123_handle* Handle) {
            Set(Handle, MPG123_RESYNC_LIMIT, -1) && Set(Handle, MPG123_PREFRAMES, FramesBefore);
 }
 
+using Handle = std::unique_ptr<mpg123_handle, decltype(&mpg123_delete)>;
+
+// Of the older kind, a field of fixed length.
+template <size_t Length>
+QString FieldText(const char (&Field)[Length]) {
+    return TagText(QByteArray(Field, static_cast<qsizetype>(qstrnlen(Field, Length))));
+}
+
+QString NewerText(const mpg123_string* Text) {
+    return Text && Text->p && Text->fill > 0 ? TagText(QByteArray(Text->p)) : QString();
+}
+
+SongTags TagsIn(mpg123_handle* Song) {
+    mpg123_id3v1* Older = nullptr;
+    mpg123_id3v2* Newer = nullptr;
+    if (mpg123_id3(Song, &Older, &Newer) != MPG123_OK) return {};
+    SongTags Tags;
+    if (Newer) Tags = {NewerText(Newer->title), NewerText(Newer->artist)};
+    if (Older && Tags.Title.isEmpty()) Tags.Title = FieldText(Older->title);
+    if (Older && Tags.Artist.isEmpty()) Tags.Artist = FieldText(Older->artist);
+    return Tags;
+}
+
 }  // namespace
+
+// The tags are found on the way to the first frame, or at the file's end.
+SongTags MpegTags(SoundSource& Source) {
+    const Handle Song(mpg123_new(nullptr, nullptr), &mpg123_delete);
+    if (!Song || !Set(Song.get(), MPG123_ADD_FLAGS, MPG123_QUIET)) return {};
+    Source.Seek(0, SEEK_SET);
+    if (mpg123_replace_reader_handle(Song.get(), &ReadBytes, &SeekBytes, nullptr) != MPG123_OK ||
+        mpg123_open_handle(Song.get(), &Source) != MPG123_OK)
+        return {};
+    long Rate = 0;
+    int Channels = 0, Encoding = 0;
+    const bool IsSong = mpg123_getformat(Song.get(), &Rate, &Channels, &Encoding) == MPG123_OK;
+    return IsSong ? TagsIn(Song.get()) : SongTags();
+}
 
 MpegSound::MpegSound(std::unique_ptr<SoundSource> Source, std::vector<MpegPart> Parts)
     : mSource(std::move(Source)), mHandle(mpg123_new(nullptr, nullptr)) {

@@ -6,6 +6,7 @@
 #include <array>
 #include <vector>
 
+#include "sound/decoding/SongTags.h"
 #include "sound/decoding/SoundFormat.h"
 #include "support/Fault.h"
 
@@ -42,6 +43,19 @@ void Check(bool Good, const QString& Sentence, const SoundSource& Source) {
 }
 
 }  // namespace
+
+SongTags WaveTags(SoundSource& Source) {
+    SF_VIRTUAL_IO Io = Callbacks();
+    SF_INFO Info = {};
+    Source.Seek(0, SEEK_SET);
+    const std::unique_ptr<SNDFILE, decltype(&sf_close)> File(
+        sf_open_virtual(&Io, SFM_READ, &Info, &Source), &sf_close);
+    if (!File) return {};
+    const auto Text = [&](int Kind) {
+        return TagText(QByteArray(sf_get_string(File.get(), Kind)));
+    };
+    return {Text(SF_STR_TITLE), Text(SF_STR_ARTIST)};
+}
 
 void WaveSound::Closer::operator()(sf_private_tag* File) const {
     sf_close(File);

@@ -132,6 +132,19 @@ std::vector<ShowSlide> TwoLists::Slides() const {
     return All;
 }
 
+SlideOrder TwoLists::Order() const {
+    SlideOrder All;
+    for (int Row = 0; Row < mSelected.Rows(); ++Row) All.push_back(SlideIn(mSelected, Row));
+    return All;
+}
+
+void TwoLists::Rearrange(const std::set<std::int32_t>& Moved, const std::function<void()>& Do) {
+    const SlideOrder Before = Order();
+    Do();
+    const SlideOrder After = Order();
+    if (After != Before) Q_EMIT Rearranged(Before, After, Moved);
+}
+
 std::vector<std::int32_t> TwoLists::GoneFrom(const clsNEBAlbum& Album, std::int32_t Hint) const {
     const auto& There = Album.Slides;
     const bool IsOneLess = mAll.Rows() == static_cast<int>(There.size()) + 1;
@@ -149,10 +162,12 @@ std::vector<std::int32_t> TwoLists::GoneFrom(const clsNEBAlbum& Album, std::int3
 }
 
 void TwoLists::DropSlides(const std::vector<std::int32_t>& SlideIDs) {
-    for (std::int32_t SlideID : SlideIDs)
-        for (FlexGrid* Grid : {&mNonSelected, &mSelected, &mAll})
-            if (const int Row = RowOfSlide(*Grid, SlideID); Row >= 0) Grid->RemoveItem(Row);
-    Renumber();
+    Rearrange({}, [&] {
+        for (std::int32_t SlideID : SlideIDs)
+            for (FlexGrid* Grid : {&mNonSelected, &mSelected, &mAll})
+                if (const int Row = RowOfSlide(*Grid, SlideID); Row >= 0) Grid->RemoveItem(Row);
+        Renumber();
+    });
 }
 
 void TwoLists::MoveIntoShow(bool All) {
@@ -166,14 +181,14 @@ void TwoLists::MoveOutOfShow(bool All) {
 void TwoLists::Move(FlexGrid& From, FlexGrid& To, bool All) {
     const std::vector<int> Rows = RowsToMove(From, All);
     if (Rows.empty()) return;
-    {
+    Rearrange({}, [&] {
         const QuietGrids Quiet(From, To);
         From.GiveRows(Rows, To);
         if (&To == &mNonSelected)  // a place is one in the show
             for (int Row = To.Rows() - static_cast<int>(Rows.size()); Row < To.Rows(); ++Row)
                 To.SetTextMatrix(Row, ColPlace, {});
         Renumber();
-    }
+    });
     if (From.Rows() > 0) From.SetRow(std::min(Rows.front(), From.Rows() - 1));
     To.EnsureRowVisible(To.Rows() - 1);
 }
@@ -181,9 +196,25 @@ void TwoLists::Move(FlexGrid& From, FlexGrid& To, bool All) {
 void TwoLists::MoveBy(int Step) {
     const int Row = mSelected.Row(), NewRow = Row + Step;
     if (Row < 0 || NewRow < 0 || NewRow >= mSelected.Rows()) return;
-    mSelected.SetRowPosition(Row, NewRow);
-    Renumber();
+    MoveTo(Row, NewRow);
+}
+
+void TwoLists::MoveTo(int Row, int NewRow) {
+    Rearrange({SlideIn(mSelected, Row)}, [&] {
+        mSelected.SetRedraw(false);
+        mSelected.SetRowPosition(Row, NewRow);
+        Renumber();
+        mSelected.SetRedraw(true);
+    });
     StandOn(NewRow);
+}
+
+bool TwoLists::GoTo(std::int32_t SlideID) {
+    const int Row = RowOfSlide(mSelected, SlideID);
+    if (Row < 0) return false;
+    StandOn(Row);
+    mSelected.setFocus();
+    return true;
 }
 
 void TwoLists::StandOn(int Row) {
@@ -197,31 +228,38 @@ void TwoLists::AfterEdit(int Row, int Col) {
     const QString& Typed = mSelected.TextMatrix(Row, ColPlace);
     const int NewRow = TypedPlace(Typed, mSelected.Rows()).value_or(Row);
     if (NewRow == Row) return mSelected.SetTextMatrix(Row, ColPlace, QString::number(Row + 1));
-    mSelected.SetRedraw(false);
-    mSelected.SetRowPosition(Row, NewRow);
-    Renumber();
-    mSelected.SetRedraw(true);
-    StandOn(NewRow);
+    MoveTo(Row, NewRow);
 }
 
 void TwoLists::TakeDragged(FlexGrid& From, FlexGrid& To, int Before) {
     if (&To == &mNonSelected && &From == &mSelected) return MoveOutOfShow(false);
     if (&To != &mSelected) return;
-    std::vector<int> Rows = RowsToMove(From, false);
+    const std::vector<int> Rows = RowsToMove(From, false);
     const int Count = static_cast<int>(Rows.size());
     if (Count == 0) return;
     const QuietGrids Quiet(mNonSelected, mSelected);
+    const int First =
+        Before - (&From == &mSelected
+                      ? static_cast<int>(std::count_if(Rows.begin(), Rows.end(),
+                                                       [=](int Row) { return Row < Before; }))
+                      : 0);
+    std::set<std::int32_t> Moved;
+    if (&From == &mSelected)
+        for (const int Row : Rows) Moved.insert(SlideIn(mSelected, Row));
+    Rearrange(Moved, [&] { PutBefore(From, Rows, Before); });
+    mSelected.SetRow(First);
+    for (int Row = First; Row < First + Count; ++Row) mSelected.SelectRow(Row);
+}
+
+// Rows of either list.
+void TwoLists::PutBefore(FlexGrid& From, std::vector<int> Rows, int Before) {
     if (&From == &mNonSelected) {
+        const int Count = static_cast<int>(Rows.size());
         mNonSelected.GiveRows(Rows, mSelected);
         std::iota(Rows.begin(), Rows.end(), mSelected.Rows() - Count);
     }
-    const int First =
-        Before - static_cast<int>(std::count_if(Rows.begin(), Rows.end(),
-                                                [=](int Row) { return Row < Before; }));
     mSelected.MoveRowsBefore(Rows, Before);
     Renumber();
-    mSelected.SetRow(First);
-    for (int Row = First; Row < First + Count; ++Row) mSelected.SelectRow(Row);
 }
 
 }  // namespace neb

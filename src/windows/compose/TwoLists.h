@@ -4,9 +4,10 @@
 #pragma once
 
 #include <QObject>
+#include <functional>
 #include <memory>
 
-#include "albums/ShowContent.h"
+#include "albums/TrackRanges.h"
 #include "support/KeepGoing.h"
 
 QT_BEGIN_NAMESPACE
@@ -45,6 +46,7 @@ class TwoLists : public QObject {
     // slide that is not in the album any more is dropped, and so is a second place of one.
     // GoesOn is asked at each slide; false leaves the lists as they are then.
     void TakeShow(const std::vector<ShowSlide>& Slides, const KeepGoing& GoesOn);
+    SlideOrder Order() const;
     std::vector<ShowSlide> Slides() const;  // of the show, place 1 first
 
     // Those that are listed and not in the album any more. Hint is looked at first (0: none): of
@@ -56,6 +58,8 @@ class TwoLists : public QObject {
     // slide can be moved.
     void MoveIntoShow(bool All);
     void MoveOutOfShow(bool All);
+    // Stands on a slide of the show; false where it is none.
+    bool GoTo(std::int32_t SlideID);
     void MoveBy(int Step);  // the current slide of the show; -1: one place earlier
     // Rows that were dragged: into the show at the place where they were let go, out of it at the
     // end. The list of the album has no order of its own.
@@ -65,10 +69,17 @@ class TwoLists : public QObject {
 
   Q_SIGNALS:
     void Counted(int NonSelected, int Selected);  // the rows, whenever they may be others
+    // The slides of the show are others than Before, or in another order; Moved were taken to
+    // another place. Not told where a show is taken up.
+    void Rearranged(const SlideOrder& Before, const SlideOrder& After,
+                    const std::set<std::int32_t>& Moved);
 
   private:
+    void Rearrange(const std::set<std::int32_t>& Moved, const std::function<void()>& Do);
+    void MoveTo(int Row, int NewRow);
     void SetUpGrid(FlexGrid& Grid, bool Editable);
     void Move(FlexGrid& From, FlexGrid& To, bool All);
+    void PutBefore(FlexGrid& From, std::vector<int> Rows, int Before);
     void StandOn(int Row);
     void AfterEdit(int Row, int Col);
     void Reset();

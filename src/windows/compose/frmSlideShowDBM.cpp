@@ -19,10 +19,12 @@
 #include "windows/albums/modAlbumNames.h"
 #include "windows/compose/TwoLists.h"
 #include "windows/frame/Openers.h"
+#include "windows/frame/modNotice.h"
 #include "windows/frame/modWindowState.h"
 #include "windows/lists/clsImageBuffer.h"
 #include "windows/lists/frmPicturePopup.h"
 #include "windows/printing/modPrinting.h"
+#include "windows/rehearsal/modRehearsals.h"
 #include "windows/show/modSlideShows.h"
 
 namespace neb {
@@ -82,6 +84,8 @@ void frmSlideShowDBM::SetUpTracks() {
             [this, List](int Row) { Command([=] { List->ChooseFile(Row); }); });
     connect(List, &FlexGrid::DeletePressed, this,
             [this, List] { Command([=] { List->EmptySelected(); }); });
+    connect(List, &TrackList::CannotPlay, this, [](const QString& Why) { ShowNotice(Why); });
+    connect(mLists, &TwoLists::Rearranged, this, &frmSlideShowDBM::FollowOrder);
 }
 
 void frmSlideShowDBM::SetUpButtons() {
@@ -96,6 +100,7 @@ void frmSlideShowDBM::SetUpButtons() {
         {mUi->cmdSave, &frmSlideShowDBM::Save},
         {mUi->cmdCancel, &frmSlideShowDBM::Cancel},
         {mUi->cmdDelete, &frmSlideShowDBM::Delete},
+        {mUi->cmdFitAll, &frmSlideShowDBM::FitAll},
         {mUi->cmdClose, &frmSlideShowDBM::Close},
     };
     for (const auto& [Button, Does] : Buttons) On(Button, &QPushButton::clicked, Does);
@@ -118,6 +123,9 @@ void frmSlideShowDBM::SetUpToolBar() {
          "Ctrl+P", &frmSlideShowDBM::Print},
         {"mnuSlideShowView", "View", "Play the slide show as it was last saved", "slide-show-play",
          "", &frmSlideShowDBM::View},
+        {"mnuSlideShowRehearse", "Rehearse",
+         "Look through the slide show as it was last saved: what comes up when, and what is wrong",
+         "find-graphics", "", &frmSlideShowDBM::Rehearse},
         {"mnuSlideShowPrefs", "Preferences", "Choose how slide shows are played", "preferences", "",
          &frmSlideShowDBM::EditPreferences},
         {"mnuExit", "Exit", "Close this window", "exit", "", &frmSlideShowDBM::Close},
@@ -211,7 +219,7 @@ void frmSlideShowDBM::SetReadOnlyLook() {
     for (QWidget* Each : std::initializer_list<QWidget*>{
              mUi->cmdNew, mUi->cmdSave, mUi->cmdDelete, mUi->cmdCancel, mUi->cmdMoveRightOne,
              mUi->cmdMoveRightAll, mUi->cmdMoveLeftOne, mUi->cmdMoveLeftAll, mUi->cmdMoveUp,
-             mUi->cmdMoveDown, mUi->cboProgressionMethod})
+             mUi->cmdMoveDown, mUi->cmdFitAll, mUi->cboProgressionMethod})
         Each->setEnabled(!ReadOnlyDB);
     mUi->txtName->setReadOnly(ReadOnlyDB);
     for (const char* Tool :
@@ -227,6 +235,7 @@ bool frmSlideShowDBM::Form_QueryUnload() {
 bool frmSlideShowDBM::Form_Unload() {
     if (mStep == Step::Writing) return false;
     SaveWindow(*this, Memory);
+    mUi->flxSoundTracks->StopPlaying();
     mReading.WindowClosed();
     return true;
 }
@@ -375,6 +384,12 @@ void frmSlideShowDBM::View() {
     if (AlbumID() != 0 && SlideShowID() != 0)
         return RunSlideShow(AlbumID(), mUi->cboAlbum->currentText(), SlideShowID());
     MsgBox(QStringLiteral("You must first select a Slide Show to View."),
+           QStringLiteral("Missing User Input"));
+}
+
+void frmSlideShowDBM::Rehearse() {
+    if (AlbumID() != 0 && SlideShowID() != 0) return ShowRehearsal(AlbumID(), SlideShowID());
+    MsgBox(tr("You must first select a Slide Show to Rehearse."),
            QStringLiteral("Missing User Input"));
 }
 

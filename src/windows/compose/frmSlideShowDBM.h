@@ -1,10 +1,11 @@
 // The slide show manager: a show is composed from the slides of an album, with captions of its own
 // and sound tracks, and saved. It wires the draft of the show, the two lists of slides and the list
-// of tracks; nothing is written before Save. A child of the main window; several may be open, on
-// one album, too.
+// of tracks, which stay on their slides; nothing is written before Save. A child of the main
+// window; several may be open, on one album, too.
 #pragma once
 
 #include "albums/ShowDraft.h"
+#include "albums/TrackRanges.h"
 #include "controls/fields/ComboBoxList.h"
 #include "controls/forms/Form.h"
 #include "db/Changes.h"
@@ -29,6 +30,10 @@ class frmSlideShowDBM : public Form, public ChangeReceiver {
 
     // Shows the window with that album and that show chosen; 0: none.
     void LoadSlideShowMgr(std::int32_t AlbumID, std::int32_t SlideShowID);
+    // Whether this show is the chosen one.
+    bool IsAbout(std::int32_t AlbumID, std::int32_t SlideShowID) const;
+    // Brings the window to the front and stands on a slide of the show, where it is one.
+    void GoToSlide(std::int32_t SlideID);
     QString ExitState() const { return {}; }
     void ReceiveEvent(const QString& ObjectType, const QString& EventType,
                       const EventKeys& EventData) override;
@@ -108,6 +113,10 @@ class frmSlideShowDBM : public Form, public ChangeReceiver {
     void Print();
     void View();
     void EditPreferences();
+    void Rehearse();
+    void FitAll();
+    void FollowOrder(const SlideOrder& Before, const SlideOrder& After,
+                     const std::set<std::int32_t>& Moved);
 
     // What other windows have done.
     void Follow(const Heard& Change);

@@ -1,17 +1,20 @@
 // How the slide show manager takes up an album and a show, and how it follows what other windows
-// do. What has been composed and not yet saved stays, as far as its slides and its album are still
-// there.
+// do, and how the tracks follow the slides. What has been composed and not yet saved stays, as far
+// as its slides and its album are still there.
 #include <QScopedValueRollback>
 
 #include "albums/BulkSlides.h"
 #include "albums/modLoadShow.h"
 #include "controls/forms/Tell.h"
 #include "db/clsDBEngine.h"
+#include "db/modAlbumFiles.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Services.h"
 #include "ui_frmSlideShowDBM.h"
 #include "windows/compose/TwoLists.h"
 #include "windows/compose/frmSlideShowDBM.h"
+#include "windows/compose/modFitAll.h"
+#include "windows/frame/modWindowState.h"
 
 namespace neb {
 
@@ -25,6 +28,15 @@ ComboBoxList frmSlideShowDBM::Shows() const {
 
 std::int32_t frmSlideShowDBM::AlbumID() const {
     return Albums().ItemData(mUi->cboAlbum->currentIndex());
+}
+
+bool frmSlideShowDBM::IsAbout(std::int32_t Album, std::int32_t Show) const {
+    return AlbumID() == Album && SlideShowID() == Show && Show != 0;
+}
+
+void frmSlideShowDBM::GoToSlide(std::int32_t SlideID) {
+    BringToFront(*this);
+    Command([this, SlideID] { mLists->GoTo(SlideID); });
 }
 
 std::int32_t frmSlideShowDBM::SlideShowID() const {
@@ -107,6 +119,8 @@ void frmSlideShowDBM::ClearContent() {
     mLists->Clear();
     mUi->txtName->clear();
     mUi->flxSoundTracks->ShowTracks({});
+    mUi->flxSoundTracks->SetFolder(DBEngine ? SoundTracksFolder(DBEngine->DBPath(), AlbumID())
+                                            : QString());
     Shows().Clear();
     mUi->cboSlideShows->update();
     NoteAsStored();
@@ -214,7 +228,29 @@ void frmSlideShowDBM::ShowChosenShow() {
 void frmSlideShowDBM::ShowDetails(const ShowContent& Show) {
     mUi->txtName->setText(Show.Name);
     mUi->cboProgressionMethod->setCurrentIndex(Show.ProgressionMethod);
-    mUi->flxSoundTracks->ShowTracks(Show.Tracks);
+    // what the album has no more is not in the lists
+    mUi->flxSoundTracks->ShowTracks(
+        TracksFollowing(Show.Tracks, OrderOf(Show.Slides), mLists->Order()));
+}
+
+void frmSlideShowDBM::FitAll() {
+    TrackList& List = *mUi->flxSoundTracks;
+    QStringList Paths;
+    for (int Row = 0; Row < List.Rows(); ++Row) Paths << List.PathOf(Row);
+    const ShowContent Show = Content();
+    Answer<std::vector<ShowTrack>> Fitted = Answer<std::vector<ShowTrack>>(Show.Tracks);
+    {
+        const QScopedValueRollback<Step> Measuring(mStep, Step::Showing);
+        Fitted = FitAllAside(Show, Paths);
+    }
+    if (IsLoaded() && Tell(Fitted)) List.ShowTracks(*Fitted);
+    FollowWaiting();
+}
+
+void frmSlideShowDBM::FollowOrder(const SlideOrder& Before, const SlideOrder& After,
+                                  const std::set<std::int32_t>& Moved) {
+    TrackList& List = *mUi->flxSoundTracks;
+    List.ShowPlaces(TracksFollowing(List.Tracks(), Before, After, Moved));
 }
 
 ShowContent frmSlideShowDBM::Content() const {

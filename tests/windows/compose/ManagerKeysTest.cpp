@@ -35,8 +35,8 @@ TEST_F(ManagerKeys, TabWalksOverAllControls) {
     for (const char* Next :
          {"cboSlideShows", "txtName", "cboProgressionMethod", "flxNonSelected", "cmdMoveRightOne",
           "cmdMoveRightAll", "cmdMoveLeftOne", "cmdMoveLeftAll", "flxSelected", "cmdMoveUp",
-          "cmdMoveDown", "flxSoundTracks", "cmdNew", "cmdDelete", "cmdSave", "cmdCancel",
-          "cmdClose"}) {
+          "cmdMoveDown", "flxSoundTracks", "cmdFitAll", "cmdNew", "cmdDelete", "cmdSave",
+          "cmdCancel", "cmdClose"}) {
         KeyTo(Qt::Key_Tab);
         EXPECT_EQ(Next, Focus());
     }
@@ -112,7 +112,7 @@ TEST_F(ManagerKeys, EveryTaskCanBeDoneWithoutAMouse) {
     KeyTo(Qt::Key_Return);
     KeyTo(Qt::Key_Right);
     KeyTo(Qt::Key_Space);
-    for (int I = 0; I < 3; ++I) KeyTo(Qt::Key_Right);
+    for (int I = 0; I < 4; ++I) KeyTo(Qt::Key_Right);
     Dialogs.Answer = MakeSound(u"song.mp3"_s);
     KeyTo(Qt::Key_Space);
     EXPECT_EQ("1: 1,2,True,,," + (Sounds / u"song.mp3"_s).toStdString(), TrackCells());
@@ -190,7 +190,7 @@ TEST_F(ManagerKeys, ItsLettersAreFreeInTheMainMenuAndDifferent) {
         if (Each->buddy()) Texts << Each->text();
     for (const auto* Each : W->findChildren<QPushButton*>())
         if (!Each->text().isEmpty()) Texts << Each->text();
-    EXPECT_EQ(12, Texts.size());
+    EXPECT_EQ(13, Texts.size());
     for (const QString& Each : Texts) {
         const QString Keys = QKeySequence::mnemonic(Each).toString();
         ASSERT_FALSE(Keys.isEmpty()) << Each.toStdString();

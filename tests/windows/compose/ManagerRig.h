@@ -20,7 +20,7 @@ class ManagerRig : public BulkRig {
   protected:
     // Slides of the album, numbered from 1 in this order.
     void AddAlbumSlides(const QStringList& Captions) {
-        for (const QString& Each : Captions) AddSlide(Each, QColor::fromHsv(40 * mHue++, 200, 200));
+        for (const QString& Each : Captions) AddSlide(Each, QColor::fromHsv(40 * mHue++ % 360, 200, 200));
     }
     clsNEBSlideShow& Show(std::int32_t ShowID) { return *Album().GetSlideShow(ShowID); }
     std::int32_t AddShow(const QString& Name, const std::vector<std::int32_t>& SlideIDs) {
@@ -110,7 +110,8 @@ class ManagerRig : public BulkRig {
         QStringList All;
         for (int Row = 0; Row < Tracks().Rows(); ++Row) {
             QStringList Cells;
-            for (int Col = 0; Col < Tracks().Cols(); ++Col) Cells << Tracks().TextMatrix(Row, Col);
+            for (int Col = 0; Col <= TrackList::ColFile; ++Col)
+                Cells << Tracks().TextMatrix(Row, Col);
             if (!Cells.join(QString()).isEmpty())
                 All << QString::number(Row + 1) + u": "_s + Cells.join(u',');
         }

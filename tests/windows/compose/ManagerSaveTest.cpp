@@ -161,10 +161,19 @@ TEST_F(ManagerSave, TheNameIsCleanedEvenWhenTheSaveIsRefused) {
     EXPECT_EQ(ConvertQuotes(u"\"x\""_s), Name().text());
 }
 
-TEST_F(ManagerSave, ARowWithoutAnEndIsDroppedWithoutWord) {
+TEST_F(ManagerSave, ARowWithoutAnEndIsToldAndIsSavedWhenItIsEmptied) {
     const std::int32_t Walk = OpenGarden({1, 2});
     SetTrack(0, {u"1"_s, {}, {}, {}, {}, MakeSound(u"a.wav"_s)});
     SetTrack(1, {u"2"_s, u"2"_s, {}, {}, {}, MakeSound(u"b.wav"_s)});
+    Boxes.Expect(
+        u"Sound track 1 lacks a last slide. Complete its row, or empty it with the Del "
+        "key."_s,
+        u"Incomplete Sound Track"_s, BoxIcon::Information, BoxAnswer::Ok);
+    Push("cmdSave");
+    EXPECT_EQ("Walk 0 1:1[] 2:2[]", Stored(Walk));
+    Pick(Tracks(), {0});
+    Tracks().setFocus();
+    QTest::keyClick(&Tracks(), Qt::Key_Delete);
     SaveWell();
     EXPECT_EQ("Walk 0 1:1[] 2:2[] | 2:2-2 00000001_2.wav", Stored(Walk));
     EXPECT_EQ("2: 2,2,False,False,False,00000001_2.wav", TrackCells());
@@ -384,8 +393,7 @@ TEST_F(ManagerSave, OthersHearOfAShowWhenTheUserHasBeenToldAndItIsSaved) {
 TEST_F(ManagerSave, WhatStandsInTheRowsIsCheckedAsTheNumberItBeginsWith) {
     const std::int32_t Walk = OpenGarden({1, 2});
     SetTrack(0, {u"first"_s, u"2nd"_s, {}, {}, {}, MakeSound(u"a.wav"_s)});
-    SetTrack(1, {u"1"_s, u"  "_s, {}, {}, {}, Sounds / u"gone.wav"_s});
-    SetTrack(2, {u"-1"_s, u"99"_s, {}, {}, {}, u"  "_s});
+    SetTrack(1, {u" "_s, u"  "_s, {}, {}, {}, u"  "_s});
     SaveWell();
     EXPECT_EQ("Walk 0 1:1[] 2:2[] | 1:0-2 00000001_1.wav", Stored(Walk));
     EXPECT_EQ("1: 0,2,False,False,False,00000001_1.wav", TrackCells());

@@ -1,4 +1,5 @@
 // The list of sound tracks of the slide show manager: what is offered, chosen, typed, dropped.
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QDropEvent>
 #include <QMimeData>
@@ -35,6 +36,11 @@ class ManagerTracks : public ManagerRig {
         const QPoint Dots(Cell.right() - 5, Cell.center().y());
         QTest::mouseClick(Tracks().viewport(), Qt::LeftButton, {}, Dots);
     }
+    std::string Places(int Row) {
+        return (Tracks().TextMatrix(Row, TrackList::ColStart) + u'-' +
+                Tracks().TextMatrix(Row, TrackList::ColEnd))
+            .toStdString();
+    }
     std::string Offered(int Col) { return Tracks().Column(Col).List.join(u'|').toStdString(); }
     static void KeyReturn() { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); }
     void GoTo(int Row, int Col) { ClickCell(Tracks(), Row, Col); }
@@ -43,7 +49,7 @@ class ManagerTracks : public ManagerRig {
 TEST_F(ManagerTracks, TheHeadingsStandInTwoLines) {
     OpenMgr(0);
     QStringList All;
-    for (int Col = 0; Col < Tracks().Cols(); ++Col) All << Tracks().Column(Col).Heading;
+    for (int Col = 0; Col <= TrackList::ColFile; ++Col) All << Tracks().Column(Col).Heading;
     EXPECT_EQ(
         "Start Slide\nSeq|End Slide\nSeq|Repeat|Fit To\nSong|Fade On\nLast Slide|"
         "Sound Track\nFile Location",
@@ -103,8 +109,8 @@ TEST_F(ManagerTracks, TheButtonAsksForASoundFile) {
     Dialogs.Answer = MakeSound(u"song.mp3"_s);
     PressDots(1);
     EXPECT_EQ(1, Dialogs.Count);
-    EXPECT_EQ("Wave Audio Files (*.wav)|*.wav|MP3 Audio Files (*.mp3)|*.mp3",
-              Dialogs.Filters.toStdString());
+    EXPECT_TRUE(Dialogs.Filters.startsWith(u"All Sound Files ("_s))
+        << Dialogs.Filters.toStdString();
     EXPECT_EQ((Sounds / u"song.mp3"_s).toStdString(), File(1));
     Dialogs.Answer.clear();
     PressDots(1);
@@ -115,7 +121,7 @@ TEST_F(ManagerTracks, TheButtonAsksForASoundFile) {
 TEST_F(ManagerTracks, APathIsTyped) {
     OpenGarden({1});
     Put(Tracks(), 0, TrackList::ColFile, u"/music/a.wav"_s);
-    EXPECT_EQ("1: ,,,,,/music/a.wav", TrackCells());
+    EXPECT_EQ("1: 1,1,,,,/music/a.wav", TrackCells());
     Begin(Tracks(), 1, TrackList::ColFile, u"/music/b.wav"_s);
     Name().setFocus();
     EXPECT_EQ("/music/b.wav", File(1)) << "typing is kept when another control is chosen";
@@ -146,6 +152,51 @@ TEST_F(ManagerTracks, DeleteEmptiesTheSelectedRowsAndTheOthersKeepTheirNumbers) 
     Tracks().setFocus();
     QTest::keyClick(&Tracks(), Qt::Key_Delete);
     EXPECT_EQ("1: 1,1,True,,,0.wav|4: 1,1,True,,,3.wav", TrackCells());
+}
+
+TEST_F(ManagerTracks, TypingANumberSelectsItAndNotTheFirstThatBeginsSo) {
+    AddAlbumSlides(QStringList(25, u"x"_s));
+    OpenNew();
+    Push("cmdMoveRightAll");
+    const auto Typed = [&](const char* Keys) {
+        Type(Keys);
+        KeyReturn();
+        return Tracks().TextMatrix(0, TrackList::ColStart).toStdString();
+    };
+    ASSERT_TRUE(Tracks().EditCell(0, TrackList::ColStart));
+    EXPECT_EQ("1", Typed("1"));
+    ASSERT_TRUE(Tracks().EditCell(0, TrackList::ColStart));
+    EXPECT_EQ("12", Typed("12"));
+    ASSERT_TRUE(Tracks().EditCell(0, TrackList::ColStart));
+    EXPECT_EQ("2", Typed("2"));
+}
+
+TEST_F(ManagerTracks, TypingANumberCountsInTheOpenListToo) {
+    AddAlbumSlides(QStringList(25, u"x"_s));
+    OpenNew();
+    Push("cmdMoveRightAll");
+    ASSERT_TRUE(Tracks().EditCell(0, TrackList::ColEnd));
+    auto* Box = Tracks().findChild<QComboBox*>();
+    Box->setCurrentIndex(0);
+    Box->showPopup();
+    QTest::keyClicks(Box->view(), u"1"_s);
+    QTest::keyClick(Box->view(), Qt::Key_Return);
+    EXPECT_EQ("1", Tracks().TextMatrix(0, TrackList::ColEnd).toStdString());
+}
+
+TEST_F(ManagerTracks, PlacesAreProposedForAFileThatIsChosenTypedOrDropped) {
+    OpenGarden({1, 2, 3, 4, 5});
+    Dialogs.Answer = MakeSound(u"song.mp3"_s);
+    PressDots(0);
+    EXPECT_EQ("1: 1,5,,,," + File(0), TrackCells());
+    SetTrack(0, {u"1"_s, u"2"_s});
+    Put(Tracks(), 1, TrackList::ColFile, u"/music/a.wav"_s);
+    EXPECT_EQ("3-5", Places(1)) << "behind the last";
+    EXPECT_TRUE(Drop({Sounds / u"b.mp3"_s}, 2));
+    EXPECT_EQ("-", Places(2)) << "no slides are left";
+    SetTrack(3, {u"2"_s});
+    EXPECT_TRUE(Drop({Sounds / u"b.mp3"_s}, 3));
+    EXPECT_EQ("2-", Places(3)) << "what somebody has given stays";
 }
 
 }  // namespace

@@ -20,7 +20,7 @@ class Tracks : public ::testing::Test {
     }
     std::string Cells(int Row) {
         QStringList All;
-        for (int Col = 0; Col < List.Cols(); ++Col) All << List.TextMatrix(Row, Col);
+        for (int Col = 0; Col <= TrackList::ColFile; ++Col) All << List.TextMatrix(Row, Col);
         return All.join(u',').toStdString();
     }
     TrackList List;

@@ -19,14 +19,15 @@ class FakeDialogs : public FileDialogs {
   public:
     FakeDialogs() : mBefore(TheServices().Dialogs) { TheServices().Dialogs = this; }
     ~FakeDialogs() override { TheServices().Dialogs = mBefore; }
-    QString OpenFile(const QString&, const QString&, const QString& Asked) override {
+    QString OpenFile(const QString&, const QString& Folder, const QString& Asked) override {
         ++Count;
+        StartDir = Folder;
         Filters = Asked;
         return Answer;
     }
     QString SaveFile(const QString&, const QString&, const QString&) override { return {}; }
     QString ChooseFolder(const QString&, const QString&) override { return {}; }
-    QString Answer, Filters;
+    QString Answer, Filters, StartDir;
     int Count = 0;
 
   private:

@@ -1,0 +1,103 @@
+#include "printing/TablePages.h"
+
+namespace neb {
+namespace {
+
+// Inches.
+constexpr double Margin = 0.6, TitleHeight = 0.3, LineHeight = 0.17, LineStep = 0.2, Gap = 0.1;
+constexpr qsizetype LettersToTheInch = 14;  // of a line of text, about
+
+// A text in lines of so many letters, broken at blanks where there are some.
+QStringList Broken(QString Text, qsizetype Most) {
+    QStringList Lines;
+    while (Text.size() > Most) {
+        const qsizetype Blank = Text.lastIndexOf(u' ', Most);
+        const qsizetype End = Blank > Most / 2 ? Blank : Most;
+        Lines << Text.left(End);
+        Text = QStringLiteral("    ") + Text.mid(End).trimmed();
+    }
+    return Lines << Text;
+}
+
+class TableComposer {
+  public:
+    TableComposer(PrintDocument& Into, const TableToPrint& Table) : mInto(Into), mTable(Table) {}
+
+    void Compose() {
+        mInto.Clear();
+        mInto.SetOrientation(PageTurn::Landscape);
+        mInto.StartDoc();
+        BeginPage();
+        Line({mTable.Title, {Margin, mY, Width(), TitleHeight}}, TitleHeight + Gap);
+        for (const QString& Each : mTable.Intro) Text(Each);
+        mY += Gap;
+        Headings();
+        for (const QStringList& Each : mTable.Rows) {
+            if (IsFull()) Turn();
+            Cells(Each);
+        }
+        mIsTable = false;
+        for (const QString& Each : mTable.Tail)
+            for (const QString& Part :
+                 Broken(Each, static_cast<qsizetype>(Width()) * LettersToTheInch))
+                Text(Part);
+        mInto.EndDoc();
+    }
+
+  private:
+    double Width() const { return mInto.PageSize().width() - 2 * Margin; }
+    double Bottom() const { return mInto.PageSize().height() - Margin - LineStep; }
+    bool IsFull() const { return mY + LineStep > Bottom(); }
+    void BeginPage() {
+        ++mPage;
+        mY = Margin;
+        const QRectF Foot(Margin, Bottom() + LineStep - LineHeight, Width(), LineHeight);
+        mInto.DrawText({mTable.Title, Foot, TextSide::Left});
+        mInto.DrawText({QString::number(mPage), Foot, TextSide::Right});
+    }
+    void Turn() {
+        mInto.NewPage();
+        BeginPage();
+        if (mIsTable) Headings();
+    }
+    void Line(const PlacedText& Its, double Step) {
+        mInto.DrawText(Its);
+        mY += Step;
+    }
+    void Text(const QString& Its) {
+        if (IsFull()) Turn();
+        Line({Its, {Margin, mY, Width(), LineHeight}}, LineStep);
+    }
+    void Headings() {
+        QStringList All;
+        for (const TableColumn& Each : mTable.Columns) All << Each.Heading;
+        Cells(All);
+        mY += Gap / 2;
+    }
+    void Cells(const QStringList& Texts) {
+        double X = Margin;
+        for (size_t Col = 0; Col < mTable.Columns.size(); ++Col) {
+            const TableColumn& Its = mTable.Columns[Col];
+            const double Wide = Width() * Its.Share;
+            mInto.DrawText({Texts.value(static_cast<qsizetype>(Col)),
+                            {X, mY, Wide - Gap, LineHeight},
+                            Its.Right ? TextSide::Right : TextSide::Left});
+            X += Wide;
+        }
+        mY += LineStep;
+    }
+
+    PrintDocument& mInto;
+    const TableToPrint& mTable;
+    double mY = 0;
+    int mPage = 0;
+    bool mIsTable = true;
+};
+
+}  // namespace
+
+void ComposeTable(PrintDocument& Into, const TableToPrint& Table) {
+    TableComposer(Into, Table).Compose();
+}
+
+}  // namespace neb

@@ -1,0 +1,14 @@
+// Measures the sound tracks of a show beside the window and spreads the slides over them. Used by
+// the slide show manager.
+#pragma once
+
+#include "albums/TrackRanges.h"
+
+namespace neb {
+
+// The tracks as FitAllTracks makes them. Paths: the file of each row, empty for none. The windows
+// go on painting meanwhile. Refused, and the row named, where a file cannot be played or does not
+// answer within ten seconds.
+Answer<std::vector<ShowTrack>> FitAllAside(const ShowContent& Show, const QStringList& Paths);
+
+}  // namespace neb

@@ -1,0 +1,40 @@
+// Small pictures of slides, read beside the window as they come into view. Used by TimeLine.
+#pragma once
+
+#include <QHash>
+#include <QImage>
+#include <QStringList>
+#include <QTimer>
+#include <memory>
+
+#include "support/work/Job.h"
+
+namespace neb {
+
+class SlidePictures : public QObject {
+    Q_OBJECT
+
+  public:
+    static constexpr QSize Largest{128, 72};  // pixels, in the picture's own proportions
+
+    explicit SlidePictures(QObject* Owner);
+
+    // Those that are seen now. While earlier ones are read nothing begins: Read comes, and whoever
+    // paints asks again.
+    void Ask(const QStringList& Paths);
+    // Null where it is not there yet, and for one that cannot be read.
+    QImage Of(const QString& Path) const { return mPictures.value(Path); }
+
+  Q_SIGNALS:
+    void Read();
+
+  private:
+    void Look();
+
+    using Pictures = QHash<QString, QImage>;
+    Pictures mPictures;
+    std::unique_ptr<Job<Pictures>> mJob;
+    QTimer mLook;
+};
+
+}  // namespace neb

@@ -1,0 +1,63 @@
+// What the songs of an album were called, in the list beside it.
+#include "db/SongNames.h"
+
+#include <gtest/gtest.h>
+
+#include "harness/TempFolder.h"
+#include "support/files/modHostFiles.h"
+
+namespace neb {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class SongList : public ::testing::Test {
+  protected:
+    SongList() {
+        MakeDirs(Folder / u"SoundTracks"_s);
+        Put(u"00000001_1.mp3"_s, "12345");
+    }
+    void Put(const QString& Name, const QByteArray& Bytes) {
+        WriteFile(Folder / u"SoundTracks/"_s + Name, Bytes);
+    }
+    std::string Name(const char* File, qint64 Bytes = 5) {
+        return SongNames::Of(Folder.Path()).NameOf(QLatin1String(File), Bytes).toStdString();
+    }
+    harness::TempFolder Folder;
+};
+
+TEST_F(SongList, ANameIsKeptInAnyScript) {
+    KeepSongNames(Folder.Path(), {{u"00000001_1.mp3"_s, 5, u"Сон в летнюю ночь.mp3"_s}});
+    EXPECT_EQ("Сон в летнюю ночь.mp3", Name("00000001_1.MP3"));
+}
+
+TEST_F(SongList, AFileOfAnotherLengthIsAnotherSong) {
+    KeepSongNames(Folder.Path(), {{u"00000001_1.mp3"_s, 5, u"a.mp3"_s}});
+    EXPECT_EQ("", Name("00000001_1.mp3", 6));
+    EXPECT_EQ("", Name("00000001_2.mp3"));
+}
+
+TEST_F(SongList, NamesOfFilesThatHaveGoneGoWithTheNextWriting) {
+    Put(u"00000001_2.mp3"_s, "12345");
+    KeepSongNames(Folder.Path(),
+                  {{u"00000001_1.mp3"_s, 5, u"a.mp3"_s}, {u"00000001_2.mp3"_s, 5, u"b.mp3"_s}});
+    DeleteFile(Folder / u"SoundTracks/00000001_1.mp3"_s);
+    KeepSongNames(Folder.Path(), {{u"00000001_2.mp3"_s, 5, u"c\n\td.mp3"_s}});
+    EXPECT_EQ("00000001_2.mp3\t5\tc  d.mp3\n", ReadFile(Folder / u"Songs.txt"_s).toStdString());
+}
+
+TEST_F(SongList, WithNothingNewNoListIsMade) {
+    KeepSongNames(Folder.Path(), {});
+    EXPECT_FALSE(FileExists(Folder / u"Songs.txt"_s));
+    EXPECT_EQ("", Name("00000001_1.mp3"));
+}
+
+TEST_F(SongList, LinesThatCannotBeUnderstoodArePassedOver) {
+    const SongNames Read(
+        "x\n00000001_1.mp3\tfive\ta.mp3\n\t5\tb.mp3\n00000001_1.mp3\t5\t\n"
+        "00000001_1.mp3\t5\tc.mp3\textra\n00000001_1.mp3\t5\tgood.mp3\n\xff\xfe");
+    EXPECT_EQ("00000001_1.mp3\t5\tgood.mp3\n", Read.List().toStdString());
+}
+
+}  // namespace
+}  // namespace neb
