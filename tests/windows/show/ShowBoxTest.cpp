@@ -123,6 +123,26 @@ TEST_F(ShowBox, AnEmptyTrackDoesNotHoldUpTheShow) {
     ExpectToGoOnBehind(EmptyTrack);
 }
 
+// A timer whose own work waits in a box does not tick, however the show came to that work.
+TEST_F(ShowBox, ATickIsOverBeforeItsBoxComesUp) {
+    PlayInSilence();
+    AddTrack(QStringLiteral("none.wav"), false);
+    Run([&](Projector& Window) {
+        Timer1->stop();
+        bool Returned = false, Answered = false;
+        BehindTheBox([&](QMessageBox& Box) {
+            EXPECT_TRUE(Returned);
+            Answered = true;
+            Answer(Box);
+        });
+        QTest::qSleep(450);
+        Window.Timer1_Timer();
+        Returned = true;
+        EXPECT_EQ(2, CurrentSlideSeq);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return Answered && BoxesThatAreUp().empty(); }, 9000));
+    });
+}
+
 TEST_F(ShowBox, AFaultInATickDoesNotHoldUpTheShow) {
     Sound.OnStep = [](const SlideSound& Slide, ShowSoundFields&) -> bool {
         if (Slide.SlideSeq == 2) throw Fault(QStringLiteral("The device is on fire."));
