@@ -13,9 +13,11 @@
 #include <cstdlib>
 
 #include "controls/forms/NebApplication.h"
+#include "controls/picture/XShow.h"
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
 #include "harness/SoundFiles.h"
+#include "pictures/ImgX.h"
 #include "settings/modNEBSlideShow.h"
 #include "show/EngineSound.h"
 #include "sound/devices/SdlSoundDevices.h"
@@ -82,7 +84,7 @@ class NotedSound : public EngineSound {
 void MakePicture(const QString& Path, int Hue) {
     QImage Image(1280, 800, QImage::Format_RGB32);
     Image.fill(QColor::fromHsv(Hue, 160, 220));
-    Image.save(Path, "JPG");
+    if (!Image.save(Path, "JPG")) std::puts("no picture");
 }
 
 // Five slides with a song that is fitted to them, four with one that repeats, three in silence.
@@ -128,7 +130,8 @@ void Watch(Form& Window, const Book& Of, double End, double& Before) {
 }
 
 int Print(const Book& Of, double Before, double Minutes) {
-    if (Before == 0) return std::puts("too short for three rounds of the show"), 1;
+    if (Before == 0)
+        return std::printf("too short for three rounds: %d slides came up\n", Of.Count), 1;
     std::printf("A show of %.1f minutes: %d slides\n", Minutes, Of.Count);
     std::printf("  memory after three rounds %8.1f MB, at the end %+.2f MB (limit %.0f)\n", Before,
                 Megabytes() - Before, MostGrowth);
@@ -143,6 +146,11 @@ int main(int argc, char** argv) {
     qputenv("SDL_AUDIODRIVER", "dummy");
     const double Minutes = argc > 1 ? std::atof(argv[1]) : DefaultMinutes;
     NebApplication App(argc, argv);
+    XShow::SetReader([](const QString& File) {
+        ImgX Picture;
+        Picture.Load(File);
+        return Picture.Picture();
+    });
     QTemporaryDir Dir;
     SetDocumentsPath(Dir.path());
     AppPathCache = Dir.path() + QStringLiteral("/program/");

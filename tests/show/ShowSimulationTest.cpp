@@ -1,76 +1,11 @@
 // Whole shows on a clock that jumps: what sounded when, against what the rules say, written out by
-// hand. Loaded is at the beginning and not playing; "25.5 moved a@30" is the device's own word.
-#include <QMap>
-#include <cmath>
-
-#include "RehearsalRig.h"
-#include "support/modFUFL.h"
+// hand.
+#include "SimulationRig.h"
 
 namespace neb::test {
 namespace {
 
-using Kind = RehearsalSoundKind;
-
-const QMap<Kind, QString> Words = {
-    {Kind::Loaded, "load"},  {Kind::Failed, "fail"},  {Kind::Released, "free"},
-    {Kind::Playing, "play"}, {Kind::Paused, "pause"}, {Kind::Stopped, "stop"},
-    {Kind::Moved, "move"},   {Kind::Ended, "end"},    {Kind::Volume, "volume"}};
-
-class ShowSimulation : public RehearsalRig {
-  protected:
-    // Lengths in seconds of the files that there are.
-    void AddTrack(const QString& Name, double Seconds, int First, int Last, bool Fit = false,
-                  bool Repeat = false, bool Fade = false) {
-        MakeSound(SoundTracksFolder(Engine.DBPath(), Album) + Name, Seconds);
-        SlideShow->SaveSoundTrack(static_cast<std::int32_t>(SlideShow->SoundTracks.size()) + 1,
-                                  Name, First, Last, Repeat, Fit, Fade);
-    }
-    void AddClip(int Place, const QString& Name, double Seconds, bool Override,
-                 bool Repeat = false) {
-        MakeSound(SlidesFolder(Engine.DBPath(), Album) + Name, Seconds);
-        Slide(Place).SoundTrackLoc = Name;
-        Slide(Place).Override = Override;
-        Slide(Place).Repeat = Repeat;
-    }
-    void MakeSound(const QString& Path, double Seconds) {
-        WriteFile(Path, "sound");
-        mLengths[GetFileBaseName(Path)] = Seconds;
-    }
-    RehearsalOptions Options() {
-        RehearsalOptions Chosen;
-        Chosen.LengthOfSound = [this](const QString& Path) {
-            return mLengths.value(GetFileBaseName(Path));
-        };
-        return Chosen;
-    }
-    // "0 load a|0 play a@0|15 end a@15": all but the volumes.
-    static std::string Heard(const Rehearsal& Of) {
-        QStringList Log;
-        for (const RehearsalSoundEvent& Event : Of.SoundEvents()) {
-            if (Event.Kind == Kind::Volume) continue;
-            QString Text = u"%1 %2"_s.arg(Event.At).arg(Words[Event.Kind]);
-            if (Event.Kind != Kind::Released) Text += u' ' + GetFileBaseName(Event.File);
-            if (Event.Kind != Kind::Released && Event.Kind != Kind::Loaded)
-                Text += u"@%1"_s.arg(std::round(Event.Position * 1000) / 1000);
-            Log << Text;
-        }
-        return Log.join(u'|').toStdString();
-    }
-    // The show from its start for so many seconds.
-    std::string HeardFor(double Seconds) {
-        Rehearsal Of(Engine, Album, Show, Options());
-        Of.Start();
-        Of.RunFor(Seconds);
-        return Heard(Of);
-    }
-    static std::string Places(const Rehearsal& Of) {
-        QStringList Shown;
-        for (const RehearsalCue& Cue : Of.Cues()) Shown << u"%1@%2"_s.arg(Cue.SlideSeq).arg(Cue.At);
-        return Shown.join(u' ').toStdString();
-    }
-
-    QHash<QString, double> mLengths;
-};
+using ShowSimulation = SimulationRig;
 
 TEST_F(ShowSimulation, TracksPlayOverTheirSlidesAndEndWithThem) {
     AddSlides(5);
@@ -247,105 +182,6 @@ TEST_F(ShowSimulation, AFadeRunsOverTheLastSlideAndTheNextTickIsLoudAgain) {
     }
     // A new file begins at the full level.
     EXPECT_EQ("100 100 98 80 50 20 0 100 100", Volumes.join(u' ').toStdString());
-}
-
-TEST_F(ShowSimulation, APauseHoldsTheSoundAndTheSlideKeepsWhatWasLeftOfItsTime) {
-    AddSlides(3);
-    AddTrack(u"a.wav"_s, 100, 1, 3);
-    Rehearsal Of(Engine, Album, Show, Options());
-    Of.Start();
-    Of.RunFor(3);
-    Of.Run().PlayPause();
-    Of.RunFor(30);
-    Of.Run().PlayPause();
-    Of.RunFor(6);
-    EXPECT_EQ("1@0 2@35", Places(Of));
-    EXPECT_EQ("0 load a|0 play a@0|3 pause a@3|33 play a@3", Heard(Of));
-}
-
-TEST_F(ShowSimulation, AFittedShowEndsWithItsMusicAfterAnyPauses) {
-    AddSlides(5);
-    AddTrack(u"a.wav"_s, 40, 1, 4, true);
-    Rehearsal Of(Engine, Album, Show, Options());
-    Of.Start();
-    for (const double Seconds : {7.0, 1.5, 14.25}) {  // the third lies behind two changes of slides
-        Of.RunFor(Seconds);
-        Of.Run().PlayPause();
-        Of.RunFor(100.03);
-        Of.Run().PlayPause();
-    }
-    Of.RunFor(20);
-    EXPECT_EQ("1@0 2@210.06 3@220.06 4@330.09 5@340.09", Places(Of));
-    EXPECT_EQ(
-        "0 load a|0 move a@0|0 play a@0|7 pause a@7|107.03 play a@7|108.53 pause a@8.5|"
-        "208.56 play a@8.5|222.81 pause a@22.75|322.84 play a@22.75|340.09 end a@40|340.09 free",
-        Heard(Of))
-        << "no slide is silent, and none outlasts the music";
-}
-
-TEST_F(ShowSimulation, AStepInAPauseLeavesTheShowPaused) {
-    AddSlides(4);
-    AddTrack(u"a.wav"_s, 40, 1, 4, true);
-    Rehearsal Of(Engine, Album, Show, Options());
-    Of.Start();
-    Of.RunFor(3);
-    Of.Run().PlayPause();
-    Of.RunFor(10);
-    Of.Run().NextSlide();
-    Of.RunFor(60);
-    Of.Run().NextSlide();
-    EXPECT_FALSE(Of.Timer1On());
-    EXPECT_EQ("Resume/Stop",
-              (Of.Run().State().PlayCommand + u'/' + Of.Run().State().StopCommand).toStdString());
-    EXPECT_EQ("1@0 2@13 3@73", Places(Of));
-    EXPECT_EQ("0 load a|0 move a@0|0 play a@0|3 pause a@3|13 move a@10|73 move a@20", Heard(Of))
-        << "at its place, and silent";
-    Of.RunFor(5);
-    Of.Run().PlayPause();
-    Of.RunFor(11);
-    EXPECT_EQ("1@0 2@13 3@73 4@88", Places(Of)) << "with its whole time";
-    EXPECT_EQ("0 load a|0 move a@0|0 play a@0|3 pause a@3|13 move a@10|73 move a@20|78 play a@20",
-              Heard(Of));
-    Of.Run().PlayPause();
-    EXPECT_FALSE(Of.Timer1On()) << "the next P pauses";
-}
-
-TEST_F(ShowSimulation, AStepInAStoppedShowSetsItGoingAndTheWordsSaySo) {
-    AddSlides(4);
-    Rehearsal Of(Engine, Album, Show, Options());
-    Of.Start();
-    Of.Run().StopRestart();
-    Of.RunFor(10);
-    Of.Run().NextSlide();
-    EXPECT_EQ("Pause", Of.Run().State().PlayCommand.toStdString());
-    EXPECT_EQ("Stop", Of.Run().State().StopCommand.toStdString());
-    Of.RunFor(6);
-    EXPECT_EQ("1@0 2@10 3@15", Places(Of));
-    Of.Run().PlayPause();
-    EXPECT_FALSE(Of.Timer1On());
-}
-
-TEST_F(ShowSimulation, PreferencesAndOtherWindowsLeaveAPausedShowPaused) {
-    AddSlides(4);
-    AddTrack(u"a.wav"_s, 2, 1, 4, false, true);
-    Rehearsal Of(Engine, Album, Show, Options());
-    Of.Start();
-    Of.RunFor(3);
-    Of.Run().PlayPause();
-    Of.Run().EditPreferences([&] { Of.RunFor(10); });
-    Of.Run().StopMe();
-    Of.RunFor(10);
-    Of.Run().ReStartMe();
-    Of.RunFor(10);
-    EXPECT_EQ("0 load a|0 play a@0|2 play a@0|3 pause a@1", Heard(Of));
-    Of.Run().PlayPause();
-    Of.Run().EditPreferences([&] { Of.RunFor(10); });
-    Of.RunFor(1);
-    EXPECT_EQ("0 load a|0 play a@0|2 play a@0|3 pause a@1|33 play a@1|33 pause a@1|43 play a@1",
-              Heard(Of));
-    EXPECT_EQ("1@0", Places(Of));
-    Of.RunFor(1);
-    EXPECT_EQ("1@0 2@45", Places(Of));
 }
 
 TEST_F(ShowSimulation, AStepInAStoppedFittedShowPlaysFromTheSlidesPlace) {

@@ -197,7 +197,8 @@ std::string ProjectorRig::Words(const frmSlideShowProjector& Window) const {
 
 // Inside an event the toolkit may leave those that wait already for later, unless one more comes.
 void ProjectorRig::Spin(int Milliseconds) {
-    QMetaObject::invokeMethod(qApp, [] {}, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        qApp, [] {}, Qt::QueuedConnection);
     QTest::qWait(Milliseconds);
 }
 
