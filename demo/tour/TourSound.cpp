@@ -34,6 +34,7 @@ class ToldGraph : public SoundGraph {
     double GetDuration() const override { return mReal->GetDuration(); }
     double GetCurrentPosition() const override { return mReal->GetCurrentPosition(); }
     void PutCurrentPosition(double Seconds) override { mReal->PutCurrentPosition(Seconds); }
+    void PutRepeat(bool On) override { mReal->PutRepeat(On); }
     const QString& Path() const { return mPath; }
 
   private:

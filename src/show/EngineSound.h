@@ -1,5 +1,6 @@
 // The sound of a running show, played: takes the rules of SoundSteps to a player of its own. Each
-// run of a show gets one from its world.
+// run of a show gets one from its world. A file that does not open at once does not hold up the
+// show: its sound begins when it has come.
 #pragma once
 
 #include "show/ShowSound.h"
@@ -10,8 +11,6 @@ namespace neb {
 
 class clsDBEngine;
 
-// Telling runs the event loop: other steps may run meanwhile, and the show may end. Whoever calls
-// SoundStep therefore holds on to the object until it returns.
 class EngineSound : public ShowSound {
   public:
     // Engine tells where the files lie; null: nowhere. Devices may be null: a show in silence.
@@ -24,25 +23,39 @@ class EngineSound : public ShowSound {
     void SetVolume(int Value) override;
     void CheckRepeat() override;
     bool SoundStep(const SlideSound& Slide, StepCause Cause, ShowSoundFields& Fields) override;
-    void SyncSoundToSlide(std::int32_t Place, double Interval, bool Force,
-                          ShowSoundFields& Fields) override;
+    bool TakeLate(double Elapsed, ShowSoundFields& Fields) override;
     void LoadAhead(const SlideSound& Next) override;
     void Release() override;
 
   private:
+    // A step whose file has not come yet.
+    struct Coming {
+        std::unique_ptr<SoundOpening> File;
+        SoundOrder Order;
+        SlideSound Slide;
+        StepCause Cause;
+        PlayerState Before;
+        double Earlier = 0;  // seconds that it was awaited during earlier slides
+        double OfSlide = 0;  // and during this one, as far as is known
+    };
     QString DatabaseFolder() const;
     PlayerState Player() const;
-    void CarryOut(const SoundActions& Actions, std::uint32_t Step);
+    void Await(const SoundTurn& At);
+    void Follow(const SoundTurn& At);
+    void GoOn(const SoundTurn& At);
+    void Unload();
+    bool TakeWhatHasCome(int Patience, ShowSoundFields& Fields);
+    void CarryOut(const SoundActions& Actions);
     void Do(const SoundDo::Tell& This) { mTell(This.Text); }
-    void Do(const SoundDo::LoadFile& This) { mEngine.LoadFile(This.Path); }
-    void Do(const SoundDo::UnloadFile&) { mEngine.UnloadFile(); }
-    void Do(const SoundDo::SetPosition& This) { mEngine.SetCurrentPosition(This.Seconds); }
-    void Do(const SoundDo::Play& This) { mEngine.Play(This.Repeat); }
+    void Do(const SoundDo::SetPosition& This);
+    void Do(const SoundDo::Play& This);
 
     const clsDBEngine* mDatabase;
     const ShowTeller mTell;
     clsDirectSound mEngine;
-    std::uint32_t mStep = 0;  // the newest; the end of the show counts as one
+    std::optional<Coming> mComing;
+    std::optional<bool> mPaused;  // in a pause: whether it would be playing
+    int mVolume = 100;
     bool mReleased = false;
 };
 

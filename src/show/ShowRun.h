@@ -76,15 +76,17 @@ class ShowRun {
     void ReloadEffectSettings();
     void Enter(const ShowTransition& Transition);
     void GotoFirstSlide();
+    void Tick();
+    void TickAtEnd();
+    bool TakeLateSound();
     void SetTimer1(bool On);
     void SetTimer2(bool On);
-    void ResetSlideClock();
     void UserStep(std::int32_t SlideSeq);
     bool AdvanceSlide();
     void SetFadeVolume(double Elapsed);
     bool ShowCurrentSlide(StepCause Cause);
     bool ShowPlace(clsNEBAlbum& Album, const clsNEBSlideShow& SlideShow, StepCause Cause);
-    bool PlaySound(const SlideSound& Playing, StepCause Cause);
+    void PlaySound(const SlideSound& Playing, StepCause Cause);
     bool Fail(const QString& Message);
     void StopShow();
     void SetCaption(const QString& Text);
@@ -99,10 +101,7 @@ class ShowRun {
     ShowStage& mStage;
     const ShowWorld mWorld;
     SlideClock mSlideClock;
-    // The number of the run through a slide or a state, counted up by each: what stands in a box
-    // while the number moves on has been overtaken, and is over.
-    std::uint32_t mRunNumber = 0;
-    std::shared_ptr<ShowSound> mSound;
+    std::unique_ptr<ShowSound> mSound;
     ShowSoundFields mSoundFields;
     ShowState mState;
     EffectTables mEffects;

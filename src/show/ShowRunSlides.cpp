@@ -26,12 +26,11 @@ bool IsNoSlide(const QString& Path) {
 
 // As ShowCurrentSlide.
 bool ShowRun::AdvanceSlide() {
-    ++mRunNumber;
     ++mWorld.Place.CurrentSlideSeq;
     return ShowCurrentSlide(StepCause::Timer);
 }
 
-// True when the slide is up and nothing has overtaken it.
+// True when the slide is up; else the show has stopped.
 bool ShowRun::ShowCurrentSlide(StepCause Cause) {
     ShowMemory& Place = mWorld.Place;
     mSoundFields.TrackEndsHere = mSoundFields.FitToSong = mSoundFields.FadeOnLast = false;
@@ -56,7 +55,6 @@ bool ShowRun::ShowCurrentSlide(StepCause Cause) {
 }
 
 bool ShowRun::ShowPlace(clsNEBAlbum& Album, const clsNEBSlideShow& SlideShow, StepCause Cause) {
-    const std::uint32_t Run = mRunNumber;
     const ChosenDetail Chosen = ChooseDetail(SlideShow, Memory().CurrentSlideSeq);
     SetCaption(Chosen.Detail ? FixCaptionText(Chosen.Detail->SlideText) : QString());
     const clsNEBSlide* Slide = Chosen.Detail ? Album.GetSlide(Chosen.Detail->SlideID) : nullptr;
@@ -64,20 +62,17 @@ bool ShowRun::ShowPlace(clsNEBAlbum& Album, const clsNEBSlideShow& SlideShow, St
         return Fail(QStringLiteral("Slide #%1 of the current slide show does not exist!")
                         .arg(Chosen.Number));
     if (mCaption.isEmpty()) SetCaption(FixCaptionText(Slide->SlideText));
-    if (!DisplaySlideFile(Slide->SlideLoc) || Run != mRunNumber) return false;
+    if (!DisplaySlideFile(Slide->SlideLoc)) return false;
     mWorld.Place.CurrentSlideSeq = Chosen.CurrentSeq;
     const SlideSound Playing = SoundOf(Chosen, *Slide, SlideShow);
     PrefetchNext(Album, SlideShow);
-    return PlaySound(Playing, Cause);
+    PlaySound(Playing, Cause);
+    return true;
 }
 
-bool ShowRun::PlaySound(const SlideSound& Playing, StepCause Cause) {
-    const std::uint32_t Run = mRunNumber;
-    const auto Held = mSound;  // what the sound step has to tell may outlive the show
-    const bool WatchRepeat = Held->SoundStep(Playing, Cause, mSoundFields);
-    if (Run != mRunNumber) return false;
+void ShowRun::PlaySound(const SlideSound& Playing, StepCause Cause) {
+    const bool WatchRepeat = mSound->SoundStep(Playing, Cause, mSoundFields);
     if (WatchRepeat) SetTimer2(true);
-    return true;
 }
 
 SlideSound ShowRun::SoundOf(const ChosenDetail& Chosen, const clsNEBSlide& Slide,

@@ -57,17 +57,17 @@ class ShowSound {
     virtual void StopSound() = 0;           // and back to the start
     virtual void SetVolume(int Value) = 0;  // 0 to 100
     virtual void CheckRepeat() = 0;         // once a second
-    // The last stage of showing a slide. What it has to tell may take long, and the show goes on
-    // meanwhile: a step that a newer one has overtaken does nothing more. True: CheckRepeat is
-    // wanted again.
+    // The last stage of showing a slide. In a pause the sound is made ready, at its place, and Play
+    // lets it be heard. A file that takes its time is taken up later. True: CheckRepeat is wanted
+    // again.
     virtual bool SoundStep(const SlideSound& Slide, StepCause Cause, ShowSoundFields& Fields) = 0;
-    // Moves a fitted track to a place, counted from 1, of Interval seconds each.
-    virtual void SyncSoundToSlide(std::int32_t Place, double Interval, bool Force,
-                                  ShowSoundFields& Fields) = 0;
+    // Ten times a second: a sound that has come late begins where it would be by now; Elapsed is
+    // how long the slide has been up, in seconds. True when one has come.
+    virtual bool TakeLate(double /*Elapsed*/, ShowSoundFields&) { return false; }
     // Opens the sound of the slide that comes next in the background.
     virtual void LoadAhead(const SlideSound&) {}
-    // The end of the show: stops and unloads. Nothing sounds afterwards, not even out of a step
-    // that stands in a box meanwhile; every later call does nothing.
+    // The end of the show: stops and unloads. Nothing sounds afterwards; every later call does
+    // nothing.
     virtual void Release() {}
 };
 
@@ -80,10 +80,9 @@ class SilentShowSound : public ShowSound {
     void SetVolume(int) override {}
     void CheckRepeat() override {}
     bool SoundStep(const SlideSound&, StepCause, ShowSoundFields&) override { return false; }
-    void SyncSoundToSlide(std::int32_t, double, bool, ShowSoundFields&) override {}
 };
 
-// Says something to whoever watches the show; events go on until it is answered.
+// Says something to whoever watches the show, and returns at once.
 using ShowTeller = std::function<void(const QString& Message)>;
 
 // How each run of a show comes by its sound.

@@ -24,7 +24,11 @@ class ShowStage {
     // begins its time anew.
     virtual void SetTimer1(bool On) = 0;
     virtual void SetTimer2(bool On) = 0;
-    // A plain box; events go on meanwhile, and the show with them.
+    // One tick of Timer1 more, after so many milliseconds: a slide whose time ends between two of
+    // them is followed when it is over, and not when the next one comes.
+    virtual void TickAfter(int Milliseconds) = 0;
+    // A plain box, which comes up once the step of the show is over: the call returns at once, and
+    // the show goes on behind the box.
     virtual void Tell(const QString& Message) = 0;
 };
 

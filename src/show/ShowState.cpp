@@ -3,26 +3,36 @@
 namespace neb {
 namespace {
 
-constexpr ShowTransition ToPaused{
-    SoundCommand::Pause, "Resume", "Stop", false, false, false, false, true};
-constexpr ShowTransition Resumed{
-    SoundCommand::Play, "Pause", nullptr, false, false, true, true, true};
-constexpr ShowTransition StartedAnew{
-    SoundCommand::None, "Pause", "Stop", true, true, true, true, true};
-constexpr ShowTransition ToStopped{
-    SoundCommand::Stop, "Play", "Resume", false, false, false, false, false};
-constexpr ShowTransition ShownAgain{
-    SoundCommand::Play, "Pause", "Stop", false, true, true, true, true};
+using Clock = ClockCommand;
+
+constexpr ShowTransition ToPaused{SoundCommand::Pause, "Resume", "Stop", false, false,
+                                  Clock::Hold,         false,    true};
+constexpr ShowTransition Resumed{SoundCommand::Play, "Pause", nullptr, false, false,
+                                 Clock::GoOn,        true,    true};
+constexpr ShowTransition StartedAnew{SoundCommand::None, "Pause", "Stop", true, true,
+                                     Clock::Start,       true,    true};
+constexpr ShowTransition ToStopped{SoundCommand::Stop, "Play", "Resume", false, false,
+                                   Clock::Hold,        false,  false};
+constexpr ShowTransition ShownAgain{SoundCommand::Play, "Pause", "Stop", false, true,
+                                    Clock::Start,       true,    true};
 
 }  // namespace
 
 const ShowTransition& PlayPauseTransition(const ShowState& State) {
     if (State.PlayCommand == u"Pause") return ToPaused;
-    return State.PlayCommand == u"Resume" ? Resumed : StartedAnew;
+    return IsPaused(State) ? Resumed : StartedAnew;
 }
 
 const ShowTransition& StopRestartTransition(const ShowState& State) {
     return State.StopCommand == u"Stop" ? ToStopped : ShownAgain;
+}
+
+bool IsPaused(const ShowState& State) {
+    return State.PlayCommand == u"Resume";
+}
+
+void EnterStep(ShowState& State) {
+    if (!IsPaused(State)) State = {QStringLiteral("Pause"), QStringLiteral("Stop")};
 }
 
 void EnterState(ShowState& State, const ShowTransition& Transition) {

@@ -12,6 +12,8 @@ struct ShowState {
 };
 
 enum class SoundCommand { None, Pause, Play, Stop };
+// Of the clock of the slides: a pause holds it, and a slide keeps what is left of its time.
+enum class ClockCommand { Hold, GoOn, Start };
 
 // What a change of state does, in the order of the fields.
 struct ShowTransition {
@@ -20,13 +22,18 @@ struct ShowTransition {
     const char* StopCommand;  // the new word; null: stays
     bool ToStart;             // go to the resume point or to slide 1
     bool ShowsSlide;
-    bool RestartsClock;
+    ClockCommand Clock;
     bool Timer1, Timer2;
 };
 
 // What the user's play command and stop command do in a state.
 const ShowTransition& PlayPauseTransition(const ShowState& State);
 const ShowTransition& StopRestartTransition(const ShowState& State);
+
+bool IsPaused(const ShowState& State);
+// The words of a running show: one of the user's steps sets a stopped show going, and leaves a
+// paused one paused.
+void EnterStep(ShowState& State);
 
 // The new words; everything else is the projector's to do.
 void EnterState(ShowState& State, const ShowTransition& Transition);

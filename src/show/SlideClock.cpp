@@ -20,10 +20,20 @@ void SlideClock::Start() {
 }
 
 void SlideClock::StartAt(double Moment) {
-    mStart = std::fmod(Moment, Day);
+    mStart = std::fmod(Moment + Day, Day);
+    mHeld.reset();
+}
+
+void SlideClock::Hold() {
+    mHeld = Elapsed();
+}
+
+void SlideClock::GoOn() {
+    if (mHeld) StartAt(mTime.Timer() - *mHeld);
 }
 
 double SlideClock::Elapsed() const {
+    if (mHeld) return *mHeld;
     const double Since = std::fmod(mTime.Timer() - mStart + Day, Day);
     return Since > Day - JustAhead ? 0 : Since;
 }

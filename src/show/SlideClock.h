@@ -2,6 +2,8 @@
 // moments since midnight.
 #pragma once
 
+#include <optional>
+
 namespace neb {
 
 class Clock;
@@ -13,6 +15,10 @@ class SlideClock {
     void Start();  // now
     // At a moment that has just passed, so that what a tick came late does not add up.
     void StartAt(double Moment);
+    // Stands still, and goes on from there: a pause is no part of a slide's time. Starting it sets
+    // it going, too.
+    void Hold();
+    void GoOn();
     // 0 up to 86400.
     double Elapsed() const;
     // The moment at which a slide of this time is over; from midnight on it may lie above 86400.
@@ -24,6 +30,7 @@ class SlideClock {
   private:
     const Clock& mTime;
     double mStart = 0;
+    std::optional<double> mHeld;  // what had elapsed; none while it runs
 };
 
 }  // namespace neb

@@ -1,6 +1,7 @@
 #include "show/SoundSteps.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "db/clsNEBSlideShow.h"
 #include "db/modAlbumFiles.h"
@@ -21,6 +22,7 @@ class Script {
   public:
     explicit Script(const PlayerState& Now) : mNow(Now) {}
 
+    void Tell(const QString& Text) { mActions.push_back(SoundDo::Tell{Text}); }
     void Play(bool Repeat) {
         mActions.push_back(SoundDo::Play{Repeat});
         mNow.IsPlaying = true;
@@ -88,12 +90,7 @@ void NoteTrack(const Track& Found, const SlideSound& Slide, ShowSoundFields& Fie
 // The slide's, in its track, from 1; wider than the numbers of a track: a hand-made file may hold
 // any.
 std::int64_t PlaceInTrack(const SoundTurn& At) {
-    return std::int64_t{At.Slide.SlideSeq} - At.Stage.Track.SlideSeqStart + 1;
-}
-
-// A stage that ends the step; CheckRepeat is wanted as before.
-SoundStage Ending(const SoundTurn& At, SoundActions Actions = {}) {
-    return {std::move(Actions), nullptr, At.Stage.Path, At.Stage.Track, At.Stage.WatchRepeat};
+    return std::int64_t{At.Slide.SlideSeq} - At.Order.Track.SlideSeqStart + 1;
 }
 
 void EndTrackPath(ShowSoundFields& Fields) {
@@ -112,126 +109,147 @@ void SavePlace(const SoundTurn& At) {
 
 // Starts what has just been loaded.
 void Start(const SoundTurn& At, bool Repeat, Script& Do) {
-    At.Fields.CurrentSoundFile = At.Stage.Path;
+    At.Fields.CurrentSoundFile = At.Order.Path;
     At.Fields.SoundRepeat = Repeat;
     Do.PlayUnlessPlaying(Repeat);
 }
 
 void Fit(const SoundTurn& At) {
-    const Track& Found = At.Stage.Track;
+    const Track& Found = At.Order.Track;
     const double Slides = static_cast<double>(Found.SlideSeqEnd) - Found.SlideSeqStart + 1;
     if (Found.FitToSong) At.Fields.SlideInterval = At.Now.Duration / Slides;
 }
 
 void SyncToPlace(const SoundTurn& At, Script& Do) {
-    Do.Sync(PlaceInTrack(At), At.Fields.SlideInterval, false, At.Fields.SoundRepeat);
+    const bool Force = At.Cause == StepCause::User;
+    Do.Sync(PlaceInTrack(At), At.Fields.SlideInterval, Force, At.Fields.SoundRepeat);
 }
 
-SoundStage AfterOverridingClip(const SoundTurn& At) {
+// Where the sound would be by now that was to begin at From.
+double PlaceByNow(const SoundTurn& At, double From, double Late) {
+    const bool Rounds = At.Fields.SoundRepeat && At.Now.Duration > 0;
+    return Rounds ? std::fmod(From + Late, At.Now.Duration) : From + Late;
+}
+
+void StartAt(const SoundTurn& At, double From, Script& Do) {
+    const double Place = PlaceByNow(At, From, At.Late.OfSound);
+    if (Place > 0) Do.PlayFrom(Place, At.Fields.SoundRepeat);
+}
+
+SoundActions AfterOverridingClip(const SoundTurn& At) {
     Script Do(At.Now);
     Start(At, At.Slide.Repeat, Do);
+    StartAt(At, 0, Do);
     SavePlace(At);
     At.Fields.LastClipSeq = At.Slide.SlideSeq;
-    return Ending(At, Do.Take());
+    return Do.Take();
 }
 
-// The track picks up where an overriding clip cut it off.
-void PickUp(const SoundTurn& At, Script& Do) {
+// Where an overriding clip cut the track off.
+double PlaceOfCut(const SoundTurn& At) {
     const ShowSoundFields& Saved = At.Fields;
-    if (Saved.SavedSoundSeq > 0 && Saved.SavedSoundPos > 0 &&
-        At.Now.SoundFile == Saved.SavedSoundFile)
-        Do.PlayFrom(Saved.SavedSoundPos, Saved.SoundRepeat);
+    const bool IsIt = Saved.SavedSoundSeq > 0 && At.Now.SoundFile == Saved.SavedSoundFile;
+    return IsIt ? Saved.SavedSoundPos : 0;
 }
 
-SoundStage AfterStartTrack(const SoundTurn& At) {
+// A slide that was up for longer than its share while the music was awaited has had it.
+void StartFitted(const SoundTurn& At, Script& Do) {
+    if (At.Late.OfSlide <= 0) return SyncToPlace(At, Do);
+    const double Share = At.Fields.SlideInterval;
+    const double From = static_cast<double>(PlaceInTrack(At) - 1) * Share;
+    Do.PlayFrom(PlaceByNow(At, From, std::min(At.Late.OfSlide, Share)), At.Fields.SoundRepeat);
+}
+
+SoundActions AfterNewTrack(const SoundTurn& At) {
     Script Do(At.Now);
-    Start(At, At.Stage.Track.Repeat, Do);
-    if (At.Stage.Track.FitToSong)
-        SyncToPlace(At, Do);
-    else
-        PickUp(At, Do);
-    EndTrackPath(At.Fields);
-    return Ending(At, Do.Take());
-}
-
-SoundStage AfterNewTrack(const SoundTurn& At) {
-    SoundStage Then = At.Stage;
-    Then.Next = AfterStartTrack;
-    Then.Actions.clear();
     if (At.Now.Duration > 0)
         Fit(At);
-    else if (At.Stage.Track.FitToSong)
-        Then.Actions = {SoundDo::Tell{EmptyTrack}};
-    return Then;
+    else if (At.Order.Track.FitToSong)
+        Do.Tell(EmptyTrack);
+    Start(At, At.Order.Track.Repeat, Do);
+    if (At.Order.Track.FitToSong)
+        StartFitted(At, Do);
+    else
+        StartAt(At, PlaceOfCut(At), Do);
+    EndTrackPath(At.Fields);
+    return Do.Take();
 }
 
-// A plain advance inside a group leaves the sound alone.
+// A plain advance inside a group leaves the sound alone; a step of the user's moves a fitted track
+// exactly to its slide.
 void GoOnPlaying(const SoundTurn& At, Script& Do) {
-    if (PlaceInTrack(At) == 1) {
-        if (!At.Fields.SoundRepeat) Do.PlayFrom(0, At.Fields.SoundRepeat);
-    } else if (Repositions(At.Cause) && At.Stage.Track.FitToSong) {
-        SyncToPlace(At, Do);
-    }
+    const bool Fitted = At.Order.Track.FitToSong;
+    const bool First = PlaceInTrack(At) == 1;
+    if (Fitted && (At.Cause == StepCause::User || (!First && Repositions(At.Cause))))
+        return SyncToPlace(At, Do);
+    if (First && !At.Fields.SoundRepeat) Do.PlayFrom(0, At.Fields.SoundRepeat);
 }
 
 void StartAgain(const SoundTurn& At, Script& Do) {
     Do.Play(At.Fields.SoundRepeat);
-    if (At.Stage.Track.FitToSong) SyncToPlace(At, Do);
+    if (At.Order.Track.FitToSong) SyncToPlace(At, Do);
 }
 
-SoundStage AfterSameTrack(const SoundTurn& At) {
+SoundActions AfterSameTrack(const SoundTurn& At) {
     Script Do(At.Now);
     if (At.Now.Duration > 0) {
         Fit(At);
-        At.Fields.SoundRepeat = At.Stage.Track.Repeat;
+        At.Fields.SoundRepeat = At.Order.Track.Repeat;
         (At.Now.IsPlaying ? GoOnPlaying : StartAgain)(At, Do);
     }
     EndTrackPath(At.Fields);
-    return Ending(At, Do.Take());
+    return Do.Take();
 }
 
-SoundStage AfterClip(const SoundTurn& At) {
+SoundActions AfterClip(const SoundTurn& At) {
     Script Do(At.Now);
     Start(At, At.Slide.Repeat, Do);
+    StartAt(At, 0, Do);
     EndTrackPath(At.Fields);
-    return Ending(At, Do.Take());
+    return Do.Take();
 }
 
-SoundStage AfterSilence(const SoundTurn& At) {
+SoundActions AfterSilence(const SoundTurn& At) {
     EndTrackPath(At.Fields);
-    return Ending(At);
+    return {};
 }
 
-using Sequel = SoundStage (*)(const SoundTurn& At);
-
-// A clip in either of its two places.
-SoundStage OpenClip(const QString& Path, const FileTest& Exists, Sequel Loaded, Sequel Missing) {
-    if (Exists(Path)) return {{SoundDo::LoadFile{Path}}, Loaded, Path, {}, false};
-    // Loaded all the same: whatever sounded before is over.
-    return {{SoundDo::Tell{NoClip}, SoundDo::LoadFile{Path}}, Missing, Path, {}, false};
+// A missing overriding clip leaves what an earlier one has saved.
+SoundActions WithoutOverridingClip(const SoundTurn&) {
+    return {SoundDo::Tell{NoClip}};
 }
 
-SoundStage OpenTrack(const Track& Found, const QString& Path, const PlayerState& Before,
-                     const FileTest& Exists) {
-    if (Path == Before.SoundFile) return {{}, AfterSameTrack, Path, Found, true};
-    if (Exists(Path)) return {{SoundDo::LoadFile{Path}}, AfterNewTrack, Path, Found, true};
-    return {{SoundDo::Tell{NoTrack}, SoundDo::LoadFile{Path}}, AfterSilence, Path, Found, true};
+SoundActions WithoutClip(const SoundTurn& At) {
+    EndTrackPath(At.Fields);
+    return {SoundDo::Tell{NoClip}};
+}
+
+SoundActions WithoutTrack(const SoundTurn& At) {
+    EndTrackPath(At.Fields);
+    return {SoundDo::Tell{NoTrack}};
+}
+
+using Kind = SoundOrder::Kind;
+
+SoundOrder OrderTrack(const Track& Found, const QString& Path, const PlayerState& Before) {
+    if (Path == Before.SoundFile) return {Kind::GoOn, Path, Found, true, AfterSameTrack, nullptr};
+    return {Kind::Load, Path, Found, true, AfterNewTrack, WithoutTrack};
 }
 
 }  // namespace
 
-SoundStage OpenSoundStep(const SlideSound& Slide, const QString& DBPath, const PlayerState& Before,
-                         const FileTest& Exists, ShowSoundFields& Fields) {
-    // A missing clip leaves what an earlier one has saved.
+SoundOrder OrderSound(const SlideSound& Slide, const QString& DBPath, const PlayerState& Before,
+                      ShowSoundFields& Fields) {
+    const QString Clip = ClipPath(Slide, DBPath);
     if (Slide.Override)
-        return OpenClip(ClipPath(Slide, DBPath), Exists, AfterOverridingClip, nullptr);
+        return {Kind::Load, Clip, {}, false, AfterOverridingClip, WithoutOverridingClip};
     if (const Track* Found = TrackAt(Slide)) {
         NoteTrack(*Found, Slide, Fields);
-        return OpenTrack(*Found, TrackPath(Slide, *Found, DBPath), Before, Exists);
+        return OrderTrack(*Found, TrackPath(Slide, *Found, DBPath), Before);
     }
     if (!Slide.SoundTrackLoc.isEmpty())
-        return OpenClip(ClipPath(Slide, DBPath), Exists, AfterClip, AfterSilence);
-    return {{SoundDo::UnloadFile{}}, AfterSilence, {}, {}, false};
+        return {Kind::Load, Clip, {}, false, AfterClip, WithoutClip};
+    return {Kind::Unload, {}, {}, false, AfterSilence, nullptr};
 }
 
 SoundActions SyncSoundToSlide(std::int32_t Place, double Interval, bool Force, bool SoundRepeat,

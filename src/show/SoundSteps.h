@@ -3,7 +3,6 @@
 // state of the player and answer with what to do; EngineSound carries it out.
 #pragma once
 
-#include <functional>
 #include <variant>
 #include <vector>
 
@@ -26,13 +25,6 @@ struct Tell {
     QString Text;
     bool operator==(const Tell&) const = default;
 };
-struct LoadFile {
-    QString Path;
-    bool operator==(const LoadFile&) const = default;
-};
-struct UnloadFile {
-    bool operator==(const UnloadFile&) const = default;
-};
 struct SetPosition {
     double Seconds = 0;
     bool operator==(const SetPosition&) const = default;
@@ -43,43 +35,53 @@ struct Play {
 };
 }  // namespace SoundDo
 
-using SoundAction = std::variant<SoundDo::Tell, SoundDo::LoadFile, SoundDo::UnloadFile,
-                                 SoundDo::SetPosition, SoundDo::Play>;
+using SoundAction = std::variant<SoundDo::Tell, SoundDo::SetPosition, SoundDo::Play>;
 using SoundActions = std::vector<SoundAction>;
 
 struct SoundTurn;
+using SoundSequel = SoundActions (*)(const SoundTurn& At);
 
-// A part of a step in which nothing is asked of the player: a box lets time pass, so what comes
-// after one looks at the player anew.
-struct SoundStage {
-    SoundActions Actions;
-    // How the step goes on once they have been carried out; null: it is over.
-    SoundStage (*Next)(const SoundTurn& At) = nullptr;
+// The first half of a step: which file is to be loaded, before anybody has looked whether it is
+// there.
+struct SoundOrder {
+    enum class Kind {
+        GoOn,    // what is loaded stays
+        Load,    // the file, in place of what was loaded
+        Unload,  // silence
+    };
+    Kind What = Kind::Unload;
     QString Path;                     // of the clip or the track
     clsNEBSlideShowSoundTrack Track;  // that covers the slide, where it counts
     bool WatchRepeat = false;         // CheckRepeat is wanted after the step
+    // The second half: with the file, and without it, when it is missing and nothing is loaded.
+    SoundSequel Then = nullptr;
+    SoundSequel Without = nullptr;
 };
 
-// What the stage that follows is worked out from.
+// Running seconds that a sound has come too late: since the slide came up that is up now, and since
+// the sound was wanted first. 0 for one that came in time.
+struct SoundDelay {
+    double OfSlide = 0, OfSound = 0;
+};
+
+// What the second half is worked out from.
 struct SoundTurn {
-    const SoundStage& Stage;
+    const SoundOrder& Order;
     const SlideSound& Slide;
     StepCause Cause;            // of the slide's coming up
-    const PlayerState& Before;  // as OpenSoundStep was given it
-    const PlayerState& Now;     // as the actions of Stage have left it
+    const PlayerState& Before;  // as OrderSound was given it
+    const PlayerState& Now;     // as the order has left it
     ShowSoundFields& Fields;
+    SoundDelay Late = {};
 };
 
-using FileTest = std::function<bool(const QString& Path)>;
+// Chooses clip or track. DBPath ends in a separator. Sets FitToSong, FadeOnLast and TrackEndsHere
+// of Fields where a track covers the slide; they are false before a step.
+SoundOrder OrderSound(const SlideSound& Slide, const QString& DBPath, const PlayerState& Before,
+                      ShowSoundFields& Fields);
 
-// The first stage of a step: chooses clip or track, tells of a missing file, loads; those that
-// follow start, move, fit and save. DBPath ends in a separator. Sets FitToSong, FadeOnLast and
-// TrackEndsHere of Fields where a track covers the slide; they are false before a step.
-SoundStage OpenSoundStep(const SlideSound& Slide, const QString& DBPath, const PlayerState& Before,
-                         const FileTest& Exists, ShowSoundFields& Fields);
-
-// Moves a fitted track to a place, counted from 1, of Interval seconds each; without Force only
-// when it is more than a twentieth off.
+// Moves a fitted track to a place in the track, counted from 1, of Interval seconds each; without
+// Force only when it is more than a twentieth off.
 SoundActions SyncSoundToSlide(std::int32_t Place, double Interval, bool Force, bool SoundRepeat,
                               const PlayerState& Now);
 

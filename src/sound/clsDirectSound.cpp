@@ -1,15 +1,13 @@
 #include "sound/clsDirectSound.h"
 
+#include "sound/VolumeScale.h"
 #include "support/Fault.h"
-#include "support/modNumbers.h"
 
 namespace neb {
 namespace {
 
 const auto NothingLoaded = QStringLiteral("You must first load a sound file to be played.");
 const auto BadVolume = QStringLiteral("Volume must be >0 and <=100");
-
-constexpr double QuietestHundredths = -2500;
 
 // A show goes on without its sound rather than stop over a device that has gone.
 template <typename Call>
@@ -40,6 +38,19 @@ bool clsDirectSound::LoadFile(const QString& Path) {
     return mGraph != nullptr;
 }
 
+std::unique_ptr<SoundOpening> clsDirectSound::Open(const QString& Path) {
+    HoldDevices();
+    return std::make_unique<SoundOpening>(mDevices, Path);
+}
+
+bool clsDirectSound::TakeFile(const QString& Path, std::unique_ptr<SoundGraph> Graph) {
+    mLastError.clear();
+    UnloadFile();
+    mSoundFile = Path;
+    mGraph = std::move(Graph);
+    return mGraph != nullptr;
+}
+
 void clsDirectSound::UnloadFile() {
     mGraph.reset();
     mSoundFile.clear();
@@ -60,8 +71,7 @@ void clsDirectSound::SetVolume(int Value) {
     } else if (!mGraph) {
         mLastError = NothingLoaded;
     } else {
-        const int Hundredths = CInt((100 - Value) / 100.0 * QuietestHundredths);
-        IgnoringFaults([&] { mGraph->PutVolume(Hundredths); });
+        IgnoringFaults([&] { mGraph->PutVolume(HundredthsOfVolume(Value)); });
     }
 }
 
@@ -71,6 +81,7 @@ bool clsDirectSound::Play(bool Repeat) {
         mLastError = NothingLoaded;
         return false;
     }
+    mGraph->PutRepeat(Repeat);
     IgnoringFaults([this] { mGraph->Run(); });
     mRepeatFlag = Repeat;
     mIsStarted = true;
@@ -90,7 +101,7 @@ bool clsDirectSound::PauseSound() {
 }
 
 void clsDirectSound::CheckRepeat() {
-    if (!mGraph || !mIsStarted || !mRepeatFlag) return;
+    if (!IsPlaying() || !mIsStarted || !mRepeatFlag) return;
     // Exact on purpose: a graph that has come to its end stands at its duration.
     if (CurrentPosition() != Duration()) return;
     StopSound();

@@ -6,7 +6,7 @@
 #include <QString>
 #include <memory>
 
-#include "sound/devices/SoundDevices.h"
+#include "sound/SoundOpening.h"
 #include "support/Answer.h"
 
 class QWidget;
@@ -30,13 +30,17 @@ class clsDirectSound {
     // Loads a file, at its start and not playing, at the full level; false when it cannot be
     // played. The earlier sound is gone in any case.
     bool LoadFile(const QString& Path);
+    // The same in two steps, for a file that may take its time: it is opened aside, and taken.
+    std::unique_ptr<SoundOpening> Open(const QString& Path);
+    bool TakeFile(const QString& Path, std::unique_ptr<SoundGraph> Graph);
     void UnloadFile();
     int GetVolume();            // hundredths of a decibel; -1 with no file
-    void SetVolume(int Value);  // 0 to 100
-    bool Play(bool Repeat);     // from where it stands; false with no file
-    bool StopSound();           // back to the start; always true
-    bool PauseSound();          // always true
-    // Once a second: starts a repeating sound again that has come to its end.
+    void SetVolume(int Value);  // 0, silence, to 100; by VolumeScale.h
+    // From where it stands, and again and again without a gap where it repeats; false with no file.
+    bool Play(bool Repeat);
+    bool StopSound();   // back to the start; always true
+    bool PauseSound();  // always true
+    // Once a second: starts a repeating sound again whose player has come to its end all the same.
     void CheckRepeat();
     double Duration() const;                  // seconds; 0 with no file
     double CurrentPosition() const;           // seconds; 0 with no file

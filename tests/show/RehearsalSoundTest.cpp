@@ -48,16 +48,22 @@ TEST_F(RehearsalSoundTest, TellsWhereATrackIsOver) {
 TEST_F(RehearsalSoundTest, TellsOfLoops) {
     AddSlides(3);
     AddTrack(u"song.mp3"_s, 1, 3, 7).Repeat = true;
-    // The watch over the end looks once a second, from the slide on.
     EXPECT_EQ(
         Texts({"starts song.mp3 0", "goes on song.mp3 5 loops 1", "goes on song.mp3 3 loops 1"}),
         Whole());
+    AddSlides(1);
+    SlideShow->SoundTracks[0]->SlideSeqEnd = 4;
+    Lengths[u"song.mp3"_s] = 1.5;
+    EXPECT_EQ(Texts({"starts song.mp3 0 loops 3", "goes on song.mp3 0.5 loops 3",
+                     "goes on song.mp3 1 loops 3", "starts song.mp3 0 loops 4"}),
+              Whole())
+        << "a start on the moment of a slide is that slide's";
 }
 
 TEST_F(RehearsalSoundTest, TellsOfAFade) {
     AddSlides(3);
     AddTrack(u"song.mp3"_s, 1, 2, 60).Fade = true;
-    EXPECT_EQ(Texts({"starts song.mp3 0", "goes on song.mp3 5 100 to 2", "silent"}), Whole());
+    EXPECT_EQ(Texts({"starts song.mp3 0", "goes on song.mp3 5 100 to 0", "silent"}), Whole());
 }
 
 TEST_F(RehearsalSoundTest, TellsWhereAnOverriddenTrackResumes) {

@@ -8,6 +8,8 @@
 namespace neb {
 namespace {
 
+using Clock = ClockCommand;
+
 ShowState In(const char* Play, const char* Stop) {
     return {QString::fromLatin1(Play), QString::fromLatin1(Stop)};
 }
@@ -20,7 +22,9 @@ struct Row {
     ShowState From;
     const char* Words;
     SoundCommand Sound;
-    bool ToStart, ShowsSlide, RestartsClock, Timer1, Timer2;
+    bool ToStart, ShowsSlide;
+    ClockCommand Clock;
+    bool Timer1, Timer2;
 };
 
 void Check(const Row& Expected, const ShowTransition& Transition) {
@@ -30,17 +34,20 @@ void Check(const Row& Expected, const ShowTransition& Transition) {
     EXPECT_EQ(Expected.Sound, Transition.Sound);
     EXPECT_EQ(Expected.ToStart, Transition.ToStart);
     EXPECT_EQ(Expected.ShowsSlide, Transition.ShowsSlide);
-    EXPECT_EQ(Expected.RestartsClock, Transition.RestartsClock);
+    EXPECT_EQ(Expected.Clock, Transition.Clock);
     EXPECT_EQ(Expected.Timer1, Transition.Timer1);
     EXPECT_EQ(Expected.Timer2, Transition.Timer2);
 }
 
 TEST(ShowState, PlayPauseGoesByTheWordOfferedNext) {
     const Row Rows[] = {
-        {In("Pause", "Stop"), "Resume/Stop", SoundCommand::Pause, false, false, false, false, true},
-        {In("Resume", "Stop"), "Pause/Stop", SoundCommand::Play, false, false, true, true, true},
-        {In("", ""), "Pause/Stop", SoundCommand::None, true, true, true, true, true},
-        {In("Play", "Resume"), "Pause/Stop", SoundCommand::None, true, true, true, true, true},
+        {In("Pause", "Stop"), "Resume/Stop", SoundCommand::Pause, false, false, Clock::Hold, false,
+         true},
+        {In("Resume", "Stop"), "Pause/Stop", SoundCommand::Play, false, false, Clock::GoOn, true,
+         true},
+        {In("", ""), "Pause/Stop", SoundCommand::None, true, true, Clock::Start, true, true},
+        {In("Play", "Resume"), "Pause/Stop", SoundCommand::None, true, true, Clock::Start, true,
+         true},
     };
     for (const Row& Expected : Rows) Check(Expected, PlayPauseTransition(Expected.From));
 }
@@ -53,13 +60,27 @@ TEST(ShowState, ResumingLeavesTheStopWordAsItIs) {
 
 TEST(ShowState, StopRestartGoesByItsOwnWord) {
     const Row Rows[] = {
-        {In("Pause", "Stop"), "Play/Resume", SoundCommand::Stop, false, false, false, false, false},
-        {In("Resume", "Stop"), "Play/Resume", SoundCommand::Stop, false, false, false, false,
+        {In("Pause", "Stop"), "Play/Resume", SoundCommand::Stop, false, false, Clock::Hold, false,
          false},
-        {In("Play", "Resume"), "Pause/Stop", SoundCommand::Play, false, true, true, true, true},
-        {In("", ""), "Pause/Stop", SoundCommand::Play, false, true, true, true, true},
+        {In("Resume", "Stop"), "Play/Resume", SoundCommand::Stop, false, false, Clock::Hold, false,
+         false},
+        {In("Play", "Resume"), "Pause/Stop", SoundCommand::Play, false, true, Clock::Start, true,
+         true},
+        {In("", ""), "Pause/Stop", SoundCommand::Play, false, true, Clock::Start, true, true},
     };
     for (const Row& Expected : Rows) Check(Expected, StopRestartTransition(Expected.From));
+}
+
+TEST(ShowState, AStepLeavesAPausedShowPausedAndSetsAnyOtherGoing) {
+    const std::pair<ShowState, const char*> Rows[] = {{In("Pause", "Stop"), "Pause/Stop"},
+                                                      {In("Resume", "Stop"), "Resume/Stop"},
+                                                      {In("Play", "Resume"), "Pause/Stop"},
+                                                      {In("", ""), "Pause/Stop"}};
+    for (const auto& [From, After] : Rows) {
+        ShowState State = From;
+        EnterStep(State);
+        EXPECT_EQ(After, Words(State));
+    }
 }
 
 TEST(UserSteps, WrapAtBothEnds) {

@@ -53,6 +53,40 @@ TEST_F(SlideClockRun, AStartThatLiesAMomentAheadIsNoDayAway) {
     }
 }
 
+TEST_F(SlideClockRun, StandsStillWhileItIsHeldAndGoesOnFromThere) {
+    Of.Start();
+    After(3);
+    Of.Hold();
+    EXPECT_NEAR(After(1000), 3, 1e-9);
+    Of.GoOn();
+    EXPECT_NEAR(After(0), 3, 1e-9);
+    EXPECT_NEAR(After(2), 5, 1e-9);
+    Of.Hold();
+    EXPECT_NEAR(After(86400 + 17), 5, 1e-9) << "a day, too";
+    Of.GoOn();
+    EXPECT_NEAR(After(1), 6, 1e-9);
+}
+
+TEST_F(SlideClockRun, GoesOnOverMidnightWhateverWasHeld) {
+    Time.Seconds = 86390;
+    Of.Start();
+    After(9);
+    Of.Hold();
+    EXPECT_NEAR(After(-86399 + 4), 9, 1e-9);
+    Of.GoOn();
+    EXPECT_NEAR(After(2), 11, 1e-9) << "it began, as it were, before midnight";
+}
+
+TEST_F(SlideClockRun, AStartEndsAHoldAndGoingOnWithoutOneIsNothing) {
+    Of.Start();
+    After(3);
+    Of.GoOn();
+    EXPECT_NEAR(After(1), 4, 1e-9);
+    Of.Hold();
+    Of.Start();
+    EXPECT_NEAR(After(2), 2, 1e-9);
+}
+
 // Else the show would stand still for as long as the clock was set back.
 TEST_F(SlideClockRun, AClockThatWasSetBackEndsTheSlide) {
     Of.Start();

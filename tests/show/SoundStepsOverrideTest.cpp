@@ -117,7 +117,7 @@ TEST_F(SoundOverride, AMissingOverridingClipTouchesNothingThatIsSaved) {
     StandAt(17);
     Step(2, {Bird, true, true});
     EXPECT_EQ(Step(3, {QStringLiteral("none.wav"), true, false}),
-              Line({NoClip, "load Slides/none.wav"}));
+              Line({"load Slides/none.wav", NoClip}));
     EXPECT_EQ(Saved(), "17 2 SoundTracks/song.mp3 clip 2");
     EXPECT_TRUE(Fields.SoundRepeat);
     EXPECT_EQ(Fields.CurrentSoundFile, Full(QStringLiteral("Slides/bird.wav")));

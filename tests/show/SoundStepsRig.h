@@ -50,16 +50,11 @@ class SoundStepsRig : public ::testing::Test {
         const SlideSound Slide{7, &Show, SlideSeq, Clip.Name, Clip.Override, Clip.Repeat};
         const PlayerState Before = Player;
         mDone.clear();
-        SoundStage Stage = OpenSoundStep(
-            Slide, QStringLiteral("/db/"), Before,
-            [this](const QString& Path) { return Files.contains(Path); }, Fields);
-        CarryOut(Stage.Actions);
-        while (Stage.Next) {
-            const PlayerState Now = Player;
-            Stage = Stage.Next({Stage, Slide, Cause, Before, Now, Fields});
-            CarryOut(Stage.Actions);
-        }
-        if (Stage.WatchRepeat) mDone << QStringLiteral("watch");
+        const SoundOrder Order = OrderSound(Slide, QStringLiteral("/db/"), Before, Fields);
+        const SoundSequel Sequel = Obey(Order);
+        const PlayerState Now = Player;
+        CarryOut(Sequel({Order, Slide, Cause, Before, Now, Fields, Late}));
+        if (Order.WatchRepeat) mDone << QStringLiteral("watch");
         return mDone.join(u'|').toStdString();
     }
     // The sound has gone on meanwhile.
@@ -80,8 +75,7 @@ class SoundStepsRig : public ::testing::Test {
     ShowSoundFields Fields;
     PlayerState Player;
     QMap<QString, double> Files;
-    // What happens while a box is open.
-    std::function<void()> WhileBoxIsOpen;
+    SoundDelay Late;  // of the next file
 
   private:
     void AddFile(const QString& Name, double Seconds) {
@@ -93,18 +87,19 @@ class SoundStepsRig : public ::testing::Test {
         for (const SoundAction& Each : Actions)
             std::visit([this](const auto& This) { Do(This); }, Each);
     }
-    void Do(const SoundDo::Tell& This) {
-        mDone << This.Text;
-        if (WhileBoxIsOpen) std::exchange(WhileBoxIsOpen, nullptr)();
+    // What follows once the player has done so.
+    SoundSequel Obey(const SoundOrder& Order) {
+        if (Order.What == SoundOrder::Kind::GoOn) return Order.Then;
+        if (Order.What == SoundOrder::Kind::Unload) {
+            mDone << QStringLiteral("unload");
+            Player = {};
+            return Order.Then;
+        }
+        mDone << QStringLiteral("load ") + Short(Order.Path);
+        Player = {false, 0, Files.value(Order.Path), Order.Path};
+        return Files.contains(Order.Path) ? Order.Then : Order.Without;
     }
-    void Do(const SoundDo::LoadFile& This) {
-        mDone << QStringLiteral("load ") + Short(This.Path);
-        Player = {false, 0, Files.value(This.Path), This.Path};
-    }
-    void Do(const SoundDo::UnloadFile&) {
-        mDone << QStringLiteral("unload");
-        Player = {};
-    }
+    void Do(const SoundDo::Tell& This) { mDone << This.Text; }
     void Do(const SoundDo::SetPosition& This) {
         mDone << QStringLiteral("to %1").arg(This.Seconds);
         if (Player.Duration > 0) Player.CurrentPosition = This.Seconds;

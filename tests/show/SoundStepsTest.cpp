@@ -102,7 +102,7 @@ TEST_F(SoundSteps, AMissingTrackIsToldAndTheOldSoundIsGone) {
     AddTrack(Song, 1, 4, -1, true, true, true);
     Fields.SoundRepeat = false;
     Fields.CurrentSoundFile = QStringLiteral("before");
-    EXPECT_EQ(Step(4), Line({NoTrack, "load SoundTracks/song.mp3|watch"}));
+    EXPECT_EQ(Step(4), Line({"load SoundTracks/song.mp3", NoTrack, "watch"}));
     EXPECT_EQ(Fields.SlideInterval, Timeout);
     EXPECT_FALSE(Fields.SoundRepeat);
     EXPECT_EQ(Fields.CurrentSoundFile, QStringLiteral("before"));
@@ -141,16 +141,6 @@ TEST_F(SoundSteps, AnEmptyTrackThatIsLoadedIsLeftAsItIs) {
     EXPECT_EQ(Fields.SlideInterval, Timeout);
 }
 
-// A pause and its end behind the box start the track; it is looked at anew.
-TEST_F(SoundSteps, ATrackThatWasTakenUpDuringItsBoxIsNotStartedAgain) {
-    AddTrack(Song, 1, 4, 0, false, true);
-    WhileBoxIsOpen = [this] { Player.IsPlaying = true; };
-    EXPECT_EQ(Step(1), Line({"load SoundTracks/song.mp3", EmptyTrack, "to 0|play|watch"}));
-    WhileBoxIsOpen = [this] { StandAt(12); };
-    Player = {};
-    EXPECT_EQ(Step(2), Line({"load SoundTracks/song.mp3", EmptyTrack, "watch"}));
-}
-
 TEST_F(SoundSteps, NamesAreComparedExactInCase) {
     AddTrack(Song, 1, 4);
     Step(1);
@@ -184,11 +174,14 @@ const GoingOn GoingOnTable[] = {
     {"a user's step, not fitted", true, false, false, StepCause::User, 4, 3, "watch"},
     {"a user's step, fitted, far off", true, false, true, StepCause::User, 4, 3,
      "to 20|play|watch"},
-    {"a user's step, fitted, near", true, false, true, StepCause::User, 4, 20.5, "watch"},
+    {"a user's step, fitted, near", true, false, true, StepCause::User, 4, 20.5,
+     "to 20|play|watch"},
+    {"the show begins, fitted, near", true, false, true, StepCause::Start, 4, 20.5, "watch"},
     {"round to the first slide", true, false, false, StepCause::Timer, 2, 60, "to 0|play|watch"},
     {"round to the first, fitted", true, false, true, StepCause::Timer, 2, 60, "to 0|play|watch"},
     {"round to the first, repeating", true, true, false, StepCause::Timer, 2, 60, "watch"},
-    {"round, repeating, fitted, by a user", true, true, true, StepCause::User, 2, 60, "watch"},
+    {"round, repeating, fitted, by a user", true, true, true, StepCause::User, 2, 60,
+     "to 0|play again and again|watch"},
     {"repeating, fitted, by a user", true, true, true, StepCause::User, 4, 3,
      "to 20|play again and again|watch"},
     {"not playing", false, false, false, StepCause::Timer, 4, 33, "play|watch"},
@@ -215,6 +208,41 @@ TEST_F(SoundSteps, ATrackThatIsLoadedGoesOn) {
         EXPECT_EQ(Fields.SoundRepeat, Row.Repeat) << Row.Case;
         EXPECT_EQ(Fields.SlideInterval, Row.FitToSong ? 10 : Timeout) << Row.Case;
     }
+}
+
+// What comes late is put where it would be by now, and a fitted slide has had no more than its
+// share.
+TEST_F(SoundSteps, ATrackThatComesLateStartsWhereItWouldBeByNow) {
+    AddTrack(Song, 2, 7, 60);
+    Late = {3, 8};
+    EXPECT_EQ(Step(3), "load SoundTracks/song.mp3|to 8|play|watch");
+    Track().FitToSong = true;
+    Player = {};
+    EXPECT_EQ(Step(4), "load SoundTracks/song.mp3|to 23|play|watch");
+    Player = {};
+    Late = {11, 31};
+    EXPECT_EQ(Step(4), "load SoundTracks/song.mp3|to 30|play|watch");
+}
+
+TEST_F(SoundSteps, ARepeatingSoundThatComesLateHasGoneRound) {
+    AddTrack(Song, 2, 7, 60, true);
+    AddClip(Bird, 5);
+    Late = {13, 61};
+    EXPECT_EQ(Step(3), "load SoundTracks/song.mp3|to 1|play again and again|watch");
+    Late = {13, 13};
+    EXPECT_EQ(Step(1, {Bird, false, true}), "load Slides/bird.wav|to 3|play again and again");
+    EXPECT_EQ(Step(1, {Bird, true, true}), "load Slides/bird.wav|to 3|play again and again");
+    EXPECT_EQ(Step(1, {Bird, true, false}), "load Slides/bird.wav|to 13|play") << "it is over";
+}
+
+TEST_F(SoundSteps, ATrackThatWasCutOffAndComesLateGoesOnThatMuchLater) {
+    AddTrack(Song, 2, 7, 60);
+    AddClip(Bird, 5);
+    Step(2);
+    StandAt(12);
+    Step(3, {Bird, true, false});
+    Late = {2, 2};
+    EXPECT_EQ(Step(4), "load SoundTracks/song.mp3|to 14|play|watch");
 }
 
 TEST_F(SoundSteps, AShowOfOneGroupStartsItsTrackAgainWhenItComesRound) {
@@ -247,7 +275,7 @@ TEST_F(SoundSteps, AClipOutsideEveryGroupIsPlayed) {
 TEST_F(SoundSteps, AMissingClipOutsideEveryGroupIsToldAndTheOldSoundIsGone) {
     Player = {true, 3, 60, QStringLiteral("old")};
     Fields.SoundRepeat = true;
-    EXPECT_EQ(Step(4, {Bird, false, false}), Line({NoClip, "load Slides/bird.wav"}));
+    EXPECT_EQ(Step(4, {Bird, false, false}), Line({"load Slides/bird.wav", NoClip}));
     EXPECT_TRUE(Fields.SoundRepeat);
     EXPECT_EQ(Fields.CurrentSoundFile, QString());
     EXPECT_EQ(Player.Duration, 0);

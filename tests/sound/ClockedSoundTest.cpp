@@ -102,6 +102,27 @@ TEST_F(ClockedSound, StandsExactlyAtItsDurationAtTheEndAndStillRuns) {
     EXPECT_EQ(Graph->GetCurrentPosition(), Graph->GetDuration());
 }
 
+TEST_F(ClockedSound, GoesRoundWithoutAGapWhereItRepeats) {
+    Graph->RenderFile(QStringLiteral("song.mp3"));
+    Graph->PutRepeat(true);
+    Graph->Run();
+    Pass(12.5);
+    EXPECT_EQ(Graph->GetCurrentPosition(), 0);
+    Pass(3 * 12.5 + 2);
+    EXPECT_EQ(Graph->GetCurrentPosition(), 2);
+    Graph->Pause();
+    Pass(100);
+    EXPECT_EQ(Graph->GetCurrentPosition(), 2);
+    EXPECT_TRUE(Events.back().Repeats);
+    Graph->Run();
+    Pass(1);
+    Graph->PutRepeat(false);
+    Pass(100);
+    EXPECT_EQ(Graph->GetCurrentPosition(), 12.5) << "that round was the last";
+    Graph->RenderFile(QStringLiteral("next.mp3"));
+    EXPECT_FALSE(Events.back().Repeats);
+}
+
 TEST_F(ClockedSound, TakesAPlaceBeyondTheEndAsTheEndAndRefusesNonsense) {
     Graph->RenderFile(QStringLiteral("song.mp3"));
     Graph->PutCurrentPosition(99);

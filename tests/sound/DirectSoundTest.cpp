@@ -17,7 +17,7 @@ const char* const BadVolume = "Volume must be >0 and <=100";
 struct Machine {
     QStringList Calls;
     QStringList Failing;  // the calls that end in an error
-    bool Running = false;
+    bool Running = false, Repeats = false;
     int Volume = 0;
     double Position = 0, Duration = 20;
 
@@ -46,6 +46,7 @@ class LoggedGraph : public SoundGraph {
         mOf.Running = false;
     }
     bool IsRunning() const override { return mOf.Running; }
+    void PutRepeat(bool On) override { mOf.Repeats = On; }
     void PutVolume(int Hundredths) override {
         mOf.Note(QStringLiteral("Volume"), QString::number(Hundredths));
         mOf.Volume = Hundredths;
@@ -170,13 +171,33 @@ TEST_F(DirectSound, WithNoFilePlayAndTheVolumesSayWhatIsMissing) {
 TEST_F(DirectSound, VolumesBecomeHundredthsOfADecibel) {
     const struct {
         int Value, Hundredths;
-    } Table[] = {{100, 0}, {99, -25}, {75, -625}, {50, -1250}, {33, -1675}, {1, -2475}, {0, -2500}};
+    } Table[] = {{100, 0},    {99, -25},   {75, -625},  {50, -1250}, {35, -1625},
+                 {33, -1676}, {20, -2111}, {10, -2713}, {1, -4713},  {0, -10000}};
     Load();
     for (const auto& Row : Table) {
         Sound.SetVolume(Row.Value);
         EXPECT_EQ(Error(), "");
         EXPECT_EQ(Sound.GetVolume(), Row.Hundredths) << Row.Value;
     }
+}
+
+// What fades out by steps of one has no step that is heard: each level lies within a hundredth of
+// its neighbours, and the last is silence.
+TEST_F(DirectSound, VolumesFallToSilenceWithoutAStep) {
+    Load();
+    double Above = 1;
+    for (int Value = 99; Value >= 0; --Value) {
+        Sound.SetVolume(Value);
+        const int Hundredths = Sound.GetVolume();
+        const double Level = Value == 0 ? 0 : std::pow(10.0, Hundredths / 2000.0);
+        EXPECT_LT(Level, Above) << Value;
+        EXPECT_LT(Above - Level, 0.029) << Value;
+        if (Value < 34) {
+            EXPECT_NEAR(0.0044, Above - Level, 0.0001) << Value;
+        }
+        Above = Level;
+    }
+    EXPECT_EQ(-10000, Sound.GetVolume());
 }
 
 TEST_F(DirectSound, VolumesOutsideTheRangeChangeNothing) {
@@ -202,8 +223,10 @@ TEST_F(DirectSound, PlayRunsFromWhereItStandsAndClearsTheError) {
     EXPECT_EQ(Sound.CurrentPosition(), 7);
     EXPECT_TRUE(Sound.IsPlaying());
     EXPECT_TRUE(Sound.RepeatFlag());
+    EXPECT_TRUE(Devices.Repeats) << "the player does so by itself";
     Sound.Play(false);
     EXPECT_FALSE(Sound.RepeatFlag());
+    EXPECT_FALSE(Devices.Repeats);
 }
 
 TEST_F(DirectSound, StopGoesBackToTheStartFirst) {
@@ -258,6 +281,31 @@ TEST_F(DirectSound, ARepeatingSoundStartsAgainAtExactlyItsEnd) {
     EXPECT_EQ(Devices.Taken(), "Position 0|Stop|Run");
     EXPECT_TRUE(Sound.RepeatFlag());
     EXPECT_TRUE(Sound.IsPlaying());
+}
+
+TEST_F(DirectSound, ARepeatingSoundThatIsPausedAtItsEndStaysThere) {
+    Load();
+    Sound.Play(true);
+    Devices.Position = 20;
+    Sound.PauseSound();
+    Devices.Calls.clear();
+    Sound.CheckRepeat();
+    EXPECT_EQ(Devices.Taken(), "");
+}
+
+TEST_F(DirectSound, AFileThatWasOpenedAsideIsTakenInPlaceOfAnother) {
+    Load();
+    Sound.Play(true);
+    const auto File = Sound.Open(QStringLiteral("b.mp3"));
+    OpenedSound Opened = File->Take();
+    EXPECT_FALSE(Opened.Exists) << "there is none";
+    Devices.Calls.clear();
+    EXPECT_TRUE(Sound.TakeFile(QStringLiteral("b.mp3"), std::move(Opened.Graph)));
+    EXPECT_EQ(Devices.Taken(), "Release");
+    EXPECT_EQ(Sound.SoundFile(), QStringLiteral("b.mp3"));
+    EXPECT_FALSE(Sound.RepeatFlag());
+    EXPECT_FALSE(Sound.TakeFile(QStringLiteral("c.mp3"), nullptr));
+    EXPECT_EQ(Sound.Duration(), 0);
 }
 
 TEST_F(DirectSound, ASoundThatStopsShortOfItsEndDoesNotRepeat) {

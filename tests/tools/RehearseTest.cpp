@@ -120,7 +120,7 @@ TEST_F(RehearseTest, PrintsWhatTheSoundDoesAndWhatIsWrong) {
         "0:00.0      1  5.0 s  The boat                         00000001.jpg    1 Cross Fade    "
         "0.4 s  song.wav  0:00.0     100  starts\n"
         "0:05.0      2  5.0 s  Tom & Anna                       00000002.jpg    2 Wipe Right    "
-        "0.4 s  song.wav  0:05.0     100  goes on, fades to 2\n"
+        "0.4 s  song.wav  0:05.0     100  goes on, fades to 0\n"
         "0:10.0      3  5.0 s  Evening: Current slide missing!  NoSlide.bmp       plain change  "
         "0.0 s                            silent\n"
         "\n"

@@ -20,11 +20,6 @@ class Rehearsal::SoundSteps : public EngineSound {
                           Owner.NoteBox(RehearsalBoxFrom::Sound, Message);
                       }),
           mOwner(Owner) {}
-    void CheckRepeat() override {
-        mOwner.mSound.SetWatchingRepeat(true);
-        EngineSound::CheckRepeat();
-        mOwner.mSound.SetWatchingRepeat(false);
-    }
     bool SoundStep(const SlideSound& Slide, StepCause Cause, ShowSoundFields& Fields) override {
         if (!mOwner.SlideComesUp(Slide)) return false;
         const bool WatchRepeat = EngineSound::SoundStep(Slide, Cause, Fields);
@@ -128,9 +123,15 @@ void Rehearsal::SetTimer(Ticking& Timer, bool On) {
     Timer.Started = ++mStarts;
 }
 
+void Rehearsal::TickAfter(int Milliseconds) {
+    SetTimer(mTimers[2], true);
+    mTimers[2].Due += Milliseconds;
+}
+
 void Rehearsal::Fire(Ticking& Timer) {
     AdvanceTo(Timer.Due);
     Timer.Due += Timer.Period;
+    Timer.On = Timer.Period > 0;
     TakeStep([&] { (mRun.*Timer.Tick)(); });
 }
 

@@ -65,7 +65,7 @@ class Rehearsal : private ShowStage {
 
   private:
     struct Ticking {
-        qint64 Period;  // milliseconds
+        qint64 Period;  // milliseconds; 0: once
         void (ShowRun::*Tick)();
         bool On = false;
         qint64 Due = 0;
@@ -78,6 +78,7 @@ class Rehearsal : private ShowStage {
     void Prefetch(const QString&) override {}
     void SetTimer1(bool On) override { SetTimer(mTimers[0], On); }
     void SetTimer2(bool On) override { SetTimer(mTimers[1], On); }
+    void TickAfter(int Milliseconds) override;
     void Tell(const QString& Message) override { NoteBox(RehearsalBoxFrom::Run, Message); }
 
     void SetTimer(Ticking& Timer, bool On);
@@ -99,7 +100,9 @@ class Rehearsal : private ShowStage {
     RehearsalLog mLog;
     RehearsalSound mSound;
     ShowMemory mMemory;
-    std::array<Ticking, 2> mTimers{{{100, &ShowRun::Timer1_Timer}, {1000, &ShowRun::Timer2_Timer}}};
+    std::array<Ticking, 3> mTimers{{{100, &ShowRun::Timer1_Timer},
+                                    {1000, &ShowRun::Timer2_Timer},
+                                    {0, &ShowRun::Timer1_Timer}}};
     int mStarts = 0;
     RehearsalCue mNext;    // the slide that is on its way
     qint64 mCueBegan = 0;  // milliseconds, of the slide that is up

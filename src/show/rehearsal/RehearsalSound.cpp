@@ -1,7 +1,9 @@
 #include "show/rehearsal/RehearsalSound.h"
 
 #include <algorithm>
+#include <cmath>
 
+#include "sound/VolumeScale.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
 
@@ -10,8 +12,6 @@ namespace {
 
 using Heard = SoundEvent::Kind;
 using Noted = RehearsalSoundKind;
-
-constexpr double HundredthsAPercent = 25;
 
 // As what an event is noted; opening ahead is not.
 constexpr std::pair<Heard, Noted> Names[] = {
@@ -25,10 +25,6 @@ Noted NameOf(Heard Event) {
     return std::find_if(std::begin(Names), std::end(Names),
                         [=](const auto& Row) { return Row.first == Event; })
         ->second;
-}
-
-int VolumeOf(int Hundredths) {
-    return qRound(100 + Hundredths / HundredthsAPercent);
 }
 
 }  // namespace
@@ -56,7 +52,20 @@ double RehearsalSound::Measure(const QString& Path) {
     }
 }
 
+// A start that falls on the moment itself is yet to be heard: it belongs to the slide that may come
+// up now.
+void RehearsalSound::SettleRounds() {
+    const double Since = mClock.Seconds() - mSince + mNow.Position;
+    const auto Rounds = static_cast<int>(std::ceil(Since / mNow.Duration)) - 1;
+    if (Rounds < 1) return;
+    mSince += Rounds * mNow.Duration - mNow.Position;
+    mNow.Position = 0;
+    Note(Noted::Playing, mSince);
+    if (CueSound* Sound = Sounding()) Sound->Loops += Rounds;
+}
+
 void RehearsalSound::Settle() {
+    if (mPlaying && mRepeats && mNow.Duration > 0) return SettleRounds();
     if (!mPlaying || mEnded || EndOfFile() > mClock.Seconds()) return;
     const double End = EndOfFile();
     mEnded = true;
@@ -76,20 +85,19 @@ void RehearsalSound::Hear(const SoundEvent& Event) {
     if (CueSound* Sound = Sounding()) {
         Sound->Volume = std::max(Sound->Volume, mNow.Volume);
         Sound->EndVolume = mNow.Volume;
-        if (Event.What != Heard::Run || !mWatchingRepeat) return;
-        ++Sound->Loops;
-        Sound->EndsAt = -1;
     }
 }
 
 void RehearsalSound::TakeState(const SoundEvent& Event) {
+    mNow.Volume = VolumeOfHundredths(Event.Hundredths);
+    if (Event.What == Heard::Volume) return;  // all else is as it was, rounds and all
     mNow.File = Event.Path;
     mNow.Position = Event.Position;
     mNow.Duration = mLengths.value(Event.Path);
-    mNow.Volume = VolumeOf(Event.Hundredths);
     mSince = mClock.Seconds();
     if (Event.What == Heard::Loaded) mLoaded = true;
-    if (Event.What == Heard::Moved && !mWatchingRepeat) mMoved = true;
+    if (Event.What == Heard::Moved) mMoved = true;
+    mRepeats = Event.Repeats;
     if (Event.What == Heard::Run) mPlaying = true;
     if (Event.What != Heard::Run && Event.What != Heard::Moved && Event.What != Heard::Volume)
         mPlaying = false;
@@ -100,6 +108,12 @@ void RehearsalSound::Note(Noted Kind, double At) {
     mNow.Kind = Kind;
     mNow.At = At;
     mLog.SoundEvents.push_back(mNow);
+    if (Kind == Noted::Volume) mLog.SoundEvents.back().Position = PositionNow();
+}
+
+double RehearsalSound::PositionNow() const {
+    const double Since = mPlaying ? mNow.Position + mClock.Seconds() - mSince : mNow.Position;
+    return mRepeats && Since == mNow.Duration ? 0 : std::min(Since, mNow.Duration);
 }
 
 // The sound of the slide that is up, where there is one.
@@ -119,12 +133,12 @@ CueSoundKind RehearsalSound::KindOf(const QString& Path, double Position) const 
 
 void RehearsalSound::SlideIsUp(const QString& Path) {
     Settle();
-    const double Position = mPlaying ? mNow.Position + mClock.Seconds() - mSince : mNow.Position;
+    const double Position = PositionNow();
     CueSound Sound;
-    Sound.Kind = KindOf(Path, std::min(Position, mNow.Duration));
+    Sound.Kind = KindOf(Path, Position);
     if (Sound.Kind != CueSoundKind::Silent) Sound.File = Path;
     if (Sound.Kind != CueSoundKind::Silent && Sound.Kind != CueSoundKind::Unplayed) {
-        Sound.Position = std::min(Position, mNow.Duration);
+        Sound.Position = Position;
         Sound.Duration = mNow.Duration;
         Sound.Volume = Sound.EndVolume = mNow.Volume;
     }

@@ -21,15 +21,15 @@ class RehearsalSound {
     // The sound step of the last cue is done. Path: what the slide is to sound like, empty for
     // silence.
     void SlideIsUp(const QString& Path);
-    // Whether what is told to the devices comes from the watch over repeating sounds.
-    void SetWatchingRepeat(bool On) { mWatchingRepeat = On; }
 
   private:
     double Measure(const QString& Path);
+    void SettleRounds();
     void Hear(const SoundEvent& Event);
     void TakeState(const SoundEvent& Event);
     void Note(RehearsalSoundKind Kind, double At);
     double EndOfFile() const { return mSince + mNow.Duration - mNow.Position; }
+    double PositionNow() const;
     CueSoundKind KindOf(const QString& Path, double Position) const;
     CueSound* Sounding();
 
@@ -41,8 +41,8 @@ class RehearsalSound {
     RehearsalSoundEvent mNow;         // the player, as it stood at mSince
     double mSince = 0;
     bool mPlaying = false, mEnded = false;
+    bool mRepeats = false;
     bool mLoaded = false, mMoved = false;  // since the last slide came up
-    bool mWatchingRepeat = false;
 };
 
 }  // namespace neb

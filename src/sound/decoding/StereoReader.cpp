@@ -4,7 +4,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <new>
+#include <utility>
 
 #include "sound/decoding/StereoDownmix.h"
 
@@ -46,14 +48,19 @@ qint64 StereoReader::OutputFrames(qint64 Source) const {
     return (Source * kMixRate + mDecoder->Rate() - 1) / mDecoder->Rate();
 }
 
+double StereoReader::Round() const {
+    return static_cast<double>(mEnd) / mDecoder->Rate();
+}
+
 qint64 StereoReader::Left() const {
-    return std::max<qint64>(0, OutputFrames(mEnd - mStart) - mDone);
+    if (mRepeat && mEnd > 0) return std::numeric_limits<qint64>::max();
+    return std::max<qint64>(0, OutputFrames(mPassed + mEnd - mStart) - mDone);
 }
 
 void StereoReader::Seek(double Seconds) {
     mStart = std::clamp<qint64>(std::llround(Seconds * mDecoder->Rate()), 0, mDecoder->Frames());
     mEnd = mDecoder->Frames();
-    mDone = 0;
+    mDone = mPassed = 0;
     const qint64 Reach = HistoryFrames * std::max(kMixRate, mDecoder->Rate()) / kMixRate;
     const qint64 History = mConverter ? std::min(Reach, mStart) : 0;
     mNext = mStart - History;
@@ -73,7 +80,14 @@ void StereoReader::PassUnheard(qint64 Source) {
     src_set_ratio(mConverter.get(), static_cast<double>(kMixRate) / mDecoder->Rate());
 }
 
+void StereoReader::BeginAgain() {
+    mDecoder->Seek(0);
+    mPassed += mEnd - std::exchange(mStart, 0);
+    mNext = 0;
+}
+
 int StereoReader::ReadStereo(float* Into, int MaxFrames) {
+    if (mRepeat && mNext == mEnd && mEnd > 0) BeginAgain();
     const auto Wanted = static_cast<int>(std::min<qint64>({MaxFrames, PieceFrames, mEnd - mNext}));
     const auto Read = static_cast<int>(mDecoder->Read(mRaw.data(), Wanted));
     MixToStereo(mRaw.data(), mDecoder->Channels(), Into, Read);
@@ -82,11 +96,13 @@ int StereoReader::ReadStereo(float* Into, int MaxFrames) {
     return Read;
 }
 
-// One more piece for the converter; silence behind the last, or it would keep back the end.
+// One more piece for the converter; silence behind the end, or it would keep back the last of it.
 long StereoReader::Supply(void* Reader, float** Piece) {
     auto& Its = *static_cast<StereoReader*>(Reader);
     *Piece = Its.mStereo.data();
-    const int Read = Its.mNext < Its.mEnd ? Its.ReadStereo(*Piece, PieceFrames) : 0;
+    int Read = 0;
+    for (int Part = 1; Part > 0 && Read < PieceFrames; Read += Part)
+        Part = Its.ReadStereo(*Piece + 2 * static_cast<std::ptrdiff_t>(Read), PieceFrames - Read);
     std::fill(Its.mStereo.begin() + 2 * static_cast<std::ptrdiff_t>(Read), Its.mStereo.end(), 0.F);
     return PieceFrames;
 }
@@ -95,7 +111,10 @@ int StereoReader::Convert(float* Into, int MaxFrames) {
     const double Ratio = static_cast<double>(kMixRate) / mDecoder->Rate();
     const long Read = src_callback_read(mConverter.get(), Ratio, MaxFrames, Into);
     // Only at a rate beyond those of files: no sound, rather than waiting for ever.
-    if (Read < MaxFrames) mEnd = mStart;
+    if (Read < MaxFrames) {
+        mEnd = mStart;
+        mRepeat = false;
+    }
     // The decoder's end may have been found early on the way.
     return static_cast<int>(std::clamp<qint64>(Read, 0, Left()));
 }

@@ -22,6 +22,12 @@ class StereoReader {
     // Up to so many frames of two samples. Fewer at the end alone, then 0.
     int Read(float* Into, int MaxFrames);
     bool AtEnd() const { return Left() == 0; }
+    // Whether the end is followed by the start, to the sample and without a seam: the frames of the
+    // decoder go on into the converter as if they were one long row. A sound without frames ends
+    // all the same.
+    void SetRepeat(bool On) { mRepeat = On; }
+    // Seconds from one start to the next: the duration, or less once a damaged end has been found.
+    double Round() const;
     // At the end before all the frames were there that the decoder had announced.
     bool EndedEarly() const { return AtEnd() && mEnd < mDecoder->Frames(); }
     // To a place in seconds, 0 to Duration(); the nearest frame of the decoder.
@@ -36,6 +42,7 @@ class StereoReader {
     qint64 OutputFrames(qint64 Source) const;
     qint64 Left() const;
     int ReadStereo(float* Into, int MaxFrames);
+    void BeginAgain();
     int Convert(float* Into, int MaxFrames);
     void PassUnheard(qint64 Source);
 
@@ -43,11 +50,13 @@ class StereoReader {
     std::unique_ptr<SRC_STATE_tag, Closer> mConverter;  // none for 44100 frames a second
     std::vector<float> mRaw;                            // as decoded
     std::vector<float> mStereo;                         // what the converter reads from
+    bool mRepeat = false;
     // In frames of the decoder:
-    qint64 mStart = 0;  // where reading began
-    qint64 mNext = 0;   // to be decoded next
+    qint64 mStart = 0;   // where this round began
+    qint64 mPassed = 0;  // in the rounds before it, since reading began
+    qint64 mNext = 0;    // to be decoded next
     qint64 mEnd;
-    qint64 mDone = 0;  // frames delivered since the start
+    qint64 mDone = 0;  // frames delivered since reading began
 };
 
 }  // namespace neb

@@ -1,6 +1,7 @@
 #include "sound/devices/ClockedSound.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "support/Fault.h"
 #include "support/Services.h"
@@ -31,6 +32,7 @@ class ClockedGraph : public SoundGraph {
     double GetDuration() const override { return mDuration; }
     double GetCurrentPosition() const override;
     void PutCurrentPosition(double Seconds) override;
+    void PutRepeat(bool On) override;
 
   private:
     double Ticks() const { return mTime.Ticks(); }
@@ -46,26 +48,33 @@ class ClockedGraph : public SoundGraph {
     double mPosition = 0;  // seconds, at mSince
     double mSince = 0;     // ticks
     bool mRunning = false;
+    bool mRepeat = false;
     int mHundredths = 0;
 };
 
 void ClockedGraph::RenderFile(const QString& Path) {
     mDuration = mLength(Path);
     mPath = Path;
-    mRunning = false;
+    mRunning = mRepeat = false;
     StandAt(0);
     Report(Kind::Loaded);
 }
 
 double ClockedGraph::GetCurrentPosition() const {
     if (!mRunning) return mPosition;
-    return std::min(mDuration, mPosition + (Ticks() - mSince) / 1000);
+    const double Place = mPosition + (Ticks() - mSince) / 1000;
+    return mRepeat && mDuration > 0 ? std::fmod(Place, mDuration) : std::min(mDuration, Place);
 }
 
 void ClockedGraph::PutCurrentPosition(double Seconds) {
     if (!(Seconds >= 0)) throw Fault(QStringLiteral("The sound has no such place."), mPath);
     StandAt(std::min(Seconds, mDuration));
     Report(Kind::Moved);
+}
+
+void ClockedGraph::PutRepeat(bool On) {
+    StandAt(GetCurrentPosition());
+    mRepeat = On;
 }
 
 void ClockedGraph::PutVolume(int Hundredths) {
@@ -85,7 +94,7 @@ void ClockedGraph::Enter(bool Running, Kind What) {
 }
 
 void ClockedGraph::Report(Kind What) const {
-    if (mOnEvent) mOnEvent({What, mPath, GetCurrentPosition(), mHundredths, Ticks()});
+    if (mOnEvent) mOnEvent({What, mPath, GetCurrentPosition(), mHundredths, Ticks(), mRepeat});
 }
 
 }  // namespace

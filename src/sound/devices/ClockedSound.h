@@ -13,10 +13,11 @@ namespace neb {
 struct SoundEvent {
     enum class Kind { LoadedAhead, Loaded, Run, Paused, Stopped, Moved, Volume, Released };
     Kind What = Kind::Loaded;
-    QString Path;         // of the file that is loaded
-    double Position = 0;  // seconds: where the sound stands then
-    int Hundredths = 0;   // of a decibel: the volume then
-    double Ticks = 0;     // milliseconds of the clock
+    QString Path;          // of the file that is loaded
+    double Position = 0;   // seconds: where the sound stands then
+    int Hundredths = 0;    // of a decibel: the volume then
+    double Ticks = 0;      // milliseconds of the clock
+    bool Repeats = false;  // its end is followed by its start
 };
 
 class Clock;

@@ -15,6 +15,7 @@ class SdlSoundDevices : public SoundDevices {
     ~SdlSoundDevices() override;  // players that are left go on without sound
 
     std::unique_ptr<SoundGraph> CreateGraph() override;
+    bool RendersAside() const override { return true; }
     std::shared_ptr<void> Hold() override;
     void LoadAhead(const QString& Path) override;
     std::unique_ptr<CaptureDevice> CreateCapture() override;

@@ -29,6 +29,9 @@ class SoundGraph {
     virtual double GetCurrentPosition() const = 0;  // seconds; at the end exactly the duration
     // Beyond the end is the end. Throws Fault for what is below 0 or no number.
     virtual void PutCurrentPosition(double Seconds) = 0;
+    // Whether its end is followed by its start, without a gap; it has no end then. Not, for a
+    // player that cannot do so: it comes to its end.
+    virtual void PutRepeat(bool) {}
 };
 
 // Uncompressed sound, as the format chunk of a WAV file tells it.
@@ -73,6 +76,9 @@ class SoundDevices {
     virtual ~SoundDevices() = default;
     // A file's player. Works without any device, too: the sound then runs on in silence.
     virtual std::unique_ptr<SoundGraph> CreateGraph() = 0;
+    // Whether a player may render its file on another thread than the one that made it, before
+    // anything else is asked of it: a file may take its time.
+    virtual bool RendersAside() const { return false; }
     // Whoever will play again and again holds this meanwhile: the device stays open between two
     // sounds, and what was opened ahead stays ready. May be null.
     virtual std::shared_ptr<void> Hold() { return nullptr; }

@@ -48,6 +48,11 @@ class VoiceGraph : public SoundGraph {
         mVoice->PutPosition(Seconds);
         mMixer->Wake();
     }
+    void PutRepeat(bool On) override {
+        if (!mVoice) return;
+        mVoice->PutRepeat(On);
+        mMixer->Wake();
+    }
 
   private:
     void Release() {

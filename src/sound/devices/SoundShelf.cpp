@@ -1,7 +1,6 @@
 #include "sound/devices/SoundShelf.h"
 
 #include <QMutex>
-#include <QThreadPool>
 #include <QWaitCondition>
 #include <algorithm>
 #include <deque>
@@ -33,7 +32,8 @@ Stamp StampOf(const QString& Path) {
 // A sound and the file's stamp when it was opened: it may change while the sound is on loan.
 class StampedSound : public SoundDecoder {
   public:
-    explicit StampedSound(const QString& Path) : mStamp(StampOf(Path)), mSound(OpenSound(Path)) {}
+    StampedSound(const QString& Path, const SoundShelf::Opener& Open)
+        : mStamp(StampOf(Path)), mSound(Open(Path)) {}
 
     const Stamp& Its() const { return mStamp; }
     int Rate() const override { return mSound->Rate(); }
@@ -51,20 +51,24 @@ using Sound = std::unique_ptr<StampedSound>;
 
 }  // namespace
 
+// Its thread holds it, too: it may be left behind in a file that does not open.
 struct SoundShelf::State {
+    explicit State(Opener Way) : OpenFile(std::move(Way)) {}
+    const Opener OpenFile;
     QMutex Mutex;
-    QWaitCondition Opened;
+    QWaitCondition Asked, Opened;
     std::deque<QString> Wanted;  // paths as they were given, the oldest first
     QString Opening;             // the path that the thread is busy with
     bool Busy = false;
+    bool Ending = false;
     std::deque<Sound> Kept;  // the oldest first
-    QThreadPool Pool;        // the last: it waits for its thread, which uses the others
 
     void Keep(Sound Fresh);
     Sound Find(const Stamp& Its);
     bool Holds(const Stamp& Its);
     std::optional<QString> Begin();
     void End(Sound Fresh);
+    void Open(const QString& Path);
     void Work();
 };
 
@@ -94,45 +98,51 @@ bool SoundShelf::State::Holds(const Stamp& Its) {
     return Has;
 }
 
+// Waits for the next that is wanted; nothing at the end.
 std::optional<QString> SoundShelf::State::Begin() {
     const QMutexLocker Lock(&Mutex);
-    if (Wanted.empty()) return {};
+    while (Wanted.empty() && !Ending) Asked.wait(&Mutex);
+    if (Ending) return {};
     Opening = Wanted.front();
     Wanted.pop_front();
     Busy = true;
     return Opening;
 }
 
+// What comes after the end is not kept.
 void SoundShelf::State::End(Sound Fresh) {
     const QMutexLocker Lock(&Mutex);
-    if (Fresh) Keep(std::move(Fresh));
+    if (Fresh && !Ending) Keep(std::move(Fresh));
     Busy = false;
     Opened.wakeAll();
 }
 
-void SoundShelf::State::Work() {
-    const auto Path = Begin();
-    if (!Path) return;
+void SoundShelf::State::Open(const QString& Path) {
     Sound Fresh;
     try {
-        const Stamp Now = StampOf(*Path);
+        const Stamp Now = StampOf(Path);
         QMutexLocker Lock(&Mutex);
         const bool Has = Holds(Now);
         Lock.unlock();
-        if (!Has) Fresh = std::make_unique<StampedSound>(*Path);
+        if (!Has) Fresh = std::make_unique<StampedSound>(Path, OpenFile);
     } catch (const std::exception&) {
         // Whoever wants the sound opens it again and hears what is wrong with it.
     }
     End(std::move(Fresh));
 }
 
-SoundShelf::SoundShelf() : mState(std::make_unique<State>()) {
-    mState->Pool.setMaxThreadCount(1);
+void SoundShelf::State::Work() {
+    while (const auto Path = Begin()) Open(*Path);
 }
+
+SoundShelf::SoundShelf(Opener Open)
+    : mState(std::make_shared<State>(std::move(Open))), mThread([Its = mState] { Its->Work(); }) {}
 
 SoundShelf::~SoundShelf() {
     const QMutexLocker Lock(&mState->Mutex);
-    mState->Wanted.clear();
+    mState->Ending = true;
+    mState->Kept.clear();
+    mState->Asked.wakeAll();
 }
 
 void SoundShelf::Clear() {
@@ -149,7 +159,7 @@ void SoundShelf::Prepare(const QString& Path) {
     if (std::find(Wanted.begin(), Wanted.end(), Path) != Wanted.end()) return;
     Wanted.push_back(Path);
     if (Wanted.size() > MostKept) Wanted.pop_front();
-    mState->Pool.start([Its = mState.get()] { Its->Work(); });
+    mState->Asked.wakeAll();
 }
 
 std::unique_ptr<SoundDecoder> SoundShelf::Take(const QString& Path) {
@@ -159,7 +169,7 @@ std::unique_ptr<SoundDecoder> SoundShelf::Take(const QString& Path) {
     while (mState->Busy && mState->Opening == Path) mState->Opened.wait(&mState->Mutex);
     if (Sound Found = mState->Find(Now)) return Found;
     Lock.unlock();
-    return std::make_unique<StampedSound>(Path);
+    return std::make_unique<StampedSound>(Path, mState->OpenFile);
 }
 
 void SoundShelf::Put(const QString&, std::unique_ptr<SoundDecoder> Decoder) {

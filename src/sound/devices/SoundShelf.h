@@ -2,16 +2,23 @@
 // at once. Used by the sound devices; any thread may call.
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include "sound/decoding/SoundDecoder.h"
+#include "support/work/LeftThread.h"
 
 namespace neb {
 
 class SoundShelf {
   public:
-    SoundShelf();
-    ~SoundShelf();  // drops what has not begun, waits for the file that is being opened
+    // What opens a file; on any thread.
+    using Opener = std::function<std::unique_ptr<SoundDecoder>(const QString& Path)>;
+
+    explicit SoundShelf(Opener Open = OpenSound);
+    // Drops what has not begun; waits a second for the file that is being opened, and leaves it
+    // then.
+    ~SoundShelf();
     SoundShelf(const SoundShelf&) = delete;
     SoundShelf& operator=(const SoundShelf&) = delete;
 
@@ -29,7 +36,8 @@ class SoundShelf {
 
   private:
     struct State;
-    std::unique_ptr<State> mState;
+    std::shared_ptr<State> mState;
+    LeftThread mThread;
 };
 
 }  // namespace neb

@@ -11,7 +11,8 @@ namespace {
 
 constexpr int AheadFrames = kMixRate;  // a second
 constexpr int PieceFrames = 2048;
-constexpr int VolumeFrames = kMixRate / 100;  // of a change of volume
+// Of a change of volume: as long as a fade takes from one step to the next, so that it has none.
+constexpr int VolumeFrames = kMixRate / 10;
 constexpr int Silence = -10000;
 
 float GainOf(int Hundredths) {
@@ -32,6 +33,7 @@ SoundVoice::SoundVoice(std::unique_ptr<SoundDecoder> Decoder, int Hundredths, De
       mRing(AheadFrames),
       mTail(kFadeFrames),
       mGain(GainOf(Within(Hundredths))),
+      mRound(mDuration),
       mVolume(Within(Hundredths)),
       mAllFed(mReader.AtEnd()) {}
 
@@ -57,7 +59,7 @@ bool SoundVoice::IsRunning() const {
 
 void SoundVoice::PutVolume(int Hundredths) {
     const std::lock_guard Lock(mMutex);
-    mVolume = Within(Hundredths);
+    if (std::exchange(mVolume, Within(Hundredths)) == mVolume) return;
     if (mSounding)
         mGain.GlideTo(GainOf(mVolume), VolumeFrames);
     else
@@ -71,10 +73,44 @@ int SoundVoice::Volume() const {
 
 double SoundVoice::Position() const {
     const std::lock_guard Lock(mMutex);
-    if (mAtEnd) return mDuration;
-    // Only the end itself is the end: a repeat waits for that very number.
-    return std::min(mBase + static_cast<double>(mPlayed) / kMixRate,
-                    std::nextafter(mDuration, 0.0));
+    return mAtEnd ? mDuration : Place();
+}
+
+// Only the end itself is the end: whoever waits for it waits for that very number.
+double SoundVoice::Place() const {
+    const double Since = mBase + static_cast<double>(mPlayed) / kMixRate;
+    return std::min(mRepeat ? std::fmod(Since, mRound) : Since, std::nextafter(mDuration, 0.0));
+}
+
+void SoundVoice::PutRepeat(bool On) {
+    const std::lock_guard Lock(mMutex);
+    if (On == mRepeat || mDuration <= 0) return;
+    On ? BeginRounds() : EndRounds();
+}
+
+// What was decoded ahead may know no second round: it is decoded anew where nothing of it has been
+// heard, and followed by the start where some has.
+void SoundVoice::BeginRounds() {
+    mRepeat = true;
+    mEndsAt.reset();
+    if (std::exchange(mAtEnd, false)) return SetPlace(0);
+    if (mPlayed == 0) return SetPlace(mBase);
+    if (std::exchange(mAllFed, false)) mSeek = 0;
+}
+
+// The round that is heard is the last.
+void SoundVoice::EndRounds() {
+    mBase = Place();
+    mPlayed = 0;
+    mRepeat = false;
+    mEndsAt = std::llround((mRound - mBase) * kMixRate);
+    EndWithRound();
+}
+
+void SoundVoice::EndWithRound() {
+    if (!mEndsAt || mPlayed + mRing.Count() < *mEndsAt) return;
+    mRing.Keep(static_cast<int>(std::max<qint64>(0, *mEndsAt - mPlayed)));
+    mAllFed = true;
 }
 
 void SoundVoice::PutPosition(double Seconds) {
@@ -89,7 +125,8 @@ void SoundVoice::SetPlace(double Seconds) {
     mRing.Clear();
     mBase = Seconds;
     mPlayed = 0;
-    mAtEnd = Seconds >= mDuration;
+    mEndsAt.reset();
+    mAtEnd = Seconds >= mDuration && !mRepeat;
     mAllFed = mAtEnd;
     mSeek = Seconds;
     ++mOrder;
@@ -129,23 +166,31 @@ void SoundVoice::BreakOff() {
 std::optional<SoundVoice::Order> SoundVoice::NextOrder() {
     const std::lock_guard Lock(mMutex);
     if (mAllFed || mRing.Room() < PieceFrames) return {};
-    return Order{mOrder, std::exchange(mSeek, {})};
+    return Order{mOrder, std::exchange(mSeek, {}), mRepeat};
 }
 
 bool SoundVoice::Feed() {
     const std::optional<Order> Next = NextOrder();
     if (!Next) return false;
+    mReader.SetRepeat(Next->Repeat);
     if (Next->Seek) mReader.Seek(*Next->Seek);
-    Take(Next->Number, mReader.Read(mPiece.data(), PieceFrames));
+    Take(*Next, mReader.Read(mPiece.data(), PieceFrames));
     return true;
 }
 
-void SoundVoice::Take(quint64 Number, int Frames) {
+void SoundVoice::Take(const Order& For, int Frames) {
     const std::lock_guard Lock(mMutex);
-    if (Number != mOrder || mReleased) return;
+    if (For.Number != mOrder || mReleased) return;
     mRing.Push(mPiece.data(), Frames);
+    if (mReader.Round() > 0) mRound = mReader.Round();
     mAllFed = mReader.AtEnd();
     if (mReader.EndedEarly()) FadeOutEnd();
+    // The repeat was asked for while the last of it was read.
+    if (mAllFed && mRepeat && !For.Repeat) {
+        mAllFed = false;
+        mSeek = 0;
+    }
+    EndWithRound();
 }
 
 // A file that is cut off in the middle ends as softly as one that is paused.

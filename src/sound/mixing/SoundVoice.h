@@ -35,6 +35,8 @@ class SoundVoice {
     double Duration() const { return mDuration; }
     double Position() const;
     void PutPosition(double Seconds);
+    // Whether the end is followed by the start, without a gap; one that is at its end begins again.
+    void PutRepeat(bool On);
     void Release();  // fades out what sounds, and is over then
 
     // Decodes a piece when there is room for one; false when there was nothing to do.
@@ -49,9 +51,14 @@ class SoundVoice {
     struct Order {
         quint64 Number;
         std::optional<double> Seek;
+        bool Repeat;
     };
     std::optional<Order> NextOrder();
-    void Take(quint64 Number, int Frames);
+    void Take(const Order& For, int Frames);
+    double Place() const;
+    void BeginRounds();
+    void EndRounds();
+    void EndWithRound();
     void FadeOutEnd();
     void BreakOff();
     bool CanSound() const;
@@ -73,11 +80,14 @@ class SoundVoice {
     FadingTail mTail;
     Ramp mGain;
     Ramp mFade{1};
-    std::optional<double> mSeek;  // that the feeder has yet to carry out
-    quint64 mOrder = 0;           // counts the seeks, so that what was decoded before is dropped
-    double mBase = 0;             // seconds, where it was put
-    qint64 mPlayed = 0;           // frames handed out since
+    std::optional<double> mSeek;    // that the feeder has yet to carry out
+    quint64 mOrder = 0;             // counts the seeks, so that what was decoded before is dropped
+    double mBase = 0;               // seconds, where it was put
+    qint64 mPlayed = 0;             // frames handed out since
+    double mRound;                  // seconds from one start to the next
+    std::optional<qint64> mEndsAt;  // frames handed out at the end of the last round
     int mVolume;
+    bool mRepeat = false;
     bool mRunning = false;
     bool mSounding = false;  // the last frame handed out was of the file
     bool mAllFed = false;    // nothing follows what is in the ring

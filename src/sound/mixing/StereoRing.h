@@ -14,6 +14,8 @@ class StereoRing {
     int Count() const { return mCount; }
     int Room() const { return mFrames - mCount; }
     void Clear() { mCount = 0; }
+    // Only the oldest so many are left.
+    void Keep(int Frames) { mCount = std::min(mCount, Frames); }
     // Two samples; Index counts from the oldest frame.
     float* Frame(int Index) {
         return &mSamples[2 * static_cast<size_t>((mFirst + Index) % mFrames)];

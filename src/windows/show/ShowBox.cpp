@@ -1,7 +1,10 @@
 #include "windows/show/ShowBox.h"
 
+#include <QCoreApplication>
+#include <QPointer>
 #include <QStringList>
 
+#include "controls/forms/Form.h"
 #include "support/Services.h"
 
 namespace neb {
@@ -19,12 +22,20 @@ struct HeldOpen {
     const QString mMessage;
 };
 
-}  // namespace
-
 void TellOnce(const QString& Message) {
     if (Open().contains(Message)) return;
     const HeldOpen Held(Message);
     MsgBox(Message);
+}
+
+}  // namespace
+
+void TellLater(Form& Of, const QString& Message) {
+    const auto Tell = [Window = QPointer<Form>(&Of), Message] {
+        if (Window && Window->IsLoaded()) TellOnce(Message);
+    };
+    // Not as an event of the window: it may go while the box is up.
+    QMetaObject::invokeMethod(qApp, Tell, Qt::QueuedConnection);
 }
 
 }  // namespace neb

@@ -268,10 +268,16 @@ void frmSlideShowProjector::SetTimer2(bool On) {
     On&& IsLoaded() ? Timer2->start() : Timer2->stop();
 }
 
+void frmSlideShowProjector::TickAfter(int Milliseconds) {
+    QTimer::singleShot(Milliseconds, Qt::PreciseTimer, this, [this] { Timer1_Timer(); });
+}
+
+// The box comes up out of the event loop, never inside a tick or a step: a timer does not tick
+// while its own work waits in a box.
 void frmSlideShowProjector::Tell(const QString& Message) {
     mHands->Note(Message);
     ResizeControls();
-    TellOnce(Message);
+    TellLater(*this, Message);
 }
 
 }  // namespace neb

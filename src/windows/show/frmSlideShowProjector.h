@@ -76,6 +76,7 @@ class frmSlideShowProjector : public Form, private ShowStage {
     void Prefetch(const QString& Path) override;
     void SetTimer1(bool On) override;
     void SetTimer2(bool On) override;
+    void TickAfter(int Milliseconds) override;
     void Tell(const QString& Message) override;
 
     void PrepareControls();

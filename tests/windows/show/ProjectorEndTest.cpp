@@ -102,6 +102,8 @@ TEST_F(ProjectorEnd, MayComeWhileAFailureBoxIsOpen) {
         Boxes.WhileNextIsOpen([&] { Window.Unload(); });
         Boxes.Expect(QStringLiteral("Slide #2 of the current slide show does not exist!"));
         Window.NextSlide();
+        Spin(10);
+        EXPECT_FALSE(Window.IsLoaded());
         EXPECT_EQ("off off", Timers());
     });
     EXPECT_EQ(0, Blanking.Held);

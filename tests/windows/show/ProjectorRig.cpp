@@ -45,10 +45,6 @@ class LoggedSound : public ShowSound {
                       Slide.Repeat ? QStringLiteral(" repeat") : QString(), WordOf(Cause)));
         return mLog.OnStep && mLog.OnStep(Slide, Fields);
     }
-    void SyncSoundToSlide(std::int32_t Place, double Interval, bool Force,
-                          ShowSoundFields&) override {
-        Note(QStringLiteral("Sync %1 %2 %3").arg(Place).arg(Interval).arg(Force));
-    }
 
   private:
     void Note(const QString& Call) { mLog.Calls << Call; }
@@ -204,7 +200,10 @@ std::string ProjectorRig::Words(const frmSlideShowProjector& Window) const {
     return (Window.State().PlayCommand + u'/' + Window.State().StopCommand).toStdString();
 }
 
+// Inside an event the toolkit may leave those that wait already for later, unless one more comes.
 void ProjectorRig::Spin(int Milliseconds) {
+    QMetaObject::invokeMethod(
+        qApp, [] {}, Qt::QueuedConnection);
     QTest::qWait(Milliseconds);
 }
 

@@ -30,6 +30,7 @@ TEST_F(ProjectorState, PausesAndResumesOnTheSameSlide) {
     Run([&](Projector& Window) {
         Window.NextSlide();
         Sound.Taken();
+        Time.Seconds += 3.5;
         Window.PlayPause();
         EXPECT_EQ("Resume/Stop", Words(Window));
         EXPECT_EQ("off on", Timers());
@@ -40,9 +41,12 @@ TEST_F(ProjectorState, PausesAndResumesOnTheSameSlide) {
         EXPECT_EQ("on on", Timers());
         EXPECT_EQ("Play 0", Sound.Taken());
         EXPECT_EQ(2, CurrentSlideSeq);
-        Time.Seconds += 9.9;
+        Time.Seconds += 6.4;
         Window.Timer1_Timer();
-        EXPECT_EQ(2, CurrentSlideSeq) << "the clock starts anew";
+        EXPECT_EQ(2, CurrentSlideSeq);
+        Time.Seconds += 0.1;
+        Window.Timer1_Timer();
+        EXPECT_EQ(3, CurrentSlideSeq) << "it kept what was left of its time";
     });
 }
 
@@ -149,19 +153,41 @@ TEST_F(ProjectorSteps, GoRoundInBothDirections) {
     });
 }
 
-TEST_F(ProjectorSteps, SetTheTimersGoingInEveryStateAndKeepTheWord) {
-    AddSlides(3);
+TEST_F(ProjectorSteps, LeaveAPausedShowPausedWithTheirWholeTimeBeforeThem) {
+    AddSlides(4);
     Sound.OnStep = [](const SlideSound&, ShowSoundFields&) { return true; };
     Run([&](Projector& Window) {
+        Time.Seconds += 7;
         Window.PlayPause();
         Window.NextSlide();
         EXPECT_EQ("Resume/Stop", Words(Window));
-        EXPECT_EQ("on on", Timers());
+        EXPECT_EQ("off on", Timers());
+        EXPECT_EQ("Slide 2", Caption());
+        Time.Seconds += 500;
+        Spin(250);
+        EXPECT_EQ(2, CurrentSlideSeq);
+        Sound.Taken();
+        Window.PlayPause();
+        EXPECT_EQ("Pause/Stop", Words(Window));
+        EXPECT_EQ("Play 0", Sound.Taken());
+        Time.Seconds += 9.9;
+        Window.Timer1_Timer();
+        EXPECT_EQ(2, CurrentSlideSeq);
+        Time.Seconds += 0.1;
+        Window.Timer1_Timer();
+        EXPECT_EQ(3, CurrentSlideSeq);
+    });
+}
+
+TEST_F(ProjectorSteps, SetAStoppedShowGoingAndTheWordsSaySo) {
+    AddSlides(3);
+    Sound.OnStep = [](const SlideSound&, ShowSoundFields&) { return true; };
+    Run([&](Projector& Window) {
         Window.StopRestart();
         Window.PreviousSlide();
-        EXPECT_EQ("Play/Resume", Words(Window));
+        EXPECT_EQ("Pause/Stop", Words(Window));
         EXPECT_EQ("on on", Timers());
-        EXPECT_EQ(1, CurrentSlideSeq);
+        EXPECT_EQ(3, CurrentSlideSeq);
     });
 }
 
@@ -179,23 +205,6 @@ TEST_F(ProjectorSteps, TellTheSoundThatTheUserTookThem) {
         Sound.Taken();
         Window.NextSlide();
         EXPECT_EQ("Step 2 by the user", Sound.Taken());
-    });
-}
-
-TEST_F(ProjectorSteps, MoveAFittedTrackBeforeTheSlideComesUp) {
-    AddSlides(4);
-    Sound.OnStep = [](const SlideSound&, ShowSoundFields& Fields) {
-        Fields.FitToSong = true;
-        Fields.SlideInterval = 2.5;
-        return true;
-    };
-    Run([&](Projector& Window) {
-        Sound.Taken();
-        Window.GotoEnd();
-        EXPECT_EQ("Sync 4 2.5 1|Step 4 by the user", Sound.Taken());
-        Window.PreviousSlide();
-        EXPECT_EQ("Sync 3 2.5 1|Step 3 by the user", Sound.Taken());
-        EXPECT_EQ(2.5, Window.SlideInterval());
     });
 }
 
@@ -290,55 +299,6 @@ TEST_F(ProjectorTicks, KeepAFittedSlideDueByTheMusicOverMidnight) {
     });
 }
 
-// The second slide stands in a box while the third comes up: that one keeps its whole time.
-TEST_F(ProjectorTicks, LeaveASlideItsTimeThatCameUpBehindABox) {
-    AddSlides(4);
-    frmSlideShowProjector* Shown = nullptr;
-    Sound.OnStep = [&](const SlideSound& Slide, ShowSoundFields& Fields) {
-        Fields.FitToSong = Slide.SlideSeq != 2;
-        if (Slide.SlideSeq != 2) return true;
-        Time.Seconds += 10;
-        Shown->Timer1_Timer();
-        return false;
-    };
-    Run([&](Projector& Window) {
-        Shown = &Window;
-        Time.Seconds += 10;
-        Window.Timer1_Timer();
-        ASSERT_EQ(3, CurrentSlideSeq);
-        Time.Seconds += 9.9;
-        Window.Timer1_Timer();
-        EXPECT_EQ(3, CurrentSlideSeq);
-        Time.Seconds += 0.1;
-        Window.Timer1_Timer();
-        EXPECT_EQ(4, CurrentSlideSeq);
-    });
-}
-
-// Whoever answers the box late does not set a halted show going.
-TEST_F(ProjectorSteps, ThatAHaltHasOvertakenStartNothingMore) {
-    AddSlides(3);
-    frmSlideShowProjector* Shown = nullptr;
-    std::function<void()> Meanwhile;
-    Sound.OnStep = [&](const SlideSound&, ShowSoundFields&) {
-        if (Meanwhile) std::exchange(Meanwhile, nullptr)();
-        return true;
-    };
-    Run([&](Projector& Window) {
-        Shown = &Window;
-        Window.StopRestart();
-        Meanwhile = [&] { Shown->PlayPause(); };
-        Window.StopRestart();
-        EXPECT_EQ("Resume/Stop", Words(Window));
-        EXPECT_EQ("off on", Timers());
-        Window.PlayPause();
-        Meanwhile = [&] { Shown->StopRestart(); };
-        Window.NextSlide();
-        EXPECT_EQ("Play/Resume", Words(Window));
-        EXPECT_EQ("off off", Timers());
-    });
-}
-
 TEST_F(ProjectorTicks, FadeTheSoundOverTheLastSlideOfATrack) {
     AddSlides(3);
     Sound.OnStep = [](const SlideSound& Slide, ShowSoundFields& Fields) {
@@ -357,7 +317,8 @@ TEST_F(ProjectorTicks, FadeTheSoundOverTheLastSlideOfATrack) {
         EXPECT_EQ("Step 2 in time", VolumeAfter(5));
         EXPECT_EQ("Volume 75", VolumeAfter(2.5));
         EXPECT_EQ("Volume 50", VolumeAfter(2.5));
-        EXPECT_EQ("Volume 1", VolumeAfter(4.9));
+        EXPECT_EQ("Volume 2", VolumeAfter(4.8));
+        EXPECT_EQ("Volume 0", VolumeAfter(0.1)) << "silent when its time is over";
         EXPECT_EQ("Step 3 in time", VolumeAfter(0.1));
         EXPECT_EQ("Volume 100", VolumeAfter(0.1));
     });

@@ -138,7 +138,7 @@ class ProjectorBox : public ProjectorWorld {
     QTimer mAnswer;
 };
 
-TEST_F(ProjectorBox, AStepThatTheTimerHasOvertakenBehindItsBoxLeavesTheMusicAlone) {
+TEST_F(ProjectorBox, TheMusicOfTheSlideThatCameUpBehindABoxPlaysOnWhenItIsAnswered) {
     AddSlides(3);
     AddTrack(QStringLiteral("gone.wav"), 2, 2);
     AddTrack(QStringLiteral("song.wav"), 3, 3);
@@ -146,6 +146,7 @@ TEST_F(ProjectorBox, AStepThatTheTimerHasOvertakenBehindItsBoxLeavesTheMusicAlon
     Run([&](Projector& Window) {
         AnswerWhen([&] { return CurrentSlideSeq == 3 && Heard.contains(u"run song.wav"); });
         QTest::keyClick(&Window, Qt::Key_Up);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !Answered.isEmpty(); }, 12000));
         EXPECT_EQ("The Sound Track for this group of slides does not exist.",
                   Answered.toStdString());
         EXPECT_EQ("loaded song.wav|run song.wav", Heard.join(u'|').toStdString());
@@ -154,7 +155,7 @@ TEST_F(ProjectorBox, AStepThatTheTimerHasOvertakenBehindItsBoxLeavesTheMusicAlon
     });
 }
 
-TEST_F(ProjectorBox, AStepThatNothingHasOvertakenGoesOnAfterItsBox) {
+TEST_F(ProjectorBox, AStepIsDoneBeforeItsBoxComesUp) {
     AddSlides(3);
     AddTrack(QStringLiteral("song.wav"), 1, 1);
     AddSong(QStringLiteral("song.wav"));
@@ -165,6 +166,9 @@ TEST_F(ProjectorBox, AStepThatNothingHasOvertakenGoesOnAfterItsBox) {
         QTest::keyClick(&Window, Qt::Key_Up);
         EXPECT_EQ("loaded song.wav|run song.wav|released song.wav", Heard.join(u'|').toStdString());
         EXPECT_EQ("on on", Timers());
+        EXPECT_EQ(2, CurrentSlideSeq);
+        EXPECT_EQ("", Answered.toStdString());
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !Answered.isEmpty(); }, 12000));
     });
 }
 

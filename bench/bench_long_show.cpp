@@ -1,0 +1,180 @@
+// A long show as it runs: the real window, its real timers and transitions, songs that are decoded
+// and mixed for a device that only keeps time. Tells how far its slides have come from their times,
+// and how much more memory it holds at the end than when every transition had been there once.
+//   bench_long_show [MINUTES]   60 unless told
+#include <QColor>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
+
+#include "controls/forms/NebApplication.h"
+#include "controls/picture/XShow.h"
+#include "db/clsDBEngine.h"
+#include "db/modAlbumFiles.h"
+#include "harness/SoundFiles.h"
+#include "pictures/ImgX.h"
+#include "settings/modNEBSlideShow.h"
+#include "show/EngineSound.h"
+#include "sound/devices/SdlSoundDevices.h"
+#include "support/Services.h"
+#include "support/files/modHostFiles.h"
+#include "windows/show/frmSlideShowProjector.h"
+
+using namespace neb;
+
+namespace {
+
+constexpr double DefaultMinutes = 60;
+constexpr int Slides = 12;
+constexpr double Fitted = 9.7, Timeout = 2;  // seconds: of the song for five slides, of any other
+constexpr int Settled = 130;                 // slides: by then every transition has been there
+constexpr double Round = Fitted + 7 * Timeout;
+constexpr double MostGrowth = 1, MostDrift = 100;  // megabytes, milliseconds
+
+double Seconds() {
+    using namespace std::chrono;
+    return duration<double>(steady_clock::now().time_since_epoch()).count();
+}
+
+// What the process holds in memory.
+double Megabytes() {
+    QFile File(QStringLiteral("/proc/self/statm"));
+    if (!File.open(QIODevice::ReadOnly)) return 0;
+    return File.readAll().split(' ')[1].toDouble() * 4096 / 1048576;
+}
+
+// When the slide of that number comes up, counted from the first.
+double DueOf(int Count) {
+    const int Place = Count % Slides;
+    return (Count / Slides) * Round +
+           (Place <= 5 ? Place * Fitted / 5 : Fitted + (Place - 5) * Timeout);
+}
+
+struct Book {
+    int Count = 0;
+    double Start = 0, Last = 0, Most = 0;  // seconds
+
+    void Note() {
+        if (Count == 0) Start = Seconds();
+        Last = Seconds() - Start - DueOf(Count++);
+        Most = std::max(Most, std::abs(Last));
+    }
+};
+
+// The sound of the show, which knows when each slide comes up.
+class NotedSound : public EngineSound {
+  public:
+    NotedSound(clsDBEngine& Engine, SoundDevices& Devices, Book& Of)
+        : EngineSound(&Engine, &Devices,
+                      [](const QString& Text) { std::printf("box: %s\n", qPrintable(Text)); }),
+          mOf(Of) {}
+    bool SoundStep(const SlideSound& Slide, StepCause Cause, ShowSoundFields& Fields) override {
+        mOf.Note();
+        return EngineSound::SoundStep(Slide, Cause, Fields);
+    }
+
+  private:
+    Book& mOf;
+};
+
+void MakePicture(const QString& Path, int Hue) {
+    QImage Image(1280, 800, QImage::Format_RGB32);
+    Image.fill(QColor::fromHsv(Hue, 160, 220));
+    if (!Image.save(Path, "JPG")) std::puts("no picture");
+}
+
+// Five slides with a song that is fitted to them, four with one that repeats, three in silence.
+std::int32_t MakeShow(clsDBEngine& Engine) {
+    std::int32_t AlbumID = 0, ShowID = 0;
+    Engine.SaveAlbum(AlbumID, QStringLiteral("Long"));
+    clsNEBAlbum& Album = *Engine.GetAlbum(AlbumID);
+    Album.SaveSlideShow(ShowID, QStringLiteral("Long"), 0, Engine);
+    clsNEBSlideShow& Show = *Album.GetSlideShow(ShowID);
+    const QString Sounds = SoundTracksFolder(Engine.DBPath(), AlbumID);
+    MakeDirs(SlidesFolder(Engine.DBPath(), AlbumID));
+    MakeDirs(Sounds);
+    for (int I = 1; I <= Slides; ++I) {
+        std::int32_t SlideID = 0;
+        clsNEBSlide* Slide = Album.SaveSlide2(SlideID, QStringLiteral("Slide %1").arg(I), {}, {},
+                                              false, false, Engine);
+        Slide->SlideLoc = FileStem(SlideID) + QStringLiteral(".jpg");
+        MakePicture(SlidesFolder(Engine.DBPath(), AlbumID) + Slide->SlideLoc, I * 29 % 360);
+        Show.SaveDetail(SlideID, I, {});
+    }
+    WriteFile(Sounds + QStringLiteral("fitted.wav"),
+              harness::WaveBytes(harness::Tone(Fitted, 44100), 44100));
+    WriteFile(Sounds + QStringLiteral("round.wav"),
+              harness::WaveBytes(harness::Tone(0.73, 48000), 48000));
+    Show.SaveSoundTrack(1, QStringLiteral("fitted.wav"), 1, 5, false, true, true);
+    Show.SaveSoundTrack(2, QStringLiteral("round.wav"), 6, 9, true, false, false);
+    return ShowID;
+}
+
+void MakeSettings() {
+    clsSettings Settings = OpenSettings();
+    Settings.PutValue({}, QStringLiteral("Timeout"), QString::number(Timeout));
+    for (const char* Delay : {"DelayL", "DelayM", "DelayH"})
+        Settings.PutValue({}, QLatin1String(Delay), QStringLiteral("100"));
+    Settings.Save();
+}
+
+void Watch(Form& Window, const Book& Of, double End, double& Before) {
+    if (Before == 0 && Of.Count > Settled) Before = Megabytes();
+    if (Seconds() >= End) return void(Window.Unload());
+    QTimer::singleShot(100, qApp, [&Window, &Of, End, &Before] { Watch(Window, Of, End, Before); });
+}
+
+int Print(const Book& Of, double Before, double Minutes) {
+    if (Before == 0)
+        return std::printf("too short: %d slides of more than %d came up\n", Of.Count, Settled), 1;
+    std::printf("A show of %.1f minutes: %d slides\n", Minutes, Of.Count);
+    std::printf("  memory after %d slides %8.1f MB, at the end %+.2f MB (limit %.0f)\n", Settled,
+                Before, Megabytes() - Before, MostGrowth);
+    std::printf("  from their times the slides were at most %.1f ms (limit %.0f), the last %.1f\n",
+                Of.Most * 1000, MostDrift, Of.Last * 1000);
+    return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    qputenv("SDL_AUDIODRIVER", "dummy");
+    const double Minutes = argc > 1 ? std::atof(argv[1]) : DefaultMinutes;
+    NebApplication App(argc, argv);
+    XShow::SetReader([](const QString& File) {
+        ImgX Picture;
+        Picture.Load(File);
+        return Picture.Picture();
+    });
+    QTemporaryDir Dir;
+    SetDocumentsPath(Dir.path());
+    AppPathCache = Dir.path() + QStringLiteral("/program/");
+    MakeDirs(AppPathCache);
+    MakePicture(AppPathCache + QStringLiteral("NoSlide.bmp"), 0);
+    clsDBEngine Engine;
+    Engine.SetDBPath(Dir.path() + QStringLiteral("/db/"));
+    Engine.InitializeDB();
+    DBEngine = &Engine;
+    const std::int32_t ShowID = MakeShow(Engine);
+    MakeSettings();
+    SdlSoundDevices Machine;
+    Book Kept;
+    double Before = 0;
+    ShowWorld World = DesktopShowWorld();
+    World.Sound = [&](const ShowTeller&) {
+        return std::make_unique<NotedSound>(Engine, Machine, Kept);
+    };
+    {
+        const auto Window = NewForm<frmSlideShowProjector>(World);
+        Window->SetAlbumID(1);
+        const double End = Seconds() + Minutes * 60;
+        QTimer::singleShot(0, qApp, [&] { Watch(*Window, Kept, End, Before); });
+        Window->LoadSlideShow(ShowID);
+    }
+    return Print(Kept, Before, Minutes);
+}
