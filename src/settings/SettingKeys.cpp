@@ -45,6 +45,7 @@ constexpr SettingRow Table[] = {
     {S::TestTimeout,     "",                  "Timeout*",        Levels,        T::Seconds, None,              None,             Any, Any,       "10",    "nobody"},
     {S::AvgTime,         "",                  "AvgTime*",        Levels,        T::Seconds, None,              None,             Any, Any,       "N/A",   "nobody"},
     {S::EffectSelected,  "Effect Selections", "Effect.*",        EffectNumbers, T::Flag,    None,              None,             Any, Any,       nullptr, "preferences, a show; number 0 is no effect, but kept"},
+    {S::ShowScreen,      "",                  "ShowScreen",      "",            T::Text,    None,              None,             Any, Any,       nullptr, "preferences, a show, the speed test; absent: the program's own screen"},
     {S::WindowHeight,    "*",                 "Height",          Windows,       T::Twips,   None,              None,             Any, Any,       nullptr, "RestoreWindow"},
     {S::WindowWidth,     "*",                 "Width",           Wide,          T::Twips,   None,              None,             Any, Any,       nullptr, "RestoreWindow"},
     {S::WindowState,     "*",                 "WindowState",     Wide,          T::Number,  None,              None,             Any, Any,       nullptr, "RestoreWindow"},

@@ -211,12 +211,13 @@ TEST_F(MainWindow, SlideShowManagersOpenFromTheMenuAndForWhoeverWantsOne) {
 
 TEST_F(MainWindow, EveryMenuEntryIsInItsPlace) {
     Start();
-    for (const char* Name :
-         {"mnuAlbumNew",       "mnuAlbumRename",     "mnuAlbumDelete",     "mnuAlbumExport",
-          "mnuAlbumImport",    "mnuAlbumPrint",      "mnuSlideMgr",        "mnuSlideMgrBulk",
-          "mnuSlideShowMgr",   "mnuSlideShowExport", "mnuSlideShowImport", "mnuSlideShowPrint",
-          "mnuSlideShowPrefs", "mnuSlideShowViewer", "mnuQuickShow",       "mnuRestore",
-          "mnuHelpContents",   "mnuHelpIndex",       "mnuAbout",           "mnuExit"})
+    for (const char* Name : {"mnuAlbumNew",        "mnuAlbumRename",     "mnuAlbumDelete",
+                             "mnuAlbumExport",     "mnuAlbumImport",     "mnuAlbumPrint",
+                             "mnuSlideMgr",        "mnuSlideMgrBulk",    "mnuSlideShowMgr",
+                             "mnuSlideShowExport", "mnuSlideShowImport", "mnuSlideShowPrint",
+                             "mnuSlideShowPrefs",  "mnuSlideShowViewer", "mnuQuickShow",
+                             "mnuSpeedTest",       "mnuRestore",         "mnuHelpContents",
+                             "mnuHelpIndex",       "mnuAbout",           "mnuExit"})
         EXPECT_TRUE(Entry(Name)) << Name;
     for (const char* Name : {"mnuFileHdr", "mnuAlbumHdr", "mnuSlideShowHdr", "mnuImportExportHdr",
                              "mnuPrintHdr", "mnuWindows", "mnuHelpHdr"})

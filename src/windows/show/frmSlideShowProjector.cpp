@@ -1,7 +1,6 @@
 #include "windows/show/frmSlideShowProjector.h"
 
 #include <QKeyEvent>
-#include <QScreen>
 
 #include "controls/forms/ScreenPointer.h"
 #include "controls/forms/modTwips.h"
@@ -10,7 +9,6 @@
 #include "show/ShowSettings.h"
 #include "support/Fault.h"
 #include "ui_frmSlideShowProjector.h"
-#include "windows/show/ProgramScreen.h"
 #include "windows/show/ShowBox.h"
 #include "windows/show/frmPopup.h"
 #include "windows/show/modSlideShows.h"
@@ -105,8 +103,7 @@ void frmSlideShowProjector::LoadSlideShow(std::int32_t SlideShowID) {
 
 void frmSlideShowProjector::Form_Load() {
     mRun.Load();
-    mScreenStaysOn.emplace(tr("A slide show is running"));
-    FillScreen();
+    mDesk.emplace(*this, mRun);
     DoEvents();
     ResizeControls();
     DoEvents();
@@ -118,18 +115,10 @@ void frmSlideShowProjector::Form_Activate() {
     PlayPause();
 }
 
-// A desktop without a window manager takes the size from the window itself.
-void frmSlideShowProjector::FillScreen() {
-    const QScreen* Screen = ProgramScreen();
-    setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
-    if (Screen) setGeometry(Screen->geometry());
-    setWindowState(Qt::WindowFullScreen);
-}
-
 bool frmSlideShowProjector::Form_Unload() {
     const HourglassUntilEnd Pointer;
     mUi->Show1->StopEffect();
-    mScreenStaysOn.reset();
+    mDesk.reset();
     mRun.End();
     if (mRun.ResumeValid()) SaveNextSlideSeq();
     return true;
@@ -138,7 +127,7 @@ bool frmSlideShowProjector::Form_Unload() {
 // The window must close even when the place cannot be kept; the opener hears of it afterwards.
 void frmSlideShowProjector::SaveNextSlideSeq() {
     try {
-        neb::SaveNextSlideSeq(mRun.Memory().CurrentSlideSeq);
+        KeepPlace(mRun.AlbumID, mRun.SlideShowID, mRun.ResumeSeq(), mRun.Memory().CurrentSlideSeq);
     } catch (const Fault&) {
         mSaveFault = std::current_exception();
     }
@@ -219,10 +208,12 @@ void frmSlideShowProjector::RunCommand(const QString& Word) {
 
 void frmSlideShowProjector::EditPreferences() {
     mRun.EditPreferences(EditSlideShowPreferences);
+    if (mDesk) mDesk->FollowScreen();
 }
 
 void frmSlideShowProjector::ShowCaption(const QString& Text) {
     mUi->lblCaption->setText(Text);
+    if (mDesk) mDesk->FollowSlide();
 }
 
 bool frmSlideShowProjector::ShowPicture(const QString& Path, const EffectChoice& Choice) {
@@ -248,6 +239,7 @@ void frmSlideShowProjector::Prefetch(const QString& Path) {
 
 void frmSlideShowProjector::SetTimer1(bool On) {
     On&& IsLoaded() ? Timer1->start() : Timer1->stop();
+    if (mDesk) mDesk->FollowState(On);
 }
 
 void frmSlideShowProjector::SetTimer2(bool On) {

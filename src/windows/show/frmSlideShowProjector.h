@@ -8,7 +8,7 @@
 
 #include "controls/forms/Form.h"
 #include "show/ShowRun.h"
-#include "windows/show/BlankingHold.h"
+#include "windows/show/ShowDesk.h"
 
 namespace neb {
 
@@ -73,7 +73,6 @@ class frmSlideShowProjector : public Form, private ShowStage {
     void Tell(const QString& Message) override;
 
     void PrepareControls();
-    void FillScreen();
     void ResizeControls();
     void SurfaceClick();
     void SurfaceMouseDown(int Button);
@@ -81,8 +80,8 @@ class frmSlideShowProjector : public Form, private ShowStage {
     void SaveNextSlideSeq();
 
     std::unique_ptr<Ui::frmSlideShowProjector> mUi;
-    std::optional<BlankingHold> mScreenStaysOn;
     ShowRun mRun;
+    std::optional<ShowDesk> mDesk;
     QString mAlbumName;
     QTimer* Timer1;
     QTimer* Timer2;
