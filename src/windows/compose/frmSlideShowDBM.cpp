@@ -116,8 +116,10 @@ void frmSlideShowDBM::SetUpToolBar() {
          &frmSlideShowDBM::Delete},
         {"mnuSlideShowPrint", "Print", "Print the slide show as it was last saved", "print",
          "Ctrl+P", &frmSlideShowDBM::Print},
-        {"mnuSlideShowView", "View", "Play the slide show as it was last saved", "slide-show-play",
-         "", &frmSlideShowDBM::View},
+        {"mnuSlideShowView", "View",
+         "Play the slide show as it was last saved, from its first slide; with Shift (Shift+F5) "
+         "from the slide in hand",
+         "slide-show-play", "", &frmSlideShowDBM::View},
         {"mnuSlideShowPrefs", "Preferences", "Choose how slide shows are played", "preferences", "",
          &frmSlideShowDBM::EditPreferences},
         {"mnuExit", "Exit", "Close this window", "exit", "", &frmSlideShowDBM::Close},
@@ -145,6 +147,9 @@ void frmSlideShowDBM::SetUpKeys() {
         {mUi->flxSelected, "Alt+Up", &frmSlideShowDBM::MoveUp},
         {mUi->flxSelected, "Alt+Down", &frmSlideShowDBM::MoveDown},
     };
+    On(new QShortcut(Qt::SHIFT | Qt::Key_F5, this, nullptr, nullptr,
+                     Qt::WidgetWithChildrenShortcut),
+       &QShortcut::activated, &frmSlideShowDBM::View);
     if (ReadOnlyDB) return;
     for (const auto& Each : Keys) {
         auto* Key = new QShortcut(QKeySequence(QString::fromLatin1(Each.Keys)), Each.Grid);
@@ -372,8 +377,13 @@ void frmSlideShowDBM::Print() {
 }
 
 void frmSlideShowDBM::View() {
+    const auto Slides = mLists->Slides();
+    const auto Row = static_cast<size_t>(mUi->flxSelected->Row());
+    const bool FromHere = QGuiApplication::keyboardModifiers() & Qt::ShiftModifier;
+    const std::int32_t InHand = FromHere && Row < Slides.size() ? Slides[Row].SlideID : 0;
     if (AlbumID() != 0 && SlideShowID() != 0)
-        return RunSlideShow(AlbumID(), mUi->cboAlbum->currentText(), SlideShowID());
+        return RunSlideShow(AlbumID(), mUi->cboAlbum->currentText(), SlideShowID(),
+                            PlaceInShow(AlbumID(), SlideShowID(), InHand));
     MsgBox(QStringLiteral("You must first select a Slide Show to View."),
            QStringLiteral("Missing User Input"));
 }

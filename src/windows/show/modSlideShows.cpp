@@ -1,5 +1,7 @@
 #include "windows/show/modSlideShows.h"
 
+#include "db/clsDBEngine.h"
+#include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "windows/show/frmPreferences.h"
 #include "windows/show/frmSlideShowProjector.h"
@@ -22,6 +24,15 @@ void RunSlideShowIn(const ShowWorld& World, std::int32_t AlbumID, const QString&
     } catch (const Fault&) {
         // a show that cannot run ends, and the window that started it goes on
     }
+}
+
+std::int32_t PlaceInShow(std::int32_t AlbumID, std::int32_t SlideShowID, std::int32_t SlideID) {
+    const clsNEBAlbum* Album = DBEngine ? DBEngine->GetAlbum(AlbumID) : nullptr;
+    const clsNEBSlideShow* Show = Album ? Album->GetSlideShow(SlideShowID) : nullptr;
+    if (!Show) return 1;
+    const auto Found = std::find_if(Show->Details.begin(), Show->Details.end(),
+                                    [&](const auto& Each) { return Each->SlideID == SlideID; });
+    return Found == Show->Details.end() ? 1 : (*Found)->SlideSeq;
 }
 
 void EditSlideShowPreferences() {

@@ -11,12 +11,16 @@ namespace neb {
 struct ShowWorld;
 
 // Runs a show on the full screen; returns when the user has left it. Faults are ignored. BeginAt:
-// the slide to begin with, from 1; 0: where the show was left, or its first.
+// the slide to begin with, from 1, and where such a run is left is not kept; 0: where the show was
+// left, or its first.
 void RunSlideShow(std::int32_t AlbumID, const QString& AlbumName, std::int32_t SlideShowID,
                   std::int32_t BeginAt = 0);
 // The same in another world than the desktop's.
 void RunSlideShowIn(const ShowWorld& World, std::int32_t AlbumID, const QString& AlbumName,
                     std::int32_t SlideShowID, std::int32_t BeginAt = 0);
+
+// The place of a slide in a show as it was saved; 1 where it has none.
+std::int32_t PlaceInShow(std::int32_t AlbumID, std::int32_t SlideShowID, std::int32_t SlideID);
 
 // Shows preferences; SlideTimeout is then as they say. Faults are ignored.
 void EditSlideShowPreferences();
