@@ -8,7 +8,8 @@
 namespace neb::harness {
 
 inline bool AwaitActive(const QWidget& Window, int Milliseconds = 2000) {
-    return QTest::qWaitFor([&] { return QApplication::activeWindow() == &Window; }, Milliseconds);
+    return QTest::qWaitFor([&] { return QApplication::activeWindow() == Window.window(); },
+                           Milliseconds);
 }
 
 }  // namespace neb::harness

@@ -7,7 +7,6 @@
 #include <QPushButton>
 #include <QRegularExpression>
 
-#include "controls/forms/FocusReturn.h"
 #include "controls/forms/ScreenPointer.h"
 #include "controls/forms/StandOver.h"
 #include "controls/forms/frmMsgBoxEx.h"

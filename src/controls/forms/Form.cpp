@@ -7,7 +7,6 @@
 
 #include "controls/fields/WheelGuard.h"
 #include "controls/forms/DefaultButton.h"
-#include "controls/forms/FocusReturn.h"
 #include "controls/forms/StandOver.h"
 
 namespace neb {

@@ -20,6 +20,7 @@
 #include "windows/compose/TwoLists.h"
 #include "windows/frame/Openers.h"
 #include "windows/frame/modWindowState.h"
+#include "windows/lists/SlideRows.h"
 #include "windows/lists/clsImageBuffer.h"
 #include "windows/lists/frmPicturePopup.h"
 #include "windows/printing/modPrinting.h"
@@ -117,9 +118,8 @@ void frmSlideShowDBM::SetUpToolBar() {
         {"mnuSlideShowPrint", "Print", "Print the slide show as it was last saved", "print",
          "Ctrl+P", &frmSlideShowDBM::Print},
         {"mnuSlideShowView", "View",
-         "Play the slide show as it was last saved, from its first slide; with Shift (Shift+F5) "
-         "from the slide in hand",
-         "slide-show-play", "", &frmSlideShowDBM::View},
+         "Play the saved show from its first slide; with Shift from the slide in hand",
+         "slide-show-play", "Shift+F5", &frmSlideShowDBM::View},
         {"mnuSlideShowPrefs", "Preferences", "Choose how slide shows are played", "preferences", "",
          &frmSlideShowDBM::EditPreferences},
         {"mnuExit", "Exit", "Close this window", "exit", "", &frmSlideShowDBM::Close},
@@ -147,9 +147,6 @@ void frmSlideShowDBM::SetUpKeys() {
         {mUi->flxSelected, "Alt+Up", &frmSlideShowDBM::MoveUp},
         {mUi->flxSelected, "Alt+Down", &frmSlideShowDBM::MoveDown},
     };
-    On(new QShortcut(Qt::SHIFT | Qt::Key_F5, this, nullptr, nullptr,
-                     Qt::WidgetWithChildrenShortcut),
-       &QShortcut::activated, &frmSlideShowDBM::View);
     if (ReadOnlyDB) return;
     for (const auto& Each : Keys) {
         auto* Key = new QShortcut(QKeySequence(QString::fromLatin1(Each.Keys)), Each.Grid);
@@ -377,15 +374,9 @@ void frmSlideShowDBM::Print() {
 }
 
 void frmSlideShowDBM::View() {
-    const auto Slides = mLists->Slides();
-    const auto Row = static_cast<size_t>(mUi->flxSelected->Row());
-    const bool FromHere = QGuiApplication::keyboardModifiers() & Qt::ShiftModifier;
-    const std::int32_t InHand = FromHere && Row < Slides.size() ? Slides[Row].SlideID : 0;
-    if (AlbumID() != 0 && SlideShowID() != 0)
-        return RunSlideShow(AlbumID(), mUi->cboAlbum->currentText(), SlideShowID(),
-                            PlaceInShow(AlbumID(), SlideShowID(), InHand));
-    MsgBox(QStringLiteral("You must first select a Slide Show to View."),
-           QStringLiteral("Missing User Input"));
+    const int Row = mUi->flxSelected->Row();
+    ViewSlideShow(AlbumID(), mUi->cboAlbum->currentText(), SlideShowID(),
+                  Row < 0 ? 0 : SlideIn(*mUi->flxSelected, Row));
 }
 
 void frmSlideShowDBM::EditPreferences() {

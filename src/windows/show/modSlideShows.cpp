@@ -1,12 +1,29 @@
 #include "windows/show/modSlideShows.h"
 
+#include <QGuiApplication>
+#include <algorithm>
+
 #include "db/clsDBEngine.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
+#include "support/Services.h"
 #include "windows/show/frmPreferences.h"
 #include "windows/show/frmSlideShowProjector.h"
 
 namespace neb {
+namespace {
+
+// In the show as it was saved; 1 for a slide that is not in it.
+std::int32_t PlaceInShow(std::int32_t AlbumID, std::int32_t SlideShowID, std::int32_t SlideID) {
+    const clsNEBAlbum* Album = DBEngine ? DBEngine->GetAlbum(AlbumID) : nullptr;
+    const clsNEBSlideShow* Show = Album ? Album->GetSlideShow(SlideShowID) : nullptr;
+    if (!Show) return 1;
+    const auto Found = std::find_if(Show->Details.begin(), Show->Details.end(),
+                                    [&](const auto& Each) { return Each->SlideID == SlideID; });
+    return Found == Show->Details.end() ? 1 : (*Found)->SlideSeq;
+}
+
+}  // namespace
 
 void RunSlideShow(std::int32_t AlbumID, const QString& AlbumName, std::int32_t SlideShowID,
                   std::int32_t BeginAt) {
@@ -26,13 +43,16 @@ void RunSlideShowIn(const ShowWorld& World, std::int32_t AlbumID, const QString&
     }
 }
 
-std::int32_t PlaceInShow(std::int32_t AlbumID, std::int32_t SlideShowID, std::int32_t SlideID) {
-    const clsNEBAlbum* Album = DBEngine ? DBEngine->GetAlbum(AlbumID) : nullptr;
-    const clsNEBSlideShow* Show = Album ? Album->GetSlideShow(SlideShowID) : nullptr;
-    if (!Show) return 1;
-    const auto Found = std::find_if(Show->Details.begin(), Show->Details.end(),
-                                    [&](const auto& Each) { return Each->SlideID == SlideID; });
-    return Found == Show->Details.end() ? 1 : (*Found)->SlideSeq;
+void ViewSlideShow(std::int32_t AlbumID, const QString& AlbumName, std::int32_t SlideShowID,
+                   std::int32_t SlideInHand) {
+    if (AlbumID == 0 || SlideShowID == 0) {
+        MsgBox(QStringLiteral("You must first select a Slide Show to View."),
+               QStringLiteral("Missing User Input"));
+        return;
+    }
+    const bool FromHere = QGuiApplication::keyboardModifiers() & Qt::ShiftModifier;
+    const std::int32_t Begin = FromHere ? PlaceInShow(AlbumID, SlideShowID, SlideInHand) : 1;
+    RunSlideShow(AlbumID, AlbumName, SlideShowID, Begin);
 }
 
 void EditSlideShowPreferences() {

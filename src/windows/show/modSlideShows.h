@@ -19,8 +19,10 @@ void RunSlideShow(std::int32_t AlbumID, const QString& AlbumName, std::int32_t S
 void RunSlideShowIn(const ShowWorld& World, std::int32_t AlbumID, const QString& AlbumName,
                     std::int32_t SlideShowID, std::int32_t BeginAt = 0);
 
-// The place of a slide in a show as it was saved; 1 where it has none.
-std::int32_t PlaceInShow(std::int32_t AlbumID, std::int32_t SlideShowID, std::int32_t SlideID);
+// Runs a show as it was saved from its first slide; with the Shift key held from this slide (0:
+// none), where it is in the show. A box where no album or no show is chosen.
+void ViewSlideShow(std::int32_t AlbumID, const QString& AlbumName, std::int32_t SlideShowID,
+                   std::int32_t SlideInHand);
 
 // Shows preferences; SlideTimeout is then as they say. Faults are ignored.
 void EditSlideShowPreferences();

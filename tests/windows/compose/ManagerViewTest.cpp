@@ -61,7 +61,7 @@ TEST_F(ManagerView, BeginsAtTheFirstSlideAndWithShiftAtTheRowInHand) {
     EXPECT_TRUE(In<ToolBar>(*W, "abrMenu")
                     .Tool(u"mnuSlideShowView"_s)
                     ->toolTip()
-                    .contains(u"with Shift (Shift+F5) from the slide in hand"));
+                    .contains(u"with Shift from the slide in hand (Shift+F5)"));
 }
 
 TEST_F(ManagerView, LeavesThePlaceOfTheActiveShowAlone) {
