@@ -56,6 +56,11 @@ void SyncIfPossible(const QString& DBPath) {
     }
 }
 
+// Of a new database: its effects are as heavy as those of the program's own table.
+std::optional<RecordBytes> NoRecords(RecordFile) {
+    return std::nullopt;
+}
+
 }  // namespace
 
 void clsDBEngine::SetDBPath(const QString& Path) {
@@ -133,7 +138,7 @@ void clsDBEngine::LoadFrom(const RecordSource& Source) {
     if (!Counters) {
         NextAlbumID = NextSlideID = NextSlideShowID = 1;
         Properties = {};
-        EffectStats = {};
+        ReadEffectStats(EffectStats, NoRecords, mProgramPath);
         return;
     }
     ReadProperties(Properties, Source);

@@ -31,6 +31,7 @@ DesktopServices::DesktopServices() {
     TheServices().Drives = &mDrives;
     TheServices().Printers = &mPrinters;
     TheServices().Mail = &mMail;
+    TheServices().Media = &mMedia;
     XShow::SetReader(&ReadPicture);
 }
 
@@ -44,6 +45,7 @@ DesktopServices::~DesktopServices() {
     TheServices().Drives = nullptr;
     TheServices().Printers = nullptr;
     TheServices().Mail = nullptr;
+    TheServices().Media = nullptr;
 }
 
 }  // namespace neb

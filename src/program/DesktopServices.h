@@ -4,9 +4,10 @@
 
 #include "controls/directories/Drives.h"
 #include "controls/forms/DesktopBoxes.h"
-#include "program/desktop/DesktopMail.h"
-#include "program/desktop/DesktopPrinters.h"
 #include "program/ScreenBlanking.h"
+#include "program/desktop/DesktopMail.h"
+#include "program/desktop/DesktopMedia.h"
+#include "program/desktop/DesktopPrinters.h"
 #include "sound/devices/SdlSoundDevices.h"
 
 namespace neb {
@@ -26,6 +27,7 @@ class DesktopServices {
     DesktopDrives mDrives;
     DesktopPrinters mPrinters;
     DesktopMail mMail;
+    DesktopMedia mMedia;
 };
 
 }  // namespace neb

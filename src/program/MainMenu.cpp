@@ -12,6 +12,7 @@
 #include "program/frmAbout.h"
 #include "program/frmHelp.h"
 #include "program/frmNEBSlideShow.h"
+#include "program/modMachineSettings.h"
 #include "settings/modNEBSlideShow.h"
 #include "show/ShowSettings.h"
 #include "support/Fault.h"
@@ -140,6 +141,9 @@ constexpr Entry Entries[] = {
     {"mnuSlideShowHdr", "", "", "", "", "", nullptr},
     {"mnuSlideShowHdr", "mnuSlideShowPrefs", "P&references...", "Ctrl+R", "preferences",
      "Choose the active slide show and its effects", [](auto&) { EditSlideShowPreferences(); }},
+    {"mnuSlideShowHdr", "mnuSpeedTest", "Test &Graphics Speed", "", "",
+     "Measure once more which effects this computer shows smoothly",
+     [](auto&) { TestGraphicsSpeed(); }},
     {"mnuImportExportHdr", "mnuAlbumImport", "Import &Album...", "", "import",
      "Bring an album in from another database",
      [](auto&) { TheOpeners().ShowAsChild(*NewForm<frmAlbumImport>()); }},

@@ -2,6 +2,7 @@
 
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QDBusObjectPath>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QGuiApplication>
@@ -26,6 +27,23 @@ QDBusMessage ServiceCall(const QString& Method) {
                                        QStringLiteral("org.freedesktop.ScreenSaver"), Method);
     Call.setAutoStartService(false);
     return Call;
+}
+
+// The portal starts when it is asked. What it gives is a request that lasts until it is closed.
+QDBusMessage PortalCall(const QString& Reason) {
+    constexpr uint KeepFromIdling = 8;
+    QDBusMessage Call = QDBusMessage::createMethodCall(
+        QStringLiteral("org.freedesktop.portal.Desktop"),
+        QStringLiteral("/org/freedesktop/portal/desktop"),
+        QStringLiteral("org.freedesktop.portal.Inhibit"), QStringLiteral("Inhibit"));
+    Call << QString() << KeepFromIdling << QVariantMap{{QStringLiteral("reason"), Reason}};
+    return Call;
+}
+
+QDBusMessage CloseCall(const QDBusObjectPath& Request) {
+    return QDBusMessage::createMethodCall(
+        QStringLiteral("org.freedesktop.portal.Desktop"), Request.path(),
+        QStringLiteral("org.freedesktop.portal.Request"), QStringLiteral("Close"));
 }
 
 #if QT_CONFIG(xcb)
@@ -77,26 +95,38 @@ void DesktopScreenBlanking::AskService(const QString& Reason) {
     if (!Bus.isConnected()) return;
     QDBusMessage Call = ServiceCall(QStringLiteral("Inhibit"));
     Call << QGuiApplication::applicationDisplayName() << Reason;
-    mCall = new QDBusPendingCallWatcher(Bus.asyncCall(Call));
-    QObject::connect(mCall, &QDBusPendingCallWatcher::finished, mCall,
-                     [this](QDBusPendingCallWatcher* Done) { Answered(Done); });
+    mReason = Reason;
+    Send(Call, &DesktopScreenBlanking::ServiceAnswered);
 }
 
-void DesktopScreenBlanking::Answered(QDBusPendingCallWatcher* Call) {
-    const QDBusPendingReply<quint32> Reply = *Call;
-    if (!Reply.isError()) mCookie = Reply.value();
-    Call->deleteLater();
+void DesktopScreenBlanking::Send(const QDBusMessage& Call, Reader Answered) {
+    mCall = new QDBusPendingCallWatcher(QDBusConnection(ConnectionName()).asyncCall(Call));
+    QObject::connect(mCall, &QDBusPendingCallWatcher::finished, mCall,
+                     [this, Answered](QDBusPendingCallWatcher* Done) {
+                         Done->deleteLater();
+                         (this->*Answered)(*Done);
+                     });
+}
+
+// Desktops without the service, and places that programs are locked into, have the portal.
+void DesktopScreenBlanking::ServiceAnswered(const QDBusPendingCall& Done) {
+    const QDBusPendingReply<quint32> Reply = Done;
+    if (Reply.isError()) return Send(PortalCall(mReason), &DesktopScreenBlanking::PortalAnswered);
+    mGoodbye = ServiceCall(QStringLiteral("UnInhibit"));
+    *mGoodbye << Reply.value();
+}
+
+void DesktopScreenBlanking::PortalAnswered(const QDBusPendingCall& Done) {
+    const QDBusPendingReply<QDBusObjectPath> Reply = Done;
+    if (!Reply.isError()) mGoodbye = CloseCall(Reply.value());
 }
 
 // A request that has not been answered yet is not waited for: the end of the connection ends it.
 void DesktopScreenBlanking::LeaveService() {
     delete mCall;
     if (!mConnected) return;
-    if (mCookie) {
-        QDBusMessage Call = ServiceCall(QStringLiteral("UnInhibit"));
-        Call << *std::exchange(mCookie, std::nullopt);
-        QDBusConnection(ConnectionName()).call(Call, QDBus::Block, MostWait);
-    }
+    if (const auto Goodbye = std::exchange(mGoodbye, std::nullopt))
+        QDBusConnection(ConnectionName()).call(*Goodbye, QDBus::Block, MostWait);
     QDBusConnection::disconnectFromBus(ConnectionName());
     mConnected = false;
 }

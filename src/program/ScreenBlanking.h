@@ -1,13 +1,16 @@
-// Keeps the desktop from blanking the screen: through the session's screen saver service, and on
-// X11 through the server's own screen saver as well. The program's start puts it into Services.
+// Keeps the desktop from blanking the screen: through the session's screen saver service, else the
+// desktop portal, and on X11 through the server's own screen saver as well. The program's start
+// puts it into Services.
 #pragma once
 
+#include <QDBusMessage>
 #include <QPointer>
 #include <optional>
 
 #include "support/Services.h"
 
 QT_BEGIN_NAMESPACE
+class QDBusPendingCall;
 class QDBusPendingCallWatcher;
 QT_END_NAMESPACE
 
@@ -29,11 +32,15 @@ class DesktopScreenBlanking : public ScreenBlanking {
     void AskService(const QString& Reason);
     void LeaveService();
     void LetGo();
-    void Answered(QDBusPendingCallWatcher* Call);
+    using Reader = void (DesktopScreenBlanking::*)(const QDBusPendingCall& Done);
+    void Send(const QDBusMessage& Call, Reader Answered);
+    void ServiceAnswered(const QDBusPendingCall& Done);
+    void PortalAnswered(const QDBusPendingCall& Done);
 
     int mHolders = 0;
     bool mConnected = false;
-    std::optional<quint32> mCookie;
+    QString mReason;
+    std::optional<QDBusMessage> mGoodbye;  // takes back what was asked for
     QPointer<QDBusPendingCallWatcher> mCall;
 };
 

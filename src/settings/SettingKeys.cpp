@@ -22,7 +22,8 @@ constexpr char Find[] = "Find Graphics Window";
 #define NEB_WIDE_WINDOWS "frmSlideDBM frmPicturePopup frmPrintPreview"
 constexpr char Wide[] = NEB_WIDE_WINDOWS;
 constexpr char Windows[] = NEB_WIDE_WINDOWS
-    " frmSlideShowDBM frmImportFilter frmQuickShow frmSlideMgrBulk frmRehearsal frmAlbumView frmSlideShowView";
+    " frmSlideShowDBM frmImportFilter frmQuickShow frmSlideMgrBulk frmRehearsal frmAlbumView "
+    "frmSlideShowView";
 #undef NEB_WIDE_WINDOWS
 
 constexpr double AboveZero = std::numeric_limits<double>::denorm_min();
@@ -45,6 +46,7 @@ constexpr SettingRow Table[] = {
     {S::TestTimeout,     "",                  "Timeout*",        Levels,        T::Seconds, None,              None,             Any, Any,       "10",    "nobody"},
     {S::AvgTime,         "",                  "AvgTime*",        Levels,        T::Seconds, None,              None,             Any, Any,       "N/A",   "nobody"},
     {S::EffectSelected,  "Effect Selections", "Effect.*",        EffectNumbers, T::Flag,    None,              None,             Any, Any,       nullptr, "preferences, a show; number 0 is no effect, but kept"},
+    {S::ShowScreen,      "",                  "ShowScreen",      "",            T::Text,    None,              None,             Any, Any,       nullptr, "preferences, a show, the speed test; absent: the program's own screen"},
     {S::WindowHeight,    "*",                 "Height",          Windows,       T::Twips,   None,              None,             Any, Any,       nullptr, "RestoreWindow"},
     {S::WindowWidth,     "*",                 "Width",           Wide,          T::Twips,   None,              None,             Any, Any,       nullptr, "RestoreWindow"},
     {S::WindowState,     "*",                 "WindowState",     Wide,          T::Number,  None,              None,             Any, Any,       nullptr, "RestoreWindow"},

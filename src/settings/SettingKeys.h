@@ -25,6 +25,7 @@ enum class Setting {
     TestTimeout,     // the same
     AvgTime,         // the same
     EffectSelected,  // of an effect: "000" to "127"
+    ShowScreen,      // as show/ScreenChoice reads it
     WindowHeight,    // of a window, by its class name; so the next four
     WindowWidth,
     WindowState,

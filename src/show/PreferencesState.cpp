@@ -35,6 +35,7 @@ PreferencesState ReadPreferences(const clsSettings& Settings) {
     Read.SlideShowID = Active.SlideShowID;
     Read.NextSlideSeq = ReadNumber(Settings, Setting::NextSlideSeq);
     Read.SlideTimeout = ReadDecimal(Settings, Setting::Timeout);
+    Read.ShowScreen = ReadText(Settings, Setting::ShowScreen);
     Read.Effects = ReadEffectSettings(Settings, SettingReader::Preferences);
     for (std::int32_t Effect = 0; Effect <= LastEffect; ++Effect)
         Read.EffectSelected[static_cast<size_t>(Effect)] = ReadEffectSelected(Settings, Effect);
@@ -52,6 +53,8 @@ void PutPreferences(clsSettings& Settings, const PreferencesState& State) {
     for (std::int32_t Effect = 0; Effect <= LastEffect; ++Effect)
         PutEffectSelected(Settings, Effect, State.EffectSelected[static_cast<size_t>(Effect)]);
     PutSpeeds(Settings, State.Effects);
+    if (!State.ShowScreen.isEmpty() || HasSetting(Settings, Setting::ShowScreen))
+        PutText(Settings, Setting::ShowScreen, State.ShowScreen);
 }
 
 std::optional<double> DecimalIn(const QString& Text) {
@@ -104,10 +107,15 @@ void TakeEntries(PreferencesState& State, const PreferencesEntries& Entries) {
     State.SlideTimeout = Entries.SlideTimeout.value_or(0);
     if (!(State.SlideTimeout > 0)) State.SlideTimeout = DefaultTimeout;
     State.NextSlideSeq = std::max(0, Entries.NextSlide);
+    State.ShowScreen = Entries.ShowScreen;
     State.Effects.MaxEffectLevel = Entries.MaxEffectLevel;
     State.Effects.UseEffectLevel = Entries.UseEffectLevel;
     for (const PreferencesEntries::Flag& Each : Entries.Effects)
         State.EffectSelected.at(static_cast<size_t>(Each.Effect)) = Each.Selected;
+}
+
+std::int32_t NextSlideFor(const PreferencesState& State, std::int32_t SlideShowID) {
+    return SlideShowID == State.SlideShowID ? State.NextSlideSeq : 0;
 }
 
 void FilterTimeoutKey(const EntryState& Field, std::int16_t& KeyAscii) {

@@ -19,6 +19,7 @@ struct PreferencesState {
     std::int32_t SlideShowID = 0;  // 0: none
     std::int32_t NextSlideSeq = 0;
     double SlideTimeout = 20;  // seconds
+    QString ShowScreen;        // as ScreenChoice.h says it
     EffectSettings Effects;
     EffectArray<bool> EffectSelected{};        // numbers 0 to 127
     EffectArray<std::uint8_t> EffectLevels{};  // numbers 0 to 127; 1 lite, 2 normal, 3 intense
@@ -84,12 +85,17 @@ struct PreferencesEntries {
     };
     std::vector<Flag> Effects;  // what the list holds
     SpeedEntry Speeds[std::size(EffectLevelRows)];
+    QString ShowScreen;
 };
 
 // The first entry that cannot be taken over.
 std::optional<EntryProblem> CheckEntries(const PreferencesEntries& Entries);
 // Takes over entries that passed. With no album chosen the show keeps its number.
 void TakeEntries(PreferencesState& State, const PreferencesEntries& Entries);
+
+// The place with which another show begins when it becomes the active one; the active one itself
+// goes on where it was left.
+std::int32_t NextSlideFor(const PreferencesState& State, std::int32_t SlideShowID);
 
 // The keys of the timeout field: digits, and one point.
 void FilterTimeoutKey(const EntryState& Field, std::int16_t& KeyAscii);

@@ -69,7 +69,7 @@ void ShowRun::LoadSettings() {
     const clsSettings Settings = OpenSettings();
     const ShowSettings Read = ReadShowSettings(Settings, AlbumID, SlideShowID);
     mResumeSeq = Read.ResumeSeq;
-    mResumeValid = Read.ResumeValid;
+    mResumeValid = Read.ResumeValid && mBeginsAt < 1;
     mWorld.Place.SlideTimeout = Read.SlideTimeout;
     mSettings = ReadEffectSettings(Settings, SettingReader::Show);
     ReadEffectSelections(Settings, mEffects);

@@ -28,7 +28,8 @@ class ShowRun {
     std::int32_t SlideShowID = 0;
     // Takes the show's settings and tables, and its sound; nothing is shown yet.
     void Load();
-    // The show begins at this place, from 1, wherever it was left; 0: where it was left.
+    // The show begins at this place, from 1, wherever it was left, and where it is left then is not
+    // kept; 0: where it was left.
     void BeginAt(std::int32_t SlideSeq) { mBeginsAt = SlideSeq; }
     // Stops the sound and the ticks for good.
     void End();
@@ -67,7 +68,9 @@ class ShowRun {
     bool IsManual() const { return mProgressionMethod != 0; }
     // Of the show as it stood when the present slide came up; 0 before the first.
     std::int32_t SlideCount() const { return mSlideCount; }
+    // Whether the show goes on and is left by the place in the settings, and what that was.
     bool ResumeValid() const { return mResumeValid; }
+    std::int32_t ResumeSeq() const { return mResumeSeq; }
     bool Timer1On() const { return mTimer1On; }
 
   private:

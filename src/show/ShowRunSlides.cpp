@@ -2,8 +2,8 @@
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
 #include "settings/modNEBSlideShow.h"
-#include "show/CaptionText.h"
 #include "show/ShowRun.h"
+#include "show/captions/CaptionText.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
 

@@ -77,8 +77,11 @@ void ReadEffectSelections(const clsSettings& Settings, EffectTables& Tables) {
         Tables.EffectSelected[static_cast<size_t>(Place)] = ReadEffectSelected(Settings, Place);
 }
 
-void SaveNextSlideSeq(std::int32_t SlideSeq) {
+void KeepPlace(std::int32_t AlbumID, std::int32_t SlideShowID, std::int32_t BeganWith,
+               std::int32_t SlideSeq) {
     clsSettings Settings = OpenSettings();
+    const ShowSettings Now = ReadShowSettings(Settings, AlbumID, SlideShowID);
+    if (!Now.ResumeValid || Now.ResumeSeq != BeganWith) return;
     PutNumber(Settings, Setting::NextSlideSeq, SlideSeq);
     Settings.Save();
 }

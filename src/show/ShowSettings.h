@@ -38,7 +38,9 @@ bool ReadEffectSelected(const clsSettings& Settings, std::int32_t Place);
 void PutEffectSelected(clsSettings& Settings, std::int32_t Place, bool Selected);
 void ReadEffectSelections(const clsSettings& Settings, EffectTables& Tables);  // 1 to 127
 
-// Writes the place of the active show at once.
-void SaveNextSlideSeq(std::int32_t SlideSeq);
+// Writes at once the place at which the active show was left; BeganWith is the ResumeSeq that it
+// read. Not when the user has named another place or another show in preferences meanwhile.
+void KeepPlace(std::int32_t AlbumID, std::int32_t SlideShowID, std::int32_t BeganWith,
+               std::int32_t SlideSeq);
 
 }  // namespace neb

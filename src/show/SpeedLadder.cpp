@@ -117,6 +117,7 @@ SpeedLadder::Next SpeedLadder::CloseLevel() {
     mResult.*Closed.Step = Step;
     mResult.*Closed.AvgTime = static_cast<float>(AvgTime);
     this->*Closed.Done = true;
+    mResult.IsWhole = SimpleDone;
     return Closed.Then;
 }
 

@@ -14,6 +14,7 @@ struct SpeedTestResult {
     std::int32_t StepH = 0, StepM = 0, StepL = 0;
     std::int32_t DelayH = 0, DelayM = 0, DelayL = 0;
     float AvgTimeH = 0, AvgTimeM = 0, AvgTimeL = 0;
+    bool IsWhole = false;  // the test came to its end
 };
 
 class SpeedLadder {

@@ -69,6 +69,7 @@ class SoundDevices;
 class MailTransport;
 class PrinterQueues;
 class DriveList;
+class MediaControls;
 
 struct Services {
     MessageBoxes* Boxes = nullptr;
@@ -79,6 +80,7 @@ struct Services {
     MailTransport* Mail = nullptr;
     PrinterQueues* Printers = nullptr;
     DriveList* Drives = nullptr;
+    MediaControls* Media = nullptr;
 };
 
 // The services in force. The clock is never null: the system's clock stands in.

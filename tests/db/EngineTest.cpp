@@ -47,6 +47,25 @@ TEST_F(EngineTest, WithoutCountersNothingElseIsLoaded) {
     EXPECT_EQ(Engine->NextAlbumID, 1);
 }
 
+TEST_F(EngineTest, ANewDatabaseHasTheProgramsTimesOfEffectsFromItsFirstRunOn) {
+    const TempFolder Program;
+    QByteArray Text = "times\n";
+    for (int I = 1; I <= 127; ++I) Text += QByteArray::number(I) + (I % 2 ? ", 0.5\n" : ", 1.6\n");
+    WriteFile(Program / "EffectStats.txt", Text);
+    const TempFolder New;
+    clsDBEngine First;
+    First.SetDBPath(New.Path());
+    First.SetProgramPath(Program.Path());
+    First.InitializeDB();
+    EXPECT_EQ(First.EffectStats.size(), 127U);
+    std::array<std::uint8_t, 128> Levels{};
+    First.ClassifyEffects(Levels, 127);
+    EXPECT_EQ(Levels[1], 1);
+    EXPECT_EQ(Levels[126], 3);
+    First.FinalizeDB();
+    EXPECT_EQ(FileBytes(New.Path(), "EffectStats.dat").size(), 127 * 14);
+}
+
 TEST_F(EngineTest, WithNoAlbumsTheFiveFilesHaveLengthZero) {
     Engine->FinalizeDB();
     auto Files = AllRecords(Dir.Path());

@@ -3,8 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <QFile>
+#include <QPointer>
 #include <QTemporaryDir>
+#include <QTimer>
+#include <QWidget>
+#include <QWindow>
+
 #include "controls/forms/NebApplication.h"
+#include "controls/forms/StandOver.h"
 #include "harness/ChildRole.h"
 
 namespace {
@@ -24,6 +30,27 @@ void ChoosePlatform() {
     qputenv("QT_QPA_PLATFORM", ("offscreen:configfile=" + Config).toUtf8());
 }
 
+// A modal window that the desktop knows nothing about may fall behind the window that waits for it.
+class ModalWatch : public QObject {
+  public:
+    bool eventFilter(QObject* Watched, QEvent* Event) override {
+        auto* Window = qobject_cast<QWidget*>(Watched);
+        if (Event->type() == QEvent::Show && Window && Window->isWindow() && Window->isModal())
+            Look(*Window, neb::WindowInUse());
+        return false;
+    }
+
+  private:
+    static void Look(QWidget& Window, QPointer<QWidget> Opener) {
+        QTimer::singleShot(0, &Window, [&Window, Opener] {
+            if (!Opener || Opener == &Window || !Window.isVisible()) return;
+            EXPECT_EQ(Window.windowHandle()->transientParent(), Opener->window()->windowHandle())
+                << Window.metaObject()->className() << " does not stand over "
+                << Opener->metaObject()->className();
+        });
+    }
+};
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -34,6 +61,8 @@ int main(int argc, char** argv) {
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     neb::NebApplication App(argc, argv);
     App.setQuitOnLastWindowClosed(false);
+    ModalWatch Watch;
+    App.installEventFilter(&Watch);
     if (argc == 3 && std::string(argv[1]) == "--role") return neb::harness::Roles().at(argv[2])();
     return RUN_ALL_TESTS();
 }

@@ -14,6 +14,7 @@
 #include "db/modAlbumFiles.h"
 #include "db/modLoadRecords.h"
 #include "db/records/Generations.h"
+#include "harness/AwaitActive.h"
 #include "support/Fault.h"
 #include "windows/albums/frmRestore.h"
 #include "windows/lists/clsImageBuffer.h"
@@ -172,7 +173,7 @@ TEST_F(TheRestore, TheQuestionsDefaultIsNoAndNoChangesNothing) {
 TEST_F(TheRestore, ItWorksByTheKeyboardAlone) {
     Start();
     InWindow([&](frmRestore& Window) {
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&Window, 2000));
+        ASSERT_TRUE(harness::AwaitActive(Window));
         EXPECT_EQ(Window.focusWidget(), &List(Window));
         const QString Time = TimeIn(Window, 1);
         QTest::keyClick(&List(Window), Qt::Key_Down);

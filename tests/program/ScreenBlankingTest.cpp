@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QDBusConnectionInterface>
+#include <QDBusObjectPath>
 #include <QElapsedTimer>
 #include <QStandardPaths>
 #include <QTest>
@@ -27,6 +28,41 @@ class FakeService : public QObject {
     void UnInhibit(quint32 Cookie) { Calls << QStringLiteral("UnInhibit %1").arg(Cookie); }
 };
 
+// The desktop portal, as far as a show needs it: a request that lasts until it is closed.
+class FakeInhibitPortal : public QObject {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Inhibit")
+
+  public:
+    explicit FakeInhibitPortal(QStringList& Calls) : mCalls(Calls) {}
+
+  public Q_SLOTS:
+    QDBusObjectPath Inhibit(const QString& Window, uint Flags, const QVariantMap& Options) {
+        mCalls << QStringLiteral("portal %1%2 %3")
+                      .arg(Window)
+                      .arg(Flags)
+                      .arg(Options.value(QStringLiteral("reason")).toString());
+        return QDBusObjectPath(QStringLiteral("/org/freedesktop/portal/desktop/request/a/b"));
+    }
+
+  private:
+    QStringList& mCalls;
+};
+
+class FakeRequest : public QObject {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Request")
+
+  public:
+    explicit FakeRequest(QStringList& Calls) : mCalls(Calls) {}
+
+  public Q_SLOTS:
+    void Close() { mCalls << QStringLiteral("Close"); }
+
+  private:
+    QStringList& mCalls;
+};
+
 // The bus, and the service on it.
 class PrivateBus {
   public:
@@ -34,7 +70,19 @@ class PrivateBus {
         qputenv("DBUS_SESSION_BUS_ADDRESS", mBus.Address().toLatin1());
         mBus.Service().registerObject(QStringLiteral("/org/freedesktop/ScreenSaver"), &Service,
                                       QDBusConnection::ExportAllSlots);
+        mBus.Service().registerObject(QStringLiteral("/org/freedesktop/portal/desktop"), &mPortal,
+                                      QDBusConnection::ExportAllSlots);
+        mBus.Service().registerObject(QStringLiteral("/org/freedesktop/portal/desktop/request/a/b"),
+                                      &mRequest, QDBusConnection::ExportAllSlots);
+    }
+    void Provide() {
         mBus.Service().registerService(QStringLiteral("org.freedesktop.ScreenSaver"));
+    }
+    void OpenPortal() {
+        mBus.Service().registerService(QStringLiteral("org.freedesktop.portal.Desktop"));
+    }
+    void ClosePortal() {
+        mBus.Service().unregisterService(QStringLiteral("org.freedesktop.portal.Desktop"));
     }
     void Withdraw() {
         mBus.Service().unregisterService(QStringLiteral("org.freedesktop.ScreenSaver"));
@@ -58,6 +106,8 @@ class PrivateBus {
     FakeService Service;
 
   private:
+    FakeInhibitPortal mPortal{Service.Calls};
+    FakeRequest mRequest{Service.Calls};
     MessageBus mBus{QStringLiteral("test-service")};
 };
 
@@ -73,6 +123,8 @@ class ScreenBlankingOnABus : public ::testing::Test {
         Bus = &TheBus();
         ASSERT_TRUE(Bus->IsThere());
         Bus->Service.Calls.clear();
+        Bus->Provide();
+        Bus->ClosePortal();
     }
     void TearDown() override { QTest::qWait(30); }  // calls that are still on their way
     PrivateBus* Bus = nullptr;
@@ -112,6 +164,39 @@ TEST_F(ScreenBlankingOnABus, IsReleasedWithItsObject) {
         QTest::qWait(50);
     }
     EXPECT_EQ("Inhibit show|UnInhibit 42", Bus->CallsAfter(2));
+}
+
+TEST_F(ScreenBlankingOnABus, IsAskedOfThePortalWhereThereIsNoService) {
+    Bus->Withdraw();
+    Bus->OpenPortal();
+    DesktopScreenBlanking Blanking;
+    Blanking.Inhibit(QStringLiteral("show"));
+    EXPECT_EQ("portal 8 show", Bus->CallsAfter(1));
+    QTest::qWait(50);  // the answer has come, too
+    Blanking.Release();
+    EXPECT_EQ("portal 8 show|Close", Bus->CallsAfter(2));
+    Blanking.Inhibit(QStringLiteral("again"));
+    EXPECT_EQ("portal 8 show|Close|portal 8 again", Bus->CallsAfter(3));
+}
+
+TEST_F(ScreenBlankingOnABus, IsNotAskedOfThePortalWhereTheServiceAnswers) {
+    Bus->OpenPortal();
+    DesktopScreenBlanking Blanking;
+    Blanking.Inhibit(QStringLiteral("show"));
+    Bus->CallsAfter(1);
+    QTest::qWait(100);
+    EXPECT_EQ("Inhibit show", Bus->CallsAfter(1));
+}
+
+TEST_F(ScreenBlankingOnABus, LeavesNoConnectionBehindWhenThePortalHasNotAnswered) {
+    Bus->Withdraw();
+    Bus->OpenPortal();
+    const int Before = Bus->Clients();
+    DesktopScreenBlanking Blanking;
+    Blanking.Inhibit(QStringLiteral("show"));
+    Bus->CallsAfter(1);
+    Blanking.Release();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Bus->Clients() == Before; }, 2000));
 }
 
 TEST_F(ScreenBlankingOnABus, CostsNextToNothingWhereNobodyServesIt) {

@@ -11,30 +11,57 @@
 #include "harness/TempFolder.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/files/modHostFiles.h"
+#include "windows/frame/Openers.h"
 
 namespace neb {
 namespace {
 
 class MachineSettings : public ::testing::Test {
   protected:
-    MachineSettings() { SetDocumentsPath(mDocuments.Path()); }
+    MachineSettings() {
+        SetDocumentsPath(mDocuments.Path());
+        TheOpeners().Notice = [this](const QString& Text) { mNotice = Text; };
+    }
+    ~MachineSettings() override { TheOpeners() = {}; }
 
     static QString Value(const char* Key) {
         return OpenSettings().GetValue({}, QString::fromLatin1(Key), QStringLiteral("none"));
     }
 
+    static SpeedTestResult Whole(SpeedTestResult Result) {
+        Result.IsWhole = true;
+        return Result;
+    }
+    // Of the levels H, M and L: "step/delay" each.
+    static std::string Speeds() {
+        QStringList All;
+        for (const char* Level : {"H", "M", "L"})
+            All << Value((std::string("Step") + Level).c_str()) + u'/' +
+                       Value((std::string("Delay") + Level).c_str());
+        return All.join(u' ').toStdString();
+    }
+
     harness::TempFolder mDocuments;
+    QString mNotice;
 };
 
-TEST_F(MachineSettings, NoResultLeavesTheDefaults) {
+TEST_F(MachineSettings, AMachineThatWasNotMeasuredShowsTransitionsAtSensibleSpeed) {
     EnsureMachineSettings([] { return SpeedTestResult(); });
     for (const char* Key : {"Timeout", "TimeoutH", "TimeoutM", "TimeoutL"})
         EXPECT_EQ(Value(Key), "10") << Key;
-    for (const char* Key : {"StepH", "StepM", "StepL"}) EXPECT_EQ(Value(Key), "33") << Key;
-    for (const char* Key : {"DelayH", "DelayM", "DelayL"}) EXPECT_EQ(Value(Key), "1000") << Key;
+    EXPECT_EQ(Speeds(), "4/400 2/200 2/200");
     for (const char* Key : {"AvgTimeH", "AvgTimeM", "AvgTimeL"})
         EXPECT_EQ(Value(Key), "N/A") << Key;
+    EXPECT_EQ(Value("MaxEffectLevel"), "2");
+    EXPECT_TRUE(mNotice.startsWith("The graphics speed was not measured")) << qPrintable(mNotice);
+    EXPECT_TRUE(mNotice.contains("Slide Show, Test Graphics Speed"));
+}
+
+TEST_F(MachineSettings, ATestWithoutAnyTimeHasTheDefaultsOfOld) {
+    EnsureMachineSettings([] { return Whole({}); });
+    EXPECT_EQ(Speeds(), "33/1000 33/1000 33/1000");
     EXPECT_EQ(Value("MaxEffectLevel"), "0");
+    EXPECT_EQ(mNotice, "");
 }
 
 TEST_F(MachineSettings, AResultIsStoredInItsShortestForm) {
@@ -45,7 +72,7 @@ TEST_F(MachineSettings, AResultIsStoredInItsShortestForm) {
         Result.StepH = 1;
         Result.DelayH = 100;
         Result.AvgTimeH = 3.25F;
-        return Result;
+        return Whole(Result);
     });
     EXPECT_EQ(Value("Timeout"), "12.5");
     EXPECT_EQ(Value("TimeoutH"), "10");
@@ -68,13 +95,46 @@ TEST_F(MachineSettings, ATestThatWasCutOffKeepsItsLevelsAndIsNotRunAgain) {
     EnsureMachineSettings(CutOff);
     EnsureMachineSettings(CutOff);
     EXPECT_EQ(Runs, 1);
-    EXPECT_EQ(Value("StepH"), "20");
-    EXPECT_EQ(Value("DelayH"), "100");
     for (const char* Key : {"TimeoutH", "TimeoutM", "TimeoutL", "Timeout"})
         EXPECT_EQ(Value(Key), "10") << Key;
-    for (const char* Key : {"StepM", "StepL"}) EXPECT_EQ(Value(Key), "33") << Key;
-    for (const char* Key : {"DelayM", "DelayL"}) EXPECT_EQ(Value(Key), "1000") << Key;
-    EXPECT_EQ(Value("MaxEffectLevel"), "0");
+    EXPECT_EQ(Speeds(), "20/100 2/200 2/200");
+    EXPECT_EQ(Value("MaxEffectLevel"), "2") << "the measured one was too heavy";
+}
+
+TEST_F(MachineSettings, TestedAnewAMachineGetsWhatWasMeasuredAndKeepsTheTimeOfItsSlides) {
+    clsSettings Settings = OpenSettings();
+    StoreMachineSettings(Settings, {});
+    Settings.PutValue({}, "Timeout", "6");
+    Settings.PutValue({}, "UseEffectLevel", "False");
+    Settings.Save();
+    SpeedTestResult Quick;
+    Quick.StepH = Quick.StepM = Quick.StepL = 1;
+    Quick.DelayH = Quick.DelayM = Quick.DelayL = 100;
+    Quick.AvgTimeH = Quick.AvgTimeM = Quick.AvgTimeL = 0.5F;
+    TestGraphicsSpeed([&] { return Whole(Quick); });
+    EXPECT_EQ(Speeds(), "1/100 1/100 1/100");
+    EXPECT_EQ(Value("AvgTimeM"), "0.5");
+    EXPECT_EQ(Value("MaxEffectLevel"), "3");
+    EXPECT_EQ(Value("Timeout"), "6");
+    EXPECT_EQ(Value("UseEffectLevel"), "False");
+    EXPECT_TRUE(mNotice.endsWith("up to the level Intense.")) << qPrintable(mNotice);
+    Quick.Timeout = 12.5;
+    TestGraphicsSpeed([&] { return Whole(Quick); });
+    EXPECT_EQ(Value("Timeout"), "12.5") << "so long it needs for its transitions";
+}
+
+TEST_F(MachineSettings, ATestAnewThatIsLeftChangesNothing) {
+    clsSettings Settings = OpenSettings();
+    StoreMachineSettings(Settings, {});
+    const QByteArray Before = ReadFile(SettingsDir() + INIFileName());
+    TestGraphicsSpeed([] {
+        SpeedTestResult Half;
+        Half.StepH = 100;
+        Half.AvgTimeH = 9;
+        return Half;
+    });
+    EXPECT_EQ(Before, ReadFile(SettingsDir() + INIFileName()));
+    EXPECT_TRUE(mNotice.contains("all settings stay as they were")) << qPrintable(mNotice);
 }
 
 TEST_F(MachineSettings, ATimeoutBelowTenIsNotTaken) {
@@ -120,7 +180,7 @@ TEST_F(MachineSettings, ThePointerIsSetBackAfterTheTestHoweverItEnded) {
     SetScreenPointer(Pointer::Default);
 }
 
-TEST_F(MachineSettings, WithoutThePicturesTheTestIsAbortedAndTheDefaultsStay) {
+TEST_F(MachineSettings, WithoutThePicturesTheTestIsAbortedAsIfTheUserHadLeftIt) {
     harness::ScriptedBoxes Boxes;
     harness::TempFolder Program;
     AppPathCache = Program.Path();
@@ -129,7 +189,7 @@ TEST_F(MachineSettings, WithoutThePicturesTheTestIsAbortedAndTheDefaultsStay) {
     AppPathCache.clear();
     EXPECT_EQ(Value("Timeout"), "10");
     EXPECT_EQ(Value("AvgTimeH"), "N/A");
-    EXPECT_EQ(Value("MaxEffectLevel"), "0");
+    EXPECT_EQ(Value("MaxEffectLevel"), "2") << "without them, too, a show has its transitions";
     EXPECT_EQ(ScreenPointer(), Pointer::Default);
 }
 
@@ -153,6 +213,7 @@ TEST_F(MachineSettings, TheWindowMeasuresAndItsResultsAreStored) {
     EXPECT_EQ(Value("MaxEffectLevel"), "0");
     EnsureMachineSettings();
     EXPECT_EQ(Boxes.ShownCount(), 1);
+    EXPECT_EQ(mNotice, "");
 }
 
 TEST(MaxEffectLevel, ALevelIsEarnedBelowFourSecondsAndOnlyWhenMeasured) {
@@ -165,6 +226,7 @@ TEST(MaxEffectLevel, ALevelIsEarnedBelowFourSecondsAndOnlyWhenMeasured) {
     };
     for (const auto& Row : Rows) {
         SpeedTestResult Result;
+        Result.IsWhole = true;
         Result.AvgTimeH = Row.H;
         Result.AvgTimeM = Row.M;
         Result.AvgTimeL = Row.L;

@@ -48,6 +48,7 @@ const struct Documented {
     {"[]AvgTime*", Levels, SettingType::Seconds, "", "", nullptr, nullptr, "N/A"},
     {"[Effect Selections]Effect.*", Numbers(0, 127, 3), SettingType::Flag, "", "", nullptr, nullptr,
      nullptr},
+    {"[]ShowScreen", {""}, SettingType::Text, "", "", nullptr, nullptr, nullptr},
     {"[*]Height", AllWindows, SettingType::Twips, "", "", nullptr, nullptr, nullptr},
     {"[*]Width", WideWindows, SettingType::Twips, "", "", nullptr, nullptr, nullptr},
     {"[*]WindowState", WideWindows, SettingType::Number, "", "", nullptr, nullptr, nullptr},

@@ -254,6 +254,7 @@ TEST(PutPreferences, WritesTheKeysInTheirOrder) {
 TEST(PutPreferences, IsReadBackTheSame) {
     clsSettings Settings;
     PreferencesState State = ReadPreferences(Settings);
+    State.ShowScreen = "HDMI-1|Beamer";
     State.AlbumID = 2;
     State.SlideShowID = 3;
     State.NextSlideSeq = 4;

@@ -1,4 +1,4 @@
-#include "show/ShowCaptions.h"
+#include "show/captions/ShowCaptions.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include "harness/TempFolder.h"
 #include "settings/clsSettings.h"
+#include "settings/modNEBSlideShow.h"
 #include "support/FlagText.h"
 
 namespace neb {
@@ -49,6 +51,25 @@ TEST(ReadShowSettings, ResumesOnlyTheActiveShow) {
 
 TEST(ReadShowSettings, CountsAbsentActiveKeysAsZero) {
     EXPECT_TRUE(ReadShowSettings(With({}), 0, 0).ResumeValid);
+}
+
+TEST(KeepPlace, WritesThePlaceOfTheActiveShowUnlessItWasNamedAnewMeanwhile) {
+    const harness::TempFolder Folder;
+    SetDocumentsPath(Folder.Path());
+    const auto Kept = [] {
+        return OpenSettings().GetValue({}, "NextSlideSeq", "none").toStdString();
+    };
+    clsSettings Settings = OpenSettings();
+    Settings.PutValue({}, "ActiveAlbum", "3");
+    Settings.PutValue({}, "ActiveSlideShow", "7");
+    Settings.PutValue({}, "NextSlideSeq", "12");
+    Settings.Save();
+    KeepPlace(3, 7, 12, 15);
+    EXPECT_EQ("15", Kept());
+    KeepPlace(3, 7, 12, 16);
+    EXPECT_EQ("15", Kept()) << "somebody has written 15 since the show began at 12";
+    KeepPlace(3, 8, 0, 2);
+    EXPECT_EQ("15", Kept()) << "another show";
 }
 
 TEST(ReadEffectSettings, HasDefaultsOfItsOwn) {

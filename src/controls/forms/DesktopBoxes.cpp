@@ -7,8 +7,8 @@
 #include <QPushButton>
 #include <QRegularExpression>
 
-#include "controls/forms/FocusReturn.h"
 #include "controls/forms/ScreenPointer.h"
+#include "controls/forms/StandOver.h"
 #include "controls/forms/frmMsgBoxEx.h"
 #include "support/modFUFL.h"
 
@@ -113,7 +113,7 @@ BoxAnswer DesktopBoxes::Show(const BoxRequest& Request) {
     }
     const PointerScope Normal(Pointer::Default);
     // The window below may go while the box is up, and takes the box with it.
-    const QPointer<QMessageBox> Box = new QMessageBox(QApplication::activeWindow());
+    const QPointer<QMessageBox> Box = new QMessageBox(WindowInUse());
     Fill(*Box, Request);
     const int Button = Box->exec();
     delete Box;
@@ -123,22 +123,21 @@ BoxAnswer DesktopBoxes::Show(const BoxRequest& Request) {
 
 QString DesktopFileDialogs::OpenFile(const QString& Title, const QString& StartDir,
                                      const QString& Filters) {
-    return QFileDialog::getOpenFileName(QApplication::activeWindow(), Title, StartDir,
-                                        ToolkitFilters(Filters));
+    return QFileDialog::getOpenFileName(WindowInUse(), Title, StartDir, ToolkitFilters(Filters));
 }
 
 QString DesktopFileDialogs::SaveFile(const QString& Title, const QString& StartPath,
                                      const QString& Filters) {
     QString Filter;
-    const QString Path = QFileDialog::getSaveFileName(QApplication::activeWindow(), Title,
-                                                      StartPath, ToolkitFilters(Filters), &Filter,
-                                                      QFileDialog::DontConfirmOverwrite);
+    const QString Path =
+        QFileDialog::getSaveFileName(WindowInUse(), Title, StartPath, ToolkitFilters(Filters),
+                                     &Filter, QFileDialog::DontConfirmOverwrite);
     const bool IsWhole = Path.isEmpty() || GetFileName(Path).contains(u'.');
     return IsWhole ? Path : Path + ExtensionOf(Filter);
 }
 
 QString DesktopFileDialogs::ChooseFolder(const QString& Title, const QString& StartDir) {
-    return QFileDialog::getExistingDirectory(QApplication::activeWindow(), Title, StartDir);
+    return QFileDialog::getExistingDirectory(WindowInUse(), Title, StartDir);
 }
 
 }  // namespace neb

@@ -7,7 +7,7 @@
 
 #include "controls/fields/WheelGuard.h"
 #include "controls/forms/DefaultButton.h"
-#include "controls/forms/FocusReturn.h"
+#include "controls/forms/StandOver.h"
 
 namespace neb {
 namespace {
@@ -140,9 +140,14 @@ void Form::closeEvent(QCloseEvent* Event) {
     Event->setAccepted(mState == State::Unloaded || mState == State::Created);
 }
 
-// Platforms without a window manager report no activation by themselves.
+// The desktop is told what it stands over before it is on the screen. Platforms without a window
+// manager report no activation by themselves.
 void Form::showEvent(QShowEvent* Event) {
     QDialog::showEvent(Event);
+    QWidget* Opener = mModal ? WindowInUse() : nullptr;
+    StandOver(*this, Opener);
+    // over it, and so on its screen
+    if (Opener && !testAttribute(Qt::WA_Moved)) adjustPosition(Opener);
     ActivateLater();
 }
 

@@ -6,6 +6,7 @@
 #include <QPrinter>
 #include <QPrinterInfo>
 
+#include "controls/forms/StandOver.h"
 #include "printing/PrintReach.h"
 #include "program/desktop/QueueState.h"
 #include "support/Fault.h"
@@ -172,7 +173,7 @@ void HideListOfPages(const QPrintDialog& Dialog) {
 
 // The window below may go while the dialog is up, and takes it along.
 bool AskUser(QPrinter& Printer, int PageCount) {
-    const QPointer<QPrintDialog> Dialog = new QPrintDialog(&Printer, QApplication::activeWindow());
+    const QPointer<QPrintDialog> Dialog = new QPrintDialog(&Printer, WindowInUse());
     Dialog->setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintPageRange |
                        QAbstractPrintDialog::PrintCollateCopies |
                        QAbstractPrintDialog::PrintShowPageSize);

@@ -2,8 +2,8 @@
 
 #include "db/clsDBEngine.h"
 #include "pictures/formats/PictureDecoder.h"
-#include "show/CaptionText.h"
 #include "show/EngineSound.h"
+#include "show/captions/CaptionText.h"
 #include "sound/decoding/SoundDecoder.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"

@@ -4,7 +4,7 @@
 
 #include "db/modAlbumFiles.h"
 #include "settings/modNEBSlideShow.h"
-#include "show/CaptionFit.h"
+#include "show/captions/CaptionFit.h"
 #include "show/rehearsal/RehearsalNotebook.h"
 #include "support/files/modHostFiles.h"
 

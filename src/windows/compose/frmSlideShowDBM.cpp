@@ -21,6 +21,7 @@
 #include "windows/frame/Openers.h"
 #include "windows/frame/modNotice.h"
 #include "windows/frame/modWindowState.h"
+#include "windows/lists/SlideRows.h"
 #include "windows/lists/clsImageBuffer.h"
 #include "windows/lists/frmPicturePopup.h"
 #include "windows/printing/modPrinting.h"
@@ -121,11 +122,12 @@ void frmSlideShowDBM::SetUpToolBar() {
          &frmSlideShowDBM::Delete},
         {"mnuSlideShowPrint", "Print", "Print the slide show as it was last saved", "print",
          "Ctrl+P", &frmSlideShowDBM::Print},
-        {"mnuSlideShowView", "View", "Play the slide show as it was last saved", "slide-show-play",
-         "", &frmSlideShowDBM::View},
+        {"mnuSlideShowView", "View",
+         "Play the saved show from its first slide; with Shift from the slide in hand",
+         "slide-show-play", "Shift+F5", &frmSlideShowDBM::View},
         {"mnuSlideShowRehearse", "Rehearse",
-         "Look through the slide show as it was last saved: what comes up when, and what is wrong",
-         "find-graphics", "", &frmSlideShowDBM::Rehearse},
+         "Look through the saved show: what comes up when, and what is wrong", "find-graphics", "",
+         &frmSlideShowDBM::Rehearse},
         {"mnuSlideShowPrefs", "Preferences", "Choose how slide shows are played", "preferences", "",
          &frmSlideShowDBM::EditPreferences},
         {"mnuExit", "Exit", "Close this window", "exit", "", &frmSlideShowDBM::Close},
@@ -381,10 +383,9 @@ void frmSlideShowDBM::Print() {
 }
 
 void frmSlideShowDBM::View() {
-    if (AlbumID() != 0 && SlideShowID() != 0)
-        return RunSlideShow(AlbumID(), mUi->cboAlbum->currentText(), SlideShowID());
-    MsgBox(QStringLiteral("You must first select a Slide Show to View."),
-           QStringLiteral("Missing User Input"));
+    const int Row = mUi->flxSelected->Row();
+    ViewSlideShow(AlbumID(), mUi->cboAlbum->currentText(), SlideShowID(),
+                  Row < 0 ? 0 : SlideIn(*mUi->flxSelected, Row), Row + 1);
 }
 
 void frmSlideShowDBM::Rehearse() {

@@ -4,7 +4,7 @@
 
 #include <functional>
 
-#include "show/ShowCaptions.h"
+#include "show/captions/ShowCaptions.h"
 #include "windows/handling/ShowPanel.h"
 
 class QLabel;

@@ -5,7 +5,7 @@
 #include <QLayout>
 #include <QPainter>
 
-#include "show/CaptionFit.h"
+#include "show/captions/CaptionFit.h"
 
 namespace neb {
 namespace {

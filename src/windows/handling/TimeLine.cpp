@@ -5,8 +5,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "show/CaptionFit.h"
 #include "show/ShowRun.h"
+#include "show/captions/CaptionFit.h"
 
 namespace neb {
 namespace {

@@ -5,7 +5,7 @@
 #include <QWidget>
 #include <functional>
 
-#include "show/ShowCaptions.h"
+#include "show/captions/ShowCaptions.h"
 
 namespace neb {
 

@@ -3,8 +3,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 
-#include "show/CaptionFit.h"
-#include "show/CaptionText.h"
+#include "show/captions/CaptionFit.h"
+#include "show/captions/CaptionText.h"
 
 namespace neb {
 

@@ -35,12 +35,18 @@ class EffectDelegate : public QStyledItemDelegate {
     void initStyleOption(QStyleOptionViewItem* Option, const QModelIndex& Index) const override {
         QStyledItemDelegate::initStyleOption(Option, Index);
         Option->state.setFlag(QStyle::State_Selected, Index == mList->currentIndex());
+        if (mList->IsChoosable()) return;
+        Option->state.setFlag(QStyle::State_Enabled, false);
+        Option->palette.setCurrentColorGroup(QPalette::Disabled);
     }
     void paint(QPainter* Painter, const QStyleOptionViewItem& Option,
                const QModelIndex& Index) const override {
         QStyledItemDelegate::paint(Painter, Option, Index);
         Painter->save();
-        Painter->setPen(LevelColour(Option, Index == mList->currentIndex()));
+        const bool Current = Index == mList->currentIndex();
+        Painter->setPen(mList->IsChoosable()
+                            ? LevelColour(Option, Current)
+                            : Option.palette.color(QPalette::Disabled, QPalette::Text));
         Painter->drawText(Option.rect.adjusted(0, 0, -Gap(Option), 0),
                           Qt::AlignRight | Qt::AlignVCenter, Index.data(LevelRole).toString());
         Painter->restore();
@@ -118,6 +124,11 @@ void EffectList::SetAllSelected(bool Selected) {
         clearSelection();
 }
 
+void EffectList::SetChoosable(bool Choosable) {
+    mChoosable = Choosable;
+    viewport()->update();
+}
+
 QStringList EffectList::Names() const {
     QStringList All;
     for (int Row = 0; Row < count(); ++Row) All << item(Row)->text();
@@ -152,7 +163,8 @@ bool EffectList::IsOnCheckMark(const QModelIndex& Index, const QPoint& At) const
 // Going to an entry selects nothing; a check mark, Ctrl with a click, and Space turn it over.
 QItemSelectionModel::SelectionFlags EffectList::selectionCommand(const QModelIndex& Index,
                                                                  const QEvent* Event) const {
-    if (!Event || Event->type() != QEvent::MouseButtonPress) return QItemSelectionModel::NoUpdate;
+    if (!mChoosable || !Event || Event->type() != QEvent::MouseButtonPress)
+        return QItemSelectionModel::NoUpdate;
     const auto& Mouse = static_cast<const QMouseEvent&>(*Event);
     if (Mouse.button() != Qt::LeftButton || Mouse.modifiers() & Qt::ShiftModifier)
         return QItemSelectionModel::NoUpdate;
@@ -163,7 +175,7 @@ QItemSelectionModel::SelectionFlags EffectList::selectionCommand(const QModelInd
 
 // Gives the state of one entry to all up to another.
 void EffectList::SelectLike(int From, int To) {
-    if (!item(From) || !item(To)) return;
+    if (!mChoosable || !item(From) || !item(To)) return;
     const auto Command =
         item(From)->isSelected() ? QItemSelectionModel::Select : QItemSelectionModel::Deselect;
     const auto [First, Last] = std::minmax(From, To);
@@ -175,12 +187,14 @@ void EffectList::BlankPressed() {
     if (IsSearching() && FindTyped(Names(), mTyped + u' ', currentRow()) >= 0)
         return keyboardSearch(QStringLiteral(" "));
     mSinceTyped.invalidate();
-    if (QListWidgetItem* Here = currentItem()) Here->setSelected(!Here->isSelected());
+    if (QListWidgetItem* Here = mChoosable ? currentItem() : nullptr)
+        Here->setSelected(!Here->isSelected());
 }
 
 void EffectList::keyPressEvent(QKeyEvent* Event) {
     if (Event->key() == Qt::Key_Space && Event->modifiers() == Qt::NoModifier)
         return BlankPressed();
+    if (!mChoosable && Event->matches(QKeySequence::SelectAll)) return;
     const int Before = currentRow();
     QListWidget::keyPressEvent(Event);
     const bool Moves = Event->text().isEmpty() && Event->modifiers() & Qt::ShiftModifier;

@@ -20,6 +20,10 @@ class EffectList : public QListWidget {
     void AddEffect(const QString& Name, int Number, const QString& Level);
     int Number(int Row) const;  // 0 outside the list
     void SetAllSelected(bool Selected);
+    // Whether the user may turn check marks over. Where not they are grey, and entries can still be
+    // gone to, found and double-clicked.
+    void SetChoosable(bool Choosable);
+    bool IsChoosable() const { return mChoosable; }
     // Letters typed one soon after the other belong together.
     void keyboardSearch(const QString& Typed) override;
 
@@ -42,6 +46,7 @@ class EffectList : public QListWidget {
 
     QString mTyped;
     QElapsedTimer mSinceTyped;
+    bool mChoosable = true;
 };
 
 }  // namespace neb

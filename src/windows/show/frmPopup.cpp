@@ -1,5 +1,7 @@
 #include "windows/show/frmPopup.h"
 
+#include "controls/forms/StandOver.h"
+
 namespace neb {
 
 frmPopup::frmPopup() {
@@ -47,6 +49,7 @@ QString frmPopup::SelectedCommand() {
 
 void frmPopup::PopupMenu(const QPoint& GlobalPlace) {
     Load();
+    StandOver(mnuPopup, WindowInUse());
     mnuPopup.exec(GlobalPlace);
 }
 

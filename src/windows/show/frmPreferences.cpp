@@ -12,6 +12,7 @@
 #include "support/Services.h"
 #include "support/modNumbers.h"
 #include "ui_frmPreferences.h"
+#include "windows/show/ShowScreen.h"
 #include "windows/show/modSlideShows.h"
 
 namespace neb {
@@ -58,7 +59,7 @@ frmPreferences::frmPreferences() : mUi(std::make_unique<Ui::frmPreferences>()) {
     mState.SlideTimeout = neb::SlideTimeout;
     mUi->setupUi(this);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
-    for (QComboBox* Box : {mUi->cboAlbums, mUi->cboSlideShows})
+    for (QComboBox* Box : {mUi->cboAlbums, mUi->cboSlideShows, mUi->cboScreen})
         Box->view()->setAccessibleName(Box->accessibleName());
     SetUpGrid();
     ConnectControls();
@@ -83,6 +84,10 @@ void frmPreferences::ConnectControls() {
     new KeyFilter(mUi->txtNextSlide, &FilterDigitKey);
     connect(mUi->cboAlbums, &QComboBox::currentIndexChanged, this,
             &frmPreferences::cboAlbums_Click);
+    connect(mUi->cboAlbums, &QComboBox::activated, this, &frmPreferences::ShowChosen);
+    connect(mUi->cboSlideShows, &QComboBox::activated, this, &frmPreferences::ShowChosen);
+    connect(mUi->optEffects0, &QRadioButton::toggled, this, &frmPreferences::HalfChosen);
+    connect(&TheScreens(), &ScreenWatch::Changed, this, &frmPreferences::LoadScreens);
     connect(mUi->cmdSelectAll, &QPushButton::clicked, this,
             [this] { mUi->lstEffects->SetAllSelected(true); });
     connect(mUi->cmdSelectNone, &QPushButton::clicked, this,
@@ -208,11 +213,50 @@ void frmPreferences::cboAlbums_Click() {
     LoadSlideShows();
 }
 
+// A place in one show is none in another: the number goes with the show that the user chooses, and
+// what he types after that stays.
+void frmPreferences::ShowChosen() {
+    const std::int32_t Chosen = ChosenID(*mUi->cboSlideShows);
+    if (std::exchange(mNextSlideOf, Chosen) == Chosen) return;
+    mUi->txtNextSlide->setText(QString::number(NextSlideFor(mState, Chosen)));
+}
+
+// What the other choice goes by is grey; the names stay within reach, for previews.
+void frmPreferences::HalfChosen() {
+    const bool ByLevel = mUi->optEffects0->isChecked();
+    QWidget* const OfLevel[] = {mUi->sdrMaxEffectLevel, mUi->lblLevelNone, mUi->lblLevelLite,
+                                mUi->lblLevelNormal, mUi->lblLevelIntense};
+    QWidget* const OfList[] = {mUi->lblEffects, mUi->cmdSelectAll, mUi->cmdSelectNone};
+    for (QWidget* Each : OfLevel) Each->setEnabled(ByLevel);
+    for (QWidget* Each : OfList) Each->setEnabled(!ByLevel);
+    mUi->lstEffects->SetChoosable(!ByLevel);
+}
+
+// A chosen screen that is not there now stays chosen.
+void frmPreferences::LoadScreens() {
+    QComboBox& Box = *mUi->cboScreen;
+    const QString Was = Box.count() > 0 ? Box.currentData().toString() : mState.ShowScreen;
+    Box.clear();
+    Box.addItem(tr("The program's own"), QString());
+    Box.addItem(tr("The largest"), LargestScreen);
+    const auto There = ScreensThere();
+    for (const DesktopScreen& Each : There) Box.addItem(ScreenTitle(Each), ScreenKey(Each));
+    const int Found = Was.isEmpty() || Was == LargestScreen ? -1 : ChosenScreen(Was, There, -1);
+    const int At =
+        Found >= 0 ? Box.count() - static_cast<int>(There.size()) + Found : Box.findData(Was);
+    if (At < 0) Box.addItem(tr("%1 (not connected)").arg(TitleOfKey(Was)), Was);
+    Box.setCurrentIndex(At >= 0 ? At : Box.count() - 1);
+    OpenAsWideAsNames(Box);
+}
+
 void frmPreferences::LoadFields() {
+    mNextSlideOf = ChosenID(*mUi->cboSlideShows);
+    LoadScreens();
     mUi->txtNextSlide->setText(QString::number(mState.NextSlideSeq));
     mUi->txtSlideTimeout->setText(ShortestDecimal(mState.SlideTimeout));
     mUi->sdrMaxEffectLevel->setValue(mState.Effects.MaxEffectLevel);
     (mState.Effects.UseEffectLevel ? mUi->optEffects0 : mUi->optEffects1)->setChecked(true);
+    HalfChosen();
 }
 
 void frmPreferences::LoadEffectsList() {
@@ -278,6 +322,7 @@ PreferencesEntries frmPreferences::ReadControls() const {
     Entries.SlideShow = Chosen(*mUi->cboSlideShows);
     Entries.NextSlide = CInt(Val(mUi->txtNextSlide->text()));
     Entries.SlideTimeout = DecimalIn(mUi->txtSlideTimeout->text());
+    Entries.ShowScreen = mUi->cboScreen->currentData().toString();
     Entries.MaxEffectLevel = mUi->sdrMaxEffectLevel->value();
     Entries.UseEffectLevel = mUi->optEffects0->isChecked();
     for (int Row = 0; Row < mUi->lstEffects->count(); ++Row)

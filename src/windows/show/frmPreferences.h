@@ -52,7 +52,10 @@ class frmPreferences : public Form, public ChangeReceiver {
     void LoadFields();
     void LoadEffectsList();
     void LoadSpeeds();
+    void LoadScreens();
     void cboAlbums_Click();
+    void ShowChosen();
+    void HalfChosen();
     void cmdPreview_Click();
     void cmdApply_Click();
     bool CheckEffectSettings(int Effect);
@@ -63,7 +66,8 @@ class frmPreferences : public Form, public ChangeReceiver {
 
     std::unique_ptr<Ui::frmPreferences> mUi;
     PreferencesState mState;
-    QString mPreviewPicture;  // the last one's file name
+    QString mPreviewPicture;        // the last one's file name
+    std::int32_t mNextSlideOf = 0;  // the show that the place in txtNextSlide belongs to
 };
 
 }  // namespace neb

@@ -1,7 +1,6 @@
 #include "windows/show/frmSlideShowProjector.h"
 
 #include <QKeyEvent>
-#include <QScreen>
 
 #include "controls/forms/ScreenPointer.h"
 #include "controls/forms/modTwips.h"
@@ -12,7 +11,6 @@
 #include "ui_frmSlideShowProjector.h"
 #include "windows/frame/modNotice.h"
 #include "windows/handling/ShowHands.h"
-#include "windows/show/ProgramScreen.h"
 #include "windows/show/ShowBox.h"
 #include "windows/show/frmPopup.h"
 #include "windows/show/modSlideShows.h"
@@ -96,8 +94,7 @@ void frmSlideShowProjector::LoadSlideShow(std::int32_t SlideShowID) {
 
 void frmSlideShowProjector::Form_Load() {
     mRun.Load();
-    mScreenStaysOn.emplace(tr("A slide show is running"));
-    FillScreen();
+    mDesk.emplace(*this, mRun);
     DoEvents();
     ResizeControls();
     DoEvents();
@@ -109,19 +106,11 @@ void frmSlideShowProjector::Form_Activate() {
     PlayPause();
 }
 
-// A desktop without a window manager takes the size from the window itself.
-void frmSlideShowProjector::FillScreen() {
-    const QScreen* Screen = ProgramScreen();
-    setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
-    if (Screen) setGeometry(Screen->geometry());
-    setWindowState(Qt::WindowFullScreen);
-}
-
 bool frmSlideShowProjector::Form_Unload() {
     const HourglassUntilEnd Pointer;
     mUi->Show1->ForgetPicture();
     mUi->Show1->StopEffect();
-    mScreenStaysOn.reset();
+    mDesk.reset();
     mRun.End();
     if (mRun.ResumeValid()) SaveNextSlideSeq();
     TellFrames();
@@ -138,7 +127,7 @@ void frmSlideShowProjector::TellFrames() {
 // The window must close even when the place cannot be kept; the opener hears of it afterwards.
 void frmSlideShowProjector::SaveNextSlideSeq() {
     try {
-        neb::SaveNextSlideSeq(mRun.Memory().CurrentSlideSeq);
+        KeepPlace(mRun.AlbumID, mRun.SlideShowID, mRun.ResumeSeq(), mRun.Memory().CurrentSlideSeq);
     } catch (const Fault&) {
         mSaveFault = std::current_exception();
     }
@@ -227,11 +216,13 @@ void frmSlideShowProjector::RunCommand(const QString& Word) {
 
 void frmSlideShowProjector::EditPreferences() {
     mRun.EditPreferences(EditSlideShowPreferences);
+    if (mDesk) mDesk->FollowScreen();
 }
 
 void frmSlideShowProjector::ShowCaption(const QString& Text) {
     mUi->lblCaption->setText(Text);
     mHands->FollowShow();
+    if (mDesk) mDesk->FollowSlide();
 }
 
 bool frmSlideShowProjector::ShowPicture(const QString& Path, const EffectChoice& Choice) {
@@ -262,6 +253,7 @@ void frmSlideShowProjector::Prefetch(const QString& Path) {
 void frmSlideShowProjector::SetTimer1(bool On) {
     On&& IsLoaded() ? Timer1->start() : Timer1->stop();
     mHands->FollowShow();
+    if (mDesk) mDesk->FollowState(On);
 }
 
 void frmSlideShowProjector::SetTimer2(bool On) {

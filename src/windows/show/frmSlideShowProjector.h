@@ -9,7 +9,7 @@
 #include "controls/forms/Form.h"
 #include "show/ShowRun.h"
 #include "windows/handling/ShowKeys.h"
-#include "windows/show/BlankingHold.h"
+#include "windows/show/ShowDesk.h"
 
 namespace neb {
 
@@ -82,7 +82,6 @@ class frmSlideShowProjector : public Form, private ShowStage {
     void PrepareControls();
     void PictureCame();
     void TellFrames();
-    void FillScreen();
     void ResizeControls();
     void ConnectHands();
     void Leave();
@@ -92,9 +91,9 @@ class frmSlideShowProjector : public Form, private ShowStage {
     void SaveNextSlideSeq();
 
     std::unique_ptr<Ui::frmSlideShowProjector> mUi;
-    std::optional<BlankingHold> mScreenStaysOn;
     ShowRun mRun;
     std::unique_ptr<ShowHands> mHands;
+    std::optional<ShowDesk> mDesk;
     QString mAlbumName;
     QTimer* Timer1;
     QTimer* Timer2;

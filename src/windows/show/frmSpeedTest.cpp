@@ -1,8 +1,6 @@
 #include "windows/show/frmSpeedTest.h"
 
 #include <QResizeEvent>
-#include <QScreen>
-#include <QStyle>
 #include <QTimer>
 
 #include "controls/forms/ScreenPointer.h"
@@ -12,7 +10,7 @@
 #include "support/Services.h"
 #include "support/files/modHostFiles.h"
 #include "ui_frmSpeedTest.h"
-#include "windows/show/ProgramScreen.h"
+#include "windows/show/ShowScreen.h"
 
 namespace neb {
 namespace {
@@ -20,7 +18,6 @@ namespace {
 constexpr char FirstPicture[] = "SpeedTest1.bmp";
 constexpr char SecondPicture[] = "SpeedTest2.bmp";
 constexpr int CloseAfterMs = 250;
-constexpr double MostOfScreen = 0.85;  // the frame and the desktop's bars need some room
 
 QString PathOf(const char* File) {
     return AppPath() + QString::fromLatin1(File);
@@ -34,6 +31,8 @@ float Now() {
 
 frmSpeedTest::frmSpeedTest() : mUi(std::make_unique<Ui::frmSpeedTest>()), Timer1(new QTimer(this)) {
     mUi->setupUi(this);
+    setAutoFillBackground(true);
+    setPalette(QPalette(Qt::white, Qt::black));
     Timer1->setObjectName(QStringLiteral("Timer1"));
     connect(Timer1, &QTimer::timeout, this, &frmSpeedTest::Unload);
     mUi->Show1->SetPacing(XShow::Pacing::EveryStep);
@@ -45,17 +44,7 @@ frmSpeedTest::~frmSpeedTest() = default;
 void frmSpeedTest::Form_Load() {
     if (!FileExists(PathOf(FirstPicture)) || !FileExists(PathOf(SecondPicture))) return Abort();
     SetScreenPointer(Pointer::Hourglass);
-    FitToScreen();
-}
-
-// In the middle of the program's screen, in the proportion of the pictures.
-void frmSpeedTest::FitToScreen() {
-    const QScreen* Screen = ProgramScreen();
-    if (!Screen) return;
-    const QRect Room = Screen->availableGeometry();
-    const QSize Size = this->size().scaled((Room.size() * MostOfScreen).boundedTo(this->size()),
-                                           Qt::KeepAspectRatio);
-    setGeometry(QStyle::alignedRect(layoutDirection(), Qt::AlignCenter, Size, Room));
+    FillScreen(*this, ShowScreen());
 }
 
 void frmSpeedTest::Form_Activate() {
@@ -75,9 +64,22 @@ bool frmSpeedTest::Form_Unload() {
 
 void frmSpeedTest::resizeEvent(QResizeEvent* Event) {
     Form::resizeEvent(Event);
-    if (isMinimized()) return;
-    XShow& Show1 = *mUi->Show1;
-    Show1.resize(width() > 0 ? width() : Show1.width(), height() > 0 ? height() : Show1.height());
+    if (!isMinimized() && width() > 0 && height() > 0) PlaceControls();
+}
+
+// The picture gets the room that it has in a show, above a line of text: on a full screen nobody
+// sees the window's title.
+void frmSpeedTest::PlaceControls() {
+    const int Line = mUi->lblTitle->sizeHint().height(), Picture = std::max(1, height() - Line);
+    const int Half = width() / 2;
+    mUi->Show1->setGeometry(0, 0, width(), Picture);
+    mUi->lblTitle->setGeometry(0, Picture, Half, Line);
+    mUi->lblHint->setGeometry(Half, Picture, width() - Half, Line);
+}
+
+void frmSpeedTest::ShowTitle() {
+    setWindowTitle(mLadder.Title());
+    mUi->lblTitle->setText(mLadder.Title());
 }
 
 void frmSpeedTest::StartLevel() {
@@ -88,7 +90,7 @@ void frmSpeedTest::StartLevel() {
 
 void frmSpeedTest::RunRound() {
     mLadder.StartRound();
-    setWindowTitle(mLadder.Title());
+    ShowTitle();
     mUi->Show1->SetEffectDelay(mLadder.EffectDelay());
     mUi->Show1->SetEffectStep(mLadder.EffectStep());
     RunTransition(FirstPicture);

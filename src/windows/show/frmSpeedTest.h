@@ -1,5 +1,6 @@
-// The window of the graphics speed test: runs the transitions of SpeedLadder before the user's eyes
-// and closes by itself. Opened once in the life of a settings file, at the start of the program.
+// The window of the graphics speed test: runs the transitions of SpeedLadder before the user's
+// eyes, as large as a show will be, and closes by itself. Opened at the first start of the program
+// and from its menu.
 #pragma once
 
 #include "controls/forms/Form.h"
@@ -18,7 +19,7 @@ class frmSpeedTest : public Form {
     frmSpeedTest();
     ~frmSpeedTest() override;
 
-    // What has been measured so far; all 0 at first, and for levels that the user cut off.
+    // What has been measured so far; all 0 at first, and for levels that the user cut off by Esc.
     const SpeedTestResult& Result() const { return mLadder.Result(); }
 
   protected:
@@ -28,7 +29,8 @@ class frmSpeedTest : public Form {
     void resizeEvent(QResizeEvent* Event) override;
 
   private:
-    void FitToScreen();
+    void PlaceControls();
+    void ShowTitle();
     void StartLevel();
     void RunRound();
     void RunTransition(const char* File);

@@ -1,8 +1,14 @@
 #include "windows/show/modSlideShows.h"
 
+#include <QGuiApplication>
 #include <algorithm>
+#include <cstdlib>
+#include <optional>
 
+#include "db/clsDBEngine.h"
+#include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
+#include "support/Services.h"
 #include "windows/show/frmPreferences.h"
 #include "windows/show/frmSlideShowProjector.h"
 
@@ -15,6 +21,21 @@ bool IsShowUp() {
     return std::any_of(Loaded.begin(), Loaded.end(), [](const auto& Window) {
         return dynamic_cast<const frmSlideShowProjector*>(Window.get());
     });
+}
+
+// In the show as it was saved, where a slide may stand more than once: the one nearest to Place; 1
+// for a slide that is not in it.
+std::int32_t PlaceInShow(std::int32_t AlbumID, std::int32_t SlideShowID, std::int32_t SlideID,
+                         std::int32_t Place) {
+    const clsNEBAlbum* Album = DBEngine ? DBEngine->GetAlbum(AlbumID) : nullptr;
+    const clsNEBSlideShow* Show = Album ? Album->GetSlideShow(SlideShowID) : nullptr;
+    if (!Show) return 1;
+    std::optional<std::int32_t> Nearest;
+    for (const auto& Each : Show->Details)
+        if (Each->SlideID == SlideID &&
+            (!Nearest || std::abs(Each->SlideSeq - Place) < std::abs(*Nearest - Place)))
+            Nearest = Each->SlideSeq;
+    return Nearest.value_or(1);
 }
 
 }  // namespace
@@ -36,6 +57,18 @@ void RunSlideShowIn(const ShowWorld& World, std::int32_t AlbumID, const QString&
     } catch (const Fault&) {
         // a show that cannot run ends, and the window that started it goes on
     }
+}
+
+void ViewSlideShow(std::int32_t AlbumID, const QString& AlbumName, std::int32_t SlideShowID,
+                   std::int32_t SlideInHand, std::int32_t Place) {
+    if (AlbumID == 0 || SlideShowID == 0) {
+        MsgBox(QStringLiteral("You must first select a Slide Show to View."),
+               QStringLiteral("Missing User Input"));
+        return;
+    }
+    const bool FromHere = QGuiApplication::keyboardModifiers() & Qt::ShiftModifier;
+    const std::int32_t Begin = FromHere ? PlaceInShow(AlbumID, SlideShowID, SlideInHand, Place) : 1;
+    RunSlideShow(AlbumID, AlbumName, SlideShowID, Begin);
 }
 
 void EditSlideShowPreferences() {

@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QSet>
 
+#include "harness/AwaitActive.h"
 #include "windows/albums/frmAlbumDelete.h"
 #include "windows/albums/frmAlbumRename.h"
 #include "windows/albums/modAlbumNames.h"
@@ -67,7 +68,7 @@ class AlbumWindows : public Intake {
     }
     // A key for whatever has the keyboard.
     static void Key(QWidget& Window, Qt::Key Pressed, Qt::KeyboardModifiers With = {}) {
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&Window, 2000));
+        EXPECT_TRUE(neb::harness::AwaitActive(Window));
         QTest::keyClick(Window.focusWidget() ? Window.focusWidget() : &Window, Pressed, With);
     }
 

@@ -1,5 +1,6 @@
 // Renaming an album: the checks in their order, the engine's refusals, odd names, the keyboard.
 #include "AlbumHarness.h"
+#include "harness/AwaitActive.h"
 
 namespace neb {
 namespace {
@@ -118,7 +119,7 @@ TEST_F(AlbumRename, QuotesBecomeTypographicWhenTypedAndWhenPasted) {
     const std::int32_t AlbumID = MakeAlbum(u"Garden"_s);
     Rename(AlbumID, [](frmAlbumRename& Window) {
         Window.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&Window));
+        ASSERT_TRUE(neb::harness::AwaitActive(Window));
         auto& Field = In<QLineEdit>(Window, "txtAlbumName");
         QTest::keyClicks(&Field, u"Mary's"_s);
         EXPECT_EQ(u"Mary’s"_s.toStdString(), Field.text().toStdString());

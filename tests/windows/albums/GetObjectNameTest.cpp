@@ -1,4 +1,5 @@
 // The general question for a name: its texts by the noun, its checks, what it answers.
+#include "harness/AwaitActive.h"
 #include "windows/albums/frmGetObjectName.h"
 #include "windows/import/IntakeHarness.h"
 
@@ -29,7 +30,7 @@ class GetObjectName : public Intake {
         Press(Shown, "cmdSave");
     }
     static void Key(QWidget& Shown, Qt::Key Pressed, Qt::KeyboardModifiers With = {}) {
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&Shown, 2000));
+        EXPECT_TRUE(neb::harness::AwaitActive(Shown));
         ASSERT_TRUE(Shown.focusWidget());
         QTest::keyClick(Shown.focusWidget(), Pressed, With);
     }
@@ -118,7 +119,7 @@ TEST_F(GetObjectName, QuotesAreCleanedAndThenRefused) {
     ExpectIllegal(u"’"_s);
     ExpectIllegal(u"“”"_s);
     Ask(u"Album"_s, {}, [](frmGetObjectName& Shown) {
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&Shown, 2000));
+        EXPECT_TRUE(neb::harness::AwaitActive(Shown));
         QTest::keyClicks(&Field(Shown), u"Mary's"_s);
         EXPECT_EQ(u"Mary’s"_s.toStdString(), Field(Shown).text().toStdString());
         Press(Shown, "cmdSave");
@@ -132,7 +133,7 @@ TEST_F(GetObjectName, QuotesAreCleanedAndThenRefused) {
 
 TEST_F(GetObjectName, WorksByTheKeyboardAlone) {
     EXPECT_EQ("Lake", Ask(u"Album"_s, u"Garden"_s, [](frmGetObjectName& Shown) {
-                  EXPECT_TRUE(QTest::qWaitForWindowActive(&Shown, 2000));
+                  EXPECT_TRUE(neb::harness::AwaitActive(Shown));
                   QTest::keyClicks(Shown.focusWidget(), u"Lake"_s);  // in place of the old one
                   Key(Shown, Qt::Key_Return);
                   EXPECT_FALSE(Shown.IsLoaded());

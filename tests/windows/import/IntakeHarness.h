@@ -8,6 +8,7 @@
 #include "controls/grid/GridHarness.h"
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
+#include "harness/AwaitActive.h"
 #include "harness/ScriptedBoxes.h"
 #include "harness/TempFolder.h"
 #include "pictures/ImgX.h"
@@ -98,7 +99,7 @@ class Intake : public ::testing::Test {
     }
     static void Activate(Form& Window) {
         Window.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&Window, 2000));
+        EXPECT_TRUE(neb::harness::AwaitActive(Window));
     }
 
     static DirectoryTree& Dir1(const QWidget& Window) { return In<DirectoryTree>(Window, "Dir1"); }

@@ -5,6 +5,7 @@
 #include <QAction>
 #include <QThread>
 
+#include "harness/AwaitActive.h"
 #include "harness/Heartbeat.h"
 #include "harness/ScriptedBoxes.h"
 #include "harness/ScriptedMail.h"
@@ -88,7 +89,7 @@ class OutRig : public ::testing::Test {
         W->ShowDocument(Pages(3));
         W->ShowModeless();
         W->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(W.get(), 2000));
+        EXPECT_TRUE(neb::harness::AwaitActive(*W));
     }
     ~OutRig() override {
         SetHostWatcher({});

@@ -8,6 +8,7 @@
 #include <QTest>
 #include <QTimer>
 
+#include "harness/AwaitActive.h"
 #include "sound/RecorderRig.h"
 #include "support/files/modHostFiles.h"
 #include "windows/recorder/LevelMeter.h"
@@ -28,7 +29,7 @@ class SoundRecorderWindow : public RecorderRig {
         mWindow = NewForm<frmSoundRecorder>();
         mWindow->SetSoundSavePath(SavePath());
         QTimer::singleShot(0, mWindow.get(), [this, User] {
-            (void)QTest::qWaitForWindowActive(mWindow.get());  // else it has no shortcuts yet
+            (void)neb::harness::AwaitActive(*mWindow);  // else it has no shortcuts yet
             if (mSound.Delay.count() == 0) AwaitDevices();
             User();
             const harness::LettingGo Answers;

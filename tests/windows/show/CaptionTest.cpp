@@ -2,8 +2,8 @@
 
 #include <QImage>
 
-#include "show/CaptionFit.h"
-#include "show/CaptionText.h"
+#include "show/captions/CaptionFit.h"
+#include "show/captions/CaptionText.h"
 #include "windows/show/CaptionLabel.h"
 
 namespace neb {

@@ -62,6 +62,7 @@ TEST_F(PreferencesApply, WithNoShowChosenWritesShowZero) {
 
 TEST_F(PreferencesApply, ReadsAndWritesTheFlagOfNumberZero) {
     Put("Effect.000", "off", "Effect Selections");
+    Put("UseEffectLevel", "False");
     Open([&] {
         Press("cmdSelectAll");
         Press("cmdApply");

@@ -10,6 +10,7 @@
 
 #include "ProjectorRig.h"
 #include "controls/grid/FlexGrid.h"
+#include "harness/AwaitActive.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/files/modHostFiles.h"
 #include "windows/show/EffectList.h"
@@ -30,7 +31,7 @@ inline void WhenPreferencesOpen(std::function<void(frmPreferences&)> Do) {
         frmPreferences* Window = OpenPreferences();
         if (!Window) return WhenPreferencesOpen(Do);
         const auto Held = Window->shared_from_this();
-        (void)QTest::qWaitForWindowActive(Window);  // else it has no shortcuts yet
+        (void)harness::AwaitActive(*Window);  // else it has no shortcuts yet
         Do(*Window);
         Window->Unload();
     });

@@ -146,6 +146,7 @@ TEST_F(PreferencesWindow, TheNextSlideAndTheSpeedsTakeDigitsAlone) {
 }
 
 TEST_F(PreferencesWindow, SelectAllAndSelectNoneSelect) {
+    Put("UseEffectLevel", "False");
     Open([&] {
         Press("cmdSelectNone");
         EXPECT_TRUE(List().selectedItems().isEmpty());
@@ -157,6 +158,7 @@ TEST_F(PreferencesWindow, SelectAllAndSelectNoneSelect) {
 TEST_F(PreferencesWindow, CloseAndEscapeChangeNothing) {
     MakeActive();
     Put("NextSlideSeq", "4");
+    Put("UseEffectLevel", "False");
     const QByteArray Before = FileText();
     for (const bool ByKey : {false, true}) {
         Open([&] {

@@ -25,6 +25,32 @@ TEST_F(ProjectorEnd, KeepsNoPlaceOfAnyOtherShow) {
     EXPECT_EQ("none", Setting("NextSlideSeq").toStdString());
 }
 
+TEST_F(ProjectorEnd, KeepsNoPlaceOfARunThatBeganWhereItWasTold) {
+    AddSlides(3);
+    MakeActive();
+    Put("NextSlideSeq", QStringLiteral("2"));
+    WhenStarted([&](Projector& Window) {
+        EXPECT_EQ("Slide 1", Caption());
+        Window.PreviousSlide();
+    });
+    RunSlideShowIn(World(), Album, QStringLiteral("Holiday"), Show, 1);
+    EXPECT_EQ("2", Setting("NextSlideSeq").toStdString());
+}
+
+TEST_F(ProjectorEnd, LeavesAPlaceThatTheUserHasNamedMeanwhile) {
+    AddSlides(3);
+    MakeActive();
+    Put("NextSlideSeq", QStringLiteral("2"));
+    Run([&](Projector& Window) {
+        Put("NextSlideSeq", QStringLiteral("3"));
+        Window.GotoStart();
+    });
+    EXPECT_EQ("3", Setting("NextSlideSeq").toStdString());
+    Run([&](Projector&) { EXPECT_EQ("Slide 3", Caption()); });
+    Run([&](Projector&) { Put("ActiveSlideShow", QStringLiteral("77")); });
+    EXPECT_EQ("3", Setting("NextSlideSeq").toStdString()) << "it is another show's by now";
+}
+
 TEST_F(ProjectorEnd, StopsTheSoundAndTheTimers) {
     AddSlides(1);
     Run([&](Projector& Window) {

@@ -1,4 +1,4 @@
-#include "show/CaptionFit.h"
+#include "show/captions/CaptionFit.h"
 
 #include <QPainter>
 #include <QTextLayout>

@@ -1,4 +1,4 @@
-#include "show/CaptionText.h"
+#include "show/captions/CaptionText.h"
 
 namespace neb {
 

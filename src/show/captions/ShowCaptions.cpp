@@ -1,10 +1,10 @@
-#include "show/ShowCaptions.h"
+#include "show/captions/ShowCaptions.h"
 
 #include <QStringList>
 #include <algorithm>
 
 #include "db/clsDBEngine.h"
-#include "show/CaptionText.h"
+#include "show/captions/CaptionText.h"
 
 namespace neb {
 namespace {
