@@ -63,18 +63,18 @@ ShowHands::ShowHands(QWidget& Window, ShowRun& Run, const clsDBEngine* Engine)
       mUnderBlack(Run),
       mUnderCard(Run),
       mBlack(BlackSheet(Window)),
-      mLine(new TimeLine(Window, Run, [this] { return Captions(); })),
+      mLine(new PlaceLine(Window, Run, [this] { return Captions(); })),
       mNotice(new WordsOfFailure(Window)),
       mCard(new KeyCard(Window)),
       mField(new GotoField(Window, [this] { return Captions(); })) {
     mFollow.setSingleShot(true);
     connect(&mFollow, &QTimer::timeout, this, &ShowHands::TellFailure);
-    connect(&mPointer, &RestingPointer::Moved, mLine, &TimeLine::Follow);
-    connect(&mPointer, &RestingPointer::Left, mLine, &TimeLine::hide);
-    connect(&mPointer, &RestingPointer::Rested, mLine, &TimeLine::hide);
+    connect(&mPointer, &RestingPointer::Moved, mLine, &PlaceLine::Follow);
+    connect(&mPointer, &RestingPointer::Left, mLine, &PlaceLine::hide);
+    connect(&mPointer, &RestingPointer::Rested, mLine, &PlaceLine::hide);
     connect(&mFingers, &TouchGestures::Made, this, &ShowHands::Do);
     connect(&mFingers, &TouchGestures::Held, this, &ShowHands::MenuAsked);
-    connect(mLine, &TimeLine::Chosen, this, &ShowHands::Goto);
+    connect(mLine, &PlaceLine::Chosen, this, &ShowHands::Goto);
     connect(mField, &GotoField::Chosen, this, &ShowHands::Goto);
 }
 

@@ -7,9 +7,9 @@
 
 #include "windows/handling/GotoField.h"
 #include "windows/handling/KeyCard.h"
+#include "windows/handling/PlaceLine.h"
 #include "windows/handling/RestingPointer.h"
 #include "windows/handling/ShowWait.h"
-#include "windows/handling/TimeLine.h"
 #include "windows/handling/TouchGestures.h"
 #include "windows/handling/WordsOfFailure.h"
 
@@ -72,7 +72,7 @@ class ShowHands : public QObject {
     QTimer mFollow;
     // Children of the window, the upper ones last.
     QWidget* mBlack;
-    TimeLine* mLine;
+    PlaceLine* mLine;
     WordsOfFailure* mNotice;
     KeyCard* mCard;
     GotoField* mField;

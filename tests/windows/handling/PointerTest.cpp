@@ -59,18 +59,18 @@ TEST_F(TheLine, ComesAtTheLowerEdgeAloneAndTellsWhatIsThere) {
     AddSlides(4);
     RunHands([&](Projector& Shown) {
         const int Bottom = Shown.height() - 1;
-        EXPECT_FALSE(IsUp("TimeLine"));
+        EXPECT_FALSE(IsUp("PlaceLine"));
         MoveTo({Shown.width() / 2, Bottom - 40});
-        EXPECT_FALSE(IsUp("TimeLine"));
+        EXPECT_FALSE(IsUp("PlaceLine"));
         MoveTo({Shown.width() * 5 / 8, Bottom - 20});
-        ASSERT_TRUE(IsUp("TimeLine"));
-        EXPECT_EQ("3 of 4: Slide 3", Part("TimeLine")->accessibleDescription().toStdString());
+        ASSERT_TRUE(IsUp("PlaceLine"));
+        EXPECT_EQ("3 of 4: Slide 3", Part("PlaceLine")->accessibleDescription().toStdString());
         MoveTo({Shown.width() - 1, Bottom});
-        EXPECT_EQ("4 of 4: Slide 4", Part("TimeLine")->accessibleDescription().toStdString());
+        EXPECT_EQ("4 of 4: Slide 4", Part("PlaceLine")->accessibleDescription().toStdString());
         MoveTo({0, Bottom});
-        EXPECT_EQ("1 of 4: Slide 1", Part("TimeLine")->accessibleDescription().toStdString());
+        EXPECT_EQ("1 of 4: Slide 1", Part("PlaceLine")->accessibleDescription().toStdString());
         MoveTo({0, Bottom - 40});
-        EXPECT_FALSE(IsUp("TimeLine"));
+        EXPECT_FALSE(IsUp("PlaceLine"));
     });
 }
 
@@ -91,14 +91,14 @@ TEST_F(TheLine, GoesWhenTheMouseRestsOrLeaves) {
     RunHands([&](Projector& Shown) {
         const QPoint At(200, Shown.height() - 5);
         MoveTo(At);
-        ASSERT_TRUE(IsUp("TimeLine"));
+        ASSERT_TRUE(IsUp("PlaceLine"));
         Spin(ARest * 5 / 4);
-        EXPECT_FALSE(IsUp("TimeLine"));
+        EXPECT_FALSE(IsUp("PlaceLine"));
         MoveTo(At + QPoint(1, 0));
-        ASSERT_TRUE(IsUp("TimeLine"));
+        ASSERT_TRUE(IsUp("PlaceLine"));
         QEvent Gone(QEvent::Leave);
         QApplication::sendEvent(Shown.windowHandle(), &Gone);
-        EXPECT_FALSE(IsUp("TimeLine"));
+        EXPECT_FALSE(IsUp("PlaceLine"));
     });
 }
 

@@ -11,12 +11,12 @@ namespace neb {
 
 class ShowRun;
 
-class TimeLine : public QWidget {
+class PlaceLine : public QWidget {
     Q_OBJECT
 
   public:
     // Captions: of the show as it is when the line comes up.
-    TimeLine(QWidget& Window, const ShowRun& Run, std::function<ShowCaptions()> Captions);
+    PlaceLine(QWidget& Window, const ShowRun& Run, std::function<ShowCaptions()> Captions);
 
     // The pointer has moved there in the window: the line comes, follows or goes.
     void Follow(const QPoint& At);

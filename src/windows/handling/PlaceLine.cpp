@@ -1,4 +1,4 @@
-#include "windows/handling/TimeLine.h"
+#include "windows/handling/PlaceLine.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -20,19 +20,19 @@ constexpr QColor Pointed(120, 170, 240);
 
 }  // namespace
 
-TimeLine::TimeLine(QWidget& Window, const ShowRun& Run, std::function<ShowCaptions()> Captions)
+PlaceLine::PlaceLine(QWidget& Window, const ShowRun& Run, std::function<ShowCaptions()> Captions)
     : QWidget(&Window), mRun(Run), mCaptions(std::move(Captions)) {
-    setObjectName(QStringLiteral("TimeLine"));
+    setObjectName(QStringLiteral("PlaceLine"));
     setAccessibleName(tr("Where the show stands"));
     setCursor(Qt::PointingHandCursor);
     setVisible(false);
 }
 
-int TimeLine::EdgeHeight() const {
+int PlaceLine::EdgeHeight() const {
     return EdgePixels * std::max(UsualHeight, parentWidget()->height()) / UsualHeight;
 }
 
-void TimeLine::Follow(const QPoint& At) {
+void PlaceLine::Follow(const QPoint& At) {
     const bool AtEdge = At.y() >= parentWidget()->height() - EdgeHeight();
     if (!AtEdge || mRun.SlideCount() < 1) return hide();
     Come();
@@ -44,7 +44,7 @@ void TimeLine::Follow(const QPoint& At) {
     update();
 }
 
-void TimeLine::Come() {
+void PlaceLine::Come() {
     const QWidget& Window = *parentWidget();
     QFont Type = font();
     Type.setPointSizeF(StandardCaption({}, {0, Window.height(), 0}, this).Points);
@@ -55,27 +55,27 @@ void TimeLine::Come() {
     raise();
 }
 
-std::int32_t TimeLine::SlideAt(int X) const {
+std::int32_t PlaceLine::SlideAt(int X) const {
     const std::int64_t Count = mRun.SlideCount();
     const std::int64_t Place = 1 + X * Count / std::max(1, width());
     return static_cast<std::int32_t>(std::clamp<std::int64_t>(Place, 1, Count));
 }
 
 // The stretch of the line from the beginning of one slide to the end of another.
-QRectF TimeLine::PartOf(std::int32_t From, std::int32_t To) const {
+QRectF PlaceLine::PartOf(std::int32_t From, std::int32_t To) const {
     const double Step = width() / std::max(1.0, static_cast<double>(mRun.SlideCount()));
     const double Thick = EdgeHeight() / 4.0;
     return {(From - 1) * Step, height() - 2 * Thick, (To - From + 1) * Step, Thick};
 }
 
-void TimeLine::paintEvent(QPaintEvent*) {
+void PlaceLine::paintEvent(QPaintEvent*) {
     QPainter Painter(this);
     Painter.fillRect(0, height() - EdgeHeight(), width(), EdgeHeight(), Ground);
     PaintLine(Painter);
     PaintTip(Painter);
 }
 
-void TimeLine::PaintLine(QPainter& Painter) const {
+void PlaceLine::PaintLine(QPainter& Painter) const {
     Painter.fillRect(PartOf(1, mRun.SlideCount()), Ahead);
     Painter.fillRect(PartOf(1, mRun.Memory().CurrentSlideSeq), Behind);
     QRectF Under = PartOf(mPointed, mPointed);
@@ -83,7 +83,7 @@ void TimeLine::PaintLine(QPainter& Painter) const {
     Painter.fillRect(Under, Pointed);
 }
 
-void TimeLine::PaintTip(QPainter& Painter) const {
+void PlaceLine::PaintTip(QPainter& Painter) const {
     const int Space = fontMetrics().height() / 2;
     const QString Text = fontMetrics().elidedText(mTip, Qt::ElideRight, width() - 4 * Space);
     const int Width = fontMetrics().horizontalAdvance(Text) + 2 * Space;
@@ -96,11 +96,11 @@ void TimeLine::PaintTip(QPainter& Painter) const {
 }
 
 // The right button is the menu's, and goes to the window.
-void TimeLine::mousePressEvent(QMouseEvent* Event) {
+void PlaceLine::mousePressEvent(QMouseEvent* Event) {
     Event->setAccepted(Event->button() == Qt::LeftButton);
 }
 
-void TimeLine::mouseReleaseEvent(QMouseEvent* Event) {
+void PlaceLine::mouseReleaseEvent(QMouseEvent* Event) {
     if (Event->button() != Qt::LeftButton) return Event->ignore();
     if (rect().contains(Event->position().toPoint()))
         Q_EMIT Chosen(SlideAt(Event->position().toPoint().x()));
