@@ -68,6 +68,8 @@ void SuspendServerSaver(bool) {}
 
 }  // namespace
 
+DesktopScreenBlanking::DesktopScreenBlanking() = default;
+
 DesktopScreenBlanking::~DesktopScreenBlanking() {
     if (mHolders > 0) LetGo();
 }
@@ -112,20 +114,20 @@ void DesktopScreenBlanking::Send(const QDBusMessage& Call, Reader Answered) {
 void DesktopScreenBlanking::ServiceAnswered(const QDBusPendingCall& Done) {
     const QDBusPendingReply<quint32> Reply = Done;
     if (Reply.isError()) return Send(PortalCall(mReason), &DesktopScreenBlanking::PortalAnswered);
-    mGoodbye = ServiceCall(QStringLiteral("UnInhibit"));
+    mGoodbye = std::make_unique<QDBusMessage>(ServiceCall(QStringLiteral("UnInhibit")));
     *mGoodbye << Reply.value();
 }
 
 void DesktopScreenBlanking::PortalAnswered(const QDBusPendingCall& Done) {
     const QDBusPendingReply<QDBusObjectPath> Reply = Done;
-    if (!Reply.isError()) mGoodbye = CloseCall(Reply.value());
+    if (!Reply.isError()) mGoodbye = std::make_unique<QDBusMessage>(CloseCall(Reply.value()));
 }
 
 // A request that has not been answered yet is not waited for: the end of the connection ends it.
 void DesktopScreenBlanking::LeaveService() {
     delete mCall;
     if (!mConnected) return;
-    if (const auto Goodbye = std::exchange(mGoodbye, std::nullopt))
+    if (const auto Goodbye = std::exchange(mGoodbye, nullptr))
         QDBusConnection(ConnectionName()).call(*Goodbye, QDBus::Block, MostWait);
     QDBusConnection::disconnectFromBus(ConnectionName());
     mConnected = false;

@@ -3,13 +3,13 @@
 // puts it into Services.
 #pragma once
 
-#include <QDBusMessage>
 #include <QPointer>
-#include <optional>
+#include <memory>
 
 #include "support/Services.h"
 
 QT_BEGIN_NAMESPACE
+class QDBusMessage;
 class QDBusPendingCall;
 class QDBusPendingCallWatcher;
 QT_END_NAMESPACE
@@ -18,7 +18,7 @@ namespace neb {
 
 class DesktopScreenBlanking : public ScreenBlanking {
   public:
-    DesktopScreenBlanking() = default;
+    DesktopScreenBlanking();
     ~DesktopScreenBlanking() override;
     DesktopScreenBlanking(const DesktopScreenBlanking&) = delete;
     DesktopScreenBlanking& operator=(const DesktopScreenBlanking&) = delete;
@@ -40,7 +40,7 @@ class DesktopScreenBlanking : public ScreenBlanking {
     int mHolders = 0;
     bool mConnected = false;
     QString mReason;
-    std::optional<QDBusMessage> mGoodbye;  // takes back what was asked for
+    std::unique_ptr<QDBusMessage> mGoodbye;  // takes back what was asked for
     QPointer<QDBusPendingCallWatcher> mCall;
 };
 

@@ -1,5 +1,6 @@
 // What stands over a running show: its boxes, its menu, preferences. None of them brings the main
 // window up.
+#include <QCursor>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMessageBox>
@@ -58,7 +59,7 @@ TEST_F(OverAShow, ItsMenuAndPreferencesDoToo) {
     Run([&](Projector& Window) {
         WhenUp<QMenu>(&QApplication::activePopupWidget,
                       [&](QMenu& Menu) { ExpectOver(Menu, Window); });
-        Window.ShowPopupMenu();
+        Window.ShowPopupMenu(QCursor::pos());
         EXPECT_EQ(1, Seen);
         WhenPreferencesOpen([&](frmPreferences& Open) { ExpectOver(Open, Window); });
         Window.EditPreferences();
