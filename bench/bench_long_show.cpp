@@ -18,6 +18,7 @@
 #include "db/modAlbumFiles.h"
 #include "harness/SoundFiles.h"
 #include "pictures/ImgX.h"
+#include "settings/SettingKeys.h"
 #include "settings/modNEBSlideShow.h"
 #include "show/EngineSound.h"
 #include "sound/devices/SdlSoundDevices.h"
@@ -117,9 +118,9 @@ std::int32_t MakeShow(clsDBEngine& Engine) {
 
 void MakeSettings() {
     clsSettings Settings = OpenSettings();
-    Settings.PutValue({}, QStringLiteral("Timeout"), QString::number(Timeout));
-    for (const char* Delay : {"DelayL", "DelayM", "DelayH"})
-        Settings.PutValue({}, QLatin1String(Delay), QStringLiteral("100"));
+    PutDecimal(Settings, Setting::Timeout, Timeout);
+    for (const char16_t Level : {u'L', u'M', u'H'})
+        PutNumber(Settings, {Setting::Delay, QChar(Level)}, 100);
     Settings.Save();
 }
 
