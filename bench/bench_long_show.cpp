@@ -2,6 +2,8 @@
 // and mixed for a device that only keeps time. Tells how far its slides have come from their times,
 // and how much more memory it holds at the end than when every transition had been there once.
 //   bench_long_show [MINUTES]   60 unless told
+#include <malloc.h>
+
 #include <QColor>
 #include <QFile>
 #include <QTemporaryDir>
@@ -58,6 +60,7 @@ double DueOf(int Count) {
 
 struct Book {
     int Count = 0;
+    int Told = 0;                          // spans of ten minutes
     double Start = 0, Last = 0, Most = 0;  // seconds
 
     void Note() {
@@ -124,7 +127,17 @@ void MakeSettings() {
     Settings.Save();
 }
 
-void Watch(Form& Window, const Book& Of, double End, double& Before) {
+// On the way, for whoever wonders whether memory has levelled off.
+void TellTenMinutes(Book& Of) {
+    if (Of.Count == 0 || Seconds() - Of.Start < 600 * (Of.Told + 1)) return;
+    const double InUse = static_cast<double>(::mallinfo2().uordblks) / 1048576;
+    std::printf("  after %3d minutes %8.2f MB resident, %.2f MB of the heap in use\n",
+                ++Of.Told * 10, Megabytes(), InUse);
+    std::fflush(stdout);
+}
+
+void Watch(Form& Window, Book& Of, double End, double& Before) {
+    TellTenMinutes(Of);
     if (Before == 0 && Of.Count > Settled) Before = Megabytes();
     if (Seconds() >= End) return void(Window.Unload());
     QTimer::singleShot(100, qApp, [&Window, &Of, End, &Before] { Watch(Window, Of, End, Before); });
