@@ -10,6 +10,7 @@
 #include <QByteArray>
 #include <QString>
 #include <functional>
+#include <map>
 #include <vector>
 
 namespace neb {
@@ -39,7 +40,7 @@ class SongNames {
     QByteArray List() const;
 
   private:
-    std::vector<NamedSong> mSongs;
+    std::map<QString, NamedSong> mSongs;  // by the file, in small letters
 };
 
 QString SongNamesPath(const QString& Album);

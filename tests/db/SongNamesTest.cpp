@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <ctime>
+
 #include "harness/TempFolder.h"
 #include "support/files/modHostFiles.h"
 
@@ -50,6 +52,17 @@ TEST_F(SongList, WithNothingNewNoListIsMade) {
     KeepSongNames(Folder.Path(), {});
     EXPECT_FALSE(FileExists(Folder / u"Songs.txt"_s));
     EXPECT_EQ("", Name("00000001_1.mp3"));
+}
+
+TEST_F(SongList, OfAListThatIsFarTooLongTheBeginningIsSoonRead) {
+    QByteArray List;
+    for (int Line = 0; List.size() < 5 << 20; ++Line)
+        List += QByteArray::number(Line) + ".mp3\t5\tname.mp3\n";
+    WriteFile(Folder / u"Songs.txt"_s, List + "last.mp3\t5\tlast.mp3\n");
+    const std::clock_t Before = std::clock();
+    EXPECT_EQ("name.mp3", Name("100000.MP3"));
+    EXPECT_LT((std::clock() - Before) / CLOCKS_PER_SEC, 10) << "seconds of the processor";
+    EXPECT_EQ("", Name("last.mp3"));
 }
 
 TEST_F(SongList, LinesThatCannotBeUnderstoodArePassedOver) {
