@@ -107,6 +107,19 @@ TEST_F(ManagerSongs, ASongStopsAtAnotherRowAndWithTheWindow) {
     EXPECT_EQ("Released b.wav", Heard());
 }
 
+TEST_F(ManagerSongs, ASongStopsWhereAModalWindowComesUpAsAShowIs) {
+    OpenGarden({1, 2});
+    SetTrack(0, {u"1"_s, u"2"_s, {}, {}, {}, MakeTone(u"a.wav"_s, 0.2)});
+    Tracks().ShowTracks(Tracks().Tracks());
+    ClickCell(Tracks(), 0, TrackList::ColPlay);
+    EXPECT_TRUE(Comes("Run a.wav"));
+    QDialog Over(W);
+    Over.setModal(true);
+    Over.show();
+    EXPECT_TRUE(Comes("Released a.wav"));
+    EXPECT_EQ("Play", Button(0));
+}
+
 TEST_F(ManagerSongs, ASongThatCannotBeHeardIsPlayedNoLonger) {
     OpenGarden({1, 2});
     SetTrack(0, {u"1"_s, u"1"_s, {}, {}, {}, Sounds / u"none.wav"_s});
