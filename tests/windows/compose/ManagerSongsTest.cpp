@@ -241,5 +241,14 @@ TEST_F(ManagerSongs, FitAllNamesASongThatCannotBeMeasured) {
     EXPECT_EQ(Before, TrackCells());
 }
 
+TEST_F(ManagerSongs, FitAllIsRefusedInAManualShowBeforeAnySongIsRead) {
+    OpenGarden({1, 2});
+    SetTrack(0, {{}, {}, {}, {}, {}, Sounds / u"none.wav"_s});
+    Combo("cboProgressionMethod").setCurrentIndex(1);
+    Boxes.Expect(u"You cannot select both Fit To Song and Manual Progression."_s,
+                 u"Invalid Option Combination"_s, BoxIcon::Information, BoxAnswer::Ok);
+    Push("cmdFitAll");
+}
+
 }  // namespace
 }  // namespace neb
