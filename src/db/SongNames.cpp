@@ -64,6 +64,8 @@ QString SongNamesPath(const QString& Album) {
 void KeepSongNames(const QString& Album, const std::vector<NamedSong>& Came) try {
     if (Came.empty()) return;
     SongNames Songs = SongNames::Of(Album);
+    const qint64 There = FileSize(SongNamesPath(Album));
+    if (There > MostBytes || (There > 0 && Songs.IsEmpty())) return;  // somebody else's file
     for (const NamedSong& Each : Came) Songs.Enter(Each);
     Songs.KeepOnly([&](const QString& File) {
         return FileExists(Album + QStringLiteral("SoundTracks/") + File);

@@ -45,7 +45,7 @@ class SongNames {
 
 QString SongNamesPath(const QString& Album);
 // Enters these into the album's list, from which goes what is no longer there. What fails changes
-// nothing: a name is not worth a box.
+// nothing: a name is not worth a box. A file of the list's name that is none stays as it is.
 void KeepSongNames(const QString& Album, const std::vector<NamedSong>& Came);
 
 }  // namespace neb

@@ -65,6 +65,15 @@ TEST_F(SongList, OfAListThatIsFarTooLongTheBeginningIsSoonRead) {
     EXPECT_EQ("", Name("last.mp3"));
 }
 
+TEST_F(SongList, AFileOfThatNameThatIsNoListStaysAsItIs) {
+    for (const QByteArray& Others : {QByteArray("Songs that I like\n"),
+                                     QByteArray("00000001_1.mp3\t5\ta.mp3\n").repeated(200000)}) {
+        WriteFile(Folder / u"Songs.txt"_s, Others);
+        KeepSongNames(Folder.Path(), {{u"00000001_1.mp3"_s, 5, u"b.mp3"_s}});
+        EXPECT_TRUE(Others == ReadFile(Folder / u"Songs.txt"_s));
+    }
+}
+
 TEST_F(SongList, LinesThatCannotBeUnderstoodArePassedOver) {
     const SongNames Read(
         "x\n00000001_1.mp3\tfive\ta.mp3\n\t5\tb.mp3\n00000001_1.mp3\t5\t\n"
