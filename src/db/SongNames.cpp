@@ -1,7 +1,6 @@
 #include "db/SongNames.h"
 
 #include <QStringList>
-#include <algorithm>
 
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
@@ -9,9 +8,7 @@
 namespace neb {
 namespace {
 
-bool SameFile(const QString& One, const QString& Other) {
-    return One.compare(Other, Qt::CaseInsensitive) == 0;
-}
+constexpr qint64 MostBytes = 4 << 20;  // of a list: a longer one is none of the program's
 
 // A name is one line.
 QString OneLine(QString Name) {
@@ -34,30 +31,28 @@ SongNames::SongNames(const QByteArray& List) {
 
 SongNames SongNames::Of(const QString& Album) try {
     const QString Path = SongNamesPath(Album);
-    return FileExists(Path) ? SongNames(ReadFile(Path)) : SongNames();
+    return FileExists(Path) ? SongNames(ReadFileHead(Path, MostBytes)) : SongNames();
 } catch (const Fault&) {
     return {};
 }
 
 QString SongNames::NameOf(const QString& File, qint64 Bytes) const {
-    const auto Its = std::find_if(mSongs.begin(), mSongs.end(), [&](const NamedSong& Each) {
-        return SameFile(Each.File, File) && Each.Bytes == Bytes;
-    });
-    return Its == mSongs.end() ? QString() : Its->Name;
+    const auto Its = mSongs.find(File.toCaseFolded());
+    return Its == mSongs.end() || Its->second.Bytes != Bytes ? QString() : Its->second.Name;
 }
 
 void SongNames::Enter(const NamedSong& Song) {
-    std::erase_if(mSongs, [&](const NamedSong& Each) { return SameFile(Each.File, Song.File); });
-    mSongs.push_back({Song.File, Song.Bytes, OneLine(Song.Name)});
+    mSongs.insert_or_assign(Song.File.toCaseFolded(),
+                            NamedSong{Song.File, Song.Bytes, OneLine(Song.Name)});
 }
 
 void SongNames::KeepOnly(const std::function<bool(const QString& File)>& IsThere) {
-    std::erase_if(mSongs, [&](const NamedSong& Each) { return !IsThere(Each.File); });
+    std::erase_if(mSongs, [&](const auto& Each) { return !IsThere(Each.second.File); });
 }
 
 QByteArray SongNames::List() const {
     QString Text;
-    for (const NamedSong& Each : mSongs)
+    for (const auto& [Key, Each] : mSongs)
         Text += Each.File + u'\t' + QString::number(Each.Bytes) + u'\t' + Each.Name + u'\n';
     return Text.toUtf8();
 }
@@ -69,6 +64,8 @@ QString SongNamesPath(const QString& Album) {
 void KeepSongNames(const QString& Album, const std::vector<NamedSong>& Came) try {
     if (Came.empty()) return;
     SongNames Songs = SongNames::Of(Album);
+    const qint64 There = FileSize(SongNamesPath(Album));
+    if (There > MostBytes || (There > 0 && Songs.IsEmpty())) return;  // somebody else's file
     for (const NamedSong& Each : Came) Songs.Enter(Each);
     Songs.KeepOnly([&](const QString& File) {
         return FileExists(Album + QStringLiteral("SoundTracks/") + File);

@@ -10,6 +10,7 @@
 #include <QByteArray>
 #include <QString>
 #include <functional>
+#include <map>
 #include <vector>
 
 namespace neb {
@@ -39,12 +40,12 @@ class SongNames {
     QByteArray List() const;
 
   private:
-    std::vector<NamedSong> mSongs;
+    std::map<QString, NamedSong> mSongs;  // by the file, in small letters
 };
 
 QString SongNamesPath(const QString& Album);
 // Enters these into the album's list, from which goes what is no longer there. What fails changes
-// nothing: a name is not worth a box.
+// nothing: a name is not worth a box. A file of the list's name that is none stays as it is.
 void KeepSongNames(const QString& Album, const std::vector<NamedSong>& Came);
 
 }  // namespace neb

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <ctime>
+
 #include "harness/TempFolder.h"
 #include "support/files/modHostFiles.h"
 
@@ -50,6 +52,26 @@ TEST_F(SongList, WithNothingNewNoListIsMade) {
     KeepSongNames(Folder.Path(), {});
     EXPECT_FALSE(FileExists(Folder / u"Songs.txt"_s));
     EXPECT_EQ("", Name("00000001_1.mp3"));
+}
+
+TEST_F(SongList, OfAListThatIsFarTooLongTheBeginningIsSoonRead) {
+    QByteArray List;
+    for (int Line = 0; List.size() < 5 << 20; ++Line)
+        List += QByteArray::number(Line) + ".mp3\t5\tname.mp3\n";
+    WriteFile(Folder / u"Songs.txt"_s, List + "last.mp3\t5\tlast.mp3\n");
+    const std::clock_t Before = std::clock();
+    EXPECT_EQ("name.mp3", Name("100000.MP3"));
+    EXPECT_LT((std::clock() - Before) / CLOCKS_PER_SEC, 10) << "seconds of the processor";
+    EXPECT_EQ("", Name("last.mp3"));
+}
+
+TEST_F(SongList, AFileOfThatNameThatIsNoListStaysAsItIs) {
+    for (const QByteArray& Others : {QByteArray("Songs that I like\n"),
+                                     QByteArray("00000001_1.mp3\t5\ta.mp3\n").repeated(200000)}) {
+        WriteFile(Folder / u"Songs.txt"_s, Others);
+        KeepSongNames(Folder.Path(), {{u"00000001_1.mp3"_s, 5, u"b.mp3"_s}});
+        EXPECT_TRUE(Others == ReadFile(Folder / u"Songs.txt"_s));
+    }
 }
 
 TEST_F(SongList, LinesThatCannotBeUnderstoodArePassedOver) {

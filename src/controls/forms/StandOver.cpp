@@ -29,6 +29,11 @@ void StandOver(QWidget& Window, const QWidget* Below) {
     if (Under != Window.windowHandle()) Window.windowHandle()->setTransientParent(Under);
 }
 
+bool IsOutOfReach(const QWidget& Control) {
+    const QWidget* Modal = QApplication::activeModalWidget();
+    return Modal && Modal != &Control && !Modal->isAncestorOf(&Control);
+}
+
 // Under X the keyboard comes back some moments later. A progress window that comes and goes in
 // between gets in its way: then no window has it, and the keys of the menus are dead.
 void AwaitFocus() {

@@ -11,6 +11,8 @@ namespace neb {
 QWidget* WindowInUse();
 // Puts a window that is not on the screen yet over another; nothing for a null one and for itself.
 void StandOver(QWidget& Window, const QWidget* Below);
+// Whether a modal window stands over a control, so that the user does not come at it.
+bool IsOutOfReach(const QWidget& Control);
 // Behind the end of such a window: lets the desktop hand the keyboard back to the one below, a
 // quarter of a second at most.
 void AwaitFocus();

@@ -1,7 +1,7 @@
 // Runs a show without a screen and without waiting: the projector's own run of a show, on a clock
 // that jumps from tick to tick and on sound devices that are silent. Writes down what came up when.
-// Used by nebctl rehearse, the
-// window of the rehearsal and tests of whole shows. Nothing on the disk is changed.
+// Used by nebctl rehearse, the window of the rehearsal and tests of whole shows. Nothing on the
+// disk is changed.
 #pragma once
 
 #include <array>

@@ -1,5 +1,6 @@
 #include "windows/compose/TrackPlayer.h"
 
+#include "controls/forms/StandOver.h"
 #include "sound/decoding/SoundDecoder.h"
 #include "support/Fault.h"
 
@@ -19,7 +20,7 @@ QString WhyNot(const QString& Path) {
 
 }  // namespace
 
-TrackPlayer::TrackPlayer(QObject* Owner) : QObject(Owner) {
+TrackPlayer::TrackPlayer(QWidget* Owner) : QObject(Owner), mOwner(*Owner) {
     mLook.setInterval(LookMs);
     connect(&mLook, &QTimer::timeout, this, &TrackPlayer::Look);
 }
@@ -43,8 +44,12 @@ void TrackPlayer::Stop() {
     Q_EMIT Changed();
 }
 
+// A song goes silent when a show begins or the microphone is opened: its button cannot be
+// pressed then.
 void TrackPlayer::Look() {
-    if (mOpening) {
+    if (IsOutOfReach(mOwner)) {
+        Stop();
+    } else if (mOpening) {
         if (mOpening->Wait(0)) Begin();
     } else if (mSound.CurrentPosition() >= mSound.Duration()) {
         Stop();

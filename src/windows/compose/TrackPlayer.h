@@ -1,8 +1,9 @@
 // Lets a sound track be heard in the slide show manager: one at a time, without holding the window
-// up. Used by TrackList.
+// up. It stops where a modal window stands over its list. Used by TrackList.
 #pragma once
 
 #include <QTimer>
+#include <QWidget>
 
 #include "sound/clsDirectSound.h"
 #include "support/work/Job.h"
@@ -13,7 +14,7 @@ class TrackPlayer : public QObject {
     Q_OBJECT
 
   public:
-    explicit TrackPlayer(QObject* Owner);
+    explicit TrackPlayer(QWidget* Owner);
 
     // What it plays, or is about to; empty for nothing.
     const QString& Playing() const { return mPath; }
@@ -28,6 +29,7 @@ class TrackPlayer : public QObject {
     void Look();
     void Begin();
 
+    QWidget& mOwner;
     clsDirectSound mSound;
     QString mPath;
     // Why the file cannot be opened, or nothing: until it has been looked at.

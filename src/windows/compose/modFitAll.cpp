@@ -59,6 +59,9 @@ bool WaitFor(const Job<Lengths>& Work) {
 }  // namespace
 
 Answer<std::vector<ShowTrack>> FitAllAside(const ShowContent& Show, const QStringList& Paths) {
+    // what no length can change is told at once
+    const std::vector<double> Alike(Show.Tracks.size(), 1);
+    if (Answer<std::vector<ShowTrack>> Fits = FitAllTracks(Show, Alike); !Fits) return Fits;
     const PointerScope Working(Pointer::Hourglass);
     Job<Lengths> Work([Paths](JobState& State) { return MeasureAll(Paths, State); });
     if (!WaitFor(Work))

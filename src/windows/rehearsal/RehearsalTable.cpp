@@ -40,10 +40,7 @@ TableToPrint TableOf(const RehearsalSheet& Sheet) {
     Table.Intro << Sheet.Summary() + u'.';
     for (const CueColumnLook& Each : Looks)
         Table.Columns.push_back({QLatin1String(Each.Heading), Each.Share, Each.Right});
-    for (const RehearsalRow& Each : Sheet.Rows) {
-        QStringList Cells = CueTextsOf(Each);
-        Table.Rows.push_back(Cells);
-    }
+    for (const RehearsalRow& Each : Sheet.Rows) Table.Rows.push_back(CueTextsOf(Each));
     Table.Tail = LinesOf(QStringLiteral("Problems"), Sheet.Findings.Problems) +
                  LinesOf(QStringLiteral("Notes"), Sheet.Findings.Notes);
     return Table;

@@ -49,6 +49,12 @@ void SlidePictures::Ask(const QStringList& Paths) {
     mLook.start();
 }
 
+void SlidePictures::Forget() {
+    mLook.stop();
+    mJob.reset();
+    mPictures.clear();
+}
+
 void SlidePictures::Look() {
     if (!mJob->Wait(0)) return;
     mLook.stop();

@@ -22,6 +22,8 @@ class SlidePictures : public QObject {
     // Those that are seen now. While earlier ones are read nothing begins: Read comes, and whoever
     // paints asks again.
     void Ask(const QStringList& Paths);
+    // Reads all anew: slides are turned and exchanged.
+    void Forget();
     // Null where it is not there yet, and for one that cannot be read.
     QImage Of(const QString& Path) const { return mPictures.value(Path); }
 

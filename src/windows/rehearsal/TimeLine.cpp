@@ -46,6 +46,7 @@ TimeLine::Lanes TimeLine::LanesNow() const {
 
 void TimeLine::ShowSheet(std::shared_ptr<const RehearsalSheet> Sheet) {
     mSheet = std::move(Sheet);
+    mPictures->Forget();
     mCurrent = Rows() > 0 ? 0 : -1;
     horizontalScrollBar()->setValue(0);
     FitBars();

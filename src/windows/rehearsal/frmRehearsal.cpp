@@ -15,6 +15,7 @@
 #include "windows/frame/modWindowState.h"
 #include "windows/printing/modPrinting.h"
 #include "windows/rehearsal/RehearsalTable.h"
+#include "windows/show/ShowScreen.h"
 
 namespace neb {
 namespace {
@@ -110,6 +111,10 @@ void frmRehearsal::CloseRequested() {
 void frmRehearsal::RehearseShow(std::int32_t AlbumID, std::int32_t SlideShowID) {
     const auto Held = shared_from_this();
     mOf = {AlbumID, SlideShowID};
+    if (!IsThere()) {
+        MsgBox(QStringLiteral("Slide Show not found."));
+        return;
+    }
     if (TheOpeners().ShowAsChild)
         TheOpeners().ShowAsChild(*this);
     else
@@ -117,17 +122,21 @@ void frmRehearsal::RehearseShow(std::int32_t AlbumID, std::int32_t SlideShowID) 
     if (IsLoaded()) Rehearse();
 }
 
+bool frmRehearsal::IsThere() const {
+    const clsNEBAlbum* Album = DBEngine->GetAlbum(mOf.AlbumID);
+    return Album && Album->GetSlideShow(mOf.SlideShowID);
+}
+
 void frmRehearsal::Rehearse() {
     const std::shared_ptr<clsDBEngine> Copy =
         CopyForRehearsal(*DBEngine, mOf.AlbumID, mOf.SlideShowID);
-    if (!Copy) {
-        MsgBox(QStringLiteral("Slide Show not found."));
-        return;
-    }
+    if (!Copy) return Close();
     const clsNEBSlideShow& Show = *Copy->Albums.front()->SlideShows.front();
     setWindowTitle(tr("Rehearsal - %1").arg(Show.SlideShowName));
     mUi->pgbRun->setMaximum(std::max(1, static_cast<int>(Show.Details.size())));
-    const QSize Screen = screen()->size() * screen()->devicePixelRatio();
+    const QScreen* Shows = ShowScreen();  // its captions have another room than this window's
+    if (!Shows) Shows = screen();
+    const QSize Screen = Shows->size() * Shows->devicePixelRatio();
     mJob = std::make_unique<Job<RehearsalSheet>>(
         [Copy, Screen](JobState& Its) { return Rehearsed(Copy, Screen, Its); });
     ShowRunning(true);
@@ -163,13 +172,15 @@ void frmRehearsal::ShowRunning(bool Runs) {
     mUi->cmdPrint->setEnabled(!Runs && mSheet && !mSheet->Rows.empty());
 }
 
+// Whoever goes through the problems one by one is not thrown back by what he mends.
 void frmRehearsal::ShowSheet() {
+    const int Stood = mUi->flxCues->Row(), Last = static_cast<int>(mSheet->Rows.size()) - 1;
     mUi->lblSummary->setText(mSheet->Summary() + u'.');
     FillCues();
     FillFindings();
     mUi->tlnShow->ShowSheet(mSheet);
-    mUi->cmdPrint->setEnabled(!mSheet->Rows.empty());
-    if (!mSheet->Rows.empty()) mUi->flxCues->SetRow(0);
+    mUi->cmdPrint->setEnabled(Last >= 0);
+    StandOn(std::min(std::max(Stood, 0), Last));
 }
 
 void frmRehearsal::FillCues() {
@@ -232,8 +243,7 @@ void frmRehearsal::Print() {
 void frmRehearsal::ReceiveEvent(const QString&, const QString&, const EventKeys& EventData) {
     if (EventData.empty() || EventData[0] != mOf.AlbumID) return;
     const auto Held = shared_from_this();
-    const clsNEBAlbum* Album = DBEngine->GetAlbum(mOf.AlbumID);
-    if (Album && Album->GetSlideShow(mOf.SlideShowID))
+    if (IsThere())
         Rehearse();
     else
         Unload();

@@ -37,6 +37,7 @@ class frmRehearsal : public Form, public ChangeReceiver {
   private:
     void SetUpGrids();
     void LoadIcons();
+    bool IsThere() const;
     void Rehearse();
     void Look();
     void Stop();

@@ -3,6 +3,7 @@
 #include <QPushButton>
 
 #include "controls/fields/Icons.h"
+#include "controls/forms/StandOver.h"
 #include "sound/clsDirectSound.h"
 #include "sound/decoding/SoundDecoder.h"
 #include "support/files/modHostFiles.h"
@@ -44,9 +45,11 @@ void ClipPlayer::Stop() {
     ShowButton();
 }
 
-// A sound that has come to its end stands there.
+// A sound that has come to its end stands there. One goes silent when a show begins: its button
+// cannot be pressed then.
 void ClipPlayer::Tick() {
-    if (mPlaying->CurrentPosition() >= mPlaying->Duration()) Stop();
+    const bool IsOver = mPlaying->CurrentPosition() >= mPlaying->Duration();
+    if (IsOver || IsOutOfReach(mButton)) Stop();
 }
 
 // The menu of the main window and the other buttons leave no letter of these words.

@@ -107,6 +107,19 @@ TEST_F(ManagerSongs, ASongStopsAtAnotherRowAndWithTheWindow) {
     EXPECT_EQ("Released b.wav", Heard());
 }
 
+TEST_F(ManagerSongs, ASongStopsWhereAModalWindowComesUpAsAShowIs) {
+    OpenGarden({1, 2});
+    SetTrack(0, {u"1"_s, u"2"_s, {}, {}, {}, MakeTone(u"a.wav"_s, 0.2)});
+    Tracks().ShowTracks(Tracks().Tracks());
+    ClickCell(Tracks(), 0, TrackList::ColPlay);
+    EXPECT_TRUE(Comes("Run a.wav"));
+    QDialog Over(W);
+    Over.setModal(true);
+    Over.show();
+    EXPECT_TRUE(Comes("Released a.wav"));
+    EXPECT_EQ("Play", Button(0));
+}
+
 TEST_F(ManagerSongs, ASongThatCannotBeHeardIsPlayedNoLonger) {
     OpenGarden({1, 2});
     SetTrack(0, {u"1"_s, u"1"_s, {}, {}, {}, Sounds / u"none.wav"_s});
@@ -226,6 +239,15 @@ TEST_F(ManagerSongs, FitAllNamesASongThatCannotBeMeasured) {
                  BoxAnswer::Ok);
     Push("cmdFitAll");
     EXPECT_EQ(Before, TrackCells());
+}
+
+TEST_F(ManagerSongs, FitAllIsRefusedInAManualShowBeforeAnySongIsRead) {
+    OpenGarden({1, 2});
+    SetTrack(0, {{}, {}, {}, {}, {}, Sounds / u"none.wav"_s});
+    Combo("cboProgressionMethod").setCurrentIndex(1);
+    Boxes.Expect(u"You cannot select both Fit To Song and Manual Progression."_s,
+                 u"Invalid Option Combination"_s, BoxIcon::Information, BoxAnswer::Ok);
+    Push("cmdFitAll");
 }
 
 }  // namespace

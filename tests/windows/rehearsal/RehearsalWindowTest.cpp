@@ -146,6 +146,38 @@ TEST_F(RehearsalWindow, FollowsWhatIsDoneToItsShow) {
     EXPECT_FALSE(R->IsLoaded());
 }
 
+TEST_F(RehearsalWindow, StaysOnItsSlideWhenItIsRehearsedAnew) {
+    Rehearse();
+    ClickCell(Cues(), 2, CueCaption);
+    Show(ShowID).SaveDetail(2, 4, {});
+    Tell(u"Slide Show"_s, u"Update"_s, {AlbumID, ShowID});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Cues().Rows() == 4; }, 10000));
+    EXPECT_EQ(2, Cues().Row());
+    EXPECT_EQ(2, Line().Current());
+}
+
+TEST_F(RehearsalWindow, ShowsASlideAsItIsNow) {
+    Rehearse();
+    const auto HasHue = [&](int Hue) {
+        const QImage Seen = Line().viewport()->grab().toImage();
+        const int Its = Seen.pixelColor(Line().PlaceOf(1).center()).hue();
+        return std::abs(Its - Hue) < 10;
+    };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return HasHue(0); }, 10000));
+    StorePicture(1, Qt::blue);
+    Tell(u"Album"_s, u"Add Slides"_s, {AlbumID, 1});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return HasHue(240); }, 10000));
+}
+
+TEST_F(RehearsalWindow, OfAShowThatIsGoneNoneOpens) {
+    MakeWalk();
+    Boxes.Expect(u"Slide Show not found."_s, {}, BoxAnswer::Ok);
+    R = NewForm<frmRehearsal>();
+    R->RehearseShow(AlbumID, ShowID + 1);
+    EXPECT_FALSE(R->IsLoaded());
+    EXPECT_EQ(1, Boxes.ShownCount());
+}
+
 TEST_F(RehearsalWindow, ALongOneNeverHoldsTheWindowUpAndIsStopped) {
     AddAlbumSlides({u"a"_s});
     ShowID = AddShow(u"Walk"_s, {1});

@@ -9,6 +9,8 @@
 
 #include "PreferencesRig.h"
 #include "harness/ChildRole.h"
+#include "show/captions/CaptionFit.h"
+#include "windows/rehearsal/frmRehearsal.h"
 
 namespace neb::test {
 namespace {
@@ -28,6 +30,7 @@ class TwoScreens : public PreferencesRig {
         Put("ShowScreen", "beamer");
         Run([this](Projector& Showing) { GoAndCome(Showing); });
         Choose();
+        Rehearse();
         TheScreens().Screens = &QGuiApplication::screens;
     }
 
@@ -73,6 +76,27 @@ class TwoScreens : public PreferencesRig {
         std::cout << Setting("ShowScreen").toStdString() << std::endl;
     }
 
+    // A caption that takes one line on the wide screen and two on the other one.
+    void Rehearse() {
+        QString Text = QStringLiteral("boats");
+        const auto Lines = [&Text] { return StandardCaption(Text, {1024, 768, 256}).Lines; };
+        while (Lines() < 2) Text += QStringLiteral(" boats");
+        Detail(1).SlideText = Text;
+        for (const char* Screen : {"", "beamer"}) {
+            Put("ShowScreen", QString::fromLatin1(Screen));
+            const auto Rehearsed = NewForm<frmRehearsal>();
+            Rehearsed->RehearseShow(Album, Show);
+            const auto* Cancel = Rehearsed->findChild<QPushButton*>(QStringLiteral("cmdCancel"));
+            QTest::qWaitFor([&] { return !Cancel->isEnabled(); }, 10000);
+            const auto* Found = Rehearsed->findChild<FlexGrid*>(QStringLiteral("flxFindings"));
+            std::cout << "rehearsed for " << (*Screen ? Screen : "own") << ": "
+                      << (Found->Rows() > 0 ? Found->TextMatrix(0, 2).left(28).toStdString()
+                                            : "well")
+                      << std::endl;
+            Rehearsed->Unload();
+        }
+    }
+
     QMainWindow Main;
 };
 
@@ -114,7 +138,9 @@ TEST(ShowOnScreens, IsWhereItWasChosenFollowsAScreenThatGoesAndComesBackWithIt) 
         "beamer (1920 x 1080)\n"
         "desk (1024 x 768)\n"
         "gone, Old Beamer (not connected)*\n"
-        "gone|Old Beamer\n",
+        "gone|Old Beamer\n"
+        "rehearsed for own: slide 1: the caption takes 2\n"
+        "rehearsed for beamer: well\n",
         Copy.readAllStandardOutput().toStdString());
 }
 

@@ -111,6 +111,17 @@ TEST_F(SlideDBMHear, AtItsEndTheButtonComesBack) {
     EXPECT_EQ(nullptr, Sound.Heard) << "the loudspeakers are let go of";
 }
 
+TEST_F(SlideDBMHear, ItStopsWhereAModalWindowComesUpAsAShowIs) {
+    OpenSlide(AddHeard(u"a"_s));
+    Push("cmdPlaySound");
+    EXPECT_TRUE(Hears(Wave()));
+    QDialog Over(W);
+    Over.setModal(true);
+    Over.show();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Sound.Heard == nullptr; }));
+    EXPECT_EQ("Play", PlayText());
+}
+
 TEST_F(SlideDBMHear, ItStopsWhenTheSlideChangesAndWhenTheWindowCloses) {
     const auto One = AddHeard(u"a"_s), Two = AddHeard(u"b"_s, 0.2);
     OpenSlide(One);
