@@ -165,9 +165,8 @@ void ShowHands::Goto(std::int32_t SlideSeq) {
 
 // Whoever says "go on" to a black screen or a card gets a show that runs.
 void ShowHands::PlayPause() {
-    const bool HadCard = CloseCard();
+    const bool HadCard = CloseCard(), WasBlack = LiftBlack();
     if (mRun.IsManual()) return;
-    const bool WasBlack = LiftBlack();
     if (!(HadCard || WasBlack) || !IsRunning()) mRun.PlayPause();
 }
 

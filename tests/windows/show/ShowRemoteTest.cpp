@@ -107,6 +107,10 @@ TEST_F(ShowRemoteOf, LeavesAManualShowToItsSteps) {
         EXPECT_EQ("Pause/Stop", Words(Window));
         Key(MediaCommand::Next);
         EXPECT_EQ("Slide 2", Caption());
+        QTest::keyClick(&Window, Qt::Key_B);
+        EXPECT_EQ(Paused, Now().Is);
+        Key(MediaCommand::Play);
+        EXPECT_EQ("Pause/Stop", Words(Window)) << "behind a black screen it has stood still";
     });
 }
 
