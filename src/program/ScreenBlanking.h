@@ -24,7 +24,7 @@ class DesktopScreenBlanking : public ScreenBlanking {
     DesktopScreenBlanking& operator=(const DesktopScreenBlanking&) = delete;
 
     // Neither fails: a session without such a service simply blanks when it likes. Inhibit does
-    // not wait for an answer, Release at most 200 ms.
+    // not wait for an answer, Release at most 50 ms.
     void Inhibit(const QString& Reason) override;
     void Release() override;
 

@@ -138,10 +138,11 @@ void ShowRun::StopMe() {
 }
 
 void ShowRun::ReStartMe() {
-    if (std::exchange(mResumeAfterRestart, false)) PlayPause();
+    if (std::exchange(mResumeAfterRestart, false) && IsPaused(mState)) PlayPause();
 }
 
-// A slide whose time comes from its track keeps that time.
+// A slide whose time comes from its track keeps that time; and a show that has been set going or
+// stopped in the meantime stays as it is.
 void ShowRun::EditPreferences(const std::function<void()>& Edit) {
     const bool Running = mTimer1On;
     if (Running) PlayPause();
@@ -150,7 +151,7 @@ void ShowRun::EditPreferences(const std::function<void()>& Edit) {
     if (Before == mSoundFields.SlideInterval)
         mSoundFields.SlideInterval = mWorld.Place.SlideTimeout;
     ReloadEffectSettings();
-    if (Running) PlayPause();
+    if (Running && IsPaused(mState)) PlayPause();
 }
 
 void ShowRun::NextSlide() {

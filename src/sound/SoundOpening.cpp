@@ -1,5 +1,8 @@
 #include "sound/SoundOpening.h"
 
+#include <mutex>
+#include <set>
+
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
 
@@ -8,11 +11,36 @@ namespace {
 
 using Graph = std::unique_ptr<SoundGraph>;
 
-std::atomic<int> Underway = 0;
+// The paths of those that are under way, as often as they are. Never goes: a thread that is stuck
+// may come back while the program ends.
+class Underway {
+  public:
+    static Underway& All() {
+        static auto& Instance = *new Underway;
+        return Instance;
+    }
+    // False where it has to wait for its turn.
+    bool Enter(const QString& Path) {
+        const std::lock_guard Lock(mMutex);
+        const bool IsFull = std::ssize(mPaths) >= SoundOpening::Most ||
+                            static_cast<int>(mPaths.count(Path)) >= SoundOpening::MostOfOne;
+        if (!IsFull) mPaths.insert(Path);
+        return !IsFull;
+    }
+    void Leave(const QString& Path) {
+        const std::lock_guard Lock(mMutex);
+        mPaths.erase(mPaths.find(Path));
+    }
 
-// One of those that are under way, until it has ended.
+  private:
+    std::mutex mMutex;
+    std::multiset<QString> mPaths;
+};
+
+// One of them, until it has ended.
 struct Place {
-    ~Place() { --Underway; }
+    ~Place() { Underway::All().Leave(Path); }
+    const QString& Path;
 };
 
 Graph NewGraph(SoundDevices* Devices) {
@@ -37,7 +65,7 @@ using Work = std::function<OpenedSound(JobState&)>;
 
 Work Aside(Graph Player, const QString& Path) {
     return [Its = std::make_shared<Graph>(std::move(Player)), Path](JobState&) {
-        const Place Held;
+        const Place Held{Path};
         return Open(std::move(*Its), Path);
     };
 }
@@ -55,10 +83,7 @@ bool SoundOpening::IsAside() const {
 
 // Players are made on the thread of whoever asks; only their files are opened elsewhere.
 void SoundOpening::Begin() {
-    if (++Underway > Most) {
-        --Underway;
-        return;
-    }
+    if (!Underway::All().Enter(mPath)) return;
     mJob = std::make_unique<Job<OpenedSound>>(Aside(NewGraph(mDevices), mPath));
 }
 

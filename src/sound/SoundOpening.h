@@ -22,11 +22,12 @@ class SoundOpening {
     SoundOpening& operator=(const SoundOpening&) = delete;
 
     // Whether it has come, after at most so many milliseconds. While as many as Most are stuck in
-    // folders that do not answer no other is begun, and this one waits for its turn.
+    // folders that do not answer, or MostOfOne in this very file, no other is begun, and this one
+    // waits for its turn: a show that comes round to a song that has gone must not lose the others.
     bool Wait(int Milliseconds);
     OpenedSound Take();  // once; waits for it
 
-    static constexpr int Most = 8;
+    static constexpr int Most = 32, MostOfOne = 2;
 
   private:
     bool IsAside() const;

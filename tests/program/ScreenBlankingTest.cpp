@@ -9,6 +9,7 @@
 #include <QTest>
 
 #include "MessageBus.h"
+#include "harness/Heartbeat.h"
 
 namespace neb::test {
 
@@ -164,6 +165,18 @@ TEST_F(ScreenBlankingOnABus, IsReleasedWithItsObject) {
         QTest::qWait(50);
     }
     EXPECT_EQ("Inhibit show|UnInhibit 42", Bus->CallsAfter(2));
+}
+
+// It lives on this very thread, and answers nobody who waits for it here.
+TEST_F(ScreenBlankingOnABus, IsReleasedAtOnceThoughTheServiceHangs) {
+    DesktopScreenBlanking Blanking;
+    Blanking.Inhibit(QStringLiteral("show"));
+    Bus->CallsAfter(1);
+    QTest::qWait(50);  // the answer has come, too
+    harness::Heartbeat Pulse({}, 0);
+    Blanking.Release();
+    EXPECT_LT(Pulse.LongestStandstill(), 100);
+    EXPECT_EQ("Inhibit show|UnInhibit 42", Bus->CallsAfter(2)) << "it hears of it all the same";
 }
 
 TEST_F(ScreenBlankingOnABus, IsAskedOfThePortalWhereThereIsNoService) {

@@ -2,12 +2,12 @@
 // where it would be when it has come.
 #include <gtest/gtest.h>
 
-#include <QElapsedTimer>
 #include <thread>
 
 #include "db/clsDBEngine.h"
 #include "db/clsNEBSlideShow.h"
 #include "db/modAlbumFiles.h"
+#include "harness/Heartbeat.h"
 #include "harness/StalledSound.h"
 #include "harness/TempFolder.h"
 #include "show/EngineSound.h"
@@ -44,10 +44,9 @@ class LateSound : public ::testing::Test {
     void Step(std::int32_t Seq, const QString& Clip = {}) {
         Fields.FitToSong = Fields.FadeOnLast = Fields.TrackEndsHere = false;
         Fields.SlideInterval = 12;
-        QElapsedTimer Took;
-        Took.start();
+        harness::Heartbeat Pulse({}, 0);
         Sound->SoundStep({7, &Show, Seq, Clip, false, false}, StepCause::Timer, Fields);
-        EXPECT_LT(Took.elapsed(), 100);
+        EXPECT_LT(Pulse.LongestStandstill(), 100);
     }
     // The slide has been up for so long; what the sound was told.
     std::string At(double Elapsed) {
@@ -160,11 +159,10 @@ TEST_F(LateSound, AStopForgetsItAndAnEndWaitsForNothing) {
     EXPECT_EQ("", At(3));
     Devices.Gate->Open = false;
     Step(2);
-    QElapsedTimer Took;
-    Took.start();
+    harness::Heartbeat Pulse({}, 0);
     Sound->Release();
     Sound.reset();
-    EXPECT_LT(Took.elapsed(), 100);
+    EXPECT_LT(Pulse.LongestStandstill(), 100);
 }
 
 TEST_F(LateSound, WhatIsFoundToBeMissingIsToldThen) {

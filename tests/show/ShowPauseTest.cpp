@@ -106,5 +106,18 @@ TEST_F(ShowPause, PreferencesAndOtherWindowsLeaveAPausedShowPaused) {
     EXPECT_EQ("1@0 2@45", Places(Of));
 }
 
+// By a media key, say, while a box of preferences is up.
+TEST_F(ShowPause, AShowThatGoesOnOrStopsDuringPreferencesStaysSo) {
+    AddSlides(3);
+    Rehearsal Of(Engine, Album, Show, Options());
+    Of.Start();
+    Of.Run().EditPreferences([&] { Of.Run().PlayPause(); });
+    EXPECT_EQ(u"Pause"_s, Of.Run().State().PlayCommand);
+    Of.Run().NextSlide();
+    Of.Run().EditPreferences([&] { Of.Run().StopRestart(); });
+    EXPECT_EQ(u"Play"_s, Of.Run().State().PlayCommand);
+    EXPECT_EQ(2, Of.Run().Memory().CurrentSlideSeq);
+}
+
 }  // namespace
 }  // namespace neb::test

@@ -15,8 +15,9 @@ namespace {
 using Time = std::chrono::steady_clock::time_point;
 
 constexpr int MostAtWork = 3;
-constexpr auto Hangs = std::chrono::seconds(1);  // no picture of a disk takes so long to begin with
-constexpr size_t MostThreads = 64;               // a whole show on a medium that has gone
+constexpr auto HangsAfter =
+    std::chrono::seconds(1);         // no picture of a disk takes so long to begin with
+constexpr size_t MostThreads = 256;  // a whole show on a medium that has gone
 
 // All threads of the program.
 struct Census {
@@ -40,26 +41,42 @@ void Count(int Change) {
 }  // namespace
 
 struct ReadThreads::Room {
-    std::mutex Mutex;
-    std::array<std::function<void()>, 2> Waiting;  // by kind
-    std::list<Time> Began;                         // of what is under way
+    struct Task {
+        QString File;
+        std::function<void()> Work;
+        Time Began;
 
-    std::function<void()> TakeNext();
+        bool Hangs() const { return std::chrono::steady_clock::now() - Began >= HangsAfter; }
+    };
+    std::mutex Mutex;
+    std::array<Task, 2> Waiting;  // by kind
+    std::list<Task> UnderWay;     // without their works
+
+    std::function<void()> TakeNext(Task& Place);
+    bool HangsIn(const QString& File) const;
     bool HasPlace() const;
 };
 
-// The caller has locked the room, as for HasPlace.
-std::function<void()> ReadThreads::Room::TakeNext() {
-    for (auto& Work : Waiting)
-        if (Work) return std::exchange(Work, nullptr);
+bool ReadThreads::Room::HangsIn(const QString& File) const {
+    return std::any_of(UnderWay.begin(), UnderWay.end(),
+                       [&](const Task& Each) { return Each.File == File && Each.Hangs(); });
+}
+
+// The caller has locked the room, as for the others. What is taken is under way at Place.
+std::function<void()> ReadThreads::Room::TakeNext(Task& Place) {
+    Place = {{}, {}, std::chrono::steady_clock::now()};
+    for (Task& Each : Waiting) {
+        if (!Each.Work || HangsIn(Each.File)) continue;
+        Place.File = Each.File;
+        return std::exchange(Each.Work, nullptr);
+    }
     return {};
 }
 
 bool ReadThreads::Room::HasPlace() const {
-    const Time Since = std::chrono::steady_clock::now() - Hangs;
-    const auto AtWork =
-        std::count_if(Began.begin(), Began.end(), [&](Time T) { return T > Since; });
-    return AtWork < MostAtWork && Began.size() < MostThreads;
+    const auto AtWork = std::count_if(UnderWay.begin(), UnderWay.end(),
+                                      [](const Task& Each) { return !Each.Hangs(); });
+    return AtWork < MostAtWork && UnderWay.size() < MostThreads;
 }
 
 ReadThreads::ReadThreads() : mRoom(std::make_shared<Room>()) {}
@@ -69,34 +86,36 @@ ReadThreads::~ReadThreads() {
     Withdraw(Kind::Ahead);
 }
 
-void ReadThreads::Put(Kind Of, std::function<void()> Work) {
+void ReadThreads::Put(Kind Of, const QString& File, std::function<void()> Work) {
     {
         const std::lock_guard Lock(mRoom->Mutex);
-        mRoom->Waiting[static_cast<size_t>(Of)] = std::move(Work);
+        mRoom->Waiting[static_cast<size_t>(Of)] = {File, std::move(Work), {}};
     }
     GoOn();
 }
 
 bool ReadThreads::Withdraw(Kind Of) {
     const std::lock_guard Lock(mRoom->Mutex);
-    return std::exchange(mRoom->Waiting[static_cast<size_t>(Of)], nullptr) != nullptr;
+    return std::exchange(mRoom->Waiting[static_cast<size_t>(Of)].Work, nullptr) != nullptr;
 }
 
 void ReadThreads::GoOn() {
     const std::lock_guard Lock(mRoom->Mutex);
     while (mRoom->HasPlace()) {
-        auto Work = mRoom->TakeNext();
-        if (!Work) return;
-        const auto Mine = mRoom->Began.insert(mRoom->Began.end(), std::chrono::steady_clock::now());
+        const auto Mine = mRoom->UnderWay.emplace(mRoom->UnderWay.end());
+        auto Work = mRoom->TakeNext(*Mine);
+        if (!Work) {
+            mRoom->UnderWay.erase(Mine);
+            return;
+        }
         Count(1);
         std::thread([Mine, Room = mRoom, Todo = std::move(Work)]() mutable {
             while (Todo) {
                 Todo();
                 Todo = nullptr;  // what it owned goes before anybody is told that it is done
                 const std::lock_guard Inside(Room->Mutex);
-                *Mine = std::chrono::steady_clock::now();
-                Todo = Room->TakeNext();
-                if (!Todo) Room->Began.erase(Mine);
+                Todo = Room->TakeNext(*Mine);
+                if (!Todo) Room->UnderWay.erase(Mine);
             }
             Count(-1);
         }).detach();

@@ -3,6 +3,7 @@
 // slides are changed, only few pictures are read, and held, at a time. Used by XShowLoader alone.
 #pragma once
 
+#include <QString>
 #include <functional>
 #include <memory>
 
@@ -15,9 +16,10 @@ class ReadThreads {
     ReadThreads();
     ~ReadThreads();  // drops what has not begun, and leaves the rest to itself
 
-    // Begins Work as soon as a thread is free. It takes the place of one of its kind that has not
-    // begun. What Work uses it must own.
-    void Put(Kind Of, std::function<void()> Work);
+    // Begins Work on a file as soon as a thread is free, and nothing hangs in the same file: a show
+    // that comes round to it again and again must not use up its threads there. It takes the place
+    // of one of its kind that has not begun. What Work uses it must own.
+    void Put(Kind Of, const QString& File, std::function<void()> Work);
     // Drops what has not begun; whether there was such a work.
     bool Withdraw(Kind Of);
     // Begins what waits behind threads that have come to hang in the meantime.

@@ -77,7 +77,7 @@ XShowLoader::Result XShowLoader::Put(ReadThreads::Kind Of, const QString& File,
     };
     const auto Task = std::make_shared<std::packaged_task<Shared()>>(Work);
     Result Coming = Task->get_future().share();
-    mThreads.Put(Of, [Task] { (*Task)(); });
+    mThreads.Put(Of, File, [Task] { (*Task)(); });
     return Coming;
 }
 

@@ -34,6 +34,7 @@ struct ShowHands::Row {
     void (ShowHands::*Do)();
     void (ShowRun::*Run)();
     bool LeavesBlack;  // the screen stays black while this is done
+    bool LeavesCard = false;
 };
 
 const ShowHands::Row ShowHands::Rows[] = {
@@ -41,7 +42,7 @@ const ShowHands::Row ShowHands::Rows[] = {
     {ShowCommand::Previous, nullptr, &ShowRun::PreviousSlide, false},
     {ShowCommand::First, nullptr, &ShowRun::GotoStart, false},
     {ShowCommand::Last, nullptr, &ShowRun::GotoEnd, false},
-    {ShowCommand::PlayPause, &ShowHands::PlayPause, nullptr, true},
+    {ShowCommand::PlayPause, &ShowHands::PlayPause, nullptr, true, true},
     {ShowCommand::Pause, &ShowHands::Pause, nullptr, true},
     {ShowCommand::StopRestart, nullptr, &ShowRun::StopRestart, false},
     {ShowCommand::Stop, &ShowHands::Stop, nullptr, false},
@@ -50,7 +51,7 @@ const ShowHands::Row ShowHands::Rows[] = {
     {ShowCommand::Captions, &ShowHands::CaptionsAsked, nullptr, true},
     {ShowCommand::Card, &ShowHands::OpenCard, nullptr, true},
     {ShowCommand::Menu, &ShowHands::OpenMenu, nullptr, true},
-    {ShowCommand::Click, &ShowHands::Click, nullptr, true},
+    {ShowCommand::Click, &ShowHands::Click, nullptr, true, true},
     {ShowCommand::Leave, &ShowHands::LeaveAsked, nullptr, true},
 };
 
@@ -68,6 +69,7 @@ ShowHands::ShowHands(QWidget& Window, ShowRun& Run, const clsDBEngine* Engine)
       mCard(new KeyCard(Window)),
       mField(new GotoField(Window, [this] { return Captions(); })) {
     mFollow.setSingleShot(true);
+    mWindow.installEventFilter(this);
     connect(&mFollow, &QTimer::timeout, this, &ShowHands::TellFailure);
     connect(&mPointer, &RestingPointer::Moved, mLine, &PlaceLine::Follow);
     connect(&mPointer, &RestingPointer::Left, mLine, &PlaceLine::hide);
@@ -81,6 +83,15 @@ ShowHands::ShowHands(QWidget& Window, ShowRun& Run, const clsDBEngine* Engine)
 void ShowHands::Attach() {
     mPointer.Attach();
     mFingers.Attach();
+}
+
+// The window may come to another screen; the line comes again with the pointer.
+bool ShowHands::eventFilter(QObject* On, QEvent* Event) {
+    if (Event->type() == QEvent::Resize) {
+        mBlack->setGeometry(mWindow.rect());
+        mLine->hide();
+    }
+    return QObject::eventFilter(On, Event);
 }
 
 ShowCaptions ShowHands::Captions() const {
@@ -121,7 +132,7 @@ void ShowHands::Do(ShowCommand Command) {
         Command = mRun.IsManual() ? ShowCommand::Next : ShowCommand::PlayPause;
     const auto* Found = std::ranges::find(Rows, Command, &Row::Command);
     if (Found == std::end(Rows)) return;
-    if (Command != ShowCommand::Click) CloseCard();
+    if (!Found->LeavesCard) CloseCard();
     if (!Found->LeavesBlack) LiftBlack();
     if (Found->Run) return (mRun.*Found->Run)();
     (this->*Found->Do)();
@@ -152,14 +163,18 @@ void ShowHands::Goto(std::int32_t SlideSeq) {
     mRun.GotoSlide(SlideSeq);
 }
 
-// Whoever says "go on" to a black screen gets a show that runs.
+// Whoever says "go on" to a black screen or a card gets a show that runs.
 void ShowHands::PlayPause() {
+    const bool HadCard = CloseCard(), WasBlack = LiftBlack();
     if (mRun.IsManual()) return;
-    if (!LiftBlack() || !IsRunning()) mRun.PlayPause();
+    if (!(HadCard || WasBlack) || !IsRunning()) mRun.PlayPause();
 }
 
+// One that waits under a black screen stays halted when that goes.
 void ShowHands::Pause() {
-    if (IsRunning() && !mRun.IsManual()) mRun.PlayPause();
+    if (mRun.IsManual()) return;
+    mUnderBlack.Forget();
+    if (IsRunning()) mRun.PlayPause();
 }
 
 void ShowHands::Stop() {

@@ -23,6 +23,9 @@ class ShowWait {
             mRun.PlayPause();
     }
 
+    // What was halted stays so.
+    void Forget() { mHalted = false; }
+
   private:
     ShowRun& mRun;
     bool mHalted = false;

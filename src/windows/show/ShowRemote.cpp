@@ -1,6 +1,6 @@
 #include "windows/show/ShowRemote.h"
 
-#include <QApplication>
+#include <algorithm>
 
 #include "show/ShowRun.h"
 #include "windows/show/CaptionLabel.h"
@@ -19,18 +19,16 @@ State StateOf(const ShowState& Show) {
 // What a window over the show holds, preferences say, is not for the media keys to set going. A box
 // is no such window: a show that nobody attends to must obey although one is up.
 bool IsHeldByWindow(const frmSlideShowProjector& Show) {
-    const auto* Modal = qobject_cast<const Form*>(QApplication::activeModalWidget());
-    return !Show.isEnabled() || (Modal && Modal != &Show);
+    const auto Loaded = LoadedForms();
+    const auto Own = std::ranges::find(Loaded, &Show, &std::shared_ptr<Form>::get);
+    const auto Holds = [](const auto& Each) { return Each->isModal() && Each->isVisible(); };
+    return !Show.isEnabled() || (Own != Loaded.end() && std::any_of(Own + 1, Loaded.end(), Holds));
 }
 
+// As the keys do it: a black screen or a card over the show goes where it would be in the way.
 void PlayPause(frmSlideShowProjector& Show, const ShowRun& Run) {
-    const State Is = StateOf(Run.State());
-    if (Is == State::Stopped) return Show.StopRestart();
-    if (!Run.IsManual()) Show.PlayPause();
-}
-
-void Stop(frmSlideShowProjector& Show, const ShowRun& Run) {
-    if (Run.State().StopCommand == u"Stop") Show.StopRestart();
+    const bool Stands = StateOf(Run.State()) == State::Stopped;
+    Show.Do(Stands ? ShowCommand::StopRestart : ShowCommand::PlayPause);
 }
 
 void Raise(frmSlideShowProjector& Show) {
@@ -108,15 +106,15 @@ void ShowRemote::CarryOut(MediaCommand Command) {
         case MediaCommand::Play:
             return Plays ? void() : PlayPause(mShow, mRun);
         case MediaCommand::Pause:
-            return Plays ? PlayPause(mShow, mRun) : void();
+            return mShow.Do(ShowCommand::Pause);
         case MediaCommand::PlayPause:
             return PlayPause(mShow, mRun);
         case MediaCommand::Stop:
-            return Stop(mShow, mRun);
+            return mShow.Do(ShowCommand::Stop);
         case MediaCommand::Next:
-            return mShow.NextSlide();
+            return mShow.Do(ShowCommand::Next);
         case MediaCommand::Previous:
-            return mShow.PreviousSlide();
+            return mShow.Do(ShowCommand::Previous);
         case MediaCommand::Raise:
             return Raise(mShow);
         case MediaCommand::Quit:

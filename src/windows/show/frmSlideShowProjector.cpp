@@ -164,6 +164,10 @@ void frmSlideShowProjector::keyPressEvent(QKeyEvent* Event) {
     mHands->Press(*Event);
 }
 
+void frmSlideShowProjector::Do(ShowCommand Command) {
+    mHands->Do(Command);
+}
+
 void frmSlideShowProjector::Leave() {
     if (mRun.Timer1On()) mUi->Show1->StopEffect();
     Unload();
@@ -211,7 +215,7 @@ void frmSlideShowProjector::RunCommand(const QString& Word) {
     if (Word == u"EXIT") Unload();
     if (Word == u"PREFERENCES") EditPreferences();
     for (const MenuCommand& Row : MenuCommands)
-        if (Word == Row.Word) return mHands->Do(Row.Command);
+        if (Word == Row.Word) return Do(Row.Command);
 }
 
 void frmSlideShowProjector::EditPreferences() {

@@ -38,6 +38,8 @@ class frmSlideShowProjector : public Form, private ShowStage {
     void StopMe();
     void ReStartMe();
 
+    // What a key, the menu or the desktop asks for.
+    void Do(ShowCommand Command);
     // The user's commands.
     void PlayPause() { mRun.PlayPause(); }
     void StopRestart() { mRun.StopRestart(); }

@@ -149,6 +149,22 @@ TEST_F(XShowArrivalTest, FewPicturesAreReadAtATimeHoweverFastTheyAreAskedFor) {
     EXPECT_LE(mFiles->Most(), 6) << "three in a second";
 }
 
+// A show comes round to the same picture again and again.
+TEST_F(XShowArrivalTest, OneThatHangsIsNotReadOnceMoreBesideItself) {
+    Hang("blue");
+    Ask("blue");
+    LetRun(1100);
+    for (int Round = 0; Round < 5; ++Round) {
+        Ask("blue");
+        View.Prefetch(QStringLiteral("blue"));
+        LetRun(20);
+    }
+    EXPECT_EQ(mFiles->Most(), 1);
+    Ask("blue");
+    GoOn("blue");
+    EXPECT_TRUE(Hears(Came));
+}
+
 TEST_F(XShowArrivalTest, AViewMayGoWhileItsPictureHangs) {
     Hang("blue");
     auto* Gone = new XShow;

@@ -210,6 +210,35 @@ TEST_F(TheBlackScreen, StaysUnderMenuAndCardAndEndsWithTheShow) {
     });
 }
 
+TEST_F(TheBlackScreen, CoversTheWholeWindowOnAnotherScreen) {
+    AddSlides(1);
+    RunHands([&](Projector& Shown) {
+        Shown.setWindowState(Qt::WindowNoState);
+        Shown.resize(480, 320);
+        Press(Qt::Key_B);
+        Shown.resize(700, 600);
+        Spin(20);
+        EXPECT_EQ(Shown.rect(), Part("BlackSheet")->geometry());
+    });
+}
+
+TEST_F(TheBlackScreen, LeavesAShowHaltedThatWasPausedUnderIt) {
+    AddSlides(2);
+    RunHands([&](Projector&) {
+        Press(Qt::Key_B);
+        Press(Qt::Key_MediaPause);
+        EXPECT_TRUE(IsUp("BlackSheet"));
+        Press(Qt::Key_B);
+        EXPECT_EQ("Resume", PlayWord());
+    });
+    RunManual([&](Projector&) {
+        Press(Qt::Key_B);
+        Press(Qt::Key_MediaPause);
+        Press(Qt::Key_B);
+        EXPECT_EQ("Pause", PlayWord()) << "nobody pauses a show that waits for its user";
+    });
+}
+
 TEST_F(TheCard, ComesAndGoesByItsKeyWhileTheShowWaits) {
     AddSlides(2);
     RunHands([&](Projector& Shown) {
@@ -253,6 +282,19 @@ TEST_F(TheCard, GivesWayToWhateverIsAskedFor) {
         Press(Qt::Key_F1);
         Press(Qt::Key_4);
         EXPECT_TRUE(IsUp("KeyCard")) << "a key without a meaning";
+    });
+}
+
+TEST_F(TheCard, GoesWhenTheShowIsToGoOn) {
+    AddSlides(2);
+    RunHands([&](Projector&) {
+        for (const bool WasPaused : {false, true}) {
+            if (WasPaused) Press(Qt::Key_P);
+            Press(Qt::Key_F1);
+            Press(Qt::Key_P);
+            EXPECT_FALSE(IsUp("KeyCard"));
+            EXPECT_EQ("Pause", PlayWord());
+        }
     });
 }
 

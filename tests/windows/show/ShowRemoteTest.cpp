@@ -1,4 +1,7 @@
 // A running show and the desktop's media keys: what is offered, what is told, what is obeyed.
+#include <QDialog>
+#include <QTest>
+
 #include "PreferencesRig.h"
 #include "support/MediaControls.h"
 
@@ -104,6 +107,10 @@ TEST_F(ShowRemoteOf, LeavesAManualShowToItsSteps) {
         EXPECT_EQ("Pause/Stop", Words(Window));
         Key(MediaCommand::Next);
         EXPECT_EQ("Slide 2", Caption());
+        QTest::keyClick(&Window, Qt::Key_B);
+        EXPECT_EQ(Paused, Now().Is);
+        Key(MediaCommand::Play);
+        EXPECT_EQ("Pause/Stop", Words(Window)) << "behind a black screen it has stood still";
     });
 }
 
@@ -119,6 +126,45 @@ TEST_F(ShowRemoteOf, DoesNotSetGoingWhatPreferencesHold) {
         EXPECT_EQ("Pause/Stop", Words(Window));
         Key(MediaCommand::Next);
         EXPECT_EQ("Slide 2", Caption());
+    });
+}
+
+TEST_F(ShowRemoteOf, UncoversAShowThatItSetsGoing) {
+    Run([&](Projector& Window) {
+        const auto Press = [&](Qt::Key Key) { QTest::keyClick(&Window, Key); };
+        const auto IsUp = [&](const char* Name) {
+            return Window.findChild<QWidget*>(QLatin1String(Name))->isVisible();
+        };
+        for (const auto& [Key, Part] :
+             {std::pair{Qt::Key_B, "BlackSheet"}, {Qt::Key_F1, "KeyCard"}})
+            for (const auto& Command :
+                 {MediaCommand::Play, MediaCommand::PlayPause, MediaCommand::Next}) {
+                Press(Key);
+                EXPECT_EQ("Resume/Stop", Words(Window));
+                ASSERT_TRUE(IsUp(Part));
+                this->Key(Command);
+                EXPECT_FALSE(IsUp(Part)) << Part;
+                EXPECT_EQ("Pause/Stop", Words(Window)) << Part;
+            }
+        EXPECT_EQ("Slide 3", Caption());
+        Press(Qt::Key_B);
+        Key(MediaCommand::Pause);
+        EXPECT_TRUE(IsUp("BlackSheet"));
+        Press(Qt::Key_B);
+        EXPECT_EQ("Resume/Stop", Words(Window));
+    });
+}
+
+TEST_F(ShowRemoteOf, DoesNotSetGoingWhatPreferencesHoldBehindABoxOfTheirs) {
+    Run([&](Projector& Window) {
+        WhenPreferencesOpen([&](frmPreferences& Preferences) {
+            QDialog Box(&Preferences);
+            Box.setModal(true);
+            Box.show();
+            Key(MediaCommand::Play);
+            EXPECT_EQ("Resume/Stop", Words(Window));
+        });
+        Window.EditPreferences();
     });
 }
 

@@ -43,16 +43,13 @@ TEST_F(StalledSoundShow, GoesOnAndAnswersItsKeys) {
     Run([&](frmSlideShowProjector& Window) {
         harness::Heartbeat Pulse({}, 0);
         EXPECT_TRUE(QTest::qWaitFor([] { return CurrentSlideSeq == 4; }, 8000));
-        EXPECT_LT(Pulse.LongestStandstill(), 100);
         EXPECT_GE(mStalled.Gate->Waiting, 3) << "of each slide the sound was wanted";
-        QElapsedTimer Took;
-        Took.start();
         QTest::keyClick(&Window, Qt::Key_Up);
         EXPECT_EQ(1, CurrentSlideSeq);
-        EXPECT_LT(Took.restart(), 100);
+        Spin(20);
         QTest::keyClick(&Window, Qt::Key_Escape);
         EXPECT_FALSE(Window.IsLoaded());
-        EXPECT_LT(Took.elapsed(), 100);
+        EXPECT_LT(Pulse.LongestStandstill(), 100);
     });
 }
 
