@@ -68,6 +68,7 @@ ShowHands::ShowHands(QWidget& Window, ShowRun& Run, const clsDBEngine* Engine)
       mCard(new KeyCard(Window)),
       mField(new GotoField(Window, [this] { return Captions(); })) {
     mFollow.setSingleShot(true);
+    mWindow.installEventFilter(this);
     connect(&mFollow, &QTimer::timeout, this, &ShowHands::TellFailure);
     connect(&mPointer, &RestingPointer::Moved, mLine, &PlaceLine::Follow);
     connect(&mPointer, &RestingPointer::Left, mLine, &PlaceLine::hide);
@@ -94,6 +95,18 @@ bool ShowHands::IsRunning() const {
 // A show that stops later keeps its last picture up, and needs no words.
 bool ShowHands::HasFailed() const {
     return mRun.State().PlayCommand == u"Play" && mRun.CurrentFile().isEmpty();
+}
+
+// A box says the same, or what is to be done now; words that peep out behind it only confuse.
+bool ShowHands::IsUnderABox() const {
+    const QWidget* Box = QApplication::activeModalWidget();
+    return Box && Box != &mWindow;
+}
+
+bool ShowHands::eventFilter(QObject*, QEvent* Event) {
+    if (Event->type() == QEvent::WindowBlocked || Event->type() == QEvent::WindowUnblocked)
+        mFollow.start();
+    return false;
 }
 
 bool ShowHands::WantsPointer() const {
@@ -192,7 +205,7 @@ void ShowHands::OpenMenu() {
 
 void ShowHands::TellFailure() {
     mLine->update();
-    if (!mWindow.isVisible() || !HasFailed()) return mNotice->hide();
+    if (!mWindow.isVisible() || !HasFailed() || IsUnderABox()) return mNotice->hide();
     mPointer.Wake();
     mNotice->Say(mTrouble.isEmpty() ? tr("There is no picture to show.") : mTrouble);
 }

@@ -41,6 +41,9 @@ class ShowHands : public QObject {
     void MenuAsked(const QPoint& At);  // in the window
     void CaptionsAsked();              // off or on
 
+  protected:
+    bool eventFilter(QObject* On, QEvent* Event) override;
+
   private:
     struct Row;
     static const Row Rows[];
@@ -61,6 +64,7 @@ class ShowHands : public QObject {
     void OpenCard();
     void OpenMenu();
     void TellFailure();
+    bool IsUnderABox() const;
 
     QWidget& mWindow;
     ShowRun& mRun;
