@@ -46,6 +46,12 @@ QString SongNames::NameOf(const QString& File, qint64 Bytes) const {
     return Its == mSongs.end() ? QString() : Its->Name;
 }
 
+QString SongNames::NameOfMissing(const QString& File) const {
+    const auto Its = std::find_if(mSongs.begin(), mSongs.end(),
+                                  [&](const NamedSong& Each) { return SameFile(Each.File, File); });
+    return Its == mSongs.end() ? QString() : Its->Name;
+}
+
 void SongNames::Enter(const NamedSong& Song) {
     std::erase_if(mSongs, [&](const NamedSong& Each) { return SameFile(Each.File, Song.File); });
     mSongs.push_back({Song.File, Song.Bytes, OneLine(Song.Name)});
