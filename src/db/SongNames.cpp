@@ -41,6 +41,12 @@ QString SongNames::NameOf(const QString& File, qint64 Bytes) const {
     return Its == mSongs.end() || Its->second.Bytes != Bytes ? QString() : Its->second.Name;
 }
 
+QString SongNames::NameOfMissing(const QString& File) const {
+    const auto Its = std::find_if(mSongs.begin(), mSongs.end(),
+                                  [&](const NamedSong& Each) { return SameFile(Each.File, File); });
+    return Its == mSongs.end() ? QString() : Its->Name;
+}
+
 void SongNames::Enter(const NamedSong& Song) {
     mSongs.insert_or_assign(Song.File.toCaseFolded(),
                             NamedSong{Song.File, Song.Bytes, OneLine(Song.Name)});

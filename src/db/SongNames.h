@@ -33,6 +33,7 @@ class SongNames {
 
     // Empty for a file that has none, or another length than it had: it is another song.
     QString NameOf(const QString& File, qint64 Bytes) const;
+    QString NameOfMissing(const QString& File) const;  // whatever its length was
     // In place of the name of a file in which only the case differs.
     void Enter(const NamedSong& Song);
     void KeepOnly(const std::function<bool(const QString& File)>& IsThere);

@@ -11,7 +11,10 @@ QString SongName(const QString& Path) {
     const QString Title = SongTitle(ReadSongTags(Path)), File = GetFileName(Path);
     if (!Title.isEmpty()) return Title;
     const SongNames Kept = SongNames::Of(GetParentDir(GetFilePath(Path)));
-    const QString Name = Kept.IsEmpty() ? QString() : Kept.NameOf(File, FileSize(Path));
+    if (Kept.IsEmpty()) return File;
+    // One that is gone is told by its name all the more: somebody has to find it again.
+    const QString Name =
+        FileExists(Path) ? Kept.NameOf(File, FileSize(Path)) : Kept.NameOfMissing(File);
     return Name.isEmpty() ? File : Name;
 }
 

@@ -13,6 +13,7 @@ namespace {
 
 constexpr int EdgePixels = 24;  // on a screen of the usual height
 constexpr int UsualHeight = 1080;
+constexpr QColor Strip(0, 0, 0);  // nothing of the caption below shines through
 constexpr QColor Ground(0, 0, 0, 190);
 constexpr QColor Ahead(130, 130, 130);
 constexpr QColor Behind(240, 240, 240);
@@ -70,7 +71,7 @@ QRectF PlaceLine::PartOf(std::int32_t From, std::int32_t To) const {
 
 void PlaceLine::paintEvent(QPaintEvent*) {
     QPainter Painter(this);
-    Painter.fillRect(0, height() - EdgeHeight(), width(), EdgeHeight(), Ground);
+    Painter.fillRect(0, height() - EdgeHeight(), width(), EdgeHeight(), Strip);
     PaintLine(Painter);
     PaintTip(Painter);
 }

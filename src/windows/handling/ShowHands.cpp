@@ -107,6 +107,18 @@ bool ShowHands::HasFailed() const {
     return mRun.State().PlayCommand == u"Play" && mRun.CurrentFile().isEmpty();
 }
 
+// A box says the same, or what is to be done now; words that peep out behind it only confuse.
+bool ShowHands::IsUnderABox() const {
+    const QWidget* Box = QApplication::activeModalWidget();
+    return Box && Box != &mWindow;
+}
+
+bool ShowHands::eventFilter(QObject*, QEvent* Event) {
+    if (Event->type() == QEvent::WindowBlocked || Event->type() == QEvent::WindowUnblocked)
+        mFollow.start();
+    return false;
+}
+
 bool ShowHands::WantsPointer() const {
     return mCard->isVisible() || mField->isVisible() || mNotice->isVisible() ||
            QApplication::activePopupWidget();
@@ -207,7 +219,7 @@ void ShowHands::OpenMenu() {
 
 void ShowHands::TellFailure() {
     mLine->update();
-    if (!mWindow.isVisible() || !HasFailed()) return mNotice->hide();
+    if (!mWindow.isVisible() || !HasFailed() || IsUnderABox()) return mNotice->hide();
     mPointer.Wake();
     mNotice->Say(mTrouble.isEmpty() ? tr("There is no picture to show.") : mTrouble);
 }

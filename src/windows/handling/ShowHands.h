@@ -64,6 +64,7 @@ class ShowHands : public QObject {
     void OpenCard();
     void OpenMenu();
     void TellFailure();
+    bool IsUnderABox() const;
 
     QWidget& mWindow;
     ShowRun& mRun;

@@ -27,6 +27,10 @@ double RulerStep(double Scale, int Room) {
     return 3600;
 }
 
+bool IsHeardOrWanted(const RehearsalRow& Its) {
+    return Its.Sound.Kind != CueSoundKind::Silent && Its.Sound.Kind != CueSoundKind::Over;
+}
+
 }  // namespace
 
 TimeLine::TimeLine(QWidget* Parent)
@@ -64,6 +68,10 @@ const RehearsalRow& TimeLine::Row(int Index) const {
 double TimeLine::Scale() const {
     const double Seconds = mSheet ? std::max(mSheet->RunningTime, 0.1) : 1;
     return std::min(SlideWidth * std::max(Rows(), 1), Longest) / Seconds;
+}
+
+bool TimeLine::GoesOn(int Index) const {
+    return Row(Index).Sound.Kind == CueSoundKind::GoesOn;
 }
 
 int TimeLine::X(double Seconds) const {
@@ -129,6 +137,7 @@ void TimeLine::paintEvent(QPaintEvent*) {
     QPainter Painter(viewport());
     PaintRuler(Painter);
     for (auto [Index, Last] = RowsSeen(); Index <= Last; ++Index) PaintSlide(Painter, Index);
+    PaintNames(Painter);
     AskPictures();
 }
 
@@ -193,20 +202,42 @@ void TimeLine::PaintText(QPainter& Painter, int Index) const {
 // As long as it is heard while the slide is up; red where it should be and is not.
 void TimeLine::PaintSound(QPainter& Painter, int Index) const {
     const RehearsalRow& Its = Row(Index);
-    if (Its.Sound.Kind == CueSoundKind::Silent || Its.Sound.Kind == CueSoundKind::Over) return;
+    if (!IsHeardOrWanted(Its)) return;
     const bool Heard = Its.Sound.Kind != CueSoundKind::Unplayed;
-    const double End = Its.Sound.EndsAt >= 0 ? Its.Sound.EndsAt : Its.At + Its.Seconds;
-    const Lanes Tops = LanesNow();
-    const QRect Bar(X(Its.At), (Its.ClipSounds ? Tops.Clips : Tops.Tracks) + 1,
-                    std::max(X(End) - X(Its.At), 2), fontMetrics().height() + 2);
+    const QRect Bar = BarOf(Its, Its);
     QColor Back = Heard ? palette().color(QPalette::Highlight) : Wrong;
     Back.setAlpha(Its.ClipSounds ? 200 : 120);
     Painter.fillRect(Bar, Heard ? QBrush(Back) : QBrush(Back, Qt::BDiagPattern));
-    if (Its.Sound.Kind == CueSoundKind::GoesOn) return;
+}
+
+// From the beginning of one slide to the end of what is heard with another.
+QRect TimeLine::BarOf(const RehearsalRow& First, const RehearsalRow& Last) const {
+    const double End = Last.Sound.EndsAt >= 0 ? Last.Sound.EndsAt : Last.At + Last.Seconds;
+    const Lanes Tops = LanesNow();
+    return {X(First.At), (First.ClipSounds ? Tops.Clips : Tops.Tracks) + 1,
+            std::max(X(End) - X(First.At), 2), fontMetrics().height() + 2};
+}
+
+// Above all the slides: a name takes the room of all through which its sound goes on, and stays in
+// sight when the first of them is not.
+void TimeLine::PaintNames(QPainter& Painter) const {
+    auto [Index, Seen] = RowsSeen();
+    while (Index > 0 && Index <= Seen && GoesOn(Index)) --Index;
+    while (Index <= Seen) {
+        const int First = Index++;
+        while (Index < Rows() && GoesOn(Index)) ++Index;
+        if (IsHeardOrWanted(Row(First))) PaintName(Painter, First, Index - 1);
+    }
+}
+
+void TimeLine::PaintName(QPainter& Painter, int First, int Last) const {
+    const RehearsalRow& Its = Row(First);
+    QRect Bar = BarOf(Its, Row(Last));
+    Bar.setLeft(std::max(Bar.left(), 0) + Margin);
     Painter.setPen(palette().color(QPalette::Text));
-    Painter.drawText(Bar.adjusted(Margin, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter,
+    Painter.drawText(Bar, Qt::AlignLeft | Qt::AlignVCenter,
                      fontMetrics().elidedText(Its.ClipSounds ? Its.Clip : Its.Track, Qt::ElideRight,
-                                              Bar.width() - Margin));
+                                              Bar.width()));
 }
 
 QString TimeLine::TipOf(int Index) const {

@@ -55,6 +55,10 @@ class TimeLine : public QAbstractScrollArea {
     void PaintPicture(QPainter& Painter, int Index, const QRect& Room) const;
     void PaintText(QPainter& Painter, int Index) const;
     void PaintSound(QPainter& Painter, int Index) const;
+    QRect BarOf(const RehearsalRow& First, const RehearsalRow& Last) const;
+    bool GoesOn(int Index) const;
+    void PaintNames(QPainter& Painter) const;
+    void PaintName(QPainter& Painter, int First, int Last) const;
     QString TipOf(int Index) const;
 
     std::shared_ptr<const RehearsalSheet> mSheet;

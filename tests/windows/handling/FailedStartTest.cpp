@@ -1,4 +1,6 @@
 // A show that cannot begin, and one that is asked for twice.
+#include <QDialog>
+
 #include "HandsRig.h"
 
 #include "settings/modNEBSlideShow.h"
@@ -36,6 +38,19 @@ TEST_F(AFailedStart, SaysWhatIsWrongAndHowToLeave) {
         EXPECT_TRUE(IsUp("WordsOfFailure"));
         Press(Qt::Key_Escape);
         EXPECT_FALSE(Shown.IsLoaded());
+    });
+}
+
+TEST_F(AFailedStart, DoesNotPeepOutBehindABox) {
+    Boxes.Expect(QStringLiteral("Slide #1 of the current slide show does not exist!"));
+    RunHands([&](Projector& Shown) {
+        EXPECT_NE("", Notice());
+        QDialog Box(&Shown);
+        Box.setModal(true);
+        Box.show();
+        EXPECT_EQ("", Notice());
+        Box.close();
+        EXPECT_NE("", Notice()) << "once it is answered";
     });
 }
 

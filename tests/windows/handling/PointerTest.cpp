@@ -74,6 +74,24 @@ TEST_F(TheLine, ComesAtTheLowerEdgeAloneAndTellsWhatIsThere) {
     });
 }
 
+TEST_F(TheLine, LetsNothingOfTheCaptionShineThrough) {
+    AddSlides(4);
+    RunHands([&](Projector& Shown) {
+        const int Thin = 6, Top = Shown.height() - 24;
+        const auto Brightest = [&] {
+            const QImage Seen = Shown.grab().toImage();
+            int Most = 0;
+            for (int Y = Top; Y < Top + Thin; ++Y)
+                for (int X = 0; X < Seen.width(); ++X)
+                    Most = std::max(Most, qGray(Seen.pixel(X, Y)));
+            return Most;
+        };
+        EXPECT_GT(Brightest(), 30) << "the caption";
+        MoveTo({1, Shown.height() - 5});
+        EXPECT_EQ(0, Brightest());
+    });
+}
+
 TEST_F(TheLine, GoesToTheSlideThatIsClickedOnIt) {
     AddSlides(4);
     RunManual([&](Projector& Shown) {

@@ -4,7 +4,11 @@
 #include <QLabel>
 
 #include "controls/fields/ToolBar.h"
+#include "db/SongNames.h"
 #include "harness/Heartbeat.h"
+#include "harness/SoundFiles.h"
+#include "support/files/modHostFiles.h"
+#include "support/modFUFL.h"
 #include "windows/compose/ManagerRig.h"
 #include "windows/compose/modShowManagers.h"
 #include "windows/frame/Openers.h"
@@ -84,6 +88,34 @@ TEST_F(RehearsalWindow, TellsWhatComesUpWhenAndWhatIsWrong) {
     EXPECT_TRUE(Findings().TextMatrix(0, 2).contains(u"none.mp3"_s));
     EXPECT_EQ(0u, Summary().find("3 slides, running time ")) << Summary();
     EXPECT_FALSE(In<QWidget>(*R, "pgbRun").isVisible());
+}
+
+TEST_F(RehearsalWindow, ASongThatIsGoneIsToldByItsOwnName) {
+    MakeWalk();
+    WriteFile(SongNamesPath(GetParentDir(TracksFolder())), "none.mp3\t7\tEvening Waltz.mp3\n");
+    Open();
+    ASSERT_TRUE(IsOver());
+    EXPECT_EQ("2|Evening Waltz.mp3|not played", Cells(1, {CueSlide, CueTrack, CueSoundDoes}));
+}
+
+TEST_F(RehearsalWindow, TheNameOfASongTakesTheRoomOfAllItsSlides) {
+    AddAlbumSlides({u"a"_s, u"b"_s, u"c"_s});
+    ShowID = AddShow(u"Walk"_s, {1, 2, 3});
+    const QString Song = u"A long walk in the meadows by the river in the evening.wav"_s;
+    WriteFile(TracksFolder() + Song, WaveBytes(Tone(60, 8000), 8000));
+    AddTrack(ShowID, 1, 1, 3, Song);
+    Open();
+    ASSERT_TRUE(IsOver());
+    EXPECT_EQ("starts", Cells(0, {CueSoundDoes}));
+    EXPECT_EQ("goes on", Cells(1, {CueSoundDoes}));
+    const QRect Second = Line().PlaceOf(1);
+    const int BelowCaption = Second.bottom() + Line().fontMetrics().height() + 8;
+    const QImage Seen = Line().viewport()->grab().toImage();
+    int Dark = 0;
+    for (int Y = BelowCaption; Y < Seen.height(); ++Y)
+        for (int X = Second.left() + 2; X < Second.right(); ++X)
+            Dark += qGray(Seen.pixel(X, Y)) < 80;
+    EXPECT_GT(Dark, 50) << "letters";
 }
 
 TEST_F(RehearsalWindow, ADoubleClickInTheTableGoesToTheSlideInTheManager) {
