@@ -42,9 +42,8 @@ QString SongNames::NameOf(const QString& File, qint64 Bytes) const {
 }
 
 QString SongNames::NameOfMissing(const QString& File) const {
-    const auto Its = std::find_if(mSongs.begin(), mSongs.end(),
-                                  [&](const NamedSong& Each) { return SameFile(Each.File, File); });
-    return Its == mSongs.end() ? QString() : Its->Name;
+    const auto Its = mSongs.find(File.toCaseFolded());
+    return Its == mSongs.end() ? QString() : Its->second.Name;
 }
 
 void SongNames::Enter(const NamedSong& Song) {
