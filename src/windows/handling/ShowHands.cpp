@@ -85,12 +85,15 @@ void ShowHands::Attach() {
     mFingers.Attach();
 }
 
-// The window may come to another screen; the line comes again with the pointer.
+// The window may come to another screen, where the line comes again with the pointer; and boxes come
+// over it and go.
 bool ShowHands::eventFilter(QObject* On, QEvent* Event) {
-    if (Event->type() == QEvent::Resize) {
+    const QEvent::Type Is = Event->type();
+    if (Is == QEvent::Resize) {
         mBlack->setGeometry(mWindow.rect());
         mLine->hide();
     }
+    if (Is == QEvent::WindowBlocked || Is == QEvent::WindowUnblocked) mFollow.start();
     return QObject::eventFilter(On, Event);
 }
 
@@ -111,12 +114,6 @@ bool ShowHands::HasFailed() const {
 bool ShowHands::IsUnderABox() const {
     const QWidget* Box = QApplication::activeModalWidget();
     return Box && Box != &mWindow;
-}
-
-bool ShowHands::eventFilter(QObject*, QEvent* Event) {
-    if (Event->type() == QEvent::WindowBlocked || Event->type() == QEvent::WindowUnblocked)
-        mFollow.start();
-    return false;
 }
 
 bool ShowHands::WantsPointer() const {
