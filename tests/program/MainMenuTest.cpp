@@ -29,6 +29,22 @@ namespace {
 
 class TheMenu : public MainWindow {
   protected:
+    // On a busy machine both presses are in the queue before the first of them is served. How many
+    // windows were open at a time; all are closed.
+    size_t MostOpenAfterTwo(const char* Name) {
+        size_t Most = 0;
+        QTimer Closer;
+        QObject::connect(&Closer, &QTimer::timeout, [&] {
+            const auto Open = LoadedForms();
+            Most = std::max(Most, Open.size());
+            for (const auto& Window : Open) Window->Unload();
+        });
+        Closer.start(100);
+        Entry(Name)->trigger();
+        Entry(Name)->trigger();
+        DoEvents();
+        return Most;
+    }
     // Opens the menu of the windows as a user does, and closes it again.
     QStringList WindowEntries() {
         QMenu* Menu = WindowMenu();
@@ -83,21 +99,9 @@ TEST_F(TheMenu, AllPicturesAreCheckedFromTheFileMenu) {
     EXPECT_FALSE(Find<frmCheckPictures>());
 }
 
-// On a busy machine both presses are in the queue before the first of them is served.
 TEST_F(TheMenu, WhatIsPressedTwiceOpensOneWindow) {
     Start();
-    size_t Most = 0;
-    QTimer Closer;
-    QObject::connect(&Closer, &QTimer::timeout, [&] {
-        const auto Open = LoadedForms();
-        Most = std::max(Most, Open.size());
-        for (const auto& Window : Open) Window->Unload();
-    });
-    Closer.start(100);
-    Entry("mnuSlideShowPrefs")->trigger();
-    Entry("mnuSlideShowPrefs")->trigger();
-    DoEvents();
-    EXPECT_EQ(1U, Most);
+    EXPECT_EQ(1U, MostOpenAfterTwo("mnuSlideShowPrefs"));
     EXPECT_TRUE(LoadedForms().empty());
 }
 
@@ -110,19 +114,8 @@ TEST_F(TheMenu, AShowThatIsAskedForTwiceRunsOnce) {
     Settings.PutValue({}, "ActiveAlbum", QString::number(AlbumID));
     Settings.PutValue({}, "ActiveSlideShow", QString::number(ShowID));
     Settings.Save();
-    size_t Most = 0;
-    QTimer Closer;
-    QObject::connect(&Closer, &QTimer::timeout, [&] {
-        const auto Open = LoadedForms();
-        Most = std::max(Most, Open.size());
-        for (const auto& Window : Open) Window->Unload();
-    });
-    Closer.start(100);
     mBoxes.Expect("Slide #1 of the current slide show does not exist!");
-    Entry("mnuSlideShowViewer")->trigger();
-    Entry("mnuSlideShowViewer")->trigger();
-    DoEvents();
-    EXPECT_EQ(1U, Most);
+    EXPECT_EQ(1U, MostOpenAfterTwo("mnuSlideShowViewer"));
 }
 
 TEST_F(TheMenu, TheHelpThatComesWithTheProgramHasItsPlaces) {
