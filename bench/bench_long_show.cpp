@@ -48,8 +48,15 @@ double Seconds() {
     return duration<double>(steady_clock::now().time_since_epoch()).count();
 }
 
-// What the process holds in memory.
-double Megabytes() {
+// What the program holds: pieces of the heap in use, and those that were mapped.
+double MegabytesInUse() {
+    const auto Heap = ::mallinfo2();
+    return static_cast<double>(Heap.uordblks + Heap.hblkhd) / 1048576;
+}
+
+// That, and what the allocator keeps for the next picture; how much depends on what else the
+// machine does.
+double MegabytesResident() {
     QFile File(QStringLiteral("/proc/self/statm"));
     if (!File.open(QIODevice::ReadOnly)) return 0;
     return File.readAll().split(' ')[1].toDouble() * 4096 / 1048576;
@@ -130,16 +137,16 @@ void MakeSettings() {
     Settings.Save();
 }
 
-// What the process holds between transitions: the least of each span, for one under way holds a
+// What the program holds between transitions: the least of each span, for one under way holds a
 // handful of pictures more. The first span is that in which everything comes to be used once.
 class Levels {
   public:
     void Note(double SinceStart) {
-        mLeast = std::min(mLeast, Megabytes());
+        mLeast = std::min(mLeast, MegabytesInUse());
         if (SinceStart < Span * static_cast<double>(mSpans.size() + 1)) return;
         mSpans.push_back(std::exchange(mLeast, Never));
-        std::printf("  after %5.1f minutes %8.2f MB, %.2f of the heap in use\n", SinceStart / 60,
-                    mSpans.back(), static_cast<double>(::mallinfo2().uordblks) / 1048576);
+        std::printf("  after %5.1f minutes %8.2f MB in use, %.2f resident\n", SinceStart / 60,
+                    mSpans.back(), MegabytesResident());
         std::fflush(stdout);
     }
     // From the second span to the last; less than three tell nothing.
