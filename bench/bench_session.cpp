@@ -128,7 +128,7 @@ class Importing {
     double Bring(const QStringList& Paths, const QImage& Thumbnail) {
         return Lasts([&] {
             Changes Door(mEngine);
-            PictureImport Import(Door, mEngine, 1, Paths, [] { return true; });
+            PictureImport Import(Door, mEngine, 1, Paths, {}, [] { return true; });
             for (const QString& Path : Paths)
                 Import.EnterNext({Path, QStringLiteral("Picture"), Thumbnail});
         });

@@ -70,18 +70,20 @@ Answer<std::int32_t> EnterPicture(Changes& Door, const clsDBEngine& theDB, std::
 }
 
 PictureImport::PictureImport(Changes& Door, const clsDBEngine& theDB, std::int32_t AlbumID,
-                             QStringList Paths, KeepGoing GoOn)
+                             QStringList Paths, const PictureKeeping& Keeping, KeepGoing GoOn)
     : mDoor(Door),
       mDB(theDB),
       mAlbumID(AlbumID),
+      mKeeping(Keeping),
       mGoOn(std::move(GoOn)),
-      mAhead(std::vector<QString>(Paths.begin(), Paths.end()), &PictureImport::Prepare) {}
+      mAhead(std::vector<QString>(Paths.begin(), Paths.end()),
+             [Keeping](const QString& Path) { return Prepare(Path, Keeping); }) {}
 
 PictureImport::~PictureImport() = default;
 
-PictureImport::Prepared PictureImport::Prepare(const QString& Path) {
+PictureImport::Prepared PictureImport::Prepare(const QString& Path, const PictureKeeping& Keeping) {
     if (!FileExists(Path)) return {};
-    return {true, FittedJpeg(Path)};
+    return {true, FittedJpeg(Path, Keeping)};
 }
 
 // Nothing where the picture is to be left out. What was prepared for a file that is gone is of no
@@ -89,7 +91,7 @@ PictureImport::Prepared PictureImport::Prepare(const QString& Path) {
 std::optional<QByteArray> PictureImport::TakeJpeg(const QString& Path) {
     try {
         Prepared Ready = mAhead.Take();
-        if (FileExists(Path)) return Ready.Exists ? Ready.Jpeg : FittedJpeg(Path);
+        if (FileExists(Path)) return Ready.Exists ? Ready.Jpeg : FittedJpeg(Path, mKeeping);
         mReason = QStringLiteral("The file is not there any more.");
     } catch (const std::exception& Problem) {
         mReason = FileExists(Path) ? SentenceOf(Problem)

@@ -9,6 +9,7 @@
 #include <functional>
 
 #include "db/Changes.h"
+#include "pictures/PictureKeeping.h"
 #include "support/KeepGoing.h"
 #include "support/work/AheadQueue.h"
 
@@ -52,7 +53,7 @@ class PictureImport {
   public:
     // GoOn is asked while a picture is waited for, so that the caller's window stays alive.
     PictureImport(Changes& Door, const clsDBEngine& theDB, std::int32_t AlbumID, QStringList Paths,
-                  KeepGoing GoOn);
+                  const PictureKeeping& Keeping, KeepGoing GoOn);
     ~PictureImport();
     PictureImport(const PictureImport&) = delete;
     PictureImport& operator=(const PictureImport&) = delete;
@@ -73,12 +74,13 @@ class PictureImport {
         bool Exists = false;
         QByteArray Jpeg;
     };
-    static Prepared Prepare(const QString& Path);
+    static Prepared Prepare(const QString& Path, const PictureKeeping& Keeping);
     std::optional<QByteArray> TakeJpeg(const QString& Path);
 
     Changes& mDoor;
     const clsDBEngine& mDB;
     const std::int32_t mAlbumID;
+    const PictureKeeping mKeeping;
     KeepGoing mGoOn;
     std::int32_t mSlideID = 0;
     QString mReason;

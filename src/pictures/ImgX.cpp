@@ -26,12 +26,6 @@ QByteArray ReadPictureFile(const QString& File) {
     }
 }
 
-int RoundHalvesToEven(qint64 Numerator, qint64 Denominator) {
-    const qint64 Whole = Numerator / Denominator, Twice = Numerator % Denominator * 2;
-    const bool Up = Twice > Denominator || (Twice == Denominator && Whole % 2 != 0);
-    return static_cast<int>(Whole + (Up ? 1 : 0));
-}
-
 QSize TimesHalf(QSize Size) {
     return Size + Size / 2;
 }
@@ -138,26 +132,16 @@ void ImgX::SaveJpeg(const QString& File) const {
     ReplaceFile(File, ToJpeg());
 }
 
-QSize FitSize(QSize Full) {
-    const qint64 W = Full.width(), H = Full.height();
-    const qint64 MaxW = SlideLimit.width(), MaxH = SlideLimit.height();
-    if (W <= MaxW && H <= MaxH) return Full;
-    const bool ByWidth = H * MaxW < W * MaxH;
-    const QSize Fitted = ByWidth ? QSize(int(MaxW), RoundHalvesToEven(H * MaxW, W))
-                                 : QSize(RoundHalvesToEven(W * MaxH, H), int(MaxH));
-    return Fitted.expandedTo(QSize(1, 1));
-}
-
-QByteArray FittedJpeg(const QString& File) {
+QByteArray FittedJpeg(const QString& File, const PictureKeeping& Keeping) {
     ImgX Picture;
-    Picture.LoadAtLeast(File, SlideLimit);
-    return FittedJpeg(std::move(Picture));
+    Picture.LoadAtLeast(File, Keeping.Limit);
+    return FittedJpeg(std::move(Picture), Keeping);
 }
 
-QByteArray FittedJpeg(ImgX Picture) {
-    const QSize Size = FitSize(Picture.FullSize());
+QByteArray FittedJpeg(ImgX Picture, const PictureKeeping& Keeping) {
+    const QSize Size = FitSize(Picture.FullSize(), Keeping.Limit);
     Picture.Resize(Size.width(), Size.height(), SlideSelector);
-    Picture.SetJpgQuality(100);
+    Picture.SetJpgQuality(Keeping.Quality());
     return Picture.ToJpeg();
 }
 

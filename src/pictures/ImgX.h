@@ -6,12 +6,12 @@
 #include <QImage>
 #include <QString>
 
+#include "pictures/PictureKeeping.h"
 #include "pictures/formats/PictureDecoder.h"
 
 namespace neb {
 
-// The least size of a stored slide's limits, and the sides of a thumbnail, in pixels.
-inline constexpr QSize SlideLimit(1024, 768);
+// The sides of a thumbnail on the disk, in pixels.
 inline constexpr QSize ThumbnailSize(72, 72);
 
 class ImgX {
@@ -53,14 +53,11 @@ class ImgX {
     int mJpgQuality = 100;
 };
 
-// The size at which a picture of that size is stored as a slide: left alone within the limits,
-// else made smaller with its proportions, halves rounded to even. No side vanishes: 1 at least.
-QSize FitSize(QSize Full);
-
-// A picture file as the JPEG bytes of a slide: fitted, quality 100. Throws as ImgX::Load does.
-QByteArray FittedJpeg(const QString& File);
+// A picture file as the JPEG bytes of a slide: fitted, at the quality of its keeping. Throws as
+// ImgX::Load does.
+QByteArray FittedJpeg(const QString& File, const PictureKeeping& Keeping = {});
 // The same from a picture in memory. Throws FaultNotSaved when there is none.
-QByteArray FittedJpeg(ImgX Picture);
+QByteArray FittedJpeg(ImgX Picture, const PictureKeeping& Keeping = {});
 // The thumbnail of a picture file: stretched to exactly ThumbnailSize. Throws as ImgX::Load does.
 QImage MakeThumbnail(const QString& File);
 // The same from a picture in memory.

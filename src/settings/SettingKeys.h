@@ -26,7 +26,13 @@ enum class Setting {
     AvgTime,         // the same
     EffectSelected,  // of an effect: "000" to "127"
     ShowScreen,      // as show/ScreenChoice reads it
-    WindowHeight,    // of a window, by its class name; so the next four
+    KeepPictures,    // the size at which pictures are kept at most: "1024x768" and so on, "Screen",
+                     // "Own"
+    KeepPlace,       // where a picture was taken stays in its file
+    ExtraFormats,    // HEIC, AVIF, WebP, GIF and JPEG 2000 count as pictures
+    PictureOrder,    // in which pictures are listed before they come in: "Name" or "Taken"
+    PictureCaptions,  // captions come from the pictures' own words
+    WindowHeight,     // of a window, by its class name; so the next four
     WindowWidth,
     WindowState,
     WindowLeft,

@@ -217,7 +217,8 @@ std::optional<ImportTally> ImportForm::ImportRows(Changes& Door, std::int32_t Al
     if (!GoesOn()) return std::nullopt;
     try {
         Tally.Entered.reserve(static_cast<size_t>(Tally.Of));
-        PictureImport Run(Door, *DBEngine, AlbumID, SelectedPaths(), [this] { return GoesOn(); });
+        PictureImport Run(Door, *DBEngine, AlbumID, SelectedPaths(), {},
+                          [this] { return GoesOn(); });
         if (!EnterRows(Run, Bar, Tally, Entered)) return std::nullopt;
     } catch (const std::exception& Problem) {
         Tally.Problem = ReasonOf(Problem);
