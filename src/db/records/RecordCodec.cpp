@@ -44,6 +44,13 @@ int Narrow(const QString& Text, int Width, char* Out) {
     return static_cast<int>(Bytes.size());
 }
 
+// The same as the field has it.
+int NarrowField(FieldKind Kind, int Width, const QString& Text, char* Out) {
+    const int Count = Narrow(Text, Width, Out);
+    if (Kind == FieldKind::Path) std::replace(Out, Out + Count, '/', '\\');
+    return Count;
+}
+
 }  // namespace
 
 qint64 RecordCount(qint64 FileLength, qint64 RecordLength) {
@@ -105,11 +112,17 @@ void Encode(PackedRecords& Out, FieldKind, int, double Value) {
 
 void Encode(PackedRecords& Out, FieldKind Kind, int Width, const QString& Value) {
     char Bytes[MaxWidth];
-    int Count = Narrow(Value, Width, Bytes);
-    if (Kind == FieldKind::Path) std::replace(Bytes, Bytes + Count, '/', '\\');
+    int Count = NarrowField(Kind, Width, Value, Bytes);
     if (Kind != FieldKind::Padded && Count < Width) Bytes[Count++] = 0;
     Out.Literal(Bytes, static_cast<size_t>(Count));
     if (Count < Width) Out.Blanks(Width - Count);
+}
+
+QByteArray Stored(FieldKind Kind, int Width, const QString& Value) {
+    char Bytes[MaxWidth];
+    const QByteArray All(Bytes, NarrowField(Kind, Width, Value, Bytes));
+    const qsizetype End = Kind == FieldKind::Padded ? -1 : All.indexOf('\0');
+    return End < 0 ? All : All.first(End);
 }
 
 QByteArray ZeroFilled(const char* Bytes, qint64 Count, qint64 Length) {
