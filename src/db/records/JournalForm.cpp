@@ -66,12 +66,6 @@ qsizetype HeadLengthOf(const QByteArray& Journal) {
     return Is->HasWords ? WordsStart + CountLength + BaseLength : WordsStart;
 }
 
-// The earlier versions of the program can bring a write to its end that is not about whole texts.
-bool IsAboutWords(const QString& DBPath, const RecordImage& Image) {
-    return Image.Words &&
-           (!Image.Words->isEmpty() || NameExists(RecordPath(DBPath, RecordFile::Words)));
-}
-
 // The bytes of a part of a journal whose files end at End, Place moved behind them.
 std::optional<QByteArray> Part(const QByteArray& Journal, qsizetype& Place, qint64 Length) {
     const qsizetype End = Journal.size() - SumLength;
@@ -81,6 +75,11 @@ std::optional<QByteArray> Part(const QByteArray& Journal, qsizetype& Place, qint
 }
 
 }  // namespace
+
+bool IsAboutWords(const QString& DBPath, const RecordImage& Image) {
+    return Image.Words &&
+           (!Image.Words->isEmpty() || NameExists(RecordPath(DBPath, RecordFile::Words)));
+}
 
 QByteArray HeadFor(const QString& DBPath, const RecordImage& Image, bool OverHalf) {
     const bool WithWords = IsAboutWords(DBPath, Image);

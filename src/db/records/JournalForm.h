@@ -21,6 +21,10 @@ inline constexpr qsizetype SumLength = 32;
 // What stands before the packed files. OverHalf: the files that are there are such leavings.
 QByteArray HeadFor(const QString& DBPath, const RecordImage& Image, bool OverHalf);
 
+// Whether whole texts come or go by such a write. The earlier versions of the program can bring one
+// to its end in which none do.
+bool IsAboutWords(const QString& DBPath, const RecordImage& Image);
+
 bool IsSound(const QByteArray& Journal);
 // Whether a sound one knows which files it takes the place of, and whether these were whole.
 bool KnowsFiles(const QByteArray& Journal);

@@ -143,4 +143,10 @@ NotedRecords CompareWithNoted(const QString& DBPath) {
     return Found;
 }
 
+bool HasLostWords(const QString& DBPath) {
+    if (NameExists(RecordPath(DBPath, RecordFile::Words))) return false;
+    const NotedRecords Noted = CompareWithNoted(DBPath);
+    return Noted.HadWords && Noted.Is != NotedRecords::State::Unknown;
+}
+
 }  // namespace neb

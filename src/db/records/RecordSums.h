@@ -33,5 +33,7 @@ struct NotedRecords {
 };
 // Changes nothing. A file that cannot be read is not as it was written.
 NotedRecords CompareWithNoted(const QString& DBPath);
+// Whether Words.dat has gone from beside records of that write.
+bool HasLostWords(const QString& DBPath);
 
 }  // namespace neb

@@ -126,9 +126,9 @@ void WriteFiles(const QString& DBPath, const RecordImage& Image,
     for (const auto& [File, Writer] : Writers) Writer->Close();
 }
 
-std::vector<RecordFile> WrittenTogether(const RecordImage& Image) {
+std::vector<RecordFile> WrittenTogether(const QString& DBPath, const RecordImage& Image) {
     std::vector<RecordFile> Files(FilesWrittenTogether.begin(), FilesWrittenTogether.end());
-    if (Image.Words) Files.push_back(RecordFile::Words);
+    if (journal::IsAboutWords(DBPath, Image)) Files.push_back(RecordFile::Words);
     return Files;
 }
 
@@ -142,7 +142,7 @@ std::optional<Fault> CarryOut(const QString& DBPath, const RecordImage& Image, F
     for (const RecordFile File :
          {RecordFile::Properties, RecordFile::EffectStats, RecordFile::NextIDs})
         WriteFiles(DBPath, Image, std::span(&File, 1));
-    WriteFiles(DBPath, Image, WrittenTogether(Image));
+    WriteFiles(DBPath, Image, WrittenTogether(DBPath, Image));
     SyncDir(DBPath);
     NoteRecordsAgain(DBPath);  // without the journal they stand by themselves
     DeleteFile(JournalPath(DBPath));
