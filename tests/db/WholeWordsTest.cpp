@@ -112,7 +112,7 @@ TEST_F(WholeWordsTest, EightyBytesAreHeldByTheRecordAndMoreAreNot) {
     EXPECT_TRUE(HasWords(Dir.Path()));
     EXPECT_EQ(Field(), QByteArray(79, 'x') + '\xe9') << "the first eighty";
     // its letters are fewer than its bytes, and the last of them would be cut in two
-    const QString Tea = u"茶"_s.repeated(39);
+    const QString Tea = u"xy"_s + u"茶"_s.repeated(39);
     const QByteArray Latin = ToAnsi(Tea);
     ASSERT_GT(Latin.size(), 80);
     ASSERT_NE(Latin[79], ' ');
@@ -274,7 +274,8 @@ TEST_F(WholeWordsTest, RecordsOfOneKeyGetTheirTextsInOrder) {
         EXPECT_FALSE(Engine->FinalizeDB());
     }
     QStringList Texts;
-    for (const auto& Each : OpenEngine(Dir.Path())->Albums[0]->Slides) Texts << Each->SlideText;
+    const auto Engine = OpenEngine(Dir.Path());
+    for (const auto& Each : Engine->Albums[0]->Slides) Texts << Each->SlideText;
     EXPECT_EQ(Texts, (QStringList{u"茶"_s, u"🐈"_s, u"🐕"_s}));
 }
 

@@ -98,6 +98,11 @@ TEST(WordsFile, WhatCannotBeIsDamage) {
     const QByteArray Body = Of(Sound).chopped(32);
     EXPECT_EQ(WordsIn(Sealed(Body)).Is, State::Sound);
     EXPECT_EQ(WordsIn(Sealed(Body + 'x')).Is, State::Damaged) << "more than it says";
+    EXPECT_EQ(
+        WordsIn(Sealed(Body + Of({RecordFile::NextIDs, 0, {}, "a", u"ж"_s}).sliced(12).chopped(32)))
+            .Is,
+        State::Damaged)
+        << "another, which cannot be, behind as many as it says";
     EXPECT_EQ(WordsIn(Sealed(Body.chopped(1))).Is, State::Damaged) << "less than it says";
     EXPECT_EQ(WordsIn(Sealed(Body.chopped(1) + '\xff')).Is, State::Damaged) << "no UTF-8";
     EXPECT_EQ(WordsIn(Sealed(QByteArray(Body).replace(8, 1, "\2"))).Is, State::Damaged)

@@ -54,7 +54,17 @@ class Walk {
   public:
     explicit Walk(QByteArrayView Texts) : mBytes(Texts) {}
 
+    // Nothing where they have come to their end, or what follows is none.
     std::optional<WholeText> Next() {
+        const QByteArrayView Before = mBytes;
+        auto Each = Read();
+        if (!Each) mBytes = Before;
+        return Each;
+    }
+    bool IsAtEnd() const { return mBytes.isEmpty(); }
+
+  private:
+    std::optional<WholeText> Read() {
         if (mBytes.size() < TextHead) return std::nullopt;
         WholeText Each{static_cast<RecordFile>(Number<quint8>()), Number<quint8>(), {}, {}, {}};
         const qsizetype Stored = Number<quint16>();
@@ -67,9 +77,6 @@ class Walk {
         if (Decode.hasError() || !IsSensible(Each)) return std::nullopt;
         return Each;
     }
-    bool IsAtEnd() const { return mBytes.isEmpty(); }
-
-  private:
     QByteArrayView Take(qsizetype Count) {
         const QByteArrayView Taken = mBytes.first(Count);
         mBytes = mBytes.sliced(Count);
