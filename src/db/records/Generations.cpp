@@ -2,10 +2,10 @@
 
 #include <QCryptographicHash>
 #include <QtEndian>
-#include <cstring>
 #include <set>
 
 #include "db/records/RecordCodec.h"
+#include "db/records/RecordPacker.h"
 #include "db/records/WordsFile.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
@@ -37,60 +37,6 @@ qint64 NumberAt(const QByteArray& Bytes, qsizetype Place) {
     return qFromLittleEndian<qint64>(Bytes.constData() + Place);
 }
 
-// Packs the bytes of a record file, whatever they are; the same bytes always come out alike.
-class Packer {
-  public:
-    void Add(QByteArrayView Bytes) {
-        while (!Bytes.isEmpty()) {
-            const qsizetype Run = NextRun(Bytes);
-            AddLiteral(Bytes.first(Run));
-            Bytes = Bytes.sliced(Run);
-            const qsizetype Count = BlanksAt(Bytes);
-            AddBlanks(Count);
-            Bytes = Bytes.sliced(Count);
-        }
-    }
-    PackedRecords Finish() {
-        mPacked.Finish();
-        return std::move(mPacked);
-    }
-
-  private:
-    static constexpr qsizetype LeastRun = 8, MostAtOnce = 255;
-
-    static qsizetype BlanksAt(QByteArrayView Bytes) {
-        static constexpr char Sixteen[] = "                ";
-        qsizetype Count = 0;
-        while (Bytes.size() - Count >= 16 && std::memcmp(Bytes.data() + Count, Sixteen, 16) == 0)
-            Count += 16;
-        while (Count < Bytes.size() && Bytes[Count] == ' ') ++Count;
-        return Count;
-    }
-    // Where the next blanks begin that are worth a piece.
-    static qsizetype NextRun(QByteArrayView Bytes) {
-        for (qsizetype Place = 0; (Place = Bytes.indexOf(' ', Place)) >= 0;) {
-            const qsizetype Count = BlanksAt(Bytes.sliced(Place));
-            if (Count >= LeastRun) return Place;
-            Place += Count;
-        }
-        return Bytes.size();
-    }
-    void AddLiteral(QByteArrayView Bytes) {
-        for (; !Bytes.isEmpty(); Bytes = Bytes.sliced(std::min(MostAtOnce, Bytes.size()))) {
-            const qsizetype Count = std::min(MostAtOnce, Bytes.size());
-            mPacked.BeginRecord(Count);
-            mPacked.Literal(Bytes.data(), static_cast<size_t>(Count));
-        }
-    }
-    void AddBlanks(qsizetype Count) {
-        for (; Count > 0; Count -= std::min(MostAtOnce, Count)) {
-            mPacked.BeginRecord(0);
-            mPacked.Blanks(static_cast<int>(std::min(MostAtOnce, Count)));
-        }
-    }
-    PackedRecords mPacked;
-};
-
 struct PackedFile {
     PackedRecords Content;
     qint64 Live = 0;  // records that are not marked as deleted; of those that have the mark
@@ -106,7 +52,7 @@ qint64 LiveIn(QByteArrayView Records, qsizetype Width) {
 
 PackedFile PackFile(const RecordSource& State, RecordFile Which) {
     const std::optional<RecordBytes> File = State(Which);
-    Packer Out;
+    RecordPacker Out;
     PackedFile Result;
     if (!File) return {Out.Finish()};
     const qsizetype Width = RecordLength(Which);

@@ -33,13 +33,23 @@ bool NarrowPlain(const QString& Text, int Length, char* Out) {
     return All < 0x80;
 }
 
+// Enough bytes of a text for a field. To turn all of a long one, in another script say, would take
+// its time; where its letters need few bytes, or none, it must be.
+QByteArray Beginning(const QString& Text, int Width) {
+    const qsizetype Ample = 2 * Width;
+    if (Text.size() > Ample)
+        if (QByteArray Bytes = ToAnsi(QStringView(Text).first(Ample)); Bytes.size() >= Width + Width / 2)
+            return Bytes;
+    return ToAnsi(Text);
+}
+
 // At most Width bytes into Out; returns how many. A text that is cut may have a combining mark
 // behind the cut, so only one that fits, or is plain, goes the short way.
 int Narrow(const QString& Text, int Width, char* Out) {
     const bool Fits = Text.size() <= Width;
     if (Fits && NarrowPlain(Text, static_cast<int>(Text.size()), Out))
         return static_cast<int>(Text.size());
-    const QByteArray Bytes = ToAnsi(Text).left(Width);
+    const QByteArray Bytes = Beginning(Text, Width).left(Width);
     std::memcpy(Out, Bytes.constData(), static_cast<size_t>(Bytes.size()));
     return static_cast<int>(Bytes.size());
 }

@@ -130,7 +130,7 @@ void NoteRecordsAgain(const QString& DBPath) {
 NotedRecords CompareWithNoted(const QString& DBPath) {
     const std::optional<NotedFiles> Then = ReadNoted(DBPath);
     if (!Then) return {};
-    NotedRecords Found{.HadWords = Then->HasWords};
+    NotedRecords Found;
     bool IsOneUntouched = false;
     for (const RecordFile File : AllRecordFiles) {
         const FileIs Is =
@@ -145,8 +145,8 @@ NotedRecords CompareWithNoted(const QString& DBPath) {
 
 bool HasLostWords(const QString& DBPath) {
     if (NameExists(RecordPath(DBPath, RecordFile::Words))) return false;
-    const NotedRecords Noted = CompareWithNoted(DBPath);
-    return Noted.HadWords && Noted.Is != NotedRecords::State::Unknown;
+    const std::optional<NotedFiles> Then = ReadNoted(DBPath);
+    return Then && Then->HasWords && CompareWithNoted(DBPath).Is != NotedRecords::State::Unknown;
 }
 
 }  // namespace neb

@@ -29,11 +29,11 @@ struct NotedRecords {
     };
     State Is = State::Unknown;
     std::vector<RecordFile> Others;  // those that are not as they were written
-    bool HadWords = false;           // Words.dat was there; what it holds tells whether it is whole
 };
 // Changes nothing. A file that cannot be read is not as it was written.
 NotedRecords CompareWithNoted(const QString& DBPath);
-// Whether Words.dat has gone from beside records of that write.
+// Whether Words.dat has gone from beside records of that write; what it holds tells by itself
+// whether it is whole.
 bool HasLostWords(const QString& DBPath);
 
 }  // namespace neb

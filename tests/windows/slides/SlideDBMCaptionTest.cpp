@@ -77,11 +77,12 @@ TEST_F(SlideDBMCaption, WhatARecordHasNoRoomForIsCutWhereTheUserSeesIt) {
     Push("cmdSave");
     const QString Kept = Caption().text();
     EXPECT_TRUE(!Kept.isEmpty() && Kept.size() < 80);
-    EXPECT_LE(ToAnsi(Kept).size(), 80);
+    const QString Stored = AsStored(Kept);
+    EXPECT_LE(Stored.size(), 80);
     Push("cmdClose");
     Engine.FinalizeDB();
     Engine.InitializeDB();
-    EXPECT_EQ(Kept.toStdString(), Slide(1).SlideText.toStdString());
+    EXPECT_EQ(Stored.toStdString(), Slide(1).SlideText.toStdString());
 }
 
 TEST_F(SlideDBMCaption, TwoSlidesOfTheSameCaptionStayTwo) {
