@@ -127,6 +127,17 @@ TEST_F(WordsTool, TransfersBringThemBothWays) {
     EXPECT_TRUE(Told(Other).ends_with("|Зима|Весна a|路易 a|🐈 a|plain")) << Told(Other);
 }
 
+// Album by album would come without them, perhaps in the place of one that has them.
+TEST_F(WordsTool, NothingIsTakenFromADatabaseThatHasLostThem) {
+    Make(Other, u"b"_s);
+    const std::string Before = Told(Other);
+    WriteFile(Dir + u"Words.dat"_s, "damaged");
+    const ToolRun Result = Tool({u"transfer"_s, Dir, Other, u"--album"_s, u"a Leto"_s});
+    EXPECT_EQ(Result.Code, ExitFailed);
+    EXPECT_NE(Result.Err.find("Words.dat is damaged."), std::string::npos) << Result.Err;
+    EXPECT_EQ(Told(Other), Before);
+}
+
 TEST_F(WordsTool, AFolderForADiscHasThem) {
     const auto Engine = OpenEngine(Dir);
     const QString Disc = Place / u"disc/"_s;
