@@ -2,6 +2,7 @@
 
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
+#include "support/modText.h"
 
 namespace neb {
 namespace {
@@ -12,6 +13,16 @@ const char* const NoSlide = "Slide could not be found.";
 bool HasSlide(const clsDBEngine& theDB, std::int32_t SlideID) {
     return std::ranges::any_of(
         theDB.Albums, [&](const auto& Album) { return Album->GetSlide(SlideID) != nullptr; });
+}
+
+// Half a letter, which somebody may have pasted, could not be written.
+void MakeValid(clsNEBSlide& Slide) {
+    Slide.SlideText = ValidText(std::move(Slide.SlideText));
+}
+
+void MakeValid(clsNEBSlideShow& Show) {
+    Show.SlideShowName = ValidText(std::move(Show.SlideShowName));
+    for (const auto& Each : Show.Details) Each->SlideText = ValidText(std::move(Each->SlideText));
 }
 
 BoxRequest Missing(const char* Text) {
@@ -89,7 +100,7 @@ Answer<Announcement> Changes::MakeAlbum(const QString& AlbumName) {
     // A folder with pictures belongs to an album whose record has been lost, and to no new one.
     const std::int32_t Free = FreeAlbumID(mDB.DBPath(), mDB.NextAlbumID);
     const std::int32_t Next = std::exchange(mDB.NextAlbumID, Free);
-    const Answer<> Saved = mDB.SaveAlbum(AlbumID, AlbumName);
+    const Answer<> Saved = mDB.SaveAlbum(AlbumID, ValidText(AlbumName));
     if (!Saved) {
         mDB.NextAlbumID = Next;
         return Saved.Refusal();
@@ -99,7 +110,7 @@ Answer<Announcement> Changes::MakeAlbum(const QString& AlbumName) {
 
 Answer<Announcement> Changes::RenameAlbum(std::int32_t AlbumID, const QString& AlbumName) {
     if (!mDB.GetAlbum(AlbumID)) return Missing(NoAlbum);
-    const Answer<> Saved = mDB.SaveAlbum(AlbumID, AlbumName);
+    const Answer<> Saved = mDB.SaveAlbum(AlbumID, ValidText(AlbumName));
     if (!Saved) return Saved.Refusal();
     return Noted({Change::Kind::AlbumRenamed, AlbumID}, With::Nothing);
 }
@@ -118,7 +129,7 @@ Answer<Announcement> Changes::EnterSlide(std::int32_t AlbumID, const clsNEBSlide
     if (!Album) return Missing(NoAlbum);
     if (Slide.SlideID < mDB.NextSlideID && HasSlide(mDB, Slide.SlideID))
         return Refuse(QStringLiteral("There is a slide of the number %1.").arg(Slide.SlideID));
-    Album->Slides.push_back(std::make_unique<clsNEBSlide>(Slide));
+    MakeValid(*Album->Slides.emplace_back(std::make_unique<clsNEBSlide>(Slide)));
     mDB.NextSlideID = std::max(mDB.NextSlideID, Slide.SlideID + 1);
     return Noted({Change::Kind::SlideSaved, AlbumID, Slide.SlideID});
 }
@@ -128,8 +139,8 @@ Answer<Announcement> Changes::SaveSlide(std::int32_t AlbumID, const clsNEBSlide&
     if (!Album) return Missing(NoAlbum);
     std::int32_t SlideID = Slide.SlideID;
     if (!Album->GetSlide(SlideID)) mDB.NextSlideID = FreeSlideID(AlbumID);
-    Album->SaveSlide(SlideID, Slide.SlideText, Slide.SlideLoc, Slide.SoundTrackLoc, Slide.Override,
-                     Slide.Repeat, mDB);
+    Album->SaveSlide(SlideID, ValidText(Slide.SlideText), Slide.SlideLoc, Slide.SoundTrackLoc,
+                     Slide.Override, Slide.Repeat, mDB);
     return Noted({Change::Kind::SlideSaved, AlbumID, SlideID});
 }
 
@@ -144,7 +155,7 @@ Answer<Announcement> Changes::SaveCaption(std::int32_t AlbumID, std::int32_t Sli
 
 Announcement Changes::SaveCaption(std::int32_t AlbumID, clsNEBSlide& Slide,
                                   const QString& SlideText) {
-    Slide.SlideText = SlideText;
+    Slide.SlideText = ValidText(SlideText);
     return Noted({Change::Kind::SlideSaved, AlbumID, Slide.SlideID}, With::Nothing);
 }
 
@@ -166,6 +177,7 @@ std::int32_t Changes::FreeSlideShowID(std::int32_t AlbumID) const {
 Answer<Announcement> Changes::SaveShow(std::int32_t AlbumID, clsNEBSlideShow Show) {
     clsNEBAlbum* Album = mDB.GetAlbum(AlbumID);
     if (!Album) return Missing(NoAlbum);
+    MakeValid(Show);
     const clsNEBSlideShow* There = Album->GetSlideShow(Show.SlideShowID);
     auto Before = There ? There->Copy() : nullptr;
     if (!There) {

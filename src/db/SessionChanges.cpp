@@ -7,6 +7,7 @@
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
 #include "db/modLoadRecords.h"
+#include "db/records/WordsFile.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
 
@@ -14,7 +15,8 @@ namespace neb {
 namespace {
 
 // Four numbers: what was changed, and the keys of the thing. Then, for each record file, the packed
-// and the unpacked length, and the packed records.
+// and the unpacked length, and the packed records. Then, if there are any, the whole texts of these
+// records, as in Words.dat, to the end: entries of earlier versions have none.
 constexpr qsizetype KeysLength = 4 * 4;
 
 void Append(QByteArray& To, std::int64_t Number) {
@@ -46,7 +48,9 @@ class EntryReader {
             File = std::move(*Read);
             mPlace += Packed;
         }
-        if (mPlace != mBytes.size()) return std::nullopt;
+        Image.Words = mBytes.sliced(mPlace);
+        if (!Image.Words->isEmpty() && WordsIn(*Image.Words).Is != WordsFound::State::Sound)
+            return std::nullopt;
         return Image;
     }
 
@@ -135,12 +139,13 @@ QByteArray EntryOf(const clsDBEngine& Engine, const Change& What) {
     for (const std::int32_t Key :
          {static_cast<std::int32_t>(What.What), What.AlbumID, What.SlideID, What.SlideShowID})
         Append(Entry, Key);
-    for (const PackedRecords& File : BuildPart(Engine, What).Files) {
+    const RecordImage Part = BuildPart(Engine, What);
+    for (const PackedRecords& File : Part.Files) {
         Append(Entry, File.Bytes().size());
         Append(Entry, File.Length());
         Entry += File.Bytes();
     }
-    return Entry;
+    return Entry + *Part.Words;
 }
 
 bool CarryOutEntry(clsDBEngine& Engine, const QByteArray& Entry) {

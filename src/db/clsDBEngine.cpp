@@ -20,6 +20,7 @@ namespace {
 bool IsInJournal(const QString& DBPath, const RecordImage& Records) {
     RecordImage There;
     return ReadJournal(DBPath, &There) == JournalState::Whole &&
+           There.Words.value_or(QByteArray()) == Records.Words.value_or(QByteArray()) &&
            std::equal(There.Files.begin(), There.Files.end(), Records.Files.begin(),
                       [](const PackedRecords& One, const PackedRecords& Other) {
                           return One.Bytes() == Other.Bytes();
@@ -127,9 +128,7 @@ void clsDBEngine::LoadRecords(Recovery How) {
     if (How == Recovery::CarryOut && MayWriteDatabase(mDBPath) &&
         RecoverDatabase(mDBPath, mFound.PutAside, mFound.NotKept))
         return LoadFrom(RecordsInDirectory(mDBPath));
-    RecordImage Image;
-    const bool Unfinished = ReadJournal(mDBPath, &Image) == JournalState::Whole;
-    LoadFrom(Unfinished ? RecordsInImage(std::move(Image)) : RecordsInDirectory(mDBPath));
+    LoadFrom(RecordsAsLeft(mDBPath));
 }
 
 void clsDBEngine::LoadFrom(const RecordSource& Source) {

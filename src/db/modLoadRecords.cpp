@@ -3,6 +3,7 @@
 #include <unordered_map>
 
 #include "db/records/RecordCodec.h"
+#include "db/records/WholeWords.h"
 
 namespace neb {
 namespace {
@@ -36,13 +37,17 @@ std::uint64_t ShowKey(std::int32_t AlbumID, std::int32_t SlideShowID) {
 class TreeLoader {
   public:
     TreeLoader(clsDBEngine& Engine, const RecordSource& Source)
-        : mEngine(Engine), mSource(Source) {}
+        : mEngine(Engine), mSource(Source), mWords(WordsOf(Source).Texts) {}
 
-    // Each record goes to the Place of its type below.
+    // Each record goes to the Place of its type below, its texts whole.
     template <class Record>
     void Load() {
         const std::optional<RecordBytes> File = mSource(LayoutOf<Record>::File);
-        if (File) ForEachRecord<Record>(*File, [this](Record&& Row) { Place(std::move(Row)); });
+        if (!File) return;
+        ForEachRecord<Record>(*File, [this](Record&& Row) {
+            mWords.Complete(Row);
+            Place(std::move(Row));
+        });
     }
 
   private:
@@ -54,6 +59,7 @@ class TreeLoader {
 
     clsDBEngine& mEngine;
     const RecordSource& mSource;
+    WholeWords mWords;
     OwnerTable<std::int32_t, clsNEBAlbum> mAlbums;
     OwnerTable<std::uint64_t, clsNEBSlideShow> mShows;
 };
@@ -101,45 +107,53 @@ void TreeLoader::Place(SlideShowSoundTrackRecord&& Row) {
                              Row.SlideSeqEnd, Row.Repeat, Row.FitToSong, Row.Fade);
 }
 
+// The records, and what they cannot hold.
+struct Building {
+    RecordImage Image;
+    std::vector<WholeText> Words;
+};
+
 // One record into the file of its type.
 template <class Record>
-void Put(RecordImage& Image, const Record& Row) {
-    EncodeRecord(Image[LayoutOf<Record>::File], Row);
+void Put(Building& Into, const Record& Row) {
+    EncodeRecord(Into.Image[LayoutOf<Record>::File], Row);
+    NoteWhole(Into.Words, Row);
 }
 
 template <class Row>
-void PutLiveRows(RecordImage& Image, const std::vector<Row>& Rows) {
+void PutLiveRows(Building& Into, const std::vector<Row>& Rows) {
     for (const Row& Next : Rows)
-        if (Next.Deleted == 0) Put(Image, Next);
+        if (Next.Deleted == 0) Put(Into, Next);
 }
 
-void PutShow(RecordImage& Image, std::int32_t AlbumID, const clsNEBSlideShow& Show) {
-    Put(Image,
+void PutShow(Building& Into, std::int32_t AlbumID, const clsNEBSlideShow& Show) {
+    Put(Into,
         SlideShowRecord{Show.SlideShowID, AlbumID, Show.SlideShowName, Show.ProgressionMethod, 0});
     for (const auto& Detail : Show.Details)
-        Put(Image, SlideShowDetailRecord{Show.SlideShowID, AlbumID, Detail->SlideID,
-                                         Detail->SlideSeq, Detail->SlideText, 0});
+        Put(Into, SlideShowDetailRecord{Show.SlideShowID, AlbumID, Detail->SlideID,
+                                        Detail->SlideSeq, Detail->SlideText, 0});
     for (const auto& Track : Show.SoundTracks)
-        Put(Image, SlideShowSoundTrackRecord{Show.SlideShowID, AlbumID, Track->SoundTrackSeq,
-                                             Track->SoundTrackLoc, Track->SlideSeqStart,
-                                             Track->SlideSeqEnd, Track->Repeat, Track->FitToSong,
-                                             Track->Fade, 0});
+        Put(Into, SlideShowSoundTrackRecord{Show.SlideShowID, AlbumID, Track->SoundTrackSeq,
+                                            Track->SoundTrackLoc, Track->SlideSeqStart,
+                                            Track->SlideSeqEnd, Track->Repeat, Track->FitToSong,
+                                            Track->Fade, 0});
 }
 
-void PutSlide(RecordImage& Image, std::int32_t AlbumID, const clsNEBSlide& Slide) {
-    Put(Image, SlideRecord{Slide.SlideID, AlbumID, Slide.SlideText, Slide.SlideLoc,
-                           Slide.SoundTrackLoc, Slide.Override, Slide.Repeat, 0});
+void PutSlide(Building& Into, std::int32_t AlbumID, const clsNEBSlide& Slide) {
+    Put(Into, SlideRecord{Slide.SlideID, AlbumID, Slide.SlideText, Slide.SlideLoc,
+                          Slide.SoundTrackLoc, Slide.Override, Slide.Repeat, 0});
 }
 
-void PutAlbum(RecordImage& Image, const clsNEBAlbum& Album) {
-    Put(Image, AlbumRecord{Album.AlbumID, Album.AlbumName, 0});
-    for (const auto& Slide : Album.Slides) PutSlide(Image, Album.AlbumID, *Slide);
-    for (const auto& Show : Album.SlideShows) PutShow(Image, Album.AlbumID, *Show);
+void PutAlbum(Building& Into, const clsNEBAlbum& Album) {
+    Put(Into, AlbumRecord{Album.AlbumID, Album.AlbumName, 0});
+    for (const auto& Slide : Album.Slides) PutSlide(Into, Album.AlbumID, *Slide);
+    for (const auto& Show : Album.SlideShows) PutShow(Into, Album.AlbumID, *Show);
 }
 
-RecordImage Finished(RecordImage Image) {
-    for (PackedRecords& File : Image.Files) File.Finish();
-    return Image;
+RecordImage Finished(Building Made) {
+    for (PackedRecords& File : Made.Image.Files) File.Finish();
+    Made.Image.Words = WordsFileOf(Made.Words);
+    return std::move(Made.Image);
 }
 
 }  // namespace
@@ -154,34 +168,34 @@ void LoadAlbumTree(clsDBEngine& Engine, const RecordSource& Source) {
 }
 
 RecordImage BuildImage(const clsDBEngine& Engine, const AlbumToPut* With) {
-    RecordImage Image;
-    PutLiveRows(Image, Engine.Properties);
-    PutLiveRows(Image, Engine.EffectStats);
+    Building Made;
+    PutLiveRows(Made, Engine.Properties);
+    PutLiveRows(Made, Engine.EffectStats);
     const IDCounters Next =
         With ? With->Next
              : IDCounters{Engine.NextAlbumID, Engine.NextSlideID, Engine.NextSlideShowID};
-    Put(Image, NextIDsRecord{Next.AlbumID, Next.SlideID, Next.SlideShowID});
+    Put(Made, NextIDsRecord{Next.AlbumID, Next.SlideID, Next.SlideShowID});
     for (const auto& Album : Engine.Albums)
-        PutAlbum(Image, With && With->Album.AlbumID == Album->AlbumID ? With->Album : *Album);
-    if (With && !Engine.GetAlbum(With->Album.AlbumID)) PutAlbum(Image, With->Album);
-    return Finished(std::move(Image));
+        PutAlbum(Made, With && With->Album.AlbumID == Album->AlbumID ? With->Album : *Album);
+    if (With && !Engine.GetAlbum(With->Album.AlbumID)) PutAlbum(Made, With->Album);
+    return Finished(std::move(Made));
 }
 
 RecordImage BuildPart(const clsDBEngine& Engine, const Change& What) {
-    RecordImage Image;
-    Put(Image, NextIDsRecord{Engine.NextAlbumID, Engine.NextSlideID, Engine.NextSlideShowID});
+    Building Made;
+    Put(Made, NextIDsRecord{Engine.NextAlbumID, Engine.NextSlideID, Engine.NextSlideShowID});
     clsNEBAlbum* const Album = Engine.GetAlbum(What.AlbumID);
-    if (!Album) return Finished(std::move(Image));
+    if (!Album) return Finished(std::move(Made));
     if (IsWholeAlbum(What)) {
-        PutAlbum(Image, *Album);
-        return Finished(std::move(Image));
+        PutAlbum(Made, *Album);
+        return Finished(std::move(Made));
     }
-    Put(Image, AlbumRecord{Album->AlbumID, Album->AlbumName, 0});
+    Put(Made, AlbumRecord{Album->AlbumID, Album->AlbumName, 0});
     if (const clsNEBSlide* Slide = Album->GetSlide(What.SlideID))
-        PutSlide(Image, What.AlbumID, *Slide);
+        PutSlide(Made, What.AlbumID, *Slide);
     if (const clsNEBSlideShow* Show = Album->GetSlideShow(What.SlideShowID))
-        PutShow(Image, What.AlbumID, *Show);
-    return Finished(std::move(Image));
+        PutShow(Made, What.AlbumID, *Show);
+    return Finished(std::move(Made));
 }
 
 }  // namespace neb

@@ -12,8 +12,8 @@ namespace neb {
 // dropped.
 void LoadAlbumTree(clsDBEngine& Engine, const RecordSource& Source);
 
-// All eight files as they are to be written, in the order of the collections. With: as they will be
-// once this album stands there, at the end when it is a new one.
+// All files as they are to be written, Words.dat where there is any need of it, in the order of the
+// collections. With: as they will be once this album stands there, at the end when it is a new one.
 RecordImage BuildImage(const clsDBEngine& Engine, const AlbumToPut* With = nullptr);
 
 // The records of what has just been changed alone: the album's own, and of what it holds the slide,

@@ -132,4 +132,17 @@ QString FromAnsi(const char* Bytes, qsizetype Length) {
     return Text;
 }
 
+QString ValidText(QString Text) {
+    for (qsizetype I = 0; I < Text.size(); ++I) {
+        if (!Text[I].isSurrogate()) continue;
+        const bool IsPair =
+            Text[I].isHighSurrogate() && I + 1 < Text.size() && Text[I + 1].isLowSurrogate();
+        if (IsPair)
+            ++I;
+        else
+            Text[I] = QChar(QChar::ReplacementCharacter);
+    }
+    return Text;
+}
+
 }  // namespace neb

@@ -21,4 +21,8 @@ inline QString AsStored(const QString& Text) {
     return FromAnsi(ToAnsi(Text));
 }
 
+// Text of two-unit letters whose halves are all together: a half alone, which no file could hold,
+// becomes U+FFFD.
+QString ValidText(QString Text);
+
 }  // namespace neb

@@ -1,6 +1,7 @@
 #include "tools/modCheck.h"
 
 #include "db/modDatabaseLock.h"
+#include "db/records/RecordSums.h"
 #include "db/records/modJournal.h"
 #include "support/files/CheckSums.h"
 #include "support/files/modHostFiles.h"
@@ -16,16 +17,14 @@ namespace {
 
 // The records as the next start will see them. Also says what became of the last write.
 RecordSource CheckJournal(const QString& Dir, Findings& Found) {
-    RecordImage Image;
-    const JournalState State = ReadJournal(Dir, &Image);
+    const JournalState State = ReadJournal(Dir);
     if (State == JournalState::None) return RecordsInDirectory(Dir);
     Found.Add(State == JournalState::Whole
                   ? QStringLiteral("the last write did not come to its end; the next start of the "
                                    "program will complete it")
                   : QStringLiteral("a write was given up at its beginning; the next start of the "
                                    "program will forget it"));
-    return State == JournalState::Whole ? RecordsInImage(std::move(Image))
-                                        : RecordsInDirectory(Dir);
+    return RecordsAsLeft(Dir);
 }
 
 // A directory without any record file is a new database, and nothing is wrong with it.
@@ -84,6 +83,8 @@ int RunCheck(const QStringList& Arguments, ToolIO& IO) {
     {
         const RecordSource Source = CheckJournal(*Dir, Found);
         if (HasRecordFiles(Source)) CheckRecords(Source, Found);
+        if (!Source(RecordFile::Words) && HasLostWords(*Dir))
+            Found.Add(QStringLiteral("Words.dat: the file is missing"));
     }
     CheckFiles(Words[0], *Dir, WithFiles, Found, IO);
     return Found.Count() == 0 ? ExitDone : ExitFound;

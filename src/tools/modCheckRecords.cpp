@@ -2,7 +2,7 @@
 
 #include <set>
 
-#include "db/records/RecordCodec.h"
+#include "db/records/WholeWords.h"
 
 namespace neb {
 namespace {
@@ -166,10 +166,55 @@ void RecordChecker::CheckCounter(const char* Name, std::int32_t Next, std::int32
                 .arg(Highest));
 }
 
+template <class Record>
+void Match(const RecordSource& Source, WholeWords& Words) {
+    if (const std::optional<RecordBytes> File = Source(LayoutOf<Record>::File))
+        ForEachRecord<Record>(*File, [&](Record&& Row) { Words.Complete(Row); });
+}
+
+QString OwnerOf(const WholeText& Each) {
+    const auto Number = [&](size_t Which) { return QString::number(Each.Key[Which]); };
+    switch (Each.File) {
+        case RecordFile::Albums:
+            return QStringLiteral("album ") + Number(0);
+        case RecordFile::Slides:
+            return QStringLiteral("slide ") + Number(0);
+        case RecordFile::SlideShows:
+            return QStringLiteral("show ") + Number(0);
+        case RecordFile::SlideShowDetails:
+            return QStringLiteral("place %1 of show %2").arg(Number(3), Number(0));
+        default:
+            return QStringLiteral("sound track %1 of show %2").arg(Number(2), Number(0));
+    }
+}
+
+// The texts kept whole beside the records.
+void CheckWords(const RecordSource& Source, Findings& Found) {
+    const QString Where = QLatin1String(RecordFileName(RecordFile::Words)) + QStringLiteral(": ");
+    WordsFound Is = WordsOf(Source);
+    if (Is.Is == WordsFound::State::Damaged)
+        Found.Add(Where + QStringLiteral("the file is damaged; texts are shown as their records "
+                                         "have them"));
+    if (Is.Is == WordsFound::State::Later)
+        Found.Add(Where + QStringLiteral("the file was written by a later version of the program; "
+                                         "texts are shown as their records have them"));
+    WholeWords Words(std::move(Is.Texts));
+    Match<AlbumRecord>(Source, Words);
+    Match<SlideRecord>(Source, Words);
+    Match<SlideShowRecord>(Source, Words);
+    Match<SlideShowDetailRecord>(Source, Words);
+    Match<SlideShowSoundTrackRecord>(Source, Words);
+    for (const WholeText& Each : Words.Left())
+        Found.Add(Where + QStringLiteral("\"%1\" does not go with the record of %2 any more, whose "
+                                         "own text counts")
+                              .arg(Each.Text, OwnerOf(Each)));
+}
+
 }  // namespace
 
 void CheckRecords(const RecordSource& Source, Findings& Found) {
     RecordChecker(Source, Found).Run();
+    CheckWords(Source, Found);
 }
 
 }  // namespace neb

@@ -1,19 +1,30 @@
 #include "tools/modDump.h"
 
 #include "db/clsDBEngine.h"
+#include "db/records/WholeWords.h"
 #include "db/records/modJournal.h"
+#include "support/modText.h"
 #include "tools/modCommands.h"
 #include "tools/words/JsonWriter.h"
 
 namespace neb {
 namespace {
 
+// What the record has instead stands behind a text that it cannot hold.
+void DumpText(JsonWriter& Json, const char* Name, const QString& Text,
+              FieldKind Kind = FieldKind::Terminated) {
+    Json.Value(Name, Text);
+    const int Width = Kind == FieldKind::Path ? 255 : 80;
+    if (const auto Instead = words::StoredInstead(Kind, Width, Text))
+        Json.Value((QByteArray(Name) + "InRecord").constData(), FromAnsi(*Instead));
+}
+
 void DumpSlide(JsonWriter& Json, const clsNEBSlide& Slide) {
     Json.BeginObject();
     Json.Value("SlideID", Slide.SlideID);
-    Json.Value("SlideText", Slide.SlideText);
-    Json.Value("SlideLoc", Slide.SlideLoc);
-    Json.Value("SoundTrackLoc", Slide.SoundTrackLoc);
+    DumpText(Json, "SlideText", Slide.SlideText);
+    DumpText(Json, "SlideLoc", Slide.SlideLoc, FieldKind::Path);
+    DumpText(Json, "SoundTrackLoc", Slide.SoundTrackLoc, FieldKind::Path);
     Json.Value("Override", Slide.Override);
     Json.Value("Repeat", Slide.Repeat);
     Json.EndObject();
@@ -23,14 +34,14 @@ void DumpDetail(JsonWriter& Json, const clsNEBSlideShowDetail& Detail) {
     Json.BeginObject();
     Json.Value("SlideID", Detail.SlideID);
     Json.Value("SlideSeq", Detail.SlideSeq);
-    Json.Value("SlideText", Detail.SlideText);
+    DumpText(Json, "SlideText", Detail.SlideText);
     Json.EndObject();
 }
 
 void DumpSoundTrack(JsonWriter& Json, const clsNEBSlideShowSoundTrack& Track) {
     Json.BeginObject();
     Json.Value("SoundTrackSeq", Track.SoundTrackSeq);
-    Json.Value("SoundTrackLoc", Track.SoundTrackLoc);
+    DumpText(Json, "SoundTrackLoc", Track.SoundTrackLoc, FieldKind::Path);
     Json.Value("SlideSeqStart", Track.SlideSeqStart);
     Json.Value("SlideSeqEnd", Track.SlideSeqEnd);
     Json.Value("Repeat", Track.Repeat);
@@ -51,7 +62,7 @@ void DumpList(JsonWriter& Json, const char* Name,
 void DumpSlideShow(JsonWriter& Json, const clsNEBSlideShow& Show) {
     Json.BeginObject();
     Json.Value("SlideShowID", Show.SlideShowID);
-    Json.Value("SlideShowName", Show.SlideShowName);
+    DumpText(Json, "SlideShowName", Show.SlideShowName);
     Json.Value("ProgressionMethod", Show.ProgressionMethod);
     DumpList(Json, "Details", Show.Details, DumpDetail);
     DumpList(Json, "SoundTracks", Show.SoundTracks, DumpSoundTrack);
@@ -61,7 +72,7 @@ void DumpSlideShow(JsonWriter& Json, const clsNEBSlideShow& Show) {
 void DumpAlbum(JsonWriter& Json, const clsNEBAlbum& Album) {
     Json.BeginObject();
     Json.Value("AlbumID", Album.AlbumID);
-    Json.Value("AlbumName", Album.AlbumName);
+    DumpText(Json, "AlbumName", Album.AlbumName);
     DumpList(Json, "Slides", Album.Slides, DumpSlide);
     DumpList(Json, "SlideShows", Album.SlideShows, DumpSlideShow);
     Json.EndObject();

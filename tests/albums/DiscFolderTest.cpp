@@ -196,6 +196,23 @@ TEST_F(DiscFolder, AlbumsWhoseNamesDifferInCaseAloneBothComeIn) {
               ContentsOf(Dir));
 }
 
+TEST_F(DiscFolder, AlbumsAndCaptionsOfEveryScriptComeInWhole) {
+    const auto Summer = Source.MakeAlbum(u"Лето"_s), Other = Source.MakeAlbum(u"Лёто"_s);
+    Source.AddSlide(Summer, u"茶"_s, Qt::gray);
+    Source.AddSlide(Other, u"酒 "_s.repeated(90), Qt::gray);
+    ASSERT_TRUE(Write({{Summer}, {Other}}));
+    EXPECT_EQ(u"Лето: 茶 | Лёто: %1"_s.arg(u"酒 "_s.repeated(90)).toStdString(), ContentsOf(Dir));
+}
+
+TEST_F(DiscFolder, ANumberBehindALongNameCutsNoLetterInTwo) {
+    for (const QChar Letter : {u'x', u'X'})
+        Source.AddSlide(Source.MakeAlbum(QString(75, Letter) + u"🌹🌹"_s), u"s"_s, Qt::gray);
+    const DiscResult Result = Write({{3}, {4}});
+    ASSERT_TRUE(Result);
+    EXPECT_EQ((QString(75, u'x') + u"🌹🌹: s | "_s + QString(75, u'X') + u" (2): s"_s).toStdString(),
+              ContentsOf(Dir));
+}
+
 TEST_F(DiscFolder, AnAlbumThatHasGoneIsRefusedAndNothingStays) {
     ExpectRefused(Write({{Source.Sea}, {99}}), u"Failed to load the source album."_s);
     EXPECT_FALSE(FolderExists(Out / u"new"_s)) << "and what was made above it goes, too";

@@ -21,15 +21,22 @@ namespace {
 
 using namespace harness;
 
-// One write of a changed database over an older one (or over nothing), to be cut short.
+// One write of a changed database over an older one (or over nothing), to be cut short. Texts of
+// other scripts than the records' bring their own file along, or let it go.
 struct Scene {
+    struct Words {
+        QString Old = u"old"_s, New = u"new and longer"_s;
+        std::vector<std::int32_t> Gone = {1};  // albums
+    };
     bool HasOld;
+    Words Texts;
     Content Old, New;
 
-    explicit Scene(bool WithOld) : HasOld(WithOld) {
+    explicit Scene(bool WithOld) : Scene(WithOld, Words()) {}
+    Scene(bool WithOld, const Words& With) : HasOld(WithOld), Texts(With) {
         TempFolder Dir;
         const auto Engine = OpenEngine(Dir.Path());
-        if (HasOld) FillDatabase(*Engine, u"old"_s);
+        if (HasOld) FillDatabase(*Engine, Texts.Old);
         Old = ContentOf(*Engine);
         Prepare(Dir.Path());
         New = ContentOf(*Changed(Dir.Path()));
@@ -41,8 +48,8 @@ struct Scene {
     }
     std::unique_ptr<clsDBEngine> Changed(const QString& Dir) const {
         auto Engine = OpenEngine(Dir);
-        Engine->DeleteAlbum(1);
-        FillDatabase(*Engine, u"new and longer"_s);
+        for (const std::int32_t AlbumID : Texts.Gone) Engine->DeleteAlbum(AlbumID);
+        FillDatabase(*Engine, Texts.New);
         return Engine;
     }
     // The database as the next start sees it must be one of the two. True when it is the new one.
@@ -95,6 +102,20 @@ TEST(Crash, ALossOfPowerLeavesTheOldOrTheNewDatabase) {
     KillAtEveryStep(Scene(false), Kill::PowerLoss);
 }
 
+// They come, they change, they go.
+TEST(Crash, WholeTextsAreThoseOfTheRecordsWhateverStepIsTheLast) {
+    const QString Plain = u"summer"_s, Summer = u"лето"_s, Winter = u"зима 冬 ❄"_s;
+    const Scene Comes(true, {Plain, Summer}), Changes(true, {Summer, Winter}),
+        Goes(true, {Summer, Plain, {1, 2}}), First(false, {{}, Summer});
+    for (const auto& [TheScene, Before, After] :
+         {std::tuple{&Comes, 0u, 1u}, {&Changes, 1u, 1u}, {&Goes, 1u, 0u}, {&First, 0u, 1u}}) {
+        ASSERT_EQ(TheScene->Old.count("Words.dat"), Before);
+        ASSERT_EQ(TheScene->New.count("Words.dat"), After);
+        for (const Kill How : {Kill::BeforeStep, Kill::InsideWrite, Kill::PowerLoss})
+            KillAtEveryStep(*TheScene, How);
+    }
+}
+
 TEST(Crash, AKillDuringTheFirstWriteOfAllLeavesNothingOrTheNewDatabase) {
     KillAtEveryStep(Scene(false), Kill::BeforeStep);
     KillAtEveryStep(Scene(false), Kill::InsideWrite);
@@ -121,19 +142,26 @@ bool KillTheRecovery(const Scene& TheScene, int First, Kill How, std::set<int>& 
     }
 }
 
-TEST(Crash, AKillDuringTheRecoveryIsRecoveredFrom) {
-    const Scene TheScene(true);
+void KillEachRecovery(const Scene& TheScene) {
     for (const Kill How : {Kill::PowerLoss, Kill::InsideWrite}) {
         std::set<int> Tried;
         int First = 1;
         while (KillTheRecovery(TheScene, First, How, Tried)) {
-            ASSERT_FALSE(HasFailure());
+            ASSERT_FALSE(::testing::Test::HasFailure());
             ASSERT_LT(++First, 200);
         }
         // each record file is deleted, written and flushed, at the least, and none is left out
         ASSERT_GE(Tried.size(), (How == Kill::InsideWrite ? 1 : 3) * RecordFileCount);
         EXPECT_GE(static_cast<int>(Tried.size()) + 2, *Tried.rbegin()) << "but for the very last";
     }
+}
+
+TEST(Crash, AKillDuringTheRecoveryIsRecoveredFrom) {
+    KillEachRecovery(Scene(true));
+}
+
+TEST(Crash, AKillDuringTheRecoveryOfWholeTextsIsRecoveredFrom) {
+    KillEachRecovery(Scene(true, {u"лето"_s, u"зима"_s}));
 }
 
 // What the first has not flushed is on no disk yet, however long ago that was.

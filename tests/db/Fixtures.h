@@ -25,12 +25,13 @@ inline QByteArray FileBytes(const QString& Dir, const char* Name) {
     return ReadFile(Dir + QLatin1String(Name));
 }
 
-// All eight files of a directory by name; a missing one is not in the map.
+// All eight files of a directory by name, and Words.dat; a missing one is not in the map.
 inline std::map<std::string, QByteArray> AllRecords(const QString& Dir) {
     std::map<std::string, QByteArray> Files;
     for (const RecordFile File : AllRecordFiles)
         if (FileExists(Dir + QLatin1String(RecordFileName(File))))
             Files[RecordFileName(File)] = FileBytes(Dir, RecordFileName(File));
+    if (FileExists(Dir + u"Words.dat"_s)) Files["Words.dat"] = FileBytes(Dir, "Words.dat");
     return Files;
 }
 

@@ -7,6 +7,7 @@
 #include "db/modLoadRecords.h"
 #include "db/records/RecordCodec.h"
 #include "support/Fault.h"
+#include "support/modText.h"
 
 namespace neb {
 namespace {
@@ -231,6 +232,19 @@ TEST(RecordFiles, AFlagOfAnyOtherValueIsTrueAndIsWrittenAsMinusOne) {
     EXPECT_TRUE(Row.Override);
     EXPECT_TRUE(Row.Repeat);
     EXPECT_EQ(Written(Row).mid(598, 4), Hex("ffff ffff"));
+}
+
+TEST(RecordFiles, OfALongTextTheFirstBytesAreStored) {
+    for (const QString& Text :
+         {u"Десять тысяч слов о лете. "_s.repeated(80), u"茶と猫 "_s.repeated(400),
+          u"👨‍👩‍👧‍👦"_s.repeated(200),
+          u"e\u0301\u0302\u0303\u0304\u0306\u0307"_s.repeated(120), QString(400, u'x'),
+          QString(1000, u'\u200B') + u"behind"_s}) {
+        SlideRecord Row;
+        Row.SlideText = Text;
+        EXPECT_EQ(Written(Row).mid(8, 80).toHex(),
+                  Written(AlbumRecord{0, FromAnsi(ToAnsi(Text).left(80))}).mid(4, 80).toHex());
+    }
 }
 
 TEST(RecordFiles, TheProgressionMethodIsNarrowedToSixteenBits) {

@@ -41,7 +41,7 @@ class Restore : public ::testing::Test {
         Engine->FinalizeDB();
         Old = ContentOf(*Engine);
         Engine->DeleteAlbum(1);
-        FillDatabase(*Engine, u"new and longer"_s);
+        FillDatabase(*Engine, u"новое, and longer"_s);
         Engine->FinalizeDB();
         New = ContentOf(*Engine);
     }

@@ -17,6 +17,7 @@ inline Content ContentOf(const clsDBEngine& Engine) {
     const RecordImage Image = BuildImage(Engine);
     Content Files;
     for (const RecordFile File : AllRecordFiles) Files[RecordFileName(File)] = Image[File].Unpack();
+    if (!Image.Words->isEmpty()) Files[RecordFileName(RecordFile::Words)] = *Image.Words;
     return Files;
 }
 

@@ -49,6 +49,7 @@ inline std::map<std::string, QByteArray> MemoryOf(const clsDBEngine& Engine) {
     const RecordImage Image = BuildImage(Engine);
     std::map<std::string, QByteArray> Files;
     for (const RecordFile File : AllRecordFiles) Files[RecordFileName(File)] = Image[File].Unpack();
+    if (!Image.Words->isEmpty()) Files[RecordFileName(RecordFile::Words)] = *Image.Words;
     return Files;
 }
 

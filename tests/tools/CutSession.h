@@ -193,7 +193,7 @@ class CutSession {
     }
     static void SaveShow(clsDBEngine& Engine, std::int32_t ShowID, const QStringList& Sounds) {
         ShowContent Show{.AlbumID = 1, .SlideShowID = ShowID, .Name = u"Walk"_s};
-        Show.Slides = {{1, u"first"_s, u"first"_s}, {3, u"third"_s, u"its own"_s}};
+        Show.Slides = {{1, u"first"_s, u"first"_s}, {3, u"third"_s, u"ёлка"_s}};
         double Place = 0;
         for (const QString& Each : Sounds)
             ++Place, Show.Tracks.push_back(
@@ -220,7 +220,7 @@ class CutSession {
             {"a second album is made", true, [](auto& E) { MakeAlbum(E, u"Town"_s); }},
             {"picture 4 comes in", true, [](auto& E) { Enter(E, 2, u"four"_s); }},
             {"a caption is written", false,
-             [](auto& E) { Changes(E).SaveCaption(1, 1, u"a caption"_s); }},
+             [](auto& E) { Changes(E).SaveCaption(1, 1, u"茶と猫 🐈\u200D⬛"_s); }},
             {"a sound is recorded", true,
              [](auto& E) { Save(E, 1, [](auto& Slide) { Slide.Record("recorded"); }); }},
             {"a show is saved", true,
@@ -233,7 +233,7 @@ class CutSession {
             {"the show is deleted", false, [](auto& E) { Changes(E).DeleteShow(1, 1); }},
             {"another show is saved", true,
              [](auto& E) { SaveShow(E, 0, {Folder + u"two.mp3"_s}); }},
-            {"the album is renamed", false, [](auto& E) { Changes(E).RenameAlbum(1, u"Park"_s); }},
+            {"the album is renamed", false, [](auto& E) { Changes(E).RenameAlbum(1, u"Парк"_s); }},
             {"the sound is cleared", true,
              [](auto& E) { Save(E, 1, [](auto& Slide) { Slide.ClearSound(); }); }},
             {"an album is deleted", false, [](auto& E) { DeleteAlbum(E, 2); }},

@@ -141,7 +141,9 @@ QString FreeName(const clsDBEngine& In, const QString& Wanted) {
     QString Name = Wanted;
     for (int Number = 2; In.FindAlbum(0, ConvertQuotes(Name)); ++Number) {
         const QString Tail = QStringLiteral(" (%1)").arg(Number);
-        Name = Wanted.left(MaxAlbumName - Tail.size()) + Tail;
+        Name = Wanted.left(MaxAlbumName - Tail.size());
+        if (Name.back().isHighSurrogate()) Name.chop(1);
+        Name += Tail;
     }
     return Name;
 }

@@ -2,21 +2,23 @@
 
 #include <QCryptographicHash>
 #include <QtEndian>
-#include <cstring>
 #include <set>
 
 #include "db/records/RecordCodec.h"
+#include "db/records/RecordPacker.h"
+#include "db/records/WordsFile.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
 
 namespace neb {
 namespace {
 
-constexpr QByteArrayView Magic = "NEBGENS1";
+constexpr QByteArrayView Magic = "NEBGENS1", WordsMagic = "NEBGENS2";
 constexpr auto Method = QCryptographicHash::Blake2b_256;
 constexpr qsizetype SumLength = 32, NumberLength = 8;
 constexpr qsizetype CountsStart = 8 + 2 * NumberLength, LengthsStart = 8 + 5 * NumberLength;
 constexpr qsizetype HeadLength = LengthsStart + 2 * NumberLength * qsizetype{RecordFileCount};
+constexpr qsizetype LongestHead = HeadLength + NumberLength;
 constexpr qint64 LatestTime = 253402300799999;  // the end of the year 9999
 // A piece of 4 bytes stands for at most 255 blanks. What claims more would not fit into memory.
 constexpr qint64 MostUnpacked = 64;
@@ -35,60 +37,6 @@ qint64 NumberAt(const QByteArray& Bytes, qsizetype Place) {
     return qFromLittleEndian<qint64>(Bytes.constData() + Place);
 }
 
-// Packs the bytes of a record file, whatever they are; the same bytes always come out alike.
-class Packer {
-  public:
-    void Add(QByteArrayView Bytes) {
-        while (!Bytes.isEmpty()) {
-            const qsizetype Run = NextRun(Bytes);
-            AddLiteral(Bytes.first(Run));
-            Bytes = Bytes.sliced(Run);
-            const qsizetype Count = BlanksAt(Bytes);
-            AddBlanks(Count);
-            Bytes = Bytes.sliced(Count);
-        }
-    }
-    PackedRecords Finish() {
-        mPacked.Finish();
-        return std::move(mPacked);
-    }
-
-  private:
-    static constexpr qsizetype LeastRun = 8, MostAtOnce = 255;
-
-    static qsizetype BlanksAt(QByteArrayView Bytes) {
-        static constexpr char Sixteen[] = "                ";
-        qsizetype Count = 0;
-        while (Bytes.size() - Count >= 16 && std::memcmp(Bytes.data() + Count, Sixteen, 16) == 0)
-            Count += 16;
-        while (Count < Bytes.size() && Bytes[Count] == ' ') ++Count;
-        return Count;
-    }
-    // Where the next blanks begin that are worth a piece.
-    static qsizetype NextRun(QByteArrayView Bytes) {
-        for (qsizetype Place = 0; (Place = Bytes.indexOf(' ', Place)) >= 0;) {
-            const qsizetype Count = BlanksAt(Bytes.sliced(Place));
-            if (Count >= LeastRun) return Place;
-            Place += Count;
-        }
-        return Bytes.size();
-    }
-    void AddLiteral(QByteArrayView Bytes) {
-        for (; !Bytes.isEmpty(); Bytes = Bytes.sliced(std::min(MostAtOnce, Bytes.size()))) {
-            const qsizetype Count = std::min(MostAtOnce, Bytes.size());
-            mPacked.BeginRecord(Count);
-            mPacked.Literal(Bytes.data(), static_cast<size_t>(Count));
-        }
-    }
-    void AddBlanks(qsizetype Count) {
-        for (; Count > 0; Count -= std::min(MostAtOnce, Count)) {
-            mPacked.BeginRecord(0);
-            mPacked.Blanks(static_cast<int>(std::min(MostAtOnce, Count)));
-        }
-    }
-    PackedRecords mPacked;
-};
-
 struct PackedFile {
     PackedRecords Content;
     qint64 Live = 0;  // records that are not marked as deleted; of those that have the mark
@@ -104,7 +52,7 @@ qint64 LiveIn(QByteArrayView Records, qsizetype Width) {
 
 PackedFile PackFile(const RecordSource& State, RecordFile Which) {
     const std::optional<RecordBytes> File = State(Which);
-    Packer Out;
+    RecordPacker Out;
     PackedFile Result;
     if (!File) return {Out.Finish()};
     const qsizetype Width = RecordLength(Which);
@@ -126,14 +74,27 @@ QByteArray SumOf(QByteArrayView Bytes) {
     return Sum.result();
 }
 
-// The packed lengths of a head; nothing when they cannot be.
-std::optional<qint64> PackedLengthIn(const QByteArray& Head) {
-    qint64 All = 0;
+// Of one that has whole texts: behind the others stands how long these are.
+bool HasWords(const QByteArray& Head) {
+    return Head.startsWith(WordsMagic) && Head.size() >= LongestHead;
+}
+
+qsizetype HeadLengthOf(const QByteArray& Head) {
+    return HasWords(Head) ? LongestHead : HeadLength;
+}
+
+bool CanBeLength(qint64 Length) {
+    return Length >= 0 && Length <= std::numeric_limits<qint64>::max() / 128;
+}
+
+// The lengths of all that a head says to follow; nothing when they cannot be.
+std::optional<qint64> ContentLengthIn(const QByteArray& Head) {
+    qint64 All = HasWords(Head) ? NumberAt(Head, HeadLength) : 0;
+    if (!CanBeLength(All)) return std::nullopt;
     for (size_t I = 0; I < RecordFileCount; ++I) {
         const qsizetype Place = LengthsStart + 2 * NumberLength * static_cast<qsizetype>(I);
         const qint64 Packed = NumberAt(Head, Place), Length = NumberAt(Head, Place + NumberLength);
-        if (Packed < 0 || Packed > std::numeric_limits<qint64>::max() / 128 || Length < 0 ||
-            Length > Packed * MostUnpacked)
+        if (!CanBeLength(Packed) || Length < 0 || Length > Packed * MostUnpacked)
             return std::nullopt;
         All += Packed;
     }
@@ -146,9 +107,10 @@ bool IsTime(qint64 When) {
 
 // From its first bytes, where they go with a file of this length.
 std::optional<Generation> AboutIn(const QByteArray& Head, qint64 FileLength) {
-    if (Head.size() < HeadLength || !Head.startsWith(Magic)) return std::nullopt;
-    const auto Packed = PackedLengthIn(Head);
-    if (!Packed || *Packed != FileLength - HeadLength - SumLength) return std::nullopt;
+    if (Head.size() < HeadLength || !(Head.startsWith(Magic) || HasWords(Head)))
+        return std::nullopt;
+    const auto Content = ContentLengthIn(Head);
+    if (!Content || *Content != FileLength - HeadLengthOf(Head) - SumLength) return std::nullopt;
     Generation About;
     About.Saved = NumberAt(Head, 8);
     About.Kept = NumberAt(Head, 8 + NumberLength);
@@ -163,7 +125,7 @@ std::optional<Generation> AboutIn(const QByteArray& Head, qint64 FileLength) {
 // One that cannot be read is none to go back to.
 std::optional<Generation> AboutAt(const QString& Path) {
     try {
-        return AboutIn(ReadFileHead(Path, HeadLength), FileSize(Path));
+        return AboutIn(ReadFileHead(Path, LongestHead), FileSize(Path));
     } catch (const Fault&) {
         return std::nullopt;
     }
@@ -250,6 +212,7 @@ bool AreTheRecords(const RecordSource& There, const RecordImage& Next) {
         const auto Bytes = There(File);
         if (!Bytes || Bytes->Length != Next[File].Length()) return false;
     }
+    if (Next.Words && *Next.Words != WordBytesOf(There).value_or(QByteArray())) return false;
     return std::all_of(AllRecordFiles.begin(), AllRecordFiles.end(),
                        [&](RecordFile File) { return IsContentOf(Next[File], *There(File)); });
 }
@@ -351,13 +314,17 @@ QByteArray BytesOfGeneration(const RecordSource& State, qint64 Saved, qint64 Kep
     std::array<PackedFile, RecordFileCount> Files;
     for (const RecordFile File : AllRecordFiles)
         Files[static_cast<size_t>(File)] = PackFile(State, File);
-    QByteArray Bytes = Magic.toByteArray() + Number(Saved) + Number(Kept);
+    const QByteArray Words = WordBytesOf(State).value_or(QByteArray());
+    const QByteArrayView Beginning = Words.isEmpty() ? Magic : WordsMagic;
+    QByteArray Bytes = Beginning.toByteArray() + Number(Saved) + Number(Kept);
     for (const RecordFile Counted :
          {RecordFile::Albums, RecordFile::Slides, RecordFile::SlideShows})
         Bytes += Number(Files[static_cast<size_t>(Counted)].Live);
     for (const PackedFile& Each : Files)
         Bytes += Number(Each.Content.Bytes().size()) + Number(Each.Content.Length());
+    if (!Words.isEmpty()) Bytes += Number(Words.size());
     for (const PackedFile& Each : Files) Bytes += Each.Content.Bytes();
+    Bytes += Words;
     return Bytes + SumOf(Bytes);
 }
 
@@ -366,7 +333,7 @@ std::optional<RecordImage> GenerationIn(const QByteArray& Bytes, Generation* Abo
     if (!Head || SumOf(QByteArrayView(Bytes).chopped(SumLength)) != Bytes.last(SumLength))
         return std::nullopt;
     RecordImage Image;
-    qsizetype Place = HeadLength;
+    qsizetype Place = HeadLengthOf(Bytes);
     for (size_t I = 0; I < RecordFileCount; ++I) {
         const qsizetype Row = LengthsStart + 2 * NumberLength * static_cast<qsizetype>(I);
         const qint64 Packed = NumberAt(Bytes, Row);
@@ -376,6 +343,7 @@ std::optional<RecordImage> GenerationIn(const QByteArray& Bytes, Generation* Abo
         Image.Files[I] = std::move(*File);
         Place += Packed;
     }
+    Image.Words = Bytes.sliced(Place).chopped(SumLength);
     if (About) *About = *Head;
     return Image;
 }

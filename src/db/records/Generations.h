@@ -47,8 +47,9 @@ void ThinOutGenerations(const QString& DBPath);
 std::vector<Generation> TooManyOf(const std::vector<Generation>& LastFirst);
 
 // The form of the file: magic; Saved, Kept, albums, slides, shows; for each record file the packed
-// and the unpacked length; the packed files; the check sum of all that. Numbers have 8 bytes, the
-// lowest first. The counts are taken from the records.
+// and the unpacked length; with whole texts, which has a magic of its own, their length; the packed
+// files; the whole texts; the check sum of all that. Numbers have 8 bytes, the lowest first. The
+// counts are taken from the records.
 QByteArray BytesOfGeneration(const RecordSource& State, qint64 Saved, qint64 Kept);
 // Nothing for bytes of any other kind; About, when given, gets all but the path.
 std::optional<RecordImage> GenerationIn(const QByteArray& Bytes, Generation* About = nullptr);

@@ -33,15 +33,32 @@ bool NarrowPlain(const QString& Text, int Length, char* Out) {
     return All < 0x80;
 }
 
+// Enough bytes of a text for a field. To turn all of a long one, in another script say, would take
+// its time; where its letters need few bytes, or none, it must be.
+QByteArray Beginning(const QString& Text, int Width) {
+    const qsizetype Ample = 2 * Width;
+    if (Text.size() > Ample)
+        if (QByteArray Bytes = ToAnsi(QStringView(Text).first(Ample)); Bytes.size() >= Width + Width / 2)
+            return Bytes;
+    return ToAnsi(Text);
+}
+
 // At most Width bytes into Out; returns how many. A text that is cut may have a combining mark
 // behind the cut, so only one that fits, or is plain, goes the short way.
 int Narrow(const QString& Text, int Width, char* Out) {
     const bool Fits = Text.size() <= Width;
     if (Fits && NarrowPlain(Text, static_cast<int>(Text.size()), Out))
         return static_cast<int>(Text.size());
-    const QByteArray Bytes = ToAnsi(Text).left(Width);
+    const QByteArray Bytes = Beginning(Text, Width).left(Width);
     std::memcpy(Out, Bytes.constData(), static_cast<size_t>(Bytes.size()));
     return static_cast<int>(Bytes.size());
+}
+
+// The same as the field has it.
+int NarrowField(FieldKind Kind, int Width, const QString& Text, char* Out) {
+    const int Count = Narrow(Text, Width, Out);
+    if (Kind == FieldKind::Path) std::replace(Out, Out + Count, '/', '\\');
+    return Count;
 }
 
 }  // namespace
@@ -105,11 +122,17 @@ void Encode(PackedRecords& Out, FieldKind, int, double Value) {
 
 void Encode(PackedRecords& Out, FieldKind Kind, int Width, const QString& Value) {
     char Bytes[MaxWidth];
-    int Count = Narrow(Value, Width, Bytes);
-    if (Kind == FieldKind::Path) std::replace(Bytes, Bytes + Count, '/', '\\');
+    int Count = NarrowField(Kind, Width, Value, Bytes);
     if (Kind != FieldKind::Padded && Count < Width) Bytes[Count++] = 0;
     Out.Literal(Bytes, static_cast<size_t>(Count));
     if (Count < Width) Out.Blanks(Width - Count);
+}
+
+QByteArray Stored(FieldKind Kind, int Width, const QString& Value) {
+    char Bytes[MaxWidth];
+    const QByteArray All(Bytes, NarrowField(Kind, Width, Value, Bytes));
+    const qsizetype End = Kind == FieldKind::Padded ? -1 : All.indexOf('\0');
+    return End < 0 ? All : All.first(End);
 }
 
 QByteArray ZeroFilled(const char* Bytes, qint64 Count, qint64 Length) {

@@ -24,6 +24,9 @@ void Encode(PackedRecords& Out, FieldKind Kind, int Width, bool Value);
 void Encode(PackedRecords& Out, FieldKind Kind, int Width, double Value);
 void Encode(PackedRecords& Out, FieldKind Kind, int Width, const QString& Value);
 
+// What a field holds of a text: its bytes before the NUL and the blanks.
+QByteArray Stored(FieldKind Kind, int Width, const QString& Value);
+
 // The bytes, and zeros behind them up to Length.
 QByteArray ZeroFilled(const char* Bytes, qint64 Count, qint64 Length);
 

@@ -22,7 +22,10 @@ struct Noted {
         return Length == Other.Length && Sum == Other.Sum;
     }
 };
-using NotedFiles = std::array<Noted, RecordFileCount>;
+struct NotedFiles {
+    std::array<Noted, RecordFileCount> Records;
+    bool HasWords = false;
+};
 
 QByteArray SumOf(const QString& Path) {
     HostReader Reader(Path);
@@ -53,12 +56,13 @@ std::optional<NotedFiles> FilesIn(const QByteArray& Bytes) {
     if (!Bytes.startsWith(Head) || SumOfText(QByteArrayView(Bytes).first(End)) != Bytes.mid(End))
         return std::nullopt;
     const QList<QByteArray> Lines = Bytes.split('\n');
-    if (Lines.size() != qsizetype{RecordFileCount} + 2) return std::nullopt;
-    NotedFiles Files;
+    const qsizetype Count = Lines.size() - 2;  // without the head and the sum
+    NotedFiles Files{{}, Count == qsizetype{RecordFileCount} + 1};
+    if (Count != qsizetype{RecordFileCount} && !Files.HasWords) return std::nullopt;
     for (size_t I = 0; I < RecordFileCount; ++I) {
         const QList<QByteArray> Words = Lines[static_cast<qsizetype>(I) + 1].split(' ');
         if (Words.size() != 3) return std::nullopt;
-        Files[I] = {Words[0].toLongLong(), Words[1].toLongLong(), Words[2]};
+        Files.Records[I] = {Words[0].toLongLong(), Words[1].toLongLong(), Words[2]};
     }
     return Files;
 }
@@ -114,6 +118,8 @@ void NoteRecordsAgain(const QString& DBPath) {
             const QString Path = RecordPath(DBPath, File);
             Text += LineOf(NameExists(Path) ? NotedAt(Path) : Noted());
         }
+        if (const QString Words = RecordPath(DBPath, RecordFile::Words); NameExists(Words))
+            Text += LineOf(NotedAt(Words));
         ReplaceFile(RecordSumsPath(DBPath), Text + SumOfText(Text));
         SyncDir(GetFilePath(RecordSumsPath(DBPath)));
     } catch (const Fault&) {
@@ -127,13 +133,20 @@ NotedRecords CompareWithNoted(const QString& DBPath) {
     NotedRecords Found;
     bool IsOneUntouched = false;
     for (const RecordFile File : AllRecordFiles) {
-        const FileIs Is = Compare(RecordPath(DBPath, File), (*Then)[static_cast<size_t>(File)]);
+        const FileIs Is =
+            Compare(RecordPath(DBPath, File), Then->Records[static_cast<size_t>(File)]);
         if (Is == FileIs::Other) Found.Others.push_back(File);
         IsOneUntouched |= Is == FileIs::Untouched;
     }
     using enum NotedRecords::State;
     Found.Is = Found.Others.empty() ? AsWritten : IsOneUntouched ? Changed : Unknown;
     return Found;
+}
+
+bool HasLostWords(const QString& DBPath) {
+    if (NameExists(RecordPath(DBPath, RecordFile::Words))) return false;
+    const std::optional<NotedFiles> Then = ReadNoted(DBPath);
+    return Then && Then->HasWords && CompareWithNoted(DBPath).Is != NotedRecords::State::Unknown;
 }
 
 }  // namespace neb

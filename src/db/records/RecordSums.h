@@ -1,5 +1,6 @@
 // What the last write left in the record files: their lengths, check sums and dates, in a small
-// file beside the journals. All eight are always written together, so that a start can tell one
+// file beside the journals, with those of Words.dat where it is there. All are always written
+// together, so that a start can tell one
 // that something else has changed since from a backup of all that was put back. Written by
 // modJournal, read by the look at a database before it is opened.
 //
@@ -31,5 +32,8 @@ struct NotedRecords {
 };
 // Changes nothing. A file that cannot be read is not as it was written.
 NotedRecords CompareWithNoted(const QString& DBPath);
+// Whether Words.dat has gone from beside records of that write; what it holds tells by itself
+// whether it is whole.
+bool HasLostWords(const QString& DBPath);
 
 }  // namespace neb

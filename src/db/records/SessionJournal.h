@@ -24,7 +24,9 @@ QString SessionJournalPath(const QString& DBPath);
 bool IsDatabaseThere(const QString& DBPath);
 
 // The records that are there now, as a check sum over the content of all eight files: as a whole
-// journal has them where there is one, for they are written from it. Throws Fault when they cannot
+// journal has them where there is one, for they are written from it. Whole texts beside them, which
+// are bound to them anyway, do not count: a session that goes with the records is brought back
+// whatever has become of those. Throws Fault when they cannot
 // be read.
 QByteArray SumOfRecords(const QString& DBPath);
 

@@ -2,33 +2,21 @@
 
 #include <QCryptographicHash>
 #include <QDateTime>
-#include <QtEndian>
 #include <functional>
 #include <span>
 
 #include "db/records/Generations.h"
+#include "db/records/JournalForm.h"
 #include "db/records/KeptAside.h"
 #include "db/records/RecordSums.h"
 #include "db/records/SessionJournal.h"
+#include "db/records/WordsFile.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
 #include "support/files/modHostFilesAccess.h"
 
 namespace neb {
 namespace {
-
-// Magic; for each file the packed and the unpacked length; for each file the length and the check
-// sum of the one that it takes the place of; the packed files; the check sum of all that. Journals
-// of the first kind do not know which files they replace; those of the half kind replace what a
-// write has left that came to no end, which is no state to go back to.
-constexpr QByteArrayView Magic = "NEBJRNL2", FirstMagic = "NEBJRNL1", HalfMagic = "NEBJRNL3";
-constexpr qsizetype CountLength = 8;
-constexpr qsizetype FileCount = static_cast<qsizetype>(RecordFileCount);
-constexpr qsizetype BaseStart = 8 + 2 * CountLength * FileCount;
-constexpr auto Method = QCryptographicHash::Blake2b_256;
-constexpr qsizetype SumLength = 32;
-constexpr qsizetype BaseLength = CountLength + SumLength;
-constexpr qint64 NoFile = -1;
 
 constexpr std::array FilesWrittenTogether = {RecordFile::Albums, RecordFile::Slides,
                                              RecordFile::SlideShows, RecordFile::SlideShowDetails,
@@ -58,49 +46,12 @@ void DeleteIfPossible(const QString& Path) {
     }
 }
 
-QByteArray Count(qint64 Number) {
-    QByteArray Bytes(CountLength, Qt::Uninitialized);
-    qToLittleEndian(Number, Bytes.data());
-    return Bytes;
-}
-
-// A record file as it is now: its length and check sum.
-QByteArray BaseOf(const QString& Path) {
-    if (!FileExists(Path)) return Count(NoFile) + QByteArray(SumLength, '\0');
-    HostReader Reader(Path);
-    QCryptographicHash Sum(Method);
-    QByteArray Room(1 << 20, Qt::Uninitialized);
-    for (qint64 Got; (Got = Reader.Read(Room.data(), Room.size())) > 0;)
-        Sum.addData(QByteArrayView(Room).first(Got));
-    return Count(Reader.Length()) + Sum.result();
-}
-
-// Where the packed files begin; 0 for what is no journal.
-qsizetype HeadLengthOf(const QByteArray& Journal) {
-    if (Journal.startsWith(FirstMagic)) return BaseStart;
-    const bool IsBound = Journal.startsWith(Magic) || Journal.startsWith(HalfMagic);
-    return IsBound ? BaseStart + BaseLength * FileCount : 0;
-}
-
-bool IsSound(const QByteArray& Journal) {
-    const qsizetype Head = HeadLengthOf(Journal);
-    if (Head == 0 || Journal.size() < Head + SumLength) return false;
-    const QByteArrayView Covered = QByteArrayView(Journal).chopped(SumLength);
-    QCryptographicHash Sum(Method);
-    Sum.addData(Covered);
-    return Sum.result() == QByteArrayView(Journal).last(SumLength);
-}
-
-QByteArray BaseIn(const QByteArray& Journal, RecordFile File) {
-    return Journal.sliced(BaseStart + BaseLength * static_cast<qsizetype>(File), BaseLength);
-}
-
-// Whether the record files are still all those that a sound journal takes the place of, and were
-// whole then.
+// Whether the files are still all those that a sound journal takes the place of, and were whole
+// then.
 bool IsBoundToAll(const QString& DBPath, const QByteArray& Journal) {
-    return Journal.startsWith(Magic) &&
-           std::all_of(AllRecordFiles.begin(), AllRecordFiles.end(), [&](RecordFile File) {
-               return BaseOf(RecordPath(DBPath, File)) == BaseIn(Journal, File);
+    return journal::IsOverWhole(Journal) &&
+           std::ranges::all_of(journal::FilesOf(Journal), [&](RecordFile File) {
+               return journal::BaseOf(RecordPath(DBPath, File)) == journal::BaseIn(Journal, File);
            });
 }
 
@@ -110,31 +61,24 @@ enum class FilesThere { Whole, Half };
 FilesThere LookAtFiles(const QString& DBPath) {
     if (!FileExists(JournalPath(DBPath))) return FilesThere::Whole;
     const QByteArray Journal = ReadFile(JournalPath(DBPath));
-    const bool Half = IsSound(Journal) && !IsBoundToAll(DBPath, Journal);
+    const bool Half = journal::IsSound(Journal) && !IsBoundToAll(DBPath, Journal);
     return Half ? FilesThere::Half : FilesThere::Whole;
-}
-
-QByteArray JournalHead(const QString& DBPath, const RecordImage& Image) {
-    const bool OverHalf = LookAtFiles(DBPath) == FilesThere::Half;
-    QByteArray Head = (OverHalf ? HalfMagic : Magic).toByteArray();
-    for (const PackedRecords& File : Image.Files)
-        Head += Count(File.Bytes().size()) + Count(File.Length());
-    for (const RecordFile File : AllRecordFiles) Head += BaseOf(RecordPath(DBPath, File));
-    return Head;
 }
 
 // The check sum of what was written.
 QByteArray WriteUnfinishedJournal(const QString& DBPath, const RecordImage& Image) {
-    const QByteArray Head = JournalHead(DBPath, Image);
+    const bool OverHalf = LookAtFiles(DBPath) == FilesThere::Half;
+    const QByteArray Head = journal::HeadFor(DBPath, Image, OverHalf);
     HostWriter Writer(UnfinishedPath(DBPath));
-    QCryptographicHash Sum(Method);
+    QCryptographicHash Sum(QCryptographicHash::Blake2b_256);
     const auto Put = [&](const QByteArray& Bytes) {
         Sum.addData(Bytes);
         Writer.Write(Bytes.constData(), Bytes.size());
     };
     Put(Head);
     for (const PackedRecords& File : Image.Files) Put(File.Bytes());
-    Writer.Write(Sum.result().constData(), SumLength);
+    if (Image.Words) Put(*Image.Words);
+    Writer.Write(Sum.result().constData(), journal::SumLength);
     Writer.Sync();
     Writer.Close();
     return Sum.result();
@@ -163,18 +107,29 @@ void WriteJournal(const QString& DBPath, const RecordImage& Image,
     SyncJournalNames(DBPath);
 }
 
-// Deleted, made anew, written whole, flushed.
+void WriteContent(HostWriter& Writer, const RecordImage& Image, RecordFile File) {
+    if (File == RecordFile::Words)
+        return Writer.Write(Image.Words->constData(), Image.Words->size());
+    Image[File].Unpack([&](const char* Data, qint64 Length) { Writer.Write(Data, Length); });
+}
+
+// Deleted, made anew, written whole, flushed. Of no whole texts there is no file.
 void WriteFiles(const QString& DBPath, const RecordImage& Image,
                 std::span<const RecordFile> Files) {
     for (const RecordFile File : Files) DeleteFile(RecordPath(DBPath, File));
-    std::vector<std::unique_ptr<HostWriter>> Writers;
+    std::vector<std::pair<RecordFile, std::unique_ptr<HostWriter>>> Writers;
     for (const RecordFile File : Files)
-        Writers.push_back(std::make_unique<HostWriter>(RecordPath(DBPath, File)));
-    for (size_t I = 0; I < Files.size(); ++I)
-        Image[Files[I]].Unpack(
-            [&](const char* Data, qint64 Length) { Writers[I]->Write(Data, Length); });
-    for (const auto& Writer : Writers) Writer->Sync();
-    for (const auto& Writer : Writers) Writer->Close();
+        if (File != RecordFile::Words || !Image.Words->isEmpty())
+            Writers.emplace_back(File, std::make_unique<HostWriter>(RecordPath(DBPath, File)));
+    for (const auto& [File, Writer] : Writers) WriteContent(*Writer, Image, File);
+    for (const auto& [File, Writer] : Writers) Writer->Sync();
+    for (const auto& [File, Writer] : Writers) Writer->Close();
+}
+
+std::vector<RecordFile> WrittenTogether(const QString& DBPath, const RecordImage& Image) {
+    std::vector<RecordFile> Files(FilesWrittenTogether.begin(), FilesWrittenTogether.end());
+    if (journal::IsAboutWords(DBPath, Image)) Files.push_back(RecordFile::Words);
+    return Files;
 }
 
 // Why the state before could not be kept, if it could not: the journal holds the new one, which
@@ -187,7 +142,7 @@ std::optional<Fault> CarryOut(const QString& DBPath, const RecordImage& Image, F
     for (const RecordFile File :
          {RecordFile::Properties, RecordFile::EffectStats, RecordFile::NextIDs})
         WriteFiles(DBPath, Image, std::span(&File, 1));
-    WriteFiles(DBPath, Image, FilesWrittenTogether);
+    WriteFiles(DBPath, Image, WrittenTogether(DBPath, Image));
     SyncDir(DBPath);
     NoteRecordsAgain(DBPath);  // without the journal they stand by themselves
     DeleteFile(JournalPath(DBPath));
@@ -196,31 +151,11 @@ std::optional<Fault> CarryOut(const QString& DBPath, const RecordImage& Image, F
     return NotKept;
 }
 
-qint64 CountAt(const QByteArray& Journal, size_t Index) {
-    return qFromLittleEndian<qint64>(Journal.constData() + Magic.size() +
-                                     static_cast<qsizetype>(Index) * CountLength);
-}
-
 // Of a whole journal; empty when there is none.
 QByteArray WholeSum(const QString& DBPath) {
     if (!FileExists(JournalPath(DBPath))) return {};
     const QByteArray Journal = ReadFile(JournalPath(DBPath));
-    return IsSound(Journal) ? Journal.last(SumLength) : QByteArray();
-}
-
-bool Unfold(const QByteArray& Journal, RecordImage& Image) {
-    qsizetype Place = HeadLengthOf(Journal);
-    const qsizetype End = Journal.size() - SumLength;
-    for (size_t I = 0; I < RecordFileCount; ++I) {
-        const qint64 Packed = CountAt(Journal, 2 * I);
-        if (Packed < 0 || Packed > End - Place) return false;
-        auto File =
-            PackedRecords::FromBytes(Journal.mid(Place, Packed), CountAt(Journal, 2 * I + 1));
-        if (!File) return false;
-        Image.Files[I] = std::move(*File);
-        Place += Packed;
-    }
-    return Place == End;
+    return journal::IsSound(Journal) ? Journal.last(journal::SumLength) : QByteArray();
 }
 
 // Byte by byte: what a loss of power has kept from the disk reads as zeros.
@@ -245,12 +180,12 @@ bool IsBeginningOf(const PackedRecords& New, const QString& Path) {
 }
 
 // A carrying out that was cut short leaves files of before, none, and beginnings of the new ones.
-// Anything else has been put there since by somebody else.
+// Anything else has been put there since by somebody else; the whole texts go with the records.
 bool FilesWereReplaced(const QString& DBPath, const QByteArray& Journal, const RecordImage& Image) {
-    if (Journal.startsWith(FirstMagic)) return false;
+    if (!journal::KnowsFiles(Journal)) return false;
     for (const RecordFile File : AllRecordFiles) {
         const QString Path = RecordPath(DBPath, File);
-        if (FileExists(Path) && BaseOf(Path) != BaseIn(Journal, File) &&
+        if (FileExists(Path) && journal::BaseOf(Path) != journal::BaseIn(Journal, File) &&
             !IsBeginningOf(Image[File], Path))
             return true;
     }
@@ -277,7 +212,19 @@ QStringList PutJournalAside(const QString& DBPath) {
 }  // namespace
 
 RecordSource RecordsInImage(RecordImage Image) {
-    return [Image = std::move(Image)](RecordFile File) { return Image[File].Unpack(); };
+    return [Image = std::move(Image)](RecordFile File) -> std::optional<RecordBytes> {
+        if (File != RecordFile::Words) return Image[File].Unpack();
+        if (!Image.Words || Image.Words->isEmpty()) return std::nullopt;
+        return *Image.Words;
+    };
+}
+
+RecordSource RecordsAsLeft(const QString& DBPath) {
+    RecordImage Image;
+    RecordSource There = RecordsInDirectory(DBPath);
+    if (ReadJournal(DBPath, &Image) != JournalState::Whole) return There;
+    if (!Image.Words) Image.Words = WordBytesOf(There);
+    return RecordsInImage(std::move(Image));
 }
 
 QString JournalPath(const QString& DBPath) {
@@ -285,9 +232,7 @@ QString JournalPath(const QString& DBPath) {
 }
 
 std::optional<RecordImage> RecordsInJournal(const QByteArray& Journal) {
-    RecordImage Content;
-    if (!IsSound(Journal) || !Unfold(Journal, Content)) return std::nullopt;
-    return Content;
+    return journal::IsSound(Journal) ? journal::Unfold(Journal) : std::nullopt;
 }
 
 JournalState ReadJournal(const QString& DBPath, RecordImage* Image) {
@@ -338,9 +283,10 @@ QString WhyNotWritable(const QString& DBPath) {
     if (FileExists(Counters) && IsReadOnly(Counters)) return Counters;
     for (const QString& Folder : {TempFolder(DBPath), JournalFolder(DBPath)})
         if (NameExists(Folder.chopped(1)) && !CanWriteInto(Folder)) return Folder;
-    for (const RecordFile File : AllRecordFiles)
-        if (const QString Path = RecordPath(DBPath, File); NameExists(Path) && !MayWrite(Path))
-            return Path;
+    QStringList Files{RecordPath(DBPath, RecordFile::Words)};
+    for (const RecordFile File : AllRecordFiles) Files << RecordPath(DBPath, File);
+    for (const QString& Path : Files)
+        if (NameExists(Path) && !MayWrite(Path)) return Path;
     return {};
 }
 
@@ -367,6 +313,9 @@ bool RecoverDatabase(const QString& DBPath, QStringList& KeptAside, QString& Not
         if (State == JournalState::Whole) SyncJournalNames(DBPath);
         SettleCommitted(DBPath);
         if (State == JournalState::Whole) FinishWrite(DBPath, Image, NotKept);
+        if (!WordsOf(RecordsInDirectory(DBPath)).IsUsable())
+            KeptAside << PutAside(RecordPath(DBPath, RecordFile::Words),
+                                  QDateTime::currentMSecsSinceEpoch());
     } catch (const Fault&) {
         return false;
     }

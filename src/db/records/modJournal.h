@@ -1,7 +1,7 @@
-// Writing all record files so that a crash at any moment leaves either the old database or the
-// new one. The complete new content goes into a checked journal below Temp first; the files are
-// then written from it, and a start that finds a whole journal does that again. Used by the
-// engine and the command-line companion.
+// Writing all record files, and the file of whole texts beside them, so that a crash at any moment
+// leaves either the old database or the new one. The complete new content goes into a checked
+// journal below Temp first; the files are then written from it, and a start that finds a whole
+// journal does that again. Used by the engine and the command-line companion.
 #pragma once
 
 #include <QStringList>
@@ -13,9 +13,12 @@
 
 namespace neb {
 
-// The content of all eight record files, by RecordFile.
+// The content of all eight record files, by RecordFile, and of Words.dat.
 struct RecordImage {
     std::array<PackedRecords, RecordFileCount> Files;
+    // Empty: there is to be none. Nothing: what lies there stays, as earlier versions of the
+    // program leave it, which know the eight alone.
+    std::optional<QByteArray> Words = {};
     PackedRecords& operator[](RecordFile File) { return Files[static_cast<size_t>(File)]; }
     const PackedRecords& operator[](RecordFile File) const {
         return Files[static_cast<size_t>(File)];
@@ -23,6 +26,8 @@ struct RecordImage {
 };
 
 RecordSource RecordsInImage(RecordImage Image);
+// As the next opening will find them: those of a whole journal where there is one.
+RecordSource RecordsAsLeft(const QString& DBPath);
 
 // The journal of a database directory. DBPath ends in a separator everywhere.
 QString JournalPath(const QString& DBPath);
@@ -66,7 +71,8 @@ bool HoldsDatabase(const QString& DBPath);
 
 // Carries out a whole journal, with the files that were staged for it, and removes what was staged
 // without a journal and a journal that never came to be whole. One that is damaged, or that does
-// not go with the record files, is kept aside with its files; PutAside gets their paths, and
+// not go with the record files, is kept aside with its files, and so is a file of whole texts that
+// cannot be read, which the next write would replace; PutAside gets their paths, and
 // NotKept why the records of before could not be kept as an earlier state, if so. False
 // where that cannot be done now, for want of room say: the journal is whole still, and to be
 // read where it lies.

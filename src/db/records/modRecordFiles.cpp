@@ -8,7 +8,7 @@ struct FileRow {
     qint64 Length;
 };
 
-constexpr std::array<FileRow, RecordFileCount> Files = {{
+constexpr std::array<FileRow, RecordFileCount + 1> Files = {{
     {"Properties.dat", WidthOf<PropertyRecord>},
     {"EffectStats.dat", WidthOf<EffectStatRecord>},
     {"NextIDs.dat", WidthOf<NextIDsRecord>},
@@ -17,6 +17,7 @@ constexpr std::array<FileRow, RecordFileCount> Files = {{
     {"SlideShows.dat", WidthOf<SlideShowRecord>},
     {"SlideShowDetails.dat", WidthOf<SlideShowDetailRecord>},
     {"SlideShowSoundTracks.dat", WidthOf<SlideShowSoundTrackRecord>},
+    {"Words.dat", 1},
 }};
 
 // Files of earlier runs have these lengths: a change here would make them unreadable.

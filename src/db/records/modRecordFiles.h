@@ -1,6 +1,7 @@
 // The eight record files of a database: what a record of each holds, at which width and in which
 // order. This is the only statement of the layout; reading and writing are derived from it
-// (RecordCodec.h). Used by the engine and by the command-line companion's check.
+// (RecordCodec.h). Beside them lies a ninth file, of texts that records cannot hold, where there
+// are any. Used by the engine and by the command-line companion's check.
 #pragma once
 
 #include <array>
@@ -19,12 +20,13 @@ enum class RecordFile {
     Slides,
     SlideShows,
     SlideShowDetails,
-    SlideShowSoundTracks
+    SlideShowSoundTracks,
+    Words  // no records (WordsFile.h); not there where all texts are whole in theirs
 };
-inline constexpr size_t RecordFileCount = 8;
+inline constexpr size_t RecordFileCount = 8;  // those of records
 
 const char* RecordFileName(RecordFile File);
-qint64 RecordLength(RecordFile File);  // bytes a record
+qint64 RecordLength(RecordFile File);  // bytes a record; 1 for Words
 inline constexpr std::array<RecordFile, RecordFileCount> AllRecordFiles = {
     RecordFile::Properties,       RecordFile::EffectStats,
     RecordFile::NextIDs,          RecordFile::Albums,

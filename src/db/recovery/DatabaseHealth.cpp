@@ -6,6 +6,7 @@
 #include "db/records/Generations.h"
 #include "db/records/RecordSums.h"
 #include "db/records/SessionJournal.h"
+#include "db/records/WordsFile.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
 #include "support/files/modHostFilesAccess.h"
@@ -48,6 +49,7 @@ class HealthLook {
         if (!CanListFolder()) return mFound;
         LookAtFiles();
         mGoesOn = IsToBeFinished();
+        LookAtWords();
         mInAlbums = NumbersInAlbums(mDBPath);
         mRecords = Survey();
         SetFree();
@@ -100,6 +102,40 @@ class HealthLook {
         } catch (const Fault& Problem) {
             Say(Problem.Text().replace(u'\n', u' '));
             return false;
+        }
+    }
+
+    // A write that is to be brought to its end has them, unless an earlier version began it.
+    void LookAtWords() {
+        if (mJournal && mJournal->Words) return;
+        const QString Lost = WhatIsWrongWithWords();
+        mFound.LacksWords = !Lost.isEmpty();
+        if (mFound.LacksWords)
+            Say(Lost + QStringLiteral(" Captions and names in other scripts, or longer than their "
+                                      "records hold, are there as earlier albums in Backups have "
+                                      "them, or else in the closest letters."));
+    }
+    QString WhatIsWrongWithWords() {
+        const QString Name = NameOf(RecordFile::Words),
+                      Path = RecordPath(mDBPath, RecordFile::Words);
+        if (!NameExists(Path) && WhyUnseen(Path).isEmpty())
+            return HasLostWords(mDBPath) ? Name + QStringLiteral(" is missing.") : QString();
+        const QString Wrong = WhyNotUsable(Path);
+        if (Wrong.isEmpty()) return {};
+        mFound.Unusable.push_back(RecordFile::Words);
+        return Name + Wrong;
+    }
+    // The end of a sentence; empty for what is sound.
+    static QString WhyNotUsable(const QString& Path) {
+        if (FolderExists(Path)) return QStringLiteral(" is no file: it is a folder.");
+        try {
+            const WordsFound::State Is = WordsIn(ReadFile(Path)).Is;
+            if (Is == WordsFound::State::Sound) return {};
+            return Is == WordsFound::State::Later
+                       ? QStringLiteral(" was written by a later version of the program.")
+                       : QStringLiteral(" is damaged.");
+        } catch (const Fault& Problem) {
+            return QStringLiteral(": The file cannot be read: %1.").arg(Problem.What());
         }
     }
 

@@ -17,12 +17,13 @@ namespace neb {
 
 struct DatabaseHealth {
     QStringList Wrong;                 // sentences; none: it is sound
-    std::vector<RecordFile> Unusable;  // no files, or not to be read
+    std::vector<RecordFile> Unusable;  // no files, or not to be read; Words also when it is damaged
     IDCounters Free;                   // above all numbers that are there, among the files as well
     bool IsNew = false;                // nothing is there yet
     // What is read of it is less than there was: files of records are lost, empty, cut or changed.
     // Numbers that are wrong, or records without an owner, are none of this.
     bool LacksRecords = false;
+    bool LacksWords = false;  // Words.dat is lost, or cannot be used
 
     bool IsSound() const { return Wrong.isEmpty(); }
     bool CanBeUsed(RecordFile File) const;
@@ -32,7 +33,7 @@ struct DatabaseHealth {
 // all folders of the albums.
 DatabaseHealth LookAtHealth(const QString& DBPath);
 
-// The record files that can be read.
+// The record files that can be read, and the whole texts.
 RecordSource UsableRecords(const QString& DBPath, const DatabaseHealth& Health);
 
 }  // namespace neb

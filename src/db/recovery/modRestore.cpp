@@ -7,6 +7,7 @@
 #include "db/modAlbumFiles.h"
 #include "db/modLoadRecords.h"
 #include "db/records/RecordCodec.h"
+#include "db/records/WordsFile.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
 
@@ -65,6 +66,8 @@ QString KeepFiles(const QString& DBPath, const DatabaseHealth& Health) {
     MakeDirs(Folder);
     for (const RecordFile File : AllRecordFiles)
         if (Health.CanBeUsed(File)) CopyInto(Folder, RecordPath(DBPath, File));
+    if (Health.CanBeUsed(RecordFile::Words))
+        CopyInto(Folder, RecordPath(DBPath, RecordFile::Words));
     CopyInto(Folder, JournalPath(DBPath));
     for (const QString& Each : {Folder, GenerationsFolder(DBPath), DBPath}) SyncDir(Each);
     for (const RecordFile File : Health.Unusable)
@@ -118,9 +121,31 @@ RecordSource WithLostAlbums(const QString& DBPath, const RecordSource& Records) 
     };
 }
 
+// The whole texts of the newest earlier state that has any: each of them counts where its record is
+// the same still.
+QByteArray EarlierWords(const QString& DBPath) {
+    for (const Generation& Each : ListGenerations(DBPath)) {
+        const std::optional<RecordImage> Image = ReadGeneration(Each.Path);
+        if (Image && !Image->Words->isEmpty() &&
+            WordsIn(*Image->Words).Is == WordsFound::State::Sound)
+            return *Image->Words;
+    }
+    return {};
+}
+
+RecordSource WithWords(const RecordSource& Records, const QByteArray& Words) {
+    if (Words.isEmpty()) return Records;
+    return [Records, Words](RecordFile File) -> std::optional<RecordBytes> {
+        if (File == RecordFile::Words) return Words;
+        return Records(File);
+    };
+}
+
 // All that can be read, in order.
-RecordSource Mended(const QString& DBPath, const RecordSource& Records, const IDCounters& Free) {
-    return WithLostAlbums(DBPath, WithCounters(Records, Free));
+RecordSource Mended(const QString& DBPath, const RecordSource& Records,
+                    const DatabaseHealth& Health) {
+    const QByteArray Words = Health.LacksWords ? EarlierWords(DBPath) : QByteArray();
+    return WithWords(WithLostAlbums(DBPath, WithCounters(Records, Health.Free)), Words);
 }
 
 // A damaged database, its files kept and its journals out of the way.
@@ -140,7 +165,7 @@ Rest KeepAndLoad(const QString& DBPath, const QString& ProgramPath, const Databa
                     StagingFolder(DBPath));
     Left.Engine.SetDBPath(DBPath);
     Left.Engine.SetProgramPath(ProgramPath);
-    Left.Engine.LoadFrom(Mended(DBPath, RecordsInDirectory(DBPath), Health.Free));
+    Left.Engine.LoadFrom(Mended(DBPath, RecordsInDirectory(DBPath), Health));
     LeftBehind Brought;
     if (Session.Is == FoundSession::State::Goes) BringBack(Left.Engine, *Session.Left, Brought);
     Left.Kept.PutAside += SettleSession(DBPath, Session);
@@ -200,7 +225,7 @@ KeptFiles RestoreInstead(const QString& DBPath, const QString& ProgramPath,
 }
 
 void LoadRest(clsDBEngine& Into, const DatabaseHealth& Health) {
-    Into.LoadFrom(Mended(Into.DBPath(), UsableRecords(Into.DBPath(), Health), Health.Free));
+    Into.LoadFrom(Mended(Into.DBPath(), UsableRecords(Into.DBPath(), Health), Health));
 }
 
 std::optional<RestThere> CountRest(const QString& DBPath, const DatabaseHealth& Health) try {

@@ -277,7 +277,7 @@ TEST_F(SlideMgrBulk, CaptionsOfEveryCharacterComeBackFromTheDisk) {
     Again.SetDBPath(Db.Path());
     Again.InitializeDB();
     for (qsizetype I = 0; I < Captions.size(); ++I)
-        EXPECT_EQ(AsStored(ConvertQuotes(Captions[I])).toStdString(),
+        EXPECT_EQ(ConvertQuotes(Captions[I]).toStdString(),
                   Again.GetAlbum(AlbumID)
                       ->GetSlide(static_cast<std::int32_t>(I) + 1)
                       ->SlideText.toStdString());
