@@ -7,6 +7,7 @@
 #include <limits>
 
 #include "support/modFUFL.h"
+#include "support/modText.h"
 
 namespace neb {
 namespace {
@@ -149,7 +150,7 @@ void SortPictures(std::vector<PictureInOrder>& Pictures, PictureOrder Order) {
 }
 
 QString ProposedCaption(const QString& Path, const PictureFacts& Facts) {
-    return Facts.Words.isEmpty() ? GetFileBaseName(Path) : Facts.Words;
+    return Facts.Words.isEmpty() ? ReadableText(GetFileBaseName(Path)) : Facts.Words;
 }
 
 }  // namespace neb

@@ -63,7 +63,8 @@ std::optional<ImportOrder> ReadOrder(QStringList Arguments, ToolIO& IO) {
                                : Word == u"--show" ? &Order.Show
                                                    : nullptr;
         if (Value)
-            *Value = Arguments.isEmpty() ? QString() : ConvertQuotes(Arguments.takeFirst());
+            *Value = Arguments.isEmpty() ? QString()
+                                         : ConvertQuotes(ReadableText(Arguments.takeFirst()));
         else if (Word == u"--recurse")
             Order.Recurse = true;
         else
