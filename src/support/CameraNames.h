@@ -15,7 +15,7 @@ bool IsCameraName(const QString& BaseName);
 
 // What a camera writes for want of words: "OLYMPUS DIGITAL CAMERA", "SONY DSC", "untitled", a name
 // as above, or nothing that can be read.
-bool IsCameraWords(const QString& Words);
+bool IsCameraWords(const QString& Said);
 
 // When a picture of such a name was taken: "IMG_20231224_183000". Without a time of day it is
 // midnight; invalid where the name tells no day. Universal time by its form, as

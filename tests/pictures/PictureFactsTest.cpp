@@ -173,13 +173,13 @@ TEST(PictureFacts, WordsComeFromExif) {
 }
 
 TEST(PictureFacts, ATitleComesBeforeAHeadlineAndThatBeforeADescription) {
-    const QByteArray Title = XmpSegment(Xmp(Alt("title", Item("x-default", "Title"))));
-    const QByteArray Other = IptcSegment({{120, "Caption"}, {105, "Headline"}});
-    const QByteArray Exif = ExifSegment(Tiff({{Description, "Description"}}));
-    EXPECT_EQ("Title", Words(Jpeg(Exif + Other + Title)));
-    EXPECT_EQ("Headline", Words(Jpeg(Exif + Other)));
-    EXPECT_EQ("Caption", Words(Jpeg(Exif + IptcSegment({{120, "Caption"}}))));
-    EXPECT_EQ("Description", Words(Jpeg(Exif)));
+    const QByteArray Title = XmpSegment(Xmp(Alt("title", Item("x-default", "A title"))));
+    const QByteArray Other = IptcSegment({{120, "A caption"}, {105, "A headline"}});
+    const QByteArray Exif = ExifSegment(Tiff({{Description, "In words"}}));
+    EXPECT_EQ("A title", Words(Jpeg(Exif + Other + Title)));
+    EXPECT_EQ("A headline", Words(Jpeg(Exif + Other)));
+    EXPECT_EQ("A caption", Words(Jpeg(Exif + IptcSegment({{120, "A caption"}}))));
+    EXPECT_EQ("In words", Words(Jpeg(Exif)));
 }
 
 TEST(PictureFacts, WhatCamerasWriteForWantOfWordsIsNone) {
@@ -245,7 +245,7 @@ TEST(PictureFacts, AreReadFromPngFiles) {
     };
     EXPECT_EQ("Fürth", Words(Png(Chunk("tEXt", QByteArray("Title\0F\xFCrth", 11)))));
     EXPECT_EQ("Die Düne",
-              Words(Png(Chunk("iTXt", QByteArray("Description\0\0\0de\0Text\0", 21) + Dune))));
+              Words(Png(Chunk("iTXt", QByteArray("Description\0\0\0de\0Text\0", 22) + Dune))));
     EXPECT_EQ("Die Düne",
               Words(Png(Chunk("iTXt", QByteArray("XML:com.adobe.xmp\0\0\0\0\0", 22) +
                                           Xmp(Alt("title", Item("x-default", Dune)))))));
@@ -267,11 +267,11 @@ TEST(PictureFacts, AreReadFromWebpFiles) {
 
 TEST(PictureFacts, AreReadFromTiffFilesWhereverTheirDirectoryLies) {
     const QByteArray File = Tiff({{PacketTag, Xmp(Alt("title", Item("x-default", Dune)))},
-                                  {Records, Iptc({{120, "Caption"}})}},
+                                  {Records, Iptc({{120, "A caption"}})}},
                                  {{Original, Noon}}, 3'000'000);
     EXPECT_EQ("Die Düne", Words(File));
     EXPECT_EQ("2003-12-24 12:00:05.000", Taken(File));
-    EXPECT_EQ("Caption", Words(Tiff({{Records, Iptc({{120, "Caption"}})}})));
+    EXPECT_EQ("A caption", Words(Tiff({{Records, Iptc({{120, "A caption"}})}})));
 }
 
 TEST(PictureFacts, AreReadFromPsdFiles) {
