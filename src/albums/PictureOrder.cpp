@@ -159,9 +159,13 @@ void SortPictures(std::vector<PictureInOrder>& Pictures, PictureOrder Order) {
         SortItems(Pictures, Path, &NoMoment<PictureInOrder>);
 }
 
+QString CaptionByName(const QString& Path) {
+    return ReadableText(GetFileBaseName(Path));
+}
+
 QString ProposedCaption(const QString& Path, const PictureFacts& Facts) {
     if (!Facts.Words.isEmpty()) return Facts.Words;
-    const QString Name = ReadableText(GetFileBaseName(Path));
+    const QString Name = CaptionByName(Path);
     if (!IsCameraName(Name)) return Name;
     const QDateTime Taken = Facts.Taken.isValid() ? Facts.Taken : TimeInName(Name);
     return Taken.isValid() ? TimeText(Taken) : Name;

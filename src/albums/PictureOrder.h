@@ -33,7 +33,10 @@ void SortPictures(std::vector<PictureInOrder>& Pictures, PictureOrder Order);
 
 // The caption that is proposed for a picture: its own words where it has some, else the file's base
 // name, else, for a name that cameras give, when it was taken; the base name where that is not told
-// either. Nothing but letters, whatever the file's name.
+// either.
 QString ProposedCaption(const QString& Path, const PictureFacts& Facts);
+// The file's base name alone, for users who want no other. Like the one above nothing but letters,
+// even where the file's name is no text.
+QString CaptionByName(const QString& Path);
 
 }  // namespace neb

@@ -1,5 +1,6 @@
 #include "tools/modImportFolder.h"
 
+#include "albums/PictureOrder.h"
 #include "albums/modImport.h"
 #include "albums/modPictureFiles.h"
 #include "db/clsDBEngine.h"
@@ -172,7 +173,7 @@ class FolderImport {
             if (!Picture.Problem.isEmpty())
                 Fail(mIO, QStringLiteral("left out: %1: %2").arg(Paths[I], Picture.Problem));
             else
-                Enter({GetFileBaseName(Paths[I]), [&Picture] { return Picture.Jpeg; },
+                Enter({CaptionByName(Paths[I]), [&Picture] { return Picture.Jpeg; },
                        Picture.Thumbnail});
         }
     }

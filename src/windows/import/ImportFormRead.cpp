@@ -6,6 +6,7 @@
 #include <QProgressBar>
 #include <numeric>
 
+#include "albums/PictureOrder.h"
 #include "albums/modPictureFiles.h"
 #include "controls/forms/frmLoading.h"
 #include "controls/grid/FlexGrid.h"
@@ -111,7 +112,7 @@ void ImportForm::LoadPicture(FoundPictures& Found, const QString& Path) {
 void ImportForm::AddRow(const QString& Path, const QImage& Thumbnail) {
     FlexGrid& Grid = *mUi->flxNonSelected;
     const int Row = Grid.AddItem();
-    Grid.SetTextMatrix(Row, ColCaption, GetFileBaseName(Path));
+    Grid.SetTextMatrix(Row, ColCaption, CaptionByName(Path));
     Grid.SetTextMatrix(Row, ColPath, Path);
     if (Thumbnail.isNull()) return;
     Grid.SetCellPicture(Row, ColPicture, Thumbnail);
