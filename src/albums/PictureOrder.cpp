@@ -31,12 +31,19 @@ const QCollator& Reader() {
     return Collator;
 }
 
+// Pictures of one folder mostly end alike.
+QCollatorSortKey EndingKey(const QString& Ending) {
+    static thread_local std::pair<QString, QCollatorSortKey> Last{{}, Reader().sortKey({})};
+    if (Last.first != Ending) Last = {Ending, Reader().sortKey(Ending)};
+    return Last.second;
+}
+
 // The last part of a path, made ready to be compared many times. The ending counts last: "a.jpg"
 // stands before "a-1.jpg".
 struct NameKey {
     explicit NameKey(const QString& Whole)
         : Base(Reader().sortKey(GetFileBaseName(Whole))),
-          Ending(Reader().sortKey(GetFileExt(Whole))),
+          Ending(EndingKey(GetFileExt(Whole))),
           Name(Whole) {}
 
     QCollatorSortKey Base, Ending;

@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <cstdlib>
+#include <filesystem>
 
 #include "support/Fault.h"
 #include "support/files/HostNames.h"
@@ -75,6 +76,11 @@ HostInfo Look(const QString& Path) {
     return FolderIsThere ? Info : HostInfo(CorrectCase(Host));
 }
 
+QString WorkingDir() {
+    std::error_code Error;
+    return HostName(std::filesystem::current_path(Error).native());
+}
+
 [[noreturn]] void FailRead(const QFile& File, const QString& Path) {
     throw Fault(QStringLiteral("The file cannot be read: %1.").arg(File.errorString()), Path);
 }
@@ -105,7 +111,8 @@ QString AbsolutePath(const QString& Path, const QString& Base) {
     const bool HasDrive = Path.size() > 1 && Path[1] == u':';
     const bool FromRoot = Path.startsWith(u'/') || Path.startsWith(u'\\');
     if (Path.isEmpty() || HasDrive || FromRoot) return Path;
-    return QDir::cleanPath(QDir(Base).absoluteFilePath(HostForm(Path)));
+    const QString From = Base.isEmpty() ? WorkingDir() : Base;
+    return QDir::cleanPath(QDir(From).absoluteFilePath(HostForm(Path)));
 }
 
 bool NameExists(const QString& Path) {
