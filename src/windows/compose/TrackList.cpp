@@ -18,6 +18,7 @@
 #include "support/files/HostNames.h"
 #include "support/modFUFL.h"
 #include "support/modNumbers.h"
+#include "support/modText.h"
 #include "windows/compose/SongReading.h"
 #include "windows/compose/TrackPlayer.h"
 #include "windows/frame/modWindowState.h"
@@ -275,7 +276,7 @@ void TrackList::AskSongs() {
 void TrackList::ShowSongs() {
     for (int Row = 0; Row < Rows(); ++Row) {
         const QString Path = PathOf(Row);
-        const QString Song = mSongs->Names().value(Path, GetFileName(Path));
+        const QString Song = mSongs->Names().value(Path, ReadableText(GetFileName(Path)));
         if (TextMatrix(Row, ColSong) != Song) SetTextMatrix(Row, ColSong, Song);
     }
 }
