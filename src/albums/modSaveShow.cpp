@@ -10,6 +10,7 @@
 #include "support/modDEValidation.h"
 #include "support/modFUFL.h"
 #include "support/modNumbers.h"
+#include "support/modText.h"
 
 namespace neb {
 namespace {
@@ -145,7 +146,7 @@ void NoteNames(const TrackPlan& Plan, const QString& Album) {
         QString Name = GetFileName(Each.From);
         if (ResolvePath(GetFilePath(Each.From)) == ResolvePath(Plan.Folder))
             Name = Before.NameOf(Name, Bytes);
-        if (!Name.isEmpty()) Came.push_back({GetFileName(Each.To), Bytes, Name});
+        if (!Name.isEmpty()) Came.push_back({GetFileName(Each.To), Bytes, ReadableText(Name)});
     }
     KeepSongNames(Album, Came);
 }

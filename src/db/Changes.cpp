@@ -17,12 +17,12 @@ bool HasSlide(const clsDBEngine& theDB, std::int32_t SlideID) {
 
 // Half a letter, which somebody may have pasted, could not be written.
 void MakeValid(clsNEBSlide& Slide) {
-    Slide.SlideText = ValidText(std::move(Slide.SlideText));
+    Slide.SlideText = ValidText(Slide.SlideText);
 }
 
 void MakeValid(clsNEBSlideShow& Show) {
-    Show.SlideShowName = ValidText(std::move(Show.SlideShowName));
-    for (const auto& Each : Show.Details) Each->SlideText = ValidText(std::move(Each->SlideText));
+    Show.SlideShowName = ValidText(Show.SlideShowName);
+    for (const auto& Each : Show.Details) Each->SlideText = ValidText(Each->SlideText);
 }
 
 BoxRequest Missing(const char* Text) {

@@ -116,7 +116,7 @@ QByteArray WithEquivalents(const QString& Text) {
 }  // namespace
 
 QByteArray ToAnsi(QStringView Text) {
-    if (NeedsEquivalents(Text)) return WithEquivalents(Text.toString());
+    if (NeedsEquivalents(Text)) return WithEquivalents(ReadableText(Text.toString()));
     QByteArray Out;
     Out.reserve(Text.size());
     for (const QChar Unit : Text) AppendDirect(Unit.unicode(), Out);
@@ -132,7 +132,25 @@ QString FromAnsi(const char* Bytes, qsizetype Length) {
     return Text;
 }
 
-QString ValidText(QString Text) {
+bool IsStrayByte(const QString& Text, qsizetype Place) {
+    const char16_t Unit = Text[Place].unicode();
+    if (Unit < 0xDC80 || Unit > 0xDCFF) return false;
+    return Place == 0 || !Text[Place - 1].isHighSurrogate();
+}
+
+QString ReadableText(const QString& Text) {
+    QString Letters = Text;
+    for (qsizetype I = 0; I < Text.size(); ++I) {
+        const char Byte = static_cast<char>(Text[I].unicode());
+        if (!IsStrayByte(Text, I)) continue;
+        const QChar Letter = FromAnsi(&Byte, 1)[0];
+        Letters[I] = Letter.isPrint() ? Letter : QChar(u'?');
+    }
+    return Letters;
+}
+
+QString ValidText(const QString& Stored) {
+    QString Text = ReadableText(Stored);
     for (qsizetype I = 0; I < Text.size(); ++I) {
         if (!Text[I].isSurrogate()) continue;
         const bool IsPair =

@@ -1,6 +1,7 @@
 #include "tools/modImportFolder.h"
 
 #include "albums/KeepingChoice.h"
+#include "albums/PictureOrder.h"
 #include "albums/modImport.h"
 #include "albums/modPictureFiles.h"
 #include "db/clsDBEngine.h"
@@ -19,8 +20,7 @@
 namespace neb {
 namespace {
 
-constexpr qsizetype MaxShowName = 80;   // as wide as its field in the record
-constexpr qsizetype MaxNameBytes = 80;  // of an album or a show, in its record
+constexpr qsizetype MaxShowName = 80;
 
 struct ImportOrder {
     QString Dir;
@@ -46,15 +46,6 @@ Prepared Prepare(const QString& Path, const PictureKeeping& Keeping) {
     }
 }
 
-// Whether both are the same name in the records, which hold no more letters than their code page
-// has.
-bool IsStoredAs(const QString& One, const QString& Other) {
-    const auto Stored = [](const QString& Name) {
-        return FromAnsi(ToAnsi(Name).left(MaxNameBytes));
-    };
-    return Stored(One).compare(Stored(Other), Qt::CaseInsensitive) == 0;
-}
-
 struct OrderWords {
     ImportOrder Order;
     QStringList Places;  // what is no option
@@ -69,8 +60,8 @@ OrderWords SortWords(QStringList Arguments) {
     const auto Take = [&](const QString& Word) {
         for (const auto& [Name, Value] : Named)
             if (Word == QLatin1String(Name)) {
-                *Value =
-                    Arguments.isEmpty() ? QStringLiteral("") : ConvertQuotes(Arguments.takeFirst());
+                *Value = Arguments.isEmpty() ? QStringLiteral("")
+                                             : ConvertQuotes(ReadableText(Arguments.takeFirst()));
                 return true;
             }
         for (const auto& [Name, Value] : Flags)
@@ -143,20 +134,10 @@ class FolderImport {
     }
 
   private:
-    // By the name that it has, or else by the one under which it would be stored: that is how it
-    // came back since.
-    std::int32_t NamedAlbum() const {
+    bool FindOrMakeAlbum() {
         std::int32_t AlbumID = 0;
         QString Name = mOrder.Album;
-        if (mEngine.LoadAlbum(AlbumID, Name)) return AlbumID;
-        for (const auto& Each : mEngine.Albums)
-            if (IsStoredAs(Each->AlbumName, mOrder.Album)) return Each->AlbumID;
-        return 0;
-    }
-
-    bool FindOrMakeAlbum() {
-        std::int32_t AlbumID = NamedAlbum();
-        mIsNew = AlbumID == 0;
+        mIsNew = !mEngine.LoadAlbum(AlbumID, Name);
         if (mIsNew && !MakeAlbum(AlbumID)) return false;
         mAlbum = mEngine.GetAlbum(AlbumID);
         if (ShowExists()) {
@@ -180,7 +161,9 @@ class FolderImport {
     bool ShowExists() const {
         return std::any_of(
             mAlbum->SlideShows.begin(), mAlbum->SlideShows.end(),
-            [this](const auto& Each) { return IsStoredAs(Each->SlideShowName, mOrder.Show); });
+            [this](const auto& Each) {
+                return Each->SlideShowName.compare(mOrder.Show, Qt::CaseInsensitive) == 0;
+            });
     }
 
     void EnterAll(const QStringList& Paths) {
@@ -194,7 +177,7 @@ class FolderImport {
             if (!Picture.Problem.isEmpty())
                 Fail(mIO, QStringLiteral("left out: %1: %2").arg(Paths[I], Picture.Problem));
             else
-                Enter({GetFileBaseName(Paths[I]), [&Picture] { return Picture.Jpeg; },
+                Enter({CaptionByName(Paths[I]), [&Picture] { return Picture.Jpeg; },
                        Picture.Thumbnail});
         }
     }

@@ -2,6 +2,7 @@
 #include "ShowRig.h"
 #include "db/Changes.h"
 #include "db/SongNames.h"
+#include "support/files/HostNames.h"
 
 namespace neb::harness {
 namespace {
@@ -103,6 +104,19 @@ TEST_F(SaveShow, KeepsWhatTheSongsWereCalled) {
     Second.Tracks = Content.Tracks;
     Save(Second);
     EXPECT_EQ("Für Elise.mp3", Called(u"00000002_1.mp3"_s)) << "a copy is called as that one is";
+}
+
+TEST_F(SaveShow, KeepsInLettersWhatASongWasCalledByANameThatIsNoText) {
+    ShowContent Content = NewShow(4);
+    const QString Song = MakeSound(HostName("F\xFCr Elise.mp3"));
+    Content.Tracks = {NewTrack(1, 2, Song)};
+    Save(Content);
+    const QString Stored = u"00000001_1.mp3"_s;
+    const qint64 Bytes = FileSize(SoundTracksFolder(Engine.DBPath(), AlbumID) + Stored);
+    EXPECT_LT(0, Bytes);
+    EXPECT_EQ(u"Für Elise.mp3",
+              SongNames::Of(AlbumFolder(Engine.DBPath(), AlbumID)).NameOf(Stored, Bytes));
+    DeleteFile(Song);
 }
 
 TEST_F(SaveShow, DeletesFilesThatAreNoLongerPlayed) {

@@ -6,6 +6,7 @@
 #include "support/files/modHostFiles.h"
 #include "support/files/modHostFilesMounts.h"
 #include "support/modFUFL.h"
+#include "support/modText.h"
 
 namespace neb {
 
@@ -26,10 +27,29 @@ QStringList OutermostPaths(const QStringList& Paths) {
     return Kept;
 }
 
+namespace {
+
+bool IsText(const QString& Path) {
+    return ReadableText(Path) == Path;
+}
+
+// The toolkit knows volumes whose folders have names that are text. Those that have not are added.
+std::vector<Volume> UserVolumes() {
+    std::vector<Volume> All;
+    for (const QStorageInfo& Each : QStorageInfo::mountedVolumes())
+        if (IsUserVolume(Each.rootPath()) && !Each.rootPath().contains(QChar::ReplacementCharacter))
+            All.push_back({Each.displayName(), Each.rootPath()});
+    for (const QString& Path : MountPoints())
+        if (IsUserVolume(Path) && !IsText(Path))
+            All.push_back({ReadableText(GetFileName(Path)), Path});
+    return All;
+}
+
+}  // namespace
+
 QStringList DesktopDrives::Drives() const {
     QStringList Paths{QStandardPaths::writableLocation(QStandardPaths::HomeLocation)};
-    for (const QStorageInfo& Volume : QStorageInfo::mountedVolumes())
-        if (IsUserVolume(Volume.rootPath())) Paths.append(Volume.rootPath());
+    for (const Volume& Each : UserVolumes()) Paths.append(Each.Root);
     return OutermostPaths(Paths);
 }
 
@@ -40,10 +60,10 @@ bool DesktopDrives::IsReady(const QString& Drive) const {
 }
 
 std::vector<Volume> DesktopDrives::Volumes() const {
-    std::vector<Volume> All;
-    for (const QStorageInfo& Each : QStorageInfo::mountedVolumes())
-        if (IsUserVolume(Each.rootPath()) && Each.isReady())
-            All.push_back({Each.displayName(), Each.rootPath()});
+    std::vector<Volume> All = UserVolumes();
+    std::erase_if(All, [](const Volume& Each) {
+        return IsText(Each.Root) && !QStorageInfo(Each.Root).isReady();
+    });
     return All;
 }
 

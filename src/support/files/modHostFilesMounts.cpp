@@ -1,9 +1,13 @@
 #include "support/files/modHostFilesMounts.h"
 
 #include <fcntl.h>
+#include <mntent.h>
 #include <unistd.h>
 
 #include <QSocketNotifier>
+#include <memory>
+
+#include "support/files/HostNames.h"
 
 namespace neb {
 namespace {
@@ -11,6 +15,17 @@ namespace {
 constexpr int SoonMs = 200;
 
 }  // namespace
+
+QStringList MountPoints() {
+    QStringList Paths;
+    const std::unique_ptr<FILE, decltype(&endmntent)> Table(setmntent("/proc/self/mounts", "re"),
+                                                            &endmntent);
+    mntent Each = {};
+    char Text[8192];
+    while (Table && getmntent_r(Table.get(), &Each, Text, sizeof Text))
+        Paths << HostName(Each.mnt_dir);
+    return Paths;
+}
 
 // The host marks the table as exceptional whenever it has changed, and takes the mark away when it
 // is looked at: nothing is read, and nothing happens while nothing is mounted.

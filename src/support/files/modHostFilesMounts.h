@@ -1,12 +1,16 @@
-// Tells when the host mounts or unmounts something: a stick is plugged in, a share goes. Used by
-// the list of drives.
+// Where the host has mounted something, and word of it when that changes: a stick is plugged in, a
+// share goes. Used by the list of drives.
 #pragma once
 
 #include <QObject>
+#include <QStringList>
 #include <QTimer>
 #include <functional>
 
 namespace neb {
+
+// The folders on which something is mounted, whatever their names; system mounts as well.
+QStringList MountPoints();
 
 class MountWatch : public QObject {
     Q_OBJECT

@@ -15,8 +15,10 @@
 #include "support/FlagText.h"
 #include "support/MediaTypes.h"
 #include "support/Services.h"
+#include "support/files/HostNames.h"
 #include "support/modFUFL.h"
 #include "support/modNumbers.h"
+#include "support/modText.h"
 #include "windows/compose/SongReading.h"
 #include "windows/compose/TrackPlayer.h"
 #include "windows/frame/modWindowState.h"
@@ -94,7 +96,7 @@ void KeepLastFolder(const QString& Folder) {
 QStringList SoundsIn(const QMimeData& Dragged) {
     QStringList Files;
     for (const QUrl& Each : Dragged.urls())
-        if (Each.isLocalFile() && IsSoundName(Each.toLocalFile())) Files << Each.toLocalFile();
+        if (const QString Path = FileOfUrl(Each); IsSoundName(Path)) Files << Path;
     return Files;
 }
 
@@ -274,7 +276,7 @@ void TrackList::AskSongs() {
 void TrackList::ShowSongs() {
     for (int Row = 0; Row < Rows(); ++Row) {
         const QString Path = PathOf(Row);
-        const QString Song = mSongs->Names().value(Path, GetFileName(Path));
+        const QString Song = mSongs->Names().value(Path, ReadableText(GetFileName(Path)));
         if (TextMatrix(Row, ColSong) != Song) SetTextMatrix(Row, ColSong, Song);
     }
 }

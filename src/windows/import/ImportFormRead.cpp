@@ -6,6 +6,7 @@
 #include <QProgressBar>
 #include <numeric>
 
+#include "albums/PictureOrder.h"
 #include "albums/modPictureFiles.h"
 #include "controls/forms/frmLoading.h"
 #include "controls/grid/FlexGrid.h"
@@ -13,6 +14,7 @@
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/Services.h"
+#include "support/files/HostNames.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
 #include "ui_ImportForm.h"
@@ -110,7 +112,7 @@ void ImportForm::LoadPicture(FoundPictures& Found, const QString& Path) {
 void ImportForm::AddRow(const QString& Path, const QImage& Thumbnail) {
     FlexGrid& Grid = *mUi->flxNonSelected;
     const int Row = Grid.AddItem();
-    Grid.SetTextMatrix(Row, ColCaption, GetFileBaseName(Path));
+    Grid.SetTextMatrix(Row, ColCaption, CaptionByName(Path));
     Grid.SetTextMatrix(Row, ColPath, Path);
     if (Thumbnail.isNull()) return;
     Grid.SetCellPicture(Row, ColPicture, Thumbnail);
@@ -173,7 +175,7 @@ void ImportForm::dragEnterEvent(QDragEnterEvent* Event) {
 void ImportForm::dropEvent(QDropEvent* Event) {
     QStringList Paths;
     for (const QUrl& Url : Event->mimeData()->urls())
-        if (Url.isLocalFile()) Paths.append(AsDropped(Url.toLocalFile()));
+        if (Url.isLocalFile()) Paths.append(AsDropped(FileOfUrl(Url)));
     if (Paths.isEmpty() || !IsFree()) return;
     Event->acceptProposedAction();
     // the question waits until the drag is over, so that the source is not held

@@ -18,6 +18,7 @@
 #include <QVBoxLayout>
 
 #include "harness/TempFolder.h"
+#include "support/files/HostNames.h"
 #include "support/files/modHostFiles.h"
 
 namespace neb {
@@ -161,6 +162,18 @@ TEST_F(DirectoryTreeTest, IsWalkedThroughWithTheTabKey) {
         QTest::keyClick(Window.focusWidget(), Qt::Key_Tab);
         EXPECT_EQ(Next, Window.focusWidget());
     }
+}
+
+TEST_F(DirectoryTreeTest, ShowsANameThatIsNoTextInLettersAndStaysThere) {
+    const QString Odd = Folder / HostName("b\xFC");
+    MakeDirs(Odd);
+    Tree.SetPath(Odd);
+    EXPECT_EQ(Odd, Tree.Path());
+    EXPECT_EQ(Folder / u"bü"_s, Typed().text());
+    EXPECT_EQ(u"bü"_s, View().currentIndex().data().toString());
+    EXPECT_TRUE(Tree.TakeTyped());
+    EXPECT_EQ(Odd, Tree.Path());
+    DeleteTree(Odd);
 }
 
 TEST_F(DirectoryTreeTest, ProposesNothingMoreOnceATypedDirectoryIsTaken) {

@@ -8,11 +8,14 @@
 
 #include "harness/MountedMemory.h"
 #include "harness/TempFolder.h"
+#include "support/files/HostNames.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
 
 namespace neb {
 namespace {
+
+using namespace Qt::StringLiterals;
 
 TEST(Drives, HoldTheHomeDirectoryOrADriveAboveIt) {
     const QString Home = QStandardPaths::writableLocation(QStandardPaths::HomeLocation);
@@ -50,6 +53,26 @@ TEST(Drives, AreVolumesOfTheUserAlone) {
         EXPECT_TRUE(IsUserVolume(Each.Root)) << Each.Root.toStdString();
         EXPECT_FALSE(Each.Name.isEmpty());
     }
+}
+
+TEST(Drives, AreThereWhateverTheNamesOfTheirFolders) {
+    const QString Root = u"/mnt/"_s + HostName("Fotos \xFC");
+    const QByteArray Bytes = HostBytes(Root);
+    MakeDirs(Root);
+    if (mount("none", Bytes.constData(), "tmpfs", 0, "size=1m") != 0) {
+        DeleteFolder(Root);
+        GTEST_SKIP() << "nothing can be mounted here";
+    }
+    WriteFile(Root + u"/a.jpg"_s, "x");
+    const std::vector<Volume> All = DesktopDrives().Volumes();
+    const QStringList Drives = DesktopDrives().Drives();
+    const bool IsReady = DesktopDrives().IsReady(Root);
+    umount2(Bytes.constData(), MNT_DETACH);
+    DeleteFolder(Root);
+    const auto Found = std::ranges::find(All, Root, &Volume::Root);
+    ASSERT_NE(All.end(), Found);
+    EXPECT_EQ(u"Fotos ü", Found->Name);
+    EXPECT_TRUE(Drives.contains(Root) && IsReady);
 }
 
 TEST(Drives, TellOfWhatIsMountedAndUnmountedWhileSomebodyListens) {
