@@ -42,7 +42,12 @@ void frmLoading::ShowPicture(const QImage& Picture) {
     mPicture = Picture;
 }
 
+void frmLoading::ShowCount(int Number, int Count) {
+    mUi->wdgWords->ShowCount(Number, Count);
+}
+
 void frmLoading::Refresh() {
+    mUi->wdgWords->Follow(*mUi->pgbLoadingProgress);
     if (!mPaintRate.IsDue()) return;
     mUi->Picture1->setPixmap(QPixmap::fromImage(mPicture));
     if (isVisible()) repaint();

@@ -1,0 +1,121 @@
+#include "windows/import/ImportOptions.h"
+
+#include <QBoxLayout>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QEvent>
+#include <QLabel>
+
+#include "settings/SettingKeys.h"
+#include "settings/clsSettings.h"
+#include "settings/modNEBSlideShow.h"
+#include "windows/frame/modWindowState.h"
+
+namespace neb {
+namespace {
+
+constexpr int WidestRow = 860;  // pixels, in a window of its first width
+
+// The entries of the list of orders, and what the settings file calls them.
+struct OrderRow {
+    PictureOrder Order;
+    const char* Stored;
+    QString Text;
+};
+
+const std::vector<OrderRow>& OrderRows() {
+    static const std::vector<OrderRow> Rows = {
+        {PictureOrder::ByName, "Name", ImportOptions::tr("By name")},
+        {PictureOrder::ByTime, "Taken", ImportOptions::tr("By the time taken")},
+    };
+    return Rows;
+}
+
+const OrderRow& OrderAt(int Index) {
+    return OrderRows().at(static_cast<size_t>(std::max(Index, 0)));
+}
+
+// The entry that the settings file names; the first for anything else.
+int StoredOrder() {
+    const QString Stored = ReadText(OpenSettings(), Setting::PictureOrder);
+    for (int I = 0; I < static_cast<int>(OrderRows().size()); ++I)
+        if (Stored == QLatin1String(OrderAt(I).Stored)) return I;
+    return 0;
+}
+
+// A label and its field stand close together, whatever stands beside them.
+QBoxLayout* Labelled(QLabel& Label, QWidget& Field) {
+    auto* Pair = new QHBoxLayout;
+    Pair->addWidget(&Label);
+    Pair->addWidget(&Field);
+    Pair->addStretch(1);
+    Label.setBuddy(&Field);
+    return Pair;
+}
+
+}  // namespace
+
+ImportOptions::ImportOptions(QWidget* Parent) : QWidget(Parent), mRow(new QHBoxLayout(this)) {
+    mRow->setContentsMargins(0, 0, 0, 0);
+    mRow->setSpacing(2 * fontMetrics().averageCharWidth() + mRow->spacing());
+    AddOrder();
+    AddCaptions();
+    Arrange();
+}
+
+void ImportOptions::AddOrder() {
+    auto* Label = new QLabel(tr("Or&der pictures"));
+    mOrder = new QComboBox;
+    mOrder->setObjectName(QStringLiteral("cboOrder"));
+    mOrder->setAccessibleName(tr("Order pictures"));
+    mOrder->setToolTip(
+        tr("The order in which pictures are listed before they are selected; IMG_2 comes before "
+           "IMG_10"));
+    for (const OrderRow& Each : OrderRows()) mOrder->addItem(Each.Text);
+    mOrder->setCurrentIndex(StoredOrder());
+    mRow->addLayout(Labelled(*Label, *mOrder));
+    connect(mOrder, &QComboBox::activated, this, [this](int Index) {
+        clsSettings Settings = OpenSettings();
+        PutText(Settings, Setting::PictureOrder, QString::fromLatin1(OrderAt(Index).Stored));
+        SaveMemory(Settings);
+        Q_EMIT OrderChosen(Order());
+    });
+}
+
+void ImportOptions::AddCaptions() {
+    mCaptions = new QCheckBox(tr("&Captions from the pictures' own words"));
+    mCaptions->setObjectName(QStringLiteral("chkCaptions"));
+    mCaptions->setAccessibleName(tr("Captions from the pictures' own words"));
+    mCaptions->setToolTip(
+        tr("Titles and descriptions that are kept in the pictures become captions; else the names "
+           "of the files"));
+    mCaptions->setChecked(ReadFlag(OpenSettings(), Setting::PictureCaptions));
+    mRow->addWidget(mCaptions);
+    connect(mCaptions, &QCheckBox::clicked, this, [this](bool On) {
+        clsSettings Settings = OpenSettings();
+        PutFlag(Settings, Setting::PictureCaptions, On);
+        SaveMemory(Settings);
+        Q_EMIT OwnWordsChosen(On);
+    });
+}
+
+PictureOrder ImportOptions::Order() const {
+    return OrderAt(mOrder->currentIndex()).Order;
+}
+
+bool ImportOptions::OwnWords() const {
+    return mCaptions->isChecked();
+}
+
+// In a large font the choices stand one below the other: the window stays within the screen.
+void ImportOptions::Arrange() {
+    mRow->setDirection(QBoxLayout::LeftToRight);
+    if (mRow->sizeHint().width() > WidestRow) mRow->setDirection(QBoxLayout::TopToBottom);
+}
+
+void ImportOptions::changeEvent(QEvent* Event) {
+    QWidget::changeEvent(Event);
+    if (Event->type() == QEvent::FontChange || Event->type() == QEvent::StyleChange) Arrange();
+}
+
+}  // namespace neb
