@@ -8,6 +8,7 @@
 #include <mutex>
 
 #include "support/MediaTypes.h"
+#include "support/files/HiddenNames.h"
 #include "support/files/modHostFilesMask.h"
 #include "support/files/modHostFilesWalk.h"
 #include "support/modFUFL.h"
@@ -152,6 +153,7 @@ class GraphicsSearch::Walk {
         QString Passed;
         for (const DirEntry& Entry : Entries) {
             if (mState->Stop) return false;
+            if (Entry.IsFolder ? IsHiddenFolder(Entry.Name) : IsHiddenFile(Entry.Name)) continue;
             if (Entry.IsFolder)
                 SubDirectories.push_back(Entry);
             else if (IsWanted(Entry.Name) && !TakeFile(Path, Entry.Name, Step) && Passed.isEmpty())

@@ -1,5 +1,7 @@
 #include "albums/modPictureFiles.h"
 
+#include "albums/PictureOrder.h"
+#include "support/files/HiddenNames.h"
 #include "support/files/modHostFiles.h"
 #include "support/files/modHostFilesWalk.h"
 #include "support/modFUFL.h"
@@ -9,37 +11,67 @@ namespace {
 
 class PictureWalk {
   public:
-    PictureWalk(bool Recurse, const KeepGoing& GoOn, QStringList& Found)
-        : mRecurse(Recurse), mGoOn(GoOn), mFound(Found) {}
+    PictureWalk(bool Recurse, const KeepGoing& GoOn) : mRecurse(Recurse), mGoOn(GoOn) {}
 
+    Scan Run(const QString& Directory) {
+        Walk(Directory, RealDir(Directory));
+        return std::move(mFound);
+    }
+
+  private:
     // False when the walk was ended.
-    bool Walk(const QString& Directory) {
-        const QString Real = RealDir(Directory);
-        if (Real.isEmpty() || mWayDown.contains(Real)) return true;
+    bool Walk(const QString& Directory, const QString& Real) {
+        if (mWayDown.contains(Real)) return true;
         mWayDown.append(Real);
         const bool WentOn = WalkEntries(WithSeparator(Directory));
         mWayDown.removeLast();
         return WentOn;
     }
 
-  private:
     bool WalkEntries(const QString& Directory) {
-        QStringList SubDirectories;
-        for (const DirEntry& Entry : ListDir(Directory)) {
+        Names Here;
+        const bool WentOn = ListNames(Directory, Here);
+        for (QStringList* Each : {&Here.Pictures, &Here.Others, &Here.Folders}) SortByName(*Each);
+        for (const QString& Name : Here.Pictures) mFound.Files.append(Directory + Name);
+        for (const QString& Name : Here.Others) mFound.OtherFiles.append(Directory + Name);
+        return WentOn && (!mRecurse || WalkAll(Directory, Here));
+    }
+
+    struct Names {
+        QStringList Pictures, Others, Folders, Links;  // links are folders as well
+    };
+
+    bool ListNames(const QString& Directory, Names& Here) {
+        std::error_code Error;
+        const std::vector<DirEntry> Entries = ListDir(Directory, Error);
+        if (Error) mFound.UnreadableFolders.push_back({Directory, qt_error_string(Error.value())});
+        for (const DirEntry& Entry : Entries) {
             if (!mGoOn()) return false;
-            const QString Path = Directory + Entry.Name;
-            if (Entry.IsFolder)
-                SubDirectories.append(Path);
-            else if (IsPictureName(Entry.Name))
-                mFound.append(Path);
+            Sort(Entry, Here);
         }
-        return !mRecurse || std::all_of(SubDirectories.begin(), SubDirectories.end(),
-                                        [this](const QString& Path) { return Walk(Path); });
+        return true;
+    }
+
+    static void Sort(const DirEntry& Entry, Names& Here) {
+        if (Entry.IsFolder ? IsHiddenFolder(Entry.Name) : IsHiddenFile(Entry.Name)) return;
+        if (Entry.IsFolder && Entry.IsLink) Here.Links.append(Entry.Name);
+        (Entry.IsFolder              ? Here.Folders
+         : IsPictureName(Entry.Name) ? Here.Pictures
+                                     : Here.Others)
+            .append(Entry.Name);
+    }
+
+    bool WalkAll(const QString& Directory, const Names& Here) {
+        const QString Real = WithSeparator(mWayDown.back());
+        return std::all_of(Here.Folders.begin(), Here.Folders.end(), [&](const QString& Name) {
+            const QString Path = Directory + Name;
+            return Walk(Path, Here.Links.contains(Name) ? RealDir(Path) : Real + Name);
+        });
     }
 
     bool mRecurse;
     const KeepGoing& mGoOn;
-    QStringList& mFound;
+    Scan mFound;
     QStringList mWayDown;  // the real directories above the present one
 };
 
@@ -71,10 +103,12 @@ Answer<> CheckSource(const QString& Path, const QString& Root) {
         QStringLiteral("This directory is reserved for Albums.  You cannot import from it."));
 }
 
+Scan ScanPictures(const QString& Directory, bool Recurse, const KeepGoing& GoOn) {
+    return PictureWalk(Recurse, GoOn).Run(Directory);
+}
+
 QStringList ScanDirectory(const QString& Directory, bool Recurse, const KeepGoing& GoOn) {
-    QStringList Found;
-    PictureWalk(Recurse, GoOn, Found).Walk(Directory);
-    return Found;
+    return ScanPictures(Directory, Recurse, GoOn).Files;
 }
 
 std::int32_t CountGraphicFiles(const QString& Directory, bool Recurse, JobState& Count) {

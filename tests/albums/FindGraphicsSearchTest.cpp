@@ -110,6 +110,13 @@ TEST_F(FindGraphicsSearch, ListsNoDirectoryThatIsNamedLikeAPicture) {
     EXPECT_EQ(": holiday.jpg:a.jpg", Walk().toStdString());
 }
 
+TEST_F(FindGraphicsSearch, PassesOverHiddenFilesAndFolders) {
+    for (const char* Name : {"a.jpg", "._a.jpg", ".thumbs/b.jpg", ".Trash-1000/files/c.jpg",
+                             "$RECYCLE.BIN/d.jpg", "sub/e.jpg", "sub/@eaDir/f.jpg"})
+        Make(QString::fromLatin1(Name));
+    EXPECT_EQ(":a.jpg sub:e.jpg", Walk().toStdString());
+}
+
 TEST_F(FindGraphicsSearch, FollowsLinksButNotInCircles) {
     Make(u"a/1.jpg"_s);
     TempFolder Elsewhere;

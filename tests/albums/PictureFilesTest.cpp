@@ -69,15 +69,18 @@ TEST_F(PictureFiles, AreTheSameForCountingForFindGraphicsAndForTheFileDialog) {
     EXPECT_EQ(PictureExtensions().size(), QString::fromStdString(Scan(false)).split(u' ').size());
 }
 
-TEST_F(PictureFiles, StandInTheOrderOfTheirUpperCasedNames) {
-    for (const char* Name : {"b.jpg", "A.jpg", "C.png", "a_.jpg", "notes.txt", "B1.jpg"})
+TEST_F(PictureFiles, StandInTheOrderInWhichPeopleReadTheirNames) {
+    for (const char* Name :
+         {"b.jpg", "A.jpg", "C.png", "a_.jpg", "notes.txt", "B1.jpg", "B10.jpg", "b2.jpg"})
         Touch(Name);
-    EXPECT_EQ("A.jpg a_.jpg b.jpg B1.jpg C.png", Scan(false));
+    EXPECT_EQ("A.jpg a_.jpg b.jpg B1.jpg b2.jpg B10.jpg C.png", Scan(false));
 }
 
 TEST_F(PictureFiles, OfADirectoryComeBeforeThoseOfItsSubdirectoriesDepthFirst) {
-    for (const char* Name : {"z.jpg", "A/m.jpg", "A/deep/x.jpg", "A/a.jpg", "b/y.jpg"}) Touch(Name);
-    EXPECT_EQ("z.jpg A/a.jpg A/m.jpg A/deep/x.jpg b/y.jpg", Scan(true));
+    for (const char* Name :
+         {"z.jpg", "A/m.jpg", "A/deep/x.jpg", "A/a.jpg", "b/y.jpg", "b10/w.jpg", "b9/v.jpg"})
+        Touch(Name);
+    EXPECT_EQ("z.jpg A/a.jpg A/m.jpg A/deep/x.jpg b/y.jpg b9/v.jpg b10/w.jpg", Scan(true));
     EXPECT_EQ("z.jpg", Scan(false));
 }
 
@@ -106,7 +109,7 @@ TEST_F(PictureFiles, AreCountedByTheSameNamesThatTheImportTakes) {
          {"a.jpg", "b.JPEG", "c.wBmp",
           "d.t\xC4\xB1"
           "f",
-          "e.jp", "f.jpgx", "g", ".png", "sub.tif/\xC3\xA4.tla", "sub.tif/h.gif"})
+          "e.jp", "f.jpgx", "g", "g.png", "sub.tif/\xC3\xA4.tla", "sub.tif/h.gif"})
         Touch(Name);
     for (bool Recurse : {false, true}) {
         QStringList Found = ScanDirectory(Pics.Path(), Recurse, GoOn);
@@ -190,6 +193,72 @@ TEST_F(PictureFiles, InAnUnreadableSubdirectoryArePassedOver) {
     QFile::setPermissions(Pics / u"locked"_s, All);
     EXPECT_EQ("a.jpg open/c.jpg", Found);
     EXPECT_EQ(2, Counted);
+}
+
+class HiddenPictures : public PictureFiles {
+  protected:
+    void SetUp() override {
+        for (const char* Name :
+             {"a.jpg", "._a.jpg", ".jpg", ".thumbs/b.jpg", ".Trash-1000/files/c.jpg",
+              "$RECYCLE.BIN/S-1-5/$RX1.jpg", "RECYCLER/Dc1.jpg", "System Volume Information/d.jpg",
+              "lost+found/#12.jpg", "sub/e.jpg", "sub/.f.jpg", "sub/@eaDir/e.jpg/SYNO_XL.jpg",
+              "sub/#recycle/g.jpg", "Trash/h.jpg", "Papierkorb/i.jpg", "..x/j.jpg"})
+            Touch(Name);
+    }
+};
+
+TEST_F(HiddenPictures, DoNotComeIn) {
+    EXPECT_EQ("a.jpg", Scan(false));
+    EXPECT_EQ("a.jpg Papierkorb/i.jpg sub/e.jpg Trash/h.jpg", Scan(true));
+}
+
+TEST_F(HiddenPictures, DoNotCount) {
+    EXPECT_EQ(1, Count(false));
+    EXPECT_EQ(4, Count(true));
+}
+
+TEST_F(HiddenPictures, ComeInWhereTheUserHasChosenTheirFolder) {
+    const QString Chosen = Pics / u".thumbs"_s;
+    Touch(".thumbs/.g.jpg");
+    Touch(".thumbs/.h/i.jpg");
+    EXPECT_EQ(QStringList(Chosen + u"/b.jpg"_s), ScanDirectory(Chosen, true, GoOn));
+    EXPECT_EQ(1, CountIn(Chosen, true));
+}
+
+TEST_F(PictureFiles, OfForeignKindsAreTold) {
+    for (const char* Name : {"film.mp4", "a.jpg", "note 10.txt", "note 9.txt", ".note", "Thumbs.db",
+                             "desktop.ini", "sub/README", "sub/song.mp3", ".git/config"})
+        Touch(Name);
+    const auto Others = [this](bool Recurse) {
+        QStringList Names = ScanPictures(Pics.Path(), Recurse, GoOn).OtherFiles;
+        return Names.replaceInStrings(Pics.Path(), QString()).join(u'|').toStdString();
+    };
+    EXPECT_EQ("film.mp4|note 9.txt|note 10.txt", Others(false));
+    EXPECT_EQ("film.mp4|note 9.txt|note 10.txt|sub/README|sub/song.mp3", Others(true));
+}
+
+TEST_F(PictureFiles, BehindAFolderThatCannotBeListedAreToldByIt) {
+    for (const char* Name : {"a.jpg", "locked/b.jpg", "open/c.jpg"}) Touch(Name);
+    const auto All = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
+    QFile::setPermissions(Pics / u"locked"_s, {});
+    QFile::setPermissions(
+        Pics.Path(), All | QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther);
+    struct Scan Found;
+    {
+        const harness::WithoutPrivileges User;
+        Found = ScanPictures(Pics.Path(), true, GoOn);
+    }
+    QFile::setPermissions(Pics / u"locked"_s, All);
+    EXPECT_EQ(2, Found.Files.size());
+    ASSERT_EQ(1U, Found.UnreadableFolders.size());
+    EXPECT_EQ(Pics / u"locked/"_s, Found.UnreadableFolders[0].Path);
+    EXPECT_EQ("Permission denied", Found.UnreadableFolders[0].Reason.toStdString());
+}
+
+TEST_F(PictureFiles, InAFolderThatHasGoneAreToldByIt) {
+    const struct Scan Found = ScanPictures(Pics / u"gone"_s, true, GoOn);
+    ASSERT_EQ(1U, Found.UnreadableFolders.size());
+    EXPECT_EQ("No such file or directory", Found.UnreadableFolders[0].Reason.toStdString());
 }
 
 }  // namespace

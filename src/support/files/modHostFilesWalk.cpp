@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "support/files/HiddenNames.h"
 #include "support/files/modHostFiles.h"
 #include "support/files/modHostFilesListing.h"
 
@@ -61,10 +62,11 @@ class Walker {
         return true;
     }
     void Take(const OpenDir& Dir, const dirent& Entry, std::vector<std::string>& Below) {
+        const std::string_view Name = Entry.d_name;
         const Kind What = KindOf(Dir, Entry);
-        if (What == Kind::Other || !IsText(Entry.d_name)) return;
-        if (What == Kind::Folder && mRecurse) Below.emplace_back(Entry.d_name);
-        if (What != Kind::File || !mWalk.Wants(Entry.d_name)) return;
+        if (What == Kind::Other || !IsText(Name)) return;
+        if (What == Kind::Folder && mRecurse && !IsHiddenFolder(Name)) Below.emplace_back(Name);
+        if (What != Kind::File || IsHiddenFile(Name) || !mWalk.Wants(Name)) return;
         if (faccessat(Dir.Number(), Entry.d_name, R_OK, AT_EACCESS) == 0) mWalk.Found();
     }
 
