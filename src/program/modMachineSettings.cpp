@@ -105,6 +105,9 @@ void EnsureMachineSettings(const std::function<SpeedTestResult()>& Test) {
     if (HasSetting(Settings, Setting::Timeout)) return;
     const SpeedTestResult Result = Test();
     SetScreenPointer(Pointer::Default);
+    // An installation that had its settings before there was a choice keeps pictures as it did.
+    if (!HasSetting(Settings, Setting::KeepPictures))
+        PutText(Settings, Setting::KeepPictures, QStringLiteral("Screen"));
     StoreMachineSettings(Settings, Result);
     if (!Result.IsWhole)
         ShowNotice(QObject::tr(

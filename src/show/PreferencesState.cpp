@@ -36,6 +36,8 @@ PreferencesState ReadPreferences(const clsSettings& Settings) {
     Read.NextSlideSeq = ReadNumber(Settings, Setting::NextSlideSeq);
     Read.SlideTimeout = ReadDecimal(Settings, Setting::Timeout);
     Read.ShowScreen = ReadText(Settings, Setting::ShowScreen);
+    Read.KeepPictures = ReadText(Settings, Setting::KeepPictures);
+    Read.KeepPlace = ReadFlag(Settings, Setting::KeepPlace);
     Read.Effects = ReadEffectSettings(Settings, SettingReader::Preferences);
     for (std::int32_t Effect = 0; Effect <= LastEffect; ++Effect)
         Read.EffectSelected[static_cast<size_t>(Effect)] = ReadEffectSelected(Settings, Effect);
@@ -55,6 +57,8 @@ void PutPreferences(clsSettings& Settings, const PreferencesState& State) {
     PutSpeeds(Settings, State.Effects);
     if (!State.ShowScreen.isEmpty() || HasSetting(Settings, Setting::ShowScreen))
         PutText(Settings, Setting::ShowScreen, State.ShowScreen);
+    PutText(Settings, Setting::KeepPictures, State.KeepPictures);
+    PutFlag(Settings, Setting::KeepPlace, State.KeepPlace);
 }
 
 std::optional<double> DecimalIn(const QString& Text) {
@@ -108,6 +112,8 @@ void TakeEntries(PreferencesState& State, const PreferencesEntries& Entries) {
     if (!(State.SlideTimeout > 0)) State.SlideTimeout = DefaultTimeout;
     State.NextSlideSeq = std::max(0, Entries.NextSlide);
     State.ShowScreen = Entries.ShowScreen;
+    State.KeepPictures = Entries.KeepPictures;
+    State.KeepPlace = Entries.KeepPlace;
     State.Effects.MaxEffectLevel = Entries.MaxEffectLevel;
     State.Effects.UseEffectLevel = Entries.UseEffectLevel;
     for (const PreferencesEntries::Flag& Each : Entries.Effects)

@@ -20,6 +20,8 @@ struct PreferencesState {
     std::int32_t NextSlideSeq = 0;
     double SlideTimeout = 20;  // seconds
     QString ShowScreen;        // as ScreenChoice.h says it
+    QString KeepPictures;      // a key of albums/KeepingChoice.h
+    bool KeepPlace = true;     // where a picture was taken stays in its file
     EffectSettings Effects;
     EffectArray<bool> EffectSelected{};        // numbers 0 to 127
     EffectArray<std::uint8_t> EffectLevels{};  // numbers 0 to 127; 1 lite, 2 normal, 3 intense
@@ -85,7 +87,8 @@ struct PreferencesEntries {
     };
     std::vector<Flag> Effects;  // what the list holds
     SpeedEntry Speeds[std::size(EffectLevelRows)];
-    QString ShowScreen;
+    QString ShowScreen, KeepPictures;
+    bool KeepPlace = true;
 };
 
 // The first entry that cannot be taken over.

@@ -81,14 +81,17 @@ constexpr Command Table[] = {
      "line says that the next start of the program will finish it.\n",
      RunRestore},
     {"import",
-     "DIR FOLDER --album NAME [--recurse] [--show NAME] [--go-on | --restore] [--take-over]",
+     "DIR FOLDER --album NAME [--recurse] [--show NAME] [--size WxH]\n"
+     "              [--go-on | --restore] [--take-over]",
      "bring a folder of pictures into an album",
      "Takes the pictures of FOLDER, with --recurse those of the folders below it as well, into\n"
      "the album NAME of the database in DIR. An album or a database that is not there is made;\n"
      "below a documents folder, where the program will look for it.\n"
      "With --show a slide show of that name is made of the pictures, in their order. A file\n"
-     "that cannot be read is named and left out. When the work fails nothing is "
-     "changed.\n" MEND_HELP,
+     "that cannot be read is named and left out. When the work fails nothing is changed.\n"
+     "\n"
+     "  --size WxH  keeps pictures at most so large, in pixels; without it 1024x768, which is the\n"
+     "              least. Larger ones are made smaller in their proportions\n" MEND_HELP,
      RunImport, Wants::Drawing},
     {"adopt", "DIR [--go-on | --restore] [--take-over]",
      "make slides again of pictures that no record names",

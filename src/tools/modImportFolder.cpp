@@ -1,5 +1,6 @@
 #include "tools/modImportFolder.h"
 
+#include "albums/KeepingChoice.h"
 #include "albums/modImport.h"
 #include "albums/modPictureFiles.h"
 #include "db/clsDBEngine.h"
@@ -27,6 +28,7 @@ struct ImportOrder {
     QString Album;
     QString Show;  // empty: no show
     bool Recurse = false;
+    PictureKeeping Keeping;
 };
 
 // A picture made ready on a worker; Problem says why there is none.
@@ -36,9 +38,9 @@ struct Prepared {
     QString Problem;
 };
 
-Prepared Prepare(const QString& Path) {
+Prepared Prepare(const QString& Path, const PictureKeeping& Keeping) {
     try {
-        return {FittedJpeg(Path), MakeThumbnail(Path), {}};
+        return {FittedJpeg(Path, Keeping), MakeThumbnail(Path), {}};
     } catch (const Fault& Problem) {
         return {{}, {}, Problem.What()};
     }
@@ -53,22 +55,41 @@ bool IsStoredAs(const QString& One, const QString& Other) {
     return Stored(One).compare(Stored(Other), Qt::CaseInsensitive) == 0;
 }
 
-// The words of the command line; nothing after a line on Err when they do not make an order.
-std::optional<ImportOrder> ReadOrder(QStringList Arguments, ToolIO& IO) {
+struct OrderWords {
     ImportOrder Order;
-    QStringList Places;
-    while (!Arguments.isEmpty()) {
-        const QString Word = Arguments.takeFirst();
-        QString* const Value = Word == u"--album"  ? &Order.Album
-                               : Word == u"--show" ? &Order.Show
-                                                   : nullptr;
-        if (Value)
-            *Value = Arguments.isEmpty() ? QString() : ConvertQuotes(Arguments.takeFirst());
-        else if (Word == u"--recurse")
-            Order.Recurse = true;
-        else
-            Places.append(Word);
+    QStringList Places;  // what is no option
+    QString Size;
+};
+
+OrderWords SortWords(QStringList Arguments) {
+    OrderWords Found;
+    const std::pair<const char*, QString*> Named[] = {
+        {"--album", &Found.Order.Album}, {"--show", &Found.Order.Show}, {"--size", &Found.Size}};
+    const std::pair<const char*, bool*> Flags[] = {{"--recurse", &Found.Order.Recurse}};
+    const auto Take = [&](const QString& Word) {
+        for (const auto& [Name, Value] : Named)
+            if (Word == QLatin1String(Name)) {
+                *Value =
+                    Arguments.isEmpty() ? QStringLiteral("") : ConvertQuotes(Arguments.takeFirst());
+                return true;
+            }
+        for (const auto& [Name, Value] : Flags)
+            if (Word == QLatin1String(Name)) return *Value = true;
+        return false;
+    };
+    while (!Arguments.isEmpty())
+        if (const QString Word = Arguments.takeFirst(); !Take(Word)) Found.Places.append(Word);
+    return Found;
+}
+
+// The words of the command line; nothing after a line on Err when they do not make an order.
+std::optional<ImportOrder> ReadOrder(const QStringList& Arguments, ToolIO& IO) {
+    auto [Order, Places, Size] = SortWords(Arguments);
+    if (!Size.isNull() && !LimitIn(Size)) {
+        Fail(IO, QStringLiteral("--size wants a width and a height in pixels, such as 1920x1080."));
+        return std::nullopt;
     }
+    Order.Keeping.Limit = LimitIn(Size).value_or(SlideLimit);
     if (Places.size() != 2 || Order.Album.isEmpty()) {
         Fail(IO, QStringLiteral("A database directory, a folder and --album NAME are wanted; "
                                 "see nebctl import --help."));
@@ -163,7 +184,9 @@ class FolderImport {
     }
 
     void EnterAll(const QStringList& Paths) {
-        AheadQueue<QString, Prepared> Ahead({Paths.begin(), Paths.end()}, &Prepare);
+        AheadQueue<QString, Prepared> Ahead(
+            {Paths.begin(), Paths.end()},
+            [Keeping = mOrder.Keeping](const QString& Path) { return Prepare(Path, Keeping); });
         ProgressLine Progress(mIO, "Importing");
         for (qsizetype I = 0; I < Paths.size(); ++I) {
             Progress.Show(static_cast<size_t>(I), static_cast<size_t>(Paths.size()));

@@ -9,6 +9,7 @@
 #include "harness/HastyClock.h"
 #include "harness/ScriptedBoxes.h"
 #include "harness/TempFolder.h"
+#include "settings/SettingKeys.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/files/modHostFiles.h"
 #include "windows/frame/Openers.h"
@@ -157,6 +158,19 @@ TEST_F(MachineSettings, TheKeysStandInTheirOrder) {
         EXPECT_GT(At, Last) << Key;
         Last = At;
     }
+}
+
+TEST_F(MachineSettings, ANewInstallationKeepsPicturesAsLargeAsTheLargestScreen) {
+    EnsureMachineSettings([] { return SpeedTestResult(); });
+    EXPECT_EQ(ReadText(OpenSettings(), Setting::KeepPictures), "Screen");
+}
+
+TEST_F(MachineSettings, AnInstallationOfBeforeKeepsPicturesAsItDid) {
+    clsSettings Settings = OpenSettings();
+    PutText(Settings, Setting::Timeout, "7");
+    Settings.Save();
+    EnsureMachineSettings([] { return SpeedTestResult(); });
+    EXPECT_EQ(ReadText(OpenSettings(), Setting::KeepPictures), "1024x768");
 }
 
 TEST_F(MachineSettings, TheTestRunsOnceInTheLifeOfASettingsFile) {

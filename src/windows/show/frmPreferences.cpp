@@ -12,6 +12,7 @@
 #include "support/Services.h"
 #include "support/modNumbers.h"
 #include "ui_frmPreferences.h"
+#include "windows/frame/KeepPicturesField.h"
 #include "windows/show/ShowScreen.h"
 #include "windows/show/modSlideShows.h"
 
@@ -59,7 +60,8 @@ frmPreferences::frmPreferences() : mUi(std::make_unique<Ui::frmPreferences>()) {
     mState.SlideTimeout = neb::SlideTimeout;
     mUi->setupUi(this);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
-    for (QComboBox* Box : {mUi->cboAlbums, mUi->cboSlideShows, mUi->cboScreen})
+    for (QComboBox* Box :
+         {mUi->cboAlbums, mUi->cboSlideShows, mUi->cboScreen, mUi->cboKeepPictures})
         Box->view()->setAccessibleName(Box->accessibleName());
     SetUpGrid();
     ConnectControls();
@@ -252,6 +254,8 @@ void frmPreferences::LoadScreens() {
 void frmPreferences::LoadFields() {
     mNextSlideOf = ChosenID(*mUi->cboSlideShows);
     LoadScreens();
+    ListKeepings(*mUi->cboKeepPictures, mState.KeepPictures);
+    mUi->chkKeepPlace->setChecked(mState.KeepPlace);
     mUi->txtNextSlide->setText(QString::number(mState.NextSlideSeq));
     mUi->txtSlideTimeout->setText(ShortestDecimal(mState.SlideTimeout));
     mUi->sdrMaxEffectLevel->setValue(mState.Effects.MaxEffectLevel);
@@ -323,6 +327,8 @@ PreferencesEntries frmPreferences::ReadControls() const {
     Entries.NextSlide = CInt(Val(mUi->txtNextSlide->text()));
     Entries.SlideTimeout = DecimalIn(mUi->txtSlideTimeout->text());
     Entries.ShowScreen = mUi->cboScreen->currentData().toString();
+    Entries.KeepPictures = mUi->cboKeepPictures->currentData().toString();
+    Entries.KeepPlace = mUi->chkKeepPlace->isChecked();
     Entries.MaxEffectLevel = mUi->sdrMaxEffectLevel->value();
     Entries.UseEffectLevel = mUi->optEffects0->isChecked();
     for (int Row = 0; Row < mUi->lstEffects->count(); ++Row)

@@ -1,4 +1,6 @@
 // Apply in the Preferences window: what it takes over and writes, what it refuses.
+#include <QCheckBox>
+
 #include "PreferencesRig.h"
 #include "show/ShowSettings.h"
 #include "support/Fault.h"
@@ -40,6 +42,22 @@ TEST_F(PreferencesApply, KeepsAllThatWasEntered) {
               (Setting("StepL") + ',' + Setting("DelayL") + ',' + Setting("StepM") + ',' +
                Setting("DelayM") + ',' + Setting("StepH") + ',' + Setting("DelayH")));
     EXPECT_EQ(1000, Now.Effects.DelayL) << "a delay of 0 is corrected at the next reading";
+}
+
+TEST_F(PreferencesApply, KeepsHowPicturesAreToBeKept) {
+    Open([&] {
+        EXPECT_EQ("1024 x 768", Combo("cboKeepPictures").currentText());
+        EXPECT_TRUE(In<QCheckBox>("chkKeepPlace").isChecked());
+        QTest::keyClick(&Combo("cboKeepPictures"), Qt::Key_Down);
+        QTest::mouseClick(&In<QCheckBox>("chkKeepPlace"), Qt::LeftButton, {}, {10, 10});
+        Press("cmdApply");
+    });
+    EXPECT_EQ("1920x1080", ReadPreferences(OpenSettings()).KeepPictures);
+    EXPECT_FALSE(ReadPreferences(OpenSettings()).KeepPlace);
+    Open([&] {
+        EXPECT_EQ("1920 x 1080", Combo("cboKeepPictures").currentText());
+        EXPECT_FALSE(In<QCheckBox>("chkKeepPlace").isChecked());
+    });
 }
 
 TEST_F(PreferencesApply, WithNoAlbumChosenWritesAlbumZeroAndLeavesTheShow) {
