@@ -8,7 +8,7 @@ namespace neb {
 namespace {
 
 // On many systems /tmp lies in memory, which is what is to be spared here; whoever names a folder
-// for temporary files in the environment knows why.
+// for temporary files in the environment knows why. Empty: there is none.
 QString Folder() {
     const QString OnDisk = QStringLiteral("/var/tmp");
     const bool Named = !qEnvironmentVariableIsEmpty("TMPDIR");
@@ -23,7 +23,9 @@ SpoolFile::~SpoolFile() = default;
 // Where the system can, the toolkit makes a file that never had a name; elsewhere it deletes it.
 bool SpoolFile::Open() {
     if (mFile) return mFile->isOpen();
-    mFile = std::make_unique<QTemporaryFile>(Folder() + QStringLiteral("/neb-XXXXXX"));
+    const QString Place = Folder();
+    if (Place.isEmpty()) return false;
+    mFile = std::make_unique<QTemporaryFile>(Place + QStringLiteral("/neb-XXXXXX"));
     return mFile->open();
 }
 

@@ -6,9 +6,11 @@
 #include <QEvent>
 #include <QLabel>
 
+#include "controls/fields/ComboBoxList.h"
 #include "settings/SettingKeys.h"
 #include "settings/clsSettings.h"
 #include "settings/modNEBSlideShow.h"
+#include "windows/frame/KeepPicturesField.h"
 #include "windows/frame/modWindowState.h"
 
 namespace neb {
@@ -60,6 +62,9 @@ ImportOptions::ImportOptions(QWidget* Parent) : QWidget(Parent), mRow(new QHBoxL
     mRow->setSpacing(2 * fontMetrics().averageCharWidth() + mRow->spacing());
     AddOrder();
     AddCaptions();
+    mRow->addStretch(1);
+    mKeeping = new KeepPicturesField;
+    mRow->addWidget(mKeeping);
     Arrange();
 }
 
@@ -73,6 +78,7 @@ void ImportOptions::AddOrder() {
            "IMG_10"));
     for (const OrderRow& Each : OrderRows()) mOrder->addItem(Each.Text);
     mOrder->setCurrentIndex(StoredOrder());
+    ChooseNotByWheel(*mOrder);
     mRow->addLayout(Labelled(*Label, *mOrder));
     connect(mOrder, &QComboBox::activated, this, [this](int Index) {
         clsSettings Settings = OpenSettings();
@@ -105,6 +111,10 @@ PictureOrder ImportOptions::Order() const {
 
 bool ImportOptions::OwnWords() const {
     return mCaptions->isChecked();
+}
+
+PictureKeeping ImportOptions::Keeping() const {
+    return mKeeping->Keeping();
 }
 
 // In a large font the choices stand one below the other: the window stays within the screen.

@@ -5,6 +5,7 @@
 #include <QWidget>
 
 #include "albums/PictureOrder.h"
+#include "pictures/PictureKeeping.h"
 
 QT_BEGIN_NAMESPACE
 class QBoxLayout;
@@ -13,6 +14,8 @@ class QComboBox;
 QT_END_NAMESPACE
 
 namespace neb {
+
+class KeepPicturesField;
 
 class ImportOptions : public QWidget {
     Q_OBJECT
@@ -23,6 +26,7 @@ class ImportOptions : public QWidget {
     PictureOrder Order() const;
     // Whether captions come from the pictures' own words; else from the files' names.
     bool OwnWords() const;
+    PictureKeeping Keeping() const;
 
   Q_SIGNALS:
     void OrderChosen(PictureOrder Order);
@@ -39,6 +43,7 @@ class ImportOptions : public QWidget {
     QBoxLayout* mRow;
     QComboBox* mOrder;
     QCheckBox* mCaptions;
+    KeepPicturesField* mKeeping;
 };
 
 }  // namespace neb
