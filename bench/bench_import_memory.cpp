@@ -86,7 +86,7 @@ Needed Reading(const QString& Folder, int Count) {
 
 Needed Importing(clsDBEngine& Engine, const QString& Folder, int Count) {
     std::int32_t AlbumID = 0;
-    Engine.SaveAlbum(AlbumID, QStringLiteral("Album of %1").arg(Count));
+    Engine.SaveAlbum(AlbumID, QStringLiteral("Album %1").arg(Engine.Albums.size()));
     MakeAlbumFolders(Engine, AlbumID);
     const auto Window = Read(Folder, AlbumID);
     Window->findChild<QPushButton*>(QStringLiteral("cmdMoveRightAll"))->click();

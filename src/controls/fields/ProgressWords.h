@@ -24,6 +24,8 @@ class ProgressWords : public QWidget {
     void ShowCount(int Number, int Count);
     // The time left, by what the bar shows at this moment.
     void Follow(const QProgressBar& Bar);
+    // As TimeLeft::Skip.
+    void Skip(double Ms) { mTime.Skip(Ms); }
 
   protected:
     void changeEvent(QEvent* Event) override;

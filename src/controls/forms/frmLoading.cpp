@@ -68,10 +68,12 @@ bool frmLoading::Form_Unload() {
 
 void frmLoading::AskAbort() {
     if (!mUi->cmdStop->isEnabled() || !mParent) return;
-    if (AskYesNo(QStringLiteral("Are you sure you want to Abort the current process?"),
-                 QStringLiteral("Abort Confirmation")) &&
-        mParent)
-        mParent->DoAbort();
+    const double Asked = TheServices().Time->Ticks();
+    const bool Stops =
+        AskYesNo(QStringLiteral("Are you sure you want to Abort the current process?"),
+                 QStringLiteral("Abort Confirmation"));
+    mUi->wdgWords->Skip(TheServices().Time->Ticks() - Asked);
+    if (Stops && mParent) mParent->DoAbort();
 }
 
 }  // namespace neb

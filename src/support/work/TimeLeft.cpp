@@ -59,6 +59,11 @@ void TimeLeft::Note(double Part, double NowMs) {
     mLast = Now;
 }
 
+void TimeLeft::Skip(double Ms) {
+    if (mStart) mStart->Ms += Ms;
+    mLast.Ms += Ms;
+}
+
 void TimeLeft::Begin(const Moment& Now) {
     mStart = mLast = Now;
     mPace = 0;

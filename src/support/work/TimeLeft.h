@@ -13,6 +13,8 @@ class TimeLeft {
     // How much is done, 0 to 1, at a moment in milliseconds of a clock that never jumps. Less than
     // before begins anew.
     void Note(double Part, double NowMs);
+    // So long nothing was done because the user was asked something: that does not count.
+    void Skip(double Ms);
 
     // The estimate at the last note, smoothed; nothing while it would be a guess.
     std::optional<double> Seconds() const { return mLeft; }

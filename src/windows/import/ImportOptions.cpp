@@ -16,7 +16,7 @@
 namespace neb {
 namespace {
 
-constexpr int WidestRow = 860;  // pixels, in a window of its first width
+constexpr int WidestRow = 960;  // pixels, in a window of its first width
 
 // The entries of the list of orders, and what the settings file calls them.
 struct OrderRow {
@@ -45,12 +45,11 @@ int StoredOrder() {
     return 0;
 }
 
-// A label and its field stand close together, whatever stands beside them.
+// A label and its field stand close together.
 QBoxLayout* Labelled(QLabel& Label, QWidget& Field) {
     auto* Pair = new QHBoxLayout;
     Pair->addWidget(&Label);
     Pair->addWidget(&Field);
-    Pair->addStretch(1);
     Label.setBuddy(&Field);
     return Pair;
 }
@@ -59,16 +58,18 @@ QBoxLayout* Labelled(QLabel& Label, QWidget& Field) {
 
 ImportOptions::ImportOptions(QWidget* Parent) : QWidget(Parent), mRow(new QHBoxLayout(this)) {
     mRow->setContentsMargins(0, 0, 0, 0);
-    mRow->setSpacing(2 * fontMetrics().averageCharWidth() + mRow->spacing());
-    AddOrder();
-    AddCaptions();
-    mRow->addStretch(1);
+    auto* Listed = new QHBoxLayout;
+    Listed->addLayout(AddOrder());
+    Listed->addSpacing(fontMetrics().averageCharWidth());
+    Listed->addWidget(AddCaptions());
+    Listed->addStretch(1);
+    mRow->addLayout(Listed, 1);
     mKeeping = new KeepPicturesField;
-    mRow->addWidget(mKeeping);
+    mRow->addWidget(mKeeping, 0, Qt::AlignLeft);
     Arrange();
 }
 
-void ImportOptions::AddOrder() {
+QLayout* ImportOptions::AddOrder() {
     auto* Label = new QLabel(tr("Or&der pictures"));
     mOrder = new QComboBox;
     mOrder->setObjectName(QStringLiteral("cboOrder"));
@@ -79,16 +80,16 @@ void ImportOptions::AddOrder() {
     for (const OrderRow& Each : OrderRows()) mOrder->addItem(Each.Text);
     mOrder->setCurrentIndex(StoredOrder());
     ChooseNotByWheel(*mOrder);
-    mRow->addLayout(Labelled(*Label, *mOrder));
     connect(mOrder, &QComboBox::activated, this, [this](int Index) {
         clsSettings Settings = OpenSettings();
         PutText(Settings, Setting::PictureOrder, QString::fromLatin1(OrderAt(Index).Stored));
         SaveMemory(Settings);
         Q_EMIT OrderChosen(Order());
     });
+    return Labelled(*Label, *mOrder);
 }
 
-void ImportOptions::AddCaptions() {
+QWidget* ImportOptions::AddCaptions() {
     mCaptions = new QCheckBox(tr("&Captions from the pictures' own words"));
     mCaptions->setObjectName(QStringLiteral("chkCaptions"));
     mCaptions->setAccessibleName(tr("Captions from the pictures' own words"));
@@ -96,13 +97,13 @@ void ImportOptions::AddCaptions() {
         tr("Titles and descriptions that are kept in the pictures become captions; else the names "
            "of the files"));
     mCaptions->setChecked(ReadFlag(OpenSettings(), Setting::PictureCaptions));
-    mRow->addWidget(mCaptions);
     connect(mCaptions, &QCheckBox::clicked, this, [this](bool On) {
         clsSettings Settings = OpenSettings();
         PutFlag(Settings, Setting::PictureCaptions, On);
         SaveMemory(Settings);
         Q_EMIT OwnWordsChosen(On);
     });
+    return mCaptions;
 }
 
 PictureOrder ImportOptions::Order() const {
@@ -117,7 +118,7 @@ PictureKeeping ImportOptions::Keeping() const {
     return mKeeping->Keeping();
 }
 
-// In a large font the choices stand one below the other: the window stays within the screen.
+// In a large font the row becomes two: the window stays within the screen.
 void ImportOptions::Arrange() {
     mRow->setDirection(QBoxLayout::LeftToRight);
     if (mRow->sizeHint().width() > WidestRow) mRow->setDirection(QBoxLayout::TopToBottom);

@@ -11,6 +11,7 @@ QT_BEGIN_NAMESPACE
 class QBoxLayout;
 class QCheckBox;
 class QComboBox;
+class QLayout;
 QT_END_NAMESPACE
 
 namespace neb {
@@ -36,8 +37,8 @@ class ImportOptions : public QWidget {
     void changeEvent(QEvent* Event) override;
 
   private:
-    void AddOrder();
-    void AddCaptions();
+    QLayout* AddOrder();
+    QWidget* AddCaptions();
     void Arrange();
 
     QBoxLayout* mRow;

@@ -104,6 +104,16 @@ TEST(TimeLeft, BeginsAnewWithOtherWork) {
     EXPECT_EQ("", Left.Text().toStdString());
 }
 
+TEST(TimeLeft, DoesNotCountTheTimeOfAQuestion) {
+    TimeLeft Left;
+    for (int I = 0; I <= 100; ++I) Left.Note(I / 1000.0, I * 100);
+    const double Before = *Left.Seconds();
+    Left.Skip(600000);
+    Left.Note(101 / 1000.0, 610100);
+    Left.Note(105 / 1000.0, 610500);
+    EXPECT_NEAR(Before - .5, *Left.Seconds(), 1);
+}
+
 TEST(TimeLeft, OfWorkThatStandsStillSaysNothing) {
     TimeLeft Left;
     for (int I = 0; I < 100; ++I) Left.Note(0, I * 1000);
