@@ -6,7 +6,9 @@
 #include <functional>
 #include <limits>
 
+#include "support/CameraNames.h"
 #include "support/modFUFL.h"
+#include "support/modText.h"
 
 namespace neb {
 namespace {
@@ -118,9 +120,18 @@ qint64 NoMoment(const auto&) {
     return 0;
 }
 
+// What the clock on the wall showed, as cameras write it.
+QDateTime AsClock(const QDateTime& Local) {
+    return {Local.date(), Local.time(), Qt::UTC};
+}
+
 qint64 MomentOf(const PictureInOrder& Picture) {
-    const QDateTime Taken = Picture.Facts.Taken;
-    return Taken.isValid() ? Taken.toMSecsSinceEpoch() : std::numeric_limits<qint64>::max();
+    const QDateTime Named = TimeInName(GetFileBaseName(Picture.Path));
+    const PictureFacts& Facts = Picture.Facts;
+    const QDateTime Moment = Facts.Taken.isValid() ? Facts.Taken
+                             : Named.isValid()     ? Named
+                                                   : AsClock(Facts.Changed);
+    return Moment.isValid() ? Moment.toMSecsSinceEpoch() : std::numeric_limits<qint64>::max();
 }
 
 }  // namespace
@@ -149,7 +160,11 @@ void SortPictures(std::vector<PictureInOrder>& Pictures, PictureOrder Order) {
 }
 
 QString ProposedCaption(const QString& Path, const PictureFacts& Facts) {
-    return Facts.Words.isEmpty() ? GetFileBaseName(Path) : Facts.Words;
+    if (!Facts.Words.isEmpty()) return Facts.Words;
+    const QString Name = ReadableText(GetFileBaseName(Path));
+    if (!IsCameraName(Name)) return Name;
+    const QDateTime Taken = Facts.Taken.isValid() ? Facts.Taken : TimeInName(Name);
+    return Taken.isValid() ? TimeText(Taken) : Name;
 }
 
 }  // namespace neb

@@ -32,7 +32,8 @@ struct PictureInOrder {
 void SortPictures(std::vector<PictureInOrder>& Pictures, PictureOrder Order);
 
 // The caption that is proposed for a picture: its own words where it has some, else the file's base
-// name, else, for a name that cameras give, when it was taken.
+// name, else, for a name that cameras give, when it was taken; the base name where that is not told
+// either. Nothing but letters, whatever the file's name.
 QString ProposedCaption(const QString& Path, const PictureFacts& Facts);
 
 }  // namespace neb

@@ -7,8 +7,8 @@
 namespace neb {
 
 // The title or the description that was given to the picture, else when it was taken ("24 December
-// 2003, 18:30"); empty where its file says nothing of the kind. Reads the EXIF block of JPEG and
-// PNG files, and TIFF files.
+// 2003, 18:30"): the words and the time of PictureFacts. Empty where its file says nothing of the
+// kind.
 QString WordsOfPicture(const QByteArray& Bytes);
 
 }  // namespace neb

@@ -5,6 +5,7 @@
 #include <QMdiSubWindow>
 #include <QMimeData>
 
+#include "support/files/HostNames.h"
 #include "support/files/modHostFiles.h"
 
 namespace neb {
@@ -15,7 +16,7 @@ constexpr int Gap = 18;
 
 QString FirstFolder(const QMimeData& Data) {
     for (const QUrl& Url : Data.urls())
-        if (Url.isLocalFile() && FolderExists(Url.toLocalFile())) return Url.toLocalFile();
+        if (const QString Path = FileOfUrl(Url); FolderExists(Path)) return Path;
     return {};
 }
 

@@ -16,6 +16,7 @@
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/Services.h"
+#include "support/files/HostNames.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
 
@@ -24,10 +25,11 @@ namespace {
 
 constexpr int RetryMs = 50;
 
-// The words as typed, before the toolkit has taken its own out: it wants a display first.
+// The words as typed, which may name files by any bytes. The toolkit takes its own out of them, but
+// wants a display before that.
 QStringList WordsOf(int argc, char** argv) {
     QStringList Words;
-    for (int I = 1; I < argc; ++I) Words.append(QString::fromLocal8Bit(argv[I]));
+    for (int I = 1; I < argc; ++I) Words.append(HostName(argv[I]));
     return Words;
 }
 
@@ -175,7 +177,7 @@ int Main(int argc, char** argv) {
     if (Asked.WantsHelp || Asked.WantsVersion) return AnswerOnTerminal(Asked);
     NebApplication App(argc, argv);
     const DesktopServices Services;
-    const CommandLine Line = ParseCommandLine(App.arguments().mid(1));
+    const CommandLine Line = ParseCommandLine(WordsOf(argc, argv));
     const int Answered = AnswerOnTerminal(Line);
     if (Answered >= 0) return Answered;
 

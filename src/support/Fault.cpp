@@ -2,13 +2,15 @@
 
 #include <utility>
 
+#include "support/modText.h"
+
 namespace neb {
 
 Fault::Fault(QString What, QString File, quint32 Number)
     : mWhat(std::move(What)), mFile(std::move(File)), mNumber(Number), mUtf8(Text().toUtf8()) {}
 
 QString Fault::Text() const {
-    return mFile.isEmpty() ? mWhat : mWhat + u'\n' + mFile;
+    return ReadableText(mFile.isEmpty() ? mWhat : mWhat + u'\n' + mFile);
 }
 
 }  // namespace neb

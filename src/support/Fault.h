@@ -17,7 +17,7 @@ class Fault : public std::exception {
     const QString& What() const { return mWhat; }
     const QString& File() const { return mFile; }
     quint32 Number() const { return mNumber; }
-    // The sentence and, on a line of its own, the file: the text for a message box.
+    // The sentence and, on a line of its own, the file as it can be read: for a message box.
     QString Text() const;
     const char* what() const noexcept override { return mUtf8.constData(); }
 

@@ -116,7 +116,7 @@ QByteArray WithEquivalents(const QString& Text) {
 }  // namespace
 
 QByteArray ToAnsi(QStringView Text) {
-    if (NeedsEquivalents(Text)) return WithEquivalents(Text.toString());
+    if (NeedsEquivalents(Text)) return WithEquivalents(ReadableText(Text.toString()));
     QByteArray Out;
     Out.reserve(Text.size());
     for (const QChar Unit : Text) AppendDirect(Unit.unicode(), Out);
@@ -130,6 +130,23 @@ QString FromAnsi(const char* Bytes, qsizetype Length) {
         if (Code >= 0x80 && Code < 0xA0) Text[I] = QChar(High[Code - 0x80]);
     }
     return Text;
+}
+
+bool IsStrayByte(const QString& Text, qsizetype Place) {
+    const char16_t Unit = Text[Place].unicode();
+    if (Unit < 0xDC80 || Unit > 0xDCFF) return false;
+    return Place == 0 || !Text[Place - 1].isHighSurrogate();
+}
+
+QString ReadableText(const QString& Text) {
+    QString Letters = Text;
+    for (qsizetype I = 0; I < Text.size(); ++I) {
+        const char Byte = static_cast<char>(Text[I].unicode());
+        if (!IsStrayByte(Text, I)) continue;
+        const QChar Letter = FromAnsi(&Byte, 1)[0];
+        Letters[I] = Letter.isPrint() ? Letter : QChar(u'?');
+    }
+    return Letters;
 }
 
 }  // namespace neb

@@ -3,6 +3,7 @@
 #include <iostream>
 #include <memory>
 
+#include "support/files/HostNames.h"
 #include "tools/modCommands.h"
 
 #ifdef _WIN32
@@ -30,6 +31,13 @@ std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char** argv) {
     return std::make_unique<QGuiApplication>(argc, argv);
 }
 
+// As they are: the toolkit knows words that are text, and a name on the disk need not be one.
+QStringList WordsOf(int argc, char** argv) {
+    QStringList Words;
+    for (int I = 1; I < argc; ++I) Words << neb::HostName(argv[I]);
+    return Words;
+}
+
 // The toolkit's remarks on the desktop are nothing to somebody at a terminal without one.
 void SayWhatIsGrave(QtMsgType Type, const QMessageLogContext&, const QString& Text) {
     if (Type == QtCriticalMsg || Type == QtFatalMsg) std::cerr << Text.toStdString() << std::endl;
@@ -42,5 +50,5 @@ int main(int argc, char** argv) {
     const auto App = MakeApplication(argc, argv);
     std::ios::sync_with_stdio(false);
     neb::ToolIO IO{std::cout, std::cerr, ErrorsGoToATerminal()};
-    return neb::RunTool(QCoreApplication::arguments().mid(1), IO);
+    return neb::RunTool(WordsOf(argc, argv), IO);
 }

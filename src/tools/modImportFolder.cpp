@@ -69,8 +69,8 @@ OrderWords SortWords(QStringList Arguments) {
     const auto Take = [&](const QString& Word) {
         for (const auto& [Name, Value] : Named)
             if (Word == QLatin1String(Name)) {
-                *Value =
-                    Arguments.isEmpty() ? QStringLiteral("") : ConvertQuotes(Arguments.takeFirst());
+                *Value = Arguments.isEmpty() ? QStringLiteral("")
+                                             : ConvertQuotes(ReadableText(Arguments.takeFirst()));
                 return true;
             }
         for (const auto& [Name, Value] : Flags)

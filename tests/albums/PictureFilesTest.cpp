@@ -8,6 +8,7 @@
 #include "albums/modPictureFiles.h"
 #include "harness/TempFolder.h"
 #include "harness/WithoutPrivileges.h"
+#include "support/files/HostNames.h"
 #include "support/files/modHostFiles.h"
 
 namespace neb {
@@ -223,6 +224,17 @@ TEST_F(HiddenPictures, ComeInWhereTheUserHasChosenTheirFolder) {
     Touch(".thumbs/.h/i.jpg");
     EXPECT_EQ(QStringList(Chosen + u"/b.jpg"_s), ScanDirectory(Chosen, true, GoOn));
     EXPECT_EQ(1, CountIn(Chosen, true));
+}
+
+TEST_F(PictureFiles, WhoseNamesAreNoTextComeIn) {
+    const QString Odd = HostName(
+        "Urlaub \xFC/Gr\xFC\xDF"
+        "e.jpg");
+    TouchAt(Pics.Path() + Odd);
+    EXPECT_EQ(QStringList(Pics.Path() + Odd), ScanDirectory(Pics.Path(), true, GoOn));
+    EXPECT_EQ(1, Count(true));
+    EXPECT_EQ("x", ReadFile(ScanDirectory(Pics.Path(), true, GoOn)[0]));
+    DeleteTree(Pics / HostName("Urlaub \xFC"));
 }
 
 TEST_F(PictureFiles, OfForeignKindsAreTold) {

@@ -8,6 +8,8 @@
 #include <random>
 #include <thread>
 
+#include "support/files/HostNames.h"
+
 namespace neb {
 namespace {
 
@@ -97,6 +99,50 @@ TEST(PictureOrder, ByTimeGoesByPartsOfASecondAndThenByNames) {
                     At("z.jpg", "2003-12-24T18:30:00.100")};
     SortPictures(All, PictureOrder::ByTime);
     EXPECT_EQ("z.jpg p/9.jpg p/10.jpg", Names(All));
+}
+
+TEST(PictureOrder, ByTimeTakesTheNameOrTheFilesOwnTimeWhereNoneIsTold) {
+    std::vector All{At("lost.jpg"), At("scan.jpg"), At("IMG-20200101-WA0001.jpg"),
+                    At("a.jpg", "2021-01-01T00:00:00"), At("b.jpg", "2019-01-01T00:00:00")};
+    All[1].Facts.Changed = QDateTime(QDate(2020, 6, 1), QTime(12, 0));
+    SortPictures(All, PictureOrder::ByTime);
+    EXPECT_EQ("b.jpg IMG-20200101-WA0001.jpg scan.jpg a.jpg lost.jpg", Names(All));
+}
+
+std::string Proposed(const char* Name, const char* Words = "", const char* Taken = "") {
+    PictureFacts Facts = At(Name, Taken).Facts;
+    Facts.Taken.setTimeSpec(Qt::UTC);
+    Facts.Words = QString::fromUtf8(Words);
+    return ProposedCaption(u"/pics/"_s + HostName(Name), Facts).toStdString();
+}
+
+TEST(ProposedCaption, IsWhatThePictureSaysThenItsNameThenItsTime) {
+    EXPECT_EQ("The garden", Proposed("DSC_0001.JPG", "The garden", "2003-12-24T18:30:00"));
+    EXPECT_EQ("Grandmother", Proposed("Grandmother.jpg", "", "2003-12-24T18:30:00"));
+    EXPECT_EQ("24 December 2003, 18:30", Proposed("DSC_0001.JPG", "", "2003-12-24T18:30:00"));
+    EXPECT_EQ("1 January 2020", Proposed("IMG-20200101-WA0001.jpg"));
+    EXPECT_EQ("DSC_0001", Proposed("DSC_0001.JPG"));
+}
+
+TEST(ProposedCaption, OfANameThatIsNoTextIsInLetters) {
+    EXPECT_EQ("Grüße", Proposed("Gr\xFC\xDF"
+                                "e.jpg"));
+}
+
+TEST(PictureOrder, KeepsNamesApartThatAreNoText) {
+    EXPECT_EQ("2.jpg 10.jpg", Sorted({u"10.jpg"_s, u"2.jpg"_s}));
+    QStringList Names{HostName("\xFC.jpg"), HostName("\xDF.jpg"),
+                      HostName("a\xFC"
+                               "10.jpg"),
+                      HostName("a\xFC"
+                               "9.jpg")};
+    SortByName(Names);
+    EXPECT_LT(Names.indexOf(HostName("a\xFC"
+                                     "9.jpg")),
+              Names.indexOf(HostName("a\xFC"
+                                     "10.jpg")));
+    for (qsizetype I = 1; I < Names.size(); ++I)
+        EXPECT_NE(IsNamedBefore(Names[I - 1], Names[I]), IsNamedBefore(Names[I], Names[I - 1]));
 }
 
 TEST(PictureOrder, OfTenThousandPicturesIsQuick) {

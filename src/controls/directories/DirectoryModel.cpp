@@ -6,6 +6,7 @@
 
 #include "support/files/modHostFilesWalk.h"
 #include "support/modFUFL.h"
+#include "support/modText.h"
 
 namespace neb {
 namespace {
@@ -164,7 +165,7 @@ int DirectoryModel::columnCount(const QModelIndex&) const {
 
 QVariant DirectoryModel::data(const QModelIndex& Index, int Role) const {
     if (Role == Qt::DecorationRole) return mIcon;
-    return Role == Qt::DisplayRole ? QVariant(NodeOf(Index)->Name) : QVariant();
+    return Role == Qt::DisplayRole ? QVariant(ReadableText(NodeOf(Index)->Name)) : QVariant();
 }
 
 // One that is not read yet may be opened, and shows then whether it holds any.

@@ -13,8 +13,10 @@
 #include "controls/directories/DirectoryProposals.h"
 #include "controls/directories/Drives.h"
 #include "support/Services.h"
+#include "support/files/HostNames.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
+#include "support/modText.h"
 
 namespace neb {
 namespace {
@@ -98,7 +100,7 @@ bool DirectoryTree::eventFilter(QObject* Watched, QEvent* Event) {
     const auto Type = Event->type();
     if (Type == QEvent::MouseButtonPress || Type == QEvent::Wheel || Type == QEvent::KeyPress)
         mInSight = false;
-    if (Type == QEvent::FocusIn) mTyped->setText(mPath);
+    if (Type == QEvent::FocusIn) ShowPath();
     return QWidget::eventFilter(Watched, Event);
 }
 
@@ -110,7 +112,7 @@ void DirectoryTree::SetPath(const QString& Path) {
     mTree->expand(Index);
     BringIntoSight();
     TreeMoved(mModel->Path(Index));
-    mTyped->setText(mPath);
+    ShowPath();
 }
 
 void DirectoryTree::SetDrives(QComboBox* Drives) {
@@ -159,6 +161,10 @@ void DirectoryTree::ShowPlace() {
     mDrives->setCurrentIndex(Nearest);
 }
 
+void DirectoryTree::ShowPath() {
+    mTyped->setText(ReadableText(mPath));
+}
+
 QString DirectoryTree::TypedText() const {
     return mTyped->text();
 }
@@ -166,9 +172,10 @@ QString DirectoryTree::TypedText() const {
 // What people type or paste: a path, one from their home or from the directory shown, an address.
 QString DirectoryTree::TypedPath() const {
     const QString Text = mTyped->text();
+    if (Text == ReadableText(mPath)) return mPath;
     if (Text == u"~" || Text.startsWith(u"~/"))
         return QStandardPaths::writableLocation(QStandardPaths::HomeLocation) + Text.mid(1);
-    if (Text.startsWith(u"file:")) return QUrl(Text).toLocalFile();
+    if (Text.startsWith(u"file:")) return FileOfUrl(QUrl(Text));
     return AbsolutePath(Text, mPath);
 }
 
@@ -189,7 +196,7 @@ void DirectoryTree::keyPressEvent(QKeyEvent* Event) {
 void DirectoryTree::TreeMoved(const QString& Path) {
     if (Path.isEmpty() || Path == mPath) return;
     mPath = Path;
-    mTyped->setText(Path);
+    ShowPath();
     ShowPlace();
     Q_EMIT Change();
 }

@@ -47,6 +47,7 @@ class DirectoryTree : public QWidget {
     void BringIntoSight();
     void FollowVolumes();
     void ShowPlace();
+    void ShowPath();
     void Collapsed(const QModelIndex& Index);
     QString TypedPath() const;
     void TreeMoved(const QString& Path);

@@ -11,6 +11,7 @@
 #include "controls/forms/StandOver.h"
 #include "controls/forms/frmMsgBoxEx.h"
 #include "support/modFUFL.h"
+#include "support/modText.h"
 
 namespace neb {
 namespace {
@@ -80,9 +81,9 @@ void AddSaveDiscardCancel(QMessageBox& Box) {
 void Fill(QMessageBox& Box, const BoxRequest& Request) {
     Box.setWindowTitle(TitleOf(Request));
     Box.setTextFormat(Qt::PlainText);
-    Box.setText(Request.Text);
+    Box.setText(ReadableText(Request.Text));
     Box.setIcon(BoxIconFor(Request.Icon));
-    if (!Request.Details.isEmpty()) Box.setDetailedText(Request.Details);
+    if (!Request.Details.isEmpty()) Box.setDetailedText(ReadableText(Request.Details));
     if (Request.Buttons == BoxButtons::Ok)
         Box.setStandardButtons(QMessageBox::Ok);
     else if (Request.Buttons == BoxButtons::YesNo)
@@ -108,7 +109,7 @@ BoxAnswer AnswerOf(int Button, BoxButtons Buttons) {
 
 BoxAnswer DesktopBoxes::Show(const BoxRequest& Request) {
     if (IsTooLong(Request)) {
-        NewForm<frmMsgBoxEx>()->ShowMsgBox(TitleOf(Request), Request.Text);
+        NewForm<frmMsgBoxEx>()->ShowMsgBox(TitleOf(Request), ReadableText(Request.Text));
         return BoxAnswer::Ok;
     }
     const PointerScope Normal(Pointer::Default);

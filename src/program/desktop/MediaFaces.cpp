@@ -3,6 +3,8 @@
 #include <QGuiApplication>
 #include <QUrl>
 
+#include "support/files/HostNames.h"
+
 namespace neb {
 namespace {
 
@@ -34,7 +36,7 @@ QVariantMap MetadataOf(const MediaStatus& Status) {
         Of.insert(QStringLiteral("mpris:length"), qRound64(Status.Length * Second));
     if (!Status.PictureFile.isEmpty())
         Of.insert(QStringLiteral("mpris:artUrl"),
-                  QUrl::fromLocalFile(Status.PictureFile).toString(QUrl::FullyEncoded));
+                  UrlOfFile(Status.PictureFile).toString(QUrl::FullyEncoded));
     return Of;
 }
 

@@ -8,6 +8,7 @@
 #include <set>
 
 #include "support/Fault.h"
+#include "support/files/HostNames.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
 #include "support/work/Job.h"
@@ -112,7 +113,7 @@ class SumsReader {
         if (NameExists(mDir + Path)) return false;
         const QString Parent = GetFilePath(mDir + Path);
         if (Parent != mListed) List(Parent);
-        return !mHidden && !mNames.contains(GetFileName(Path).toUpper());
+        return !mHidden && !mNames.contains(UpperName(GetFileName(Path)));
     }
 
   private:
@@ -120,7 +121,7 @@ class SumsReader {
         std::error_code Error;
         mListed = Parent;
         mNames.clear();
-        for (const DirEntry& Entry : ListDir(Parent, Error)) mNames.insert(Entry.Name.toUpper());
+        for (const DirEntry& Entry : ListDir(Parent, Error)) mNames.insert(UpperName(Entry.Name));
         mHidden = Error && Error != std::errc::no_such_file_or_directory &&
                   Error != std::errc::not_a_directory;
     }
@@ -181,7 +182,7 @@ QByteArray MakeList(SumsReader& Reader) {
     std::vector<ListedSum> Files;
     Collect(Reader, {}, Files);
     std::sort(Files.begin(), Files.end(), [](const ListedSum& A, const ListedSum& B) {
-        return A.Path.toUtf8() < B.Path.toUtf8();
+        return HostBytes(A.Path) < HostBytes(B.Path);
     });
     Reader.Expect(Files);
     QByteArray List;
@@ -241,7 +242,7 @@ std::vector<SumsFinding> CompareAll(SumsReader& Reader) {
 }  // namespace
 
 QByteArray SumLine(const ListedSum& File) {
-    QByteArray Name = File.Path.toUtf8();
+    QByteArray Name = HostBytes(File.Path);
     const QByteArray Plain = Name;
     Name.replace('\\', "\\\\").replace('\n', "\\n").replace('\r', "\\r");
     return (Name == Plain ? "" : "\\") + File.Sum + "  " + Name + '\n';
@@ -254,7 +255,7 @@ std::optional<ListedSum> ReadSumLine(QByteArray Line) {
     if (!IsSum(Line.left(SumDigits)) || (Marker != "  " && Marker != " *")) return std::nullopt;
     const QByteArray Name = Line.mid(SumDigits + 2);
     const auto Plain = Escaped ? WithoutEscapes(Name) : std::optional(Name);
-    const QString Path = Plain ? QString::fromUtf8(*Plain) : QString();
+    const QString Path = Plain ? HostName(*Plain) : QString();
     return LiesBelow(Path) ? std::optional(ListedSum{Path, Line.left(SumDigits).toLower()})
                            : std::nullopt;
 }

@@ -6,13 +6,13 @@
 #include <unistd.h>
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QList>
 #include <QSysInfo>
 #include <cerrno>
 #include <csignal>
 #include <utility>
 
+#include "support/files/HostNames.h"
 #include "support/files/NameCache.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
@@ -75,7 +75,7 @@ class Handle {
 // Who may write into the directory may see who does, and take over what was left.
 void ShareWithTheDirectory(int Descriptor, const QByteArray& Path) {
     struct stat Folder = {};
-    const QByteArray Dir = QFile::encodeName(GetFilePath(QFile::decodeName(Path)));
+    const QByteArray Dir = HostBytes(GetFilePath(HostName(Path)));
     if (::stat(Dir.isEmpty() ? "." : Dir.constData(), &Folder) == 0)
         static_cast<void>(::fchmod(Descriptor, Folder.st_mode & 0666));
 }
@@ -107,7 +107,7 @@ LockAnswer Unlockable() {
 }  // namespace
 
 struct InstanceLock::State {
-    explicit State(const QString& Path) : Name(QFile::encodeName(ResolvePath(Path))) {}
+    explicit State(const QString& Path) : Name(HostBytes(ResolvePath(Path))) {}
 
     // Nothing: somebody was quicker, look again.
     std::optional<LockAnswer> Try(FromElsewhere Other) {
@@ -131,7 +131,7 @@ struct InstanceLock::State {
         if (!Made) return errno == EEXIST ? std::nullopt : std::optional(Unlockable());
         ShareWithTheDirectory(*Made, Name);
         if (ClaimFile(*Made) == Claim::Another || !IsStillAt(*Made, Name)) return std::nullopt;
-        NoteNameMade(QFile::decodeName(Name));
+        NoteNameMade(HostName(Name));
         return Keep(std::move(Made));
     }
     // That of another user, which cannot be written. Where it cannot be replaced either, as among
@@ -154,7 +154,7 @@ struct InstanceLock::State {
     void LetGo() {
         if (!mHeld) return;
         if (IsStillAt(*mHeld, Name) && ::unlink(Name.constData()) == 0)
-            NoteNameGone(QFile::decodeName(Name));
+            NoteNameGone(HostName(Name));
         mHeld = Handle();
     }
 

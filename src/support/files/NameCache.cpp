@@ -1,10 +1,12 @@
 #include "support/files/NameCache.h"
 
-#include <QDir>
-#include <QFileInfo>
 #include <QMultiMap>
 #include <QMutex>
 #include <list>
+
+#include "support/files/HostNames.h"
+#include "support/files/modHostFilesListing.h"
+#include "support/files/modHostFilesOpen.h"
 
 namespace neb {
 namespace {
@@ -33,7 +35,18 @@ std::list<Listing>& Kept() {
 }
 
 QDateTime ChangeTime(const QString& Dir) {
-    return QFileInfo(Dir.isEmpty() ? QStringLiteral(".") : Dir).lastModified();
+    return HostInfo(Dir.isEmpty() ? QStringLiteral(".") : Dir).Changed();
+}
+
+// By their codes, so that of names that differ in case alone always the same one is found.
+QStringList NamesIn(const QString& Dir) {
+    QStringList Names;
+    OpenDir Open(HostBytes(Dir.isEmpty() ? QStringLiteral(".") : Dir).toStdString());
+    const dirent* Entry = nullptr;
+    while (Open && (Entry = Open.Next()))
+        if (!IsDots(Entry->d_name)) Names << HostName(Entry->d_name);
+    Names.sort();
+    return Names;
 }
 
 void Relist(Listing& Of) {
@@ -41,10 +54,7 @@ void Relist(Listing& Of) {
     Of.Doubtful =
         Of.Changed != Of.OwnChange && Of.Changed.msecsTo(QDateTime::currentDateTime()) < DoubtfulMs;
     Of.NameByUpper.clear();
-    const QDir Dir(Of.Dir.isEmpty() ? QStringLiteral(".") : Of.Dir);
-    for (const QString& Entry : Dir.entryList(
-             QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name))
-        Of.NameByUpper.insert(Entry.toUpper(), Entry);
+    for (const QString& Entry : NamesIn(Of.Dir)) Of.NameByUpper.insert(UpperName(Entry), Entry);
 }
 
 std::list<Listing>::iterator Find(const QString& Dir) {
@@ -82,13 +92,13 @@ void NoteChange(const QString& Path, Change Apply) {
 
 QString FindNameInCase(const QString& Dir, const QString& Name) {
     const QMutexLocker Lock(&Guard());
-    return ListingOf(Dir).NameByUpper.value(Name.toUpper());
+    return ListingOf(Dir).NameByUpper.value(UpperName(Name));
 }
 
 QStringList FindNamesByStart(const QString& Dir, const QString& Start) {
     const QMutexLocker Lock(&Guard());
     const auto& Names = ListingOf(Dir).NameByUpper;
-    const QString Upper = Start.toUpper();
+    const QString Upper = UpperName(Start);
     QStringList Found;
     for (auto Each = Names.lowerBound(Upper); Each != Names.end(); ++Each) {
         if (!Each.key().startsWith(Upper)) break;
@@ -99,12 +109,12 @@ QStringList FindNamesByStart(const QString& Dir, const QString& Start) {
 
 void NoteNameMade(const QString& Path) {
     NoteChange(Path, [](auto& Names, const QString& Name) {
-        if (!Names.contains(Name.toUpper(), Name)) Names.insert(Name.toUpper(), Name);
+        if (!Names.contains(UpperName(Name), Name)) Names.insert(UpperName(Name), Name);
     });
 }
 
 void NoteNameGone(const QString& Path) {
-    NoteChange(Path, [](auto& Names, const QString& Name) { Names.remove(Name.toUpper(), Name); });
+    NoteChange(Path, [](auto& Names, const QString& Name) { Names.remove(UpperName(Name), Name); });
 }
 
 }  // namespace neb

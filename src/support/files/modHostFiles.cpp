@@ -1,15 +1,17 @@
 // Looking at the file system; what changes it is in modHostFilesWrite.cpp.
 #include "support/files/modHostFiles.h"
 
+#include <sys/statvfs.h>
+
 #include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QStorageInfo>
+#include <cstdlib>
 
 #include "support/Fault.h"
+#include "support/files/HostNames.h"
 #include "support/files/NameCache.h"
 #include "support/files/modHostFilesListing.h"
 #include "support/files/modHostFilesMask.h"
+#include "support/files/modHostFilesOpen.h"
 
 namespace neb {
 namespace {
@@ -24,7 +26,7 @@ QString HostForm(const QString& Path) {
 QString CorrectCase(const QString& Host) {
     QString Known = Host.startsWith(u'/') ? QStringLiteral("/") : QString();
     for (const QString& Part : Host.split(u'/', Qt::SkipEmptyParts)) {
-        const bool AsWritten = QFileInfo::exists(Known + Part);
+        const bool AsWritten = HostInfo(Known + Part).Exists();
         const QString Found = AsWritten ? Part : FindNameInCase(Known, Part);
         Known += (Found.isEmpty() ? Part : Found) + u'/';
     }
@@ -34,12 +36,12 @@ QString CorrectCase(const QString& Host) {
 
 // False when the directory cannot be opened; Error also tells of a listing that broke off.
 bool ReadNames(const QString& Dir, std::vector<DirEntry>& Entries, std::error_code& Error) {
-    OpenDir Open(QFile::encodeName(Dir.isEmpty() ? QStringLiteral(".") : Dir).toStdString());
+    OpenDir Open(HostBytes(Dir.isEmpty() ? QStringLiteral(".") : Dir).toStdString());
     const dirent* Entry = nullptr;
     while (Open && (Entry = Open.Next()))
         if (!IsDots(Entry->d_name))
-            Entries.push_back({QFile::decodeName(Entry->d_name),
-                               KindOf(Open, *Entry) == Kind::Folder, IsLink(Open, *Entry)});
+            Entries.push_back({HostName(Entry->d_name), KindOf(Open, *Entry) == Kind::Folder,
+                               IsLink(Open, *Entry)});
     Error = Open.Error();
     return static_cast<bool>(Open);
 }
@@ -48,7 +50,7 @@ void SortByUpperName(std::vector<DirEntry>& Entries) {
     std::vector<std::pair<QString, DirEntry>> Keyed;
     Keyed.reserve(Entries.size());
     for (DirEntry& Entry : Entries) {
-        QString Key = Entry.Name.toUpper();
+        QString Key = UpperName(Entry.Name);
         Keyed.emplace_back(std::move(Key), std::move(Entry));
     }
     std::sort(Keyed.begin(), Keyed.end(), [](const auto& A, const auto& B) {
@@ -59,34 +61,34 @@ void SortByUpperName(std::vector<DirEntry>& Entries) {
 
 // What the host has under this path, in the case that it has there; of all that windows ask for
 // again and again the disk is asked as little as possible.
-QFileInfo Look(const QString& Path) {
-    QFileInfo Info(Path);
-    if (Path.isEmpty() || Info.exists()) return Info;
+HostInfo Look(const QString& Path) {
+    HostInfo Info(Path);
+    if (Path.isEmpty() || Info.Exists()) return Info;
     const QString Host = HostForm(Path);
-    if (Host != Path) Info = QFileInfo(Host);
-    if (Host != Path && Info.exists()) return Info;
+    if (Host != Path) Info = HostInfo(Host);
+    if (Host != Path && Info.Exists()) return Info;
     const qsizetype Cut = Host.lastIndexOf(u'/') + 1;
-    if (Cut == Host.size()) return QFileInfo(CorrectCase(Host));
+    if (Cut == Host.size()) return HostInfo(CorrectCase(Host));
     const QString Found = FindNameInCase(Host.left(Cut), Host.mid(Cut));
-    if (!Found.isEmpty()) return QFileInfo(Host.left(Cut) + Found);
-    const bool FolderIsThere = Cut == 0 || QFileInfo::exists(Host.left(Cut));
-    return FolderIsThere ? Info : QFileInfo(CorrectCase(Host));
+    if (!Found.isEmpty()) return HostInfo(Host.left(Cut) + Found);
+    const bool FolderIsThere = Cut == 0 || HostInfo(Host.left(Cut)).Exists();
+    return FolderIsThere ? Info : HostInfo(CorrectCase(Host));
 }
 
 [[noreturn]] void FailRead(const QFile& File, const QString& Path) {
     throw Fault(QStringLiteral("The file cannot be read: %1.").arg(File.errorString()), Path);
 }
 
-void OpenToRead(QFile& File, QIODevice::OpenMode Mode, const QString& Path) {
-    const QFileInfo Info = Look(Path);
-    if (Info.exists() && !Info.isFile() && !Info.isDir())  // reading one would wait for ever
+void OpenToRead(HostFile& File, QIODevice::OpenMode Mode, const QString& Path) {
+    const HostInfo Info = Look(Path);
+    if (Info.Exists() && !Info.IsFile() && !Info.IsFolder())  // reading one would wait for ever
         throw Fault(QStringLiteral("The file cannot be read: it is no ordinary file."), Path);
-    File.setFileName(Info.filePath());
+    File.setFileName(Info.Path());
     if (!File.open(QIODevice::ReadOnly | Mode)) FailRead(File, Path);
 }
 
 QByteArray ReadFrom(const QString& Path, qint64 Length) {
-    QFile File;
+    HostFile File;
     OpenToRead(File, QIODevice::NotOpen, Path);
     QByteArray Bytes = Length < 0 ? File.readAll() : File.read(Length);
     if (File.error() != QFileDevice::NoError) FailRead(File, Path);
@@ -96,7 +98,7 @@ QByteArray ReadFrom(const QString& Path, qint64 Length) {
 }  // namespace
 
 QString ResolvePath(const QString& Path) {
-    return Look(Path).filePath();
+    return Look(Path).Path();
 }
 
 QString AbsolutePath(const QString& Path, const QString& Base) {
@@ -107,46 +109,46 @@ QString AbsolutePath(const QString& Path, const QString& Base) {
 }
 
 bool NameExists(const QString& Path) {
-    const QFileInfo Info = Look(Path);
-    return Info.exists() || Info.isSymLink();
+    const HostInfo Info = Look(Path);
+    return Info.Exists() || Info.IsLink();
 }
 
 bool FileExists(const QString& Path) {
-    const QFileInfo Info = Look(Path);
-    return Info.exists() && !Info.isDir();
+    const HostInfo Info = Look(Path);
+    return Info.Exists() && !Info.IsFolder();
 }
 
 bool FolderExists(const QString& Path) {
-    return !Path.isEmpty() && Look(Path).isDir();
+    return !Path.isEmpty() && Look(Path).IsFolder();
 }
 
 bool IsLink(const QString& Path) {
     QString Host = ResolvePath(Path);
     while (Host.endsWith(u'/')) Host.chop(1);  // with it the link would be followed
-    return QFileInfo(Host).isSymLink();
+    return HostInfo(Host).IsLink();
 }
 
 bool IsReadOnly(const QString& Path) {
-    const QString Host = ResolvePath(Path);
-    const auto WriteBits =
-        QFileDevice::WriteOwner | QFileDevice::WriteGroup | QFileDevice::WriteOther;
-    if (!(QFile::permissions(Host) & WriteBits)) return true;
-    return QStorageInfo(Host).isReadOnly();
+    constexpr mode_t WriteBits = 0222;
+    const HostInfo Info = Look(Path);
+    if (!(Info.Rights() & WriteBits)) return true;
+    struct statvfs Medium = {};
+    return ::statvfs(HostBytes(Info.Path()).constData(), &Medium) == 0 && Medium.f_flag & ST_RDONLY;
 }
 
 bool CanReadFile(const QString& Path) {
-    const QFileInfo Info = Look(Path);
-    return Info.isFile() && QFile(Info.filePath()).open(QIODevice::ReadOnly);
+    const HostInfo Info = Look(Path);
+    return Info.IsFile() && HostFile(Info.Path()).open(QIODevice::ReadOnly);
 }
 
 qint64 FileSize(const QString& Path) {
-    const QFileInfo Info = Look(Path);
-    return Info.exists() ? Info.size() : -1;
+    const HostInfo Info = Look(Path);
+    return Info.Exists() ? Info.Size() : -1;
 }
 
 std::optional<QDateTime> FileTime(const QString& Path) {
-    const QFileInfo Info = Look(Path);
-    return Info.exists() ? std::optional(Info.lastModified()) : std::nullopt;
+    const HostInfo Info = Look(Path);
+    return Info.Exists() ? std::optional(Info.Changed()) : std::nullopt;
 }
 
 std::vector<DirEntry> ListDir(const QString& Dir, bool* Readable) {
@@ -174,8 +176,8 @@ std::vector<DirEntry> ListDirFrom(const QString& Dir, const QString& Start) {
     const QString Host = ResolvePath(Dir);
     std::vector<DirEntry> Entries;
     for (const QString& Name : FindNamesByStart(Host, Start)) {
-        const QFileInfo Info(Host + Name);
-        Entries.push_back({Name, Info.isDir(), Info.isSymLink()});
+        const HostInfo Info(Host + Name);
+        Entries.push_back({Name, Info.IsFolder(), Info.IsLink()});
     }
     SortByUpperName(Entries);
     return Entries;
@@ -194,7 +196,9 @@ QStringList ListMask(const QString& Mask) {
 }
 
 QString RealDir(const QString& Dir) {
-    return QFileInfo(ResolvePath(Dir)).canonicalFilePath();
+    const std::unique_ptr<char, decltype(&::free)> Real(
+        ::realpath(HostBytes(ResolvePath(Dir)).constData(), nullptr), &::free);
+    return Real ? HostName(Real.get()) : QString();
 }
 
 QByteArray ReadFile(const QString& Path) {
@@ -207,7 +211,7 @@ QByteArray ReadFileHead(const QString& Path, qint64 Length) {
 
 struct HostReader::State {
     QString Path;
-    QFile File;
+    HostFile File;
 };
 
 HostReader::HostReader(const QString& Path) : mState(std::make_unique<State>()) {

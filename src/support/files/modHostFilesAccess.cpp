@@ -4,19 +4,19 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <QFile>
 #include <cerrno>
 
 #include "support/Fault.h"
+#include "support/files/HostNames.h"
+#include "support/files/modHostFilesOpen.h"
 #include "support/files/modHostFilesSteps.h"
 
 namespace neb {
 
 void ClearReadOnly(const QString& Path) {
     AnnounceStep(HostStep::Protect, Path);
-    QFile File(ResolvePath(Path));
-    constexpr auto Write = QFileDevice::WriteOwner | QFileDevice::WriteUser;
-    if (!File.setPermissions(File.permissions() | Write))
+    HostFile File(ResolvePath(Path));
+    if (!File.ChangeRights(S_IWUSR, 0))
         throw Fault(QStringLiteral("The file is read-only, and that cannot be changed. (%1)")
                         .arg(File.errorString()),
                     Path);
@@ -26,8 +26,7 @@ namespace {
 
 // For the user on whose behalf the program works, who need not be the one who started it.
 bool Grants(const QString& Path, int Rights) {
-    return ::faccessat(AT_FDCWD, QFile::encodeName(ResolvePath(Path)).constData(), Rights,
-                       AT_EACCESS) == 0;
+    return ::faccessat(AT_FDCWD, HostBytes(ResolvePath(Path)).constData(), Rights, AT_EACCESS) == 0;
 }
 
 }  // namespace
@@ -42,13 +41,13 @@ bool MayWrite(const QString& Path) {
 
 QString WhyUnseen(const QString& Path) {
     struct stat Is = {};
-    if (::stat(QFile::encodeName(ResolvePath(Path)).constData(), &Is) == 0) return {};
+    if (::stat(HostBytes(ResolvePath(Path)).constData(), &Is) == 0) return {};
     return errno == ENOENT ? QString() : qt_error_string(errno);
 }
 
 QByteArray FileMark(const QString& Path) {
     struct stat Is = {};
-    if (::stat(QFile::encodeName(ResolvePath(Path)).constData(), &Is) != 0) return {};
+    if (::stat(HostBytes(ResolvePath(Path)).constData(), &Is) != 0) return {};
     QByteArray Mark;
     for (const auto Part : {static_cast<qint64>(Is.st_dev), static_cast<qint64>(Is.st_ino),
                             static_cast<qint64>(Is.st_size), static_cast<qint64>(Is.st_mtim.tv_sec),
@@ -58,7 +57,7 @@ QByteArray FileMark(const QString& Path) {
 }
 
 int OpenForOther(const QString& Path) {
-    const QByteArray Host = QFile::encodeName(ResolvePath(Path));
+    const QByteArray Host = HostBytes(ResolvePath(Path));
     const int Descriptor = ::open(Host.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     if (Descriptor < 0)
         throw Fault(QStringLiteral("The file cannot be read: %1.").arg(qt_error_string(errno)),

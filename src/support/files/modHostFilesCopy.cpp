@@ -1,22 +1,19 @@
 #include "support/files/modHostFilesCopy.h"
 
-#include <QFile>
-#include <QFileInfo>
-#include <QStorageInfo>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/statvfs.h>
+#include <unistd.h>
+
+#include <cerrno>
 #include <filesystem>
 #include <vector>
 
 #include "support/Fault.h"
+#include "support/files/HostNames.h"
 #include "support/files/NameCache.h"
+#include "support/files/modHostFilesOpen.h"
 #include "support/files/modHostFilesSteps.h"
-
-#ifndef _WIN32
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
-#include <cerrno>
-#endif
 
 namespace neb {
 namespace {
@@ -84,7 +81,7 @@ class BytesCopy {
                     mTo.fileName());
     }
 
-    QFile mFrom, mTo;
+    HostFile mFrom, mTo;
     qint64 mLeft = 0;
     bool mByHost = true;
     std::vector<char> mRoom;
@@ -100,7 +97,7 @@ bool CopyBytes(const QString& From, const QString& To,
 void SyncVolume(const QString& Dir) {
     AnnounceStep(HostStep::SyncVolume, Dir);
 #ifdef __linux__
-    const int Handle = ::open(QFile::encodeName(ResolvePath(Dir)).constData(), O_RDONLY);
+    const int Handle = ::open(HostBytes(ResolvePath(Dir)).constData(), O_RDONLY);
     const bool Done = Handle >= 0 && ::syncfs(Handle) == 0;
     const QString Reason = qt_error_string(errno);
     if (Handle >= 0) ::close(Handle);
@@ -113,8 +110,8 @@ void SyncVolume(const QString& Dir) {
 bool IsSameVolume([[maybe_unused]] const QString& One, [[maybe_unused]] const QString& Other) {
 #ifdef __linux__
     struct stat First = {}, Second = {};
-    if (::stat(QFile::encodeName(ResolvePath(One)).constData(), &First) != 0 ||
-        ::stat(QFile::encodeName(ResolvePath(Other)).constData(), &Second) != 0)
+    if (::stat(HostBytes(ResolvePath(One)).constData(), &First) != 0 ||
+        ::stat(HostBytes(ResolvePath(Other)).constData(), &Second) != 0)
         return true;
     return First.st_dev == Second.st_dev;
 #else
@@ -123,24 +120,21 @@ bool IsSameVolume([[maybe_unused]] const QString& One, [[maybe_unused]] const QS
 }
 
 bool MayWriteIn(const QString& Dir) {
-    const QByteArray Native = QFile::encodeName(ResolvePath(Dir));
-#ifdef _WIN32
-    return QFileInfo(QFile::decodeName(Native)).isWritable();
-#else
+    const QByteArray Native = HostBytes(ResolvePath(Dir));
     return ::faccessat(AT_FDCWD, Native.constData(), W_OK | X_OK, AT_EACCESS) == 0;
-#endif
 }
 
 qint64 FreeSpace(const QString& Dir) {
-    const QStorageInfo Volume(ResolvePath(Dir));
-    return Volume.isValid() ? Volume.bytesAvailable() : -1;
+    struct statvfs Medium = {};
+    if (::statvfs(HostBytes(ResolvePath(Dir)).constData(), &Medium) != 0) return -1;
+    return static_cast<qint64>(Medium.f_bavail) * static_cast<qint64>(Medium.f_frsize);
 }
 
 bool IsSameDir(const QString& One, const QString& Other) {
     if (One == Other) return true;
     std::error_code Problem;
-    return std::filesystem::equivalent(ResolvePath(One).toStdU16String(),
-                                       ResolvePath(Other).toStdU16String(), Problem) &&
+    return std::filesystem::equivalent(HostBytes(ResolvePath(One)).constData(),
+                                       HostBytes(ResolvePath(Other)).constData(), Problem) &&
            !Problem;
 }
 

@@ -1,9 +1,8 @@
 #include "support/files/modHostFilesLines.h"
 
-#include <QFile>
-
 #include "support/Fault.h"
 #include "support/files/NameCache.h"
+#include "support/files/modHostFilesOpen.h"
 #include "support/files/modHostFilesSteps.h"
 
 namespace neb {
@@ -13,8 +12,8 @@ namespace {
     throw Fault(QStringLiteral("The file cannot be written. (%1)").arg(File.errorString()), Path);
 }
 
-void Open(QFile& File, const QString& Path) {
-    const bool IsNew = !File.exists();
+void Open(HostFile& File, const QString& Path) {
+    const bool IsNew = !HostInfo(File.fileName()).Exists();
     if (!File.open(QIODevice::ReadWrite | QIODevice::Unbuffered)) FailWrite(File, Path);
     if (IsNew) NoteNameMade(File.fileName());
 }
@@ -34,7 +33,7 @@ bool EndsALine(QFile& File) {
 }  // namespace
 
 void AppendLines(const QString& Path, const QByteArray& Lines) {
-    QFile File(ResolvePath(Path));
+    HostFile File(ResolvePath(Path));
     Open(File, Path);
     const bool Follows = EndsALine(File);
     WriteAt(File, File.size(), Follows ? Lines : '\n' + Lines, Path);
@@ -42,13 +41,13 @@ void AppendLines(const QString& Path, const QByteArray& Lines) {
 
 void MakeRemarks(const QString& Path, const std::vector<qint64>& Places) {
     if (Places.empty()) return;
-    QFile File(ResolvePath(Path));
+    HostFile File(ResolvePath(Path));
     Open(File, Path);
     for (const qint64 Place : Places) WriteAt(File, Place, "#", Path);
 }
 
 void CutFile(const QString& Path, qint64 Length) {
-    QFile File(ResolvePath(Path));
+    HostFile File(ResolvePath(Path));
     Open(File, Path);
     AllowedToWrite(Path, 0);
     if (!File.resize(Length)) FailWrite(File, Path);

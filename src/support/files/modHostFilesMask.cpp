@@ -1,17 +1,12 @@
 #include "support/files/modHostFilesMask.h"
 
-#include <algorithm>
-
-#ifdef _WIN32
-#include <QDateTime>
-#include <QFileInfo>
-#else
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <QFile>
-#endif
+#include <algorithm>
+
+#include "support/files/HostNames.h"
 
 namespace neb {
 namespace {
@@ -38,10 +33,10 @@ bool MatchesMask(QStringView Name, QStringView Mask) {
 
 }  // namespace
 
-NameMask::NameMask(const QString& Mask) : mUpper(Mask.toUpper()) {}
+NameMask::NameMask(const QString& Mask) : mUpper(UpperName(Mask)) {}
 
 bool NameMask::Matches(const QString& Name) const {
-    return mUpper == u"*.*" || MatchesMask(Name.toUpper(), mUpper);
+    return mUpper == u"*.*" || MatchesMask(UpperName(Name), mUpper);
 }
 
 QString NameMask::Start() const {
@@ -49,16 +44,9 @@ QString NameMask::Start() const {
     return mUpper.left(std::find_if(mUpper.begin(), mUpper.end(), IsWild) - mUpper.begin());
 }
 
-#ifdef _WIN32
-std::optional<FileFacts> ReadableFileFacts(const QString& Path) {
-    const QFileInfo Info(Path);
-    if (!Info.isFile() || !Info.isReadable()) return std::nullopt;
-    return FileFacts{Info.size(), Info.lastModified().toSecsSinceEpoch()};
-}
-#else
 // Mostly one call of the host a file, and nothing is opened: a tree may have hundreds of thousands.
 std::optional<FileFacts> ReadableFileFacts(const QString& Path) {
-    const QByteArray Native = QFile::encodeName(Path);
+    const QByteArray Native = HostBytes(Path);
     struct stat Found = {};
     if (::stat(Native.constData(), &Found) != 0 || !S_ISREG(Found.st_mode)) return std::nullopt;
     const bool ForAll = (Found.st_mode & 0444) == 0444;
@@ -66,6 +54,5 @@ std::optional<FileFacts> ReadableFileFacts(const QString& Path) {
         return std::nullopt;
     return FileFacts{Found.st_size, Found.st_mtime};
 }
-#endif
 
 }  // namespace neb

@@ -2,26 +2,18 @@
 
 #include <unistd.h>
 
-#include <QFile>
 #include <algorithm>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "support/files/HiddenNames.h"
+#include "support/files/HostNames.h"
 #include "support/files/modHostFiles.h"
 #include "support/files/modHostFilesListing.h"
 
 namespace neb {
 namespace {
-
-// Whether the program can address a file of this name: not when its bytes are no text.
-bool IsText(std::string_view Name) {
-    const auto IsPlain = [](char Each) { return static_cast<unsigned char>(Each) < 128; };
-    if (std::all_of(Name.begin(), Name.end(), IsPlain)) return true;
-    const QByteArray Bytes(Name.data(), static_cast<qsizetype>(Name.size()));
-    return QFile::encodeName(QFile::decodeName(Bytes)) == Bytes;
-}
 
 class Walker {
   public:
@@ -64,7 +56,7 @@ class Walker {
     void Take(const OpenDir& Dir, const dirent& Entry, std::vector<std::string>& Below) {
         const std::string_view Name = Entry.d_name;
         const Kind What = KindOf(Dir, Entry);
-        if (What == Kind::Other || !IsText(Name)) return;
+        if (What == Kind::Other) return;
         if (What == Kind::Folder && mRecurse && !IsHiddenFolder(Name)) Below.emplace_back(Name);
         if (What != Kind::File || IsHiddenFile(Name) || !mWalk.Wants(Name)) return;
         if (faccessat(Dir.Number(), Entry.d_name, R_OK, AT_EACCESS) == 0) mWalk.Found();
@@ -79,12 +71,12 @@ class Walker {
 
 void WalkFiles(const QString& Dir, bool Recurse, const FileWalk& Walk) {
     if (!Dir.isEmpty())
-        Walker(Recurse, Walk).Enter(QFile::encodeName(ResolvePath(Dir)).toStdString() + '/');
+        Walker(Recurse, Walk).Enter(HostBytes(ResolvePath(Dir)).toStdString() + '/');
 }
 
 std::optional<std::uint64_t> MediumOf(const QString& Dir) {
     struct stat Found = {};
-    if (stat(QFile::encodeName(Dir).constData(), &Found) != 0 || !S_ISDIR(Found.st_mode)) return {};
+    if (stat(HostBytes(Dir).constData(), &Found) != 0 || !S_ISDIR(Found.st_mode)) return {};
     return Found.st_dev;
 }
 
@@ -95,11 +87,11 @@ bool FolderNameLess(const QString& A, const QString& B) {
 
 QStringList ListFolders(const QString& Dir) {
     QStringList Names;
-    OpenDir Open(QFile::encodeName(Dir).toStdString());
+    OpenDir Open(HostBytes(Dir).toStdString());
     const dirent* Entry = nullptr;
     while (Open && (Entry = Open.Next()))
         if (Entry->d_name[0] != '.' && KindOf(Open, *Entry) == Kind::Folder)
-            Names.append(QFile::decodeName(Entry->d_name));
+            Names.append(HostName(Entry->d_name));
     std::sort(Names.begin(), Names.end(), &FolderNameLess);
     return Names;
 }

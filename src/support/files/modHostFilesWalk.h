@@ -17,8 +17,8 @@ namespace neb {
 struct FileWalk {
     // Whether a file of this name (in the host's own encoding, without directory) is looked for.
     std::function<bool(std::string_view Name)> Wants;
-    // A wanted name of an ordinary file that the user may read. Links to files are files; a file
-    // whose name is no text, with bytes of another encoding, cannot be opened and does not count.
+    // A wanted name of an ordinary file that the user may read. Links to files are files; hidden
+    // files (HiddenNames.h) are none, and hidden folders below Dir are not entered.
     std::function<void()> Found;
     // Asked after every entry of a directory; false ends the walk at once.
     KeepGoing GoOn;

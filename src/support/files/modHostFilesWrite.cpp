@@ -1,15 +1,15 @@
 // Changing the file system: every step passes the watcher first.
 #include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QTemporaryDir>
 #include <cerrno>
 #include <cstdio>
 #include <filesystem>
 
 #include "support/Fault.h"
+#include "support/files/HostNames.h"
 #include "support/files/NameCache.h"
 #include "support/files/modHostFiles.h"
+#include "support/files/modHostFilesOpen.h"
 #include "support/files/modHostFilesSteps.h"
 
 #ifdef _WIN32
@@ -53,13 +53,13 @@ bool SyncHandle(int Handle) {
 #endif
 }
 
-void Open(QFile& File, QIODevice::OpenMode Mode, const QString& Path) {
+void Open(HostFile& File, QIODevice::OpenMode Mode, const QString& Path) {
     if (!File.open(Mode | QIODevice::Unbuffered)) FailWrite(File, Path);
     NoteNameMade(File.fileName());
 }
 
 void WriteWhole(const QString& Path, const QByteArray& Bytes, QIODevice::OpenMode Mode) {
-    QFile File(ResolvePath(Path));
+    HostFile File(ResolvePath(Path));
     Open(File, Mode, Path);
     WriteAll(File, Bytes.constData(), Bytes.size(), Path);
     File.close();
@@ -78,7 +78,7 @@ void DeleteMade(const QString& Path) {
 fs::path NativePath(const QString& Path) {
     QString Host = ResolvePath(Path);
     while (Host.endsWith(u'/')) Host.chop(1);
-    return fs::path(QFile::encodeName(Host).constData());
+    return fs::path(HostBytes(Host).constData());
 }
 
 // In the host's own names, which may hold a "\" or be no text at all.
@@ -97,7 +97,7 @@ std::vector<fs::path> FilesIn(const fs::path& Dir, const Yield& LetRun) {
 
 // A file, a link or an empty directory; what cannot go stays.
 void Drop(const fs::path& Path) {
-    const QString Host = QFile::decodeName(Path.string().c_str());
+    const QString Host = HostName(Path.native());
     std::error_code Ignored;
     try {
         AnnounceStep(HostStep::Delete, Host);
@@ -173,10 +173,10 @@ void AppendFile(const QString& Path, const QByteArray& Bytes) {
 
 void DeleteFile(const QString& Path) {
     const QString Host = ResolvePath(Path);
-    if (!QFileInfo::exists(Host) && !QFileInfo(Host).isSymLink()) return;
+    if (const HostInfo Info(Host); !Info.Exists() && !Info.IsLink()) return;
     AnnounceStep(HostStep::Delete, Path);
-    QFile File(Host);
-    if (!File.remove())
+    HostFile File(Host);
+    if (!File.Delete())
         Fail(QStringLiteral("The file cannot be deleted."), Path, File.errorString());
     NoteNameGone(Host);
 }
@@ -198,7 +198,7 @@ void RenameFile(const QString& From, const QString& To) {
     AnnounceStep(HostStep::Rename, To);
     const QString Source = ResolvePath(From);
     const QString Target = ResolvePath(To);
-    if (std::rename(QFile::encodeName(Source).constData(), QFile::encodeName(Target).constData()))
+    if (std::rename(HostBytes(Source).constData(), HostBytes(Target).constData()))
         Fail(QStringLiteral("The file cannot be renamed."), To, qt_error_string(errno));
     NoteNameGone(Source);
     NoteNameMade(Target);
@@ -207,29 +207,26 @@ void RenameFile(const QString& From, const QString& To) {
 bool LinkFile(const QString& From, const QString& To) {
     AnnounceStep(HostStep::Link, To);
     const QString Target = ResolvePath(To);
-    const std::filesystem::path Name(Target.toStdU16String());
+    const fs::path Name(HostBytes(Target).constData());
     std::error_code Problem;
-    std::filesystem::remove(Name, Problem);
-    std::filesystem::create_hard_link(ResolvePath(From).toStdU16String(), Name, Problem);
+    fs::remove(Name, Problem);
+    fs::create_hard_link(HostBytes(ResolvePath(From)).constData(), Name, Problem);
     if (Problem) return false;
     NoteNameMade(Target);
     return true;
 }
 
 void SetReadOnly(const QString& Path) {
-    constexpr auto ReadBits = QFileDevice::ReadOwner | QFileDevice::ReadUser |
-                              QFileDevice::ReadGroup | QFileDevice::ReadOther |
-                              QFileDevice::ExeOwner | QFileDevice::ExeUser | QFileDevice::ExeGroup |
-                              QFileDevice::ExeOther;
+    constexpr mode_t WriteBits = 0222;
     AnnounceStep(HostStep::Protect, Path);
-    QFile File(ResolvePath(Path));
-    if (!File.setPermissions(File.permissions() & ReadBits))
+    HostFile File(ResolvePath(Path));
+    if (!File.ChangeRights(0, WriteBits))
         Fail(QStringLiteral("The file cannot be made read-only."), Path, File.errorString());
 }
 
 void SyncFile(const QString& Path) {
     AnnounceStep(HostStep::Sync, Path);
-    QFile File(ResolvePath(Path));
+    HostFile File(ResolvePath(Path));
     if (!File.open(QIODevice::ReadWrite | QIODevice::ExistingOnly) || !SyncHandle(File.handle()))
         FailWrite(File, Path);
 }
@@ -237,7 +234,7 @@ void SyncFile(const QString& Path) {
 void SyncDir(const QString& Dir) {
     AnnounceStep(HostStep::SyncDir, Dir);
 #ifndef _WIN32
-    const int Handle = ::open(QFile::encodeName(ResolvePath(Dir)).constData(), O_RDONLY);
+    const int Handle = ::open(HostBytes(ResolvePath(Dir)).constData(), O_RDONLY);
     if (Handle < 0) return;  // some file systems do not let a directory be opened
     const int Problem = ::fsync(Handle) == 0 ? 0 : errno;
     ::close(Handle);
@@ -250,20 +247,25 @@ void SyncDir(const QString& Dir) {
 
 void MakeDirs(const QString& Dir) {
     const QString Host = ResolvePath(Dir);
-    if (QFileInfo(Host).isDir()) return;
+    if (HostInfo(Host).IsFolder()) return;
     AnnounceStep(HostStep::MakeDir, Dir);
-    if (!QDir().mkpath(Host)) throw Fault(QStringLiteral("The directory cannot be made."), Dir);
+    std::error_code Problem;
+    fs::create_directories(HostBytes(Host).constData(), Problem);
+    if (!HostInfo(Host).IsFolder())
+        throw Fault(QStringLiteral("The directory cannot be made."), Dir);
 }
 
 void MakeDirsIn(const QString& Base, const QString& Dir) {
     const QString Host = ResolvePath(Dir);
-    if (QFileInfo(Host).isDir()) return;
+    if (HostInfo(Host).IsFolder()) return;
     AnnounceStep(HostStep::MakeDir, Dir);
     for (qsizetype End = Base.size(); End < Dir.size(); ++End) {
         End = Dir.indexOf(u'/', End);
         if (End < 0) End = Dir.size();
         const QString Part = ResolvePath(Dir.first(End));
-        if (!QDir().mkdir(Part) && !QFileInfo(Part).isDir())
+        std::error_code Problem;
+        fs::create_directory(HostBytes(Part).constData(), Problem);
+        if (!HostInfo(Part).IsFolder())
             throw Fault(QStringLiteral("The directory cannot be made."), Dir);
     }
 }
@@ -286,7 +288,7 @@ void DeleteFolder(const QString& Dir) {
 
 struct HostWriter::State {
     QString Path;
-    QFile File;
+    HostFile File;
     QByteArray Pending;
     static constexpr qsizetype Chunk = 1 << 20;
     void Flush() {
@@ -354,7 +356,8 @@ ScratchDir::ScratchDir() {
 }
 
 ScratchDir::~ScratchDir() {
-    QDir(mPath).removeRecursively();
+    std::error_code Ignored;
+    fs::remove_all(HostBytes(mPath).constData(), Ignored);
 }
 
 }  // namespace neb

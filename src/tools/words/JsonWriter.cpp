@@ -3,13 +3,14 @@
 #include <cmath>
 
 #include "support/modNumbers.h"
+#include "support/modText.h"
 
 namespace neb {
 namespace {
 
 QByteArray Quoted(const QString& Text) {
     QByteArray Result = "\"";
-    for (const char Byte : Text.toUtf8()) {
+    for (const char Byte : ReadableText(Text).toUtf8()) {
         const auto Code = static_cast<unsigned char>(Byte);
         if (Byte == '"' || Byte == '\\') Result.append('\\');
         if (Code < 0x20)

@@ -1,9 +1,11 @@
 #include "tools/words/ToolIO.h"
 
+#include "support/modText.h"
+
 namespace neb {
 
 void PrintLine(std::ostream& Stream, const QString& Text) {
-    Stream << Text.toUtf8().constData() << '\n';
+    Stream << ReadableText(Text).toUtf8().constData() << '\n';
 }
 
 int Fail(ToolIO& IO, const QString& Text) {
@@ -24,7 +26,8 @@ void ProgressLine::Show(size_t Done, size_t Total) {
 void ProgressLine::Say(const QString& Text) {
     if (!mIO.ErrIsTerminal || Text == mShown) return;
     mShown = Text;
-    mIO.Err << '\r' << mWhat << ' ' << Text.toUtf8().constData() << "\033[K" << std::flush;
+    mIO.Err << '\r' << mWhat << ' ' << ReadableText(Text).toUtf8().constData() << "\033[K"
+            << std::flush;
 }
 
 void ProgressLine::Clear() {

@@ -15,6 +15,7 @@
 #include "support/FlagText.h"
 #include "support/MediaTypes.h"
 #include "support/Services.h"
+#include "support/files/HostNames.h"
 #include "support/modFUFL.h"
 #include "support/modNumbers.h"
 #include "windows/compose/SongReading.h"
@@ -94,7 +95,7 @@ void KeepLastFolder(const QString& Folder) {
 QStringList SoundsIn(const QMimeData& Dragged) {
     QStringList Files;
     for (const QUrl& Each : Dragged.urls())
-        if (Each.isLocalFile() && IsSoundName(Each.toLocalFile())) Files << Each.toLocalFile();
+        if (const QString Path = FileOfUrl(Each); IsSoundName(Path)) Files << Path;
     return Files;
 }
 

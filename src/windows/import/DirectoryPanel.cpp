@@ -7,6 +7,7 @@
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/Services.h"
+#include "support/files/HostNames.h"
 #include "support/files/modHostFiles.h"
 #include "ui_DirectoryPanel.h"
 
@@ -27,7 +28,7 @@ QString ReadLastDirectory() {
         if (!FileExists(MemoryFile())) return {};
         QByteArray Line = ReadFile(MemoryFile()).split('\n').value(0);
         if (Line.endsWith('\r')) Line.chop(1);
-        return QString::fromUtf8(Line);
+        return HostName(Line);
     } catch (const Fault&) {
         return {};
     }
@@ -36,7 +37,7 @@ QString ReadLastDirectory() {
 void WriteLastDirectory(const QString& Directory) {
     try {
         DeleteFile(MemoryFile());
-        WriteFile(MemoryFile(), Directory.toUtf8() + '\n');
+        WriteFile(MemoryFile(), HostBytes(Directory) + '\n');
     } catch (const Fault&) {
         // a program folder that cannot be written remembers nothing
     }

@@ -8,6 +8,7 @@
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/Services.h"
+#include "support/files/HostNames.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
 #include "ui_ImportForm.h"
@@ -93,7 +94,7 @@ void ImportForm::dragEnterEvent(QDragEnterEvent* Event) {
 void ImportForm::dropEvent(QDropEvent* Event) {
     QStringList Paths;
     for (const QUrl& Url : Event->mimeData()->urls())
-        if (Url.isLocalFile()) Paths.append(AsDropped(Url.toLocalFile()));
+        if (Url.isLocalFile()) Paths.append(AsDropped(FileOfUrl(Url)));
     if (Paths.isEmpty() || !IsFree()) return;
     Event->acceptProposedAction();
     // the question waits until the drag is over, so that the source is not held

@@ -7,6 +7,7 @@
 #include "settings/modNEBSlideShow.h"
 #include "support/MediaTypes.h"
 #include "support/Services.h"
+#include "support/files/HostNames.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
 #include "windows/recorder/frmSoundRecorder.h"
@@ -41,9 +42,8 @@ QString HeardSound() {
 
 QString DraggedFile(const QMimeData& Data) {
     for (const QUrl& Url : Data.urls())
-        if (Url.isLocalFile() &&
-            (IsPictureName(Url.toLocalFile()) || IsSoundName(Url.toLocalFile())))
-            return Url.toLocalFile();
+        if (const QString Path = FileOfUrl(Url); IsPictureName(Path) || IsSoundName(Path))
+            return Path;
     return {};
 }
 

@@ -6,6 +6,7 @@
 #include <QUrl>
 
 #include "controls/forms/Tell.h"
+#include "support/files/HostNames.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
 
@@ -35,7 +36,7 @@ QString PathMeant(const QString& Typed) {
     const QString Text = Typed.trimmed();
     if (Text == u"~" || Text.startsWith(u"~/"))
         return QStandardPaths::writableLocation(QStandardPaths::HomeLocation) + Text.mid(1);
-    if (Text.startsWith(u"file:")) return QUrl(Text).toLocalFile();
+    if (Text.startsWith(u"file:")) return FileOfUrl(QUrl(Text));
     return AbsolutePath(Text);
 }
 
@@ -51,7 +52,7 @@ QString PathIn(const QLineEdit& Field) {
 
 QString DroppedDirectory(const QMimeData& Data) {
     for (const QUrl& Url : Data.urls())
-        if (const QString Path = Url.toLocalFile(); !Path.isEmpty())
+        if (const QString Path = FileOfUrl(Url); !Path.isEmpty())
             return FolderExists(Path) ? Path : GetFilePath(Path);
     return {};
 }
