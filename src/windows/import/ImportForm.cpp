@@ -17,6 +17,7 @@
 #include "support/Services.h"
 #include "support/modDEValidation.h"
 #include "support/modNumbers.h"
+#include "support/modText.h"
 #include "ui_ImportForm.h"
 #include "windows/frame/modWindowState.h"
 #include "windows/lists/SlideRows.h"
@@ -248,7 +249,7 @@ bool ImportForm::EnterRows(PictureImport& Run, frmProgress& Bar, ImportTally& Ta
         const auto Outcome = Run.EnterNext(Picture);
         if (Outcome == PictureImport::Outcome::Ended) break;
         if (Outcome == PictureImport::Outcome::LeftOut) {
-            Tally.LeftOut << Picture.Path + QStringLiteral(": ") + Run.Reason();
+            Tally.LeftOut << ReadableText(Picture.Path) + QStringLiteral(": ") + Run.Reason();
             Rows().MarkLeftOut(Row);
         } else {
             Tally.Entered.push_back(Row);

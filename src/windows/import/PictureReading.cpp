@@ -12,6 +12,7 @@
 #include "support/ReasonOf.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
+#include "support/modText.h"
 #include "support/work/AheadQueue.h"
 #include "windows/import/ImportOptions.h"
 
@@ -31,7 +32,7 @@ ReadPicture ReadFrom(const QString& Path, int Side) {
 }
 
 QString WithReason(const QString& Path, const QString& Reason) {
-    return Path + QStringLiteral(": ") + Reason;
+    return ReadableText(Path) + QStringLiteral(": ") + Reason;
 }
 
 }  // namespace
@@ -92,14 +93,14 @@ void PictureReading::TakeNamed(const Source& From, Found& To, const QString& Pat
     else if (IsPictureName(Path))
         To.Files << Path;
     else
-        To.Report.OtherFiles << Path;
+        To.Report.OtherFiles << ReadableText(Path);
 }
 
 void PictureReading::TakeDirectory(const QString& Directory, bool Recurse, Found& To) {
     const Scan Seen =
         ScanPictures(WithSeparator(Directory), Recurse, [this] { return mReading.Yield(); });
     To.Files += Seen.Files;
-    To.Report.OtherFiles += Seen.OtherFiles;
+    for (const QString& Each : Seen.OtherFiles) To.Report.OtherFiles << ReadableText(Each);
     for (const Scan::Folder& Each : Seen.UnreadableFolders)
         To.Report.Folders << WithReason(Each.Path, Each.Reason);
 }

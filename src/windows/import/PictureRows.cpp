@@ -7,6 +7,7 @@
 
 #include "controls/grid/FlexGrid.h"
 #include "support/modFUFL.h"
+#include "support/modText.h"
 
 namespace neb {
 namespace {
@@ -80,7 +81,7 @@ void PictureRows::Sort(PictureOrder Order, int First) {
 QString PictureRows::Proposed(const FlexGrid& Grid, int Row, bool OwnWords) const {
     const QString& Path = Grid.TextMatrix(Row, ColPath);
     return OwnWords ? ProposedCaption(Path, mSpool->Facts(NumberOf(Grid, Row)))
-                    : GetFileBaseName(Path);
+                    : ReadableText(GetFileBaseName(Path));
 }
 
 void PictureRows::ProposeIn(FlexGrid& Grid, bool OwnWords) {

@@ -156,7 +156,7 @@ TEST_F(ProgressTest, TellsTheCountAndTheTimeLeft) {
         for (int I = 0; I <= 500; ++I) {
             Meter->ShowCount(I, 5000);
             Meter->Refresh();
-            if (I == 100) EXPECT_EQ("", Text("lblTimeLeft"));
+            EXPECT_TRUE(I > 100 || Text("lblTimeLeft").empty()) << I;
         }
         EXPECT_EQ("Picture 500 of 5,000", Text("lblCount"));
         EXPECT_EQ("About 40 seconds left", Text("lblTimeLeft"));
