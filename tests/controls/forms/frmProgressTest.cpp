@@ -159,7 +159,7 @@ TEST_F(ProgressTest, TellsTheCountAndTheTimeLeft) {
             EXPECT_TRUE(I > 100 || Text("lblTimeLeft").empty()) << I;
         }
         EXPECT_EQ("Picture 500 of 5,000", Text("lblCount"));
-        EXPECT_EQ("About 40 seconds left", Text("lblTimeLeft"));
+        EXPECT_EQ("About 50 seconds left", Text("lblTimeLeft"));
         EXPECT_EQ(5000, Meter->pgbLoadingProgress()->maximum());
     };
     Meter->ShowProgressMeter(Parent);
