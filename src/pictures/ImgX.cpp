@@ -158,6 +158,21 @@ QImage MakeThumbnail(const QImage& Picture) {
     return Small.Picture();
 }
 
+ListedPicture ReadForList(const QString& File, int Side) {
+    const QSize Least(Side, Side);
+    const bool Larger = Side > ThumbnailSize.width();
+    ImgX Picture;
+    Picture.LoadFor(File, [&](QSize Full) {
+        return Larger ? ToStretch(Full).expandedTo(ToFitInto(Least)(Full)) : ToStretch(Full);
+    });
+    ListedPicture Made{MakeThumbnail(Picture.Picture()), {}, Picture.FullSize()};
+    if (!Larger) return Made;
+    const QSize Fitted = FitSize(Made.Full, Least);
+    Picture.Resize(Fitted.width(), Fitted.height(), ThumbnailSelector);
+    Made.Shown = Picture.Picture();
+    return Made;
+}
+
 QByteArray ThumbnailBmp(const QImage& Picture) {
     const QImage Rows = Picture.convertToFormat(QImage::Format_BGR888);
     const int Stride = (Rows.width() * 3 + 3) / 4 * 4;

@@ -47,6 +47,7 @@ class ImgX {
   private:
     void LoadFor(const QString& File, const NeededSize& Needed);
     friend QImage MakeThumbnail(const QString& File);
+    friend struct ListedPicture ReadForList(const QString& File, int Side);
 
     QImage mPicture;
     QSize mFull;
@@ -62,6 +63,15 @@ QByteArray FittedJpeg(ImgX Picture, const PictureKeeping& Keeping = {});
 QImage MakeThumbnail(const QString& File);
 // The same from a picture in memory.
 QImage MakeThumbnail(const QImage& Picture);
+// A picture file as a list shows it before it comes into an album, and as the album will keep it.
+struct ListedPicture {
+    QImage Thumbnail;  // as MakeThumbnail gives it
+    QImage Shown;      // in its true proportions; null where the thumbnail has pixels enough
+    QSize Full;        // the file's own, upright
+};
+// Both from one reading of the file, Shown with so many pixels along its longer side, at most its
+// own. Throws as ImgX::Load does.
+ListedPicture ReadForList(const QString& File, int Side);
 // A Windows bitmap's bytes, 24 bits a pixel; the same bytes for the same picture always.
 QByteArray ThumbnailBmp(const QImage& Picture);
 

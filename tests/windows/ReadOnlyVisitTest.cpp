@@ -241,7 +241,7 @@ void ReadOnlyVisit::UseFinder() {
 void ReadOnlyVisit::WorkInAll() {
     const auto Pictures = [](Form& Window) {
         EXPECT_EQ("a,b", CaptionsOf(NonSelected(Window)));
-        EXPECT_FALSE(NonSelected(Window).CellPicture(1, ImportForm::ColPicture).isNull());
+        EXPECT_FALSE(NonSelected(Window).ShownPicture(1, ImportForm::ColPicture).Picture.isNull());
         CheckOff(Window, {"cmdImport", "cmdCancel", "cmdMoveRightOne", "cmdMoveRightAll",
                           "cmdMoveLeftOne", "cmdMoveLeftAll"});
     };

@@ -42,7 +42,12 @@ void frmLoading::ShowPicture(const QImage& Picture) {
     mPicture = Picture;
 }
 
+void frmLoading::ShowCount(int Number, int Count) {
+    mUi->wdgWords->ShowCount(Number, Count);
+}
+
 void frmLoading::Refresh() {
+    mUi->wdgWords->Follow(*mUi->pgbLoadingProgress);
     if (!mPaintRate.IsDue()) return;
     mUi->Picture1->setPixmap(QPixmap::fromImage(mPicture));
     if (isVisible()) repaint();
@@ -63,10 +68,12 @@ bool frmLoading::Form_Unload() {
 
 void frmLoading::AskAbort() {
     if (!mUi->cmdStop->isEnabled() || !mParent) return;
-    if (AskYesNo(QStringLiteral("Are you sure you want to Abort the current process?"),
-                 QStringLiteral("Abort Confirmation")) &&
-        mParent)
-        mParent->DoAbort();
+    const double Asked = TheServices().Time->Ticks();
+    const bool Stops =
+        AskYesNo(QStringLiteral("Are you sure you want to Abort the current process?"),
+                 QStringLiteral("Abort Confirmation"));
+    mUi->wdgWords->Skip(TheServices().Time->Ticks() - Asked);
+    if (Stops && mParent) mParent->DoAbort();
 }
 
 }  // namespace neb

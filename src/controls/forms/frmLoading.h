@@ -37,6 +37,8 @@ class frmLoading : public Form {
     QProgressBar* pgbLoadingProgress() const;
     // The picture that the work is at; an empty image clears it.
     void ShowPicture(const QImage& Picture);
+    // The words below the bar, for picture Number of Count, from 1.
+    void ShowCount(int Number, int Count);
     // Brings the screen up to date, not more often than a screen can show.
     void Refresh();
 

@@ -21,6 +21,8 @@ class ProgressWork : public ProgressParent {
 
 frmProgress::frmProgress() : mUi(std::make_unique<Ui::frmProgress>()) {
     mUi->setupUi(this);
+    SupportsStop(false);
+    connect(mUi->cmdStop, &QPushButton::clicked, this, &frmProgress::Stop);
 }
 
 frmProgress::~frmProgress() = default;
@@ -31,11 +33,33 @@ void frmProgress::ShowProgressMeter(ProgressParent& Parent) {
     ShowModal();
 }
 
+void frmProgress::SupportsStop(bool Supported) {
+    mUi->cmdStop->setVisible(Supported);
+    mUi->cmdStop->setEnabled(Supported);
+}
+
+// The button is there and cannot be pressed again: that is all there is to know.
+bool frmProgress::IsStopped() const {
+    return !mUi->cmdStop->isHidden() && !mUi->cmdStop->isEnabled();
+}
+
+void frmProgress::Stop() {
+    if (mUi->cmdStop->isHidden()) return;
+    mUi->cmdStop->setEnabled(false);
+}
+
 QProgressBar* frmProgress::pgbLoadingProgress() const {
     return mUi->pgbLoadingProgress;
 }
 
+void frmProgress::ShowCount(int Number, int Count) {
+    mUi->pgbLoadingProgress->setMaximum(Count);
+    mUi->pgbLoadingProgress->setValue(Number);
+    mUi->wdgWords->ShowCount(Number, Count);
+}
+
 void frmProgress::Refresh() {
+    mUi->wdgWords->Follow(*mUi->pgbLoadingProgress);
     if (!mPaintRate.IsDue()) return;
     if (isVisible()) repaint();
 }

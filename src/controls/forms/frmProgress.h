@@ -1,4 +1,5 @@
-// The window over work that is not to be stopped, such as an import: a bar, no buttons.
+// The window over work such as an import: a bar, the time left, and a button to stop where the work
+// allows it, which asks nothing.
 #pragma once
 
 #include <functional>
@@ -27,16 +28,25 @@ class frmProgress : public Form {
     void ClearParent() { mParent = nullptr; }
     // Shows the window over the parent's StartOperation; returns after it has closed.
     void ShowProgressMeter(ProgressParent& Parent);
+    // The button to stop, and Esc; neither is there at first.
+    void SupportsStop(bool Supported);
+    // Whether the user has asked to stop; the work looks after every piece.
+    bool IsStopped() const;
+
     QProgressBar* pgbLoadingProgress() const;
+    // The bar, and the words below it, after picture Number of Count, from 1.
+    void ShowCount(int Number, int Count);
     // Brings the screen up to date, not more often than a screen can show.
     void Refresh();
 
   protected:
     void Form_Activate() override;
     bool Form_Unload() override;
-    void CloseRequested() override {}
+    void CloseRequested() override { Stop(); }
 
   private:
+    void Stop();
+
     std::unique_ptr<Ui::frmProgress> mUi;
     bool mActivated = false;
     ProgressParent* mParent = nullptr;

@@ -9,20 +9,35 @@
 namespace neb {
 namespace {
 
-constexpr int ThumbnailSide = 72;
 constexpr int Margin = 4;
 
 int WidthFor(const FlexColumn& Column, const QFontMetrics& Metrics) {
     if (Column.Width > 0) return Column.Width;
-    if (Column.Kind == FlexKind::Picture) return ThumbnailSide + 4 * Margin;
+    if (Column.Kind == FlexKind::Picture) return PictureSide + 4 * Margin;
     const int Text = Metrics.averageCharWidth() * (Column.Kind == FlexKind::Text ? 24 : 12);
     return std::max(Text, Metrics.size(0, Column.Heading).width() + 4 * Margin);
+}
+
+// Rows that lie together as one range: the view is slow with thousands of them.
+QItemSelection Ranges(const QAbstractItemModel& Model, const std::vector<int>& Rows) {
+    QItemSelection All;
+    for (size_t I = 0; I < Rows.size();) {
+        size_t End = I + 1;
+        while (End < Rows.size() && Rows[End] == Rows[End - 1] + 1) ++End;
+        All.append(QItemSelectionRange(Model.index(Rows[I], 0),
+                                       Model.index(Rows[End - 1], Model.columnCount() - 1)));
+        I = End;
+    }
+    return All;
 }
 
 }  // namespace
 
 FlexGrid::FlexGrid(QWidget* Parent)
-    : QTableView(Parent), mModel(new FlexGridModel(this)), mDelegate(new FlexGridDelegate(this)) {
+    : QTableView(Parent),
+      mModel(new FlexGridModel(this)),
+      mPictures(new GridPictures(*mModel, this)),
+      mDelegate(new FlexGridDelegate(this)) {
     setModel(mModel);
     setItemDelegate(mDelegate);
     setSelectionBehavior(SelectRows);
@@ -129,15 +144,26 @@ void FlexGrid::SetCellData(int Row, int Col, const CellValue& Data) {
     mModel->SetCellData(Row, Col, Data);
 }
 
-void FlexGrid::SetCellPicture(int Row, int Col, const QImage& Picture) {
-    mModel->SetPicture(Row, Col, Picture);
+void FlexGrid::SetCellPicture(int Row, int Col, const QImage& Picture, QSize TrueShape) {
+    mModel->SetPicture(Row, Col, Picture, TrueShape);
+}
+
+void FlexGrid::SetPictureSource(int Col, PictureSource Source) {
+    mPictures->SetSource(Col, std::move(Source));
+    viewport()->update();
+}
+
+void FlexGrid::PictureChanged(int Row, int Col) {
+    Content().RequireRows(Row, 1);
+    mPictures->Forget(Row, Row);
+    viewport()->update(visualRect(mModel->index(Row, Col)));
 }
 
 void FlexGrid::CopyCell(const FlexGrid& Source, int SourceRow, int SourceCol, int Row, int Col) {
     const FlexCell Copy = Source.Content().Cell(SourceRow, SourceCol);
     SetTextMatrix(Row, Col, Copy.Text);
     SetCellData(Row, Col, Copy.Data);
-    SetCellPicture(Row, Col, Copy.Picture);
+    SetCellPicture(Row, Col, Copy.Picture, Copy.Shape);
 }
 
 void FlexGrid::SetKeyColumn(int Col) {
@@ -183,7 +209,7 @@ void FlexGrid::FitRowHeight() {
     int Content = fontMetrics().height();
     for (int Each = 0; Each < Cols(); ++Each)
         if (Column(Each).Kind == FlexKind::Picture && !ColHidden(Each))
-            Content = std::max(Content, ThumbnailSide);
+            Content = std::max(Content, PictureSide);
     const int Height = Content + 2 * Margin;
     if (verticalHeader()->defaultSectionSize() != Height)
         verticalHeader()->setDefaultSectionSize(Height);
@@ -211,26 +237,13 @@ void FlexGrid::RestoreSelection() {
         const QSignalBlocker Quiet(selectionModel());
         selectionModel()->clearSelection();  // first: thousands of ranges are slow to compare
         mModel->SetQuiet(false);
-        selectionModel()->select(Ranges(Kept), QItemSelectionModel::Select);
+        selectionModel()->select(Ranges(*mModel, Kept), QItemSelectionModel::Select);
     }
     mSelectionKnown = false;
     const int Now =
         mCurrent.Ascending().empty() ? std::min(Before, Rows() - 1) : mCurrent.Ascending().front();
     selectionModel()->setCurrentIndex(mModel->index(Now, Col), QItemSelectionModel::NoUpdate);
     Q_EMIT SelChange();
-}
-
-// Rows that lie together as one range: the view is slow with thousands of them.
-QItemSelection FlexGrid::Ranges(const std::vector<int>& Rows) const {
-    QItemSelection All;
-    for (size_t I = 0; I < Rows.size();) {
-        size_t End = I + 1;
-        while (End < Rows.size() && Rows[End] == Rows[End - 1] + 1) ++End;
-        All.append(QItemSelectionRange(mModel->index(Rows[I], 0),
-                                       mModel->index(Rows[End - 1], Cols() - 1)));
-        I = End;
-    }
-    return All;
 }
 
 const std::vector<int>& FlexGrid::Selection() const {

@@ -3,11 +3,10 @@
 #pragma once
 
 #include <QTableView>
-#include <functional>
-#include <optional>
 
 #include "controls/fields/KeyFilter.h"
 #include "controls/grid/FlexGridModel.h"
+#include "controls/grid/GridPictures.h"
 #include "controls/grid/RowSet.h"
 
 namespace neb {
@@ -38,12 +37,16 @@ class FlexGrid : public QTableView {
     const CellValue& CellData(int Row, int Col) const { return Content().Cell(Row, Col).Data; }
     void SetCellData(int Row, int Col, const CellValue& Data);
     const QImage& CellPicture(int Row, int Col) const { return Content().Cell(Row, Col).Picture; }
-    void SetCellPicture(int Row, int Col, const QImage& Picture);
+    // TrueShape: of the whole picture, where this one is stretched (ShapedPicture.h).
+    void SetCellPicture(int Row, int Col, const QImage& Picture, QSize TrueShape = {});
+    // What the column shows comes from there, asked for rows in view alone and kept no longer.
+    void SetPictureSource(int Col, PictureSource Source);  // an empty one: the cells' own
+    void PictureChanged(int Row, int Col);                 // the source is asked again
+    ShapedPicture ShownPicture(int Row, int Col) const { return mPictures->Shown(Row, Col); }
     void CopyCell(const FlexGrid& Source, int SourceRow, int SourceCol, int Row, int Col);
     bool Checked(int Row, int Col) const;
 
-    // The first row whose datum is this number, as a walk from row 0 finds it; -1 for none. On a
-    // key column it is a lookup.
+    // The first row whose datum is this number; -1 for none. On a key column it is a lookup.
     int FindRow(int Col, double Number) const { return Content().FindRow(Col, Number); }
     void SetKeyColumn(int Col);
 
@@ -117,22 +120,20 @@ class FlexGrid : public QTableView {
     const FlexGridStore& Content() const { return mModel->Store(); }
     const std::vector<int>& Selection() const;
     void RestoreSelection();
-    QItemSelection Ranges(const std::vector<int>& Rows) const;
     void FitColumn(int Col);
     void FitAll();
     void FitRowHeight();
     int FirstColumn() const;
     bool MayEdit(const QModelIndex& Index) const;
-    void EditNeighbour(int Step);
     void EnterPressed();
     void SpacePressed(const QKeyEvent& Event);
-    void ToggleCheck(int Row, int Col);
     bool PressCell(const QModelIndex& Index);
     bool KeyHandled(const QKeyEvent& Event);
     QModelIndex NoteMouse(const QMouseEvent& Event);
     bool OnHotSpot(const QModelIndex& Index, const QMouseEvent& Event) const;
 
     FlexGridModel* mModel;
+    GridPictures* mPictures;
     FlexGridDelegate* mDelegate;
     FlexGridDrag* mDrag = nullptr;
     mutable RowSet mSelected;
@@ -140,9 +141,8 @@ class FlexGrid : public QTableView {
     RowSet mCurrent;  // while redraw is off
     std::function<bool(int, int)> mMayEdit;
     KeyPressFilter mKeyPressEdit;
-    QPersistentModelIndex mEditing;
+    QPersistentModelIndex mEditing, mPressed;
     bool mEdited = false;
-    QPersistentModelIndex mPressed;
     int mMouseRow = -1, mMouseCol = -1;
     QString mEmptyText;
 };

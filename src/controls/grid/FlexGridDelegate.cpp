@@ -10,6 +10,7 @@
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <QToolTip>
+#include <cmath>
 
 #include "controls/grid/FlexGrid.h"
 
@@ -18,6 +19,19 @@ namespace {
 
 constexpr int Margin = 4;
 const QString Dots = QStringLiteral("...");
+
+void EditNeighbour(FlexGrid& Grid, int Step) {
+    const int Next = Grid.Row() + Step;
+    if (Grid.Redraw() && Next >= 0 && Next < Grid.Rows()) Grid.EditCell(Next, Grid.Col());
+}
+
+// The corner of the pixel in which the point lies: between pixels a picture would blur.
+QPointF OnPixel(const QPainter& Painter, QPointF At) {
+    constexpr double Rounding = 0.01;
+    const QTransform& ToScreen = Painter.deviceTransform();
+    const QPointF There = ToScreen.map(At) + QPointF(Rounding, Rounding);
+    return ToScreen.inverted().map(QPointF(std::floor(There.x()), std::floor(There.y())));
+}
 
 // A key or the wheel only goes through the entries: the choice is made when the list that opens
 // has closed, or at Return. What is typed is looked for as a whole: 1 is the entry 1 and not 10,
@@ -117,7 +131,7 @@ void FlexGridDelegate::paint(QPainter* Painter, const QStyleOptionViewItem& Opti
     else
         StyleOf(Own).drawControl(QStyle::CE_ItemViewItem, &Own, Painter, Own.widget);
     if (Kind == FlexKind::Picture && Index.row() < mGrid->Rows())
-        PaintPicture(*Painter, Own.rect, mGrid->CellPicture(Index.row(), Index.column()));
+        PaintPicture(*Painter, Own.rect, Index);
     if (Kind == FlexKind::Check) PaintCheck(*Painter, Own, Index);
     if (Own.state & QStyle::State_HasFocus) PaintFocus(*Painter, Own);
 }
@@ -168,14 +182,16 @@ void FlexGridDelegate::PaintFrame(QPainter& Painter, QStyleOptionViewItem Option
 }
 
 void FlexGridDelegate::PaintPicture(QPainter& Painter, const QRect& Room,
-                                    const QImage& Picture) const {
+                                    const QModelIndex& Index) const {
+    const double Scale = Painter.device()->devicePixelRatioF();
+    const QImage Picture = mGrid->mPictures->Ready(Index.row(), Index.column(), Scale);
     if (Picture.isNull()) return;
     const QSizeF Size = Picture.deviceIndependentSize();
-    const QRect Place = QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, Size.toSize(), Room);
+    const QPointF Corner((Room.width() - Size.width()) / 2, (Room.height() - Size.height()) / 2);
     Painter.save();
     Painter.setClipRect(Room, Qt::IntersectClip);
     Painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    Painter.drawImage(QRectF(Place.topLeft(), Size), Picture);
+    Painter.drawImage(QRectF(OnPixel(Painter, Room.topLeft() + Corner), Size), Picture);
     Painter.restore();
 }
 
@@ -290,7 +306,7 @@ bool FlexGridDelegate::KeyPressed(QWidget* Editor, int Key) {
     const bool Tab = Key == Qt::Key_Tab || Key == Qt::Key_Backtab;
     if (!Enter && !Tab && Key != Qt::Key_Escape) return false;
     End(Editor, Enter || Tab);
-    if (Tab) mGrid->EditNeighbour(Key == Qt::Key_Tab ? 1 : -1);
+    if (Tab) EditNeighbour(*mGrid, Key == Qt::Key_Tab ? 1 : -1);
     return true;
 }
 

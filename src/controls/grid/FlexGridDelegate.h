@@ -37,7 +37,7 @@ class FlexGridDelegate : public QStyledItemDelegate {
   private:
     QStyleOptionViewItem Styled(const QStyleOptionViewItem& Option, const QModelIndex& Index) const;
     void PaintFrame(QPainter& Painter, QStyleOptionViewItem Option) const;
-    void PaintPicture(QPainter& Painter, const QRect& Room, const QImage& Picture) const;
+    void PaintPicture(QPainter& Painter, const QRect& Room, const QModelIndex& Index) const;
     void PaintCheck(QPainter& Painter, const QStyleOptionViewItem& Option,
                     const QModelIndex& Index) const;
     void PaintWithButton(QPainter& Painter, const QStyleOptionViewItem& Option, FlexKind Kind,

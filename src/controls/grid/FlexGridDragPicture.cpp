@@ -42,9 +42,10 @@ QImage TextCard(const FlexGrid& Grid, const QString& Text) {
 }
 
 QImage CardOf(const FlexGrid& Grid, int Row) {
-    const int Col = FirstSeen(Grid, FlexKind::Picture,
-                              [&](int Each) { return !Grid.CellPicture(Row, Each).isNull(); });
-    if (Col >= 0) return Grid.CellPicture(Row, Col);
+    const int Col = FirstSeen(Grid, FlexKind::Picture, [&](int Each) {
+        return !Grid.ShownPicture(Row, Each).Picture.isNull();
+    });
+    if (Col >= 0) return FittedPicture(Grid.ShownPicture(Row, Col), Grid.devicePixelRatioF());
     const int Text = FirstSeen(Grid, FlexKind::Text,
                                [&](int Each) { return !Grid.TextMatrix(Row, Each).isEmpty(); });
     return TextCard(Grid, Text < 0 ? QString::number(Row + 1) : Grid.TextMatrix(Row, Text));

@@ -9,6 +9,15 @@
 #include "controls/grid/FlexGridDrag.h"
 
 namespace neb {
+namespace {
+
+void ToggleCheck(FlexGrid& Grid, int Row, int Col) {
+    const bool On = !Grid.Checked(Row, Col);
+    Grid.SetTextMatrix(Row, Col, On ? QStringLiteral("True") : QStringLiteral("False"));
+    Q_EMIT Grid.AfterEdit(Row, Col);
+}
+
+}  // namespace
 
 void FlexGrid::SetEditOnDblClick(bool On) {
     setEditTriggers(editTriggers().setFlag(DoubleClicked, On));
@@ -60,11 +69,6 @@ void FlexGrid::closeEditor(QWidget* Editor, QAbstractItemDelegate::EndEditHint H
         Q_EMIT AfterEdit(Cell.row(), Cell.column());
 }
 
-void FlexGrid::EditNeighbour(int Step) {
-    const int Next = Row() + Step;
-    if (Redraw() && Next >= 0 && Next < Rows()) EditCell(Next, Col());
-}
-
 // In lists of rows Home and End mean the first and the last row.
 QModelIndex FlexGrid::moveCursor(CursorAction Action, Qt::KeyboardModifiers Modifiers) {
     if (Rows() == 0 || !Redraw()) return QTableView::moveCursor(Action, Modifiers);
@@ -79,15 +83,10 @@ QModelIndex FlexGrid::moveCursor(CursorAction Action, Qt::KeyboardModifiers Modi
 bool FlexGrid::PressCell(const QModelIndex& Index) {
     const FlexKind Kind = Index.isValid() ? Column(Index.column()).Kind : FlexKind::Text;
     if (Kind == FlexKind::Button) Q_EMIT CellButtonClicked(Index.row(), Index.column());
-    if (Kind == FlexKind::Check && MayEdit(Index)) ToggleCheck(Index.row(), Index.column());
+    if (Kind == FlexKind::Check && MayEdit(Index)) ToggleCheck(*this, Index.row(), Index.column());
     if (Kind == FlexKind::List && EditCell(Index.row(), Index.column()))
         static_cast<QComboBox*>(mDelegate->Editor())->showPopup();
     return Kind == FlexKind::Button || Kind == FlexKind::Check || Kind == FlexKind::List;
-}
-
-void FlexGrid::ToggleCheck(int Row, int Col) {
-    SetTextMatrix(Row, Col, Checked(Row, Col) ? QStringLiteral("False") : QStringLiteral("True"));
-    Q_EMIT AfterEdit(Row, Col);
 }
 
 // Return edits the cell, or presses it, or reports the row.
@@ -190,6 +189,8 @@ void FlexGrid::mouseDoubleClickEvent(QMouseEvent* Event) {
 
 void FlexGrid::paintEvent(QPaintEvent* Event) {
     QTableView::paintEvent(Event);
+    const int Last = rowAt(viewport()->height() - 1);
+    mPictures->KeepOnly(rowAt(0), Last < 0 ? Rows() : Last);
     if (mDrag) mDrag->PaintLine();
     if (Rows() > 0 || mEmptyText.isEmpty()) return;
     QPainter Painter(viewport());

@@ -87,8 +87,8 @@ void FlexGridModel::SetCellData(int Row, int Col, const CellValue& Data) {
     mStore.SetData(Row, Col, Data);  // nothing that a view shows
 }
 
-void FlexGridModel::SetPicture(int Row, int Col, const QImage& Picture) {
-    mStore.SetPicture(Row, Col, Picture);
+void FlexGridModel::SetPicture(int Row, int Col, const QImage& Picture, QSize Shape) {
+    mStore.SetPicture(Row, Col, Picture, Shape);
     CellChanged(Row, Col);
 }
 

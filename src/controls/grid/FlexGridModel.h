@@ -13,7 +13,7 @@ namespace neb {
 
 enum class FlexKind {
     Text,
-    Picture,  // the cell's picture, centred
+    Picture,  // the cell's picture, centred, in its true shape
     Check,    // a box; the text is "True" or "False"
     List,     // chosen from a drop-down list
     Button,   // a text with a "..." button behind it
@@ -51,7 +51,7 @@ class FlexGridModel : public QAbstractTableModel {
     void MoveItemsUntold(const std::vector<int>& Rows, int Before);  // only while quiet
     void SetText(int Row, int Col, const QString& Text);
     void SetCellData(int Row, int Col, const CellValue& Data);
-    void SetPicture(int Row, int Col, const QImage& Picture);
+    void SetPicture(int Row, int Col, const QImage& Picture, QSize Shape);
     void SetKeyColumn(int Col) { mStore.SetKeyColumn(Col); }
     void SetRowsDraggable(bool On) { mRowsDraggable = On; }
 

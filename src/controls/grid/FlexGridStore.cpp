@@ -149,8 +149,10 @@ void FlexGridStore::SetData(int Row, int Col, const CellValue& Data) {
     Enter(Col, Cells);
 }
 
-void FlexGridStore::SetPicture(int Row, int Col, const QImage& Picture) {
-    CellAt(Row, Col).Picture = Picture;
+void FlexGridStore::SetPicture(int Row, int Col, const QImage& Picture, QSize Shape) {
+    FlexCell& Target = CellAt(Row, Col);
+    Target.Picture = Picture;
+    Target.Shape = Shape;
 }
 
 void FlexGridStore::SetKeyColumn(int Col) {

@@ -20,6 +20,7 @@ struct FlexCell {
     QString Text;
     CellValue Data;
     QImage Picture;  // shared with whoever gave it, never copied
+    QSize Shape;     // of the true picture; empty: of this one
 };
 
 // Rows and columns count from 0; a row or column outside the store is a Fault.
@@ -45,7 +46,7 @@ class FlexGridStore {
     const FlexCell& Cell(int Row, int Col) const;
     void SetText(int Row, int Col, const QString& Text);
     void SetData(int Row, int Col, const CellValue& Data);
-    void SetPicture(int Row, int Col, const QImage& Picture);
+    void SetPicture(int Row, int Col, const QImage& Picture, QSize Shape = {});
 
     // Makes FindRow on this column a lookup, whatever is removed, moved or changed later.
     void SetKeyColumn(int Col);

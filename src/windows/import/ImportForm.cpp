@@ -17,6 +17,7 @@
 #include "support/Services.h"
 #include "support/modDEValidation.h"
 #include "support/modNumbers.h"
+#include "support/modText.h"
 #include "ui_ImportForm.h"
 #include "windows/frame/modWindowState.h"
 #include "windows/lists/SlideRows.h"
@@ -41,6 +42,9 @@ ImportForm::ImportForm(const WindowMemory& Memory)
     SetUpGrid(*mUi->flxNonSelected, tr("No pictures here.\nImport a directory, or drop files and "
                                        "folders on this window."));
     SetUpGrid(*mUi->flxSelected, tr("Pictures moved here are imported,\nin this order."));
+    mReading = std::make_unique<PictureReading>(*this, *mUi->wdgOptions, *mUi->flxNonSelected,
+                                                *mUi->flxSelected);
+    SetUpOptions();
     SetUpButtons();
     SetUpToolBar();
 }
@@ -55,7 +59,7 @@ void ImportForm::SetUpGrid(FlexGrid& Grid, const QString& EmptyText) {
     Grid.SetEmptyText(EmptyText);
     Grid.SetKeyPressEdit(&FixQuoteKeyInGrid);
     connect(&Grid, &FlexGrid::AfterEdit, this,
-            [&Grid](int Row, int Col) { FitCaption(Grid, Row, Col); });
+            [this, &Grid](int Row, int Col) { CaptionEdited(Grid, Row, Col); });
     const auto Preview = [this, &Grid](int Row) {
         Command([&Grid, Row] { PopUpPicture(Grid.TextMatrix(Row, ColPath)); });
     };
@@ -63,6 +67,20 @@ void ImportForm::SetUpGrid(FlexGrid& Grid, const QString& EmptyText) {
         if (Row >= 0 && Col == ColPicture) Preview(Row);
     });
     connect(&Grid, &FlexGrid::RowActivated, this, Preview);
+}
+
+void ImportForm::CaptionEdited(FlexGrid& Grid, int Row, int Col) {
+    FitCaption(Grid, Row, Col);
+    Rows().NoteTyped(Grid, Row, mUi->wdgOptions->OwnWords());
+}
+
+void ImportForm::SetUpOptions() {
+    mUi->wdgOptions->setEnabled(!ReadOnlyDB);
+    connect(mUi->wdgOptions, &ImportOptions::OrderChosen, this,
+            [this](PictureOrder Order) { Command([this, Order] { Rows().Sort(Order); }); });
+    connect(mUi->wdgOptions, &ImportOptions::OwnWordsChosen, this, [this](bool OwnWords) {
+        Command([this, OwnWords] { Rows().ProposeCaptions(OwnWords); });
+    });
 }
 
 void ImportForm::SetUpButtons() {
@@ -165,7 +183,7 @@ bool ImportForm::Form_QueryUnload() {
 bool ImportForm::Form_Unload() {
     if (mPhase != Phase::Loading) SaveWindow(*this, mMemory);
     mPhase = Phase::Closed;
-    mReading.WindowClosed();
+    mReading->WindowClosed();
     return true;
 }
 
@@ -198,27 +216,18 @@ Answer<Announcement> ImportForm::MakeAlbum(Changes& Door, const QString& Name) {
     return NewAlbum(Door, *DBEngine, ConvertQuotes(Name));
 }
 
-QStringList ImportForm::SelectedPaths() const {
-    const FlexGrid& Grid = *mUi->flxSelected;
-    QStringList Paths;
-    for (int Row = 0; Row < Grid.Rows(); ++Row) Paths.append(Grid.TextMatrix(Row, ColPath));
-    return Paths;
-}
-
 // What a medium or the memory ends has its reason; what came in before that is in.
 std::optional<ImportTally> ImportForm::ImportRows(Changes& Door, std::int32_t AlbumID,
                                                   frmProgress& Bar, const SlideEntered& Entered) {
     const PointerScope Working(Pointer::Hourglass);
     ImportTally Tally{.Of = mUi->flxSelected->Rows()};
-    Bar.setWindowTitle(QStringLiteral("Importing Slides ..."));
-    Bar.pgbLoadingProgress()->setMaximum(Tally.Of);
-    Bar.pgbLoadingProgress()->setValue(0);
-    Bar.Refresh();
+    BeginBar(Bar, Tally.Of);
     if (!GoesOn()) return std::nullopt;
     try {
         Tally.Entered.reserve(static_cast<size_t>(Tally.Of));
-        PictureImport Run(Door, *DBEngine, AlbumID, SelectedPaths(), {},
-                          [this] { return GoesOn(); });
+        PictureImport Run(Door, *DBEngine, AlbumID, Rows().SelectedPaths(),
+                          mUi->wdgOptions->Keeping(),
+                          [this, &Bar] { return GoesOn() && !Bar.IsStopped(); });
         if (!EnterRows(Run, Bar, Tally, Entered)) return std::nullopt;
     } catch (const std::exception& Problem) {
         Tally.Problem = ReasonOf(Problem);
@@ -232,24 +241,16 @@ bool ImportForm::GoesOn() const {
     return IsLoaded();
 }
 
-// The thumbnail was made when the file was read. One that could not be taken in since may be
-// another picture by now: its thumbnail is made from what is stored, when it is first wanted.
-PictureToImport ImportForm::PictureIn(int Row) const {
-    const FlexGrid& Grid = *mUi->flxSelected;
-    const bool WasLeftOut = Grid.CellData(Row, ColPath) != CellValue();
-    return {Grid.TextMatrix(Row, ColPath), Grid.TextMatrix(Row, ColCaption),
-            WasLeftOut ? QImage() : Grid.CellPicture(Row, ColPicture)};
-}
-
+// Stopped by the user, it ends between two pictures: what is in is in as a whole.
 bool ImportForm::EnterRows(PictureImport& Run, frmProgress& Bar, ImportTally& Tally,
                            const SlideEntered& Entered) {
-    for (int Row = 0; Row < Tally.Of; ++Row) {
-        const PictureToImport Picture = PictureIn(Row);
+    for (int Row = 0; Row < Tally.Of && !Bar.IsStopped(); ++Row) {
+        const PictureToImport Picture = Rows().Selected(Row);
         const auto Outcome = Run.EnterNext(Picture);
-        if (Outcome == PictureImport::Outcome::Ended) return false;
+        if (Outcome == PictureImport::Outcome::Ended) break;
         if (Outcome == PictureImport::Outcome::LeftOut) {
-            Tally.LeftOut << Picture.Path + QStringLiteral(": ") + Run.Reason();
-            mUi->flxSelected->SetCellData(Row, ColPath, 1.0);
+            Tally.LeftOut << ReadableText(Picture.Path) + QStringLiteral(": ") + Run.Reason();
+            Rows().MarkLeftOut(Row);
         } else {
             Tally.Entered.push_back(Row);
             Entered(Run.SlideID());
@@ -257,25 +258,24 @@ bool ImportForm::EnterRows(PictureImport& Run, frmProgress& Bar, ImportTally& Ta
         MoveBar(Bar, Row + 1, Tally.Of);
         if (!GoesOn()) return false;
     }
-    return true;
+    return IsLoaded();
+}
+
+void ImportForm::BeginBar(frmProgress& Bar, int Count) {
+    Bar.setWindowTitle(QStringLiteral("Importing Slides ..."));
+    Bar.SupportsStop(true);
+    Bar.ShowCount(0, Count);
+    Bar.Refresh();
 }
 
 void ImportForm::MoveBar(frmProgress& Bar, int Done, int Count) {
-    Bar.pgbLoadingProgress()->setValue(Done);
+    Bar.ShowCount(Done, Count);
     Bar.pgbLoadingProgress()->setToolTip(ImportProgressText(Done, Count));
     Bar.Refresh();
 }
 
 void ImportForm::DropEntered(const ImportTally& Tally) {
-    FlexGrid& Grid = *mUi->flxSelected;
-    if (static_cast<int>(Tally.Entered.size()) == Grid.Rows()) {
-        Grid.SetRows(0);
-    } else {
-        Grid.SetRedraw(false);
-        const auto Painted = qScopeGuard([&Grid] { Grid.SetRedraw(true); });
-        std::for_each(Tally.Entered.rbegin(), Tally.Entered.rend(),
-                      [&Grid](int Row) { Grid.RemoveItem(Row); });
-    }
+    Rows().DropSelected(Tally.Entered);
     UpdateButtons();
 }
 

@@ -1,16 +1,16 @@
-// The body that the picture import window and Quick Show share: it reads directories and found
-// files, shows each picture as a thumbnail in the grid of those not yet selected, lets the user
-// move pictures to the selected ones, and carries the import.
+// The body that the picture import window and Quick Show share: it has directories and found files
+// read (PictureReading) into the grid of those not yet selected (PictureRows), lets the user move
+// pictures to the selected ones and choose how they come in (ImportOptions), and carries the
+// import.
 #pragma once
 
-#include <QImage>
 #include <QStringList>
 #include <optional>
 
 #include "albums/modImport.h"
 #include "controls/forms/Form.h"
 #include "windows/import/ImportTally.h"
-#include "windows/lists/SlideReading.h"
+#include "windows/import/PictureReading.h"
 
 namespace neb {
 
@@ -39,7 +39,7 @@ class ImportForm : public Form {
     void SortFiles(QStringList& Paths);
 
     // The columns of both grids.
-    enum Column { ColPicture, ColCaption, ColPath, ColCount };
+    using enum PictureRows::Column;
 
   protected:
     explicit ImportForm(const WindowMemory& Memory);
@@ -68,8 +68,8 @@ class ImportForm : public Form {
     Answer<Announcement> MakeAlbum(Changes& Door, const QString& Name);
     using SlideEntered = std::function<void(std::int32_t SlideID)>;
     // Enters the selected pictures in the album and moves the bar; those that cannot be read are
-    // left out. The rows stay. Nothing when the window was closed meanwhile: the album may then be
-    // gone.
+    // left out, and the user may stop it. The rows stay. Nothing when the window was closed
+    // meanwhile: the album may then be gone.
     std::optional<ImportTally> ImportRows(Changes& Door, std::int32_t AlbumID, frmProgress& Bar,
                                           const SlideEntered& Entered);
     // Takes the rows of what is in out of the selection, so that nothing is entered twice.
@@ -86,32 +86,27 @@ class ImportForm : public Form {
         Importing,
         Closed
     };
-    // Where pictures come from: what is named, else the directory.
-    struct Source {
-        QString Directory;
-        bool Recurse = false;
-        QStringList Named;  // files, and directories with their separator
-    };
-    struct FoundPictures;
 
     void SetUpGrid(FlexGrid& Grid, const QString& EmptyText);
+    void CaptionEdited(FlexGrid& Grid, int Row, int Col);
+    void SetUpOptions();
     void SetUpButtons();
     void SetUpToolBar();
     void UpdateButtons();
     void MoveRows(FlexGrid& From, FlexGrid& To, bool All);
     void Close() { Unload(); }
 
-    bool IsBusy() const override { return mPhase != Phase::Waiting || mReading.IsReading(); }
+    bool IsBusy() const override { return mPhase != Phase::Waiting || mReading->IsReading(); }
     void FinishEdits() override;
     void Leave(Phase Done);
     void During(Phase What, const std::function<void()>& Do);
     bool HoldsWork() const;
     bool GoesOn() const;
-    PictureToImport PictureIn(int Row) const;
     bool EnterRows(PictureImport& Run, frmProgress& Bar, ImportTally& Tally,
                    const SlideEntered& Entered);
-    void MoveBar(frmProgress& Bar, int Done, int Count);
-    QStringList SelectedPaths() const;
+    static void BeginBar(frmProgress& Bar, int Count);
+    static void MoveBar(frmProgress& Bar, int Done, int Count);
+    PictureRows& Rows() { return mReading->Rows(); }
 
     void ImportAnotherDirectory();
     void ImportFoundGraphics();
@@ -119,15 +114,11 @@ class ImportForm : public Form {
     bool IsFree() const;
     void ReadDropped(const QStringList& Paths);
     void ReadPictures();
-    SlideReading::Order Reading(const Source& From);
-    QStringList CollectFiles(const Source& From);
-    void LoadPicture(FoundPictures& Found, const QString& Path);
-    void AddRow(const QString& Path, const QImage& Thumbnail);
 
     const WindowMemory& mMemory;
     Phase mPhase = Phase::Loading;
-    Source mSource;
-    SlideReading mReading{*this};
+    PictureReading::Source mSource;
+    std::unique_ptr<PictureReading> mReading;  // never null
 };
 
 }  // namespace neb

@@ -3,14 +3,8 @@
 #include <QApplication>
 #include <QDragEnterEvent>
 #include <QMimeData>
-#include <QProgressBar>
-#include <numeric>
 
-#include "albums/PictureOrder.h"
-#include "albums/modPictureFiles.h"
-#include "controls/forms/frmLoading.h"
 #include "controls/grid/FlexGrid.h"
-#include "pictures/ImgX.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/Services.h"
@@ -26,13 +20,6 @@
 namespace neb {
 namespace {
 
-// The thumbnail of a picture; a file that is gone by now has none. Throws
-// Fault.
-std::optional<QImage> ThumbnailOf(const QString& Path) {
-    if (!FileExists(Path)) return QImage();
-    return MakeThumbnail(Path);
-}
-
 bool IsReserved(const QString& Path) {
     return IsReservedForAlbums(Path, AppPath());
 }
@@ -41,91 +28,23 @@ QString AsDropped(const QString& Path) {
     return FolderExists(Path) ? WithSeparator(Path) : Path;
 }
 
-void StartBar(frmLoading& Loading, const QString& Title, int Max) {
-    Loading.setWindowTitle(Title);
-    Loading.pgbLoadingProgress()->setMaximum(Max);
-    Loading.pgbLoadingProgress()->setValue(0);
-    Loading.Refresh();
-}
-
 }  // namespace
-
-// The files of one read and their thumbnails, which are made ahead.
-struct ImportForm::FoundPictures {
-    QStringList Files;
-    std::optional<AheadQueue<QString, std::optional<QImage>>> Thumbnails;
-
-    SlideReading::KeyList Take(const QStringList& All) {
-        Files = All;
-        Thumbnails.emplace(std::vector<QString>(Files.begin(), Files.end()), &ThumbnailOf);
-        SlideReading::KeyList Places(static_cast<size_t>(Files.size()));
-        std::iota(Places.begin(), Places.end(), 0);
-        return Places;
-    }
-};
 
 // What is named is read once: stopped or not, the next read is of what is
 // chosen then.
 void ImportForm::ReadPictures() {
-    const Source From = mSource;
+    const PictureReading::Source From = mSource;
     mSource.Named.clear();
     if (From.Directory.isEmpty() && From.Named.isEmpty()) return;
-    mReading.Read(Reading(From));
+    const std::optional<ReadingReport> Report = mReading->Read(From);
     UpdateButtons();
-}
-
-SlideReading::Order ImportForm::Reading(const Source& From) {
-    const auto Found = std::make_shared<FoundPictures>();
-    return {
-        .Keys = [=, this] { return std::optional(Found->Take(CollectFiles(From))); },
-        .MakeRow = [=, this](std::int32_t Place, int) { LoadPicture(*Found, Found->Files[Place]); },
-        .Grids = {mUi->flxNonSelected, mUi->flxSelected},
-        .Shows = SlideReading::Bar::CountAndText,
-        .MayStop = true,
-        .KeysTitle = QStringLiteral("Reading Slides ...")};
-}
-
-QStringList ImportForm::CollectFiles(const Source& From) {
-    const KeepGoing GoOn = [this] { return mReading.Yield(); };
-    if (From.Named.isEmpty())
-        return ScanDirectory(WithSeparator(From.Directory), From.Recurse, GoOn);
-    QStringList Files;
-    for (const QString& Path : From.Named)
-        if (Path.endsWith(u'/'))
-            Files += ScanDirectory(Path, From.Recurse, GoOn);
-        else if (IsPictureName(Path))
-            Files += Path;
-    return Files;
-}
-
-// A picture that cannot be decoded leaves no row.
-void ImportForm::LoadPicture(FoundPictures& Found, const QString& Path) {
-    while (!Found.Thumbnails->Wait(10))
-        if (!mReading.Yield()) return;
-    try {
-        AddRow(Path, *Found.Thumbnails->Take());
-    } catch (const std::exception&) {
-        return;
-    }
-}
-
-void ImportForm::AddRow(const QString& Path, const QImage& Thumbnail) {
-    FlexGrid& Grid = *mUi->flxNonSelected;
-    const int Row = Grid.AddItem();
-    Grid.SetTextMatrix(Row, ColCaption, CaptionByName(Path));
-    Grid.SetTextMatrix(Row, ColPath, Path);
-    if (Thumbnail.isNull()) return;
-    Grid.SetCellPicture(Row, ColPicture, Thumbnail);
-    mReading.Window()->ShowPicture(Thumbnail);
+    if (!Report || !IsLoaded()) return;
+    mUi->wdgPassedOver->ShowReport(*Report);
+    if (Report->HasMissing()) Report->Tell();
 }
 
 void ImportForm::SortFiles(QStringList& Paths) {
-    const int Last = static_cast<int>(Paths.size());
-    if (mReading.Window()) StartBar(*mReading.Window(), QStringLiteral("Sorting Slides ..."), Last);
-    std::stable_sort(Paths.begin(), Paths.end(), [](const QString& A, const QString& B) {
-        return GetFileName(A) < GetFileName(B);
-    });
-    mReading.Yield();
+    mReading->SortFiles(Paths);
 }
 
 void ImportForm::DropRemaining() {

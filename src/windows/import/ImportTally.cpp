@@ -11,6 +11,12 @@ QString ImportTally::Text() const {
                    .arg(Problem)
                    .arg(Entered.size())
                    .arg(Of);
+    if (IsStopped())
+        Told = QObject::tr(
+                   "%1 of %2 slides were imported before you stopped.\nThe others stay "
+                   "selected.")
+                   .arg(Entered.size())
+                   .arg(Of);
     if (!LeftOut.isEmpty()) Told += QStringLiteral("\n%1 slides discarded.").arg(LeftOut.size());
     return Told;
 }

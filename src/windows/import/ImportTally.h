@@ -14,13 +14,16 @@ struct ImportTally {
     QStringList LeftOut;       // a line each: the file, and why
     QString Problem;           // what ended the import before its end; empty: nothing did
 
-    bool IsWhole() const { return LeftOut.isEmpty() && Problem.isEmpty(); }
+    // Whether the user stopped it before all pictures had been tried.
+    bool IsStopped() const { return Problem.isEmpty() && Tried() < Of; }
+    bool IsWhole() const { return Tried() == Of && LeftOut.isEmpty() && Problem.isEmpty(); }
     // Shows the box at the end of an import.
     void Tell() const;
     // The list of those left out, for a box that has room for it; empty: there are none.
     QString Details() const;
 
   private:
+    int Tried() const { return static_cast<int>(Entered.size()) + int(LeftOut.size()); }
     QString Text() const;
 };
 

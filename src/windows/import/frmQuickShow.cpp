@@ -89,14 +89,16 @@ bool frmQuickShow::MayMake() {
     return HasSelection() && HasFreeName();
 }
 
-// Pictures that could not be read are nothing to wait for where nobody can mend them.
+// Pictures that could not be read are nothing to wait for where nobody can mend them; those before
+// which the user stopped can come into the show by a further Save.
 bool frmQuickShow::MayPlay() const {
-    if (mLast.LeftOut.isEmpty()) return true;
-    return ShowBox({.Text = tr("%1 of %2 pictures have come into the slide show. %3 could not be "
-                               "read.\nDo you want to play the slide show as it is?")
-                                .arg(mLast.Entered.size())
-                                .arg(mLast.Of)
-                                .arg(mLast.LeftOut.size()),
+    if (mLast.IsWhole()) return true;
+    QString Counts = tr("%1 of %2 pictures have come into the slide show.")
+                         .arg(mLast.Entered.size())
+                         .arg(mLast.Of);
+    if (!mLast.LeftOut.isEmpty()) Counts += tr(" %1 could not be read.").arg(mLast.LeftOut.size());
+    if (mLast.IsStopped()) Counts += tr(" You stopped before the others.");
+    return ShowBox({.Text = Counts + tr("\nDo you want to play the slide show as it is?"),
                     .Title = windowTitle(),
                     .Icon = BoxIcon::Question,
                     .Buttons = BoxButtons::YesNo,

@@ -1,6 +1,7 @@
 #include "windows/lists/SlideGrids.h"
 
 #include "controls/grid/FlexGrid.h"
+#include "windows/lists/ListPictures.h"
 #include "windows/lists/SlideRows.h"
 #include "windows/lists/clsImageBuffer.h"
 
@@ -23,6 +24,7 @@ void SetUpSlideColumns(FlexGrid& Grid, bool WithPlace, bool Editable) {
     for (int Col : {int(Buffer::ColPath), int(Buffer::ColSlideID), int(ColOwnText)})
         Grid.SetColumn(Col, {.Hidden = true});
     Grid.SetKeyColumn(Buffer::ColSlideID);
+    new ListPictures(Grid);
 }
 
 void LoadSlideRow(FlexGrid& Grid, int Row, std::int32_t AlbumID, const clsNEBSlide& Slide,

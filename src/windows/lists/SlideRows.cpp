@@ -9,6 +9,7 @@
 #include "support/Fault.h"
 #include "support/Services.h"
 #include "support/modDEValidation.h"
+#include "windows/lists/ListPictures.h"
 #include "windows/lists/clsImageBuffer.h"
 
 namespace neb {
@@ -30,6 +31,7 @@ void SetSlideColumns(FlexGrid& Grid, bool EditCaptions) {
     Grid.SetColumn(clsImageBuffer::ColSlideID,
                    {.Width = Digits(6), .Align = Qt::AlignRight, .Heading = FlexGrid::tr("Slide")});
     Grid.SetColumn(SlideColUnused, {.Hidden = true});
+    new ListPictures(Grid);
 }
 
 void SetSlideKeys(FlexGrid& Grid, int Row, std::int32_t SlideID, const QString& Caption) {

@@ -8,14 +8,14 @@ namespace {
 
 constexpr int LookMs = 30;
 constexpr int AtOnce = 4;      // so that the first are soon seen
-constexpr int MostKept = 500;  // some 18 MB
+constexpr int MostKept = 500;  // some 18 MB; on a fine screen fewer
 
-QImage SmallPicture(const QString& Path) {
+QImage SmallPicture(const QString& Path, QSize Largest) {
     try {
         ImgX Picture;
-        Picture.LoadAtLeast(Path, SlidePictures::Largest);
+        Picture.LoadAtLeast(Path, Largest);
         const QSize Size = QSize(Picture.Width(), Picture.Height())
-                               .scaled(SlidePictures::Largest, Qt::KeepAspectRatio)
+                               .scaled(Largest, Qt::KeepAspectRatio)
                                .expandedTo({1, 1});
         Picture.Resize(Size.width(), Size.height(), 4);
         return Picture.Picture();
@@ -24,10 +24,10 @@ QImage SmallPicture(const QString& Path) {
     }
 }
 
-QHash<QString, QImage> ReadAll(const QStringList& Paths, const JobState& State) {
+QHash<QString, QImage> ReadAll(const QStringList& Paths, QSize Largest, const JobState& State) {
     QHash<QString, QImage> All;
     for (const QString& Each : Paths)
-        if (!State.Stop) All.insert(Each, SmallPicture(Each));
+        if (!State.Stop) All.insert(Each, SmallPicture(Each, Largest));
     return All;
 }
 
@@ -38,14 +38,16 @@ SlidePictures::SlidePictures(QObject* Owner) : QObject(Owner) {
     connect(&mLook, &QTimer::timeout, this, &SlidePictures::Look);
 }
 
-void SlidePictures::Ask(const QStringList& Paths) {
+void SlidePictures::Ask(const QStringList& Paths, double Scale) {
+    if (std::exchange(mScale, Scale) != Scale) Forget();
     if (mJob) return;
     QStringList Wanted;
     for (const QString& Each : Paths)
         if (!mPictures.contains(Each) && Wanted.size() < AtOnce) Wanted << Each;
     if (Wanted.isEmpty()) return;
-    mJob = std::make_unique<Job<Pictures>>(
-        [Wanted](JobState& State) { return ReadAll(Wanted, State); });
+    mJob = std::make_unique<Job<Pictures>>([Wanted, Pixels = Largest * Scale](JobState& State) {
+        return ReadAll(Wanted, Pixels, State);
+    });
     mLook.start();
 }
 
@@ -58,7 +60,7 @@ void SlidePictures::Forget() {
 void SlidePictures::Look() {
     if (!mJob->Wait(0)) return;
     mLook.stop();
-    if (mPictures.size() > MostKept) mPictures.clear();
+    if (mPictures.size() > MostKept / (mScale * mScale)) mPictures.clear();
     mPictures.insert(mJob->Take());
     mJob.reset();
     Q_EMIT Read();

@@ -130,7 +130,7 @@ void TimeLine::SetCurrent(int Index) {
 void TimeLine::AskPictures() {
     QStringList Paths;
     for (auto [Index, Last] = RowsSeen(); Index <= Last; ++Index) Paths << Row(Index).Picture;
-    mPictures->Ask(Paths);
+    mPictures->Ask(Paths, devicePixelRatioF());
 }
 
 void TimeLine::paintEvent(QPaintEvent*) {

@@ -1,5 +1,6 @@
 #include "controls/forms/frmProgress.h"
 
+#include <QLabel>
 #include <QPointer>
 #include <QProgressBar>
 #include <QPushButton>
@@ -7,6 +8,7 @@
 
 #include "controls/forms/TestForm.h"
 #include "controls/forms/frmLoading.h"
+#include "harness/HastyClock.h"
 #include "harness/ScriptedBoxes.h"
 #include "support/Fault.h"
 #include "support/Services.h"
@@ -112,6 +114,55 @@ TEST_F(ClosedAtAYield, AParentWindowOfAnOperationLivesUntilItsWorkHasReturned) {
     });
     EXPECT_TRUE(AliveAfterYield);
     EXPECT_TRUE(Window.isNull()) << "and no longer";
+}
+
+TEST_F(ProgressTest, CannotBeStoppedWhereTheWorkDoesNotAllowIt) {
+    Parent.OnOperation = [&] {
+        EXPECT_FALSE(Meter->findChild<QPushButton*>("cmdStop")->isVisible());
+        QTest::keyClick(Meter.get(), Qt::Key_Escape);
+        EXPECT_FALSE(Meter->IsStopped());
+        EXPECT_TRUE(Meter->isVisible());
+    };
+    Meter->ShowProgressMeter(Parent);
+    EXPECT_EQ(1, Parent.Operations);
+}
+
+TEST_F(ProgressTest, IsStoppedByItsButtonOrByEscWithoutAQuestion) {
+    for (const bool ByKey : {false, true}) {
+        const auto Shown = NewForm<frmProgress>();
+        Parent.OnOperation = [&] {
+            Shown->SupportsStop(true);
+            EXPECT_FALSE(Shown->IsStopped());
+            auto* Button = Shown->findChild<QPushButton*>("cmdStop");
+            if (ByKey)
+                QTest::keyClick(Shown.get(), Qt::Key_Escape);
+            else
+                QTest::mouseClick(Button, Qt::LeftButton);
+            EXPECT_TRUE(Shown->IsStopped());
+            EXPECT_FALSE(Button->isEnabled()) << "it is seen to have been pressed";
+            EXPECT_TRUE(Shown->isVisible()) << "until the work has ended";
+        };
+        Shown->ShowProgressMeter(Parent);
+    }
+    EXPECT_EQ(2, Parent.Operations);
+}
+
+TEST_F(ProgressTest, TellsTheCountAndTheTimeLeft) {
+    const HastyClock Clock;  // each look takes 10 ms
+    const auto Text = [&](const char* Label) {
+        return Meter->findChild<QLabel*>(Label)->text().toStdString();
+    };
+    Parent.OnOperation = [&] {
+        for (int I = 0; I <= 500; ++I) {
+            Meter->ShowCount(I, 5000);
+            Meter->Refresh();
+            EXPECT_TRUE(I > 100 || Text("lblTimeLeft").empty()) << I;
+        }
+        EXPECT_EQ("Picture 500 of 5,000", Text("lblCount"));
+        EXPECT_EQ("About 50 seconds left", Text("lblTimeLeft"));
+        EXPECT_EQ(5000, Meter->pgbLoadingProgress()->maximum());
+    };
+    Meter->ShowProgressMeter(Parent);
 }
 
 TEST_F(ProgressTest, RunsTheOperationOnceAndCloses) {

@@ -118,7 +118,8 @@ TEST_F(ImportMore, ReadsFilesAndFoldersThatAreDropped) {
     WriteFile(Pics / u"notes.txt"_s, "no picture");
     EXPECT_TRUE(
         Drop(*Window, {Pics / u"second"_s, Pics / u"notes.txt"_s, Pics / u"first/a.jpg"_s}));
-    EXPECT_EQ("a,b,a", CaptionsOf(NonSelected(*Window)));
+    EXPECT_EQ("a,a,b", CaptionsOf(NonSelected(*Window))) << "the row that was there, then by name";
+    EXPECT_EQ("1 file was passed over.", In<QLabel>(*Window, "lblPassedOver").text().toStdString());
     EXPECT_TRUE(In<QPushButton>(*Window, "cmdMoveRightAll").isEnabled());
 }
 

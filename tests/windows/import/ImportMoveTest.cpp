@@ -42,7 +42,7 @@ TEST_F(ImportMove, OneTakesTheSelectedRowsToTheEnd) {
     Press(*Window, "cmdMoveRightOne");
     EXPECT_EQ("b,e", CaptionsOf(*Left));
     EXPECT_EQ("d,a,c", CaptionsOf(*Right));
-    EXPECT_EQ(ThumbnailSize, Right->CellPicture(0, ImportForm::ColPicture).size());
+    EXPECT_EQ(ThumbnailSize, Right->ShownPicture(0, ImportForm::ColPicture).Picture.size());
     EXPECT_EQ(Pics / u"d.jpg"_s, Right->TextMatrix(0, ImportForm::ColPath));
 }
 

@@ -18,7 +18,8 @@ TEST_F(ImportRead, ShowsCaptionPathAndThumbnailOfEachPicture) {
     EXPECT_EQ("A.b,b", CaptionsOf(Grid));
     EXPECT_EQ(QStringList({Pics / u"A.b.jpg"_s, Pics / u"b.png"_s}),
               Column(Grid, ImportForm::ColPath));
-    EXPECT_EQ(ThumbnailSize, Grid.CellPicture(0, ImportForm::ColPicture).size());
+    EXPECT_EQ(ThumbnailSize, Grid.ShownPicture(0, ImportForm::ColPicture).Picture.size());
+    EXPECT_TRUE(Grid.CellPicture(0, ImportForm::ColPicture).isNull()) << "it lies in no row";
     EXPECT_EQ("Picture Import Filter - Garden", Window->windowTitle().toStdString());
     EXPECT_FALSE(Window->Aborted());
     EXPECT_TRUE(Grid.ColHidden(ImportForm::ColPath));
@@ -59,7 +60,7 @@ TEST_F(ImportRead, OpensEmptyWhenOnlySubdirectoriesHavePictures) {
     Window->Unload();
 }
 
-TEST_F(ImportRead, DropsUnreadableFilesInSilence) {
+TEST_F(ImportRead, NamesThePicturesThatCannotBeReadAtItsEnd) {
     MakePictures(2);
     WriteFile(Pics / u"aa.jpg"_s, "no picture");
     WriteFile(Pics / u"ab.png"_s, {});
@@ -67,8 +68,15 @@ TEST_F(ImportRead, DropsUnreadableFilesInSilence) {
     Huge += QByteArray::fromHex("ffffff00000000003600000028000000");
     Huge += QByteArray::fromHex("60ea000060ea0000") + QByteArray::fromHex("0100180000000000");
     WriteFile(Pics / u"huge.bmp"_s, Huge + QByteArray(20, '\0') + QByteArray(4096, '\x7f'));
+    Boxes.Expect(u"3 pictures could not be read."_s);
     const auto Window = LoadFilter(0, Pics.Path());
     EXPECT_EQ("a,b", CaptionsOf(NonSelected(*Window)));
+    const QStringList Named = Boxes.Last().Details.split(u'\n');
+    ASSERT_EQ(4, Named.size()) << Boxes.Last().Details.toStdString();
+    EXPECT_EQ((Pics / u"aa.jpg"_s) + u": The file is not a picture that this program can read."_s,
+              Named[1]);
+    EXPECT_TRUE(Named[2].startsWith(Pics / u"ab.png"_s)) << Named[2].toStdString();
+    EXPECT_TRUE(Named[3].startsWith(Pics / u"huge.bmp"_s)) << Named[3].toStdString();
     Window->Unload();
 }
 
@@ -77,7 +85,7 @@ TEST_F(ImportRead, TakesAPictureForWhatItIsNotForItsName) {
     RenameFile(Pics / u"a.png"_s, Pics / u"a.jpg"_s);
     const auto Window = LoadFilter(0, Pics.Path());
     ASSERT_EQ(1, NonSelected(*Window).Rows());
-    EXPECT_FALSE(NonSelected(*Window).CellPicture(0, ImportForm::ColPicture).isNull());
+    EXPECT_FALSE(NonSelected(*Window).ShownPicture(0, ImportForm::ColPicture).Picture.isNull());
     Window->Unload();
 }
 

@@ -1,6 +1,7 @@
 // Pictures that a Quick Show cannot take in: the show is made of the others, its places have no
 // holes, and what was left out can come into it later.
 #include "IntakeHarness.h"
+#include "controls/forms/frmProgress.h"
 #include "controls/picture/XShow.h"
 #include "windows/import/frmQuickShow.h"
 #include "windows/show/frmSlideShowProjector.h"
@@ -66,6 +67,17 @@ class QuickShowLeftOut : public Intake {
         }
         EXPECT_EQ(Album.Slides.size(), static_cast<size_t>(All.size()));
         return All.join(u' ').toStdString();
+    }
+    // Presses Stop when so many pictures have come in.
+    static void StopAt(int Count) {
+        SetDoEventsHook([Count, Done = false]() mutable {
+            const auto* Progress = Open<frmProgress>();
+            if (Done || !Progress || Progress->windowTitle() != u"Importing Slides ..." ||
+                Progress->pgbLoadingProgress()->value() != Count)
+                return;
+            Done = true;
+            Press(*Progress, "cmdStop");
+        });
     }
     std::string Chosen() { return CaptionsOf(Selected(*Window)); }
 
@@ -153,6 +165,30 @@ TEST_F(QuickShowLeftOut, AFullDiskLaterLeavesTheShowThatIsThere) {
     EXPECT_EQ("1:a 2:d 3:b", Places());
     SaveAndLeaveTheShow();
     EXPECT_EQ("1:a 2:d 3:b 4:c", Places());
+}
+
+TEST_F(QuickShowLeftOut, AfterAStopAreTheRestWhichComesIntoTheSameShow) {
+    StopAt(2);
+    Boxes.Expect(
+        u"2 of 4 pictures have come into the slide show. You stopped before the others."
+        "\nDo you want to play the slide show as it is?"_s,
+        u"Quick Show"_s, BoxIcon::Question, BoxAnswer::No);
+    Save();
+    ASSERT_TRUE(Window->IsLoaded());
+    EXPECT_EQ("c,d", Chosen());
+    EXPECT_EQ("1:a 2:b", Places());
+    SaveAndLeaveTheShow();
+    EXPECT_EQ("1:a 2:b 3:c 4:d", Places());
+}
+
+TEST_F(QuickShowLeftOut, AStopBeforeTheFirstPictureMakesNoShow) {
+    StopAt(0);
+    Boxes.Expect(u"0 of 4 slides were imported before you stopped.\nThe others stay selected."_s);
+    Save();
+    EXPECT_TRUE(Engine.Albums.empty());
+    EXPECT_TRUE(ListDir(Db / u"Albums"_s).empty());
+    EXPECT_TRUE(Others->Heard.isEmpty());
+    EXPECT_EQ("a,b,c,d", Chosen());
 }
 
 TEST_F(QuickShowLeftOut, MakeANewShowWhereTheFirstHasBeenDeleted) {

@@ -1,0 +1,41 @@
+// The line of words under a progress bar: which picture of how many, and how much time is left. The
+// two progress windows have one each.
+#pragma once
+
+#include <QWidget>
+#include <memory>
+
+#include "support/work/TimeLeft.h"
+
+QT_BEGIN_NAMESPACE
+class QLabel;
+class QProgressBar;
+QT_END_NAMESPACE
+
+namespace neb {
+
+class ProgressWords : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit ProgressWords(QWidget* Parent = nullptr);
+
+    // "Picture 500 of 1,000"; for work that counts pictures.
+    void ShowCount(int Number, int Count);
+    // The time left, by what the bar shows at this moment.
+    void Follow(const QProgressBar& Bar);
+    // As TimeLeft::Skip.
+    void Skip(double Ms) { mTime.Skip(Ms); }
+
+  protected:
+    void changeEvent(QEvent* Event) override;
+
+  private:
+    void KeepHeight();
+
+    QLabel* mCount;
+    QLabel* mLeft;
+    TimeLeft mTime;
+};
+
+}  // namespace neb
