@@ -1,9 +1,11 @@
 // Every format and kind of pixel gives the same motif.
+#include "harness/WithoutExtraFormats.h"
 #include "pictures/Pictures.h"
 #include "pictures/formats/PictureFaults.h"
 #include "support/work/AheadQueue.h"
 
 using namespace neb;
+using harness::WithoutExtraFormats;
 using namespace neb::tests;
 
 namespace {
@@ -156,14 +158,12 @@ TEST(ImgXFormats, AMetafileIsDrawnFromTheEnhancedOneItCarries) {
     EXPECT_EQ(Loaded(harness::DataFile("draw.emf")).Picture(), Carried);
 }
 
-TEST(ImgXFormats, FormatsThatAreNotListedAreOffUnlessSwitchedOn) {
+TEST(ImgXFormats, FormatsThatCameLaterCanBeSwitchedOff) {
     const harness::TempFolder Folder;
     const QString File = Folder / QStringLiteral("motif.webp");
     ASSERT_TRUE(Motif().save(File, "WEBP", 100));
-    EXPECT_EQ(FaultUnknownPicture, FaultOf(File));
-    SetExtraFormats(true);
     ExpectFields(Loaded(File).Picture(), Red, Green, Blue, Grey, 3);
-    SetExtraFormats(false);
+    const WithoutExtraFormats Off;
     EXPECT_EQ(FaultUnknownPicture, FaultOf(File));
 }
 
