@@ -80,7 +80,6 @@ QByteArray ProfileOf(const Handle& Picture) {
 Pixels Decode(const Handle& Picture, bool Alpha) {
     const Options How(heif_decoding_options_alloc());
     How->convert_hdr_to_8bit = 1;
-    How->strict_decoding = 1;
     heif_image* Decoded = nullptr;
     Check(heif_decode_image(Picture.get(), &Decoded, heif_colorspace_RGB,
                             Alpha ? heif_chroma_interleaved_RGBA : heif_chroma_interleaved_RGB,
