@@ -12,6 +12,22 @@ QByteArray WithoutMark(QByteArrayView Block) {
     return (Block.startsWith(ExifMark) ? Block.sliced(ExifMark.size()) : Block).toByteArray();
 }
 
+struct Box {
+    qint64 Header, Length;  // of both together; all zero where there is none, or one without sense
+};
+
+Box BoxAt(const ByteView& Boxes, qint64 At) {
+    if (!Boxes.Has(At, 8)) return {0, 0};
+    const quint32 Short = Boxes.U32(At, true);
+    const bool Long = Short == 1;
+    const qint64 Header = Long ? 16 : 8;
+    // A file beyond four gigabytes is not read at all.
+    const qint64 Length = Long         ? (Boxes.U32(At + 8, true) ? 0 : Boxes.U32(At + 12, true))
+                          : Short == 0 ? Boxes.Size() - At
+                                       : Short;
+    return Length < Header ? Box{0, 0} : Box{Header, Length};
+}
+
 // PNG got a chunk of its own for EXIF only late; before, and by some programs still, it stands in a
 // text.
 QByteArray ExifOfPng(const ByteView& Png) {
@@ -51,20 +67,18 @@ QByteArrayView WebpChunk(const ByteView& Webp, QByteArrayView Name) {
 }
 
 QByteArrayView FileBox(const ByteView& Boxes, QByteArrayView Type, QByteArrayView Mark) {
-    for (qint64 At = 0; Boxes.Has(At, 8);) {
-        const quint32 Short = Boxes.U32(At, true);
-        const bool Long = Short == 1;
-        const qint64 Header = Long ? 16 : 8;
-        // A file beyond four gigabytes is not read at all.
-        const qint64 Length = Long ? (Boxes.U32(At + 8, true) ? 0 : Boxes.U32(At + 12, true))
-                              : Short == 0 ? Boxes.Size() - At
-                                           : Short;
-        if (Length < Header) break;
-        const QByteArrayView Body = Boxes.Part(At + Header, Length - Header);
+    qint64 At = 0;
+    for (Box Is = BoxAt(Boxes, At); Is.Header > 0; Is = BoxAt(Boxes, At += Is.Length)) {
+        const QByteArrayView Body = Boxes.Part(At + Is.Header, Is.Length - Is.Header);
         if (Boxes.Is(At + 4, Type) && Body.startsWith(Mark)) return Body.sliced(Mark.size());
-        At += Length;
     }
     return {};
+}
+
+bool BoxesAreWhole(const ByteView& Boxes) {
+    qint64 At = 0;
+    for (Box Is = BoxAt(Boxes, At); Is.Header > 0; Is = BoxAt(Boxes, At)) At += Is.Length;
+    return At == Boxes.Size();
 }
 
 QByteArray ExifBlockOf(const QByteArray& File) {

@@ -16,6 +16,8 @@ QByteArrayView WebpChunk(const ByteView& Webp, QByteArrayView Name);
 // What stands behind the mark in the first box of that type that begins with it; the uppermost
 // level of boxes alone.
 QByteArrayView FileBox(const ByteView& Boxes, QByteArrayView Type, QByteArrayView Mark);
+// Whether the file ends with the end of a box.
+bool BoxesAreWhole(const ByteView& Boxes);
 
 // The EXIF block of a JPEG, PNG, WebP, JPEG 2000 or TIFF file, from its byte order mark on; empty
 // when there is none. That of a TIFF is the whole file.

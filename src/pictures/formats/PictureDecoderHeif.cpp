@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "pictures/formats/CodedColours.h"
+#include "pictures/formats/FileBlocks.h"
 #include "pictures/formats/PictureColour.h"
 #include "pictures/formats/PictureFaults.h"
 #include "pictures/formats/PictureFormats.h"
@@ -104,9 +105,7 @@ QImage Fetch(const Handle& Picture) {
     return Borrowed.convertToFormat(Alpha ? QImage::Format_ARGB32 : QImage::Format_RGB32);
 }
 
-}  // namespace
-
-DecodedPicture DecodeHeif(const PictureSource& Source) {
+DecodedPicture DecodeFirst(const PictureSource& Source) {
     const Context File = Open(Source.Bytes);
     const Handle First = FirstPicture(File);
     const QSize Size(heif_image_handle_get_width(First.get()),
@@ -116,6 +115,15 @@ DecodedPicture DecodeHeif(const PictureSource& Source) {
     QImage Picture = ToScreenColours(Fetch(First), ProfileOf(First));
     const QSize Full = Picture.size();
     return {std::move(Picture), Full};
+}
+
+}  // namespace
+
+DecodedPicture DecodeHeif(const PictureSource& Source) try {
+    return DecodeFirst(Source);
+} catch (const Fault&) {
+    if (!BoxesAreWhole(Source.Bytes)) ThrowEndsEarly();  // the library has other words for it
+    throw;
 }
 
 }  // namespace neb

@@ -73,7 +73,8 @@ class JpegReader {
     bool mTooLong = false;
 };
 
-JpegReader::JpegReader(const PictureSource& Source) : mSource(Source), mOrientation(OrientationOf(Source.Bytes)) {
+JpegReader::JpegReader(const PictureSource& Source)
+    : mSource(Source), mOrientation(OrientationOf(Source.Bytes)) {
     mInfo.err = jpeg_std_error(&mErrors);
     mErrors.error_exit = OnError;
     mErrors.emit_message = OnMessage;

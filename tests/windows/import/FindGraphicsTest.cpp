@@ -6,6 +6,8 @@
 #include <QListWidget>
 
 #include "FindGraphicsHarness.h"
+#include "albums/GraphicsSearch.h"
+#include "harness/WithoutExtraFormats.h"
 #include "harness/WithoutPrivileges.h"
 
 namespace neb {
@@ -20,11 +22,37 @@ TEST_F(FindGraphics, OffersReadyDrivesThenAllOfThemThenBrowse) {
     EXPECT_EQ(QStringList({Pics / u"one"_s, u"All Drives"_s, u"Browse"_s}), PathTexts());
     EXPECT_EQ("All Drives", Path().currentText().toStdString());
     EXPECT_EQ("Find Graphics", Window->windowTitle().toStdString());
-    EXPECT_EQ(12, In<QListWidget>(*Window, "lstTypeFilter").selectedItems().size());
+    EXPECT_EQ(GraphicTypes().size(),
+              In<QListWidget>(*Window, "lstTypeFilter").selectedItems().size());
     EXPECT_EQ("0 Results", Label("lblResults"));
     EXPECT_EQ("0 Selected", Label("lblSelected"));
     EXPECT_FALSE(Button("cmdCancel").isEnabled());
     EXPECT_TRUE(Button("cmdImport").isEnabled());
+}
+
+TEST_F(FindGraphics, OffersTheKindsOfTodayBehindTheOthersUnlessTheyAreSwitchedOff) {
+    const auto Entries = [this] {
+        QStringList Texts;
+        const auto& Types = In<QListWidget>(*Window, "lstTypeFilter");
+        for (int I = 0; I < Types.count(); ++I) Texts << Types.item(I)->text();
+        return Texts.join(u' ').toStdString();
+    };
+    const std::string Before = "BMP EMF JPEG/JPG PCD PCX PNG PSD TGA TIFF/TIF TLA WBMP WMF";
+    Make({"a.heic", "b.HIF", "c.avif", "d.jpg"});
+    Show();
+    EXPECT_EQ(Before + " AVIF GIF HEIC/HEIF/HIF JP2/J2K/JPF/JPX MPO WEBP", Entries());
+    Search();
+    EXPECT_EQ("a.heic,b.HIF,c.avif,d.jpg", Names());
+    auto& Types = In<QListWidget>(*Window, "lstTypeFilter");
+    Types.clearSelection();
+    Types.item(14)->setSelected(true);
+    Search();
+    EXPECT_EQ("a.heic,b.HIF", Names());
+    const WithoutExtraFormats Off;
+    Show();
+    EXPECT_EQ(Before, Entries());
+    Search();
+    EXPECT_EQ("d.jpg", Names());
 }
 
 TEST_F(FindGraphics, ListsNamePathSizeAndDate) {
