@@ -52,6 +52,9 @@ TEST(XmpPacket, GivesAttributesElementsAndNothingElse) {
     EXPECT_EQ("", XmpValue(Title, XmpDublinCore, u"subject").toStdString());
     EXPECT_EQ("", XmpValue("<a><b", XmpDublinCore, u"title").toStdString());
     EXPECT_EQ("", XmpValue({}, XmpDublinCore, u"title").toStdString());
+    const QByteArray Entity =
+        "<!DOCTYPE a [<!ENTITY b 'ccc'>]>" + QByteArray(Title).replace("&amp;", "&b;");
+    EXPECT_EQ("", XmpValue(Entity, XmpDublinCore, u"title").toStdString());
 }
 
 TEST(XmpPacket, CutFilesHaveNone) {

@@ -72,7 +72,9 @@ QByteArray XmpPacketOf(const QByteArray& File) {
 QString XmpValue(const QByteArray& Packet, QStringView Namespace, QStringView Name) {
     QXmlStreamReader Xml(Packet);
     while (!Xml.atEnd()) {
-        if (Xml.readNext() != QXmlStreamReader::StartElement) continue;
+        const auto Token = Xml.readNext();
+        if (Token == QXmlStreamReader::DTD) return {};  // it could spell out a text of any length
+        if (Token != QXmlStreamReader::StartElement) continue;
         const auto Attribute = Xml.attributes().value(Namespace.toString(), Name.toString());
         if (!Attribute.trimmed().isEmpty()) return Attribute.trimmed().toString();
         if (Xml.namespaceUri() != Namespace || Xml.name() != Name) continue;
