@@ -345,8 +345,8 @@ TEST(WmfPlayer, WithoutHeaderAndWindowTheDrawingIsTheSize) {
 }
 
 TEST(WmfPlayer, EnlargedBitmapsKeepTheirSquares) {
-    Wmf File;
-    File.Add(0x0B41, {0x20, 0xCC, 2, 2, 0, 0, 100, 200, 0, 0}, SmallDib);
+    Wmf File = Filled(Qt::white);
+    File.Box(0, 0, 200, 100).Add(0x0B41, {0x20, 0xCC, 2, 2, 0, 0, 100, 200, 0, 0}, SmallDib);
     const QImage Picture = File.Played();
     ExpectAt(Picture, 97, 20, Qt::blue);
     ExpectAt(Picture, 103, 20, Qt::cyan);
