@@ -52,17 +52,12 @@ QString TypeText(const MediaType& Type) {
     return Endings.join(u'/').toUpper();
 }
 
-QStringList TypeTexts() {
+}  // namespace
+
+QStringList GraphicTypes() {
     QStringList Texts;
     for (const MediaType& Type : PictureTypes()) Texts << TypeText(Type);
     return Texts;
-}
-
-}  // namespace
-
-const QStringList& GraphicTypes() {
-    static const QStringList Types = TypeTexts();
-    return Types;
 }
 
 bool IsSelectedType(const QString& Extension, const QStringList& Selected) {

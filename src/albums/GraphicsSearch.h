@@ -14,8 +14,8 @@
 
 namespace neb {
 
-// The entries of the list of types, such as "JPEG/JPG".
-const QStringList& GraphicTypes();
+// The entries of the list of types, such as "JPEG/JPG", for the kinds that count now.
+QStringList GraphicTypes();
 // Whether an upper-cased extension with its period is one of the selected entries.
 bool IsSelectedType(const QString& Extension, const QStringList& Selected);
 // What a file name filter that somebody typed is taken for: a wild-card mask.

@@ -20,9 +20,11 @@
 #include "program/UnstoredNotice.h"
 #include "program/Workspace.h"
 #include "program/modMachineSettings.h"
+#include "settings/SettingKeys.h"
 #include "settings/clsFileSystem.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
+#include "support/MediaTypes.h"
 #include "support/ReasonOf.h"
 #include "support/Services.h"
 #include "support/files/modHostFiles.h"
@@ -159,6 +161,7 @@ bool frmNEBSlideShow::Form_Load(const CommandLine& Line) {
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/neb/neb-slide-show.svg")));
     mWorkspace->viewport()->update();
     const PointerScope Working(Pointer::Hourglass);
+    IgnoringFaults([] { SetExtraFormats(ReadFlag(OpenSettings(), Setting::ExtraFormats)); });
     if (!LoadDatabase()) {
         mStage = Stage::Empty;
         return false;

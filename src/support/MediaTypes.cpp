@@ -1,9 +1,14 @@
 #include "support/MediaTypes.h"
 
+#include <algorithm>
+#include <atomic>
+
 #include "support/modFUFL.h"
 
 namespace neb {
 namespace {
+
+std::atomic<bool> ExtraFormats = true;
 
 // clang-format off
 constexpr MediaType Pictures[] = {
@@ -19,7 +24,15 @@ constexpr MediaType Pictures[] = {
     {"TLA Images", "tla"},
     {"Wireless Bitmap Images", "wbmp"},
     {"Windows Meta Files", "wmf"},
+    {"AVIF Images", "avif", true},
+    {"GIF Images", "gif", true},
+    {"HEIC Images", "heic heif hif", true},
+    {"JPEG 2000 Images", "jp2 j2k jpf jpx", true},
+    {"Multi-Picture Images", "mpo", true},
+    {"WebP Images", "webp", true},
 };
+constexpr auto FirstExtra = std::find_if(std::begin(Pictures), std::end(Pictures),
+                                         [](const MediaType& Type) { return Type.Extra; });
 
 constexpr MediaType Sounds[] = {
     {"Wave Audio Files", "wav"},
@@ -61,13 +74,22 @@ QStringList FiltersOf(std::span<const MediaType> Types) {
 
 }  // namespace
 
+void SetExtraFormats(bool On) {
+    ExtraFormats = On;
+}
+
+bool ExtraFormatsAreOn() {
+    return ExtraFormats;
+}
+
 std::span<const MediaType> PictureTypes() {
-    return Pictures;
+    return {std::begin(Pictures), ExtraFormats ? std::end(Pictures) : FirstExtra};
 }
 
 const QStringList& PictureExtensions() {
     static const QStringList All = ExtensionsOf(Pictures);
-    return All;
+    static const QStringList Plain = ExtensionsOf({std::begin(Pictures), FirstExtra});
+    return ExtraFormats ? All : Plain;
 }
 
 bool IsPictureName(const QString& Name) {
@@ -84,7 +106,7 @@ bool IsSoundName(const QString& Name) {
 }
 
 QString PictureFilters() {
-    QStringList Filters = FiltersOf(Pictures);
+    QStringList Filters = FiltersOf(PictureTypes());
     Filters << QStringLiteral("All Graphics Files|") + AllMasks(PictureExtensions());
     return Filters.join(u'|');
 }

@@ -12,12 +12,19 @@ namespace neb {
 struct MediaType {
     const char* Name;        // as a file dialog calls it
     const char* Extensions;  // lower case, the usual one first, separated by blanks
+    bool Extra = false;      // counts only while the extra formats are on
     QStringList Endings() const { return QString::fromLatin1(Extensions).split(u' '); }
 };
 
+// Whether files of the kinds that came later (HEIC, AVIF, WebP, GIF, JPEG 2000, MPO) are pictures,
+// by their names and by their content. On at start; for the whole program.
+void SetExtraFormats(bool On);
+bool ExtraFormatsAreOn();
+
+// Those that count now, the extra ones last; so with all that follows.
 std::span<const MediaType> PictureTypes();
 
-// ".BMP" to ".WMF", and ".AIF" to ".WAV", sorted.
+// ".AVIF" to ".WMF", and ".AIF" to ".WAV", sorted.
 const QStringList& PictureExtensions();
 const QStringList& SoundExtensions();
 // Whether a name, or the name at the end of a path, ends in one of the extensions, in any case.

@@ -10,6 +10,7 @@
 #include "albums/GraphicsSearch.h"
 #include "albums/modPictureFiles.h"
 #include "harness/TempFolder.h"
+#include "harness/WithoutExtraFormats.h"
 #include "harness/WithoutPrivileges.h"
 #include "support/files/HostNames.h"
 #include "windows/WindowSteps.h"
@@ -66,6 +67,7 @@ TEST(FindGraphicsFilter, IsMadeAMask) {
 }
 
 TEST(FindGraphicsTypes, MatchTheirExtensions) {
+    const harness::WithoutExtraFormats Off;
     EXPECT_EQ("BMP EMF JPEG/JPG PCD PCX PNG PSD TGA TIFF/TIF TLA WBMP WMF",
               GraphicTypes().join(u' ').toStdString());
     for (const char* Known : {".BMP", ".JPEG", ".JPG", ".TIFF", ".TIF", ".WBMP", ".TLA"})
@@ -97,6 +99,7 @@ TEST_F(FindGraphicsSearch, WalksDepthFirstADirectorysOwnFilesBeforeThoseBelow) {
 }
 
 TEST_F(FindGraphicsSearch, MatchesNamesCaseBlindAndWalksEverySubdirectory) {
+    const harness::WithoutExtraFormats Off;
     for (const char* Name :
          {"PHOTO1.jpg", "photograph.png", "myphoto.jpg", "sub/photo.gif", "sub/deep/Photo.Tif"})
         Make(QString::fromLatin1(Name));

@@ -7,6 +7,7 @@
 #include "albums/GraphicsSearch.h"
 #include "albums/modPictureFiles.h"
 #include "harness/TempFolder.h"
+#include "harness/WithoutExtraFormats.h"
 #include "harness/WithoutPrivileges.h"
 #include "support/files/HostNames.h"
 #include "support/files/modHostFiles.h"
@@ -45,6 +46,7 @@ class PictureFiles : public ::testing::Test {
 };
 
 TEST_F(PictureFiles, CountAsPicturesByTheirLastExtensionInAnyCase) {
+    const harness::WithoutExtraFormats Off;
     for (const char* Name :
          {"a.bmp", "a.EMF", "a.jpeg", "a.JPG", "a.pcd", "a.Pcx", "a.png", "a.psd", "a.tga", "a.tif",
           "a.TIFF", "a.tla", "a.wbmp", "a.wmf", "a.b.jpg", ".jpg"})
@@ -54,6 +56,7 @@ TEST_F(PictureFiles, CountAsPicturesByTheirLastExtensionInAnyCase) {
 }
 
 TEST_F(PictureFiles, AreTheSameForCountingForFindGraphicsAndForTheFileDialog) {
+    const harness::WithoutExtraFormats Off;
     QStringList Found, Offered;
     for (const QString& Each : GraphicTypes().join(u'/').split(u'/')) Found << u'.' + Each;
     Found.sort();
@@ -106,6 +109,7 @@ TEST_F(PictureFiles, NumberNoneInADirectoryThatHasVanished) {
 }
 
 TEST_F(PictureFiles, AreCountedByTheSameNamesThatTheImportTakes) {
+    const harness::WithoutExtraFormats Off;
     for (const char* Name :
          {"a.jpg", "b.JPEG", "c.wBmp",
           "d.t\xC4\xB1"

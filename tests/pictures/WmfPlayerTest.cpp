@@ -260,3 +260,97 @@ TEST(WmfPlayer, AFileThatDoesNotReachItsEndMarkIsDamaged) {
     WriteFile(File, Bytes.chopped(6));
     EXPECT_EQ(FaultEndsEarly, FaultOf(File));
 }
+
+// Black ink on white, from the first pixel to the last.
+TEST(WmfPlayer, TheRightmostAndTheLowestLineAreWholePixels) {
+    Wmf File;
+    File.Pen(Qt::black).Select(0);
+    File.Add(0x0214, {0, 199}).Add(0x0213, {99, 199}).Add(0x0214, {99, 0}).Add(0x0213, {99, 199});
+    File.Add(0x0214, {0, 0}).Add(0x0213, {0, 199}).Add(0x0214, {0, 0}).Add(0x0213, {99, 0});
+    const QImage Picture = File.Played();
+    ASSERT_EQ(QSize(200, 100), Picture.size());
+    for (const QPoint Edge : {QPoint(0, 50), {199, 50}, {100, 0}, {100, 99}})
+        ExpectAt(Picture, Edge.x(), Edge.y(), Qt::black);
+    for (const QPoint Inside : {QPoint(1, 50), {198, 50}, {100, 1}, {100, 98}})
+        ExpectAt(Picture, Inside.x(), Inside.y(), Qt::white);
+}
+
+TEST(WmfPlayer, ABoxEndsWithTheLastPixelBeforeItsRightAndLowerEdge) {
+    Wmf File;
+    File.Pen(Qt::black).Brush(Qt::red).Select(0).Select(1).Box(0, 0, 200, 100);
+    const QImage Picture = File.Played();
+    ASSERT_EQ(QSize(200, 100), Picture.size());
+    for (const QPoint Edge : {QPoint(0, 50), {199, 50}, {100, 0}, {100, 99}})
+        ExpectAt(Picture, Edge.x(), Edge.y(), Qt::black);
+    for (const QPoint Inside : {QPoint(1, 50), {198, 50}, {100, 1}, {100, 98}})
+        ExpectAt(Picture, Inside.x(), Inside.y(), Qt::red);
+}
+
+TEST(WmfPlayer, ALineOnTheVeryEdgeOfTheFrameIsNotCut) {
+    Wmf File = Filled(Qt::red);
+    File.Box(0, 0, 200, 100).Pen(Qt::black).Select(2);
+    File.Add(0x0214, {0, 200}).Add(0x0213, {100, 200}).Add(0x0213, {100, 0});
+    const QImage Picture = File.Played();
+    ASSERT_EQ(QSize(201, 101), Picture.size());
+    ExpectAt(Picture, 200, 50, Qt::black);
+    ExpectAt(Picture, 100, 100, Qt::black);
+    ExpectAt(Picture, 199, 99, Qt::red);
+}
+
+TEST(WmfPlayer, WhatReachesALittleBeyondTheFrameIsSeenWhole) {
+    Wmf File = Filled(Qt::red);
+    File.Box(50, 50, 208, 104);
+    const QImage Picture = File.Played();
+    ASSERT_EQ(QSize(208, 104), Picture.size());
+    ExpectAt(Picture, 207, 103, Qt::red);
+    ExpectAt(Picture, 50, 50, Qt::red);
+    ExpectAt(Picture, 49, 49, Qt::white);
+    Wmf Before = Filled(Qt::red);
+    const QImage Left = Before.Box(-8, -4, 100, 50).Played();
+    ASSERT_EQ(QSize(208, 104), Left.size());
+    ExpectAt(Left, 0, 0, Qt::red);
+    ExpectAt(Left, 107, 53, Qt::red);
+    ExpectAt(Left, 108, 54, Qt::white);
+}
+
+TEST(WmfPlayer, ADrawingBesideItsFrameIsThePictureInItsPlace) {
+    Wmf File = Filled(Qt::red);
+    File.Box(60, 40, 250, 130).Brush(Qt::blue).Select(2).Box(240, 120, 250, 130);
+    const QImage Picture = File.Played();
+    ASSERT_EQ(QSize(190, 90), Picture.size());
+    ExpectAt(Picture, 0, 0, Qt::red);
+    ExpectAt(Picture, 189, 89, Qt::blue);
+    ExpectAt(Picture, 180, 80, Qt::blue);
+    ExpectAt(Picture, 179, 79, Qt::red);
+}
+
+TEST(WmfPlayer, WhatIsNotSeenDoesNotStretchThePicture) {
+    const auto SizeWith = [](Wmf File) { return File.Played().size(); };
+    Wmf White = Filled(Qt::white), Hollow = Filled(Qt::red), Clipped = Filled(Qt::red),
+        Far = Filled(Qt::red), Text;
+    EXPECT_EQ(QSize(200, 100), SizeWith(White.Box(-50, -50, 300, 200)));
+    EXPECT_EQ(QSize(200, 100), SizeWith(Hollow.Brush(Qt::red, 1).Select(2).Box(0, 0, 300, 200)));
+    EXPECT_EQ(QSize(200, 100), SizeWith(Clipped.Add(0x0416, {100, 200, 0, 0}).Box(0, 0, 300, 200)));
+    EXPECT_EQ(QSize(200, 100), SizeWith(Far.Box(0, 0, 20000, 50)));
+    EXPECT_EQ(QSize(200, 100), SizeWith(Text.Add(0x0A32, {95, 190, 5, 0}, "HHHHH")));
+}
+
+TEST(WmfPlayer, WithoutHeaderAndWindowTheDrawingIsTheSize) {
+    Wmf File = Filled(Qt::red);
+    File.Box(30, 20, 130, 90).Brush(Qt::blue).Select(2).Box(120, 80, 130, 90);
+    const QImage Picture = File.Played(false);
+    ASSERT_EQ(QSize(100, 70), Picture.size());
+    ExpectAt(Picture, 0, 0, Qt::red);
+    ExpectAt(Picture, 99, 69, Qt::blue);
+}
+
+TEST(WmfPlayer, EnlargedBitmapsKeepTheirSquares) {
+    Wmf File = Filled(Qt::white);
+    File.Box(0, 0, 200, 100).Add(0x0B41, {0x20, 0xCC, 2, 2, 0, 0, 100, 200, 0, 0}, SmallDib);
+    const QImage Picture = File.Played();
+    ExpectAt(Picture, 97, 20, Qt::blue);
+    ExpectAt(Picture, 103, 20, Qt::cyan);
+    ExpectAt(Picture, 97, 80, Qt::red);
+    ExpectAt(Picture, 20, 47, Qt::blue);
+    ExpectAt(Picture, 20, 53, Qt::red);
+}

@@ -24,6 +24,7 @@
 #include "db/clsDBEngine.h"
 #include "harness/ScriptedBoxes.h"
 #include "harness/TempFolder.h"
+#include "harness/WithoutExtraFormats.h"
 #include "harness/WithoutPrivileges.h"
 #include "program/frmAbout.h"
 #include "settings/SettingKeys.h"
@@ -365,6 +366,18 @@ TEST_F(MainWindow, CannotBeClosedBeforeItIsLoaded) {
     EXPECT_FALSE(Closed);
     EXPECT_TRUE(mWindow->isVisible());
     EXPECT_TRUE(mWindow->close());
+}
+
+TEST_F(MainWindow, TheSettingsSayWhetherTheKindsOfTodayArePictures) {
+    const harness::WithoutExtraFormats GivesThemBack;
+    Start();
+    EXPECT_TRUE(ExtraFormatsAreOn());
+    mWindow->close();
+    clsSettings Settings = OpenSettings();
+    Settings.PutValue("Pictures", "ExtraFormats", "False");
+    Settings.Save();
+    Start();
+    EXPECT_FALSE(ExtraFormatsAreOn());
 }
 
 TEST_F(MainWindow, EscapeLeavesAChildWithItsWorkOpen) {

@@ -3,10 +3,15 @@
 
 #include <gtest/gtest.h>
 
+#include "harness/WithoutExtraFormats.h"
+
 namespace neb {
 namespace {
 
-TEST(MediaTypes, CountThesePicturesAndNoOthers) {
+using harness::WithoutExtraFormats;
+
+TEST(MediaTypes, CountThesePicturesAndNoOthersWithoutTheExtraOnes) {
+    const WithoutExtraFormats Off;
     EXPECT_EQ(".BMP .EMF .JPEG .JPG .PCD .PCX .PNG .PSD .TGA .TIF .TIFF .TLA .WBMP .WMF",
               PictureExtensions().join(u' ').toStdString());
     for (const QString& Each : PictureExtensions()) {
@@ -19,7 +24,33 @@ TEST(MediaTypes, CountThesePicturesAndNoOthers) {
         EXPECT_FALSE(IsPictureName(QString::fromLatin1(Other))) << Other;
 }
 
+TEST(MediaTypes, CountTheKindsOfTodayUnlessTheyAreSwitchedOff) {
+    EXPECT_TRUE(ExtraFormatsAreOn());
+    EXPECT_EQ(
+        ".AVIF .BMP .EMF .GIF .HEIC .HEIF .HIF .J2K .JP2 .JPEG .JPF .JPG .JPX .MPO .PCD .PCX .PNG "
+        ".PSD .TGA .TIF .TIFF .TLA .WBMP .WEBP .WMF",
+        PictureExtensions().join(u' ').toStdString());
+    const char* const Names[] = {"IMG_1.HEIC", "a.heif", "DSC_2.HIF", "a.avif", "a.GIF", "scan.jp2",
+                                 "a.j2k",      "a.jpx",  "a.jpf",     "3D.MPO", "a.webp"};
+    for (const char* Name : Names) EXPECT_TRUE(IsPictureName(QString::fromLatin1(Name))) << Name;
+    const WithoutExtraFormats Off;
+    for (const char* Name : Names) EXPECT_FALSE(IsPictureName(QString::fromLatin1(Name))) << Name;
+}
+
+TEST(MediaTypes, ThePictureDialogOffersTheKindsOfTodayBehindTheOthers) {
+    const QString Filters = PictureFilters();
+    EXPECT_TRUE(Filters.contains(
+        u"Windows Meta Files (*.wmf)|*.wmf|AVIF Images (*.avif)|*.avif|GIF Images (*.gif)|*.gif|"
+        u"HEIC Images (*.heic;*.heif;*.hif)|*.heic;*.heif;*.hif|"
+        u"JPEG 2000 Images (*.jp2;*.j2k;*.jpf;*.jpx)|*.jp2;*.j2k;*.jpf;*.jpx|"
+        u"Multi-Picture Images (*.mpo)|*.mpo|WebP Images (*.webp)|*.webp|All Graphics Files|"));
+    EXPECT_TRUE(Filters.endsWith(
+        u"All Graphics Files|*.avif;*.bmp;*.emf;*.gif;*.heic;*.heif;*.hif;*.j2k;*.jp2;*.jpeg;*.jpf;"
+        u"*.jpg;*.jpx;*.mpo;*.pcd;*.pcx;*.png;*.psd;*.tga;*.tif;*.tiff;*.tla;*.wbmp;*.webp;*.wmf"));
+}
+
 TEST(MediaTypes, ThePictureDialogOffersEachKindAndThenAllAtOnce) {
+    const WithoutExtraFormats Off;
     EXPECT_EQ(
         "Windows Bitmap Images (*.bmp)|*.bmp|"
         "Windows Enhanced Meta Files (*.emf)|*.emf|"

@@ -39,7 +39,10 @@ class PatientDevice::Engine : public QPaintEngine {
         if (Changed & DirtyFont) mTarget.setFont(State.font());
         if (Changed & DirtyOpacity) mTarget.setOpacity(State.opacity());
         if (Changed & DirtyCompositionMode) mTarget.setCompositionMode(State.compositionMode());
-        if (Changed & DirtyHints) mTarget.setRenderHints(State.renderHints());
+        if (Changed & DirtyHints) {
+            mTarget.setRenderHints(~State.renderHints(), false);
+            mTarget.setRenderHints(State.renderHints());
+        }
         UpdateClip(State, Changed);
     }
     void drawPath(const QPainterPath& Path) override {

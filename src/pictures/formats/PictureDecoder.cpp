@@ -1,10 +1,10 @@
 #include "pictures/formats/PictureDecoder.h"
 
 #include <QSemaphore>
-#include <atomic>
 
 #include "pictures/formats/PictureFaults.h"
 #include "pictures/formats/PictureFormats.h"
+#include "support/MediaTypes.h"
 
 namespace neb {
 namespace {
@@ -22,16 +22,15 @@ constexpr FormatRow Formats[] = {
     {LooksLikeTiff, DecodeByMagick, "TIFF", false}, {LooksLikePsd, DecodeByMagick, "PSD", false},
     {LooksLikeEmf, DecodeEmf, "emf", false},        {LooksLikeWmf, DecodeWmf, "wmf", false},
     {LooksLikePcd, DecodeByMagick, "PCD", false},   {LooksLikeGif, DecodeByQt, "gif", true},
-    {LooksLikeWebp, DecodeByQt, "webp", true},      {LooksLikeHeic, DecodeByMagick, "HEIC", true},
-    {LooksLikeBmp, DecodeBmp, "bmp", false},        {LooksLikePcx, DecodeByMagick, "PCX", false},
-    {LooksLikeWbmp, DecodeByQt, "wbmp", false},     {LooksLikeTga, DecodeByMagick, "TGA", false},
+    {LooksLikeWebp, DecodeByQt, "webp", true},      {LooksLikeHeic, DecodeHeif, "heif", true},
+    {LooksLikeJp2, DecodeJp2, "jp2", true},         {LooksLikeBmp, DecodeBmp, "bmp", false},
+    {LooksLikePcx, DecodeByMagick, "PCX", false},   {LooksLikeWbmp, DecodeByQt, "wbmp", false},
+    {LooksLikeTga, DecodeByMagick, "TGA", false},
 };
-
-std::atomic<bool> ExtraFormats = false;
 
 const FormatRow* FindFormat(const ByteView& Bytes) {
     for (const FormatRow& Row : Formats)
-        if ((!Row.Extra || ExtraFormats) && Row.LooksLike(Bytes)) return &Row;
+        if ((!Row.Extra || ExtraFormatsAreOn()) && Row.LooksLike(Bytes)) return &Row;
     return nullptr;
 }
 
@@ -54,10 +53,6 @@ DecodeBudget::DecodeBudget(QSize Size, qint64 Bytes)
 
 DecodeBudget::~DecodeBudget() {
     FreeShares().release(mShare);
-}
-
-void SetExtraFormats(bool On) {
-    ExtraFormats = On;
 }
 
 bool LooksLikePicture(const QByteArray& Head) {

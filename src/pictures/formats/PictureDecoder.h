@@ -20,12 +20,8 @@ using NeededSize = std::function<QSize(QSize Full)>;
 DecodedPicture DecodePicture(const QByteArray& Bytes, const NeededSize& Needed = {});
 
 // Whether a file that begins with these bytes, four thousand of them or its whole, is taken for a
-// picture.
+// picture; those of extra formats only while they are on (support/MediaTypes).
 bool LooksLikePicture(const QByteArray& Head);
-
-// Files of formats that the program does not list (GIF, WebP, HEIC, AVIF) are pictures, too.
-// Off at start; for the whole program.
-void SetExtraFormats(bool On);
 
 // Bytes above which a file is not even read.
 inline constexpr qint64 LargestPictureFile = 450LL << 20;

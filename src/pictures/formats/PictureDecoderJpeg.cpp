@@ -11,6 +11,7 @@
 #include "pictures/formats/PictureColour.h"
 #include "pictures/formats/PictureFaults.h"
 #include "pictures/formats/PictureFormats.h"
+#include "pictures/formats/PictureOrientation.h"
 #include "pictures/formats/TiffTags.h"
 #include "support/work/WorkTimer.h"
 
@@ -66,13 +67,14 @@ class JpegReader {
     char mMessage[JMSG_LENGTH_MAX] = {};
     QImage mPicture;
     QByteArray mProfile;
-    int mOrientation = 1;
+    int mOrientation;
     bool mEnded = false;  // the library met the end of the file
     bool mLost = false;   // and had to make up pixels
     bool mTooLong = false;
 };
 
-JpegReader::JpegReader(const PictureSource& Source) : mSource(Source) {
+JpegReader::JpegReader(const PictureSource& Source)
+    : mSource(Source), mOrientation(OrientationOf(Source.Bytes)) {
     mInfo.err = jpeg_std_error(&mErrors);
     mErrors.error_exit = OnError;
     mErrors.emit_message = OnMessage;
@@ -125,7 +127,6 @@ void JpegReader::ReadExif() {
         if (Marker->marker != ExifMarker || !Bytes.startsWith(QByteArrayView("Exif\0\0", 6)))
             continue;
         const TiffTags Tags(Bytes.sliced(6));
-        mOrientation = Tags.Orientation();
         if (Tags.IsAdobeRgb()) mProfile = AdobeRgbProfile();
         return;
     }

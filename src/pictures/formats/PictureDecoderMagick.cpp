@@ -1,11 +1,12 @@
-// TIFF, PSD, PCD, PCX and TGA, and with the extra formats HEIC and AVIF, by Magick++. It reads the
-// kinds of TIFF that Qt does not (CMYK, Lab), and reading some by Qt beside it ends in a crash:
-// the complaints of the one TIFF library that both use go to whoever asked for them last.
+// TIFF, PSD, PCD, PCX and TGA by Magick++. It reads the kinds of TIFF that Qt does not (CMYK, Lab),
+// and reading some by Qt beside it ends in a crash: the complaints of the one TIFF library that
+// both use go to whoever asked for them last.
 #include <Magick++.h>
 
 #include "pictures/formats/PictureColour.h"
 #include "pictures/formats/PictureFaults.h"
 #include "pictures/formats/PictureFormats.h"
+#include "pictures/formats/PictureOrientation.h"
 #include "pictures/formats/TiffTags.h"
 
 namespace neb {
@@ -109,9 +110,9 @@ QImage Convert(Magick::Image& Image, const PictureSource& Source) {
     return ToScreenColours(std::move(Picture), IsRgb ? Profile : QByteArray());
 }
 
-int OrientationOf(const Magick::Image& Image) {
+int TurnOf(const Magick::Image& Image, const PictureSource& Source) {
     const int Number = Image.orientation();
-    return Number >= 1 && Number <= 8 ? Number : 1;
+    return Number > 1 && Number <= 8 ? Number : OrientationOf(Source.Bytes);
 }
 
 QSize ReadSize(const PictureSource& Source) {
@@ -133,7 +134,7 @@ DecodedPicture Decode(const PictureSource& Source) {
     auto Image = std::make_unique<Magick::Image>();
     ReadImage(*Image, Source, false);
     if (SizeOf(*Image).isEmpty()) ThrowDamaged();
-    const int Orientation = OrientationOf(*Image);
+    const int Orientation = TurnOf(*Image, Source);
     QImage Picture = Convert(*Image, Source);
     Image.reset();
     Picture = Upright(Picture, Orientation);

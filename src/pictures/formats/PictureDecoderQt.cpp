@@ -6,6 +6,7 @@
 #include "pictures/formats/PictureColour.h"
 #include "pictures/formats/PictureFaults.h"
 #include "pictures/formats/PictureFormats.h"
+#include "pictures/formats/PictureOrientation.h"
 #include "pictures/formats/TiffTags.h"
 
 namespace neb {
@@ -24,11 +25,6 @@ qint64 BytesNeeded(const QImageReader& Reader, QSize Size, const PictureSource& 
     const int Own = Reader.imageFormat() == QImage::Format_Invalid ? 4 : Format.bitsPerPixel() / 8;
     const bool InPlace = Own == 4;
     return PixelCount(Size) * (InPlace ? 4 : Own + 4) + Source.Bytes.size();
-}
-
-int OrientationOf(const PictureSource& Source) {
-    const auto Exif = PngChunk(ByteView(Source.Bytes), "eXIf");
-    return Exif ? TiffTags(*Exif).Orientation() : 1;
 }
 
 // A bare gamma of 2.2 is how sRGB was written before there was a word for it; only an embedded
@@ -66,7 +62,7 @@ DecodedPicture DecodeByQt(const PictureSource& Source) {
     if (Picture.isNull()) ThrowDamaged();
     const QByteArray Profile = ProfileOf(Picture, Source);
     Picture = ToScreenColours(std::move(Picture), Profile);
-    Picture = Upright(Picture, OrientationOf(Source));
+    Picture = Upright(Picture, OrientationOf(Source.Bytes));
     const QSize Full = Picture.size();
     return {std::move(Picture), Full};
 }

@@ -17,6 +17,8 @@ DecodedPicture DecodeJpeg(const PictureSource& Source);
 DecodedPicture DecodeByQt(const PictureSource& Source);
 DecodedPicture DecodeBmp(const PictureSource& Source);
 DecodedPicture DecodeByMagick(const PictureSource& Source);
+DecodedPicture DecodeHeif(const PictureSource& Source);
+DecodedPicture DecodeJp2(const PictureSource& Source);
 DecodedPicture DecodeEmf(const PictureSource& Source);
 DecodedPicture DecodeWmf(const PictureSource& Source);
 
@@ -34,8 +36,12 @@ bool LooksLikeWbmp(const ByteView& Bytes);
 bool LooksLikeTga(const ByteView& Bytes);
 bool LooksLikeGif(const ByteView& Bytes);
 bool LooksLikeWebp(const ByteView& Bytes);
-bool LooksLikeHeic(const ByteView& Bytes);
+bool LooksLikeHeic(const ByteView& Bytes);  // AVIF, too
+bool LooksLikeJp2(const ByteView& Bytes);
 
+// Whether the first picture of the file is all there.
+bool GifIsWhole(const ByteView& Bytes);
+bool WebpIsWhole(const ByteView& Bytes);
 // Throws FaultEndsEarly when the file has fewer pixels than its header promises.
 void CheckIsWhole(const PictureSource& Source);
 

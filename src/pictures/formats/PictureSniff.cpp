@@ -67,11 +67,21 @@ bool LooksLikeWebp(const ByteView& Bytes) {
     return Bytes.Is(0, "RIFF") && Bytes.Is(8, "WEBP");
 }
 
+// The file says first what it is, and behind that what it may be read as: any of them will do.
 bool LooksLikeHeic(const ByteView& Bytes) {
+    constexpr qint64 FirstBrand = 8, MostBrands = 64;
     if (!Bytes.Is(4, "ftyp")) return false;
-    for (const char* Brand : {"heic", "heix", "mif1", "hevc", "avif"})
-        if (Bytes.Is(8, Brand)) return true;
+    const qint64 End = std::min<qint64>(Bytes.U32(0, true), FirstBrand + MostBrands * 4);
+    for (qint64 At = FirstBrand; At < End; At += 4)
+        for (const char* Brand : {"heic", "heix", "heim", "heis", "hevc", "hevx", "hevm", "hevs",
+                                  "mif1", "mif2", "msf1", "avif", "avis"})
+            if (Bytes.Is(At, Brand)) return true;
     return false;
+}
+
+bool LooksLikeJp2(const ByteView& Bytes) {
+    return Bytes.Is(0, QByteArrayView("\0\0\0\x0CjP  \r\n\x87\n", 12)) ||
+           Bytes.Is(0, "\xFF\x4F\xFF\x51");
 }
 
 bool LooksLikeTiff(const ByteView& Bytes) {

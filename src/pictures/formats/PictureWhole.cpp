@@ -134,7 +134,8 @@ struct CheckRow {
 };
 constexpr CheckRow Checks[] = {{"bmp", BmpIsWhole},   {"wbmp", WbmpIsWhole}, {"png", PngIsWhole},
                                {"TIFF", TiffIsWhole}, {"PSD", PsdIsWhole},   {"PCD", PcdIsWhole},
-                               {"TGA", TgaIsWhole},   {"PCX", PcxIsWhole}};
+                               {"TGA", TgaIsWhole},   {"PCX", PcxIsWhole},   {"gif", GifIsWhole},
+                               {"webp", WebpIsWhole}};
 
 }  // namespace
 

@@ -1,5 +1,5 @@
-// Windows metafiles: drawings that become pixels at the size they have on a screen of 96 dots an
-// inch.
+// Windows metafiles: drawings that become pixels, the older ones at the size they have on a screen
+// of 96 dots an inch, enhanced ones with those of the device that they were made for.
 #include <QPainter>
 #include <QSvgRenderer>
 
@@ -7,6 +7,7 @@
 #include "pictures/formats/PictureColour.h"
 #include "pictures/formats/PictureFaults.h"
 #include "pictures/formats/PictureFormats.h"
+#include "pictures/metafiles/EmfFrame.h"
 #include "pictures/metafiles/MetafileSvg.h"
 #include "pictures/metafiles/WmfPlayer.h"
 
@@ -16,6 +17,7 @@ namespace {
 // Larger drawings are drawn smaller: they have no pixels to lose.
 constexpr int LongestDrawing = 4096;
 constexpr int MostMilliseconds = 3000;
+constexpr double MostPixels = 1 << 24;  // a side, before it is drawn smaller
 
 QSize DrawnSize(QSize Natural) {
     if (Natural.isEmpty()) ThrowDamaged();
@@ -42,8 +44,10 @@ DecodedPicture Draw(QSize Natural, Paint PaintOn) {
 
 DecodedPicture DrawEmf(const QByteArray& Emf) {
     QSvgRenderer Drawing(EmfToSvg(Emf));
-    if (!Drawing.isValid()) ThrowDamaged();
-    return Draw(Drawing.defaultSize(),
+    const QRectF Frame = EmfFrame(Emf);
+    if (!Drawing.isValid() || Frame.isEmpty()) ThrowDamaged();
+    Drawing.setViewBox(Frame);
+    return Draw(Frame.size().boundedTo(QSizeF(MostPixels, MostPixels)).toSize().expandedTo({1, 1}),
                 [&](QPainter& Painter, QSize Size) { Drawing.render(&Painter, QRect({}, Size)); });
 }
 

@@ -63,6 +63,13 @@ double WmfCanvas::Length(int Logical) const {
     return Near(std::abs(Logical) * std::sqrt(std::abs(Unit.width() * Unit.height())));
 }
 
+QRectF WmfCanvas::Box(QRect Logical) const {
+    const QRectF Place = Map(Logical).normalized();
+    if (!HasLine()) return Place;
+    return {Place.topLeft(),
+            QSizeF(std::max(0.0, Place.width() - 1), std::max(0.0, Place.height() - 1))};
+}
+
 void WmfCanvas::Mix(int Operation) {
     Painter.setCompositionMode(MixModes[std::clamp(Operation, 1, 16) - 1]);
 }
@@ -75,8 +82,10 @@ void WmfCanvas::PrepareShape(bool Filled) {
     Mix(State.Operation);
 }
 
-void WmfCanvas::DrawPath(const QPainterPath& Path, bool Filled) {
+void WmfCanvas::DrawPath(const QPainterPath& Outline, bool Filled) {
     PrepareShape(Filled);
+    const double Middle = HasLine() ? 0.5 : 0;
+    const QPainterPath Path = Outline.translated(Middle, Middle);
     const bool Hatched =
         State.Brush.style() > Qt::SolidPattern && State.Brush.style() <= Qt::DiagCrossPattern;
     if (Filled && Hatched && State.Opaque) Painter.fillPath(Path, State.BackColour);

@@ -64,9 +64,13 @@ class WmfCanvas {
     QRectF Map(QRect Logical) const;
     QSizeF Scale() const;  // pixels a unit; may be negative
     double Length(int Logical) const;
+    // Of a shape that is drawn into a rectangle: its right and lower edges are the first pixels
+    // beyond, and the middle of its line lies on the last ones inside.
+    QRectF Box(QRect Logical) const;
 
     // The painter with pen, brush and mixing of the state.
     void PrepareShape(bool Filled = true);
+    // A place on the paper is a pixel, which a line covers; so it runs through the pixels' middles.
     void DrawPath(const QPainterPath& Path, bool Filled = true);
     void SetClip(const QPainterPath& Path);
     void Mix(int Operation);
@@ -78,6 +82,8 @@ class WmfCanvas {
     void DeleteObject(size_t Index);
 
   private:
+    bool HasLine() const { return State.Pen.Pen.style() != Qt::NoPen; }
+
     QSize mSize;
     std::vector<WmfState> mSaved;
     std::vector<WmfObject> mObjects;

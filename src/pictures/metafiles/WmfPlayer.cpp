@@ -3,6 +3,7 @@
 #include <unordered_map>
 
 #include "pictures/formats/PictureFaults.h"
+#include "pictures/metafiles/DrawnExtent.h"
 
 namespace neb {
 namespace {
@@ -11,6 +12,7 @@ constexpr qint64 PlaceableHeader = 22, FileHeader = 18, RecordHeader = 6;
 constexpr int EndFunction = 0, SetOriginFunction = 0x020B, SetExtentFunction = 0x020C,
               EscapeFunction = 0x0626;
 constexpr int DotsAnInch = 96;
+constexpr int LongestFrame = 1 << 20;
 
 bool IsPlaceable(const ByteView& Bytes) {
     return Bytes.U32(0) == 0x9AC6CDD7;
@@ -34,11 +36,40 @@ WmfHandler HandlerFor(int Function) {
     return Found == All.end() ? nullptr : Found->second;
 }
 
+// What of a drawing becomes the picture. Files name frames that are too small, or that would have
+// the right size and lie beside the drawing; one that reaches absurdly far has a frame with a
+// reason.
+QRect SeenOf(QSize Frame, QRect Drawn) {
+    constexpr int TooFar = 4;
+    const QRect Whole({}, Frame);
+    if (Drawn.isEmpty() || Whole.contains(Drawn)) return Whole;
+    if (Frame.isEmpty()) return Drawn;
+    if (Drawn.width() > Frame.width() * TooFar || Drawn.height() > Frame.height() * TooFar)
+        return Whole;
+    const QRect Both = Whole | Drawn;
+    const QSize Much = Frame * 1.1;
+    const bool IsBeside =
+        Drawn.size().boundedTo(Frame) == Drawn.size() && Both.size().boundedTo(Much) != Both.size();
+    return IsBeside ? Drawn : Both;
+}
+
 }  // namespace
 
 WmfPlayer::WmfPlayer(const QByteArray& Wmf) : mBytes(Wmf) {
     ReadRecords(FirstRecord(mBytes));
     ReadFrame();
+    mSeen = SeenOf(FrameSize(), Drawn());
+}
+
+// Everything that is more than a trace of a pixel counts.
+QRect WmfPlayer::Drawn() const {
+    constexpr double Trace = 0.25;
+    DrawnExtent Device;
+    QPainter Painter(&Device);
+    PlayAt(Painter, FrameSize().isEmpty() ? QSize(1, 1) : FrameSize());
+    Painter.end();
+    const QRectF Extent = Device.Extent().adjusted(Trace, Trace, -Trace, -Trace);
+    return Extent.isValid() ? Extent.toAlignedRect() : QRect();
 }
 
 void WmfPlayer::ReadRecords(qint64 At) {
@@ -72,14 +103,26 @@ void WmfPlayer::ReadFrame() {
     }
 }
 
-QSize WmfPlayer::NaturalSize() const {
+QSize WmfPlayer::FrameSize() const {
     const QSize Units(std::abs(mFrame.width()), std::abs(mFrame.height()));
-    if (!mUnitsAnInch) return Units;
-    return (QSizeF(Units) * DotsAnInch / mUnitsAnInch).toSize().expandedTo(QSize(1, 1));
+    if (!mUnitsAnInch || Units.isEmpty()) return Units;
+    return (QSizeF(Units) * DotsAnInch / mUnitsAnInch)
+        .toSize()
+        .expandedTo(QSize(1, 1))
+        .boundedTo({LongestFrame, LongestFrame});
 }
 
 void WmfPlayer::Play(QPainter& Painter, QSize Size) const {
-    WmfCanvas Canvas(Painter, Size, mFrame);
+    const double Across = double(Size.width()) / mSeen.width(),
+                 Down = double(Size.height()) / mSeen.height();
+    const QSize Frame = FrameSize().isEmpty() ? QSize(1, 1) : FrameSize();
+    Painter.translate(-mSeen.x() * Across, -mSeen.y() * Down);
+    PlayAt(Painter, {std::max(1, static_cast<int>(std::lround(Frame.width() * Across))),
+                     std::max(1, static_cast<int>(std::lround(Frame.height() * Down)))});
+}
+
+void WmfPlayer::PlayAt(QPainter& Painter, QSize Size) const {
+    WmfCanvas Canvas(Painter, Size, mFrame.isEmpty() ? QRect(0, 0, 1, 1) : mFrame);
     for (const Record& Each : mRecords) {
         if (const WmfHandler Handle = HandlerFor(Each.Function))
             Handle(Canvas, WmfArgs(mBytes.Part(Each.At, Each.Length)));

@@ -17,8 +17,9 @@ class WmfPlayer {
     // end mark.
     explicit WmfPlayer(const QByteArray& Wmf);
 
-    // Pixels at 96 dots an inch; where the file tells no measure, its units are pixels.
-    QSize NaturalSize() const;
+    // Pixels at 96 dots an inch; where the file tells no measure, its units are pixels. It is the
+    // size that the file names, unless what is drawn goes beyond that: then nothing is cut.
+    QSize NaturalSize() const { return mSeen.size(); }
     // Fills the rectangle from (0, 0) to Size. What is not understood is left away.
     void Play(QPainter& Painter, QSize Size) const;
 
@@ -29,11 +30,15 @@ class WmfPlayer {
     };
     void ReadRecords(qint64 At);
     void ReadFrame();
+    QSize FrameSize() const;
+    QRect Drawn() const;
+    void PlayAt(QPainter& Painter, QSize Size) const;
 
     ByteView mBytes;
     std::vector<Record> mRecords;
     QRect mFrame;          // in logical units
     int mUnitsAnInch = 0;  // 0: not told
+    QRect mSeen;           // in pixels from the frame's corner: what becomes the picture
 };
 
 // The enhanced metafile in the comments of a metafile; empty when there is none, or not all of it.

@@ -20,14 +20,16 @@ void MoveTo(WmfCanvas& Canvas, const WmfArgs& Args) {
 
 void LineTo(WmfCanvas& Canvas, const WmfArgs& Args) {
     const QPoint End = Args.PointBackwards(0);
-    Canvas.PrepareShape(false);
-    Canvas.Painter.drawLine(Canvas.Map(Canvas.State.Position), Canvas.Map(End));
+    QPainterPath Path(Canvas.Map(Canvas.State.Position));
+    Path.lineTo(Canvas.Map(End));
+    Canvas.DrawPath(Path, false);
     Canvas.State.Position = End;
 }
 
 void Polyline(WmfCanvas& Canvas, const WmfArgs& Args) {
-    Canvas.PrepareShape(false);
-    Canvas.Painter.drawPolyline(Points(Canvas, Args, 1, Args.Count(0)));
+    QPainterPath Path;
+    Path.addPolygon(Points(Canvas, Args, 1, Args.Count(0)));
+    Canvas.DrawPath(Path, false);
 }
 
 void DrawPolygons(WmfCanvas& Canvas, const std::vector<QPolygonF>& Polygons) {
@@ -57,14 +59,14 @@ void PolyPolygon(WmfCanvas& Canvas, const WmfArgs& Args) {
 
 void Rectangle(WmfCanvas& Canvas, const WmfArgs& Args) {
     QPainterPath Path;
-    Path.addRect(Canvas.Map(Args.RectBackwards(0)).normalized());
+    Path.addRect(Canvas.Box(Args.RectBackwards(0)));
     Canvas.DrawPath(Path);
 }
 
 void RoundRectangle(WmfCanvas& Canvas, const WmfArgs& Args) {
     const QSizeF Unit = Canvas.Scale();
     QPainterPath Path;
-    Path.addRoundedRect(Canvas.Map(Args.RectBackwards(2)).normalized(),
+    Path.addRoundedRect(Canvas.Box(Args.RectBackwards(2)),
                         std::abs(Args.Word(1) * Unit.width()) / 2,
                         std::abs(Args.Word(0) * Unit.height()) / 2);
     Canvas.DrawPath(Path);
@@ -72,7 +74,7 @@ void RoundRectangle(WmfCanvas& Canvas, const WmfArgs& Args) {
 
 void Ellipse(WmfCanvas& Canvas, const WmfArgs& Args) {
     QPainterPath Path;
-    Path.addEllipse(Canvas.Map(Args.RectBackwards(0)).normalized());
+    Path.addEllipse(Canvas.Box(Args.RectBackwards(0)));
     Canvas.DrawPath(Path);
 }
 
@@ -88,7 +90,7 @@ double AngleOf(QPointF Point, const QRectF& Around) {
 }
 
 Bow BowOf(const WmfCanvas& Canvas, const WmfArgs& Args) {
-    const QRectF Around = Canvas.Map(Args.RectBackwards(4)).normalized();
+    const QRectF Around = Canvas.Box(Args.RectBackwards(4));
     const double From = AngleOf(Canvas.Map(Args.PointBackwards(2)), Around);
     double Sweep = AngleOf(Canvas.Map(Args.PointBackwards(0)), Around) - From;
     if (Sweep <= 0) Sweep += 360;

@@ -53,6 +53,8 @@ void Restore(WmfCanvas& Canvas, const WmfArgs& Args) {
     Canvas.Restore(Args.Word(0));
 }
 
+constexpr double FarAway = 100000;  // beyond any picture
+
 QPainterPath RectPath(const QRectF& Rect) {
     QPainterPath Path;
     Path.addRect(Rect.normalized());
@@ -63,8 +65,7 @@ void ClipInside(WmfCanvas& Canvas, const WmfArgs& Args) {
     Canvas.SetClip(Canvas.State.Clip.isEmpty() ? Path : Canvas.State.Clip.intersected(Path));
 }
 void ClipOutside(WmfCanvas& Canvas, const WmfArgs& Args) {
-    const auto& Device = *Canvas.Painter.device();
-    const QPainterPath All = RectPath(QRectF(0, 0, Device.width(), Device.height()));
+    const QPainterPath All = RectPath(QRectF(-FarAway, -FarAway, 2 * FarAway, 2 * FarAway));
     const QPainterPath Before = Canvas.State.Clip.isEmpty() ? All : Canvas.State.Clip;
     Canvas.SetClip(Before.subtracted(RectPath(Canvas.Map(Args.RectBackwards(0)))));
 }

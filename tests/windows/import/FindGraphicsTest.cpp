@@ -6,12 +6,23 @@
 #include <QListWidget>
 
 #include "FindGraphicsHarness.h"
+#include "albums/GraphicsSearch.h"
+#include "harness/WithoutExtraFormats.h"
 #include "harness/WithoutPrivileges.h"
 
 namespace neb {
 namespace {
 
 using namespace harness;
+
+constexpr const char* FirstTypes = "BMP EMF JPEG/JPG PCD PCX PNG PSD TGA TIFF/TIF TLA WBMP WMF";
+
+std::string TypeEntries(const frmFindGraphics& Window) {
+    QStringList Texts;
+    const auto& Types = In<QListWidget>(Window, "lstTypeFilter");
+    for (int I = 0; I < Types.count(); ++I) Texts << Types.item(I)->text();
+    return Texts.join(u' ').toStdString();
+}
 
 TEST_F(FindGraphics, OffersReadyDrivesThenAllOfThemThenBrowse) {
     MakeDirs(Pics / u"one"_s);
@@ -20,11 +31,37 @@ TEST_F(FindGraphics, OffersReadyDrivesThenAllOfThemThenBrowse) {
     EXPECT_EQ(QStringList({Pics / u"one"_s, u"All Drives"_s, u"Browse"_s}), PathTexts());
     EXPECT_EQ("All Drives", Path().currentText().toStdString());
     EXPECT_EQ("Find Graphics", Window->windowTitle().toStdString());
-    EXPECT_EQ(12, In<QListWidget>(*Window, "lstTypeFilter").selectedItems().size());
+    EXPECT_EQ(GraphicTypes().size(),
+              In<QListWidget>(*Window, "lstTypeFilter").selectedItems().size());
     EXPECT_EQ("0 Results", Label("lblResults"));
     EXPECT_EQ("0 Selected", Label("lblSelected"));
     EXPECT_FALSE(Button("cmdCancel").isEnabled());
     EXPECT_TRUE(Button("cmdImport").isEnabled());
+}
+
+TEST_F(FindGraphics, OffersTheKindsOfTodayBehindTheOthers) {
+    Make({"a.heic", "b.HIF", "c.avif", "d.jpg"});
+    Show();
+    const std::string Entries = TypeEntries(*Window);
+    EXPECT_TRUE(Entries.starts_with(FirstTypes)) << Entries;
+    EXPECT_TRUE(Entries.ends_with("WMF AVIF GIF HEIC/HEIF/HIF JP2/J2K/JPF/JPX MPO WEBP"))
+        << Entries;
+    Search();
+    EXPECT_EQ("a.heic,b.HIF,c.avif,d.jpg", Names());
+    auto& Types = In<QListWidget>(*Window, "lstTypeFilter");
+    Types.clearSelection();
+    Types.item(14)->setSelected(true);
+    Search();
+    EXPECT_EQ("a.heic,b.HIF", Names());
+}
+
+TEST_F(FindGraphics, OffersTheKindsOfTodayNoMoreWhereTheyAreSwitchedOff) {
+    const WithoutExtraFormats Off;
+    Make({"a.heic", "b.HIF", "c.avif", "d.jpg"});
+    Show();
+    EXPECT_EQ(FirstTypes, TypeEntries(*Window));
+    Search();
+    EXPECT_EQ("d.jpg", Names());
 }
 
 TEST_F(FindGraphics, ListsNamePathSizeAndDate) {
