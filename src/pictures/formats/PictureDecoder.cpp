@@ -18,13 +18,13 @@ struct FormatRow {
 
 // The formats with the surest marks stand first, those with hardly any last.
 constexpr FormatRow Formats[] = {
-    {LooksLikeJpeg, DecodeJpeg, "jpeg", false},     {LooksLikePng, DecodeByQt, "png", false},
-    {LooksLikeTiff, DecodeByMagick, "TIFF", false}, {LooksLikePsd, DecodeByMagick, "PSD", false},
-    {LooksLikeEmf, DecodeEmf, "emf", false},        {LooksLikeWmf, DecodeWmf, "wmf", false},
-    {LooksLikePcd, DecodeByMagick, "PCD", false},   {LooksLikeGif, DecodeByQt, "gif", true},
-    {LooksLikeWebp, DecodeByQt, "webp", true},      {LooksLikeHeic, DecodeByMagick, "HEIC", true},
-    {LooksLikeBmp, DecodeBmp, "bmp", false},        {LooksLikePcx, DecodeByMagick, "PCX", false},
-    {LooksLikeWbmp, DecodeByQt, "wbmp", false},     {LooksLikeTga, DecodeByMagick, "TGA", false},
+    {LooksLikeJpeg, DecodeJpeg, "jpeg", false},   {LooksLikePng, DecodeByQt, "png", false},
+    {LooksLikeTiff, DecodeTiff, "TIFF", false},   {LooksLikePsd, DecodeByMagick, "PSD", false},
+    {LooksLikeEmf, DecodeEmf, "emf", false},      {LooksLikeWmf, DecodeWmf, "wmf", false},
+    {LooksLikePcd, DecodeByMagick, "PCD", false}, {LooksLikeGif, DecodeByQt, "gif", true},
+    {LooksLikeWebp, DecodeByQt, "webp", true},    {LooksLikeHeic, DecodeByMagick, "HEIC", true},
+    {LooksLikeBmp, DecodeBmp, "bmp", false},      {LooksLikePcx, DecodePcx, "PCX", false},
+    {LooksLikeWbmp, DecodeByQt, "wbmp", false},   {LooksLikeTga, DecodeTga, "TGA", false},
 };
 
 std::atomic<bool> ExtraFormats = false;

@@ -16,6 +16,9 @@ struct PictureSource {
 DecodedPicture DecodeJpeg(const PictureSource& Source);
 DecodedPicture DecodeByQt(const PictureSource& Source);
 DecodedPicture DecodeBmp(const PictureSource& Source);
+DecodedPicture DecodePcx(const PictureSource& Source);
+DecodedPicture DecodeTga(const PictureSource& Source);
+DecodedPicture DecodeTiff(const PictureSource& Source);
 DecodedPicture DecodeByMagick(const PictureSource& Source);
 DecodedPicture DecodeEmf(const PictureSource& Source);
 DecodedPicture DecodeWmf(const PictureSource& Source);

@@ -1,0 +1,286 @@
+// TIFF of up to eight bits a sample by libtiff itself, which knows every kind of it: whites as
+// zero, subsampled colours, old ways of JPEG, tiles, separate planes. What is finer, and what is
+// in colours of its own, goes to Magick++. Complaints come to the handle that they are about: the
+// library's common way of complaining belongs to Magick++, which would take them for its own.
+#include <tiffio.h>
+
+#include <memory>
+
+#include "pictures/formats/PictureColour.h"
+#include "pictures/formats/PictureFaults.h"
+#include "pictures/formats/PictureFormats.h"
+#include "pictures/formats/TiffTags.h"
+
+namespace neb {
+namespace {
+
+constexpr tmsize_t LargestPiece = 400 << 20;
+
+struct Stream {
+    const QByteArray& Bytes;
+    toff_t At = 0;
+    QByteArray Complaint;  // the first one
+};
+
+Stream& StreamOf(thandle_t Handle) {
+    return *static_cast<Stream*>(Handle);
+}
+
+tmsize_t ReadBytes(thandle_t Handle, void* To, tmsize_t Length) {
+    Stream& From = StreamOf(Handle);
+    const auto Size = static_cast<toff_t>(From.Bytes.size());
+    if (From.At >= Size || Length <= 0) return 0;
+    const auto Count = std::min(static_cast<toff_t>(Length), Size - From.At);
+    memcpy(To, From.Bytes.constData() + From.At, Count);
+    From.At += Count;
+    return static_cast<tmsize_t>(Count);
+}
+
+tmsize_t WriteNothing(thandle_t, void*, tmsize_t) {
+    return 0;
+}
+
+toff_t Seek(thandle_t Handle, toff_t Offset, int From) {
+    Stream& In = StreamOf(Handle);
+    if (From == SEEK_CUR) Offset += In.At;
+    if (From == SEEK_END) Offset += static_cast<toff_t>(In.Bytes.size());
+    return In.At = Offset;
+}
+
+int Close(thandle_t) {
+    return 0;
+}
+
+toff_t SizeOf(thandle_t Handle) {
+    return static_cast<toff_t>(StreamOf(Handle).Bytes.size());
+}
+
+int KeepComplaint(TIFF*, void* Where, const char*, const char* Text, va_list) {
+    QByteArray& Complaint = static_cast<Stream*>(Where)->Complaint;
+    if (Complaint.isEmpty()) Complaint = Text;
+    return 1;
+}
+
+// Odd tags and the like, which no one sees.
+int DropWarning(TIFF*, void*, const char*, const char*, va_list) {
+    return 1;
+}
+
+struct CloseTiff {
+    void operator()(TIFF* File) const { TIFFClose(File); }
+};
+struct FreeOptions {
+    void operator()(TIFFOpenOptions* Options) const { TIFFOpenOptionsFree(Options); }
+};
+using TiffHandle = std::unique_ptr<TIFF, CloseTiff>;
+
+TiffHandle Open(Stream& From) {
+    const std::unique_ptr<TIFFOpenOptions, FreeOptions> Options(TIFFOpenOptionsAlloc());
+    TIFFOpenOptionsSetMaxSingleMemAlloc(Options.get(), LargestPiece);
+    TIFFOpenOptionsSetErrorHandlerExtR(Options.get(), KeepComplaint, &From);
+    TIFFOpenOptionsSetWarningHandlerExtR(Options.get(), DropWarning, &From);
+    return TiffHandle(TIFFClientOpenExt("", "rm", &From, ReadBytes, WriteNothing, Seek, Close,
+                                        SizeOf, nullptr, nullptr, Options.get()));
+}
+
+class TiffReader {
+  public:
+    explicit TiffReader(const PictureSource& Source);
+    // Whether this reader is the right one for the picture.
+    bool Knows();
+    DecodedPicture Decode();
+
+  private:
+    struct Piece {
+        quint32 Width, Height;
+        qint64 Bytes;
+    };
+    quint32 Number(quint32 Tag) const;
+    quint32 Short(quint32 Tag) const;
+    bool IsCmyk() const { return Short(TIFFTAG_PHOTOMETRIC) == PHOTOMETRIC_SEPARATED; }
+    bool IsSeparate() const { return Short(TIFFTAG_PLANARCONFIG) == PLANARCONFIG_SEPARATE; }
+    bool IsOldJpeg() const { return Short(TIFFTAG_COMPRESSION) == COMPRESSION_OJPEG; }
+    bool CanBeColours();
+    bool CanBeInks() const;
+    bool HasAlpha() const;
+    QSize Size() const;
+    QByteArray Profile() const;
+    Piece PieceSize() const;
+    qint64 SamplesAPiece() const { return IsSeparate() ? 1 : Short(TIFFTAG_SAMPLESPERPIXEL); }
+    bool ReadPiece(QByteArray& To, QPoint At, quint16 Plane);
+    void PutInks(const QByteArray& From, const Piece& Of, QRect Where, int Plane);
+    void ReadInkPlane(const Piece& Of, int Plane);
+    QImage ReadColours();
+    QImage ReadInks();
+    [[noreturn]] void ThrowComplaint() const;
+
+    const PictureSource& mSource;
+    Stream mStream;
+    TiffHandle mFile;
+    QImage mInks;
+};
+
+TiffReader::TiffReader(const PictureSource& Source)
+    : mSource(Source), mStream{Source.Bytes}, mFile(Open(mStream)) {}
+
+quint32 TiffReader::Number(quint32 Tag) const {
+    quint32 Value = 0;
+    TIFFGetFieldDefaulted(mFile.get(), Tag, &Value);
+    return Value;
+}
+
+quint32 TiffReader::Short(quint32 Tag) const {
+    quint16 Value = 0;
+    TIFFGetFieldDefaulted(mFile.get(), Tag, &Value);
+    return Value;
+}
+
+bool TiffReader::CanBeColours() {
+    constexpr quint32 Known[] = {PHOTOMETRIC_MINISWHITE, PHOTOMETRIC_MINISBLACK, PHOTOMETRIC_RGB,
+                                 PHOTOMETRIC_PALETTE, PHOTOMETRIC_YCBCR};
+    char Reason[1024] = "";
+    TIFFRGBAImage Image;
+    if (std::find(std::begin(Known), std::end(Known), Short(TIFFTAG_PHOTOMETRIC)) ==
+            std::end(Known) ||
+        !TIFFRGBAImageBegin(&Image, mFile.get(), 1, Reason))
+        return false;
+    TIFFRGBAImageEnd(&Image);
+    return true;
+}
+
+bool TiffReader::CanBeInks() const {
+    return Short(TIFFTAG_BITSPERSAMPLE) == 8 && Short(TIFFTAG_INKSET) == INKSET_CMYK &&
+           Short(TIFFTAG_SAMPLESPERPIXEL) >= 4;
+}
+
+bool TiffReader::Knows() {
+    if (!mFile || Short(TIFFTAG_BITSPERSAMPLE) > 8) return false;
+    const quint32 Kind = Short(TIFFTAG_SAMPLEFORMAT);
+    if (Kind != SAMPLEFORMAT_UINT && Kind != SAMPLEFORMAT_VOID) return false;
+    return IsCmyk() ? CanBeInks() : CanBeColours();
+}
+
+QSize TiffReader::Size() const {
+    constexpr quint32 Most = 1 << 30;
+    return {static_cast<int>(std::min(Number(TIFFTAG_IMAGEWIDTH), Most)),
+            static_cast<int>(std::min(Number(TIFFTAG_IMAGELENGTH), Most))};
+}
+
+QByteArray TiffReader::Profile() const {
+    quint32 Length = 0;
+    void* Bytes = nullptr;
+    if (!TIFFGetField(mFile.get(), TIFFTAG_ICCPROFILE, &Length, &Bytes)) return {};
+    return {static_cast<const char*>(Bytes), static_cast<qsizetype>(Length)};
+}
+
+// A sample of which the file does not say what it means is not taken for alpha.
+bool TiffReader::HasAlpha() const {
+    quint16 Count = 0;
+    quint16* Kinds = nullptr;
+    TIFFGetFieldDefaulted(mFile.get(), TIFFTAG_EXTRASAMPLES, &Count, &Kinds);
+    return Count > 0 && Kinds[0] != EXTRASAMPLE_UNSPECIFIED;
+}
+
+void TiffReader::ThrowComplaint() const {
+    for (const char* Sign : {"Read error", "Not enough data", "at scanline", "end of file"})
+        if (mStream.Complaint.contains(Sign)) ThrowEndsEarly();
+    ThrowDamaged();
+}
+
+// Four bytes a pixel, red lowest, the colours with their alpha in them already.
+QImage TiffReader::ReadColours() {
+    QImage Picture(Size(), QImage::Format_ARGB32_Premultiplied);
+    if (Picture.isNull()) ThrowTooLarge(Size());
+    auto* Pixels = reinterpret_cast<quint32*>(Picture.bits());
+    if (!TIFFReadRGBAImageOriented(mFile.get(), static_cast<quint32>(Picture.width()),
+                                   static_cast<quint32>(Picture.height()), Pixels,
+                                   ORIENTATION_TOPLEFT, 1))
+        ThrowComplaint();
+    const bool Alpha = HasAlpha();
+    std::for_each(Pixels, Pixels + PixelCount(Picture.size()), [Alpha](quint32& P) {
+        P = qRgba(TIFFGetR(P), TIFFGetG(P), TIFFGetB(P), Alpha ? TIFFGetA(P) : 255);
+    });
+    if (!Alpha) Picture.reinterpretAsFormat(QImage::Format_RGB32);
+    return ToScreenColours(std::move(Picture), Profile());
+}
+
+TiffReader::Piece TiffReader::PieceSize() const {
+    TIFF* File = mFile.get();
+    if (TIFFIsTiled(File))
+        return {Number(TIFFTAG_TILEWIDTH), Number(TIFFTAG_TILELENGTH),
+                static_cast<qint64>(TIFFTileSize64(File))};
+    const quint32 Height = Number(TIFFTAG_IMAGELENGTH);
+    return {Number(TIFFTAG_IMAGEWIDTH), std::clamp(Number(TIFFTAG_ROWSPERSTRIP), 1U, Height),
+            static_cast<qint64>(TIFFStripSize64(File))};
+}
+
+bool TiffReader::ReadPiece(QByteArray& To, QPoint At, quint16 Plane) {
+    TIFF* File = mFile.get();
+    const auto X = static_cast<quint32>(At.x()), Y = static_cast<quint32>(At.y());
+    if (TIFFIsTiled(File))
+        return TIFFReadEncodedTile(File, TIFFComputeTile(File, X, Y, 0, Plane), To.data(),
+                                   To.size()) >= 0;
+    return TIFFReadEncodedStrip(File, TIFFComputeStrip(File, Y, Plane), To.data(), To.size()) >= 0;
+}
+
+void TiffReader::PutInks(const QByteArray& From, const Piece& Of, QRect Where, int Plane) {
+    const int Samples = static_cast<int>(SamplesAPiece()), Inks = std::min(Samples, 4);
+    for (int Y = 0; Y < Where.height(); ++Y) {
+        const char* Pixel = From.constData() + qint64(Y) * Of.Width * Samples;
+        uchar* To = mInks.scanLine(Where.y() + Y) + qint64(Where.x()) * 4 + Plane;
+        for (int X = 0; X < Where.width(); ++X, Pixel += Samples, To += 4)
+            memcpy(To, Pixel, static_cast<size_t>(Inks));
+    }
+}
+
+// Samples beyond the four inks are other inks or masks, which a screen does not show.
+void TiffReader::ReadInkPlane(const Piece& Of, int Plane) {
+    QByteArray Bytes(Of.Bytes, '\0');
+    const int Width = static_cast<int>(Of.Width), Height = static_cast<int>(Of.Height);
+    for (int Y = 0; Y < mInks.height(); Y += Height)
+        for (int X = 0; X < mInks.width(); X += Width) {
+            if (!ReadPiece(Bytes, {X, Y}, static_cast<quint16>(Plane))) ThrowComplaint();
+            const QRect Where(X, Y, Width, Height);
+            PutInks(Bytes, Of, Where & mInks.rect(), Plane);
+        }
+}
+
+QImage TiffReader::ReadInks() {
+    const Piece Of = PieceSize();
+    if (Of.Width == 0 || Of.Height == 0 || Of.Width > LongestSide || Of.Height > LongestSide ||
+        Of.Bytes < qint64(Of.Width) * Of.Height * SamplesAPiece())
+        ThrowDamaged();
+    mInks = QImage(Size(), QImage::Format_RGB32);
+    if (mInks.isNull()) ThrowTooLarge(Size());
+    const int Planes = IsSeparate() ? 4 : 1;
+    for (int Plane = 0; Plane < Planes; ++Plane) ReadInkPlane(Of, Plane);
+    InksToScreenColours(mInks, Profile());
+    return std::move(mInks);
+}
+
+DecodedPicture TiffReader::Decode() {
+    const QSize Stored = Size();
+    if (Stored.isEmpty()) ThrowDamaged();
+    const qint64 Most = PieceSize().Bytes;
+    if (Most > LargestPiece) ThrowTooLarge(Stored);
+    const DecodeBudget Budget(Stored, PixelCount(Stored) * 4 + Most * 4 + mSource.Bytes.size());
+    // The old way of JPEG says where its pieces are in so many ways that only reading tells.
+    if (!IsOldJpeg()) CheckIsWhole(mSource);
+    const quint32 Turn = Short(TIFFTAG_ORIENTATION);
+    TIFFSetField(mFile.get(), TIFFTAG_ORIENTATION, ORIENTATION_TOPLEFT);
+    const int Orientation = Turn >= 1 && Turn <= 8 ? static_cast<int>(Turn) : 1;
+    const QImage Picture = Upright(IsCmyk() ? ReadInks() : ReadColours(), Orientation);
+    return {Picture, Picture.size()};
+}
+
+}  // namespace
+
+DecodedPicture DecodeTiff(const PictureSource& Source) {
+    {
+        TiffReader Reader(Source);
+        if (Reader.Knows()) return Reader.Decode();
+    }
+    return DecodeByMagick(Source);
+}
+
+}  // namespace neb
