@@ -117,11 +117,11 @@ bool BmpReader::DepthFits() const {
 // of the newer headers are followed by the older one's short entries; the room tells.
 void BmpReader::ReadPalette() {
     if (mDepth > 8) return;
-    const qint64 At = InfoAt + mHeader, Room = std::max<qint64>(mPixels - At, 0),
-                 Most = 1 << mDepth;
+    const qint64 At = InfoAt + mHeader, Most = 1 << mDepth;
     const qint64 Told = Field(32) > 0 && Field(32) <= 256 ? Field(32) : Most;
-    const bool Short = mHeader == OldHeader || Room == Told * 3;
-    const qint64 Width = Short ? 3 : 4;
+    if (mPixels <= At) mPixels = At + Told * (mHeader == OldHeader ? 3 : 4);
+    const qint64 Room = mPixels - At;
+    const qint64 Width = mHeader == OldHeader || Room == Told * 3 ? 3 : 4;
     for (qint64 I = 0; I < std::min(Most, Room / Width); ++I) {
         const qint64 Entry = At + I * Width;
         mPalette[static_cast<size_t>(I)] =

@@ -51,7 +51,8 @@ TgaReader::TgaReader(const PictureSource& Source)
       mMap(18 + mBytes.U8(0)) {
     const int MapLength = mBytes.U8(1) ? mBytes.U16(5) * ((mMapBits + 7) / 8) : 0;
     mAt = mMap + MapLength;
-    mAlpha = mKind == Mapped ? mMapBits == 32 : (mMarks & AlphaBits) != 0;
+    // Four bytes a pixel are colours with alpha even where the header forgets to say so.
+    mAlpha = (mKind == Mapped ? mMapBits : mDepth) == 32 || (mMarks & AlphaBits) != 0;
 }
 
 // Five bits a colour and perhaps one of alpha, or a byte each.

@@ -55,6 +55,16 @@ toff_t SizeOf(thandle_t Handle) {
     return static_cast<toff_t>(StreamOf(Handle).Bytes.size());
 }
 
+// The library only reads what is mapped. Without, it refuses tiles that are not packed.
+int Map(thandle_t Handle, void** Base, toff_t* Length) {
+    const QByteArray& Bytes = StreamOf(Handle).Bytes;
+    *Base = const_cast<char*>(Bytes.constData());
+    *Length = static_cast<toff_t>(Bytes.size());
+    return 1;
+}
+
+void Unmap(thandle_t, void*, toff_t) {}
+
 int KeepComplaint(TIFF*, void* Where, const char*, const char* Text, va_list) {
     QByteArray& Complaint = static_cast<Stream*>(Where)->Complaint;
     if (Complaint.isEmpty()) Complaint = Text;
@@ -79,8 +89,8 @@ TiffHandle Open(Stream& From) {
     TIFFOpenOptionsSetMaxSingleMemAlloc(Options.get(), LargestPiece);
     TIFFOpenOptionsSetErrorHandlerExtR(Options.get(), KeepComplaint, &From);
     TIFFOpenOptionsSetWarningHandlerExtR(Options.get(), DropWarning, &From);
-    return TiffHandle(TIFFClientOpenExt("", "rm", &From, ReadBytes, WriteNothing, Seek, Close,
-                                        SizeOf, nullptr, nullptr, Options.get()));
+    return TiffHandle(TIFFClientOpenExt("", "rM", &From, ReadBytes, WriteNothing, Seek, Close,
+                                        SizeOf, Map, Unmap, Options.get()));
 }
 
 class TiffReader {
@@ -98,11 +108,14 @@ class TiffReader {
     quint32 Number(quint32 Tag) const;
     quint32 Short(quint32 Tag) const;
     bool IsCmyk() const { return Short(TIFFTAG_PHOTOMETRIC) == PHOTOMETRIC_SEPARATED; }
+    bool IsGrey() const { return Short(TIFFTAG_PHOTOMETRIC) <= PHOTOMETRIC_MINISBLACK; }
+    bool IsForgotten() const;
     bool IsSeparate() const { return Short(TIFFTAG_PLANARCONFIG) == PLANARCONFIG_SEPARATE; }
     bool IsOldJpeg() const { return Short(TIFFTAG_COMPRESSION) == COMPRESSION_OJPEG; }
     bool CanBeColours();
     bool CanBeInks() const;
-    bool HasAlpha() const;
+    quint32 ExtraSample() const;
+    QImage::Format PixelFormat() const;
     QSize Size() const;
     QByteArray Profile() const;
     Piece PieceSize() const;
@@ -153,10 +166,18 @@ bool TiffReader::CanBeInks() const {
            Short(TIFFTAG_SAMPLESPERPIXEL) >= 4;
 }
 
+// The library passes over the alpha beside a palette, and over white being zero where the samples
+// of a pixel lie apart.
+bool TiffReader::IsForgotten() const {
+    const quint32 Kind = Short(TIFFTAG_PHOTOMETRIC);
+    return Kind == PHOTOMETRIC_PALETTE || (Kind == PHOTOMETRIC_MINISWHITE && IsSeparate());
+}
+
 bool TiffReader::Knows() {
     if (!mFile || Short(TIFFTAG_BITSPERSAMPLE) > 8) return false;
     const quint32 Kind = Short(TIFFTAG_SAMPLEFORMAT);
     if (Kind != SAMPLEFORMAT_UINT && Kind != SAMPLEFORMAT_VOID) return false;
+    if (Short(TIFFTAG_SAMPLESPERPIXEL) > 1 && IsForgotten()) return false;
     return IsCmyk() ? CanBeInks() : CanBeColours();
 }
 
@@ -173,12 +194,23 @@ QByteArray TiffReader::Profile() const {
     return {static_cast<const char*>(Bytes), static_cast<qsizetype>(Length)};
 }
 
-// A sample of which the file does not say what it means is not taken for alpha.
-bool TiffReader::HasAlpha() const {
+// What the first sample beyond the colours is. Where the file says that it does not tell, alpha is
+// not assumed; a fourth sample of which it says nothing at all is hardly ever anything else.
+quint32 TiffReader::ExtraSample() const {
     quint16 Count = 0;
     quint16* Kinds = nullptr;
     TIFFGetFieldDefaulted(mFile.get(), TIFFTAG_EXTRASAMPLES, &Count, &Kinds);
-    return Count > 0 && Kinds[0] != EXTRASAMPLE_UNSPECIFIED;
+    if (Count > 0) return Kinds[0];
+    return !IsGrey() && Short(TIFFTAG_SAMPLESPERPIXEL) == 4 ? EXTRASAMPLE_ASSOCALPHA
+                                                            : EXTRASAMPLE_UNSPECIFIED;
+}
+
+// The library leaves greys as they are where it makes colours smaller by their alpha.
+QImage::Format TiffReader::PixelFormat() const {
+    const quint32 Extra = ExtraSample();
+    if (Extra == EXTRASAMPLE_UNSPECIFIED) return QImage::Format_RGB32;
+    const bool AsTheyAre = IsGrey() && !IsSeparate() && Extra == EXTRASAMPLE_UNASSALPHA;
+    return AsTheyAre ? QImage::Format_ARGB32 : QImage::Format_ARGB32_Premultiplied;
 }
 
 void TiffReader::ThrowComplaint() const {
@@ -187,20 +219,19 @@ void TiffReader::ThrowComplaint() const {
     ThrowDamaged();
 }
 
-// Four bytes a pixel, red lowest, the colours with their alpha in them already.
+// The library gives four bytes a pixel, red lowest.
 QImage TiffReader::ReadColours() {
-    QImage Picture(Size(), QImage::Format_ARGB32_Premultiplied);
+    QImage Picture(Size(), PixelFormat());
     if (Picture.isNull()) ThrowTooLarge(Size());
     auto* Pixels = reinterpret_cast<quint32*>(Picture.bits());
     if (!TIFFReadRGBAImageOriented(mFile.get(), static_cast<quint32>(Picture.width()),
                                    static_cast<quint32>(Picture.height()), Pixels,
                                    ORIENTATION_TOPLEFT, 1))
         ThrowComplaint();
-    const bool Alpha = HasAlpha();
+    const bool Alpha = Picture.hasAlphaChannel();
     std::for_each(Pixels, Pixels + PixelCount(Picture.size()), [Alpha](quint32& P) {
         P = qRgba(TIFFGetR(P), TIFFGetG(P), TIFFGetB(P), Alpha ? TIFFGetA(P) : 255);
     });
-    if (!Alpha) Picture.reinterpretAsFormat(QImage::Format_RGB32);
     return ToScreenColours(std::move(Picture), Profile());
 }
 
