@@ -131,6 +131,8 @@ TEST(Pcx, A256ColourPaletteStandsAtTheEnd) {
     Bytes += char(12);
     for (int I = 0; I < 256; ++I) Bytes += QByteArray::fromHex("00") + char(255 - I) + char(I);
     EXPECT_EQ("#00ff00 #00fe01 #00fd02 #00fc03 #0000ff #003fc0", ColoursOf(Bytes));
+    EXPECT_EQ(FaultEndsEarly, FaultOfBytes(Bytes.chopped(1)));
+    EXPECT_EQ(FaultEndsEarly, FaultOfBytes(Bytes.chopped(767)));
 }
 
 TEST(Pcx, UnpackedRowsAreTakenAsTheyAre) {

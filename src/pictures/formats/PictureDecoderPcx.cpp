@@ -11,6 +11,8 @@ namespace {
 
 constexpr qint64 PixelsAt = 128, HeaderPaletteAt = 16;
 constexpr int HeaderColours = 16;
+constexpr qint64 LargePalette = 1 + 256 * 3;  // bytes
+constexpr int PaletteMark = 12;
 
 // What a screen of 16 colours showed when nothing else was said.
 constexpr std::array<QRgb, HeaderColours> ScreenColours = {
@@ -26,6 +28,8 @@ class PcxReader {
     bool HeaderHasPalette() const;
     bool PaletteIsOfTwo() const;
     void ReadPalette();
+    bool HasLargePalette() const;
+    bool PaletteIsCut() const;
     void ReadLargePalette();
     QRgb PaletteEntry(qint64 At) const;
     int OneByte();
@@ -68,13 +72,22 @@ bool PcxReader::HeaderHasPalette() const {
     return false;
 }
 
+bool PcxReader::HasLargePalette() const {
+    const qint64 At = mBytes.Size() - LargePalette;
+    return At >= PixelsAt && mBytes.U8(At) == PaletteMark;
+}
+
 // Behind the pixels, at the end of the file; without it the numbers are greys.
 void PcxReader::ReadLargePalette() {
-    constexpr int Mark = 12;
-    const qint64 At = mBytes.Size() - 768;
-    const bool There = At > PixelsAt && mBytes.U8(At - 1) == Mark;
+    const bool There = HasLargePalette();
+    const qint64 At = mBytes.Size() - LargePalette + 1;
     for (int I = 0; I < 256; ++I)
         mPalette[static_cast<size_t>(I)] = There ? PaletteEntry(At + I * 3) : qRgb(I, I, I);
+}
+
+// The pixels are all there, and of the palette only the beginning.
+bool PcxReader::PaletteIsCut() const {
+    return mBits == 8 && mPlanes == 1 && !HasLargePalette() && mBytes.U8(mAt) == PaletteMark;
 }
 
 // A palette of as many colours as pixels can tell apart, the others left at zero, was made for the
@@ -143,6 +156,7 @@ DecodedPicture PcxReader::Decode() {
         auto* To = reinterpret_cast<QRgb*>(Picture.scanLine(Y));
         for (int X = 0; X < mSize.width(); ++X) To[X] = Pixel(Row, X);
     }
+    if (PaletteIsCut()) ThrowEndsEarly();
     return {std::move(Picture), mSize};
 }
 
