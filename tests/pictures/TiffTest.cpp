@@ -216,6 +216,27 @@ TEST(Tiff, SeparatePlanesMayHaveOneMore) {
     }
 }
 
+TEST(Tiff, AFourthSampleWithoutAWordIsAlpha) {
+    QByteArray Bytes = Tiff({PHOTOMETRIC_RGB, 8, 4, COMPRESSION_NONE, EXTRASAMPLE_ASSOCALPHA},
+                            {Contiguous(4, Slope)});
+    // The word is made another, which nobody knows.
+    const qsizetype Word = Bytes.indexOf(Little(TIFFTAG_EXTRASAMPLES, 2) + Little(3, 2));
+    ASSERT_GT(Word, 0);
+    Bytes.replace(Word, 2, Little(TIFFTAG_EXTRASAMPLES + 0x100, 2));
+    ExpectSeen(
+        Bytes, [](int X, int Y) { return OnWhite(SlopeColour(X, Y), Slope(X, Y, 3)); }, 2);
+}
+
+TEST(Tiff, PiecesMayBeSaidToBeLongerThanTheyAre) {
+    QByteArray Bytes = Tiff({}, {Contiguous(3, Slope)});
+    const QByteArray Length = Little(TIFFTAG_STRIPBYTECOUNTS, 2) + Little(4, 2) + Little(1, 4);
+    const QByteArray Short = Little(TIFFTAG_STRIPBYTECOUNTS, 2) + Little(3, 2) + Little(1, 4);
+    const qsizetype At = std::max(Bytes.indexOf(Length), Bytes.indexOf(Short));
+    ASSERT_GT(At, 0);
+    Bytes.replace(At + 8, 2, Little(60000, 2));
+    ExpectSeen(Bytes, SlopeColour);
+}
+
 TEST(Tiff, GreysWithAlphaAreLaidOnWhite) {
     const auto Sample = [](int X, int Y, int I) { return I == 0 ? 16 * X : 17 * Y; };
     const auto Grey = [](int X) { return qRgb(16 * X, 16 * X, 16 * X); };

@@ -111,10 +111,10 @@ class TiffReader {
     bool IsGrey() const { return Short(TIFFTAG_PHOTOMETRIC) <= PHOTOMETRIC_MINISBLACK; }
     bool IsForgotten() const;
     bool IsSeparate() const { return Short(TIFFTAG_PLANARCONFIG) == PLANARCONFIG_SEPARATE; }
-    bool IsOldJpeg() const { return Short(TIFFTAG_COMPRESSION) == COMPRESSION_OJPEG; }
     bool CanBeColours();
     bool CanBeInks() const;
     quint32 ExtraSample() const;
+    void NameForgottenAlpha();
     QImage::Format PixelFormat() const;
     QSize Size() const;
     QByteArray Profile() const;
@@ -130,11 +130,12 @@ class TiffReader {
     const PictureSource& mSource;
     Stream mStream;
     TiffHandle mFile;
+    TiffTags mTags;
     QImage mInks;
 };
 
 TiffReader::TiffReader(const PictureSource& Source)
-    : mSource(Source), mStream{Source.Bytes}, mFile(Open(mStream)) {}
+    : mSource(Source), mStream{Source.Bytes}, mFile(Open(mStream)), mTags(Source.Bytes) {}
 
 quint32 TiffReader::Number(quint32 Tag) const {
     quint32 Value = 0;
@@ -195,14 +196,23 @@ QByteArray TiffReader::Profile() const {
 }
 
 // What the first sample beyond the colours is. Where the file says that it does not tell, alpha is
-// not assumed; a fourth sample of which it says nothing at all is hardly ever anything else.
+// not assumed.
 quint32 TiffReader::ExtraSample() const {
     quint16 Count = 0;
     quint16* Kinds = nullptr;
     TIFFGetFieldDefaulted(mFile.get(), TIFFTAG_EXTRASAMPLES, &Count, &Kinds);
-    if (Count > 0) return Kinds[0];
-    return !IsGrey() && Short(TIFFTAG_SAMPLESPERPIXEL) == 4 ? EXTRASAMPLE_ASSOCALPHA
-                                                            : EXTRASAMPLE_UNSPECIFIED;
+    return Count > 0 ? Kinds[0] : EXTRASAMPLE_UNSPECIFIED;
+}
+
+// A fourth sample of which nothing is said at all is hardly ever anything but alpha. The library
+// fills in that its meaning is not known.
+void TiffReader::NameForgottenAlpha() {
+    const bool Four = Short(TIFFTAG_SAMPLESPERPIXEL) == 4;
+    if (!Four || Short(TIFFTAG_PHOTOMETRIC) != PHOTOMETRIC_RGB || !mTags.Valid() ||
+        mTags.Value(TIFFTAG_EXTRASAMPLES))
+        return;
+    const quint16 Alpha = EXTRASAMPLE_UNASSALPHA;
+    TIFFSetField(mFile.get(), TIFFTAG_EXTRASAMPLES, 1, &Alpha);
 }
 
 // The library leaves greys as they are where it makes colours smaller by their alpha.
@@ -295,8 +305,9 @@ DecodedPicture TiffReader::Decode() {
     const qint64 Most = PieceSize().Bytes;
     if (Most > LargestPiece) ThrowTooLarge(Stored);
     const DecodeBudget Budget(Stored, PixelCount(Stored) * 4 + Most * 4 + mSource.Bytes.size());
-    // The old way of JPEG says where its pieces are in so many ways that only reading tells.
-    if (!IsOldJpeg()) CheckIsWhole(mSource);
+    // Whether the pixels are all there shows when they are read.
+    if (mTags.Valid() && !mTags.ValuesAreInside()) ThrowEndsEarly();
+    NameForgottenAlpha();
     const quint32 Turn = Short(TIFFTAG_ORIENTATION);
     TIFFSetField(mFile.get(), TIFFTAG_ORIENTATION, ORIENTATION_TOPLEFT);
     const int Orientation = Turn >= 1 && Turn <= 8 ? static_cast<int>(Turn) : 1;
