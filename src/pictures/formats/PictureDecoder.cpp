@@ -19,7 +19,7 @@ struct FormatRow {
 // The formats with the surest marks stand first, those with hardly any last.
 constexpr FormatRow Formats[] = {
     {LooksLikeJpeg, DecodeJpeg, "jpeg", false},   {LooksLikePng, DecodeByQt, "png", false},
-    {LooksLikeTiff, DecodeTiff, "TIFF", false},   {LooksLikePsd, DecodeByMagick, "PSD", false},
+    {LooksLikeTiff, DecodeTiff, "TIFF", false},   {LooksLikePsd, DecodePsd, "PSD", false},
     {LooksLikeEmf, DecodeEmf, "emf", false},      {LooksLikeWmf, DecodeWmf, "wmf", false},
     {LooksLikePcd, DecodeByMagick, "PCD", false}, {LooksLikeGif, DecodeByQt, "gif", true},
     {LooksLikeWebp, DecodeByQt, "webp", true},    {LooksLikeHeic, DecodeByMagick, "HEIC", true},

@@ -17,6 +17,7 @@ DecodedPicture DecodeJpeg(const PictureSource& Source);
 DecodedPicture DecodeByQt(const PictureSource& Source);
 DecodedPicture DecodeBmp(const PictureSource& Source);
 DecodedPicture DecodePcx(const PictureSource& Source);
+DecodedPicture DecodePsd(const PictureSource& Source);
 DecodedPicture DecodeTga(const PictureSource& Source);
 DecodedPicture DecodeTiff(const PictureSource& Source);
 DecodedPicture DecodeByMagick(const PictureSource& Source);
