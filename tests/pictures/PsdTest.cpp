@@ -125,6 +125,15 @@ TEST(Psd, InksWithoutAColourSpaceAreInks) {
               PixelsOf(Psd({4, 6}, Planes({Reds, Greens, Blues, "ffffff ffffff", Mask, Mask}))));
 }
 
+TEST(Psd, PicturesOfOneBitAreOpaqueWhateverTheirMasks) {
+    const QImage Picture = DecodePicture(Psd({0, 3, 1}, "00 e0 00 00 e0 40")).Picture;
+    ASSERT_EQ(QSize(3, 2), Picture.size());
+    for (int Y = 0; Y < 2; ++Y)
+        for (int X = 0; X < 3; ++X)
+            EXPECT_EQ(Y == 0 ? 0xFFFFFFFF : 0xFF000000,
+                      reinterpret_cast<const QRgb*>(Picture.constScanLine(Y))[X]);
+}
+
 TEST(Psd, NoDamageDoesHarm) {
     const QByteArray Text = Planes({Reds, Greens, Blues, Mask, Mask, Mask});
     const QByteArray Good[] = {Psd({3, 6, 8, {}, -1, true}, Text), Psd({3, 6, 8}, Text),

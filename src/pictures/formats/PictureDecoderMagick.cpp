@@ -93,7 +93,10 @@ QImage Convert(Magick::Image& Image) {
     if (!IsRgb || Space == Magick::RGBColorspace) Image.colorSpace(Magick::sRGBColorspace);
     const bool Little = Q_BYTE_ORDER == Q_LITTLE_ENDIAN;
     QImage Picture = Fetch(Image, QImage::Format_ARGB32, Little ? "BGRA" : "ARGB");
-    if (!Image.matte()) Picture.reinterpretAsFormat(QImage::Format_RGB32);
+    if (!Image.matte()) {
+        Picture.reinterpretAsFormat(QImage::Format_RGB32);
+        MakeOpaque(Picture);  // the library leaves there what it likes
+    }
     return ToScreenColours(std::move(Picture), IsRgb ? Profile : QByteArray());
 }
 
