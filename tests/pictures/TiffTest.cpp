@@ -24,6 +24,7 @@ struct Kind {
     int Extra = -1;  // what the last sample is; -1: it is a colour
     bool Separate = false;
     bool Tiled = false;
+    int TileSide = Side;
 };
 
 // A picture of Side by Side pixels, each plane or all of it given as one strip or tile.
@@ -41,7 +42,7 @@ QByteArray Tiff(const Kind& What, const std::vector<QByteArray>& Planes) {
     const auto Extra = static_cast<quint16>(What.Extra);
     if (What.Extra >= 0) TIFFSetField(Out, TIFFTAG_EXTRASAMPLES, 1, &Extra);
     for (const int Tag : {TIFFTAG_TILEWIDTH, TIFFTAG_TILELENGTH})
-        if (What.Tiled) TIFFSetField(Out, Tag, Side);
+        if (What.Tiled) TIFFSetField(Out, Tag, What.TileSide);
     if (!What.Tiled) TIFFSetField(Out, TIFFTAG_ROWSPERSTRIP, Side);
     if (What.Compression == COMPRESSION_JPEG) TIFFSetField(Out, TIFFTAG_JPEGQUALITY, 100);
     for (quint32 I = 0; I < Planes.size(); ++I) {
@@ -250,6 +251,28 @@ TEST(Tiff, GreysWithAlphaAreLaidOnWhite) {
     ExpectSeen(Tiff({PHOTOMETRIC_MINISBLACK, 8, 2, COMPRESSION_NONE, EXTRASAMPLE_UNSPECIFIED},
                     {Contiguous(2, Sample)}),
                [&](int X, int) { return Grey(X); });
+}
+
+TEST(Tiff, TilesMayReachBeyondTheEdge) {
+    constexpr int Large = 32;
+    const auto Tile = [](int Samples) {
+        QByteArray Bytes;
+        for (int Y = 0; Y < Large; ++Y)
+            for (int X = 0; X < Large; ++X)
+                for (int I = 0; I < Samples; ++I) Bytes += static_cast<char>(Slope(X, Y, I + 2));
+        return Bytes;
+    };
+    const auto Grey = [](int X, int Y) {
+        const int Level = Slope(X, Y, 2);
+        return qRgb(Level, Level, Level);
+    };
+    const int Black = PHOTOMETRIC_MINISBLACK, Alpha = EXTRASAMPLE_UNASSALPHA;
+    ExpectSeen(Tiff({Black, 8, 1, COMPRESSION_NONE, -1, false, true, Large}, {Tile(1)}), Grey);
+    ExpectSeen(
+        Tiff({Black, 8, 2, COMPRESSION_NONE, Alpha, false, true, Large}, {Tile(2)}),
+        [&](int X, int Y) { return OnWhite(Grey(X, Y), Slope(X, Y, 3)); }, 2);
+    ExpectSeen(Tiff({PHOTOMETRIC_RGB, 8, 3, COMPRESSION_LZW, -1, false, true, Large}, {Tile(3)}),
+               [](int X, int Y) { return qRgb(Slope(X, Y, 2), Slope(X, Y, 3), Slope(X, Y, 4)); });
 }
 
 TEST(Tiff, ColoursThatHoldTheirAlphaAreLaidOnWhite) {

@@ -167,11 +167,12 @@ bool TiffReader::CanBeInks() const {
            Short(TIFFTAG_SAMPLESPERPIXEL) >= 4;
 }
 
-// The library passes over the alpha beside a palette, and over white being zero where the samples
-// of a pixel lie apart.
+// With more than one sample a pixel, the library passes over the alpha beside a palette, over white
+// being zero where the samples lie apart, and over parts of tiles of greys at the edge.
 bool TiffReader::IsForgotten() const {
-    const quint32 Kind = Short(TIFFTAG_PHOTOMETRIC);
-    return Kind == PHOTOMETRIC_PALETTE || (Kind == PHOTOMETRIC_MINISWHITE && IsSeparate());
+    if (Short(TIFFTAG_PHOTOMETRIC) == PHOTOMETRIC_PALETTE) return true;
+    const bool White = Short(TIFFTAG_PHOTOMETRIC) == PHOTOMETRIC_MINISWHITE;
+    return IsSeparate() ? White : IsGrey() && TIFFIsTiled(mFile.get());
 }
 
 bool TiffReader::Knows() {
