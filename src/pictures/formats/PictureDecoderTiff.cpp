@@ -305,7 +305,8 @@ DecodedPicture TiffReader::Decode() {
     if (Stored.isEmpty()) ThrowDamaged();
     const qint64 Most = PieceSize().Bytes;
     if (Most > LargestPiece) ThrowTooLarge(Stored);
-    const DecodeBudget Budget(Stored, PixelCount(Stored) * 4 + Most * 4 + mSource.Bytes.size());
+    const DecodeBudget Budget(
+        Stored, PixelCount(Stored) * 4 + Most * (IsSeparate() ? 4 : 1) + mSource.Bytes.size());
     // Whether the pixels are all there shows when they are read.
     if (mTags.Valid() && !mTags.ValuesAreInside()) ThrowEndsEarly();
     NameForgottenAlpha();
