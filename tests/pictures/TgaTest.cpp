@@ -91,6 +91,8 @@ TEST(Tga, PalettesOfEveryDepthAreRead) {
 TEST(Tga, APaletteMayBeginLaterAndEndEarly) {
     const Kind Late{1, 8, FromTheTop, 24, Hex("0000ff 00ff00"), 5};
     EXPECT_EQ("ff0000 00ff00 000000 000000", PixelsOf(Tga(Late, "05060704")));
+    const Kind Clear{1, 8, FromTheTop, 32, Hex("0000ffff 00ff00ff"), 5};
+    EXPECT_EQ("ff0000 00ff00 ffffff ffffff", PixelsOf(Tga(Clear, "05060704")));
 }
 
 TEST(Tga, PacketsGoOnInTheNextRow) {

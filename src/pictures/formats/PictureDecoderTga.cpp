@@ -71,10 +71,10 @@ QRgb TgaReader::GreyAt(qint64 At) const {
     return qRgba(Level, Level, Level, mDepth == 16 && mAlpha ? mBytes.U8(At + 1) : 255);
 }
 
-// The map may leave its first entries away. What it does not have is black.
+// The map may leave its first entries away. What it does not have is zero throughout.
 QRgb TgaReader::MappedAt(qint64 At) const {
     const int Index = (mDepth == 16 ? mBytes.U16(At) : mBytes.U8(At)) - mBytes.U16(3);
-    if (Index < 0 || Index >= mBytes.U16(5)) return qRgb(0, 0, 0);
+    if (Index < 0 || Index >= mBytes.U16(5)) return qRgba(0, 0, 0, mMapBits == 32 ? 0 : 255);
     return Colour(mMap + qint64(Index) * ((mMapBits + 7) / 8), mMapBits);
 }
 
