@@ -1,6 +1,6 @@
-// TIFF, PSD and PCD, and with the extra formats HEIC and AVIF, by Magick++. It reads the
-// kinds of TIFF that Qt does not (CMYK, Lab), and reading some by Qt beside it ends in a crash:
-// the complaints of the one TIFF library that both use go to whoever asked for them last.
+// PCD, the finer kinds of TIFF and most PSD, and with the extra formats HEIC and AVIF, by Magick++.
+// No picture may go to the TIFF reader of Qt: the complaints of the one TIFF library that both use
+// go to whoever asked for them last, and end in a crash.
 #include <Magick++.h>
 
 #include "pictures/formats/PictureColour.h"
