@@ -1,5 +1,7 @@
-// PCX pictures of the smallest sizes: their header tells the first and the last column and row, so
-// that a side of one pixel begins where it ends.
+// PCX pictures, built byte by byte. Of the smallest sizes: their header tells the first and the
+// last column and row, so that a side of one pixel begins where it ends. And of every kind of
+// plane and palette.
+#include "DamagedBytes.h"
 #include "Pictures.h"
 #include "pictures/formats/PictureFaults.h"
 
@@ -66,6 +68,86 @@ TEST(Pcx, AnEndBeforeItsBeginningIsNoPicture) {
         WriteFile(File, Bytes);
         EXPECT_EQ(FaultUnknownPicture, FaultOf(File)) << LastX << ' ' << LastY;
     }
+}
+
+struct Kind {
+    int Version;
+    int Bits;
+    int Planes;
+    QByteArray Palette = {};
+    bool Packed = true;
+};
+
+// A picture of one row, six pixels wide.
+QByteArray Row(const Kind& What, const char* Pixels) {
+    const QByteArray Body = QByteArray::fromHex(Pixels);
+    const auto Byte = [](int Value) { return QByteArray(1, static_cast<char>(Value)); };
+    QByteArray Head = Byte(10) + Byte(What.Version) + Byte(What.Packed) + Byte(What.Bits) +
+                      QByteArray::fromHex("00000000 0500 0000 4800 4800") + What.Palette;
+    Head.resize(65, 0);
+    Head += Byte(What.Planes) + Byte(What.Bits == 8 ? 6 : What.Bits == 4 ? 4 : 2);
+    Head.resize(128, 0);
+    return Head + Body;
+}
+
+std::string ColoursOf(const QByteArray& Bytes) {
+    return PixelsOf(DecodePicture(Bytes).Picture);
+}
+
+constexpr const char* BlackAndWhite = "#000000 #ffffff #ffffff #000000 #000000 #ffffff";
+
+TEST(Pcx, OneBitIsBlackAndWhite) {
+    const QByteArray LeftOver = QByteArray::fromHex("0000aa 00aa00 aa0000 aaaaaa");
+    for (const Kind& What : {Kind{5, 1, 1}, Kind{3, 1, 1}, Kind{2, 1, 1}, Kind{0, 1, 1},
+                             Kind{5, 1, 1, LeftOver}, Kind{3, 1, 1, LeftOver}})
+        EXPECT_EQ(BlackAndWhite, ColoursOf(Row(What, "64 00")));
+}
+
+TEST(Pcx, OneBitHasTheTwoColoursOfAPaletteMadeForIt) {
+    const QByteArray Own = QByteArray::fromHex("ff0000 ffff00");
+    EXPECT_EQ("#ff0000 #ffff00 #ffff00 #ff0000 #ff0000 #ffff00",
+              ColoursOf(Row({5, 1, 1, Own}, "64 00")));
+}
+
+TEST(Pcx, SixteenColoursComeInPlanesOrInHalvesOfBytes) {
+    QByteArray Palette;
+    for (int I = 0; I < 16; ++I) Palette += QByteArray(3, static_cast<char>(I * 17));
+    const std::string Seen = "#000000 #111111 #222222 #444444 #888888 #ffffff";
+    EXPECT_EQ(Seen, ColoursOf(Row({5, 4, 1, Palette}, "01 24 8f 00")));
+    EXPECT_EQ(Seen, ColoursOf(Row({5, 1, 4, Palette}, "44 00 24 00 14 00 0c 00")));
+    EXPECT_EQ("#000000 #333333 #222222 #111111 #000000 #333333",
+              ColoursOf(Row({5, 2, 1, Palette}, "39 30")));
+}
+
+TEST(Pcx, WithoutAPaletteSixteenColoursAreTheScreens) {
+    for (const int Version : {3, 5})
+        EXPECT_EQ("#000000 #0000aa #00aa00 #aa0000 #555555 #ffffff",
+                  ColoursOf(Row({Version, 4, 1}, "01 24 8f 00")));
+}
+
+TEST(Pcx, A256ColourPaletteStandsAtTheEnd) {
+    QByteArray Bytes = Row({5, 8, 1}, "00 01 02 03 C1FF C1C0");
+    EXPECT_EQ("#000000 #010101 #020202 #030303 #ffffff #c0c0c0", ColoursOf(Bytes));
+    Bytes += char(12);
+    for (int I = 0; I < 256; ++I) Bytes += QByteArray::fromHex("00") + char(255 - I) + char(I);
+    EXPECT_EQ("#00ff00 #00fe01 #00fd02 #00fc03 #0000ff #003fc0", ColoursOf(Bytes));
+    EXPECT_EQ(FaultEndsEarly, FaultOfBytes(Bytes.chopped(1)));
+    EXPECT_EQ(FaultEndsEarly, FaultOfBytes(Bytes.chopped(767)));
+}
+
+TEST(Pcx, UnpackedRowsAreTakenAsTheyAre) {
+    EXPECT_EQ("#c0c0c0 #c1c1c1 #ffffff #000000 #101010 #202020",
+              ColoursOf(Row({5, 8, 1, {}, false}, "c0 c1 ff 00 10 20")));
+}
+
+TEST(Pcx, NoDamageDoesHarm) {
+    const QByteArray Good[] = {Row({5, 1, 1}, "64 00"), Row({5, 1, 4}, "44 00 24 00 14 00 0c 00"),
+                               Row({5, 8, 1}, "00 01 02 03 C1FF C1C0"), Pcx(0, 0, 2, 2)};
+    for (const QByteArray& Bytes : Good) ExpectFlipsDoNoHarm(Bytes);
+    // A row's filling may be missing, more may not.
+    const QByteArray Whole = Pcx(0, 0, 3, 3);
+    for (qsizetype Length = 0; Length < Whole.size() - 8; ++Length)
+        EXPECT_NE(0U, FaultOfBytes(Whole.left(Length))) << Length;
 }
 
 }  // namespace

@@ -97,6 +97,15 @@ void PlainInksToColours(QImage& Picture) {
     }
 }
 
+bool IsAllClear(const QImage& Picture) {
+    for (int Y = 0; Y < Picture.height(); ++Y) {
+        const auto* Line = reinterpret_cast<const QRgb*>(Picture.constScanLine(Y));
+        if (std::any_of(Line, Line + Picture.width(), [](QRgb P) { return qAlpha(P) != 0; }))
+            return false;
+    }
+    return true;
+}
+
 }  // namespace
 
 QImage ToScreenColours(QImage Picture, const QByteArray& Profile) {
@@ -130,6 +139,12 @@ void MakeOpaque(QImage& Picture) {
         auto* Line = reinterpret_cast<QRgb*>(Picture.scanLine(Y));
         std::for_each(Line, Line + Picture.width(), [](QRgb& Pixel) { Pixel |= 0xFF000000; });
     }
+}
+
+void MakeOpaqueIfAllClear(QImage& Picture) {
+    if (!Picture.hasAlphaChannel() || !IsAllClear(Picture)) return;
+    Picture.reinterpretAsFormat(QImage::Format_RGB32);
+    MakeOpaque(Picture);
 }
 
 QByteArray AdobeRgbProfile() {

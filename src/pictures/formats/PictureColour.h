@@ -18,6 +18,10 @@ void InksToScreenColours(QImage& Picture, const QByteArray& Profile);
 // Sets the unused byte of every pixel of a Format_RGB32 picture, as it has to be.
 void MakeOpaque(QImage& Picture);
 
+// Many programs write the fourth byte of every pixel as zero and mean an opaque picture all the
+// same: such a Format_ARGB32 picture becomes a Format_RGB32 one. Others stay as they are.
+void MakeOpaqueIfAllClear(QImage& Picture);
+
 // The profile of Adobe RGB (1998).
 QByteArray AdobeRgbProfile();
 

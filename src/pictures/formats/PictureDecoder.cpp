@@ -18,14 +18,14 @@ struct FormatRow {
 
 // The formats with the surest marks stand first, those with hardly any last.
 constexpr FormatRow Formats[] = {
-    {LooksLikeJpeg, DecodeJpeg, "jpeg", false},     {LooksLikePng, DecodeByQt, "png", false},
-    {LooksLikeTiff, DecodeByMagick, "TIFF", false}, {LooksLikePsd, DecodeByMagick, "PSD", false},
-    {LooksLikeEmf, DecodeEmf, "emf", false},        {LooksLikeWmf, DecodeWmf, "wmf", false},
-    {LooksLikePcd, DecodeByMagick, "PCD", false},   {LooksLikeGif, DecodeByQt, "gif", true},
-    {LooksLikeWebp, DecodeByQt, "webp", true},      {LooksLikeHeic, DecodeHeif, "heif", true},
-    {LooksLikeJp2, DecodeJp2, "jp2", true},         {LooksLikeBmp, DecodeBmp, "bmp", false},
-    {LooksLikePcx, DecodeByMagick, "PCX", false},   {LooksLikeWbmp, DecodeByQt, "wbmp", false},
-    {LooksLikeTga, DecodeByMagick, "TGA", false},
+    {LooksLikeJpeg, DecodeJpeg, "jpeg", false},   {LooksLikePng, DecodeByQt, "png", false},
+    {LooksLikeTiff, DecodeTiff, "TIFF", false},   {LooksLikePsd, DecodePsd, "PSD", false},
+    {LooksLikeEmf, DecodeEmf, "emf", false},      {LooksLikeWmf, DecodeWmf, "wmf", false},
+    {LooksLikePcd, DecodeByMagick, "PCD", false}, {LooksLikeGif, DecodeByQt, "gif", true},
+    {LooksLikeWebp, DecodeByQt, "webp", true},    {LooksLikeHeic, DecodeHeif, "heif", true},
+    {LooksLikeJp2, DecodeJp2, "jp2", true},       {LooksLikeBmp, DecodeBmp, "bmp", false},
+    {LooksLikePcx, DecodePcx, "PCX", false},      {LooksLikeWbmp, DecodeByQt, "wbmp", false},
+    {LooksLikeTga, DecodeTga, "TGA", false},
 };
 
 const FormatRow* FindFormat(const ByteView& Bytes) {

@@ -1,6 +1,6 @@
-// TIFF, PSD, PCD, PCX and TGA by Magick++. It reads the kinds of TIFF that Qt does not (CMYK, Lab),
-// and reading some by Qt beside it ends in a crash: the complaints of the one TIFF library that
-// both use go to whoever asked for them last.
+// PCD, the finer kinds of TIFF and most PSD by Magick++. No picture may go to the TIFF reader of Qt:
+// the complaints of the one TIFF library that both use go to whoever asked for them last, and end
+// in a crash.
 #include <Magick++.h>
 
 #include "pictures/formats/PictureColour.h"
@@ -81,17 +81,7 @@ QImage Fetch(Magick::Image& Image, QImage::Format Format, const char* Order) {
     return Picture;
 }
 
-// Many programs write a TGA's fourth byte as zero and mean an opaque picture all the same.
-bool IsAllClear(const QImage& Picture) {
-    for (int Y = 0; Y < Picture.height(); ++Y) {
-        const auto* Line = reinterpret_cast<const QRgb*>(Picture.constScanLine(Y));
-        if (std::any_of(Line, Line + Picture.width(), [](QRgb P) { return qAlpha(P) != 0; }))
-            return false;
-    }
-    return true;
-}
-
-QImage Convert(Magick::Image& Image, const PictureSource& Source) {
+QImage Convert(Magick::Image& Image) {
     const QByteArray Profile = ProfileOf(Image);
     if (Image.colorSpace() == Magick::CMYKColorspace && !Image.matte()) {
         QImage Picture = Fetch(Image, QImage::Format_RGB32, "CMYK");
@@ -104,9 +94,10 @@ QImage Convert(Magick::Image& Image, const PictureSource& Source) {
     if (!IsRgb || Space == Magick::RGBColorspace) Image.colorSpace(Magick::sRGBColorspace);
     const bool Little = Q_BYTE_ORDER == Q_LITTLE_ENDIAN;
     QImage Picture = Fetch(Image, QImage::Format_ARGB32, Little ? "BGRA" : "ARGB");
-    const bool Opaque =
-        !Image.matte() || (qstrcmp(Source.Format, "TGA") == 0 && IsAllClear(Picture));
-    if (Opaque) Picture.reinterpretAsFormat(QImage::Format_RGB32);
+    if (!Image.matte()) {
+        Picture.reinterpretAsFormat(QImage::Format_RGB32);
+        MakeOpaque(Picture);  // the library leaves there what it likes
+    }
     return ToScreenColours(std::move(Picture), IsRgb ? Profile : QByteArray());
 }
 
@@ -135,7 +126,7 @@ DecodedPicture Decode(const PictureSource& Source) {
     ReadImage(*Image, Source, false);
     if (SizeOf(*Image).isEmpty()) ThrowDamaged();
     const int Orientation = TurnOf(*Image, Source);
-    QImage Picture = Convert(*Image, Source);
+    QImage Picture = Convert(*Image);
     Image.reset();
     Picture = Upright(Picture, Orientation);
     const QSize Full = Picture.size();

@@ -1,4 +1,4 @@
-// PNG, BMP and WBMP, and with the extra formats GIF and WebP, by Qt's readers.
+// PNG and WBMP, and with the extra formats GIF and WebP, by Qt's readers.
 #include <QBuffer>
 #include <QColorSpace>
 #include <QImageReader>
@@ -39,19 +39,12 @@ QByteArray ProfileOf(const QImage& Picture, const PictureSource& Source) {
 
 }  // namespace
 
-// Qt leaves the colours of 16-bit bitmaps too dark: white would be grey.
-DecodedPicture DecodeBmp(const PictureSource& Source) {
-    if (BmpLayout(Source.Bytes).Depth != 16) return DecodeByQt(Source);
-    return DecodeByMagick({Source.Bytes, "BMP", Source.Needed});
-}
-
 DecodedPicture DecodeByQt(const PictureSource& Source) {
     LiftReaderLimit();
     QBuffer Buffer(const_cast<QByteArray*>(&Source.Bytes));
     Buffer.open(QIODevice::ReadOnly);
     QImageReader Reader(&Buffer, Source.Format);
-    const bool IsBmp = qstrcmp(Source.Format, "bmp") == 0;
-    const QSize Stored = IsBmp ? BmpLayout(Source.Bytes).Size : Reader.size();
+    const QSize Stored = Reader.size();
     if (Stored.isEmpty()) {
         CheckIsWhole(Source);
         ThrowDamaged();

@@ -16,6 +16,10 @@ struct PictureSource {
 DecodedPicture DecodeJpeg(const PictureSource& Source);
 DecodedPicture DecodeByQt(const PictureSource& Source);
 DecodedPicture DecodeBmp(const PictureSource& Source);
+DecodedPicture DecodePcx(const PictureSource& Source);
+DecodedPicture DecodePsd(const PictureSource& Source);
+DecodedPicture DecodeTga(const PictureSource& Source);
+DecodedPicture DecodeTiff(const PictureSource& Source);
 DecodedPicture DecodeByMagick(const PictureSource& Source);
 DecodedPicture DecodeHeif(const PictureSource& Source);
 DecodedPicture DecodeJp2(const PictureSource& Source);

@@ -43,7 +43,8 @@ bool TgaMapFits(const ByteView& Bytes) {
 bool TgaDepthFits(const ByteView& Bytes) {
     const int Kind = Bytes.U8(2) & 7;
     if (Kind == 2) return IsOneOf(Bytes.U8(16), {15, 16, 24, 32});
-    return IsOneOf(Bytes.U8(16), {8, 16});
+    const bool Bits = Bytes.U8(2) == 3 && Bytes.U8(16) == 1;
+    return Bits || IsOneOf(Bytes.U8(16), {8, 16});
 }
 
 }  // namespace

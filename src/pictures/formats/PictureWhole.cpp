@@ -15,12 +15,13 @@ constexpr qint64 MostSide = 1 << 24;
 // reaches the last row is whole as well.
 bool PackedBmpIsWhole(const ByteView& Bytes, const BmpHeader& Header) {
     enum { EndOfRow = 0, EndOfPicture = 1, Jump = 2 };
-    const bool Nibbles = Header.Depth == 4;
+    const int ColourBytes = std::max(Header.Depth / 8, 1);
     qint64 Row = 0, Column = 0;
     for (qint64 At = Header.Pixels; Bytes.Has(At, 2);) {
         const int Count = Bytes.U8(At), Code = Bytes.U8(At + 1);
         At += 2;
         if (Count > 0) {
+            At += ColourBytes - 1;
             Column += Count;
         } else if (Code == EndOfRow) {
             ++Row;
@@ -32,7 +33,7 @@ bool PackedBmpIsWhole(const ByteView& Bytes, const BmpHeader& Header) {
             Row += Bytes.U8(At + 1);
             At += 2;
         } else {
-            const int Length = Nibbles ? (Code + 1) / 2 : Code;
+            const int Length = (Code * Header.Depth + 7) / 8;
             At += Length + (Length & 1);
             Column += Code;
         }
@@ -43,8 +44,8 @@ bool PackedBmpIsWhole(const ByteView& Bytes, const BmpHeader& Header) {
 
 bool BmpIsWhole(const ByteView& Bytes) {
     const BmpHeader Header = BmpLayout(Bytes);
-    constexpr quint32 Packed8 = 1, Packed4 = 2;
-    if (Header.Packing == Packed8 || Header.Packing == Packed4)
+    constexpr quint32 Packed8 = 1, Packed4 = 2, Packed24 = 4;
+    if (Header.Packing == Packed8 || Header.Packing == Packed4 || Header.Packing == Packed24)
         return PackedBmpIsWhole(Bytes, Header);
     const qint64 Stride = (qint64(Header.Size.width()) * Header.Depth + 31) / 32 * 4;
     return Bytes.Has(Header.Pixels, Stride * Header.Size.height());
@@ -73,8 +74,9 @@ bool TgaIsWhole(const ByteView& Bytes) {
     const int PixelLength = (Bytes.U8(16) + 7) / 8;
     const qint64 Map = Bytes.U8(1) ? Bytes.U16(5) * qint64((Bytes.U8(7) + 7) / 8) : 0;
     const qint64 Start = 18 + Bytes.U8(0) + Map;
-    const qint64 Pixels = qint64(Bytes.U16(12)) * Bytes.U16(14);
+    const qint64 Width = Bytes.U16(12), Pixels = Width * Bytes.U16(14);
     if (Bytes.U8(2) >= 9) return PackedTgaIsWhole(Bytes, Start, Pixels, PixelLength);
+    if (Bytes.U8(16) == 1) return Bytes.Has(Start, (Width + 7) / 8 * Bytes.U16(14));
     return Bytes.Has(Start, Pixels * PixelLength);
 }
 

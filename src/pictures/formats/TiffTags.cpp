@@ -61,15 +61,20 @@ bool TiffTags::PiecesAreInside(quint16 PlaceTag, quint16 LengthTag) const {
     return true;
 }
 
-bool TiffTags::IsWhole() const {
-    constexpr quint16 Strips = 273, StripLengths = 279, Tiles = 324, TileLengths = 325;
+bool TiffTags::ValuesAreInside() const {
     const int Count = mBytes.U16(mFirst, mBig);
     if (!mBytes.Has(mFirst, 2 + qint64(Count) * EntryLength)) return false;
     for (qint64 I = 0; I < Count; ++I) {
         const Values All = ValuesOf(qint64(mFirst) + 2 + I * EntryLength);
         if (!mBytes.Has(All.At, qint64(All.Count) * All.Width)) return false;
     }
-    return PiecesAreInside(Strips, StripLengths) && PiecesAreInside(Tiles, TileLengths);
+    return true;
+}
+
+bool TiffTags::IsWhole() const {
+    constexpr quint16 Strips = 273, StripLengths = 279, Tiles = 324, TileLengths = 325;
+    return ValuesAreInside() && PiecesAreInside(Strips, StripLengths) &&
+           PiecesAreInside(Tiles, TileLengths);
 }
 
 std::optional<quint32> TiffTags::ValueBehind(quint16 PointerTag, quint16 Tag) const {

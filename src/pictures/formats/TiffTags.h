@@ -26,7 +26,9 @@ class TiffTags {
     int Orientation() const;
     // Cameras that shoot in Adobe RGB say so by this mark and embed no profile.
     bool IsAdobeRgb() const;
-    // All values of the first directory and all strips or tiles of its picture are in the file.
+    // All values of the first directory are in the file.
+    bool ValuesAreInside() const;
+    // And so are all strips or tiles of its picture.
     bool IsWhole() const;
 
   private:

@@ -81,7 +81,7 @@ void PictureRows::Sort(PictureOrder Order, int First) {
 QString PictureRows::Proposed(const FlexGrid& Grid, int Row, bool OwnWords) const {
     const QString& Path = Grid.TextMatrix(Row, ColPath);
     return OwnWords ? ProposedCaption(Path, mSpool->Facts(NumberOf(Grid, Row)))
-                    : ReadableText(GetFileBaseName(Path));
+                    : CaptionByName(Path);
 }
 
 void PictureRows::ProposeIn(FlexGrid& Grid, bool OwnWords) {
