@@ -100,7 +100,7 @@ void ImgX::SetPicture(const QImage& Picture) {
 void ImgX::Resize(int W, int H, int Selector) {
     if (mPicture.isNull()) return;
     if (W < 1 || H < 1 || qint64(W) * H > MostPixels) ThrowTooLarge({W, H});
-    const auto Filter = Selector == ThumbnailSelector ? ResizeFilter::Area : ResizeFilter::Lanczos;
+    const auto Filter = Selector == ThumbnailSelector ? ResizeFilter::Area : ResizeFilter::Sharp;
     mPicture = ResizePicture(mPicture, {W, H}, Filter);
     mFull = mPicture.size();
 }
