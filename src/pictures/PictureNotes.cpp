@@ -1,0 +1,182 @@
+#include "pictures/PictureNotes.h"
+
+#include <QRegularExpression>
+#include <exiv2/exiv2.hpp>
+#include <mutex>
+
+#include "pictures/ExifBlock.h"
+#include "pictures/JpegParts.h"
+
+namespace neb {
+namespace {
+
+// No picture has as much to say; the rest is a small picture, or somebody's joke.
+constexpr long LongestValue = 8000;
+constexpr uint16_t LastOfPixels = 0x0103;  // the first tags of a TIFF picture are its layout
+
+// The library's part for packets is not made for threads.
+void SetUpOnce() {
+    static std::once_flag Once;
+    static std::recursive_mutex Guard;
+    std::call_once(Once, [] {
+        Exiv2::LogMsg::setLevel(Exiv2::LogMsg::mute);
+        Exiv2::enableBMFF(true);
+        Exiv2::XmpParser::initialize(
+            [](void* Lock, bool Locks) {
+                auto* Of = static_cast<std::recursive_mutex*>(Lock);
+                Locks ? Of->lock() : Of->unlock();
+            },
+            &Guard);
+    });
+}
+
+const Exiv2::byte* BytesOf(QByteArrayView View) {
+    return reinterpret_cast<const Exiv2::byte*>(View.data());
+}
+
+QByteArray BytesOf(const Exiv2::Blob& Blob) {
+    return {reinterpret_cast<const char*>(Blob.data()), static_cast<qsizetype>(Blob.size())};
+}
+
+// What the blocks of a photograph are about, and not where the pixels of a TIFF lie.
+bool IsOfPicture(const Exiv2::Exifdatum& Each, bool KeepsPlace) {
+    constexpr uint16_t Layout[] = {0x0106, 0x0111, 0x0112, 0x0115, 0x0116, 0x0117, 0x011C, 0x013D,
+                                   0x0140, 0x0142, 0x0143, 0x0144, 0x0145, 0x014A, 0x0152, 0x0153,
+                                   0x015B, 0x0211, 0x0212, 0x0213, 0x0214, 0x02BC, 0x83BB, 0x8649,
+                                   0x8769, 0x8773, 0x8825, 0x927C, 0xA001, 0xA002, 0xA003, 0xA005};
+    const std::string Group = Each.groupName();
+    const uint16_t Tag = Each.tag();
+    if (Each.size() > LongestValue) return false;
+    if (Group == "GPSInfo") return KeepsPlace;
+    if (Group == "Image" && (Tag <= LastOfPixels || Tag >= 0xC612)) return false;
+    return (Group == "Image" || Group == "Photo") &&
+           std::ranges::find(Layout, Tag) == std::end(Layout);
+}
+
+QByteArray ExifPart(const Exiv2::ExifData& All, QSize Pixels, bool KeepsPlace) {
+    Exiv2::ExifData Kept;
+    for (const auto& Each : All)
+        if (IsOfPicture(Each, KeepsPlace)) Kept.add(Each);
+    if (Kept.empty()) return {};
+    Kept["Exif.Image.Orientation"] = uint16_t(1);
+    Kept["Exif.Photo.ColorSpace"] = uint16_t(1);
+    Kept["Exif.Photo.PixelXDimension"] = uint32_t(Pixels.width());
+    Kept["Exif.Photo.PixelYDimension"] = uint32_t(Pixels.height());
+    Exiv2::Blob Block;
+    Exiv2::ExifParser::encode(Block, Exiv2::littleEndian, Kept);
+    return JpegPartOf(ExifMarker, ExifMark + BytesOf(Block));
+}
+
+bool TellsPlace(const std::string& Key) {
+    const QString Name = QString::fromStdString(Key);
+    for (const auto* Word : {"gps", "latitude", "longitude"})
+        if (Name.contains(QLatin1String(Word), Qt::CaseInsensitive)) return true;
+    return false;
+}
+
+bool TellsPixels(const std::string& Key) {
+    constexpr const char* Starts[] = {"Xmp.tiff.Orientation",
+                                      "Xmp.tiff.ImageWidth",
+                                      "Xmp.tiff.ImageLength",
+                                      "Xmp.exif.PixelXDimension",
+                                      "Xmp.exif.PixelYDimension",
+                                      "Xmp.exif.ColorSpace",
+                                      "Xmp.photoshop.ICCProfile",
+                                      "Xmp.xmp.Thumbnails",
+                                      "Xmp.xmpNote",
+                                      "Xmp.GCamera",
+                                      "Xmp.Container",
+                                      "Xmp.hdrgm",
+                                      "Xmp.crs"};
+    return std::ranges::any_of(Starts, [&](const char* Start) { return Key.starts_with(Start); });
+}
+
+template <class Test>
+bool Erase(Exiv2::XmpData& From, Test Goes) {
+    const long Before = From.count();
+    for (auto At = From.begin(); At != From.end();)
+        At = Goes(At->key()) ? From.erase(At) : std::next(At);
+    return From.count() != Before;
+}
+
+QByteArray XmpPart(const Exiv2::XmpData& All) {
+    std::string Packet;
+    constexpr auto Form = Exiv2::XmpParser::useCompactFormat | Exiv2::XmpParser::omitAllFormatting;
+    if (All.empty() || Exiv2::XmpParser::encode(Packet, All, Form) != 0) return {};
+    return JpegPartOf(ExifMarker, XmpMark + QByteArray::fromStdString(Packet));
+}
+
+QByteArray IptcPart(const Exiv2::IptcData& All) {
+    if (All.empty()) return {};
+    const Exiv2::DataBuf Resource = Exiv2::Photoshop::setIptcIrb(nullptr, 0, All);
+    return JpegPartOf(
+        PhotoshopMarker,
+        PhotoshopMark + QByteArray(reinterpret_cast<const char*>(Resource.pData_), Resource.size_));
+}
+
+// Nothing when the part cannot be made, which takes none of the others with it.
+template <class Maker>
+QByteArray OrNothing(Maker Make) try {
+    return Make();
+} catch (const std::exception&) {
+    return {};
+}
+
+QByteArray XmpWithoutPlace(const JpegPart& Part, const QByteArray& AsItIs) {
+    SetUpOnce();
+    return OrNothing([&]() -> QByteArray {
+        Exiv2::XmpData All;
+        if (Exiv2::XmpParser::decode(All, Part.Xmp().toByteArray().toStdString()) != 0) return {};
+        return Erase(All, TellsPlace) ? XmpPart(All) : AsItIs;
+    });
+}
+
+QByteArray ExifPartOf(const QByteArray& Block) {
+    return JpegPartOf(ExifMarker, ExifMark + Block);
+}
+
+}  // namespace
+
+QByteArray NotesFor(QSize Pixels, const QByteArray& Source, bool KeepsPlace) {
+    SetUpOnce();
+    return OrNothing([&] {
+        const auto File = Exiv2::ImageFactory::open(BytesOf(Source), Source.size());
+        File->readMetadata();
+        Exiv2::XmpData Packet = File->xmpData();
+        Erase(Packet, TellsPixels);
+        if (!KeepsPlace) Erase(Packet, TellsPlace);
+        return OrNothing([&] { return ExifPart(File->exifData(), Pixels, KeepsPlace); }) +
+               OrNothing([&] { return XmpPart(Packet); }) +
+               OrNothing([&] { return IptcPart(File->iptcData()); });
+    });
+}
+
+QByteArray WithoutPlace(const QByteArray& Jpeg) {
+    const auto Parts = PartsOf(Jpeg);
+    if (!Parts) return Jpeg;
+    return WithParts(Jpeg, *Parts, [&](const JpegPart& Part) {
+        const QByteArray AsItIs = Jpeg.mid(Part.At, Part.Length);
+        if (Part.IsXmp()) return XmpWithoutPlace(Part, AsItIs);
+        if (Part.IsMoreXmp()) return QByteArray();
+        if (!Part.IsExif()) return AsItIs;
+        QByteArray Block = Part.Exif().toByteArray();
+        return ExifBlock(Block).DropPlace() ? ExifPartOf(Block) : AsItIs;
+    });
+}
+
+QByteArray SaidUpright(const QByteArray& Jpeg) {
+    static const QRegularExpression Turned(QStringLiteral("(tiff:Orientation\\W+)[2-8]"));
+    const auto Parts = PartsOf(Jpeg);
+    if (!Parts) return Jpeg;
+    return WithParts(Jpeg, *Parts, [&](const JpegPart& Part) {
+        QByteArray AsItIs = Jpeg.mid(Part.At, Part.Length);
+        if (Part.IsXmp())  // one letter for another: the length stays
+            return QString::fromLatin1(AsItIs).replace(Turned, QStringLiteral("\\g11")).toLatin1();
+        if (!Part.IsExif()) return AsItIs;
+        QByteArray Block = Part.Exif().toByteArray();
+        ExifBlock(Block).SetUpright(Parts->Stored);
+        return ExifPartOf(Block);
+    });
+}
+
+}  // namespace neb
