@@ -131,6 +131,14 @@ QByteArray XmpWithoutPlace(const JpegPart& Part, const QByteArray& AsItIs) {
     });
 }
 
+// One letter for another: the length stays.
+QByteArray XmpUpright(QByteArray Part) {
+    static const QRegularExpression Lying(QStringLiteral("tiff:Orientation\\W+([2-8])"));
+    auto Each = Lying.globalMatch(QString::fromLatin1(Part));
+    while (Each.hasNext()) Part[Each.next().capturedStart(1)] = '1';
+    return Part;
+}
+
 QByteArray ExifPartOf(const QByteArray& Block) {
     return JpegPartOf(ExifMarker, ExifMark + Block);
 }
@@ -165,13 +173,11 @@ QByteArray WithoutPlace(const QByteArray& Jpeg) {
 }
 
 QByteArray SaidUpright(const QByteArray& Jpeg) {
-    static const QRegularExpression Turned(QStringLiteral("(tiff:Orientation\\W+)[2-8]"));
     const auto Parts = PartsOf(Jpeg);
     if (!Parts) return Jpeg;
     return WithParts(Jpeg, *Parts, [&](const JpegPart& Part) {
-        QByteArray AsItIs = Jpeg.mid(Part.At, Part.Length);
-        if (Part.IsXmp())  // one letter for another: the length stays
-            return QString::fromLatin1(AsItIs).replace(Turned, QStringLiteral("\\g11")).toLatin1();
+        const QByteArray AsItIs = Jpeg.mid(Part.At, Part.Length);
+        if (Part.IsXmp()) return XmpUpright(AsItIs);
         if (!Part.IsExif()) return AsItIs;
         QByteArray Block = Part.Exif().toByteArray();
         ExifBlock(Block).SetUpright(Parts->Stored);
