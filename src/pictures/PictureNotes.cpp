@@ -5,6 +5,7 @@
 #include <mutex>
 
 #include "pictures/ExifBlock.h"
+#include "pictures/HeifBlocks.h"
 #include "pictures/JpegParts.h"
 
 namespace neb {
@@ -20,7 +21,6 @@ void SetUpOnce() {
     static std::recursive_mutex Guard;
     std::call_once(Once, [] {
         Exiv2::LogMsg::setLevel(Exiv2::LogMsg::mute);
-        Exiv2::enableBMFF(true);
         Exiv2::XmpParser::initialize(
             [](void* Lock, bool Locks) {
                 auto* Of = static_cast<std::recursive_mutex*>(Lock);
@@ -59,6 +59,7 @@ QByteArray ExifPart(const Exiv2::ExifData& All, QSize Pixels, bool KeepsPlace) {
         if (IsOfPicture(Each, KeepsPlace)) Kept.add(Each);
     if (Kept.empty()) return {};
     Kept["Exif.Image.Orientation"] = uint16_t(1);
+    Kept["Exif.Image.YCbCrPositioning"] = uint16_t(1);
     Kept["Exif.Photo.ColorSpace"] = uint16_t(1);
     Kept["Exif.Photo.PixelXDimension"] = uint32_t(Pixels.width());
     Kept["Exif.Photo.PixelYDimension"] = uint32_t(Pixels.height());
@@ -122,6 +123,27 @@ QByteArray OrNothing(Maker Make) try {
     return {};
 }
 
+struct Said {
+    Exiv2::ExifData Exif;
+    Exiv2::XmpData Xmp;
+    Exiv2::IptcData Iptc;
+};
+
+Said SaidBy(const QByteArray& File) {
+    const auto Opened = Exiv2::ImageFactory::open(BytesOf(File), File.size());
+    Opened->readMetadata();
+    return {Opened->exifData(), Opened->xmpData(), Opened->iptcData()};
+}
+
+// The library knows too few of these files.
+Said SaidByHeif(const QByteArray& File) {
+    const HeifBlocks Blocks = BlocksOfHeif(File);
+    Said Found;
+    Exiv2::ExifParser::decode(Found.Exif, BytesOf(Blocks.Exif), uint32_t(Blocks.Exif.size()));
+    Exiv2::XmpParser::decode(Found.Xmp, Blocks.Xmp.toStdString());
+    return Found;
+}
+
 QByteArray XmpWithoutPlace(const JpegPart& Part, const QByteArray& AsItIs) {
     SetUpOnce();
     return OrNothing([&]() -> QByteArray {
@@ -148,14 +170,12 @@ QByteArray ExifPartOf(const QByteArray& Block) {
 QByteArray NotesFor(QSize Pixels, const QByteArray& Source, bool KeepsPlace) {
     SetUpOnce();
     return OrNothing([&] {
-        const auto File = Exiv2::ImageFactory::open(BytesOf(Source), Source.size());
-        File->readMetadata();
-        Exiv2::XmpData Packet = File->xmpData();
-        Erase(Packet, TellsPixels);
-        if (!KeepsPlace) Erase(Packet, TellsPlace);
-        return OrNothing([&] { return ExifPart(File->exifData(), Pixels, KeepsPlace); }) +
-               OrNothing([&] { return XmpPart(Packet); }) +
-               OrNothing([&] { return IptcPart(File->iptcData()); });
+        Said All = IsHeif(Source) ? SaidByHeif(Source) : SaidBy(Source);
+        Erase(All.Xmp, TellsPixels);
+        if (!KeepsPlace) Erase(All.Xmp, TellsPlace);
+        return OrNothing([&] { return ExifPart(All.Exif, Pixels, KeepsPlace); }) +
+               OrNothing([&] { return XmpPart(All.Xmp); }) +
+               OrNothing([&] { return IptcPart(All.Iptc); });
     });
 }
 

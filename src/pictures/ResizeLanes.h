@@ -108,6 +108,19 @@ struct VectorLanes {
 using VectorLanes = PlainLanes;
 #endif
 
+// Held between the least and the most of some neighbours, which NumberAt gives one by one.
+template <class Lanes, class Numbers>
+typename Lanes::Values Bounded(typename Lanes::Values Is, int Count, Numbers NumberAt) {
+    if (Count < 1) return Is;
+    auto Low = Lanes::Load(NumberAt(0)), High = Low;
+    for (int I = 1; I < Count; ++I) {
+        const auto Next = Lanes::Load(NumberAt(I));
+        Low = Lanes::Least(Low, Next);
+        High = Lanes::Most(High, Next);
+    }
+    return Lanes::Most(Lanes::Least(Is, High), Low);
+}
+
 // One line of the target out of the lines from the first tap on, Length numbers of each, a
 // multiple of eight. Every tap has its line.
 template <class Lanes>
@@ -117,17 +130,8 @@ void BlendLines(const qint16* const* Lines, const Taps& Row, qint16* To, int Len
         for (int I = 0; I < Row.Count(); I += 2)
             Lanes::Add(Sums, Lanes::Load(Lines[I] + X), Lanes::Load(Lines[I + 1] + X),
                        Row.Weights.data() + I);
-        auto Result = Lanes::Ended(Sums);
-        if (Row.NearCount > 0) {
-            auto Low = Lanes::Load(Lines[Row.Near] + X), High = Low;
-            for (int I = 1; I < Row.NearCount; ++I) {
-                const auto Next = Lanes::Load(Lines[Row.Near + I] + X);
-                Low = Lanes::Least(Low, Next);
-                High = Lanes::Most(High, Next);
-            }
-            Result = Lanes::Most(Lanes::Least(Result, High), Low);
-        }
-        Lanes::Store(To + X, Result);
+        Lanes::Store(To + X, Bounded<Lanes>(Lanes::Ended(Sums), Row.NearCount,
+                                            [&](int I) { return Lines[Row.Near + I] + X; }));
     }
 }
 
@@ -135,20 +139,11 @@ void BlendLines(const qint16* const* Lines, const Taps& Row, qint16* To, int Len
 template <class Lanes>
 void BlendPixels(const qint16* Line, const Taps& Pixel, qint16* To) {
     auto Sums = Lanes::Begin();
-    const qint16* At = Line + Pixel.First * 4;
+    const qint16* const At = Line + Pixel.First * 4;
     for (int I = 0; I < Pixel.Count(); I += 2)
         Lanes::AddPixels(Sums, Lanes::Load(At + I * 4), Pixel.Weights.data() + I);
-    auto Result = Lanes::Ended(Sums);
-    if (Pixel.NearCount > 0) {
-        auto Low = Lanes::Load(At + Pixel.Near * 4), High = Low;
-        for (int I = 1; I < Pixel.NearCount; ++I) {
-            const auto Next = Lanes::Load(At + (Pixel.Near + I) * 4);
-            Low = Lanes::Least(Low, Next);
-            High = Lanes::Most(High, Next);
-        }
-        Result = Lanes::Most(Lanes::Least(Result, High), Low);
-    }
-    Lanes::StorePixel(To, Result);
+    Lanes::StorePixel(To, Bounded<Lanes>(Lanes::Ended(Sums), Pixel.NearCount,
+                                         [&](int I) { return At + (Pixel.Near + I) * 4; }));
 }
 
 }  // namespace neb
