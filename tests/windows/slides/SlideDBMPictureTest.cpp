@@ -5,6 +5,7 @@
 #include <QRandomGenerator>
 
 #include "SlideRig.h"
+#include "pictures/PictureResize.h"
 #include "support/MediaTypes.h"
 
 namespace neb {
@@ -132,7 +133,7 @@ TEST_F(SlideDBMPicture, FourTurnsEachSavedLoseNothing) {
     const auto ID = AddSlide(u"a"_s);
     const QString File = Stored(u"00000001.jpg"_s);
     for (const char* Button : {"cmdRotate1", "cmdRotate2"}) {
-        ASSERT_TRUE(MakeNoise({320, 240}).save(File, "JPEG", 80));
+        ASSERT_TRUE(QImage(MakeNoise({320, 240})).save(File, "JPEG", 80));
         const QImage Before = ReadBack(File);
         OpenSlide(ID);
         for (int Turn = 1; Turn <= 4; ++Turn) {
