@@ -15,20 +15,31 @@ namespace {
 constexpr long LongestValue = 8000;
 constexpr uint16_t LastOfPixels = 0x0103;  // the first tags of a TIFF picture are its layout
 
-// The library's part for packets is not made for threads.
-void SetUpOnce() {
-    static std::once_flag Once;
-    static std::recursive_mutex Guard;
-    std::call_once(Once, [] {
-        Exiv2::LogMsg::setLevel(Exiv2::LogMsg::mute);
-        Exiv2::XmpParser::initialize(
-            [](void* Lock, bool Locks) {
-                auto* Of = static_cast<std::recursive_mutex*>(Lock);
-                Locks ? Of->lock() : Of->unlock();
-            },
-            &Guard);
-    });
-}
+// The library's part for packets is not made for threads: one at a time works with it.
+class Alone {
+  public:
+    Alone() {
+        static std::once_flag Once;
+        std::call_once(Once, [] {
+            Exiv2::LogMsg::setLevel(Exiv2::LogMsg::mute);
+            Exiv2::XmpParser::initialize(&Hold, &Guard());
+        });
+        Guard().lock();
+    }
+    ~Alone() { Guard().unlock(); }
+    Alone(const Alone&) = delete;
+    Alone& operator=(const Alone&) = delete;
+
+  private:
+    static std::recursive_mutex& Guard() {
+        static std::recursive_mutex Only;
+        return Only;
+    }
+    static void Hold(void* Lock, bool Locks) {
+        auto* Of = static_cast<std::recursive_mutex*>(Lock);
+        Locks ? Of->lock() : Of->unlock();
+    }
+};
 
 const Exiv2::byte* BytesOf(QByteArrayView View) {
     return reinterpret_cast<const Exiv2::byte*>(View.data());
@@ -145,8 +156,8 @@ Said SaidByHeif(const QByteArray& File) {
 }
 
 QByteArray XmpWithoutPlace(const JpegPart& Part, const QByteArray& AsItIs) {
-    SetUpOnce();
     return OrNothing([&]() -> QByteArray {
+        const Alone Now;
         Exiv2::XmpData All;
         if (Exiv2::XmpParser::decode(All, Part.Xmp().toByteArray().toStdString()) != 0) return {};
         return Erase(All, TellsPlace) ? XmpPart(All) : AsItIs;
@@ -168,8 +179,8 @@ QByteArray ExifPartOf(const QByteArray& Block) {
 }  // namespace
 
 QByteArray NotesFor(QSize Pixels, const QByteArray& Source, bool KeepsPlace) {
-    SetUpOnce();
     return OrNothing([&] {
+        const Alone Now;
         Said All = IsHeif(Source) ? SaidByHeif(Source) : SaidBy(Source);
         Erase(All.Xmp, TellsPixels);
         if (!KeepsPlace) Erase(All.Xmp, TellsPlace);

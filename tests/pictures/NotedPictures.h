@@ -73,7 +73,7 @@ inline QByteArray CameraBlock(int Orientation, QSize Pixels) {
     const quint32 Second = Made.Add({Exif::Long(0x0201, Small), Exif::Long(0x0202, 35)});
     const quint32 Place = Made.Add(PlaceTags());
     const quint32 Details = Made.Add({Exif::Text(0x9003, "2003:12:24 18:30:00"),
-                                      {0x927C, 7, 20, "MAKER'S NOTES, SECRET"},
+                                      {0x927C, 7, 21, "MAKER'S NOTES, SECRET"},
                                       Exif::Long(0xA002, quint32(Pixels.width())),
                                       Exif::Long(0xA003, quint32(Pixels.height()))});
     Made.StartWith(

@@ -3,7 +3,9 @@
 #include "pictures/PictureNotes.h"
 
 #include <QBuffer>
+#include <atomic>
 #include <random>
+#include <thread>
 
 #include "pictures/NotedPictures.h"
 #include "pictures/PictureWords.h"
@@ -162,6 +164,22 @@ TEST(PictureNotes, ATurnedPictureSaysThatItIsUpright) {
     EXPECT_EQ(0U, TiffTags(Block).Value(0x0201).value_or(0));
     EXPECT_TRUE(HasPlace(Stored));
     EXPECT_FALSE(HasPlace(Fitted(Jpeg, OwnWithoutPlace)));
+}
+
+TEST(PictureNotes, ManyThreadsReadTheSame) {
+    const QByteArray Jpeg = Noted(JpegOf(Motif()), 1, {48, 32});
+    const QByteArray Kept = NotesFor({48, 32}, Jpeg, true), Bare = WithoutPlace(Jpeg);
+    std::atomic<int> Different = 0;
+    const auto Read = [&] {
+        for (int I = 0; I < 50; ++I)
+            Different += NotesFor({48, 32}, Jpeg, true) != Kept || WithoutPlace(Jpeg) != Bare;
+    };
+    {
+        std::vector<std::jthread> Threads;
+        for (int I = 0; I < 4; ++I) Threads.emplace_back(Read);
+    }
+    EXPECT_EQ(0, Different);
+    EXPECT_GT(Kept.size(), 500);
 }
 
 TEST(PictureNotes, BlocksThatAreDamagedDoNoHarm) {
