@@ -1,12 +1,12 @@
 #include "pictures/FittedJpeg.h"
 
 #include "pictures/ImgX.h"
-#include "pictures/JpegParts.h"
-#include "pictures/JpegTurn.h"
 #include "pictures/PictureFile.h"
-#include "pictures/PictureNotes.h"
 #include "pictures/formats/PictureFormats.h"
 #include "pictures/formats/TiffTags.h"
+#include "pictures/notes/JpegParts.h"
+#include "pictures/notes/JpegTurn.h"
+#include "pictures/notes/PictureNotes.h"
 
 namespace neb {
 namespace {

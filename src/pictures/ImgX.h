@@ -8,8 +8,8 @@
 #include <optional>
 
 #include "pictures/FittedJpeg.h"
-#include "pictures/JpegTurn.h"
 #include "pictures/formats/PictureDecoder.h"
+#include "pictures/notes/JpegTurn.h"
 
 namespace neb {
 

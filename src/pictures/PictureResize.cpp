@@ -172,6 +172,19 @@ class Band {
     std::vector<const qint16*> mLines;
 };
 
+// Each part on a thread of its own, the first one here.
+void MakeSideBySide(std::vector<Band>& Parts, QImage& Into) {
+    const int Bands = static_cast<int>(Parts.size());
+    const auto Make = [&Parts, Bands, Bits = Into.bits(), Stride = Into.bytesPerLine(),
+                       Height = qint64(Into.height())](int Part) {
+        const auto Start = [&](int Of) { return static_cast<int>(Height * Of / Bands); };
+        Parts[Part].Make(Start(Part), Start(Part + 1), Bits, Stride);
+    };
+    std::vector<std::jthread> Beside;
+    for (int Part = 1; Part < Bands; ++Part) Beside.emplace_back(Make, Part);
+    Make(0);
+}
+
 }  // namespace
 
 QImage ResizePicture(const QImage& Picture, QSize Size, ResizeFilter Filter, int Threads) {
@@ -180,17 +193,9 @@ QImage ResizePicture(const QImage& Picture, QSize Size, ResizeFilter Filter, int
     const auto Rows = AllTaps({Filter, Picture.height(), Size.height()});
     QImage Result(Size, QImage::Format_RGB32);
     if (Result.isNull()) throw std::bad_alloc();
-    uchar* const Bits = Result.bits();
-    const qsizetype Stride = Result.bytesPerLine();
     const int Bands = std::clamp(Threads, 1, std::min(MostThreads, Size.height()));
-    const auto Start = [&](int Part) { return int(qint64(Size.height()) * Part / Bands); };
     std::vector<Band> Parts(Bands, Band(Picture, Rows, Columns));
-    std::vector<std::jthread> Beside;
-    for (int Part = 1; Part < Bands; ++Part)
-        Beside.emplace_back(
-            [=, &Parts] { Parts[Part].Make(Start(Part), Start(Part + 1), Bits, Stride); });
-    Parts[0].Make(Start(0), Start(1), Bits, Stride);
-    Beside.clear();
+    MakeSideBySide(Parts, Result);
     return Result;
 }
 

@@ -3,10 +3,10 @@
 #include <QColorSpace>
 
 #include "pictures/ImgX.h"
-#include "pictures/JpegParts.h"
 #include "pictures/formats/ByteView.h"
 #include "pictures/formats/PictureFaults.h"
 #include "pictures/formats/TiffTags.h"
+#include "pictures/notes/JpegParts.h"
 #include "support/files/modHostFiles.h"
 
 namespace neb {

@@ -1,10 +1,10 @@
 // What an album stores of a picture: its size, its quality, and when its bytes stay as they are.
 #include <QBuffer>
 
-#include "pictures/JpegTurn.h"
 #include "pictures/NotedPictures.h"
 #include "pictures/formats/PictureFaults.h"
 #include "pictures/formats/TiffTags.h"
+#include "pictures/notes/JpegTurn.h"
 
 using namespace neb;
 using namespace neb::tests;

@@ -1,11 +1,11 @@
 // What HEIC files say of their pictures. They are written here by the library's other half.
-#include "pictures/HeifBlocks.h"
+#include "pictures/notes/HeifBlocks.h"
 
 #include <libheif/heif.h>
 
 #include "pictures/NotedPictures.h"
-#include "pictures/PictureNotes.h"
 #include "pictures/formats/TiffTags.h"
+#include "pictures/notes/PictureNotes.h"
 
 using namespace neb;
 using namespace neb::tests;

@@ -2,8 +2,8 @@
 // picture. For the tests of what stores them.
 #pragma once
 
-#include "pictures/JpegParts.h"
 #include "pictures/TurnedJpegs.h"
+#include "pictures/notes/JpegParts.h"
 
 namespace neb::tests {
 

@@ -1,6 +1,6 @@
 // What a picture's file says of it goes along with it into the album, and its place only where it
 // may.
-#include "pictures/PictureNotes.h"
+#include "pictures/notes/PictureNotes.h"
 
 #include <QBuffer>
 #include <atomic>

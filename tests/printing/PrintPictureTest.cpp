@@ -3,8 +3,8 @@
 
 #include <QColorSpace>
 
-#include "pictures/JpegParts.h"
 #include "pictures/formats/PictureFaults.h"
+#include "pictures/notes/JpegParts.h"
 #include "printing/PrintRig.h"
 
 namespace neb {

@@ -1,4 +1,4 @@
-#include "pictures/ExifBlock.h"
+#include "pictures/notes/ExifBlock.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "pictures/JpegTurn.h"
+#include "pictures/notes/JpegTurn.h"
 
 #include <turbojpeg.h>
 

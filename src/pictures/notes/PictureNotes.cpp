@@ -1,12 +1,12 @@
-#include "pictures/PictureNotes.h"
+#include "pictures/notes/PictureNotes.h"
 
 #include <QRegularExpression>
 #include <exiv2/exiv2.hpp>
 #include <mutex>
 
-#include "pictures/ExifBlock.h"
-#include "pictures/HeifBlocks.h"
-#include "pictures/JpegParts.h"
+#include "pictures/notes/ExifBlock.h"
+#include "pictures/notes/HeifBlocks.h"
+#include "pictures/notes/JpegParts.h"
 
 namespace neb {
 namespace {

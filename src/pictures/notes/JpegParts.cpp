@@ -1,4 +1,4 @@
-#include "pictures/JpegParts.h"
+#include "pictures/notes/JpegParts.h"
 
 #include <QRegularExpression>
 

@@ -1,4 +1,4 @@
-#include "pictures/HeifBlocks.h"
+#include "pictures/notes/HeifBlocks.h"
 
 #include <libheif/heif.h>
 
@@ -40,24 +40,32 @@ QByteArray Structure(const QByteArray& Block) {
     return View.Part(4 + qint64(View.U32(0, true)), Block.size()).toByteArray();
 }
 
+HeifFile Opened(const QByteArray& Bytes) {
+    HeifFile File(heif_context_alloc());
+    const heif_error Problem = heif_context_read_from_memory_without_copy(
+        File.get(), Bytes.constData(), static_cast<size_t>(Bytes.size()), nullptr);
+    return Problem.code == heif_error_Ok ? std::move(File) : nullptr;
+}
+
+std::vector<heif_item_id> BlocksBeside(const heif_image_handle* Picture) {
+    const int Count = heif_image_handle_get_number_of_metadata_blocks(Picture, nullptr);
+    std::vector<heif_item_id> Numbers(static_cast<size_t>(std::max(Count, 0)));
+    heif_image_handle_get_list_of_metadata_block_IDs(Picture, nullptr, Numbers.data(), Count);
+    return Numbers;
+}
+
 }  // namespace
 
 bool IsHeif(const QByteArray& File) {
     return ByteView(File).Is(4, "ftyp");
 }
 
-HeifBlocks BlocksOfHeif(const QByteArray& File) {
-    const HeifFile Opened(heif_context_alloc());
-    const heif_error Problem = heif_context_read_from_memory_without_copy(
-        Opened.get(), File.constData(), static_cast<size_t>(File.size()), nullptr);
-    const HeifPicture Picture =
-        Problem.code == heif_error_Ok ? FirstPicture(Opened.get()) : nullptr;
+HeifBlocks BlocksOfHeif(const QByteArray& Bytes) {
+    const HeifFile File = Opened(Bytes);
+    const HeifPicture Picture = File ? FirstPicture(File.get()) : nullptr;
     if (!Picture) return {};
-    const int Count = heif_image_handle_get_number_of_metadata_blocks(Picture.get(), nullptr);
-    std::vector<heif_item_id> Numbers(static_cast<size_t>(std::max(Count, 0)));
-    heif_image_handle_get_list_of_metadata_block_IDs(Picture.get(), nullptr, Numbers.data(), Count);
     HeifBlocks Found;
-    for (const heif_item_id Number : Numbers) {
+    for (const heif_item_id Number : BlocksBeside(Picture.get())) {
         const QByteArray Kind(heif_image_handle_get_metadata_type(Picture.get(), Number));
         if (Kind == "Exif") Found.Exif = Structure(BlockOf(Picture.get(), Number));
         const QByteArray Type(heif_image_handle_get_metadata_content_type(Picture.get(), Number));
