@@ -1,5 +1,6 @@
 // What the import of a photograph costs in processor time, against the general-purpose tool for
-// the same two pictures (vipsthumbnail, package libvips-tools). Prints one ratio a line.
+// the same two pictures (vipsthumbnail, package libvips-tools), at the least size at which pictures
+// are kept and at the size of a large screen. Prints one ratio a line.
 //   bench_import [pictures [rounds]]
 #include <sys/resource.h>
 
@@ -18,7 +19,16 @@
 
 namespace {
 
-constexpr int Width = 4000, Height = 3000;
+struct Case {
+    const char* Name;
+    QSize Camera;
+    neb::PictureKeeping Keeping;
+    QString Limit;
+};
+const Case Cases[] = {
+    {"12 megapixels into 1024x768", {4000, 3000}, {}, QStringLiteral("1024x768")},
+    {"12 megapixels into 3840x2160", {4000, 3000}, {{3840, 2160}}, QStringLiteral("3840x2160")},
+    {"24 megapixels into 3840x2160", {6000, 4000}, {{3840, 2160}}, QStringLiteral("3840x2160")}};
 
 double Seconds(const timeval& Time) {
     return double(Time.tv_sec) + double(Time.tv_usec) / 1e6;
@@ -31,21 +41,20 @@ double ProcessorSeconds(int Who) {
 }
 
 // Smooth hills of several sizes with the grain of a camera's sensor.
-QImage Photo(unsigned Seed) {
+QImage Photo(unsigned Seed, QSize Size) {
     std::mt19937 Random(Seed);
     std::vector<QImage> Layers;
     for (int Side : {5, 17, 60, 200, 700}) {
         QImage Layer(Side, Side * 3 / 4 + 1, QImage::Format_RGB32);
         for (int Y = 0; Y < Layer.height(); ++Y)
             for (int X = 0; X < Side; ++X) Layer.setPixel(X, Y, Random());
-        Layers.push_back(
-            Layer.scaled(Width, Height, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+        Layers.push_back(Layer.scaled(Size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
     }
-    QImage Result(Width, Height, QImage::Format_RGB32);
+    QImage Result(Size, QImage::Format_RGB32);
     const int Parts[] = {40, 28, 18, 9, 5};
-    for (int Y = 0; Y < Height; ++Y) {
+    for (int Y = 0; Y < Size.height(); ++Y) {
         uchar* To = Result.scanLine(Y);
-        for (int I = 0; I < Width * 4; ++I) {
+        for (int I = 0; I < Size.width() * 4; ++I) {
             int Sum = 0;
             for (size_t L = 0; L < Layers.size(); ++L)
                 Sum += Layers[L].constScanLine(Y)[I] * Parts[L];
@@ -55,11 +64,11 @@ QImage Photo(unsigned Seed) {
     return Result;
 }
 
-QStringList MakePhotos(const QTemporaryDir& Dir, int Count) {
+QStringList MakePhotos(const QTemporaryDir& Dir, int Count, QSize Size) {
     QStringList Files;
     for (int I = 0; I < Count; ++I) {
         Files << Dir.filePath(QStringLiteral("photo%1.jpg").arg(I));
-        Photo(static_cast<unsigned>(I)).save(Files.back(), "JPEG", 90);
+        Photo(static_cast<unsigned>(I), Size).save(Files.back(), "JPEG", 90);
     }
     return Files;
 }
@@ -69,8 +78,8 @@ struct Made {
 };
 
 // As the program does it: the file is read twice, once for the list, once for the album.
-Made Import(const QString& File) {
-    return {neb::FittedJpeg(File), neb::ThumbnailBmp(neb::MakeThumbnail(File))};
+Made Import(const QString& File, const neb::PictureKeeping& Keeping) {
+    return {neb::FittedJpeg(File, Keeping), neb::ThumbnailBmp(neb::MakeThumbnail(File))};
 }
 
 struct Cost {
@@ -86,9 +95,11 @@ Cost Measure(int Who, Work Do) {
     return {ProcessorSeconds(Who) - Before, double(Time.nsecsElapsed()) / 1e9};
 }
 
-Cost MeasureOurs(const QStringList& Files, const QTemporaryDir& Dir) {
+Cost MeasureOurs(const QStringList& Files, const QTemporaryDir& Dir, const Case& Is) {
     return Measure(RUSAGE_SELF, [&] {
-        neb::AheadQueue<QString, Made> Queue({Files.begin(), Files.end()}, Import);
+        neb::AheadQueue<QString, Made> Queue(
+            {Files.begin(), Files.end()},
+            [Keeping = Is.Keeping](const QString& File) { return Import(File, Keeping); });
         while (!Queue.AtEnd()) {
             const QString Stem = Dir.filePath(QFileInfo(Queue.Next()).baseName());
             const Made Pictures = Queue.Take();
@@ -104,10 +115,11 @@ void RunTool(const QStringList& Files, const QStringList& Options) {
     std::exit(1);
 }
 
-Cost MeasureTool(const QStringList& Files) {
+Cost MeasureTool(const QStringList& Files, const Case& Is) {
+    const QString Jpeg = QStringLiteral("%s-tool.jpg[Q=") + QString::number(Is.Keeping.Quality()) +
+                         QStringLiteral(",subsample_mode=off,strip]");
     return Measure(RUSAGE_CHILDREN, [&] {
-        RunTool(Files, {QStringLiteral("--size"), QStringLiteral("1024x768"), QStringLiteral("-o"),
-                        QStringLiteral("%s-tool.jpg[Q=100,subsample_mode=off,strip]")});
+        RunTool(Files, {QStringLiteral("--size"), Is.Limit, QStringLiteral("-o"), Jpeg});
         RunTool(Files, {QStringLiteral("--size"), QStringLiteral("72x72!"), QStringLiteral("-o"),
                         QStringLiteral("%s-tool.png")});
     });
@@ -117,18 +129,13 @@ void Print(const char* What, double Ratio, double Ours, double Theirs, const cha
     std::printf("%-44s %6.3f   (%.1f / %.1f %s)\n", What, Ratio, Ours, Theirs, Unit);
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QGuiApplication App(argc, argv);
-    const int Count = argc > 1 ? std::atoi(argv[1]) : 8, Rounds = argc > 2 ? std::atoi(argv[2]) : 5;
+void Run(const Case& Is, int Count, int Rounds) {
     const QTemporaryDir Dir;
-    const QStringList Files = MakePhotos(Dir, Count);
+    const QStringList Files = MakePhotos(Dir, Count, Is.Camera);
     std::vector<double> Ratios;
     double Ours = 0, Theirs = 0, Wall = 0;
     for (int I = 0; I < Rounds; ++I) {
-        const Cost Own = MeasureOurs(Files, Dir), Tool = MeasureTool(Files);
+        const Cost Own = MeasureOurs(Files, Dir, Is), Tool = MeasureTool(Files, Is);
         Ratios.push_back(Own.Processor / Tool.Processor);
         Ours += Own.Processor;
         Theirs += Tool.Processor;
@@ -136,9 +143,19 @@ int main(int argc, char** argv) {
     }
     std::sort(Ratios.begin(), Ratios.end());
     const double EachMs = 1000.0 / (Count * Rounds);
+    std::printf("%s\n", Is.Name);
     Print("import, processor time / vipsthumbnail", Ratios[Ratios.size() / 2], Ours * EachMs,
           Theirs * EachMs, "ms a picture");
     Print("import, processor time / wall time", Ours / Wall, Ours * EachMs, Wall * EachMs,
           "ms a picture");
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QGuiApplication App(argc, argv);
+    const int Count = argc > 1 ? std::atoi(argv[1]) : 8, Rounds = argc > 2 ? std::atoi(argv[2]) : 5;
+    for (const Case& Is : Cases) Run(Is, Count, Rounds);
     return 0;
 }

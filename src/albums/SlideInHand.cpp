@@ -83,9 +83,10 @@ bool SlideInHand::IsPictureLoose() const {
     return mMoved && mTurned && !HoldsSeparator(mNow.SlideLoc);
 }
 
-SlideInHand::JpegMaker SlideInHand::Jpeg() const {
-    if (mTurned) return [Turned = *mPicture] { return FittedJpeg(Turned); };
-    if (HoldsSeparator(mNow.SlideLoc)) return [File = mNow.SlideLoc] { return FittedJpeg(File); };
+SlideInHand::JpegMaker SlideInHand::Jpeg(const PictureKeeping& Keeping) const {
+    if (mTurned) return [Turned = *mPicture, Keeping] { return FittedJpeg(Turned, Keeping); };
+    if (HoldsSeparator(mNow.SlideLoc))
+        return [File = mNow.SlideLoc, Keeping] { return FittedJpeg(File, Keeping); };
     return {};
 }
 

@@ -51,8 +51,9 @@ class SlideInHand {
     const QString& PictureName() const;
     // Whether its turned pixels stand by themselves: the slide whose file they came from has gone.
     bool IsPictureLoose() const;
-    // How its new picture is made; none: the one that is stored stands.
-    JpegMaker Jpeg() const;
+    // How its new picture is made; none: the one that is stored stands. Pixels that were only
+    // turned since they were read from a JPEG come without loss where its size allows.
+    JpegMaker Jpeg(const PictureKeeping& Keeping = {}) const;
 
     Sound SoundState() const { return mSound; }
     bool HasSound() const { return !mNow.SoundTrackLoc.isEmpty(); }  // one is stored

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "pictures/JpegWriter.h"
+#include "pictures/PictureFile.h"
 #include "pictures/PictureResize.h"
 #include "pictures/formats/PictureFaults.h"
 #include "support/files/modHostFiles.h"
@@ -12,19 +13,9 @@
 namespace neb {
 namespace {
 
-constexpr int SlideSelector = 3, ThumbnailSelector = 4;
+constexpr int ThumbnailSelector = 4;
 constexpr qint64 MostPixels = 200'000'000;
-
-QByteArray ReadPictureFile(const QString& File) {
-    if (!FileExists(File) || !CanReadFile(File))
-        throw Fault(QStringLiteral("The picture cannot be opened."), File, FaultCannotOpen);
-    if (FileSize(File) > LargestPictureFile) ThrowFileTooLarge();
-    try {
-        return ReadFile(File);
-    } catch (const Fault& Reason) {
-        throw Fault(Reason.What(), File, FaultCannotOpen);
-    }
-}
+constexpr qsizetype MostSourceBytes = 64 << 20;
 
 QSize TimesHalf(QSize Size) {
     return Size + Size / 2;
@@ -71,38 +62,47 @@ QByteArray BmpHeaders(QSize Size, int Stride) {
 
 }  // namespace
 
-void ImgX::LoadFor(const QString& File, const NeededSize& Needed) {
-    try {
-        DecodedPicture Decoded = DecodePicture(ReadPictureFile(File), Needed);
-        mPicture = std::move(Decoded.Picture);
-        mFull = Decoded.Full;
-    } catch (const Fault& Reason) {
-        throw Fault(Reason.What(), File, Reason.Number());
-    } catch (const std::bad_alloc&) {
-        throw Fault(QStringLiteral("There is not enough memory for the picture."), File,
-                    FaultTooLarge);
-    }
+void ImgX::Take(const QByteArray& Bytes, const NeededSize& Needed) {
+    DecodedPicture Decoded = DecodePicture(Bytes, Needed);
+    mPicture = std::move(Decoded.Picture);
+    mFull = Decoded.Full;
+    mSource = Bytes.size() <= MostSourceBytes ? Bytes : QByteArray();
+    mTurned.reset();
+    mIsAsRead = true;
+}
+
+void ImgX::TakeAtLeast(const QByteArray& Bytes, QSize Least) {
+    Take(Bytes, ToFitInto(Least));
 }
 
 void ImgX::Load(const QString& File) {
-    LoadFor(File, {});
+    FromPictureFile(File, [this](const QByteArray& Bytes) { Take(Bytes, {}); });
 }
 
 void ImgX::LoadAtLeast(const QString& File, QSize Least) {
-    LoadFor(File, ToFitInto(Least));
+    FromPictureFile(File, [&](const QByteArray& Bytes) { TakeAtLeast(Bytes, Least); });
 }
 
 void ImgX::SetPicture(const QImage& Picture) {
     mPicture = Picture.convertToFormat(QImage::Format_RGB32);
     mFull = mPicture.size();
+    mSource.clear();
+    mTurned.reset();
+    mIsAsRead = false;
+}
+
+void ImgX::NoteTurn(PictureTurn Turn) {
+    if (mIsAsRead) mTurned = mTurned.value_or(PictureTurn()).Then(Turn);
 }
 
 void ImgX::Resize(int W, int H, int Selector) {
     if (mPicture.isNull()) return;
     if (W < 1 || H < 1 || qint64(W) * H > MostPixels) ThrowTooLarge({W, H});
-    const auto Filter = Selector == ThumbnailSelector ? ResizeFilter::Area : ResizeFilter::Lanczos;
+    const auto Filter = Selector == ThumbnailSelector ? ResizeFilter::Area : ResizeFilter::Sharp;
     mPicture = ResizePicture(mPicture, {W, H}, Filter);
     mFull = mPicture.size();
+    mTurned.reset();
+    mIsAsRead = false;
 }
 
 void ImgX::Rotate(int Degrees) {
@@ -112,16 +112,19 @@ void ImgX::Rotate(int Degrees) {
     if (Angle % 90 == 0) {
         mPicture = Turned.convertToFormat(QImage::Format_RGB32);
         if (Angle != 180) mFull.transpose();
-        return;
+        return NoteTurn({false, Angle / 90});
     }
     mPicture = QImage(Turned.size(), QImage::Format_RGB32);
     mPicture.fill(Qt::white);
     QPainter(&mPicture).drawImage(0, 0, Turned);
     mFull = mPicture.size();
+    mTurned.reset();
+    mIsAsRead = false;
 }
 
 void ImgX::Flip(int Selector) {
     mPicture = mPicture.mirrored(Selector == 0, Selector == 1);
+    if (Selector == 0 || Selector == 1) NoteTurn({true, Selector == 0 ? 0 : 2});
 }
 
 QByteArray ImgX::ToJpeg() const {
@@ -132,22 +135,9 @@ void ImgX::SaveJpeg(const QString& File) const {
     ReplaceFile(File, ToJpeg());
 }
 
-QByteArray FittedJpeg(const QString& File, const PictureKeeping& Keeping) {
-    ImgX Picture;
-    Picture.LoadAtLeast(File, Keeping.Limit);
-    return FittedJpeg(std::move(Picture), Keeping);
-}
-
-QByteArray FittedJpeg(ImgX Picture, const PictureKeeping& Keeping) {
-    const QSize Size = FitSize(Picture.FullSize(), Keeping.Limit);
-    Picture.Resize(Size.width(), Size.height(), SlideSelector);
-    Picture.SetJpgQuality(Keeping.Quality());
-    return Picture.ToJpeg();
-}
-
 QImage MakeThumbnail(const QString& File) {
     ImgX Picture;
-    Picture.LoadFor(File, ToStretch);
+    FromPictureFile(File, [&](const QByteArray& Bytes) { Picture.Take(Bytes, ToStretch); });
     return MakeThumbnail(Picture.Picture());
 }
 

@@ -5,9 +5,11 @@
 
 #include <QImage>
 #include <QString>
+#include <optional>
 
-#include "pictures/PictureKeeping.h"
+#include "pictures/FittedJpeg.h"
 #include "pictures/formats/PictureDecoder.h"
+#include "pictures/notes/JpegTurn.h"
 
 namespace neb {
 
@@ -23,6 +25,8 @@ class ImgX {
     // The same for a caller who will fit the picture into Least: may leave pixels away that no one
     // would see, never so many that fitting would have to enlarge. FullSize tells the file's own.
     void LoadAtLeast(const QString& File, QSize Least);
+    // The same of a file's bytes. Faults name no file.
+    void TakeAtLeast(const QByteArray& Bytes, QSize Least);
 
     int Width() const { return mPicture.width(); }
     int Height() const { return mPicture.height(); }
@@ -43,22 +47,27 @@ class ImgX {
 
     const QImage& Picture() const { return mPicture; }  // Format_RGB32; null before a load
     void SetPicture(const QImage& Picture);             // any format, sRGB
+    // The bytes of the file that it was read from, for what they say beside the pixels; empty
+    // where there was none, or an enormous one.
+    const QByteArray& Source() const { return mSource; }
+    // How it has been turned and flipped since it was read. Nothing where it has not, or where
+    // something else has been done to it, too.
+    const std::optional<PictureTurn>& Turned() const { return mTurned; }
 
   private:
-    void LoadFor(const QString& File, const NeededSize& Needed);
+    void Take(const QByteArray& Bytes, const NeededSize& Needed);
+    void NoteTurn(PictureTurn Turn);
     friend QImage MakeThumbnail(const QString& File);
     friend struct ListedPicture ReadForList(const QString& File, int Side);
 
     QImage mPicture;
     QSize mFull;
+    QByteArray mSource;
+    std::optional<PictureTurn> mTurned;
+    bool mIsAsRead = false;  // but for turns
     int mJpgQuality = 100;
 };
 
-// A picture file as the JPEG bytes of a slide: fitted, at the quality of its keeping. Throws as
-// ImgX::Load does.
-QByteArray FittedJpeg(const QString& File, const PictureKeeping& Keeping = {});
-// The same from a picture in memory. Throws FaultNotSaved when there is none.
-QByteArray FittedJpeg(ImgX Picture, const PictureKeeping& Keeping = {});
 // The thumbnail of a picture file: stretched to exactly ThumbnailSize. Throws as ImgX::Load does.
 QImage MakeThumbnail(const QString& File);
 // The same from a picture in memory.

@@ -2,14 +2,16 @@
 
 #include <algorithm>
 #include <cmath>
-#include <vector>
+#include <thread>
+#include <utility>
+
+#include "pictures/LinearLight.h"
+#include "pictures/ResizeLanes.h"
 
 namespace neb {
 namespace {
 
-// Weights are whole numbers of this many bits, so that the result is the same on every machine.
-constexpr int WeightBits = 14;
-constexpr int Half = 1 << (WeightBits - 1);
+constexpr int MostThreads = 8;
 
 double Sinc(double X) {
     return X == 0 ? 1 : std::sin(M_PI * X) / (M_PI * X);
@@ -19,26 +21,33 @@ double LanczosAt(double X) {
     return std::abs(X) < 3 ? Sinc(X) * Sinc(X / 3) : 0;
 }
 
-// Which source pixels make up a target pixel, and how much each counts.
-struct Taps {
-    int First;
-    std::vector<qint16> Weights;
-};
-
-// How far from the middle a filter reaches and how it falls off, for Step source pixels a target
-// pixel.
-std::vector<double> RawWeights(ResizeFilter Filter, double Middle, double Step, int First,
-                               int Last) {
-    std::vector<double> Weights;
-    const double Wide = std::max(Step, 1.0);
-    for (int I = First; I <= Last; ++I) {
-        const double Left = std::max<double>(I, Middle - Wide / 2);
-        const double Right = std::min<double>(I + 1, Middle + Wide / 2);
-        Weights.push_back(Filter == ResizeFilter::Area ? std::max(0.0, Right - Left)
-                                                       : LanczosAt((I + 0.5 - Middle) / Wide));
-    }
-    return Weights;
+// Through its points and smooth between them.
+double CubicAt(double X) {
+    const double A = std::abs(X);
+    if (A < 1) return (1.5 * A - 2.5) * A * A + 1;
+    return A < 2 ? ((-0.5 * A + 2.5) * A - 4) * A + 2 : 0;
 }
+
+// One side of the picture: from how many pixels to how many, and by which filter.
+struct Side {
+    ResizeFilter Filter;
+    int From, To;
+
+    double Step() const { return double(From) / To; }
+    double Wide() const { return std::max(Step(), 1.0); }
+    double Reach() const {
+        if (Filter == ResizeFilter::Area) return 0.5 * Wide();
+        return Step() > 1 ? 3 * Wide() : 2;
+    }
+    // How much the source pixel I counts for the target pixel around Middle.
+    double WeightAt(int I, double Middle) const {
+        if (Filter == ResizeFilter::Area)
+            return std::max(0.0, std::min<double>(I + 1, Middle + Wide() / 2) -
+                                     std::max<double>(I, Middle - Wide() / 2));
+        const double Away = (I + 0.5 - Middle) / Wide();
+        return Step() > 1 ? LanczosAt(Away) : CubicAt(Away);
+    }
+};
 
 // Rounded so that the sum is exact: a plain area stays as it is.
 std::vector<qint16> Rounded(const std::vector<double>& Raw) {
@@ -54,84 +63,145 @@ std::vector<qint16> Rounded(const std::vector<double>& Raw) {
     return Weights;
 }
 
-Taps TapsFor(ResizeFilter Filter, int Target, double Step, int SourceLength) {
-    const double Reach = (Filter == ResizeFilter::Area ? 0.5 : 3) * std::max(Step, 1.0);
-    const double Middle = (Target + 0.5) * Step;
-    const int First = std::max(0, static_cast<int>(std::floor(Middle - Reach)));
-    const int Last = std::min(SourceLength - 1, static_cast<int>(std::ceil(Middle + Reach)));
-    return {First, Rounded(RawWeights(Filter, Middle, Step, First, Last))};
+void DropZeros(Taps& Of) {
+    const auto Counts = [](qint16 Weight) { return Weight != 0; };
+    auto& All = Of.Weights;
+    All.erase(std::find_if(All.rbegin(), All.rend(), Counts).base(), All.end());
+    const auto First = std::find_if(All.begin(), All.end(), Counts);
+    Of.First += static_cast<int>(First - All.begin());
+    All.erase(All.begin(), First);
 }
 
-std::vector<Taps> AllTaps(ResizeFilter Filter, int From, int To) {
+// A sharp filter swings over at an edge, which shows as a halo: nothing becomes brighter or darker
+// than what lies under the pixel and its neighbours.
+void Bound(Taps& Of, const Side& Along, double Middle) {
+    const int Last = Of.First + Of.Count() - 1;
+    const int Low = static_cast<int>(std::floor(Middle - Along.Wide() + 0.5));
+    const int High = static_cast<int>(std::ceil(Middle + Along.Wide() - 0.5)) - 1;
+    Of.Near = std::clamp(Low, Of.First, Last) - Of.First;
+    Of.NearCount = std::clamp(High, Of.First, Last) - Of.First - Of.Near + 1;
+}
+
+Taps TapsFor(const Side& Along, int Target) {
+    const double Middle = (Target + 0.5) * Along.Step();
+    const int First = std::max(0, static_cast<int>(std::floor(Middle - Along.Reach())));
+    const int Last = std::min(Along.From - 1, static_cast<int>(std::ceil(Middle + Along.Reach())));
+    std::vector<double> Raw;
+    for (int I = First; I <= Last; ++I) Raw.push_back(Along.WeightAt(I, Middle));
+    Taps Made{First, Rounded(Raw)};
+    DropZeros(Made);
+    if (Along.Filter == ResizeFilter::Sharp) Bound(Made, Along, Middle);
+    if (Made.Count() % 2 != 0) Made.Weights.push_back(0);
+    return Made;
+}
+
+std::vector<Taps> AllTaps(const Side& Along) {
     std::vector<Taps> All;
-    for (int I = 0; I < To; ++I) All.push_back(TapsFor(Filter, I, double(From) / To, From));
+    for (int I = 0; I < Along.To; ++I) All.push_back(TapsFor(Along, I));
     return All;
 }
 
-inline uchar ToByte(int Sum) {
-    return static_cast<uchar>(std::clamp(Sum >> WeightBits, 0, 255));
+int MostTaps(const std::vector<Taps>& All) {
+    int Most = 0;
+    for (const Taps& Each : All) Most = std::max(Most, Each.Count());
+    return Most;
 }
 
-// Sum gets the weighted rows on top, two at a time: half the walks over Sum. The short factors
-// let the compiler use multiplications of eight numbers at once.
-void AddRows(int* __restrict Sum, const uchar* __restrict A, const uchar* __restrict B,
-             qint16 WeightA, qint16 WeightB, int Length) {
-    for (int I = 0; I < Length; ++I)
-        Sum[I] += WeightA * static_cast<qint16>(A[I]) + WeightB * static_cast<qint16>(B[I]);
-}
-
-void StoreRow(const int* __restrict Sum, uchar* __restrict To, int Length) {
-    for (int I = 0; I < Length; ++I) To[I] = ToByte(Sum[I]);
-}
-
-QImage ResizeRows(const QImage& Picture, int Height, ResizeFilter Filter) {
-    QImage Result(Picture.width(), Height, QImage::Format_RGB32);
-    const int Length = Picture.width() * 4;
-    std::vector<int> Sum(static_cast<size_t>(Length));
-    const auto All = AllTaps(Filter, Picture.height(), Height);
-    for (int Y = 0; Y < Height; ++Y) {
-        const Taps& Row = All[Y];
-        const int Count = static_cast<int>(Row.Weights.size());
-        std::fill(Sum.begin(), Sum.end(), Half);
-        for (int I = 0; I < Count; I += 2) {
-            const int Next = std::min(I + 1, Count - 1);
-            AddRows(Sum.data(), Picture.constScanLine(Row.First + I),
-                    Picture.constScanLine(Row.First + Next), Row.Weights[I],
-                    Next > I ? Row.Weights[Next] : qint16(0), Length);
-        }
-        StoreRow(Sum.data(), Result.scanLine(Y), Length);
-    }
-    return Result;
-}
-
-void ResizeLine(const uchar* From, uchar* To, const std::vector<Taps>& All) {
-    for (const Taps& Pixel : All) {
-        int Sums[4] = {Half, Half, Half, Half};
-        const uchar* At = From + Pixel.First * 4;
-        for (const qint16 Weight : Pixel.Weights) {
-            for (int C = 0; C < 4; ++C) Sums[C] += Weight * static_cast<qint16>(At[C]);
-            At += 4;
-        }
-        for (int C = 0; C < 4; ++C) To[C] = ToByte(Sums[C]);
-        To += 4;
+void ToLight(const QRgb* From, qint16* To, int Width) {
+    const auto& Of = Light().ToLight;
+    for (int X = 0; X < Width; ++X) {
+        const QRgb Pixel = From[X];
+        const quint64 Lights = quint64(Of[Pixel & 255]) | quint64(Of[Pixel >> 8 & 255]) << 16 |
+                               quint64(Of[Pixel >> 16 & 255]) << 32;
+        std::memcpy(To + X * 4, &Lights, sizeof Lights);
     }
 }
 
-QImage ResizeColumns(const QImage& Picture, int Width, ResizeFilter Filter) {
-    QImage Result(Width, Picture.height(), QImage::Format_RGB32);
-    const auto All = AllTaps(Filter, Picture.width(), Width);
-    for (int Y = 0; Y < Picture.height(); ++Y)
-        ResizeLine(Picture.constScanLine(Y), Result.scanLine(Y), All);
-    return Result;
+QRgb FromLight(const qint16* Pixel) {
+    const auto& Of = Light().FromLight;
+    quint64 Lights;
+    std::memcpy(&Lights, Pixel, sizeof Lights);
+    const auto Value = [&](int Shift) { return QRgb(Of[Lights >> Shift & FullLight]); };
+    return 0xFF000000 | Value(32) << 16 | Value(16) << 8 | Value(0);
+}
+
+// Goes down a part of the target with as many lines of the source in light as one target line
+// needs.
+class Band {
+  public:
+    Band(const QImage& Source, const std::vector<Taps>& Rows, const std::vector<Taps>& Columns)
+        : mSource(Source),
+          mRows(Rows),
+          mColumns(Columns),
+          mLength((Source.width() * 4 + 4 + 7) / 8 * 8),
+          mHeld(MostTaps(Rows) + 1, -1),
+          mKept(mHeld.size() * mLength),
+          mBlended(mLength),
+          mLines(mHeld.size()) {}
+
+    void Make(int First, int Last, uchar* To, qsizetype Stride) {
+        for (int Y = First; Y < Last; ++Y)
+            MakeLine(mRows[Y], reinterpret_cast<QRgb*>(To + Y * Stride));
+    }
+
+  private:
+    const qint16* InLight(int Y) {
+        const size_t Place = Y % mHeld.size();
+        qint16* const Line = mKept.data() + Place * mLength;
+        if (std::exchange(mHeld[Place], Y) != Y)
+            ToLight(reinterpret_cast<const QRgb*>(mSource.constScanLine(Y)), Line, mSource.width());
+        return Line;
+    }
+    void MakeLine(const Taps& Row, QRgb* To) {
+        const int Last = mSource.height() - 1;
+        for (int I = 0; I < Row.Count(); ++I) mLines[I] = InLight(std::min(Row.First + I, Last));
+        BlendLines<VectorLanes>(mLines.data(), Row, mBlended.data(), mLength);
+        for (const Taps& Pixel : mColumns) {
+            qint16 Lights[4];
+            BlendPixels<VectorLanes>(mBlended.data(), Pixel, Lights);
+            *To++ = FromLight(Lights);
+        }
+    }
+
+    const QImage& mSource;
+    const std::vector<Taps>& mRows;
+    const std::vector<Taps>& mColumns;
+    const int mLength;       // numbers of a line, with room behind it
+    std::vector<int> mHeld;  // which source line is in light at each place; -1: none yet
+    std::vector<qint16> mKept, mBlended;
+    std::vector<const qint16*> mLines;
+};
+
+// Each part on a thread of its own, the first one here.
+void MakeSideBySide(std::vector<Band>& Parts, QImage& Into) {
+    const int Bands = static_cast<int>(Parts.size());
+    const auto Make = [&Parts, Bands, Bits = Into.bits(), Stride = Into.bytesPerLine(),
+                       Height = qint64(Into.height())](int Part) {
+        const auto Start = [&](int Of) { return static_cast<int>(Height * Of / Bands); };
+        Parts[Part].Make(Start(Part), Start(Part + 1), Bits, Stride);
+    };
+    std::vector<std::jthread> Beside;
+    for (int Part = 1; Part < Bands; ++Part) Beside.emplace_back(Make, Part);
+    Make(0);
 }
 
 }  // namespace
 
-QImage ResizePicture(const QImage& Picture, QSize Size, ResizeFilter Filter) {
-    QImage Result = Picture;
-    if (Size.height() != Result.height()) Result = ResizeRows(Result, Size.height(), Filter);
-    if (Size.width() != Result.width()) Result = ResizeColumns(Result, Size.width(), Filter);
+QImage ResizePicture(const QImage& Picture, QSize Size, ResizeFilter Filter, int Threads) {
+    if (Size == Picture.size()) return Picture;
+    const auto Columns = AllTaps({Filter, Picture.width(), Size.width()});
+    const auto Rows = AllTaps({Filter, Picture.height(), Size.height()});
+    QImage Result(Size, QImage::Format_RGB32);
+    if (Result.isNull()) throw std::bad_alloc();
+    const int Bands = std::clamp(Threads, 1, std::min(MostThreads, Size.height()));
+    std::vector<Band> Parts(Bands, Band(Picture, Rows, Columns));
+    MakeSideBySide(Parts, Result);
     return Result;
+}
+
+QImage ResizeAtOnce(const QImage& Picture, QSize Size) {
+    return ResizePicture(Picture, Size, ResizeFilter::Sharp,
+                         static_cast<int>(std::thread::hardware_concurrency()));
 }
 
 }  // namespace neb

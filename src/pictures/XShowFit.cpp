@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <cstring>
 
+#include "pictures/PictureResize.h"
+
 namespace neb {
 namespace {
 
@@ -61,11 +63,8 @@ QImage FitToView(const QImage& Picture, const XShowLayout& Layout) {
     View.fill(Qt::black);
     if (Picture.isNull()) return View;
     const QRect Place = PlaceInView(Picture.size(), Layout);
-    const QImage Scaled =
-        Place.size() == Picture.size()
-            ? Picture
-            : Picture.scaled(Place.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    CopyInto(View, AsOpaque(Scaled), Place.topLeft());
+    CopyInto(View, ResizePicture(AsOpaque(Picture), Place.size(), ResizeFilter::Sharp),
+             Place.topLeft());
     return View;
 }
 

@@ -6,6 +6,7 @@
 #include "pictures/formats/ByteView.h"
 #include "pictures/formats/PictureFaults.h"
 #include "pictures/formats/TiffTags.h"
+#include "pictures/notes/JpegParts.h"
 #include "support/files/modHostFiles.h"
 
 namespace neb {
@@ -23,8 +24,10 @@ enum Mark : int {
     StartOfImage = 0xD8,
     EndOfImage = 0xD9,
     StartOfScan = 0xDA,
+    Jfif = 0xE0,
     Exif = 0xE1,
-    Profile = 0xE2
+    Profile = 0xE2,
+    Adobe = 0xEE
 };
 
 bool IsFrame(int Marker) {
@@ -79,6 +82,8 @@ class JpegWalk {
             TakeExif(Segment.sliced(6));
         if (Marker == Profile && Segment.startsWith(QByteArrayView("ICC_PROFILE\0", 12)))
             mIsPlain &= IsScreenProfile(Segment);
+        mTellsColours |= Marker == Jfif && Segment.startsWith("JFIF");
+        mTellsColours |= Marker == Adobe && Segment.startsWith("Adobe");
         if (IsFrame(Marker)) TakeFrame(Marker, Segment);
     }
     void TakeExif(QByteArrayView Segment) {
@@ -91,6 +96,10 @@ class JpegWalk {
         const int Colours = Segment.U8(5);
         mIsPlain &=
             Marker <= LastPlainFrame && Segment.U8(0) == 8 && (Colours == 1 || Colours == 3);
+        // the names alone say that these are no brightness and two differences: not every reader
+        // looks at them
+        const bool ByName = Segment.U8(6) == 'R' && Segment.U8(9) == 'G' && Segment.U8(12) == 'B';
+        mIsPlain &= !ByName || mTellsColours;
         mFound.Stored = QSize(Segment.U16(3, true), Segment.U16(1, true));
     }
     // The pixels themselves end at the next marker that is none of theirs.
@@ -110,7 +119,7 @@ class JpegWalk {
     const ByteView mBytes;
     qint64 mAt = 0;
     int mScans = 0;
-    bool mIsPlain = true, mEnded = false, mHasExif = false;
+    bool mIsPlain = true, mEnded = false, mHasExif = false, mTellsColours = false;
     PlainJpeg mFound;
 };
 
@@ -133,8 +142,10 @@ DecodedPicture Decoded(const PrintPicture& Picture, const NeededSize& Needed) {
 
 }  // namespace
 
+// One that is turned by other words than a PDF knows is decoded.
 std::optional<PlainJpeg> ReadPlainJpeg(const QByteArray& Bytes) {
-    return JpegWalk(Bytes).Run();
+    const auto Parts = PartsOf(Bytes);
+    return Parts && !Parts->IsTurnedByXmp() ? JpegWalk(Bytes).Run() : std::nullopt;
 }
 
 QByteArray FileBytesOf(const PrintPicture& Picture) {

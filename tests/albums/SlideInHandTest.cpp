@@ -4,6 +4,7 @@
 
 #include "albums/SlideInHand.h"
 #include "harness/TempFolder.h"
+#include "support/files/modHostFiles.h"
 
 namespace neb {
 namespace {
@@ -135,6 +136,32 @@ TEST_F(InHand, TheNewPictureIsMadeFromTheTurnedPixelsElseFromTheChosenFile) {
     Slide.ChoosePicture(File);
     Slide.SetPicture(Picture(50, 20));
     EXPECT_EQ(QSize(50, 20), SizeOf(Slide.Jpeg())) << "the turn went with its picture";
+}
+
+TEST_F(InHand, ThePictureIsKeptAsItsKeepingSays) {
+    const PictureKeeping Large{{1920, 1080}, true};
+    const QString File = Pics / u"a.png"_s;
+    Picture(1300, 900).Picture().save(File);
+    Slide.ChoosePicture(File);
+    EXPECT_EQ(QSize(1024, 709), SizeOf(Slide.Jpeg()));
+    EXPECT_EQ(QSize(1300, 900), SizeOf(Slide.Jpeg(Large)));
+    Slide.SetPicture(Picture(1300, 900));
+    Slide.Turn(Picture(900, 1300));
+    EXPECT_EQ(QSize(532, 768), SizeOf(Slide.Jpeg()));
+    EXPECT_EQ(QSize(748, 1080), SizeOf(Slide.Jpeg(Large)));
+}
+
+TEST_F(InHand, AJpegThatIsOnlyTurnedLosesNothing) {
+    const QString File = Pics / u"a.jpg"_s;
+    ASSERT_TRUE(Picture(64, 48).Picture().save(File, "JPEG", 60));
+    ImgX Turned;
+    Turned.Load(File);
+    Turned.Rotate(90);
+    Slide.Turn(Turned);
+    Turned.Rotate(-90);
+    EXPECT_EQ(QSize(48, 64), SizeOf(Slide.Jpeg()));
+    Slide.Turn(Turned);
+    EXPECT_EQ(ReadFile(File), Slide.Jpeg()()) << "turned there and back";
 }
 
 TEST_F(InHand, ThePictureBeforeIsGivenBack) {

@@ -4,6 +4,7 @@
 #include <QColorSpace>
 
 #include "pictures/formats/PictureFaults.h"
+#include "pictures/notes/JpegParts.h"
 #include "printing/PrintRig.h"
 
 namespace neb {
@@ -47,6 +48,33 @@ TEST(PlainJpegs, AreInTheColoursOfTheScreen) {
         const QByteArray Bytes = ReadFile(Folder / u"profiled.jpg"_s);
         ASSERT_TRUE(Bytes.contains("ICC_PROFILE"));
         EXPECT_EQ(ReadPlainJpeg(Bytes).has_value(), IsPlain) << Space.description().toStdString();
+    }
+}
+
+// Three colours that only their names tell from a brightness and two differences.
+QByteArray NamedColours(bool Told) {
+    QByteArray Jpeg = ReadFile(PictureFile(QStringLiteral("rgb444.jpg")));
+    for (const char* Part : {"\xFF\xC0", "\xFF\xDA"}) {
+        const qsizetype At = Jpeg.indexOf(Part), First = At + (uchar(Part[1]) == 0xC0 ? 10 : 5),
+                        Step = uchar(Part[1]) == 0xC0 ? 3 : 2;
+        for (int I = 0; I < 3; ++I) Jpeg[First + I * Step] = "RGB"[I];
+    }
+    if (!Told) Jpeg.replace("JFIF", "NONE");
+    return Jpeg;
+}
+
+TEST(PlainJpegs, TellInWhichColoursTheyAre) {
+    EXPECT_TRUE(ReadPlainJpeg(NamedColours(true)));
+    EXPECT_FALSE(ReadPlainJpeg(NamedColours(false)));
+}
+
+TEST(PlainJpegs, AreNotTurnedByAPacket) {
+    const QByteArray Jpeg = ReadFile(PictureFile(QStringLiteral("rgb444.jpg")));
+    for (const int Orientation : {1, 6}) {
+        const QByteArray Packed =
+            WithMore(Jpeg, JpegPartOf(ExifMarker, XmpMark + "<x tiff:Orientation=\"" +
+                                                      QByteArray::number(Orientation) + "\"/>"));
+        EXPECT_EQ(Orientation == 1, ReadPlainJpeg(Packed).has_value());
     }
 }
 

@@ -4,6 +4,9 @@
 #include <QMouseEvent>
 #include <QScreen>
 
+#include "pictures/PictureResize.h"
+#include "pictures/XShowFit.h"
+
 namespace neb {
 
 PictureView::PictureView(QWidget* Parent) : QWidget(Parent) {
@@ -11,7 +14,7 @@ PictureView::PictureView(QWidget* Parent) : QWidget(Parent) {
 }
 
 void PictureView::SetPicture(const QImage& Picture) {
-    mPicture = Picture;
+    mPicture = AsOpaque(Picture);
     mScaled = {};
     update();
 }
@@ -25,7 +28,9 @@ QSize PictureView::LargestScreen() {
 
 QImage PictureView::ForScreens(const QImage& Picture, QSize Largest) {
     if (Picture.size().boundedTo(Largest) == Picture.size()) return Picture;
-    return Picture.scaled(Largest, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    return ResizePicture(AsOpaque(Picture),
+                         Picture.size().scaled(Largest, Qt::KeepAspectRatio).expandedTo({1, 1}),
+                         ResizeFilter::Sharp);
 }
 
 void PictureView::SetEmptyText(const QString& Text) {
@@ -41,8 +46,7 @@ QRect PictureView::PictureRect() const {
 }
 
 const QImage& PictureView::Scaled(QSize DevicePixels) {
-    if (mScaled.size() != DevicePixels)
-        mScaled = mPicture.scaled(DevicePixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    if (mScaled.size() != DevicePixels) mScaled = ResizeAtOnce(mPicture, DevicePixels);
     return mScaled;
 }
 

@@ -5,6 +5,7 @@
 #include <QRandomGenerator>
 
 #include "SlideRig.h"
+#include "pictures/PictureResize.h"
 #include "support/MediaTypes.h"
 
 namespace neb {
@@ -125,6 +126,23 @@ TEST_F(SlideDBMPicture, TurnsAndFlips) {
     for (const auto& Step : Steps) {
         Push(Step.Button);
         EXPECT_EQ(Step.Corners, Corners()) << Step.Button;
+    }
+}
+
+TEST_F(SlideDBMPicture, FourTurnsEachSavedLoseNothing) {
+    const auto ID = AddSlide(u"a"_s);
+    const QString File = Stored(u"00000001.jpg"_s);
+    for (const char* Button : {"cmdRotate1", "cmdRotate2"}) {
+        ASSERT_TRUE(QImage(MakeNoise({320, 240})).save(File, "JPEG", 80));
+        const QImage Before = ReadBack(File);
+        OpenSlide(ID);
+        for (int Turn = 1; Turn <= 4; ++Turn) {
+            Push(Button);
+            Push("cmdSave");
+            EXPECT_EQ(Turn % 2 ? QSize(240, 320) : QSize(320, 240), SizeOf(File));
+        }
+        EXPECT_EQ(Before, ReadBack(File));
+        W->Unload();
     }
 }
 
@@ -261,8 +279,7 @@ TEST_F(SlideDBMPicture, IsSharpAtEverySize) {
         W->resize(Size);
         QCoreApplication::processEvents();
         const QRect Place = View.PictureRect();
-        const QImage Sharp = Shown().scaled((QSizeF(Place.size()) * Ratio).toSize(),
-                                            Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        const QImage Sharp = ResizeAtOnce(Shown(), (QSizeF(Place.size()) * Ratio).toSize());
         QImage Painted = W->grab().toImage();
         Painted.setDevicePixelRatio(1);
         const QPointF Corner = QPointF(View.mapTo(W, Place.topLeft())) * Ratio;
