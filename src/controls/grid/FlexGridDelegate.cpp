@@ -10,7 +10,6 @@
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <QToolTip>
-#include <cmath>
 
 #include "controls/grid/FlexGrid.h"
 
@@ -23,14 +22,6 @@ const QString Dots = QStringLiteral("...");
 void EditNeighbour(FlexGrid& Grid, int Step) {
     const int Next = Grid.Row() + Step;
     if (Grid.Redraw() && Next >= 0 && Next < Grid.Rows()) Grid.EditCell(Next, Grid.Col());
-}
-
-// The corner of the pixel in which the point lies: between pixels a picture would blur.
-QPointF OnPixel(const QPainter& Painter, QPointF At) {
-    constexpr double Rounding = 0.01;
-    const QTransform& ToScreen = Painter.deviceTransform();
-    const QPointF There = ToScreen.map(At) + QPointF(Rounding, Rounding);
-    return ToScreen.inverted().map(QPointF(std::floor(There.x()), std::floor(There.y())));
 }
 
 // A key or the wheel only goes through the entries: the choice is made when the list that opens
@@ -191,7 +182,7 @@ void FlexGridDelegate::PaintPicture(QPainter& Painter, const QRect& Room,
     Painter.save();
     Painter.setClipRect(Room, Qt::IntersectClip);
     Painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    Painter.drawImage(QRectF(OnPixel(Painter, Room.topLeft() + Corner), Size), Picture);
+    Painter.drawImage(QRectF(Room.topLeft() + Corner, Size), Picture);
     Painter.restore();
 }
 

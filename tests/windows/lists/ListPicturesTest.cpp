@@ -79,6 +79,15 @@ class ListPicturesShown : public ManagerRig {
         Shot.setDevicePixelRatio(1);
         return Shot;
     }
+    // Whether this part is somewhere in the cell that begins there.
+    static bool Holds(const QImage& Whole, const QImage& Part, QPointF Cell) {
+        for (int Y = 0; Y < Part.width(); ++Y)
+            for (int X = 0; X < Part.height(); ++X) {
+                const QRect Place(Cell.toPoint() + QPoint(X, Y), Part.size());
+                if (Whole.copy(Place).convertToFormat(Part.format()) == Part) return true;
+            }
+        return false;
+    }
     static double Ratio(const FlexGrid& Grid) { return Grid.devicePixelRatioF(); }
     // Where this colour is seen, in logical pixels.
     static QRectF Seen(const FlexGrid& Grid, int Row, QColor Colour = Qt::red) {
@@ -192,6 +201,24 @@ TEST_F(ListPicturesShown, AreAsFineAsTheScreen) {
         EXPECT_LT(Contrast(Grid, 0), 60) << "the thumbnail has all that can be seen";
 }
 
+// Whatever the scaling: a picture that lay between the pixels would be blurred once more.
+TEST_F(ListPicturesShown, AreDrawnPixelForPixel) {
+    AddLines();
+    AddPicture(Lines().transformed(QTransform().rotate(90)));
+    const auto Bulk = OpenBulk(AlbumID);
+    const FlexGrid& Grid = GridOf(Bulk);
+    Settle(Grid);
+    QImage Shot = Grid.viewport()->grab().toImage();
+    Shot.setDevicePixelRatio(1);
+    for (int Row = 0; Row < 2; ++Row) {
+        QImage Ready = FittedPicture(Grid.ShownPicture(Row, Pic), Ratio(Grid));
+        EXPECT_EQ(qRound(72 * Ratio(Grid)), std::max(Ready.width(), Ready.height()));
+        Ready.setDevicePixelRatio(1);
+        const QRect Room = Grid.visualRect(Grid.model()->index(Row, Pic));
+        EXPECT_TRUE(Holds(Shot, Ready, QPointF(Room.topLeft()) * Ratio(Grid))) << Row;
+    }
+}
+
 TEST_F(ListPicturesShown, ChangeWithTheSlide) {
     AddPicture(Plain({1024, 256}));
     AddPicture(Plain({1024, 256}));
@@ -209,6 +236,26 @@ TEST_F(ListPicturesShown, ChangeWithTheSlide) {
     ExpectShown(GridOf(Bulk), 0, {36, 72}, Qt::blue);
     Settle(GridOf(Bulk));
     ExpectShown(GridOf(Bulk), 0, {36, 72}, Qt::blue);
+}
+
+TEST_F(ListPicturesShown, TurnWithTheSlideInTheSlideManager) {
+    MakePicture(App / u"NoSlide.bmp"_s, 60, 40, Qt::gray);
+    AddPicture(Plain({1024, 256}));
+    const auto Bulk = OpenBulk(AlbumID);
+    ExpectShown(GridOf(Bulk), 0, {72, 18});
+    const auto Slides = NewForm<frmSlideDBM>();
+    Slides->LoadSlideMgr();
+    Activate(*Slides);
+    QCoreApplication::processEvents();
+    for (const auto& [Name, Key] : {std::pair("cboAlbum", AlbumID), std::pair("cboSlides", 1)}) {
+        auto& Box = In<QComboBox>(*Slides, Name);
+        Box.setCurrentIndex(Box.findData(Key));
+    }
+    Press(*Slides, "cmdRotate2");
+    Press(*Slides, "cmdSave");
+    ExpectShown(GridOf(Bulk), 0, {18, 72});
+    Settle(GridOf(Bulk));
+    ExpectShown(GridOf(Bulk), 0, {18, 72});
 }
 
 TEST_F(ListPicturesShown, OfAPictureThatHasGoneTheThumbnailStays) {
@@ -253,18 +300,28 @@ TEST_F(ListPicturesShown, OfTenThousandOnlyThoseThatAreSeenAreRead) {
 }
 
 // The scaling of a display is fixed when a program starts.
-TEST(ListPicturesOnAFineScreen, AreShownAsWell) {
+void ExpectPassing(const char* Scale, const QString& Tests, const char* Count) {
     QProcessEnvironment Environment = QProcessEnvironment::systemEnvironment();
-    Environment.insert(u"QT_SCALE_FACTOR"_s, u"2"_s);
+    Environment.insert(u"QT_SCALE_FACTOR"_s, QString::fromLatin1(Scale));
+    Environment.remove(u"GTEST_TOTAL_SHARDS"_s);
     QProcess Copy;
     Copy.setProcessEnvironment(Environment);
     Copy.setProcessChannelMode(QProcess::MergedChannels);
-    Copy.start(QCoreApplication::applicationFilePath(), {u"--gtest_filter=ListPicturesShown.*"_s});
+    Copy.start(QCoreApplication::applicationFilePath(), {u"--gtest_filter="_s + Tests});
     ASSERT_TRUE(Copy.waitForFinished(60000));
     const QByteArray Said = Copy.readAll();
     EXPECT_EQ(QProcess::NormalExit, Copy.exitStatus());
-    EXPECT_EQ(0, Copy.exitCode()) << Said.toStdString();
-    EXPECT_TRUE(Said.contains("[  PASSED  ] 7 tests")) << Said.toStdString();
+    EXPECT_EQ(0, Copy.exitCode()) << Scale << ": " << Said.toStdString();
+    EXPECT_TRUE(Said.contains(Count)) << Said.toStdString();
+}
+
+TEST(ListPicturesOnAFineScreen, AreShownAsWell) {
+    ExpectPassing("2", u"ListPicturesShown.*"_s, "[  PASSED  ] 9 tests");
+}
+
+TEST(ListPicturesOnAFineScreen, AreSharpAtScalingsBetween) {
+    for (const char* Scale : {"1.25", "1.5"})
+        ExpectPassing(Scale, u"ListPicturesShown.AreDrawnPixelForPixel"_s, "[  PASSED  ] 1 test");
 }
 
 // A list that goes over to a fine screen, and back.
