@@ -79,10 +79,11 @@ TEST_F(ShellTest, FoldersMayHaveNamesOfEveryScript) {
         const QString Place = Documents / QString::fromUtf8(Name) + u'/';
         SetDocumentsPath(Place);
         DBPathCache.clear();
-        EXPECT_EQ(Place + u"NEB/NEB Slide Show/", DBPath());
+        EXPECT_EQ(Place + QStringLiteral("NEB/NEB Slide Show/"), DBPath());
         MakeDirs(SettingsDir());
         clsSettings Settings = OpenSettings();
-        Settings.PutValue({}, QStringLiteral("DBPath"), Place + QString::fromUtf8(Name));
+        Settings.PutValue(QStringLiteral("General"), QStringLiteral("DBPath"),
+                          Place + QString::fromUtf8(Name));
         Settings.Save();
         DBPathCache.clear();
         EXPECT_EQ(Place + QString::fromUtf8(Name) + u'/', DBPath());
