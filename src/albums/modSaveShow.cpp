@@ -187,7 +187,7 @@ Answer<> CheckShow(ShowContent& Content, const clsDBEngine& theDB) {
         return Refuse(QStringLiteral("You must first select an album to save the slide show in."));
     if (Content.Name.isEmpty())
         return Refuse(QStringLiteral("You have to enter a name for the slide show."));
-    Content.Name = CleanText(Content.Name);
+    Content.Name = CleanName(Content.Name);
     if (Content.Slides.empty())
         return Refuse(QStringLiteral("You must select atleast 1 slide for the Slide Show."));
     if (const Answer<> Are = CheckTracks(Content); !Are) return Are;

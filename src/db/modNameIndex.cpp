@@ -1,18 +1,19 @@
 #include "db/modNameIndex.h"
 
 #include "db/modExchangeSort.h"
+#include "support/modCollation.h"
 
 namespace neb {
 
 void SortByName(std::vector<NameIndexEntry>& Index, NameTies Ties) {
     struct Keyed {
-        QString Key;
+        QCollatorSortKey Key;  // made once for each: it costs more than many comparisons
         NameIndexEntry Entry;
     };
     std::vector<Keyed> Rows;
     Rows.reserve(Index.size());
     for (NameIndexEntry& Entry : Index) {
-        QString Key = Entry.Name.toUpper();
+        QCollatorSortKey Key = NameOrder().sortKey(Entry.Name);
         Rows.push_back({std::move(Key), std::move(Entry)});
     }
     ExchangeSort(Rows, [&](const Keyed& A, const Keyed& B) {

@@ -15,8 +15,9 @@ struct NameIndexEntry {
 
 enum class NameTies { ByID, AsTheyFall };
 
-// Ascending by the upper-cased name, compared by character code. Equal names go by ascending ID,
-// or fall as an exchange sort leaves them.
+// Ascending by name in the order of the user's language (support/modCollation.h). Names that are
+// the same to it, such as those that differ in case alone, go by ascending ID, or fall as an
+// exchange sort leaves them.
 void SortByName(std::vector<NameIndexEntry>& Index, NameTies Ties);
 
 }  // namespace neb

@@ -49,9 +49,9 @@ PdfPicture AsItIs(const QByteArray& Bytes, const PlainJpeg& Plain) {
     return Made;
 }
 
-PdfPicture FromPixels(const QImage& Image) {
-    PdfPicture Made{
-        Owned(cairo_image_surface_create(CAIRO_FORMAT_RGB24, Image.width(), Image.height()))};
+// Format: of the pixels, which are as the library's.
+PdfPicture FromPixels(const QImage& Image, cairo_format_t Format = CAIRO_FORMAT_RGB24) {
+    PdfPicture Made{Owned(cairo_image_surface_create(Format, Image.width(), Image.height()))};
     uchar* const Into = cairo_image_surface_get_data(Made.Pixels.get());
     if (!Into) throw Fault(QStringLiteral("There is not enough memory for the picture."));
     const int Stride = cairo_image_surface_get_stride(Made.Pixels.get());
@@ -166,7 +166,7 @@ class PdfFile {
             if (GoOn && !GoOn({++mDone, mDocument.PlaceCount()})) return false;
         }
         for (const PlacedText& Text : mDocument.TextsOn(Page)) {
-            Draw(OutlinesOf(Text));
+            Draw(InkOf(Text));
             if (GoOn && !GoOn({mDone, mDocument.PlaceCount()})) return false;
         }
         return true;
@@ -193,7 +193,12 @@ class PdfFile {
         cairo_restore(mPaper);
     }
 
-    void Draw(const QPainterPath& Outlines) {
+    void Draw(const TextInk& Ink) {
+        DrawOutlines(Ink.Outlines);
+        for (const TextInk::Emoji& Each : Ink.Emojis)
+            Draw(FromPixels(Each.Picture, CAIRO_FORMAT_ARGB32), Each.Place);
+    }
+    void DrawOutlines(const QPainterPath& Outlines) {
         cairo_save(mPaper);
         cairo_scale(mPaper, PointsToTheInch, PointsToTheInch);
         AddPath(mPaper, Outlines);

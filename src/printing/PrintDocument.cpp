@@ -46,10 +46,13 @@ QImage PixelsOrStandIn(const PrintPicture& Picture, const PrintPicture& StandIn,
     }
 }
 
-void DrawOutlines(QPainter& Painter, const QPainterPath& Outlines) {
+void DrawInk(QPainter& Painter, const TextInk& Ink, double Scale) {
+    const QTransform ToDots = QTransform::fromScale(Scale, Scale);
     Painter.save();
-    Painter.setRenderHint(QPainter::Antialiasing);
-    Painter.fillPath(Outlines, Qt::black);
+    Painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    Painter.fillPath(ToDots.map(Ink.Outlines), Qt::black);
+    for (const TextInk::Emoji& Each : Ink.Emojis)
+        Painter.drawImage(ToDots.mapRect(Each.Place), Each.Picture);
     Painter.restore();
 }
 
@@ -186,8 +189,7 @@ void PrintDocument::PaintPage(QPainter& Painter, int Page, double Scale) const {
         const QImage Pixels = Ahead.Take();
         for (const QRectF& Target : Targets) DrawSmoothly(Painter, Target, Pixels);
     }
-    for (const PlacedText& Text : TextsOn(Page))
-        DrawOutlines(Painter, QTransform::fromScale(Scale, Scale).map(OutlinesOf(Text)));
+    for (const PlacedText& Text : TextsOn(Page)) DrawInk(Painter, InkOf(Text), Scale);
 }
 
 }  // namespace neb

@@ -38,6 +38,7 @@ struct PlacedPicture {
     QRectF Place;     // inches from the page's top left corner
 };
 
+// Left: where a text begins, which for one that is read from right to left is the right.
 enum class TextSide { Left, Right };
 
 // A text within a place: as many lines as have room, the last one cut short where there is more.

@@ -1,5 +1,7 @@
 #include "printing/TablePages.h"
 
+#include "support/modCharacters.h"
+
 namespace neb {
 namespace {
 
@@ -7,12 +9,27 @@ namespace {
 constexpr double Margin = 0.6, TitleHeight = 0.3, LineHeight = 0.17, LineStep = 0.2, Gap = 0.1;
 constexpr qsizetype LettersToTheInch = 14;  // of a line of text, about
 
+bool IsWide(QChar Letter) {
+    const auto Script = Letter.script();
+    return Script == QChar::Script_Han || Script == QChar::Script_Hangul ||
+           Script == QChar::Script_Hiragana || Script == QChar::Script_Katakana;
+}
+
+// Of a line of Latin letters, so many of the text's own; Chinese ones take the room of two.
+qsizetype LettersOf(const QString& Text, qsizetype Most) {
+    qsizetype End = 0;
+    for (qsizetype Room = Most; End < Text.size(); ++End)
+        if ((Room -= IsWide(Text[End]) ? 2 : 1) < 0) break;
+    return End;
+}
+
 // A text in lines of so many letters, broken at blanks where there are some.
-QStringList Broken(QString Text, qsizetype Most) {
+QStringList Broken(QString Text, qsizetype Letters) {
     QStringList Lines;
-    while (Text.size() > Most) {
+    for (qsizetype Most; (Most = LettersOf(Text, Letters)) < Text.size();) {
         const qsizetype Blank = Text.lastIndexOf(u' ', Most);
-        const qsizetype End = Blank > Most / 2 ? Blank : Most;
+        const qsizetype Whole = FirstUnits(Text, Most).size();
+        const qsizetype End = Blank > Most / 2 ? Blank : Whole > 0 ? Whole : Most;
         Lines << Text.left(End);
         Text = QStringLiteral("    ") + Text.mid(End).trimmed();
     }

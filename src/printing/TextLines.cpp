@@ -2,6 +2,7 @@
 
 #include <QFontMetricsF>
 #include <QGlyphRun>
+#include <QPainter>
 #include <QRawFont>
 #include <QTextLayout>
 
@@ -11,7 +12,8 @@ namespace {
 // Fine enough that no letter is bent to whole dots.
 constexpr double DotsToTheInch = 1440;
 constexpr double PointsToTheInch = 72;
-constexpr double LargestSize = 9;  // points
+constexpr double LargestSize = 9;    // points
+constexpr double PictureDots = 600;  // to the inch, of letters that are pictures
 // More than any page shows; the work grows faster than the text.
 constexpr qsizetype MostCharacters = 10000;
 
@@ -26,8 +28,12 @@ QFont FontFor(double Height) {
     return Font;
 }
 
-QTextOption OptionFor(TextSide Side) {
-    QTextOption Option(Side == TextSide::Left ? Qt::AlignLeft : Qt::AlignRight);
+// Left is where a text begins: one that is read from the right begins there.
+QTextOption OptionFor(const PlacedText& Text) {
+    const bool FromTheRight = Text.Text.isRightToLeft();
+    const bool AtLeft = Text.Side == TextSide::Left && !FromTheRight;
+    QTextOption Option((AtLeft ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignAbsolute);
+    Option.setTextDirection(FromTheRight ? Qt::RightToLeft : Qt::LeftToRight);
     Option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     return Option;
 }
@@ -63,24 +69,73 @@ QString Prepared(const QString& Text) {
     return Lines;
 }
 
-QPainterPath OutlinesOf(const QTextLayout& Layout) {
-    QPainterPath Path;
-    Path.setFillRule(Qt::WindingFill);
+// At the size in which it is painted: a larger one would only make the file larger.
+QGlyphRun Alone(const QRawFont& Font, quint32 Glyph) {
+    QGlyphRun One;
+    One.setRawFont(Font);
+    One.setGlyphIndexes({Glyph});
+    One.setPositions({QPointF()});
+    return One;
+}
+
+bool IsBlank(const QImage& Picture) {
+    QImage Nothing(Picture.size(), Picture.format());
+    Nothing.fill(Qt::transparent);
+    return Picture == Nothing;
+}
+
+void AddPicture(const QGlyphRun& Run, quint32 Glyph, QPointF At, TextInk& Ink) {
+    const double Scale = PictureDots / DotsToTheInch;
+    QRawFont Font = Run.rawFont();
+    Font.setPixelSize(Font.pixelSize() * Scale);
+    const QSizeF Size(Font.advancesForGlyphIndexes({Glyph}).value(0).x(),
+                      Font.ascent() + Font.descent());
+    QImage Picture(QSize(qCeil(Size.width()), qCeil(Size.height())).expandedTo({1, 1}),
+                   QImage::Format_ARGB32_Premultiplied);
+    Picture.fill(Qt::transparent);
+    QPainter Painter(&Picture);
+    Painter.drawGlyphRun({0, Font.ascent()}, Alone(Font, Glyph));
+    Painter.end();
+    if (IsBlank(Picture)) return;
+    Ink.Emojis.push_back(
+        {Picture, {At - QPointF(0, Font.ascent() / Scale), QSizeF(Picture.size()) / Scale}});
+}
+
+// Most texts are letters alone.
+bool MayHoldPictures(const QString& Text) {
+    return std::any_of(Text.begin(), Text.end(), [](QChar Unit) {
+        return Unit.isSurrogate() || Unit.category() == QChar::Symbol_Other;
+    });
+}
+
+TextInk InkOf(const QTextLayout& Layout) {
+    TextInk Ink;
+    Ink.Outlines.setFillRule(Qt::WindingFill);
+    const bool Pictures = MayHoldPictures(Layout.text());
     for (const QGlyphRun& Run : Layout.glyphRuns()) {
         const QList<quint32> Glyphs = Run.glyphIndexes();
         const QList<QPointF> Places = Run.positions();
-        for (qsizetype I = 0; I < Glyphs.size(); ++I)
-            Path.addPath(Run.rawFont().pathForGlyph(Glyphs[I]).translated(Places[I]));
+        for (qsizetype I = 0; I < Glyphs.size(); ++I) {
+            const QPainterPath Outline = Run.rawFont().pathForGlyph(Glyphs[I]);
+            Ink.Outlines.addPath(Outline.translated(Places[I]));
+            if (Pictures && Outline.isEmpty()) AddPicture(Run, Glyphs[I], Places[I], Ink);
+        }
     }
-    return Path;
+    return Ink;
+}
+
+TextInk Mapped(TextInk Ink, const QTransform& By) {
+    Ink.Outlines = By.map(Ink.Outlines);
+    for (TextInk::Emoji& Each : Ink.Emojis) Each.Place = By.mapRect(Each.Place);
+    return Ink;
 }
 
 }  // namespace
 
-QPainterPath OutlinesOf(const PlacedText& Text) {
+TextInk InkOf(const PlacedText& Text) {
     const QSizeF Room = Text.Place.size() * DotsToTheInch;
     QTextLayout Layout(Prepared(Text.Text), FontFor(Room.height()));
-    Layout.setTextOption(OptionFor(Text.Side));
+    Layout.setTextOption(OptionFor(Text));
     const int Lines = Break(Layout, Room);
     if (Lines < Layout.lineCount()) {
         Layout.setText(Shortened(Layout, Lines, Room.width()));
@@ -88,7 +143,7 @@ QPainterPath OutlinesOf(const PlacedText& Text) {
     }
     const QTransform ToThePage = QTransform::fromTranslate(Text.Place.x(), Text.Place.y())
                                      .scale(1 / DotsToTheInch, 1 / DotsToTheInch);
-    return ToThePage.map(OutlinesOf(Layout));
+    return Mapped(InkOf(Layout), ToThePage);
 }
 
 }  // namespace neb

@@ -2,13 +2,13 @@
 
 #include <algorithm>
 
+#include "support/modCharacters.h"
 #include "support/modText.h"
 
 namespace neb {
 namespace {
 
 constexpr std::int16_t Backspace = 8;
-constexpr qsizetype RecordTextBytes = 80;  // of every name and caption
 
 struct QuotePair {
     std::int16_t Opening, Other;
@@ -56,16 +56,19 @@ void FixQuoteKeyInGrid(const EntryState& Editor, std::int16_t& KeyAscii) {
 }
 
 // In steps that shrink with what is too much: somebody may have pasted a whole book.
-QString FitToRecord(QString Text) {
-    for (qsizetype Over; (Over = ToAnsi(Text).size() - RecordTextBytes) > 0;) {
-        Text.chop(std::max<qsizetype>(1, Over / 8));
-        if (!Text.isEmpty() && Text.back().isHighSurrogate()) Text.chop(1);
-    }
-    return Text;
+QString FitToRecord(const QString& Text) {
+    QString Fitting = FirstUnits(Text, MaxCaption);
+    for (qsizetype Over; (Over = ToAnsi(Fitting).size() - RecordTextBytes) > 0;)
+        Fitting = FirstUnits(Fitting, Fitting.size() - std::max<qsizetype>(1, Over / 8));
+    return Fitting;
 }
 
 QString CleanText(const QString& Text) {
-    return FitToRecord(ConvertQuotes(Text));
+    return FirstUnits(ConvertQuotes(Text), MaxCaption);
+}
+
+QString CleanName(const QString& Text) {
+    return FirstUnits(ConvertQuotes(Text), MaxName);
 }
 
 bool IsNumericText(const QString& Text, QString& Message, bool AllowNegative) {

@@ -22,12 +22,19 @@ QString ConvertQuotes(const QString& Text);
 // The same for one key in a text field, and in the cell editor of a grid.
 void FixQuoteKey(const EntryState& Field, std::int16_t& KeyAscii);
 void FixQuoteKeyInGrid(const EntryState& Editor, std::int16_t& KeyAscii);
-// The start of a caption, or of a show's name, for which a record has room: 80 bytes of
-// Windows-1252, of which a character that the code page does not have may need several.
-QString FitToRecord(QString Text);
-// A typed caption as it is kept: its quotes converted, and no longer than a record holds. The name
-// of an album that is too long is refused instead.
+// What a record has room for of a caption or a name, and all that earlier versions of the program
+// know of it: 80 bytes of Windows-1252, of which a character that the code page does not have may
+// need several. Whole characters only.
+constexpr qsizetype RecordTextBytes = 80;
+QString FitToRecord(const QString& Text);
+// UTF-16 units that a caption may have, and the name of an album or a show.
+constexpr qsizetype MaxCaption = 2000;
+constexpr qsizetype MaxName = 80;
+// A typed caption as it is kept: its quotes converted, and no longer than MaxCaption.
 QString CleanText(const QString& Text);
+// The same for the name of a show, no longer than MaxName. The name of an album that is too long
+// is refused instead.
+QString CleanName(const QString& Text);
 // Digits alone, with a "-" in front when AllowNegative; an empty text passes. On a refusal
 // Message names the first character that is no digit.
 bool IsNumericText(const QString& Text, QString& Message, bool AllowNegative);

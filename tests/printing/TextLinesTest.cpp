@@ -15,6 +15,10 @@ namespace {
 
 using namespace tests;
 
+QPainterPath OutlinesOf(const PlacedText& Text) {
+    return InkOf(Text).Outlines;
+}
+
 QRectF BoxOf(const QString& Text, const QRectF& Place, TextSide Side = TextSide::Left) {
     return OutlinesOf({Text, Place, Side}).boundingRect();
 }
@@ -81,6 +85,44 @@ TEST(TextLines, InALowPlaceTheLettersAreSmaller) {
 
 TEST(TextLines, ABlankTextHasNoOutlines) {
     EXPECT_TRUE(BoxOf(u" \n "_s, {0, 0, 2, 1}).isEmpty());
+}
+
+// A font may have an emoji as a picture alone.
+TEST(TextLines, AnEmojiIsDrawnAndTheWordsAroundItStayRight) {
+    const QRectF Place(1, 2, 3, 0.3);
+    const TextInk Ink = InkOf({u"Rose \U0001F9C1 Lamp"_s, Place});
+    ASSERT_EQ(1u, Ink.Emojis.size());
+    ExpectWithin(Ink.Emojis[0].Place, Place);
+    const QImage Shown = Ink.Emojis[0].Picture.convertToFormat(QImage::Format_ARGB32);
+    int Coloured = 0;
+    for (int Y = 0; Y < Shown.height(); ++Y)
+        for (int X = 0; X < Shown.width(); ++X) Coloured += qAlpha(Shown.pixel(X, Y)) > 128;
+    EXPECT_GT(Coloured, Shown.width() * Shown.height() / 5);
+    const QRectF Rose = BoxOf(u"Rose"_s, Place);
+    EXPECT_GT(Ink.Emojis[0].Place.left(), Rose.right());
+    QPainterPath Under;
+    Under.addRect(Ink.Emojis[0].Place.adjusted(0.01, 0, -0.01, 0));
+    EXPECT_FALSE(Ink.Outlines.intersects(Under)) << "no letter lies over it";
+    EXPECT_GT(Ink.Outlines.boundingRect().right(), Ink.Emojis[0].Place.right()) << "Lamp follows";
+}
+
+// The size of the letter at the left, in thousandths of an inch.
+QSize LeftmostShape(const QString& Text) {
+    QRectF Found;
+    for (const QPolygonF& Each : OutlinesOf({Text, {0, 0, 4, 0.3}}).toSubpathPolygons()) {
+        const QRectF Box = Each.boundingRect();
+        if (Found.isNull() || Box.left() < Found.left()) Found = Box;
+    }
+    return (Found.size() * 1000).toSize();
+}
+
+TEST(TextLines, WordsReadFromTheRightBeginAtTheRight) {
+    const QRectF Place(0, 0, 4, 0.3);
+    EXPECT_NEAR(BoxOf(u"שלום"_s, Place).right(), 4, 0.03);
+    EXPECT_NEAR(BoxOf(u"مرحبا 12"_s, Place).right(), 4, 0.03);
+    EXPECT_NEAR(BoxOf(u"Лето"_s, Place).left(), 0, 0.03);
+    EXPECT_EQ(LeftmostShape(u"LWM"_s), LeftmostShape(u"ש LWM"_s)) << "it goes on at the left";
+    EXPECT_NE(LeftmostShape(u"LWM"_s), LeftmostShape(u"ש"_s));
 }
 
 TEST(TextLines, ThreadsMayMakeThemSideBySide) {

@@ -74,6 +74,24 @@ TEST_F(ShellTest, TheDatabaseLiesBesideTheSettingsUnlessTheFileSaysOtherwise) {
     EXPECT_EQ(Home() + INIFileName(), OpenSettings().FileName());
 }
 
+TEST_F(ShellTest, FoldersMayHaveNamesOfEveryScript) {
+    for (const char* Name : {"Документы", "Øyvind", "山田 太郎", "مستندات", "Ελλάδα 🌹"}) {
+        const QString Place = Documents / QString::fromUtf8(Name) + u'/';
+        SetDocumentsPath(Place);
+        DBPathCache.clear();
+        EXPECT_EQ(Place + QStringLiteral("NEB/NEB Slide Show/"), DBPath());
+        MakeDirs(SettingsDir());
+        clsSettings Settings = OpenSettings();
+        Settings.PutValue(QStringLiteral("General"), QStringLiteral("DBPath"),
+                          Place + QString::fromUtf8(Name));
+        Settings.Save();
+        DBPathCache.clear();
+        EXPECT_EQ(Place + QString::fromUtf8(Name) + u'/', DBPath());
+        EXPECT_TRUE(ReadFile(SettingsDir() + INIFileName()).contains(QByteArray(Name)))
+            << "in letters that people can read";
+    }
+}
+
 TEST_F(ShellTest, ADBPathOfTheSettingsGetsItsClosingSeparator) {
     EXPECT_EQ(u"/srv/pictures/", WithDBPath("/srv/pictures"));
     EXPECT_EQ(u"/srv/pictures/", WithDBPath("/srv/pictures/"));

@@ -56,6 +56,23 @@ TEST_F(TheCaptions, FindASlideByItsNumber) {
     EXPECT_EQ(0, Find("-1"));
 }
 
+TEST_F(TheCaptions, FindASlideByItsNumberInTheDigitsOfAnyScript) {
+    for (const char* Text : {"a", "b", "c"}) Add(Text);
+    EXPECT_EQ(3, Find("\u0663"));
+    EXPECT_EQ(0, Find("\u0664"));
+}
+
+TEST_F(TheCaptions, AreFoundInEveryScript) {
+    for (const char* Text :
+         {"x", "Ёлка дома", "水曜日の朝", "שָׁלוֹם 2024", "Family 👩‍👩‍👧"})
+        Add(Text);
+    EXPECT_EQ(2, Find("елка"));
+    EXPECT_EQ(3, Find("水曜"));
+    EXPECT_EQ(4, Find("שלום"));
+    EXPECT_EQ(5, Find("👩‍👩‍👧"));
+    EXPECT_EQ(0, Find("木"));
+}
+
 TEST_F(TheCaptions, FindANumberAmongTheWordsWhenTheShowIsNotSoLong) {
     Add("Summer 1999");
     Add("Winter 2001");

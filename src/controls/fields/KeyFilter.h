@@ -10,6 +10,7 @@
 
 #include "support/modDEValidation.h"
 
+class QInputMethodEvent;
 class QKeyEvent;
 
 namespace neb {
@@ -17,7 +18,8 @@ namespace neb {
 // KeyAscii is the Windows-1252 code of the key; the filter changes it, 0 cancels the key.
 using KeyPressFilter = std::function<void(const EntryState& Field, std::int16_t& KeyAscii)>;
 
-// Characters outside Windows-1252, shortcuts, input methods and pasted text pass unseen.
+// Characters outside Windows-1252, shortcuts and pasted text pass unseen; what an input method
+// commits is looked at like so many keys.
 class KeyFilter : public QObject {
     Q_OBJECT
   public:
@@ -28,6 +30,9 @@ class KeyFilter : public QObject {
 
   private:
     bool FilterKey(const QKeyEvent& Key);
+    bool TakeEmojiBack();
+    QString Filtered(const QString& Typed) const;
+    bool FilterCommit(const QInputMethodEvent& Event);
     QLineEdit* mField;
     KeyPressFilter mFilter;
 };

@@ -11,6 +11,7 @@
 #include <QScopedValueRollback>
 #include <QToolTip>
 
+#include "controls/fields/CaptionCount.h"
 #include "controls/grid/FlexGrid.h"
 
 namespace neb {
@@ -90,6 +91,9 @@ QStyleOptionViewItem FlexGridDelegate::Styled(const QStyleOptionViewItem& Option
     if (!Own.widget) Own.widget = mGrid;
     Own.features &= ~QStyleOptionViewItem::HasCheckIndicator;  // ours stands in the middle
     Own.textElideMode = mGrid->Column(Index.column()).IsPath ? Qt::ElideMiddle : Qt::ElideRight;
+    const bool IsWords = mGrid->Column(Index.column()).Kind == FlexKind::Text &&
+                         !mGrid->Column(Index.column()).IsPath;
+    if (IsWords && Own.text.isRightToLeft()) Own.direction = Qt::RightToLeft;
     if (mGrid->Column(Index.column()).Kind == FlexKind::Fixed)
         Own.backgroundBrush = Own.palette.button();
     return Own;
@@ -215,8 +219,8 @@ QWidget* FlexGridDelegate::createEditor(QWidget* Parent, const QStyleOptionViewI
                                         const QModelIndex& Index) const {
     const FlexColumn& Column = mGrid->Column(Index.column());
     auto* Self = const_cast<FlexGridDelegate*>(this);
-    mEditor =
-        Column.Kind == FlexKind::List ? Self->ListEditor(Parent, Column.List) : TextEditor(Parent);
+    mEditor = Column.Kind == FlexKind::List ? Self->ListEditor(Parent, Column.List)
+                                            : TextEditor(Parent, Column);
     const QString Heading = Column.Heading;
     mEditor->setAccessibleName(Heading.isEmpty() ? mGrid->accessibleName() : Heading);
     mEditor->setAutoFillBackground(true);
@@ -232,8 +236,9 @@ QWidget* FlexGridDelegate::ListEditor(QWidget* Parent, const QStringList& Entrie
     return Box;
 }
 
-QWidget* FlexGridDelegate::TextEditor(QWidget* Parent) const {
+QWidget* FlexGridDelegate::TextEditor(QWidget* Parent, const FlexColumn& Column) const {
     auto* Field = new QLineEdit(Parent);
+    if (Column.IsCaption) new CaptionCount(Field);
     new KeyFilter(Field, [Grid = mGrid](const EntryState& State, std::int16_t& KeyAscii) {
         if (Grid->mKeyPressEdit) Grid->mKeyPressEdit(State, KeyAscii);
     });

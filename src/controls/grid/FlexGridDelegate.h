@@ -46,7 +46,7 @@ class FlexGridDelegate : public QStyledItemDelegate {
     void PaintArrow(QPainter& Painter, const QStyleOptionViewItem& Option, const QRect& Hot) const;
     void PaintFocus(QPainter& Painter, const QStyleOptionViewItem& Option) const;
     QWidget* ListEditor(QWidget* Parent, const QStringList& Entries);
-    QWidget* TextEditor(QWidget* Parent) const;
+    QWidget* TextEditor(QWidget* Parent, const FlexColumn& Column) const;
     void End(QWidget* Editor, bool Keep);
     bool KeyPressed(QWidget* Editor, int Key);
 

@@ -23,7 +23,8 @@ enum class FlexKind {
 struct FlexColumn {
     FlexKind Kind = FlexKind::Text;
     bool Editable = false;
-    bool Stretch = false;  // takes the room that the others leave
+    bool IsCaption = false;  // of a slide: what is typed is counted
+    bool Stretch = false;    // takes the room that the others leave
     bool Hidden = false;
     bool IsPath = false;  // of the path of a file its end is seen in any case
     int Width = 0;        // pixels; 0: what the kind of column needs

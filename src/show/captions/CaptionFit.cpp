@@ -16,6 +16,8 @@ constexpr int Margin = 4;  // pixels on every side
 // Breaks the text into centred lines; the height that they take.
 double BreakLines(QTextLayout& Layout, double Width) {
     QTextOption Option(Qt::AlignHCenter);
+    // a layout goes by the program's direction and not by the text's
+    Option.setTextDirection(Layout.text().isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     Option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     Layout.setTextOption(Option);
     Layout.beginLayout();

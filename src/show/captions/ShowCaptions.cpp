@@ -1,28 +1,10 @@
 #include "show/captions/ShowCaptions.h"
 
-#include <QStringList>
-#include <algorithm>
-
 #include "db/clsDBEngine.h"
 #include "show/captions/CaptionText.h"
+#include "support/modFind.h"
 
 namespace neb {
-namespace {
-
-// Letters alone, without case and accents.
-QString Bare(const QString& Text) {
-    QString Letters = Text.normalized(QString::NormalizationForm_KD).toCaseFolded();
-    Letters.removeIf([](QChar C) { return C.isMark(); });
-    return Letters;
-}
-
-bool HoldsAll(const QString& Caption, const QStringList& Words) {
-    const QString Letters = Bare(Caption);
-    return std::ranges::all_of(Words, [&](const QString& Word) { return Letters.contains(Word); });
-}
-
-}  // namespace
-
 ShowCaptions::ShowCaptions(const clsDBEngine* Engine, std::int32_t AlbumID,
                            std::int32_t SlideShowID) {
     mAlbum = Engine ? Engine->GetAlbum(AlbumID) : nullptr;
@@ -52,15 +34,14 @@ std::int32_t ShowCaptions::WayTo(std::int32_t SlideSeq, std::int32_t Present) co
 }
 
 std::int32_t ShowCaptions::Find(const QString& Wanted, std::int32_t Present) const {
-    const std::int32_t Number = Wanted.toInt();
+    const std::int32_t Number = BareLetters(Wanted).toInt();
     if (Number >= 1 && Number <= Count()) return Number;
-    const QStringList Words = Bare(Wanted).split(u' ', Qt::SkipEmptyParts);
-    if (Words.isEmpty() || Count() == 0) return 0;
+    if (Count() == 0) return 0;
     std::int32_t Found = 0;
     for (const auto& Detail : mSlideShow->Details) {
         const std::int32_t Seq = Detail->SlideSeq;
         const bool IsNearer = Found == 0 || WayTo(Seq, Present) < WayTo(Found, Present);
-        if (IsNearer && HoldsAll(Of(*Detail), Words)) Found = Seq;
+        if (IsNearer && FoundIn(Of(*Detail), Wanted)) Found = Seq;
     }
     return Found;
 }

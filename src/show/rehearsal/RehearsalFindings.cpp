@@ -7,6 +7,7 @@
 #include "show/captions/CaptionFit.h"
 #include "show/rehearsal/RehearsalNotebook.h"
 #include "support/files/modHostFiles.h"
+#include "support/modCharacters.h"
 
 namespace neb {
 namespace {
@@ -95,7 +96,7 @@ void CheckDetail(Notebook& Book, const clsNEBSlideShowDetail& Detail) {
 
 QString Shortened(const QString& Text) {
     constexpr qsizetype Most = 40;
-    return Text.size() <= Most ? Text : Text.left(Most).trimmed() + QStringLiteral("...");
+    return Text.size() <= Most ? Text : FirstUnits(Text, Most).trimmed() + QStringLiteral("...");
 }
 
 void CheckCaption(Notebook& Book, const RehearsalCue& Cue) {

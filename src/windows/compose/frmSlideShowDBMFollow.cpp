@@ -10,6 +10,7 @@
 #include "db/modAlbumFiles.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Services.h"
+#include "support/modCharacters.h"
 #include "ui_frmSlideShowDBM.h"
 #include "windows/compose/TwoLists.h"
 #include "windows/compose/frmSlideShowDBM.h"
@@ -101,7 +102,7 @@ void frmSlideShowDBM::FollowReading() {
 void frmSlideShowDBM::FollowAlbum() {
     const bool Shown = AlbumID() != 0;
     const QString Name = mUi->cboAlbum->currentText();
-    setWindowTitle(Shown ? QStringLiteral("Slide Show Manager - ") + Name
+    setWindowTitle(Shown ? QStringLiteral("Slide Show Manager - ") + InOwnDirection(Name)
                          : QStringLiteral("Slide Show Manager"));
     const bool NoAlbums = mUi->cboAlbum->count() == 0;
     mUi->flxNonSelected->SetEmptyText(

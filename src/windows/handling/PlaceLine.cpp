@@ -7,6 +7,7 @@
 
 #include "show/ShowRun.h"
 #include "show/captions/CaptionFit.h"
+#include "support/modCharacters.h"
 
 namespace neb {
 namespace {
@@ -40,7 +41,7 @@ void PlaceLine::Follow(const QPoint& At) {
     mPointed = SlideAt(At.x());
     const QString Caption = mCaptions().At(mPointed);
     mTip = tr("%1 of %2").arg(mPointed).arg(mRun.SlideCount());
-    if (!Caption.isEmpty()) mTip += QStringLiteral(": ") + Caption;
+    if (!Caption.isEmpty()) mTip += QStringLiteral(": ") + InOwnDirection(Caption);
     setAccessibleDescription(mTip);
     update();
 }

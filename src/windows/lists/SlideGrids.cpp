@@ -20,7 +20,7 @@ void SetUpSlideColumns(FlexGrid& Grid, bool WithPlace, bool Editable) {
         ColPlace,
         {.Editable = Editable, .Hidden = !WithPlace, .Width = PlaceWidth, .Align = Qt::AlignRight});
     Grid.SetColumn(Buffer::ColPicture, {.Kind = FlexKind::Picture, .Align = Qt::AlignCenter});
-    Grid.SetColumn(Buffer::ColText, {.Editable = Editable, .Stretch = true});
+    Grid.SetColumn(Buffer::ColText, {.Editable = Editable, .IsCaption = true, .Stretch = true});
     for (int Col : {int(Buffer::ColPath), int(Buffer::ColSlideID), int(ColOwnText)})
         Grid.SetColumn(Col, {.Hidden = true});
     Grid.SetKeyColumn(Buffer::ColSlideID);

@@ -8,6 +8,7 @@
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/Services.h"
+#include "support/modCharacters.h"
 #include "support/modDEValidation.h"
 #include "windows/lists/ListPictures.h"
 #include "windows/lists/clsImageBuffer.h"
@@ -24,8 +25,10 @@ void SetSlideColumns(FlexGrid& Grid, bool EditCaptions) {
     Grid.SetColumn(
         clsImageBuffer::ColPicture,
         {.Kind = FlexKind::Picture, .Align = Qt::AlignCenter, .Heading = FlexGrid::tr("Picture")});
-    Grid.SetColumn(clsImageBuffer::ColText,
-                   {.Editable = EditCaptions, .Stretch = true, .Heading = FlexGrid::tr("Caption")});
+    Grid.SetColumn(clsImageBuffer::ColText, {.Editable = EditCaptions,
+                                             .IsCaption = true,
+                                             .Stretch = true,
+                                             .Heading = FlexGrid::tr("Caption")});
     Grid.SetColumn(clsImageBuffer::ColPath,
                    {.IsPath = true, .Width = Digits(18), .Heading = FlexGrid::tr("File")});
     Grid.SetColumn(clsImageBuffer::ColSlideID,
@@ -69,7 +72,7 @@ std::int32_t SlideIn(const FlexGrid& Grid, int Row) {
 
 void FitCaption(FlexGrid& Grid, int Row, int Col) {
     const QString& Typed = Grid.TextMatrix(Row, Col);
-    const QString Fitting = FitToRecord(Typed);
+    const QString Fitting = FirstUnits(Typed, MaxCaption);
     if (Fitting != Typed) Grid.SetTextMatrix(Row, Col, Fitting);
 }
 

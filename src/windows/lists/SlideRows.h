@@ -30,8 +30,8 @@ void SetSlideKeys(FlexGrid& Grid, int Row, std::int32_t SlideID, const QString& 
 
 int RowOfSlide(const FlexGrid& Grid, std::int32_t SlideID);  // -1 for none
 std::int32_t SlideIn(const FlexGrid& Grid, int Row);
-// A caption that was typed is cut where the user sees it to what a record holds, and not when all
-// is written.
+// A caption that was typed is cut where the user sees it to the most that one may have, and not
+// when all is written.
 void FitCaption(FlexGrid& Grid, int Row, int Col);
 
 // Sets the bar, brings the window up to date and lets waiting events run.

@@ -7,6 +7,7 @@
 #include "controls/fields/Icons.h"
 #include "controls/fields/MenuIcon.h"
 #include "controls/forms/modTwips.h"
+#include "support/modCharacters.h"
 #include "ui_frmPrintPreview.h"
 #include "windows/frame/modWindowState.h"
 #include "windows/printing/PrintView.h"
@@ -53,7 +54,8 @@ PrintView& frmPrintPreview::VSPrinter1() {
 
 void frmPrintPreview::ShowDocument(std::shared_ptr<const PrintDocument> Document) {
     const QString Title = Document ? Document->Title() : QString();
-    setWindowTitle(Title.isEmpty() ? tr("Print Preview") : tr("Print Preview - %1").arg(Title));
+    setWindowTitle(Title.isEmpty() ? tr("Print Preview")
+                                   : tr("Print Preview - %1").arg(InOwnDirection(Title)));
     mUi->VSPrinter1->SetDocument(std::move(Document));
 }
 

@@ -9,6 +9,7 @@
 #include <algorithm>
 
 #include "show/rehearsal/CueTexts.h"
+#include "support/modCharacters.h"
 #include "windows/rehearsal/SlidePictures.h"
 
 namespace neb {
@@ -194,7 +195,8 @@ void TimeLine::PaintText(QPainter& Painter, int Index) const {
         Room.setLeft(Mark.right() + Margin);
     }
     Painter.setPen(palette().color(QPalette::Text));
-    const QString Text = QString::number(Its.SlideSeq) + QStringLiteral("  ") + Its.Caption;
+    const QString Text =
+        QString::number(Its.SlideSeq) + QStringLiteral("  ") + InOwnDirection(Its.Caption);
     Painter.drawText(Room, Qt::AlignLeft | Qt::AlignVCenter,
                      fontMetrics().elidedText(Text, Qt::ElideRight, Room.width()));
 }

@@ -10,6 +10,7 @@
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/Services.h"
+#include "support/modCharacters.h"
 #include "ui_frmRehearsal.h"
 #include "windows/frame/Openers.h"
 #include "windows/frame/modWindowState.h"
@@ -132,7 +133,7 @@ void frmRehearsal::Rehearse() {
         CopyForRehearsal(*DBEngine, mOf.AlbumID, mOf.SlideShowID);
     if (!Copy) return Close();
     const clsNEBSlideShow& Show = *Copy->Albums.front()->SlideShows.front();
-    setWindowTitle(tr("Rehearsal - %1").arg(Show.SlideShowName));
+    setWindowTitle(tr("Rehearsal - %1").arg(InOwnDirection(Show.SlideShowName)));
     mUi->pgbRun->setMaximum(std::max(1, static_cast<int>(Show.Details.size())));
     const QScreen* Shows = ShowScreen();  // its captions have another room than this window's
     if (!Shows) Shows = screen();

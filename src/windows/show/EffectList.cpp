@@ -5,6 +5,8 @@
 #include <QStyledItemDelegate>
 #include <functional>
 
+#include "support/modFind.h"
+
 namespace neb {
 namespace {
 
@@ -90,12 +92,10 @@ int FindFrom(const QStringList& Names, int From, const std::function<bool(const 
 
 int FindTyped(const QStringList& Names, const QString& Typed, int From) {
     if (Typed.isEmpty()) return -1;
-    const int Begins = FindFrom(Names, From, [&](const QString& Name) {
-        return Name.startsWith(Typed, Qt::CaseInsensitive);
-    });
+    const int Begins =
+        FindFrom(Names, From, [&](const QString& Name) { return BeginsWith(Name, Typed); });
     if (Begins >= 0) return Begins;
-    return FindFrom(Names, From,
-                    [&](const QString& Name) { return Name.contains(Typed, Qt::CaseInsensitive); });
+    return FindFrom(Names, From, [&](const QString& Name) { return HoldsWhole(Name, Typed); });
 }
 
 EffectList::EffectList(QWidget* Parent) : QListWidget(Parent) {

@@ -6,6 +6,7 @@
 #include <QAbstractItemView>
 
 #include "albums/SlideSave.h"
+#include "controls/fields/CaptionCount.h"
 #include "controls/fields/Icons.h"
 #include "controls/fields/KeyFilter.h"
 #include "controls/fields/ToolBar.h"
@@ -17,6 +18,7 @@
 #include "sound/decoding/SoundDecoder.h"
 #include "support/Services.h"
 #include "support/files/modHostFiles.h"
+#include "support/modCharacters.h"
 #include "support/modDEValidation.h"
 #include "ui_frmSlideDBM.h"
 #include "windows/frame/Openers.h"
@@ -87,6 +89,7 @@ void frmSlideDBM::SetUpFields() {
     for (QCheckBox* Box : {mUi->chkOverride, mUi->chkRepeat})
         On(Box, &QCheckBox::clicked, &frmSlideDBM::PlayingSet);
     new KeyFilter(mUi->txtDscr, &FixQuoteKey);
+    new CaptionCount(mUi->txtDscr);
     for (QComboBox* Box : {mUi->cboAlbum, mUi->cboSlides})
         Box->view()->setAccessibleName(Box->accessibleName());
 }
@@ -185,7 +188,8 @@ SlideLists frmSlideDBM::Lists() const {
 
 void frmSlideDBM::ShowAlbumName() {
     const QString Name = mUi->cboAlbum->currentText();
-    setWindowTitle(Lists().AlbumID() == 0 ? Title : Title + QStringLiteral(" - ") + Name);
+    setWindowTitle(Lists().AlbumID() == 0 ? Title
+                                          : Title + QStringLiteral(" - ") + InOwnDirection(Name));
 }
 
 void frmSlideDBM::LoadAlbumSlides(Cause Why) {

@@ -11,6 +11,7 @@
 #include "db/clsDBEngine.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Services.h"
+#include "support/modCharacters.h"
 #include "support/modDEValidation.h"
 #include "ui_frmSlideMgrBulk.h"
 #include "windows/frame/Openers.h"
@@ -156,7 +157,8 @@ void frmSlideMgrBulk::ShowAlbum() {
 // The title, and what an empty grid says.
 void frmSlideMgrBulk::FollowAlbum() {
     const bool Shown = AlbumID() != 0;
-    setWindowTitle(Shown ? QStringLiteral("Bulk Slide Manager - ") + mUi->cboAlbum->currentText()
+    setWindowTitle(Shown ? QStringLiteral("Bulk Slide Manager - ") +
+                               InOwnDirection(mUi->cboAlbum->currentText())
                          : QStringLiteral("Bulk Slide Manager"));
     const bool NoAlbums = mUi->cboAlbum->count() == 0;
     mUi->flxAlbum->SetEmptyText(

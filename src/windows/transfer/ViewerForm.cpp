@@ -11,6 +11,7 @@
 #include "db/modAlbumFiles.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
+#include "support/modCharacters.h"
 #include "windows/frame/Openers.h"
 #include "windows/lists/SlideRows.h"
 #include "windows/lists/clsImageBuffer.h"
@@ -55,7 +56,8 @@ void ViewerForm::View(clsDBEngine& objDB, std::int32_t AlbumID, const QString& N
 }
 
 void ViewerForm::ShowTitle(const QString& Names) {
-    setWindowTitle(mSays.Kind + QStringLiteral(" [") + mSubject.DBPath + u':' + Names + u']');
+    setWindowTitle(mSays.Kind + QStringLiteral(" [") + InOwnDirection(mSubject.DBPath) + u':' +
+                   InOwnDirection(Names) + u']');
 }
 
 // A modal window lets nobody at the windows beside it: whoever looks into a database from one gets

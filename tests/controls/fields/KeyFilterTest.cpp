@@ -11,6 +11,8 @@
 namespace neb {
 namespace {
 
+using namespace Qt::StringLiterals;
+
 class KeyFilterOn : public ::testing::Test {
   protected:
     void Use(KeyPressFilter Filter) { new KeyFilter(&Field, std::move(Filter)); }
@@ -23,6 +25,12 @@ class KeyFilterOn : public ::testing::Test {
     void TypeUnicode(char16_t Character, Qt::KeyboardModifiers Modifiers = {}) {
         QTest::sendKeyEvent(QTest::Click, &Field, Qt::Key_unknown, QString(QChar(Character)),
                             Modifiers);
+    }
+
+    void Compose(const QString& SoFar, const QString& Commit) {
+        QInputMethodEvent Event(SoFar, {});
+        Event.setCommitString(Commit);
+        QApplication::sendEvent(&Field, &Event);
     }
 
     QLineEdit Field;
@@ -93,14 +101,81 @@ TEST_F(KeyFilterOn, CharactersTypedWithAltGrAreSeen) {
     EXPECT_EQ(Codes, (std::vector<int>{'@'}));
 }
 
-TEST_F(KeyFilterOn, PastedAndComposedTextPassesUnseen) {
+TEST_F(KeyFilterOn, PastedTextPassesUnseen) {
     Record();
-    Field.insert("'p'");
-    QInputMethodEvent Composed;
-    Composed.setCommitString("'c'");
-    QApplication::sendEvent(&Field, &Composed);
+    QGuiApplication::clipboard()->setText(u"'水' \U0001F339"_s);
+    Field.paste();
     EXPECT_TRUE(Codes.empty());
-    EXPECT_EQ(Field.text(), "'p''c'");
+    EXPECT_EQ(Field.text(), u"'水' \U0001F339"_s);
+}
+
+// A Chinese word is composed letter by letter and comes as a whole.
+TEST_F(KeyFilterOn, WhatAnInputMethodComposesArrivesAsItIsAndCounts) {
+    Use(FixQuoteKey);
+    Compose(u"shui"_s, {});
+    EXPECT_EQ("", Field.text().toStdString()) << "it is still being composed";
+    Compose({}, u"水"_s);
+    Compose(u"y"_s, {});
+    Compose({}, u"曜日"_s);
+    Compose({}, u"👩‍👩‍👧"_s);
+    Compose({}, u"é"_s);
+    EXPECT_EQ("水曜日👩‍👩‍👧é", Field.text().toStdString());
+}
+
+// As a dead key and a blank give a quote.
+TEST_F(KeyFilterOn, QuotesThatAnInputMethodCommitsBecomeTypographic) {
+    Use(FixQuoteKey);
+    Compose({}, u"\"水\""_s);
+    EXPECT_EQ("“水”", Field.text().toStdString());
+    Field.setText(u"it"_s);
+    Compose({}, u"'"_s);
+    Compose({}, u"s 'so'"_s);
+    EXPECT_EQ("it’s ‘so’", Field.text().toStdString());
+    Field.setText(u"a bc"_s);
+    Field.setSelection(2, 2);
+    Compose({}, u"'"_s);
+    EXPECT_EQ("a ‘", Field.text().toStdString()) << "only the caret counts";
+}
+
+TEST_F(KeyFilterOn, WhatTheFilterCancelsDoesNotComeByAnInputMethodEither) {
+    Use([](const EntryState& State, std::int16_t& KeyAscii) {
+        FilterNumericKey(State, KeyAscii, true);
+    });
+    Compose({}, u"-1a2-"_s);
+    EXPECT_EQ("-12", Field.text().toStdString());
+}
+
+TEST_F(KeyFilterOn, BackspaceTakesAnEmojiBackAsAWholeAndAMarkByItself) {
+    Use(FixQuoteKey);
+    const std::pair<QString, QString> Table[] = {
+        {u"a👩‍👩‍👧"_s, u"a"_s},
+        {u"a🇩🇪🇫🇷"_s, u"a🇩🇪"_s},
+        {u"a❤️"_s, u"a"_s},
+        {u"👍🏽"_s, {}},
+        {u"a🌹"_s, u"a"_s},
+        {u"ที่"_s, u"ที"_s},
+        {u"ab"_s, u"a"_s},
+        {{}, {}},
+    };
+    for (const auto& [Before, After] : Table) {
+        Field.setText(Before);
+        QTest::keyClick(&Field, Qt::Key_Backspace);
+        EXPECT_EQ(After.toStdString(), Field.text().toStdString());
+    }
+    Field.setText(u"ab👩‍👩‍👧"_s);
+    Field.setSelection(0, 1);
+    QTest::keyClick(&Field, Qt::Key_Backspace);
+    EXPECT_EQ("b👩‍👩‍👧", Field.text().toStdString()) << "the selection goes";
+}
+
+// What an input method replaces stays its own choice.
+TEST_F(KeyFilterOn, AReplacementReplacesWhatItWasMeantTo) {
+    Use(FixQuoteKey);
+    Field.setText(u"the roze"_s);
+    QInputMethodEvent Event;
+    Event.setCommitString(u"rose's"_s, -4, 4);
+    QApplication::sendEvent(&Field, &Event);
+    EXPECT_EQ("the rose’s", Field.text().toStdString());
 }
 
 TEST_F(KeyFilterOn, AChangedKeyKeepsToTheLengthLimitAndCanBeUndone) {

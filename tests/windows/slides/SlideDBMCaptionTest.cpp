@@ -1,6 +1,10 @@
 // Captions of every kind in the slide manager: what is typed is kept, to the next start and beyond
 // as far as a record can hold it, and slides are told apart by more than their captions.
+#include <QClipboard>
+#include <QInputMethodEvent>
+
 #include "SlideRig.h"
+#include "controls/fields/CaptionCount.h"
 #include "support/modDEValidation.h"
 #include "support/modText.h"
 
@@ -69,20 +73,34 @@ TEST_F(SlideDBMCaption, CharactersThatNoRecordHoldsAreThereAfterTheEndAsWell) {
     EXPECT_FALSE(ShowsMessage());
 }
 
-// A letter may take several in a record.
-TEST_F(SlideDBMCaption, WhatARecordHasNoRoomForIsCutWhereTheUserSeesIt) {
+TEST_F(SlideDBMCaption, ALongCaptionStaysWholeAndIsCountedAtItsField) {
     OpenAlbum();
     PickPicture(MakePicture(Pics / u"a.png"_s));
-    Caption().setText(QString(80, u'ﬁ'));
+    const QString Long = u"Лето на даче, \"яблоки\" и самовар 🍎 "_s.repeated(6).trimmed();
+    Caption().setFocus();
+    QInputMethodEvent Typed;
+    Typed.setCommitString(Long);
+    QApplication::sendEvent(&Caption(), &Typed);
+    const QLabel& Count = In<QLabel>(Caption(), "lblCaptionCount");
+    EXPECT_TRUE(Count.isVisible());
+    EXPECT_EQ(CaptionCount::About(Caption().text()).toStdString(), Count.toolTip().toStdString());
     Push("cmdSave");
-    const QString Kept = Caption().text();
-    EXPECT_TRUE(!Kept.isEmpty() && Kept.size() < 80);
-    const QString Stored = AsStored(Kept);
-    EXPECT_LE(Stored.size(), 80);
-    Push("cmdClose");
-    Engine.FinalizeDB();
-    Engine.InitializeDB();
-    EXPECT_EQ(Stored.toStdString(), Slide(1).SlideText.toStdString());
+    EXPECT_EQ(ConvertQuotes(Long).toStdString(), Text());
+    EXPECT_EQ(ConvertQuotes(Long).toStdString(), Slide(1).SlideText.toStdString());
+    Caption().clear();
+    EXPECT_FALSE(Count.isVisible());
+    EXPECT_EQ("The text under the slide", Caption().toolTip().toStdString());
+}
+
+TEST_F(SlideDBMCaption, WhatIsLongerThanAnyCaptionIsCutWhereTheUserSeesIt) {
+    OpenAlbum();
+    PickPicture(MakePicture(Pics / u"a.png"_s));
+    QGuiApplication::clipboard()->setText(QString(MaxCaption - 1, u'ﬁ') + u"🌹"_s);
+    Caption().setFocus();
+    Caption().paste();
+    Push("cmdSave");
+    EXPECT_TRUE(Caption().text() == QString(MaxCaption - 1, u'ﬁ')) << "no half of a rose";
+    EXPECT_TRUE(Caption().text() == Slide(1).SlideText);
 }
 
 TEST_F(SlideDBMCaption, TwoSlidesOfTheSameCaptionStayTwo) {

@@ -1,5 +1,8 @@
 // The bulk slide manager by itself: what its grid shows, what saving and deleting do, and which
 // captions survive what.
+#include <QInputMethodEvent>
+#include <QLabel>
+
 #include "BulkRig.h"
 #include "albums/BulkSlides.h"
 #include "controls/forms/modTwips.h"
@@ -290,6 +293,7 @@ TEST(FitToRecord, CutsByTheBytesThatARecordNeedsAndNeverThroughACharacter) {
         {QString(79, u'n') + u"ﬁ"_s, QString(79, u'n')},
         {QString(78, u'n') + u"ﬁ"_s, QString(78, u'n') + u"ﬁ"_s},
         {QString(79, u'n') + u"🌹🌹"_s, QString(79, u'n') + u"🌹"_s},
+        {QString(80, u'n') + u"👩‍👩‍👧"_s, QString(80, u'n')},
         {QString(30000, u'n'), QString(80, u'n')},
         {{}, {}},
     };
@@ -297,19 +301,53 @@ TEST(FitToRecord, CutsByTheBytesThatARecordNeedsAndNeverThroughACharacter) {
         EXPECT_EQ(Fitting.toStdString(), FitToRecord(Typed).toStdString());
 }
 
-TEST_F(SlideMgrBulk, ACaptionIsCutWhereItIsTypedToWhatItsRecordHolds) {
+TEST_F(SlideMgrBulk, ACaptionLongerThanItsRecordIsCountedWhereItIsTypedAndStaysWhole) {
+    AddSlides({u"a"_s});
+    const Window Bulk = OpenBulk(AlbumID);
+    const QString Long = u"Ένα καλοκαίρι στη θάλασσα με όλους "_s.repeated(4).trimmed();
+    ASSERT_TRUE(GridOf(Bulk).EditCell(0, Text));
+    QLineEdit& Editor = EditorOf(Bulk);
+    Editor.selectAll();
+    QInputMethodEvent Typed;
+    Typed.setCommitString(Long);
+    QApplication::sendEvent(&Editor, &Typed);
+    EXPECT_TRUE(In<QLabel>(Editor, "lblCaptionCount").isVisible());
+    QTest::keyClick(&Editor, Qt::Key_Return);
+    EXPECT_EQ(Long.toStdString(), GridOf(Bulk).TextMatrix(0, Text).toStdString());
+    SaveExpecting(Bulk, u"1 slides successfully saved."_s);
+    EXPECT_EQ(Long.toStdString(), CaptionInAlbum(1));
+}
+
+// Without a key pressed before: an input method may have the first word.
+TEST_F(SlideMgrBulk, AnInputMethodTypesIntoTheCaptionOnWhichTheGridStands) {
+    AddSlides({u"a"_s});
+    const Window Bulk = OpenBulk(AlbumID);
+    FlexGrid& Grid = GridOf(Bulk);
+    Grid.setFocus();
+    Grid.setCurrentIndex(Grid.model()->index(0, Text));
+    EXPECT_TRUE(Grid.testAttribute(Qt::WA_InputMethodEnabled));
+    QInputMethodEvent Begun(u"shui"_s, {}), Done;
+    QApplication::sendEvent(&Grid, &Begun);
+    Done.setCommitString(u"水"_s);
+    QApplication::sendEvent(QApplication::focusWidget(), &Done);
+    ASSERT_TRUE(Grid.IsEditing());
+    QTest::keyClick(&EditorOf(Bulk), Qt::Key_Return);
+    EXPECT_EQ("水", Grid.TextMatrix(0, Text).toStdString());
+}
+
+TEST_F(SlideMgrBulk, ACaptionIsCutWhereItIsTypedToTheMostThatOneMayHave) {
     AddSlides({u"a"_s, u"a"_s});
     const Window Bulk = OpenBulk(AlbumID);
     for (int Row : {0, 1}) {
         TypeInto(Bulk, Row, u"x"_s);
         const QChar Letter = Row == 0 ? u'm' : u'n';
-        EditorOf(Bulk).setText(QString(100, Letter));
+        EditorOf(Bulk).setText(QString(MaxCaption + 20, Letter));
         QTest::keyClick(&EditorOf(Bulk), Qt::Key_Return);
-        EXPECT_EQ(QString(80, Letter), GridOf(Bulk).TextMatrix(Row, Text));
+        EXPECT_EQ(QString(MaxCaption, Letter), GridOf(Bulk).TextMatrix(Row, Text));
     }
     SaveExpecting(Bulk, u"2 slides successfully saved."_s);
-    EXPECT_EQ(std::string(80, 'm'), CaptionInAlbum(1));
-    EXPECT_EQ(std::string(80, 'n'), CaptionInAlbum(2)) << "two slides that had one caption";
+    EXPECT_EQ(std::string(MaxCaption, 'm'), CaptionInAlbum(1));
+    EXPECT_EQ(std::string(MaxCaption, 'n'), CaptionInAlbum(2)) << "two slides that had one caption";
 }
 
 TEST_F(SlideMgrBulk, TypedQuotesBecomeTypographicAtOnceAndOnlyCaptionsCanBeTyped) {
