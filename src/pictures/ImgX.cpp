@@ -152,9 +152,10 @@ ListedPicture ReadForList(const QString& File, int Side) {
     const QSize Least(Side, Side);
     const bool Larger = Side > ThumbnailSize.width();
     ImgX Picture;
-    Picture.LoadFor(File, [&](QSize Full) {
+    const NeededSize Needed = [&](QSize Full) {
         return Larger ? ToStretch(Full).expandedTo(ToFitInto(Least)(Full)) : ToStretch(Full);
-    });
+    };
+    FromPictureFile(File, [&](const QByteArray& Bytes) { Picture.Take(Bytes, Needed); });
     ListedPicture Made{MakeThumbnail(Picture.Picture()), {}, Picture.FullSize()};
     if (!Larger) return Made;
     const QSize Fitted = FitSize(Made.Full, Least);

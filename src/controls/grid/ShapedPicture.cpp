@@ -15,7 +15,7 @@ QImage Resized(const QImage& Picture, QSize Size) {
     if (Picture.hasAlphaChannel())
         return Picture.scaled(Size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     return ResizePicture(Picture.convertToFormat(QImage::Format_RGB32), Size,
-                         ResizeFilter::Lanczos);
+                         ResizeFilter::Sharp);
 }
 
 }  // namespace
