@@ -4,6 +4,8 @@
 #include "pictures/formats/PictureColour.h"
 #include "pictures/formats/PictureFaults.h"
 #include "pictures/formats/PictureFormats.h"
+#include "pictures/formats/PictureOrientation.h"
+#include "pictures/formats/TiffTags.h"
 
 namespace neb {
 namespace {
@@ -192,7 +194,8 @@ DecodedPicture PsdReader::Decode() {
     // Also the fourth ink where there are only three.
     memset(mPicture.bits(), 0, static_cast<size_t>(mPicture.sizeInBytes()));
     ReadPlanes();
-    return {Finish(), mSize};
+    const QImage Picture = Upright(Finish(), OrientationOf(mSource.Bytes));
+    return {Picture, Picture.size()};
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include "pictures/formats/PictureColour.h"
 #include "pictures/formats/PictureFaults.h"
 #include "pictures/formats/PictureFormats.h"
+#include "pictures/formats/PictureOrientation.h"
 #include "pictures/formats/TiffTags.h"
 
 namespace neb {
@@ -312,7 +313,8 @@ DecodedPicture TiffReader::Decode() {
     NameForgottenAlpha();
     const quint32 Turn = Short(TIFFTAG_ORIENTATION);
     TIFFSetField(mFile.get(), TIFFTAG_ORIENTATION, ORIENTATION_TOPLEFT);
-    const int Orientation = Turn >= 1 && Turn <= 8 ? static_cast<int>(Turn) : 1;
+    const bool Turned = Turn > 1 && Turn <= 8;
+    const int Orientation = Turned ? static_cast<int>(Turn) : OrientationOf(mSource.Bytes);
     const QImage Picture = Upright(IsCmyk() ? ReadInks() : ReadColours(), Orientation);
     return {Picture, Picture.size()};
 }
