@@ -93,5 +93,20 @@ TEST(Text, StoringTwiceChangesNothingMore) {
     }
 }
 
+TEST(Text, HalvesOfLettersAreReplacedAndWholeOnesStay) {
+    const QChar High = QChar(0xD83D), Low = QChar(0xDC08), No = QChar(0xFFFD);
+    const QString Cat = QString(High) + Low;
+    for (const auto& [Text, Valid] : std::vector<std::pair<QString, QString>>{
+             {{}, {}},
+             {QStringLiteral("plain"), QStringLiteral("plain")},
+             {u'a' + Cat + Cat, u'a' + Cat + Cat},
+             {QString(High), QString(No)},
+             {QString(Low) + High, QString(No) + No},
+             {QString(High) + Cat + Low, QString(No) + Cat + No}}) {
+        EXPECT_EQ(ValidText(Text), Valid);
+        EXPECT_EQ(QString::fromUtf8(ValidText(Text).toUtf8()), Valid);
+    }
+}
+
 }  // namespace
 }  // namespace neb
