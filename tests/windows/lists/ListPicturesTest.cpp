@@ -299,6 +299,20 @@ TEST_F(ListPicturesShown, OfTenThousandOnlyThoseThatAreSeenAreRead) {
     ExpectShown(Grid, 9999, {72, 48});
 }
 
+// A list of thumbnails whose pictures are these files.
+void FillList(FlexGrid& Grid, const QStringList& Paths) {
+    SetSlideColumns(Grid, false);
+    for (const QString& Path : Paths) {
+        const int Row = Grid.AddItem();
+        QImage Thumbnail(ThumbnailSize, QImage::Format_RGB32);
+        Thumbnail.fill(Qt::red);
+        Grid.SetTextMatrix(Row, clsImageBuffer::ColPath, Path);
+        Grid.SetCellPicture(Row, Pic, Thumbnail);
+    }
+    Grid.setGeometry(50, 50, 400, 300);
+    Grid.show();
+}
+
 // The scaling of a display is fixed when a program starts.
 void ExpectPassing(const char* Scale, const QString& Tests, const char* Count) {
     QProcessEnvironment Environment = QProcessEnvironment::systemEnvironment();
@@ -334,12 +348,7 @@ int MoveBetweenScreens() {
             Lines.setPixel(X, Y, X / 8 % 2 ? qRgb(255, 255, 255) : qRgb(0, 0, 0));
     Lines.save(Path, "jpg", 100);
     FlexGrid Grid;
-    SetSlideColumns(Grid, false);
-    Grid.AddItem();
-    Grid.SetTextMatrix(0, clsImageBuffer::ColPath, Path);
-    Grid.SetCellPicture(0, Pic, MakeThumbnail(Path));
-    Grid.setGeometry(50, 50, 400, 300);
-    Grid.show();
+    FillList(Grid, {Path});
     const auto Waits = [&](double Ratio, QSize Pixels) {
         return QTest::qWaitFor(
             [&] {
