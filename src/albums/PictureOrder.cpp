@@ -1,40 +1,22 @@
 #include "albums/PictureOrder.h"
 
-#include <QCollator>
 #include <QHash>
 #include <algorithm>
 #include <functional>
 #include <limits>
 
 #include "support/CameraNames.h"
+#include "support/modCollation.h"
 #include "support/modFUFL.h"
 #include "support/modText.h"
 
 namespace neb {
 namespace {
 
-// Without a language of the user's the collator would go by codes alone, and numbers by digits.
-QLocale ReadingLanguage() {
-    const QLocale Own;
-    return Own.language() == QLocale::C ? QLocale(QLocale::English) : Own;
-}
-
-QCollator MakeCollator() {
-    QCollator Collator(ReadingLanguage());
-    Collator.setNumericMode(true);
-    Collator.setCaseSensitivity(Qt::CaseInsensitive);
-    return Collator;
-}
-
-const QCollator& Reader() {
-    static thread_local const QCollator Collator = MakeCollator();
-    return Collator;
-}
-
 // Pictures of one folder mostly end alike.
 QCollatorSortKey EndingKey(const QString& Ending) {
-    static thread_local std::pair<QString, QCollatorSortKey> Last{{}, Reader().sortKey({})};
-    if (Last.first != Ending) Last = {Ending, Reader().sortKey(Ending)};
+    static thread_local std::pair<QString, QCollatorSortKey> Last{{}, NameOrder().sortKey({})};
+    if (Last.first != Ending) Last = {Ending, NameOrder().sortKey(Ending)};
     return Last.second;
 }
 
@@ -42,7 +24,7 @@ QCollatorSortKey EndingKey(const QString& Ending) {
 // stands before "a-1.jpg".
 struct NameKey {
     explicit NameKey(const QString& Whole)
-        : Base(Reader().sortKey(GetFileBaseName(Whole))),
+        : Base(NameOrder().sortKey(GetFileBaseName(Whole))),
           Ending(EndingKey(GetFileExt(Whole))),
           Name(Whole) {}
 

@@ -1,8 +1,22 @@
 #include "albums/SlideInHand.h"
 
+#include <algorithm>
+
 #include "support/modFUFL.h"
 
 namespace neb {
+namespace {
+
+// A picture that an album has stays as large as it is, whatever is chosen for those to come; but
+// for one of the least size, which has always been fitted anew when it was turned.
+PictureKeeping ForStored(PictureKeeping Chosen, QSize Size) {
+    const QSize Lying(std::max(Size.width(), Size.height()), std::min(Size.width(), Size.height()));
+    const bool WasLeast = Lying.boundedTo(SlideLimit) == Lying;
+    if (Chosen.Limit != SlideLimit || !WasLeast) Chosen.Limit = OwnSize;
+    return Chosen;
+}
+
+}  // namespace
 
 void SlideInHand::Renew(std::int32_t AlbumID, const clsNEBSlide& Now) {
     mAlbumID = AlbumID;
@@ -83,10 +97,12 @@ bool SlideInHand::IsPictureLoose() const {
     return mMoved && mTurned && !HoldsSeparator(mNow.SlideLoc);
 }
 
-SlideInHand::JpegMaker SlideInHand::Jpeg(const PictureKeeping& Keeping) const {
+SlideInHand::JpegMaker SlideInHand::Jpeg(const PictureKeeping& Chosen) const {
+    const bool IsStored = !HoldsSeparator(mNow.SlideLoc);
+    const PictureKeeping Keeping =
+        mTurned && IsStored ? ForStored(Chosen, mPicture->FullSize()) : Chosen;
     if (mTurned) return [Turned = *mPicture, Keeping] { return FittedJpeg(Turned, Keeping); };
-    if (HoldsSeparator(mNow.SlideLoc))
-        return [File = mNow.SlideLoc, Keeping] { return FittedJpeg(File, Keeping); };
+    if (!IsStored) return [File = mNow.SlideLoc, Keeping] { return FittedJpeg(File, Keeping); };
     return {};
 }
 

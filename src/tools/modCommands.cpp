@@ -81,17 +81,24 @@ constexpr Command Table[] = {
      "line says that the next start of the program will finish it.\n",
      RunRestore},
     {"import",
-     "DIR FOLDER --album NAME [--recurse] [--show NAME] [--size WxH]\n"
-     "              [--go-on | --restore] [--take-over]",
+     "DIR FOLDER --album NAME [--recurse] [--show NAME] [--size WxH] [--order name|taken]\n"
+     "              [--file-names] [--no-place] [--go-on | --restore] [--take-over]",
      "bring a folder of pictures into an album",
      "Takes the pictures of FOLDER, with --recurse those of the folders below it as well, into\n"
      "the album NAME of the database in DIR. An album or a database that is not there is made;\n"
      "below a documents folder, where the program will look for it.\n"
      "With --show a slide show of that name is made of the pictures, in their order. A file\n"
-     "that cannot be read is named and left out. When the work fails nothing is changed.\n"
+     "that cannot be read, or is no picture, is named and left out; hidden files are not looked\n"
+     "at. When the work fails nothing is changed.\n"
      "\n"
-     "  --size WxH  keeps pictures at most so large, in pixels; without it 1024x768, which is the\n"
-     "              least. Larger ones are made smaller in their proportions\n" MEND_HELP,
+     "  --size WxH     keeps pictures at most so large, in pixels; without it 1024x768, which is\n"
+     "                 the least. Larger ones are made smaller in their proportions\n"
+     "  --order taken  in the order in which they were taken; without it by their names, IMG_2\n"
+     "                 before IMG_10\n"
+     "  --file-names   the captions are the files' names; without it a picture's own title or\n"
+     "                 description comes first\n"
+     "  --no-place     the place where a picture was taken does not stay in the album's "
+     "copy\n" MEND_HELP,
      RunImport, Wants::Drawing},
     {"adopt", "DIR [--go-on | --restore] [--take-over]",
      "make slides again of pictures that no record names",

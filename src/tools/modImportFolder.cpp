@@ -20,8 +20,6 @@
 namespace neb {
 namespace {
 
-constexpr qsizetype MaxShowName = 80;
-
 struct ImportOrder {
     QString Dir;
     QString Folder;
@@ -29,6 +27,8 @@ struct ImportOrder {
     QString Show;  // empty: no show
     bool Recurse = false;
     PictureKeeping Keeping;
+    PictureOrder InOrder = PictureOrder::ByName;
+    bool NamesAlone = false;  // no words of the pictures' own
 };
 
 // A picture made ready on a worker; Problem says why there is none.
@@ -38,25 +38,37 @@ struct Prepared {
     QString Problem;
 };
 
-Prepared Prepare(const QString& Path, const PictureKeeping& Keeping) {
+Prepared Prepare(const PictureInOrder& Picture, const PictureKeeping& Keeping) {
     try {
-        return {FittedJpeg(Path, Keeping), MakeThumbnail(Path), {}};
+        return {FittedJpeg(Picture.Path, Keeping), MakeThumbnail(Picture.Path), {}};
     } catch (const Fault& Problem) {
         return {{}, {}, Problem.What()};
     }
 }
 
+std::vector<PictureInOrder> Listed(const QStringList& Paths, PictureOrder Order) {
+    std::vector<PictureInOrder> Pictures;
+    for (const QString& Path : Paths) Pictures.push_back({Path, FactsOfFile(Path)});
+    SortPictures(Pictures, Order);
+    return Pictures;
+}
+
+// The words of an order, not yet understood.
 struct OrderWords {
-    ImportOrder Order;
+    QString Album, Show, Size, InOrder;  // null: not given; empty: without a value
+    bool Recurse = false, NamesAlone = false, NoPlace = false;
     QStringList Places;  // what is no option
-    QString Size;
 };
 
 OrderWords SortWords(QStringList Arguments) {
     OrderWords Found;
-    const std::pair<const char*, QString*> Named[] = {
-        {"--album", &Found.Order.Album}, {"--show", &Found.Order.Show}, {"--size", &Found.Size}};
-    const std::pair<const char*, bool*> Flags[] = {{"--recurse", &Found.Order.Recurse}};
+    const std::pair<const char*, QString*> Named[] = {{"--album", &Found.Album},
+                                                      {"--show", &Found.Show},
+                                                      {"--size", &Found.Size},
+                                                      {"--order", &Found.InOrder}};
+    const std::pair<const char*, bool*> Flags[] = {{"--recurse", &Found.Recurse},
+                                                   {"--file-names", &Found.NamesAlone},
+                                                   {"--no-place", &Found.NoPlace}};
     const auto Take = [&](const QString& Word) {
         for (const auto& [Name, Value] : Named)
             if (Word == QLatin1String(Name)) {
@@ -73,33 +85,42 @@ OrderWords SortWords(QStringList Arguments) {
     return Found;
 }
 
+// Says what is wrong with the values of the options, if anything.
+QString WrongValue(const OrderWords& Words) {
+    if (!Words.Size.isNull() && !LimitIn(Words.Size))
+        return QStringLiteral("--size wants a width and a height in pixels, such as 1920x1080.");
+    if (!Words.InOrder.isNull() && Words.InOrder != u"name" && Words.InOrder != u"taken")
+        return QStringLiteral("--order wants the word name or taken.");
+    if (Words.Show.size() > MaxName)
+        return QStringLiteral("Slide show names must be <= 80 characters long.");
+    const Answer<> Is = clsDBEngine::CheckAlbumText(Words.Album);
+    return Is ? QString() : Is.Refusal().Text;
+}
+
 // The words of the command line; nothing after a line on Err when they do not make an order.
 std::optional<ImportOrder> ReadOrder(const QStringList& Arguments, ToolIO& IO) {
-    auto [Order, Places, Size] = SortWords(Arguments);
-    if (!Size.isNull() && !LimitIn(Size)) {
-        Fail(IO, QStringLiteral("--size wants a width and a height in pixels, such as 1920x1080."));
-        return std::nullopt;
-    }
-    Order.Keeping.Limit = LimitIn(Size).value_or(SlideLimit);
-    if (Places.size() != 2 || Order.Album.isEmpty()) {
+    const OrderWords Words = SortWords(Arguments);
+    if (Words.Places.size() != 2 || Words.Album.isEmpty()) {
         Fail(IO, QStringLiteral("A database directory, a folder and --album NAME are wanted; "
                                 "see nebctl import --help."));
         return std::nullopt;
     }
-    if (Order.Show.size() > MaxShowName) {
-        Fail(IO, QStringLiteral("Slide show names must be <= 80 characters long."));
+    if (const QString Wrong = WrongValue(Words); !Wrong.isEmpty()) {
+        Fail(IO, Wrong);
         return std::nullopt;
     }
-    if (const Answer<> Is = clsDBEngine::CheckAlbumText(Order.Album); !Is) {
-        Fail(IO, Is.Refusal().Text);
-        return std::nullopt;
-    }
-    const auto Dir = OneDirectory({Places[0]}, IO);
-    const auto Folder = Dir ? FolderNamed(Places[1], IO) : std::nullopt;
+    const auto Dir = OneDirectory({Words.Places[0]}, IO);
+    const auto Folder = Dir ? FolderNamed(Words.Places[1], IO) : std::nullopt;
     if (!Folder) return std::nullopt;
-    Order.Dir = *Dir;
-    Order.Folder = *Folder;
-    return Order;
+    return ImportOrder{
+        .Dir = *Dir,
+        .Folder = *Folder,
+        .Album = Words.Album,
+        .Show = Words.Show,
+        .Recurse = Words.Recurse,
+        .Keeping = {LimitIn(Words.Size).value_or(SlideLimit), !Words.NoPlace},
+        .InOrder = Words.InOrder == u"taken" ? PictureOrder::ByTime : PictureOrder::ByName,
+        .NamesAlone = Words.NamesAlone};
 }
 
 // One import: what it has entered is taken back when it fails.
@@ -109,12 +130,13 @@ class FolderImport {
         : mEngine(Engine), mOrder(Order), mIO(IO) {}
 
     int Run() {
-        const QStringList Paths = ScanDirectory(mOrder.Folder, mOrder.Recurse, [] { return true; });
-        if (Paths.isEmpty())
+        const Scan Found = ScanPictures(mOrder.Folder, mOrder.Recurse, [] { return true; });
+        TellPassedOver(Found);
+        if (Found.Files.isEmpty())
             return Fail(mIO, QStringLiteral("There are no pictures in %1.").arg(mOrder.Folder));
         try {
             if (!FindOrMakeAlbum()) return ExitFailed;
-            EnterAll(Paths);
+            EnterAll(Listed(Found.Files, mOrder.InOrder));
             if (mEntered.empty()) {
                 TakeBack();
                 return Fail(mIO, QStringLiteral("No picture in %1 could be read; nothing has been "
@@ -160,26 +182,36 @@ class FolderImport {
 
     bool ShowExists() const {
         return std::any_of(
-            mAlbum->SlideShows.begin(), mAlbum->SlideShows.end(),
-            [this](const auto& Each) {
+            mAlbum->SlideShows.begin(), mAlbum->SlideShows.end(), [this](const auto& Each) {
                 return Each->SlideShowName.compare(mOrder.Show, Qt::CaseInsensitive) == 0;
             });
     }
 
-    void EnterAll(const QStringList& Paths) {
-        AheadQueue<QString, Prepared> Ahead(
-            {Paths.begin(), Paths.end()},
-            [Keeping = mOrder.Keeping](const QString& Path) { return Prepare(Path, Keeping); });
+    void TellPassedOver(const Scan& Found) {
+        for (const Scan::Folder& Each : Found.UnreadableFolders)
+            Fail(mIO, QStringLiteral("left out: %1: %2").arg(Each.Path, Each.Reason));
+        for (const QString& Path : Found.OtherFiles)
+            Fail(mIO, QStringLiteral("left out: %1: It is of no kind of picture.").arg(Path));
+    }
+
+    void EnterAll(const std::vector<PictureInOrder>& Pictures) {
+        AheadQueue<PictureInOrder, Prepared> Ahead(
+            Pictures, [Keeping = mOrder.Keeping](const PictureInOrder& Each) {
+                return Prepare(Each, Keeping);
+            });
         ProgressLine Progress(mIO, "Importing");
-        for (qsizetype I = 0; I < Paths.size(); ++I) {
-            Progress.Show(static_cast<size_t>(I), static_cast<size_t>(Paths.size()));
-            const Prepared Picture = Ahead.Take();
-            if (!Picture.Problem.isEmpty())
-                Fail(mIO, QStringLiteral("left out: %1: %2").arg(Paths[I], Picture.Problem));
+        for (size_t I = 0; I < Pictures.size(); ++I) {
+            Progress.Show(I, Pictures.size());
+            const Prepared Ready = Ahead.Take();
+            if (!Ready.Problem.isEmpty())
+                Fail(mIO, QStringLiteral("left out: %1: %2").arg(Pictures[I].Path, Ready.Problem));
             else
-                Enter({CaptionByName(Paths[I]), [&Picture] { return Picture.Jpeg; },
-                       Picture.Thumbnail});
+                Enter({CaptionOf(Pictures[I]), [&Ready] { return Ready.Jpeg; }, Ready.Thumbnail});
         }
+    }
+    QString CaptionOf(const PictureInOrder& Picture) const {
+        return mOrder.NamesAlone ? CaptionByName(Picture.Path)
+                                 : ProposedCaption(Picture.Path, Picture.Facts);
     }
 
     void Enter(const PictureToEnter& Picture) {

@@ -217,5 +217,29 @@ TEST_F(InHand, PixelsThatWereNotTurnedGoWithTheirFile) {
     EXPECT_TRUE(Slide.IsChanged());
 }
 
+// What an album has stays as large as it is; but for one of the least size, which has always been
+// fitted anew.
+TEST_F(InHand, ATurnMakesAStoredPictureOfTheLeastSizeAloneSmaller) {
+    const auto TurnedSize = [this](QSize Stored, QSize Limit) {
+        ImgX Turned = Picture(Stored.width(), Stored.height());
+        Turned.Rotate(90);
+        Slide.Turn(std::move(Turned));
+        return SizeOf(Slide.Jpeg({Limit, true}));
+    };
+    EXPECT_EQ(QSize(576, 768), TurnedSize({1024, 768}, SlideLimit));
+    EXPECT_EQ(QSize(768, 1024), TurnedSize({1024, 768}, {1920, 1080}));
+    EXPECT_EQ(QSize(1080, 1920), TurnedSize({1920, 1080}, SlideLimit));
+    EXPECT_EQ(QSize(1080, 1920), TurnedSize({1920, 1080}, {1920, 1080}));
+}
+
+TEST_F(InHand, ATurnedFileIsFittedAsItsKeepingSays) {
+    Slide.ChoosePicture(Pics / u"large.png"_s);
+    ImgX Turned = Picture(1920, 1080);
+    Turned.Rotate(90);
+    Slide.Turn(std::move(Turned));
+    EXPECT_EQ(QSize(432, 768), SizeOf(Slide.Jpeg()));
+    EXPECT_EQ(QSize(608, 1080), SizeOf(Slide.Jpeg({{1920, 1080}, true})));
+}
+
 }  // namespace
 }  // namespace neb

@@ -108,6 +108,25 @@ TEST_F(Damaged, EnterBringsTheLastGoodAlbumsBack) {
     EXPECT_TRUE(LookAtHealth(DBPath()).IsSound());
 }
 
+TEST_F(Damaged, WhereOnlyWholeTextsAreLostEnterGoesOn) {
+    {
+        const auto Engine = OpenEngine(DBPath());
+        std::int32_t AlbumID = 0;
+        ASSERT_TRUE(Engine->SaveAlbum(AlbumID, QString::fromUtf8("Лето")));
+        Engine->FinalizeDB();
+    }
+    DeleteFile(DBPath() + u"Words.dat"_s);
+    EXPECT_FALSE(StartAnd([&](frmDamage& Window) {
+        EXPECT_TRUE(Wrong(Window).startsWith(u"Words.dat is missing."_s))
+            << Wrong(Window).toStdString();
+        EXPECT_TRUE(Button(Window, "cmdGoOn").isDefault());
+        EXPECT_TRUE(Window.findChild<QLabel*>(u"lblGood"_s)
+                        ->text()
+                        .contains(u"Going on loses no more than letters"_s));
+        QTest::keyClick(&Window, Qt::Key_Escape);
+    }));
+}
+
 TEST_F(Damaged, TheWindowSaysHowMuchGoingOnWouldLeave) {
     const auto LeftAfter = [this](RecordFile File) {
         Harm(DBPath(), File, Damage::Empty);

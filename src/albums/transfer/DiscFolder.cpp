@@ -13,6 +13,7 @@
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
+#include "support/modCharacters.h"
 #include "support/modDEValidation.h"
 #include "support/modFUFL.h"
 #include "support/work/WorkAside.h"
@@ -141,9 +142,7 @@ QString FreeName(const clsDBEngine& In, const QString& Wanted) {
     QString Name = Wanted;
     for (int Number = 2; In.FindAlbum(0, ConvertQuotes(Name)); ++Number) {
         const QString Tail = QStringLiteral(" (%1)").arg(Number);
-        Name = Wanted.left(MaxAlbumName - Tail.size());
-        if (Name.back().isHighSurrogate()) Name.chop(1);
-        Name += Tail;
+        Name = FirstUnits(Wanted, MaxAlbumName - Tail.size()) + Tail;
     }
     return Name;
 }

@@ -48,6 +48,18 @@ QString TextOfLeft(const std::optional<RestThere>& Left) {
         .arg(TextOfCounts(Left->Albums, Left->Slides, Left->SlideShows));
 }
 
+// Then going on loses the least: nothing but letters that the records cannot hold.
+bool LacksWordsAlone(const DatabaseHealth& Health) {
+    return Health.LacksWords && !Health.LacksRecords && Health.Wrong.size() == 1;
+}
+
+QString TextOfWords(const DatabaseHealth& Health) {
+    if (!LacksWordsAlone(Health)) return {};
+    return QObject::tr(
+        "\n\nAll albums, slides and shows are there. Going on loses no more than letters of "
+        "captions and names, and takes as many as it can from the earlier albums.");
+}
+
 QString TextOfKept(const KeptFiles& Kept) {
     QString Text = QObject::tr("The files of before are kept here:\n%1").arg(Kept.Folder);
     if (!Kept.PutAside.isEmpty())
@@ -81,7 +93,9 @@ void frmDamage::Form_Load() {
     mUi->lblWhere->setText(
         tr("The albums in %1 are damaged. Nothing has been changed.").arg(mDamage.DBPath));
     mUi->cmdRestore->setEnabled(mDamage.Good.has_value());
-    QPushButton* const First = mDamage.Good ? mUi->cmdRestore : mUi->cmdEnd;
+    QPushButton* const First = LacksWordsAlone(mDamage.Health) ? mUi->cmdGoOn
+                               : mDamage.Good                  ? mUi->cmdRestore
+                                                               : mUi->cmdEnd;
     First->setDefault(true);
     First->setFocus();
 }
@@ -96,7 +110,8 @@ void frmDamage::Look() {
 
 void frmDamage::ShowDamage() {
     mUi->txtWrong->setPlainText(mDamage.Health.Wrong.join(u'\n'));
-    mUi->lblGood->setText(TextOfGood(mDamage.Good) + TextOfLeft(mDamage.Left));
+    mUi->lblGood->setText(TextOfGood(mDamage.Good) + TextOfLeft(mDamage.Left) +
+                          TextOfWords(mDamage.Health));
 }
 
 void frmDamage::Restore() {

@@ -47,7 +47,7 @@ void ListKeepings(QComboBox& Box, const QString& Chosen) {
 }
 
 KeepPicturesField::KeepPicturesField(QWidget* Parent) : QWidget(Parent), mBox(new QComboBox(this)) {
-    auto* const Label = new QLabel(tr("Keep pictures at &most"), this);
+    auto* const Label = new QLabel(tr("&Keep pictures at most"), this);
     Label->setBuddy(mBox);
     mBox->setObjectName(QStringLiteral("cboKeepPictures"));
     mBox->setAccessibleName(tr("Keep pictures at most"));

@@ -54,7 +54,7 @@ ImportForm::~ImportForm() = default;
 void ImportForm::SetUpGrid(FlexGrid& Grid, const QString& EmptyText) {
     Grid.SetCols(ColCount);
     Grid.SetColumn(ColPicture, {.Kind = FlexKind::Picture, .Align = Qt::AlignCenter});
-    Grid.SetColumn(ColCaption, {.Editable = !ReadOnlyDB, .Stretch = true});
+    Grid.SetColumn(ColCaption, {.Editable = !ReadOnlyDB, .IsCaption = true, .Stretch = true});
     Grid.SetColumn(ColPath, {.Hidden = true});
     Grid.SetEmptyText(EmptyText);
     Grid.SetKeyPressEdit(&FixQuoteKeyInGrid);

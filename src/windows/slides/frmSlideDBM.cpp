@@ -153,7 +153,7 @@ void frmSlideDBM::LoadSlideMgr() {
     for (QWidget* Each : std::initializer_list<QWidget*>{
              mUi->txtDscr, mUi->cmdNew, mUi->cmdSave, mUi->cmdDelete, mUi->cmdCancel, mUi->cmdFlip1,
              mUi->cmdFlip2, mUi->cmdRotate1, mUi->cmdRotate2, mUi->cmdPicture, mUi->cmdRecord,
-             mUi->cmdSoundFile})
+             mUi->cmdSoundFile, mUi->fldKeeping})
         Each->setEnabled(!ReadOnlyDB);
 }
 

@@ -260,7 +260,7 @@ bool frmSlideDBM::SaveInHand() {
     mUi->txtDscr->setText(CleanText(mUi->txtDscr->text()));
     mInHand.MoveTo(Lists().AlbumID(), Lists().SlideID());
     if (!Tell(CheckPicture(DBEngine->DBPath(), mInHand))) return false;
-    SlideInHand::JpegMaker Jpeg = mInHand.Jpeg();
+    SlideInHand::JpegMaker Jpeg = mInHand.Jpeg(mUi->fldKeeping->Keeping());
     if (Jpeg) Jpeg = [Ready = Aside(Jpeg)] { return Ready.get(); };
     Answer<Announcement> Saved = Store(Jpeg);
     if (!Tell(Saved)) return false;
