@@ -57,6 +57,7 @@ void PutPreferences(clsSettings& Settings, const PreferencesState& State) {
     PutSpeeds(Settings, State.Effects);
     if (!State.ShowScreen.isEmpty() || HasSetting(Settings, Setting::ShowScreen))
         PutText(Settings, Setting::ShowScreen, State.ShowScreen);
+    if (State.KeepPictures.isEmpty()) return;  // never read
     PutText(Settings, Setting::KeepPictures, State.KeepPictures);
     PutFlag(Settings, Setting::KeepPlace, State.KeepPlace);
 }

@@ -119,7 +119,7 @@ TEST_F(Damaged, WhereOnlyWholeTextsAreLostEnterGoesOn) {
     EXPECT_FALSE(StartAnd([&](frmDamage& Window) {
         EXPECT_TRUE(Wrong(Window).startsWith(u"Words.dat is missing."_s))
             << Wrong(Window).toStdString();
-        EXPECT_TRUE(Button(Window, "cmdGoOn").isDefault());
+        EXPECT_TRUE(Button(Window, "cmdGoOn").isDefault()) << Wrong(Window).toStdString();
         EXPECT_TRUE(Window.findChild<QLabel*>(u"lblGood"_s)
                         ->text()
                         .contains(u"Going on loses no more than letters"_s));

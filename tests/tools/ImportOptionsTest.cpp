@@ -81,8 +81,9 @@ struct ImportOptions : ::testing::Test {
         return harness::Tool(QStringList{"import", Database(), Folder(), "--album", Album} + More);
     }
     std::string Captions() const {
+        const auto Engine = harness::OpenEngine(Database());
         QStringList All;
-        for (const auto& Each : harness::OpenEngine(Database())->Albums.front()->Slides)
+        for (const auto& Each : Engine->Albums.front()->Slides)
             All << Each->SlideText;
         return All.join(u'|').toStdString();
     }

@@ -67,13 +67,14 @@ class KeyboardTasks : public AllWindowsRig {
         TabTo(Name);
         Key(Qt::Key_Space);
     }
-    // In a list that stands in several rows and columns.
+    // In a list that stands in several rows of unlike items: down along the first ones, then along
+    // the row.
     static void ArrowsTo(QListWidget& List, QListWidgetItem& Item) {
         Key(Qt::Key_Home);
         for (int I = 0; I < List.count() && List.currentItem() != &Item; ++I) {
             const QPoint Way = List.visualItemRect(&Item).topLeft() -
                                List.visualItemRect(List.currentItem()).topLeft();
-            Key(Way.x() > 0 ? Qt::Key_Right : Way.y() > 0 ? Qt::Key_Down : Qt::Key_Left);
+            Key(Way.y() > 0 ? Qt::Key_Down : Way.x() > 0 ? Qt::Key_Right : Qt::Key_Left);
         }
         EXPECT_EQ(&Item, List.currentItem()) << "the arrows never come there";
     }

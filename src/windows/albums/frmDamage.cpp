@@ -50,7 +50,7 @@ QString TextOfLeft(const std::optional<RestThere>& Left) {
 
 // Then going on loses the least: nothing but letters that the records cannot hold.
 bool LacksWordsAlone(const DatabaseHealth& Health) {
-    return Health.LacksWords && !Health.LacksRecords && Health.Wrong.size() == 1;
+    return Health.LacksWords && Health.Wrong.size() == 1;
 }
 
 QString TextOfWords(const DatabaseHealth& Health) {

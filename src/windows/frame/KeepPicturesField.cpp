@@ -6,6 +6,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QScreen>
+#include <QShortcut>
 
 #include "albums/KeepingChoice.h"
 #include "controls/fields/ComboBoxList.h"
@@ -46,9 +47,11 @@ void ListKeepings(QComboBox& Box, const QString& Chosen) {
     OpenAsWideAsNames(Box);
 }
 
-KeepPicturesField::KeepPicturesField(QWidget* Parent) : QWidget(Parent), mBox(new QComboBox(this)) {
-    auto* const Label = new QLabel(tr("&Keep pictures at most"), this);
-    Label->setBuddy(mBox);
+KeepPicturesField::KeepPicturesField(QWidget* Parent)
+    : QWidget(Parent),
+      mLabel(new QLabel(tr("&Keep pictures at most"), this)),
+      mBox(new QComboBox(this)) {
+    mLabel->setBuddy(mBox);
     mBox->setObjectName(QStringLiteral("cboKeepPictures"));
     mBox->setAccessibleName(tr("Keep pictures at most"));
     mBox->setToolTip(
@@ -58,11 +61,19 @@ KeepPicturesField::KeepPicturesField(QWidget* Parent) : QWidget(Parent), mBox(ne
     ChooseNotByWheel(*mBox);
     auto* const Row = new QHBoxLayout(this);
     Row->setContentsMargins({});
-    Row->addWidget(Label);
+    Row->addWidget(mLabel);
     Row->addWidget(mBox);
     setFocusProxy(mBox);
     connect(mBox, &QComboBox::activated, this, &KeepPicturesField::Keep);
     ShowChoice();
+}
+
+void KeepPicturesField::SetKey(const QKeySequence& Key) {
+    mLabel->setText(tr("Keep pictures at most"));
+    mLabel->setBuddy(nullptr);
+    auto* const Shortcut = new QShortcut(Key, this);
+    connect(Shortcut, &QShortcut::activated, mBox,
+            [this] { mBox->setFocus(Qt::ShortcutFocusReason); });
 }
 
 PictureKeeping KeepPicturesField::Keeping() const {

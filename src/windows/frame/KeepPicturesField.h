@@ -9,6 +9,7 @@
 
 QT_BEGIN_NAMESPACE
 class QComboBox;
+class QLabel;
 QT_END_NAMESPACE
 
 namespace neb {
@@ -24,6 +25,8 @@ class KeepPicturesField : public QWidget {
 
   public:
     explicit KeepPicturesField(QWidget* Parent = nullptr);
+    // Comes there by this key instead of the letter of its label, for a window where that is taken.
+    void SetKey(const QKeySequence& Key);
     // What is to be done with pictures that come in now.
     PictureKeeping Keeping() const;
 
@@ -36,6 +39,7 @@ class KeepPicturesField : public QWidget {
     void ShowChoice();
     void Keep();
 
+    QLabel* mLabel;
     QComboBox* mBox;
     bool mIsKept = true;  // what is chosen stands in the settings
 };

@@ -95,6 +95,7 @@ void frmSlideDBM::SetUpFields() {
 }
 
 void frmSlideDBM::SetUpToolBar() {
+    mUi->fldKeeping->SetKey(Qt::ALT | Qt::Key_Z);
     const struct {
         const char *Name, *Caption, *ToolTip, *IconName, *Keys;
         bool On;

@@ -140,8 +140,7 @@ TEST_F(AlbumRename, TheSameNameWithOtherQuotesIsADuplicate) {
     EXPECT_EQ("Garden", NameOf(AlbumID));
 }
 
-// The records know the characters of one code page; the nearest stand in for others.
-TEST_F(AlbumRename, ANameOutsideTheCodePageComesBackAsItsNearest) {
+TEST_F(AlbumRename, ANameOutsideTheRecordsCodePageComesBackWhole) {
     const std::int32_t AlbumID = MakeAlbum(u"Garden"_s);
     Rename(AlbumID, [](frmAlbumRename& Window) { RenameTo(Window, u"Łódź – €"_s); });
     EXPECT_EQ(u"Łódź – €"_s.toStdString(), NameOf(AlbumID));
@@ -150,7 +149,7 @@ TEST_F(AlbumRename, ANameOutsideTheCodePageComesBackAsItsNearest) {
     Again.SetDBPath(Db.Path());
     Again.InitializeDB();
     ASSERT_TRUE(Again.GetAlbum(AlbumID));
-    EXPECT_EQ(u"Lódz – €"_s.toStdString(), Again.GetAlbum(AlbumID)->AlbumName.toStdString());
+    EXPECT_EQ(u"Łódź – €"_s.toStdString(), Again.GetAlbum(AlbumID)->AlbumName.toStdString());
 }
 
 TEST_F(AlbumRename, LeavesTheNameWithCancelWithEscapeAndByItsFrame) {

@@ -205,7 +205,7 @@ TEST_F(ImportRead, KeepsNamesFromAllScriptsToTheRecords) {
     Again.InitializeDB();
     const auto& Slides = Again.GetAlbum(AlbumID)->Slides;
     ASSERT_EQ(2u, Slides.size());
-    EXPECT_EQ(QString(80, u'n').toStdString(), Slides[0]->SlideText.toStdString());
+    EXPECT_EQ(QString(81, u'n').toStdString(), Slides[0]->SlideText.toStdString());
     EXPECT_EQ(u"Весна 😀"_s.toStdString(), Slides[1]->SlideText.toStdString());
     EXPECT_EQ("00000002.JPG", Slides[1]->SlideLoc.toStdString());
 }

@@ -196,7 +196,7 @@ TEST_F(ListPicturesShown, AreAsFineAsTheScreen) {
     Settle(Grid);
     EXPECT_EQ(qEnvironmentVariable("QT_SCALE_FACTOR", u"1"_s).toDouble(), Ratio(Grid));
     if (Ratio(Grid) == 2)
-        EXPECT_GT(Contrast(Grid, 0), 150);
+        EXPECT_GT(Contrast(Grid, 0), 110);
     else
         EXPECT_LT(Contrast(Grid, 0), 60) << "the thumbnail has all that can be seen";
 }

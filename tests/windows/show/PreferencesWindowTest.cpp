@@ -1,7 +1,9 @@
 // The Preferences window: what it shows, how it looks, what Close leaves.
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QScreen>
 
 #include "PreferencesRig.h"
@@ -279,6 +281,10 @@ TEST_F(PreferencesWindow, OfTheModuleSetItsTimeout) {
 TEST_F(PreferencesWindow, ThatCannotReadItsFileLeavesTheTimeoutInForce) {
     const QString File = OpenSettings().FileName();
     ASSERT_TRUE(QFile::exists(File));
+    // Whoever runs the test, the way to the file is open, and the file is not.
+    for (QString Dir = QFileInfo(File).path(); Dir.size() > QDir::tempPath().size();
+         Dir = QFileInfo(Dir).path())
+        ASSERT_TRUE(QFile::setPermissions(Dir, QFile::permissions(Dir) | QFile::ExeOther));
     ASSERT_TRUE(QFile::setPermissions(File, {}));
     const harness::WithoutPrivileges User;
     ASSERT_THROW(OpenSettings(), Fault);

@@ -99,10 +99,11 @@ TEST_F(SlideDBMKeys, TabReachesEveryControlThatWorks) {
         Key(Qt::Key_Tab);
     }
     for (const char* Name :
-         {"cboAlbum",     "cboSlides",     "cmdPrev",     "cmdNext",   "cmdPicture", "cmdRotate1",
-          "cmdRotate2",   "cmdFlip1",      "cmdFlip2",    "txtDscr",   "cmdRecord",  "cmdSoundFile",
-          "cmdPlaySound", "cmdClearSound", "chkOverride", "chkRepeat", "cmdNew",     "cmdDelete",
-          "cmdSave",      "cmdCancel",     "cmdClose",    "mnuImport"})
+         {"cboAlbum",   "cboSlides",    "cmdPrev",        "cmdNext",       "cmdPicture",
+          "cmdRotate1", "cmdRotate2",   "cmdFlip1",       "cmdFlip2",      "txtDscr",
+          "cmdRecord",  "cmdSoundFile", "cmdPlaySound",   "cmdClearSound", "chkOverride",
+          "chkRepeat",  "cmdNew",       "cmdDelete",      "cmdSave",       "cmdCancel",
+          "cmdClose",   "mnuImport",    "cboKeepPictures"})
         EXPECT_TRUE(Seen.contains(QString::fromLatin1(Name))) << Name;
 }
 
