@@ -29,7 +29,9 @@ QStringList Broken(QString Text, qsizetype Letters) {
     for (qsizetype Most; (Most = LettersOf(Text, Letters)) < Text.size();) {
         const qsizetype Blank = Text.lastIndexOf(u' ', Most);
         const qsizetype Whole = FirstUnits(Text, Most).size();
-        const qsizetype End = Blank > Most / 2 ? Blank : Whole > 0 ? Whole : Most;
+        // a letter with more marks than a line has room for is cut, or it would never come to an
+        // end
+        const qsizetype End = Blank > Most / 2 ? Blank : Whole > Most / 2 ? Whole : Most;
         Lines << Text.left(End);
         Text = QStringLiteral("    ") + Text.mid(End).trimmed();
     }

@@ -55,11 +55,15 @@ void FixQuoteKeyInGrid(const EntryState& Editor, std::int16_t& KeyAscii) {
     FixQuoteKey(Editor, KeyAscii);
 }
 
-// In steps that shrink with what is too much: somebody may have pasted a whole book.
+// Somebody may have pasted a whole book, and it is asked at each key. Most of what is too much goes
+// at once, unless its first letters need no bytes; the rest in steps that shrink with it.
 QString FitToRecord(const QString& Text) {
+    const auto Over = [](const QString& Of) { return ToAnsi(Of).size() - RecordTextBytes; };
     QString Fitting = FirstUnits(Text, MaxCaption);
-    for (qsizetype Over; (Over = ToAnsi(Fitting).size() - RecordTextBytes) > 0;)
-        Fitting = FirstUnits(Fitting, Fitting.size() - std::max<qsizetype>(1, Over / 8));
+    if (const QString First = FirstUnits(Fitting, RecordTextBytes + 1); Over(First) > 0)
+        Fitting = First;
+    for (qsizetype TooMany; (TooMany = Over(Fitting)) > 0;)
+        Fitting = FirstUnits(Fitting, Fitting.size() - std::max<qsizetype>(1, TooMany / 8));
     return Fitting;
 }
 

@@ -52,6 +52,23 @@ TEST(WordsFile, ThereIsNoneWithoutTexts) {
               SomeTexts());
 }
 
+// A QString made of it would be empty for the mark that some programs put in front of a text.
+QString Of(char32_t Code) {
+    QString Letter;
+    for (const char16_t Unit : QChar::fromUcs4(Code)) Letter += QChar(Unit);
+    return Letter;
+}
+
+TEST(WordsFile, ATextMayBeginWithAnyLetter) {
+    std::vector<WholeText> Texts;
+    for (char32_t Code = 1; Code <= QChar::LastValidCodePoint; ++Code)
+        if (!QChar::isSurrogate(Code)) Texts.push_back({RecordFile::Albums, 0, {1}, {}, Of(Code)});
+    Texts.push_back({RecordFile::Albums, 0, {1}, {}, Of(0xFEFF) + Of(0xFEFF)});
+    const WordsFound Found = WordsIn(WordsFileOf(Texts));
+    ASSERT_EQ(Found.Is, State::Sound);
+    EXPECT_TRUE(Found.Texts == Texts);
+}
+
 TEST(WordsFile, CutAnywhereItIsDamaged) {
     const QByteArray Whole = WordsFileOf(SomeTexts());
     for (qsizetype Length = 0; Length < Whole.size(); ++Length)

@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 
 #include <QCryptographicHash>
+#include <QFile>
 #include <QtEndian>
 
 #include "Fixtures.h"
@@ -17,6 +18,7 @@
 #include "harness/EngineContent.h"
 #include "harness/WithoutPrivileges.h"
 #include "support/Fault.h"
+#include "support/modText.h"
 
 namespace neb {
 namespace {
@@ -320,6 +322,60 @@ TEST_F(WordsTravel, GoingOnWithoutThemTakesThoseOfAnEarlierState) {
         EXPECT_EQ(Wrong(), u"");
         WriteFile(WordsPath(), Words);
     }
+}
+
+// Sound as it is, it lacks what was written since, and the next write would leave that out for
+// good.
+TEST_F(WordsTravel, AnOlderFileOfThemInItsPlaceIsToldAndCompleted) {
+    const QByteArray Older = ReadFile(WordsPath());
+    {
+        const auto Engine = OpenEngine(Dir.Path());
+        static_cast<void>(Changes(*Engine).SaveSlide(1, {0, u"茶"_s}));
+        EXPECT_FALSE(Engine->FinalizeDB());
+        static_cast<void>(Changes(*Engine).SaveSlide(1, {0, u"酒"_s}));
+        EXPECT_FALSE(Engine->FinalizeDB());
+    }
+    WriteFile(WordsPath(), Older);
+    EXPECT_TRUE(
+        Wrong().startsWith(u"Words.dat is not as it was written: something has changed it."))
+        << qPrintable(Wrong());
+    GoOnWithRest(Dir.Path(), {}, LookAtHealth(Dir.Path()));
+    EXPECT_EQ(Wrong(), u"");
+    const auto Engine = OpenEngine(Dir.Path());
+    EXPECT_EQ(Engine->Albums[0]->AlbumName, u"Весна") << "which it has";
+    EXPECT_EQ(Engine->Albums[0]->Slides[0]->SlideText, u"茶") << "as an earlier state has it";
+    EXPECT_EQ(Engine->Albums[0]->Slides[1]->SlideText, ToAnsi(u"酒")) << "it came after that state";
+}
+
+TEST_F(WordsTravel, WhatAChangedFileOfThemHasIsKept) {
+    {
+        const auto Engine = OpenEngine(Dir.Path());
+        static_cast<void>(Changes(*Engine).SaveSlide(1, {0, u"茶"_s}));
+        EXPECT_FALSE(Engine->FinalizeDB());
+    }
+    std::vector<WholeText> Texts = WordsIn(ReadFile(WordsPath())).Texts;
+    std::erase_if(Texts, [](const WholeText& Each) { return Each.File == RecordFile::Albums; });
+    WriteFile(WordsPath(), WordsFileOf(Texts));
+    GoOnWithRest(Dir.Path(), {}, LookAtHealth(Dir.Path()));
+    const auto Engine = OpenEngine(Dir.Path());
+    EXPECT_EQ(Engine->Albums[0]->AlbumName, u"Весна") << "as an earlier state has it";
+    EXPECT_EQ(Engine->Albums[0]->Slides[0]->SlideText, u"茶") << "which no earlier state has";
+}
+
+// With all records of its time, however, it is a backup.
+TEST_F(WordsTravel, AnOlderFileOfThemAmongTheRecordsOfItsTimeIsSound) {
+    const auto Before = AllRecords(Dir.Path());
+    WriteAlbum(u"вЕсна"_s);
+    for (const auto& [Name, Bytes] : Before) {
+        const QString Path = Dir / QString::fromStdString(Name);
+        WriteFile(Path, Bytes);
+        QFile File(Path);
+        ASSERT_TRUE(File.open(QIODevice::ReadWrite));
+        ASSERT_TRUE(File.setFileTime(QDateTime::currentDateTime().addDays(-9),
+                                     QFileDevice::FileModificationTime));
+    }
+    EXPECT_EQ(Wrong(), u"");
+    EXPECT_EQ(Album(), u"Весна");
 }
 
 TEST_F(WordsTravel, TheyAreKeptWithTheOtherFilesOfADamagedDatabase) {

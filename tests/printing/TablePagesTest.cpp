@@ -72,5 +72,12 @@ TEST(TablePages, BreakLongLinesBehindTheTable) {
     EXPECT_EQ(Words.join(u' '), All.trimmed()) << "nothing is cut";
 }
 
+TEST(TablePages, BreakALetterWithMoreMarksThanALineHasRoomFor) {
+    TableToPrint Table = TableOfRows(1);
+    Table.Tail = {u'e' + QString(600, QChar(0x0301))};
+    const PrintDocument Document = Printed(Table);
+    EXPECT_EQ(TextsOn(Document, 1).join(QString()).count(QChar(0x0301)), 600);
+}
+
 }  // namespace
 }  // namespace neb

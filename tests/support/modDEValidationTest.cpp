@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QElapsedTimer>
+
 #include "support/modText.h"
 
 namespace neb {
@@ -72,6 +74,35 @@ TEST(Validation, TypingGivesWhatCleaningTheWholeGives) {
         }
         EXPECT_EQ(Typed, ConvertQuotes(Text)) << Text;
     }
+}
+
+TEST(Validation, ARecordHasRoomForTheFirstLettersOfACaption) {
+    const auto Fits = [](const QString& Text) { return FitToRecord(Text).size(); };
+    EXPECT_EQ(Fits(QString(80, u'x')), 80);
+    EXPECT_EQ(Fits(QString(2000, u'x')), 80);
+    EXPECT_EQ(Fits(QString(2000, QChar(0x200D))), 2000) << "which is not seen and needs none";
+    EXPECT_EQ(Fits(QString(500, QChar(0x200D)) + QString(500, u'x')), 580);
+    const QString Tea = QStringLiteral("茶 и чай ").repeated(200);
+    const QString Fitting = FitToRecord(Tea);
+    EXPECT_TRUE(Tea.startsWith(Fitting));
+    EXPECT_LE(ToAnsi(Fitting).size(), RecordTextBytes);
+    EXPECT_GT(ToAnsi(Tea.first(Fitting.size() + 3)).size(), RecordTextBytes);
+}
+
+// At each key that is typed into it.
+TEST(Validation, WhatFitsOfTheLongestCaptionIsFoundAsSoonAsOfAShorterOne) {
+    const auto Best = [](const QString& Text) {
+        qint64 Least = std::numeric_limits<qint64>::max();
+        for (int Round = 0; Round < 7; ++Round) {
+            QElapsedTimer Time;
+            Time.start();
+            EXPECT_LT(FitToRecord(Text).size(), 80);
+            Least = std::min(Least, Time.nsecsElapsed());
+        }
+        return Least;
+    };
+    const QString Long = QStringLiteral("猫在花园里").repeated(400);
+    EXPECT_LT(Best(Long), 4 * Best(Long.first(160)));
 }
 
 TEST(Validation, OnlyDigitsAreNumeric) {

@@ -48,9 +48,10 @@ CaptionCount::CaptionCount(QLineEdit* Field)
 }
 
 QString CaptionCount::About(const QString& Caption) {
-    if (ToAnsi(Caption).size() < NearlyAll) return {};
+    const QString Fitting = FitToRecord(Caption);  // of a long one, all of it is slow to turn
+    if (Fitting == Caption && ToAnsi(Caption).size() < NearlyAll) return {};
     const qsizetype Count = CountCharacters(Caption);
-    const qsizetype First = CountCharacters(FitToRecord(Caption));
+    const qsizetype First = CountCharacters(Fitting);
     if (First == Count)
         return tr("%1 characters. Longer captions are kept whole, but earlier versions of this "
                   "program show only their first %2 letters.")

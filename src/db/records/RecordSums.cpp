@@ -24,7 +24,7 @@ struct Noted {
 };
 struct NotedFiles {
     std::array<Noted, RecordFileCount> Records;
-    bool HasWords = false;
+    std::optional<Noted> Words;
 };
 
 QByteArray SumOf(const QString& Path) {
@@ -57,12 +57,16 @@ std::optional<NotedFiles> FilesIn(const QByteArray& Bytes) {
         return std::nullopt;
     const QList<QByteArray> Lines = Bytes.split('\n');
     const qsizetype Count = Lines.size() - 2;  // without the head and the sum
-    NotedFiles Files{{}, Count == qsizetype{RecordFileCount} + 1};
-    if (Count != qsizetype{RecordFileCount} && !Files.HasWords) return std::nullopt;
-    for (size_t I = 0; I < RecordFileCount; ++I) {
-        const QList<QByteArray> Words = Lines[static_cast<qsizetype>(I) + 1].split(' ');
+    const bool HasWords = Count == qsizetype{RecordFileCount} + 1;
+    if (Count != qsizetype{RecordFileCount} && !HasWords) return std::nullopt;
+    NotedFiles Files;
+    if (HasWords) Files.Words.emplace();
+    for (qsizetype I = 0; I < Count; ++I) {
+        const QList<QByteArray> Words = Lines[I + 1].split(' ');
         if (Words.size() != 3) return std::nullopt;
-        Files.Records[I] = {Words[0].toLongLong(), Words[1].toLongLong(), Words[2]};
+        const bool IsRecords = I < qsizetype{RecordFileCount};
+        (IsRecords ? Files.Records[static_cast<size_t>(I)] : *Files.Words) = {
+            Words[0].toLongLong(), Words[1].toLongLong(), Words[2]};
     }
     return Files;
 }
@@ -146,7 +150,18 @@ NotedRecords CompareWithNoted(const QString& DBPath) {
 bool HasLostWords(const QString& DBPath) {
     if (NameExists(RecordPath(DBPath, RecordFile::Words))) return false;
     const std::optional<NotedFiles> Then = ReadNoted(DBPath);
-    return Then && Then->HasWords && CompareWithNoted(DBPath).Is != NotedRecords::State::Unknown;
+    return Then && Then->Words && CompareWithNoted(DBPath).Is != NotedRecords::State::Unknown;
+}
+
+bool HasOtherWords(const QString& DBPath) {
+    const QString Path = RecordPath(DBPath, RecordFile::Words);
+    const std::optional<NotedFiles> Then = ReadNoted(DBPath);
+    if (!Then || !Then->Words || !NameExists(Path)) return false;
+    return Compare(Path, *Then->Words) == FileIs::Other &&
+           std::ranges::any_of(AllRecordFiles, [&](RecordFile File) {
+               return Compare(RecordPath(DBPath, File), Then->Records[static_cast<size_t>(File)]) ==
+                      FileIs::Untouched;
+           });
 }
 
 }  // namespace neb

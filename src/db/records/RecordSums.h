@@ -35,5 +35,8 @@ NotedRecords CompareWithNoted(const QString& DBPath);
 // Whether Words.dat has gone from beside records of that write; what it holds tells by itself
 // whether it is whole.
 bool HasLostWords(const QString& DBPath);
+// Whether the one that is there is another beside records of that write that nobody has touched: an
+// older one, say, that was copied back alone. It may be sound and lack what was written since.
+bool HasOtherWords(const QString& DBPath);
 
 }  // namespace neb

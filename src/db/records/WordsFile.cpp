@@ -72,7 +72,8 @@ class Walk {
         const qsizetype Length = Number<quint32>();
         if (Length > mBytes.size() - Stored) return std::nullopt;
         Each.Stored = Take(Stored).toByteArray();
-        QStringDecoder Decode(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+        using Flag = QStringDecoder::Flag;
+        QStringDecoder Decode(QStringDecoder::Utf8, Flag::Stateless | Flag::ConvertInitialBom);
         Each.Text = Decode(Take(Length));
         if (Decode.hasError() || !IsSensible(Each)) return std::nullopt;
         return Each;

@@ -121,7 +121,11 @@ class HealthLook {
         if (!NameExists(Path) && WhyUnseen(Path).isEmpty())
             return HasLostWords(mDBPath) ? Name + QStringLiteral(" is missing.") : QString();
         const QString Wrong = WhyNotUsable(Path);
-        if (Wrong.isEmpty()) return {};
+        if (Wrong.isEmpty())
+            return HasOtherWords(mDBPath)
+                       ? Name +
+                             QStringLiteral(" is not as it was written: something has changed it.")
+                       : QString();
         mFound.Unusable.push_back(RecordFile::Words);
         return Name + Wrong;
     }

@@ -23,7 +23,7 @@ struct DatabaseHealth {
     // What is read of it is less than there was: files of records are lost, empty, cut or changed.
     // Numbers that are wrong, or records without an owner, are none of this.
     bool LacksRecords = false;
-    bool LacksWords = false;  // Words.dat is lost, or cannot be used
+    bool LacksWords = false;  // Words.dat is lost, changed, or cannot be used
 
     bool IsSound() const { return Wrong.isEmpty(); }
     bool CanBeUsed(RecordFile File) const;

@@ -123,14 +123,21 @@ RecordSource WithLostAlbums(const QString& DBPath, const RecordSource& Records) 
 
 // The whole texts of the newest earlier state that has any: each of them counts where its record is
 // the same still.
-QByteArray EarlierWords(const QString& DBPath) {
+std::vector<WholeText> EarlierWords(const QString& DBPath) {
     for (const Generation& Each : ListGenerations(DBPath)) {
         const std::optional<RecordImage> Image = ReadGeneration(Each.Path);
-        if (Image && !Image->Words->isEmpty() &&
-            WordsIn(*Image->Words).Is == WordsFound::State::Sound)
-            return *Image->Words;
+        if (Image && !Image->Words->isEmpty())
+            if (WordsFound Found = WordsIn(*Image->Words); Found.Is == WordsFound::State::Sound)
+                return std::move(Found.Texts);
     }
     return {};
+}
+
+// Those that are there go first.
+QByteArray WordsFor(const QString& DBPath, const RecordSource& Records) {
+    std::vector<WholeText> Texts = WordsOf(Records).Texts;
+    for (WholeText& Each : EarlierWords(DBPath)) Texts.push_back(std::move(Each));
+    return WordsFileOf(Texts);
 }
 
 RecordSource WithWords(const RecordSource& Records, const QByteArray& Words) {
@@ -144,7 +151,7 @@ RecordSource WithWords(const RecordSource& Records, const QByteArray& Words) {
 // All that can be read, in order.
 RecordSource Mended(const QString& DBPath, const RecordSource& Records,
                     const DatabaseHealth& Health) {
-    const QByteArray Words = Health.LacksWords ? EarlierWords(DBPath) : QByteArray();
+    const QByteArray Words = Health.LacksWords ? WordsFor(DBPath, Records) : QByteArray();
     return WithWords(WithLostAlbums(DBPath, WithCounters(Records, Health.Free)), Words);
 }
 
