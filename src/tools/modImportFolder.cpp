@@ -156,10 +156,18 @@ class FolderImport {
     }
 
   private:
-    bool FindOrMakeAlbum() {
+    // By its very name first: others may differ in case alone.
+    std::int32_t NamedAlbum() const {
+        for (const auto& Each : mEngine.Albums)
+            if (Each->AlbumName == mOrder.Album) return Each->AlbumID;
         std::int32_t AlbumID = 0;
         QString Name = mOrder.Album;
-        mIsNew = !mEngine.LoadAlbum(AlbumID, Name);
+        return mEngine.LoadAlbum(AlbumID, Name) ? AlbumID : 0;
+    }
+
+    bool FindOrMakeAlbum() {
+        std::int32_t AlbumID = NamedAlbum();
+        mIsNew = AlbumID == 0;
         if (mIsNew && !MakeAlbum(AlbumID)) return false;
         mAlbum = mEngine.GetAlbum(AlbumID);
         if (ShowExists()) {

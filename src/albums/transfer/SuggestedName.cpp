@@ -2,16 +2,16 @@
 
 #include <QSet>
 
+#include "support/modCharacters.h"
+#include "support/modDEValidation.h"
+
 namespace neb {
 namespace {
 
-constexpr qsizetype MaxName = 80;  // as wide as its field in the record
-
-// At most so long; never half a letter, and no blank at the end.
-QString Head(QString Name, qsizetype Length) {
-    if (Name.size() <= Length) return Name;
-    Name.truncate(Length);
-    if (Name.back().isHighSurrogate()) Name.chop(1);
+// At most so long; never half a character, and no blank at the end.
+QString Head(const QString& Whole, qsizetype Length) {
+    if (Whole.size() <= Length) return Whole;
+    QString Name = FirstUnits(Whole, Length);
     while (!Name.isEmpty() && Name.back().isSpace()) Name.chop(1);
     return Name;
 }

@@ -9,6 +9,7 @@
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
+#include "support/modText.h"
 #include "support/work/WorkAside.h"
 
 namespace neb {
@@ -173,7 +174,7 @@ class TransferRun {
             if (Each.Is != FileToCopy::Kind::Track) continue;
             const qint64 Bytes = FileSize(Each.From);
             const QString Its = HoldsTrack(Each) ? Source.NameOf(GetFileName(Each.From), Bytes)
-                                                 : GetFileName(Each.From);
+                                                 : ReadableText(GetFileName(Each.From));
             if (Its.isEmpty() || Bytes < 0) continue;
             All.Enter({GetFileName(Each.To), Bytes, Its});
             IsNew = true;
