@@ -49,12 +49,14 @@ QByteArray BytesOf(const Exiv2::Blob& Blob) {
     return {reinterpret_cast<const char*>(Blob.data()), static_cast<qsizetype>(Blob.size())};
 }
 
-// What the blocks of a photograph are about, and not where the pixels of a TIFF lie.
+// What the blocks of a photograph are about, and not where the pixels of a TIFF lie, in the file
+// or on a map.
 bool IsOfPicture(const Exiv2::Exifdatum& Each, bool KeepsPlace) {
     constexpr uint16_t Layout[] = {0x0106, 0x0111, 0x0112, 0x0115, 0x0116, 0x0117, 0x011C, 0x013D,
                                    0x0140, 0x0142, 0x0143, 0x0144, 0x0145, 0x014A, 0x0152, 0x0153,
-                                   0x015B, 0x0211, 0x0212, 0x0213, 0x0214, 0x02BC, 0x83BB, 0x8649,
-                                   0x8769, 0x8773, 0x8825, 0x927C, 0xA001, 0xA002, 0xA003, 0xA005};
+                                   0x015B, 0x0211, 0x0212, 0x0213, 0x0214, 0x02BC, 0x830E, 0x8480,
+                                   0x8482, 0x83BB, 0x85D8, 0x8649, 0x87AF, 0x87B0, 0x87B1, 0x8769,
+                                   0x8773, 0x8825, 0x927C, 0xA001, 0xA002, 0xA003, 0xA005};
     const std::string Group = Each.groupName();
     const uint16_t Tag = Each.tag();
     if (Each.size() > LongestValue) return false;
