@@ -168,6 +168,27 @@ TEST(PictureNotes, APlaceGoesWhereverABlockHasIt) {
     EXPECT_FALSE(HasPlace(Stored));
 }
 
+TEST(PictureNotes, APlaceGoesFromCopiesAndFromPartsOfOtherForms) {
+    const auto Resource = [](quint32 Kind, const QByteArray& Bytes) {
+        return "8BIM" + BigEndian(Kind).right(2) + QByteArray(2, '\0') +
+               BigEndian(quint32(Bytes.size())) + Bytes + QByteArray(Bytes.size() % 2, '\0');
+    };
+    const QByteArray Words = IptcResource("Words of an agency");
+    const QByteArray Plain = WithMore(JpegOf(Motif({64, 48})),
+                                      JpegPartOf(PhotoshopMarker, PhotoshopMark + Words + "end") +
+                                          JpegPartOf(0xEB, "JP proof of origin"));
+    EXPECT_EQ(Plain, Fitted(Plain, OwnWithoutPlace));
+    const QByteArray Copies =
+        Resource(0x0422, CameraBlock(1, {64, 48})) + Words + Resource(0x0424, XmpPacket(1)) + "end";
+    const QByteArray Told = WithMore(
+        JpegOf(Motif({64, 48})), JpegPartOf(PhotoshopMarker, PhotoshopMark + Copies) +
+                                     JpegPartOf(0xEB, "JP proof of origin") +
+                                     JpegPartOf(0xEB, "JP \"exif:GPSLatitude\": \"48,51.785N\"") +
+                                     JpegPartOf(0xFE, "LATITUDE 48.85 north"));
+    EXPECT_EQ(Told, Fitted(Told, Own));
+    EXPECT_EQ(Plain, Fitted(Told, OwnWithoutPlace));
+}
+
 TEST(PictureNotes, ATurnedPictureSaysThatItIsUpright) {
     const QByteArray Jpeg = Noted(JpegOf(Motif({64, 48})), 6, {64, 48});
     const QByteArray Stored = Fitted(Jpeg, Own);

@@ -7,6 +7,7 @@
 #include "pictures/notes/ExifBlock.h"
 #include "pictures/notes/HeifBlocks.h"
 #include "pictures/notes/JpegParts.h"
+#include "pictures/notes/PhotoshopResources.h"
 
 namespace neb {
 namespace {
@@ -166,6 +167,27 @@ QByteArray XmpWithoutPlace(const JpegPart& Part, const QByteArray& AsItIs) {
     });
 }
 
+// Some programs keep the blocks once more among the resources.
+QByteArray ResourcesWithoutPlace(const JpegPart& Part, const QByteArray& AsItIs) {
+    QByteArray Kept = PhotoshopMark;
+    qsizetype Behind = PhotoshopMark.size();
+    for (const PhotoshopResource& Each : ResourcesIn(Part.Content.sliced(Behind))) {
+        Behind += Each.Whole.size();
+        if (Each.Kind != ExifResourceKind && Each.Kind != XmpResourceKind) Kept += Each.Whole;
+    }
+    Kept += Part.Content.sliced(Behind);
+    return Kept == Part.Content ? AsItIs : JpegPartOf(PhotoshopMarker, Kept);
+}
+
+// What a camera or a program has in a form of its own, as proofs of origin are, and names the place
+// in.
+bool IsOtherThatTellsPlace(const JpegPart& Part) {
+    constexpr int FirstOther = 0xE3, Colours = 0xEE, Comment = 0xFE;
+    const bool IsOther = Part.Marker == Comment || (Part.Marker >= FirstOther &&
+                                                    Part.Marker < Colours && !Part.IsPhotoshop());
+    return IsOther && Part.Content.toByteArray().toLower().contains("latitude");
+}
+
 // One letter for another: the length stays.
 QByteArray XmpUpright(QByteArray Part) {
     static const QRegularExpression Lying(QStringLiteral("tiff:Orientation\\W+([2-8])"));
@@ -198,7 +220,8 @@ QByteArray WithoutPlace(const QByteArray& Jpeg) {
     return WithParts(Jpeg, *Parts, [&](const JpegPart& Part) {
         const QByteArray AsItIs = Jpeg.mid(Part.At, Part.Length);
         if (Part.IsXmp()) return XmpWithoutPlace(Part, AsItIs);
-        if (Part.IsMoreXmp()) return QByteArray();
+        if (Part.IsMoreXmp() || IsOtherThatTellsPlace(Part)) return QByteArray();
+        if (Part.IsPhotoshop()) return ResourcesWithoutPlace(Part, AsItIs);
         if (!Part.IsExif()) return AsItIs;
         QByteArray Block = Part.Exif().toByteArray();
         return ExifBlock(Block).DropPlace() ? ExifPartOf(Block) : AsItIs;
