@@ -7,7 +7,7 @@ namespace {
 
 // A collator of no language goes by the codes of the letters and knows no numbers.
 QCollator MakeCollator() {
-    const QLocale User = QLocale::system().collation();
+    const QLocale User = QLocale().collation();
     QCollator Collator(User.language() == QLocale::C ? QLocale(QLocale::English) : User);
     Collator.setNumericMode(true);
     Collator.setCaseSensitivity(Qt::CaseInsensitive);
