@@ -1,8 +1,8 @@
 #include "pictures/PictureBlocks.h"
 
 #include "pictures/formats/ByteView.h"
+#include "pictures/formats/FileBlocks.h"
 #include "pictures/formats/PictureFormats.h"
-#include "pictures/notes/PhotoshopResources.h"
 
 namespace neb {
 namespace {

@@ -4,10 +4,10 @@
 #include <exiv2/exiv2.hpp>
 #include <mutex>
 
+#include "pictures/formats/FileBlocks.h"
 #include "pictures/notes/ExifBlock.h"
 #include "pictures/notes/HeifBlocks.h"
 #include "pictures/notes/JpegParts.h"
-#include "pictures/notes/PhotoshopResources.h"
 
 namespace neb {
 namespace {
