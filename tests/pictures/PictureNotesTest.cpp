@@ -104,6 +104,13 @@ TEST(PictureNotes, APictureThatIsWrittenAnewKeepsItsWordsItsDateAndItsPlace) {
     }
 }
 
+// A scan in 16 bits easily has a hundred million bytes.
+TEST(PictureNotes, AnEnormousFileKeepsItsWordsToo) {
+    const QByteArray Padding(70 << 20, '\0');
+    const QByteArray Block = ExifIn(Fitted(Tiff({40, 30}) + Padding, {}));
+    ExpectCameraWords(Block);
+}
+
 TEST(PictureNotes, PacketsAndTheWordsOfAgenciesStay) {
     const QByteArray Stored = Fitted(Noted(JpegOf(Motif({1100, 800})), 1, {1100, 800}), {});
     EXPECT_TRUE(Stored.contains("Words in a packet"));
