@@ -177,14 +177,17 @@ class HeifReader {
             Fields.Next(Wide.Index);
             const auto At = static_cast<qint64>(Fields.Next(Wide.Place) & 0xFFFFFFFFFFFF) + Base;
             const auto Length = static_cast<qint64>(Fields.Next(Wide.Length) & 0xFFFFFFFFFFFF);
-            if (!IsWanted || Bytes.size() + Length > MostItem) continue;
+            if (!IsWanted || Length > MostBytes - mTaken) continue;
+            mTaken += Length;
             Bytes += IsInline ? mInline.mid(At, Length) : mRead(At, Length);
         }
         return Bytes;
     }
 
-    static constexpr qint64 MostItem = 4 << 20;
+    // Of all items together: a table may name the same bytes any number of times.
+    static constexpr qint64 MostBytes = 8 << 20;
     const FileBytes& mRead;
+    qint64 mTaken = 0;
     QByteArray mMeta, mInline;
     QHash<quint64, QByteArray> mTypes;
 };

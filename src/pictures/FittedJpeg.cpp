@@ -55,12 +55,13 @@ std::optional<QByteArray> Unharmed(const QByteArray& Jpeg, PictureTurn Turned,
     return Lying ? std::optional(SaidUpright(*Lying)) : std::nullopt;
 }
 
-QByteArray WrittenAnew(ImgX Picture, const PictureKeeping& Keeping) {
+// Source: the file that the picture was read from, for what it says beside the pixels.
+QByteArray WrittenAnew(ImgX Picture, const QByteArray& Source, const PictureKeeping& Keeping) {
     const QSize Size = FitSize(Picture.FullSize(), Keeping.Limit);
     Picture.Resize(Size.width(), Size.height(), SlideSelector);
     Picture.SetJpgQuality(Keeping.Quality());
     const QByteArray Jpeg = Picture.ToJpeg();
-    return WithMore(Jpeg, NotesFor(Size, Picture.Source(), Keeping.KeepsPlace));
+    return WithMore(Jpeg, NotesFor(Size, Source, Keeping.KeepsPlace));
 }
 
 }  // namespace
@@ -71,14 +72,16 @@ QByteArray FittedJpeg(const QString& File, const PictureKeeping& Keeping) {
         if (const auto Kept = MayBeKept ? Unharmed(Bytes, {}, Keeping) : std::nullopt) return *Kept;
         ImgX Picture;
         Picture.TakeAtLeast(Bytes, Keeping.Limit);
-        return WrittenAnew(std::move(Picture), Keeping);
+        return WrittenAnew(std::move(Picture), Bytes, Keeping);
     });
 }
 
 QByteArray FittedJpeg(ImgX Picture, const PictureKeeping& Keeping) {
     const auto Turned = Picture.Turned();
     const auto Kept = Turned ? Unharmed(Picture.Source(), *Turned, Keeping) : std::nullopt;
-    return Kept ? *Kept : WrittenAnew(std::move(Picture), Keeping);
+    if (Kept) return *Kept;
+    const QByteArray Source = Picture.Source();
+    return WrittenAnew(std::move(Picture), Source, Keeping);
 }
 
 }  // namespace neb

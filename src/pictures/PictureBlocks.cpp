@@ -1,6 +1,7 @@
 #include "pictures/PictureBlocks.h"
 
 #include "pictures/formats/ByteView.h"
+#include "pictures/formats/FileBlocks.h"
 #include "pictures/formats/PictureFormats.h"
 
 namespace neb {
@@ -40,17 +41,11 @@ void Keep(ExifTags& Into, const QByteArray& Block) {
 
 // The resources of the program from which PSD comes; JPEG files have them too.
 void TakeResources(const QByteArray& Resources, PictureBlocks& Found) {
-    constexpr int Iptc = 0x0404, Exif = 0x0422, Xmp = 0x0424;
-    const ByteView View(Resources);
-    for (qint64 At = 0; View.Is(At, "8BIM");) {
-        const int Kind = View.U16(At + 4, true);
-        const qint64 Data = At + 6 + ((View.U8(At + 6) + 2) & ~1);
-        const qint64 Length = View.U32(Data, true);
-        const QByteArray Bytes = Resources.mid(Data + 4, Length);
-        if (Kind == Iptc) Keep(Found.Iptc, Bytes);
-        if (Kind == Exif) Keep(Found.Exif, Bytes);
-        if (Kind == Xmp) Keep(Found.Xmp, Bytes);
-        At = Data + 4 + ((Length + 1) & ~qint64(1));
+    for (const PhotoshopResource& Each : ResourcesIn(Resources)) {
+        const QByteArray Bytes = Each.Content.toByteArray();
+        if (Each.Kind == IptcResourceKind) Keep(Found.Iptc, Bytes);
+        if (Each.Kind == ExifResourceKind) Keep(Found.Exif, Bytes);
+        if (Each.Kind == XmpResourceKind) Keep(Found.Xmp, Bytes);
     }
 }
 

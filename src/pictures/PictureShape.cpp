@@ -1,7 +1,10 @@
 #include "pictures/PictureShape.h"
 
 #include <QImageReader>
+#include <algorithm>
 
+#include "pictures/formats/PictureFormats.h"
+#include "pictures/formats/TiffTags.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
 
@@ -37,7 +40,20 @@ class FileHead : public QIODevice {
     HostReader mReader;
 };
 
+// The toolkit's reader of this format must not see any: it shares a library with ours, and what
+// that complains of ends in a crash.
+QSize ShapeOfTiff(const QByteArray& Bytes) {
+    constexpr quint16 Width = 256, Height = 257;
+    const TiffTags Tags(Bytes);
+    const auto Side = [&](quint16 Tag) {
+        return static_cast<int>(std::min(Tags.Value(Tag).value_or(0), quint32(LongestSide)));
+    };
+    return UprightSize({Side(Width), Side(Height)}, Tags.Orientation());
+}
+
 QSize ShapeIn(FileHead& File) {
+    if (LooksLikeTiff(File.peek(8)))
+        return File.size() > LargestPictureFile ? QSize() : ShapeOfTiff(File.readAll());
     QImageReader Reader(&File);
     const QSize Stored = Reader.size();
     if (Stored.isEmpty()) return {};

@@ -56,6 +56,18 @@ class PacketReader {
                     Take(*Is, Each.value().toString());
         if (const Property* Is = PropertyOf(mXml.namespaceUri(), mXml.name())) Take(*Is, Text());
     }
+    // All letters of the item that has begun, whatever stands in it. A loop: a file may nest its
+    // elements deeper than a thread has room for calls.
+    QString ItemText() {
+        QString Text;
+        for (qint64 Depth = 1; Depth > 0 && !mXml.atEnd();) {
+            const auto Token = mXml.readNext();
+            Depth += Token == QXmlStreamReader::StartElement;
+            Depth -= Token == QXmlStreamReader::EndElement;
+            if (Token == QXmlStreamReader::Characters) Text += mXml.text();
+        }
+        return Text;
+    }
     // Of the element that has begun: its own letters, or those of the best of its items.
     QString Text() {
         QString Own, Best;
@@ -67,7 +79,7 @@ class PacketReader {
             if (Token == QXmlStreamReader::Characters) Own += mXml.text();
             if (Token != QXmlStreamReader::StartElement || mXml.name() != u"li") continue;
             const int Its = WorthOf(mXml.attributes().value(QLatin1String("xml:lang")));
-            const QString Item = mXml.readElementText(QXmlStreamReader::IncludeChildElements);
+            const QString Item = ItemText();
             --Depth;
             if (Its > Worth && !Item.isEmpty()) Best = Item, Worth = Its;
         }

@@ -201,6 +201,22 @@ TEST_F(Fitting, APacketThatTurnsThePictureKeepsItFromBeingKept) {
     EXPECT_FALSE(PartsOf(Stored)->IsTurnedByXmp());
 }
 
+TEST_F(Fitting, APacketTurnsAPictureUnderWhateverNameItKnowsItsWords) {
+    QByteArray Packet = XmpPacket(3);
+    Packet.replace("tiff:", "ns1:").replace("xmlns:tiff", "xmlns:ns1");
+    const QByteArray Packed =
+        WithMore(CameraJpeg(Scene({64, 48})), JpegPartOf(ExifMarker, XmpMark + Packet));
+    EXPECT_TRUE(PartsOf(Packed)->IsTurnedByXmp());
+    EXPECT_FALSE(PartsOf(Fitted(Packed, Own))->IsTurnedByXmp());
+}
+
+TEST_F(Fitting, APacketTurnsNoPictureWhoseCameraSaysThatItIsUpright) {
+    const QByteArray Jpeg = WithMore(CameraJpeg(Scene({64, 48})),
+                                     JpegPartOf(ExifMarker, ExifMark + CameraBlock(1, {64, 48})) +
+                                         JpegPartOf(ExifMarker, XmpMark + XmpPacket(6)));
+    EXPECT_EQ(Jpeg, Fitted(Jpeg, Own));
+}
+
 TEST_F(Fitting, OfAPictureInMemoryATurnLosesNothing) {
     const QByteArray Jpeg = Noted(CameraJpeg(Scene({320, 240})), 1, {320, 240});
     WriteFile(mFile, Jpeg);

@@ -9,6 +9,7 @@
 #include <random>
 
 #include "harness/TempFolder.h"
+#include "pictures/BlockDirectories.h"
 #include "support/files/HostNames.h"
 #include "support/files/modHostFiles.h"
 
@@ -318,6 +319,34 @@ TEST(PictureFacts, AreReadFromHeicFiles) {
         Heic(Tiff({}, {{Original, Noon}}), Xmp(Alt("title", Item("x-default", Dune))));
     EXPECT_EQ("Die Düne", Words(File));
     EXPECT_EQ("2003-12-24 12:00:05.000", Taken(File));
+}
+
+TEST(PictureFacts, OfAHeicFileThatNamesOneBlockAThousandTimesDoNotFillTheMemory) {
+    const quint32 Length = 3 << 20;
+    QByteArray Places = Number(0x01000000, 4) + Number(0x4400, 2) + Number(1000, 2);
+    for (int I = 0; I < 1000; ++I)
+        Places +=
+            Number(2, 2) + Number(0, 4) + Number(1, 2) + Number(1 << 20, 4) + Number(Length, 4);
+    const QByteArray Name =
+        Box("infe", Number(0x02000000, 4) + Number(2, 2) + Number(0, 2) + "Exif" + '\0');
+    const QByteArray File =
+        Box("meta", Number(0, 4) + Box("iinf", Number(1, 6) + Name) + Box("iloc", Places));
+    qint64 Asked = 0;
+    const auto Items = ReadHeifItems([&](qint64 At, qint64 Most) {
+        if (At >= 1 << 20) Asked += Most;
+        return File.mid(At, Most);
+    });
+    EXPECT_GE(Asked, Length);
+    EXPECT_LE(Asked, 10 << 20);
+    EXPECT_EQ(1000U, Items.size());
+}
+
+TEST(PictureFacts, WordsAreReadHoweverDeepAFileHidesThem) {
+    const int Deep = 400'000;
+    const QByteArray Hidden =
+        QByteArray("<b>").repeated(Deep) + "Dune" + QByteArray("</b>").repeated(Deep);
+    const QByteArray File = Tiff({{PacketTag, Xmp(Alt("title", Item("x-default", Hidden)))}});
+    EXPECT_EQ("Dune", Words(File));
 }
 
 TEST(PictureFacts, OfAFileAreThoseOfItsBytesAndItsOwnTime) {

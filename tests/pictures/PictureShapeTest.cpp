@@ -3,6 +3,7 @@
 
 #include "pictures/Pictures.h"
 #include "pictures/TurnedJpegs.h"
+#include "pictures/formats/PictureFormats.h"
 
 using namespace neb;
 using namespace neb::tests;
@@ -38,6 +39,21 @@ TEST_F(PictureShapeOf, OtherFormatsTellTheirs) {
         const QString File = Folder / QStringLiteral("picture.") + QLatin1String(Format);
         ASSERT_TRUE(Fields(Red, Green, Blue, Grey, {70, 20}).save(File));
         EXPECT_EQ(QSize(70, 20), PictureShape(File));
+    }
+}
+
+TEST_F(PictureShapeOf, ATiffTellsItsOwnTurnedOrDamaged) {
+    const QString Turned = PictureFile(QStringLiteral("turned.tif"));
+    EXPECT_EQ(MakeThumbnail(PictureFile(QStringLiteral("lab.tif"))).size(), ThumbnailSize);
+    ImgX Picture;
+    Picture.Load(Turned);
+    EXPECT_EQ(Picture.FullSize(), PictureShape(Turned));
+    const QByteArray Whole = ReadFile(PictureFile(QStringLiteral("rgb8-lzw.tif")));
+    for (qsizetype At = 4; At < Whole.size(); At += At < 400 ? 1 : 97) {
+        QByteArray Broken = Whole;
+        Broken[At] = static_cast<char>(Broken[At] ^ 0x5A);
+        const QSize Is = Shape(Broken);
+        EXPECT_LE(std::max(Is.width(), Is.height()), LongestSide);
     }
 }
 

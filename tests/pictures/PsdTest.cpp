@@ -1,5 +1,6 @@
 // PSD pictures of the rarer kinds, built byte by byte: what their pixels are is worked out here by
 // the rule of the format.
+#include "Blocks.h"
 #include "DamagedBytes.h"
 #include "Pictures.h"
 
@@ -106,6 +107,23 @@ TEST(Psd, AlphaBesideTheColoursShowsWhite) {
     // The colours have been laid on white by who wrote them, but where nothing is left of them.
     const QByteArray Text = Planes({Reds, Greens, Blues, "ffffff 00ffff", Mask, Mask});
     EXPECT_EQ("ff0000 00ff00 0000ff ffffff ffffff 808080", PixelsOf(Psd({3, 6, 8, {}, -1}, Text)));
+}
+
+// Those with masks are read here, those without elsewhere.
+TEST(Psd, TheyAreTurnedByWhatTheirResourcesSay) {
+    const std::pair<quint32, QByteArray> Told[] = {{0x0422, ExifTurned(6)}, {0x0424, XmpTurned(6)}};
+    for (const auto& [Which, Block] : Told)
+        for (const int Count : {3, 6}) {
+            QByteArray File = Psd(
+                {3, Count}, Planes({Reds, Greens, Blues}) + QByteArray(Mask).repeated(Count - 3));
+            const QByteArray Resource = "8BIM" + Big(Which, 2) + Big(0, 2) +
+                                        Big(static_cast<quint32>(Block.size()), 4) + Block +
+                                        QByteArray(Block.size() % 2, 0);
+            EXPECT_EQ(QSize(3, 2), DecodePicture(File).Full);
+            File.replace(30, 4, Big(static_cast<quint32>(Resource.size()), 4) + Resource);
+            EXPECT_EQ(QSize(2, 3), DecodePicture(File).Full) << Count << " planes";
+            EXPECT_EQ(QColor(0x10, 0x20, 0x30), DecodePicture(File).Picture.pixelColor(0, 0));
+        }
 }
 
 TEST(Psd, OfSixteenBitsTheUpperHalfCounts) {

@@ -70,12 +70,14 @@ TEST(PlainJpegs, TellInWhichColoursTheyAre) {
 
 TEST(PlainJpegs, AreNotTurnedByAPacket) {
     const QByteArray Jpeg = ReadFile(PictureFile(QStringLiteral("rgb444.jpg")));
-    for (const int Orientation : {1, 6}) {
-        const QByteArray Packed =
-            WithMore(Jpeg, JpegPartOf(ExifMarker, XmpMark + "<x tiff:Orientation=\"" +
-                                                      QByteArray::number(Orientation) + "\"/>"));
-        EXPECT_EQ(Orientation == 1, ReadPlainJpeg(Packed).has_value());
-    }
+    for (const int Orientation : {1, 6})
+        for (const QByteArray Prefix : {"tiff", "ns1"}) {
+            const QByteArray Packet = "<x xmlns:" + Prefix + "=\"http://ns.adobe.com/tiff/1.0/\" " +
+                                      Prefix + ":Orientation=\"" + QByteArray::number(Orientation) +
+                                      "\"/>";
+            const QByteArray Packed = WithMore(Jpeg, JpegPartOf(ExifMarker, XmpMark + Packet));
+            EXPECT_EQ(Orientation == 1, ReadPlainJpeg(Packed).has_value());
+        }
 }
 
 TEST(PlainJpegs, AreWhole) {

@@ -81,12 +81,37 @@ bool BoxesAreWhole(const ByteView& Boxes) {
     return At == Boxes.Size();
 }
 
+// Behind the mark: the kind, a name that is filled up to an even length, and the bytes, which are
+// too.
+std::vector<PhotoshopResource> ResourcesIn(QByteArrayView Bytes) {
+    std::vector<PhotoshopResource> Found;
+    const ByteView View(Bytes);
+    for (qint64 At = 0; View.Is(At, "8BIM");) {
+        const qint64 Data = At + 6 + ((View.U8(At + 6) + 2) & ~1);
+        const qint64 Length = View.U32(Data, true);
+        const qint64 Next = Data + 4 + ((Length + 1) & ~qint64(1));
+        Found.push_back(
+            {View.U16(At + 4, true), View.Part(At, Next - At), View.Part(Data + 4, Length)});
+        At = Next;
+    }
+    return Found;
+}
+
+QByteArrayView PsdResource(const ByteView& Psd, int Kind) {
+    constexpr qint64 ColoursAt = 26;
+    const qint64 At = ColoursAt + 4 + Psd.U32(ColoursAt, true);
+    for (const PhotoshopResource& Each : ResourcesIn(Psd.Part(At + 4, Psd.U32(At, true))))
+        if (Each.Kind == Kind) return Each.Content;
+    return {};
+}
+
 QByteArray ExifBlockOf(const QByteArray& File) {
     const ByteView View(File);
     if (LooksLikeJpeg(View)) return JpegSegment(View, ExifMark).toByteArray();
     if (LooksLikePng(View)) return ExifOfPng(View);
     if (LooksLikeWebp(View)) return WithoutMark(WebpChunk(View, "EXIF"));
     if (LooksLikeTiff(View)) return File;
+    if (LooksLikePsd(View)) return WithoutMark(PsdResource(View, ExifResourceKind));
     return FileBox(View, "uuid", "JpgTiffExif->JP2").toByteArray();
 }
 

@@ -1,6 +1,7 @@
 // PSD pictures of the kinds that Magick++ refuses or takes for others, by their own rules: with
 // palettes, with inks but no colour space, with many masks beside the colours. Of all, the picture
 // of all layers together counts, which stands at the file's end.
+#include "pictures/formats/FileBlocks.h"
 #include "pictures/formats/PictureColour.h"
 #include "pictures/formats/PictureFaults.h"
 #include "pictures/formats/PictureFormats.h"
@@ -24,7 +25,6 @@ class PsdReader {
     qint64 Length(qint64 At) const {
         return mLarge ? mBytes.U32(At + 4, true) : mBytes.U32(At, true);
     }
-    QByteArray Profile() const;
     bool HasAlpha() const;
     void ReadRow(qint64 At, qint64 Length, QByteArray& Row) const;
     void Unpack(QByteArrayView From, QByteArray& Row) const;
@@ -74,18 +74,6 @@ bool PsdReader::Knows() const {
     if (mMode == Palette || mMode == PlainInks) return true;
     const bool Known = mMode == Greys || mMode == Colours || mMode == Inks || mMode == Duotone;
     return Known && mPlanes > Colouring() + 1;
-}
-
-QByteArray PsdReader::Profile() const {
-    constexpr int ProfileNumber = 1039;
-    for (qint64 At = mResources; At < mLayers && mBytes.Is(At, "8BIM");) {
-        const qint64 Name = (mBytes.U8(At + 6) + 2) / 2 * 2;
-        const qint64 Content = At + 10 + Name, Size = mBytes.U32(Content - 4, true);
-        if (mBytes.U16(At + 4, true) == ProfileNumber)
-            return mBytes.Part(Content, Size).toByteArray();
-        At = Content + (Size + 1) / 2 * 2;
-    }
-    return {};
 }
 
 // The first plane beyond the colours is the picture's alpha when the number of layers is below
@@ -176,12 +164,13 @@ void PsdReader::ReadPlanes() {
 
 QImage PsdReader::Finish() {
     const bool Coloured = mMode == Colours || Colouring() == 1;
+    const QByteArray Profile = PsdResource(mBytes, ProfileResourceKind).toByteArray();
     if (!Coloured) {
-        InksToScreenColours(mPicture, mMode == Inks ? Profile() : QByteArray());
+        InksToScreenColours(mPicture, mMode == Inks ? Profile : QByteArray());
         return std::move(mPicture);
     }
     MakeOpaque(mPicture);
-    return ToScreenColours(std::move(mPicture), Profile());
+    return ToScreenColours(std::move(mPicture), Profile);
 }
 
 DecodedPicture PsdReader::Decode() {

@@ -94,9 +94,13 @@ QByteArrayView TiffTags::BytesBehind(quint16 PointerTag, quint16 Tag) const {
     return Directory ? BytesIn(*Directory, Tag) : QByteArrayView();
 }
 
+bool TiffTags::TellsOrientation() const {
+    const quint32 Number = Value(OrientationTag).value_or(0);
+    return Number >= 1 && Number <= 8;
+}
+
 int TiffTags::Orientation() const {
-    const quint32 Number = Value(OrientationTag).value_or(1);
-    return Number >= 1 && Number <= 8 ? static_cast<int>(Number) : 1;
+    return TellsOrientation() ? static_cast<int>(*Value(OrientationTag)) : 1;
 }
 
 bool TiffTags::IsAdobeRgb() const {

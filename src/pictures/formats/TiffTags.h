@@ -24,6 +24,8 @@ class TiffTags {
 
     // 1 to 8 as EXIF numbers them; 1 (upright) when there is none.
     int Orientation() const;
+    // Whether it is told at all: else something other than EXIF may tell it.
+    bool TellsOrientation() const;
     // Cameras that shoot in Adobe RGB say so by this mark and embed no profile.
     bool IsAdobeRgb() const;
     // All values of the first directory are in the file.

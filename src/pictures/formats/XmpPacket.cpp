@@ -65,6 +65,7 @@ QByteArray XmpPacketOf(const QByteArray& File) {
     if (LooksLikeWebp(View)) return WebpChunk(View, "XMP ").toByteArray();
     if (LooksLikeGif(View)) return PacketOfGif(File).toByteArray();
     if (LooksLikeTiff(View)) return TiffTags(File).Bytes(PacketTag).toByteArray();
+    if (LooksLikePsd(View)) return PsdResource(View, XmpResourceKind).toByteArray();
     if (LooksLikeHeic(View)) return PacketOfItems(File).toByteArray();
     return FileBox(View, "uuid", BoxMark).toByteArray();
 }

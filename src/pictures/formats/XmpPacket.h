@@ -8,8 +8,8 @@
 
 namespace neb {
 
-// The packet in a JPEG, PNG, WebP, GIF, TIFF, HEIC, AVIF or JPEG 2000 file; empty when there is
-// none.
+// The packet in a JPEG, PNG, WebP, GIF, TIFF, PSD, HEIC, AVIF or JPEG 2000 file; empty when there
+// is none.
 QByteArray XmpPacketOf(const QByteArray& File);
 
 inline constexpr QStringView XmpTiff = u"http://ns.adobe.com/tiff/1.0/";

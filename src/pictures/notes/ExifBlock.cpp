@@ -8,7 +8,8 @@ namespace neb {
 namespace {
 
 constexpr quint16 WidthTag = 0x0100, HeightTag = 0x0101, OrientationTag = 0x0112, ExifTag = 0x8769,
-                  PlaceTag = 0x8825, PixelWidthTag = 0xA002, PixelHeightTag = 0xA003, ShortType = 3;
+                  PlaceTag = 0x8825, MakerTag = 0x927C, PixelWidthTag = 0xA002,
+                  PixelHeightTag = 0xA003, ShortType = 3;
 constexpr int EntryLength = 12;
 constexpr int TypeWidths[] = {1, 1, 1, 2, 4, 8, 1, 1, 2, 4, 8, 4, 8};
 
@@ -60,10 +61,14 @@ void ExifBlock::Set(qint64 Directory, quint16 Tag, quint32 To) {
         SetNumber(At + 8, Number(At + 2, 2) == ShortType ? 2 : 4, To);
 }
 
+qint64 ExifBlock::Details() const {
+    const qint64 Pointer = Find(mFirst, ExifTag);
+    return Pointer ? Number(Pointer + 8, 4) : 0;
+}
+
 void ExifBlock::SetUpright(QSize Pixels) {
     if (mFirst <= 0) return;
-    const qint64 Pointer = Find(mFirst, ExifTag);
-    const qint64 Details = Pointer ? Number(Pointer + 8, 4) : 0;
+    const qint64 Details = this->Details();
     Set(mFirst, OrientationTag, 1);
     Set(mFirst, WidthTag, quint32(Pixels.width()));
     Set(mFirst, HeightTag, quint32(Pixels.height()));
@@ -105,9 +110,20 @@ bool ExifBlock::DropPlaceOf(qint64 Directory) {
     return true;
 }
 
+void ExifBlock::DropMakersNotes(qint64 Directory) {
+    const qint64 At = Find(Directory, MakerTag);
+    if (!At) return;
+    const Entry Notes = EntryAt(At);
+    Clear(Notes.Values, Notes.Length);
+    Remove(Directory, At);
+}
+
 bool ExifBlock::DropPlace() {
-    const bool OfPicture = DropPlaceOf(mFirst), OfSmall = DropPlaceOf(mSecond);
-    return OfPicture || OfSmall;
+    bool Had = false;
+    for (const qint64 Directory : {mFirst, mSecond, Details()})
+        while (DropPlaceOf(Directory)) Had = true;
+    if (Had) DropMakersNotes(Details());
+    return Had;
 }
 
 }  // namespace neb

@@ -16,7 +16,9 @@ class ExifBlock {
     // The picture now lies upright and has so many pixels. The small picture that the camera made
     // goes: it lies as before.
     void SetUpright(QSize Pixels);
-    // Where it was taken goes, down to the bytes. True when there was anything.
+    // Where it was taken goes, down to the bytes, and with it the notes of the camera's maker: a
+    // camera that knew the place may have written town and sight there in a form of its own. True
+    // when there was anything.
     bool DropPlace();
 
   private:
@@ -32,7 +34,9 @@ class ExifBlock {
     qint64 Find(qint64 Directory, quint16 Tag) const;  // 0: not there
     void Set(qint64 Directory, quint16 Tag, quint32 To);
     void Clear(qint64 At, qint64 Length);
+    qint64 Details() const;  // the directory of the exposure; 0: none
     bool DropPlaceOf(qint64 Directory);
+    void DropMakersNotes(qint64 Directory);
     void Remove(qint64 Directory, qint64 At);
 
     QByteArray& mBlock;

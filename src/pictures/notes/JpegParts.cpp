@@ -1,9 +1,10 @@
 #include "pictures/notes/JpegParts.h"
 
-#include <QRegularExpression>
+#include <algorithm>
 
 #include "pictures/formats/ByteView.h"
 #include "pictures/formats/TiffTags.h"
+#include "pictures/formats/XmpPacket.h"
 
 namespace neb {
 namespace {
@@ -93,10 +94,12 @@ int JpegParts::Orientation() const {
 }
 
 bool JpegParts::IsTurnedByXmp() const {
-    static const QRegularExpression Turned(QStringLiteral("tiff:Orientation\\W+[2-8]"));
+    const auto Block = std::ranges::find_if(Head, &JpegPart::IsExif);
+    if (Block != Head.end() && TiffTags(Block->Exif()).TellsOrientation()) return false;
     const auto Packet = std::ranges::find_if(Head, &JpegPart::IsXmp);
-    return Packet != Head.end() && Orientation() == 1 &&
-           QString::fromLatin1(Packet->Xmp()).contains(Turned);
+    if (Packet == Head.end()) return false;
+    const int Told = XmpValue(Packet->Xmp().toByteArray(), XmpTiff, u"Orientation").toInt();
+    return Told > 1 && Told <= 8;
 }
 
 std::optional<JpegParts> PartsOf(const QByteArray& Jpeg) {

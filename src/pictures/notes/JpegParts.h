@@ -31,7 +31,7 @@ struct JpegParts {
 
     // As EXIF numbers them, 1 to 8, by the first block that there is.
     int Orientation() const;
-    // A packet says otherwise than "upright", and no EXIF block says anything.
+    // A packet says otherwise than "upright", and the EXIF block, which comes first, says nothing.
     bool IsTurnedByXmp() const;
 };
 // Nothing where it is no JPEG, or one that breaks off before its pixels.

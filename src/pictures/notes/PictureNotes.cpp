@@ -4,6 +4,7 @@
 #include <exiv2/exiv2.hpp>
 #include <mutex>
 
+#include "pictures/formats/FileBlocks.h"
 #include "pictures/notes/ExifBlock.h"
 #include "pictures/notes/HeifBlocks.h"
 #include "pictures/notes/JpegParts.h"
@@ -49,12 +50,14 @@ QByteArray BytesOf(const Exiv2::Blob& Blob) {
     return {reinterpret_cast<const char*>(Blob.data()), static_cast<qsizetype>(Blob.size())};
 }
 
-// What the blocks of a photograph are about, and not where the pixels of a TIFF lie.
+// What the blocks of a photograph are about, and not where the pixels of a TIFF lie, in the file
+// or on a map.
 bool IsOfPicture(const Exiv2::Exifdatum& Each, bool KeepsPlace) {
     constexpr uint16_t Layout[] = {0x0106, 0x0111, 0x0112, 0x0115, 0x0116, 0x0117, 0x011C, 0x013D,
                                    0x0140, 0x0142, 0x0143, 0x0144, 0x0145, 0x014A, 0x0152, 0x0153,
-                                   0x015B, 0x0211, 0x0212, 0x0213, 0x0214, 0x02BC, 0x83BB, 0x8649,
-                                   0x8769, 0x8773, 0x8825, 0x927C, 0xA001, 0xA002, 0xA003, 0xA005};
+                                   0x015B, 0x0211, 0x0212, 0x0213, 0x0214, 0x02BC, 0x830E, 0x8480,
+                                   0x8482, 0x83BB, 0x85D8, 0x8649, 0x87AF, 0x87B0, 0x87B1, 0x8769,
+                                   0x8773, 0x8825, 0x927C, 0xA001, 0xA002, 0xA003, 0xA005};
     const std::string Group = Each.groupName();
     const uint16_t Tag = Each.tag();
     if (Each.size() > LongestValue) return false;
@@ -164,6 +167,27 @@ QByteArray XmpWithoutPlace(const JpegPart& Part, const QByteArray& AsItIs) {
     });
 }
 
+// Some programs keep the blocks once more among the resources.
+QByteArray ResourcesWithoutPlace(const JpegPart& Part, const QByteArray& AsItIs) {
+    QByteArray Kept = PhotoshopMark;
+    qsizetype Behind = PhotoshopMark.size();
+    for (const PhotoshopResource& Each : ResourcesIn(Part.Content.sliced(Behind))) {
+        Behind += Each.Whole.size();
+        if (Each.Kind != ExifResourceKind && Each.Kind != XmpResourceKind) Kept += Each.Whole;
+    }
+    Kept += Part.Content.sliced(Behind);
+    return Kept == Part.Content ? AsItIs : JpegPartOf(PhotoshopMarker, Kept);
+}
+
+// What a camera or a program has in a form of its own, as proofs of origin are, and names the place
+// in.
+bool IsOtherThatTellsPlace(const JpegPart& Part) {
+    constexpr int FirstOther = 0xE3, Colours = 0xEE, Comment = 0xFE;
+    const bool IsOther = Part.Marker == Comment || (Part.Marker >= FirstOther &&
+                                                    Part.Marker < Colours && !Part.IsPhotoshop());
+    return IsOther && Part.Content.toByteArray().toLower().contains("latitude");
+}
+
 // One letter for another: the length stays.
 QByteArray XmpUpright(QByteArray Part) {
     static const QRegularExpression Lying(QStringLiteral("tiff:Orientation\\W+([2-8])"));
@@ -196,7 +220,8 @@ QByteArray WithoutPlace(const QByteArray& Jpeg) {
     return WithParts(Jpeg, *Parts, [&](const JpegPart& Part) {
         const QByteArray AsItIs = Jpeg.mid(Part.At, Part.Length);
         if (Part.IsXmp()) return XmpWithoutPlace(Part, AsItIs);
-        if (Part.IsMoreXmp()) return QByteArray();
+        if (Part.IsMoreXmp() || IsOtherThatTellsPlace(Part)) return QByteArray();
+        if (Part.IsPhotoshop()) return ResourcesWithoutPlace(Part, AsItIs);
         if (!Part.IsExif()) return AsItIs;
         QByteArray Block = Part.Exif().toByteArray();
         return ExifBlock(Block).DropPlace() ? ExifPartOf(Block) : AsItIs;

@@ -2,6 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#ifdef __linux__
+#include <sys/resource.h>
+
+#include <csignal>
+#endif
+
 #include "harness/TempFolder.h"
 #include "support/files/modHostFiles.h"
 
@@ -36,6 +42,27 @@ TEST(SpoolFile, LeavesNoNameInTheFolder) {
     EXPECT_TRUE(ListDir(Folder.Path()).empty());
     qunsetenv("TMPDIR");
 }
+
+#ifdef __linux__
+TEST(SpoolFile, ThatFoundNoRoomGivesBackWhatItTookBeforeAndGoesOn) {
+    SpoolFile Spool;
+    const auto First = Spool.Append(QByteArray(1000, 'x'));
+    ASSERT_TRUE(First);
+    const auto Handled = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit Before;
+    getrlimit(RLIMIT_FSIZE, &Before);
+    const rlimit Small{4000, Before.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &Small);
+    EXPECT_FALSE(Spool.Append(QByteArray(3500, 'y')));
+    const QByteArray Read = Spool.Read(*First, 1000);
+    const auto Second = Spool.Append("second");
+    setrlimit(RLIMIT_FSIZE, &Before);
+    std::signal(SIGXFSZ, Handled);
+    EXPECT_EQ(QByteArray(1000, 'x'), Read);
+    ASSERT_TRUE(Second);
+    EXPECT_EQ("second", Spool.Read(*Second, 6).toStdString());
+}
+#endif
 
 TEST(SpoolFile, WithoutAFolderTakesNothing) {
     qputenv("TMPDIR", "/nowhere/at/all");
