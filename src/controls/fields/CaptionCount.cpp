@@ -78,7 +78,7 @@ void CaptionCount::Place() {
         if (sizeHint().width() < Room.width() / LeastShareOfText) break;
     }
     const bool Mirrored = mField->layoutDirection() == Qt::RightToLeft;
-    const int Width = sizeHint().width() + Gap;
+    const int Width = sizeHint().width() + 2 * Gap;
     mField->setTextMargins(Mirrored ? Width : 0, 0, Mirrored ? 0 : Width, 0);
     const Qt::Alignment End = QStyle::visualAlignment(mField->layoutDirection(), Qt::AlignRight);
     setGeometry(QStyle::alignedRect(Qt::LeftToRight, End | Qt::AlignVCenter, sizeHint(),

@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QEvent>
 #include <QLabel>
+#include <QScreen>
 
 #include "controls/fields/ComboBoxList.h"
 #include "settings/SettingKeys.h"
@@ -16,7 +17,7 @@
 namespace neb {
 namespace {
 
-constexpr int WidestRow = 960;  // pixels, in a window of its first width
+constexpr int WidestRow = 960;  // pixels, in a window of its first width; less on a small screen
 
 // The entries of the list of orders, and what the settings file calls them.
 struct OrderRow {
@@ -121,7 +122,9 @@ PictureKeeping ImportOptions::Keeping() const {
 // In a large font the row becomes two: the window stays within the screen.
 void ImportOptions::Arrange() {
     mRow->setDirection(QBoxLayout::LeftToRight);
-    if (mRow->sizeHint().width() > WidestRow) mRow->setDirection(QBoxLayout::TopToBottom);
+    const int OnScreen = screen()->availableSize().width() * 9 / 10;
+    if (mRow->sizeHint().width() > std::min(WidestRow, OnScreen))
+        mRow->setDirection(QBoxLayout::TopToBottom);
 }
 
 void ImportOptions::changeEvent(QEvent* Event) {
