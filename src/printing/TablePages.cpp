@@ -98,9 +98,12 @@ class TableComposer {
         for (size_t Col = 0; Col < mTable.Columns.size(); ++Col) {
             const TableColumn& Its = mTable.Columns[Col];
             const double Wide = Width() * Its.Share;
-            mInto.DrawText({Texts.value(static_cast<qsizetype>(Col)),
+            const QString Cell = Texts.value(static_cast<qsizetype>(Col));
+            // One that is read from the right begins there.
+            const bool AtRight = Its.Right || Cell.isRightToLeft();
+            mInto.DrawText({Cell,
                             {X, mY, Wide - Gap, LineHeight},
-                            Its.Right ? TextSide::Right : TextSide::Left});
+                            AtRight ? TextSide::Right : TextSide::Left});
             X += Wide;
         }
         mY += LineStep;

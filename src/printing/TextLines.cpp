@@ -28,11 +28,12 @@ QFont FontFor(double Height) {
     return Font;
 }
 
-// Left is where a text begins: one that is read from the right begins there.
+// The side is that of the place, in whatever direction the text is read: a caption stands with its
+// picture.
 QTextOption OptionFor(const PlacedText& Text) {
     const bool FromTheRight = Text.Text.isRightToLeft();
-    const bool AtLeft = Text.Side == TextSide::Left && !FromTheRight;
-    QTextOption Option((AtLeft ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignAbsolute);
+    QTextOption Option((Text.Side == TextSide::Left ? Qt::AlignLeft : Qt::AlignRight) |
+                       Qt::AlignAbsolute);
     Option.setTextDirection(FromTheRight ? Qt::RightToLeft : Qt::LeftToRight);
     Option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     return Option;

@@ -9,6 +9,7 @@
 #include "db/records/modJournal.h"
 #include "pictures/ImgX.h"
 #include "support/Fault.h"
+#include "support/ReasonOf.h"
 #include "support/files/modHostFiles.h"
 #include "support/modDEValidation.h"
 #include "support/modFUFL.h"
@@ -41,8 +42,8 @@ struct Prepared {
 Prepared Prepare(const PictureInOrder& Picture, const PictureKeeping& Keeping) {
     try {
         return {FittedJpeg(Picture.Path, Keeping), MakeThumbnail(Picture.Path), {}};
-    } catch (const Fault& Problem) {
-        return {{}, {}, Problem.What()};
+    } catch (const std::exception& Problem) {
+        return {{}, {}, SentenceOf(Problem)};
     }
 }
 

@@ -2,10 +2,12 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QGridLayout>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QSpacerItem>
 
 #include "controls/forms/ScreenPointer.h"
 #include "controls/forms/StandOver.h"
@@ -78,6 +80,19 @@ void AddSaveDiscardCancel(QMessageBox& Box) {
     Box.setEscapeButton(QMessageBox::Cancel);
 }
 
+// The toolkit's box is as narrow as its words: the title is read as well, and so are paths.
+void Widen(QMessageBox& Box, const BoxRequest& Request) {
+    constexpr int RoomForPaths = 560, ButtonsOfTitle = 160;
+    auto* const Rows = qobject_cast<QGridLayout*>(Box.layout());
+    if (!Rows) return;
+    const int Title =
+        Box.fontMetrics().horizontalAdvance(TitleOf(Request) + QStringLiteral(" — ") +
+                                            QGuiApplication::applicationDisplayName()) +
+        ButtonsOfTitle;
+    const int Wide = Request.Details.isEmpty() ? Title : std::max(Title, RoomForPaths);
+    Rows->addItem(new QSpacerItem(Wide, 0), Rows->rowCount(), 0, 1, Rows->columnCount());
+}
+
 void Fill(QMessageBox& Box, const BoxRequest& Request) {
     Box.setWindowTitle(TitleOf(Request));
     Box.setTextFormat(Qt::PlainText);
@@ -90,6 +105,7 @@ void Fill(QMessageBox& Box, const BoxRequest& Request) {
         AddYesNo(Box, Request);
     else
         AddSaveDiscardCancel(Box);
+    Widen(Box, Request);
 }
 
 BoxAnswer AnswerOf(int Button, BoxButtons Buttons) {
