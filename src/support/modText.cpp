@@ -113,6 +113,11 @@ QByteArray WithEquivalents(const QString& Text) {
     return Out;
 }
 
+// Nearly all texts are; they stay the very same.
+bool IsWithoutSurrogates(const QString& Text) {
+    return std::none_of(Text.begin(), Text.end(), [](QChar Unit) { return Unit.isSurrogate(); });
+}
+
 }  // namespace
 
 QByteArray ToAnsi(QStringView Text) {
@@ -139,6 +144,7 @@ bool IsStrayByte(const QString& Text, qsizetype Place) {
 }
 
 QString ReadableText(const QString& Text) {
+    if (IsWithoutSurrogates(Text)) return Text;
     QString Letters = Text;
     for (qsizetype I = 0; I < Text.size(); ++I) {
         const char Byte = static_cast<char>(Text[I].unicode());
@@ -150,6 +156,7 @@ QString ReadableText(const QString& Text) {
 }
 
 QString ValidText(const QString& Stored) {
+    if (IsWithoutSurrogates(Stored)) return Stored;
     QString Text = ReadableText(Stored);
     for (qsizetype I = 0; I < Text.size(); ++I) {
         if (!Text[I].isSurrogate()) continue;
