@@ -153,7 +153,7 @@ TEST_F(OutMail, AnAttachmentThatCannotBeWrittenIsToldAndTheSessionEnds) {
 }
 
 TEST_F(OutMail, StopSendsNothing) {
-    W->ShowDocument(Pages(2000));
+    W->ShowDocument(Pages(10000));
     SlowDisk();
     StopAt("Picture");
     SendTo(u"a@b"_s);

@@ -169,7 +169,7 @@ TEST_F(OutSave, AFailedSaveTellsWhyAndLeavesTheOldFileAsItWas) {
 TEST_F(OutSave, StopLeavesTheOldFile) {
     WriteFile(Out / u"a.pdf"_s, "old");
     ExpectReplaceQuestion(u"a.pdf"_s, BoxAnswer::Yes);
-    W->ShowDocument(Pages(2000));
+    W->ShowDocument(Pages(10000));
     SlowDisk();
     StopAt("Picture");
     SaveAs(u"a.pdf"_s);
