@@ -6,34 +6,14 @@
 #include "pictures/formats/ByteView.h"
 #include "pictures/formats/PictureFaults.h"
 #include "pictures/formats/TiffTags.h"
+#include "pictures/notes/JpegMarks.h"
 #include "pictures/notes/JpegParts.h"
 #include "support/files/modHostFiles.h"
 
 namespace neb {
 namespace {
 
-enum Mark : int {
-    FirstFrame = 0xC0,  // baseline, extended, progressive
-    LastPlainFrame = 0xC2,
-    LastFrame = 0xCF,
-    HuffmanTables = 0xC4,
-    Extension = 0xC8,
-    ArithmeticTables = 0xCC,
-    FirstRestart = 0xD0,
-    LastRestart = 0xD7,
-    StartOfImage = 0xD8,
-    EndOfImage = 0xD9,
-    StartOfScan = 0xDA,
-    Jfif = 0xE0,
-    Exif = 0xE1,
-    Profile = 0xE2,
-    Adobe = 0xEE
-};
-
-bool IsFrame(int Marker) {
-    return Marker >= FirstFrame && Marker <= LastFrame && Marker != HuffmanTables &&
-           Marker != Extension && Marker != ArithmeticTables;
-}
+using namespace jpeg;
 
 // Profiles may come in several parts; one of sRGB never does.
 bool IsScreenProfile(QByteArrayView Segment) {

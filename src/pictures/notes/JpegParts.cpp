@@ -5,27 +5,14 @@
 #include "pictures/formats/ByteView.h"
 #include "pictures/formats/TiffTags.h"
 #include "pictures/formats/XmpPacket.h"
+#include "pictures/notes/JpegMarks.h"
 
 namespace neb {
 namespace {
 
-enum Mark : int {
-    FirstFrame = 0xC0,
-    LastFrame = 0xCF,
-    HuffmanTables = 0xC4,
-    Extension = 0xC8,
-    ArithmeticTables = 0xCC,
-    FirstRestart = 0xD0,
-    LastRestart = 0xD7,
-    EndOfImage = 0xD9,
-    StartOfScan = 0xDA
-};
-constexpr qsizetype LongestContent = 65533;
+using namespace jpeg;
 
-bool IsFrame(int Marker) {
-    return Marker >= FirstFrame && Marker <= LastFrame && Marker != HuffmanTables &&
-           Marker != Extension && Marker != ArithmeticTables;
-}
+constexpr qsizetype LongestContent = 65533;
 
 bool IsOf(const JpegPart& Part, int Marker, const QByteArray& Mark) {
     return Part.Marker == Marker && Part.Content.startsWith(Mark);

@@ -82,6 +82,7 @@ void frmSlideDBM::SetUpTurns() {
 }
 
 void frmSlideDBM::SetUpFields() {
+    mUi->fldKeeping->SetKey(Qt::ALT | Qt::Key_Z);
     On(mPlace, &PicturePlace::Opened, &frmSlideDBM::ChoosePicture);
     On(mUi->cboAlbum, &QComboBox::currentIndexChanged, &frmSlideDBM::AlbumChosen);
     On(mUi->cboSlides, &QComboBox::currentIndexChanged, &frmSlideDBM::SlideChosen);
@@ -95,7 +96,6 @@ void frmSlideDBM::SetUpFields() {
 }
 
 void frmSlideDBM::SetUpToolBar() {
-    mUi->fldKeeping->SetKey(Qt::ALT | Qt::Key_Z);
     const struct {
         const char *Name, *Caption, *ToolTip, *IconName, *Keys;
         bool On;
