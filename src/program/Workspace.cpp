@@ -1,6 +1,5 @@
 #include "program/Workspace.h"
 
-#include <QApplication>
 #include <QDragEnterEvent>
 #include <QMdiSubWindow>
 #include <QMimeData>
@@ -11,19 +10,10 @@
 namespace neb {
 namespace {
 
-constexpr int IconSide = 96;  // logical pixels
-constexpr int Gap = 18;
-
 QString FirstFolder(const QMimeData& Data) {
     for (const QUrl& Url : Data.urls())
         if (const QString Path = FileOfUrl(Url); FolderExists(Path)) return Path;
     return {};
-}
-
-QFont LargeFont(const QFont& Base) {
-    QFont Font = Base;
-    Font.setPointSizeF(Base.pointSizeF() * 1.6);
-    return Font;
 }
 
 }  // namespace
@@ -36,33 +26,19 @@ Workspace::Workspace(QWidget* Parent) : QMdiArea(Parent) {
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
 }
 
-void Workspace::paintEvent(QPaintEvent* Event) {
-    QMdiArea::paintEvent(Event);
-    if (!subWindowList().isEmpty()) return;
-    QPainter Painter(viewport());
-    const QRect Room = viewport()->rect();
-    QRect Icon(0, 0, IconSide, IconSide);
-    Icon.moveCenter(Room.center() - QPoint(0, IconSide));
-    QApplication::windowIcon().paint(&Painter, Icon);
-    QRect Below = Room;
-    Below.setTop(Icon.bottom() + Gap);
-    Painter.setPen(palette().color(QPalette::Text));
-    Painter.setFont(LargeFont(font()));
-    QRect Used;
-    Painter.drawText(Below, Qt::AlignHCenter | Qt::AlignTop, tr("NEB Slide Show"), &Used);
-    Below.setTop(Used.bottom() + Gap);
-    Painter.setFont(font());
-    Painter.setPen(palette().color(QPalette::PlaceholderText));
-    Painter.drawText(Below, Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap,
-                     tr("To turn a folder of pictures into a running show, choose\n"
-                        "File, Quick Show, or drop the folder here."));
+void Workspace::SetPage(QWidget* Page) {
+    mPage = Page;
+    mPage->setParent(viewport());
+    mPage->setGeometry(viewport()->rect());
+    mPage->lower();
+    mPage->show();
 }
 
-// The greeting goes with the first window and comes back when the last one has gone.
+// The page fills the room at every size, and no child goes behind it.
 bool Workspace::viewportEvent(QEvent* Event) {
     const bool Handled = QMdiArea::viewportEvent(Event);
-    if (Event->type() == QEvent::ChildAdded || Event->type() == QEvent::ChildRemoved)
-        viewport()->update();
+    if (mPage && Event->type() == QEvent::Resize) mPage->setGeometry(viewport()->rect());
+    if (mPage && Event->type() == QEvent::ChildAdded) mPage->lower();
     return Handled;
 }
 

@@ -1,5 +1,5 @@
-// The room in which the main window holds its children. While there are none it says what to do
-// first; it tells of folders that are dropped on it.
+// The room in which the main window holds its children, with a page behind them that fills it; it
+// tells of folders that are dropped on it.
 #pragma once
 
 #include <QMdiArea>
@@ -11,15 +11,19 @@ class Workspace : public QMdiArea {
 
   public:
     explicit Workspace(QWidget* Parent = nullptr);
+    // The page behind the children, which the room owns from here on.
+    void SetPage(QWidget* Page);
 
   Q_SIGNALS:
     void FolderDropped(const QString& Folder);
 
   protected:
-    void paintEvent(QPaintEvent* Event) override;
     bool viewportEvent(QEvent* Event) override;
     void dragEnterEvent(QDragEnterEvent* Event) override;
     void dropEvent(QDropEvent* Event) override;
+
+  private:
+    QWidget* mPage = nullptr;
 };
 
 }  // namespace neb

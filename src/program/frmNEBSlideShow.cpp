@@ -32,6 +32,7 @@
 #include "windows/albums/frmDamage.h"
 #include "windows/frame/modBroadcast.h"
 #include "windows/frame/modNotice.h"
+#include "windows/home/HomePage.h"
 #include "windows/lists/clsImageBuffer.h"
 
 namespace neb {
@@ -133,15 +134,17 @@ bool AskEndUnsaved(const QString& Problem, bool AreKept) {
 
 }  // namespace
 
-frmNEBSlideShow::frmNEBSlideShow() : mWorkspace(new Workspace(this)) {
+frmNEBSlideShow::frmNEBSlideShow() : mWorkspace(new Workspace(this)), mHome(new HomePage) {
     setObjectName(QStringLiteral("frmNEBSlideShow"));
     setWindowTitle(QApplication::applicationDisplayName());
     setCentralWidget(mWorkspace);
+    mWorkspace->SetPage(mHome);
     // It says what a menu entry does, and takes the notices.
     new UnstoredNotice(*statusBar());
     SetUpMenu();
     FillOpeners();
     connect(mWorkspace, &Workspace::FolderDropped, this, &frmNEBSlideShow::OpenFolder);
+    connect(mHome, &HomePage::QuickShowWanted, this, [this] { OpenQuickShow(); });
     resize(screen()->availableSize() * 0.85);
 }
 
@@ -159,7 +162,6 @@ bool frmNEBSlideShow::Form_Load(const CommandLine& Line) {
     DoEvents();
     // drawn once the window stands, which need not wait for it
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/neb/neb-slide-show.svg")));
-    mWorkspace->viewport()->update();
     const PointerScope Working(Pointer::Hourglass);
     IgnoringFaults([] { SetExtraFormats(ReadFlag(OpenSettings(), Setting::ExtraFormats)); });
     if (!LoadDatabase()) {
@@ -177,6 +179,7 @@ bool frmNEBSlideShow::Form_Load(const CommandLine& Line) {
     FileSystem = TheFileSystem();
     CreateImageBuffer();
     mStage = Stage::Loaded;
+    mHome->Fill();
     TellLeftBehind();
     return true;
 }

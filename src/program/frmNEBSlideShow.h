@@ -11,6 +11,7 @@ namespace neb {
 
 class FlexGrid;
 class Form;
+class HomePage;
 class Workspace;
 class clsDBEngine;
 class clsImageBuffer;
@@ -67,6 +68,7 @@ class frmNEBSlideShow : public QMainWindow {
     bool WriteDatabase();
 
     Workspace* mWorkspace;
+    HomePage* mHome;              // behind the children
     FlexGrid* mBuffer = nullptr;  // never shown: the store of the image buffer
     std::unique_ptr<MainMenu> mMenu;
     std::unique_ptr<clsDBEngine> mEngine;

@@ -31,6 +31,9 @@ enum class Setting {
     KeepPlace,       // where a picture was taken stays in its file
     ExtraFormats,    // HEIC, AVIF, WebP, GIF and JPEG 2000 count as pictures
     PictureOrder,    // in which pictures are listed before they come in: "Name" or "Taken"
+    GalleryPictures,  // how large the pictures of an album are that is looked through, logical
+                      // pixels
+    HomeView,         // how the home shows albums and shows: "Covers" or "List"
     PictureCaptions,  // captions come from the pictures' own words
     WindowHeight,     // of a window, by its class name; so the next four
     WindowWidth,

@@ -48,19 +48,39 @@ void Broadcast(const Change& What, const QObject* Asker) {
                            qobject_cast<const QWidget*>(Asker), Row.Keys(What));
 }
 
+std::vector<StandingReceiver*>& StandingReceivers() {
+    static std::vector<StandingReceiver*> All;
+    return All;
+}
+
+void Tell(ChangeReceiver& Receiver, const QString& ObjectType, const QString& EventType,
+          const EventKeys& EventData) {
+    try {
+        Receiver.ReceiveEvent(ObjectType, EventType, EventData);
+    } catch (const std::exception&) {
+        // that one stays as it was until the next event
+    }
+}
+
 }  // namespace
+
+StandingReceiver::StandingReceiver() {
+    StandingReceivers().push_back(this);
+}
+
+StandingReceiver::~StandingReceiver() {
+    std::erase(StandingReceivers(), this);
+}
 
 void BroadcastEvent(const QString& ObjectType, const QString& EventType, const QWidget* Sender,
                     const EventKeys& EventData) {
     for (const auto& Window : LoadedForms()) {
         auto* Receiver = dynamic_cast<ChangeReceiver*>(Window.get());
         if (!Receiver || Window.get() == Sender || !Window->IsLoaded()) continue;
-        try {
-            Receiver->ReceiveEvent(ObjectType, EventType, EventData);
-        } catch (const std::exception&) {
-            // that window stays as it was until the next event
-        }
+        Tell(*Receiver, ObjectType, EventType, EventData);
     }
+    for (StandingReceiver* Receiver : std::vector(StandingReceivers()))
+        Tell(*Receiver, ObjectType, EventType, EventData);
 }
 
 void BroadcastChangesOf(clsDBEngine& theDB) {

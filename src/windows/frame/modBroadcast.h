@@ -26,9 +26,19 @@ class ChangeReceiver {
                               const EventKeys& EventData) = 0;
 };
 
+// What follows changes for as long as it lives, without being a form: the page behind the windows.
+// It hears of every change, those of its own parts as well (no window of it is the sender).
+class StandingReceiver : public ChangeReceiver {
+  public:
+    StandingReceiver();
+    ~StandingReceiver() override;
+    StandingReceiver(const StandingReceiver&) = delete;
+    StandingReceiver& operator=(const StandingReceiver&) = delete;
+};
+
 // Calls ReceiveEvent on every loaded form but the sender (nullptr: a module, reaches all), after
 // the engine has been changed. An error in a receiver is ignored and the walk goes on; a form that
-// an earlier receiver has unloaded is passed over.
+// an earlier receiver has unloaded is passed over. The standing receivers come after the forms.
 void BroadcastEvent(const QString& ObjectType, const QString& EventType, const QWidget* Sender,
                     const EventKeys& EventData);
 
