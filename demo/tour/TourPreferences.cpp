@@ -38,6 +38,7 @@ void AddPreferences(Tour& Guide, frmNEBSlideShow& Window) {
     Guide.Do(
         "apply-preferences", [] { return !Preview().IsRunning(); },
         Press<frmPreferences>("cmdApply"));
+    Guide.Do("close-preferences", IsOpen<frmPreferences>(), Press<frmPreferences>("cmdClose"));
     Guide.Do("after-preferences", IsClosed<frmPreferences>(), {});
 }
 

@@ -20,7 +20,7 @@ void EndProgram(Tour& Guide, frmNEBSlideShow& Window) {
 
 // Settings without a speed test are new ones: the program measures before anything else.
 void AddSpeedTest(Tour& Guide) {
-    Guide.Answer("speed-test-notification", "NEB Slide Show will now test your graphics speed.");
+    Guide.Answer("speed-test-notification", SpeedTestQuestion());
     Guide.Do("speed-test-begins", IsOpen<frmSpeedTest>(),
              [] { WatchProgress(In<XShow, frmSpeedTest>("Show1")); });
     // On a slow machine the test may be over before it comes to steps as small as that.

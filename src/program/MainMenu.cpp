@@ -2,19 +2,18 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
 
 #include "controls/fields/Icons.h"
 #include "controls/fields/MenuIcon.h"
-#include "db/clsDBEngine.h"
+#include "program/ActiveShow.h"
 #include "program/Workspace.h"
 #include "program/frmAbout.h"
-#include "program/frmHelp.h"
 #include "program/frmNEBSlideShow.h"
+#include "program/help/modHelp.h"
 #include "program/modMachineSettings.h"
-#include "settings/modNEBSlideShow.h"
-#include "show/ShowSettings.h"
 #include "support/Fault.h"
 #include "support/Services.h"
 #include "windows/albums/frmCheckPictures.h"
@@ -27,7 +26,6 @@
 #include "windows/import/frmNewAlbumWzd1.h"
 #include "windows/printing/frmPrintAlbum.h"
 #include "windows/printing/frmPrintSlideShow.h"
-#include "windows/rehearsal/modRehearsals.h"
 #include "windows/show/modSlideShows.h"
 #include "windows/slides/frmSlideDBM.h"
 #include "windows/slides/frmSlideMgrBulk.h"
@@ -39,41 +37,9 @@
 namespace neb {
 namespace {
 
-// Where none has been chosen the user is asked to; SlideShowID 0: he did not.
-ActiveShow ChosenActiveShow() {
-    const ActiveShow Active = ReadActiveShow(OpenSettings());
-    if (Active.SlideShowID != 0) return Active;
-    MsgBox(QStringLiteral("You must first select an Active Slide Show in Preferences!"),
-           QStringLiteral("No Active Slide Show"), BoxIcon::Information);
-    EditSlideShowPreferences();
-    return ReadActiveShow(OpenSettings());
-}
-
-void RehearseActiveShow() {
-    const ActiveShow Active = ChosenActiveShow();
-    if (Active.SlideShowID != 0) ShowRehearsal(Active.AlbumID, Active.SlideShowID);
-}
-
-void PlayActiveShow() {
-    ActiveShow Active = ChosenActiveShow();
-    if (Active.SlideShowID == 0) return;
-    QString AlbumName;
-    if (Active.AlbumID > 0 && !DBEngine->LoadAlbum(Active.AlbumID, AlbumName)) return;
-    RunSlideShow(Active.AlbumID, AlbumName, Active.SlideShowID);
-}
-
-void ShowHelp(const QString& Anchor) {
-    const auto Window = NewForm<frmHelp>();
-    Window->SetTopic(AppPath() + QStringLiteral("SlideShowHelp.hlp"), Anchor);
-    TheOpeners().ShowAsChild(*Window);
-}
-
-void ShowHelpContents() {
-    ShowHelp(QStringLiteral("contents"));
-}
-
-void ShowHelpIndex() {
-    ShowHelp(QStringLiteral("index"));
+void ShowHelpOfWindow(const frmNEBSlideShow& Main) {
+    const QMdiSubWindow* Child = Main.Area().activeSubWindow();
+    ShowHelp(HelpPageOf(Child ? Child->widget() : nullptr));
 }
 
 struct Header {
@@ -134,10 +100,10 @@ constexpr Entry Entries[] = {
     {"mnuSlideShowHdr", "mnuSlideShowMgr", "Slide Show &Manager", "Ctrl+M", "slide-show-manager",
      "Compose slide shows", [](auto&) { TheOpeners().SlideShowMgr(0, 0); }},
     {"mnuSlideShowHdr", "mnuSlideShowViewer", "&Play Slide Show", "F5", "slide-show-play",
-     "Play the active slide show", [](auto&) { PlayActiveShow(); }},
+     "Play the active slide show", [](frmNEBSlideShow& Main) { PlayActiveShow(Main); }},
     {"mnuSlideShowHdr", "mnuSlideShowRehearse", "Re&hearse...", "", "find-graphics",
      "See what comes up when in the active slide show, and what is wrong with it",
-     [](auto&) { RehearseActiveShow(); }},
+     [](frmNEBSlideShow& Main) { RehearseActiveShow(Main); }},
     {"mnuSlideShowHdr", "", "", "", "", "", nullptr},
     {"mnuSlideShowHdr", "mnuSlideShowPrefs", "P&references...", "Ctrl+R", "preferences",
      "Choose the active slide show and its effects", [](auto&) { EditSlideShowPreferences(); }},
@@ -173,10 +139,13 @@ constexpr Entry Entries[] = {
      [](frmNEBSlideShow& Main) { Main.Area().cascadeSubWindows(); }},
     {"mnuWindows", "mnuTile", "&Tile", "", "", "Lay the windows side by side",
      [](frmNEBSlideShow& Main) { Main.Area().tileSubWindows(); }},
-    {"mnuHelpHdr", "mnuHelpContents", "&Contents", "F1", "help", "What the program can do",
-     [](auto&) { ShowHelpContents(); }},
+    {"mnuHelpHdr", "mnuHelpWindow", "Help for This &Window", "F1", "help",
+     "What can be done in the window in front",
+     [](frmNEBSlideShow& Main) { ShowHelpOfWindow(Main); }},
+    {"mnuHelpHdr", "mnuHelpContents", "&Contents", "", "", "What the program can do",
+     [](auto&) { ShowHelp(QStringLiteral("contents")); }},
     {"mnuHelpHdr", "mnuHelpIndex", "&Index", "", "", "Find a subject by its name",
-     [](auto&) { ShowHelpIndex(); }},
+     [](auto&) { ShowHelp(QStringLiteral("index")); }},
     {"mnuHelpHdr", "", "", "", "", "", nullptr},
     {"mnuHelpHdr", "mnuAbout", "&About NEB Slide Show", "", "about", "The program's version",
      [](auto&) { NewForm<frmAbout>()->ShowModal(); }},

@@ -19,6 +19,7 @@
 #include "program/MainMenu.h"
 #include "program/UnstoredNotice.h"
 #include "program/Workspace.h"
+#include "program/help/modHelp.h"
 #include "program/modMachineSettings.h"
 #include "settings/SettingKeys.h"
 #include "settings/clsFileSystem.h"
@@ -143,6 +144,7 @@ frmNEBSlideShow::frmNEBSlideShow() : mWorkspace(new Workspace(this)), mHome(new 
     new UnstoredNotice(*statusBar());
     SetUpMenu();
     FillOpeners();
+    new HelpKey(this);
     connect(mWorkspace, &Workspace::FolderDropped, this, &frmNEBSlideShow::OpenFolder);
     connect(mHome, &HomePage::QuickShowWanted, this, [this] { OpenQuickShow(); });
     resize(screen()->availableSize() * 0.85);

@@ -13,7 +13,7 @@
 #include "controls/forms/frmMsgBoxEx.h"
 #include "harness/TempFolder.h"
 #include "program/frmAbout.h"
-#include "program/frmHelp.h"
+#include "program/help/frmHelp.h"
 #include "settings/modNEBSlideShow.h"
 #include "windows/albums/frmAlbumDelete.h"
 #include "windows/albums/frmAlbumRename.h"

@@ -14,7 +14,8 @@
 
 #include "MainWindowRig.h"
 #include "controls/fields/Icons.h"
-#include "program/frmHelp.h"
+#include "program/help/frmHelp.h"
+#include "program/help/modHelp.h"
 #include "support/Fault.h"
 #include "windows/albums/frmCheckPictures.h"
 #include "windows/frame/modNotice.h"
@@ -85,6 +86,76 @@ TEST_F(TheMenu, HelpOpensAtItsContentsAndAtItsIndex) {
     Press("mnuHelpIndex");
     EXPECT_TRUE(QTest::qWaitFor([this] { return TopOfHelp() == "By name"; }, 2000))
         << TopOfHelp().toStdString();
+}
+
+TEST_F(TheMenu, HelpIsOneWindowThatGoesToThePageAskedFor) {
+    Start();
+    WriteHelp();
+    Press("mnuHelpContents");
+    Press("mnuHelpIndex");
+    EXPECT_EQ(1, Area().subWindowList().size());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return TopOfHelp() == "By name"; }, 2000))
+        << TopOfHelp().toStdString();
+    const auto Held = Find<frmHelp>()->shared_from_this();
+    QTest::keyClick(Find<frmHelp>()->findChild<QTextBrowser*>("txtHelp"), Qt::Key_Escape);
+    EXPECT_FALSE(Find<frmHelp>());
+}
+
+TEST_F(TheMenu, TheHelpKeyOpensThePageOfTheWindowInFront) {
+    Start();
+    const QString Much = QStringLiteral("<p>and so on</p>").repeated(200);
+    WriteFile(AppPath() + "SlideShowHelp.hlp", (Much + "<h1><a name=home>The beginning</a></h1>" +
+                                                Much + "<h1><a name=compose>Shows</a></h1>" + Much)
+                                                   .toUtf8());
+    EXPECT_EQ(QKeySequence("F1"), Entry("mnuHelpWindow")->shortcut());
+    Press("mnuHelpWindow");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return TopOfHelp() == "The beginning"; }, 2000))
+        << TopOfHelp().toStdString();
+    Press("mnuSlideShowMgr");
+    Press("mnuHelpWindow");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return TopOfHelp() == "Shows"; }, 2000))
+        << TopOfHelp().toStdString();
+    EXPECT_EQ(Find<frmHelp>(), Area().activeSubWindow()->widget()) << "it comes to the front";
+}
+
+TEST_F(TheMenu, TheHelpKeyWorksInAModalWindowToo) {
+    Start();
+    const QString Much = QStringLiteral("<p>and so on</p>").repeated(200);
+    WriteFile(AppPath() + "SlideShowHelp.hlp",
+              (Much + "<h1><a name=prefs>Choices</a></h1>" + Much).toUtf8());
+    int Seen = 0;
+    WhenPreferencesOpen([&](frmPreferences& Window) {
+        WhenOpen<frmHelp>([&](frmHelp& Help) {
+            ++Seen;
+            EXPECT_TRUE(Help.isModal());
+            EXPECT_TRUE(QTest::qWaitFor([this] { return TopOfHelp() == "Choices"; }, 2000));
+        });
+        QTest::keyClick(Window.findChild<QWidget*>("txtSlideTimeout"), Qt::Key_F1);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return Seen == 1 && !Find<frmHelp>(); }, 2000));
+        EXPECT_TRUE(Window.isVisible());
+    });
+    Press("mnuSlideShowPrefs");
+    EXPECT_EQ(1, Seen);
+}
+
+// The table of the windows in the documents says for each which page tells of it.
+TEST_F(TheMenu, EveryWindowOpensThePageThatTheDocumentsNameAndTheHelpHas) {
+    const QByteArray Help = ReadFile(NEB_SOURCE_DIR "/assets/help/SlideShowHelp.hlp");
+    const QString Text = QString::fromUtf8(ReadFile(NEB_SOURCE_DIR "/docs/ARCHITECTURE.md"));
+    const QStringList Others = {"frmNEBSlideShow", "frmSlideShowProjector", "frmPopup",
+                                "frmSpeedTest", "frmTransferProgress"};
+    int Windows = 0;
+    for (const QString& Line : Text.split('\n')) {
+        const QStringList Cells = Line.split('|');
+        if (Cells.size() < 5 || !Cells[2].contains("`frm")) continue;
+        const QString Class = Cells[2].trimmed().remove('`'), Page = Cells[4].trimmed();
+        ++Windows;
+        const QString Opens = Others.contains(Class) ? Page : HelpPageOf(Class);
+        EXPECT_EQ(Page.toStdString(), Opens.toStdString()) << Class.toStdString();
+        EXPECT_TRUE(Page.isEmpty() || Help.contains("name=\"" + Page.toUtf8() + '"'))
+            << Page.toStdString();
+    }
+    EXPECT_GT(Windows, 40);
 }
 
 TEST_F(TheMenu, AllPicturesAreCheckedFromTheFileMenu) {

@@ -518,15 +518,39 @@ TEST_F(MainWindow, AFolderThatCannotBeWrittenIsSaidAtTheStart) {
     TheServices().Boxes = &mBoxes;
 }
 
-TEST_F(MainWindow, PlayingWithoutAnActiveShowSaysSo) {
+TEST_F(MainWindow, PlayingWithoutAnActiveShowOffersToChooseOne) {
     Start();
-    mBoxes.Expect("You must first select an Active Slide Show in Preferences!",
-                  "No Active Slide Show", BoxIcon::Information, BoxAnswer::Ok);
-    int Opened = 0;
-    WhenPreferencesOpen([&](frmPreferences&) { ++Opened; });
+    SaveAlbum("Holiday");
+    const std::int32_t AlbumID = DBEngine->Albums.front()->AlbumID;
+    ASSERT_TRUE(Changes(*DBEngine).SaveShow(AlbumID, {}));
+    for (const BoxAnswer Given : {BoxAnswer::Yes, BoxAnswer::No}) {
+        mBoxes.Expect("You must first select an Active Slide Show in Preferences!",
+                      "No Active Slide Show", BoxIcon::Information, Given);
+        int Opened = 0;
+        if (Given == BoxAnswer::Yes) WhenPreferencesOpen([&](frmPreferences&) { ++Opened; });
+        Press("mnuSlideShowViewer");
+        EXPECT_EQ(Opened, Given == BoxAnswer::Yes ? 1 : 0);
+        EXPECT_FALSE(Find<frmSlideShowProjector>());
+    }
+}
+
+TEST_F(MainWindow, PlayingWhereThereIsNoShowOffersToMakeTheFirst) {
+    Start();
+    mBoxes.Expect("There is no slide show yet. Quick Show turns a folder of pictures into one.",
+                  "No Active Slide Show", BoxIcon::Information, BoxAnswer::Yes);
     Press("mnuSlideShowViewer");
-    EXPECT_EQ(Opened, 1);
-    EXPECT_FALSE(Find<frmSlideShowProjector>());
+    ASSERT_TRUE(Find<frmQuickShow>());
+    Find<frmQuickShow>()->Unload();
+    SaveAlbum("Holiday");
+    const QString Composed =
+        "There is no slide show yet. The Slide Show Manager composes one from the slides of an "
+        "album.";
+    mBoxes.Expect(Composed, BoxAnswer::No);
+    Press("mnuSlideShowRehearse");
+    EXPECT_TRUE(LoadedForms().empty());
+    mBoxes.Expect(Composed, BoxAnswer::Yes);
+    Press("mnuSlideShowViewer");
+    EXPECT_TRUE(Find<frmSlideShowDBM>());
 }
 
 TEST_F(MainWindow, PlayingGoesOnWithTheShowThatIsThenChosenInPreferences) {
@@ -535,7 +559,7 @@ TEST_F(MainWindow, PlayingGoesOnWithTheShowThatIsThenChosenInPreferences) {
     ASSERT_TRUE(DBEngine->SaveAlbum(AlbumID, "Holiday"));
     DBEngine->GetAlbum(AlbumID)->SaveSlideShow(ShowID, "Lake", 0, *DBEngine);
     mBoxes.Expect("You must first select an Active Slide Show in Preferences!",
-                  "No Active Slide Show", BoxIcon::Information, BoxAnswer::Ok);
+                  "No Active Slide Show", BoxIcon::Information, BoxAnswer::Yes);
     WhenPreferencesOpen([&](frmPreferences& Window) {
         Window.findChild<QComboBox*>("cboAlbums")->setCurrentText("Holiday");
         Window.findChild<QComboBox*>("cboSlideShows")->setCurrentText("Lake");

@@ -12,6 +12,7 @@
 #include "settings/SettingKeys.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/files/modHostFiles.h"
+#include "windows/show/frmSpeedTest.h"
 #include "windows/frame/Openers.h"
 
 namespace neb {
@@ -215,8 +216,8 @@ TEST_F(MachineSettings, TheWindowMeasuresAndItsResultsAreStored) {
     for (const char* Name : {"SpeedTest1.bmp", "SpeedTest2.bmp"}) WriteFile(Program / Name, "x");
     XShow::SetReader([](const QString&) { return QImage(8, 6, QImage::Format_RGB32); });
     Boxes.WhileNextIsOpen([] { LoadedForms().front()->resize(60, 40); });
-    Boxes.Expect("NEB Slide Show will now test your graphics speed.", "Speed Test Notification",
-                 BoxIcon::Information, BoxAnswer::Ok);
+    Boxes.Expect(SpeedTestQuestion(), "Speed Test Notification", BoxIcon::Information,
+                 BoxAnswer::Yes);
     EnsureMachineSettings();
     XShow::SetReader({});
     AppPathCache.clear();

@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QSpacerItem>
+#include <algorithm>
 
 #include "controls/forms/ScreenPointer.h"
 #include "controls/forms/StandOver.h"
@@ -45,6 +46,14 @@ QString ToolkitFilters(const QString& Filters) {
         Out << Name + QStringLiteral(" (") + Masks.join(u' ') + u')';
     }
     return Out.join(QStringLiteral(";;"));
+}
+
+// Who looks for a file is to see it, whatever its kind: of filters in the toolkit's form the one
+// that shows most.
+QString WidestOf(const QString& Offered) {
+    const QStringList Filters = Offered.split(QStringLiteral(";;"));
+    return *std::ranges::max_element(
+        Filters, {}, [](const QString& Each) { return Each.count(QStringLiteral("*")); });
 }
 
 // Of a toolkit's filter for one kind of file, such as ".pdf"; empty for any other.
@@ -140,7 +149,9 @@ BoxAnswer DesktopBoxes::Show(const BoxRequest& Request) {
 
 QString DesktopFileDialogs::OpenFile(const QString& Title, const QString& StartDir,
                                      const QString& Filters) {
-    return QFileDialog::getOpenFileName(WindowInUse(), Title, StartDir, ToolkitFilters(Filters));
+    const QString Offered = ToolkitFilters(Filters);
+    QString Chosen = WidestOf(Offered);
+    return QFileDialog::getOpenFileName(WindowInUse(), Title, StartDir, Offered, &Chosen);
 }
 
 QString DesktopFileDialogs::SaveFile(const QString& Title, const QString& StartPath,

@@ -354,11 +354,13 @@ void frmPreferences::Refuse(const EntryProblem& Problem) {
 }
 
 void frmPreferences::cmdApply_Click() {
+    mUi->lblApplied->clear();
     const PreferencesEntries Entries = ReadControls();
     if (const auto Problem = CheckEntries(Entries)) return Refuse(*Problem);
     TakeEntries(mState, Entries);
     SavePreferences();
-    Unload();
+    mUi->lblApplied->setText(tr("These settings are kept."));
+    mUi->cmdClose->setFocus();  // who has come for one thing is done by Enter once more
 }
 
 void frmPreferences::SavePreferences() {

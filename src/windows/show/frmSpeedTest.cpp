@@ -4,6 +4,7 @@
 #include <QTimer>
 
 #include "controls/forms/ScreenPointer.h"
+#include "controls/forms/Tell.h"
 #include "controls/picture/XShow.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
@@ -27,7 +28,28 @@ float Now() {
     return static_cast<float>(TheServices().Time->Timer());
 }
 
+bool AskForTest() {
+    return ShowBox({.Text = SpeedTestQuestion(),
+                    .Title = QStringLiteral("Speed Test Notification"),
+                    .Icon = BoxIcon::Information,
+                    .Buttons = BoxButtons::YesNo,
+                    .Default = BoxAnswer::Yes,
+                    .YesWords = QObject::tr("&Test Now"),
+                    .NoWords = QObject::tr("&Skip")}) == BoxAnswer::Yes;
+}
+
 }  // namespace
+
+// Most people start the program for the first time to see their pictures: they learn what is going
+// to happen on their screen, and that nothing is lost without it.
+QString SpeedTestQuestion() {
+    return QStringLiteral("NEB Slide Show will now test your graphics speed.\n\n") +
+           QObject::tr(
+               "It runs some transitions on the full screen to find out which of them this "
+               "computer shows smoothly. That takes a minute or two; Esc ends it at any "
+               "time.\n\nWithout it, slide shows go by settings that suit most computers. You can "
+               "run it later: Slide Show, Test Graphics Speed.");
+}
 
 frmSpeedTest::frmSpeedTest() : mUi(std::make_unique<Ui::frmSpeedTest>()), Timer1(new QTimer(this)) {
     mUi->setupUi(this);
@@ -49,9 +71,13 @@ void frmSpeedTest::Form_Load() {
 
 void frmSpeedTest::Form_Activate() {
     if (std::exchange(mStarted, true)) return;
-    MsgBox(QStringLiteral("NEB Slide Show will now test your graphics speed."),
-           QStringLiteral("Speed Test Notification"), BoxIcon::Information);
-    if (IsLoaded()) StartLevel();
+    const bool Wanted = AskForTest();
+    if (!IsLoaded()) return;
+    if (!Wanted) {
+        Unload();
+        return;
+    }
+    StartLevel();
 }
 
 bool frmSpeedTest::Form_Unload() {

@@ -12,6 +12,9 @@ namespace Ui {
 class frmSpeedTest;
 }
 
+// What the user is asked before anything runs; a test that is skipped has measured nothing.
+QString SpeedTestQuestion();
+
 class frmSpeedTest : public Form {
     Q_OBJECT
 

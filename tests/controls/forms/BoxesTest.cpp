@@ -214,6 +214,14 @@ TEST_F(Boxes, FileDialogsOfferTheFiltersInOrder) {
     EXPECT_TRUE(DesktopFileDialogs().OpenFile(QStringLiteral("Choose"), {}, Filters).isEmpty());
 }
 
+TEST_F(Boxes, AFileDialogOpensOnTheFilterThatShowsMost) {
+    const QString Filters = QStringLiteral("BMP|*.bmp|JPEG|*.jpg;*.jpeg|All|*.bmp;*.jpg;*.jpeg");
+    WhenOpen<QFileDialog>([](QFileDialog& Dialog) {
+        EXPECT_EQ(QStringLiteral("All (*.bmp *.jpg *.jpeg)"), Dialog.selectedNameFilter());
+    });
+    EXPECT_TRUE(DesktopFileDialogs().OpenFile(QStringLiteral("Choose"), {}, Filters).isEmpty());
+}
+
 TEST_F(Boxes, TheFilterForAllFilesTakesNamesWithoutADotToo) {
     WhenOpen<QFileDialog>([](QFileDialog& Dialog) {
         EXPECT_EQ(QStringList(QStringLiteral("All Files (*)")), Dialog.nameFilters());

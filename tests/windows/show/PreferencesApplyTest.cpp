@@ -1,5 +1,6 @@
 // Apply in the Preferences window: what it takes over and writes, what it refuses.
 #include <QCheckBox>
+#include <QLabel>
 
 #include "PreferencesRig.h"
 #include "show/ShowSettings.h"
@@ -26,7 +27,8 @@ TEST_F(PreferencesApply, KeepsAllThatWasEntered) {
         const char* Cells[] = {"1", "0", "100", "1000", "33", "5"};
         for (int I = 0; I < 6; ++I) TypeInCell(I / 2, ColStep + I % 2, Cells[I]);
         Press("cmdApply");
-        EXPECT_FALSE(IsOpen());
+        EXPECT_TRUE(IsOpen());
+        EXPECT_EQ("These settings are kept.", In<QLabel>("lblApplied").text());
     });
     const PreferencesState Now = ReadPreferences(OpenSettings());
     EXPECT_EQ(Window->AlbumID(), Now.AlbumID);
@@ -96,16 +98,31 @@ TEST_F(PreferencesApply, IsWhatEnterDoes) {
             EXPECT_TRUE(In<QPushButton>("cmdApply").isDefault());
             In<QWidget>(Place).setFocus();
             QTest::keyClick(&In<QWidget>(Place), Qt::Key_Return);
-            EXPECT_FALSE(IsOpen()) << Place;
+            EXPECT_TRUE(IsOpen()) << Place;
+            EXPECT_EQ("20", Setting("Timeout")) << Place;
+            QTest::keyClick(Window.get(), Qt::Key_Return);
+            EXPECT_FALSE(IsOpen()) << "Enter once more closes";
+            Put("Timeout", "");
         });
-    EXPECT_EQ("20", Setting("Timeout"));
+}
+
+TEST_F(PreferencesApply, MayBePressedAgainForWhatIsChangedThen) {
+    Open([&] {
+        ApplyTimeout(*Window, "8");
+        ExpectRefusal("The Slide Timeout must be >= 4 seconds.");
+        ApplyTimeout(*Window, "1");
+        EXPECT_EQ("", In<QLabel>("lblApplied").text()) << "nothing of this was kept";
+        EXPECT_EQ("8", Setting("Timeout"));
+        ApplyTimeout(*Window, "9");
+        EXPECT_EQ(9, Window->SlideTimeout());
+    });
+    EXPECT_EQ("9", Setting("Timeout"));
 }
 
 TEST_F(PreferencesApply, TakesACellThatIsStillBeingTyped) {
     Open([&] {
         TypeInCell(2, ColDelay, "321", false);
         Press("cmdApply");
-        EXPECT_FALSE(IsOpen());
     });
     EXPECT_EQ("321", Setting("DelayH"));
 }
@@ -124,7 +141,6 @@ TEST_F(PreferencesApply, RefusesATimeoutBelowFourSeconds) {
         EXPECT_EQ(20, Window->SlideTimeout());
         EXPECT_EQ(".", Text("txtSlideTimeout").selectedText()) << "ready to be typed over";
         ApplyTimeout(*Window, "4");
-        EXPECT_FALSE(IsOpen());
     });
     EXPECT_EQ("4", Setting("Timeout"));
     EXPECT_EQ(4, Window->SlideTimeout());

@@ -60,8 +60,8 @@ class SpeedTestWindow : public ::testing::Test {
             mWindow->resize(80, 60);  // the rest is quicker so
             if (Meanwhile) Meanwhile();
         });
-        mBoxes.Expect("NEB Slide Show will now test your graphics speed.",
-                      "Speed Test Notification", BoxIcon::Information, BoxAnswer::Ok);
+        mBoxes.Expect(SpeedTestQuestion(), "Speed Test Notification", BoxIcon::Information,
+                      BoxAnswer::Yes);
     }
     void ExpectMissing() {
         mBoxes.Expect("Missing Component, Speed Test aborted.", {}, BoxIcon::Plain, BoxAnswer::Ok);
@@ -153,7 +153,7 @@ TEST_F(SpeedTestWindow, FillsTheScreenAsAShowDoesAndSaysHowToLeave) {
         EXPECT_TRUE(mWindow->findChild<QLabel*>("lblHint")->isVisible());
         mWindow->Unload();
     });
-    mBoxes.Expect("NEB Slide Show will now test your graphics speed.");
+    mBoxes.Expect(SpeedTestQuestion(), BoxAnswer::Yes);
     mWindow = NewForm<frmSpeedTest>();
     mWindow->ShowModal();
 }
@@ -174,6 +174,17 @@ TEST_F(SpeedTestWindow, TheTimeOfTheTooSlowBoxIsNoPartOfTheNextLevel) {
     ExpectTooSlow([this] { mClock.Seconds += 600; });
     Run([](int Effect, int) { return Effect > 100 ? 5.0 : 0.01; });
     EXPECT_EQ(mWindow->Result().StepM, 1);
+}
+
+TEST_F(SpeedTestWindow, SaysWhatItIsAndMayBeSkipped) {
+    mBoxes.Expect(SpeedTestQuestion(), BoxAnswer::No);
+    Run();
+    EXPECT_TRUE(mBoxes.Last().Text.startsWith("NEB Slide Show will now test your graphics speed."));
+    EXPECT_EQ("&Skip", mBoxes.Last().NoWords);
+    EXPECT_EQ(BoxAnswer::Yes, mBoxes.Last().Default);
+    EXPECT_TRUE(mEffects.empty());
+    EXPECT_FALSE(mWindow->Result().IsWhole);
+    EXPECT_EQ(mWindow->Result().StepH, 0);
 }
 
 TEST_F(SpeedTestWindow, AMissingPictureEndsTheTestBeforeItBegins) {

@@ -1,5 +1,6 @@
-#include "program/frmHelp.h"
+#include "program/help/frmHelp.h"
 
+#include <QKeyEvent>
 #include <QTextBrowser>
 #include <QVBoxLayout>
 
@@ -17,6 +18,13 @@ frmHelp::frmHelp() : mText(new QTextBrowser(this)) {
     mText->setObjectName(QStringLiteral("txtHelp"));
     mText->setAccessibleName(tr("Help"));
     mText->setOpenLinks(true);
+}
+
+void frmHelp::keyPressEvent(QKeyEvent* Event) {
+    if (Event->key() == Qt::Key_Escape)
+        Unload();
+    else
+        Form::keyPressEvent(Event);
 }
 
 void frmHelp::SetTopic(const QString& HelpFile, const QString& Anchor) {

@@ -18,6 +18,9 @@ class frmHelp : public Form {
     // Reads the help file and goes to a place in it. Throws Fault when there is no such file.
     void SetTopic(const QString& HelpFile, const QString& Anchor);
 
+  protected:
+    void keyPressEvent(QKeyEvent* Event) override;  // Esc closes it, a child of the main window too
+
   private:
     QTextBrowser* mText;
 };

@@ -1,0 +1,12 @@
+// The active slide show, as the menu plays and rehearses it.
+#pragma once
+
+namespace neb {
+
+class frmNEBSlideShow;
+
+// Where none has been chosen, the user is asked to choose one in preferences, or to make the first.
+void PlayActiveShow(frmNEBSlideShow& Main);
+void RehearseActiveShow(frmNEBSlideShow& Main);
+
+}  // namespace neb
