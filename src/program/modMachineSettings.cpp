@@ -111,8 +111,7 @@ void EnsureMachineSettings(const std::function<SpeedTestResult()>& Test) {
     StoreMachineSettings(Settings, Result);
     if (!Result.IsWhole)
         ShowNotice(QObject::tr(
-            "The graphics speed was not measured in full: slide shows go by "
-            "settings that suit most computers. Slide Show, Test Graphics Speed measures it."));
+            "Graphics speed not measured: shows go by settings that suit most computers."));
 }
 
 void TestGraphicsSpeed(const std::function<SpeedTestResult()>& Test) {
