@@ -55,7 +55,7 @@ TEST_F(MachineSettings, AMachineThatWasNotMeasuredShowsTransitionsAtSensibleSpee
     for (const char* Key : {"AvgTimeH", "AvgTimeM", "AvgTimeL"})
         EXPECT_EQ(Value(Key), "N/A") << Key;
     EXPECT_EQ(Value("MaxEffectLevel"), "2");
-    EXPECT_TRUE(mNotice.startsWith("The graphics speed was not measured")) << qPrintable(mNotice);
+    EXPECT_TRUE(mNotice.startsWith("Graphics speed not measured")) << qPrintable(mNotice);
     EXPECT_TRUE(mNotice.contains("Slide Show, Test Graphics Speed"));
 }
 

@@ -54,6 +54,18 @@ def is_seen(node):
     return states.contains(pyatspi.STATE_SHOWING) and states.contains(pyatspi.STATE_VISIBLE)
 
 
+def resting(node):
+    """Where it is, once it stays there: windows move as they open."""
+    last = None
+    while True:
+        box = node.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
+        now = (box.x, box.y, box.width, box.height)
+        if now == last:
+            return box
+        last = now
+        time.sleep(0.25)
+
+
 class Program:
     """One running program, its windows and what is in them."""
 
@@ -104,7 +116,7 @@ class Program:
         await_(f'"{name}" to go', lambda: not self.is_there(name, role))
 
     def click(self, node, button=1, times=1):
-        box = node.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
+        box = resting(node)
         x, y = (box.x + box.width / 2) * SCALE, (box.y + box.height / 2) * SCALE
         run("xdotool", "mousemove", str(round(x)), str(round(y)))
         run("xdotool", "click", "--repeat", str(times), "--delay", "60", str(button))
