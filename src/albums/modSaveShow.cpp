@@ -78,20 +78,6 @@ Answer<> CheckTracks(const ShowContent& Content) {
     return Done();
 }
 
-Answer<> CheckNames(const ShowContent& Content, const clsNEBAlbum& Album) {
-    if (Album.SlideShows.empty()) return Done();
-    for (const auto& Show : Album.SlideShows)
-        if (Show->SlideShowID != Content.SlideShowID &&
-            Show->SlideShowName.toUpper() == Content.Name.toUpper())
-            return Refuse(
-                QStringLiteral("A Slide Show with this name already exists in this Album."),
-                QStringLiteral("Slide Show Name Already In Use"));
-    if (Content.SlideShowID != 0 && !Album.GetSlideShow(Content.SlideShowID))
-        return Refuse(QStringLiteral("The Slide Show you are editing no longer appears to exist."),
-                      Deleted);
-    return Done();
-}
-
 // A caption that the user has emptied is one blank: none at all would stand for the slide's own.
 QString StoredCaption(const ShowSlide& Slide) {
     const QString Text = CleanText(Slide.SlideText);
@@ -182,6 +168,36 @@ Answer<> CheckTrackOptions(const ShowTrack& Track, std::int32_t ProgressionMetho
     return Done();
 }
 
+Answer<> CheckShowName(const clsNEBAlbum& Album, std::int32_t SlideShowID, const QString& Name) {
+    for (const auto& Show : Album.SlideShows)
+        if (Show->SlideShowID != SlideShowID && Show->SlideShowName.toUpper() == Name.toUpper())
+            return Refuse(
+                QStringLiteral("A Slide Show with this name already exists in this Album."),
+                QStringLiteral("Slide Show Name Already In Use"));
+    if (!Album.SlideShows.empty() && SlideShowID != 0 && !Album.GetSlideShow(SlideShowID))
+        return Refuse(QStringLiteral("The Slide Show you are editing no longer appears to exist."),
+                      Deleted);
+    return Done();
+}
+
+Answer<Announcement> RenameShow(clsDBEngine& theDB, std::int32_t AlbumID, std::int32_t SlideShowID,
+                                const QString& Name, const QObject* Asker) {
+    const QString Clean = CleanName(Name);
+    if (Clean.trimmed().isEmpty())
+        return Refuse(QStringLiteral("You have to enter a name for the slide show."));
+    const clsNEBAlbum* Album = theDB.GetAlbum(AlbumID);
+    if (!Album) return Refuse(QStringLiteral("The current Album could not be found."), Deleted);
+    if (const Answer<> May = CheckShowName(*Album, SlideShowID, Clean); !May)
+        return Answer<Announcement>::Because(May);
+    const clsNEBSlideShow* Stored = Album->GetSlideShow(SlideShowID);
+    if (!Stored)
+        return Refuse(QStringLiteral("The Slide Show you are editing no longer appears to exist."),
+                      Deleted);
+    auto Show = Stored->Copy();
+    Show->SlideShowName = Clean;
+    return Changes(theDB, Asker).SaveShow(AlbumID, std::move(*Show));
+}
+
 Answer<> CheckShow(ShowContent& Content, const clsDBEngine& theDB) {
     if (Content.AlbumID == 0)
         return Refuse(QStringLiteral("You must first select an album to save the slide show in."));
@@ -193,7 +209,7 @@ Answer<> CheckShow(ShowContent& Content, const clsDBEngine& theDB) {
     if (const Answer<> Are = CheckTracks(Content); !Are) return Are;
     const clsNEBAlbum* Album = theDB.GetAlbum(Content.AlbumID);
     if (!Album) return Refuse(QStringLiteral("The current Album could not be found."), Deleted);
-    return CheckNames(Content, *Album);
+    return CheckShowName(*Album, Content.SlideShowID, Content.Name);
 }
 
 // While files are copied others may be at work: a show that is made meanwhile takes the number for

@@ -17,6 +17,13 @@ Answer<> CheckTrackOptions(const ShowTrack& Track, std::int32_t ProgressionMetho
 // where a later rule refuses. Changes nothing else.
 Answer<> CheckShow(ShowContent& Content, const clsDBEngine& theDB);
 
+// Whether a show of the album (0: a new one) may bear this name, among those that are there.
+Answer<> CheckShowName(const clsNEBAlbum& Album, std::int32_t SlideShowID, const QString& Name);
+// Gives a stored show another name, and its slides and tracks stay as they are. Asker is the window
+// that knows of it already.
+Answer<Announcement> RenameShow(clsDBEngine& theDB, std::int32_t AlbumID, std::int32_t SlideShowID,
+                                const QString& Name, const QObject* Asker = nullptr);
+
 // Replaces the stored show by the content, or makes a new one. New sound files are copied into the
 // album and their rows take the names they have there, and so are copies of files that another show
 // plays as well; files that nobody plays any more are deleted at last. LetRun is called all the

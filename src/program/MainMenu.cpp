@@ -23,6 +23,7 @@
 #include "windows/disc/modDiscCheck.h"
 #include "windows/frame/Openers.h"
 #include "windows/frame/modNotice.h"
+#include "windows/home/HomePage.h"
 #include "windows/import/frmNewAlbumWzd1.h"
 #include "windows/printing/frmPrintAlbum.h"
 #include "windows/printing/frmPrintSlideShow.h"
@@ -76,7 +77,10 @@ constexpr Entry Entries[] = {
     {"mnuFileHdr", "", "", "", "", "", nullptr},
     {"mnuFileHdr", "mnuRestore", "Restore &Earlier Albums...", "", "",
      "Go back to all albums and slide shows as they were saved before",
-     [](auto&) { NewForm<frmRestore>()->ShowModal(); }},
+     [](frmNEBSlideShow& Main) {
+         NewForm<frmRestore>()->ShowModal();
+         Main.Home().Fill();  // nobody tells of single albums then
+     }},
     {"mnuFileHdr", "mnuCheckPictures", "&Check All Pictures...", "", "find-graphics",
      "Read all pictures and sounds and name those that have changed or are missing",
      [](auto&) { NewForm<frmCheckPictures>()->ShowModal(); }},
@@ -135,6 +139,10 @@ constexpr Entry Entries[] = {
     {"mnuPrintHdr", "mnuSlideShowPrint", "Print &Slide Show...", "", "print",
      "Print the pages of a slide show",
      [](auto&) { NewForm<frmPrintSlideShow>()->PrintSlideShow(0, 0); }},
+    // Alt+Home: where people who browse have their home page, and no list or field takes it
+    {"mnuWindows", "mnuHome", "&Home", "Alt+Home", "album",
+     "Go to the albums and slide shows; once more: back to the windows",
+     [](frmNEBSlideShow& Main) { Main.ShowHome(); }},
     {"mnuWindows", "mnuCascade", "&Cascade", "", "", "Lay the windows one over the other",
      [](frmNEBSlideShow& Main) { Main.Area().cascadeSubWindows(); }},
     {"mnuWindows", "mnuTile", "&Tile", "", "", "Lay the windows side by side",

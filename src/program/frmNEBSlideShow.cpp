@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QDateTime>
 #include <QLocale>
+#include <QMdiSubWindow>
 #include <QScreen>
 #include <QStatusBar>
 #include <algorithm>
@@ -17,6 +18,7 @@
 #include "db/records/RecordSums.h"
 #include "db/recovery/modRestore.h"
 #include "program/MainMenu.h"
+#include "program/StepAside.h"
 #include "program/UnstoredNotice.h"
 #include "program/Workspace.h"
 #include "program/help/modHelp.h"
@@ -135,7 +137,10 @@ bool AskEndUnsaved(const QString& Problem, bool AreKept) {
 
 }  // namespace
 
-frmNEBSlideShow::frmNEBSlideShow() : mWorkspace(new Workspace(this)), mHome(new HomePage) {
+frmNEBSlideShow::frmNEBSlideShow()
+    : mWorkspace(new Workspace(this)),
+      mHome(new HomePage),
+      mAside(std::make_unique<StepAside>(*mWorkspace)) {
     setObjectName(QStringLiteral("frmNEBSlideShow"));
     setWindowTitle(QApplication::applicationDisplayName());
     setCentralWidget(mWorkspace);
@@ -147,6 +152,8 @@ frmNEBSlideShow::frmNEBSlideShow() : mWorkspace(new Workspace(this)), mHome(new 
     new HelpKey(this);
     connect(mWorkspace, &Workspace::FolderDropped, this, &frmNEBSlideShow::OpenFolder);
     connect(mHome, &HomePage::QuickShowWanted, this, [this] { OpenQuickShow(); });
+    connect(mWorkspace, &QMdiArea::subWindowActivated, this, &frmNEBSlideShow::LastChildLeft,
+            Qt::QueuedConnection);
     resize(screen()->availableSize() * 0.85);
 }
 

@@ -12,6 +12,7 @@ namespace neb {
 class FlexGrid;
 class Form;
 class HomePage;
+class StepAside;
 class Workspace;
 class clsDBEngine;
 class clsImageBuffer;
@@ -49,6 +50,10 @@ class frmNEBSlideShow : public QMainWindow {
 
     FlexGrid* flxBuffer() const { return mBuffer; }
     Workspace& Area() const { return *mWorkspace; }  // where the children stand
+    HomePage& Home() const { return *mHome; }        // behind them
+    // Brings the home before the user; when it is there already the windows that stepped aside for
+    // it come back.
+    void ShowHome();
 
   protected:
     void closeEvent(QCloseEvent* Event) override;
@@ -58,6 +63,7 @@ class frmNEBSlideShow : public QMainWindow {
     void FillOpeners();
     void ListWindows();
     void ShowAsChild(Form& Child);
+    void LastChildLeft();
 
     bool LoadDatabase();
     void ReadRecords(const DatabaseHealth& Health);
@@ -68,7 +74,8 @@ class frmNEBSlideShow : public QMainWindow {
     bool WriteDatabase();
 
     Workspace* mWorkspace;
-    HomePage* mHome;              // behind the children
+    HomePage* mHome;  // behind the children
+    std::unique_ptr<StepAside> mAside;
     FlexGrid* mBuffer = nullptr;  // never shown: the store of the image buffer
     std::unique_ptr<MainMenu> mMenu;
     std::unique_ptr<clsDBEngine> mEngine;

@@ -9,6 +9,7 @@
 #include "controls/forms/Form.h"
 #include "program/MainMenu.h"
 #include "program/OtherInstance.h"
+#include "program/StepAside.h"
 #include "program/Workspace.h"
 #include "program/frmNEBSlideShow.h"
 #include "settings/modNEBSlideShow.h"
@@ -19,6 +20,7 @@
 #include "windows/frame/Openers.h"
 #include "windows/frame/modNotice.h"
 #include "windows/frame/modWindowState.h"
+#include "windows/home/HomePage.h"
 #include "windows/import/frmQuickShow.h"
 
 namespace neb {
@@ -57,6 +59,21 @@ void frmNEBSlideShow::ShowAsChild(Form& Child) {
     Frame->resize(Frame->size().expandedTo(Frame->minimumSizeHint()));
     PositionMDIChild(Child, 1);
     Child.ShowModeless();
+}
+
+void frmNEBSlideShow::ShowHome() {
+    const QWidget* Focus = focusWidget();
+    const bool IsThere = Focus && mHome->isAncestorOf(Focus);
+    if (IsThere && mAside->ComeBack()) return;
+    mAside->Step();
+    mHome->TakeFocus();
+}
+
+// The keys do something in the home again.
+void frmNEBSlideShow::LastChildLeft() {
+    const QWidget* Focus = focusWidget();
+    const bool IsThere = Focus && mHome->isAncestorOf(Focus);
+    if (!IsThere && mStage == Stage::Loaded && !mAside->IsAnyUp()) mHome->TakeFocus();
 }
 
 void frmNEBSlideShow::OpenQuickShow(const QString& Folder) {

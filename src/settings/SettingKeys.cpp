@@ -53,7 +53,6 @@ constexpr SettingRow Table[] = {
     {S::PictureOrder,    "Pictures",          "Order",           "",            T::Text,    {"Name"},          {"Name"},         Any, Any,       nullptr, "the import windows"},
     {S::PictureCaptions, "Pictures",          "Captions",        "",            T::Flag,    {"True"},          {"True"},         Any, Any,       nullptr, "the import windows"},
     {S::GalleryPictures, "Home",              "Pictures",        "",            T::Number,  {"160", "160"},    {"160"},          72, 512,       nullptr, "an album that is looked through"},
-    {S::HomeView,        "Home",              "View",            "",            T::Text,    {"Covers"},        {"Covers"},       Any, Any,       nullptr, "the home"},
     {S::WindowHeight,    "*",                 "Height",          Windows,       T::Twips,   None,              None,             Any, Any,       nullptr, "RestoreWindow"},
     {S::WindowWidth,     "*",                 "Width",           Wide,          T::Twips,   None,              None,             Any, Any,       nullptr, "RestoreWindow"},
     {S::WindowState,     "*",                 "WindowState",     Wide,          T::Number,  None,              None,             Any, Any,       nullptr, "RestoreWindow"},

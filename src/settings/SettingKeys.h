@@ -33,7 +33,6 @@ enum class Setting {
     PictureOrder,    // in which pictures are listed before they come in: "Name" or "Taken"
     GalleryPictures,  // how large the pictures of an album are that is looked through, logical
                       // pixels
-    HomeView,         // how the home shows albums and shows: "Covers" or "List"
     PictureCaptions,  // captions come from the pictures' own words
     WindowHeight,     // of a window, by its class name; so the next four
     WindowWidth,

@@ -246,16 +246,16 @@ TEST_F(TheMenu, AWindowWhosePlaceCannotBeKeptClosesAndSaysSoInTheStatusBar) {
 TEST_F(TheMenu, ListsTheOpenWindowsOnceEachAndMarksTheActiveOne) {
     Start();
     SaveAlbum("Here & There");
-    EXPECT_EQ(QStringList({"&Cascade", "&Tile"}), WindowEntries());
+    EXPECT_EQ(QStringList({"&Home", "&Cascade", "&Tile"}), WindowEntries());
     Press("mnuQuickShow");
     Press("mnuSlideMgrBulk");
-    const QStringList Both{"&Cascade", "&Tile", "-", "&1 Quick Show",
+    const QStringList Both{"&Home", "&Cascade", "&Tile", "-", "&1 Quick Show",
                            "&2 Bulk Slide Manager - Here && There *"};
     EXPECT_EQ(Both, WindowEntries());
     EXPECT_EQ(Both, WindowEntries()) << "and the second time as well";
     Find<frmQuickShow>()->Unload();
     DoEvents();
-    EXPECT_EQ(QStringList({"&Cascade", "&Tile", "-", "&1 Bulk Slide Manager - Here && There *"}),
+    EXPECT_EQ(QStringList({"&Home", "&Cascade", "&Tile", "-", "&1 Bulk Slide Manager - Here && There *"}),
               WindowEntries());
 }
 

@@ -18,6 +18,7 @@
 #include "ui_frmSlideShowDBM.h"
 #include "windows/albums/modAlbumNames.h"
 #include "windows/compose/TwoLists.h"
+#include "windows/compose/modShowManagers.h"
 #include "windows/frame/Openers.h"
 #include "windows/frame/modNotice.h"
 #include "windows/frame/modWindowState.h"
@@ -359,15 +360,8 @@ void frmSlideShowDBM::SaveAsNew() {
 void frmSlideShowDBM::Delete() {
     const std::int32_t From = AlbumID(), ShowID = SlideShowID();
     if (From == 0 || ShowID == 0) return New();
-    if (!AskYesNo(QStringLiteral("Are you sure you want to delete the selected slide show?"),
-                  QStringLiteral("Delete Confirmation")))
-        return;
-    if (!DBEngine->GetAlbum(From)) {
-        MsgBox(QStringLiteral("Album not found."));
-        return;
-    }
-    Answer<Announcement> Deleted = Changes(*DBEngine, this).DeleteShow(From, ShowID);
-    if (!Tell(Deleted)) return;
+    std::optional<Announcement> Deleted = DeleteShowAsked(From, ShowID, this);
+    if (!Deleted) return;
     MsgBox(QStringLiteral("Slide Show Deleted Successfully."), QStringLiteral("Delete Successful"),
            BoxIcon::Information);
     Deleted->Now();

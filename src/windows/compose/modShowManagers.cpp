@@ -1,5 +1,9 @@
 #include "windows/compose/modShowManagers.h"
 
+#include "controls/forms/Tell.h"
+#include "db/clsDBEngine.h"
+#include "settings/modNEBSlideShow.h"
+#include "support/Services.h"
 #include "windows/compose/frmSlideShowDBM.h"
 
 namespace neb {
@@ -12,6 +16,20 @@ void ShowSlideInManager(std::int32_t AlbumID, std::int32_t SlideShowID, std::int
     const auto Manager = NewForm<frmSlideShowDBM>();
     Manager->LoadSlideShowMgr(AlbumID, SlideShowID);
     Manager->GoToSlide(SlideID);
+}
+
+std::optional<Announcement> DeleteShowAsked(std::int32_t AlbumID, std::int32_t SlideShowID,
+                                            const QObject* Asker) {
+    if (!AskYesNo(QStringLiteral("Are you sure you want to delete the selected slide show?"),
+                  QStringLiteral("Delete Confirmation")))
+        return std::nullopt;
+    if (!DBEngine->GetAlbum(AlbumID)) {
+        MsgBox(QStringLiteral("Album not found."));
+        return std::nullopt;
+    }
+    Answer<Announcement> Deleted = Changes(*DBEngine, Asker).DeleteShow(AlbumID, SlideShowID);
+    if (!Tell(Deleted)) return std::nullopt;
+    return std::move(*Deleted);
 }
 
 }  // namespace neb

@@ -146,7 +146,8 @@ void frmSlideDBM::changeEvent(QEvent* Event) {
 }
 
 // Loaded inside its frame, to which its size belongs.
-void frmSlideDBM::LoadSlideMgr() {
+void frmSlideDBM::LoadSlideMgr(std::int32_t AlbumID, std::int32_t SlideID) {
+    const auto Held = shared_from_this();
     if (TheOpeners().ShowAsChild)
         TheOpeners().ShowAsChild(*this);
     else
@@ -156,6 +157,14 @@ void frmSlideDBM::LoadSlideMgr() {
              mUi->cmdFlip2, mUi->cmdRotate1, mUi->cmdRotate2, mUi->cmdPicture, mUi->cmdRecord,
              mUi->cmdSoundFile, mUi->fldKeeping})
         Each->setEnabled(!ReadOnlyDB);
+    if (AlbumID != 0 && IsLoaded()) GoToSlide(AlbumID, SlideID);
+}
+
+void frmSlideDBM::GoToSlide(std::int32_t AlbumID, std::int32_t SlideID) {
+    Lists().ListAlbums();
+    if (!Lists().ChooseAlbum(AlbumID)) return;
+    ShowAlbum(Cause::Program);
+    if (SlideID != 0 && Lists().ChooseSlide(SlideID)) ShowChosen(Cause::Program);
 }
 
 void frmSlideDBM::Form_Load() {

@@ -28,8 +28,9 @@ class frmSlideDBM : public Form, public ChangeReceiver {
     frmSlideDBM();
     ~frmSlideDBM() override;
 
-    // Shows the window, as a child where there is a main window.
-    void LoadSlideMgr();
+    // Shows the window, as a child where there is a main window; with an album chosen (0: none),
+    // and a slide of it (0: a new one).
+    void LoadSlideMgr(std::int32_t AlbumID = 0, std::int32_t SlideID = 0);
     void ReceiveEvent(const QString& ObjectType, const QString& EventType,
                       const EventKeys& EventData) override;
 
@@ -73,6 +74,7 @@ class frmSlideDBM : public Form, public ChangeReceiver {
     void AlbumChosen() { ShowAlbum(Cause::User); }
     void SlideChosen() { ShowChosen(Cause::User); }
     void ShowAlbum(Cause Why);
+    void GoToSlide(std::int32_t AlbumID, std::int32_t SlideID);
     void ShowChosen(Cause Why);
     void LoadAlbumSlides(Cause Why);
     void ShowAlbumName();

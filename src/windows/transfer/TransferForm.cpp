@@ -154,6 +154,10 @@ void TransferForm::Form_Load() {
     adjustSize();
 }
 
+void TransferForm::Propose(std::int32_t AlbumID, std::int32_t SlideShowID) {
+    OwnSide().Choose(AlbumID, SlideShowID);
+}
+
 // The fields of both sides stand below each other.
 void TransferForm::AlignColumns() {
     for (const int Column : {0, 2}) {

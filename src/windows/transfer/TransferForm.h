@@ -27,6 +27,9 @@ class TransferForm : public Form, public ChangeReceiver {
   public:
     ~TransferForm() override;
 
+    // Chooses what is to go from the program's own database, once the window is shown; SlideShowID
+    // 0: an album.
+    void Propose(std::int32_t AlbumID, std::int32_t SlideShowID);
     // Keeps the lists of the program's own database true.
     void ReceiveEvent(const QString& ObjectType, const QString& EventType,
                       const EventKeys& EventData) override;

@@ -54,6 +54,12 @@ void TransferSide::ListShows() {
     ChooseFirst(*mControls.cboSlideShow);
 }
 
+void TransferSide::Choose(std::int32_t AlbumID, std::int32_t SlideShowID) const {
+    ComboBoxList Albums(*mControls.cboAlbum), Shows(*mControls.cboSlideShow);
+    ComboSelectByData(Albums, AlbumID, -2);
+    if (SlideShowID != 0) ComboSelectByData(Shows, SlideShowID, -2);
+}
+
 void TransferSide::ListAgain() {
     KeepChoice(*mControls.cboAlbum, [this] { FillAlbums(); });
     KeepChoice(*mControls.cboSlideShow, [this] { FillShows(); });

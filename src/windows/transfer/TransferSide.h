@@ -31,6 +31,8 @@ class TransferSide {
     void List(clsDBEngine* theDB);
     // Lists the shows of the chosen album, with the first entry chosen.
     void ListShows();
+    // As the user does it: whoever follows the lists is told. What is not listed is not chosen.
+    void Choose(std::int32_t AlbumID, std::int32_t SlideShowID) const;
     // Lists all anew with what was chosen, and tells nobody.
     void ListAgain();
     // Keeps the lists true; nothing without the keys that the event needs.

@@ -1,0 +1,77 @@
+// The first page of the home: the field that finds, the show that was left, albums and shows as
+// cards, and what to begin with. Follows changes a moment later, many of them at once.
+#pragma once
+
+#include <QTimer>
+#include <QWidget>
+
+#include "albums/library/LibrarySearch.h"
+#include "windows/frame/modBroadcast.h"
+
+QT_BEGIN_NAMESPACE
+class QAction;
+class QLabel;
+class QLineEdit;
+QT_END_NAMESPACE
+
+namespace neb {
+
+class BeginningsRow;
+class FirstDay;
+class HomeView;
+class LeftShow;
+struct HomeCard;
+
+class HomeList : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit HomeList(QWidget* Parent = nullptr);
+
+    // All anew: another database may lie behind it.
+    void Fill();
+    void ReceiveEvent(const QString& ObjectType, const QString& EventType,
+                      const EventKeys& EventData);
+    void TakeFocus();                           // where the keys do something
+    void FindNext();                            // to the field
+    int Renewals() const { return mRenewals; }  // how often changes were followed
+
+  Q_SIGNALS:
+    void AlbumWanted(std::int32_t AlbumID, std::int32_t SlideID);
+    void QuickShowWanted();
+
+  protected:
+    bool eventFilter(QObject* Watched, QEvent* Event) override;
+    void changeEvent(QEvent* Event) override;
+    void showEvent(QShowEvent* Event) override;
+
+  private:
+    void SetUpField();
+    void SetUpView();
+    void SetUpLayout();
+    void SetUpDeeds();
+    bool IsSearching() const;
+    std::vector<HomeCard> Cards();
+    void Search();
+    void StartSearch(const QString& Typed);
+    void ClearSearch();
+    void RenewChanged();
+    void LearnSome();
+    void ShowState();
+    void Activate();
+    void OpenMenu(const QPoint& At);
+    QString SummaryOf(const std::vector<HomeCard>& Cards) const;
+
+    QLineEdit* mField;
+    QLabel* mSummary;
+    LeftShow* mLeft;
+    BeginningsRow* mRow;
+    FirstDay* mFirst;
+    HomeView* mView;
+    LibrarySearch mSearch;
+    QTimer mRenew, mLearn;
+    int mSlidesFound = 0;
+    int mRenewals = 0;
+};
+
+}  // namespace neb
