@@ -158,6 +158,15 @@ void frmSlideDBM::LoadSlideMgr() {
         Each->setEnabled(!ReadOnlyDB);
 }
 
+void frmSlideDBM::ShowStored(std::int32_t AlbumID, std::int32_t SlideID) {
+    Command([&] {
+        Form_Activate();  // the albums are listed by the first one
+        if (!IsLoaded() || !Lists().ChooseAlbum(AlbumID)) return;
+        ShowAlbum(Cause::Program);
+        if (Lists().ChooseSlide(SlideID)) ShowChosen(Cause::Program);
+    });
+}
+
 void frmSlideDBM::Form_Load() {
     ShowNew();
     RestoreWindow(*this, Memory);

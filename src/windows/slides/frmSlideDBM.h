@@ -30,6 +30,8 @@ class frmSlideDBM : public Form, public ChangeReceiver {
 
     // Shows the window, as a child where there is a main window.
     void LoadSlideMgr();
+    // The open window shows this slide; one that is not there leaves it as it is.
+    void ShowStored(std::int32_t AlbumID, std::int32_t SlideID);
     void ReceiveEvent(const QString& ObjectType, const QString& EventType,
                       const EventKeys& EventData) override;
 
