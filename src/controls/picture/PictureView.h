@@ -21,6 +21,7 @@ class PictureView : public QWidget {
     const QImage& Picture() const { return mPicture; }
     // Shown in place of a picture.
     void SetEmptyText(const QString& Text);
+    const QString& EmptyText() const { return mEmptyText; }
     // Where the picture stands, in the view's own pixels; empty without a picture.
     QRect PictureRect() const;
 

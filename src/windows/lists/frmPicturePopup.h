@@ -1,9 +1,13 @@
-// Shows one picture as large as the window. A click, Enter or Esc closes it.
+// Shows one picture as large as the window. A click, Enter or Esc closes it, also while the picture
+// is being read.
 #pragma once
 
+#include <QImage>
 #include <QString>
+#include <QTimer>
 
 #include "controls/forms/Form.h"
+#include "support/work/Job.h"
 
 namespace neb {
 
@@ -18,9 +22,9 @@ class frmPicturePopup : public Form {
     frmPicturePopup();
     ~frmPicturePopup() override;
 
-    // Takes the picture; a file that cannot be opened is told in a box, one that cannot be
-    // decoded leaves the window empty.
-    void LoadSlide(QString& Path);
+    // Begins to read a picture, and waits for it for a moment. False after a box that says that it
+    // cannot be shown; one that turns out so later closes the window, and the box comes then.
+    bool LoadSlide(const QString& Path);
 
   protected:
     void Form_Load() override;
@@ -28,10 +32,16 @@ class frmPicturePopup : public Form {
     void keyPressEvent(QKeyEvent* Event) override;
 
   private:
+    bool Take();
+    void Look();
+
     std::unique_ptr<Ui::frmPicturePopup> mUi;
+    std::unique_ptr<Job<QImage>> mReading;
+    QTimer mLook;
 };
 
-// Shows the window on a picture; returns when it has closed. One that cannot be shown is not.
+// Shows the window on a picture; returns when it has closed. One that cannot be shown is told of in
+// a box alone.
 void PopUpPicture(QString Path);
 
 }  // namespace neb

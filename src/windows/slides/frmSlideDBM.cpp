@@ -157,14 +157,16 @@ void frmSlideDBM::LoadSlideMgr(std::int32_t AlbumID, std::int32_t SlideID) {
              mUi->cmdFlip2, mUi->cmdRotate1, mUi->cmdRotate2, mUi->cmdPicture, mUi->cmdRecord,
              mUi->cmdSoundFile, mUi->fldKeeping})
         Each->setEnabled(!ReadOnlyDB);
-    if (AlbumID != 0 && IsLoaded()) GoToSlide(AlbumID, SlideID);
+    if (AlbumID != 0) GoToSlide(AlbumID, SlideID);
 }
 
 void frmSlideDBM::GoToSlide(std::int32_t AlbumID, std::int32_t SlideID) {
-    Lists().ListAlbums();
-    if (!Lists().ChooseAlbum(AlbumID)) return;
-    ShowAlbum(Cause::Program);
-    if (SlideID != 0 && Lists().ChooseSlide(SlideID)) ShowChosen(Cause::Program);
+    Command([&] {
+        Form_Activate();  // the albums are listed by the first one
+        if (!IsLoaded() || !Lists().ChooseAlbum(AlbumID)) return;
+        ShowAlbum(Cause::Program);
+        if (SlideID != 0 && Lists().ChooseSlide(SlideID)) ShowChosen(Cause::Program);
+    });
 }
 
 void frmSlideDBM::Form_Load() {

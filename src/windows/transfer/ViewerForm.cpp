@@ -209,17 +209,26 @@ void ViewerForm::Reload() {
     KeepingTheRow([this] { mReading.Read(Reading()); });
 }
 
-// A show has captions of its own. In an album another caption means another place.
+std::vector<int> ViewerForm::RowsOf(std::int32_t SlideID) const {
+    std::vector<int> Rows;
+    for (int Row = 0; Row < mGrid->Rows(); ++Row)
+        if (SlideIn(*mGrid, Row) == SlideID) Rows.push_back(Row);
+    return Rows;
+}
+
+// In an album another caption means another place; in a show a slide keeps its own, whatever
+// caption it comes up with.
 void ViewerForm::SlideSaved(std::int32_t SlideID) {
     const clsNEBSlide* Slide = IsStillThere() ? FindSlide(*Album(), SlideID) : nullptr;
-    const int First = RowOfSlide(*mGrid, SlideID);
-    if (!Slide || (First < 0 && SlideShowID() != 0)) return;
-    const auto CaptionIn = [this](int Row) -> const QString& {
-        return mGrid->TextMatrix(Row, clsImageBuffer::ColText);
-    };
-    if (First < 0 || (SlideShowID() == 0 && CaptionIn(First) != Slide->SlideText)) return Reload();
-    for (int Row = First; Row < mGrid->Rows(); ++Row)
-        if (SlideIn(*mGrid, Row) == SlideID) ShowSlide(Row, {Slide, CaptionIn(Row)});
+    if (!Slide) return;
+    const QStringList Captions = CaptionsOf(*Album(), *Slide);
+    const std::vector<int> Rows = RowsOf(SlideID);
+    const auto Count = static_cast<size_t>(Captions.size());
+    const bool Moves = SlideShowID() == 0 && Rows.size() == 1 &&
+                       mGrid->TextMatrix(Rows[0], clsImageBuffer::ColText) != Captions[0];
+    if (Moves || Rows.size() != Count) return Reload();
+    for (size_t I = 0; I < Count; ++I)
+        ShowSlide(Rows[I], {Slide, Captions[static_cast<qsizetype>(I)]});
 }
 
 void ViewerForm::SlideDeleted(std::int32_t SlideID) {

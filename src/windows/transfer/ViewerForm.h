@@ -58,6 +58,8 @@ class ViewerForm : public Form, public ChangeReceiver {
     // The slide of a row (Number from 1). Refused, it is left out; the text, where there is one, is
     // for who has opened the window.
     virtual Answer<ViewedSlide> SlideOf(clsNEBAlbum& Album, std::int32_t Key, int Number) = 0;
+    // Those of the rows of a slide as they are now, in the order of the list.
+    virtual QStringList CaptionsOf(clsNEBAlbum& Album, const clsNEBSlide& Slide) const = 0;
     // The names in the title as they are now; asked only where what is listed is there.
     virtual QString NamesIn(const clsNEBAlbum& Album) const = 0;
     virtual std::int32_t SlideShowID() const { return 0; }  // 0: the whole album is listed
@@ -89,6 +91,7 @@ class ViewerForm : public Form, public ChangeReceiver {
     void Follow(const SlideReading::HeardChange& Heard);
     void Reload();
     void SlideSaved(std::int32_t SlideID);
+    std::vector<int> RowsOf(std::int32_t SlideID) const;
     void SlideDeleted(std::int32_t SlideID);
     void ShowTitle(const QString& Names);
     void KeepingTheRow(const std::function<void()>& Change);

@@ -38,4 +38,8 @@ Answer<ViewerForm::ViewedSlide> frmAlbumView::SlideOf(clsNEBAlbum& Album, std::i
     return ViewedSlide{Slide, Slide->SlideText};
 }
 
+QStringList frmAlbumView::CaptionsOf(clsNEBAlbum&, const clsNEBSlide& Slide) const {
+    return {Slide.SlideText};
+}
+
 }  // namespace neb

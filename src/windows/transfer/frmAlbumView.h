@@ -24,6 +24,7 @@ class frmAlbumView : public ViewerForm {
   protected:
     std::optional<std::vector<std::int32_t>> SortedKeys(clsNEBAlbum& Album) override;
     Answer<ViewedSlide> SlideOf(clsNEBAlbum& Album, std::int32_t Key, int Number) override;
+    QStringList CaptionsOf(clsNEBAlbum& Album, const clsNEBSlide& Slide) const override;
     QString NamesIn(const clsNEBAlbum& Album) const override;
 
   private:

@@ -1,9 +1,19 @@
 #include "windows/transfer/frmSlideShowView.h"
 
+#include <map>
+
 #include "controls/grid/FlexGrid.h"
 #include "ui_frmSlideShowView.h"
 
 namespace neb {
+namespace {
+
+// As the show itself does: a slide without a caption in the show comes up with its own.
+const QString& CaptionIn(const clsNEBSlideShowDetail& Detail, const clsNEBSlide& Slide) {
+    return Detail.SlideText.isEmpty() ? Slide.SlideText : Detail.SlideText;
+}
+
+}  // namespace
 
 frmSlideShowView::frmSlideShowView()
     : ViewerForm(
@@ -52,7 +62,17 @@ Answer<ViewerForm::ViewedSlide> frmSlideShowView::SlideOf(clsNEBAlbum& Album, st
     if (!Slide)
         return Refuse(
             QStringLiteral("Could not find the Slide for Slide Show Detail #%1").arg(Number));
-    return ViewedSlide{Slide, Detail->SlideText};
+    return ViewedSlide{Slide, CaptionIn(*Detail, *Slide)};
+}
+
+QStringList frmSlideShowView::CaptionsOf(clsNEBAlbum& Album, const clsNEBSlide& Slide) const {
+    std::multimap<std::int32_t, QString> InOrder;
+    for (const auto& Detail : Album.GetSlideShow(mSlideShowID)->Details)
+        if (Detail->SlideID == Slide.SlideID)
+            InOrder.emplace(Detail->SlideSeq, CaptionIn(*Detail, Slide));
+    QStringList Captions;
+    for (const auto& [Seq, Caption] : InOrder) Captions << Caption;
+    return Captions;
 }
 
 }  // namespace neb

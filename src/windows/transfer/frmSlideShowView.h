@@ -1,5 +1,5 @@
 // Lists the slides of a show of any database, in the order of the show and with the captions that
-// it gives them. For a look into it before a transfer; changes nothing.
+// it gives them, or else their own. For a look into it before a transfer; changes nothing.
 #pragma once
 
 #include "windows/transfer/ViewerForm.h"
@@ -26,6 +26,7 @@ class frmSlideShowView : public ViewerForm {
     std::optional<std::vector<std::int32_t>> SortedKeys(clsNEBAlbum& Album) override;
     bool IsThere(clsNEBAlbum& Album) const override;
     Answer<ViewedSlide> SlideOf(clsNEBAlbum& Album, std::int32_t Key, int Number) override;
+    QStringList CaptionsOf(clsNEBAlbum& Album, const clsNEBSlide& Slide) const override;
     QString NamesIn(const clsNEBAlbum& Album) const override;
     std::int32_t SlideShowID() const override { return mSlideShowID; }
 

@@ -1,6 +1,8 @@
 // The picture preview: what closes it, what it says about a file it cannot open, its place.
 #include "controls/picture/PictureView.h"
+#include "harness/HangingFiles.h"
 #include "windows/import/IntakeHarness.h"
+#include "windows/lists/ScreenPicture.h"
 #include "windows/lists/frmPicturePopup.h"
 
 namespace neb {
@@ -17,12 +19,18 @@ class PicturePopup : public Intake {
         Window->LoadSlide(Path);
         bool Closed = false;
         WhenOpen<frmPicturePopup>([&](frmPicturePopup& Shown) {
+            QTest::qWaitFor([&] { return !View(Shown).Picture().isNull(); }, 2000);
             Do(Shown);
             Closed = !Shown.IsLoaded();
             Shown.Unload();
         });
         Window->ShowModal();
         return Closed;
+    }
+    void ExpectFailure() {
+        Boxes.Expect(
+            u"Failed to Load the Picture.\nMake sure that you have permission to use the file."_s,
+            u"Load Failed"_s, BoxIcon::Critical, BoxAnswer::Ok);
     }
     static PictureView& View(const QWidget& Window) { return In<PictureView>(Window, "imgSlide"); }
 };
@@ -64,21 +72,84 @@ TEST_F(PicturePopup, FillsItsWindowWithThePicture) {
     });
 }
 
-TEST_F(PicturePopup, SaysThatAFileCannotBeOpened) {
-    const auto Window = NewForm<frmPicturePopup>();
-    QString Path = Pics / u"gone.jpg"_s;
-    Boxes.Expect(
-        u"Failed to Load the Picture.\nMake sure that you have permission to use the file."_s,
-        u"Load Failed"_s, BoxIcon::Critical, BoxAnswer::Ok);
-    Window->LoadSlide(Path);
+TEST_F(PicturePopup, OpensNoWindowOnAPictureThatCannotBeShown) {
+    WriteFile(Pics / u"bad.jpg"_s, "no picture");
+    WhenOpen<frmPicturePopup>([](frmPicturePopup& Shown) {
+        ADD_FAILURE() << "an empty window";
+        Shown.Unload();
+    });
+    for (const QString& Name : {u"gone.jpg"_s, u"bad.jpg"_s}) {
+        ExpectFailure();
+        PopUpPicture(Pics / Name);
+        QTest::qWait(20);
+    }
+    EXPECT_EQ(2, Boxes.ShownCount());
 }
 
-TEST_F(PicturePopup, SaysNothingOfAPictureThatCannotBeDecoded) {
-    const auto Window = NewForm<frmPicturePopup>();
-    QString Path = Pics / u"bad.jpg"_s;
-    WriteFile(Path, "no picture");
-    Window->LoadSlide(Path);
-    EXPECT_TRUE(View(*Window).Picture().isNull());
+// A picture on a medium that answers when the test lets it.
+class SlowPicture : public PicturePopup {
+  protected:
+    SlowPicture() {
+        mFiles->Hang(Slow);
+        SetScreenReader([Files = mFiles](const QString& File, QSize Most) {
+            Files->Pass(File);
+            ImgX Picture;
+            Picture.LoadAtLeast(File, Most);
+            return Picture.Picture();
+        });
+    }
+    ~SlowPicture() override {
+        SetScreenReader({});
+        mFiles->GoOnAll();
+    }
+    void GoOn() { mFiles->GoOn(Slow); }
+    const QString Slow = MakePicture(Pics / u"slow.jpg"_s, 200, 100);
+
+  private:
+    std::shared_ptr<HangingFiles> mFiles = std::make_shared<HangingFiles>();
+};
+
+TEST_F(SlowPicture, StandsInWordsWhileThePictureIsReadAndFreezesNothing) {
+    WhenOpen<frmPicturePopup>([&](frmPicturePopup& Shown) {
+        EXPECT_TRUE(View(Shown).Picture().isNull());
+        EXPECT_EQ("Reading slow.jpg ...", View(Shown).EmptyText().toStdString());
+        GoOn();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !View(Shown).Picture().isNull(); }, 2000));
+        Shown.Unload();
+    });
+    PopUpPicture(Slow);
+}
+
+TEST_F(SlowPicture, ClosesByEscWhileThePictureIsRead) {
+    bool Closed = false;
+    WhenOpen<frmPicturePopup>([&](frmPicturePopup& Shown) {
+        QTest::keyClick(&Shown, Qt::Key_Escape);
+        Closed = !Shown.IsLoaded();
+    });
+    PopUpPicture(Slow);
+    EXPECT_TRUE(Closed);
+    EXPECT_EQ(0, Boxes.ShownCount());
+}
+
+TEST_F(SlowPicture, GivesWayToTheBoxWhenItTurnsOutBroken) {
+    WriteFile(Slow, "no picture");
+    ExpectFailure();
+    Boxes.WhileNextIsOpen([] { EXPECT_EQ(nullptr, Open<frmPicturePopup>()); });
+    WhenOpen<frmPicturePopup>([&](frmPicturePopup&) { GoOn(); });
+    PopUpPicture(Slow);
+    EXPECT_EQ(1, Boxes.ShownCount());
+}
+
+TEST_F(PicturePopup, KeepsNoMorePixelsOfAHugePictureThanScreensHave) {
+    MakePicture(Pics / u"poster.jpg"_s, 12000, 9000);
+    WhenOpen<frmPicturePopup>([&](frmPicturePopup& Shown) {
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !View(Shown).Picture().isNull(); }, 8000));
+        const QSize Kept = View(Shown).Picture().size(), Most = PictureView::LargestScreen();
+        EXPECT_EQ(Kept, Kept.boundedTo(Most));
+        EXPECT_TRUE(Kept.width() == Most.width() || Kept.height() == Most.height());
+        Shown.Unload();
+    });
+    PopUpPicture(Pics / u"poster.jpg"_s);
 }
 
 TEST_F(PicturePopup, RemembersItsSizePlaceAndState) {

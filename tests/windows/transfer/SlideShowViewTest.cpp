@@ -39,7 +39,7 @@ TEST_F(SlideShowView, ListsTheShowInItsOrderWithItsOwnCaptions) {
         EXPECT_EQ(("Slide Show [" + Each->DBPath() + ':' + Album(*Each).AlbumName + ":Spring]")
                       .toStdString(),
                   View->windowTitle().toStdString());
-        EXPECT_EQ("first||last", Shown(*View));
+        EXPECT_EQ("first|b|last", Shown(*View));
         EXPECT_EQ("3|2|1", Shown(*View, ColKey));
         EXPECT_EQ(PicturePath(*Each, 3).toStdString(),
                   GridOf(*View).TextMatrix(0, ColFile).toStdString());

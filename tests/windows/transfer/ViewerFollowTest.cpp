@@ -70,6 +70,17 @@ TEST_F(ViewerFollow, ASavedCaptionFindsItsPlaceInTheAlbumAndIsNoneOfTheShow) {
     EXPECT_EQ("1:2", Chosen(*OfShow));
 }
 
+TEST_F(ViewerFollow, ASavedCaptionIsShownInTheShowWhereThatHasNone) {
+    Album(Engine).GetSlideShow(ShowID)->Details[2]->SlideText.clear();
+    OfShow->Unload();
+    OfShow = ViewShow(Engine, *Album(Engine).GetSlideShow(ShowID));
+    EXPECT_EQ("44|22|d|11", Shown(*OfShow));
+    Choose(1, 2);
+    Do(Door.SaveCaption(AlbumID, 4, u"Dahlias"_s));
+    EXPECT_EQ("44|22|Dahlias|11", Shown(*OfShow));
+    EXPECT_EQ("2:4", Chosen(*OfShow));
+}
+
 TEST_F(ViewerFollow, ANewSlideComesIntoTheAlbumAlone) {
     clsNEBSlide Slide;
     Slide.SlideText = u"bb"_s;
