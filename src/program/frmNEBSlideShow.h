@@ -51,6 +51,7 @@ class frmNEBSlideShow : public QMainWindow {
     Workspace& Area() const { return *mWorkspace; }  // where the children stand
 
   protected:
+    void changeEvent(QEvent* Event) override;
     void closeEvent(QCloseEvent* Event) override;
 
   private:
