@@ -5,12 +5,6 @@
 #include "windows/frame/WindowSize.h"
 
 namespace neb {
-
-// As the test library shows it where two differ.
-static void PrintTo(const QRect& Rect, std::ostream* Out) {
-    *Out << Rect.x() << ',' << Rect.y() << ' ' << Rect.width() << 'x' << Rect.height();
-}
-
 namespace {
 
 constexpr QRect Room(0, 0, 1000, 600);
@@ -83,9 +77,8 @@ TEST(VisiblePlace, TheCascadeStepsAndBeginsAgainWhereItWouldLeaveTheRoom) {
 
 TEST(WindowSize, AWindowOpensAsLargeAsItsWorkAsks) {
     constexpr QSize Wide(1920, 1000), Small(700, 500), Designed(520, 480);
-    constexpr int Line = 16;
-    const auto Size = [&](WindowAsks Asks, QSize In, int Height = Line) {
-        return OpeningSize(Asks, Designed, Height, In);
+    const auto Size = [&](WindowAsks Asks, QSize In, int Line = 16) {
+        return OpeningSize(Asks, Designed, Line, In);
     };
     EXPECT_EQ(Designed, Size(WindowAsks::Designed, Wide));
     EXPECT_EQ(QSize(1024, 956), Size(WindowAsks::Lines, Wide)) << "wider lines are no easier read";

@@ -109,6 +109,8 @@ TEST_F(KeptWindow, AChildIsRestoredInItsFrameAndSavedWhenItGoes) {
     Settle();
     Window = Open();
     EXPECT_EQ(QRect(30, 40, 450, 350), Window->parentWidget()->geometry());
+    EXPECT_TRUE(Window->Unload());
+    Settle();
 }
 
 }  // namespace

@@ -75,6 +75,11 @@ struct WindowStateTest : ::testing::Test {
         Settings.PutValue(Memory.Section, QString::fromLatin1(Key), Value);
         Settings.Save();
     }
+    static void StorePlace(const WindowMemory& Memory, int Left, int Top) {
+        for (const auto& [Key, Pixels] : {std::pair("Left", Left), std::pair("Top", Top),
+                                          std::pair("Width", 600), std::pair("Height", 500)})
+            Store(Memory, Key, QString::number(ToTwips(Pixels)));
+    }
     QPoint Place(int Mode) const {
         const auto Fresh = NewForm<TestForm>();
         return ChildPlace(*Fresh, Mode);
@@ -188,21 +193,16 @@ TEST_F(WindowStateTest, TheKindsWithAWidthOfTheirOwnRememberItToo) {
 }
 
 TEST_F(WindowStateTest, TheOldPlaceIsTakenAgain) {
-    Store(Manager, "Left", QStringLiteral("3000"));
-    Store(Manager, "Top", QStringLiteral("1500"));
+    StorePlace(Manager, 200, 100);
     EXPECT_EQ(QPoint(200, 100), FrameOf(Open(Manager)).pos());
 }
 
 TEST_F(WindowStateTest, APlaceOutsideTheRoomIsBroughtInside) {
     const QSize Room = Area->viewport()->size();
     for (const auto& [Left, Top, Expected] :
-         {std::tuple(-3000, -450, QPoint(0, 0)),
-          std::tuple(90000, 75, QPoint(Room.width() - 600, 5)),
-          std::tuple(75, 90000, QPoint(5, Room.height() - 500))}) {
-        Store(Manager, "Height", QStringLiteral("7500"));
-        Store(Manager, "Width", QStringLiteral("9000"));
-        Store(Manager, "Left", QString::number(Left));
-        Store(Manager, "Top", QString::number(Top));
+         {std::tuple(-200, -30, QPoint(0, 0)), std::tuple(6000, 5, QPoint(Room.width() - 600, 5)),
+          std::tuple(5, 6000, QPoint(5, Room.height() - 500))}) {
+        StorePlace(Manager, Left, Top);
         const auto Window = Open(Manager);
         EXPECT_EQ(QRect(Expected, QSize(600, 500)), FrameOf(Window).geometry());
         Window->OnUnload = {};
@@ -212,8 +212,7 @@ TEST_F(WindowStateTest, APlaceOutsideTheRoomIsBroughtInside) {
 }
 
 TEST_F(WindowStateTest, ASecondOneOfAKindStandsInTheCascade) {
-    Store(FixedWidth, "Left", QStringLiteral("3000"));
-    Store(FixedWidth, "Top", QStringLiteral("1500"));
+    StorePlace(FixedWidth, 200, 100);
     const auto One = Open(FixedWidth), Two = Open(FixedWidth);
     EXPECT_EQ(QPoint(200, 100), FrameOf(One).pos());
     EXPECT_EQ(QPoint(222, 122), FrameOf(Two).pos());
@@ -221,8 +220,7 @@ TEST_F(WindowStateTest, ASecondOneOfAKindStandsInTheCascade) {
 
 TEST_F(WindowStateTest, WhereAnotherStandsAlreadyItStandsInTheCascade) {
     const auto Other = ChildAt(1500, 3000);
-    Store(Manager, "Left", QStringLiteral("3000"));
-    Store(Manager, "Top", QStringLiteral("1575"));
+    StorePlace(Manager, 200, 105);
     EXPECT_EQ(QPoint(222, 122), FrameOf(Open(Manager)).pos());
 }
 
