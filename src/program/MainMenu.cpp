@@ -144,9 +144,17 @@ constexpr Entry Entries[] = {
      "Go to the albums and slide shows; once more: back to the windows",
      [](frmNEBSlideShow& Main) { Main.ShowHome(); }},
     {"mnuWindows", "mnuCascade", "&Cascade", "", "", "Lay the windows one over the other",
-     [](frmNEBSlideShow& Main) { Main.Area().cascadeSubWindows(); }},
+     [](frmNEBSlideShow& Main) { Main.Area().CascadeChildren(); }},
     {"mnuWindows", "mnuTile", "&Tile", "", "", "Lay the windows side by side",
-     [](frmNEBSlideShow& Main) { Main.Area().tileSubWindows(); }},
+     [](frmNEBSlideShow& Main) { Main.Area().TileChildren(); }},
+    {"mnuWindows", "", "", "", "", "", nullptr},
+    {"mnuWindows", "mnuNextWindow", "&Next", "Ctrl+Tab", "", "Go to the next window",
+     [](frmNEBSlideShow& Main) { Main.Area().activateNextSubWindow(); }},
+    {"mnuWindows", "mnuPreviousWindow", "&Previous", "Ctrl+Shift+Tab", "",
+     "Go to the previous window",
+     [](frmNEBSlideShow& Main) { Main.Area().activatePreviousSubWindow(); }},
+    {"mnuWindows", "mnuCloseWindow", "C&lose", "Ctrl+F4; Ctrl+W", "", "Close the window in use",
+     [](frmNEBSlideShow& Main) { Main.Area().closeActiveSubWindow(); }},
     {"mnuHelpHdr", "mnuHelpWindow", "Help for This &Window", "F1", "help",
      "What can be done in the window in front",
      [](frmNEBSlideShow& Main) { ShowHelpOfWindow(Main); }},
@@ -176,7 +184,7 @@ void Connect(frmNEBSlideShow& Main, QAction& Action, Handler Run) {
 QAction* MakeAction(frmNEBSlideShow& Main, const Entry& Row) {
     auto* Action = new QAction(QObject::tr(Row.Text), &Main);
     Action->setObjectName(QString::fromLatin1(Row.Name));
-    Action->setShortcut(QKeySequence(QString::fromLatin1(Row.Keys)));
+    Action->setShortcuts(QKeySequence::listFromString(QString::fromLatin1(Row.Keys)));
     Action->setStatusTip(QObject::tr(Row.Tip));
     Connect(Main, *Action, Row.Run);
     return Action;

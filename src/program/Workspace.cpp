@@ -1,11 +1,18 @@
 #include "program/Workspace.h"
 
+#include <QAction>
+#include <QApplication>
 #include <QDragEnterEvent>
 #include <QMdiSubWindow>
+#include <QMenu>
 #include <QMimeData>
+#include <algorithm>
 
+#include "program/TitleBarStyle.h"
 #include "support/files/HostNames.h"
 #include "support/files/modHostFiles.h"
+#include "windows/frame/VisiblePlace.h"
+#include "windows/frame/modWindowState.h"
 
 namespace neb {
 namespace {
@@ -18,28 +25,95 @@ QString FirstFolder(const QMimeData& Data) {
 
 }  // namespace
 
-Workspace::Workspace(QWidget* Parent) : QMdiArea(Parent) {
+Workspace::Workspace(QWidget* Parent) : QMdiArea(Parent), mTitleBars(new TitleBarStyle(this)) {
     setBackground(palette().brush(QPalette::Base));
     setAcceptDrops(true);
-    setActivationOrder(ActivationHistoryOrder);  // a viewer leaves the window it was opened from
+    setActivationOrder(ActivationHistoryOrder);    // a viewer leaves the window it was opened from
+    setOption(DontMaximizeSubWindowOnActivation);  // each child has a state of its own
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    connect(this, &QMdiArea::subWindowActivated, this, &Workspace::GiveKeyboardToPage,
+            Qt::QueuedConnection);
 }
 
 void Workspace::SetPage(QWidget* Page) {
     mPage = Page;
     mPage->setParent(viewport());
-    mPage->setGeometry(viewport()->rect());
-    mPage->lower();
+    FillWithPage();
     mPage->show();
 }
 
-// The page fills the room at every size, and no child goes behind it.
+QMdiSubWindow* Workspace::AddChild(QWidget* Child) {
+    QMdiSubWindow* Frame = addSubWindow(Child);
+    Frame->setStyle(mTitleBars);
+    Frame->setAttribute(Qt::WA_DeleteOnClose, false);
+    // the menu's Close has these keys, on every desktop the same
+    for (QAction* Each : Frame->systemMenu()->actions()) Each->setShortcuts(QList<QKeySequence>());
+    return Frame;
+}
+
+// Those that are laid out, the one used last at the end and so on top.
+QList<QMdiSubWindow*> Workspace::LaidOut() {
+    QList<QMdiSubWindow*> Children;
+    for (QMdiSubWindow* Each : subWindowList(ActivationHistoryOrder)) {
+        if (!Each->isVisible() || Each->isMinimized()) continue;
+        if (Each->isMaximized()) Each->showNormal();
+        Children.append(Each);
+    }
+    return Children;
+}
+
+void Workspace::TileChildren() {
+    QList<QMdiSubWindow*> Children = LaidOut();
+    std::reverse(Children.begin(), Children.end());
+    std::vector<QSize> Least;
+    for (const QMdiSubWindow* Each : Children) Least.push_back(Each->minimumSizeHint());
+    const std::vector<QRect> Places = TiledPlaces(Least, VisibleRoom(*this));
+    for (size_t I = 0; I < Places.size(); ++I) Children[int(I)]->setGeometry(Places[I]);
+}
+
+void Workspace::CascadeChildren() {
+    const QList<QMdiSubWindow*> Children = LaidOut();
+    std::vector<WindowExtent> Extents;
+    for (const QMdiSubWindow* Each : Children)
+        Extents.push_back({Each->size(), Each->minimumSizeHint()});
+    const std::vector<QRect> Places = CascadedPlaces(Extents, VisibleRoom(*this));
+    for (size_t I = 0; I < Places.size(); ++I) {
+        Children[int(I)]->setGeometry(Places[I]);
+        Children[int(I)]->raise();
+    }
+}
+
+// Whatever scrolls and whoever is put behind the others, it fills what is seen, behind all.
+void Workspace::FillWithPage() {
+    if (!mPage) return;
+    mPage->setGeometry(viewport()->rect());
+    mPage->lower();
+}
+
+void Workspace::GiveKeyboardToPage() {
+    if (!mPage || activeSubWindow() || QApplication::activeWindow() != window()) return;
+    for (const QMdiSubWindow* Each : subWindowList())
+        if (Each->isVisible() && !Each->isMinimized()) return;
+    QWidget* Last = mPage->focusWidget();
+    (Last ? Last : mPage.data())->setFocus(Qt::OtherFocusReason);
+}
+
 bool Workspace::viewportEvent(QEvent* Event) {
     const bool Handled = QMdiArea::viewportEvent(Event);
-    if (mPage && Event->type() == QEvent::Resize) mPage->setGeometry(viewport()->rect());
-    if (mPage && Event->type() == QEvent::ChildAdded) mPage->lower();
+    if (Event->type() == QEvent::Resize || Event->type() == QEvent::ChildAdded) FillWithPage();
     return Handled;
+}
+
+bool Workspace::eventFilter(QObject* Watched, QEvent* Event) {
+    const bool Handled = QMdiArea::eventFilter(Watched, Event);
+    if (mPage && Watched != mPage && Event->type() == QEvent::ZOrderChange) mPage->lower();
+    return Handled;
+}
+
+void Workspace::scrollContentsBy(int dx, int dy) {
+    QMdiArea::scrollContentsBy(dx, dy);
+    FillWithPage();
 }
 
 void Workspace::dragEnterEvent(QDragEnterEvent* Event) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QMdiArea>
+#include <QPointer>
 
 namespace neb {
 
@@ -11,19 +12,33 @@ class Workspace : public QMdiArea {
 
   public:
     explicit Workspace(QWidget* Parent = nullptr);
-    // The page behind the children, which the room owns from here on.
+    // The page behind the children, which the room owns from here on. It has the keyboard while no
+    // child is open.
     void SetPage(QWidget* Page);
+    // A child with a title bar that is read in every palette and as high as its font.
+    QMdiSubWindow* AddChild(QWidget* Child);
+    // Lays the children side by side, or one over the other, those that are minimised apart. None
+    // gets smaller than its buttons allow: the room scrolls then.
+    void TileChildren();
+    void CascadeChildren();
 
   Q_SIGNALS:
     void FolderDropped(const QString& Folder);
 
   protected:
     bool viewportEvent(QEvent* Event) override;
+    bool eventFilter(QObject* Watched, QEvent* Event) override;
+    void scrollContentsBy(int dx, int dy) override;
     void dragEnterEvent(QDragEnterEvent* Event) override;
     void dropEvent(QDropEvent* Event) override;
 
   private:
-    QWidget* mPage = nullptr;
+    QList<QMdiSubWindow*> LaidOut();
+    void FillWithPage();
+    void GiveKeyboardToPage();
+
+    QPointer<QWidget> mPage;
+    QStyle* mTitleBars;
 };
 
 }  // namespace neb

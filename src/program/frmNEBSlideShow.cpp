@@ -7,6 +7,7 @@
 #include <QMdiSubWindow>
 #include <QScreen>
 #include <QStatusBar>
+#include <QWindow>
 #include <algorithm>
 #include <functional>
 
@@ -18,6 +19,7 @@
 #include "db/records/RecordSums.h"
 #include "db/recovery/modRestore.h"
 #include "program/MainMenu.h"
+#include "program/MenuKeys.h"
 #include "program/StepAside.h"
 #include "program/UnstoredNotice.h"
 #include "program/Workspace.h"
@@ -33,8 +35,10 @@
 #include "support/files/modHostFiles.h"
 #include "support/work/WorkAside.h"
 #include "windows/albums/frmDamage.h"
+#include "windows/frame/WindowKeeper.h"
 #include "windows/frame/modBroadcast.h"
 #include "windows/frame/modNotice.h"
+#include "windows/frame/modWindowState.h"
 #include "windows/home/HomePage.h"
 #include "windows/lists/clsImageBuffer.h"
 
@@ -43,6 +47,12 @@ namespace {
 
 void Log(const char* Message) {
     if (DebugMode) LogMessage(QStringLiteral("Information"), QString::fromLatin1(Message));
+}
+
+// Most of the screen, on a small one nearly all of it: the widest window is to find room in it.
+QSize FirstSize(const QSize& Screen) {
+    constexpr QSize Useful(1100, 800), DesktopsFrame(16, 48);
+    return (Screen * 0.85).expandedTo(Useful).boundedTo(Screen - DesktopsFrame);
 }
 
 // Whether a file can be made in the folder for scratch files, and so the records at the end.
@@ -154,7 +164,9 @@ frmNEBSlideShow::frmNEBSlideShow()
     connect(mHome, &HomePage::QuickShowWanted, this, [this] { OpenQuickShow(); });
     connect(mWorkspace, &QMdiArea::subWindowActivated, this, &frmNEBSlideShow::LastChildLeft,
             Qt::QueuedConnection);
-    resize(screen()->availableSize() * 0.85);
+    new WindowKeeper(this);
+    new MenuKeys(*this);
+    resize(FirstSize(screen()->availableSize()));
 }
 
 frmNEBSlideShow::~frmNEBSlideShow() {
@@ -167,6 +179,10 @@ bool frmNEBSlideShow::Form_Load(const CommandLine& Line) {
     DebugMode = Line.Debug;
     Log("Showing Main Form");
     mStage = Stage::Loading;
+    IgnoringFaults([this] {
+        ReadOnlyDB = !MayWriteDatabase(DBPath());  // which says where it is remembered
+        RestoreMainWindow(*this);
+    });
     show();
     DoEvents();
     // drawn once the window stands, which need not wait for it
@@ -286,6 +302,7 @@ bool frmNEBSlideShow::UnloadForms() {
 bool frmNEBSlideShow::Unload() {
     if (mStage != Stage::Loaded) return true;
     if (!QueryForms() || !UnloadForms()) return false;
+    IgnoringFaults([this] { SaveMainWindow(*this); });
     const PointerScope Working(Pointer::Hourglass);
     IgnoringFaults([] { DeleteMask(DBPath() + QStringLiteral("Temp/*.*")); });
     if (!ReadOnlyDB && !WriteDatabase()) return false;
@@ -309,6 +326,19 @@ bool frmNEBSlideShow::WriteDatabase() {
         SetScreenPointer(Pointer::Default);
         return AskEndUnsaved(ReasonOf(Problem), mEngine->IsSessionStored());
     }
+}
+
+// With a maximised child its title stands in that of the main window. The desktop shows the
+// program's name behind every title: here it is not to stand in front of it as well.
+void frmNEBSlideShow::changeEvent(QEvent* Event) {
+    QMainWindow::changeEvent(Event);
+    const auto Type = Event->type();
+    if (!windowHandle() || (Type != QEvent::WindowTitleChange && Type != QEvent::ModifiedChange))
+        return;
+    const QString Before = QApplication::applicationDisplayName() + QStringLiteral(" - [");
+    const QString Title = windowHandle()->title();
+    if (Title.startsWith(Before) && Title.endsWith(u']'))
+        windowHandle()->setTitle(Title.mid(Before.size()).chopped(1));
 }
 
 void frmNEBSlideShow::closeEvent(QCloseEvent* Event) {

@@ -56,6 +56,7 @@ class frmNEBSlideShow : public QMainWindow {
     void ShowHome();
 
   protected:
+    void changeEvent(QEvent* Event) override;
     void closeEvent(QCloseEvent* Event) override;
 
   private:

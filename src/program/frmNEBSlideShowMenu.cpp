@@ -18,6 +18,7 @@
 #include "windows/compose/frmSlideShowDBM.h"
 #include "windows/compose/modShowManagers.h"
 #include "windows/frame/Openers.h"
+#include "windows/frame/WindowKeeper.h"
 #include "windows/frame/modNotice.h"
 #include "windows/frame/modWindowState.h"
 #include "windows/home/HomePage.h"
@@ -49,15 +50,15 @@ void frmNEBSlideShow::FillOpeners() {
 void frmNEBSlideShow::ShowAsChild(Form& Child) {
     const auto Held = Child.shared_from_this();
     const QSize Designed = Child.size();
-    QMdiSubWindow* Frame = mWorkspace->addSubWindow(&Child);
+    QMdiSubWindow* Frame = mWorkspace->AddChild(&Child);
     Frame->resize(Designed.boundedTo(mWorkspace->size()));
-    Frame->setAttribute(Qt::WA_DeleteOnClose, false);
     Child.Load();
     if (!Child.IsLoaded()) return;
     // what its content needs is known now, and may be more than it was designed for, or even more
     // than there is room for: the area scrolls then
     Frame->resize(Frame->size().expandedTo(Frame->minimumSizeHint()));
-    PositionMDIChild(Child, 1);
+    RestoreKept(Child);
+    PlaceChild(Child);
     Child.ShowModeless();
 }
 
@@ -100,9 +101,9 @@ void frmNEBSlideShow::OpenFolder(const QString& Folder) {
 void frmNEBSlideShow::ListWindows() {
     QMenu& Menu = *mMenu->Windows;
     for (QAction* Old : Menu.actions())
-        if (Old->data().isValid() || Old->isSeparator()) delete Old;
+        if (Old->data().isValid()) delete Old;
     const QList<QMdiSubWindow*> Frames = mWorkspace->subWindowList();
-    if (!Frames.isEmpty()) Menu.addSeparator();
+    if (!Frames.isEmpty()) Menu.addSeparator()->setData(-1);
     for (int I = 0; I < Frames.size(); ++I) {
         QMdiSubWindow* Frame = Frames[I];
         QAction* Entry = Menu.addAction(

@@ -18,13 +18,14 @@ constexpr char EffectNumbers[] = "000-127";
 constexpr char Columns[] = "0-3";
 constexpr char LastTen[] = "0-9";
 constexpr char Find[] = "Find Graphics Window";
-// The windows that remember their size; those of the first list their width and state as well.
-#define NEB_WIDE_WINDOWS "frmSlideDBM frmPicturePopup frmPrintPreview"
-constexpr char Wide[] = NEB_WIDE_WINDOWS;
-constexpr char Windows[] = NEB_WIDE_WINDOWS
-    " frmSlideShowDBM frmImportFilter frmQuickShow frmSlideMgrBulk frmRehearsal frmAlbumView "
-    "frmSlideShowView";
-#undef NEB_WIDE_WINDOWS
+// The windows that remember their size, their place and whether they were maximised.
+constexpr char Windows[] =
+    "frmNEBSlideShow frmSlideDBM frmPicturePopup frmPrintPreview frmSlideShowDBM frmImportFilter "
+    "frmQuickShow frmSlideMgrBulk frmRehearsal frmAlbumView frmSlideShowView frmHelp frmDiscFolder "
+    "frmAlbumImport frmAlbumExport frmSlideShowImport frmSlideShowExport frmPreferences "
+    "frmCheckPictures frmRestore frmDirSelect frmNewAlbumWzd1 frmPrintAlbum frmPrintSlideShow "
+    "frmPrintSlide frmPrintSheet frmAlbumRename frmAlbumDelete frmGetObjectName frmInputBox "
+    "frmSoundRecorder";
 
 constexpr double AboveZero = std::numeric_limits<double>::denorm_min();
 constexpr std::nullopt_t Any = std::nullopt;
@@ -54,13 +55,15 @@ constexpr SettingRow Table[] = {
     {S::PictureCaptions, "Pictures",          "Captions",        "",            T::Flag,    {"True"},          {"True"},         Any, Any,       nullptr, "the import windows"},
     {S::GalleryPictures, "Home",              "Pictures",        "",            T::Number,  {"160", "160"},    {"160"},          72, 512,       nullptr, "an album that is looked through"},
     {S::WindowHeight,    "*",                 "Height",          Windows,       T::Twips,   None,              None,             Any, Any,       nullptr, "RestoreWindow"},
-    {S::WindowWidth,     "*",                 "Width",           Wide,          T::Twips,   None,              None,             Any, Any,       nullptr, "RestoreWindow"},
-    {S::WindowState,     "*",                 "WindowState",     Wide,          T::Number,  None,              None,             Any, Any,       nullptr, "RestoreWindow"},
-    {S::WindowLeft,      "*",                 "Left",            Windows,       T::Twips,   None,              None,             Any, Any,       nullptr, "nobody"},
-    {S::WindowTop,       "*",                 "Top",             Windows,       T::Twips,   None,              None,             Any, Any,       nullptr, "nobody"},
+    {S::WindowWidth,     "*",                 "Width",           Windows,       T::Twips,   None,              None,             Any, Any,       nullptr, "RestoreWindow"},
+    {S::WindowState,     "*",                 "WindowState",     Windows,       T::Number,  None,              None,             Any, Any,       nullptr, "RestoreWindow"},
+    {S::WindowLeft,      "*",                 "Left",            Windows,       T::Twips,   None,              None,             Any, Any,       nullptr, "ShowAsChild, RestoreWindow"},
+    {S::WindowTop,       "*",                 "Top",             Windows,       T::Twips,   None,              None,             Any, Any,       nullptr, "ShowAsChild, RestoreWindow"},
     {S::FindState,       Find,                "WindowState",     "",            T::Number,  None,              None,             Any, Any,       nullptr, "Find Graphics"},
     {S::FindWidth,       Find,                "WindowWidth",     "",            T::Twips,   None,              None,             Any, Any,       nullptr, "Find Graphics"},
     {S::FindHeight,      Find,                "WindowHeight",    "",            T::Twips,   None,              None,             Any, Any,       nullptr, "Find Graphics"},
+    {S::FindLeft,        Find,                "WindowLeft",      "",            T::Twips,   None,              None,             Any, Any,       nullptr, "Find Graphics"},
+    {S::FindTop,         Find,                "WindowTop",       "",            T::Twips,   None,              None,             Any, Any,       nullptr, "Find Graphics"},
     {S::FindColumn,      Find,                "Col*.Width",      Columns,       T::Twips,   None,              None,             Any, Any,       nullptr, "Find Graphics"},
     {S::SoundFolder,     "Sounds",            "Folder",          "",            T::Text,    None,              None,             Any, Any,       nullptr, "the slide show manager"},
     {S::TransferDirectory, "Transfer",        "Directory*",      LastTen,       T::Text,    None,              None,             Any, Any,       nullptr, "the transfer windows"},

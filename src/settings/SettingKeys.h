@@ -42,6 +42,8 @@ enum class Setting {
     FindState,
     FindWidth,
     FindHeight,
+    FindLeft,
+    FindTop,
     FindColumn,         // of a column: "0" to "3"
     SoundFolder,        // in which a sound track was chosen last
     TransferDirectory,  // the last one first: "0" to "9"

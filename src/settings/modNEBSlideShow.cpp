@@ -19,6 +19,7 @@ clsFileSystem* FileSystem = nullptr;
 bool DebugMode = false;
 bool ReadOnlyDB = false;
 QString AppPathCache;
+QString OwnPathCache;
 QString DBPathCache;
 QString DocumentsPath;
 
@@ -63,6 +64,11 @@ clsSettings VisitorsSettings() {
     clsSettings Settings = SettingsIn(Begun ? Path : DatabaseAsDocuments);
     Settings.SetFileName(Path + INIFileName());
     return Settings;
+}
+
+// Whether a place is that of albums which may not be changed, or below it.
+bool LieWithFixedAlbums(const QString& Place) {
+    return (ReadOnlyDB || SettingsOfVisit) && Place.startsWith(DBPath());
 }
 
 // Where the settings of a folder say that its database is.
@@ -129,13 +135,34 @@ QString DatabaseIn(const QString& Dir) {
     return FileExists(Place + INIFileName()) ? DatabaseOf(Place) : Place;
 }
 
+QString OwnPath() {
+    if (OwnPathCache.isEmpty())
+        OwnPathCache =
+            WithSeparator(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)) +
+            QLatin1String(Maker) + u'/' + QLatin1String(OwnFolder);
+    return OwnPathCache;
+}
+
+QString MemoryDir() {
+    return LieWithFixedAlbums(SettingsDir()) ? OwnPath() : SettingsDir();
+}
+
+clsSettings OpenMemory() {
+    return SettingsIn(MemoryDir());
+}
+
+bool MayRememberIn(const clsSettings& Settings) {
+    return !LieWithFixedAlbums(Settings.FileName());
+}
+
 void LogMessage(const QString& Level, const QString& Message) {
     const QString Time = TheServices().Time->Now().toString(QStringLiteral("MM-dd-yyyy hh:mm"));
     const QString Line = Time + u'\t' + Level + u'\t' + Message + u'\n';
     try {
-        AppendFile(AppPath() + QStringLiteral("QLM.log"), Line.toUtf8());
+        MakeDirs(OwnPath());
+        AppendFile(OwnPath() + QStringLiteral("QLM.log"), Line.toUtf8());
     } catch (const Fault&) {
-        // a program folder that cannot be written simply has no log
+        // a folder that cannot be written simply has no log
     }
 }
 

@@ -21,6 +21,7 @@ extern bool ReadOnlyDB;              // the database may not be changed
 
 // Caches, empty until first asked; all with closing separator. A test may set or empty them.
 extern QString AppPathCache;
+extern QString OwnPathCache;
 extern QString DBPathCache;
 extern QString DocumentsPath;
 
@@ -39,7 +40,19 @@ QString DatabaseIn(const QString& Dir);
 // Those of a database that is opened as it lies and cannot be changed are kept elsewhere when they
 // are saved, and last as long as the program runs.
 clsSettings OpenSettings();
-// One line of date and time, level and text at the end of "QLM.log"; every error is ignored.
+
+// The user's own folder for what the program notes for him, wherever it is installed and wherever
+// the albums lie.
+QString OwnPath();
+// Where the program keeps what it remembers of its windows and of the folders that were looked at:
+// beside the settings, but in OwnPath where these lie with albums that may not be changed.
+QString MemoryDir();
+clsSettings OpenMemory();  // the settings file there
+// Whether what is remembered may be written into a settings file.
+bool MayRememberIn(const clsSettings& Settings);
+
+// One line of date and time, level and text at the end of "QLM.log" in OwnPath; every error is
+// ignored.
 void LogMessage(const QString& Level, const QString& Message);
 void MakeDir(const QString& Path);  // every error is ignored
 

@@ -58,6 +58,8 @@ int main(int argc, char** argv) {
     ChoosePlatform();
     if (!qEnvironmentVariableIsSet("XDG_RUNTIME_DIR"))
         qputenv("XDG_RUNTIME_DIR", Scratch().path().toUtf8());
+    // what the program keeps among the user's own files is no business of a test's user
+    qputenv("XDG_CONFIG_HOME", Scratch().filePath(QStringLiteral("config")).toUtf8());
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     neb::NebApplication App(argc, argv);
     App.setQuitOnLastWindowClosed(false);

@@ -26,6 +26,7 @@ class MainWindow : public ::testing::Test {
     MainWindow() {
         SetDocumentsPath(mDocuments.Path());
         AppPathCache = mProgram.Path();
+        OwnPathCache = mOwn.Path();
         test::MarkAsMeasured();
         ReadOnlyDB = false;
         DebugMode = false;
@@ -36,6 +37,7 @@ class MainWindow : public ::testing::Test {
         for (const auto& Window : LoadedForms()) Window->Unload();
         TheOpeners() = {};
         AppPathCache.clear();
+        OwnPathCache.clear();
     }
 
     void Start(const CommandLine& Line = {}) {
@@ -76,6 +78,7 @@ class MainWindow : public ::testing::Test {
 
     harness::TempFolder mDocuments;
     harness::TempFolder mProgram;
+    harness::TempFolder mOwn;
     harness::ScriptedBoxes mBoxes;
     std::unique_ptr<frmNEBSlideShow> mWindow;
 };

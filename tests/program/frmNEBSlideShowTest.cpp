@@ -173,7 +173,7 @@ TEST_F(MainWindow, TheLogTellsTheStartWhenItIsWanted) {
     Line.Debug = true;
     Start(Line);
     QStringList Messages;
-    for (const QByteArray& Row : ReadFile(AppPath() + "QLM.log").trimmed().split('\n')) {
+    for (const QByteArray& Row : ReadFile(OwnPath() + "QLM.log").trimmed().split('\n')) {
         const QList<QByteArray> Columns = Row.split('\t');
         ASSERT_EQ(Columns.size(), 3);
         EXPECT_EQ(Columns[1], "Information");
@@ -191,7 +191,7 @@ TEST_F(MainWindow, TheLogTellsTheStartWhenItIsWanted) {
 
 TEST_F(MainWindow, WithoutTheSwitchThereIsNoLog) {
     Start();
-    EXPECT_FALSE(FileExists(AppPath() + "QLM.log"));
+    EXPECT_FALSE(FileExists(OwnPath() + "QLM.log"));
 }
 
 TEST_F(MainWindow, SlideShowManagersOpenFromTheMenuAndForWhoeverWantsOne) {

@@ -14,10 +14,15 @@ namespace neb {
 namespace {
 
 const QStringList Levels{"H", "M", "L"};
-const QStringList WideWindows{"frmSlideDBM", "frmPicturePopup", "frmPrintPreview"};
 const QStringList AllWindows{
-    "frmSlideDBM",     "frmPicturePopup", "frmSlideShowDBM",  "frmImportFilter", "frmQuickShow",
-    "frmSlideMgrBulk", "frmAlbumView",    "frmSlideShowView", "frmPrintPreview", "frmRehearsal"};
+    "frmNEBSlideShow",    "frmSlideDBM",     "frmPicturePopup",  "frmPrintPreview",
+    "frmSlideShowDBM",    "frmImportFilter", "frmQuickShow",     "frmSlideMgrBulk",
+    "frmRehearsal",       "frmAlbumView",    "frmSlideShowView", "frmHelp",
+    "frmDiscFolder",      "frmAlbumImport",  "frmAlbumExport",   "frmSlideShowImport",
+    "frmSlideShowExport", "frmPreferences",  "frmCheckPictures", "frmRestore",
+    "frmDirSelect",       "frmNewAlbumWzd1", "frmPrintAlbum",    "frmPrintSlideShow",
+    "frmPrintSlide",      "frmPrintSheet",   "frmAlbumRename",   "frmAlbumDelete",
+    "frmGetObjectName",   "frmInputBox",     "frmSoundRecorder"};
 
 QStringList Numbers(int First, int Last, int Digits) {
     QStringList Out;
@@ -61,9 +66,11 @@ const struct Documented {
     {"[Pictures]ExtraFormats", {""}, SettingType::Flag, "True", "True", nullptr, nullptr, nullptr},
     {"[Pictures]Order", {""}, SettingType::Text, "Name", "Name", nullptr, nullptr, nullptr},
     {"[Pictures]Captions", {""}, SettingType::Flag, "True", "True", nullptr, nullptr, nullptr},
+    {"[Home]Pictures", {""}, SettingType::Number, "160", "160", "160", nullptr, nullptr},
+    {"[Home]View", {""}, SettingType::Text, "Covers", "Covers", nullptr, nullptr, nullptr},
     {"[*]Height", AllWindows, SettingType::Twips, "", "", nullptr, nullptr, nullptr},
-    {"[*]Width", WideWindows, SettingType::Twips, "", "", nullptr, nullptr, nullptr},
-    {"[*]WindowState", WideWindows, SettingType::Number, "", "", nullptr, nullptr, nullptr},
+    {"[*]Width", AllWindows, SettingType::Twips, "", "", nullptr, nullptr, nullptr},
+    {"[*]WindowState", AllWindows, SettingType::Number, "", "", nullptr, nullptr, nullptr},
     {"[*]Left", AllWindows, SettingType::Twips, "", "", nullptr, nullptr, nullptr},
     {"[*]Top", AllWindows, SettingType::Twips, "", "", nullptr, nullptr, nullptr},
     {"[Find Graphics Window]WindowState",
@@ -83,6 +90,22 @@ const struct Documented {
      nullptr,
      nullptr},
     {"[Find Graphics Window]WindowHeight",
+     {""},
+     SettingType::Twips,
+     "",
+     "",
+     nullptr,
+     nullptr,
+     nullptr},
+    {"[Find Graphics Window]WindowLeft",
+     {""},
+     SettingType::Twips,
+     "",
+     "",
+     nullptr,
+     nullptr,
+     nullptr},
+    {"[Find Graphics Window]WindowTop",
      {""},
      SettingType::Twips,
      "",

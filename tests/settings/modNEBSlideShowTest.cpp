@@ -1,6 +1,7 @@
 #include "settings/modNEBSlideShow.h"
 
 #include <QDir>
+#include <QFile>
 
 #include "db/records/modJournal.h"
 #include "harness/FolderState.h"
@@ -25,18 +26,21 @@ class StoppedClock : public Clock {
 
 // A documents and a program folder of its own, and the globals as they were afterwards.
 struct ShellTest : ::testing::Test {
-    TempFolder Documents, Program;
+    TempFolder Documents, Program, Own;
     clsFileSystem Files;
 
     void SetUp() override {
         SetDocumentsPath(Documents.Path());
         AppPathCache = Program.Path();
+        OwnPathCache = Own.Path();
         FileSystem = &Files;
     }
     void TearDown() override {
         SetHostWatcher({});
         FileSystem = nullptr;
+        ReadOnlyDB = false;
         AppPathCache.clear();
+        OwnPathCache.clear();
         DBPathCache.clear();
         DocumentsPath.clear();
     }
@@ -227,7 +231,7 @@ TEST_F(ShellTest, ALogLineIsTimeLevelAndTextWithTabs) {
     EXPECT_EQ(
         "02-03-2004 14:05\tInformation\tShowing Main Form\n"
         "11-30-2004 00:00\tInformation\tGröße\n",
-        ReadFile(Program / QStringLiteral("QLM.log")).toStdString());
+        ReadFile(Own / QStringLiteral("QLM.log")).toStdString());
 }
 
 TEST_F(ShellTest, ALogThatCannotBeWrittenIsPassedOver) {
@@ -236,9 +240,57 @@ TEST_F(ShellTest, ALogThatCannotBeWrittenIsPassedOver) {
     });
     EXPECT_NO_THROW(LogMessage(QStringLiteral("Information"), QStringLiteral("x")));
     SetHostWatcher({});
-    AppPathCache = Program / QStringLiteral("missing/");
+    WriteFile(Own / QStringLiteral("file"), "x");
+    OwnPathCache = Own / QStringLiteral("file/");
     EXPECT_NO_THROW(LogMessage(QStringLiteral("Information"), QStringLiteral("x")));
-    EXPECT_FALSE(FolderExists(AppPathCache));
+}
+
+TEST_F(ShellTest, NothingIsLoggedBesideTheProgramOrTheAlbums) {
+    OwnPathCache = Own / QStringLiteral("new/");
+    LogMessage(QStringLiteral("Information"), QStringLiteral("x"));
+    EXPECT_TRUE(FileExists(Own / QStringLiteral("new/QLM.log")));
+    EXPECT_TRUE(ListDir(Program.Path()).empty());
+    EXPECT_TRUE(ListDir(Documents.Path()).empty());
+}
+
+TEST_F(ShellTest, TheUsersOwnFolderIsThatOfHisSettingsForPrograms) {
+    OwnPathCache.clear();
+    EXPECT_EQ(
+        QString::fromUtf8(qgetenv("XDG_CONFIG_HOME")) + QStringLiteral("/NEB/NEB Slide Show/"),
+        OwnPath());
+    EXPECT_FALSE(FolderExists(OwnPath())) << "asking makes nothing";
+}
+
+TEST_F(ShellTest, WhatIsRememberedLiesBesideTheSettings) {
+    EXPECT_EQ(SettingsDir(), MemoryDir());
+    EXPECT_EQ(OpenSettings().FileName(), OpenMemory().FileName());
+    WithDBPath("/elsewhere");
+    ReadOnlyDB = true;
+    EXPECT_EQ(SettingsDir(), MemoryDir()) << "the settings are not those of the albums";
+    EXPECT_TRUE(MayRememberIn(OpenSettings()));
+}
+
+TEST_F(ShellTest, BesideAlbumsThatMayNotBeChangedNothingIsRemembered) {
+    ReadOnlyDB = true;
+    EXPECT_EQ(Own.Path(), MemoryDir());
+    EXPECT_EQ(Own / INIFileName(), OpenMemory().FileName());
+    EXPECT_TRUE(MayRememberIn(OpenMemory()));
+    EXPECT_FALSE(MayRememberIn(OpenSettings()));
+}
+
+TEST_F(ShellTest, WhatIsRememberedOfADiscThatIsOpenedAsItLiesOutlastsTheVisit) {
+    WriteDatabase(Documents.Path(), {});
+    QFile::setPermissions(Documents / QStringLiteral("NextIDs.dat"), QFileDevice::ReadOwner);
+    for (const char* Visit : {"first", "second"}) {
+        SetDocumentsPath(Documents.Path());
+        ASSERT_EQ(Documents.Path(), DBPath());
+        clsSettings Memory = OpenMemory();
+        const QString Before = Memory.GetValue(QStringLiteral("w"), QStringLiteral("k"), {});
+        EXPECT_EQ(qstrcmp(Visit, "first") == 0 ? "" : "first", Before.toStdString());
+        Memory.PutValue(QStringLiteral("w"), QStringLiteral("k"), QString::fromLatin1(Visit));
+        Memory.Save();
+    }
+    EXPECT_FALSE(FileExists(Documents / INIFileName()));
 }
 
 TEST_F(ShellTest, MakeDirIgnoresWhateverGoesWrong) {

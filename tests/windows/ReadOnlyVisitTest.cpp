@@ -297,8 +297,9 @@ TEST_F(ReadOnlyVisit, ShowsAllAndTouchesNoFileOfTheDatabase) {
     WorkInAll();
     EXPECT_EQ("", Differences(Before, Everything(Db.Path())));
     EXPECT_EQ("", Differences(Pictures, Everything(Pics.Path())));
-    EXPECT_EQ(Folder().toUtf8() + '\n', ReadFile(App / u"DS.ini"_s)) << "which is the program's";
-    EXPECT_EQ(2u, ListDir(App.Path()).size());
+    EXPECT_EQ(Folder().toUtf8() + '\n', ReadFile(Own / u"DS.ini"_s)) << "which is the user's";
+    EXPECT_TRUE(ReadFile(Own / u"QLM.ini"_s).contains("[frmSlideMgrBulk]"));
+    EXPECT_EQ(1u, ListDir(App.Path()).size());
 }
 
 // As from a disc, or in a folder that belongs to somebody else.

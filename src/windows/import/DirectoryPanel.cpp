@@ -17,16 +17,23 @@ namespace {
 constexpr int AtOnceMs = 30;  // a count that takes no longer is shown without an hourglass
 constexpr int LookMs = 50;
 
-QString MemoryFile() {
-    return AppPath() + QStringLiteral("DS.ini");
+const QString MemoryName = QStringLiteral("DS.ini");
+
+// Earlier versions kept it beside the program; and albums that may not be changed any more have it
+// from the time when they might.
+QString MemoryToRead() {
+    for (const QString& Each : {MemoryDir(), SettingsDir(), AppPath()})
+        if (FileExists(Each + MemoryName)) return Each + MemoryName;
+    return {};
 }
 
 }  // namespace
 
 QString ReadLastDirectory() {
     try {
-        if (!FileExists(MemoryFile())) return {};
-        QByteArray Line = ReadFile(MemoryFile()).split('\n').value(0);
+        const QString Memory = MemoryToRead();
+        if (Memory.isEmpty()) return {};
+        QByteArray Line = ReadFile(Memory).split('\n').value(0);
         if (Line.endsWith('\r')) Line.chop(1);
         return HostName(Line);
     } catch (const Fault&) {
@@ -36,10 +43,11 @@ QString ReadLastDirectory() {
 
 void WriteLastDirectory(const QString& Directory) {
     try {
-        DeleteFile(MemoryFile());
-        WriteFile(MemoryFile(), HostBytes(Directory) + '\n');
+        MakeDirs(MemoryDir());
+        DeleteFile(MemoryDir() + MemoryName);
+        WriteFile(MemoryDir() + MemoryName, HostBytes(Directory) + '\n');
     } catch (const Fault&) {
-        // a program folder that cannot be written remembers nothing
+        // a folder that cannot be written remembers nothing
     }
 }
 

@@ -1,6 +1,6 @@
 // What the windows share that ask for a directory of pictures: a list of places, a tree, the box
 // for subdirectories, and the count of the pictures that lie there, made beside the window's other
-// work. The directory last shown is remembered in "DS.ini" in the program's folder.
+// work. The directory last shown is remembered in "DS.ini" among the user's own files.
 #pragma once
 
 #include <QTimer>

@@ -345,12 +345,15 @@ bool frmFindGraphics::Form_Unload() {
 void frmFindGraphics::RestorePlace() {
     const QSize Least(ToPixels(LeastTwips.width()), ToPixels(LeastTwips.height()));
     setMinimumSize(Least.expandedTo(layout()->minimumSize()));
-    const clsSettings Settings = OpenSettings();
+    const clsSettings Settings = OpenMemory();
     const int Kept = ReadNumber(Settings, Setting::FindState);
     if (Kept == Maximised) setWindowState(Qt::WindowMaximized);
     if (Kept != Maximised && Kept != Minimised)
         resize(StoredPixels(Settings, Setting::FindWidth, width()),
                StoredPixels(Settings, Setting::FindHeight, height()));
+    if (HasSetting(Settings, Setting::FindLeft) && HasSetting(Settings, Setting::FindTop))
+        PlaceOnScreen(*this, {ToPixels(ReadNumber(Settings, Setting::FindLeft)),
+                              ToPixels(ReadNumber(Settings, Setting::FindTop))});
     RestoreColumns(Settings);
 }
 
@@ -361,12 +364,14 @@ void frmFindGraphics::RestoreColumns(const clsSettings& Settings) {
 }
 
 void frmFindGraphics::SavePlace() const {
-    clsSettings Settings = OpenSettings();
+    clsSettings Settings = OpenMemory();
     const int Kept = isMinimized() ? Minimised : isMaximized() ? Maximised : Normal;
     PutNumber(Settings, Setting::FindState, Kept);
     if (Kept == Normal) {
         PutPixels(Settings, Setting::FindWidth, width());
         PutPixels(Settings, Setting::FindHeight, height());
+        PutPixels(Settings, Setting::FindLeft, x());
+        PutPixels(Settings, Setting::FindTop, y());
     }
     for (int Col = 0; Col < ColCount; ++Col)
         PutPixels(Settings, WidthOf(Col), mUi->flxResults->columnWidth(Col));

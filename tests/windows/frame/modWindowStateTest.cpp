@@ -48,9 +48,10 @@ struct WindowStateTest : ::testing::Test {
             SaveWindow(*Raw, Memory);
             return true;
         };
+        Window->setObjectName(Memory.Section);
         Area->addSubWindow(Raw);
         Window->Load();
-        PositionMDIChild(*Window, 1);
+        PlaceChild(*Window);
         Window->ShowModeless();
         Settle();
         return Window;
@@ -73,6 +74,11 @@ struct WindowStateTest : ::testing::Test {
         clsSettings Settings = OpenSettings();
         Settings.PutValue(Memory.Section, QString::fromLatin1(Key), Value);
         Settings.Save();
+    }
+    static void StorePlace(const WindowMemory& Memory, int Left, int Top) {
+        for (const auto& [Key, Pixels] : {std::pair("Left", Left), std::pair("Top", Top),
+                                          std::pair("Width", 600), std::pair("Height", 500)})
+            Store(Memory, Key, QString::number(ToTwips(Pixels)));
     }
     QPoint Place(int Mode) const {
         const auto Fresh = NewForm<TestForm>();
@@ -153,9 +159,13 @@ TEST_F(WindowStateTest, APlaceIsTakenOnlyWithinNinetyTwipsOnBothAxes) {
     EXPECT_EQ(QPoint(0, 0), Place(2));
 }
 
-TEST_F(WindowStateTest, OpensWithTheDefaultSizeOfItsKind) {
-    const auto Window = Open(Manager);
-    EXPECT_EQ(QSize(521, 480), FrameOf(Window).size());
+TEST_F(WindowStateTest, OpensAtLeastWithTheDefaultSizeOfItsKind) {
+    Area->hide();  // no room is known
+    const auto Plain = Open({QStringLiteral("frmPrintPreview"), 7200, 7815});
+    EXPECT_EQ(QSize(521, 480), FrameOf(Plain).size());
+    const QSize Size = FrameOf(Open(Manager)).size();
+    EXPECT_GE(Size.width(), 521);
+    EXPECT_GE(Size.height(), 480);
 }
 
 TEST_F(WindowStateTest, WritesPlaceSizeAndStateInTwips) {
@@ -169,21 +179,77 @@ TEST_F(WindowStateTest, WritesPlaceSizeAndStateInTwips) {
     EXPECT_EQ(u"450", Stored(Manager, "Top"));
 }
 
-TEST_F(WindowStateTest, TheKindsOfFixedWidthWriteNeitherWidthNorState) {
-    const auto Window = Open(FixedWidth);
+TEST_F(WindowStateTest, TheKindsWithAWidthOfTheirOwnRememberItToo) {
+    auto Window = Open(FixedWidth);
     FrameOf(Window).setGeometry(20, 30, 500, 410);
     EXPECT_TRUE(Window->Unload());
-    EXPECT_EQ(u"6150", Stored(FixedWidth, "Height"));
-    EXPECT_EQ(u"300", Stored(FixedWidth, "Left"));
-    EXPECT_EQ(u"450", Stored(FixedWidth, "Top"));
-    EXPECT_EQ(u"(none)", Stored(FixedWidth, "Width"));
-    EXPECT_EQ(u"(none)", Stored(FixedWidth, "WindowState"));
+    for (const auto& [Key, Twips] :
+         {std::pair("Height", u"6150"), std::pair("Left", u"300"), std::pair("Top", u"450"),
+          std::pair("Width", u"7500"), std::pair("WindowState", u"0")})
+        EXPECT_EQ(Twips, Stored(FixedWidth, Key)) << Key;
+    Settle();
+    Window = Open(FixedWidth);
+    EXPECT_EQ(QRect(20, 30, 500, 410), FrameOf(Window).geometry());
 }
 
-TEST_F(WindowStateTest, TheOldPlaceIsNotTakenAgain) {
-    Store(Manager, "Left", QStringLiteral("3000"));
-    Store(Manager, "Top", QStringLiteral("3000"));
-    EXPECT_EQ(QPoint(0, 0), FrameOf(Open(Manager)).pos());
+TEST_F(WindowStateTest, TheOldPlaceIsTakenAgain) {
+    StorePlace(Manager, 200, 100);
+    EXPECT_EQ(QPoint(200, 100), FrameOf(Open(Manager)).pos());
+}
+
+TEST_F(WindowStateTest, APlaceOutsideTheRoomIsBroughtInside) {
+    const QSize Room = Area->viewport()->size();
+    for (const auto& [Left, Top, Expected] :
+         {std::tuple(-200, -30, QPoint(0, 0)), std::tuple(6000, 5, QPoint(Room.width() - 600, 5)),
+          std::tuple(5, 6000, QPoint(5, Room.height() - 500))}) {
+        StorePlace(Manager, Left, Top);
+        const auto Window = Open(Manager);
+        EXPECT_EQ(QRect(Expected, QSize(600, 500)), FrameOf(Window).geometry());
+        Window->OnUnload = {};
+        Window->Unload();
+        Settle();
+    }
+}
+
+TEST_F(WindowStateTest, ASecondOneOfAKindStandsInTheCascade) {
+    StorePlace(FixedWidth, 200, 100);
+    const auto One = Open(FixedWidth), Two = Open(FixedWidth);
+    EXPECT_EQ(QPoint(200, 100), FrameOf(One).pos());
+    EXPECT_EQ(QPoint(222, 122), FrameOf(Two).pos());
+}
+
+TEST_F(WindowStateTest, WhereAnotherStandsAlreadyItStandsInTheCascade) {
+    const auto Other = ChildAt(1500, 3000);
+    StorePlace(Manager, 200, 105);
+    EXPECT_EQ(QPoint(222, 122), FrameOf(Open(Manager)).pos());
+}
+
+TEST_F(WindowStateTest, AWindowOfTheCascadeEndsInsideTheRoom) {
+    const QRect Room = Area->viewport()->rect();
+    std::vector<std::shared_ptr<TestForm>> All;
+    for (int I = 0; I < 40; ++I) {
+        All.push_back(Open(FixedWidth));
+        EXPECT_TRUE(Room.contains(FrameOf(All.back()).geometry())) << I;
+        EXPECT_GE(FrameOf(All.back()).height(), 436) << I;
+    }
+}
+
+TEST_F(WindowStateTest, AMinimisedOneDoesNotCountAndItsBarStaysFree) {
+    const auto Other = Open(FixedWidth);
+    FrameOf(Other).showMinimized();
+    Settle();
+    const int Bar = FrameOf(Other).geometry().top();
+    ASSERT_GT(Bar, Area->height() / 2);
+    const auto Window = Open({QStringLiteral("frmSlideMgrBulk"), 90000});
+    EXPECT_EQ(QPoint(0, 0), FrameOf(Window).pos());
+    EXPECT_LT(FrameOf(Window).geometry().bottom(), Bar);
+}
+
+TEST_F(WindowStateTest, AWindowWithLinesOpensHigherThanItIsAtLeast) {
+    const QSize Room = Area->viewport()->size();
+    const QSize Lines = FrameOf(Open(FixedWidth)).size();
+    EXPECT_EQ(Room.height() - 44, Lines.height());
+    EXPECT_LE(Lines.width(), Room.width() - 44);
 }
 
 TEST_F(WindowStateTest, AMaximisedWindowComesBackMaximisedWithItsOldNormalSize) {
@@ -216,7 +282,7 @@ TEST_F(WindowStateTest, AMaximisedWindowBesideOthersIsNotShiftedByTheCascade) {
     FrameOf(Window).showNormal();
     Settle();
     EXPECT_EQ(QPoint(44, 44), FrameOf(Window).pos());
-    EXPECT_EQ(QSize(521, 480), FrameOf(Window).size());
+    EXPECT_TRUE(Area->viewport()->rect().contains(FrameOf(Window).geometry()));
 }
 
 TEST_F(WindowStateTest, AMinimisedWindowLeavesAllTheValuesAsTheyWere) {
@@ -272,7 +338,9 @@ TEST_F(WindowStateTest, AWindowOfItsOwnRemembersItsSizeToo) {
     const auto Window = NewForm<TestForm>();
     Window->Load();
     RestoreWindow(*Window, Popup);
-    EXPECT_EQ(QSize(484, 445), Window->size());
+    EXPECT_GE(Window->width(), 484);
+    EXPECT_GE(Window->height(), 445);
+    EXPECT_TRUE(Main.screen()->availableGeometry().contains(Window->geometry()));
     Window->ShowModeless();
     Window->resize(600, 420);
     SaveWindow(*Window, Popup);

@@ -33,7 +33,10 @@ class DirSelect : public Intake {
     static QCheckBox& Recurse(const QWidget& Shown) {
         return In<QCheckBox>(Shown, "chkRecurseDir");
     }
-    QString Memory() { return App / u"DS.ini"_s; }
+    static QString Memory() {
+        MakeDirs(MemoryDir());
+        return MemoryDir() + u"DS.ini"_s;
+    }
     QString Folder() { return Pics.Path().chopped(1); }
     std::shared_ptr<frmDirSelect> Window;
 };
@@ -71,6 +74,24 @@ TEST_F(DirSelect, BeginsWhereItLastEnded) {
     });
     EXPECT_EQ(Folder(), Shown);
     EXPECT_EQ("2 graphics files detected.", Count.toStdString());
+}
+
+TEST_F(DirSelect, BeginsWhereAnEarlierVersionEndedWhichKeptThatBesideTheProgram) {
+    WriteFile(App / u"DS.ini"_s, Folder().toUtf8() + '\n');
+    EXPECT_EQ(Folder(), ReadLastDirectory());
+    WriteLastDirectory(Pics / u"sub"_s);
+    EXPECT_EQ(Pics / u"sub"_s, ReadLastDirectory());
+    EXPECT_EQ(Folder().toUtf8() + '\n', ReadFile(App / u"DS.ini"_s)) << "nothing is written there";
+}
+
+TEST_F(DirSelect, OfAlbumsThatMayNotBeChangedItBeginsWhereItEndedBefore) {
+    WriteLastDirectory(Folder());
+    ReadOnlyDB = true;
+    EXPECT_EQ(Folder(), ReadLastDirectory());
+    WriteLastDirectory(Pics / u"sub"_s);
+    EXPECT_EQ(Pics / u"sub"_s, ReadLastDirectory());
+    EXPECT_EQ((Pics / u"sub"_s).toUtf8() + '\n', ReadFile(Own / u"DS.ini"_s));
+    EXPECT_EQ(Folder().toUtf8() + '\n', ReadFile(SettingsDir() + u"DS.ini"_s));
 }
 
 TEST_F(DirSelect, KeepsTheBlanksOfADirectorysName) {
@@ -280,13 +301,16 @@ TEST_F(DirSelect, IsWorkedWithTheKeyboardAlone) {
 }
 
 TEST_F(DirSelect, RemembersNothingInAFolderThatCannotBeWritten) {
-    AppPathCache = App / u"gone/"_s;
+    SetHostWatcher([](HostStep Step, const QString& Path, qint64&) {
+        if (Step == HostStep::Write && Path.endsWith(u"DS.ini")) throw Fault(u"read-only"_s, Path);
+    });
     const QString Answer = Ask([&](frmDirSelect& Shown) {
         Dir1(Shown).SetPath(Folder());
         Press(Shown, "cmdSelect");
     });
     EXPECT_EQ(Folder(), Answer);
-    EXPECT_FALSE(FileExists(Memory()));
+    SetHostWatcher({});
+    EXPECT_EQ("", ReadLastDirectory());
 }
 
 TEST_F(DirSelect, TakesTheTypedDirectoryThoughTheKeyboardNeverLeftIt) {

@@ -29,6 +29,7 @@ class Intake : public ::testing::Test {
         BroadcastChangesOf(Engine);
         FileSystem = &Files;
         AppPathCache = App.Path();
+        OwnPathCache = Own.Path();
         SetDocumentsPath(Docs.Path());
         QObject::connect(&mWatchdog, &QTimer::timeout, &mWatchdog, [] { CloseAll("too long"); });
         mWatchdog.start(20000);
@@ -45,6 +46,7 @@ class Intake : public ::testing::Test {
         FileSystem = nullptr;
         ReadOnlyDB = false;
         AppPathCache.clear();
+        OwnPathCache.clear();
         DocumentsPath.clear();
         DBPathCache.clear();
     }
@@ -130,7 +132,7 @@ class Intake : public ::testing::Test {
         });
     }
 
-    TempFolder Db, App, Docs, Pics;
+    TempFolder Db, App, Own, Docs, Pics;
     clsFileSystem Files;
     clsDBEngine Engine;
     ScriptedBoxes Boxes;

@@ -58,7 +58,10 @@ class NewAlbumWzd : public Intake {
         EXPECT_EQ(nullptr, Open<frmImportFilter>());
     }
     QString Folder() { return Pics.Path().chopped(1); }
-    QString Memory() { return App / u"DS.ini"_s; }
+    static QString Memory() {
+        MakeDirs(MemoryDir());
+        return MemoryDir() + u"DS.ini"_s;
+    }
     std::shared_ptr<Listener> Others = NewForm<Listener>();
 };
 

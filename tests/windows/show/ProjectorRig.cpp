@@ -75,6 +75,7 @@ ProjectorRig::ProjectorRig() : mBefore(TheServices()) {
         PatientMs);
     SetDocumentsPath(Folder.Path());
     AppPathCache = Folder / QStringLiteral("program/");
+    OwnPathCache = Folder / QStringLiteral("own/");
     DBPathCache.clear();
     MakeDirs(AppPathCache);
     MakePicture(AppPathCache + QStringLiteral("NoSlide.bmp"), Qt::gray);
@@ -95,6 +96,7 @@ ProjectorRig::~ProjectorRig() {
     DBEngine = nullptr;
     ReadOnlyDB = false;
     AppPathCache.clear();
+    OwnPathCache.clear();
     DBPathCache.clear();
     DocumentsPath.clear();
     TheServices().Time = mBefore.Time;

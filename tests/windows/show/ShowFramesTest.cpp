@@ -35,7 +35,7 @@ class ShowFrames : public ProjectorRig {
         });
     }
     static QString Log() {
-        const QString Path = AppPath() + QStringLiteral("QLM.log");
+        const QString Path = OwnPath() + QStringLiteral("QLM.log");
         return FileExists(Path) ? QString::fromUtf8(ReadFile(Path)) : QString();
     }
 

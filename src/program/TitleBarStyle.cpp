@@ -1,0 +1,129 @@
+#include "program/TitleBarStyle.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <QStyleFactory>
+#include <QStyleOptionTitleBar>
+
+namespace neb {
+namespace {
+
+constexpr int RoomAroundTitle = 8;
+constexpr int MarkMargin = 4;  // of a button's height one part
+
+bool IsDark(const QPalette& Colours) {
+    return Colours.color(QPalette::Window).lightness() <
+           Colours.color(QPalette::WindowText).lightness();
+}
+
+bool IsMinimised(const QStyleOptionTitleBar& Bar) {
+    return Bar.titleBarState & Qt::WindowMinimized;
+}
+
+bool IsMaximised(const QStyleOptionTitleBar& Bar) {
+    return Bar.titleBarState & Qt::WindowMaximized;
+}
+
+// Whether a button stands in the bar as the window is.
+bool HasButton(const QStyleOptionTitleBar& Bar, QStyle::SubControl Button) {
+    const bool MayMinimise = Bar.titleBarFlags & Qt::WindowMinimizeButtonHint;
+    const bool MayMaximise = Bar.titleBarFlags & Qt::WindowMaximizeButtonHint;
+    switch (Button) {
+        case QStyle::SC_TitleBarMinButton:
+            return MayMinimise && !IsMinimised(Bar);
+        case QStyle::SC_TitleBarMaxButton:
+            return MayMaximise && !IsMaximised(Bar);
+        case QStyle::SC_TitleBarNormalButton:
+            return (MayMinimise && IsMinimised(Bar)) || (MayMaximise && IsMaximised(Bar));
+        default:
+            return Bar.titleBarFlags & Qt::WindowSystemMenuHint;
+    }
+}
+
+void DrawCross(QPainter& Painter, const QRectF& In) {
+    Painter.drawLine(In.topLeft(), In.bottomRight());
+    Painter.drawLine(In.topRight(), In.bottomLeft());
+}
+
+// A frame with a bar along its top, as a window.
+void DrawWindow(QPainter& Painter, const QRectF& In) {
+    Painter.drawRect(In);
+    Painter.drawLine(In.topLeft() + QPointF(0, 1), In.topRight() + QPointF(0, 1));
+}
+
+void DrawMark(QStyle::SubControl Button, QPainter& Painter, const QRectF& In) {
+    const QPointF Shift(In.width() / 4, -In.height() / 4);
+    switch (Button) {
+        case QStyle::SC_TitleBarMinButton:
+            Painter.drawLine(In.bottomLeft(), In.bottomRight());
+            break;
+        case QStyle::SC_TitleBarMaxButton:
+            DrawWindow(Painter, In);
+            break;
+        case QStyle::SC_TitleBarNormalButton:
+            DrawWindow(Painter, QRectF(In.topLeft() - Shift / 2 * -1, In.size() * 0.75));
+            DrawWindow(Painter, QRectF(In.topLeft() - Shift / 2, In.size() * 0.75));
+            break;
+        default:
+            DrawCross(Painter, In);
+    }
+}
+
+}  // namespace
+
+TitleBarStyle::TitleBarStyle(QObject* Parent)
+    : QProxyStyle(QStyleFactory::create(QApplication::style()->name())) {
+    setParent(Parent);
+}
+
+void TitleBarStyle::drawComplexControl(ComplexControl Control, const QStyleOptionComplex* Option,
+                                       QPainter* Painter, const QWidget* Widget) const {
+    const auto* Bar = qstyleoption_cast<const QStyleOptionTitleBar*>(Option);
+    const bool IsRead = !Bar || Bar->titleBarState & State_Active || !IsDark(Option->palette);
+    if (Control != CC_TitleBar || IsRead)
+        return QProxyStyle::drawComplexControl(Control, Option, Painter, Widget);
+    DrawBar(*Bar, *Painter, Widget);
+}
+
+int TitleBarStyle::pixelMetric(PixelMetric Metric, const QStyleOption* Option,
+                               const QWidget* Widget) const {
+    const int Usual = QProxyStyle::pixelMetric(Metric, Option, Widget);
+    if (Metric != PM_TitleBarHeight) return Usual;
+    const QFontMetrics Title(QApplication::font("QMdiSubWindowTitleBar"));
+    return std::max(Usual, Title.height() + RoomAroundTitle);
+}
+
+void TitleBarStyle::DrawBar(const QStyleOptionTitleBar& Bar, QPainter& Painter,
+                            const QWidget* Widget) const {
+    const QColor Text = Bar.palette.color(QPalette::WindowText);
+    const auto Place = [&](SubControl Part) {
+        return subControlRect(CC_TitleBar, &Bar, Part, Widget);
+    };
+    Painter.save();
+    Painter.fillRect(Bar.rect, Bar.palette.color(QPalette::Window).lighter());
+    Painter.setPen(Bar.palette.color(QPalette::Mid));
+    Painter.drawRect(Bar.rect.adjusted(0, 0, -1, -1));
+    if (Bar.subControls & SC_TitleBarSysMenu && !Bar.icon.isNull())
+        Bar.icon.paint(&Painter, Place(SC_TitleBarSysMenu));
+    Painter.setPen(Text);
+    const QRect Label = Place(SC_TitleBarLabel);
+    Painter.drawText(Label, Qt::AlignCenter | Qt::TextSingleLine,
+                     Painter.fontMetrics().elidedText(Bar.text, Qt::ElideRight, Label.width()));
+    for (const SubControl Each : {SC_TitleBarMinButton, SC_TitleBarMaxButton,
+                                  SC_TitleBarNormalButton, SC_TitleBarCloseButton})
+        if (Bar.subControls & Each && HasButton(Bar, Each)) DrawButton(Bar, Each, Painter, Widget);
+    Painter.restore();
+}
+
+void TitleBarStyle::DrawButton(const QStyleOptionTitleBar& Bar, SubControl Button,
+                               QPainter& Painter, const QWidget* Widget) const {
+    const QRect Place = subControlRect(CC_TitleBar, &Bar, Button, Widget);
+    const bool Under = Bar.activeSubControls & Button && Bar.state & State_MouseOver;
+    if (Under) Painter.fillRect(Place, Bar.palette.color(QPalette::Mid));
+    const int Margin = std::max(1, Place.height() / MarkMargin);
+    Painter.setRenderHint(QPainter::Antialiasing);
+    Painter.setPen(QPen(Bar.palette.color(QPalette::WindowText), std::max(1.0, Margin / 3.0)));
+    DrawMark(Button, Painter, QRectF(Place).adjusted(Margin, Margin, -Margin, -Margin));
+}
+
+}  // namespace neb

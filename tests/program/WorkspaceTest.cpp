@@ -1,0 +1,289 @@
+// The children of the main window as a user handles them: where they open, what state they have,
+// who has the keyboard, and how they are laid out.
+#include "program/Workspace.h"
+
+#include <QLineEdit>
+#include <QMdiSubWindow>
+#include <QScrollBar>
+#include <QTest>
+#include <QWindow>
+
+#include "MainWindowRig.h"
+#include "controls/grid/FlexGrid.h"
+#include "harness/AwaitActive.h"
+#include "windows/compose/frmSlideShowDBM.h"
+#include "windows/frame/modWindowState.h"
+#include "windows/home/HomePage.h"
+#include "windows/import/frmQuickShow.h"
+#include "windows/slides/frmSlideDBM.h"
+#include "windows/slides/frmSlideMgrBulk.h"
+#include "windows/transfer/frmAlbumExport.h"
+
+namespace neb {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class Children : public MainWindow {
+  protected:
+    void Begin() {
+        Start();
+        if (DBEngine->Albums.empty()) SaveAlbum(u"Garden"_s);
+        mWindow->activateWindow();
+        EXPECT_TRUE(harness::AwaitActive(*mWindow));
+    }
+    Workspace& Area() { return mWindow->Area(); }
+    QRect Room() { return Area().viewport()->rect(); }
+    QWidget& Page() { return *mWindow->findChild<HomePage*>(); }
+    template <class Window>
+    static QMdiSubWindow& FrameOf() {
+        return *qobject_cast<QMdiSubWindow*>(Find<Window>()->parentWidget());
+    }
+    // Without a window manager the progress windows leave no window active.
+    void PressKey(Qt::Key Key, Qt::KeyboardModifiers Modifiers) {
+        mWindow->activateWindow();
+        EXPECT_TRUE(harness::AwaitActive(*mWindow));
+        QWidget* Focus = QApplication::focusWidget();
+        QTest::keyClick(Focus ? Focus : mWindow.get(), Key, Modifiers);
+        QTest::qWait(20);
+    }
+    bool IsInside(const QMdiSubWindow& Frame) { return Room().contains(Frame.geometry()); }
+    // Whether what is in the middle of the room's lower edge is the page.
+    bool PageFillsTheRoom() {
+        return Page().geometry() == Room() && Area().viewport()->children().indexOf(&Page()) == 0;
+    }
+};
+
+TEST_F(Children, OpenAsLargeAsTheirWorkAsksInsideTheRoom) {
+    Begin();
+    Press("mnuSlideMgrBulk");
+    const auto& Grid = *Find<frmSlideMgrBulk>()->findChild<FlexGrid*>(u"flxAlbum"_s);
+    EXPECT_GT(Grid.viewport()->height(), Area().height() * 6 / 10) << "lines have most of it";
+    Press("mnuSlideMgr");
+    const auto& Picture = *Find<frmSlideDBM>()->findChild<QWidget*>(u"stkPicture"_s);
+    EXPECT_GT(Picture.height(), 300);
+    Press("mnuSlideShowMgr");
+    Press("mnuQuickShow");
+    Press("mnuAlbumExport");
+    for (const QMdiSubWindow* Each : Area().subWindowList()) EXPECT_TRUE(IsInside(*Each));
+}
+
+TEST_F(Children, AMaximisedNeighbourKeepsItsStateAndGivesItToNobody) {
+    Begin();
+    Press("mnuSlideMgr");
+    FrameOf<frmSlideDBM>().showMaximized();
+    Press("mnuSlideMgrBulk");
+    EXPECT_FALSE(FrameOf<frmSlideMgrBulk>().isMaximized());
+    EXPECT_TRUE(FrameOf<frmSlideDBM>().isMaximized());
+    Area().setActiveSubWindow(&FrameOf<frmSlideDBM>());
+    Area().setActiveSubWindow(&FrameOf<frmSlideMgrBulk>());
+    EXPECT_FALSE(FrameOf<frmSlideMgrBulk>().isMaximized());
+    EXPECT_TRUE(mWindow->close());
+    Begin();
+    Press("mnuSlideMgrBulk");
+    EXPECT_FALSE(FrameOf<frmSlideMgrBulk>().isMaximized());
+    Press("mnuSlideMgr");
+    EXPECT_TRUE(FrameOf<frmSlideDBM>().isMaximized());
+    EXPECT_FALSE(FrameOf<frmSlideMgrBulk>().isMaximized());
+}
+
+TEST_F(Children, OpenBesideTheBarsOfMinimisedOnes) {
+    Begin();
+    Press("mnuQuickShow");
+    FrameOf<frmQuickShow>().showMinimized();
+    DoEvents();
+    Press("mnuSlideMgrBulk");
+    EXPECT_FALSE(
+        FrameOf<frmSlideMgrBulk>().geometry().intersects(FrameOf<frmQuickShow>().geometry()));
+    EXPECT_EQ(QPoint(0, 0), FrameOf<frmSlideMgrBulk>().pos());
+    EXPECT_TRUE(PageFillsTheRoom()) << "the bar is not behind it";
+}
+
+TEST_F(Children, ClosingOneLeavesTheLastUsedWithItsFocus) {
+    Begin();
+    Press("mnuSlideMgr");
+    auto* Caption = Find<frmSlideDBM>()->findChild<QLineEdit*>(u"txtDscr"_s);
+    Press("mnuSlideMgrBulk");
+    Press("mnuQuickShow");
+    Area().setActiveSubWindow(&FrameOf<frmSlideDBM>());
+    Caption->setFocus();
+    Area().setActiveSubWindow(&FrameOf<frmQuickShow>());
+    DoEvents();
+    PressKey(Qt::Key_F4, Qt::ControlModifier);
+    EXPECT_FALSE(Find<frmQuickShow>());
+    EXPECT_EQ(&FrameOf<frmSlideDBM>(), Area().activeSubWindow());
+    EXPECT_EQ(Caption, QApplication::focusWidget());
+}
+
+TEST_F(Children, WhereNoneIsLeftThePageHasTheKeyboard) {
+    Begin();
+    auto* Field = new QLineEdit(&Page());
+    Field->show();
+    Field->setFocus();
+    Press("mnuQuickShow");
+    EXPECT_NE(Field, QApplication::focusWidget());
+    PressKey(Qt::Key_W, Qt::ControlModifier);
+    EXPECT_FALSE(Find<frmQuickShow>());
+    EXPECT_EQ(Field, QApplication::focusWidget()) << "where it was";
+}
+
+TEST_F(Children, AreWalkedByKeysThoughATextFieldHasTheFocus) {
+    Begin();
+    Press("mnuSlideMgrBulk");
+    Press("mnuSlideMgr");
+    Press("mnuQuickShow");
+    Find<frmQuickShow>()->findChild<QLineEdit*>(u"txtName"_s)->setFocus();
+    PressKey(Qt::Key_Tab, Qt::ControlModifier);
+    QMdiSubWindow* Second = Area().activeSubWindow();
+    EXPECT_NE(&FrameOf<frmQuickShow>(), Second);
+    PressKey(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(&FrameOf<frmQuickShow>(), Area().activeSubWindow());
+}
+
+TEST_F(Children, TextFieldsLeaveTheMenuItsKeysAndKeepThoseOfEditing) {
+    Begin();
+    Press("mnuQuickShow");
+    auto* Name = Find<frmQuickShow>()->findChild<QLineEdit*>(u"txtName"_s);
+    ASSERT_TRUE(Name);
+    Name->setText(u"Sea"_s);
+    Name->setFocus();
+    PressKey(Qt::Key_E, Qt::ControlModifier);
+    EXPECT_TRUE(Find<frmSlideDBM>());
+    Name->setFocus();
+    PressKey(Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(u"Sea"_s, Name->selectedText());
+}
+
+TEST_F(Children, TilesCutNoButtonOffAndTheRoomScrolls) {
+    Begin();
+    mWindow->resize(900, 600);
+    Press("mnuSlideMgr");
+    Press("mnuSlideShowMgr");
+    Press("mnuQuickShow");
+    FrameOf<frmSlideDBM>().showMaximized();
+    Press("mnuTile");
+    QList<QMdiSubWindow*> Frames = Area().subWindowList();
+    for (const QMdiSubWindow* Each : Frames) {
+        EXPECT_GE(Each->width(), Each->minimumSizeHint().width());
+        EXPECT_GE(Each->height(), Each->minimumSizeHint().height());
+        EXPECT_FALSE(Each->isMaximized());
+        for (const QMdiSubWindow* Other : Frames)
+            EXPECT_TRUE(Other == Each || !Other->geometry().intersects(Each->geometry()));
+    }
+    QTest::qWait(20);
+    EXPECT_GT(Area().horizontalScrollBar()->maximum(), 0);
+    Area().horizontalScrollBar()->setValue(200);
+    EXPECT_TRUE(PageFillsTheRoom());
+    Press("mnuCascade");
+    for (const QMdiSubWindow* Each : Frames)
+        EXPECT_GE(Each->height(), Each->minimumSizeHint().height());
+}
+
+TEST_F(Children, TheLayoutsLeaveMinimisedOnesAlone) {
+    Begin();
+    Press("mnuSlideMgrBulk");
+    Press("mnuAlbumExport");
+    FrameOf<frmAlbumExport>().showMinimized();
+    DoEvents();
+    const QRect Bar = FrameOf<frmAlbumExport>().geometry();
+    for (const char* Layout : {"mnuTile", "mnuCascade"}) {
+        Press(Layout);
+        EXPECT_TRUE(FrameOf<frmAlbumExport>().isMinimized()) << Layout;
+        EXPECT_FALSE(FrameOf<frmSlideMgrBulk>().geometry().intersects(Bar)) << Layout;
+    }
+}
+
+TEST_F(Children, AMaximisedOneHasTheProgramsNameInTheTitleOnce) {
+    const QString Before = QApplication::applicationDisplayName();
+    QApplication::setApplicationDisplayName(u"NEB Slide Show"_s);
+    Begin();
+    EXPECT_EQ(u"NEB Slide Show"_s, mWindow->windowHandle()->title());
+    Press("mnuSlideMgrBulk");
+    FrameOf<frmSlideMgrBulk>().showMaximized();
+    DoEvents();
+    EXPECT_EQ(u"Bulk Slide Manager - Garden"_s, mWindow->windowHandle()->title());
+    Find<frmSlideMgrBulk>()->setWindowTitle(u"Other[*]"_s);
+    Find<frmSlideMgrBulk>()->setWindowModified(true);
+    DoEvents();
+    EXPECT_EQ(u"Other*"_s, mWindow->windowHandle()->title());
+    FrameOf<frmSlideMgrBulk>().showNormal();
+    DoEvents();
+    EXPECT_EQ(u"NEB Slide Show"_s, mWindow->windowHandle()->title());
+    QApplication::setApplicationDisplayName(Before);
+}
+
+TEST_F(Children, TitlesOfInactiveOnesAreReadInADarkPalette) {
+    const QPalette Before = QApplication::palette();
+    QApplication::setPalette(QPalette(QColor(40, 42, 45)));
+    Begin();
+    Press("mnuSlideMgrBulk");
+    Press("mnuAlbumExport");
+    const QMdiSubWindow& Behind = FrameOf<frmSlideMgrBulk>();
+    const QImage Bar = FrameOf<frmSlideMgrBulk>().grab().toImage().copy(0, 4, Behind.width(), 18);
+    int Brightest = 0, InTheCorner = 0;
+    for (int Y = 0; Y < Bar.height(); ++Y)
+        for (int X = 0; X < Bar.width(); ++X) {
+            const int Light = qGray(Bar.pixel(X, Y));
+            Brightest = std::max(Brightest, X > 40 && X < Bar.width() * 3 / 4 ? Light : 0);
+            InTheCorner = std::max(InTheCorner, X > Bar.width() - 30 ? Light : 0);
+        }
+    EXPECT_GT(Brightest, 180) << "the title";
+    EXPECT_GT(InTheCorner, 180) << "the close button";
+    QApplication::setPalette(Before);
+}
+
+TEST_F(Children, TitleBarsAreAsHighAsTheirFont) {
+    const QFont Before = QApplication::font("QMdiSubWindowTitleBar");
+    QFont Large = Before;
+    Large.setPointSize(20);
+    QApplication::setFont(Large, "QMdiSubWindowTitleBar");
+    Begin();
+    Press("mnuAlbumExport");
+    EXPECT_GT(Find<frmAlbumExport>()->y(), QFontMetrics(Large).height());
+    QApplication::setFont(Before, "QMdiSubWindowTitleBar");
+}
+
+TEST_F(Children, TheMainWindowComesBackAsItWas) {
+    Begin();
+    mWindow->resize(905, 633);
+    mWindow->move(71, 52);
+    EXPECT_TRUE(mWindow->close());
+    Begin();
+    EXPECT_EQ(QSize(905, 633), mWindow->size());
+    EXPECT_EQ(QPoint(71, 52), mWindow->pos());
+    mWindow->showMaximized();
+    DoEvents();
+    EXPECT_TRUE(mWindow->close());
+    Begin();
+    EXPECT_TRUE(mWindow->isMaximized());
+}
+
+TEST_F(Children, TheMainWindowIsBroughtInsideTheScreen) {
+    clsSettings Settings = OpenSettings();
+    for (const char* Key : {"Left", "Top", "Width", "Height"})
+        Settings.PutValue(u"frmNEBSlideShow"_s, QString::fromLatin1(Key), u"60000"_s);
+    Settings.Save();
+    Begin();
+    EXPECT_TRUE(mWindow->screen()->availableGeometry().contains(mWindow->geometry()));
+}
+
+TEST_F(Children, OfAlbumsThatMayNotBeChangedThePlacesAreKeptAmongTheUsersFiles) {
+    Begin();
+    EXPECT_TRUE(mWindow->close());
+    QFile::setPermissions(DBPath() + u"NextIDs.dat"_s, QFileDevice::ReadOwner);
+    const QByteArray Settings = ReadFile(SettingsDir() + INIFileName());
+    Begin();
+    ASSERT_TRUE(ReadOnlyDB);
+    mWindow->resize(905, 633);
+    Press("mnuSlideMgrBulk");
+    FrameOf<frmSlideMgrBulk>().setGeometry(40, 50, 700, 450);
+    EXPECT_TRUE(mWindow->close());
+    EXPECT_EQ(Settings, ReadFile(SettingsDir() + INIFileName()));
+    Begin();
+    EXPECT_EQ(QSize(905, 633), mWindow->size());
+    Press("mnuSlideMgrBulk");
+    EXPECT_EQ(QRect(40, 50, 700, 450), FrameOf<frmSlideMgrBulk>().geometry());
+}
+
+}  // namespace
+}  // namespace neb
