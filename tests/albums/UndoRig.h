@@ -1,5 +1,6 @@
-// What the tests of undoing stand on: an album with slides, pictures, sounds and a show with tracks,
-// what a user does to it through the routines of the windows, and all that is there as one value.
+// What the tests of undoing stand on: an album with slides, pictures, sounds and a show with
+// tracks, what a user does to it through the routines of the windows, and all that is there as one
+// value.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -97,8 +98,7 @@ class UndoUser {
     void DeleteAlbum(std::int32_t AlbumID) const {
         Changes Door(Engine);
         EXPECT_TRUE(Door.DeleteAlbum(AlbumID));
-        if (Engine.IsSessionStored())
-            DeleteAlbumFiles(Door, Engine.DBPath(), AlbumID, [] {});
+        if (Engine.IsSessionStored()) DeleteAlbumFiles(Door, Engine.DBPath(), AlbumID, [] {});
     }
     QString Sound(const QString& Tune) const {
         const QString Path = mSounds + Tune + u".mp3"_s;
@@ -113,9 +113,9 @@ class UndoUser {
         for (std::int32_t Each : SlideIDs) Show.Slides.push_back({Each, {}, {}});
         double Place = 0;
         for (const QString& Each : Sounds)
-            ++Place, Show.Tracks.push_back({.SlideSeqStart = Place,
-                                            .SlideSeqEnd = Place,
-                                            .SoundTrackLoc = Sound(Each)});
+            ++Place,
+                Show.Tracks.push_back(
+                    {.SlideSeqStart = Place, .SlideSeqEnd = Place, .SoundTrackLoc = Sound(Each)});
         EXPECT_TRUE(WriteShow(Show, Engine));
         return Show.SlideShowID;
     }

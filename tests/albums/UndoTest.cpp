@@ -18,8 +18,9 @@ TEST_F(Undo, ADeletedSlideComesBackWithItsPictureAtItsPlace) {
 }
 
 TEST_F(Undo, ManyDeletedSlidesAreOneStep) {
-    ExpectBackAndForth("Delete 3 Slides",
-                       [&] { User.Delete(Garden, {Slides[4], Slides[0], Slides[1]}); });
+    ExpectBackAndForth("Delete 3 Slides", [&] {
+        User.Delete(Garden, {Slides[4], Slides[0], Slides[1]});
+    });
 }
 
 TEST_F(Undo, ADeletedAlbumComesBackWithAllThatLayInItsFolder) {
@@ -30,8 +31,9 @@ TEST_F(Undo, ADeletedAlbumComesBackWithAllThatLayInItsFolder) {
 }
 
 TEST_F(Undo, ACaptionGoesBack) {
-    ExpectBackAndForth("Change Caption \"Tulip\"",
-                       [&] { User.Recaption(Garden, {{Slides[2], u"Tulip"_s}}); });
+    ExpectBackAndForth("Change Caption \"Tulip\"", [&] {
+        User.Recaption(Garden, {{Slides[2], u"Tulip"_s}});
+    });
 }
 
 TEST_F(Undo, ManyCaptionsAreOneStepAndThoseThatStayedDoNotCount) {
@@ -92,10 +94,16 @@ TEST_F(Undo, ManyStepsInARowLeadBackToTheBeginning) {
     const std::function<void()> All[] = {
         [&] { User.Turn(Garden, Slides[0], "turned once"); },
         [&] { User.Turn(Garden, Slides[0], "turned twice"); },
-        [&] { User.Recaption(Garden, {{Slides[0], u"Briar"_s}, {Slides[3], u"Flag"_s}}); },
-        [&] { User.SaveShow(Garden, Walk, u"Walk"_s, {Slides[0], Slides[1]}, {u"tango"_s}); },
+        [&] {
+            User.Recaption(Garden, {{Slides[0], u"Briar"_s}, {Slides[3], u"Flag"_s}});
+        },
+        [&] {
+            User.SaveShow(Garden, Walk, u"Walk"_s, {Slides[0], Slides[1]}, {u"tango"_s});
+        },
         [&] { User.SaveShow(Garden, Walk, u"Hike"_s, {Slides[1]}, {u"rumba"_s}); },
-        [&] { User.Delete(Garden, {Slides[0], Slides[5]}); },
+        [&] {
+            User.Delete(Garden, {Slides[0], Slides[5]});
+        },
         [&] { EXPECT_TRUE(Changes(Engine).DeleteShow(Garden, Walk)); },
         [&] { EXPECT_TRUE(Changes(Engine).RenameAlbum(Garden, u"Yard"_s)); },
         [&] { User.DeleteAlbum(Garden); },

@@ -11,7 +11,7 @@
 #include <set>
 
 #include "db/Changes.h"
-#include "db/undo/KeptFiles.h"
+#include "db/undo/UndoFiles.h"
 #include "db/undo/UndoStep.h"
 #include "support/KeepGoing.h"
 
@@ -75,7 +75,7 @@ class History : public ChangeKeeper {
 
     clsDBEngine& mDB;
     const qint64 mRoom;
-    KeptFiles mFiles;
+    UndoFiles mFiles;
     Steps mDone, mUndone;  // the last is the next to be taken back
     std::set<StepID> mSpoiled;
     StepID mNext = 0;

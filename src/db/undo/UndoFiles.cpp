@@ -1,4 +1,4 @@
-#include "db/undo/KeptFiles.h"
+#include "db/undo/UndoFiles.h"
 
 #include "db/AlbumSums.h"
 #include "support/Fault.h"
@@ -19,21 +19,21 @@ QString NameOf(const QString& Path) {
 
 }  // namespace
 
-KeptFiles::KeptFiles(const QString& DBPath)
+UndoFiles::UndoFiles(const QString& DBPath)
     : mDBPath(DBPath), mFolder(DBPath + QStringLiteral("Temp/Undo/")) {
     DeleteTree(mFolder);
 }
 
-KeptFiles::~KeptFiles() {
+UndoFiles::~UndoFiles() {
     if (mCount > 0) DeleteTree(mFolder);
 }
 
-QString KeptFiles::NextPlace() {
+QString UndoFiles::NextPlace() {
     MakeDirsIn(mDBPath, mFolder);
     return mFolder + QString::number(++mCount);
 }
 
-QString KeptFiles::Take(const QString& Path) try {
+QString UndoFiles::Take(const QString& Path) try {
     const QString Place = NextPlace();
     RenameFile(NameOf(Path), Place);
     return Place;
@@ -41,7 +41,7 @@ QString KeptFiles::Take(const QString& Path) try {
     return {};
 }
 
-QString KeptFiles::Hold(const QString& Path) try {
+QString UndoFiles::Hold(const QString& Path) try {
     const QString Place = NextPlace();
     if (!LinkFile(Path, Place)) CopyFile(Path, Place);
     return Place;
@@ -49,7 +49,7 @@ QString KeptFiles::Hold(const QString& Path) try {
     return {};
 }
 
-void KeptFiles::Drop(const QString& Kept) try {
+void UndoFiles::Drop(const QString& Kept) try {
     if (Kept.isEmpty()) return;
     if (!IsLink(Kept) && FolderExists(Kept))
         DeleteTree(Kept);
@@ -60,7 +60,7 @@ void KeptFiles::Drop(const QString& Kept) try {
 }
 
 // A folder that was left empty at its place makes room.
-void KeptFiles::PutBack(const QString& Kept, const QString& Path) {
+void UndoFiles::PutBack(const QString& Kept, const QString& Path) {
     MakeDirsIn(mDBPath, GetFilePath(NameOf(Path)));
     if (IsPlainFile(Kept)) return PutStored(Kept, Path);
     DeleteFolder(Path);

@@ -7,13 +7,13 @@
 
 namespace neb {
 
-class KeptFiles {
+class UndoFiles {
   public:
     // DBPath with closing separator.
-    explicit KeptFiles(const QString& DBPath);
-    ~KeptFiles();
-    KeptFiles(const KeptFiles&) = delete;
-    KeptFiles& operator=(const KeptFiles&) = delete;
+    explicit UndoFiles(const QString& DBPath);
+    ~UndoFiles();
+    UndoFiles(const UndoFiles&) = delete;
+    UndoFiles& operator=(const UndoFiles&) = delete;
 
     // Where the file, folder or link lies now; empty, and it is where it was, where it cannot be
     // moved: to another disk, say.
