@@ -43,6 +43,7 @@ class SlideInHand {
     std::int32_t SlideID() const { return mNow.SlideID; }
     bool IsNew() const { return mNow.SlideID == 0; }
     bool IsChanged() const { return mChanged; }
+    bool IsTurned() const { return mTurned; }
 
     const QString& Caption() const { return mNow.SlideText; }
     const std::optional<ImgX>& Picture() const { return mPicture; }

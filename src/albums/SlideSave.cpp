@@ -1,7 +1,6 @@
 #include "albums/SlideSave.h"
 
 #include "albums/modImport.h"
-#include "db/AlbumSums.h"
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
 #include "support/Fault.h"
@@ -33,13 +32,13 @@ void ClearSound(clsNEBSlide& Record) {
 }
 
 // The new picture as the slide's JPEG; its thumbnail is made anew when it is asked for.
-void StorePicture(const clsDBEngine& theDB, std::int32_t AlbumID,
+void StorePicture(const clsDBEngine& theDB, Changes& Door, std::int32_t AlbumID,
                   const SlideInHand::JpegMaker& Jpeg, clsNEBSlide& Record) {
     if (!Jpeg) return;
     const QString Folder = SlidesFolder(theDB.DBPath(), AlbumID);
     const QString Name = FileStem(Record.SlideID) + QStringLiteral(".jpg");
-    StoreAnew(Folder + Name, Jpeg());
-    DropStored({Folder + ThumbnailName(Record.SlideID)});
+    Door.StoreFile(Folder + Name, Jpeg());
+    Door.DropFiles({Folder + ThumbnailName(Record.SlideID)});
     Record.SlideLoc = Name.toUpper();
 }
 
@@ -76,8 +75,8 @@ clsNEBSlide WithFiles(const clsDBEngine& theDB, Changes& Door, const SlideInHand
                       const SlideInHand::JpegMaker& Jpeg, clsNEBSlide Record) {
     Record.SlideText = InHand.Caption();
     try {
-        StorePicture(theDB, InHand.AlbumID(), Jpeg, Record);
-        StoreSound(theDB, InHand, Record);
+        StorePicture(theDB, Door, InHand.AlbumID(), Jpeg, Record);
+        StoreSound(theDB, Door, InHand, Record);
     } catch (const Fault&) {
         const auto AsFarAsItCame = Door.SaveSlide(InHand.AlbumID(), Record);
         throw;
@@ -119,6 +118,7 @@ Answer<Announcement> SaveSlide(clsDBEngine& theDB, const QObject* Asker, SlideIn
     const clsNEBSlide* Stored = Album->GetSlide(InHand.SlideID());
     if (!Stored) return Refuse(QStringLiteral("Could not find the slide."));
     const clsNEBSlide Before = *Stored;
+    if (InHand.IsTurned()) Door.Call(QStringLiteral("Turn Slide"));
     const bool DropsSound = InHand.SoundState() == SlideInHand::Sound::Cleared;
     const clsNEBSlide Record = WithFiles(theDB, Door, InHand, Jpeg, Before);
     InHand.Take(InHand.AlbumID(), Record);
@@ -126,7 +126,7 @@ Answer<Announcement> SaveSlide(clsDBEngine& theDB, const QObject* Asker, SlideIn
     QStringList Unnamed =
         NoLongerNamed(SlidesFolder(theDB.DBPath(), InHand.AlbumID()), Before, Record);
     if (DropsSound) Unnamed << RecordedSound(theDB, InHand.AlbumID(), Record.SlideID);
-    if (Saved && !Unnamed.isEmpty() && theDB.IsSessionStored()) DropStored(Unnamed);
+    if (Saved && !Unnamed.isEmpty() && theDB.IsSessionStored()) Door.DropFiles(Unnamed);
     return Saved;
 }
 
@@ -139,13 +139,14 @@ Answer<Announcement> DeleteSlide(clsDBEngine& theDB, const QObject* Asker, std::
     return Deleted;
 }
 
-void StoreSound(const clsDBEngine& theDB, const SlideInHand& InHand, clsNEBSlide& Record) {
+void StoreSound(const clsDBEngine& theDB, Changes& Door, const SlideInHand& InHand,
+                clsNEBSlide& Record) {
     using Sound = SlideInHand::Sound;
     const Sound Is = InHand.SoundState();
     if (Is == Sound::Cleared) return ClearSound(Record);
     if (Is == Sound::Recorded || Is == Sound::Chosen) {
         const QString Name = FileStem(Record.SlideID) + InHand.NewEnding();
-        StoreAnew(SlidesFolder(theDB.DBPath(), InHand.AlbumID()) + Name, InHand.NewSound());
+        Door.StoreFile(SlidesFolder(theDB.DBPath(), InHand.AlbumID()) + Name, InHand.NewSound());
         Record.SoundTrackLoc = Name;
     } else if (!InHand.HasSound()) {
         return;

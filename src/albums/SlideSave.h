@@ -30,7 +30,8 @@ Answer<Announcement> DeleteSlide(clsDBEngine& theDB, const QObject* Asker, std::
 // Clears the sound of Record, or stores the new one, or sets how the sound that is there is played;
 // Record, not yet in the album, says so afterwards. The file of a cleared sound is for SaveSlide to
 // delete. Throws Fault when a file cannot be written: record and old sound are as they were.
-void StoreSound(const clsDBEngine& theDB, const SlideInHand& InHand, clsNEBSlide& Record);
+void StoreSound(const clsDBEngine& theDB, Changes& Door, const SlideInHand& InHand,
+                clsNEBSlide& Record);
 // Where the sound is that is stored of the slide.
 QString StoredSound(const QString& DBPath, const SlideInHand& InHand);
 

@@ -4,6 +4,7 @@
 
 #include "albums/modImport.h"
 #include "db/AlbumSums.h"
+#include "db/Changes.h"
 #include "db/modAlbumFiles.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
@@ -192,14 +193,19 @@ void TrackCopies::PutInPlace() {
     if (!mSteps.empty()) SyncDir(mPlan.Folder);
 }
 
-void TrackCopies::Keep() {
+void TrackCopies::Keep(Changes& Door) {
     mKept = true;
-    for (const Step& Each : mSteps)
+    for (const Step& Each : mSteps) {
+        if (Each.Replaces && Each.Before.isEmpty())
+            Door.Spoil();
+        else
+            Door.FileReplaced(Each.To, Each.Before);
         if (!Each.Before.isEmpty()) DropFile(Each.Before);
+    }
 }
 
-void TrackCopies::DropUnused() {
-    DropStored({mPlan.Deletions.begin(), mPlan.Deletions.end()});
+void TrackCopies::DropUnused(Changes& Door) {
+    Door.DropFiles({mPlan.Deletions.begin(), mPlan.Deletions.end()});
 }
 
 }  // namespace neb

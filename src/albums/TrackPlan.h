@@ -10,6 +10,8 @@
 
 namespace neb {
 
+class Changes;
+
 struct TrackPlan {
     struct Copy {
         QString From, To;  // full paths; To may be there already
@@ -45,8 +47,9 @@ class TrackCopies {
     // are there. LetRun is called all the while. Throws Fault.
     void Make(const Yield& LetRun);
     void PutInPlace();  // by renaming, flushed, with their lines in the album's sums. Throws Fault
-    void Keep();        // from here on nothing is taken back
-    void DropUnused();  // what cannot be deleted stays
+    // From here on nothing is taken back; what was replaced is handed to the door of the change.
+    void Keep(Changes& Door);
+    void DropUnused(Changes& Door);  // what cannot be deleted stays
 
   private:
     struct Step {

@@ -34,7 +34,9 @@ Answer<Announcement> NewAlbum(Changes& Door, clsDBEngine& theDB, const QString& 
 }
 
 void DropAlbum(clsDBEngine& theDB, std::int32_t AlbumID) {
-    if (auto Deleted = Changes(theDB).DeleteAlbum(AlbumID)) Deleted->Never();
+    Changes Door(theDB);
+    Door.ForGood();  // the user has not had it yet
+    if (auto Deleted = Door.DeleteAlbum(AlbumID)) Deleted->Never();
     if (theDB.IsSessionStored()) DeleteTree(AlbumFolder(theDB.DBPath(), AlbumID));
 }
 

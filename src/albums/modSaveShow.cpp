@@ -147,11 +147,11 @@ Answer<Announcement> Store(ShowContent& Content, std::int32_t SlideShowID, Track
         Placed.Tracks[Row].SoundTrackLoc = Files.Plan().Names[Row];
     Answer<Announcement> Saved = Door.SaveShow(Placed.AlbumID, Record(Placed));
     if (!Saved) return Saved;
-    Files.Keep();
+    Files.Keep(Door);
     NoteNames(Files.Plan(), AlbumFolder(theDB.DBPath(), Placed.AlbumID));
     Content = std::move(Placed);
     Content.SlideShowID = Saved->What().SlideShowID;
-    if (theDB.IsSessionStored()) Files.DropUnused();
+    if (theDB.IsSessionStored()) Files.DropUnused(Door);
     return Saved;
 }
 

@@ -3,12 +3,15 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 
 QT_BEGIN_NAMESPACE
 class QObject;
 QT_END_NAMESPACE
 
 namespace neb {
+
+class ChangeKeeper;
 
 struct Change {
     enum class Kind {
@@ -39,10 +42,12 @@ constexpr bool IsWholeAlbum(const Change& Is) {
 
 // Who follows the changes of a database. Noted comes the moment that a record has changed, before
 // any file is deleted for it; Told when the other windows shall hear of it, with the window that
-// asked for the change (null: none did), which knows already. Either may be empty.
+// asked for the change (null: none did), which knows already. The keeper has what changes take
+// away, to be undone. Each may be empty.
 struct ChangeListeners {
     std::function<void(const Change& What)> Noted;
     std::function<void(const Change& What, const QObject* Asker)> Told;
+    std::shared_ptr<ChangeKeeper> Keeper;
 };
 
 }  // namespace neb

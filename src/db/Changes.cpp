@@ -1,7 +1,11 @@
 #include "db/Changes.h"
 
+#include <algorithm>
+
+#include "db/AlbumSums.h"
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
+#include "support/files/modHostFiles.h"
 #include "support/modText.h"
 
 namespace neb {
@@ -27,6 +31,18 @@ void MakeValid(clsNEBSlideShow& Show) {
 
 BoxRequest Missing(const char* Text) {
     return Refuse(QString::fromLatin1(Text));
+}
+
+// The first thing of this number, taken from where it is.
+template <class Thing>
+ThingAt<Thing> TakeOut(std::vector<std::unique_ptr<Thing>>& From, std::int32_t ID,
+                       std::int32_t Thing::*Key) {
+    const auto Its = std::find_if(From.begin(), From.end(),
+                                  [&](const auto& Each) { return (*Each).*Key == ID; });
+    if (ID == 0 || Its == From.end()) return {.ID = ID};
+    ThingAt<Thing> Taken{ID, static_cast<size_t>(Its - From.begin()), std::move(*Its)};
+    From.erase(Its);
+    return Taken;
 }
 
 // The show as it was before a change that could not be noted; Before is null for one that was made.
@@ -84,9 +100,70 @@ void Announcement::Now() {
     if (Listeners && Listeners->Told) Listeners->Told(mWhat, mAsker);
 }
 
+Changes::Changes(clsDBEngine& theDB, const QObject* Asker)
+    : mDB(theDB), mAsker(Asker), mStep(Keeper() ? Keeper()->NextStep() : 0) {}
+
+ChangeKeeper* Changes::Keeper() const {
+    return mDB.Listeners.Keeper.get();
+}
+
+void Changes::Call(const QString& Verb) {
+    if (mStep != 0) Keeper()->Call(mStep, Verb);
+}
+
+// What was made goes by a deletion of its own.
+void Changes::KeepSlide(std::int32_t AlbumID, ThingAt<clsNEBSlide> Before, const clsNEBSlide* Now) {
+    if (mStep == 0) return;
+    if (!Before.Was) return Spoil();
+    Keeper()->SlideChanged(mStep, AlbumID, std::move(Before), Now);
+}
+
+void Changes::KeepShow(std::int32_t AlbumID, ThingAt<clsNEBSlideShow> Before,
+                       const clsNEBSlideShow* Now) {
+    if (mStep == 0) return;
+    if (!Before.Was) return Spoil();
+    Keeper()->ShowChanged(mStep, AlbumID, std::move(Before), Now);
+}
+
+bool Changes::KeepAway(const QString& Path) {
+    return mStep != 0 && Keeper()->Take(mStep, Path);
+}
+
+void Changes::DropFiles(const QStringList& Paths) {
+    for (const QString& Path : Paths) KeepAway(Path);
+    DropStored(Paths);
+}
+
+void Changes::StoreFile(const QString& Path, const QByteArray& Bytes) {
+    if (mStep == 0) return StoreAnew(Path, Bytes);
+    const bool WasThere = NameExists(Path);
+    const QString Held = WasThere ? Keeper()->Hold(Path) : QString();
+    try {
+        StoreAnew(Path, Bytes);
+    } catch (...) {
+        Keeper()->LetGo(Held);
+        throw;
+    }
+    if (WasThere && Held.isEmpty()) return Spoil();
+    Keeper()->Replaced(mStep, Path, Held);
+}
+
+void Changes::FileReplaced(const QString& Path, const QString& Beside) {
+    if (mStep == 0) return;
+    if (Beside.isEmpty())
+        Keeper()->Replaced(mStep, Path, {});
+    else
+        Keeper()->ReplacedBeside(mStep, Path, Beside);
+}
+
+void Changes::Spoil() {
+    if (mStep != 0) Keeper()->Spoil(mStep);
+}
+
 Announcement Changes::Noted(Change What, With Files) {
     mDB.NoteInSession(What, Files == With::Files);
     if (mDB.Listeners.Noted) mDB.Listeners.Noted(What);
+    if (Keeper()) Keeper()->Changed(What);
     return {mTogether ? nullptr : &mDB.Listeners, mAsker, What};
 }
 
@@ -105,19 +182,28 @@ Answer<Announcement> Changes::MakeAlbum(const QString& AlbumName) {
         mDB.NextAlbumID = Next;
         return Saved.Refusal();
     }
-    return Noted({Change::Kind::AlbumMade, AlbumID});
+    Announcement Made = Noted({Change::Kind::AlbumMade, AlbumID});
+    Spoil();
+    return Made;
 }
 
 Answer<Announcement> Changes::RenameAlbum(std::int32_t AlbumID, const QString& AlbumName) {
-    if (!mDB.GetAlbum(AlbumID)) return Missing(NoAlbum);
+    const clsNEBAlbum* Album = mDB.GetAlbum(AlbumID);
+    if (!Album) return Missing(NoAlbum);
+    const QString Before = Album->AlbumName;
     const Answer<> Saved = mDB.SaveAlbum(AlbumID, ValidText(AlbumName));
     if (!Saved) return Saved.Refusal();
-    return Noted({Change::Kind::AlbumRenamed, AlbumID}, With::Nothing);
+    Announcement Renamed = Noted({Change::Kind::AlbumRenamed, AlbumID}, With::Nothing);
+    if (mStep != 0) Keeper()->AlbumRenamed(mStep, AlbumID, Before, Album->AlbumName);
+    return Renamed;
 }
 
 Answer<Announcement> Changes::DeleteAlbum(std::int32_t AlbumID) {
-    mDB.DeleteAlbum(AlbumID);
-    return Noted({Change::Kind::AlbumDeleted, AlbumID}, With::Nothing);
+    ThingAt<clsNEBAlbum> Gone = TakeOut(mDB.Albums, AlbumID, &clsNEBAlbum::AlbumID);
+    mDB.DeleteAlbum(AlbumID);  // none of its number is left, and the others are sorted
+    Announcement Deleted = Noted({Change::Kind::AlbumDeleted, AlbumID}, With::Nothing);
+    if (mStep != 0 && Gone.Was) Keeper()->AlbumDeleted(mStep, std::move(Gone));
+    return Deleted;
 }
 
 std::int32_t Changes::FreeSlideID(std::int32_t AlbumID) const {
@@ -131,17 +217,24 @@ Answer<Announcement> Changes::EnterSlide(std::int32_t AlbumID, const clsNEBSlide
         return Refuse(QStringLiteral("There is a slide of the number %1.").arg(Slide.SlideID));
     MakeValid(*Album->Slides.emplace_back(std::make_unique<clsNEBSlide>(Slide)));
     mDB.NextSlideID = std::max(mDB.NextSlideID, Slide.SlideID + 1);
-    return Noted({Change::Kind::SlideSaved, AlbumID, Slide.SlideID});
+    Announcement Entered = Noted({Change::Kind::SlideSaved, AlbumID, Slide.SlideID});
+    Spoil();
+    return Entered;
 }
 
 Answer<Announcement> Changes::SaveSlide(std::int32_t AlbumID, const clsNEBSlide& Slide) {
     clsNEBAlbum* Album = mDB.GetAlbum(AlbumID);
     if (!Album) return Missing(NoAlbum);
     std::int32_t SlideID = Slide.SlideID;
-    if (!Album->GetSlide(SlideID)) mDB.NextSlideID = FreeSlideID(AlbumID);
+    const clsNEBSlide* There = Album->GetSlide(SlideID);
+    ThingAt<clsNEBSlide> Before{SlideID, 0,
+                                There ? std::make_unique<clsNEBSlide>(*There) : nullptr};
+    if (!There) mDB.NextSlideID = FreeSlideID(AlbumID);
     Album->SaveSlide(SlideID, ValidText(Slide.SlideText), Slide.SlideLoc, Slide.SoundTrackLoc,
                      Slide.Override, Slide.Repeat, mDB);
-    return Noted({Change::Kind::SlideSaved, AlbumID, SlideID});
+    Announcement Saved = Noted({Change::Kind::SlideSaved, AlbumID, SlideID});
+    KeepSlide(AlbumID, std::move(Before), Album->GetSlide(SlideID));
+    return Saved;
 }
 
 Answer<Announcement> Changes::SaveCaption(std::int32_t AlbumID, std::int32_t SlideID,
@@ -155,16 +248,22 @@ Answer<Announcement> Changes::SaveCaption(std::int32_t AlbumID, std::int32_t Sli
 
 Announcement Changes::SaveCaption(std::int32_t AlbumID, clsNEBSlide& Slide,
                                   const QString& SlideText) {
+    ThingAt<clsNEBSlide> Before{Slide.SlideID, 0, std::make_unique<clsNEBSlide>(Slide)};
     Slide.SlideText = ValidText(SlideText);
-    return Noted({Change::Kind::SlideSaved, AlbumID, Slide.SlideID}, With::Nothing);
+    Announcement Saved = Noted({Change::Kind::SlideSaved, AlbumID, Slide.SlideID}, With::Nothing);
+    if (Before.Was->SlideText != Slide.SlideText) KeepSlide(AlbumID, std::move(Before), &Slide);
+    return Saved;
 }
 
 Answer<Announcement> Changes::DeleteSlide(std::int32_t AlbumID, std::int32_t SlideID) {
     clsNEBAlbum* Album = mDB.GetAlbum(AlbumID);
     if (!Album) return Missing(NoAlbum);
-    const bool WasThere = Album->TakeSlide(SlideID);
+    ThingAt<clsNEBSlide> Gone = TakeOut(Album->Slides, SlideID, &clsNEBSlide::SlideID);
+    const bool WasThere = Gone.Was != nullptr;
     Announcement Deleted = Noted({Change::Kind::SlideDeleted, AlbumID, SlideID}, With::Nothing);
-    if (WasThere && mDB.IsSessionStored()) Album->DeleteSlideFiles(SlideID, mDB);
+    if (!WasThere) return Deleted;
+    KeepSlide(AlbumID, std::move(Gone), nullptr);
+    if (mDB.IsSessionStored()) DropFiles(Album->SlideFiles(SlideID, mDB));
     return Deleted;
 }
 
@@ -180,6 +279,7 @@ Answer<Announcement> Changes::SaveShow(std::int32_t AlbumID, clsNEBSlideShow Sho
     MakeValid(Show);
     const clsNEBSlideShow* There = Album->GetSlideShow(Show.SlideShowID);
     auto Before = There ? There->Copy() : nullptr;
+    ThingAt<clsNEBSlideShow> Was{Show.SlideShowID, 0, There && mStep ? There->Copy() : nullptr};
     if (!There) {
         const bool IsFree = Show.SlideShowID >= mDB.NextSlideShowID;
         mDB.NextSlideShowID = IsFree ? Show.SlideShowID : FreeSlideShowID(AlbumID);
@@ -190,7 +290,9 @@ Answer<Announcement> Changes::SaveShow(std::int32_t AlbumID, clsNEBSlideShow Sho
     Stored.SoundTracks = std::move(Show.SoundTracks);
     const auto Kind = Before ? Change::Kind::ShowReplaced : Change::Kind::ShowMade;
     try {
-        return Noted({Kind, AlbumID, 0, Show.SlideShowID});
+        Announcement Saved = Noted({Kind, AlbumID, 0, Show.SlideShowID});
+        KeepShow(AlbumID, std::move(Was), &Stored);
+        return Saved;
     } catch (...) {
         PutBack(mDB, *Album, Show.SlideShowID, std::move(Before));
         throw;
@@ -220,12 +322,14 @@ std::vector<Announcement> Changes::PutAlbum(AlbumToPut What, std::int32_t SlideS
 Answer<Announcement> Changes::DeleteShow(std::int32_t AlbumID, std::int32_t SlideShowID) {
     clsNEBAlbum* Album = mDB.GetAlbum(AlbumID);
     if (!Album) return Missing(NoAlbum);
-    const clsNEBSlideShow* There = Album->GetSlideShow(SlideShowID);
-    const auto Gone = There ? There->Copy() : nullptr;
-    Album->TakeSlideShow(SlideShowID);
+    ThingAt<clsNEBSlideShow> Gone =
+        TakeOut(Album->SlideShows, SlideShowID, &clsNEBSlideShow::SlideShowID);
     Announcement Deleted =
         Noted({Change::Kind::ShowDeleted, AlbumID, 0, SlideShowID}, With::Nothing);
-    if (Gone && mDB.IsSessionStored()) Album->DeleteSlideShowFiles(*Gone, mDB);
+    if (!Gone.Was) return Deleted;
+    const QStringList Sounds = Album->SlideShowFiles(*Gone.Was, mDB);
+    KeepShow(AlbumID, std::move(Gone), nullptr);
+    if (mDB.IsSessionStored()) DropFiles(Sounds);
     return Deleted;
 }
 

@@ -3,8 +3,7 @@
 // nothing else assigns the fields of records.
 #pragma once
 
-#include "db/Change.h"
-#include "db/clsNEBAlbum.h"
+#include "db/ChangeKeeper.h"
 #include "support/Answer.h"
 
 namespace neb {
@@ -48,12 +47,15 @@ struct AlbumToPut {
 };
 
 // The answers refuse with the engine's own texts. Routines that delete files throw nothing: what
-// cannot be deleted stays.
+// cannot be deleted stays. What goes through one door, and its copies, is undone as one step.
 class Changes {
   public:
     // Asker: the window that asks; it is not told of its own changes.
-    explicit Changes(clsDBEngine& theDB, const QObject* Asker = nullptr)
-        : mDB(theDB), mAsker(Asker) {}
+    explicit Changes(clsDBEngine& theDB, const QObject* Asker = nullptr);
+    // What goes through from here on is no step of the user's, and never undone.
+    void ForGood() { mStep = 0; }
+    // What the step is called where its changes do not say it, such as "Turn Slide".
+    void Call(const QString& Verb);
 
     Answer<Announcement> MakeAlbum(const QString& AlbumName);  // What().AlbumID is the new one
     Answer<Announcement> RenameAlbum(std::int32_t AlbumID, const QString& AlbumName);
@@ -89,6 +91,22 @@ class Changes {
     // the second announcement tells; 0 for none.
     std::vector<Announcement> PutAlbum(AlbumToPut What, std::int32_t SlideShowID);
 
+    // Files of an album that its records name no more, on the disk too (IsSessionStored): kept
+    // where that can be undone, else deleted. What cannot go stays.
+    void DropFiles(const QStringList& Paths);
+    // Takes away a file, a folder or a link, to come back with an undo. False: it is there still.
+    bool KeepAway(const QString& Path);
+    // As StoreAnew of AlbumSums.h; what was there is kept where that can be undone.
+    void StoreFile(const QString& Path, const QByteArray& Bytes);
+    // Path has a new file. Beside: where the one before lies, which is taken from there; empty:
+    // there was none.
+    void FileReplaced(const QString& Path, const QString& Beside);
+    // What this door has done cannot be undone: it has made something, or lost a file.
+    void Spoil();
+
+    // For db/undo, which puts things back: notes what it has done. Files are back before.
+    Announcement NotePutBack(const Change& What) { return Noted(What); }
+
     // One announcement for many changes of an album (SlidesImported, CaptionsSaved): those made
     // through this object from here on are noted one by one and told by this one alone.
     Announcement AsOne(Change::Kind What, std::int32_t AlbumID);
@@ -96,9 +114,14 @@ class Changes {
   private:
     enum class With { Files, Nothing };
     Announcement Noted(Change What, With Files = With::Files);
+    ChangeKeeper* Keeper() const;
+    void KeepSlide(std::int32_t AlbumID, ThingAt<clsNEBSlide> Before, const clsNEBSlide* Now);
+    void KeepShow(std::int32_t AlbumID, ThingAt<clsNEBSlideShow> Before,
+                  const clsNEBSlideShow* Now);
 
     clsDBEngine& mDB;
     const QObject* mAsker;
+    StepID mStep;
     bool mTogether = false;
 };
 

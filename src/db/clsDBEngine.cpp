@@ -2,6 +2,7 @@
 // clsDBEngineForward.cpp.
 #include "db/clsDBEngine.h"
 
+#include "db/ChangeKeeper.h"
 #include "db/SessionChanges.h"
 #include "db/modAlbumFiles.h"
 #include "db/modLoadRecords.h"
@@ -180,6 +181,7 @@ void clsDBEngine::ReplaceBy(const RecordImage& Records) {
     AlbumIndex.clear();
     LoadFrom(RecordsInImage(Records));
     if (mSession) mSession->Restart();
+    if (Listeners.Keeper) Listeners.Keeper->DropAll();
     if (Unfinished) throw Fault(*Unfinished);
 }
 

@@ -120,10 +120,14 @@ bool clsNEBAlbum::TakeSlide(std::int32_t SlideID) {
     return true;
 }
 
-void clsNEBAlbum::DeleteSlideFiles(std::int32_t SlideID, const clsDBEngine& theDB) const {
+QStringList clsNEBAlbum::SlideFiles(std::int32_t SlideID, const clsDBEngine& theDB) const {
     const QString Folder = SlidesFolder(theDB.DBPath(), AlbumID), Stem = FileStem(SlideID);
-    DropStored(FilesLike(Folder, Stem + QStringLiteral(".*")) +
-               FilesLike(Folder, Stem + QStringLiteral("Small.*")));
+    return FilesLike(Folder, Stem + QStringLiteral(".*")) +
+           FilesLike(Folder, Stem + QStringLiteral("Small.*"));
+}
+
+void clsNEBAlbum::DeleteSlideFiles(std::int32_t SlideID, const clsDBEngine& theDB) const {
+    DropStored(SlideFiles(SlideID, theDB));
 }
 
 bool clsNEBAlbum::DeleteSlide(std::int32_t SlideID, const clsDBEngine& theDB) {
@@ -143,8 +147,8 @@ bool clsNEBAlbum::TakeSlideShow(std::int32_t SlideShowID) {
 
 // What begins with its number, and what it played besides: a show that was saved from another one
 // may have been left with that one's files.
-void clsNEBAlbum::DeleteSlideShowFiles(const clsNEBSlideShow& Gone,
-                                       const clsDBEngine& theDB) const {
+QStringList clsNEBAlbum::SlideShowFiles(const clsNEBSlideShow& Gone,
+                                        const clsDBEngine& theDB) const {
     const QString Folder = SoundTracksFolder(theDB.DBPath(), AlbumID);
     const std::set<QString> Wanted = SoundsNamedBesides(theDB, AlbumID, Gone.SlideShowID);
     QStringList Names = ListMask(Folder + FileStem(Gone.SlideShowID) + QStringLiteral("*.*"));
@@ -153,7 +157,12 @@ void clsNEBAlbum::DeleteSlideShowFiles(const clsNEBSlideShow& Gone,
     QStringList Paths;
     for (const QString& Name : Names)
         if (!Name.isEmpty() && !Wanted.contains(Name.toUpper())) Paths << Folder + Name;
-    DropStored(Paths);
+    return Paths;
+}
+
+void clsNEBAlbum::DeleteSlideShowFiles(const clsNEBSlideShow& Gone,
+                                       const clsDBEngine& theDB) const {
+    DropStored(SlideShowFiles(Gone, theDB));
 }
 
 // The show goes before its sounds: never a show without them.

@@ -54,8 +54,10 @@ class clsNEBAlbum {
     // The two halves of a deletion: the thing (false when there is none), and its files.
     bool TakeSlide(std::int32_t SlideID);
     bool TakeSlideShow(std::int32_t SlideShowID);
+    QStringList SlideFiles(std::int32_t SlideID, const clsDBEngine& theDB) const;  // full paths
     void DeleteSlideFiles(std::int32_t SlideID, const clsDBEngine& theDB) const;
     // Gone: the show as it was. What another show or a slide still names stays.
+    QStringList SlideShowFiles(const clsNEBSlideShow& Gone, const clsDBEngine& theDB) const;
     void DeleteSlideShowFiles(const clsNEBSlideShow& Gone, const clsDBEngine& theDB) const;
 
     // The album with these of its shows and the slides that they use; without any named, as it is.

@@ -9,6 +9,7 @@
 #include "controls/fields/Icons.h"
 #include "controls/fields/MenuIcon.h"
 #include "program/ActiveShow.h"
+#include "program/EditMenu.h"
 #include "program/Workspace.h"
 #include "program/frmAbout.h"
 #include "program/frmNEBSlideShow.h"
@@ -50,6 +51,7 @@ struct Header {
 
 constexpr Header Headers[] = {
     {"mnuFileHdr", "&File"},
+    {"mnuEditHdr", "&Edit"},
     {"mnuAlbumHdr", "&Album"},
     {"mnuSlideShowHdr", "S&lide Show"},  // Alt+S is Save in the windows inside
     {"mnuImportExportHdr", "&Import/Export"},
@@ -87,6 +89,10 @@ constexpr Entry Entries[] = {
     {"mnuFileHdr", "", "", "", "", "", nullptr},
     {"mnuFileHdr", "mnuExit", "E&xit", "Ctrl+Q", "exit", "Save everything and end the program",
      [](frmNEBSlideShow& Main) { Main.close(); }},
+    {"mnuEditHdr", "mnuUndo", "&Undo", "Ctrl+Z", "", "Take back what was done last",
+     [](auto&) { UndoLast(); }},
+    {"mnuEditHdr", "mnuRedo", "&Redo", "Ctrl+Shift+Z", "", "Do again what was taken back last",
+     [](auto&) { RedoLast(); }},
     {"mnuAlbumHdr", "mnuAlbumNew", "&New Album...", "Ctrl+N", "album-new",
      "Make a new album and fill it with pictures",
      [](auto&) { NewForm<frmNewAlbumWzd1>()->ShowModal(); }},

@@ -18,6 +18,7 @@
 #include "db/clsDBEngine.h"
 #include "db/records/RecordSums.h"
 #include "db/recovery/modRestore.h"
+#include "db/undo/History.h"
 #include "program/MainMenu.h"
 #include "program/MenuKeys.h"
 #include "program/StepAside.h"
@@ -249,6 +250,7 @@ void frmNEBSlideShow::ReadRecords(const DatabaseHealth& Health) {
     if (Health.IsNew) NoteRecords(DBPath());
     RaiseCounters(*mEngine, Health.Free);
     mEngine->KeepSession();
+    KeepHistory(*mEngine);
 }
 
 void frmNEBSlideShow::CheckReadOnly() {

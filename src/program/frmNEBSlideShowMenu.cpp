@@ -7,6 +7,7 @@
 
 #include "albums/transfer/OtherDatabase.h"
 #include "controls/forms/Form.h"
+#include "program/EditMenu.h"
 #include "program/MainMenu.h"
 #include "program/OtherInstance.h"
 #include "program/StepAside.h"
@@ -34,6 +35,7 @@ constexpr int NoticeMs = 10'000;
 void frmNEBSlideShow::SetUpMenu() {
     mMenu = std::make_unique<MainMenu>(BuildMainMenu(*this));
     connect(mMenu->Windows, &QMenu::aboutToShow, this, &frmNEBSlideShow::ListWindows);
+    new EditMenu(*this, mMenu->Entries);
 }
 
 void frmNEBSlideShow::FillOpeners() {

@@ -150,7 +150,7 @@ TEST_F(StoredFiles, AnAlbumOfEarlierVersionsGetsNoListByAnImport) {
 
 TEST_F(StoredFiles, AnAlbumGoesWithItsList) {
     Enter("one");
-    DeleteAlbumFiles(Dir.Path(), 1, [] {});
+    DeleteAlbumFiles(Door, Dir.Path(), 1, [] {});
     EXPECT_FALSE(NameExists(AlbumFolder(Dir.Path(), 1)));
 }
 

@@ -201,8 +201,9 @@ class CutSession {
         EXPECT_TRUE(WriteShow(Show, Engine));
     }
     static void DeleteAlbum(clsDBEngine& Engine, std::int32_t AlbumID) {
-        Changes(Engine).DeleteAlbum(AlbumID);
-        if (Engine.IsSessionStored()) DeleteAlbumFiles(Engine.DBPath(), AlbumID, [] {});
+        Changes Door(Engine);
+        Door.DeleteAlbum(AlbumID);
+        if (Engine.IsSessionStored()) DeleteAlbumFiles(Door, Engine.DBPath(), AlbumID, [] {});
     }
 
     static const std::vector<Step>& Steps() {

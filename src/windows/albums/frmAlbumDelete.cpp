@@ -37,22 +37,23 @@ void frmAlbumDelete::Delete() {
                        "If you proceed all the slides and slide shows within\nwill be lost."),
         QStringLiteral("Delete Confirmation"));
     if (!Sure) return;
-    Answer<Announcement> Deleted = Changes(*DBEngine, this).DeleteAlbum(*AlbumID);
+    Changes Door(*DBEngine, this);
+    Answer<Announcement> Deleted = Door.DeleteAlbum(*AlbumID);
     if (!Tell(Deleted)) return;
     NoteDone();
-    if (DBEngine->IsSessionStored()) DeleteFiles(*AlbumID);
+    if (DBEngine->IsSessionStored()) DeleteFiles(Door, *AlbumID);
     Deleted->Now();
     Unload();
 }
 
 // Thousands of files on a slow medium take their time; the window cannot be left meanwhile.
-void frmAlbumDelete::DeleteFiles(std::int32_t AlbumID) {
+void frmAlbumDelete::DeleteFiles(Changes& Door, std::int32_t AlbumID) {
     const QScopedValueRollback<bool> Deleting(mDeleting, true);
     const PointerScope Working(Pointer::Hourglass);
     setEnabled(false);
     const auto Usable = qScopeGuard([this] { setEnabled(true); });
     PaintRate Rate;
-    DeleteAlbumFiles(DBEngine->DBPath(), AlbumID, [&Rate] {
+    DeleteAlbumFiles(Door, DBEngine->DBPath(), AlbumID, [&Rate] {
         if (Rate.IsDue()) DoEvents();
     });
 }

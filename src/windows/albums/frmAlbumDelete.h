@@ -8,6 +8,7 @@ namespace neb {
 namespace Ui {
 class frmAlbumDelete;
 }
+class Changes;
 
 class frmAlbumDelete : public AlbumForm {
     Q_OBJECT
@@ -26,7 +27,7 @@ class frmAlbumDelete : public AlbumForm {
   private:
     void Delete();
     void Close() { Unload(); }
-    void DeleteFiles(std::int32_t AlbumID);
+    void DeleteFiles(Changes& Door, std::int32_t AlbumID);
 
     std::unique_ptr<Ui::frmAlbumDelete> mUi;
     bool mDeleting = false;

@@ -15,14 +15,6 @@
 namespace neb {
 namespace {
 
-// From the moment that it begins to load.
-bool IsShowUp() {
-    const auto Loaded = LoadedForms();
-    return std::any_of(Loaded.begin(), Loaded.end(), [](const auto& Window) {
-        return dynamic_cast<const frmSlideShowProjector*>(Window.get());
-    });
-}
-
 // In the show as it was saved, where a slide may stand more than once: the one nearest to Place; 1
 // for a slide that is not in it.
 std::int32_t PlaceInShow(std::int32_t AlbumID, std::int32_t SlideShowID, std::int32_t SlideID,
@@ -39,6 +31,13 @@ std::int32_t PlaceInShow(std::int32_t AlbumID, std::int32_t SlideShowID, std::in
 }
 
 }  // namespace
+
+bool IsShowUp() {
+    const auto Loaded = LoadedForms();
+    return std::any_of(Loaded.begin(), Loaded.end(), [](const auto& Window) {
+        return dynamic_cast<const frmSlideShowProjector*>(Window.get());
+    });
+}
 
 void RunSlideShow(std::int32_t AlbumID, const QString& AlbumName, std::int32_t SlideShowID,
                   std::int32_t BeginAt) {

@@ -10,6 +10,9 @@ namespace neb {
 
 struct ShowWorld;
 
+// Whether a show is up, from the moment that it begins to load.
+bool IsShowUp();
+
 // Runs a show on the full screen; returns when the user has left it. Faults are ignored. BeginAt:
 // the slide to begin with, from 1, and where such a run is left is not kept; 0: where the show was
 // left, or its first. Nothing while another show is up: a command given twice, on a machine that

@@ -350,7 +350,8 @@ class SlideSaveSound : public SlideRig {
     }
     clsNEBSlide Stored() {
         clsNEBSlide Record = Slide(ID);
-        StoreSound(Engine, InHand, Record);
+        Changes Door(Engine);
+        StoreSound(Engine, Door, InHand, Record);
         return Record;
     }
     QString File() { return SlideRig::Stored(u"00000001.wav"_s); }
@@ -399,7 +400,8 @@ TEST_F(SlideSaveSound, AFullDiskKeepsTheOldSound) {
     SetHostWatcher([](HostStep Step, const QString&, qint64& Length) {
         if (Step == HostStep::Write) Length = 3;
     });
-    EXPECT_THROW(StoreSound(Engine, InHand, Record), Fault);
+    Changes Door(Engine);
+    EXPECT_THROW(StoreSound(Engine, Door, InHand, Record), Fault);
     SetHostWatcher({});
     EXPECT_EQ("old sound", ReadFile(File()));
     EXPECT_TRUE(Record.Override);
