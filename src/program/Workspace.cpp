@@ -1,26 +1,11 @@
 #include "program/Workspace.h"
 
-#include <QDragEnterEvent>
-#include <QMdiSubWindow>
-#include <QMimeData>
-
-#include "support/files/HostNames.h"
-#include "support/files/modHostFiles.h"
+#include <QEvent>
 
 namespace neb {
-namespace {
-
-QString FirstFolder(const QMimeData& Data) {
-    for (const QUrl& Url : Data.urls())
-        if (const QString Path = FileOfUrl(Url); FolderExists(Path)) return Path;
-    return {};
-}
-
-}  // namespace
 
 Workspace::Workspace(QWidget* Parent) : QMdiArea(Parent) {
     setBackground(palette().brush(QPalette::Base));
-    setAcceptDrops(true);
     setActivationOrder(ActivationHistoryOrder);  // a viewer leaves the window it was opened from
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
@@ -40,18 +25,6 @@ bool Workspace::viewportEvent(QEvent* Event) {
     if (mPage && Event->type() == QEvent::Resize) mPage->setGeometry(viewport()->rect());
     if (mPage && Event->type() == QEvent::ChildAdded) mPage->lower();
     return Handled;
-}
-
-void Workspace::dragEnterEvent(QDragEnterEvent* Event) {
-    if (!FirstFolder(*Event->mimeData()).isEmpty()) Event->acceptProposedAction();
-}
-
-void Workspace::dropEvent(QDropEvent* Event) {
-    const QString Folder = FirstFolder(*Event->mimeData());
-    if (Folder.isEmpty()) return;
-    Event->acceptProposedAction();
-    QMetaObject::invokeMethod(
-        this, [this, Folder] { Q_EMIT FolderDropped(Folder); }, Qt::QueuedConnection);
 }
 
 }  // namespace neb

@@ -1,5 +1,4 @@
-// The room in which the main window holds its children, with a page behind them that fills it; it
-// tells of folders that are dropped on it.
+// The room in which the main window holds its children, with a page behind them that fills it.
 #pragma once
 
 #include <QMdiArea>
@@ -14,13 +13,8 @@ class Workspace : public QMdiArea {
     // The page behind the children, which the room owns from here on.
     void SetPage(QWidget* Page);
 
-  Q_SIGNALS:
-    void FolderDropped(const QString& Folder);
-
   protected:
     bool viewportEvent(QEvent* Event) override;
-    void dragEnterEvent(QDragEnterEvent* Event) override;
-    void dropEvent(QDropEvent* Event) override;
 
   private:
     QWidget* mPage = nullptr;

@@ -20,6 +20,7 @@
 #include "program/UnstoredNotice.h"
 #include "program/Workspace.h"
 #include "program/modMachineSettings.h"
+#include "program/opening/FileDrops.h"
 #include "settings/SettingKeys.h"
 #include "settings/clsFileSystem.h"
 #include "settings/modNEBSlideShow.h"
@@ -143,8 +144,8 @@ frmNEBSlideShow::frmNEBSlideShow() : mWorkspace(new Workspace(this)), mHome(new 
     new UnstoredNotice(*statusBar());
     SetUpMenu();
     FillOpeners();
-    connect(mWorkspace, &Workspace::FolderDropped, this, &frmNEBSlideShow::OpenFolder);
-    connect(mHome, &HomePage::QuickShowWanted, this, [this] { OpenQuickShow(); });
+    new FileDrops(*this, [this](const QStringList& Paths) { OpenPaths(Paths); });
+    connect(mHome, &HomePage::QuickShowWanted, this, &frmNEBSlideShow::OpenQuickShow);
     resize(screen()->availableSize() * 0.85);
 }
 
