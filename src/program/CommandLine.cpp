@@ -1,12 +1,31 @@
 #include "program/CommandLine.h"
 
+#include <QUrl>
+
+#include "support/files/HostNames.h"
+#include "support/files/modHostFiles.h"
+
 namespace neb {
 namespace {
 
 constexpr char DebugSwitch[] = "/DEBUG";
 
-bool IsDebugSwitch(const QString& Argument) {
-    return Argument.compare(QLatin1String(DebugSwitch), Qt::CaseInsensitive) == 0;
+// A folder may be called so as well; the bare switch is always the switch.
+bool IsDebugSwitch(const QString& Word) {
+    if (!Word.contains(QLatin1String(DebugSwitch), Qt::CaseInsensitive)) return false;
+    return Word.size() == sizeof DebugSwitch - 1 || !NameExists(Word);
+}
+
+// File managers name files by their addresses.
+QString AsPath(const QString& Word) {
+    if (!Word.startsWith(u"file:", Qt::CaseInsensitive)) return Word;
+    const QString Path = FileOfUrl(QUrl::fromEncoded(HostBytes(Word)));
+    return Path.isEmpty() ? Word : Path;
+}
+
+void TakePath(const QString& Word, CommandLine& Line) {
+    if (const QString Path = AsPath(Word); !Path.isEmpty() && !IsDebugSwitch(Path))
+        Line.Paths << Path;
 }
 
 // Takes the value of an option off the list; notes the problem when there is none.
@@ -25,8 +44,8 @@ void TakeArgument(const QString& Argument, QStringList& Rest, CommandLine& Line)
         Line.WantsVersion = true;
     else if (Argument.startsWith(u"--"))
         Line.Problem = QStringLiteral("%1 is not known.").arg(Argument);
-    else if (!IsDebugSwitch(Argument))
-        Line.Folder = Argument;
+    else
+        TakePath(Argument, Line);
 }
 
 }  // namespace
@@ -45,11 +64,15 @@ CommandLine ParseCommandLine(const QStringList& Arguments) {
 
 QString CommandLineHelp() {
     return QStringLiteral(
-        "Usage: neb-slide-show [/DEBUG] [--documents DIR] [FOLDER]\n"
-        "  FOLDER           open Quick Show on a folder of pictures\n"
+        "Usage: neb-slide-show [/DEBUG] [--documents DIR] [FOLDER | PICTURE]...\n"
+        "  FOLDER           open Quick Show on a folder of pictures, or its albums where it has "
+        "any\n"
+        "  PICTURE          one: open Quick Show on its folder, at that picture;\n"
+        "                   several: on those pictures\n"
         "  --documents DIR  keep albums and settings below DIR instead of the documents folder;\n"
         "                   or open the albums in DIR, as on a disc\n"
-        "  /DEBUG           write the log QLM.log beside the program\n");
+        "  /DEBUG           write the log QLM.log beside the program\n"
+        "Where the program runs already on these albums, that one opens them.\n");
 }
 
 }  // namespace neb

@@ -1,4 +1,5 @@
-// What the program was started with: "neb-slide-show [/DEBUG] [--documents DIR] [FOLDER]".
+// What the program was started with: "neb-slide-show [/DEBUG] [--documents DIR]
+// [FOLDER|PICTURE]...".
 #pragma once
 
 #include <QString>
@@ -9,13 +10,14 @@ namespace neb {
 struct CommandLine {
     bool Debug = false;  // the text holds "/DEBUG", in any case
     QString Documents;   // another documents folder, or a database; empty for the user's own
-    QString Folder;      // Quick Show opens on it; empty for none
+    QStringList Paths;   // folders and pictures to be opened, as named; addresses of files as paths
     QString Problem;     // what is wrong with the arguments; empty when nothing is
     bool WantsHelp = false;
     bool WantsVersion = false;
 };
 
-// Arguments without the program's own name.
+// Arguments without the program's own name. A word with "/DEBUG" in it names a folder or a picture
+// only where that is there.
 CommandLine ParseCommandLine(const QStringList& Arguments);
 QString CommandLineHelp();
 

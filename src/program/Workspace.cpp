@@ -2,32 +2,18 @@
 
 #include <QAction>
 #include <QApplication>
-#include <QDragEnterEvent>
 #include <QMdiSubWindow>
 #include <QMenu>
-#include <QMimeData>
 #include <algorithm>
 
 #include "program/TitleBarStyle.h"
-#include "support/files/HostNames.h"
-#include "support/files/modHostFiles.h"
 #include "windows/frame/VisiblePlace.h"
 #include "windows/frame/modWindowState.h"
 
 namespace neb {
-namespace {
-
-QString FirstFolder(const QMimeData& Data) {
-    for (const QUrl& Url : Data.urls())
-        if (const QString Path = FileOfUrl(Url); FolderExists(Path)) return Path;
-    return {};
-}
-
-}  // namespace
 
 Workspace::Workspace(QWidget* Parent) : QMdiArea(Parent), mTitleBars(new TitleBarStyle(this)) {
     setBackground(palette().brush(QPalette::Base));
-    setAcceptDrops(true);
     setActivationOrder(ActivationHistoryOrder);    // a viewer leaves the window it was opened from
     setOption(DontMaximizeSubWindowOnActivation);  // each child has a state of its own
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
@@ -114,18 +100,6 @@ bool Workspace::eventFilter(QObject* Watched, QEvent* Event) {
 void Workspace::scrollContentsBy(int dx, int dy) {
     QMdiArea::scrollContentsBy(dx, dy);
     FillWithPage();
-}
-
-void Workspace::dragEnterEvent(QDragEnterEvent* Event) {
-    if (!FirstFolder(*Event->mimeData()).isEmpty()) Event->acceptProposedAction();
-}
-
-void Workspace::dropEvent(QDropEvent* Event) {
-    const QString Folder = FirstFolder(*Event->mimeData());
-    if (Folder.isEmpty()) return;
-    Event->acceptProposedAction();
-    QMetaObject::invokeMethod(
-        this, [this, Folder] { Q_EMIT FolderDropped(Folder); }, Qt::QueuedConnection);
 }
 
 }  // namespace neb

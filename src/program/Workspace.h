@@ -1,5 +1,4 @@
-// The room in which the main window holds its children, with a page behind them that fills it; it
-// tells of folders that are dropped on it.
+// The room in which the main window holds its children, with a page behind them that fills it.
 #pragma once
 
 #include <QMdiArea>
@@ -22,15 +21,10 @@ class Workspace : public QMdiArea {
     void TileChildren();
     void CascadeChildren();
 
-  Q_SIGNALS:
-    void FolderDropped(const QString& Folder);
-
   protected:
     bool viewportEvent(QEvent* Event) override;
     bool eventFilter(QObject* Watched, QEvent* Event) override;
     void scrollContentsBy(int dx, int dy) override;
-    void dragEnterEvent(QDragEnterEvent* Event) override;
-    void dropEvent(QDropEvent* Event) override;
 
   private:
     QList<QMdiSubWindow*> LaidOut();

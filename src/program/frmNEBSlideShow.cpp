@@ -26,6 +26,7 @@
 #include "program/Workspace.h"
 #include "program/help/modHelp.h"
 #include "program/modMachineSettings.h"
+#include "program/opening/FileDrops.h"
 #include "settings/SettingKeys.h"
 #include "settings/clsFileSystem.h"
 #include "settings/modNEBSlideShow.h"
@@ -161,13 +162,11 @@ frmNEBSlideShow::frmNEBSlideShow()
     SetUpMenu();
     FillOpeners();
     new HelpKey(this);
-    connect(mWorkspace, &Workspace::FolderDropped, this, &frmNEBSlideShow::OpenFolder);
-    connect(mHome, &HomePage::QuickShowWanted, this, [this] { OpenQuickShow(); });
-    connect(mWorkspace, &QMdiArea::subWindowActivated, this, &frmNEBSlideShow::LastChildLeft,
-            Qt::QueuedConnection);
     new WindowKeeper(this);
     new MenuKeys(*this);
     resize(FirstSize(screen()->availableSize()));
+    new FileDrops(*this, [this](const QStringList& Paths) { OpenPaths(Paths); });
+    connect(mHome, &HomePage::QuickShowWanted, this, &frmNEBSlideShow::OpenQuickShow);
 }
 
 frmNEBSlideShow::~frmNEBSlideShow() {

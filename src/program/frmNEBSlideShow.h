@@ -18,6 +18,7 @@ class clsDBEngine;
 class clsImageBuffer;
 struct DatabaseHealth;
 struct MainMenu;
+struct OpenedPaths;
 
 class frmNEBSlideShow : public QMainWindow {
     Q_OBJECT
@@ -42,11 +43,13 @@ class frmNEBSlideShow : public QMainWindow {
     bool Unload();
     // Unloads a form, ignoring faults.
     void UnloadChild(Form& Child);
-    // Opens Quick Show on a folder (a box when it is none), or with no folder yet.
-    void OpenQuickShow(const QString& Folder = {});
-    // A folder that was dropped on the window: albums open in a second instance of the program,
-    // pictures in Quick Show.
-    void OpenFolder(const QString& Folder);
+    void OpenQuickShow();  // with no folder yet
+    // What is dropped, named on the command line or handed over by a further start: pictures and
+    // folders open in Quick Show, a folder of albums in a second instance of the program. As soon
+    // as no modal window is open; a box for what cannot be opened.
+    void OpenPaths(const QStringList& Paths);
+    // Whether it has its albums, or will have them.
+    bool IsUp() const { return mStage != Stage::Empty; }
 
     FlexGrid* flxBuffer() const { return mBuffer; }
     Workspace& Area() const { return *mWorkspace; }  // where the children stand
@@ -64,7 +67,9 @@ class frmNEBSlideShow : public QMainWindow {
     void FillOpeners();
     void ListWindows();
     void ShowAsChild(Form& Child);
-    void LastChildLeft();
+    bool IsFree() const;
+    void OpenNow(const OpenedPaths& What);
+    void OpenAlbums(const QString& Folder);
 
     bool LoadDatabase();
     void ReadRecords(const DatabaseHealth& Health);

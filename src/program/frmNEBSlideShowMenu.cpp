@@ -4,18 +4,22 @@
 #include <QMenu>
 #include <QPointer>
 #include <QStatusBar>
+#include <QThread>
+#include <QTimer>
 
 #include "albums/transfer/OtherDatabase.h"
 #include "controls/forms/Form.h"
+#include "controls/forms/Tell.h"
 #include "program/EditMenu.h"
 #include "program/MainMenu.h"
-#include "program/OtherInstance.h"
 #include "program/StepAside.h"
 #include "program/Workspace.h"
 #include "program/frmNEBSlideShow.h"
+#include "program/opening/OpenedPaths.h"
+#include "program/opening/OtherInstance.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Services.h"
-#include "support/files/modHostFiles.h"
+#include "support/modText.h"
 #include "windows/compose/frmSlideShowDBM.h"
 #include "windows/compose/modShowManagers.h"
 #include "windows/frame/Openers.h"
@@ -29,6 +33,14 @@ namespace neb {
 namespace {
 
 constexpr int NoticeMs = 10'000;
+constexpr int RetryMs = 100;
+
+frmQuickShow* EmptyQuickShow() {
+    for (const auto& Each : LoadedForms())
+        if (auto* Found = dynamic_cast<frmQuickShow*>(Each.get()); Found && Found->IsWaitingEmpty())
+            return Found;
+    return nullptr;
+}
 
 }  // namespace
 
@@ -72,31 +84,43 @@ void frmNEBSlideShow::ShowHome() {
     mHome->TakeFocus();
 }
 
-// The keys do something in the home again.
-void frmNEBSlideShow::LastChildLeft() {
-    const QWidget* Focus = focusWidget();
-    const bool IsThere = Focus && mHome->isAncestorOf(Focus);
-    if (!IsThere && mStage == Stage::Loaded && !mAside->IsAnyUp()) mHome->TakeFocus();
+void frmNEBSlideShow::OpenQuickShow() {
+    ShowAsChild(*NewForm<frmQuickShow>());
 }
 
-void frmNEBSlideShow::OpenQuickShow(const QString& Folder) {
-    if (!Folder.isEmpty() && !FolderExists(Folder)) {
-        MsgBox(tr("There is no folder %1.").arg(Folder), tr("No Such Folder"), BoxIcon::Critical);
-        return;
+// No show, no question and no work that waits for its end; no menu and no drag either.
+bool frmNEBSlideShow::IsFree() const {
+    return mStage == Stage::Loaded && !QApplication::activeModalWidget() &&
+           !QApplication::activePopupWidget() && QThread::currentThread()->loopLevel() <= 1;
+}
+
+void frmNEBSlideShow::OpenPaths(const QStringList& Paths) {
+    if (Paths.isEmpty() || !IsUp()) return;
+    if (IsFree()) return OpenNow(SortOut(Paths));
+    QTimer::singleShot(RetryMs, this, [this, Paths] { OpenPaths(Paths); });
+}
+
+void frmNEBSlideShow::OpenNow(const OpenedPaths& What) {
+    for (const QString& Folder : What.Albums) OpenAlbums(Folder);
+    if (const auto Wrong = What.Wrong()) ShowBox(*Wrong);
+    if (What.Named.isEmpty()) return;
+    if (frmQuickShow* Waiting = EmptyQuickShow()) {
+        BringToFront(*Waiting);
+        return Waiting->Open(What.Named, What.AtPicture);
     }
     const auto Window = NewForm<frmQuickShow>();
-    if (!Folder.isEmpty()) Window->SetImportDir(AbsolutePath(Folder));
+    Window->Open(What.Named, What.AtPicture);
     ShowAsChild(*Window);
 }
 
-void frmNEBSlideShow::OpenFolder(const QString& Folder) {
+void frmNEBSlideShow::OpenAlbums(const QString& Folder) {
     const QString Database = DatabaseIn(Folder);
-    if (!HoldsDatabase(Database)) return OpenQuickShow(Folder);
+    const QString Shown = ReadableText(Folder);
     if (IsSameDatabase(Database, DBPath()))
-        return ShowNotice(tr("The albums in %1 are those that are open here.").arg(Folder));
+        return ShowNotice(tr("The albums in %1 are those that are open here.").arg(Shown));
     if (OpenInOtherInstance(Database))
-        return ShowNotice(tr("The albums in %1 open in a window of their own.").arg(Folder));
-    MsgBox(tr("The program cannot be started once more to open the albums in %1.").arg(Folder),
+        return ShowNotice(tr("The albums in %1 open in a window of their own.").arg(Shown));
+    MsgBox(tr("The program cannot be started once more to open the albums in %1.").arg(Shown),
            tr("Albums Cannot Be Opened"), BoxIcon::Critical);
 }
 

@@ -1,5 +1,6 @@
 #include "program/modMain.h"
 
+#include <QDeadlineTimer>
 #include <QThread>
 #include <QTimer>
 #include <cstdio>
@@ -10,9 +11,11 @@
 #include "db/records/modJournal.h"
 #include "program/CommandLine.h"
 #include "program/DesktopServices.h"
-#include "program/OtherInstance.h"
 #include "program/TerminationWatch.h"
 #include "program/frmNEBSlideShow.h"
+#include "program/opening/InstanceServer.h"
+#include "program/opening/OtherInstance.h"
+#include "program/opening/RaiseProgram.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/Services.h"
@@ -24,6 +27,7 @@ namespace neb {
 namespace {
 
 constexpr int RetryMs = 50;
+constexpr int MeanwhileMs = 1500;  // for which another program may be starting or ending
 
 // The words as typed, which may name files by any bytes. The toolkit takes its own out of them, but
 // wants a display before that.
@@ -50,17 +54,29 @@ int TellUnreadable(const std::exception& Problem) {
     return 1;
 }
 
-int RunMainWindow(const CommandLine& Line) {
+// Opens it in its own time: who hands it over is answered before.
+bool TakeOver(frmNEBSlideShow& Window, const HandOver& What) {
+    if (!Window.IsUp()) return false;
+    RaiseProgram(Window, What.Token);
+    QMetaObject::invokeMethod(
+        &Window, [&Window, What] { Window.OpenPaths(What.Paths); }, Qt::QueuedConnection);
+    return true;
+}
+
+int RunMainWindow(const CommandLine& Line, const QString& Database) {
     frmNEBSlideShow Window;
+    std::optional<InstanceServer> Server;
+    if (MayWriteDatabase(Database))  // several may look at one that cannot be changed
+        Server.emplace(Database,
+                       [&Window](const HandOver& What) { return TakeOver(Window, What); });
     try {
         if (!Window.Form_Load(Line)) return 0;
     } catch (const std::exception& Problem) {
         return TellUnreadable(Problem);
     }
     const TerminationWatch Watch([&Window] { CloseWhenIdle(Window); });
-    if (!Line.Folder.isEmpty())
-        QMetaObject::invokeMethod(
-            &Window, [&] { Window.OpenQuickShow(Line.Folder); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        &Window, [&] { Window.OpenPaths(Line.Paths); }, Qt::QueuedConnection);
     return QApplication::exec();
 }
 
@@ -156,11 +172,26 @@ bool TellUnlockable(const QString& Reason) {
     return false;
 }
 
+// The other one may just be starting, and not listen yet, or ending, and let go of the lock soon.
+LockAnswer LockOrCall(InstanceLock& Lock, const CallRunning& Call, HandedOver& Answered) {
+    const QDeadlineTimer Patience(MeanwhileMs);
+    LockAnswer Is = Lock.TryLock();
+    while (Is.Is == LockAnswer::State::HeldHere && Call &&
+           (Answered = Call()) == HandedOver::NotThere) {
+        QThread::msleep(RetryMs);
+        Is = Lock.TryLock();
+        if (Patience.hasExpired()) break;
+    }
+    return Is;
+}
+
 }  // namespace
 
-bool BecomeTheInstance(InstanceLock& Lock) {
-    const LockAnswer Is = Lock.TryLock();
+bool BecomeTheInstance(InstanceLock& Lock, const CallRunning& Call) {
+    HandedOver Answered = HandedOver::NotThere;
+    const LockAnswer Is = LockOrCall(Lock, Call, Answered);
     if (Is) return true;
+    if (Answered == HandedOver::Taken) return false;
     if (Is.Is == LockAnswer::State::HeldElsewhere) return TakeOverFrom(Is.Machine, Lock);
     if (Is.Is == LockAnswer::State::CannotLock) return TellUnlockable(Is.Reason);
     MsgBox(QStringLiteral("You can only run a single instance of NEB Slide Show at a time."),
@@ -168,13 +199,14 @@ bool BecomeTheInstance(InstanceLock& Lock) {
     return false;
 }
 
-bool BecomeTheInstanceOn(const QString& Database, InstanceLock& Lock) {
-    return !MayWriteDatabase(Database) || BecomeTheInstance(Lock);
+bool BecomeTheInstanceOn(const QString& Database, InstanceLock& Lock, const CallRunning& Call) {
+    return !MayWriteDatabase(Database) || BecomeTheInstance(Lock, Call);
 }
 
 int Main(int argc, char** argv) {
     const CommandLine Asked = ParseCommandLine(WordsOf(argc, argv));
     if (Asked.WantsHelp || Asked.WantsVersion) return AnswerOnTerminal(Asked);
+    const QByteArray Token = TokenOfStart();
     NebApplication App(argc, argv);
     const DesktopServices Services;
     const CommandLine Line = ParseCommandLine(WordsOf(argc, argv));
@@ -186,9 +218,10 @@ int Main(int argc, char** argv) {
     const std::optional<QString> Database = DatabaseToOpen();
     if (!Database) return 1;
     InstanceLock Lock(DatabaseLockPath(*Database));
-    if (!BecomeTheInstanceOn(*Database, Lock)) return 0;
+    const auto Call = [&] { return HandOverTo(*Database, {SeenFromHere(Line.Paths), Token}); };
+    if (!BecomeTheInstanceOn(*Database, Lock, Call)) return 0;
     TheInstanceStarter() = &StartOwnProgram;
-    return RunMainWindow(Line);
+    return RunMainWindow(Line, *Database);
 }
 
 }  // namespace neb

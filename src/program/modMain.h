@@ -3,7 +3,10 @@
 #pragma once
 
 #include <QString>
+#include <functional>
 #include <optional>
+
+#include "program/opening/InstanceCall.h"
 
 namespace neb {
 
@@ -17,10 +20,13 @@ std::optional<QString> DatabaseToOpen();
 // the event loop itself to call.
 void CloseWhenIdle(frmNEBSlideShow& Window);
 
-// Takes the lock of the one running instance; false after a box when another one runs.
-bool BecomeTheInstance(InstanceLock& Lock);
+// Calls the program that runs on the database. Without one that can be called nobody is.
+using CallRunning = std::function<HandedOver()>;
+// Takes the lock of the one running instance. False when another one runs, which has taken over
+// what was to be opened; after a box when it has not.
+bool BecomeTheInstance(InstanceLock& Lock, const CallRunning& Call = {});
 // The same for a database; any number may look at one that cannot be changed, and leave no lock.
-bool BecomeTheInstanceOn(const QString& Database, InstanceLock& Lock);
+bool BecomeTheInstanceOn(const QString& Database, InstanceLock& Lock, const CallRunning& Call = {});
 
 // The exit code of the program.
 int Main(int argc, char** argv);

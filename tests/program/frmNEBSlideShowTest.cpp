@@ -101,24 +101,6 @@ TEST_F(MainWindow, SettingsThatCannotBeWrittenDoNotKeepTheProgramFromStarting) {
     EXPECT_TRUE(DBEngine);
 }
 
-TEST_F(MainWindow, AFolderOfTheCommandLineIsFoundFromTheWorkingDirectoryOrMissed) {
-    Start();
-    const QString Before = QDir::currentPath();
-    QDir::setCurrent(mDocuments.Path());
-    MakeDirs("pictures");
-    mWindow->OpenQuickShow("pictures");
-    EXPECT_EQ(Find<frmQuickShow>()->ImportDir(), mDocuments / "pictures");
-    Find<frmQuickShow>()->Unload();
-    WriteFile("picture.png", "x");
-    for (const QString Name : {"nowhere", "picture.png"}) {
-        mBoxes.Expect("There is no folder " + Name + ".", "No Such Folder", BoxIcon::Critical,
-                      BoxAnswer::Ok);
-        mWindow->OpenQuickShow(Name);
-        EXPECT_FALSE(Find<frmQuickShow>());
-    }
-    QDir::setCurrent(Before);
-}
-
 TEST_F(MainWindow, TheMenuBarLeavesTheKeysOfTheButtonsInsideAlone) {
     Start();
     mWindow->OpenQuickShow();

@@ -113,6 +113,17 @@ class KeyboardTasks : public AllWindowsRig {
         TabTo("flxNonSelected");
         SelectFirstAndThird();
         PressKeyOn("cmdMoveRightOne");
+        NameTheFirstAndImport(Window);
+    }
+    // In Quick Show all are chosen already.
+    static void LeaveTheSecondOut(ImportForm& Window) {
+        Activate(Window);
+        TabTo("flxSelected");
+        for (const Qt::Key Each : {Qt::Key_Home, Qt::Key_Down}) Key(Each);
+        PressKeyOn("cmdMoveLeftOne");
+        NameTheFirstAndImport(Window);
+    }
+    static void NameTheFirstAndImport(ImportForm& Window) {
         EXPECT_EQ("a,c", CaptionsOf(Selected(Window)));
         TabTo("flxSelected");
         Key(Qt::Key_Home);
@@ -155,7 +166,7 @@ TEST_F(KeyboardTasks, AQuickShowIsMadeAndLeft) {
         Ran = true;
         QTest::keyClick(&Shown, Qt::Key_Escape);
     });
-    ImportTwoOfThree(*Window);
+    LeaveTheSecondOut(*Window);
     EXPECT_TRUE(Ran);
     EXPECT_EQ("Rose|c", CaptionsIn(Album(u"Holiday"_s)));
 }

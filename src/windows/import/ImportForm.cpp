@@ -77,7 +77,7 @@ void ImportForm::CaptionEdited(FlexGrid& Grid, int Row, int Col) {
 void ImportForm::SetUpOptions() {
     mUi->wdgOptions->setEnabled(!ReadOnlyDB);
     connect(mUi->wdgOptions, &ImportOptions::OrderChosen, this,
-            [this](PictureOrder Order) { Command([this, Order] { Rows().Sort(Order); }); });
+            [this](PictureOrder Order) { Command([this, Order] { OrderChosen(Order); }); });
     connect(mUi->wdgOptions, &ImportOptions::OwnWordsChosen, this, [this](bool OwnWords) {
         Command([this, OwnWords] { Rows().ProposeCaptions(OwnWords); });
     });
@@ -155,13 +155,12 @@ void ImportForm::FinishEdits() {
 }
 
 void ImportForm::Form_Load() {
-    ReadPictures();
+    ReadOpened();
     Leave(Phase::Loading);
     UpdateButtons();
     if (IsLoaded()) RestoreWindow(*this, mMemory);
 }
 
-// Pictures that were picked out, and captions typed for them.
 bool ImportForm::HoldsWork() const {
     return !ReadOnlyDB && mPhase == Phase::Waiting && mUi->flxSelected->Rows() > 0;
 }

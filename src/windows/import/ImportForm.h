@@ -33,6 +33,8 @@ class ImportForm : public Form {
     void SetImportDir(const QString& Directory) { mSource.Directory = Directory; }
     void SetRecurseDir(bool Recurse) { mSource.Recurse = Recurse; }
     const QString& ImportDir() const { return mSource.Directory; }
+    // The same for several at once: pictures, and folders with their separator.
+    void SetNamed(const QStringList& Paths) { mSource.Named = Paths; }
 
     // Puts paths in the order of their bare names by character code, equal names as they were. No
     // window asks for it: pictures stay in the order in which they were found.
@@ -48,8 +50,14 @@ class ImportForm : public Form {
     virtual void Import() = 0;
     // Brings the selected pictures in; false when that was refused, which the user has been told.
     virtual bool Keep() = 0;
-    // Called after a directory was chosen or dropped.
+    // Called after a directory was chosen or dropped, or pictures of one were.
     virtual void DirectoryChosen(const QString&) {}
+    // Called when what was chosen, dropped or set by the caller has been read: those not selected
+    // from row First on are new.
+    virtual void PicturesOpened(int /*First*/) {}
+    virtual void OrderChosen(PictureOrder Order) { Rows().Sort(Order); }
+    // Pictures that were picked out, and captions typed for them.
+    virtual bool HoldsWork() const;
 
     void Form_Load() override;
     bool Form_QueryUnload() override;
@@ -75,6 +83,16 @@ class ImportForm : public Form {
     // Takes the rows of what is in out of the selection, so that nothing is entered twice.
     void DropEntered(const ImportTally& Tally);
 
+    PictureRows& Rows() const { return mReading->Rows(); }
+    void MoveRows(FlexGrid& From, FlexGrid& To, bool All);
+    void UpdateButtons();
+    // Reads pictures and folders beside those that are there, as a drop does.
+    void ReadDropped(const QStringList& Paths);
+    // The folder whose name stands for what is to be read next; empty: nothing is.
+    QString FolderToRead() const;
+    // Whether no work is under way and no other window holds the user's attention.
+    bool IsFree() const;
+
     std::unique_ptr<Ui::ImportForm> mUi;
 
   private:
@@ -92,28 +110,24 @@ class ImportForm : public Form {
     void SetUpOptions();
     void SetUpButtons();
     void SetUpToolBar();
-    void UpdateButtons();
-    void MoveRows(FlexGrid& From, FlexGrid& To, bool All);
     void Close() { Unload(); }
 
     bool IsBusy() const override { return mPhase != Phase::Waiting || mReading->IsReading(); }
     void FinishEdits() override;
     void Leave(Phase Done);
     void During(Phase What, const std::function<void()>& Do);
-    bool HoldsWork() const;
     bool GoesOn() const;
     bool EnterRows(PictureImport& Run, frmProgress& Bar, ImportTally& Tally,
                    const SlideEntered& Entered);
     static void BeginBar(frmProgress& Bar, int Count);
     static void MoveBar(frmProgress& Bar, int Done, int Count);
-    PictureRows& Rows() { return mReading->Rows(); }
 
     void ImportAnotherDirectory();
     void ImportFoundGraphics();
     void DropRemaining();
-    bool IsFree() const;
-    void ReadDropped(const QStringList& Paths);
-    void ReadPictures();
+    std::optional<ReadingReport> ReadNamed();
+    void TellOf(const std::optional<ReadingReport>& Report);
+    void ReadOpened();
 
     const WindowMemory& mMemory;
     Phase mPhase = Phase::Loading;

@@ -30,17 +30,38 @@ QString AsDropped(const QString& Path) {
 
 }  // namespace
 
+// Of several the first folder, else that of the first picture.
+QString ImportForm::FolderToRead() const {
+    const QStringList& Named = mSource.Named;
+    const auto Folder = std::find_if(Named.begin(), Named.end(),
+                                     [](const QString& Each) { return Each.endsWith(u'/'); });
+    if (Folder != Named.end()) return *Folder;
+    if (!Named.isEmpty()) return GetFilePath(Named.front());
+    return mSource.Directory.isEmpty() ? QString() : WithSeparator(mSource.Directory);
+}
+
 // What is named is read once: stopped or not, the next read is of what is
 // chosen then.
-void ImportForm::ReadPictures() {
+std::optional<ReadingReport> ImportForm::ReadNamed() {
     const PictureReading::Source From = mSource;
     mSource.Named.clear();
-    if (From.Directory.isEmpty() && From.Named.isEmpty()) return;
+    if (From.Directory.isEmpty() && From.Named.isEmpty()) return std::nullopt;
     const std::optional<ReadingReport> Report = mReading->Read(From);
     UpdateButtons();
+    return Report;
+}
+
+void ImportForm::TellOf(const std::optional<ReadingReport>& Report) {
     if (!Report || !IsLoaded()) return;
     mUi->wdgPassedOver->ShowReport(*Report);
     if (Report->HasMissing()) Report->Tell();
+}
+
+void ImportForm::ReadOpened() {
+    const int First = mUi->flxNonSelected->Rows();
+    const std::optional<ReadingReport> Report = ReadNamed();
+    if (IsLoaded() && mUi->flxNonSelected->Rows() > First) PicturesOpened(First);
+    TellOf(Report);
 }
 
 void ImportForm::SortFiles(QStringList& Paths) {
@@ -65,7 +86,7 @@ void ImportForm::ImportAnotherDirectory() {
     if (IsReserved(Chosen)) return;
     mSource = {Chosen, Selector->RecurseDir(), {}};
     DirectoryChosen(Chosen);
-    ReadPictures();
+    ReadOpened();
 }
 
 void ImportForm::ImportFoundGraphics() {
@@ -78,10 +99,9 @@ void ImportForm::ImportFoundGraphics() {
     }
     if (Finder->FileCnt() < 1 || !IsLoaded()) return;
     for (int I = 1; I <= Finder->FileCnt(); ++I) mSource.Named.append(Finder->Files(I));
-    ReadPictures();
+    TellOf(ReadNamed());
 }
 
-// Whether no work is under way and no other window holds the user's attention.
 bool ImportForm::IsFree() const {
     const QWidget* Modal = QApplication::activeModalWidget();
     return IsLoaded() && !IsBusy() && (!Modal || Modal == this);
@@ -108,8 +128,8 @@ void ImportForm::ReadDropped(const QStringList& Paths) {
     if (!IsFree() || std::any_of(Paths.begin(), Paths.end(), &IsReserved)) return;
     DropRemaining();
     mSource.Named = Paths;
-    if (FolderExists(Paths.front())) DirectoryChosen(Paths.front());
-    ReadPictures();
+    DirectoryChosen(FolderToRead());
+    ReadOpened();
 }
 
 }  // namespace neb

@@ -1,8 +1,15 @@
 #include "windows/import/ImportTally.h"
 
+#include <algorithm>
+
 #include "controls/forms/Tell.h"
 
 namespace neb {
+
+std::int32_t ImportTally::PlaceOf(int Row) const {
+    const auto Found = std::find(Entered.begin(), Entered.end(), Row);
+    return Found == Entered.end() ? 0 : static_cast<std::int32_t>(Found - Entered.begin()) + 1;
+}
 
 QString ImportTally::Text() const {
     QString Told = QStringLiteral("%1 slides successfully imported.").arg(Entered.size());

@@ -4,6 +4,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <cstdint>
 #include <vector>
 
 namespace neb {
@@ -17,6 +18,8 @@ struct ImportTally {
     // Whether the user stopped it before all pictures had been tried.
     bool IsStopped() const { return Problem.isEmpty() && Tried() < Of; }
     bool IsWhole() const { return Tried() == Of && LeftOut.isEmpty() && Problem.isEmpty(); }
+    // Which of those that came in a row is, from 1; 0: it did not.
+    std::int32_t PlaceOf(int Row) const;
     // Shows the box at the end of an import.
     void Tell() const;
     // The list of those left out, for a box that has room for it; empty: there are none.

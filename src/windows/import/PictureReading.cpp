@@ -80,11 +80,13 @@ SlideReading::Order PictureReading::Order(const Source& From, const std::shared_
             .KeysTitle = QStringLiteral("Reading Slides ...")};
 }
 
-// When they were taken is known when they have been read: then they are sorted once more.
+// When they were taken is known when they have been read: then they are sorted once more. Who names
+// a folder and a picture of it means that picture once.
 void PictureReading::Collect(const Source& From, Found& To) {
     if (From.Named.isEmpty()) return TakeDirectory(From.Directory, From.Recurse, To);
     for (const QString& Path : From.Named) TakeNamed(From, To, Path);
     SortByName(To.Files);
+    To.Files.removeDuplicates();
 }
 
 void PictureReading::TakeNamed(const Source& From, Found& To, const QString& Path) {

@@ -67,15 +67,22 @@ void PictureRows::Add(const QString& Path, const ListedPicture& Picture, const P
 }
 
 void PictureRows::Sort(PictureOrder Order, int First) {
+    SortIn(mNonSelected, Order, First);
+}
+
+void PictureRows::SortSelected(PictureOrder Order) {
+    SortIn(mSelected, Order, 0);
+}
+
+void PictureRows::SortIn(FlexGrid& Grid, PictureOrder Order, int First) {
     std::vector<PictureInOrder> Pictures;
-    for (int Row = First; Row < mNonSelected.Rows(); ++Row)
-        Pictures.push_back(
-            {mNonSelected.TextMatrix(Row, ColPath), mSpool->Facts(NumberOf(mNonSelected, Row))});
+    for (int Row = First; Row < Grid.Rows(); ++Row)
+        Pictures.push_back({Grid.TextMatrix(Row, ColPath), mSpool->Facts(NumberOf(Grid, Row))});
     const std::vector<int> Wanted = PlacesInOrder(std::move(Pictures), Order);
     if (std::is_sorted(Wanted.begin(), Wanted.end())) return;
-    mNonSelected.SetRedraw(false);
-    const auto Painted = qScopeGuard([this] { mNonSelected.SetRedraw(true); });
-    Arrange(mNonSelected, First, Wanted);
+    Grid.SetRedraw(false);
+    const auto Painted = qScopeGuard([&Grid] { Grid.SetRedraw(true); });
+    Arrange(Grid, First, Wanted);
 }
 
 QString PictureRows::Proposed(const FlexGrid& Grid, int Row, bool OwnWords) const {
@@ -100,6 +107,12 @@ void PictureRows::ProposeCaptions(bool OwnWords) {
 void PictureRows::NoteTyped(FlexGrid& Grid, int Row, bool OwnWords) {
     const bool Typed = Grid.TextMatrix(Row, ColCaption) != Proposed(Grid, Row, OwnWords);
     Grid.SetCellData(Row, ColCaption, Typed ? CellValue(1.0) : CellValue());
+}
+
+bool PictureRows::HasTyped() const {
+    for (int Row = 0; Row < mSelected.Rows(); ++Row)
+        if (mSelected.CellData(Row, ColCaption) != CellValue()) return true;
+    return false;
 }
 
 QStringList PictureRows::SelectedPaths() const {

@@ -28,10 +28,15 @@ class PictureRows {
              bool OwnWords);
     // Puts those not selected in order, from row First on; the selected ones are in the user's own.
     void Sort(PictureOrder Order, int First = 0);
+    // Those that are selected, where the user has left their order to the window.
+    void SortSelected(PictureOrder Order);
     // Captions that the user has not typed are proposed anew.
     void ProposeCaptions(bool OwnWords);
     // To be told of each edit that has ended: what differs from the proposal was typed.
     void NoteTyped(FlexGrid& Grid, int Row, bool OwnWords);
+
+    // Whether a caption of a selected one was typed.
+    bool HasTyped() const;
 
     QStringList SelectedPaths() const;
     // Of one that could not be taken in the thumbnail is left away: the file may be another picture
@@ -42,6 +47,7 @@ class PictureRows {
     void DropSelected(const std::vector<int>& Rows);
 
   private:
+    void SortIn(FlexGrid& Grid, PictureOrder Order, int First);
     int NumberOf(const FlexGrid& Grid, int Row) const;
     ShapedPicture ShownIn(const FlexGrid& Grid, int Row);
     QString Proposed(const FlexGrid& Grid, int Row, bool OwnWords) const;

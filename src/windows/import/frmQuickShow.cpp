@@ -1,7 +1,9 @@
 #include "windows/import/frmQuickShow.h"
 
 #include <algorithm>
+#include <numeric>
 
+#include "albums/ProposedName.h"
 #include "controls/fields/KeyFilter.h"
 #include "controls/forms/Tell.h"
 #include "controls/forms/frmProgress.h"
@@ -33,15 +35,72 @@ frmQuickShow::frmQuickShow() : ImportForm(Memory) {
     mUi->cmdImport->setToolTip(
         QStringLiteral("Create an Album and Slide Show from the Selected Pictures"));
     KeepQuotesClean(*mUi->txtName);
+    // Enter saves; on a button that was gone to by keys it presses that one
+    for (auto* Each : findChildren<QPushButton*>()) Each->setAutoDefault(true);
+}
+
+void frmQuickShow::Open(const QStringList& Named, const QString& AtPicture) {
+    mOpened.AtPicture = AtPicture;
+    if (!IsLoaded()) return SetNamed(Named);
+    Command([this, Named] { ReadDropped(Named); });
+}
+
+bool frmQuickShow::IsWaitingEmpty() const {
+    const bool Named = !mUi->txtName->text().isEmpty() && mUi->txtName->text() != mOpened.Name;
+    return IsFree() && !Named && !IsMade() && mUi->flxSelected->Rows() == 0 &&
+           mUi->flxNonSelected->Rows() == 0;
 }
 
 // The folder's own name is what most people would type. Whoever begins anew with another folder
 // gets that one's name; a name that was typed stays.
 void frmQuickShow::DirectoryChosen(const QString& Directory) {
-    const bool Typed = !mUi->txtName->text().isEmpty() && mUi->txtName->text() != mProposedName;
-    if (Typed || mUi->flxSelected->Rows() > 0 || mUi->flxNonSelected->Rows() > 0) return;
-    mProposedName = ConvertQuotes(GetFileName(Directory.chopped(1)));
-    mUi->txtName->setText(mProposedName);
+    const bool Typed = !mUi->txtName->text().isEmpty() && mUi->txtName->text() != mOpened.Name;
+    const bool Begun = mUi->flxSelected->Rows() > 0 || mUi->flxNonSelected->Rows() > 0;
+    if (Typed || Begun || mUi->txtName->isReadOnly()) return;
+    mOpened.Name = ProposedAlbumName(Directory, *DBEngine);
+    mUi->txtName->setText(mOpened.Name);
+}
+
+// Whoever opens a folder wants to see all of it: one Enter from here it runs.
+void frmQuickShow::PicturesOpened(int First) {
+    if (ReadOnlyDB) return;
+    const bool AsOpened = IsChosenAsOpened();
+    std::vector<int> New(static_cast<size_t>(mUi->flxNonSelected->Rows() - First));
+    std::iota(New.begin(), New.end(), First);
+    mUi->flxNonSelected->GiveRows(New, *mUi->flxSelected);
+    UpdateButtons();
+    if (AsOpened) mOpened.Chosen = Rows().SelectedPaths();
+    mUi->txtName->setFocus();
+    mUi->txtName->selectAll();
+    // its place in the list is known once the window stands
+    QMetaObject::invokeMethod(this, &frmQuickShow::ShowInHand, Qt::QueuedConnection);
+}
+
+// -1 where none was opened by itself, or it has gone from the list.
+int frmQuickShow::RowOfOpened() const {
+    return static_cast<int>(Rows().SelectedPaths().indexOf(mOpened.AtPicture));
+}
+
+void frmQuickShow::ShowInHand() {
+    const int Row = RowOfOpened();
+    if (Row < 0) return;
+    mUi->flxSelected->SetRow(Row);
+    mUi->flxSelected->EnsureRowVisible(Row);
+}
+
+// An order that the user has made by hand stays.
+void frmQuickShow::OrderChosen(PictureOrder Order) {
+    ImportForm::OrderChosen(Order);
+    if (!IsChosenAsOpened()) return;
+    Rows().SortSelected(Order);
+    mOpened.Chosen = Rows().SelectedPaths();
+}
+
+// What the window has chosen and named by itself nobody misses.
+bool frmQuickShow::HoldsWork() const {
+    const bool AsOpened =
+        IsChosenAsOpened() && !Rows().HasTyped() && mUi->txtName->text() == mOpened.Name;
+    return !AsOpened && ImportForm::HoldsWork();
 }
 
 bool frmQuickShow::HasFreeName() {
@@ -61,7 +120,7 @@ bool frmQuickShow::IsMade() const {
 void frmQuickShow::Import() {
     if (!Run() || !MayPlay()) return;
     mUi->flxSelected->SetRows(0);
-    if (Unload()) RunSlideShow(mMade.AlbumID, mMade.Name, mMade.SlideShowID);
+    if (Unload()) RunSlideShow(mMade.AlbumID, mMade.Name, mMade.SlideShowID, mMade.BeginAt);
 }
 
 // Asked of a window that is to close: what was left out keeps it.
@@ -142,14 +201,19 @@ bool frmQuickShow::FillShow(Changes& Door, Made& What, frmProgress& Bar) {
 }
 
 // The places are those of what has come in: a hole would make the show begin again there.
-std::optional<ImportTally> frmQuickShow::FillAlbum(const Made& Into, clsNEBSlideShow& Show,
+std::optional<ImportTally> frmQuickShow::FillAlbum(Made& Into, clsNEBSlideShow& Show,
                                                    frmProgress& Bar) {
     Changes Door(*DBEngine, this);
     Door.AsOne(Change::Kind::SlidesImported, Into.AlbumID).Never();
-    auto Place = static_cast<std::int32_t>(Show.Details.size());
-    for (const auto& Detail : Show.Details) Place = std::max(Place, Detail->SlideSeq);
-    return ImportRows(Door, Into.AlbumID, Bar,
-                      [&](std::int32_t SlideID) { Show.SaveDetail(SlideID, ++Place, {}); });
+    auto Last = static_cast<std::int32_t>(Show.Details.size());
+    for (const auto& Detail : Show.Details) Last = std::max(Last, Detail->SlideSeq);
+    auto Place = Last;
+    const int Row = RowOfOpened();
+    const auto Tally = ImportRows(Door, Into.AlbumID, Bar, [&](std::int32_t SlideID) {
+        Show.SaveDetail(SlideID, ++Place, {});
+    });
+    if (Tally && Tally->PlaceOf(Row) > 0) Into.BeginAt = Last + Tally->PlaceOf(Row);
+    return Tally;
 }
 
 // A medium that fails, or pictures of which none can be read, make no show.
@@ -206,7 +270,7 @@ void frmQuickShow::DropMade(const Made& Half) {
 }
 
 void frmQuickShow::Form_Load() {
-    if (!ImportDir().isEmpty()) DirectoryChosen(WithSeparator(ImportDir()));
+    if (const QString Folder = FolderToRead(); !Folder.isEmpty()) DirectoryChosen(Folder);
     ImportForm::Form_Load();
 }
 

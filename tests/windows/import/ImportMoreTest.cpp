@@ -127,7 +127,7 @@ TEST_F(ImportMore, TakesADropOnQuickShowAndItsName) {
     Window = NewForm<frmQuickShow>();
     Window->ShowModeless();
     EXPECT_TRUE(Drop(*Window, {Pics / u"second"_s}));
-    EXPECT_EQ("b", CaptionsOf(NonSelected(*Window)));
+    EXPECT_EQ("b", CaptionsOf(Selected(*Window)));
     EXPECT_EQ("second", In<QLineEdit>(*Window, "txtName").text().toStdString());
 }
 
@@ -137,13 +137,21 @@ TEST_F(ImportMore, QuickShowIsNamedAfterTheFolderItBeganWithUntilANameIsTyped) {
     auto& Name = In<QLineEdit>(*Window, "txtName");
     Choose(Pics / u"first"_s, false);
     EXPECT_EQ("first", Name.text().toStdString());
+    Choose(Pics / u"second"_s, false);
+    EXPECT_EQ("a,b", CaptionsOf(Selected(*Window)));
+    EXPECT_EQ("first", Name.text().toStdString());
+    Press(*Window, "cmdMoveLeftAll");
     Boxes.Expect(DiscardQuestion, u"Discard Confirmation"_s, BoxAnswer::No);
     Choose(Pics / u"second"_s, false);
+    EXPECT_EQ("a,b", CaptionsOf(NonSelected(*Window)));
+    EXPECT_EQ("b", CaptionsOf(Selected(*Window)));
     EXPECT_EQ("first", Name.text().toStdString());
+    Press(*Window, "cmdMoveLeftAll");
     Boxes.Expect(DiscardQuestion, u"Discard Confirmation"_s, BoxAnswer::Yes);
     Choose(Pics / u"second"_s, false);
     EXPECT_EQ("second", Name.text().toStdString());
     Name.setText(u"My own"_s);
+    Press(*Window, "cmdMoveLeftAll");
     Boxes.Expect(DiscardQuestion, u"Discard Confirmation"_s, BoxAnswer::Yes);
     Choose(Pics / u"first"_s, false);
     EXPECT_EQ("My own", Name.text().toStdString());

@@ -168,7 +168,7 @@ TEST_F(ImportChoices, AreInQuickShowToo) {
     Window = Show;
     Show->SetImportDir(Pics.Path());
     ShowActive(*Show);
-    EXPECT_EQ("Our garden", Left());
+    EXPECT_EQ("Our garden", CaptionsOf(Selected(*Show)));
     for (const char* Name : {"cboOrder", "chkCaptions", "cboKeepPictures"})
         EXPECT_TRUE(In<QWidget>(*Show, Name).isVisible()) << Name;
 }

@@ -34,6 +34,7 @@ class QuickShowName : public Intake {
             Dir1(Selector).SetPath(Directory);
             Press(Selector, "cmdSelect");
         });
+        Press(*Window, "cmdMoveLeftAll");
         Boxes.Expect(DiscardQuestion, BoxAnswer::Yes);
         auto& Bar = In<ToolBar>(*Window, "abrMenu");
         QTest::mouseClick(Bar.widgetForAction(Bar.Tool(u"mnuImportDirectory"_s)), Qt::LeftButton);

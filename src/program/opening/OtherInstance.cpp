@@ -1,4 +1,4 @@
-#include "program/OtherInstance.h"
+#include "program/opening/OtherInstance.h"
 
 #include <QCoreApplication>
 #include <QProcess>
