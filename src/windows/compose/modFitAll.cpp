@@ -3,15 +3,18 @@
 #include <QElapsedTimer>
 
 #include "controls/forms/ScreenPointer.h"
+#include "controls/forms/frmProgress.h"
 #include "show/rehearsal/Rehearsal.h"
 #include "support/Fault.h"
 #include "support/work/Job.h"
+#include "windows/frame/modNotice.h"
 
 namespace neb {
 namespace {
 
 constexpr qint64 PatienceMs = 10000;
 constexpr int LookMs = 5;
+constexpr qint64 ShortMs = 400;
 
 struct Lengths {
     std::vector<double> Seconds;  // by row
@@ -44,27 +47,57 @@ BoxRequest RefuseRow(qsizetype Row, const QString& Why) {
                   QStringLiteral("Fit All"));
 }
 
-// False where one file took too long.
-bool WaitFor(const Job<Lengths>& Work) {
+enum class End { Done, TookTooLong, Stopped };
+
+// A few songs are measured before a window could be read.
+bool IsShort(const Job<Lengths>& Work) {
     QElapsedTimer Since;
     Since.start();
-    for (std::int32_t SoFar = 0; !Work.Wait(LookMs); DoEventsButInput()) {
-        if (Work.SoFar() != SoFar) Since.restart();
+    while (!Work.Wait(LookMs) && !Since.hasExpired(ShortMs)) DoEventsButInput();
+    return Work.Wait(0);
+}
+
+// TookTooLong: over one file.
+End WaitUnder(frmProgress& Bar, const Job<Lengths>& Work, int Count) {
+    const QString Words = frmProgress::tr("Sound track %1 of %2");
+    Bar.setWindowTitle(frmProgress::tr("Measuring Sound Tracks ..."));
+    Bar.SupportsStop(true);
+    QElapsedTimer Since;
+    Since.start();
+    for (std::int32_t SoFar = -1; !Work.Wait(LookMs); DoEvents()) {
+        if (Bar.IsStopped()) return End::Stopped;
+        if (Since.hasExpired(PatienceMs)) return End::TookTooLong;
+        if (Work.SoFar() == SoFar) continue;
+        Since.restart();
         SoFar = Work.SoFar();
-        if (Since.hasExpired(PatienceMs)) return false;
+        Bar.ShowCount(SoFar + 1, Count, Words);
+        Bar.Refresh();
     }
-    return true;
+    return End::Done;
+}
+
+End WaitFor(Form& Asker, const Job<Lengths>& Work, int Count) {
+    if (IsShort(Work)) return End::Done;
+    auto Ended = End::Done;
+    RunUnderProgress(Asker, [&](frmProgress& Bar) { Ended = WaitUnder(Bar, Work, Count); });
+    return Ended;
 }
 
 }  // namespace
 
-Answer<std::vector<ShowTrack>> FitAllAside(const ShowContent& Show, const QStringList& Paths) {
+Answer<std::vector<ShowTrack>> FitAllAside(Form& Asker, const ShowContent& Show,
+                                           const QStringList& Paths) {
     // what no length can change is told at once
     const std::vector<double> Alike(Show.Tracks.size(), 1);
     if (Answer<std::vector<ShowTrack>> Fits = FitAllTracks(Show, Alike); !Fits) return Fits;
     const PointerScope Working(Pointer::Hourglass);
     Job<Lengths> Work([Paths](JobState& State) { return MeasureAll(Paths, State); });
-    if (!WaitFor(Work))
+    const End Ended = WaitFor(Asker, Work, static_cast<int>(Paths.size()));
+    if (Ended == End::Stopped) {
+        ShowNotice(frmProgress::tr("Stopped; the sound tracks are as they were."));
+        return Show.Tracks;
+    }
+    if (Ended == End::TookTooLong)
         return RefuseRow(Work.SoFar() + 1, QStringLiteral("The file does not answer."));
     const Lengths All = Work.Take();
     if (!All.Why.isEmpty()) return RefuseRow(std::ssize(All.Seconds), All.Why);

@@ -6,9 +6,13 @@
 
 namespace neb {
 
+class Form;
+
 // The tracks as FitAllTracks makes them. Paths: the file of each row, empty for none. The windows
-// go on painting meanwhile. Refused, and the row named, where a file cannot be played or does not
-// answer within ten seconds.
-Answer<std::vector<ShowTrack>> FitAllAside(const ShowContent& Show, const QStringList& Paths);
+// go on painting meanwhile, and where it takes longer a window over Asker counts the songs and can
+// stop it: the tracks stay as they are then. Refused, and the row named, where a file cannot be
+// played or does not answer within ten seconds.
+Answer<std::vector<ShowTrack>> FitAllAside(Form& Asker, const ShowContent& Show,
+                                           const QStringList& Paths);
 
 }  // namespace neb

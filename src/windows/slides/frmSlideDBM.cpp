@@ -147,6 +147,7 @@ void frmSlideDBM::changeEvent(QEvent* Event) {
 
 // Loaded inside its frame, to which its size belongs.
 void frmSlideDBM::LoadSlideMgr() {
+    NoteAlbumInHand(AlbumInHand());  // once it stands in front, no other window does
     if (TheOpeners().ShowAsChild)
         TheOpeners().ShowAsChild(*this);
     else
@@ -167,6 +168,7 @@ void frmSlideDBM::Form_Activate() {
     if (mStage != Stage::Opening) return;
     mStage = Stage::Open;
     Lists().ListAlbums();
+    if (Lists().ChooseAlbum(AlbumInHand())) ShowAlbum(Cause::Program);
     if (mUi->cboAlbum->count() > 0) return mUi->cboAlbum->setFocus();
     MsgBox(QStringLiteral("You must first create an album."));
     Unload();
@@ -185,6 +187,11 @@ bool frmSlideDBM::Form_Unload() {
 
 SlideLists frmSlideDBM::Lists() const {
     return {*mUi->cboAlbum, *mUi->cboSlides};
+}
+
+void frmSlideDBM::AlbumChosen() {
+    NoteAlbumInHand(HeldAlbum());
+    ShowAlbum(Cause::User);
 }
 
 void frmSlideDBM::ShowAlbumName() {

@@ -10,6 +10,7 @@
 #include "controls/forms/ScreenPointer.h"
 #include "db/Changes.h"
 #include "support/work/WorkAside.h"
+#include "windows/frame/AlbumInHand.h"
 #include "windows/frame/modBroadcast.h"
 #include "windows/slides/SlideLists.h"
 
@@ -21,17 +22,18 @@ class frmSlideDBM;
 class ClipPlayer;
 class PicturePlace;
 
-class frmSlideDBM : public Form, public ChangeReceiver {
+class frmSlideDBM : public Form, public ChangeReceiver, public AlbumHolder {
     Q_OBJECT
 
   public:
     frmSlideDBM();
     ~frmSlideDBM() override;
 
-    // Shows the window, as a child where there is a main window.
+    // Shows the window, as a child where there is a main window, with the album in hand.
     void LoadSlideMgr();
     void ReceiveEvent(const QString& ObjectType, const QString& EventType,
                       const EventKeys& EventData) override;
+    std::int32_t HeldAlbum() const override { return Lists().AlbumID(); }
 
   protected:
     void Form_Load() override;
@@ -70,7 +72,7 @@ class frmSlideDBM : public Form, public ChangeReceiver {
 
     // The lists.
     SlideLists Lists() const;
-    void AlbumChosen() { ShowAlbum(Cause::User); }
+    void AlbumChosen();
     void SlideChosen() { ShowChosen(Cause::User); }
     void ShowAlbum(Cause Why);
     void ShowChosen(Cause Why);
