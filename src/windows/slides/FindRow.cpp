@@ -1,7 +1,7 @@
 #include "windows/slides/FindRow.h"
 
 #include <QCheckBox>
-#include <QHBoxLayout>
+#include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -13,60 +13,80 @@
 #include "windows/albums/modAlbumNames.h"
 
 namespace neb {
+namespace {
+
+enum Line { LineFind, LineReplace, LineSaid };
+enum Column { ColLabel, ColField, ColFirst, ColSecond };
+
+}  // namespace
 
 FindRow::FindRow(QWidget* Parent) : QWidget(Parent) {
-    auto* Lines = new QVBoxLayout(this);
+    auto* Lines = new QGridLayout(this);
     Lines->setContentsMargins(0, 0, 0, 0);
-    auto *Upper = new QHBoxLayout, *Lower = new QHBoxLayout;
-    Lines->addLayout(Upper);
-    Lines->addLayout(Lower);
-    mFind = AddField(*Upper, tr("Find"), QStringLiteral("txtFind"));
-    mFind->setToolTip(tr("Words to look for in the captions (Enter: the next one, Esc: close)"));
-    mFinding << AddButton(*Upper, QStringLiteral("cmdFindNext"), tr("Find Ne&xt"),
-                          tr("Go to the next caption that holds it (F3)"), &FindRow::FindOrOpen);
-    mExact = new QCheckBox(tr("&Match case and accents"));
-    mExact->setObjectName(QStringLiteral("chkExact"));
-    mExact->setToolTip(tr("Off: garden finds Garden, and cafe finds café"));
-    Upper->addWidget(mExact);
-    mReplace = AddField(*Lower, tr("Replace with"), QStringLiteral("txtReplace"));
-    mReplace->setToolTip(tr("What comes in its place; empty: it is taken out"));
-    mReplacing << AddButton(*Lower, QStringLiteral("cmdReplace"), tr("&Replace"),
-                            tr("Replace it in this caption and go to the next"), &FindRow::Replace)
-               << AddButton(*Lower, QStringLiteral("cmdReplaceAll"), tr("Replace All"),
-                            tr("Replace it in all captions of the list (Ctrl+Alt+Enter)"),
-                            &FindRow::ReplaceAll);
-    mReplacing.back()->setShortcut(QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_Return));
+    AddFinding(*Lines);
+    AddReplacing(*Lines);
     mFound = new QLabel;
     mFound->setObjectName(QStringLiteral("lblFound"));
     mFound->setTextFormat(Qt::PlainText);
-    Lower->addWidget(mFound, 1);
-    KeepQuotesClean(*mReplace);
+    mFound->setWordWrap(true);
+    Lines->addWidget(mFound, LineSaid, ColField, 1, -1);
     connect(mFind, &QLineEdit::textChanged, this, &FindRow::WordsTyped);
     connect(mExact, &QCheckBox::toggled, this, &FindRow::WordsTyped);
     hide();
 }
 
-QLineEdit* FindRow::AddField(QBoxLayout& Line, const QString& Label, const QString& Name) {
+void FindRow::AddFinding(QGridLayout& Lines) {
+    mFind = AddField(Lines, LineFind, tr("Find"), QStringLiteral("txtFind"));
+    mFind->setToolTip(tr("Words to look for in the captions (Enter: the next one, Esc: close)"));
+    mFinding = {NewButton(QStringLiteral("cmdFindNext"), tr("Find Ne&xt"),
+                          tr("Go to the next caption that holds it (F3)"), &FindRow::FindNext)};
+    Lines.addWidget(mFinding.front(), LineFind, ColFirst);
+    mExact = new QCheckBox(tr("&Match case and accents"));
+    mExact->setObjectName(QStringLiteral("chkExact"));
+    mExact->setToolTip(tr("Off: garden finds Garden, and cafe finds café"));
+    Lines.addWidget(mExact, LineFind, ColSecond, 1, -1);
+}
+
+void FindRow::AddReplacing(QGridLayout& Lines) {
+    mReplace = AddField(Lines, LineReplace, tr("Replace with"), QStringLiteral("txtReplace"));
+    mReplace->setToolTip(tr("What comes in its place; empty: it is taken out"));
+    KeepQuotesClean(*mReplace);
+    mReplacing = {NewButton(QStringLiteral("cmdReplace"), tr("&Replace"),
+                            tr("Replace it in this caption and go to the next"), &FindRow::Replace),
+                  NewButton(QStringLiteral("cmdReplaceAll"), tr("Replace All"),
+                            tr("Replace it in all captions of the list (Ctrl+Alt+Enter)"),
+                            &FindRow::ReplaceAll)};
+    mReplacing.back()->setShortcut(QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_Return));
+    Lines.addWidget(mReplacing.front(), LineReplace, ColFirst);
+    Lines.addWidget(mReplacing.back(), LineReplace, ColSecond);
+}
+
+QLineEdit* FindRow::AddField(QGridLayout& Lines, int Line, const QString& Label,
+                             const QString& Name) {
     auto* Words = new QLabel(Label);
     auto* Field = new QLineEdit;
     Field->setObjectName(Name);
     Field->setAccessibleName(Label);
     Words->setBuddy(Field);
-    Line.addWidget(Words);
-    Line.addWidget(Field, 1);
+    Lines.addWidget(Words, Line, ColLabel);
+    Lines.addWidget(Field, Line, ColField);
     return Field;
 }
 
-QPushButton* FindRow::AddButton(QBoxLayout& Line, const QString& Name, const QString& Text,
-                                const QString& Tip, Action Does) {
+QPushButton* FindRow::NewButton(const QString& Name, const QString& Text, const QString& Tip,
+                                Action Does) {
     auto* Button = new QPushButton(Text);
     Button->setObjectName(Name);
     Button->setAccessibleName(QString(Text).remove(u'&'));
     Button->setToolTip(Tip);
     Button->setAutoDefault(false);
-    Line.addWidget(Button);
     connect(Button, &QPushButton::clicked, this, [this, Does] { Do(Does); });
     return Button;
+}
+
+void FindRow::Say(const QString& Text) {
+    mFound->setText(Text);
+    mFound->setVisible(!Text.isEmpty());
 }
 
 void FindRow::SearchIn(const Place& Where, std::function<void(std::function<void()>)> Run) {
@@ -95,7 +115,7 @@ void FindRow::Close() {
 
 void FindRow::WordsTyped() {
     mLastKey.clear();
-    mFound->clear();
+    Say({});
     const bool Words = !mFind->text().isEmpty();
     for (QPushButton* Each : mFinding) Each->setEnabled(Words);
     for (QPushButton* Each : mReplacing) Each->setEnabled(Words && mPlace.MayReplace);
@@ -117,7 +137,7 @@ std::vector<int> FindRow::RowsFound() const {
 void FindRow::FindNext() {
     if (isHidden() || mFind->text().isEmpty()) return Open(false);
     const std::vector<int> Rows = RowsFound();
-    if (Rows.empty()) return mFound->setText(tr("No caption holds it."));
+    if (Rows.empty()) return Say(tr("No caption holds it."));
     const int Now = mPlace.Grid->Row();
     const bool IsLast =
         Now >= 0 && !mLastKey.isEmpty() && mPlace.Grid->TextMatrix(Now, mPlace.KeyCol) == mLastKey;
@@ -127,7 +147,7 @@ void FindRow::FindNext() {
     GoTo(*Next);
     const QString Words =
         Again ? tr("Caption %1 of %2, from the top again") : tr("Caption %1 of %2");
-    mFound->setText(Words.arg(Grouped(Next - Rows.begin() + 1), Grouped(std::ssize(Rows))));
+    Say(Words.arg(Grouped(Next - Rows.begin() + 1), Grouped(std::ssize(Rows))));
 }
 
 void FindRow::GoTo(int Row) {
@@ -172,7 +192,7 @@ void FindRow::ReplaceAll() {
     if (Changed.size() < Rows.size())
         Told += tr(" %1 would have become too long and stay.")
                     .arg(Grouped(std::ssize(Rows) - std::ssize(Changed)));
-    mFound->setText(Told);
+    Say(Told);
     if (!Changed.empty()) Q_EMIT Replaced(Changed);
 }
 
@@ -181,8 +201,10 @@ void FindRow::keyPressEvent(QKeyEvent* Event) {
     const bool Enter = Event->key() == Qt::Key_Return || Event->key() == Qt::Key_Enter;
     if (Event->key() == Qt::Key_Escape) return Close();
     if (!Enter) return QWidget::keyPressEvent(Event);
+    for (QPushButton* Each : mFinding + mReplacing)
+        if (Each->hasFocus()) return Each->click();
     if (mFind->text().isEmpty()) return;
-    Do(mReplace->hasFocus() && mPlace.MayReplace ? &FindRow::Replace : &FindRow::FindOrOpen);
+    Do(mReplace->hasFocus() && mPlace.MayReplace ? &FindRow::Replace : &FindRow::FindNext);
 }
 
 }  // namespace neb

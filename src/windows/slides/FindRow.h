@@ -9,8 +9,8 @@
 #include "support/FindParts.h"
 
 QT_BEGIN_NAMESPACE
-class QBoxLayout;
 class QCheckBox;
+class QGridLayout;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -40,6 +40,7 @@ class FindRow : public QWidget {
     void Open(bool Replacing);
     // Goes to the next row that holds it, from the top again behind the last. Without words: opens.
     void FindNext();
+    void Close();
 
   Q_SIGNALS:
     void Replaced(const std::vector<int>& Rows);  // their texts are others now
@@ -50,14 +51,15 @@ class FindRow : public QWidget {
 
   private:
     using Action = void (FindRow::*)();
-    QLineEdit* AddField(QBoxLayout& Line, const QString& Label, const QString& Name);
-    QPushButton* AddButton(QBoxLayout& Line, const QString& Name, const QString& Text,
-                           const QString& Tip, Action Does);
+    void AddFinding(QGridLayout& Lines);
+    void AddReplacing(QGridLayout& Lines);
+    QLineEdit* AddField(QGridLayout& Lines, int Line, const QString& Label, const QString& Name);
+    QPushButton* NewButton(const QString& Name, const QString& Text, const QString& Tip,
+                           Action Does);
+    void Say(const QString& Text);
     void Do(Action What);
-    void FindOrOpen() { FindNext(); }
     void Replace();
     void ReplaceAll();
-    void Close();
     void WordsTyped();
 
     std::vector<TextPart> PartsIn(int Row) const;

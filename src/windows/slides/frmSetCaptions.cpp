@@ -18,7 +18,7 @@ enum PreviewColumn { ColNow, ColThen, PreviewColumns };
 
 frmSetCaptions::frmSetCaptions() : mUi(std::make_unique<Ui::frmSetCaptions>()) {
     mUi->setupUi(this);
-    mUi->cmdOkay->setIcon(ThemeIcon(QStringLiteral("ok")));
+    mUi->cmdOkay->setIcon(ThemeIcon(QStringLiteral("album-rename")));
     mUi->cmdCancel->setIcon(ThemeIcon(QStringLiteral("cancel")));
     new CaptionCount(mUi->txtPattern);
     KeepQuotesClean(*mUi->txtPattern);

@@ -35,6 +35,7 @@ class frmSlideMgrBulk : public Form, public ChangeReceiver, public AlbumHolder {
     bool Form_QueryUnload() override;
     bool Form_Unload() override;
     void FinishEdits() override;
+    void reject() override;  // Esc leaves the row for finding first
 
   private:
     void SetUpGrid();

@@ -118,6 +118,11 @@ void frmSlideMgrBulk::Find() {
     mUi->wdgFind->Open(false);
 }
 
+void frmSlideMgrBulk::reject() {
+    if (mUi->wdgFind->isVisible()) return mUi->wdgFind->Close();
+    Form::reject();
+}
+
 void frmSlideMgrBulk::FindToReplace() {
     mUi->wdgFind->Open(true);
 }

@@ -76,6 +76,20 @@ TEST_F(SlideMgrBulkFind, GoesFromCaptionToCaptionAndAroundAndLeavesByEsc) {
     EXPECT_EQ(2, GridOf(W).Row());
 }
 
+TEST_F(SlideMgrBulkFind, EnterOnAButtonOfTheRowPressesItAndEscInTheListLeavesTheRow) {
+    Open({u"a rose"_s, u"b rose"_s});
+    Press(Qt::Key_F, Qt::ControlModifier);
+    Write(u"rose"_s);
+    In<QPushButton>(*W, "cmdReplaceAll").setFocus();
+    Press(Qt::Key_Return);
+    EXPECT_EQ("a |b ", Shown(W));
+    GridOf(W).setFocus();
+    Press(Qt::Key_Escape);
+    EXPECT_FALSE(IsUp());
+    EXPECT_TRUE(W->IsLoaded());
+    Drop(*W);
+}
+
 TEST_F(SlideMgrBulkFind, TellsCaseAndAccentsApartWhereItIsAskedTo) {
     Open({u"a Rose"_s, u"b rosé"_s, u"c rose"_s});
     Press(Qt::Key_F, Qt::ControlModifier);
