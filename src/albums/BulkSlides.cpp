@@ -51,9 +51,18 @@ CaptionSave::CaptionSave(clsDBEngine& theDB, const QObject* Asker, std::int32_t 
 bool CaptionSave::Save(std::int32_t SlideID, const QString& Caption) {
     clsNEBAlbum* Album = mDB.GetAlbum(mAlbumID);
     clsNEBSlide* Slide = Album ? mFinder.Find(*Album, SlideID) : nullptr;
+    if (Slide && Slide->SlideText == Caption) return true;
     mTally.Count(Slide != nullptr);
     if (Slide) mDoor.SaveCaption(mAlbumID, *Slide, Caption).Never();
     return Slide != nullptr;
+}
+
+CaptionSave::~CaptionSave() {
+    if (mTally.Done == 0) mSaved.Never();
+}
+
+void CaptionSave::Tell() {
+    if (mTally.Done > 0) mSaved.Now();
 }
 
 SlideTally DeleteSlides(clsDBEngine& theDB, const QObject* Asker, std::int32_t AlbumID,

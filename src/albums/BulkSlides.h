@@ -59,16 +59,20 @@ class CaptionEdits {
     QHash<std::int32_t, QString> mTyped;
 };
 
-// The saving of many captions of an album. The other windows hear of it once: when Tell is called,
-// at the latest at the end.
+// The saving of many captions of an album. The other windows hear of it once, when Tell is called,
+// at the latest at the end; where no caption was another they hear of nothing.
 class CaptionSave {
   public:
     // Asker: the window that knows of it already.
     CaptionSave(clsDBEngine& theDB, const QObject* Asker, std::int32_t AlbumID);
-    // False when there is no such slide; counted either way.
+    ~CaptionSave();
+    CaptionSave(const CaptionSave&) = delete;
+    CaptionSave& operator=(const CaptionSave&) = delete;
+    // False when there is no such slide, which counts as a failure. One that has this caption
+    // already is left alone and not counted.
     bool Save(std::int32_t SlideID, const QString& Caption);
     const SlideTally& Tally() const { return mTally; }
-    void Tell() { mSaved.Now(); }
+    void Tell();
 
   private:
     clsDBEngine& mDB;

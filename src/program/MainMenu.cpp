@@ -22,6 +22,7 @@
 #include "windows/albums/modAlbumNames.h"
 #include "windows/disc/frmDiscFolder.h"
 #include "windows/disc/modDiscCheck.h"
+#include "windows/frame/AlbumInHand.h"
 #include "windows/frame/Openers.h"
 #include "windows/frame/modNotice.h"
 #include "windows/home/HomePage.h"
@@ -97,9 +98,9 @@ constexpr Entry Entries[] = {
      "Make a new album and fill it with pictures",
      [](auto&) { NewForm<frmNewAlbumWzd1>()->ShowModal(); }},
     {"mnuAlbumHdr", "mnuAlbumRename", "&Rename Album...", "", "album-rename", "Rename an album",
-     [](auto&) { ShowRenameAlbum(0); }},
+     [](auto&) { ShowRenameAlbum(AlbumInHand()); }},
     {"mnuAlbumHdr", "mnuAlbumDelete", "&Delete Album...", "", "album-delete",
-     "Delete an album and all that it holds", [](auto&) { ShowDeleteAlbum(0); }},
+     "Delete an album and all that it holds", [](auto&) { ShowDeleteAlbum(AlbumInHand()); }},
     {"mnuAlbumHdr", "", "", "", "", "", nullptr},
     {"mnuAlbumHdr", "mnuSlideMgr", "&Slide Manager", "Ctrl+E", "slide-manager",
      "Edit the slides of an album one by one",
@@ -141,10 +142,10 @@ constexpr Entry Entries[] = {
      "Compare a folder that was written for a disc with its check sums",
      [](auto&) { CheckDisc(); }},
     {"mnuPrintHdr", "mnuAlbumPrint", "Print &Album...", "", "print", "Print the pages of an album",
-     [](auto&) { NewForm<frmPrintAlbum>()->PrintAlbum(0); }},
+     [](auto&) { NewForm<frmPrintAlbum>()->PrintAlbum(AlbumInHand()); }},
     {"mnuPrintHdr", "mnuSlideShowPrint", "Print &Slide Show...", "", "print",
      "Print the pages of a slide show",
-     [](auto&) { NewForm<frmPrintSlideShow>()->PrintSlideShow(0, 0); }},
+     [](auto&) { NewForm<frmPrintSlideShow>()->PrintSlideShow(AlbumInHand(), 0); }},
     // Alt+Home: where people who browse have their home page, and no list or field takes it
     {"mnuWindows", "mnuHome", "&Home", "Alt+Home", "album",
      "Go to the albums and slide shows; once more: back to the windows",

@@ -1,6 +1,7 @@
 // How far a transfer is, in words.
 #include <gtest/gtest.h>
 
+#include "albums/transfer/DiscProgress.h"
 #include "albums/transfer/TransferProgress.h"
 
 namespace neb {
@@ -35,6 +36,12 @@ TEST(TransferProgress, NamesTheRestOfTheTimeAsPeopleDo) {
     EXPECT_EQ("1 GB of 2 GB, about 2 minutes", Rest(120));
     EXPECT_EQ("1 GB of 2 GB, about 89 minutes", Rest(89 * 60));
     EXPECT_EQ("1 GB of 2 GB, about 2 hours", Rest(100 * 60));
+}
+
+TEST(TransferProgress, NeverTellsMoreThanThereIs) {
+    EXPECT_EQ("picture 3 of 3, 2 GB of 2 GB", Line({Stage::Copying, 4, 3, 3 * GB, 2 * GB}, 30));
+    EXPECT_EQ(100, SumsPercent({5, 4, 3 * GB, 2 * GB}));
+    EXPECT_EQ("file 4 of 4, 2 GB of 2 GB", SumsText({5, 4, 3 * GB, 2 * GB}).toStdString());
 }
 
 TEST(TransferProgress, SaysWhatIsDoneBeforeAndAfterTheCopying) {

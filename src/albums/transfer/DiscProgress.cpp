@@ -1,6 +1,8 @@
 #include "albums/transfer/DiscProgress.h"
 
-#include <QLocale>
+#include <algorithm>
+
+#include "support/Grouped.h"
 
 namespace neb {
 namespace {
@@ -17,14 +19,15 @@ void Add(TransferProgress& To, const TransferProgress& More) {
 }  // namespace
 
 int SumsPercent(const SumsProgress& Now) {
-    return Now.OfBytes > 0 ? static_cast<int>(Now.Bytes * 100 / Now.OfBytes) : 0;
+    // a file may grow while it is read
+    return Now.OfBytes > 0 ? static_cast<int>(std::min(Now.Bytes, Now.OfBytes) * 100 / Now.OfBytes)
+                           : 0;
 }
 
 QString SumsText(const SumsProgress& Now) {
-    const QLocale English(QLocale::English);
     return QStringLiteral("file %1 of %2, %3 of %4")
-        .arg(English.toString(Now.Files), English.toString(Now.OfFiles), ShortSize(Now.Bytes),
-             ShortSize(Now.OfBytes));
+        .arg(Grouped(std::min(Now.Files, Now.OfFiles)), Grouped(Now.OfFiles),
+             ShortSize(std::min(Now.Bytes, Now.OfBytes)), ShortSize(Now.OfBytes));
 }
 
 int DiscProgress::Percent() const {

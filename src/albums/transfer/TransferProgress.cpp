@@ -1,16 +1,14 @@
 #include "albums/transfer/TransferProgress.h"
 
-#include <QLocale>
+#include <algorithm>
 #include <cmath>
+
+#include "support/Grouped.h"
 
 namespace neb {
 namespace {
 
 constexpr double LeastSeconds = 2;  // before that nothing can be said about the rest
-
-QString Count(qint64 Number) {
-    return QLocale(QLocale::English).toString(Number);
-}
 
 QString TimeText(double Seconds) {
     if (Seconds < 50) {
@@ -36,7 +34,7 @@ QString ShortSize(qint64 Bytes) {
 }
 
 QString TimeLeftText(qint64 Bytes, qint64 OfBytes, double Seconds) {
-    if (Bytes <= 0 || Seconds < LeastSeconds) return {};
+    if (Bytes <= 0 || Bytes > OfBytes || Seconds < LeastSeconds) return {};
     return QStringLiteral(", ") +
            TimeText(Seconds * static_cast<double>(OfBytes - Bytes) / static_cast<double>(Bytes));
 }
@@ -47,8 +45,10 @@ QString ProgressText(const TransferProgress& Now, double Seconds) {
     if (Now.At == TransferProgress::Stage::Writing) return QStringLiteral("Writing the records");
     QStringList Parts;
     if (Now.OfPictures > 0)
-        Parts << QStringLiteral("picture %1 of %2").arg(Count(Now.Pictures), Count(Now.OfPictures));
-    Parts << QStringLiteral("%1 of %2").arg(ShortSize(Now.Bytes), ShortSize(Now.OfBytes));
+        Parts << QStringLiteral("picture %1 of %2")
+                     .arg(Grouped(std::min(Now.Pictures, Now.OfPictures)), Grouped(Now.OfPictures));
+    Parts << QStringLiteral("%1 of %2")
+                 .arg(ShortSize(std::min(Now.Bytes, Now.OfBytes)), ShortSize(Now.OfBytes));
     return Parts.join(QStringLiteral(", ")) + TimeLeftText(Now.Bytes, Now.OfBytes, Seconds);
 }
 

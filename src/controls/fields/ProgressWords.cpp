@@ -3,19 +3,14 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLocale>
 #include <QProgressBar>
+#include <algorithm>
 
+#include "support/Grouped.h"
 #include "support/Services.h"
 
 namespace neb {
 namespace {
-
-QString Grouped(int Number) {
-    QLocale Words;
-    Words.setNumberOptions(Words.numberOptions() & ~QLocale::OmitGroupSeparator);
-    return Words.toString(Number);
-}
 
 // Screen readers read a label that has no name of its own by its text, which is what changes.
 QLabel* AddLabel(QHBoxLayout& Line, const QString& Name, Qt::Alignment Align) {
@@ -37,8 +32,9 @@ ProgressWords::ProgressWords(QWidget* Parent) : QWidget(Parent) {
     KeepHeight();
 }
 
-void ProgressWords::ShowCount(int Number, int Count) {
-    mCount->setText(tr("Picture %1 of %2").arg(Grouped(Number), Grouped(Count)));
+void ProgressWords::ShowCount(int Number, int Count, const QString& Words) {
+    mCount->setText((Words.isEmpty() ? tr("Picture %1 of %2") : Words)
+                        .arg(Grouped(std::min(Number, Count)), Grouped(Count)));
 }
 
 void ProgressWords::Follow(const QProgressBar& Bar) {

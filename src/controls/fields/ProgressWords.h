@@ -20,8 +20,8 @@ class ProgressWords : public QWidget {
   public:
     explicit ProgressWords(QWidget* Parent = nullptr);
 
-    // "Picture 500 of 1,000"; for work that counts pictures.
-    void ShowCount(int Number, int Count);
+    // "Picture 500 of 1,000"; Words: for work that counts others, with %1 and %2 for the numbers.
+    void ShowCount(int Number, int Count, const QString& Words = {});
     // The time left, by what the bar shows at this moment.
     void Follow(const QProgressBar& Bar);
     // As TimeLeft::Skip.

@@ -52,10 +52,10 @@ QProgressBar* frmProgress::pgbLoadingProgress() const {
     return mUi->pgbLoadingProgress;
 }
 
-void frmProgress::ShowCount(int Number, int Count) {
+void frmProgress::ShowCount(int Number, int Count, const QString& Words) {
     mUi->pgbLoadingProgress->setMaximum(Count);
     mUi->pgbLoadingProgress->setValue(Number);
-    mUi->wdgWords->ShowCount(Number, Count);
+    mUi->wdgWords->ShowCount(Number, Count, Words);
 }
 
 void frmProgress::Refresh() {

@@ -34,8 +34,8 @@ class frmProgress : public Form {
     bool IsStopped() const;
 
     QProgressBar* pgbLoadingProgress() const;
-    // The bar, and the words below it, after picture Number of Count, from 1.
-    void ShowCount(int Number, int Count);
+    // The bar, and the words below it, after picture Number of Count, from 1; Words: of what else.
+    void ShowCount(int Number, int Count, const QString& Words = {});
     // Brings the screen up to date, not more often than a screen can show.
     void Refresh();
 

@@ -90,7 +90,7 @@ QStyleOptionViewItem FlexGridDelegate::Styled(const QStyleOptionViewItem& Option
     initStyleOption(&Own, Index);
     if (!Own.widget) Own.widget = mGrid;
     Own.features &= ~QStyleOptionViewItem::HasCheckIndicator;  // ours stands in the middle
-    Own.textElideMode = mGrid->Column(Index.column()).IsPath ? Qt::ElideMiddle : Qt::ElideRight;
+    Own.textElideMode = mGrid->Column(Index.column()).IsPath ? Qt::ElideLeft : Qt::ElideRight;
     const bool IsWords = mGrid->Column(Index.column()).Kind == FlexKind::Text &&
                          !mGrid->Column(Index.column()).IsPath;
     if (IsWords && Own.text.isRightToLeft()) Own.direction = Qt::RightToLeft;

@@ -1,5 +1,5 @@
 // How many transitions a view has shown, in how many frames, and how many of these came late. Used
-// by XShow, which counts, and by the projector, which tells at the end of a show.
+// by XShow, which counts, and by the projector, which writes it in the log at the end of a show.
 #pragma once
 
 #include <QString>

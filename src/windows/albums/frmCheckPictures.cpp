@@ -2,13 +2,13 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QLocale>
 
 #include "albums/transfer/DiscProgress.h"
 #include "controls/fields/Icons.h"
 #include "db/clsDBEngine.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
+#include "support/Grouped.h"
 #include "support/Services.h"
 #include "ui_frmCheckPictures.h"
 
@@ -17,13 +17,9 @@ namespace {
 
 constexpr int WholeBar = 1000;
 
-QString Count(qint64 Number) {
-    return QLocale(QLocale::English).toString(Number);
-}
-
 // One or Many with the number in it.
 QString Counted(int Number, const QString& One, const QString& Many) {
-    return Number == 1 ? One : Many.arg(Count(Number));
+    return Number == 1 ? One : Many.arg(Grouped(Number));
 }
 
 QString Headline(const PicturesChecked& Checked) {
@@ -103,7 +99,9 @@ bool frmCheckPictures::Show(const SumsProgress& Now) {
         const double Seconds = mAt->FirstByte ? (Ticks - *mAt->FirstByte) / 1000 : 0;
         mUi->pgbCheck->setMaximum(WholeBar);
         mUi->pgbCheck->setValue(
-            Now.OfBytes > 0 ? static_cast<int>(Now.Bytes * WholeBar / Now.OfBytes) : WholeBar);
+            Now.OfBytes > 0
+                ? static_cast<int>(std::min(Now.Bytes, Now.OfBytes) * WholeBar / Now.OfBytes)
+                : WholeBar);
         mUi->lblProgress->setText(SumsText(Now) + TimeLeftText(Now.Bytes, Now.OfBytes, Seconds));
     }
     DoEvents();

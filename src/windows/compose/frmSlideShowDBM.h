@@ -9,6 +9,7 @@
 #include "controls/fields/ComboBoxList.h"
 #include "controls/forms/Form.h"
 #include "db/Changes.h"
+#include "windows/frame/AlbumInHand.h"
 #include "windows/frame/modBroadcast.h"
 #include "windows/lists/SlideReading.h"
 
@@ -21,7 +22,7 @@ class FlexGrid;
 class TwoLists;
 class clsNEBAlbum;
 
-class frmSlideShowDBM : public Form, public ChangeReceiver {
+class frmSlideShowDBM : public Form, public ChangeReceiver, public AlbumHolder {
     Q_OBJECT
 
   public:
@@ -37,6 +38,7 @@ class frmSlideShowDBM : public Form, public ChangeReceiver {
     QString ExitState() const { return {}; }
     void ReceiveEvent(const QString& ObjectType, const QString& EventType,
                       const EventKeys& EventData) override;
+    std::int32_t HeldAlbum() const override { return AlbumID(); }
 
   protected:
     void Form_Load() override;
@@ -86,6 +88,7 @@ class frmSlideShowDBM : public Form, public ChangeReceiver {
     SlideReading::Order AlbumSlides(bool ListsToo);
     std::optional<SlideReading::KeyList> SlideKeys() const;
     void LoadAlbumSlides();
+    void LeaveAlbum();  // a show composed of half its slides would lose the others
     void RefreshAlbumSlides();
     void FollowReading();
     void ShowChosenShow();

@@ -15,6 +15,7 @@
 #include "windows/compose/TwoLists.h"
 #include "windows/compose/frmSlideShowDBM.h"
 #include "windows/compose/modFitAll.h"
+#include "windows/frame/modNotice.h"
 #include "windows/frame/modWindowState.h"
 
 namespace neb {
@@ -52,9 +53,9 @@ clsNEBAlbum* frmSlideShowDBM::ShownAlbum() const {
 void frmSlideShowDBM::cboAlbum_Click() {
     const auto Held = shared_from_this();
     if (!MayTakeUpAlbum()) return;
+    NoteAlbumInHand(AlbumID());
     FollowAlbum();
-    if (AlbumID() == 0) return;
-    LoadAlbumSlides();
+    if (AlbumID() != 0) LoadAlbumSlides();
 }
 
 // The box stands at the album whose show the question is about until that has been answered.
@@ -79,11 +80,22 @@ void frmSlideShowDBM::LoadAlbumSlides() {
         ClearContent();
         return AlbumID() != 0;
     };
-    if (mReading.Read(Slides) == SlideReading::End::Again) return;
+    Slides.MayStop = true;
+    const SlideReading::End End = mReading.Read(Slides);
+    if (End == SlideReading::End::Again) return;
+    if (End == SlideReading::End::Stopped) LeaveAlbum();
     FollowReading();
     if (!IsLoaded() || AlbumID() == 0) return;
     LoadSlideShowsList();
     if (mUi->cboSlideShows->count() > 0) ChooseShow(0, Cause::User);
+}
+
+void frmSlideShowDBM::LeaveAlbum() {
+    const QSignalBlocker Quiet(mUi->cboAlbum);
+    Albums().SetListIndex(-1);
+    mUi->cboAlbum->update();
+    ClearContent();
+    ShowNotice(tr("Stopped; the album is not shown."));
 }
 
 void frmSlideShowDBM::RefreshAlbumSlides() {
@@ -242,7 +254,7 @@ void frmSlideShowDBM::FitAll() {
     Answer<std::vector<ShowTrack>> Fitted = Answer<std::vector<ShowTrack>>(Show.Tracks);
     {
         const QScopedValueRollback<Step> Measuring(mStep, Step::Showing);
-        Fitted = FitAllAside(Show, Paths);
+        Fitted = FitAllAside(*this, Show, Paths);
     }
     if (IsLoaded() && Tell(Fitted)) List.ShowTracks(*Fitted);
     FollowWaiting();

@@ -1,11 +1,10 @@
 #include "windows/disc/modDiscCheck.h"
 
-#include <QLocale>
-
 #include "albums/transfer/DiscFolder.h"
 #include "controls/forms/ScreenPointer.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
+#include "support/Grouped.h"
 #include "support/Services.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
@@ -41,10 +40,6 @@ Comparison Compare(const QString& Dir) {
     return Made;
 }
 
-QString Count(int Number) {
-    return QLocale(QLocale::English).toString(Number);
-}
-
 QString Line(const SumsFinding& Found) {
     using Kind = SumsFinding::Kind;
     const char* Is = Found.Is == Kind::Missing   ? "missing: "
@@ -57,14 +52,14 @@ void TellFindings(const QString& Dir, const Comparison& Made) {
     const int Bad = static_cast<int>(Made.Findings->size());
     if (Bad == 0) {
         MsgBox(QObject::tr("All is well: %1 files in\n%2\nare as they were written.")
-                   .arg(Count(Made.Files), Dir),
+                   .arg(Grouped(Made.Files), Dir),
                Title, BoxIcon::Information);
         return;
     }
     QStringList Lines;
     for (const SumsFinding& Each : *Made.Findings) Lines << Line(Each);
     MsgBox(QObject::tr("%1 of %2 files in\n%3\nare not as they were written.\n\n%4")
-               .arg(Count(Bad), Count(Made.Files), Dir, Lines.join(u'\n')),
+               .arg(Grouped(Bad), Grouped(Made.Files), Dir, Lines.join(u'\n')),
            Title, BoxIcon::Critical);
 }
 

@@ -2,6 +2,7 @@
 
 #include "controls/forms/Form.h"
 #include "db/clsDBEngine.h"
+#include "windows/frame/AlbumInHand.h"
 
 namespace neb {
 namespace {
@@ -85,6 +86,7 @@ void BroadcastEvent(const QString& ObjectType, const QString& EventType, const Q
 
 void BroadcastChangesOf(clsDBEngine& theDB) {
     theDB.Listeners.Told = &Broadcast;
+    ForgetAlbumInHand();
 }
 
 }  // namespace neb

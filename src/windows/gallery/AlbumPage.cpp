@@ -10,6 +10,7 @@
 #include "settings/modNEBSlideShow.h"
 #include "support/modCharacters.h"
 #include "ui_AlbumPage.h"
+#include "windows/frame/AlbumInHand.h"
 #include "windows/frame/modWindowState.h"
 #include "windows/gallery/SlideCommands.h"
 #include "windows/gallery/SlideModel.h"
@@ -123,6 +124,7 @@ void AlbumPage::ShowLooks() {
 void AlbumPage::ShowAlbum(std::int32_t AlbumID, std::int32_t SlideID) {
     mUi->lvwSlides->FinishEdit();
     mFollow.stop();
+    NoteAlbumInHand(AlbumID);
     mSlides->ShowAlbum(AlbumID);
     ShowTitle();
     if (mSlides->Count() > 0) mUi->lvwSlides->ChooseRow(std::max(0, mSlides->RowOf(SlideID)));

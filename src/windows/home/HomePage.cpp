@@ -36,6 +36,11 @@ void HomePage::TakeFocus() {
     mAlbum->setFocus(Qt::OtherFocusReason);
 }
 
+void HomePage::focusInEvent(QFocusEvent* Event) {
+    QWidget::focusInEvent(Event);
+    TakeFocus();
+}
+
 // The album page is made for the first album: the start need not wait for it.
 void HomePage::OpenAlbum(std::int32_t AlbumID, std::int32_t SlideID) {
     if (!DBEngine || !DBEngine->GetAlbum(AlbumID)) return;

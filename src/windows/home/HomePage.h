@@ -33,6 +33,9 @@ class HomePage : public QWidget, public StandingReceiver {
   Q_SIGNALS:
     void QuickShowWanted();
 
+  protected:
+    void focusInEvent(QFocusEvent* Event) override;
+
   private:
     void OpenAlbum(std::int32_t AlbumID, std::int32_t SlideID);
     void LeaveAlbum();

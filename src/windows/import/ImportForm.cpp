@@ -26,11 +26,9 @@
 namespace neb {
 namespace {
 
-// What the bar's tool tip says after item I of Count, I from 1: the item's
-// index from 0 plus one item's share of a hundred, as the program has always
-// counted it here.
+// What the bar's tool tip says after item I of Count, I from 1.
 QString ImportProgressText(int I, int Count) {
-    return Format((I - 1) + 100.0 / Count, "##0") + QStringLiteral("% Complete");
+    return Format(100.0 * I / Count, "##0") + QStringLiteral("% Complete");
 }
 
 }  // namespace
@@ -231,6 +229,7 @@ std::optional<ImportTally> ImportForm::ImportRows(Changes& Door, std::int32_t Al
     } catch (const std::exception& Problem) {
         Tally.Problem = ReasonOf(Problem);
     }
+    Bar.Unload();  // what is told now is no more about work that could be stopped
     return Tally;
 }
 

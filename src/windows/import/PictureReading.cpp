@@ -122,7 +122,6 @@ void PictureReading::MakeRow(Found& Pictures, int Number) {
     while (!Pictures.Ahead->Wait(10))
         if (!mReading.Yield()) return;
     TakeNext(Pictures, Pictures.Files[Number - 1]);
-    mReading.Window()->ShowCount(Number, static_cast<int>(Pictures.Files.size()));
 }
 
 void PictureReading::TakeNext(Found& Pictures, const QString& Path) try {

@@ -8,6 +8,7 @@
 #include "support/Services.h"
 #include "support/modDEValidation.h"
 #include "ui_ImportForm.h"
+#include "windows/frame/AlbumInHand.h"
 #include "windows/frame/Openers.h"
 #include "windows/frame/modWindowState.h"
 
@@ -68,9 +69,9 @@ bool frmImportFilter::ImportIntoAlbum(frmProgress& Bar) {
         ImportRows(Door, mTarget.AlbumID, Bar, [](std::int32_t) {});
     if (!Tally) return Imported.Never(), false;
     DropEntered(*Tally);
+    NoteAlbumInHand(mTarget.AlbumID);
     Tally->Tell();
     Imported.Now();
-    Bar.Unload();
     if (!Tally->IsWhole()) return false;
     if (Unload()) OpenSlideShowMgr();
     return true;

@@ -8,8 +8,10 @@
 #include "controls/forms/ScreenPointer.h"
 #include "controls/forms/frmLoading.h"
 #include "controls/grid/FlexGrid.h"
+#include "support/Grouped.h"
 #include "support/Services.h"
 #include "support/modNumbers.h"
+#include "windows/frame/modNotice.h"
 
 namespace neb {
 namespace {
@@ -20,6 +22,12 @@ void SetRedraw(const std::vector<FlexGrid*>& Grids, bool Redraw) {
 
 QString PercentComplete(double Part, double Whole) {
     return Format(Part / Whole * 100, "##0") + QStringLiteral("% Complete");
+}
+
+// A list that ends early looks like a whole one.
+void TellStopped(int Made, int Count) {
+    ShowNotice(frmLoading::tr("Stopped; %1 of %2 pictures are listed.")
+                   .arg(Grouped(Made), Grouped(Count)));
 }
 
 }  // namespace
@@ -71,10 +79,14 @@ void SlideReading::MakeRows(const KeyList& Keys) {
     MoveBar(0, Count);
     SetRedraw(mOrder.Grids, false);
     const auto Painted = qScopeGuard([this] { SetRedraw(mOrder.Grids, true); });
-    for (int I = 0; I < Count && IsStillThere(); ++I) {
-        mOrder.MakeRow(Keys[static_cast<size_t>(I)], I + 1);
-        if (GoesOn()) MoveBar(I + 1, Count);
+    int Made = 0;
+    while (Made < Count && IsStillThere()) {
+        mOrder.MakeRow(Keys[static_cast<size_t>(Made)], Made + 1);
+        if (!GoesOn()) break;
+        mLoading->ShowCount(++Made, Count);
+        MoveBar(Made, Count);
     }
+    if (mEnd == End::Stopped) TellStopped(Made, Count);
     mLoading->ClearParent();
     mLoading->Unload();
 }

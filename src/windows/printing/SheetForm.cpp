@@ -13,6 +13,7 @@
 #include "printing/SheetComposer.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
+#include "support/Grouped.h"
 #include "support/modNumbers.h"
 #include "ui_SheetForm.h"
 #include "windows/frame/modNotice.h"
@@ -26,6 +27,12 @@ const QSize UsualShape(4, 3);
 
 QString CompletedText(double Percent) {
     return Format(Percent, "##0.0") + QStringLiteral("% Completed");
+}
+
+// In the bar itself, where the next picture is being read.
+QString PictureOf(const PrintProgress& Now) {
+    return SheetForm::tr("Picture %1 of %2")
+        .arg(Grouped(std::min(Now.Done + 1, Now.Total)), Grouped(Now.Total));
 }
 
 }  // namespace
@@ -203,6 +210,7 @@ bool SheetForm::ShowProgress(const PrintProgress& Now) {
                                                    : 100.0 * Now.Done / Now.Total;
     mUi->pbrProgress->setValue(static_cast<int>(Percent));
     mUi->pbrProgress->setToolTip(CompletedText(Percent));
+    mUi->pbrProgress->setFormat(PictureOf(Now));
     DoEvents();
     return mStage != Stage::Stopping;
 }
@@ -210,7 +218,10 @@ bool SheetForm::ShowProgress(const PrintProgress& Now) {
 void SheetForm::SetStage(Stage Now) {
     mStage = Now;
     const bool Begins = Now == Stage::Composing;
-    if (Begins) mUi->pbrProgress->setValue(0);
+    if (Begins) {
+        mUi->pbrProgress->setValue(0);
+        mUi->pbrProgress->setFormat({});
+    }
     mUi->pbrProgress->setVisible(Now != Stage::Idle);
     mUi->cmdStop->setEnabled(Begins);
     mUi->cmdStop->setVisible(Begins);

@@ -5,6 +5,7 @@
 #include "printing/PrintBeside.h"
 #include "printing/SlidesToPrint.h"
 #include "support/Fault.h"
+#include "support/Grouped.h"
 #include "support/files/modHostFiles.h"
 #include "ui_frmPrintPreview.h"
 #include "windows/frame/frmInputBox.h"
@@ -51,7 +52,7 @@ struct WorkWords {
 
 QString LineFor(const WorkWords& Words, const PrintProgress& Now) {
     if (Now.Total <= 0) return Words.Title;
-    return Words.Piece.arg(std::min(Now.Done + 1, Now.Total)).arg(Now.Total);
+    return Words.Piece.arg(Grouped(std::min(Now.Done + 1, Now.Total)), Grouped(Now.Total));
 }
 
 // The result of work beside the window, under a bar with Stop; what the work throws passes out.

@@ -9,6 +9,7 @@
 #include "db/clsDBEngine.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
+#include "support/Grouped.h"
 #include "support/Services.h"
 #include "support/modCharacters.h"
 #include "ui_frmRehearsal.h"
@@ -148,6 +149,9 @@ void frmRehearsal::Rehearse() {
 void frmRehearsal::Look() {
     if (!mJob) return;
     mUi->pgbRun->setValue(mJob->SoFar());
+    mUi->pgbRun->setFormat(tr("Slide %1 of %2")
+                               .arg(Grouped(std::min(mJob->SoFar(), mUi->pgbRun->maximum())),
+                                    Grouped(mUi->pgbRun->maximum())));
     if (!mJob->Wait(0)) return QTimer::singleShot(LookMs, this, &frmRehearsal::Look);
     const auto Done = std::move(mJob);
     ShowRunning(false);

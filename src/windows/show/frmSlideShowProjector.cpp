@@ -9,7 +9,6 @@
 #include "show/ShowSettings.h"
 #include "support/Fault.h"
 #include "ui_frmSlideShowProjector.h"
-#include "windows/frame/modNotice.h"
 #include "windows/handling/ShowHands.h"
 #include "windows/show/ShowBox.h"
 #include "windows/show/frmPopup.h"
@@ -113,15 +112,14 @@ bool frmSlideShowProjector::Form_Unload() {
     mDesk.reset();
     mRun.End();
     if (mRun.ResumeValid()) SaveNextSlideSeq();
-    TellFrames();
+    LogFrames();
     return true;
 }
 
-void frmSlideShowProjector::TellFrames() {
+// Who looks for the cause of a show that jerks wants it; who has watched one does not.
+void frmSlideShowProjector::LogFrames() {
     const QString Text = mUi->Show1->Frames().Text();
-    if (Text.isEmpty()) return;
-    ShowNotice(Text);
-    if (DebugMode) LogMessage(QStringLiteral("Information"), Text);
+    if (DebugMode && !Text.isEmpty()) LogMessage(QStringLiteral("Information"), Text);
 }
 
 // The window must close even when the place cannot be kept; the opener hears of it afterwards.

@@ -83,7 +83,7 @@ class frmSlideShowProjector : public Form, private ShowStage {
 
     void PrepareControls();
     void PictureCame();
-    void TellFrames();
+    void LogFrames();
     void ResizeControls();
     void ConnectHands();
     void Leave();

@@ -1,7 +1,5 @@
 #include "windows/slides/SlideDeletion.h"
 
-#include <QProgressBar>
-
 #include "controls/forms/PaintRate.h"
 #include "controls/forms/ScreenPointer.h"
 #include "controls/forms/frmProgress.h"
@@ -25,19 +23,23 @@ SlideTally SlideDeletion::Run() {
     return mTally;
 }
 
-// At each yield the window may go, or the album: what is left then stays.
+// At each yield the window may go, or the album, or the user stops it: what is left then stays.
 void SlideDeletion::StartOperation() {
     if (!mIsWanted()) return;
     const PointerScope Working(Pointer::Hourglass);
-    QProgressBar& Bar = *mProgress->pgbLoadingProgress();
     mProgress->setWindowTitle(frmProgress::tr("Deleting Slides ..."));
-    Bar.setMaximum(static_cast<int>(mSlideIDs.size()));
-    Bar.setValue(0);
+    mProgress->SupportsStop(true);
+    const int Count = static_cast<int>(mSlideIDs.size());
+    int Done = 0;
+    mProgress->ShowCount(Done, Count);
     PaintRate Rate;
     mTally = DeleteSlides(*DBEngine, &mWindow, mAlbumID, mSlideIDs, [&] {
-        Bar.setValue(Bar.value() + 1);
-        if (Rate.IsDue()) DoEvents();
-        return mIsWanted();
+        mProgress->ShowCount(++Done, Count);
+        if (Rate.IsDue()) {
+            mProgress->Refresh();
+            DoEvents();
+        }
+        return !mProgress->IsStopped() && mIsWanted();
     });
 }
 

@@ -148,6 +148,8 @@ void frmSlideDBM::changeEvent(QEvent* Event) {
 // Loaded inside its frame, to which its size belongs.
 void frmSlideDBM::LoadSlideMgr(std::int32_t AlbumID, std::int32_t SlideID) {
     const auto Held = shared_from_this();
+    // once it stands in front, no other window does
+    NoteAlbumInHand(AlbumID != 0 ? AlbumID : AlbumInHand());
     if (TheOpeners().ShowAsChild)
         TheOpeners().ShowAsChild(*this);
     else
@@ -178,6 +180,7 @@ void frmSlideDBM::Form_Activate() {
     if (mStage != Stage::Opening) return;
     mStage = Stage::Open;
     Lists().ListAlbums();
+    if (Lists().ChooseAlbum(AlbumInHand())) ShowAlbum(Cause::Program);
     if (mUi->cboAlbum->count() > 0) return mUi->cboAlbum->setFocus();
     MsgBox(QStringLiteral("You must first create an album."));
     Unload();
@@ -196,6 +199,11 @@ bool frmSlideDBM::Form_Unload() {
 
 SlideLists frmSlideDBM::Lists() const {
     return {*mUi->cboAlbum, *mUi->cboSlides};
+}
+
+void frmSlideDBM::AlbumChosen() {
+    NoteAlbumInHand(HeldAlbum());
+    ShowAlbum(Cause::User);
 }
 
 void frmSlideDBM::ShowAlbumName() {

@@ -10,6 +10,7 @@
 #include "controls/forms/ScreenPointer.h"
 #include "db/Changes.h"
 #include "support/work/WorkAside.h"
+#include "windows/frame/AlbumInHand.h"
 #include "windows/frame/modBroadcast.h"
 #include "windows/slides/SlideLists.h"
 
@@ -21,18 +22,19 @@ class frmSlideDBM;
 class ClipPlayer;
 class PicturePlace;
 
-class frmSlideDBM : public Form, public ChangeReceiver {
+class frmSlideDBM : public Form, public ChangeReceiver, public AlbumHolder {
     Q_OBJECT
 
   public:
     frmSlideDBM();
     ~frmSlideDBM() override;
 
-    // Shows the window, as a child where there is a main window; with an album chosen (0: none),
-    // and a slide of it (0: a new one).
+    // Shows the window, as a child where there is a main window; with an album chosen (0: the one in
+    // hand), and a slide of it (0: a new one).
     void LoadSlideMgr(std::int32_t AlbumID = 0, std::int32_t SlideID = 0);
     void ReceiveEvent(const QString& ObjectType, const QString& EventType,
                       const EventKeys& EventData) override;
+    std::int32_t HeldAlbum() const override { return Lists().AlbumID(); }
 
   protected:
     void Form_Load() override;
@@ -71,7 +73,7 @@ class frmSlideDBM : public Form, public ChangeReceiver {
 
     // The lists.
     SlideLists Lists() const;
-    void AlbumChosen() { ShowAlbum(Cause::User); }
+    void AlbumChosen();
     void SlideChosen() { ShowChosen(Cause::User); }
     void ShowAlbum(Cause Why);
     void GoToSlide(std::int32_t AlbumID, std::int32_t SlideID);

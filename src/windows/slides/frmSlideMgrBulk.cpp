@@ -4,6 +4,7 @@
 
 #include <QAbstractItemView>
 #include <QScopeGuard>
+#include <QShortcut>
 
 #include "controls/fields/ComboBoxList.h"
 #include "controls/fields/Icons.h"
@@ -19,6 +20,7 @@
 #include "windows/lists/SlideRows.h"
 #include "windows/lists/clsImageBuffer.h"
 #include "windows/lists/frmPicturePopup.h"
+#include "windows/slides/FindRow.h"
 #include "windows/slides/SlideDeletion.h"
 
 namespace neb {
@@ -40,6 +42,8 @@ frmSlideMgrBulk::frmSlideMgrBulk() : mUi(std::make_unique<Ui::frmSlideMgrBulk>()
     ChooseNotByWheel(*mUi->cboAlbum);
     SetUpGrid();
     SetUpButtons();
+    SetUpKeys();
+    SetUpFinding();
     On(mUi->cboAlbum, &QComboBox::currentIndexChanged, &frmSlideMgrBulk::AlbumChosen);
 }
 
@@ -54,7 +58,15 @@ void frmSlideMgrBulk::SetUpGrid() {
     Grid.SetKeyPressEdit(&FixQuoteKeyInGrid);
     Grid.SetEditOnDblClick(false);
     Grid.setEditTriggers(Grid.editTriggers() | QAbstractItemView::SelectedClicked);
+    const int MarkWidth = Grid.fontMetrics().horizontalAdvance(u'*') + 12;
+    FlexColumn Header = Grid.Column(SlideColHeader);
+    Header.Width = std::max(Header.Width, MarkWidth);
+    Header.Align = Qt::AlignCenter;
+    Grid.SetColumn(SlideColHeader, Header);
     connect(&Grid, &FlexGrid::AfterEdit, this, &frmSlideMgrBulk::AfterEdit);
+    connect(&Grid, &FlexGrid::SelChange, this, &frmSlideMgrBulk::ShowStatus);
+    Grid.setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(&Grid, &QWidget::customContextMenuRequested, this, &frmSlideMgrBulk::ShowMenu);
     const auto Show = [this](int Row) { Command([this, Row] { ShowPicture(Row); }); };
     connect(&Grid, &FlexGrid::CellDblClicked, this, Show);
     connect(&Grid, &FlexGrid::RowActivated, this, Show);
@@ -67,6 +79,8 @@ void frmSlideMgrBulk::SetUpButtons() {
         const char* Icon;
         void (frmSlideMgrBulk::*Action)();
     } Buttons[] = {
+        {mUi->cmdFind, "find-graphics", &frmSlideMgrBulk::Find},
+        {mUi->cmdSetCaptions, "album-rename", &frmSlideMgrBulk::SetCaptions},
         {mUi->cmdSave, "save", &frmSlideMgrBulk::Save},
         {mUi->cmdCancel, "cancel", &frmSlideMgrBulk::Cancel},
         {mUi->cmdDelete, "delete", &frmSlideMgrBulk::Delete},
@@ -76,6 +90,38 @@ void frmSlideMgrBulk::SetUpButtons() {
         Each.Button->setIcon(ThemeIcon(Each.Icon));
         On(Each.Button, &QPushButton::clicked, Each.Action);
     }
+}
+
+void frmSlideMgrBulk::SetUpKeys() {
+    const struct {
+        QKeySequence Key;
+        void (frmSlideMgrBulk::*Action)();
+    } Keys[] = {
+        {QKeySequence(Qt::CTRL | Qt::Key_F), &frmSlideMgrBulk::Find},
+        {QKeySequence(Qt::CTRL | Qt::Key_H), &frmSlideMgrBulk::FindToReplace},
+        {QKeySequence(Qt::Key_F3), &frmSlideMgrBulk::FindNext},
+    };
+    for (const auto& Each : Keys) {
+        auto* Key = new QShortcut(Each.Key, this);
+        Key->setContext(Qt::WidgetWithChildrenShortcut);
+        On(Key, &QShortcut::activated, Each.Action);
+    }
+    const std::pair<QKeySequence, QPushButton*> Buttons[] = {
+        {QKeySequence(Qt::CTRL | Qt::Key_S), mUi->cmdSave},
+        {QKeySequence(Qt::SHIFT | Qt::Key_F2), mUi->cmdSetCaptions}};
+    for (const auto& [Sequence, Button] : Buttons) {
+        auto* Key = new QShortcut(Sequence, this);
+        Key->setContext(Qt::WidgetWithChildrenShortcut);
+        connect(Key, &QShortcut::activated, Button, &QPushButton::click);
+    }
+}
+
+void frmSlideMgrBulk::SetUpFinding() {
+    mUi->wdgFind->SearchIn({mUi->flxAlbum, clsImageBuffer::ColText, clsImageBuffer::ColSlideID,
+                            !ReadOnlyDB, MaxCaption},
+                           [this](const std::function<void()>& Do) { Command(Do); });
+    connect(mUi->wdgFind, &FindRow::Replaced, this, &frmSlideMgrBulk::NoteEdits);
+    connect(mUi->wdgFind, &FindRow::Left, mUi->flxAlbum, qOverload<>(&QWidget::setFocus));
 }
 
 void frmSlideMgrBulk::LoadAlbumMgr(std::int32_t AlbumID) {
@@ -90,7 +136,7 @@ void frmSlideMgrBulk::LoadAlbumMgr(std::int32_t AlbumID) {
 }
 
 void frmSlideMgrBulk::Form_Load() {
-    for (QPushButton* Button : {mUi->cmdSave, mUi->cmdDelete, mUi->cmdCancel})
+    for (QPushButton* Button : {mUi->cmdSave, mUi->cmdDelete, mUi->cmdCancel, mUi->cmdSetCaptions})
         Button->setEnabled(!ReadOnlyDB);
     RestoreWindow(*this, Memory);
 }
@@ -117,7 +163,8 @@ void frmSlideMgrBulk::ListAlbums(std::int32_t AlbumID) {
     DBEngine->LoadAlbumsCombo(Albums, false);
     if (AlbumID > 0)
         ComboSelectByData(Albums, AlbumID, -2);
-    else if (AlbumID == 0 && Albums.ListCount() > 0)
+    else if (AlbumID == 0 && Albums.ListCount() > 0 &&
+             !ComboSelectByData(Albums, AlbumInHand(), -2))
         Albums.SetListIndex(0);
 }
 
@@ -149,6 +196,7 @@ void frmSlideMgrBulk::AlbumChosen() {
 }
 
 void frmSlideMgrBulk::ShowAlbum() {
+    NoteAlbumInHand(AlbumID());
     mEdits.Begin(AlbumID());
     FollowAlbum();
     Fill();
@@ -184,14 +232,19 @@ void frmSlideMgrBulk::MakeCurrent(int Row) {
 
 void frmSlideMgrBulk::AfterEdit(int Row, int Col) {
     FitCaption(*mUi->flxAlbum, Row, Col);
-    NoteEdit(Row);
+    NoteEdits({Row});
 }
 
-void frmSlideMgrBulk::NoteEdit(int Row) {
-    const std::int32_t SlideID = SlideIn(*mUi->flxAlbum, Row);
+void frmSlideMgrBulk::NoteEdits(const std::vector<int>& Rows) {
     clsNEBAlbum* Album = DBEngine->GetAlbum(mEdits.AlbumID());
-    mEdits.Note(SlideID, mUi->flxAlbum->TextMatrix(Row, clsImageBuffer::ColText),
-                Album ? Album->GetSlide(SlideID) : nullptr);
+    SlideFinder Finder;
+    for (int Row : Rows) {
+        const std::int32_t SlideID = SlideIn(*mUi->flxAlbum, Row);
+        mEdits.Note(SlideID, mUi->flxAlbum->TextMatrix(Row, clsImageBuffer::ColText),
+                    Album ? Finder.Find(*Album, SlideID) : nullptr);
+        ShowMark(Row);
+    }
+    ShowStatus();
 }
 
 void frmSlideMgrBulk::ShowPicture(int Row) {
@@ -212,6 +265,8 @@ void frmSlideMgrBulk::Save() {
     if (!HasAlbum()) return;
     CaptionSave Saved(*DBEngine, this, AlbumID());
     SaveRows(Saved);
+    SaveUnlisted(Saved);
+    ShowStatus();
     MsgBox(Saved.Tally().Text(QStringLiteral("saved"), QStringLiteral("save")),
            QStringLiteral("Operation Completed"), BoxIcon::Information);
     Saved.Tell();
@@ -219,12 +274,12 @@ void frmSlideMgrBulk::Save() {
 }
 
 // What was typed for a slide that has gone is no work any more.
-bool frmSlideMgrBulk::HasEdits() const {
+QList<std::int32_t> frmSlideMgrBulk::EditedIDs() const {
     clsNEBAlbum* Album = DBEngine->GetAlbum(mEdits.AlbumID());
-    const QList<std::int32_t> Typed = mEdits.All().keys();
-    return Album && std::any_of(Typed.begin(), Typed.end(), [Album](std::int32_t SlideID) {
-               return Album->GetSlide(SlideID) != nullptr;
-           });
+    QList<std::int32_t> SlideIDs = mEdits.All().keys();
+    SlideFinder Finder;
+    SlideIDs.removeIf([&](std::int32_t ID) { return !Album || !Finder.Find(*Album, ID); });
+    return SlideIDs;
 }
 
 // Whether the captions that were typed have been dealt with.
@@ -243,10 +298,18 @@ bool frmSlideMgrBulk::SaveEdits() {
     CaptionSave Saved(*DBEngine, this, AlbumID());
     const auto Typed = mEdits.All();
     for (auto Each = Typed.begin(); Each != Typed.end(); ++Each) SaveEdit(Saved, Each.key(), *Each);
+    ShowStatus();
     if (Saved.Tally().Failed > 0)
         MsgBox(Saved.Tally().Text(QStringLiteral("saved"), QStringLiteral("save")),
                QStringLiteral("Operation Completed"), BoxIcon::Information);
     return true;
+}
+
+// Typed before the listing anew was stopped.
+void frmSlideMgrBulk::SaveUnlisted(CaptionSave& Saved) {
+    for (const std::int32_t SlideID : EditedIDs())
+        if (RowOfSlide(*mUi->flxAlbum, SlideID) < 0)
+            SaveEdit(Saved, SlideID, mEdits.All().value(SlideID));
 }
 
 void frmSlideMgrBulk::SaveEdit(CaptionSave& Saved, std::int32_t SlideID, const QString& Typed) {
@@ -264,7 +327,7 @@ void frmSlideMgrBulk::SaveRows(CaptionSave& Saved) {
     const clsNEBAlbum* Album = ShownAlbum();
     for (int Row = 0; Album && Row < Grid.Rows(); ++Row) {
         if (SaveRow(Saved, Row)) continue;
-        NoteEdit(Row);
+        NoteEdits({Row});
         Grid.SetRedraw(true);
         MsgBox(QStringLiteral("Slide #%1 Not Found.").arg(Row + 1),
                QStringLiteral("Failed to Save Slide"), BoxIcon::Information);
@@ -280,6 +343,7 @@ bool frmSlideMgrBulk::SaveRow(CaptionSave& Saved, int Row) {
     if (Caption != Typed) Grid.SetTextMatrix(Row, clsImageBuffer::ColText, Caption);
     const bool Done = Saved.Save(SlideIn(Grid, Row), Caption);
     if (Done) mEdits.Forget(SlideIn(Grid, Row));
+    ShowMark(Row);
     return Done;
 }
 

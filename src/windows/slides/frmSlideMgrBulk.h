@@ -1,9 +1,11 @@
-// Edits the captions of all slides of an album at once and deletes many slides at one stroke. A
-// child of the main window; several may stand open, on one album, too.
+// Edits the captions of all slides of an album at once: each by itself, by finding and replacing,
+// or many alike; and deletes many slides at one stroke. What was edited is marked and not stored
+// before Save. A child of the main window; several may stand open, on one album, too.
 #pragma once
 
 #include "albums/BulkSlides.h"
 #include "controls/forms/Form.h"
+#include "windows/frame/AlbumInHand.h"
 #include "windows/frame/modBroadcast.h"
 #include "windows/lists/SlideReading.h"
 
@@ -14,28 +16,33 @@ class frmSlideMgrBulk;
 }
 class clsNEBAlbum;
 
-class frmSlideMgrBulk : public Form, public ChangeReceiver {
+class frmSlideMgrBulk : public Form, public ChangeReceiver, public AlbumHolder {
     Q_OBJECT
 
   public:
     frmSlideMgrBulk();
     ~frmSlideMgrBulk() override;
 
-    // Fills the list of albums, shows the window and the slides of the album; 0: of the first
-    // album, -1: of none.
+    // Fills the list of albums, shows the window and the slides of the album; 0: of the one in
+    // hand, else of the first, -1: of none.
     void LoadAlbumMgr(std::int32_t AlbumID);
     void ReceiveEvent(const QString& ObjectType, const QString& EventType,
                       const EventKeys& EventData) override;
+    std::int32_t HeldAlbum() const override { return AlbumID(); }
 
   protected:
     void Form_Load() override;
     bool Form_QueryUnload() override;
     bool Form_Unload() override;
     void FinishEdits() override;
+    void reject() override;  // Esc leaves the row for finding first
 
   private:
     void SetUpGrid();
     void SetUpButtons();
+    void SetUpKeys();
+    void SetUpFinding();
+    void ShowMenu(const QPoint& Place);
     void ListAlbums(std::int32_t AlbumID);
     void ChooseAlbum(std::int32_t AlbumID);
     std::int32_t AlbumID() const;  // of the album on view; 0: none
@@ -46,7 +53,7 @@ class frmSlideMgrBulk : public Form, public ChangeReceiver {
 
     void Fill();
     std::optional<SlideReading::KeyList> SlidesToList();
-    void AddSlideRow(SlideFinder& Finder, std::int32_t SlideID);
+    bool AddSlideRow(SlideFinder& Finder, std::int32_t SlideID);
     void ShowSlide(int Row, const clsNEBSlide& Slide);
     void Reload();
 
@@ -54,14 +61,23 @@ class frmSlideMgrBulk : public Form, public ChangeReceiver {
     void SelectAgain(const std::vector<std::int32_t>& SlideIDs, std::int32_t CurrentID);
     void MakeCurrent(int Row);
     void AfterEdit(int Row, int Col);
-    void NoteEdit(int Row);
+    void NoteEdits(const std::vector<int>& Rows);
+    void ShowMark(int Row);
+    void ShowStatus();
     void ShowPicture(int Row);
+    void PutCaptions(const std::vector<std::int32_t>& SlideIDs, const QStringList& Captions);
+    void SetCaptions();
+    void Find();
+    void FindToReplace();
+    void FindNext();
 
     bool HasAlbum() const;
     void Save();
-    bool HasEdits() const;
+    QList<std::int32_t> EditedIDs() const;
+    bool HasEdits() const { return !EditedIDs().isEmpty(); }
     bool MayLeave();
     bool SaveEdits();
+    void SaveUnlisted(CaptionSave& Saved);
     void SaveEdit(CaptionSave& Saved, std::int32_t SlideID, const QString& Typed);
     void SaveRows(CaptionSave& Saved);
     bool SaveRow(CaptionSave& Saved, int Row);

@@ -112,7 +112,8 @@ SlideReading::Order ViewerForm::Reading() {
             .MakeRow = [this](std::int32_t Key, int Number) { (void)AddSlideRow(Key, Number); },
             .IsThere = [this] { return IsStillThere(); },
             .Grids = {mGrid},
-            .Shows = SlideReading::Bar::Count};
+            .Shows = SlideReading::Bar::Count,
+            .MayStop = true};
 }
 
 void ViewerForm::Clear() {

@@ -1,6 +1,7 @@
 #include "windows/transfer/frmTransferProgress.h"
 
 #include <QScopeGuard>
+#include <algorithm>
 
 #include "controls/fields/Icons.h"
 #include "support/Services.h"
@@ -12,8 +13,10 @@ namespace {
 constexpr int WholeBar = 1000;
 
 int PartOfBar(const TransferProgress& Now) {
-    if (Now.OfBytes > 0) return static_cast<int>(Now.Bytes * WholeBar / Now.OfBytes);
-    return Now.OfPictures > 0 ? Now.Pictures * WholeBar / Now.OfPictures : 0;
+    if (Now.OfBytes > 0)
+        return static_cast<int>(std::min(Now.Bytes, Now.OfBytes) * WholeBar / Now.OfBytes);
+    if (Now.OfPictures < 1) return 0;
+    return std::min(Now.Pictures, Now.OfPictures) * WholeBar / Now.OfPictures;
 }
 
 }  // namespace
@@ -63,7 +66,7 @@ bool frmTransferProgress::Show(const TransferProgress& Now) {
 bool frmTransferProgress::Show(const QString& Line, int Percent) {
     if (mAt->Rate.IsDue()) {
         mUi->pgbTransfer->setMaximum(WholeBar);
-        mUi->pgbTransfer->setValue(Percent * WholeBar / 100);
+        mUi->pgbTransfer->setValue(std::clamp(Percent, 0, 100) * WholeBar / 100);
         if (!mAt->Stopped) mUi->lblProgress->setText(Line);
     }
     DoEvents();

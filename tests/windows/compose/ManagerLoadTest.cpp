@@ -1,5 +1,6 @@
 // How the slide show manager takes up albums and shows.
 #include "ManagerRig.h"
+#include "windows/frame/Openers.h"
 
 namespace neb {
 namespace {
@@ -33,6 +34,24 @@ TEST_F(ManagerLoad, AnAlbumWithoutShowsOffersANewOneAlone) {
     EXPECT_EQ("b|a / ", Lists()) << "in the order of the album";
     EXPECT_EQ("2/0", Counts());
     EXPECT_EQ("", Name().text().toStdString());
+}
+
+TEST_F(ManagerLoad, StoppedWhileItReadsTheAlbumItShowsNone) {
+    AddAlbumSlides({u"a"_s, u"b"_s, u"c"_s});
+    const std::int32_t ShowID = AddShow(u"Walk"_s, {3, 1});
+    QString Told;
+    TheOpeners().Notice = [&](const QString& Line) { Told = Line; };
+    AtValue(33, [] { Press(*Open<frmLoading>(), "cmdStop"); });
+    Boxes.Expect(AbortQuestion, u"Abort Confirmation"_s, BoxAnswer::Yes);
+    OpenMgr(AlbumID, ShowID);
+    TheOpeners().Notice = {};
+    EXPECT_EQ("Stopped; the album is not shown.", Told.toStdString());
+    EXPECT_EQ(-1, Combo("cboAlbum").currentIndex());
+    EXPECT_EQ(" / ", Lists());
+    EXPECT_EQ("", Entries("cboSlideShows"));
+    EXPECT_EQ("Slide Show Manager", W->windowTitle().toStdString());
+    Choose("cboAlbum", AlbumID);
+    EXPECT_EQ("a|b|c / ", Lists()) << "and whole when it is chosen again";
 }
 
 TEST_F(ManagerLoad, AShowStandsInItsOrderAndTheOtherSlidesBesideIt) {

@@ -62,6 +62,7 @@ TEST_F(ImportStop, LeavesWholeSlidesAndTheRestSelected) {
     TheOpeners().SlideShowMgr = [&](std::int32_t, std::int32_t) { ++Opened; };
     Window->SetLoadSlideShowMgr(true);
     At(2, PressStop);
+    Boxes.WhileNextIsOpen([] { EXPECT_EQ(nullptr, Open<frmProgress>()) << "with its Stop"; });
     Boxes.Expect(Stopped(2, 5));
     Press(*Window, "cmdImport");
     EXPECT_TRUE(Window->IsLoaded());

@@ -2,11 +2,14 @@
 // once more, and what waits until it is over.
 #include "windows/lists/SlideReading.h"
 
+#include <QLabel>
+
 #include "controls/forms/ScreenPointer.h"
 #include "controls/forms/TestForm.h"
 #include "controls/grid/GridHarness.h"
 #include "harness/ScriptedBoxes.h"
 #include "support/Fault.h"
+#include "windows/frame/Openers.h"
 #include "windows/import/IntakeHarness.h"
 
 namespace neb {
@@ -96,6 +99,26 @@ TEST_F(Reading, CountsWithATextWhenItIsAskedTo) {
     EXPECT_TRUE(Seen.first().startsWith(u"Reading Slides ... ")) << Seen.first().toStdString();
     EXPECT_EQ("Loading Slides ... 1 2 50% Complete|Loading Slides ... 2 2 100% Complete",
               Seen.mid(Seen.size() - 2).join(u'|').toStdString());
+}
+
+TEST_F(Reading, TellsWhichPictureItIsAtAndThatItWasStopped) {
+    QStringList Counts, Told;
+    TheOpeners().Notice = [&](const QString& Text) { Told << Text; };
+    SetDoEventsHook([&] {
+        if (const auto* Loading = Open<frmLoading>())
+            Counts << In<QLabel>(*Loading, "lblCount").text();
+    });
+    EXPECT_EQ(End::Done, Read.Read(OrderOf({1, 2})));
+    EXPECT_EQ("Picture 1 of 2|Picture 2 of 2",
+              Counts.mid(Counts.size() - 2).join(u'|').toStdString());
+    EXPECT_EQ("", Told.join(u'|').toStdString());
+    SlideReading::Order Order = OrderOf(SlideReading::KeyList(1001, 7));
+    Order.MayStop = true;
+    Boxes.Expect(AbortQuestion, u"Abort Confirmation"_s, BoxAnswer::Yes);
+    AtValue(1, [] { Press(*Open<frmLoading>(), "cmdStop"); });
+    EXPECT_EQ(End::Stopped, Read.Read(Order));
+    TheOpeners().Notice = {};
+    EXPECT_EQ("Stopped; 11 of 1,001 pictures are listed.", Told.join(u'|').toStdString());
 }
 
 TEST_F(Reading, ShowsNoWindowWhereThereIsNothingToRead) {

@@ -83,7 +83,7 @@ TEST_F(BulkAsks, NothingWhereNothingWouldGo) {
     Edit(W, 0, u"a"_s);
     EXPECT_TRUE(W->close()) << "typed back";
     W = OpenEdited();
-    SaveExpecting(W, u"2 slides successfully saved."_s);
+    SaveExpecting(W, u"1 slides successfully saved."_s);
     EXPECT_TRUE(W->close()) << "saved";
     W = OpenEdited(u"Fern"_s);
     Press(*W, "cmdCancel");

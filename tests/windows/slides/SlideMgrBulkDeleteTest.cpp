@@ -1,5 +1,7 @@
 // While the bulk slide manager deletes slides its windows go on answering, and what may happen
 // meanwhile ends the work cleanly.
+#include <QLabel>
+
 #include "BulkRig.h"
 
 namespace neb {
@@ -9,10 +11,11 @@ using namespace harness;
 
 class SlideMgrBulkDelete : public BulkRig {};
 
-TEST_F(SlideMgrBulkDelete, WhileSlidesGoABarIsShownAndCannotBeClosed) {
+TEST_F(SlideMgrBulkDelete, WhileSlidesGoABarIsShownThatCounts) {
     AddSlides({u"a"_s, u"b"_s, u"c"_s});
     const Window Bulk = OpenBulk(AlbumID);
     int Yields = 0;
+    QStringList Counts;
     SetDoEventsHook([&] {
         auto* Progress = Open<frmProgress>();
         if (!Progress) return;
@@ -21,15 +24,29 @@ TEST_F(SlideMgrBulkDelete, WhileSlidesGoABarIsShownAndCannotBeClosed) {
         EXPECT_EQ(3, Progress->pgbLoadingProgress()->maximum());
         EXPECT_TRUE(Progress->isModal());
         EXPECT_EQ(Pointer::Hourglass, ScreenPointer());
-        QTest::keyClick(Progress, Qt::Key_Escape);
-        Progress->close();
+        Counts << In<QLabel>(*Progress, "lblCount").text();
+        EXPECT_TRUE(In<QPushButton>(*Progress, "cmdStop").isVisible());
     });
     GridOf(Bulk).selectAll();
     ExpectQuestion(BoxAnswer::Yes);
     ExpectDone(u"3 slides successfully deleted."_s);
     Press(*Bulk, "cmdDelete");
     EXPECT_GT(Yields, 0);
+    EXPECT_TRUE(Counts.contains(u"Picture 1 of 3"_s)) << Counts.join(u'|').toStdString();
     EXPECT_EQ(nullptr, Open<frmProgress>());
+}
+
+TEST_F(SlideMgrBulkDelete, StoppedByEscItLeavesTheRestAsItIs) {
+    AddSlides({u"a"_s, u"b"_s, u"c"_s});
+    const Window Bulk = OpenBulk(AlbumID);
+    AtProgress([] { QTest::keyClick(harness::Open<frmProgress>(), Qt::Key_Escape); });
+    GridOf(Bulk).selectAll();
+    ExpectQuestion(BoxAnswer::Yes);
+    Boxes.WhileNextIsOpen([] { EXPECT_EQ(nullptr, harness::Open<frmProgress>()); });
+    ExpectDone(u"1 slides successfully deleted."_s);
+    Press(*Bulk, "cmdDelete");
+    EXPECT_EQ("b|c", Shown(Bulk));
+    EXPECT_TRUE(FileExists(PicturePath(2)));
 }
 
 TEST_F(SlideMgrBulkDelete, AnAlbumThatGoesWhileItsSlidesAreDeletedEndsTheWork) {
