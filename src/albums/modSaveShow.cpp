@@ -78,14 +78,25 @@ Answer<> CheckTracks(const ShowContent& Content) {
     return Done();
 }
 
-Answer<> CheckNames(const ShowContent& Content, const clsNEBAlbum& Album) {
-    if (Album.SlideShows.empty()) return Done();
+Answer<> CheckOtherNames(const clsNEBAlbum& Album, std::int32_t SlideShowID, const QString& Name) {
+    const QString Wanted = CaselessName(CleanName(Name));
     for (const auto& Show : Album.SlideShows)
-        if (Show->SlideShowID != Content.SlideShowID &&
-            Show->SlideShowName.toUpper() == Content.Name.toUpper())
+        if (Show->SlideShowID != SlideShowID && CaselessName(Show->SlideShowName) == Wanted)
             return Refuse(
                 QStringLiteral("A Slide Show with this name already exists in this Album."),
                 QStringLiteral("Slide Show Name Already In Use"));
+    return Done();
+}
+
+Answer<> CheckLength(const QString& Name) {
+    if (CleanName(Name).size() <= MaxName) return Done();
+    return Refuse(QStringLiteral("Slide show names must be <= 80 characters long."));
+}
+
+Answer<> CheckNames(const ShowContent& Content, const clsNEBAlbum& Album) {
+    if (Album.SlideShows.empty()) return Done();
+    if (const Answer<> Is = CheckOtherNames(Album, Content.SlideShowID, Content.Name); !Is)
+        return Is;
     if (Content.SlideShowID != 0 && !Album.GetSlideShow(Content.SlideShowID))
         return Refuse(QStringLiteral("The Slide Show you are editing no longer appears to exist."),
                       Deleted);
@@ -182,12 +193,23 @@ Answer<> CheckTrackOptions(const ShowTrack& Track, std::int32_t ProgressionMetho
     return Done();
 }
 
+Answer<> CheckShowName(const QString& Name) {
+    if (!Name.trimmed().isEmpty()) return CheckLength(Name);
+    return Refuse(QStringLiteral("You have to enter a name for the slide show."));
+}
+
+Answer<> CheckShowName(const clsNEBAlbum& Album, std::int32_t SlideShowID, const QString& Name) {
+    const Answer<> Is = CheckShowName(Name);
+    return Is ? CheckOtherNames(Album, SlideShowID, Name) : Is;
+}
+
 Answer<> CheckShow(ShowContent& Content, const clsDBEngine& theDB) {
     if (Content.AlbumID == 0)
         return Refuse(QStringLiteral("You must first select an album to save the slide show in."));
     if (Content.Name.isEmpty())
         return Refuse(QStringLiteral("You have to enter a name for the slide show."));
     Content.Name = CleanName(Content.Name);
+    if (const Answer<> Is = CheckLength(Content.Name); !Is) return Is;
     if (Content.Slides.empty())
         return Refuse(QStringLiteral("You must select atleast 1 slide for the Slide Show."));
     if (const Answer<> Are = CheckTracks(Content); !Are) return Are;

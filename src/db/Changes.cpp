@@ -2,6 +2,7 @@
 
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
+#include "support/modDEValidation.h"
 #include "support/modText.h"
 
 namespace neb {
@@ -21,7 +22,7 @@ void MakeValid(clsNEBSlide& Slide) {
 }
 
 void MakeValid(clsNEBSlideShow& Show) {
-    Show.SlideShowName = ValidText(Show.SlideShowName);
+    Show.SlideShowName = ValidText(ComposedName(Show.SlideShowName));
     for (const auto& Each : Show.Details) Each->SlideText = ValidText(Each->SlideText);
 }
 
@@ -100,7 +101,7 @@ Answer<Announcement> Changes::MakeAlbum(const QString& AlbumName) {
     // A folder with pictures belongs to an album whose record has been lost, and to no new one.
     const std::int32_t Free = FreeAlbumID(mDB.DBPath(), mDB.NextAlbumID);
     const std::int32_t Next = std::exchange(mDB.NextAlbumID, Free);
-    const Answer<> Saved = mDB.SaveAlbum(AlbumID, ValidText(AlbumName));
+    const Answer<> Saved = mDB.SaveAlbum(AlbumID, ValidText(ComposedName(AlbumName)));
     if (!Saved) {
         mDB.NextAlbumID = Next;
         return Saved.Refusal();
@@ -110,7 +111,7 @@ Answer<Announcement> Changes::MakeAlbum(const QString& AlbumName) {
 
 Answer<Announcement> Changes::RenameAlbum(std::int32_t AlbumID, const QString& AlbumName) {
     if (!mDB.GetAlbum(AlbumID)) return Missing(NoAlbum);
-    const Answer<> Saved = mDB.SaveAlbum(AlbumID, ValidText(AlbumName));
+    const Answer<> Saved = mDB.SaveAlbum(AlbumID, ValidText(ComposedName(AlbumName)));
     if (!Saved) return Saved.Refusal();
     return Noted({Change::Kind::AlbumRenamed, AlbumID}, With::Nothing);
 }
