@@ -32,7 +32,7 @@ frmQuickShow::frmQuickShow() : ImportForm(Memory) {
     mUi->cmdImport->setAccessibleName(tr("Save"));
     mUi->cmdImport->setToolTip(
         QStringLiteral("Create an Album and Slide Show from the Selected Pictures"));
-    KeepQuotesClean(*mUi->txtName);
+    KeepNameClean(*mUi->txtName);
 }
 
 // The folder's own name is what most people would type. Whoever begins anew with another folder
