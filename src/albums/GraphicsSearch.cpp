@@ -1,12 +1,14 @@
 #include "albums/GraphicsSearch.h"
 
 #include <QDateTime>
+#include <QSet>
 #include <algorithm>
 #include <condition_variable>
 #include <ctime>
 #include <deque>
 #include <mutex>
 
+#include "albums/PictureOrder.h"
 #include "support/MediaTypes.h"
 #include "support/files/HiddenNames.h"
 #include "support/files/modHostFilesMask.h"
@@ -92,6 +94,13 @@ QString DateText(qint64 SecondsSince1970) {
            (Local.tm_hour < 12 ? QStringLiteral("AM") : QStringLiteral("PM"));
 }
 
+QStringList OwnFolders(const QString& DBPath) {
+    QStringList Folders;
+    for (const char* Name : {"Albums", "Backups", "Temp"})
+        Folders << DBPath + QString::fromLatin1(Name);
+    return Folders;
+}
+
 struct GraphicsSearch::Shared {
     std::mutex Mutex;
     std::condition_variable Changed;
@@ -105,9 +114,12 @@ class GraphicsSearch::Walk {
     Walk(std::shared_ptr<Shared> To, const QString& Filter, const QStringList& Types, Lister List)
         : mTo(std::move(To)), mMask(Filter), mTypes(Types), mList(std::move(List)) {}
 
-    void Run(const QString& Directory, const JobState& State) {
+    void Run(const QString& Directory, const QStringList& LeftOut, const JobState& State) {
         mState = &State;
-        if (FolderExists(Directory)) Enter(Directory, RealDir(Directory), false);
+        for (const QString& Each : LeftOut)
+            if (const QString Real = RealDir(Each); !Real.isEmpty())
+                mLeftOut << WithSeparator(Real);
+        if (FolderExists(Directory)) Enter(Directory, RealDir(Directory));
         const std::lock_guard Lock(mTo->Mutex);
         mTo->AtEnd = true;
         mTo->Changed.notify_all();
@@ -115,14 +127,20 @@ class GraphicsSearch::Walk {
 
   private:
     // False when the walk has ended.
-    bool Enter(const QString& Directory, const QString& Real, bool IsSub) {
-        if (Real.isEmpty() || IsOnWayDown(Real)) return true;
+    bool Enter(const QString& Directory, const QString& Real) {
+        if (Real.isEmpty() || IsOnWayDown(Real) || IsLeftOut(Real)) return true;
         const QString Path = WithSeparator(Directory);
         mWayDown.push_back({Path, Real, MediumOf(Path)});
-        const bool WentOn = Search({Directory, IsSub, {}, {}, {}});
+        const bool WentOn = Search({Directory, {}, {}});
         mWayDown.pop_back();
         return WentOn;
     }
+
+    // What a directory holds that is looked for; links are folders as well.
+    struct Names {
+        QStringList Files, Folders;
+        QSet<QString> Links;
+    };
 
     bool Search(SearchStep Step) {
         const std::vector<DirEntry> Entries = mList(mWayDown.back().Path, Step.Error);
@@ -130,10 +148,10 @@ class GraphicsSearch::Walk {
             if (!HasLostMedium(mWayDown)) return true;  // gone since it was seen
             Step.Error = std::make_error_code(std::errc::no_such_device);
         }
-        std::vector<DirEntry> SubDirectories;
-        if (!TakeEntries(Entries, Step, SubDirectories)) return false;
-        const bool Failed = static_cast<bool>(Step.Error);
-        return HandOver(std::move(Step)) && !Failed && EnterAll(SubDirectories);
+        Names Here = Sorted(Entries);
+        if (!TakeFiles(Here.Files, Step)) return false;
+        const bool Lost = Step.Error == std::errc::no_such_device;
+        return HandOver(std::move(Step)) && !Lost && EnterAll(Here);
     }
 
     bool IsOnWayDown(const QString& Real) const {
@@ -141,32 +159,47 @@ class GraphicsSearch::Walk {
                            [&](const Level& Each) { return Each.Real == Real; });
     }
 
-    // False when nobody wants them any more.
-    bool TakeEntries(const std::vector<DirEntry>& Entries, SearchStep& Step,
-                     std::vector<DirEntry>& SubDirectories) {
-        const QString Path = mWayDown.back().Path;
-        QString Passed;
-        for (const DirEntry& Entry : Entries) {
-            if (mState->Stop) return false;
-            if (Entry.IsFolder ? IsHiddenFolder(Entry.Name) : IsHiddenFile(Entry.Name)) continue;
-            if (Entry.IsFolder)
-                SubDirectories.push_back(Entry);
-            else if (IsWanted(Entry.Name) && !TakeFile(Path, Entry.Name, Step) && Passed.isEmpty())
-                Passed = Entry.Name;
-        }
-        if (!Entries.empty()) Step.Entry = Entries.back().Name;
-        if (Step.Error || Passed.isEmpty() || !HasLostMedium(mWayDown)) return true;
-        Step.Entry = Passed;
-        Step.Error = std::make_error_code(std::errc::no_such_device);
-        return true;
+    bool IsLeftOut(const QString& Real) const {
+        return std::any_of(mLeftOut.begin(), mLeftOut.end(), [&](const QString& Each) {
+            return WithSeparator(Real).startsWith(Each);
+        });
     }
 
-    bool EnterAll(const std::vector<DirEntry>& Entries) {
+    Names Sorted(const std::vector<DirEntry>& Entries) const {
+        Names Here;
+        for (const DirEntry& Entry : Entries) {
+            if (mState->Stop) return {};
+            if (Entry.IsFolder ? IsHiddenFolder(Entry.Name) : IsHiddenFile(Entry.Name)) continue;
+            if (Entry.IsFolder && Entry.IsLink) Here.Links << Entry.Name;
+            if (Entry.IsFolder)
+                Here.Folders << Entry.Name;
+            else if (IsWanted(Entry.Name))
+                Here.Files << Entry.Name;
+        }
+        SortByName(Here.Files);
+        SortByName(Here.Folders);
+        return Here;
+    }
+
+    // False when nobody wants them any more.
+    bool TakeFiles(const QStringList& Files, SearchStep& Step) {
         const QString Path = mWayDown.back().Path;
-        const QString Real = mWayDown.back().Real;
-        return std::all_of(Entries.begin(), Entries.end(), [&](const DirEntry& Entry) {
-            const QString Sub = Path + Entry.Name;
-            return Enter(Sub, Entry.IsLink ? RealDir(Sub) : WithSeparator(Real) + Entry.Name, true);
+        bool PassedOver = false;
+        for (const QString& Name : Files) {
+            if (mState->Stop) return false;
+            if (!TakeFile(Path, Name, Step)) PassedOver = true;
+        }
+        if (PassedOver && HasLostMedium(mWayDown))
+            Step.Error = std::make_error_code(std::errc::no_such_device);
+        return !mState->Stop;
+    }
+
+    bool EnterAll(const Names& Here) {
+        const QString Path = mWayDown.back().Path;
+        const QString Real = WithSeparator(mWayDown.back().Real);
+        return std::all_of(Here.Folders.begin(), Here.Folders.end(), [&](const QString& Name) {
+            const QString Sub = Path + Name;
+            return Enter(Sub, Here.Links.contains(Name) ? RealDir(Sub) : Real + Name);
         });
     }
 
@@ -206,6 +239,7 @@ class GraphicsSearch::Walk {
     std::shared_ptr<Shared> mTo;
     NameMask mMask;
     QStringList mTypes;
+    QStringList mLeftOut;  // real paths, with separators
     Lister mList;
     std::vector<Level> mWayDown;    // the directories above, and the present one
     std::optional<qint64> mMinute;  // since the start of 1970, the one that mDate tells
@@ -213,13 +247,13 @@ class GraphicsSearch::Walk {
 };
 
 GraphicsSearch::GraphicsSearch(const QString& Directory, const QString& Filter,
-                               const QStringList& Types, Lister List)
+                               const QStringList& Types, Lister List, const QStringList& LeftOut)
     : mShared(std::make_shared<Shared>()) {
     if (!List)
         List = [](const QString& Dir, std::error_code& Error) { return ListDir(Dir, Error); };
     const auto Work = std::make_shared<Walk>(mShared, Filter, Types, std::move(List));
     mJob = std::make_unique<Job<>>(
-        [Work, Directory](const JobState& State) { Work->Run(Directory, State); });
+        [=](const JobState& State) { Work->Run(Directory, LeftOut, State); });
 }
 
 // It may be in the middle of a large directory on a slow medium; nobody waits for that.

@@ -1,6 +1,7 @@
 // The search for pictures in a directory tree, without a window: which names and types count, and
 // the walk, which runs on a thread of its own so that a slow or dead medium holds nobody up. Find
-// Graphics takes what it has found, directory by directory, in the order of the walk.
+// Graphics takes what it has found, directory by directory, in the order in which people read
+// names.
 #pragma once
 
 #include <QStringList>
@@ -28,21 +29,24 @@ QString DateText(qint64 SecondsSince1970);
 
 // One directory of the walk.
 struct SearchStep {
-    QString Directory;  // as it was given, or its parent's and its name
-    bool IsSub = false;
+    QString Directory;               // as it was given, or its parent's and its name
     std::vector<QStringList> Files;  // name, path with separator, size, date
-    std::error_code Error;           // it could not be listed to the end; the walk has ended
-    QString Entry;                   // the last one seen before the error
+    std::error_code Error;  // it could not be listed to the end; the walk goes on behind it, but
+                            // not where the medium has gone (no_such_device)
 };
+
+// The folders of a database in which nothing lies that could be imported: its albums, and what the
+// program keeps for itself.
+QStringList OwnFolders(const QString& DBPath);
 
 class GraphicsSearch {
   public:
     using Lister = std::function<std::vector<DirEntry>(const QString& Dir, std::error_code&)>;
 
     // Begins to walk. The filter is a normal one. A directory that does not exist holds nothing; a
-    // symbolic link back to a directory on the way down is not entered.
+    // symbolic link back to a directory on the way down is not entered, nor are those LeftOut.
     GraphicsSearch(const QString& Directory, const QString& Filter, const QStringList& Types,
-                   Lister List = {});
+                   Lister List = {}, const QStringList& LeftOut = {});
     ~GraphicsSearch();  // the walk ends
     GraphicsSearch(const GraphicsSearch&) = delete;
     GraphicsSearch& operator=(const GraphicsSearch&) = delete;

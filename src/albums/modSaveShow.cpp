@@ -78,6 +78,31 @@ Answer<> CheckTracks(const ShowContent& Content) {
     return Done();
 }
 
+Answer<> CheckOtherNames(const clsNEBAlbum& Album, std::int32_t SlideShowID, const QString& Name) {
+    const QString Wanted = CaselessName(CleanName(Name));
+    for (const auto& Show : Album.SlideShows)
+        if (Show->SlideShowID != SlideShowID && CaselessName(Show->SlideShowName) == Wanted)
+            return Refuse(
+                QStringLiteral("A Slide Show with this name already exists in this Album."),
+                QStringLiteral("Slide Show Name Already In Use"));
+    return Done();
+}
+
+Answer<> CheckLength(const QString& Name) {
+    if (CleanName(Name).size() <= MaxName) return Done();
+    return Refuse(QStringLiteral("Slide show names must be <= 80 characters long."));
+}
+
+Answer<> CheckNames(const ShowContent& Content, const clsNEBAlbum& Album) {
+    if (Album.SlideShows.empty()) return Done();
+    if (const Answer<> Is = CheckOtherNames(Album, Content.SlideShowID, Content.Name); !Is)
+        return Is;
+    if (Content.SlideShowID != 0 && !Album.GetSlideShow(Content.SlideShowID))
+        return Refuse(QStringLiteral("The Slide Show you are editing no longer appears to exist."),
+                      Deleted);
+    return Done();
+}
+
 // A caption that the user has emptied is one blank: none at all would stand for the slide's own.
 QString StoredCaption(const ShowSlide& Slide) {
     const QString Text = CleanText(Slide.SlideText);
@@ -168,23 +193,19 @@ Answer<> CheckTrackOptions(const ShowTrack& Track, std::int32_t ProgressionMetho
     return Done();
 }
 
+Answer<> CheckShowName(const QString& Name) {
+    if (!Name.trimmed().isEmpty()) return CheckLength(Name);
+    return Refuse(QStringLiteral("You have to enter a name for the slide show."));
+}
+
 Answer<> CheckShowName(const clsNEBAlbum& Album, std::int32_t SlideShowID, const QString& Name) {
-    for (const auto& Show : Album.SlideShows)
-        if (Show->SlideShowID != SlideShowID && Show->SlideShowName.toUpper() == Name.toUpper())
-            return Refuse(
-                QStringLiteral("A Slide Show with this name already exists in this Album."),
-                QStringLiteral("Slide Show Name Already In Use"));
-    if (!Album.SlideShows.empty() && SlideShowID != 0 && !Album.GetSlideShow(SlideShowID))
-        return Refuse(QStringLiteral("The Slide Show you are editing no longer appears to exist."),
-                      Deleted);
-    return Done();
+    const Answer<> Is = CheckShowName(Name);
+    return Is ? CheckOtherNames(Album, SlideShowID, Name) : Is;
 }
 
 Answer<Announcement> RenameShow(clsDBEngine& theDB, std::int32_t AlbumID, std::int32_t SlideShowID,
                                 const QString& Name, const QObject* Asker) {
     const QString Clean = CleanName(Name);
-    if (Clean.trimmed().isEmpty())
-        return Refuse(QStringLiteral("You have to enter a name for the slide show."));
     const clsNEBAlbum* Album = theDB.GetAlbum(AlbumID);
     if (!Album) return Refuse(QStringLiteral("The current Album could not be found."), Deleted);
     if (const Answer<> May = CheckShowName(*Album, SlideShowID, Clean); !May)
@@ -204,12 +225,13 @@ Answer<> CheckShow(ShowContent& Content, const clsDBEngine& theDB) {
     if (Content.Name.isEmpty())
         return Refuse(QStringLiteral("You have to enter a name for the slide show."));
     Content.Name = CleanName(Content.Name);
+    if (const Answer<> Is = CheckLength(Content.Name); !Is) return Is;
     if (Content.Slides.empty())
         return Refuse(QStringLiteral("You must select atleast 1 slide for the Slide Show."));
     if (const Answer<> Are = CheckTracks(Content); !Are) return Are;
     const clsNEBAlbum* Album = theDB.GetAlbum(Content.AlbumID);
     if (!Album) return Refuse(QStringLiteral("The current Album could not be found."), Deleted);
-    return CheckShowName(*Album, Content.SlideShowID, Content.Name);
+    return CheckNames(Content, *Album);
 }
 
 // While files are copied others may be at work: a show that is made meanwhile takes the number for

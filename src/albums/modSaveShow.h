@@ -13,12 +13,15 @@ class clsDBEngine;
 // Whether a track may have these flags in an automatic (0) or a manual show (1).
 Answer<> CheckTrackOptions(const ShowTrack& Track, std::int32_t ProgressionMethod);
 
+// Whether a show may bear this name, of itself: neither blank nor too long.
+Answer<> CheckShowName(const QString& Name);
+// And among the other shows of its album; SlideShowID 0: a new one. For whoever renames a show.
+Answer<> CheckShowName(const clsNEBAlbum& Album, std::int32_t SlideShowID, const QString& Name);
+
 // Refuses with the first thing that keeps a show from being saved. Cleans the quotes of Name, also
 // where a later rule refuses. Changes nothing else.
 Answer<> CheckShow(ShowContent& Content, const clsDBEngine& theDB);
 
-// Whether a show of the album (0: a new one) may bear this name, among those that are there.
-Answer<> CheckShowName(const clsNEBAlbum& Album, std::int32_t SlideShowID, const QString& Name);
 // Gives a stored show another name, and its slides and tracks stay as they are. Asker is the window
 // that knows of it already.
 Answer<Announcement> RenameShow(clsDBEngine& theDB, std::int32_t AlbumID, std::int32_t SlideShowID,

@@ -6,6 +6,7 @@
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
 #include "support/files/modHostFiles.h"
+#include "support/modDEValidation.h"
 #include "support/modText.h"
 
 namespace neb {
@@ -25,7 +26,7 @@ void MakeValid(clsNEBSlide& Slide) {
 }
 
 void MakeValid(clsNEBSlideShow& Show) {
-    Show.SlideShowName = ValidText(Show.SlideShowName);
+    Show.SlideShowName = ValidText(ComposedName(Show.SlideShowName));
     for (const auto& Each : Show.Details) Each->SlideText = ValidText(Each->SlideText);
 }
 
@@ -177,7 +178,7 @@ Answer<Announcement> Changes::MakeAlbum(const QString& AlbumName) {
     // A folder with pictures belongs to an album whose record has been lost, and to no new one.
     const std::int32_t Free = FreeAlbumID(mDB.DBPath(), mDB.NextAlbumID);
     const std::int32_t Next = std::exchange(mDB.NextAlbumID, Free);
-    const Answer<> Saved = mDB.SaveAlbum(AlbumID, ValidText(AlbumName));
+    const Answer<> Saved = mDB.SaveAlbum(AlbumID, ValidText(ComposedName(AlbumName)));
     if (!Saved) {
         mDB.NextAlbumID = Next;
         return Saved.Refusal();
@@ -191,7 +192,7 @@ Answer<Announcement> Changes::RenameAlbum(std::int32_t AlbumID, const QString& A
     const clsNEBAlbum* Album = mDB.GetAlbum(AlbumID);
     if (!Album) return Missing(NoAlbum);
     const QString Before = Album->AlbumName;
-    const Answer<> Saved = mDB.SaveAlbum(AlbumID, ValidText(AlbumName));
+    const Answer<> Saved = mDB.SaveAlbum(AlbumID, ValidText(ComposedName(AlbumName)));
     if (!Saved) return Saved.Refusal();
     Announcement Renamed = Noted({Change::Kind::AlbumRenamed, AlbumID}, With::Nothing);
     if (mStep != 0) Keeper()->AlbumRenamed(mStep, AlbumID, Before, Album->AlbumName);

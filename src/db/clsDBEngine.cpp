@@ -12,6 +12,7 @@
 #include "support/ReasonOf.h"
 #include "support/files/modHostFiles.h"
 #include "support/files/modHostFilesCopy.h"
+#include "support/modDEValidation.h"
 #include "support/modFUFL.h"
 
 namespace neb {
@@ -39,8 +40,6 @@ void FlushElsewhere(const QString& DBPath, std::int32_t AlbumID) {
             continue;
         }
 }
-
-constexpr qsizetype MaxAlbumName = 80;
 
 // The counter goes round at its end rather than stop the program.
 std::int32_t Draw(std::int32_t& Counter) {
@@ -186,8 +185,9 @@ void clsDBEngine::ReplaceBy(const RecordImage& Records) {
 }
 
 Answer<> clsDBEngine::CheckAlbumName(std::int32_t AlbumID, const QString& AlbumName) const {
+    const QString Wanted = ComposedName(AlbumName);
     for (const auto& Other : Albums)
-        if (Other->AlbumID != AlbumID && Other->AlbumName == AlbumName)
+        if (Other->AlbumID != AlbumID && ComposedName(Other->AlbumName) == Wanted)
             return Refuse(QStringLiteral("An Album with this name already exists."));
     return CheckAlbumText(AlbumName);
 }
@@ -195,7 +195,7 @@ Answer<> clsDBEngine::CheckAlbumName(std::int32_t AlbumID, const QString& AlbumN
 Answer<> clsDBEngine::CheckAlbumText(const QString& AlbumName) {
     if (AlbumName.trimmed().isEmpty())
         return Refuse(QStringLiteral("You must specify an Album name."));
-    if (AlbumName.size() > MaxAlbumName)
+    if (ComposedName(AlbumName).size() > MaxName)
         return Refuse(QStringLiteral("Album names must be <= 80 characters long."));
     return Done();
 }
@@ -242,9 +242,9 @@ void clsDBEngine::LoadAlbumsCombo(ComboList& cboAlbums, bool WithAddOption) cons
 }
 
 bool clsDBEngine::LoadAlbum(std::int32_t& AlbumID, QString& AlbumName) const {
-    const QString Wanted = AlbumName.toUpper();
+    const QString Wanted = CaselessName(AlbumName);
     for (const auto& Album : Albums) {
-        if (AlbumID != 0 ? Album->AlbumID != AlbumID : Album->AlbumName.toUpper() != Wanted)
+        if (AlbumID != 0 ? Album->AlbumID != AlbumID : CaselessName(Album->AlbumName) != Wanted)
             continue;
         if (AlbumID != 0)
             AlbumName = Album->AlbumName;

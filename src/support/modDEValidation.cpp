@@ -72,7 +72,15 @@ QString CleanText(const QString& Text) {
 }
 
 QString CleanName(const QString& Text) {
-    return FirstUnits(ConvertQuotes(Text), MaxName);
+    return ComposedName(ConvertQuotes(Text));
+}
+
+QString ComposedName(const QString& Name) {
+    return Name.normalized(QString::NormalizationForm_C);
+}
+
+QString CaselessName(const QString& Name) {
+    return ComposedName(Name).toUpper();
 }
 
 bool IsNumericText(const QString& Text, QString& Message, bool AllowNegative) {

@@ -32,9 +32,14 @@ constexpr qsizetype MaxCaption = 2000;
 constexpr qsizetype MaxName = 80;
 // A typed caption as it is kept: its quotes converted, and no longer than MaxCaption.
 QString CleanText(const QString& Text);
-// The same for the name of a show, no longer than MaxName. The name of an album that is too long
-// is refused instead.
+// A typed name of an album or a show as it is kept: its quotes converted, its letters composed. One
+// that is too long stays so, and is refused by whoever is to keep it.
 QString CleanName(const QString& Text);
+// A letter may be one code or two, "é" or "e" and the accent, as systems have it: it looks the
+// same, and it is the same in the name of an album or a show.
+QString ComposedName(const QString& Name);
+// What two names have in common that are the same in any case.
+QString CaselessName(const QString& Name);
 // Digits alone, with a "-" in front when AllowNegative; an empty text passes. On a refusal
 // Message names the first character that is no digit.
 bool IsNumericText(const QString& Text, QString& Message, bool AllowNegative);

@@ -140,6 +140,49 @@ TEST_F(SaveCheckName, IsCleanedEvenWhenALaterRuleRefuses) {
     EXPECT_EQ(ConvertQuotes(u"The \"Sea\""_s), Content.Name);
 }
 
+TEST_F(SaveCheckName, IsRefusedAndNotCutWhereItIsTooLong) {
+    ShowContent Content = NewShow(1);
+    Content.Name = QString(81, u'n');
+    const Answer<> IsRight = CheckShow(Content, Engine);
+    ASSERT_FALSE(IsRight);
+    EXPECT_EQ("Slide show names must be <= 80 characters long.",
+              IsRight.Refusal().Text.toStdString());
+    EXPECT_EQ(81, Content.Name.size());
+    Content.Name = QString(80, u'n');
+    EXPECT_TRUE(CheckShow(Content, Engine));
+}
+
+TEST_F(SaveCheckName, IsTakenHoweverItsLettersAreComposed) {
+    SaveStored(u"Cafe\u0301"_s);  // by an earlier version
+    ShowContent Content = NewShow(1);
+    for (const QString& Name : {u"Caf\u00e9"_s, u"CAFE\u0301"_s}) {
+        Content.Name = Name;
+        const Answer<> IsRight = CheckShow(Content, Engine);
+        ASSERT_FALSE(IsRight);
+        EXPECT_EQ(Taken, IsRight.Refusal().Text.toStdString());
+    }
+}
+
+TEST_F(SaveCheckName, IsStoredComposed) {
+    ShowContent Content = NewShow(1);
+    Content.Name = u"Cafe\u0301"_s;
+    ASSERT_TRUE(CheckShow(Content, Engine));
+    ASSERT_TRUE(WriteShow(Content, Engine));
+    EXPECT_EQ(u"Caf\u00e9"_s, Album().SlideShows[0]->SlideShowName);
+}
+
+TEST_F(SaveCheckName, OfAShowMayBeLookedAtByItself) {
+    SaveStored(u"Winter"_s);
+    const auto Says = [&](std::int32_t ShowID, const QString& Name) {
+        return CheckShowName(Album(), ShowID, Name).Refusal().Text.toStdString();
+    };
+    EXPECT_EQ(Taken, Says(0, u"winter"_s));
+    EXPECT_EQ("", Says(Album().SlideShows[0]->SlideShowID, u"winter"_s));
+    EXPECT_EQ("", Says(0, u"Summer"_s));
+    EXPECT_EQ("You have to enter a name for the slide show.", Says(0, u"  "_s));
+    EXPECT_EQ("Slide show names must be <= 80 characters long.", Says(0, QString(81, u'n')));
+}
+
 TEST_F(SaveCheckName, OfAShowInAnAlbumWhoseShowsAreAllGoneIsNotLookedAt) {
     ShowContent Content = NewShow(1);
     Content.SlideShowID = 77;

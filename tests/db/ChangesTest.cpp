@@ -123,6 +123,17 @@ TEST_F(ChangesTest, AListenerThatFailsDoesNotEndWhatIsBeingToldAtTheEndOfItsLife
     EXPECT_EQ(Engine.GetAlbum(1)->AlbumName, u"Garden");
 }
 
+TEST_F(ChangesTest, NamesAreStoredComposed) {
+    const auto Made = Changes(Engine).MakeAlbum(u"e\u0301"_s);
+    EXPECT_EQ(u"\u00e9"_s, Engine.GetAlbum(1)->AlbumName);
+    EXPECT_TRUE(Changes(Engine).RenameAlbum(1, u"\u0438\u0306"_s));
+    EXPECT_EQ(u"\u0439"_s, Engine.GetAlbum(1)->AlbumName);
+    clsNEBSlideShow Show;
+    Show.SlideShowName = u"e\u0301"_s;
+    EXPECT_TRUE(Changes(Engine).SaveShow(1, std::move(Show)));
+    EXPECT_EQ(u"\u00e9"_s, Engine.GetAlbum(1)->SlideShows[0]->SlideShowName);
+}
+
 TEST_F(ChangesTest, AnAnnouncementThatIsTakenBackIsNeverTold) {
     {
         auto Made = Changes(Engine).MakeAlbum(u"Yard"_s);

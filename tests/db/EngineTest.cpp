@@ -208,6 +208,20 @@ TEST_F(EngineTest, ASecondAlbumOfTheSameNameIsRefused) {
     EXPECT_EQ(NewAlbum(u"A"_s), 2);  // another case is another name
 }
 
+TEST_F(EngineTest, ANameIsTheSameHoweverItsLettersAreComposed) {
+    const QString Composed = u"\u0439 \u00e9"_s, Apart = u"\u0438\u0306 e\u0301"_s;
+    NewAlbum(Apart);
+    std::int32_t AlbumID = 0;
+    ExpectRefused(Engine->SaveAlbum(AlbumID, Composed),
+                  u"An Album with this name already exists."_s);
+    for (const QString& Name : {Composed, Apart, Composed.toUpper(), Apart.toUpper()})
+        EXPECT_TRUE(Engine->FindAlbum(0, Name)) << Name.toStdString();
+    EXPECT_EQ(Apart, Engine->Albums[0]->AlbumName) << "what is stored stays";
+    AlbumID = 1;
+    EXPECT_TRUE(Engine->SaveAlbum(AlbumID, Composed));
+    EXPECT_TRUE(Engine->SaveAlbum(AlbumID, u"e\u0301"_s.repeated(80)));
+}
+
 TEST_F(EngineTest, AnEmptyNameIsRefused) {
     std::int32_t AlbumID = 0;
     for (const QString& Name : {QString(), u"   "_s})

@@ -10,6 +10,17 @@
 namespace neb {
 namespace {
 
+using namespace Qt::StringLiterals;
+
+TEST(CleanName, ConvertsQuotesComposesLettersAndCutsNothing) {
+    EXPECT_EQ(u"\u0439 \u2018\u00e9\u2019"_s, CleanName(u"\u0438\u0306 'e\u0301'"_s));
+    EXPECT_EQ(QString(100, u'n'), CleanName(QString(100, u'n')));
+    EXPECT_EQ(CaselessName(u"\u0419"_s), CaselessName(u"\u0438\u0306"_s));
+    EXPECT_NE(CaselessName(u"\u0439"_s), CaselessName(u"\u0438"_s));
+    const QString Stray = QStringLiteral("a") + StrayByte('\xe4');
+    EXPECT_EQ(Stray, CleanName(Stray)) << "a byte of a name on the disk";
+}
+
 TEST(Validation, QuotesAreConverted) {
     const struct {
         const char* Text;

@@ -24,9 +24,10 @@ QString Numbered(const QString& Name, int Number) {
 
 QString FreeName(const QString& Name, const QStringList& Taken, int First) {
     QSet<QString> Names;
-    for (const QString& Each : Taken) Names << Each.toUpper();
+    for (const QString& Each : Taken) Names << CaselessName(Each);
     int Number = First;
-    while (Names.contains(Numbered(Name, Number).toUpper())) Number = Number == 0 ? 2 : Number + 1;
+    while (Names.contains(CaselessName(Numbered(Name, Number))))
+        Number = Number == 0 ? 2 : Number + 1;
     return Numbered(Name, Number);
 }
 

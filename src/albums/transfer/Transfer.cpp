@@ -1,6 +1,7 @@
 // Which transfers are refused, in which order and with which words; and what the plan of one is.
 #include "albums/transfer/Transfer.h"
 
+#include "albums/modSaveShow.h"
 #include "albums/transfer/OtherDatabase.h"
 #include "albums/transfer/TransferRun.h"
 #include "db/clsDBEngine.h"
@@ -10,8 +11,6 @@
 
 namespace neb {
 namespace {
-
-constexpr qsizetype MaxShowName = 80;  // as wide as its field in the record
 
 using Boxes = std::vector<BoxRequest>;
 
@@ -65,7 +64,7 @@ Boxes PlanOldAlbum(const clsDBEngine& DstDB, std::int32_t AlbumID, const QString
 
 Boxes PlanDestination(const clsDBEngine& DstDB, std::int32_t AlbumID, const QString& NewAlbumName,
                       TransferPlan& Plan) {
-    Plan.AlbumName = ConvertQuotes(NewAlbumName);
+    Plan.AlbumName = CleanName(NewAlbumName);
     Boxes No = AlbumID != 0 ? PlanOldAlbum(DstDB, AlbumID, Plan.AlbumName, Plan)
                             : PlanNewAlbum(DstDB, Plan.AlbumName, Plan);
     if (!No.empty()) return No;
@@ -80,7 +79,8 @@ Boxes PlanDestination(const clsDBEngine& DstDB, std::int32_t AlbumID, const QStr
 bool SharesAName(const clsNEBAlbum& One, const clsNEBAlbum& Other) {
     for (const auto& Show : One.SlideShows)
         for (const auto& Taken : Other.SlideShows)
-            if (Show->SlideShowName.toUpper() == Taken->SlideShowName.toUpper()) return true;
+            if (CaselessName(Show->SlideShowName) == CaselessName(Taken->SlideShowName))
+                return true;
     return false;
 }
 
@@ -114,12 +114,6 @@ Decision DecideAlbum(const AlbumTransfer& What) {
     if (!What.Replace) Made.No = CheckShowNames(*Source, Destination, What.Adjective);
     TransferPlanner(What.SrcDB, What.SrcAlbumID, Plan).AddAlbum(*Source);
     return Made;
-}
-
-Boxes CheckShowName(const QString& Name) {
-    if (Name.trimmed().isEmpty()) return Say("You have to enter a name for the slide show.");
-    if (Name.size() > MaxShowName) return Say("Slide show names must be <= 80 characters long.");
-    return {};
 }
 
 // The show that is replaced; the plan's album is known.
@@ -168,10 +162,10 @@ Decision DecideShow(const SlideShowTransfer& What) {
     TransferPlan& Plan = Made.Plan;
     Plan.IsOfShow = true;
     Plan.IsWithinAlbum = IsWithinAlbum(What);
-    const QString Name = ConvertQuotes(What.NewSlideShowName);
+    const QString Name = CleanName(What.NewSlideShowName);
     Made.No = PlanDestination(What.DstDB, What.DstAlbumID, What.NewAlbumName, Plan);
     if (Made.No.empty()) Made.No = PlanReplacedShow(What, Plan);
-    if (Made.No.empty()) Made.No = CheckShowName(Name);
+    if (Made.No.empty()) Made.No = Say(CheckShowName(Name));
     TransferPlanner Planner(What.SrcDB, What.SrcAlbumID, Plan);
     if (Made.No.empty()) Made.No = PlanSlides(Plan, *Album, *Source, Planner);
     if (!Made.No.empty()) return Made;

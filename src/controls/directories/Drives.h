@@ -7,6 +7,8 @@
 #include <functional>
 #include <vector>
 
+#include "support/files/modHostFilesMounts.h"
+
 QT_BEGIN_NAMESPACE
 class QObject;
 QT_END_NAMESPACE
@@ -23,6 +25,8 @@ class DriveList {
     virtual ~DriveList() = default;
     virtual QStringList Drives() const = 0;                // paths, in the order of the list
     virtual bool IsReady(const QString& Drive) const = 0;  // false for an empty removable drive
+    // On a network: the search of all drives leaves it out.
+    virtual bool IsFar(const QString&) const { return false; }
     // The volumes that are mounted for the user and can be read, by themselves.
     virtual std::vector<Volume> Volumes() const { return {}; }
     // Calls Changed soon after a volume has come or gone, as long as Owner lives.
@@ -33,12 +37,18 @@ class DesktopDrives : public DriveList {
   public:
     QStringList Drives() const override;
     bool IsReady(const QString& Drive) const override;
+    bool IsFar(const QString& Drive) const override;
     std::vector<Volume> Volumes() const override;
     void Watch(QObject& Owner, std::function<void()> Changed) const override;
 };
 
 // Media and drives that a user would look for, not the system's own mounts.
 bool IsUserVolume(const QString& Root);
+// The same of other mounts of the host: a disk of the user's own in a place of its own, "/data",
+// but no network, none of the host's own, and nothing that is no disk.
+
+bool IsUserDisk(const Mount& Each);
+bool IsNetwork(const Mount& Each);
 // Only the paths that lie in no other of them, each once, in their order.
 QStringList OutermostPaths(const QStringList& Paths);
 

@@ -3,12 +3,11 @@
 // show all of it. Used by the slide manager and by the cells in which captions are typed.
 #pragma once
 
-#include <QLabel>
-#include <QLineEdit>
+#include "controls/fields/FieldCount.h"
 
 namespace neb {
 
-class CaptionCount : public QLabel {
+class CaptionCount : public FieldCount {
     Q_OBJECT
 
   public:
@@ -19,14 +18,8 @@ class CaptionCount : public QLabel {
     static QString About(const QString& Caption);
 
   protected:
-    bool eventFilter(QObject* Watched, QEvent* Event) override;
-
-  private:
-    void Tell();
-    void Place();
-
-    QLineEdit* mField;
-    QString mFieldTip;
+    QString Words(const QString& Caption) const override { return About(Caption); }
+    QStringList Counts(const QString& Caption) const override;
 };
 
 }  // namespace neb

@@ -102,6 +102,12 @@ void Widen(QMessageBox& Box, const BoxRequest& Request) {
     Rows->addItem(new QSpacerItem(Wide, 0), Rows->rowCount(), 0, 1, Rows->columnCount());
 }
 
+// A box that tells something shows all of it; one that asks leaves the list for whoever wants it.
+void OpenDetails(QMessageBox& Box) {
+    for (QAbstractButton* Each : Box.buttons())
+        if (Box.buttonRole(Each) == QMessageBox::ActionRole) Each->click();
+}
+
 void Fill(QMessageBox& Box, const BoxRequest& Request) {
     Box.setWindowTitle(TitleOf(Request));
     Box.setTextFormat(Qt::PlainText);
@@ -115,6 +121,7 @@ void Fill(QMessageBox& Box, const BoxRequest& Request) {
     else
         AddSaveDiscardCancel(Box);
     Widen(Box, Request);
+    if (Request.Buttons == BoxButtons::Ok) OpenDetails(Box);
 }
 
 BoxAnswer AnswerOf(int Button, BoxButtons Buttons) {

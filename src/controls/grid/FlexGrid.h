@@ -82,8 +82,8 @@ class FlexGrid : public QTableView {
     int EditCol() const { return mEditing.column(); }
     bool IsEditing() const { return state() == EditingState; }
     void FinishEdit();  // takes over what stands in an open cell editor
-
     void SetEmptyText(const QString& Text);  // shown while there are no rows
+    const QString& EmptyText() const { return mEmptyText; }
 
     // Lets rows be dragged out of this grid and dropped onto grids of the same group within the
     // same window, itself too; the grid moves none. An empty group ends it.

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "support/FlagText.h"
+#include "support/modText.h"
 
 namespace neb {
 
@@ -136,7 +137,7 @@ QString FlexGridModel::Caption(int Row) const {
 QString FlexGridModel::SpokenText(int Row, int Col) const {
     const QString& Text = mStore.Cell(Row, Col).Text;
     if (Column(Col).Kind == FlexKind::Picture) return Caption(Row);
-    if (Column(Col).Kind != FlexKind::Check) return Text;
+    if (Column(Col).Kind != FlexKind::Check) return ReadableText(Text);
     QString Heading = Column(Col).Heading;
     return Heading.replace(u'\n', u' ');
 }
@@ -146,8 +147,8 @@ QVariant FlexGridModel::data(const QModelIndex& Index, int Role) const {
     if (!Index.isValid() || Row >= mStore.Rows() || Col >= mStore.Cols()) return {};
     const FlexKind Kind = Column(Col).Kind;
     const bool Written = Kind != FlexKind::Picture && Kind != FlexKind::Check;
-    if ((Role == Qt::DisplayRole || Role == Qt::EditRole) && Written)
-        return mStore.Cell(Row, Col).Text;
+    if (Role == Qt::EditRole && Written) return mStore.Cell(Row, Col).Text;
+    if (Role == Qt::DisplayRole && Written) return ReadableText(mStore.Cell(Row, Col).Text);
     if (Role == Qt::TextAlignmentRole)
         return QVariant::fromValue(Qt::Alignment(Column(Col).Align | Qt::AlignVCenter));
     if (Role == Qt::CheckStateRole && Kind == FlexKind::Check)

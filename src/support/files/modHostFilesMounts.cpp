@@ -16,15 +16,15 @@ constexpr int SoonMs = 200;
 
 }  // namespace
 
-QStringList MountPoints() {
-    QStringList Paths;
+std::vector<Mount> Mounts() {
+    std::vector<Mount> All;
     const std::unique_ptr<FILE, decltype(&endmntent)> Table(setmntent("/proc/self/mounts", "re"),
                                                             &endmntent);
     mntent Each = {};
     char Text[8192];
     while (Table && getmntent_r(Table.get(), &Each, Text, sizeof Text))
-        Paths << HostName(Each.mnt_dir);
-    return Paths;
+        All.push_back({HostName(Each.mnt_dir), QString::fromLatin1(Each.mnt_type)});
+    return All;
 }
 
 // The host marks the table as exceptional whenever it has changed, and takes the mark away when it

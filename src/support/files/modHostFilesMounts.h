@@ -6,11 +6,16 @@
 #include <QStringList>
 #include <QTimer>
 #include <functional>
+#include <vector>
 
 namespace neb {
 
-// The folders on which something is mounted, whatever their names; system mounts as well.
-QStringList MountPoints();
+// A folder on which something is mounted, whatever its name, and the kind of its file system as the
+// host calls it ("ext4", "nfs4"). Nothing is asked of what is mounted there.
+struct Mount {
+    QString Path, Kind;
+};
+std::vector<Mount> Mounts();  // system mounts as well
 
 class MountWatch : public QObject {
     Q_OBJECT

@@ -18,7 +18,8 @@ frmAlbumRename::frmAlbumRename() : mUi(std::make_unique<Ui::frmAlbumRename>()) {
                  {mUi->lblAlbum, mUi->cboAlbum, mUi->Label1},
                  {mUi->txtAlbumName, mUi->cmdSave}});
     SetAdjective(QStringLiteral("Album"));
-    KeepQuotesClean(*mUi->txtAlbumName);
+    KeepNameClean(*mUi->txtAlbumName);
+    On(mUi->cboAlbum, &QComboBox::currentIndexChanged, &frmAlbumRename::ShowOldName);
     On(mUi->cmdSave, &QPushButton::clicked, &frmAlbumRename::Save);
     On(mUi->cmdCancel, &QPushButton::clicked, &frmAlbumRename::Close);
 }
@@ -34,18 +35,33 @@ void frmAlbumRename::SetAdjective(const QString& Noun) {
 
 void frmAlbumRename::Form_Load() {
     AlbumForm::Form_Load();
-    if (mUi->cboAlbum->currentIndex() >= 0) mUi->txtAlbumName->setFocus();
+    ShowOldName();
+    if (mUi->cboAlbum->currentIndex() >= 0) ReturnTo(*mUi->txtAlbumName);
 }
 
-// A name that the engine refuses ends the window as well, and the others are told of it all the
-// same: they show what is so.
+void frmAlbumRename::ReceiveEvent(const QString& ObjectType, const QString& EventType,
+                                  const EventKeys& EventData) {
+    AlbumForm::ReceiveEvent(ObjectType, EventType, EventData);
+    ShowOldName();
+}
+
+// Most new names are the old one with something mended.
+void frmAlbumRename::ShowOldName() {
+    if (mUi->txtAlbumName->isModified()) return;
+    mUi->txtAlbumName->setText(mUi->cboAlbum->currentText());
+    mUi->txtAlbumName->selectAll();
+}
+
+// Whoever was refused has the name before him, to mend it.
 void frmAlbumRename::Save() {
     const auto AlbumID = ChosenAlbum();
-    if (!AlbumID || !Tell(CheckName(mAdjective, mUi->txtAlbumName->text()))) return;
-    Changes Door(*DBEngine, this);
-    Announcement Renamed = Door.AsOne(Change::Kind::AlbumRenamed, *AlbumID);
-    Tell(Door.RenameAlbum(*AlbumID, ConvertQuotes(mUi->txtAlbumName->text())));
-    Renamed.Now();
+    if (!AlbumID) return mUi->cboAlbum->setFocus();
+    QLineEdit& Name = *mUi->txtAlbumName;
+    if (!Tell(CheckName(mAdjective, Name.text()))) return ReturnTo(Name);
+    Answer<Announcement> Renamed =
+        Changes(*DBEngine, this).RenameAlbum(*AlbumID, CleanName(Name.text()));
+    if (!Tell(Renamed)) return ReturnTo(Name);
+    Renamed->Now();
     NoteDone();
     Unload();
 }

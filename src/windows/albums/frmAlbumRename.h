@@ -21,10 +21,14 @@ class frmAlbumRename : public AlbumForm {
     // Shows the window modally; true when something was renamed. 0: the user chooses the album.
     bool ShowRenameAlbum(std::int32_t AlbumID) { return ShowFor(AlbumID); }
 
+    void ReceiveEvent(const QString& ObjectType, const QString& EventType,
+                      const EventKeys& EventData) override;
+
   protected:
     void Form_Load() override;
 
   private:
+    void ShowOldName();
     void Save();
     void Close() { Unload(); }
 

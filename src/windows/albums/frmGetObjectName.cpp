@@ -2,6 +2,7 @@
 
 #include "controls/forms/Tell.h"
 #include "settings/modNEBSlideShow.h"
+#include "support/modDEValidation.h"
 #include "ui_frmGetObjectName.h"
 #include "windows/albums/modAlbumNames.h"
 #include "windows/frame/modUserInput.h"
@@ -11,7 +12,7 @@ namespace neb {
 frmGetObjectName::frmGetObjectName() : mUi(std::make_unique<Ui::frmGetObjectName>()) {
     mUi->setupUi(this);
     SetAdjective(QStringLiteral("Object"));
-    KeepQuotesClean(*mUi->txtObjectName);
+    KeepNameClean(*mUi->txtObjectName);
     On(mUi->cmdSave, &QPushButton::clicked, &frmGetObjectName::Save);
     On(mUi->cmdCancel, &QPushButton::clicked, &frmGetObjectName::Close);
 }
@@ -28,19 +29,24 @@ void frmGetObjectName::SetAdjective(const QString& Noun) {
                              QStringLiteral(" Name Entry."));
 }
 
-QString frmGetObjectName::GetObjectName(const QString& OldName) {
+QString frmGetObjectName::GetObjectName(const QString& OldName, NameCheck Check) {
     mObjectName.clear();
+    mCheck = std::move(Check);
     mUi->txtObjectName->setText(OldName);
-    mUi->txtObjectName->selectAll();
-    mUi->txtObjectName->setFocus();
+    ReturnTo(*mUi->txtObjectName);
     ShowModal();
     return mObjectName;
 }
 
+bool frmGetObjectName::MayBe(const QString& Name) const {
+    if (!Tell(CheckName(mAdjective, Name))) return false;
+    return mCheck ? Tell(mCheck(Name))
+                  : ValidateUserInput(mAdjective + QStringLiteral(" Name"), Name);
+}
+
 void frmGetObjectName::Save() {
-    const QString Name = mUi->txtObjectName->text();
-    if (!Tell(CheckName(mAdjective, Name))) return;
-    if (!ValidateUserInput(mAdjective + QStringLiteral(" Name"), Name)) return;
+    const QString Name = CleanName(mUi->txtObjectName->text());
+    if (!MayBe(Name)) return ReturnTo(*mUi->txtObjectName);
     mObjectName = Name;
     Unload();
 }

@@ -3,6 +3,7 @@
 #include <QLineEdit>
 
 #include "controls/fields/KeyFilter.h"
+#include "controls/fields/NameCount.h"
 #include "settings/modNEBSlideShow.h"
 #include "windows/albums/frmAlbumDelete.h"
 #include "windows/albums/frmAlbumRename.h"
@@ -27,12 +28,22 @@ Answer<> CheckName(const QString& Adjective, const QString& Name) {
                   QStringLiteral("Invalid User Input"));
 }
 
-void KeepQuotesClean(QLineEdit& Field) {
+// What is cleaned is still what somebody typed.
+void KeepNameClean(QLineEdit& Field) {
     new KeyFilter(&Field, &FixQuoteKey);
+    new NameCount(&Field);
     QObject::connect(&Field, &QLineEdit::editingFinished, &Field, [&Field] {
-        const QString Clean = ConvertQuotes(Field.text());
-        if (Clean != Field.text()) Field.setText(Clean);
+        const QString Clean = CleanName(Field.text());
+        if (Clean == Field.text()) return;
+        const bool Typed = Field.isModified();
+        Field.setText(Clean);
+        Field.setModified(Typed);
     });
+}
+
+void ReturnTo(QLineEdit& Field) {
+    Field.setFocus();
+    Field.selectAll();
 }
 
 }  // namespace neb

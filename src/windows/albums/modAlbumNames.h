@@ -1,5 +1,5 @@
 // The calls that rename and delete albums, and what the windows around names share: what is said of
-// a missing name, and the cleaning of quotes.
+// a missing name, and what a field does in which a name is typed.
 #pragma once
 
 #include <QString>
@@ -19,7 +19,11 @@ bool ShowDeleteAlbum(std::int32_t AlbumID);
 
 // Refused when the name is empty or blank. Adjective is the noun of the name.
 Answer<> CheckName(const QString& Adjective, const QString& Name);
-// Straight quotes become typographic ones when they are typed, and when the field is left.
-void KeepQuotesClean(QLineEdit& Field);
+// For a field in which the name of an album or a show is typed: it grows no longer than it can be
+// kept, straight quotes become typographic ones when they are typed, and when the field is left all
+// of it is as it is kept.
+void KeepNameClean(QLineEdit& Field);
+// The field with a name that was refused, ready to be typed anew.
+void ReturnTo(QLineEdit& Field);
 
 }  // namespace neb

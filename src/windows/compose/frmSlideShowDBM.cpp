@@ -59,7 +59,7 @@ void frmSlideShowDBM::SetUpChoice() {
     for (QComboBox* Box : {mUi->cboAlbum, mUi->cboSlideShows}) ChooseNotByWheel(*Box);
     connect(mUi->cboAlbum, &QComboBox::currentIndexChanged, this, &frmSlideShowDBM::cboAlbum_Click);
     On(mUi->cboSlideShows, &QComboBox::currentIndexChanged, &frmSlideShowDBM::cboSlideShows_Click);
-    KeepQuotesClean(*mUi->txtName);
+    KeepNameClean(*mUi->txtName);
     mUi->splMain->setSizes({ListsRoom, TracksRoom});
     mUi->splMain->setStretchFactor(0, 1);  // the pictures get the room of a larger window
     mUi->splMain->setStretchFactor(1, 0);
@@ -322,7 +322,7 @@ bool frmSlideShowDBM::MayLeave() {
 bool frmSlideShowDBM::SaveShow(ShowContent Show, Cause Who) {
     const Answer<> IsRight = CheckShow(Show, *DBEngine);
     mUi->txtName->setText(Show.Name);
-    if (!Tell(IsRight)) return false;
+    if (!IsRight) return TellRefused(Show, IsRight);
     Answer<Announcement> Written = Write(Show);
     FollowWaiting();
     if (!Tell(Written)) return false;

@@ -108,6 +108,7 @@ class frmSlideShowDBM : public Form, public ChangeReceiver, public AlbumHolder {
     void New();
     void Save() { SaveShow(Content(), Cause::User); }
     bool SaveShow(ShowContent Show, Cause Who);
+    bool TellRefused(const ShowContent& Show, const Answer<>& Why);
     Answer<Announcement> Write(ShowContent& Show);
     void SaveAsNew();
     void Cancel() { ReadShow(); }

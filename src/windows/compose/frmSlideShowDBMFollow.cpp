@@ -5,6 +5,7 @@
 
 #include "albums/BulkSlides.h"
 #include "albums/modLoadShow.h"
+#include "albums/modSaveShow.h"
 #include "controls/forms/Tell.h"
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
@@ -12,6 +13,7 @@
 #include "support/Services.h"
 #include "support/modCharacters.h"
 #include "ui_frmSlideShowDBM.h"
+#include "windows/albums/modAlbumNames.h"
 #include "windows/compose/TwoLists.h"
 #include "windows/compose/frmSlideShowDBM.h"
 #include "windows/compose/modFitAll.h"
@@ -273,6 +275,15 @@ ShowContent frmSlideShowDBM::Content() const {
             .ProgressionMethod = mUi->cboProgressionMethod->currentIndex(),
             .Slides = mLists->Slides(),
             .Tracks = mUi->flxSoundTracks->Tracks()};
+}
+
+// Always false, as nothing is saved. A name that was refused waits to be typed anew.
+bool frmSlideShowDBM::TellRefused(const ShowContent& Show, const Answer<>& Why) {
+    Tell(Why);
+    const clsNEBAlbum* Album = ShownAlbum();
+    const auto OfName = Album ? CheckShowName(*Album, Show.SlideShowID, Show.Name) : Why;
+    if (OfName.Refusal().Text == Why.Refusal().Text && Album) ReturnTo(*mUi->txtName);
+    return false;
 }
 
 void frmSlideShowDBM::ReceiveEvent(const QString& ObjectType, const QString& EventType,

@@ -55,7 +55,7 @@ DirectoryPanel::DirectoryPanel(QWidget* Parent)
     : QWidget(Parent), mUi(std::make_unique<Ui::DirectoryPanel>()) {
     mUi->setupUi(this);
     mUi->Dir1->SetDrives(mUi->Drive1);
-    connect(mUi->Dir1, &DirectoryTree::Change, this, &DirectoryPanel::StartCount);
+    connect(mUi->Dir1, &DirectoryTree::Change, this, &DirectoryPanel::GoneTo);
     connect(mUi->chkRecurseDir, &QCheckBox::clicked, this, &DirectoryPanel::RecurseClicked);
     connect(&mLook, &QTimer::timeout, this, &DirectoryPanel::LookAtCount);
 }
@@ -97,6 +97,11 @@ bool DirectoryPanel::TakeChoice() {
     if (mUi->Dir1->TakeTyped()) return true;
     MsgBox(tr("There is no directory of this name.") + u'\n' + mUi->Dir1->TypedText());
     return false;
+}
+
+void DirectoryPanel::GoneTo() {
+    StartCount();
+    if (mBegun) Q_EMIT DirectoryChosen();
 }
 
 void DirectoryPanel::RecurseClicked() {

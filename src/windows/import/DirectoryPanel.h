@@ -38,7 +38,11 @@ class DirectoryPanel : public QWidget {
     // after a box when there is none of that name.
     bool TakeChoice();
 
+  Q_SIGNALS:
+    void DirectoryChosen();  // the user has gone to another one; Path() has it
+
   private:
+    void GoneTo();
     void RecurseClicked();
     void StartCount();
     void LookAtCount();

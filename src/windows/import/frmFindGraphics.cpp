@@ -3,17 +3,21 @@
 #include <QHeaderView>
 
 #include "albums/GraphicsSearch.h"
+#include "albums/modPictureFiles.h"
 #include "controls/directories/Drives.h"
 #include "controls/fields/ComboBoxList.h"
 #include "controls/fields/Icons.h"
 #include "controls/forms/ScreenPointer.h"
 #include "controls/forms/modTwips.h"
 #include "controls/grid/FlexGrid.h"
+#include "db/clsDBEngine.h"
 #include "settings/SettingKeys.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/ReasonOf.h"
 #include "support/Services.h"
+#include "support/modFUFL.h"
+#include "support/modText.h"
 #include "ui_frmFindGraphics.h"
 #include "windows/frame/modWindowState.h"
 #include "windows/import/frmDirSelect.h"
@@ -24,7 +28,7 @@ namespace {
 const QString AllDrives = QStringLiteral("All Drives");
 const QString Browse = QStringLiteral("Browse");
 const QString Caption = QStringLiteral("Find Graphics");
-const QString Failed = QStringLiteral("Operation Failed");
+const QString NoProgress = QStringLiteral(" ");  // as high as any other line
 constexpr int FilesPerTick = 200;
 constexpr int WaitMs = 10;
 constexpr double YieldMs = 30;
@@ -46,7 +50,7 @@ constexpr int ColCount = static_cast<int>(std::size(Columns));
 constexpr int ColName = 0;
 constexpr int ColPath = 1;
 
-SettingAt WidthOf(int Col) {
+SettingAt WidthSetting(int Col) {
     return {Setting::FindColumn, QString::number(Col)};
 }
 
@@ -68,23 +72,12 @@ QStringList ReadyDrives() {
     return Ready;
 }
 
-void TellFailure(const SearchStep& Step) {
-    const QString Given = u'\'' + Step.Directory + u'\'';
-    if (!Step.IsSub && Step.Error == std::errc::permission_denied) {
-        MsgBox(QStringLiteral("Access Denied to ") + Given, Failed);
-        return;
-    }
-    MsgBox((Step.IsSub ? QStringLiteral("Error Searching Sub Directory ")
-                       : QStringLiteral("Error Searching Directory ")) +
-               Given + u'\n' + Step.Entry + u'\n' + QString::fromStdString(Step.Error.message()),
-           Failed);
-}
-
 }  // namespace
 
 frmFindGraphics::frmFindGraphics() : mUi(std::make_unique<Ui::frmFindGraphics>()) {
     mUi->setupUi(this);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
+    mUi->lblProgress->setText(NoProgress);
     SetUpGrid();
     SetUpButtons();
     On(mUi->cboSearchPath, &QComboBox::activated, &frmFindGraphics::SearchPathChosen);
@@ -113,6 +106,7 @@ void frmFindGraphics::SetUpButtons() {
     mUi->cmdImport->setIcon(ThemeIcon(QStringLiteral("import")));
     On(mUi->cmdSearch, &QPushButton::clicked, &frmFindGraphics::Search);
     On(mUi->cmdImport, &QPushButton::clicked, &frmFindGraphics::Import);
+    On(mUi->flxResults, &FlexGrid::RowActivated, &frmFindGraphics::Import);
     // these two end a search
     connect(mUi->cmdCancel, &QPushButton::clicked, this, &frmFindGraphics::Cancel);
     connect(mUi->cmdClose, &QPushButton::clicked, this, &frmFindGraphics::Unload);
@@ -160,7 +154,7 @@ QStringList frmFindGraphics::ListedDrives() const {
     return Drives;
 }
 
-// A search goes on over the list with which it began.
+// A search keeps the list with which it began.
 void frmFindGraphics::FollowDrives() {
     if (mHunt)
         mHunt->DrivesMoved = true;
@@ -196,7 +190,8 @@ void frmFindGraphics::Search() {
         SearchChosen();
     } catch (const std::exception& Problem) {
         ShowFound();
-        MsgBox(QStringLiteral("Error Searching\n") + ReasonOf(Problem), Failed);
+        MsgBox(QStringLiteral("Error Searching\n") + ReasonOf(Problem),
+               QStringLiteral("Operation Failed"));
     }
     SearchEnded();
 }
@@ -204,24 +199,46 @@ void frmFindGraphics::Search() {
 void frmFindGraphics::SearchChosen() {
     mUi->lblResults->setText(QStringLiteral("0 Results"));
     mUi->lblSelected->setText(QStringLiteral("0 Selected"));
+    mUi->pnlPassedOver->ShowReport({});
+    mUi->flxResults->SetEmptyText(tr("Searching ..."));
     mUi->flxResults->SetRows(0);
     DoEvents();
-    if (mUi->cboSearchPath->currentText() != AllDrives) {
+    if (mUi->cboSearchPath->currentText() == AllDrives)
+        SearchDrives();
+    else
         SearchDirectory(mUi->cboSearchPath->currentText());
-        return;
+}
+
+// A network may hold more than anybody waits for, or not answer at all.
+void frmFindGraphics::SearchDrives() {
+    for (const QString& Drive : ListedDrives()) {
+        if (mHunt->Cancelled) return;
+        if (TheServices().Drives && TheServices().Drives->IsFar(Drive))
+            PassOver(Drive, tr("A network drive is searched only where it is chosen by itself."));
+        else
+            SearchDirectory(Drive);
     }
-    for (const QString& Drive : ListedDrives())
-        if (!SearchDirectory(Drive) || mHunt->Cancelled) return;
 }
 
 void frmFindGraphics::SearchEnded() {
     const Hunt Ended = *std::exchange(mHunt, std::nullopt);
     EnableForSearch(false);
-    mUi->cmdImport->setEnabled(Ended.Results > 0);
-    mUi->lblResults->setText(QString::number(Ended.Results) + QStringLiteral(" Results"));
+    mUi->cmdImport->setEnabled(mUi->flxResults->Rows() > 0);
+    mUi->flxResults->SetEmptyText(WhyEmpty(Ended));
+    mUi->pnlPassedOver->ShowReport(Ended.PassedOver);
+    mUi->lblProgress->setText(NoProgress);
     setWindowTitle(Caption);
     if (IsLoaded() && !focusWidget()) mUi->flxResults->setFocus();
     if (Ended.DrivesMoved) FollowDrives();
+}
+
+QString frmFindGraphics::WhyEmpty(const Hunt& Ended) const {
+    if (Ended.Cancelled) return tr("The search was ended before a picture was found.");
+    const QString Place = WithSeparator(mUi->cboSearchPath->currentText());
+    if (const Answer<> Is = CheckSource(Place, DBEngine->DBPath()); !Is) return Is.Refusal().Text;
+    if (SelectedTypes().isEmpty())
+        return tr("No type of files is chosen.\nChoose at least one, and press Search.");
+    return tr("No pictures were found.\nLook in another place, or for other types or names.");
 }
 
 void frmFindGraphics::Cancel() {
@@ -246,40 +263,37 @@ QStringList frmFindGraphics::SelectedTypes() const {
     return Types;
 }
 
-// False after a box: the whole search ends. What was found stays in the grid and is not counted.
-bool frmFindGraphics::SearchDirectory(const QString& Directory) {
+void frmFindGraphics::SearchDirectory(const QString& Directory) {
     mUi->txtFilter->setText(NormalFilter(mUi->txtFilter->text()));
-    GraphicsSearch Walk(Directory, mUi->txtFilter->text(), SelectedTypes());
-    int Found = 0;
-    bool Ok = true;
-    while (Ok && !mHunt->Cancelled) {
+    GraphicsSearch Walk(Directory, mUi->txtFilter->text(), SelectedTypes(), {},
+                        OwnFolders(DBEngine->DBPath()));
+    mHunt->Place = Directory;
+    while (!mHunt->Cancelled) {
         if (!Walk.Wait(WaitMs)) {
             ShowFound();
             DoEvents();
             continue;
         }
         if (Walk.AtEnd()) break;
-        Ok = TakeStep(Walk.Take(), Found);
+        TakeStep(Walk.Take());
     }
     ShowFound();
-    if (Ok) mHunt->Results += Found;
-    return Ok;
 }
 
-bool frmFindGraphics::TakeStep(const SearchStep& Step, int& Found) {
+void frmFindGraphics::TakeStep(const SearchStep& Step) {
+    mHunt->Place = Step.Directory;
     for (const QStringList& File : Step.Files) {
         mHunt->Waiting.push_back(File);
-        ++Found;
         TickFile();
-        if (mHunt->Cancelled) return true;
+        if (mHunt->Cancelled) return;
     }
-    if (!Step.Error) {
-        TickDirectory();
-        return true;
-    }
-    ShowFound();
-    TellFailure(Step);
-    return false;
+    if (Step.Error) PassOver(Step.Directory, qt_error_string(Step.Error.value()));
+    TickDirectory();
+}
+
+// Told at the end, all at once: on a large disk there are many such folders.
+void frmFindGraphics::PassOver(const QString& Directory, const QString& Reason) {
+    mHunt->PassedOver.Folders << ReadableText(Directory) + QStringLiteral(": ") + Reason;
 }
 
 void frmFindGraphics::TickFile() {
@@ -295,18 +309,27 @@ void frmFindGraphics::TickDirectory() {
 // list is painted anew.
 void frmFindGraphics::ShowProgress() {
     if (TheServices().Time->Ticks() < mHunt->NextYield) return;
-    setWindowTitle(
-        QStringLiteral("Find Graphics - %1 Directories Searched: %2 Graphics Files Found")
-            .arg(mTally.Directories)
-            .arg(mTally.Files));
+    setWindowTitle(Caption + QStringLiteral(" - ") + Counts());
+    const QFontMetrics Metrics = mUi->lblProgress->fontMetrics();
+    const QString Told = Counts() + QStringLiteral("   ");
+    const int Room = mUi->lblProgress->width() - Metrics.horizontalAdvance(Told);
+    mUi->lblProgress->setText(
+        Told + Metrics.elidedText(ReadableText(mHunt->Place), Qt::ElideMiddle, Room));
     ShowFound();
     DoEvents();
     mHunt->NextYield = TheServices().Time->Ticks() + YieldMs;
 }
 
+QString frmFindGraphics::Counts() const {
+    return QStringLiteral("%1 Directories Searched: %2 Graphics Files Found")
+        .arg(mTally.Directories)
+        .arg(mTally.Files);
+}
+
 // Before the user can look at the grid again, what was found is in it.
 void frmFindGraphics::ShowFound() {
     mUi->flxResults->AddItems(std::exchange(mHunt->Waiting, {}));
+    mUi->lblResults->setText(QString::number(mUi->flxResults->Rows()) + QStringLiteral(" Results"));
 }
 
 void frmFindGraphics::ShowSelected() {
@@ -360,7 +383,7 @@ void frmFindGraphics::RestorePlace() {
 void frmFindGraphics::RestoreColumns(const clsSettings& Settings) {
     FlexGrid& Grid = *mUi->flxResults;
     for (int Col = 0; Col < ColCount; ++Col)
-        Grid.setColumnWidth(Col, StoredPixels(Settings, WidthOf(Col), Grid.columnWidth(Col)));
+        Grid.setColumnWidth(Col, StoredPixels(Settings, WidthSetting(Col), Grid.columnWidth(Col)));
 }
 
 void frmFindGraphics::SavePlace() const {
@@ -374,7 +397,7 @@ void frmFindGraphics::SavePlace() const {
         PutPixels(Settings, Setting::FindTop, y());
     }
     for (int Col = 0; Col < ColCount; ++Col)
-        PutPixels(Settings, WidthOf(Col), mUi->flxResults->columnWidth(Col));
+        PutPixels(Settings, WidthSetting(Col), mUi->flxResults->columnWidth(Col));
     SaveMemory(Settings);
 }
 

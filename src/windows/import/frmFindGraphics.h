@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "controls/forms/Form.h"
+#include "windows/import/ReadingReport.h"
 
 QT_BEGIN_NAMESPACE
 class QWidget;
@@ -41,10 +42,11 @@ class frmFindGraphics : public Form {
     // A search that is under way.
     struct Hunt {
         bool Cancelled = false;
-        bool DrivesMoved = false;  // meanwhile
-        int Results = 0;
+        bool DrivesMoved = false;          // meanwhile
+        QString Place;                     // the directory at which it is
         double NextYield = 0;              // ticks of the clock
         std::vector<QStringList> Waiting;  // rows not yet in the grid
+        ReadingReport PassedOver;
     };
     // Over all searches until the window closes.
     struct Tally {
@@ -65,12 +67,16 @@ class frmFindGraphics : public Form {
     void SearchEnded();
     void EnableForSearch(bool Searching);
     QStringList SelectedTypes() const;
-    bool SearchDirectory(const QString& Directory);
-    bool TakeStep(const SearchStep& Step, int& Found);
+    void SearchDrives();
+    void SearchDirectory(const QString& Directory);
+    void TakeStep(const SearchStep& Step);
+    void PassOver(const QString& Directory, const QString& Reason);
     void TickFile();
     void TickDirectory();
     void ShowProgress();
+    QString Counts() const;
     void ShowFound();
+    QString WhyEmpty(const Hunt& Ended) const;
     void ShowSelected();
     void Import();
 

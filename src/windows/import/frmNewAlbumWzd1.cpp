@@ -2,12 +2,16 @@
 
 #include <QTreeView>
 
+#include "albums/transfer/SuggestedName.h"
+#include "controls/forms/Tell.h"
 #include "db/clsDBEngine.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/Services.h"
+#include "support/modCharacters.h"
 #include "support/modDEValidation.h"
 #include "support/modFUFL.h"
+#include "support/modText.h"
 #include "ui_frmNewAlbumWzd1.h"
 #include "windows/albums/modAlbumNames.h"
 #include "windows/import/frmImportFilter.h"
@@ -17,7 +21,9 @@ namespace neb {
 frmNewAlbumWzd1::frmNewAlbumWzd1() : mUi(std::make_unique<Ui::frmNewAlbumWzd1>()) {
     mUi->setupUi(this);
     mUi->lblInitialDir->setBuddy(mUi->pnlDirectory->findChild<QTreeView*>());
-    KeepQuotesClean(*mUi->txtAlbumName);
+    KeepNameClean(*mUi->txtAlbumName);
+    connect(mUi->pnlDirectory, &DirectoryPanel::DirectoryChosen, this,
+            &frmNewAlbumWzd1::ProposeName);
     On(mUi->cmdNext, &QPushButton::clicked, &frmNewAlbumWzd1::Next);
     connect(mUi->cmdCancel, &QPushButton::clicked, this, &frmNewAlbumWzd1::Unload);
 }
@@ -33,27 +39,39 @@ bool frmNewAlbumWzd1::Form_Unload() {
     return true;
 }
 
+// The folder's own name is what most people would type, and for one that is taken a name beside it.
+void frmNewAlbumWzd1::ProposeName() {
+    QLineEdit& Name = *mUi->txtAlbumName;
+    if (!Name.text().isEmpty() && Name.text() != mProposedName) return;
+    QStringList Taken;
+    for (const auto& Album : DBEngine->Albums) Taken << Album->AlbumName;
+    const QString Folder =
+        ReadableText(GetFileName(WithSeparator(mUi->pnlDirectory->Path()).chopped(1)));
+    const QString Start = FirstUnits(CleanName(Folder), MaxName);
+    mProposedName = Start.isEmpty() ? Start : SuggestAlbumName(Start, Taken, false);
+    Name.setText(mProposedName);
+}
+
+// A name that is proposed only now has not been seen yet.
 void frmNewAlbumWzd1::Next() {
+    const bool IsNamed = !mUi->txtAlbumName->text().trimmed().isEmpty();
     if (!mUi->pnlDirectory->TakeChoice()) return;
     mInitialDir = mUi->pnlDirectory->Path();
     mRecurseDir = mUi->pnlDirectory->RecurseDir();
-    if (!HasFreeName() || !HasFreeDirectory()) return;
+    if (!IsNamed) MsgBox(QStringLiteral("You must enter a name for your new album."));
+    if (!IsNamed || !HasFreeName()) return ReturnTo(*mUi->txtAlbumName);
+    if (!HasFreeDirectory()) return mUi->lblInitialDir->buddy()->setFocus();
     Import();
     Unload();
 }
 
 // The name is looked for once, here: no album stands under it before the import has begun.
 bool frmNewAlbumWzd1::HasFreeName() {
-    if (mUi->txtAlbumName->text().trimmed().isEmpty()) {
-        MsgBox(QStringLiteral("You must enter a name for your new album."));
-        mUi->txtAlbumName->setFocus();
-        return false;
-    }
-    mUi->txtAlbumName->setText(ConvertQuotes(mUi->txtAlbumName->text()));
-    if (!DBEngine->FindAlbum(0, mUi->txtAlbumName->text())) return true;
+    const QString Name = CleanName(mUi->txtAlbumName->text());
+    mUi->txtAlbumName->setText(Name);
+    if (!DBEngine->FindAlbum(0, Name)) return Tell(DBEngine->CheckAlbumName(0, Name));
     MsgBox(QStringLiteral("Album Name is already in use."), QStringLiteral("Invalid Album Name"),
            BoxIcon::Critical);
-    mUi->txtAlbumName->setFocus();
     return false;
 }
 

@@ -24,12 +24,14 @@ class frmNewAlbumWzd1 : public Form {
     bool Form_Unload() override;
 
   private:
+    void ProposeName();
     void Next();
     bool HasFreeName();
     bool HasFreeDirectory();
     void Import();
 
     std::unique_ptr<Ui::frmNewAlbumWzd1> mUi;
+    QString mProposedName;  // as it stands in the field as long as nobody types one
     QString mInitialDir;
     bool mRecurseDir = false;
 };

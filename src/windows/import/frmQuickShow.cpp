@@ -34,7 +34,7 @@ frmQuickShow::frmQuickShow() : ImportForm(Memory) {
     mUi->cmdImport->setAccessibleName(tr("Save"));
     mUi->cmdImport->setToolTip(
         QStringLiteral("Create an Album and Slide Show from the Selected Pictures"));
-    KeepQuotesClean(*mUi->txtName);
+    KeepNameClean(*mUi->txtName);
     // Enter saves; on a button that was gone to by keys it presses that one
     for (auto* Each : findChildren<QPushButton*>()) Each->setAutoDefault(true);
 }

@@ -78,8 +78,8 @@ void TransferForm::SetUpNames() {
     Rename(*mUi->cmdDBBrowse, mKind.cmdDBBrowse);
     Rename(*mUi->cmdDBFolder, mKind.cmdDBFolder);
     Rename(*mUi->cmdStart, mKind.cmdStart);
-    KeepQuotesClean(*mUi->txtAlbumName);
-    KeepQuotesClean(*mUi->txtSlideShowName);
+    KeepNameClean(*mUi->txtAlbumName);
+    KeepNameClean(*mUi->txtSlideShowName);
 }
 
 // The directory stands with the side that it belongs to.

@@ -10,6 +10,7 @@
 #include "harness/TempFolder.h"
 #include "support/files/HostNames.h"
 #include "support/files/modHostFiles.h"
+#include "support/files/modHostFilesMounts.h"
 #include "support/modFUFL.h"
 
 namespace neb {
@@ -34,6 +35,28 @@ TEST(Drives, OfferNoMountOfTheSystemsOwn) {
         EXPECT_TRUE(IsUserVolume(QString::fromLatin1(Root))) << Root;
 }
 
+TEST(Drives, AreDisksInPlacesOfTheirOwnToo) {
+    for (const char* Root : {"/data", "/srv/photos", "/homes", "/varied", "/opt/pictures"})
+        EXPECT_TRUE(IsUserDisk({QString::fromLatin1(Root), u"ext4"_s})) << Root;
+    for (const char* Root : {"/", "/home", "/home/bert", "/boot/efi", "/var/lib/x", "/etc/hosts",
+                             "/usr", "/tmp", "/snap/core/1", "/run/user/1000"})
+        EXPECT_FALSE(IsUserDisk({QString::fromLatin1(Root), u"ext4"_s})) << Root;
+    for (const char* Kind : {"vfat", "exfat", "ntfs3", "fuseblk", "btrfs", "iso9660"})
+        EXPECT_TRUE(IsUserDisk({u"/data"_s, QString::fromLatin1(Kind)})) << Kind;
+    for (const char* Kind : {"proc", "sysfs", "tmpfs", "overlay", "squashfs", "cgroup2", "nfs4",
+                             "cifs", "fuse.sshfs", "devtmpfs", "fuse.portal"})
+        EXPECT_FALSE(IsUserDisk({u"/data"_s, QString::fromLatin1(Kind)})) << Kind;
+}
+
+TEST(Drives, AreFarOnANetwork) {
+    for (const char* Kind : {"nfs", "nfs4", "cifs", "smb3", "fuse.sshfs"})
+        EXPECT_TRUE(IsNetwork({u"/mnt/nas"_s, QString::fromLatin1(Kind)})) << Kind;
+    for (const char* Kind : {"ext4", "vfat", "fuseblk", "tmpfs"})
+        EXPECT_FALSE(IsNetwork({u"/mnt/nas"_s, QString::fromLatin1(Kind)})) << Kind;
+    EXPECT_FALSE(
+        DesktopDrives().IsFar(QStandardPaths::writableLocation(QStandardPaths::HomeLocation)));
+}
+
 TEST(Drives, StandInNoOtherDriveSoThatNothingIsFoundTwice) {
     EXPECT_EQ(OutermostPaths({"/home/anna", "/media/a", "/media/a/b", "/home/anna", "/media/ab"}),
               QStringList({"/home/anna", "/media/a", "/media/ab"}));
@@ -49,8 +72,11 @@ TEST(Drives, AreReadyOnlyWhileTheyCanBeRead) {
 }
 
 TEST(Drives, AreVolumesOfTheUserAlone) {
+    const std::vector<Mount> All = Mounts();
     for (const Volume& Each : DesktopDrives().Volumes()) {
-        EXPECT_TRUE(IsUserVolume(Each.Root)) << Each.Root.toStdString();
+        const bool IsDisk = std::ranges::any_of(
+            All, [&](const Mount& Of) { return Of.Path == Each.Root && IsUserDisk(Of); });
+        EXPECT_TRUE(IsUserVolume(Each.Root) || IsDisk) << Each.Root.toStdString();
         EXPECT_FALSE(Each.Name.isEmpty());
     }
 }

@@ -114,6 +114,18 @@ TEST_F(Boxes, DetailsOpenAtAButtonAndChangeNoAnswer) {
               Answer(Request, [](QMessageBox& Box) { QTest::keyClick(&Box, Qt::Key_Escape); }));
 }
 
+TEST_F(Boxes, DetailsOfAMessageAreOpenAtOnce) {
+    BoxRequest Request{.Text = QStringLiteral("1 folder could not be opened."),
+                       .Details = QStringLiteral("/media/stick/locked")};
+    const auto Given = Answer(Request, [&](QMessageBox& Box) {
+        const auto* Details = Box.findChild<QTextEdit*>();
+        ASSERT_NE(nullptr, Details);
+        EXPECT_TRUE(Details->isVisible());
+        QTest::keyClick(&Box, Qt::Key_Return);
+    });
+    EXPECT_EQ(BoxAnswer::Ok, Given);
+}
+
 TEST_F(Boxes, AMessageThatIsTooLongScrollsInAWindow) {
     for (const QString& Long : {QStringLiteral("A line.\n").repeated(30).trimmed(),
                                 QStringLiteral("word ").repeated(600).trimmed()}) {

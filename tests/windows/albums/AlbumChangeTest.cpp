@@ -33,13 +33,12 @@ TEST_F(AlbumChange, ImportWindowsFollowTheNameOfTheirAlbum) {
     for (const auto& Window : {First, Second, Stranger}) Window->Unload();
 }
 
-// Told of a change that was refused, a window shows what is so.
 TEST_F(AlbumChange, AnImportWindowKeepsItsNameWhenTheNewOneIsRefused) {
     const std::int32_t AlbumID = MakeAlbum(u"Garden"_s);
     MakeAlbum(u"Lake"_s);
     const auto Window = ShowFilter(AlbumID, {});
     Boxes.Expect(u"An Album with this name already exists."_s);
-    RenameIt(AlbumID, u"Lake"_s);
+    EXPECT_FALSE(Rename(AlbumID, [](frmAlbumRename& Asked) { RenameTo(Asked, u"Lake"_s); }));
     EXPECT_EQ("Picture Import Filter - Garden", Window->windowTitle().toStdString());
     Window->Unload();
 }

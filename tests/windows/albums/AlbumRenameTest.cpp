@@ -1,5 +1,6 @@
 // Renaming an album: the checks in their order, the engine's refusals, odd names, the keyboard.
 #include "AlbumHarness.h"
+#include "db/Changes.h"
 #include "harness/AwaitActive.h"
 
 namespace neb {
@@ -18,7 +19,6 @@ TEST_F(AlbumRename, GivesTheChosenAlbumItsNewNameAndTellsTheOthers) {
     WriteFile(SlidesFolder(Db.Path(), AlbumID) + u"00000001.jpg"_s, Kept);
     EXPECT_TRUE(Rename(AlbumID, [](frmAlbumRename& Window) {
         EXPECT_EQ("Garden", Chosen(Window));
-        EXPECT_EQ("", In<QLineEdit>(Window, "txtAlbumName").text().toStdString());
         RenameTo(Window, u"Orchard"_s);
         EXPECT_FALSE(Window.IsLoaded());
     }));
@@ -92,26 +92,86 @@ TEST_F(AlbumRename, RefusesANameOfBlanks) {
     EXPECT_EQ("", Heard());
 }
 
-// The window does not look at what the engine answers.
-TEST_F(AlbumRename, ANameInUseIsRefusedByTheEngineAndTheWindowGoesOn) {
+TEST_F(AlbumRename, BeginsWithTheOldNameAllOfItSelected) {
+    const std::int32_t AlbumID = MakeAlbum(u"Garden"_s);
+    MakeAlbum(u"Orchard"_s);
+    EXPECT_TRUE(Rename(AlbumID, [](frmAlbumRename& Window) {
+        ASSERT_TRUE(neb::harness::AwaitActive(Window));
+        auto& Field = In<QLineEdit>(Window, "txtAlbumName");
+        EXPECT_EQ(&Field, Window.focusWidget());
+        EXPECT_EQ("Garden", Field.selectedText().toStdString());
+        QTest::keyClick(&Field, Qt::Key_End);
+        QTest::keyClicks(&Field, u" 2"_s);
+        Key(Window, Qt::Key_Return);
+    }));
+    EXPECT_EQ("Garden 2", NameOf(AlbumID));
+}
+
+TEST_F(AlbumRename, ShowsTheNameOfTheAlbumThatIsChosenUntilOneIsTyped) {
+    MakeAlbum(u"Apples"_s);
+    MakeAlbum(u"Pears"_s);
+    Rename(0, [](frmAlbumRename& Window) {
+        ASSERT_TRUE(neb::harness::AwaitActive(Window));
+        auto& Field = In<QLineEdit>(Window, "txtAlbumName");
+        auto& Albums = In<QComboBox>(Window, "cboAlbum");
+        EXPECT_EQ("", Field.text().toStdString());
+        QTest::keyClick(&Albums, Qt::Key_Down);
+        EXPECT_EQ("Apples", Field.text().toStdString());
+        QTest::keyClick(&Albums, Qt::Key_Down);
+        EXPECT_EQ("Pears", Field.text().toStdString());
+        EXPECT_EQ("Pears", Field.selectedText().toStdString());
+        Field.setFocus();
+        QTest::keyClicks(&Field, u"it's"_s);
+        Albums.setFocus();
+        EXPECT_EQ(u"it’s"_s, Field.text());
+        QTest::keyClick(&Albums, Qt::Key_Up);
+        EXPECT_EQ(u"it’s"_s, Field.text());
+    });
+}
+
+TEST_F(AlbumRename, FollowsANewNameThatTheAlbumGetsElsewhere) {
+    const std::int32_t AlbumID = MakeAlbum(u"Garden"_s);
+    Rename(AlbumID, [&](frmAlbumRename& Window) {
+        auto Renamed = Changes(Engine).RenameAlbum(AlbumID, u"Yard"_s);
+        Renamed->Now();
+        EXPECT_EQ("Yard", In<QLineEdit>(Window, "txtAlbumName").text().toStdString());
+    });
+}
+
+TEST_F(AlbumRename, ANameInUseIsRefusedAndTheWindowWaitsForAnother) {
     const std::int32_t AlbumID = MakeAlbum(u"Garden"_s);
     MakeAlbum(u"Orchard"_s);
     Boxes.Expect(u"An Album with this name already exists."_s);
-    EXPECT_TRUE(Rename(AlbumID, [](frmAlbumRename& Window) {
+    EXPECT_TRUE(Rename(AlbumID, [this](frmAlbumRename& Window) {
+        ASSERT_TRUE(neb::harness::AwaitActive(Window));
         RenameTo(Window, u"Orchard"_s);
+        EXPECT_TRUE(Window.IsLoaded());
+        auto& Field = In<QLineEdit>(Window, "txtAlbumName");
+        EXPECT_EQ(&Field, Window.focusWidget());
+        EXPECT_EQ("Orchard", Field.selectedText().toStdString());
+        EXPECT_EQ("", Heard());
+        QTest::keyClicks(&Field, u"Yard"_s);
+        Key(Window, Qt::Key_Return);
         EXPECT_FALSE(Window.IsLoaded());
     }));
-    EXPECT_EQ("Garden", NameOf(AlbumID));
+    EXPECT_EQ("Yard", NameOf(AlbumID));
     EXPECT_EQ(2u, Engine.Albums.size());
     EXPECT_EQ("Album Update 1", Heard());
 }
 
-TEST_F(AlbumRename, ANameThatIsTooLongIsRefusedByTheEngine) {
+TEST_F(AlbumRename, ANameGrowsNoLongerThanItCanBeKept) {
     const std::int32_t AlbumID = MakeAlbum(u"Garden"_s);
     Boxes.Expect(u"Album names must be <= 80 characters long."_s);
     Rename(AlbumID, [](frmAlbumRename& Window) { RenameTo(Window, QString(81, u'n')); });
     EXPECT_EQ("Garden", NameOf(AlbumID));
-    Rename(AlbumID, [](frmAlbumRename& Window) { RenameTo(Window, QString(80, u'n')); });
+    Rename(AlbumID, [](frmAlbumRename& Window) {
+        ASSERT_TRUE(neb::harness::AwaitActive(Window));
+        auto& Field = In<QLineEdit>(Window, "txtAlbumName");
+        QTest::keyClicks(&Field, QString(82, u'n'));
+        EXPECT_EQ(80, Field.text().size());
+        EXPECT_EQ("80 of 80", In<QLabel>(Field, "lblNameCount").text().toStdString());
+        Press(Window, "cmdSave");
+    });
     EXPECT_EQ(std::string(80, 'n'), NameOf(AlbumID));
 }
 
@@ -121,6 +181,7 @@ TEST_F(AlbumRename, QuotesBecomeTypographicWhenTypedAndWhenPasted) {
         Window.activateWindow();
         ASSERT_TRUE(neb::harness::AwaitActive(Window));
         auto& Field = In<QLineEdit>(Window, "txtAlbumName");
+        Field.clear();
         QTest::keyClicks(&Field, u"Mary's"_s);
         EXPECT_EQ(u"Mary’s"_s.toStdString(), Field.text().toStdString());
         Field.setText(u"\"Mary's\""_s);

@@ -150,6 +150,47 @@ TEST_F(GetObjectName, WorksByTheKeyboardAlone) {
               }));
 }
 
+TEST_F(GetObjectName, StaysOpenUntilWhoeverAsksAgreesWithTheName) {
+    Window = NewForm<frmGetObjectName>();
+    Window->SetAdjective(u"Slide Show"_s);
+    Boxes.Expect(u"There is one."_s);
+    QStringList Asked;
+    WhenOpen<frmGetObjectName>([](frmGetObjectName& Shown) {
+        const auto Held = Shown.shared_from_this();
+        ASSERT_TRUE(neb::harness::AwaitActive(Shown));
+        QTest::keyClicks(Shown.focusWidget(), u"Winter"_s);
+        Key(Shown, Qt::Key_Return);
+        ASSERT_TRUE(Shown.IsLoaded());
+        EXPECT_EQ(&Field(Shown), Shown.focusWidget());
+        EXPECT_EQ("Winter", Field(Shown).selectedText().toStdString());
+        Field(Shown).insert(u"Café 'e\u0301' 花"_s);  // as pasted
+        Key(Shown, Qt::Key_Return);
+        EXPECT_FALSE(Shown.IsLoaded());
+        Shown.Unload();
+    });
+    const QString Given = Window->GetObjectName(u"Summer"_s, [&](const QString& Name) {
+        Asked << Name;
+        return Name == u"Winter" ? Answer<>(Refuse(u"There is one."_s)) : Done();
+    });
+    EXPECT_EQ(u"Café ‘\u00e9’ 花"_s, Given);
+    EXPECT_EQ(QStringList({u"Winter"_s, Given}), Asked);
+}
+
+TEST_F(GetObjectName, ANameGrowsNoLongerThanItCanBeKept) {
+    const std::string Answer = Ask(u"Album"_s, {}, [](frmGetObjectName& Shown) {
+        QTest::keyClicks(&Field(Shown), QString(82, u'n'));
+        EXPECT_EQ("Enter the Album Name.", [&] {
+            const QString Typed = Field(Shown).text();
+            Field(Shown).clear();
+            const std::string Tip = Field(Shown).toolTip().toStdString();
+            Field(Shown).setText(Typed);
+            return Tip;
+        }());
+        Press(Shown, "cmdSave");
+    });
+    EXPECT_EQ(std::string(80, 'n'), Answer);
+}
+
 TEST_F(GetObjectName, TakesTheNameAsItWasTyped) {
     EXPECT_EQ(" Garden ",
               Ask(u"Album"_s, {}, [](frmGetObjectName& Shown) { Enter(Shown, u" Garden "_s); }));

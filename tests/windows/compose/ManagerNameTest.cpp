@@ -1,5 +1,6 @@
 // The name field of the slide show manager keeps no straight quote that somebody has entered.
 #include "ManagerRig.h"
+#include "controls/fields/ToolBar.h"
 
 namespace neb {
 namespace {
@@ -25,6 +26,45 @@ TEST_F(ManagerName, IsCleanedWhenTheFieldIsLeft) {
     EXPECT_EQ(u"Mary’s “lake”"_s.toStdString(), Text());
     SaveWell();
     EXPECT_EQ(u"Mary’s “lake”"_s, Album().SlideShows[0]->SlideShowName);
+}
+
+TEST_F(ManagerName, GrowsNoLongerThanItCanBeKept) {
+    OpenGarden();
+    Name().setFocus();
+    Name().selectAll();
+    QTest::keyClicks(&Name(), QString(82, u'n'));
+    EXPECT_EQ(std::string(80, 'n'), Text());
+    SaveWell();
+    EXPECT_EQ(QString(80, u'n'), Album().SlideShows[0]->SlideShowName);
+}
+
+TEST_F(ManagerName, WaitsToBeTypedAnewWhereItIsInUse) {
+    AddShow(u"Winter"_s, {});
+    OpenGarden();
+    Name().setFocus();
+    Name().selectAll();
+    QTest::keyClicks(&Name(), u"winter"_s);
+    Boxes.Expect(u"A Slide Show with this name already exists in this Album."_s,
+                 u"Slide Show Name Already In Use"_s);
+    Push("cmdSave");
+    EXPECT_TRUE(Name().hasFocus());
+    EXPECT_EQ("winter", Name().selectedText().toStdString());
+    QTest::keyClicks(&Name(), u"Spring"_s);
+    SaveWell();
+    EXPECT_EQ(u"Spring"_s, Album().SlideShows[1]->SlideShowName);
+}
+
+TEST_F(ManagerName, WaitsToBeTypedAnewWhereSaveAsNewFindsItInUse) {
+    OpenGarden();
+    Boxes.Expect(u"A Slide Show with this name already exists in this Album."_s,
+                 u"Slide Show Name Already In Use"_s);
+    In<ToolBar>(*W, "abrMenu").Tool(u"mnuSlideShowSaveAs"_s)->trigger();
+    EXPECT_TRUE(Name().hasFocus());
+    EXPECT_EQ("Walk", Name().selectedText().toStdString());
+    QTest::keyClicks(&Name(), u"Run"_s);
+    Boxes.Expect(u"Slide Show Saved Successfully."_s);
+    In<ToolBar>(*W, "abrMenu").Tool(u"mnuSlideShowSaveAs"_s)->trigger();
+    EXPECT_EQ("<NEW SLIDE SHOW>|Run|Walk", Entries("cboSlideShows"));
 }
 
 TEST_F(ManagerName, TakesTypographicQuotesWhileItIsTyped) {

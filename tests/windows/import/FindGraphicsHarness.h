@@ -23,6 +23,7 @@ class ScriptedDrives : public DriveList {
     ~ScriptedDrives() override { TheServices().Drives = nullptr; }
     QStringList Drives() const override { return Paths; }
     bool IsReady(const QString& Drive) const override { return FolderExists(Drive); }
+    bool IsFar(const QString& Drive) const override { return Drive == Far; }
     std::vector<Volume> Volumes() const override { return Sticks; }
     void Watch(QObject& Owner, std::function<void()> Changed) const override {
         mWatchers.emplace_back(&Owner, std::move(Changed));
@@ -32,6 +33,7 @@ class ScriptedDrives : public DriveList {
             if (Owner) Changed();
     }
     QStringList Paths;
+    QString Far;
     std::vector<Volume> Sticks;
 
   private:

@@ -4,6 +4,7 @@
 
 #include "FindGraphicsHarness.h"
 #include "controls/fields/ToolBar.h"
+#include "harness/WithoutPrivileges.h"
 #include "windows/import/frmQuickShow.h"
 
 namespace neb {
@@ -60,6 +61,36 @@ TEST_F(FindGraphicsImport, EntersTheFoundPicturesInTheAlbum) {
     Press(*Filter, "cmdImport");
     EXPECT_EQ(1U, Engine.GetAlbum(AlbumID)->Slides.size());
     EXPECT_FALSE(Filter->IsLoaded());
+}
+
+// Ended by hand, and with a directory on the way that may not be read.
+TEST_F(FindGraphicsImport, BringsInWhatASearchHasFoundThatDidNotComeToItsEnd) {
+    MakePicture(Pics / u"z/last.jpg"_s, 40, 30);
+    MakeDirs(Pics / u"locked"_s);
+    Lock(u"locked"_s);
+    const auto Filter = ShowFilter(MakeAlbum(u"Garden"_s), {});
+    WhenOpen<frmFindGraphics>([](frmFindGraphics& Finder) {
+        SetDoEventsHook([&Finder, Done = false]() mutable {
+            if (Done || In<FlexGrid>(Finder, "flxResults").Rows() < 2) return;
+            Done = true;
+            Press(Finder, "cmdCancel");
+        });
+        {
+            const WithoutPrivileges User;
+            Press(Finder, "cmdSearch");
+        }
+        SetDoEventsHook({});
+        EXPECT_EQ("2 Results", In<QLabel>(Finder, "lblResults").text().toStdString());
+        EXPECT_EQ("1 folder was passed over.",
+                  In<QLabel>(Finder, "lblPassedOver").text().toStdString());
+        ImportAll(Finder);
+    });
+    In<ToolBar>(*Filter, "abrMenu").Tool(u"mnuFindGraphics"_s)->trigger();
+    EXPECT_EQ("b,c", CaptionsOf(NonSelected(*Filter)));
+    Press(*Filter, "cmdMoveRightAll");
+    Boxes.Expect(u"2 slides successfully imported."_s);
+    Press(*Filter, "cmdImport");
+    EXPECT_EQ(2U, Engine.Albums[0]->Slides.size());
 }
 
 TEST_F(FindGraphicsImport, AsksFirstWhetherTheRemainingOnesGo) {

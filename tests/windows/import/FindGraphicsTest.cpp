@@ -9,6 +9,7 @@
 #include "albums/GraphicsSearch.h"
 #include "harness/WithoutExtraFormats.h"
 #include "harness/WithoutPrivileges.h"
+#include "support/files/HostNames.h"
 
 namespace neb {
 namespace {
@@ -244,37 +245,149 @@ TEST_F(FindGraphics, MayBeClosedDuringTheSearch) {
     EXPECT_EQ(4, Grid().Rows()) << "the search ends with it";
 }
 
-TEST_F(FindGraphics, TellsOfADriveThatMayNotBeReadAndEnds) {
+TEST_F(FindGraphics, GoesOnPastADriveThatMayNotBeReadAndNamesItAtTheEnd) {
     Make({"one/a.jpg", "two/b.jpg", "three/c.jpg"});
     Drives.Paths = {Pics / u"one"_s, Pics / u"two"_s, Pics / u"three"_s};
     Show();
     Lock(u"two"_s);
-    Boxes.Expect(u"Access Denied to '"_s + Pics / u"two"_s + u'\'', u"Operation Failed"_s);
     {
         const WithoutPrivileges User;
         Search();
     }
-    EXPECT_EQ("a.jpg", Names());
-    EXPECT_EQ("1 Results", Label("lblResults"));
-    EXPECT_TRUE(Button("cmdImport").isEnabled());
+    EXPECT_EQ("a.jpg,c.jpg", Names());
+    EXPECT_EQ("2 Results", Label("lblResults"));
+    EXPECT_EQ("1 folder was passed over.", Label("lblPassedOver"));
+    Boxes.Expect(u"1 folder could not be opened."_s);
+    Press(*Window, "cmdPassedOver");
+    EXPECT_EQ(u"These folders could not be opened:\n"_s + Pics / u"two: Permission denied"_s,
+              Boxes.Last().Details);
 }
 
-TEST_F(FindGraphics, TellsOfADirectoryBelowAndKeepsTheRowsUncounted) {
-    Make({"a.jpg", "locked/b.jpg", "z/c.jpg"});
+TEST_F(FindGraphics, GoesOnPastDirectoriesBelowAndNamesThemInALine) {
+    Make({"a.jpg", "locked/b.jpg", "n/locked/c.jpg", "z/d.jpg"});
     Show();
     Lock(u"locked"_s);
-    Boxes.Expect(
-        u"Error Searching Sub Directory '"_s + Pics / u"locked"_s + u"'\n\nPermission denied"_s,
-        u"Operation Failed"_s);
-    Boxes.WhileNextIsOpen([&] { EXPECT_EQ("a.jpg", Names()); });
+    Lock(u"n/locked"_s);
     {
         const WithoutPrivileges User;
         Search();
     }
-    EXPECT_EQ("a.jpg", Names());
-    EXPECT_EQ("0 Results", Label("lblResults"));
-    EXPECT_FALSE(Button("cmdImport").isEnabled());
+    EXPECT_EQ("a.jpg,d.jpg", Names());
+    EXPECT_EQ("2 Results", Label("lblResults"));
+    EXPECT_TRUE(Button("cmdImport").isEnabled());
     EXPECT_TRUE(Button("cmdSearch").isEnabled());
+    EXPECT_EQ("2 folders were passed over.", Label("lblPassedOver"));
+    EXPECT_TRUE(In<QLabel>(*Window, "lblPassedOver").isVisible());
+    Search();  // by the administrator
+    EXPECT_FALSE(In<QLabel>(*Window, "lblPassedOver").isVisible());
+    EXPECT_EQ("a.jpg,b.jpg,c.jpg,d.jpg", Names());
+}
+
+TEST_F(FindGraphics, LeavesTheProgramsOwnAlbumsOut) {
+    WriteFile(Pics / u"a.jpg"_s, "x");
+    for (const auto& Folder : {u"Albums/1/Slides"_s, u"Backups"_s, u"Temp"_s}) {
+        MakeDirs(Db / Folder);
+        WriteFile(Db / Folder + u"/b.jpg"_s, "x");
+    }
+    MakePicture(Db / u"mine.jpg"_s);
+    Drives.Paths = {Pics.Path(), Db.Path()};
+    Show();
+    Search();
+    EXPECT_EQ("a.jpg,mine.jpg", Names());
+}
+
+TEST_F(FindGraphics, LeavesANetworkOutOfAllDrivesAndSearchesItByItself) {
+    Make({"one/a.jpg", "nas/b.jpg"});
+    Drives.Paths = {Pics / u"one"_s, Pics / u"nas"_s};
+    Drives.Far = Pics / u"nas"_s;
+    Show();
+    Search();
+    EXPECT_EQ("a.jpg", Names());
+    Boxes.Expect(u"1 folder could not be opened."_s);
+    Press(*Window, "cmdPassedOver");
+    EXPECT_TRUE(Boxes.Last().Details.contains(Pics / u"nas: A network drive"_s));
+    Path().setCurrentIndex(1);
+    Search();
+    EXPECT_EQ("b.jpg", Names());
+    EXPECT_FALSE(In<QLabel>(*Window, "lblPassedOver").isVisible());
+}
+
+TEST_F(FindGraphics, SaysWhyTheListIsEmpty) {
+    Make({"a.txt"});
+    Show();
+    EXPECT_TRUE(Grid().EmptyText().startsWith(u"Choose where to look"));
+    SetDoEventsHook([&] { EXPECT_EQ("Searching ...", Grid().EmptyText().toStdString()); });
+    Search();
+    SetDoEventsHook({});
+    EXPECT_TRUE(Grid().EmptyText().startsWith(u"No pictures were found."));
+    In<QListWidget>(*Window, "lstTypeFilter").clearSelection();
+    Search();
+    EXPECT_TRUE(Grid().EmptyText().startsWith(u"No type of files is chosen."));
+    MakePicture(Db / u"Albums/1/Slides/b.jpg"_s);
+    Browse(Db / u"Albums/1"_s);
+    Search();
+    EXPECT_EQ("", Names());
+    EXPECT_EQ("This directory is reserved for Albums.  You cannot import from it.",
+              Grid().EmptyText().toStdString());
+}
+
+TEST_F(FindGraphics, TellsHowFarItIsWithinTheWindowToo) {
+    MakeMany(20);
+    Show();
+    Window->resize(430, 400);
+    AtDirectory(10, [&] {
+        const QString Told = In<QLabel>(*Window, "lblProgress").text();
+        EXPECT_TRUE(Told.startsWith(u"10 Directories Searched: 9 Graphics Files Found"));
+        EXPECT_EQ("9 Results", Label("lblResults"));
+        EXPECT_LE(Window->width(), 440) << "a long path makes the window no wider";
+    });
+    Search();
+    EXPECT_EQ(" ", Label("lblProgress"));
+}
+
+TEST_F(FindGraphics, ShowsNamesThatAreNoTextAsLettersAndHandsThemBackAsTheyAre) {
+    const QByteArray Name = HostBytes(Pics.Path()) + "Gru\xdf.jpg";
+    ASSERT_EQ(0, mknod(Name.constData(), S_IFREG | 0644, 0));
+    Show();
+    Search();
+    ASSERT_EQ(1, Grid().Rows());
+    EXPECT_EQ(u"Gruß.jpg", Grid().model()->index(0, 0).data().toString());
+    EXPECT_EQ(u"Gruß.jpg", Grid().model()->index(0, 0).data(Qt::AccessibleTextRole).toString());
+    Grid().selectAll();
+    Press(*Window, "cmdImport");
+    EXPECT_EQ(Name, HostBytes(Window->Files(1)));
+    remove(Name.constData());  // Qt cannot address it
+}
+
+TEST_F(FindGraphics, ImportsTheSelectedRowsByEnterAmongThem) {
+    Make({"a.jpg", "b.jpg"});
+    Show();
+    Search();
+    Grid().setFocus();
+    QTest::keyClick(&Grid(), Qt::Key_Home);
+    QTest::keyClick(&Grid(), Qt::Key_Return);
+    EXPECT_FALSE(Window->IsLoaded());
+    ASSERT_EQ(1, Window->FileCnt());
+    EXPECT_EQ(Pics / u"a.jpg"_s, Window->Files(1));
+}
+
+TEST_F(FindGraphics, KeepsTheTypesChosenWhenEnterIsPressedAmongThem) {
+    Make({"a.jpg", "b.png"});
+    Show();
+    auto& Types = In<QListWidget>(*Window, "lstTypeFilter");
+    Types.setFocus();
+    Types.clearSelection();
+    QTest::mouseClick(Types.viewport(), Qt::LeftButton, {},
+                      Types.visualItemRect(Types.item(2)).center());
+    ASSERT_EQ(1, Types.selectedItems().size());
+    for (int Time = 0; Time < 2; ++Time) {
+        Types.setFocus();
+        QTest::keyClick(&Types, Time == 0 ? Qt::Key_Return : Qt::Key_Enter);
+        EXPECT_TRUE(Window->IsLoaded());
+        ASSERT_EQ(1, Types.selectedItems().size());
+        EXPECT_EQ(Types.item(2), Types.selectedItems()[0]);
+        EXPECT_EQ("a.jpg", Names()) << "Enter searches, as it does in the other fields";
+    }
 }
 
 TEST_F(FindGraphics, PassesOverADriveThatHasGone) {

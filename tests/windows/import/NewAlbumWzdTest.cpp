@@ -38,6 +38,7 @@ class NewAlbumWzd : public Intake {
     // Types a name, goes on, and lets Do work in the import window that then opens.
     void Import(const QString& AlbumName, std::function<void(frmImportFilter&)> Do) {
         Ask([&](frmNewAlbumWzd1& Shown) {
+            Name(Shown).selectAll();
             QTest::keyClicks(&Name(Shown), AlbumName);
             WhenOpen<frmImportFilter>(Do);
             Press(Shown, "cmdNext");
@@ -47,12 +48,16 @@ class NewAlbumWzd : public Intake {
     // What the wizard says instead of going on; it stays open.
     void Refuses(const QString& AlbumName, const QString& Directory) {
         Ask([&](frmNewAlbumWzd1& Shown) {
-            Name(Shown).setText(AlbumName);
             Dir1(Shown).SetPath(Directory);
+            Name(Shown).setText(AlbumName);
             const int Before = Boxes.ShownCount();
             Press(Shown, "cmdNext");
             EXPECT_EQ(Before + 1, Boxes.ShownCount());
             EXPECT_TRUE(Shown.IsLoaded());
+            const bool OfName = AlbumName.trimmed().isEmpty() || Directory == Folder();
+            EXPECT_EQ(OfName ? Name(Shown).text() : QString(), Name(Shown).selectedText());
+            const QWidget* Tree = Dir1(Shown).findChild<QTreeView*>();
+            EXPECT_EQ(OfName ? &Name(Shown) : Tree, Shown.focusWidget());
             Shown.close();
         });
         EXPECT_EQ(nullptr, Open<frmImportFilter>());
@@ -232,6 +237,47 @@ TEST_F(NewAlbumWzd, AsksForTheNameBeforeItLooksAtTheDirectory) {
     Refuses({}, Db.Path());
 }
 
+TEST_F(NewAlbumWzd, ProposesTheNameOfTheDirectoryUntilOneIsTyped) {
+    MakeDirs(Pics / u"Lake's"_s);
+    MakeDirs(Pics / u"Rome"_s);
+    MakeDirs(Pics / QString(100, u'n'));
+    MakeAlbum(u"ROME"_s);
+    WriteLastDirectory(Pics / u"sub"_s);
+    WhenOpen<frmNewAlbumWzd1>([this](frmNewAlbumWzd1& Shown) {
+        EXPECT_EQ("", Name(Shown).text().toStdString()) << "nothing has been chosen yet";
+        const auto Proposed = [&](const QString& Directory) {
+            Dir1(Shown).SetPath(Pics / Directory);
+            return Name(Shown).text();
+        };
+        EXPECT_EQ(u"Lake’s"_s, Proposed(u"Lake's"_s));
+        EXPECT_EQ(u"Rome 2"_s, Proposed(u"Rome"_s)) << "there is an album of that name";
+        EXPECT_EQ(QString(80, u'n'), Proposed(QString(100, u'n')));
+        Dir1(Shown).SetPath(u"/"_s);
+        EXPECT_EQ("", Name(Shown).text().toStdString());
+        Activate(Shown);
+        QTest::keyClicks(&Name(Shown), u"Mine"_s);
+        EXPECT_EQ(u"Mine"_s, Proposed(u"Rome"_s));
+        Shown.close();
+    });
+    NewForm<frmNewAlbumWzd1>()->ShowModal();
+}
+
+TEST_F(NewAlbumWzd, GoesOnWithNoNameThatNobodyHasSeen) {
+    Boxes.Expect(u"You must enter a name for your new album."_s);
+    Ask([&](frmNewAlbumWzd1& Shown) {
+        Name(Shown).clear();
+        Dir1(Shown).findChild<QLineEdit*>()->setText(Pics / u"sub"_s);
+        Press(Shown, "cmdNext");
+        ASSERT_TRUE(Shown.IsLoaded());
+        EXPECT_EQ("sub", Name(Shown).selectedText().toStdString());
+        WhenOpen<frmImportFilter>([](frmImportFilter& Filter) {
+            EXPECT_EQ("Picture Import Filter - sub", Filter.windowTitle().toStdString());
+            Filter.close();
+        });
+        Press(Shown, "cmdNext");
+    });
+}
+
 TEST_F(NewAlbumWzd, GoesNowhereWithADirectoryThatDoesNotExist) {
     Boxes.Expect(u"There is no directory of this name.\n/no/such/place"_s);
     Ask([&](frmNewAlbumWzd1& Shown) {
@@ -246,6 +292,7 @@ TEST_F(NewAlbumWzd, GoesNowhereWithADirectoryThatDoesNotExist) {
 TEST_F(NewAlbumWzd, CleansTheNameWhileItIsTypedAndWhenItIsPasted) {
     Ask([&](frmNewAlbumWzd1& Shown) {
         Activate(Shown);
+        Name(Shown).clear();
         QTest::keyClicks(&Name(Shown), u"\"a\" 'b'"_s);
         EXPECT_EQ(u"\u201ca\u201d \u2018b\u2019"_s, Name(Shown).text());
         Name(Shown).setText(u"it's"_s);
@@ -274,6 +321,7 @@ TEST_F(NewAlbumWzd, IsWorkedWithTheKeyboardAlone) {
     Ask([&](frmNewAlbumWzd1& Shown) {
         Activate(Shown);
         EXPECT_EQ(&Name(Shown), Shown.focusWidget()) << "the name comes first";
+        Name(Shown).selectAll();
         QTest::keyClicks(Shown.focusWidget(), u"Rose"_s);
         QSet<QWidget*> Reached;
         for (int I = 0; I < 8; ++I) {

@@ -35,6 +35,16 @@ TEST_F(AlbumExport, OpensWithTheFirstAlbumAndNoDestination) {
     EXPECT_NE("", HintIn(*W));
 }
 
+TEST_F(AlbumExport, TakesNoNameThatIsTooLong) {
+    Load(*W, OtherDb.Path());
+    for (const char* Field : {"txtAlbumName", "txtSlideShowName"}) {
+        auto& Name = In<QLineEdit>(*W, Field);
+        Name.clear();
+        QTest::keyClicks(&Name, QString(82, u'n'));
+        EXPECT_EQ(80, Name.text().size()) << Field;
+    }
+}
+
 TEST_F(AlbumExport, AsksForWhatIsNotChosenTheSourceFirst) {
     ExpectInformation(u"You must first select a Destination Album."_s,
                       u"No Destination Selected"_s);
