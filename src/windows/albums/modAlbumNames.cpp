@@ -9,6 +9,21 @@
 #include "windows/albums/frmAlbumRename.h"
 
 namespace neb {
+namespace {
+
+// What is cleaned is still what somebody typed.
+void CleanWhenLeft(QLineEdit& Field, QString (*Cleaned)(const QString&)) {
+    new KeyFilter(&Field, &FixQuoteKey);
+    QObject::connect(&Field, &QLineEdit::editingFinished, &Field, [&Field, Cleaned] {
+        const QString Clean = Cleaned(Field.text());
+        if (Clean == Field.text()) return;
+        const bool Typed = Field.isModified();
+        Field.setText(Clean);
+        Field.setModified(Typed);
+    });
+}
+
+}  // namespace
 
 bool ShowRenameAlbum(std::int32_t AlbumID) {
     const auto Window = NewForm<frmAlbumRename>();
@@ -28,17 +43,13 @@ Answer<> CheckName(const QString& Adjective, const QString& Name) {
                   QStringLiteral("Invalid User Input"));
 }
 
-// What is cleaned is still what somebody typed.
+void KeepQuotesClean(QLineEdit& Field) {
+    CleanWhenLeft(Field, &ConvertQuotes);
+}
+
 void KeepNameClean(QLineEdit& Field) {
-    new KeyFilter(&Field, &FixQuoteKey);
     new NameCount(&Field);
-    QObject::connect(&Field, &QLineEdit::editingFinished, &Field, [&Field] {
-        const QString Clean = CleanName(Field.text());
-        if (Clean == Field.text()) return;
-        const bool Typed = Field.isModified();
-        Field.setText(Clean);
-        Field.setModified(Typed);
-    });
+    CleanWhenLeft(Field, &CleanName);
 }
 
 void ReturnTo(QLineEdit& Field) {

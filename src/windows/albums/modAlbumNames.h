@@ -23,6 +23,8 @@ Answer<> CheckName(const QString& Adjective, const QString& Name);
 // kept, straight quotes become typographic ones when they are typed, and when the field is left all
 // of it is as it is kept.
 void KeepNameClean(QLineEdit& Field);
+// The same of the quotes alone, for texts that are no names.
+void KeepQuotesClean(QLineEdit& Field);
 // The field with a name that was refused, ready to be typed anew.
 void ReturnTo(QLineEdit& Field);
 
