@@ -2,6 +2,9 @@
 #include <QContextMenuEvent>
 
 #include "GalleryRig.h"
+#include "windows/printing/PageSketch.h"
+#include "windows/printing/frmPrintAlbum.h"
+#include "windows/printing/frmPrintSlide.h"
 #include "windows/slides/frmSlideDBM.h"
 
 namespace neb {
@@ -155,10 +158,32 @@ TEST_F(AlbumPageFollow, TheMenuOfSeveralSlidesHasWhatIsForOneGrey) {
         QStringList On;
         for (const QAction* Each : Menu->actions())
             if (!Each->isSeparator() && Each->isEnabled()) On << Each->objectName();
-        EXPECT_EQ("Left|Right|Delete", On.join(u'|').toStdString());
+        EXPECT_EQ("Left|Right|Print|Delete", On.join(u'|').toStdString());
         Menu->close();
     });
     Q_EMIT Tiles().MenuAsked(QPoint(100, 100));
+}
+
+TEST_F(AlbumPageFollow, PrintsOneSlideAsASlideAndSeveralAsContactSheets) {
+    Open(2);
+    bool IsOne = false;
+    WhenOpen<frmPrintSlide>([&](frmPrintSlide& W) {
+        IsOne = true;
+        W.Unload();
+    });
+    Press(Qt::Key_P, Qt::ControlModifier);
+    EXPECT_TRUE(IsOne);
+    Activate();
+    Press(Qt::Key_Right, Qt::ShiftModifier);
+    std::string Says;
+    WhenOpen<frmPrintAlbum>([&](frmPrintAlbum& W) {
+        EXPECT_FALSE(In<QComboBox>(W, "cboAlbum").isVisible());
+        Says = W.windowTitle().toStdString();
+        EXPECT_EQ("2 slides, 1 page", In<PageSketch>(W, "sktPage").Sentence().toStdString());
+        W.Unload();
+    });
+    Press(Qt::Key_P, Qt::ControlModifier);
+    EXPECT_EQ("Print Slides", Says);
 }
 
 }  // namespace
