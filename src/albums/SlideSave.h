@@ -23,6 +23,14 @@ Answer<> CheckPicture(const QString& DBPath, const SlideInHand& InHand);
 // has its caption, a new one no picture, and what was made stays in hand for the next save.
 Answer<Announcement> SaveSlide(clsDBEngine& theDB, const QObject* Asker, SlideInHand& InHand,
                                const SlideInHand::JpegMaker& Jpeg);
+// A stored slide turned, with the bytes of its new JPEG: ready to be saved by the routine above.
+struct TurnedSlide {
+    SlideInHand InHand;
+    QByteArray Jpeg;
+};
+// Quarters: clockwise where positive. On any thread. Throws as ImgX::Load does.
+TurnedSlide TurnSlide(const QString& DBPath, std::int32_t AlbumID, const clsNEBSlide& Stored,
+                      int Quarters, const PictureKeeping& Keeping);
 // Deletes a slide with its files. Asker: the window that knows of it already.
 Answer<Announcement> DeleteSlide(clsDBEngine& theDB, const QObject* Asker, std::int32_t AlbumID,
                                  std::int32_t SlideID);

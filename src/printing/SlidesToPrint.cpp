@@ -25,12 +25,14 @@ void Add(SlidesToPrint& To, const QString& DBPath, std::int32_t AlbumID, const c
 
 }  // namespace
 
-SlidesToPrint SlidesOf(clsNEBAlbum& Album, const QString& DBPath) {
+SlidesToPrint SlidesOf(clsNEBAlbum& Album, const QString& DBPath,
+                       const std::set<std::int32_t>& Only) {
     SlidesToPrint Result;
     const auto Slides = ByNumber(Album.Slides, &clsNEBSlide::SlideID);
     Album.SortSlides();
     for (const NameIndexEntry& Row : Album.SlideIndex)
-        Add(Result, DBPath, Album.AlbumID, *Slides[Row.ID]);
+        if (Only.empty() || Only.count(Row.ID) > 0)
+            Add(Result, DBPath, Album.AlbumID, *Slides[Row.ID]);
     return Result;
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QStringList>
+#include <set>
 #include <vector>
 
 #include "db/clsNEBAlbum.h"
@@ -16,8 +17,10 @@ struct SlidesToPrint {
     std::vector<BoxRequest> Missing;  // what is to be said of places that have no slide
 };
 
-// The slides in the order of their captions. Sorts the album's view.
-SlidesToPrint SlidesOf(clsNEBAlbum& Album, const QString& DBPath);
+// The slides in the order of their captions; Only: these alone, where there are any. Sorts the
+// album's view.
+SlidesToPrint SlidesOf(clsNEBAlbum& Album, const QString& DBPath,
+                       const std::set<std::int32_t>& Only = {});
 // The slides of the show's places, from the first; one that stands twice comes twice.
 SlidesToPrint SlidesOf(const clsNEBAlbum& Album, const clsNEBSlideShow& SlideShow,
                        const QString& DBPath);

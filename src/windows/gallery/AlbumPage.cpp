@@ -31,7 +31,7 @@ const std::vector<SlideEntry> Entries{
     {"Left", "Turn &Left", "Ctrl+Shift+L", "rotate-left", true, false},
     {"Right", "Turn &Right", "Ctrl+Shift+R", "rotate-right", true, false},
     {"", "", "", "", false, false},
-    {"Print", "&Print Slide...", "Ctrl+P", "print", false, true},
+    {"Print", "&Print...", "Ctrl+P", "print", false, false},
     {"Sheet", "Print a S&heet of this Slide...", "", "print-sheet", false, true},
     {"", "", "", "", false, false},
     {"Delete", "&Delete", "Del", "delete", true, false},
@@ -201,6 +201,7 @@ void AlbumPage::showEvent(QShowEvent* Event) {
 
 void AlbumPage::hideEvent(QHideEvent* Event) {
     QWidget::hideEvent(Event);
+    mUi->lvwSlides->FinishEdit();
     if (mKeepSize.isActive()) KeepSize();
 }
 
@@ -232,6 +233,7 @@ std::int32_t AlbumPage::InHand() const {
 }
 
 void AlbumPage::AskInMenuAt(const QPoint& GlobalPos) {
+    if (Selected().size() == 1) mUi->lvwSlides->ChooseRow(mSlides->RowOf(Selected().front()));
     const QPointer<AlbumPage> Here(this);
     const QString Chosen = AskInMenu(*this, Entries, GlobalPos, Selected().size() == 1);
     for (const Command& Each : Commands)
@@ -244,11 +246,11 @@ void AlbumPage::Leave() {
 }
 
 void AlbumPage::OpenScreen() {
-    const QModelIndex At = mUi->lvwSlides->currentIndex();
-    if (!At.isValid()) return;
+    const int Row = mSlides->RowOf(InHand());
+    if (Row < 0) return;
     const QPointer<AlbumPage> Here(this);
     const auto Screen = NewForm<frmSlideScreen>(mSlides);
-    Screen->ShowFrom(At.row(), *this);
+    Screen->ShowFrom(Row, *this);
     if (Here && Screen->Row() < mSlides->Count() && mSlides->Count() > 0)
         mUi->lvwSlides->ChooseRow(Screen->Row());
 }
@@ -270,7 +272,7 @@ void AlbumPage::Delete() {
 }
 
 void AlbumPage::Print() {
-    if (Selected().size() == 1) PrintSlide(AlbumID(), Selected().front());
+    PrintSlides(AlbumID(), Selected());
 }
 
 void AlbumPage::PrintSheet() {

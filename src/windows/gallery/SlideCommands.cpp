@@ -13,6 +13,7 @@
 #include "support/modDEValidation.h"
 #include "windows/gallery/AlbumPage.h"
 #include "windows/gallery/SlideTurning.h"
+#include "windows/printing/frmPrintAlbum.h"
 #include "windows/printing/frmPrintSheet.h"
 #include "windows/printing/frmPrintSlide.h"
 #include "windows/slides/SlideDeletion.h"
@@ -67,8 +68,10 @@ void TurnSlides(std::int32_t AlbumID, const std::vector<std::int32_t>& SlideIDs,
     if (!SlideIDs.empty() && MayChangeSlides()) SlideTurning(AlbumID, SlideIDs, Quarters).Run();
 }
 
-void PrintSlide(std::int32_t AlbumID, std::int32_t SlideID) {
-    if (const clsNEBSlide* Slide = SlideOf(AlbumID, SlideID))
+void PrintSlides(std::int32_t AlbumID, const std::vector<std::int32_t>& SlideIDs) {
+    if (SlideIDs.size() > 1) return NewForm<frmPrintAlbum>()->PrintSlides(AlbumID, SlideIDs);
+    if (SlideIDs.empty()) return;
+    if (const clsNEBSlide* Slide = SlideOf(AlbumID, SlideIDs.front()))
         NewForm<frmPrintSlide>()->PrintSlide(
             SlidePath(DBEngine->DBPath(), AlbumID, Slide->SlideLoc));
 }

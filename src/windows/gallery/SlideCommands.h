@@ -22,8 +22,9 @@ void StoreCaption(std::int32_t AlbumID, std::int32_t SlideID, const QString& Cap
 void DeleteSlidesAsked(const QWidget& Window, std::int32_t AlbumID,
                        const std::vector<std::int32_t>& SlideIDs);
 void TurnSlides(std::int32_t AlbumID, const std::vector<std::int32_t>& SlideIDs, int Quarters);
-// Shows the dialog that prints the slide, or a sheet full of it.
-void PrintSlide(std::int32_t AlbumID, std::int32_t SlideID);
+// Shows the dialog that prints one slide, or the one that prints contact sheets of several.
+void PrintSlides(std::int32_t AlbumID, const std::vector<std::int32_t>& SlideIDs);
+// Shows the dialog that prints a sheet full of one slide.
 void PrintSlideSheet(std::int32_t AlbumID, std::int32_t SlideID);
 void OpenInSlideManager(std::int32_t AlbumID, std::int32_t SlideID);
 

@@ -4,7 +4,6 @@
 
 #include "albums/KeepingChoice.h"
 #include "albums/SlideSave.h"
-#include "albums/SlideTurn.h"
 #include "controls/forms/ScreenPointer.h"
 #include "controls/forms/frmProgress.h"
 #include "controls/picture/PictureView.h"

@@ -23,6 +23,11 @@ bool IsSelected(const QStyleOptionViewItem& Option) {
     return Option.state & QStyle::State_Selected;
 }
 
+// A little more than the lines: letters reach below them.
+int HeightOfWords(const QWidget& View) {
+    return Lines * View.fontMetrics().lineSpacing() + View.fontMetrics().descent() / 2;
+}
+
 QTextOption Centred(const QString& Text) {
     QTextOption Option(Qt::AlignHCenter);
     // a layout goes by the program's direction and not by the text's
@@ -56,13 +61,12 @@ TileDelegate::TileDelegate(SlideTiles& View, TilePictures& Pictures)
     : QStyledItemDelegate(&View), mView(View), mPictures(Pictures) {}
 
 QSize TileDelegate::LeastSize(int Side) const {
-    const int Words = Lines * mView.fontMetrics().lineSpacing();
-    return {Side + 4 * Pad, Side + Words + Gap + 4 * Pad};
+    return {Side + 4 * Pad, Side + HeightOfWords(mView) + Gap + 4 * Pad};
 }
 
 QRect TileDelegate::CaptionRect(const QRect& Tile) const {
     QRect Room = Tile.adjusted(2 * Pad, 0, -2 * Pad, -2 * Pad);
-    Room.setTop(Room.bottom() + 1 - Lines * mView.fontMetrics().lineSpacing());
+    Room.setTop(Room.bottom() + 1 - HeightOfWords(mView));
     return Room;
 }
 

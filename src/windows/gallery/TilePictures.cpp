@@ -77,6 +77,11 @@ bool TilePictures::IsUnreadable(int Row) const {
     return Found != mKnown.end() && Found->second.IsUnreadable;
 }
 
+bool TilePictures::IsSharp(int Row) const {
+    const auto Found = mKnown.find(KeyOf(Row));
+    return Found != mKnown.end() && Found->second.Side == SideInPixels();
+}
+
 std::optional<TilePictures::Order> TilePictures::MissingOf(int Row) const {
     const auto Found = mKnown.find(KeyOf(Row));
     if (Found == mKnown.end()) return Order{KeyOf(Row), Thumbnail};

@@ -35,6 +35,7 @@ class TilePictures : public QObject {
     // What there is by now; what is missing is begun soon.
     TilePicture Of(int Row);
     bool IsUnreadable(int Row) const;  // as far as it is known
+    bool IsSharp(int Row) const;       // with all the pixels that its size asks for
     int Kept() const { return static_cast<int>(mKnown.size()); }
 
   private:

@@ -21,7 +21,8 @@ constexpr int PatienceMs = 250;  // in which the slide before may stand for the 
 constexpr int WheelNotch = 120;  // eighths of a degree
 constexpr int CaptionShare = 3;  // of the screen's height, for a caption of many lines at most
 constexpr int Margin = 12;       // pixels
-constexpr int FieldShare = 2;    // of the screen's width
+constexpr QColor FieldGround(38, 38, 38);
+constexpr int FieldShare = 2;  // of the screen's width
 
 const std::vector<SlideEntry> Entries{
     {"Edit", "&Edit Caption", "F2", "new", true, true},
@@ -29,7 +30,7 @@ const std::vector<SlideEntry> Entries{
     {"Left", "Turn &Left", "L", "rotate-left", true, true},
     {"Right", "Turn &Right", "R", "rotate-right", true, true},
     {"", "", "", "", false, false},
-    {"Print", "&Print Slide...", "Ctrl+P", "print", false, true},
+    {"Print", "&Print...", "Ctrl+P", "print", false, true},
     {"Delete", "&Delete", "Del", "delete", true, true},
     {"", "", "", "", false, false},
     {"Back", "&Back to the Album", "Esc", "exit", false, true},
@@ -104,7 +105,8 @@ void frmSlideScreen::SetUpLooks() {
     setObjectName(QStringLiteral("frmSlideScreen"));
     setWindowTitle(tr("Slide"));
     QPalette Dark;
-    for (const auto Role : {QPalette::Window, QPalette::Base}) Dark.setColor(Role, Qt::black);
+    Dark.setColor(QPalette::Window, Qt::black);
+    Dark.setColor(QPalette::Base, FieldGround);
     for (const auto Role : {QPalette::WindowText, QPalette::Text}) Dark.setColor(Role, Qt::white);
     Dark.setColor(QPalette::PlaceholderText, QColor(200, 200, 200));
     setPalette(Dark);
@@ -117,6 +119,10 @@ void frmSlideScreen::SetUpLooks() {
     mPlace->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     mPlace->setForegroundRole(QPalette::PlaceholderText);
     mField->setAccessibleName(tr("Caption"));
+    const QFont Words =
+        CaptionFont(StandardCaption({}, {0, screen()->size().height(), 0}, this).Points);
+    mView->setFont(Words);
+    mField->setFont(Words);
     mField->hide();
 }
 
@@ -301,7 +307,7 @@ void frmSlideScreen::TurnRight() {
 }
 
 void frmSlideScreen::Print() {
-    PrintSlide(mSlides->AlbumID(), mSlides->SlideID(mWalk.Row));
+    PrintSlides(mSlides->AlbumID(), {mSlides->SlideID(mWalk.Row)});
 }
 
 void frmSlideScreen::Delete() {

@@ -128,7 +128,10 @@ TEST_F(AlbumPageCaption, WhatIsTypedIsStoredWhenTheWindowClosesOrThePageIsLeft) 
     Open();
     Press(Qt::Key_F2);
     Type(u"one"_s);
+    // the main window writes all albums when it is told to close
+    Home->OnClose = [&] { EXPECT_EQ("one", Slide(1).SlideText.toStdString()); };
     Home->close();
+    Home->OnClose = {};
     EXPECT_EQ("one", Slide(1).SlideText.toStdString());
     Open();
     Press(Qt::Key_F2);

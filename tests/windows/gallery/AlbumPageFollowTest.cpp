@@ -2,6 +2,9 @@
 #include <QContextMenuEvent>
 
 #include "GalleryRig.h"
+#include "windows/printing/PageSketch.h"
+#include "windows/printing/frmPrintAlbum.h"
+#include "windows/printing/frmPrintSlide.h"
 #include "windows/slides/frmSlideDBM.h"
 
 namespace neb {
@@ -37,11 +40,12 @@ class AlbumPageFollow : public GalleryRig {
         QApplication::sendEvent(Tiles().viewport(), &Key);
         Settle();
     }
-    QSize SizeOf(std::int32_t ID) {
+    QImage PictureOf(std::int32_t ID) {
         ImgX Picture;
         Picture.Load(Stored(ID));
-        return Picture.Picture().size();
+        return Picture.Picture();
     }
+    QSize SizeOf(std::int32_t ID) { return PictureOf(ID).size(); }
     Changes Door{Engine};
 };
 
@@ -102,15 +106,16 @@ TEST_F(AlbumPageFollow, ManySlidesAreDeletedUnderABar) {
 }
 
 TEST_F(AlbumPageFollow, TheMenuTurnsWhatIsChosenWithoutLossAndShowsItTurned) {
-    const QImage Before = [&] {
-        ImgX Picture;
-        Picture.Load(Stored(1));
-        return Picture.Picture();
-    }();
+    QImage Noise(320, 240, QImage::Format_RGB32);  // all of which a second encoding would change
+    for (int Y = 0; Y < 240; ++Y)
+        for (int X = 0; X < 320; ++X)
+            Noise.setPixel(X, Y, qRgb(200 + X * Y % 50, X * 7 % 11, Y * X % 13));
+    ASSERT_TRUE(Noise.save(Stored(1), "jpg", 80));
+    const QImage Before = PictureOf(1);
     Open();
     Press(Qt::Key_Right, Qt::ShiftModifier);
     Choose("Right");
-    EXPECT_EQ(QSize(300, 400), SizeOf(1));
+    EXPECT_EQ(QSize(240, 320), SizeOf(1));
     EXPECT_EQ(QSize(300, 400), SizeOf(2));
     EXPECT_EQ(QSize(400, 300), SizeOf(3));
     EXPECT_TRUE(QTest::qWaitFor([&] {
@@ -121,9 +126,7 @@ TEST_F(AlbumPageFollow, TheMenuTurnsWhatIsChosenWithoutLossAndShowsItTurned) {
     }));
     Press(Qt::Key_L, Qt::ControlModifier | Qt::ShiftModifier);
     Settle();
-    ImgX Back;
-    Back.Load(Stored(1));
-    EXPECT_EQ(Before, Back.Picture()) << "to the pixel";
+    EXPECT_EQ(Before, PictureOf(1)) << "to the pixel";
     EXPECT_EQ("a|b", Chosen());
 }
 
@@ -155,10 +158,32 @@ TEST_F(AlbumPageFollow, TheMenuOfSeveralSlidesHasWhatIsForOneGrey) {
         QStringList On;
         for (const QAction* Each : Menu->actions())
             if (!Each->isSeparator() && Each->isEnabled()) On << Each->objectName();
-        EXPECT_EQ("Left|Right|Delete", On.join(u'|').toStdString());
+        EXPECT_EQ("Left|Right|Print|Delete", On.join(u'|').toStdString());
         Menu->close();
     });
     Q_EMIT Tiles().MenuAsked(QPoint(100, 100));
+}
+
+TEST_F(AlbumPageFollow, PrintsOneSlideAsASlideAndSeveralAsContactSheets) {
+    Open(2);
+    bool IsOne = false;
+    WhenOpen<frmPrintSlide>([&](frmPrintSlide& W) {
+        IsOne = true;
+        W.Unload();
+    });
+    Press(Qt::Key_P, Qt::ControlModifier);
+    EXPECT_TRUE(IsOne);
+    Activate();
+    Press(Qt::Key_Right, Qt::ShiftModifier);
+    std::string Says;
+    WhenOpen<frmPrintAlbum>([&](frmPrintAlbum& W) {
+        EXPECT_FALSE(In<QComboBox>(W, "cboAlbum").isVisible());
+        Says = W.windowTitle().toStdString();
+        EXPECT_EQ("2 slides, 1 page", In<PageSketch>(W, "sktPage").Sentence().toStdString());
+        W.Unload();
+    });
+    Press(Qt::Key_P, Qt::ControlModifier);
+    EXPECT_EQ("Print Slides", Says);
 }
 
 }  // namespace

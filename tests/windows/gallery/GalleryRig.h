@@ -154,8 +154,12 @@ class GalleryRig : public Intake {
         void ReceiveEvent(const QString& Of, const QString& What, const EventKeys& Keys) override {
             Page.ReceiveEvent(Of, What, Keys);
         }
+        void closeEvent(QCloseEvent*) override {
+            if (OnClose) OnClose();
+        }
         AlbumPage Page;
         int LeftCount;
+        std::function<void()> OnClose;
     };
     std::int32_t AlbumID = 0;
     std::shared_ptr<HangingFiles> Files = std::make_shared<HangingFiles>();

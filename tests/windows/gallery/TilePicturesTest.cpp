@@ -92,8 +92,9 @@ TEST_F(TilePicturesShown, ThumbnailsStandInUntilThePictureIsReadAndAHangingOneHo
     Files->Hang(PathOf(1));
     Open();
     ExpectSeen(0, Qt::red, {160, 120});
-    EXPECT_TRUE(QTest::qWaitFor(
-        [&] { return Seen(1, Qt::red).width() >= 158 && Seen(2, Qt::red).width() >= 158; }, 6000));
+    const auto IsSharp = [&](int Row) { return Tiles().Pictures().IsSharp(Row); };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return IsSharp(1) && IsSharp(2); }, 6000));
+    EXPECT_FALSE(IsSharp(0));
     Press(Qt::Key_End);
     EXPECT_EQ("c", InHand());
     Files->GoOnAll();

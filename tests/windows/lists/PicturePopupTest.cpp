@@ -66,7 +66,7 @@ TEST_F(PicturePopup, StaysWhenAButtonIsLetGoThatWasPressedElsewhere) {
 TEST_F(PicturePopup, FillsItsWindowWithThePicture) {
     ClosesBy([](frmPicturePopup& Shown) {
         Shown.resize(600, 500);
-        QCoreApplication::processEvents();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return View(Shown).size() == QSize(600, 500); }));
         EXPECT_EQ(Shown.rect(), View(Shown).geometry());
         EXPECT_EQ(QRect(0, 100, 600, 300), View(Shown).PictureRect());
     });
