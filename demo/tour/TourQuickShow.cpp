@@ -38,24 +38,21 @@ void OpenIt(Tour& Guide, frmNEBSlideShow& Window, const QString& Folder) {
 }
 
 void ReadPictures(Tour& Guide) {
-    const auto IsRead = [] { return !Open<frmLoading>() && Grid("flxNonSelected").Rows() > 0; };
+    const auto IsRead = [] { return !Open<frmLoading>() && Grid("flxSelected").Rows() > 0; };
     Guide.Look("reading-pictures", [IsRead] {
         const auto* Loading = Open<frmLoading>();
         return IsRead() || (Loading && Loading->pgbLoadingProgress()->value() > 2);
     });
-    Guide.Add({"pictures-read", IsRead, [] { DoubleClickCell(Grid("flxNonSelected"), 0, 0); }});
+    Guide.Add({"pictures-read", IsRead, [] { DoubleClickCell(Grid("flxSelected"), 0, 0); }});
     Guide.Add({"preview", IsOpen<frmPicturePopup>(),
                [] { QTest::keyClick(Open<frmPicturePopup>(), Qt::Key_Escape); }});
 }
 
-void SelectAndSave(Tour& Guide) {
-    Guide.Do("move-all", IsClosed<frmPicturePopup>(), Press<frmQuickShow>("cmdMoveRightAll"));
-    Guide.Do(
-        "name-the-show", [] { return Grid("flxSelected").Rows() > 0; },
-        [] {
-            Pictures = Grid("flxSelected").Rows();
-            Type(In<QLineEdit, frmQuickShow>("txtName"), QuickShowName);
-        });
+void NameAndSave(Tour& Guide) {
+    Guide.Do("name-the-show", IsClosed<frmPicturePopup>(), [] {
+        Pictures = Grid("flxSelected").Rows();
+        Type(In<QLineEdit, frmQuickShow>("txtName"), QuickShowName);
+    });
     Guide.Add({"pictures-selected", {}, Press<frmQuickShow>("cmdImport")});
     Guide.Look("importing", [] {
         const auto* Saving = Open<frmProgress>();
@@ -93,7 +90,7 @@ void WatchTheShow(Tour& Guide) {
 void AddQuickShow(Tour& Guide, frmNEBSlideShow& Window, const Story& Told) {
     OpenIt(Guide, Window, Told.Folder);
     ReadPictures(Guide);
-    SelectAndSave(Guide);
+    NameAndSave(Guide);
     WatchTheShow(Guide);
     Guide.Do(
         "after-the-quick-show",

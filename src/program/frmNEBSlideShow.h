@@ -68,6 +68,7 @@ class frmNEBSlideShow : public QMainWindow {
     void ListWindows();
     void ShowAsChild(Form& Child);
     bool IsFree() const;
+    void OpenWhenFree(const QStringList& Paths);
     void OpenNow(const OpenedPaths& What);
     void OpenAlbums(const QString& Folder);
 

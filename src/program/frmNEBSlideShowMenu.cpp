@@ -95,9 +95,15 @@ bool frmNEBSlideShow::IsFree() const {
 }
 
 void frmNEBSlideShow::OpenPaths(const QStringList& Paths) {
-    if (Paths.isEmpty() || !IsUp()) return;
+    if (Paths.isEmpty()) return;
+    if (mStage == Stage::Loaded && !IsFree())
+        ShowNotice(tr("What was opened comes as soon as the window in front has closed."));
+    OpenWhenFree(Paths);
+}
+
+void frmNEBSlideShow::OpenWhenFree(const QStringList& Paths) {
     if (IsFree()) return OpenNow(SortOut(Paths));
-    QTimer::singleShot(RetryMs, this, [this, Paths] { OpenPaths(Paths); });
+    if (IsUp()) QTimer::singleShot(RetryMs, this, [this, Paths] { OpenWhenFree(Paths); });
 }
 
 void frmNEBSlideShow::OpenNow(const OpenedPaths& What) {

@@ -1,5 +1,5 @@
 // The name that a folder proposes for a new album.
-#include "albums/ProposedName.h"
+#include "albums/library/ProposedName.h"
 
 #include <gtest/gtest.h>
 

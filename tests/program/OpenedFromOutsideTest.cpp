@@ -143,6 +143,8 @@ TEST_F(OpenedFromOutside, ItWaitsUntilAModalWindowHasClosed) {
         mWindow->OpenPaths({At("Lake")});
         QTest::qWait(300);
         EXPECT_EQ(0, QuickShows());
+        EXPECT_EQ(u"What was opened comes as soon as the window in front has closed."_s,
+                  mWindow->statusBar()->currentMessage());
         Window.Unload();
     });
     Press("mnuSlideShowPrefs");

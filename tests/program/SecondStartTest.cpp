@@ -70,7 +70,7 @@ class SecondStart : public ::testing::Test {
         Environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
         Environment.insert(u"XDG_RUNTIME_DIR"_s, Session.Path().chopped(1));
         Program.setProcessEnvironment(Environment);
-        Program.setWorkingDirectory(Pics.Path());
+        Program.setWorkingDirectory(&Program == &Second ? Pics.Path() : Documents.Path());
         Program.start(QStringLiteral(NEB_BINARY_DIR "/bin/neb-slide-show"),
                       QStringList{u"--documents"_s, Documents.Path()} + Words);
         ASSERT_TRUE(Program.waitForStarted(20000));
@@ -124,7 +124,7 @@ TEST_F(SecondStart, HandsOverWhatIsNoText) {
 
 TEST_F(SecondStart, WaitsForOneThatIsJustStarting) {
     Openings Garden(Pics / u"Garden"_s), Lake(Pics / u"Lake"_s);
-    Run(First, {u"Garden"_s});
+    Run(First, {Pics / u"Garden"_s});
     const QString Lock = DatabaseLockPath(Documents / u"NEB/NEB Slide Show/"_s);
     ASSERT_TRUE(QTest::qWaitFor([&] { return FileExists(Lock); }, 20000));
     StartSecond({u"Lake"_s});

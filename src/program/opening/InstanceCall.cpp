@@ -40,7 +40,8 @@ HandedOver HandOverTo(const QString& Database, const HandOver& What, int Patienc
     Socket.connectToServer(Path);
     if (!Socket.waitForConnected(ConnectMs)) return HandedOver::NotThere;
     if (!IsOfThisUser(Socket.socketDescriptor())) return HandedOver::NotTaken;
-    Written(Socket, *Message, PatienceMs);
+    const bool Sent = Written(Socket, *Message, PatienceMs);
+    if (!Sent && Socket.state() == QLocalSocket::ConnectedState) return HandedOver::NotTaken;
     return AnswerOf(Socket, PatienceMs);
 }
 

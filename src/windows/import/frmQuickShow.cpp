@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <numeric>
 
-#include "albums/ProposedName.h"
+#include "albums/library/ProposedName.h"
 #include "controls/fields/KeyFilter.h"
 #include "controls/forms/Tell.h"
 #include "controls/forms/frmProgress.h"
@@ -70,6 +70,7 @@ void frmQuickShow::PicturesOpened(int First) {
     mUi->flxNonSelected->GiveRows(New, *mUi->flxSelected);
     UpdateButtons();
     if (AsOpened) mOpened.Chosen = Rows().SelectedPaths();
+    mUi->flxNonSelected->SetEmptyText(tr("Pictures moved here\nstay out of the slide show."));
     mUi->txtName->setFocus();
     mUi->txtName->selectAll();
     // its place in the list is known once the window stands

@@ -1,4 +1,4 @@
-#include "albums/ProposedName.h"
+#include "albums/library/ProposedName.h"
 
 #include <QObject>
 
