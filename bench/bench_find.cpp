@@ -18,6 +18,7 @@
 #include "controls/directories/Drives.h"
 #include "controls/forms/NebApplication.h"
 #include "controls/grid/FlexGrid.h"
+#include "db/clsDBEngine.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Services.h"
 #include "support/files/modHostFiles.h"
@@ -144,6 +145,9 @@ int main(int argc, char** argv) {
     const int Files = argc > 2 ? std::atoi(argv[2]) : 10;
     const QTemporaryDir Documents;
     SetDocumentsPath(Documents.path() + u'/');
+    clsDBEngine Engine;
+    Engine.SetDBPath(Documents.path());
+    DBEngine = &Engine;
     const QTemporaryDir Tree(FolderExists(QStringLiteral("/dev/shm"))
                                  ? QStringLiteral("/dev/shm/neb-find-XXXXXX")
                                  : QString());

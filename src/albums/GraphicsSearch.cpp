@@ -176,8 +176,8 @@ class GraphicsSearch::Walk {
             else if (IsWanted(Entry.Name))
                 Here.Files << Entry.Name;
         }
-        SortByName(Here.Files);
-        SortByName(Here.Folders);
+        for (QStringList* Each : {&Here.Files, &Here.Folders})
+            if (Each->size() > 1) SortByName(*Each);
         return Here;
     }
 

@@ -92,6 +92,7 @@ bool FlexGrid::PressCell(const QModelIndex& Index) {
 // Return edits the cell, or presses it, or reports the row.
 void FlexGrid::EnterPressed() {
     const QModelIndex Cell = currentIndex();
+    if (!Cell.isValid() && SelectedRows() > 0) return Q_EMIT RowActivated(SelectedRow(0));
     if (!Cell.isValid() || edit(Cell, AllEditTriggers, nullptr)) return;
     const FlexKind Kind = Column(Cell.column()).Kind;
     if (Kind == FlexKind::List || !PressCell(Cell)) Q_EMIT RowActivated(Cell.row());

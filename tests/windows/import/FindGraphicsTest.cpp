@@ -369,6 +369,12 @@ TEST_F(FindGraphics, ImportsTheSelectedRowsByEnterAmongThem) {
     EXPECT_FALSE(Window->IsLoaded());
     ASSERT_EQ(1, Window->FileCnt());
     EXPECT_EQ(Pics / u"a.jpg"_s, Window->Files(1));
+    Show();
+    Search();
+    Grid().setFocus();
+    QTest::keyClick(&Grid(), Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(&Grid(), Qt::Key_Return);
+    EXPECT_EQ(2, Window->FileCnt());
 }
 
 TEST_F(FindGraphics, KeepsTheTypesChosenWhenEnterIsPressedAmongThem) {
