@@ -152,6 +152,7 @@ frmNEBSlideShow::frmNEBSlideShow() : mWorkspace(new Workspace(this)), mHome(new 
     // It says what a menu entry does, and takes the notices.
     new UnstoredNotice(*statusBar());
     SetUpMenu();
+    mWorkspace->LookAfter(*menuBar());
     FillOpeners();
     connect(mWorkspace, &Workspace::FolderDropped, this, &frmNEBSlideShow::OpenFolder);
     connect(mHome, &HomePage::QuickShowWanted, this, [this] { OpenQuickShow(); });
