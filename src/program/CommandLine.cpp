@@ -1,5 +1,7 @@
 #include "program/CommandLine.h"
 
+#include "settings/modNEBSlideShow.h"
+
 namespace neb {
 namespace {
 
@@ -45,11 +47,14 @@ CommandLine ParseCommandLine(const QStringList& Arguments) {
 
 QString CommandLineHelp() {
     return QStringLiteral(
-        "Usage: neb-slide-show [/DEBUG] [--documents DIR] [FOLDER]\n"
-        "  FOLDER           open Quick Show on a folder of pictures\n"
-        "  --documents DIR  keep albums and settings below DIR instead of the documents folder;\n"
-        "                   or open the albums in DIR, as on a disc\n"
-        "  /DEBUG           write the log QLM.log beside the program\n");
+               "Usage: neb-slide-show [/DEBUG] [--documents DIR] [FOLDER]\n"
+               "  FOLDER           open Quick Show on a folder of pictures\n"
+               "  --documents DIR  keep albums and settings below DIR instead of the documents "
+               "folder;\n"
+               "                   or open the albums in DIR, as on a disc\n"
+               "  /DEBUG           write the log QLM.log in\n"
+               "                   %1\n")
+        .arg(OwnPath());
 }
 
 }  // namespace neb
