@@ -2,6 +2,7 @@
 
 #include <QUrl>
 
+#include "settings/modNEBSlideShow.h"
 #include "support/files/HostNames.h"
 #include "support/files/modHostFiles.h"
 
@@ -64,15 +65,19 @@ CommandLine ParseCommandLine(const QStringList& Arguments) {
 
 QString CommandLineHelp() {
     return QStringLiteral(
-        "Usage: neb-slide-show [/DEBUG] [--documents DIR] [FOLDER | PICTURE]...\n"
-        "  FOLDER           open Quick Show on a folder of pictures, or its albums where it has "
-        "any\n"
-        "  PICTURE          one: open Quick Show on its folder, at that picture;\n"
-        "                   several: on those pictures\n"
-        "  --documents DIR  keep albums and settings below DIR instead of the documents folder;\n"
-        "                   or open the albums in DIR, as on a disc\n"
-        "  /DEBUG           write the log QLM.log beside the program\n"
-        "Where the program runs already on these albums, that one opens them.\n");
+               "Usage: neb-slide-show [/DEBUG] [--documents DIR] [FOLDER | PICTURE]...\n"
+               "  FOLDER           open Quick Show on a folder of pictures, or its albums where it "
+               "has "
+               "any\n"
+               "  PICTURE          one: open Quick Show on its folder, at that picture;\n"
+               "                   several: on those pictures\n"
+               "  --documents DIR  keep albums and settings below DIR instead of the documents "
+               "folder;\n"
+               "                   or open the albums in DIR, as on a disc\n"
+               "  /DEBUG           write the log QLM.log in\n"
+               "                   %1\n"
+               "Where the program runs already on these albums, that one opens them.\n")
+        .arg(OwnPath());
 }
 
 }  // namespace neb

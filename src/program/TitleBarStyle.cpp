@@ -9,7 +9,9 @@ namespace neb {
 namespace {
 
 constexpr int RoomAroundTitle = 8;
-constexpr int MarkMargin = 4;  // of a button's height one part
+constexpr int MarkMargin = 4;          // of a button's height one part
+constexpr double SecondWindow = 0.75;  // of its mark has one that stands before another
+constexpr int UsualLine = 16;
 
 bool IsDark(const QPalette& Colours) {
     return Colours.color(QPalette::Window).lightness() <
@@ -52,7 +54,7 @@ void DrawWindow(QPainter& Painter, const QRectF& In) {
 }
 
 void DrawMark(QStyle::SubControl Button, QPainter& Painter, const QRectF& In) {
-    const QPointF Shift(In.width() / 4, -In.height() / 4);
+    const QPointF Shift(In.width() * (1 - SecondWindow), 0), Drop(0, Shift.x());
     switch (Button) {
         case QStyle::SC_TitleBarMinButton:
             Painter.drawLine(In.bottomLeft(), In.bottomRight());
@@ -61,12 +63,30 @@ void DrawMark(QStyle::SubControl Button, QPainter& Painter, const QRectF& In) {
             DrawWindow(Painter, In);
             break;
         case QStyle::SC_TitleBarNormalButton:
-            DrawWindow(Painter, QRectF(In.topLeft() - Shift / 2 * -1, In.size() * 0.75));
-            DrawWindow(Painter, QRectF(In.topLeft() - Shift / 2, In.size() * 0.75));
+            DrawWindow(Painter, {In.topLeft() + Shift, In.size() * SecondWindow});
+            DrawWindow(Painter, {In.topLeft() + Drop, In.size() * SecondWindow});
             break;
         default:
             DrawCross(Painter, In);
     }
+}
+
+// The button under the pointer stands out.
+void DrawButton(const QStyleOptionComplex& Of, QStyle::SubControl Button, QStyle::SubControl Mark,
+                const QRect& Place, QPainter& Painter) {
+    if (Of.activeSubControls & Button && Of.state & QStyle::State_MouseOver)
+        Painter.fillRect(Place, Of.palette.color(QPalette::Mid));
+    const int Margin = std::max(1, Place.height() / MarkMargin);
+    const int Side = std::min(Place.width(), Place.height()) - 2 * Margin;
+    QRectF In(0, 0, Side, Side);
+    In.moveCenter(QRectF(Place).center());
+    Painter.setRenderHint(QPainter::Antialiasing);
+    Painter.setPen(QPen(Of.palette.color(QPalette::WindowText), std::max(1.0, Margin / 3.0)));
+    DrawMark(Mark, Painter, In);
+}
+
+int TitleLine() {
+    return QFontMetrics(QApplication::font("QMdiSubWindowTitleBar")).height();
 }
 
 }  // namespace
@@ -79,6 +99,7 @@ TitleBarStyle::TitleBarStyle(QObject* Parent)
 void TitleBarStyle::drawComplexControl(ComplexControl Control, const QStyleOptionComplex* Option,
                                        QPainter* Painter, const QWidget* Widget) const {
     const auto* Bar = qstyleoption_cast<const QStyleOptionTitleBar*>(Option);
+    if (Control == CC_MdiControls) return DrawControls(*Option, *Painter, Widget);
     const bool IsRead = !Bar || Bar->titleBarState & State_Active || !IsDark(Option->palette);
     if (Control != CC_TitleBar || IsRead)
         return QProxyStyle::drawComplexControl(Control, Option, Painter, Widget);
@@ -89,8 +110,13 @@ int TitleBarStyle::pixelMetric(PixelMetric Metric, const QStyleOption* Option,
                                const QWidget* Widget) const {
     const int Usual = QProxyStyle::pixelMetric(Metric, Option, Widget);
     if (Metric != PM_TitleBarHeight) return Usual;
-    const QFontMetrics Title(QApplication::font("QMdiSubWindowTitleBar"));
-    return std::max(Usual, Title.height() + RoomAroundTitle);
+    return std::max(Usual, TitleLine() + RoomAroundTitle);
+}
+
+QSize TitleBarStyle::sizeFromContents(ContentsType Type, const QStyleOption* Option,
+                                      const QSize& Contents, const QWidget* Widget) const {
+    const QSize Usual = QProxyStyle::sizeFromContents(Type, Option, Contents, Widget);
+    return Type == CT_MdiControls ? Usual * std::max(1.0, double(TitleLine()) / UsualLine) : Usual;
 }
 
 void TitleBarStyle::DrawBar(const QStyleOptionTitleBar& Bar, QPainter& Painter,
@@ -111,19 +137,23 @@ void TitleBarStyle::DrawBar(const QStyleOptionTitleBar& Bar, QPainter& Painter,
                      Painter.fontMetrics().elidedText(Bar.text, Qt::ElideRight, Label.width()));
     for (const SubControl Each : {SC_TitleBarMinButton, SC_TitleBarMaxButton,
                                   SC_TitleBarNormalButton, SC_TitleBarCloseButton})
-        if (Bar.subControls & Each && HasButton(Bar, Each)) DrawButton(Bar, Each, Painter, Widget);
+        if (Bar.subControls & Each && HasButton(Bar, Each))
+            DrawButton(Bar, Each, Each, Place(Each), Painter);
     Painter.restore();
 }
 
-void TitleBarStyle::DrawButton(const QStyleOptionTitleBar& Bar, SubControl Button,
-                               QPainter& Painter, const QWidget* Widget) const {
-    const QRect Place = subControlRect(CC_TitleBar, &Bar, Button, Widget);
-    const bool Under = Bar.activeSubControls & Button && Bar.state & State_MouseOver;
-    if (Under) Painter.fillRect(Place, Bar.palette.color(QPalette::Mid));
-    const int Margin = std::max(1, Place.height() / MarkMargin);
-    Painter.setRenderHint(QPainter::Antialiasing);
-    Painter.setPen(QPen(Bar.palette.color(QPalette::WindowText), std::max(1.0, Margin / 3.0)));
-    DrawMark(Button, Painter, QRectF(Place).adjusted(Margin, Margin, -Margin, -Margin));
+void TitleBarStyle::DrawControls(const QStyleOptionComplex& Controls, QPainter& Painter,
+                                 const QWidget* Widget) const {
+    constexpr std::pair<SubControl, SubControl> Marks[] = {
+        {SC_MdiMinButton, SC_TitleBarMinButton},
+        {SC_MdiNormalButton, SC_TitleBarNormalButton},
+        {SC_MdiCloseButton, SC_TitleBarCloseButton}};
+    Painter.save();
+    for (const auto& [Button, Mark] : Marks)
+        if (Controls.subControls & Button)
+            DrawButton(Controls, Button, Mark,
+                       subControlRect(CC_MdiControls, &Controls, Button, Widget), Painter);
+    Painter.restore();
 }
 
 }  // namespace neb

@@ -1,5 +1,6 @@
-// The title bars of the main window's children: as high as the font of their titles, and read in
-// dark palettes, where some styles draw the titles and buttons of inactive windows black on black.
+// The title bars of the main window's children, and the buttons of a maximised one in the menu bar:
+// as high as the font of the titles, and read in dark palettes, where some styles draw those of
+// inactive windows black on black.
 #pragma once
 
 #include <QProxyStyle>
@@ -20,11 +21,13 @@ class TitleBarStyle : public QProxyStyle {
                             QPainter* Painter, const QWidget* Widget) const override;
     int pixelMetric(PixelMetric Metric, const QStyleOption* Option,
                     const QWidget* Widget) const override;
+    QSize sizeFromContents(ContentsType Type, const QStyleOption* Option, const QSize& Contents,
+                           const QWidget* Widget) const override;
 
   private:
     void DrawBar(const QStyleOptionTitleBar& Bar, QPainter& Painter, const QWidget* Widget) const;
-    void DrawButton(const QStyleOptionTitleBar& Bar, SubControl Button, QPainter& Painter,
-                    const QWidget* Widget) const;
+    void DrawControls(const QStyleOptionComplex& Controls, QPainter& Painter,
+                      const QWidget* Widget) const;
 };
 
 }  // namespace neb

@@ -11,6 +11,11 @@
 #include "windows/frame/modWindowState.h"
 
 namespace neb {
+namespace {
+
+constexpr double ShareInCascade = 0.75;  // of the room, each way
+
+}  // namespace
 
 Workspace::Workspace(QWidget* Parent) : QMdiArea(Parent), mTitleBars(new TitleBarStyle(this)) {
     setBackground(palette().brush(QPalette::Base));
@@ -33,9 +38,23 @@ QMdiSubWindow* Workspace::AddChild(QWidget* Child) {
     QMdiSubWindow* Frame = addSubWindow(Child);
     Frame->setStyle(mTitleBars);
     Frame->setAttribute(Qt::WA_DeleteOnClose, false);
+    connect(Frame, &QMdiSubWindow::windowStateChanged, this, &Workspace::StyleMenuBar);
     // the menu's Close has these keys, on every desktop the same
     for (QAction* Each : Frame->systemMenu()->actions()) Each->setShortcuts(QList<QKeySequence>());
     return Frame;
+}
+
+void Workspace::LookAfter(QMenuBar& Bar) {
+    mMenuBar = &Bar;
+    connect(this, &QMdiArea::subWindowActivated, this, &Workspace::StyleMenuBar);
+}
+
+// They are there once a child is maximised; set anew, they are as large as their style wants.
+void Workspace::StyleMenuBar() {
+    QWidget* Buttons = mMenuBar ? mMenuBar->cornerWidget(Qt::TopRightCorner) : nullptr;
+    if (!Buttons || Buttons->style() == mTitleBars) return;
+    Buttons->setStyle(mTitleBars);
+    mMenuBar->setCornerWidget(Buttons, Qt::TopRightCorner);
 }
 
 // Those that are laid out, the one used last at the end and so on top.
@@ -60,10 +79,13 @@ void Workspace::TileChildren() {
 
 void Workspace::CascadeChildren() {
     const QList<QMdiSubWindow*> Children = LaidOut();
+    const QRect Room = VisibleRoom(*this);
     std::vector<WindowExtent> Extents;
     for (const QMdiSubWindow* Each : Children)
-        Extents.push_back({Each->size(), Each->minimumSizeHint()});
-    const std::vector<QRect> Places = CascadedPlaces(Extents, VisibleRoom(*this));
+        Extents.push_back({Room.size() * ShareInCascade, Each->minimumSizeHint()});
+    const std::vector<QRect> Places = CascadedPlaces(
+        Extents, Room,
+        CascadeStep(QFontMetrics(QApplication::font("QMdiSubWindowTitleBar")).height()));
     for (size_t I = 0; I < Places.size(); ++I) {
         Children[int(I)]->setGeometry(Places[I]);
         Children[int(I)]->raise();
@@ -78,7 +100,7 @@ void Workspace::FillWithPage() {
 }
 
 void Workspace::GiveKeyboardToPage() {
-    if (!mPage || activeSubWindow() || QApplication::activeWindow() != window()) return;
+    if (!mPage || activeSubWindow()) return;
     for (const QMdiSubWindow* Each : subWindowList())
         if (Each->isVisible() && !Each->isMinimized()) return;
     QWidget* Last = mPage->focusWidget();

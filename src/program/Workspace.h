@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QMdiArea>
+#include <QMenuBar>
 #include <QPointer>
 
 namespace neb {
@@ -16,6 +17,9 @@ class Workspace : public QMdiArea {
     void SetPage(QWidget* Page);
     // A child with a title bar that is read in every palette and as high as its font.
     QMdiSubWindow* AddChild(QWidget* Child);
+    // The buttons of a maximised child come into the menu bar: they are to look like those of a
+    // title.
+    void LookAfter(QMenuBar& Bar);
     // Lays the children side by side, or one over the other, those that are minimised apart. None
     // gets smaller than its buttons allow: the room scrolls then.
     void TileChildren();
@@ -28,10 +32,12 @@ class Workspace : public QMdiArea {
 
   private:
     QList<QMdiSubWindow*> LaidOut();
+    void StyleMenuBar();
     void FillWithPage();
     void GiveKeyboardToPage();
 
     QPointer<QWidget> mPage;
+    QPointer<QMenuBar> mMenuBar;
     QStyle* mTitleBars;
 };
 

@@ -160,6 +160,7 @@ frmNEBSlideShow::frmNEBSlideShow()
     // It says what a menu entry does, and takes the notices.
     new UnstoredNotice(*statusBar());
     SetUpMenu();
+    mWorkspace->LookAfter(*menuBar());
     FillOpeners();
     new HelpKey(this);
     new WindowKeeper(this);

@@ -4,6 +4,7 @@
 
 #include <QLineEdit>
 #include <QMdiSubWindow>
+#include <QMenuBar>
 #include <QScrollBar>
 #include <QTest>
 #include <QWindow>
@@ -11,6 +12,7 @@
 #include "MainWindowRig.h"
 #include "controls/grid/FlexGrid.h"
 #include "harness/AwaitActive.h"
+#include "program/TitleBarStyle.h"
 #include "windows/compose/frmSlideShowDBM.h"
 #include "windows/frame/modWindowState.h"
 #include "windows/home/HomePage.h"
@@ -124,7 +126,8 @@ TEST_F(Children, WhereNoneIsLeftThePageHasTheKeyboard) {
     EXPECT_NE(Field, QApplication::focusWidget());
     PressKey(Qt::Key_W, Qt::ControlModifier);
     EXPECT_FALSE(Find<frmQuickShow>());
-    EXPECT_EQ(Field, QApplication::focusWidget()) << "where it was";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::focusWidget() == Field; }, 2000))
+        << "where it was";
 }
 
 TEST_F(Children, AreWalkedByKeysThoughATextFieldHasTheFocus) {
@@ -147,11 +150,10 @@ TEST_F(Children, TextFieldsLeaveTheMenuItsKeysAndKeepThoseOfEditing) {
     ASSERT_TRUE(Name);
     Name->setText(u"Sea"_s);
     Name->setFocus();
-    PressKey(Qt::Key_E, Qt::ControlModifier);
-    EXPECT_TRUE(Find<frmSlideDBM>());
-    Name->setFocus();
     PressKey(Qt::Key_A, Qt::ControlModifier);
     EXPECT_EQ(u"Sea"_s, Name->selectedText());
+    PressKey(Qt::Key_E, Qt::ControlModifier);
+    EXPECT_TRUE(Find<frmSlideDBM>());
 }
 
 TEST_F(Children, TilesCutNoButtonOffAndTheRoomScrolls) {
@@ -212,24 +214,41 @@ TEST_F(Children, AMaximisedOneHasTheProgramsNameInTheTitleOnce) {
     QApplication::setApplicationDisplayName(Before);
 }
 
-TEST_F(Children, TitlesOfInactiveOnesAreReadInADarkPalette) {
-    const QPalette Before = QApplication::palette();
-    QApplication::setPalette(QPalette(QColor(40, 42, 45)));
+// The lightest that is seen in a part of a picture, 0 to 255.
+int Brightest(const QImage& Picture, const QRect& Part) {
+    int Most = 0;
+    for (int Y = Part.top(); Y <= Part.bottom(); ++Y)
+        for (int X = Part.left(); X <= Part.right(); ++X)
+            Most = std::max(Most, qGray(Picture.pixel(X, Y)));
+    return Most;
+}
+
+class InTheDark : public Children {
+  protected:
+    InTheDark() { QApplication::setPalette(QPalette(QColor(40, 42, 45))); }
+    ~InTheDark() override { QApplication::setPalette(mBefore); }
+    const QPalette mBefore = QApplication::palette();
+};
+
+TEST_F(InTheDark, TitlesAndButtonsOfInactiveOnesAreRead) {
     Begin();
     Press("mnuSlideMgrBulk");
     Press("mnuAlbumExport");
-    const QMdiSubWindow& Behind = FrameOf<frmSlideMgrBulk>();
-    const QImage Bar = FrameOf<frmSlideMgrBulk>().grab().toImage().copy(0, 4, Behind.width(), 18);
-    int Brightest = 0, InTheCorner = 0;
-    for (int Y = 0; Y < Bar.height(); ++Y)
-        for (int X = 0; X < Bar.width(); ++X) {
-            const int Light = qGray(Bar.pixel(X, Y));
-            Brightest = std::max(Brightest, X > 40 && X < Bar.width() * 3 / 4 ? Light : 0);
-            InTheCorner = std::max(InTheCorner, X > Bar.width() - 30 ? Light : 0);
-        }
-    EXPECT_GT(Brightest, 180) << "the title";
-    EXPECT_GT(InTheCorner, 180) << "the close button";
-    QApplication::setPalette(Before);
+    const QImage Bar = FrameOf<frmSlideMgrBulk>().grab().toImage();
+    EXPECT_GT(Brightest(Bar, {Bar.width() / 3, 4, Bar.width() / 3, 18}), 180) << "the title";
+    EXPECT_GT(Brightest(Bar, {Bar.width() - 24, 4, 20, 18}), 180) << "the close button";
+}
+
+TEST_F(InTheDark, TheButtonsOfAMaximisedOneAreRead) {
+    Begin();
+    Press("mnuSlideMgrBulk");
+    FrameOf<frmSlideMgrBulk>().showMaximized();
+    QTest::qWait(20);
+    QWidget* Buttons = mWindow->menuBar()->cornerWidget();
+    ASSERT_TRUE(Buttons);
+    EXPECT_TRUE(dynamic_cast<TitleBarStyle*>(Buttons->style()))
+        << Buttons->metaObject()->className();
+    EXPECT_GT(Brightest(Buttons->grab().toImage(), Buttons->rect()), 150);
 }
 
 TEST_F(Children, TitleBarsAreAsHighAsTheirFont) {

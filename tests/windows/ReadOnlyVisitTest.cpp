@@ -297,8 +297,8 @@ TEST_F(ReadOnlyVisit, ShowsAllAndTouchesNoFileOfTheDatabase) {
     WorkInAll();
     EXPECT_EQ("", Differences(Before, Everything(Db.Path())));
     EXPECT_EQ("", Differences(Pictures, Everything(Pics.Path())));
-    EXPECT_EQ(Folder().toUtf8() + '\n', ReadFile(Own / u"DS.ini"_s)) << "which is the user's";
-    EXPECT_TRUE(ReadFile(Own / u"QLM.ini"_s).contains("[frmSlideMgrBulk]"));
+    EXPECT_EQ(Folder().toUtf8() + '\n', ReadFile(OwnFiles / u"DS.ini"_s)) << "which is the user's";
+    EXPECT_TRUE(ReadFile(OwnFiles / u"QLM.ini"_s).contains("[frmSlideMgrBulk]"));
     EXPECT_EQ(1u, ListDir(App.Path()).size());
 }
 

@@ -6,6 +6,9 @@
 namespace neb {
 namespace {
 
+constexpr int UsualStep = 22;
+constexpr int AroundTitle = 4;
+
 // Shares a length alike among parts that have a least each; who needs more than a fair share has
 // it.
 std::vector<int> Shared(int Length, const std::vector<int>& Least) {
@@ -46,6 +49,10 @@ bool Reaches(const QRect& Window, const QRect& Room) {
 
 }  // namespace
 
+int CascadeStep(int LineHeight) {
+    return std::max(UsualStep, LineHeight + AroundTitle);
+}
+
 QRect FreeRoom(const QRect& Area, const std::vector<QRect>& Bars) {
     int Bottom = Area.bottom();
     for (const QRect& Bar : Bars)
@@ -85,15 +92,15 @@ std::vector<QRect> TiledPlaces(const std::vector<QSize>& Least, const QRect& Roo
     return Places;
 }
 
-std::vector<QRect> CascadedPlaces(const std::vector<WindowExtent>& Windows, const QRect& Room) {
+std::vector<QRect> CascadedPlaces(const std::vector<WindowExtent>& Windows, const QRect& Room,
+                                  int Step) {
     std::vector<QRect> Places;
-    int Step = 0;
+    QPoint At = Room.topLeft();
     for (const WindowExtent& Each : Windows) {
-        const QPoint At = Room.topLeft() + QPoint(Step, Step) * CascadePixels;
-        QRect Place(At, Each.Size.boundedTo(Room.size()).expandedTo(Each.Least));
-        if (Step > 0 && Reaches({At, Each.Least}, Room)) Step = 0, Place.moveTo(Room.topLeft());
-        Places.push_back(CutIntoRoom(Place, Each.Least, Each.Least, Room));
-        ++Step;
+        if (Reaches({At, Each.Least}, Room)) At = Room.topLeft();
+        const QSize Size = Each.Size.boundedTo(Room.size()).expandedTo(Each.Least);
+        Places.push_back(CutIntoRoom({At, Size}, Each.Least, Each.Least, Room));
+        At += QPoint(Step, Step);
     }
     return Places;
 }

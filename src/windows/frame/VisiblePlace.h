@@ -7,7 +7,9 @@
 
 namespace neb {
 
-constexpr int CascadePixels = 22;  // from one window of the cascade to the next, each way
+// From one window of the cascade to the next, each way, for titles of a line's height: those behind
+// are to be read.
+int CascadeStep(int LineHeight);
 
 // What is left of an area above the bars that lie along its lower edge.
 QRect FreeRoom(const QRect& Area, const std::vector<QRect>& Bars);
@@ -28,6 +30,7 @@ struct WindowExtent {
 };
 // Places one over the other, each a step from the one before; it begins again at the corner where
 // the next would reach beyond the room.
-std::vector<QRect> CascadedPlaces(const std::vector<WindowExtent>& Windows, const QRect& Room);
+std::vector<QRect> CascadedPlaces(const std::vector<WindowExtent>& Windows, const QRect& Room,
+                                  int Step);
 
 }  // namespace neb

@@ -66,7 +66,8 @@ bool IsKeptFromOutside(QStringView Section) {
 
 QSize OpeningSize(WindowAsks Asks, const QSize& Designed, int LineHeight, const QSize& Room) {
     if (Asks == WindowAsks::Designed) return Designed.boundedTo(Room);
-    QSize Most = Room - QSize(StepsLeftFree, StepsLeftFree) * CascadePixels;
+    const int Free = StepsLeftFree * CascadeStep(LineHeight);
+    QSize Most = Room - QSize(Free, Free);
     const int Widest =
         Asks == WindowAsks::Picture ? qRound(Most.height() * WidestView) : LongestLine * LineHeight;
     Most.setWidth(std::min(Most.width(), Widest));

@@ -1,6 +1,6 @@
 #include "windows/frame/modWindowState.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QScreen>
@@ -21,8 +21,7 @@
 namespace neb {
 namespace {
 
-constexpr int CascadeStep = 330;  // twips
-constexpr int CascadeTolerance = 90;
+constexpr int CascadeTolerance = 90;  // twips
 constexpr double ShareOfScreen = 0.9;
 constexpr double ShareInCascade = 2.0 / 3;  // of its size, before it leaves its step
 constexpr QSize DesktopsFrame(16, 40);      // what a desktop may draw around a window, pixels
@@ -136,12 +135,16 @@ std::vector<QPoint> OtherPlaces(const Form& But) {
     return Places;
 }
 
+int StepTwips() {
+    return ToTwips(CascadeStep(QFontMetrics(QApplication::font("QMdiSubWindowTitleBar")).height()));
+}
+
 QPoint CascadePlace(const std::vector<QPoint>& Others) {
     QPoint Greatest(-1, -1);
     for (const QPoint& Place : Others)
         Greatest = {std::max(Greatest.x(), Place.x()), std::max(Greatest.y(), Place.y())};
-    return {Greatest.x() < 0 ? 0 : Greatest.x() + CascadeStep,
-            Greatest.y() < 0 ? 0 : Greatest.y() + CascadeStep};
+    return {Greatest.x() < 0 ? 0 : Greatest.x() + StepTwips(),
+            Greatest.y() < 0 ? 0 : Greatest.y() + StepTwips()};
 }
 
 bool IsTaken(const QPoint& Candidate, const std::vector<QPoint>& Others) {
@@ -153,7 +156,7 @@ bool IsTaken(const QPoint& Candidate, const std::vector<QPoint>& Others) {
 
 QPoint FreePlace(const std::vector<QPoint>& Others) {
     QPoint Candidate(0, 0);
-    while (IsTaken(Candidate, Others)) Candidate += QPoint(CascadeStep, CascadeStep);
+    while (IsTaken(Candidate, Others)) Candidate += QPoint(StepTwips(), StepTwips());
     return Candidate;
 }
 

@@ -39,9 +39,9 @@ void SaveMemory(clsSettings& Settings);
 // A window at a place of the screen that it has remembered, in pixels, brought inside the screen.
 void PlaceOnScreen(QWidget& Window, const QPoint& Place);
 
-// The place for a new child window, in twips from the frame's corner. Mode 1: one step down and
-// right of the outermost visible children, each way by itself. Else: the first free step. Minimised
-// children do not count.
+// The place for a new child window, in twips from the frame's corner. Mode 1: one step of 330 (more
+// where titles are higher) down and right of the outermost visible children, each way by itself.
+// Else: the first free step. Minimised children do not count.
 QPoint ChildPlace(const Form& Window, int Mode);
 void PositionMDIChild(Form& Window, int Mode);
 // Where it was last, else in the cascade: as a whole in the room that is seen. In the cascade as

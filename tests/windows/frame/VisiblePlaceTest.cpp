@@ -67,12 +67,17 @@ TEST(VisiblePlace, NoTileIsSmallerThanItMayBe) {
 
 TEST(VisiblePlace, TheCascadeStepsAndBeginsAgainWhereItWouldLeaveTheRoom) {
     const WindowExtent Each{{700, 400}, {600, 380}};
-    const std::vector<QRect> Places = CascadedPlaces(std::vector(12, Each), Room);
+    const std::vector<QRect> Places = CascadedPlaces(std::vector(12, Each), Room, 22);
     EXPECT_EQ(QRect(0, 0, 700, 400), Places[0]);
     EXPECT_EQ(QRect(22, 22, 700, 400), Places[1]);
     EXPECT_EQ(QRect(220, 220, 700, 380), Places[10]) << "cut to the room";
     EXPECT_EQ(QPoint(0, 0), Places[11].topLeft());
     for (const QRect& Place : Places) EXPECT_TRUE(Room.contains(Place));
+}
+
+TEST(VisiblePlace, AStepOfTheCascadeShowsTheTitleBehind) {
+    EXPECT_EQ(22, CascadeStep(16));
+    EXPECT_EQ(37, CascadeStep(33));
 }
 
 TEST(WindowSize, AWindowOpensAsLargeAsItsWorkAsks) {
@@ -82,7 +87,7 @@ TEST(WindowSize, AWindowOpensAsLargeAsItsWorkAsks) {
     };
     EXPECT_EQ(Designed, Size(WindowAsks::Designed, Wide));
     EXPECT_EQ(QSize(1024, 956), Size(WindowAsks::Lines, Wide)) << "wider lines are no easier read";
-    EXPECT_EQ(QSize(1876, 956), Size(WindowAsks::Lines, Wide, 33)) << "those of large letters are";
+    EXPECT_EQ(QSize(1846, 926), Size(WindowAsks::Lines, Wide, 33)) << "those of large letters are";
     EXPECT_EQ(QSize(1530, 956), Size(WindowAsks::Picture, Wide));
     EXPECT_EQ(QSize(656, 480), Size(WindowAsks::Picture, Small)) << "never less than designed";
     EXPECT_EQ(QSize(300, 200), Size(WindowAsks::Lines, {300, 200})) << "but for want of room";

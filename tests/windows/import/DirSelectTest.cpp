@@ -90,7 +90,7 @@ TEST_F(DirSelect, OfAlbumsThatMayNotBeChangedItBeginsWhereItEndedBefore) {
     EXPECT_EQ(Folder(), ReadLastDirectory());
     WriteLastDirectory(Pics / u"sub"_s);
     EXPECT_EQ(Pics / u"sub"_s, ReadLastDirectory());
-    EXPECT_EQ((Pics / u"sub"_s).toUtf8() + '\n', ReadFile(Own / u"DS.ini"_s));
+    EXPECT_EQ((Pics / u"sub"_s).toUtf8() + '\n', ReadFile(OwnFiles / u"DS.ini"_s));
     EXPECT_EQ(Folder().toUtf8() + '\n', ReadFile(SettingsDir() + u"DS.ini"_s));
 }
 

@@ -416,10 +416,11 @@ TEST_F(FindGraphics, TellsOfAnErrorOfAnotherKindAndIsReadyAgain) {
     EXPECT_EQ("Find Graphics", Window->windowTitle().toStdString());
 }
 
-TEST_F(FindGraphics, RemembersItsSizeAndColumns) {
+TEST_F(FindGraphics, RemembersItsSizePlaceAndColumns) {
     Show();
     EXPECT_GE(Grid().columnWidth(0), 131);
     Window->resize(700, 500);
+    Window->move(40, 60);
     Grid().setColumnWidth(1, 333);
     Window->Unload();
     const QString Section = u"Find Graphics Window"_s;
@@ -428,7 +429,7 @@ TEST_F(FindGraphics, RemembersItsSizeAndColumns) {
     EXPECT_EQ("7500", OpenSettings().GetValue(Section, u"WindowHeight"_s, {}).toStdString());
     EXPECT_EQ("4995", OpenSettings().GetValue(Section, u"Col1.Width"_s, {}).toStdString());
     Show();
-    EXPECT_EQ(QSize(700, 500), Window->size());
+    EXPECT_EQ(QRect(40, 60, 700, 500), QRect(Window->pos(), Window->size()));
     EXPECT_EQ(333, Grid().columnWidth(1));
     Window->setWindowState(Qt::WindowMaximized);
     QCoreApplication::processEvents();

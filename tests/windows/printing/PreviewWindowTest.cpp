@@ -258,12 +258,12 @@ TEST_F(PreviewWindow, OpensWithMostOfTheScreenAndThenAsItWasLeft) {
 
 TEST_F(PreviewWindow, KeepsNothingBesideADatabaseThatMayNotBeChanged) {
     Show(1);
-    const QSize Usual = Window->size();
     ReadOnlyDB = true;
     Window->resize(1000, 720);
     EXPECT_TRUE(Window->Unload());
+    EXPECT_FALSE(FileExists(SettingsDir() + INIFileName()));
     Show(1);
-    EXPECT_EQ(Usual, Window->size());
+    EXPECT_EQ(QSize(1000, 720), Window->size()) << "the user's own folder has it";
 }
 
 }  // namespace
