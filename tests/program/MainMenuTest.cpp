@@ -178,14 +178,15 @@ TEST_F(TheMenu, ListsTheOpenWindowsOnceEachAndMarksTheActiveOne) {
     EXPECT_EQ(QStringList({"&Home", "&Cascade", "&Tile"}), WindowEntries());
     Press("mnuQuickShow");
     Press("mnuSlideMgrBulk");
-    const QStringList Both{"&Home", "&Cascade", "&Tile", "-", "&1 Quick Show",
-                           "&2 Bulk Slide Manager - Here && There *"};
+    const QStringList Both{"&Home", "&Cascade",      "&Tile",
+                           "-",     "&1 Quick Show", "&2 Bulk Slide Manager - Here && There *"};
     EXPECT_EQ(Both, WindowEntries());
     EXPECT_EQ(Both, WindowEntries()) << "and the second time as well";
     Find<frmQuickShow>()->Unload();
     DoEvents();
-    EXPECT_EQ(QStringList({"&Home", "&Cascade", "&Tile", "-", "&1 Bulk Slide Manager - Here && There *"}),
-              WindowEntries());
+    EXPECT_EQ(
+        QStringList({"&Home", "&Cascade", "&Tile", "-", "&1 Bulk Slide Manager - Here && There *"}),
+        WindowEntries());
 }
 
 TEST_F(TheMenu, AnOpenWindowComesToTheFrontWhenItIsChosen) {
@@ -194,9 +195,9 @@ TEST_F(TheMenu, AnOpenWindowComesToTheFrontWhenItIsChosen) {
     Press("mnuSlideMgrBulk");
     ASSERT_TRUE(qobject_cast<frmSlideMgrBulk*>(Area().activeSubWindow()->widget()));
     WindowEntries();
-    WindowMenu()->actions().at(3)->trigger();
+    WindowMenu()->actions().at(4)->trigger();
     EXPECT_TRUE(qobject_cast<frmQuickShow*>(Area().activeSubWindow()->widget()));
-    EXPECT_EQ("&1 Quick Show *", WindowEntries().at(3));
+    EXPECT_EQ("&1 Quick Show *", WindowEntries().at(4));
 }
 
 TEST_F(TheMenu, TileLaysTheWindowsSideBySideAndCascadeOneOverTheOther) {

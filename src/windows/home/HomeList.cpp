@@ -25,7 +25,7 @@ using Kind = HomeCard::Kind;
 constexpr size_t MostSlides = 500;  // more are not looked through; a further word finds better
 constexpr int RenewMs = 100;        // what an import of a thousand slides may cost at most
 constexpr int LearnMs = 20;         // between two parts, while nobody waits
-constexpr int Space = 12, LeastField = 24, MostField = 60;  // pixels; letters
+constexpr int Space = 12;           // logical pixels
 
 bool IsStep(const QKeyEvent& Key) {
     return Key.key() == Qt::Key_Down || Key.key() == Qt::Key_PageDown;
@@ -65,7 +65,6 @@ HomeList::HomeList(QWidget* Parent)
 
 void HomeList::SetUpField() {
     mField->setObjectName(QStringLiteral("txtHomeSearch"));
-    mField->setPlaceholderText(tr("Search albums, slide shows and captions"));
     mField->setAccessibleName(tr("Search albums, slide shows and captions"));
     mField->setToolTip(tr("Type a part of a name or of a caption (Ctrl+F)"));
     mField->setClearButtonEnabled(true);
@@ -73,6 +72,22 @@ void HomeList::SetUpField() {
                       QLineEdit::LeadingPosition);
     mField->installEventFilter(this);
     connect(mField, &QLineEdit::textChanged, this, &HomeList::Search);
+}
+
+// Seen on the ground of the page in every style; and its words are whole or fewer, in every font.
+void HomeList::DressField() {
+    constexpr float Tint = 0.07F;
+    QPalette Colours = palette();
+    const QColor Base = Colours.color(QPalette::Base), Text = Colours.color(QPalette::Text);
+    const auto Mix = [&](float One, float Other) { return One + (Other - One) * Tint; };
+    Colours.setColor(QPalette::Base, QColor::fromRgbF(Mix(Base.redF(), Text.redF()),
+                                                      Mix(Base.greenF(), Text.greenF()),
+                                                      Mix(Base.blueF(), Text.blueF())));
+    mField->setPalette(Colours);
+    const QString Words = tr("Search names and captions");
+    const int Room = mField->width() - 4 * mField->height();  // beside the icons
+    const bool Fits = mField->fontMetrics().horizontalAdvance(Words) < Room;
+    mField->setPlaceholderText(Fits ? Words : tr("Search"));
 }
 
 void HomeList::SetUpView() {
@@ -262,12 +277,20 @@ bool HomeList::eventFilter(QObject* Watched, QEvent* Event) {
 
 void HomeList::changeEvent(QEvent* Event) {
     QWidget::changeEvent(Event);
+    if (Event->type() == QEvent::PaletteChange || Event->type() == QEvent::FontChange) DressField();
     const bool IsBack = Event->type() == QEvent::ActivationChange && isActiveWindow();
     if (IsBack && isVisible()) ShowState();
 }
 
+void HomeList::resizeEvent(QResizeEvent* Event) {
+    QWidget::resizeEvent(Event);
+    layout()->activate();
+    DressField();
+}
+
 void HomeList::showEvent(QShowEvent* Event) {
     QWidget::showEvent(Event);
+    DressField();
     if (!Event->spontaneous()) ShowState();
 }
 

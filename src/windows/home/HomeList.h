@@ -44,9 +44,11 @@ class HomeList : public QWidget {
     bool eventFilter(QObject* Watched, QEvent* Event) override;
     void changeEvent(QEvent* Event) override;
     void showEvent(QShowEvent* Event) override;
+    void resizeEvent(QResizeEvent* Event) override;
 
   private:
     void SetUpField();
+    void DressField();
     void SetUpView();
     void SetUpLayout();
     void SetUpDeeds();
