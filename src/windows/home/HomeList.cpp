@@ -76,9 +76,9 @@ void HomeList::SetUpField() {
 
 // Seen on the ground of the page in every style; and its words are whole or fewer, in every font.
 void HomeList::DressField() {
-    constexpr float Tint = 0.07F;
     QPalette Colours = palette();
     const QColor Base = Colours.color(QPalette::Base), Text = Colours.color(QPalette::Text);
+    const float Tint = Text.lightness() > Base.lightness() ? 0.1F : 0.0F;
     const auto Mix = [&](float One, float Other) { return One + (Other - One) * Tint; };
     Colours.setColor(QPalette::Base, QColor::fromRgbF(Mix(Base.redF(), Text.redF()),
                                                       Mix(Base.greenF(), Text.greenF()),
@@ -195,7 +195,6 @@ void HomeList::ReceiveEvent(const QString& ObjectType, const QString&, const Eve
 }
 
 void HomeList::RenewChanged() {
-    ++mRenewals;
     const int Place = mView->verticalScrollBar()->value();
     const QWidget* Focus = window()->focusWidget();
     mView->Cards().Follow(Cards());

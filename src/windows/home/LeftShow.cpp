@@ -45,6 +45,7 @@ LeftShow::LeftShow(QWidget* Parent)
       mWhere(NewLabel("lblLeftWhere")),
       mPlay(new QPushButton(tr("Play"))) {
     auto* Texts = new QVBoxLayout;
+    Texts->setSpacing(2);
     Texts->addStretch();
     Texts->addWidget(mName);
     Texts->addWidget(mWhere);
