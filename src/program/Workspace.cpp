@@ -42,6 +42,13 @@ bool Workspace::viewportEvent(QEvent* Event) {
     return Handled;
 }
 
+// A child that is minimised is put below all others by the toolkit: its bar would not be seen.
+bool Workspace::eventFilter(QObject* Watched, QEvent* Event) {
+    const bool Handled = QMdiArea::eventFilter(Watched, Event);
+    if (mPage && Event->type() == QEvent::ZOrderChange) mPage->lower();
+    return Handled;
+}
+
 void Workspace::dragEnterEvent(QDragEnterEvent* Event) {
     if (!FirstFolder(*Event->mimeData()).isEmpty()) Event->acceptProposedAction();
 }

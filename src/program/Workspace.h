@@ -19,6 +19,7 @@ class Workspace : public QMdiArea {
 
   protected:
     bool viewportEvent(QEvent* Event) override;
+    bool eventFilter(QObject* Watched, QEvent* Event) override;  // of the children
     void dragEnterEvent(QDragEnterEvent* Event) override;
     void dropEvent(QDropEvent* Event) override;
 

@@ -31,6 +31,12 @@ class HomeInFrame : public MainWindow {
             Count += Each->isVisible() && !Each->isMinimized();
         return Count;
     }
+    // The child that is seen at this place of the area.
+    const QWidget* SeenAt(QPoint At) {
+        const QWidget* Seen = Area().viewport()->childAt(At);
+        while (Seen && Seen->parentWidget() != Area().viewport()) Seen = Seen->parentWidget();
+        return Seen;
+    }
     static void Settle() { QTest::qWait(150); }
 };
 
@@ -87,6 +93,8 @@ TEST_F(HomeInFrame, WindowsStepAsideForItAndComeBackAsTheyWere) {
     EXPECT_EQ(0, Up());
     EXPECT_TRUE(HomeHasKeys());
     EXPECT_EQ(2U, LoadedForms().size()) << "nothing is closed";
+    for (const QMdiSubWindow* Each : Frames)
+        EXPECT_TRUE(Each == SeenAt(Each->geometry().center())) << "its bar is before the home";
     Press("mnuHome");
     EXPECT_EQ(2, Up());
     EXPECT_TRUE(Frames[1]->isMaximized());

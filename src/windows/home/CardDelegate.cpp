@@ -135,18 +135,24 @@ QRectF PaintText(QPainter& Painter, const QRectF& Room, const QFont& Font, const
     return Room.adjusted(0, Y, 0, 0);
 }
 
-QString DateOf(const CardPictures::Known* Known) {
+// Without the day of the week; with a short month where the whole one has no room.
+QString DateOf(const CardPictures::Known* Known, const QFontMetricsF& Metrics, double Room) {
     if (!Known || !Known->Changed) return {};
     static const QRegularExpression DayOfWeek(QStringLiteral(",?\\s*d{3,4}\\s*,?\\s*"));
     QString Format = QLocale().dateFormat(QLocale::LongFormat);
-    return QLocale().toString(Known->Changed->date(), Format.remove(DayOfWeek));
+    const QDate Date = Known->Changed->date();
+    const QString Whole = QLocale().toString(Date, Format.remove(DayOfWeek));
+    if (Metrics.horizontalAdvance(Whole) <= Room) return Whole;
+    return QLocale().toString(Date, Format.replace(QStringLiteral("MMMM"), QStringLiteral("MMM")));
 }
 
-// The last line: of a slide or a show that stands by itself its album, of an album its date.
-QString NoteOf(const HomeCard& Card, const CardPictures::Known* Known) {
-    return Card.Album.isEmpty() ? DateOf(Known) : QObject::tr("in %1").arg(Card.Album);
+// "12 slides," and "2 slide shows" where it takes two lines.
+QString BrokenAtCommas(QString Text) {
+    constexpr QChar NoBreak(0xA0);
+    return Text.replace(u' ', NoBreak).replace(QStringLiteral(",") + NoBreak, QStringLiteral(", "));
 }
 
+// At last of a slide or a show its album, of an album its date.
 void PaintWords(QPainter& Painter, QRectF Room, const HomeCard& Card,
                 const CardPictures::Known* Known, const QFont& Font, const Colours& In) {
     const bool IsCaption = Card.What == HomeCard::Kind::Slide;
@@ -154,8 +160,11 @@ void PaintWords(QPainter& Painter, QRectF Room, const HomeCard& Card,
     Room = PaintText(Painter, Room, IsCaption ? Font : NameFont(Font), Card.Name,
                      IsCaption ? NameLines + 1 : NameLines);
     Painter.setPen(In.Note);
-    Room = PaintText(Painter, Room, Font, CountsOf(Card), NoteLines);
-    PaintText(Painter, Room, Font, NoteOf(Card, Known), 1);
+    Room = PaintText(Painter, Room, Font, BrokenAtCommas(CountsOf(Card)), NoteLines);
+    const QString Note = Card.Album.isEmpty()
+                             ? DateOf(Known, QFontMetricsF(Font, Painter.device()), Room.width())
+                             : QObject::tr("in %1").arg(Card.Album);
+    PaintText(Painter, Room, Font, Note, 1);
 }
 
 }  // namespace
