@@ -27,6 +27,7 @@ constexpr int SettleMs = 50;  // the display server tidies up after the last run
 void MakeLibrary(const QString& Folder) {
     using namespace neb;
     SetDocumentsPath(Folder);
+    MakeDirs(DBPath());
     clsDBEngine Engine;
     Engine.SetDBPath(DBPath());
     Engine.InitializeDB();

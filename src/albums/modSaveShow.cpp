@@ -214,9 +214,9 @@ Answer<Announcement> RenameShow(clsDBEngine& theDB, std::int32_t AlbumID, std::i
     if (!Stored)
         return Refuse(QStringLiteral("The Slide Show you are editing no longer appears to exist."),
                       Deleted);
-    auto Show = Stored->Copy();
-    Show->SlideShowName = Clean;
-    return Changes(theDB, Asker).SaveShow(AlbumID, std::move(*Show));
+    clsNEBSlideShow Show = std::move(*Stored->Copy());
+    Show.SlideShowName = Clean;
+    return Changes(theDB, Asker).SaveShow(AlbumID, std::move(Show));
 }
 
 Answer<> CheckShow(ShowContent& Content, const clsDBEngine& theDB) {

@@ -7,6 +7,22 @@
 namespace neb {
 namespace {
 
+// The area would make the window that comes next as large as the one that goes.
+class Unasked {
+  public:
+    explicit Unasked(QMdiArea& Area) : mArea(Area), mWas(Area.testOption(Which)) {
+        mArea.setOption(Which, true);
+    }
+    ~Unasked() { mArea.setOption(Which, mWas); }
+    Unasked(const Unasked&) = delete;
+    Unasked& operator=(const Unasked&) = delete;
+
+  private:
+    static constexpr auto Which = QMdiArea::DontMaximizeSubWindowOnActivation;
+    QMdiArea& mArea;
+    bool mWas;
+};
+
 bool IsUp(const QMdiSubWindow* Frame) {
     return Frame->isVisible() && !Frame->isMinimized();
 }
@@ -26,11 +42,14 @@ void StepAside::Step() {
         if (IsUp(Frame)) Up.push_back(Frame);
     if (Up.empty()) return;
     for (QMdiSubWindow* Frame : Up) mAside.push_back({Frame, Frame->isMaximized()});
+    const Unasked Quiet(mArea);
+    mArea.setActiveSubWindow(nullptr);
     for (QMdiSubWindow* Frame : Up) Frame->showMinimized();
     mArea.setActiveSubWindow(nullptr);
 }
 
 bool StepAside::ComeBack() {
+    const Unasked Quiet(mArea);
     bool CameBack = false;
     for (const Child& Each : std::exchange(mAside, {})) {
         if (!Each.Frame || !Each.Frame->isMinimized()) continue;

@@ -69,7 +69,7 @@ bool LibrarySearch::Learn(const clsDBEngine& theDB, int Milliseconds) {
     QElapsedTimer Timer;
     Timer.start();
     for (const auto& Album : theDB.Albums) {
-        if (Timer.hasExpired(Milliseconds)) return false;
+        if (Timer.elapsed() > Milliseconds) return false;
         Learned(*Album);
     }
     return true;

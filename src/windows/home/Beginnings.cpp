@@ -122,12 +122,26 @@ BeginningsRow::BeginningsRow(const std::function<void()>& BeginQuickShow, QWidge
         auto* Button = new QToolButton;
         Connect(*Button, Each, BeginQuickShow);
         Button->setText(tr(Each.Text));
-        Button->setIcon(ThemeIcon(QString::fromLatin1(Each.Icon), palette()));
         Button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
         Button->setFocusPolicy(Qt::StrongFocus);
         Button->setAutoRaise(true);
         Row->addWidget(Button);
     }
+    Dress();
+}
+
+void BeginningsRow::Dress() {
+    const int Side = fontMetrics().height();
+    const auto Buttons = findChildren<QToolButton*>();
+    for (qsizetype I = 0; I < Buttons.size(); ++I) {
+        Buttons[I]->setIcon(ThemeIcon(QString::fromLatin1(Beginnings[I].Icon), palette()));
+        Buttons[I]->setIconSize({Side, Side});
+    }
+}
+
+void BeginningsRow::changeEvent(QEvent* Event) {
+    QWidget::changeEvent(Event);
+    if (Event->type() == QEvent::PaletteChange || Event->type() == QEvent::FontChange) Dress();
 }
 
 }  // namespace neb

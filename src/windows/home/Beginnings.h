@@ -26,6 +26,12 @@ class BeginningsRow : public QWidget {
 
   public:
     explicit BeginningsRow(const std::function<void()>& BeginQuickShow, QWidget* Parent = nullptr);
+
+  protected:
+    void changeEvent(QEvent* Event) override;
+
+  private:
+    void Dress();
 };
 
 }  // namespace neb

@@ -6,7 +6,7 @@
 namespace neb {
 namespace {
 
-constexpr int Padding = 14, Gap = 14, IconSide = 40;  // logical pixels
+constexpr int Padding = 14, Gap = 14;  // logical pixels
 constexpr int LettersAcross = 50;
 constexpr double Larger = 1.25;
 
@@ -15,8 +15,11 @@ constexpr double Larger = 1.25;
 BigButton::BigButton(const QString& Text, const QString& Words, QWidget* Parent)
     : QPushButton(Text, Parent), mWords(Words) {
     setAccessibleDescription(Words);
-    setIconSize({IconSide, IconSide});
     setAutoDefault(true);  // Enter presses it, too
+}
+
+int BigButton::IconSide() const {
+    return 5 * fontMetrics().height() / 2;
 }
 
 QFont BigButton::Large() const {
@@ -27,16 +30,16 @@ QFont BigButton::Large() const {
 }
 
 QRect BigButton::RoomForText(QSize Within) const {
-    const int Left = Padding + IconSide + Gap;
+    const int Left = Padding + IconSide() + Gap;
     return {Left, Padding, Within.width() - Left - Padding, Within.height() - 2 * Padding};
 }
 
 QSize BigButton::sizeHint() const {
-    const int Width = LettersAcross * fontMetrics().averageCharWidth() + IconSide + 3 * Padding;
+    const int Width = LettersAcross * fontMetrics().averageCharWidth() + IconSide() + 3 * Padding;
     const QRect Words =
         fontMetrics().boundingRect(RoomForText({Width, QWIDGETSIZE_MAX}), Qt::TextWordWrap, mWords);
     const int Text = QFontMetrics(Large()).lineSpacing() + Words.height();
-    return {Width, std::max(Text, IconSide) + 2 * Padding};
+    return {Width, std::max(Text, IconSide()) + 2 * Padding};
 }
 
 void BigButton::paintEvent(QPaintEvent*) {
@@ -46,7 +49,7 @@ void BigButton::paintEvent(QPaintEvent*) {
     Option.text.clear();
     Option.icon = {};
     Painter.drawControl(QStyle::CE_PushButton, Option);
-    const QRect Icon(Padding, (height() - IconSide) / 2, IconSide, IconSide);
+    const QRect Icon(Padding, (height() - IconSide()) / 2, IconSide(), IconSide());
     icon().paint(&Painter, Icon, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
     QRect Room = RoomForText(size());
     Painter.setPen(palette().color(QPalette::ButtonText));

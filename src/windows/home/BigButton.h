@@ -21,6 +21,7 @@ class BigButton : public QPushButton {
 
   private:
     QFont Large() const;
+    int IconSide() const;
     QRect RoomForText(QSize Within) const;
     QString mWords;
 };

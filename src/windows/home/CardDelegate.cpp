@@ -15,7 +15,7 @@ namespace {
 
 constexpr int Margin = 10, Gap = 6, Radius = 8;  // logical pixels
 constexpr int LeastWidth = 196;
-constexpr int LettersAcross = 21;  // a name of usual length has its place in two lines
+constexpr int LettersAcross = 18;  // a name of usual length has its place in two lines
 constexpr int NameLines = 2, NoteLines = 2;
 constexpr double PileShift = 4;
 constexpr int Badge = 34, IconSide = 48;
@@ -104,10 +104,13 @@ QRectF PaintCover(QPainter& Painter, const QRectF& Room, const CardPictures::Kno
     return Place;
 }
 
-// Wrapped to so many lines; what is over is told by dots. The height that it took.
-double PaintText(QPainter& Painter, const QRectF& Room, const QFont& Font, const QString& Text,
+// Wrapped to so many lines, as far as there is room; what is over is told by dots. The room that is
+// left below.
+QRectF PaintText(QPainter& Painter, const QRectF& Room, const QFont& Font, const QString& Text,
                  int MostLines) {
     const QFontMetricsF Metrics(Font, Painter.device());
+    MostLines = std::min(MostLines, static_cast<int>(Room.height() / Metrics.lineSpacing() + 0.1));
+    if (Text.isEmpty() || MostLines < 1) return Room;
     QTextLayout Layout(QString(Text).replace(u'\n', u' '), Font, Painter.device());
     QTextOption Wrap(Qt::AlignHCenter);
     Wrap.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
@@ -129,19 +132,39 @@ double PaintText(QPainter& Painter, const QRectF& Room, const QFont& Font, const
         Y += Metrics.lineSpacing();
     }
     Layout.endLayout();
-    return Y;
+    return Room.adjusted(0, Y, 0, 0);
 }
 
-QString DateOf(const CardPictures::Known* Known) {
+// Without the day of the week; with a short month where the whole one has no room.
+QString DateOf(const CardPictures::Known* Known, const QFontMetricsF& Metrics, double Room) {
     if (!Known || !Known->Changed) return {};
     static const QRegularExpression DayOfWeek(QStringLiteral(",?\\s*d{3,4}\\s*,?\\s*"));
     QString Format = QLocale().dateFormat(QLocale::LongFormat);
-    return QLocale().toString(Known->Changed->date(), Format.remove(DayOfWeek));
+    const QDate Date = Known->Changed->date();
+    const QString Whole = QLocale().toString(Date, Format.remove(DayOfWeek));
+    if (Metrics.horizontalAdvance(Whole) <= Room) return Whole;
+    return QLocale().toString(Date, Format.replace(QStringLiteral("MMMM"), QStringLiteral("MMM")));
 }
 
-// The last line: of a slide or a show that stands by itself its album, of an album its date.
-QString NoteOf(const HomeCard& Card, const CardPictures::Known* Known) {
-    return Card.Album.isEmpty() ? DateOf(Known) : QObject::tr("in %1").arg(Card.Album);
+// "12 slides," and "2 slide shows" where it takes two lines.
+QString BrokenAtCommas(QString Text) {
+    constexpr QChar NoBreak(0xA0);
+    return Text.replace(u' ', NoBreak).replace(QStringLiteral(",") + NoBreak, QStringLiteral(", "));
+}
+
+// At last of a slide or a show its album, of an album its date.
+void PaintWords(QPainter& Painter, QRectF Room, const HomeCard& Card,
+                const CardPictures::Known* Known, const QFont& Font, const Colours& In) {
+    const bool IsCaption = Card.What == HomeCard::Kind::Slide;
+    Painter.setPen(In.Text);
+    Room = PaintText(Painter, Room, IsCaption ? Font : NameFont(Font), Card.Name,
+                     IsCaption ? NameLines + 1 : NameLines);
+    Painter.setPen(In.Note);
+    Room = PaintText(Painter, Room, Font, BrokenAtCommas(CountsOf(Card)), NoteLines);
+    const QString Note = Card.Album.isEmpty()
+                             ? DateOf(Known, QFontMetricsF(Font, Painter.device()), Room.width())
+                             : QObject::tr("in %1").arg(Card.Album);
+    PaintText(Painter, Room, Font, Note, 1);
 }
 
 }  // namespace
@@ -174,14 +197,9 @@ void CardDelegate::paint(QPainter* Painter, const QStyleOptionViewItem& Option,
                 QSizeF(mSizes.Cover));
     const QRectF Cover = PaintCover(*Painter, Room, Known, *Card, In);
     if (Card->What == HomeCard::Kind::Show) PaintBadge(*Painter, Cover);
-    Room.translate(0, Room.height() + Gap);
-    Painter->setPen(In.Text);
-    const int Lines = Card->What == HomeCard::Kind::Slide ? NameLines + 1 : NameLines;
-    const QFont Names = Card->What == HomeCard::Kind::Slide ? Option.font : NameFont(Option.font);
-    Room.translate(0, PaintText(*Painter, Room, Names, Card->Name, Lines));
-    Painter->setPen(In.Note);
-    Room.translate(0, PaintText(*Painter, Room, Option.font, CountsOf(*Card), 1));
-    PaintText(*Painter, Room, Option.font, NoteOf(*Card, Known), 1);
+    Room.setTop(Room.bottom() + Gap);
+    Room.setBottom(Option.rect.bottom() + 1 - Margin);
+    PaintWords(*Painter, Room, *Card, Known, Option.font, In);
     Painter->restore();
 }
 

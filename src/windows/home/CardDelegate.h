@@ -24,6 +24,7 @@ class CardDelegate : public QStyledItemDelegate {
     CardDelegate(CardPictures& Pictures, QObject* Parent);
 
     void SetSizes(const CardSizes& Sizes) { mSizes = Sizes; }
+    const CardSizes& Sizes() const { return mSizes; }
     void paint(QPainter* Painter, const QStyleOptionViewItem& Option,
                const QModelIndex& Index) const override;
     QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override {

@@ -25,7 +25,7 @@ using Kind = HomeCard::Kind;
 constexpr size_t MostSlides = 500;  // more are not looked through; a further word finds better
 constexpr int RenewMs = 100;        // what an import of a thousand slides may cost at most
 constexpr int LearnMs = 20;         // between two parts, while nobody waits
-constexpr int Space = 12, LeastField = 24, MostField = 60;  // pixels; letters
+constexpr int Space = 12;           // logical pixels
 
 bool IsStep(const QKeyEvent& Key) {
     return Key.key() == Qt::Key_Down || Key.key() == Qt::Key_PageDown;
@@ -65,7 +65,6 @@ HomeList::HomeList(QWidget* Parent)
 
 void HomeList::SetUpField() {
     mField->setObjectName(QStringLiteral("txtHomeSearch"));
-    mField->setPlaceholderText(tr("Search albums, slide shows and captions"));
     mField->setAccessibleName(tr("Search albums, slide shows and captions"));
     mField->setToolTip(tr("Type a part of a name or of a caption (Ctrl+F)"));
     mField->setClearButtonEnabled(true);
@@ -73,6 +72,22 @@ void HomeList::SetUpField() {
                       QLineEdit::LeadingPosition);
     mField->installEventFilter(this);
     connect(mField, &QLineEdit::textChanged, this, &HomeList::Search);
+}
+
+// Seen on the ground of the page in every style; and its words are whole or fewer, in every font.
+void HomeList::DressField() {
+    QPalette Colours = palette();
+    const QColor Base = Colours.color(QPalette::Base), Text = Colours.color(QPalette::Text);
+    const float Tint = Text.lightness() > Base.lightness() ? 0.1F : 0.0F;
+    const auto Mix = [&](float One, float Other) { return One + (Other - One) * Tint; };
+    Colours.setColor(QPalette::Base, QColor::fromRgbF(Mix(Base.redF(), Text.redF()),
+                                                      Mix(Base.greenF(), Text.greenF()),
+                                                      Mix(Base.blueF(), Text.blueF())));
+    mField->setPalette(Colours);
+    const QString Words = tr("Search names and captions");
+    const int Room = mField->width() - 4 * mField->height();  // beside the icons
+    const bool Fits = mField->fontMetrics().horizontalAdvance(Words) < Room;
+    mField->setPlaceholderText(Fits ? Words : tr("Search"));
 }
 
 void HomeList::SetUpView() {
@@ -180,7 +195,6 @@ void HomeList::ReceiveEvent(const QString& ObjectType, const QString&, const Eve
 }
 
 void HomeList::RenewChanged() {
-    ++mRenewals;
     const int Place = mView->verticalScrollBar()->value();
     const QWidget* Focus = window()->focusWidget();
     mView->Cards().Follow(Cards());
@@ -262,12 +276,20 @@ bool HomeList::eventFilter(QObject* Watched, QEvent* Event) {
 
 void HomeList::changeEvent(QEvent* Event) {
     QWidget::changeEvent(Event);
+    if (Event->type() == QEvent::PaletteChange || Event->type() == QEvent::FontChange) DressField();
     const bool IsBack = Event->type() == QEvent::ActivationChange && isActiveWindow();
     if (IsBack && isVisible()) ShowState();
 }
 
+void HomeList::resizeEvent(QResizeEvent* Event) {
+    QWidget::resizeEvent(Event);
+    layout()->activate();
+    DressField();
+}
+
 void HomeList::showEvent(QShowEvent* Event) {
     QWidget::showEvent(Event);
+    DressField();
     if (!Event->spontaneous()) ShowState();
 }
 

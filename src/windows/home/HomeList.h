@@ -32,9 +32,8 @@ class HomeList : public QWidget {
     void Fill();
     void ReceiveEvent(const QString& ObjectType, const QString& EventType,
                       const EventKeys& EventData);
-    void TakeFocus();                           // where the keys do something
-    void FindNext();                            // to the field
-    int Renewals() const { return mRenewals; }  // how often changes were followed
+    void TakeFocus();  // where the keys do something
+    void FindNext();   // to the field
 
   Q_SIGNALS:
     void AlbumWanted(std::int32_t AlbumID, std::int32_t SlideID);
@@ -44,9 +43,11 @@ class HomeList : public QWidget {
     bool eventFilter(QObject* Watched, QEvent* Event) override;
     void changeEvent(QEvent* Event) override;
     void showEvent(QShowEvent* Event) override;
+    void resizeEvent(QResizeEvent* Event) override;
 
   private:
     void SetUpField();
+    void DressField();
     void SetUpView();
     void SetUpLayout();
     void SetUpDeeds();
@@ -71,7 +72,6 @@ class HomeList : public QWidget {
     LibrarySearch mSearch;
     QTimer mRenew, mLearn;
     int mSlidesFound = 0;
-    int mRenewals = 0;
 };
 
 }  // namespace neb

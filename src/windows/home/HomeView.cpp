@@ -71,7 +71,6 @@ void HomeView::SetSizes() {
     const int Bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
     const CardSizes Sizes(font(), maximumViewportSize().width() - Bar);
     mDelegate->SetSizes(Sizes);
-    mPictures->SetBox(Sizes.Cover, devicePixelRatioF());
     if (Sizes.Card == gridSize()) return;
     setGridSize(Sizes.Card);
     verticalScrollBar()->setSingleStep(Sizes.Card.height() / 4);
@@ -94,7 +93,9 @@ void HomeView::Renew(const LibraryHit& Of) {
         viewport()->update();
 }
 
+// The window may have gone to a finer screen.
 void HomeView::paintEvent(QPaintEvent* Event) {
+    mPictures->SetBox(mDelegate->Sizes().Cover, devicePixelRatioF());
     QListView::paintEvent(Event);
     if (mCards->rowCount() > 0 || mEmptyText.isEmpty()) return;
     QPainter Painter(viewport());

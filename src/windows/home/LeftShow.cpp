@@ -13,7 +13,8 @@
 namespace neb {
 namespace {
 
-constexpr QSize CoverSize(96, 72);  // logical pixels
+constexpr QSize CoverSize(84, 63);  // logical pixels
+constexpr int Margin = 6;
 constexpr double Radius = 8;
 
 QLabel* NewLabel(const char* Name) {
@@ -44,11 +45,14 @@ LeftShow::LeftShow(QWidget* Parent)
       mWhere(NewLabel("lblLeftWhere")),
       mPlay(new QPushButton(tr("Play"))) {
     auto* Texts = new QVBoxLayout;
+    Texts->setSpacing(2);
     Texts->addStretch();
     Texts->addWidget(mName);
     Texts->addWidget(mWhere);
     Texts->addStretch();
     auto* Row = new QHBoxLayout(this);
+    Row->setContentsMargins(Margin, Margin, 2 * Margin, Margin);
+    Row->setSpacing(2 * Margin);
     Row->addWidget(mCover);
     Row->addLayout(Texts, 1);
     Row->addWidget(mPlay);
@@ -59,6 +63,7 @@ LeftShow::LeftShow(QWidget* Parent)
     Bold.setBold(true);
     mName->setFont(Bold);
     mPlay->setObjectName(QStringLiteral("cmdLeftPlay"));
+    mPlay->setIconSize(QSize(1, 1) * fontMetrics().height());
     mPlay->setIcon(ThemeIcon(QStringLiteral("slide-show-play"), palette()));
     mPlay->setAutoDefault(true);
     connect(mPlay, &QPushButton::clicked, this, &LeftShow::Play, Qt::QueuedConnection);

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QElapsedTimer>
-#include <QFile>
+#include <QThread>
 
 #include "albums/library/LibraryList.h"
 #include "albums/library/LibrarySearch.h"
@@ -99,7 +99,11 @@ TEST_F(Library, AnAlbumWasChangedWhenItsFoldersWereLast) {
     MakeDirs(SoundTracksFolder(Dir.Path(), Garden));
     ASSERT_TRUE(LastChangeOf(Dir.Path(), Garden));
     EXPECT_LT(LastChangeOf(Dir.Path(), Garden)->secsTo(QDateTime::currentDateTime()), 60);
-    EXPECT_EQ(LastChangeOf(Dir.Path(), Garden), FileTime(SoundTracksFolder(Dir.Path(), Garden)));
+    const auto Before = *LastChangeOf(Dir.Path(), Garden);
+    QThread::msleep(20);
+    WriteFile(SlidesFolder(Dir.Path(), Garden) + u"00000001.jpg"_s, "x");
+    EXPECT_GT(*LastChangeOf(Dir.Path(), Garden), Before);
+    EXPECT_EQ(LastChangeOf(Dir.Path(), Garden), FileTime(SlidesFolder(Dir.Path(), Garden)));
 }
 
 TEST_F(Library, WordsAreFoundInNamesAndCaptionsWhateverTheirCaseAndAccents) {

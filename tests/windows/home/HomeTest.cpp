@@ -227,6 +227,22 @@ TEST_F(TheHome, TheKeysReachEverythingInTheOrderOfThePage) {
               Order.join(u' ').toStdString());
 }
 
+TEST_F(TheHome, EverythingHasANameAndATip) {
+    const auto Garden = AddAlbum(u"Garden"_s, {u"a"_s});
+    LeaveShowAt(Garden, AddShow(Garden, u"Walk"_s), 1);
+    Open();
+    for (const char* Each : {"cmdBeginQuickShow", "cmdBeginAlbum", "cmdBeginImport"}) {
+        const auto& Button = *Page->findChild<QToolButton*>(QLatin1String(Each));
+        EXPECT_FALSE(Button.text().isEmpty() || Button.toolTip().isEmpty()) << Each;
+        EXPECT_TRUE(Button.focusPolicy() & Qt::TabFocus) << Each;
+    }
+    const auto& Play = In<QPushButton>(*Page, "cmdLeftPlay");
+    EXPECT_EQ("Play Walk. Goes on at slide 1 of 1", Play.accessibleName().toStdString());
+    EXPECT_FALSE(Play.toolTip().isEmpty());
+    EXPECT_FALSE(Field().accessibleName().isEmpty() || Field().toolTip().isEmpty());
+    EXPECT_EQ("Albums and slide shows", View().accessibleName().toStdString());
+}
+
 TEST_F(TheHome, TakesNoKeysFromTheWindowsBeforeIt) {
     const auto Garden = AddAlbum(u"Garden"_s, {u"a"_s});
     LeaveShowAt(Garden, AddShow(Garden, u"Walk"_s), 1);
