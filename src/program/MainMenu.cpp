@@ -52,7 +52,7 @@ struct Header {
 
 constexpr Header Headers[] = {
     {"mnuFileHdr", "&File"},
-    {"mnuEditHdr", "&Edit"},
+    {"mnuEditHdr", "Edit"},  // each of its letters means something in the windows inside
     {"mnuAlbumHdr", "&Album"},
     {"mnuSlideShowHdr", "S&lide Show"},  // Alt+S is Save in the windows inside
     {"mnuImportExportHdr", "&Import/Export"},

@@ -271,6 +271,26 @@ TEST_F(Undo, OnAFullDiskADeletionMakesRoom) {
     EXPECT_TRUE(ListDir(Dir / u"Temp/Undo"_s).empty());
 }
 
+TEST_F(Undo, WhoeverNeedsRoomIsGivenThatOfTheOldestFiles) {
+    User.Delete(Garden, {Slides[0]});
+    User.Recaption(Garden, {{Slides[2], u"Reed"_s}});
+    User.Delete(Garden, {Slides[1]});
+    EXPECT_EQ(0, User.Steps().MakeRoom(0)) << "there is enough";
+    EXPECT_EQ("Delete Slide \"Lily\"", NextUndo());
+    User.Steps().MakeRoom(std::int64_t{1} << 60);
+    EXPECT_TRUE(ListDir(Dir / u"Temp/Undo"_s).empty());
+    EXPECT_EQ("Change Caption \"Reed\"", NextUndo()) << "which needs none";
+}
+
+TEST_F(Undo, ASaveThatChangesNothingIsNoStep) {
+    User.SaveSlide(Garden, Slides[0], [](SlideInHand&) {});
+    EXPECT_EQ("", NextUndo());
+    Changes Door(Engine);
+    EXPECT_TRUE(
+        Door.SaveShow(Garden, std::move(*Engine.GetAlbum(Garden)->GetSlideShow(Walk)->Copy())));
+    EXPECT_EQ("", NextUndo());
+}
+
 TEST_F(Undo, AnOrderlyEndLeavesNothingButTheRecordsAsTheyWouldBe) {
     User.Delete(Garden, {Slides[0], Slides[1]});
     User.DeleteAlbum(Garden);

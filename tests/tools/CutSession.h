@@ -15,6 +15,7 @@
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
 #include "db/modLoadRecords.h"
+#include "db/undo/History.h"
 #include "harness/EngineContent.h"
 #include "harness/MemoryFolder.h"
 #include "support/files/modHostFiles.h"
@@ -77,6 +78,7 @@ class CutSession {
         Engine.SetDBPath(Dir);
         Engine.InitializeDB();
         Engine.KeepSession();
+        Engine.Listeners.Keeper = std::make_shared<History>(Engine, 0);
     }
     // All of it. What has been stored counts; a step that cannot be stored is gone on behind.
     void Run(const QString& Dir, const Progress& Told) const {
@@ -200,6 +202,10 @@ class CutSession {
                          {.SlideSeqStart = Place, .SlideSeqEnd = Place, .SoundTrackLoc = Each});
         EXPECT_TRUE(WriteShow(Show, Engine));
     }
+    static void TakeBack(clsDBEngine& Engine, Answer<Undone> (History::*Way)(const Yield&)) {
+        const Answer<Undone> Done = (HistoryOf(Engine)->*Way)({});
+        if (!Done) throw Fault(Done.Refusal().Text);
+    }
     static void DeleteAlbum(clsDBEngine& Engine, std::int32_t AlbumID) {
         Changes Door(Engine);
         Door.DeleteAlbum(AlbumID);
@@ -229,15 +235,23 @@ class CutSession {
                  SaveShow(E, 0, {Folder + u"one.mp3"_s, Folder + u"two.mp3"_s});
              }},
             {"a slide is deleted", false, [](auto& E) { DeleteSlide(E, nullptr, 1, 2); }},
+            {"that is taken back", true, [](auto& E) { TakeBack(E, &History::Undo); }},
+            {"it is done again", true, [](auto& E) { TakeBack(E, &History::Redo); }},
             {"the show is saved again", true,
              [](auto& E) { SaveShow(E, 1, {Folder + u"three.wav"_s}); }},
             {"the show is deleted", false, [](auto& E) { Changes(E).DeleteShow(1, 1); }},
+            {"that is taken back", true, [](auto& E) { TakeBack(E, &History::Undo); }},
+            {"it is done again", true, [](auto& E) { TakeBack(E, &History::Redo); }},
             {"another show is saved", true,
              [](auto& E) { SaveShow(E, 0, {Folder + u"two.mp3"_s}); }},
             {"the album is renamed", false, [](auto& E) { Changes(E).RenameAlbum(1, u"Парк"_s); }},
             {"the sound is cleared", true,
              [](auto& E) { Save(E, 1, [](auto& Slide) { Slide.ClearSound(); }); }},
+            {"that is taken back", true, [](auto& E) { TakeBack(E, &History::Undo); }},
+            {"it is done again", true, [](auto& E) { TakeBack(E, &History::Redo); }},
             {"an album is deleted", false, [](auto& E) { DeleteAlbum(E, 2); }},
+            {"that is taken back", true, [](auto& E) { TakeBack(E, &History::Undo); }},
+            {"it is done again", true, [](auto& E) { TakeBack(E, &History::Redo); }},
             {"all is written", false, [](auto& E) { E.FinalizeDB(); }},
             {"a caption is written behind it", false,
              [](auto& E) { Changes(E).SaveCaption(1, 3, u"behind"_s); }},

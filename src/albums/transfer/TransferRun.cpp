@@ -6,6 +6,7 @@
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
 #include "db/modLoadRecords.h"
+#include "db/undo/History.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
@@ -78,8 +79,12 @@ class TransferRun {
         std::erase_if(mFiles, [&](const FoundFile& Each) { return Thumbnails.contains(Each.To); });
     }
 
-    Answer<> HasRoom() const {
-        return CheckRoom(AllOf(mFiles).OfBytes + RoomForRecords, mRoom, mDB.DBPath());
+    // What is kept to be undone gives way.
+    Answer<> HasRoom() {
+        const qint64 Needed = AllOf(mFiles).OfBytes + RoomForRecords;
+        History* const Kept = HistoryOf(mDB);
+        if (Kept && mRoom >= 0 && mRoom < Needed) mRoom += Kept->MakeRoom(Needed);
+        return CheckRoom(Needed, mRoom, mDB.DBPath());
     }
 
     // While files were copied others may have been at work, and the numbers no longer free.

@@ -42,6 +42,10 @@ bool HasFiles(const UndoStep& Step) {
     return std::ranges::any_of(Step.Files, [](const auto& Each) { return !Each.Kept.isEmpty(); });
 }
 
+bool HasParts(const UndoStep& Step) {
+    return !Step.Were.Slides.empty() || !Step.Were.Shows.empty();
+}
+
 BoxRequest CannotUndo(const QString& Name, const QString& Why) {
     return Refuse(QStringLiteral("\"%1\" cannot be taken back.\n%2").arg(Name, Why),
                   QStringLiteral("Undo"));
@@ -78,7 +82,8 @@ void History::SlideChanged(StepID Step, std::int32_t AlbumID, ThingAt<clsNEBSlid
                            const clsNEBSlide* Now) {
     UndoStep* const Its = Open(Step, AlbumID);
     if (!Its) return;
-    Its->HasChanged = true;
+    const bool IsNew = !Now || !IsSameSlide(*Before.Was, *Now);
+    Its->HasChanged = Its->HasChanged || IsNew || !Its->Files.empty();
     const auto There = Its->SlidePlaces.constFind(Before.ID);
     if (There != Its->SlidePlaces.cend()) {
         Its->SlidesNow[*There] = CopyOf(Now);
@@ -93,7 +98,8 @@ void History::ShowChanged(StepID Step, std::int32_t AlbumID, ThingAt<clsNEBSlide
                           const clsNEBSlideShow* Now) {
     UndoStep* const Its = Open(Step, AlbumID);
     if (!Its) return;
-    Its->HasChanged = true;
+    const bool IsNew = !Now || !IsSameShow(*Before.Was, *Now);
+    Its->HasChanged = Its->HasChanged || IsNew || !Its->Files.empty();
     const auto There = std::ranges::find(Its->Were.Shows, Before.ID, &ThingAt<clsNEBSlideShow>::ID);
     if (There != Its->Were.Shows.end()) {
         Its->ShowsNow[static_cast<size_t>(There - Its->Were.Shows.begin())] = CopyOf(Now);
@@ -167,10 +173,10 @@ void History::Drop(Steps& From, const std::function<bool(const UndoStep&)>& Whic
 }
 
 // What was undone goes first, then the oldest, until there is room; But stays.
-bool History::HasRoom(StepID But) {
-    const auto IsShort = [this] {
+bool History::LetGoUntil(qint64 Wanted, StepID But) {
+    const auto IsShort = [&] {
         const qint64 Free = FreeSpace(mDB.DBPath());
-        return Free >= 0 && Free < mRoom;
+        return Free >= 0 && Free < Wanted;
     };
     if (!IsShort()) return true;
     Drop(mUndone, [](const auto&) { return true; });
@@ -182,6 +188,12 @@ bool History::HasRoom(StepID But) {
         Drop(mDone, [Goes](const auto& Each) { return Each.ID == Goes; });
     }
     return true;
+}
+
+qint64 History::MakeRoom(qint64 Wanted) {
+    const qint64 Before = FreeSpace(mDB.DBPath());
+    LetGoUntil(Wanted, 0);
+    return FreeSpace(mDB.DBPath()) - Before;
 }
 
 bool History::Take(StepID Step, const QString& Path) {
@@ -210,6 +222,7 @@ void History::Replaced(StepID Step, const QString& Path, const QString& Held) {
     if (!Its || Its->Paths.contains(Path)) return mFiles.Drop(Held);
     Its->Files.push_back({Path, Held});
     Its->Paths.insert(Path);
+    Its->HasChanged = Its->HasChanged || HasParts(*Its);
 }
 
 void History::ReplacedBeside(StepID Step, const QString& Path, const QString& Beside) {

@@ -39,6 +39,9 @@ class History : public ChangeKeeper {
     // then. LetRun is called while many files are moved.
     Answer<Undone> Undo(const Yield& LetRun = {});
     Answer<Undone> Redo(const Yield& LetRun = {});
+    // Lets go of files, the oldest first, until so many bytes are free, or none are kept; how many
+    // more are free then.
+    qint64 MakeRoom(qint64 Wanted);
 
     StepID NextStep() override { return ++mNext; }
     void SlideChanged(StepID Step, std::int32_t AlbumID, ThingAt<clsNEBSlide> Before,
@@ -62,7 +65,8 @@ class History : public ChangeKeeper {
     using Steps = std::vector<UndoStep>;
 
     UndoStep* Open(StepID Step, std::int32_t AlbumID);
-    bool HasRoom(StepID But);
+    bool HasRoom(StepID But) { return LetGoUntil(mRoom, But); }
+    bool LetGoUntil(qint64 Free, StepID But);
     void DropFilesOf(UndoStep& Step);
     void DropWith(const UndoStep& Step);
     void Drop(Steps& From, const std::function<bool(const UndoStep&)>& Which);

@@ -77,12 +77,6 @@ bool IsAsLeft(const clsNEBSlide& There, const clsNEBSlide& Was, const clsNEBSlid
     return Is;
 }
 
-bool IsSame(const clsNEBSlide& One, const clsNEBSlide& Other) {
-    bool Is = One.SlideID == Other.SlideID;
-    ForEachField([&](auto Field) { Is = Is && !Differ(One, Other, Field); });
-    return Is;
-}
-
 QString WhyNotSlides(const UndoStep& Step, const clsNEBAlbum& Album) {
     const SlidesByID Slides(Album);
     for (size_t I = 0; I < Step.Were.Slides.size(); ++I) {
@@ -91,7 +85,7 @@ QString WhyNotSlides(const UndoStep& Step, const clsNEBAlbum& Album) {
         const clsNEBSlide* There = Slides.Find(Step.Were.Slides[I].ID);
         if (!There != !Now) return SlideChanged;
         if (!Now) continue;
-        if (Was ? !IsAsLeft(*There, *Was, *Now) : !IsSame(*There, *Now)) return SlideChanged;
+        if (Was ? !IsAsLeft(*There, *Was, *Now) : !IsSameSlide(*There, *Now)) return SlideChanged;
     }
     return {};
 }
@@ -178,6 +172,12 @@ bool ShareAnything(const UndoStep& One, const UndoStep& Other) {
     if (AreOfOneAlbum && One.Were.Name && Other.Were.Name) return true;
     return One.Paths.intersects(Other.Paths) || ShareSlide(One, Other) ||
            ShareKey(One.Were.Shows, Other.Were.Shows);
+}
+
+bool IsSameSlide(const clsNEBSlide& One, const clsNEBSlide& Other) {
+    bool Is = One.SlideID == Other.SlideID;
+    ForEachField([&](auto Field) { Is = Is && !Differ(One, Other, Field); });
+    return Is;
 }
 
 bool IsSameShow(const clsNEBSlideShow& One, const clsNEBSlideShow& Other) {

@@ -46,6 +46,7 @@ class SlidesByID {
 QString NameOfStep(const UndoStep& Step);
 // Whether both are about one thing, or one file.
 bool ShareAnything(const UndoStep& One, const UndoStep& Other);
+bool IsSameSlide(const clsNEBSlide& One, const clsNEBSlide& Other);
 bool IsSameShow(const clsNEBSlideShow& One, const clsNEBSlideShow& Other);
 
 // Why it cannot be undone as things are now: something else has changed them since. Empty: it can.
