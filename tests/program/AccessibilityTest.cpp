@@ -37,6 +37,7 @@
 #include "windows/recorder/frmSoundRecorder.h"
 #include "windows/rehearsal/frmRehearsal.h"
 #include "windows/show/frmPreferences.h"
+#include "windows/slides/frmSetCaptions.h"
 #include "windows/slides/frmSlideDBM.h"
 #include "windows/slides/frmSlideMgrBulk.h"
 #include "windows/transfer/frmAlbumExport.h"
@@ -107,9 +108,9 @@ using Windows =
                      frmGetObjectName, frmInputBox, frmPrintAlbum, frmPrintPreview, frmPrintSheet,
                      frmPrintSlide, frmPrintSlideShow, frmHelp, frmImportFilter, frmLoading,
                      frmMsgBoxEx, frmNewAlbumWzd1, frmPreferences, frmQuickShow, frmRestore,
-                     frmDamage, frmRehearsal, frmSlideDBM, frmSlideMgrBulk, frmSlideShowDBM,
-                     frmSlideShowExport, frmSlideShowImport, frmSlideShowView, frmSoundRecorder,
-                     frmTransferProgress>;
+                     frmDamage, frmRehearsal, frmSetCaptions, frmSlideDBM, frmSlideMgrBulk,
+                     frmSlideShowDBM, frmSlideShowExport, frmSlideShowImport, frmSlideShowView,
+                     frmSoundRecorder, frmTransferProgress>;
 TYPED_TEST_SUITE(EachWindow, Windows);
 
 TYPED_TEST(EachWindow, HasNamesToolTipsAndReachableControls) {

@@ -29,7 +29,8 @@ FindRow::FindRow(QWidget* Parent) : QWidget(Parent) {
     mFound->setObjectName(QStringLiteral("lblFound"));
     mFound->setTextFormat(Qt::PlainText);
     mFound->setWordWrap(true);
-    Lines->addWidget(mFound, LineSaid, ColField, 1, -1);
+    Lines->addWidget(mFound, LineSaid, ColField);
+    Lines->setColumnStretch(ColField, 1);
     connect(mFind, &QLineEdit::textChanged, this, &FindRow::WordsTyped);
     connect(mExact, &QCheckBox::toggled, this, &FindRow::WordsTyped);
     hide();
@@ -40,11 +41,11 @@ void FindRow::AddFinding(QGridLayout& Lines) {
     mFind->setToolTip(tr("Words to look for in the captions (Enter: the next one, Esc: close)"));
     mFinding = {NewButton(QStringLiteral("cmdFindNext"), tr("Find Ne&xt"),
                           tr("Go to the next caption that holds it (F3)"), &FindRow::FindNext)};
-    Lines.addWidget(mFinding.front(), LineFind, ColFirst);
+    Lines.addWidget(mFinding.front(), LineFind, ColFirst, 1, -1);
     mExact = new QCheckBox(tr("&Match case and accents"));
     mExact->setObjectName(QStringLiteral("chkExact"));
     mExact->setToolTip(tr("Off: garden finds Garden, and cafe finds café"));
-    Lines.addWidget(mExact, LineFind, ColSecond, 1, -1);
+    Lines.addWidget(mExact, LineSaid, ColFirst, 1, -1);
 }
 
 void FindRow::AddReplacing(QGridLayout& Lines) {
@@ -84,11 +85,6 @@ QPushButton* FindRow::NewButton(const QString& Name, const QString& Text, const 
     return Button;
 }
 
-void FindRow::Say(const QString& Text) {
-    mFound->setText(Text);
-    mFound->setVisible(!Text.isEmpty());
-}
-
 void FindRow::SearchIn(const Place& Where, std::function<void(std::function<void()>)> Run) {
     mPlace = Where;
     mRun = std::move(Run);
@@ -115,7 +111,7 @@ void FindRow::Close() {
 
 void FindRow::WordsTyped() {
     mLastKey.clear();
-    Say({});
+    mFound->clear();
     const bool Words = !mFind->text().isEmpty();
     for (QPushButton* Each : mFinding) Each->setEnabled(Words);
     for (QPushButton* Each : mReplacing) Each->setEnabled(Words && mPlace.MayReplace);
@@ -137,7 +133,7 @@ std::vector<int> FindRow::RowsFound() const {
 void FindRow::FindNext() {
     if (isHidden() || mFind->text().isEmpty()) return Open(false);
     const std::vector<int> Rows = RowsFound();
-    if (Rows.empty()) return Say(tr("No caption holds it."));
+    if (Rows.empty()) return mFound->setText(tr("No caption holds it."));
     const int Now = mPlace.Grid->Row();
     const bool IsLast =
         Now >= 0 && !mLastKey.isEmpty() && mPlace.Grid->TextMatrix(Now, mPlace.KeyCol) == mLastKey;
@@ -147,7 +143,7 @@ void FindRow::FindNext() {
     GoTo(*Next);
     const QString Words =
         Again ? tr("Caption %1 of %2, from the top again") : tr("Caption %1 of %2");
-    Say(Words.arg(Grouped(Next - Rows.begin() + 1), Grouped(std::ssize(Rows))));
+    mFound->setText(Words.arg(Grouped(Next - Rows.begin() + 1), Grouped(std::ssize(Rows))));
 }
 
 void FindRow::GoTo(int Row) {
@@ -192,7 +188,7 @@ void FindRow::ReplaceAll() {
     if (Changed.size() < Rows.size())
         Told += tr(" %1 would have become too long and stay.")
                     .arg(Grouped(std::ssize(Rows) - std::ssize(Changed)));
-    Say(Told);
+    mFound->setText(Told);
     if (!Changed.empty()) Q_EMIT Replaced(Changed);
 }
 

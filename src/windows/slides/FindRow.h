@@ -6,7 +6,7 @@
 #include <QWidget>
 #include <functional>
 
-#include "support/FindParts.h"
+#include "windows/slides/FindParts.h"
 
 QT_BEGIN_NAMESPACE
 class QCheckBox;
@@ -56,7 +56,6 @@ class FindRow : public QWidget {
     QLineEdit* AddField(QGridLayout& Lines, int Line, const QString& Label, const QString& Name);
     QPushButton* NewButton(const QString& Name, const QString& Text, const QString& Tip,
                            Action Does);
-    void Say(const QString& Text);
     void Do(Action What);
     void Replace();
     void ReplaceAll();

@@ -1,12 +1,12 @@
 #include "windows/slides/frmSetCaptions.h"
 
-#include "albums/CaptionPattern.h"
 #include "controls/fields/CaptionCount.h"
 #include "controls/fields/Icons.h"
 #include "controls/grid/FlexGrid.h"
 #include "support/Grouped.h"
 #include "ui_frmSetCaptions.h"
 #include "windows/albums/modAlbumNames.h"
+#include "windows/slides/CaptionPattern.h"
 
 namespace neb {
 namespace {

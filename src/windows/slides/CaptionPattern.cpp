@@ -1,4 +1,4 @@
-#include "albums/CaptionPattern.h"
+#include "windows/slides/CaptionPattern.h"
 
 #include <QRegularExpression>
 

@@ -1,5 +1,5 @@
 // Where words stand in a caption, and what comes of replacing them.
-#include "support/FindParts.h"
+#include "windows/slides/FindParts.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // One text for many captions: its numbers, the captions of now in it, and the most that fits.
-#include "albums/CaptionPattern.h"
+#include "windows/slides/CaptionPattern.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "support/FindParts.h"
+#include "windows/slides/FindParts.h"
 
 #include <QTextBoundaryFinder>
 #include <algorithm>
