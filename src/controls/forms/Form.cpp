@@ -7,6 +7,7 @@
 
 #include "controls/fields/WheelGuard.h"
 #include "controls/forms/DefaultButton.h"
+#include "controls/forms/ScrollWithin.h"
 #include "controls/forms/StandOver.h"
 
 namespace neb {
@@ -43,6 +44,7 @@ void Form::Load() {
     }
     KeepDefaultButton(*this);
     KeepChoicesFromWheel(*this);
+    ScrollWithinScreen(*this);
 }
 
 void Form::ShowModal() {

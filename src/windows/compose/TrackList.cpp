@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QPainter>
+#include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <QUrl>
 
@@ -123,6 +124,13 @@ void TrackList::SetUp(bool Editable) {
     SetBeforeEdit([this](int Row, int) { return Row < Rows(); });
     setItemDelegateForColumn(ColPlay, new PlayButtons(this));
     viewport()->setAcceptDrops(true);
+}
+
+QSize TrackList::minimumSizeHint() const {
+    const int Rows = 2 * verticalHeader()->defaultSectionSize();
+    const int Edges = horizontalHeader()->sizeHint().height() +
+                      horizontalScrollBar()->sizeHint().height() + 2 * frameWidth();
+    return FlexGrid::minimumSizeHint().expandedTo({0, Rows + Edges});
 }
 
 void TrackList::SetUpColumns() {
