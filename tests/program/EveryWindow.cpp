@@ -175,7 +175,7 @@ const Row Rows[] = {
     {"frmCheckPictures", &OpenModeless<frmCheckPictures>},
     {"frmGetObjectName",
      [](auto&) { NewForm<frmGetObjectName>()->GetObjectName(u"Garden in the Summer"_s); }},
-    {"frmSlideDBM", [](auto&) { NewForm<frmSlideDBM>()->LoadSlideMgr(); }},
+    {"frmSlideDBM", [](auto&) { NewForm<frmSlideDBM>()->LoadSlideMgr(); }, true},
     {"frmSlideMgrBulk", [](auto& On) { NewForm<frmSlideMgrBulk>()->LoadAlbumMgr(On.AlbumID); }},
     {"frmSoundRecorder", &OpenModeless<frmSoundRecorder>},
     {"frmPicturePopup",

@@ -44,6 +44,10 @@ constexpr QStyle::PrimitiveElement Drawn[] = {
     QStyle::PE_IndicatorSpinDown,  QStyle::PE_IndicatorSpinUp,
 };
 
+// Some styles draw their frames in a shade of the window, which is not seen in dark colours.
+constexpr QStyle::PrimitiveElement Framed[] = {QStyle::PE_IndicatorCheckBox,
+                                               QStyle::PE_IndicatorRadioButton};
+
 constexpr QStyle::ComplexControl WithArrows[] = {
     QStyle::CC_ComboBox, QStyle::CC_ScrollBar,  QStyle::CC_Slider,
     QStyle::CC_SpinBox,  QStyle::CC_ToolButton,
@@ -52,6 +56,11 @@ constexpr QStyle::ComplexControl WithArrows[] = {
 template <class List, class Value>
 bool Has(const List& Of, Value Wanted) {
     return std::find(std::begin(Of), std::end(Of), Wanted) != std::end(Of);
+}
+
+bool IsDark(const QPalette& Palette) {
+    return Palette.color(QPalette::Window).lightness() <
+           Palette.color(QPalette::WindowText).lightness();
 }
 
 QFont FontOf(const QWidget* Widget) {
@@ -160,6 +169,12 @@ void GrowingStyle::drawComplexControl(ComplexControl Control, const QStyleOption
 
 void GrowingStyle::drawPrimitive(PrimitiveElement Element, const QStyleOption* Option,
                                  QPainter* Painter, const QWidget* Widget) const {
+    const auto* Box = qstyleoption_cast<const QStyleOptionButton*>(Option);
+    if (Box && IsDark(Box->palette) && Has(Framed, Element)) {
+        QStyleOptionButton Seen = *Box;
+        Seen.palette.setColor(QPalette::Window, Seen.palette.color(QPalette::Text));
+        return QProxyStyle::drawPrimitive(Element, &Seen, Painter, Widget);
+    }
     const GrownArrows Grown(Option, Widget, Has(Drawn, Element));
     QProxyStyle::drawPrimitive(Element, Option, Painter, Widget);
 }

@@ -1,6 +1,7 @@
 // The desktop's style with arrows, boxes to tick, icons, scroll bars and title bars that grow with
 // the letters beside them: styles draw them at a size of their own, whatever the font. The
-// application sets it once (NebApplication). Up to 10 points all is as the desktop draws it.
+// application sets it once (NebApplication). Up to 10 points all is as the desktop draws it, but
+// for boxes to tick in dark colours, which have a frame that is seen.
 #pragma once
 
 #include <QProxyStyle>

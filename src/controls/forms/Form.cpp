@@ -7,6 +7,7 @@
 
 #include "controls/fields/WheelGuard.h"
 #include "controls/forms/DefaultButton.h"
+#include "controls/forms/LabelTips.h"
 #include "controls/forms/ScrollWithin.h"
 #include "controls/forms/StandOver.h"
 
@@ -44,6 +45,7 @@ void Form::Load() {
     }
     KeepDefaultButton(*this);
     KeepChoicesFromWheel(*this);
+    GiveLabelsTips(*this);
     ScrollWithinScreen(*this);
 }
 

@@ -56,6 +56,13 @@ FlexGrid::FlexGrid(QWidget* Parent)
     horizontalHeader()->setHighlightSections(false);
     FitAll();
     new GridColumns(*this);
+    const auto TellRows = [this] {
+        const bool Tells = !accessibleDescription().isEmpty();
+        if (!mEmptyText.isEmpty() && Tells != (Rows() == 0)) SetEmptyText(mEmptyText);
+    };
+    connect(mModel, &QAbstractItemModel::rowsInserted, this, TellRows);
+    connect(mModel, &QAbstractItemModel::rowsRemoved, this, TellRows);
+    connect(mModel, &QAbstractItemModel::modelReset, this, TellRows);
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
         if (!Redraw()) return;
         mSelectionKnown = false;

@@ -62,6 +62,7 @@ class TrackList : public FlexGrid {
   private:
     void SetUpColumns();
     void OrderColumns();
+    void ExplainColumns();
     void OfferPlaces();
     bool FilterDrop(QEvent& Event);
     void TakeFiles(const QStringList& Files, int Row);
