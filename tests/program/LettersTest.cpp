@@ -133,7 +133,7 @@ TEST_P(EveryWindowAt, ShowsAllOfItselfOnASmallScreen) {
 
 INSTANTIATE_TEST_SUITE_P(Points, EveryWindowAt,
                          ::testing::Values(Letters{9, false}, Letters{11, false}, Letters{14, true},
-                                           Letters{20, false}),
+                                           Letters{20, false}, Letters{20, true, true}),
                          [](const auto& Row) {
                              return std::to_string(Row.param.Points) +
                                     (Row.param.Dark ? "Dark" : "Light") +

@@ -20,7 +20,7 @@ class Hint : public QLabel {
         setAttribute(Qt::WA_TransparentForMouseEvents);
         View.viewport()->installEventFilter(this);
         const int Narrow = Letters * fontMetrics().averageCharWidth();
-        const int Headings = View.height() - View.viewport()->height();
+        const int Headings = 2 * fontMetrics().height();  // and the frame
         View.setMinimumHeight(heightForWidth(Narrow) + Headings + 2 * fontMetrics().height());
         const auto* Rows = View.model();
         connect(Rows, &QAbstractItemModel::rowsInserted, this, &Hint::Follow);

@@ -1,6 +1,7 @@
 #include "controls/fields/WholeRows.h"
 
 #include <QEvent>
+#include <QLayout>
 #include <QListView>
 #include <algorithm>
 
@@ -35,7 +36,14 @@ class RowsWatch : public QObject {
         const int High = Place(Count - 1).bottom() - Place(0).top() + 1 + 2 * mList.spacing();
         const int Edges = mList.height() - mList.viewport()->height();
         const int Wanted = std::min(High, MostRows * Row) + Edges;
-        if (Wanted != mList.height()) mList.setFixedHeight(Wanted);
+        if (High <= 0 || Wanted == mList.height()) return;  // not laid out yet, or right
+        mList.setSizePolicy(mList.sizePolicy().horizontalPolicy(), QSizePolicy::Fixed);
+        mList.setFixedHeight(Wanted);
+        // a window with a least size of its own has it for the rows of before
+        QWidget& Window = *mList.window();
+        if (Window.layout() && !Window.minimumSize().isNull())
+            Window.setMinimumSize(
+                Window.minimumSize().expandedTo(Window.layout()->totalMinimumSize()));
     }
 
     QListView& mList;

@@ -1,5 +1,6 @@
 // What the user does with a FlexGrid: keys, mouse, edits, and what stands in an empty one.
 #include <QComboBox>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -37,8 +38,10 @@ void FlexGrid::SetEmptyText(const QString& Text) {
     TellEmptiness(*this, Text);
     const QFontMetrics Letters = fontMetrics();
     const QRect Narrow(0, 0, EmptyLetters * Letters.averageCharWidth(), 1);
+    const QHeaderView& Headings = *horizontalHeader();
+    const int Edges = 2 * frameWidth() + (Headings.isHidden() ? 0 : Headings.sizeHint().height());
     const int High = Letters.boundingRect(Narrow, Qt::TextWordWrap, Text).height() +
-                     2 * Letters.height() + height() - viewport()->height();
+                     2 * Letters.height() + Edges;
     setMinimumHeight(std::max(minimumHeight(), High));
     viewport()->update();
 }

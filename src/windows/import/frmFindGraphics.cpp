@@ -207,7 +207,6 @@ void frmFindGraphics::SearchChosen() {
     mUi->lblResults->setText(QStringLiteral("0 Results"));
     mUi->lblSelected->setText(QStringLiteral("0 Selected"));
     mUi->flxResults->SetRows(0);
-    mUi->flxResults->SetEmptyText(tr("Looking for pictures.\nThose found are listed here."));
     DoEvents();
     if (mUi->cboSearchPath->currentText() != AllDrives) {
         SearchDirectory(mUi->cboSearchPath->currentText());
@@ -222,9 +221,6 @@ void frmFindGraphics::SearchEnded() {
     EnableForSearch(false);
     mUi->cmdImport->setEnabled(Ended.Results > 0);
     mUi->lblResults->setText(QString::number(Ended.Results) + QStringLiteral(" Results"));
-    mUi->flxResults->SetEmptyText(
-        tr("No pictures were found.\nChoose another path, another name or more types, and press "
-           "Search."));
     setWindowTitle(Caption);
     if (IsLoaded() && !focusWidget()) mUi->flxResults->setFocus();
     if (Ended.DrivesMoved) FollowDrives();
