@@ -9,6 +9,8 @@
 namespace neb {
 namespace {
 
+constexpr double TitleGrowth = 1.6;  // of the other letters
+
 // The tools of the usual desktops, with what shows the machine in each.
 constexpr const char* SysInfoTools[][2] = {
     {"kinfocenter", ""},
@@ -35,6 +37,9 @@ bool StartTool(const char* Program, const char* Argument) {
 
 frmAbout::frmAbout() : mUi(std::make_unique<Ui::frmAbout>()) {
     mUi->setupUi(this);
+    QFont Title = mUi->lblTitle->font();
+    Title.setPointSizeF(QFontInfo(font()).pointSizeF() * TitleGrowth);
+    mUi->lblTitle->setFont(Title);
     mUi->lblVersion->setText(tr("Version ") + QApplication::applicationVersion());
     mUi->picIcon->setPixmap(QApplication::windowIcon().pixmap(96, 96));
     connect(mUi->cmdOK, &QPushButton::clicked, this, &frmAbout::Unload);

@@ -7,6 +7,8 @@
 
 #include "controls/fields/WheelGuard.h"
 #include "controls/forms/DefaultButton.h"
+#include "controls/forms/LabelTips.h"
+#include "controls/forms/ScrollWithin.h"
 #include "controls/forms/StandOver.h"
 
 namespace neb {
@@ -43,6 +45,8 @@ void Form::Load() {
     }
     KeepDefaultButton(*this);
     KeepChoicesFromWheel(*this);
+    GiveLabelsTips(*this);
+    ScrollWithinScreen(*this);
 }
 
 void Form::ShowModal() {

@@ -2,6 +2,8 @@
 
 #include <QScopeGuard>
 
+#include "controls/fields/GrowingStyle.h"
+#include "controls/fields/HintColour.h"
 #include "controls/forms/ScreenPointer.h"
 #include "support/ReasonOf.h"
 #include "support/Services.h"
@@ -33,6 +35,25 @@ void ReportOrGoOn(const std::exception& Problem) noexcept {
 }
 
 }  // namespace
+
+NebApplication::NebApplication(int& ArgumentCount, char** Arguments)
+    : QApplication(ArgumentCount, Arguments) {
+    setStyle(new GrowingStyle);
+    MendHints();
+}
+
+// The colours that are the desktop's own stay so, and change with it.
+void NebApplication::MendHints() {
+    QPalette Mended = palette();
+    MakeHintsReadable(Mended);
+    if (Mended != palette()) setPalette(Mended);
+}
+
+bool NebApplication::event(QEvent* Event) {
+    const bool Handled = QApplication::event(Event);
+    if (Event->type() == QEvent::ApplicationPaletteChange) MendHints();
+    return Handled;
+}
 
 bool NebApplication::notify(QObject* Receiver, QEvent* Event) {
     try {

@@ -1,5 +1,6 @@
 // The application object: a fault that no routine has handled ends here, in a box that says what
-// failed and on which file, and the program goes on.
+// failed and on which file, and the program goes on. What the desktop draws grows with its letters,
+// and hints can be read in its colours.
 #pragma once
 
 #include <QApplication>
@@ -10,8 +11,14 @@ class NebApplication : public QApplication {
     Q_OBJECT
 
   public:
-    using QApplication::QApplication;
+    NebApplication(int& ArgumentCount, char** Arguments);
     bool notify(QObject* Receiver, QEvent* Event) override;
+
+  protected:
+    bool event(QEvent* Event) override;
+
+  private:
+    void MendHints();
 };
 
 }  // namespace neb

@@ -4,6 +4,7 @@
 #include <QScrollBar>
 
 #include "controls/grid/FlexGridDelegate.h"
+#include "controls/grid/GridColumns.h"
 #include "support/FlagText.h"
 
 namespace neb {
@@ -54,6 +55,14 @@ FlexGrid::FlexGrid(QWidget* Parent)
     verticalHeader()->setMinimumSectionSize(1);
     horizontalHeader()->setHighlightSections(false);
     FitAll();
+    new GridColumns(*this);
+    const auto TellRows = [this] {
+        const bool Tells = !accessibleDescription().isEmpty();
+        if (!mEmptyText.isEmpty() && Tells != (Rows() == 0)) SetEmptyText(mEmptyText);
+    };
+    connect(mModel, &QAbstractItemModel::rowsInserted, this, TellRows);
+    connect(mModel, &QAbstractItemModel::rowsRemoved, this, TellRows);
+    connect(mModel, &QAbstractItemModel::modelReset, this, TellRows);
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
         if (!Redraw()) return;
         mSelectionKnown = false;
@@ -194,7 +203,9 @@ void FlexGrid::FitColumn(int Col) {
     Header.setSectionResizeMode(Col, Each.Stretch                     ? QHeaderView::Stretch
                                      : Each.Kind == FlexKind::Picture ? QHeaderView::Fixed
                                                                       : QHeaderView::Interactive);
-    if (!Each.Stretch) Header.resizeSection(Col, WidthFor(Each, fontMetrics()));
+    const int OfHeading = Each.Heading.isEmpty() ? 0 : Header.sectionSizeHint(Col);
+    if (!Each.Stretch)
+        Header.resizeSection(Col, std::max(WidthFor(Each, fontMetrics()), OfHeading));
     setColumnHidden(Col, Each.Hidden);
     Header.setVisible(mModel->HasHeadings());
 }

@@ -1,5 +1,6 @@
 // What the user does with a FlexGrid: keys, mouse, edits, and what stands in an empty one.
 #include <QComboBox>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -11,10 +12,18 @@
 namespace neb {
 namespace {
 
+constexpr int EmptyLetters = 24;  // in a line of what an empty list says, at the least
+
 void ToggleCheck(FlexGrid& Grid, int Row, int Col) {
     const bool On = !Grid.Checked(Row, Col);
     Grid.SetTextMatrix(Row, Col, On ? QStringLiteral("True") : QStringLiteral("False"));
     Q_EMIT Grid.AfterEdit(Row, Col);
+}
+
+// What an empty list says is read by screen readers, too.
+void TellEmptiness(FlexGrid& Grid, const QString& Text) {
+    const QString Now = Grid.Rows() == 0 ? Text : QString();
+    if (Grid.accessibleDescription() != Now) Grid.setAccessibleDescription(Now);
 }
 
 }  // namespace
@@ -23,8 +32,17 @@ void FlexGrid::SetEditOnDblClick(bool On) {
     setEditTriggers(editTriggers().setFlag(DoubleClicked, On));
 }
 
+// All of it has room, in a narrow list, too.
 void FlexGrid::SetEmptyText(const QString& Text) {
     mEmptyText = Text;
+    TellEmptiness(*this, Text);
+    const QFontMetrics Letters = fontMetrics();
+    const QRect Narrow(0, 0, EmptyLetters * Letters.averageCharWidth(), 1);
+    const QHeaderView& Headings = *horizontalHeader();
+    const int Edges = 2 * frameWidth() + (Headings.isHidden() ? 0 : Headings.sizeHint().height());
+    const int High = Letters.boundingRect(Narrow, Qt::TextWordWrap, Text).height() +
+                     2 * Letters.height() + Edges;
+    setMinimumHeight(std::max(minimumHeight(), High));
     viewport()->update();
 }
 

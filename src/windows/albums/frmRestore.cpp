@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <functional>
 
+#include "controls/fields/EmptyHint.h"
 #include "controls/fields/Icons.h"
 #include "controls/forms/ScreenPointer.h"
 #include "controls/forms/Tell.h"
@@ -112,6 +113,7 @@ frmRestore::~frmRestore() = default;
 
 void frmRestore::SetUpTree() {
     QTreeWidget& Tree = *mUi->trvStates;
+    SetEmptyHint(Tree, tr("Earlier albums are listed here once the program has kept some."));
     Tree.setColumnCount(ColCount);
     Tree.setHeaderLabels({tr("Saved"), tr("Albums"), tr("Slides"), tr("Slide shows")});
     for (int Col = ColAlbums; Col < ColCount; ++Col) {

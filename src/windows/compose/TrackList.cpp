@@ -5,11 +5,13 @@
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QPainter>
+#include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <QUrl>
 
 #include "albums/TrackRanges.h"
 #include "albums/modLoadShow.h"
+#include "controls/grid/HeaderTips.h"
 #include "settings/SettingKeys.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/FlagText.h"
@@ -118,11 +120,19 @@ void TrackList::SetUp(bool Editable) {
     mEditable = Editable;
     SetUpColumns();
     OrderColumns();
+    ExplainColumns();
     SetRows(TrackRows);
     for (int Row = 0; Row < Rows(); ++Row) SetTextMatrix(Row, ColNumber, QString::number(Row + 1));
     SetBeforeEdit([this](int Row, int) { return Row < Rows(); });
     setItemDelegateForColumn(ColPlay, new PlayButtons(this));
     viewport()->setAcceptDrops(true);
+}
+
+QSize TrackList::minimumSizeHint() const {
+    const int Rows = 2 * verticalHeader()->defaultSectionSize();
+    const int Edges = horizontalHeader()->sizeHint().height() +
+                      horizontalScrollBar()->sizeHint().height() + 2 * frameWidth();
+    return FlexGrid::minimumSizeHint().expandedTo({0, Rows + Edges});
 }
 
 void TrackList::SetUpColumns() {
@@ -136,6 +146,20 @@ void TrackList::SetUpColumns() {
                         .Width = Looks[Col].Letters * Letter,
                         .Align = Col == ColPlay ? Qt::AlignHCenter : Qt::AlignLeft,
                         .Heading = QString::fromLatin1(Looks[Col].Heading)});
+}
+
+void TrackList::ExplainColumns() {
+    QStringList Tips(Columns);
+    Tips[ColNumber] = tr("The number of the track; tracks are heard in this order");
+    Tips[ColPlay] = tr("Play lets the track be heard here; Stop ends it");
+    Tips[ColStart] = tr("With which slide of the show the track begins, by its number in the show");
+    Tips[ColEnd] = tr("With which slide of the show the track ends");
+    Tips[ColRepeat] = tr("A track that is over before its last slide begins anew");
+    Tips[ColFitToSong] = tr("Its slides stay for so long that they and the track end together");
+    Tips[ColFade] = tr("The track grows quieter while its last slide is shown");
+    Tips[ColFile] = tr("The file of the sound; the ... button chooses one");
+    Tips[ColSong] = tr("Artist and title, where the file names them");
+    SetHeaderTips(*this, Tips);
 }
 
 void TrackList::OrderColumns() {

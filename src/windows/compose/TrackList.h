@@ -31,6 +31,7 @@ class TrackList : public FlexGrid {
     };
 
     explicit TrackList(QWidget* Parent = nullptr);
+    QSize minimumSizeHint() const override;  // the headings and two rows
 
     // Columns and rows; cells can be edited and files dropped when Editable.
     void SetUp(bool Editable);
@@ -61,6 +62,7 @@ class TrackList : public FlexGrid {
   private:
     void SetUpColumns();
     void OrderColumns();
+    void ExplainColumns();
     void OfferPlaces();
     bool FilterDrop(QEvent& Event);
     void TakeFiles(const QStringList& Files, int Row);

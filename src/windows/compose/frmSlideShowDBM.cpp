@@ -262,9 +262,11 @@ void frmSlideShowDBM::changeEvent(QEvent* Event) {
     if (Event->type() == QEvent::FontChange) FitToolBar();
 }
 
-// All its tools are seen, however large the letters are.
+// All its tools are seen, however large the letters are; those for which the screen is too narrow
+// are behind an arrow at its end.
 void frmSlideShowDBM::FitToolBar() {
-    mUi->abrMenu->setMinimumWidth(mUi->abrMenu->sizeHint().width());
+    const int Wide = mUi->abrMenu->sizeHint().width();
+    mUi->abrMenu->setMinimumWidth(Wide > screen()->availableSize().width() ? 0 : Wide);
 }
 
 void frmSlideShowDBM::ShowCounts(int NonSelected, int Selected) {

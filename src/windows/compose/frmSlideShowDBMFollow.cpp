@@ -125,9 +125,9 @@ void frmSlideShowDBM::FollowAlbum() {
         : mLists->IsAlbumEmpty()
             ? tr("This album has no slides.\nAdd some with Slide Manager in the Album menu.")
             : tr("Every slide of the album is in the show."));
-    mUi->flxSelected->SetEmptyText(Shown
-                                       ? tr("Move slides here:\nthe show plays them in this order.")
-                                       : tr("The slides of a show stand here."));
+    mUi->flxSelected->SetEmptyText(
+        Shown ? tr("Move slides here:\nthe show plays them in this order.")
+              : tr("Choose an album and a slide show above to see its slides here."));
 }
 
 void frmSlideShowDBM::ClearContent() {

@@ -5,6 +5,7 @@
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
 
+#include "controls/fields/EmptyHint.h"
 #include "controls/fields/Icons.h"
 #include "controls/forms/ScreenPointer.h"
 #include "controls/forms/Tell.h"
@@ -75,6 +76,7 @@ frmDiscFolder::~frmDiscFolder() = default;
 void frmDiscFolder::SetUpTree() {
     QTreeWidget& Tree = *mUi->trvAlbums;
     Tree.setColumnCount(ColCount);
+    SetEmptyHint(Tree, tr("Your albums and slide shows are listed here once you have made some."));
     Tree.setHeaderLabels({tr("Album or slide show"), tr("Slides")});
     Tree.headerItem()->setTextAlignment(ColSlides, Qt::AlignRight | Qt::AlignVCenter);
     Tree.header()->setStretchLastSection(false);

@@ -45,6 +45,7 @@ void ListKeepings(QComboBox& Box, const QString& Chosen) {
     if (At < 0) Box.addItem(KeepingTitle(Chosen, Screen), Chosen);
     Box.setCurrentIndex(At < 0 ? Box.count() - 1 : At);
     OpenAsWideAsNames(Box);
+    Box.setMinimumWidth(Box.sizeHint().width());  // it keeps the least width of fewer entries
 }
 
 KeepPicturesField::KeepPicturesField(QWidget* Parent)

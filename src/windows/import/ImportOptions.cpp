@@ -51,20 +51,21 @@ QBoxLayout* Labelled(QLabel& Label, QWidget& Field) {
     auto* Pair = new QHBoxLayout;
     Pair->addWidget(&Label);
     Pair->addWidget(&Field);
+    Pair->addStretch();
     Label.setBuddy(&Field);
     return Pair;
 }
 
 }  // namespace
 
-ImportOptions::ImportOptions(QWidget* Parent) : QWidget(Parent), mRow(new QHBoxLayout(this)) {
+ImportOptions::ImportOptions(QWidget* Parent)
+    : QWidget(Parent), mRow(new QHBoxLayout(this)), mListed(new QHBoxLayout) {
     mRow->setContentsMargins(0, 0, 0, 0);
-    auto* Listed = new QHBoxLayout;
-    Listed->addLayout(AddOrder());
-    Listed->addSpacing(fontMetrics().averageCharWidth());
-    Listed->addWidget(AddCaptions());
-    Listed->addStretch(1);
-    mRow->addLayout(Listed, 1);
+    mListed->addLayout(AddOrder());
+    mListed->addSpacing(fontMetrics().averageCharWidth());
+    mListed->addWidget(AddCaptions());
+    mListed->addStretch(1);
+    mRow->addLayout(mListed, 1);
     mKeeping = new KeepPicturesField;
     mRow->addWidget(mKeeping, 0, Qt::AlignLeft);
     Arrange();
@@ -119,12 +120,13 @@ PictureKeeping ImportOptions::Keeping() const {
     return mKeeping->Keeping();
 }
 
-// In a large font the row becomes two: the window stays within the screen.
+// In a large font the row becomes two or three: the window stays within the screen.
 void ImportOptions::Arrange() {
-    mRow->setDirection(QBoxLayout::LeftToRight);
+    for (QBoxLayout* Each : {mRow, mListed}) Each->setDirection(QBoxLayout::LeftToRight);
     const int OnScreen = screen()->availableSize().width() * 9 / 10;
-    if (mRow->sizeHint().width() > std::min(WidestRow, OnScreen))
-        mRow->setDirection(QBoxLayout::TopToBottom);
+    for (QBoxLayout* Each : {mRow, mListed})
+        if (mRow->sizeHint().width() > std::min(WidestRow, OnScreen))
+            Each->setDirection(QBoxLayout::TopToBottom);
 }
 
 void ImportOptions::changeEvent(QEvent* Event) {

@@ -42,6 +42,7 @@ class ImportOptions : public QWidget {
     void Arrange();
 
     QBoxLayout* mRow;
+    QBoxLayout* mListed;  // order and captions
     QComboBox* mOrder;
     QCheckBox* mCaptions;
     KeepPicturesField* mKeeping;

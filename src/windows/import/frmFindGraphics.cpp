@@ -7,6 +7,7 @@
 #include "controls/directories/Drives.h"
 #include "controls/fields/ComboBoxList.h"
 #include "controls/fields/Icons.h"
+#include "controls/fields/WholeRows.h"
 #include "controls/forms/ScreenPointer.h"
 #include "controls/forms/modTwips.h"
 #include "controls/grid/FlexGrid.h"
@@ -115,6 +116,7 @@ void frmFindGraphics::SetUpButtons() {
 void frmFindGraphics::Form_Load() {
     mUi->lstTypeFilter->addItems(GraphicTypes());
     mUi->lstTypeFilter->selectAll();
+    ShowWholeRows(*mUi->lstTypeFilter);
     FillSearchPath();
     if (TheServices().Drives) TheServices().Drives->Watch(*this, [this] { FollowDrives(); });
     FitColumns();

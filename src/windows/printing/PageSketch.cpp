@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QLabel>
 #include <QPainter>
+#include <QScreen>
 #include <QVBoxLayout>
 
 namespace neb {
@@ -68,7 +69,8 @@ PageSketch::PageSketch(QWidget* Parent) : QWidget(Parent), mSentence(new QLabel(
 void PageSketch::FitToFont() {
     const QFontMetrics Letters(font());
     mSentence->setMinimumHeight(SentenceLines * Letters.lineSpacing());
-    setMinimumWidth(std::max(230, SentenceChars * Letters.averageCharWidth()));
+    const int Most = screen()->availableSize().width() / 3;  // it has neighbours
+    setMinimumWidth(std::max(230, std::min(Most, SentenceChars * Letters.averageCharWidth())));
     setMinimumHeight(minimumWidth() * 3 / 4 + mSentence->minimumHeight());
 }
 

@@ -149,7 +149,8 @@ void TransferForm::Form_Load() {
     OwnSide().List(DBEngine);
     UpdateControls();
     AlignColumns();
-    mUi->lblHint->setMinimumHeight(HintLines * mUi->lblHint->fontMetrics().lineSpacing());
+    const QFontMetrics Letters = mUi->lblHint->fontMetrics();
+    mUi->lblHint->setMinimumHeight(HintLines * std::max(Letters.height(), Letters.lineSpacing()));
     layout()->activate();
     adjustSize();
 }

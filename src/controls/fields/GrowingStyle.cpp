@@ -1,0 +1,194 @@
+#include "controls/fields/GrowingStyle.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <QStyleOption>
+#include <algorithm>
+#include <iterator>
+
+namespace neb {
+namespace {
+
+constexpr double UsualPoints = 10;
+constexpr int FocusMargin = 2;  // around the words of a box to choose from
+
+constexpr QStyle::PixelMetric Growing[] = {
+    QStyle::PM_ButtonIconSize,
+    QStyle::PM_CheckBoxLabelSpacing,
+    QStyle::PM_ExclusiveIndicatorHeight,
+    QStyle::PM_ExclusiveIndicatorWidth,
+    QStyle::PM_HeaderMarkSize,
+    QStyle::PM_IndicatorHeight,
+    QStyle::PM_IndicatorWidth,
+    QStyle::PM_LineEditIconSize,
+    QStyle::PM_MdiSubWindowMinimizedWidth,
+    QStyle::PM_MenuButtonIndicator,
+    QStyle::PM_MenuScrollerHeight,
+    QStyle::PM_RadioButtonLabelSpacing,
+    QStyle::PM_ScrollBarExtent,
+    QStyle::PM_SliderControlThickness,
+    QStyle::PM_SliderLength,
+    QStyle::PM_SliderThickness,
+    QStyle::PM_SmallIconSize,
+    QStyle::PM_TabBarIconSize,
+    QStyle::PM_TabBarScrollButtonWidth,
+    QStyle::PM_TitleBarHeight,
+    QStyle::PM_ToolBarExtensionExtent,
+    QStyle::PM_ToolBarIconSize,
+    QStyle::PM_TreeViewIndentation,
+};
+
+constexpr QStyle::PrimitiveElement Drawn[] = {
+    QStyle::PE_IndicatorArrowDown, QStyle::PE_IndicatorArrowLeft, QStyle::PE_IndicatorArrowRight,
+    QStyle::PE_IndicatorArrowUp,   QStyle::PE_IndicatorBranch,    QStyle::PE_IndicatorHeaderArrow,
+    QStyle::PE_IndicatorSpinDown,  QStyle::PE_IndicatorSpinUp,
+};
+
+// Some styles draw their frames in a shade of the window, which is not seen in dark colours.
+constexpr QStyle::PrimitiveElement Framed[] = {QStyle::PE_IndicatorCheckBox,
+                                               QStyle::PE_IndicatorRadioButton};
+
+constexpr QStyle::ComplexControl WithArrows[] = {
+    QStyle::CC_ComboBox, QStyle::CC_ScrollBar,  QStyle::CC_Slider,
+    QStyle::CC_SpinBox,  QStyle::CC_ToolButton,
+};
+
+template <class List, class Value>
+bool Has(const List& Of, Value Wanted) {
+    return std::find(std::begin(Of), std::end(Of), Wanted) != std::end(Of);
+}
+
+bool IsDark(const QPalette& Palette) {
+    return Palette.color(QPalette::Window).lightness() <
+           Palette.color(QPalette::WindowText).lightness();
+}
+
+QFont FontOf(const QWidget* Widget) {
+    return Widget ? Widget->font() : QApplication::font();
+}
+
+// A screen of another fineness, for which nothing is drawn.
+class FinerScreen : public QPaintDevice {
+  public:
+    explicit FinerScreen(int Dpi) : mDpi(Dpi) {}
+    QPaintEngine* paintEngine() const override { return nullptr; }
+
+  protected:
+    int metric(PaintDeviceMetric Metric) const override {
+        return Metric == PdmDpiX || Metric == PdmDpiY ? mDpi : QPaintDevice::metric(Metric);
+    }
+
+  private:
+    int mDpi;
+};
+
+// Styles take the size of their arrows from the fineness of the screen for which the letters are
+// measured. So the same letters are measured as smaller ones for a finer screen, for as long as
+// this lives.
+class GrownArrows {
+  public:
+    GrownArrows(const QStyleOption* Option, const QWidget* Widget, bool Wanted) {
+        const QFont Font = FontOf(Widget);
+        const double Growth = GrowingStyle::Growth(Font);
+        if (!Wanted || !Option || Growth <= 1) return;
+        // a style asks for parts of what it draws: they are grown by then
+        if (Option->fontMetrics.fontDpi() > QFontMetrics(Font).fontDpi()) return;
+        mOption = const_cast<QStyleOption*>(Option);
+        mBefore = Option->fontMetrics;
+        const int Dpi = static_cast<int>(mBefore.fontDpi());
+        const FinerScreen Finer(qRound(Dpi * Growth));
+        QFont Smaller = Font;
+        Smaller.setPointSizeF(QFontInfo(Font).pointSizeF() * Dpi / Finer.logicalDpiY());
+        mOption->fontMetrics = QFontMetrics(Smaller, &Finer);
+    }
+    ~GrownArrows() {
+        if (mOption) mOption->fontMetrics = mBefore;
+    }
+    Q_DISABLE_COPY_MOVE(GrownArrows)
+
+  private:
+    QStyleOption* mOption = nullptr;
+    QFontMetrics mBefore{QFont()};
+};
+
+QPixmap ExtensionArrow(int Side, bool Mirrored, const QColor& Ink) {
+    QPixmap Made(Side, Side);
+    Made.fill(Qt::transparent);
+    QPainter Painter(&Made);
+    Painter.setRenderHint(QPainter::Antialiasing);
+    Painter.setPen(QPen(Ink, Side / 8.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    if (Mirrored) Painter.setTransform(QTransform(-1, 0, 0, 1, Side, 0));
+    Painter.scale(Side, Side);
+    QPen Fine = Painter.pen();
+    Fine.setWidthF(0.12);
+    Painter.setPen(Fine);
+    for (const double Left : {0.18, 0.52})
+        Painter.drawPolyline(QPolygonF({{Left, 0.2}, {Left + 0.3, 0.5}, {Left, 0.8}}));
+    return Made;
+}
+
+}  // namespace
+
+double GrowingStyle::Growth(const QFont& Font) {
+    const double Points = Font.pointSizeF() > 0 ? Font.pointSizeF() : QFontInfo(Font).pointSizeF();
+    return std::max(1.0, Points / UsualPoints);
+}
+
+int GrowingStyle::pixelMetric(PixelMetric Metric, const QStyleOption* Option,
+                              const QWidget* Widget) const {
+    if (!Has(Growing, Metric)) return QProxyStyle::pixelMetric(Metric, Option, Widget);
+    const double Growth = GrowingStyle::Growth(FontOf(Widget));
+    if (Growth <= 1) return QProxyStyle::pixelMetric(Metric, Option, Widget);
+    return qRound(QProxyStyle::pixelMetric(Metric, nullptr, Widget) * Growth);
+}
+
+QRect GrowingStyle::subControlRect(ComplexControl Control, const QStyleOptionComplex* Option,
+                                   SubControl Part, const QWidget* Widget) const {
+    const GrownArrows Grown(Option, Widget, Has(WithArrows, Control));
+    return QProxyStyle::subControlRect(Control, Option, Part, Widget);
+}
+
+// A box to choose from is as wide as its words and the larger arrow beside them.
+QSize GrowingStyle::sizeFromContents(ContentsType Type, const QStyleOption* Option,
+                                     const QSize& Content, const QWidget* Widget) const {
+    QSize Size = QProxyStyle::sizeFromContents(Type, Option, Content, Widget);
+    const auto* Box = qstyleoption_cast<const QStyleOptionComboBox*>(Option);
+    if (Type != CT_ComboBox || !Box || Growth(FontOf(Widget)) <= 1) return Size;
+    QStyleOptionComboBox There = *Box;
+    There.rect = QRect(QPoint(), Size);
+    const QRect Words = subControlRect(CC_ComboBox, &There, SC_ComboBoxEditField, Widget);
+    Size.rwidth() += std::max(0, Content.width() + 2 * FocusMargin - Words.width());
+    return Size;
+}
+
+void GrowingStyle::drawComplexControl(ComplexControl Control, const QStyleOptionComplex* Option,
+                                      QPainter* Painter, const QWidget* Widget) const {
+    const GrownArrows Grown(Option, Widget, Has(WithArrows, Control));
+    QProxyStyle::drawComplexControl(Control, Option, Painter, Widget);
+}
+
+void GrowingStyle::drawPrimitive(PrimitiveElement Element, const QStyleOption* Option,
+                                 QPainter* Painter, const QWidget* Widget) const {
+    const auto* Box = qstyleoption_cast<const QStyleOptionButton*>(Option);
+    if (Box && IsDark(Box->palette) && Has(Framed, Element)) {
+        QStyleOptionButton Seen = *Box;
+        Seen.palette.setColor(QPalette::Window, Seen.palette.color(QPalette::Text));
+        return QProxyStyle::drawPrimitive(Element, &Seen, Painter, Widget);
+    }
+    const GrownArrows Grown(Option, Widget, Has(Drawn, Element));
+    QProxyStyle::drawPrimitive(Element, Option, Painter, Widget);
+}
+
+QIcon GrowingStyle::standardIcon(StandardPixmap Which, const QStyleOption* Option,
+                                 const QWidget* Widget) const {
+    if (Which != SP_ToolBarHorizontalExtensionButton)
+        return QProxyStyle::standardIcon(Which, Option, Widget);
+    const bool Mirrored = Option && Option->direction == Qt::RightToLeft;
+    const QPalette Colours = Widget ? Widget->palette() : QApplication::palette();
+    QIcon Made;
+    for (const int Side : {16, 24, 32, 48, 64})
+        Made.addPixmap(ExtensionArrow(Side, Mirrored, Colours.color(QPalette::ButtonText)));
+    return Made;
+}
+
+}  // namespace neb

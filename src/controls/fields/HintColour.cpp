@@ -1,0 +1,48 @@
+#include "controls/fields/HintColour.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace neb {
+namespace {
+
+constexpr double Enough = 4.5;
+constexpr double Usual = 0.62;  // the share of the text in hints that could be fainter still
+
+double Linear(double Part) {
+    return Part <= 0.04045 ? Part / 12.92 : std::pow((Part + 0.055) / 1.055, 2.4);
+}
+
+double Luminance(const QColor& Colour) {
+    return 0.2126 * Linear(Colour.redF()) + 0.7152 * Linear(Colour.greenF()) +
+           0.0722 * Linear(Colour.blueF());
+}
+
+QColor Mixed(const QColor& Text, const QColor& Ground, double Share) {
+    const auto Part = [Share](int From, int To) { return qRound(To + (From - To) * Share); };
+    return {Part(Text.red(), Ground.red()), Part(Text.green(), Ground.green()),
+            Part(Text.blue(), Ground.blue())};
+}
+
+}  // namespace
+
+double Contrast(const QColor& One, const QColor& Other) {
+    const auto [Dark, Light] = std::minmax({Luminance(One), Luminance(Other)});
+    return (Light + 0.05) / (Dark + 0.05);
+}
+
+QColor HintColour(const QColor& Text, const QColor& Ground) {
+    for (double Share = Usual; Share < 1; Share += 0.02)
+        if (const QColor Tried = Mixed(Text, Ground, Share); Contrast(Tried, Ground) >= Enough)
+            return Tried;
+    return Text;
+}
+
+void MakeHintsReadable(QPalette& Palette) {
+    for (const auto Group : {QPalette::Active, QPalette::Inactive})
+        Palette.setColor(
+            Group, QPalette::PlaceholderText,
+            HintColour(Palette.color(Group, QPalette::Text), Palette.color(Group, QPalette::Base)));
+}
+
+}  // namespace neb

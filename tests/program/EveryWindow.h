@@ -1,0 +1,21 @@
+// Every window of the program, opened one after the other over the main window as a user would, on
+// an album with slides, a show and a sound: for tests that look at all of them.
+#pragma once
+
+#include <functional>
+
+#include "MainWindowRig.h"
+
+namespace neb::harness {
+
+// Name: the window's class; Window: it, on the screen, with its lists read.
+using LookAtWindow = std::function<void(const QString& Name, QWidget& Window)>;
+
+// In windows without albums most lists are empty.
+enum class Content { None, Albums };
+
+// The main window comes first. Gives how many windows there were; one that does not open fails the
+// test. Left out are those that fill the screen or are never seen.
+int LookAtEveryWindow(Content Of, const LookAtWindow& Look);
+
+}  // namespace neb::harness
