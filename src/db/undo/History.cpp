@@ -278,15 +278,17 @@ std::vector<Announcement> History::PutBackWithFiles(UndoStep& Step, const Yield&
             if (LetRun) LetRun();
         }
         std::vector<Announcement> Told = PutBackRecords(Step);
-        const bool MayGo = mDB.IsSessionStored();
-        for (UndoStep::File* Each : Go)
-            if (!MayGo || !TakeAway(*Each)) Step.HasChanged = false;  // it has no opposite then
+        if (!Go.empty() && !(mDB.IsSessionStored() && TakeAllAway(Go)))
+            Step.HasChanged = false;  // it has no opposite then
         // of an album that has gone again no empty folder stays
         if (Step.Were.Album) DeleteFolder(AlbumFolder(mDB.DBPath(), Step.Were.AlbumID));
         return Told;
     } catch (...) {
         for (UndoStep::File* Each : Swapped)
-            Each->Kept.isEmpty() ? void(TakeAway(*Each)) : BringBack(*Each);
+            if (!Each->Kept.isEmpty())
+                BringBack(*Each);
+            else if (!TakeAllAway({Each}))
+                Step.HasChanged = false;
         throw;
     }
 }
@@ -314,12 +316,18 @@ void History::BringBack(UndoStep::File& File) {
     File.Kept = Held;
 }
 
-// False: it could not be kept, and is gone.
-bool History::TakeAway(UndoStep::File& File) {
-    if (!NameExists(File.Path)) return true;
-    File.Kept = mFiles.Take(File.Path);
-    DropStored({File.Path});
-    return !File.Kept.isEmpty();
+// False: some could not be kept and are gone.
+bool History::TakeAllAway(const std::vector<UndoStep::File*>& Files) {
+    QStringList Paths;
+    bool AreKept = true;
+    for (UndoStep::File* Each : Files) {
+        if (!NameExists(Each->Path)) continue;
+        Each->Kept = mFiles.Take(Each->Path);
+        AreKept = AreKept && !Each->Kept.isEmpty();
+        Paths << Each->Path;
+    }
+    DropStored(Paths);
+    return AreKept;
 }
 
 void KeepHistory(clsDBEngine& theDB) {

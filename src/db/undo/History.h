@@ -75,7 +75,7 @@ class History : public ChangeKeeper {
     std::vector<Announcement> PutBackWithFiles(UndoStep& Step, const Yield& LetRun);
     std::vector<Announcement> PutBackRecords(UndoStep& Step);
     void BringBack(UndoStep::File& File);
-    bool TakeAway(UndoStep::File& File);
+    bool TakeAllAway(const std::vector<UndoStep::File*>& Files);
 
     clsDBEngine& mDB;
     const qint64 mRoom;
