@@ -5,10 +5,10 @@
 #include <QMdiSubWindow>
 #include <QScopeGuard>
 
+#include "controls/fields/LabelTips.h"
+#include "controls/fields/ScrollWithin.h"
 #include "controls/fields/WheelGuard.h"
 #include "controls/forms/DefaultButton.h"
-#include "controls/forms/LabelTips.h"
-#include "controls/forms/ScrollWithin.h"
 #include "controls/forms/StandOver.h"
 
 namespace neb {

@@ -8,10 +8,10 @@
 #include <algorithm>
 #include <functional>
 
-#include "controls/fields/EmptyHint.h"
 #include "controls/fields/Icons.h"
 #include "controls/forms/ScreenPointer.h"
 #include "controls/forms/Tell.h"
+#include "controls/grid/EmptyHint.h"
 #include "db/recovery/StateDifferences.h"
 #include "db/recovery/modRestore.h"
 #include "settings/modNEBSlideShow.h"

@@ -262,10 +262,8 @@ void frmSlideShowDBM::changeEvent(QEvent* Event) {
     if (Event->type() == QEvent::FontChange) FitToolBar();
 }
 
-// All its tools are seen, however large the letters are; those for which the screen is too narrow
-// are behind an arrow at its end.
 void frmSlideShowDBM::FitToolBar() {
-    const int Wide = mUi->abrMenu->sizeHint().width();
+    const int Wide = mUi->abrMenu->sizeHint().width();  // all tools, else an arrow for the rest
     mUi->abrMenu->setMinimumWidth(Wide > screen()->availableSize().width() ? 0 : Wide);
 }
 

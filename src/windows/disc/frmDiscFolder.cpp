@@ -5,10 +5,10 @@
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
 
-#include "controls/fields/EmptyHint.h"
 #include "controls/fields/Icons.h"
 #include "controls/forms/ScreenPointer.h"
 #include "controls/forms/Tell.h"
+#include "controls/grid/EmptyHint.h"
 #include "db/clsDBEngine.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"

@@ -150,7 +150,8 @@ void TransferForm::Form_Load() {
     UpdateControls();
     AlignColumns();
     const QFontMetrics Letters = mUi->lblHint->fontMetrics();
-    mUi->lblHint->setMinimumHeight(HintLines * std::max(Letters.height(), Letters.lineSpacing()));
+    // the tails of the last line may reach below its own
+    mUi->lblHint->setMinimumHeight(HintLines * Letters.lineSpacing() + Letters.descent());
     layout()->activate();
     adjustSize();
 }

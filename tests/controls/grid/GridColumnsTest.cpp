@@ -8,7 +8,7 @@
 #include <QTest>
 #include <QTreeWidget>
 
-#include "controls/fields/EmptyHint.h"
+#include "controls/grid/EmptyHint.h"
 #include "controls/fields/HintColour.h"
 #include "controls/grid/FlexGrid.h"
 

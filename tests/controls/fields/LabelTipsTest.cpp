@@ -1,5 +1,5 @@
 // The pointer over the words before a field, or over a heading, brings up what they mean.
-#include "controls/forms/LabelTips.h"
+#include "controls/fields/LabelTips.h"
 
 #include <gtest/gtest.h>
 #include <QHeaderView>

@@ -1,4 +1,4 @@
-#include "controls/fields/WholeRows.h"
+#include "controls/grid/WholeRows.h"
 
 #include <QEvent>
 #include <QLayout>

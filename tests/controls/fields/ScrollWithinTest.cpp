@@ -1,6 +1,6 @@
 // Windows whose content is larger than the screen: what is too much scrolls, what stands in rows
 // breaks, and the buttons at the end stay in view.
-#include "controls/forms/ScrollWithin.h"
+#include "controls/fields/ScrollWithin.h"
 
 #include <gtest/gtest.h>
 #include <QLabel>

@@ -1,4 +1,4 @@
-#include "controls/fields/EmptyHint.h"
+#include "controls/grid/EmptyHint.h"
 
 #include <QAbstractItemView>
 #include <QEvent>

@@ -1,6 +1,6 @@
-#include "controls/forms/ScrollWithin.h"
+#include "controls/fields/ScrollWithin.h"
 
-#include "controls/forms/BreakRows.h"
+#include "controls/fields/BreakRows.h"
 
 #include <QDialog>
 #include <QEvent>

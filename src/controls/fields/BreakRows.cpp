@@ -1,4 +1,4 @@
-#include "controls/forms/BreakRows.h"
+#include "controls/fields/BreakRows.h"
 
 #include <QAbstractButton>
 #include <QBoxLayout>

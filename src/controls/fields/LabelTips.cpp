@@ -1,4 +1,4 @@
-#include "controls/forms/LabelTips.h"
+#include "controls/fields/LabelTips.h"
 
 #include <QHelpEvent>
 #include <QLabel>
