@@ -109,7 +109,7 @@ constexpr Entry Entries[] = {
      "Edit the captions of a whole album",
      [](auto&) { NewForm<frmSlideMgrBulk>()->LoadAlbumMgr(0); }},
     {"mnuSlideShowHdr", "mnuSlideShowMgr", "Slide Show &Manager", "Ctrl+M", "slide-show-manager",
-     "Compose slide shows", [](auto&) { TheOpeners().SlideShowMgr(0, 0); }},
+     "Compose slide shows", [](auto&) { TheOpeners().SlideShowMgr(AlbumInHand(), 0); }},
     {"mnuSlideShowHdr", "mnuSlideShowViewer", "&Play Slide Show", "F5", "slide-show-play",
      "Play the active slide show", [](frmNEBSlideShow& Main) { PlayActiveShow(Main); }},
     {"mnuSlideShowHdr", "mnuSlideShowRehearse", "Re&hearse...", "", "find-graphics",

@@ -85,6 +85,13 @@ void DrawButton(const QStyleOptionComplex& Of, QStyle::SubControl Button, QStyle
     DrawMark(Mark, Painter, In);
 }
 
+// The desktop's own, below what the program draws differently.
+QString NameOfDesktopStyle() {
+    const QStyle* Style = QApplication::style();
+    while (const auto* Over = qobject_cast<const QProxyStyle*>(Style)) Style = Over->baseStyle();
+    return Style->name();
+}
+
 int TitleLine() {
     return QFontMetrics(QApplication::font("QMdiSubWindowTitleBar")).height();
 }
@@ -92,7 +99,7 @@ int TitleLine() {
 }  // namespace
 
 TitleBarStyle::TitleBarStyle(QObject* Parent)
-    : QProxyStyle(QStyleFactory::create(QApplication::style()->name())) {
+    : QProxyStyle(QStyleFactory::create(NameOfDesktopStyle())) {
     setParent(Parent);
 }
 

@@ -10,7 +10,7 @@
 #include "db/modAlbumFiles.h"
 #include "db/recovery/DatabaseHealth.h"
 #include "program/frmAbout.h"
-#include "program/frmHelp.h"
+#include "program/help/frmHelp.h"
 #include "sound/RecorderRig.h"
 #include "windows/albums/frmAlbumDelete.h"
 #include "windows/albums/frmAlbumRename.h"

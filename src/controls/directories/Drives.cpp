@@ -11,6 +11,12 @@
 
 namespace neb {
 
+QStringList ReadyDrives(const DriveList* Drives) {
+    QStringList Ready = Drives ? Drives->Drives() : QStringList();
+    Ready.removeIf([Drives](const QString& Each) { return !Drives->IsReady(Each); });
+    return Ready;
+}
+
 bool IsUserVolume(const QString& Root) {
     for (const char* Parent : {"/media/", "/run/media/", "/mnt/"})
         if (Root.startsWith(QLatin1String(Parent))) return true;

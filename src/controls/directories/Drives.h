@@ -42,11 +42,13 @@ class DesktopDrives : public DriveList {
     void Watch(QObject& Owner, std::function<void()> Changed) const override;
 };
 
+// Those of a list that can be read now; a list that is not there (nullptr) has none.
+QStringList ReadyDrives(const DriveList* Drives);
+
 // Media and drives that a user would look for, not the system's own mounts.
 bool IsUserVolume(const QString& Root);
 // The same of other mounts of the host: a disk of the user's own in a place of its own, "/data",
 // but no network, none of the host's own, and nothing that is no disk.
-
 bool IsUserDisk(const Mount& Each);
 bool IsNetwork(const Mount& Each);
 // Only the paths that lie in no other of them, each once, in their order.

@@ -56,8 +56,16 @@ void TwoLists::SetUpGrid(FlexGrid& Grid, bool Editable) {
     Grid.SetRowDrag(Editable ? QStringLiteral("slides") : QString());
 }
 
-bool TwoLists::IsAlbumEmpty() const {
-    return mAll.Rows() == 0;
+void TwoLists::SayWhatToDo(bool HasAlbums, bool IsChosen) {
+    mNonSelected.SetEmptyText(
+        !HasAlbums  ? tr("There is no album yet.\nMake one with New Album in the Album menu.")
+        : !IsChosen ? tr("Choose an album above to see its slides here.")
+        : mAll.Rows() == 0
+            ? tr("This album has no slides.\nAdd some with Slide Manager in the Album menu.")
+            : tr("Every slide of the album is in the show."));
+    mSelected.SetEmptyText(
+        IsChosen ? tr("Move slides here:\nthe show plays them in this order.")
+                 : tr("Choose an album and a slide show above to see its slides here."));
 }
 
 void TwoLists::Clear() {

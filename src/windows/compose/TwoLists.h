@@ -33,8 +33,9 @@ class TwoLists : public QObject {
     // Owner. Slides can be moved and edited when Editable.
     TwoLists(FlexGrid& NonSelected, FlexGrid& Selected, QWidget& Owner, bool Editable);
 
-    bool IsAlbumEmpty() const;
     void Clear();
+    // What the lists say while they are empty: whether there is an album at all, and one is chosen.
+    void SayWhatToDo(bool HasAlbums, bool IsChosen);
 
     // Enters a slide of the album, or brings it up to date: in the list of all alone, as long as no
     // show has been sorted in, or in every list. A caption of the show's own stays.

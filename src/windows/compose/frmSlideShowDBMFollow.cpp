@@ -118,16 +118,7 @@ void frmSlideShowDBM::FollowAlbum() {
     const QString Name = mUi->cboAlbum->currentText();
     setWindowTitle(Shown ? QStringLiteral("Slide Show Manager - ") + InOwnDirection(Name)
                          : QStringLiteral("Slide Show Manager"));
-    const bool NoAlbums = mUi->cboAlbum->count() == 0;
-    mUi->flxNonSelected->SetEmptyText(
-        NoAlbums ? tr("There is no album yet.\nMake one with New Album in the Album menu.")
-        : !Shown ? tr("Choose an album above to see its slides here.")
-        : mLists->IsAlbumEmpty()
-            ? tr("This album has no slides.\nAdd some with Slide Manager in the Album menu.")
-            : tr("Every slide of the album is in the show."));
-    mUi->flxSelected->SetEmptyText(
-        Shown ? tr("Move slides here:\nthe show plays them in this order.")
-              : tr("Choose an album and a slide show above to see its slides here."));
+    mLists->SayWhatToDo(mUi->cboAlbum->count() > 0, Shown);
 }
 
 void frmSlideShowDBM::ClearContent() {
@@ -171,10 +162,7 @@ void frmSlideShowDBM::LoadSlideShowsList() {
     ComboBoxList List = Shows();
     List.Clear();
     clsNEBAlbum* Album = ShownAlbum();
-    if (!Album) {
-        MsgBox(QStringLiteral("Album not found."));
-        return;
-    }
+    if (!Album) return void(MsgBox(QStringLiteral("Album not found.")));
     Album->LoadSlideShowsCombo(List);
     List.InsertItem(0, QStringLiteral("<NEW SLIDE SHOW>"), 0);
     OpenAsWideAsNames(*mUi->cboSlideShows);
@@ -203,10 +191,7 @@ void frmSlideShowDBM::cboSlideShows_Click() {
 }
 
 void frmSlideShowDBM::ReadShow() {
-    if (AlbumID() == 0) {
-        MsgBox(QStringLiteral("You must first select an album."));
-        return;
-    }
+    if (AlbumID() == 0) return void(MsgBox(QStringLiteral("You must first select an album.")));
     if (IsBusy()) return;
     ShowChosenShow();
     if (!IsLoaded()) return;

@@ -10,8 +10,8 @@
 #include "controls/forms/ScreenPointer.h"
 #include "controls/forms/modTwips.h"
 #include "controls/grid/FlexGrid.h"
-#include "db/clsDBEngine.h"
 #include "controls/grid/WholeRows.h"
+#include "db/clsDBEngine.h"
 #include "settings/SettingKeys.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
@@ -63,14 +63,6 @@ int StoredPixels(const clsSettings& Settings, const SettingAt& At, int Present) 
 
 void PutPixels(clsSettings& Settings, const SettingAt& At, int Pixels) {
     PutNumber(Settings, At, ToTwips(Pixels));
-}
-
-QStringList ReadyDrives() {
-    QStringList Ready;
-    const DriveList* Drives = TheServices().Drives;
-    for (const QString& Drive : Drives ? Drives->Drives() : QStringList())
-        if (Drives->IsReady(Drive)) Ready.append(Drive);
-    return Ready;
 }
 
 }  // namespace
@@ -142,7 +134,8 @@ void frmFindGraphics::FillSearchPath() {
         if (Paths.ItemData(I) == NotSearched) Others.append(Paths.List(I));
     if (Others.isEmpty()) Others = {AllDrives, Browse};
     Paths.Clear();
-    for (const QString& Drive : ReadyDrives()) ComboAddItem(Paths, Drive, Searched);
+    for (const QString& Drive : ReadyDrives(TheServices().Drives))
+        ComboAddItem(Paths, Drive, Searched);
     for (const QString& Other : Others) ComboAddItem(Paths, Other, NotSearched);
     const int Place = mUi->cboSearchPath->findText(Chosen);
     Paths.SetListIndex(Place < 0 ? Paths.ListCount() - 2 : Place);
@@ -160,7 +153,7 @@ QStringList frmFindGraphics::ListedDrives() const {
 void frmFindGraphics::FollowDrives() {
     if (mHunt)
         mHunt->DrivesMoved = true;
-    else if (IsLoaded() && ReadyDrives() != ListedDrives())
+    else if (IsLoaded() && ReadyDrives(TheServices().Drives) != ListedDrives())
         FillSearchPath();
 }
 
