@@ -1,5 +1,6 @@
 #include "program/Workspace.h"
 
+#include <QAccessibleWidget>
 #include <QAction>
 #include <QApplication>
 #include <QMdiSubWindow>
@@ -15,9 +16,17 @@ namespace {
 
 constexpr double ShareInCascade = 0.75;  // of the room, each way
 
+// The toolkit tells screen readers of the children of such a room alone, not of the page.
+QAccessibleInterface* ToldWhole(const QString&, QObject* Object) {
+    auto* Room = qobject_cast<Workspace*>(Object);
+    return Room ? new QAccessibleWidget(Room, QAccessible::LayeredPane) : nullptr;
+}
+
 }  // namespace
 
 Workspace::Workspace(QWidget* Parent) : QMdiArea(Parent), mTitleBars(new TitleBarStyle(this)) {
+    static const bool IsTold = (QAccessible::installFactory(&ToldWhole), true);
+    Q_UNUSED(IsTold)
     setBackground(palette().brush(QPalette::Base));
     setActivationOrder(ActivationHistoryOrder);    // a viewer leaves the window it was opened from
     setOption(DontMaximizeSubWindowOnActivation);  // each child has a state of its own

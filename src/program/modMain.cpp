@@ -22,6 +22,7 @@
 #include "support/files/HostNames.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
+#include "support/work/ProcessEnd.h"
 
 namespace neb {
 namespace {
@@ -203,6 +204,20 @@ bool BecomeTheInstanceOn(const QString& Database, InstanceLock& Lock, const Call
     return !MayWriteDatabase(Database) || BecomeTheInstance(Lock, Call);
 }
 
+namespace {
+
+int RunOnAlbums(const CommandLine& Line, const QByteArray& Token) {
+    const std::optional<QString> Database = DatabaseToOpen();
+    if (!Database) return 1;
+    InstanceLock Lock(DatabaseLockPath(*Database));
+    const auto Call = [&] { return HandOverTo(*Database, {SeenFromHere(Line.Paths), Token}); };
+    if (!BecomeTheInstanceOn(*Database, Lock, Call)) return 0;
+    TheInstanceStarter() = &StartOwnProgram;
+    return RunMainWindow(Line, *Database);
+}
+
+}  // namespace
+
 int Main(int argc, char** argv) {
     const CommandLine Asked = ParseCommandLine(WordsOf(argc, argv));
     if (Asked.WantsHelp || Asked.WantsVersion) return AnswerOnTerminal(Asked);
@@ -214,14 +229,7 @@ int Main(int argc, char** argv) {
     if (Answered >= 0) return Answered;
 
     if (!Line.Documents.isEmpty()) SetDocumentsPath(Line.Documents);
-
-    const std::optional<QString> Database = DatabaseToOpen();
-    if (!Database) return 1;
-    InstanceLock Lock(DatabaseLockPath(*Database));
-    const auto Call = [&] { return HandOverTo(*Database, {SeenFromHere(Line.Paths), Token}); };
-    if (!BecomeTheInstanceOn(*Database, Lock, Call)) return 0;
-    TheInstanceStarter() = &StartOwnProgram;
-    return RunMainWindow(Line, *Database);
+    return EndProcess(RunOnAlbums(Line, Token));
 }
 
 }  // namespace neb

@@ -12,6 +12,7 @@
 #include "controls/forms/NebApplication.h"
 #include "controls/forms/StandOver.h"
 #include "harness/ChildRole.h"
+#include "support/work/ProcessEnd.h"
 
 namespace {
 
@@ -66,5 +67,5 @@ int main(int argc, char** argv) {
     ModalWatch Watch;
     App.installEventFilter(&Watch);
     if (argc == 3 && std::string(argv[1]) == "--role") return neb::harness::Roles().at(argv[2])();
-    return RUN_ALL_TESTS();
+    return neb::EndProcess(RUN_ALL_TESTS());
 }

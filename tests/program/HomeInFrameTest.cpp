@@ -1,5 +1,6 @@
 // The home in the real main window: when it is filled, who has the keys, and how the windows before
 // it step aside and come back.
+#include <QAccessible>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QTest>
@@ -125,6 +126,24 @@ TEST_F(HomeInFrame, HasTheKeysAgainWhenTheLastWindowHasGone) {
     ASSERT_FALSE(HomeHasKeys());
     Find<frmQuickShow>()->Unload();
     EXPECT_TRUE(QTest::qWaitFor([&] { return HomeHasKeys(); }));
+}
+
+bool IsToldBelow(QAccessibleInterface* Of, const QObject* Sought) {
+    if (!Of) return false;
+    if (Of->object() == Sought) return true;
+    for (int I = 0; I < Of->childCount(); ++I)
+        if (IsToldBelow(Of->child(I), Sought)) return true;
+    return false;
+}
+
+TEST_F(HomeInFrame, ScreenReadersHearOfItAndOfTheWindowsBeforeIt) {
+    Start();
+    SaveAlbum("Garden");
+    Settle();
+    Press("mnuSlideMgrBulk");
+    QAccessibleInterface* Main = QAccessible::queryAccessibleInterface(mWindow.get());
+    EXPECT_TRUE(IsToldBelow(Main, &View()));
+    EXPECT_TRUE(IsToldBelow(Main, Find<frmSlideMgrBulk>()));
 }
 
 TEST_F(HomeInFrame, TheKeyOfTheMenuIsAltHome) {

@@ -27,13 +27,30 @@ void GridColumns::Share(int Room) {
         else if (!mGrid.ColHidden(Col))
             Room -= Header.sectionSize(Col);
     }
-    for (const int Col : Taking) {
-        const int Least = Header.sectionSizeHint(Col);
-        const bool IsNarrow = Room / static_cast<int>(Taking.size()) < Least;
-        const auto Mode = IsNarrow ? QHeaderView::Interactive : QHeaderView::Stretch;
-        if (Header.sectionResizeMode(Col) != Mode) Header.setSectionResizeMode(Col, Mode);
-        if (IsNarrow) Header.resizeSection(Col, Least);
+    GiveLeast(Taking, Room);
+    for (const int Col : Taking) SetMode(Col, QHeaderView::Stretch);
+}
+
+// What one of them needs above its share is taken from the others.
+void GridColumns::GiveLeast(std::vector<int>& Taking, int Room) {
+    QHeaderView& Header = *mGrid.horizontalHeader();
+    const auto NeedsMore = [&](int Col) {
+        return Header.sectionSizeHint(Col) > Room / static_cast<int>(Taking.size());
+    };
+    for (;;) {
+        const auto Narrow = std::ranges::find_if(Taking, NeedsMore);
+        if (Narrow == Taking.end()) return;
+        const int Least = Header.sectionSizeHint(*Narrow);
+        SetMode(*Narrow, QHeaderView::Interactive);
+        Header.resizeSection(*Narrow, Least);
+        Room -= Least;
+        Taking.erase(Narrow);
     }
+}
+
+void GridColumns::SetMode(int Col, QHeaderView::ResizeMode Mode) {
+    QHeaderView& Header = *mGrid.horizontalHeader();
+    if (Header.sectionResizeMode(Col) != Mode) Header.setSectionResizeMode(Col, Mode);
 }
 
 }  // namespace neb

@@ -2,7 +2,8 @@
 // with less room they keep that width, and it scrolls. FlexGrid has one.
 #pragma once
 
-#include <QObject>
+#include <QHeaderView>
+#include <vector>
 
 namespace neb {
 
@@ -19,6 +20,8 @@ class GridColumns : public QObject {
 
   private:
     void Share(int Room);
+    void GiveLeast(std::vector<int>& Taking, int Room);
+    void SetMode(int Col, QHeaderView::ResizeMode Mode);
 
     FlexGrid& mGrid;
 };

@@ -30,6 +30,7 @@ constexpr HelpRow HelpRows[] = {
     {"frmDamage", "damaged"},           {"frmCheckPictures", "checking"},
     {"frmGetObjectName", "albums"},     {"frmSlideDBM", "albums"},
     {"frmSlideMgrBulk", "albums"},      {"frmSoundRecorder", "albums"},
+    {"frmSetCaptions", "albums"},       {"frmSlideScreen", "home"},
     {"frmPicturePopup", "albums"},      {"frmAlbumView", "home"},
     {"frmSlideShowView", "home"},       {"frmSlideShowDBM", "compose"},
     {"frmRehearsal", "rehearse"},       {"frmPreferences", "prefs"},

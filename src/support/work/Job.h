@@ -11,6 +11,8 @@
 #include <memory>
 #include <thread>
 
+#include "support/work/ProcessEnd.h"
+
 namespace neb {
 
 // What the work and the one who waits for it tell each other, each on its own thread.
@@ -26,7 +28,9 @@ class Job {
     explicit Job(std::function<Result(JobState&)> Work) {
         std::packaged_task<Result(JobState&)> Task(std::move(Work));
         mResult = Task.get_future();
-        std::thread([State = mState, Mine = std::move(Task)]() mutable { Mine(*State); }).detach();
+        std::thread([Counted = WorkOnThread(), State = mState,
+                     Mine = std::move(Task)]() mutable { Mine(*State); })
+            .detach();
     }
     ~Job() { Cancel(); }
     Job(const Job&) = delete;

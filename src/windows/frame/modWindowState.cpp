@@ -42,8 +42,10 @@ const QMdiArea* AreaOf(const QWidget& Frame) {
     return Child ? Child->mdiArea() : nullptr;
 }
 
+// A window of its own that needs more than the screen has scrolls.
 QSize LeastOf(const QWidget& Frame) {
-    return Frame.minimumSizeHint().expandedTo(Frame.minimumSize());
+    const QSize Least = Frame.minimumSizeHint().expandedTo(Frame.minimumSize());
+    return Frame.isWindow() ? Least.boundedTo(Frame.screen()->availableSize()) : Least;
 }
 
 int StateOf(const QWidget& Frame) {

@@ -149,7 +149,8 @@ void frmSlideDBM::changeEvent(QEvent* Event) {
 void frmSlideDBM::LoadSlideMgr(std::int32_t AlbumID, std::int32_t SlideID) {
     const auto Held = shared_from_this();
     // once it stands in front, no other window does
-    NoteAlbumInHand(AlbumID != 0 ? AlbumID : AlbumInHand());
+    const std::int32_t Wanted = AlbumID != 0 ? AlbumID : AlbumInHand();
+    NoteAlbumInHand(Wanted);
     if (TheOpeners().ShowAsChild)
         TheOpeners().ShowAsChild(*this);
     else
@@ -159,7 +160,7 @@ void frmSlideDBM::LoadSlideMgr(std::int32_t AlbumID, std::int32_t SlideID) {
              mUi->cmdFlip2, mUi->cmdRotate1, mUi->cmdRotate2, mUi->cmdPicture, mUi->cmdRecord,
              mUi->cmdSoundFile, mUi->fldKeeping})
         Each->setEnabled(!ReadOnlyDB);
-    if (AlbumID != 0) GoToSlide(AlbumID, SlideID);
+    if (Wanted != 0) GoToSlide(Wanted, SlideID);
 }
 
 void frmSlideDBM::GoToSlide(std::int32_t AlbumID, std::int32_t SlideID) {
@@ -180,7 +181,6 @@ void frmSlideDBM::Form_Activate() {
     if (mStage != Stage::Opening) return;
     mStage = Stage::Open;
     Lists().ListAlbums();
-    if (Lists().ChooseAlbum(AlbumInHand())) ShowAlbum(Cause::Program);
     if (mUi->cboAlbum->count() > 0) return mUi->cboAlbum->setFocus();
     MsgBox(QStringLiteral("You must first create an album."));
     Unload();
