@@ -23,6 +23,7 @@ void SlideInHand::Renew(std::int32_t AlbumID, const clsNEBSlide& Now) {
     mNow = Now;
     SetSound(Sound::AsStored, {}, {});
     mTurned = mMoved = mChanged = false;
+    mGoneID = 0;
 }
 
 // How a sound is played is of no concern where there is none.
@@ -38,6 +39,7 @@ void SlideInHand::TakeNew(std::int32_t AlbumID) {
 
 void SlideInHand::MoveTo(std::int32_t AlbumID, std::int32_t SlideID) {
     mMoved = mMoved || SlideID != mNow.SlideID;
+    if (SlideID != 0 || !IsNew()) mGoneID = SlideID == 0 ? mNow.SlideID : 0;
     mAlbumID = AlbumID;
     mNow.SlideID = SlideID;
 }

@@ -42,6 +42,8 @@ class SlideInHand {
     std::int32_t AlbumID() const { return mAlbumID; }
     std::int32_t SlideID() const { return mNow.SlideID; }
     bool IsNew() const { return mNow.SlideID == 0; }
+    // The slide that it was until that went, which may come back; 0: none.
+    std::int32_t GoneID() const { return mGoneID; }
     bool IsChanged() const { return mChanged; }
     bool IsTurned() const { return mTurned; }
 
@@ -70,6 +72,7 @@ class SlideInHand {
     void SetSound(Sound Now, const QByteArray& File, const QString& Ending);
 
     std::int32_t mAlbumID = 0;
+    std::int32_t mGoneID = 0;
     clsNEBSlide mNow;     // SlideLoc: the stored name, or the full path of a chosen file
     QString mNameBefore;  // of the picture of the slide that was taken last
     std::optional<ImgX> mPicture;

@@ -97,6 +97,11 @@ bool EditMenu::eventFilter(QObject* Watched, QEvent* Event) {
     return true;
 }
 
+bool IsUndoing() {
+    const History* const Its = TheHistory();
+    return Its && Its->IsMoving();
+}
+
 void UndoLast() {
     Take(&History::Undo, &History::UndoName, QObject::tr("Undone: %1."));
 }

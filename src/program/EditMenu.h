@@ -31,6 +31,8 @@ class EditMenu : public QObject {
     QAction *mUndo, *mRedo;
 };
 
+// Whether one of them is at work: what comes meanwhile from outside must not end the program.
+bool IsUndoing();
 // Takes back what was done last, and says so in the status bar; or why it cannot be. Nothing while
 // a show is up.
 void UndoLast();

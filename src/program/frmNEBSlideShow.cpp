@@ -19,6 +19,7 @@
 #include "db/records/RecordSums.h"
 #include "db/recovery/modRestore.h"
 #include "db/undo/History.h"
+#include "program/EditMenu.h"
 #include "program/MainMenu.h"
 #include "program/MenuKeys.h"
 #include "program/StepAside.h"
@@ -303,7 +304,7 @@ bool frmNEBSlideShow::UnloadForms() {
 
 bool frmNEBSlideShow::Unload() {
     if (mStage != Stage::Loaded) return true;
-    if (!QueryForms() || !UnloadForms()) return false;
+    if (IsUndoing() || !QueryForms() || !UnloadForms()) return false;
     IgnoringFaults([this] { SaveMainWindow(*this); });
     const PointerScope Working(Pointer::Hourglass);
     IgnoringFaults([] { DeleteMask(DBPath() + QStringLiteral("Temp/*.*")); });

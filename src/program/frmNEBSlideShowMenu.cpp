@@ -90,7 +90,7 @@ void frmNEBSlideShow::OpenQuickShow() {
 
 // No show, no question and no work that waits for its end; no menu and no drag either.
 bool frmNEBSlideShow::IsFree() const {
-    return mStage == Stage::Loaded && !QApplication::activeModalWidget() &&
+    return mStage == Stage::Loaded && !IsUndoing() && !QApplication::activeModalWidget() &&
            !QApplication::activePopupWidget() && QThread::currentThread()->loopLevel() <= 1;
 }
 

@@ -11,6 +11,7 @@
 #include "db/records/modJournal.h"
 #include "program/CommandLine.h"
 #include "program/DesktopServices.h"
+#include "program/EditMenu.h"
 #include "program/TerminationWatch.h"
 #include "program/frmNEBSlideShow.h"
 #include "program/opening/InstanceServer.h"
@@ -143,13 +144,16 @@ bool CloseTopmost(frmNEBSlideShow& Window) {
 }  // namespace
 
 // What runs inside a modal window works on the database, which must not go away under it: the
-// windows go first, then, once their work has ended, the program.
+// windows go first, then, once their work has ended, the program. An undo has no window, and ends
+// by itself.
 void CloseWhenIdle(frmNEBSlideShow& Window) {
-    if (QThread::currentThread()->loopLevel() <= 1) {
-        if (Window.close()) QApplication::quit();
-        return;
+    if (!IsUndoing()) {
+        if (QThread::currentThread()->loopLevel() <= 1) {
+            if (Window.close()) QApplication::quit();
+            return;
+        }
+        if (!CloseTopmost(Window)) return;
     }
-    if (!CloseTopmost(Window)) return;
     QTimer::singleShot(RetryMs, &Window, [&Window] { CloseWhenIdle(Window); });
 }
 

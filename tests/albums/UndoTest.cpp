@@ -2,10 +2,14 @@
 // beside them are as they were.
 #include <gtest/gtest.h>
 
+#include <QFile>
+#include <QTemporaryDir>
+
 #include "UndoRig.h"
 #include "db/AlbumSums.h"
 #include "db/SongNames.h"
 #include "harness/Refusals.h"
+#include "support/files/modHostFilesCopy.h"
 
 namespace neb {
 namespace {
@@ -242,6 +246,79 @@ TEST_F(Undo, AnAlbumOnAnotherDiskGoesAsBeforeAndIsNoStep) {
     EXPECT_EQ("", NextUndo());
     EXPECT_FALSE(FolderExists(AlbumFolder(Engine.DBPath(), Garden)));
     EXPECT_TRUE(StateOf(Engine).Files.empty());
+}
+
+// The folder of an album as a link to another disk: to and from there nothing can be renamed.
+class UndoOnTwoDisks : public UndoRig {
+  protected:
+    void SetUp() override {
+        const QString Folder = SlidesFolder(Engine.DBPath(), Garden);
+        if (IsSameVolume(Folder, mOther.path())) GTEST_SKIP() << "there is one disk alone";
+        for (const DirEntry& Each : ListDir(Folder))
+            CopyFile(Folder + Each.Name, mOther.path() + u'/' + Each.Name);
+        DeleteTree(Folder);
+        ASSERT_TRUE(QFile::link(mOther.path(), Folder.chopped(1)));
+    }
+
+    std::map<QString, QByteArray> Files() const {
+        std::map<QString, QByteArray> All;
+        for (const DirEntry& Each : ListDir(SlidesFolder(Engine.DBPath(), Garden)))
+            All[Each.Name] = ReadFile(SlidesFolder(Engine.DBPath(), Garden) + Each.Name);
+        return All;
+    }
+    std::set<QString> Sums() const {
+        std::set<QString> All;
+        for (const ListedSum& Each : SumsIn(*ReadAlbumSums(AlbumFolder(Engine.DBPath(), Garden))))
+            EXPECT_TRUE(All.insert(Each.Path + u' ' + Each.Sum.toHex()).second);
+        return All;
+    }
+    void ExpectBackAndForthOnBoth(const std::function<void()>& Do) {
+        const auto Before = Files();
+        const auto SumsBefore = Sums();
+        Do();
+        const auto After = Files();
+        EXPECT_FALSE(Before == After);
+        for (int Time = 0; Time < 2; ++Time) {
+            User.Undo();
+            EXPECT_TRUE(Before == Files());
+            EXPECT_TRUE(SumsBefore == Sums());
+            User.Redo();
+            EXPECT_TRUE(After == Files());
+        }
+    }
+
+  private:
+    QTemporaryDir mOther{u"/var/tmp/nebtest-XXXXXX"_s};
+};
+
+TEST_F(UndoOnTwoDisks, ATurnedPictureWithoutAThumbnailIsAsItWas) {
+    DeleteFile(SlidesFolder(Engine.DBPath(), Garden) + ThumbnailName(Slides[2]));
+    ForgetStored({SlidesFolder(Engine.DBPath(), Garden) + ThumbnailName(Slides[2])});
+    ExpectBackAndForthOnBoth([&] { User.Turn(Garden, Slides[2], "turned"); });
+}
+
+TEST_F(UndoOnTwoDisks, ARecordingThatWasTakenBackIsNotLost) {
+    ExpectBackAndForthOnBoth([&] {
+        User.SaveSlide(Garden, Slides[0], [](SlideInHand& InHand) { InHand.Record("new"); });
+    });
+}
+
+TEST_F(UndoOnTwoDisks, ASoundThatWasReplacedIsAsItWas) {
+    ExpectBackAndForthOnBoth([&] {
+        User.SaveSlide(Garden, Slides[1], [](SlideInHand& InHand) { InHand.Record("other"); });
+    });
+}
+
+TEST_F(Undo, WhatCouldNotComeBackLeavesNoCopiesBehind) {
+    User.Turn(Garden, Slides[2], "turned");
+    const size_t Kept = ListDir(Dir / u"Temp/Undo/"_s).size();
+    SetHostWatcher([](HostStep Step, const QString& Path, qint64&) {
+        if (Step == HostStep::Rename && Path.contains(u"Slides/"_s)) throw Fault(u"no"_s, Path);
+    });
+    for (int Time = 0; Time < 3; ++Time) EXPECT_FALSE(User.Steps().Undo());
+    SetHostWatcher({});
+    EXPECT_EQ(Kept, ListDir(Dir / u"Temp/Undo/"_s).size());
+    User.Undo();
 }
 
 TEST_F(Undo, AFileThatCannotComeBackKeepsEverythingAsItIs) {

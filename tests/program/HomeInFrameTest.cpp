@@ -6,8 +6,12 @@
 #include <QTest>
 
 #include "MainWindowRig.h"
+#include "albums/modImport.h"
+#include "db/modAlbumFiles.h"
 #include "harness/AwaitActive.h"
+#include "pictures/ImgX.h"
 #include "program/Workspace.h"
+#include "windows/gallery/SlideTurning.h"
 #include "windows/home/BigButton.h"
 #include "windows/home/HomeList.h"
 #include "windows/home/HomePage.h"
@@ -17,6 +21,8 @@
 
 namespace neb {
 namespace {
+
+using namespace Qt::StringLiterals;
 
 class HomeInFrame : public MainWindow {
   protected:
@@ -154,6 +160,20 @@ TEST_F(HomeInFrame, TheKeyOfTheMenuIsAltHome) {
     QTest::keyClick(mWindow->focusWidget(), Qt::Key_Home, Qt::AltModifier);
     DoEvents();
     EXPECT_TRUE(HomeHasKeys());
+}
+
+TEST_F(HomeInFrame, AnEndWhileALargePictureIsTurnedLeavesItAsItIs) {
+    Start();
+    ImgX Large;
+    Large.SetPicture(QImage(5000, 4000, QImage::Format_RGB32));
+    const QByteArray Jpeg = Large.ToJpeg();
+    Changes Door(*DBEngine);
+    ASSERT_TRUE(NewAlbum(Door, *DBEngine, u"Garden"_s));
+    ASSERT_TRUE(EnterPicture(Door, *DBEngine, 1, {u"Rose"_s, [&] { return Jpeg; }, {}}));
+    QTimer::singleShot(0, mWindow.get(), [this] { EXPECT_TRUE(mWindow->Unload()); });
+    SlideTurning(1, {1}, 1).Run();
+    EXPECT_FALSE(DBEngine);
+    EXPECT_TRUE(Jpeg == ReadFile(SlidesFolder(DBPath(), 1) + u"00000001.jpg"_s));
 }
 
 TEST_F(HomeInFrame, ItsQuickShowIsThatOfTheMenu) {

@@ -21,6 +21,7 @@
 #include "harness/EngineContent.h"
 #include "pictures/ImgX.h"
 #include "program/EditMenu.h"
+#include "program/modMain.h"
 #include "windows/albums/frmAlbumDelete.h"
 #include "windows/compose/frmSlideShowDBM.h"
 #include "windows/lists/SlideRows.h"
@@ -261,6 +262,42 @@ TEST_F(UndoMenu, TheEndLeavesNothingBehindThatWasKept) {
     EXPECT_TRUE(FolderExists(Kept));
     EXPECT_TRUE(mWindow->Unload());
     EXPECT_FALSE(FolderExists(Kept));
+}
+
+TEST_F(UndoMenu, WhatWasTypedGoesOnForASlideThatComesBack) {
+    const auto Manager = NewForm<frmSlideDBM>();
+    Manager->LoadSlideMgr(1, 2);
+    QTest::keyClicks(&In<QLineEdit>(*Manager, "txtDscr"), u"My "_s);
+    EXPECT_TRUE(Changes(*DBEngine).DeleteSlide(1, 2));
+    EXPECT_GT(1, In<QComboBox>(*Manager, "cboSlides").currentIndex());
+    UndoLast();
+    EXPECT_LT(0, In<QComboBox>(*Manager, "cboSlides").currentIndex());
+    Click(*Manager, "cmdSave");
+    EXPECT_EQ(3U, DBEngine->GetAlbum(1)->Slides.size()) << "no second one without a picture";
+    EXPECT_EQ(u"My Lily", DBEngine->GetAlbum(1)->GetSlide(2)->SlideText);
+    EXPECT_EQ(u"00000002.JPG", DBEngine->GetAlbum(1)->GetSlide(2)->SlideLoc);
+}
+
+// A shutdown of the machine, while thousands of files are on their way.
+TEST_F(UndoMenu, ARequestToEndWaitsUntilAnUndoIsThrough) {
+    EXPECT_TRUE(Changes(*DBEngine).DeleteSlide(1, 2));
+    int Asked = 0;
+    SetHostWatcher([&](HostStep Step, const QString& Path, qint64&) {
+        if (Step != HostStep::Rename || !Path.contains(u"Slides/"_s) || ++Asked > 1) return;
+        CloseWhenIdle(*mWindow);
+        EXPECT_FALSE(mWindow->close());
+        EXPECT_TRUE(DBEngine) << "the undo goes on with it";
+    });
+    QTimer::singleShot(0, mWindow.get(), [] {
+        UndoLast();
+        EXPECT_TRUE(DBEngine && DBEngine->GetAlbum(1)->GetSlide(2));
+    });
+    QTimer::singleShot(10000, mWindow.get(), &QApplication::quit);
+    QApplication::exec();
+    SetHostWatcher({});
+    EXPECT_LT(0, Asked);
+    EXPECT_FALSE(DBEngine) << "it has ended then";
+    EXPECT_EQ(3U, Files().size());
 }
 
 TEST_F(UndoMenu, AnEndThatCouldNotSaveKeepsWhatCanBeUndone) {

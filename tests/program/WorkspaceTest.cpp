@@ -296,6 +296,16 @@ TEST_F(Children, TheMainWindowIsBroughtInsideTheScreen) {
     EXPECT_TRUE(mWindow->screen()->availableGeometry().contains(mWindow->geometry()));
 }
 
+TEST_F(Children, ASizeWithoutAPlaceIsNoLargerThanTheScreen) {
+    clsSettings Settings = OpenSettings();
+    for (const char* Key : {"Width", "Height"})
+        Settings.PutValue(u"frmNEBSlideShow"_s, QString::fromLatin1(Key), u"2000000000"_s);
+    Settings.Save();
+    Begin();
+    const QSize Screen = mWindow->screen()->availableSize();
+    EXPECT_EQ(Screen, mWindow->size().expandedTo(Screen));
+}
+
 TEST_F(Children, OfAlbumsThatMayNotBeChangedThePlacesAreKeptAmongTheUsersFiles) {
     Begin();
     EXPECT_TRUE(mWindow->close());

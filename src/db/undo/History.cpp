@@ -312,17 +312,23 @@ void History::BringBack(UndoStep::File& File) {
     if (IsReplaced && Held.isEmpty())
         throw Fault(QStringLiteral("There is no room to keep the file that is there now."),
                     File.Path);
-    mFiles.PutBack(File.Kept, File.Path);
+    try {
+        mFiles.PutBack(File.Kept, File.Path);
+    } catch (...) {
+        mFiles.Drop(Held);
+        throw;
+    }
     File.Kept = Held;
 }
 
-// False: some could not be kept and are gone.
+// What lies on another disk is kept by a copy. False: some could not be kept and are gone.
 bool History::TakeAllAway(const std::vector<UndoStep::File*>& Files) {
     QStringList Paths;
     bool AreKept = true;
     for (UndoStep::File* Each : Files) {
         if (!NameExists(Each->Path)) continue;
         Each->Kept = mFiles.Take(Each->Path);
+        if (Each->Kept.isEmpty()) Each->Kept = mFiles.Hold(Each->Path);
         AreKept = AreKept && !Each->Kept.isEmpty();
         Paths << Each->Path;
     }

@@ -39,6 +39,8 @@ class History : public ChangeKeeper {
     // then. LetRun is called while many files are moved.
     Answer<Undone> Undo(const Yield& LetRun = {});
     Answer<Undone> Redo(const Yield& LetRun = {});
+    // Files are on their way: the database must not go away under it.
+    bool IsMoving() const { return mIsMoving; }
     // Lets go of files, the oldest first, until so many bytes are free, or none are kept; how many
     // more are free then.
     qint64 MakeRoom(qint64 Wanted);

@@ -3,6 +3,7 @@
 #include "db/AlbumSums.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
+#include "support/files/modHostFilesCopy.h"
 #include "support/modFUFL.h"
 
 namespace neb {
@@ -15,6 +16,28 @@ bool IsPlainFile(const QString& Path) {
 // Without the closing separator: a link is then meant itself.
 QString NameOf(const QString& Path) {
     return Path.endsWith(u'/') ? Path.chopped(1) : Path;
+}
+
+void DropQuietly(const QString& Path) {
+    try {
+        DeleteFile(Path);
+    } catch (const Fault&) {
+        return;
+    }
+}
+
+// The folders of an album may be links to another disk, to which no rename leads.
+void PutFile(const QString& Kept, const QString& Path) {
+    if (IsSameVolume(Kept, GetFilePath(Path))) return PutStored(Kept, Path);
+    const QString Beside = ResolvePath(Path) + QStringLiteral(".undo");
+    try {
+        CopyFile(Kept, Beside);
+        PutStored(Beside, Path);
+    } catch (...) {
+        DropQuietly(Beside);
+        throw;
+    }
+    DropQuietly(Kept);
 }
 
 }  // namespace
@@ -62,7 +85,7 @@ void UndoFiles::Drop(const QString& Kept) try {
 // A folder that was left empty at its place makes room.
 void UndoFiles::PutBack(const QString& Kept, const QString& Path) {
     MakeDirsIn(mDBPath, GetFilePath(NameOf(Path)));
-    if (IsPlainFile(Kept)) return PutStored(Kept, Path);
+    if (IsPlainFile(Kept)) return PutFile(Kept, Path);
     DeleteFolder(Path);
     if (NameExists(NameOf(Path)))
         throw Fault(QStringLiteral("There is a file of this name already."), Path);

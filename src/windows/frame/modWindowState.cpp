@@ -221,8 +221,11 @@ void SaveWindow(const Form& Window, const WindowMemory& Memory) {
 
 void RestoreMainWindow(QWidget& Window) {
     const clsSettings Settings = OpenMemory();
-    Window.resize(ReadSize(Settings, Window.objectName(), Window.size()));
-    if (const auto Place = ReadPlace(Settings, Window.objectName())) PlaceOnScreen(Window, *Place);
+    const QSize Kept = ReadSize(Settings, Window.objectName(), Window.size());
+    const auto Place = ReadPlace(Settings, Window.objectName());
+    // a size that no screen has would be none that the window can be worked with
+    Window.resize(Place ? Kept : Kept.boundedTo(Window.screen()->availableSize()));
+    if (Place) PlaceOnScreen(Window, *Place);
     ReadState(Settings, Window.objectName(), Window);
 }
 

@@ -72,6 +72,7 @@ void SlideTurning::Turn(std::int32_t SlideID) {
     auto Work = [DBPath = DBEngine->DBPath(), ID = mAlbumID, Slide = *Stored, Quarters = mQuarters,
                  Keeping] { return TurnSlide(DBPath, ID, Slide, Quarters, Keeping); };
     TurnedSlide Turned = FinishAside(std::move(Work)).get();
+    if (!DBEngine) return;  // the program has been ended meanwhile
     Answer<Announcement> Saved =
         SaveSlide(*DBEngine, nullptr, Turned.InHand, [Jpeg = Turned.Jpeg] { return Jpeg; });
     if (Saved)

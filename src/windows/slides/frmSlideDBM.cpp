@@ -373,7 +373,9 @@ void frmSlideDBM::FollowAddSlides(const EventKeys& Keys) {
     const std::int32_t Shown = Lists().SlideID();
     if (Lists().AlbumID() == 0 || Keys.at(0) != Lists().AlbumID()) return;
     LoadAlbumSlides(Cause::OtherWindow);
-    if (!Lists().ChooseSlide(Shown)) mInHand.MoveTo(Lists().AlbumID(), 0);
+    const std::int32_t Own = Shown != 0 ? Shown : mInHand.GoneID();
+    mInHand.MoveTo(Lists().AlbumID(), Lists().ChooseSlide(Own) ? Own : 0);
+    mUi->cmdDelete->setEnabled(!mInHand.IsNew() && !ReadOnlyDB);
     if (!mInHand.IsChanged()) ShowChosen(Cause::OtherWindow);
 }
 
