@@ -1,6 +1,5 @@
 #include "windows/gallery/AlbumPage.h"
 
-#include <QLocale>
 #include <QPointer>
 #include <QShortcut>
 
@@ -8,6 +7,7 @@
 #include "db/clsDBEngine.h"
 #include "settings/SettingKeys.h"
 #include "settings/modNEBSlideShow.h"
+#include "support/Grouped.h"
 #include "support/modCharacters.h"
 #include "ui_AlbumPage.h"
 #include "windows/frame/AlbumInHand.h"
@@ -141,8 +141,7 @@ void AlbumPage::ShowTitle() {
     const QString Name = Album ? InOwnDirection(Album->AlbumName) : QString();
     const int Count = mSlides->Count();
     const QString Slides =
-        QStringLiteral("  ") +
-        (Count == 1 ? tr("1 slide") : tr("%1 slides").arg(QLocale().toString(Count)));
+        QStringLiteral("  ") + (Count == 1 ? tr("1 slide") : tr("%1 slides").arg(Grouped(Count)));
     QLabel& Label = *mUi->lblAlbum;
     const int Room = Label.width() - Label.fontMetrics().horizontalAdvance(Slides);
     Label.setText(Label.fontMetrics().elidedText(Name, Qt::ElideRight, Room) + Slides);

@@ -1,10 +1,11 @@
 // Pictures that are being read beside the window, each on a thread of its own: few at a time, and
-// one that hangs takes nobody's place. Used by the thumbnails and by the full screen.
+// one that hangs takes nobody's place. Used by the thumbnails, by the full screen and by the home.
 #pragma once
 
 #include <QElapsedTimer>
 #include <QThread>
 #include <algorithm>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -18,6 +19,11 @@ class Readings {
     bool IsEmpty() const { return mAll.empty(); }
     bool Has(const Key& Of) const {
         return std::ranges::any_of(mAll, [&](const Reading& Each) { return Each.Of == Of; });
+    }
+    std::vector<Key> Keys() const {
+        std::vector<Key> All;
+        for (const Reading& Each : mAll) All.push_back(Each.Of);
+        return All;
     }
     // Whether another one may begin; Urgent: one that somebody waits for.
     bool HasPlace(bool Urgent = false) const {

@@ -6,6 +6,7 @@
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
 #include "settings/modNEBSlideShow.h"
+#include "support/Grouped.h"
 #include "support/modCharacters.h"
 
 namespace neb {
@@ -20,13 +21,14 @@ SlideModel::Entries SlideModel::Now() const {
     for (const NameIndexEntry& Row : Album->SlideIndex)
         if (const clsNEBSlide* Slide = Slides.take(Row.ID))
             Wanted.push_back({Row.ID, Slide->SlideText,
-                              SlidePath(DBEngine->DBPath(), mAlbumID, Slide->SlideLoc)});
+                              SlidePath(DBEngine->DBPath(), mAlbumID, Slide->SlideLoc), mEditions});
     return Wanted;
 }
 
 void SlideModel::ShowAlbum(std::int32_t AlbumID) {
     beginResetModel();
     mAlbumID = AlbumID;
+    ++mEditions;
     mRows = Now();
     endResetModel();
 }
@@ -85,7 +87,8 @@ void SlideModel::TakeOver(const Entries& Wanted) {
         Entry& Mine = mRows[Row];
         const bool Moved = Mine.Path != Wanted[Row].Path;
         if (!Moved && Mine.Caption == Wanted[Row].Caption) continue;
-        Mine = {Mine.SlideID, Wanted[Row].Caption, Wanted[Row].Path, Mine.Edition + Moved};
+        Mine = {Mine.SlideID, Wanted[Row].Caption, Wanted[Row].Path,
+                Moved ? ++mEditions : Mine.Edition};
         const QModelIndex Changed = index(static_cast<int>(Row));
         Q_EMIT dataChanged(Changed, Changed);
     }
@@ -94,7 +97,7 @@ void SlideModel::TakeOver(const Entries& Wanted) {
 void SlideModel::RenewPicture(std::int32_t SlideID) {
     for (int Row = 0; Row < Count(); ++Row) {
         if (SlideID != 0 && this->SlideID(Row) != SlideID) continue;
-        ++mRows[static_cast<size_t>(Row)].Edition;
+        mRows[static_cast<size_t>(Row)].Edition = ++mEditions;
         Q_EMIT dataChanged(index(Row), index(Row), {Qt::DecorationRole});
     }
 }
@@ -105,7 +108,7 @@ int SlideModel::RowOf(std::int32_t SlideID) const {
 }
 
 QString SlideModel::Words(int Row) const {
-    const QString Place = tr("Slide %1 of %2").arg(Row + 1).arg(Count());
+    const QString Place = tr("Slide %1 of %2").arg(Grouped(Row + 1), Grouped(Count()));
     const QString& Text = Caption(Row);
     return Text.isEmpty() ? Place : Place + QStringLiteral(", ") + InOwnDirection(Text);
 }

@@ -28,7 +28,8 @@ class SlideModel : public QAbstractListModel {
     std::int32_t SlideID(int Row) const { return At(Row).SlideID; }
     const QString& Caption(int Row) const { return At(Row).Caption; }
     const QString& Path(int Row) const { return At(Row).Path; }
-    // How often the picture has been renewed.
+    // Of its picture: another one whenever that may be another picture than before, also of an
+    // album that is shown again.
     int Edition(int Row) const { return At(Row).Edition; }
     // "Slide 12 of 300, Garden in June"
     QString Words(int Row) const;
@@ -52,6 +53,7 @@ class SlideModel : public QAbstractListModel {
     void TakeOver(const Entries& Wanted);
 
     std::int32_t mAlbumID = 0;
+    int mEditions = 0;  // so many by now, of all albums
     Entries mRows;
 };
 

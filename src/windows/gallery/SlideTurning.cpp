@@ -1,7 +1,5 @@
 #include "windows/gallery/SlideTurning.h"
 
-#include <QLocale>
-
 #include "albums/KeepingChoice.h"
 #include "albums/SlideSave.h"
 #include "controls/forms/ScreenPointer.h"
@@ -9,6 +7,7 @@
 #include "controls/picture/PictureView.h"
 #include "db/clsDBEngine.h"
 #include "settings/modNEBSlideShow.h"
+#include "support/Grouped.h"
 #include "support/ReasonOf.h"
 #include "support/work/WorkAside.h"
 
@@ -33,10 +32,10 @@ void SlideTurning::Run() {
         for (const std::int32_t SlideID : mSlideIDs) TryToTurn(SlideID);
     }
     if (mProblems.isEmpty()) return;
-    const QString Told = mProblems.size() == 1
-                             ? mProblems.first()
-                             : frmProgress::tr("%1 slides could not be turned.")
-                                   .arg(QLocale().toString(int(mProblems.size())));
+    const QString Told =
+        mProblems.size() == 1
+            ? mProblems.first()
+            : frmProgress::tr("%1 slides could not be turned.").arg(Grouped(mProblems.size()));
     BoxRequest Box{
         .Text = Told, .Title = frmProgress::tr("Turning Slides"), .Icon = BoxIcon::Information};
     if (mProblems.size() > 1) Box.Details = mProblems.join(QStringLiteral("\n\n"));

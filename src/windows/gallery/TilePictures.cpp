@@ -3,6 +3,7 @@
 #include <QListView>
 #include <optional>
 #include <set>
+#include <utility>
 
 #include "controls/grid/ShapedPicture.h"
 #include "pictures/ImgX.h"
@@ -66,27 +67,33 @@ TilePictures::Key TilePictures::KeyOf(int Row) const {
     return {mModel.SlideID(Row), mModel.Edition(Row)};
 }
 
+const TilePicture* TilePictures::Known(int Row) const {
+    const auto Found = mKnown.find(mModel.SlideID(Row));
+    const bool IsThis = Found != mKnown.end() && Found->second.Edition == mModel.Edition(Row);
+    return IsThis ? &Found->second.Picture : nullptr;
+}
+
 TilePicture TilePictures::Of(int Row) {
     if (MissingOf(Row) && !mLook.isActive()) mLook.start();
-    const auto Found = mKnown.find(KeyOf(Row));
-    return Found == mKnown.end() ? TilePicture() : Found->second;
+    const auto Found = mKnown.find(mModel.SlideID(Row));
+    return Found == mKnown.end() ? TilePicture() : Found->second.Picture;
 }
 
 bool TilePictures::IsUnreadable(int Row) const {
-    const auto Found = mKnown.find(KeyOf(Row));
-    return Found != mKnown.end() && Found->second.IsUnreadable;
+    const TilePicture* Now = Known(Row);
+    return Now && Now->IsUnreadable;
 }
 
 bool TilePictures::IsSharp(int Row) const {
-    const auto Found = mKnown.find(KeyOf(Row));
-    return Found != mKnown.end() && Found->second.Side == SideInPixels();
+    const TilePicture* Now = Known(Row);
+    return Now && Now->Side == SideInPixels();
 }
 
 std::optional<TilePictures::Order> TilePictures::MissingOf(int Row) const {
-    const auto Found = mKnown.find(KeyOf(Row));
-    if (Found == mKnown.end()) return Order{KeyOf(Row), Thumbnail};
+    const TilePicture* Now = Known(Row);
+    if (!Now) return Order{KeyOf(Row), Thumbnail};
     const int Side = SideInPixels();
-    if (Found->second.IsUnreadable || Found->second.Side == Side) return {};
+    if (Now->IsUnreadable || Now->Side == Side) return {};
     return Order{KeyOf(Row), Side};
 }
 
@@ -122,13 +129,18 @@ void TilePictures::Look() {
     if (mReadings.IsEmpty()) mLook.stop();
 }
 
-// A picture that was renewed meanwhile is read again; one of another size than is wanted by now is
-// shown until the right one comes.
+// A picture that was renewed meanwhile is read again; one of another size than is wanted by now, or
+// of what was there before, is shown until the right one comes.
 void TilePictures::Take(const Order& Done, const TilePicture& Read) {
     const int Row = mModel.RowOf(Done.Of.SlideID);
     if (Row < 0 || KeyOf(Row) != Done.Of) return;
-    TilePicture& Known = mKnown[Done.Of];
-    if (Done.Side != Thumbnail || Known.Picture.isNull()) Known = Read;
+    auto& [Edition, Now] = mKnown[Done.Of.SlideID];
+    const bool IsNew = std::exchange(Edition, Done.Of.Edition) != Done.Of.Edition;
+    const bool Stays = IsNew ? Read.Picture.isNull() : !Now.Picture.isNull();
+    if (Done.Side != Thumbnail || !Stays)
+        Now = Read;
+    else if (IsNew)
+        Now = {Now.Picture, Thumbnail, false};
     mView.update(mModel.index(Row));
 }
 
@@ -165,9 +177,9 @@ void TilePictures::BeginReading() {
 }
 
 void TilePictures::DropDistant() {
-    std::set<Key> Near;
+    std::set<std::int32_t> Near;
     const auto [First, Last] = Nearby();
-    for (int Row = First; Row <= Last; ++Row) Near.insert(KeyOf(Row));
+    for (int Row = First; Row <= Last; ++Row) Near.insert(mModel.SlideID(Row));
     std::erase_if(mKnown, [&](const auto& Each) { return !Near.count(Each.first); });
 }
 

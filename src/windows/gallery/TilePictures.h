@@ -42,7 +42,7 @@ class TilePictures : public QObject {
     struct Key {
         std::int32_t SlideID;
         int Edition;
-        auto operator<=>(const Key&) const = default;
+        bool operator==(const Key&) const = default;
     };
     // One piece of reading: the thumbnail, or with so many pixels the picture.
     struct Order {
@@ -50,11 +50,17 @@ class TilePictures : public QObject {
         int Side;
         bool operator==(const Order&) const = default;
     };
+    // What is shown of a slide; that of an edition before stands in until the new one is read.
+    struct Shown {
+        int Edition = -1;
+        TilePicture Picture;
+    };
     struct Range {
         int First, Last;
     };
 
     Key KeyOf(int Row) const;
+    const TilePicture* Known(int Row) const;  // nullptr: nothing of this edition
     Range InView() const;
     Range Nearby() const;
     std::optional<Order> MissingOf(int Row) const;
@@ -67,7 +73,7 @@ class TilePictures : public QObject {
     QListView& mView;
     const SlideModel& mModel;
     int mSide;
-    std::map<Key, TilePicture> mKnown;
+    std::map<std::int32_t, Shown> mKnown;  // by SlideID
     Readings<Order, TilePicture> mReadings;
     QTimer mLook;
 };

@@ -7,6 +7,7 @@
 #include "controls/picture/PictureView.h"
 #include "show/captions/CaptionFit.h"
 #include "show/captions/CaptionText.h"
+#include "support/Grouped.h"
 #include "support/modCharacters.h"
 #include "support/modFUFL.h"
 #include "windows/gallery/CaptionField.h"
@@ -163,7 +164,7 @@ void frmSlideScreen::Follow() {
     if (!mWalk.At.isValid())
         mWalk.At = mSlides->index(std::clamp(mWalk.Row, 0, mSlides->Count() - 1));
     mWalk.Row = mWalk.At.row();
-    mPlace->setText(tr("%1 of %2").arg(mWalk.Row + 1).arg(mSlides->Count()));
+    mPlace->setText(PlaceWords(mWalk.Row + 1));
     setAccessibleName(mSlides->Words(mWalk.Row));
     setWindowTitle(mSlides->Words(mWalk.Row));
     WantPictures();
@@ -171,9 +172,13 @@ void frmSlideScreen::Follow() {
     if (!mPatience.isActive()) mPatience.start();
 }
 
+QString frmSlideScreen::PlaceWords(int Place) const {
+    return tr("%1 of %2").arg(Grouped(Place), Grouped(mSlides->Count()));
+}
+
 // The same for all slides, so that the room of the next one is known.
 int frmSlideScreen::PlaceWidth() const {
-    const QString Widest = tr("%1 of %2").arg(mSlides->Count()).arg(mSlides->Count());
+    const QString Widest = PlaceWords(mSlides->Count());
     return mPlace->fontMetrics().horizontalAdvance(Widest) + 2 * Margin;
 }
 

@@ -51,6 +51,7 @@ class frmSlideScreen : public Form {
     bool IsThere() const { return mWalk.Row < mSlides->Count(); }
     void GoTo(int Row);
     void Follow();
+    QString PlaceWords(int Place) const;
     int PlaceWidth() const;
     ScreenPictures::Order OrderOf(int Row) const;
     void WantPictures();

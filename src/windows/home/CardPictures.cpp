@@ -1,24 +1,17 @@
 #include "windows/home/CardPictures.h"
 
-#include <QThread>
-#include <algorithm>
+#include <memory>
 
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
-#include "pictures/ImgX.h"
-#include "pictures/PictureResize.h"
 #include "settings/modNEBSlideShow.h"
+#include "windows/lists/ScreenPicture.h"
 
 namespace neb {
 namespace {
 
 constexpr int LookMs = 15;            // who scrolls on at once passes by unread
 constexpr int MostKept = 128 * 1024;  // kilobytes
-
-// One processor is left to the windows.
-size_t MostAtOnce() {
-    return static_cast<size_t>(std::clamp(QThread::idealThreadCount() - 1, 1, 4));
-}
 
 int CostOf(const QImage& Cover) {
     return static_cast<int>(Cover.sizeInBytes() / 1024) + 1;
@@ -27,12 +20,7 @@ int CostOf(const QImage& Cover) {
 // A small picture is not made larger: it would only be blurred.
 QImage FittedCover(const QString& Path, QSize Box, double Scale) {
     try {
-        ImgX Picture;
-        Picture.LoadAtLeast(Path, Box);
-        QSize Size = Picture.FullSize().scaled(Box, Qt::KeepAspectRatio);
-        if (Size.width() > Picture.FullSize().width()) Size = Picture.FullSize();
-        QImage Cover =
-            ResizePicture(Picture.Picture(), Size.expandedTo({1, 1}), ResizeFilter::Sharp);
+        QImage Cover = ReadForScreen(Path, Box);
         Cover.setDevicePixelRatio(Scale);
         return Cover;
     } catch (const std::exception&) {
@@ -63,49 +51,48 @@ const CardPictures::Known* CardPictures::Of(const HomeCard& Card) {
 }
 
 void CardPictures::Renew(std::int32_t AlbumID, std::int32_t SlideID) {
+    const auto IsOf = [&](const LibraryHit& Of, std::int32_t Shown) {
+        return Of.AlbumID == AlbumID && (SlideID == 0 || Shown == 0 || Shown == SlideID);
+    };
     for (const LibraryHit& Each : mKnown.keys()) {
         Known& Now = *mKnown.object(Each);
-        const bool IsOther = SlideID != 0 && Now.SlideID != 0 && Now.SlideID != SlideID;
-        if (Each.AlbumID == AlbumID && !IsOther) Now.IsStale = true;
+        if (IsOf(Each, Now.SlideID)) Now.IsStale = true;
+        if (Each.AlbumID == AlbumID && Now.Changed) Now.Changed = QDateTime::currentDateTime();
     }
-    // what is being read was begun before it changed
-    std::erase_if(mReading, [&](const Reading& Each) { return Each.Of.AlbumID == AlbumID; });
+    for (const Errand& Each : mReadings.Keys())
+        if (IsOf(Each.Of, Each.SlideID)) mOutdated.insert(Each.Of);
 }
 
 bool CardPictures::IsWanted(const HomeCard& Card) const {
-    if (mBox.isEmpty()) return false;
+    if (mBox.isEmpty() || mReadings.Has({Card.Of})) return false;
     const Known* Now = mKnown.object(Card.Of);
-    if (Now && Now->Box == mBox && !Now->IsStale) return false;
-    return std::ranges::none_of(mReading, [&](const Reading& Each) { return Each.Of == Card.Of; });
+    return !Now || Now->Box != mBox || Now->IsStale;
 }
 
 void CardPictures::Look() {
     TakeRead();
     BeginReading();
-    if (mReading.empty()) mLook.stop();
+    if (mReadings.IsEmpty()) mLook.stop();
 }
 
 void CardPictures::TakeRead() {
     std::vector<LibraryHit> Came;
-    for (Reading& Each : mReading) {
-        if (!Each.Work->Wait(0)) continue;
-        auto Made = std::make_unique<Known>(Each.Work->Take());
-        Each.Work.reset();
-        const int Cost = CostOf(Made->Cover);
-        mKnown.insert(Each.Of, Made.release(), Cost);
-        Came.push_back(Each.Of);
+    mReadings.TakeEnded([&](const Errand& Done, Known Read) {
+        Read.IsStale = mOutdated.remove(Done.Of);
+        const int Cost = CostOf(Read.Cover);
+        mKnown.insert(Done.Of, std::make_unique<Known>(std::move(Read)).release(), Cost);
+        Came.push_back(Done.Of);
         ++mReadSoFar;
-    }
-    std::erase_if(mReading, [](const Reading& Each) { return !Each.Work; });
+    });
     for (const LibraryHit& Each : Came) Q_EMIT Read(Each);
 }
 
 void CardPictures::BeginReading() {
     for (const HomeCard& Each : mInView()) {
-        if (mReading.size() >= MostAtOnce()) return;
+        if (!mReadings.HasPlace()) return;
         if (!DBEngine || !IsWanted(Each)) continue;
-        auto Work = [What = OrderFor(Each)](JobState&) { return ReadAside(What); };
-        mReading.push_back({Each.Of, std::make_unique<Job<Known>>(std::move(Work))});
+        const Order What = OrderFor(Each);
+        mReadings.Begin({Each.Of, What.SlideID}, [What](JobState&) { return ReadAside(What); });
     }
 }
 

@@ -7,12 +7,12 @@
 #include <QDateTime>
 #include <QImage>
 #include <QObject>
+#include <QSet>
 #include <QTimer>
-#include <memory>
 #include <optional>
 #include <vector>
 
-#include "support/work/Job.h"
+#include "windows/gallery/Readings.h"
 #include "windows/home/HomeCards.h"
 
 namespace neb {
@@ -38,7 +38,8 @@ class CardPictures : public QObject {
     void SetBox(QSize Box, double Scale);
     // What is known of a card that is being painted; nullptr: it will be told of.
     const Known* Of(const HomeCard& Card);
-    // Slides of an album have changed; SlideID 0: many.
+    // Slides of an album have changed; SlideID 0: many. What is being read of them is read once
+    // more when it has come, and not beside it: a thousand changes are not a thousand threads.
     void Renew(std::int32_t AlbumID, std::int32_t SlideID);
 
     int ReadSoFar() const { return mReadSoFar; }  // cards
@@ -57,9 +58,11 @@ class CardPictures : public QObject {
         QSize Box;
         double Scale = 1;
     };
-    struct Reading {
+    // What is being read, a card once.
+    struct Errand {
         LibraryHit Of;
-        std::unique_ptr<Job<Known>> Work;
+        std::int32_t SlideID = 0;
+        bool operator==(const Errand& Other) const { return Of == Other.Of; }
     };
 
     static Known ReadAside(const Order& What);
@@ -73,7 +76,8 @@ class CardPictures : public QObject {
     QSize mBox;
     double mScale = 1;
     QCache<LibraryHit, Known> mKnown;
-    std::vector<Reading> mReading;
+    Readings<Errand, Known> mReadings;
+    QSet<LibraryHit> mOutdated;  // changed since they are being read
     QTimer mLook;
     int mReadSoFar = 0;
 };

@@ -4,18 +4,15 @@
 #include <tuple>
 
 #include "db/clsDBEngine.h"
+#include "support/Grouped.h"
 
 namespace neb {
 namespace {
 
 using Kind = HomeCard::Kind;
 
-QString Counted(int Count, const QString& One, const QString& Many) {
-    return Count == 1 ? One : Many.arg(Count);
-}
-
 QString SlidesIn(const HomeCard& Card) {
-    return Counted(Card.Slides, QObject::tr("1 slide"), QObject::tr("%1 slides"));
+    return CountWords(Card.Slides, QObject::tr("1 slide"), QObject::tr("%1 slides"));
 }
 
 HomeCard CardOf(const LibraryEntry& Entry, const QString& Album) {
@@ -58,13 +55,17 @@ auto KeyOf(const LibraryHit& Of) {
 
 }  // namespace
 
+QString CountWords(int Count, const QString& One, const QString& Many) {
+    return Count == 1 ? One : Many.arg(Grouped(Count));
+}
+
 QString CountsOf(const HomeCard& Card) {
     if (Card.What == Kind::Slide) return {};
     if (Card.What == Kind::Show) return QObject::tr("Slide show, %1").arg(SlidesIn(Card));
     if (Card.Shows == 0) return SlidesIn(Card);
     return QObject::tr("%1, %2").arg(
         SlidesIn(Card),
-        Counted(Card.Shows, QObject::tr("1 slide show"), QObject::tr("%1 slide shows")));
+        CountWords(Card.Shows, QObject::tr("1 slide show"), QObject::tr("%1 slide shows")));
 }
 
 QString SpokenName(const HomeCard& Card) {
@@ -85,11 +86,15 @@ std::vector<HomeCard> CardsOf(const clsDBEngine& theDB) {
     return Cards;
 }
 
+// A show that was found may have gone, and nobody have told yet.
 std::vector<HomeCard> CardsOf(const clsDBEngine& theDB, const LibraryHits& Hits) {
     std::vector<HomeCard> Cards;
     const auto Add = [&](const std::vector<LibraryHit>& Found, auto Make) {
-        for (const LibraryHit& Each : Found)
-            Cards.push_back(Make(*theDB.GetAlbum(Each.AlbumID), Each));
+        for (const LibraryHit& Each : Found) {
+            const clsNEBAlbum& Album = *theDB.GetAlbum(Each.AlbumID);
+            if (Each.SlideShowID != 0 && !Album.GetSlideShow(Each.SlideShowID)) continue;
+            Cards.push_back(Make(Album, Each));
+        }
     };
     Add(Hits.Albums, &AlbumCard);
     Add(Hits.Shows, &ShowCard);

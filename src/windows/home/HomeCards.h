@@ -21,6 +21,8 @@ struct HomeCard {
     bool operator==(const HomeCard&) const = default;
 };
 
+// "1 slide", or Many with the number in the place of its %1.
+QString CountWords(int Count, const QString& One, const QString& Many);
 // The second line of a card: "12 slides, 2 slide shows".
 QString CountsOf(const HomeCard& Card);
 // What a screen reader says: "Album Garden, 12 slides, 2 slide shows".

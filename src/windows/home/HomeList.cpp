@@ -12,6 +12,7 @@
 #include "controls/fields/MenuIcon.h"
 #include "db/clsDBEngine.h"
 #include "settings/modNEBSlideShow.h"
+#include "support/Grouped.h"
 #include "windows/home/Beginnings.h"
 #include "windows/home/CardDeeds.h"
 #include "windows/home/HomeView.h"
@@ -33,10 +34,6 @@ bool IsStep(const QKeyEvent& Key) {
 
 bool IsEnter(const QKeyEvent& Key) {
     return Key.key() == Qt::Key_Return || Key.key() == Qt::Key_Enter;
-}
-
-QString Counted(int Count, const QString& One, const QString& Many) {
-    return Count == 1 ? One : Many.arg(QLocale().toString(Count));
 }
 
 }  // namespace
@@ -190,7 +187,9 @@ void HomeList::ReceiveEvent(const QString& ObjectType, const QString&, const Eve
     if (EventData.empty()) return;
     mSearch.Forget(EventData[0]);
     const bool IsOneSlide = ObjectType == u"Album" && EventData.size() > 1;
-    mView->Pictures().Renew(EventData[0], IsOneSlide ? EventData[1] : 0);
+    const std::int32_t SlideID = IsOneSlide ? EventData[1] : 0;
+    mView->Pictures().Renew(EventData[0], SlideID);
+    mLeft->RenewPicture(EventData[0], SlideID);
     if (!mRenew.isActive()) mRenew.start();
 }
 
@@ -228,11 +227,11 @@ QString HomeList::SummaryOf(const std::vector<HomeCard>& Cards) const {
     };
     const int Albums = Count(Kind::Album), Shows = Count(Kind::Show), Slides = Count(Kind::Slide);
     QStringList Parts;
-    if (Albums > 0) Parts << Counted(Albums, tr("1 album"), tr("%1 albums"));
-    if (Shows > 0) Parts << Counted(Shows, tr("1 slide show"), tr("%1 slide shows"));
-    if (Slides > 0) Parts << Counted(mSlidesFound, tr("1 slide"), tr("%1 slides"));
+    if (Albums > 0) Parts << CountWords(Albums, tr("1 album"), tr("%1 albums"));
+    if (Shows > 0) Parts << CountWords(Shows, tr("1 slide show"), tr("%1 slide shows"));
+    if (Slides > 0) Parts << CountWords(mSlidesFound, tr("1 slide"), tr("%1 slides"));
     if (Slides > 0 && Slides < mSlidesFound)
-        Parts << tr("of which %1 are shown; another word finds fewer").arg(Slides);
+        Parts << tr("of which %1 are shown; another word finds fewer").arg(Grouped(Slides));
     return Parts.join(tr(", "));
 }
 

@@ -7,6 +7,7 @@
 #include "db/clsDBEngine.h"
 #include "settings/modNEBSlideShow.h"
 #include "show/ShowSettings.h"
+#include "support/Grouped.h"
 #include "windows/home/CardPictures.h"
 #include "windows/show/modSlideShows.h"
 
@@ -82,10 +83,12 @@ LeftShow::Place LeftShow::Find() {
         ReadShowSettings(Settings, Active.AlbumID, Active.SlideShowID).ResumeSeq;
     const clsNEBSlideShowDetail* Detail = Show->GetDetail(At);
     if (!Detail) return {};
-    return {.Show = {.AlbumID = Active.AlbumID, .SlideShowID = Active.SlideShowID},
-            .Slide = {.AlbumID = Active.AlbumID, .SlideID = Detail->SlideID},
-            .Name = Show->SlideShowName,
-            .Where = tr("Goes on at slide %1 of %2").arg(At).arg(Show->Details.size())};
+    return {
+        .Show = {.AlbumID = Active.AlbumID, .SlideShowID = Active.SlideShowID},
+        .Slide = {.AlbumID = Active.AlbumID, .SlideID = Detail->SlideID},
+        .Name = Show->SlideShowName,
+        .Where =
+            tr("Goes on at slide %1 of %2").arg(Grouped(At), Grouped(std::ssize(Show->Details)))};
 }
 
 void LeftShow::Renew() {
@@ -98,6 +101,10 @@ void LeftShow::Renew() {
     mPlay->setAccessibleName(tr("Play %1. %2").arg(Now.Name, Now.Where));
     mPictures->SetBox(CoverSize, devicePixelRatioF());
     if (IsThere()) ShowCover();
+}
+
+void LeftShow::RenewPicture(std::int32_t AlbumID, std::int32_t SlideID) {
+    mPictures->Renew(AlbumID, SlideID);
 }
 
 void LeftShow::ShowCover() {

@@ -27,6 +27,8 @@ class LeftShow : public QWidget {
 
     // As the settings and the database are now.
     void Renew();
+    // Slides of an album have changed; SlideID 0: many. Renew shows them.
+    void RenewPicture(std::int32_t AlbumID, std::int32_t SlideID);
     bool IsThere() const { return mShow.SlideShowID != 0; }
 
   protected:

@@ -134,5 +134,41 @@ TEST_F(TilePicturesShown, AChangedPictureAloneIsReadAnew) {
     EXPECT_TRUE(Read->last().contains(FileStem(ID))) << Read->last().toStdString();
 }
 
+// Turned in the slide manager, say, while the home shows the albums.
+TEST_F(TilePicturesShown, APictureThatHasChangedWhileThePageWasLeftIsReadAnew) {
+    const std::int32_t ID = AddSlide(u"a"_s, {400, 300}, Qt::green);
+    Open();
+    ExpectSeen(0, Qt::green, {160, 120});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Tiles().Pictures().IsSharp(0); }, 3000));
+    Page().hide();
+    MakePicture(Stored(ID), 400, 300, Qt::yellow);
+    DeleteFile(Stored(ID, u"Small.bmp"_s));
+    const clsNEBSlide Same = Slide(ID);
+    Changes(Engine).SaveSlide(AlbumID, Same)->Now();
+    Settle();
+    Page().ShowAlbum(AlbumID);
+    Page().show();
+    ExpectSeen(0, Qt::yellow, {160, 120});
+}
+
+// A caption that is stored must not make its picture blink.
+TEST_F(TilePicturesShown, TheOneOfBeforeIsShownUntilTheNewOneIsRead) {
+    const std::int32_t ID = AddSlide(u"a"_s, {400, 300}, Qt::green);
+    ReadThroughFiles();
+    DeleteFile(Stored(ID, u"Small.bmp"_s));
+    Open();
+    ExpectSeen(0, Qt::green, {160, 120});
+    Files->Hang(PathOf(ID));
+    Changes(Engine).SaveCaption(AlbumID, ID, u"b"_s)->Now();
+    for (int I = 0; I < 10; ++I) {
+        Settle();
+        ASSERT_EQ(QSize(160, 120), Seen(0, Qt::green)) << I;
+    }
+    EXPECT_FALSE(Tiles().Pictures().IsSharp(0));
+    Files->GoOnAll();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Tiles().Pictures().IsSharp(0); }, 3000));
+    EXPECT_EQ(QSize(160, 120), Seen(0, Qt::green));
+}
+
 }  // namespace
 }  // namespace neb

@@ -2,9 +2,14 @@
 // more than what is seen.
 #include <QScrollBar>
 #include <QSignalSpy>
+#include <QThread>
+#include <atomic>
+#include <filesystem>
 
 #include "HomeRig.h"
+#include "harness/HangingFiles.h"
 #include "windows/compose/frmSlideShowDBM.h"
+#include "windows/lists/ScreenPicture.h"
 
 namespace neb {
 namespace {
@@ -24,6 +29,95 @@ class HomeFollows : public HomeRig {
     }
     static void Do(Answer<Announcement> Made) { EXPECT_TRUE(Made); }
 };
+
+// Covers on a medium that hangs.
+class HomeOnSlowMedium : public HomeFollows {
+  protected:
+    HomeOnSlowMedium() {
+        SetScreenReader([Files = Files, Begun = Begun](const QString& File, QSize) {
+            ++*Begun;
+            Files->Pass(File);
+            QImage Read(40, 30, QImage::Format_RGB32);
+            Read.fill(Qt::red);
+            return Read;
+        });
+    }
+    ~HomeOnSlowMedium() override {
+        Files->GoOnAll();
+        SetScreenReader({});
+    }
+    void Hang(std::int32_t AlbumID) {
+        Files->Hang(SlidePath(Engine.DBPath(), AlbumID, FileStem(1) + u".JPG"_s));
+    }
+
+    std::shared_ptr<HangingFiles> Files = std::make_shared<HangingFiles>();
+    std::shared_ptr<std::atomic<int>> Begun = std::make_shared<std::atomic<int>>(0);
+};
+
+TEST_F(HomeOnSlowMedium, ACoverIsReadOnceAtATimeHoweverOftenItsAlbumChanges) {
+    const auto Garden = AddAlbum(u"Garden"_s, {u"a"_s});
+    Hang(Garden);
+    Open();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return *Begun == 1; }));
+    for (int I = 0; I < 10; ++I) {
+        Do(Changes(Engine).SaveCaption(Garden, 1, u"caption %1"_s.arg(I)));
+        QTest::qWait(40);
+    }
+    EXPECT_EQ(1, *Begun);
+    Files->GoOnAll();
+    ASSERT_TRUE(AwaitCovers(2));
+    EXPECT_EQ(2, *Begun) << "once more, as it has changed since";
+}
+
+TEST_F(HomeOnSlowMedium, CoversThatHangHoldUpNoOther) {
+    const int Hanging = std::clamp(QThread::idealThreadCount() - 1, 1, 4);
+    for (int I = 0; I < Hanging; ++I) Hang(AddAlbum(u"Album %1"_s.arg(I), {u"a"_s}));
+    AddAlbum(u"Sea"_s, {u"a"_s});
+    Open();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Cover(u"Sea"_s) != nullptr; }, 6000));
+    EXPECT_EQ(nullptr, Cover(u"Album 0"_s));
+}
+
+TEST_F(HomeFollows, AnAlbumThatIsChangedBearsTheDateOfToday) {
+    const auto Garden = AddAlbum(u"Garden"_s, {u"a"_s, u"b"_s});
+    const auto LongAgo =
+        std::filesystem::file_time_type::clock::now() - std::chrono::hours(24 * 90);
+    const QString Folder = AlbumFolder(Engine.DBPath(), Garden);
+    for (const auto& Each : std::filesystem::recursive_directory_iterator(Folder.toStdString()))
+        std::filesystem::last_write_time(Each, LongAgo);
+    std::filesystem::last_write_time(Folder.toStdString(), LongAgo);
+    Open();
+    ASSERT_TRUE(AwaitCovers(1));
+    ASSERT_LT(Cover(u"Garden"_s)->Changed->date(), QDate::currentDate().addDays(-80));
+    Do(Changes(Engine).SaveCaption(Garden, 2, u"not the cover"_s));
+    Settle();
+    EXPECT_EQ(QDate::currentDate(), Cover(u"Garden"_s)->Changed->date());
+}
+
+TEST_F(HomeFollows, TheCoverOfTheShowThatWasLeftIsReadAnew) {
+    const auto Garden = AddAlbum(u"Garden"_s, {u"a"_s});
+    LeaveShowAt(Garden, AddShow(Garden, u"Walk"_s), 1);
+    Open();
+    const auto Blue = [this] {
+        const QPixmap Shown = In<QLabel>(*Page, "lblLeftCover").pixmap();
+        return Shown.isNull() ? -1 : Shown.toImage().pixelColor(5, 5).blue();
+    };
+    ASSERT_TRUE(QTest::qWaitFor([&] { return Blue() >= 0 && Blue() < 50; }));
+    MakePicture(SlidesFolder(Engine.DBPath(), Garden) + FileStem(1) + u".jpg"_s, 80, 60, Qt::blue);
+    Do(Changes(Engine).SaveCaption(Garden, 1, u"turned"_s));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Blue() > 200; }, 2000)) << Blue();
+}
+
+TEST_F(HomeFollows, ASearchGoesOnAmongShowsThatHaveGoneAndOfWhichNobodyHasTold) {
+    const auto Garden = AddAlbum(u"Garden"_s, {u"a"_s});
+    AddShow(Garden, u"Walk"_s);
+    Open();
+    Type(u"wal"_s);
+    ASSERT_EQ("Walk", Shown());
+    Engine.GetAlbum(Garden)->SlideShows.clear();
+    Type(u"k"_s);
+    EXPECT_EQ(0, View().Cards().rowCount());
+}
 
 TEST_F(HomeFollows, EachEventIsFollowedAndTheChoiceStays) {
     const auto Garden = AddAlbum(u"Garden"_s, {u"rose"_s, u"tulip"_s});
@@ -82,7 +176,7 @@ TEST_F(HomeFollows, AThousandChangesAreFollowedAFewTimes) {
     Settle();
     EXPECT_GE(Renewals.size(), 1);
     EXPECT_LE(Renewals.size(), 30) << "ten a second at most";
-    EXPECT_EQ("Album Garden, 1001 slides",
+    EXPECT_EQ("Album Garden, 1,001 slides",
               View().Cards().index(0).data(Qt::AccessibleTextRole).toString().toStdString());
 }
 
