@@ -140,7 +140,7 @@ TurnedSlide TurnSlide(const QString& DBPath, std::int32_t AlbumID, const clsNEBS
     Picture.Rotate(90 * Quarters);
     Made.InHand.Turn(std::move(Picture));
     Made.Jpeg = Made.InHand.Jpeg(Keeping)();
-    Made.InHand.SetPicture({});  // its pixels are of no more use
+    Made.InHand.Turn(ImgX());  // its pixels are of no more use
     return Made;
 }
 

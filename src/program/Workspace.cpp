@@ -9,6 +9,7 @@
 
 #include "program/TitleBarStyle.h"
 #include "windows/frame/VisiblePlace.h"
+#include "windows/frame/modNotice.h"
 #include "windows/frame/modWindowState.h"
 
 namespace neb {
@@ -82,7 +83,13 @@ void Workspace::TileChildren() {
     std::reverse(Children.begin(), Children.end());
     std::vector<QSize> Least;
     for (const QMdiSubWindow* Each : Children) Least.push_back(Each->minimumSizeHint());
-    const std::vector<QRect> Places = TiledPlaces(Least, VisibleRoom(*this));
+    const QRect Room = VisibleRoom(*this);
+    const std::vector<QRect> Places = TiledPlaces(Least, Room);
+    const auto Fits = [&](const QRect& Place) { return Room.contains(Place); };
+    if (!std::ranges::all_of(Places, Fits)) {
+        CascadeChildren();
+        return ShowNotice(tr("There is no room for all windows side by side."));
+    }
     for (size_t I = 0; I < Places.size(); ++I) Children[int(I)]->setGeometry(Places[I]);
 }
 

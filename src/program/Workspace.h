@@ -21,7 +21,8 @@ class Workspace : public QMdiArea {
     // title.
     void LookAfter(QMenuBar& Bar);
     // Lays the children side by side, or one over the other, those that are minimised apart. None
-    // gets smaller than its buttons allow: the room scrolls then.
+    // gets smaller than its buttons allow: where there is no room side by side, they lie one over
+    // the other.
     void TileChildren();
     void CascadeChildren();
 

@@ -6,6 +6,7 @@
 #include <QStatusBar>
 #include <QThread>
 #include <QTimer>
+#include <functional>
 
 #include "albums/transfer/OtherDatabase.h"
 #include "controls/forms/Form.h"
@@ -35,9 +36,9 @@ namespace {
 constexpr int NoticeMs = 10'000;
 constexpr int RetryMs = 100;
 
-frmQuickShow* EmptyQuickShow() {
+frmQuickShow* QuickShowThat(const std::function<bool(const frmQuickShow& Window)>& Is) {
     for (const auto& Each : LoadedForms())
-        if (auto* Found = dynamic_cast<frmQuickShow*>(Each.get()); Found && Found->IsWaitingEmpty())
+        if (auto* Found = dynamic_cast<frmQuickShow*>(Each.get()); Found && Is(*Found))
             return Found;
     return nullptr;
 }
@@ -110,7 +111,9 @@ void frmNEBSlideShow::OpenNow(const OpenedPaths& What) {
     for (const QString& Folder : What.Albums) OpenAlbums(Folder);
     if (const auto Wrong = What.Wrong()) ShowBox(*Wrong);
     if (What.Named.isEmpty()) return;
-    if (frmQuickShow* Waiting = EmptyQuickShow()) {
+    const auto IsTheSame = [&](const frmQuickShow& Is) { return Is.IsOpenedOn(What.Named); };
+    if (const frmQuickShow* Opened = QuickShowThat(IsTheSame)) return BringToFront(*Opened);
+    if (frmQuickShow* Waiting = QuickShowThat(&frmQuickShow::IsWaitingEmpty)) {
         BringToFront(*Waiting);
         return Waiting->Open(What.Named, What.AtPicture);
     }

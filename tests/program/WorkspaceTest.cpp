@@ -6,6 +6,7 @@
 #include <QMdiSubWindow>
 #include <QMenuBar>
 #include <QScrollBar>
+#include <QStatusBar>
 #include <QTest>
 #include <QWindow>
 
@@ -166,26 +167,33 @@ TEST_F(Children, TextFieldsLeaveTheMenuItsKeysAndKeepThoseOfEditing) {
     EXPECT_TRUE(Find<frmSlideDBM>());
 }
 
-TEST_F(Children, TilesCutNoButtonOffAndTheRoomScrolls) {
+TEST_F(Children, TilesCutNoButtonOffAndWithoutRoomForThatLieOneOverTheOther) {
     Begin();
-    mWindow->resize(900, 600);
     Press("mnuSlideMgr");
     Press("mnuSlideShowMgr");
     Press("mnuQuickShow");
-    FrameOf<frmSlideDBM>().showMaximized();
-    Press("mnuTile");
-    QList<QMdiSubWindow*> Frames = Area().subWindowList();
-    for (const QMdiSubWindow* Each : Frames) {
-        EXPECT_GE(Each->width(), Each->minimumSizeHint().width());
-        EXPECT_GE(Each->height(), Each->minimumSizeHint().height());
-        EXPECT_FALSE(Each->isMaximized());
-        for (const QMdiSubWindow* Other : Frames)
-            EXPECT_TRUE(Other == Each || !Other->geometry().intersects(Each->geometry()));
+    const QList<QMdiSubWindow*> Frames = Area().subWindowList();
+    const auto Overlap = [&] {
+        int Count = 0;
+        for (const QMdiSubWindow* Each : Frames)
+            for (const QMdiSubWindow* Other : Frames)
+                Count += Other != Each && Other->geometry().intersects(Each->geometry());
+        return Count;
+    };
+    for (const QSize Room : {QSize(2600, 1700), QSize(900, 600)}) {
+        mWindow->resize(Room);
+        FrameOf<frmSlideDBM>().showMaximized();
+        Press("mnuTile");
+        for (const QMdiSubWindow* Each : Frames) {
+            EXPECT_GE(Each->width(), Each->minimumSizeHint().width());
+            EXPECT_GE(Each->height(), Each->minimumSizeHint().height());
+            EXPECT_FALSE(Each->isMaximized());
+        }
+        EXPECT_EQ(Room.width() < 1000, Overlap() > 0) << Room.width();
+        EXPECT_TRUE(PageFillsTheRoom());
     }
-    QTest::qWait(20);
-    EXPECT_GT(Area().horizontalScrollBar()->maximum(), 0);
-    Area().horizontalScrollBar()->setValue(200);
-    EXPECT_TRUE(PageFillsTheRoom());
+    EXPECT_EQ("There is no room for all windows side by side.",
+              mWindow->statusBar()->currentMessage());
     Press("mnuCascade");
     for (const QMdiSubWindow* Each : Frames)
         EXPECT_GE(Each->height(), Each->minimumSizeHint().height());

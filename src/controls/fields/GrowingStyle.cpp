@@ -134,6 +134,12 @@ double GrowingStyle::Growth(const QFont& Font) {
     return std::max(1.0, Points / UsualPoints);
 }
 
+int GrowingStyle::styleHint(StyleHint Hint, const QStyleOption* Option, const QWidget* Widget,
+                            QStyleHintReturn* Returned) const {
+    if (Hint == SH_ItemView_ActivateItemOnSingleClick) return 0;
+    return QProxyStyle::styleHint(Hint, Option, Widget, Returned);
+}
+
 int GrowingStyle::pixelMetric(PixelMetric Metric, const QStyleOption* Option,
                               const QWidget* Widget) const {
     if (!Has(Growing, Metric)) return QProxyStyle::pixelMetric(Metric, Option, Widget);

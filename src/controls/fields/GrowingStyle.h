@@ -18,6 +18,10 @@ class GrowingStyle : public QProxyStyle {
     // below 1. Measured in points: a scaled screen scales both.
     static double Growth(const QFont& Font);
 
+    // Enter and a double click open things in all lists, on desktops of one click as well: there a
+    // click could mark nothing.
+    int styleHint(StyleHint Hint, const QStyleOption* Option, const QWidget* Widget,
+                  QStyleHintReturn* Returned) const override;
     int pixelMetric(PixelMetric Metric, const QStyleOption* Option,
                     const QWidget* Widget) const override;
     QRect subControlRect(ComplexControl Control, const QStyleOptionComplex* Option, SubControl Part,

@@ -106,6 +106,7 @@ void Widen(QMessageBox& Box, const BoxRequest& Request) {
 void OpenDetails(QMessageBox& Box) {
     for (QAbstractButton* Each : Box.buttons())
         if (Box.buttonRole(Each) == QMessageBox::ActionRole) Each->click();
+    Box.setDefaultButton(QMessageBox::Ok);  // which Enter presses, as in any other
 }
 
 void Fill(QMessageBox& Box, const BoxRequest& Request) {

@@ -32,11 +32,7 @@ frmAlbumDelete::~frmAlbumDelete() = default;
 void frmAlbumDelete::Delete() {
     const auto AlbumID = ChosenAlbum();
     if (!AlbumID) return;
-    const bool Sure = AskYesNo(
-        QStringLiteral("Are you sure you want to delete the selected Album?\n"
-                       "If you proceed all the slides and slide shows within\nwill be lost."),
-        QStringLiteral("Delete Confirmation"));
-    if (!Sure) return;
+    if (!IsAlbumToBeDeleted()) return;
     Changes Door(*DBEngine, this);
     Answer<Announcement> Deleted = Door.DeleteAlbum(*AlbumID);
     if (!Tell(Deleted)) return;

@@ -2,9 +2,15 @@
 
 #include <QLineEdit>
 
+#include "albums/AlbumRemoval.h"
 #include "controls/fields/KeyFilter.h"
 #include "controls/fields/NameCount.h"
+#include "controls/forms/ScreenPointer.h"
+#include "controls/forms/Tell.h"
+#include "db/Changes.h"
+#include "db/clsDBEngine.h"
 #include "settings/modNEBSlideShow.h"
+#include "support/Services.h"
 #include "windows/albums/frmAlbumDelete.h"
 #include "windows/albums/frmAlbumRename.h"
 
@@ -33,6 +39,25 @@ bool ShowRenameAlbum(std::int32_t AlbumID) {
 
 bool ShowDeleteAlbum(std::int32_t AlbumID) {
     return NewForm<frmAlbumDelete>()->ShowDeleteAlbum(AlbumID);
+}
+
+bool IsAlbumToBeDeleted() {
+    return AskYesNo(
+        QStringLiteral("Are you sure you want to delete the selected Album?\n"
+                       "If you proceed all the slides and slide shows within\nwill be lost."),
+        QStringLiteral("Delete Confirmation"));
+}
+
+bool DeleteAlbumAsked(std::int32_t AlbumID) {
+    if (!IsAlbumToBeDeleted()) return false;
+    const PointerScope Working(Pointer::Hourglass);
+    Changes Door(*DBEngine);
+    Answer<Announcement> Deleted = Door.DeleteAlbum(AlbumID);
+    if (!Tell(Deleted)) return false;
+    if (DBEngine->IsSessionStored())
+        DeleteAlbumFiles(Door, DBEngine->DBPath(), AlbumID, &DoEventsButInput);
+    Deleted->Now();
+    return true;
 }
 
 Answer<> CheckName(const QString& Adjective, const QString& Name) {

@@ -17,6 +17,12 @@ namespace neb {
 bool ShowRenameAlbum(std::int32_t AlbumID);
 bool ShowDeleteAlbum(std::int32_t AlbumID);
 
+// Asks whether an album that the user has pointed at is to be deleted, and deletes it; false when
+// it is not.
+bool DeleteAlbumAsked(std::int32_t AlbumID);
+// The question alone.
+bool IsAlbumToBeDeleted();
+
 // Refused when the name is empty or blank. Adjective is the noun of the name.
 Answer<> CheckName(const QString& Adjective, const QString& Name);
 // For a field in which the name of an album or a show is typed: it grows no longer than it can be

@@ -76,17 +76,17 @@ void Rehearse(const HomeCard& Card) {
     ShowRehearsal(Card.Of.AlbumID, Card.Of.SlideShowID);
 }
 
-// A name that is refused is asked for again, as it was typed.
+// A name that is refused keeps its window.
 void RenameShow(const HomeCard& Card) {
-    for (QString Name = Card.Name;;) {
-        const auto Window = NewForm<frmGetObjectName>();
-        Window->SetAdjective(QStringLiteral("Slide Show"));
-        Window->setWindowTitle(QObject::tr("Rename Slide Show"));
-        Name = Window->GetObjectName(Name);
-        if (Name.isEmpty() ||
-            Tell(RenameShow(*DBEngine, Card.Of.AlbumID, Card.Of.SlideShowID, Name)))
-            return;
-    }
+    const auto MayBe = [&Card](const QString& Name) -> Answer<> {
+        const clsNEBAlbum* Album = DBEngine->GetAlbum(Card.Of.AlbumID);
+        return Album ? CheckShowName(*Album, Card.Of.SlideShowID, Name) : Done();
+    };
+    const auto Window = NewForm<frmGetObjectName>();
+    Window->SetAdjective(QStringLiteral("Slide Show"));
+    Window->setWindowTitle(QObject::tr("Rename Slide Show"));
+    const QString Name = Window->GetObjectName(Card.Name, MayBe);
+    if (!Name.isEmpty()) Tell(RenameShow(*DBEngine, Card.Of.AlbumID, Card.Of.SlideShowID, Name));
 }
 
 void Rename(const HomeCard& Card) {
@@ -108,7 +108,7 @@ void Export(const HomeCard& Card) {
 }
 
 void Delete(const HomeCard& Card) {
-    if (IsAlbum(Card)) return void(ShowDeleteAlbum(Card.Of.AlbumID));
+    if (IsAlbum(Card)) return void(DeleteAlbumAsked(Card.Of.AlbumID));
     if (auto Deleted = DeleteShowAsked(Card.Of.AlbumID, Card.Of.SlideShowID)) Deleted->Now();
 }
 

@@ -13,6 +13,7 @@
 #include "db/clsDBEngine.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Grouped.h"
+#include "windows/frame/AlbumInHand.h"
 #include "windows/home/Beginnings.h"
 #include "windows/home/CardDeeds.h"
 #include "windows/home/HomeView.h"
@@ -91,6 +92,9 @@ void HomeList::SetUpView() {
     mView->setObjectName(QStringLiteral("lstHome"));
     mView->setAccessibleName(tr("Albums and slide shows"));
     mView->installEventFilter(this);
+    connect(mView->selectionModel(), &QItemSelectionModel::currentChanged, this, [this] {
+        if (const HomeCard* Card = mView->Current()) NoteAlbumInHand(Card->Of.AlbumID);
+    });
     connect(mView, &HomeView::Typed, this, &HomeList::StartSearch);
     connect(mView, &HomeView::activated, this, &HomeList::Activate, Qt::QueuedConnection);
     connect(mView, &HomeView::MenuWanted, this, &HomeList::OpenMenu);
@@ -191,6 +195,12 @@ void HomeList::ReceiveEvent(const QString& ObjectType, const QString&, const Eve
     mView->Pictures().Renew(EventData[0], SlideID);
     mLeft->RenewPicture(EventData[0], SlideID);
     if (!mRenew.isActive()) mRenew.start();
+}
+
+// A show that somebody has left tells nobody: its place is looked at when the window is back.
+bool HomeList::event(QEvent* Event) {
+    if (Event->type() == QEvent::WindowActivate) mRenew.start();
+    return QWidget::event(Event);
 }
 
 void HomeList::RenewChanged() {

@@ -40,6 +40,7 @@ class HomeList : public QWidget {
     void QuickShowWanted();
 
   protected:
+    bool event(QEvent* Event) override;
     bool eventFilter(QObject* Watched, QEvent* Event) override;
     void changeEvent(QEvent* Event) override;
     void showEvent(QShowEvent* Event) override;

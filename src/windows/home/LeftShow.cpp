@@ -32,8 +32,9 @@ QLabel* NewLabel(const char* Name) {
 void PlayShow(const LibraryHit& Show) {
     std::int32_t AlbumID = Show.AlbumID;
     QString AlbumName;
-    if (DBEngine && DBEngine->LoadAlbum(AlbumID, AlbumName))
-        RunSlideShow(AlbumID, AlbumName, Show.SlideShowID);
+    if (!DBEngine || !DBEngine->LoadAlbum(AlbumID, AlbumName)) return;
+    MakeActiveWhereNoneIs(AlbumID, Show.SlideShowID);
+    RunSlideShow(AlbumID, AlbumName, Show.SlideShowID);
 }
 
 LeftShow::LeftShow(QWidget* Parent)

@@ -41,6 +41,7 @@ frmQuickShow::frmQuickShow() : ImportForm(Memory) {
 
 void frmQuickShow::Open(const QStringList& Named, const QString& AtPicture) {
     mOpened.AtPicture = AtPicture;
+    mOpened.Named = Named;
     if (!IsLoaded()) return SetNamed(Named);
     Command([this, Named] { ReadDropped(Named); });
 }
@@ -57,6 +58,11 @@ void frmQuickShow::DirectoryChosen(const QString& Directory) {
     const bool Typed = !mUi->txtName->text().isEmpty() && mUi->txtName->text() != mOpened.Name;
     const bool Begun = mUi->flxSelected->Rows() > 0 || mUi->flxNonSelected->Rows() > 0;
     if (Typed || Begun || mUi->txtName->isReadOnly()) return;
+    ProposeName(Directory);
+}
+
+void frmQuickShow::ProposeName(const QString& Directory) {
+    mOpened.Directory = Directory;
     mOpened.Name = ProposedAlbumName(Directory, *DBEngine);
     mUi->txtName->setText(mOpened.Name);
 }
@@ -104,11 +110,23 @@ bool frmQuickShow::HoldsWork() const {
     return !AsOpened && ImportForm::HoldsWork();
 }
 
+// A name of the window's own that has been taken since gives way to the next; one that somebody has
+// typed is his to change.
 bool frmQuickShow::HasFreeName() {
     if (!DBEngine->FindAlbum(0, mUi->txtName->text())) return true;
-    MsgBox(QStringLiteral("Album Name is already in use."), QStringLiteral("Invalid Album Name"),
-           BoxIcon::Critical);
+    if (mUi->txtName->text() == mOpened.Name) {
+        ProposeName(mOpened.Directory);
+        return true;
+    }
+    MsgBox(tr("There is an album of this name already, and a quick show is kept in an album of its "
+              "own name.\nPlease choose another name."),
+           tr("Slide Show Name Already In Use"), BoxIcon::Critical);
+    ReturnTo(*mUi->txtName);
     return false;
+}
+
+bool frmQuickShow::IsOpenedOn(const QStringList& Named) const {
+    return mOpened.Named == Named && !IsMade();
 }
 
 // Whether what was made is still there, so that more can come to it.
@@ -121,7 +139,9 @@ bool frmQuickShow::IsMade() const {
 void frmQuickShow::Import() {
     if (!Run() || !MayPlay()) return;
     mUi->flxSelected->SetRows(0);
-    if (Unload()) RunSlideShow(mMade.AlbumID, mMade.Name, mMade.SlideShowID, mMade.BeginAt);
+    if (!Unload()) return;
+    MakeActiveWhereNoneIs(mMade.AlbumID, mMade.SlideShowID);
+    RunSlideShow(mMade.AlbumID, mMade.Name, mMade.SlideShowID, mMade.BeginAt);
 }
 
 // Asked of a window that is to close: what was left out keeps it.

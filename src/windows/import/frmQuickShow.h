@@ -20,6 +20,8 @@ class frmQuickShow : public ImportForm {
     void Open(const QStringList& Named, const QString& AtPicture = {});
     // Whether it waits with nothing in it, so that what is opened next may go here.
     bool IsWaitingEmpty() const;
+    // Whether it has been opened on these, and its show is still to be made.
+    bool IsOpenedOn(const QStringList& Named) const;
 
     // What was made; 0 before that, and when nothing was.
     std::int32_t AlbumID() const { return mMade.AlbumID; }
@@ -43,6 +45,8 @@ class frmQuickShow : public ImportForm {
     };
     // What the window has filled in by itself, of what was opened.
     struct Opened {
+        QStringList Named;   // as they came
+        QString Directory;   // after which the name was proposed
         QString Name;        // proposed; empty: none yet
         QStringList Chosen;  // the pictures, in order
         QString AtPicture;
@@ -53,6 +57,7 @@ class frmQuickShow : public ImportForm {
     void ShowInHand();
     bool IsMade() const;
     bool HasFreeName();
+    void ProposeName(const QString& Directory);
     bool MayMake();
     bool Run();
     bool MakeShow(frmProgress& Bar);

@@ -6,9 +6,12 @@
 #include <optional>
 
 #include "db/clsDBEngine.h"
+#include "settings/SettingKeys.h"
 #include "settings/modNEBSlideShow.h"
+#include "show/ShowSettings.h"
 #include "support/Fault.h"
 #include "support/Services.h"
+#include "windows/frame/modNotice.h"
 #include "windows/show/frmPreferences.h"
 #include "windows/show/frmSlideShowProjector.h"
 
@@ -28,6 +31,11 @@ std::int32_t PlaceInShow(std::int32_t AlbumID, std::int32_t SlideShowID, std::in
             (!Nearest || std::abs(Each->SlideSeq - Place) < std::abs(*Nearest - Place)))
             Nearest = Each->SlideSeq;
     return Nearest.value_or(1);
+}
+
+bool IsThere(const ActiveShow& Active) {
+    const clsNEBAlbum* Album = DBEngine ? DBEngine->GetAlbum(Active.AlbumID) : nullptr;
+    return Album && Active.SlideShowID != 0 && Album->GetSlideShow(Active.SlideShowID);
 }
 
 }  // namespace
@@ -55,6 +63,20 @@ void RunSlideShowIn(const ShowWorld& World, std::int32_t AlbumID, const QString&
         Projector->LoadSlideShow(SlideShowID);
     } catch (const Fault&) {
         // a show that cannot run ends, and the window that started it goes on
+    }
+}
+
+void MakeActiveWhereNoneIs(std::int32_t AlbumID, std::int32_t SlideShowID) {
+    clsSettings Settings = OpenSettings();
+    const ActiveShow Active = ReadActiveShow(Settings);
+    if (IsThere(Active) || ReadOnlyDB) return;
+    PutNumber(Settings, Setting::ActiveAlbum, AlbumID);
+    PutNumber(Settings, Setting::ActiveSlideShow, SlideShowID);
+    PutNumber(Settings, Setting::NextSlideSeq, 0);
+    try {
+        Settings.Save();
+    } catch (const Fault& Problem) {
+        ShowNotice(Problem.Text());  // the show runs all the same
     }
 }
 

@@ -23,6 +23,10 @@ void RunSlideShow(std::int32_t AlbumID, const QString& AlbumName, std::int32_t S
 void RunSlideShowIn(const ShowWorld& World, std::int32_t AlbumID, const QString& AlbumName,
                     std::int32_t SlideShowID, std::int32_t BeginAt = 0);
 
+// Where no show is active that is still there, this one becomes it: Play plays it from here on, and
+// it goes on where it is left. For those who begin with a show of their own choice.
+void MakeActiveWhereNoneIs(std::int32_t AlbumID, std::int32_t SlideShowID);
+
 // Runs a show as it was saved from its first slide; with the Shift key held from the slide in hand
 // (0: none), where it stands in the show, nearest to Place. A box where no album or no show is
 // chosen.

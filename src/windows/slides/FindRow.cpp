@@ -31,6 +31,7 @@ FindRow::FindRow(QWidget* Parent) : QWidget(Parent) {
     mFound->setWordWrap(true);
     Lines->addWidget(mFound, LineSaid, ColField);
     Lines->setColumnStretch(ColField, 1);
+    setTabOrder(mFind, mReplace);
     connect(mFind, &QLineEdit::textChanged, this, &FindRow::WordsTyped);
     connect(mExact, &QCheckBox::toggled, this, &FindRow::WordsTyped);
     hide();

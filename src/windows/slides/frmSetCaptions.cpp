@@ -59,6 +59,7 @@ void frmSetCaptions::ShowPreview() {
     for (qsizetype I = 0; I < Shown.size(); ++I) Rows.push_back({Shown[I], Then[I]});
     mUi->flxPreview->SetRows(0);
     mUi->flxPreview->AddItems(Rows);
+    SayWhatIsDone();
     mUi->spnFirst->setEnabled(mUi->txtPattern->text().contains(u'#'));
     const QString Slides = mPresent.size() == 1
                                ? tr("1 slide is selected.")
@@ -66,6 +67,14 @@ void frmSetCaptions::ShowPreview() {
     mUi->lblCount->setText(mPresent.size() <= MostShown
                                ? Slides
                                : Slides + tr(" The first %1 are shown.").arg(Grouped(MostShown)));
+}
+
+// Nobody empties captions by pressing Enter once too soon.
+void frmSetCaptions::SayWhatIsDone() {
+    const bool Clears = mUi->txtPattern->text().isEmpty();
+    mUi->cmdOkay->setText(Clears ? tr("C&lear Captions") : tr("&Set Captions"));
+    mUi->cmdOkay->setAccessibleName(Clears ? tr("Clear Captions") : tr("Set Captions"));
+    (Clears ? mUi->cmdCancel : mUi->cmdOkay)->setDefault(true);
 }
 
 void frmSetCaptions::Insert(const QString& Text) {

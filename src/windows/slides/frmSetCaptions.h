@@ -28,6 +28,7 @@ class frmSetCaptions : public Form {
   private:
     CaptionPattern Pattern() const;
     void ShowPreview();
+    void SayWhatIsDone();
     void Insert(const QString& Text);
     void Take();
     void Close() { Unload(); }

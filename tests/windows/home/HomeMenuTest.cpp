@@ -2,7 +2,6 @@
 #include <QComboBox>
 
 #include "HomeRig.h"
-#include "windows/albums/frmAlbumDelete.h"
 #include "windows/albums/frmAlbumRename.h"
 #include "windows/albums/frmGetObjectName.h"
 #include "windows/printing/frmPrintAlbum.h"
@@ -195,18 +194,20 @@ TEST_F(HomeMenu, DeleteAsksAndNoKeepsTheShow) {
     EXPECT_EQ("Attic|Garden", Shown());
 }
 
-TEST_F(HomeMenu, DeleteOfAnAlbumGoesByTheWindowThatDeletesAlbums) {
+TEST_F(HomeMenu, DeleteOfAnAlbumAsksOnceAndDeletesThatOne) {
     Open();
     Click(u"Garden"_s);
-    bool Asked = false;
-    WhenOpen<frmAlbumDelete>([&](frmAlbumDelete& Window) {
-        Asked = true;
-        EXPECT_EQ("Garden", In<QComboBox>(Window, "cboAlbum").currentText().toStdString());
-        Window.Unload();
-    });
+    const QString Question =
+        u"Are you sure you want to delete the selected Album?\n"
+        "If you proceed all the slides and slide shows within\nwill be lost."_s;
+    Boxes.Expect(Question, u"Delete Confirmation"_s, BoxAnswer::No);
     Key(Qt::Key_Delete);
-    EXPECT_TRUE(Asked);
     EXPECT_EQ("Attic|Garden|Walk", Shown());
+    Boxes.Expect(Question, u"Delete Confirmation"_s, BoxAnswer::Yes);
+    Key(Qt::Key_Delete);
+    EXPECT_FALSE(Engine.GetAlbum(Garden));
+    Settle();
+    EXPECT_EQ("Attic", Shown());
 }
 
 TEST_F(HomeMenu, RehearseOpensTheRehearsal) {

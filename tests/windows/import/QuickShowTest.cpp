@@ -146,8 +146,10 @@ TEST_F(QuickShow, CleansTheNameAndThenAsksForAPicture) {
 TEST_F(QuickShow, RefusesTheNameOfAnAlbumBeforeAnythingIsDone) {
     MakeAlbum(u"Mary’s"_s);
     Show(1, u"MARY'S"_s);
-    Boxes.Expect(u"Album Name is already in use."_s, u"Invalid Album Name"_s, BoxIcon::Critical,
-                 BoxAnswer::Ok);
+    Boxes.Expect(
+        u"There is an album of this name already, and a quick show is kept in an album of its "
+        "own name.\nPlease choose another name."_s,
+        u"Slide Show Name Already In Use"_s, BoxIcon::Critical, BoxAnswer::Ok);
     Press(*Window, "cmdImport");
     EXPECT_EQ(1u, Engine.Albums.size());
     EXPECT_TRUE(Window->IsLoaded());
