@@ -1,6 +1,5 @@
 // Chapter: Quick Show turns the folder into a running show.
 #include <QProgressBar>
-#include <QStatusBar>
 
 #include "Tour.h"
 #include "TourControls.h"
@@ -82,7 +81,10 @@ void WatchTheShow(Tour& Guide) {
     Guide.Add({"show-menu", MenuIsOpen(), MenuKey(Qt::Key_Escape)});
     Guide.Do(
         "leave-the-quick-show", [] { return !OpenMenu(); },
-        [] { QTest::keyClick(Open<frmSlideShowProjector>(), Qt::Key_Escape); });
+        [] {
+            Print(QStringLiteral("Quick Show: ") + ShowView().Frames().Text());
+            QTest::keyClick(Open<frmSlideShowProjector>(), Qt::Key_Escape);
+        });
 }
 
 }  // namespace
@@ -94,8 +96,7 @@ void AddQuickShow(Tour& Guide, frmNEBSlideShow& Window, const Story& Told) {
     WatchTheShow(Guide);
     Guide.Do(
         "after-the-quick-show",
-        [] { return !Open<frmSlideShowProjector>() && !Open<frmQuickShow>(); },
-        [&] { Print(QStringLiteral("Quick Show: ") + Window.statusBar()->currentMessage()); });
+        [] { return !Open<frmSlideShowProjector>() && !Open<frmQuickShow>(); }, {});
 }
 
 }  // namespace neb::demo

@@ -1,6 +1,5 @@
 // Chapter: the active show is played, through the fitted track, into the one that fades and the
 // silence behind it, and left at a slide.
-#include <QStatusBar>
 
 #include "Tour.h"
 #include "TourControls.h"
@@ -70,6 +69,7 @@ void LeaveInSilence(Tour& Guide) {
     Guide.Add({"leave-the-show", IsListenedTo(ListenSeconds),
                [] {
                    Print(QStringLiteral("The show was left at slide %1").arg(CurrentSlideSeq));
+                   Print(QStringLiteral("The show: ") + ShowView().Frames().Text());
                    Key(Qt::Key_Escape);
                },
                false, true});
@@ -81,8 +81,7 @@ void AddTheShow(Tour& Guide, frmNEBSlideShow& Window) {
     Begin(Guide, Window);
     ThroughTheMusic(Guide);
     LeaveInSilence(Guide);
-    Guide.Do("after-the-show", ShowIsOver(),
-             [&] { Print(QStringLiteral("The show: ") + Window.statusBar()->currentMessage()); });
+    Guide.Do("after-the-show", ShowIsOver(), {});
 }
 
 }  // namespace neb::demo

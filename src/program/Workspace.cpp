@@ -103,8 +103,11 @@ void Workspace::CascadeChildren() {
         Extents, Room,
         CascadeStep(QFontMetrics(QApplication::font("QMdiSubWindowTitleBar")).height()));
     for (size_t I = 0; I < Places.size(); ++I) {
-        Children[int(I)]->setGeometry(Places[I]);
-        Children[int(I)]->raise();
+        QMdiSubWindow& Each = *Children[int(I)];
+        Each.setGeometry(Places[I]);
+        // words that wrap need more height in a window that is narrower now
+        Each.resize(Each.size().expandedTo(Each.minimumSizeHint()));
+        Each.raise();
     }
 }
 

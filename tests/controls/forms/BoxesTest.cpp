@@ -121,7 +121,8 @@ TEST_F(Boxes, DetailsOfAMessageAreOpenAtOnce) {
         const auto* Details = Box.findChild<QTextEdit*>();
         ASSERT_NE(nullptr, Details);
         EXPECT_TRUE(Details->isVisible());
-        QTest::keyClick(&Box, Qt::Key_Return);
+        EXPECT_TRUE(Box.button(QMessageBox::Ok)->hasFocus());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     });
     EXPECT_EQ(BoxAnswer::Ok, Given);
 }

@@ -198,6 +198,41 @@ TEST_F(TheHome, TheShowThatWasLeftSaysWhereItGoesOn) {
     EXPECT_FALSE(In<QPushButton>(*Page, "cmdLeftPlay").isVisible());
 }
 
+TEST_F(TheHome, AShowThatIsPlayedBeforeAnyIsActiveBecomesTheActiveOne) {
+    const auto Garden = AddAlbum(u"Garden"_s, {u"a"_s, u"b"_s, u"c"_s});
+    const auto Walk = AddShow(Garden, u"Walk"_s), Zoo = AddShow(Garden, u"Zoo"_s);
+    Open();
+    const auto ActiveAfter = [&](const QString& Played) {
+        bool Left = false;
+        WhenOpen<frmSlideShowProjector>([&](frmSlideShowProjector& Show) {
+            Left = true;
+            QTest::keyClick(&Show, Qt::Key_Escape);
+        });
+        Click(Played);
+        Key(Qt::Key_Return);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return Left; })) << Played.toStdString();
+        return ReadNumber(OpenSettings(), Setting::ActiveSlideShow);
+    };
+    EXPECT_EQ(Walk, ActiveAfter(u"Walk"_s));
+    EXPECT_EQ(Walk, ActiveAfter(u"Zoo"_s)) << "the one that is active stays so";
+    { auto Gone = Changes(Engine).DeleteShow(Garden, Walk); }
+    Settle();
+    EXPECT_EQ(Zoo, ActiveAfter(u"Zoo"_s)) << "one that has gone gives way";
+}
+
+TEST_F(TheHome, LooksAgainWhereAShowWasLeftWhenItsWindowIsBack) {
+    const auto Garden = AddAlbum(u"Garden"_s, {u"a"_s, u"b"_s, u"c"_s});
+    const auto Show = AddShow(Garden, u"Walk"_s);
+    Open();
+    LeaveShowAt(Garden, Show, 2);
+    QWidget Before;
+    Before.show();
+    EXPECT_TRUE(harness::AwaitActive(Before));
+    Page->window()->activateWindow();
+    EXPECT_TRUE(harness::AwaitActive(*Page->window()));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return In<QPushButton>(*Page, "cmdLeftPlay").isVisible(); }));
+}
+
 TEST_F(TheHome, PlayGoesOnWhereTheShowWasLeft) {
     const auto Garden = AddAlbum(u"Garden"_s, {u"a"_s, u"b"_s, u"c"_s});
     LeaveShowAt(Garden, AddShow(Garden, u"Walk"_s), 3);

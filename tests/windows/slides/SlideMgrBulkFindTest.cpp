@@ -190,6 +190,21 @@ TEST_F(SlideMgrBulkFind, ManySlidesGetOneCaptionWithANumberEach) {
     EXPECT_EQ("It’s garden 10", CaptionInAlbum(3));
 }
 
+TEST_F(SlideMgrBulkFind, EnterEmptiesNoCaptions) {
+    Open({u"a"_s, u"b"_s});
+    GridOf(W).SelectRow(1);
+    for (const bool ByEnter : {true, false}) {
+        WhenOpen<frmSetCaptions>([ByEnter](frmSetCaptions& Asks) {
+            Activate(Asks);
+            EXPECT_EQ("C&lear Captions", In<QPushButton>(Asks, "cmdOkay").text().toStdString());
+            if (ByEnter) return void(QTest::keyClick(&Asks, Qt::Key_Return));
+            QTest::mouseClick(&In<QPushButton>(Asks, "cmdOkay"), Qt::LeftButton);
+        });
+        harness::Press(*W, "cmdSetCaptions");
+        EXPECT_EQ(ByEnter ? "a|b" : "|", Shown(W));
+    }
+}
+
 TEST_F(SlideMgrBulkFind, LeavingTheQuestionLeavesTheCaptions) {
     Open({u"a"_s, u"b"_s});
     WhenOpen<frmSetCaptions>([](frmSetCaptions& Asks) {
