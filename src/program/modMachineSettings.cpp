@@ -110,8 +110,7 @@ void EnsureMachineSettings(const std::function<SpeedTestResult()>& Test) {
         PutText(Settings, Setting::KeepPictures, QStringLiteral("Screen"));
     StoreMachineSettings(Settings, Result);
     if (!Result.IsWhole)
-        ShowNotice(QObject::tr(
-            "Graphics speed not measured: shows go by settings that suit most computers."));
+        ShowNotice(QObject::tr("Graphics speed not measured: usual settings are used."));
 }
 
 void TestGraphicsSpeed(const std::function<SpeedTestResult()>& Test) {

@@ -20,6 +20,13 @@ frmHelp::frmHelp() : mText(new QTextBrowser(this)) {
     mText->setOpenLinks(true);
 }
 
+// Where a page begins depends on how wide the lines are: known once the window stands.
+void frmHelp::showEvent(QShowEvent* Event) {
+    Form::showEvent(Event);
+    QMetaObject::invokeMethod(
+        this, [this] { mText->scrollToAnchor(mPage); }, Qt::QueuedConnection);
+}
+
 void frmHelp::keyPressEvent(QKeyEvent* Event) {
     if (Event->key() == Qt::Key_Escape)
         Unload();
@@ -29,7 +36,8 @@ void frmHelp::keyPressEvent(QKeyEvent* Event) {
 
 void frmHelp::SetTopic(const QString& HelpFile, const QString& Anchor) {
     mText->setHtml(QString::fromUtf8(ReadFile(HelpFile)));
-    mText->scrollToAnchor(Anchor);
+    mPage = Anchor;
+    mText->scrollToAnchor(mPage);
 }
 
 }  // namespace neb

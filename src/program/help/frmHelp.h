@@ -19,10 +19,12 @@ class frmHelp : public Form {
     void SetTopic(const QString& HelpFile, const QString& Anchor);
 
   protected:
+    void showEvent(QShowEvent* Event) override;
     void keyPressEvent(QKeyEvent* Event) override;  // Esc closes it, a child of the main window too
 
   private:
     QTextBrowser* mText;
+    QString mPage;  // an anchor
 };
 
 }  // namespace neb

@@ -60,6 +60,7 @@ QBoxLayout* Labelled(QLabel& Label, QWidget& Field) {
 
 ImportOptions::ImportOptions(QWidget* Parent)
     : QWidget(Parent), mRow(new QHBoxLayout(this)), mListed(new QHBoxLayout) {
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);  // the height belongs to the lists
     mRow->setContentsMargins(0, 0, 0, 0);
     mListed->addLayout(AddOrder());
     mListed->addSpacing(fontMetrics().averageCharWidth());
