@@ -2,6 +2,7 @@
 #include <QContextMenuEvent>
 
 #include "GalleryRig.h"
+#include "albums/SlideSave.h"
 #include "windows/printing/PageSketch.h"
 #include "windows/printing/frmPrintAlbum.h"
 #include "windows/printing/frmPrintSlide.h"
@@ -128,6 +129,15 @@ TEST_F(AlbumPageFollow, TheMenuTurnsWhatIsChosenWithoutLossAndShowsItTurned) {
     Settle();
     EXPECT_EQ(Before, PictureOf(1)) << "to the pixel";
     EXPECT_EQ("a|b", Chosen());
+}
+
+// By that an undo bears its name; its pixels are let go of.
+TEST_F(AlbumPageFollow, APictureThatWasTurnedAsideIsKnownAsTurned) {
+    const std::int32_t ID = AddSlide(u"a"_s, {400, 300});
+    const TurnedSlide Made = TurnSlide(Engine.DBPath(), AlbumID, Slide(ID), 1, {});
+    EXPECT_TRUE(Made.InHand.IsTurned());
+    EXPECT_TRUE(Made.InHand.Picture()->Picture().isNull());
+    EXPECT_FALSE(Made.Jpeg.isEmpty());
 }
 
 TEST_F(AlbumPageFollow, APictureThatCannotBeTurnedIsToldAndStaysAsItIs) {
