@@ -274,6 +274,7 @@ TEST_F(TheMenu, AnOpenWindowComesToTheFrontWhenItIsChosen) {
 
 TEST_F(TheMenu, TileLaysTheWindowsSideBySideAndCascadeOneOverTheOther) {
     Start();
+    mWindow->resize(2400, 1400);
     Press("mnuQuickShow");
     Press("mnuSlideMgrBulk");
     const auto Frames = Area().subWindowList();

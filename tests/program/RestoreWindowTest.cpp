@@ -194,7 +194,7 @@ TEST_F(TheRestore, AWindowWithChangesAsksAndNoStopsTheRestore) {
     const QString Discard = "Are you sure you want to discard the changes to the current slide?";
     InWindow([&](frmRestore& Window) {
         ExpectQuestion(TimeIn(Window, 1), BoxAnswer::Yes);
-        mBoxes.Expect(Discard, BoxAnswer::No);
+        mBoxes.Expect(Discard, BoxAnswer::Cancel);
         Choose(Window, 1);
         PressRestore(Window);
         EXPECT_TRUE(Find<frmSlideDBM>());
@@ -202,7 +202,7 @@ TEST_F(TheRestore, AWindowWithChangesAsksAndNoStopsTheRestore) {
                   "Nothing was restored: a window stayed open.");
         EXPECT_EQ(NamesNow(), (QStringList{"Ocean", "Hills"}));
         ExpectQuestion(TimeIn(Window, 1), BoxAnswer::Yes);
-        mBoxes.Expect(Discard, BoxAnswer::Yes);
+        mBoxes.Expect(Discard, BoxAnswer::Discard);
         ExpectDone(TimeIn(Window, 1));
         PressRestore(Window);
         EXPECT_FALSE(Find<frmSlideDBM>());
@@ -218,7 +218,7 @@ TEST_F(TheRestore, EveryWindowIsAskedBeforeTheFirstOfThemGoes) {
     InWindow([&](frmRestore& Window) {
         ExpectQuestion(TimeIn(Window, 1), BoxAnswer::Yes);
         mBoxes.Expect("Are you sure you want to discard the changes to the current slide?",
-                      BoxAnswer::No);
+                      BoxAnswer::Cancel);
         Choose(Window, 1);
         PressRestore(Window);
         EXPECT_TRUE(Find<frmSlideMgrBulk>()) << "it was opened first";
@@ -226,7 +226,7 @@ TEST_F(TheRestore, EveryWindowIsAskedBeforeTheFirstOfThemGoes) {
     });
     EXPECT_EQ(NamesNow(), (QStringList{"Ocean", "Hills"}));
     mBoxes.Expect("Are you sure you want to discard the changes to the current slide?",
-                  BoxAnswer::Yes);
+                  BoxAnswer::Discard);
     EXPECT_TRUE(mWindow->close());
 }
 
