@@ -4,7 +4,11 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <QDropEvent>
+#include <QMimeData>
 #include <QTimer>
+#include <QUrl>
+#include <QWidget>
 
 #include "MeasuredMachine.h"
 #include "controls/forms/Form.h"
@@ -72,9 +76,23 @@ class MainWindow : public ::testing::Test {
             if (auto* Found = dynamic_cast<Window*>(Each.get())) return Found;
         return nullptr;
     }
-    static void SaveAlbum(const QString& Name) {
-        ASSERT_TRUE(Changes(*DBEngine).MakeAlbum(Name));
+    // As the desktop does it: to the control below the pointer, or what is around it.
+    static bool Drop(QWidget* On, const QStringList& Paths) {
+        while (!On->acceptDrops() && On->parentWidget()) On = On->parentWidget();
+        QMimeData Data;
+        QList<QUrl> Urls;
+        for (const QString& Path : Paths) Urls << QUrl::fromLocalFile(Path);
+        Data.setUrls(Urls);
+        QDragEnterEvent Enter({9, 9}, Qt::CopyAction, &Data, Qt::LeftButton, {});
+        Enter.ignore();
+        QCoreApplication::sendEvent(On, &Enter);
+        if (!Enter.isAccepted()) return false;
+        QDropEvent Event({9, 9}, Qt::CopyAction, &Data, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(On, &Event);
+        DoEvents();
+        return Event.isAccepted();
     }
+    static void SaveAlbum(const QString& Name) { ASSERT_TRUE(Changes(*DBEngine).MakeAlbum(Name)); }
 
     harness::TempFolder mDocuments;
     harness::TempFolder mProgram;

@@ -51,20 +51,8 @@ class OpenedDisc : public MainWindow {
     void WriteDisc(const QString& To) {
         ASSERT_TRUE(WriteDiscFolder(Source.Engine, Source.All(), To));
     }
-    // Where the drag finds nobody who takes it, it goes to what is around it.
     bool Drop(const QString& Folder) {
-        QWidget* On = mWindow->Area().viewport();
-        while (!On->acceptDrops() && On->parentWidget()) On = On->parentWidget();
-        QMimeData Data;
-        Data.setUrls({QUrl::fromLocalFile(Folder)});
-        QDragEnterEvent Enter({9, 9}, Qt::CopyAction, &Data, Qt::LeftButton, {});
-        Enter.ignore();
-        QCoreApplication::sendEvent(On, &Enter);
-        if (!Enter.isAccepted()) return false;
-        QDropEvent Event({9, 9}, Qt::CopyAction, &Data, Qt::LeftButton, {});
-        QCoreApplication::sendEvent(On, &Event);
-        DoEvents();
-        return true;
+        return MainWindow::Drop(mWindow->Area().viewport(), {Folder});
     }
     static std::string NameOf(const frmQuickShow& Window) {
         return Window.findChild<QLineEdit*>(u"txtName"_s)->text().toStdString();

@@ -44,22 +44,6 @@ class OpenedFromOutside : public MainWindow {
             Count += dynamic_cast<frmQuickShow*>(Each.get()) != nullptr;
         return Count;
     }
-    // As the desktop does it: to the control below the pointer, or what is around it.
-    static bool Drop(QWidget* On, const QStringList& Paths) {
-        while (!On->acceptDrops() && On->parentWidget()) On = On->parentWidget();
-        QMimeData Data;
-        QList<QUrl> Urls;
-        for (const QString& Path : Paths) Urls << QUrl::fromLocalFile(Path);
-        Data.setUrls(Urls);
-        QDragEnterEvent Enter({9, 9}, Qt::CopyAction, &Data, Qt::LeftButton, {});
-        Enter.ignore();
-        QCoreApplication::sendEvent(On, &Enter);
-        if (!Enter.isAccepted()) return false;
-        QDropEvent Event({9, 9}, Qt::CopyAction, &Data, Qt::LeftButton, {});
-        QCoreApplication::sendEvent(On, &Event);
-        DoEvents();
-        return Event.isAccepted();
-    }
 
     TempFolder Pics;
 };
