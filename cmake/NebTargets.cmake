@@ -20,18 +20,20 @@ if(CMAKE_SIZEOF_VOID_P EQUAL 4 AND CMAKE_SYSTEM_PROCESSOR MATCHES "86")
 endif()
 
 # neb_library(NAME sound FLOOR 2 KNOWS texts|pictures|windows ROOMS decoding mixing devices .
-#             DEPENDS neb_x Qt6::Y [HIDDEN z])
+#             DEPENDS neb_x Qt6::Y [HIDDEN z] [MODULE])
 # The top folder src/NAME as the library neb_NAME, with the sources of its ROOMS: its subfolders and,
 # as ".", the folder itself. The order of these calls, and of the rooms in each, is the order of the
 # house: a room uses those named before it, of the libraries that its own DEPENDS on. What KNOWS
 # texts sees no part of Qt's drawing, what knows pictures no window. What is DEPENDS is passed on to
-# the users of the library, what is HIDDEN is not. tests/layout checks it all.
+# the users of the library, what is HIDDEN is not. A MODULE is no part of the programs: its users see
+# its headers, and load lib/neb-slide-show/neb-NAME.so beside the folder of the program when they
+# first need it. tests/layout checks it all.
 set_property(GLOBAL PROPERTY NEB_HOUSE "")
 set(neb_headers_texts core)
 set(neb_headers_pictures core)
 set(neb_headers_windows gui)
 function(neb_library)
-  cmake_parse_arguments(L "" "NAME;FLOOR;KNOWS" "ROOMS;DEPENDS;HIDDEN" ${ARGN})
+  cmake_parse_arguments(L "MODULE" "NAME;FLOOR;KNOWS" "ROOMS;DEPENDS;HIDDEN" ${ARGN})
   set(uses ${L_DEPENDS})
   list(FILTER uses INCLUDE REGEX "^neb_")
   list(TRANSFORM uses REPLACE "^neb_" "")
@@ -45,6 +47,16 @@ function(neb_library)
     list(APPEND sources ${found})
   endforeach()
   list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
+  if(L_MODULE)
+    add_library(neb_${L_NAME} INTERFACE)
+    target_include_directories(neb_${L_NAME} INTERFACE ${PROJECT_SOURCE_DIR}/src)
+    add_library(neb_${L_NAME}_module MODULE ${sources})
+    set_target_properties(neb_${L_NAME}_module PROPERTIES PREFIX "" OUTPUT_NAME neb-${L_NAME}
+      LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib/neb-slide-show)
+    target_link_libraries(neb_${L_NAME}_module PRIVATE neb_flags ${L_DEPENDS} ${L_HIDDEN})
+    add_dependencies(neb_${L_NAME} neb_${L_NAME}_module)
+    return()
+  endif()
   add_library(neb_${L_NAME} STATIC ${sources})
   set_target_properties(neb_${L_NAME} PROPERTIES AUTOMOC ON AUTOUIC ON AUTORCC ON)
   target_link_libraries(neb_${L_NAME} PUBLIC neb_flags ${L_DEPENDS} PRIVATE ${L_HIDDEN})

@@ -158,6 +158,8 @@ bool Rehearsal::ShowPicture(const QString& Path, const EffectChoice& Choice) {
     const int Steps = (100 + mEffectStep - 1) / mEffectStep;
     mNext.Picture = Path;
     mNext.EffectNumber = Choice.EffectNumber.value_or(0);
+    mNext.EffectDelay = mEffectDelay;
+    mNext.EffectStep = mEffectStep;
     mNext.EffectSeconds = Steps * mEffectDelay / 10000.0;
     return true;
 }

@@ -41,6 +41,8 @@ struct RehearsalCue {
     QString Caption;           // as a viewer reads it
     QString Picture;           // path of what is on the screen: the stand-in for a missing picture
     int EffectNumber = 0;      // 0: a plain change
+    int EffectDelay = 0;       // tenths of a millisecond from step to step
+    int EffectStep = 100;      // percent a step
     double EffectSeconds = 0;  // from the old picture to the new one
     double SlideInterval = 0;  // seconds that it may stay up
     bool FitToSong = false;    // its track sets them

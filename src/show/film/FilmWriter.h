@@ -1,0 +1,43 @@
+// A film on its way to the disk: encodes on a thread of its own, beside whoever draws the frames,
+// and writes to a file of another name, which takes the film's name when all of it is there. Used
+// by FilmMaker and, without a file, by FilmEstimate.
+#pragma once
+
+#include <QImage>
+#include <memory>
+
+#include "show/film/FilmOrder.h"
+
+namespace neb {
+
+class FilmWriter {
+  public:
+    // Begins the file. Throws Fault where it cannot be made, or the encoders are not there.
+    FilmWriter(const QString& Path, const FilmSetup& Setup);
+    // Into nowhere: what it would come to is counted.
+    explicit FilmWriter(const FilmSetup& Setup);
+    // What is not finished is given up, and its file goes.
+    ~FilmWriter();
+    FilmWriter(const FilmWriter&) = delete;
+    FilmWriter& operator=(const FilmWriter&) = delete;
+
+    // Both wait while too much lies before the encoder, and throw Fault when it or the disk has
+    // failed: nothing but the end may follow then.
+    // Format_RGB32, of the film's size; seen for so many frames.
+    void AddFrame(const QImage& Frame, int Count = 1);
+    // Pairs of samples, -1 to 1, FilmSoundRate a second. Sound and frames keep within a second of
+    // each other.
+    void AddSound(std::vector<float> Samples);
+    // Waits for the encoder; the film is on the disk, under its name.
+    void Finish();
+    qint64 BytesWritten() const;  // so far; on any thread
+
+  private:
+    struct Work;
+    std::unique_ptr<Work> mWork;
+};
+
+// The film's own encoder, from the module; loaded once. Throws Fault where that is not there.
+std::unique_ptr<FilmEncoder> MakeFilmEncoder(const FilmSetup& Setup, FilmSink Sink);
+
+}  // namespace neb
