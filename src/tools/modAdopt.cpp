@@ -3,9 +3,9 @@
 #include "albums/StrayPictures.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
-#include "tools/modCommands.h"
 #include "tools/modHistory.h"
 #include "tools/words/ToolDatabase.h"
+#include "tools/words/modDirectories.h"
 #include "tools/words/modWords.h"
 
 namespace neb {

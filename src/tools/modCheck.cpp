@@ -9,7 +9,7 @@
 #include "tools/modCheckFiles.h"
 #include "tools/modCheckRecords.h"
 #include "tools/modCheckSums.h"
-#include "tools/modCommands.h"
+#include "tools/words/modDirectories.h"
 #include "tools/words/modWords.h"
 
 namespace neb {

@@ -11,10 +11,11 @@
 #include "tools/modHistory.h"
 #include "tools/modImportFolder.h"
 #include "tools/modPrint.h"
-#include "tools/modRehearse.h"
 #include "tools/modRestoreState.h"
 #include "tools/modRewrite.h"
 #include "tools/modTransfer.h"
+#include "tools/shows/modFilm.h"
+#include "tools/shows/modRehearse.h"
 
 namespace neb {
 namespace {
@@ -188,6 +189,38 @@ constexpr Command Table[] = {
      "      Problems and Notes: SlideSeq (0: the whole show), Text.\n"
      "Exit code 0: no problems; 1: problems; 2: not rehearsed.\n",
      RunRehearse, Wants::Drawing},
+    {"film",
+     "DIR --album NAME --show NAME [--size WxH] [--rate N] [--quality N] [--from SEQ] [--to SEQ]\n"
+     "            [--no-captions] [--subtitles] [--srt] [--date YYYY-MM-DD] [--documents DIR] OUT",
+     "make a film of a show",
+     "Makes a film of the show as the projector plays it by the user's own settings, frame by "
+     "frame\n"
+     "and sample by sample: pictures, transitions, captions, sounds, a chapter for each slide. In "
+     "a\n"
+     "manual show each slide is up for the time of an automatic one. What is wrong with the show "
+     "is\n"
+     "listed first; then it is looked whether the film has room. OUT says by its ending what is\n"
+     "made:\n"
+     "  .mp4   H.264 and AAC, for televisions, phones and the web\n"
+     "  .webm  VP9 and Opus, for the web\n"
+     "  .mkv   FFV1 and FLAC without any loss, for archives; large\n"
+     "A file that is there is replaced, in one step when the film is whole; one that is stopped, "
+     "by\n"
+     "Ctrl+C too, leaves nothing. Nothing in DIR is changed.\n"
+     "\n"
+     "  --size WxH       in pixels, both even, up to 7680x4320; 1920x1080 unless told otherwise\n"
+     "  --rate N         frames a second: 24, 25, 30, 50 or 60; 30 unless told otherwise\n"
+     "  --quality N      1 to 100; 75 unless told otherwise\n"
+     "  --from, --to     only the slides of these places, as if the show were begun there\n"
+     "  --no-captions    the picture has all the room\n"
+     "  --subtitles      the captions as a track that players show when they are asked to\n"
+     "  --srt            the captions as a file beside the film, with the ending .srt\n"
+     "  --date DATE      the date in the film's own data; today unless told otherwise\n"
+     "  --documents DIR  the settings kept below DIR instead of the documents folder\n"
+     "In place of a picture that is missing or cannot be read, NoSlide.bmp is seen; in place of a\n"
+     "sound, nothing is heard.\n"
+     "Exit code 0: made; 1: made, and what is missing in it is listed; 2: not made.\n",
+     RunFilm, Wants::Drawing},
 };
 
 #undef MEND_HELP
@@ -261,27 +294,6 @@ int RunTool(const QStringList& Arguments, ToolIO& IO) {
         return ExitDone;
     }
     return RunGuarded(*Row, Rest, IO);
-}
-
-std::optional<QString> OneDirectory(const QStringList& Arguments, ToolIO& IO) {
-    if (Arguments.size() != 1 || Arguments[0].isEmpty() || Arguments[0].startsWith(u'-')) {
-        Fail(IO, QStringLiteral("One database directory is wanted; see --help."));
-        return std::nullopt;
-    }
-    const std::optional<QString> Named = FolderNamed(Arguments[0], IO);
-    if (!Named) return std::nullopt;
-    const QString Dir = DatabaseIn(*Named);
-    if (FolderExists(Dir)) return Dir;
-    Fail(IO, QStringLiteral("There is no directory %1, where the settings in %2 say that the "
-                            "database is.")
-                 .arg(Dir, *Named));
-    return std::nullopt;
-}
-
-std::optional<QString> FolderNamed(const QString& Argument, ToolIO& IO) {
-    if (FolderExists(Argument)) return WithSeparator(Argument);
-    Fail(IO, QStringLiteral("There is no directory %1.").arg(Argument));
-    return std::nullopt;
 }
 
 }  // namespace neb

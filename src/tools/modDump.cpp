@@ -4,8 +4,8 @@
 #include "db/records/WholeWords.h"
 #include "db/records/modJournal.h"
 #include "support/modText.h"
-#include "tools/modCommands.h"
 #include "tools/words/JsonWriter.h"
+#include "tools/words/modDirectories.h"
 
 namespace neb {
 namespace {

@@ -2,8 +2,8 @@
 
 #include "db/recovery/StateDifferences.h"
 #include "db/recovery/modRestore.h"
-#include "tools/modCommands.h"
 #include "tools/words/JsonWriter.h"
+#include "tools/words/modDirectories.h"
 
 namespace neb {
 namespace {

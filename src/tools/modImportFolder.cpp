@@ -14,9 +14,9 @@
 #include "support/modDEValidation.h"
 #include "support/modFUFL.h"
 #include "support/modText.h"
-#include "tools/modCommands.h"
 #include "tools/modHistory.h"
 #include "tools/words/ToolDatabase.h"
+#include "tools/words/modDirectories.h"
 
 namespace neb {
 namespace {

@@ -7,8 +7,8 @@
 #include "printing/PdfWriter.h"
 #include "printing/SheetComposer.h"
 #include "printing/SlidesToPrint.h"
-#include "tools/Named.h"
-#include "tools/modCommands.h"
+#include "tools/words/Named.h"
+#include "tools/words/modDirectories.h"
 #include "tools/words/modWords.h"
 
 namespace neb {

@@ -2,9 +2,9 @@
 
 #include "db/recovery/StateDifferences.h"
 #include "db/recovery/modRestore.h"
-#include "tools/modCommands.h"
 #include "tools/modHistory.h"
 #include "tools/words/ToolDatabase.h"
+#include "tools/words/modDirectories.h"
 #include "tools/words/modWords.h"
 
 namespace neb {

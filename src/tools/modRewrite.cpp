@@ -2,9 +2,9 @@
 
 #include "db/records/modJournal.h"
 #include "db/recovery/DatabaseHealth.h"
-#include "tools/modCommands.h"
 #include "tools/modHistory.h"
 #include "tools/words/ToolDatabase.h"
+#include "tools/words/modDirectories.h"
 
 namespace neb {
 int RunRewrite(const QStringList& Arguments, ToolIO& IO) {

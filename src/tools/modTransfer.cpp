@@ -8,10 +8,10 @@
 #include "db/records/modJournal.h"
 #include "db/recovery/DatabaseHealth.h"
 #include "support/Fault.h"
-#include "tools/Named.h"
-#include "tools/modCommands.h"
 #include "tools/modHistory.h"
+#include "tools/words/Named.h"
 #include "tools/words/ToolDatabase.h"
+#include "tools/words/modDirectories.h"
 #include "tools/words/modWords.h"
 
 namespace neb {

@@ -3,6 +3,7 @@
 
 #include "albums/transfer/DiscProgress.h"
 #include "albums/transfer/TransferProgress.h"
+#include "support/Grouped.h"
 
 namespace neb {
 namespace {

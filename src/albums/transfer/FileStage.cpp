@@ -6,6 +6,7 @@
 #include "db/AlbumSums.h"
 #include "db/modAlbumFiles.h"
 #include "db/records/modJournal.h"
+#include "support/Grouped.h"
 #include "support/Services.h"
 #include "support/files/modHostFiles.h"
 #include "support/files/modHostFilesCopy.h"

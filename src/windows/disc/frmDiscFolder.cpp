@@ -12,6 +12,7 @@
 #include "db/clsDBEngine.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
+#include "support/Grouped.h"
 #include "ui_frmDiscFolder.h"
 #include "windows/frame/modNotice.h"
 #include "windows/transfer/frmTransferProgress.h"

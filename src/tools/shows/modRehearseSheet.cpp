@@ -1,4 +1,4 @@
-#include "tools/modRehearseSheet.h"
+#include "tools/shows/modRehearseSheet.h"
 
 #include <algorithm>
 #include <array>
