@@ -3,6 +3,8 @@
 
 #include <QString>
 
+#include "support/Grouped.h"
+
 namespace neb {
 
 struct TransferProgress {
