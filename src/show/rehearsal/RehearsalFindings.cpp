@@ -101,6 +101,7 @@ QString Shortened(const QString& Text) {
 
 void CheckCaption(Notebook& Book, const RehearsalCue& Cue) {
     const QSize Screen = Book.Show.Screen;
+    if (Screen.isEmpty()) return;
     const CaptionSpace Space{Screen.width(), Screen.height(), Screen.height() / 3};
     const CaptionSetting Standard = StandardCaption(Cue.Caption, Space);
     if (Standard.Lines <= 1) return;
