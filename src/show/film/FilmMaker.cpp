@@ -25,10 +25,17 @@ qint64 MsOf(double Seconds) {
     return qRound64(Seconds * 1000);
 }
 
-std::vector<QString> PicturesOf(const FilmPlan& Plan) {
-    std::vector<QString> Paths;
-    for (const RehearsalCue& Cue : Plan.Log.Cues) Paths.push_back(Cue.Picture);
-    return Paths;
+std::vector<FilmPictureAhead> PicturesOf(const FilmPlan& Plan) {
+    std::vector<FilmPictureAhead> Foreseen;
+    for (const RehearsalCue& Cue : Plan.Log.Cues) Foreseen.push_back({Cue.Picture, Cue.Caption});
+    return Foreseen;
+}
+
+FilmPictures::Makers MakersFor(const FilmOrder& Order) {
+    return {PictureOfFile, [Size = Order.Size, WithCaptions = Order.CaptionsInPicture](
+                               const QImage& Picture, const QString& Caption) {
+                return FilmStage::FitFor(Size, WithCaptions, Caption, Picture);
+            }};
 }
 
 [[noreturn]] void ThrowEmpty(const RehearsalLog& Log, const FilmOrder& Order) {
@@ -47,8 +54,7 @@ class Making {
         : mOrder(Order),
           mPlan(Plan),
           mWatch(Watch),
-          mPictures(
-              PicturesOf(Plan), [this] { Wait(); }, PictureOfFile),
+          mPictures(PicturesOf(Plan), MakersFor(Order), [this] { Wait(); }),
           mSound([this] { Wait(); }),
           mStage(Order.Size, Order.CaptionsInPicture),
           mTotal(Plan.Sheet.RunningTime),
@@ -81,7 +87,7 @@ class Making {
 
     bool TakePicture(const QString& Path);
     void CatchUp(double Seconds);
-    void Show(const RehearsalCue& Cue, const QImage& Picture);
+    void Show(const RehearsalCue& Cue, const FilmPicture& Picture);
     void DrawUntil(double Seconds);
     void Add(const QImage& Frame);
     void FlushRun();
@@ -93,7 +99,7 @@ class Making {
 
     struct Coming {
         RehearsalCue Cue;
-        QImage Picture;
+        FilmPicture Picture;
     };
 
     const FilmOrder& mOrder;
@@ -105,7 +111,7 @@ class Making {
     FilmSound mSound;
     FilmStage mStage;
     std::optional<FilmWriter> mWriter;
-    QImage mPicture;              // that was read last
+    FilmPicture mPicture;         // that was read last
     std::vector<Coming> mComing;  // slides that are up, but not yet on the stage
     qint64 mFrames = 0;           // drawn
     QImage mFrame;                // the last of them
@@ -185,11 +191,11 @@ void Making::CatchUp(double Seconds) {
     DrawUntil(Seconds);
 }
 
-void Making::Show(const RehearsalCue& Cue, const QImage& Picture) {
+void Making::Show(const RehearsalCue& Cue, const FilmPicture& Picture) {
     DrawUntil(Cue.At);
     mSlideSeq = Cue.SlideSeq;
-    mStage.ShowSlide(
-        {Cue.At, Picture, Cue.Caption, Cue.EffectNumber, Cue.EffectDelay, Cue.EffectStep});
+    mStage.ShowSlide({Cue.At, Picture.Picture, Cue.Caption, Cue.EffectNumber, Cue.EffectDelay,
+                      Cue.EffectStep, Picture.Fitted});
 }
 
 // Whole numbers tell whether a frame lies before a moment.

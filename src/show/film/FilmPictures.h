@@ -5,22 +5,36 @@
 #include <QImage>
 #include <deque>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "show/film/FilmMakerWait.h"
 
 namespace neb {
 
+// A picture that will probably be asked for, and the caption that it will stand above.
+struct FilmPictureAhead {
+    QString Path, Caption;
+};
+
+struct FilmPicture {
+    QImage Picture;  // as it was read
+    QImage Fitted;   // for the stage; null where it was not foreseen
+};
+
 class FilmPictures {
   public:
-    // Reads a file, on any thread; throws Fault.
-    using Reader = std::function<QImage(const QString& Path)>;
+    // These on any thread; what they use they must own. Read throws Fault.
+    struct Makers {
+        std::function<QImage(const QString& Path)> Read;
+        std::function<QImage(const QImage& Picture, const QString& Caption)> Fit;
+    };
 
-    // Paths: in the order in which they will probably be asked for. What Read uses it must own.
-    FilmPictures(std::vector<QString> Paths, FilmMeanwhile Meanwhile, Reader Read);
+    // Foreseen: in the order in which they will be asked for.
+    FilmPictures(std::vector<FilmPictureAhead> Foreseen, Makers Make, FilmMeanwhile Meanwhile);
 
     // Waits for it. Throws Fault where it cannot be read, and what Meanwhile throws.
-    QImage Take(const QString& Path);
+    FilmPicture Take(const QString& Path);
 
     // How many are read, or lie ready, at most.
     static constexpr size_t MostAhead = 2;
@@ -28,15 +42,15 @@ class FilmPictures {
   private:
     struct Ahead {
         QString Path;
-        std::unique_ptr<Job<QImage>> Work;
+        std::unique_ptr<Job<FilmPicture>> Work;
     };
-    Ahead Begin(const QString& Path) const;
+    Ahead Begin(const QString& Path, const std::optional<QString>& Caption) const;
     Ahead TakeAhead(const QString& Path);
     void BeginNext();
 
-    const std::vector<QString> mPaths;
+    const std::vector<FilmPictureAhead> mForeseen;
+    const Makers mMake;
     const FilmMeanwhile mMeanwhile;
-    const Reader mRead;
     size_t mBegun = 0;
     std::deque<Ahead> mAhead;
 };

@@ -1,6 +1,7 @@
 #include "show/rehearsal/Rehearsal.h"
 
 #include "db/clsDBEngine.h"
+#include "effects/EffectSteps.h"
 #include "pictures/formats/PictureDecoder.h"
 #include "show/EngineSound.h"
 #include "show/captions/CaptionText.h"
@@ -155,7 +156,7 @@ bool Rehearsal::ShowPicture(const QString& Path, const EffectChoice& Choice) {
     mEffectDelay = std::clamp(Choice.EffectDelay.value_or(mEffectDelay), 0, 1000);
     mEffectStep = std::clamp(Choice.EffectStep.value_or(mEffectStep), 1, 100);
     if (!mOptions.CanReadPicture(Path)) return false;
-    const int Steps = (100 + mEffectStep - 1) / mEffectStep;
+    const int Steps = EffectStepCount(mEffectStep);
     mNext.Picture = Path;
     mNext.EffectNumber = Choice.EffectNumber.value_or(0);
     mNext.EffectDelay = mEffectDelay;
