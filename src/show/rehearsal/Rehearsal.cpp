@@ -49,7 +49,7 @@ double LengthOfSoundFile(const QString& Path) {
 Rehearsal::Rehearsal(clsDBEngine& Engine, std::int32_t AlbumID, std::int32_t SlideShowID,
                      RehearsalOptions Options)
     : mOptions(std::move(Options)),
-      mSound(mClock, mOptions.LengthOfSound, mLog),
+      mSound(mClock, mOptions.LengthOfSound, mOptions.OnSound, mLog),
       mEngine(Engine),
       mRun(*this,
            {&Engine, mClock,
@@ -75,7 +75,7 @@ void Rehearsal::RunUntil(double Seconds) {
 
 RehearsalEnd Rehearsal::RunWhole() {
     mOneRound = true;
-    mRun.BeginAt(1);
+    mRun.BeginAt(mOptions.First);
     Start();
     const RehearsalEnd End = RunRound();
     mOneRound = false;
@@ -83,7 +83,7 @@ RehearsalEnd Rehearsal::RunWhole() {
 }
 
 RehearsalEnd Rehearsal::RunRound() {
-    while (Timer1On() && Now() < LongestRehearsal) {
+    while (!mRoundIsOver && Timer1On() && Now() < LongestRehearsal) {
         Ticking& Next = *NextTimer();
         if (mRun.IsManual() && NextPress() <= Next.Due) {
             AdvanceTo(NextPress());
@@ -92,9 +92,9 @@ RehearsalEnd Rehearsal::RunRound() {
         } else {
             Fire(Next);
         }
-        if (mRoundIsOver) return RehearsalEnd::CameRound;
-        if (!GoesOn()) return RehearsalEnd::GivenUp;
+        if (!mRoundIsOver && !GoesOn()) return RehearsalEnd::GivenUp;
     }
+    if (mRoundIsOver) return RehearsalEnd::CameRound;
     return Timer1On() ? RehearsalEnd::TooLong : RehearsalEnd::Stopped;
 }
 
@@ -165,14 +165,17 @@ bool Rehearsal::ShowPicture(const QString& Path, const EffectChoice& Choice) {
     return true;
 }
 
-// The round is over when the show comes back to a place; what that brings is the next round's.
-bool Rehearsal::ComesRound(const SlideSound& Slide) const {
-    return mOneRound && !mLog.Cues.empty() && Slide.SlideSeq <= mLog.Cues.back().SlideSeq;
+// The round is over when the show comes back to a place, or leaves the part of it that is wanted;
+// what that brings is the next round's.
+bool Rehearsal::IsRoundOver(const SlideSound& Slide) const {
+    if (!mOneRound) return false;
+    const bool ComesRound = !mLog.Cues.empty() && Slide.SlideSeq <= mLog.Cues.back().SlideSeq;
+    return ComesRound || !mOptions.IsWanted(Slide.SlideSeq);
 }
 
 // False when it is no longer the rehearsal's to tell.
 bool Rehearsal::SlideComesUp(const SlideSound& Slide) {
-    mRoundIsOver = ComesRound(Slide);
+    mRoundIsOver = IsRoundOver(Slide);
     if (mRoundIsOver) return false;
     mNext.At = Now();
     mCueBegan = mClock.Milliseconds();
@@ -181,6 +184,7 @@ bool Rehearsal::SlideComesUp(const SlideSound& Slide) {
     mNext.SlideID = Detail ? Detail->SlideID : 0;
     mNext.Caption = ShownCaptionText(mNext.Caption);
     mLog.Cues.push_back(mNext);
+    if (mOptions.OnSlide) mOptions.OnSlide(mNext);
     return true;
 }
 
@@ -192,7 +196,9 @@ void Rehearsal::SlideIsUp(const SlideSound& Slide, const ShowSoundFields& Fields
 }
 
 void Rehearsal::NoteBox(RehearsalBoxFrom From, const QString& Text) {
-    mLog.Boxes.push_back({Now(), PlaceOnItsWay(), Text, From});
+    const std::int32_t Place = PlaceOnItsWay();
+    mRoundIsOver = mRoundIsOver || (mOneRound && !mOptions.IsWanted(Place));
+    if (!mRoundIsOver) mLog.Boxes.push_back({Now(), Place, Text, From});
 }
 
 std::int32_t Rehearsal::PlaceOnItsWay() const {

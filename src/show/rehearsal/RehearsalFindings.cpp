@@ -100,6 +100,7 @@ QString Shortened(const QString& Text) {
 }
 
 void CheckCaption(Notebook& Book, const RehearsalCue& Cue) {
+    if (Book.Show.Screen.isEmpty()) return;
     const CaptionSpace Space = CaptionSpaceIn(Book.Show.Screen);
     const CaptionSetting Standard = StandardCaption(Cue.Caption, Space);
     if (Standard.Lines <= 1) return;
