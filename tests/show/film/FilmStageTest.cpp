@@ -40,12 +40,13 @@ TEST_F(FilmStageFrames, BeginWithTheOldPictureAndEndWithTheNewOne) {
     FilmStage Stage(Film, true);
     Stage.ShowSlide(Slide(0, 1, 0, 0, 100));
     EXPECT_EQ(FittedIn(Picture(1), View), PictureOf(Stage.FrameAt(0), View));
-    Stage.ShowSlide(Slide(1, 2, 2, 100, 10));
+    Stage.ShowSlide(Slide(1, 3, 2, 100, 10));
     EXPECT_EQ(FittedIn(Picture(1), View), PictureOf(Stage.FrameAt(1), View));
     EXPECT_EQ(FittedIn(Picture(1), View), PictureOf(Stage.FrameAt(1.0099), View));
-    EXPECT_NE(FittedIn(Picture(2), View), PictureOf(Stage.FrameAt(1.0999), View));
-    EXPECT_EQ(FittedIn(Picture(2), View), PictureOf(Stage.FrameAt(1.1), View));
-    EXPECT_EQ(FittedIn(Picture(2), View), PictureOf(Stage.FrameAt(100), View));
+    EXPECT_NE(FittedIn(Picture(1), View), PictureOf(Stage.FrameAt(1.05), View));
+    EXPECT_NE(FittedIn(Picture(3), View), PictureOf(Stage.FrameAt(1.05), View));
+    EXPECT_EQ(FittedIn(Picture(3), View), PictureOf(Stage.FrameAt(1.1), View));
+    EXPECT_EQ(FittedIn(Picture(3), View), PictureOf(Stage.FrameAt(100), View));
 }
 
 TEST_F(FilmStageFrames, ComeOutOfBlack) {
