@@ -50,6 +50,7 @@ class FilmFile : public FilmTarget {
     FilmSink Sink() override;
     bool Finish() override;
     void GiveUp() override;
+    bool IsGivenUp() const { return mGivenUp; }
     std::optional<Fault> Problem() const override;
 
   private:

@@ -55,7 +55,7 @@ void FilmQueue::Drop() {
 
 void FilmQueue::Fail(const Fault& Problem) {
     const std::lock_guard Lock(mMutex);
-    mProblem = Problem;
+    if (!mGivenUp) mProblem = Problem;
     Drop();
 }
 

@@ -31,7 +31,7 @@ class FilmQueue {
     void Add(FilmPiece Piece);
     // For the other side: waits for the next piece; nothing when it is given up.
     std::optional<FilmPiece> Take();
-    void Fail(const Fault& Problem);  // of the other side: nothing more is taken
+    void Fail(const Fault& Problem);  // of the other side, unless it was given up
     void GiveUp();
     void End();  // of the other side, whatever came of it
     // Whether that has ended, after at most so long. Throws its fault.
