@@ -108,7 +108,7 @@ class FilmShowRig : public RehearsalRig {
 
     // The first sample of a moment.
     static size_t At(double Seconds) {
-        return static_cast<size_t>(std::llround(Seconds * 1000) * 441 / 10);
+        return static_cast<size_t>((std::llround(Seconds * 1000) * 441 + 5) / 10);
     }
     float Left(size_t Pair) const { return Film->Sound.at(2 * Pair); }
     float Right(size_t Pair) const { return Film->Sound.at(2 * Pair + 1); }
