@@ -215,6 +215,7 @@ bool Print(const char* What, const Cost& Ours, const Cost& Other, double Limit) 
 }  // namespace
 
 int main(int argc, char** argv) {
+    std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication App(argc, argv);
     const QTemporaryDir Dir;
