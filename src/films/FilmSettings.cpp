@@ -25,8 +25,8 @@ constexpr FormatRow Formats[] = {
      {"aac", AV_SAMPLE_FMT_FLTP, 44100, 96000, 224000, false}},
     {FilmFormat::WebM,
      {"webm", "default_mode=infer_no_subs", CoverPlace::None, AV_CODEC_ID_WEBVTT},
-     {"libvpx-vp9", "deadline=realtime:cpu-used=6:row-mt=1:lag-in-frames=0",
-      AV_PIX_FMT_YUV420P, FF_PROFILE_VP9_0, 56, 8, 3, nullptr, false},
+     {"libvpx-vp9", "deadline=realtime:cpu-used=6:row-mt=1:lag-in-frames=0", AV_PIX_FMT_YUV420P,
+      FF_PROFILE_VP9_0, 56, 8, 3, nullptr, false},
      {"libopus", AV_SAMPLE_FMT_FLT, 48000, 64000, 192000, true}},
     {FilmFormat::Lossless,
      {"matroska", "default_mode=infer_no_subs", CoverPlace::Attachment, AV_CODEC_ID_SUBRIP},
@@ -47,7 +47,7 @@ struct SizeRow {
     const char* X264;
 };
 constexpr SizeRow Sizes[] = {
-    {352 * 288, 1, 2, "rc-lookahead=10"},
+    {352 * 288, 4, 2, "rc-lookahead=10"},
     {1920 * 1200, 4, 8, "rc-lookahead=10"},
     {4096 * 2304, 9, 8, "rc-lookahead=6"},
     {INT64_MAX, 16, 4, "rc-lookahead=2:bf=1:refs=1"},
@@ -91,8 +91,14 @@ void AddVp9(Av<AVDictionary>& Options, const FilmSetup& Setup) {
     SetOption(Options, "tile-columns", std::to_string(Setup.Width / 512 > 3 ? 2 : 1));
 }
 
+// The encoder has no slices for smaller pictures than these.
+bool IsInOnePiece(const FilmSetup& Setup) {
+    return Setup.Width <= 352 && Setup.Height <= 288;
+}
+
 void AddFfv1(Av<AVDictionary>& Options, const FilmSetup& Setup) {
-    SetOption(Options, "slices", std::to_string(SizeOf(Setup).Slices));
+    const int Slices = IsInOnePiece(Setup) ? 1 : SizeOf(Setup).Slices;
+    SetOption(Options, "slices", std::to_string(Slices));
 }
 
 struct AddingRow {
