@@ -24,7 +24,7 @@ constexpr int Rates[] = {24, 25, 30, 50, 60};
 constexpr int LeastSide = 2, LongestSide = 7680, LongestOther = 4320;
 
 bool IsFilmSize(QSize Size) {
-    const auto [Less, More] = std::minmax(Size.width(), Size.height());
+    const auto [Less, More] = std::minmax({Size.width(), Size.height()});
     return Less >= LeastSide && More <= LongestSide && Less <= LongestOther &&
            Size.width() % 2 == 0 && Size.height() % 2 == 0;
 }
