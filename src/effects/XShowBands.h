@@ -1,5 +1,5 @@
 // Draws a step of a transition on all the machine's cores; the same bits as on one. Used by the
-// transition view.
+// transition view and by the stage of films.
 #pragma once
 
 #include "effects/Transition.h"

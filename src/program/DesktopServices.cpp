@@ -2,19 +2,13 @@
 
 #include "InitAssets.h"
 #include "controls/picture/XShow.h"
-#include "pictures/ImgX.h"
+#include "pictures/PictureOfFile.h"
 #include "sound/RecorderJobs.h"
 
 namespace neb {
 namespace {
 
 constexpr std::chrono::milliseconds RecorderEnd{3000};  // a microphone that is still being opened
-
-QImage ReadPicture(const QString& File) {
-    ImgX Picture;
-    Picture.Load(File);
-    return Picture.Picture();
-}
 
 }  // namespace
 
@@ -32,7 +26,7 @@ DesktopServices::DesktopServices() {
     TheServices().Printers = &mPrinters;
     TheServices().Mail = &mMail;
     TheServices().Media = &mMedia;
-    XShow::SetReader(&ReadPicture);
+    XShow::SetReader(&PictureOfFile);
 }
 
 DesktopServices::~DesktopServices() {

@@ -6,6 +6,7 @@
 #include "db/clsDBEngine.h"
 #include "effects/EffectCatalogue.h"
 #include "effects/Transition.h"
+#include "pictures/PictureOfFile.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
 #include "tools/effects/EffectPictures.h"
@@ -110,7 +111,7 @@ int Render(const QStringList& Words, ToolIO& IO) {
         return Misused(IO, QStringLiteral("\"%1\" is no progress from 0 to 1").arg(Words[3]));
     if (!MayWritePicture(Words[4]))
         return Misused(IO, QStringLiteral("%1 ends neither in .png nor in .jpg").arg(Words[4]));
-    const QImage Old = ReadPicture(Words[1]), New = ReadPicture(Words[2]);
+    const QImage Old = PictureOfFile(Words[1]), New = PictureOfFile(Words[2]);
     QImage Frame;
     Transition(*Number, Old, FittedTo(New, Old.size())).Draw(Progress, Frame);
     WritePicture(Words[4], Frame);
@@ -123,8 +124,8 @@ int Sheet(const QStringList& Words, ToolIO& IO) {
         return Misused(IO, QStringLiteral("OUT [--pictures OLD NEW] are wanted after sheet"));
     if (!MayWritePicture(Words[0]))
         return Misused(IO, QStringLiteral("%1 ends neither in .png nor in .jpg").arg(Words[0]));
-    const QImage Old = Given ? ReadPicture(Words[2]) : ProgramPicture(1);
-    const QImage New = Given ? ReadPicture(Words[3]) : ProgramPicture(2);
+    const QImage Old = Given ? PictureOfFile(Words[2]) : ProgramPicture(1);
+    const QImage New = Given ? PictureOfFile(Words[3]) : ProgramPicture(2);
     WritePicture(Words[0], PaintEffectSheet(Old, New));
     return ExitDone;
 }

@@ -146,6 +146,70 @@ TEST(BeginsLikePicture, KnowsEveryKindOfPictureByItsHead) {
     EXPECT_FALSE(BeginsLikePicture(QStringLiteral(NEB_SOURCE_DIR "/README.md")));
 }
 
+TEST_F(RehearsalRig, RunsAPartOfTheShowAsIfItWereBegunThere) {
+    AddSlides(6);
+    AddTrack(u"song.mp3"_s, 1, 6, 60).FitToSong = true;
+    for (const int Manual : {0, 1}) {
+        SlideShow->ProgressionMethod = Manual;
+        RehearsalOptions Part = Options();
+        Part.First = 3;
+        Part.Last = 4;
+        Rehearsal Of(Engine, Album, Show, Part);
+        EXPECT_EQ(RehearsalEnd::CameRound, Of.RunWhole());
+        EXPECT_EQ("3@0 4@10", Places(Of));
+        EXPECT_EQ(20, Of.Cues()[0].Sound.Position) << "where the show would have been";
+        EXPECT_EQ(20, Of.Now());
+    }
+}
+
+TEST_F(RehearsalRig, HasNothingToRunWhereTheShowHasNoSuchPlaces) {
+    AddSlides(2);
+    RehearsalOptions Part;
+    Part.First = 3;
+    Rehearsal Of(Engine, Album, Show, Part);
+    EXPECT_EQ(RehearsalEnd::CameRound, Of.RunWhole());
+    EXPECT_TRUE(Of.Cues().empty());
+    EXPECT_EQ(0, Of.Now());
+}
+
+TEST_F(RehearsalRig, KeepsQuietAboutTheSlideBehindThePart) {
+    AddSlides(3);
+    SlideShow->Details[1]->SlideID = 99;
+    RehearsalOptions Part;
+    Part.Last = 1;
+    Rehearsal Of(Engine, Album, Show, Part);
+    EXPECT_EQ(RehearsalEnd::CameRound, Of.RunWhole());
+    EXPECT_EQ("1@0", Places(Of));
+    EXPECT_TRUE(Of.Boxes().empty());
+}
+
+TEST_F(RehearsalRig, TellsOfSlidesAndSoundsAsTheyHappen) {
+    AddSlides(3);
+    AddTrack(u"song.mp3"_s, 2, 2, 3).Repeat = true;
+    QStringList Told;
+    RehearsalOptions Listening = Options();
+    const Rehearsal* Running = nullptr;
+    Listening.OnSlide = [&](const RehearsalCue& Cue) {
+        EXPECT_EQ(Cue.At, Running->Now());
+        Told << u"slide %1@%2"_s.arg(Cue.SlideSeq).arg(Cue.At);
+    };
+    Listening.OnSound = [&](const SoundEvent& Event) {
+        if (Event.What == SoundEvent::Kind::Volume) return;
+        EXPECT_EQ(Event.Ticks, Running->Now() * 1000);
+        Told << u"sound %1@%2%3"_s.arg(static_cast<int>(Event.What))
+                    .arg(Event.Ticks)
+                    .arg(Event.Repeats ? u" again"_s : QString());
+    };
+    Rehearsal Of(Engine, Album, Show, Listening);
+    Running = &Of;
+    Of.RunWhole();
+    // 0: opened ahead, 1: loaded, 2: running, 7: gone
+    EXPECT_EQ(
+        "sound 0@0, slide 1@0, slide 2@5, sound 1@5000, sound 2@5000 again, slide 3@10, "
+        "sound 7@10000 again, sound 0@15000",
+        Told.join(u", "_s).toStdString());
+}
+
 // What belongs to the shows on the screen is another's while a rehearsal runs, as well as after it.
 TEST_F(RehearsalRig, TouchesNothingOfTheDesktops) {
     AddSlides(3);

@@ -23,16 +23,6 @@ QString TimeText(double Seconds) {
 
 }  // namespace
 
-QString ShortSize(qint64 Bytes) {
-    const double Size = static_cast<double>(Bytes);
-    if (Size < 1e3) return QStringLiteral("%1 bytes").arg(Bytes);
-    if (Size < 1e6) return QStringLiteral("%1 KB").arg(std::lround(Size / 1e3));
-    if (Size < 1e9) return QStringLiteral("%1 MB").arg(std::lround(Size / 1e6));
-    const double Tenths = std::round(Size / 1e8);
-    const QString Text = QString::number(Tenths / 10, 'f', std::fmod(Tenths, 10) == 0 ? 0 : 1);
-    return Text + QStringLiteral(" GB");
-}
-
 QString TimeLeftText(qint64 Bytes, qint64 OfBytes, double Seconds) {
     if (Bytes <= 0 || Bytes > OfBytes || Seconds < LeastSeconds) return {};
     return QStringLiteral(", ") +

@@ -3,6 +3,8 @@
 
 #include <QString>
 
+#include "support/Grouped.h"
+
 namespace neb {
 
 struct TransferProgress {
@@ -23,7 +25,5 @@ struct TransferProgress {
 QString ProgressText(const TransferProgress& Now, double Seconds);
 // ", about 3 minutes" until so many bytes are done; empty as long as it cannot be told.
 QString TimeLeftText(qint64 Bytes, qint64 OfBytes, double Seconds);
-// "1.2 GB", "640 MB", "12 KB", as powers of 1000.
-QString ShortSize(qint64 Bytes);
 
 }  // namespace neb

@@ -9,6 +9,7 @@
 #include <limits>
 
 #include "effects/EffectCatalogue.h"
+#include "effects/EffectSteps.h"
 #include "effects/XShowBands.h"
 #include "support/Fault.h"
 #include "support/Services.h"
@@ -168,7 +169,7 @@ void XShow::StartSteps() {
     mRunNumber = mNumber;
     mRunStep = mStepPercent;
     mRunDelay = mDelay / 10.0;
-    mSteps = (100 + mRunStep - 1) / mRunStep;
+    mSteps = EffectStepCount(mRunStep);
     MakeTransition();
 }
 
@@ -192,7 +193,7 @@ bool XShow::FitAgain() {
 }
 
 double XShow::ProgressNow() const {
-    return mStep >= mSteps ? 1.0 : std::min(1.0, mStep * mRunStep / 100.0);
+    return mStep >= mSteps ? 1.0 : EffectProgress(mStep, mRunStep);
 }
 
 // Neither end of the way is drawn: the pictures themselves are shown then.

@@ -45,6 +45,10 @@ QFont CaptionFont(double Points) {
     Font.setStyleHint(QFont::SansSerif);
     Font.setBold(true);
     Font.setPointSizeF(Points);
+    // A beamer or a television has no subpixels where the desktop has them, and a film is the same
+    // on whichever desktop it was made.
+    Font.setStyleStrategy(QFont::NoSubpixelAntialias);
+    Font.setHintingPreference(QFont::PreferVerticalHinting);
     return Font;
 }
 

@@ -25,7 +25,7 @@ struct CaptionSetting {
 
 QFont CaptionFont(double Points);
 // At the size of type that captions have as a rule. Text as a viewer reads it; an empty one takes
-// one line. Device: where it will be painted; null: a screen of 96 dots an inch.
+// one line. Device: where it will be painted, whose dots an inch count; null: the first screen.
 CaptionSetting StandardCaption(const QString& Text, const CaptionSpace& Space,
                                const QPaintDevice* Device = nullptr);
 // The same, in a smaller type as far as MostHeight asks for.

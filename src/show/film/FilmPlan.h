@@ -19,7 +19,8 @@ FilmPlan PlanFilm(clsDBEngine& Copy, const FilmOrder& Order,
 
 // What the film's file is told of it: chapters, subtitles where they are wanted, title, cover.
 FilmSetup SetupOf(const FilmPlan& Plan, const FilmOrder& Order);
-// The captions as the text of an ".srt" file, UTF-8.
+// Subtitles as the text of an ".srt" file, UTF-8.
+QByteArray SubtitleText(const std::vector<FilmSubtitle>& Subtitles);
 QByteArray SubtitleText(const FilmSetup& Setup);
 std::vector<FilmSubtitle> SubtitlesOf(const FilmPlan& Plan);
 

@@ -10,6 +10,8 @@
 
 namespace neb {
 
+class LeftThread;
+
 class FilmWriter {
   public:
     // Begins the file. Throws Fault where it cannot be made, or the encoders are not there.
@@ -21,6 +23,9 @@ class FilmWriter {
     FilmWriter(const FilmWriter&) = delete;
     FilmWriter& operator=(const FilmWriter&) = delete;
 
+    // The captions as a file beside the film, which comes with it: ".srt" in the place of its
+    // ending. Before the first frame. Throws Fault where it cannot be made.
+    void PutBeside(const QByteArray& Subtitles);
     // Both wait while too much lies before the encoder, and throw Fault when it or the disk has
     // failed: nothing but the end may follow then.
     // Format_RGB32, of the film's size; seen for so many frames.
@@ -28,13 +33,18 @@ class FilmWriter {
     // Pairs of samples, -1 to 1, FilmSoundRate a second. Sound and frames keep within a second of
     // each other.
     void AddSound(std::vector<float> Samples);
-    // Waits for the encoder; the film is on the disk, under its name.
-    void Finish();
+    // Waits for the encoder; the film is on the disk, under its name. GoesOn is asked all the
+    // while; where it says no the answer may be false: the film was given up, and nothing of it is
+    // left.
+    bool Finish(const std::function<bool()>& GoesOn = {});
     qint64 BytesWritten() const;  // so far; on any thread
 
   private:
     struct Work;
-    std::unique_ptr<Work> mWork;
+    void Begin();
+
+    std::shared_ptr<Work> mWork;  // with the thread
+    std::unique_ptr<LeftThread> mThread;
 };
 
 // The film's own encoder, from the module; loaded once. Throws Fault where that is not there.

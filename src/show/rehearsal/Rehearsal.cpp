@@ -1,6 +1,7 @@
 #include "show/rehearsal/Rehearsal.h"
 
 #include "db/clsDBEngine.h"
+#include "effects/EffectSteps.h"
 #include "pictures/formats/PictureDecoder.h"
 #include "show/EngineSound.h"
 #include "show/captions/CaptionText.h"
@@ -48,7 +49,7 @@ double LengthOfSoundFile(const QString& Path) {
 Rehearsal::Rehearsal(clsDBEngine& Engine, std::int32_t AlbumID, std::int32_t SlideShowID,
                      RehearsalOptions Options)
     : mOptions(std::move(Options)),
-      mSound(mClock, mOptions.LengthOfSound, mLog),
+      mSound(mClock, mOptions.LengthOfSound, mOptions.OnSound, mLog),
       mEngine(Engine),
       mRun(*this,
            {&Engine, mClock,
@@ -74,7 +75,7 @@ void Rehearsal::RunUntil(double Seconds) {
 
 RehearsalEnd Rehearsal::RunWhole() {
     mOneRound = true;
-    mRun.BeginAt(1);
+    mRun.BeginAt(mOptions.First);
     Start();
     const RehearsalEnd End = RunRound();
     mOneRound = false;
@@ -82,7 +83,7 @@ RehearsalEnd Rehearsal::RunWhole() {
 }
 
 RehearsalEnd Rehearsal::RunRound() {
-    while (Timer1On() && Now() < LongestRehearsal) {
+    while (!mRoundIsOver && Timer1On() && Now() < LongestRehearsal) {
         Ticking& Next = *NextTimer();
         if (mRun.IsManual() && NextPress() <= Next.Due) {
             AdvanceTo(NextPress());
@@ -91,9 +92,9 @@ RehearsalEnd Rehearsal::RunRound() {
         } else {
             Fire(Next);
         }
-        if (mRoundIsOver) return RehearsalEnd::CameRound;
-        if (!GoesOn()) return RehearsalEnd::GivenUp;
+        if (!mRoundIsOver && !GoesOn()) return RehearsalEnd::GivenUp;
     }
+    if (mRoundIsOver) return RehearsalEnd::CameRound;
     return Timer1On() ? RehearsalEnd::TooLong : RehearsalEnd::Stopped;
 }
 
@@ -155,7 +156,7 @@ bool Rehearsal::ShowPicture(const QString& Path, const EffectChoice& Choice) {
     mEffectDelay = std::clamp(Choice.EffectDelay.value_or(mEffectDelay), 0, 1000);
     mEffectStep = std::clamp(Choice.EffectStep.value_or(mEffectStep), 1, 100);
     if (!mOptions.CanReadPicture(Path)) return false;
-    const int Steps = (100 + mEffectStep - 1) / mEffectStep;
+    const int Steps = EffectStepCount(mEffectStep);
     mNext.Picture = Path;
     mNext.EffectNumber = Choice.EffectNumber.value_or(0);
     mNext.EffectDelay = mEffectDelay;
@@ -164,14 +165,17 @@ bool Rehearsal::ShowPicture(const QString& Path, const EffectChoice& Choice) {
     return true;
 }
 
-// The round is over when the show comes back to a place; what that brings is the next round's.
-bool Rehearsal::ComesRound(const SlideSound& Slide) const {
-    return mOneRound && !mLog.Cues.empty() && Slide.SlideSeq <= mLog.Cues.back().SlideSeq;
+// The round is over when the show comes back to a place, or leaves the part of it that is wanted;
+// what that brings is the next round's.
+bool Rehearsal::IsRoundOver(const SlideSound& Slide) const {
+    if (!mOneRound) return false;
+    const bool ComesRound = !mLog.Cues.empty() && Slide.SlideSeq <= mLog.Cues.back().SlideSeq;
+    return ComesRound || !mOptions.IsWanted(Slide.SlideSeq);
 }
 
 // False when it is no longer the rehearsal's to tell.
 bool Rehearsal::SlideComesUp(const SlideSound& Slide) {
-    mRoundIsOver = ComesRound(Slide);
+    mRoundIsOver = IsRoundOver(Slide);
     if (mRoundIsOver) return false;
     mNext.At = Now();
     mCueBegan = mClock.Milliseconds();
@@ -180,6 +184,7 @@ bool Rehearsal::SlideComesUp(const SlideSound& Slide) {
     mNext.SlideID = Detail ? Detail->SlideID : 0;
     mNext.Caption = ShownCaptionText(mNext.Caption);
     mLog.Cues.push_back(mNext);
+    if (mOptions.OnSlide) mOptions.OnSlide(mNext);
     return true;
 }
 
@@ -191,7 +196,9 @@ void Rehearsal::SlideIsUp(const SlideSound& Slide, const ShowSoundFields& Fields
 }
 
 void Rehearsal::NoteBox(RehearsalBoxFrom From, const QString& Text) {
-    mLog.Boxes.push_back({Now(), PlaceOnItsWay(), Text, From});
+    const std::int32_t Place = PlaceOnItsWay();
+    mRoundIsOver = mRoundIsOver || (mOneRound && !mOptions.IsWanted(Place));
+    if (!mRoundIsOver) mLog.Boxes.push_back({Now(), Place, Text, From});
 }
 
 std::int32_t Rehearsal::PlaceOnItsWay() const {

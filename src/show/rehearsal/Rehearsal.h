@@ -24,6 +24,17 @@ struct RehearsalOptions {
     std::function<double(const QString& Path)> LengthOfSound = LengthOfSoundFile;  // throws Fault
     // Asked all the while with the slide that is up (0: none yet); false ends a whole run.
     std::function<bool(std::int32_t SlideSeq)> GoesOn = {};
+    // The part of the show that a whole run is about: from the place First, as if it were begun
+    // there, up to and with Last; 0: to its end.
+    std::int32_t First = 1, Last = 0;
+    // Told at the very time of the clock, in the midst of the show's steps: that a slide of a whole
+    // run has come up, and what the player is told. The latter may not throw.
+    std::function<void(const RehearsalCue& Cue)> OnSlide = {};
+    std::function<void(const SoundEvent& Event)> OnSound = {};
+
+    bool IsWanted(std::int32_t SlideSeq) const {
+        return (First <= 1 || SlideSeq >= First) && (Last == 0 || SlideSeq <= Last);
+    }
 };
 
 enum class RehearsalEnd {
@@ -48,8 +59,8 @@ class Rehearsal : private ShowStage {
     // Lets the time pass, with all ticks that fall into it, those at its very end included.
     void RunFor(double Seconds) { RunUntil(Now() + Seconds); }
     void RunUntil(double Seconds);  // from the start
-    // In place of all these: the whole show from its first slide. In a manual one the next slide
-    // is asked for when a slide's time is over.
+    // In place of all these: the whole show, or the part of it that the options name. In a manual
+    // one the next slide is asked for when a slide's time is over.
     RehearsalEnd RunWhole();
     // For the user's steps between the runs.
     ShowRun& Run() { return mRun; }
@@ -89,7 +100,7 @@ class Rehearsal : private ShowStage {
     RehearsalEnd RunRound();
     bool GoesOn() const;
     qint64 NextPress() const;
-    bool ComesRound(const SlideSound& Slide) const;
+    bool IsRoundOver(const SlideSound& Slide) const;
     bool SlideComesUp(const SlideSound& Slide);
     void SlideIsUp(const SlideSound& Slide, const ShowSoundFields& Fields);
     void NoteBox(RehearsalBoxFrom From, const QString& Text);

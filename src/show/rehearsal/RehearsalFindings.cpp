@@ -4,7 +4,7 @@
 
 #include "db/modAlbumFiles.h"
 #include "settings/modNEBSlideShow.h"
-#include "show/captions/CaptionFit.h"
+#include "show/captions/ShowLayout.h"
 #include "show/rehearsal/RehearsalNotebook.h"
 #include "support/files/modHostFiles.h"
 #include "support/modCharacters.h"
@@ -100,8 +100,8 @@ QString Shortened(const QString& Text) {
 }
 
 void CheckCaption(Notebook& Book, const RehearsalCue& Cue) {
-    const QSize Screen = Book.Show.Screen;
-    const CaptionSpace Space{Screen.width(), Screen.height(), Screen.height() / 3};
+    if (Book.Show.Screen.isEmpty()) return;
+    const CaptionSpace Space = CaptionSpaceIn(Book.Show.Screen);
     const CaptionSetting Standard = StandardCaption(Cue.Caption, Space);
     if (Standard.Lines <= 1) return;
     QString Text = QStringLiteral("the caption takes %1 lines").arg(Standard.Lines);

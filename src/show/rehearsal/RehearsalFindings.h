@@ -30,7 +30,7 @@ struct RehearsedShow {
     std::int32_t AlbumID = 0, SlideShowID = 0;  // both are there
     const RehearsalLog& Log;
     RehearsalEnd End = RehearsalEnd::CameRound;
-    QSize Screen{1920, 1080};  // pixels, for the captions
+    QSize Screen{1920, 1080};  // pixels, for the captions; empty: none are shown
     RehearsalOptions Options;  // as the rehearsal had them
 };
 

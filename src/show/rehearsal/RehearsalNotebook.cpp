@@ -54,11 +54,15 @@ RehearsalNotebook::RehearsalNotebook(const RehearsedShow& Of)
 }
 
 void RehearsalNotebook::Problem(std::int32_t SlideSeq, const QString& Text) {
-    mFound.Problems.push_back({SlideSeq, Text});
+    if (IsWanted(SlideSeq)) mFound.Problems.push_back({SlideSeq, Text});
 }
 
 void RehearsalNotebook::Note(std::int32_t SlideSeq, const QString& Text) {
-    mFound.Notes.push_back({SlideSeq, Text});
+    if (IsWanted(SlideSeq)) mFound.Notes.push_back({SlideSeq, Text});
+}
+
+bool RehearsalNotebook::IsWanted(std::int32_t SlideSeq) const {
+    return SlideSeq == 0 || Show.Options.IsWanted(SlideSeq);
 }
 
 void RehearsalNotebook::OfSlide(std::int32_t SlideSeq, const QString& Text) {

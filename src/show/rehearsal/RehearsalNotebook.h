@@ -34,6 +34,7 @@ class RehearsalNotebook {
     QHash<std::int32_t, const clsNEBSlideShowDetail*> Details;
     std::vector<std::int32_t> Places;
 
+    // What is said of a place that the rehearsal was not to come to is left out.
     void Problem(std::int32_t SlideSeq, const QString& Text);
     void Note(std::int32_t SlideSeq, const QString& Text);
     void OfSlide(std::int32_t SlideSeq, const QString& Text);  // "slide 3: " before it
@@ -53,6 +54,8 @@ class RehearsalNotebook {
     RehearsalFindings Taken();
 
   private:
+    bool IsWanted(std::int32_t SlideSeq) const;
+
     RehearsalFindings mFound;
     QSet<std::pair<std::int32_t, int>> mExplained;
     QHash<std::int32_t, const RehearsalCue*> mCues;

@@ -73,8 +73,8 @@ std::shared_ptr<clsDBEngine> CopyForRehearsal(const clsDBEngine& theDB, std::int
     return Copy;
 }
 
-RehearsalSheet MakeRehearsalSheet(clsDBEngine& Copy, QSize Screen,
-                                  const RehearsalOptions& Options) {
+RehearsalSheet MakeRehearsalSheet(clsDBEngine& Copy, QSize Screen, const RehearsalOptions& Options,
+                                  RehearsalLog* Log) {
     const clsNEBAlbum& Album = *Copy.Albums.front();
     const clsNEBSlideShow& Show = *Album.SlideShows.front();
     Rehearsal Of(Copy, Album.AlbumID, Show.SlideShowID, Options);
@@ -83,6 +83,7 @@ RehearsalSheet MakeRehearsalSheet(clsDBEngine& Copy, QSize Screen,
                          .IsManual = Show.ProgressionMethod != 0};
     Sheet.End = Of.RunWhole();
     Sheet.RunningTime = Of.Now();
+    if (Log) *Log = Of.Log();
     if (Sheet.End == RehearsalEnd::GivenUp) return Sheet;
     const RehearsedShow Run{Copy,      Album.AlbumID, Show.SlideShowID, Of.Log(),
                             Sheet.End, Screen,        Options};

@@ -38,8 +38,10 @@ struct RehearsalSheet {
 // it is not there.
 std::shared_ptr<clsDBEngine> CopyForRehearsal(const clsDBEngine& theDB, std::int32_t AlbumID,
                                               std::int32_t SlideShowID);
-// Runs it. Options.GoesOn may end it sooner. Screen: in pixels, for the captions.
+// Runs it. Options.GoesOn may end it sooner. Screen: in pixels, for the captions; empty where none
+// are shown. Log: takes what was noted, where that is wanted.
 RehearsalSheet MakeRehearsalSheet(clsDBEngine& Copy, QSize Screen,
-                                  const RehearsalOptions& Options = {});
+                                  const RehearsalOptions& Options = {},
+                                  RehearsalLog* Log = nullptr);
 
 }  // namespace neb

@@ -30,9 +30,10 @@ Noted NameOf(Heard Event) {
 }  // namespace
 
 RehearsalSound::RehearsalSound(const RehearsalClock& Clock, ClockedSoundDevices::LengthOf Length,
-                               RehearsalLog& Log)
+                               ClockedSoundDevices::Listener OnSound, RehearsalLog& Log)
     : mClock(Clock),
       mLength(std::move(Length)),
+      mOnSound(std::move(OnSound)),
       mLog(Log),
       mDevices(
           Clock, [this](const QString& Path) { return Measure(Path); },
@@ -76,6 +77,7 @@ void RehearsalSound::Settle() {
 }
 
 void RehearsalSound::Hear(const SoundEvent& Event) {
+    if (mOnSound) mOnSound(Event);
     if (Event.What == Heard::LoadedAhead) return;
     Settle();
     const int Before = mNow.Volume;

@@ -12,8 +12,9 @@ namespace neb {
 
 class RehearsalSound {
   public:
+    // OnSound, when given, hears of everything as it happens; it may not throw.
     RehearsalSound(const RehearsalClock& Clock, ClockedSoundDevices::LengthOf Length,
-                   RehearsalLog& Log);
+                   ClockedSoundDevices::Listener OnSound, RehearsalLog& Log);
 
     SoundDevices& Devices() { return mDevices; }
     // The time has come to be here: sounds that have come to their ends are noted.
@@ -35,6 +36,7 @@ class RehearsalSound {
 
     const RehearsalClock& mClock;
     const ClockedSoundDevices::LengthOf mLength;
+    const ClockedSoundDevices::Listener mOnSound;
     RehearsalLog& mLog;
     ClockedSoundDevices mDevices;
     QHash<QString, double> mLengths;  // of the files that were opened

@@ -45,20 +45,27 @@ class TrackCheck {
         if (mTrack.FitToSong) CheckFitted();
         if (mTrack.Repeat) return;  // meant to fill whatever time there is
         if (!mTrack.FitToSong) CheckSilence();
-        CheckCut();
+        if (!GoesOnBeyond()) CheckCut();
     }
 
   private:
     void TakeCue(std::int32_t Place);
     void ExplainBoxes();
     bool HasSlides();
+    bool GoesOnBeyond() const;
     void CheckFade();
     QString WhyNoFade() const;
     void CheckFitted();
     void CheckSilence();
     void CheckCut();
-    void Tell(const QString& Text) { mBook.Problem(mTrack.SlideSeqStart, Line(Text)); }
-    void Note(const QString& Text) { mBook.Note(mTrack.SlideSeqStart, Line(Text)); }
+    void Tell(const QString& Text) { mBook.Problem(Begins(), Line(Text)); }
+    void Note(const QString& Text) { mBook.Note(Begins(), Line(Text)); }
+    // Where it is heard first.
+    std::int32_t Begins() const {
+        const std::int32_t First = mBook.Show.Options.First;
+        const bool IsUnderWay = First > 1 && mTrack.SlideSeqEnd >= First;
+        return IsUnderWay ? std::max(mTrack.SlideSeqStart, First) : mTrack.SlideSeqStart;
+    }
     QString Line(const QString& Text) const {
         return QStringLiteral("sound track %1 (%2, %3): %4")
             .arg(mTrack.SoundTrackSeq)
@@ -96,8 +103,15 @@ bool TrackCheck::HasSlides() {
     return !mReach.empty();
 }
 
+// Somebody who takes a part of a show knows that its music is longer.
+bool TrackCheck::GoesOnBeyond() const {
+    const std::int32_t Last = mBook.Show.Options.Last;
+    return Last > 0 && mTrack.SlideSeqEnd > Last;
+}
+
 QString TrackCheck::WhyNoFade() const {
     const std::int32_t Last = mTrack.SlideSeqEnd;
+    if (GoesOnBeyond()) return {};
     if (mBook.IsManual) return QStringLiteral("there is no fade in a manual show");
     if (!mBook.Details.contains(Last))
         return QStringLiteral("it never fades, because the show has no slide %1").arg(Last);

@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 
 #include "pictures/ImgX.h"
+#include "pictures/PictureOfFile.h"
 #include "pictures/XShowFit.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
@@ -46,16 +47,10 @@ const Kind* KindOf(const QString& File) {
 
 }  // namespace
 
-QImage ReadPicture(const QString& File) {
-    ImgX Image;
-    Image.Load(File);
-    return Image.Picture();
-}
-
 QImage ProgramPicture(int Which) {
-    return ReadPicture(QStringLiteral("%1/SpeedTest%2.bmp")
-                           .arg(QCoreApplication::applicationDirPath())
-                           .arg(Which));
+    return PictureOfFile(QStringLiteral("%1/SpeedTest%2.bmp")
+                             .arg(QCoreApplication::applicationDirPath())
+                             .arg(Which));
 }
 
 QImage FittedTo(const QImage& Picture, QSize Size) {

@@ -7,9 +7,8 @@
 
 namespace neb {
 
-// Throws Fault that names the file, as do all of these.
-QImage ReadPicture(const QString& File);
-// One of the two pictures that lie beside the program for its speed test; Which: 1 or 2.
+// One of the two pictures that lie beside the program for its speed test; Which: 1 or 2. Throws
+// Fault that names the file, as do all of these.
 QImage ProgramPicture(int Which);
 
 // The whole picture within the size, in proportion and centred on black, as a show has it.

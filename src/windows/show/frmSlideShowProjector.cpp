@@ -3,10 +3,10 @@
 #include <QKeyEvent>
 
 #include "controls/forms/ScreenPointer.h"
-#include "controls/forms/modTwips.h"
 #include "controls/picture/XShow.h"
 #include "settings/modNEBSlideShow.h"
 #include "show/ShowSettings.h"
+#include "show/captions/ShowLayout.h"
 #include "support/Fault.h"
 #include "ui_frmSlideShowProjector.h"
 #include "windows/handling/ShowHands.h"
@@ -17,7 +17,6 @@
 namespace neb {
 namespace {
 
-constexpr int LeastPictureTwips = 200;
 constexpr int RightButton = 2;
 
 struct MenuCommand {
@@ -141,18 +140,18 @@ void frmSlideShowProjector::showEvent(QShowEvent* Event) {
     mHands->Attach();
 }
 
-// The caption gets the lines that it needs, up to a third of the window; the picture the rest.
+// In a window that is too low for both they stay where they were.
 void frmSlideShowProjector::ResizeControls() {
     if (isMinimized()) return;
     mUi->Show1->SetShowOptionA(true);
     mUi->Show1->SetShowOptionB(true);
     mUi->Show1->SetShowOptionC(true);
-    const int Fitting = mUi->lblCaption->FitTo(width(), height(), height() / 3);
+    const CaptionSpace Space = CaptionSpaceIn(size());
+    const int Fitting = mUi->lblCaption->FitTo(Space.Width, Space.ScreenHeight, Space.MostHeight);
     const int LabelHeight = mUi->lblCaption->isHidden() ? 0 : Fitting;
-    int PictureHeight = mUi->Show1->height();
-    int LabelTop = mUi->lblCaption->y();
-    if (ToTwips(LabelHeight) + LeastPictureTwips < ToTwips(height()))
-        LabelTop = PictureHeight = height() - LabelHeight;
+    const std::optional<int> Left = PictureHeightIn(height(), LabelHeight);
+    const int PictureHeight = Left.value_or(mUi->Show1->height());
+    const int LabelTop = Left.value_or(mUi->lblCaption->y());
     const int Width = width() > 0 ? width() : mUi->Show1->width();
     mUi->Show1->setGeometry(0, 0, Width, PictureHeight);
     mUi->lblCaption->setGeometry(0, LabelTop, Width, LabelHeight);
