@@ -10,6 +10,7 @@
 #include "settings/modNEBSlideShow.h"
 #include "show/ShowSettings.h"
 #include "support/Services.h"
+#include "windows/film/modFilms.h"
 #include "windows/frame/Openers.h"
 #include "windows/rehearsal/modRehearsals.h"
 #include "windows/show/modSlideShows.h"
@@ -85,6 +86,11 @@ void PlayActiveShow(frmNEBSlideShow& Main) {
 void RehearseActiveShow(frmNEBSlideShow& Main) {
     const ActiveShow Active = ChosenActiveShow(Main);
     if (Active.SlideShowID != 0) ShowRehearsal(Active.AlbumID, Active.SlideShowID);
+}
+
+void FilmActiveShow(frmNEBSlideShow& Main) {
+    const ActiveShow Active = ChosenActiveShow(Main);
+    if (Active.SlideShowID != 0) ShowFilm(Active.AlbumID, Active.SlideShowID);
 }
 
 }  // namespace neb

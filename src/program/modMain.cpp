@@ -24,6 +24,7 @@
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
 #include "support/work/ProcessEnd.h"
+#include "windows/film/modFilms.h"
 
 namespace neb {
 namespace {
@@ -76,7 +77,10 @@ int RunMainWindow(const CommandLine& Line, const QString& Database) {
     } catch (const std::exception& Problem) {
         return TellUnreadable(Problem);
     }
-    const TerminationWatch Watch([&Window] { CloseWhenIdle(Window); });
+    const TerminationWatch Watch([&Window] {
+        StopFilms();
+        CloseWhenIdle(Window);
+    });
     QMetaObject::invokeMethod(
         &Window, [&] { Window.OpenPaths(Line.Paths); }, Qt::QueuedConnection);
     return QApplication::exec();

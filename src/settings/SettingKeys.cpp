@@ -25,7 +25,7 @@ constexpr char Windows[] =
     "frmAlbumImport frmAlbumExport frmSlideShowImport frmSlideShowExport frmPreferences "
     "frmCheckPictures frmRestore frmDirSelect frmNewAlbumWzd1 frmPrintAlbum frmPrintSlideShow "
     "frmPrintSlide frmPrintSheet frmAlbumRename frmAlbumDelete frmGetObjectName frmInputBox "
-    "frmSoundRecorder";
+    "frmSoundRecorder frmFilm";
 
 constexpr double AboveZero = std::numeric_limits<double>::denorm_min();
 constexpr std::nullopt_t Any = std::nullopt;
@@ -66,6 +66,14 @@ constexpr SettingRow Table[] = {
     {S::FindTop,         Find,                "WindowTop",       "",            T::Twips,   None,              None,             Any, Any,       nullptr, "Find Graphics"},
     {S::FindColumn,      Find,                "Col*.Width",      Columns,       T::Twips,   None,              None,             Any, Any,       nullptr, "Find Graphics"},
     {S::SoundFolder,     "Sounds",            "Folder",          "",            T::Text,    None,              None,             Any, Any,       nullptr, "the slide show manager"},
+    {S::FilmFolder,      "Film",              "Folder",          "",            T::Text,    None,              None,             Any, Any,       nullptr, "the window of films"},
+    {S::FilmFormat,      "Film",              "Format",          "",            T::Text,    {".mp4"},          {".mp4"},         Any, Any,       nullptr, "the window of films"},
+    {S::FilmSize,        "Film",              "Size",            "",            T::Text,    {"1920x1080"},     {"1920x1080"},    Any, Any,       nullptr, "the window of films"},
+    {S::FilmRate,        "Film",              "Rate",            "",            T::Number,  {"30"},            {"30"},           Any, Any,       nullptr, "the window of films"},
+    {S::FilmQuality,     "Film",              "Quality",         "",            T::Number,  {"75", "75"},      {"75"},           1, 100,         nullptr, "the window of films"},
+    {S::FilmCaptions,    "Film",              "CaptionsInPicture", "",            T::Flag,    {"True"},          {"True"},         Any, Any,       nullptr, "the window of films"},
+    {S::FilmSubtitleTrack, "Film",              "SubtitleTrack",   "",            T::Flag,    {"False"},         {"False"},        Any, Any,       nullptr, "the window of films"},
+    {S::FilmSubtitleFile, "Film",              "SubtitleFile",    "",            T::Flag,    {"False"},         {"False"},        Any, Any,       nullptr, "the window of films"},
     {S::TransferDirectory, "Transfer",        "Directory*",      LastTen,       T::Text,    None,              None,             Any, Any,       nullptr, "the transfer windows"},
 };
 // clang-format on

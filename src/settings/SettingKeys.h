@@ -44,8 +44,16 @@ enum class Setting {
     FindHeight,
     FindLeft,
     FindTop,
-    FindColumn,         // of a column: "0" to "3"
-    SoundFolder,        // in which a sound track was chosen last
+    FindColumn,    // of a column: "0" to "3"
+    SoundFolder,   // in which a sound track was chosen last
+    FilmFolder,    // in which a film was made last; so the next ones: how
+    FilmFormat,    // the ending: ".mp4" and so on
+    FilmSize,      // "1920x1080"
+    FilmRate,      // frames a second
+    FilmQuality,   // 1 to 100
+    FilmCaptions,  // in the picture
+    FilmSubtitleTrack,
+    FilmSubtitleFile,
     TransferDirectory,  // the last one first: "0" to "9"
 };
 

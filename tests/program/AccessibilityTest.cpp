@@ -23,6 +23,7 @@
 #include "windows/albums/frmRestore.h"
 #include "windows/compose/frmSlideShowDBM.h"
 #include "windows/disc/frmDiscFolder.h"
+#include "windows/film/frmFilm.h"
 #include "windows/frame/frmInputBox.h"
 #include "windows/import/frmDirSelect.h"
 #include "windows/import/frmFindGraphics.h"
@@ -108,7 +109,7 @@ using Windows =
                      frmGetObjectName, frmInputBox, frmPrintAlbum, frmPrintPreview, frmPrintSheet,
                      frmPrintSlide, frmPrintSlideShow, frmHelp, frmImportFilter, frmLoading,
                      frmMsgBoxEx, frmNewAlbumWzd1, frmPreferences, frmQuickShow, frmRestore,
-                     frmDamage, frmRehearsal, frmSetCaptions, frmSlideDBM, frmSlideMgrBulk,
+                     frmDamage, frmFilm, frmRehearsal, frmSetCaptions, frmSlideDBM, frmSlideMgrBulk,
                      frmSlideShowDBM, frmSlideShowExport, frmSlideShowImport, frmSlideShowView,
                      frmSoundRecorder, frmTransferProgress>;
 TYPED_TEST_SUITE(EachWindow, Windows);

@@ -20,6 +20,7 @@
 #include "windows/albums/frmRestore.h"
 #include "windows/compose/frmSlideShowDBM.h"
 #include "windows/disc/frmDiscFolder.h"
+#include "windows/film/modFilms.h"
 #include "windows/frame/frmInputBox.h"
 #include "windows/import/frmDirSelect.h"
 #include "windows/import/frmFindGraphics.h"
@@ -190,6 +191,7 @@ const Row Rows[] = {
      [](auto& On) { NewForm<frmSlideShowDBM>()->LoadSlideShowMgr(On.AlbumID, On.ShowID); }},
     {"frmRehearsal", [](auto& On) { NewForm<frmRehearsal>()->RehearseShow(On.AlbumID, On.ShowID); },
      true},
+    {"frmFilm", [](auto& On) { ShowFilm(On.AlbumID, On.ShowID); }, true},
     {"frmPreferences", [](auto&) { NewForm<frmPreferences>()->LoadPreferences(); }},
     {"frmAlbumExport", &OpenChild<frmAlbumExport>},
     {"frmAlbumImport", &OpenChild<frmAlbumImport>},

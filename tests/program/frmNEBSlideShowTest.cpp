@@ -34,6 +34,7 @@
 #include "windows/albums/frmAlbumDelete.h"
 #include "windows/albums/frmAlbumRename.h"
 #include "windows/compose/frmSlideShowDBM.h"
+#include "windows/film/frmFilm.h"
 #include "windows/frame/Openers.h"
 #include "windows/import/frmNewAlbumWzd1.h"
 #include "windows/import/frmQuickShow.h"
@@ -211,6 +212,7 @@ TEST_F(MainWindow, EveryMenuEntryIsInItsPlace) {
                              "mnuSlideShowPrefs",
                              "mnuSlideShowViewer",
                              "mnuSlideShowRehearse",
+                             "mnuSlideShowFilm",
                              "mnuQuickShow",
                              "mnuSpeedTest",
                              "mnuRestore",
@@ -557,7 +559,7 @@ TEST_F(MainWindow, PlayingGoesOnWithTheShowThatIsThenChosenInPreferences) {
     EXPECT_EQ(Shown, 1);
 }
 
-TEST_F(MainWindow, TheActiveShowIsRehearsedFromTheMenu) {
+TEST_F(MainWindow, TheActiveShowIsRehearsedAndFilmedFromTheMenu) {
     Start();
     std::int32_t AlbumID = 0, ShowID = 0, SlideID = 0;
     ASSERT_TRUE(DBEngine->SaveAlbum(AlbumID, "Holiday"));
@@ -575,6 +577,9 @@ TEST_F(MainWindow, TheActiveShowIsRehearsedFromTheMenu) {
     TheOpeners().SlideOfShow(AlbumID, ShowID, SlideID);
     ASSERT_TRUE(Find<frmSlideShowDBM>());
     EXPECT_TRUE(Find<frmSlideShowDBM>()->IsAbout(AlbumID, ShowID));
+    Press("mnuSlideShowFilm");
+    ASSERT_TRUE(QTest::qWaitFor([] { return Find<frmFilm>() != nullptr; }, 3000));
+    EXPECT_EQ(Find<frmFilm>()->windowTitle(), "Film - Lake");
 }
 
 TEST_F(MainWindow, PreferencesOpenFromTheMenu) {

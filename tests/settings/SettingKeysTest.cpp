@@ -22,7 +22,7 @@ const QStringList AllWindows{
     "frmSlideShowExport", "frmPreferences",  "frmCheckPictures", "frmRestore",
     "frmDirSelect",       "frmNewAlbumWzd1", "frmPrintAlbum",    "frmPrintSlideShow",
     "frmPrintSlide",      "frmPrintSheet",   "frmAlbumRename",   "frmAlbumDelete",
-    "frmGetObjectName",   "frmInputBox",     "frmSoundRecorder"};
+    "frmGetObjectName",   "frmInputBox",     "frmSoundRecorder", "frmFilm"};
 
 QStringList Numbers(int First, int Last, int Digits) {
     QStringList Out;
@@ -115,6 +115,14 @@ const struct Documented {
     {"[Find Graphics Window]Col*.Width", Numbers(0, 3, 1), SettingType::Twips, "", "", nullptr,
      nullptr, nullptr},
     {"[Sounds]Folder", {""}, SettingType::Text, "", "", nullptr, nullptr, nullptr},
+    {"[Film]Folder", {""}, SettingType::Text, "", "", nullptr, nullptr, nullptr},
+    {"[Film]Format", {""}, SettingType::Text, ".mp4", ".mp4", nullptr, nullptr, nullptr},
+    {"[Film]Size", {""}, SettingType::Text, "1920x1080", "1920x1080", nullptr, nullptr, nullptr},
+    {"[Film]Rate", {""}, SettingType::Number, "30", "30", nullptr, nullptr, nullptr},
+    {"[Film]Quality", {""}, SettingType::Number, "75", "75", "75", nullptr, nullptr},
+    {"[Film]CaptionsInPicture", {""}, SettingType::Flag, "True", "True", nullptr, nullptr, nullptr},
+    {"[Film]SubtitleTrack", {""}, SettingType::Flag, "False", "False", nullptr, nullptr, nullptr},
+    {"[Film]SubtitleFile", {""}, SettingType::Flag, "False", "False", nullptr, nullptr, nullptr},
     {"[Transfer]Directory*", Numbers(0, 9, 1), SettingType::Text, "", "", nullptr, nullptr,
      nullptr},
 };

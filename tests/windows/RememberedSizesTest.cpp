@@ -4,6 +4,7 @@
 
 #include "AllWindowsRig.h"
 #include "windows/compose/frmSlideShowDBM.h"
+#include "windows/film/frmFilm.h"
 #include "windows/import/frmQuickShow.h"
 #include "windows/lists/frmPicturePopup.h"
 #include "windows/rehearsal/frmRehearsal.h"
@@ -32,6 +33,7 @@ const struct RememberedSize {
     {"frmQuickShow", 6540, 0, &Make<frmQuickShow>},
     {"frmSlideMgrBulk", 6315, 0, &Make<frmSlideMgrBulk>},
     {"frmRehearsal", 9000, 0, &Make<frmRehearsal>},
+    {"frmFilm", 9000, 0, &Make<frmFilm>},
     {"frmAlbumView", 6315, 0, &Make<frmAlbumView>},
     {"frmSlideShowView", 6315, 0, &Make<frmSlideShowView>},
 };

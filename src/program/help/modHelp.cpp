@@ -39,7 +39,7 @@ constexpr HelpRow HelpRows[] = {
     {"frmDiscFolder", "transfer"},      {"frmPrintPreview", "print"},
     {"frmInputBox", "print"},           {"frmPrintAlbum", "print"},
     {"frmPrintSlideShow", "print"},     {"frmPrintSlide", "print"},
-    {"frmPrintSheet", "print"},
+    {"frmPrintSheet", "print"},         {"frmFilm", "film"},
 };
 
 QString ClassOf(const QWidget& Window) {

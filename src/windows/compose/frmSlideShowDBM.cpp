@@ -19,6 +19,7 @@
 #include "windows/albums/modAlbumNames.h"
 #include "windows/compose/TwoLists.h"
 #include "windows/compose/modShowManagers.h"
+#include "windows/film/modFilms.h"
 #include "windows/frame/Openers.h"
 #include "windows/frame/modNotice.h"
 #include "windows/frame/modWindowState.h"
@@ -128,6 +129,8 @@ void frmSlideShowDBM::SetUpToolBar() {
          "slide-show-play", "Shift+F5", &frmSlideShowDBM::View},
         {"mnuSlideShowRehearse", "Rehearse", "What the saved show brings when, and what is wrong",
          "find-graphics", "", &frmSlideShowDBM::Rehearse},
+        {"mnuSlideShowFilm", "Film", "Make a video file of the show as it was last saved", "film",
+         "", &frmSlideShowDBM::MakeFilm},
         {"mnuSlideShowPrefs", "Preferences", "Choose how slide shows are played", "preferences", "",
          &frmSlideShowDBM::EditPreferences},
         {"mnuExit", "Exit", "Close this window", "exit", "", &frmSlideShowDBM::Close},
@@ -382,13 +385,16 @@ void frmSlideShowDBM::View() {
 }
 
 void frmSlideShowDBM::Rehearse() {
-    if (AlbumID() != 0 && SlideShowID() != 0) return ShowRehearsal(AlbumID(), SlideShowID());
-    MsgBox(tr("You must first select a Slide Show to Rehearse."),
-           QStringLiteral("Missing User Input"));
+    WithShow(&ShowRehearsal, tr("You must first select a Slide Show to Rehearse."));
 }
 
-void frmSlideShowDBM::EditPreferences() {
-    EditSlideShowPreferences();
+void frmSlideShowDBM::MakeFilm() {
+    WithShow(&ShowFilm, tr("You must first select a Slide Show to make a Film of."));
+}
+
+void frmSlideShowDBM::WithShow(ShowOpener Open, const QString& None) {
+    if (AlbumID() != 0 && SlideShowID() != 0) return Open(AlbumID(), SlideShowID());
+    MsgBox(None, QStringLiteral("Missing User Input"));
 }
 
 }  // namespace neb

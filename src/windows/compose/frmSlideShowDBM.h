@@ -12,6 +12,7 @@
 #include "windows/frame/AlbumInHand.h"
 #include "windows/frame/modBroadcast.h"
 #include "windows/lists/SlideReading.h"
+#include "windows/show/modSlideShows.h"
 
 namespace neb {
 
@@ -116,8 +117,11 @@ class frmSlideShowDBM : public Form, public ChangeReceiver, public AlbumHolder {
     void Delete();
     void Print();
     void View();
-    void EditPreferences();
+    void EditPreferences() { EditSlideShowPreferences(); }
     void Rehearse();
+    void MakeFilm();
+    using ShowOpener = void (*)(std::int32_t AlbumID, std::int32_t SlideShowID);
+    void WithShow(ShowOpener Open, const QString& None);
     void FitAll();
     void FollowOrder(const SlideOrder& Before, const SlideOrder& After,
                      const std::set<std::int32_t>& Moved);

@@ -8,6 +8,7 @@
 #include "windows/albums/frmGetObjectName.h"
 #include "windows/albums/modAlbumNames.h"
 #include "windows/compose/modShowManagers.h"
+#include "windows/film/modFilms.h"
 #include "windows/frame/Openers.h"
 #include "windows/frame/modNotice.h"
 #include "windows/home/HomeCards.h"
@@ -76,6 +77,10 @@ void Rehearse(const HomeCard& Card) {
     ShowRehearsal(Card.Of.AlbumID, Card.Of.SlideShowID);
 }
 
+void MakeFilm(const HomeCard& Card) {
+    ShowFilm(Card.Of.AlbumID, Card.Of.SlideShowID);
+}
+
 // A name that is refused keeps its window.
 void RenameShow(const HomeCard& Card) {
     const auto MayBe = [&Card](const QString& Name) -> Answer<> {
@@ -120,7 +125,8 @@ constexpr CardDeed Deeds[] = {
     {"mnuCardEditSlide", "&Edit Slide", "", "slide-manager", true, &IsSlide, &Edit},
     {"mnuCardCaptions", "Edit &Captions", "", "slide-manager-bulk", true, &IsAlbum, &EditCaptions},
     {"mnuCardCompose", "Compose a &Slide Show", "", "slide-show-manager", true, &IsAlbum, &Compose},
-    {"mnuCardRehearse", "Re&hearse", "", "find-graphics", false, &IsShow, &Rehearse, true},
+    {"mnuCardRehearse", "Re&hearse", "", "find-graphics", false, &IsShow, &Rehearse},
+    {"mnuCardFilm", "&Make a Film...", "", "film", false, &IsShow, &MakeFilm, true},
     {"mnuCardRename", "&Rename...", "F2", "album-rename", true, &IsNoSlide, &Rename},
     {"mnuCardPrint", "Pr&int...", "", "print", false, &IsNoSlide, &Print},
     {"mnuCardExport", "E&xport...", "", "export", false, &IsNoSlide, &Export, true},

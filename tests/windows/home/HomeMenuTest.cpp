@@ -4,6 +4,7 @@
 #include "HomeRig.h"
 #include "windows/albums/frmAlbumRename.h"
 #include "windows/albums/frmGetObjectName.h"
+#include "windows/film/frmFilm.h"
 #include "windows/printing/frmPrintAlbum.h"
 #include "windows/printing/frmPrintSlideShow.h"
 #include "windows/rehearsal/frmRehearsal.h"
@@ -40,7 +41,8 @@ TEST_F(HomeMenu, OffersWhatCanBeDoneWithEachCard) {
     Open();
     EXPECT_EQ("Open|View|Edit|Edit Captions|Compose a Slide Show|Rename|Print|Export|Delete",
               MenuTexts(u"Garden"_s));
-    EXPECT_EQ("Play|View|Edit|Rehearse|Rename|Print|Export|Delete", MenuTexts(u"Walk"_s));
+    EXPECT_EQ("Play|View|Edit|Rehearse|Make a Film|Rename|Print|Export|Delete",
+              MenuTexts(u"Walk"_s));
     Type(u"rose"_s);
     EXPECT_EQ("Open|Edit Slide", MenuTexts(u"rose"_s));
 }
@@ -49,7 +51,7 @@ TEST_F(HomeMenu, OffersNoChangesInADatabaseThatCannotBeChanged) {
     ReadOnlyDB = true;
     Open();
     EXPECT_EQ("Open|View|Print|Export", MenuTexts(u"Garden"_s));
-    EXPECT_EQ("Play|View|Rehearse|Print|Export", MenuTexts(u"Walk"_s));
+    EXPECT_EQ("Play|View|Rehearse|Make a Film|Print|Export", MenuTexts(u"Walk"_s));
     Click(u"Walk"_s);
     Key(Qt::Key_Delete);
     Key(Qt::Key_F2);
@@ -219,6 +221,19 @@ TEST_F(HomeMenu, RehearseOpensTheRehearsal) {
     });
     ChooseInMenu(u"Walk"_s, u"Rehearse"_s);
     EXPECT_TRUE(QTest::qWaitFor([&] { return Opened; }));
+}
+
+TEST_F(HomeMenu, MakeAFilmOpensTheWindowOfFilms) {
+    ReadOnlyDB = true;
+    Open();
+    QString Title;
+    WhenOpen<frmFilm>([&](frmFilm& Window) {
+        Title = Window.windowTitle();
+        Window.Unload();
+    });
+    ChooseInMenu(u"Walk"_s, u"Make a Film"_s);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !Title.isEmpty(); }));
+    EXPECT_EQ("Film - Walk", Title.toStdString());
 }
 
 }  // namespace
