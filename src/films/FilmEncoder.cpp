@@ -1,5 +1,6 @@
 #include "films/FilmEncoder.h"
 
+#include <algorithm>
 #include <memory>
 #include <stdexcept>
 

@@ -81,13 +81,17 @@ std::int64_t MostBits(const FilmSetup& Setup) {
                                   std::int64_t{Setup.Width} * Setup.Height * Setup.Rate * 4 / 5);
 }
 
+// The encoder's widest instructions take eight blocks of 16 pixels at once, and what lies behind
+// the last of a row with them: the same film would be other bytes each time.
+bool OverreadsRows(const FilmSetup& Setup) {
+    return (Setup.Width + 15) / 16 % 8 != 0 && av_get_cpu_flags() & AV_CPU_FLAG_AVX512;
+}
+
 void AddX264(Av<AVDictionary>& Options, const FilmSetup& Setup) {
     SetOption(Options, "crf", Crf(Setup, 0.1));
     SetOption(Options, "maxrate", std::to_string(MostBits(Setup)));
     SetOption(Options, "bufsize", std::to_string(MostBits(Setup)));
-    // Its widest instructions read beyond the rows of some widths: the same film were other bytes.
-    if (av_get_cpu_flags() & AV_CPU_FLAG_AVX512)
-        SetOption(Options, "x264-params", "asm=AVX2,FMA3,BMI1,BMI2,LZCNT");
+    if (OverreadsRows(Setup)) SetOption(Options, "x264-params", "asm=AVX2,FMA3,BMI1,BMI2,LZCNT");
     Av<AVDictionary> More = ReadOptions(SizeOf(Setup).X264);
     AVDictionary* All = Options.release();
     const int Answer = av_dict_copy(&All, More.get(), 0);
