@@ -174,7 +174,8 @@ double Estimate::BytesOfCue(size_t Place) const {
     const double Moved = mMoving * Moving * (Before + Arrival) / 2;
     if (mTrials.Group() == 1) return Moved + (Frames - Moving) * Arrival;
     const double Still = Frames - Moving, Groups = Still / mTrials.Group();
-    const double Comes = Moving == 0 ? 1 : mTrials.AfterTransition();
+    const double Cut = Place > 0 ? mKeeping.Renewal : 1;
+    const double Comes = Moving == 0 ? Cut : mTrials.AfterTransition();
     const double Renewals = Moving == 0 ? std::floor(Groups) : Groups;
     return Moved + Arrival * (Comes + mKeeping.Renewal * Renewals) + mKeeping.EachFrame * Still;
 }
