@@ -42,6 +42,21 @@ std::vector<SeenPicture> PicturesOf(const std::vector<RehearsalCue>& Cues) {
     return All;
 }
 
+// To which part of the film's time each belongs, of so many equal ones at most; to one of its own
+// where there are no more pictures than that.
+std::vector<size_t> PartsOf(const std::vector<SeenPicture>& Pictures, size_t Parts) {
+    double All = 0, Before = 0;
+    for (const SeenPicture& Each : Pictures) All += Each.Seconds;
+    std::vector<size_t> Found;
+    for (const SeenPicture& Each : Pictures) {
+        const double Middle = (Before + Each.Seconds / 2) / std::max(All, 1e-9);
+        const auto Part = static_cast<size_t>(Middle * static_cast<double>(Parts));
+        Found.push_back(Pictures.size() <= Parts ? Found.size() : Part);
+        Before += Each.Seconds;
+    }
+    return Found;
+}
+
 class Estimate {
   public:
     Estimate(const FilmOrder& Order, const FilmPlan& Plan, const std::function<bool()>& GoesOn)
@@ -84,29 +99,19 @@ size_t Estimate::TrialsOfPictures() const {
 }
 
 // In the order of the sizes of their files, which go with what is to be seen in them, each trial
-// stands for its neighbours: equal parts of the film's time.
+// stands for its neighbours.
 bool Estimate::LookAtPictures() {
     std::vector<SeenPicture> Pictures = PicturesOf(mCues);
     std::ranges::sort(Pictures, {}, &SeenPicture::Size);
-    double All = 0;
-    for (const SeenPicture& Each : Pictures) All += Each.Seconds;
-    const size_t Parts = std::min(TrialsOfPictures(), Pictures.size());
+    const std::vector<size_t> Parts = PartsOf(Pictures, TrialsOfPictures());
     std::vector<SeenPicture> Tried;
-    size_t Begin = 0;
-    double Until = 0;
-    for (size_t Part = 0; Part < Parts && Begin < Pictures.size(); ++Part) {
+    for (size_t Begin = 0, End = 0; Begin < Pictures.size(); Begin = End) {
         if (!GoesOn()) return false;
-        const double Wanted = All * static_cast<double>(Part + 1) / static_cast<double>(Parts);
-        size_t End = Begin;
-        while (End < Pictures.size() &&
-               (End == Begin || Until + Pictures[End].Seconds / 2 < Wanted) &&
-               Pictures.size() - End > Parts - Part - 1)
-            Until += Pictures[End++].Seconds;
-        if (Part + 1 == Parts) End = Pictures.size();
-        SeenPicture Middle = Pictures[(Begin + End) / 2];
+        while (End < Pictures.size() && Parts[End] == Parts[Begin]) ++End;
+        SeenPicture& Middle = Tried.emplace_back(Pictures[(Begin + End) / 2]);
         Middle.Arrival = mTrials.Arrival(mTrials.Still(mCues[Middle.Cue]));
-        for (; Begin < End; ++Begin) mArrivals[mCues[Pictures[Begin].Cue].Picture] = Middle.Arrival;
-        Tried.push_back(Middle);
+        for (size_t I = Begin; I < End; ++I)
+            mArrivals[mCues[Pictures[I].Cue].Picture] = Middle.Arrival;
     }
     LookAtKeeping(Tried);
     return GoesOn();

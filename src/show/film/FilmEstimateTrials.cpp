@@ -123,7 +123,14 @@ double FilmTrials::Bytes(const std::vector<Run>& Frames) const {
     FilmWriter Writer(Setup);
     for (const Run& Each : Frames) Writer.AddFrame(Each.Frame, Each.Count);
     Writer.Finish();
-    return static_cast<double>(Writer.BytesWritten() - Empty(Setup));
+    return static_cast<double>(Writer.BytesWritten() - EmptyOf(Setup));
+}
+
+// Opening an encoder for large frames takes its time.
+qint64 FilmTrials::EmptyOf(const FilmSetup& Setup) const {
+    const auto Known = mEmpty.try_emplace({Setup.Width, Setup.Height}, -1).first;
+    if (Known->second < 0) Known->second = Empty(Setup);
+    return Known->second;
 }
 
 int FilmTrials::Group() const {
@@ -210,7 +217,7 @@ double FilmTrials::Sound(const RehearsalCue* Cue) const {
     }
     Writer.Finish();
     const double Pictures = Bytes({{Dark, Count}});
-    return std::max(0.0, static_cast<double>(Writer.BytesWritten() - Empty(Setup)) - Pictures) /
+    return std::max(0.0, static_cast<double>(Writer.BytesWritten() - EmptyOf(Setup)) - Pictures) /
            SoundSeconds;
 }
 

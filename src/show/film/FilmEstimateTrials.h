@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QImage>
+#include <map>
 #include <vector>
 
 #include "films/FilmEncoder.h"
@@ -51,10 +52,12 @@ class FilmTrials {
     };
     QImage StillOf(const FilmSlide& Slide, QSize Size) const;
     FilmSetup SetupFor(QSize Size) const;
+    qint64 EmptyOf(const FilmSetup& Setup) const;
     double Bytes(const std::vector<Run>& Frames) const;
     std::vector<Run> FramesOf(const FilmSlide& Old, const FilmSlide& New, int All) const;
 
     const FilmOrder mOrder;
+    mutable std::map<std::pair<int, int>, qint64> mEmpty;  // by the size
 };
 
 // Frames of a cue in which something moves; none where its picture comes in one step.
