@@ -23,6 +23,9 @@ FilmMuxer::FilmMuxer(const FilmSetup& Setup, FilmSink Sink)
     mOutput.ConnectTo(*mFilm);
     // the same film is the same bytes, whenever and by whichever version it is made
     mFilm->flags |= AVFMT_FLAG_BITEXACT | AVFMT_FLAG_CUSTOM_IO;
+    // What a sound encoder puts before the first sample is told apart in the file; the pictures
+    // must not be put off for it.
+    mFilm->avoid_negative_ts = AVFMT_AVOID_NEG_TS_DISABLED;
 }
 
 AVStream& FilmMuxer::AddStream() {

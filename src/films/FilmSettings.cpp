@@ -19,19 +19,19 @@ struct FormatRow {
 constexpr FormatRow Formats[] = {
     {FilmFormat::Mp4,
      {"mp4", "movflags=+faststart", CoverPlace::Picture, AV_CODEC_ID_MOV_TEXT},
-     {"libx264", "preset=veryfast", AV_PIX_FMT_YUV420P, FF_PROFILE_H264_HIGH, 38, 12, 3,
+     {"libx264", "preset=veryfast", AV_PIX_FMT_YUV420P, FF_PROFILE_H264_HIGH, 38, 8, 3,
       // the encoder's own name and settings, which stand before the first frame
       "filter_units=remove_types=6", false},
-     {"aac", AV_SAMPLE_FMT_FLTP, 44100, 96000, 224000}},
+     {"aac", AV_SAMPLE_FMT_FLTP, 44100, 96000, 224000, false}},
     {FilmFormat::WebM,
      {"webm", "default_mode=infer_no_subs", CoverPlace::None, AV_CODEC_ID_WEBVTT},
-     {"libvpx-vp9", "deadline=good:cpu-used=5:row-mt=1:auto-alt-ref=1:lag-in-frames=16",
-      AV_PIX_FMT_YUV420P, FF_PROFILE_VP9_0, 50, 12, 3, nullptr, false},
-     {"libopus", AV_SAMPLE_FMT_FLT, 48000, 64000, 192000}},
+     {"libvpx-vp9", "deadline=realtime:cpu-used=6:row-mt=1:lag-in-frames=0",
+      AV_PIX_FMT_YUV420P, FF_PROFILE_VP9_0, 56, 8, 3, nullptr, false},
+     {"libopus", AV_SAMPLE_FMT_FLT, 48000, 64000, 192000, true}},
     {FilmFormat::Lossless,
      {"matroska", "default_mode=infer_no_subs", CoverPlace::Attachment, AV_CODEC_ID_SUBRIP},
      {"ffv1", "level=3:slicecrc=1", AV_PIX_FMT_BGR0, FF_PROFILE_UNKNOWN, 0, 0, 0, nullptr, true},
-     {"flac", AV_SAMPLE_FMT_S32, 44100, 0, 0}},
+     {"flac", AV_SAMPLE_FMT_S32, 44100, 0, 0, true}},
 };
 
 const FormatRow& RowOf(FilmFormat Format) {
@@ -68,8 +68,16 @@ std::string Crf(const FilmSetup& Setup, double Step) {
     return std::to_string(std::round(Crf / Step) * Step);
 }
 
+// What a television still reads of such a size and rate; the level follows from it.
+std::int64_t MostBits(const FilmSetup& Setup) {
+    return std::max<std::int64_t>(4'000'000,
+                                  std::int64_t{Setup.Width} * Setup.Height * Setup.Rate * 4 / 5);
+}
+
 void AddX264(Av<AVDictionary>& Options, const FilmSetup& Setup) {
     SetOption(Options, "crf", Crf(Setup, 0.1));
+    SetOption(Options, "maxrate", std::to_string(MostBits(Setup)));
+    SetOption(Options, "bufsize", std::to_string(MostBits(Setup)));
     Av<AVDictionary> More = ReadOptions(SizeOf(Setup).X264);
     AVDictionary* All = Options.release();
     const int Answer = av_dict_copy(&All, More.get(), 0);

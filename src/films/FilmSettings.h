@@ -31,6 +31,9 @@ struct FilmSoundRow {
     AVSampleFormat Samples;
     int Rate;                     // samples a second
     int BitsAtWorst, BitsAtBest;  // a second
+    // What the encoder puts before the first sample has times of its own in the file, from 0, and
+    // not such before 0.
+    bool CountsPriming;
 };
 
 const FilmFileRow& FilmFile(FilmFormat Format);

@@ -16,6 +16,8 @@ class PictureConversion {
     void Convert(const std::uint8_t* Pixels, std::ptrdiff_t Stride, AVFrame& Into);
 
   private:
+    void OpenFor(const AVFrame& Into);
+
     struct Freed {
         void operator()(SwsContext* Scaler) const { sws_freeContext(Scaler); }
     };

@@ -52,6 +52,7 @@ SoundTrack::SoundTrack(const FilmSetup& Setup, FilmMuxer& Muxer)
     mCodec.Open({}, nullptr);
     mCodec.Stream().disposition |= AV_DISPOSITION_DEFAULT;
     mConversion = MakeConversion(Codec);
+    if (FilmSound(Setup.Format).CountsPriming) mSamples = Codec.initial_padding;
     mWaiting = Had(av_audio_fifo_alloc(Codec.sample_fmt, 2, Codec.frame_size));
 }
 

@@ -19,7 +19,7 @@ class SoundTrack {
     TrackCodec mCodec;
     Av<SwrContext> mConversion;
     Av<AVAudioFifo> mWaiting;   // converted, not a whole frame of the encoder's yet
-    std::int64_t mSamples = 0;  // sent so far
+    std::int64_t mSamples = 0;  // the time of what is sent next
 };
 
 }  // namespace neb

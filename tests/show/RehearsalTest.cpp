@@ -203,10 +203,10 @@ TEST_F(RehearsalRig, TellsOfSlidesAndSoundsAsTheyHappen) {
     Rehearsal Of(Engine, Album, Show, Listening);
     Running = &Of;
     Of.RunWhole();
-    // opened ahead, loaded, running, gone
+    // 0: opened ahead, 1: loaded, 2: running, 7: gone
     EXPECT_EQ(
-        "slide 1@0, sound 0@0, slide 2@5, sound 1@5000, sound 2@5000 again, slide 3@10, "
-        "sound 7@10000",
+        "sound 0@0, slide 1@0, slide 2@5, sound 1@5000, sound 2@5000 again, slide 3@10, "
+        "sound 7@10000 again, sound 0@15000",
         Told.join(u", "_s).toStdString());
 }
 

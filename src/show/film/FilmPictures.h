@@ -37,7 +37,7 @@ class FilmPictures {
     FilmPicture Take(const QString& Path);
 
     // How many are read, or lie ready, at most.
-    static constexpr size_t MostAhead = 2;
+    static constexpr size_t MostAhead = 1;
 
   private:
     struct Ahead {

@@ -61,11 +61,16 @@ class FilmStageOnScreen : public ProjectorRig {
     FilmStageOnScreen() {
         AddSlides(static_cast<int>(Slides().size()));
         SlideShow->ProgressionMethod = 1;
+        TakeSpeed(0, 100);
         for (int Seq = 1; Seq <= Count(); ++Seq) {
             Slide(Seq).SlideText = Slides()[static_cast<std::size_t>(Seq - 1)].Caption;
             WriteFile(PicturePath(Seq),
                       PngOf(PictureOf(Slides()[static_cast<std::size_t>(Seq - 1)], Seq)));
         }
+    }
+    void TakeSpeed(int Delay, int Step) {
+        for (const char* Key : {"DelayL", "DelayM", "DelayH"}) Put(Key, QString::number(Delay));
+        for (const char* Key : {"StepL", "StepM", "StepH"}) Put(Key, QString::number(Step));
     }
     static int Count() { return static_cast<int>(Slides().size()); }
 
@@ -92,8 +97,8 @@ class FilmStageOnScreen : public ProjectorRig {
 };
 
 TEST_F(FilmStageOnScreen, ShowsEverySlideAsTheProjectorDoes) {
-    for (const QSize Size : {QSize(640, 360), QSize(1280, 1024), QSize(360, 640), QSize(333, 221),
-                             QSize(1920, 1080), QSize(1080, 1920), QSize(2400, 1350)})
+    for (const QSize Size :
+         {QSize(640, 360), QSize(360, 640), QSize(333, 221), QSize(1920, 1080), QSize(1080, 1920)})
         Run([&](Projector& Window) {
             TakeSize(Window, Size);
             FilmStage Stage(Size, true);
@@ -113,20 +118,19 @@ TEST_F(FilmStageOnScreen, ShowsEverySlideWithoutItsCaptionAsTheProjectorDoes) {
     const QSize Size(640, 360);
     Run([&](Projector& Window) {
         TakeSize(Window, Size);
-        Label->hide();
+        QTest::keyClick(&Window, Qt::Key_C);
         FilmStage Stage(Size, false);
         for (int Seq = 1; Seq <= Count(); ++Seq, Window.NextSlide()) {
             AwaitEnd();
             Stage.ShowSlide(FilmSlideOf(Seq));
-            if (Seq > 1) EXPECT_EQ(Seen(Window), Stage.FrameAt(Seq * 10 + 5)) << Seq;
+            EXPECT_EQ(Seen(Window), Stage.FrameAt(Seq * 10 + 5)) << Seq;
         }
     });
 }
 
 TEST_F(FilmStageOnScreen, TakesTheSameStepsFromSlideToSlide) {
     const QSize Size(400, 300);
-    for (const char* Key : {"StepL", "StepM", "StepH"}) Put(Key, u"17"_s);
-    for (const char* Key : {"DelayL", "DelayM", "DelayH"}) Put(Key, u"10"_s);
+    TakeSpeed(10, 17);
     Run([&](Projector& Window) {
         TakeSize(Window, Size);
         Picture->SetPacing(XShow::Pacing::EveryStep);
