@@ -88,7 +88,8 @@ class Estimate {
     const FilmTrials mTrials;
     QHash<QString, double> mArrivals;  // by the pictures' paths
     FilmTrials::Keeping mKeeping;
-    double mMoving = 0;  // a frame, as a multiple of arrivals
+    // As multiples of arrivals: a frame of a transition, and the picture behind it.
+    double mMoving = 0, mAfter = 0;
     double mSounding = 0, mSilence = 0;
 };
 
@@ -138,8 +139,11 @@ bool Estimate::LookAtTransitions() {
         const FilmTrials::Moved Each = mTrials.Moving(mCues[Place - 1], mCues[Place]);
         All.Bytes += Each.Bytes;
         All.Arrivals += Each.Arrivals;
+        All.After += Each.After;
+        All.Arrival += Each.Arrival;
     }
-    mMoving = All.Arrivals > 0 ? All.Bytes / All.Arrivals : 0;
+    if (All.Arrivals > 0) mMoving = All.Bytes / All.Arrivals;
+    if (All.Arrival > 0) mAfter = All.After / All.Arrival;
     return GoesOn();
 }
 
@@ -180,7 +184,7 @@ double Estimate::BytesOfCue(size_t Place) const {
     if (mTrials.Group() == 1) return Moved + (Frames - Moving) * Arrival;
     const double Still = Frames - Moving, Groups = Still / mTrials.Group();
     const double Cut = Place > 0 ? mKeeping.Renewal : 1;
-    const double Comes = Moving == 0 ? Cut : mTrials.AfterTransition();
+    const double Comes = Moving == 0 ? Cut : mAfter;
     const double Renewals = Moving == 0 ? std::floor(Groups) : Groups;
     return Moved + Arrival * (Comes + mKeeping.Renewal * Renewals) + mKeeping.EachFrame * Still;
 }
