@@ -42,6 +42,21 @@ std::vector<SeenPicture> PicturesOf(const std::vector<RehearsalCue>& Cues) {
     return All;
 }
 
+// To which part of the film's time each belongs, of so many equal ones at most; to one of its own
+// where there are no more pictures than that.
+std::vector<size_t> PartsOf(const std::vector<SeenPicture>& Pictures, size_t Parts) {
+    double All = 0, Before = 0;
+    for (const SeenPicture& Each : Pictures) All += Each.Seconds;
+    std::vector<size_t> Found;
+    for (const SeenPicture& Each : Pictures) {
+        const double Middle = (Before + Each.Seconds / 2) / std::max(All, 1e-9);
+        const auto Part = static_cast<size_t>(Middle * static_cast<double>(Parts));
+        Found.push_back(Pictures.size() <= Parts ? Found.size() : Part);
+        Before += Each.Seconds;
+    }
+    return Found;
+}
+
 class Estimate {
   public:
     Estimate(const FilmOrder& Order, const FilmPlan& Plan, const std::function<bool()>& GoesOn)
@@ -73,7 +88,8 @@ class Estimate {
     const FilmTrials mTrials;
     QHash<QString, double> mArrivals;  // by the pictures' paths
     FilmTrials::Keeping mKeeping;
-    double mMoving = 0;  // a frame, as a multiple of arrivals
+    // As multiples of arrivals: a frame of a transition, and the picture behind it.
+    double mMoving = 0, mAfter = 0;
     double mSounding = 0, mSilence = 0;
 };
 
@@ -84,29 +100,19 @@ size_t Estimate::TrialsOfPictures() const {
 }
 
 // In the order of the sizes of their files, which go with what is to be seen in them, each trial
-// stands for its neighbours: equal parts of the film's time.
+// stands for its neighbours.
 bool Estimate::LookAtPictures() {
     std::vector<SeenPicture> Pictures = PicturesOf(mCues);
     std::ranges::sort(Pictures, {}, &SeenPicture::Size);
-    double All = 0;
-    for (const SeenPicture& Each : Pictures) All += Each.Seconds;
-    const size_t Parts = std::min(TrialsOfPictures(), Pictures.size());
+    const std::vector<size_t> Parts = PartsOf(Pictures, TrialsOfPictures());
     std::vector<SeenPicture> Tried;
-    size_t Begin = 0;
-    double Until = 0;
-    for (size_t Part = 0; Part < Parts && Begin < Pictures.size(); ++Part) {
+    for (size_t Begin = 0, End = 0; Begin < Pictures.size(); Begin = End) {
         if (!GoesOn()) return false;
-        const double Wanted = All * static_cast<double>(Part + 1) / static_cast<double>(Parts);
-        size_t End = Begin;
-        while (End < Pictures.size() &&
-               (End == Begin || Until + Pictures[End].Seconds / 2 < Wanted) &&
-               Pictures.size() - End > Parts - Part - 1)
-            Until += Pictures[End++].Seconds;
-        if (Part + 1 == Parts) End = Pictures.size();
-        SeenPicture Middle = Pictures[(Begin + End) / 2];
+        while (End < Pictures.size() && Parts[End] == Parts[Begin]) ++End;
+        SeenPicture& Middle = Tried.emplace_back(Pictures[(Begin + End) / 2]);
         Middle.Arrival = mTrials.Arrival(mTrials.Still(mCues[Middle.Cue]));
-        for (; Begin < End; ++Begin) mArrivals[mCues[Pictures[Begin].Cue].Picture] = Middle.Arrival;
-        Tried.push_back(Middle);
+        for (size_t I = Begin; I < End; ++I)
+            mArrivals[mCues[Pictures[I].Cue].Picture] = Middle.Arrival;
     }
     LookAtKeeping(Tried);
     return GoesOn();
@@ -133,8 +139,11 @@ bool Estimate::LookAtTransitions() {
         const FilmTrials::Moved Each = mTrials.Moving(mCues[Place - 1], mCues[Place]);
         All.Bytes += Each.Bytes;
         All.Arrivals += Each.Arrivals;
+        All.After += Each.After;
+        All.Arrival += Each.Arrival;
     }
-    mMoving = All.Arrivals > 0 ? All.Bytes / All.Arrivals : 0;
+    if (All.Arrivals > 0) mMoving = All.Bytes / All.Arrivals;
+    if (All.Arrival > 0) mAfter = All.After / All.Arrival;
     return GoesOn();
 }
 
@@ -174,7 +183,8 @@ double Estimate::BytesOfCue(size_t Place) const {
     const double Moved = mMoving * Moving * (Before + Arrival) / 2;
     if (mTrials.Group() == 1) return Moved + (Frames - Moving) * Arrival;
     const double Still = Frames - Moving, Groups = Still / mTrials.Group();
-    const double Comes = Moving == 0 ? 1 : mTrials.AfterTransition();
+    const double Cut = Place > 0 ? mKeeping.Renewal : 1;
+    const double Comes = Moving == 0 ? Cut : mAfter;
     const double Renewals = Moving == 0 ? std::floor(Groups) : Groups;
     return Moved + Arrival * (Comes + mKeeping.Renewal * Renewals) + mKeeping.EachFrame * Still;
 }

@@ -19,12 +19,11 @@ struct SpendingRow {
     int Settling;         // frames until a still picture is as fine as it will be
     int MostMoving;       // frames of a transition, for a trial
     int MostTransitions;
-    double AfterTransition;  // part of an arrival; measured on films of several kinds
 };
 constexpr SpendingRow Spending[] = {
-    {FilmFormat::Mp4, 3, 15, 40, 14, 0.35},
-    {FilmFormat::WebM, 3, 1, 24, 8, 0.15},
-    {FilmFormat::Lossless, 0, 1, 3, 12, 0},
+    {FilmFormat::Mp4, 3, 15, 40, 14},
+    {FilmFormat::WebM, 3, 30, 24, 8},
+    {FilmFormat::Lossless, 0, 1, 3, 12},
 };
 
 const SpendingRow& SpendingOf(FilmFormat Format) {
@@ -123,7 +122,14 @@ double FilmTrials::Bytes(const std::vector<Run>& Frames) const {
     FilmWriter Writer(Setup);
     for (const Run& Each : Frames) Writer.AddFrame(Each.Frame, Each.Count);
     Writer.Finish();
-    return static_cast<double>(Writer.BytesWritten() - Empty(Setup));
+    return static_cast<double>(Writer.BytesWritten() - EmptyOf(Setup));
+}
+
+// Opening an encoder for large frames takes its time.
+qint64 FilmTrials::EmptyOf(const FilmSetup& Setup) const {
+    const auto Known = mEmpty.try_emplace({Setup.Width, Setup.Height}, -1).first;
+    if (Known->second < 0) Known->second = Empty(Setup);
+    return Known->second;
 }
 
 int FilmTrials::Group() const {
@@ -156,7 +162,7 @@ FilmTrials::Keeping FilmTrials::KeepingOf(const QImage& Frame) const {
     return {Renewed / Settled, std::max(0.0, (Kept - Settled) / (Group() - Settling))};
 }
 
-// The frames in the midst of the transition, as many as a trial has time for, behind the first of
+// The last frames of the transition, as many as a trial has time for, behind the first of
 // them as a still.
 std::vector<FilmTrials::Run> FilmTrials::FramesOf(const FilmSlide& Old, const FilmSlide& New,
                                                   int All) const {
@@ -167,7 +173,7 @@ std::vector<FilmTrials::Run> FilmTrials::FramesOf(const FilmSlide& Old, const Fi
     Stage.ShowSlide(Coming);
     const int Most = std::min(All, SpendingOf(mOrder.Format).MostMoving);
     const int Apart = Group() == 1 ? std::max(1, All / (Most + 1)) : 1;
-    const int From = (All - Most * Apart) / 2;
+    const int From = All - Most * Apart;
     std::vector<Run> Frames;
     for (int I = 0; I <= Most; ++I) {
         const double At = Coming.At + static_cast<double>(From + I * Apart) / mOrder.Rate;
@@ -181,17 +187,17 @@ FilmTrials::Moved FilmTrials::Moving(const RehearsalCue& Old, const RehearsalCue
     const QSize Size = SmallerFilm(mOrder.Size);
     const FilmSlide From = SlideOf(Old, Size), To = SlideOf(New, Size);
     const std::vector<Run> Frames = FramesOf(From, To, MovingFrames(New, mOrder.Rate));
-    const double Both = Arrival(StillOf(From, Size)) + Arrival(StillOf(To, Size));
-    return {std::max(0.0, Bytes(Frames) - Bytes({Frames.front()})),
-            Both / 2 * static_cast<double>(Frames.size() - 1)};
+    const double Gone = Arrival(StillOf(From, Size)), Come = Arrival(StillOf(To, Size));
+    const double Whole = Bytes(Frames);
+    std::vector<Run> Settled = Frames;
+    Settled.back().Count += SpendingOf(mOrder.Format).Settling;
+    return {std::max(0.0, Whole - Bytes({Frames.front()})),
+            (Gone + Come) / 2 * static_cast<double>(Frames.size() - 1),
+            std::max(0.0, Bytes(Settled) - Whole), Come};
 }
 
 int FilmTrials::MostTransitions() const {
     return SpendingOf(mOrder.Format).MostTransitions;
-}
-
-double FilmTrials::AfterTransition() const {
-    return SpendingOf(mOrder.Format).AfterTransition;
 }
 
 double FilmTrials::Sound(const RehearsalCue* Cue) const {
@@ -210,7 +216,7 @@ double FilmTrials::Sound(const RehearsalCue* Cue) const {
     }
     Writer.Finish();
     const double Pictures = Bytes({{Dark, Count}});
-    return std::max(0.0, static_cast<double>(Writer.BytesWritten() - Empty(Setup)) - Pictures) /
+    return std::max(0.0, static_cast<double>(Writer.BytesWritten() - EmptyOf(Setup)) - Pictures) /
            SoundSeconds;
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QImage>
+#include <map>
 #include <vector>
 
 #include "films/FilmEncoder.h"
@@ -30,11 +31,11 @@ class FilmTrials {
     // cost as much as the mean of both arrivals. In a smaller film: they go with each other.
     struct Moved {
         double Bytes = 0, Arrivals = 0;
+        // The same of the picture as it becomes as fine as it will be, behind the transition.
+        double After = 0, Arrival = 0;
     };
     Moved Moving(const RehearsalCue& Old, const RehearsalCue& New) const;
     int MostTransitions() const;  // for which a few seconds are enough
-    // Of an arrival, what is left to it behind a transition, which has brought the rest.
-    double AfterTransition() const;
     // Bytes a second of what is heard of a cue from its beginning; of silence for null.
     double Sound(const RehearsalCue* Cue) const;
     // Of a film without frames.
@@ -51,10 +52,12 @@ class FilmTrials {
     };
     QImage StillOf(const FilmSlide& Slide, QSize Size) const;
     FilmSetup SetupFor(QSize Size) const;
+    qint64 EmptyOf(const FilmSetup& Setup) const;
     double Bytes(const std::vector<Run>& Frames) const;
     std::vector<Run> FramesOf(const FilmSlide& Old, const FilmSlide& New, int All) const;
 
     const FilmOrder mOrder;
+    mutable std::map<std::pair<int, int>, qint64> mEmpty;  // by the size
 };
 
 // Frames of a cue in which something moves; none where its picture comes in one step.
