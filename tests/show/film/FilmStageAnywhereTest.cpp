@@ -2,6 +2,8 @@
 // one way or the other, one processor or many. The desktops are those of copies of the program.
 #include <QProcess>
 #include <iostream>
+#include <sstream>
+#include <thread>
 
 #include "FilmStageRig.h"
 #include "harness/ChildRole.h"
@@ -19,16 +21,22 @@ const QStringList Captions{u"A day at the lake"_s,
                            u"مرحبا بالعالم 2024"_s,
                            u"水曜日の朝、海辺で撮った写真です。"_s.repeated(5)};
 
-int TellFrames() {
+std::string Frames() {
+    std::ostringstream Hashes;
     for (const QSize Film : {QSize(640, 360), QSize(360, 640)}) {
         FilmStage Stage(Film, true);
         for (int Seq = 0; Seq < Captions.size(); ++Seq) {
             const QImage Picture = effectstest::Scene({400, 300}, static_cast<unsigned>(Seq));
             Stage.ShowSlide({Seq * 1.0, Picture, Captions[Seq], 10 + 20 * Seq, 100, 10});
             for (const double Later : {0.0, 0.05, 0.2})
-                std::cout << effectstest::HashOf(Stage.FrameAt(Seq + Later)) << '\n';
+                Hashes << effectstest::HashOf(Stage.FrameAt(Seq + Later)) << '\n';
         }
     }
+    return Hashes.str();
+}
+
+int TellFrames() {
+    std::cout << Frames();
     return 0;
 }
 
@@ -64,9 +72,19 @@ class FilmStageAnywhere : public testing::Test {
 };
 
 TEST_F(FilmStageAnywhere, HasTheSameBitsOnEveryRun) {
-    const std::string Frames = FramesOn(Usual);
-    EXPECT_EQ(2 * 3 * Captions.size(), std::count(Frames.begin(), Frames.end(), '\n'));
-    EXPECT_EQ(Frames, FramesOn(Usual));
+    const std::string Here = FramesOn(Usual);
+    EXPECT_EQ(2 * 3 * Captions.size(), std::count(Here.begin(), Here.end(), '\n'));
+    EXPECT_EQ(Here, FramesOn(Usual));
+}
+
+// A film is made beside the windows, which paint their own texts meanwhile.
+TEST_F(FilmStageAnywhere, HasTheSameBitsOnAThreadOfItsOwn) {
+    std::array<std::string, 2> There;
+    std::vector<std::thread> Threads;
+    for (std::string& Each : There) Threads.emplace_back([&Each] { Each = Frames(); });
+    EXPECT_EQ(Frames(), FramesOn(Usual));
+    for (std::thread& Each : Threads) Each.join();
+    for (const std::string& Each : There) EXPECT_EQ(Frames(), Each);
 }
 
 TEST_F(FilmStageAnywhere, HasTheSameBitsOnOneProcessor) {
@@ -74,22 +92,22 @@ TEST_F(FilmStageAnywhere, HasTheSameBitsOnOneProcessor) {
 }
 
 TEST_F(FilmStageAnywhere, HasTheSameBitsOnScreensOfAnyDots) {
-    const std::string Frames = FramesOn(Usual);
-    EXPECT_EQ(Frames, FramesOn(R"("logicalDpi":120,"logicalBaseDpi":96,"dpr":1)"));
-    EXPECT_EQ(Frames, FramesOn(R"("logicalDpi":144,"logicalBaseDpi":144,"dpr":1)"));
-    EXPECT_EQ(Frames, FramesOn(R"("logicalDpi":96,"logicalBaseDpi":96,"dpr":2)"));
+    const std::string Here = FramesOn(Usual);
+    EXPECT_EQ(Here, FramesOn(R"("logicalDpi":120,"logicalBaseDpi":96,"dpr":1)"));
+    EXPECT_EQ(Here, FramesOn(R"("logicalDpi":144,"logicalBaseDpi":144,"dpr":1)"));
+    EXPECT_EQ(Here, FramesOn(R"("logicalDpi":96,"logicalBaseDpi":96,"dpr":2)"));
     Environment.insert(u"QT_SCALE_FACTOR"_s, u"1.5"_s);
-    EXPECT_EQ(Frames, FramesOn(Usual));
+    EXPECT_EQ(Here, FramesOn(Usual));
     Environment.remove(u"QT_SCALE_FACTOR"_s);
     Environment.insert(u"QT_FONT_DPI"_s, u"160"_s);
-    EXPECT_EQ(Frames, FramesOn(Usual));
+    EXPECT_EQ(Here, FramesOn(Usual));
 }
 
 TEST_F(FilmStageAnywhere, HasTheSameBitsHoweverFontsAreHinted) {
-    const std::string Frames = FramesOn(Usual);
+    const std::string Here = FramesOn(Usual);
     for (const char* Style : {"hintfull", "hintnone"}) {
         HintFonts(Style);
-        EXPECT_EQ(Frames, FramesOn(Usual)) << Style;
+        EXPECT_EQ(Here, FramesOn(Usual)) << Style;
     }
 }
 

@@ -4,6 +4,8 @@
 #include <QTest>
 
 #include "ProjectorRig.h"
+#include "controls/picture/StepPace.h"
+#include "effects/EffectSteps.h"
 #include "effects/Pictures.h"
 #include "show/captions/ShowCaptions.h"
 #include "show/film/FilmStage.h"
@@ -159,6 +161,29 @@ TEST_F(FilmStageOnScreen, TakesTheSameStepsFromSlideToSlide) {
             EXPECT_EQ(6, Step) << Seq;
         }
     });
+}
+
+// On a machine that needs no time to prepare anything.
+TEST(FilmStageOnScreenPace, IsThatOfAScreenWithAsManyRefreshesASecond) {
+    const QSize Size(64, 36);
+    const QImage Old = effectstest::Scene(Size, 1), New = effectstest::Scene(Size, 2);
+    const Transition Way(2, Old, New);
+    QImage Wanted;
+    for (const int Rate : {24, 25, 30, 50, 60})
+        for (const int Delay : {0, 70, 125, 333, 500, 1000})
+            for (const int Percent : {3, 7, 50, 100}) {
+                FilmStage Stage(Size, false);
+                Stage.ShowSlide({0, Old});
+                Stage.ShowSlide({20, New, {}, 2, Delay, Percent});
+                StepPace Pace;
+                Pace.Begin(20000, 20000, EffectStepCount(Percent), Delay / 10.0, Rate);
+                for (int K = 1; K < 60; ++K) {
+                    const int Step = Pace.StepFor(20000 + (K - 1) * 1000.0 / Rate);
+                    Way.Draw(EffectProgress(Step, Percent), Wanted);
+                    EXPECT_EQ(Wanted, Stage.FrameAt(20 + double(K) / Rate))
+                        << Rate << ' ' << Delay << ' ' << Percent << " frame " << K;
+                }
+            }
 }
 
 }  // namespace
