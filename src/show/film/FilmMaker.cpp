@@ -82,6 +82,7 @@ class Making {
     RehearsalOptions Options();
     void Begin();
     void Film();
+    std::int32_t StopsBefore(RehearsalEnd End);
     void Finish();
     void Fill();
 
@@ -154,11 +155,16 @@ void Making::Film() {
     if (mRun.Cues().empty()) ThrowEmpty(mRun.Log(), mOrder);
     CatchUp(mRun.Now());
     FlushRun();
-    const bool Stopped = End == RehearsalEnd::Stopped;
-    const std::int32_t Next = Stopped ? mRun.Run().Memory().CurrentSlideSeq : 0;
-    mFaults.TakeRun(mRun.Log(), mSound.Failed(), Next);
+    mFaults.TakeRun(mRun.Log(), mSound.Failed(), StopsBefore(End));
     mTotal = mRun.Now();
     Report(mTotal);
+}
+
+// The slide that was to come up when the show stopped by itself; 0: none that the film wants.
+std::int32_t Making::StopsBefore(RehearsalEnd End) {
+    const std::int32_t Next = mRun.Run().Memory().CurrentSlideSeq;
+    const bool IsOfFilm = mOrder.Last == 0 || Next <= mOrder.Last;
+    return End == RehearsalEnd::Stopped && IsOfFilm ? Next : 0;
 }
 
 void Making::Finish() {

@@ -236,5 +236,15 @@ TEST_F(FilmMakerPart, IsNotConcernedWithSlidesBehindIt) {
     EXPECT_EQ("", TextsOf(Plan().Sheet.Findings.Problems));
 }
 
+TEST_F(FilmMakerPart, IsNotConcernedWithPicturesBehindItEither) {
+    AddPictures(3);
+    DeleteFile(PicturePath(Slide(2).SlideID));
+    DeleteFile(AppPathCache + u"NoSlide.bmp"_s);
+    Order.Last = 1;
+    const FilmReport Report = Make();
+    EXPECT_EQ("1@0 ", PlacesOf(Report));
+    EXPECT_EQ("", TextsOf(Report.Faults));
+}
+
 }  // namespace
 }  // namespace neb::test

@@ -30,7 +30,8 @@ size_t StartOf(const Sound& Out, float Least, float Most, double (*TimeOf)(float
 class FilmHeard : public HeardShow {
   protected:
     FilmHeard() {
-        AddSlides(1);
+        SlideShow->Details.clear();
+        AddSlides(4);
         // 1: 0.3 s again and again; 2 and 3: 1.2 s fitted; 4: a clip of 0.5 s
         AddTrack(harness::Ramp(0.3, Rate), 1, 1, true, false);
         AddTrack(Turned(harness::Ramp(1.2, Rate), -1, 0), 2, 3, false, false);
@@ -49,7 +50,8 @@ class FilmHeard : public HeardShow {
         Order.Size = {64, 36};
         const auto Copy = CopyForRehearsal(Engine, Album, Show);
         const auto Film = CatchFilms();
-        EXPECT_TRUE(MakeFilm(*Copy, Order, PlanFilm(*Copy, Order)).Faults.empty());
+        for (const auto& Each : MakeFilm(*Copy, Order, PlanFilm(*Copy, Order)).Faults)
+            ADD_FAILURE() << Each.Text.toStdString();
         std::vector<float> Left;
         for (size_t I = 0; I < Film->Sound.size(); I += 2) Left.push_back(Film->Sound[I]);
         return Left;
