@@ -49,6 +49,7 @@ void FilmMuxer::Begin(const FilmSetup& Setup) {
     mOutput.Check();
     Tried(Answer, CannotWrite);
     mBegun = true;
+    if (!Setup.Subtitles.empty()) mMend = File.MendSubtitles;
     if (Cover >= 0) End(Cover);
     WriteReady();
 }
@@ -82,6 +83,7 @@ void FilmMuxer::Finish() {
     avio_flush(mFilm->pb);
     mOutput.Check();
     Tried(Answer, CannotWrite);
+    if (mMend) mMend(mOutput);
 }
 
 }  // namespace neb

@@ -35,6 +35,7 @@ class FilmMuxer {
     Av<AVFormatContext> mFilm;
     Interleaving mPackets;
     bool mBegun = false;
+    void (*mMend)(FilmOutput& Output) = nullptr;  // when all has been written
 };
 
 }  // namespace neb

@@ -37,6 +37,18 @@ void FilmOutput::Check() const {
     if (mRefused) throw std::runtime_error("The film cannot be written: its place takes no more.");
 }
 
+std::size_t FilmOutput::ReadBack(std::int64_t Place, std::uint8_t* Into, std::size_t Count) {
+    const std::ptrdiff_t Read = mSink.Read(Place, Into, Count);
+    mRefused |= Read < 0;
+    Check();
+    return static_cast<std::size_t>(Read);
+}
+
+void FilmOutput::WriteOver(std::int64_t Place, std::uint8_t Byte) {
+    mRefused |= !mSink.Seek(Place) || !mSink.Write(&Byte, 1);
+    Check();
+}
+
 // Nothing may be thrown through the library.
 template <typename Deed>
 bool FilmOutput::Dared(Deed Do) noexcept {

@@ -18,6 +18,10 @@ class FilmOutput {
 
     // Film writes here from now on, and must not outlive this.
     void ConnectTo(AVFormatContext& Film);
+    // When Film has ended: what it wrote, read and changed. Both throw when the sink refuses.
+    // Bytes read, fewer at the end.
+    std::size_t ReadBack(std::int64_t Place, std::uint8_t* Into, std::size_t Count);
+    void WriteOver(std::int64_t Place, std::uint8_t Byte);
     // Throws when the sink has refused anything so far, or what it has thrown.
     void Check() const;
 

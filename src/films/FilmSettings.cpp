@@ -5,6 +5,12 @@
 #include <iterator>
 #include <thread>
 
+#include "films/Mp4Tracks.h"
+
+extern "C" {
+#include <libavutil/cpu.h>
+}
+
 namespace neb {
 
 namespace {
@@ -18,18 +24,19 @@ struct FormatRow {
 
 constexpr FormatRow Formats[] = {
     {FilmFormat::Mp4,
-     {"mp4", "movflags=+faststart", CoverPlace::Picture, AV_CODEC_ID_MOV_TEXT},
+     {"mp4", "movflags=+faststart", CoverPlace::Picture, AV_CODEC_ID_MOV_TEXT, UnmarkSubtitles},
      {"libx264", "preset=veryfast", AV_PIX_FMT_YUV420P, FF_PROFILE_H264_HIGH, 38, 8, 3,
       // the encoder's own name and settings, which stand before the first frame
       "filter_units=remove_types=6", false},
      {"aac", AV_SAMPLE_FMT_FLTP, 44100, 96000, 224000, false}},
     {FilmFormat::WebM,
-     {"webm", "default_mode=infer_no_subs", CoverPlace::None, AV_CODEC_ID_WEBVTT},
-     {"libvpx-vp9", "deadline=realtime:cpu-used=6:row-mt=1:lag-in-frames=0",
-      AV_PIX_FMT_YUV420P, FF_PROFILE_VP9_0, 56, 8, 3, nullptr, false},
+     {"webm", "default_mode=infer_no_subs", CoverPlace::None, AV_CODEC_ID_WEBVTT, nullptr},
+     {"libvpx-vp9", "deadline=realtime:cpu-used=6:row-mt=1:lag-in-frames=0", AV_PIX_FMT_YUV420P,
+      FF_PROFILE_VP9_0, 56, 8, 3, nullptr, false},
      {"libopus", AV_SAMPLE_FMT_FLT, 48000, 64000, 192000, true}},
     {FilmFormat::Lossless,
-     {"matroska", "default_mode=infer_no_subs", CoverPlace::Attachment, AV_CODEC_ID_SUBRIP},
+     {"matroska", "default_mode=infer_no_subs", CoverPlace::Attachment, AV_CODEC_ID_SUBRIP,
+      nullptr},
      {"ffv1", "level=3:slicecrc=1", AV_PIX_FMT_BGR0, FF_PROFILE_UNKNOWN, 0, 0, 0, nullptr, true},
      {"flac", AV_SAMPLE_FMT_S32, 44100, 0, 0, true}},
 };
@@ -47,7 +54,7 @@ struct SizeRow {
     const char* X264;
 };
 constexpr SizeRow Sizes[] = {
-    {352 * 288, 1, 2, "rc-lookahead=10"},
+    {352 * 288, 4, 2, "rc-lookahead=10"},
     {1920 * 1200, 4, 8, "rc-lookahead=10"},
     {4096 * 2304, 9, 8, "rc-lookahead=6"},
     {INT64_MAX, 16, 4, "rc-lookahead=2:bf=1:refs=1"},
@@ -74,10 +81,17 @@ std::int64_t MostBits(const FilmSetup& Setup) {
                                   std::int64_t{Setup.Width} * Setup.Height * Setup.Rate * 4 / 5);
 }
 
+// The encoder's widest instructions take eight blocks of 16 pixels at once, and what lies behind
+// the last of a row with them: the same film would be other bytes each time.
+bool OverreadsRows(const FilmSetup& Setup) {
+    return (Setup.Width + 15) / 16 % 8 != 0 && av_get_cpu_flags() & AV_CPU_FLAG_AVX512;
+}
+
 void AddX264(Av<AVDictionary>& Options, const FilmSetup& Setup) {
     SetOption(Options, "crf", Crf(Setup, 0.1));
     SetOption(Options, "maxrate", std::to_string(MostBits(Setup)));
     SetOption(Options, "bufsize", std::to_string(MostBits(Setup)));
+    if (OverreadsRows(Setup)) SetOption(Options, "x264-params", "asm=AVX2,FMA3,BMI1,BMI2,LZCNT");
     Av<AVDictionary> More = ReadOptions(SizeOf(Setup).X264);
     AVDictionary* All = Options.release();
     const int Answer = av_dict_copy(&All, More.get(), 0);
@@ -91,8 +105,14 @@ void AddVp9(Av<AVDictionary>& Options, const FilmSetup& Setup) {
     SetOption(Options, "tile-columns", std::to_string(Setup.Width / 512 > 3 ? 2 : 1));
 }
 
+// The encoder has no slices for smaller pictures than these.
+bool IsInOnePiece(const FilmSetup& Setup) {
+    return Setup.Width <= 352 && Setup.Height <= 288;
+}
+
 void AddFfv1(Av<AVDictionary>& Options, const FilmSetup& Setup) {
-    SetOption(Options, "slices", std::to_string(SizeOf(Setup).Slices));
+    const int Slices = IsInOnePiece(Setup) ? 1 : SizeOf(Setup).Slices;
+    SetOption(Options, "slices", std::to_string(Slices));
 }
 
 struct AddingRow {

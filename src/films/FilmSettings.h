@@ -8,11 +8,14 @@
 
 namespace neb {
 
+class FilmOutput;
+
 struct FilmFileRow {
     const char* Muxer;
     const char* Options;  // "name=value:name=value", as of all options here
     CoverPlace Cover;
     AVCodecID Subtitles;
+    void (*MendSubtitles)(FilmOutput& Output);  // of the film's end; null: nothing
 };
 
 struct FilmVideoRow {

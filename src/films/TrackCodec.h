@@ -17,13 +17,14 @@ class TrackCodec {
     void Open(Av<AVDictionary> Options, const char* Filter);
     AVStream& Stream() { return *mStream; }
 
-    // Times is how often the frames that come out of it stand in the film.
+    // What comes out of it goes into the film.
     void Send(const AVFrame& Frame);
     // No more will come.
     void Finish();
-    // What becomes of a packet instead of going into the film.
+    // The same for who does something else with the packets; null: no frame will come.
     using Taker = std::function<void(Av<AVPacket>)>;
     void SendTo(const Taker& Take, const AVFrame* Frame);
+    // Into the film; its times are in the encoder's own unit.
     void Write(Av<AVPacket> Packet);
 
   private:

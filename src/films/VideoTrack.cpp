@@ -70,7 +70,8 @@ VideoTrack::VideoTrack(const FilmSetup& Setup, FilmMuxer& Muxer)
 }
 
 void VideoTrack::Add(const std::uint8_t* Pixels, std::ptrdiff_t Stride, int Count) {
-    Tried(av_frame_make_writable(mFrame.get()), NoMemory);
+    // some encoders keep the last one
+    if (!av_frame_is_writable(mFrame.get())) mFrame = MakeFrameFor(mCodec.Context());
     mConversion.Convert(Pixels, Stride, *mFrame);
     mRepeatsPackets ? WriteRepeated(Count) : SendEach(Count);
 }
