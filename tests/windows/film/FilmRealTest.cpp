@@ -13,7 +13,7 @@ class FilmOfWindow : public FilmRig {
         TheFilmWorks() = OwnFilmWorks();
         TheFilmWorks().Open = [](const QString&) {};
         clsSettings Settings = OpenMemory();
-        PutText(Settings, Setting::FilmSize, u"64x36"_s);
+        PutText(Settings, Setting::FilmSize, u"640x360"_s);
         neb::PutNumber(Settings, Setting::FilmRate, 24);
         PutDecimal(Settings, Setting::Timeout, 1);
         Settings.Save();
@@ -22,7 +22,7 @@ class FilmOfWindow : public FilmRig {
 
 TEST_F(FilmOfWindow, IsAFileWithItsSubtitlesBesideIt) {
     OpenReady();
-    EXPECT_EQ(QSize(64, 36), In<PictureView>(*F, "pvwFilm").Picture().size());
+    EXPECT_EQ(QSize(640, 360), In<PictureView>(*F, "pvwFilm").Picture().size());
     Tick("chkBeside");
     Press(*F, "cmdMake");
     ASSERT_TRUE(IsMade());
@@ -34,8 +34,7 @@ TEST_F(FilmOfWindow, IsAFileWithItsSubtitlesBesideIt) {
 
 TEST_F(FilmOfWindow, LeavesNothingWhenItIsStopped) {
     clsSettings Settings = OpenMemory();
-    PutText(Settings, Setting::FilmSize, u"1920x1080"_s);
-    PutDecimal(Settings, Setting::Timeout, 600);
+    PutDecimal(Settings, Setting::Timeout, 300);
     Settings.Save();
     OpenFilm();
     Press(*F, "cmdMake");
