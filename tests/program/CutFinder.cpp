@@ -65,7 +65,9 @@ QString OfChoice(const QComboBox& Box) {
 }
 
 QString OfField(const QLineEdit& Field) {
-    if (qobject_cast<const QComboBox*>(Field.parentWidget())) return {};
+    if (qobject_cast<const QComboBox*>(Field.parentWidget()) ||
+        qobject_cast<const QAbstractSpinBox*>(Field.parentWidget()))
+        return {};
     if (const QString Low = Needs(Field, {0, Field.sizeHint().height()}); !Low.isEmpty())
         return Low;
     const int Room =

@@ -28,11 +28,13 @@ const char* WordsOf(int Quality) {
         ->Words;
 }
 
-QString SizeText(const FilmSizeRow& Row) {
-    return QStringLiteral("%1 (%2 x %3)")
-        .arg(FilmChoices::tr(Row.Name))
-        .arg(Row.Size.width())
-        .arg(Row.Size.height());
+// "MP4 (H.264, AAC): televisions": what comes before the bracket is its name, the rest explains it.
+QString NameOf(const FilmFormatRow& Row) {
+    return FilmChoices::tr(Row.Name).section(QStringLiteral(" ("), 0, 0);
+}
+
+QString WordsOf(const FilmFormatRow& Row) {
+    return FilmChoices::tr(Row.Name).section(QStringLiteral(" ("), 1).remove(u')');
 }
 
 // The format that is chosen comes first: the dialog gives a name without an ending that of the
@@ -56,15 +58,15 @@ FilmChoices::FilmChoices(QWidget* Parent)
     mUi->setupUi(this);
     FillLists();
     Connect();
-    ShowQuality();
+    FormatChosen();
 }
 
 FilmChoices::~FilmChoices() = default;
 
 void FilmChoices::FillLists() {
     for (const FilmFormatRow& Each : FilmFormats())
-        mUi->cboFormat->addItem(tr(Each.Name), static_cast<int>(Each.Format));
-    for (const FilmSizeRow& Each : FilmSizes()) mUi->cboSize->addItem(SizeText(Each), Each.Size);
+        mUi->cboFormat->addItem(NameOf(Each), static_cast<int>(Each.Format));
+    for (const FilmSizeRow& Each : FilmSizes()) mUi->cboSize->addItem(tr(Each.Name), Each.Size);
     mUi->cboSize->addItem(tr("Another size"), QSize());
     for (const int Each : FilmRates()) mUi->cboRate->addItem(QString::number(Each), Each);
 }
@@ -178,6 +180,7 @@ void FilmChoices::FileTyped() {
 
 void FilmChoices::FormatChosen() {
     mUi->sdrQuality->setEnabled(Format() != FilmFormat::Lossless);
+    mUi->lblFormatWords->setText(WordsOf(RowOf(Format())));
     ShowQuality();
     const auto Its = FormatOfFilm(mUi->txtFile->text().trimmed());
     if (Its && *Its != Format())

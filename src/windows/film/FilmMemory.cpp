@@ -93,8 +93,7 @@ QString WithFilmEnding(const QString& Path, FilmFormat Format) {
     if (Name.isEmpty()) return Path;
     const auto Its = FormatOfFilm(Name);
     if (Its == Format) return Path;
-    if (Its)
-        return Path.chopped(qsizetype(std::strlen(RowOf(*Its).Ending))) + Ending;
+    if (Its) return Path.chopped(qsizetype(std::strlen(RowOf(*Its).Ending))) + Ending;
     return OfLetters.match(Name).hasMatch() ? Path : Path + Ending;
 }
 

@@ -171,9 +171,9 @@ void frmFilm::ShowPhase() {
     const bool IsHere =
         isAncestorOf(Focus) && (Now != Phase::Choosing || !mUi->fchFilm->isEnabled());
     mUi->fchFilm->setEnabled(Now == Phase::Choosing);
+    mUi->fraChoices->setVisible(Now == Phase::Choosing);  // the picture has their room
     mUi->fraProgress->setVisible(Runs);
     mUi->fraFindings->setVisible(!Runs);
-    mUi->lblExpected->setVisible(Now == Phase::Choosing);
     mUi->cmdMake->setVisible(Now == Phase::Choosing);
     mUi->cmdStop->setVisible(Runs);
     mUi->cmdStop->setEnabled(Now == Phase::Making);

@@ -23,7 +23,7 @@ const struct {
     {u"frmQuickShow", WindowAsks::Lines, false},
     {u"frmSlideMgrBulk", WindowAsks::Lines, false},
     {u"frmRehearsal", WindowAsks::Lines, false},
-    {u"frmFilm", WindowAsks::Lines, false},
+    {u"frmFilm", WindowAsks::Picture, false},
     {u"frmAlbumView", WindowAsks::Lines, false},
     {u"frmSlideShowView", WindowAsks::Lines, false},
     {u"frmHelp", WindowAsks::Lines, true},

@@ -120,9 +120,7 @@ class FilmRig : public ManagerRig {
   protected:
     FilmRig() {
         TheOpeners().SlideOfShow = &ShowSlideInManager;
-        clsSettings Settings = OpenMemory();
-        PutText(Settings, Setting::FilmFolder, Out.Path());
-        Settings.Save();
+        RememberFolder();
         AddAlbumSlides({u"a"_s, u"b"_s, u"c"_s, u"d"_s, u"e"_s});
         ShowID = AddShow(u"Walk"_s, {3, 1, 5});
         AddTrack(ShowID, 1, 2, 3, u"none.mp3"_s);
@@ -133,6 +131,11 @@ class FilmRig : public ManagerRig {
         TheOpeners().SlideOfShow = {};
     }
 
+    void RememberFolder() {
+        clsSettings Settings = OpenMemory();
+        PutText(Settings, Setting::FilmFolder, Out.Path());
+        Settings.Save();
+    }
     frmFilm& OpenFilm(std::int32_t Of = 0) {
         Films.push_back(NewForm<frmFilm>());
         F = Films.back().get();

@@ -43,7 +43,7 @@ TEST_F(FilmWindow, TheMouseMakesOneShowsItsFolderAndMakesAnother) {
     Press(*F, "cmdAnother");
     EXPECT_TRUE(Chooses());
     EXPECT_TRUE(In<QWidget>(*F, "fchFilm").isEnabled());
-    EXPECT_GE(Findings().Rows(), 1) << "the problems of the show again";
+    EXPECT_TRUE(Waits([&] { return Findings().Rows() > 0; })) << "the problems of the show again";
     TypeFile(Out / u"Second.mp4"_s);
     Press(*F, "cmdMake");
     ASSERT_TRUE(IsMade());
@@ -67,18 +67,20 @@ TEST_F(FilmWindow, PictureAndProgressMoveWhileItIsMade) {
     EXPECT_FALSE(In<QWidget>(*F, "fchFilm").isEnabled());
     EXPECT_FALSE(IsShown("flxFindings")) << "the picture has its room";
     const auto& Preview = In<PictureView>(*F, "pvwFilm");
-    ASSERT_TRUE(Waits([&] { return Preview.Picture().pixelColor(0, 0).hsvHue() == 20; }));
+    const auto HasHue = [&](int Hue) {
+        return std::abs(Preview.Picture().pixelColor(0, 0).hsvHue() - Hue) <= 2;
+    };
+    ASSERT_TRUE(Waits([&] { return HasHue(20); }));
     EXPECT_LE(Preview.Picture().width(), Preview.width() * Preview.devicePixelRatioF());
     const int Bar = In<QProgressBar>(*F, "pgbFilm").value();
     const QString Title = F->windowTitle();
     EXPECT_TRUE(Title.endsWith(u"% - Film - Walk"_s)) << Title.toStdString();
-    Maker.Until = 45;
-    EXPECT_TRUE(Waits([&] { return Text("lblWritten") == u"45 MB written"_s; }));
-    EXPECT_EQ("Slide 3 of 3", Text("lblCount"));
+    Maker.Until = 25;
+    EXPECT_TRUE(Waits([&] { return Text("lblWritten") == u"25 MB written"_s; }));
+    EXPECT_EQ("Slide 3 of 3", Text("lblCount").toStdString());
     EXPECT_GT(In<QProgressBar>(*F, "pgbFilm").value(), Bar);
     EXPECT_NE(Title, F->windowTitle());
-    EXPECT_TRUE(
-        Waits([&] { return Preview.Picture().pixelColor(0, 0).hsvHue() == 45 * 20 % 360; }));
+    EXPECT_TRUE(Waits([&] { return HasHue(25 * 20 % 360); }));
 }
 
 TEST_F(FilmWindow, WhatWasMadeInAMomentIsStoppedAtOnce) {
@@ -90,7 +92,7 @@ TEST_F(FilmWindow, WhatWasMadeInAMomentIsStoppedAtOnce) {
     EXPECT_FALSE(FileExists(Walk()));
     EXPECT_TRUE(In<QWidget>(*F, "fchFilm").isEnabled());
     EXPECT_EQ("Film - Walk", F->windowTitle().toStdString());
-    EXPECT_EQ(0, Text("lblSummary").indexOf(u"3 slides"_s));
+    EXPECT_TRUE(Waits([&] { return Text("lblSummary").startsWith(u"3 slides"_s); }));
     EXPECT_EQ(FakeMaker::Frame(Qt::blue), In<PictureView>(*F, "pvwFilm").Picture());
 }
 
@@ -244,6 +246,7 @@ TEST_F(FilmWindow, WhatIsDoneToTheShowDoesNotDisturbAFilmOfIt) {
 
 TEST_F(FilmWindow, FilmsAreMadeOfADatabaseThatCannotBeChanged) {
     ReadOnlyDB = true;
+    RememberFolder();  // what is remembered lies elsewhere then
     const auto Before = Everything(Engine.DBPath());
     OpenReady();
     Press(*F, "cmdMake");
