@@ -89,8 +89,8 @@ class Bench {
         Speeds.DelayL = Speeds.DelayM = Speeds.DelayH = 100;
         Speeds.StepL = Speeds.StepM = Speeds.StepH = 1;
         PutSpeeds(Settings, Speeds);
-        Settings.PutValue({}, QStringLiteral("UseEffectLevel"), QStringLiteral("False"));
-        Settings.PutValue({}, QStringLiteral("Timeout"), QString::number(Each));
+        PutText(Settings, Setting::UseEffectLevel, QStringLiteral("False"));
+        PutText(Settings, Setting::Timeout, QString::number(Each));
         for (std::int32_t Place = 1; Place <= EffectPlaces; ++Place)
             PutEffectSelected(Settings, Place,
                               std::any_of(std::begin(Effects), std::end(Effects),

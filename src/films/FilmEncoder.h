@@ -49,7 +49,8 @@ constexpr int FilmSoundRate = 44100;
 // Where the bytes go. Each call comes on the thread of whoever calls the encoder.
 struct FilmSink {
     std::function<bool(const std::uint8_t* Bytes, std::size_t Count)> Write;  // at the place
-    std::function<bool(std::int64_t Place)> Seek;  // from the start; up to the end
+    // From the start; beyond the end, too, of a film that is moved up before its index goes in.
+    std::function<bool(std::int64_t Place)> Seek;
     // What was written; bytes read, 0 at the end, below 0 where that fails.
     std::function<std::ptrdiff_t(std::int64_t Place, std::uint8_t* Into, std::size_t Count)> Read;
 };

@@ -90,9 +90,10 @@ TEST_F(FilmTool, ListsWhatIsWrongFirstAndWhatIsMissingInTheFilm) {
     const ToolRun Result = Film();
     EXPECT_EQ(ExitFound, Result.Code);
     EXPECT_EQ("", Result.Err);
-    const size_t Wrong =
-                     Result.Out.find("Problems of the show:\n  slide 2: the picture is missing"),
-                 Missing = Result.Out.find("Missing in the film:\n  slide 2"),
+    ASSERT_EQ(0U, Result.Out.find("Problems of the show:\n"));
+    const size_t Wrong = Result.Out.find("\n  slide 2: the picture is missing (NoSlide.bmp"),
+                 Missing =
+                     Result.Out.find("Missing in the film:\n  slide 2: the picture is missing"),
                  Made = Result.Out.find("film.mkv: 3 slides");
     EXPECT_LT(Wrong, Missing) << Result.Out;
     EXPECT_LT(Missing, Made);

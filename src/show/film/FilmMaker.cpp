@@ -11,6 +11,7 @@
 #include "show/film/FilmStage.h"
 #include "show/film/FilmWriter.h"
 #include "support/Fault.h"
+#include "support/work/LargeBlocks.h"
 
 namespace neb {
 namespace {
@@ -147,6 +148,7 @@ void Making::Begin() {
     Job<FilmSetup> Setup(
         [Plan = mPlan, Order = mOrder](JobState&) { return SetupOf(Plan, Order); });
     mWriter.emplace(mOrder.Path, AwaitForFilm<FilmSetup>(Setup, [this] { Wait(); }));
+    mWriter->SetMeanwhile([this] { Wait(); });
     if (mOrder.SubtitleFile) mWriter->PutBeside(SubtitleText(SubtitlesOf(mPlan)));
 }
 
@@ -252,6 +254,7 @@ void Making::Report(double Seconds) {
 FilmReport MakeFilm(clsDBEngine& Copy, const FilmOrder& Order, const FilmPlan& Plan,
                     const FilmWatch& Watch) {
     if (Plan.Log.Cues.empty()) ThrowEmpty(Plan.Log, Order);
+    GiveLargeBlocksBack();
     return Making(Copy, Order, Plan, Watch).Make();
 }
 

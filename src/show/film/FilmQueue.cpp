@@ -3,7 +3,8 @@
 namespace neb {
 namespace {
 
-constexpr qint64 MostBytes = 64 << 20;  // eight frames of 1920 by 1080
+constexpr qint64 MostBytes = 20 << 20;  // two frames of 1920 by 1080, and sound
+constexpr std::chrono::milliseconds BetweenCalls(50);
 
 qint64 BytesOf(const FilmPiece& Piece) {
     return Piece.Frame.sizeInBytes() + static_cast<qint64>(Piece.Sound.size() * sizeof(float));
@@ -11,15 +12,26 @@ qint64 BytesOf(const FilmPiece& Piece) {
 
 }  // namespace
 
-void FilmQueue::Add(FilmPiece Piece) {
+void FilmQueue::Add(FilmPiece Piece, const std::function<void()>& Meanwhile) {
     const qint64 Bytes = BytesOf(Piece);
     std::unique_lock Lock(mMutex);
     if (Joins(Piece)) return;
-    mChanged.wait(Lock, [&] { return mProblem || mGivenUp || HasRoomFor(Bytes); });
+    AwaitRoom(Lock, Bytes, Meanwhile);
     ThrowFault();
     mBytes += Bytes;
     mPieces.push_back(std::move(Piece));
     mChanged.notify_all();
+}
+
+// On a disk that hangs there never will be any.
+void FilmQueue::AwaitRoom(std::unique_lock<std::mutex>& Lock, qint64 Bytes,
+                          const std::function<void()>& Meanwhile) {
+    const auto Goes = [&] { return mProblem || mGivenUp || HasRoomFor(Bytes); };
+    while (!mChanged.wait_for(Lock, BetweenCalls, Goes)) {
+        Lock.unlock();
+        if (Meanwhile) Meanwhile();
+        Lock.lock();
+    }
 }
 
 // Sound in between keeps them apart, and with it within reach of its frames.

@@ -7,6 +7,7 @@
 #include <chrono>
 #include <condition_variable>
 #include <deque>
+#include <functional>
 #include <mutex>
 #include <optional>
 #include <vector>
@@ -26,9 +27,9 @@ class FilmQueue {
     // MostJoined: so many frames that are the same picture become one piece.
     explicit FilmQueue(int MostJoined) : mMostJoined(MostJoined) {}
 
-    // Waits while it is full; a single piece may be larger than all that it takes otherwise. Throws
-    // the fault of the other side.
-    void Add(FilmPiece Piece);
+    // Waits while it is full, and calls Meanwhile again and again, which may throw; a single piece
+    // may be larger than all that it takes otherwise. Throws the fault of the other side.
+    void Add(FilmPiece Piece, const std::function<void()>& Meanwhile = {});
     // For the other side: waits for the next piece; nothing when it is given up.
     std::optional<FilmPiece> Take();
     void Fail(const Fault& Problem);  // of the other side, unless it was given up
@@ -40,6 +41,8 @@ class FilmQueue {
   private:
     bool Joins(const FilmPiece& Piece);
     bool HasRoomFor(qint64 Bytes) const;
+    void AwaitRoom(std::unique_lock<std::mutex>& Lock, qint64 Bytes,
+                   const std::function<void()>& Meanwhile);
     void Drop();
     void ThrowFault() const;
 

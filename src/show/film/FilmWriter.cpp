@@ -109,15 +109,15 @@ void FilmWriter::PutBeside(const QByteArray& Subtitles) {
 void FilmWriter::AddFrame(const QImage& Frame, int Count) {
     if (Frame.size() != mWork->Size || Frame.format() != QImage::Format_RGB32)
         throw Fault(QStringLiteral("A frame is of another kind than the film."), mWork->Path);
-    if (Count > 0) mWork->Queue.Add({Frame, Count, {}});
+    if (Count > 0) mWork->Queue.Add({Frame, Count, {}}, mMeanwhile);
 }
 
 void FilmWriter::AddSound(std::vector<float> Samples) {
-    if (!Samples.empty()) mWork->Queue.Add({{}, 1, std::move(Samples)});
+    if (!Samples.empty()) mWork->Queue.Add({{}, 1, std::move(Samples)}, mMeanwhile);
 }
 
 bool FilmWriter::Finish(const std::function<bool()>& GoesOn) {
-    mWork->Queue.Add({});
+    mWork->Queue.Add({}, mMeanwhile);
     bool IsWanted = true;
     while (!mWork->Queue.HasEnded(BetweenQuestions)) {
         if (!IsWanted || !GoesOn || GoesOn()) continue;

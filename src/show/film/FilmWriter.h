@@ -37,6 +37,9 @@ class FilmWriter {
     // while; where it says no the answer may be false: the film was given up, and nothing of it is
     // left.
     bool Finish(const std::function<bool()>& GoesOn = {});
+    // Called again and again while AddFrame and AddSound wait: on a disk that hangs they wait for
+    // ever. What it throws comes out of them, and nothing but the end may follow.
+    void SetMeanwhile(std::function<void()> Do) { mMeanwhile = std::move(Do); }
     qint64 BytesWritten() const;  // so far; on any thread
 
   private:
@@ -45,6 +48,7 @@ class FilmWriter {
 
     std::shared_ptr<Work> mWork;  // with the thread
     std::unique_ptr<LeftThread> mThread;
+    std::function<void()> mMeanwhile;
 };
 
 // The film's own encoder, from the module; loaded once. Throws Fault where that is not there.

@@ -103,8 +103,7 @@ void FileInTheMaking::Write(const char* Data, qint64 Length) {
 }
 
 void FileInTheMaking::Seek(qint64 Place) {
-    if (Place < 0 || Place > mState->End)
-        FailWrite(mState->Path, QStringLiteral("There is no such place in it."));
+    if (Place < 0) FailWrite(mState->Path, QStringLiteral("There is no such place in it."));
     mState->Place = Place;
 }
 

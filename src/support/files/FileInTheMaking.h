@@ -21,7 +21,8 @@ class FileInTheMaking {
 
     // At the place where the last call ended, or where Seek has put it.
     void Write(const char* Data, qint64 Length);
-    void Seek(qint64 Place);  // bytes from the start, up to the end
+    // Bytes from the start; what is skipped beyond the end is zeros until it is written.
+    void Seek(qint64 Place);
     // Bytes read, fewer at the end alone. The place of writing stays.
     qint64 Read(qint64 Place, char* Into, qint64 MaxLength);
     qint64 Length() const;  // bytes, so far

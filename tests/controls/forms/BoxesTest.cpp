@@ -11,6 +11,7 @@
 #include "controls/forms/ScreenPointer.h"
 #include "controls/forms/TestForm.h"
 #include "controls/forms/frmMsgBoxEx.h"
+#include "harness/AwaitActive.h"
 #include "harness/TempFolder.h"
 #include "support/files/modHostFiles.h"
 
@@ -121,6 +122,7 @@ TEST_F(Boxes, DetailsOfAMessageAreOpenAtOnce) {
         const auto* Details = Box.findChild<QTextEdit*>();
         ASSERT_NE(nullptr, Details);
         EXPECT_TRUE(Details->isVisible());
+        ASSERT_TRUE(harness::AwaitActive(Box));
         EXPECT_TRUE(Box.button(QMessageBox::Ok)->hasFocus());
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     });

@@ -272,12 +272,19 @@ TEST_F(FilmFileTest, IsReadAndWrittenAtAnyPlace) {
         EXPECT_EQ("c56789", QByteArray(Bytes, 6));
         EXPECT_EQ(0, File.Read(10, Bytes, 20));
         EXPECT_EQ(10, File.Length());
-        EXPECT_THROW(File.Seek(11), Fault);
+        File.Seek(12);
+        File.Write("d", 1);
+        EXPECT_EQ(3, File.Read(10, Bytes, 20));
+        EXPECT_EQ(QByteArray("\0\0d", 3), QByteArray(Bytes, 3));
+        EXPECT_EQ(13, File.Length());
+        File.Seek(10);
+        File.Write("ef", 2);
+        EXPECT_EQ(13, File.Length());
         EXPECT_THROW(File.Seek(-1), Fault);
         File.Sync();
         File.TakeName();
     }
-    EXPECT_EQ("01abc56789", ReadFile(Path));
+    EXPECT_EQ("01abc56789efd", ReadFile(Path));
 }
 
 }  // namespace

@@ -83,9 +83,24 @@ TEST_F(FilmWriterTest, LetsTheDrawingWaitForASlowEncoder) {
     Drawing.get();
     Writer.Finish();
     // those that wait, the one in the encoder, the one that finds no room
-    EXPECT_EQ(16 + 1 + 1, MostAlive);
+    EXPECT_EQ(5 + 1 + 1, MostAlive);
     EXPECT_EQ(0, Alive);
     EXPECT_EQ(60, Seen->Noted().filter(u"frame"_s).size());
+}
+
+TEST_F(FilmWriterTest, AsksWhoeverWaitsWhetherToGoOn) {
+    Seen->Hold();
+    FilmWriter Writer(Path, SquareFilm(1024));
+    int Asked = 0;
+    Writer.SetMeanwhile([&Asked] {
+        if (++Asked == 2) throw Fault(u"Nobody wants it."_s);
+    });
+    const auto Draw = [&] {
+        for (int I = 0; I < 60; ++I) Writer.AddFrame(CountedFrame(1024));
+    };
+    EXPECT_THROW(Draw(), Fault);
+    EXPECT_EQ(2, Asked);
+    Seen->GoOn();
 }
 
 TEST_F(FilmWriterTest, TakesFramesThatAreLargerThanAllThatMayWait) {
