@@ -189,13 +189,23 @@ TEST(Mp4Film, BeginsWithItsIndexSoThatItPlaysWhileItComes) {
     EXPECT_EQ(Text(Probe(Film).Stream("video"), "profile"), QStringLiteral("High"));
 }
 
+struct LevelCase {
+    int Width, Height, Rate, Most;
+};
+
 TEST(Mp4Film, HasALevelThatTelevisionsKnow) {
-    FilmSetup Setup = SmallFilm(FilmFormat::Mp4);
-    Setup.Width = 1920;
-    Setup.Height = 1080;
-    Setup.Rate = 30;
-    const auto Film = MakeFilm(Setup, {.Seconds = 0.2, .Count = 6});
-    EXPECT_LE(Probe(Film).Stream("video")[QStringLiteral("level")].toInt(), 42);
+    for (const LevelCase& Case : {LevelCase{1280, 720, 60, 42}, LevelCase{1920, 1080, 30, 41},
+                                  LevelCase{1920, 1080, 50, 42}, LevelCase{1920, 1080, 60, 42},
+                                  LevelCase{1080, 1920, 60, 42}, LevelCase{3840, 2160, 30, 51},
+                                  LevelCase{3840, 2160, 60, 52}}) {
+        FilmSetup Setup = SmallFilm(FilmFormat::Mp4);
+        Setup.Width = Case.Width;
+        Setup.Height = Case.Height;
+        Setup.Rate = Case.Rate;
+        const auto Film = MakeFilm(Setup, {.Seconds = 0.1, .Count = 6});
+        EXPECT_LE(Probe(Film).Stream("video")[QStringLiteral("level")].toInt(), Case.Most)
+            << Case.Width << 'x' << Case.Height << ' ' << Case.Rate;
+    }
 }
 
 }  // namespace
