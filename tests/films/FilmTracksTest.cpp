@@ -189,6 +189,22 @@ TEST(Mp4Film, BeginsWithItsIndexSoThatItPlaysWhileItComes) {
     EXPECT_EQ(Text(Probe(Film).Stream("video"), "profile"), QStringLiteral("High"));
 }
 
+// The list that players without chapter tracks read: a byte of length before each title.
+TEST(Mp4Film, CutsNoCharacterOfALongChapterInHalves) {
+    FilmSetup Setup = SmallFilm(FilmFormat::Mp4);
+    std::string Long;
+    for (int Index = 0; Index < 400; ++Index) Long += "ä";
+    Setup.Chapters = {{0, 1, Long}, {1, 2, "Der Teich"}};
+    const auto Film = MakeFilm(Setup);
+    const std::string_view Bytes(reinterpret_cast<const char*>(Film.data()), Film.size());
+    const std::size_t List = Bytes.find("chpl"), Length = List + 4 + 9 + 8;
+    ASSERT_NE(List, std::string_view::npos);
+    const auto Size = static_cast<std::uint8_t>(Bytes[Length]);
+    const std::string_view Title = Bytes.substr(Length + 1, Size);
+    EXPECT_EQ(Title, Long.substr(0, 254)) << "127 characters of two bytes";
+    EXPECT_EQ(Bytes.substr(Length + 1 + Size + 9, 9), "Der Teich");
+}
+
 struct LevelCase {
     int Width, Height, Rate, Most;
 };
