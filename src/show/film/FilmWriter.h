@@ -35,13 +35,14 @@ class FilmWriter {
     void AddSound(std::vector<float> Samples);
     // Waits for the encoder; the film is on the disk, under its name. GoesOn is asked all the
     // while; where it says no the answer may be false: the film was given up, and nothing of it is
-    // left.
+    // left, or goes as soon as a disk that hangs lets it.
     bool Finish(const std::function<bool()>& GoesOn = {});
     qint64 BytesWritten() const;  // so far; on any thread
 
   private:
     struct Work;
     void Begin();
+    void GiveUp();
 
     std::shared_ptr<Work> mWork;  // with the thread
     std::unique_ptr<LeftThread> mThread;
