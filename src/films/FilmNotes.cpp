@@ -1,5 +1,6 @@
 #include "films/FilmNotes.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 
@@ -19,13 +20,23 @@ void Note(AVDictionary*& Notes, const char* Name, const std::string& Value) {
     if (!Value.empty()) Tried(av_dict_set(&Notes, Name, Value.c_str(), 0), "A film's note");
 }
 
+// Some players read chapters from a list with a byte of length before each title, and what is
+// longer would be cut in the middle of a character there.
+constexpr std::size_t LongestTitle = 255;
+
+std::string Shortened(const std::string& Title) {
+    std::size_t Size = std::min(Title.size(), LongestTitle);
+    while (Size > 0 && Size < Title.size() && (Title[Size] & 0xC0) == 0x80) --Size;
+    return Title.substr(0, Size);
+}
+
 Av<AVChapter> MakeChapter(const FilmChapter& Chapter, int ID) {
     auto Made = Had(static_cast<AVChapter*>(av_mallocz(sizeof(AVChapter))));
     Made->id = ID;
     Made->time_base = Microseconds;
     Made->start = InMicroseconds(Chapter.At);
     Made->end = InMicroseconds(std::max(Chapter.At, Chapter.Until));
-    Note(Made->metadata, "title", Chapter.Title);
+    Note(Made->metadata, "title", Shortened(Chapter.Title));
     return Made;
 }
 

@@ -75,10 +75,20 @@ std::string Crf(const FilmSetup& Setup, double Step) {
     return std::to_string(std::round(Crf / Step) * Step);
 }
 
-// What a television still reads of such a size and rate; the level follows from it.
+// What the players of such films read at most: a television of Full HD knows nothing beyond the
+// level 4.2, one of Ultra HD nothing beyond 5.2, and a film that could need more bits a second than
+// its level has is marked with a higher one, which they refuse. The first row that has the pixels.
+struct LevelRow {
+    std::int64_t PixelsASecond, Bits;
+};
+constexpr LevelRow Levels[] = {
+    {522'240 * 256, 62'500'000}, {2'073'600 * 256, 300'000'000}, {INT64_MAX, 1'000'000'000}};
+
 std::int64_t MostBits(const FilmSetup& Setup) {
-    return std::max<std::int64_t>(4'000'000,
-                                  std::int64_t{Setup.Width} * Setup.Height * Setup.Rate * 4 / 5);
+    const std::int64_t Pixels = std::int64_t{Setup.Width} * Setup.Height * Setup.Rate;
+    const LevelRow& Level = *std::ranges::find_if(
+        Levels, [&](const LevelRow& Row) { return Pixels <= Row.PixelsASecond; });
+    return std::clamp<std::int64_t>(Pixels * 4 / 5, 4'000'000, Level.Bits);
 }
 
 // The encoder's widest instructions take eight blocks of 16 pixels at once, and what lies behind

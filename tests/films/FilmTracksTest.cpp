@@ -189,13 +189,39 @@ TEST(Mp4Film, BeginsWithItsIndexSoThatItPlaysWhileItComes) {
     EXPECT_EQ(Text(Probe(Film).Stream("video"), "profile"), QStringLiteral("High"));
 }
 
-TEST(Mp4Film, HasALevelThatTelevisionsKnow) {
+// The list that players without chapter tracks read: a byte of length before each title.
+TEST(Mp4Film, CutsNoCharacterOfALongChapterInHalves) {
     FilmSetup Setup = SmallFilm(FilmFormat::Mp4);
-    Setup.Width = 1920;
-    Setup.Height = 1080;
-    Setup.Rate = 30;
-    const auto Film = MakeFilm(Setup, {.Seconds = 0.2, .Count = 6});
-    EXPECT_LE(Probe(Film).Stream("video")[QStringLiteral("level")].toInt(), 42);
+    std::string Long;
+    for (int Index = 0; Index < 400; ++Index) Long += "ä";
+    Setup.Chapters = {{0, 1, Long}, {1, 2, "Der Teich"}};
+    const auto Film = MakeFilm(Setup);
+    const std::string_view Bytes(reinterpret_cast<const char*>(Film.data()), Film.size());
+    const std::size_t List = Bytes.find("chpl"), Length = List + 4 + 9 + 8;
+    ASSERT_NE(List, std::string_view::npos);
+    const auto Size = static_cast<std::uint8_t>(Bytes[Length]);
+    const std::string_view Title = Bytes.substr(Length + 1, Size);
+    EXPECT_EQ(Title, Long.substr(0, 254)) << "127 characters of two bytes";
+    EXPECT_EQ(Bytes.substr(Length + 1 + Size + 9, 9), "Der Teich");
+}
+
+struct LevelCase {
+    int Width, Height, Rate, Most;
+};
+
+TEST(Mp4Film, HasALevelThatTelevisionsKnow) {
+    for (const LevelCase& Case : {LevelCase{1280, 720, 60, 42}, LevelCase{1920, 1080, 30, 41},
+                                  LevelCase{1920, 1080, 50, 42}, LevelCase{1920, 1080, 60, 42},
+                                  LevelCase{1080, 1920, 60, 42}, LevelCase{3840, 2160, 30, 51},
+                                  LevelCase{3840, 2160, 60, 52}}) {
+        FilmSetup Setup = SmallFilm(FilmFormat::Mp4);
+        Setup.Width = Case.Width;
+        Setup.Height = Case.Height;
+        Setup.Rate = Case.Rate;
+        const auto Film = MakeFilm(Setup, {.Seconds = 0.1, .Count = 6});
+        EXPECT_LE(Probe(Film).Stream("video")[QStringLiteral("level")].toInt(), Case.Most)
+            << Case.Width << 'x' << Case.Height << ' ' << Case.Rate;
+    }
 }
 
 }  // namespace

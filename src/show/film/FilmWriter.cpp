@@ -12,6 +12,7 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto BetweenQuestions = 50ms;
+constexpr auto Moments = 1000ms;
 
 // Sound and frames are to keep within a second of each other.
 int MostJoined(const FilmSetup& Setup) {
@@ -98,8 +99,12 @@ void FilmWriter::Begin() {
 // The encoder may be busy for long with what it has, and the disk may hang: the file goes at once
 // where the disk lets it, and nobody waits for more than moments.
 FilmWriter::~FilmWriter() {
+    if (!mWork->IsMade) GiveUp();
+}
+
+void FilmWriter::GiveUp() {
     mWork->Queue.GiveUp();
-    if (!mWork->IsMade) LeftThread([Mine = mWork] { Mine->Target->GiveUp(); });
+    LeftThread([Mine = mWork] { Mine->Target->GiveUp(); });
 }
 
 void FilmWriter::PutBeside(const QByteArray& Subtitles) {
@@ -118,12 +123,12 @@ void FilmWriter::AddSound(std::vector<float> Samples) {
 
 bool FilmWriter::Finish(const std::function<bool()>& GoesOn) {
     mWork->Queue.Add({}, mMeanwhile);
-    bool IsWanted = true;
     while (!mWork->Queue.HasEnded(BetweenQuestions)) {
-        if (!IsWanted || !GoesOn || GoesOn()) continue;
-        IsWanted = false;
-        mWork->Queue.GiveUp();
-        mWork->Target->GiveUp();
+        if (!GoesOn || GoesOn()) continue;
+        GiveUp();
+        // it may have had its name a moment before
+        mWork->Queue.HasEnded(Moments);
+        break;
     }
     return mWork->IsMade;
 }

@@ -35,7 +35,7 @@ class FilmWriter {
     void AddSound(std::vector<float> Samples);
     // Waits for the encoder; the film is on the disk, under its name. GoesOn is asked all the
     // while; where it says no the answer may be false: the film was given up, and nothing of it is
-    // left.
+    // left, or goes as soon as a disk that hangs lets it.
     bool Finish(const std::function<bool()>& GoesOn = {});
     // Called again and again while AddFrame and AddSound wait: on a disk that hangs they wait for
     // ever. What it throws comes out of them, and nothing but the end may follow.
@@ -45,6 +45,7 @@ class FilmWriter {
   private:
     struct Work;
     void Begin();
+    void GiveUp();
 
     std::shared_ptr<Work> mWork;  // with the thread
     std::unique_ptr<LeftThread> mThread;

@@ -217,6 +217,27 @@ TEST_F(FilmWriterTest, DoesNotWaitForADiskThatHangs) {
     while (!Names().isEmpty() || !Seen->Noted().contains(u"gone"_s)) std::this_thread::yield();
 }
 
+TEST_F(FilmWriterTest, CanBeStoppedWhileTheDiskHangsAtTheEnd) {
+    auto Disk = std::make_shared<Watched>();
+    auto Writer = std::make_unique<FilmWriter>(Path, SquareFilm(4));
+    SetHostWatcher([Disk](HostStep Step, const QString&, qint64&) {
+        if (Step == HostStep::Sync) Disk->Pass();
+    });
+    Disk->Hold();
+    Writer->AddFrame(Frame(4, One));
+    const auto NotAnyMore = [&] {
+        Disk->AwaitInside();
+        return false;
+    };
+    auto Finishing = std::async(std::launch::async, [&] { return Writer->Finish(NotAnyMore); });
+    const bool CameBack = Finishing.wait_for(30s) == std::future_status::ready;
+    EXPECT_TRUE(CameBack);
+    if (CameBack) Writer.reset();
+    Disk->GoOn();
+    EXPECT_FALSE(Finishing.get());
+    while (!Names().isEmpty() || !Seen->Noted().contains(u"gone"_s)) std::this_thread::yield();
+}
+
 TEST_F(FilmWriterTest, CanBeStoppedWhileTheEncoderFinishes) {
     FilmWriter Writer(Path, SquareFilm(4));
     Writer.AddFrame(Frame(4, One));
