@@ -246,5 +246,20 @@ TEST_F(FilmMakerPart, IsNotConcernedWithPicturesBehindItEither) {
     EXPECT_EQ("", TextsOf(Report.Faults));
 }
 
+// The show comes round to its first slide, which is not the film's.
+TEST_F(FilmMakerPart, IsNotConcernedWithPicturesBeforeItEither) {
+    AddPictures(3);
+    DeleteFile(PicturePath(Slide(1).SlideID));
+    DeleteFile(AppPathCache + u"NoSlide.bmp"_s);
+    Order.First = 2;
+    Order.Size = {1280, 720};  // so that the captions fit
+    const FilmPlan Planned = Plan();
+    EXPECT_EQ("", TextsOf(Planned.Sheet.Findings.Problems));
+    EXPECT_EQ(RehearsalEnd::CameRound, Planned.Sheet.End);
+    const FilmReport Report = Make(Planned);
+    EXPECT_EQ("2@0 3@1 ", PlacesOf(Report));
+    EXPECT_EQ("", TextsOf(Report.Faults));
+}
+
 }  // namespace
 }  // namespace neb::test
