@@ -197,6 +197,20 @@ TEST_F(FilmMakerFault, OfAShowThatStopsEndsTheFilmThere) {
     EXPECT_EQ(2, Report.Faults.front().SlideSeq);
 }
 
+TEST_F(FilmMakerFault, OfAShowThatStopsAtADamagedPictureEndsTheChaptersToo) {
+    AddPictures(3);
+    QByteArray Damaged = ReadFile(PicturePath(Slide(2).SlideID));
+    Damaged.truncate(Damaged.size() / 2);
+    WriteFile(PicturePath(Slide(2).SlideID), Damaged);
+    Make();
+    EXPECT_EQ(3u, Film->Setup.Chapters.size());
+    EXPECT_EQ(90u, Film->Frames.size());
+    DeleteFile(AppPathCache + u"NoSlide.bmp"_s);
+    Make();
+    EXPECT_EQ(1u, Film->Setup.Chapters.size());
+    EXPECT_EQ(30u, Film->Frames.size());
+}
+
 TEST_F(FilmMakerFault, IsThrownWhereNothingComesUp) {
     const auto Thrown = [this] {
         try {
