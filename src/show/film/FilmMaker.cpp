@@ -162,11 +162,9 @@ void Making::Film() {
     Report(mTotal);
 }
 
-// The slide that was to come up when the show stopped by itself; 0: none that the film wants.
+// The slide that was to come up when the show stopped by itself; 0: it did not.
 std::int32_t Making::StopsBefore(RehearsalEnd End) {
-    const std::int32_t Next = mRun.Run().Memory().CurrentSlideSeq;
-    const bool IsOfFilm = mOrder.Last == 0 || Next <= mOrder.Last;
-    return End == RehearsalEnd::Stopped && IsOfFilm ? Next : 0;
+    return End == RehearsalEnd::Stopped ? mRun.Run().Memory().CurrentSlideSeq : 0;
 }
 
 void Making::Finish() {

@@ -3,6 +3,8 @@
 #include "pictures/ImgX.h"
 #include "pictures/JpegWriter.h"
 #include "pictures/PictureKeeping.h"
+#include "pictures/PictureOfFile.h"
+#include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 
 namespace neb {
@@ -63,6 +65,15 @@ QByteArray LinesOf(const std::string& Text) {
     return Lines;
 }
 
+bool CanBeRead(const QString& Path) {
+    try {
+        PictureOfFile(Path);
+        return true;
+    } catch (const Fault&) {
+        return false;
+    }
+}
+
 }  // namespace
 
 FilmPlan PlanFilm(clsDBEngine& Copy, const FilmOrder& Order,
@@ -71,6 +82,8 @@ FilmPlan PlanFilm(clsDBEngine& Copy, const FilmOrder& Order,
     Options.GoesOn = GoesOn;
     Options.First = Order.First;
     Options.Last = Order.Last;
+    // Without the stand-in a damaged picture ends the show, and the film has no more chapters.
+    if (!CanBeRead(AppPath() + QStringLiteral("NoSlide.bmp"))) Options.CanReadPicture = CanBeRead;
     FilmPlan Plan;
     const QSize Captions = Order.CaptionsInPicture ? Order.Size : QSize();
     Plan.Sheet = MakeRehearsalSheet(Copy, Captions, Options, &Plan.Log);

@@ -95,7 +95,8 @@ RehearsalEnd Rehearsal::RunRound() {
         if (!mRoundIsOver && !GoesOn()) return RehearsalEnd::GivenUp;
     }
     if (mRoundIsOver) return RehearsalEnd::CameRound;
-    return Timer1On() ? RehearsalEnd::TooLong : RehearsalEnd::Stopped;
+    if (Timer1On()) return RehearsalEnd::TooLong;
+    return IsRoundOver(PlaceOnItsWay()) ? RehearsalEnd::CameRound : RehearsalEnd::Stopped;
 }
 
 bool Rehearsal::GoesOn() const {
@@ -167,15 +168,15 @@ bool Rehearsal::ShowPicture(const QString& Path, const EffectChoice& Choice) {
 
 // The round is over when the show comes back to a place, or leaves the part of it that is wanted;
 // what that brings is the next round's.
-bool Rehearsal::IsRoundOver(const SlideSound& Slide) const {
+bool Rehearsal::IsRoundOver(std::int32_t SlideSeq) const {
     if (!mOneRound) return false;
-    const bool ComesRound = !mLog.Cues.empty() && Slide.SlideSeq <= mLog.Cues.back().SlideSeq;
-    return ComesRound || !mOptions.IsWanted(Slide.SlideSeq);
+    const bool ComesRound = !mLog.Cues.empty() && SlideSeq <= mLog.Cues.back().SlideSeq;
+    return ComesRound || !mOptions.IsWanted(SlideSeq);
 }
 
 // False when it is no longer the rehearsal's to tell.
 bool Rehearsal::SlideComesUp(const SlideSound& Slide) {
-    mRoundIsOver = IsRoundOver(Slide);
+    mRoundIsOver = IsRoundOver(Slide.SlideSeq);
     if (mRoundIsOver) return false;
     mNext.At = Now();
     mCueBegan = mClock.Milliseconds();

@@ -100,7 +100,7 @@ class Rehearsal : private ShowStage {
     RehearsalEnd RunRound();
     bool GoesOn() const;
     qint64 NextPress() const;
-    bool IsRoundOver(const SlideSound& Slide) const;
+    bool IsRoundOver(std::int32_t SlideSeq) const;
     bool SlideComesUp(const SlideSound& Slide);
     void SlideIsUp(const SlideSound& Slide, const ShowSoundFields& Fields);
     void NoteBox(RehearsalBoxFrom From, const QString& Text);

@@ -47,6 +47,8 @@ struct RehearsalCue {
     double SlideInterval = 0;  // seconds that it may stay up
     bool FitToSong = false;    // its track sets them
     CueSound Sound;
+
+    bool operator==(const RehearsalCue&) const = default;
 };
 
 enum class RehearsalSoundKind {

@@ -59,6 +59,7 @@ FilmChoices::FilmChoices(QWidget* Parent)
     FillLists();
     Connect();
     FormatChosen();
+    SizeChosen();
 }
 
 FilmChoices::~FilmChoices() = default;

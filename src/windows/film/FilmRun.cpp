@@ -36,17 +36,25 @@ struct FilmRun::Work {
     QSize Room;
 
     FilmReport Make(JobState& State);
+    void PlanAnew(JobState& State);
     bool Prepare(JobState& State);
     int PlaceOf(std::int32_t SlideSeq) const;
     void Note(const FilmProgress& SoFar);
     void Look(const QImage& Seen);
 };
 
+// By now the preferences may be others, and files too: chapters and subtitles go by the plan, and
+// must be those of the film that is made.
+void FilmRun::Work::PlanAnew(JobState& State) {
+    auto Now = std::make_shared<const FilmPlan>(
+        Works.Plan(*What.Copy, What.Order, [&](std::int32_t) { return !State.Stop.load(); }));
+    if (What.Plan && What.Plan->Log.Cues != Now->Log.Cues) What.Size.reset();
+    What.Plan = std::move(Now);
+}
+
 // What has not been found out yet is now. False: it was stopped.
 bool FilmRun::Work::Prepare(JobState& State) {
-    if (!What.Plan)
-        What.Plan = std::make_shared<const FilmPlan>(
-            Works.Plan(*What.Copy, What.Order, [&](std::int32_t) { return !State.Stop.load(); }));
+    PlanAnew(State);
     if (!What.Size && !State.Stop)
         What.Size = Works.Estimate(What.Order, *What.Plan, [&] { return !State.Stop; });
     if (State.Stop) return false;

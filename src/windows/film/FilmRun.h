@@ -21,7 +21,7 @@ struct FilmStep {
 struct FilmWanted {
     std::shared_ptr<clsDBEngine> Copy;  // its own
     FilmOrder Order;
-    std::shared_ptr<const FilmPlan> Plan;  // null, and no size: not known yet
+    std::shared_ptr<const FilmPlan> Plan;  // as far as it is known, and the size
     std::optional<qint64> Size;
 };
 

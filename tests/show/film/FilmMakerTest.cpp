@@ -197,6 +197,20 @@ TEST_F(FilmMakerFault, OfAShowThatStopsEndsTheFilmThere) {
     EXPECT_EQ(2, Report.Faults.front().SlideSeq);
 }
 
+TEST_F(FilmMakerFault, OfAShowThatStopsAtADamagedPictureEndsTheChaptersToo) {
+    AddPictures(3);
+    QByteArray Damaged = ReadFile(PicturePath(Slide(2).SlideID));
+    Damaged.truncate(Damaged.size() / 2);
+    WriteFile(PicturePath(Slide(2).SlideID), Damaged);
+    Make();
+    EXPECT_EQ(3u, Film->Setup.Chapters.size());
+    EXPECT_EQ(90u, Film->Frames.size());
+    DeleteFile(AppPathCache + u"NoSlide.bmp"_s);
+    Make();
+    EXPECT_EQ(1u, Film->Setup.Chapters.size());
+    EXPECT_EQ(30u, Film->Frames.size());
+}
+
 TEST_F(FilmMakerFault, IsThrownWhereNothingComesUp) {
     const auto Thrown = [this] {
         try {
@@ -243,6 +257,21 @@ TEST_F(FilmMakerPart, IsNotConcernedWithPicturesBehindItEither) {
     Order.Last = 1;
     const FilmReport Report = Make();
     EXPECT_EQ("1@0 ", PlacesOf(Report));
+    EXPECT_EQ("", TextsOf(Report.Faults));
+}
+
+// The show comes round to its first slide, which is not the film's.
+TEST_F(FilmMakerPart, IsNotConcernedWithPicturesBeforeItEither) {
+    AddPictures(3);
+    DeleteFile(PicturePath(Slide(1).SlideID));
+    DeleteFile(AppPathCache + u"NoSlide.bmp"_s);
+    Order.First = 2;
+    Order.Size = {1280, 720};  // so that the captions fit
+    const FilmPlan Planned = Plan();
+    EXPECT_EQ("", TextsOf(Planned.Sheet.Findings.Problems));
+    EXPECT_EQ(RehearsalEnd::CameRound, Planned.Sheet.End);
+    const FilmReport Report = Make(Planned);
+    EXPECT_EQ("2@0 3@1 ", PlacesOf(Report));
     EXPECT_EQ("", TextsOf(Report.Faults));
 }
 

@@ -116,6 +116,20 @@ TEST_F(FilmChoice, ASizeOfTheListStandsInTheFieldsAndAnotherBeginsThere) {
     EXPECT_EQ(1080, In<QSpinBox>(*F, "spnWidth").value());
 }
 
+TEST_F(FilmChoice, ASizeOfTheListThatIsRememberedStandsInTheFieldsToo) {
+    for (const FilmSizeRow& Each : FilmSizes()) {
+        FilmOrder Before = RememberedFilm();
+        Before.Size = Each.Size;
+        RememberFilm(Before);
+        OpenFilm();
+        EXPECT_EQ(QLatin1String(Each.Name), List("cboSize").currentText());
+        for (const char* Side : {"spnWidth", "spnHeight"})
+            EXPECT_FALSE(In<QSpinBox>(*F, Side).isEnabled()) << Each.Name;
+        EXPECT_EQ(Each.Size.width(), In<QSpinBox>(*F, "spnWidth").value());
+        EXPECT_TRUE(F->Unload());
+    }
+}
+
 TEST_F(FilmChoice, WhatNoFilmCanHaveIsToldAndTheWindowKeepsAllElse) {
     OpenReady();
     List("cboSize").setFocus();

@@ -51,7 +51,8 @@ class FakeMaker {
     }
     FilmOrder Last() { return Orders().back(); }
 
-    std::atomic<double> Until = 1e9;  // seconds of the film to which it goes
+    std::atomic<double> Until = 1e9;    // seconds of the film to which it goes
+    std::atomic<double> LastTotal = 0;  // seconds of the film that was begun last, by its plan
     std::atomic<bool> Fails = false, EstimateHangs = false;
     std::atomic<int> Stopped = 0, Estimates = 0, EstimatesGivenUp = 0;
     std::atomic<qint64> Expected = 34'000'000, Room = 1'000'000'000'000;
@@ -70,7 +71,7 @@ class FakeMaker {
             const QMutexLocker Held(&mLock);
             mOrders.push_back(Order);
         }
-        const double Total = Plan.Sheet.RunningTime;
+        const double Total = LastTotal = Plan.Sheet.RunningTime;
         for (double At = 0; At < Total; At < Until ? At += 1 : At) {
             if (!Watch.GoesOn({At, Total, qint64(At * 1e6), SlideAt(Plan, At)}))
                 return ++Stopped, FilmReport{.End = FilmEnd::Stopped};

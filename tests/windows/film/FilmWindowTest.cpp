@@ -213,6 +213,27 @@ TEST_F(FilmWindow, WhoDoesNotWaitForTheForecastGetsTheSameFilm) {
     EXPECT_TRUE(IsMade());
 }
 
+TEST_F(FilmWindow, PreferencesThatAreChangedBehindItAreThoseOfTheFilm) {
+    OpenReady();
+    Press(*F, "cmdMake");
+    ASSERT_TRUE(IsMade());
+    EXPECT_EQ(1, Maker.Estimates) << "what is known already is not found out again";
+    const double Before = Maker.LastTotal;
+    Press(*F, "cmdAnother");
+    ASSERT_TRUE(
+        Waits([&] { return Maker.Estimates == 2 && Text("lblExpected").startsWith(u"A"_s); }));
+    clsSettings Settings = OpenSettings();
+    PutText(Settings, Setting::Timeout, u"3"_s);
+    Settings.Save();
+    Boxes.Expect(u"%1\nis there already. Replace it?"_s.arg(Walk()), u"Make a Film"_s,
+                 BoxIcon::Question, BoxAnswer::Yes);
+    Press(*F, "cmdMake");
+    ASSERT_TRUE(IsMade());
+    EXPECT_NE(9, Before);
+    EXPECT_EQ(9, Maker.LastTotal) << "three slides of three seconds each";
+    EXPECT_EQ(3, Maker.Estimates) << "another film has another size";
+}
+
 TEST_F(FilmWindow, SeveralMakeFilmsAtOnceButNotInTheSameFile) {
     MakeUpTo(1);
     frmFilm& First = *F;
