@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "support/files/HostNames.h"
+#include "support/work/ProcessEnd.h"
 #include "tools/modCommands.h"
 
 #ifdef _WIN32
@@ -50,5 +51,8 @@ int main(int argc, char** argv) {
     const auto App = MakeApplication(argc, argv);
     std::ios::sync_with_stdio(false);
     neb::ToolIO IO{std::cout, std::cerr, ErrorsGoToATerminal()};
-    return neb::RunTool(WordsOf(argc, argv), IO);
+    const int Code = neb::RunTool(WordsOf(argc, argv), IO);
+    std::cout.flush();
+    std::cerr.flush();
+    return neb::EndProcess(Code);
 }

@@ -3,7 +3,11 @@
 namespace neb {
 namespace {
 
+#ifdef SIGHUP
+constexpr int Signals[] = {SIGINT, SIGTERM, SIGHUP};
+#else
 constexpr int Signals[] = {SIGINT, SIGTERM};
+#endif
 volatile std::sig_atomic_t gCame = 0;
 
 void Note(int) {
@@ -14,11 +18,11 @@ void Note(int) {
 
 Interrupt::Interrupt() {
     gCame = 0;
-    for (int I = 0; I < 2; ++I) mBefore[I] = std::signal(Signals[I], Note);
+    for (const int Each : Signals) mBefore.push_back(std::signal(Each, Note));
 }
 
 Interrupt::~Interrupt() {
-    for (int I = 0; I < 2; ++I) std::signal(Signals[I], mBefore[I]);
+    for (size_t I = 0; I < mBefore.size(); ++I) std::signal(Signals[I], mBefore[I]);
 }
 
 bool Interrupt::Came() {

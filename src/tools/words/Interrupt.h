@@ -1,8 +1,10 @@
-// Ctrl+C and a polite end from elsewhere, for commands that leave nothing half done behind: while
-// one of these lives they are noted instead of ending the process there and then.
+// Ctrl+C, a terminal that is closed and a polite end from elsewhere, for commands that leave
+// nothing half done behind: while one of these lives they are noted instead of ending the process
+// there and then.
 #pragma once
 
 #include <csignal>
+#include <vector>
 
 namespace neb {
 
@@ -17,7 +19,7 @@ class Interrupt {
 
   private:
     using Handler = void (*)(int);
-    Handler mBefore[2];
+    std::vector<Handler> mBefore;
 };
 
 }  // namespace neb
