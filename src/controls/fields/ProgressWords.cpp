@@ -44,6 +44,12 @@ void ProgressWords::Follow(const QProgressBar& Bar) {
     mLeft->setText(mTime.Text());
 }
 
+void ProgressWords::Clear() {
+    mCount->clear();
+    mLeft->clear();
+    mTime = {};
+}
+
 // An empty line takes its room already: the window would jump when the first words come.
 void ProgressWords::KeepHeight() {
     setMinimumHeight(fontMetrics().lineSpacing());

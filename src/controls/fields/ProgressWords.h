@@ -1,5 +1,5 @@
 // The line of words under a progress bar: which picture of how many, and how much time is left. The
-// two progress windows have one each.
+// windows of long work have one each.
 #pragma once
 
 #include <QWidget>
@@ -24,6 +24,8 @@ class ProgressWords : public QWidget {
     void ShowCount(int Number, int Count, const QString& Words = {});
     // The time left, by what the bar shows at this moment.
     void Follow(const QProgressBar& Bar);
+    // Another work begins: nothing is known of it yet.
+    void Clear();
     // As TimeLeft::Skip.
     void Skip(double Ms) { mTime.Skip(Ms); }
 

@@ -82,7 +82,7 @@ const FilmFormatRow& RowOf(FilmFormat Format) {
 QString FilmNameOf(const QString& ShowName) {
     static const QRegularExpression NotInNames(QStringLiteral("[\\x00-\\x1F/\\\\:*?\"<>|]+"));
     static const QRegularExpression AtTheEnds(QStringLiteral("^[\\s.]+|[\\s.]+$"));
-    const QString Name = ValidText(ShowName).replace(NotInNames, QStringLiteral(" "));
+    const QString Name = ValidText(ShowName).replace(NotInNames, QStringLiteral(" ")).simplified();
     const QString Fit = Name.left(LongestName).remove(AtTheEnds);
     return Fit.isEmpty() ? QStringLiteral("Film") : Fit;
 }

@@ -30,6 +30,10 @@ Answer<> CheckFilmFile(const FilmOrder& Order) {
     if (GetFileName(Order.Path).isEmpty())
         return Refuse(QObject::tr("You must first name the file of the film."),
                       QStringLiteral("Missing User Input"));
+    const QString Folder = GetFilePath(Order.Path);
+    if (!Folder.isEmpty() && !FolderExists(Folder))
+        return Refuse(QObject::tr("There is no folder of this name:\n%1").arg(Folder),
+                      QStringLiteral("Invalid User Input"));
     if (FolderExists(Order.Path))
         return Refuse(QObject::tr("There is a folder of this name:\n%1").arg(Order.Path),
                       QStringLiteral("Invalid User Input"));
@@ -41,6 +45,16 @@ QStringList FilesToReplace(const FilmOrder& Order) {
     if (Order.SubtitleFile) Files << SubtitlesOf(Order.Path);
     Files.removeIf([](const QString& Each) { return !NameExists(Each); });
     return Files;
+}
+
+QString ReplaceText(const QStringList& There) {
+    const QString Words = There.size() == 1 ? QObject::tr("%1\nis there already. Replace it?")
+                                            : QObject::tr("%1\nare there already. Replace them?");
+    return Words.arg(There.join(u'\n'));
+}
+
+QString FindingOutSize() {
+    return QObject::tr("How large it will be is being found out ...");
 }
 
 QString MadeText(const QString& Path, const FilmReport& Report) {

@@ -208,7 +208,7 @@ void frmFilm::ShowForecast() {
     if (PhaseNow() != Phase::Choosing) return;
     const auto& Size = mForecast->Size();
     ShowExpected(Size                      ? tr("About %1 are expected.").arg(ShortSize(*Size))
-                 : mForecast->IsUnderWay() ? tr("How large it will be is being found out ...")
+                 : mForecast->IsUnderWay() ? FindingOutSize()
                                            : tr("How large it will be is not known."));
     const auto Plan = mForecast->Plan();
     mUi->lblSummary->setText(Plan ? Plan->Sheet.Summary() + u'.'
@@ -274,9 +274,7 @@ bool frmFilm::IsReady(const FilmOrder& Order) {
             return false;
         }
     const QStringList There = FilesToReplace(Order);
-    return There.isEmpty() ||
-           AskYesNo(tr("%1\nis there already. Replace it?").arg(There.join(u'\n')),
-                    tr("Make a Film"), BoxAnswer::No);
+    return There.isEmpty() || AskYesNo(ReplaceText(There), tr("Make a Film"), BoxAnswer::No);
 }
 
 void frmFilm::Begin(const FilmOrder& Order) {
@@ -287,7 +285,8 @@ void frmFilm::Begin(const FilmOrder& Order) {
     mRun->SetRoom(mUi->pvwFilm->size() * devicePixelRatioF());
     mRun->Begin({Copy, Order, mForecast->Plan(), mForecast->Size()});
     mUi->pgbFilm->setValue(0);
-    mUi->lblWritten->clear();
+    mUi->pwdFilm->Clear();
+    mUi->lblWritten->setText(mForecast->Size() ? QString() : FindingOutSize());
     mUi->lblSummary->setText(tr("The film is being made: %1").arg(GetFileName(Order.Path)));
     ShowPhase();
 }
@@ -296,6 +295,7 @@ void frmFilm::Advanced(const FilmStep& Step) {
     if (PhaseNow() != Phase::Making) return;
     mRun->SetRoom(mUi->pvwFilm->size() * devicePixelRatioF());
     mUi->pgbFilm->setValue(static_cast<int>(Step.Part * BarEnd));
+    mUi->pgbFilm->update();  // it would stay a percent behind the title
     mUi->pwdFilm->ShowCount(Step.Slide, Step.Slides, tr("Slide %1 of %2"));
     mUi->pwdFilm->Follow(*mUi->pgbFilm);
     mUi->lblWritten->setText(tr("%1 written").arg(ShortSize(Step.Bytes)));
@@ -313,6 +313,8 @@ void frmFilm::Ended() {
 void frmFilm::Failed(const QString& Reason) {
     const auto Held = shared_from_this();
     ShowPhase();
+    mUi->lblSummary->setText(tr("The film was not made."));
+    ShowTitle({});
     BringToFront(*this);
     MsgBox(Reason, QStringLiteral("Operation Failed"), BoxIcon::Critical);
     if (IsLoaded() && PhaseNow() == Phase::Choosing) FollowShow();
@@ -323,7 +325,7 @@ void frmFilm::ShowMade(const FilmReport& Report) {
     mUi->lblSummary->setText(Text);
     std::vector<std::pair<QString, RehearsalFinding>> Rows;
     for (const auto& Each : Report.Faults) Rows.emplace_back(tr("Missing"), Each);
-    mUi->flxFindings->SetEmptyText(tr("All pictures and sounds of the show are in the film."));
+    mUi->flxFindings->SetEmptyText(tr("Nothing is missing in the film."));
     ShowFindings(Rows);
     ShowTitle({});
     ShowPhase();

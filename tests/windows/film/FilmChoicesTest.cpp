@@ -166,6 +166,12 @@ TEST_F(FilmChoice, WhatNoFilmCanHaveIsToldAndTheWindowKeepsAllElse) {
                  BoxIcon::Information, BoxAnswer::Ok);
     QTest::keyClick(&File(), Qt::Key_Return);
     EXPECT_TRUE(Maker.Orders().empty());
+    TypeFile(Out / u"none/Walk.mp4"_s);
+    Boxes.Expect(u"There is no folder of this name:\n"_s + Out / u"none/"_s, Title,
+                 BoxIcon::Information, BoxAnswer::Ok);
+    QTest::keyClick(&File(), Qt::Key_Return);
+    EXPECT_TRUE(File().hasFocus());
+    EXPECT_TRUE(Maker.Orders().empty());
     TypeFile(u"Trip 3.5.2026"_s);
     QTest::keyClick(&File(), Qt::Key_Return);
     ASSERT_TRUE(IsMade());
@@ -176,15 +182,15 @@ TEST_F(FilmChoice, AFileThatIsThereIsAskedAbout) {
     WriteFile(Out / u"Walk.mp4"_s, "old");
     WriteFile(Out / u"Walk.srt"_s, "old");
     OpenReady();
-    const QString Words = u"%1\nis there already. Replace it?"_s;
-    Boxes.Expect(Words.arg(Out / u"Walk.mp4"_s), u"Make a Film"_s, BoxIcon::Question,
-                 BoxAnswer::No);
+    Boxes.Expect(Out / u"Walk.mp4"_s + u"\nis there already. Replace it?"_s, u"Make a Film"_s,
+                 BoxIcon::Question, BoxAnswer::No);
     Press(*F, "cmdMake");
     EXPECT_EQ(BoxAnswer::No, Boxes.Last().Default);
     EXPECT_EQ("old", ReadFile(Out / u"Walk.mp4"_s));
     Tick("chkBeside");
-    Boxes.Expect(Words.arg(Out / u"Walk.mp4"_s + u'\n' + Out / u"Walk.srt"_s), u"Make a Film"_s,
-                 BoxIcon::Question, BoxAnswer::Yes);
+    Boxes.Expect(
+        Out / u"Walk.mp4"_s + u'\n' + Out / u"Walk.srt"_s + u"\nare there already. Replace them?"_s,
+        u"Make a Film"_s, BoxIcon::Question, BoxAnswer::Yes);
     Press(*F, "cmdMake");
     ASSERT_TRUE(IsMade());
     EXPECT_EQ("a film", ReadFile(Out / u"Walk.mp4"_s));
@@ -246,9 +252,9 @@ TEST_F(FilmChoice, EscClosesAWindowThatMakesNothing) {
 TEST_F(FilmChoice, EveryChoiceIsReachedByItsLetter) {
     OpenReady();
     const std::pair<Qt::Key, const char*> Keys[] = {
-        {Qt::Key_T, "cboFormat"},   {Qt::Key_Z, "cboSize"},  {Qt::Key_F, "cboRate"},
-        {Qt::Key_Q, "sdrQuality"},  {Qt::Key_R, "spnFirst"}, {Qt::Key_O, "spnLast"},
-        {Qt::Key_N, "flxFindings"}, {Qt::Key_I, "txtFile"}};
+        {Qt::Key_T, "cboFormat"},  {Qt::Key_Z, "cboSize"},  {Qt::Key_C, "cboRate"},
+        {Qt::Key_Q, "sdrQuality"}, {Qt::Key_D, "spnFirst"}, {Qt::Key_N, "flxFindings"},
+        {Qt::Key_E, "txtFile"}};
     for (const auto& [Letter, Name] : Keys) {
         QTest::keyClick(F, Letter, Qt::AltModifier);
         EXPECT_TRUE(In<QWidget>(*F, Name).hasFocus()) << Name;
@@ -259,10 +265,36 @@ TEST_F(FilmChoice, EveryChoiceIsReachedByItsLetter) {
     EXPECT_TRUE(IsMade());
 }
 
+// The window stands inside the main window: there Alt and the letter of a menu open the menu.
+TEST_F(FilmChoice, NoLetterIsThatOfAMenuOrOfAnotherControl) {
+    const auto Look = [this](int Count) {
+        QSet<QKeySequence> Taken;
+        for (const char* Menu :
+             {"&File", "&Album", "S&lide Show", "&Import", "&Print", "&Window", "&Help"})
+            Taken.insert(QKeySequence::mnemonic(QString::fromLatin1(Menu)));
+        const auto Take = [&](const QWidget* Of, const QString& Text) {
+            const QKeySequence Key = QKeySequence::mnemonic(Text);
+            if (Key.isEmpty() || !Of->isVisible()) return;
+            EXPECT_FALSE(Taken.contains(Key)) << Text.toStdString();
+            Taken.insert(Key);
+        };
+        for (const auto* Each : F->findChildren<QAbstractButton*>()) Take(Each, Each->text());
+        for (const auto* Each : F->findChildren<QLabel*>())
+            if (Each->buddy()) Take(Each, Each->text());
+        EXPECT_EQ(7 + Count, Taken.size());
+    };
+    OpenReady();
+    Look(14);
+    Press(*F, "cmdMake");
+    ASSERT_TRUE(IsMade());
+    Look(5);
+}
+
 TEST(FilmNames, FitAFile) {
     EXPECT_EQ("Walk", FilmNameOf(u"Walk"_s));
     EXPECT_EQ("A B C", FilmNameOf(u"A/B\\C"_s));
     EXPECT_EQ("What is it", FilmNameOf(u" .What is it?.. "_s));
+    EXPECT_EQ("Holiday 2026 in Greece", FilmNameOf(u"Holiday: 2026  in Greece"_s));
     EXPECT_EQ("Film", FilmNameOf(u"???"_s));
     EXPECT_EQ("Film", FilmNameOf({}));
     EXPECT_EQ(100, FilmNameOf(QString(300, u'x')).size());

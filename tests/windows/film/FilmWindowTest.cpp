@@ -26,8 +26,7 @@ TEST_F(FilmWindow, EnterMakesAFilm) {
     EXPECT_EQ("a film", ReadFile(Walk()));
     EXPECT_EQ("Film - Walk", F->windowTitle().toStdString());
     EXPECT_EQ(0, Findings().Rows());
-    EXPECT_EQ("All pictures and sounds of the show are in the film.",
-              Findings().EmptyText().toStdString());
+    EXPECT_EQ("Nothing is missing in the film.", Findings().EmptyText().toStdString());
     QTest::keyClick(F, Qt::Key_Return);
     EXPECT_EQ(QStringList(Walk()), Maker.Opened) << "the next Enter plays it";
 }
@@ -48,6 +47,23 @@ TEST_F(FilmWindow, TheMouseMakesOneShowsItsFolderAndMakesAnother) {
     Press(*F, "cmdMake");
     ASSERT_TRUE(IsMade());
     EXPECT_TRUE(FileExists(Out / u"Second.mp4"_s));
+}
+
+TEST_F(FilmWindow, ASecondFilmBeginsWithoutTheWordsOfTheFirst) {
+    OpenReady();
+    Press(*F, "cmdMake");
+    ASSERT_TRUE(IsMade());
+    EXPECT_EQ("Slide 3 of 3", Text("lblCount").toStdString());
+    Maker.EstimateHangs = true;
+    Press(*F, "cmdAnother");
+    TypeFile(Out / u"Second.mp4"_s);
+    Press(*F, "cmdMake");
+    EXPECT_TRUE(IsMaking());
+    EXPECT_EQ("", Text("lblCount").toStdString());
+    EXPECT_EQ("", Text("lblTimeLeft").toStdString());
+    EXPECT_EQ("How large it will be is being found out ...", Text("lblWritten").toStdString());
+    Maker.EstimateHangs = false;
+    EXPECT_TRUE(IsMade());
 }
 
 TEST_F(FilmWindow, WhatIsMissingInItIsListedAtTheEnd) {
