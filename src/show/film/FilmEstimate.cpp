@@ -233,11 +233,12 @@ Answer<> CheckRoomOnDisk(const FilmDisk& Disk, qint64 Estimate) {
                                      "large at most:\n%2")
                           .arg(ShortSize(Needed), Disk.Folder),
                       Title);
-    if (Disk.Room < 0 || Disk.Room >= Needed + RoomToLeave) return Done();
+    const qint64 Ours = Disk.Room - RoomToLeave(Disk.Room);
+    if (Disk.Room < 0 || Ours >= Needed) return Done();
     return Refuse(
-        QStringLiteral("There is not enough room: the film needs up to %1, %2 are free, "
-                       "and %3 of them are left to others, in\n%4")
-            .arg(ShortSize(Needed), ShortSize(Disk.Room), ShortSize(RoomToLeave), Disk.Folder),
+        QStringLiteral("There is not enough room: the film needs up to %1, and of %2 that "
+                       "are free it takes %3 at most, in\n%4")
+            .arg(ShortSize(Needed), ShortSize(Disk.Room), ShortSize(Ours), Disk.Folder),
         Title);
 }
 

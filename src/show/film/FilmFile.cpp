@@ -24,6 +24,10 @@ QString FolderOf(const QString& Path) {
 
 }  // namespace
 
+qint64 RoomToLeave(qint64 Room) {
+    return Room < 0 ? 0 : std::min(MostToLeave, Room / 4);
+}
+
 qint64 RoomForFile(const QString& Path, qint64 Reserve) {
     const QString Dir = FolderOf(Path);
     const qint64 Room = FreeSpace(Dir);
@@ -36,6 +40,8 @@ qint64 RoomForFile(const QString& Path, qint64 Reserve) {
                     Path);
     return Room;
 }
+
+FilmFile::FilmFile(const QString& Path) : FilmFile(Path, RoomToLeave(FreeSpace(FolderOf(Path)))) {}
 
 FilmFile::FilmFile(const QString& Path, qint64 Reserve) : mPath(Path), mReserve(Reserve) {
     mFile.emplace(Path);

@@ -34,8 +34,10 @@ class FilmTarget {
     std::atomic<qint64> mLength = 0;
 };
 
-// Bytes that a film leaves free on its disk: a full one is in everybody's way.
-constexpr qint64 RoomToLeave = 64 << 20;
+// Bytes of so many free ones that a film leaves to others, for a full disk is in everybody's way: a
+// quarter, and no more than this. Room below 0: not known.
+constexpr qint64 MostToLeave = 64 << 20;
+qint64 RoomToLeave(qint64 Room);
 
 // The room on the disk of a file that is to be; negative where that is not known. Throws Fault
 // where less than Reserve is left, or the folder has gone.
@@ -44,7 +46,8 @@ qint64 RoomForFile(const QString& Path, qint64 Reserve);
 class FilmFile : public FilmTarget {
   public:
     // Throws Fault with this path, as all of it does.
-    explicit FilmFile(const QString& Path, qint64 Reserve = RoomToLeave);
+    explicit FilmFile(const QString& Path);
+    FilmFile(const QString& Path, qint64 Reserve);
 
     void PutBeside(const QByteArray& Subtitles) override;
     FilmSink Sink() override;

@@ -11,7 +11,6 @@
 #include "show/film/FilmStage.h"
 #include "show/film/FilmWriter.h"
 #include "support/Fault.h"
-#include "support/work/LargeBlocks.h"
 
 namespace neb {
 namespace {
@@ -252,7 +251,6 @@ void Making::Report(double Seconds) {
 FilmReport MakeFilm(clsDBEngine& Copy, const FilmOrder& Order, const FilmPlan& Plan,
                     const FilmWatch& Watch) {
     if (Plan.Log.Cues.empty()) ThrowEmpty(Plan.Log, Order);
-    GiveLargeBlocksBack();
     return Making(Copy, Order, Plan, Watch).Make();
 }
 

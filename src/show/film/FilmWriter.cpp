@@ -3,6 +3,7 @@
 #include "show/film/FilmFile.h"
 #include "show/film/FilmQueue.h"
 #include "support/ReasonOf.h"
+#include "support/work/LargeBlocks.h"
 #include "support/work/LeftThread.h"
 #include "support/work/ProcessEnd.h"
 
@@ -92,6 +93,7 @@ FilmWriter::FilmWriter(const FilmSetup& Setup)
 }
 
 void FilmWriter::Begin() {
+    GiveLargeBlocksBack();
     mThread = std::make_unique<LeftThread>(
         [Mine = mWork, Counted = std::make_shared<WorkOnThread>()] { Mine->Run(); });
 }

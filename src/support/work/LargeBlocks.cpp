@@ -8,7 +8,7 @@ namespace neb {
 
 void GiveLargeBlocksBack() {
 #ifdef M_MMAP_THRESHOLD
-    constexpr int Large = 4 << 20;  // bytes
+    constexpr int Large = 1 << 20;  // bytes
     ::mallopt(M_MMAP_THRESHOLD, Large);
 #endif
 }

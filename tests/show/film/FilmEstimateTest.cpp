@@ -205,10 +205,14 @@ class RoomForFilm : public FilmEstimateTest {
 TEST_F(RoomForFilm, IsTheEstimateAndAThirdAndWhatIsLeftToOthers) {
     EXPECT_EQ("it fits", Told({u"/media/stick/"_s, 400 * MB + 64 * MB, {}}, 300 * MB));
     EXPECT_EQ(
-        "There is not enough room: the film needs up to 419 MB, 487 MB are free, and 67 MB of "
-        "them are left to others, in\n/media/stick/",
+        "There is not enough room: the film needs up to 419 MB, and of 487 MB that are free it "
+        "takes "
+        "419 MB at most, in\n/media/stick/",
         Told({u"/media/stick/"_s, 400 * MB + 64 * MB - 1, {}}, 300 * MB));
     EXPECT_EQ("it fits", Told({u"/media/stick/"_s, -1, {}}, 300 * MB));
+    // of a small card a quarter
+    EXPECT_EQ("it fits", Told({u"/media/stick/"_s, 16 * MB, {}}, 9 * MB));
+    EXPECT_NE("it fits", Told({u"/media/stick/"_s, 16 * MB - 4, {}}, 9 * MB));
 }
 
 TEST_F(RoomForFilm, IsNoMoreThanAFileMayHaveOnAStick) {
