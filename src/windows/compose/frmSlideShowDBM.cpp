@@ -34,7 +34,6 @@ namespace neb {
 namespace {
 
 const WindowMemory Memory{QStringLiteral("frmSlideShowDBM"), 9075};
-const QKeyCombination NewKeys = Qt::CTRL | Qt::Key_N;
 constexpr int ListsRoom = 280, TracksRoom = 140;  // parts of the height at first
 
 }  // namespace
@@ -250,7 +249,7 @@ bool frmSlideShowDBM::Form_Unload() {
 bool frmSlideShowDBM::event(QEvent* Event) {
     const auto Type = Event->type();
     const bool IsNew = (Type == QEvent::ShortcutOverride || Type == QEvent::KeyPress) &&
-                       static_cast<QKeyEvent*>(Event)->keyCombination() == NewKeys;
+                       static_cast<QKeyEvent*>(Event)->keyCombination() == (Qt::CTRL | Qt::Key_N);
     if (!IsNew) return Form::event(Event);
     Event->accept();
     if (Type == QEvent::ShortcutOverride)
@@ -389,6 +388,7 @@ void frmSlideShowDBM::Rehearse() {
 }
 
 void frmSlideShowDBM::MakeFilm() {
+    if (SlideShowID() != 0 && IsChanged() && !StoredShowWillDo()) return;
     WithShow(&ShowFilm, tr("You must first select a Slide Show to make a Film of."));
 }
 

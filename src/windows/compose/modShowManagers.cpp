@@ -32,4 +32,11 @@ std::optional<Announcement> DeleteShowAsked(std::int32_t AlbumID, std::int32_t S
     return std::move(*Deleted);
 }
 
+bool StoredShowWillDo() {
+    return AskYesNo(
+        QStringLiteral("The changes to this slide show are not saved, and will not be in the "
+                       "film. Make it of the show as it was last saved?"),
+        QStringLiteral("Make a Film"));
+}
+
 }  // namespace neb

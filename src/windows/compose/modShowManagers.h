@@ -17,4 +17,8 @@ void ShowSlideInManager(std::int32_t AlbumID, std::int32_t SlideShowID, std::int
 std::optional<Announcement> DeleteShowAsked(std::int32_t AlbumID, std::int32_t SlideShowID,
                                             const QObject* Asker = nullptr);
 
+// Asks whether a film of the show as it was last saved is wanted, where something is not saved: who
+// waits for a film wants to know before.
+bool StoredShowWillDo();
+
 }  // namespace neb

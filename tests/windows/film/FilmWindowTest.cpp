@@ -325,5 +325,24 @@ TEST_F(FilmWindow, TheManagerOpensIt) {
     In<ToolBar>(*W, "abrMenu").Tool(u"mnuSlideShowFilm"_s)->trigger();
 }
 
+TEST_F(FilmWindow, TheManagerSaysThatWhatIsNotSavedIsNotInTheFilm) {
+    OpenMgr(AlbumID, ShowID);
+    QTest::keyClicks(&In<QLineEdit>(*W, "txtName"), "s");
+    const auto Ask = [&](BoxAnswer Given) {
+        Boxes.Expect(
+            u"The changes to this slide show are not saved, and will not be in the film. "
+            "Make it of the show as it was last saved?"_s,
+            u"Make a Film"_s, BoxIcon::Question, Given);
+        In<ToolBar>(*W, "abrMenu").Tool(u"mnuSlideShowFilm"_s)->trigger();
+    };
+    Ask(BoxAnswer::No);
+    EXPECT_FALSE(harness::Open<frmFilm>());
+    Ask(BoxAnswer::Yes);
+    EXPECT_TRUE(harness::Open<frmFilm>());
+    Boxes.Expect(u"Are you sure you want to discard the changes to the current slide show?"_s,
+                 u"Discard Changes Confirmation"_s, BoxIcon::Question, BoxAnswer::Discard);
+    W->Unload();
+}
+
 }  // namespace
 }  // namespace neb
