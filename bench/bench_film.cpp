@@ -35,8 +35,8 @@ constexpr std::pair<int, const char*> Effects[] = {
 
 QStringList Encoding() {
     return QStringLiteral(
-               "-c:v libx264 -preset veryfast -crf 18.6 -g 90 -pix_fmt yuv420p -c:a aac -b:a 192k "
-               "-ar 44100 -ac 2 -movflags +faststart -y")
+               "-c:v libx264 -preset veryfast -crf 15.6 -maxrate 49766400 -bufsize 49766400 -g 90 "
+               "-pix_fmt yuv420p -c:a aac -b:a 192k -ar 44100 -ac 2 -movflags +faststart -y")
         .split(u' ');
 }
 
