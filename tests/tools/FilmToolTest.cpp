@@ -53,6 +53,8 @@ TEST_F(FilmTool, MakesAFilmOfTheShowAndSaysWhatItIs) {
     const ToolRun Result = Film({u"--rate"_s, u"25"_s, u"--date"_s, u"2004-05-06"_s});
     EXPECT_EQ("", Result.Err);
     EXPECT_EQ(ExitDone, Result.Code) << Result.Out;
+    EXPECT_NE(std::string::npos, Result.Out.find("About ")) << Result.Out;
+    EXPECT_NE(std::string::npos, Result.Out.find(" are expected.\n")) << Result.Out;
     EXPECT_NE(std::string::npos, Result.Out.find("film.mkv: 3 slides, 0:01.5, ")) << Result.Out;
     const QString Facts = Probed(
         Out(),

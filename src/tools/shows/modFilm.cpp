@@ -143,6 +143,8 @@ int Film(const ToolShow& Its, FilmOrder Order, ToolIO& IO) {
     if (!Size) return Stopped(IO);
     const Answer<> Room = CheckRoomForFilm(Order, *Size);
     if (!Room) return Fail(IO, Room.Refusal().Text);
+    PrintLine(IO.Out, QStringLiteral("About %1 are expected.").arg(ShortSize(*Size)));
+    IO.Out.flush();
     const FilmReport Made = Make(*Copy, Order, Plan, IO);
     return Made.End == FilmEnd::Made ? Report(Made, Order, IO) : Stopped(IO);
 }
