@@ -3,8 +3,6 @@
 
 #include <QString>
 
-#include "support/Grouped.h"
-
 namespace neb {
 
 struct TransferProgress {

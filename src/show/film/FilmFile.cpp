@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "show/film/FilmOrder.h"
 #include "support/Grouped.h"
 #include "support/files/modHostFiles.h"
 #include "support/files/modHostFilesCopy.h"
@@ -12,10 +13,6 @@ namespace neb {
 namespace {
 
 constexpr qint64 BetweenLooks = 4 << 20;  // bytes; the room is looked at so often
-
-QString SubtitlesOf(const QString& Film) {
-    return Film.chopped(GetFileExt(GetFileName(Film)).size()) + QStringLiteral(".srt");
-}
 
 QString FolderOf(const QString& Path) {
     const QString Dir = GetFilePath(ResolvePath(Path));
@@ -50,7 +47,7 @@ FilmFile::FilmFile(const QString& Path, qint64 Reserve) : mPath(Path), mReserve(
 
 void FilmFile::PutBeside(const QByteArray& Subtitles) {
     const std::lock_guard Lock(mOneByOne);
-    mSubtitles.emplace(SubtitlesOf(mPath));
+    mSubtitles.emplace(SubtitlePath(mPath));
     mSubtitles->Write(Subtitles.constData(), Subtitles.size());
 }
 

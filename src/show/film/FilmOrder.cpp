@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "support/modFUFL.h"
+
 namespace neb {
 namespace {
 
@@ -39,6 +41,10 @@ std::optional<FilmFormat> FormatOfFilm(const QString& Path) {
     for (const FilmFormatRow& Row : Formats)
         if (Path.endsWith(QLatin1String(Row.Ending), Qt::CaseInsensitive)) return Row.Format;
     return std::nullopt;
+}
+
+QString SubtitlePath(const QString& Film) {
+    return Film.chopped(GetFileExt(GetFileName(Film)).size()) + QStringLiteral(".srt");
 }
 
 std::span<const FilmSizeRow> FilmSizes() {

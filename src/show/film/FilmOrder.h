@@ -39,6 +39,9 @@ std::span<const FilmFormatRow> FilmFormats();
 // By a file's ending, whatever its case; nothing for another ending.
 std::optional<FilmFormat> FormatOfFilm(const QString& Path);
 
+// Where the captions of a film lie beside it: ".srt" in the place of its ending.
+QString SubtitlePath(const QString& Film);
+
 struct FilmSizeRow {
     QSize Size;
     const char* Name;  // "Full HD"

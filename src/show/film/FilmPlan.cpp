@@ -126,8 +126,4 @@ QByteArray SubtitleText(const std::vector<FilmSubtitle>& Subtitles) {
     return Text;
 }
 
-QByteArray SubtitleText(const FilmSetup& Setup) {
-    return SubtitleText(Setup.Subtitles);
-}
-
 }  // namespace neb

@@ -21,7 +21,6 @@ FilmPlan PlanFilm(clsDBEngine& Copy, const FilmOrder& Order,
 FilmSetup SetupOf(const FilmPlan& Plan, const FilmOrder& Order);
 // Subtitles as the text of an ".srt" file, UTF-8.
 QByteArray SubtitleText(const std::vector<FilmSubtitle>& Subtitles);
-QByteArray SubtitleText(const FilmSetup& Setup);
 std::vector<FilmSubtitle> SubtitlesOf(const FilmPlan& Plan);
 
 }  // namespace neb

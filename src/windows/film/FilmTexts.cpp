@@ -2,7 +2,7 @@
 
 #include <QObject>
 
-#include "albums/transfer/TransferProgress.h"
+#include "support/Grouped.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
 #include "support/modText.h"
@@ -18,10 +18,6 @@ QString LengthText(double Seconds) {
     };
     if (Minutes < 60) return QStringLiteral("%1:%2").arg(Minutes).arg(Two(Whole % 60));
     return QStringLiteral("%1:%2:%3").arg(Minutes / 60).arg(Two(Minutes % 60), Two(Whole % 60));
-}
-
-QString SubtitlesOf(const QString& Path) {
-    return Path.left(Path.lastIndexOf(u'.')) + QStringLiteral(".srt");
 }
 
 }  // namespace
@@ -42,7 +38,7 @@ Answer<> CheckFilmFile(const FilmOrder& Order) {
 
 QStringList FilesToReplace(const FilmOrder& Order) {
     QStringList Files{Order.Path};
-    if (Order.SubtitleFile) Files << SubtitlesOf(Order.Path);
+    if (Order.SubtitleFile) Files << SubtitlePath(Order.Path);
     Files.removeIf([](const QString& Each) { return !NameExists(Each); });
     return Files;
 }

@@ -3,11 +3,11 @@
 #include <QApplication>
 #include <algorithm>
 
-#include "albums/transfer/TransferProgress.h"
 #include "controls/fields/Icons.h"
 #include "controls/forms/Tell.h"
 #include "db/clsDBEngine.h"
 #include "settings/modNEBSlideShow.h"
+#include "support/Grouped.h"
 #include "support/files/modHostFiles.h"
 #include "support/files/modHostFilesCopy.h"
 #include "support/modCharacters.h"

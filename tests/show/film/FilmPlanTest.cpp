@@ -84,8 +84,8 @@ TEST_F(FilmPlanSubtitles, AreAsPlayersReadThem) {
         "1\r\n00:00:00,000 --> 00:00:01,000\r\nOne\r\n\r\n"
         "2\r\n00:00:01,250 --> 01:02:03,046\r\nÜber\r\nzwei\r\nLinien\r\n\r\n"
         "3\r\n100:00:00,000 --> 100:00:02,000\r\nLate\r\n\r\n",
-        SubtitleText(Setup).toStdString());
-    EXPECT_EQ("", SubtitleText(FilmSetup()));
+        SubtitleText(Setup.Subtitles).toStdString());
+    EXPECT_EQ("", SubtitleText({}));
 }
 
 TEST_F(FilmPlanCover, IsTheFirstPictureInASizeForLists) {
