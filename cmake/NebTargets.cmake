@@ -1,5 +1,9 @@
 # How this project's targets are made: one static library and one test program a top folder.
 
+# Only the libraries that a program uses itself are loaded with it: what is read behind a locked door
+# is no business of the program in front of it.
+add_link_options(-Wl,--as-needed)
+
 add_library(neb_flags INTERFACE)
 target_compile_options(neb_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor
                                            -Wold-style-cast -Wno-missing-field-initializers -Werror)
@@ -62,6 +66,15 @@ function(neb_library)
   target_link_libraries(neb_${L_NAME} PUBLIC neb_flags ${L_DEPENDS} PRIVATE ${L_HIDDEN})
   target_precompile_headers(neb_${L_NAME} PRIVATE
                             ${PROJECT_SOURCE_DIR}/cmake/pch_${neb_headers_${L_KNOWS}}.h)
+endfunction()
+
+# neb_part(NAME SOURCE LIBRARIES ...): a program that the program starts by itself, beside its modules.
+# It brings along what it uses alone.
+function(neb_part NAME SOURCE)
+  add_executable(${NAME} ${SOURCE})
+  set_target_properties(${NAME} PROPERTIES
+    RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib/neb-slide-show)
+  target_link_libraries(${NAME} PRIVATE neb_flags ${ARGN})
 endfunction()
 
 # neb_test(NAME support DIR tests/support DEPENDS neb_support)

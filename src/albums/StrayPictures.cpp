@@ -9,6 +9,7 @@
 #include "db/modAlbumFiles.h"
 #include "pictures/ImgX.h"
 #include "pictures/PictureWords.h"
+#include "pictures/formats/PictureSniff.h"
 #include "support/Fault.h"
 #include "support/MediaTypes.h"
 #include "support/files/modHostFiles.h"

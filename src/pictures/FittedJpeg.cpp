@@ -5,8 +5,8 @@
 #include "pictures/formats/PictureFormats.h"
 #include "pictures/formats/TiffTags.h"
 #include "pictures/notes/JpegParts.h"
-#include "pictures/notes/JpegTurn.h"
-#include "pictures/notes/PictureNotes.h"
+#include "pictures/notes/SaidUpright.h"
+#include "pictures/workers/PictureReading.h"
 
 namespace neb {
 namespace {
@@ -28,7 +28,7 @@ QByteArray PictureAlone(const QByteArray& Jpeg, const JpegParts& Parts,
     const bool HasMore =
         Behind.contains(QByteArrayView("\xFF\xD8\xFF")) || Behind.contains(QByteArrayView("ftyp"));
     const QByteArray Own = HasMore || !Keeping.KeepsPlace ? Jpeg.left(Parts.End) : Jpeg;
-    return Keeping.KeepsPlace ? Own : WithoutPlace(Own);
+    return Keeping.KeepsPlace ? Own : ThePictureReader().WithoutPlace(Own);
 }
 
 // Damage that a reader would meet is met here.
@@ -51,7 +51,7 @@ std::optional<QByteArray> Unharmed(const QByteArray& Jpeg, PictureTurn Turned,
     if (Turn.IsNone()) return Orientation == 1 ? Alone : SaidUpright(Alone);
     if (PixelCount(Upright) > MostTurnedPixels) return std::nullopt;
     const DecodeBudget Budget(Upright, PixelCount(Upright) * TurnedPixelBytes);
-    const auto Lying = TurnedJpeg(Alone, Turn);
+    const auto Lying = ThePictureReader().Turned(Alone, Turn);
     return Lying ? std::optional(SaidUpright(*Lying)) : std::nullopt;
 }
 
@@ -61,7 +61,7 @@ QByteArray WrittenAnew(ImgX Picture, const QByteArray& Source, const PictureKeep
     Picture.Resize(Size.width(), Size.height(), SlideSelector);
     Picture.SetJpgQuality(Keeping.Quality());
     const QByteArray Jpeg = Picture.ToJpeg();
-    return WithMore(Jpeg, NotesFor(Size, Source, Keeping.KeepsPlace));
+    return WithMore(Jpeg, ThePictureReader().NotesFor(Size, Source, Keeping.KeepsPlace));
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include "pictures/PictureFile.h"
 #include "pictures/PictureResize.h"
 #include "pictures/formats/PictureFaults.h"
+#include "pictures/workers/PictureReading.h"
 #include "support/files/modHostFiles.h"
 
 namespace neb {

@@ -9,7 +9,7 @@
 
 #include "pictures/FittedJpeg.h"
 #include "pictures/formats/PictureDecoder.h"
-#include "pictures/notes/JpegTurn.h"
+#include "pictures/notes/PictureTurn.h"
 
 namespace neb {
 

@@ -8,6 +8,7 @@
 #include "pictures/formats/TiffTags.h"
 #include "pictures/notes/JpegMarks.h"
 #include "pictures/notes/JpegParts.h"
+#include "pictures/workers/PictureReading.h"
 #include "support/files/modHostFiles.h"
 
 namespace neb {

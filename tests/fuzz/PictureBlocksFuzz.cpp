@@ -3,9 +3,9 @@
 #include <cstdlib>
 
 #include "pictures/formats/FileBlocks.h"
-#include "pictures/formats/PictureDecoder.h"
 #include "pictures/formats/PictureFormats.h"
 #include "pictures/formats/PictureOrientation.h"
+#include "pictures/formats/PictureSniff.h"
 #include "pictures/formats/XmpPacket.h"
 #include "pictures/metafiles/EmfFrame.h"
 

@@ -29,7 +29,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* Data, size_t Size) {
     if (StartsAnotherProgram(File)) return 0;
     try {
         const auto Half = [](QSize Full) { return Full / 2; };
-        const neb::DecodedPicture Decoded = neb::DecodePicture(File, Half);
+        const neb::DecodedPicture Decoded = neb::DecodeHere(File, Half);
         if (Decoded.Picture.isNull() || Decoded.Full.isEmpty() ||
             Decoded.Picture.format() != QImage::Format_RGB32)
             std::abort();

@@ -6,7 +6,7 @@
 
 #include <random>
 
-#include "pictures/formats/PictureDecoder.h"
+#include "pictures/workers/PictureReading.h"
 #include "support/Fault.h"
 
 namespace neb::tests {

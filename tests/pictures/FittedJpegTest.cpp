@@ -5,6 +5,7 @@
 #include "pictures/formats/PictureFaults.h"
 #include "pictures/formats/TiffTags.h"
 #include "pictures/notes/JpegTurn.h"
+#include "pictures/workers/PictureReading.h"
 
 using namespace neb;
 using namespace neb::tests;

@@ -4,6 +4,7 @@
 #include "DamagedBytes.h"
 #include "Pictures.h"
 #include "pictures/formats/PictureFaults.h"
+#include "pictures/workers/PictureReading.h"
 
 using namespace neb;
 using namespace neb::tests;

@@ -1,6 +1,7 @@
 // What a picture's file says of it goes along with it into the album, and its place only where it
 // may.
 #include "pictures/notes/PictureNotes.h"
+#include "pictures/notes/SaidUpright.h"
 
 #include <QBuffer>
 #include <atomic>

@@ -3,6 +3,7 @@
 #include "Blocks.h"
 #include "DamagedBytes.h"
 #include "Pictures.h"
+#include "pictures/workers/PictureReading.h"
 
 using namespace neb;
 using namespace neb::tests;

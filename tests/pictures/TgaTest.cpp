@@ -2,6 +2,7 @@
 // rule of the format.
 #include "DamagedBytes.h"
 #include "Pictures.h"
+#include "pictures/workers/PictureReading.h"
 
 using namespace neb;
 using namespace neb::tests;

@@ -3,8 +3,9 @@
 #include "harness/WithoutExtraFormats.h"
 #include "pictures/Blocks.h"
 #include "pictures/Pictures.h"
-#include "pictures/formats/PictureDecoder.h"
 #include "pictures/formats/PictureFaults.h"
+#include "pictures/formats/PictureSniff.h"
+#include "pictures/workers/PictureReading.h"
 
 using namespace neb;
 using namespace neb::tests;

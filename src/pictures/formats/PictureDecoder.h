@@ -16,12 +16,10 @@ struct DecodedPicture {
 // From the full upright size, the least size in pixels that the caller has use for.
 using NeededSize = std::function<QSize(QSize Full)>;
 
-// Throws Fault (numbers in PictureFaults.h), without the file's name.
-DecodedPicture DecodePicture(const QByteArray& Bytes, const NeededSize& Needed = {});
-
-// Whether a file that begins with these bytes, four thousand of them or its whole, is taken for a
-// picture; those of extra formats only while they are on (support/MediaTypes).
-bool LooksLikePicture(const QByteArray& Head);
+// In this very process, which a hostile file may take over: for what runs behind a locked door, and
+// for tests. Everybody else calls DecodePicture (pictures/workers/PictureReading.h). Throws Fault
+// (numbers in PictureFaults.h), without the file's name.
+DecodedPicture DecodeHere(const QByteArray& Bytes, const NeededSize& Needed = {});
 
 // Bytes above which a file is not even read.
 inline constexpr qint64 LargestPictureFile = 450LL << 20;

@@ -63,8 +63,8 @@ qint64 WbmpNeeds(const ByteView& Bytes);
 // What the first chunk of that name in a PNG file holds; nothing when there is none or it is cut.
 std::optional<QByteArrayView> PngChunk(const ByteView& Bytes, QByteArrayView Name);
 
-// Bytes of memory that all decoding together may take. A picture's share is held while it is
-// decoded, so that several large ones wait for each other.
+// A picture's share of the memory that all decoding together may take (DecodeHost.h), held while it
+// is decoded, so that several large ones wait for each other.
 class DecodeBudget {
   public:
     // Throws FaultTooLarge when the picture alone is beyond the limit.
@@ -74,7 +74,8 @@ class DecodeBudget {
     DecodeBudget& operator=(const DecodeBudget&) = delete;
 
   private:
-    int mShare;
+    QSize mSize;
+    qint64 mBytes;
 };
 
 inline qint64 PixelCount(QSize Size) {

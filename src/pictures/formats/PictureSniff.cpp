@@ -1,5 +1,8 @@
 // How each format is known by its content.
+#include "pictures/formats/PictureSniff.h"
+
 #include "pictures/formats/PictureFormats.h"
+#include "support/MediaTypes.h"
 
 namespace neb {
 namespace {
@@ -134,6 +137,39 @@ std::optional<QByteArrayView> PngChunk(const ByteView& Bytes, QByteArrayView Nam
 
 qint64 WbmpNeeds(const ByteView& Bytes) {
     return ReadWbmpHeader(Bytes).Needs;
+}
+
+namespace {
+
+struct SniffRow {
+    PictureFormat Format;
+    bool (*LooksLike)(const ByteView&);
+    bool Extra = false;
+};
+
+// The formats with the surest marks stand first, those with hardly any last.
+constexpr SniffRow Sniffs[] = {
+    {PictureFormat::Jpeg, LooksLikeJpeg},       {PictureFormat::Png, LooksLikePng},
+    {PictureFormat::Tiff, LooksLikeTiff},       {PictureFormat::Psd, LooksLikePsd},
+    {PictureFormat::Emf, LooksLikeEmf},         {PictureFormat::Wmf, LooksLikeWmf},
+    {PictureFormat::Pcd, LooksLikePcd},         {PictureFormat::Gif, LooksLikeGif, true},
+    {PictureFormat::Webp, LooksLikeWebp, true}, {PictureFormat::Heif, LooksLikeHeic, true},
+    {PictureFormat::Jp2, LooksLikeJp2, true},   {PictureFormat::Bmp, LooksLikeBmp},
+    {PictureFormat::Pcx, LooksLikePcx},         {PictureFormat::Wbmp, LooksLikeWbmp},
+    {PictureFormat::Tga, LooksLikeTga},
+};
+
+}  // namespace
+
+std::optional<PictureFormat> FormatOf(const QByteArray& Head) {
+    const ByteView Bytes(Head);
+    for (const SniffRow& Row : Sniffs)
+        if ((!Row.Extra || ExtraFormatsAreOn()) && Row.LooksLike(Bytes)) return Row.Format;
+    return std::nullopt;
+}
+
+bool LooksLikePicture(const QByteArray& Head) {
+    return FormatOf(Head).has_value();
 }
 
 }  // namespace neb

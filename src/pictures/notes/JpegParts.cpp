@@ -113,6 +113,10 @@ QByteArray JpegPartOf(int Marker, const QByteArray& Content) {
     return Part + Content;
 }
 
+QByteArray ExifPartOf(const QByteArray& Block) {
+    return JpegPartOf(ExifMarker, ExifMark + Block);
+}
+
 QByteArray WithParts(const QByteArray& Jpeg, const JpegParts& Parts,
                      const std::function<QByteArray(const JpegPart&)>& Changed) {
     QByteArray Result = Jpeg.left(2);

@@ -39,6 +39,8 @@ std::optional<JpegParts> PartsOf(const QByteArray& Jpeg);
 
 // A part's bytes with marker and length; nothing where the content is too long for one.
 QByteArray JpegPartOf(int Marker, const QByteArray& Content);
+// The same of a TIFF structure, as EXIF keeps it.
+QByteArray ExifPartOf(const QByteArray& Block);
 // The same JPEG with each part of its head as Changed gives it, which may be empty.
 QByteArray WithParts(const QByteArray& Jpeg, const JpegParts& Parts,
                      const std::function<QByteArray(const JpegPart&)>& Changed);

@@ -7,8 +7,6 @@
 namespace neb {
 namespace {
 
-constexpr PictureTurn UprightTurns[] = {{false, 0}, {true, 0},  {false, 2}, {true, 2},
-                                        {true, 3},  {false, 1}, {true, 1},  {false, 3}};
 constexpr TJXOP Turns[] = {TJXOP_NONE, TJXOP_ROT90, TJXOP_ROT180, TJXOP_ROT270};
 constexpr TJXOP MirroredTurns[] = {TJXOP_HFLIP, TJXOP_TRANSVERSE, TJXOP_VFLIP, TJXOP_TRANSPOSE};
 
@@ -20,16 +18,6 @@ struct Freed {
 };
 
 }  // namespace
-
-PictureTurn PictureTurn::ToUpright(int Orientation) {
-    return UprightTurns[Orientation - 1];
-}
-
-// A mirror changes the way round of the turn before it.
-PictureTurn PictureTurn::Then(PictureTurn Next) const {
-    const int Before = Next.Mirrored ? 4 - Quarters : Quarters;
-    return {Mirrored != Next.Mirrored, (Before + Next.Quarters) % 4};
-}
 
 std::optional<QByteArray> TurnedJpeg(const QByteArray& Jpeg, PictureTurn Turn) {
     const std::unique_ptr<void, Closed> Library(tjInitTransform());

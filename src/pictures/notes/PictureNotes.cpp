@@ -1,6 +1,5 @@
 #include "pictures/notes/PictureNotes.h"
 
-#include <QRegularExpression>
 #include <exiv2/exiv2.hpp>
 #include <mutex>
 
@@ -188,18 +187,6 @@ bool IsOtherThatTellsPlace(const JpegPart& Part) {
     return IsOther && Part.Content.toByteArray().toLower().contains("latitude");
 }
 
-// One letter for another: the length stays.
-QByteArray XmpUpright(QByteArray Part) {
-    static const QRegularExpression Lying(QStringLiteral("tiff:Orientation\\W+([2-8])"));
-    auto Each = Lying.globalMatch(QString::fromLatin1(Part));
-    while (Each.hasNext()) Part[Each.next().capturedStart(1)] = '1';
-    return Part;
-}
-
-QByteArray ExifPartOf(const QByteArray& Block) {
-    return JpegPartOf(ExifMarker, ExifMark + Block);
-}
-
 }  // namespace
 
 QByteArray NotesFor(QSize Pixels, const QByteArray& Source, bool KeepsPlace) {
@@ -225,19 +212,6 @@ QByteArray WithoutPlace(const QByteArray& Jpeg) {
         if (!Part.IsExif()) return AsItIs;
         QByteArray Block = Part.Exif().toByteArray();
         return ExifBlock(Block).DropPlace() ? ExifPartOf(Block) : AsItIs;
-    });
-}
-
-QByteArray SaidUpright(const QByteArray& Jpeg) {
-    const auto Parts = PartsOf(Jpeg);
-    if (!Parts) return Jpeg;
-    return WithParts(Jpeg, *Parts, [&](const JpegPart& Part) {
-        const QByteArray AsItIs = Jpeg.mid(Part.At, Part.Length);
-        if (Part.IsXmp()) return XmpUpright(AsItIs);
-        if (!Part.IsExif()) return AsItIs;
-        QByteArray Block = Part.Exif().toByteArray();
-        ExifBlock(Block).SetUpright(Parts->Stored);
-        return ExifPartOf(Block);
     });
 }
 

@@ -18,7 +18,5 @@ QByteArray NotesFor(QSize Pixels, const QByteArray& Source, bool KeepsPlace);
 // A JPEG that is kept as it is, without where it was taken; the notes of the camera's maker, which
 // may tell it as well, go with the place. The same bytes when it does not say.
 QByteArray WithoutPlace(const QByteArray& Jpeg);
-// A JPEG whose pixels have been turned upright, and what it says of how they lie is made to fit.
-QByteArray SaidUpright(const QByteArray& Jpeg);
 
 }  // namespace neb

@@ -2,7 +2,7 @@
 
 #include "db/clsDBEngine.h"
 #include "effects/EffectSteps.h"
-#include "pictures/formats/PictureDecoder.h"
+#include "pictures/formats/PictureSniff.h"
 #include "show/EngineSound.h"
 #include "show/captions/CaptionText.h"
 #include "sound/decoding/SoundDecoder.h"

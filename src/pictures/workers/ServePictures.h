@@ -1,0 +1,12 @@
+// Reads pictures for the program, behind the door, until the program is gone. The entry of the
+// processes that do it; a test puts a hostile reader there.
+#pragma once
+
+#include "pictures/workers/PictureReading.h"
+#include "support/locked/LockedRoom.h"
+
+namespace neb {
+
+[[noreturn]] void ServePictures(LockedRoom& Room, PictureReader& Reader);
+
+}  // namespace neb

@@ -1,0 +1,16 @@
+// A LockReport in words. Used by nebctl and the About window.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include "support/locked/LockReport.h"
+
+namespace neb {
+
+// A sentence for the About window.
+QString LockSentence(const LockReport& Report);
+// A line a measure, with what it means, for a terminal.
+QStringList LockLines(const LockReport& Report);
+
+}  // namespace neb

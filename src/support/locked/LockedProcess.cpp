@@ -1,0 +1,347 @@
+#include "support/locked/LockedProcess.h"
+
+#include <fcntl.h>
+#include <poll.h>
+#include <signal.h>
+#include <spawn.h>
+#include <sys/mman.h>
+#include <sys/resource.h>
+#include <sys/socket.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <QCoreApplication>
+#include <cerrno>
+#include <chrono>
+#include <cmath>
+#include <ctime>
+#include <vector>
+
+#include "support/Fault.h"
+#include "support/files/HostNames.h"
+#include "support/files/modHostFiles.h"
+#include "support/files/modHostFilesSpelling.h"
+
+extern char** environ;
+
+namespace neb {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+// Until it is ready, with all its libraries, on a slow disk.
+constexpr double SecondsToBeginIn = 60;
+// What is kept of the memory that both see, between one picture and the next.
+constexpr qint64 KeptBytes = 24 << 20;
+
+class Descriptor {
+  public:
+    explicit Descriptor(int Number = -1) : mNumber(Number) {}
+    ~Descriptor() { Close(); }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    int operator*() const { return mNumber; }
+    void Close() {
+        if (mNumber >= 0) ::close(std::exchange(mNumber, -1));
+    }
+
+  private:
+    int mNumber;
+};
+
+[[noreturn]] void ThrowCannotStart(const QString& Path, int Error) {
+    throw Fault(QStringLiteral("No picture or sound can be read: a part of the program cannot be "
+                               "started. (%1)")
+                    .arg(qt_error_string(Error)),
+                Path);
+}
+
+// Memory for both. Its length is fixed, so that neither can pull it from under the other.
+class SharedMemory {
+  public:
+    SharedMemory(const char* Name, qint64 Bytes, bool ForReading)
+        : mFile(::memfd_create(Name, MFD_CLOEXEC | MFD_ALLOW_SEALING)), mBytes(Bytes) {
+        if (*mFile < 0 || ::ftruncate(*mFile, Bytes) != 0) throw std::bad_alloc();
+        const int Mode = ForReading ? PROT_READ : PROT_READ | PROT_WRITE;
+        void* const At = ::mmap(nullptr, static_cast<size_t>(Bytes), Mode, MAP_SHARED, *mFile, 0);
+        if (At == MAP_FAILED) throw std::bad_alloc();
+        mAt = static_cast<uchar*>(At);
+        // What is ours to write is the other's to read alone.
+        const int Seals = F_SEAL_SHRINK | F_SEAL_GROW | (ForReading ? 0 : F_SEAL_FUTURE_WRITE);
+        if (::fcntl(*mFile, F_ADD_SEALS, Seals | F_SEAL_SEAL) != 0 &&
+            ::fcntl(*mFile, F_ADD_SEALS, F_SEAL_SHRINK | F_SEAL_GROW | F_SEAL_SEAL) != 0)
+            throw std::bad_alloc();
+    }
+    ~SharedMemory() { ::munmap(mAt, static_cast<size_t>(mBytes)); }
+    SharedMemory(const SharedMemory&) = delete;
+    SharedMemory& operator=(const SharedMemory&) = delete;
+
+    int File() const { return *mFile; }
+    uchar* At() const { return mAt; }
+    qint64 Bytes() const { return mBytes; }
+    void Trim() {
+        if (mBytes <= KeptBytes) return;
+        ::fallocate(*mFile, FALLOC_FL_PUNCH_HOLE | FALLOC_FL_KEEP_SIZE, KeptBytes,
+                    mBytes - KeptBytes);
+    }
+
+  private:
+    Descriptor mFile;
+    uchar* mAt = nullptr;
+    qint64 mBytes;
+};
+
+// The same for every user, whatever stands in the way of a library that looks for more.
+std::vector<QByteArray> EnvironmentOf() {
+    std::vector<QByteArray> All;
+    for (char** Each = environ; *Each; ++Each) {
+        const QByteArrayView Is(*Each);
+        if (!Is.startsWith("QT_") && !Is.startsWith("MALLOC_ARENA_MAX=")) All.emplace_back(*Each);
+    }
+    All.emplace_back("QT_QPA_PLATFORM=offscreen");
+    All.emplace_back("MALLOC_ARENA_MAX=1");
+    return All;
+}
+
+class SpawnActions {
+  public:
+    SpawnActions() {
+        ::posix_spawn_file_actions_init(&mActions);
+        ::posix_spawnattr_init(&mAttributes);
+        sigset_t None, All;
+        ::sigemptyset(&None);
+        ::sigfillset(&All);
+        ::posix_spawnattr_setsigmask(&mAttributes, &None);
+        ::posix_spawnattr_setsigdefault(&mAttributes, &All);
+        ::posix_spawnattr_setpgroup(&mAttributes, 0);  // Ctrl+C at a terminal is for us
+        ::posix_spawnattr_setflags(
+            &mAttributes, POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF | POSIX_SPAWN_SETPGROUP);
+    }
+    ~SpawnActions() {
+        ::posix_spawn_file_actions_destroy(&mActions);
+        ::posix_spawnattr_destroy(&mAttributes);
+    }
+    SpawnActions(const SpawnActions&) = delete;
+    SpawnActions& operator=(const SpawnActions&) = delete;
+
+    // By way of a copy above all places: what is given may lie at the place of another.
+    void Give(int From, int To) {
+        constexpr int Above = LockedOut + 1;
+        mHeld.push_back(std::make_unique<Descriptor>(::fcntl(From, F_DUPFD_CLOEXEC, Above)));
+        ::posix_spawn_file_actions_adddup2(&mActions, **mHeld.back(), To);
+    }
+    pid_t Start(const QByteArray& Path, const QByteArray& Role) {
+        ::posix_spawn_file_actions_addclosefrom_np(&mActions, LockedOut + 1);
+        QByteArray Program = Path, Argument = Role;
+        char* const Words[] = {Program.data(), Argument.data(), nullptr};
+        std::vector<QByteArray> Environment = EnvironmentOf();
+        std::vector<char*> Pointers;
+        for (QByteArray& Each : Environment) Pointers.push_back(Each.data());
+        Pointers.push_back(nullptr);
+        pid_t Pid = 0;
+        const int Error =
+            ::posix_spawn(&Pid, Path.constData(), &mActions, &mAttributes, Words, Pointers.data());
+        if (Error != 0) ThrowCannotStart(HostName(Path.constData()), Error);
+        return Pid;
+    }
+
+  private:
+    posix_spawn_file_actions_t mActions;
+    posix_spawnattr_t mAttributes;
+    std::vector<std::unique_ptr<Descriptor>> mHeld;
+};
+
+std::pair<int, int> MakeLine() {
+    int Ends[2];
+    if (::socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, Ends) != 0) throw std::bad_alloc();
+    return {Ends[0], Ends[1]};
+}
+
+double ProcessorSecondsOf(pid_t Pid) {
+    clockid_t Its;
+    timespec Time = {};
+    if (::clock_getcpuclockid(Pid, &Its) != 0 || ::clock_gettime(Its, &Time) != 0) return 0;
+    return double(Time.tv_sec) + double(Time.tv_nsec) / 1e9;
+}
+
+void SetSoftLimit(pid_t Pid, __rlimit_resource What, rlim_t Most) {
+    rlimit Limit = {};
+    if (::prlimit(Pid, What, nullptr, &Limit) != 0) return;
+    Limit.rlim_cur = std::min(Most, Limit.rlim_max);
+    ::prlimit(Pid, What, &Limit, nullptr);
+}
+
+}  // namespace
+
+QString LockedProgramPath(const QString& Name) {
+    return CleanPath(QCoreApplication::applicationDirPath() +
+                     QStringLiteral("/../lib/neb-slide-show/") + Name);
+}
+
+struct LockedProcess::State {
+    explicit State(const LockedProgram& Program)
+        : In("neb-in", Program.InBytes, false),
+          Out("neb-out", Program.OutBytes, true),
+          Path(Program.Path) {
+        const auto [Ours, Its] = MakeLine();
+        const Descriptor ItsEnd(Its);
+        Line = std::make_unique<Descriptor>(Ours);
+        SpawnActions How;
+        How.Give(*ItsEnd, LockedTalk);
+        How.Give(In.File(), LockedIn);
+        How.Give(Out.File(), LockedOut);
+        Pid = How.Start(HostBytes(Program.Path), Program.Role);
+    }
+    ~State() {
+        if (AtWork) ::kill(Pid, SIGKILL);
+        Line->Close();
+        Reap();
+    }
+    State(const State&) = delete;
+    State& operator=(const State&) = delete;
+
+    // It leaves when its line is closed; one that does not is not asked.
+    void Reap() {
+        if (IsReaped) return;
+        IsReaped = true;
+        constexpr int Looks = 100;
+        for (int I = 0; I < Looks; ++I) {
+            if (::waitpid(Pid, &Status, WNOHANG) != 0) return;
+            ::usleep(1000);
+        }
+        ::kill(Pid, SIGKILL);
+        while (::waitpid(Pid, &Status, 0) < 0 && errno == EINTR) continue;
+    }
+    void Kill(LockedEnd Because) {
+        ::kill(Pid, SIGKILL);
+        Line->Close();
+        Reap();
+        Why = Because;
+    }
+    // Its line has been closed from the other side.
+    void Gone() {
+        Line->Close();
+        Reap();
+        const int Signal = WIFSIGNALED(Status) ? WTERMSIG(Status) : 0;
+        Why = Signal == SIGSYS    ? LockedEnd::Forbidden
+              : Signal == SIGXCPU ? LockedEnd::TooLong
+                                  : LockedEnd::Crashed;
+    }
+    // Whether there is something to read before the time is up.
+    bool Wait() {
+        for (;;) {
+            const auto Left =
+                std::chrono::duration_cast<std::chrono::milliseconds>(Until - Clock::now()).count();
+            pollfd Poll = {**Line, POLLIN, 0};
+            const int Found =
+                ::poll(&Poll, 1, static_cast<int>(std::clamp<qint64>(Left, 0, 1 << 30)));
+            if (Found > 0) return true;
+            if (Found == 0 && Left <= 0) return false;
+        }
+    }
+    std::optional<LockedMessage> Receive() {
+        if (Why != LockedEnd::None) return std::nullopt;
+        if (!Wait()) return Kill(LockedEnd::TooLong), std::nullopt;
+        LockedMessage Message;
+        // one byte more than a message has, to see one that is too long
+        std::array<std::byte, sizeof(Message) + 1> Bytes;
+        const ssize_t Length = ::recv(**Line, Bytes.data(), Bytes.size(), 0);
+        if (Length <= 0) return Gone(), std::nullopt;
+        std::memcpy(static_cast<void*>(&Message), Bytes.data(), sizeof(Message));
+        if (Length != sizeof(Message) || !Message.IsWhole())
+            return Kill(LockedEnd::Nonsense), std::nullopt;
+        return Message;
+    }
+
+    SharedMemory In, Out;
+    QString Path;
+    std::unique_ptr<Descriptor> Line;
+    pid_t Pid = 0;
+    int Status = 0;
+    bool IsReaped = false;
+    bool AtWork = true;
+    LockedEnd Why = LockedEnd::None;
+    LockReport Report;
+    qint64 OwnSpace = 0;  // bytes of address space
+    Clock::time_point Until = Clock::now() + std::chrono::seconds(int(SecondsToBeginIn));
+};
+
+LockedProcess::LockedProcess(const LockedProgram& Program) {
+    if (!FileExists(Program.Path))
+        throw Fault(QStringLiteral("No picture or sound can be read: a part of the program is "
+                                   "missing."),
+                    Program.Path);
+    mState = std::make_unique<State>(Program);
+    const auto Ready = mState->Receive();
+    if (!Ready || Ready->Kind != LockedReady)
+        throw Fault(QStringLiteral("No picture or sound can be read: a part of the program does "
+                                   "not get ready."),
+                    Program.Path);
+    mState->Report = LockReport::Of(Ready->Numbers[0]);
+    mState->OwnSpace = Ready->Numbers[1];
+    mState->AtWork = false;
+}
+
+LockedProcess::~LockedProcess() = default;
+
+uchar* LockedProcess::In() {
+    return mState->In.At();
+}
+
+qint64 LockedProcess::InBytes() const {
+    return mState->In.Bytes();
+}
+
+const uchar* LockedProcess::Out() const {
+    return mState->Out.At();
+}
+
+qint64 LockedProcess::OutBytes() const {
+    return mState->Out.Bytes();
+}
+
+void LockedProcess::LetGoOfMemory() {
+    mState->In.Trim();
+    mState->Out.Trim();
+}
+
+void LockedProcess::Allow(const LockedAllowance& Allowance) {
+    State& Its = *mState;
+    if (Its.Why != LockedEnd::None) return;
+    SetSoftLimit(Its.Pid, RLIMIT_AS, static_cast<rlim_t>(Its.OwnSpace + Allowance.Memory));
+    const double Processor = ProcessorSecondsOf(Its.Pid) + Allowance.ProcessorSeconds;
+    SetSoftLimit(Its.Pid, RLIMIT_CPU, static_cast<rlim_t>(std::ceil(Processor)));
+    Its.Until = Clock::now() + std::chrono::milliseconds(qint64(Allowance.Seconds * 1000));
+}
+
+void LockedProcess::Send(const LockedMessage& Message) {
+    State& Its = *mState;
+    if (Its.Why != LockedEnd::None) return;
+    Its.AtWork = true;
+    // What goes to one that has ended is told by the answer that does not come.
+    (void)::send(**Its.Line, &Message, sizeof(Message), MSG_NOSIGNAL);
+}
+
+std::optional<LockedMessage> LockedProcess::Receive() {
+    const auto Message = mState->Receive();
+    mState->AtWork = mState->AtWork && !Message;
+    return Message;
+}
+
+void LockedProcess::EndBecause(LockedEnd Why) {
+    if (mState->Why == LockedEnd::None) mState->Kill(Why);
+}
+
+LockedEnd LockedProcess::End() const {
+    return mState->Why;
+}
+
+const LockReport& LockedProcess::Report() const {
+    return mState->Report;
+}
+
+qint64 LockedProcess::Pid() const {
+    return mState->Pid;
+}
+
+}  // namespace neb
