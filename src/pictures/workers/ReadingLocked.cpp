@@ -240,6 +240,12 @@ QByteArray ReadingLocked::SvgOf(const QByteArray& Emf) {
     return Its.BytesOf(Its.Ask(Request(Talk::Convert, Emf))).value_or(QByteArray());
 }
 
+std::vector<NamedLock> ReadingLocked::Reports() {
+    return {{QStringLiteral("Pictures"), mPictures.Report()},
+            {QStringLiteral("Drawings"), mDrawings.Report()},
+            {QStringLiteral("Metafiles"), mMetafiles.Report()}};
+}
+
 // Never ended: its processes end with the program, whatever threads still do.
 ReadingLocked& TheLockedReading() {
     static auto* const Its = new ReadingLocked;

@@ -21,8 +21,9 @@ class ReadingLocked : public PictureReader {
 
     // One is made ready beside the caller, for the first picture.
     void WarmUp() { mPictures.WarmUp(); }
-    // How far the processes are locked. Throws Fault where none can be started.
-    LockReport Report() { return mPictures.Report(); }
+    // How far the processes are locked, by what they read. Starts each. Throws Fault where one
+    // cannot be started.
+    std::vector<NamedLock> Reports();
 
   private:
     class Reading;

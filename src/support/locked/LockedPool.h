@@ -9,6 +9,12 @@
 
 namespace neb {
 
+// What is read by locked processes, and how far they are locked.
+struct NamedLock {
+    QString Name;
+    LockReport Report;
+};
+
 class LockedPool {
   public:
     // Most: processes at work at a time; 0: as many as there are processors. A caller who has
