@@ -1,6 +1,17 @@
 #include "support/locked/LockWords.h"
 
+#include <algorithm>
+
 namespace neb {
+
+LockReport Weaker(const LockReport& One, const LockReport& Other) {
+    return {std::min(One.SystemCalls, Other.SystemCalls),
+            std::min(One.Landlock, Other.Landlock),
+            One.EmptyRoot && Other.EmptyRoot,
+            One.OwnNetwork && Other.OwnNetwork,
+            One.NoNewPrivileges && Other.NoNewPrivileges,
+            One.Limits && Other.Limits};
+}
 
 QString LockSentence(const LockReport& Report) {
     if (Report.IsFull())
