@@ -134,6 +134,8 @@ void AllowThreads(Filter& Its) {
     Its.Allow("clone", {HasOf(0, Shared | Spaces | CLONE_UNTRACED | CLONE_PTRACE, Shared)});
     Its.Refuse("clone3", ENOSYS);
     Its.Allow("prctl", {Is(0, PR_SET_NAME)});
+    // the two signals that the C library keeps for its threads; the first thread makes them ready
+    for (const std::uint64_t Own : {32, 33}) Its.Allow("rt_sigaction", {Is(0, Own)});
 }
 
 }  // namespace
