@@ -33,7 +33,7 @@ enum class Talk : std::uint32_t {
              // from the place that the third number names
 };
 
-// The longest sentence.
-inline constexpr std::int64_t MostSentence = 600;
+// The longest sentence; a library may have a long one of its own in it.
+inline constexpr std::int64_t MostSentence = 4000;
 
 }  // namespace neb

@@ -58,6 +58,18 @@ void Describe(TIFF* Out, const TiffKind& Kind) {
     if (!Kind.Tiled) TIFFSetField(Out, TIFFTAG_ROWSPERSTRIP, 16);
 }
 
+// A strip or a tile; the lowest strip has the rows that are left.
+bool Write(TIFF* Out, const TiffKind& Kind, quint32 Piece) {
+    constexpr quint32 StripRows = 16;
+    const auto Height = static_cast<quint32>(Odd.height());
+    const quint32 Strips = (Height + StripRows - 1) / StripRows;
+    const quint32 Rows = std::min(StripRows, Height - Piece % Strips * StripRows);
+    const tmsize_t Bytes = Kind.Tiled ? TIFFTileSize(Out) : TIFFVStripSize(Out, Rows);
+    QByteArray Samples = SamplesOf(Kind, Bytes);
+    return (Kind.Tiled ? TIFFWriteEncodedTile(Out, Piece, Samples.data(), Bytes)
+                       : TIFFWriteEncodedStrip(Out, Piece, Samples.data(), Bytes)) >= 0;
+}
+
 // Empty where this library does not know the way of packing.
 QByteArray Tiff(const TiffKind& Kind) {
     if (!TIFFIsCODECConfigured(static_cast<quint16>(Kind.Compression))) return {};
@@ -65,13 +77,8 @@ QByteArray Tiff(const TiffKind& Kind) {
     const QString File = Folder / QStringLiteral("made.tif");
     TIFF* const Out = TIFFOpen(qPrintable(File), "w");
     Describe(Out, Kind);
-    const tmsize_t Bytes = Kind.Tiled ? TIFFTileSize(Out) : TIFFStripSize(Out);
     const quint32 Pieces = Kind.Tiled ? TIFFNumberOfTiles(Out) : TIFFNumberOfStrips(Out);
-    QByteArray Samples = SamplesOf(Kind, Bytes);
-    for (quint32 I = 0; I < Pieces; ++I)
-        EXPECT_GE(Kind.Tiled ? TIFFWriteEncodedTile(Out, I, Samples.data(), Bytes)
-                             : TIFFWriteEncodedStrip(Out, I, Samples.data(), Bytes),
-                  0);
+    for (quint32 I = 0; I < Pieces; ++I) EXPECT_TRUE(Write(Out, Kind, I)) << Kind.Name;
     TIFFClose(Out);
     return ReadFile(File);
 }
@@ -103,6 +110,9 @@ QByteArray Heif(heif_compression_format Format, QSize Size) {
     heif_image* const Image = HeifImageOf(Woven(Size, QImage::Format_RGB888));
     if (heif_context_get_encoder_for_format(File, Format, &Encoder).code == 0) {
         heif_encoder_set_lossy_quality(Encoder, 60);
+        // Whichever of the two it is: as fast as it can.
+        heif_encoder_set_parameter_string(Encoder, "preset", "ultrafast");
+        heif_encoder_set_parameter_integer(Encoder, "speed", 9);
         heif_context_encode_image(File, Image, Encoder, nullptr, &Picture);
         heif_writer Writer = {1, Append};
         heif_context_write(File, &Writer, &Bytes);
@@ -187,7 +197,7 @@ std::vector<NamedFile> MadeTiffs() {
 
 std::vector<NamedFile> MadeHeifs() {
     std::vector<NamedFile> All;
-    for (const QSize Size : {Odd, QSize(64, 64), QSize(1600, 1200)}) {
+    for (const QSize Size : {Odd, QSize(64, 64)}) {
         const std::string Name = std::to_string(Size.width());
         Add(All, {{"HEIC of " + Name, Heif(heif_compression_HEVC, Size)},
                   {"AVIF of " + Name, Heif(heif_compression_AV1, Size)}});
