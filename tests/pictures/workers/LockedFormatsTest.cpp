@@ -3,6 +3,7 @@
 #include <random>
 
 #include "harness/WithoutExtraFormats.h"
+#include "pictures/NotedPictures.h"
 #include "pictures/formats/PictureFaults.h"
 #include "pictures/formats/PictureSniff.h"
 #include "pictures/workers/MadePictures.h"
@@ -54,6 +55,39 @@ void FlipBits(QByteArray& Bytes, std::mt19937& Random) {
         const auto At = static_cast<qsizetype>(Random() % Range);
         Bytes[At] = static_cast<char>(Bytes[At] ^ (1 << Random() % 8));
     }
+}
+
+// The sample with other numbers where its width and height stand.
+QByteArray Giant(const char* Name, std::initializer_list<qsizetype> Places, int Width, bool Big) {
+    constexpr quint32 Side = 60000;
+    QByteArray Bytes = SampleOf(Name);
+    for (const qsizetype At : Places)
+        for (int I = 0; I < Width; ++I)
+            Bytes[At + I] = static_cast<char>(Side >> 8 * (Big ? Width - 1 - I : I));
+    return Bytes;
+}
+
+// Where the four bytes of the width of 48 and those of the height follow each other.
+QByteArray GiantAnywhere(const char* Name) {
+    const QByteArray Size = QByteArray::fromHex("0000003000000020");
+    QByteArray Bytes = SampleOf(Name);
+    EXPECT_TRUE(Bytes.contains(Size)) << Name;
+    return Bytes.replace(Size, QByteArray::fromHex("0000753000007530"));
+}
+
+// A photograph of a maker whose own notes are read in a way of their own, with words in letters of
+// two bytes.
+QByteArray PhotographBy(const char* Maker) {
+    using Exif = MadeExif;
+    Exif Made;
+    const QByteArray Words = QByteArray("UNICODE\0", 8) + QByteArray("o\0r\0a\0l\0", 8);
+    const quint32 Details = Made.Add({Exif::Text(0x9003, "2003:12:24 18:30:00"),
+                                      {0x927C, 7, 64, QByteArray(Maker).leftJustified(64, '\1')},
+                                      {0x9286, 7, quint32(Words.size()), Words}});
+    Made.StartWith(
+        Made.Add({Exif::Text(0x010E, "Grandmother by the tree"), Exif::Text(0x010F, Maker),
+                  Exif::Text(0x0110, "Model One"), Exif::Long(0x8769, Details)}));
+    return WithExif(JpegOf(Motif()), Made.Block());
 }
 
 }  // namespace
@@ -161,4 +195,41 @@ TEST(LockedFormats, EverySampleWithFlippedBitsEndsInTheSame) {
             if (FormatOf(Bytes) == PictureFormat::Heif) Is.Picture = Plain.Picture = QImage();
             EXPECT_EQ(Plain, Is);
         }
+}
+
+TEST(LockedFormats, APictureThatIsTooLargeIsRefusedInTheSameWords) {
+    ReadingLocked Locked;
+    const QByteArray Giants[] = {
+        Giant("rgb24.bmp", {18, 22}, 4, false), Giant("rgb444.jpg", {163, 165}, 2, true),
+        GiantAnywhere("lossy.heic"), GiantAnywhere("plain.avif"), GiantAnywhere("plain.j2k")};
+    for (const QByteArray& Each : Giants) {
+        const Outcome Is = Decoded(Locked, Each);
+        EXPECT_EQ(FaultTooLarge, Is.Number) << Each.left(12).constData();
+        ExpectItLives(Is);
+        ExpectSame(Locked, Each);
+    }
+    for (const QByteArray& Each :
+         {Giant("rgb8.psd", {14, 18}, 4, true), Giant("rgb8.png", {16, 20}, 4, true),
+          Giant("top24.tga", {12, 14}, 2, false), Giant("rgb24.pcx", {8, 10}, 2, false)})
+        ExpectSame(Locked, Each);
+}
+
+TEST(LockedFormats, NotesOfEveryMakerAreTheSameBehindTheDoor) {
+    ReadingHere Here;
+    ReadingLocked Locked;
+    for (const char* const Maker : {"Canon", "NIKON CORPORATION", "SONY", "Panasonic", "OLYMPUS",
+                                    "FUJIFILM", "PENTAX", "CASIO", "Minolta", "SIGMA", "SAMSUNG"}) {
+        const QByteArray File = PhotographBy(Maker);
+        EXPECT_GT(Locked.NotesFor({48, 32}, File, true).size(), 100) << Maker;
+        EXPECT_EQ(MadeOf(Here, File), MadeOf(Locked, File)) << Maker;
+    }
+}
+
+// The library that reads it has pictures of that size in files where its own policy counts.
+TEST(LockedFormats, APictureOf36MegapixelsAnd16BitsIsReadWithoutAFile) {
+    ReadingLocked Locked;
+    const Outcome Is = Decoded(Locked, FineTiff({6400, 5600}));
+    EXPECT_EQ(QSize(6400, 5600), Is.Full) << Is.Sentence.toStdString();
+    EXPECT_EQ(qRgb(0x42, 0x42, 0x42), Is.Picture.pixel(3000, 100));
+    EXPECT_EQ(qRgb(0x42, 0x42, 0x42), Is.Picture.pixel(6399, 5599));
 }

@@ -41,10 +41,10 @@ QByteArray SamplesOf(const TiffKind& Kind, qint64 Bytes) {
     return Samples;
 }
 
-void Describe(TIFF* Out, const TiffKind& Kind) {
+void Describe(TIFF* Out, const TiffKind& Kind, QSize Size = Odd) {
     constexpr int TileSide = 128;
-    TIFFSetField(Out, TIFFTAG_IMAGEWIDTH, Odd.width());
-    TIFFSetField(Out, TIFFTAG_IMAGELENGTH, Odd.height());
+    TIFFSetField(Out, TIFFTAG_IMAGEWIDTH, Size.width());
+    TIFFSetField(Out, TIFFTAG_IMAGELENGTH, Size.height());
     TIFFSetField(Out, TIFFTAG_BITSPERSAMPLE, Kind.Bits);
     TIFFSetField(Out, TIFFTAG_SAMPLESPERPIXEL, Kind.Samples);
     TIFFSetField(Out, TIFFTAG_PHOTOMETRIC, Kind.Photometric);
@@ -193,6 +193,21 @@ std::vector<NamedFile> MadeTiffs() {
     for (const TiffKind& Kind : TiffKinds)
         Add(All, {{std::string("TIFF, ") + Kind.Name, Tiff(Kind)}});
     return All;
+}
+
+QByteArray FineTiff(QSize Size) {
+    const harness::TempFolder Folder;
+    const QString File = Folder / QStringLiteral("made.tif");
+    TIFF* const Out = TIFFOpen(qPrintable(File), "w");
+    Describe(Out, {"", PHOTOMETRIC_MINISBLACK, 1, 16, COMPRESSION_ADOBE_DEFLATE}, Size);
+    TIFFSetField(Out, TIFFTAG_ROWSPERSTRIP, 1);
+    QByteArray Row(qsizetype(Size.width()) * 2, '\x42');
+    for (int Y = 0; Y < Size.height(); ++Y) {
+        Row[Y % Row.size()] = static_cast<char>(Y);
+        TIFFWriteEncodedStrip(Out, static_cast<quint32>(Y), Row.data(), Row.size());
+    }
+    TIFFClose(Out);
+    return ReadFile(File);
 }
 
 std::vector<NamedFile> MadeHeifs() {

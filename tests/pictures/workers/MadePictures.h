@@ -12,6 +12,8 @@ QImage Woven(QSize Size, QImage::Format Format = QImage::Format_RGB32);
 QByteArray ByQt(const QImage& Picture, const char* Format, int Quality = 90);
 // Sixteen bits a sample, greys, inks, tiles; what the TIFF library and Magick++ share.
 std::vector<NamedFile> MadeTiffs();
+// Greys of sixteen bits, nearly all the same.
+QByteArray FineTiff(QSize Size);
 // By the other half of the library that reads them; nothing where it cannot.
 std::vector<NamedFile> MadeHeifs();
 std::vector<NamedFile> MadeJpegs();
