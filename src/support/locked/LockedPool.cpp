@@ -35,10 +35,11 @@ struct LockedPool::Shared {
         const auto IsFree = [this] { return !Idle.empty() || AtWork + Coming < Most; };
         Changed.wait_for(Locked, Patience, IsFree);
         ++AtWork;
-        if (Idle.empty()) return nullptr;
-        auto Its = std::move(Idle.back());
-        Idle.pop_back();
-        return Its;
+        return TakeIdle();
+    }
+    std::unique_ptr<LockedProcess> TakeNext() {
+        const std::lock_guard Locked(Lock);
+        return TakeIdle();
     }
     void Return(std::unique_ptr<LockedProcess> Its) {
         const bool Lives = Its && Its->End() == LockedEnd::None;
@@ -71,6 +72,14 @@ struct LockedPool::Shared {
         }
         Changed.notify_one();
     }
+
+  private:
+    std::unique_ptr<LockedProcess> TakeIdle() {
+        if (Idle.empty()) return nullptr;
+        auto Its = std::move(Idle.back());
+        Idle.pop_back();
+        return Its;
+    }
 };
 
 LockedPool::LockedPool(LockedProgram Program, int Most) : mShared(std::make_shared<Shared>()) {
@@ -82,6 +91,8 @@ LockedPool::LockedPool(LockedProgram Program, int Most) : mShared(std::make_shar
 LockedPool::~LockedPool() = default;
 
 LockedPool::Lent::Lent(LockedPool& Pool) : mPool(Pool), mProcess(Pool.mShared->Take()) {
+    // What the system has ended meanwhile, for want of memory say, is nobody's picture's fault.
+    while (mProcess && !mProcess->IsWaiting()) mProcess = mPool.mShared->TakeNext();
     if (mProcess) return;
     try {
         mProcess = mPool.mShared->Make();

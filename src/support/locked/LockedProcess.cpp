@@ -164,11 +164,11 @@ double ProcessorSecondsOf(pid_t Pid) {
     return double(Time.tv_sec) + double(Time.tv_nsec) / 1e9;
 }
 
-void SetSoftLimit(pid_t Pid, __rlimit_resource What, rlim_t Most) {
+bool SetSoftLimit(pid_t Pid, __rlimit_resource What, rlim_t Most) {
     rlimit Limit = {};
-    if (::prlimit(Pid, What, nullptr, &Limit) != 0) return;
+    if (::prlimit(Pid, What, nullptr, &Limit) != 0) return false;
     Limit.rlim_cur = std::min(Most, Limit.rlim_max);
-    ::prlimit(Pid, What, &Limit, nullptr);
+    return ::prlimit(Pid, What, &Limit, nullptr) == 0;
 }
 
 }  // namespace
@@ -253,6 +253,17 @@ struct LockedProcess::State {
         return Message;
     }
 
+    // Whether it is silent and lives. One that speaks unasked would have that taken for the answer
+    // to what comes next.
+    bool IsWaiting() {
+        if (Why != LockedEnd::None) return false;
+        std::byte One;
+        const ssize_t Length = ::recv(**Line, &One, sizeof(One), MSG_PEEK | MSG_DONTWAIT);
+        if (Length < 0 && errno == EAGAIN) return true;
+        Length > 0 ? Kill(LockedEnd::Nonsense) : Gone();
+        return false;
+    }
+
     SharedMemory In, Out;
     QString Path;
     std::unique_ptr<Descriptor> Line;
@@ -278,6 +289,9 @@ LockedProcess::LockedProcess(const LockedProgram& Program) {
                                    "not get ready."),
                     Program.Path);
     mState->Report = LockReport::Of(Ready->Numbers[0]);
+    // From here come those of memory and time.
+    mState->Report.Limits =
+        mState->Report.Limits && SetSoftLimit(mState->Pid, RLIMIT_CPU, RLIM_INFINITY);
     mState->OwnSpace = Ready->Numbers[1];
     mState->AtWork = false;
 }
@@ -308,7 +322,8 @@ void LockedProcess::LetGoOfMemory() {
 void LockedProcess::Allow(const LockedAllowance& Allowance) {
     State& Its = *mState;
     if (Its.Why != LockedEnd::None) return;
-    SetSoftLimit(Its.Pid, RLIMIT_AS, static_cast<rlim_t>(Its.OwnSpace + Allowance.Memory));
+    if (Its.OwnSpace > 0)
+        SetSoftLimit(Its.Pid, RLIMIT_AS, static_cast<rlim_t>(Its.OwnSpace + Allowance.Memory));
     const double Processor = ProcessorSecondsOf(Its.Pid) + Allowance.ProcessorSeconds;
     SetSoftLimit(Its.Pid, RLIMIT_CPU, static_cast<rlim_t>(std::ceil(Processor)));
     Its.Until = Clock::now() + std::chrono::milliseconds(qint64(Allowance.Seconds * 1000));
@@ -326,6 +341,10 @@ std::optional<LockedMessage> LockedProcess::Receive() {
     const auto Message = mState->Receive();
     mState->AtWork = mState->AtWork && !Message;
     return Message;
+}
+
+bool LockedProcess::IsWaiting() {
+    return mState->IsWaiting();
 }
 
 void LockedProcess::EndBecause(LockedEnd Why) {

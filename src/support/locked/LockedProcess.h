@@ -59,6 +59,8 @@ class LockedProcess {
     void Send(const LockedMessage& Message);
     // Nothing where it has ended, or was ended because of its time or of what it said.
     std::optional<LockedMessage> Receive();
+    // Between two pieces of work: whether it is there for the next.
+    bool IsWaiting();
     // For who sees that a message makes no sense: it ends.
     void EndBecause(LockedEnd Why);
 
