@@ -8,8 +8,4 @@ void WarmDecoders() {
     QImageReader::supportedImageFormats();
 }
 
-void WarmDrawings() {
-    WarmDecoders();
-}
-
 }  // namespace neb
