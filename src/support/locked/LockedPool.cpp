@@ -186,7 +186,7 @@ LockedPool::Lent::~Lent() {
     if (Lives && mIsKept) mProcess->LetGoOfMemory();
     if (!Lives || !mIsKept) mProcess.reset();
     Its.Return(std::move(mProcess));
-    if (!Lives) Its.BringOne(&Shared::WantsOne);
+    if (!Lives || !mIsKept) Its.BringOne(&Shared::WantsOne);
     Its.BringOne(&Shared::WantsSpare);
     Its.SeeToKeeper();
 }
