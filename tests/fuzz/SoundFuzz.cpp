@@ -4,7 +4,7 @@
 #include <cmath>
 #include <cstdlib>
 
-#include "sound/decoding/SoundDecoder.h"
+#include "sound/workers/SoundReading.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
 

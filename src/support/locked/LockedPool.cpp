@@ -20,7 +20,7 @@ constexpr std::chrono::milliseconds Patience(500);
 
 struct LockedPool::Shared {
     LockedProgram Program;
-    int Most;
+    int Most, MostIdle;
     std::mutex Lock;
     std::condition_variable Changed;
     std::vector<std::unique_ptr<LockedProcess>> Idle;
@@ -46,7 +46,7 @@ struct LockedPool::Shared {
             Gone;  // their end is not waited for in the lock
         const std::lock_guard Locked(Lock);
         --AtWork;
-        auto& To = Lives && static_cast<int>(Idle.size()) < Most ? Idle : Gone;
+        auto& To = Lives && static_cast<int>(Idle.size()) < MostIdle ? Idle : Gone;
         To.push_back(std::move(Its));
         Changed.notify_one();
     }
@@ -73,10 +73,12 @@ struct LockedPool::Shared {
     }
 };
 
-LockedPool::LockedPool(LockedProgram Program, int Most) : mShared(std::make_shared<Shared>()) {
+LockedPool::LockedPool(LockedProgram Program, int Most, int MostIdle)
+    : mShared(std::make_shared<Shared>()) {
     mShared->Program = std::move(Program);
     mShared->Most =
         Most > 0 ? Most : static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
+    mShared->MostIdle = MostIdle > 0 ? MostIdle : mShared->Most;
 }
 
 LockedPool::~LockedPool() = default;

@@ -12,8 +12,9 @@ namespace neb {
 class LockedPool {
   public:
     // Most: processes at work at a time; 0: as many as there are processors. A caller who has
-    // waited for half a second gets one beyond that: others may hang.
-    explicit LockedPool(LockedProgram Program, int Most = 0);
+    // waited for half a second gets one beyond that: others may hang. MostIdle: that are kept
+    // waiting for work; 0: as many as may be at work.
+    explicit LockedPool(LockedProgram Program, int Most = 0, int MostIdle = 0);
     // Ends them all; nobody may be at work.
     ~LockedPool();
     LockedPool(const LockedPool&) = delete;
