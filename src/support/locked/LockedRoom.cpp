@@ -67,7 +67,7 @@ void LockedRoom::Close(const LockNeeds& Needs) {
     Report.OwnNetwork = mHasOwnNetwork;
     Report.NoNewPrivileges = GiveUpNewPrivileges();
     Report.Landlock = CloseByLandlock();
-    Report.Limits = SetLimits();
+    Report.Limits = SetLimits(Needs);
     Report.SystemCalls = FilterSystemCalls(Needs);
     LockedMessage Ready;
     Ready = LockedMessage(LockedReady, {Report.Packed(), Space});
