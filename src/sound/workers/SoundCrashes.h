@@ -1,5 +1,6 @@
 // Sound files that have brought down the process that read them. Three times are enough: then a
-// file is not tried again before it has changed, or the program is started anew. Safe on any thread.
+// file is not tried again before it has changed, or the program is started anew. Safe on any
+// thread.
 #pragma once
 
 #include <QDateTime>

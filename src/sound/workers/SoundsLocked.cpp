@@ -30,8 +30,8 @@ constexpr std::chrono::milliseconds LongReading(100);
 constexpr int MostRate = 1000000, MostChannels = 8;
 constexpr qint64 MostFrames = qint64(1) << 40;
 
-LockedAllowance AllowanceFor(qint64 Length) {
-    const double Seconds = BaseSeconds + double(Length) / BytesASecond;
+LockedAllowance AllowanceFor(qint64 Length, double Patience) {
+    const double Seconds = Patience * BaseSeconds + double(Length) / BytesASecond;
     return {std::min(BaseMemory + 3 * Length, MostMemory), Seconds, Seconds * WallTimes};
 }
 
@@ -60,7 +60,7 @@ class SoundsLocked::Line {
         : mOwn(Own),
           mPath(Checked(Own, Path)),
           mFile(Path),
-          mAllowance(AllowanceFor(mFile.Length())),
+          mAllowance(AllowanceFor(mFile.Length(), Own.mPatience)),
           mLent(Own.mPool) {}
 
     qint64 Length() const { return mFile.Length(); }
@@ -110,8 +110,7 @@ class SoundsLocked::Line {
             To > mProcess.InBytes() - Count || mAsked > BaseAsked + TimesAsked * Length())
             return false;
         const auto Start = std::chrono::steady_clock::now();
-        const qint64 Read =
-            mFile.ReadAt(At, reinterpret_cast<char*>(mProcess.In() + To), Count);
+        const qint64 Read = mFile.ReadAt(At, reinterpret_cast<char*>(mProcess.In() + To), Count);
         if (std::chrono::steady_clock::now() - Start > LongReading) mProcess.Allow(mAllowance);
         mProcess.Send(LockedMessage(SoundTalk::Bytes, {Read}));
         return true;
@@ -158,8 +157,8 @@ class SoundsLocked::Sound : public CountedSound {
         if (std::exchange(mEnds, false)) return false;
         const qint64 Step = std::min(Asked, SoundOutBytes / FrameBytes());
         const qint64 Block = std::min(Step * mSteps, mFrames - mNext);
-        const auto Said = mLine->Ask(
-            LockedMessage(SoundTalk::Read, {std::exchange(mGoTo, -1), Block, Step}));
+        const auto Said =
+            mLine->Ask(LockedMessage(SoundTalk::Read, {std::exchange(mGoTo, -1), Block, Step}));
         const qint64 Count = Said ? Taken(*Said, Block) : 0;
         if (Step * mSteps * 2 <= std::min(MostBlock, SoundOutBytes / FrameBytes())) mSteps *= 2;
         mEnds = Count < Block;
@@ -200,8 +199,9 @@ bool IsSound(const LockedMessage& Said) {
 
 SoundsLocked::SoundsLocked() : SoundsLocked(LockedProgramPath(QStringLiteral("neb-sounds")), "") {}
 
-SoundsLocked::SoundsLocked(const QString& ProgramPath, const QByteArray& Role)
-    : mPool({ProgramPath, Role, SoundInBytes, SoundOutBytes}, MostOpen, MostIdle) {}
+SoundsLocked::SoundsLocked(const QString& ProgramPath, const QByteArray& Role, double Patience)
+    : mPatience(Patience),
+      mPool({ProgramPath, Role, SoundInBytes, SoundOutBytes}, MostOpen, MostIdle) {}
 
 std::unique_ptr<SoundDecoder> SoundsLocked::Open(const QString& Path) {
     auto Its = std::make_unique<Line>(*this, Path);
@@ -220,10 +220,11 @@ SongTags SoundsLocked::Tags(const QString& Path) {
     Line Its(*this, Path);
     const auto Said = Its.Ask(LockedMessage(SoundTalk::Tags, {Its.Length()}));
     if (!Said) Its.ThrowEnded();
-    if (Said->Is(SoundTalk::Problem)) return {};
+    if (Said->Is(SoundTalk::Problem) && Said->Numbers[0] <= MostSoundSentence) return {};
     if (!Said->Is(SoundTalk::TagTexts)) return Its.EndAsNonsense(), SongTags();
     const auto [Title, Artist] = std::pair(Said->Numbers[0], Said->Numbers[1]);
-    return {TagText(Its.Text(0, Title, MostTagText)), TagText(Its.Text(Title, Artist, MostTagText))};
+    return {TagText(Its.Text(0, Title, MostTagText)),
+            TagText(Its.Text(Title, Artist, MostTagText))};
 }
 
 // Never ended: its processes end with the program, whatever threads still do.

@@ -11,8 +11,8 @@ namespace neb {
 class SoundsLocked : public SoundReader {
   public:
     SoundsLocked();
-    // Another program in its place; for tests.
-    SoundsLocked(const QString& ProgramPath, const QByteArray& Role);
+    // Another program in its place, and less time for it; for tests.
+    SoundsLocked(const QString& ProgramPath, const QByteArray& Role, double Patience = 1);
 
     std::unique_ptr<SoundDecoder> Open(const QString& Path) override;
     SongTags Tags(const QString& Path) override;
@@ -24,6 +24,7 @@ class SoundsLocked : public SoundReader {
     class Line;
     class Sound;
 
+    const double mPatience;
     LockedPool mPool;
     SoundCrashes mCrashes;
 };
