@@ -4,7 +4,7 @@
 #include <QStandardPaths>
 #include <QTimer>
 
-#include "pictures/workers/ReadingLocked.h"
+#include "show/ReaderLocks.h"
 #include "support/Fault.h"
 #include "support/Services.h"
 #include "support/locked/LockWords.h"
@@ -39,7 +39,7 @@ bool StartTool(const char* Program, const char* Argument) {
 
 QString ReadersSentence(JobState&) try {
     LockReport Least = LockReport::Of(-1);
-    for (const NamedLock& Each : TheLockedReading().Reports()) Least = Weaker(Least, Each.Report);
+    for (const NamedLock& Each : ReaderLocks()) Least = Weaker(Least, Each.Report);
     return LockSentence(Least);
 } catch (const Fault& Problem) {
     return Problem.What();

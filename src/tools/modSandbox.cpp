@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "pictures/workers/ReadingLocked.h"
+#include "show/ReaderLocks.h"
 #include "support/locked/LockWords.h"
 #include "tools/words/JsonWriter.h"
 
@@ -42,7 +42,7 @@ int RunSandbox(const QStringList& Arguments, ToolIO& IO) {
     const bool AsJson = Arguments == QStringList(QStringLiteral("--json"));
     if (!Arguments.isEmpty() && !AsJson)
         return Fail(IO, QStringLiteral("nebctl sandbox takes --json or nothing."));
-    const std::vector<NamedLock> All = TheLockedReading().Reports();
+    const std::vector<NamedLock> All = ReaderLocks();
     AsJson ? PrintJson(All, IO) : PrintText(All, IO);
     const bool AreFull =
         std::ranges::all_of(All, [](const NamedLock& Each) { return Each.Report.IsFull(); });

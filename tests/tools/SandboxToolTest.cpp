@@ -20,7 +20,7 @@ QJsonArray ReadersOf(const ToolRun& Run) {
 TEST(SandboxTool, EachKindOfReaderIsToldWithAllMeasures) {
     const ToolRun Run = Tool({QStringLiteral("sandbox")});
     EXPECT_NE(Run.Code, ExitFailed) << Run.Err;
-    for (const char* Name : {"Pictures\n", "Drawings\n", "Metafiles\n"})
+    for (const char* Name : {"Pictures\n", "Drawings\n", "Metafiles\n", "Sounds\n"})
         EXPECT_NE(Run.Out.find(Name), std::string::npos) << Name;
     for (const char* What :
          {"System calls", "Privileges", "Limits", "Files", "Root", "Network"})
