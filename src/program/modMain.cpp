@@ -9,6 +9,7 @@
 #include "controls/forms/NebApplication.h"
 #include "db/modDatabaseLock.h"
 #include "db/records/modJournal.h"
+#include "pictures/workers/OwnPictures.h"
 #include "program/CommandLine.h"
 #include "program/DesktopServices.h"
 #include "program/EditMenu.h"
@@ -221,6 +222,7 @@ int RunOnAlbums(const CommandLine& Line, const QByteArray& Token) {
     const auto Call = [&] { return HandOverTo(*Database, {SeenFromHere(Line.Paths), Token}); };
     if (!BecomeTheInstanceOn(*Database, Lock, Call)) return 0;
     TheInstanceStarter() = &StartOwnProgram;
+    KeepOwnSumsIn(OwnSumsFolder());
     return RunMainWindow(Line, *Database);
 }
 

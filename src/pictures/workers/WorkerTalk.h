@@ -3,6 +3,8 @@
 // both sides alone.
 #pragma once
 
+#include <cstddef>
+
 #include "support/locked/LockedMessage.h"
 
 namespace neb {
@@ -32,6 +34,15 @@ enum class Talk : std::uint32_t {
     Problem  // the fault's number, bytes of its sentence, in Out; also said to AskSvg, then in In
              // from the place that the third number names
 };
+
+// Where each message has the ticket of its request: what is left of an earlier one is no answer.
+// Convert goes without, by zero.
+inline constexpr std::size_t TicketAt = 5;
+inline LockedMessage WithTicket(const LockedMessage& Message, std::int64_t Ticket) {
+    auto Numbers = Message.Numbers;
+    Numbers[TicketAt] = Ticket;
+    return LockedMessage(Message.Kind, Numbers);
+}
 
 // The longest sentence.
 inline constexpr std::int64_t MostSentence = 600;

@@ -1,5 +1,5 @@
 // The tests that read pictures do so in their own process, where starting another one for each of
-// them would take most of the time; with NEB_TEST_WORKERS=1 the program's own way is gone, behind
+// them would take most of the time; with NEB_TEST_WORKERS=1 the program's own way is taken, behind
 // the locked door. Compiled into each test program that reads any.
 #include <QtGlobal>
 
