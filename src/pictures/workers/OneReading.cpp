@@ -66,10 +66,6 @@ LockedAllowance ReadingCosts::For(qint64 File, qint64 Asked) const {
     return {HeaderMemory + 3 * File + 2 * Asked, Seconds, Seconds * WallTimes};
 }
 
-LockedAllowance ReadingCosts::ForConverting() const {
-    return {ConvertMemory, ConvertSeconds, ConvertSeconds * WallTimes};
-}
-
 OneReading::OneReading(LockedProcess& Process, const ReadingCosts& Costs, const Task& Its)
     : mProcess(Process),
       mCosts(Costs),
@@ -106,11 +102,6 @@ std::optional<QByteArray> OneReading::Bytes() {
     return FromOut(Said.Numbers[0], IsSvg ? LargestSvg : 4 * mTask.File.size() + LeastAnswer);
 }
 
-LockedAllowance OneReading::Allowance() const {
-    if (mTask.What == Talk::Convert) return mCosts.ForConverting();
-    return mCosts.For(mTask.File.size(), mMostAsked);
-}
-
 LockedMessage OneReading::Answer() {
     for (;;) {
         const LockedMessage Said = Next();
@@ -125,7 +116,7 @@ LockedMessage OneReading::Answer() {
 // we do ourselves, or wait for memory, does not count.
 LockedMessage OneReading::Next() {
     using Clock = std::chrono::steady_clock;
-    LockedAllowance Left = Allowance();
+    LockedAllowance Left = mCosts.For(mTask.File.size(), mMostAsked);
     Left.Seconds -= mWaited;
     if (Left.Seconds <= 0) EndBecause(LockedEnd::TooLong);
     mProcess.Allow(Left);
@@ -166,7 +157,7 @@ bool OneReading::GiveMemory(QSize Size, qint64 Bytes) {
     }
     mHeld = Bytes;
     mMostAsked = std::max(mMostAsked, Bytes);
-    mProcess.Allow(Allowance());  // before it goes on
+    mProcess.Allow(mCosts.For(mTask.File.size(), mMostAsked));  // before it goes on
     Say(LockedMessage(Talk::Granted));
     return true;
 }

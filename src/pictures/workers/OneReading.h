@@ -19,12 +19,12 @@ struct ReadingCosts {
     double HeaderSeconds = 15;          // of the processor
     double BytesASecond = 12 << 20;
     double WallTimes = 4;  // so many times as long on the wall, where others are at work, too
-    // A drawing is converted in moments, with little memory, unless it is made to do harm.
-    qint64 ConvertMemory = 600LL << 20;
-    double ConvertSeconds = 3;
 
     LockedAllowance For(qint64 File, qint64 Asked) const;
-    LockedAllowance ForConverting() const;
+    // A metafile takes moments, unless it is made to do harm.
+    ReadingCosts OfConverting() const {
+        return {600LL << 20, std::min(HeaderSeconds, 3.0), BytesASecond, WallTimes};
+    }
 };
 
 // Which process reads what, and how much both may say at most.
@@ -57,7 +57,6 @@ class OneReading {
     std::optional<QByteArray> Bytes();
 
   private:
-    LockedAllowance Allowance() const;
     LockedMessage Answer();
     LockedMessage Next();
     bool IsServed(const LockedMessage& Said);

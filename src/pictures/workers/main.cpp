@@ -6,6 +6,7 @@
 
 #include "pictures/workers/ReadingHere.h"
 #include "pictures/workers/ServePictures.h"
+#include "pictures/workers/ToldLibraries.h"
 #include "pictures/workers/WarmDecoders.h"
 
 int main(int argc, char** argv) {

@@ -35,7 +35,8 @@ struct LockedPool::Shared : std::enable_shared_from_this<Shared> {
     std::condition_variable Changed, Over;
     std::vector<Member> Idle;  // the fresh ones first
     int AtWork = 0;
-    int Coming = 0;  // being made ready beside
+    int Coming = 0;    // being made ready beside
+    int Awaiting = 0;  // callers who wait for those
     int Lent = 0;
     bool HadTrouble = false, IsOver = false, HasKeeper = false;
     std::optional<LockReport> Known;
@@ -49,8 +50,13 @@ struct LockedPool::Shared : std::enable_shared_from_this<Shared> {
         std::vector<Member> Gone;  // their end is not waited for in the lock
         Gone.reserve(static_cast<size_t>(Most));
         std::unique_lock Locked(Lock);
-        Changed.wait_for(Locked, Patience,
-                         [&] { return HasIdle(Which) || AtWork + Coming < Most; });
+        const bool Awaits = Coming > Awaiting;  // one of those that come is for us
+        Awaiting += Awaits;
+        Changed.wait_for(Locked, Patience, [&] {
+            const bool MayMake = AtWork + Coming < Most && !(Awaits && Coming > 0);
+            return HasIdle(Which) || MayMake;
+        });
+        Awaiting -= Awaits;
         ++AtWork;
         ++Lent;
         while (HasIdle(Which)) {
@@ -186,7 +192,7 @@ LockedPool::Lent::~Lent() {
     if (Lives && mIsKept) mProcess->LetGoOfMemory();
     if (!Lives || !mIsKept) mProcess.reset();
     Its.Return(std::move(mProcess));
-    if (!Lives) Its.BringOne(&Shared::WantsOne);
+    if (!Lives || !mIsKept) Its.BringOne(&Shared::WantsOne);
     Its.BringOne(&Shared::WantsSpare);
     Its.SeeToKeeper();
 }

@@ -21,6 +21,7 @@
 #include "support/files/HostNames.h"
 #include "support/files/modHostFiles.h"
 #include "support/files/modHostFilesSpelling.h"
+#include "support/locked/LivingProcesses.h"
 
 extern char** environ;
 
@@ -214,6 +215,7 @@ struct LockedProcess::State {
         How.Give(In.File(), LockedIn);
         How.Give(Out.File(), LockedOut);
         Pid = How.Start(HostBytes(Program.Path), Program.Role);
+        NoteLiving(Pid);
     }
     ~State() {
         if (AtWork) ::kill(Pid, SIGKILL);
@@ -227,6 +229,7 @@ struct LockedProcess::State {
     void Reap() {
         if (IsReaped) return;
         IsReaped = true;
+        ForgetLiving(Pid);
         constexpr int Looks = 100;
         for (int I = 0; I < Looks; ++I) {
             if (::waitpid(Pid, &Status, WNOHANG) != 0) return;
