@@ -29,7 +29,7 @@ struct Member {
 
 struct LockedPool::Shared : std::enable_shared_from_this<Shared> {
     LockedProgram Program;
-    int Most;
+    int Most, MostIdle;
     std::chrono::milliseconds Rest;
     mutable std::mutex Lock;
     std::condition_variable Changed, Over;
@@ -48,7 +48,7 @@ struct LockedPool::Shared : std::enable_shared_from_this<Shared> {
     // One that waits or, while there may be more, none: then the caller makes one.
     Member Take(Wanted Which) {
         std::vector<Member> Gone;  // their end is not waited for in the lock
-        Gone.reserve(static_cast<size_t>(Most));
+        Gone.reserve(static_cast<size_t>(MostIdle));
         std::unique_lock Locked(Lock);
         const bool Awaits = Coming > Awaiting;  // one of those that come is for us
         Awaiting += Awaits;
@@ -74,7 +74,7 @@ struct LockedPool::Shared : std::enable_shared_from_this<Shared> {
             const std::lock_guard Locked(Lock);
             --AtWork;
             HadTrouble = HadTrouble || !Its;
-            if (Its && !IsOver && static_cast<int>(Idle.size()) < Most)
+            if (Its && !IsOver && static_cast<int>(Idle.size()) < MostIdle)
                 Idle.push_back({std::move(Its), false, Clock::now()});
         }
         Changed.notify_all();
@@ -110,7 +110,7 @@ struct LockedPool::Shared : std::enable_shared_from_this<Shared> {
             const std::lock_guard Locked(Lock);
             --Coming;
             if (Made) Known = Made->Report();
-            if (Made && !IsOver && static_cast<int>(Idle.size()) < Most)
+            if (Made && !IsOver && static_cast<int>(Idle.size()) < MostIdle)
                 Idle.insert(Idle.begin(), Member{std::move(Made), true, Clock::now()});
         }
         Changed.notify_all();
@@ -159,14 +159,16 @@ struct LockedPool::Shared : std::enable_shared_from_this<Shared> {
     }
 };
 
-LockedPool::LockedPool(LockedProgram Program, int Most, std::chrono::milliseconds Rest)
+LockedPool::LockedPool(LockedProgram Program, int Most, std::chrono::milliseconds Rest,
+                       int MostIdle)
     : mShared(std::make_shared<Shared>()) {
     mShared->Program = std::move(Program);
     mShared->Most =
         Most > 0 ? Most : static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
+    mShared->MostIdle = MostIdle > 0 ? MostIdle : mShared->Most;
     mShared->Rest = Rest;
     // What comes back needs no memory.
-    mShared->Idle.reserve(static_cast<size_t>(mShared->Most) + 1);
+    mShared->Idle.reserve(static_cast<size_t>(mShared->MostIdle) + 1);
 }
 
 LockedPool::~LockedPool() {

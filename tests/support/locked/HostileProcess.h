@@ -14,7 +14,7 @@ namespace neb {
 
 inline LockedProgram HostileProgram() {
     constexpr qint64 Bytes = 1 << 20;
-    return {QStringLiteral(NEB_BINARY_DIR "/tests/neb-hostile"), "", Bytes, Bytes};
+    return {QStringLiteral(NEB_BINARY_DIR "/tests/neb-hostile-room"), "", Bytes, Bytes};
 }
 
 // What the hostile program is told by, for as long as this lives.
