@@ -40,11 +40,6 @@ const Ending& EndingBy(LockedEnd How) {
     return *std::rbegin(All);
 }
 
-LockedProgram Converter() {
-    return {LockedProgramPath(QStringLiteral("neb-metafiles")), "metafiles", LargestPictureFile,
-            LargestSvg};
-}
-
 [[noreturn]] void ThrowEnded(LockedEnd How) {
     const Ending& Its = EndingBy(How);
     throw Fault(Its.Why, {}, Its.Number);

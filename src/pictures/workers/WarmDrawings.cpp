@@ -2,16 +2,9 @@
 #include <QImage>
 #include <QPainter>
 #include <QSvgRenderer>
-#include <QThreadPool>
 
 #include "pictures/metafiles/MappedFonts.h"
 #include "pictures/workers/WarmDecoders.h"
-
-// Qt shares large pictures among threads, which nobody can start behind the door, unless it is on
-// one of them already. The name that a program defines goes before that of a library.
-bool QThreadPool::contains(const QThread*) const {
-    return true;
-}
 
 namespace neb {
 namespace {
