@@ -13,6 +13,8 @@
 #include "harness/Sanitizer.h"
 #include "pictures/formats/DecodeHost.h"
 #include "pictures/formats/PictureFaults.h"
+#include "pictures/workers/ReadingLocked.h"
+#include "support/files/modHostFiles.h"
 #include "support/work/ProcessEnd.h"
 
 namespace neb {
@@ -241,6 +243,15 @@ TEST_F(HostileReader, BringsDownWhatElseIsAskedOfPictures) {
     const QByteArray TooMuch = Say(Talk::Bytes, "100000000");
     EXPECT_THROW(Reader().Turned(Hostile(TooMuch), {false, 1}), Fault);
     EXPECT_TRUE(Reader().Turned(PlainPicture(0xFF102030, {64, 48}), {false, 1}));
+}
+
+TEST_F(HostileReader, IsNotKeptForTheMemoryOfALargeFile) {
+    Begin();
+    ExpectReads(qRgb(1, 1, 1));
+    EXPECT_EQ(1, Started());
+    EXPECT_EQ("", ProblemOf(PlainPicture() + QByteArray(65 << 20, ' ')));
+    ExpectReads(qRgb(2, 2, 2));
+    EXPECT_LE(2, Started());
 }
 
 TEST_F(HostileReader, ThatWaitsForMemoryDoesNotHang) {
