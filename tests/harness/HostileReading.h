@@ -3,12 +3,14 @@
 #pragma once
 
 #include <QBuffer>
-#include <QFile>
 #include <QImage>
 
 #include "harness/TempFolder.h"
-#include "pictures/workers/ReadingLocked.h"
-#include "support/files/modHostFiles.h"
+#include "pictures/workers/OneReading.h"
+
+namespace neb {
+class ReadingLocked;
+}
 
 namespace neb::harness {
 
@@ -38,33 +40,22 @@ inline ReadingCosts ShortCosts(double Seconds = 0.5) {
 
 class HostileReading {
   public:
-    explicit HostileReading(const ReadingCosts& Costs = {})
-        : mLog((qputenv("NEB_HOSTILE_LOG", QFile::encodeName(mDir / QStringLiteral("log"))),
-                mDir / QStringLiteral("log"))),
-          mReader(Program(), Program(), Program(), Costs) {}
-    ~HostileReading() {
-        SetPictureReader(nullptr);
-        qunsetenv("NEB_HOSTILE_LOG");
-    }
+    explicit HostileReading(const ReadingCosts& Costs = {});
+    ~HostileReading();
 
-    static LockedProgram Program() {
-        return ReadingLocked::ProgramAt(QStringLiteral(NEB_BINARY_DIR "/tests/hostile/neb-hostile"),
-                                        "hostile");
-    }
+    static LockedProgram Program();
     // From here on the program reads by it.
-    void TakeOver() { SetPictureReader(&mReader); }
+    void TakeOver();
     ReadingLocked& operator*() { return mReader; }
     ReadingLocked* operator->() { return &mReader; }
     const QString& LogPath() const { return mLog; }
     // Processes that have been started.
-    int Started() const {
-        return FileExists(mLog) ? static_cast<int>(ReadFile(mLog).count('\n')) : 0;
-    }
+    int Started() const;
 
   private:
     TempFolder mDir;
     QString mLog;
-    ReadingLocked mReader;
+    ReadingLocked& mReader;
 };
 
 }  // namespace neb::harness

@@ -188,7 +188,7 @@ class Hostile : public ReadingHere {
     }
     void Scribble(const Words&) {
         std::thread([this] {
-            for (unsigned char Value = 0;; ++Value)
+            for (int Value = 0; Value < 30000; ++Value)
                 std::memset(mRoom.Out().data(), Value, size_t{1} << 16);
         }).detach();
     }

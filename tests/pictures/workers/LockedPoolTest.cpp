@@ -5,11 +5,13 @@
 #include <gtest/gtest.h>
 #include <signal.h>
 
+#include <QFile>
 #include <QTest>
 #include <set>
 #include <thread>
 
 #include "harness/HostileReading.h"
+#include "pictures/workers/ReadingLocked.h"
 #include "support/Fault.h"
 
 namespace neb {

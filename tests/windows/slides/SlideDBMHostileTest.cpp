@@ -8,12 +8,12 @@ namespace {
 
 using namespace harness;
 
-class HostileSlide : public SlideRig {
+class SlideDBMHostile : public SlideRig {
   protected:
     HostileReading Reading;
 };
 
-TEST_F(HostileSlide, IsSaidAndLeftAlone) {
+TEST_F(SlideDBMHostile, IsSaidAndLeftAlone) {
     const auto ID = AddSlide(u"a"_s);
     Reading.TakeOver();
     const QByteArray Bytes = harness::Hostile("segv", ReadFile(Stored(u"00000001.jpg"_s)));
