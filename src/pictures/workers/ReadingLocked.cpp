@@ -26,8 +26,16 @@ LockedAllowance AllowanceFor(qint64 File, qint64 Asked) {
     return {HeaderMemory + 3 * File + 2 * Asked, Seconds, Seconds * WallTimes};
 }
 
+// A drawing takes moments and little more than its own size, unless it is made to do harm.
+constexpr LockedAllowance ConvertAllowance = {600LL << 20, 3, 3 * WallTimes};
+
 LockedProgram Program(const char* Name, const char* Role) {
     return {LockedProgramPath(QString::fromLatin1(Name)), Role, InBytes, OutBytes};
+}
+
+LockedProgram Converter() {
+    return {LockedProgramPath(QStringLiteral("neb-metafiles")), "metafiles", LargestPictureFile,
+            LargestSvg};
 }
 
 [[noreturn]] void ThrowEnded(LockedEnd How) {
@@ -90,7 +98,8 @@ class ReadingLocked::Reading {
     Reading& operator=(const Reading&) = delete;
 
     LockedMessage Ask(const LockedMessage& Request, const NeededSize& Needed = {}) {
-        mProcess->Allow(AllowanceFor(mFile.size(), 0));
+        const bool Converts = Request.Is(Talk::Convert);
+        mProcess->Allow(Converts ? ConvertAllowance : AllowanceFor(mFile.size(), 0));
         mProcess->Send(Request);
         for (;;) {
             const auto Said = mProcess->Receive();
@@ -116,6 +125,9 @@ class ReadingLocked::Reading {
         if (!Answer.Is(Talk::Bytes)) EndAsNonsense();
         return FromOut(Answer.Numbers[0]);
     }
+
+    // No other file shall find what this one has left there.
+    void EndProcess() { mProcess->EndBecause(LockedEnd::Done); }
 
   private:
     static const QByteArray& Checked(const ReadingLocked& Own, const QByteArray& File) {
@@ -205,7 +217,7 @@ class ReadingLocked::Reading {
 
 ReadingLocked::ReadingLocked()
     : ReadingLocked(Program("neb-pictures", "pictures"), Program("neb-pictures", "drawings"),
-                    Program("neb-metafiles", "metafiles")) {}
+                    Converter()) {}
 
 ReadingLocked::ReadingLocked(const LockedProgram& Pictures, const LockedProgram& Drawings,
                              const LockedProgram& Metafiles)
@@ -237,7 +249,10 @@ QByteArray ReadingLocked::WithoutPlace(const QByteArray& Jpeg) {
 
 QByteArray ReadingLocked::SvgOf(const QByteArray& Emf) {
     Reading Its(*this, mMetafiles, Emf);
-    return Its.BytesOf(Its.Ask(Request(Talk::Convert, Emf))).value_or(QByteArray());
+    const auto Svg = Its.BytesOf(Its.Ask(Request(Talk::Convert, Emf)));
+    // The library of the converter keeps memory back, and counts on where it has ended.
+    Its.EndProcess();
+    return Svg.value_or(QByteArray());
 }
 
 // Never ended: its processes end with the program, whatever threads still do.

@@ -19,6 +19,9 @@ class ReadingLocked : public PictureReader {
     QByteArray NotesFor(QSize Pixels, const QByteArray& Source, bool KeepsPlace) override;
     QByteArray WithoutPlace(const QByteArray& Jpeg) override;
 
+    // An enhanced metafile as SVG: for who draws it, wherever that is. Throws Fault.
+    QByteArray SvgOf(const QByteArray& Emf);
+
     // One is made ready beside the caller, for the first picture.
     void WarmUp() { mPictures.WarmUp(); }
     // How far the processes are locked. Throws Fault where none can be started.
@@ -26,7 +29,6 @@ class ReadingLocked : public PictureReader {
 
   private:
     class Reading;
-    QByteArray SvgOf(const QByteArray& Emf);
 
     LockedPool mPictures;   // from bytes to pixels and to other bytes
     LockedPool mDrawings;   // WMF and EMF, with all fonts of the system

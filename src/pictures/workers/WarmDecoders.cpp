@@ -66,8 +66,4 @@ void WarmDecoders() {
     ReadNotes();
 }
 
-void WarmDrawings() {
-    WarmDecoders();
-}
-
 }  // namespace neb

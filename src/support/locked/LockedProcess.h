@@ -34,7 +34,8 @@ enum class LockedEnd {
     Crashed,    // or was ended from outside
     Forbidden,  // it asked the system for what it may not
     TooLong,    // its time was up
-    Nonsense    // what it said was none of our messages
+    Nonsense,   // what it said was none of our messages
+    Done        // whoever had it wants no more of it
 };
 
 class LockedProcess {
@@ -61,7 +62,7 @@ class LockedProcess {
     std::optional<LockedMessage> Receive();
     // Between two pieces of work: whether it is there for the next.
     bool IsWaiting();
-    // For who sees that a message makes no sense: it ends.
+    // For who sees that a message makes no sense, or has no use for it any more: it ends.
     void EndBecause(LockedEnd Why);
 
     LockedEnd End() const;
