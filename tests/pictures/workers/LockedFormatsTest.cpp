@@ -234,3 +234,15 @@ TEST(LockedFormats, APictureOf36MegapixelsAnd16BitsIsReadWithoutAFile) {
     EXPECT_EQ(qRgb(0x42, 0x42, 0x42), Is.Picture.pixel(3000, 100));
     EXPECT_EQ(qRgb(0x42, 0x42, 0x42), Is.Picture.pixel(6399, 5599));
 }
+
+// All of it is in memory twice while it is turned, whatever the file's length is.
+TEST(LockedFormats, ALargeJpegOfFewBytesIsTurnedBehindTheDoor) {
+    QImage Large(8000, 6000, QImage::Format_RGB32);
+    Large.fill(Qt::darkCyan);
+    const QByteArray File = ByQt(Large, "jpeg", 50);
+    EXPECT_LT(File.size(), 4 << 20);
+    ReadingLocked Locked;
+    const auto Turned = Locked.Turned(File, {false, 1});
+    ASSERT_TRUE(Turned);
+    EXPECT_EQ(ReadingHere().Turned(File, {false, 1}), Turned);
+}

@@ -5,6 +5,7 @@
 #include <sys/wait.h>
 
 #include <QElapsedTimer>
+#include <QFile>
 #include <cerrno>
 #include <csignal>
 
@@ -146,6 +147,12 @@ TEST(LockedPool, KeepsOneThatHasDoneItsWork) {
     }
 }
 
+// It has said all that it had to say, and waits for more.
+bool IsAsleep(qint64 Pid) {
+    QFile File(QStringLiteral("/proc/%1/stat").arg(Pid));
+    return File.open(QIODevice::ReadOnly) && File.readAll().contains(") S ");
+}
+
 TEST(LockedPool, DoesNotGiveOnOneThatHasSpokenUnasked) {
     LockedPool Pool(HostileProgram(), 1);
     qint64 First = 0;
@@ -153,7 +160,7 @@ TEST(LockedPool, DoesNotGiveOnOneThatHasSpokenUnasked) {
         LockedPool::Lent Process(Pool);
         First = Process->Pid();
         EXPECT_EQ(1, OutcomeOf(*Process, {Deed::SayTwice}).Result);
-        ::usleep(100000);  // its second word comes at once; that it waits is seen in the end
+        while (!IsAsleep(First)) ::usleep(1000);
     }
     LockedPool::Lent Process(Pool);
     const Outcome Its = OutcomeOf(*Process, {});

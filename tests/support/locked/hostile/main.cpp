@@ -41,8 +41,9 @@ void StandInForPoorerSystem() {
         Refuse(ENOSYS, {"landlock_create_ruleset", "landlock_add_rule", "landlock_restrict_self"});
     if (Has(RefuseThis, "filter")) {
         Refuse(ENOSYS, {"seccomp"});
-        ::seccomp_rule_add(Its, SCMP_ACT_ERRNO(EINVAL), SCMP_SYS(prctl), 1,
-                           SCMP_A0(SCMP_CMP_EQ, PR_SET_SECCOMP));
+        const scmp_arg_cmp ToFilter = {0, SCMP_CMP_EQ, PR_SET_SECCOMP, 0};
+        ::seccomp_rule_add_array(Its, SCMP_ACT_ERRNO(EINVAL),
+                                 ::seccomp_syscall_resolve_name("prctl"), 1, &ToFilter);
     }
     if (::seccomp_load(Its) != 0) std::_Exit(3);
     ::seccomp_release(Its);
