@@ -28,7 +28,7 @@ inline QByteArray Hostile(const QByteArray& Command, const QByteArray& Picture =
 }
 
 // Patient enough for a machine that does much else, unless hanging is what is tested.
-inline ReadingCosts ShortCosts(double Seconds = 0.25) {
+inline ReadingCosts ShortCosts(double Seconds = 0.5) {
     ReadingCosts Costs;
     Costs.HeaderSeconds = Seconds;
     Costs.WallTimes = 2;
@@ -55,6 +55,7 @@ class HostileReading {
     void TakeOver() { SetPictureReader(&mReader); }
     ReadingLocked& operator*() { return mReader; }
     ReadingLocked* operator->() { return &mReader; }
+    const QString& LogPath() const { return mLog; }
     // Processes that have been started.
     int Started() const {
         return FileExists(mLog) ? static_cast<int>(ReadFile(mLog).count('\n')) : 0;

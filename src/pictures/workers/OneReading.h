@@ -21,6 +21,10 @@ struct ReadingCosts {
     double WallTimes = 4;  // so many times as long on the wall, where others are at work, too
 
     LockedAllowance For(qint64 File, qint64 Asked) const;
+    // A metafile takes moments, unless it is made to do harm.
+    ReadingCosts OfConverting() const {
+        return {600LL << 20, std::min(HeaderSeconds, 3.0), BytesASecond, WallTimes};
+    }
 };
 
 // Which process reads what, and how much both may say at most.

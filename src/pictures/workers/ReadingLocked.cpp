@@ -40,6 +40,11 @@ const Ending& EndingBy(LockedEnd How) {
     return *std::rbegin(All);
 }
 
+LockedProgram Converter() {
+    return {LockedProgramPath(QStringLiteral("neb-metafiles")), "metafiles", LargestPictureFile,
+            LargestSvg};
+}
+
 [[noreturn]] void ThrowEnded(LockedEnd How) {
     const Ending& Its = EndingBy(How);
     throw Fault(Its.Why, {}, Its.Number);
@@ -67,6 +72,11 @@ bool IsDrawing(const QByteArray& Bytes) {
     return Format == PictureFormat::Emf || Format == PictureFormat::Wmf;
 }
 
+LockedProgram Converter() {
+    return {LockedProgramPath(QStringLiteral("neb-metafiles")), "metafiles", LargestPictureFile,
+            LargestSvg};
+}
+
 LockedProgram Program(const char* Name, const char* Role) {
     return ReadingLocked::ProgramAt(LockedProgramPath(QString::fromLatin1(Name)), Role);
 }
@@ -75,7 +85,7 @@ LockedProgram Program(const char* Name, const char* Role) {
 
 ReadingLocked::ReadingLocked()
     : ReadingLocked(Program("neb-pictures", "pictures"), Program("neb-pictures", "drawings"),
-                    Program("neb-metafiles", "metafiles")) {}
+                    Converter()) {}
 
 ReadingLocked::ReadingLocked(const LockedProgram& Pictures, const LockedProgram& Drawings,
                              const LockedProgram& Metafiles, const ReadingCosts& Costs)
@@ -89,14 +99,17 @@ template <class Take>
 auto ReadingLocked::Read(LockedPool& Pool, const OneReading::Task& Task, Take Result) {
     if (Task.File.size() > LargestPictureFile) ThrowFileTooLarge();
     if (mCrashes.IsGivenUp(Task.File)) ThrowGivenUp();
+    const bool Converts = Task.What == Talk::Convert;
+    const ReadingCosts Costs = Converts ? mCosts.OfConverting() : mCosts;
     auto Which = LockedPool::Wanted::Any;
     for (bool IsLast = false;; IsLast = true, Which = LockedPool::Wanted::Fresh) {
         bool IsFresh = true;
         try {
             LockedPool::Lent Process(Pool, Which);
             IsFresh = Process.IsFresh();
-            if (Task.File.size() > LargeFile) Process.Retire();
-            OneReading Its(*Process, mCosts, Task);
+            // No other drawing shall find what this one has left with the converter.
+            if (Converts || Task.File.size() > LargeFile) Process.Retire();
+            OneReading Its(*Process, Costs, Task);
             return Result(Its);
         } catch (const ReaderEnded& End) {
             if (!IsLast && IsWorthAnother(End.How, IsFresh)) continue;

@@ -22,6 +22,9 @@ class ReadingLocked : public PictureReader {
     QByteArray NotesFor(QSize Pixels, const QByteArray& Source, bool KeepsPlace) override;
     QByteArray WithoutPlace(const QByteArray& Jpeg) override;
 
+    // An enhanced metafile as SVG: for who draws it, wherever that is. Throws Fault.
+    QByteArray SvgOf(const QByteArray& Emf);
+
     // One is made ready beside the caller, for the first picture.
     void WarmUp() { mPictures.WarmUp(); }
     // How far the processes are locked, by what they read. Starts each. Throws Fault where one
@@ -34,7 +37,6 @@ class ReadingLocked : public PictureReader {
     template <class Take>
     auto Read(LockedPool& Pool, const OneReading::Task& Task, Take Result);
     std::optional<QByteArray> BytesOf(LockedPool& Pool, const OneReading::Task& Task);
-    QByteArray SvgOf(const QByteArray& Emf);
 
     ReadingCosts mCosts;
     LockedPool mPictures;   // from bytes to pixels and to other bytes

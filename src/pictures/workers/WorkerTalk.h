@@ -44,7 +44,7 @@ inline LockedMessage WithTicket(const LockedMessage& Message, std::int64_t Ticke
     return LockedMessage(Message.Kind, Numbers);
 }
 
-// The longest sentence.
-inline constexpr std::int64_t MostSentence = 600;
+// The longest sentence; a library may have a long one of its own in it.
+inline constexpr std::int64_t MostSentence = 4000;
 
 }  // namespace neb

@@ -29,13 +29,14 @@ struct Member {
 
 struct LockedPool::Shared : std::enable_shared_from_this<Shared> {
     LockedProgram Program;
-    int Most;
+    int Most, MostIdle;
     std::chrono::milliseconds Rest;
     mutable std::mutex Lock;
     std::condition_variable Changed, Over;
     std::vector<Member> Idle;  // the fresh ones first
     int AtWork = 0;
-    int Coming = 0;  // being made ready beside
+    int Coming = 0;    // being made ready beside
+    int Awaiting = 0;  // callers who wait for those
     int Lent = 0;
     bool HadTrouble = false, IsOver = false, HasKeeper = false;
     std::optional<LockReport> Known;
@@ -47,10 +48,15 @@ struct LockedPool::Shared : std::enable_shared_from_this<Shared> {
     // One that waits or, while there may be more, none: then the caller makes one.
     Member Take(Wanted Which) {
         std::vector<Member> Gone;  // their end is not waited for in the lock
-        Gone.reserve(static_cast<size_t>(Most));
+        Gone.reserve(static_cast<size_t>(MostIdle));
         std::unique_lock Locked(Lock);
-        Changed.wait_for(Locked, Patience,
-                         [&] { return HasIdle(Which) || AtWork + Coming < Most; });
+        const bool Awaits = Coming > Awaiting;  // one of those that come is for us
+        Awaiting += Awaits;
+        Changed.wait_for(Locked, Patience, [&] {
+            const bool MayMake = AtWork + Coming < Most && !(Awaits && Coming > 0);
+            return HasIdle(Which) || MayMake;
+        });
+        Awaiting -= Awaits;
         ++AtWork;
         ++Lent;
         while (HasIdle(Which)) {
@@ -68,7 +74,7 @@ struct LockedPool::Shared : std::enable_shared_from_this<Shared> {
             const std::lock_guard Locked(Lock);
             --AtWork;
             HadTrouble = HadTrouble || !Its;
-            if (Its && !IsOver && static_cast<int>(Idle.size()) < Most)
+            if (Its && !IsOver && static_cast<int>(Idle.size()) < MostIdle)
                 Idle.push_back({std::move(Its), false, Clock::now()});
         }
         Changed.notify_all();
@@ -104,7 +110,7 @@ struct LockedPool::Shared : std::enable_shared_from_this<Shared> {
             const std::lock_guard Locked(Lock);
             --Coming;
             if (Made) Known = Made->Report();
-            if (Made && !IsOver && static_cast<int>(Idle.size()) < Most)
+            if (Made && !IsOver && static_cast<int>(Idle.size()) < MostIdle)
                 Idle.insert(Idle.begin(), Member{std::move(Made), true, Clock::now()});
         }
         Changed.notify_all();
@@ -153,14 +159,16 @@ struct LockedPool::Shared : std::enable_shared_from_this<Shared> {
     }
 };
 
-LockedPool::LockedPool(LockedProgram Program, int Most, std::chrono::milliseconds Rest)
+LockedPool::LockedPool(LockedProgram Program, int Most, std::chrono::milliseconds Rest,
+                       int MostIdle)
     : mShared(std::make_shared<Shared>()) {
     mShared->Program = std::move(Program);
     mShared->Most =
         Most > 0 ? Most : static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
+    mShared->MostIdle = MostIdle > 0 ? MostIdle : mShared->Most;
     mShared->Rest = Rest;
     // What comes back needs no memory.
-    mShared->Idle.reserve(static_cast<size_t>(mShared->Most) + 1);
+    mShared->Idle.reserve(static_cast<size_t>(mShared->MostIdle) + 1);
 }
 
 LockedPool::~LockedPool() {
@@ -186,7 +194,7 @@ LockedPool::Lent::~Lent() {
     if (Lives && mIsKept) mProcess->LetGoOfMemory();
     if (!Lives || !mIsKept) mProcess.reset();
     Its.Return(std::move(mProcess));
-    if (!Lives) Its.BringOne(&Shared::WantsOne);
+    if (!Lives || !mIsKept) Its.BringOne(&Shared::WantsOne);
     Its.BringOne(&Shared::WantsSpare);
     Its.SeeToKeeper();
 }

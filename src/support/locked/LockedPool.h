@@ -21,9 +21,10 @@ class LockedPool {
   public:
     // Most: processes at work at a time; 0: as many as there are processors. A caller who has
     // waited for half a second gets one beyond that: others may hang. Rest: after which one of
-    // several that wait for work goes.
+    // several that wait for work goes. MostIdle: that are kept waiting; 0: as many as Most.
     explicit LockedPool(LockedProgram Program, int Most = 0,
-                        std::chrono::milliseconds Rest = std::chrono::seconds(30));
+                        std::chrono::milliseconds Rest = std::chrono::seconds(30),
+                        int MostIdle = 0);
     // Ends them all; nobody may be at work.
     ~LockedPool();
     LockedPool(const LockedPool&) = delete;

@@ -21,6 +21,7 @@
 #include "support/files/HostNames.h"
 #include "support/files/modHostFiles.h"
 #include "support/files/modHostFilesSpelling.h"
+#include "support/locked/LivingProcesses.h"
 
 extern char** environ;
 
@@ -187,11 +188,11 @@ double ProcessorSecondsOf(pid_t Pid) {
     return double(Time.tv_sec) + double(Time.tv_nsec) / 1e9;
 }
 
-void SetSoftLimit(pid_t Pid, __rlimit_resource What, rlim_t Most) {
+bool SetSoftLimit(pid_t Pid, __rlimit_resource What, rlim_t Most) {
     rlimit Limit = {};
-    if (::prlimit(Pid, What, nullptr, &Limit) != 0) return;
+    if (::prlimit(Pid, What, nullptr, &Limit) != 0) return false;
     Limit.rlim_cur = std::min(Most, Limit.rlim_max);
-    ::prlimit(Pid, What, &Limit, nullptr);
+    return ::prlimit(Pid, What, &Limit, nullptr) == 0;
 }
 
 }  // namespace
@@ -214,6 +215,7 @@ struct LockedProcess::State {
         How.Give(In.File(), LockedIn);
         How.Give(Out.File(), LockedOut);
         Pid = How.Start(HostBytes(Program.Path), Program.Role);
+        NoteLiving(Pid);
     }
     ~State() {
         if (AtWork) ::kill(Pid, SIGKILL);
@@ -227,6 +229,7 @@ struct LockedProcess::State {
     void Reap() {
         if (IsReaped) return;
         IsReaped = true;
+        ForgetLiving(Pid);
         constexpr int Looks = 100;
         for (int I = 0; I < Looks; ++I) {
             if (::waitpid(Pid, &Status, WNOHANG) != 0) return;
@@ -264,13 +267,6 @@ struct LockedProcess::State {
             if (Found == 0 && Left <= 0) return false;
         }
     }
-    bool StaysQuiet() {
-        if (Why != LockedEnd::None) return false;
-        pollfd Poll = {**Line, POLLIN, 0};
-        if (::poll(&Poll, 1, 0) == 0) return true;
-        Kill(LockedEnd::Nonsense);
-        return false;
-    }
     std::optional<LockedMessage> Receive() {
         if (Why != LockedEnd::None) return std::nullopt;
         if (!Wait()) return Kill(LockedEnd::TooLong), std::nullopt;
@@ -283,6 +279,17 @@ struct LockedProcess::State {
         if (Length != sizeof(Message) || !Message.IsWhole())
             return Kill(LockedEnd::Nonsense), std::nullopt;
         return Message;
+    }
+
+    // Whether it is silent and lives. One that speaks unasked would have that taken for the answer
+    // to what comes next.
+    bool StaysQuiet() {
+        if (Why != LockedEnd::None) return false;
+        std::byte One;
+        const ssize_t Length = ::recv(**Line, &One, sizeof(One), MSG_PEEK | MSG_DONTWAIT);
+        if (Length < 0 && errno == EAGAIN) return true;
+        Length > 0 ? Kill(LockedEnd::Nonsense) : Gone();
+        return false;
     }
 
     SharedMemory In, Out;
@@ -310,6 +317,9 @@ LockedProcess::LockedProcess(const LockedProgram& Program) {
                                    "not get ready."),
                     Program.Path);
     mState->Report = LockReport::Of(Ready->Numbers[0]);
+    // From here come those of memory and time.
+    mState->Report.Limits =
+        mState->Report.Limits && SetSoftLimit(mState->Pid, RLIMIT_CPU, RLIM_INFINITY);
     mState->OwnSpace = Ready->Numbers[1];
     mState->AtWork = false;
 }
@@ -348,7 +358,8 @@ void LockedProcess::LetGoOfMemory() {
 void LockedProcess::Allow(const LockedAllowance& Allowance) {
     State& Its = *mState;
     if (Its.Why != LockedEnd::None) return;
-    SetSoftLimit(Its.Pid, RLIMIT_AS, static_cast<rlim_t>(Its.OwnSpace + Allowance.Memory));
+    if (Its.OwnSpace > 0)
+        SetSoftLimit(Its.Pid, RLIMIT_AS, static_cast<rlim_t>(Its.OwnSpace + Allowance.Memory));
     const double Processor = ProcessorSecondsOf(Its.Pid) + Allowance.ProcessorSeconds;
     SetSoftLimit(Its.Pid, RLIMIT_CPU, static_cast<rlim_t>(std::ceil(Processor)));
     Its.Until = Clock::now() + std::chrono::milliseconds(qint64(Allowance.Seconds * 1000));

@@ -3,23 +3,15 @@
 // the locked door. Compiled into each test program that reads any.
 #include <QtGlobal>
 
-#include "pictures/formats/DecodeHost.h"
-#include "pictures/metafiles/MetafileSvg.h"
+#include "pictures/workers/HostHere.h"
 #include "pictures/workers/ReadingHere.h"
 
 namespace neb::harness {
 namespace {
 
-class ThisProcess : public DecodeHost {
-  public:
-    void Acquire(QSize Size, qint64 Bytes) override { AcquireMemory(Size, Bytes); }
-    void Release(QSize, qint64 Bytes) override { ReleaseMemory(Bytes); }
-    QByteArray SvgOf(const QByteArray& Emf) override { return EmfToSvg(Emf); }
-};
-
 [[maybe_unused]] const bool ReadsHere = [] {
     if (qEnvironmentVariableIntValue("NEB_TEST_WORKERS") == 1) return false;
-    static ThisProcess Host;
+    static HostHere Host;
     static ReadingHere Reader;
     SetDecodeHost(Host);
     SetPictureReader(&Reader);
