@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <ctime>
 
-#include "pictures/formats/PictureColour.h"
+#include "pictures/decoders/PictureColour.h"
 #include "pictures/formats/PictureDecoder.h"
 #include "pictures/notes/JpegParts.h"
 #include "pictures/notes/JpegTurn.h"
