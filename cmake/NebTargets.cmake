@@ -80,7 +80,8 @@ function(neb_part NAME SOURCE)
 endfunction()
 
 # neb_slices(pictures.Slice test_pictures 8 [FILTER Some.*:Tests.*] [ENVIRONMENT A=1 ...])
-# The tests of a program as so many tests of ctest, each of which starts it once.
+# The tests of a program as so many tests of ctest, each of which starts it once. A slice without a
+# test fails.
 function(neb_slices PREFIX PROGRAM COUNT)
   cmake_parse_arguments(S "" "FILTER" "ENVIRONMENT" ${ARGN})
   if(NOT S_FILTER)
@@ -90,6 +91,7 @@ function(neb_slices PREFIX PROGRAM COUNT)
   foreach(slice RANGE ${last})
     add_test(NAME ${PREFIX}${slice} COMMAND ${PROGRAM} --gtest_brief=1 --gtest_filter=${S_FILTER})
     set_tests_properties(${PREFIX}${slice} PROPERTIES TIMEOUT 300
+      FAIL_REGULAR_EXPRESSION "] 0 tests from"
       ENVIRONMENT "GTEST_TOTAL_SHARDS=${COUNT};GTEST_SHARD_INDEX=${slice};${S_ENVIRONMENT}")
   endforeach()
 endfunction()

@@ -82,7 +82,7 @@ const WordRule WordRules[] = {
          "\\bQ(?:ImageReader|ImageIOHandler|ImageIOPlugin|Movie|SvgRenderer|SvgWidget)\\b|"
          "\\b(?:fromData|loadFromData)\\s*\\(|\\bimageData\\s*\\(")),
      QRegularExpression(
-         QStringLiteral("^pictures/(?:decoders/|metafiles/|workers/WarmDecoders\\.cpp|"
+         QStringLiteral("^pictures/(?:decoders/|metafiles/|workers/Warm(?:Decoders|Drawings)\\.cpp|"
                         "notes/(?:HeifBlocks|JpegTurn|PictureNotes)\\.cpp)")),
      "foreign pictures are looked at behind the locked door alone"},
     {QRegularExpression(QStringLiteral("<jpeglib")),
@@ -94,8 +94,9 @@ const WordRule WordRules[] = {
          QStringLiteral("\\b(?:DecodeHere|ReadingHere|TurnedJpeg|BlocksOfHeif|EmfToSvg|"
                         "Decode(?:Jpeg|ByQt|Bmp|Pcx|Psd|Tga|Tiff|ByMagick|Heif|"
                         "Jp2|Emf|Wmf))\\b")),
-     QRegularExpression(QStringLiteral("^pictures/(?:formats|decoders|metafiles|notes)/|"
-                                       "^pictures/workers/(?:ReadingHere|OwnPictures|main)\\.")),
+     QRegularExpression(QStringLiteral(
+         "^pictures/(?:formats|decoders|metafiles|notes)/|"
+         "^pictures/workers/(?:ReadingHere|OwnPictures|WarmDecoders|WarmDrawings|main)\\.")),
      "foreign pictures are looked at behind the locked door alone"},
 };
 
@@ -347,7 +348,7 @@ QStringList GuideFaults(const House& Rooms, const QString& Document, const QStri
     QStringList Faults;
     for (const Room& Each : Rooms) {
         const QRegularExpression Line(
-            QStringLiteral("^- `%1` — `([A-Za-z]+\\.h)`: ").arg(Each.Folder),
+            QStringLiteral("^- `%1` — `([A-Za-z]+\\.(?:h|cpp))`: ").arg(Each.Folder),
             QRegularExpression::MultilineOption);
         const auto Match = Line.match(Document);
         if (!Match.hasMatch())

@@ -1,5 +1,6 @@
 #include "controls/forms/NebApplication.h"
 
+#include <QLabel>
 #include <QScopeGuard>
 
 #include "controls/fields/GrowingStyle.h"
@@ -34,6 +35,13 @@ void ReportOrGoOn(const std::exception& Problem) noexcept {
     }
 }
 
+// Names and captions come from anywhere. As marked-up text they could have the toolkit read
+// pictures here that are named in them, of any file; tool tips are labels, too.
+void TakeTextAsItIs(QObject* Receiver) {
+    auto* Label = qobject_cast<QLabel*>(Receiver);
+    if (Label && Label->textFormat() == Qt::AutoText) Label->setTextFormat(Qt::PlainText);
+}
+
 }  // namespace
 
 NebApplication::NebApplication(int& ArgumentCount, char** Arguments)
@@ -57,6 +65,7 @@ bool NebApplication::event(QEvent* Event) {
 
 bool NebApplication::notify(QObject* Receiver, QEvent* Event) {
     try {
+        if (Event->type() == QEvent::Polish) TakeTextAsItIs(Receiver);
         return QApplication::notify(Receiver, Event);
     } catch (const std::exception& Problem) {
         ReportOrGoOn(Problem);

@@ -58,6 +58,7 @@ void KeyCard::OpenFor(bool Manual) {
     for (const CardRow& Row : Rows) {
         if (Row.In == (Manual ? ShowKind::Automatic : ShowKind::Manual)) continue;
         auto* Keys = new QLabel(QStringLiteral("<b>%1</b>").arg(tr(Row.Keys)), this);
+        Keys->setTextFormat(Qt::RichText);
         mRows->addWidget(Keys, Line, 0);
         mRows->addWidget(new QLabel(tr(Row.Does), this), Line++, 1);
     }

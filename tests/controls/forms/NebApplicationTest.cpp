@@ -1,13 +1,17 @@
 #include "controls/forms/NebApplication.h"
 
+#include <QLabel>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
+#include <QToolTip>
 #include <new>
 #include <stdexcept>
 
 #include "controls/forms/ScreenPointer.h"
 #include "controls/forms/TestForm.h"
 #include "harness/ScriptedBoxes.h"
+#include "harness/TempFolder.h"
 #include "support/Fault.h"
 
 using namespace neb;
@@ -146,4 +150,52 @@ TEST(ScreenPointerTest, AHiddenPointerStaysHiddenAfterwards) {
     }
     EXPECT_EQ(Qt::BlankCursor, QGuiApplication::overrideCursor()->shape());
     QGuiApplication::restoreOverrideCursor();
+}
+
+// The name of a show that came from somebody else, say: a picture in it would be read here.
+class TextOfOthers : public ::testing::Test {
+  protected:
+    TextOfOthers() {
+        QImage Picture(400, 400, QImage::Format_RGB32);
+        Picture.fill(Qt::red);
+        EXPECT_TRUE(Picture.save(mFolder / QStringLiteral("a.png")));
+        Text = QStringLiteral("<img src='%1'>").arg(mFolder / QStringLiteral("a.png"));
+    }
+    QString Text;
+
+  private:
+    const neb::harness::TempFolder mFolder;
+};
+
+TEST_F(TextOfOthers, StandsInALabelAsItIs) {
+    QLabel Label(Text);
+    EXPECT_LT(Label.sizeHint().height(), 100);
+    EXPECT_EQ(Qt::PlainText, Label.textFormat());
+    QLabel Marked;
+    Marked.setTextFormat(Qt::RichText);
+    Marked.setText(Text);
+    EXPECT_GT(Marked.sizeHint().height(), 350) << "who asks for marks gets them";
+}
+
+TEST_F(TextOfOthers, StandsInAToolTipAsItIs) {
+    QWidget Window;
+    Window.resize(300, 200);
+    Window.show();
+    QToolTip::showText(Window.mapToGlobal(QPoint(9, 9)), Text, &Window);
+    QLabel* Tip = nullptr;
+    for (QWidget* Each : QApplication::topLevelWidgets())
+        if (Each->inherits("QTipLabel")) Tip = qobject_cast<QLabel*>(Each);
+    ASSERT_TRUE(Tip);
+    EXPECT_EQ(Text, Tip->text());
+    EXPECT_EQ(Qt::PlainText, Tip->textFormat());
+    EXPECT_LT(Tip->sizeHint().height(), 100);
+}
+
+TEST_F(TextOfOthers, StandsInABoxAsItIs) {
+    QMessageBox Box;
+    Box.setText(Text);
+    Box.show();
+    EXPECT_LT(Box.height(), 350);
+    for (const QLabel* Each : Box.findChildren<QLabel*>())
+        EXPECT_NE(Qt::AutoText, Each->textFormat());
 }
