@@ -1,6 +1,7 @@
 #include "pictures/workers/ReadingLocked.h"
 
 #include <atomic>
+#include <cstdlib>
 #include <cstring>
 
 #include "pictures/formats/DecodeHost.h"
@@ -71,6 +72,35 @@ bool IsDrawing(const QByteArray& Bytes) {
     return Format == PictureFormat::Emf || Format == PictureFormat::Wmf;
 }
 
+// Memory for the pixels that are to come. What the system takes its time to give is taken while
+// another process decodes, so that a picture that is waited for comes no later than from this one.
+class PixelsAhead {
+  public:
+    PixelsAhead() = default;
+    ~PixelsAhead() { std::free(mAt); }
+    PixelsAhead(const PixelsAhead&) = delete;
+    PixelsAhead& operator=(const PixelsAhead&) = delete;
+
+    // Most: what has been granted to the one who decodes.
+    void Take(qint64 Bytes, qint64 Most) {
+        constexpr qint64 Page = 4096, Little = 1 << 20;
+        if (mAt || Bytes < Little || Bytes > Most) return;
+        mAt = static_cast<uchar*>(std::malloc(static_cast<size_t>(Bytes)));
+        mBytes = mAt ? Bytes : 0;
+        for (qint64 At = 0; At < mBytes; At += Page) mAt[At] = 0;
+    }
+    QImage PictureOf(QSize Size) {
+        if (!mAt || PixelCount(Size) * 4 != mBytes) return QImage(Size, QImage::Format_RGB32);
+        uchar* const At = std::exchange(mAt, nullptr);
+        return QImage(At, Size.width(), Size.height(), qsizetype(Size.width()) * 4,
+                      QImage::Format_RGB32, std::free, At);
+    }
+
+  private:
+    uchar* mAt = nullptr;
+    qint64 mBytes = 0;
+};
+
 LockedMessage Request(Talk What, const QByteArray& File, std::int64_t A = 0, std::int64_t B = 0,
                       std::int64_t C = 0) {
     return LockedMessage(What, {File.size(), A, B, C});
@@ -106,7 +136,7 @@ class ReadingLocked::Reading {
         if (!Answer.Is(Talk::Picture) || Size.isEmpty() || Full.isEmpty() ||
             PixelCount(Size) * 4 > mProcess->OutBytes())
             EndAsNonsense();
-        QImage Picture(Size, QImage::Format_RGB32);
+        QImage Picture = mAhead.PictureOf(Size);
         if (Picture.isNull()) ThrowTooLarge(Size);
         std::memcpy(Picture.bits(), mProcess->Out(), static_cast<size_t>(Picture.sizeInBytes()));
         return {std::move(Picture), Full};
@@ -132,7 +162,11 @@ class ReadingLocked::Reading {
     }
     bool IsAnswered(const LockedMessage& Said, const NeededSize& Needed) {
         if (Said.Is(Talk::AskNeeded)) return TellNeeded(SizeIn(Said, 0), Needed);
-        if (Said.Is(Talk::AskMemory)) return GiveMemory(SizeIn(Said, 0), Said.Numbers[2]);
+        if (Said.Is(Talk::AskMemory)) {
+            if (!GiveMemory(SizeIn(Said, 0), Said.Numbers[2])) return false;
+            if (!Needed && mHeld) mAhead.Take(PixelCount(SizeIn(Said, 0)) * 4, *mHeld);
+            return true;
+        }
         if (Said.Is(Talk::AskSvg)) return GiveSvg(Said.Numbers[0]);
         if (Said.Is(Talk::Release)) return LetGo(), true;
         return false;
@@ -201,6 +235,7 @@ class ReadingLocked::Reading {
     const QByteArray& mFile;
     LockedPool::Lent mProcess;
     std::optional<qint64> mHeld;  // bytes of the memory for all decoding
+    PixelsAhead mAhead;
 };
 
 ReadingLocked::ReadingLocked()

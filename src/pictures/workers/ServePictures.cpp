@@ -4,6 +4,7 @@
 
 #include <cstring>
 #include <new>
+#include <utility>
 
 #include "pictures/formats/DecodeHost.h"
 #include "pictures/formats/PictureFaults.h"
@@ -39,7 +40,16 @@ class BeforeTheDoor : public DecodeHost {
         return Taken(Reply.Numbers[0], Reply.Numbers[1]);
     }
 
+    // Where the program finds them, too. Once for each request: a drawing may hold many pictures.
+    uchar* PlaceFor(qint64 Bytes) override {
+        const auto Room = mRoom.Out();
+        if (std::exchange(mPlaceIsTaken, true) || Bytes > qint64(Room.size())) return nullptr;
+        return reinterpret_cast<uchar*>(Room.data());
+    }
+    void LetPlaceGo() { mPlaceIsTaken = false; }
+
     void PutBytes(QByteArrayView Bytes) {
+        if (Bytes.data() == reinterpret_cast<const char*>(mRoom.Out().data())) return;
         if (static_cast<size_t>(Bytes.size()) > mRoom.Out().size()) ThrowTooLarge();
         std::memcpy(mRoom.Out().data(), Bytes.data(), static_cast<size_t>(Bytes.size()));
     }
@@ -56,6 +66,7 @@ class BeforeTheDoor : public DecodeHost {
 
   private:
     LockedRoom& mRoom;
+    bool mPlaceIsTaken = false;
 };
 
 class Worker {
@@ -65,6 +76,7 @@ class Worker {
     }
     void DoNext() {
         const LockedMessage Request = mRoom.Receive();
+        mDoor.LetPlaceGo();
         mRoom.Send(AnswerTo(Request));
         if (Request.Numbers[0] > LargeBytes) ::malloc_trim(0);
     }

@@ -31,8 +31,8 @@ using Clock = std::chrono::steady_clock;
 
 // Until it is ready, with all its libraries, on a slow disk.
 constexpr double SecondsToBeginIn = 60;
-// What is kept of the memory that both see, between one picture and the next.
-constexpr qint64 KeptBytes = 24 << 20;
+// What is kept of the memory that both see, between one picture and the next: a photograph.
+constexpr qint64 KeptBytes = 48 << 20;
 
 class Descriptor {
   public:
