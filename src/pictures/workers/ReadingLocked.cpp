@@ -3,6 +3,7 @@
 #include <atomic>
 #include <cstdlib>
 #include <cstring>
+#include <future>
 
 #include "pictures/formats/DecodeHost.h"
 #include "pictures/formats/PictureFaults.h"
@@ -101,6 +102,15 @@ class PixelsAhead {
     qint64 mBytes = 0;
 };
 
+// Somebody waits for it: half of a large picture is copied by another processor.
+void CopyPixels(uchar* To, const uchar* From, qint64 Bytes) {
+    constexpr qint64 Large = 8 << 20;
+    const auto Half = static_cast<size_t>(Bytes > Large ? Bytes / 2 : 0);
+    const auto Beside =
+        Half ? std::async(std::launch::async, std::memcpy, To, From, Half) : std::future<void*>();
+    std::memcpy(To + Half, From + Half, static_cast<size_t>(Bytes) - Half);
+}
+
 LockedMessage Request(Talk What, const QByteArray& File, std::int64_t A = 0, std::int64_t B = 0,
                       std::int64_t C = 0) {
     return LockedMessage(What, {File.size(), A, B, C});
@@ -138,7 +148,7 @@ class ReadingLocked::Reading {
             EndAsNonsense();
         QImage Picture = mAhead.PictureOf(Size);
         if (Picture.isNull()) ThrowTooLarge(Size);
-        std::memcpy(Picture.bits(), mProcess->Out(), static_cast<size_t>(Picture.sizeInBytes()));
+        CopyPixels(Picture.bits(), mProcess->Out(), Picture.sizeInBytes());
         return {std::move(Picture), Full};
     }
     std::optional<QByteArray> BytesOf(const LockedMessage& Answer) {

@@ -60,6 +60,7 @@ struct LockedPool::Shared {
         std::unique_ptr<LockedProcess> Made;
         try {
             Made = Make();
+            Made->TakeMemoryAhead();
         } catch (const Fault&) {
             Made = nullptr;  // who needs one is told
         }

@@ -79,6 +79,11 @@ class SharedMemory {
     int File() const { return *mFile; }
     uchar* At() const { return mAt; }
     qint64 Bytes() const { return mBytes; }
+    // Without it pages come one by one, as they are written; so whether it can be had is all the
+    // same.
+    void TakeAhead(qint64 Bytes) {
+        (void)::fallocate(*mFile, FALLOC_FL_KEEP_SIZE, 0, std::min(Bytes, mBytes));
+    }
     void Trim() {
         if (mBytes <= KeptBytes) return;
         ::fallocate(*mFile, FALLOC_FL_PUNCH_HOLE | FALLOC_FL_KEEP_SIZE, KeptBytes,
@@ -298,6 +303,11 @@ const uchar* LockedProcess::Out() const {
 
 qint64 LockedProcess::OutBytes() const {
     return mState->Out.Bytes();
+}
+
+void LockedProcess::TakeMemoryAhead() {
+    mState->In.TakeAhead(KeptBytes / 8);
+    mState->Out.TakeAhead(KeptBytes);
 }
 
 void LockedProcess::LetGoOfMemory() {

@@ -51,6 +51,8 @@ class LockedProcess {
     // The memory that it writes, at any time: each byte must be read once, then checked.
     const uchar* Out() const;
     qint64 OutBytes() const;
+    // Takes from the system what a photograph needs of both, for who will wait for the first.
+    void TakeMemoryAhead();
     // Gives back to the system what one large picture has taken of both.
     void LetGoOfMemory();
 
