@@ -18,6 +18,7 @@ namespace {
 constexpr qint64 LargestSvg = 64LL << 20;
 constexpr qint64 InBytes = LargestPictureFile + LargestSvg;
 constexpr qint64 OutBytes = 820LL << 20;
+constexpr qint64 PhotoBytes = 48 << 20;  // of pixels
 
 // Before a picture has told how large it is.
 constexpr qint64 HeaderMemory = 192LL << 20;
@@ -28,8 +29,8 @@ LockedAllowance AllowanceFor(qint64 File, qint64 Asked) {
     return {HeaderMemory + 3 * File + 2 * Asked, Seconds, Seconds * WallTimes};
 }
 
-LockedProgram Program(const char* Name, const char* Role) {
-    return {LockedProgramPath(QString::fromLatin1(Name)), Role, InBytes, OutBytes};
+LockedProgram Program(const char* Name, const char* Role, qint64 AheadBytes = 0) {
+    return {LockedProgramPath(QString::fromLatin1(Name)), Role, InBytes, OutBytes, AheadBytes};
 }
 
 [[noreturn]] void ThrowEnded(LockedEnd How) {
@@ -249,8 +250,8 @@ class ReadingLocked::Reading {
 };
 
 ReadingLocked::ReadingLocked()
-    : ReadingLocked(Program("neb-pictures", "pictures"), Program("neb-pictures", "drawings"),
-                    Program("neb-metafiles", "metafiles")) {}
+    : ReadingLocked(Program("neb-pictures", "pictures", PhotoBytes),
+                    Program("neb-pictures", "drawings"), Program("neb-metafiles", "metafiles")) {}
 
 ReadingLocked::ReadingLocked(const LockedProgram& Pictures, const LockedProgram& Drawings,
                              const LockedProgram& Metafiles)

@@ -60,7 +60,7 @@ struct LockedPool::Shared {
         std::unique_ptr<LockedProcess> Made;
         try {
             Made = Make();
-            Made->TakeMemoryAhead();
+            Made->TakeMemoryAhead(Program.AheadBytes);
         } catch (const Fault&) {
             Made = nullptr;  // who needs one is told
         }

@@ -305,9 +305,8 @@ qint64 LockedProcess::OutBytes() const {
     return mState->Out.Bytes();
 }
 
-void LockedProcess::TakeMemoryAhead() {
-    mState->In.TakeAhead(KeptBytes / 8);
-    mState->Out.TakeAhead(KeptBytes);
+void LockedProcess::TakeMemoryAhead(qint64 OutBytes) {
+    if (OutBytes > 0) mState->Out.TakeAhead(OutBytes);
 }
 
 void LockedProcess::LetGoOfMemory() {

@@ -18,6 +18,7 @@ struct LockedProgram {
     QString Path;
     QByteArray Role;  // its one argument
     qint64 InBytes = 0, OutBytes = 0;
+    qint64 AheadBytes = 0;  // of OutBytes, taken from the system while nobody waits
 };
 // A program of ours that lies beside the modules, by its name.
 QString LockedProgramPath(const QString& Name);
@@ -51,8 +52,8 @@ class LockedProcess {
     // The memory that it writes, at any time: each byte must be read once, then checked.
     const uchar* Out() const;
     qint64 OutBytes() const;
-    // Takes from the system what a photograph needs of both, for who will wait for the first.
-    void TakeMemoryAhead();
+    // Takes from the system so much of what it writes, for who will wait for its first answer.
+    void TakeMemoryAhead(qint64 OutBytes);
     // Gives back to the system what one large picture has taken of both.
     void LetGoOfMemory();
 
