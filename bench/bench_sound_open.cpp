@@ -7,7 +7,7 @@
 #include <ctime>
 #include <vector>
 
-#include "sound/decoding/SoundDecoder.h"
+#include "sound/workers/SoundReading.h"
 #include "support/files/modHostFiles.h"
 
 using namespace neb;

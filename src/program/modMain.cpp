@@ -10,6 +10,7 @@
 #include "db/modDatabaseLock.h"
 #include "db/records/modJournal.h"
 #include "pictures/workers/OwnPictures.h"
+#include "pictures/workers/ReadingLocked.h"
 #include "program/CommandLine.h"
 #include "program/DesktopServices.h"
 #include "program/EditMenu.h"
@@ -31,6 +32,7 @@ namespace neb {
 namespace {
 
 constexpr int RetryMs = 50;
+constexpr int WarmUpMs = 200;
 constexpr int MeanwhileMs = 1500;  // for which another program may be starting or ending
 
 // The words as typed, which may name files by any bytes. The toolkit takes its own out of them, but
@@ -67,6 +69,12 @@ bool TakeOver(frmNEBSlideShow& Window, const HandOver& What) {
     return true;
 }
 
+// The first picture that somebody wants does not wait for its reader. When the window stands: it is
+// what is waited for now, and it may have wanted pictures itself.
+void WarmUpReaders(frmNEBSlideShow& Window) {
+    QTimer::singleShot(WarmUpMs, &Window, [] { TheLockedReading().WarmUp(); });
+}
+
 int RunMainWindow(const CommandLine& Line, const QString& Database) {
     frmNEBSlideShow Window;
     std::optional<InstanceServer> Server;
@@ -78,6 +86,7 @@ int RunMainWindow(const CommandLine& Line, const QString& Database) {
     } catch (const std::exception& Problem) {
         return TellUnreadable(Problem);
     }
+    WarmUpReaders(Window);
     const TerminationWatch Watch([&Window] {
         StopFilms();
         CloseWhenIdle(Window);

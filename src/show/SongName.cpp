@@ -1,7 +1,7 @@
 #include "show/SongName.h"
 
 #include "db/SongNames.h"
-#include "sound/decoding/SongTags.h"
+#include "sound/workers/SoundReading.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
 #include "support/modText.h"

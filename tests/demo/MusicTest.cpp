@@ -11,7 +11,7 @@
 #include "demo/music/Room.h"
 #include "demo/music/Scores.h"
 #include "harness/TempFolder.h"
-#include "sound/decoding/SoundDecoder.h"
+#include "sound/workers/SoundReading.h"
 #include "support/files/modHostFiles.h"
 
 namespace neb::demo {

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <cstdlib>
 
-#include "sound/decoding/SoundDecoder.h"
+#include "sound/workers/SoundsHere.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
 
@@ -28,7 +28,7 @@ bool ReadsWell(neb::SoundDecoder& Sound, qint64 Most) {
 }
 
 bool PlaysWell(const QString& Path) {
-    const auto Sound = neb::OpenSound(Path);
+    const auto Sound = neb::SoundsHere().Open(Path);
     const qint64 Length = Sound->Frames();
     if (Length < 0 || Sound->Channels() < 1 || Sound->Channels() > 8 || Sound->Rate() < 1)
         return false;

@@ -1,5 +1,5 @@
 // What songs say of themselves, by every family of files.
-#include "sound/decoding/SongTags.h"
+#include "sound/workers/SoundReading.h"
 
 #include <gtest/gtest.h>
 #include <sndfile.h>

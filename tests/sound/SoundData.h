@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "harness/TempFolder.h"
-#include "sound/decoding/SoundDecoder.h"
+#include "sound/workers/SoundReading.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
 

@@ -6,7 +6,7 @@
 #include "effects/EffectSteps.h"
 #include "pictures/ImgX.h"
 #include "show/film/FilmWriter.h"
-#include "sound/decoding/SoundDecoder.h"
+#include "sound/workers/SoundReading.h"
 #include "support/Fault.h"
 
 namespace neb {

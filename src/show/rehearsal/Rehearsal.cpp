@@ -5,7 +5,7 @@
 #include "pictures/formats/PictureSniff.h"
 #include "show/EngineSound.h"
 #include "show/captions/CaptionText.h"
-#include "sound/decoding/SoundDecoder.h"
+#include "sound/workers/SoundReading.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
 

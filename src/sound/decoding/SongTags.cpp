@@ -1,17 +1,6 @@
 #include "sound/decoding/SongTags.h"
 
-#include "sound/decoding/SoundDecoderSource.h"
-#include "support/Fault.h"
-
 namespace neb {
-
-SongTags ReadSongTags(const QString& Path) try {
-    SoundSource Source(Path);
-    const SongTags Found = MpegTags(Source);
-    return Found == SongTags() ? WaveTags(Source) : Found;
-} catch (const Fault&) {
-    return {};
-}
 
 QString SongTitle(const SongTags& Tags) {
     if (Tags.Title.isEmpty() || Tags.Artist.isEmpty()) return Tags.Title;

@@ -1,5 +1,5 @@
 // What a song says of itself in its tags: ID3 of MP3 files, and what libsndfile reads of the rest.
-// Used where a song is to be known by its name; any thread may call.
+// Used where a song is to be known by its name; SoundReading.h reads them.
 #pragma once
 
 #include <QByteArray>
@@ -14,8 +14,6 @@ struct SongTags {
     bool operator==(const SongTags&) const = default;
 };
 
-// Nothing for a file that says nothing, cannot be read or is no song. Never throws.
-SongTags ReadSongTags(const QString& Path);
 // "Artist - Title", or the title alone; empty without a title.
 QString SongTitle(const SongTags& Tags);
 

@@ -2,7 +2,7 @@
 // names. The players read it on a thread of their own.
 #pragma once
 
-#include <QString>
+#include <QtGlobal>
 #include <memory>
 
 namespace neb {
@@ -20,7 +20,13 @@ class SoundDecoder {
     virtual void Seek(qint64 Frame) = 0;  // 0 to Frames(), exact; beyond them, their ends
 };
 
-// Throws Fault, with a sentence and the path, for what cannot be played at all.
-std::unique_ptr<SoundDecoder> OpenSound(const QString& Path);
+class SoundBytes;
+struct SongTags;
+
+// These in this very process; SoundReading.h is the way to have it done behind a locked door.
+// Throws Fault, with a sentence and no file, for what cannot be played at all.
+std::unique_ptr<SoundDecoder> DecodeSound(std::unique_ptr<SoundBytes> Bytes);
+// Nothing for what says nothing or is no song.
+SongTags DecodeTags(std::unique_ptr<SoundBytes> Bytes);
 
 }  // namespace neb

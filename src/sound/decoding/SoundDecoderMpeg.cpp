@@ -80,7 +80,7 @@ MpegSound::MpegSound(std::unique_ptr<SoundSource> Source, std::vector<MpegPart> 
     if (Prepare()) Measure(std::move(Parts));
     if (mFrames > 0 && Enter(0)) return;
     mpg123_delete(mHandle);
-    throw Fault(QStringLiteral("The sound is damaged and cannot be played."), mSource->Path());
+    throw Fault(QStringLiteral("The sound is damaged and cannot be played."));
 }
 
 MpegSound::~MpegSound() {

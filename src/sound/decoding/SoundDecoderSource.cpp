@@ -3,8 +3,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
-
-#include "support/Fault.h"
+#include <utility>
 
 namespace neb {
 
@@ -14,8 +13,8 @@ constexpr qint64 BlockLength = 1 << 16;
 
 }  // namespace
 
-SoundSource::SoundSource(const QString& Path)
-    : mPath(Path), mReader(Path), mWindow{0, mReader.Length()} {
+SoundSource::SoundSource(std::unique_ptr<SoundBytes> Bytes)
+    : mBytes(std::move(Bytes)), mWindow{0, mBytes->Length()} {
     Keep({});
 }
 
@@ -54,12 +53,7 @@ void SoundSource::Correct(qint64 At, const QByteArray& Bytes) {
 bool SoundSource::LoadBlock(qint64 At) {
     mBlockAt = At;
     mBlock.resize(BlockLength);
-    try {
-        mReader.Seek(At);
-        mBlock.resize(mReader.Read(mBlock.data(), BlockLength));
-    } catch (const Fault&) {
-        mBlock.clear();
-    }
+    mBlock.resize(mBytes->ReadAt(At, mBlock.data(), BlockLength));
     for (qint64 I = 0; I < mCorrect.size(); ++I) {
         const qint64 Its = mCorrectAt + I - mBlockAt;
         if (Its >= 0 && Its < mBlock.size()) mBlock[Its] = mCorrect[I];

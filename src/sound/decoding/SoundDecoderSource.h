@@ -3,11 +3,10 @@
 #pragma once
 
 #include <QByteArray>
-#include <QString>
-
+#include <memory>
 #include <vector>
 
-#include "support/files/modHostFiles.h"
+#include "sound/decoding/SoundBytes.h"
 
 namespace neb {
 
@@ -17,9 +16,8 @@ struct SoundPiece {
 
 class SoundSource {
   public:
-    explicit SoundSource(const QString& Path);  // throws Fault when the file cannot be opened
+    explicit SoundSource(std::unique_ptr<SoundBytes> Bytes);
 
-    const QString& Path() const { return mPath; }
     qint64 Length() const { return mLength; }  // bytes
     qint64 Place() const { return mPlace; }    // bytes, 0 to Length()
 
@@ -46,8 +44,7 @@ class SoundSource {
     qint64 ReadFile(char* Into, qint64 At, qint64 MaxLength);
     bool LoadBlock(qint64 At);
 
-    QString mPath;
-    HostReader mReader;
+    std::unique_ptr<SoundBytes> mBytes;
     SoundPiece mWindow;  // what Narrow left
     std::vector<Part> mParts;
     qint64 mCorrectAt = 0;  // in the whole file

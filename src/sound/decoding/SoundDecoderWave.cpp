@@ -38,8 +38,8 @@ SF_VIRTUAL_IO Callbacks() {
     return Io;
 }
 
-void Check(bool Good, const QString& Sentence, const SoundSource& Source) {
-    if (!Good) throw Fault(Sentence, Source.Path());
+void Check(bool Good, const QString& Sentence) {
+    if (!Good) throw Fault(Sentence);
 }
 
 }  // namespace
@@ -79,13 +79,11 @@ WaveSound::Shape WaveSound::Open() {
 WaveSound::WaveSound(std::unique_ptr<SoundSource> Source) : mSource(std::move(Source)) {
     const Shape Its = Open();
     Check(Its.Channels > 0 && Its.Rate >= kLeastRate && Its.Rate <= MostRate,
-          QStringLiteral("The sound is damaged, or of a kind that this program cannot play."),
-          *mSource);
+          QStringLiteral("The sound is damaged, or of a kind that this program cannot play."));
     Check(Its.Channels <= MostChannels,
           QStringLiteral("The sound has %1 channels; this program plays %2 at most.")
               .arg(Its.Channels)
-              .arg(MostChannels),
-          *mSource);
+              .arg(MostChannels));
     mRate = Its.Rate;
     mChannels = Its.Channels;
     mCanSeek = Its.CanSeek;
@@ -93,8 +91,7 @@ WaveSound::WaveSound(std::unique_ptr<SoundSource> Source) : mSource(std::move(So
     // then what can be decoded counts.
     mFrames = Its.Frames;
     if (!IsThere(Its.Frames - 1)) mFrames = Open().Channels == mChannels ? Skip(MostCounted) : 0;
-    Check(MoveTo(0) || mFrames == 0, QStringLiteral("The sound is damaged and cannot be played."),
-          *mSource);
+    Check(MoveTo(0) || mFrames == 0, QStringLiteral("The sound is damaged and cannot be played."));
 }
 
 WaveSound::~WaveSound() = default;

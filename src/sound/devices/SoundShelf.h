@@ -5,7 +5,7 @@
 #include <functional>
 #include <memory>
 
-#include "sound/decoding/SoundDecoder.h"
+#include "sound/workers/SoundReading.h"
 #include "support/work/LeftThread.h"
 
 namespace neb {

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QByteArrayView>
 #include <QString>
 #include <memory>
 #include <optional>
@@ -18,7 +19,6 @@ struct LockedProgram {
     QString Path;
     QByteArray Role;  // its one argument
     qint64 InBytes = 0, OutBytes = 0;
-    qint64 AheadBytes = 0;  // of OutBytes, taken from the system while nobody waits
 };
 // A program of ours that lies beside the modules, by its name.
 QString LockedProgramPath(const QString& Name);
@@ -32,8 +32,9 @@ struct LockedAllowance {
 
 enum class LockedEnd {
     None,       // it lives
-    Crashed,    // or was ended from outside
+    Crashed,    // or left by itself
     Forbidden,  // it asked the system for what it may not
+    Killed,     // from outside: by the system for want of memory, or by hand
     TooLong,    // its time was up
     Nonsense    // what it said was none of our messages
 };
@@ -52,8 +53,10 @@ class LockedProcess {
     // The memory that it writes, at any time: each byte must be read once, then checked.
     const uchar* Out() const;
     qint64 OutBytes() const;
-    // Takes from the system so much of what it writes, for who will wait for its first answer.
-    void TakeMemoryAhead(qint64 OutBytes);
+    // The same, where the machine may have no memory left for what is put or taken: throws
+    // std::bad_alloc, where a plain look would end the program.
+    void Put(qint64 At, QByteArrayView Bytes);
+    void Take(qint64 At, void* To, qint64 Bytes) const;
     // Gives back to the system what one large picture has taken of both.
     void LetGoOfMemory();
 
@@ -62,6 +65,8 @@ class LockedProcess {
     void Send(const LockedMessage& Message);
     // Nothing where it has ended, or was ended because of its time or of what it said.
     std::optional<LockedMessage> Receive();
+    // Whether it lives and has said nothing that nobody asked for; if it has, it ends.
+    bool StaysQuiet();
     // For who sees that a message makes no sense: it ends.
     void EndBecause(LockedEnd Why);
 

@@ -1,7 +1,7 @@
 #include "windows/compose/TrackPlayer.h"
 
 #include "controls/forms/StandOver.h"
-#include "sound/decoding/SoundDecoder.h"
+#include "sound/workers/SoundReading.h"
 #include "support/Fault.h"
 
 namespace neb {

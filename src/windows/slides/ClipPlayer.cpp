@@ -5,7 +5,7 @@
 #include "controls/fields/Icons.h"
 #include "controls/forms/StandOver.h"
 #include "sound/clsDirectSound.h"
-#include "sound/decoding/SoundDecoder.h"
+#include "sound/workers/SoundReading.h"
 #include "support/files/modHostFiles.h"
 
 namespace neb {

@@ -15,7 +15,7 @@
 #include "controls/grid/FlexGrid.h"
 #include "db/clsDBEngine.h"
 #include "settings/modNEBSlideShow.h"
-#include "sound/decoding/SoundDecoder.h"
+#include "sound/workers/SoundReading.h"
 #include "support/Services.h"
 #include "support/files/modHostFiles.h"
 #include "support/modCharacters.h"

@@ -3,7 +3,7 @@
 
 #include "ManagerRig.h"
 #include "harness/SoundFiles.h"
-#include "sound/decoding/SoundDecoder.h"
+#include "sound/workers/SoundReading.h"
 #include "sound/devices/ClockedSound.h"
 #include "support/modFUFL.h"
 

@@ -4,7 +4,7 @@
 #include "SlideRig.h"
 #include "harness/SoundFiles.h"
 #include "sound/RecorderRig.h"
-#include "sound/decoding/SoundDecoder.h"
+#include "sound/workers/SoundReading.h"
 #include "support/modFUFL.h"
 
 namespace neb {
