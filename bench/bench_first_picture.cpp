@@ -7,6 +7,8 @@
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QTemporaryDir>
+#include <QThread>
+#include <algorithm>
 #include <cstdio>
 #include <memory>
 #include <random>
@@ -22,7 +24,7 @@ namespace {
 using namespace neb;
 
 constexpr double MostMoreMs = 5;
-constexpr int ColdReadings = 5;
+constexpr int NewProcesses = 9, MsToStartIn = 1500;
 
 // Hills of colours with the grain of a camera's sensor.
 QImage Photo(QSize Size) {
@@ -72,8 +74,8 @@ struct Readers {
 // Whether it is within the limit.
 bool Print(const char* What, const std::vector<double>& Before, const std::vector<double>& Now) {
     const double Was = Median(Before), Is = Median(Now);
-    std::printf("%-48s %7.2f ms more   (%.2f / %.2f ms, longest %.2f)\n", What, Is - Was, Is, Was,
-                *std::max_element(Now.begin(), Now.end()));
+    std::printf("%-48s %7.2f ms more   (%.2f / %.2f ms, at best %.2f / %.2f)\n", What, Is - Was, Is,
+                Was, *std::ranges::min_element(Now), *std::ranges::min_element(Before));
     std::fflush(stdout);
     return Is - Was <= MostMoreMs;
 }
@@ -87,15 +89,22 @@ bool RunWarm(Readers& All, const char* What, const QString& File, int Readings) 
     return Print(What, Before, Now);
 }
 
-void RunCold(Readers& All, const QString& File) {
+enum class Process { Waits, IsToBeStarted };
+
+// By processes that have read nothing yet.
+bool RunNew(Readers& All, const char* What, const QString& File, Process Its) {
     std::vector<double> Before, Now;
-    for (int I = 0; I < ColdReadings; ++I) {
+    for (int I = 0; I < NewProcesses; ++I) {
         Before.push_back(All.BeforeMs(File));
-        ReadingLocked Cold;
-        Now.push_back(All.NowMs(File, &Cold));
+        ReadingLocked New;
+        if (Its == Process::Waits) {
+            New.WarmUp();
+            QThread::msleep(MsToStartIn);
+        }
+        Now.push_back(All.NowMs(File, &New));
         SetPictureReader(nullptr);
     }
-    Print("foreign, 12 megapixels, a process to be started", Before, Now);
+    return Print(What, Before, Now);
 }
 
 QString Stored(const QTemporaryDir& Dir, const char* Name, QSize Size,
@@ -123,8 +132,9 @@ int main(int argc, char** argv) {
     Photo(Twelve).save(Foreign, "JPEG", 90);
     bool Within = RunWarm(All, "own, 1024x768", Small, Readings);
     Within = RunWarm(All, "own, 12 megapixels", Large, Readings) && Within;
-    Within =
-        RunWarm(All, "foreign, 12 megapixels, a process that waits", Foreign, Readings) && Within;
-    RunCold(All, Foreign);
+    Within = RunWarm(All, "foreign, 12 megapixels, one after another", Foreign, Readings) && Within;
+    Within = RunNew(All, "foreign, 12 megapixels, a process that waits", Foreign, Process::Waits) &&
+             Within;
+    RunNew(All, "foreign, 12 megapixels, one to be started", Foreign, Process::IsToBeStarted);
     return Within ? 0 : 1;
 }

@@ -28,6 +28,7 @@ class OwnStoredPictures : public ::testing::Test {
   protected:
     OwnStoredPictures() {
         KeepOwnSumsIn(Own);
+        MakeDirs(Database);
         Engine.SetDBPath(Database);
         Engine.InitializeDB();
         Engine.KeepSession();
@@ -116,9 +117,9 @@ TEST_F(OwnStoredPictures, AnAdoptedStrayIsReadBehindTheDoor) {
     EXPECT_EQ(0, ReadFor(Slides + FileStem(Made.SlideID) + u"Small.bmp"_s));
 }
 
-TEST_F(OwnStoredPictures, AFolderForADiscIsOwnForItsUserAndForeignForOthers) {
+TEST_F(OwnStoredPictures, ACopyElsewhereIsOwnForItsUserAndForeignForOthers) {
     const QString Stored = Import(Saved({1300, 900}, "PNG"));
-    const QString Copy = Dir / u"disc.jpg"_s;
+    const QString Copy = Dir / u"elsewhere.jpg"_s;
     WriteFile(Copy, ReadFile(Stored));
     EXPECT_EQ(0, ReadFor(Copy)) << "the very bytes that were made here";
     KeepOwnSumsIn(Dir / u"somebody else/"_s);

@@ -13,6 +13,8 @@
 #include "db/modAlbumFiles.h"
 #include "db/modDatabaseLock.h"
 #include "harness/Sanitizer.h"
+#include "pictures/workers/OwnPictures.h"
+#include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/files/CheckSums.h"
 #include "tools/modCommands.h"
@@ -565,6 +567,19 @@ class NebctlImportTest : public ::testing::Test {
 
     TempFolder Dir;
 };
+
+TEST_F(NebctlImportTest, WhatTheProgramHasMadeItReadsDirectlyLater) {
+    QProcess Process;
+    Process.start(QStringLiteral(NEB_BINARY_DIR "/bin/nebctl"),
+                  {u"import"_s, Database(), Pictures(), u"--album"_s, u"Garden"_s});
+    ASSERT_TRUE(Process.waitForFinished());
+    ASSERT_EQ(0, Process.exitCode()) << Process.readAllStandardError().toStdString();
+    const QByteArray Jpeg = ReadFile(SlidesFolder(Database(), 1) + u"00000001.jpg"_s);
+    EXPECT_FALSE(OwnPicture(Jpeg, {}));
+    KeepOwnSumsIn(OwnSumsFolder());
+    EXPECT_TRUE(OwnPicture(Jpeg, {}));
+    KeepOwnSumsIn({});
+}
 
 TEST_F(NebctlImportTest, MakesTheAlbumAndTheShowInAnEmptyDirectory) {
     const Outcome Made = Import({u"--recurse"_s, u"--show"_s, u"First"_s});

@@ -9,6 +9,7 @@
 #include <jerror.h>
 
 #include "pictures/decoders/PictureColour.h"
+#include "pictures/formats/DecodeHost.h"
 #include "pictures/formats/PictureFaults.h"
 #include "pictures/formats/PictureFormats.h"
 #include "pictures/formats/PictureOrientation.h"
@@ -46,6 +47,7 @@ class JpegReader {
     void ChooseScale(const NeededSize& Needed);
     void ChooseColours();
     qint64 BytesNeeded() const;
+    static QImage Canvas(QSize Size);
     void ReadLines();
     void ThrowIfCut() const;
     QImage Finish();
@@ -174,10 +176,17 @@ qint64 JpegReader::BytesNeeded() const {
            mSource.Bytes.size();
 }
 
+QImage JpegReader::Canvas(QSize Size) {
+    const qsizetype Line = qsizetype(Size.width()) * 4;
+    uchar* const Place = TheDecodeHost().PlaceFor(Line * Size.height());
+    if (!Place) return QImage(Size, QImage::Format_RGB32);
+    return QImage(Place, Size.width(), Size.height(), Line, QImage::Format_RGB32);
+}
+
 void JpegReader::ReadLines() {
     const bool Grey = mInfo.out_color_space == JCS_GRAYSCALE;
-    mPicture = QImage(static_cast<int>(mInfo.output_width), static_cast<int>(mInfo.output_height),
-                      Grey ? QImage::Format_Grayscale8 : QImage::Format_RGB32);
+    const QSize Size(static_cast<int>(mInfo.output_width), static_cast<int>(mInfo.output_height));
+    mPicture = Grey ? QImage(Size, QImage::Format_Grayscale8) : Canvas(Size);
     if (mPicture.isNull()) ThrowTooLarge(mPicture.size());
     uchar* const Bits = mPicture.bits();
     const qsizetype Stride = mPicture.bytesPerLine();

@@ -15,6 +15,9 @@ class DecodeHost {
     // Throws FaultTooLarge where a picture of that size is beyond all limits.
     virtual void Acquire(QSize Size, qint64 Bytes) = 0;
     virtual void Release(QSize Size, qint64 Bytes) = 0;
+    // Where the pixels of a large picture may be put at once, instead of into memory of its own,
+    // until its decoding is done; null: nowhere. One at a time.
+    virtual uchar* PlaceFor(qint64) { return nullptr; }
     // An enhanced metafile as SVG. Throws Fault when it is damaged.
     virtual QByteArray SvgOf(const QByteArray& Emf) = 0;
 };

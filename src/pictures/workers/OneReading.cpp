@@ -2,6 +2,7 @@
 
 #include <atomic>
 #include <chrono>
+#include <future>
 
 #include "pictures/formats/DecodeHost.h"
 #include "pictures/formats/PictureFaults.h"
@@ -48,15 +49,26 @@ QString PlainSentence(QByteArrayView Bytes) {
 
 // In pieces that are still at hand when their fourth bytes are set: whoever draws such a picture
 // relies on them.
-void TakePixels(const LockedProcess& Process, QImage& Picture) {
+void TakePart(const LockedProcess& Process, uchar* Pixels, qint64 Begin, qint64 End) {
     constexpr qint64 Piece = 1 << 18;
-    uchar* const Pixels = Picture.bits();
-    for (qint64 At = 0, All = Picture.sizeInBytes(); At < All; At += Piece) {
-        const qint64 Length = std::min(Piece, All - At);
+    for (qint64 At = Begin; At < End; At += Piece) {
+        const qint64 Length = std::min(Piece, End - At);
         Process.Take(At, Pixels + At, Length);
         QRgb* const First = reinterpret_cast<QRgb*>(Pixels + At);
         for (qint64 I = 0; I < Length / 4; ++I) First[I] |= 0xFF000000;
     }
+}
+
+// Somebody waits for it: half of a large one is taken by another processor.
+void TakePixels(const LockedProcess& Process, QImage& Picture) {
+    constexpr qint64 Large = 8 << 20;
+    uchar* const Pixels = Picture.bits();
+    const qint64 All = Picture.sizeInBytes(), Half = All > Large ? All / 8 * 4 : 0;
+    std::future<void> Beside;
+    if (Half > 0)
+        Beside = std::async(std::launch::async, [&] { TakePart(Process, Pixels, 0, Half); });
+    TakePart(Process, Pixels, Half, All);
+    if (Half > 0) Beside.get();
 }
 
 }  // namespace
@@ -88,7 +100,7 @@ DecodedPicture OneReading::Picture() {
         Size.boundedTo(Full) != Size ||
         PixelCount(Size) * 4 > std::min(mMostAsked, mProcess.OutBytes()))
         EndBecause(LockedEnd::Nonsense);
-    QImage Picture(Size, QImage::Format_RGB32);
+    QImage Picture = mAhead.PictureOf(Size);
     if (Picture.isNull()) ThrowTooLarge(Size);
     TakePixels(mProcess, Picture);
     return {std::move(Picture), Full};
@@ -159,6 +171,8 @@ bool OneReading::GiveMemory(QSize Size, qint64 Bytes) {
     mMostAsked = std::max(mMostAsked, Bytes);
     mProcess.Allow(mCosts.For(mTask.File.size(), mMostAsked));  // before it goes on
     Say(LockedMessage(Talk::Granted));
+    // who says how much he needs gets less than all, and how much is not known yet
+    if (!mTask.Needed && IsPossible(Size)) mAhead.Take(PixelCount(Size) * 4, Bytes);
     return true;
 }
 

@@ -7,6 +7,7 @@
 #include <optional>
 
 #include "pictures/formats/PictureDecoder.h"
+#include "pictures/workers/PixelsAhead.h"
 #include "pictures/workers/WorkerTalk.h"
 #include "support/locked/LockedProcess.h"
 
@@ -76,6 +77,7 @@ class OneReading {
     const Task& mTask;
     const std::int64_t mTicket;
     std::optional<qint64> mHeld;  // bytes of the memory for all decoding
+    PixelsAhead mAhead;
     qint64 mMostAsked = 0;
     int mQuestions = 0;
     double mWaited = 0;  // seconds, for the process alone

@@ -4,6 +4,7 @@
 
 #include <cstring>
 #include <new>
+#include <utility>
 
 #include "pictures/formats/DecodeHost.h"
 #include "pictures/formats/PictureFaults.h"
@@ -22,6 +23,7 @@ class BeforeTheDoor : public DecodeHost {
     LockedMessage NextRequest() {
         const LockedMessage Request = mRoom.Receive();
         mTicket = Request.Numbers[TicketAt];
+        mPlaceIsTaken = false;
         return Request;
     }
     void Say(const LockedMessage& Message) { mRoom.Send(WithTicket(Message, mTicket)); }
@@ -47,7 +49,15 @@ class BeforeTheDoor : public DecodeHost {
         return Taken(Reply.Numbers[0], Reply.Numbers[1]);
     }
 
+    // Where the program finds them, too. Once for each request: a drawing may hold many pictures.
+    uchar* PlaceFor(qint64 Bytes) override {
+        const auto Room = mRoom.Out();
+        if (std::exchange(mPlaceIsTaken, true) || Bytes > qint64(Room.size())) return nullptr;
+        return reinterpret_cast<uchar*>(Room.data());
+    }
+
     void PutBytes(QByteArrayView Bytes) {
+        if (Bytes.data() == reinterpret_cast<const char*>(mRoom.Out().data())) return;
         if (static_cast<size_t>(Bytes.size()) > mRoom.Out().size()) ThrowTooLarge();
         std::memcpy(mRoom.Out().data(), Bytes.data(), static_cast<size_t>(Bytes.size()));
     }
@@ -65,6 +75,7 @@ class BeforeTheDoor : public DecodeHost {
   private:
     LockedRoom& mRoom;
     std::int64_t mTicket = 0;
+    bool mPlaceIsTaken = false;
 };
 
 class Worker {

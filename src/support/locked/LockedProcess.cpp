@@ -33,7 +33,7 @@ using Clock = std::chrono::steady_clock;
 // Until it is ready, with all its libraries, on a slow disk.
 constexpr double SecondsToBeginIn = 60;
 // What is kept of the memory that both see, between one picture and the next.
-constexpr qint64 KeptBytes = 24 << 20;
+constexpr qint64 KeptBytes = 48 << 20;  // a photograph
 
 class Descriptor {
   public:
