@@ -11,8 +11,8 @@
 #include <QTemporaryDir>
 #include <cmath>
 #include <cstdio>
-#include <random>
 
+#include "BenchPhoto.h"
 #include "pictures/ImgX.h"
 #include "support/files/modHostFiles.h"
 #include "support/work/AheadQueue.h"
@@ -40,35 +40,11 @@ double ProcessorSeconds(int Who) {
     return Seconds(Usage.ru_utime) + Seconds(Usage.ru_stime);
 }
 
-// Smooth hills of several sizes with the grain of a camera's sensor.
-QImage Photo(unsigned Seed, QSize Size) {
-    std::mt19937 Random(Seed);
-    std::vector<QImage> Layers;
-    for (int Side : {5, 17, 60, 200, 700}) {
-        QImage Layer(Side, Side * 3 / 4 + 1, QImage::Format_RGB32);
-        for (int Y = 0; Y < Layer.height(); ++Y)
-            for (int X = 0; X < Side; ++X) Layer.setPixel(X, Y, Random());
-        Layers.push_back(Layer.scaled(Size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
-    }
-    QImage Result(Size, QImage::Format_RGB32);
-    const int Parts[] = {40, 28, 18, 9, 5};
-    for (int Y = 0; Y < Size.height(); ++Y) {
-        uchar* To = Result.scanLine(Y);
-        for (int I = 0; I < Size.width() * 4; ++I) {
-            int Sum = 0;
-            for (size_t L = 0; L < Layers.size(); ++L)
-                Sum += Layers[L].constScanLine(Y)[I] * Parts[L];
-            To[I] = static_cast<uchar>(std::clamp(Sum / 100 + int(Random() % 9) - 4, 0, 255));
-        }
-    }
-    return Result;
-}
-
 QStringList MakePhotos(const QTemporaryDir& Dir, int Count, QSize Size) {
     QStringList Files;
     for (int I = 0; I < Count; ++I) {
         Files << Dir.filePath(QStringLiteral("photo%1.jpg").arg(I));
-        Photo(static_cast<unsigned>(I), Size).save(Files.back(), "JPEG", 90);
+        neb::BenchPhoto(static_cast<unsigned>(I), Size).save(Files.back(), "JPEG", 90);
     }
     return Files;
 }

@@ -69,12 +69,29 @@ function(neb_library)
 endfunction()
 
 # neb_part(NAME SOURCE LIBRARIES ...): a program that the program starts by itself, beside its modules.
-# It brings along what it uses alone.
+# It brings along what it uses alone. Whatever starts it depends on neb_parts, which is all of them.
+add_custom_target(neb_parts)
 function(neb_part NAME SOURCE)
   add_executable(${NAME} ${SOURCE})
   set_target_properties(${NAME} PROPERTIES
     RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib/neb-slide-show)
   target_link_libraries(${NAME} PRIVATE neb_flags ${ARGN})
+  add_dependencies(neb_parts ${NAME})
+endfunction()
+
+# neb_slices(pictures.Slice test_pictures 8 [FILTER Some.*:Tests.*] [ENVIRONMENT A=1 ...])
+# The tests of a program as so many tests of ctest, each of which starts it once.
+function(neb_slices PREFIX PROGRAM COUNT)
+  cmake_parse_arguments(S "" "FILTER" "ENVIRONMENT" ${ARGN})
+  if(NOT S_FILTER)
+    set(S_FILTER "*")
+  endif()
+  math(EXPR last "${COUNT} - 1")
+  foreach(slice RANGE ${last})
+    add_test(NAME ${PREFIX}${slice} COMMAND ${PROGRAM} --gtest_brief=1 --gtest_filter=${S_FILTER})
+    set_tests_properties(${PREFIX}${slice} PROPERTIES TIMEOUT 300
+      ENVIRONMENT "GTEST_TOTAL_SHARDS=${COUNT};GTEST_SHARD_INDEX=${slice};${S_ENVIRONMENT}")
+  endforeach()
 endfunction()
 
 # neb_test(NAME support DIR tests/support DEPENDS neb_support)
@@ -106,12 +123,7 @@ function(neb_test)
     target_precompile_headers(test_${T_NAME} REUSE_FROM neb_harness)
   endif()
   if(T_SHARDS)
-    math(EXPR last "${T_SHARDS} - 1")
-    foreach(shard RANGE ${last})
-      add_test(NAME ${T_NAME}.Slice${shard} COMMAND test_${T_NAME} --gtest_brief=1)
-      set_tests_properties(${T_NAME}.Slice${shard} PROPERTIES TIMEOUT 300
-        ENVIRONMENT "GTEST_TOTAL_SHARDS=${T_SHARDS};GTEST_SHARD_INDEX=${shard}")
-    endforeach()
+    neb_slices(${T_NAME}.Slice test_${T_NAME} ${T_SHARDS})
     return()
   endif()
   gtest_discover_tests(test_${T_NAME} TEST_PREFIX "${T_NAME}." DISCOVERY_TIMEOUT 60

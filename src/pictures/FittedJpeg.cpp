@@ -55,13 +55,20 @@ std::optional<QByteArray> Unharmed(const QByteArray& Jpeg, PictureTurn Turned,
     return Lying ? std::optional(SaidUpright(*Lying)) : std::nullopt;
 }
 
-// Source: the file that the picture was read from, for what it says beside the pixels.
+// What the file says beside the pixels.
+QByteArray NotesOf(const QByteArray& Source, QSize Pixels, const PictureKeeping& Keeping) {
+    const QByteArray Notes = ThePictureReader().NotesFor(Pixels, Source, Keeping.KeepsPlace);
+    return AreNotes(Notes) ? Notes : QByteArray();
+}
+
+// Source: the file that the picture was read from.
 QByteArray WrittenAnew(ImgX Picture, const QByteArray& Source, const PictureKeeping& Keeping) {
     const QSize Size = FitSize(Picture.FullSize(), Keeping.Limit);
     Picture.Resize(Size.width(), Size.height(), SlideSelector);
     Picture.SetJpgQuality(Keeping.Quality());
-    const QByteArray Jpeg = Picture.ToJpeg();
-    return WithMore(Jpeg, ThePictureReader().NotesFor(Size, Source, Keeping.KeepsPlace));
+    const QByteArray Jpeg = WithMore(Picture.ToJpeg(), NotesOf(Source, Size, Keeping));
+    NoteOwnJpeg(Jpeg);
+    return Jpeg;
 }
 
 }  // namespace

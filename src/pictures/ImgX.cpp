@@ -36,31 +36,6 @@ QSize ToStretch(QSize Full) {
     return (ThumbnailSize * 2).boundedTo(Full);
 }
 
-void Append(QByteArray& Bytes, quint32 Number, int Length) {
-    for (int I = 0; I < Length; ++I) Bytes.append(static_cast<char>(Number >> 8 * I & 255));
-}
-
-QByteArray BmpHeaders(QSize Size, int Stride) {
-    constexpr int Headers = 54, InfoHeader = 40, DotsAMetre = 3780;
-    const auto Pixels = static_cast<quint32>(Stride * Size.height());
-    QByteArray Bytes("BM");
-    Append(Bytes, Headers + Pixels, 4);
-    Append(Bytes, 0, 4);
-    Append(Bytes, Headers, 4);
-    Append(Bytes, InfoHeader, 4);
-    Append(Bytes, static_cast<quint32>(Size.width()), 4);
-    Append(Bytes, static_cast<quint32>(Size.height()), 4);
-    Append(Bytes, 1, 2);
-    Append(Bytes, 24, 2);
-    Append(Bytes, 0, 4);
-    Append(Bytes, Pixels, 4);
-    Append(Bytes, DotsAMetre, 4);
-    Append(Bytes, DotsAMetre, 4);
-    Append(Bytes, 0, 4);
-    Append(Bytes, 0, 4);
-    return Bytes;
-}
-
 }  // namespace
 
 void ImgX::Take(const QByteArray& Bytes, const NeededSize& Needed) {
@@ -163,17 +138,6 @@ ListedPicture ReadForList(const QString& File, int Side) {
     Picture.Resize(Fitted.width(), Fitted.height(), ThumbnailSelector);
     Made.Shown = Picture.Picture();
     return Made;
-}
-
-QByteArray ThumbnailBmp(const QImage& Picture) {
-    const QImage Rows = Picture.convertToFormat(QImage::Format_BGR888);
-    const int Stride = (Rows.width() * 3 + 3) / 4 * 4;
-    QByteArray Bytes = BmpHeaders(Rows.size(), Stride);
-    for (int Y = Rows.height() - 1; Y >= 0; --Y) {
-        Bytes.append(reinterpret_cast<const char*>(Rows.constScanLine(Y)), Rows.width() * 3);
-        Bytes.append(Stride - Rows.width() * 3, '\0');
-    }
-    return Bytes;
 }
 
 }  // namespace neb

@@ -10,11 +10,9 @@
 #include "pictures/FittedJpeg.h"
 #include "pictures/formats/PictureDecoder.h"
 #include "pictures/notes/PictureTurn.h"
+#include "pictures/workers/OwnThumbnail.h"
 
 namespace neb {
-
-// The sides of a thumbnail on the disk, in pixels.
-inline constexpr QSize ThumbnailSize(72, 72);
 
 class ImgX {
   public:
@@ -81,7 +79,5 @@ struct ListedPicture {
 // Both from one reading of the file, Shown with so many pixels along its longer side, at most its
 // own. Throws as ImgX::Load does.
 ListedPicture ReadForList(const QString& File, int Side);
-// A Windows bitmap's bytes, 24 bits a pixel; the same bytes for the same picture always.
-QByteArray ThumbnailBmp(const QImage& Picture);
 
 }  // namespace neb

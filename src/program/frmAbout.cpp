@@ -2,8 +2,12 @@
 
 #include <QProcess>
 #include <QStandardPaths>
+#include <QTimer>
 
+#include "pictures/workers/ReadingLocked.h"
+#include "support/Fault.h"
 #include "support/Services.h"
+#include "support/locked/LockWords.h"
 #include "ui_frmAbout.h"
 
 namespace neb {
@@ -33,9 +37,17 @@ bool StartTool(const char* Program, const char* Argument) {
     return QProcess::startDetached(Path, Arguments);
 }
 
+QString ReadersSentence(JobState&) try {
+    LockReport Least = LockReport::Of(-1);
+    for (const NamedLock& Each : TheLockedReading().Reports()) Least = Weaker(Least, Each.Report);
+    return LockSentence(Least);
+} catch (const Fault& Problem) {
+    return Problem.What();
+}
+
 }  // namespace
 
-frmAbout::frmAbout() : mUi(std::make_unique<Ui::frmAbout>()) {
+frmAbout::frmAbout() : mUi(std::make_unique<Ui::frmAbout>()), mReaders(ReadersSentence) {
     mUi->setupUi(this);
     QFont Title = mUi->lblTitle->font();
     Title.setPointSizeF(QFontInfo(font()).pointSizeF() * TitleGrowth);
@@ -44,6 +56,13 @@ frmAbout::frmAbout() : mUi(std::make_unique<Ui::frmAbout>()) {
     mUi->picIcon->setPixmap(QApplication::windowIcon().pixmap(96, 96));
     connect(mUi->cmdOK, &QPushButton::clicked, this, &frmAbout::Unload);
     connect(mUi->cmdSysInfo, &QPushButton::clicked, this, &StartSysInfo);
+    TellOfReaders();
+}
+
+void frmAbout::TellOfReaders() {
+    constexpr int SoonMs = 30;
+    if (!mReaders.Wait(0)) return QTimer::singleShot(SoonMs, this, &frmAbout::TellOfReaders);
+    mUi->lblReaders->setText(mReaders.Take());
 }
 
 frmAbout::~frmAbout() = default;

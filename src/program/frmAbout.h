@@ -3,6 +3,7 @@
 #pragma once
 
 #include "controls/forms/Form.h"
+#include "support/work/Job.h"
 
 namespace neb {
 
@@ -18,7 +19,10 @@ class frmAbout : public Form {
     ~frmAbout() override;
 
   private:
+    void TellOfReaders();
+
     std::unique_ptr<Ui::frmAbout> mUi;
+    Job<QString> mReaders;  // how far they are locked, which a first one must be started for
 };
 
 // Starts the first system information tool that the desktop has; a box says when there is none.

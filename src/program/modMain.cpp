@@ -9,6 +9,8 @@
 #include "controls/forms/NebApplication.h"
 #include "db/modDatabaseLock.h"
 #include "db/records/modJournal.h"
+#include "pictures/workers/OwnPictures.h"
+#include "pictures/workers/ReadingLocked.h"
 #include "program/CommandLine.h"
 #include "program/DesktopServices.h"
 #include "program/EditMenu.h"
@@ -30,6 +32,7 @@ namespace neb {
 namespace {
 
 constexpr int RetryMs = 50;
+constexpr int WarmUpMs = 200;
 constexpr int MeanwhileMs = 1500;  // for which another program may be starting or ending
 
 // The words as typed, which may name files by any bytes. The toolkit takes its own out of them, but
@@ -66,6 +69,12 @@ bool TakeOver(frmNEBSlideShow& Window, const HandOver& What) {
     return true;
 }
 
+// The first picture that somebody wants does not wait for its reader. When the window stands: it is
+// what is waited for now, and it may have wanted pictures itself.
+void WarmUpReaders(frmNEBSlideShow& Window) {
+    QTimer::singleShot(WarmUpMs, &Window, [] { TheLockedReading().WarmUp(); });
+}
+
 int RunMainWindow(const CommandLine& Line, const QString& Database) {
     frmNEBSlideShow Window;
     std::optional<InstanceServer> Server;
@@ -77,6 +86,7 @@ int RunMainWindow(const CommandLine& Line, const QString& Database) {
     } catch (const std::exception& Problem) {
         return TellUnreadable(Problem);
     }
+    WarmUpReaders(Window);
     const TerminationWatch Watch([&Window] {
         StopFilms();
         CloseWhenIdle(Window);
@@ -221,6 +231,7 @@ int RunOnAlbums(const CommandLine& Line, const QByteArray& Token) {
     const auto Call = [&] { return HandOverTo(*Database, {SeenFromHere(Line.Paths), Token}); };
     if (!BecomeTheInstanceOn(*Database, Lock, Call)) return 0;
     TheInstanceStarter() = &StartOwnProgram;
+    KeepOwnSumsIn(OwnSumsFolder());
     return RunMainWindow(Line, *Database);
 }
 

@@ -143,6 +143,10 @@ QString OwnPath() {
     return OwnPathCache;
 }
 
+QString OwnSumsFolder() {
+    return OwnPath() + QStringLiteral("Made here/");
+}
+
 QString MemoryDir() {
     return LieWithFixedAlbums(SettingsDir()) ? OwnPath() : SettingsDir();
 }

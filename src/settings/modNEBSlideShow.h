@@ -44,6 +44,8 @@ clsSettings OpenSettings();
 // The user's own folder for what the program notes for him, wherever it is installed and wherever
 // the albums lie.
 QString OwnPath();
+// What the program remembers of the pictures that it has made itself, for all albums.
+QString OwnSumsFolder();
 // Where the program keeps what it remembers of its windows and of the folders that were looked at:
 // beside the settings, but in OwnPath where these lie with albums that may not be changed.
 QString MemoryDir();

@@ -13,6 +13,7 @@
 #include "tools/modPrint.h"
 #include "tools/modRestoreState.h"
 #include "tools/modRewrite.h"
+#include "tools/modSandbox.h"
 #include "tools/modTransfer.h"
 #include "tools/shows/modFilm.h"
 #include "tools/shows/modRehearse.h"
@@ -221,6 +222,17 @@ constexpr Command Table[] = {
      "sound, nothing is heard.\n"
      "Exit code 0: made; 1: made, and what is missing in it is listed; 2: not made.\n",
      RunFilm, Wants::Drawing},
+    {"sandbox", "[--json]", "tell how far the readers of foreign files are locked",
+     "Pictures and sounds are read by processes of their own that can open no file and start no\n"
+     "program: what a file does to them, it cannot do to you. How much of that lock there is\n"
+     "depends on the system; what is missing is told here. Each kind of reader is started to be\n"
+     "asked.\n"
+     "\n"
+     "  --json  the same as JSON. Readers, a list: Name, SystemCalls (how many are allowed; 0:\n"
+     "          all), NoNewPrivileges, Limits, Landlock (its version; 0: none), EmptyRoot, OwnNetwork\n"
+     "\n"
+     "Exit code 0: all locks are closed; 1: some are missing; 2: the readers cannot be started.\n",
+     RunSandbox},
 };
 
 #undef MEND_HELP

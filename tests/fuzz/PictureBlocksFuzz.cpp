@@ -1,7 +1,9 @@
-// What looks for EXIF, XMP and the orientation in picture files, and whether they are whole, under
-// libFuzzer. Built with the sanitizers only. Start it with tests/data/today as its corpus.
+// What looks for EXIF, XMP, the orientation and the proportions in picture files, and whether they
+// are whole, under libFuzzer. Built with the sanitizers only. Start it with tests/data/today as its
+// corpus.
 #include <cstdlib>
 
+#include "pictures/PictureShape.h"
 #include "pictures/formats/FileBlocks.h"
 #include "pictures/formats/PictureFormats.h"
 #include "pictures/formats/PictureOrientation.h"
@@ -20,6 +22,9 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* Data, size_t Size) {
     neb::GifIsWhole(File);
     neb::WebpIsWhole(File);
     neb::BoxesAreWhole(File);
+    neb::FilePieces Pieces([&](qint64 At, qint64 Length) { return File.mid(At, Length); });
+    const QSize Shape = neb::ShapeOf(Pieces);
+    if (std::max(Shape.width(), Shape.height()) > neb::LongestSide) std::abort();
     const QRectF Frame = neb::EmfFrame(File);
     if (Frame.width() < 0 && Frame.isValid()) std::abort();
     return 0;

@@ -234,8 +234,10 @@ TEST(LayerRules, WhatOnlyLooksLikeTheFileSystemIsNotFound) {
 TEST(LayerRules, TheHostFileRoutinesThemselvesMayUseTheFileSystem) {
     for (const char* Path : {"support/files/modHostFiles.cpp", "support/files/NameCache.h"})
         EXPECT_EQ("", HostFiles(Path, "QFile F;")) << Path;
-    for (const char* Path :
-         {"support/modFUFL.cpp", "db/modHostFiles.cpp", "support/work/NameCache.cpp"})
+    for (const char* Path : {"support/locked/Lock.cpp", "support/locked/LockedRoom.cpp"})
+        EXPECT_EQ("", HostFiles(Path, "std::fopen(A, B);")) << Path;
+    for (const char* Path : {"support/modFUFL.cpp", "db/modHostFiles.cpp",
+                             "support/work/NameCache.cpp", "support/locked/LockedProcess.cpp"})
         EXPECT_NE("", HostFiles(Path, "QFile F;")) << Path;
 }
 
@@ -323,4 +325,27 @@ TEST(LayerRules, BoxesRecordsAndNoticesAreLeftToTheirRooms) {
     EXPECT_EQ("", Words("db/Changes.cpp", "Slide->SlideText = SlideText;"));
     EXPECT_NE("", Words("windows/slides/a.cpp", "BroadcastEvent(A, B, this, {});"));
     EXPECT_EQ("", Words("windows/frame/modBroadcast.cpp", "void BroadcastEvent(A) {"));
+}
+
+TEST(LayerRules, LibrariesThatReadPicturesAreLeftToTheLockedDoor) {
+    const auto Words = [](const char* Path, const char* Text) {
+        return Lines(WordFaults(QString::fromUtf8(Path), QString::fromUtf8(Text)));
+    };
+    for (const char* Use :
+         {"#include <Magick++.h>", "#include <libheif/heif.h>", "#include <openjpeg.h>",
+          "#include <tiffio.h>", "#include <turbojpeg.h>", "#include <exiv2/exiv2.hpp>",
+          "#include <lcms2.h>", "#include <jpeglib.h>", "#include <QImageReader>",
+          "QMovie Film(Path);", "auto P = QImage::fromData(Bytes);", "Pixmap.loadFromData(Bytes);",
+          "Drag.mimeData()->imageData();", "DecodeHere(Bytes);", "return TurnedJpeg(Jpeg, Turn);"})
+        for (const char* Path : {"pictures/ImgX.cpp", "windows/home/a.cpp", "printing/a.cpp",
+                                 "pictures/workers/ReadingLocked.cpp"})
+            EXPECT_EQ(std::string(Path) +
+                          ":1: foreign pictures are looked at behind the locked door alone",
+                      Words(Path, Use))
+                << Use;
+    EXPECT_EQ("", Words("pictures/decoders/a.cpp", "#include <QImageReader>"));
+    EXPECT_EQ("", Words("pictures/notes/JpegTurn.cpp", "#include <turbojpeg.h>"));
+    EXPECT_NE("", Words("pictures/notes/JpegParts.cpp", "#include <turbojpeg.h>"));
+    EXPECT_EQ("", Words("pictures/JpegWriter.cpp", "#include <jpeglib.h>"));
+    EXPECT_EQ("", Words("windows/home/a.cpp", "ThePictureReader().Turned(Jpeg, Turn);"));
 }

@@ -1,23 +1,12 @@
 // Enhanced metafiles whose frame and bounds differ, put together record by record.
 #include "pictures/metafiles/EmfFrame.h"
 
-#include "pictures/Blocks.h"
-#include "pictures/Pictures.h"
+#include "pictures/Metafiles.h"
 
 using namespace neb;
 using namespace neb::tests;
 
 namespace {
-
-QByteArray Numbers(std::initializer_list<qint32> Values) {
-    QByteArray Bytes;
-    for (qint32 Value : Values) Bytes += LittleEndian(Value);
-    return Bytes;
-}
-
-QByteArray Record(qint32 Type, const QByteArray& Body) {
-    return Numbers({Type, static_cast<qint32>(Body.size()) + 8}) + Body;
-}
 
 struct Header {
     QRect Bounds = QRect(QPoint(40, 30), QPoint(79, 69));

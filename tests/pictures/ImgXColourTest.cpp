@@ -4,7 +4,7 @@
 
 #include "pictures/Pictures.h"
 #include "pictures/TurnedJpegs.h"
-#include "pictures/formats/PictureColour.h"
+#include "pictures/decoders/PictureColour.h"
 
 using namespace neb;
 using namespace neb::tests;

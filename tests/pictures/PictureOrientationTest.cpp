@@ -3,6 +3,7 @@
 #include "pictures/formats/PictureOrientation.h"
 
 #include "pictures/Blocks.h"
+#include "pictures/PictureShape.h"
 #include "pictures/Pictures.h"
 
 using namespace neb;
@@ -81,6 +82,8 @@ void ExpectUpright(const QByteArray& File, const char* What) {
     ASSERT_EQ(QSize(48, 32), Picture.Picture().size());
     ExpectFields(Picture.Picture(), Red, Green, Blue, Grey, 4);
     EXPECT_EQ(6, OrientationOf(File));
+    FilePieces Pieces([&](qint64 At, qint64 Length) { return File.mid(At, Length); });
+    EXPECT_EQ(QSize(48, 32), ShapeOf(Pieces));
 }
 
 }  // namespace

@@ -1,54 +1,11 @@
 // Old-style metafiles, put together record by record.
-#include "pictures/Pictures.h"
+#include "pictures/Metafiles.h"
 #include "pictures/formats/PictureFaults.h"
 
 using namespace neb;
 using namespace neb::tests;
 
 namespace {
-
-QByteArray Words(std::initializer_list<int> Numbers) {
-    QByteArray Bytes;
-    for (int Number : Numbers)
-        Bytes.append(static_cast<char>(Number & 255)).append(static_cast<char>(Number >> 8 & 255));
-    return Bytes;
-}
-
-// A metafile of 200 by 100 units with a placeable header of 96 units an inch, or without one.
-class Wmf {
-  public:
-    Wmf& Add(int Function, std::initializer_list<int> Arguments, const QByteArray& Rest = {}) {
-        const QByteArray Body = Words(Arguments) + Rest;
-        const int Length = 3 + static_cast<int>(Body.size() + 1) / 2;
-        mRecords += Words({Length, Length >> 16, Function}) + Body;
-        if (Body.size() % 2) mRecords += '\0';
-        return *this;
-    }
-    Wmf& Brush(QColor C, int Style = 0, int Hatch = 0) {
-        return Add(0x02FC, {Style, C.red() | C.green() << 8, C.blue(), Hatch});
-    }
-    Wmf& Pen(QColor C, int Style = 0, int Width = 0) {
-        return Add(0x02FA, {Style, Width, 0, C.red() | C.green() << 8, C.blue()});
-    }
-    Wmf& Select(int Index) { return Add(0x012D, {Index}); }
-    // Left, top, right, bottom.
-    Wmf& Box(int L, int T, int R, int B) { return Add(0x041B, {B, R, T, L}); }
-    QByteArray Bytes(bool Placeable = true) const {
-        QByteArray All;
-        if (Placeable) All = Words({0xCDD7, 0x9AC6, 0, 0, 0, 200, 100, 96, 0, 0, 0});
-        return All + Words({1, 9, 0x300, 0, 0, 10, 0, 0, 0}) + mRecords + Words({3, 0, 0});
-    }
-    QImage Played(bool Placeable = true) const { return PlayedBytes(Bytes(Placeable)); }
-    static QImage PlayedBytes(const QByteArray& Bytes) {
-        const harness::TempFolder Folder;
-        const QString File = Folder / QStringLiteral("a.wmf");
-        WriteFile(File, Bytes);
-        return Loaded(File).Picture();
-    }
-
-  private:
-    QByteArray mRecords;
-};
 
 // No pen, and a brush, both selected.
 Wmf Filled(QColor C) {

@@ -59,6 +59,8 @@ BmpHeader BmpLayout(const ByteView& Bytes);
 
 // Bytes that a whole WBMP file of this header has.
 qint64 WbmpNeeds(const ByteView& Bytes);
+// Pixels of its picture; empty for one beyond all limits.
+QSize WbmpSize(const ByteView& Bytes);
 
 // What the first chunk of that name in a PNG file holds; nothing when there is none or it is cut.
 std::optional<QByteArrayView> PngChunk(const ByteView& Bytes, QByteArrayView Name);

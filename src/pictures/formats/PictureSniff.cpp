@@ -139,6 +139,13 @@ qint64 WbmpNeeds(const ByteView& Bytes) {
     return ReadWbmpHeader(Bytes).Needs;
 }
 
+QSize WbmpSize(const ByteView& Bytes) {
+    const WbmpHeader Header = ReadWbmpHeader(Bytes);
+    const quint32 Most = LongestSide;
+    if (Header.Width > Most || Header.Height > Most) return {};
+    return {static_cast<int>(Header.Width), static_cast<int>(Header.Height)};
+}
+
 namespace {
 
 struct SniffRow {

@@ -1,56 +1,18 @@
 #include "pictures/metafiles/MetafileSvg.h"
 
-#include <sys/resource.h>
-
 #include <QBuffer>
 #include <QImageReader>
-#include <QProcess>
 
 #include "pictures/formats/ByteView.h"
+#include "pictures/formats/DecodeHost.h"
 #include "pictures/formats/PictureFaults.h"
 #include "pictures/formats/PictureFormats.h"
-#include "support/files/modHostFiles.h"
 
 namespace neb {
 namespace {
 
-constexpr int MostSeconds = 3;
 // In all pictures that one drawing carries.
 constexpr qint64 MostPixels = 60'000'000;
-constexpr rlim_t MostMemory = 600UL << 20, LongestSvg = 64UL << 20;
-
-void Limit(int What, rlim_t Most) {
-    const rlimit Both = {Most, Most};
-    setrlimit(static_cast<__rlimit_resource_t>(What), &Both);
-}
-
-void LimitChild() {
-    Limit(RLIMIT_CPU, MostSeconds);
-    Limit(RLIMIT_AS, MostMemory);
-    Limit(RLIMIT_FSIZE, LongestSvg);
-    Limit(RLIMIT_CORE, 0);
-}
-
-void RunConverter(const QStringList& Arguments) {
-    QProcess Converter;
-    auto Environment = QProcessEnvironment::systemEnvironment();
-    Environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));
-    Converter.setProcessEnvironment(Environment);
-    Converter.setChildProcessModifier(LimitChild);
-    Converter.setStandardOutputFile(QProcess::nullDevice());
-    Converter.setStandardErrorFile(QProcess::nullDevice());
-    Converter.start(QStringLiteral("emf2svg-conv"), Arguments);
-    if (!Converter.waitForStarted())
-        throw Fault(QStringLiteral("Enhanced metafiles cannot be read: the program emf2svg-conv is "
-                                   "not installed."),
-                    {}, FaultUnknownPicture);
-    if (Converter.waitForFinished(MostSeconds * 1000 + 500) &&
-        Converter.exitStatus() == QProcess::NormalExit)
-        return;
-    Converter.kill();
-    Converter.waitForFinished(1000);
-    ThrowDamaged();
-}
 
 // The converter takes what it gets as whole; so the records are followed to the end mark here.
 void CheckRecords(const ByteView& Emf) {
@@ -106,13 +68,7 @@ qsizetype TargetAt(const QByteArray& Svg, qsizetype At) {
 
 QByteArray EmfToSvg(const QByteArray& Emf) {
     CheckRecords(Emf);
-    const ScratchDir Scratch;
-    const QString From = Scratch.Path() + QStringLiteral("a.emf");
-    const QString To = Scratch.Path() + QStringLiteral("a.svg");
-    WriteFile(From, Emf);
-    RunConverter({QStringLiteral("-p"), QStringLiteral("-i"), From, QStringLiteral("-o"), To});
-    if (!FileExists(To) || FileSize(To) >= qint64(LongestSvg)) ThrowDamaged();
-    return WithoutOutsideReferences(ReadFile(To));
+    return WithoutOutsideReferences(TheDecodeHost().SvgOf(Emf));
 }
 
 QByteArray WithoutOutsideReferences(QByteArray Svg) {

@@ -6,8 +6,8 @@
 
 namespace neb {
 
-// The drawing as SVG, made by a program of its own with limits on its time and memory, so that a
-// hostile file cannot harm this one. Throws Fault when it is damaged.
+// The drawing as SVG, made by a process of its own, for which this one asks whoever stands before
+// its door. Throws Fault when it is damaged.
 QByteArray EmfToSvg(const QByteArray& Emf);
 
 // Takes the edge off all references to other files; pictures inside the drawing stay.

@@ -3,8 +3,8 @@
 #include <QPainter>
 #include <QSvgRenderer>
 
+#include "pictures/decoders/PictureColour.h"
 #include "pictures/formats/PatientDevice.h"
-#include "pictures/formats/PictureColour.h"
 #include "pictures/formats/PictureFaults.h"
 #include "pictures/formats/PictureFormats.h"
 #include "pictures/metafiles/EmfFrame.h"

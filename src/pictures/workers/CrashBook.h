@@ -16,6 +16,8 @@ class CrashBook {
     void Note(const QByteArray& Bytes);
 
   private:
+    bool IsLengthKnown(qint64 Length) const;
+
     mutable std::mutex mLock;
     // Sums are made for files of these lengths alone.
     std::map<qint64, std::map<QByteArray, int>> mBySize;

@@ -9,6 +9,7 @@
 
 #include "pictures/formats/PictureDecoder.h"
 #include "pictures/notes/PictureTurn.h"
+#include "pictures/workers/OwnPictures.h"
 
 namespace neb {
 
@@ -29,7 +30,9 @@ PictureReader& ThePictureReader();
 // Null: the program's own again. Nobody may be reading.
 void SetPictureReader(PictureReader* Other);
 
+// Of bytes whose origin nobody knows; what the program has made itself is read directly.
 inline DecodedPicture DecodePicture(const QByteArray& Bytes, const NeededSize& Needed = {}) {
+    if (auto Own = OwnPicture(Bytes, Needed)) return std::move(*Own);
     return ThePictureReader().Decode(Bytes, Needed);
 }
 

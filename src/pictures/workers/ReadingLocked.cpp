@@ -1,45 +1,53 @@
 #include "pictures/workers/ReadingLocked.h"
 
 #include <atomic>
-#include <cstring>
 
-#include "pictures/formats/DecodeHost.h"
 #include "pictures/formats/PictureFaults.h"
-#include "pictures/formats/PictureFormats.h"
 #include "pictures/formats/PictureSniff.h"
-#include "pictures/workers/WorkerTalk.h"
 #include "support/MediaTypes.h"
 
 namespace neb {
 namespace {
 
-constexpr qint64 LargestSvg = 64LL << 20;
 constexpr qint64 InBytes = LargestPictureFile + LargestSvg;
 constexpr qint64 OutBytes = 820LL << 20;
+// What has been put into a process is not given back to the system; one that had a file as large
+// is not kept for that.
+constexpr qint64 LargeFile = 64 << 20;
 
-// Before a picture has told how large it is.
-constexpr qint64 HeaderMemory = 192LL << 20;
-constexpr double HeaderSeconds = 15, BytesASecond = 12 << 20, WallTimes = 4;
+struct Ending {
+    LockedEnd How;
+    quint32 Number;
+    QString Why;
+};
 
-LockedAllowance AllowanceFor(qint64 File, qint64 Asked) {
-    const double Seconds = HeaderSeconds + double(File + Asked) / BytesASecond;
-    return {HeaderMemory + 3 * File + 2 * Asked, Seconds, Seconds * WallTimes};
+// The picture itself is not to blame for want of memory.
+const Ending& EndingBy(LockedEnd How) {
+    static const Ending All[] = {
+        {LockedEnd::TooLong, FaultDamagedPicture,
+         QStringLiteral("The picture cannot be read: it takes too long.")},
+        {LockedEnd::Forbidden, FaultDamagedPicture,
+         QStringLiteral("The picture cannot be read: it tried to do what no picture may.")},
+        {LockedEnd::Nonsense, FaultDamagedPicture,
+         QStringLiteral("The picture cannot be read: its reader talks nonsense.")},
+        {LockedEnd::Killed, FaultTooLarge,
+         QStringLiteral("The picture could not be read: its reader was ended from outside, as "
+                        "happens when there is not enough memory.")},
+        {LockedEnd::Crashed, FaultDamagedPicture,
+         QStringLiteral("The picture cannot be read: it brings its reader down.")}};
+    for (const Ending& Each : All)
+        if (Each.How == How) return Each;
+    return *std::rbegin(All);
 }
 
-LockedProgram Program(const char* Name, const char* Role) {
-    return {LockedProgramPath(QString::fromLatin1(Name)), Role, InBytes, OutBytes};
+LockedProgram Converter() {
+    return {LockedProgramPath(QStringLiteral("neb-metafiles")), "metafiles", LargestPictureFile,
+            LargestSvg};
 }
 
 [[noreturn]] void ThrowEnded(LockedEnd How) {
-    if (How == LockedEnd::TooLong)
-        throw Fault(QStringLiteral("The picture cannot be read: it takes too long."), {},
-                    FaultDamagedPicture);
-    if (How == LockedEnd::Forbidden)
-        throw Fault(
-            QStringLiteral("The picture cannot be read: it tried to do what no picture may."), {},
-            FaultDamagedPicture);
-    throw Fault(QStringLiteral("The picture cannot be read: it brings its reader down."), {},
-                FaultDamagedPicture);
+    const Ending& Its = EndingBy(How);
+    throw Fault(Its.Why, {}, Its.Number);
 }
 
 [[noreturn]] void ThrowGivenUp() {
@@ -49,18 +57,11 @@ LockedProgram Program(const char* Name, const char* Role) {
         {}, FaultDamagedPicture);
 }
 
-// What a reader says may be anything.
-quint32 KnownNumber(qint64 Number) {
-    for (const quint32 Each : {FaultUnknownPicture, FaultEndsEarly, FaultTooLarge})
-        if (Number == Each) return Each;
-    return FaultDamagedPicture;
-}
-
-QString PlainSentence(QByteArrayView Bytes) {
-    QString Text = QString::fromUtf8(Bytes);
-    for (QChar& Each : Text)
-        if (!Each.isPrint() || Each == u'<' || Each == u'&') Each = u' ';
-    return Text;
+// Whether a second process may fare better: the first was ended by somebody else, or had read other
+// pictures before, one of which may have spoilt it. Time is not spent twice.
+bool IsWorthAnother(LockedEnd How, bool WasFresh) {
+    if (How == LockedEnd::Killed) return true;
+    return How != LockedEnd::TooLong && !WasFresh;
 }
 
 std::atomic<PictureReader*> Chosen = nullptr;
@@ -71,173 +72,87 @@ bool IsDrawing(const QByteArray& Bytes) {
     return Format == PictureFormat::Emf || Format == PictureFormat::Wmf;
 }
 
-LockedMessage Request(Talk What, const QByteArray& File, std::int64_t A = 0, std::int64_t B = 0,
-                      std::int64_t C = 0) {
-    return LockedMessage(What, {File.size(), A, B, C});
+LockedProgram Converter() {
+    return {LockedProgramPath(QStringLiteral("neb-metafiles")), "metafiles", LargestPictureFile,
+            LargestSvg};
+}
+
+LockedProgram Program(const char* Name, const char* Role) {
+    return ReadingLocked::ProgramAt(LockedProgramPath(QString::fromLatin1(Name)), Role);
 }
 
 }  // namespace
 
-// One request and all that is said until its answer.
-class ReadingLocked::Reading {
-  public:
-    Reading(ReadingLocked& Own, LockedPool& Pool, const QByteArray& File)
-        : mOwn(Own), mFile(Checked(Own, File)), mProcess(Pool) {
-        std::memcpy(mProcess->In(), File.constData(), static_cast<size_t>(File.size()));
-    }
-    ~Reading() { LetGo(); }
-    Reading(const Reading&) = delete;
-    Reading& operator=(const Reading&) = delete;
-
-    LockedMessage Ask(const LockedMessage& Request, const NeededSize& Needed = {}) {
-        mProcess->Allow(AllowanceFor(mFile.size(), 0));
-        mProcess->Send(Request);
-        for (;;) {
-            const auto Said = mProcess->Receive();
-            if (!Said) ThrowHowItEnded();
-            if (Said->Is(Talk::Problem)) ThrowProblem(*Said);
-            if (Said->Is(Talk::Picture) || Said->Is(Talk::Bytes) || Said->Is(Talk::Nothing))
-                return *Said;
-            if (!IsAnswered(*Said, Needed)) EndAsNonsense();
-        }
-    }
-    DecodedPicture PictureOf(const LockedMessage& Answer) {
-        const QSize Size = SizeIn(Answer, 0), Full = SizeIn(Answer, 2);
-        if (!Answer.Is(Talk::Picture) || Size.isEmpty() || Full.isEmpty() ||
-            PixelCount(Size) * 4 > mProcess->OutBytes())
-            EndAsNonsense();
-        QImage Picture(Size, QImage::Format_RGB32);
-        if (Picture.isNull()) ThrowTooLarge(Size);
-        std::memcpy(Picture.bits(), mProcess->Out(), static_cast<size_t>(Picture.sizeInBytes()));
-        return {std::move(Picture), Full};
-    }
-    std::optional<QByteArray> BytesOf(const LockedMessage& Answer) {
-        if (Answer.Is(Talk::Nothing)) return std::nullopt;
-        if (!Answer.Is(Talk::Bytes)) EndAsNonsense();
-        return FromOut(Answer.Numbers[0]);
-    }
-
-  private:
-    static const QByteArray& Checked(const ReadingLocked& Own, const QByteArray& File) {
-        if (File.size() > LargestPictureFile) ThrowFileTooLarge();
-        if (Own.mCrashes.IsGivenUp(File)) ThrowGivenUp();
-        return File;
-    }
-    static QSize SizeIn(const LockedMessage& Said, size_t At) {
-        const auto Side = [&](size_t I) {
-            const std::int64_t Length = Said.Numbers[I];
-            return Length >= 0 && Length <= INT_MAX ? static_cast<int>(Length) : 0;
-        };
-        return {Side(At), Side(At + 1)};
-    }
-    bool IsAnswered(const LockedMessage& Said, const NeededSize& Needed) {
-        if (Said.Is(Talk::AskNeeded)) return TellNeeded(SizeIn(Said, 0), Needed);
-        if (Said.Is(Talk::AskMemory)) return GiveMemory(SizeIn(Said, 0), Said.Numbers[2]);
-        if (Said.Is(Talk::AskSvg)) return GiveSvg(Said.Numbers[0]);
-        if (Said.Is(Talk::Release)) return LetGo(), true;
-        return false;
-    }
-    bool TellNeeded(QSize Full, const NeededSize& Needed) {
-        if (!Needed || Full.isEmpty()) return false;
-        const QSize Least = Needed(Full);
-        mProcess->Send(LockedMessage(Talk::Needed, {Least.width(), Least.height()}));
-        return true;
-    }
-    // One piece at a time: two that wait for each other's memory would wait for ever.
-    bool GiveMemory(QSize Size, qint64 Bytes) {
-        if (mHeld || Bytes < 0) return false;
-        try {
-            AcquireMemory(Size, Bytes);
-            mHeld = Bytes;
-        } catch (const Fault&) {
-            mProcess->Send(LockedMessage(Talk::Refused));
-            return true;
-        }
-        mProcess->Allow(AllowanceFor(mFile.size(), Bytes));
-        mProcess->Send(LockedMessage(Talk::Granted));
-        return true;
-    }
-    void LetGo() {
-        if (mHeld) ReleaseMemory(*mHeld);
-        mHeld.reset();
-    }
-    bool GiveSvg(qint64 Length) {
-        const QByteArray Emf = FromOut(Length);
-        const qint64 At = mFile.size();
-        const auto Put = [&](const QByteArray& Bytes) {
-            const qint64 Fits = std::min<qint64>(Bytes.size(), mProcess->InBytes() - At);
-            std::memcpy(mProcess->In() + At, Bytes.constData(), static_cast<size_t>(Fits));
-            return Fits;
-        };
-        try {
-            const QByteArray Svg = mOwn.SvgOf(Emf);
-            mProcess->Allow(AllowanceFor(mFile.size(), Svg.size()));
-            mProcess->Send(LockedMessage(Talk::Svg, {At, Put(Svg)}));
-        } catch (const Fault& Reason) {
-            const qint64 Fits = Put(Reason.What().toUtf8());
-            mProcess->Send(LockedMessage(Talk::Problem, {Reason.Number(), Fits, At}));
-        }
-        return true;
-    }
-    QByteArray FromOut(qint64 Length) {
-        if (Length < 0 || Length > mProcess->OutBytes()) EndAsNonsense();
-        return {reinterpret_cast<const char*>(mProcess->Out()), Length};
-    }
-    [[noreturn]] void ThrowProblem(const LockedMessage& Said) {
-        if (Said.Numbers[1] < 0 || Said.Numbers[1] > MostSentence) EndAsNonsense();
-        const QByteArray Text = FromOut(Said.Numbers[1]);
-        throw Fault(PlainSentence(Text), {}, KnownNumber(Said.Numbers[0]));
-    }
-    [[noreturn]] void EndAsNonsense() {
-        mProcess->EndBecause(LockedEnd::Nonsense);
-        ThrowHowItEnded();
-    }
-    [[noreturn]] void ThrowHowItEnded() {
-        mOwn.mCrashes.Note(mFile);
-        ThrowEnded(mProcess->End());
-    }
-
-    ReadingLocked& mOwn;
-    const QByteArray& mFile;
-    LockedPool::Lent mProcess;
-    std::optional<qint64> mHeld;  // bytes of the memory for all decoding
-};
-
 ReadingLocked::ReadingLocked()
     : ReadingLocked(Program("neb-pictures", "pictures"), Program("neb-pictures", "drawings"),
-                    Program("neb-metafiles", "metafiles")) {}
+                    Converter()) {}
 
 ReadingLocked::ReadingLocked(const LockedProgram& Pictures, const LockedProgram& Drawings,
-                             const LockedProgram& Metafiles)
-    : mPictures(Pictures), mDrawings(Drawings, 1), mMetafiles(Metafiles, 1) {}
+                             const LockedProgram& Metafiles, const ReadingCosts& Costs)
+    : mCosts(Costs), mPictures(Pictures), mDrawings(Drawings, 1), mMetafiles(Metafiles, 1) {}
+
+LockedProgram ReadingLocked::ProgramAt(const QString& Path, const QByteArray& Role) {
+    return {Path, Role, InBytes, OutBytes};
+}
+
+template <class Take>
+auto ReadingLocked::Read(LockedPool& Pool, const OneReading::Task& Task, Take Result) {
+    if (Task.File.size() > LargestPictureFile) ThrowFileTooLarge();
+    if (mCrashes.IsGivenUp(Task.File)) ThrowGivenUp();
+    const bool Converts = Task.What == Talk::Convert;
+    const ReadingCosts Costs = Converts ? mCosts.OfConverting() : mCosts;
+    auto Which = LockedPool::Wanted::Any;
+    for (bool IsLast = false;; IsLast = true, Which = LockedPool::Wanted::Fresh) {
+        bool IsFresh = true;
+        try {
+            LockedPool::Lent Process(Pool, Which);
+            IsFresh = Process.IsFresh();
+            // No other drawing shall find what this one has left with the converter.
+            if (Converts || Task.File.size() > LargeFile) Process.Retire();
+            OneReading Its(*Process, Costs, Task);
+            return Result(Its);
+        } catch (const ReaderEnded& End) {
+            if (!IsLast && IsWorthAnother(End.How, IsFresh)) continue;
+            if (End.How != LockedEnd::Killed) mCrashes.Note(Task.File);
+            ThrowEnded(End.How);
+        }
+    }
+}
+
+std::optional<QByteArray> ReadingLocked::BytesOf(LockedPool& Pool, const OneReading::Task& Task) {
+    return Read(Pool, Task, [](OneReading& Its) { return Its.Bytes(); });
+}
 
 DecodedPicture ReadingLocked::Decode(const QByteArray& Bytes, const NeededSize& Needed) {
     if (Bytes.isEmpty()) ThrowEndsEarly();
-    Reading Its(*this, IsDrawing(Bytes) ? mDrawings : mPictures, Bytes);
-    return Its.PictureOf(
-        Its.Ask(Request(Talk::Decode, Bytes, ExtraFormatsAreOn(), Needed != nullptr), Needed));
+    const bool Draws = IsDrawing(Bytes);
+    OneReading::Task Task{
+        Talk::Decode, Bytes, {ExtraFormatsAreOn(), Needed != nullptr}, Needed, {}};
+    if (Draws) Task.SvgOf = [this](const QByteArray& Emf) { return SvgOf(Emf); };
+    return Read(Draws ? mDrawings : mPictures, Task, [](OneReading& Its) { return Its.Picture(); });
 }
 
 std::optional<QByteArray> ReadingLocked::Turned(const QByteArray& Jpeg, PictureTurn Turn) {
-    Reading Its(*this, mPictures, Jpeg);
-    return Its.BytesOf(Its.Ask(Request(Talk::Turn, Jpeg, Turn.Mirrored, Turn.Quarters)));
+    return BytesOf(mPictures, {Talk::Turn, Jpeg, {Turn.Mirrored, Turn.Quarters}});
 }
 
 QByteArray ReadingLocked::NotesFor(QSize Pixels, const QByteArray& Source, bool KeepsPlace) {
-    Reading Its(*this, mPictures, Source);
-    const auto Answer =
-        Its.Ask(Request(Talk::Notes, Source, Pixels.width(), Pixels.height(), KeepsPlace));
-    return Its.BytesOf(Answer).value_or(QByteArray());
+    return BytesOf(mPictures, {Talk::Notes, Source, {Pixels.width(), Pixels.height(), KeepsPlace}})
+        .value_or(QByteArray());
 }
 
 QByteArray ReadingLocked::WithoutPlace(const QByteArray& Jpeg) {
-    Reading Its(*this, mPictures, Jpeg);
-    return Its.BytesOf(Its.Ask(Request(Talk::DropPlace, Jpeg))).value_or(QByteArray());
+    return BytesOf(mPictures, {Talk::DropPlace, Jpeg}).value_or(QByteArray());
 }
 
 QByteArray ReadingLocked::SvgOf(const QByteArray& Emf) {
-    Reading Its(*this, mMetafiles, Emf);
-    return Its.BytesOf(Its.Ask(Request(Talk::Convert, Emf))).value_or(QByteArray());
+    return BytesOf(mMetafiles, {Talk::Convert, Emf}).value_or(QByteArray());
+}
+
+std::vector<NamedLock> ReadingLocked::Reports() {
+    return {{QStringLiteral("Pictures"), mPictures.Report()},
+            {QStringLiteral("Drawings"), mDrawings.Report()},
+            {QStringLiteral("Metafiles"), mMetafiles.Report()}};
 }
 
 // Never ended: its processes end with the program, whatever threads still do.

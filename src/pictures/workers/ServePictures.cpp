@@ -18,19 +18,27 @@ class BeforeTheDoor : public DecodeHost {
   public:
     explicit BeforeTheDoor(LockedRoom& Room) : mRoom(Room) {}
 
+    // What is said from here on belongs to the request.
+    LockedMessage NextRequest() {
+        const LockedMessage Request = mRoom.Receive();
+        mTicket = Request.Numbers[TicketAt];
+        return Request;
+    }
+    void Say(const LockedMessage& Message) { mRoom.Send(WithTicket(Message, mTicket)); }
+
     QSize Needed(QSize Full) {
-        mRoom.Send(LockedMessage(Talk::AskNeeded, {Full.width(), Full.height()}));
+        Say(LockedMessage(Talk::AskNeeded, {Full.width(), Full.height()}));
         const LockedMessage Reply = mRoom.Receive();
         return {static_cast<int>(Reply.Numbers[0]), static_cast<int>(Reply.Numbers[1])};
     }
     void Acquire(QSize Size, qint64 Bytes) override {
-        mRoom.Send(LockedMessage(Talk::AskMemory, {Size.width(), Size.height(), Bytes}));
+        Say(LockedMessage(Talk::AskMemory, {Size.width(), Size.height(), Bytes}));
         if (!mRoom.Receive().Is(Talk::Granted)) ThrowTooLarge(Size);
     }
-    void Release(QSize, qint64) override { mRoom.Send(LockedMessage(Talk::Release)); }
+    void Release(QSize, qint64) override { Say(LockedMessage(Talk::Release)); }
     QByteArray SvgOf(const QByteArray& Emf) override {
         PutBytes(Emf);
-        mRoom.Send(LockedMessage(Talk::AskSvg, {Emf.size()}));
+        Say(LockedMessage(Talk::AskSvg, {Emf.size()}));
         const LockedMessage Reply = mRoom.Receive();
         if (Reply.Is(Talk::Problem)) {
             const QByteArray Text = Taken(Reply.Numbers[2], Reply.Numbers[1]);
@@ -56,16 +64,17 @@ class BeforeTheDoor : public DecodeHost {
 
   private:
     LockedRoom& mRoom;
+    std::int64_t mTicket = 0;
 };
 
 class Worker {
   public:
-    Worker(LockedRoom& Room, PictureReader& Reader) : mRoom(Room), mReader(Reader), mDoor(Room) {
+    Worker(LockedRoom& Room, PictureReader& Reader) : mReader(Reader), mDoor(Room) {
         SetDecodeHost(mDoor);
     }
     void DoNext() {
-        const LockedMessage Request = mRoom.Receive();
-        mRoom.Send(AnswerTo(Request));
+        const LockedMessage Request = mDoor.NextRequest();
+        mDoor.Say(AnswerTo(Request));
         if (Request.Numbers[0] > LargeBytes) ::malloc_trim(0);
     }
 
@@ -115,16 +124,19 @@ class Worker {
         return LockedMessage(Talk::Problem, {Number, Text.size()});
     }
 
-    LockedRoom& mRoom;
     PictureReader& mReader;
     BeforeTheDoor mDoor;
 };
 
 }  // namespace
 
-void ServePictures(LockedRoom& Room, PictureReader& Reader) {
+void ServePictures(LockedRoom& Room, PictureReader& Reader,
+                   const std::function<void()>& BeforeEach) {
     Worker Here(Room, Reader);
-    for (;;) Here.DoNext();
+    for (;;) {
+        if (BeforeEach) BeforeEach();
+        Here.DoNext();
+    }
 }
 
 }  // namespace neb

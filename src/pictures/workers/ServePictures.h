@@ -2,11 +2,15 @@
 // processes that do it; a test puts a hostile reader there.
 #pragma once
 
+#include <functional>
+
 #include "pictures/workers/PictureReading.h"
 #include "support/locked/LockedRoom.h"
 
 namespace neb {
 
-[[noreturn]] void ServePictures(LockedRoom& Room, PictureReader& Reader);
+// BeforeEach: called before a request is taken; for a test.
+[[noreturn]] void ServePictures(LockedRoom& Room, PictureReader& Reader,
+                                const std::function<void()>& BeforeEach = {});
 
 }  // namespace neb

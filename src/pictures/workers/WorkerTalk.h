@@ -3,6 +3,8 @@
 // both sides alone.
 #pragma once
 
+#include <cstddef>
+
 #include "support/locked/LockedMessage.h"
 
 namespace neb {
@@ -33,7 +35,16 @@ enum class Talk : std::uint32_t {
              // from the place that the third number names
 };
 
-// The longest sentence.
-inline constexpr std::int64_t MostSentence = 600;
+// Where each message has the ticket of its request: what is left of an earlier one is no answer.
+// Convert goes without, by zero.
+inline constexpr std::size_t TicketAt = 5;
+inline LockedMessage WithTicket(const LockedMessage& Message, std::int64_t Ticket) {
+    auto Numbers = Message.Numbers;
+    Numbers[TicketAt] = Ticket;
+    return LockedMessage(Message.Kind, Numbers);
+}
+
+// The longest sentence; a library may have a long one of its own in it.
+inline constexpr std::int64_t MostSentence = 4000;
 
 }  // namespace neb

@@ -6,11 +6,14 @@
 
 #include "pictures/workers/ReadingHere.h"
 #include "pictures/workers/ServePictures.h"
+#include "pictures/workers/ToldLibraries.h"
 #include "pictures/workers/WarmDecoders.h"
 
 int main(int argc, char** argv) {
     neb::LockedRoom Room;
     Room.Prepare();
+    // What Qt finds strange about an empty room is for nobody to read.
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
     const bool Draws = argc > 1 && qstrcmp(argv[1], "drawings") == 0;
     const auto App = Draws ? std::make_unique<QGuiApplication>(argc, argv) : nullptr;
     Draws ? neb::WarmDrawings() : neb::WarmDecoders();

@@ -18,6 +18,7 @@ namespace {
 // However many sounds are open, the next one is opened at once; of those that wait for work a few
 // are kept.
 constexpr int MostOpen = 10000, MostIdle = 4;
+constexpr std::chrono::seconds Rest(30);
 
 // What a file may cost: to be opened or searched, and to be played on for a moment.
 constexpr qint64 BaseMemory = 96 << 20, MostMemory = 1 << 30;
@@ -201,7 +202,7 @@ SoundsLocked::SoundsLocked() : SoundsLocked(LockedProgramPath(QStringLiteral("ne
 
 SoundsLocked::SoundsLocked(const QString& ProgramPath, const QByteArray& Role, double Patience)
     : mPatience(Patience),
-      mPool({ProgramPath, Role, SoundInBytes, SoundOutBytes}, MostOpen, MostIdle) {}
+      mPool({ProgramPath, Role, SoundInBytes, SoundOutBytes}, MostOpen, Rest, MostIdle) {}
 
 std::unique_ptr<SoundDecoder> SoundsLocked::Open(const QString& Path) {
     auto Its = std::make_unique<Line>(*this, Path);

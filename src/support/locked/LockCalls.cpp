@@ -2,6 +2,7 @@
 #include <sched.h>
 #include <seccomp.h>
 #include <signal.h>
+#include <sys/ioctl.h>
 #include <sys/mman.h>
 #include <sys/prctl.h>
 #include <unistd.h>
@@ -119,6 +120,11 @@ void AllowLine(Filter& Its) {
             Its.Refuse(Name, EBADF, {Is(0, static_cast<std::uint64_t>(Stream))});
 }
 
+// Whether a stream is a terminal is asked before it is written to; any other ioctl is a device's.
+void RefuseToTellOfTerminals(Filter& Its) {
+    Its.Refuse("ioctl", ENOTTY, {Is(1, TCGETS)});
+}
+
 // abort(), and nothing else of a signal: to itself alone.
 void AllowAbort(Filter& Its) {
     const auto Me = static_cast<std::uint64_t>(::getpid());
@@ -134,6 +140,8 @@ void AllowThreads(Filter& Its) {
     Its.Allow("clone", {HasOf(0, Shared | Spaces | CLONE_UNTRACED | CLONE_PTRACE, Shared)});
     Its.Refuse("clone3", ENOSYS);
     Its.Allow("prctl", {Is(0, PR_SET_NAME)});
+    // the two signals that the C library keeps for its threads; the first thread makes them ready
+    for (const std::uint64_t Own : {32, 33}) Its.Allow("rt_sigaction", {Is(0, Own)});
 }
 
 }  // namespace
@@ -147,6 +155,7 @@ int FilterSystemCalls(const LockNeeds& Needs) {
     for (const auto& [Name, Error] : Refused) Its.Refuse(Name, Error);
     AllowMemory(Its);
     AllowLine(Its);
+    RefuseToTellOfTerminals(Its);
     AllowAbort(Its);
     if (Needs.Threads) AllowThreads(Its);
     return Its.Load();

@@ -1,6 +1,17 @@
 #include "support/locked/LockWords.h"
 
+#include <algorithm>
+
 namespace neb {
+
+LockReport Weaker(const LockReport& One, const LockReport& Other) {
+    return {std::min(One.SystemCalls, Other.SystemCalls),
+            std::min(One.Landlock, Other.Landlock),
+            One.EmptyRoot && Other.EmptyRoot,
+            One.OwnNetwork && Other.OwnNetwork,
+            One.NoNewPrivileges && Other.NoNewPrivileges,
+            One.Limits && Other.Limits};
+}
 
 QString LockSentence(const LockReport& Report) {
     if (Report.IsFull())
@@ -23,15 +34,15 @@ QStringList LockLines(const LockReport& Report) {
     return {
         Line("System calls", Report.SystemCalls > 0,
              QStringLiteral("%1 are allowed, any other ends the reader").arg(Report.SystemCalls),
-             "NOT LIMITED: this kernel has no filter for them"),
+             "NOT LIMITED: there is no filter for them here"),
         Line("Privileges", Report.NoNewPrivileges, QStringLiteral("none can be gained"),
-             "NOT FIXED: this kernel cannot"),
+             "NOT FIXED: more could be gained"),
         Line("Limits", Report.Limits,
              QStringLiteral("no file opened or written; memory and time from the picture's size"),
              "NOT SET"),
         Line("Files", Report.Landlock > 0,
              QStringLiteral("closed by Landlock, version %1").arg(Report.Landlock),
-             "not closed by Landlock: this kernel has none"),
+             "not closed by Landlock: there is none here"),
         Line("Root", Report.EmptyRoot, QStringLiteral("empty"),
              "that of the system: no namespaces here"),
         Line("Network", Report.OwnNetwork, QStringLiteral("one of its own that leads nowhere"),

@@ -8,6 +8,9 @@
 
 namespace neb {
 
+// What both have.
+LockReport Weaker(const LockReport& One, const LockReport& Other);
+
 // A sentence for the About window.
 QString LockSentence(const LockReport& Report);
 // A line a measure, with what it means, for a terminal.

@@ -52,7 +52,7 @@ inline constexpr int LockedIn = 4;    // memory that the program writes and it r
 inline constexpr int LockedOut = 5;   // memory that it writes and the program reads
 
 // The one kind that every locked process knows: it is locked and waits for work. Numbers: its
-// LockReport, packed, and the bytes of address space that it takes by itself.
+// LockReport, packed, and the bytes of address space that it takes by itself; 0: no limit.
 inline constexpr std::uint32_t LockedReady = 1;
 // Kinds of those who use it begin here.
 inline constexpr std::uint32_t FirstOwnKind = 16;

@@ -21,6 +21,7 @@
 #include "support/files/HostNames.h"
 #include "support/files/modHostFiles.h"
 #include "support/files/modHostFilesSpelling.h"
+#include "support/locked/LivingProcesses.h"
 
 extern char** environ;
 
@@ -79,6 +80,23 @@ class SharedMemory {
     int File() const { return *mFile; }
     uchar* At() const { return mAt; }
     qint64 Bytes() const { return mBytes; }
+    // Its pages are there before they are written: one that cannot be had would end us.
+    void Put(qint64 At, QByteArrayView Its) {
+        if (Its.isEmpty()) return;
+        if (At < 0 || Its.size() > mBytes - At || !HasRoom(At, Its.size())) throw std::bad_alloc();
+        std::memcpy(mAt + At, Its.data(), static_cast<size_t>(Its.size()));
+    }
+    // Not by the mapping: pages that nobody has written would have to be made for it.
+    void Take(qint64 At, void* To, qint64 Length) const {
+        if (At < 0 || Length > mBytes - At) throw std::bad_alloc();
+        for (qint64 Done = 0; Done < Length;) {
+            const ssize_t Got = ::pread(*mFile, static_cast<char*>(To) + Done,
+                                        static_cast<size_t>(Length - Done), At + Done);
+            if (Got < 0 && errno == EINTR) continue;
+            if (Got <= 0) throw std::bad_alloc();
+            Done += Got;
+        }
+    }
     void Trim() {
         if (mBytes <= KeptBytes) return;
         ::fallocate(*mFile, FALLOC_FL_PUNCH_HOLE | FALLOC_FL_KEEP_SIZE, KeptBytes,
@@ -86,6 +104,12 @@ class SharedMemory {
     }
 
   private:
+    bool HasRoom(qint64 At, qint64 Length) const {
+        while (::fallocate(*mFile, 0, At, Length) != 0)
+            if (errno != EINTR) return errno == EOPNOTSUPP;
+        return true;
+    }
+
     Descriptor mFile;
     uchar* mAt = nullptr;
     qint64 mBytes;
@@ -164,11 +188,11 @@ double ProcessorSecondsOf(pid_t Pid) {
     return double(Time.tv_sec) + double(Time.tv_nsec) / 1e9;
 }
 
-void SetSoftLimit(pid_t Pid, __rlimit_resource What, rlim_t Most) {
+bool SetSoftLimit(pid_t Pid, __rlimit_resource What, rlim_t Most) {
     rlimit Limit = {};
-    if (::prlimit(Pid, What, nullptr, &Limit) != 0) return;
+    if (::prlimit(Pid, What, nullptr, &Limit) != 0) return false;
     Limit.rlim_cur = std::min(Most, Limit.rlim_max);
-    ::prlimit(Pid, What, &Limit, nullptr);
+    return ::prlimit(Pid, What, &Limit, nullptr) == 0;
 }
 
 }  // namespace
@@ -191,6 +215,7 @@ struct LockedProcess::State {
         How.Give(In.File(), LockedIn);
         How.Give(Out.File(), LockedOut);
         Pid = How.Start(HostBytes(Program.Path), Program.Role);
+        NoteLiving(Pid);
     }
     ~State() {
         if (AtWork) ::kill(Pid, SIGKILL);
@@ -204,12 +229,14 @@ struct LockedProcess::State {
     void Reap() {
         if (IsReaped) return;
         IsReaped = true;
+        ForgetLiving(Pid);
         constexpr int Looks = 100;
         for (int I = 0; I < Looks; ++I) {
             if (::waitpid(Pid, &Status, WNOHANG) != 0) return;
             ::usleep(1000);
         }
         ::kill(Pid, SIGKILL);
+        IsKilledByUs = true;
         while (::waitpid(Pid, &Status, 0) < 0 && errno == EINTR) continue;
     }
     void Kill(LockedEnd Because) {
@@ -223,9 +250,10 @@ struct LockedProcess::State {
         Line->Close();
         Reap();
         const int Signal = WIFSIGNALED(Status) ? WTERMSIG(Status) : 0;
-        Why = Signal == SIGSYS    ? LockedEnd::Forbidden
-              : Signal == SIGXCPU ? LockedEnd::TooLong
-                                  : LockedEnd::Crashed;
+        Why = Signal == SIGSYS                     ? LockedEnd::Forbidden
+              : Signal == SIGXCPU                  ? LockedEnd::TooLong
+              : Signal == SIGKILL && !IsKilledByUs ? LockedEnd::Killed
+                                                   : LockedEnd::Crashed;
     }
     // Whether there is something to read before the time is up.
     bool Wait() {
@@ -253,12 +281,23 @@ struct LockedProcess::State {
         return Message;
     }
 
+    // Whether it is silent and lives. One that speaks unasked would have that taken for the answer
+    // to what comes next.
+    bool StaysQuiet() {
+        if (Why != LockedEnd::None) return false;
+        std::byte One;
+        const ssize_t Length = ::recv(**Line, &One, sizeof(One), MSG_PEEK | MSG_DONTWAIT);
+        if (Length < 0 && errno == EAGAIN) return true;
+        Length > 0 ? Kill(LockedEnd::Nonsense) : Gone();
+        return false;
+    }
+
     SharedMemory In, Out;
     QString Path;
     std::unique_ptr<Descriptor> Line;
     pid_t Pid = 0;
     int Status = 0;
-    bool IsReaped = false;
+    bool IsReaped = false, IsKilledByUs = false;
     bool AtWork = true;
     LockedEnd Why = LockedEnd::None;
     LockReport Report;
@@ -278,6 +317,9 @@ LockedProcess::LockedProcess(const LockedProgram& Program) {
                                    "not get ready."),
                     Program.Path);
     mState->Report = LockReport::Of(Ready->Numbers[0]);
+    // From here come those of memory and time.
+    mState->Report.Limits =
+        mState->Report.Limits && SetSoftLimit(mState->Pid, RLIMIT_CPU, RLIM_INFINITY);
     mState->OwnSpace = Ready->Numbers[1];
     mState->AtWork = false;
 }
@@ -300,6 +342,14 @@ qint64 LockedProcess::OutBytes() const {
     return mState->Out.Bytes();
 }
 
+void LockedProcess::Put(qint64 At, QByteArrayView Bytes) {
+    mState->In.Put(At, Bytes);
+}
+
+void LockedProcess::Take(qint64 At, void* To, qint64 Bytes) const {
+    mState->Out.Take(At, To, Bytes);
+}
+
 void LockedProcess::LetGoOfMemory() {
     mState->In.Trim();
     mState->Out.Trim();
@@ -308,7 +358,8 @@ void LockedProcess::LetGoOfMemory() {
 void LockedProcess::Allow(const LockedAllowance& Allowance) {
     State& Its = *mState;
     if (Its.Why != LockedEnd::None) return;
-    SetSoftLimit(Its.Pid, RLIMIT_AS, static_cast<rlim_t>(Its.OwnSpace + Allowance.Memory));
+    if (Its.OwnSpace > 0)
+        SetSoftLimit(Its.Pid, RLIMIT_AS, static_cast<rlim_t>(Its.OwnSpace + Allowance.Memory));
     const double Processor = ProcessorSecondsOf(Its.Pid) + Allowance.ProcessorSeconds;
     SetSoftLimit(Its.Pid, RLIMIT_CPU, static_cast<rlim_t>(std::ceil(Processor)));
     Its.Until = Clock::now() + std::chrono::milliseconds(qint64(Allowance.Seconds * 1000));
@@ -318,14 +369,20 @@ void LockedProcess::Send(const LockedMessage& Message) {
     State& Its = *mState;
     if (Its.Why != LockedEnd::None) return;
     Its.AtWork = true;
-    // What goes to one that has ended is told by the answer that does not come.
-    (void)::send(**Its.Line, &Message, sizeof(Message), MSG_NOSIGNAL);
+    // What goes to one that has ended is told by the answer that does not come. One that reads
+    // nothing of what it asks for must not hold us up.
+    const ssize_t Gone = ::send(**Its.Line, &Message, sizeof(Message), MSG_NOSIGNAL | MSG_DONTWAIT);
+    if (Gone < 0 && (errno == EAGAIN || errno == EWOULDBLOCK)) Its.Kill(LockedEnd::Nonsense);
 }
 
 std::optional<LockedMessage> LockedProcess::Receive() {
     const auto Message = mState->Receive();
     mState->AtWork = mState->AtWork && !Message;
     return Message;
+}
+
+bool LockedProcess::StaysQuiet() {
+    return mState->StaysQuiet();
 }
 
 void LockedProcess::EndBecause(LockedEnd Why) {

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QByteArrayView>
 #include <QString>
 #include <memory>
 #include <optional>
@@ -31,8 +32,9 @@ struct LockedAllowance {
 
 enum class LockedEnd {
     None,       // it lives
-    Crashed,    // or was ended from outside
+    Crashed,    // or left by itself
     Forbidden,  // it asked the system for what it may not
+    Killed,     // from outside: by the system for want of memory, or by hand
     TooLong,    // its time was up
     Nonsense    // what it said was none of our messages
 };
@@ -51,6 +53,10 @@ class LockedProcess {
     // The memory that it writes, at any time: each byte must be read once, then checked.
     const uchar* Out() const;
     qint64 OutBytes() const;
+    // The same, where the machine may have no memory left for what is put or taken: throws
+    // std::bad_alloc, where a plain look would end the program.
+    void Put(qint64 At, QByteArrayView Bytes);
+    void Take(qint64 At, void* To, qint64 Bytes) const;
     // Gives back to the system what one large picture has taken of both.
     void LetGoOfMemory();
 
@@ -59,6 +65,8 @@ class LockedProcess {
     void Send(const LockedMessage& Message);
     // Nothing where it has ended, or was ended because of its time or of what it said.
     std::optional<LockedMessage> Receive();
+    // Whether it lives and has said nothing that nobody asked for; if it has, it ends.
+    bool StaysQuiet();
     // For who sees that a message makes no sense: it ends.
     void EndBecause(LockedEnd Why);
 

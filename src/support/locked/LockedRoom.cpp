@@ -1,11 +1,13 @@
 #include "support/locked/LockedRoom.h"
 
-#include <fcntl.h>
+#include <sched.h>
 #include <sys/mman.h>
-#include <sys/prctl.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 
@@ -30,15 +32,41 @@ std::byte* MapOf(int File, int Mode, size_t& Bytes) {
     return static_cast<std::byte*>(At);
 }
 
-// Bytes of address space.
+void ShutAllFrom(int First) {
+    if (::close_range(static_cast<unsigned>(First), ~0U, 0) == 0) return;
+    // An older kernel. Nothing of ours has as many.
+    constexpr int Most = 1 << 16;
+    for (int Each = First; Each < Most; ++Each) ::close(Each);
+}
+
+// Whether a page more would still be within so many bytes of address space.
+bool IsWithin(rlim_t Bytes, rlim_t Hard) {
+    const rlimit Trial = {Bytes, Hard};
+    ::setrlimit(RLIMIT_AS, &Trial);
+    const auto Page = static_cast<size_t>(::sysconf(_SC_PAGESIZE));
+    void* const At = ::mmap(nullptr, Page, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    return At != MAP_FAILED && ::munmap(At, Page) == 0;
+}
+
+// Bytes of address space, by what the system still gives: where it would tell, in /proc, is not
+// everywhere. 0: it is not to be limited.
 std::int64_t OwnSpace() {
-    constexpr std::int64_t Unknown = 4LL << 30;
-    std::FILE* const File = std::fopen("/proc/self/statm", "r");
-    if (!File) return Unknown;
-    long long Pages = 0;
-    const bool Read = std::fscanf(File, "%lld", &Pages) == 1;
-    std::fclose(File);
-    return Read ? Pages * ::sysconf(_SC_PAGESIZE) : Unknown;
+    if (IsWatchedBuild) return 0;
+    rlimit Before = {};
+    ::getrlimit(RLIMIT_AS, &Before);
+    constexpr rlim_t Exact = 64 << 10;
+    rlim_t Enough = std::min<rlim_t>(Before.rlim_max, 1ULL << 47), TooFew = 0;
+    while (Enough - TooFew > Exact) {
+        const rlim_t Middle = TooFew + (Enough - TooFew) / 2;
+        (IsWithin(Middle, Before.rlim_max) ? Enough : TooFew) = Middle;
+    }
+    ::setrlimit(RLIMIT_AS, &Before);
+    return static_cast<std::int64_t>(Enough);
+}
+
+// A library that has started a thread already would leave it outside: each has its own rights.
+bool IsOfOneThread() {
+    return ::unshare(CLONE_THREAD) == 0 || errno != EINVAL;
 }
 
 }  // namespace
@@ -49,7 +77,7 @@ LockedRoom::LockedRoom() {
     mIn = {InAt, Bytes};
     std::byte* const OutAt = MapOf(LockedOut, PROT_READ | PROT_WRITE, Bytes);
     mOut = {OutAt, Bytes};
-    ::close_range(LockedIn, ~0U, 0);
+    ShutAllFrom(LockedIn);
 }
 
 void LockedRoom::Prepare() {
@@ -60,18 +88,18 @@ void LockedRoom::Prepare() {
 
 void LockedRoom::Close(const LockNeeds& Needs) {
     const std::int64_t Space = OwnSpace();
-    ::close_range(0, LockedTalk - 1, 0);
-    ::close_range(LockedTalk + 1, ~0U, 0);
+    for (int Each = 0; Each < LockedTalk; ++Each)
+        if (!IsWatchedBuild || Each != STDERR_FILENO) ::close(Each);
+    ShutAllFrom(LockedTalk + 1);
     LockReport Report;
     Report.EmptyRoot = mHasOwnRoot && LeaveFiles();
     Report.OwnNetwork = mHasOwnNetwork;
-    Report.NoNewPrivileges = GiveUpNewPrivileges();
-    Report.Landlock = CloseByLandlock();
+    const bool IsAlone = IsOfOneThread();
+    Report.NoNewPrivileges = GiveUpNewPrivileges() && IsAlone;
+    Report.Landlock = IsAlone ? CloseByLandlock() : 0;
     Report.Limits = SetLimits(Needs);
     Report.SystemCalls = FilterSystemCalls(Needs);
-    LockedMessage Ready;
-    Ready = LockedMessage(LockedReady, {Report.Packed(), Space});
-    Send(Ready);
+    Send(LockedMessage(LockedReady, {Report.Packed(), Space}));
 }
 
 void LockedRoom::Send(const LockedMessage& Message) {

@@ -11,6 +11,7 @@ namespace neb {
 namespace {
 
 std::atomic<int> AtWork = 0;
+std::atomic<void (*)()> Last = nullptr;
 
 constexpr int MostLooks = 50;
 constexpr std::chrono::milliseconds BetweenLooks(10);
@@ -28,9 +29,14 @@ WorkOnThread::~WorkOnThread() {
 WorkOnThread::WorkOnThread(WorkOnThread&& Other) noexcept
     : mCounts(std::exchange(Other.mCounts, false)) {}
 
+void AtProcessEnd(void (*Do)()) {
+    Last = Do;
+}
+
 int EndProcess(int ExitCode) {
     for (int Look = 0; AtWork > 0 && Look < MostLooks; ++Look)
         std::this_thread::sleep_for(BetweenLooks);
+    if (const auto Do = Last.load()) Do();
     if (AtWork == 0) return ExitCode;
     std::fflush(nullptr);
     std::_Exit(ExitCode);

@@ -17,6 +17,10 @@ class WorkOnThread {
     bool mCounts = true;
 };
 
+// What is still to be done then, whether all work has ended or not; on the thread that ends. One
+// for all.
+void AtProcessEnd(void (*Do)());
+
 // The exit code again, once all work has ended; where some does not within a moment, the process
 // ends here and now with that code.
 int EndProcess(int ExitCode);

@@ -4,9 +4,9 @@
 
 #include <memory>
 
-#include "pictures/formats/CodedColours.h"
+#include "pictures/decoders/CodedColours.h"
+#include "pictures/decoders/PictureColour.h"
 #include "pictures/formats/FileBlocks.h"
-#include "pictures/formats/PictureColour.h"
 #include "pictures/formats/PictureFaults.h"
 #include "pictures/formats/PictureFormats.h"
 

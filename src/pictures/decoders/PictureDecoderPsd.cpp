@@ -1,8 +1,8 @@
 // PSD pictures of the kinds that Magick++ refuses or takes for others, by their own rules: with
 // palettes, with inks but no colour space, with many masks beside the colours. Of all, the picture
 // of all layers together counts, which stands at the file's end.
+#include "pictures/decoders/PictureColour.h"
 #include "pictures/formats/FileBlocks.h"
-#include "pictures/formats/PictureColour.h"
 #include "pictures/formats/PictureFaults.h"
 #include "pictures/formats/PictureFormats.h"
 #include "pictures/formats/PictureOrientation.h"

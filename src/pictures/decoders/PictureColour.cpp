@@ -1,4 +1,4 @@
-#include "pictures/formats/PictureColour.h"
+#include "pictures/decoders/PictureColour.h"
 
 #include <lcms2.h>
 

@@ -1,4 +1,4 @@
-#include "pictures/formats/CodedColours.h"
+#include "pictures/decoders/CodedColours.h"
 
 #include <lcms2.h>
 

@@ -2,7 +2,7 @@
 // not, with the palettes of their several versions.
 #include <array>
 
-#include "pictures/formats/PictureColour.h"
+#include "pictures/decoders/PictureColour.h"
 #include "pictures/formats/PictureFaults.h"
 #include "pictures/formats/PictureFormats.h"
 

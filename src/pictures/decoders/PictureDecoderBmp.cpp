@@ -3,7 +3,7 @@
 #include <array>
 #include <bit>
 
-#include "pictures/formats/PictureColour.h"
+#include "pictures/decoders/PictureColour.h"
 #include "pictures/formats/PictureFaults.h"
 #include "pictures/formats/PictureFormats.h"
 

@@ -1,9 +1,9 @@
-// PCD, the finer kinds of TIFF and most PSD by Magick++. No picture may go to the TIFF reader of Qt:
-// the complaints of the one TIFF library that both use go to whoever asked for them last, and end
-// in a crash.
+// PCD, the finer kinds of TIFF and most PSD by Magick++. No picture may go to the TIFF reader of
+// Qt: the complaints of the one TIFF library that both use go to whoever asked for them last, and
+// end in a crash.
 #include <Magick++.h>
 
-#include "pictures/formats/PictureColour.h"
+#include "pictures/decoders/PictureColour.h"
 #include "pictures/formats/PictureFaults.h"
 #include "pictures/formats/PictureFormats.h"
 #include "pictures/formats/PictureOrientation.h"

@@ -8,7 +8,7 @@
 
 #include <jerror.h>
 
-#include "pictures/formats/PictureColour.h"
+#include "pictures/decoders/PictureColour.h"
 #include "pictures/formats/PictureFaults.h"
 #include "pictures/formats/PictureFormats.h"
 #include "pictures/formats/PictureOrientation.h"

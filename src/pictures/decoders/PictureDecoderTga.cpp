@@ -1,6 +1,6 @@
 // TGA pictures, by their own rules: colours, greys and palettes, each packed or not, from any of
 // the four corners, with alpha in the pixels, in the palette or beside the greys.
-#include "pictures/formats/PictureColour.h"
+#include "pictures/decoders/PictureColour.h"
 #include "pictures/formats/PictureFaults.h"
 #include "pictures/formats/PictureFormats.h"
 

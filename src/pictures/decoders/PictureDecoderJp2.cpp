@@ -4,7 +4,7 @@
 
 #include <memory>
 
-#include "pictures/formats/PictureColour.h"
+#include "pictures/decoders/PictureColour.h"
 #include "pictures/formats/PictureFaults.h"
 #include "pictures/formats/PictureFormats.h"
 #include "pictures/formats/PictureOrientation.h"
