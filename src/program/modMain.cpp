@@ -20,6 +20,7 @@
 #include "program/opening/OtherInstance.h"
 #include "program/opening/RaiseProgram.h"
 #include "settings/modNEBSlideShow.h"
+#include "sound/workers/SoundReading.h"
 #include "support/Fault.h"
 #include "support/Services.h"
 #include "support/files/HostNames.h"
@@ -69,10 +70,13 @@ bool TakeOver(frmNEBSlideShow& Window, const HandOver& What) {
     return true;
 }
 
-// The first picture that somebody wants does not wait for its reader. When the window stands: it is
-// what is waited for now, and it may have wanted pictures itself.
+// The first picture, or sound, that somebody wants does not wait for its reader. When the window
+// stands: it is what is waited for now, and it may have wanted pictures itself.
 void WarmUpReaders(frmNEBSlideShow& Window) {
-    QTimer::singleShot(WarmUpMs, &Window, [] { TheLockedReading().WarmUp(); });
+    QTimer::singleShot(WarmUpMs, &Window, [] {
+        TheLockedReading().WarmUp();
+        TheSoundReader().WarmUp();
+    });
 }
 
 int RunMainWindow(const CommandLine& Line, const QString& Database) {

@@ -97,7 +97,7 @@ class HostileSounds : public ::testing::Test {
     }
 
     harness::TempFolder Folder;
-    SoundsLocked Reader{QStringLiteral(NEB_BINARY_DIR "/bin/neb-hostile-sounds"), "", Hasty};
+    SoundsLocked Reader{QStringLiteral(NEB_BINARY_DIR "/tests/hostile/neb-hostile-sounds"), "", Hasty};
 };
 
 constexpr const char* EveryDeed[] = {"crash",

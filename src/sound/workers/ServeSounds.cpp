@@ -15,7 +15,8 @@ namespace {
 // The file, asked for piece by piece of the program, which has it open.
 class BytesOfProgram : public SoundBytes {
   public:
-    BytesOfProgram(LockedRoom& Room, qint64 Length) : mRoom(Room), mLength(Length) {}
+    BytesOfProgram(LockedRoom& Room, qint64 Length, const bool& Plays)
+        : mRoom(Room), mLength(Length), mPlays(Plays) {}
 
     qint64 Length() const override { return mLength; }
     qint64 ReadAt(qint64 At, char* Into, qint64 MaxLength) override {
@@ -39,11 +40,11 @@ class BytesOfProgram : public SoundBytes {
             if (At >= Each.At && At < Each.End()) return &Each;
         return At < mLength ? Ask(At) : nullptr;
     }
-    // What is read on and on comes in ever larger pieces.
     const Piece* Ask(qint64 At) {
         const Piece& Before = mPieces[mLast];
+        const bool GoesOn = At == Before.End() && !mPlays;
         const qint64 Wanted =
-            At == Before.End() ? std::clamp(2 * Before.Length, LeastPiece, MostPiece) : LeastPiece;
+            GoesOn ? std::clamp(2 * Before.Length, LeastPiece, MostPiece) : LeastPiece;
         mLast = (mLast + 1) % mPieces.size();
         Piece& Its = mPieces[mLast] = {};
         mRoom.Send(LockedMessage(SoundTalk::AskBytes,
@@ -56,6 +57,7 @@ class BytesOfProgram : public SoundBytes {
 
     LockedRoom& mRoom;
     const qint64 mLength;
+    const bool& mPlays;
     std::array<Piece, HeldPieces> mPieces;
     size_t mLast = 0;
 };
@@ -82,7 +84,9 @@ class Worker {
     }
     LockedMessage Opened(qint64 Length) {
         mSound.reset();
-        mSound = mDecoders.Open(std::make_unique<BytesOfProgram>(mRoom, Length));
+        mPlays = false;
+        mSound = mDecoders.Open(std::make_unique<BytesOfProgram>(mRoom, Length, mPlays));
+        mPlays = true;
         return LockedMessage(SoundTalk::Opened,
                              {mSound->Rate(), mSound->Channels(), mSound->Frames()});
     }
@@ -95,7 +99,9 @@ class Worker {
         return LockedMessage(SoundTalk::Samples, {Done});
     }
     LockedMessage TagTexts(qint64 Length) {
-        const SongTags Found = mDecoders.Tags(std::make_unique<BytesOfProgram>(mRoom, Length));
+        mPlays = false;
+        const SongTags Found =
+            mDecoders.Tags(std::make_unique<BytesOfProgram>(mRoom, Length, mPlays));
         const QByteArray Title = Short(Found.Title, MostTagText);
         const QByteArray Artist = Short(Found.Artist, MostTagText);
         Put(Title + Artist);
@@ -116,6 +122,7 @@ class Worker {
 
     LockedRoom& mRoom;
     const SoundDecoders& mDecoders;
+    bool mPlays = false;  // what was opened
     std::unique_ptr<SoundDecoder> mSound;
 };
 

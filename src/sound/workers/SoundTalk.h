@@ -24,10 +24,11 @@ enum class SoundTalk : std::uint32_t {
     Problem    // bytes of a sentence, in Out
 };
 
-// Asked for at a time: little at first, more of what is read on and on.
-inline constexpr long long LeastPiece = 64 << 10, MostPiece = 256 << 10;
+// Asked for at a time: little, but for more of what is read on and on before it plays. Then a slow
+// medium must not take longer for a piece than the sound that it holds.
+inline constexpr long long LeastPiece = 64 << 10, MostPiece = 512 << 10;
 // Pieces that lie in In beside each other: decoders go to and fro.
-inline constexpr long long HeldPieces = 8;
+inline constexpr long long HeldPieces = 4;
 inline constexpr long long SoundInBytes = HeldPieces * MostPiece;
 inline constexpr long long SoundOutBytes = 1 << 20;
 // Decoded at a time beyond the step that was asked for.

@@ -57,17 +57,24 @@ QString PlainSentence(const QByteArray& Bytes) {
 // A file and the process that reads it.
 class SoundsLocked::Line {
   public:
-    Line(SoundsLocked& Own, const QString& Path)
+    Line(SoundsLocked& Own, const QString& Path, LockedPool::Wanted Which)
         : mOwn(Own),
           mPath(Checked(Own, Path)),
           mFile(Path),
           mAllowance(AllowanceFor(mFile.Length(), Own.mPatience)),
-          mLent(Own.mPool) {}
+          mLent(Own.mPool, Which) {}
 
     qint64 Length() const { return mFile.Length(); }
     [[noreturn]] void Throw(const QString& Sentence) const { throw Fault(Sentence, mPath); }
     [[noreturn]] void ThrowEnded() const { Throw(SentenceOf(mProcess.End())); }
 
+    // Whether another process may fare better: this one was ended by somebody else, or had read
+    // other files before, one of which may have spoilt it. Time is not spent twice.
+    bool IsWorthAnother() const {
+        if (mProcess.End() == LockedEnd::Killed) return true;
+        return mProcess.End() != LockedEnd::TooLong && !mLent.IsFresh();
+    }
+    void SetOpen() { mIsOpen = true; }  // from now on there is no second try
     // Nothing when the process has ended.
     std::optional<LockedMessage> Ask(const LockedMessage& Request) {
         if (mProcess.End() != LockedEnd::None) return {};
@@ -76,7 +83,7 @@ class SoundsLocked::Line {
         mProcess.Send(Request);
         for (;;) {
             const auto Said = mProcess.Receive();
-            if (!Said) mOwn.mCrashes.Note(mPath);
+            if (!Said) Note();
             if (!Said || !Said->Is(SoundTalk::AskBytes)) return Said;
             if (!Give(Said->Numbers[0], Said->Numbers[1], Said->Numbers[2]))
                 return EndAsNonsense(), std::nullopt;
@@ -95,10 +102,13 @@ class SoundsLocked::Line {
     void EndAsNonsense() {
         if (mProcess.End() != LockedEnd::None) return;
         mProcess.EndBecause(LockedEnd::Nonsense);
-        mOwn.mCrashes.Note(mPath);
+        Note();
     }
 
   private:
+    void Note() const {
+        if (mIsOpen || !IsWorthAnother()) mOwn.mCrashes.Note(mPath);
+    }
     static const QString& Checked(const SoundsLocked& Own, const QString& Path) {
         if (!Own.mCrashes.IsGivenUp(Path)) return Path;
         throw Fault(QStringLiteral("The sound has brought its reader down three times and is not "
@@ -123,6 +133,7 @@ class SoundsLocked::Line {
     const LockedAllowance mAllowance;
     LockedPool::Lent mLent;
     LockedProcess& mProcess = *mLent;
+    bool mIsOpen = false;
     qint64 mAsked = 0;  // bytes, since the request
 };
 
@@ -204,28 +215,48 @@ SoundsLocked::SoundsLocked(const QString& ProgramPath, const QByteArray& Role, d
     : mPatience(Patience),
       mPool({ProgramPath, Role, SoundInBytes, SoundOutBytes}, MostOpen, Rest, MostIdle) {}
 
-std::unique_ptr<SoundDecoder> SoundsLocked::Open(const QString& Path) {
-    auto Its = std::make_unique<Line>(*this, Path);
-    const auto Said = Its->Ask(LockedMessage(SoundTalk::Open, {Its->Length()}));
-    if (Said && Said->Is(SoundTalk::Problem)) {
-        const QByteArray Text = Its->Text(0, Said->Numbers[0], MostSoundSentence);
-        if (!Text.isEmpty()) Its->Throw(PlainSentence(Text));
+// The line to a process that has answered; Take says whether the answer makes sense. A second
+// process where another may fare better. Throws Fault where there is none.
+template <class Taker>
+std::unique_ptr<SoundsLocked::Line> SoundsLocked::Asked(const QString& Path, SoundTalk What,
+                                                        Taker Take) {
+    for (const auto Which : {LockedPool::Wanted::Any, LockedPool::Wanted::Fresh}) {
+        auto Its = std::make_unique<Line>(*this, Path, Which);
+        const auto Said = Its->Ask(LockedMessage(What, {Its->Length()}));
+        if (Said && Take(*Its, *Said)) return Its->SetOpen(), std::move(Its);
+        Its->EndAsNonsense();
+        if (Which == LockedPool::Wanted::Fresh || !Its->IsWorthAnother()) Its->ThrowEnded();
     }
-    if (Said && !IsSound(*Said)) Its->EndAsNonsense();
-    if (!Said || !IsSound(*Said)) Its->ThrowEnded();
+    return nullptr;
+}
+
+std::unique_ptr<SoundDecoder> SoundsLocked::Open(const QString& Path) {
+    LockedMessage Opened;
+    QString Refusal;
+    auto Its = Asked(Path, SoundTalk::Open, [&](Line& By, const LockedMessage& Said) {
+        Opened = Said;
+        if (Said.Is(SoundTalk::Problem))
+            Refusal = PlainSentence(By.Text(0, Said.Numbers[0], MostSoundSentence));
+        return IsSound(Said) || !Refusal.isEmpty();
+    });
+    if (!Refusal.isEmpty()) Its->Throw(Refusal);
     mPool.WarmUp();
-    return std::make_unique<Sound>(std::move(Its), *Said);
+    return std::make_unique<Sound>(std::move(Its), Opened);
 }
 
 SongTags SoundsLocked::Tags(const QString& Path) {
-    Line Its(*this, Path);
-    const auto Said = Its.Ask(LockedMessage(SoundTalk::Tags, {Its.Length()}));
-    if (!Said) Its.ThrowEnded();
-    if (Said->Is(SoundTalk::Problem) && Said->Numbers[0] <= MostSoundSentence) return {};
-    if (!Said->Is(SoundTalk::TagTexts)) return Its.EndAsNonsense(), SongTags();
-    const auto [Title, Artist] = std::pair(Said->Numbers[0], Said->Numbers[1]);
-    return {TagText(Its.Text(0, Title, MostTagText)),
-            TagText(Its.Text(Title, Artist, MostTagText))};
+    SongTags Tags;
+    Asked(Path, SoundTalk::Tags, [&](Line& By, const LockedMessage& Said) {
+        const auto [Title, Artist] = std::pair(Said.Numbers[0], Said.Numbers[1]);
+        if (Said.Is(SoundTalk::Problem)) return Title >= 0 && Title <= MostSoundSentence;
+        if (!Said.Is(SoundTalk::TagTexts) || !By.Written(0, Title, MostTagText) ||
+            !By.Written(Title, Artist, MostTagText))
+            return false;
+        Tags = {TagText(By.Text(0, Title, MostTagText)),
+                TagText(By.Text(Title, Artist, MostTagText))};
+        return true;
+    });
+    return Tags;
 }
 
 // Never ended: its processes end with the program, whatever threads still do.

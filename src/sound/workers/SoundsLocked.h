@@ -8,6 +8,8 @@
 
 namespace neb {
 
+enum class SoundTalk : std::uint32_t;
+
 class SoundsLocked : public SoundReader {
   public:
     SoundsLocked();
@@ -23,6 +25,8 @@ class SoundsLocked : public SoundReader {
   private:
     class Line;
     class Sound;
+    template <class Taker>
+    std::unique_ptr<Line> Asked(const QString& Path, SoundTalk What, Taker Take);
 
     const double mPatience;
     LockedPool mPool;
