@@ -55,7 +55,7 @@ XShow::XShow(QWidget* Parent) : QWidget(Parent), mRefresh(*this) {
 
 XShow::~XShow() = default;
 
-void XShow::SetReader(PictureReader Reader, int Patience) {
+void XShow::SetReader(ShownReader Reader, int Patience) {
     XShowLoader::SetReader(std::move(Reader));
     gPatience = Patience;
 }

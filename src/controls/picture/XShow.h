@@ -30,7 +30,7 @@ class XShow : public QWidget {
 
     // What reads the picture files, for all views; called on worker threads. Patience: how long
     // AskForPicture waits, milliseconds.
-    static void SetReader(PictureReader Reader, int Patience = 50);
+    static void SetReader(ShownReader Reader, int Patience = 50);
 
     // Takes the picture that comes next, without showing it; a running transition goes on to
     // its own picture. Throws Fault when it cannot be read; what was loaded before stays.

@@ -15,13 +15,12 @@ constexpr int WaitForReadersMs = 1000;
 
 QMutex gReaderLock;
 
-PictureReader& Reader() {
-    static PictureReader Instance;
+ShownReader& Reader() {
+    static ShownReader Instance;
     return Instance;
 }
 
-LoadedPicture ReadAndFit(const PictureReader& Read, const QString& File,
-                         const XShowLayout& Layout) {
+LoadedPicture ReadAndFit(const ShownReader& Read, const QString& File, const XShowLayout& Layout) {
     if (!Read) throw Fault(QStringLiteral("There is nothing that reads pictures."), File);
     LoadedPicture P;
     P.Source = AsOpaque(Read(File));
@@ -31,7 +30,7 @@ LoadedPicture ReadAndFit(const PictureReader& Read, const QString& File,
     return P;
 }
 
-PictureReader ReaderNow() {
+ShownReader ReaderNow() {
     const QMutexLocker Lock(&gReaderLock);
     return Reader();
 }
@@ -55,7 +54,7 @@ struct XShowLoader::Reading {
     std::exception_ptr Problem;
 };
 
-void XShowLoader::SetReader(PictureReader NewReader) {
+void XShowLoader::SetReader(ShownReader NewReader) {
     const QMutexLocker Lock(&gReaderLock);
     ReadThreads::AwaitAll(WaitForReadersMs);
     Reader() = std::move(NewReader);

@@ -12,7 +12,7 @@
 namespace neb {
 
 // Reads a picture file; called on any thread; throws Fault when it cannot be decoded.
-using PictureReader = std::function<QImage(const QString& File)>;
+using ShownReader = std::function<QImage(const QString& File)>;
 
 struct LoadedPicture {
     QImage Source;       // Format_RGB32
@@ -24,7 +24,7 @@ class XShowLoader {
   public:
     // For all views. The readings that are under way with the reader of before are awaited, for a
     // second at most: whoever takes his reader back may go then.
-    static void SetReader(PictureReader Reader);
+    static void SetReader(ShownReader Reader);
 
     // Begins to read a file and to fit it to a view; one file at a time, the latest counts.
     void Prefetch(const QString& File, const XShowLayout& Layout);

@@ -93,12 +93,18 @@ OneReading::~OneReading() {
     if (!mIsAnswered) mProcess.EndBecause(LockedEnd::Nonsense);
 }
 
+// A damaged file may have more pixels than its header has asked memory for, but not so many that it
+// should have asked.
+bool OneReading::HasAskedFor(QSize Size) const {
+    const qint64 Most = std::max(mMostAsked, mCosts.HeaderMemory);
+    return PixelCount(Size) * 4 <= std::min(Most, mProcess.OutBytes());
+}
+
 DecodedPicture OneReading::Picture() {
     const LockedMessage Said = Answer();
     const QSize Size = SizeIn(Said, 0), Full = SizeIn(Said, 2);
     if (!Said.Is(Talk::Picture) || !IsPossible(Size) || !IsPossible(Full) ||
-        Size.boundedTo(Full) != Size ||
-        PixelCount(Size) * 4 > std::min(mMostAsked, mProcess.OutBytes()))
+        Size.boundedTo(Full) != Size || !HasAskedFor(Size))
         EndBecause(LockedEnd::Nonsense);
     QImage Picture = mAhead.PictureOf(Size);
     if (Picture.isNull()) ThrowTooLarge(Size);

@@ -14,9 +14,9 @@
 namespace neb {
 
 // What a picture may cost. Before it has told how large it is, that of its header; then a time for
-// every byte of its file and of the memory that it needs. It may take twice of what it asks for: what
-// the decoders of today were seen to take is up to 1.2 times of it, greys of a JPEG the most. Three
-// times the file is for libraries that copy it, and for what is written anew of it.
+// every byte of its file and of the memory that it needs. It may take twice of what it asks for:
+// what the decoders of today were seen to take is up to 1.2 times of it, greys of a JPEG the most.
+// Three times the file is for libraries that copy it, and for what is written anew of it.
 struct ReadingCosts {
     qint64 HeaderMemory = 192LL << 20;  // bytes
     double HeaderSeconds = 15;          // of the processor
@@ -60,6 +60,7 @@ class OneReading {
     std::optional<QByteArray> Bytes();
 
   private:
+    bool HasAskedFor(QSize Size) const;
     LockedMessage Answer();
     LockedMessage Next();
     bool IsServed(const LockedMessage& Said);

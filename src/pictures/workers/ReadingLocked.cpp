@@ -67,6 +67,11 @@ bool IsDrawing(const QByteArray& Bytes) {
     return Format == PictureFormat::Emf || Format == PictureFormat::Wmf;
 }
 
+LockedProgram Converter() {
+    return {LockedProgramPath(QStringLiteral("neb-metafiles")), "metafiles", LargestPictureFile,
+            LargestSvg};
+}
+
 LockedProgram Program(const char* Name, const char* Role) {
     return ReadingLocked::ProgramAt(LockedProgramPath(QString::fromLatin1(Name)), Role);
 }

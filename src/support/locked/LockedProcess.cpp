@@ -1,10 +1,7 @@
 #include "support/locked/LockedProcess.h"
 
-#include <fcntl.h>
 #include <poll.h>
 #include <signal.h>
-#include <spawn.h>
-#include <sys/mman.h>
 #include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/wait.h>
@@ -22,8 +19,8 @@
 #include "support/files/modHostFiles.h"
 #include "support/files/modHostFilesSpelling.h"
 #include "support/locked/LivingProcesses.h"
-
-extern char** environ;
+#include "support/locked/LockedSpawn.h"
+#include "support/locked/SharedMemory.h"
 
 namespace neb {
 namespace {
@@ -32,148 +29,6 @@ using Clock = std::chrono::steady_clock;
 
 // Until it is ready, with all its libraries, on a slow disk.
 constexpr double SecondsToBeginIn = 60;
-// What is kept of the memory that both see, between one picture and the next.
-constexpr qint64 KeptBytes = 48 << 20;  // a photograph
-
-class Descriptor {
-  public:
-    explicit Descriptor(int Number = -1) : mNumber(Number) {}
-    ~Descriptor() { Close(); }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    int operator*() const { return mNumber; }
-    void Close() {
-        if (mNumber >= 0) ::close(std::exchange(mNumber, -1));
-    }
-
-  private:
-    int mNumber;
-};
-
-[[noreturn]] void ThrowCannotStart(const QString& Path, int Error) {
-    throw Fault(QStringLiteral("No picture or sound can be read: a part of the program cannot be "
-                               "started. (%1)")
-                    .arg(qt_error_string(Error)),
-                Path);
-}
-
-// Memory for both. Its length is fixed, so that neither can pull it from under the other.
-class SharedMemory {
-  public:
-    SharedMemory(const char* Name, qint64 Bytes, bool ForReading)
-        : mFile(::memfd_create(Name, MFD_CLOEXEC | MFD_ALLOW_SEALING)), mBytes(Bytes) {
-        if (*mFile < 0 || ::ftruncate(*mFile, Bytes) != 0) throw std::bad_alloc();
-        const int Mode = ForReading ? PROT_READ : PROT_READ | PROT_WRITE;
-        void* const At = ::mmap(nullptr, static_cast<size_t>(Bytes), Mode, MAP_SHARED, *mFile, 0);
-        if (At == MAP_FAILED) throw std::bad_alloc();
-        mAt = static_cast<uchar*>(At);
-        // What is ours to write is the other's to read alone.
-        const int Seals = F_SEAL_SHRINK | F_SEAL_GROW | (ForReading ? 0 : F_SEAL_FUTURE_WRITE);
-        if (::fcntl(*mFile, F_ADD_SEALS, Seals | F_SEAL_SEAL) != 0 &&
-            ::fcntl(*mFile, F_ADD_SEALS, F_SEAL_SHRINK | F_SEAL_GROW | F_SEAL_SEAL) != 0)
-            throw std::bad_alloc();
-    }
-    ~SharedMemory() { ::munmap(mAt, static_cast<size_t>(mBytes)); }
-    SharedMemory(const SharedMemory&) = delete;
-    SharedMemory& operator=(const SharedMemory&) = delete;
-
-    int File() const { return *mFile; }
-    uchar* At() const { return mAt; }
-    qint64 Bytes() const { return mBytes; }
-    // Its pages are there before they are written: one that cannot be had would end us.
-    void Put(qint64 At, QByteArrayView Its) {
-        if (Its.isEmpty()) return;
-        if (At < 0 || Its.size() > mBytes - At || !HasRoom(At, Its.size())) throw std::bad_alloc();
-        std::memcpy(mAt + At, Its.data(), static_cast<size_t>(Its.size()));
-    }
-    // Not by the mapping: pages that nobody has written would have to be made for it.
-    void Take(qint64 At, void* To, qint64 Length) const {
-        if (At < 0 || Length > mBytes - At) throw std::bad_alloc();
-        for (qint64 Done = 0; Done < Length;) {
-            const ssize_t Got = ::pread(*mFile, static_cast<char*>(To) + Done,
-                                        static_cast<size_t>(Length - Done), At + Done);
-            if (Got < 0 && errno == EINTR) continue;
-            if (Got <= 0) throw std::bad_alloc();
-            Done += Got;
-        }
-    }
-    void Trim() {
-        if (mBytes <= KeptBytes) return;
-        ::fallocate(*mFile, FALLOC_FL_PUNCH_HOLE | FALLOC_FL_KEEP_SIZE, KeptBytes,
-                    mBytes - KeptBytes);
-    }
-
-  private:
-    bool HasRoom(qint64 At, qint64 Length) const {
-        while (::fallocate(*mFile, 0, At, Length) != 0)
-            if (errno != EINTR) return errno == EOPNOTSUPP;
-        return true;
-    }
-
-    Descriptor mFile;
-    uchar* mAt = nullptr;
-    qint64 mBytes;
-};
-
-// The same for every user, whatever stands in the way of a library that looks for more.
-std::vector<QByteArray> EnvironmentOf() {
-    std::vector<QByteArray> All;
-    for (char** Each = environ; *Each; ++Each) {
-        const QByteArrayView Is(*Each);
-        if (!Is.startsWith("QT_") && !Is.startsWith("MALLOC_ARENA_MAX=")) All.emplace_back(*Each);
-    }
-    All.emplace_back("QT_QPA_PLATFORM=offscreen");
-    All.emplace_back("MALLOC_ARENA_MAX=1");
-    return All;
-}
-
-class SpawnActions {
-  public:
-    SpawnActions() {
-        ::posix_spawn_file_actions_init(&mActions);
-        ::posix_spawnattr_init(&mAttributes);
-        sigset_t None, All;
-        ::sigemptyset(&None);
-        ::sigfillset(&All);
-        ::posix_spawnattr_setsigmask(&mAttributes, &None);
-        ::posix_spawnattr_setsigdefault(&mAttributes, &All);
-        ::posix_spawnattr_setpgroup(&mAttributes, 0);  // Ctrl+C at a terminal is for us
-        ::posix_spawnattr_setflags(
-            &mAttributes, POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF | POSIX_SPAWN_SETPGROUP);
-    }
-    ~SpawnActions() {
-        ::posix_spawn_file_actions_destroy(&mActions);
-        ::posix_spawnattr_destroy(&mAttributes);
-    }
-    SpawnActions(const SpawnActions&) = delete;
-    SpawnActions& operator=(const SpawnActions&) = delete;
-
-    // By way of a copy above all places: what is given may lie at the place of another.
-    void Give(int From, int To) {
-        constexpr int Above = LockedOut + 1;
-        mHeld.push_back(std::make_unique<Descriptor>(::fcntl(From, F_DUPFD_CLOEXEC, Above)));
-        ::posix_spawn_file_actions_adddup2(&mActions, **mHeld.back(), To);
-    }
-    pid_t Start(const QByteArray& Path, const QByteArray& Role) {
-        ::posix_spawn_file_actions_addclosefrom_np(&mActions, LockedOut + 1);
-        QByteArray Program = Path, Argument = Role;
-        char* const Words[] = {Program.data(), Argument.data(), nullptr};
-        std::vector<QByteArray> Environment = EnvironmentOf();
-        std::vector<char*> Pointers;
-        for (QByteArray& Each : Environment) Pointers.push_back(Each.data());
-        Pointers.push_back(nullptr);
-        pid_t Pid = 0;
-        const int Error =
-            ::posix_spawn(&Pid, Path.constData(), &mActions, &mAttributes, Words, Pointers.data());
-        if (Error != 0) ThrowCannotStart(HostName(Path.constData()), Error);
-        return Pid;
-    }
-
-  private:
-    posix_spawn_file_actions_t mActions;
-    posix_spawnattr_t mAttributes;
-    std::vector<std::unique_ptr<Descriptor>> mHeld;
-};
 
 std::pair<int, int> MakeLine() {
     int Ends[2];
@@ -210,11 +65,9 @@ struct LockedProcess::State {
         const auto [Ours, Its] = MakeLine();
         const Descriptor ItsEnd(Its);
         Line = std::make_unique<Descriptor>(Ours);
-        SpawnActions How;
-        How.Give(*ItsEnd, LockedTalk);
-        How.Give(In.File(), LockedIn);
-        How.Give(Out.File(), LockedOut);
-        Pid = How.Start(HostBytes(Program.Path), Program.Role);
+        const GivenFile Files[] = {
+            {*ItsEnd, LockedTalk}, {In.File(), LockedIn}, {Out.File(), LockedOut}};
+        Pid = StartLocked(HostBytes(Program.Path), Program.Role, Files);
         NoteLiving(Pid);
     }
     ~State() {

@@ -1,0 +1,36 @@
+// Memory that the program and a locked process both see. Its length is fixed, so that neither can
+// pull it from under the other. For LockedProcess alone.
+#pragma once
+
+#include <QByteArrayView>
+
+#include "support/locked/Descriptor.h"
+
+namespace neb {
+
+class SharedMemory {
+  public:
+    // ForReading: the other writes it; else it can only read. Throws std::bad_alloc.
+    SharedMemory(const char* Name, qint64 Bytes, bool ForReading);
+    ~SharedMemory();
+    SharedMemory(const SharedMemory&) = delete;
+    SharedMemory& operator=(const SharedMemory&) = delete;
+
+    int File() const { return *mFile; }
+    uchar* At() const { return mAt; }
+    qint64 Bytes() const { return mBytes; }
+    // Both throw std::bad_alloc, where a plain look could end the program for want of memory.
+    void Put(qint64 At, QByteArrayView Its);
+    void Take(qint64 At, void* To, qint64 Length) const;
+    // Gives back what one large picture has taken.
+    void Trim();
+
+  private:
+    bool HasRoom(qint64 At, qint64 Length) const;
+
+    Descriptor mFile;
+    uchar* mAt = nullptr;
+    qint64 mBytes;
+};
+
+}  // namespace neb
