@@ -1,7 +1,5 @@
 #include "printing/PrintPicture.h"
 
-#include <QColorSpace>
-
 #include "pictures/ImgX.h"
 #include "pictures/formats/ByteView.h"
 #include "pictures/formats/PictureFaults.h"
@@ -20,8 +18,7 @@ using namespace jpeg;
 bool IsScreenProfile(QByteArrayView Segment) {
     constexpr qsizetype Before = 14;  // the name, and which part it is of how many
     if (Segment.size() <= Before || Segment[Before - 1] != 1) return false;
-    const auto Space = QColorSpace::fromIccProfile(Segment.sliced(Before).toByteArray());
-    return Space == QColorSpace(QColorSpace::SRgb);
+    return ThePictureReader().IsScreenProfile(Segment.sliced(Before).toByteArray());
 }
 
 // Walks over the markers of a JPEG to its end, and gathers what is in its way into a PDF.

@@ -80,10 +80,10 @@ const WordRule WordRules[] = {
     {QRegularExpression(QStringLiteral(
          "<(?:Magick|libheif/|openjpeg|tiff|turbojpeg|exiv2/|lcms2)|"
          "\\bQ(?:ImageReader|ImageIOHandler|ImageIOPlugin|Movie|SvgRenderer|SvgWidget)\\b|"
-         "\\b(?:fromData|loadFromData)\\s*\\(|\\bimageData\\s*\\(")),
-     QRegularExpression(
-         QStringLiteral("^pictures/(?:decoders/|metafiles/|workers/Warm(?:Decoders|Drawings)\\.cpp|"
-                        "notes/(?:HeifBlocks|JpegTurn|PictureNotes)\\.cpp)")),
+         "\\b(?:fromData|loadFromData|fromIccProfile)\\s*\\(|\\bimageData\\s*\\(")),
+     QRegularExpression(QStringLiteral("^pictures/(?:decoders/|metafiles/|workers/"
+                                       "(?:Warm(?:Decoders|Drawings)|ReadingHere)\\.cpp|"
+                                       "notes/(?:HeifBlocks|JpegTurn|PictureNotes)\\.cpp)")),
      "foreign pictures are looked at behind the locked door alone"},
     {QRegularExpression(QStringLiteral("<jpeglib")),
      QRegularExpression(

@@ -335,7 +335,8 @@ TEST(LayerRules, LibrariesThatReadPicturesAreLeftToTheLockedDoor) {
          {"#include <Magick++.h>", "#include <libheif/heif.h>", "#include <openjpeg.h>",
           "#include <tiffio.h>", "#include <turbojpeg.h>", "#include <exiv2/exiv2.hpp>",
           "#include <lcms2.h>", "#include <jpeglib.h>", "#include <QImageReader>",
-          "QMovie Film(Path);", "auto P = QImage::fromData(Bytes);", "Pixmap.loadFromData(Bytes);",
+          "QMovie Film(Path);", "QColorSpace::fromIccProfile(Bytes);",
+          "auto P = QImage::fromData(Bytes);", "Pixmap.loadFromData(Bytes);",
           "Drag.mimeData()->imageData();", "DecodeHere(Bytes);", "return TurnedJpeg(Jpeg, Turn);"})
         for (const char* Path : {"pictures/ImgX.cpp", "windows/home/a.cpp", "printing/a.cpp",
                                  "pictures/workers/ReadingLocked.cpp"})

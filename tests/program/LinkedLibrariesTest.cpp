@@ -1,5 +1,6 @@
 // What is loaded with the programs: none of the libraries that read foreign pictures, which are the
 // business of processes behind a locked door.
+#include <dlfcn.h>
 #include <gtest/gtest.h>
 
 #include <QProcess>
@@ -40,4 +41,13 @@ TEST(LinkedLibraries, TheyAreLoadedWithWhatStandsBehindTheDoor) {
     const QStringList Found = Decoders(Parts + QStringLiteral("neb-pictures"));
     for (const char* Name : {"libMagick", "libheif", "libtiff", "libopenjp2"})
         EXPECT_FALSE(Found.filter(QLatin1String(Name)).isEmpty()) << Name;
+}
+
+// A name that is defined here would go before that of the library, for all letters on the screen.
+TEST(LinkedLibraries, FontsAreOpenedByTheLibraryThatIsMadeForIt) {
+    void* const Opens = ::dlsym(RTLD_DEFAULT, "FT_New_Face");
+    Dl_info Where = {};
+    ASSERT_TRUE(Opens && ::dladdr(Opens, &Where) != 0);
+    EXPECT_NE(std::string(Where.dli_fname).find("libfreetype"), std::string::npos)
+        << Where.dli_fname;
 }

@@ -23,6 +23,8 @@ class PictureReader {
     virtual std::optional<QByteArray> Turned(const QByteArray& Jpeg, PictureTurn Turn) = 0;
     virtual QByteArray NotesFor(QSize Pixels, const QByteArray& Source, bool KeepsPlace) = 0;
     virtual QByteArray WithoutPlace(const QByteArray& Jpeg) = 0;
+    // Whether an ICC profile means the colours of the screen, sRGB.
+    virtual bool IsScreenProfile(const QByteArray& Profile) = 0;
 };
 
 // The one of the program, unless a test has put another in its place.

@@ -1,5 +1,7 @@
 #include "pictures/workers/ReadingHere.h"
 
+#include <QColorSpace>
+
 #include "pictures/notes/JpegTurn.h"
 #include "pictures/notes/PictureNotes.h"
 
@@ -19,6 +21,10 @@ QByteArray ReadingHere::NotesFor(QSize Pixels, const QByteArray& Source, bool Ke
 
 QByteArray ReadingHere::WithoutPlace(const QByteArray& Jpeg) {
     return neb::WithoutPlace(Jpeg);
+}
+
+bool ReadingHere::IsScreenProfile(const QByteArray& Profile) {
+    return QColorSpace::fromIccProfile(Profile) == QColorSpace(QColorSpace::SRgb);
 }
 
 }  // namespace neb

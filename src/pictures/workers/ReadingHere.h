@@ -12,6 +12,7 @@ class ReadingHere : public PictureReader {
     std::optional<QByteArray> Turned(const QByteArray& Jpeg, PictureTurn Turn) override;
     QByteArray NotesFor(QSize Pixels, const QByteArray& Source, bool KeepsPlace) override;
     QByteArray WithoutPlace(const QByteArray& Jpeg) override;
+    bool IsScreenProfile(const QByteArray& Profile) override;
 };
 
 }  // namespace neb

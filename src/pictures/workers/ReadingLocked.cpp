@@ -140,6 +140,10 @@ QByteArray ReadingLocked::WithoutPlace(const QByteArray& Jpeg) {
     return BytesOf(mPictures, {Talk::DropPlace, Jpeg}).value_or(QByteArray());
 }
 
+bool ReadingLocked::IsScreenProfile(const QByteArray& Profile) {
+    return BytesOf(mPictures, {Talk::Profile, Profile}).has_value();
+}
+
 QByteArray ReadingLocked::SvgOf(const QByteArray& Emf) {
     return BytesOf(mMetafiles, {Talk::Convert, Emf}).value_or(QByteArray());
 }

@@ -21,6 +21,7 @@ class ReadingLocked : public PictureReader {
     std::optional<QByteArray> Turned(const QByteArray& Jpeg, PictureTurn Turn) override;
     QByteArray NotesFor(QSize Pixels, const QByteArray& Source, bool KeepsPlace) override;
     QByteArray WithoutPlace(const QByteArray& Jpeg) override;
+    bool IsScreenProfile(const QByteArray& Profile) override;
 
     // An enhanced metafile as SVG: for who draws it, wherever that is. Throws Fault.
     QByteArray SvgOf(const QByteArray& Emf);

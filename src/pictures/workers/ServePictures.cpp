@@ -114,6 +114,8 @@ class Worker {
             return Bytes(
                 mReader.NotesFor({static_cast<int>(A), static_cast<int>(B)}, File, C != 0));
         if (Request.Is(Talk::DropPlace)) return Bytes(mReader.WithoutPlace(File));
+        if (Request.Is(Talk::Profile))
+            return mReader.IsScreenProfile(File) ? Bytes({}) : LockedMessage(Talk::Nothing);
         std::_Exit(1);
     }
     LockedMessage Decoded(const QByteArray& File, bool WithExtraFormats, bool Asks) {

@@ -15,6 +15,7 @@ enum class Talk : std::uint32_t {
     Turn,                   // whether mirrored, quarters
     Notes,                  // width, height, whether the place stays
     DropPlace,
+    Profile,  // whether it is the screen's: Bytes, none of them, or Nothing
     Convert,  // an enhanced metafile into SVG
 
     // Questions, and what is said to them.
