@@ -15,7 +15,7 @@ constexpr int SlideSelector = 3;
 // What can be shown: the decoders take no more memory than for this.
 constexpr qint64 MostKeptPixels = 180'000'000;
 // The coefficients stay in memory twice while they change places.
-constexpr qint64 TurnedPixelBytes = 12, MostTurnedPixels = 60'000'000;
+constexpr qint64 MostTurnedPixels = 60'000'000;
 
 bool Fits(QSize Size, const PictureKeeping& Keeping) {
     return FitSize(Size, Keeping.Limit) == Size && PixelCount(Size) <= MostKeptPixels;
@@ -50,7 +50,6 @@ std::optional<QByteArray> Unharmed(const QByteArray& Jpeg, PictureTurn Turned,
     const QByteArray Alone = PictureAlone(Jpeg, *Parts, Keeping);
     if (Turn.IsNone()) return Orientation == 1 ? Alone : SaidUpright(Alone);
     if (PixelCount(Upright) > MostTurnedPixels) return std::nullopt;
-    const DecodeBudget Budget(Upright, PixelCount(Upright) * TurnedPixelBytes);
     const auto Lying = ThePictureReader().Turned(Alone, Turn);
     return Lying ? std::optional(SaidUpright(*Lying)) : std::nullopt;
 }

@@ -147,13 +147,13 @@ LockedMessage OneReading::Next() {
 }
 
 bool OneReading::IsServed(const LockedMessage& Said) {
-    if (mTask.What != Talk::Decode) return false;
-    if (Said.Is(Talk::AskNeeded)) return TellNeeded(SizeIn(Said, 0));
+    const bool Decodes = mTask.What == Talk::Decode;
+    if (!Decodes && mTask.What != Talk::Turn) return false;
     if (Said.Is(Talk::AskMemory)) return GiveMemory(SizeIn(Said, 0), Said.Numbers[2]);
-    if (Said.Is(Talk::AskSvg)) return GiveSvg(Said.Numbers[0]);
-    if (!Said.Is(Talk::Release) || !mHeld) return false;
-    LetGo();
-    return true;
+    if (Said.Is(Talk::Release) && mHeld) return LetGo(), true;
+    if (!Decodes) return false;
+    if (Said.Is(Talk::AskNeeded)) return TellNeeded(SizeIn(Said, 0));
+    return Said.Is(Talk::AskSvg) && GiveSvg(Said.Numbers[0]);
 }
 
 // Of what is too large no caller knows how much he wants: it is refused when it asks for memory.
@@ -178,7 +178,8 @@ bool OneReading::GiveMemory(QSize Size, qint64 Bytes) {
     mProcess.Allow(mCosts.For(mTask.File.size(), mMostAsked));  // before it goes on
     Say(LockedMessage(Talk::Granted));
     // who says how much he needs gets less than all, and how much is not known yet
-    if (!mTask.Needed && IsPossible(Size)) mAhead.Take(PixelCount(Size) * 4, Bytes);
+    const bool WantsAll = mTask.What == Talk::Decode && !mTask.Needed;
+    if (WantsAll && IsPossible(Size)) mAhead.Take(PixelCount(Size) * 4, Bytes);
     return true;
 }
 

@@ -15,7 +15,6 @@ enum class Talk : std::uint32_t {
     Turn,                   // whether mirrored, quarters
     Notes,                  // width, height, whether the place stays
     DropPlace,
-    Profile,  // whether it is the screen's: Bytes, none of them, or Nothing
     Convert,  // an enhanced metafile into SVG
 
     // Questions, and what is said to them.
@@ -32,8 +31,11 @@ enum class Talk : std::uint32_t {
     Picture,  // width, height, full width, full height; the pixels are in Out
     Bytes,    // how many, in Out
     Nothing,
-    Problem  // the fault's number, bytes of its sentence, in Out; also said to AskSvg, then in In
-             // from the place that the third number names
+    Problem,  // the fault's number, bytes of its sentence, in Out; also said to AskSvg, then in In
+              // from the place that the third number names
+
+    // A further request: whether a colour profile is the screen's. Bytes, none of them, or Nothing.
+    Profile
 };
 
 // Where each message has the ticket of its request: what is left of an earlier one is no answer.
