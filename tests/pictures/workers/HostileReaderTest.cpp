@@ -107,13 +107,13 @@ TEST_F(HostileReader, ThatAnswersWithWrongNumbersIsOneUnreadablePicture) {
     Begin();
     const QByteArray Held = "hold say ";
     for (const QByteArray& Each :
-         {Say(Talk::Picture, "10 10 10 10"),  // no memory has been asked for
+         {Say(Talk::Picture, "8000 8000 8000 8000"),  // no memory has been asked for
           Say(Talk::Picture, "10 10 5 10", Held), Say(Talk::Picture, "0 10 10 10", Held),
           Say(Talk::Picture, "-10 -10 10 10", Held),
           Say(Talk::Picture, "50000 50000 50000 50000", Held),
           Say(Talk::Picture, "2147483647 2147483647 2147483647 2147483647", Held),
           Say(Talk::Picture, "4294967306 10 4294967306 10", Held), Say(Talk::Problem, "0 -1"),
-          Say(Talk::Problem, "0 601"), Say(Talk::Problem, "0 9223372036854775807")})
+          Say(Talk::Problem, "0 4001"), Say(Talk::Problem, "0 9223372036854775807")})
         ExpectOneFault(Each, Nonsense);
     ExpectMemoryIsFree();
 }
