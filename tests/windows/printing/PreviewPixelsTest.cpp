@@ -26,7 +26,7 @@ class PreviewPixels : public PreviewRig {
     QRgb Dot(const QImage& Image, QPoint At) { return Image.pixel(At * Ratio()); }
     static void WaitOut(Heartbeat& Heart, int Beats) {
         const int From = Heart.Beats();
-        EXPECT_TRUE(QTest::qWaitFor([&] { return Heart.Beats() >= From + Beats; }, 10000));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return Heart.Beats() >= From + Beats; }, 30000));
     }
 };
 
