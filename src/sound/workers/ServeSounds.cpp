@@ -74,6 +74,8 @@ class Worker {
         return Problem(Reason.What());
     } catch (const std::bad_alloc&) {
         return Problem(QStringLiteral("There is not enough memory for the sound."));
+    } catch (const std::exception&) {
+        return Problem(QStringLiteral("The sound is damaged and cannot be played."));
     }
     LockedMessage Do(const LockedMessage& Request) {
         const auto& [A, B, C, D, E, F] = Request.Numbers;

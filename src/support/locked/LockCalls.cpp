@@ -30,9 +30,9 @@ const Calls Always[] = {
     {false,
      {"clock_gettime", "clock_gettime64", "clock_getres", "clock_getres_time64", "gettimeofday",
       "time", "times", "getrusage"}},
-    // an end, by itself or at a fault: abort() holds back other signals first
+    // an end, by itself or at a fault
     {false,
-     {"exit", "exit_group", "rt_sigprocmask", "rt_sigreturn", "sigreturn", "restart_syscall"}},
+     {"exit", "exit_group", "rt_sigreturn", "sigreturn", "restart_syscall"}},
     // locks between threads, which libraries use with one thread too
     {false, {"futex", "futex_time64", "sched_yield"}},
     // who it is, what machine it is on and a random number: nothing of the user's is told
@@ -49,6 +49,9 @@ struct Refusal {
     int Error;
 };
 const Refusal Refused[] = {
+    // where no /proc tells where the program lies, Qt asks for the folder that it was started in:
+    // there is none any more
+    {"getcwd", ENOENT},
     // the C library asks what a stream is before its first byte: there is no stream any more
     {"newfstatat", EBADF}, {"fstat", EBADF}, {"fstat64", EBADF},
     {"fstatat64", EBADF},  {"statx", EBADF},
@@ -125,8 +128,12 @@ void RefuseToTellOfTerminals(Filter& Its) {
     Its.Refuse("ioctl", ENOTTY, {Is(1, TCGETS)});
 }
 
-// abort(), and nothing else of a signal: to itself alone.
+// abort(), and nothing else of a signal: to itself alone. No signal is held back, least of all the
+// one that its time is up; abort() would, but does without.
 void AllowAbort(Filter& Its) {
+    Its.Allow("rt_sigprocmask", {Is(0, SIG_UNBLOCK)});
+    for (const auto How : {SIG_BLOCK, SIG_SETMASK})
+        Its.Refuse("rt_sigprocmask", EPERM, {Is(0, static_cast<std::uint64_t>(How))});
     const auto Me = static_cast<std::uint64_t>(::getpid());
     Its.Allow("tgkill", {Is(0, Me), Is(2, SIGABRT)});
 }

@@ -38,7 +38,7 @@ QStringList LockLines(const LockReport& Report) {
         Line("Privileges", Report.NoNewPrivileges, QStringLiteral("none can be gained"),
              "NOT FIXED: more could be gained"),
         Line("Limits", Report.Limits,
-             QStringLiteral("no file opened or written; memory and time from the picture's size"),
+             QStringLiteral("no file opened or written; memory and time from the file's size"),
              "NOT SET"),
         Line("Files", Report.Landlock > 0,
              QStringLiteral("closed by Landlock, version %1").arg(Report.Landlock),

@@ -108,16 +108,24 @@ struct LockedProcess::State {
               : Signal == SIGKILL && !IsKilledByUs ? LockedEnd::Killed
                                                    : LockedEnd::Crashed;
     }
-    // Whether there is something to read before the time is up.
+    // Whether there is something to read before the time is up. One that has not worked at all for a
+    // while, and has nothing to wait for but us, never will.
     bool Wait() {
+        constexpr std::chrono::seconds Asleep(10);
+        double Worked = ProcessorSecondsOf(Pid);
+        auto Since = Clock::now();
         for (;;) {
-            const auto Left =
-                std::chrono::duration_cast<std::chrono::milliseconds>(Until - Clock::now()).count();
+            using std::chrono::milliseconds;
+            const auto Left = std::chrono::duration_cast<milliseconds>(Until - Clock::now()).count();
+            constexpr qint64 BetweenLooksMs = 500;
             pollfd Poll = {**Line, POLLIN, 0};
-            const int Found =
-                ::poll(&Poll, 1, static_cast<int>(std::clamp<qint64>(Left, 0, 1 << 30)));
-            if (Found > 0) return true;
-            if (Found == 0 && Left <= 0) return false;
+            const auto Most = static_cast<int>(std::clamp<qint64>(Left, 0, BetweenLooksMs));
+            if (::poll(&Poll, 1, Most) > 0) return true;
+            if (const double Now = ProcessorSecondsOf(Pid); Now > Worked) {
+                Worked = Now;
+                Since = Clock::now();
+            }
+            if (Left <= 0 || (IsReady && Clock::now() - Since > Asleep)) return false;
         }
     }
     std::optional<LockedMessage> Receive() {
@@ -151,6 +159,7 @@ struct LockedProcess::State {
     pid_t Pid = 0;
     int Status = 0;
     bool IsReaped = false, IsKilledByUs = false;
+    bool IsReady = false;  // until then it may wait for a slow disk
     bool AtWork = true;
     LockedEnd Why = LockedEnd::None;
     LockReport Report;
@@ -175,6 +184,7 @@ LockedProcess::LockedProcess(const LockedProgram& Program) {
         mState->Report.Limits && SetSoftLimit(mState->Pid, RLIMIT_CPU, RLIM_INFINITY);
     mState->OwnSpace = Ready->Numbers[1];
     mState->AtWork = false;
+    mState->IsReady = true;
 }
 
 LockedProcess::~LockedProcess() = default;
@@ -204,7 +214,6 @@ void LockedProcess::Take(qint64 At, void* To, qint64 Bytes) const {
 }
 
 void LockedProcess::LetGoOfMemory() {
-    mState->In.Trim();
     mState->Out.Trim();
 }
 

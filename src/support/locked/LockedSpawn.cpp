@@ -5,6 +5,7 @@
 #include <spawn.h>
 
 #include <memory>
+#include <new>
 #include <vector>
 
 #include "support/Fault.h"
@@ -29,10 +30,13 @@ std::vector<QByteArray> EnvironmentOf() {
     std::vector<QByteArray> All;
     for (char** Each = environ; *Each; ++Each) {
         const QByteArrayView Is(*Each);
-        if (!Is.startsWith("QT_") && !Is.startsWith("MALLOC_ARENA_MAX=")) All.emplace_back(*Each);
+        const bool IsOurs = Is.startsWith("QT_") || Is.startsWith("MALLOC_ARENA_MAX=") ||
+                            Is.startsWith("XDG_RUNTIME_DIR=");
+        if (!IsOurs) All.emplace_back(*Each);
     }
     All.emplace_back("QT_QPA_PLATFORM=offscreen");
     All.emplace_back("MALLOC_ARENA_MAX=1");
+    All.emplace_back("XDG_RUNTIME_DIR=/");  // without one Qt would make one
     return All;
 }
 
@@ -61,6 +65,7 @@ class SpawnActions {
     void Give(int From, int To) {
         constexpr int Above = LockedOut + 1;
         mHeld.push_back(std::make_unique<Descriptor>(::fcntl(From, F_DUPFD_CLOEXEC, Above)));
+        if (**mHeld.back() < 0) throw std::bad_alloc();
         ::posix_spawn_file_actions_adddup2(&mActions, **mHeld.back(), To);
     }
     pid_t Start(const QByteArray& Path, const QByteArray& Role) {

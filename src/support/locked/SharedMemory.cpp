@@ -7,6 +7,8 @@
 #include <cstring>
 #include <new>
 
+#include "support/Fault.h"
+
 namespace neb {
 namespace {
 
@@ -17,6 +19,9 @@ constexpr qint64 KeptBytes = 48 << 20;  // a photograph
 
 SharedMemory::SharedMemory(const char* Name, qint64 Bytes, bool ForReading)
     : mFile(::memfd_create(Name, MFD_CLOEXEC | MFD_ALLOW_SEALING)), mBytes(Bytes) {
+    if (*mFile < 0 && (errno == ENOSYS || errno == EPERM || errno == EACCES))
+        throw Fault(QStringLiteral("No picture or sound can be read: this system gives no memory "
+                                   "that two processes can share."));
     if (*mFile < 0 || ::ftruncate(*mFile, Bytes) != 0) throw std::bad_alloc();
     const int Mode = ForReading ? PROT_READ : PROT_READ | PROT_WRITE;
     void* const Map = ::mmap(nullptr, static_cast<size_t>(Bytes), Mode, MAP_SHARED, *mFile, 0);

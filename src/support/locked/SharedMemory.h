@@ -10,7 +10,8 @@ namespace neb {
 
 class SharedMemory {
   public:
-    // ForReading: the other writes it; else it can only read. Throws std::bad_alloc.
+    // ForReading: the other writes it; else it can only read. Throws std::bad_alloc, or Fault where
+    // the system has no such memory.
     SharedMemory(const char* Name, qint64 Bytes, bool ForReading);
     ~SharedMemory();
     SharedMemory(const SharedMemory&) = delete;

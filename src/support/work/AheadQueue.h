@@ -15,6 +15,14 @@
 
 namespace neb {
 
+// The threads of all queues. Not the toolkit's own: with those it paints large pictures, and a window
+// would stand still until the work on them has ended. Never ended: they may be at work when all else
+// is over.
+inline QThreadPool& AheadThreads() {
+    static auto* const Its = new QThreadPool;
+    return *Its;
+}
+
 template <class Item, class Result>
 class AheadQueue {
   public:
@@ -28,7 +36,7 @@ class AheadQueue {
         mShared->Items = std::move(Items);
         mShared->Work = std::move(Work);
         mShared->Slots.resize(mShared->Items.size());
-        const int Ahead = Window > 0 ? Window : QThreadPool::globalInstance()->maxThreadCount() + 2;
+        const int Ahead = Window > 0 ? Window : AheadThreads().maxThreadCount() + 2;
         for (int I = 0; I < Ahead; ++I) BeginNext();
     }
     // Leaves at once: what is not begun never will be, what runs ends unheard.
@@ -96,7 +104,7 @@ class AheadQueue {
 
     void BeginNext() {
         if (mBegun == mShared->Items.size()) return;
-        QThreadPool::globalInstance()->start(
+        AheadThreads().start(
             [Mine = mShared, Index = mBegun] { Mine->Run(Index); });
         ++mBegun;
     }

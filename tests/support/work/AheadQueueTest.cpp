@@ -87,12 +87,12 @@ TEST(AheadQueue, LeavingInTheMiddleIsQuickAndTheRestIsNeverBegun) {
         Time.start();
     }
     EXPECT_LT(Time.elapsed(), 600);
-    QThreadPool::globalInstance()->waitForDone();
-    EXPECT_LE(*Begun, QThreadPool::globalInstance()->maxThreadCount());
+    AheadThreads().waitForDone();
+    EXPECT_LE(*Begun, AheadThreads().maxThreadCount());
 }
 
 TEST(AheadQueue, UsesSeveralProcessors) {
-    QThreadPool& Pool = *QThreadPool::globalInstance();
+    QThreadPool& Pool = AheadThreads();
     const int Before = Pool.maxThreadCount();
     Pool.setMaxThreadCount(std::max(2, Before));
     auto Threads = std::make_shared<std::atomic<int>>(0);
