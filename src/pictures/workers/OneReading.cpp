@@ -3,6 +3,7 @@
 #include <atomic>
 #include <chrono>
 #include <future>
+#include <system_error>
 
 #include "pictures/formats/DecodeHost.h"
 #include "pictures/formats/PictureFaults.h"
@@ -65,10 +66,14 @@ void TakePixels(const LockedProcess& Process, QImage& Picture) {
     uchar* const Pixels = Picture.bits();
     const qint64 All = Picture.sizeInBytes(), Half = All > Large ? All / 8 * 4 : 0;
     std::future<void> Beside;
-    if (Half > 0)
-        Beside = std::async(std::launch::async, [&] { TakePart(Process, Pixels, 0, Half); });
+    try {
+        if (Half > 0)
+            Beside = std::async(std::launch::async, [&] { TakePart(Process, Pixels, 0, Half); });
+    } catch (const std::system_error&) {  // no thread to be had
+        TakePart(Process, Pixels, 0, Half);
+    }
     TakePart(Process, Pixels, Half, All);
-    if (Half > 0) Beside.get();
+    if (Beside.valid()) Beside.get();
 }
 
 }  // namespace

@@ -168,7 +168,8 @@ class SoundsLocked::Sound : public CountedSound {
     bool Fetch(qint64 Asked) {
         if (std::exchange(mEnds, false)) return false;
         const qint64 Step = std::min(Asked, SoundOutBytes / FrameBytes());
-        const qint64 Block = std::min(Step * mSteps, mFrames - mNext);
+        const qint64 Block =
+            std::min({Step * mSteps, SoundOutBytes / FrameBytes(), mFrames - mNext});
         const auto Said =
             mLine->Ask(LockedMessage(SoundTalk::Read, {std::exchange(mGoTo, -1), Block, Step}));
         const qint64 Count = Said ? Taken(*Said, Block) : 0;
@@ -183,9 +184,10 @@ class SoundsLocked::Sound : public CountedSound {
         const qint64 Count = Said.Numbers[0];
         if (!Said.Is(SoundTalk::Samples) || Count < 0 || Count > Most)
             return mLine->EndAsNonsense(), 0;
+        const uchar* const From = mLine->Written(0, Count * FrameBytes(), SoundOutBytes);
+        if (!From) return 0;
         mBlock.resize(static_cast<size_t>(Count * mChannels));
-        std::memcpy(mBlock.data(), mLine->Written(0, Count * FrameBytes(), SoundOutBytes),
-                    static_cast<size_t>(Count * FrameBytes()));
+        std::memcpy(mBlock.data(), From, static_cast<size_t>(Count * FrameBytes()));
         return Count;
     }
     qint64 FrameBytes() const { return mChannels * static_cast<qint64>(sizeof(float)); }

@@ -13,6 +13,7 @@ namespace {
 struct Living {
     std::mutex Lock;
     std::set<pid_t> All;
+    bool AreOver = false;
 };
 
 // Never ended: threads may still be at work when all else is.
@@ -23,6 +24,7 @@ Living& TheLiving() {
 
 void EndAll() {
     const std::lock_guard Lock(TheLiving().Lock);
+    TheLiving().AreOver = true;
     for (const pid_t Each : TheLiving().All) ::kill(Each, SIGKILL);
 }
 
@@ -32,6 +34,8 @@ void NoteLiving(pid_t Pid) {
     AtProcessEnd(&EndAll);
     const std::lock_guard Lock(TheLiving().Lock);
     TheLiving().All.insert(Pid);
+    // A second try for what has just been ended would be waited for at the end of the program.
+    if (TheLiving().AreOver) ::kill(Pid, SIGKILL);
 }
 
 void ForgetLiving(pid_t Pid) {

@@ -71,7 +71,8 @@ struct LockedProcess::State {
         NoteLiving(Pid);
     }
     ~State() {
-        if (AtWork) ::kill(Pid, SIGKILL);
+        // once it has been waited for, its number may be another's
+        if (AtWork && !IsReaped) ::kill(Pid, SIGKILL);
         Line->Close();
         Reap();
     }

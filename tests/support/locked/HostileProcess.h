@@ -68,7 +68,8 @@ inline Outcome OutcomeOf(const Task& Its) {
 // For the messages of tests.
 namespace neb {
 inline void PrintTo(LockedEnd End, std::ostream* To) {
-    constexpr const char* Names[] = {"None", "Crashed", "Forbidden", "TooLong", "Nonsense"};
+    constexpr const char* Names[] = {"None",   "Crashed", "Forbidden",
+                                     "Killed", "TooLong", "Nonsense"};
     *To << Names[static_cast<int>(End)];
 }
 inline void PrintTo(const LockReport& Is, std::ostream* To) {

@@ -8,9 +8,11 @@
 #include <QFile>
 #include <cerrno>
 #include <csignal>
+#include <cstdlib>
 
 #include "support/Fault.h"
 #include "support/locked/HostileProcess.h"
+#include "support/work/ProcessEnd.h"
 
 namespace neb {
 namespace {
@@ -48,6 +50,20 @@ TEST(LockedProcess, StaysAsItEnded) {
     Process.EndBecause(LockedEnd::Nonsense);
     EXPECT_EQ(LockedEnd::Crashed, Process.End());
     EXPECT_FALSE(Process.StaysQuiet());
+}
+
+TEST(LockedProcess, EndsAtOnceWhereTheProgramEnds) {
+    const auto StartsLate = [] {
+        const LockedProcess First(HostileProgram());
+        EndProcess(0);
+        try {
+            const LockedProcess Late(HostileProgram());
+        } catch (const Fault&) {
+            std::_Exit(0);
+        }
+        std::_Exit(1);
+    };
+    EXPECT_EXIT(StartsLate(), ::testing::ExitedWithCode(0), "");
 }
 
 TEST(LockedProcess, CannotChangeWhatTheMemoryOfBothIs) {
