@@ -90,7 +90,8 @@ class Worker {
     }
 
   private:
-    static constexpr qint64 LargeBytes = 4 << 20;
+    // Of a photograph the next one has use for the same memory.
+    static constexpr qint64 LargeBytes = 24 << 20;
 
     LockedMessage AnswerTo(const LockedMessage& Request) try {
         return Do(Request);

@@ -31,8 +31,7 @@ const Calls Always[] = {
      {"clock_gettime", "clock_gettime64", "clock_getres", "clock_getres_time64", "gettimeofday",
       "time", "times", "getrusage"}},
     // an end, by itself or at a fault
-    {false,
-     {"exit", "exit_group", "rt_sigreturn", "sigreturn", "restart_syscall"}},
+    {false, {"exit", "exit_group", "rt_sigreturn", "sigreturn", "restart_syscall"}},
     // locks between threads, which libraries use with one thread too
     {false, {"futex", "futex_time64", "sched_yield"}},
     // who it is, what machine it is on and a random number: nothing of the user's is told
@@ -53,8 +52,11 @@ const Refusal Refused[] = {
     // there is none any more
     {"getcwd", ENOENT},
     // the C library asks what a stream is before its first byte: there is no stream any more
-    {"newfstatat", EBADF}, {"fstat", EBADF}, {"fstat64", EBADF},
-    {"fstatat64", EBADF},  {"statx", EBADF},
+    {"newfstatat", EBADF},
+    {"fstat", EBADF},
+    {"fstat64", EBADF},
+    {"fstatat64", EBADF},
+    {"statx", EBADF},
 };
 
 class Filter {

@@ -100,7 +100,9 @@ struct LockedPool::Shared : std::enable_shared_from_this<Shared> {
     }
     void AddOne() noexcept {
         try {
-            Came(Make());
+            auto Made = Make();
+            Made->MakeRoom();
+            Came(std::move(Made));
         } catch (...) {  // who needs one is told
             Came(nullptr);
         }

@@ -109,15 +109,16 @@ struct LockedProcess::State {
               : Signal == SIGKILL && !IsKilledByUs ? LockedEnd::Killed
                                                    : LockedEnd::Crashed;
     }
-    // Whether there is something to read before the time is up. One that has not worked at all for a
-    // while, and has nothing to wait for but us, never will.
+    // Whether there is something to read before the time is up. One that has not worked at all for
+    // a while, and has nothing to wait for but us, never will.
     bool Wait() {
         constexpr std::chrono::seconds Asleep(10);
         double Worked = ProcessorSecondsOf(Pid);
         auto Since = Clock::now();
         for (;;) {
             using std::chrono::milliseconds;
-            const auto Left = std::chrono::duration_cast<milliseconds>(Until - Clock::now()).count();
+            const auto Left =
+                std::chrono::duration_cast<milliseconds>(Until - Clock::now()).count();
             constexpr qint64 BetweenLooksMs = 500;
             pollfd Poll = {**Line, POLLIN, 0};
             const auto Most = static_cast<int>(std::clamp<qint64>(Left, 0, BetweenLooksMs));
@@ -212,6 +213,10 @@ void LockedProcess::Put(qint64 At, QByteArrayView Bytes) {
 
 void LockedProcess::Take(qint64 At, void* To, qint64 Bytes) const {
     mState->Out.Take(At, To, Bytes);
+}
+
+void LockedProcess::MakeRoom() {
+    mState->Out.MakeRoom();
 }
 
 void LockedProcess::LetGoOfMemory() {

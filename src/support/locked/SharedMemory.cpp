@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <sys/mman.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <new>
@@ -20,8 +21,9 @@ constexpr qint64 KeptBytes = 48 << 20;  // a photograph
 SharedMemory::SharedMemory(const char* Name, qint64 Bytes, bool ForReading)
     : mFile(::memfd_create(Name, MFD_CLOEXEC | MFD_ALLOW_SEALING)), mBytes(Bytes) {
     if (*mFile < 0 && (errno == ENOSYS || errno == EPERM || errno == EACCES))
-        throw Fault(QStringLiteral("No picture or sound can be read: this system gives no memory "
-                                   "that two processes can share."));
+        throw Fault(
+            QStringLiteral("No picture or sound can be read: this system gives no memory "
+                           "that two processes can share."));
     if (*mFile < 0 || ::ftruncate(*mFile, Bytes) != 0) throw std::bad_alloc();
     const int Mode = ForReading ? PROT_READ : PROT_READ | PROT_WRITE;
     void* const Map = ::mmap(nullptr, static_cast<size_t>(Bytes), Mode, MAP_SHARED, *mFile, 0);
@@ -55,6 +57,11 @@ void SharedMemory::Take(qint64 At, void* To, qint64 Length) const {
         if (Got <= 0) throw std::bad_alloc();
         Done += Got;
     }
+}
+
+// Where there is none it is taken when it is needed.
+void SharedMemory::MakeRoom() const {
+    (void)HasRoom(0, std::min(KeptBytes, mBytes));
 }
 
 void SharedMemory::Trim() {

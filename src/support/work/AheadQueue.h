@@ -15,9 +15,9 @@
 
 namespace neb {
 
-// The threads of all queues. Not the toolkit's own: with those it paints large pictures, and a window
-// would stand still until the work on them has ended. Never ended: they may be at work when all else
-// is over.
+// The threads of all queues. Not the toolkit's own: with those it paints large pictures, and a
+// window would stand still until the work on them has ended. Never ended: they may be at work when
+// all else is over.
 inline QThreadPool& AheadThreads() {
     static auto* const Its = new QThreadPool;
     return *Its;
@@ -104,8 +104,7 @@ class AheadQueue {
 
     void BeginNext() {
         if (mBegun == mShared->Items.size()) return;
-        AheadThreads().start(
-            [Mine = mShared, Index = mBegun] { Mine->Run(Index); });
+        AheadThreads().start([Mine = mShared, Index = mBegun] { Mine->Run(Index); });
         ++mBegun;
     }
     Slot WaitForSlot() {
