@@ -32,7 +32,7 @@ std::set<long> Known() {
             SYS_getpid, SYS_gettid, SYS_getuid, SYS_geteuid, SYS_getgid, SYS_getegid,
             SYS_sched_getaffinity, SYS_sysinfo, SYS_uname, SYS_getcpu, SYS_getrandom,
             // answered with an error
-            SYS_newfstatat, SYS_fstat, SYS_statx
+            SYS_newfstatat, SYS_fstat, SYS_statx, SYS_getcwd
     };
 }
 
@@ -69,6 +69,20 @@ TEST(LockCalls, ThatAskWhatAStreamIsGetNoAnswer) {
     for (const long Call : {SYS_newfstatat, SYS_fstat, SYS_statx})
         EXPECT_EQ(EBADF, OutcomeOf(Process, {Deed::Call, {Call, AT_FDCWD, AtText}, "/"}).Error);
     EXPECT_EQ(ENOTTY, OutcomeOf(Process, {Deed::Call, {SYS_ioctl, 2, TCGETS}}).Error);
+}
+
+TEST(LockCalls, ThatAskForTheFolderFindNone) {
+    SKIP_WHERE_WATCHED();
+    const Told Alone(OnlyThis, "filter");
+    EXPECT_EQ(ENOENT, OutcomeOf({Deed::Call, {SYS_getcwd, 0, 0}}).Error);
+}
+
+// Among them the one that says that its time is up.
+TEST(LockCalls, ThatHoldSignalsBackAreRefused) {
+    SKIP_WHERE_WATCHED();
+    const Told Alone(OnlyThis, "filter");
+    for (const long How : {SIG_BLOCK, SIG_SETMASK})
+        EXPECT_EQ(EPERM, OutcomeOf({Deed::Call, {SYS_rt_sigprocmask, How, 0, 0, 8}}).Error);
 }
 
 // What each measure keeps shut where it is the only one that a kernel has.
