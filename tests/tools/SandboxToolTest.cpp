@@ -1,11 +1,14 @@
 // nebctl sandbox.
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QProcess>
 
 #include "ToolRun.h"
+#include "harness/TempFolder.h"
 
 namespace neb {
 namespace {
@@ -22,8 +25,7 @@ TEST(SandboxTool, EachKindOfReaderIsToldWithAllMeasures) {
     EXPECT_NE(Run.Code, ExitFailed) << Run.Err;
     for (const char* Name : {"Pictures\n", "Drawings\n", "Metafiles\n", "Sounds\n"})
         EXPECT_NE(Run.Out.find(Name), std::string::npos) << Name;
-    for (const char* What :
-         {"System calls", "Privileges", "Limits", "Files", "Root", "Network"})
+    for (const char* What : {"System calls", "Privileges", "Limits", "Files", "Root", "Network"})
         EXPECT_NE(Run.Out.find(What), std::string::npos) << What;
 }
 
@@ -42,11 +44,25 @@ TEST(SandboxTool, TheExitCodeSaysWhetherALockIsMissing) {
     EXPECT_EQ(AllAreFull ? ExitDone : ExitFound, Run.Code);
 }
 
+// Where the user has no folder for a session's files, a reader makes none.
+TEST(SandboxTool, NothingIsLeftBehindByAReader) {
+    const TempFolder Empty;
+    QProcess Ctl;
+    auto Environment = QProcessEnvironment::systemEnvironment();
+    Environment.remove(QStringLiteral("XDG_RUNTIME_DIR"));
+    Environment.insert(QStringLiteral("TMPDIR"), Empty.Path());
+    Ctl.setProcessEnvironment(Environment);
+    Ctl.start(QStringLiteral(NEB_BINARY_DIR "/bin/nebctl"), {QStringLiteral("sandbox")});
+    ASSERT_TRUE(Ctl.waitForFinished());
+    EXPECT_NE(ExitFailed, Ctl.exitCode());
+    EXPECT_EQ(QStringList(), QDir(Empty.Path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot));
+}
+
 TEST(SandboxTool, OtherWordsAreRefused) {
     EXPECT_EQ(ExitFailed, Tool({QStringLiteral("sandbox"), QStringLiteral("here")}).Code);
-    EXPECT_EQ(ExitFailed,
-              Tool({QStringLiteral("sandbox"), QStringLiteral("--json"), QStringLiteral("--json")})
-                  .Code);
+    EXPECT_EQ(
+        ExitFailed,
+        Tool({QStringLiteral("sandbox"), QStringLiteral("--json"), QStringLiteral("--json")}).Code);
 }
 
 }  // namespace

@@ -31,12 +31,14 @@ std::vector<QByteArray> EnvironmentOf() {
     for (char** Each = environ; *Each; ++Each) {
         const QByteArrayView Is(*Each);
         const bool IsOurs = Is.startsWith("QT_") || Is.startsWith("MALLOC_ARENA_MAX=") ||
-                            Is.startsWith("XDG_RUNTIME_DIR=");
+                            Is.startsWith("XDG_RUNTIME_DIR=") || Is.startsWith("TMPDIR=");
         if (!IsOurs) All.emplace_back(*Each);
     }
     All.emplace_back("QT_QPA_PLATFORM=offscreen");
     All.emplace_back("MALLOC_ARENA_MAX=1");
-    All.emplace_back("XDG_RUNTIME_DIR=/");  // without one Qt would make one
+    // No folder to leave anything in: without one of the user's own, Qt would make one.
+    All.emplace_back("XDG_RUNTIME_DIR=/");
+    All.emplace_back("TMPDIR=/dev/null");
     return All;
 }
 
