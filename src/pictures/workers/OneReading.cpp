@@ -48,31 +48,33 @@ QString PlainSentence(QByteArrayView Bytes) {
     return Text.trimmed();
 }
 
-// In pieces that are still at hand when their fourth bytes are set: whoever draws such a picture
-// relies on them.
-void TakePart(const LockedProcess& Process, uchar* Pixels, qint64 Begin, qint64 End) {
-    constexpr qint64 Piece = 1 << 18;
+// Whoever draws such a picture relies on its fourth bytes. Written: where it lies, or null.
+void TakePart(const LockedProcess& Process, const uchar* Written, uchar* Pixels, qint64 Begin,
+              qint64 End) {
+    constexpr qint64 Piece = 1 << 18;  // is still at hand when it is gone over
     for (qint64 At = Begin; At < End; At += Piece) {
         const qint64 Length = std::min(Piece, End - At);
-        Process.Take(At, Pixels + At, Length);
-        QRgb* const First = reinterpret_cast<QRgb*>(Pixels + At);
-        for (qint64 I = 0; I < Length / 4; ++I) First[I] |= 0xFF000000;
+        if (!Written) Process.Take(At, Pixels + At, Length);
+        const QRgb* const From = reinterpret_cast<const QRgb*>((Written ? Written : Pixels) + At);
+        QRgb* const To = reinterpret_cast<QRgb*>(Pixels + At);
+        for (qint64 I = 0; I < Length / 4; ++I) To[I] = From[I] | 0xFF000000;
     }
 }
 
-// Somebody waits for it: half of a large one is taken by another processor.
+// Half of one that is waited for as long is taken by another processor.
 void TakePixels(const LockedProcess& Process, QImage& Picture) {
-    constexpr qint64 Large = 8 << 20;
+    constexpr qint64 Large = 24 << 20;
     uchar* const Pixels = Picture.bits();
     const qint64 All = Picture.sizeInBytes(), Half = All > Large ? All / 8 * 4 : 0;
+    const uchar* const Written = Process.Written(0, All);
+    const auto TakeFirst = [&] { TakePart(Process, Written, Pixels, 0, Half); };
     std::future<void> Beside;
     try {
-        if (Half > 0)
-            Beside = std::async(std::launch::async, [&] { TakePart(Process, Pixels, 0, Half); });
+        if (Half > 0) Beside = std::async(std::launch::async, TakeFirst);
     } catch (const std::system_error&) {  // no thread to be had
-        TakePart(Process, Pixels, 0, Half);
+        TakeFirst();
     }
-    TakePart(Process, Pixels, Half, All);
+    TakePart(Process, Written, Pixels, Half, All);
     if (Beside.valid()) Beside.get();
 }
 

@@ -25,7 +25,7 @@ struct Calls {
 
 const Calls Always[] = {
     // memory that is the process's own; to make some is below
-    {false, {"brk", "munmap", "mremap", "madvise"}},
+    {false, {"brk", "munmap", "mremap"}},
     // the time of day, and how much of it has been taken
     {false,
      {"clock_gettime", "clock_gettime64", "clock_getres", "clock_getres_time64", "gettimeofday",
@@ -114,6 +114,8 @@ void AllowMemory(Filter& Its) {
         Its.Allow(Name,
                   {HasOf(2, PROT_EXEC, 0), HasOf(3, MAP_ANONYMOUS | MAP_HUGETLB, MAP_ANONYMOUS)});
     Its.Allow("mprotect", {HasOf(2, PROT_EXEC, 0)});
+    // Of what the program looks at nothing is taken away.
+    Its.Allow("madvise", {{2, SCMP_CMP_NE, MADV_REMOVE, 0}});
 }
 
 // The line to the program. What a library writes to the streams that are closed is lost.

@@ -215,6 +215,10 @@ void LockedProcess::Take(qint64 At, void* To, qint64 Bytes) const {
     mState->Out.Take(At, To, Bytes);
 }
 
+const uchar* LockedProcess::Written(qint64 At, qint64 Bytes) const {
+    return mState->Out.Written(At, Bytes);
+}
+
 void LockedProcess::MakeRoom() {
     mState->Out.MakeRoom();
 }

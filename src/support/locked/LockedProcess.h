@@ -57,6 +57,8 @@ class LockedProcess {
     // std::bad_alloc, where a plain look would end the program.
     void Put(qint64 At, QByteArrayView Bytes);
     void Take(qint64 At, void* To, qint64 Bytes) const;
+    // What Take() would copy, where it lies; null where it has not written all of it.
+    const uchar* Written(qint64 At, qint64 Bytes) const;
     // Takes memory for a first photograph, while nobody waits for it.
     void MakeRoom();
     // Gives back to the system what one large picture has taken of what it wrote. What was written

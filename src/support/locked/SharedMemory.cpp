@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 #include <sys/mman.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -57,6 +58,11 @@ void SharedMemory::Take(qint64 At, void* To, qint64 Length) const {
         if (Got <= 0) throw std::bad_alloc();
         Done += Got;
     }
+}
+
+const uchar* SharedMemory::Written(qint64 At, qint64 Length) const {
+    const bool IsInside = At >= 0 && Length <= mBytes - At;
+    return IsInside && ::lseek(*mFile, At, SEEK_HOLE) >= At + Length ? mAt + At : nullptr;
 }
 
 // Where there is none it is taken when it is needed.

@@ -23,6 +23,9 @@ class SharedMemory {
     // Both throw std::bad_alloc, where a plain look could end the program for want of memory.
     void Put(qint64 At, QByteArrayView Its);
     void Take(qint64 At, void* To, qint64 Length) const;
+    // Where it lies, if every byte of it has been written; else null: a look at the others would
+    // take memory.
+    const uchar* Written(qint64 At, qint64 Length) const;
     // Takes from the system what a photograph needs, before one comes.
     void MakeRoom() const;
     // Gives back what one large picture has taken.

@@ -1,6 +1,7 @@
 // Every system call that there is, with the filter as the one measure: it holds by itself.
 #include <fcntl.h>
 #include <sys/ioctl.h>
+#include <sys/mman.h>
 #include <sys/syscall.h>
 
 #include <set>
@@ -75,6 +76,16 @@ TEST(LockCalls, ThatAskForTheFolderFindNone) {
     SKIP_WHERE_WATCHED();
     const Told Alone(OnlyThis, "filter");
     EXPECT_EQ(ENOENT, OutcomeOf({Deed::Call, {SYS_getcwd, 0, 0}}).Error);
+}
+
+// The program would look at memory that it then had to find anew.
+TEST(LockCalls, ThatTakeAwayWhatTheProgramLooksAtEndTheProcess) {
+    SKIP_WHERE_WATCHED();
+    const Told Alone(OnlyThis, "filter");
+    constexpr long Page = 4096;
+    EXPECT_EQ(LockedEnd::Forbidden,
+              OutcomeOf({Deed::Call, {SYS_madvise, 0, Page, MADV_REMOVE}}).End);
+    EXPECT_EQ(LockedEnd::None, OutcomeOf({Deed::Call, {SYS_madvise, 0, 0, MADV_DONTNEED}}).End);
 }
 
 // Among them the one that says that its time is up.
