@@ -5,6 +5,7 @@
 #pragma once
 
 #include <QMutex>
+#include <QThread>
 #include <QThreadPool>
 #include <QWaitCondition>
 #include <exception>
@@ -16,10 +17,15 @@
 namespace neb {
 
 // The threads of all queues. Not the toolkit's own: with those it paints large pictures, and a
-// window would stand still until the work on them has ended. Never ended: they may be at work when
-// all else is over.
+// window would stand still until the work on them has ended. One more than there are processors:
+// while one waits for a disk, or for another process, none stands idle. Never ended: they may be at
+// work when all else is over.
 inline QThreadPool& AheadThreads() {
-    static auto* const Its = new QThreadPool;
+    static auto* const Its = [] {
+        auto* const Made = new QThreadPool;
+        Made->setMaxThreadCount(QThread::idealThreadCount() + 1);
+        return Made;
+    }();
     return *Its;
 }
 
@@ -36,7 +42,7 @@ class AheadQueue {
         mShared->Items = std::move(Items);
         mShared->Work = std::move(Work);
         mShared->Slots.resize(mShared->Items.size());
-        const int Ahead = Window > 0 ? Window : AheadThreads().maxThreadCount() + 2;
+        const int Ahead = Window > 0 ? Window : AheadThreads().maxThreadCount() + 1;
         for (int I = 0; I < Ahead; ++I) BeginNext();
     }
     // Leaves at once: what is not begun never will be, what runs ends unheard.
