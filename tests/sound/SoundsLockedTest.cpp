@@ -199,7 +199,7 @@ TEST(SoundsLocked, SayHowFarTheyAreLocked) {
 TEST_F(HostileSounds, ThatBreakOutWhenTheyAreOpenedAreRefusedAndTheNextPlays) {
     for (const char* What : EveryDeed) {
         SCOPED_TRACE(What);
-        EXPECT_TRUE(RefusedBecause(File("open", What)).startsWith(u"The sound cannot be played"));
+        EXPECT_TRUE(RefusedBecause(File("open", What)).contains(u"cannot be played"));
         ExpectTheNextPlays();
     }
 }
