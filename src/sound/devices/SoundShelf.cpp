@@ -60,6 +60,7 @@ struct SoundShelf::State {
     std::deque<QString> Wanted;  // paths as they were given, the oldest first
     QString Opening;             // the path that the thread is busy with
     bool Busy = false;
+    bool Unwanted = false;  // what it opens
     bool Ending = false;
     std::deque<Sound> Kept;  // the oldest first
 
@@ -106,13 +107,14 @@ std::optional<QString> SoundShelf::State::Begin() {
     Opening = Wanted.front();
     Wanted.pop_front();
     Busy = true;
+    Unwanted = false;
     return Opening;
 }
 
-// What comes after the end is not kept.
+// What comes after the end, or after all was let go of, is not kept.
 void SoundShelf::State::End(Sound Fresh) {
     const QMutexLocker Lock(&Mutex);
-    if (Fresh && !Ending) Keep(std::move(Fresh));
+    if (Fresh && !Ending && !Unwanted) Keep(std::move(Fresh));
     Busy = false;
     Opened.wakeAll();
 }
@@ -149,6 +151,7 @@ void SoundShelf::Clear() {
     std::deque<Sound> Gone;
     const QMutexLocker Lock(&mState->Mutex);
     mState->Wanted.clear();
+    mState->Unwanted = true;
     Gone.swap(mState->Kept);
 }
 
