@@ -79,9 +79,6 @@ function(neb_part NAME SOURCE)
   add_dependencies(neb_parts ${NAME})
 endfunction()
 
-# A test takes two of ctest's places, those that mostly wait for a clock one: so many tests as there
-# are processors run at a time, and one of those that wait beside them.
-
 # neb_slices(pictures.Slice test_pictures 8 [FILTER Some.*:Tests.*] [ENVIRONMENT A=1 ...])
 # The tests of a program as so many tests of ctest, each of which starts it once. A slice without a
 # test fails.
@@ -93,7 +90,7 @@ function(neb_slices PREFIX PROGRAM COUNT)
   math(EXPR last "${COUNT} - 1")
   foreach(slice RANGE ${last})
     add_test(NAME ${PREFIX}${slice} COMMAND ${PROGRAM} --gtest_brief=1 --gtest_filter=${S_FILTER})
-    set_tests_properties(${PREFIX}${slice} PROPERTIES TIMEOUT 300 PROCESSORS 2
+    set_tests_properties(${PREFIX}${slice} PROPERTIES TIMEOUT 300
       FAIL_REGULAR_EXPRESSION "] 0 tests from"
       ENVIRONMENT "GTEST_TOTAL_SHARDS=${COUNT};GTEST_SHARD_INDEX=${slice};${S_ENVIRONMENT}")
   endforeach()
@@ -132,5 +129,5 @@ function(neb_test)
     return()
   endif()
   gtest_discover_tests(test_${T_NAME} TEST_PREFIX "${T_NAME}." DISCOVERY_TIMEOUT 60
-                       PROPERTIES TIMEOUT 120 PROCESSORS 2)
+                       PROPERTIES TIMEOUT 120)
 endfunction()
