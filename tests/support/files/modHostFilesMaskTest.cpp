@@ -2,8 +2,10 @@
 #include "support/files/modHostFilesMask.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include "harness/TempFolder.h"
+#include "harness/WithoutPrivileges.h"
 #include "support/files/modHostFiles.h"
 
 namespace neb {
@@ -40,6 +42,16 @@ TEST(HostFilesWalk, TellsSizeAndTimeOfAFileAlone) {
     EXPECT_EQ(FileTime(File)->toSecsSinceEpoch(), Facts->Changed);
     EXPECT_FALSE(ReadableFileFacts(Folder.Path()));
     EXPECT_FALSE(ReadableFileFacts(Folder / QStringLiteral("none.jpg")));
+}
+
+TEST(HostFilesWalk, WhatOthersMayReadButItsReaderMayNotIsLeftOut) {
+    const harness::TempFolder Folder;
+    const QString File = Folder / QStringLiteral("a.jpg");
+    WriteFile(File, "12345");
+    ASSERT_EQ(0, ::chmod(qPrintable(Folder.Path()), 0755));
+    ASSERT_EQ(0, ::chmod(qPrintable(File), 0040));
+    const harness::WithoutPrivileges Ordinary;
+    EXPECT_FALSE(ReadableFileFacts(File));
 }
 
 TEST(HostFilesWalk, AListingSaysWhyItIsEmpty) {
