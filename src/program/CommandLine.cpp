@@ -10,6 +10,18 @@ namespace neb {
 namespace {
 
 constexpr char DebugSwitch[] = "/DEBUG";
+constexpr int HelpColumn = 17;  // where the words' meanings begin
+
+constexpr CommandWord Words[] = {
+    {"FOLDER", "open Quick Show on a folder of pictures, or its albums where it has any"},
+    {"PICTURE", "one: open Quick Show on its folder, at that picture;\nseveral: on those pictures"},
+    {"--documents DIR",
+     "keep albums and settings below DIR instead of the documents folder;\n"
+     "or open the albums in DIR, as on a disc"},
+    {"--help", "print this"},
+    {"--version", "print the version"},
+    {"/DEBUG", "write the log QLM.log in\n%1"},
+};
 
 // A folder may be called so as well; the bare switch is always the switch.
 bool IsDebugSwitch(const QString& Word) {
@@ -63,21 +75,18 @@ CommandLine ParseCommandLine(const QStringList& Arguments) {
     return Line;
 }
 
+std::span<const CommandWord> CommandWords() {
+    return Words;
+}
+
 QString CommandLineHelp() {
-    return QStringLiteral(
-               "Usage: neb-slide-show [/DEBUG] [--documents DIR] [FOLDER | PICTURE]...\n"
-               "  FOLDER           open Quick Show on a folder of pictures, or its albums where it "
-               "has "
-               "any\n"
-               "  PICTURE          one: open Quick Show on its folder, at that picture;\n"
-               "                   several: on those pictures\n"
-               "  --documents DIR  keep albums and settings below DIR instead of the documents "
-               "folder;\n"
-               "                   or open the albums in DIR, as on a disc\n"
-               "  /DEBUG           write the log QLM.log in\n"
-               "                   %1\n"
-               "Where the program runs already on these albums, that one opens them.\n")
-        .arg(OwnPath());
+    QString Text = QStringLiteral("Usage: neb-slide-show ") + QLatin1String(CommandUsage) + u'\n';
+    for (const CommandWord& Row : Words) {
+        QString Help = QString::fromLatin1(Row.Help).replace(QStringLiteral("%1"), OwnPath());
+        Text += QStringLiteral("  ") + QString::fromLatin1(Row.Word).leftJustified(HelpColumn) +
+                Help.replace(u'\n', u'\n' + QString(HelpColumn + 2, u' ')) + u'\n';
+    }
+    return Text + QLatin1String(CommandRemark) + u'\n';
 }
 
 }  // namespace neb

@@ -4,6 +4,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <span>
 
 namespace neb {
 
@@ -20,5 +21,15 @@ struct CommandLine {
 // only where that is there.
 CommandLine ParseCommandLine(const QStringList& Arguments);
 QString CommandLineHelp();
+
+// What may stand on the command line and what it means, for the help and the manual page.
+struct CommandWord {
+    const char* Word;  // with its value: "--documents DIR"
+    const char* Help;  // lines; "%1" is the folder of the program's own notes
+};
+inline constexpr char CommandUsage[] = "[/DEBUG] [--documents DIR] [FOLDER | PICTURE]...";
+inline constexpr char CommandRemark[] =
+    "Where the program runs already on these albums, that one opens them.";
+std::span<const CommandWord> CommandWords();
 
 }  // namespace neb

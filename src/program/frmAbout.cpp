@@ -1,6 +1,7 @@
 #include "program/frmAbout.h"
 
 #include <QProcess>
+#include <QResource>
 #include <QStandardPaths>
 #include <QTimer>
 
@@ -37,6 +38,11 @@ bool StartTool(const char* Program, const char* Argument) {
     return QProcess::startDetached(Path, Arguments);
 }
 
+// The very file that lies beside the installed program.
+QString ThirdPartyNotices() {
+    return QString::fromUtf8(QResource(QStringLiteral(":/neb/THIRD-PARTY.md")).uncompressedData());
+}
+
 QString ReadersSentence(JobState&) try {
     LockReport Least = LockReport::Of(-1);
     for (const NamedLock& Each : ReaderLocks()) Least = Weaker(Least, Each.Report);
@@ -54,6 +60,7 @@ frmAbout::frmAbout() : mUi(std::make_unique<Ui::frmAbout>()), mReaders(ReadersSe
     mUi->lblTitle->setFont(Title);
     mUi->lblVersion->setText(tr("Version ") + QApplication::applicationVersion());
     mUi->picIcon->setPixmap(QApplication::windowIcon().pixmap(96, 96));
+    mUi->txtLicences->setMarkdown(ThirdPartyNotices());
     connect(mUi->cmdOK, &QPushButton::clicked, this, &frmAbout::Unload);
     connect(mUi->cmdSysInfo, &QPushButton::clicked, this, &StartSysInfo);
     TellOfReaders();

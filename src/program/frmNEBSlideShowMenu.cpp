@@ -29,6 +29,7 @@
 #include "windows/frame/modWindowState.h"
 #include "windows/home/HomePage.h"
 #include "windows/import/frmQuickShow.h"
+#include "windows/printing/modPrinting.h"
 
 namespace neb {
 namespace {
@@ -110,6 +111,7 @@ void frmNEBSlideShow::OpenWhenFree(const QStringList& Paths) {
 void frmNEBSlideShow::OpenNow(const OpenedPaths& What) {
     for (const QString& Folder : What.Albums) OpenAlbums(Folder);
     if (const auto Wrong = What.Wrong()) ShowBox(*Wrong);
+    for (const QString& Document : What.Prints) PreviewFile(Document);
     if (What.Named.isEmpty()) return;
     const auto IsTheSame = [&](const frmQuickShow& Is) { return Is.IsOpenedOn(What.Named); };
     if (const frmQuickShow* Opened = QuickShowThat(IsTheSame)) return BringToFront(*Opened);

@@ -4,6 +4,7 @@
 #include <QStandardPaths>
 
 #include "db/records/modJournal.h"
+#include "settings/ProgramFiles.h"
 #include "settings/SettingKeys.h"
 #include "settings/clsFileSystem.h"
 #include "support/Fault.h"
@@ -103,7 +104,7 @@ void SetDocumentsPath(const QString& Path) {
 
 QString AppPath() {
     if (AppPathCache.isEmpty())
-        AppPathCache = WithSeparator(QCoreApplication::applicationDirPath());
+        AppPathCache = ProgramFilesOf(QCoreApplication::applicationDirPath());
     return AppPathCache;
 }
 

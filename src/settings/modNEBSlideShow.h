@@ -29,7 +29,7 @@ extern QString DocumentsPath;
 // directory is opened as it lies: it is DBPath and SettingsDir then.
 void SetDocumentsPath(const QString& Path);
 
-QString AppPath();      // the program's directory
+QString AppPath();      // the program's own files, which are only read
 QString INIFileName();  // "QLM.ini"
 QString SettingsDir();  // the folder of the settings file
 QString DBPath();       // the database directory: the key "DBPath", else SettingsDir

@@ -1,5 +1,7 @@
 #include "tools/modCommands.h"
 
+#include <sstream>
+
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
@@ -229,7 +231,8 @@ constexpr Command Table[] = {
      "asked.\n"
      "\n"
      "  --json  the same as JSON. Readers, a list: Name, SystemCalls (how many are allowed; 0:\n"
-     "          all), NoNewPrivileges, Limits, Landlock (its version; 0: none), EmptyRoot, OwnNetwork\n"
+     "          all), NoNewPrivileges, Limits, Landlock (its version; 0: none), EmptyRoot, "
+     "OwnNetwork\n"
      "\n"
      "Exit code 0: all locks are closed; 1: some are missing; 2: the readers cannot be started.\n",
      RunSandbox},
@@ -240,7 +243,8 @@ constexpr Command Table[] = {
 constexpr const char* Outline =
     "nebctl looks into and after the databases of NEB Slide Show.\n\n"
     "Usage: nebctl COMMAND ARGUMENTS\n"
-    "       nebctl COMMAND --help\n\n"
+    "       nebctl COMMAND --help\n"
+    "       nebctl --version\n\n"
     "Wherever a database is wanted, the documents folder above it will do as well.\n\n"
     "Commands:\n";
 
@@ -258,8 +262,7 @@ void PrintOutline(std::ostream& Stream) {
 }
 
 void PrintHelp(const Command& Row, std::ostream& Stream) {
-    Stream << "Usage: nebctl " << Row.Name << ' ' << Row.Arguments << "\n\n" << Row.Help;
-    if (Row.PrintMoreHelp) Row.PrintMoreHelp(Stream);
+    Stream << "Usage: nebctl " << Row.Name << ' ' << Row.Arguments << "\n\n" << HelpOf(Row);
 }
 
 int RunGuarded(const Command& Row, const QStringList& Arguments, ToolIO& IO) {
@@ -281,6 +284,13 @@ std::span<const Command> Commands() {
     return Table;
 }
 
+std::string HelpOf(const Command& Row) {
+    std::ostringstream Text;
+    Text << Row.Help;
+    if (Row.PrintMoreHelp) Row.PrintMoreHelp(Text);
+    return Text.str();
+}
+
 const Command* FindCommand(const QString& Name) {
     for (const Command& Row : Commands())
         if (Name == QLatin1String(Row.Name)) return &Row;
@@ -294,6 +304,10 @@ int RunTool(const QStringList& Arguments, ToolIO& IO) {
     }
     if (AsksForHelp(Arguments[0])) {
         PrintOutline(IO.Out);
+        return ExitDone;
+    }
+    if (Arguments[0] == u"--version") {
+        PrintLine(IO.Out, QStringLiteral("nebctl (NEB Slide Show) " NEB_VERSION));
         return ExitDone;
     }
     const Command* Row = FindCommand(Arguments[0]);

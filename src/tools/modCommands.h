@@ -4,6 +4,7 @@
 
 #include <QStringList>
 #include <span>
+#include <string>
 
 #include "tools/words/ToolIO.h"
 
@@ -22,6 +23,8 @@ struct Command {
 };
 
 std::span<const Command> Commands();
+// The help without its usage lines, that of a table of its own included.
+std::string HelpOf(const Command& Row);
 const Command* FindCommand(const QString& Name);  // nullptr: there is none
 
 // Runs what the arguments (without the program's name) ask for and returns the exit code. Faults

@@ -1,12 +1,12 @@
 #include "tools/modEffects.h"
 
-#include <QCoreApplication>
 #include <array>
 
 #include "db/clsDBEngine.h"
 #include "effects/EffectCatalogue.h"
 #include "effects/Transition.h"
 #include "pictures/PictureOfFile.h"
+#include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
 #include "tools/effects/EffectPictures.h"
@@ -35,7 +35,7 @@ EffectLevels FactoryLevels() {
     EffectLevels Levels;
     Levels.fill(1);
     clsDBEngine Engine;
-    Engine.SetProgramPath(QCoreApplication::applicationDirPath());
+    Engine.SetProgramPath(AppPath());
     Engine.LoadFrom(NewDatabase);
     Engine.ClassifyEffects(Levels, EffectCount());
     return Levels;

@@ -15,6 +15,8 @@
 #include "program/Workspace.h"
 #include "windows/WindowSteps.h"
 #include "windows/import/frmQuickShow.h"
+#include "windows/printing/PrintView.h"
+#include "windows/printing/frmPrintPreview.h"
 #include "windows/show/frmPreferences.h"
 #include "windows/show/frmSlideShowProjector.h"
 #include "windows/show/modSlideShows.h"
@@ -98,6 +100,27 @@ TEST_F(OpenedFromOutside, APictureOpensItsFolderThere) {
     ASSERT_TRUE(Find<frmQuickShow>());
     EXPECT_EQ((QStringList{u"a"_s, u"b"_s}), Chosen(*Find<frmQuickShow>()));
     EXPECT_EQ(1, In<FlexGrid>(*Find<frmQuickShow>(), "flxSelected").Row());
+}
+
+TEST_F(OpenedFromOutside, APrintDocumentComesUpInThePreview) {
+    Start();
+    int Pages = 0;
+    WhenOpen<frmPrintPreview>([&](frmPrintPreview& Shown) {
+        Pages = Shown.VSPrinter1().PageCount();
+        In<QPushButton>(Shown, "cmdExit").click();
+    });
+    OpenIt({QStringLiteral(NEB_SOURCE_DIR "/tests/data/print/sheets.ppd")});
+    EXPECT_EQ(2, Pages);
+    EXPECT_FALSE(Find<frmPrintPreview>());
+}
+
+TEST_F(OpenedFromOutside, APrinterDescriptionOfTheSameEndingIsToldOf) {
+    Start();
+    WriteFile(At("printer.ppd"), "*PPD-Adobe: \"4.3\"\n");
+    mBoxes.Expect(u"The file is no print document of this program.\n"_s + At("printer.ppd"),
+                  u"Operation Failed"_s, BoxIcon::Critical, BoxAnswer::Ok);
+    OpenIt({At("printer.ppd")});
+    EXPECT_FALSE(Find<frmPrintPreview>());
 }
 
 TEST_F(OpenedFromOutside, WhatCannotBeOpenedIsToldAndTheRestIsOpened) {

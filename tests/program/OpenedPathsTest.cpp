@@ -48,6 +48,14 @@ TEST_F(OpenedPathsTest, SeveralAreThoseAlone) {
     EXPECT_EQ("nothing", Told(Mixed)) << "Quick Show tells of it";
 }
 
+TEST_F(OpenedPathsTest, PrintDocumentsAreForThePreview) {
+    WriteFile(At("Trip.PPD"), "x");
+    const OpenedPaths Both = SortOut({At("Trip.PPD"), At("Garden")});
+    EXPECT_EQ(QStringList{At("Trip.PPD")}, Both.Prints);
+    EXPECT_EQ(QStringList{At("Garden/")}, Both.Named);
+    EXPECT_EQ("nothing", Told(Both));
+}
+
 TEST_F(OpenedPathsTest, RelativeOnesAreSeenFromTheWorkingDirectory) {
     const QString Before = QDir::currentPath();
     QDir::setCurrent(Home.Path());

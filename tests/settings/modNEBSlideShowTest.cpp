@@ -7,6 +7,7 @@
 #include "harness/FolderState.h"
 #include "harness/ScriptedBoxes.h"
 #include "harness/TempFolder.h"
+#include "settings/ProgramFiles.h"
 #include "settings/clsFileSystem.h"
 #include "support/Fault.h"
 #include "support/Services.h"
@@ -219,6 +220,14 @@ TEST_F(ShellTest, TheProgramsFolderEndsWithASeparatorAndIsCached) {
     AppPathCache.clear();
     EXPECT_EQ(QCoreApplication::applicationDirPath() + u'/', AppPath());
     EXPECT_EQ(AppPath(), AppPathCache);
+}
+
+TEST_F(ShellTest, TheProgramsFilesLieBesideItOrInTheSharedFolderOfAnInstalledOne) {
+    EXPECT_EQ(Program / "bin/", ProgramFilesOf(Program / "bin"));
+    MakeDirs(Program / "share/neb-slide-show");
+    EXPECT_EQ(Program / "bin/", ProgramFilesOf(Program / "bin"));
+    WriteFile(Program / "share/neb-slide-show/NoSlide.bmp", "");
+    EXPECT_EQ(Program / "share/neb-slide-show/", ProgramFilesOf(Program / "bin"));
 }
 
 TEST_F(ShellTest, ALogLineIsTimeLevelAndTextWithTabs) {

@@ -20,7 +20,8 @@ void SortIn(const QString& Named, OpenedPaths& To) {
     } else if (!FileExists(Path)) {
         To.Missing << Named;
     } else {
-        (IsPictureName(Path) ? To.Named : To.Others) << Path;
+        const bool IsPrint = Path.endsWith(u".ppd", Qt::CaseInsensitive);
+        (IsPrint ? To.Prints : IsPictureName(Path) ? To.Named : To.Others) << Path;
     }
 }
 

@@ -13,6 +13,7 @@ struct OpenedPaths {
     QStringList Albums;  // folders that hold albums
     QStringList Named;   // for Quick Show: folders with their separator, pictures, other files
     QString AtPicture;   // one of those, whose folder is opened for it; empty: none
+    QStringList Prints;  // print documents, for the preview
     QStringList Others;  // files that are no pictures, where there is nothing else to open
     QStringList Missing;
 

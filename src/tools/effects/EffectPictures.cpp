@@ -1,11 +1,11 @@
 #include "tools/effects/EffectPictures.h"
 
 #include <QBuffer>
-#include <QCoreApplication>
 
 #include "pictures/ImgX.h"
 #include "pictures/PictureOfFile.h"
 #include "pictures/XShowFit.h"
+#include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
 
@@ -48,9 +48,7 @@ const Kind* KindOf(const QString& File) {
 }  // namespace
 
 QImage ProgramPicture(int Which) {
-    return PictureOfFile(QStringLiteral("%1/SpeedTest%2.bmp")
-                             .arg(QCoreApplication::applicationDirPath())
-                             .arg(Which));
+    return PictureOfFile(AppPath() + QStringLiteral("SpeedTest%1.bmp").arg(Which));
 }
 
 QImage FittedTo(const QImage& Picture, QSize Size) {

@@ -1,7 +1,5 @@
 #include "windows/printing/MailSession.h"
 
-#include "settings/modNEBSlideShow.h"
-#include "support/files/modHostFilesAccess.h"
 #include "support/modFUFL.h"
 #include "windows/printing/PrintFiles.h"
 #include "windows/printing/frmPrintPreview.h"
@@ -19,9 +17,7 @@ QString OrStandard(const QString& Text) {
 
 QString AutoSaveDir(const QString& AutoSavePath) {
     if (!AutoSavePath.isEmpty()) return WithSeparator(AutoSavePath);
-    const QString Own = AppPath() + QStringLiteral("Documents");
-    MakeDir(Own);
-    return WithSeparator(CanWriteInto(Own) ? Own : UsersDocuments());
+    return UsersDocuments();
 }
 
 QString AttachmentNameFor(const QString& AutoSaveName, const QDateTime& Now) {

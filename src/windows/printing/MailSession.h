@@ -11,8 +11,7 @@ namespace neb {
 struct PreviewSettings;
 
 // The directory for the attachment and for the automatic save, with closing separator: the given
-// one, else Documents in the program's directory, which is made; where that cannot be written, the
-// user's own documents. May take a moment.
+// one, else the user's documents. May take a moment.
 QString AutoSaveDir(const QString& AutoSavePath);
 // The name of the attachment: the given one, else one of the time, in seconds.
 QString AttachmentNameFor(const QString& AutoSaveName, const QDateTime& Now);

@@ -22,7 +22,7 @@ struct PreviewSettings {
     QString UserName;  // of the mail session
     QString UserPassword;
     QString AutoSaveName;  // a PDF that is written when the window closes; empty: none
-    QString AutoSavePath;  // its directory; empty: Documents
+    QString AutoSavePath;  // its directory; empty: the user's documents
     bool UnloadAfterPrint = false;
 };
 
@@ -44,6 +44,8 @@ class frmPrintPreview : public Form {
 
     // The finished document that is looked at from now on.
     void ShowDocument(std::shared_ptr<const PrintDocument> Document);
+    // The document in a file; false when it was stopped or cannot be read, which a box has told.
+    bool Open(const QString& Path);
     PrintView& VSPrinter1();
     // Shows the window modally; whether the document was printed.
     bool ShowPreview();

@@ -223,12 +223,16 @@ void frmPrintPreview::LoadDocument() {
     Notify({});
     const QString Path = TheServices().Dialogs->OpenFile(QStringLiteral("Load Document"),
                                                          UsersDocuments(), OpenFilter);
-    if (Path.isEmpty()) return;
-    try {
-        if (const Document Loaded = LoadUnderBar(Path)) ShowDocument(Loaded);
-    } catch (const Fault& Problem) {
-        TellFault(Problem);
-    }
+    if (!Path.isEmpty()) Open(Path);
+}
+
+bool frmPrintPreview::Open(const QString& Path) try {
+    const Document Loaded = LoadUnderBar(Path);
+    if (Loaded) ShowDocument(Loaded);
+    return Loaded != nullptr;
+} catch (const Fault& Problem) {
+    TellFault(Problem);
+    return false;
 }
 
 void frmPrintPreview::Mail() {

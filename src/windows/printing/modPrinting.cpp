@@ -72,6 +72,11 @@ void PreviewDocument(std::shared_ptr<const PrintDocument> Document) {
     Preview->ShowModal();
 }
 
+void PreviewFile(const QString& Path) {
+    const auto Preview = NewForm<frmPrintPreview>();
+    if (Preview->Open(Path)) Preview->ShowModal();
+}
+
 void PreviewComposed(const Form& Window, const PictureToPrint& Picture, const Composer& Compose) {
     Answer<Composed> Made = ComposeAside(Window, Picture.Path, Compose);
     if (Tell(Made) && Window.IsLoaded()) PreviewDocument(*Made);

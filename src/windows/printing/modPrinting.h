@@ -33,6 +33,8 @@ std::shared_ptr<PrintDocument> NewPrintDocument(const QString& Title);
 double NumberIn(const QLineEdit& Field);
 // The user looks through it, and prints it from there; returns when he has closed the preview.
 void PreviewDocument(std::shared_ptr<const PrintDocument> Document);
+// The same with a document that is kept in a file; a box tells of one that cannot be read.
+void PreviewFile(const QString& Path);
 
 // Has a document of a picture composed, beside the window and on any thread, and shows its preview;
 // what is in the way of that is told instead.
