@@ -94,9 +94,8 @@ void AddQuickShow(Tour& Guide, frmNEBSlideShow& Window, const Story& Told) {
     ReadPictures(Guide);
     NameAndSave(Guide);
     WatchTheShow(Guide);
-    Guide.Do(
-        "after-the-quick-show",
-        [] { return !Open<frmSlideShowProjector>() && !Open<frmQuickShow>(); }, {});
+    Guide.Do("after-the-quick-show",
+             [] { return !Open<frmSlideShowProjector>() && !Open<frmQuickShow>(); }, {});
 }
 
 }  // namespace neb::demo

@@ -54,8 +54,8 @@ QString GetFileBaseName(const QString& FileName) {
     return Dot < 0 ? Name : Name.left(Dot);
 }
 
-// Today's windows ask GetFilePath, which answers for a file at a root as well; this one is for those
-// that go up from directory to directory.
+// Today's windows ask GetFilePath, which answers for a file at a root as well; this one is for
+// those that go up from directory to directory.
 QString GetParentDir(const QString& Path) {
     QString Rest = Path;
     if (!Rest.isEmpty() && IsSeparator(Rest.back())) Rest.chop(1);

@@ -30,8 +30,8 @@ class UndoCrash : public UndoRig {
         Engine.FinalizeDB();
         Engine.Listeners.Keeper.reset();
     }
-    // The change, taken back, done again, and taken back once more. What is refused for a write that
-    // was cut ends the work as a fault does.
+    // The change, taken back, done again, and taken back once more. What is refused for a write
+    // that was cut ends the work as a fault does.
     static void Work(const UndoUser& User, const Action& Do) {
         Do(User);
         History& Steps = User.Steps();

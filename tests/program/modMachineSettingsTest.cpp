@@ -12,8 +12,8 @@
 #include "settings/SettingKeys.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/files/modHostFiles.h"
-#include "windows/show/frmSpeedTest.h"
 #include "windows/frame/Openers.h"
+#include "windows/show/frmSpeedTest.h"
 
 namespace neb {
 namespace {

@@ -97,7 +97,8 @@ class HostileSounds : public ::testing::Test {
     }
 
     harness::TempFolder Folder;
-    SoundsLocked Reader{QStringLiteral(NEB_BINARY_DIR "/tests/hostile/neb-hostile-sounds"), "", Hasty};
+    SoundsLocked Reader{QStringLiteral(NEB_BINARY_DIR "/tests/hostile/neb-hostile-sounds"), "",
+                        Hasty};
 };
 
 constexpr const char* EveryDeed[] = {"crash",

@@ -83,8 +83,7 @@ struct ImportOptions : ::testing::Test {
     std::string Captions() const {
         const auto Engine = harness::OpenEngine(Database());
         QStringList All;
-        for (const auto& Each : Engine->Albums.front()->Slides)
-            All << Each->SlideText;
+        for (const auto& Each : Engine->Albums.front()->Slides) All << Each->SlideText;
         return All.join(u'|').toStdString();
     }
 

@@ -81,7 +81,7 @@ class FlexGrid : public QTableView {
     int EditRow() const { return mEditing.row(); }
     int EditCol() const { return mEditing.column(); }
     bool IsEditing() const { return state() == EditingState; }
-    void FinishEdit();  // takes over what stands in an open cell editor
+    void FinishEdit();                       // takes over what stands in an open cell editor
     void SetEmptyText(const QString& Text);  // shown while there are no rows
     const QString& EmptyText() const { return mEmptyText; }
 

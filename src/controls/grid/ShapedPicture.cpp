@@ -14,8 +14,7 @@ QImage Resized(const QImage& Picture, QSize Size) {
     if (Picture.size() == Size) return Picture;
     if (Picture.hasAlphaChannel())
         return Picture.scaled(Size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    return ResizePicture(Picture.convertToFormat(QImage::Format_RGB32), Size,
-                         ResizeFilter::Sharp);
+    return ResizePicture(Picture.convertToFormat(QImage::Format_RGB32), Size, ResizeFilter::Sharp);
 }
 
 }  // namespace

@@ -38,7 +38,8 @@ bool NarrowPlain(const QString& Text, int Length, char* Out) {
 QByteArray Beginning(const QString& Text, int Width) {
     const qsizetype Ample = 2 * Width;
     if (Text.size() > Ample)
-        if (QByteArray Bytes = ToAnsi(QStringView(Text).first(Ample)); Bytes.size() >= Width + Width / 2)
+        if (QByteArray Bytes = ToAnsi(QStringView(Text).first(Ample));
+            Bytes.size() >= Width + Width / 2)
             return Bytes;
     return ToAnsi(Text);
 }

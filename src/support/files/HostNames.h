@@ -21,7 +21,8 @@ namespace neb {
 QString HostName(QByteArrayView Bytes);
 QByteArray HostBytes(const QString& Name);
 
-// In capitals; bytes that are no text stay what they are, which the toolkit's own way does not keep.
+// In capitals; bytes that are no text stay what they are, which the toolkit's own way does not
+// keep.
 QString UpperName(const QString& Name);
 
 // The path of a file or folder on this machine; empty for any other address.

@@ -92,7 +92,7 @@ void MakeDirs(const QString& Dir);      // with parents; no fault when it exists
 // The same for what lies below Base, with closing separator, and never Base itself: in the place of
 // a disk that was taken away nothing is made.
 void MakeDirsIn(const QString& Base, const QString& Dir);
-void DeleteTree(const QString& Dir);    // a directory and all in it; errors are ignored
+void DeleteTree(const QString& Dir);  // a directory and all in it; errors are ignored
 // The files and links in a directory, not the directories in it, nor what a link leads to; nothing
 // when Dir itself is a link. Errors are ignored, each by itself. LetRun is called all the while.
 void DeleteFilesIn(const QString& Dir, const Yield& LetRun = {});

@@ -28,9 +28,9 @@ class Job {
     explicit Job(std::function<Result(JobState&)> Work) {
         std::packaged_task<Result(JobState&)> Task(std::move(Work));
         mResult = Task.get_future();
-        std::thread([Counted = WorkOnThread(), State = mState,
-                     Mine = std::move(Task)]() mutable { Mine(*State); })
-            .detach();
+        std::thread([Counted = WorkOnThread(), State = mState, Mine = std::move(Task)]() mutable {
+            Mine(*State);
+        }).detach();
     }
     ~Job() { Cancel(); }
     Job(const Job&) = delete;

@@ -4,8 +4,8 @@
 
 namespace neb {
 
-// From now on, in the whole process. As the allocator would have it, what a thread has dropped stays
-// with that thread, and a film would need a quarter more.
+// From now on, in the whole process. As the allocator would have it, what a thread has dropped
+// stays with that thread, and a film would need a quarter more.
 void GiveLargeBlocksBack();
 
 }  // namespace neb

@@ -1,5 +1,6 @@
 // What windows want of the main window, and of windows that they do not know. The start of the
-// program fills the table; an entry that is empty belongs to a window that this build does not have.
+// program fills the table; an entry that is empty belongs to a window that this build does not
+// have.
 #pragma once
 
 #include <QString>

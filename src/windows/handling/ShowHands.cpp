@@ -85,8 +85,8 @@ void ShowHands::Attach() {
     mFingers.Attach();
 }
 
-// The window may come to another screen, where the line comes again with the pointer; and boxes come
-// over it and go.
+// The window may come to another screen, where the line comes again with the pointer; and boxes
+// come over it and go.
 bool ShowHands::eventFilter(QObject* On, QEvent* Event) {
     const QEvent::Type Is = Event->type();
     if (Is == QEvent::Resize) {

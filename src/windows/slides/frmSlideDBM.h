@@ -29,8 +29,8 @@ class frmSlideDBM : public Form, public ChangeReceiver, public AlbumHolder {
     frmSlideDBM();
     ~frmSlideDBM() override;
 
-    // Shows the window, as a child where there is a main window; with an album chosen (0: the one in
-    // hand), and a slide of it (0: a new one).
+    // Shows the window, as a child where there is a main window; with an album chosen (0: the one
+    // in hand), and a slide of it (0: a new one).
     void LoadSlideMgr(std::int32_t AlbumID = 0, std::int32_t SlideID = 0);
     void ReceiveEvent(const QString& ObjectType, const QString& EventType,
                       const EventKeys& EventData) override;

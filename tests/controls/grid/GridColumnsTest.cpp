@@ -8,8 +8,8 @@
 #include <QTest>
 #include <QTreeWidget>
 
-#include "controls/grid/EmptyHint.h"
 #include "controls/fields/HintColour.h"
+#include "controls/grid/EmptyHint.h"
 #include "controls/grid/FlexGrid.h"
 
 namespace neb {

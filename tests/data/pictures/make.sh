@@ -1,6 +1,7 @@
 #!/bin/sh
 # Makes the small pictures of this folder anew: one motif in every format and kind of pixel that
 # the program reads. Top left red, top right green, bottom left blue, bottom right grey.
+# shellcheck disable=SC2086 # some of its words are several options
 set -e
 cd "$(dirname "$0")"
 convert=/usr/bin/convert

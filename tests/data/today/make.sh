@@ -10,19 +10,19 @@ convert=/usr/bin/convert
 plain="-define png:exclude-chunk=gAMA,cHRM,date"  # one encoder takes a gamma to heart
 
 fields() { # name, size of a field, four colours from the top left
-  $convert \( -size "$2" "xc:$3" "xc:$4" +append \) \( -size "$2" "xc:$5" "xc:$6" +append \) -append $plain "PNG32:$1"
+  $convert \( -size "$2" "xc:$3" "xc:$4" +append \) \( -size "$2" "xc:$5" "xc:$6" +append \) -append "$plain" "PNG32:$1"
 }
 fields "$work/motif32.png" 24x16 'rgb(255,0,0)' 'rgb(0,160,0)' 'rgb(0,0,255)' 'rgb(128,128,128)'
 fields "$work/clear.png" 24x16 'rgb(255,0,0)' 'rgb(0,160,0)' 'rgb(0,0,255)' 'rgba(128,128,128,0)'
-$convert "$work/motif32.png" -alpha off $plain "PNG24:$work/motif.png"
-$convert "$work/motif.png" -colorspace gray -depth 8 $plain "PNG:$work/grey.png"
-$convert "$work/motif.png" -depth 16 $plain "PNG48:$work/deep.png"
+$convert "$work/motif32.png" -alpha off "$plain" "PNG24:$work/motif.png"
+$convert "$work/motif.png" -colorspace gray -depth 8 "$plain" "PNG:$work/grey.png"
+$convert "$work/motif.png" -depth 16 "$plain" "PNG48:$work/deep.png"
 fields "$work/large32.png" 64x64 'rgb(255,0,0)' 'rgb(0,160,0)' 'rgb(0,0,255)' 'rgb(128,128,128)'
-$convert "$work/large32.png" -alpha off $plain "PNG24:$work/large.png"
+$convert "$work/large32.png" -alpha off "$plain" "PNG24:$work/large.png"
 # As the sensor had it before it is turned or mirrored upright.
-$convert "$work/motif.png" -rotate 90 $plain "PNG24:$work/rotated.png"
-$convert "$work/motif.png" -flop $plain "PNG24:$work/flopped.png"
-$convert "$work/motif.png" -rotate 180 $plain "PNG24:$work/second.png"
+$convert "$work/motif.png" -rotate 90 "$plain" "PNG24:$work/rotated.png"
+$convert "$work/motif.png" -flop "$plain" "PNG24:$work/flopped.png"
+$convert "$work/motif.png" -rotate 180 "$plain" "PNG24:$work/second.png"
 
 heif-enc -L "$work/motif.png" -o lossless.heic
 heif-enc -q 95 "$work/motif.png" -o lossy.heic
@@ -77,6 +77,7 @@ opj_compress -i "$work/grey.png" -o grey.jp2 >/dev/null
 opj_compress -i "$work/deep.png" -o deep.jp2 >/dev/null
 opj_compress -i "$work/large.png" -o tiles.jp2 -t 50,50 >/dev/null
 # Luma, and a quarter of the chroma.
+# shellcheck disable=SC2086 # two words
 plane() { $convert "$work/motif.png" -colorspace YCbCr -channel "$1" -separate +channel ${2:-} -depth 8 gray:-; }
 { plane R; plane G "-sample 24x16"; plane B "-sample 24x16"; } >"$work/motif.yuv"
 opj_compress -i "$work/motif.yuv" -F 48,32,3,8,u@1x1:2x2:2x2 -o half.jp2 >/dev/null

@@ -20,7 +20,8 @@ class ManagerRig : public BulkRig {
   protected:
     // Slides of the album, numbered from 1 in this order.
     void AddAlbumSlides(const QStringList& Captions) {
-        for (const QString& Each : Captions) AddSlide(Each, QColor::fromHsv(40 * mHue++ % 360, 200, 200));
+        for (const QString& Each : Captions)
+            AddSlide(Each, QColor::fromHsv(40 * mHue++ % 360, 200, 200));
     }
     clsNEBSlideShow& Show(std::int32_t ShowID) { return *Album().GetSlideShow(ShowID); }
     std::int32_t AddShow(const QString& Name, const std::vector<std::int32_t>& SlideIDs) {

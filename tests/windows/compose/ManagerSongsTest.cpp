@@ -3,8 +3,8 @@
 
 #include "ManagerRig.h"
 #include "harness/SoundFiles.h"
-#include "sound/workers/SoundReading.h"
 #include "sound/devices/ClockedSound.h"
+#include "sound/workers/SoundReading.h"
 #include "support/modFUFL.h"
 
 namespace neb {

@@ -114,8 +114,7 @@ TEST_F(ManagerTracks, TheButtonAsksForASoundFile) {
     Dialogs.Answer = MakeSound(u"song.mp3"_s);
     PressDots(1);
     EXPECT_EQ(1, Dialogs.Count);
-    EXPECT_TRUE(Dialogs.Filters.startsWith(u"All Sound Files|"_s))
-        << Dialogs.Filters.toStdString();
+    EXPECT_TRUE(Dialogs.Filters.startsWith(u"All Sound Files|"_s)) << Dialogs.Filters.toStdString();
     EXPECT_EQ((Sounds / u"song.mp3"_s).toStdString(), File(1));
     Dialogs.Answer.clear();
     PressDots(1);
