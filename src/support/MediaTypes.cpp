@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <atomic>
 
+#include "support/Texts.h"
 #include "support/modFUFL.h"
 
 namespace neb {
@@ -12,34 +13,34 @@ std::atomic<bool> ExtraFormats = true;
 
 // clang-format off
 constexpr MediaType Pictures[] = {
-    {"Windows Bitmap Images", "bmp"},
-    {"Windows Enhanced Meta Files", "emf"},
-    {"JPEG Images", "jpg jpeg"},
-    {"Kodak (tm) PhotoCD Images", "pcd"},
-    {"ZSoft PaintBrush Images", "pcx"},
-    {"Portable Network Graphic Images", "png"},
-    {"Photoshop Images", "psd"},
-    {"Truevision Targa Images", "tga"},
-    {"Tagged Image Files", "tif tiff"},
-    {"TLA Images", "tla"},
-    {"Wireless Bitmap Images", "wbmp"},
-    {"Windows Meta Files", "wmf"},
-    {"AVIF Images", "avif", true},
-    {"GIF Images", "gif", true},
-    {"HEIC Images", "heic heif hif", true},
-    {"JPEG 2000 Images", "jp2 j2k jpf jpx", true},
-    {"Multi-Picture Images", "mpo", true},
-    {"WebP Images", "webp", true},
+    {QT_TR_NOOP("Windows Bitmap Images"), "bmp"},
+    {QT_TR_NOOP("Windows Enhanced Meta Files"), "emf"},
+    {QT_TR_NOOP("JPEG Images"), "jpg jpeg"},
+    {QT_TR_NOOP("Kodak (tm) PhotoCD Images"), "pcd"},
+    {QT_TR_NOOP("ZSoft PaintBrush Images"), "pcx"},
+    {QT_TR_NOOP("Portable Network Graphic Images"), "png"},
+    {QT_TR_NOOP("Photoshop Images"), "psd"},
+    {QT_TR_NOOP("Truevision Targa Images"), "tga"},
+    {QT_TR_NOOP("Tagged Image Files"), "tif tiff"},
+    {QT_TR_NOOP("TLA Images"), "tla"},
+    {QT_TR_NOOP("Wireless Bitmap Images"), "wbmp"},
+    {QT_TR_NOOP("Windows Meta Files"), "wmf"},
+    {QT_TR_NOOP("AVIF Images"), "avif", true},
+    {QT_TR_NOOP("GIF Images"), "gif", true},
+    {QT_TR_NOOP("HEIC Images"), "heic heif hif", true},
+    {QT_TR_NOOP("JPEG 2000 Images"), "jp2 j2k jpf jpx", true},
+    {QT_TR_NOOP("Multi-Picture Images"), "mpo", true},
+    {QT_TR_NOOP("WebP Images"), "webp", true},
 };
 constexpr auto FirstExtra = std::find_if(std::begin(Pictures), std::end(Pictures),
                                          [](const MediaType& Type) { return Type.Extra; });
 
 constexpr MediaType Sounds[] = {
-    {"Wave Audio Files", "wav"},
-    {"MP3 Audio Files", "mp3"},
-    {"Ogg Audio Files", "ogg oga"},
-    {"FLAC Audio Files", "flac"},
-    {"AIFF Audio Files", "aif aiff"},
+    {QT_TR_NOOP("Wave Audio Files"), "wav"},
+    {QT_TR_NOOP("MP3 Audio Files"), "mp3"},
+    {QT_TR_NOOP("Ogg Audio Files"), "ogg oga"},
+    {QT_TR_NOOP("FLAC Audio Files"), "flac"},
+    {QT_TR_NOOP("AIFF Audio Files"), "aif aiff"},
 };
 // clang-format on
 
@@ -66,7 +67,7 @@ QStringList FiltersOf(std::span<const MediaType> Types) {
     QStringList Filters;
     for (const MediaType& Type : Types) {
         const QString Masks = MasksOf(Type.Endings());
-        Filters << QLatin1String(Type.Name) + QStringLiteral(" (") + Masks + QStringLiteral(")|") +
+        Filters << tr(Type.Name) + QStringLiteral(" (") + Masks + QStringLiteral(")|") +
                        Masks;
     }
     return Filters;
@@ -107,13 +108,13 @@ bool IsSoundName(const QString& Name) {
 
 QString PictureFilters() {
     QStringList Filters = FiltersOf(PictureTypes());
-    Filters << QStringLiteral("All Graphics Files|") + AllMasks(PictureExtensions());
+    Filters << tr("All Graphics Files|") + AllMasks(PictureExtensions());
     return Filters.join(u'|');
 }
 
 QString SoundFilters() {
     QStringList Filters = FiltersOf(Sounds);
-    Filters.prepend(QStringLiteral("All Sound Files|") + AllMasks(SoundExtensions()));
+    Filters.prepend(tr("All Sound Files|") + AllMasks(SoundExtensions()));
     return Filters.join(u'|');
 }
 

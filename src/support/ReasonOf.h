@@ -11,5 +11,8 @@ namespace neb {
 QString ReasonOf(const std::exception& Problem);
 // The sentence alone, where the file is named beside it.
 QString SentenceOf(const std::exception& Problem);
+// What another process of ours has said, all of which speak English, with whatever numbers in it.
+// What has no translation stays as it was said.
+QString InUsersLanguage(const QString& Said);
 
 }  // namespace neb

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "support/Texts.h"
 #include "support/modCharacters.h"
 #include "support/modText.h"
 
@@ -88,7 +89,7 @@ bool IsNumericText(const QString& Text, QString& Message, bool AllowNegative) {
         const char16_t Code = Text[I].unicode();
         if (IsDigit(Code) || (Code == u'-' && AllowNegative && I == 0)) continue;
         const int Units = Text[I].isHighSurrogate() ? 2 : 1;
-        Message = u'\'' + Text.mid(I, Units) + QStringLiteral("' is not a Numeric Digit.");
+        Message = tr("'%1' is not a Numeric Digit.").arg(Text.mid(I, Units));
         return false;
     }
     return true;

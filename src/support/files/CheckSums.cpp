@@ -8,6 +8,7 @@
 #include <set>
 
 #include "support/Fault.h"
+#include "support/Texts.h"
 #include "support/files/HostNames.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
@@ -165,9 +166,9 @@ void Collect(const SumsReader& Reader, const QString& Below, std::vector<ListedS
     std::error_code Error;
     const auto Entries = ListDir(Reader.Dir() + Below, Error);
     if (Error)
-        throw Fault(QStringLiteral("The directory cannot be read: %1.")
-                        .arg(QString::fromStdString(Error.message())),
-                    Reader.Dir() + Below);
+        throw Fault(
+            tr("The directory cannot be read: %1.").arg(QString::fromStdString(Error.message())),
+            Reader.Dir() + Below);
     for (const DirEntry& Entry : Entries) {
         const QString Path = Below + Entry.Name;
         if (Entry.IsLink || Reader.IsStopped()) continue;
@@ -188,7 +189,7 @@ QByteArray MakeList(SumsReader& Reader) {
     QByteArray List;
     for (ListedSum& File : Files) {
         if (!LiesBelow(File.Path))
-            throw Fault(QStringLiteral("A file of this name cannot stand in a list of check sums."),
+            throw Fault(tr("A file of this name cannot stand in a list of check sums."),
                         Reader.Dir() + File.Path);
         File.Sum = Reader.SumOf(File.Path);
         List += SumLine(File);
@@ -209,10 +210,10 @@ std::vector<ListedSum> ReadList(const QString& Dir) {
         if (Line.endsWith('\r')) Line.chop(1);
         if (Line.trimmed().isEmpty() || Line.startsWith('#')) continue;
         auto File = ReadSumLine(Line);
-        if (!File) throw Fault(QStringLiteral("Line %1 cannot be understood.").arg(Number), Path);
+        if (!File) throw Fault(tr("Line %1 cannot be understood.").arg(Number), Path);
         Files.push_back(std::move(*File));
     }
-    if (Files.empty()) throw Fault(QStringLiteral("The list of check sums is empty."), Path);
+    if (Files.empty()) throw Fault(tr("The list of check sums is empty."), Path);
     return Files;
 }
 

@@ -7,6 +7,7 @@
 #include <cerrno>
 
 #include "support/Fault.h"
+#include "support/Texts.h"
 #include "support/files/HostNames.h"
 #include "support/files/NameCache.h"
 #include "support/files/modHostFilesOpen.h"
@@ -20,7 +21,7 @@ constexpr int MostTries = 20;
 
 // Of the user's file: of the one beside it he knows nothing.
 [[noreturn]] void FailWrite(const QString& Path, const QString& Reason) {
-    throw Fault(QStringLiteral("The file cannot be written. (%1)").arg(Reason), Path);
+    throw Fault(tr("The file cannot be written. (%1)").arg(Reason), Path);
 }
 
 // Whether the name still leads to the open file: who was making it may just have renamed it.
@@ -40,8 +41,7 @@ void DropLink(const QString& Path) {
 struct FileInTheMaking::State {
     explicit State(const QString& ThePath)
         : Path(ThePath), Beside(ResolvePath(ThePath) + QStringLiteral(".new")) {
-        if (FolderExists(Path))
-            throw Fault(QStringLiteral("There is a folder in the place of a file."), Path);
+        if (FolderExists(Path)) throw Fault(tr("There is a folder in the place of a file."), Path);
         for (int I = 0; I < MostTries; ++I)
             if (Claim()) return;
         FailInUse();
@@ -64,7 +64,7 @@ struct FileInTheMaking::State {
         return false;
     }
     [[noreturn]] void FailInUse() const {
-        throw Fault(QStringLiteral("The file is being made by another window or program."), Path);
+        throw Fault(tr("The file is being made by another window or program."), Path);
     }
     template <class Step>
     void Telling(const Step& Do) const try {
@@ -103,7 +103,7 @@ void FileInTheMaking::Write(const char* Data, qint64 Length) {
 }
 
 void FileInTheMaking::Seek(qint64 Place) {
-    if (Place < 0) FailWrite(mState->Path, QStringLiteral("There is no such place in it."));
+    if (Place < 0) FailWrite(mState->Path, tr("There is no such place in it."));
     mState->Place = Place;
 }
 
@@ -114,8 +114,7 @@ qint64 FileInTheMaking::Read(qint64 Place, char* Into, qint64 MaxLength) {
     for (; Count > 0 && Total < MaxLength; Total += std::max<qint64>(Count, 0))
         Count = File.read(Into + Total, MaxLength - Total);
     if (Count < 0)
-        throw Fault(QStringLiteral("The file cannot be read: %1.").arg(File.errorString()),
-                    mState->Path);
+        throw Fault(tr("The file cannot be read: %1.").arg(File.errorString()), mState->Path);
     return Total;
 }
 

@@ -8,6 +8,7 @@
 #include <filesystem>
 
 #include "support/Fault.h"
+#include "support/Texts.h"
 #include "support/files/HostNames.h"
 #include "support/files/NameCache.h"
 #include "support/files/modHostFilesListing.h"
@@ -82,13 +83,13 @@ QString WorkingDir() {
 }
 
 [[noreturn]] void FailRead(const QFile& File, const QString& Path) {
-    throw Fault(QStringLiteral("The file cannot be read: %1.").arg(File.errorString()), Path);
+    throw Fault(tr("The file cannot be read: %1.").arg(File.errorString()), Path);
 }
 
 void OpenToRead(HostFile& File, QIODevice::OpenMode Mode, const QString& Path) {
     const HostInfo Info = Look(Path);
     if (Info.Exists() && !Info.IsFile() && !Info.IsFolder())  // reading one would wait for ever
-        throw Fault(QStringLiteral("The file cannot be read: it is no ordinary file."), Path);
+        throw Fault(tr("The file cannot be read: it is no ordinary file."), Path);
     File.setFileName(Info.Path());
     if (!File.open(QIODevice::ReadOnly | Mode)) FailRead(File, Path);
 }

@@ -7,6 +7,7 @@
 #include <cerrno>
 
 #include "support/Fault.h"
+#include "support/Texts.h"
 #include "support/files/HostNames.h"
 #include "support/files/modHostFilesOpen.h"
 #include "support/files/modHostFilesSteps.h"
@@ -17,9 +18,9 @@ void ClearReadOnly(const QString& Path) {
     AnnounceStep(HostStep::Protect, Path);
     HostFile File(ResolvePath(Path));
     if (!File.ChangeRights(S_IWUSR, 0))
-        throw Fault(QStringLiteral("The file is read-only, and that cannot be changed. (%1)")
-                        .arg(File.errorString()),
-                    Path);
+        throw Fault(
+            tr("The file is read-only, and that cannot be changed. (%1)").arg(File.errorString()),
+            Path);
 }
 
 namespace {
@@ -60,8 +61,7 @@ int OpenForOther(const QString& Path) {
     const QByteArray Host = HostBytes(ResolvePath(Path));
     const int Descriptor = ::open(Host.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     if (Descriptor < 0)
-        throw Fault(QStringLiteral("The file cannot be read: %1.").arg(qt_error_string(errno)),
-                    Path);
+        throw Fault(tr("The file cannot be read: %1.").arg(qt_error_string(errno)), Path);
     return Descriptor;
 }
 

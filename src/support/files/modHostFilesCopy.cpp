@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "support/Fault.h"
+#include "support/Texts.h"
 #include "support/files/HostNames.h"
 #include "support/files/NameCache.h"
 #include "support/files/modHostFilesOpen.h"
@@ -46,8 +47,7 @@ class BytesCopy {
         if (Count < 0) Count = CopyByHand(Allowed);
         if (Allowed < Length) FailNoSpace(mTo.fileName());
         if (Count == 0)
-            throw Fault(QStringLiteral("The file cannot be read: it has become shorter."),
-                        mFrom.fileName());
+            throw Fault(tr("The file cannot be read: it has become shorter."), mFrom.fileName());
         return Count;
     }
 
@@ -73,12 +73,10 @@ class BytesCopy {
     }
 
     [[noreturn]] void FailRead() const {
-        throw Fault(QStringLiteral("The file cannot be read: %1.").arg(mFrom.errorString()),
-                    mFrom.fileName());
+        throw Fault(tr("The file cannot be read: %1.").arg(mFrom.errorString()), mFrom.fileName());
     }
     [[noreturn]] void FailWrite() const {
-        throw Fault(QStringLiteral("The file cannot be written: %1.").arg(mTo.errorString()),
-                    mTo.fileName());
+        throw Fault(tr("The file cannot be written: %1.").arg(mTo.errorString()), mTo.fileName());
     }
 
     HostFile mFrom, mTo;
@@ -102,8 +100,7 @@ void SyncVolume(const QString& Dir) {
     const QString Reason = qt_error_string(errno);
     if (Handle >= 0) ::close(Handle);
     if (!Done)
-        throw Fault(
-            QStringLiteral("What was copied cannot be brought to the disk: %1.").arg(Reason), Dir);
+        throw Fault(tr("What was copied cannot be brought to the disk: %1.").arg(Reason), Dir);
 #endif
 }
 

@@ -1,6 +1,7 @@
 #include "support/files/modHostFilesLines.h"
 
 #include "support/Fault.h"
+#include "support/Texts.h"
 #include "support/files/NameCache.h"
 #include "support/files/modHostFilesOpen.h"
 #include "support/files/modHostFilesSteps.h"
@@ -9,7 +10,7 @@ namespace neb {
 namespace {
 
 [[noreturn]] void FailWrite(const QFile& File, const QString& Path) {
-    throw Fault(QStringLiteral("The file cannot be written. (%1)").arg(File.errorString()), Path);
+    throw Fault(tr("The file cannot be written. (%1)").arg(File.errorString()), Path);
 }
 
 void Open(HostFile& File, const QString& Path) {

@@ -6,6 +6,7 @@
 #include <filesystem>
 
 #include "support/Fault.h"
+#include "support/Texts.h"
 #include "support/files/HostNames.h"
 #include "support/files/NameCache.h"
 #include "support/files/modHostFiles.h"
@@ -35,7 +36,7 @@ HostWatcher& Watcher() {
 }
 
 [[noreturn]] void FailWrite(const QFile& File, const QString& Path) {
-    Fail(QStringLiteral("The file cannot be written."), Path, File.errorString());
+    Fail(tr("The file cannot be written."), Path, File.errorString());
 }
 
 // A watcher that shortens the write makes it a full disk.
@@ -147,8 +148,7 @@ bool WriteEach(QFile& File, const char* Data, qint64 Length) {
 }
 
 void FailNoSpace(const QString& Path) {
-    Fail(QStringLiteral("The file cannot be written."), Path,
-         QStringLiteral("no space left on device"));
+    Fail(tr("The file cannot be written."), Path, tr("no space left on device"));
 }
 
 void WriteFile(const QString& Path, const QByteArray& Bytes) {
@@ -176,8 +176,7 @@ void DeleteFile(const QString& Path) {
     if (const HostInfo Info(Host); !Info.Exists() && !Info.IsLink()) return;
     AnnounceStep(HostStep::Delete, Path);
     HostFile File(Host);
-    if (!File.Delete())
-        Fail(QStringLiteral("The file cannot be deleted."), Path, File.errorString());
+    if (!File.Delete()) Fail(tr("The file cannot be deleted."), Path, File.errorString());
     NoteNameGone(Host);
 }
 
@@ -199,7 +198,7 @@ void RenameFile(const QString& From, const QString& To) {
     const QString Source = ResolvePath(From);
     const QString Target = ResolvePath(To);
     if (std::rename(HostBytes(Source).constData(), HostBytes(Target).constData()))
-        Fail(QStringLiteral("The file cannot be renamed."), To, qt_error_string(errno));
+        Fail(tr("The file cannot be renamed."), To, qt_error_string(errno));
     NoteNameGone(Source);
     NoteNameMade(Target);
 }
@@ -221,7 +220,7 @@ void SetReadOnly(const QString& Path) {
     AnnounceStep(HostStep::Protect, Path);
     HostFile File(ResolvePath(Path));
     if (!File.ChangeRights(0, WriteBits))
-        Fail(QStringLiteral("The file cannot be made read-only."), Path, File.errorString());
+        Fail(tr("The file cannot be made read-only."), Path, File.errorString());
 }
 
 void SyncFile(const QString& Path) {
@@ -240,8 +239,7 @@ void SyncDir(const QString& Dir) {
     ::close(Handle);
     // others do not know what that is
     if (Problem == EIO || Problem == ENOSPC || Problem == EDQUOT)
-        Fail(QStringLiteral("The names cannot be brought to the disk."), Dir,
-             qt_error_string(Problem));
+        Fail(tr("The names cannot be brought to the disk."), Dir, qt_error_string(Problem));
 #endif
 }
 
@@ -251,8 +249,7 @@ void MakeDirs(const QString& Dir) {
     AnnounceStep(HostStep::MakeDir, Dir);
     std::error_code Problem;
     fs::create_directories(HostBytes(Host).constData(), Problem);
-    if (!HostInfo(Host).IsFolder())
-        throw Fault(QStringLiteral("The directory cannot be made."), Dir);
+    if (!HostInfo(Host).IsFolder()) throw Fault(tr("The directory cannot be made."), Dir);
 }
 
 void MakeDirsIn(const QString& Base, const QString& Dir) {
@@ -265,8 +262,7 @@ void MakeDirsIn(const QString& Base, const QString& Dir) {
         const QString Part = ResolvePath(Dir.first(End));
         std::error_code Problem;
         fs::create_directory(HostBytes(Part).constData(), Problem);
-        if (!HostInfo(Part).IsFolder())
-            throw Fault(QStringLiteral("The directory cannot be made."), Dir);
+        if (!HostInfo(Part).IsFolder()) throw Fault(tr("The directory cannot be made."), Dir);
     }
 }
 
@@ -351,7 +347,7 @@ void CopyFile(const QString& From, const QString& To, const Yield& LetRun) {
 ScratchDir::ScratchDir() {
     QTemporaryDir Dir;
     Dir.setAutoRemove(false);
-    if (!Dir.isValid()) throw Fault(QStringLiteral("No temporary directory can be made."));
+    if (!Dir.isValid()) throw Fault(tr("No temporary directory can be made."));
     mPath = Dir.path() + u'/';
 }
 

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "support/Texts.h"
+
 namespace neb {
 
 LockReport Weaker(const LockReport& One, const LockReport& Other) {
@@ -14,13 +16,12 @@ LockReport Weaker(const LockReport& One, const LockReport& Other) {
 }
 
 QString LockSentence(const LockReport& Report) {
-    if (Report.IsFull())
-        return QStringLiteral("Foreign pictures and sounds are read in a locked room.");
+    if (Report.IsFull()) return tr("Foreign pictures and sounds are read in a locked room.");
     if (Report.IsLocked())
-        return QStringLiteral(
+        return tr(
             "Foreign pictures and sounds are read in a locked room, with fewer "
             "locks than this program knows: nebctl sandbox lists them.");
-    return QStringLiteral(
+    return tr(
         "This system cannot lock the room in which foreign pictures and sounds "
         "are read: nebctl sandbox tells what is missing.");
 }

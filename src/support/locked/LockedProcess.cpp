@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "support/Fault.h"
+#include "support/Texts.h"
 #include "support/files/HostNames.h"
 #include "support/files/modHostFiles.h"
 #include "support/files/modHostFilesSpelling.h"
@@ -171,14 +172,14 @@ struct LockedProcess::State {
 
 LockedProcess::LockedProcess(const LockedProgram& Program) {
     if (!FileExists(Program.Path))
-        throw Fault(QStringLiteral("No picture or sound can be read: a part of the program is "
-                                   "missing."),
+        throw Fault(tr("No picture or sound can be read: a part of the program is "
+                       "missing."),
                     Program.Path);
     mState = std::make_unique<State>(Program);
     const auto Ready = mState->Receive();
     if (!Ready || Ready->Kind != LockedReady)
-        throw Fault(QStringLiteral("No picture or sound can be read: a part of the program does "
-                                   "not get ready."),
+        throw Fault(tr("No picture or sound can be read: a part of the program does "
+                       "not get ready."),
                     Program.Path);
     mState->Report = LockReport::Of(Ready->Numbers[0]);
     // From here come those of memory and time.

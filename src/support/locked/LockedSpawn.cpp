@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "support/Fault.h"
+#include "support/Texts.h"
 #include "support/files/HostNames.h"
 #include "support/locked/Descriptor.h"
 #include "support/locked/LockedMessage.h"
@@ -19,8 +20,8 @@ namespace neb {
 namespace {
 
 [[noreturn]] void ThrowCannotStart(const QString& Path, int Error) {
-    throw Fault(QStringLiteral("No picture or sound can be read: a part of the program cannot be "
-                               "started. (%1)")
+    throw Fault(tr("No picture or sound can be read: a part of the program cannot be "
+                   "started. (%1)")
                     .arg(qt_error_string(Error)),
                 Path);
 }

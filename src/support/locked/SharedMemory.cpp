@@ -10,6 +10,7 @@
 #include <new>
 
 #include "support/Fault.h"
+#include "support/Texts.h"
 
 namespace neb {
 namespace {
@@ -23,8 +24,8 @@ SharedMemory::SharedMemory(const char* Name, qint64 Bytes, bool ForReading)
     : mFile(::memfd_create(Name, MFD_CLOEXEC | MFD_ALLOW_SEALING)), mBytes(Bytes) {
     if (*mFile < 0 && (errno == ENOSYS || errno == EPERM || errno == EACCES))
         throw Fault(
-            QStringLiteral("No picture or sound can be read: this system gives no memory "
-                           "that two processes can share."));
+            tr("No picture or sound can be read: this system gives no memory "
+               "that two processes can share."));
     if (*mFile < 0 || ::ftruncate(*mFile, Bytes) != 0) throw std::bad_alloc();
     const int Mode = ForReading ? PROT_READ : PROT_READ | PROT_WRITE;
     void* const Map = ::mmap(nullptr, static_cast<size_t>(Bytes), Mode, MAP_SHARED, *mFile, 0);
