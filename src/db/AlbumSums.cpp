@@ -6,6 +6,7 @@
 #include <set>
 
 #include "support/Fault.h"
+#include "support/Texts.h"
 #include "support/files/modHostFiles.h"
 #include "support/files/modHostFilesLines.h"
 #include "support/modFUFL.h"
@@ -173,8 +174,7 @@ void BeginAlbumSums(const QString& Album) {
 }
 
 void StoreNew(const QString& Path, const QByteArray& Bytes) {
-    if (NameExists(Path))
-        throw Fault(QStringLiteral("There is a file of this name already."), Path);
+    if (NameExists(Path)) throw Fault(tr("There is a file of this name already."), Path);
     StoreBeside(Path, Bytes, [&](const QString& Made) {
         PutNew(Made, Path, HasList(Path) ? SumOfBytes(Bytes) : QByteArray());
     });

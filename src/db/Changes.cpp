@@ -5,6 +5,7 @@
 #include "db/AlbumSums.h"
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
+#include "support/Texts.h"
 #include "support/files/modHostFiles.h"
 #include "support/modDEValidation.h"
 #include "support/modText.h"
@@ -12,8 +13,8 @@
 namespace neb {
 namespace {
 
-const char* const NoAlbum = "The Album was not found.";
-const char* const NoSlide = "Slide could not be found.";
+constexpr char NoAlbum[] = QT_TR_NOOP("The Album was not found.");
+constexpr char NoSlide[] = QT_TR_NOOP("Slide could not be found.");
 
 bool HasSlide(const clsDBEngine& theDB, std::int32_t SlideID) {
     return std::ranges::any_of(
@@ -31,7 +32,7 @@ void MakeValid(clsNEBSlideShow& Show) {
 }
 
 BoxRequest Missing(const char* Text) {
-    return Refuse(QString::fromLatin1(Text));
+    return Refuse(tr(Text));
 }
 
 // The first thing of this number, taken from where it is.
@@ -215,7 +216,7 @@ Answer<Announcement> Changes::EnterSlide(std::int32_t AlbumID, const clsNEBSlide
     clsNEBAlbum* Album = mDB.GetAlbum(AlbumID);
     if (!Album) return Missing(NoAlbum);
     if (Slide.SlideID < mDB.NextSlideID && HasSlide(mDB, Slide.SlideID))
-        return Refuse(QStringLiteral("There is a slide of the number %1.").arg(Slide.SlideID));
+        return Refuse(tr("There is a slide of the number %1.").arg(Slide.SlideID));
     MakeValid(*Album->Slides.emplace_back(std::make_unique<clsNEBSlide>(Slide)));
     mDB.NextSlideID = std::max(mDB.NextSlideID, Slide.SlideID + 1);
     Announcement Entered = Noted({Change::Kind::SlideSaved, AlbumID, Slide.SlideID});

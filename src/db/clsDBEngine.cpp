@@ -10,6 +10,7 @@
 #include "db/records/RecordCodec.h"
 #include "support/Fault.h"
 #include "support/ReasonOf.h"
+#include "support/Texts.h"
 #include "support/files/modHostFiles.h"
 #include "support/files/modHostFilesCopy.h"
 #include "support/modDEValidation.h"
@@ -159,7 +160,7 @@ std::optional<Fault> clsDBEngine::FinalizeDB() {
     else if (mSession || mLeft)
         SyncIfPossible(mDBPath);
     if (mWasThere && !IsDatabaseThere(mDBPath))
-        throw Fault(QStringLiteral("The database is not there any more."), mDBPath);
+        throw Fault(tr("The database is not there any more."), mDBPath);
     std::optional<Fault> NotKept = WriteDatabase(mDBPath, BuildImage(*this));
     mWasThere = true;
     mHasNewFiles = false;
@@ -188,15 +189,14 @@ Answer<> clsDBEngine::CheckAlbumName(std::int32_t AlbumID, const QString& AlbumN
     const QString Wanted = ComposedName(AlbumName);
     for (const auto& Other : Albums)
         if (Other->AlbumID != AlbumID && ComposedName(Other->AlbumName) == Wanted)
-            return Refuse(QStringLiteral("An Album with this name already exists."));
+            return Refuse(tr("An Album with this name already exists."));
     return CheckAlbumText(AlbumName);
 }
 
 Answer<> clsDBEngine::CheckAlbumText(const QString& AlbumName) {
-    if (AlbumName.trimmed().isEmpty())
-        return Refuse(QStringLiteral("You must specify an Album name."));
+    if (AlbumName.trimmed().isEmpty()) return Refuse(tr("You must specify an Album name."));
     if (ComposedName(AlbumName).size() > MaxName)
-        return Refuse(QStringLiteral("Album names must be <= 80 characters long."));
+        return Refuse(tr("Album names must be <= 80 characters long."));
     return Done();
 }
 
@@ -236,7 +236,7 @@ void clsDBEngine::SortAlbums() {
 
 void clsDBEngine::LoadAlbumsCombo(ComboList& cboAlbums, bool WithAddOption) const {
     cboAlbums.Clear();
-    if (WithAddOption) cboAlbums.AddItem(QStringLiteral("<NEW ALBUM>"), 0);
+    if (WithAddOption) cboAlbums.AddItem(tr("<NEW ALBUM>"), 0);
     if (Albums.empty()) return;
     for (const NameIndexEntry& Row : AlbumIndex) cboAlbums.AddItem(Row.Name, Row.ID);
 }

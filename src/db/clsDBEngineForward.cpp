@@ -1,12 +1,13 @@
 // What the engine hands on to the album, the show or the table that it concerns.
 #include "db/clsDBEngine.h"
 #include "db/modClearRecords.h"
+#include "support/Texts.h"
 
 namespace neb {
 
 Answer<clsNEBAlbum*> clsDBEngine::FoundAlbum(std::int32_t AlbumID) const {
     if (clsNEBAlbum* Album = GetAlbum(AlbumID)) return Album;
-    return Refuse(QStringLiteral("The Album was not found."));
+    return Refuse(tr("The Album was not found."));
 }
 
 Answer<clsNEBSlideShow*> clsDBEngine::FoundSlideShow(std::int32_t AlbumID,
@@ -14,7 +15,7 @@ Answer<clsNEBSlideShow*> clsDBEngine::FoundSlideShow(std::int32_t AlbumID,
     Answer<clsNEBAlbum*> Album = FoundAlbum(AlbumID);
     if (!Album) return Album.Refusal();
     if (clsNEBSlideShow* Show = (*Album)->GetSlideShow(SlideShowID)) return Show;
-    return Refuse(QStringLiteral("The Slide Show was not found."));
+    return Refuse(tr("The Slide Show was not found."));
 }
 
 Answer<> clsDBEngine::SaveSlide(std::int32_t SlideID, std::int32_t AlbumID,

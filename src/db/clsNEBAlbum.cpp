@@ -9,6 +9,7 @@
 #include "db/modAlbumFiles.h"
 #include "db/modNameIndex.h"
 #include "support/Fault.h"
+#include "support/Texts.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
 #include "support/modNumbers.h"
@@ -19,7 +20,7 @@ namespace {
 // The ID in a row of a view, the rows counted from 1.
 std::int32_t IdInRow(const std::vector<NameIndexEntry>& Index, std::int32_t Row) {
     if (static_cast<size_t>(Row) > Index.size())
-        throw Fault(QStringLiteral("There is no row %1 in the list.").arg(Row));
+        throw Fault(tr("There is no row %1 in the list.").arg(Row));
     return Index[static_cast<size_t>(Row) - 1].ID;
 }
 

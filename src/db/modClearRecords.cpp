@@ -7,6 +7,7 @@
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
 #include "support/Fault.h"
+#include "support/Texts.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
 
@@ -29,7 +30,7 @@ Answer<> DeleteOrphans(clsNEBAlbum& Album, const std::vector<std::int32_t>& Orph
                        const clsDBEngine& Engine) {
     for (const std::int32_t SlideID : Orphans)
         if (!Album.DeleteSlide(SlideID, Engine))
-            return Refuse(QStringLiteral("Error clearing orphan slides in destination album."));
+            return Refuse(tr("Error clearing orphan slides in destination album."));
     return Done();
 }
 
@@ -112,26 +113,24 @@ QStringList FilesOf(const Clearing& What) {
 }
 
 Answer<> ClearAlbumContents(const clsDBEngine& theDB, clsNEBAlbum& theAlbum) {
-    return Told(QStringLiteral("Clear Album Failed"), QStringLiteral("Failed to clear the album."),
-                [&] {
-                    const Clearing All = ClearingOf(theDB, theAlbum);
-                    theAlbum.ClearContents();
-                    DeleteListed(FilesOf(All));
-                    return Answer<>(Done());
-                });
+    return Told(tr("Clear Album Failed"), tr("Failed to clear the album."), [&] {
+        const Clearing All = ClearingOf(theDB, theAlbum);
+        theAlbum.ClearContents();
+        DeleteListed(FilesOf(All));
+        return Answer<>(Done());
+    });
 }
 
 Answer<> ClearSlideShowContents(const clsDBEngine& theDB, clsNEBAlbum& theAlbum,
                                 clsNEBSlideShow& theSlideShow) {
-    return Told(QStringLiteral("Clear Slide Show Failed"),
-                QStringLiteral("Failed to clear the slide show."), [&] {
-                    const Clearing Own = ClearingOf(theDB, theAlbum, theSlideShow);
-                    theSlideShow.ClearContents();
-                    Answer<> Emptied = DeleteOrphans(theAlbum, Own.Slides, theDB);
-                    if (!Emptied) return Emptied;
-                    DeleteListed(FilesOf(Own));
-                    return Emptied;
-                });
+    return Told(tr("Clear Slide Show Failed"), tr("Failed to clear the slide show."), [&] {
+        const Clearing Own = ClearingOf(theDB, theAlbum, theSlideShow);
+        theSlideShow.ClearContents();
+        Answer<> Emptied = DeleteOrphans(theAlbum, Own.Slides, theDB);
+        if (!Emptied) return Emptied;
+        DeleteListed(FilesOf(Own));
+        return Emptied;
+    });
 }
 
 }  // namespace neb

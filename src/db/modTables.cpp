@@ -5,6 +5,7 @@
 
 #include "db/records/RecordCodec.h"
 #include "support/Fault.h"
+#include "support/Texts.h"
 #include "support/files/modHostFiles.h"
 #include "support/modNumbers.h"
 
@@ -41,7 +42,7 @@ void ReadFactoryTimes(EffectStatRows& Rows, const QString& Path) {
     const QString Text = QString::fromLatin1(ReadFile(Path)).section(u'\n', 1);
     const QStringList Numbers = Text.split(Between, Qt::SkipEmptyParts);
     if (Numbers.size() < static_cast<qsizetype>(2 * FactoryRows))
-        throw Fault(QStringLiteral("The file of effect times ends too early."), Path);
+        throw Fault(tr("The file of effect times ends too early."), Path);
     Rows.reserve(FactoryRows);
     for (size_t I = 0; I < FactoryRows; ++I) {
         const auto Place = static_cast<qsizetype>(2 * I);

@@ -7,6 +7,7 @@
 #include <jpeglib.h>
 
 #include "pictures/formats/PictureFaults.h"
+#include "support/Texts.h"
 
 namespace neb {
 namespace {
@@ -69,8 +70,8 @@ void Writer::WriteLines(const uchar* Bits, qsizetype Stride) {
 
 QByteArray Writer::Encode(const QImage& Picture, int Quality) {
     if (setjmp(mJump))
-        throw Fault(QStringLiteral("The picture cannot be written as JPEG: it is empty or too "
-                                   "large."),
+        throw Fault(tr("The picture cannot be written as JPEG: it is empty or too "
+                       "large."),
                     {}, FaultNotSaved);
     jpeg_create_compress(&mInfo);
     jpeg_mem_dest(&mInfo, &mBytes, &mLength);

@@ -1,13 +1,14 @@
 #include "pictures/PictureFile.h"
 
 #include "pictures/formats/PictureDecoder.h"
+#include "support/Texts.h"
 #include "support/files/modHostFiles.h"
 
 namespace neb {
 
 QByteArray ReadPictureFile(const QString& File) {
     if (!FileExists(File) || !CanReadFile(File))
-        throw Fault(QStringLiteral("The picture cannot be opened."), File, FaultCannotOpen);
+        throw Fault(tr("The picture cannot be opened."), File, FaultCannotOpen);
     if (FileSize(File) > LargestPictureFile) ThrowFileTooLarge();
     try {
         return ReadFile(File);

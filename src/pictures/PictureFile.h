@@ -7,6 +7,7 @@
 #include <new>
 
 #include "pictures/formats/PictureFaults.h"
+#include "support/Texts.h"
 
 namespace neb {
 
@@ -21,8 +22,7 @@ auto FromPictureFile(const QString& File, Work Make) {
     } catch (const Fault& Reason) {
         throw Fault(Reason.What(), File, Reason.Number());
     } catch (const std::bad_alloc&) {
-        throw Fault(QStringLiteral("There is not enough memory for the picture."), File,
-                    FaultTooLarge);
+        throw Fault(tr("There is not enough memory for the picture."), File, FaultTooLarge);
     }
 }
 

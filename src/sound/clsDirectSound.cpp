@@ -2,12 +2,13 @@
 
 #include "sound/VolumeScale.h"
 #include "support/Fault.h"
+#include "support/Texts.h"
 
 namespace neb {
 namespace {
 
-const auto NothingLoaded = QStringLiteral("You must first load a sound file to be played.");
-const auto BadVolume = QStringLiteral("Volume must be >0 and <=100");
+constexpr char NothingLoaded[] = QT_TR_NOOP("You must first load a sound file to be played.");
+constexpr char BadVolume[] = QT_TR_NOOP("Volume must be >0 and <=100");
 
 // A show goes on without its sound rather than stop over a device that has gone.
 template <typename Call>
@@ -60,16 +61,16 @@ void clsDirectSound::UnloadFile() {
 
 int clsDirectSound::GetVolume() {
     if (mGraph) return mGraph->GetVolume();
-    mLastError = NothingLoaded;
+    mLastError = tr(NothingLoaded);
     return -1;
 }
 
 void clsDirectSound::SetVolume(int Value) {
     mLastError.clear();
     if (Value < 0 || Value > 100) {
-        mLastError = BadVolume;
+        mLastError = tr(BadVolume);
     } else if (!mGraph) {
-        mLastError = NothingLoaded;
+        mLastError = tr(NothingLoaded);
     } else {
         IgnoringFaults([&] { mGraph->PutVolume(HundredthsOfVolume(Value)); });
     }
@@ -78,7 +79,7 @@ void clsDirectSound::SetVolume(int Value) {
 bool clsDirectSound::Play(bool Repeat) {
     mLastError.clear();
     if (!mGraph) {
-        mLastError = NothingLoaded;
+        mLastError = tr(NothingLoaded);
         return false;
     }
     mGraph->PutRepeat(Repeat);

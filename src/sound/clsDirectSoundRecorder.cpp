@@ -4,6 +4,7 @@
 #include <cstdlib>
 
 #include "sound/WaveFile.h"
+#include "support/Texts.h"
 #include "support/files/modHostFiles.h"
 
 namespace neb {
@@ -20,14 +21,14 @@ struct RateOfCaps {
 constexpr RateOfCaps Rates[] = {{CaptureDevice::Mono8At22050, 22050},
                                 {CaptureDevice::Mono8At11025, 11025}};
 
-const auto NoSound = QStringLiteral("Unable to use the sound system.");
-const auto NoCapture = QStringLiteral("Unable to initialize sound card for capture.");
-const auto NoFormat = QStringLiteral("Recording is not supported by your sound card.");
-const auto NotSupported = QStringLiteral("Recording is not supported on your sound card.");
-const auto HalfDuplex =
-    QStringLiteral("This card does not support full duplex.  You may still record sound.");
-const auto NoRecording = QStringLiteral("You Must First Record a Sound.");
-const auto NoOutput = QStringLiteral("There is no sound card to play the recording on.");
+constexpr char NoSound[] = QT_TR_NOOP("Unable to use the sound system.");
+constexpr char NoCapture[] = QT_TR_NOOP("Unable to initialize sound card for capture.");
+constexpr char NoFormat[] = QT_TR_NOOP("Recording is not supported by your sound card.");
+constexpr char NotSupported[] = QT_TR_NOOP("Recording is not supported on your sound card.");
+constexpr char HalfDuplex[] =
+    QT_TR_NOOP("This card does not support full duplex.  You may still record sound.");
+constexpr char NoRecording[] = QT_TR_NOOP("You Must First Record a Sound.");
+constexpr char NoOutput[] = QT_TR_NOOP("There is no sound card to play the recording on.");
 
 std::uint32_t RateFor(std::uint32_t Caps) {
     for (const RateOfCaps& Each : Rates)
@@ -53,9 +54,9 @@ bool clsDirectSound::Recorder::Supported() {
 }
 
 bool clsDirectSound::Recorder::Initialize() {
-    if (!mDX) return Refuse(NoSound);
+    if (!mDX) return Refuse(tr(NoSound));
     mCapture = mDX->CreateCapture();
-    if (!mCapture) return Refuse(NoCapture);
+    if (!mCapture) return Refuse(tr(NoCapture));
     mInitialized = true;
     if (!InitCapture()) return false;
     CheckOutput();
@@ -64,13 +65,13 @@ bool clsDirectSound::Recorder::Initialize() {
 
 bool clsDirectSound::Recorder::InitCapture() {
     const std::uint32_t Rate = RateFor(mCapture->GetCaps());
-    if (Rate == 0) return Refuse(NoFormat);
+    if (Rate == 0) return Refuse(tr(NoFormat));
     WaveFormat Format;
     Format.SamplesPerSec = Format.AvgBytesPerSec = Rate;
     auto Buffer =
         mCapture->CreateCaptureBuffer(Format, static_cast<std::int32_t>(Rate) * MostSeconds);
     // Only now, so that a recording stays when the microphone for the next one has gone.
-    if (!Buffer) return Refuse(NoCapture);
+    if (!Buffer) return Refuse(tr(NoCapture));
     mCaptureBuffer = std::move(Buffer);
     mCaptureFormat = Format;
     return true;
@@ -79,12 +80,12 @@ bool clsDirectSound::Recorder::InitCapture() {
 void clsDirectSound::Recorder::CheckOutput() {
     const PlaybackState State = mDX->CheckPlayback();
     mHasOutput = State == PlaybackState::Ready;
-    if (State == PlaybackState::Allocated) mLastError = HalfDuplex;
+    if (State == PlaybackState::Allocated) mLastError = tr(HalfDuplex);
 }
 
 bool clsDirectSound::Recorder::StartRecording() {
     mLastError.clear();
-    if (!mInitialized) return Refuse(NotSupported);
+    if (!mInitialized) return Refuse(tr(NotSupported));
     StopRecording();
     StopPlayback();
     if (!InitCapture()) return false;
@@ -105,11 +106,11 @@ void clsDirectSound::Recorder::StopRecording() {
 // What playing and saving ask for in the same words.
 bool clsDirectSound::Recorder::HasClip() {
     mLastError.clear();
-    if (!mInitialized) return Refuse(NotSupported);
+    if (!mInitialized) return Refuse(tr(NotSupported));
     StopRecording();
-    if (!mHasRecording) return Refuse(NoRecording);
+    if (!mHasRecording) return Refuse(tr(NoRecording));
     if (!mBufferBuilt) BuildPlaybackBuffer();
-    return mBufferBuilt || Refuse(NoRecording);
+    return mBufferBuilt || Refuse(tr(NoRecording));
 }
 
 QByteArray clsDirectSound::Recorder::ReadRecorded(std::int32_t First, std::int32_t Count) const {
@@ -134,9 +135,9 @@ bool clsDirectSound::Recorder::StartPlayback() {
     if (!HasClip()) return false;
     if (mPlaying) StopPlayback();
     if (!mHasOutput) CheckOutput();
-    if (!mHasOutput) return Refuse(mLastError.isEmpty() ? NoOutput : mLastError);
+    if (!mHasOutput) return Refuse(mLastError.isEmpty() ? tr(NoOutput) : mLastError);
     if (!mPlayBuffer) mPlayBuffer = mDX->CreateSoundBuffer(mCaptureFormat, mBytes);
-    if (!mPlayBuffer) return Refuse(NoOutput);
+    if (!mPlayBuffer) return Refuse(tr(NoOutput));
     mPlayBuffer->Run();
     mPlaying = true;
     return true;
@@ -164,7 +165,7 @@ bool clsDirectSound::Recorder::SaveToFile(const QString& Path) {
 }
 
 Answer<> clsDirectSound::Recorder::SetVolume(int Value) {
-    if (Value < 1 || Value > 100) return neb::Refuse(QStringLiteral("Volume must be >0 and <=100"));
+    if (Value < 1 || Value > 100) return neb::Refuse(tr("Volume must be >0 and <=100"));
     mVolume = Value;
     if (mRecording) mLevel.ChangeAt(Position(), Value);
     return Done();

@@ -6,6 +6,7 @@
 
 #include "db/records/RecordCodec.h"
 #include "support/Fault.h"
+#include "support/Texts.h"
 #include "support/files/modHostFilesAccess.h"
 
 namespace neb {
@@ -112,9 +113,9 @@ FileFound LookAtRecordFile(const QString& DBPath, RecordFile File) {
     using enum FileFound::State;
     const QString Path = RecordPath(DBPath, File);
     if (const QString Why = WhyUnseen(Path); !Why.isEmpty())
-        return {Unreadable, 0, QStringLiteral("The file cannot be read: %1.").arg(Why)};
+        return {Unreadable, 0, tr("The file cannot be read: %1.").arg(Why)};
     if (!NameExists(Path)) return {};
-    if (FolderExists(Path)) return {NoFile, 0, QStringLiteral("it is a folder")};
+    if (FolderExists(Path)) return {NoFile, 0, tr("it is a folder")};
     const qint64 Length = FileSize(Path);
     try {
         const bool Odd = IsCut(File, Length);

@@ -11,6 +11,7 @@
 
 #include "db/records/KeptAside.h"
 #include "db/records/modJournal.h"
+#include "support/Texts.h"
 #include "support/files/modHostFiles.h"
 #include "support/files/modHostFilesAccess.h"
 #include "support/files/modHostFilesCopy.h"
@@ -213,7 +214,7 @@ struct SessionJournal::State {
     // Under another name first: what was flushed before a write failed is not lost meanwhile.
     void Open() {
         if (!FolderExists(DBPath) || (WasThere && !IsDatabaseThere(DBPath)))
-            throw Fault(QStringLiteral("The database is not there any more."), DBPath);
+            throw Fault(tr("The database is not there any more."), DBPath);
         Mark = MarkOf(DBPath);
         const QString Path = SessionJournalPath(DBPath);
         const QByteArray Before = Beginning();
@@ -236,7 +237,7 @@ struct SessionJournal::State {
             if (Bytes.size() >= Good.Length && BaseIn(Bytes) == Sum)
                 return Bytes.first(Good.Length);
             if (ReadJournal(DBPath) != JournalState::Whole)
-                throw Fault(QStringLiteral("The records have been replaced by others."), DBPath);
+                throw Fault(tr("The records have been replaced by others."), DBPath);
         }
         From = Good = {};
         return HeadOf(Sum);

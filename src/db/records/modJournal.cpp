@@ -12,6 +12,7 @@
 #include "db/records/SessionJournal.h"
 #include "db/records/WordsFile.h"
 #include "support/Fault.h"
+#include "support/Texts.h"
 #include "support/files/modHostFiles.h"
 #include "support/files/modHostFilesAccess.h"
 
@@ -138,7 +139,7 @@ std::optional<Fault> CarryOut(const QString& DBPath, const RecordImage& Image, F
     std::optional<Fault> NotKept;
     if (Are == FilesThere::Whole) NotKept = KeepGenerationBefore(DBPath, Image);
     if (!FileExists(JournalPath(DBPath)))  // the disk was taken away: what is here is not it
-        throw Fault(QStringLiteral("The database is not there any more."), DBPath);
+        throw Fault(tr("The database is not there any more."), DBPath);
     for (const RecordFile File :
          {RecordFile::Properties, RecordFile::EffectStats, RecordFile::NextIDs})
         WriteFiles(DBPath, Image, std::span(&File, 1));
@@ -248,8 +249,7 @@ JournalState ReadJournal(const QString& DBPath, RecordImage* Image) {
 }
 
 std::optional<Fault> WriteDatabase(const QString& DBPath, const RecordImage& Image) {
-    if (!FolderExists(DBPath))
-        throw Fault(QStringLiteral("The database directory is not there."), DBPath);
+    if (!FolderExists(DBPath)) throw Fault(tr("The database directory is not there."), DBPath);
     SettleCommitted(DBPath);  // before the journal that it goes with is replaced
     const FilesThere Are = LookAtFiles(DBPath);
     WriteJournal(DBPath, Image);

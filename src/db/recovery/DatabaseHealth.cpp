@@ -8,6 +8,8 @@
 #include "db/records/SessionJournal.h"
 #include "db/records/WordsFile.h"
 #include "support/Fault.h"
+#include "support/Grouped.h"
+#include "support/Texts.h"
 #include "support/files/modHostFiles.h"
 #include "support/files/modHostFilesAccess.h"
 
@@ -21,11 +23,6 @@ QString NameOf(RecordFile File) {
 // These came later than the others, and their records may be none.
 bool IsOptional(RecordFile File) {
     return File == RecordFile::Properties || File == RecordFile::EffectStats;
-}
-
-QString Counted(qint64 Count, const char* One, const char* Many) {
-    return Count == 1 ? QStringLiteral("1 ") + QLatin1String(One)
-                      : QStringLiteral("%1 ").arg(Count) + QLatin1String(Many);
 }
 
 bool HoldsFiles(const QString& Folder) {
@@ -72,8 +69,7 @@ class HealthLook {
         QString Why = WhyUnseen(mDBPath);
         if (Why.isEmpty() && Error && FolderExists(mDBPath))
             Why = QString::fromStdString(Error.message());
-        if (!Why.isEmpty())
-            Say(QStringLiteral("The folder %1 cannot be read: %2.").arg(mDBPath, Why));
+        if (!Why.isEmpty()) Say(tr("The folder %1 cannot be read: %2.").arg(mDBPath, Why));
         return Why.isEmpty();
     }
 
@@ -81,7 +77,7 @@ class HealthLook {
         for (const RecordFile File : AllRecordFiles) {
             FileFound Found = LookAtRecordFile(mDBPath, File);
             if (Found.Is == FileFound::State::NoFile)
-                Say(QStringLiteral("%1 is no file: %2.").arg(NameOf(File), Found.Why));
+                Say(tr("%1 is no file: %2.").arg(NameOf(File), Found.Why));
             if (Found.Is == FileFound::State::Unreadable)
                 Say(QStringLiteral("%1: %2").arg(NameOf(File), Found.Why));
             if (!Found.Why.isEmpty()) mFound.Unusable.push_back(File);
@@ -111,35 +107,34 @@ class HealthLook {
         const QString Lost = WhatIsWrongWithWords();
         mFound.LacksWords = !Lost.isEmpty();
         if (mFound.LacksWords)
-            Say(Lost + QStringLiteral(" Captions and names in other scripts, or longer than their "
-                                      "records hold, are there as earlier albums in Backups have "
-                                      "them, or else in the closest letters."));
+            Say(Lost + tr(" Captions and names in other scripts, or longer than their "
+                          "records hold, are there as earlier albums in Backups have "
+                          "them, or else in the closest letters."));
     }
     QString WhatIsWrongWithWords() {
         const QString Name = NameOf(RecordFile::Words),
                       Path = RecordPath(mDBPath, RecordFile::Words);
         if (!NameExists(Path) && WhyUnseen(Path).isEmpty())
-            return HasLostWords(mDBPath) ? Name + QStringLiteral(" is missing.") : QString();
+            return HasLostWords(mDBPath) ? Name + tr(" is missing.") : QString();
         const QString Wrong = WhyNotUsable(Path);
         if (Wrong.isEmpty())
             return HasOtherWords(mDBPath)
-                       ? Name +
-                             QStringLiteral(" is not as it was written: something has changed it.")
+                       ? Name + tr(" is not as it was written: something has changed it.")
                        : QString();
         mFound.Unusable.push_back(RecordFile::Words);
         return Name + Wrong;
     }
     // The end of a sentence; empty for what is sound.
     static QString WhyNotUsable(const QString& Path) {
-        if (FolderExists(Path)) return QStringLiteral(" is no file: it is a folder.");
+        if (FolderExists(Path)) return tr(" is no file: it is a folder.");
         try {
             const WordsFound::State Is = WordsIn(ReadFile(Path)).Is;
             if (Is == WordsFound::State::Sound) return {};
             return Is == WordsFound::State::Later
-                       ? QStringLiteral(" was written by a later version of the program.")
-                       : QStringLiteral(" is damaged.");
+                       ? tr(" was written by a later version of the program.")
+                       : tr(" is damaged.");
         } catch (const Fault& Problem) {
-            return QStringLiteral(": The file cannot be read: %1.").arg(Problem.What());
+            return tr(": The file cannot be read: %1.").arg(Problem.What());
         }
     }
 
@@ -185,10 +180,10 @@ class HealthLook {
         const bool HasNumbers = mFound.Free != IDCounters();
         mFound.IsNew = AsWritten || (!HasNumbers && ListGenerations(mDBPath).empty());
         if (mFound.IsNew) return;
-        Say(HasNumbers ? QStringLiteral("All files of records are missing, although pictures or "
-                                        "sounds lie in Albums.")
-                       : QStringLiteral("All files of records are missing, although there are "
-                                        "earlier albums in Backups."));
+        Say(HasNumbers ? tr("All files of records are missing, although pictures or "
+                            "sounds lie in Albums.")
+                       : tr("All files of records are missing, although there are "
+                            "earlier albums in Backups."));
     }
 
     bool OthersHaveRecords(RecordFile File) const {
@@ -213,19 +208,18 @@ class HealthLook {
                              std::ranges::count(mNoted.Others, File) > 0;
         if (Is(File, FileFound::State::Missing)) {
             if (IsOther || (!IsOptional(File) && OthersHaveRecords(File)))
-                Say(QStringLiteral("%1 is missing.").arg(NameOf(File)));
+                Say(tr("%1 is missing.").arg(NameOf(File)));
         } else if (Is(File, FileFound::State::Cut)) {
             SayCut(File);
         } else if (IsOther && In(File).Length == 0) {
-            Say(QStringLiteral("%1 is empty, and was not when it was written.").arg(NameOf(File)));
+            Say(tr("%1 is empty, and was not when it was written.").arg(NameOf(File)));
         } else if (IsOther && Is(File, FileFound::State::Whole)) {
-            Say(QStringLiteral("%1 is not as it was written: something has changed it.")
-                    .arg(NameOf(File)));
+            Say(tr("%1 is not as it was written: something has changed it.").arg(NameOf(File)));
         }
     }
     void SayCut(RecordFile File) {
-        if (In(File).Length == 0) return Say(QStringLiteral("%1 is empty.").arg(NameOf(File)));
-        Say(QStringLiteral("%1 is damaged: its %2 bytes are no whole number of records.")
+        if (In(File).Length == 0) return Say(tr("%1 is empty.").arg(NameOf(File)));
+        Say(tr("%1 is damaged: its %2 bytes are no whole number of records.")
                 .arg(NameOf(File))
                 .arg(In(File).Length));
     }
@@ -235,35 +229,40 @@ class HealthLook {
         if (mNoted.Is == NotedRecords::State::Changed) return;
         if (IsEmpty(RecordFile::Albums) && IsEmpty(RecordFile::Slides) && mInAlbums.AlbumID > 0)
             Say(
-                QStringLiteral("Albums.dat has no albums, although there are folders of albums in "
-                               "Albums."));
+                tr("Albums.dat has no albums, although there are folders of albums in "
+                   "Albums."));
         if (IsEmpty(RecordFile::Slides) && AnyAlbumHolds(mDBPath, SlidesFolder))
-            Say(QStringLiteral("Slides.dat has no slides, although there are pictures in Albums."));
+            Say(tr("Slides.dat has no slides, although there are pictures in Albums."));
         if (IsEmpty(RecordFile::SlideShowDetails) && mRecords.LiveIn(RecordFile::SlideShows) > 0)
-            Say(QStringLiteral("SlideShowDetails.dat is empty, although there are slide shows."));
+            Say(tr("SlideShowDetails.dat is empty, although there are slide shows."));
         if (IsEmpty(RecordFile::SlideShowSoundTracks) &&
             mRecords.LiveIn(RecordFile::SlideShows) > 0 &&
             AnyAlbumHolds(mDBPath, SoundTracksFolder))
             Say(
-                QStringLiteral("SlideShowSoundTracks.dat is empty, although there are sound tracks "
-                               "in Albums."));
+                tr("SlideShowSoundTracks.dat is empty, although there are sound tracks "
+                   "in Albums."));
     }
 
     void JudgeOwners() {
         const qint64 Slides = mRecords.SlidesAlone, Shows = mRecords.ShowsAlone;
         if (Slides > 0)
-            Say(Counted(Slides, "slide belongs", "slides belong") +
-                QStringLiteral(" to an album that is not in Albums.dat."));
+            Say(Counted(Slides,
+                        QT_TR_NOOP("%1 slide belongs to an album that is not in Albums.dat."),
+                        QT_TR_NOOP("%1 slides belong to an album that is not in Albums.dat.")));
         if (Shows > 0)
-            Say(Counted(Shows, "slide show belongs", "slide shows belong") +
-                QStringLiteral(" to an album that is not in Albums.dat."));
+            Say(Counted(
+                Shows, QT_TR_NOOP("%1 slide show belongs to an album that is not in Albums.dat."),
+                QT_TR_NOOP("%1 slide shows belong to an album that is not in Albums.dat.")));
         if (const qint64 Parts = mRecords.PlacesAlone + mRecords.TracksAlone;
             Parts > 0 && Shows == 0)
-            Say(Counted(Parts, "place or sound track belongs", "places or sound tracks belong") +
-                QStringLiteral(" to a slide show that is not there."));
+            Say(Counted(
+                Parts,
+                QT_TR_NOOP("%1 place or sound track belongs to a slide show that is not there."),
+                QT_TR_NOOP("%1 places or sound tracks belong to a slide show that is not there.")));
         if (mRecords.Senseless > 0)
-            Say(Counted(mRecords.Senseless, "record has", "records have") +
-                QStringLiteral(" a number that the program never gives."));
+            Say(Counted(mRecords.Senseless,
+                        QT_TR_NOOP("%1 record has a number that the program never gives."),
+                        QT_TR_NOOP("%1 records have a number that the program never gives.")));
     }
 
     // Pictures beyond the counters that the program has written itself were left by a crash.
@@ -271,17 +270,17 @@ class HealthLook {
         if (!Is(RecordFile::NextIDs, FileFound::State::Whole)) return;
         const HighestNumbers All =
             AsWritten ? mRecords.Highest : HigherOf(mRecords.Highest, mInAlbums);
-        JudgeCounter("album", mRecords.Next.AlbumID, All.AlbumID);
-        JudgeCounter("slide", mRecords.Next.SlideID, All.SlideID);
-        JudgeCounter("slide show", mRecords.Next.SlideShowID, All.SlideShowID);
+        JudgeCounter(QT_TR_NOOP("album"), mRecords.Next.AlbumID, All.AlbumID);
+        JudgeCounter(QT_TR_NOOP("slide"), mRecords.Next.SlideID, All.SlideID);
+        JudgeCounter(QT_TR_NOOP("slide show"), mRecords.Next.SlideShowID, All.SlideShowID);
     }
     void JudgeCounter(const char* What, std::int32_t Next, std::int32_t Highest) {
-        const QString Name = QLatin1String(What);
+        const QString Name = tr(What);
         if (Next < 1 || Next > MostNumbers)
-            Say(QStringLiteral("NextIDs.dat has no sensible number for the next %1.").arg(Name));
+            Say(tr("NextIDs.dat has no sensible number for the next %1.").arg(Name));
         else if (Next <= Highest)
-            Say(QStringLiteral("NextIDs.dat says that the next %1 has the number %2, but number %3 "
-                               "is taken: new pictures or sounds would replace old ones.")
+            Say(tr("NextIDs.dat says that the next %1 has the number %2, but number %3 "
+                   "is taken: new pictures or sounds would replace old ones.")
                     .arg(Name)
                     .arg(Next)
                     .arg(Highest));

@@ -6,6 +6,7 @@
 
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
+#include "support/Texts.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
 
@@ -65,7 +66,7 @@ QString Quoted(const QString& Name) {
 }
 
 QString NameOf(const clsNEBSlideShow& Show, const clsNEBAlbum& Album) {
-    return QStringLiteral("\"%1\" of \"%2\"").arg(Show.SlideShowName, Album.AlbumName);
+    return tr("\"%1\" of \"%2\"").arg(Show.SlideShowName, Album.AlbumName);
 }
 
 class Comparison {
@@ -91,7 +92,7 @@ class Comparison {
     void CompareAlbums(const clsNEBAlbum& Then, const clsNEBAlbum& Now) {
         if (Then.AlbumID == Now.AlbumID && Then.AlbumName != Now.AlbumName)
             mFound.AlbumsRenamed
-                << QStringLiteral("\"%1\" instead of \"%2\"").arg(Then.AlbumName, Now.AlbumName);
+                << tr("\"%1\" instead of \"%2\"").arg(Then.AlbumName, Now.AlbumName);
         CompareSlides(Then, Now);
         CompareShows(Then, Now);
     }
@@ -124,12 +125,12 @@ class Comparison {
 // Nothing for none of them.
 QStringList Sentence(int Count, const char* OfOne, const char* OfMany) {
     if (Count == 0) return {};
-    return {Count == 1 ? QString::fromLatin1(OfOne) : QString::fromLatin1(OfMany).arg(Count)};
+    return {Count == 1 ? tr(OfOne) : tr(OfMany).arg(Count)};
 }
 
 QStringList Sentence(const char* Words, const QStringList& Names) {
     if (Names.isEmpty()) return {};
-    return {QString::fromLatin1(Words) + Names.join(QStringLiteral(", ")) + u'.'};
+    return {tr(Words) + Names.join(QStringLiteral(", ")) + u'.'};
 }
 
 // The files of one folder that records name and that are not there. Names differ in case freely.
@@ -162,17 +163,21 @@ bool StateDifferences::AreNone() const {
 }
 
 QStringList StateDifferences::Sentences() const {
-    if (AreNone()) return {QStringLiteral("No album, slide or slide show differs.")};
-    return Sentence("Albums that come back: ", AlbumsThen) +
-           Sentence("Slide shows that come back: ", ShowsThen) +
-           Sentence(SlidesThen, "1 slide comes back.", "%1 slides come back.") +
-           Sentence("Albums that go: ", AlbumsNow) + Sentence("Slide shows that go: ", ShowsNow) +
-           Sentence(SlidesNow, "1 slide goes.", "%1 slides go.") +
-           Sentence("Albums that get their earlier names: ", AlbumsRenamed) +
-           Sentence(CaptionsChanged, "1 caption changes back.", "%1 captions change back.") +
-           Sentence(SlidesChanged, "1 slide gets its earlier picture or sound.",
-                    "%1 slides get their earlier pictures or sounds.") +
-           Sentence(ShowsChanged, "1 slide show changes back.", "%1 slide shows change back.");
+    if (AreNone()) return {tr("No album, slide or slide show differs.")};
+    return Sentence(QT_TR_NOOP("Albums that come back: "), AlbumsThen) +
+           Sentence(QT_TR_NOOP("Slide shows that come back: "), ShowsThen) +
+           Sentence(SlidesThen, QT_TR_NOOP("1 slide comes back."),
+                    QT_TR_NOOP("%1 slides come back.")) +
+           Sentence(QT_TR_NOOP("Albums that go: "), AlbumsNow) +
+           Sentence(QT_TR_NOOP("Slide shows that go: "), ShowsNow) +
+           Sentence(SlidesNow, QT_TR_NOOP("1 slide goes."), QT_TR_NOOP("%1 slides go.")) +
+           Sentence(QT_TR_NOOP("Albums that get their earlier names: "), AlbumsRenamed) +
+           Sentence(CaptionsChanged, QT_TR_NOOP("1 caption changes back."),
+                    QT_TR_NOOP("%1 captions change back.")) +
+           Sentence(SlidesChanged, QT_TR_NOOP("1 slide gets its earlier picture or sound."),
+                    QT_TR_NOOP("%1 slides get their earlier pictures or sounds.")) +
+           Sentence(ShowsChanged, QT_TR_NOOP("1 slide show changes back."),
+                    QT_TR_NOOP("%1 slide shows change back."));
 }
 
 StateDifferences Compare(const clsDBEngine& Then, const clsDBEngine& Now) {

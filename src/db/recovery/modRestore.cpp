@@ -8,6 +8,7 @@
 #include "db/modLoadRecords.h"
 #include "db/records/RecordCodec.h"
 #include "db/records/WordsFile.h"
+#include "support/Texts.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
 
@@ -167,8 +168,8 @@ Rest KeepAndLoad(const QString& DBPath, const QString& ProgramPath, const Databa
     const FoundSession Session = LookForSession(DBPath);
     QString NotKept;  // it lies in the folder by now
     if (!RecoverDatabase(DBPath, Left.Kept.PutAside, NotKept))
-        throw Fault(QStringLiteral("The files of an interrupted transfer cannot be put in their "
-                                   "places."),
+        throw Fault(tr("The files of an interrupted transfer cannot be put in their "
+                       "places."),
                     StagingFolder(DBPath));
     Left.Engine.SetDBPath(DBPath);
     Left.Engine.SetProgramPath(ProgramPath);
@@ -225,7 +226,7 @@ KeptFiles GoOnWithRest(const QString& DBPath, const QString& ProgramPath,
 KeptFiles RestoreInstead(const QString& DBPath, const QString& ProgramPath,
                          const DatabaseHealth& Health, const Generation& Which) {
     const auto Then = OpenGeneration(Which, DBPath);
-    if (!Then) throw Fault(QStringLiteral("The earlier albums are damaged."), Which.Path);
+    if (!Then) throw Fault(tr("The earlier albums are damaged."), Which.Path);
     Rest Left = KeepAndLoad(DBPath, ProgramPath, Health);
     RestoreState(Left.Engine, *Then);
     return Left.Kept;

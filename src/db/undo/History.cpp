@@ -8,6 +8,7 @@
 #include "db/modAlbumFiles.h"
 #include "db/undo/PutBack.h"
 #include "support/Fault.h"
+#include "support/Texts.h"
 #include "support/files/modHostFiles.h"
 #include "support/files/modHostFilesCopy.h"
 
@@ -47,8 +48,7 @@ bool HasParts(const UndoStep& Step) {
 }
 
 BoxRequest CannotUndo(const QString& Name, const QString& Why) {
-    return Refuse(QStringLiteral("\"%1\" cannot be taken back.\n%2").arg(Name, Why),
-                  QStringLiteral("Undo"));
+    return Refuse(tr("\"%1\" cannot be taken back.\n%2").arg(Name, Why), tr("Undo"));
 }
 
 }  // namespace
@@ -243,7 +243,7 @@ Answer<Undone> History::Redo(const Yield& LetRun) {
 
 Answer<Undone> History::Move(Steps& From, Steps& To, const Yield& LetRun) {
     Drop(From, [](const auto& Each) { return !Each.HasChanged; });
-    if (mIsMoving || From.empty()) return Refuse(QStringLiteral("There is nothing to take back."));
+    if (mIsMoving || From.empty()) return Refuse(tr("There is nothing to take back."));
     const QScopedValueRollback Moving(mIsMoving, true);
     UndoStep Step = std::move(From.back());
     From.pop_back();
@@ -310,8 +310,7 @@ void History::BringBack(UndoStep::File& File) {
     const bool IsReplaced = FileExists(File.Path);
     const QString Held = IsReplaced ? mFiles.Hold(File.Path) : QString();
     if (IsReplaced && Held.isEmpty())
-        throw Fault(QStringLiteral("There is no room to keep the file that is there now."),
-                    File.Path);
+        throw Fault(tr("There is no room to keep the file that is there now."), File.Path);
     try {
         mFiles.PutBack(File.Kept, File.Path);
     } catch (...) {

@@ -2,6 +2,7 @@
 
 #include "db/AlbumSums.h"
 #include "support/Fault.h"
+#include "support/Texts.h"
 #include "support/files/modHostFiles.h"
 #include "support/files/modHostFilesCopy.h"
 #include "support/modFUFL.h"
@@ -87,8 +88,7 @@ void UndoFiles::PutBack(const QString& Kept, const QString& Path) {
     MakeDirsIn(mDBPath, GetFilePath(NameOf(Path)));
     if (IsPlainFile(Kept)) return PutFile(Kept, Path);
     DeleteFolder(Path);
-    if (NameExists(NameOf(Path)))
-        throw Fault(QStringLiteral("There is a file of this name already."), Path);
+    if (NameExists(NameOf(Path))) throw Fault(tr("There is a file of this name already."), Path);
     RenameFile(Kept, NameOf(Path));
 }
 

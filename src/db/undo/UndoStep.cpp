@@ -4,14 +4,15 @@
 #include <functional>
 
 #include "db/clsDBEngine.h"
+#include "support/Texts.h"
 #include "support/modCharacters.h"
 
 namespace neb {
 namespace {
 
-const QString SlideChanged = QStringLiteral("The slide has been changed since.");
-const QString ShowChanged = QStringLiteral("The slide show has been changed since.");
-const QString AlbumGone = QStringLiteral("Its album is not there any more.");
+constexpr char SlideChanged[] = QT_TR_NOOP("The slide has been changed since.");
+constexpr char ShowChanged[] = QT_TR_NOOP("The slide show has been changed since.");
+constexpr char AlbumGone[] = QT_TR_NOOP("Its album is not there any more.");
 constexpr qsizetype MostInMenu = 40, MostInName = 80;
 
 QString Quoted(const QString& Verb, const QString& Text) {
@@ -19,7 +20,7 @@ QString Quoted(const QString& Verb, const QString& Text) {
     if (Line.isEmpty()) return Verb;
     const QString Short =
         Line.size() <= MostInMenu ? Line : FirstUnits(Line, MostInMenu).trimmed() + u'…';
-    return Verb + QStringLiteral(" \"") + Short + u'"';
+    return tr("%1 \"%2\"").arg(Verb, Short);
 }
 
 // A slide without a caption is called by its number, as in the list of slides.
@@ -56,16 +57,16 @@ QString NameOfSlides(const UndoStep& Step) {
     const auto Count = QString::number(Slides.size());
     const bool AreGone = std::ranges::all_of(Step.SlidesNow, [](const auto& Now) { return !Now; });
     if (Slides.size() > 1)
-        return AreGone              ? QStringLiteral("Delete %1 Slides").arg(Count)
-               : Step.Files.empty() ? QStringLiteral("Change %1 Captions").arg(Count)
-                                    : QStringLiteral("Change %1 Slides").arg(Count);
+        return AreGone              ? tr("Delete %1 Slides").arg(Count)
+               : Step.Files.empty() ? tr("Change %1 Captions").arg(Count)
+                                    : tr("Change %1 Slides").arg(Count);
     const clsNEBSlide& Was = *Slides[0].Was;
-    if (AreGone) return QuotedSlide(QStringLiteral("Delete Slide"), Was);
+    if (AreGone) return QuotedSlide(tr("Delete Slide"), Was);
     const clsNEBSlide& Now = *Step.SlidesNow[0];
     if (!Step.Verb.isEmpty()) return QuotedSlide(Step.Verb, Now);
     const bool IsCaption = Step.Files.empty() && IsCaptionAlone(Was, Now);
-    return IsCaption ? Quoted(QStringLiteral("Change Caption"), Now.SlideText)
-                     : QuotedSlide(QStringLiteral("Change Slide"), Now);
+    return IsCaption ? Quoted(tr("Change Caption"), Now.SlideText)
+                     : QuotedSlide(tr("Change Slide"), Now);
 }
 
 // A slide that is still there, of which the step's own fields are as it left them.
@@ -83,9 +84,10 @@ QString WhyNotSlides(const UndoStep& Step, const clsNEBAlbum& Album) {
         const auto& Was = Step.Were.Slides[I].Was;
         const auto& Now = Step.SlidesNow[I];
         const clsNEBSlide* There = Slides.Find(Step.Were.Slides[I].ID);
-        if (!There != !Now) return SlideChanged;
+        if (!There != !Now) return tr(SlideChanged);
         if (!Now) continue;
-        if (Was ? !IsAsLeft(*There, *Was, *Now) : !IsSameSlide(*There, *Now)) return SlideChanged;
+        if (Was ? !IsAsLeft(*There, *Was, *Now) : !IsSameSlide(*There, *Now))
+            return tr(SlideChanged);
     }
     return {};
 }
@@ -94,7 +96,7 @@ QString WhyNotShows(const UndoStep& Step, const clsNEBAlbum& Album) {
     for (size_t I = 0; I < Step.Were.Shows.size(); ++I) {
         const auto& Now = Step.ShowsNow[I];
         const clsNEBSlideShow* There = Album.GetSlideShow(Step.Were.Shows[I].ID);
-        if (!There != !Now || (Now && !IsSameShow(*There, *Now))) return ShowChanged;
+        if (!There != !Now || (Now && !IsSameShow(*There, *Now))) return tr(ShowChanged);
     }
     return {};
 }
@@ -149,14 +151,12 @@ bool ShareKey(const Parts& One, const Parts& Other) {
 
 QString NameOfStep(const UndoStep& Step) {
     if (!Step.Name.isEmpty()) return Step.Name;
-    if (Step.Were.Album)
-        return Quoted(QStringLiteral("Delete Album"), Step.Were.Album->Was->AlbumName);
-    if (Step.Were.Name) return Quoted(QStringLiteral("Rename Album"), Step.NameNow);
+    if (Step.Were.Album) return Quoted(tr("Delete Album"), Step.Were.Album->Was->AlbumName);
+    if (Step.Were.Name) return Quoted(tr("Rename Album"), Step.NameNow);
     if (!Step.Were.Shows.empty())
         return Step.ShowsNow[0]
-                   ? Quoted(QStringLiteral("Change Slide Show"), Step.ShowsNow[0]->SlideShowName)
-                   : Quoted(QStringLiteral("Delete Slide Show"),
-                            Step.Were.Shows[0].Was->SlideShowName);
+                   ? Quoted(tr("Change Slide Show"), Step.ShowsNow[0]->SlideShowName)
+                   : Quoted(tr("Delete Slide Show"), Step.Were.Shows[0].Was->SlideShowName);
     return Step.Were.Slides.empty() ? QString() : NameOfSlides(Step);
 }
 
@@ -199,12 +199,11 @@ bool IsSameShow(const clsNEBSlideShow& One, const clsNEBSlideShow& Other) {
 QString WhyNot(const UndoStep& Step, const clsDBEngine& Engine) {
     clsNEBAlbum* const Album = Engine.GetAlbum(Step.Were.AlbumID);
     if (Step.Were.Album)
-        return !Album == !!Step.Were.Album->Was
-                   ? QString()
-                   : QStringLiteral("The album has been changed since.");
-    if (!Album) return AlbumGone;
+        return !Album == !!Step.Were.Album->Was ? QString()
+                                                : tr("The album has been changed since.");
+    if (!Album) return tr(AlbumGone);
     if (Step.Were.Name && Album->AlbumName != Step.NameNow)
-        return QStringLiteral("The album has been renamed since.");
+        return tr("The album has been renamed since.");
     const QString Slides = WhyNotSlides(Step, *Album);
     return Slides.isEmpty() ? WhyNotShows(Step, *Album) : Slides;
 }

@@ -8,6 +8,7 @@
 #include "pictures/formats/DecodeHost.h"
 #include "pictures/formats/PictureFaults.h"
 #include "pictures/formats/PictureFormats.h"
+#include "support/ReasonOf.h"
 
 namespace neb {
 namespace {
@@ -229,7 +230,7 @@ void OneReading::ThrowProblem(const LockedMessage& Said) {
     const QString Sentence = PlainSentence(FromOut(Said.Numbers[1], MostSentence));
     mIsAnswered = true;
     if (Sentence.isEmpty()) ThrowDamaged();
-    throw Fault(Sentence, {}, KnownNumber(Said.Numbers[0]));
+    throw Fault(InUsersLanguage(Sentence), {}, KnownNumber(Said.Numbers[0]));
 }
 
 void OneReading::EndBecause(LockedEnd How) {

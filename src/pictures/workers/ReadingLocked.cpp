@@ -5,6 +5,7 @@
 #include "pictures/formats/PictureFaults.h"
 #include "pictures/formats/PictureSniff.h"
 #include "support/MediaTypes.h"
+#include "support/Texts.h"
 
 namespace neb {
 namespace {
@@ -25,16 +26,16 @@ struct Ending {
 const Ending& EndingBy(LockedEnd How) {
     static const Ending All[] = {
         {LockedEnd::TooLong, FaultDamagedPicture,
-         QStringLiteral("The picture cannot be read: it takes too long.")},
+         tr("The picture cannot be read: it takes too long.")},
         {LockedEnd::Forbidden, FaultDamagedPicture,
-         QStringLiteral("The picture cannot be read: it tried to do what no picture may.")},
+         tr("The picture cannot be read: it tried to do what no picture may.")},
         {LockedEnd::Nonsense, FaultDamagedPicture,
-         QStringLiteral("The picture cannot be read: its reader talks nonsense.")},
+         tr("The picture cannot be read: its reader talks nonsense.")},
         {LockedEnd::Killed, FaultTooLarge,
-         QStringLiteral("The picture could not be read: its reader was ended from outside, as "
-                        "happens when there is not enough memory.")},
+         tr("The picture could not be read: its reader was ended from outside, as "
+            "happens when there is not enough memory.")},
         {LockedEnd::Crashed, FaultDamagedPicture,
-         QStringLiteral("The picture cannot be read: it brings its reader down.")}};
+         tr("The picture cannot be read: it brings its reader down.")}};
     for (const Ending& Each : All)
         if (Each.How == How) return Each;
     return *std::rbegin(All);
@@ -46,10 +47,9 @@ const Ending& EndingBy(LockedEnd How) {
 }
 
 [[noreturn]] void ThrowGivenUp() {
-    throw Fault(
-        QStringLiteral("The picture has brought its reader down three times and is not tried "
-                       "again before the program is started anew."),
-        {}, FaultDamagedPicture);
+    throw Fault(tr("The picture has brought its reader down three times and is not tried "
+                   "again before the program is started anew."),
+                {}, FaultDamagedPicture);
 }
 
 // Whether a second process may fare better: the first was ended by somebody else, or had read other

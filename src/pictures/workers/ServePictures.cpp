@@ -10,6 +10,7 @@
 #include "pictures/formats/PictureFaults.h"
 #include "pictures/workers/WorkerTalk.h"
 #include "support/MediaTypes.h"
+#include "support/Texts.h"
 
 namespace neb {
 namespace {
@@ -98,8 +99,7 @@ class Worker {
     } catch (const Fault& Reason) {
         return Problem(Reason.Number(), Reason.What());
     } catch (const std::bad_alloc&) {
-        return Problem(FaultTooLarge,
-                       QStringLiteral("There is not enough memory for the picture."));
+        return Problem(FaultTooLarge, tr("There is not enough memory for the picture."));
     } catch (const std::exception& Reason) {
         return Problem(FaultDamagedPicture, QString::fromLocal8Bit(Reason.what()));
     }

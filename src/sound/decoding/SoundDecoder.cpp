@@ -8,6 +8,7 @@
 #include "sound/decoding/SoundDecoderRiff.h"
 #include "sound/decoding/SoundDecoderWave.h"
 #include "support/Fault.h"
+#include "support/Texts.h"
 
 namespace neb {
 
@@ -26,14 +27,12 @@ bool IsWaveFamily(const QByteArray& Head) {
 
 std::unique_ptr<SoundDecoder> DecodeSound(std::unique_ptr<SoundBytes> Bytes) {
     auto Source = std::make_unique<SoundSource>(std::move(Bytes));
-    if (Source->Length() == 0)
-        throw Fault(QStringLiteral("The file is empty; there is no sound in it."));
+    if (Source->Length() == 0) throw Fault(tr("The file is empty; there is no sound in it."));
     Source->Narrow(LeadingTags(*Source), Source->Length());
     if (!UnwrapRiff(*Source) && IsWaveFamily(Source->Peek(0, 4)))
         return std::make_unique<WaveSound>(std::move(Source));
     auto Parts = FindMpegParts(*Source);
-    if (Parts.empty())
-        throw Fault(QStringLiteral("The file is not a sound that this program can play."));
+    if (Parts.empty()) throw Fault(tr("The file is not a sound that this program can play."));
     return std::make_unique<MpegSound>(std::move(Source), std::move(Parts));
 }
 

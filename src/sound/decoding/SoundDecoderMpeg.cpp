@@ -6,6 +6,7 @@
 
 #include "sound/decoding/SongTags.h"
 #include "support/Fault.h"
+#include "support/Texts.h"
 
 namespace neb {
 
@@ -80,7 +81,7 @@ MpegSound::MpegSound(std::unique_ptr<SoundSource> Source, std::vector<MpegPart> 
     if (Prepare()) Measure(std::move(Parts));
     if (mFrames > 0 && Enter(0)) return;
     mpg123_delete(mHandle);
-    throw Fault(QStringLiteral("The sound is damaged and cannot be played."));
+    throw Fault(tr("The sound is damaged and cannot be played."));
 }
 
 MpegSound::~MpegSound() {

@@ -9,6 +9,7 @@
 #include "sound/decoding/SongTags.h"
 #include "sound/decoding/SoundFormat.h"
 #include "support/Fault.h"
+#include "support/Texts.h"
 
 namespace neb {
 
@@ -79,9 +80,9 @@ WaveSound::Shape WaveSound::Open() {
 WaveSound::WaveSound(std::unique_ptr<SoundSource> Source) : mSource(std::move(Source)) {
     const Shape Its = Open();
     Check(Its.Channels > 0 && Its.Rate >= kLeastRate && Its.Rate <= MostRate,
-          QStringLiteral("The sound is damaged, or of a kind that this program cannot play."));
+          tr("The sound is damaged, or of a kind that this program cannot play."));
     Check(Its.Channels <= MostChannels,
-          QStringLiteral("The sound has %1 channels; this program plays %2 at most.")
+          tr("The sound has %1 channels; this program plays %2 at most.")
               .arg(Its.Channels)
               .arg(MostChannels));
     mRate = Its.Rate;
@@ -91,7 +92,7 @@ WaveSound::WaveSound(std::unique_ptr<SoundSource> Source) : mSource(std::move(So
     // then what can be decoded counts.
     mFrames = Its.Frames;
     if (!IsThere(Its.Frames - 1)) mFrames = Open().Channels == mChannels ? Skip(MostCounted) : 0;
-    Check(MoveTo(0) || mFrames == 0, QStringLiteral("The sound is damaged and cannot be played."));
+    Check(MoveTo(0) || mFrames == 0, tr("The sound is damaged and cannot be played."));
 }
 
 WaveSound::~WaveSound() = default;

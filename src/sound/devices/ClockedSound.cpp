@@ -5,6 +5,7 @@
 
 #include "support/Fault.h"
 #include "support/Services.h"
+#include "support/Texts.h"
 
 namespace neb {
 namespace {
@@ -67,7 +68,7 @@ double ClockedGraph::GetCurrentPosition() const {
 }
 
 void ClockedGraph::PutCurrentPosition(double Seconds) {
-    if (!(Seconds >= 0)) throw Fault(QStringLiteral("The sound has no such place."), mPath);
+    if (!(Seconds >= 0)) throw Fault(tr("The sound has no such place."), mPath);
     StandAt(std::min(Seconds, mDuration));
     Report(Kind::Moved);
 }

@@ -5,6 +5,7 @@
 
 #include "sound/decoding/SoundFormat.h"
 #include "support/Fault.h"
+#include "support/Texts.h"
 
 namespace neb {
 namespace {
@@ -32,8 +33,7 @@ PcmDecoder::PcmDecoder(const WaveFormat& Format, QByteArray Bytes)
       mRate(static_cast<int>(Format.SamplesPerSec)),
       mChannels(Format.Channels),
       mSampleBytes(Format.BitsPerSample / 8) {
-    if (!IsPlayable(Format))
-        throw Fault(QStringLiteral("The recording is of a kind that cannot be played."));
+    if (!IsPlayable(Format)) throw Fault(tr("The recording is of a kind that cannot be played."));
 }
 
 qint64 PcmDecoder::Frames() const {

@@ -5,6 +5,7 @@
 
 #include "sound/decoding/SoundFormat.h"
 #include "support/Fault.h"
+#include "support/Texts.h"
 
 namespace neb {
 namespace {
@@ -114,7 +115,7 @@ void SoundVoice::EndWithRound() {
 }
 
 void SoundVoice::PutPosition(double Seconds) {
-    if (!(Seconds >= 0)) throw Fault(QStringLiteral("A sound has no place before its start."));
+    if (!(Seconds >= 0)) throw Fault(tr("A sound has no place before its start."));
     const std::lock_guard Lock(mMutex);
     const bool IsThere = mPlayed == 0 && !mAtEnd && Seconds == mBase;
     if (!IsThere) SetPlace(std::min(Seconds, mDuration));

@@ -8,6 +8,7 @@
 
 #include "sound/workers/SoundTalk.h"
 #include "support/Fault.h"
+#include "support/Texts.h"
 
 namespace neb {
 namespace {
@@ -73,9 +74,9 @@ class Worker {
     } catch (const Fault& Reason) {
         return Problem(Reason.What());
     } catch (const std::bad_alloc&) {
-        return Problem(QStringLiteral("There is not enough memory for the sound."));
+        return Problem(tr("There is not enough memory for the sound."));
     } catch (const std::exception&) {
-        return Problem(QStringLiteral("The sound is damaged and cannot be played."));
+        return Problem(tr("The sound is damaged and cannot be played."));
     }
     LockedMessage Do(const LockedMessage& Request) {
         const auto& [A, B, C, D, E, F] = Request.Numbers;

@@ -11,6 +11,8 @@
 #include "sound/workers/SoundFile.h"
 #include "sound/workers/SoundTalk.h"
 #include "support/Fault.h"
+#include "support/ReasonOf.h"
+#include "support/Texts.h"
 
 namespace neb {
 namespace {
@@ -38,10 +40,10 @@ LockedAllowance AllowanceFor(qint64 Length, double Patience) {
 
 QString SentenceOf(LockedEnd How) {
     if (How == LockedEnd::TooLong)
-        return QStringLiteral("The sound cannot be played: it takes too long to be read.");
+        return tr("The sound cannot be played: it takes too long to be read.");
     if (How == LockedEnd::Forbidden)
-        return QStringLiteral("The sound cannot be played: it tried to do what no sound may.");
-    return QStringLiteral("The sound cannot be played: it brings its reader down.");
+        return tr("The sound cannot be played: it tried to do what no sound may.");
+    return tr("The sound cannot be played: it brings its reader down.");
 }
 
 // What a decoder says may be anything.
@@ -111,8 +113,8 @@ class SoundsLocked::Line {
     }
     static const QString& Checked(const SoundsLocked& Own, const QString& Path) {
         if (!Own.mCrashes.IsGivenUp(Path)) return Path;
-        throw Fault(QStringLiteral("The sound has brought its reader down three times and is not "
-                                   "tried again before the program is started anew."),
+        throw Fault(tr("The sound has brought its reader down three times and is not "
+                       "tried again before the program is started anew."),
                     Path);
     }
     bool Give(qint64 At, qint64 Count, qint64 To) {
@@ -241,7 +243,7 @@ std::unique_ptr<SoundDecoder> SoundsLocked::Open(const QString& Path) {
             Refusal = PlainSentence(By.Text(0, Said.Numbers[0], MostSoundSentence));
         return IsSound(Said) || !Refusal.isEmpty();
     });
-    if (!Refusal.isEmpty()) Its->Throw(Refusal);
+    if (!Refusal.isEmpty()) Its->Throw(InUsersLanguage(Refusal));
     mPool.WarmUp();
     return std::make_unique<Sound>(std::move(Its), Opened);
 }
