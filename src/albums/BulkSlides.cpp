@@ -1,6 +1,7 @@
 #include "albums/BulkSlides.h"
 
 #include "db/clsDBEngine.h"
+#include "support/Texts.h"
 
 namespace neb {
 
@@ -21,8 +22,8 @@ clsNEBSlide* SlideFinder::Find(clsNEBAlbum& Album, std::int32_t SlideID) {
 }
 
 QString SlideTally::Text(const QString& DoneWord, const QString& DoWord) const {
-    QString Told = QStringLiteral("%1 slides successfully %2.").arg(Done).arg(DoneWord);
-    if (Failed > 0) Told += QStringLiteral("\nFailed to %1 %2 slides.").arg(DoWord).arg(Failed);
+    QString Told = tr("%1 slides successfully %2.").arg(Done).arg(DoneWord);
+    if (Failed > 0) Told += tr("\nFailed to %1 %2 slides.").arg(DoWord).arg(Failed);
     return Told;
 }
 

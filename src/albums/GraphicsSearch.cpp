@@ -1,20 +1,22 @@
 #include "albums/GraphicsSearch.h"
 
 #include <QDateTime>
+#include <QLocale>
 #include <QSet>
 #include <algorithm>
+#include <cmath>
 #include <condition_variable>
 #include <ctime>
 #include <deque>
 #include <mutex>
 
 #include "albums/PictureOrder.h"
+#include "support/Grouped.h"
 #include "support/MediaTypes.h"
 #include "support/files/HiddenNames.h"
 #include "support/files/modHostFilesMask.h"
 #include "support/files/modHostFilesWalk.h"
 #include "support/modFUFL.h"
-#include "support/modNumbers.h"
 
 namespace neb {
 namespace {
@@ -77,10 +79,13 @@ QString NormalFilter(const QString& Text) {
 }
 
 QString SizeText(qint64 Bytes) {
-    return Format(static_cast<double>(Bytes) / 1024, "###,##0.0") + QStringLiteral(" KB");
+    return Decimal(std::round(static_cast<double>(Bytes) / 102.4) / 10, 1) + QStringLiteral(" KB");
 }
 
 QString DateText(qint64 SecondsSince1970) {
+    if (const auto Is = QLocale().language(); Is != QLocale::C && Is != QLocale::English)
+        return QLocale().toString(QDateTime::fromSecsSinceEpoch(SecondsSince1970),
+                                  QLocale::ShortFormat);
     const std::time_t Moment = SecondsSince1970;
     std::tm Local = {};
 #ifdef _WIN32

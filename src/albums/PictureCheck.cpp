@@ -12,6 +12,7 @@
 #include "db/records/modJournal.h"
 #include "pictures/ImgX.h"
 #include "support/Fault.h"
+#include "support/Texts.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
 #include "support/work/Job.h"
@@ -41,23 +42,19 @@ class Expectations {
     explicit Expectations(AlbumToCheck& Album) : mAlbum(Album) {}
 
     void Expect(const clsNEBSlide& Slide) {
-        const QString Of = QStringLiteral(" of slide %1").arg(Slide.SlideID);
-        Add(QStringLiteral("Slides/"), Slide.SlideLoc, QStringLiteral("the picture") + Of);
-        Add(QStringLiteral("Slides/"), Slide.SoundTrackLoc.trimmed(),
-            QStringLiteral("the sound") + Of);
+        const QString Of = tr(" of slide %1").arg(Slide.SlideID);
+        Add(QStringLiteral("Slides/"), Slide.SlideLoc, tr("the picture") + Of);
+        Add(QStringLiteral("Slides/"), Slide.SoundTrackLoc.trimmed(), tr("the sound") + Of);
         const QString Small = QStringLiteral("Slides/") + ThumbnailName(Slide.SlideID);
         const QString Picture = HoldsSeparator(Slide.SlideLoc)
                                     ? Slide.SlideLoc
                                     : mAlbum.Folder + QStringLiteral("Slides/") + Slide.SlideLoc;
-        mAlbum.Files.try_emplace(Small.toUpper(),
-                                 Named{Small, QStringLiteral("the thumbnail") + Of, Picture});
+        mAlbum.Files.try_emplace(Small.toUpper(), Named{Small, tr("the thumbnail") + Of, Picture});
     }
     void Expect(const clsNEBSlideShow& Show) {
         for (const auto& Track : Show.SoundTracks)
             Add(QStringLiteral("SoundTracks/"), Track->SoundTrackLoc,
-                QStringLiteral("sound track %1 of show %2")
-                    .arg(Track->SoundTrackSeq)
-                    .arg(Show.SlideShowID));
+                tr("sound track %1 of show %2").arg(Track->SoundTrackSeq).arg(Show.SlideShowID));
     }
 
   private:
@@ -316,14 +313,15 @@ class Checker {
 };
 
 // By Kind.
-constexpr const char* Words[] = {
-    "changed: ", "empty: ", "missing: ", "cannot be read: ", "no slide or show has it: "};
+constexpr const char* Words[] = {QT_TR_NOOP("changed: "), QT_TR_NOOP("empty: "),
+                                 QT_TR_NOOP("missing: "), QT_TR_NOOP("cannot be read: "),
+                                 QT_TR_NOOP("no slide or show has it: ")};
 
 }  // namespace
 
 QString PictureFinding::Line() const {
-    QString Text = QLatin1String(Words[static_cast<size_t>(Is)]);
-    if (!What.isEmpty()) Text += What + QStringLiteral(" in the album \"%1\": ").arg(Album);
+    QString Text = tr(Words[static_cast<size_t>(Is)]);
+    if (!What.isEmpty()) Text += What + tr(" in the album \"%1\": ").arg(Album);
     return Text + Path;
 }
 

@@ -4,14 +4,15 @@
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
 #include "support/Fault.h"
+#include "support/Texts.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
 
 namespace neb {
 namespace {
 
-const QString NoAlbum = QStringLiteral("Could not find the album.");
-const QString MissingTitle = QStringLiteral("Missing Slide");
+constexpr char NoAlbum[] = QT_TR_NOOP("Could not find the album.");
+constexpr char MissingTitle[] = QT_TR_NOOP("Missing Slide");
 
 QString PathOf(const QString& DBPath, const SlideInHand& InHand) {
     return SlidePath(DBPath, InHand.AlbumID(), InHand.PictureName());
@@ -63,7 +64,7 @@ Answer<> EnterNew(Changes& Door, SlideInHand& InHand) {
     clsNEBSlide Record;
     Record.SlideText = InHand.Caption();
     Answer<Announcement> Made = Door.SaveSlide(InHand.AlbumID(), Record);
-    if (!Made) return Refuse(QStringLiteral("Failed to save slide."));
+    if (!Made) return Refuse(tr("Failed to save slide."));
     InHand.MoveTo(InHand.AlbumID(), Made->What().SlideID);
     Made->Never();  // the save that follows tells of it
     return Done();
@@ -88,37 +89,35 @@ clsNEBSlide WithFiles(const clsDBEngine& theDB, Changes& Door, const SlideInHand
 
 Answer<QString> StoredPicture(const QString& DBPath, const SlideInHand& InHand) {
     if (InHand.PictureName().isEmpty())
-        return Refuse(QStringLiteral("The Current Slide Appears to be Corrupt."));
+        return Refuse(tr("The Current Slide Appears to be Corrupt."));
     const QString Path = PathOf(DBPath, InHand);
     if (FileExists(Path)) return Path;
-    return BoxRequest{
-        .Text = QStringLiteral("The graphic for the current slide appears to have been deleted.\n"
-                               "Double Slick on the Slide Spaceholder to browse for it."),
-        .Title = QStringLiteral("Slide Missing")};
+    return BoxRequest{.Text = tr("The graphic for the current slide appears to have been deleted.\n"
+                                 "Double Slick on the Slide Spaceholder to browse for it."),
+                      .Title = tr("Slide Missing")};
 }
 
 Answer<> CheckPicture(const QString& DBPath, const SlideInHand& InHand) {
     if (InHand.PictureName().isEmpty())
-        return Refuse(
-            QStringLiteral("You must first select the picture you want to use for this slide."),
-            MissingTitle);
+        return Refuse(tr("You must first select the picture you want to use for this slide."),
+                      tr(MissingTitle));
     if (InHand.IsPictureLoose() || FileExists(PathOf(DBPath, InHand))) return Done();
-    return Refuse(QStringLiteral("The currently selected slide cannot be found.\n"
-                                 "You must select a new picture you want to use for this slide."),
-                  MissingTitle);
+    return Refuse(tr("The currently selected slide cannot be found.\n"
+                     "You must select a new picture you want to use for this slide."),
+                  tr(MissingTitle));
 }
 
 Answer<Announcement> SaveSlide(clsDBEngine& theDB, const QObject* Asker, SlideInHand& InHand,
                                const SlideInHand::JpegMaker& Jpeg) {
     clsNEBAlbum* Album = theDB.GetAlbum(InHand.AlbumID());
-    if (!Album) return Refuse(NoAlbum);
+    if (!Album) return Refuse(tr(NoAlbum));
     Changes Door(theDB, Asker);
     const Answer<> Entered = EnterNew(Door, InHand);
     if (!Entered) return Entered.Refusal();
     const clsNEBSlide* Stored = Album->GetSlide(InHand.SlideID());
-    if (!Stored) return Refuse(QStringLiteral("Could not find the slide."));
+    if (!Stored) return Refuse(tr("Could not find the slide."));
     const clsNEBSlide Before = *Stored;
-    if (InHand.IsTurned()) Door.Call(QStringLiteral("Turn Slide"));
+    if (InHand.IsTurned()) Door.Call(tr("Turn Slide"));
     const bool DropsSound = InHand.SoundState() == SlideInHand::Sound::Cleared;
     const clsNEBSlide Record = WithFiles(theDB, Door, InHand, Jpeg, Before);
     InHand.Take(InHand.AlbumID(), Record);
@@ -147,7 +146,7 @@ TurnedSlide TurnSlide(const QString& DBPath, std::int32_t AlbumID, const clsNEBS
 Answer<Announcement> DeleteSlide(clsDBEngine& theDB, const QObject* Asker, std::int32_t AlbumID,
                                  std::int32_t SlideID) {
     clsNEBAlbum* Album = theDB.GetAlbum(AlbumID);
-    if (!Album) return Refuse(NoAlbum);
+    if (!Album) return Refuse(tr(NoAlbum));
     Answer<Announcement> Deleted = Changes(theDB, Asker).DeleteSlide(AlbumID, SlideID);
     Album->SortSlides();
     return Deleted;

@@ -6,6 +6,7 @@
 #include <unordered_map>
 
 #include "albums/modSaveShow.h"
+#include "support/Texts.h"
 
 namespace neb {
 namespace {
@@ -100,14 +101,14 @@ Places LastPlaces(const std::vector<double>& Lengths, int SlideCount) {
 }
 
 Answer<> CheckFit(const ShowContent& Show, size_t TrackCount) {
-    const QString Title = QStringLiteral("Fit All");
+    const QString Title = tr("Fit All");
     if (TrackCount == 0)
-        return Refuse(QStringLiteral("Choose the sound files first; all slides are then spread "
-                                     "over them."),
+        return Refuse(tr("Choose the sound files first; all slides are then spread "
+                         "over them."),
                       Title);
     if (Show.Slides.size() < TrackCount)
-        return Refuse(QStringLiteral("There are more sound tracks (%1) than slides in the show "
-                                     "(%2). Each track needs a slide at least.")
+        return Refuse(tr("There are more sound tracks (%1) than slides in the show "
+                         "(%2). Each track needs a slide at least.")
                           .arg(TrackCount)
                           .arg(Show.Slides.size()),
                       Title);

@@ -6,6 +6,7 @@
 #include "pictures/ImgX.h"
 #include "support/Fault.h"
 #include "support/ReasonOf.h"
+#include "support/Texts.h"
 #include "support/files/modHostFiles.h"
 #include "support/modDEValidation.h"
 
@@ -50,7 +51,7 @@ void DropFile(const QString& Path) {
 
 Answer<std::int32_t> EnterPicture(Changes& Door, const clsDBEngine& theDB, std::int32_t AlbumID,
                                   const PictureToEnter& Picture) {
-    if (!theDB.GetAlbum(AlbumID)) return Refuse(QStringLiteral("The Album was not found."));
+    if (!theDB.GetAlbum(AlbumID)) return Refuse(tr("The Album was not found."));
     const std::int32_t SlideID = Door.FreeSlideID(AlbumID);
     const QString Folder = SlidesFolder(theDB.DBPath(), AlbumID);
     clsNEBSlide Slide;
@@ -94,10 +95,9 @@ std::optional<QByteArray> PictureImport::TakeJpeg(const QString& Path) {
     try {
         Prepared Ready = mAhead.Take();
         if (FileExists(Path)) return Ready.Exists ? Ready.Jpeg : FittedJpeg(Path, mKeeping);
-        mReason = QStringLiteral("The file is not there any more.");
+        mReason = tr("The file is not there any more.");
     } catch (const std::exception& Problem) {
-        mReason = FileExists(Path) ? SentenceOf(Problem)
-                                   : QStringLiteral("The file is not there any more.");
+        mReason = FileExists(Path) ? SentenceOf(Problem) : tr("The file is not there any more.");
     }
     return std::nullopt;
 }

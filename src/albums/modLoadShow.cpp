@@ -1,6 +1,7 @@
 #include "albums/modLoadShow.h"
 
 #include "db/clsDBEngine.h"
+#include "support/Texts.h"
 
 namespace neb {
 namespace {
@@ -47,9 +48,9 @@ Answer<ShowContent> LoadShow(const clsDBEngine& theDB, std::int32_t AlbumID,
                              std::int32_t SlideShowID) {
     if (SlideShowID == 0) return ShowContent{.AlbumID = AlbumID};
     const clsNEBAlbum* Album = theDB.GetAlbum(AlbumID);
-    if (!Album) return Refuse(QStringLiteral("Album not found."));
+    if (!Album) return Refuse(tr("Album not found."));
     const clsNEBSlideShow* Show = Album->GetSlideShow(SlideShowID);
-    if (!Show) return Refuse(QStringLiteral("Slide Show not found."));
+    if (!Show) return Refuse(tr("Slide Show not found."));
     return StoredShow(*Show, AlbumID);
 }
 

@@ -1,6 +1,7 @@
 #include "albums/modPictureFiles.h"
 
 #include "albums/PictureOrder.h"
+#include "support/Texts.h"
 #include "support/files/HiddenNames.h"
 #include "support/files/modHostFiles.h"
 #include "support/files/modHostFilesWalk.h"
@@ -99,8 +100,7 @@ bool IsHostPictureName(std::string_view Name) {
 
 Answer<> CheckSource(const QString& Path, const QString& Root) {
     if (!Path.startsWith(Root + QStringLiteral("Albums/"))) return Done();
-    return Refuse(
-        QStringLiteral("This directory is reserved for Albums.  You cannot import from it."));
+    return Refuse(tr("This directory is reserved for Albums.  You cannot import from it."));
 }
 
 Scan ScanPictures(const QString& Directory, bool Recurse, const KeepGoing& GoOn) {

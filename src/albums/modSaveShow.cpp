@@ -6,6 +6,7 @@
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
 #include "support/Fault.h"
+#include "support/Texts.h"
 #include "support/files/modHostFiles.h"
 #include "support/modDEValidation.h"
 #include "support/modFUFL.h"
@@ -15,9 +16,9 @@
 namespace neb {
 namespace {
 
-const QString BadSequence = QStringLiteral("Invalid Slide Sequence");
-const QString BadOptions = QStringLiteral("Invalid Option Combination");
-const QString Deleted = QStringLiteral("Delete Detected");
+constexpr char BadSequence[] = QT_TR_NOOP("Invalid Slide Sequence");
+constexpr char BadOptions[] = QT_TR_NOOP("Invalid Option Combination");
+constexpr char Deleted[] = QT_TR_NOOP("Delete Detected");
 
 // A later track that begins before this one and ends behind it is let through; the show then plays
 // the first of the two.
@@ -30,14 +31,12 @@ bool Overlap(const ShowTrack& Track, const ShowTrack& Later) {
 
 Answer<> CheckSequence(const ShowTrack& Track, size_t SlideCount) {
     if (*Track.SlideSeqStart < 0)
-        return Refuse(QStringLiteral("The Starting Slide # must be >=1."), BadSequence);
+        return Refuse(tr("The Starting Slide # must be >=1."), tr(BadSequence));
     if (*Track.SlideSeqEnd > static_cast<double>(SlideCount))
-        return Refuse(
-            QStringLiteral("The Ending Slide # must be <= the total number of slides in the show."),
-            BadSequence);
+        return Refuse(tr("The Ending Slide # must be <= the total number of slides in the show."),
+                      tr(BadSequence));
     if (*Track.SlideSeqStart > *Track.SlideSeqEnd)
-        return Refuse(QStringLiteral("The Ending Slide # must be >= the Starting Slide #."),
-                      BadSequence);
+        return Refuse(tr("The Ending Slide # must be >= the Starting Slide #."), tr(BadSequence));
     return Done();
 }
 
@@ -45,21 +44,21 @@ Answer<> CheckSequence(const ShowTrack& Track, size_t SlideCount) {
 QString MissingIn(const ShowTrack& Track) {
     if (Track == ShowTrack()) return {};
     QStringList Missing;
-    if (!Track.SlideSeqStart) Missing << QStringLiteral("a first slide");
-    if (!Track.SlideSeqEnd) Missing << QStringLiteral("a last slide");
-    if (Track.SoundTrackLoc.isEmpty()) Missing << QStringLiteral("a sound file");
+    if (!Track.SlideSeqStart) Missing << tr("a first slide");
+    if (!Track.SlideSeqEnd) Missing << tr("a last slide");
+    if (Track.SoundTrackLoc.isEmpty()) Missing << tr("a sound file");
     if (Missing.size() < 2) return Missing.join(QString());
     const QString Last = Missing.takeLast();
-    return Missing.join(QStringLiteral(", ")) + QStringLiteral(" and ") + Last;
+    return Missing.join(QStringLiteral(", ")) + tr(" and ") + Last;
 }
 
 Answer<> CheckWhole(const ShowTrack& Track, size_t Number) {
     const QString Missing = MissingIn(Track);
     if (Missing.isEmpty()) return Done();
-    return Refuse(QStringLiteral("Sound track %1 lacks %2. Complete its row, or empty it with the "
-                                 "Del key.")
+    return Refuse(tr("Sound track %1 lacks %2. Complete its row, or empty it with the "
+                     "Del key.")
                       .arg(QString::number(Number), Missing),
-                  QStringLiteral("Incomplete Sound Track"));
+                  tr("Incomplete Sound Track"));
 }
 
 Answer<> CheckTracks(const ShowContent& Content) {
@@ -72,8 +71,7 @@ Answer<> CheckTracks(const ShowContent& Content) {
             return Is;
         for (auto Later = Track + 1; Later != Content.Tracks.end(); ++Later)
             if (Later->IsFilled() && Overlap(*Track, *Later))
-                return Refuse(QStringLiteral("A slide cannot use more than 1 sound track."),
-                              BadSequence);
+                return Refuse(tr("A slide cannot use more than 1 sound track."), tr(BadSequence));
     }
     return Done();
 }
@@ -82,15 +80,14 @@ Answer<> CheckOtherNames(const clsNEBAlbum& Album, std::int32_t SlideShowID, con
     const QString Wanted = CaselessName(CleanName(Name));
     for (const auto& Show : Album.SlideShows)
         if (Show->SlideShowID != SlideShowID && CaselessName(Show->SlideShowName) == Wanted)
-            return Refuse(
-                QStringLiteral("A Slide Show with this name already exists in this Album."),
-                QStringLiteral("Slide Show Name Already In Use"));
+            return Refuse(tr("A Slide Show with this name already exists in this Album."),
+                          tr("Slide Show Name Already In Use"));
     return Done();
 }
 
 Answer<> CheckLength(const QString& Name) {
     if (CleanName(Name).size() <= MaxName) return Done();
-    return Refuse(QStringLiteral("Slide show names must be <= 80 characters long."));
+    return Refuse(tr("Slide show names must be <= 80 characters long."));
 }
 
 Answer<> CheckNames(const ShowContent& Content, const clsNEBAlbum& Album) {
@@ -98,8 +95,8 @@ Answer<> CheckNames(const ShowContent& Content, const clsNEBAlbum& Album) {
     if (const Answer<> Is = CheckOtherNames(Album, Content.SlideShowID, Content.Name); !Is)
         return Is;
     if (Content.SlideShowID != 0 && !Album.GetSlideShow(Content.SlideShowID))
-        return Refuse(QStringLiteral("The Slide Show you are editing no longer appears to exist."),
-                      Deleted);
+        return Refuse(tr("The Slide Show you are editing no longer appears to exist."),
+                      tr(Deleted));
     return Done();
 }
 
@@ -132,10 +129,10 @@ clsNEBSlideShow Record(const ShowContent& Content) {
 Answer<std::int32_t> NumberOf(const ShowContent& Content, const clsDBEngine& theDB) {
     const clsNEBAlbum* Album = theDB.GetAlbum(Content.AlbumID);
     const bool IsNew = Content.SlideShowID == 0;
-    if (IsNew && !Album) return Refuse(QStringLiteral("Failed to create Slide Show."));
+    if (IsNew && !Album) return Refuse(tr("Failed to create Slide Show."));
     if (IsNew) return FreeSlideShowID(theDB.DBPath(), Content.AlbumID, theDB.NextSlideShowID);
     if (!Album || !Album->GetSlideShow(Content.SlideShowID))
-        return Refuse(QStringLiteral("Slide Show not found."));
+        return Refuse(tr("Slide Show not found."));
     return Content.SlideShowID;
 }
 
@@ -185,17 +182,16 @@ Answer<Announcement> Store(ShowContent& Content, std::int32_t SlideShowID, Track
 Answer<> CheckTrackOptions(const ShowTrack& Track, std::int32_t ProgressionMethod) {
     if (ProgressionMethod != 1) return Done();
     if (Track.FitToSong)
-        return Refuse(QStringLiteral("You cannot select both Fit To Song and Manual Progression."),
-                      BadOptions);
+        return Refuse(tr("You cannot select both Fit To Song and Manual Progression."),
+                      tr(BadOptions));
     if (Track.Fade)
-        return Refuse(QStringLiteral("You cannot select both Fade and Manual Progression."),
-                      BadOptions);
+        return Refuse(tr("You cannot select both Fade and Manual Progression."), tr(BadOptions));
     return Done();
 }
 
 Answer<> CheckShowName(const QString& Name) {
     if (!Name.trimmed().isEmpty()) return CheckLength(Name);
-    return Refuse(QStringLiteral("You have to enter a name for the slide show."));
+    return Refuse(tr("You have to enter a name for the slide show."));
 }
 
 Answer<> CheckShowName(const clsNEBAlbum& Album, std::int32_t SlideShowID, const QString& Name) {
@@ -207,13 +203,13 @@ Answer<Announcement> RenameShow(clsDBEngine& theDB, std::int32_t AlbumID, std::i
                                 const QString& Name, const QObject* Asker) {
     const QString Clean = CleanName(Name);
     const clsNEBAlbum* Album = theDB.GetAlbum(AlbumID);
-    if (!Album) return Refuse(QStringLiteral("The current Album could not be found."), Deleted);
+    if (!Album) return Refuse(tr("The current Album could not be found."), tr(Deleted));
     if (const Answer<> May = CheckShowName(*Album, SlideShowID, Clean); !May)
         return Answer<Announcement>::Because(May);
     const clsNEBSlideShow* Stored = Album->GetSlideShow(SlideShowID);
     if (!Stored)
-        return Refuse(QStringLiteral("The Slide Show you are editing no longer appears to exist."),
-                      Deleted);
+        return Refuse(tr("The Slide Show you are editing no longer appears to exist."),
+                      tr(Deleted));
     clsNEBSlideShow Show = std::move(*Stored->Copy());
     Show.SlideShowName = Clean;
     return Changes(theDB, Asker).SaveShow(AlbumID, std::move(Show));
@@ -221,16 +217,15 @@ Answer<Announcement> RenameShow(clsDBEngine& theDB, std::int32_t AlbumID, std::i
 
 Answer<> CheckShow(ShowContent& Content, const clsDBEngine& theDB) {
     if (Content.AlbumID == 0)
-        return Refuse(QStringLiteral("You must first select an album to save the slide show in."));
-    if (Content.Name.isEmpty())
-        return Refuse(QStringLiteral("You have to enter a name for the slide show."));
+        return Refuse(tr("You must first select an album to save the slide show in."));
+    if (Content.Name.isEmpty()) return Refuse(tr("You have to enter a name for the slide show."));
     Content.Name = CleanName(Content.Name);
     if (const Answer<> Is = CheckLength(Content.Name); !Is) return Is;
     if (Content.Slides.empty())
-        return Refuse(QStringLiteral("You must select atleast 1 slide for the Slide Show."));
+        return Refuse(tr("You must select atleast 1 slide for the Slide Show."));
     if (const Answer<> Are = CheckTracks(Content); !Are) return Are;
     const clsNEBAlbum* Album = theDB.GetAlbum(Content.AlbumID);
-    if (!Album) return Refuse(QStringLiteral("The current Album could not be found."), Deleted);
+    if (!Album) return Refuse(tr("The current Album could not be found."), tr(Deleted));
     return CheckNames(Content, *Album);
 }
 

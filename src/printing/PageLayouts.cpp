@@ -1,5 +1,7 @@
 #include "printing/PageLayouts.h"
 
+#include "support/Grouped.h"
+#include "support/Texts.h"
 #include "support/modNumbers.h"
 
 namespace neb {
@@ -31,20 +33,19 @@ double CaptionHeightIn(QSizeF Cell) {
 }
 
 BoxRequest RefuseNumber(const GridWish& Wish, const QString& Text) {
-    return Wish.OfOnePicture ? Refuse(Text) : Refuse(Text, QStringLiteral("Invalid User Input"));
+    return Wish.OfOnePicture ? Refuse(Text) : Refuse(Text, tr("Invalid User Input"));
 }
 
 QString TooMany(double Area, const char* What, const char* Direction) {
     int Most = 1;
     while (CellSide(Area, Most + 1) > 0) ++Most;
-    return QStringLiteral("There is room for at most %1 %2 on the page %3.")
+    return tr("There is room for at most %1 %2 on the page %3.")
         .arg(Most)
-        .arg(QLatin1String(What), QLatin1String(Direction));
+        .arg(tr(What), tr(Direction));
 }
 
 QString OutOfRange(const char* Relation, double Limit, const char* Side) {
-    return QStringLiteral("Picture must be %1 %2 %3.")
-        .arg(QLatin1String(Relation), ShortestDecimal(Limit), QLatin1String(Side));
+    return tr("Picture must be %1 %2 %3.").arg(QLatin1String(Relation), Decimal(Limit), tr(Side));
 }
 
 }  // namespace
@@ -57,17 +58,19 @@ Answer<CellGrid> GridFor(const GridWish& Wish) {
     // A number that is none is below one as well.
     if (!(Wish.PerRow >= 1))
         return RefuseNumber(Wish, Wish.OfOnePicture
-                                      ? QStringLiteral("You must have 1 or more copies per row.")
-                                      : QStringLiteral("You must have 1 or more slides per row."));
+                                      ? tr("You must have 1 or more copies per row.")
+                                      : tr("You must have 1 or more slides per row."));
     if (!(Wish.RowsPerPage >= 1))
-        return RefuseNumber(Wish, QStringLiteral("You must have 1 or more rows per page."));
+        return RefuseNumber(Wish, tr("You must have 1 or more rows per page."));
     const QSizeF Area = LargestOn(Wish.Turn);
     const int Cols = CInt(Wish.PerRow), Rows = CInt(Wish.RowsPerPage);
     const QSizeF Cell(CellSide(Area.width(), Cols), CellSide(Area.height(), Rows));
     if (!(Cell.width() > 0))
-        return RefuseNumber(Wish, TooMany(Area.width(), "columns", "side by side"));
+        return RefuseNumber(
+            Wish, TooMany(Area.width(), QT_TR_NOOP("columns"), QT_TR_NOOP("side by side")));
     if (!(Cell.height() > 0))
-        return RefuseNumber(Wish, TooMany(Area.height(), "rows", "below each other"));
+        return RefuseNumber(
+            Wish, TooMany(Area.height(), QT_TR_NOOP("rows"), QT_TR_NOOP("below each other")));
     return CellGrid{Cols,
                     Rows,
                     Cell,
@@ -131,10 +134,14 @@ double WidthForHeight(double Height, QSize Picture) {
 
 Answer<QSizeF> SlideSizeFor(const SlideWish& Wish, QSize Picture) {
     const QSizeF Most = LargestOn(Wish.Turn);
-    if (!(Wish.Width >= LeastSide)) return Refuse(OutOfRange(">=", LeastSide, "inch wide"));
-    if (Wish.Width > Most.width()) return Refuse(OutOfRange("<=", Most.width(), "inches wide"));
-    if (!(Wish.Height >= LeastSide)) return Refuse(OutOfRange(">=", LeastSide, "inch high"));
-    if (Wish.Height > Most.height()) return Refuse(OutOfRange("<=", Most.height(), "inches high"));
+    if (!(Wish.Width >= LeastSide))
+        return Refuse(OutOfRange(">=", LeastSide, QT_TR_NOOP("inch wide")));
+    if (Wish.Width > Most.width())
+        return Refuse(OutOfRange("<=", Most.width(), QT_TR_NOOP("inches wide")));
+    if (!(Wish.Height >= LeastSide))
+        return Refuse(OutOfRange(">=", LeastSide, QT_TR_NOOP("inch high")));
+    if (Wish.Height > Most.height())
+        return Refuse(OutOfRange("<=", Most.height(), QT_TR_NOOP("inches high")));
     if (!Wish.KeepsRatio) return QSizeF(Wish.Width, Wish.Height);
     if (WidthOverHeight(Picture) <= 1)
         return QSizeF(WidthForHeight(Wish.Height, Picture), Wish.Height);

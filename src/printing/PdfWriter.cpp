@@ -7,6 +7,7 @@
 #include "printing/FileBeside.h"
 #include "printing/TextLines.h"
 #include "support/Fault.h"
+#include "support/Texts.h"
 
 namespace neb {
 namespace {
@@ -53,7 +54,7 @@ PdfPicture AsItIs(const QByteArray& Bytes, const PlainJpeg& Plain) {
 PdfPicture FromPixels(const QImage& Image, cairo_format_t Format = CAIRO_FORMAT_RGB24) {
     PdfPicture Made{Owned(cairo_image_surface_create(Format, Image.width(), Image.height()))};
     uchar* const Into = cairo_image_surface_get_data(Made.Pixels.get());
-    if (!Into) throw Fault(QStringLiteral("There is not enough memory for the picture."));
+    if (!Into) throw Fault(tr("There is not enough memory for the picture."));
     const int Stride = cairo_image_surface_get_stride(Made.Pixels.get());
     for (int Y = 0; Y < Image.height(); ++Y)
         std::copy_n(Image.constScanLine(Y), qsizetype(Image.width()) * 4, Into + Y * Stride);
@@ -151,9 +152,9 @@ class PdfFile {
         const cairo_status_t OfPaper = cairo_status(mPaper);
         const cairo_status_t Is = OfPaper ? OfPaper : cairo_surface_status(mSurface.get());
         if (Is == CAIRO_STATUS_SUCCESS) return;
-        throw Fault(QStringLiteral("The PDF file cannot be made. (%1)")
-                        .arg(QLatin1String(cairo_status_to_string(Is))),
-                    mPath);
+        throw Fault(
+            tr("The PDF file cannot be made. (%1)").arg(QLatin1String(cairo_status_to_string(Is))),
+            mPath);
     }
 
     bool DrawPage(int Page, const PrintGoOn& GoOn) {

@@ -8,6 +8,7 @@
 #include "printing/FileBeside.h"
 #include "printing/PpdTable.h"
 #include "support/Fault.h"
+#include "support/Texts.h"
 
 namespace neb {
 namespace {
@@ -93,8 +94,8 @@ class PpdOnItsWay {
         if (!Own.isEmpty()) return Own;
         QByteArray InItsPlace = BytesIfAny(mDocument.StandIn());
         if (!InItsPlace.isEmpty()) return InItsPlace;
-        throw Fault(QStringLiteral("Neither a picture of the document nor the one that stands in "
-                                   "for it can be read."),
+        throw Fault(tr("Neither a picture of the document nor the one that stands in "
+                       "for it can be read."),
                     Picture.Path);
     }
 
@@ -118,7 +119,7 @@ class OpenPpd : public PictureShelf {
         const std::lock_guard Alone(mGuard);
         mFile.Seek(At);
         if (mFile.Read(Bytes.data(), Length) != Length)
-            throw Fault(QStringLiteral("The print document has been cut off meanwhile."), mPath);
+            throw Fault(tr("The print document has been cut off meanwhile."), mPath);
         return Bytes;
     }
 
@@ -131,13 +132,11 @@ class OpenPpd : public PictureShelf {
 
 void CheckHeader(const OpenPpd& File) {
     const QByteArray Start = File.Read(0, std::min(File.Length(), PpdPicturesAt));
-    if (!Start.startsWith(Mark))
-        throw Fault(QStringLiteral("The file is no print document of this program."));
+    if (!Start.startsWith(Mark)) throw Fault(tr("The file is no print document of this program."));
     if (Start.size() < PpdPicturesAt) ThrowPpdDamaged();
     const auto Is = qFromLittleEndian<quint32>(Start.constData() + Mark.size());
     if (Is > Version)
-        throw Fault(
-            QStringLiteral("The print document was saved by a later version of this program."));
+        throw Fault(tr("The print document was saved by a later version of this program."));
     if (Is < Version) ThrowPpdDamaged();
 }
 
@@ -169,7 +168,7 @@ bool CheckPictures(const OpenPpd& File, const std::vector<PpdPicture>& Pictures,
     for (int I = 0; I < Count; ++I) {
         const PpdPicture& Each = Pictures[static_cast<std::size_t>(I)];
         if (SumOf(File, Each) != Each.Sum)
-            throw Fault(QStringLiteral("Picture %1 of the print document is damaged.").arg(I + 1));
+            throw Fault(tr("Picture %1 of the print document is damaged.").arg(I + 1));
         if (GoOn && !GoOn({I + 1, Count})) return false;
     }
     return true;

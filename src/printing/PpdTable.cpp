@@ -5,6 +5,7 @@
 
 #include "pictures/formats/PictureDecoder.h"
 #include "support/Fault.h"
+#include "support/Texts.h"
 
 namespace neb {
 namespace {
@@ -68,8 +69,8 @@ class TableBytes {
 
   private:
     [[noreturn]] static void ThrowNoRoom() {
-        throw Fault(QStringLiteral(
-            "The document has measures or a size that a print document file cannot hold."));
+        throw Fault(
+            tr("The document has measures or a size that a print document file cannot hold."));
     }
     QByteArray mBytes;
 };
@@ -229,7 +230,7 @@ void TakePages(TableReader& From, Pages Filled, PrintDocument& Into) {
 }  // namespace
 
 void ThrowPpdDamaged() {
-    throw Fault(QStringLiteral("The print document is damaged or not whole."));
+    throw Fault(tr("The print document is damaged or not whole."));
 }
 
 QByteArray PpdTableOf(const PrintDocument& Document, const std::vector<PpdPicture>& Pictures,

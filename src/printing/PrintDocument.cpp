@@ -4,6 +4,7 @@
 
 #include "printing/TextLines.h"
 #include "support/Fault.h"
+#include "support/Texts.h"
 #include "support/modNumbers.h"
 #include "support/work/AheadQueue.h"
 
@@ -66,7 +67,7 @@ double InchesIn(const QString& Text) {
     bool Sound = Text.endsWith(Unit);
     const double Inches = Sound ? QStringView(Text).chopped(Unit.size()).toDouble(&Sound) : 0;
     if (!Sound || !std::isfinite(Inches))
-        throw Fault(QStringLiteral("\"%1\" is no measure in inches.").arg(Text));
+        throw Fault(tr("\"%1\" is no measure in inches.").arg(Text));
     return Inches;
 }
 
@@ -104,7 +105,7 @@ void PrintDocument::StartDoc() {
 }
 
 void PrintDocument::MustBeOpen() const {
-    if (!mOpen) throw Fault(QStringLiteral("The document is not being composed."));
+    if (!mOpen) throw Fault(tr("The document is not being composed."));
 }
 
 void PrintDocument::NewPage() {
@@ -121,7 +122,7 @@ void PrintDocument::DrawPicture(const PrintPicture& Picture, const QRectF& Inche
     MustBeOpen();
     const double Sum = Inches.x() + Inches.y() + Inches.width() + Inches.height();
     if (!(Inches.width() > 0 && Inches.height() > 0 && std::isfinite(Sum)))
-        throw Fault(QStringLiteral("A picture of %1 by %2 cannot be drawn.")
+        throw Fault(tr("A picture of %1 by %2 cannot be drawn.")
                         .arg(InchText(Inches.width()), InchText(Inches.height())));
     mPlaces.push_back({NumberOf(Picture), Inches});
 }

@@ -4,6 +4,7 @@
 
 #include "db/modAlbumFiles.h"
 #include "settings/modNEBSlideShow.h"
+#include "support/Texts.h"
 
 namespace neb {
 namespace {
@@ -49,8 +50,8 @@ SlidesToPrint SlidesOf(const clsNEBAlbum& Album, const clsNEBSlideShow& SlideSho
             Add(Result, DBPath, Album.AlbumID, *Slide);
             continue;
         }
-        const QString What = Detail ? QStringLiteral("Slide") : QStringLiteral("Detail");
-        Result.Missing.push_back(Refuse(QStringLiteral("%1 #%2 not found.").arg(What).arg(I)));
+        const QString What = Detail ? tr("Slide") : tr("Detail");
+        Result.Missing.push_back(Refuse(tr("%1 #%2 not found.").arg(What).arg(I)));
     }
     return Result;
 }

@@ -1,9 +1,12 @@
 #include "show/PreferencesState.h"
 
+#include <QLocale>
+#include <algorithm>
 #include <cmath>
 
 #include "settings/clsSettings.h"
 #include "show/ShowSettings.h"
+#include "support/Texts.h"
 #include "support/modNumbers.h"
 
 namespace neb {
@@ -19,10 +22,11 @@ bool IsWithin(std::optional<std::int32_t> Entry, std::int32_t Least, std::int32_
 
 std::optional<EntryProblem> CheckTimeout(std::optional<double> Entry) {
     const auto Refused = [](const char* Message) {
-        return EntryProblem{EntryProblem::Field::Timeout, 0, QString::fromLatin1(Message)};
+        return EntryProblem{EntryProblem::Field::Timeout, 0, tr(Message)};
     };
-    if (!Entry) return Refused("The Slide Timeout must be numeric.");
-    if (*Entry < LeastTimeout) return Refused("The Slide Timeout must be >= 4 seconds.");
+    if (!Entry) return Refused(QT_TR_NOOP("The Slide Timeout must be numeric."));
+    if (*Entry < LeastTimeout)
+        return Refused(QT_TR_NOOP("The Slide Timeout must be >= 4 seconds."));
     return std::nullopt;
 }
 
@@ -64,7 +68,8 @@ void PutPreferences(clsSettings& Settings, const PreferencesState& State) {
 
 std::optional<double> DecimalIn(const QString& Text) {
     bool IsNumber = false;
-    const double Value = Text.trimmed().toDouble(&IsNumber);
+    const double Value =
+        Text.trimmed().replace(QLocale().decimalPoint(), QStringLiteral(".")).toDouble(&IsNumber);
     if (!IsNumber || !std::isfinite(Value)) return std::nullopt;
     return Value;
 }
@@ -79,13 +84,11 @@ std::optional<std::int32_t> WholeNumberIn(const QString& Text) {
 std::optional<EntryProblem> CheckSpeed(const SpeedEntry& Entry, int Level) {
     using Field = EntryProblem::Field;
     if (!IsWithin(Entry.Delay, 0, 1000))
-        return EntryProblem{
-            Field::Delay, Level,
-            QStringLiteral("You must enter an integer from 0 to 1000 for the delay.")};
+        return EntryProblem{Field::Delay, Level,
+                            tr("You must enter an integer from 0 to 1000 for the delay.")};
     if (!IsWithin(Entry.Step, 1, 100))
-        return EntryProblem{
-            Field::Step, Level,
-            QStringLiteral("You must enter an integer from 1 to 100 for the step.")};
+        return EntryProblem{Field::Step, Level,
+                            tr("You must enter an integer from 1 to 100 for the step.")};
     return std::nullopt;
 }
 
@@ -126,9 +129,12 @@ std::int32_t NextSlideFor(const PreferencesState& State, std::int32_t SlideShowI
 }
 
 void FilterTimeoutKey(const EntryState& Field, std::int16_t& KeyAscii) {
-    constexpr std::int16_t Backspace = 8, Point = '.';
+    constexpr std::int16_t Backspace = 8;
     const bool Digit = KeyAscii >= '0' && KeyAscii <= '9';
-    const bool FirstPoint = KeyAscii == Point && !Field.Text.contains(u'.');
+    const QString Points = u'.' + QLocale().decimalPoint();
+    const bool FirstPoint =
+        Points.contains(QChar(KeyAscii)) &&
+        std::ranges::none_of(Points, [&](QChar Each) { return Field.Text.contains(Each); });
     if (!Digit && !FirstPoint && KeyAscii != Backspace) KeyAscii = 0;
 }
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "show/EffectChooser.h"
+#include "support/Texts.h"
 #include "support/modDEValidation.h"
 
 namespace neb {
@@ -39,13 +40,13 @@ struct EffectLevelRow {
     std::int32_t EffectSettings::*Delay;  // 1/10 ms
 };
 constexpr EffectLevelRow EffectLevelRows[] = {
-    {"Lite", &EffectSettings::StepL, &EffectSettings::DelayL},
-    {"Normal", &EffectSettings::StepM, &EffectSettings::DelayM},
-    {"Intense", &EffectSettings::StepH, &EffectSettings::DelayH},
+    {QT_TR_NOOP("Lite"), &EffectSettings::StepL, &EffectSettings::DelayL},
+    {QT_TR_NOOP("Normal"), &EffectSettings::StepM, &EffectSettings::DelayM},
+    {QT_TR_NOOP("Intense"), &EffectSettings::StepH, &EffectSettings::DelayH},
 };
 
-// What the text of a field says: a number with a point in every country, as in the settings file; a
-// whole number from 0. Blanks around it do not matter; nothing for any other text.
+// What the text of a field says: a number with the point of the user's country or that of the
+// settings file; a whole number from 0. Blanks around it do not matter; nothing for any other text.
 std::optional<double> DecimalIn(const QString& Text);
 std::optional<std::int32_t> WholeNumberIn(const QString& Text);
 

@@ -4,6 +4,7 @@
 #include "settings/modNEBSlideShow.h"
 #include "show/ShowRun.h"
 #include "show/captions/CaptionText.h"
+#include "support/Texts.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
 
@@ -37,17 +38,16 @@ bool ShowRun::ShowCurrentSlide(StepCause Cause) {
     mSoundFields.SlideInterval = Place.SlideTimeout;
     mPictureWanted = false;
     SetTimer2(false);
-    if (SlideShowID < 1) return Fail(QStringLiteral("You must have an active slideshow!"));
+    if (SlideShowID < 1) return Fail(tr("You must have an active slideshow!"));
     if (SlideShowID != Place.CurrentSlideShowID) {
         Place.CurrentSlideSeq = 0;
         Place.CurrentSlideShowID = SlideShowID;
     }
     clsNEBAlbum* Album = mWorld.Engine ? mWorld.Engine->GetAlbum(AlbumID) : nullptr;
-    if (!Album) return Fail(QStringLiteral("Could not find album."));
+    if (!Album) return Fail(tr("Could not find album."));
     const clsNEBSlideShow* SlideShow = Album->GetSlideShow(SlideShowID);
     if (!SlideShow)
-        return Fail(
-            QStringLiteral("The Active Slide Show does not exist!  Please select a new one!"));
+        return Fail(tr("The Active Slide Show does not exist!  Please select a new one!"));
     mSlideShowName = SlideShow->SlideShowName;
     mProgressionMethod = SlideShow->ProgressionMethod;
     mSlideCount = mLastSeq = static_cast<std::int32_t>(SlideShow->Details.size());
@@ -59,8 +59,7 @@ bool ShowRun::ShowPlace(clsNEBAlbum& Album, const clsNEBSlideShow& SlideShow, St
     SetCaption(Chosen.Detail ? FixCaptionText(Chosen.Detail->SlideText) : QString());
     const clsNEBSlide* Slide = Chosen.Detail ? Album.GetSlide(Chosen.Detail->SlideID) : nullptr;
     if (!Slide)
-        return Fail(QStringLiteral("Slide #%1 of the current slide show does not exist!")
-                        .arg(Chosen.Number));
+        return Fail(tr("Slide #%1 of the current slide show does not exist!").arg(Chosen.Number));
     if (mCaption.isEmpty()) SetCaption(FixCaptionText(Slide->SlideText));
     if (!DisplaySlideFile(Slide->SlideLoc)) return false;
     mWorld.Place.CurrentSlideSeq = Chosen.CurrentSeq;
@@ -130,13 +129,13 @@ bool ShowRun::DisplayStandIn(const QString& Path) {
         StopShow();
         return false;
     }
-    SetCaption(mCaption + QStringLiteral(": Current slide missing!"));
+    SetCaption(mCaption + tr(": Current slide missing!"));
     return DisplaySlideFile(NoSlidePath());
 }
 
 void ShowRun::PictureLate() {
     if (!mPictureWanted) return;
-    mStage.ShowCaption(mCaption + QStringLiteral(": Current slide still loading!"));
+    mStage.ShowCaption(mCaption + tr(": Current slide still loading!"));
 }
 
 bool ShowRun::PictureCame() {

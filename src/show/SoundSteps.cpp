@@ -5,6 +5,7 @@
 
 #include "db/clsNEBSlideShow.h"
 #include "db/modAlbumFiles.h"
+#include "support/Texts.h"
 #include "support/modFUFL.h"
 
 namespace neb {
@@ -12,10 +13,10 @@ namespace {
 
 using Track = clsNEBSlideShowSoundTrack;
 
-const auto NoClip = QStringLiteral("The Sound Track for this slide does not exist.");
-const auto NoTrack = QStringLiteral("The Sound Track for this group of slides does not exist.");
-const auto EmptyTrack =
-    QStringLiteral("The Sound Track for this group of slides appears to be empty.");
+constexpr char NoClip[] = QT_TR_NOOP("The Sound Track for this slide does not exist.");
+constexpr char NoTrack[] = QT_TR_NOOP("The Sound Track for this group of slides does not exist.");
+constexpr char EmptyTrack[] =
+    QT_TR_NOOP("The Sound Track for this group of slides appears to be empty.");
 
 // Actions in the making, with the player as it will stand after them.
 class Script {
@@ -165,7 +166,7 @@ SoundActions AfterNewTrack(const SoundTurn& At) {
     if (At.Now.Duration > 0)
         Fit(At);
     else if (At.Order.Track.FitToSong)
-        Do.Tell(EmptyTrack);
+        Do.Tell(tr(EmptyTrack));
     Start(At, At.Order.Track.Repeat, Do);
     if (At.Order.Track.FitToSong)
         StartFitted(At, Do);
@@ -216,17 +217,17 @@ SoundActions AfterSilence(const SoundTurn& At) {
 
 // A missing overriding clip leaves what an earlier one has saved.
 SoundActions WithoutOverridingClip(const SoundTurn&) {
-    return {SoundDo::Tell{NoClip}};
+    return {SoundDo::Tell{tr(NoClip)}};
 }
 
 SoundActions WithoutClip(const SoundTurn& At) {
     EndTrackPath(At.Fields);
-    return {SoundDo::Tell{NoClip}};
+    return {SoundDo::Tell{tr(NoClip)}};
 }
 
 SoundActions WithoutTrack(const SoundTurn& At) {
     EndTrackPath(At.Fields);
-    return {SoundDo::Tell{NoTrack}};
+    return {SoundDo::Tell{tr(NoTrack)}};
 }
 
 using Kind = SoundOrder::Kind;

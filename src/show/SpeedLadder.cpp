@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "support/Texts.h"
+
 namespace neb {
 namespace {
 
@@ -32,7 +34,7 @@ struct SpeedLadder::Level {
 using R = SpeedTestResult;
 const SpeedLadder::Level SpeedLadder::Levels[3] = {
     {&SpeedLadder::IntenseDone,
-     "Intense",
+     QT_TR_NOOP("Intense"),
      {118, 121},
      &R::TimeoutH,
      &R::DelayH,
@@ -40,7 +42,7 @@ const SpeedLadder::Level SpeedLadder::Levels[3] = {
      &R::AvgTimeH,
      Next::Level},
     {&SpeedLadder::NormalDone,
-     "Normal",
+     QT_TR_NOOP("Normal"),
      {56, 1},
      &R::TimeoutM,
      &R::DelayM,
@@ -48,7 +50,7 @@ const SpeedLadder::Level SpeedLadder::Levels[3] = {
      &R::AvgTimeM,
      Next::Level},
     {&SpeedLadder::SimpleDone,
-     "Simple",
+     QT_TR_NOOP("Simple"),
      {70, 85},
      &R::TimeoutL,
      &R::DelayL,
@@ -79,8 +81,8 @@ int SpeedLadder::EffectNumber() const {
 }
 
 QString SpeedLadder::Title() const {
-    return QStringLiteral("Testing Graphics Performance - %1 Effects (%2)")
-        .arg(QLatin1String(Present().Kind))
+    return tr("Testing Graphics Performance - %1 Effects (%2)")
+        .arg(tr(Present().Kind))
         .arg(Step == 35 ? 33 : Step);
 }
 

@@ -5,6 +5,7 @@
 
 #include "pictures/workers/OwnPictures.h"
 #include "settings/modNEBSlideShow.h"
+#include "support/Grouped.h"
 #include "support/files/HostNames.h"
 #include "support/work/ProcessEnd.h"
 #include "tools/modCommands.h"
@@ -52,6 +53,7 @@ int main(int argc, char** argv) {
     qInstallMessageHandler(&SayWhatIsGrave);
     const auto App = MakeApplication(argc, argv);
     std::ios::sync_with_stdio(false);
+    neb::WriteNumbersPlainly();
     neb::KeepOwnSumsIn(neb::OwnSumsFolder());
     neb::ToolIO IO{std::cout, std::cerr, ErrorsGoToATerminal()};
     const int Code = neb::RunTool(WordsOf(argc, argv), IO);

@@ -1,6 +1,5 @@
 #include "albums/transfer/DiscFolder.h"
 
-#include <QLocale>
 #include <QSet>
 
 #include "albums/transfer/DiscReadme.h"
@@ -12,6 +11,8 @@
 #include "settings/SettingKeys.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
+#include "support/Grouped.h"
+#include "support/Texts.h"
 #include "support/files/modHostFiles.h"
 #include "support/modCharacters.h"
 #include "support/modDEValidation.h"
@@ -25,11 +26,6 @@ using End = TransferResult::End;
 
 constexpr qsizetype MaxAlbumName = 80;
 
-QString Counted(int Number, const char* One, const char* Many) {
-    return QLocale(QLocale::English).toString(Number) + u' ' +
-           QLatin1String(Number == 1 ? One : Many);
-}
-
 class DiscWriting {
   public:
     DiscWriting(clsDBEngine& From, const DiscContents& What, const QString& Dir,
@@ -39,7 +35,7 @@ class DiscWriting {
             if (const clsNEBAlbum* Album = From.GetAlbum(Each.AlbumID))
                 mParts.push_back(Album->Part(Each.SlideShowIDs));
             else
-                mBoxes = {Refuse(QStringLiteral("Failed to load the source album."))};
+                mBoxes = {Refuse(tr("Failed to load the source album."))};
     }
 
     DiscResult Run() {
@@ -196,22 +192,22 @@ void DiscWriting::WriteSettings() const {
 // A folder that holds something already, and be it a hidden file, may hold what is dear to
 // somebody.
 std::optional<BoxRequest> WhyNot(const QString& Dir, const QString& DBPath) {
-    const QString Title = QStringLiteral("Invalid User Input");
+    const QString Title = tr("Invalid User Input");
     for (QString Each = Dir; !Each.isEmpty(); Each = GetParentDir(Each))
         if (IsSameDatabase(Each, DBPath))
-            return Refuse(QStringLiteral("The folder %1 lies among the albums themselves.\nChoose "
-                                         "one elsewhere.")
+            return Refuse(tr("The folder %1 lies among the albums themselves.\nChoose "
+                             "one elsewhere.")
                               .arg(Dir.chopped(1)),
                           Title);
     if (FileExists(Dir.chopped(1)))
-        return Refuse(QStringLiteral("%1 is a file and no folder.").arg(Dir.chopped(1)), Title);
+        return Refuse(tr("%1 is a file and no folder.").arg(Dir.chopped(1)), Title);
     bool Readable = true;
     const bool IsEmpty = ListDir(Dir, &Readable).empty();
     if (!FolderExists(Dir) || (IsEmpty && Readable)) return std::nullopt;
     if (FolderInTheMaking::IsUnfinished(Dir) && InstanceLock(DatabaseLockPath(Dir)).TryLock())
         return std::nullopt;
-    return Refuse(QStringLiteral("The folder %1 is not empty.\nChoose an empty folder, or give the "
-                                 "name of one that is to be made.")
+    return Refuse(tr("The folder %1 is not empty.\nChoose an empty folder, or give the "
+                     "name of one that is to be made.")
                       .arg(Dir.chopped(1)),
                   Title);
 }
@@ -219,9 +215,9 @@ std::optional<BoxRequest> WhyNot(const QString& Dir, const QString& DBPath) {
 }  // namespace
 
 QString DiscTally::Text() const {
-    return Counted(Albums, "album", "albums") + QStringLiteral(", ") +
-           Counted(SlideShows, "slide show", "slide shows") + QStringLiteral(", ") +
-           Counted(Slides, "slide", "slides");
+    return Counted(Albums, QT_TR_NOOP("%1 album"), QT_TR_NOOP("%1 albums")) + QStringLiteral(", ") +
+           Counted(SlideShows, QT_TR_NOOP("%1 slide show"), QT_TR_NOOP("%1 slide shows")) +
+           QStringLiteral(", ") + Counted(Slides, QT_TR_NOOP("%1 slide"), QT_TR_NOOP("%1 slides"));
 }
 
 DiscTally CountDisc(const clsDBEngine& Source, const DiscContents& What) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "support/Grouped.h"
+#include "support/Texts.h"
 
 namespace neb {
 namespace {
@@ -25,7 +26,7 @@ int SumsPercent(const SumsProgress& Now) {
 }
 
 QString SumsText(const SumsProgress& Now) {
-    return QStringLiteral("file %1 of %2, %3 of %4")
+    return tr("file %1 of %2, %3 of %4")
         .arg(Grouped(std::min(Now.Files, Now.OfFiles)), Grouped(Now.OfFiles),
              ShortSize(std::min(Now.Bytes, Now.OfBytes)), ShortSize(Now.OfBytes));
 }
@@ -38,7 +39,7 @@ int DiscProgress::Percent() const {
 }
 
 QString DiscProgress::Text(double Seconds) const {
-    return Sums ? QStringLiteral("check sums: ") + SumsText(*Sums) : ProgressText(Copied, Seconds);
+    return Sums ? tr("check sums: ") + SumsText(*Sums) : ProgressText(Copied, Seconds);
 }
 
 TransferProgress ProgressOfAll::Ahead() const {

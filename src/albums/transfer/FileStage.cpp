@@ -8,6 +8,7 @@
 #include "db/records/modJournal.h"
 #include "support/Grouped.h"
 #include "support/Services.h"
+#include "support/Texts.h"
 #include "support/files/modHostFiles.h"
 #include "support/files/modHostFilesCopy.h"
 #include "support/files/modHostFilesMask.h"
@@ -74,23 +75,21 @@ QString FolderAt(QString Folder, const QString& DBPath) {
 void LookAtPlaces(const Wanted& What, FilesLookedFor& Looked) {
     Looked.Room = FreeSpace(What.DstDBPath);
     if (IsLinkToSource(What))
-        Looked.Obstacle = Fault(
-            QStringLiteral("The album at the destination is a link to the album at the source."),
-            What.DstAlbum);
+        Looked.Obstacle =
+            Fault(tr("The album at the destination is a link to the album at the source."),
+                  What.DstAlbum);
     std::set<QString> Folders;
     for (const FoundFile& Each : Looked.Found) {
         const QString Place = What.DstDBPath + Each.To;
         if (FolderExists(Place))
-            Looked.Obstacle =
-                Fault(QStringLiteral("There is a folder in the place of a file."), Place);
+            Looked.Obstacle = Fault(tr("There is a folder in the place of a file."), Place);
         Folders.insert(GetFilePath(Place));
     }
     for (const QString& Each : Folders) {
         const QString Folder = FolderAt(Each, What.DstDBPath);
         Looked.Room = std::min(Looked.Room, FreeSpace(Folder));
         if (!MayWriteIn(Folder))
-            Looked.Obstacle =
-                Fault(QStringLiteral("You have no permission to write in the folder."), Folder);
+            Looked.Obstacle = Fault(tr("You have no permission to write in the folder."), Folder);
     }
 }
 
@@ -218,9 +217,9 @@ std::optional<FilesLookedFor> LookForFiles(const TransferPlan& Plan, const QStri
 
 Answer<> CheckRoom(qint64 Needed, qint64 Room, const QString& DstDBPath) {
     if (Room < 0 || Room >= Needed) return Done();
-    return Refuse(QStringLiteral("There is not enough room: %1 are needed, %2 are free in\n%3")
+    return Refuse(tr("There is not enough room: %1 are needed, %2 are free in\n%3")
                       .arg(ShortSize(Needed), ShortSize(Room), DstDBPath),
-                  QStringLiteral("Operation Unsuccessful"));
+                  tr("Operation Unsuccessful"));
 }
 
 FileStage::FileStage(const QString& DBPath, const std::vector<FoundFile>& Files)

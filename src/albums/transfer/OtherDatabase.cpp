@@ -4,6 +4,7 @@
 #include "db/records/modJournal.h"
 #include "db/recovery/modRestore.h"
 #include "settings/modNEBSlideShow.h"
+#include "support/Texts.h"
 #include "support/files/modHostFilesCopy.h"
 #include "support/modFUFL.h"
 #include "support/work/WorkAside.h"
@@ -35,20 +36,19 @@ bool CountersAreMissing(const QString& DBPath) {
 }
 
 BoxRequest DamagedDatabase(const QString& Dir, const DatabaseHealth& Health) {
-    return Refuse(
-        QStringLiteral("The database in\n%1\nis damaged. It has not been changed.\n\n%2\n\n"
-                       "Open it with the program, which offers to bring its last good albums back "
-                       "or to go on with what is left.")
-            .arg(Dir, Health.Wrong.join(u'\n')),
-        QStringLiteral("Damaged Database"));
+    return Refuse(tr("The database in\n%1\nis damaged. It has not been changed.\n\n%2\n\n"
+                     "Open it with the program, which offers to bring its last good albums back "
+                     "or to go on with what is left.")
+                      .arg(Dir, Health.Wrong.join(u'\n')),
+                  tr("Damaged Database"));
 }
 
 }  // namespace
 
 BoxRequest DamagedCounters(const QString& Dir) {
-    return Refusal(QStringLiteral("NextIDs.dat in\n%1\nis missing or damaged, so that new pictures "
-                                  "might replace old ones. nebctl check tells more."),
-                   Dir, QStringLiteral("Damaged Database"));
+    return Refusal(tr("NextIDs.dat in\n%1\nis missing or damaged, so that new pictures "
+                      "might replace old ones. nebctl check tells more."),
+                   Dir, tr("Damaged Database"));
 }
 
 OtherDatabase::OtherDatabase(const QString& Dir, Use For)
@@ -62,17 +62,17 @@ std::optional<BoxRequest> OtherDatabase::WhyNotLocked(FromElsewhere Other) {
     const LockAnswer Is = mLock.TryLock(Other);
     const bool CannotLock = Is.Is == LockAnswer::State::CannotLock;
     if (Is || (CannotLock && mFor == Use::Source)) return std::nullopt;
-    const QString Title = QStringLiteral("Database In Use");
+    const QString Title = tr("Database In Use");
     if (CannotLock)
-        return Refusal(QStringLiteral("The database in\n%1\ncannot be locked: ") + Is.Reason + u'.',
-                       DBPath(), Title);
-    if (Is.Is == LockAnswer::State::HeldHere)
         return Refusal(
-            QStringLiteral("The database in\n%1\nis in use. Close it there and try again."),
+            tr("The database in\n%1\ncannot be locked: %2.").arg(QStringLiteral("%1"), Is.Reason),
             DBPath(), Title);
-    return Refuse(QStringLiteral("The database in\n%1\nis in use on the computer \"%2\". Close it "
-                                 "there and try again. If the program has crashed there, open that "
-                                 "database by itself first: it then asks whether to go on.")
+    if (Is.Is == LockAnswer::State::HeldHere)
+        return Refusal(tr("The database in\n%1\nis in use. Close it there and try again."),
+                       DBPath(), Title);
+    return Refuse(tr("The database in\n%1\nis in use on the computer \"%2\". Close it "
+                     "there and try again. If the program has crashed there, open that "
+                     "database by itself first: it then asks whether to go on.")
                       .arg(DBPath(), Is.Machine),
                   Title);
 }
@@ -81,13 +81,12 @@ Answer<std::shared_ptr<OtherDatabase>> OtherDatabase::Open(const QString& Dir, U
                                                            FromElsewhere From) {
     const bool ToWrite = For == Use::Destination;
     if (const QString Owner = ToWrite ? DatabaseAround(Dir) : QString(); !Owner.isEmpty())
-        return Refusal(QStringLiteral("The directory lies among the files of the database in\n%1\n"
-                                      "Choose one elsewhere."),
-                       Owner, QStringLiteral("Invalid Directory"));
+        return Refusal(tr("The directory lies among the files of the database in\n%1\n"
+                          "Choose one elsewhere."),
+                       Owner, tr("Invalid Directory"));
     if (ToWrite) MakeDirs(Dir);
     if (ToWrite && !MayWriteDatabase(Dir))
-        return Refusal(QStringLiteral("The database in\n%1\nis read-only."), Dir,
-                       QStringLiteral("Read-Only Database"));
+        return Refusal(tr("The database in\n%1\nis read-only."), Dir, tr("Read-Only Database"));
     const std::shared_ptr<OtherDatabase> Other(new OtherDatabase(Dir, For));
     if (auto Reason = Other->WhyNotLocked(From)) return *std::move(Reason);
     if (!ToWrite && CountersAreMissing(Dir)) return DamagedCounters(Dir);

@@ -7,6 +7,7 @@
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
 #include "db/records/modJournal.h"
+#include "support/Texts.h"
 #include "support/modDEValidation.h"
 
 namespace neb {
@@ -26,8 +27,8 @@ TransferResult Decided(Decision Made, clsDBEngine& DstDB, const TransferDesk& De
     return CarryOut(std::move(Made.Plan), DstDB, Desk, Asker);
 }
 
-Boxes Say(const char* Text) {
-    return {Refuse(QString::fromLatin1(Text))};
+Boxes Say(const QString& Text) {
+    return {Refuse(Text)};
 }
 
 Boxes Say(const Answer<>& Is) {
@@ -42,11 +43,11 @@ TransferPlan PlanFor(const clsDBEngine& DstDB) {
 
 Boxes PlanNewAlbum(const clsDBEngine& DstDB, const QString& Name, TransferPlan& Plan) {
     if (DstDB.FindAlbum(0, Name))
-        return {{.Text = QStringLiteral("Album Name is already in use."),
-                 .Title = QStringLiteral("Invalid Album Name"),
+        return {{.Text = tr("Album Name is already in use."),
+                 .Title = tr("Invalid Album Name"),
                  .Icon = BoxIcon::Critical}};
     if (const Answer<> Is = DstDB.CheckAlbumName(0, Name); !Is)
-        return {Is.Refusal(), Refuse(QStringLiteral("Failed to create the album."))};
+        return {Is.Refusal(), Refuse(tr("Failed to create the album."))};
     Plan.IsNewAlbum = true;
     Plan.AlbumID = FreeAlbumID(DstDB.DBPath(), Plan.Next.AlbumID);
     Plan.Next.AlbumID = Plan.AlbumID + 1;
@@ -57,7 +58,7 @@ Boxes PlanNewAlbum(const clsDBEngine& DstDB, const QString& Name, TransferPlan& 
 // would be a loss.
 Boxes PlanOldAlbum(const clsDBEngine& DstDB, std::int32_t AlbumID, const QString& Name,
                    TransferPlan& Plan) {
-    if (!DstDB.GetAlbum(AlbumID)) return Say("Failed to load the destination album.");
+    if (!DstDB.GetAlbum(AlbumID)) return Say(tr("Failed to load the destination album."));
     Plan.AlbumID = AlbumID;
     return Say(clsDBEngine::CheckAlbumText(Name));
 }
@@ -72,8 +73,8 @@ Boxes PlanDestination(const clsDBEngine& DstDB, std::int32_t AlbumID, const QStr
     Plan.TakenShows = NumbersIn(SoundTracksFolder(DstDB.DBPath(), Plan.AlbumID));
     if (!DstDB.CountersAreSound()) return {DamagedCounters(DstDB.DBPath())};
     if (MayWriteDatabase(DstDB.DBPath())) return {};
-    return {Refuse(QStringLiteral("The database in\n%1\nis read-only.").arg(DstDB.DBPath()),
-                   QStringLiteral("Read-Only Database"))};
+    return {Refuse(tr("The database in\n%1\nis read-only.").arg(DstDB.DBPath()),
+                   tr("Read-Only Database"))};
 }
 
 bool SharesAName(const clsNEBAlbum& One, const clsNEBAlbum& Other) {
@@ -87,13 +88,12 @@ bool SharesAName(const clsNEBAlbum& One, const clsNEBAlbum& Other) {
 Boxes CheckShowNames(const clsNEBAlbum& Source, const clsNEBAlbum* Destination,
                      const QString& Adjective) {
     if (!Destination || !SharesAName(Source, *Destination)) return {};
-    return {
-        Refuse(QStringLiteral("1 or more Slide Shows within the selected Destination Album have\n"
-                              "names identical to those of Slide Shows in the Source\n"
-                              "Album.  You can only %1 unique Slide Shows.\n"
-                              "Use the Update Feature to overwrite an existing album.")
-                   .arg(Adjective),
-               QStringLiteral("Operation Unsuccessful"))};
+    return {Refuse(tr("1 or more Slide Shows within the selected Destination Album have\n"
+                      "names identical to those of Slide Shows in the Source\n"
+                      "Album.  You can only %1 unique Slide Shows.\n"
+                      "Use the Update Feature to overwrite an existing album.")
+                       .arg(Adjective),
+                   tr("Operation Unsuccessful"))};
 }
 
 Decision DecideAlbum(const AlbumTransfer& What) {
@@ -102,10 +102,9 @@ Decision DecideAlbum(const AlbumTransfer& What) {
     if (What.SrcAlbumID == What.DstAlbumID &&
         IsSameDatabase(What.SrcDB.DBPath(), What.DstDB.DBPath()))
         return {{},
-                {Refuse(QStringLiteral("You cannot Export an Album to itself!"),
-                        QStringLiteral("Invalid User Input"))}};
+                {Refuse(tr("You cannot Export an Album to itself!"), tr("Invalid User Input"))}};
     const clsNEBAlbum* Source = What.SrcDB.GetAlbum(What.SrcAlbumID);
-    if (!Source) return {{}, Say("Failed to load the source album.")};
+    if (!Source) return {{}, Say(tr("Failed to load the source album."))};
     Made.No = PlanDestination(What.DstDB, What.DstAlbumID, What.NewAlbumName, Plan);
     if (!Made.No.empty()) return Made;
     const clsNEBAlbum* Destination = What.DstDB.GetAlbum(Plan.AlbumID);
@@ -121,7 +120,7 @@ Boxes PlanReplacedShow(const SlideShowTransfer& What, TransferPlan& Plan) {
     if (What.DstSlideShowID == 0) return {};
     const clsNEBAlbum* Album = What.DstDB.GetAlbum(Plan.AlbumID);
     const clsNEBSlideShow* Show = Album ? Album->GetSlideShow(What.DstSlideShowID) : nullptr;
-    if (!Show) return Say("Failed to load destination slide show.");
+    if (!Show) return Say(tr("Failed to load destination slide show."));
     Plan.ReplacedShowID = What.DstSlideShowID;
     Plan.Gone = ClearingOf(What.DstDB, *Album, *Show);
     return {};
@@ -143,7 +142,7 @@ Boxes PlanSlides(const TransferPlan& Plan, const clsNEBAlbum& Album, const clsNE
             continue;
         }
         const auto Found = Slides.find(Detail->SlideID);
-        if (Found == Slides.end()) return Say("1 or more source slides could not be found.");
+        if (Found == Slides.end()) return Say(tr("1 or more source slides could not be found."));
         Planner.AddSlide(*Found->second);
     }
     return {};
@@ -151,13 +150,13 @@ Boxes PlanSlides(const TransferPlan& Plan, const clsNEBAlbum& Album, const clsNE
 
 Decision DecideShow(const SlideShowTransfer& What) {
     if (What.SrcSlideShowID == What.DstSlideShowID && IsWithinAlbum(What))
-        return {{},
-                {Refuse(QStringLiteral("You cannot Export a Slide Show to itself!"),
-                        QStringLiteral("Invalid User Input"))}};
+        return {
+            {},
+            {Refuse(tr("You cannot Export a Slide Show to itself!"), tr("Invalid User Input"))}};
     clsNEBAlbum* Album = What.SrcDB.GetAlbum(What.SrcAlbumID);
-    if (!Album) return {{}, Say("Failed to load the source Album.")};
+    if (!Album) return {{}, Say(tr("Failed to load the source Album."))};
     const clsNEBSlideShow* Source = Album->GetSlideShow(What.SrcSlideShowID);
-    if (!Source) return {{}, Say("Failed to load the source Slide Show.")};
+    if (!Source) return {{}, Say(tr("Failed to load the source Slide Show."))};
     Decision Made{PlanFor(What.DstDB), {}};
     TransferPlan& Plan = Made.Plan;
     Plan.IsOfShow = true;

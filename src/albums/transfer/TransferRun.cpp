@@ -8,6 +8,7 @@
 #include "db/modLoadRecords.h"
 #include "db/undo/History.h"
 #include "support/Fault.h"
+#include "support/Texts.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
 #include "support/modText.h"
@@ -32,8 +33,8 @@ class TransferRun {
             return Stopped();
         Report(WritingNow());
         if (!IsAsPlanned())
-            return Refused(Refuse(
-                QStringLiteral("The destination was changed meanwhile. Nothing was transferred.")));
+            return Refused(
+                Refuse(tr("The destination was changed meanwhile. Nothing was transferred.")));
         AlbumToPut After = AlbumAfter();
         Commit(After, Stage);
         TransferResult Result = Put(std::move(After));
@@ -229,9 +230,9 @@ class TransferRun {
 
     void Settle() const {
         if (const auto Problem = Waiting())
-            throw Fault(QStringLiteral("The transfer is done, but not all of its files are in "
-                                       "their places yet; the next opening of the database will "
-                                       "put them there. %1")
+            throw Fault(tr("The transfer is done, but not all of its files are in "
+                           "their places yet; the next opening of the database will "
+                           "put them there. %1")
                             .arg(Problem->What()),
                         Problem->File(), TransferUnfinished);
     }

@@ -7,6 +7,7 @@
 
 #include "show/film/FilmWriter.h"
 #include "support/Fault.h"
+#include "support/Texts.h"
 #include "support/files/modHostFiles.h"
 #include "support/files/modHostFilesSpelling.h"
 
@@ -36,13 +37,13 @@ QString FilmModule() {
 
 MakeFilmEncoderFunction LoadFilmModule(const QString& Path) {
     if (!FileExists(Path))
-        throw Fault(QStringLiteral("No film can be made: a part of the program is missing."), Path);
+        throw Fault(tr("No film can be made: a part of the program is missing."), Path);
     QLibrary Module(Path);
     Module.setLoadHints(QLibrary::PreventUnloadHint);
     const QFunctionPointer Found = Module.resolve("NebMakeFilmEncoder");
     if (!Found)
-        throw Fault(QStringLiteral("No film can be made: a part of the program cannot be loaded. "
-                                   "(%1)")
+        throw Fault(tr("No film can be made: a part of the program cannot be loaded. "
+                       "(%1)")
                         .arg(Module.errorString()),
                     Path);
     return reinterpret_cast<MakeFilmEncoderFunction>(Found);

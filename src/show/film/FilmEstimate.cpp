@@ -7,6 +7,7 @@
 #include "show/film/FilmEstimateTrials.h"
 #include "show/film/FilmFile.h"
 #include "support/Grouped.h"
+#include "support/Texts.h"
 #include "support/files/modHostFiles.h"
 #include "support/files/modHostFilesCopy.h"
 #include "support/files/modHostFilesMounts.h"
@@ -226,20 +227,19 @@ std::optional<qint64> EstimateFilm(const FilmOrder& Order, const FilmPlan& Plan,
 }
 
 Answer<> CheckRoomOnDisk(const FilmDisk& Disk, qint64 Estimate) {
-    const QString Title = QStringLiteral("Operation Unsuccessful");
+    const QString Title = tr("Operation Unsuccessful");
     const qint64 Needed = Estimate + Estimate / 3;
     if (IsFat(Disk.Kind) && Needed > MostOnFat)
-        return Refuse(QStringLiteral("The film needs up to %1, and a file on this disk can be 4 GB "
-                                     "large at most:\n%2")
+        return Refuse(tr("The film needs up to %1, and a file on this disk can be 4 GB "
+                         "large at most:\n%2")
                           .arg(ShortSize(Needed), Disk.Folder),
                       Title);
     const qint64 Ours = Disk.Room - RoomToLeave(Disk.Room);
     if (Disk.Room < 0 || Ours >= Needed) return Done();
-    return Refuse(
-        QStringLiteral("There is not enough room: the film needs up to %1, and of %2 that "
-                       "are free it takes %3 at most, in\n%4")
-            .arg(ShortSize(Needed), ShortSize(Disk.Room), ShortSize(Ours), Disk.Folder),
-        Title);
+    return Refuse(tr("There is not enough room: the film needs up to %1, and of %2 that "
+                     "are free it takes %3 at most, in\n%4")
+                      .arg(ShortSize(Needed), ShortSize(Disk.Room), ShortSize(Ours), Disk.Folder),
+                  Title);
 }
 
 Answer<> CheckRoomForFilm(const FilmOrder& Order, qint64 Estimate) {

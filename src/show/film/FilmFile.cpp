@@ -5,6 +5,7 @@
 
 #include "show/film/FilmOrder.h"
 #include "support/Grouped.h"
+#include "support/Texts.h"
 #include "support/files/modHostFiles.h"
 #include "support/files/modHostFilesCopy.h"
 #include "support/modFUFL.h"
@@ -29,10 +30,10 @@ qint64 RoomForFile(const QString& Path, qint64 Reserve) {
     const QString Dir = FolderOf(Path);
     const qint64 Room = FreeSpace(Dir);
     if (Room < 0 && !FolderExists(Dir))
-        throw Fault(QStringLiteral("The folder of the file is not there any more."), Path);
+        throw Fault(tr("The folder of the file is not there any more."), Path);
     if (Room >= 0 && Room < Reserve)
-        throw Fault(QStringLiteral("The disk is full: %1 are left on it, and the film leaves %2 "
-                                   "free.")
+        throw Fault(tr("The disk is full: %1 are left on it, and the film leaves %2 "
+                       "free.")
                         .arg(ShortSize(Room), ShortSize(Reserve)),
                     Path);
     return Room;

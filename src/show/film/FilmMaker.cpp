@@ -11,6 +11,7 @@
 #include "show/film/FilmStage.h"
 #include "show/film/FilmWriter.h"
 #include "support/Fault.h"
+#include "support/Texts.h"
 
 namespace neb {
 namespace {
@@ -39,9 +40,9 @@ FilmPictures::Makers MakersFor(const FilmOrder& Order) {
 }
 
 [[noreturn]] void ThrowEmpty(const RehearsalLog& Log, const FilmOrder& Order) {
-    const QString Sentence = QStringLiteral(
-        "No slide of the show comes up, so that there is "
-        "nothing to make a film of.");
+    const QString Sentence =
+        tr("No slide of the show comes up, so that there is "
+           "nothing to make a film of.");
     const QString Box =
         Log.Boxes.empty() ? QString() : QStringLiteral(" ") + Log.Boxes.front().Text;
     throw Fault(Sentence + Box, Order.Path);

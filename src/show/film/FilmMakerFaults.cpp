@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "support/Texts.h"
 #include "support/files/modHostFiles.h"
 
 namespace neb {
@@ -14,12 +15,21 @@ bool Take(QSet<QString>& Named, const QString& Path) {
     return Named.size() > Before;
 }
 
-QString FileText(const char* What, const QString& Path, const QString& Why, const char* Verb) {
-    if (!FileExists(Path))
-        return QStringLiteral("%1 is missing: %2").arg(QLatin1String(What), Path);
-    const QString Text =
-        QStringLiteral("%1 cannot be %2: %3").arg(QLatin1String(What), QLatin1String(Verb), Path);
+QString FileText(const char* Missing, const char* Unusable, const QString& Path,
+                 const QString& Why) {
+    if (!FileExists(Path)) return tr(Missing).arg(Path);
+    const QString Text = tr(Unusable).arg(Path);
     return Why.isEmpty() ? Text : Text + QStringLiteral(": ") + Why;
+}
+
+QString PictureText(const QString& Path, const QString& Why) {
+    return FileText(QT_TR_NOOP("the picture is missing: %1"),
+                    QT_TR_NOOP("the picture cannot be read: %1"), Path, Why);
+}
+
+QString SoundText(const QString& Path, const QString& Why) {
+    return FileText(QT_TR_NOOP("the sound is missing: %1"),
+                    QT_TR_NOOP("the sound cannot be played: %1"), Path, Why);
 }
 
 }  // namespace
@@ -30,8 +40,7 @@ void FilmMakerFaults::PictureFailed(const QString& Path, const QString& Why) {
 
 void FilmMakerFaults::SlideIsUp(std::int32_t SlideSeq) {
     for (const Picture& Each : std::exchange(mComing, {}))
-        if (Take(mNamed, Each.Path))
-            OfSlide(SlideSeq, FileText("the picture", Each.Path, Each.Why, "read"));
+        if (Take(mNamed, Each.Path)) OfSlide(SlideSeq, PictureText(Each.Path, Each.Why));
 }
 
 void FilmMakerFaults::TakeRun(const RehearsalLog& Log, const QMap<QString, QString>& Sounds,
@@ -41,14 +50,13 @@ void FilmMakerFaults::TakeRun(const RehearsalLog& Log, const QMap<QString, QStri
         if (Cue.Sound.Kind == CueSoundKind::Unplayed) TakeSound(Cue, Sounds);
     for (const RehearsalBox& Box : Log.Boxes) TakeBox(Box);
     for (auto Each = Sounds.begin(); Each != Sounds.end(); ++Each)
-        if (Take(mNamed, Each.key())) Note(0, FileText("the sound", Each.key(), *Each, "played"));
+        if (Take(mNamed, Each.key())) Note(0, SoundText(Each.key(), *Each));
 }
 
 void FilmMakerFaults::TakeSound(const RehearsalCue& Cue, const QMap<QString, QString>& Sounds) {
     const QString& Path = Cue.Sound.File;
     mSilent.insert(Cue.SlideSeq);
-    if (Take(mNamed, Path))
-        OfSlide(Cue.SlideSeq, FileText("the sound", Path, Sounds.value(Path), "played"));
+    if (Take(mNamed, Path)) OfSlide(Cue.SlideSeq, SoundText(Path, Sounds.value(Path)));
 }
 
 // The box about a sound has nothing to add to its file.
@@ -58,7 +66,7 @@ void FilmMakerFaults::TakeBox(const RehearsalBox& Box) {
 }
 
 void FilmMakerFaults::OfSlide(std::int32_t SlideSeq, const QString& Text) {
-    Note(SlideSeq, QStringLiteral("slide %1: ").arg(SlideSeq) + Text);
+    Note(SlideSeq, tr("slide %1: ").arg(SlideSeq) + Text);
 }
 
 void FilmMakerFaults::Note(std::int32_t SlideSeq, const QString& Text) {

@@ -2,23 +2,24 @@
 
 #include <algorithm>
 
+#include "support/Texts.h"
 #include "support/modFUFL.h"
 
 namespace neb {
 namespace {
 
 constexpr FilmFormatRow Formats[] = {
-    {FilmFormat::Mp4, ".mp4", "MP4 (H.264, AAC): televisions, phones, the web"},
-    {FilmFormat::WebM, ".webm", "WebM (VP9, Opus): the web"},
-    {FilmFormat::Lossless, ".mkv", "Matroska, lossless (FFV1, FLAC): archives"},
+    {FilmFormat::Mp4, ".mp4", QT_TR_NOOP("MP4 (H.264, AAC): televisions, phones, the web")},
+    {FilmFormat::WebM, ".webm", QT_TR_NOOP("WebM (VP9, Opus): the web")},
+    {FilmFormat::Lossless, ".mkv", QT_TR_NOOP("Matroska, lossless (FFV1, FLAC): archives")},
 };
 
 constexpr FilmSizeRow Sizes[] = {
-    {{1280, 720}, "HD"},
-    {{1920, 1080}, "Full HD"},
-    {{3840, 2160}, "Ultra HD"},
-    {{1080, 1080}, "Square"},
-    {{1080, 1920}, "Upright, for a phone"},
+    {{1280, 720}, QT_TR_NOOP("HD")},
+    {{1920, 1080}, QT_TR_NOOP("Full HD")},
+    {{3840, 2160}, QT_TR_NOOP("Ultra HD")},
+    {{1080, 1080}, QT_TR_NOOP("Square")},
+    {{1080, 1920}, QT_TR_NOOP("Upright, for a phone")},
 };
 
 constexpr int Rates[] = {24, 25, 30, 50, 60};
@@ -56,20 +57,19 @@ std::span<const int> FilmRates() {
 }
 
 Answer<> CheckFilmOrder(const FilmOrder& Order) {
-    const QString Title = QStringLiteral("Invalid User Input");
+    const QString Title = tr("Invalid User Input");
     if (!IsFilmSize(Order.Size))
-        return Refuse(QStringLiteral("A film is 2 by 2 to 7680 by 4320 pixels large, upright too, "
-                                     "and both are even numbers."),
+        return Refuse(tr("A film is 2 by 2 to 7680 by 4320 pixels large, upright too, "
+                         "and both are even numbers."),
                       Title);
     if (std::find(std::begin(Rates), std::end(Rates), Order.Rate) == std::end(Rates))
-        return Refuse(QStringLiteral("A film has 24, 25, 30, 50 or 60 frames a second."), Title);
+        return Refuse(tr("A film has 24, 25, 30, 50 or 60 frames a second."), Title);
     if (Order.Quality < 1 || Order.Quality > 100)
-        return Refuse(QStringLiteral("The quality is a number from 1 to 100."), Title);
+        return Refuse(tr("The quality is a number from 1 to 100."), Title);
     if (FormatOfFilm(Order.Path) != Order.Format)
-        return Refuse(QStringLiteral("The name of a film ends in .mp4, .webm or .mkv."), Title);
+        return Refuse(tr("The name of a film ends in .mp4, .webm or .mkv."), Title);
     if (Order.First < 1 || (Order.Last != 0 && Order.Last < Order.First))
-        return Refuse(QStringLiteral("The first slide of the film comes before its last one."),
-                      Title);
+        return Refuse(tr("The first slide of the film comes before its last one."), Title);
     return Done();
 }
 

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "support/Fault.h"
+#include "support/Texts.h"
 
 namespace neb {
 
@@ -23,7 +24,7 @@ FilmPictures::Ahead FilmPictures::Begin(const QString& Path,
                                         const std::optional<QString>& Caption) const {
     const auto Work = [Make = mMake, Path, Caption](JobState& State) {
         FilmPicture Made{Make.Read(Path), {}};
-        if (Made.Picture.isNull()) throw Fault(QStringLiteral("The picture cannot be read."), Path);
+        if (Made.Picture.isNull()) throw Fault(tr("The picture cannot be read."), Path);
         if (Caption && !State.Stop) Made.Fitted = Make.Fit(Made.Picture, *Caption);
         return Made;
     };

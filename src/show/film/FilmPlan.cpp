@@ -6,6 +6,7 @@
 #include "pictures/PictureOfFile.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
+#include "support/Texts.h"
 
 namespace neb {
 namespace {
@@ -27,8 +28,7 @@ std::vector<FilmChapter> ChaptersOf(const FilmPlan& Plan) {
     for (const RehearsalCue& Cue : Plan.Log.Cues) {
         const QString Title = Cue.Caption.trimmed();
         Chapters.push_back(
-            {Cue.At, EndOf(Cue),
-             Utf8(Title.isEmpty() ? QStringLiteral("Slide %1").arg(Cue.SlideSeq) : Title)});
+            {Cue.At, EndOf(Cue), Utf8(Title.isEmpty() ? tr("Slide %1").arg(Cue.SlideSeq) : Title)});
     }
     return Chapters;
 }

@@ -3,6 +3,7 @@
 #include "show/film/FilmFile.h"
 #include "show/film/FilmQueue.h"
 #include "support/ReasonOf.h"
+#include "support/Texts.h"
 #include "support/work/LargeBlocks.h"
 #include "support/work/LeftThread.h"
 #include "support/work/ProcessEnd.h"
@@ -115,7 +116,7 @@ void FilmWriter::PutBeside(const QByteArray& Subtitles) {
 
 void FilmWriter::AddFrame(const QImage& Frame, int Count) {
     if (Frame.size() != mWork->Size || Frame.format() != QImage::Format_RGB32)
-        throw Fault(QStringLiteral("A frame is of another kind than the film."), mWork->Path);
+        throw Fault(tr("A frame is of another kind than the film."), mWork->Path);
     if (Count > 0) mWork->Queue.Add({Frame, Count, {}}, mMeanwhile);
 }
 

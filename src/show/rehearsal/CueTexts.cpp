@@ -2,22 +2,25 @@
 
 #include <algorithm>
 
+#include "support/Texts.h"
+
 namespace neb {
 namespace {
 
 constexpr std::pair<CueSoundKind, const char*> SoundWords[] = {
-    {CueSoundKind::Silent, "silent"},       {CueSoundKind::Starts, "starts"},
-    {CueSoundKind::Resumes, "resumes"},     {CueSoundKind::Moves, "moves"},
-    {CueSoundKind::GoesOn, "goes on"},      {CueSoundKind::Over, "over"},
-    {CueSoundKind::Unplayed, "not played"},
+    {CueSoundKind::Silent, QT_TR_NOOP("silent")},
+    {CueSoundKind::Starts, QT_TR_NOOP("starts")},
+    {CueSoundKind::Resumes, QT_TR_NOOP("resumes")},
+    {CueSoundKind::Moves, QT_TR_NOOP("moves")},
+    {CueSoundKind::GoesOn, QT_TR_NOOP("goes on")},
+    {CueSoundKind::Over, QT_TR_NOOP("over")},
+    {CueSoundKind::Unplayed, QT_TR_NOOP("not played")},
 };
 
 constexpr double Unnoticed = 0.1;  // seconds
 
-QString Counted(size_t Count, const char* Thing) {
-    return QStringLiteral("%1 %2%3").arg(Count == 0 ? QStringLiteral("no") : QString::number(Count),
-                                         QLatin1String(Thing),
-                                         Count == 1 ? QString() : QStringLiteral("s"));
+QString Counted(size_t Count, const char* None, const char* One, const char* Many) {
+    return Count == 0 ? tr(None) : Count == 1 ? tr(One) : tr(Many).arg(Count);
 }
 
 }  // namespace
@@ -33,7 +36,7 @@ QString TimeText(double Seconds) {
 QString SoundWord(const CueSound& Sound) {
     const auto* Found = std::find_if(std::begin(SoundWords), std::end(SoundWords),
                                      [&](const auto& Row) { return Row.first == Sound.Kind; });
-    return QLatin1String(Found->second);
+    return tr(Found->second);
 }
 
 bool Sounds(const CueSound& Sound) {
@@ -43,22 +46,25 @@ bool Sounds(const CueSound& Sound) {
 QString SoundText(const RehearsalCue& Cue) {
     const CueSound& Sound = Cue.Sound;
     QString Text = SoundWord(Sound);
-    if (Sound.Loops == 1) Text += QStringLiteral(", begins anew");
-    if (Sound.Loops > 1) Text += QStringLiteral(", begins anew %1 times").arg(Sound.Loops);
-    if (Sound.EndVolume < Sound.Volume)
-        Text += QStringLiteral(", fades to %1").arg(Sound.EndVolume);
+    if (Sound.Loops == 1) Text += tr(", begins anew");
+    if (Sound.Loops > 1) Text += tr(", begins anew %1 times").arg(Sound.Loops);
+    if (Sound.EndVolume < Sound.Volume) Text += tr(", fades to %1").arg(Sound.EndVolume);
     if (Sound.EndsAt >= 0 && Sound.EndsAt < Cue.At + Cue.Seconds - Unnoticed)
-        Text += QStringLiteral(", ends at %1").arg(TimeText(Sound.EndsAt));
+        Text += tr(", ends at %1").arg(TimeText(Sound.EndsAt));
     return Text;
 }
 
 QString SummaryText(size_t Slides, double RunningTime, const RehearsalFindings& Found,
                     RehearsalEnd End) {
-    QString Text = QStringLiteral("%1, running time %2, %3")
-                       .arg(Counted(Slides, "slide"), TimeText(RunningTime),
-                            Counted(Found.Problems.size(), "problem"));
-    if (!Found.Notes.empty()) Text += QStringLiteral(", ") + Counted(Found.Notes.size(), "note");
-    if (End == RehearsalEnd::Stopped) Text += QStringLiteral("; the show stops by itself");
+    QString Text = tr("%1, running time %2, %3")
+                       .arg(Counted(Slides, QT_TR_NOOP("no slides"), QT_TR_NOOP("1 slide"),
+                                    QT_TR_NOOP("%1 slides")),
+                            TimeText(RunningTime),
+                            Counted(Found.Problems.size(), QT_TR_NOOP("no problems"),
+                                    QT_TR_NOOP("1 problem"), QT_TR_NOOP("%1 problems")));
+    if (const size_t Notes = Found.Notes.size(); Notes > 0)
+        Text += QStringLiteral(", ") + (Notes == 1 ? tr("1 note") : tr("%1 notes").arg(Notes));
+    if (End == RehearsalEnd::Stopped) Text += tr("; the show stops by itself");
     return Text;
 }
 

@@ -4,6 +4,8 @@
 
 #include "db/clsDBEngine.h"
 #include "support/Fault.h"
+#include "support/Grouped.h"
+#include "support/Texts.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
 
@@ -11,15 +13,14 @@ namespace neb {
 namespace {
 
 SoundFacts FactsOf(const QString& Path, const RehearsalOptions& Options) {
-    if (!FileExists(Path))
-        return {SoundState::Missing, 0, QStringLiteral("is missing: %1").arg(Path)};
+    if (!FileExists(Path)) return {SoundState::Missing, 0, tr("is missing: %1").arg(Path)};
     try {
         const double Length = Options.LengthOfSound(Path);
         if (Length > 0) return {SoundState::Sound, Length, {}};
-        return {SoundState::Empty, 0, QStringLiteral("is empty: %1").arg(Path)};
+        return {SoundState::Empty, 0, tr("is empty: %1").arg(Path)};
     } catch (const Fault& Problem) {
         return {SoundState::Unplayable, 0,
-                QStringLiteral("cannot be played: %1: %2").arg(Path, Problem.What())};
+                tr("cannot be played: %1: %2").arg(Path, Problem.What())};
     }
 }
 
@@ -31,12 +32,11 @@ void SortByPlace(std::vector<RehearsalFinding>& Findings) {
 }  // namespace
 
 QString SecondsText(double Seconds) {
-    return QString::number(Seconds, 'f', 1) + QStringLiteral(" s");
+    return Decimal(Seconds, 1) + QStringLiteral(" s");
 }
 
 QString SlidesText(std::int32_t First, std::int32_t Last) {
-    return First == Last ? QStringLiteral("slide %1").arg(First)
-                         : QStringLiteral("slides %1 to %2").arg(First).arg(Last);
+    return First == Last ? tr("slide %1").arg(First) : tr("slides %1 to %2").arg(First).arg(Last);
 }
 
 RehearsalNotebook::RehearsalNotebook(const RehearsedShow& Of)
@@ -66,7 +66,7 @@ bool RehearsalNotebook::IsWanted(std::int32_t SlideSeq) const {
 }
 
 void RehearsalNotebook::OfSlide(std::int32_t SlideSeq, const QString& Text) {
-    Problem(SlideSeq, QStringLiteral("slide %1: ").arg(SlideSeq) + Text);
+    Problem(SlideSeq, tr("slide %1: ").arg(SlideSeq) + Text);
 }
 
 void RehearsalNotebook::Explain(std::int32_t SlideSeq, RehearsalBoxFrom From) {

@@ -5,6 +5,7 @@
 
 #include "sound/VolumeScale.h"
 #include "support/Fault.h"
+#include "support/Texts.h"
 #include "support/files/modHostFiles.h"
 
 namespace neb {
@@ -45,7 +46,7 @@ double RehearsalSound::Measure(const QString& Path) {
     const auto Known = mLengths.constFind(Path);
     if (Known != mLengths.cend()) return *Known;
     try {
-        if (!FileExists(Path)) throw Fault(QStringLiteral("There is no such file."), Path);
+        if (!FileExists(Path)) throw Fault(tr("There is no such file."), Path);
         return *mLengths.insert(Path, std::max(0.0, mLength(Path)));
     } catch (const Fault&) {
         Note(Noted::Failed, mClock.Seconds());

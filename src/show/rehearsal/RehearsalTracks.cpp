@@ -4,6 +4,7 @@
 
 #include "db/modAlbumFiles.h"
 #include "show/rehearsal/RehearsalNotebook.h"
+#include "support/Texts.h"
 #include "support/modFUFL.h"
 
 namespace neb {
@@ -67,7 +68,7 @@ class TrackCheck {
         return IsUnderWay ? std::max(mTrack.SlideSeqStart, First) : mTrack.SlideSeqStart;
     }
     QString Line(const QString& Text) const {
-        return QStringLiteral("sound track %1 (%2, %3): %4")
+        return tr("sound track %1 (%2, %3): %4")
             .arg(mTrack.SoundTrackSeq)
             .arg(GetFileName(mPath), SlidesText(mTrack.SlideSeqStart, mTrack.SlideSeqEnd), Text);
     }
@@ -94,12 +95,12 @@ bool TrackCheck::HasSlides() {
     if (mTrack.SlideSeqStart > mTrack.SlideSeqEnd)
         mBook.Problem(
             mTrack.SlideSeqStart,
-            QStringLiteral("sound track %1 (%2): it starts at slide %3 and ends at slide "
-                           "%4, so that it is never heard")
+            tr("sound track %1 (%2): it starts at slide %3 and ends at slide "
+               "%4, so that it is never heard")
                 .arg(QString::number(mTrack.SoundTrackSeq), GetFileName(mPath),
                      QString::number(mTrack.SlideSeqStart), QString::number(mTrack.SlideSeqEnd)));
     else if (mReach.empty())
-        Tell(QStringLiteral("the show has no such slide, so that it is never heard"));
+        Tell(tr("the show has no such slide, so that it is never heard"));
     return !mReach.empty();
 }
 
@@ -112,12 +113,12 @@ bool TrackCheck::GoesOnBeyond() const {
 QString TrackCheck::WhyNoFade() const {
     const std::int32_t Last = mTrack.SlideSeqEnd;
     if (GoesOnBeyond()) return {};
-    if (mBook.IsManual) return QStringLiteral("there is no fade in a manual show");
+    if (mBook.IsManual) return tr("there is no fade in a manual show");
     if (!mBook.Details.contains(Last))
-        return QStringLiteral("it never fades, because the show has no slide %1").arg(Last);
+        return tr("it never fades, because the show has no slide %1").arg(Last);
     const RehearsalCue* Cue = mBook.CueAt(Last);
     if (Cue && Cue->Sound.EndVolume == Cue->Sound.Volume)
-        return QStringLiteral("it never fades, because slide %1 does not sound of it").arg(Last);
+        return tr("it never fades, because slide %1 does not sound of it").arg(Last);
     return {};
 }
 
@@ -128,11 +129,11 @@ void TrackCheck::CheckFade() {
 
 void TrackCheck::CheckFitted() {
     const double Each = mFacts.Length / (1.0 + mTrack.SlideSeqEnd - mTrack.SlideSeqStart);
-    if (Each < 1) Tell(QStringLiteral("its slides stay up for %1 each").arg(SecondsText(Each)));
+    if (Each < 1) Tell(tr("its slides stay up for %1 each").arg(SecondsText(Each)));
     for (const RehearsalCue* Cue : mCues)
         if (Cue->EffectSeconds > Cue->SlideInterval)
             mBook.OfSlide(Cue->SlideSeq,
-                          QStringLiteral("it stays up for %1, but its transition takes %2: %3")
+                          tr("it stays up for %1, but its transition takes %2: %3")
                               .arg(SecondsText(Cue->SlideInterval), SecondsText(Cue->EffectSeconds),
                                    GetFileName(Cue->Picture)));
 }
@@ -144,9 +145,8 @@ void TrackCheck::CheckSilence() {
     if (Ends == mCues.end()) return;
     const double Silence = mCues.back()->At + mCues.back()->Seconds - (*Ends)->Sound.EndsAt;
     if (Silence <= Unnoticed) return;
-    const QString Text = QStringLiteral(
-                             "it is %1 long and falls silent on slide %2, %3 before its "
-                             "last slide is over")
+    const QString Text = tr("it is %1 long and falls silent on slide %2, %3 before its "
+                            "last slide is over")
                              .arg(SecondsText(mFacts.Length))
                              .arg((*Ends)->SlideSeq)
                              .arg(SecondsText(Silence));
@@ -160,7 +160,7 @@ void TrackCheck::CheckCut() {
         Heard = std::max(
             Heard, Cue->Sound.EndsAt >= 0 ? mFacts.Length : Cue->Sound.Position + Cue->Seconds);
     if (Heard >= mFacts.Length - Unnoticed) return;
-    const QString Text = QStringLiteral("it is cut off when its slides end, after %1 of its %2")
+    const QString Text = tr("it is cut off when its slides end, after %1 of its %2")
                              .arg(SecondsText(Heard), SecondsText(mFacts.Length));
     const bool Wasted = Heard < mFacts.Length / 2 && !mTrack.Fade && !mBook.IsManual;
     Wasted ? Tell(Text) : Note(Text);
@@ -172,8 +172,7 @@ void CheckOverlap(Notebook& Book, const Track& First, const Track& Second) {
     if (Both.empty()) return;
     Book.Problem(
         Both.front(),
-        QStringLiteral(
-            "%1: sound track %2 (%3) and sound track %4 (%5) overlap; number %2 is heard")
+        tr("%1: sound track %2 (%3) and sound track %4 (%5) overlap; number %2 is heard")
             .arg(SlidesText(Both.front(), Both.back()), QString::number(First.SoundTrackSeq),
                  GetFileName(First.SoundTrackLoc), QString::number(Second.SoundTrackSeq),
                  GetFileName(Second.SoundTrackLoc)));
