@@ -69,10 +69,14 @@ void NameCount::TakeWhatFits(const QString& Whole, int Caret) {
     const QString Fits = FirstUnits(Added, std::max<qsizetype>(0, Room));
     const qsizetype Left = CountCharacters(Added) - CountCharacters(Fits);
     if (!Fits.isEmpty()) Name.insert(Fits);
-    Say(Fits.isEmpty() ? tr("The name is full: it has room for %1 characters.").arg(MaxName)
-                       : tr("A name has room for %1 characters. The last %n were left out.",
-                            nullptr, static_cast<int>(Left))
-                             .arg(MaxName));
+    if (Fits.isEmpty())
+        Say(tr("The name is full: it has room for %1 characters.").arg(MaxName));
+    else if (Left == 1)
+        Say(tr("A name has room for %1 characters. The last one was left out.").arg(MaxName));
+    else
+        Say(tr("A name has room for %1 characters. The last %2 were left out.")
+                .arg(MaxName)
+                .arg(Left));
 }
 
 // A reader of the screen hears it as well.

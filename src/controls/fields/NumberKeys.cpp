@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <cmath>
 
+#include "support/Grouped.h"
 #include "support/modNumbers.h"
 
 namespace neb {
@@ -20,9 +21,9 @@ class Filter : public QObject {
         const bool Up = Key.key() == Qt::Key_Up;
         if ((!Up && Key.key() != Qt::Key_Down) || Key.modifiers() & ~Qt::KeypadModifier)
             return false;
-        const double Steps = Val(mField.text()) / mStep;
+        const double Steps = Val(mField.text().replace(u',', u'.')) / mStep;
         const double Next = Up ? std::floor(Steps) + 1 : std::ceil(Steps) - 1;
-        mField.setText(ShortestDecimal(std::max(Next * mStep, mLeast)));
+        mField.setText(Decimal(std::max(Next * mStep, mLeast)));
         mField.selectAll();
         return true;
     }

@@ -8,6 +8,7 @@
 #include "controls/forms/ScreenPointer.h"
 #include "support/ReasonOf.h"
 #include "support/Services.h"
+#include "support/Texts.h"
 
 namespace neb {
 namespace {
@@ -21,7 +22,7 @@ void Report(const QString& Text) {
     const auto Emptied = qScopeGuard([] { Waiting.clear(); });
     while (!Waiting.isEmpty()) {
         SetScreenPointer(Pointer::Default);
-        MsgBox(Waiting.front(), QStringLiteral("Operation Failed"), BoxIcon::Critical);
+        MsgBox(Waiting.front(), tr("Operation Failed"), BoxIcon::Critical);
         Waiting.removeFirst();
     }
 }

@@ -2,6 +2,7 @@
 
 #include "controls/forms/Progress.h"
 #include "support/Services.h"
+#include "support/Texts.h"
 #include "ui_frmLoading.h"
 
 namespace neb {
@@ -69,9 +70,8 @@ bool frmLoading::Form_Unload() {
 void frmLoading::AskAbort() {
     if (!mUi->cmdStop->isEnabled() || !mParent) return;
     const double Asked = TheServices().Time->Ticks();
-    const bool Stops =
-        AskYesNo(QStringLiteral("Are you sure you want to Abort the current process?"),
-                 QStringLiteral("Abort Confirmation"));
+    const bool Stops = AskYesNo(tr("Are you sure you want to Abort the current process?"),
+                                tr("Abort Confirmation"));
     mUi->wdgWords->Skip(TheServices().Time->Ticks() - Asked);
     if (Stops && mParent) mParent->DoAbort();
 }

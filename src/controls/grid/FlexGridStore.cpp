@@ -5,6 +5,7 @@
 #include <iterator>
 
 #include "support/Fault.h"
+#include "support/Texts.h"
 
 namespace neb {
 namespace {
@@ -12,7 +13,7 @@ namespace {
 constexpr std::int64_t OrderGap = std::int64_t{1} << 20;
 
 [[noreturn]] void Outside() {
-    throw Fault(QStringLiteral("A row or column outside the list was asked for."));
+    throw Fault(tr("A row or column outside the list was asked for."));
 }
 
 }  // namespace

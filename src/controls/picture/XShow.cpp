@@ -13,6 +13,7 @@
 #include "effects/XShowBands.h"
 #include "support/Fault.h"
 #include "support/Services.h"
+#include "support/Texts.h"
 
 namespace neb {
 namespace {
@@ -44,7 +45,7 @@ void Fit(LoadedPicture& P, const XShowLayout& Layout) {
 
 XShow::XShow(QWidget* Parent) : QWidget(Parent), mRefresh(*this) {
     setAttribute(Qt::WA_OpaquePaintEvent);
-    setAccessibleName(QStringLiteral("Slide picture"));
+    setAccessibleName(tr("Slide picture"));
     mLayout.InProportion = false;
     connect(&mRefresh, &ScreenRefresh::Reached, this, [this](bool Told) {
         if (Told) mPace.RefreshBegins(TheServices().Time->Ticks());

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "support/Fault.h"
+#include "support/Texts.h"
 #include "support/files/modHostFiles.h"
 
 namespace neb {
@@ -21,10 +22,10 @@ ShownReader& Reader() {
 }
 
 LoadedPicture ReadAndFit(const ShownReader& Read, const QString& File, const XShowLayout& Layout) {
-    if (!Read) throw Fault(QStringLiteral("There is nothing that reads pictures."), File);
+    if (!Read) throw Fault(tr("There is nothing that reads pictures."), File);
     LoadedPicture P;
     P.Source = AsOpaque(Read(File));
-    if (P.Source.isNull()) throw Fault(QStringLiteral("The picture cannot be read."), File);
+    if (P.Source.isNull()) throw Fault(tr("The picture cannot be read."), File);
     P.Fitted = FitToView(P.Source, Layout);
     P.Layout = Layout;
     return P;

@@ -8,6 +8,7 @@
 #include "db/clsDBEngine.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Services.h"
+#include "support/Texts.h"
 
 namespace neb {
 namespace {
@@ -61,8 +62,7 @@ void AlbumForm::UpdateControls() {
 
 std::optional<std::int32_t> AlbumForm::ChosenAlbum() const {
     if (mControls.cboAlbum->currentIndex() >= 0) return SelectedID(*mControls.cboAlbum);
-    MsgBox(QStringLiteral("You must first select an Album."), QStringLiteral("Missing User Input"),
-           BoxIcon::Information);
+    MsgBox(tr("You must first select an Album."), tr("Missing User Input"), BoxIcon::Information);
     return std::nullopt;
 }
 

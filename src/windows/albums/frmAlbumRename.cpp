@@ -4,6 +4,7 @@
 #include "controls/forms/Tell.h"
 #include "db/Changes.h"
 #include "settings/modNEBSlideShow.h"
+#include "support/Texts.h"
 #include "support/modDEValidation.h"
 #include "ui_frmAlbumRename.h"
 #include "windows/albums/modAlbumNames.h"
@@ -17,7 +18,7 @@ frmAlbumRename::frmAlbumRename() : mUi(std::make_unique<Ui::frmAlbumRename>()) {
                  mUi->lblHint,
                  {mUi->lblAlbum, mUi->cboAlbum, mUi->Label1},
                  {mUi->txtAlbumName, mUi->cmdSave}});
-    SetAdjective(QStringLiteral("Album"));
+    SetAdjective(tr("Album"));
     KeepNameClean(*mUi->txtAlbumName);
     On(mUi->cboAlbum, &QComboBox::currentIndexChanged, &frmAlbumRename::ShowOldName);
     On(mUi->cmdSave, &QPushButton::clicked, &frmAlbumRename::Save);
@@ -28,8 +29,8 @@ frmAlbumRename::~frmAlbumRename() = default;
 
 void frmAlbumRename::SetAdjective(const QString& Noun) {
     mAdjective = Noun;
-    setWindowTitle(QStringLiteral("Rename ") + Noun);
-    mUi->Label1->setText(QStringLiteral("New ") + Noun + QStringLiteral(" Name"));
+    setWindowTitle(tr("Rename %1").arg(Noun));
+    mUi->Label1->setText(tr("New %1 Name").arg(Noun));
     mUi->txtAlbumName->setAccessibleName(mUi->Label1->text());
 }
 

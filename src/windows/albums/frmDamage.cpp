@@ -1,13 +1,14 @@
 #include "windows/albums/frmDamage.h"
 
 #include <QDateTime>
-#include <QLocale>
 #include <QScopedValueRollback>
 
 #include "controls/fields/Icons.h"
 #include "controls/forms/ScreenPointer.h"
+#include "pictures/PictureFacts.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Services.h"
+#include "support/Texts.h"
 #include "support/work/WorkAside.h"
 #include "ui_frmDamage.h"
 
@@ -15,8 +16,7 @@ namespace neb {
 namespace {
 
 QString TextOfTime(const Generation& Each) {
-    const QDateTime Saved = QDateTime::fromMSecsSinceEpoch(Each.Saved);
-    return QLocale(QLocale::English).toString(Saved, QStringLiteral("d MMMM yyyy, hh:mm"));
+    return TimeText(QDateTime::fromMSecsSinceEpoch(Each.Saved));
 }
 
 QString Counted(qint64 Count, const QString& One, const QString& Many) {

@@ -2,6 +2,7 @@
 
 #include "controls/forms/Tell.h"
 #include "settings/modNEBSlideShow.h"
+#include "support/Texts.h"
 #include "support/modDEValidation.h"
 #include "ui_frmGetObjectName.h"
 #include "windows/albums/modAlbumNames.h"
@@ -11,7 +12,7 @@ namespace neb {
 
 frmGetObjectName::frmGetObjectName() : mUi(std::make_unique<Ui::frmGetObjectName>()) {
     mUi->setupUi(this);
-    SetAdjective(QStringLiteral("Object"));
+    SetAdjective(tr("Object"));
     KeepNameClean(*mUi->txtObjectName);
     On(mUi->cmdSave, &QPushButton::clicked, &frmGetObjectName::Save);
     On(mUi->cmdCancel, &QPushButton::clicked, &frmGetObjectName::Close);
@@ -21,12 +22,11 @@ frmGetObjectName::~frmGetObjectName() = default;
 
 void frmGetObjectName::SetAdjective(const QString& Noun) {
     mAdjective = Noun;
-    setWindowTitle(QStringLiteral("Get ") + Noun + QStringLiteral(" Name"));
-    mUi->Label1->setText(Noun + QStringLiteral(" Name"));
+    setWindowTitle(tr("Get %1 Name").arg(Noun));
+    mUi->Label1->setText(tr("%1 Name").arg(Noun));
     mUi->txtObjectName->setAccessibleName(mUi->Label1->text());
-    mUi->txtObjectName->setToolTip(QStringLiteral("Enter the ") + Noun + QStringLiteral(" Name."));
-    mUi->cmdSave->setToolTip(QStringLiteral("Complete the ") + Noun +
-                             QStringLiteral(" Name Entry."));
+    mUi->txtObjectName->setToolTip(tr("Enter the %1 Name.").arg(Noun));
+    mUi->cmdSave->setToolTip(tr("Complete the %1 Name Entry.").arg(Noun));
 }
 
 QString frmGetObjectName::GetObjectName(const QString& OldName, NameCheck Check) {
@@ -40,8 +40,7 @@ QString frmGetObjectName::GetObjectName(const QString& OldName, NameCheck Check)
 
 bool frmGetObjectName::MayBe(const QString& Name) const {
     if (!Tell(CheckName(mAdjective, Name))) return false;
-    return mCheck ? Tell(mCheck(Name))
-                  : ValidateUserInput(mAdjective + QStringLiteral(" Name"), Name);
+    return mCheck ? Tell(mCheck(Name)) : ValidateUserInput(tr("%1 Name").arg(mAdjective), Name);
 }
 
 void frmGetObjectName::Save() {

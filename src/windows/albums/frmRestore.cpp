@@ -1,7 +1,6 @@
 #include "windows/albums/frmRestore.h"
 
 #include <QHeaderView>
-#include <QLocale>
 #include <QScopeGuard>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
@@ -14,9 +13,11 @@
 #include "controls/grid/EmptyHint.h"
 #include "db/recovery/StateDifferences.h"
 #include "db/recovery/modRestore.h"
+#include "pictures/PictureFacts.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/ReasonOf.h"
 #include "support/Services.h"
+#include "support/Texts.h"
 #include "support/work/WorkAside.h"
 #include "ui_frmRestore.h"
 #include "windows/frame/modNotice.h"
@@ -28,8 +29,7 @@ namespace {
 enum Column { ColSaved, ColAlbums, ColSlides, ColShows, ColCount };
 
 QString TextOfTime(const Generation& Each) {
-    const QDateTime Saved = QDateTime::fromMSecsSinceEpoch(Each.Saved);
-    return QLocale(QLocale::English).toString(Saved, QStringLiteral("d MMMM yyyy, hh:mm"));
+    return TimeText(QDateTime::fromMSecsSinceEpoch(Each.Saved));
 }
 
 QTreeWidgetItem* NewItem(const Generation& Each) {

@@ -11,6 +11,7 @@
 #include "db/clsDBEngine.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Services.h"
+#include "support/Texts.h"
 #include "windows/albums/frmAlbumDelete.h"
 #include "windows/albums/frmAlbumRename.h"
 
@@ -33,7 +34,7 @@ void CleanWhenLeft(QLineEdit& Field, QString (*Cleaned)(const QString&)) {
 
 bool ShowRenameAlbum(std::int32_t AlbumID) {
     const auto Window = NewForm<frmAlbumRename>();
-    Window->SetAdjective(QStringLiteral("Album"));
+    Window->SetAdjective(tr("Album"));
     return Window->ShowRenameAlbum(AlbumID);
 }
 
@@ -42,10 +43,9 @@ bool ShowDeleteAlbum(std::int32_t AlbumID) {
 }
 
 bool IsAlbumToBeDeleted() {
-    return AskYesNo(
-        QStringLiteral("Are you sure you want to delete the selected Album?\n"
+    return AskYesNo(tr("Are you sure you want to delete the selected Album?\n"
                        "If you proceed all the slides and slide shows within\nwill be lost."),
-        QStringLiteral("Delete Confirmation"));
+                    tr("Delete Confirmation"));
 }
 
 bool DeleteAlbumAsked(std::int32_t AlbumID) {
@@ -62,10 +62,9 @@ bool DeleteAlbumAsked(std::int32_t AlbumID) {
 
 Answer<> CheckName(const QString& Adjective, const QString& Name) {
     if (!Name.trimmed().isEmpty()) return Done();
-    const QString Article = StartsWithVowel(Adjective) ? QStringLiteral("You must enter an ")
-                                                       : QStringLiteral("You must enter a ");
-    return Refuse(Article + Adjective + QStringLiteral(" name."),
-                  QStringLiteral("Invalid User Input"));
+    const QString Text = StartsWithVowel(Adjective) ? tr("You must enter an %1 name.")
+                                                    : tr("You must enter a %1 name.");
+    return Refuse(Text.arg(Adjective), tr("Invalid User Input"));
 }
 
 void KeepQuotesClean(QLineEdit& Field) {

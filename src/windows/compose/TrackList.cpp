@@ -17,6 +17,7 @@
 #include "support/FlagText.h"
 #include "support/MediaTypes.h"
 #include "support/Services.h"
+#include "support/Texts.h"
 #include "support/files/HostNames.h"
 #include "support/modFUFL.h"
 #include "support/modNumbers.h"
@@ -35,15 +36,15 @@ const struct {
     int Letters;  // wide; 0: what its kind needs
     bool Editable = true;
 } Looks[TrackList::Columns] = {
-    {FlexKind::List, "Start Slide\nSeq", 0},
-    {FlexKind::List, "End Slide\nSeq", 0},
-    {FlexKind::Check, "Repeat", 0},
-    {FlexKind::Check, "Fit To\nSong", 0},
-    {FlexKind::Check, "Fade On\nLast Slide", 0},
-    {FlexKind::Button, "Sound Track\nFile Location", 0},
-    {FlexKind::Fixed, "No.", 5, false},
-    {FlexKind::Text, "Hear", 8, false},
-    {FlexKind::Text, "Song", 0, false},
+    {FlexKind::List, QT_TR_NOOP("Start Slide\nSeq"), 0},
+    {FlexKind::List, QT_TR_NOOP("End Slide\nSeq"), 0},
+    {FlexKind::Check, QT_TR_NOOP("Repeat"), 0},
+    {FlexKind::Check, QT_TR_NOOP("Fit To\nSong"), 0},
+    {FlexKind::Check, QT_TR_NOOP("Fade On\nLast Slide"), 0},
+    {FlexKind::Button, QT_TR_NOOP("Sound Track\nFile Location"), 0},
+    {FlexKind::Fixed, QT_TR_NOOP("No."), 5, false},
+    {FlexKind::Text, QT_TR_NOOP("Hear"), 8, false},
+    {FlexKind::Text, QT_TR_NOOP("Song"), 0, false},
 };
 
 // A button in a cell; empty cells have none.
@@ -145,7 +146,7 @@ void TrackList::SetUpColumns() {
                         .IsPath = Col == ColFile,
                         .Width = Looks[Col].Letters * Letter,
                         .Align = Col == ColPlay ? Qt::AlignHCenter : Qt::AlignLeft,
-                        .Heading = QString::fromLatin1(Looks[Col].Heading)});
+                        .Heading = tr(Looks[Col].Heading)});
 }
 
 void TrackList::ExplainColumns() {
@@ -310,7 +311,7 @@ void TrackList::ShowButtons() {
         const QString Path = PathOf(Row);
         const QString Text = Path.isEmpty()               ? QString()
                              : Path == mPlayer->Playing() ? tr("Stop")
-                                                          : tr("Play");
+                                                          : tr("Play", "a track");
         if (TextMatrix(Row, ColPlay) != Text) SetTextMatrix(Row, ColPlay, Text);
     }
 }

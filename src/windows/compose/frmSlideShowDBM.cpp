@@ -14,6 +14,7 @@
 #include "controls/forms/Tell.h"
 #include "db/clsDBEngine.h"
 #include "settings/modNEBSlideShow.h"
+#include "support/Texts.h"
 #include "support/modDEValidation.h"
 #include "ui_frmSlideShowDBM.h"
 #include "windows/albums/modAlbumNames.h"
@@ -109,38 +110,39 @@ void frmSlideShowDBM::SetUpButtons() {
 }
 
 void frmSlideShowDBM::SetUpToolBar() {
-    static const struct {
-        const char *Name, *Caption, *ToolTip, *IconName, *Keys;
+    const struct {
+        const char* Name;
+        QString Caption, ToolTip;
+        const char *Icon, *Keys;
         Action Does;
     } Tools[] = {
-        {"mnuSlideShowNew", "New", "Begin a new slide show", "new", "Ctrl+N",
+        {"mnuSlideShowNew", tr("New"), tr("Begin a new slide show"), "new", "Ctrl+N",
          &frmSlideShowDBM::New},
-        {"mnuSlideShowSave", "Save", "Save the slide show", "save", "Ctrl+S",
+        {"mnuSlideShowSave", tr("Save"), tr("Save the slide show"), "save", "Ctrl+S",
          &frmSlideShowDBM::Save},
-        {"mnuSlideShowSaveAs", "Save As New", "Save as a new slide show, under another name",
-         "save-as", "Ctrl+Shift+S", &frmSlideShowDBM::SaveAsNew},
-        {"mnuSlideShowDelete", "Delete", "Delete the slide show", "delete", "",
+        {"mnuSlideShowSaveAs", tr("Save As New"),
+         tr("Save as a new slide show, under another name"), "save-as", "Ctrl+Shift+S",
+         &frmSlideShowDBM::SaveAsNew},
+        {"mnuSlideShowDelete", tr("Delete"), tr("Delete the slide show"), "delete", "",
          &frmSlideShowDBM::Delete},
-        {"mnuSlideShowPrint", "Print", "Print the slide show as it was last saved", "print",
+        {"mnuSlideShowPrint", tr("Print"), tr("Print the slide show as it was last saved"), "print",
          "Ctrl+P", &frmSlideShowDBM::Print},
-        {"mnuSlideShowView", "View",
-         "Play the saved show from its first slide; with Shift from the slide in hand",
+        {"mnuSlideShowView", tr("View"),
+         tr("Play the saved show from its first slide; with Shift from the slide in hand"),
          "slide-show-play", "Shift+F5", &frmSlideShowDBM::View},
-        {"mnuSlideShowRehearse", "Rehearse", "What the saved show brings when, and what is wrong",
-         "find-graphics", "", &frmSlideShowDBM::Rehearse},
-        {"mnuSlideShowFilm", "Film", "Make a video file of the show as it was last saved", "film",
-         "", &frmSlideShowDBM::MakeFilm},
-        {"mnuSlideShowPrefs", "Preferences", "Choose how slide shows are played", "preferences", "",
-         &frmSlideShowDBM::EditPreferences},
-        {"mnuExit", "Exit", "Close this window", "exit", "", &frmSlideShowDBM::Close},
+        {"mnuSlideShowRehearse", tr("Rehearse"),
+         tr("What the saved show brings when, and what is wrong"), "find-graphics", "",
+         &frmSlideShowDBM::Rehearse},
+        {"mnuSlideShowFilm", tr("Film"), tr("Make a video file of the show as it was last saved"),
+         "film", "", &frmSlideShowDBM::MakeFilm},
+        {"mnuSlideShowPrefs", tr("Preferences"), tr("Choose how slide shows are played"),
+         "preferences", "", &frmSlideShowDBM::EditPreferences},
+        {"mnuExit", tr("Exit"), tr("Close this window"), "exit", "", &frmSlideShowDBM::Close},
     };
-    for (const auto& Each : Tools) {
-        const QString Name = QString::fromLatin1(Each.Name);
-        QAction* Tool = mUi->abrMenu->AddTool(Name, tr(Each.Caption), tr(Each.ToolTip),
-                                              QString::fromLatin1(Each.IconName),
-                                              QKeySequence(QString::fromLatin1(Each.Keys)));
-        On(Tool, &QAction::triggered, Each.Does);
-    }
+    for (const auto& Each : Tools)
+        On(mUi->abrMenu->AddTool(QLatin1String(Each.Name), Each.Caption, Each.ToolTip,
+                                 QLatin1String(Each.Icon), QKeySequence(QLatin1String(Each.Keys))),
+           &QAction::triggered, Each.Does);
 }
 
 // Each key where it means nothing else: in a line of text Ctrl+Right goes to the next word.
@@ -208,7 +210,7 @@ void frmSlideShowDBM::LoadSlideShowMgr(std::int32_t AlbumID, std::int32_t SlideS
 }
 
 void frmSlideShowDBM::Form_Load() {
-    mUi->cboProgressionMethod->addItems({QStringLiteral("Automatic"), QStringLiteral("Manual")});
+    mUi->cboProgressionMethod->addItems({tr("Automatic"), tr("Manual")});
     ComboBoxList AlbumList = Albums();
     DBEngine->LoadAlbumsCombo(AlbumList, false);
     OpenAsWideAsNames(*mUi->cboAlbum);
@@ -305,7 +307,7 @@ void frmSlideShowDBM::MoveDown() {
 
 void frmSlideShowDBM::New() {
     if (AlbumID() == 0)
-        MsgBox(QStringLiteral("You must first select an album."));
+        MsgBox(tr("You must first select an album."));
     else if (MayLeave())
         ChooseShow(0, Cause::User);
 }
@@ -316,7 +318,7 @@ bool frmSlideShowDBM::MayLeave() {
     BringToFront(*this);
     const BoxAnswer Answered =
         AskSave(tr("Are you sure you want to discard the changes to the current slide show?"),
-                QStringLiteral("Discard Changes Confirmation"));
+                tr("Discard Changes Confirmation"));
     return Answered == BoxAnswer::Save ? SaveShow(Content(), Cause::Program)
                                        : Answered == BoxAnswer::Discard;
 }
@@ -329,8 +331,7 @@ bool frmSlideShowDBM::SaveShow(ShowContent Show, Cause Who) {
     FollowWaiting();
     if (!Tell(Written)) return false;
     if (Who == Cause::User)
-        MsgBox(QStringLiteral("Slide Show Saved Successfully."), QStringLiteral("Save Successful"),
-               BoxIcon::Information);
+        MsgBox(tr("Slide Show Saved Successfully."), tr("Save Successful"), BoxIcon::Information);
     Written->Now();
     if (!IsLoaded() || AlbumID() != Show.AlbumID) return true;
     LoadSlideShowsList();
@@ -364,8 +365,7 @@ void frmSlideShowDBM::Delete() {
     if (From == 0 || ShowID == 0) return New();
     std::optional<Announcement> Deleted = DeleteShowAsked(From, ShowID, this);
     if (!Deleted) return;
-    MsgBox(QStringLiteral("Slide Show Deleted Successfully."), QStringLiteral("Delete Successful"),
-           BoxIcon::Information);
+    MsgBox(tr("Slide Show Deleted Successfully."), tr("Delete Successful"), BoxIcon::Information);
     Deleted->Now();
     if (!IsLoaded() || AlbumID() != From) return;
     LoadSlideShowsList();
@@ -374,7 +374,7 @@ void frmSlideShowDBM::Delete() {
 
 void frmSlideShowDBM::Print() {
     if (AlbumID() != 0) return ShowPrintSlideShow(AlbumID(), SlideShowID());
-    MsgBox(QStringLiteral("You must first select an album."));
+    MsgBox(tr("You must first select an album."));
 }
 
 void frmSlideShowDBM::View() {
@@ -394,7 +394,7 @@ void frmSlideShowDBM::MakeFilm() {
 
 void frmSlideShowDBM::WithShow(ShowOpener Open, const QString& None) {
     if (AlbumID() != 0 && SlideShowID() != 0) return Open(AlbumID(), SlideShowID());
-    MsgBox(None, QStringLiteral("Missing User Input"));
+    MsgBox(None, tr("Missing User Input"));
 }
 
 }  // namespace neb

@@ -11,6 +11,7 @@
 #include "db/modAlbumFiles.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Services.h"
+#include "support/Texts.h"
 #include "support/modCharacters.h"
 #include "ui_frmSlideShowDBM.h"
 #include "windows/albums/modAlbumNames.h"
@@ -116,8 +117,8 @@ void frmSlideShowDBM::FollowReading() {
 void frmSlideShowDBM::FollowAlbum() {
     const bool Shown = AlbumID() != 0;
     const QString Name = mUi->cboAlbum->currentText();
-    setWindowTitle(Shown ? QStringLiteral("Slide Show Manager - ") + InOwnDirection(Name)
-                         : QStringLiteral("Slide Show Manager"));
+    setWindowTitle(Shown ? tr("Slide Show Manager - ") + InOwnDirection(Name)
+                         : tr("Slide Show Manager"));
     mLists->SayWhatToDo(mUi->cboAlbum->count() > 0, Shown);
 }
 
@@ -148,7 +149,7 @@ SlideReading::Order frmSlideShowDBM::AlbumSlides(bool ListsToo) {
 std::optional<SlideReading::KeyList> frmSlideShowDBM::SlideKeys() const {
     const clsNEBAlbum* Album = ShownAlbum();
     if (!Album) {
-        MsgBox(QStringLiteral("Album not found."));
+        MsgBox(tr("Album not found."));
         return {};
     }
     SlideReading::KeyList Keys;
@@ -162,9 +163,9 @@ void frmSlideShowDBM::LoadSlideShowsList() {
     ComboBoxList List = Shows();
     List.Clear();
     clsNEBAlbum* Album = ShownAlbum();
-    if (!Album) return void(MsgBox(QStringLiteral("Album not found.")));
+    if (!Album) return void(MsgBox(tr("Album not found.")));
     Album->LoadSlideShowsCombo(List);
-    List.InsertItem(0, QStringLiteral("<NEW SLIDE SHOW>"), 0);
+    List.InsertItem(0, tr("<NEW SLIDE SHOW>"), 0);
     OpenAsWideAsNames(*mUi->cboSlideShows);
     mUi->cboSlideShows->update();
 }
@@ -191,7 +192,7 @@ void frmSlideShowDBM::cboSlideShows_Click() {
 }
 
 void frmSlideShowDBM::ReadShow() {
-    if (AlbumID() == 0) return void(MsgBox(QStringLiteral("You must first select an album.")));
+    if (AlbumID() == 0) return void(MsgBox(tr("You must first select an album.")));
     if (IsBusy()) return;
     ShowChosenShow();
     if (!IsLoaded()) return;

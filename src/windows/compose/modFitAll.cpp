@@ -6,6 +6,7 @@
 #include "controls/forms/ScreenPointer.h"
 #include "controls/forms/frmProgress.h"
 #include "support/Fault.h"
+#include "support/Texts.h"
 #include "support/work/Job.h"
 #include "windows/frame/modNotice.h"
 
@@ -24,7 +25,7 @@ struct Lengths {
 double Measured(const QString& Path, const SongMeasure& Measure) {
     const double Seconds = Measure(Path);
     if (Seconds > 0) return Seconds;
-    throw Fault(QStringLiteral("There is no sound in it."), Path);
+    throw Fault(tr("There is no sound in it."), Path);
 }
 
 Lengths MeasureAll(const QStringList& Paths, const SongMeasure& Measure, JobState& State) {
@@ -43,8 +44,7 @@ Lengths MeasureAll(const QStringList& Paths, const SongMeasure& Measure, JobStat
 }
 
 BoxRequest RefuseRow(qsizetype Row, const QString& Why) {
-    return Refuse(QStringLiteral("Sound track %1 cannot be measured.\n%2").arg(Row).arg(Why),
-                  QStringLiteral("Fit All"));
+    return Refuse(tr("Sound track %1 cannot be measured.\n%2").arg(Row).arg(Why), tr("Fit All"));
 }
 
 enum class End { Done, TookTooLong, Stopped };
@@ -106,7 +106,7 @@ Answer<std::vector<ShowTrack>> FitAllAside(Form& Asker, const ShowContent& Show,
         return Show.Tracks;
     }
     if (Ended == End::TookTooLong)
-        return RefuseRow(Work.SoFar() + 1, QStringLiteral("The file does not answer."));
+        return RefuseRow(Work.SoFar() + 1, tr("The file does not answer."));
     const Lengths All = Work.Take();
     if (!All.Why.isEmpty()) return RefuseRow(std::ssize(All.Seconds), All.Why);
     return FitAllTracks(Show, All.Seconds);

@@ -4,6 +4,7 @@
 #include "db/clsDBEngine.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Services.h"
+#include "support/Texts.h"
 #include "windows/compose/frmSlideShowDBM.h"
 
 namespace neb {
@@ -20,11 +21,11 @@ void ShowSlideInManager(std::int32_t AlbumID, std::int32_t SlideShowID, std::int
 
 std::optional<Announcement> DeleteShowAsked(std::int32_t AlbumID, std::int32_t SlideShowID,
                                             const QObject* Asker) {
-    if (!AskYesNo(QStringLiteral("Are you sure you want to delete the selected slide show?"),
-                  QStringLiteral("Delete Confirmation")))
+    if (!AskYesNo(tr("Are you sure you want to delete the selected slide show?"),
+                  tr("Delete Confirmation")))
         return std::nullopt;
     if (!DBEngine->GetAlbum(AlbumID)) {
-        MsgBox(QStringLiteral("Album not found."));
+        MsgBox(tr("Album not found."));
         return std::nullopt;
     }
     Answer<Announcement> Deleted = Changes(*DBEngine, Asker).DeleteShow(AlbumID, SlideShowID);
@@ -33,10 +34,9 @@ std::optional<Announcement> DeleteShowAsked(std::int32_t AlbumID, std::int32_t S
 }
 
 bool StoredShowWillDo() {
-    return AskYesNo(
-        QStringLiteral("The changes to this slide show are not saved, and will not be in the "
+    return AskYesNo(tr("The changes to this slide show are not saved, and will not be in the "
                        "film. Make it of the show as it was last saved?"),
-        QStringLiteral("Make a Film"));
+                    tr("Make a Film"));
 }
 
 }  // namespace neb

@@ -6,6 +6,7 @@
 #include "support/Fault.h"
 #include "support/Grouped.h"
 #include "support/Services.h"
+#include "support/Texts.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
 #include "support/work/WorkAside.h"
@@ -15,7 +16,7 @@
 namespace neb {
 namespace {
 
-const QString Title = QStringLiteral("Check a Disc");
+constexpr char Title[] = QT_TR_NOOP("Check a Disc");
 
 struct Comparison {
     std::optional<std::vector<SumsFinding>> Findings;  // none: it was stopped
@@ -42,10 +43,10 @@ Comparison Compare(const QString& Dir) {
 
 QString Line(const SumsFinding& Found) {
     using Kind = SumsFinding::Kind;
-    const char* Is = Found.Is == Kind::Missing   ? "missing: "
-                     : Found.Is == Kind::Changed ? "changed: "
-                                                 : "cannot be read: ";
-    return QObject::tr(Is) + Found.Path;
+    const char* Is = Found.Is == Kind::Missing   ? QT_TR_NOOP("missing: ")
+                     : Found.Is == Kind::Changed ? QT_TR_NOOP("changed: ")
+                                                 : QT_TR_NOOP("cannot be read: ");
+    return tr(Is) + Found.Path;
 }
 
 void TellFindings(const QString& Dir, const Comparison& Made) {
@@ -53,14 +54,14 @@ void TellFindings(const QString& Dir, const Comparison& Made) {
     if (Bad == 0) {
         MsgBox(QObject::tr("All is well: %1 files in\n%2\nare as they were written.")
                    .arg(Grouped(Made.Files), Dir),
-               Title, BoxIcon::Information);
+               tr(Title), BoxIcon::Information);
         return;
     }
     QStringList Lines;
     for (const SumsFinding& Each : *Made.Findings) Lines << Line(Each);
     MsgBox(QObject::tr("%1 of %2 files in\n%3\nare not as they were written.\n\n%4")
                .arg(Grouped(Bad), Grouped(Made.Files), Dir, Lines.join(u'\n')),
-           Title, BoxIcon::Critical);
+           tr(Title), BoxIcon::Critical);
 }
 
 }  // namespace
@@ -74,7 +75,7 @@ void CheckDisc() {
         MsgBox(QObject::tr("There is no list of check sums in\n%1\nA folder that was written for a "
                            "disc has one, named %2.")
                    .arg(Dir, QLatin1String(SumsName)),
-               Title, BoxIcon::Information);
+               tr(Title), BoxIcon::Information);
         return;
     }
     try {
@@ -82,7 +83,7 @@ void CheckDisc() {
         if (!Made.Findings) return ShowNotice(QObject::tr("Stopped; not all was checked."));
         TellFindings(Dir, Made);
     } catch (const Fault& Problem) {
-        MsgBox(Problem.Text(), Title, BoxIcon::Critical);
+        MsgBox(Problem.Text(), tr(Title), BoxIcon::Critical);
     }
 }
 

@@ -3,6 +3,7 @@
 #include <QObject>
 
 #include "support/Grouped.h"
+#include "support/Texts.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
 #include "support/modText.h"
@@ -25,14 +26,14 @@ QString LengthText(double Seconds) {
 Answer<> CheckFilmFile(const FilmOrder& Order) {
     if (GetFileName(Order.Path).isEmpty())
         return Refuse(QObject::tr("You must first name the file of the film."),
-                      QStringLiteral("Missing User Input"));
+                      tr("Missing User Input"));
     const QString Folder = GetFilePath(Order.Path);
     if (!Folder.isEmpty() && !FolderExists(Folder))
         return Refuse(QObject::tr("There is no folder of this name:\n%1").arg(Folder),
-                      QStringLiteral("Invalid User Input"));
+                      tr("Invalid User Input"));
     if (FolderExists(Order.Path))
         return Refuse(QObject::tr("There is a folder of this name:\n%1").arg(Order.Path),
-                      QStringLiteral("Invalid User Input"));
+                      tr("Invalid User Input"));
     return CheckFilmOrder(Order);
 }
 

@@ -8,6 +8,7 @@
 #include "db/clsDBEngine.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Grouped.h"
+#include "support/Texts.h"
 #include "support/files/modHostFiles.h"
 #include "support/files/modHostFilesCopy.h"
 #include "support/modCharacters.h"
@@ -120,7 +121,7 @@ void frmFilm::MakeFilmOf(std::int32_t AlbumID, std::int32_t SlideShowID) {
     const auto Held = shared_from_this();
     mOf = {AlbumID, SlideShowID};
     if (!Show()) {
-        MsgBox(QStringLiteral("Slide Show not found."));
+        MsgBox(tr("Slide Show not found."));
         return;
     }
     mUi->fchFilm->Propose(Show()->SlideShowName);
@@ -270,7 +271,7 @@ bool frmFilm::IsReady(const FilmOrder& Order) {
         if (const auto Other = std::dynamic_pointer_cast<frmFilm>(Each);
             Other && Other->IsMaking(Order.Path)) {
             MsgBox(tr("A film is just being made in this file:\n%1").arg(Order.Path),
-                   QStringLiteral("Invalid User Input"), BoxIcon::Information);
+                   tr("Invalid User Input"), BoxIcon::Information);
             return false;
         }
     const QStringList There = FilesToReplace(Order);
@@ -316,7 +317,7 @@ void frmFilm::Failed(const QString& Reason) {
     mUi->lblSummary->setText(tr("The film was not made."));
     ShowTitle({});
     BringToFront(*this);
-    MsgBox(Reason, QStringLiteral("Operation Failed"), BoxIcon::Critical);
+    MsgBox(Reason, tr("Operation Failed"), BoxIcon::Critical);
     if (IsLoaded() && PhaseNow() == Phase::Choosing) FollowShow();
 }
 

@@ -8,6 +8,7 @@
 #include "settings/SettingKeys.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Grouped.h"
+#include "support/Texts.h"
 #include "support/modCharacters.h"
 #include "ui_AlbumPage.h"
 #include "windows/frame/AlbumInHand.h"
@@ -24,17 +25,17 @@ constexpr double SizeStep = 1.25;
 constexpr double TitleScale = 1.3;
 
 const std::vector<SlideEntry> Entries{
-    {"Screen", "Show on &Full Screen", "Enter", "slide-show-play", false, true},
-    {"Edit", "&Edit Caption", "F2", "new", true, true},
-    {"Manager", "Open in the &Slide Manager", "", "slide-manager", false, true},
+    {"Screen", QT_TR_NOOP("Show on &Full Screen"), "Enter", "slide-show-play", false, true},
+    {"Edit", QT_TR_NOOP("&Edit Caption"), "F2", "new", true, true},
+    {"Manager", QT_TR_NOOP("Open in the &Slide Manager"), "", "slide-manager", false, true},
     {"", "", "", "", false, false},
-    {"Left", "Turn &Left", "Ctrl+Shift+L", "rotate-left", true, false},
-    {"Right", "Turn &Right", "Ctrl+Shift+R", "rotate-right", true, false},
+    {"Left", QT_TR_NOOP("Turn &Left"), "Ctrl+Shift+L", "rotate-left", true, false},
+    {"Right", QT_TR_NOOP("Turn &Right"), "Ctrl+Shift+R", "rotate-right", true, false},
     {"", "", "", "", false, false},
-    {"Print", "&Print...", "Ctrl+P", "print", false, false},
-    {"Sheet", "Print a S&heet of this Slide...", "", "print-sheet", false, true},
+    {"Print", QT_TR_NOOP("&Print..."), "Ctrl+P", "print", false, false},
+    {"Sheet", QT_TR_NOOP("Print a S&heet of this Slide..."), "", "print-sheet", false, true},
     {"", "", "", "", false, false},
-    {"Delete", "&Delete", "Del", "delete", true, false},
+    {"Delete", QT_TR_NOOP("&Delete"), "Del", "delete", true, false},
 };
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "windows/gallery/SlideCommands.h"
 
 #include <QAction>
+#include <QKeySequence>
 #include <QMenu>
 
 #include "albums/BulkSlides.h"
@@ -10,6 +11,7 @@
 #include "db/modAlbumFiles.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Services.h"
+#include "support/Texts.h"
 #include "support/modDEValidation.h"
 #include "windows/gallery/AlbumPage.h"
 #include "windows/gallery/SlideTurning.h"
@@ -56,12 +58,12 @@ void StoreCaption(std::int32_t AlbumID, std::int32_t SlideID, const QString& Cap
 void DeleteSlidesAsked(const QWidget& Window, std::int32_t AlbumID,
                        const std::vector<std::int32_t>& SlideIDs) {
     if (SlideIDs.empty() || !MayChangeSlides()) return;
-    const QString Question = QStringLiteral("Are you sure you want to delete the selected slides?");
-    if (!AskYesNo(Question, QStringLiteral("Delete Confirmation")) || !DBEngine) return;
+    const QString Question = tr("Are you sure you want to delete the selected slides?");
+    if (!AskYesNo(Question, tr("Delete Confirmation")) || !DBEngine) return;
     const SlideTally Tally = Deleted(Window, AlbumID, SlideIDs);
     if (Tally.Failed == 0) return;
     MsgBox(Tally.Text(QStringLiteral("deleted"), QStringLiteral("delete")),
-           QStringLiteral("Operation Completed"), BoxIcon::Information);
+           tr("Operation Completed"), BoxIcon::Information);
 }
 
 void TurnSlides(std::int32_t AlbumID, const std::vector<std::int32_t>& SlideIDs, int Quarters) {
@@ -94,10 +96,10 @@ QString AskInMenu(QWidget& Window, const std::vector<SlideEntry>& Entries, const
             Menu.addSeparator();
             continue;
         }
-        const QString Keys = QString::fromLatin1(Each.Keys);
-        QAction* Made =
-            Menu.addAction(ThemeIcon(QString::fromLatin1(Each.Icon), Window.palette()),
-                           AlbumPage::tr(Each.Text) + (Keys.isEmpty() ? QString() : u'\t' + Keys));
+        const QString Keys =
+            QKeySequence(QLatin1String(Each.Keys)).toString(QKeySequence::NativeText);
+        QAction* Made = Menu.addAction(ThemeIcon(QString::fromLatin1(Each.Icon), Window.palette()),
+                                       tr(Each.Text) + (Keys.isEmpty() ? QString() : u'\t' + Keys));
         Made->setObjectName(QString::fromLatin1(Each.Name));
         Made->setEnabled((!Each.Changes || !ReadOnlyDB) && (!Each.IsForOne || IsOne));
     }

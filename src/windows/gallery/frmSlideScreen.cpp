@@ -8,6 +8,7 @@
 #include "show/captions/CaptionFit.h"
 #include "show/captions/CaptionText.h"
 #include "support/Grouped.h"
+#include "support/Texts.h"
 #include "support/modCharacters.h"
 #include "support/modFUFL.h"
 #include "windows/gallery/CaptionField.h"
@@ -26,15 +27,15 @@ constexpr QColor FieldGround(38, 38, 38);
 constexpr int FieldShare = 2;  // of the screen's width
 
 const std::vector<SlideEntry> Entries{
-    {"Edit", "&Edit Caption", "F2", "new", true, true},
+    {"Edit", QT_TR_NOOP("&Edit Caption"), "F2", "new", true, true},
     {"", "", "", "", false, false},
-    {"Left", "Turn &Left", "L", "rotate-left", true, true},
-    {"Right", "Turn &Right", "R", "rotate-right", true, true},
+    {"Left", QT_TR_NOOP("Turn &Left"), "L", "rotate-left", true, true},
+    {"Right", QT_TR_NOOP("Turn &Right"), "R", "rotate-right", true, true},
     {"", "", "", "", false, false},
-    {"Print", "&Print...", "Ctrl+P", "print", false, true},
-    {"Delete", "&Delete", "Del", "delete", true, true},
+    {"Print", QT_TR_NOOP("&Print..."), "Ctrl+P", "print", false, true},
+    {"Delete", QT_TR_NOOP("&Delete"), "Del", "delete", true, true},
     {"", "", "", "", false, false},
-    {"Back", "&Back to the Album", "Esc", "exit", false, true},
+    {"Back", QT_TR_NOOP("&Back to the Album"), "Esc", "exit", false, true},
 };
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include "controls/fields/Icons.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
+#include "support/Texts.h"
 #include "windows/frame/Openers.h"
 #include "windows/frame/modNotice.h"
 #include "windows/home/BigButton.h"
@@ -38,12 +39,12 @@ void ImportAlbum() {
 }
 
 constexpr Beginning Beginnings[] = {
-    {"cmdBeginQuickShow", "Quick Show", "Turn a folder of pictures into a running show",
-     "quick-show", nullptr},
-    {"cmdBeginAlbum", "New Album", "Collect pictures from folders and drives", "album-new",
-     &MakeAlbum},
-    {"cmdBeginImport", "Import", "Bring in an album from another computer or a disc", "import",
-     &ImportAlbum},
+    {"cmdBeginQuickShow", QT_TR_NOOP("Quick Show"),
+     QT_TR_NOOP("Turn a folder of pictures into a running show"), "quick-show", nullptr},
+    {"cmdBeginAlbum", QT_TR_NOOP("New Album"),
+     QT_TR_NOOP("Collect pictures from folders and drives"), "album-new", &MakeAlbum},
+    {"cmdBeginImport", QT_TR_NOOP("Import"),
+     QT_TR_NOOP("Bring in an album from another computer or a disc"), "import", &ImportAlbum},
 };
 
 // Queued, as an entry of the menu is: a window that opens does not hold the button.

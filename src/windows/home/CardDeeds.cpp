@@ -5,6 +5,7 @@
 #include "db/clsDBEngine.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
+#include "support/Texts.h"
 #include "windows/albums/frmGetObjectName.h"
 #include "windows/albums/modAlbumNames.h"
 #include "windows/compose/modShowManagers.h"
@@ -88,7 +89,7 @@ void RenameShow(const HomeCard& Card) {
         return Album ? CheckShowName(*Album, Card.Of.SlideShowID, Name) : Done();
     };
     const auto Window = NewForm<frmGetObjectName>();
-    Window->SetAdjective(QStringLiteral("Slide Show"));
+    Window->SetAdjective(tr("Slide Show"));
     Window->setWindowTitle(QObject::tr("Rename Slide Show"));
     const QString Name = Window->GetObjectName(Card.Name, MayBe);
     if (!Name.isEmpty()) Tell(RenameShow(*DBEngine, Card.Of.AlbumID, Card.Of.SlideShowID, Name));
@@ -118,19 +119,21 @@ void Delete(const HomeCard& Card) {
 }
 
 constexpr CardDeed Deeds[] = {
-    {"mnuCardPlay", "&Play", "", "slide-show-play", false, &IsShow, nullptr},
-    {"mnuCardOpen", "&Open", "", "open", false, &IsNoShow, nullptr, true},
-    {"mnuCardView", "&View", "", "album", false, &IsNoSlide, &View},
-    {"mnuCardEdit", "&Edit", "", "slide-manager", true, &IsNoSlide, &Edit},
-    {"mnuCardEditSlide", "&Edit Slide", "", "slide-manager", true, &IsSlide, &Edit},
-    {"mnuCardCaptions", "Edit &Captions", "", "slide-manager-bulk", true, &IsAlbum, &EditCaptions},
-    {"mnuCardCompose", "Compose a &Slide Show", "", "slide-show-manager", true, &IsAlbum, &Compose},
-    {"mnuCardRehearse", "Re&hearse", "", "find-graphics", false, &IsShow, &Rehearse},
-    {"mnuCardFilm", "&Make a Film...", "", "film", false, &IsShow, &MakeFilm, true},
-    {"mnuCardRename", "&Rename...", "F2", "album-rename", true, &IsNoSlide, &Rename},
-    {"mnuCardPrint", "Pr&int...", "", "print", false, &IsNoSlide, &Print},
-    {"mnuCardExport", "E&xport...", "", "export", false, &IsNoSlide, &Export, true},
-    {"mnuCardDelete", "&Delete...", "Del", "delete", true, &IsNoSlide, &Delete},
+    {"mnuCardPlay", QT_TR_NOOP("&Play"), "", "slide-show-play", false, &IsShow, nullptr},
+    {"mnuCardOpen", QT_TR_NOOP("&Open"), "", "open", false, &IsNoShow, nullptr, true},
+    {"mnuCardView", QT_TR_NOOP("&View"), "", "album", false, &IsNoSlide, &View},
+    {"mnuCardEdit", QT_TR_NOOP("&Edit"), "", "slide-manager", true, &IsNoSlide, &Edit},
+    {"mnuCardEditSlide", QT_TR_NOOP("&Edit Slide"), "", "slide-manager", true, &IsSlide, &Edit},
+    {"mnuCardCaptions", QT_TR_NOOP("Edit &Captions"), "", "slide-manager-bulk", true, &IsAlbum,
+     &EditCaptions},
+    {"mnuCardCompose", QT_TR_NOOP("Compose a &Slide Show"), "", "slide-show-manager", true,
+     &IsAlbum, &Compose},
+    {"mnuCardRehearse", QT_TR_NOOP("Re&hearse"), "", "find-graphics", false, &IsShow, &Rehearse},
+    {"mnuCardFilm", QT_TR_NOOP("&Make a Film..."), "", "film", false, &IsShow, &MakeFilm, true},
+    {"mnuCardRename", QT_TR_NOOP("&Rename..."), "F2", "album-rename", true, &IsNoSlide, &Rename},
+    {"mnuCardPrint", QT_TR_NOOP("Pr&int..."), "", "print", false, &IsNoSlide, &Print},
+    {"mnuCardExport", QT_TR_NOOP("E&xport..."), "", "export", false, &IsNoSlide, &Export, true},
+    {"mnuCardDelete", QT_TR_NOOP("&Delete..."), "Del", "delete", true, &IsNoSlide, &Delete},
 };
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/Services.h"
+#include "support/Texts.h"
 #include "support/files/HostNames.h"
 #include "support/files/modHostFiles.h"
 #include "ui_DirectoryPanel.h"
@@ -131,8 +132,7 @@ void DirectoryPanel::LookAtCount() {
         return;
     }
     const auto Over = qScopeGuard([this] { StopCount(); });
-    mUi->lblDirSummary->setText(QString::number(mCount->Take()) +
-                                QStringLiteral(" graphics files detected."));
+    mUi->lblDirSummary->setText(tr("%1 graphics files detected.").arg(mCount->Take()));
 }
 
 void DirectoryPanel::StopCount() {

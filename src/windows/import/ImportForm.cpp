@@ -15,6 +15,7 @@
 #include "settings/modNEBSlideShow.h"
 #include "support/ReasonOf.h"
 #include "support/Services.h"
+#include "support/Texts.h"
 #include "support/modDEValidation.h"
 #include "support/modNumbers.h"
 #include "support/modText.h"
@@ -28,7 +29,7 @@ namespace {
 
 // What the bar's tool tip says after item I of Count, I from 1.
 QString ImportProgressText(int I, int Count) {
-    return Format(100.0 * I / Count, "##0") + QStringLiteral("% Complete");
+    return tr("%1% Complete").arg(Format(100.0 * I / Count, "##0"));
 }
 
 }  // namespace
@@ -169,7 +170,7 @@ bool ImportForm::Form_QueryUnload() {
     BringToFront(*this);
     const BoxAnswer Answered =
         AskSave(tr("Are you sure you want to discard the selected pictures?"),
-                QStringLiteral("Discard Changes Confirmation"));
+                tr("Discard Changes Confirmation"));
     if (Answered != BoxAnswer::Save) return Answered == BoxAnswer::Discard;
     if (!Keep()) return false;
     mUi->flxSelected->SetRows(0);
@@ -197,7 +198,7 @@ void ImportForm::During(Phase What, const std::function<void()>& Do) {
 
 bool ImportForm::HasSelection() const {
     if (mUi->flxSelected->Rows() > 0) return true;
-    MsgBox(QStringLiteral("You must select atleast 1 picture in order to import."));
+    MsgBox(tr("You must select atleast 1 picture in order to import."));
     return false;
 }
 
@@ -260,7 +261,7 @@ bool ImportForm::EnterRows(PictureImport& Run, frmProgress& Bar, ImportTally& Ta
 }
 
 void ImportForm::BeginBar(frmProgress& Bar, int Count) {
-    Bar.setWindowTitle(QStringLiteral("Importing Slides ..."));
+    Bar.setWindowTitle(tr("Importing Slides ..."));
     Bar.SupportsStop(true);
     Bar.ShowCount(0, Count);
     Bar.Refresh();

@@ -8,6 +8,7 @@
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/Services.h"
+#include "support/Texts.h"
 #include "support/files/HostNames.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
@@ -69,10 +70,9 @@ void ImportForm::SortFiles(QStringList& Paths) {
 }
 
 void ImportForm::DropRemaining() {
-    const bool Drops =
-        mUi->flxNonSelected->Rows() > 0 &&
-        AskYesNo(QStringLiteral("Do you want to discard the remaining non-selected graphics?"),
-                 QStringLiteral("Discard Confirmation"));
+    const bool Drops = mUi->flxNonSelected->Rows() > 0 &&
+                       AskYesNo(tr("Do you want to discard the remaining non-selected graphics?"),
+                                tr("Discard Confirmation"));
     if (Drops) mUi->flxNonSelected->SetRows(0);
     UpdateButtons();
 }

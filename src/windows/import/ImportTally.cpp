@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "controls/forms/Tell.h"
+#include "support/Texts.h"
 
 namespace neb {
 
@@ -12,7 +13,7 @@ std::int32_t ImportTally::PlaceOf(int Row) const {
 }
 
 QString ImportTally::Text() const {
-    QString Told = QStringLiteral("%1 slides successfully imported.").arg(Entered.size());
+    QString Told = tr("%1 slides successfully imported.").arg(Entered.size());
     if (!Problem.isEmpty())
         Told = QObject::tr("%1\n\n%2 of %3 slides were imported before.")
                    .arg(Problem)
@@ -24,7 +25,7 @@ QString ImportTally::Text() const {
                    "selected.")
                    .arg(Entered.size())
                    .arg(Of);
-    if (!LeftOut.isEmpty()) Told += QStringLiteral("\n%1 slides discarded.").arg(LeftOut.size());
+    if (!LeftOut.isEmpty()) Told += tr("\n%1 slides discarded.").arg(LeftOut.size());
     return Told;
 }
 
@@ -37,7 +38,7 @@ QString ImportTally::Details() const {
 void ImportTally::Tell() const {
     BoxRequest Box{.Text = Text(), .Details = Details()};
     if (!Problem.isEmpty()) {
-        Box.Title = QStringLiteral("Operation Failed");
+        Box.Title = tr("Operation Failed");
         Box.Icon = BoxIcon::Critical;
     }
     ShowBox(Box);

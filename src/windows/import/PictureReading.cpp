@@ -10,6 +10,7 @@
 #include "controls/forms/frmLoading.h"
 #include "controls/grid/FlexGrid.h"
 #include "support/ReasonOf.h"
+#include "support/Texts.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
 #include "support/modText.h"
@@ -77,7 +78,7 @@ SlideReading::Order PictureReading::Order(const Source& From, const std::shared_
             .Grids = mLists,
             .Shows = SlideReading::Bar::CountAndText,
             .MayStop = true,
-            .KeysTitle = QStringLiteral("Reading Slides ...")};
+            .KeysTitle = tr("Reading Slides ...")};
 }
 
 // When they were taken is known when they have been read: then they are sorted once more. Who names
@@ -138,7 +139,7 @@ void PictureReading::TakeNext(Found& Pictures, const QString& Path) try {
 
 void PictureReading::SortFiles(QStringList& Paths) {
     if (const auto& Loading = mReading.Window()) {
-        Loading->setWindowTitle(QStringLiteral("Sorting Slides ..."));
+        Loading->setWindowTitle(tr("Sorting Slides ..."));
         Loading->pgbLoadingProgress()->setMaximum(static_cast<int>(Paths.size()));
         Loading->pgbLoadingProgress()->setValue(0);
         Loading->Refresh();

@@ -17,6 +17,7 @@
 #include "support/Fault.h"
 #include "support/ReasonOf.h"
 #include "support/Services.h"
+#include "support/Texts.h"
 #include "support/modFUFL.h"
 #include "support/modText.h"
 #include "ui_frmFindGraphics.h"
@@ -26,9 +27,9 @@
 namespace neb {
 namespace {
 
-const QString AllDrives = QStringLiteral("All Drives");
-const QString Browse = QStringLiteral("Browse");
-const QString Caption = QStringLiteral("Find Graphics");
+constexpr char AllDrives[] = QT_TR_NOOP("All Drives");
+constexpr char Browse[] = QT_TR_NOOP("Browse");
+constexpr char Caption[] = QT_TR_NOOP("Find Graphics");
 const QString NoProgress = QStringLiteral(" ");  // as high as any other line
 constexpr int FilesPerTick = 200;
 constexpr int WaitMs = 10;
@@ -43,10 +44,10 @@ const struct {
     const char *Heading, *Sample;
     int Twips;
     Qt::Alignment Align;
-} Columns[] = {{"File Name", "IMG_0000.JPEG", 1965, Qt::AlignLeft},
-               {"Path", "", 3030, Qt::AlignLeft},
-               {"Size", "00,000.0 KB", 990, Qt::AlignRight},
-               {"Date", "00/00/0000 00:00 AM", 2400, Qt::AlignLeft}};
+} Columns[] = {{QT_TR_NOOP("File Name"), "IMG_0000.JPEG", 1965, Qt::AlignLeft},
+               {QT_TR_NOOP("Path"), "", 3030, Qt::AlignLeft},
+               {QT_TR_NOOP("Size"), "00,000.0 KB", 990, Qt::AlignRight},
+               {QT_TR_NOOP("Date"), "00/00/0000 00:00 AM", 2400, Qt::AlignLeft}};
 constexpr int ColCount = static_cast<int>(std::size(Columns));
 constexpr int ColName = 0;
 constexpr int ColPath = 1;
@@ -83,9 +84,8 @@ void frmFindGraphics::SetUpGrid() {
     Grid.SetCols(ColCount);
     for (int Col = 0; Col < ColCount; ++Col) {
         const auto& Each = Columns[Col];
-        Grid.SetColumn(Col, {.IsPath = Col == ColPath,
-                             .Align = Each.Align,
-                             .Heading = QString::fromLatin1(Each.Heading)});
+        Grid.SetColumn(
+            Col, {.IsPath = Col == ColPath, .Align = Each.Align, .Heading = tr(Each.Heading)});
     }
     Grid.SetEmptyText(
         tr("Choose where to look and press Search.\n"
@@ -132,7 +132,7 @@ void frmFindGraphics::FillSearchPath() {
     QStringList Others;
     for (int I = 0; I < Paths.ListCount(); ++I)
         if (Paths.ItemData(I) == NotSearched) Others.append(Paths.List(I));
-    if (Others.isEmpty()) Others = {AllDrives, Browse};
+    if (Others.isEmpty()) Others = {tr(AllDrives), tr(Browse)};
     Paths.Clear();
     for (const QString& Drive : ReadyDrives(TheServices().Drives))
         ComboAddItem(Paths, Drive, Searched);
@@ -159,7 +159,7 @@ void frmFindGraphics::FollowDrives() {
 
 // A directory that was browsed to stays in the list until the window closes.
 void frmFindGraphics::SearchPathChosen() {
-    if (mUi->cboSearchPath->currentText() != Browse) return;
+    if (mUi->cboSearchPath->currentText() != tr(Browse)) return;
     const auto Selector = NewForm<frmDirSelect>();
     Selector->SetRecurseDirOption(false);
     Selector->SetCountGraphics(false);
@@ -173,9 +173,9 @@ void frmFindGraphics::SearchPathChosen() {
 
 void frmFindGraphics::Search() {
     mHunt = Hunt{};
-    setWindowTitle(Caption);
+    setWindowTitle(tr(Caption));
     SearchPathChosen();
-    if (!IsLoaded() || mUi->cboSearchPath->currentText() == Browse) {
+    if (!IsLoaded() || mUi->cboSearchPath->currentText() == tr(Browse)) {
         if (std::exchange(mHunt, std::nullopt)->DrivesMoved) FollowDrives();
         return;
     }
@@ -185,20 +185,19 @@ void frmFindGraphics::Search() {
         SearchChosen();
     } catch (const std::exception& Problem) {
         ShowFound();
-        MsgBox(QStringLiteral("Error Searching\n") + ReasonOf(Problem),
-               QStringLiteral("Operation Failed"));
+        MsgBox(tr("Error Searching\n") + ReasonOf(Problem), tr("Operation Failed"));
     }
     SearchEnded();
 }
 
 void frmFindGraphics::SearchChosen() {
-    mUi->lblResults->setText(QStringLiteral("0 Results"));
-    mUi->lblSelected->setText(QStringLiteral("0 Selected"));
+    mUi->lblResults->setText(tr("%1 Results").arg(0));
+    mUi->lblSelected->setText(tr("%1 Selected").arg(0));
     mUi->pnlPassedOver->ShowReport({});
     mUi->flxResults->SetEmptyText(tr("Searching ..."));
     mUi->flxResults->SetRows(0);
     DoEvents();
-    if (mUi->cboSearchPath->currentText() == AllDrives)
+    if (mUi->cboSearchPath->currentText() == tr(AllDrives))
         SearchDrives();
     else
         SearchDirectory(mUi->cboSearchPath->currentText());
@@ -222,7 +221,7 @@ void frmFindGraphics::SearchEnded() {
     mUi->flxResults->SetEmptyText(WhyEmpty(Ended));
     mUi->pnlPassedOver->ShowReport(Ended.PassedOver);
     mUi->lblProgress->setText(NoProgress);
-    setWindowTitle(Caption);
+    setWindowTitle(tr(Caption));
     if (IsLoaded() && !focusWidget()) mUi->flxResults->setFocus();
     if (Ended.DrivesMoved) FollowDrives();
 }
@@ -304,7 +303,7 @@ void frmFindGraphics::TickDirectory() {
 // list is painted anew.
 void frmFindGraphics::ShowProgress() {
     if (TheServices().Time->Ticks() < mHunt->NextYield) return;
-    setWindowTitle(Caption + QStringLiteral(" - ") + Counts());
+    setWindowTitle(tr(Caption) + QStringLiteral(" - ") + Counts());
     const QFontMetrics Metrics = mUi->lblProgress->fontMetrics();
     const QString Told = Counts() + QStringLiteral("   ");
     const int Room = mUi->lblProgress->width() - Metrics.horizontalAdvance(Told);
@@ -316,7 +315,7 @@ void frmFindGraphics::ShowProgress() {
 }
 
 QString frmFindGraphics::Counts() const {
-    return QStringLiteral("%1 Directories Searched: %2 Graphics Files Found")
+    return tr("%1 Directories Searched: %2 Graphics Files Found")
         .arg(mTally.Directories)
         .arg(mTally.Files);
 }
@@ -324,20 +323,19 @@ QString frmFindGraphics::Counts() const {
 // Before the user can look at the grid again, what was found is in it.
 void frmFindGraphics::ShowFound() {
     mUi->flxResults->AddItems(std::exchange(mHunt->Waiting, {}));
-    mUi->lblResults->setText(QString::number(mUi->flxResults->Rows()) + QStringLiteral(" Results"));
+    mUi->lblResults->setText(tr("%1 Results").arg(mUi->flxResults->Rows()));
 }
 
 void frmFindGraphics::ShowSelected() {
-    mUi->lblSelected->setText(QString::number(mUi->flxResults->SelectedRows()) +
-                              QStringLiteral(" Selected"));
+    mUi->lblSelected->setText(tr("%1 Selected").arg(mUi->flxResults->SelectedRows()));
 }
 
 void frmFindGraphics::Import() {
     const FlexGrid& Grid = *mUi->flxResults;
     const int Count = Grid.SelectedRows();
     if (Count == 0) {
-        MsgBox(QStringLiteral("You must first select the files you want to import."),
-               QStringLiteral("Missing Selection(s)"), BoxIcon::Information);
+        MsgBox(tr("You must first select the files you want to import."),
+               tr("Missing Selection(s)"), BoxIcon::Information);
         return;
     }
     for (int I = 0; I < Count; ++I) {

@@ -6,6 +6,7 @@
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/Services.h"
+#include "support/Texts.h"
 #include "support/modDEValidation.h"
 #include "ui_ImportForm.h"
 #include "windows/frame/AlbumInHand.h"
@@ -21,7 +22,7 @@ const WindowMemory Memory{QStringLiteral("frmImportFilter"), 7080};
 
 frmImportFilter::frmImportFilter() : ImportForm(Memory) {
     setObjectName(QStringLiteral("frmImportFilter"));
-    setWindowTitle(QStringLiteral("Picture Import Filter"));
+    setWindowTitle(tr("Picture Import Filter"));
     mUi->wdgName->hide();
     mUi->cmdImport->setText(tr("Sa&ve To Album"));
     mUi->cmdImport->setAccessibleName(tr("Save To Album"));
@@ -36,7 +37,7 @@ void frmImportFilter::SetAlbumName(const QString& AlbumName) {
 
 void frmImportFilter::ShowName(const QString& AlbumName) {
     mTarget.AlbumName = AlbumName;
-    setWindowTitle(QStringLiteral("Picture Import Filter - ") + AlbumName);
+    setWindowTitle(tr("Picture Import Filter - ") + AlbumName);
 }
 
 bool frmImportFilter::Keep() {
@@ -54,15 +55,14 @@ bool frmImportFilter::MakeTarget() {
         Made->Now();
         return true;
     }
-    MsgBox(QStringLiteral("Failed to create album."));
+    MsgBox(tr("Failed to create album."));
     return false;
 }
 
 // What was left out stays selected, and the window with it. Who only wants the window closed is not
 // led on to the next one. Closed meanwhile, nothing is said: the album may have gone.
 bool frmImportFilter::ImportIntoAlbum(frmProgress& Bar) {
-    if (!DBEngine->GetAlbum(mTarget.AlbumID))
-        throw Fault(QStringLiteral("The Album was not found."));
+    if (!DBEngine->GetAlbum(mTarget.AlbumID)) throw Fault(tr("The Album was not found."));
     Changes Door(*DBEngine, this);
     Announcement Imported = Door.AsOne(Change::Kind::SlidesImported, mTarget.AlbumID);
     const std::optional<ImportTally> Tally =

@@ -8,6 +8,7 @@
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/Services.h"
+#include "support/Texts.h"
 #include "support/modCharacters.h"
 #include "support/modDEValidation.h"
 #include "support/modFUFL.h"
@@ -58,7 +59,7 @@ void frmNewAlbumWzd1::Next() {
     if (!mUi->pnlDirectory->TakeChoice()) return;
     mInitialDir = mUi->pnlDirectory->Path();
     mRecurseDir = mUi->pnlDirectory->RecurseDir();
-    if (!IsNamed) MsgBox(QStringLiteral("You must enter a name for your new album."));
+    if (!IsNamed) MsgBox(tr("You must enter a name for your new album."));
     if (!IsNamed || !HasFreeName()) return ReturnTo(*mUi->txtAlbumName);
     if (!HasFreeDirectory()) return mUi->lblInitialDir->buddy()->setFocus();
     Import();
@@ -70,8 +71,7 @@ bool frmNewAlbumWzd1::HasFreeName() {
     const QString Name = CleanName(mUi->txtAlbumName->text());
     mUi->txtAlbumName->setText(Name);
     if (!DBEngine->FindAlbum(0, Name)) return Tell(DBEngine->CheckAlbumName(0, Name));
-    MsgBox(QStringLiteral("Album Name is already in use."), QStringLiteral("Invalid Album Name"),
-           BoxIcon::Critical);
+    MsgBox(tr("Album Name is already in use."), tr("Invalid Album Name"), BoxIcon::Critical);
     return false;
 }
 
@@ -79,8 +79,7 @@ bool frmNewAlbumWzd1::HasFreeDirectory() {
     if (mInitialDir.isEmpty()) return true;
     mInitialDir = WithSeparator(mInitialDir);
     if (!mInitialDir.startsWith(DBEngine->DBPath())) return true;
-    MsgBox(QStringLiteral(
-        "This directory is reserved for NEB Slide Show.  You cannot import from it."));
+    MsgBox(tr("This directory is reserved for NEB Slide Show.  You cannot import from it."));
     return false;
 }
 

@@ -12,6 +12,7 @@
 #include "settings/modNEBSlideShow.h"
 #include "support/ReasonOf.h"
 #include "support/Services.h"
+#include "support/Texts.h"
 #include "support/modDEValidation.h"
 #include "support/modFUFL.h"
 #include "ui_ImportForm.h"
@@ -29,11 +30,10 @@ constexpr std::int32_t Automatic = 0;  // ProgressionMethod
 
 frmQuickShow::frmQuickShow() : ImportForm(Memory) {
     setObjectName(QStringLiteral("frmQuickShow"));
-    setWindowTitle(QStringLiteral("Quick Show"));
+    setWindowTitle(tr("Quick Show"));
     mUi->cmdImport->setText(tr("Sa&ve"));  // Alt+S opens a menu of the main window
     mUi->cmdImport->setAccessibleName(tr("Save"));
-    mUi->cmdImport->setToolTip(
-        QStringLiteral("Create an Album and Slide Show from the Selected Pictures"));
+    mUi->cmdImport->setToolTip(tr("Create an Album and Slide Show from the Selected Pictures"));
     KeepNameClean(*mUi->txtName);
     // Enter saves; on a button that was gone to by keys it presses that one
     for (auto* Each : findChildren<QPushButton*>()) Each->setAutoDefault(true);
@@ -162,7 +162,7 @@ bool frmQuickShow::Run() {
 
 bool frmQuickShow::MayMake() {
     if (mUi->txtName->text().isEmpty()) {
-        MsgBox(QStringLiteral("You must specify a name for the new slideshow."));
+        MsgBox(tr("You must specify a name for the new slideshow."));
         return false;
     }
     mUi->txtName->setText(ConvertQuotes(mUi->txtName->text()));
@@ -198,7 +198,7 @@ bool frmQuickShow::MakeShow(frmProgress& Bar) {
     Made What{.Name = mUi->txtName->text()};
     auto Album = MakeAlbum(Door, What.Name);
     if (!Tell(Album)) {
-        MsgBox(QStringLiteral("Failed to save album."));
+        MsgBox(tr("Failed to save album."));
         return false;
     }
     What.AlbumID = Album->What().AlbumID;
@@ -241,7 +241,7 @@ std::optional<ImportTally> frmQuickShow::FillAlbum(Made& Into, clsNEBSlideShow& 
 bool frmQuickShow::HasPictures(const ImportTally& Tally) const {
     if (!Tally.Problem.isEmpty())
         ShowBox(
-            {.Text = QStringLiteral("Failed to save slide #%1\n%2")
+            {.Text = tr("Failed to save slide #%1\n%2")
                          .arg(Tally.Entered.size() + static_cast<size_t>(Tally.LeftOut.size()) + 1)
                          .arg(Tally.Problem),
              .Details = Tally.Details()});
@@ -255,14 +255,14 @@ bool frmQuickShow::SaveShow(Changes& Door, Made& What, clsNEBSlideShow Show) try
     Show.ProgressionMethod = Automatic;
     Answer<Announcement> Saved = Door.SaveShow(What.AlbumID, std::move(Show));
     if (!Saved) {
-        MsgBox(QStringLiteral("Failed to save slide show."));
+        MsgBox(tr("Failed to save slide show."));
         return false;
     }
     What.SlideShowID = Saved->What().SlideShowID;
     Saved->Never();
     return true;
 } catch (const std::exception& Problem) {
-    MsgBox(QStringLiteral("Failed to save slide show.\n") + ReasonOf(Problem));
+    MsgBox(tr("Failed to save slide show.\n") + ReasonOf(Problem));
     return false;
 }
 

@@ -10,6 +10,7 @@
 #include "controls/grid/FlexGrid.h"
 #include "support/Grouped.h"
 #include "support/Services.h"
+#include "support/Texts.h"
 #include "support/modNumbers.h"
 #include "windows/frame/modNotice.h"
 
@@ -21,7 +22,7 @@ void SetRedraw(const std::vector<FlexGrid*>& Grids, bool Redraw) {
 }
 
 QString PercentComplete(double Part, double Whole) {
-    return Format(Part / Whole * 100, "##0") + QStringLiteral("% Complete");
+    return tr("%1% Complete").arg(Format(Part / Whole * 100, "##0"));
 }
 
 // A list that ends early looks like a whole one.
@@ -74,7 +75,7 @@ void SlideReading::DoActivity() {
 
 void SlideReading::MakeRows(const KeyList& Keys) {
     const int Count = static_cast<int>(Keys.size());
-    mLoading->setWindowTitle(QStringLiteral("Loading Slides ..."));
+    mLoading->setWindowTitle(tr("Loading Slides ..."));
     mLoading->pgbLoadingProgress()->setMaximum(mOrder.Shows == Bar::Percent ? 100 : Count);
     MoveBar(0, Count);
     SetRedraw(mOrder.Grids, false);

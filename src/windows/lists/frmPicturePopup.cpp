@@ -5,6 +5,7 @@
 #include "controls/picture/PictureView.h"
 #include "support/Fault.h"
 #include "support/Services.h"
+#include "support/Texts.h"
 #include "support/modCharacters.h"
 #include "support/modFUFL.h"
 #include "ui_frmPicturePopup.h"
@@ -48,9 +49,9 @@ bool frmPicturePopup::Take() {
         return true;
     } catch (const std::exception&) {
         Unload();
-        MsgBox(QStringLiteral("Failed to Load the Picture.\n"
-                              "Make sure that you have permission to use the file."),
-               QStringLiteral("Load Failed"), BoxIcon::Critical);
+        MsgBox(tr("Failed to Load the Picture.\n"
+                  "Make sure that you have permission to use the file."),
+               tr("Load Failed"), BoxIcon::Critical);
         return false;
     }
 }

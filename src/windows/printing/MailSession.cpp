@@ -1,5 +1,6 @@
 #include "windows/printing/MailSession.h"
 
+#include "support/Texts.h"
 #include "support/modFUFL.h"
 #include "windows/printing/PrintFiles.h"
 #include "windows/printing/frmPrintPreview.h"
@@ -8,8 +9,7 @@ namespace neb {
 namespace {
 
 QString OrStandard(const QString& Text) {
-    const QString Given =
-        Text.isEmpty() ? QStringLiteral("Print Preview Document Attached.") : Text;
+    const QString Given = Text.isEmpty() ? tr("Print Preview Document Attached.") : Text;
     return u' ' + Given + u' ';
 }
 

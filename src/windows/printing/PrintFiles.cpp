@@ -8,6 +8,7 @@
 #include "printing/PpdFile.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
+#include "support/Texts.h"
 #include "support/files/modHostFiles.h"
 #include "support/files/modHostFilesAccess.h"
 #include "support/modFUFL.h"
@@ -59,11 +60,11 @@ Answer<QString> PrintFilePath(const QString& Chosen) {
     if (EndsIn(Chosen, PdfExtension) || EndsIn(Chosen, PpdExtension)) return Chosen;
     const QString Name = GetFileName(Chosen);
     if (!HasExtension(Name)) return Chosen + PdfExtension;
-    return Refuse(QStringLiteral("\"%1\" is neither a PDF file (.pdf) nor a document of the "
-                                 "program's own (.ppd).\nPlease choose one of these two "
-                                 "extensions. Nothing was saved.")
+    return Refuse(tr("\"%1\" is neither a PDF file (.pdf) nor a document of the "
+                     "program's own (.ppd).\nPlease choose one of these two "
+                     "extensions. Nothing was saved.")
                       .arg(Name),
-                  QStringLiteral("Save Document"));
+                  tr("Save Document"));
 }
 
 bool TryClearReadOnly(const QString& FileName) {
@@ -83,7 +84,7 @@ bool WritePrintFile(const PrintDocument& Document, const QString& Path, PrintFil
                     const PrintGoOn& GoOn) {
     if (!FileExists(Path) || !IsReadOnly(Path)) return WriteKind(Document, Path, Kind, GoOn);
     if (!TryClearReadOnly(Path))
-        throw Fault(QStringLiteral("The file is read-only, and that cannot be changed."), Path);
+        throw Fault(tr("The file is read-only, and that cannot be changed."), Path);
     auto AsItWas = qScopeGuard([&Path] { KeepReadOnly(Path); });
     const bool Written = WriteKind(Document, Path, Kind, GoOn);
     if (Written) AsItWas.dismiss();

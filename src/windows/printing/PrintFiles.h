@@ -6,11 +6,12 @@
 
 #include "printing/PrintDocument.h"
 #include "support/Answer.h"
+#include "support/Texts.h"
 
 namespace neb {
 
-inline const QString SaveFilter = QStringLiteral("PDF (*.pdf)|*.pdf|Custom (*.ppd)|*.ppd");
-inline const QString OpenFilter = QStringLiteral("Custom (*.ppd)|*.ppd");
+inline constexpr char SaveFilter[] = QT_TR_NOOP("PDF (*.pdf)|*.pdf|Custom (*.ppd)|*.ppd");
+inline constexpr char OpenFilter[] = QT_TR_NOOP("Custom (*.ppd)|*.ppd");
 
 // Where the user keeps documents, with closing separator: where the file dialogs begin.
 QString UsersDocuments();

@@ -14,6 +14,7 @@
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/Grouped.h"
+#include "support/Texts.h"
 #include "support/modNumbers.h"
 #include "ui_SheetForm.h"
 #include "windows/frame/modNotice.h"
@@ -26,7 +27,7 @@ namespace {
 const QSize UsualShape(4, 3);
 
 QString CompletedText(double Percent) {
-    return Format(Percent, "##0.0") + QStringLiteral("% Completed");
+    return tr("%1% Completed").arg(Decimal(Percent, 1));
 }
 
 // In the bar itself, where the next picture is being read.
@@ -104,8 +105,7 @@ void SheetForm::AlbumChosen() {
 
 Answer<> SheetForm::IsChosen() const {
     if (AlbumID() != 0) return Done();
-    return Refuse(QStringLiteral("You must select an Album to print."),
-                  QStringLiteral("Missing User Input"));
+    return Refuse(tr("You must select an Album to print."), tr("Missing User Input"));
 }
 
 bool SheetForm::CanPrint() const {

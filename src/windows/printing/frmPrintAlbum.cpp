@@ -4,6 +4,7 @@
 
 #include "db/clsDBEngine.h"
 #include "settings/modNEBSlideShow.h"
+#include "support/Texts.h"
 #include "ui_SheetForm.h"
 
 namespace neb {
@@ -30,7 +31,7 @@ void frmPrintAlbum::PrintSlides(std::int32_t AlbumID, const std::vector<std::int
 
 Answer<SheetForm::SheetMatter> frmPrintAlbum::Matter() const {
     clsNEBAlbum* Album = DBEngine->GetAlbum(AlbumID());
-    if (!Album) return Refuse(QStringLiteral("Album not found."));
+    if (!Album) return Refuse(tr("Album not found."));
     return SheetMatter{SlidesOf(*Album, DBEngine->DBPath(), mOnly), Album->AlbumName};
 }
 

@@ -81,7 +81,7 @@ void frmPrintPreview::KeepSize() {
 void frmPrintPreview::MakeMenu() {
     auto* Bar = new QMenuBar(this);
     QMenu* File = Bar->addMenu(tr("&File"));
-    QMenu* View = Bar->addMenu(tr("&View"));
+    QMenu* View = Bar->addMenu(tr("&View", "a menu"));
     File->setObjectName(QStringLiteral("mnuFile"));
     View->setObjectName(QStringLiteral("mnuView"));
     File->addActions({mUi->mnuOpen, mUi->mnuSave, mUi->mnuPrint, mUi->mnuMail});

@@ -6,6 +6,7 @@
 #include "printing/SlidesToPrint.h"
 #include "support/Fault.h"
 #include "support/Grouped.h"
+#include "support/Texts.h"
 #include "support/files/modHostFiles.h"
 #include "ui_frmPrintPreview.h"
 #include "windows/frame/frmInputBox.h"
@@ -21,27 +22,25 @@ namespace {
 
 using Document = std::shared_ptr<const PrintDocument>;
 
-const QString Failed = QStringLiteral("Operation Failed");
+constexpr char Failed[] = QT_TR_NOOP("Operation Failed");
 
 // How a printer's failures are told.
 struct PrintMessage {
     PrintError Error;
-    BoxRequest Box;
+    const char* Text;
+    const char* Title;
+    BoxIcon Icon;
     bool ClearsPrinted;
 };
 const PrintMessage PrintMessages[] = {
-    {PrintError::Unhandled,
-     {QStringLiteral("KIP you are supposed to have handled this error!")},
-     false},
-    {PrintError::NoAccess,
-     {QStringLiteral("Could not access printer."), Failed, BoxIcon::Critical},
+    {PrintError::Unhandled, QT_TR_NOOP("KIP you are supposed to have handled this error!"), nullptr,
+     BoxIcon::Plain, false},
+    {PrintError::NoAccess, QT_TR_NOOP("Could not access printer."), Failed, BoxIcon::Critical,
      true},
-    {PrintError::NotResponding,
-     {QStringLiteral("The Printer is not responding."), Failed, BoxIcon::Critical},
-     true},
-    {PrintError::Cancelled,
-     {QStringLiteral("The User Canceled the print job."), Failed, BoxIcon::Critical},
-     true},
+    {PrintError::NotResponding, QT_TR_NOOP("The Printer is not responding."), Failed,
+     BoxIcon::Critical, true},
+    {PrintError::Cancelled, QT_TR_NOOP("The User Canceled the print job."), Failed,
+     BoxIcon::Critical, true},
 };
 
 // What the bar over long work says.
@@ -112,7 +111,7 @@ bool MayReplace(const QString& Path) {
 }
 
 void TellFault(const Fault& Problem) {
-    MsgBox(Problem.Text(), Failed, BoxIcon::Critical);
+    MsgBox(Problem.Text(), tr(Failed), BoxIcon::Critical);
 }
 
 void TellNotSent(const QString& Path) {
@@ -124,8 +123,7 @@ void TellNotSent(const QString& Path) {
 
 QString AskAddress() {
     return NewForm<frmInputBox>()
-        ->InputBox(QStringLiteral("Enter the Email Address to Send To:"),
-                   QStringLiteral("Destination Email Address Entry"))
+        ->InputBox(tr("Enter the Email Address to Send To:"), tr("Destination Email Address Entry"))
         .trimmed();
 }
 
@@ -190,7 +188,9 @@ void frmPrintPreview::PrintFailed(PrintError Error) {
     if (Error == PrintError::None) mPrinted = false;
     if (Message == std::end(PrintMessages)) return;
     if (Message->ClearsPrinted) mPrinted = false;
-    ShowBox(Message->Box);
+    ShowBox({.Text = tr(Message->Text),
+             .Title = Message->Title ? tr(Message->Title) : QString(),
+             .Icon = Message->Icon});
     if (Error != PrintError::NoAccess) return;
     mUi->cmdSave->setFocus();
     Notify(tr("Save writes the pages to a PDF instead."));
@@ -206,8 +206,8 @@ void frmPrintPreview::Save() {
     const Document What = mUi->VSPrinter1->Document();
     if (!What) return;
     Notify({});
-    const QString Chosen = TheServices().Dialogs->SaveFile(QStringLiteral("Save Document"),
-                                                           ProposedFile(What->Title()), SaveFilter);
+    const QString Chosen = TheServices().Dialogs->SaveFile(
+        tr("Save Document"), ProposedFile(What->Title()), tr(SaveFilter));
     if (Chosen.isEmpty()) return;
     auto Path = PrintFilePath(Chosen);
     if (!Tell(Path) || !MayReplace(*Path)) return;
@@ -221,8 +221,8 @@ void frmPrintPreview::Save() {
 
 void frmPrintPreview::LoadDocument() {
     Notify({});
-    const QString Path = TheServices().Dialogs->OpenFile(QStringLiteral("Load Document"),
-                                                         UsersDocuments(), OpenFilter);
+    const QString Path =
+        TheServices().Dialogs->OpenFile(tr("Load Document"), UsersDocuments(), tr(OpenFilter));
     if (!Path.isEmpty()) Open(Path);
 }
 

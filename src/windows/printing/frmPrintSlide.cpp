@@ -5,7 +5,7 @@
 #include "controls/fields/Icons.h"
 #include "controls/fields/NumberKeys.h"
 #include "printing/SheetComposer.h"
-#include "support/modNumbers.h"
+#include "support/Grouped.h"
 #include "ui_frmPrintSlide.h"
 #include "windows/printing/PageSketch.h"
 
@@ -15,7 +15,7 @@ namespace {
 constexpr double KeyStep = 0.25, LeastByKey = 1;  // inches
 
 QString InWords(QSizeF Inches) {
-    const auto Side = [](double Of) { return ShortestDecimal(std::round(Of * 100) / 100); };
+    const auto Side = [](double Of) { return Decimal(std::round(Of * 100) / 100); };
     return frmPrintSlide::tr("%1 by %2 inches").arg(Side(Inches.width()), Side(Inches.height()));
 }
 
@@ -58,7 +58,7 @@ void frmPrintSlide::Form_Load() {
 // Nothing follows from a number that the window itself has worked out.
 void frmPrintSlide::ShowNumber(QLineEdit& In, double Inches) {
     const QSignalBlocker Updating(In);
-    In.setText(ShortestDecimal(Inches));
+    In.setText(Decimal(Inches));
     In.setCursorPosition(0);
 }
 

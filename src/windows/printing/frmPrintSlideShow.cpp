@@ -6,6 +6,7 @@
 #include "db/clsDBEngine.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Services.h"
+#include "support/Texts.h"
 #include "ui_SheetForm.h"
 
 namespace neb {
@@ -41,7 +42,7 @@ void frmPrintSlideShow::LoadSlideShows() {
     if (DBEngine->GetAlbum(AlbumID()))
         DBEngine->LoadSlideShowsCombo(Shows, AlbumID());
     else
-        MsgBox(QStringLiteral("Could not find the album."));
+        MsgBox(tr("Could not find the album."));
     OpenAsWideAsNames(*Controls().cboSlideShow);
     if (Shows.ListCount() == 0) return;
     if (TakeAlbumID() > 0)
@@ -62,15 +63,14 @@ QString frmPrintSlideShow::WhatToDo() const {
 Answer<> frmPrintSlideShow::IsChosen() const {
     Answer<> Album = SheetForm::IsChosen();
     if (!Album || SlideShowID() != 0) return Album;
-    return Refuse(QStringLiteral("You must select a Slide Show to print."),
-                  QStringLiteral("Missing User Input"));
+    return Refuse(tr("You must select a Slide Show to print."), tr("Missing User Input"));
 }
 
 Answer<SheetForm::SheetMatter> frmPrintSlideShow::Matter() const {
     const clsNEBAlbum* Album = DBEngine->GetAlbum(AlbumID());
-    if (!Album) return Refuse(QStringLiteral("Album not found."));
+    if (!Album) return Refuse(tr("Album not found."));
     const clsNEBSlideShow* Show = Album->GetSlideShow(SlideShowID());
-    if (!Show) return Refuse(QStringLiteral("Slide Show not found."));
+    if (!Show) return Refuse(tr("Slide Show not found."));
     return SheetMatter{SlidesOf(*Album, *Show, DBEngine->DBPath()), Show->SlideShowName};
 }
 

@@ -9,6 +9,7 @@
 #include "controls/forms/Tell.h"
 #include "sound/clsDirectSound.h"
 #include "support/Services.h"
+#include "support/Texts.h"
 #include "ui_frmSoundRecorder.h"
 
 namespace neb {
@@ -29,8 +30,8 @@ enum Button : unsigned { cmdRecord = 1, cmdPlay = 2, cmdStop = 4, cmdSave = 8 };
 constexpr unsigned AllButStop = cmdRecord | cmdPlay | cmdSave;
 
 // The longest status: the window keeps room for it, so that it never jumps in size.
-const auto LongestStatus =
-    QStringLiteral("This card does not support full duplex.  You may still record sound.");
+constexpr char LongestStatus[] =
+    QT_TR_NOOP("This card does not support full duplex.  You may still record sound.");
 
 QString Minutes(double Seconds) {
     const int Whole = static_cast<int>(std::floor(Seconds));
@@ -133,7 +134,7 @@ bool frmSoundRecorder::Form_QueryUnload() {
 
 bool frmSoundRecorder::MayDiscard() {
     const BoxAnswer Answered = AskSave(tr("Are you sure you want to discard the recording?"),
-                                       QStringLiteral("Discard Changes Confirmation"));
+                                       tr("Discard Changes Confirmation"));
     if (Answered != BoxAnswer::Save) return Answered == BoxAnswer::Discard;
     Save();
     AwaitStep();
@@ -314,7 +315,7 @@ void frmSoundRecorder::changeEvent(QEvent* Event) {
 
 void frmSoundRecorder::ReserveTexts() {
     const QFontMetrics Metrics = mUi->lblStatus->fontMetrics();
-    const int Width = Metrics.horizontalAdvance(LongestStatus) * 6 / 5 / StatusLines;
+    const int Width = Metrics.horizontalAdvance(tr(LongestStatus)) * 6 / 5 / StatusLines;
     mUi->lblStatus->setMinimumSize(Width, Metrics.lineSpacing() * StatusLines);
     mUi->lblTime->setMinimumWidth(Metrics.horizontalAdvance(RecordingTime(0)) +
                                   Metrics.averageCharWidth());

@@ -11,6 +11,7 @@
 #include "support/Fault.h"
 #include "support/Grouped.h"
 #include "support/Services.h"
+#include "support/Texts.h"
 #include "support/modCharacters.h"
 #include "ui_frmRehearsal.h"
 #include "windows/frame/Openers.h"
@@ -114,7 +115,7 @@ void frmRehearsal::RehearseShow(std::int32_t AlbumID, std::int32_t SlideShowID) 
     const auto Held = shared_from_this();
     mOf = {AlbumID, SlideShowID};
     if (!IsThere()) {
-        MsgBox(QStringLiteral("Slide Show not found."));
+        MsgBox(tr("Slide Show not found."));
         return;
     }
     if (TheOpeners().ShowAsChild)

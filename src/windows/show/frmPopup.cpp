@@ -1,8 +1,22 @@
 #include "windows/show/frmPopup.h"
 
 #include "controls/forms/StandOver.h"
+#include "support/Texts.h"
 
 namespace neb {
+namespace {
+
+// The commands of a show, as it calls them itself.
+constexpr const char* Words[] = {QT_TR_NOOP("Play"), QT_TR_NOOP("Pause"), QT_TR_NOOP("Resume"),
+                                 QT_TR_NOOP("Stop")};
+
+QString WordOf(const QString& Command) {
+    for (const char* Each : Words)
+        if (Command == QLatin1String(Each)) return frmPopup::tr(Each);
+    return Command;
+}
+
+}  // namespace
 
 frmPopup::frmPopup() {
     setObjectName(QStringLiteral("frmPopup"));
@@ -36,10 +50,10 @@ void frmPopup::SetEntries(const ShowState& Show, bool Manual, bool HasSlide) {
     if (!Running && !Stopped && Show.PlayCommand != u"Resume") return;
     for (QAction* Step : {mnuGotoStart, mnuPrevious, mnuNext, mnuGotoEnd})
         Step->setEnabled(Running);
-    mnuPlay->setText(Show.PlayCommand);
+    mnuPlay->setText(WordOf(Show.PlayCommand));
     mnuPlay->setEnabled(!Manual);
     mnuStop->setEnabled(!Stopped || HasSlide);
-    if (mnuStop->isEnabled()) mnuStop->setText(Stopped ? Show.StopCommand : tr("Stop"));
+    if (mnuStop->isEnabled()) mnuStop->setText(Stopped ? WordOf(Show.StopCommand) : tr("Stop"));
 }
 
 QString frmPopup::SelectedCommand() {

@@ -9,7 +9,9 @@
 #include "db/clsDBEngine.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
+#include "support/Grouped.h"
 #include "support/Services.h"
+#include "support/Texts.h"
 #include "support/modNumbers.h"
 #include "ui_frmPreferences.h"
 #include "windows/frame/KeepPicturesField.h"
@@ -73,9 +75,8 @@ void frmPreferences::SetUpGrid() {
     FlexGrid& Grid = *mUi->flxEffectSettings;
     Grid.SetCols(ColCount);
     Grid.SetColumn(ColLevel, {.Kind = FlexKind::Fixed});
-    Grid.SetColumn(ColStep, {.Editable = true, .Stretch = true, .Heading = QStringLiteral("Step")});
-    Grid.SetColumn(ColDelay,
-                   {.Editable = true, .Stretch = true, .Heading = QStringLiteral("Delay")});
+    Grid.SetColumn(ColStep, {.Editable = true, .Stretch = true, .Heading = tr("Step")});
+    Grid.SetColumn(ColDelay, {.Editable = true, .Stretch = true, .Heading = tr("Delay")});
     Grid.setSelectionBehavior(QAbstractItemView::SelectItems);
     Grid.setSelectionMode(QAbstractItemView::SingleSelection);
     Grid.SetKeyPressEdit(&FilterDigitKey);
@@ -257,7 +258,7 @@ void frmPreferences::LoadFields() {
     ListKeepings(*mUi->cboKeepPictures, mState.KeepPictures);
     mUi->chkKeepPlace->setChecked(mState.KeepPlace);
     mUi->txtNextSlide->setText(QString::number(mState.NextSlideSeq));
-    mUi->txtSlideTimeout->setText(ShortestDecimal(mState.SlideTimeout));
+    mUi->txtSlideTimeout->setText(Decimal(mState.SlideTimeout));
     mUi->sdrMaxEffectLevel->setValue(mState.Effects.MaxEffectLevel);
     (mState.Effects.UseEffectLevel ? mUi->optEffects0 : mUi->optEffects1)->setChecked(true);
     HalfChosen();
@@ -270,8 +271,7 @@ void frmPreferences::LoadEffectsList() {
         const auto Place = static_cast<size_t>(Effect);
         mUi->XShow1->SetEffectNumber(Effect);
         const int Row = mState.EffectLevels[Place] - 1;
-        List.AddEffect(mUi->XShow1->EffectName(), Effect,
-                       QString::fromLatin1(EffectLevelRows[Row].Name));
+        List.AddEffect(mUi->XShow1->EffectName(), Effect, tr(EffectLevelRows[Row].Name));
         List.item(List.count() - 1)->setSelected(mState.EffectSelected[Place]);
     }
 }
@@ -281,7 +281,7 @@ void frmPreferences::LoadSpeeds() {
     Grid.SetRows(static_cast<int>(std::size(EffectLevelRows)));
     for (int Row = 0; Row < Grid.Rows(); ++Row) {
         const EffectLevelRow& Level = EffectLevelRows[Row];
-        Grid.SetTextMatrix(Row, ColLevel, QString::fromLatin1(Level.Name));
+        Grid.SetTextMatrix(Row, ColLevel, tr(Level.Name));
         Grid.SetTextMatrix(Row, ColStep, QString::number(mState.Effects.*Level.Step));
         Grid.SetTextMatrix(Row, ColDelay, QString::number(mState.Effects.*Level.Delay));
     }
@@ -341,7 +341,7 @@ PreferencesEntries frmPreferences::ReadControls() const {
 
 // Says what is wrong and goes where it stands.
 void frmPreferences::Refuse(const EntryProblem& Problem) {
-    MsgBox(Problem.Message, QStringLiteral("Invalid User Input"), BoxIcon::Information);
+    MsgBox(Problem.Message, tr("Invalid User Input"), BoxIcon::Information);
     if (Problem.Where == EntryProblem::Field::Timeout) {
         mUi->txtSlideTimeout->setFocus();
         mUi->txtSlideTimeout->selectAll();

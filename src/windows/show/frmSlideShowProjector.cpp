@@ -8,6 +8,7 @@
 #include "show/ShowSettings.h"
 #include "show/captions/ShowLayout.h"
 #include "support/Fault.h"
+#include "support/Texts.h"
 #include "ui_frmSlideShowProjector.h"
 #include "windows/handling/ShowHands.h"
 #include "windows/show/ShowBox.h"

@@ -9,6 +9,7 @@
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/Services.h"
+#include "support/Texts.h"
 #include "support/files/modHostFiles.h"
 #include "ui_frmSpeedTest.h"
 #include "windows/show/ShowScreen.h"
@@ -30,7 +31,7 @@ float Now() {
 
 bool AskForTest() {
     return ShowBox({.Text = SpeedTestQuestion(),
-                    .Title = QStringLiteral("Speed Test Notification"),
+                    .Title = tr("Speed Test Notification"),
                     .Icon = BoxIcon::Information,
                     .Buttons = BoxButtons::YesNo,
                     .Default = BoxAnswer::Yes,
@@ -43,7 +44,7 @@ bool AskForTest() {
 // Most people start the program for the first time to see their pictures: they learn what is going
 // to happen on their screen, and that nothing is lost without it.
 QString SpeedTestQuestion() {
-    return QStringLiteral("NEB Slide Show will now test your graphics speed.\n\n") +
+    return tr("NEB Slide Show will now test your graphics speed.\n\n") +
            QObject::tr(
                "It runs some transitions on the full screen to find out which of them this "
                "computer shows smoothly. That takes a minute or two; Esc ends it at any "
@@ -143,8 +144,8 @@ void frmSpeedTest::RoundOver() {
     const SpeedLadder::Verdict Verdict = mLadder.RoundOver(Now());
     if (Verdict.TooSlow)
         MsgBox(
-            QStringLiteral("Your system may be too slow to properly show effects.\n"
-                           "Setting to lowest settings."));
+            tr("Your system may be too slow to properly show effects.\n"
+               "Setting to lowest settings."));
     if (!IsLoaded()) return;
     if (Verdict.Then == SpeedLadder::Next::Round) return RunRound();
     if (Verdict.Then == SpeedLadder::Next::Level) return StartLevel();
@@ -152,7 +153,7 @@ void frmSpeedTest::RoundOver() {
 }
 
 void frmSpeedTest::Abort() {
-    MsgBox(QStringLiteral("Missing Component, Speed Test aborted."));
+    MsgBox(tr("Missing Component, Speed Test aborted."));
     Unload();
 }
 

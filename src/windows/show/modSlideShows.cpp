@@ -11,6 +11,7 @@
 #include "show/ShowSettings.h"
 #include "support/Fault.h"
 #include "support/Services.h"
+#include "support/Texts.h"
 #include "windows/frame/modNotice.h"
 #include "windows/show/frmPreferences.h"
 #include "windows/show/frmSlideShowProjector.h"
@@ -83,8 +84,7 @@ void MakeActiveWhereNoneIs(std::int32_t AlbumID, std::int32_t SlideShowID) {
 void ViewSlideShow(std::int32_t AlbumID, const QString& AlbumName, std::int32_t SlideShowID,
                    std::int32_t SlideInHand, std::int32_t Place) {
     if (AlbumID == 0 || SlideShowID == 0) {
-        MsgBox(QStringLiteral("You must first select a Slide Show to View."),
-               QStringLiteral("Missing User Input"));
+        MsgBox(tr("You must first select a Slide Show to View."), tr("Missing User Input"));
         return;
     }
     const bool FromHere = QGuiApplication::keyboardModifiers() & Qt::ShiftModifier;

@@ -6,6 +6,7 @@
 
 #include "controls/grid/FlexGrid.h"
 #include "controls/picture/PictureView.h"
+#include "support/Texts.h"
 
 namespace neb {
 
@@ -24,7 +25,7 @@ void PicturePlace::SetUpMessage() {
     mMessage.SetCols(1);
     mMessage.SetColumn(0, {.Stretch = true, .Align = Qt::AlignCenter});
     mMessage.AddItem();
-    mMessage.SetTextMatrix(0, 0, QStringLiteral("Double-Click To Load a Graphic"));
+    mMessage.SetTextMatrix(0, 0, tr("Double-Click To Load a Graphic"));
     mMessage.horizontalHeader()->hide();
     mMessage.verticalHeader()->hide();
     mMessage.verticalHeader()->setMinimumSectionSize(1);

@@ -5,6 +5,7 @@
 #include "controls/fields/ComboBoxList.h"
 #include "db/clsDBEngine.h"
 #include "settings/modNEBSlideShow.h"
+#include "support/Texts.h"
 
 namespace neb {
 namespace {
@@ -62,10 +63,10 @@ void SlideLists::ChooseAlbumAt(int Index) const {
 Answer<> SlideLists::ListSlides() const {
     Clear();
     clsNEBAlbum* Album = DBEngine->GetAlbum(AlbumID());
-    if (!Album) return Refuse(QStringLiteral("Album not found."));
+    if (!Album) return Refuse(tr("Album not found."));
     ComboBoxList List(mSlides);
     Album->LoadSlidesCombo(List);
-    List.InsertItem(0, QStringLiteral("<NEW SLIDE>"), 0);
+    List.InsertItem(0, tr("<NEW SLIDE>"), 0);
     return Done();
 }
 

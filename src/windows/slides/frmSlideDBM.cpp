@@ -17,6 +17,7 @@
 #include "settings/modNEBSlideShow.h"
 #include "sound/workers/SoundReading.h"
 #include "support/Services.h"
+#include "support/Texts.h"
 #include "support/files/modHostFiles.h"
 #include "support/modCharacters.h"
 #include "support/modDEValidation.h"
@@ -32,7 +33,7 @@ namespace {
 
 const WindowMemory Memory{QStringLiteral("frmSlideDBM"), 7200, 7815};
 constexpr int LeastWidth = 7695;  // twips; the least height is that of the controls
-const QString Title = QStringLiteral("Slide Manager");
+constexpr char Title[] = QT_TR_NOOP("Slide Manager");
 
 }  // namespace
 
@@ -100,12 +101,14 @@ void frmSlideDBM::SetUpToolBar() {
         const char *Name, *Caption, *ToolTip, *IconName, *Keys;
         bool On;
     } Tools[] = {
-        {"mnuImport", "Import Graphics", "Import the graphics of a directory into the album",
-         "import-directory", "Ctrl+O", !ReadOnlyDB},
-        {"mnuPrintSlide", "Print Slide", "Print this slide", "print", "Ctrl+P", true},
-        {"mnuPrintSlideSheet", "Print Slide Sheet", "Print a sheet of this slide", "print-sheet",
-         "", true},
-        {"mnuExit", "Exit", "Close this window", "exit", "", true},
+        {"mnuImport", QT_TR_NOOP("Import Graphics"),
+         QT_TR_NOOP("Import the graphics of a directory into the album"), "import-directory",
+         "Ctrl+O", !ReadOnlyDB},
+        {"mnuPrintSlide", QT_TR_NOOP("Print Slide"), QT_TR_NOOP("Print this slide"), "print",
+         "Ctrl+P", true},
+        {"mnuPrintSlideSheet", QT_TR_NOOP("Print Slide Sheet"),
+         QT_TR_NOOP("Print a sheet of this slide"), "print-sheet", "", true},
+        {"mnuExit", QT_TR_NOOP("Exit"), QT_TR_NOOP("Close this window"), "exit", "", true},
     };
     for (const auto& Each : Tools) {
         const QString Name = QString::fromLatin1(Each.Name);
@@ -182,7 +185,7 @@ void frmSlideDBM::Form_Activate() {
     mStage = Stage::Open;
     Lists().ListAlbums();
     if (mUi->cboAlbum->count() > 0) return mUi->cboAlbum->setFocus();
-    MsgBox(QStringLiteral("You must first create an album."));
+    MsgBox(tr("You must first create an album."));
     Unload();
 }
 
@@ -208,8 +211,9 @@ void frmSlideDBM::AlbumChosen() {
 
 void frmSlideDBM::ShowAlbumName() {
     const QString Name = mUi->cboAlbum->currentText();
-    setWindowTitle(Lists().AlbumID() == 0 ? Title
-                                          : Title + QStringLiteral(" - ") + InOwnDirection(Name));
+    setWindowTitle(Lists().AlbumID() == 0
+                       ? tr(Title)
+                       : tr(Title) + QStringLiteral(" - ") + InOwnDirection(Name));
 }
 
 void frmSlideDBM::LoadAlbumSlides(Cause Why) {

@@ -14,6 +14,7 @@
 #include "settings/modNEBSlideShow.h"
 #include "support/MediaTypes.h"
 #include "support/Services.h"
+#include "support/Texts.h"
 #include "support/files/modHostFiles.h"
 #include "support/modDEValidation.h"
 #include "support/modFUFL.h"
@@ -37,15 +38,13 @@ constexpr qint64 QuickBytes = 2'000'000, QuickPixels = 4'000'000;
 
 BoxRequest LoadProblem(const Fault& Problem) {
     const bool NoAccess = Problem.Number() == BadFileName || Problem.Number() == FaultCannotOpen;
-    const QString What = NoAccess ? QStringLiteral(
-                                        "Error Loading the File.  Make sure that you have access "
-                                        "permissions to it.")
+    const QString What = NoAccess ? tr("Error Loading the File.  Make sure that you have access "
+                                       "permissions to it.")
                                   : Problem.What();
-    return {.Text = What + QStringLiteral(
-                               "\nAn Error occured while attempting to Load the graphic for the "
-                               "current slide.\nDouble Slick on the Slide Spaceholder to browse "
-                               "for it."),
-            .Title = QStringLiteral("Error Loading Slide")};
+    return {.Text = What + tr("\nAn Error occured while attempting to Load the graphic for the "
+                              "current slide.\nDouble Slick on the Slide Spaceholder to browse "
+                              "for it."),
+            .Title = tr("Error Loading Slide")};
 }
 
 }  // namespace
@@ -54,10 +53,10 @@ BoxRequest LoadProblem(const Fault& Problem) {
 std::optional<BoxRequest> frmSlideDBM::ShowSlide() {
     const std::int32_t Album = Lists().AlbumID(), Slide = Lists().SlideID();
     clsNEBAlbum* Found = DBEngine->GetAlbum(Album);
-    if (!Found) return Refuse(QStringLiteral("Could not find the album."));
+    if (!Found) return Refuse(tr("Could not find the album."));
     mInHand.MoveTo(Album, Slide);
     const clsNEBSlide* Stored = Found->GetSlide(Slide);
-    if (!Stored) return Refuse(QStringLiteral("Could not find the slide."));
+    if (!Stored) return Refuse(tr("Could not find the slide."));
     mInHand.Take(Album, *Stored);
     Answer<ReadyPicture> Ready = LoadStored();
     ShowPicture(Ready ? *Ready : ReadyPicture());
@@ -91,9 +90,8 @@ void frmSlideDBM::ShowChanged(bool Changed) {
 // Whether what was made of the slide has been dealt with. Without an album there is nowhere to save
 // it.
 bool frmSlideDBM::MayLeave() {
-    const auto Question =
-        QStringLiteral("Are you sure you want to discard the changes to the current slide?");
-    const auto Title = QStringLiteral("Discard Changes Confirmation");
+    const auto Question = tr("Are you sure you want to discard the changes to the current slide?");
+    const auto Title = tr("Discard Changes Confirmation");
     if (!mInHand.IsChanged()) return true;
     BringToFront(*this);
     if (mUi->cboAlbum->currentIndex() < 0) return AskYesNo(Question, Title);
@@ -235,10 +233,10 @@ void frmSlideDBM::Cancel() {
 
 bool frmSlideDBM::ConfirmCaption() const {
     if (!mUi->txtDscr->text().trimmed().isEmpty()) return true;
-    return AskYesNo(QStringLiteral("Are you sure you want to save the slide without a caption?\n"
-                                   "NOTE: It may be hard to tell slides apart in the combo\n"
-                                   "without captions."),
-                    QStringLiteral("Missing Caption Confirmation"), BoxAnswer::Yes);
+    return AskYesNo(tr("Are you sure you want to save the slide without a caption?\n"
+                       "NOTE: It may be hard to tell slides apart in the combo\n"
+                       "without captions."),
+                    tr("Missing Caption Confirmation"), BoxAnswer::Yes);
 }
 
 // A fault on the way leaves the changes on the screen, to be saved again. A new slide is in the
@@ -273,10 +271,10 @@ bool frmSlideDBM::SaveInHand() {
 }
 
 bool frmSlideDBM::ConfirmDelete() const {
-    return AskYesNo(QStringLiteral("Are you sure you want to delete the selected slide defintion?\n"
-                                   "WARNING: If you procede the slide will be deleted from all\n"
-                                   "Slide Shows that use it?"),
-                    QStringLiteral("Delete Confirmation"));
+    return AskYesNo(tr("Are you sure you want to delete the selected slide defintion?\n"
+                       "WARNING: If you procede the slide will be deleted from all\n"
+                       "Slide Shows that use it?"),
+                    tr("Delete Confirmation"));
 }
 
 void frmSlideDBM::Delete() {
@@ -287,8 +285,7 @@ void frmSlideDBM::Delete() {
     Answer<Announcement> Deleted = DeleteSlide(*DBEngine, this, Album, Lists().SlideID());
     if (!Tell(Deleted)) return;
     Deleted->Now();
-    MsgBox(QStringLiteral("Slide Deleted Successfully."), QStringLiteral("Delete Successful"),
-           BoxIcon::Information);
+    MsgBox(tr("Slide Deleted Successfully."), tr("Delete Successful"), BoxIcon::Information);
     mInHand.TakeNew(Album);
     Lists().ChooseAlbum(Album);
     ShowAlbum(Cause::Program);
@@ -307,8 +304,8 @@ QString frmSlideDBM::FileToPrint() const {
     if (Name.isEmpty()) return {};
     if (HoldsSeparator(Name) || mUi->cboAlbum->currentIndex() >= 0)
         return SlidePath(DBEngine->DBPath(), Lists().AlbumID(), Name);
-    MsgBox(QStringLiteral("You must first select an album to print from."),
-           QStringLiteral("Missing User Input"), BoxIcon::Information);
+    MsgBox(tr("You must first select an album to print from."), tr("Missing User Input"),
+           BoxIcon::Information);
     return {};
 }
 
@@ -324,8 +321,8 @@ void frmSlideDBM::PrintCurrentSheet() {
 
 void frmSlideDBM::Import() {
     if (mUi->cboAlbum->currentIndex() < 0) {
-        MsgBox(QStringLiteral("You must first select an album to import into."),
-               QStringLiteral("Missing User Input"), BoxIcon::Information);
+        MsgBox(tr("You must first select an album to import into."), tr("Missing User Input"),
+               BoxIcon::Information);
         return;
     }
     ImportFromDirectory();

@@ -12,6 +12,7 @@
 #include "db/clsDBEngine.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Services.h"
+#include "support/Texts.h"
 #include "support/modCharacters.h"
 #include "support/modDEValidation.h"
 #include "ui_frmSlideMgrBulk.h"
@@ -29,8 +30,8 @@ namespace {
 const WindowMemory Memory{QStringLiteral("frmSlideMgrBulk"), 6315};
 
 bool ConfirmDelete() {
-    return AskYesNo(QStringLiteral("Are you sure you want to delete the selected slides?"),
-                    QStringLiteral("Delete Confirmation"));
+    return AskYesNo(tr("Are you sure you want to delete the selected slides?"),
+                    tr("Delete Confirmation"));
 }
 
 }  // namespace
@@ -205,9 +206,9 @@ void frmSlideMgrBulk::ShowAlbum() {
 // The title, and what an empty grid says.
 void frmSlideMgrBulk::FollowAlbum() {
     const bool Shown = AlbumID() != 0;
-    setWindowTitle(Shown ? QStringLiteral("Bulk Slide Manager - ") +
-                               InOwnDirection(mUi->cboAlbum->currentText())
-                         : QStringLiteral("Bulk Slide Manager"));
+    setWindowTitle(Shown
+                       ? tr("Bulk Slide Manager - ") + InOwnDirection(mUi->cboAlbum->currentText())
+                       : tr("Bulk Slide Manager"));
     const bool NoAlbums = mUi->cboAlbum->count() == 0;
     mUi->flxAlbum->SetEmptyText(
         NoAlbums ? tr("There is no album yet.\nMake one with New Album in the Album menu.")
@@ -253,13 +254,13 @@ void frmSlideMgrBulk::ShowPicture(int Row) {
 
 // Whether there is an album to work on: one that is chosen, and is there.
 bool frmSlideMgrBulk::HasAlbum() const {
-    if (!ShownAlbum()) MsgBox(QStringLiteral("Album not found."));
+    if (!ShownAlbum()) MsgBox(tr("Album not found."));
     return ShownAlbum() != nullptr;
 }
 
 void frmSlideMgrBulk::Save() {
     if (AlbumID() == 0) {
-        MsgBox(QStringLiteral("You must first select the album changes are to be made to."));
+        MsgBox(tr("You must first select the album changes are to be made to."));
         return;
     }
     if (!HasAlbum()) return;
@@ -268,7 +269,7 @@ void frmSlideMgrBulk::Save() {
     SaveUnlisted(Saved);
     ShowStatus();
     MsgBox(Saved.Tally().Text(QStringLiteral("saved"), QStringLiteral("save")),
-           QStringLiteral("Operation Completed"), BoxIcon::Information);
+           tr("Operation Completed"), BoxIcon::Information);
     Saved.Tell();
     mUi->cboAlbum->setFocus();
 }
@@ -288,7 +289,7 @@ bool frmSlideMgrBulk::MayLeave() {
     BringToFront(*this);
     const BoxAnswer Answered =
         AskSave(tr("Are you sure you want to discard the changes to the captions?"),
-                QStringLiteral("Discard Changes Confirmation"));
+                tr("Discard Changes Confirmation"));
     return Answered == BoxAnswer::Save ? SaveEdits() : Answered == BoxAnswer::Discard;
 }
 
@@ -301,7 +302,7 @@ bool frmSlideMgrBulk::SaveEdits() {
     ShowStatus();
     if (Saved.Tally().Failed > 0)
         MsgBox(Saved.Tally().Text(QStringLiteral("saved"), QStringLiteral("save")),
-               QStringLiteral("Operation Completed"), BoxIcon::Information);
+               tr("Operation Completed"), BoxIcon::Information);
     return true;
 }
 
@@ -329,8 +330,8 @@ void frmSlideMgrBulk::SaveRows(CaptionSave& Saved) {
         if (SaveRow(Saved, Row)) continue;
         NoteEdits({Row});
         Grid.SetRedraw(true);
-        MsgBox(QStringLiteral("Slide #%1 Not Found.").arg(Row + 1),
-               QStringLiteral("Failed to Save Slide"), BoxIcon::Information);
+        MsgBox(tr("Slide #%1 Not Found.").arg(Row + 1), tr("Failed to Save Slide"),
+               BoxIcon::Information);
         Grid.SetRedraw(false);
         Album = ShownAlbum();
     }
@@ -354,8 +355,7 @@ void frmSlideMgrBulk::Cancel() {
 
 void frmSlideMgrBulk::Delete() {
     if (AlbumID() == 0) {
-        MsgBox(
-            QStringLiteral("You must first select the album the slides are to be deleted from."));
+        MsgBox(tr("You must first select the album the slides are to be deleted from."));
         return;
     }
     if (!ConfirmDelete() || !HasAlbum()) return;
@@ -363,7 +363,7 @@ void frmSlideMgrBulk::Delete() {
     const SlideTally Tally = DeleteSelected();
     if (!IsLoaded()) return;
     MsgBox(Tally.Text(QStringLiteral("deleted"), QStringLiteral("delete")),
-           QStringLiteral("Operation Completed"), BoxIcon::Information);
+           tr("Operation Completed"), BoxIcon::Information);
     Fill();
     MakeCurrent(std::min(First, mUi->flxAlbum->Rows() - 1));
 }

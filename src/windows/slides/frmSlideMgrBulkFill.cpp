@@ -8,6 +8,7 @@
 #include "settings/modNEBSlideShow.h"
 #include "support/Grouped.h"
 #include "support/Services.h"
+#include "support/Texts.h"
 #include "ui_frmSlideMgrBulk.h"
 #include "windows/lists/SlideRows.h"
 #include "windows/lists/clsImageBuffer.h"
@@ -38,7 +39,7 @@ void frmSlideMgrBulk::Fill() {
     });
     if (!IsLoaded()) return;
     ShowStatus();
-    if (*Missing > 0) MsgBox(QStringLiteral("Slide could not be found."));
+    if (*Missing > 0) MsgBox(tr("Slide could not be found."));
 }
 
 std::optional<SlideReading::KeyList> frmSlideMgrBulk::SlidesToList() {

@@ -10,6 +10,7 @@
 #include "controls/forms/ScreenPointer.h"
 #include "controls/forms/Tell.h"
 #include "settings/modNEBSlideShow.h"
+#include "support/Texts.h"
 #include "support/modFUFL.h"
 #include "ui_TransferForm.h"
 #include "windows/albums/modAlbumNames.h"
@@ -259,8 +260,7 @@ QStringList TransferForm::OpenBeside() const {
 }
 
 void TransferForm::TellNoDirectory() {
-    MsgBox(QString::fromLatin1(mKind.NoDirectory), QStringLiteral("Missing Directory Information"),
-           BoxIcon::Information);
+    MsgBox(tr(mKind.NoDirectory), tr("Missing Directory Information"), BoxIcon::Information);
 }
 
 bool TransferForm::IsUnread() const {
@@ -273,8 +273,8 @@ bool TransferForm::IsUnread() const {
 bool TransferForm::IsWanted(const TransferOther::Place& Found) {
     if (Found.HoldsDatabase || Found.IsOwn) return true;
     const QString NoDatabase =
-        QStringLiteral("The specified directory does not hold an NEB Slide Show Database.");
-    const QString Title = QStringLiteral("Invalid Directory");
+        tr("The specified directory does not hold an NEB Slide Show Database.");
+    const QString Title = tr("Invalid Directory");
     if (mKind.Exports)
         return AskYesNo(NoDatabase + u'\n' + tr("Do you want to make a new one there?"), Title,
                         BoxAnswer::Yes);

@@ -8,6 +8,7 @@
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/ReasonOf.h"
+#include "support/Texts.h"
 #include "support/modDEValidation.h"
 #include "support/work/WorkAside.h"
 #include "ui_TransferForm.h"
@@ -23,7 +24,7 @@ namespace neb {
 namespace {
 
 BoxRequest Failed(const QString& Text) {
-    return {Text, QStringLiteral("Operation Failed"), BoxIcon::Critical};
+    return {Text, tr("Operation Failed"), BoxIcon::Critical};
 }
 
 BoxRequest NotYetCompleted(const QString& Text) {
@@ -48,7 +49,7 @@ QString Count(int Number, const QString& One, const QString& Many) {
 void TransferForm::ViewAlbum(const TransferSide& Of) {
     const auto Name = Of.AlbumName();
     if (!Name) {
-        MsgBox(QStringLiteral("You must select an album in order to view it."));
+        MsgBox(tr("You must select an album in order to view it."));
         return;
     }
     const auto Viewer = NewForm<frmAlbumView>();
@@ -59,7 +60,7 @@ void TransferForm::ViewAlbum(const TransferSide& Of) {
 void TransferForm::ViewSlideShow(const TransferSide& Of) {
     const auto Album = Of.AlbumName(), Name = Of.SlideShowName();
     if (!Album || !Name) {
-        MsgBox(QStringLiteral("You must select a slide show in order to view it."));
+        MsgBox(tr("You must select a slide show in order to view it."));
         return;
     }
     const auto Viewer = NewForm<frmSlideShowView>();
@@ -120,11 +121,11 @@ bool TransferForm::HasChoices() {
         return mOther.Engine() != nullptr;
     }
     if (!mSrc.HasAlbum())
-        MsgBox(QStringLiteral("You must first select a Source Album."),
-               QStringLiteral("No Source Selected"), BoxIcon::Information);
+        MsgBox(tr("You must first select a Source Album."), tr("No Source Selected"),
+               BoxIcon::Information);
     else if (!mDst.HasAlbum())
-        MsgBox(QStringLiteral("You must first select a Destination Album."),
-               QStringLiteral("No Destination Selected"), BoxIcon::Information);
+        MsgBox(tr("You must first select a Destination Album."), tr("No Destination Selected"),
+               BoxIcon::Information);
     return mSrc.HasAlbum() && mDst.HasAlbum();
 }
 
@@ -172,7 +173,7 @@ TransferDesk TransferForm::DeskOf(frmTransferProgress& Bar) {
 TransferResult TransferForm::Transfer(const TransferDesk& Desk) {
     const bool Replace = mUi->chkReplace->isChecked();
     const bool Updates = mKind.OfShows ? mDst.SlideShowID() != 0 : Replace;
-    const QString Adjective = QString::fromLatin1(Updates ? "Update" : mKind.Adjective);
+    const QString Adjective = tr(Updates ? QT_TR_NOOP("Update") : mKind.Adjective);
     if (mKind.OfShows)
         return TransferSlideShow(
             {*mSrc.Engine(), mSrc.AlbumID(), mSrc.SlideShowID(), *mDst.Engine(), mDst.AlbumID(),

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "settings/modNEBSlideShow.h"
+#include "support/Texts.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
 #include "support/work/WorkAside.h"
@@ -42,10 +43,10 @@ Answer<> TransferOther::Open(const Place& Found, OtherDatabase::Use For) {
     mIsOwn = Found.IsOwn;
     if (!mIsOwn) {
         if (Found.IsOpenBeside)
-            return Refuse(QStringLiteral("The database in\n%1\nis open in another window here. "
-                                         "Close that window and try again.")
+            return Refuse(tr("The database in\n%1\nis open in another window here. "
+                             "Close that window and try again.")
                               .arg(Found.Dir),
-                          QStringLiteral("Database In Use"));
+                          tr("Database In Use"));
         if (For == OtherDatabase::Use::Destination) mMadeFolders = Found.NotThere;
         auto Opened = OtherDatabase::Open(Found.Dir, For);
         if (!Opened) {

@@ -5,6 +5,7 @@
 
 #include "controls/fields/ComboBoxList.h"
 #include "db/clsDBEngine.h"
+#include "support/Texts.h"
 
 namespace neb {
 namespace {
@@ -77,7 +78,7 @@ void TransferSide::FillShows() {
     Combo.Clear();
     if (!mControls.ListsShows || !HasAlbum()) return;
     if (mEngine) mEngine->LoadSlideShowsCombo(Combo, AlbumID());
-    if (mControls.TakesNew) Combo.InsertItem(0, QStringLiteral("<NEW SLIDE SHOW>"), 0);
+    if (mControls.TakesNew) Combo.InsertItem(0, tr("<NEW SLIDE SHOW>"), 0);
     OpenAsWideAsNames(*mControls.cboSlideShow);
 }
 

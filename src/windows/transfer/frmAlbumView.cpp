@@ -1,15 +1,16 @@
 #include "windows/transfer/frmAlbumView.h"
 
 #include "controls/grid/FlexGrid.h"
+#include "support/Texts.h"
 #include "ui_frmAlbumView.h"
 
 namespace neb {
 
 frmAlbumView::frmAlbumView()
-    : ViewerForm({QStringLiteral("frmAlbumView"), 6315},
-                 {QStringLiteral("Album"),
-                  tr("This album has no slides.\nClose this window to choose another one."),
-                  tr("This album is no longer there.\nClose this window to choose another one.")}),
+    : ViewerForm(
+          {QStringLiteral("frmAlbumView"), 6315},
+          {tr("Album"), tr("This album has no slides.\nClose this window to choose another one."),
+           tr("This album is no longer there.\nClose this window to choose another one.")}),
       mUi(std::make_unique<Ui::frmAlbumView>()) {
     mUi->setupUi(this);
     SetControls(*mUi->flxAlbum, *mUi->cmdClose);

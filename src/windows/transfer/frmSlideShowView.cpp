@@ -3,6 +3,7 @@
 #include <map>
 
 #include "controls/grid/FlexGrid.h"
+#include "support/Texts.h"
 #include "ui_frmSlideShowView.h"
 
 namespace neb {
@@ -18,7 +19,7 @@ const QString& CaptionIn(const clsNEBSlideShowDetail& Detail, const clsNEBSlide&
 frmSlideShowView::frmSlideShowView()
     : ViewerForm(
           {QStringLiteral("frmSlideShowView"), 6315},
-          {QStringLiteral("Slide Show"),
+          {tr("Slide Show"),
            tr("This slide show has no slides.\nClose this window to choose another one."),
            tr("This slide show is no longer there.\nClose this window to choose another one.")}),
       mUi(std::make_unique<Ui::frmSlideShowView>()) {
@@ -57,11 +58,9 @@ std::optional<std::vector<std::int32_t>> frmSlideShowView::SortedKeys(clsNEBAlbu
 Answer<ViewerForm::ViewedSlide> frmSlideShowView::SlideOf(clsNEBAlbum& Album, std::int32_t Key,
                                                           int Number) {
     const clsNEBSlideShowDetail* Detail = Album.GetSlideShow(mSlideShowID)->GetDetail(Key);
-    if (!Detail) return Refuse(QStringLiteral("Could not find Slide Show Detail #%1").arg(Number));
+    if (!Detail) return Refuse(tr("Could not find Slide Show Detail #%1").arg(Number));
     const clsNEBSlide* Slide = FindSlide(Album, Detail->SlideID);
-    if (!Slide)
-        return Refuse(
-            QStringLiteral("Could not find the Slide for Slide Show Detail #%1").arg(Number));
+    if (!Slide) return Refuse(tr("Could not find the Slide for Slide Show Detail #%1").arg(Number));
     return ViewedSlide{Slide, CaptionIn(*Detail, *Slide)};
 }
 

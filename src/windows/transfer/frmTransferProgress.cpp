@@ -5,6 +5,7 @@
 
 #include "controls/fields/Icons.h"
 #include "support/Services.h"
+#include "support/Texts.h"
 #include "ui_frmTransferProgress.h"
 
 namespace neb {
@@ -88,8 +89,8 @@ void frmTransferProgress::Paint(const TransferProgress& Now) {
 
 void frmTransferProgress::AskStop() {
     if (!IsRunning() || !mUi->cmdStop->isEnabled()) return;
-    if (AskYesNo(QStringLiteral("Are you sure you want to Abort the current process?"),
-                 QStringLiteral("Abort Confirmation"), BoxAnswer::No) &&
+    if (AskYesNo(tr("Are you sure you want to Abort the current process?"),
+                 tr("Abort Confirmation"), BoxAnswer::No) &&
         IsRunning())
         Stop();
 }
