@@ -5,6 +5,7 @@
 // The macro names a function outside all namespaces.
 static void RegisterResources() {
     Q_INIT_RESOURCE(neb);
+    Q_INIT_RESOURCE(translations);
 }
 
 namespace neb {

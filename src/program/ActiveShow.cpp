@@ -10,6 +10,7 @@
 #include "settings/modNEBSlideShow.h"
 #include "show/ShowSettings.h"
 #include "support/Services.h"
+#include "support/Texts.h"
 #include "windows/film/modFilms.h"
 #include "windows/frame/Openers.h"
 #include "windows/rehearsal/modRehearsals.h"
@@ -18,7 +19,7 @@
 namespace neb {
 namespace {
 
-const auto Title = QStringLiteral("No Active Slide Show");
+constexpr char Title[] = QT_TR_NOOP("No Active Slide Show");
 
 bool HasSlideShows() {
     return std::ranges::any_of(DBEngine->Albums,
@@ -27,7 +28,7 @@ bool HasSlideShows() {
 
 bool Offer(const QString& Text, const QString& Words) {
     return ShowBox({.Text = Text,
-                    .Title = Title,
+                    .Title = tr(Title),
                     .Icon = BoxIcon::Information,
                     .Buttons = BoxButtons::YesNo,
                     .Default = BoxAnswer::Yes,
@@ -40,7 +41,7 @@ void OfferToMakeOne(frmNEBSlideShow& Main) {
     if (ReadOnlyDB) {
         MsgBox(
             QObject::tr("There is no slide show among these albums, and they cannot be changed."),
-            Title, BoxIcon::Information);
+            tr(Title), BoxIcon::Information);
         return;
     }
     const bool HasAlbums = !DBEngine->Albums.empty();
@@ -66,7 +67,7 @@ ActiveShow ChosenActiveShow(frmNEBSlideShow& Main) {
         OfferToMakeOne(Main);
         return {};
     }
-    if (!Offer(QStringLiteral("You must first select an Active Slide Show in Preferences!"),
+    if (!Offer(tr("You must first select an Active Slide Show in Preferences!"),
                QObject::tr("&Choose One...")))
         return {};
     EditSlideShowPreferences();

@@ -26,9 +26,9 @@ History* TheHistory() {
     return DBEngine ? HistoryOf(*DBEngine) : nullptr;
 }
 
-void Show(QAction& Entry, const QString& Verb, const QString& Name) {
+void Show(QAction& Entry, const QString& Alone, const QString& WithName, const QString& Name) {
     QString Shown = Name;
-    Entry.setText(Name.isEmpty() ? Verb : Verb + u' ' + Shown.replace(u'&', QStringLiteral("&&")));
+    Entry.setText(Name.isEmpty() ? Alone : WithName.arg(Shown.replace(u'&', QStringLiteral("&&"))));
     Entry.setEnabled(!Name.isEmpty());
 }
 
@@ -79,8 +79,8 @@ EditMenu::EditMenu(frmNEBSlideShow& Main, const QHash<QString, QAction*>& Entrie
 
 void EditMenu::ShowWhatThereIs() {
     const History* const Its = TheHistory();
-    Show(*mUndo, tr("&Undo"), Its ? Its->UndoName() : QString());
-    Show(*mRedo, tr("&Redo"), Its ? Its->RedoName() : QString());
+    Show(*mUndo, tr("&Undo"), tr("&Undo %1"), Its ? Its->UndoName() : QString());
+    Show(*mRedo, tr("&Redo"), tr("&Redo %1"), Its ? Its->RedoName() : QString());
 }
 
 void EditMenu::EnableForKeys() {

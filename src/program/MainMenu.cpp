@@ -17,6 +17,7 @@
 #include "program/modMachineSettings.h"
 #include "support/Fault.h"
 #include "support/Services.h"
+#include "support/Texts.h"
 #include "windows/albums/frmCheckPictures.h"
 #include "windows/albums/frmRestore.h"
 #include "windows/albums/modAlbumNames.h"
@@ -51,14 +52,15 @@ struct Header {
 };
 
 constexpr Header Headers[] = {
-    {"mnuFileHdr", "&File"},
-    {"mnuEditHdr", "Edit"},  // each of its letters means something in the windows inside
-    {"mnuAlbumHdr", "&Album"},
-    {"mnuSlideShowHdr", "S&lide Show"},  // Alt+S is Save in the windows inside
-    {"mnuImportExportHdr", "&Import/Export"},
-    {"mnuPrintHdr", "&Print"},
-    {"mnuWindows", "&Window"},
-    {"mnuHelpHdr", "&Help"},
+    {"mnuFileHdr", QT_TR_NOOP("&File")},
+    {"mnuEditHdr",
+     QT_TR_NOOP("Edit")},  // each of its letters means something in the windows inside
+    {"mnuAlbumHdr", QT_TR_NOOP("&Album")},
+    {"mnuSlideShowHdr", QT_TR_NOOP("S&lide Show")},  // Alt+S is Save in the windows inside
+    {"mnuImportExportHdr", QT_TR_NOOP("&Import/Export")},
+    {"mnuPrintHdr", QT_TR_NOOP("&Print")},
+    {"mnuWindows", QT_TR_NOOP("&Window")},
+    {"mnuHelpHdr", QT_TR_NOOP("&Help")},
 };
 
 using Handler = void (*)(frmNEBSlideShow& Main);
@@ -74,107 +76,118 @@ struct Entry {
 };
 
 constexpr Entry Entries[] = {
-    {"mnuFileHdr", "mnuQuickShow", "&Quick Show...", "Ctrl+K", "quick-show",
-     "Turn a folder of pictures into a running show",
+    {"mnuFileHdr", "mnuQuickShow", QT_TR_NOOP("&Quick Show..."), "Ctrl+K", "quick-show",
+     QT_TR_NOOP("Turn a folder of pictures into a running show"),
      [](frmNEBSlideShow& Main) { Main.OpenQuickShow(); }},
     {"mnuFileHdr", "", "", "", "", "", nullptr},
-    {"mnuFileHdr", "mnuRestore", "Restore &Earlier Albums...", "", "",
-     "Go back to all albums and slide shows as they were saved before",
+    {"mnuFileHdr", "mnuRestore", QT_TR_NOOP("Restore &Earlier Albums..."), "", "",
+     QT_TR_NOOP("Go back to all albums and slide shows as they were saved before"),
      [](frmNEBSlideShow& Main) {
          NewForm<frmRestore>()->ShowModal();
          Main.Home().Fill();  // nobody tells of single albums then
      }},
-    {"mnuFileHdr", "mnuCheckPictures", "&Check All Pictures...", "", "find-graphics",
-     "Read all pictures and sounds and name those that have changed or are missing",
+    {"mnuFileHdr", "mnuCheckPictures", QT_TR_NOOP("&Check All Pictures..."), "", "find-graphics",
+     QT_TR_NOOP("Read all pictures and sounds and name what has changed or is missing"),
      [](auto&) { NewForm<frmCheckPictures>()->ShowModal(); }},
     {"mnuFileHdr", "", "", "", "", "", nullptr},
-    {"mnuFileHdr", "mnuExit", "E&xit", "Ctrl+Q", "exit", "Save everything and end the program",
+    {"mnuFileHdr", "mnuExit", QT_TR_NOOP("E&xit"), "Ctrl+Q", "exit",
+     QT_TR_NOOP("Save everything and end the program"),
      [](frmNEBSlideShow& Main) { Main.close(); }},
-    {"mnuEditHdr", "mnuUndo", "&Undo", "Ctrl+Z", "", "Take back what was done last",
-     [](auto&) { UndoLast(); }},
-    {"mnuEditHdr", "mnuRedo", "&Redo", "Ctrl+Shift+Z", "", "Do again what was taken back last",
-     [](auto&) { RedoLast(); }},
-    {"mnuAlbumHdr", "mnuAlbumNew", "&New Album...", "Ctrl+N", "album-new",
-     "Make a new album and fill it with pictures",
+    {"mnuEditHdr", "mnuUndo", QT_TR_NOOP("&Undo"), "Ctrl+Z", "",
+     QT_TR_NOOP("Take back what was done last"), [](auto&) { UndoLast(); }},
+    {"mnuEditHdr", "mnuRedo", QT_TR_NOOP("&Redo"), "Ctrl+Shift+Z", "",
+     QT_TR_NOOP("Do again what was taken back last"), [](auto&) { RedoLast(); }},
+    {"mnuAlbumHdr", "mnuAlbumNew", QT_TR_NOOP("&New Album..."), "Ctrl+N", "album-new",
+     QT_TR_NOOP("Make a new album and fill it with pictures"),
      [](auto&) { NewForm<frmNewAlbumWzd1>()->ShowModal(); }},
-    {"mnuAlbumHdr", "mnuAlbumRename", "&Rename Album...", "", "album-rename", "Rename an album",
-     [](auto&) { ShowRenameAlbum(AlbumInHand()); }},
-    {"mnuAlbumHdr", "mnuAlbumDelete", "&Delete Album...", "", "album-delete",
-     "Delete an album and all that it holds", [](auto&) { ShowDeleteAlbum(AlbumInHand()); }},
+    {"mnuAlbumHdr", "mnuAlbumRename", QT_TR_NOOP("&Rename Album..."), "", "album-rename",
+     QT_TR_NOOP("Rename an album"), [](auto&) { ShowRenameAlbum(AlbumInHand()); }},
+    {"mnuAlbumHdr", "mnuAlbumDelete", QT_TR_NOOP("&Delete Album..."), "", "album-delete",
+     QT_TR_NOOP("Delete an album and all that it holds"),
+     [](auto&) { ShowDeleteAlbum(AlbumInHand()); }},
     {"mnuAlbumHdr", "", "", "", "", "", nullptr},
-    {"mnuAlbumHdr", "mnuSlideMgr", "&Slide Manager", "Ctrl+E", "slide-manager",
-     "Edit the slides of an album one by one",
+    {"mnuAlbumHdr", "mnuSlideMgr", QT_TR_NOOP("&Slide Manager"), "Ctrl+E", "slide-manager",
+     QT_TR_NOOP("Edit the slides of an album one by one"),
      [](auto&) { NewForm<frmSlideDBM>()->LoadSlideMgr(); }},
-    {"mnuAlbumHdr", "mnuSlideMgrBulk", "&Bulk Slide Manager", "Ctrl+B", "slide-manager-bulk",
-     "Edit the captions of a whole album",
+    {"mnuAlbumHdr", "mnuSlideMgrBulk", QT_TR_NOOP("&Bulk Slide Manager"), "Ctrl+B",
+     "slide-manager-bulk", QT_TR_NOOP("Edit the captions of a whole album"),
      [](auto&) { NewForm<frmSlideMgrBulk>()->LoadAlbumMgr(0); }},
-    {"mnuSlideShowHdr", "mnuSlideShowMgr", "Slide Show &Manager", "Ctrl+M", "slide-show-manager",
-     "Compose slide shows", [](auto&) { TheOpeners().SlideShowMgr(AlbumInHand(), 0); }},
-    {"mnuSlideShowHdr", "mnuSlideShowViewer", "&Play Slide Show", "F5", "slide-show-play",
-     "Play the active slide show", [](frmNEBSlideShow& Main) { PlayActiveShow(Main); }},
-    {"mnuSlideShowHdr", "mnuSlideShowRehearse", "Re&hearse...", "", "find-graphics",
-     "See what comes up when in the active slide show, and what is wrong with it",
+    {"mnuSlideShowHdr", "mnuSlideShowMgr", QT_TR_NOOP("Slide Show &Manager"), "Ctrl+M",
+     "slide-show-manager", QT_TR_NOOP("Compose slide shows"),
+     [](auto&) { TheOpeners().SlideShowMgr(AlbumInHand(), 0); }},
+    {"mnuSlideShowHdr", "mnuSlideShowViewer", QT_TR_NOOP("&Play Slide Show"), "F5",
+     "slide-show-play", QT_TR_NOOP("Play the active slide show"),
+     [](frmNEBSlideShow& Main) { PlayActiveShow(Main); }},
+    {"mnuSlideShowHdr", "mnuSlideShowRehearse", QT_TR_NOOP("Re&hearse..."), "", "find-graphics",
+     QT_TR_NOOP("See what comes up when in the active slide show, and what is wrong"),
      [](frmNEBSlideShow& Main) { RehearseActiveShow(Main); }},
-    {"mnuSlideShowHdr", "mnuSlideShowFilm", "Make a &Film...", "", "film",
-     "Make a video file of the active slide show",
+    {"mnuSlideShowHdr", "mnuSlideShowFilm", QT_TR_NOOP("Make a &Film..."), "", "film",
+     QT_TR_NOOP("Make a video file of the active slide show"),
      [](frmNEBSlideShow& Main) { FilmActiveShow(Main); }},
     {"mnuSlideShowHdr", "", "", "", "", "", nullptr},
-    {"mnuSlideShowHdr", "mnuSlideShowPrefs", "P&references...", "Ctrl+R", "preferences",
-     "Choose the active slide show and its effects", [](auto&) { EditSlideShowPreferences(); }},
-    {"mnuSlideShowHdr", "mnuSpeedTest", "Test &Graphics Speed", "", "",
-     "Measure once more which effects this computer shows smoothly",
+    {"mnuSlideShowHdr", "mnuSlideShowPrefs", QT_TR_NOOP("P&references..."), "Ctrl+R", "preferences",
+     QT_TR_NOOP("Choose the active slide show and its effects"),
+     [](auto&) { EditSlideShowPreferences(); }},
+    {"mnuSlideShowHdr", "mnuSpeedTest", QT_TR_NOOP("Test &Graphics Speed"), "", "",
+     QT_TR_NOOP("Measure once more which effects this computer shows smoothly"),
      [](auto&) { TestGraphicsSpeed(); }},
-    {"mnuImportExportHdr", "mnuAlbumImport", "Import &Album...", "", "import",
-     "Bring an album in from another database",
+    {"mnuImportExportHdr", "mnuAlbumImport", QT_TR_NOOP("Import &Album..."), "", "import",
+     QT_TR_NOOP("Bring an album in from another database"),
      [](auto&) { TheOpeners().ShowAsChild(*NewForm<frmAlbumImport>()); }},
-    {"mnuImportExportHdr", "mnuAlbumExport", "E&xport Album...", "", "export",
-     "Take an album to another database",
+    {"mnuImportExportHdr", "mnuAlbumExport", QT_TR_NOOP("E&xport Album..."), "", "export",
+     QT_TR_NOOP("Take an album to another database"),
      [](auto&) { TheOpeners().ShowAsChild(*NewForm<frmAlbumExport>()); }},
     {"mnuImportExportHdr", "", "", "", "", "", nullptr},
-    {"mnuImportExportHdr", "mnuSlideShowImport", "Import &Slide Show...", "", "import",
-     "Bring a slide show in from another database",
+    {"mnuImportExportHdr", "mnuSlideShowImport", QT_TR_NOOP("Import &Slide Show..."), "", "import",
+     QT_TR_NOOP("Bring a slide show in from another database"),
      [](auto&) { TheOpeners().ShowAsChild(*NewForm<frmSlideShowImport>()); }},
-    {"mnuImportExportHdr", "mnuSlideShowExport", "Exp&ort Slide Show...", "", "export",
-     "Take a slide show to another database",
+    {"mnuImportExportHdr", "mnuSlideShowExport", QT_TR_NOOP("Exp&ort Slide Show..."), "", "export",
+     QT_TR_NOOP("Take a slide show to another database"),
      [](auto&) { TheOpeners().ShowAsChild(*NewForm<frmSlideShowExport>()); }},
     {"mnuImportExportHdr", "", "", "", "", "", nullptr},
-    {"mnuImportExportHdr", "mnuDiscWrite", "&Write to a Folder for a Disc...", "", "export",
-     "Write albums and slide shows into a folder that plays and checks itself",
+    {"mnuImportExportHdr", "mnuDiscWrite", QT_TR_NOOP("&Write to a Folder for a Disc..."), "",
+     "export",
+     QT_TR_NOOP("Write albums and slide shows into a folder that plays and checks itself"),
      [](auto&) { TheOpeners().ShowAsChild(*NewForm<frmDiscFolder>()); }},
-    {"mnuImportExportHdr", "mnuDiscCheck", "&Check a Disc...", "", "find-graphics",
-     "Compare a folder that was written for a disc with its check sums",
+    {"mnuImportExportHdr", "mnuDiscCheck", QT_TR_NOOP("&Check a Disc..."), "", "find-graphics",
+     QT_TR_NOOP("Compare a folder that was written for a disc with its check sums"),
      [](auto&) { CheckDisc(); }},
-    {"mnuPrintHdr", "mnuAlbumPrint", "Print &Album...", "", "print", "Print the pages of an album",
+    {"mnuPrintHdr", "mnuAlbumPrint", QT_TR_NOOP("Print &Album..."), "", "print",
+     QT_TR_NOOP("Print the pages of an album"),
      [](auto&) { NewForm<frmPrintAlbum>()->PrintAlbum(AlbumInHand()); }},
-    {"mnuPrintHdr", "mnuSlideShowPrint", "Print &Slide Show...", "", "print",
-     "Print the pages of a slide show",
+    {"mnuPrintHdr", "mnuSlideShowPrint", QT_TR_NOOP("Print &Slide Show..."), "", "print",
+     QT_TR_NOOP("Print the pages of a slide show"),
      [](auto&) { NewForm<frmPrintSlideShow>()->PrintSlideShow(AlbumInHand(), 0); }},
     // Alt+Home: where people who browse have their home page, and no list or field takes it
-    {"mnuWindows", "mnuHome", "&Home", "Alt+Home", "album",
-     "Go to the albums and slide shows; once more: back to the windows",
+    {"mnuWindows", "mnuHome", QT_TR_NOOP("&Home"), "Alt+Home", "album",
+     QT_TR_NOOP("Go to the albums and slide shows; once more: back to the windows"),
      [](frmNEBSlideShow& Main) { Main.ShowHome(); }},
-    {"mnuWindows", "mnuCascade", "&Cascade", "", "", "Lay the windows one over the other",
+    {"mnuWindows", "mnuCascade", QT_TR_NOOP("&Cascade"), "", "",
+     QT_TR_NOOP("Lay the windows one over the other"),
      [](frmNEBSlideShow& Main) { Main.Area().CascadeChildren(); }},
-    {"mnuWindows", "mnuTile", "&Tile", "", "", "Lay the windows side by side",
+    {"mnuWindows", "mnuTile", QT_TR_NOOP("&Tile"), "", "",
+     QT_TR_NOOP("Lay the windows side by side"),
      [](frmNEBSlideShow& Main) { Main.Area().TileChildren(); }},
     {"mnuWindows", "", "", "", "", "", nullptr},
-    {"mnuWindows", "mnuNextWindow", "&Next", "Ctrl+Tab", "", "Go to the next window",
+    {"mnuWindows", "mnuNextWindow", QT_TR_NOOP("&Next"), "Ctrl+Tab", "",
+     QT_TR_NOOP("Go to the next window"),
      [](frmNEBSlideShow& Main) { Main.Area().activateNextSubWindow(); }},
-    {"mnuWindows", "mnuPreviousWindow", "&Previous", "Ctrl+Shift+Tab", "",
-     "Go to the previous window",
+    {"mnuWindows", "mnuPreviousWindow", QT_TR_NOOP("&Previous"), "Ctrl+Shift+Tab", "",
+     QT_TR_NOOP("Go to the previous window"),
      [](frmNEBSlideShow& Main) { Main.Area().activatePreviousSubWindow(); }},
-    {"mnuWindows", "mnuCloseWindow", "C&lose", "Ctrl+F4; Ctrl+W", "", "Close the window in use",
+    {"mnuWindows", "mnuCloseWindow", QT_TR_NOOP("C&lose"), "Ctrl+F4; Ctrl+W", "",
+     QT_TR_NOOP("Close the window in use"),
      [](frmNEBSlideShow& Main) { Main.Area().closeActiveSubWindow(); }},
-    {"mnuHelpHdr", "mnuHelpWindow", "Help for This &Window", "F1", "help",
-     "What can be done in the window in front",
+    {"mnuHelpHdr", "mnuHelpWindow", QT_TR_NOOP("Help for This &Window"), "F1", "help",
+     QT_TR_NOOP("What can be done in the window in front"),
      [](frmNEBSlideShow& Main) { ShowHelpOfWindow(Main); }},
-    {"mnuHelpHdr", "mnuHelpContents", "&Contents", "", "", "What the program can do",
-     [](auto&) { ShowHelp(QStringLiteral("contents")); }},
-    {"mnuHelpHdr", "mnuHelpIndex", "&Index", "", "", "Find a subject by its name",
-     [](auto&) { ShowHelp(QStringLiteral("index")); }},
+    {"mnuHelpHdr", "mnuHelpContents", QT_TR_NOOP("&Contents"), "", "",
+     QT_TR_NOOP("What the program can do"), [](auto&) { ShowHelp(QStringLiteral("contents")); }},
+    {"mnuHelpHdr", "mnuHelpIndex", QT_TR_NOOP("&Index"), "", "",
+     QT_TR_NOOP("Find a subject by its name"), [](auto&) { ShowHelp(QStringLiteral("index")); }},
     {"mnuHelpHdr", "", "", "", "", "", nullptr},
-    {"mnuHelpHdr", "mnuAbout", "&About NEB Slide Show", "", "about", "The program's version",
-     [](auto&) { NewForm<frmAbout>()->ShowModal(); }},
+    {"mnuHelpHdr", "mnuAbout", QT_TR_NOOP("&About NEB Slide Show"), "", "about",
+     QT_TR_NOOP("The program's version"), [](auto&) { NewForm<frmAbout>()->ShowModal(); }},
 };
 
 // Queued, so that a modal window does not hold whoever pressed the entry. What was pressed twice
@@ -192,10 +205,10 @@ void Connect(frmNEBSlideShow& Main, QAction& Action, Handler Run) {
 }
 
 QAction* MakeAction(frmNEBSlideShow& Main, const Entry& Row) {
-    auto* Action = new QAction(QObject::tr(Row.Text), &Main);
+    auto* Action = new QAction(tr(Row.Text), &Main);
     Action->setObjectName(QString::fromLatin1(Row.Name));
     Action->setShortcuts(QKeySequence::listFromString(QString::fromLatin1(Row.Keys)));
-    Action->setStatusTip(QObject::tr(Row.Tip));
+    Action->setStatusTip(tr(Row.Tip));
     Connect(Main, *Action, Row.Run);
     return Action;
 }
@@ -222,7 +235,7 @@ void AddEntry(frmNEBSlideShow& Main, QMenu& Menu, const Entry& Row, MainMenu& Ma
 MainMenu BuildMainMenu(frmNEBSlideShow& Window) {
     MainMenu Made;
     for (const Header& Each : Headers) {
-        QMenu* Menu = Window.menuBar()->addMenu(QObject::tr(Each.Text));
+        QMenu* Menu = Window.menuBar()->addMenu(tr(Each.Text));
         Menu->setObjectName(QString::fromLatin1(Each.Name));
         for (const Entry& Row : Entries)
             if (qstrcmp(Row.Header, Each.Name) == 0) AddEntry(Window, *Menu, Row, Made);

@@ -8,6 +8,7 @@
 #include "show/ReaderLocks.h"
 #include "support/Fault.h"
 #include "support/Services.h"
+#include "support/Texts.h"
 #include "support/locked/LockWords.h"
 #include "ui_frmAbout.h"
 
@@ -77,7 +78,7 @@ frmAbout::~frmAbout() = default;
 void StartSysInfo() {
     for (const auto& [Program, Argument] : SysInfoTools)
         if (StartTool(Program, Argument)) return;
-    MsgBox(QStringLiteral("System Information Is Unavailable At This Time"));
+    MsgBox(tr("System Information Is Unavailable At This Time"));
 }
 
 }  // namespace neb

@@ -35,6 +35,7 @@
 #include "support/MediaTypes.h"
 #include "support/ReasonOf.h"
 #include "support/Services.h"
+#include "support/Texts.h"
 #include "support/files/modHostFiles.h"
 #include "support/work/WorkAside.h"
 #include "windows/albums/frmDamage.h"
@@ -72,7 +73,7 @@ clsFileSystem* TheFileSystem() {
 
 QString TextOfBroughtBack(const LeftBehind& Found) {
     const QDateTime When = QDateTime::fromMSecsSinceEpoch(Found.When);
-    const QString Date = QLocale(QLocale::English).toString(When, QStringLiteral("d MMMM, HH:mm"));
+    const QString Date = QLocale().toString(When, tr("d MMMM, HH:mm"));
     return Found.Changes == 1
                ? QObject::tr("1 change of %1, was brought back.").arg(Date)
                : QObject::tr("%1 changes of %2, were brought back.").arg(Found.Changes).arg(Date);

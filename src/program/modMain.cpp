@@ -1,6 +1,7 @@
 #include "program/modMain.h"
 
 #include <QDeadlineTimer>
+#include <QLocale>
 #include <QThread>
 #include <QTimer>
 #include <cstdio>
@@ -16,6 +17,7 @@
 #include "program/EditMenu.h"
 #include "program/TerminationWatch.h"
 #include "program/frmNEBSlideShow.h"
+#include "program/language/SpeakLanguage.h"
 #include "program/opening/InstanceServer.h"
 #include "program/opening/OtherInstance.h"
 #include "program/opening/RaiseProgram.h"
@@ -23,6 +25,7 @@
 #include "sound/workers/SoundReading.h"
 #include "support/Fault.h"
 #include "support/Services.h"
+#include "support/Texts.h"
 #include "support/files/HostNames.h"
 #include "support/files/modHostFiles.h"
 #include "support/modFUFL.h"
@@ -217,8 +220,8 @@ bool BecomeTheInstance(InstanceLock& Lock, const CallRunning& Call) {
     if (Answered == HandedOver::Taken) return false;
     if (Is.Is == LockAnswer::State::HeldElsewhere) return TakeOverFrom(Is.Machine, Lock);
     if (Is.Is == LockAnswer::State::CannotLock) return TellUnlockable(Is.Reason);
-    MsgBox(QStringLiteral("You can only run a single instance of NEB Slide Show at a time."),
-           QStringLiteral("Operation Denied"), BoxIcon::Information);
+    MsgBox(tr("You can only run a single instance of NEB Slide Show at a time."),
+           tr("Operation Denied"), BoxIcon::Information);
     return false;
 }
 
@@ -246,6 +249,7 @@ int Main(int argc, char** argv) {
     if (Asked.WantsHelp || Asked.WantsVersion) return AnswerOnTerminal(Asked);
     const QByteArray Token = TokenOfStart();
     NebApplication App(argc, argv);
+    SpeakLanguage(QLocale::system().uiLanguages());
     const DesktopServices Services;
     const CommandLine Line = ParseCommandLine(WordsOf(argc, argv));
     const int Answered = AnswerOnTerminal(Line);

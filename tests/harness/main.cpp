@@ -21,6 +21,12 @@ QTemporaryDir& Scratch() {
     return Dir;
 }
 
+// Whatever language the user of a test has, and with it every process that it starts.
+void SpeakEnglish() {
+    qputenv("LC_ALL", "C.UTF-8");
+    qunsetenv("LANGUAGE");
+}
+
 void ChoosePlatform() {
     if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) return;
     const QString Config = Scratch().filePath(QStringLiteral("screen.json"));
@@ -56,6 +62,7 @@ class ModalWatch : public QObject {
 
 int main(int argc, char** argv) {
     ::testing::InitGoogleTest(&argc, argv);
+    SpeakEnglish();
     ChoosePlatform();
     if (!qEnvironmentVariableIsSet("XDG_RUNTIME_DIR"))
         qputenv("XDG_RUNTIME_DIR", Scratch().path().toUtf8());

@@ -10,11 +10,13 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMdiSubWindow>
+#include <QMenu>
 #include <QProgressBar>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSlider>
+#include <QStatusBar>
 #include <QStyleOptionComboBox>
 #include <QStyleOptionFrame>
 #include <QTabBar>
@@ -213,6 +215,20 @@ QString OfWindow(const QWidget& Window) {
     return {};
 }
 
+// No wider than the screen, opened beside its header.
+QString OfMenu(const QMenu& Menu) {
+    const int Room = Menu.screen()->availableGeometry().width();
+    const int Wide = Menu.sizeHint().width();
+    return Wide > Room ? u"is %1 wide on a screen of %2"_s.arg(Wide).arg(Room) : QString();
+}
+
+// What the bar says of the entry that the pointer is at.
+QString OfTip(const QAction& Entry, const QStatusBar& Bar) {
+    const int Wide = Bar.fontMetrics().horizontalAdvance(Entry.statusTip());
+    return Wide > Bar.width() ? u"needs %1 for its tip, has %2"_s.arg(Wide).arg(Bar.width())
+                              : QString();
+}
+
 }  // namespace
 
 QStringList CutsIn(const QWidget& Window) {
@@ -226,6 +242,10 @@ QStringList CutsIn(const QWidget& Window) {
         Note(NameOf(*Each), OfControl(*Each));
         if (!IsContent(*Each)) Note(NameOf(*Each), OutsideOf(*Each, Window));
     }
+    for (const QMenu* Each : Window.findChildren<QMenu*>()) Note(NameOf(*Each), OfMenu(*Each));
+    if (const auto* Bar = Window.findChild<QStatusBar*>())
+        for (const QAction* Each : Window.findChildren<QAction*>())
+            Note(Each->objectName(), OfTip(*Each, *Bar));
     return Found;
 }
 

@@ -1,14 +1,15 @@
-// At every size of letters, from 9 to 20 points, in light and in dark, all of every window can be
-// read and reached on a screen of 1024 by 768. The windows are looked at by a copy of this program
-// on a screen of its own. So can people:
+// At every size of letters, from 9 to 20 points, in light and in dark, in English and in German,
+// all of every window can be read and reached on a screen of 1024 by 768. The windows are looked at
+// by a copy of this program on a screen of its own. So can people:
 //
 //   NEB_WINDOWS_PICTURES=/tmp/windows NEB_WINDOWS_POINTS=20 NEB_WINDOWS_DARK=1
-//   build/dev/bin/test_program --role look-at-every-window
+//   NEB_WINDOWS_LANGUAGE=de build/dev/bin/test_program --role look-at-every-window
 //
 // writes a picture of every window into that folder.
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QLocale>
 #include <QMdiSubWindow>
 #include <QProcess>
 #include <QStyleFactory>
@@ -17,6 +18,9 @@
 #include "CutFinder.h"
 #include "EveryWindow.h"
 #include "harness/ChildRole.h"
+#include "program/language/SharedLetters.h"
+#include "program/language/UntranslatedTexts.h"
+#include "program/language/SpeakLanguage.h"
 
 namespace neb {
 namespace {
@@ -70,21 +74,40 @@ void SavePicture(const QString& Name, QWidget& Window) {
     (Frame ? Frame : &Window)->grab().save(Folder + u'/' + Name + u".png"_s);
 }
 
+void SetLanguage() {
+    const QString Language = qEnvironmentVariable("NEB_WINDOWS_LANGUAGE");
+    if (Language.isEmpty()) return;
+    SpeakLanguage({Language});
+    QLocale::setDefault(QLocale(Language));
+}
+
+QStringList FindsIn(const QString& Name, const QWidget& Window) {
+    QStringList Found = harness::CutsIn(Window);
+    Found.removeIf([&](const QString& Each) { return IsMeant(Name, Each); });
+    return Found + harness::SharedLettersIn(Window);
+}
+
 int LookAtAll() {
+    const harness::UntranslatedTexts Untranslated;
+    SetLanguage();
     SetLetters();
     const bool IsEmpty = qEnvironmentVariableIsSet("NEB_WINDOWS_EMPTY");
     const auto Of = IsEmpty ? harness::Content::None : harness::Content::Albums;
-    int Cuts = 0;
+    int Finds = 0;
     const int Count = harness::LookAtEveryWindow(Of, [&](const QString& Name, QWidget& Window) {
         SavePicture(Name, Window);
-        for (const QString& Cut : harness::CutsIn(Window)) {
-            if (IsMeant(Name, Cut)) continue;
-            std::printf("%s: %s\n", qPrintable(Name), qPrintable(Cut));
-            ++Cuts;
+        for (const QString& Each : FindsIn(Name, Window)) {
+            std::printf("%s: %s\n", qPrintable(Name), qPrintable(Each));
+            ++Finds;
         }
     });
+    if (SpokenLanguage() != u"en")
+        for (const QString& Each : Untranslated.Found()) {
+            std::printf("untranslated: %s\n", qPrintable(Each));
+            ++Finds;
+        }
     std::printf("%d windows\n", Count);
-    return Cuts == 0 && !::testing::UnitTest::GetInstance()->ad_hoc_test_result().Failed() ? 0 : 1;
+    return Finds == 0 && !::testing::UnitTest::GetInstance()->ad_hoc_test_result().Failed() ? 0 : 1;
 }
 const harness::ChildRole Looking("look-at-every-window", &LookAtAll);
 
@@ -92,6 +115,7 @@ struct Letters {
     int Points;
     bool Dark;
     bool Empty = false;  // no albums yet
+    const char* Language = "";
 };
 
 class EveryWindowAt : public ::testing::TestWithParam<Letters> {
@@ -121,6 +145,7 @@ TEST_P(EveryWindowAt, ShowsAllOfItselfOnASmallScreen) {
     Its.insert(u"NEB_WINDOWS_POINTS"_s, QString::number(GetParam().Points));
     if (GetParam().Dark) Its.insert(u"NEB_WINDOWS_DARK"_s, u"1"_s);
     if (GetParam().Empty) Its.insert(u"NEB_WINDOWS_EMPTY"_s, u"1"_s);
+    Its.insert(u"NEB_WINDOWS_LANGUAGE"_s, QLatin1String(GetParam().Language));
     QProcess Copy;
     Copy.setProcessChannelMode(QProcess::MergedChannels);
     Copy.setProcessEnvironment(Its);
@@ -131,14 +156,23 @@ TEST_P(EveryWindowAt, ShowsAllOfItselfOnASmallScreen) {
     EXPECT_NE(Words.find(Count), std::string::npos) << Words;
 }
 
+std::string NameOf(const ::testing::TestParamInfo<Letters>& Row) {
+    return std::to_string(Row.param.Points) + (Row.param.Dark ? "Dark" : "Light") +
+           (Row.param.Empty ? "Empty" : "") + Row.param.Language;
+}
+
+// The last of each are half as large again as letters usually are, and more.
 INSTANTIATE_TEST_SUITE_P(Points, EveryWindowAt,
                          ::testing::Values(Letters{9, false}, Letters{11, false}, Letters{14, true},
                                            Letters{20, false}, Letters{20, true, true}),
-                         [](const auto& Row) {
-                             return std::to_string(Row.param.Points) +
-                                    (Row.param.Dark ? "Dark" : "Light") +
-                                    (Row.param.Empty ? "Empty" : "");
-                         });
+                         &NameOf);
+INSTANTIATE_TEST_SUITE_P(German, EveryWindowAt,
+                         ::testing::Values(Letters{9, false, false, "de"},
+                                           Letters{11, true, false, "de"},
+                                           Letters{14, false, false, "de"},
+                                           Letters{17, false, false, "de"},
+                                           Letters{17, true, true, "de"}),
+                         &NameOf);
 
 }  // namespace
 }  // namespace neb

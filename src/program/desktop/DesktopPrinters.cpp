@@ -10,6 +10,7 @@
 #include "printing/PrintReach.h"
 #include "program/desktop/QueueState.h"
 #include "support/Fault.h"
+#include "support/Texts.h"
 #include "support/files/modHostFiles.h"
 #include "support/work/WorkAside.h"
 
@@ -119,7 +120,7 @@ bool DesktopPrinter::Paint(QPainter& Painter, const PrintDocument& Document,
     const int Total = static_cast<int>(Pages.size());
     for (int Done = 0; Done < Total; ++Done) {
         if (!GoOn({Done, Total})) return false;
-        if (Done > 0 && !mPrinter->newPage()) throw Fault(QStringLiteral("No page follows."));
+        if (Done > 0 && !mPrinter->newPage()) throw Fault(tr("No page follows."));
         Document.PaintPage(Painter, Pages[static_cast<std::size_t>(Done)], mPrinter->resolution());
     }
     return GoOn({Total, Total});
@@ -130,7 +131,7 @@ PrintError DesktopPrinter::Finish(QPainter& Painter) {
     if (mFile.isEmpty())
         return Sound && JobWasTaken() ? PrintError::None : PrintError::NotResponding;
     const QString Beside = mPrinter->outputFileName();
-    if (!IsWholePdf(Beside)) throw Fault(QStringLiteral("There is no room for the file."), mFile);
+    if (!IsWholePdf(Beside)) throw Fault(tr("There is no room for the file."), mFile);
     SyncFile(Beside);
     RenameFile(Beside, mFile);
     return PrintError::None;
