@@ -74,6 +74,7 @@ constexpr SettingRow Table[] = {
     {S::FilmCaptions,    "Film",              "CaptionsInPicture", "",            T::Flag,    {"True"},          {"True"},         Any, Any,       nullptr, "the window of films"},
     {S::FilmSubtitleTrack, "Film",              "SubtitleTrack",   "",            T::Flag,    {"False"},         {"False"},        Any, Any,       nullptr, "the window of films"},
     {S::FilmSubtitleFile, "Film",              "SubtitleFile",    "",            T::Flag,    {"False"},         {"False"},        Any, Any,       nullptr, "the window of films"},
+    {S::HelpZoom,        "frmHelp",           "Zoom",            "",            T::Number,  {"0", "0"},        {"0"},            -4, 12,          nullptr, "the help: by how much its letters are larger"},
     {S::TransferDirectory, "Transfer",        "Directory*",      LastTen,       T::Text,    None,              None,             Any, Any,       nullptr, "the transfer windows"},
 };
 // clang-format on

@@ -54,6 +54,7 @@ enum class Setting {
     FilmCaptions,  // in the picture
     FilmSubtitleTrack,
     FilmSubtitleFile,
+    HelpZoom,           // by how many steps the letters of the help are larger
     TransferDirectory,  // the last one first: "0" to "9"
 };
 

@@ -7,6 +7,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QSlider>
+#include <QTabBar>
 #include <QTextEdit>
 
 #include "controls/forms/frmLoading.h"
@@ -65,6 +66,7 @@ bool IsControl(const QWidget& Widget) {
 bool IsToolkitPart(const QWidget& Widget) {
     return Widget.objectName().startsWith(u"qt_") ||
            qobject_cast<const QComboBox*>(Widget.parentWidget()) ||
+           qobject_cast<const QTabBar*>(Widget.parentWidget()) ||
            qobject_cast<const QLineEdit*>(Widget.parentWidget()) ||
            qobject_cast<const QAbstractItemView*>(Widget.parentWidget()) ||
            QByteArray(Widget.metaObject()->className()).contains("HeaderView") ||

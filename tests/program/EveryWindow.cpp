@@ -1,5 +1,6 @@
 #include "EveryWindow.h"
 
+#include <QDir>
 #include <QPainter>
 #include <QTest>
 
@@ -9,6 +10,7 @@
 #include "controls/forms/frmProgress.h"
 #include "db/modAlbumFiles.h"
 #include "db/recovery/DatabaseHealth.h"
+#include "help/HelpRig.h"
 #include "program/frmAbout.h"
 #include "program/help/frmHelp.h"
 #include "sound/RecorderRig.h"
@@ -58,6 +60,12 @@ constexpr int SettleTicks = 8, TickMs = 25, PatienceMs = 20000;
 struct Filled {
     std::int32_t AlbumID = 0, ShowID = 0;
     QString Picture, Pictures;  // a file, its folder
+    QString Album, Show, Song;
+};
+
+struct Sample {
+    QString Caption;
+    QImage Picture;
 };
 
 QImage SlidePicture(int Number) {
@@ -70,31 +78,53 @@ QImage SlidePicture(int Number) {
     return Made;
 }
 
-void Fill(clsDBEngine& theDB, const QString& Folder, Filled& Made) {
+// Photographs of a folder, where somebody wants to see the windows with such; else made ones.
+std::vector<Sample> SamplesFor(const QString& Folder, Filled& Made) {
+    std::vector<Sample> All;
+    Made.Album = u"Garden in the Summer of 2024"_s;
+    Made.Show = u"A Walk Through the Garden"_s;
+    Made.Song = u"C:\\Music\\Garden Waltz.mp3"_s;
+    for (int I = 1; Folder.isEmpty() && I <= SlideCount; ++I)
+        All.push_back({u"Roses behind the house %1"_s.arg(I), SlidePicture(I)});
+    if (Folder.isEmpty()) return All;
+    Made.Album = u"A Year in Pictures"_s;
+    Made.Show = u"Four Seasons"_s;
+    Made.Song = Folder + u"/music/Evening Waltz.wav"_s;
+    for (const QFileInfo& Each : QDir(Folder).entryInfoList({u"*.jpg"_s}, QDir::Files, QDir::Name))
+        All.push_back({Each.completeBaseName(), QImage(Each.filePath())});
+    return All;
+}
+
+void EnterSlide(clsDBEngine& theDB, const Filled& On, int Number, const Sample& Its) {
     Changes Door(theDB);
-    theDB.SaveAlbum(Made.AlbumID, u"Garden in the Summer of 2024"_s);
+    ImgX Jpeg;
+    Jpeg.SetPicture(Its.Picture);
+    const auto Bytes = [&] { return Jpeg.ToJpeg(); };
+    const auto ID =
+        *EnterPicture(Door, theDB, On.AlbumID, {Its.Caption, Bytes, MakeThumbnail(Jpeg.Picture())});
+    theDB.GetAlbum(On.AlbumID)->GetSlideShow(On.ShowID)->SaveDetail(ID, Number, {});
+}
+
+void Fill(clsDBEngine& theDB, const QString& Folder, Filled& Made) {
+    const auto Samples = SamplesFor(qEnvironmentVariable("NEB_WINDOWS_SAMPLES"), Made);
+    theDB.SaveAlbum(Made.AlbumID, Made.Album);
     MakeAlbumFolders(theDB, Made.AlbumID);
     std::int32_t& ShowID = Made.ShowID;
-    theDB.GetAlbum(Made.AlbumID)->SaveSlideShow(ShowID, u"A Walk Through the Garden"_s, 1, theDB);
-    for (int I = 1; I <= SlideCount; ++I) {
-        const QString Caption = u"Roses behind the house %1"_s.arg(I);
-        ImgX Jpeg;
-        Jpeg.SetPicture(SlidePicture(I));
-        const auto Bytes = [&] { return Jpeg.ToJpeg(); };
-        const auto ID = *EnterPicture(Door, theDB, Made.AlbumID,
-                                      {Caption, Bytes, MakeThumbnail(Jpeg.Picture())});
-        theDB.GetAlbum(Made.AlbumID)->GetSlideShow(ShowID)->SaveDetail(ID, I, {});
-        Made.Picture = Folder + u"/rose%1.jpg"_s.arg(I);
-        SlidePicture(I).save(Made.Picture);
+    theDB.GetAlbum(Made.AlbumID)->SaveSlideShow(ShowID, Made.Show, 1, theDB);
+    int Number = 0;
+    for (const Sample& Each : Samples) {
+        EnterSlide(theDB, Made, ++Number, Each);
+        Made.Picture = Folder + u'/' + Each.Caption + u".jpg"_s;
+        Each.Picture.save(Made.Picture);
     }
     theDB.GetAlbum(Made.AlbumID)
         ->GetSlideShow(ShowID)
-        ->SaveSoundTrack(1, u"C:\\Music\\Garden Waltz.mp3"_s, 1, 4, true, true, false);
+        ->SaveSoundTrack(1, Made.Song, 1, 4, true, true, false);
 }
 
 template <class Window>
-void OpenModeless(const Filled&) {
-    NewForm<Window>()->ShowModeless();
+void OpenModal(const Filled&) {
+    NewForm<Window>()->ShowModal();
 }
 
 template <class Window>
@@ -107,7 +137,7 @@ void OpenImport(const Filled& On) {
     Window->SetLoadSlideShowMgr(false);
     Window->SetImportDir(On.Pictures);
     Window->SetAlbumID(On.AlbumID);
-    Window->SetAlbumName(u"Garden in the Summer of 2024"_s);
+    Window->SetAlbumName(On.Album);
     TheOpeners().ShowAsChild(*Window);
 }
 
@@ -119,8 +149,8 @@ void OpenQuickShow(const Filled& On) {
 
 void OpenHelp(const Filled&) {
     const auto Window = NewForm<frmHelp>();
-    Window->SetTopic(QStringLiteral(NEB_SOURCE_DIR "/assets/help/SlideShowHelp.hlp"),
-                     u"contents"_s);
+    LayHelpInto(AppPath());
+    Window->SetTopic(AppPath() + kHelpFile, u"start/help"_s);
     TheOpeners().ShowAsChild(*Window);
 }
 
@@ -159,32 +189,32 @@ struct Row {
 };
 
 const Row Rows[] = {
-    {"frmAbout", &OpenModeless<frmAbout>},
+    {"frmAbout", &OpenModal<frmAbout>},
     {"frmHelp", &OpenHelp},
     {"frmQuickShow", &OpenQuickShow},
-    {"frmNewAlbumWzd1", &OpenModeless<frmNewAlbumWzd1>},
+    {"frmNewAlbumWzd1", &OpenModal<frmNewAlbumWzd1>},
     {"frmImportFilter", &OpenImport},
-    {"frmDirSelect", &OpenModeless<frmDirSelect>},
-    {"frmFindGraphics", &OpenModeless<frmFindGraphics>},
+    {"frmDirSelect", &OpenModal<frmDirSelect>},
+    {"frmFindGraphics", &OpenModal<frmFindGraphics>},
     {"frmAlbumRename", [](auto& On) { NewForm<frmAlbumRename>()->ShowRenameAlbum(On.AlbumID); }},
     {"frmAlbumDelete", [](auto& On) { NewForm<frmAlbumDelete>()->ShowDeleteAlbum(On.AlbumID); }},
-    {"frmRestore", &OpenModeless<frmRestore>},
+    {"frmRestore", &OpenModal<frmRestore>},
     {"frmDamage",
      [](auto&) {
          NewForm<frmDamage>()->MakeSound(DBPath(), {.Wrong = {u"Albums.dat is cut."_s}});
      }},
-    {"frmCheckPictures", &OpenModeless<frmCheckPictures>},
+    {"frmCheckPictures", &OpenModal<frmCheckPictures>},
     {"frmGetObjectName",
      [](auto&) { NewForm<frmGetObjectName>()->GetObjectName(u"Garden in the Summer"_s); }},
     {"frmSlideDBM", [](auto&) { NewForm<frmSlideDBM>()->LoadSlideMgr(); }, true},
     {"frmSlideMgrBulk", [](auto& On) { NewForm<frmSlideMgrBulk>()->LoadAlbumMgr(On.AlbumID); }},
-    {"frmSoundRecorder", &OpenModeless<frmSoundRecorder>},
+    {"frmSoundRecorder", &OpenModal<frmSoundRecorder>},
     {"frmPicturePopup",
      [](auto& On) {
          QString Path = On.Picture;
          const auto Window = NewForm<frmPicturePopup>();
          Window->LoadSlide(Path);
-         Window->ShowModeless();
+         Window->ShowModal();
      },
      true},
     {"frmSlideShowDBM",
@@ -209,14 +239,11 @@ const Row Rows[] = {
      [](auto& On) { NewForm<frmPrintSheet>()->PrintSlide(On.Picture, u"Roses"_s); }, true},
     {"frmTransferProgress", &OpenTransfer},
     {"frmAlbumView",
-     [](auto& On) {
-         NewForm<frmAlbumView>()->ViewAlbum(*DBEngine, On.AlbumID, u"Garden in the Summer"_s);
-     },
-     true},
+     [](auto& On) { NewForm<frmAlbumView>()->ViewAlbum(*DBEngine, On.AlbumID, On.Album); }, true},
     {"frmSlideShowView",
      [](auto& On) {
-         NewForm<frmSlideShowView>()->ViewSlideShow(*DBEngine, On.AlbumID, u"Garden"_s, On.ShowID,
-                                                    u"A Walk"_s);
+         NewForm<frmSlideShowView>()->ViewSlideShow(*DBEngine, On.AlbumID, On.Album, On.ShowID,
+                                                    On.Show);
      },
      true},
     {"frmLoading", &OpenAtWork<frmLoading>},

@@ -1,4 +1,4 @@
-// The menu of the main window: what its help, its list of windows and its notices do.
+// The menu of the main window: what its list of windows and its notices do.
 #include "program/MainMenu.h"
 
 #include <QComboBox>
@@ -6,16 +6,11 @@
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
-#include <QScrollBar>
 #include <QStatusBar>
 #include <QTest>
-#include <QTextBlock>
-#include <QTextBrowser>
 
 #include "MainWindowRig.h"
 #include "controls/fields/Icons.h"
-#include "program/help/frmHelp.h"
-#include "program/help/modHelp.h"
 #include "support/Fault.h"
 #include "windows/albums/frmCheckPictures.h"
 #include "windows/frame/modNotice.h"
@@ -59,104 +54,7 @@ class TheMenu : public MainWindow {
     QMenu* WindowMenu() const { return mWindow->menuBar()->findChild<QMenu*>("mnuWindows"); }
     QMdiArea& Area() const { return *mWindow->findChild<QMdiArea*>(); }
     QString Notice() const { return mWindow->statusBar()->currentMessage(); }
-
-    // The line at the top of the help as it stands on the screen.
-    QString TopOfHelp() const {
-        const auto* Text = Find<frmHelp>()->findChild<QTextBrowser*>("txtHelp");
-        return Text->cursorForPosition(QPoint(Text->width() / 2, 2)).block().text();
-    }
-    void WriteHelp() const {
-        const QString Much = QStringLiteral("<p>and so on</p>").repeated(200);
-        WriteFile(AppPath() + "SlideShowHelp.hlp",
-                  (Much + "<h1><a name=contents>All of it</a></h1>" + Much +
-                   "<h1><a name=index>By name</a></h1>" + Much)
-                      .toUtf8());
-    }
 };
-
-TEST_F(TheMenu, HelpOpensAtItsContentsAndAtItsIndex) {
-    Start();
-    WriteHelp();
-    Press("mnuHelpContents");
-    ASSERT_TRUE(Find<frmHelp>());
-    EXPECT_TRUE(Find<frmHelp>()->isVisible());
-    EXPECT_TRUE(QTest::qWaitFor([this] { return TopOfHelp() == "All of it"; }, 2000))
-        << TopOfHelp().toStdString();
-    Find<frmHelp>()->Unload();
-    Press("mnuHelpIndex");
-    EXPECT_TRUE(QTest::qWaitFor([this] { return TopOfHelp() == "By name"; }, 2000))
-        << TopOfHelp().toStdString();
-}
-
-TEST_F(TheMenu, HelpIsOneWindowThatGoesToThePageAskedFor) {
-    Start();
-    WriteHelp();
-    Press("mnuHelpContents");
-    Press("mnuHelpIndex");
-    EXPECT_EQ(1, Area().subWindowList().size());
-    EXPECT_TRUE(QTest::qWaitFor([this] { return TopOfHelp() == "By name"; }, 2000))
-        << TopOfHelp().toStdString();
-    const auto Held = Find<frmHelp>()->shared_from_this();
-    QTest::keyClick(Find<frmHelp>()->findChild<QTextBrowser*>("txtHelp"), Qt::Key_Escape);
-    EXPECT_FALSE(Find<frmHelp>());
-}
-
-TEST_F(TheMenu, TheHelpKeyOpensThePageOfTheWindowInFront) {
-    Start();
-    const QString Much = QStringLiteral("<p>and so on</p>").repeated(200);
-    WriteFile(AppPath() + "SlideShowHelp.hlp", (Much + "<h1><a name=home>The beginning</a></h1>" +
-                                                Much + "<h1><a name=compose>Shows</a></h1>" + Much)
-                                                   .toUtf8());
-    EXPECT_EQ(QKeySequence("F1"), Entry("mnuHelpWindow")->shortcut());
-    Press("mnuHelpWindow");
-    EXPECT_TRUE(QTest::qWaitFor([this] { return TopOfHelp() == "The beginning"; }, 2000))
-        << TopOfHelp().toStdString();
-    Press("mnuSlideShowMgr");
-    Press("mnuHelpWindow");
-    EXPECT_TRUE(QTest::qWaitFor([this] { return TopOfHelp() == "Shows"; }, 2000))
-        << TopOfHelp().toStdString();
-    EXPECT_EQ(Find<frmHelp>(), Area().activeSubWindow()->widget()) << "it comes to the front";
-}
-
-TEST_F(TheMenu, TheHelpKeyWorksInAModalWindowToo) {
-    Start();
-    const QString Much = ("<p>" + QStringLiteral("and so on ").repeated(60) + "</p>").repeated(60);
-    WriteFile(AppPath() + "SlideShowHelp.hlp",
-              (Much + "<h1><a name=prefs>Choices</a></h1>" + Much).toUtf8());
-    int Seen = 0;
-    WhenPreferencesOpen([&](frmPreferences& Window) {
-        WhenOpen<frmHelp>([&](frmHelp& Help) {
-            ++Seen;
-            EXPECT_TRUE(Help.isModal());
-            EXPECT_TRUE(QTest::qWaitFor([this] { return TopOfHelp() == "Choices"; }, 2000));
-        });
-        QTest::keyClick(Window.findChild<QWidget*>("txtSlideTimeout"), Qt::Key_F1);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return Seen == 1 && !Find<frmHelp>(); }, 2000));
-        EXPECT_TRUE(Window.isVisible());
-    });
-    Press("mnuSlideShowPrefs");
-    EXPECT_EQ(1, Seen);
-}
-
-// The table of the windows in the documents says for each which page tells of it.
-TEST_F(TheMenu, EveryWindowOpensThePageThatTheDocumentsNameAndTheHelpHas) {
-    const QByteArray Help = ReadFile(NEB_SOURCE_DIR "/assets/help/SlideShowHelp.hlp");
-    const QString Text = QString::fromUtf8(ReadFile(NEB_SOURCE_DIR "/docs/ARCHITECTURE.md"));
-    const QStringList Others = {"frmNEBSlideShow", "frmSlideShowProjector", "frmPopup",
-                                "frmSpeedTest", "frmTransferProgress"};
-    int Windows = 0;
-    for (const QString& Line : Text.split('\n')) {
-        const QStringList Cells = Line.split('|');
-        if (Cells.size() < 5 || !Cells[2].contains("`frm")) continue;
-        const QString Class = Cells[2].trimmed().remove('`'), Page = Cells[4].trimmed();
-        ++Windows;
-        const QString Opens = Others.contains(Class) ? Page : HelpPageOf(Class);
-        EXPECT_EQ(Page.toStdString(), Opens.toStdString()) << Class.toStdString();
-        EXPECT_TRUE(Page.isEmpty() || Help.contains("name=\"" + Page.toUtf8() + '"'))
-            << Page.toStdString();
-    }
-    EXPECT_GT(Windows, 40);
-}
 
 TEST_F(TheMenu, AllPicturesAreCheckedFromTheFileMenu) {
     Start();
@@ -189,13 +87,6 @@ TEST_F(TheMenu, AShowThatIsAskedForTwiceRunsOnce) {
     EXPECT_EQ(1U, MostOpenAfterTwo("mnuSlideShowViewer"));
 }
 
-TEST_F(TheMenu, TheHelpThatComesWithTheProgramHasItsPlaces) {
-    const QByteArray Help = ReadFile(NEB_SOURCE_DIR "/assets/help/SlideShowHelp.hlp");
-    for (const char* Place :
-         {"<a name=\"contents\">", "<a name=\"index\">", "<a name=\"earlier\">"})
-        EXPECT_TRUE(Help.contains(Place)) << Place;
-}
-
 TEST_F(TheMenu, NoWindowOpensTooSmallForWhatItShows) {
     Start();
     mWindow->resize(1200, 900);
@@ -210,15 +101,6 @@ TEST_F(TheMenu, NoWindowOpensTooSmallForWhatItShows) {
         LoadedForms().back()->Unload();
         DoEvents();
     }
-}
-
-TEST_F(TheMenu, AMissingHelpFileIsToldInTheStatusBarAlone) {
-    Start();
-    EXPECT_EQ("", Notice());
-    Press("mnuHelpContents");
-    EXPECT_EQ(Find<frmHelp>(), nullptr);
-    EXPECT_EQ(mBoxes.ShownCount(), 0);
-    EXPECT_TRUE(Notice().contains("SlideShowHelp.hlp")) << Notice().toStdString();
 }
 
 TEST_F(TheMenu, ANoticeOfAnyWindowStandsInTheStatusBarInOneLine) {

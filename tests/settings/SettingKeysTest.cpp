@@ -67,6 +67,7 @@ const struct Documented {
     {"[Pictures]Order", {""}, SettingType::Text, "Name", "Name", nullptr, nullptr, nullptr},
     {"[Pictures]Captions", {""}, SettingType::Flag, "True", "True", nullptr, nullptr, nullptr},
     {"[Home]Pictures", {""}, SettingType::Number, "160", "160", "160", nullptr, nullptr},
+    {"[frmHelp]Zoom", {""}, SettingType::Number, "0", "0", "0", nullptr, nullptr},
     {"[*]Height", AllWindows, SettingType::Twips, "", "", nullptr, nullptr, nullptr},
     {"[*]Width", AllWindows, SettingType::Twips, "", "", nullptr, nullptr, nullptr},
     {"[*]WindowState", AllWindows, SettingType::Number, "", "", nullptr, nullptr, nullptr},

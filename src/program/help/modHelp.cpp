@@ -19,31 +19,68 @@ constexpr char Contents[] = "contents";
 
 struct HelpRow {
     const char* Class;
-    const char* Page;  // an anchor of the help file
+    const char* Page;
 };
 
 constexpr HelpRow HelpRows[] = {
-    {"frmQuickShow", "quick"},          {"frmNewAlbumWzd1", "albums"},
-    {"frmImportFilter", "albums"},      {"frmDirSelect", "albums"},
-    {"frmFindGraphics", "albums"},      {"frmAlbumRename", "albums"},
-    {"frmAlbumDelete", "albums"},       {"frmRestore", "earlier"},
-    {"frmDamage", "damaged"},           {"frmCheckPictures", "checking"},
-    {"frmGetObjectName", "albums"},     {"frmSlideDBM", "albums"},
-    {"frmSlideMgrBulk", "albums"},      {"frmSoundRecorder", "albums"},
-    {"frmSetCaptions", "albums"},       {"frmSlideScreen", "home"},
-    {"frmPicturePopup", "albums"},      {"frmAlbumView", "home"},
-    {"frmSlideShowView", "home"},       {"frmSlideShowDBM", "compose"},
-    {"frmRehearsal", "rehearse"},       {"frmPreferences", "prefs"},
-    {"frmAlbumExport", "transfer"},     {"frmAlbumImport", "transfer"},
-    {"frmSlideShowExport", "transfer"}, {"frmSlideShowImport", "transfer"},
-    {"frmDiscFolder", "transfer"},      {"frmPrintPreview", "print"},
-    {"frmInputBox", "print"},           {"frmPrintAlbum", "print"},
-    {"frmPrintSlideShow", "print"},     {"frmPrintSlide", "print"},
-    {"frmPrintSheet", "print"},         {"frmFilm", "film"},
+    {"frmNEBSlideShow", "start/home"},
+    {"frmAbout", "start/about"},
+    {"frmHelp", "start/help"},
+    {"frmQuickShow", "start/quick-show"},
+    {"frmNewAlbumWzd1", "albums/new-album"},
+    {"frmImportFilter", "albums/import-pictures"},
+    {"frmDirSelect", "albums/choose-folder"},
+    {"frmFindGraphics", "albums/find-graphics"},
+    {"frmAlbumRename", "albums/rename-album"},
+    {"frmAlbumDelete", "albums/delete-album"},
+    {"frmGetObjectName", "albums/give-a-name"},
+    {"frmSlideDBM", "albums/slide-manager"},
+    {"frmSlideMgrBulk", "albums/bulk-slide-manager"},
+    {"frmSetCaptions", "albums/set-captions"},
+    {"frmSoundRecorder", "albums/sound-recorder"},
+    {"frmPicturePopup", "albums/picture-preview"},
+    {"frmSlideScreen", "albums/whole-screen"},
+    {"frmAlbumView", "albums/album-viewer"},
+    {"frmSlideShowView", "shows/show-viewer"},
+    {"frmSlideShowDBM", "shows/slide-show-manager"},
+    {"frmRehearsal", "shows/rehearsal"},
+    {"frmFilm", "shows/film"},
+    {"frmPreferences", "shows/preferences"},
+    {"frmSpeedTest", "shows/speed-test"},
+    {"frmSlideShowProjector", "shows/running-show"},
+    {"frmPopup", "shows/show-menu"},
+    {"frmAlbumExport", "places/export-album"},
+    {"frmAlbumImport", "places/import-album"},
+    {"frmSlideShowExport", "places/export-show"},
+    {"frmSlideShowImport", "places/import-show"},
+    {"frmTransferProgress", "places/transfer-progress"},
+    {"frmDiscFolder", "places/disc-folder"},
+    {"frmPrintPreview", "paper/print-preview"},
+    {"frmInputBox", "paper/mail-address"},
+    {"frmPrintAlbum", "paper/print-album"},
+    {"frmPrintSlideShow", "paper/print-show"},
+    {"frmPrintSlide", "paper/print-slide"},
+    {"frmPrintSheet", "paper/print-slide-sheet"},
+    {"frmRestore", "safety/restore"},
+    {"frmDamage", "safety/damaged-albums"},
+    {"frmCheckPictures", "safety/check-pictures"},
+    {"frmLoading", "start/work-under-way"},
+    {"frmProgress", "start/work-under-way"},
+    {"frmMsgBoxEx", "start/messages"},
 };
+
+// Those over which nothing opens: they say how far work is, fill the screen with pictures that
+// move, or have a meaning of their own for F1.
+constexpr const char* Undisturbed[] = {"frmLoading", "frmProgress",           "frmTransferProgress",
+                                       "frmPopup",   "frmSlideShowProjector", "frmSpeedTest"};
 
 QString ClassOf(const QWidget& Window) {
     return QString::fromLatin1(Window.metaObject()->className()).section(QStringLiteral("::"), -1);
+}
+
+bool IsUndisturbed(const QString& Class) {
+    return std::ranges::any_of(Undisturbed,
+                               [&](const char* Each) { return Class == QLatin1String(Each); });
 }
 
 // Those that are shown modally live until they are closed; the other one is known among the forms.
@@ -57,7 +94,11 @@ void ShowPage(frmHelp& Window, const QString& Page) {
     Window.SetTopic(AppPath() + QLatin1String(HelpFile), Page);
 }
 
+// The one that is open already takes the page; one behind the modal window comes before it.
 void ShowAbove(const QString& Page) {
+    const auto Open = OpenHelp();
+    if (Open && Open->isModal()) return ShowPage(*Open, Page);
+    if (Open) Open->Unload();
     const auto Window = NewForm<frmHelp>();
     ShowPage(*Window, Page);
     Window->ShowModal();
@@ -103,7 +144,7 @@ QString HelpPageOf(const QString& Class) {
 }
 
 QString HelpPageOf(const QWidget* Window) {
-    const QString Page = Window ? HelpPageOf(ClassOf(*Window)) : QStringLiteral("home");
+    const QString Page = HelpPageOf(Window ? ClassOf(*Window) : QStringLiteral("frmNEBSlideShow"));
     return Page.isEmpty() ? QString::fromLatin1(Contents) : Page;
 }
 
@@ -115,7 +156,7 @@ bool HelpKey::eventFilter(QObject*, QEvent* Event) {
     if (!IsHelpKey(*Event)) return false;
     const QWidget* Modal = QApplication::activeModalWidget();
     const QString Page = Modal ? HelpPageOf(ClassOf(*Modal)) : QString();
-    if (Page.isEmpty()) return false;
+    if (Page.isEmpty() || IsUndisturbed(ClassOf(*Modal))) return false;
     ShowHelpLater(Page);
     return true;
 }

@@ -10,8 +10,7 @@ namespace neb {
 // lets nobody reach the others, it opens on top. Throws Fault when the help file is missing.
 void ShowHelp(const QString& Page);
 
-// The page that tells of a window, by its class such as "frmQuickShow"; empty for those of which
-// none does, such as windows that only say how far work is.
+// The page that tells of a window, by its class such as "frmQuickShow"; empty where none does.
 QString HelpPageOf(const QString& Class);
 // That of a window, "contents" for one that has none of its own.
 QString HelpPageOf(const QWidget* Window);

@@ -39,12 +39,13 @@ TEST_F(PreviewWindow, OffersTheZoomsWithOneHundredChosen) {
 
 TEST_F(PreviewWindow, TheHelpNamesEachKeyOfItsMenus) {
     Show(1);
-    const QByteArray Help = ReadFile(NEB_SOURCE_DIR "/assets/help/SlideShowHelp.hlp");
+    const QByteArray Help = ReadFile(NEB_SOURCE_DIR "/assets/help/en/paper/print-preview.html");
     int Named = 0;
     for (const QAction* Each : Window->findChildren<QAction*>()) {
-        const QByteArray Key = Each->shortcut().toString().toUtf8();
+        QByteArray Key = Each->shortcut().toString().toUtf8();
         if (Key.isEmpty() || Each->objectName() == u"mnuExit") continue;
-        EXPECT_TRUE(Help.contains(Key)) << Key.toStdString();
+        Key.replace("++", "+Plus").replace("+-", "+Minus");
+        EXPECT_TRUE(Help.contains("<kbd>" + Key + "</kbd>")) << Key.toStdString();
         ++Named;
     }
     EXPECT_EQ(6, Named);
