@@ -3,6 +3,7 @@
 #include <QProcess>
 #include <QResource>
 #include <QStandardPaths>
+#include <QTextTable>
 #include <QTimer>
 
 #include "show/ReaderLocks.h"
@@ -39,9 +40,24 @@ bool StartTool(const char* Program, const char* Argument) {
     return QProcess::startDetached(Path, Arguments);
 }
 
-// The very file that lies beside the installed program.
+// The very file that lies beside the installed program, without its heading.
 QString ThirdPartyNotices() {
-    return QString::fromUtf8(QResource(QStringLiteral(":/neb/THIRD-PARTY.md")).uncompressedData());
+    const QResource Notices(QStringLiteral(":/neb/THIRD-PARTY.md"));
+    return QString::fromUtf8(Notices.uncompressedData()).section(u'\n', 2);
+}
+
+// Rows without boxes round each word, and no wider than the window.
+void Lighten(const QTextDocument& Notices) {
+    for (QTextFrame* Each : Notices.rootFrame()->childFrames()) {
+        auto* Table = qobject_cast<QTextTable*>(Each);
+        if (!Table) continue;
+        QTextTableFormat Format = Table->format();
+        Format.setBorder(0);
+        Format.setCellSpacing(0);
+        Format.setCellPadding(3);
+        Format.setWidth(QTextLength(QTextLength::PercentageLength, 98));
+        Table->setFormat(Format);
+    }
 }
 
 QString ReadersSentence(JobState&) try {
@@ -62,6 +78,7 @@ frmAbout::frmAbout() : mUi(std::make_unique<Ui::frmAbout>()), mReaders(ReadersSe
     mUi->lblVersion->setText(tr("Version ") + QApplication::applicationVersion());
     mUi->picIcon->setPixmap(QApplication::windowIcon().pixmap(96, 96));
     mUi->txtLicences->setMarkdown(ThirdPartyNotices());
+    Lighten(*mUi->txtLicences->document());
     connect(mUi->cmdOK, &QPushButton::clicked, this, &frmAbout::Unload);
     connect(mUi->cmdSysInfo, &QPushButton::clicked, this, &StartSysInfo);
     TellOfReaders();
