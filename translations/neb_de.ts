@@ -2826,13 +2826,214 @@ Geben Sie sich dort das Recht zu schreiben, oder wählen Sie mit der Einstellung
     </message>
     <message>
         <location filename="../src/program/help/frmHelp.cpp"/>
+        <source>Not on this page.</source>
+        <translation>Nicht auf dieser Seite.</translation>
+    </message>
+    <message>
+        <location filename="../src/program/help/frmHelp.cpp"/>
+        <source>Pages that have all words of the field above are listed here.</source>
+        <translation>Hier stehen die Seiten, die alle Wörter des Feldes darüber haben.</translation>
+    </message>
+    <message>
+        <location filename="../src/program/help/frmHelp.cpp"/>
+        <source>en</source>
+        <comment>the language of the help: the folder of its pages</comment>
+        <translation>de</translation>
+    </message>
+    <message>
+        <location filename="../src/program/help/frmHelp.ui"/>
+        <source>&amp;Back</source>
+        <translation>&amp;Zurück</translation>
+    </message>
+    <message>
+        <location filename="../src/program/help/frmHelp.ui"/>
+        <source>&amp;Search</source>
+        <translation>&amp;Suchen</translation>
+    </message>
+    <message>
+        <location filename="../src/program/help/frmHelp.ui"/>
+        <source>A word</source>
+        <translation>Ein Wort</translation>
+    </message>
+    <message>
+        <location filename="../src/program/help/frmHelp.ui"/>
+        <source>All pages of the help; Enter or a click opens one</source>
+        <translation>Alle Seiten der Hilfe; die Eingabetaste oder ein Klick öffnet eine</translation>
+    </message>
+    <message>
+        <location filename="../src/program/help/frmHelp.ui"/>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <location filename="../src/program/help/frmHelp.ui"/>
+        <source>C&amp;ontents</source>
+        <translation>Inha&amp;lt</translation>
+    </message>
+    <message>
+        <location filename="../src/program/help/frmHelp.ui"/>
+        <source>Contents</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <location filename="../src/program/help/frmHelp.ui"/>
+        <source>Find on This Page</source>
+        <translation>Auf dieser Seite suchen</translation>
+    </message>
+    <message>
+        <location filename="../src/program/help/frmHelp.ui"/>
+        <source>Find on this page</source>
+        <translation>Auf dieser Seite suchen</translation>
+    </message>
+    <message>
+        <location filename="../src/program/help/frmHelp.ui"/>
+        <source>For&amp;ward</source>
+        <translation>V&amp;or</translation>
+    </message>
+    <message>
+        <location filename="../src/program/help/frmHelp.ui"/>
+        <source>Forward</source>
+        <translation>Vor</translation>
+    </message>
+    <message>
+        <location filename="../src/program/help/frmHelp.ui"/>
+        <source>Go back to the page that was read before (Alt+Left)</source>
+        <translation>Zur zuvor gelesenen Seite zurück (Alt+Links)</translation>
+    </message>
+    <message>
+        <location filename="../src/program/help/frmHelp.ui"/>
+        <source>Go on to the page from which you went back (Alt+Right)</source>
+        <translation>Weiter zu der Seite, von der Sie zurückgegangen sind (Alt+Rechts)</translation>
+    </message>
+    <message>
+        <location filename="../src/program/help/frmHelp.ui"/>
+        <source>Go to the first page of the help</source>
+        <translation>Zur ersten Seite der Hilfe</translation>
+    </message>
+    <message>
+        <location filename="../src/program/help/frmHelp.ui"/>
         <source>Help</source>
         <translation>Hilfe</translation>
     </message>
     <message>
-        <location filename="../src/program/help/frmHelp.cpp"/>
+        <location filename="../src/program/help/frmHelp.ui"/>
+        <source>In&amp;dex</source>
+        <translation>Inde&amp;x</translation>
+    </message>
+    <message>
+        <location filename="../src/program/help/frmHelp.ui"/>
+        <source>Index</source>
+        <translation>Index</translation>
+    </message>
+    <message>
+        <location filename="../src/program/help/frmHelp.ui"/>
+        <source>Lar&amp;ger</source>
+        <translation>&amp;Größer</translation>
+    </message>
+    <message>
+        <location filename="../src/program/help/frmHelp.ui"/>
+        <source>Larger</source>
+        <translation>Größer</translation>
+    </message>
+    <message>
+        <location filename="../src/program/help/frmHelp.ui"/>
+        <source>Larger letters (Ctrl+Plus, Ctrl and the wheel; Ctrl+0: the usual size)</source>
+        <translation>Größere Schrift (Strg+Plus, Strg und das Rad; Strg+0: die übliche Größe)</translation>
+    </message>
+    <message>
+        <location filename="../src/program/help/frmHelp.ui"/>
+        <source>Look for words on the page that is read (Ctrl+F)</source>
+        <translation>Wörter auf der Seite suchen, die Sie lesen (Strg+F)</translation>
+    </message>
+    <message>
+        <location filename="../src/program/help/frmHelp.ui"/>
         <source>NEB Slide Show Help</source>
         <translation>Hilfe zu NEB Slide Show</translation>
+    </message>
+    <message>
+        <location filename="../src/program/help/frmHelp.ui"/>
+        <source>Ne&amp;xt</source>
+        <translation>Nächs&amp;tes</translation>
+    </message>
+    <message>
+        <location filename="../src/program/help/frmHelp.ui"/>
+        <source>Pages found</source>
+        <translation>Gefundene Seiten</translation>
+    </message>
+    <message>
+        <location filename="../src/program/help/frmHelp.ui"/>
+        <source>Pre&amp;vious</source>
+        <translation>&amp;Voriges</translation>
+    </message>
+    <message>
+        <location filename="../src/program/help/frmHelp.ui"/>
+        <source>S&amp;maller</source>
+        <translation>&amp;Kleiner</translation>
+    </message>
+    <message>
+        <location filename="../src/program/help/frmHelp.ui"/>
+        <source>Smaller</source>
+        <translation>Kleiner</translation>
+    </message>
+    <message>
+        <location filename="../src/program/help/frmHelp.ui"/>
+        <source>Smaller letters (Ctrl+Minus, Ctrl and the wheel)</source>
+        <translation>Kleinere Schrift (Strg+Minus, Strg und das Rad)</translation>
+    </message>
+    <message>
+        <location filename="../src/program/help/frmHelp.ui"/>
+        <source>Sta&amp;rt</source>
+        <translation>Anfa&amp;ng</translation>
+    </message>
+    <message>
+        <location filename="../src/program/help/frmHelp.ui"/>
+        <source>Start</source>
+        <translation>Anfang</translation>
+    </message>
+    <message>
+        <location filename="../src/program/help/frmHelp.ui"/>
+        <source>Subjects by their names; Enter or a click opens the page</source>
+        <translation>Themen nach ihren Namen; die Eingabetaste oder ein Klick öffnet die Seite</translation>
+    </message>
+    <message>
+        <location filename="../src/program/help/frmHelp.ui"/>
+        <source>The next place (F3)</source>
+        <translation>Die nächste Stelle (F3)</translation>
+    </message>
+    <message>
+        <location filename="../src/program/help/frmHelp.ui"/>
+        <source>The pages that have the words; Enter or a click opens one</source>
+        <translation>Die Seiten, die die Wörter haben; die Eingabetaste oder ein Klick öffnet eine</translation>
+    </message>
+    <message>
+        <location filename="../src/program/help/frmHelp.ui"/>
+        <source>The place before (Shift+F3)</source>
+        <translation>Die Stelle davor (Umschalt+F3)</translation>
+    </message>
+    <message>
+        <location filename="../src/program/help/frmHelp.ui"/>
+        <source>Type a word: the list shows what has it (Down: into the list)</source>
+        <translation>Geben Sie ein Wort ein: Die Liste zeigt, was es hat (Pfeil nach unten: in die Liste)</translation>
+    </message>
+    <message>
+        <location filename="../src/program/help/frmHelp.ui"/>
+        <source>Type words: the pages that have all of them are listed (Down: into the list)</source>
+        <translation>Geben Sie Wörter ein: Die Seiten, die alle haben, werden aufgelistet (Pfeil nach unten: in die Liste)</translation>
+    </message>
+    <message>
+        <location filename="../src/program/help/frmHelp.ui"/>
+        <source>Word in the index</source>
+        <translation>Wort im Index</translation>
+    </message>
+    <message>
+        <location filename="../src/program/help/frmHelp.ui"/>
+        <source>Words to look for</source>
+        <translation>Gesuchte Wörter</translation>
+    </message>
+    <message>
+        <location filename="../src/program/help/frmHelp.ui"/>
+        <source>Words to look for on this page (Enter: the next place, Esc: close)</source>
+        <translation>Gesuchte Wörter auf dieser Seite (Eingabetaste: die nächste Stelle, Esc: schließen)</translation>
     </message>
     <message>
         <location filename="../src/program/modMachineSettings.cpp"/>
@@ -5895,11 +6096,6 @@ Die Dia-Verwaltung (Strg+E) nimmt Bilder auf.</translation>
     </message>
     <message>
         <location filename="../src/windows/gallery/AlbumPage.ui"/>
-        <source>&amp;Back</source>
-        <translation>&amp;Zurück</translation>
-    </message>
-    <message>
-        <location filename="../src/windows/gallery/AlbumPage.ui"/>
         <source>Back to the albums</source>
         <translation>Zurück zu den Alben</translation>
     </message>
@@ -6849,11 +7045,6 @@ Wählen Sie mindestens eine, und drücken Sie „Suchen“.</translation>
         <location filename="../src/windows/import/frmFindGraphics.ui"/>
         <source>&amp;Only Files of the Following Types</source>
         <translation>Nur Dateien dieser Ar&amp;ten</translation>
-    </message>
-    <message>
-        <location filename="../src/windows/import/frmFindGraphics.ui"/>
-        <source>&amp;Search</source>
-        <translation>&amp;Suchen</translation>
     </message>
     <message>
         <location filename="../src/windows/import/frmFindGraphics.ui"/>
@@ -8972,11 +9163,6 @@ Es gelten die kleinsten Einstellungen.</translation>
     </message>
     <message>
         <location filename="../src/windows/slides/frmSlideDBM.ui"/>
-        <source>Ne&amp;xt</source>
-        <translation>Nächs&amp;tes</translation>
-    </message>
-    <message>
-        <location filename="../src/windows/slides/frmSlideDBM.ui"/>
         <source>Picture of the slide</source>
         <translation>Bild des Dias</translation>
     </message>
@@ -9004,11 +9190,6 @@ Es gelten die kleinsten Einstellungen.</translation>
         <location filename="../src/windows/slides/frmSlideDBM.ui"/>
         <source>Play the sound of this slide in place of the music of the show</source>
         <translation>Den Ton dieses Dias anstelle der Musik der Diashow spielen</translation>
-    </message>
-    <message>
-        <location filename="../src/windows/slides/frmSlideDBM.ui"/>
-        <source>Pre&amp;vious</source>
-        <translation>&amp;Voriges</translation>
     </message>
     <message>
         <location filename="../src/windows/slides/frmSlideDBM.ui"/>
