@@ -2,7 +2,7 @@
 
 #include <QCoreApplication>
 
-#include "support/modNumbers.h"
+#include "support/Grouped.h"
 
 namespace neb {
 namespace {
@@ -34,7 +34,7 @@ QString Named(const std::vector<int>& Pages) {
 }
 
 QString Inches(double Length) {
-    return Format(Length, "##0.00");
+    return Decimal(Length, 2);
 }
 
 }  // namespace
