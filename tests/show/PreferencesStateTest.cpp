@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QLocale>
+#include <QScopeGuard>
+
 #include "harness/TempFolder.h"
 #include "settings/clsSettings.h"
 #include "show/ShowSettings.h"
@@ -287,6 +290,23 @@ TEST(FilterTimeoutKey, LetsDigitsOnePointAndBackspacePass) {
     EXPECT_FALSE(Passes("1.2", '.'));
     EXPECT_TRUE(Passes("1.2", '3'));
     EXPECT_TRUE(Passes("1.2", 8));
+}
+
+TEST(SlideTimeout, IsTypedWithTheUsersOwnDecimalPointOrTheEnglishOne) {
+    const QLocale Before;
+    const auto Restored = qScopeGuard([&] { QLocale::setDefault(Before); });
+    QLocale::setDefault(QLocale(QLocale::German));
+    EXPECT_EQ(5.5, Seconds("5,5"));
+    EXPECT_EQ(5.5, Seconds("5.5"));
+    EXPECT_EQ(std::nullopt, Seconds("5,5,5"));
+    const auto Passes = [](const char* Text, std::int16_t Key) {
+        FilterTimeoutKey({QString::fromLatin1(Text), 0}, Key);
+        return Key != 0;
+    };
+    EXPECT_TRUE(Passes("5", ','));
+    EXPECT_TRUE(Passes("5", '.'));
+    EXPECT_FALSE(Passes("5,5", ','));
+    EXPECT_FALSE(Passes("5,5", '.'));
 }
 
 TEST(PreviewPictureAfter, TakesTheTwoPicturesInTurn) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "support/Grouped.h"
 #include "support/Texts.h"
 
 namespace neb {
@@ -27,10 +28,8 @@ QString Counted(size_t Count, const char* None, const char* One, const char* Man
 
 QString TimeText(double Seconds) {
     const qint64 Tenths = qRound64(Seconds * 10);
-    return QStringLiteral("%1:%2.%3")
-        .arg(Tenths / 600)
-        .arg(Tenths / 10 % 60, 2, 10, QLatin1Char('0'))
-        .arg(Tenths % 10);
+    const QString Rest = Decimal(static_cast<double>(Tenths % 600) / 10, 1);
+    return QStringLiteral("%1:%2").arg(Tenths / 600).arg(Rest, 4, u'0');
 }
 
 QString SoundWord(const CueSound& Sound) {
