@@ -1,5 +1,7 @@
 #include "program/DesktopServices.h"
 
+#include <QStandardPaths>
+
 #include "InitAssets.h"
 #include "controls/picture/XShow.h"
 #include "pictures/PictureOfFile.h"
@@ -12,7 +14,8 @@ constexpr std::chrono::milliseconds RecorderEnd{3000};  // a microphone that is 
 
 }  // namespace
 
-DesktopServices::DesktopServices() {
+DesktopServices::DesktopServices()
+    : mMotion(mSettings, QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)) {
     InitAssets();
     QApplication::setApplicationName(QStringLiteral("neb-slide-show"));
     QApplication::setApplicationDisplayName(QStringLiteral("NEB Slide Show"));
@@ -26,6 +29,7 @@ DesktopServices::DesktopServices() {
     TheServices().Printers = &mPrinters;
     TheServices().Mail = &mMail;
     TheServices().Media = &mMedia;
+    TheMotionWish() = &mMotion;
     XShow::SetReader(&PictureOfFile);
 }
 
@@ -40,6 +44,7 @@ DesktopServices::~DesktopServices() {
     TheServices().Printers = nullptr;
     TheServices().Mail = nullptr;
     TheServices().Media = nullptr;
+    TheMotionWish() = nullptr;
 }
 
 }  // namespace neb

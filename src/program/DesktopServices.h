@@ -7,6 +7,7 @@
 #include "program/ScreenBlanking.h"
 #include "program/desktop/DesktopMail.h"
 #include "program/desktop/DesktopMedia.h"
+#include "program/desktop/DesktopMotion.h"
 #include "program/desktop/DesktopPrinters.h"
 #include "sound/devices/SdlSoundDevices.h"
 
@@ -28,6 +29,8 @@ class DesktopServices {
     DesktopPrinters mPrinters;
     DesktopMail mMail;
     DesktopMedia mMedia;
+    DesktopSettings mSettings;
+    DesktopMotion mMotion;
 };
 
 }  // namespace neb

@@ -48,6 +48,7 @@ QMdiSubWindow* Workspace::AddChild(QWidget* Child) {
     QMdiSubWindow* Frame = addSubWindow(Child);
     Frame->setStyle(mTitleBars);
     Frame->setAttribute(Qt::WA_DeleteOnClose, false);
+    Frame->setFocusPolicy(Qt::ClickFocus);  // Tab goes on to what can be used
     connect(Frame, &QMdiSubWindow::windowStateChanged, this, &Workspace::StyleMenuBar);
     // the menu's Close has these keys, on every desktop the same
     for (QAction* Each : Frame->systemMenu()->actions()) Each->setShortcuts(QList<QKeySequence>());

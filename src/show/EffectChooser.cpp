@@ -6,6 +6,7 @@ namespace neb {
 namespace {
 
 constexpr EffectChoice PlainChange{0, 100, {}};
+constexpr std::int32_t CrossFade = 1;  // of the catalogue
 
 // The first selected place of From to To; 0 when there is none.
 std::int32_t SelectedPlace(const EffectTables& Tables, std::int32_t From, std::int32_t To) {
@@ -43,7 +44,7 @@ EffectTables::EffectTables() {
     EffectSelected.fill(true);
 }
 
-EffectChoice ChooseEffect(EffectTables& Tables, const EffectSettings& Settings) {
+EffectChoice ChooseEffect(EffectTables& Tables, const EffectSettings& Settings, bool Still) {
     if (Settings.UseEffectLevel && Settings.MaxEffectLevel == 0) return PlainChange;
     if (Settings.UseEffectLevel)
         WalkLevels(Tables, Settings.MaxEffectLevel);
@@ -52,7 +53,7 @@ EffectChoice ChooseEffect(EffectTables& Tables, const EffectSettings& Settings) 
     if (Tables.CurrentEffect == 0) return PlainChange;
     const auto Place = static_cast<size_t>(Tables.CurrentEffect);
     EffectChoice Choice = SpeedOfLevel(Tables.EffectLevels[Place], Settings);
-    Choice.EffectNumber = Tables.EffectIDs[Place];
+    Choice.EffectNumber = Still ? CrossFade : Tables.EffectIDs[Place];
     return Choice;
 }
 

@@ -39,7 +39,8 @@ struct EffectChoice {
     std::optional<std::int32_t> EffectNumber;             // empty: stays as it is
 };
 
-// Moves Tables.CurrentEffect to the next usable place, round the list in its order.
-EffectChoice ChooseEffect(EffectTables& Tables, const EffectSettings& Settings);
+// Moves Tables.CurrentEffect to the next usable place, round the list in its order. Still: nothing
+// shall move on the screen, so that a fade takes the place of whatever is there.
+EffectChoice ChooseEffect(EffectTables& Tables, const EffectSettings& Settings, bool Still = false);
 
 }  // namespace neb

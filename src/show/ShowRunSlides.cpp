@@ -116,7 +116,9 @@ bool ShowRun::DisplaySlideFile(const QString& File) {
 
 bool ShowRun::DisplayPicture(const QString& Path) {
     mEffectBefore = mEffects.CurrentEffect;
-    const EffectChoice Choice = IsNoSlide(Path) ? WholeAtOnce : ChooseEffect(mEffects, mSettings);
+    const bool Still = mWorld.IsStill && mWorld.IsStill();
+    const EffectChoice Choice =
+        IsNoSlide(Path) ? WholeAtOnce : ChooseEffect(mEffects, mSettings, Still);
     mPictureWanted = mStage.ShowPicture(Path, Choice);
     if (mPictureWanted) return true;
     mEffects.CurrentEffect = mEffectBefore;

@@ -2,6 +2,7 @@
 
 #include "settings/modNEBSlideShow.h"
 #include "show/EngineSound.h"
+#include "support/MotionWish.h"
 
 namespace neb {
 
@@ -9,7 +10,7 @@ ShowWorld DesktopShowWorld() {
     const auto Sound = [](const ShowTeller& Tell) {
         return std::make_unique<EngineSound>(DBEngine, TheServices().Sound, Tell);
     };
-    return {DBEngine, *TheServices().Time, Sound, TheShowMemory};
+    return {DBEngine, *TheServices().Time, Sound, TheShowMemory, &IsStillWanted};
 }
 
 }  // namespace neb

@@ -16,6 +16,8 @@ struct ShowWorld {
     Clock& Time;
     ShowSoundMaker Sound;
     ShowMemory& Place;
+    // Asked at each slide: whether nothing shall move on the screen. None: things move.
+    std::function<bool()> IsStill = {};
 };
 
 // The program's own database, clock, sound devices and memory, as they are now.

@@ -1,55 +1,22 @@
 // What the portal of a desktop says of its user's choices.
 #include "program/desktop/DesktopSettings.h"
 
-#include <gtest/gtest.h>
-
-#include <QDBusContext>
-#include <QDBusMessage>
-#include <QDBusVariant>
 #include <QElapsedTimer>
 #include <QTest>
-#include <QThread>
 
-#include "MessageBus.h"
+#include "SettingsOnABus.h"
 
 namespace neb::test {
 
 using namespace Qt::StringLiterals;
 
-// The portal, as far as it tells of settings.
-class FakeSettingsPortal : public QObject, protected QDBusContext {
-    Q_OBJECT
-    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
+const QString Looks = u"org.freedesktop.appearance"_s, Scheme = u"color-scheme"_s;
 
-  public:
-    std::atomic<int> DelayMs = 0;
-
-  public Q_SLOTS:
-    QDBusVariant Read(const QString& Group, const QString& Key) {
-        QThread::msleep(static_cast<unsigned long>(DelayMs.load()));
-        if (Group == u"org.freedesktop.appearance" && Key == u"color-scheme")
-            return QDBusVariant(QVariant::fromValue(QDBusVariant(1U)));
-        sendErrorReply(u"org.freedesktop.portal.Error.NotFound"_s, u"no such setting"_s);
-        return {};
-    }
-};
-
-// It answers from a thread of its own, while the program waits for it.
-class SettingsOnABus : public ::testing::Test {
+class DesktopSettingsOnABus : public SettingsOnABus {
   protected:
-    SettingsOnABus() {
-        Bus.Service().registerObject(u"/org/freedesktop/portal/desktop"_s, &Portal,
-                                     QDBusConnection::ExportAllSlots);
-        Portal.moveToThread(&Thread);
-        Thread.start();
-    }
-    ~SettingsOnABus() override {
-        Thread.quit();
-        Thread.wait();
-        QDBusConnection::disconnectFromBus(Client.name());
-    }
-    void OpenPortal() { Bus.Service().registerService(u"org.freedesktop.portal.Desktop"_s); }
-    std::string Told(DesktopSettings& By) {
+    DesktopSettingsOnABus() { Portal.Known[Looks + u'/' + Scheme] = 1U; }
+
+    static std::string Told(DesktopSettings& By) {
         QStringList Heard;
         QObject::connect(&By, &DesktopSettings::Changed, &By,
                          [&](const QString& Group, const QString& Key, const QVariant& Value) {
@@ -58,41 +25,30 @@ class SettingsOnABus : public ::testing::Test {
         [[maybe_unused]] const bool Came = QTest::qWaitFor([&] { return !Heard.isEmpty(); }, 5000);
         return Heard.join(u'|').toStdString();
     }
-
-    MessageBus Bus{u"test-settings"_s};
-    QDBusConnection Client =
-        QDBusConnection::connectToBus(Bus.Address(), u"test-settings-client"_s);
-    QThread Thread;
-    FakeSettingsPortal Portal;
 };
 
-const QString Looks = u"org.freedesktop.appearance"_s, Scheme = u"color-scheme"_s;
-
-TEST_F(SettingsOnABus, AreReadWhateverTheyAreWrappedIn) {
+TEST_F(DesktopSettingsOnABus, AreReadWhateverTheyAreWrappedIn) {
     OpenPortal();
     DesktopSettings Settings(Client);
     EXPECT_EQ(std::optional<QVariant>(1U), Settings.Read(Looks, Scheme));
 }
 
-TEST_F(SettingsOnABus, AreNoneWhereTheDesktopDoesNotKnowThem) {
+TEST_F(DesktopSettingsOnABus, AreNoneWhereTheDesktopDoesNotKnowThem) {
     OpenPortal();
     DesktopSettings Settings(Client);
     EXPECT_FALSE(Settings.Read(Looks, u"taste"_s));
     EXPECT_TRUE(Settings.Read(Looks, Scheme)) << "one that is not known spoils no other";
 }
 
-TEST_F(SettingsOnABus, TellWhenTheyChange) {
+TEST_F(DesktopSettingsOnABus, TellWhenTheyChange) {
     OpenPortal();
     DesktopSettings Settings(Client);
     Settings.Read(Looks, Scheme);
-    QDBusMessage Signal =
-        QDBusMessage::createSignal(u"/org/freedesktop/portal/desktop"_s,
-                                   u"org.freedesktop.portal.Settings"_s, u"SettingChanged"_s);
-    Bus.Service().send(Signal << Looks << Scheme << QVariant::fromValue(QDBusVariant(2U)));
+    Tell(Looks, Scheme, 2U);
     EXPECT_EQ("org.freedesktop.appearance/color-scheme=2", Told(Settings));
 }
 
-TEST_F(SettingsOnABus, OfASlowPortalComeAsAChange) {
+TEST_F(DesktopSettingsOnABus, OfASlowPortalComeAsAChange) {
     OpenPortal();
     Portal.DelayMs = 600;
     DesktopSettings Settings(Client);
@@ -104,7 +60,14 @@ TEST_F(SettingsOnABus, OfASlowPortalComeAsAChange) {
     EXPECT_EQ("org.freedesktop.appearance/color-scheme=1", Told(Settings));
 }
 
-TEST_F(SettingsOnABus, AreNoneWithoutAPortalAndCostNoTime) {
+TEST_F(DesktopSettingsOnABus, CanBeAskedForWithoutWaiting) {
+    OpenPortal();
+    DesktopSettings Settings(Client);
+    Settings.Ask(Looks, Scheme);
+    EXPECT_EQ("org.freedesktop.appearance/color-scheme=1", Told(Settings));
+}
+
+TEST_F(DesktopSettingsOnABus, AreNoneWithoutAPortalAndCostNoTime) {
     DesktopSettings Settings(Client);
     QElapsedTimer Clock;
     Clock.start();
@@ -118,5 +81,3 @@ TEST(SettingsWithoutABus, AreNone) {
 }
 
 }  // namespace neb::test
-
-#include "DesktopSettingsTest.moc"

@@ -57,6 +57,15 @@ TEST(EffectTables, StartWithEveryEffectLiteSelectedAndNoneInUse) {
     }
 }
 
+TEST(ChooseEffect, FadesWhereNothingShallMove) {
+    EffectTables Tables = Selected({7, 9});
+    const EffectChoice First = ChooseEffect(Tables, ByList(), true);
+    EXPECT_EQ(1, First.EffectNumber);
+    EXPECT_EQ(7, Tables.CurrentEffect) << "the walk goes on: the wish may end";
+    EXPECT_EQ(9, ChooseEffect(Tables, ByList(), false).EffectNumber);
+    ExpectPlainChange(ChooseEffect(Tables, ByLevel(0), true));
+}
+
 TEST(ChooseEffect, WalksTheSelectedListRoundInItsOrder) {
     EXPECT_EQ((std::vector<int>{3, 50, 127, 3, 50}), Walk(Selected({3, 50, 127}), ByList(), 5));
 }

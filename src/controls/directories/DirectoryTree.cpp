@@ -72,6 +72,7 @@ void DirectoryTree::SetUpTree() {
     mTree->setHeaderHidden(true);
     mTree->setUniformRowHeights(true);
     mTree->setAccessibleName(tr("Directories"));
+    mTree->setAccessibleDescription(tr("Right and Left open and close a directory"));
     connect(mTree->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex& Index) { TreeMoved(mModel->Path(Index)); });
     mTree->installEventFilter(this);

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <iterator>
 
+#include "support/MotionWish.h"
+
 namespace neb {
 namespace {
 
@@ -137,6 +139,7 @@ double GrowingStyle::Growth(const QFont& Font) {
 int GrowingStyle::styleHint(StyleHint Hint, const QStyleOption* Option, const QWidget* Widget,
                             QStyleHintReturn* Returned) const {
     if (Hint == SH_ItemView_ActivateItemOnSingleClick) return 0;
+    if (Hint == SH_Widget_Animation_Duration && IsStillWanted()) return 0;
     return QProxyStyle::styleHint(Hint, Option, Widget, Returned);
 }
 

@@ -39,10 +39,14 @@ QColor HintColour(const QColor& Text, const QColor& Ground) {
 }
 
 void MakeHintsReadable(QPalette& Palette) {
-    for (const auto Group : {QPalette::Active, QPalette::Inactive})
-        Palette.setColor(
-            Group, QPalette::PlaceholderText,
-            HintColour(Palette.color(Group, QPalette::Text), Palette.color(Group, QPalette::Base)));
+    for (const auto Group : {QPalette::Active, QPalette::Inactive}) {
+        const QColor Text = Palette.color(Group, QPalette::Text);
+        QColor Hint = HintColour(Text, Palette.color(Group, QPalette::Base));
+        for (const auto Ground : {QPalette::Window, QPalette::AlternateBase, QPalette::Button})
+            if (Contrast(Hint, Palette.color(Group, Ground)) < Enough)
+                Hint = HintColour(Text, Palette.color(Group, Ground));
+        Palette.setColor(Group, QPalette::PlaceholderText, Hint);
+    }
 }
 
 }  // namespace neb

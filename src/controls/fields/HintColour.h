@@ -14,7 +14,8 @@ double Contrast(const QColor& One, const QColor& Other);
 // it has no more.
 QColor HintColour(const QColor& Text, const QColor& Ground);
 
-// Gives the palette's hints that colour, in all groups but the disabled one.
+// Gives the palette's hints that colour, in all groups but the disabled one: on fields, lists and
+// buttons, and on the ground of windows.
 void MakeHintsReadable(QPalette& Palette);
 
 }  // namespace neb

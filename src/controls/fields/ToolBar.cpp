@@ -11,6 +11,7 @@ namespace neb {
 ToolBar::ToolBar(QWidget* Parent) : QToolBar(Parent) {
     setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     setMovable(false);
+    setAccessibleName(tr("Tools"));
     setContextMenuPolicy(Qt::PreventContextMenu);  // a bar that is switched off is hard to get back
 }
 

@@ -1,11 +1,14 @@
 #include "controls/forms/NebApplication.h"
 
 #include <QLabel>
+#include <QPointer>
 #include <QScopeGuard>
 
 #include "controls/fields/GrowingStyle.h"
 #include "controls/fields/HintColour.h"
 #include "controls/forms/ScreenPointer.h"
+#include "controls/speech/SpokenComboBox.h"
+#include "controls/speech/SpokenList.h"
 #include "support/ReasonOf.h"
 #include "support/Services.h"
 #include "support/Texts.h"
@@ -48,6 +51,7 @@ void TakeTextAsItIs(QObject* Receiver) {
 NebApplication::NebApplication(int& ArgumentCount, char** Arguments)
     : QApplication(ArgumentCount, Arguments) {
     setStyle(new GrowingStyle);
+    NameComboBoxes();
     MendHints();
 }
 
@@ -64,10 +68,22 @@ bool NebApplication::event(QEvent* Event) {
     return Handled;
 }
 
+// What gets the keys may go while it does.
+bool NebApplication::TakeKeys(QObject* Receiver, QEvent* Event) {
+    const QPointer<QObject> Held(Receiver);
+    const bool Handled = QApplication::notify(Receiver, Event);
+    if (Held) TellCurrentOf(Held);
+    return Handled;
+}
+
 bool NebApplication::notify(QObject* Receiver, QEvent* Event) {
     try {
-        if (Event->type() == QEvent::Polish) TakeTextAsItIs(Receiver);
-        return QApplication::notify(Receiver, Event);
+        if (Event->type() == QEvent::Polish) {
+            TakeTextAsItIs(Receiver);
+            DescribeList(Receiver);
+        }
+        return Event->type() == QEvent::FocusIn ? TakeKeys(Receiver, Event)
+                                                : QApplication::notify(Receiver, Event);
     } catch (const std::exception& Problem) {
         ReportOrGoOn(Problem);
     }

@@ -20,6 +20,7 @@ class NebApplication : public QApplication {
 
   private:
     void MendHints();
+    bool TakeKeys(QObject* Receiver, QEvent* Event);
 };
 
 }  // namespace neb

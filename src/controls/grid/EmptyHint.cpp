@@ -4,6 +4,8 @@
 #include <QEvent>
 #include <QLabel>
 
+#include "controls/speech/SpokenList.h"
+
 namespace neb {
 namespace {
 
@@ -12,7 +14,7 @@ constexpr int Letters = 24;  // in a line, at the least
 class Hint : public QLabel {
   public:
     Hint(QAbstractItemView& View, const QString& Text)
-        : QLabel(Text, View.viewport()), mView(View) {
+        : QLabel(Text, View.viewport()), mView(View), mAbout(AboutList(View)) {
         setTextFormat(Qt::PlainText);
         setWordWrap(true);
         setAlignment(Qt::AlignCenter);
@@ -36,7 +38,7 @@ class Hint : public QLabel {
   private:
     void Follow() {
         const bool IsEmpty = mView.model()->rowCount() == 0;
-        mView.setAccessibleDescription(IsEmpty ? text() : QString());
+        mView.setAccessibleDescription(IsEmpty ? text() : mAbout);
         setVisible(IsEmpty);
         Place();
     }
@@ -46,6 +48,7 @@ class Hint : public QLabel {
     }
 
     QAbstractItemView& mView;
+    const QString mAbout;
 };
 
 }  // namespace

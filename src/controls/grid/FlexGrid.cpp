@@ -57,7 +57,7 @@ FlexGrid::FlexGrid(QWidget* Parent)
     FitAll();
     new GridColumns(*this);
     const auto TellRows = [this] {
-        const bool Tells = !accessibleDescription().isEmpty();
+        const bool Tells = accessibleDescription() == mEmptyText;
         if (!mEmptyText.isEmpty() && Tells != (Rows() == 0)) SetEmptyText(mEmptyText);
     };
     connect(mModel, &QAbstractItemModel::rowsInserted, this, TellRows);

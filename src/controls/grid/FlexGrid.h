@@ -98,13 +98,13 @@ class FlexGrid : public QTableView {
     void DeletePressed();
     void SelChange();
     void EnterCell(int Row, int Col);
-    // The selected rows of From are to stand before row Before of this grid; Rows(): at the end.
-    // The drag is over by then.
+    // After a drag: the selected rows of From are to stand before row Before; Rows(): at the end.
     void RowsDropped(FlexGrid* From, int Before);
 
   protected:
     bool edit(const QModelIndex& Index, EditTrigger Trigger, QEvent* Event) override;
     void closeEditor(QWidget* Editor, QAbstractItemDelegate::EndEditHint Hint) override;
+    void currentChanged(const QModelIndex& Now, const QModelIndex& Before) override;
     QModelIndex moveCursor(CursorAction Action, Qt::KeyboardModifiers Modifiers) override;
     void keyPressEvent(QKeyEvent* Event) override;
     void mousePressEvent(QMouseEvent* Event) override;
@@ -144,7 +144,7 @@ class FlexGrid : public QTableView {
     QPersistentModelIndex mEditing, mPressed;
     bool mEdited = false;
     int mMouseRow = -1, mMouseCol = -1;
-    QString mEmptyText;
+    QString mEmptyText, mAbout;  // while there are no rows; to screen readers, while there are
 };
 
 }  // namespace neb

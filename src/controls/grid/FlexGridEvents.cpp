@@ -8,6 +8,7 @@
 #include "controls/grid/FlexGrid.h"
 #include "controls/grid/FlexGridDelegate.h"
 #include "controls/grid/FlexGridDrag.h"
+#include "controls/speech/SpokenList.h"
 
 namespace neb {
 namespace {
@@ -20,22 +21,17 @@ void ToggleCheck(FlexGrid& Grid, int Row, int Col) {
     Q_EMIT Grid.AfterEdit(Row, Col);
 }
 
-// What an empty list says is read by screen readers, too.
-void TellEmptiness(FlexGrid& Grid, const QString& Text) {
-    const QString Now = Grid.Rows() == 0 ? Text : QString();
-    if (Grid.accessibleDescription() != Now) Grid.setAccessibleDescription(Now);
-}
-
 }  // namespace
 
 void FlexGrid::SetEditOnDblClick(bool On) {
     setEditTriggers(editTriggers().setFlag(DoubleClicked, On));
 }
 
-// All of it has room, in a narrow list, too.
+// All of it has room, in a narrow list, too; and it is read by screen readers.
 void FlexGrid::SetEmptyText(const QString& Text) {
+    if (mEmptyText.isEmpty()) mAbout = AboutList(*this);
     mEmptyText = Text;
-    TellEmptiness(*this, Text);
+    setAccessibleDescription(Rows() == 0 ? Text : mAbout);
     const QFontMetrics Letters = fontMetrics();
     const QRect Narrow(0, 0, EmptyLetters * Letters.averageCharWidth(), 1);
     const QHeaderView& Headings = *horizontalHeader();
@@ -44,6 +40,11 @@ void FlexGrid::SetEmptyText(const QString& Text) {
                      2 * Letters.height() + Edges;
     setMinimumHeight(std::max(minimumHeight(), High));
     viewport()->update();
+}
+
+void FlexGrid::currentChanged(const QModelIndex& Now, const QModelIndex& Before) {
+    QAbstractItemView::currentChanged(Now, Before);
+    TellCurrent(*this);
 }
 
 bool FlexGrid::MayEdit(const QModelIndex& Index) const {

@@ -4,12 +4,14 @@
 #include <QMouseEvent>
 #include <QScreen>
 
+#include "controls/speech/SpokenRole.h"
 #include "pictures/PictureResize.h"
 #include "pictures/XShowFit.h"
 
 namespace neb {
 
 PictureView::PictureView(QWidget* Parent) : QWidget(Parent) {
+    SpeakAs(*this, QAccessible::Graphic);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 

@@ -8,6 +8,7 @@
 #include <cmath>
 #include <limits>
 
+#include "controls/speech/SpokenRole.h"
 #include "effects/EffectCatalogue.h"
 #include "effects/EffectSteps.h"
 #include "effects/XShowBands.h"
@@ -44,6 +45,7 @@ void Fit(LoadedPicture& P, const XShowLayout& Layout) {
 }  // namespace
 
 XShow::XShow(QWidget* Parent) : QWidget(Parent), mRefresh(*this) {
+    SpeakAs(*this, QAccessible::Graphic);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setAccessibleName(tr("Slide picture"));
     mLayout.InProportion = false;

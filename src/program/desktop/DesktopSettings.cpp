@@ -43,15 +43,16 @@ DesktopSettings::DesktopSettings(const QDBusConnection& Bus) : mBus(Bus) {
 
 std::optional<QVariant> DesktopSettings::Read(const QString& Group, const QString& Key) {
     if (!mBus.isConnected()) return {};
-    if (mIsSlow) return ReadLater(Group, Key), std::nullopt;
+    if (mIsSlow) return Ask(Group, Key), std::nullopt;
     const QDBusMessage Answer = mBus.call(ReadCall(Group, Key), QDBus::Block, PatienceNow);
     if (Answer.type() == QDBusMessage::ReplyMessage) return Unwrapped(Answer.arguments().value(0));
     mIsSlow = QDBusError(Answer).type() == QDBusError::NoReply;
-    if (mIsSlow) ReadLater(Group, Key);
+    if (mIsSlow) Ask(Group, Key);
     return {};
 }
 
-void DesktopSettings::ReadLater(const QString& Group, const QString& Key) {
+void DesktopSettings::Ask(const QString& Group, const QString& Key) {
+    if (!mBus.isConnected()) return;
     auto* Answer =
         new QDBusPendingCallWatcher(mBus.asyncCall(ReadCall(Group, Key), PatienceLater), this);
     connect(Answer, &QDBusPendingCallWatcher::finished, this, [this, Answer, Group, Key] {

@@ -21,6 +21,8 @@ class DesktopSettings : public QObject {
     // Nothing where there is no portal, or none that knows the key. Waits at most a quarter of a
     // second; the answer of a portal that needs longer comes as Changed.
     std::optional<QVariant> Read(const QString& Group, const QString& Key);
+    // The same without waiting: the answer, where there is one, comes as Changed.
+    void Ask(const QString& Group, const QString& Key);
 
   Q_SIGNALS:
     void Changed(const QString& Group, const QString& Key, const QVariant& Value);
@@ -29,8 +31,6 @@ class DesktopSettings : public QObject {
     void SettingChanged(const QString& Group, const QString& Key, const QDBusVariant& Value);
 
   private:
-    void ReadLater(const QString& Group, const QString& Key);
-
     QDBusConnection mBus;
     bool mIsSlow = false;  // waited for once, and not again
 };

@@ -1,4 +1,5 @@
 #include "windows/gallery/SlideTiles.h"
+#include "controls/speech/SpokenList.h"
 
 #include <QContextMenuEvent>
 #include <QPainter>
@@ -82,6 +83,11 @@ void SlideTiles::changeEvent(QEvent* Event) {
 void SlideTiles::SetEmptyText(const QString& Text) {
     mEmptyText = Text;
     viewport()->update();
+}
+
+void SlideTiles::currentChanged(const QModelIndex& Now, const QModelIndex& Before) {
+    QAbstractItemView::currentChanged(Now, Before);
+    TellCurrent(*this);
 }
 
 void SlideTiles::paintEvent(QPaintEvent* Event) {

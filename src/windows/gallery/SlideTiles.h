@@ -43,6 +43,7 @@ class SlideTiles : public QListView {
     void EditRefused();  // the database may not be changed
 
   protected:
+    void currentChanged(const QModelIndex& Now, const QModelIndex& Before) override;
     void paintEvent(QPaintEvent* Event) override;
     void resizeEvent(QResizeEvent* Event) override;
     void changeEvent(QEvent* Event) override;

@@ -114,7 +114,8 @@ void frmSlideScreen::SetUpLooks() {
     setPalette(Dark);
     setAutoFillBackground(true);
     mView->setObjectName(QStringLiteral("imgSlide"));
-    mView->setAccessibleName(tr("Picture"));
+    mView->setFocusPolicy(Qt::StrongFocus);
+    setFocusProxy(mView);
     mCaption->setObjectName(QStringLiteral("lblCaption"));
     mPlace->setObjectName(QStringLiteral("lblPlace"));
     mPlace->setTextFormat(Qt::PlainText);
@@ -166,7 +167,7 @@ void frmSlideScreen::Follow() {
         mWalk.At = mSlides->index(std::clamp(mWalk.Row, 0, mSlides->Count() - 1));
     mWalk.Row = mWalk.At.row();
     mPlace->setText(PlaceWords(mWalk.Row + 1));
-    setAccessibleName(mSlides->Words(mWalk.Row));
+    mView->setAccessibleName(mSlides->Words(mWalk.Row));
     setWindowTitle(mSlides->Words(mWalk.Row));
     WantPictures();
     if (mPictures->Of(OrderOf(mWalk.Row))) return ShowPicture();

@@ -1,10 +1,10 @@
 #include "windows/handling/ShowPanel.h"
 
-#include <QAccessible>
 #include <QEvent>
 #include <QLayout>
 #include <QPainter>
 
+#include "controls/speech/SpokenRole.h"
 #include "show/captions/CaptionFit.h"
 
 namespace neb {
@@ -30,6 +30,7 @@ QPalette DarkPalette() {
 }  // namespace
 
 ShowPanel::ShowPanel(QWidget& Window) : QWidget(&Window) {
+    SpeakAs(*this, QAccessible::Dialog);
     setPalette(DarkPalette());
     setVisible(false);
     Window.installEventFilter(this);
@@ -39,8 +40,7 @@ void ShowPanel::Open() {
     Place();
     show();
     raise();
-    QAccessibleEvent Told(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&Told);
+    setFocus();  // so it is read; its keys go on to the show
 }
 
 void ShowPanel::Place() {

@@ -8,6 +8,7 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
+#include "controls/fields/HintColour.h"
 #include "controls/fields/Icons.h"
 #include "controls/fields/MenuIcon.h"
 #include "db/clsDBEngine.h"
@@ -66,8 +67,10 @@ void HomeList::SetUpField() {
     mField->setAccessibleName(tr("Search albums, slide shows and captions"));
     mField->setToolTip(tr("Type a part of a name or of a caption (Ctrl+F)"));
     mField->setClearButtonEnabled(true);
-    mField->addAction(ThemeIcon(QStringLiteral("find-graphics"), palette()),
-                      QLineEdit::LeadingPosition);
+    mField
+        ->addAction(ThemeIcon(QStringLiteral("find-graphics"), palette()),
+                    QLineEdit::LeadingPosition)
+        ->setText(tr("Search"));
     mField->installEventFilter(this);
     connect(mField, &QLineEdit::textChanged, this, &HomeList::Search);
 }
@@ -81,6 +84,7 @@ void HomeList::DressField() {
     Colours.setColor(QPalette::Base, QColor::fromRgbF(Mix(Base.redF(), Text.redF()),
                                                       Mix(Base.greenF(), Text.greenF()),
                                                       Mix(Base.blueF(), Text.blueF())));
+    Colours.setColor(QPalette::PlaceholderText, HintColour(Text, Colours.color(QPalette::Base)));
     mField->setPalette(Colours);
     const QString Words = tr("Search names and captions");
     const int Room = mField->width() - 4 * mField->height();  // beside the icons
@@ -91,6 +95,8 @@ void HomeList::DressField() {
 void HomeList::SetUpView() {
     mView->setObjectName(QStringLiteral("lstHome"));
     mView->setAccessibleName(tr("Albums and slide shows"));
+    mView->setAccessibleDescription(
+        tr("Enter plays a show or opens an album, the menu key offers what else can be done"));
     mView->installEventFilter(this);
     connect(mView->selectionModel(), &QItemSelectionModel::currentChanged, this, [this] {
         if (const HomeCard* Card = mView->Current()) NoteAlbumInHand(Card->Of.AlbumID);

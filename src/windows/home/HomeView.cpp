@@ -1,4 +1,5 @@
 #include "windows/home/HomeView.h"
+#include "controls/speech/SpokenList.h"
 
 #include <QContextMenuEvent>
 #include <QPainter>
@@ -91,6 +92,11 @@ void HomeView::Renew(const LibraryHit& Of) {
     const auto Seen = InView();
     if (std::ranges::any_of(Seen, [&](const HomeCard& Each) { return Each.Of == Of; }))
         viewport()->update();
+}
+
+void HomeView::currentChanged(const QModelIndex& Now, const QModelIndex& Before) {
+    QAbstractItemView::currentChanged(Now, Before);
+    TellCurrent(*this);
 }
 
 // The window may have gone to a finer screen.

@@ -33,6 +33,7 @@ class HomeView : public QListView {
 
   protected:
     void resizeEvent(QResizeEvent* Event) override;
+    void currentChanged(const QModelIndex& Now, const QModelIndex& Before) override;
     void paintEvent(QPaintEvent* Event) override;
     void changeEvent(QEvent* Event) override;
     void contextMenuEvent(QContextMenuEvent* Event) override;

@@ -6,6 +6,8 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
+#include "controls/speech/SpokenRole.h"
+
 namespace neb {
 namespace {
 
@@ -55,6 +57,7 @@ QString Counted(int Number, const QString& One, const QString& Many) {
 }
 
 PageSketch::PageSketch(QWidget* Parent) : QWidget(Parent), mSentence(new QLabel(this)) {
+    SpeakAs(*this, QAccessible::Graphic);
     mSentence->setObjectName(QStringLiteral("lblPages"));
     mSentence->setWordWrap(true);
     mSentence->setAlignment(Qt::AlignHCenter | Qt::AlignTop);

@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "controls/speech/SpokenRole.h"
+
 namespace neb {
 namespace {
 
@@ -23,6 +25,7 @@ QString NameOf(PageView View) {
 }  // namespace
 
 PrintView::PrintView(QWidget* Parent) : QAbstractScrollArea(Parent) {
+    SpeakAs(*this, QAccessible::Document);
     setFocusPolicy(Qt::StrongFocus);
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
     horizontalScrollBar()->setSingleStep(ScrollStep);

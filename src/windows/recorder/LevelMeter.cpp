@@ -1,5 +1,6 @@
 #include "windows/recorder/LevelMeter.h"
 
+#include <QAccessibleWidget>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
@@ -19,9 +20,43 @@ double ShareOf(double Level) {
     return std::clamp(1 - 20 * std::log10(Level) / QuietestDecibels, 0.0, 1.0);
 }
 
+// It moves all the time: whoever cannot see it asks for it.
+class SpokenLevel : public QAccessibleWidget, public QAccessibleValueInterface {
+  public:
+    explicit SpokenLevel(LevelMeter* Meter)
+        : QAccessibleWidget(Meter, QAccessible::ProgressBar), mMeter(*Meter) {}
+
+    QString text(QAccessible::Text Of) const override {
+        return Of == QAccessible::Value ? LevelMeter::tr("%1 percent").arg(Percent())
+                                        : QAccessibleWidget::text(Of);
+    }
+    void* interface_cast(QAccessible::InterfaceType Type) override {
+        if (Type == QAccessible::ValueInterface)
+            return static_cast<QAccessibleValueInterface*>(this);
+        return QAccessibleWidget::interface_cast(Type);
+    }
+    QVariant currentValue() const override { return Percent(); }
+    void setCurrentValue(const QVariant&) override {}
+    QVariant maximumValue() const override { return 100; }
+    QVariant minimumValue() const override { return 0; }
+    QVariant minimumStepSize() const override { return 1; }
+
+  private:
+    int Percent() const { return static_cast<int>(std::lround(mMeter.Shown() * 100)); }
+
+    LevelMeter& mMeter;
+};
+
+QAccessibleInterface* Spoken(const QString&, QObject* Object) {
+    auto* Meter = qobject_cast<LevelMeter*>(Object);
+    return Meter ? new SpokenLevel(Meter) : nullptr;
+}
+
 }  // namespace
 
 LevelMeter::LevelMeter(QWidget* Parent) : QWidget(Parent) {
+    static const bool IsTold = (QAccessible::installFactory(&Spoken), true);
+    Q_UNUSED(IsTold)
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 

@@ -8,6 +8,7 @@
 #include <QToolTip>
 #include <algorithm>
 
+#include "controls/speech/SpokenRole.h"
 #include "show/rehearsal/CueTexts.h"
 #include "support/modCharacters.h"
 #include "windows/rehearsal/SlidePictures.h"
@@ -36,6 +37,7 @@ bool IsHeardOrWanted(const RehearsalRow& Its) {
 
 TimeLine::TimeLine(QWidget* Parent)
     : QAbstractScrollArea(Parent), mPictures(new SlidePictures(this)) {
+    SpeakAs(*this, QAccessible::Chart);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setFocusPolicy(Qt::StrongFocus);
@@ -53,6 +55,7 @@ void TimeLine::ShowSheet(std::shared_ptr<const RehearsalSheet> Sheet) {
     mSheet = std::move(Sheet);
     mPictures->Forget();
     mCurrent = Rows() > 0 ? 0 : -1;
+    setAccessibleDescription(mCurrent < 0 ? QString() : TipOf(mCurrent));
     horizontalScrollBar()->setValue(0);
     FitBars();
     viewport()->update();

@@ -24,6 +24,7 @@ void ShowDesk::FollowSlide() {
         [this] {
             mFollowsSoon = false;
             mRemote.Follow();
+            Q_EMIT SlideIsUp();
         },
         Qt::QueuedConnection);
 }

@@ -20,6 +20,10 @@ class ShowDesk : public QObject {
     // Preferences have been changed, or the screens: the show goes where it belongs now.
     void FollowScreen();
 
+  Q_SIGNALS:
+    // All that there is to tell of a step is on the screen.
+    void SlideIsUp();
+
   private:
     frmSlideShowProjector& mShow;
     BlankingHold mScreenStaysOn;

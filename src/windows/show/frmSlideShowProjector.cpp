@@ -65,6 +65,7 @@ void frmSlideShowProjector::PrepareControls() {
     Dark.setColor(QPalette::WindowText, Qt::white);
     setPalette(Dark);
     setAutoFillBackground(true);
+    setFocusProxy(mUi->Show1);
     mUi->Show1->setAttribute(Qt::WA_NoMousePropagation);
     mUi->lblCaption->setAttribute(Qt::WA_NoMousePropagation);
     connect(mUi->Show1, &XShow::EffectEnded, mUi->Show1, &XShow::StopEffect);
@@ -94,6 +95,7 @@ void frmSlideShowProjector::LoadSlideShow(std::int32_t SlideShowID) {
 void frmSlideShowProjector::Form_Load() {
     mRun.Load();
     mDesk.emplace(*this, mRun);
+    connect(&*mDesk, &ShowDesk::SlideIsUp, this, &frmSlideShowProjector::SaySlide);
     DoEvents();
     ResizeControls();
     DoEvents();
@@ -256,6 +258,15 @@ void frmSlideShowProjector::SetTimer1(bool On) {
     On&& IsLoaded() ? Timer1->start() : Timer1->stop();
     mHands->FollowShow();
     if (mDesk) mDesk->FollowState(On);
+}
+
+// To those who hear the show: the picture has the keys, and what has them is read when it changes.
+void frmSlideShowProjector::SaySlide() {
+    const QString Place =
+        tr("Slide %1 of %2").arg(mRun.Memory().CurrentSlideSeq).arg(mRun.SlideCount());
+    const QString Caption = mUi->lblCaption->ShownText();
+    const QString Words = Caption.isEmpty() ? Place : tr("%1: %2").arg(Place, Caption);
+    if (mUi->Show1->accessibleName() != Words) mUi->Show1->setAccessibleName(Words);
 }
 
 void frmSlideShowProjector::SetTimer2(bool On) {

@@ -88,6 +88,7 @@ class frmSlideShowProjector : public Form, private ShowStage {
     void ConnectHands();
     void Leave();
     void SwitchCaptions();
+    void SaySlide();
     void SurfaceMouseDown(int Button);
     void RunCommand(const QString& Word);
     void SaveNextSlideSeq();

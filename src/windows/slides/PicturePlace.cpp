@@ -6,6 +6,7 @@
 
 #include "controls/grid/FlexGrid.h"
 #include "controls/picture/PictureView.h"
+#include "controls/speech/SpokenRole.h"
 #include "support/Texts.h"
 
 namespace neb {
@@ -22,6 +23,8 @@ PicturePlace::PicturePlace(QStackedWidget& Stack, PictureView& View, FlexGrid& M
 
 // One cell that fills the place.
 void PicturePlace::SetUpMessage() {
+    SpeakAs(mMessage, QAccessible::Graphic);
+    mMessage.setAccessibleDescription(tr("Enter or a double click chooses a picture"));
     mMessage.SetCols(1);
     mMessage.SetColumn(0, {.Stretch = true, .Align = Qt::AlignCenter});
     mMessage.AddItem();

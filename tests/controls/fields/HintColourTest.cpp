@@ -45,6 +45,9 @@ TEST(HintColour, IsThatOfTheApplicationInLightAndInDark) {
             const QColor Hint = QApplication::palette().color(Group, QPalette::PlaceholderText);
             EXPECT_EQ(255, Hint.alpha());
             EXPECT_GE(Contrast(Hint, Ground), Enough) << Ground.name().toStdString();
+            for (const auto Other : {QPalette::Window, QPalette::AlternateBase, QPalette::Button})
+                EXPECT_GE(Contrast(Hint, QApplication::palette().color(Group, Other)), Enough)
+                    << Other;
         }
     }
     QApplication::setPalette(Before);

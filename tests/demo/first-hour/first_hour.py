@@ -84,7 +84,7 @@ def caption_in_place():
 
 def on_the_whole_screen():
     program.key("Return")
-    program.find("Picture", None)
+    program.find("Slide...", pyatspi.ROLE_IMAGE)
     program.key("Right")
 
 

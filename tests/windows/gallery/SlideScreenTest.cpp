@@ -44,7 +44,7 @@ TEST_F(SlideScreen, FillsTheScreenWithThePictureOnBlackItsCaptionAndItsPlace) {
         EXPECT_EQ(Screen.screen()->geometry(), Screen.geometry());
         EXPECT_EQ("b", Caption(Screen));
         EXPECT_EQ("2 of 4", Place(Screen));
-        EXPECT_EQ("Slide 2 of 4, b", Screen.accessibleName().toStdString());
+        EXPECT_EQ("Slide 2 of 4, b", Screen.focusWidget()->accessibleName().toStdString());
         const QImage Shot = Screen.grab().toImage();
         EXPECT_EQ(QColor(Qt::black), Shot.pixelColor(2, 2));
         const QRect Picture = View(Screen).PictureRect();

@@ -1,4 +1,6 @@
 // The volume of the sound recorder: the level to record at.
+#include <QAccessible>
+
 #include "RecorderWindowRig.h"
 
 namespace neb::test {
@@ -32,6 +34,18 @@ TEST_F(SoundRecorderLevel, TheMeterShowsTheLevelThatIsRecorded) {
         mSound.Buffer->Feed(QByteArray(22050, '\x90'));
         EXPECT_TRUE(QTest::qWaitFor([&] { return Meter.Shown() > AsItComes + 0.2; }));
     });
+}
+
+TEST(LevelMeter, TellsItsLevelToThoseWhoAskForIt) {
+    LevelMeter Meter;
+    Meter.SetLevel(1);
+    auto& Told = *QAccessible::queryAccessibleInterface(&Meter);
+    EXPECT_EQ(QAccessible::ProgressBar, Told.role());
+    EXPECT_EQ("100 percent", Told.text(QAccessible::Value).toStdString());
+    ASSERT_TRUE(Told.valueInterface());
+    EXPECT_EQ(100, Told.valueInterface()->currentValue().toInt());
+    Meter.Clear();
+    EXPECT_EQ(0, Told.valueInterface()->currentValue().toInt());
 }
 
 TEST_F(SoundRecorderLevel, AVolumeThatIsNoneIsTold) {

@@ -1,9 +1,11 @@
 // What is shown for a slide: caption, picture, effect; failures and missing files.
 #include "ProjectorRig.h"
 
+#include <QAccessible>
 #include <QTest>
 
 #include "settings/modNEBSlideShow.h"
+#include "support/MotionWish.h"
 #include "support/files/modHostFiles.h"
 
 namespace neb::test {
@@ -95,6 +97,42 @@ TEST_F(ProjectorSlide, HandsTheSlidesOwnClipToTheSound) {
         EXPECT_EQ("Step 1 00000001.wav override repeat at the start", Sound.Taken());
         Window.NextSlide();
         EXPECT_EQ("Step 2 by the user", Sound.Taken()) << "without a clip the flags are false";
+    });
+}
+
+TEST_F(ProjectorSlide, IsToldWithItsPlaceAndCaptionByThePictureThatHasTheKeys) {
+    AddSlides(2);
+    Slide(2).SlideText.clear();
+    Run([&](Projector& Window) {
+        Spin(20);
+        EXPECT_EQ("Slide 1 of 2: Slide 1", Picture->accessibleName().toStdString());
+        EXPECT_EQ(Picture, Window.focusWidget());
+        Window.NextSlide();
+        Spin(20);
+        EXPECT_EQ("Slide 2 of 2", Picture->accessibleName().toStdString());
+        const auto* Told = QAccessible::queryAccessibleInterface(Picture);
+        EXPECT_EQ(QAccessible::Graphic, Told->role());
+    });
+}
+
+struct StillDesktop : MotionWish {
+    StillDesktop() { TheMotionWish() = this; }
+    ~StillDesktop() override { TheMotionWish() = nullptr; }
+    bool IsStill() const override { return Is; }
+    bool Is = true;
+};
+
+TEST_F(ProjectorSlide, FadesForAsLongAsTheDesktopStandsStill) {
+    AddSlides(4);
+    StillDesktop Desktop;
+    Run([&](Projector& Window) {
+        for (int I = 0; I < 2; ++I) {
+            Window.NextSlide();
+            EXPECT_EQ(1, Picture->EffectNumber());
+        }
+        Desktop.Is = false;
+        Window.NextSlide();
+        EXPECT_EQ(4, Picture->EffectNumber());
     });
 }
 
