@@ -1,8 +1,8 @@
 #include "show/ShowWorld.h"
 
+#include "effects/MotionWish.h"
 #include "settings/modNEBSlideShow.h"
 #include "show/EngineSound.h"
-#include "support/MotionWish.h"
 
 namespace neb {
 

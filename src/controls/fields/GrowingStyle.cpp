@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "support/MotionWish.h"
+#include "effects/MotionWish.h"
 
 namespace neb {
 namespace {

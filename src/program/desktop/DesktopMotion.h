@@ -4,8 +4,8 @@
 
 #include <QMap>
 
+#include "effects/MotionWish.h"
 #include "program/desktop/DesktopSettings.h"
-#include "support/MotionWish.h"
 
 namespace neb {
 

@@ -4,8 +4,8 @@
 #include <QAccessible>
 #include <QTest>
 
+#include "effects/MotionWish.h"
 #include "settings/modNEBSlideShow.h"
-#include "support/MotionWish.h"
 #include "support/files/modHostFiles.h"
 
 namespace neb::test {
