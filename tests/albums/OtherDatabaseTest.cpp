@@ -63,6 +63,17 @@ TEST_F(OpenedDatabase, HoldsWhatIsThere) {
     }
 }
 
+TEST_F(OpenedDatabase, IsNotMadeAmongTheFilesOfAnother) {
+    for (const char* Among : {"Albums/7/", "Temp/new/", "temp/"}) {
+        SCOPED_TRACE(Among);
+        harness::ExpectRefused(
+            OtherDatabase::Open(Folder / QLatin1String(Among), Use::Destination),
+            u"The directory lies among the files of the database in\n%1\nChoose one elsewhere."_s
+                .arg(Folder.Path()),
+            u"Invalid Directory"_s, BoxIcon::Information);
+    }
+}
+
 TEST_F(OpenedDatabase, IsLockedForAsLongAsItIsOpen) {
     {
         auto Other = OtherDatabase::Open(Folder.Path(), Use::Source);

@@ -137,6 +137,14 @@ TEST_F(TransferFiles, NoNewPictureTakesTheNumberOfAStrayFile) {
     Export(Joined);
 }
 
+TEST_F(TransferFiles, NorThoseOfSeveralInARow) {
+    for (std::int32_t I = 0; I < 3; ++I)
+        Other.PutFile(TownID, u"Slides/"_s + FileStem(Other.Engine.NextSlideID + I) + u".jpg"_s);
+    StatedTransfer Joined = OverTown();
+    Joined.Replace = false;
+    Export(Joined);
+}
+
 TEST_F(TransferFiles, AFolderWithPicturesOfALostAlbumIsNotUsed) {
     Other.PutFile(TownID, u"Slides/x"_s);
     MakeDirs(SlidesFolder(Other.Dir(), 3));

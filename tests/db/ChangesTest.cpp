@@ -157,6 +157,14 @@ TEST_F(ChangesTest, ASlideIsMadeAndChangedWithAllItsFields) {
     EXPECT_EQ(Told, (std::vector<Change>{{Kind::SlideSaved, AlbumID, SlideID}}));
 }
 
+TEST_F(ChangesTest, ANewSlideGetsANumberThatNoPictureHas) {
+    const std::int32_t AlbumID = MakeAlbum(), Taken = Engine.NextSlideID;
+    const QString Folder = SlidesFolder(Dir.Path(), AlbumID);
+    MakeDirs(Folder);
+    WriteFile(Folder + FileStem(Taken) + u".jpg"_s, "left by a crash");
+    EXPECT_EQ(Taken + 1, MakeSlide(AlbumID, u"Rose"_s));
+}
+
 TEST_F(ChangesTest, ManyCaptionsAreNotedOneByOneAndToldAsOne) {
     const std::int32_t AlbumID = MakeAlbum();
     const std::int32_t One = MakeSlide(AlbumID, u"a"_s), Other = MakeSlide(AlbumID, u"b"_s);
@@ -211,6 +219,22 @@ TEST_F(ChangesTest, AShowIsReplacedInOneGoAndStaysTheSameObject) {
     EXPECT_TRUE(Stored->SoundTracks[0]->Fade);
     EXPECT_EQ(Told, (std::vector<Change>{{Kind::ShowMade, AlbumID, 0, ShowID},
                                          {Kind::ShowReplaced, AlbumID, 0, ShowID}}));
+}
+
+TEST_F(ChangesTest, AShowThatCannotBeNotedIsAsItWasBefore) {
+    const std::int32_t AlbumID = MakeAlbum();
+    const std::int32_t Slide = MakeSlide(AlbumID, u"Rose"_s);
+    const std::int32_t Show =
+        Changes(Engine).SaveShow(AlbumID, ShowOf(u"Walk"_s, {Slide}))->What().SlideShowID;
+    Engine.Listeners.Noted = [](const Change&) { throw Fault(u"full"_s); };
+    clsNEBSlideShow Other = ShowOf(u"Run"_s, {});
+    Other.SlideShowID = Show;
+    EXPECT_THROW(Changes(Engine).SaveShow(AlbumID, std::move(Other)), Fault);
+    EXPECT_THROW(Changes(Engine).SaveShow(AlbumID, ShowOf(u"Swim"_s, {})), Fault);
+    const auto& Shows = Engine.GetAlbum(AlbumID)->SlideShows;
+    ASSERT_EQ(1, std::ssize(Shows));
+    EXPECT_EQ(u"Walk", Shows[0]->SlideShowName);
+    EXPECT_EQ(1, std::ssize(Shows[0]->Details));
 }
 
 TEST_F(ChangesTest, ADeletedShowTakesItsSoundsAlongAndLeavesItsSlides) {

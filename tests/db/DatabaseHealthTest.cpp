@@ -143,6 +143,14 @@ TEST_F(Health, FilesWithoutRecordsKeepTheirNumbers) {
     EXPECT_TRUE(Wrong()[1].contains(u"the next slide has the number 9, but number 90 is taken"));
 }
 
+TEST_F(Health, ShowsWithoutSoundsNeedNoSoundTracks) {
+    Put("SlideShowSoundTracks.dat", {});
+    ForgetSums(Dir.Path());
+    EXPECT_TRUE(Said().starts_with("SlideShowSoundTracks.dat is empty, although")) << Said();
+    for (const std::int32_t AlbumID : {1, 2}) DeleteTree(SoundTracksFolder(Dir.Path(), AlbumID));
+    EXPECT_EQ(Said(), "");
+}
+
 TEST_F(Health, ANewDatabaseIsSound) {
     TempFolder Empty;
     EXPECT_TRUE(LookAtHealth(Empty.Path()).IsSound());

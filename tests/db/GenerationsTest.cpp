@@ -77,6 +77,14 @@ TEST(Generations, AnEndWithoutChangesKeepsNone) {
     EXPECT_EQ(AllRecords(Dir.Path()), Before);
 }
 
+TEST(Generations, AStateLikeTheLastOneIsNotKeptTwice) {
+    TempFolder Dir;
+    EndWith(Dir.Path(), u"first"_s);
+    for (const int Hour : {11, 12})
+        KeepGeneration(Dir.Path(), RecordsInDirectory(Dir.Path()), At(2026, 3, 1, Hour));
+    EXPECT_EQ(ListGenerations(Dir.Path()).size(), 1u);
+}
+
 TEST(Generations, TheyComeWithTheNewestFirst) {
     TempFolder Dir;
     for (const char* Name : {"one", "two", "three", "four"})

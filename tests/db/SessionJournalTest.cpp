@@ -47,6 +47,25 @@ TEST_F(SessionJournalTest, WhatIsFlushedIsThereAgain) {
     EXPECT_EQ("one two three", Left());
 }
 
+TEST_F(SessionJournalTest, FilesAreOnTheDiskBeforeTheEntryThatNamesThem) {
+    for (const bool WithFiles : {true, false}) {
+        std::atomic<bool> HasVolume = false, Before = false;
+        SetHostWatcher([&](HostStep Step, const QString& Path, qint64& Length) {
+            if (Step == HostStep::SyncVolume) HasVolume = true;
+            // the head of the file is written before
+            if (Step == HostStep::Write && Path.contains(u"Session"_s) && Length < 40)
+                Before = HasVolume.load();
+        });
+        {
+            SessionJournal Journal(Dir.Path());
+            Journal.Add("one", WithFiles);
+            Journal.Flush();
+        }
+        SetHostWatcher({});
+        EXPECT_EQ(WithFiles, Before);
+    }
+}
+
 TEST_F(SessionJournalTest, NothingIsLostAtAnOrderlyEnd) {
     {
         SessionJournal Journal(Dir.Path());

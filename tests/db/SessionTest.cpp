@@ -358,6 +358,14 @@ TEST_F(LeftJournal, IsCarriedOut) {
     EXPECT_TRUE(KeptAside().isEmpty());
 }
 
+TEST_F(LeftJournal, IsCarriedOutOverWhatALossOfPowerHasKeptFromTheDisk) {
+    const auto Held = LeaveJournal();
+    const QByteArray& Albums = Held.at("Albums.dat");
+    WriteFile(Dir / u"Albums.dat"_s, Albums.first(7).leftJustified(Albums.size(), '\0'));
+    EXPECT_EQ(JournalState::Whole, ReadJournal(Dir.Path()));
+    EXPECT_EQ(Held, ContentOf(*OpenEngine(Dir.Path())));
+}
+
 TEST_F(LeftJournal, IsPutAsideWhereOtherRecordsWerePutThere) {
     LeaveJournal();
     for (const char* Name : {"Slides.dat", "Properties.dat", "NextIDs.dat"}) {

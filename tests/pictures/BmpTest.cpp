@@ -4,6 +4,7 @@
 
 #include "DamagedBytes.h"
 #include "Pictures.h"
+#include "pictures/PictureShape.h"
 #include "pictures/formats/PictureFaults.h"
 #include "pictures/workers/PictureReading.h"
 
@@ -104,6 +105,23 @@ TEST(Bmp, PalettesOfTheOlderHeaderHaveThreeBytesAnEntry) {
         EXPECT_EQ(Pixels, PixelsOf(Bmp({12, Depth, 0, Colours}, 3, 2, Rows(Depth)))) << Depth;
         EXPECT_EQ(Pixels, PixelsOf(Bmp({40, Depth, 0, Colours}, 3, 2, Rows(Depth)))) << Depth;
     }
+}
+
+TEST(Bmp, AMirroredOneHasNoShape) {
+    const harness::TempFolder Folder;
+    const QString File = Folder / QStringLiteral("a.bmp");
+    WriteFile(File, Bmp({40, 8, 0, Palette(256, 4)}, 3, 2, Rows(8)));
+    EXPECT_EQ(QSize(3, 2), PictureShape(File));
+    WriteFile(File, Bmp({40, 8, 0, Palette(256, 4)}, -3, 2, Rows(8)));
+    EXPECT_EQ(QSize(), PictureShape(File));
+}
+
+TEST(Bmp, PackedPixelsOfAnOddCountArePadded) {
+    const QByteArray Colours = Palette(256, 4);
+    const QByteArray Rows8 = Hex("0003 02010007 0000 0003 00010207 0001");
+    EXPECT_EQ(InThree, PixelsOf(Bmp({40, 8, 1, Colours}, 3, 2, Rows8)));
+    const QByteArray Rows4 = Hex("0003 2100 0000 0003 0120 0001");
+    EXPECT_EQ(InThree, PixelsOf(Bmp({40, 4, 2, Palette(16, 4)}, 3, 2, Rows4)));
 }
 
 TEST(Bmp, APaletteMayBeShorterThanItsDepthAllows) {

@@ -82,3 +82,9 @@ TEST(EmfFrame, AFrameThatMakesNoSenseLeavesTheBounds) {
     NoDevice.replace(72, 16, QByteArray(16, '\0')).replace(100, 8, QByteArray(8, '\0'));
     EXPECT_EQ(Bounds, EmfFrame(NoDevice));
 }
+
+TEST(EmfFrame, ADrawingWithoutBreadthIsSeenInItsFrame) {
+    Header Is;
+    Is.Bounds = QRect(QPoint(40, 30), QPoint(40, 69));
+    EXPECT_EQ(QRectF(-40, -30, 200, 100), EmfFrame(RedSquare(Is)));
+}

@@ -1,4 +1,6 @@
 // Which way up, and in which colours.
+#include <lcms2.h>
+
 #include <QBuffer>
 #include <QColorSpace>
 
@@ -8,6 +10,40 @@
 
 using namespace neb;
 using namespace neb::tests;
+
+namespace {
+
+QByteArray BytesOf(cmsHPROFILE Profile) {
+    cmsUInt32Number Length = 0;
+    cmsSaveProfileToMem(Profile, nullptr, &Length);
+    QByteArray Bytes(static_cast<qsizetype>(Length), '\0');
+    cmsSaveProfileToMem(Profile, Bytes.data(), &Length);
+    cmsCloseProfile(Profile);
+    return Bytes;
+}
+
+QByteArray GreyProfile(double Gamma) {
+    cmsToneCurve* const Curve = cmsBuildGamma(nullptr, Gamma);
+    const QByteArray Bytes = BytesOf(cmsCreateGrayProfile(cmsD50_xyY(), Curve));
+    cmsFreeToneCurve(Curve);
+    return Bytes;
+}
+
+// The screen's own, but for how steep it is, and its blue where that has a gamma of its own.
+QByteArray LikeTheScreen(double Steepness, double OfBlue = 0) {
+    const cmsCIExyY White = {0.3127, 0.3290, 1};
+    const cmsCIExyYTRIPLE Colours = {{0.64, 0.33, 1}, {0.30, 0.60, 1}, {0.15, 0.06, 1}};
+    const cmsFloat64Number Screen[] = {Steepness, 1 / 1.055, 0.055 / 1.055, 1 / 12.92, 0.04045};
+    cmsToneCurve* const Own = cmsBuildParametricToneCurve(nullptr, 4, Screen);
+    cmsToneCurve* const Blue = cmsBuildGamma(nullptr, OfBlue);
+    cmsToneCurve* const Curves[] = {Own, Own, OfBlue > 0 ? Blue : Own};
+    const QByteArray Bytes = BytesOf(cmsCreateRGBProfile(&White, &Colours, Curves));
+    cmsFreeToneCurve(Own);
+    cmsFreeToneCurve(Blue);
+    return Bytes;
+}
+
+}  // namespace
 
 TEST(ImgXOrientation, AllEightComeUprightInBothByteOrders) {
     const harness::TempFolder Folder;
@@ -91,6 +127,41 @@ TEST(ImgXColour, AProfileThatIsSrgbChangesNoPixel) {
         for (int X = 0; X < 256; ++X) Picture.setPixel(X, Y, qRgb(X, Y, (X * Y) & 255));
     const QByteArray Profile = QColorSpace(QColorSpace::SRgb).iccProfile();
     EXPECT_EQ(Picture, ToScreenColours(Picture, Profile));
+}
+
+TEST(ImgXColour, AProfileThatDiffersByNothingThatIsSeenChangesNoPixel) {
+    QImage Picture(256, 1, QImage::Format_RGB32);
+    for (int X = 0; X < 256; ++X) Picture.setPixel(X, 0, qRgb(X, X, X));
+    EXPECT_EQ(Picture, ToScreenColours(Picture, LikeTheScreen(2.38)));
+}
+
+TEST(ImgXColour, AProfileThatDiffersALittleCounts) {
+    QImage Picture(2, 2, QImage::Format_RGB32);
+    Picture.fill(QColor(100, 100, 100));
+    const QByteArray Steeper = QColorSpace(QColorSpace::Primaries::SRgb, 2.4F).iccProfile();
+    EXPECT_NE(Picture, ToScreenColours(Picture, Steeper));
+}
+
+TEST(ImgXColour, AProfileThatDiffersInBlueAloneCounts) {
+    const QByteArray Profile = LikeTheScreen(2.4, 1);
+    QImage Picture(2, 2, QImage::Format_RGB32);
+    Picture.fill(QColor(0, 0, 55));
+    EXPECT_GT(qBlue(ToScreenColours(Picture, Profile).pixel(0, 0)), 100);
+}
+
+TEST(ImgXColour, AGreyPictureGoesByItsGreyProfile) {
+    QImage Picture(2, 2, QImage::Format_RGB32);
+    Picture.fill(QColor(55, 55, 55));
+    EXPECT_GT(qRed(ToScreenColours(Picture, GreyProfile(1)).pixel(0, 0)), 100);
+}
+
+TEST(ImgXColour, ClearPixelsAreWhiteWhateverTheProfile) {
+    QImage Picture(2, 2, QImage::Format_ARGB32);
+    Picture.fill(qRgba(0, 0, 0, 0));
+    const QByteArray Profile = QColorSpace(QColorSpace::AdobeRgb).iccProfile();
+    const QImage Laid = ToScreenColours(Picture, Profile);
+    EXPECT_EQ(QImage::Format_RGB32, Laid.format());
+    EXPECT_EQ(qRgb(255, 255, 255), Laid.pixel(0, 0));
 }
 
 TEST(ImgXColour, AProfileThatIsNoProfileIsIgnored) {

@@ -2,6 +2,7 @@
 #include <QBuffer>
 #include <cmath>
 
+#include "pictures/JpegWriter.h"
 #include "pictures/LinearLight.h"
 #include "pictures/PictureResize.h"
 #include "pictures/Pictures.h"
@@ -52,6 +53,15 @@ ImgX Holding(const QImage& Picture) {
 }
 
 }  // namespace
+
+TEST(ImgX, WhatHasNoPixelsCannotBeWrittenAndSaysSo) {
+    try {
+        EncodeJpeg(QImage(), 90);
+        FAIL();
+    } catch (const Fault& Problem) {
+        EXPECT_EQ(FaultNotSaved, Problem.Number());
+    }
+}
 
 TEST(FitSize, FollowsTheRuleExactly) {
     const FitCase Cases[] = {{{1024, 768}, {1024, 768}},

@@ -143,6 +143,14 @@ TEST(WmfPlayer, APieIsCutCounterClockwiseFromTheFirstRay) {
     ExpectAt(Picture, 65, 65, Qt::white);
 }
 
+TEST(WmfPlayer, APieBetweenOneRayAndItselfIsWhole) {
+    Wmf File = Filled(Qt::red);
+    File.Add(0x081A, {50, 100, 50, 100, 100, 100, 0, 0});
+    const QImage Picture = File.Played();
+    for (const QPoint At : {QPoint(65, 35), {35, 35}, {65, 65}})
+        ExpectAt(Picture, At.x(), At.y(), Qt::red);
+}
+
 TEST(WmfPlayer, BitmapsAreMirroredByNegativeMeasures) {
     Wmf File;
     File.Add(0x0B41, {0x20, 0xCC, 2, 2, 0, 0, 100, -100, 0, 100}, SmallDib);

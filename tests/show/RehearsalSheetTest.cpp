@@ -5,6 +5,7 @@
 
 #include "RehearsalRig.h"
 #include "db/SongNames.h"
+#include "show/rehearsal/CueTexts.h"
 
 namespace neb::test {
 namespace {
@@ -84,6 +85,12 @@ TEST_F(SheetOfShow, IsMadeOnAnotherThread) {
     RehearsalSheet Made;
     std::thread([&] { Made = MakeRehearsalSheet(*Copy, {1024, 768}, Options); }).join();
     EXPECT_EQ(20u, Made.Rows.size());
+}
+
+TEST(TimeOfACue, HasTwoDigitsOfSeconds) {
+    EXPECT_EQ("0:00.0", TimeText(0).toStdString());
+    EXPECT_EQ("1:05.3", TimeText(65.26).toStdString());
+    EXPECT_EQ("61:00.0", TimeText(3660).toStdString());
 }
 
 }  // namespace

@@ -18,7 +18,7 @@ TEST(ScreenChoice, IsTheProgramsOwnWhereNothingIsChosen) {
 
 TEST(ScreenChoice, TakesTheLargestAndAmongEqualsTheProgramsOwn) {
     EXPECT_EQ(2, ChosenScreen(LargestScreen, All, 0));
-    EXPECT_EQ(1, ChosenScreen(LargestScreen, {Laptop, Laptop}, 1));
+    for (const int Own : {0, 1}) EXPECT_EQ(Own, ChosenScreen(LargestScreen, {Laptop, Laptop}, Own));
     EXPECT_EQ(0, ChosenScreen(LargestScreen, {Laptop, Beamer}, -1));
     EXPECT_EQ(-1, ChosenScreen(LargestScreen, {}, -1));
 }

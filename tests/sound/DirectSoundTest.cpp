@@ -3,6 +3,7 @@
 #include <QStringList>
 #include <cmath>
 
+#include "sound/VolumeScale.h"
 #include "sound/clsDirectSound.h"
 #include "support/Fault.h"
 #include "support/Services.h"
@@ -375,6 +376,12 @@ TEST_F(DirectSound, AFileIsOpenedAheadWhereThereIsAMachine) {
     EXPECT_EQ(Devices.Taken(), "Ahead next.mp3");
     clsDirectSound(nullptr).LoadAhead(QStringLiteral("next.mp3"));
     EXPECT_EQ(Devices.Taken(), "");
+}
+
+TEST_F(DirectSound, AVolumeIsToldAsItWasPut) {
+    for (int Value = 0; Value <= 100; ++Value)
+        EXPECT_EQ(Value, VolumeOfHundredths(HundredthsOfVolume(Value)));
+    EXPECT_EQ(99, VolumeOfHundredths(HundredthsOfVolume(99) + 3));
 }
 
 }  // namespace

@@ -29,6 +29,13 @@ TEST(SoundMixer, TheSumStaysWithinFullLevel) {
     EXPECT_EQ(1, Left(Heard, 5500));
 }
 
+TEST(SoundMixer, NorDoesItGoBelow) {
+    PulledMixer Pulled;
+    const auto A = Pulled.RunningVoice({Constant(-0.75F), 10000});
+    const auto B = Pulled.RunningVoice({Constant(-0.75F), 10000});
+    EXPECT_EQ(-1, Left(Pulled.Pull(1000), 500));
+}
+
 TEST(SoundMixer, APauseOfOneLeavesTheOtherAlone) {
     PulledMixer Pulled;
     const auto A = Pulled.RunningVoice({Count(), 100000});

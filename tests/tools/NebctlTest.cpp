@@ -258,6 +258,18 @@ TEST_F(NebctlTest, CheckFindsAnAlbumThatStandsTwice) {
     ExpectFindings({u"Albums.dat, record 3: album 1 stands twice"_s});
 }
 
+TEST_F(NebctlTest, CheckFindsTwoShowsOfOneNumberInDifferentAlbums) {
+    const auto Engine = OpenEngine(Dir.Path());
+    Engine->Albums[1]->SlideShows[0]->SlideShowID = 1;
+    Engine->FinalizeDB();
+    ExpectFindings({u"SlideShows.dat, record 2: show 1 stands twice"_s});
+}
+
+TEST_F(NebctlTest, CheckFindsCountersThatStandTwice) {
+    ChangeRecords("NextIDs.dat", [](QByteArray& Bytes) { Bytes += Bytes; });
+    ExpectFindings({u"NextIDs.dat: 24 bytes are no whole number of records of 12 bytes"_s});
+}
+
 TEST_F(NebctlTest, CheckFindsOddTailsAndMissingFiles) {
     ChangeRecords("EffectStats.dat", [](QByteArray& Bytes) { Bytes += "abc"; });
     ChangeRecords("NextIDs.dat", [](QByteArray& Bytes) { Bytes += '\0'; });
