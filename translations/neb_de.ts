@@ -628,6 +628,11 @@ Um ein vorhandenes Album zu überschreiben, lassen Sie dessen Inhalt ersetzen.</
     </message>
     <message>
         <location filename="../src/controls/directories/DirectoryTree.cpp"/>
+        <source>Right and Left open and close a directory</source>
+        <translation>Rechts und Links öffnen und schließen einen Ordner</translation>
+    </message>
+    <message>
+        <location filename="../src/controls/directories/DirectoryTree.cpp"/>
         <source>The directory; type a path and press Enter to go there</source>
         <translation>Der Ordner; geben Sie einen Pfad ein, und drücken Sie die Eingabetaste</translation>
     </message>
@@ -680,6 +685,11 @@ Um ein vorhandenes Album zu überschreiben, lassen Sie dessen Inhalt ersetzen.</
         <location filename="../src/controls/fields/ProgressWords.cpp"/>
         <source>Picture %1 of %2</source>
         <translation>Bild %1 von %2</translation>
+    </message>
+    <message>
+        <location filename="../src/controls/fields/ToolBar.cpp"/>
+        <source>Tools</source>
+        <translation>Werkzeuge</translation>
     </message>
     <message>
         <location filename="../src/controls/forms/DesktopBoxes.cpp"/>
@@ -6106,6 +6116,11 @@ Die Dia-Verwaltung (Strg+E) nimmt Bilder auf.</translation>
     </message>
     <message>
         <location filename="../src/windows/gallery/AlbumPage.ui"/>
+        <source>Enter shows a slide on the whole screen, F2 changes its caption</source>
+        <translation>Eingabe zeigt ein Dia auf dem ganzen Bildschirm, F2 ändert seinen Bildtext</translation>
+    </message>
+    <message>
+        <location filename="../src/windows/gallery/AlbumPage.ui"/>
         <source>Size of the pictures</source>
         <translation>Größe der Bilder</translation>
     </message>
@@ -6170,11 +6185,6 @@ Ihre Dias lassen sich nicht ändern.</translation>
         <location filename="../src/windows/gallery/frmSlideScreen.cpp"/>
         <source>Caption</source>
         <translation>Bildtext</translation>
-    </message>
-    <message>
-        <location filename="../src/windows/gallery/frmSlideScreen.cpp"/>
-        <source>Picture</source>
-        <translation>Bild</translation>
     </message>
     <message>
         <location filename="../src/windows/gallery/frmSlideScreen.cpp"/>
@@ -6518,6 +6528,11 @@ Ihre Dias lassen sich nicht ändern.</translation>
     </message>
     <message>
         <location filename="../src/windows/home/HomeList.cpp"/>
+        <source>Enter plays a show or opens an album, the menu key offers what else can be done</source>
+        <translation>Eingabe spielt eine Diashow ab oder öffnet ein Album; die Menütaste zeigt, was sonst möglich ist</translation>
+    </message>
+    <message>
+        <location filename="../src/windows/home/HomeList.cpp"/>
         <source>No album, slide show or caption has “%1” in it.</source>
         <translation>In keinem Album, keiner Diashow und keinem Bildtext kommt „%1“ vor.</translation>
     </message>
@@ -6682,8 +6697,18 @@ in dieser Reihenfolge importiert.</translation>
     </message>
     <message>
         <location filename="../src/windows/import/ImportForm.ui"/>
+        <source>Alt+Left takes the marked ones out of the import; F2 changes a caption</source>
+        <translation>Alt+Links nimmt die markierten aus dem Import; F2 ändert einen Bildtext</translation>
+    </message>
+    <message>
+        <location filename="../src/windows/import/ImportForm.ui"/>
         <source>Alt+Right</source>
         <translation>Alt+Right</translation>
+    </message>
+    <message>
+        <location filename="../src/windows/import/ImportForm.ui"/>
+        <source>Alt+Right moves the marked ones into the import; Enter shows one large</source>
+        <translation>Alt+Rechts nimmt die markierten in den Import; Eingabe zeigt eines groß</translation>
     </message>
     <message>
         <location filename="../src/windows/import/ImportForm.ui"/>
@@ -7300,6 +7325,11 @@ Bitte wählen Sie einen anderen.</translation>
         <location filename="../src/windows/lists/SlideReading.cpp"/>
         <source>Stopped; %1 of %2 pictures are listed.</source>
         <translation>Angehalten; %1 von %2 Bildern sind aufgeführt.</translation>
+    </message>
+    <message>
+        <location filename="../src/windows/lists/SlideRows.cpp"/>
+        <source>Picture</source>
+        <translation>Bild</translation>
     </message>
     <message>
         <location filename="../src/windows/lists/frmPicturePopup.cpp"/>
@@ -8002,6 +8032,11 @@ und lässt sich von dort an eine Nachricht anhängen.</translation>
         <translation>Bitte wählen Sie eine Diashow zum Drucken.</translation>
     </message>
     <message>
+        <location filename="../src/windows/recorder/LevelMeter.cpp"/>
+        <source>%1 percent</source>
+        <translation>%1 Prozent</translation>
+    </message>
+    <message>
         <location filename="../src/windows/recorder/frmSoundRecorder.cpp"/>
         <source>%1, %2 left</source>
         <translation>%1, noch %2</translation>
@@ -8617,6 +8652,11 @@ und lässt sich von dort an eine Nachricht anhängen.</translation>
         <translation>Angekreuzte Effekte zeigen</translation>
     </message>
     <message>
+        <location filename="../src/windows/show/frmSlideShowProjector.cpp"/>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
         <location filename="../src/windows/show/frmSlideShowProjector.ui"/>
         <source>Caption of the slide</source>
         <translation>Bildtext des Dias</translation>
@@ -8805,6 +8845,11 @@ Es gelten die kleinsten Einstellungen.</translation>
         <location filename="../src/windows/slides/PicturePlace.cpp"/>
         <source>Double-Click To Load a Graphic</source>
         <translation>Doppelklicken, um ein Bild zu laden</translation>
+    </message>
+    <message>
+        <location filename="../src/windows/slides/PicturePlace.cpp"/>
+        <source>Enter or a double click chooses a picture</source>
+        <translation>Eingabe oder ein Doppelklick wählt ein Bild</translation>
     </message>
     <message>
         <location filename="../src/windows/slides/SlideChoice.cpp"/>
