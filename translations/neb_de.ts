@@ -2897,7 +2897,7 @@ Geben Sie sich dort das Recht zu schreiben, oder wählen Sie mit der Einstellung
     </message>
     <message>
         <location filename="../src/program/help/frmHelp.ui"/>
-        <source>For&amp;ward</source>
+        <source>Fo&amp;rward</source>
         <translation>V&amp;or</translation>
     </message>
     <message>
@@ -2982,6 +2982,11 @@ Geben Sie sich dort das Recht zu schreiben, oder wählen Sie mit der Einstellung
     </message>
     <message>
         <location filename="../src/program/help/frmHelp.ui"/>
+        <source>S&amp;tart</source>
+        <translation>Anfa&amp;ng</translation>
+    </message>
+    <message>
+        <location filename="../src/program/help/frmHelp.ui"/>
         <source>Smaller</source>
         <translation>Kleiner</translation>
     </message>
@@ -2989,11 +2994,6 @@ Geben Sie sich dort das Recht zu schreiben, oder wählen Sie mit der Einstellung
         <location filename="../src/program/help/frmHelp.ui"/>
         <source>Smaller letters (Ctrl+Minus, Ctrl and the wheel)</source>
         <translation>Kleinere Schrift (Strg+Minus, Strg und das Rad)</translation>
-    </message>
-    <message>
-        <location filename="../src/program/help/frmHelp.ui"/>
-        <source>Sta&amp;rt</source>
-        <translation>Anfa&amp;ng</translation>
     </message>
     <message>
         <location filename="../src/program/help/frmHelp.ui"/>

@@ -36,6 +36,8 @@ QDBusConnection SessionsBus() {
 DesktopSettings::DesktopSettings() : DesktopSettings(SessionsBus()) {}
 
 DesktopSettings::DesktopSettings(const QDBusConnection& Bus) : mBus(Bus) {
+    // the slot takes one, which the bus must know by name before it is connected
+    qRegisterMetaType<QDBusVariant>("QDBusVariant");
     if (mBus.isConnected())
         mBus.connect(Service, Object, Interface, QStringLiteral("SettingChanged"), this,
                      SLOT(SettingChanged(QString, QString, QDBusVariant)));

@@ -35,7 +35,7 @@ TEST_F(ManagerKeys, TabWalksOverAllControls) {
     for (const char* Next :
          {"cboSlideShows", "txtName", "cboProgressionMethod", "flxNonSelected", "cmdMoveRightOne",
           "cmdMoveRightAll", "cmdMoveLeftOne", "cmdMoveLeftAll", "flxSelected", "cmdMoveUp",
-          "cmdMoveDown", "flxSoundTracks", "cmdFitAll", "cmdNew", "cmdDelete", "cmdSave",
+          "cmdMoveDown", "cmdFitAll", "flxSoundTracks", "cmdNew", "cmdDelete", "cmdSave",
           "cmdCancel", "cmdClose"}) {
         KeyTo(Qt::Key_Tab);
         EXPECT_EQ(Next, Focus());
