@@ -2370,6 +2370,16 @@ Um ein vorhandenes Album zu überschreiben, lassen Sie dessen Inhalt ersetzen.</
     </message>
     <message>
         <location filename="../src/program/MainMenu.cpp"/>
+        <source>Copy &amp;Report</source>
+        <translation>Be&amp;richt kopieren</translation>
+    </message>
+    <message>
+        <location filename="../src/program/MainMenu.cpp"/>
+        <source>Copy what is to be known of this computer, for a letter about a problem</source>
+        <translation>Kopieren, was für einen Brief über ein Problem zu wissen ist</translation>
+    </message>
+    <message>
+        <location filename="../src/program/MainMenu.cpp"/>
         <source>Delete an album and all that it holds</source>
         <translation>Ein Album mit allem, was darin ist, löschen</translation>
     </message>
@@ -3171,6 +3181,11 @@ Die Alben hier öffnen?</translation>
         <location filename="../src/program/opening/OpenedPaths.cpp"/>
         <source>There is no folder or picture %1.</source>
         <translation>Es gibt keinen Ordner und kein Bild %1.</translation>
+    </message>
+    <message>
+        <location filename="../src/program/report/CopyReport.cpp"/>
+        <source>The report is on the clipboard: paste it into a letter. No name of yours and no picture is in it.</source>
+        <translation>Der Bericht ist in der Zwischenablage: Fügen Sie ihn in einen Brief ein. Kein Name von Ihnen und kein Bild ist darin.</translation>
     </message>
     <message>
         <location filename="../src/show/PreferencesState.cpp"/>

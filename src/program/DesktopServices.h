@@ -5,10 +5,12 @@
 #include "controls/directories/Drives.h"
 #include "controls/forms/DesktopBoxes.h"
 #include "program/ScreenBlanking.h"
+#include "program/desktop/DesktopColours.h"
 #include "program/desktop/DesktopMail.h"
 #include "program/desktop/DesktopMedia.h"
 #include "program/desktop/DesktopMotion.h"
 #include "program/desktop/DesktopPrinters.h"
+#include "program/desktop/DesktopSettings.h"
 #include "sound/devices/SdlSoundDevices.h"
 
 namespace neb {
@@ -31,6 +33,7 @@ class DesktopServices {
     DesktopMedia mMedia;
     DesktopSettings mSettings;
     DesktopMotion mMotion;
+    DesktopColours mColours{mSettings};
 };
 
 }  // namespace neb

@@ -15,6 +15,7 @@
 #include "program/frmNEBSlideShow.h"
 #include "program/help/modHelp.h"
 #include "program/modMachineSettings.h"
+#include "program/report/CopyReport.h"
 #include "support/Fault.h"
 #include "support/Services.h"
 #include "support/Texts.h"
@@ -186,6 +187,9 @@ constexpr Entry Entries[] = {
     {"mnuHelpHdr", "mnuHelpIndex", QT_TR_NOOP("&Index"), "", "",
      QT_TR_NOOP("Find a subject by its name"), [](auto&) { ShowHelp(QStringLiteral("index")); }},
     {"mnuHelpHdr", "", "", "", "", "", nullptr},
+    {"mnuHelpHdr", "mnuCopyReport", QT_TR_NOOP("Copy &Report"), "", "",
+     QT_TR_NOOP("Copy what is to be known of this computer, for a letter about a problem"),
+     [](auto&) { CopyReport(); }},
     {"mnuHelpHdr", "mnuAbout", QT_TR_NOOP("&About NEB Slide Show"), "", "about",
      QT_TR_NOOP("The program's version"), [](auto&) { NewForm<frmAbout>()->ShowModal(); }},
 };
@@ -223,10 +227,11 @@ void AddEntry(frmNEBSlideShow& Main, QMenu& Menu, const Entry& Row, MainMenu& Ma
     // looked up when the menu is first opened: the start need not wait for a dozen icons
     QObject::connect(
         &Menu, &QMenu::aboutToShow, Action,
-        [Action, &Menu, Icon = QString::fromLatin1(Row.Icon)] {
-            Action->setIcon(MenuIcon(ThemeIcon(Icon), Menu.palette()));
-        },
-        Qt::SingleShotConnection);
+        [Action, &Menu, Icon = QString::fromLatin1(Row.Icon), In = qint64(0)]() mutable {
+            const qint64 Colours = Menu.palette().cacheKey();
+            if (std::exchange(In, Colours) != Colours)
+                Action->setIcon(MenuIcon(ThemeIcon(Icon), Menu.palette()));
+        });
     Made.Entries.insert(Action->objectName(), Action);
 }
 

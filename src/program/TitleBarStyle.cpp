@@ -5,6 +5,8 @@
 #include <QStyleFactory>
 #include <QStyleOptionTitleBar>
 
+#include "controls/fields/HintColour.h"
+
 namespace neb {
 namespace {
 
@@ -12,11 +14,6 @@ constexpr int RoomAroundTitle = 8;
 constexpr int MarkMargin = 4;          // of a button's height one part
 constexpr double SecondWindow = 0.75;  // of its mark has one that stands before another
 constexpr int UsualLine = 16;
-
-bool IsDark(const QPalette& Colours) {
-    return Colours.color(QPalette::Window).lightness() <
-           Colours.color(QPalette::WindowText).lightness();
-}
 
 bool IsMinimised(const QStyleOptionTitleBar& Bar) {
     return Bar.titleBarState & Qt::WindowMinimized;
@@ -107,10 +104,16 @@ void TitleBarStyle::drawComplexControl(ComplexControl Control, const QStyleOptio
                                        QPainter* Painter, const QWidget* Widget) const {
     const auto* Bar = qstyleoption_cast<const QStyleOptionTitleBar*>(Option);
     if (Control == CC_MdiControls) return DrawControls(*Option, *Painter, Widget);
-    const bool IsRead = !Bar || Bar->titleBarState & State_Active || !IsDark(Option->palette);
-    if (Control != CC_TitleBar || IsRead)
+    const bool IsActive = Bar && Bar->titleBarState & State_Active;
+    const bool IsRead = !Bar || IsActive || !IsDark(Option->palette);
+    if (Control != CC_TitleBar || (IsRead && !HasHighContrast(Option->palette)))
         return QProxyStyle::drawComplexControl(Control, Option, Painter, Widget);
-    DrawBar(*Bar, *Painter, Widget);
+    QStyleOptionTitleBar Seen = *Bar;
+    if (IsActive) {
+        Seen.palette.setBrush(QPalette::Window, Bar->palette.highlight());
+        Seen.palette.setBrush(QPalette::WindowText, Bar->palette.highlightedText());
+    }
+    DrawBar(Seen, *Painter, Widget);
 }
 
 int TitleBarStyle::pixelMetric(PixelMetric Metric, const QStyleOption* Option,

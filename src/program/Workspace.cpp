@@ -139,6 +139,11 @@ bool Workspace::eventFilter(QObject* Watched, QEvent* Event) {
     return Handled;
 }
 
+void Workspace::changeEvent(QEvent* Event) {
+    QMdiArea::changeEvent(Event);
+    if (Event->type() == QEvent::PaletteChange) setBackground(palette().brush(QPalette::Base));
+}
+
 void Workspace::scrollContentsBy(int dx, int dy) {
     QMdiArea::scrollContentsBy(dx, dy);
     FillWithPage();

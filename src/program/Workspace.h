@@ -27,6 +27,7 @@ class Workspace : public QMdiArea {
     void CascadeChildren();
 
   protected:
+    void changeEvent(QEvent* Event) override;
     bool viewportEvent(QEvent* Event) override;
     bool eventFilter(QObject* Watched, QEvent* Event) override;
     void scrollContentsBy(int dx, int dy) override;

@@ -169,6 +169,7 @@ frmNEBSlideShow::frmNEBSlideShow()
     new MenuKeys(*this);
     resize(FirstSize(screen()->availableSize()));
     new FileDrops(*this, [this](const QStringList& Paths) { OpenPaths(Paths); });
+    connect(mHome, &HomePage::AlbumShown, this, &frmNEBSlideShow::AlbumOpened);
     connect(mHome, &HomePage::QuickShowWanted, this, &frmNEBSlideShow::OpenQuickShow);
 }
 
@@ -298,6 +299,11 @@ bool frmNEBSlideShow::QueryForms() {
                        [](const auto& Window) { return Window->QueryUnload(); });
 }
 
+bool frmNEBSlideShow::AgreeToEnd() {
+    mIsAgreed = mStage == Stage::Empty || (mStage == Stage::Loaded && !IsUndoing() && QueryForms());
+    return mIsAgreed;
+}
+
 bool frmNEBSlideShow::UnloadForms() {
     for (const auto& Window : LoadedForms()) IgnoringFaults([&] { Window->UnloadAsked(); });
     return LoadedForms().empty();
@@ -305,7 +311,8 @@ bool frmNEBSlideShow::UnloadForms() {
 
 bool frmNEBSlideShow::Unload() {
     if (mStage != Stage::Loaded) return true;
-    if (IsUndoing() || !QueryForms() || !UnloadForms()) return false;
+    const bool AreAsked = std::exchange(mIsAgreed, false);
+    if (IsUndoing() || (!AreAsked && !QueryForms()) || !UnloadForms()) return false;
     IgnoringFaults([this] { SaveMainWindow(*this); });
     const PointerScope Working(Pointer::Hourglass);
     IgnoringFaults([] { DeleteMask(DBPath() + QStringLiteral("Temp/*.*")); });

@@ -34,6 +34,9 @@ class frmNEBSlideShow : public QMainWindow {
     // Has every window ask about work that is not saved; false when one is to stay. Nothing is
     // closed.
     bool QueryForms();
+    // The same for an end that follows, which then asks no more; until GoOn.
+    bool AgreeToEnd();
+    void GoOn() { mIsAgreed = false; }
     // Takes the windows off the screen, one after the other, which have been asked; false when one
     // has refused.
     bool UnloadForms();
@@ -57,6 +60,10 @@ class frmNEBSlideShow : public QMainWindow {
     // Brings the home before the user; when it is there already the windows that stepped aside for
     // it come back.
     void ShowHome();
+
+  Q_SIGNALS:
+    // One that the user looks at or works on.
+    void AlbumOpened(std::int32_t AlbumID);
 
   protected:
     void changeEvent(QEvent* Event) override;
@@ -89,6 +96,7 @@ class frmNEBSlideShow : public QMainWindow {
     std::unique_ptr<clsImageBuffer> mImageBuffer;
     enum class Stage { Empty, Loading, Loaded };  // Loading: the window cannot be closed
     Stage mStage = Stage::Empty;
+    bool mIsAgreed = false;  // to an end that asks no more
 };
 
 }  // namespace neb

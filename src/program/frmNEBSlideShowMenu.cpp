@@ -23,6 +23,7 @@
 #include "support/modText.h"
 #include "windows/compose/frmSlideShowDBM.h"
 #include "windows/compose/modShowManagers.h"
+#include "windows/frame/AlbumInHand.h"
 #include "windows/frame/Openers.h"
 #include "windows/frame/WindowKeeper.h"
 #include "windows/frame/modNotice.h"
@@ -36,6 +37,7 @@ namespace {
 
 constexpr int NoticeMs = 10'000;
 constexpr int RetryMs = 100;
+constexpr int OnceReadMs = 1000;
 
 frmQuickShow* QuickShowThat(const std::function<bool(const frmQuickShow& Window)>& Is) {
     for (const auto& Each : LoadedForms())
@@ -76,6 +78,12 @@ void frmNEBSlideShow::ShowAsChild(Form& Child) {
     RestoreKept(Child);
     PlaceChild(Child);
     Child.ShowModeless();
+    // which album it is about is known when its lists have been read
+    QTimer::singleShot(OnceReadMs, this, [this, Opened = QPointer(&Child)] {
+        const auto* Holder = dynamic_cast<const AlbumHolder*>(Opened.data());
+        if (Holder && Opened->IsLoaded() && Holder->HeldAlbum() > 0)
+            Q_EMIT AlbumOpened(Holder->HeldAlbum());
+    });
 }
 
 void frmNEBSlideShow::ShowHome() {
@@ -110,6 +118,10 @@ void frmNEBSlideShow::OpenWhenFree(const QStringList& Paths) {
 
 void frmNEBSlideShow::OpenNow(const OpenedPaths& What) {
     for (const QString& Folder : What.Albums) OpenAlbums(Folder);
+    if (!What.OwnAlbums.isEmpty()) {
+        ShowHome();
+        mHome->ShowAlbum(What.OwnAlbums.back());
+    }
     if (const auto Wrong = What.Wrong()) ShowBox(*Wrong);
     for (const QString& Document : What.Prints) PreviewFile(Document);
     if (What.Named.isEmpty()) return;

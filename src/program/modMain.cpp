@@ -16,11 +16,15 @@
 #include "program/DesktopServices.h"
 #include "program/EditMenu.h"
 #include "program/TerminationWatch.h"
+#include "program/Workspace.h"
+#include "program/desktop/DesktopSettings.h"
+#include "program/desktop/RecentAlbums.h"
 #include "program/frmNEBSlideShow.h"
 #include "program/language/SpeakLanguage.h"
 #include "program/opening/InstanceServer.h"
 #include "program/opening/OtherInstance.h"
 #include "program/opening/RaiseProgram.h"
+#include "program/session/LoginSession.h"
 #include "settings/modNEBSlideShow.h"
 #include "sound/workers/SoundReading.h"
 #include "support/Fault.h"
@@ -31,6 +35,7 @@
 #include "support/modFUFL.h"
 #include "support/work/ProcessEnd.h"
 #include "windows/film/modFilms.h"
+#include "windows/home/HomePage.h"
 
 namespace neb {
 namespace {
@@ -82,6 +87,18 @@ void WarmUpReaders(frmNEBSlideShow& Window) {
     });
 }
 
+SessionWishes WishesOf(frmNEBSlideShow& Window) {
+    return {.Places = {Window.Area(), Window.Home()},
+            .AgreeToEnd = [&Window] { return Window.AgreeToEnd(); },
+            .GoOn = [&Window] { Window.GoOn(); },
+            .IsUp = [&Window] { return Window.IsUp(); },
+            .Close =
+                [&Window] {
+                    StopFilms();
+                    CloseWhenIdle(Window);
+                }};
+}
+
 int RunMainWindow(const CommandLine& Line, const QString& Database) {
     frmNEBSlideShow Window;
     std::optional<InstanceServer> Server;
@@ -94,12 +111,19 @@ int RunMainWindow(const CommandLine& Line, const QString& Database) {
         return TellUnreadable(Problem);
     }
     WarmUpReaders(Window);
-    const TerminationWatch Watch([&Window] {
-        StopFilms();
-        CloseWhenIdle(Window);
-    });
+    DesktopSettings Desktop;
+    RecentAlbums Recent(Desktop);
+    QObject::connect(&Window, &frmNEBSlideShow::AlbumOpened, &Window,
+                     [&Recent](std::int32_t AlbumID) { Recent.Used(AlbumID); });
+    LoginSession Session(WishesOf(Window), Line.Documents);
+    const TerminationWatch Watch(WishesOf(Window).Close);
     QMetaObject::invokeMethod(
-        &Window, [&] { Window.OpenPaths(Line.Paths); }, Qt::QueuedConnection);
+        &Window,
+        [&] {
+            Session.Restore();
+            Window.OpenPaths(Line.Paths);
+        },
+        Qt::QueuedConnection);
     return QApplication::exec();
 }
 

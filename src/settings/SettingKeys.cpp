@@ -48,10 +48,10 @@ constexpr SettingRow Table[] = {
     {S::AvgTime,         "",                  "AvgTime*",        Levels,        T::Seconds, None,              None,             Any, Any,       "N/A",   "nobody"},
     {S::EffectSelected,  "Effect Selections", "Effect.*",        EffectNumbers, T::Flag,    None,              None,             Any, Any,       nullptr, "preferences, a show; number 0 is no effect, but kept"},
     {S::ShowScreen,      "",                  "ShowScreen",      "",            T::Text,    None,              None,             Any, Any,       nullptr, "preferences, a show, the speed test; absent: the program's own screen"},
-    {S::KeepPictures,    "Pictures",          "KeepAtMost",      "",            T::Text,    {"1024x768"},      {"1024x768"},     Any, Any,       nullptr, "all windows that take pictures; a new installation has Screen"},
+    {S::KeepPictures,    "Pictures",          "KeepAtMost",      "",            T::Choice,  {"1024x768"},      {"1024x768"},     Any, Any,       nullptr, "all windows that take pictures; a new installation has Screen"},
     {S::KeepPlace,       "Pictures",          "KeepPlace",       "",            T::Flag,    {"True"},          {"True"},         Any, Any,       nullptr, "all windows that take pictures"},
     {S::ExtraFormats,    "Pictures",          "ExtraFormats",    "",            T::Flag,    {"True"},          {"True"},         Any, Any,       nullptr, "every start"},
-    {S::PictureOrder,    "Pictures",          "Order",           "",            T::Text,    {"Name"},          {"Name"},         Any, Any,       nullptr, "the import windows"},
+    {S::PictureOrder,    "Pictures",          "Order",           "",            T::Choice,  {"Name"},          {"Name"},         Any, Any,       nullptr, "the import windows"},
     {S::PictureCaptions, "Pictures",          "Captions",        "",            T::Flag,    {"True"},          {"True"},         Any, Any,       nullptr, "the import windows"},
     {S::GalleryPictures, "Home",              "Pictures",        "",            T::Number,  {"160", "160"},    {"160"},          72, 512,       nullptr, "an album that is looked through"},
     {S::WindowHeight,    "*",                 "Height",          Windows,       T::Twips,   None,              None,             Any, Any,       nullptr, "RestoreWindow"},
@@ -67,20 +67,28 @@ constexpr SettingRow Table[] = {
     {S::FindColumn,      Find,                "Col*.Width",      Columns,       T::Twips,   None,              None,             Any, Any,       nullptr, "Find Graphics"},
     {S::SoundFolder,     "Sounds",            "Folder",          "",            T::Text,    None,              None,             Any, Any,       nullptr, "the slide show manager"},
     {S::FilmFolder,      "Film",              "Folder",          "",            T::Text,    None,              None,             Any, Any,       nullptr, "the window of films"},
-    {S::FilmFormat,      "Film",              "Format",          "",            T::Text,    {".mp4"},          {".mp4"},         Any, Any,       nullptr, "the window of films"},
-    {S::FilmSize,        "Film",              "Size",            "",            T::Text,    {"1920x1080"},     {"1920x1080"},    Any, Any,       nullptr, "the window of films"},
+    {S::FilmFormat,      "Film",              "Format",          "",            T::Choice,  {".mp4"},          {".mp4"},         Any, Any,       nullptr, "the window of films"},
+    {S::FilmSize,        "Film",              "Size",            "",            T::Choice,  {"1920x1080"},     {"1920x1080"},    Any, Any,       nullptr, "the window of films"},
     {S::FilmRate,        "Film",              "Rate",            "",            T::Number,  {"30"},            {"30"},           Any, Any,       nullptr, "the window of films"},
     {S::FilmQuality,     "Film",              "Quality",         "",            T::Number,  {"75", "75"},      {"75"},           1, 100,         nullptr, "the window of films"},
     {S::FilmCaptions,    "Film",              "CaptionsInPicture", "",            T::Flag,    {"True"},          {"True"},         Any, Any,       nullptr, "the window of films"},
     {S::FilmSubtitleTrack, "Film",              "SubtitleTrack",   "",            T::Flag,    {"False"},         {"False"},        Any, Any,       nullptr, "the window of films"},
     {S::FilmSubtitleFile, "Film",              "SubtitleFile",    "",            T::Flag,    {"False"},         {"False"},        Any, Any,       nullptr, "the window of films"},
     {S::HelpZoom,        "frmHelp",           "Zoom",            "",            T::Number,  {"0", "0"},        {"0"},            -4, 12,          nullptr, "the help: by how much its letters are larger"},
+    {S::RecentAlbums,      "Desktop",         "RecentAlbums",    "",            T::Flag,    {"True"},          {"True"},         Any, Any,       nullptr, "the main window; written by the user alone"},
     {S::TransferDirectory, "Transfer",        "Directory*",      LastTen,       T::Text,    None,              None,             Any, Any,       nullptr, "the transfer windows"},
 };
 // clang-format on
 
 QString Filled(const char* Pattern, const QString& Member) {
     return QString::fromLatin1(Pattern).replace(u'*', Member);
+}
+
+QStringList RunOfNumbers(const QString& First, const QString& Last) {
+    QStringList All;
+    for (int Each = First.toInt(); Each <= Last.toInt(); ++Each)
+        All << QString::number(Each).rightJustified(First.size(), u'0');
+    return All;
 }
 
 const SettingFallback& FallbackFor(Setting Which, SettingReader Reader) {
@@ -108,14 +116,28 @@ const SettingRow& RowOf(Setting Which) {
                          [&](const SettingRow& Row) { return Row.Which == Which; });
 }
 
+QStringList MembersOf(const SettingRow& Row) {
+    const QString Text = QString::fromLatin1(Row.Members);
+    const QStringList Ends = Text.split(u'-');
+    return Ends.size() == 2 ? RunOfNumbers(Ends[0], Ends[1]) : Text.split(u' ');
+}
+
+QString SectionOf(const SettingRow& Row, const QString& Member) {
+    return Filled(Row.Section, Member);
+}
+
+QString KeyOf(const SettingRow& Row, const QString& Member) {
+    return Filled(Row.Key, Member);
+}
+
 bool HasSetting(const clsSettings& Settings, const SettingAt& At) {
     const SettingRow& Row = RowOf(At.Which);
-    return !Settings.GetValue(Filled(Row.Section, At.Of), Filled(Row.Key, At.Of), {}).isEmpty();
+    return !Settings.GetValue(SectionOf(Row, At.Of), KeyOf(Row, At.Of), {}).isEmpty();
 }
 
 QString ReadText(const clsSettings& Settings, const SettingAt& At, SettingReader Reader) {
     const SettingRow& Row = RowOf(At.Which);
-    return Settings.GetValue(Filled(Row.Section, At.Of), Filled(Row.Key, At.Of),
+    return Settings.GetValue(SectionOf(Row, At.Of), KeyOf(Row, At.Of),
                              QLatin1String(FallbackFor(At.Which, Reader).Missing));
 }
 
@@ -134,7 +156,7 @@ bool ReadFlag(const clsSettings& Settings, const SettingAt& At) {
 
 void PutText(clsSettings& Settings, const SettingAt& At, const QString& Value) {
     const SettingRow& Row = RowOf(At.Which);
-    Settings.PutValue(Filled(Row.Section, At.Of), Filled(Row.Key, At.Of), Value);
+    Settings.PutValue(SectionOf(Row, At.Of), KeyOf(Row, At.Of), Value);
 }
 
 void PutDecimal(clsSettings& Settings, const SettingAt& At, double Value) {

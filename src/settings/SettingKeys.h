@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -55,10 +56,12 @@ enum class Setting {
     FilmSubtitleTrack,
     FilmSubtitleFile,
     HelpZoom,           // by how many steps the letters of the help are larger
+    RecentAlbums,       // albums that are used are told to the desktop
     TransferDirectory,  // the last one first: "0" to "9"
 };
 
-enum class SettingType { Text, Number, Seconds, Flag, Twips };
+// Choice: one of a few words of the program's own. Text: anything, of the user's own words, too.
+enum class SettingType { Text, Choice, Number, Seconds, Flag, Twips };
 
 // Some keys have two readers that take different values where the file says nothing useful. Show: a
 // running show. Preferences: that window, and everybody else.
@@ -83,6 +86,10 @@ struct SettingRow {
 
 std::span<const SettingRow> SettingRows();
 const SettingRow& RowOf(Setting Which);
+// Of a row with a "*"; else one that is empty.
+QStringList MembersOf(const SettingRow& Row);
+QString SectionOf(const SettingRow& Row, const QString& Member);
+QString KeyOf(const SettingRow& Row, const QString& Member);
 
 // A place in the file: a key, and of a family the member that is meant.
 struct SettingAt {

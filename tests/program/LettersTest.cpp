@@ -5,7 +5,7 @@
 //   NEB_WINDOWS_PICTURES=/tmp/windows NEB_WINDOWS_POINTS=20 NEB_WINDOWS_DARK=1
 //   NEB_WINDOWS_LANGUAGE=de build/dev/bin/test_program --role look-at-every-window
 //
-// writes a picture of every window into that folder.
+// writes a picture of every window into that folder; scripts/screenshots does so in all looks.
 #include <gtest/gtest.h>
 
 #include <QDir>
@@ -18,9 +18,10 @@
 #include "CutFinder.h"
 #include "EveryWindow.h"
 #include "harness/ChildRole.h"
+#include "program/desktop/StylePalettes.h"
 #include "program/language/SharedLetters.h"
-#include "program/language/UntranslatedTexts.h"
 #include "program/language/SpeakLanguage.h"
+#include "program/language/UntranslatedTexts.h"
 
 namespace neb {
 namespace {
@@ -49,13 +50,10 @@ bool IsMeant(const QString& Name, const QString& Cut) {
     return false;
 }
 
-QPalette DarkColours() {
-    QPalette Dark(QColor(53, 53, 53), QColor(45, 45, 45));
-    Dark.setColor(QPalette::Base, QColor(30, 30, 30));
-    Dark.setColor(QPalette::AlternateBase, QColor(38, 38, 38));
-    Dark.setColor(QPalette::Highlight, QColor(42, 130, 218));
-    Dark.setColor(QPalette::Link, QColor(90, 160, 230));
-    return Dark;
+QPalette WantedPalette() {
+    const bool IsDark = qEnvironmentVariableIsSet("NEB_WINDOWS_DARK");
+    return PaletteOf(IsDark ? Shade::Dark : Shade::Light,
+                     qEnvironmentVariableIsSet("NEB_WINDOWS_CONTRAST"));
 }
 
 void SetLetters() {
@@ -63,7 +61,7 @@ void SetLetters() {
     QFont Letters = QApplication::font();
     Letters.setPointSize(Points > 0 ? Points : 20);
     QApplication::setFont(Letters);
-    if (qEnvironmentVariableIsSet("NEB_WINDOWS_DARK")) QApplication::setPalette(DarkColours());
+    QApplication::setPalette(WantedPalette());
 }
 
 void SavePicture(const QString& Name, QWidget& Window) {

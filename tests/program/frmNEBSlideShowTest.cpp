@@ -218,6 +218,7 @@ TEST_F(MainWindow, EveryMenuEntryIsInItsPlace) {
                              "mnuRestore",
                              "mnuHelpContents",
                              "mnuHelpIndex",
+                             "mnuCopyReport",
                              "mnuAbout",
                              "mnuExit"})
         EXPECT_TRUE(Entry(Name)) << Name;

@@ -56,7 +56,7 @@ const struct Documented {
     {"[]ShowScreen", {""}, SettingType::Text, "", "", nullptr, nullptr, nullptr},
     {"[Pictures]KeepAtMost",
      {""},
-     SettingType::Text,
+     SettingType::Choice,
      "1024x768",
      "1024x768",
      nullptr,
@@ -64,7 +64,7 @@ const struct Documented {
      nullptr},
     {"[Pictures]KeepPlace", {""}, SettingType::Flag, "True", "True", nullptr, nullptr, nullptr},
     {"[Pictures]ExtraFormats", {""}, SettingType::Flag, "True", "True", nullptr, nullptr, nullptr},
-    {"[Pictures]Order", {""}, SettingType::Text, "Name", "Name", nullptr, nullptr, nullptr},
+    {"[Pictures]Order", {""}, SettingType::Choice, "Name", "Name", nullptr, nullptr, nullptr},
     {"[Pictures]Captions", {""}, SettingType::Flag, "True", "True", nullptr, nullptr, nullptr},
     {"[Home]Pictures", {""}, SettingType::Number, "160", "160", "160", nullptr, nullptr},
     {"[frmHelp]Zoom", {""}, SettingType::Number, "0", "0", "0", nullptr, nullptr},
@@ -117,23 +117,17 @@ const struct Documented {
      nullptr, nullptr},
     {"[Sounds]Folder", {""}, SettingType::Text, "", "", nullptr, nullptr, nullptr},
     {"[Film]Folder", {""}, SettingType::Text, "", "", nullptr, nullptr, nullptr},
-    {"[Film]Format", {""}, SettingType::Text, ".mp4", ".mp4", nullptr, nullptr, nullptr},
-    {"[Film]Size", {""}, SettingType::Text, "1920x1080", "1920x1080", nullptr, nullptr, nullptr},
+    {"[Film]Format", {""}, SettingType::Choice, ".mp4", ".mp4", nullptr, nullptr, nullptr},
+    {"[Film]Size", {""}, SettingType::Choice, "1920x1080", "1920x1080", nullptr, nullptr, nullptr},
     {"[Film]Rate", {""}, SettingType::Number, "30", "30", nullptr, nullptr, nullptr},
     {"[Film]Quality", {""}, SettingType::Number, "75", "75", "75", nullptr, nullptr},
     {"[Film]CaptionsInPicture", {""}, SettingType::Flag, "True", "True", nullptr, nullptr, nullptr},
     {"[Film]SubtitleTrack", {""}, SettingType::Flag, "False", "False", nullptr, nullptr, nullptr},
     {"[Film]SubtitleFile", {""}, SettingType::Flag, "False", "False", nullptr, nullptr, nullptr},
+    {"[Desktop]RecentAlbums", {""}, SettingType::Flag, "True", "True", nullptr, nullptr, nullptr},
     {"[Transfer]Directory*", Numbers(0, 9, 1), SettingType::Text, "", "", nullptr, nullptr,
      nullptr},
 };
-
-QStringList MembersOf(const SettingRow& Row) {
-    const QString Text = QString::fromLatin1(Row.Members);
-    const QStringList Ends = Text.split(u'-');
-    return Ends.size() == 2 ? Numbers(Ends[0].toInt(), Ends[1].toInt(), int(Ends[0].size()))
-                            : Text.split(u' ');
-}
 
 QString Shown(const char* Text) {
     return Text ? u'"' + QString::fromLatin1(Text) + u'"' : QStringLiteral("-");

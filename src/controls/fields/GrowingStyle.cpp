@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "controls/fields/HintColour.h"
 #include "effects/MotionWish.h"
 
 namespace neb {
@@ -50,6 +51,16 @@ constexpr QStyle::PrimitiveElement Drawn[] = {
 constexpr QStyle::PrimitiveElement Framed[] = {QStyle::PE_IndicatorCheckBox,
                                                QStyle::PE_IndicatorRadioButton};
 
+// With high contrast what can be used has a line around it, in the colour of the text: a shade of
+// the ground is not seen.
+constexpr QStyle::PrimitiveElement Outlined[] = {
+    QStyle::PE_Frame,         QStyle::PE_FrameGroupBox,     QStyle::PE_FrameLineEdit,
+    QStyle::PE_FrameMenu,     QStyle::PE_IndicatorCheckBox, QStyle::PE_PanelButtonCommand,
+};
+constexpr QStyle::ComplexControl OutlinedControls[] = {QStyle::CC_ComboBox, QStyle::CC_SpinBox};
+constexpr QStyle::ControlElement OutlinedElements[] = {QStyle::CE_HeaderSection,
+                                                       QStyle::CE_ProgressBarGroove};
+
 constexpr QStyle::ComplexControl WithArrows[] = {
     QStyle::CC_ComboBox, QStyle::CC_ScrollBar,  QStyle::CC_Slider,
     QStyle::CC_SpinBox,  QStyle::CC_ToolButton,
@@ -60,9 +71,20 @@ bool Has(const List& Of, Value Wanted) {
     return std::find(std::begin(Of), std::end(Of), Wanted) != std::end(Of);
 }
 
-bool IsDark(const QPalette& Palette) {
-    return Palette.color(QPalette::Window).lightness() <
-           Palette.color(QPalette::WindowText).lightness();
+void Outline(const QStyleOption& Of, const QRect& Place, QPainter& Painter) {
+    Painter.save();
+    Painter.setRenderHint(QPainter::Antialiasing, false);
+    const bool HasKeys = Of.state & QStyle::State_HasFocus;
+    Painter.setPen(Of.palette.color(HasKeys ? QPalette::Highlight : QPalette::WindowText));
+    Painter.setBrush(Qt::NoBrush);
+    Painter.drawRect(Place.adjusted(0, 0, -1, -1));
+    Painter.restore();
+}
+
+// What is moved along a bar.
+QStyle::SubControl HandleOf(QStyle::ComplexControl Control) {
+    if (Control == QStyle::CC_ScrollBar) return QStyle::SC_ScrollBarSlider;
+    return Control == QStyle::CC_Slider ? QStyle::SC_SliderHandle : QStyle::SC_None;
 }
 
 QFont FontOf(const QWidget* Widget) {
@@ -174,6 +196,17 @@ void GrowingStyle::drawComplexControl(ComplexControl Control, const QStyleOption
                                       QPainter* Painter, const QWidget* Widget) const {
     const GrownArrows Grown(Option, Widget, Has(WithArrows, Control));
     QProxyStyle::drawComplexControl(Control, Option, Painter, Widget);
+    if (!Option || !HasHighContrast(Option->palette)) return;
+    if (Has(OutlinedControls, Control)) Outline(*Option, Option->rect, *Painter);
+    if (const SubControl Handle = HandleOf(Control))
+        Outline(*Option, subControlRect(Control, Option, Handle, Widget), *Painter);
+}
+
+void GrowingStyle::drawControl(ControlElement Element, const QStyleOption* Option,
+                               QPainter* Painter, const QWidget* Widget) const {
+    QProxyStyle::drawControl(Element, Option, Painter, Widget);
+    if (Option && Has(OutlinedElements, Element) && HasHighContrast(Option->palette))
+        Outline(*Option, Option->rect, *Painter);
 }
 
 void GrowingStyle::drawPrimitive(PrimitiveElement Element, const QStyleOption* Option,
@@ -186,6 +219,8 @@ void GrowingStyle::drawPrimitive(PrimitiveElement Element, const QStyleOption* O
     }
     const GrownArrows Grown(Option, Widget, Has(Drawn, Element));
     QProxyStyle::drawPrimitive(Element, Option, Painter, Widget);
+    if (Option && Has(Outlined, Element) && HasHighContrast(Option->palette))
+        Outline(*Option, Option->rect, *Painter);
 }
 
 QIcon GrowingStyle::standardIcon(StandardPixmap Which, const QStyleOption* Option,

@@ -1,7 +1,8 @@
 // The desktop's style with arrows, boxes to tick, icons, scroll bars and title bars that grow with
 // the letters beside them: styles draw them at a size of their own, whatever the font. The
 // application sets it once (NebApplication). Up to 10 points all is as the desktop draws it, but
-// for boxes to tick in dark colours, which have a frame that is seen.
+// for boxes to tick in dark colours, which have a frame that is seen, and for the lines around all
+// that can be used in colours of high contrast.
 #pragma once
 
 #include <QProxyStyle>
@@ -30,6 +31,8 @@ class GrowingStyle : public QProxyStyle {
                            const QWidget* Widget) const override;
     void drawComplexControl(ComplexControl Control, const QStyleOptionComplex* Option,
                             QPainter* Painter, const QWidget* Widget) const override;
+    void drawControl(ControlElement Element, const QStyleOption* Option, QPainter* Painter,
+                     const QWidget* Widget) const override;
     void drawPrimitive(PrimitiveElement Element, const QStyleOption* Option, QPainter* Painter,
                        const QWidget* Widget) const override;
     // The arrow at the end of a tool bar that is too short, in the colour of the other texts.

@@ -6,7 +6,7 @@
 namespace neb {
 namespace {
 
-constexpr double Enough = 4.5;
+constexpr double Enough = 4.5, Highest = 20;  // of 21
 constexpr double Usual = 0.62;  // the share of the text in hints that could be fainter still
 
 double Linear(double Part) {
@@ -29,6 +29,16 @@ QColor Mixed(const QColor& Text, const QColor& Ground, double Share) {
 double Contrast(const QColor& One, const QColor& Other) {
     const auto [Dark, Light] = std::minmax({Luminance(One), Luminance(Other)});
     return (Light + 0.05) / (Dark + 0.05);
+}
+
+bool IsDark(const QPalette& Palette) {
+    return Palette.color(QPalette::Window).lightness() <
+           Palette.color(QPalette::WindowText).lightness();
+}
+
+bool HasHighContrast(const QPalette& Palette) {
+    return Contrast(Palette.color(QPalette::Window), Palette.color(QPalette::WindowText)) >=
+           Highest;
 }
 
 QColor HintColour(const QColor& Text, const QColor& Ground) {

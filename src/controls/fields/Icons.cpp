@@ -1,9 +1,12 @@
 #include "controls/fields/Icons.h"
 
 #include <QGuiApplication>
+#include <QIconEngine>
 #include <QResource>
 #include <algorithm>
 #include <iterator>
+
+#include "controls/fields/HintColour.h"
 
 namespace neb {
 namespace {
@@ -50,10 +53,30 @@ QString DesktopName(const QString& IconName) {
     return Found == std::end(DesktopNames) ? QString() : Found->Desktop.toString();
 }
 
-bool IsDark(const QPalette& Palette) {
-    return Palette.color(QPalette::Window).lightness() <
-           Palette.color(QPalette::WindowText).lightness();
-}
+// Drawn for the surroundings that it is painted in, also when these change.
+class OwnIcon : public QIconEngine {
+  public:
+    explicit OwnIcon(const QString& Name)
+        : mLight(PathOf(Name, false)), mDark(PathOf(Name, true)) {}
+
+    void paint(QPainter* Painter, const QRect& Place, QIcon::Mode Mode,
+               QIcon::State State) override {
+        ForNow().paint(Painter, Place, Qt::AlignCenter, Mode, State);
+    }
+    QPixmap pixmap(const QSize& Size, QIcon::Mode Mode, QIcon::State State) override {
+        return ForNow().pixmap(Size, 1.0, Mode, State);
+    }
+    QIconEngine* clone() const override { return new OwnIcon(*this); }
+    static QString PathOf(const QString& Name, bool Dark) {
+        return QStringLiteral(":/neb/icons/%1/%2.svg")
+            .arg(Dark ? QStringLiteral("dark") : QStringLiteral("light"), Name);
+    }
+
+  private:
+    const QIcon& ForNow() const { return IsDark(QGuiApplication::palette()) ? mDark : mLight; }
+
+    QIcon mLight, mDark;
+};
 
 }  // namespace
 
@@ -64,10 +87,10 @@ QIcon ThemeIcon(const QString& IconName) {
 QIcon ThemeIcon(const QString& IconName, const QPalette& Palette) {
     const QString Desktop = DesktopName(IconName);
     if (!Desktop.isEmpty() && QIcon::hasThemeIcon(Desktop)) return QIcon::fromTheme(Desktop);
-    const QString Path =
-        QStringLiteral(":/neb/icons/%1/%2.svg")
-            .arg(IsDark(Palette) ? QStringLiteral("dark") : QStringLiteral("light"), IconName);
-    return QResource(Path).isValid() ? QIcon(Path) : QIcon();
+    const QString Path = OwnIcon::PathOf(IconName, IsDark(Palette));
+    if (!QResource(Path).isValid()) return {};
+    const bool IsAsAll = IsDark(Palette) == IsDark(QGuiApplication::palette());
+    return IsAsAll ? QIcon(new OwnIcon(IconName)) : QIcon(Path);
 }
 
 }  // namespace neb

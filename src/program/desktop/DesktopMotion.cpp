@@ -1,10 +1,8 @@
 #include "program/desktop/DesktopMotion.h"
 
-#include <QRegularExpression>
 #include <algorithm>
 
-#include "support/Fault.h"
-#include "support/files/modHostFiles.h"
+#include "program/desktop/ToolkitSettings.h"
 
 namespace neb {
 namespace {
@@ -23,26 +21,15 @@ const struct {
      [](const QVariant& Value) { return Value.isValid() && Value.toDouble() == 0; }},
 };
 
-bool IsStillByFile(const QString& Path) {
-    static const QRegularExpression Off(
-        QStringLiteral(R"((?m)^[ \t]*gtk-enable-animations[ \t]*=[ \t]*(0|false)[ \t\r]*$)"),
-        QRegularExpression::CaseInsensitiveOption);
-    try {
-        return FileExists(Path) && Off.match(QString::fromUtf8(ReadFile(Path))).hasMatch();
-    } catch (const Fault&) {
-        return false;  // it belongs to others, and may be damaged
-    }
-}
-
-bool IsStillByFiles(const QString& Folder) {
-    return IsStillByFile(Folder + QStringLiteral("/gtk-4.0/settings.ini")) ||
-           IsStillByFile(Folder + QStringLiteral("/gtk-3.0/settings.ini"));
+bool IsStillByFile(const QString& ConfigFolder) {
+    const QString Animations = ToolkitSettingIn(ConfigFolder, "gtk-enable-animations");
+    return Animations == u"0" || Animations.compare(u"false", Qt::CaseInsensitive) == 0;
 }
 
 }  // namespace
 
 DesktopMotion::DesktopMotion(DesktopSettings& Settings, const QString& ConfigFolder)
-    : mIsStillByFile(IsStillByFiles(ConfigFolder)) {
+    : mIsStillByFile(IsStillByFile(ConfigFolder)) {
     connect(&Settings, &DesktopSettings::Changed, this, &DesktopMotion::Told);
     for (const auto& Each : Names)
         Settings.Ask(QString::fromUtf16(Each.Group), QString::fromUtf16(Each.Key));

@@ -12,8 +12,30 @@
 namespace neb {
 namespace {
 
+// The folder whose database would have its albums here; empty: none would.
+QString DatabaseOfAlbum(const QString& Folder) {
+    const QString Albums = GetParentDir(WithSeparator(Folder));
+    const QString Database = GetParentDir(Albums);
+    const bool IsOne = GetFileName(Albums.chopped(1)).compare(u"Albums", Qt::CaseInsensitive) == 0;
+    return IsOne ? Database : QString();
+}
+
+bool SortInAlbum(const QString& Folder, OpenedPaths& To) {
+    const QString Database = DatabaseOfAlbum(Folder);
+    bool IsNumber = false;
+    const std::int32_t AlbumID = GetFileName(Folder).toInt(&IsNumber);
+    if (Database.isEmpty() || !IsNumber) return false;
+    const bool IsOwn = ResolvePath(Database) == ResolvePath(DBPath());
+    if (IsOwn)
+        To.OwnAlbums << AlbumID;
+    else if (HoldsDatabase(Database))
+        To.Albums << Database;
+    return IsOwn || HoldsDatabase(Database);
+}
+
 void SortIn(const QString& Named, OpenedPaths& To) {
     const QString Path = ResolvePath(AbsolutePath(Named));
+    if (FolderExists(Path) && SortInAlbum(Path, To)) return;
     if (FolderExists(Path)) {
         const bool HasAlbums = HoldsDatabase(DatabaseIn(Path));
         (HasAlbums ? To.Albums : To.Named) << (HasAlbums ? Path : WithSeparator(Path));

@@ -10,7 +10,8 @@
 namespace neb {
 
 struct OpenedPaths {
-    QStringList Albums;  // folders that hold albums
+    QStringList Albums;             // folders that hold albums
+    QList<std::int32_t> OwnAlbums;  // of the database that is open, by their folders
     QStringList Named;   // for Quick Show: folders with their separator, pictures, other files
     QString AtPicture;   // one of those, whose folder is opened for it; empty: none
     QStringList Prints;  // print documents, for the preview

@@ -23,6 +23,15 @@ void ClearReadOnly(const QString& Path) {
             Path);
 }
 
+void MakePrivate(const QString& Path) {
+    AnnounceStep(HostStep::Protect, Path);
+    HostFile File(ResolvePath(Path));
+    if (!File.ChangeRights(0, S_IRWXG | S_IRWXO))
+        throw Fault(
+            QStringLiteral("The file cannot be kept from others. (%1)").arg(File.errorString()),
+            Path);
+}
+
 namespace {
 
 // For the user on whose behalf the program works, who need not be the one who started it.

@@ -9,6 +9,8 @@ namespace neb {
 
 // The file's owner may write it from now on; nothing else about it changes. Throws Fault.
 void ClearReadOnly(const QString& Path);
+// Nobody but the owner may read the file from now on. Throws Fault.
+void MakePrivate(const QString& Path);
 // Whether this user may make files in a folder that is there.
 bool CanWriteInto(const QString& Dir);
 // Whether this user may write a file or folder that is there, as the system says: owner, rights and

@@ -40,6 +40,7 @@ class frmSlideShowDBM : public Form, public ChangeReceiver, public AlbumHolder {
     void ReceiveEvent(const QString& ObjectType, const QString& EventType,
                       const EventKeys& EventData) override;
     std::int32_t HeldAlbum() const override { return AlbumID(); }
+    std::int32_t HeldShow() const override { return SlideShowID(); }
 
   protected:
     void Form_Load() override;

@@ -12,6 +12,7 @@ class AlbumHolder {
   public:
     virtual ~AlbumHolder() = default;
     virtual std::int32_t HeldAlbum() const = 0;  // 0: none chosen
+    virtual std::int32_t HeldShow() const { return 0; }
 };
 
 // 0 where no album of the program's database is in hand, or the one that was has gone.

@@ -21,7 +21,7 @@ void HomePage::Fill() {
     if (!mList) {
         auto* Pages = new QStackedLayout(this);
         Pages->addWidget(mList = new HomeList);
-        connect(mList, &HomeList::AlbumWanted, this, &HomePage::OpenAlbum);
+        connect(mList, &HomeList::AlbumWanted, this, &HomePage::ShowAlbum);
         connect(mList, &HomeList::QuickShowWanted, this, &HomePage::QuickShowWanted);
     }
     mList->Fill();
@@ -42,8 +42,8 @@ void HomePage::focusInEvent(QFocusEvent* Event) {
 }
 
 // The album page is made for the first album: the start need not wait for it.
-void HomePage::OpenAlbum(std::int32_t AlbumID, std::int32_t SlideID) {
-    if (!DBEngine || !DBEngine->GetAlbum(AlbumID)) return;
+void HomePage::ShowAlbum(std::int32_t AlbumID, std::int32_t SlideID) {
+    if (!mList || !DBEngine || !DBEngine->GetAlbum(AlbumID)) return;
     auto* Pages = static_cast<QStackedLayout*>(layout());
     if (!mAlbum) {
         Pages->addWidget(mAlbum = new AlbumPage);
@@ -52,6 +52,7 @@ void HomePage::OpenAlbum(std::int32_t AlbumID, std::int32_t SlideID) {
     mAlbum->ShowAlbum(AlbumID, SlideID);
     Pages->setCurrentWidget(mAlbum);
     if (!mAlbum->isAncestorOf(window()->focusWidget())) mAlbum->setFocus(Qt::OtherFocusReason);
+    Q_EMIT AlbumShown(AlbumID);
 }
 
 void HomePage::LeaveAlbum() {

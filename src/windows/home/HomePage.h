@@ -22,6 +22,8 @@ class HomePage : public QWidget, public StandingReceiver {
     // Once the albums are read, and when others have taken their place; nothing is made before,
     // so that the window is on the screen the sooner.
     void Fill();
+    // Looks through an album, with one of its slides in hand; nothing where it is not there.
+    void ShowAlbum(std::int32_t AlbumID, std::int32_t SlideID = 0);
     // The keys go to what is looked at.
     void TakeFocus();
     void ReceiveEvent(const QString& ObjectType, const QString& EventType,
@@ -32,12 +34,12 @@ class HomePage : public QWidget, public StandingReceiver {
 
   Q_SIGNALS:
     void QuickShowWanted();
+    void AlbumShown(std::int32_t AlbumID);
 
   protected:
     void focusInEvent(QFocusEvent* Event) override;
 
   private:
-    void OpenAlbum(std::int32_t AlbumID, std::int32_t SlideID);
     void LeaveAlbum();
 
     HomeList* mList = nullptr;

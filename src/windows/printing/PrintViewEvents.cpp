@@ -6,6 +6,7 @@
 #include <QWheelEvent>
 #include <algorithm>
 
+#include "controls/fields/HintColour.h"
 #include "windows/printing/PrintView.h"
 
 namespace neb {
@@ -16,11 +17,6 @@ constexpr int ShadowDepth = 7;   // pixels
 constexpr int ShadowSlice = 24;  // pixels
 constexpr int FocusWidth = 2;
 constexpr QColor FaultText(0x60, 0x60, 0x60);
-
-bool IsDark(const QPalette& Palette) {
-    return Palette.color(QPalette::Window).lightness() <
-           Palette.color(QPalette::WindowText).lightness();
-}
 
 // Neither as bright as paper nor as dark as what is printed.
 QColor GroundOf(const QPalette& Palette) {

@@ -29,8 +29,10 @@ WindowMemory MemoryOn(const QScreen& Screen) {
 
 // The name of a view is no hint of what to choose: it is what is chosen.
 void ShowNamesInFull(QComboBox& Box) {
-    QPalette Colours = Box.palette();
-    Colours.setColor(QPalette::PlaceholderText, Colours.color(QPalette::ButtonText));
+    const QColor Text = Box.palette().color(QPalette::ButtonText);
+    if (Box.palette().color(QPalette::PlaceholderText) == Text) return;
+    QPalette Colours;
+    Colours.setColor(QPalette::PlaceholderText, Text);
     Box.setPalette(Colours);
 }
 
@@ -134,6 +136,13 @@ void frmPrintPreview::ShowIcons() {
         Each.Button->setIcon(Icon);
         if (Each.Entry) Each.Entry->setIcon(MenuIcon(Icon, palette()));
     }
+}
+
+void frmPrintPreview::changeEvent(QEvent* Event) {
+    Form::changeEvent(Event);
+    if (Event->type() != QEvent::PaletteChange) return;
+    ShowNamesInFull(*mUi->cboZoom);
+    ShowIcons();
 }
 
 // No button is pressed by Enter but the one that has the focus: a page that is looked at must not

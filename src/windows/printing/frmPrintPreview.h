@@ -59,6 +59,7 @@ class frmPrintPreview : public Form {
     void Form_Load() override;
     bool Form_Unload() override;
     bool IsBusy() const override;
+    void changeEvent(QEvent* Event) override;
     void keyPressEvent(QKeyEvent* Event) override;
 
   private:

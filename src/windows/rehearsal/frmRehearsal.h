@@ -6,6 +6,7 @@
 #include "controls/forms/Form.h"
 #include "show/rehearsal/RehearsalSheet.h"
 #include "support/work/Job.h"
+#include "windows/frame/AlbumInHand.h"
 #include "windows/frame/modBroadcast.h"
 
 namespace neb {
@@ -14,7 +15,7 @@ namespace Ui {
 class frmRehearsal;
 }
 
-class frmRehearsal : public Form, public ChangeReceiver {
+class frmRehearsal : public Form, public ChangeReceiver, public AlbumHolder {
     Q_OBJECT
 
   public:
@@ -26,6 +27,8 @@ class frmRehearsal : public Form, public ChangeReceiver {
     // Anew, or closes where the show is gone.
     void ReceiveEvent(const QString& ObjectType, const QString& EventType,
                       const EventKeys& EventData) override;
+    std::int32_t HeldAlbum() const override { return mOf.AlbumID; }
+    std::int32_t HeldShow() const override { return mOf.SlideShowID; }
 
   protected:
     void Form_Load() override;
