@@ -1,6 +1,8 @@
 #include "EveryWindow.h"
 
 #include <QDir>
+#include <QFile>
+#include <QLocale>
 #include <QPainter>
 #include <QTest>
 
@@ -13,6 +15,7 @@
 #include "help/HelpRig.h"
 #include "program/frmAbout.h"
 #include "program/help/frmHelp.h"
+#include "program/language/SpeakLanguage.h"
 #include "sound/RecorderRig.h"
 #include "windows/albums/frmAlbumDelete.h"
 #include "windows/albums/frmAlbumRename.h"
@@ -87,11 +90,11 @@ std::vector<Sample> SamplesFor(const QString& Folder, Filled& Made) {
     for (int I = 1; Folder.isEmpty() && I <= SlideCount; ++I)
         All.push_back({u"Roses behind the house %1"_s.arg(I), SlidePicture(I)});
     if (Folder.isEmpty()) return All;
-    Made.Album = u"A Year in Pictures"_s;
-    Made.Show = u"Four Seasons"_s;
-    Made.Song = Folder + u"/music/Evening Waltz.wav"_s;
+    Made.Album = SampleWords(u"A Year in Pictures"_s);
+    Made.Show = SampleWords(u"Four Seasons"_s);
+    Made.Song = Folder + u"/music/"_s + SampleWords(u"Evening Waltz"_s) + u".wav"_s;
     for (const QFileInfo& Each : QDir(Folder).entryInfoList({u"*.jpg"_s}, QDir::Files, QDir::Name))
-        All.push_back({Each.completeBaseName(), QImage(Each.filePath())});
+        All.push_back({SampleWords(Each.completeBaseName()), QImage(Each.filePath())});
     return All;
 }
 
@@ -158,7 +161,7 @@ void OpenHelp(const Filled&) {
 void OpenTransfer(const Filled&) {
     const auto Window = NewForm<frmTransferProgress>();
     Window->ShowOver([Window] {
-        while (Window->Show(u"Copying 12 of 345 files of the album Garden"_s, 40) &&
+        while (Window->Show(SampleWords(u"Copying 12 of 345 files of the album Garden"_s), 40) &&
                Window->IsLoaded())
             QTest::qWait(TickMs);
     });
@@ -201,7 +204,8 @@ const Row Rows[] = {
     {"frmRestore", &OpenModal<frmRestore>},
     {"frmDamage",
      [](auto&) {
-         NewForm<frmDamage>()->MakeSound(DBPath(), {.Wrong = {u"Albums.dat is cut."_s}});
+         NewForm<frmDamage>()->MakeSound(DBPath(),
+                                         {.Wrong = {SampleWords(u"Albums.dat is cut."_s)}});
      }},
     {"frmCheckPictures", &OpenModal<frmCheckPictures>},
     {"frmGetObjectName",
@@ -318,6 +322,21 @@ class Opened : public MainWindow {
 };
 
 }  // namespace
+
+void SpeakLanguageOfWindows() {
+    const QString Language = qEnvironmentVariable("NEB_WINDOWS_LANGUAGE");
+    if (Language.isEmpty()) return;
+    SpeakLanguage({Language});
+    QLocale::setDefault(QLocale(Language));
+}
+
+QString SampleWords(const QString& Text) {
+    QFile Words(qEnvironmentVariable("NEB_WINDOWS_WORDS"));
+    if (Words.fileName().isEmpty() || !Words.open(QIODevice::ReadOnly)) return Text;
+    for (const QString& Line : QString::fromUtf8(Words.readAll()).split(u'\n'))
+        if (Line.section(u'=', 0, 0) == Text) return Line.section(u'=', 1);
+    return Text;
+}
 
 int LookAtEveryWindow(Content Of, const LookAtWindow& Look) {
     int Count = 1;

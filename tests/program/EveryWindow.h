@@ -18,4 +18,10 @@ enum class Content { None, Albums };
 // test. Left out are those that fill the screen or are never seen.
 int LookAtEveryWindow(Content Of, const LookAtWindow& Look);
 
+// The language that NEB_WINDOWS_LANGUAGE names, such as "de", in texts, dates and numbers.
+void SpeakLanguageOfWindows();
+// A text of the samples in that language: the file NEB_WINDOWS_WORDS has lines such as
+// "Garden=Garten". What it lacks stays as it is.
+QString SampleWords(const QString& Text);
+
 }  // namespace neb::harness

@@ -9,7 +9,6 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
-#include <QLocale>
 #include <QMdiSubWindow>
 #include <QProcess>
 #include <QStyleFactory>
@@ -72,13 +71,6 @@ void SavePicture(const QString& Name, QWidget& Window) {
     (Frame ? Frame : &Window)->grab().save(Folder + u'/' + Name + u".png"_s);
 }
 
-void SetLanguage() {
-    const QString Language = qEnvironmentVariable("NEB_WINDOWS_LANGUAGE");
-    if (Language.isEmpty()) return;
-    SpeakLanguage({Language});
-    QLocale::setDefault(QLocale(Language));
-}
-
 QStringList FindsIn(const QString& Name, const QWidget& Window) {
     QStringList Found = harness::CutsIn(Window);
     Found.removeIf([&](const QString& Each) { return IsMeant(Name, Each); });
@@ -87,7 +79,7 @@ QStringList FindsIn(const QString& Name, const QWidget& Window) {
 
 int LookAtAll() {
     const harness::UntranslatedTexts Untranslated;
-    SetLanguage();
+    harness::SpeakLanguageOfWindows();
     SetLetters();
     const bool IsEmpty = qEnvironmentVariableIsSet("NEB_WINDOWS_EMPTY");
     const auto Of = IsEmpty ? harness::Content::None : harness::Content::Albums;

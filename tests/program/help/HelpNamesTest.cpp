@@ -11,6 +11,7 @@
 #include "HelpRig.h"
 #include "program/help/modHelp.h"
 #include "settings/SettingKeys.h"
+#include "support/Texts.h"
 #include "windows/handling/KeyCard.h"
 #include "windows/handling/ShowKeys.h"
 #include "windows/home/CardDeeds.h"
@@ -29,29 +30,22 @@ QString Unescaped(QString Text) {
     return Text.replace("&lt;", "<").replace("&gt;", ">").replace("&amp;", "&");
 }
 
-// The text of a page with its marks.
-QString AllPages() {
-    QString All;
-    for (const QString& Page : HelpPages()) All += HelpSource(Page);
-    return All;
-}
-
 bool IsSetOff(const QString& Html, const QString& Text) {
     return Unescaped(Html).contains("<b>" + Text + "</b>");
 }
 
-class HelpNames : public HelpRig {
+class HelpNames : public InEachLanguage<HelpRig> {
   protected:
     HelpNames() { Start(); }
 
-    // "Album, New Album" and its first key.
+    // "Album, New Album" and its first key, as they are read.
     std::map<QString, QString> Entries() const {
         std::map<QString, QString> All;
         for (const QMenu* Menu : mWindow->menuBar()->findChildren<QMenu*>())
             for (const QAction* Each : Menu->actions())
                 if (!Each->isSeparator() && Each->objectName().startsWith("mnu"))
                     All[Words(Menu->title()) + ", " + Words(Each->text())] =
-                        Each->shortcut().toString();
+                        Each->shortcut().toString(QKeySequence::NativeText);
         return All;
     }
     void ExpectEntry(const QString& Path, const QString& Key, const std::string& Where) const {
@@ -62,27 +56,35 @@ class HelpNames : public HelpRig {
         EXPECT_EQ(Found->second.toStdString(), Key.toStdString()) << Where;
     }
 };
+INSTANTIATE_TEST_SUITE_P(Languages, HelpNames, ::testing::ValuesIn(HelpLanguages()),
+                         &NameOfLanguage);
 
-TEST_F(HelpNames, EachEntryOfTheMenuIsInTheHelpByItsPath) {
-    const QString All = Unescaped(AllPages());
+// README and the documents are English, and so are the names of keys in the code.
+class EnglishNames : public HelpNames {};
+INSTANTIATE_TEST_SUITE_P(Languages, EnglishNames, ::testing::Values(QStringLiteral("en")),
+                         &NameOfLanguage);
+
+TEST_P(HelpNames, EachEntryOfTheMenuIsInTheHelpByItsPath) {
+    QString All;
+    for (const QString& Page : Pages()) All += Unescaped(Source(Page));
     EXPECT_GT(Entries().size(), 30U);
     for (const auto& [Path, Key] : Entries())
         EXPECT_TRUE(All.contains("<b class=\"menu\">" + Path + "</b>")) << Path.toStdString();
 }
 
-TEST_F(HelpNames, EachPathThatTheHelpNamesIsInTheMenuAndHasTheKeyThatStandsBehindIt) {
+TEST_P(HelpNames, EachPathThatTheHelpNamesIsInTheMenuAndHasTheKeyThatStandsBehindIt) {
     static const QRegularExpression Named(
         "<b class=\"menu\">([^<]*)</b>(?: \\((?:<kbd>([^<]*)</kbd>))?");
     int Count = 0;
-    for (const QString& Page : HelpPages())
-        for (auto At = Named.globalMatch(HelpSource(Page)); At.hasNext(); ++Count) {
+    for (const QString& Page : Pages())
+        for (auto At = Named.globalMatch(Source(Page)); At.hasNext(); ++Count) {
             const auto Path = At.next();
             ExpectEntry(Unescaped(Path.captured(1)), Path.captured(2), Page.toStdString());
         }
     EXPECT_GT(Count, 60);
 }
 
-TEST_F(HelpNames, EachPathThatReadmeAndTheDocumentsNameIsInTheMenu) {
+TEST_P(EnglishNames, EachPathThatReadmeAndTheDocumentsNameIsInTheMenu) {
     static const QRegularExpression Named(
         "\\b(File|Edit|Album|Slide Show|Import/Export|Print|Window|Help), "
         "((?:[A-Z][a-z]+|to|a|for|This)(?: (?:[A-Z][A-Za-z]+|to|a|for))*)(?: \\(([A-Z][^)]*)\\))?");
@@ -98,14 +100,14 @@ TEST_F(HelpNames, EachPathThatReadmeAndTheDocumentsNameIsInTheMenu) {
     EXPECT_GT(Count, 8);
 }
 
-TEST_F(HelpNames, TheMenusOfAlbumsAndShowsOnTheHomeAreTold) {
-    const QString Home = HelpSource("start/home");
+TEST_P(HelpNames, TheMenusOfAlbumsAndShowsOnTheHomeAreTold) {
+    const QString Home = Source("start/home");
     for (const CardDeed& Each : CardDeeds())
-        EXPECT_TRUE(IsSetOff(Home, Words(Each.Text))) << Each.Text;
+        EXPECT_TRUE(IsSetOff(Home, Words(tr(Each.Text)))) << Each.Text;
 }
 
-TEST_F(HelpNames, TheMenuOfARunningShowIsTold) {
-    const QString Told = HelpSource("shows/show-menu");
+TEST_P(HelpNames, TheMenuOfARunningShowIsTold) {
+    const QString Told = Source("shows/show-menu");
     const auto Popup = NewForm<frmPopup>();
     for (const QAction* Each : Popup->mnuPopup.actions())
         EXPECT_TRUE(Each->isSeparator() || IsSetOff(Told, Words(Each->text())))
@@ -113,8 +115,8 @@ TEST_F(HelpNames, TheMenuOfARunningShowIsTold) {
 }
 
 // The keys of a running show, by what a keyboard says.
-TEST_F(HelpNames, EachKeyThatARunningShowKnowsIsTold) {
-    const QString Told = HelpSource("shows/show-keys");
+TEST_P(EnglishNames, EachKeyThatARunningShowKnowsIsTold) {
+    const QString Told = Source("shows/show-keys");
     std::map<QString, QString> Called{{"PgDown", "Page Down"},
                                       {"PgUp", "Page Up"},
                                       {"Return", "Enter"},
@@ -136,9 +138,11 @@ TEST_F(HelpNames, EachKeyThatARunningShowKnowsIsTold) {
     EXPECT_TRUE(Told.contains("<kbd>Shift+F10</kbd>"));
 }
 
-TEST_F(HelpNames, TheCardOfKeysSaysNothingThatTheHelpDoesNot) {
+TEST_P(HelpNames, TheCardOfKeysSaysNothingThatTheHelpDoesNot) {
     static const QRegularExpression Marks("<[^>]*>");
-    const QString Told = HelpSource("shows/show-keys").remove(Marks).simplified();
+    const QString Told = Source("shows/show-keys").remove(Marks).simplified();
+    const QStringList OfItself{tr("this card and back; the show waits meanwhile"),
+                               tr("close this card; then end the show")};
     KeyCard Card(*mWindow);
     for (const bool Manual : {false, true}) {
         Card.OpenFor(Manual);
@@ -146,14 +150,13 @@ TEST_F(HelpNames, TheCardOfKeysSaysNothingThatTheHelpDoesNot) {
         EXPECT_GT(Labels.size(), 20);
         for (const QLabel* Each : Labels) {
             const QString Line = QString(Each->text()).remove(Marks);
-            const bool IsOfItself = Line.contains("this card");
-            EXPECT_TRUE(IsOfItself || Told.contains(Line)) << Line.toStdString();
+            EXPECT_TRUE(OfItself.contains(Line) || Told.contains(Line)) << Line.toStdString();
         }
     }
 }
 
-TEST_F(HelpNames, EachSettingIsTold) {
-    const QString Told = HelpSource("safety/settings");
+TEST_P(HelpNames, EachSettingIsTold) {
+    const QString Told = Source("safety/settings");
     for (const SettingRow& Row : SettingRows()) {
         QString Key = QString::fromLatin1(Row.Key);
         const QString First = QString::fromLatin1(Row.Members).section(' ', 0, 0);

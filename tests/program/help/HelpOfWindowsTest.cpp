@@ -61,7 +61,11 @@ bool OpensNoOther(const QString& Name) {
         Name);
 }
 
-TEST(HelpOfWindows, F1OpensThePageOfEachWindowWhichNamesAllItsButtons) {
+class WindowsIn : public InEachLanguage<::testing::Test> {};
+INSTANTIATE_TEST_SUITE_P(Languages, WindowsIn, ::testing::ValuesIn(HelpLanguages()),
+                         &NameOfLanguage);
+
+TEST_P(WindowsIn, F1OpensThePageOfEachWindowWhichNamesAllItsButtons) {
     int Windows = 0, Buttons = 0;
     harness::LookAtEveryWindow(harness::Content::Albums, [&](const QString& Name, QWidget& Window) {
         ++Windows;
@@ -72,7 +76,7 @@ TEST(HelpOfWindows, F1OpensThePageOfEachWindowWhichNamesAllItsButtons) {
         EXPECT_EQ(Page.toStdString(), Opened) << Name.toStdString();
         for (const QString& Text : ButtonsIn(Window)) {
             ++Buttons;
-            EXPECT_TRUE(IsNamed(HelpSource(Page), Text))
+            EXPECT_TRUE(IsNamed(Source(Page), Text))
                 << Page.toStdString() << ": " << Text.toStdString();
         }
     });

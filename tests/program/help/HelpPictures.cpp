@@ -2,6 +2,8 @@
 // scripts/help-pictures runs this role and makes the files of them:
 //
 //   NEB_WINDOWS_SAMPLES=FOLDER NEB_WINDOWS_PICTURES=FOLDER test_program --role take-help-pictures
+//
+// and in another language with NEB_WINDOWS_LANGUAGE and NEB_WINDOWS_WORDS (EveryWindow.h).
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QLineEdit>
@@ -92,7 +94,8 @@ void TakeSetCaptions(QWidget& Window) {
     Grid->setFocus();
     Grid->selectAll();
     OnceUp<frmSetCaptions>([](frmSetCaptions& Up) {
-        QTest::keyClicks(Up.findChild<QWidget*>(u"txtPattern"_s), u"Holiday #"_s);
+        QTest::keyClicks(Up.findChild<QWidget*>(u"txtPattern"_s),
+                         harness::SampleWords(u"Holiday #"_s));
         Take(u"frmSetCaptions"_s, Up);
     });
     Press(Window, "cmdSetCaptions");
@@ -125,7 +128,7 @@ const std::map<QString, void (*)(QWidget&)> Before{
      [](QWidget& Window) {
          auto* Name = Window.findChild<QLineEdit*>(u"txtName"_s);
          Name->selectAll();
-         QTest::keyClicks(Name, u"Holidays"_s);
+         QTest::keyClicks(Name, harness::SampleWords(u"Holidays"_s));
      }},
     {u"frmPreferences"_s,
      [](QWidget& Window) {
@@ -134,7 +137,8 @@ const std::map<QString, void (*)(QWidget&)> Before{
          Choose(Window, "cboAlbums", 0);
          Choose(Window, "cboSlideShows", 0);
          Press(Window, "optEffects1");
-         QTest::keyClicks(Window.findChild<QWidget*>(u"lstEffects"_s), u"iris"_s);
+         QTest::keyClicks(Window.findChild<QWidget*>(u"lstEffects"_s),
+                          harness::SampleWords(u"iris"_s));
          Press(Window, "cmdPreview");
          QTest::qWait(SettleMs);
      }},
@@ -146,6 +150,7 @@ const std::map<QString, void (*)(QWidget&)> After{{u"frmSlideMgrBulk"_s, &TakeSe
                                                   {u"frmSlideShowDBM"_s, &TakeKeyCard}};
 
 int TakeAll() {
+    harness::SpeakLanguageOfWindows();
     const int Count = harness::LookAtEveryWindow(
         harness::Content::Albums, [](const QString& Name, QWidget& Window) {
             QTest::qWait(SettleMs);

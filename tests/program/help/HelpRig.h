@@ -9,6 +9,7 @@
 #include "program/MainWindowRig.h"
 #include "program/help/HelpBook.h"
 #include "program/help/frmHelp.h"
+#include "program/language/SpeakLanguage.h"
 
 namespace neb {
 
@@ -22,15 +23,20 @@ inline void LayHelpInto(const QString& ProgramFolder) {
     EXPECT_TRUE(QFile::link(kHelpSource, ProgramFolder + QStringLiteral("help")));
 }
 
+// The languages that have a folder of pages.
+inline QStringList HelpLanguages() {
+    return QDir(kHelpSource).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+}
+
 // A page's source, by its name.
-inline QString HelpSource(const QString& Page) {
-    return QString::fromUtf8(ReadFile(kHelpSource + "en/" + Page + ".html"));
+inline QString HelpSource(const QString& Page, const QString& Language = "en") {
+    return QString::fromUtf8(ReadFile(kHelpSource + Language + '/' + Page + ".html"));
 }
 
 // All pages, contents and index included, as names such as "albums/slide-manager".
-inline QStringList HelpPages() {
+inline QStringList HelpPages(const QString& Language = "en") {
     QStringList Pages;
-    const QDir Folder(kHelpSource + "en");
+    const QDir Folder(kHelpSource + Language);
     for (QDirIterator At(Folder.path(), {"*.html"}, QDir::Files, QDirIterator::Subdirectories);
          At.hasNext();)
         Pages << Folder.relativeFilePath(At.next()).chopped(5);
@@ -52,5 +58,21 @@ class HelpRig : public MainWindow {
         return Find<frmHelp>() ? Help().Page().toStdString() : "no help is open";
     }
 };
+
+// For tests that are the same in each language: the program speaks the one that is given.
+template <class Rig>
+class InEachLanguage : public Rig, public ::testing::WithParamInterface<QString> {
+  protected:
+    InEachLanguage() { SpeakLanguage({Language()}); }
+    ~InEachLanguage() override { SpeakLanguage({}); }
+
+    static QString Language() { return ::testing::WithParamInterface<QString>::GetParam(); }
+    static QString Source(const QString& Page) { return HelpSource(Page, Language()); }
+    static QStringList Pages() { return HelpPages(Language()); }
+};
+
+inline std::string NameOfLanguage(const ::testing::TestParamInfo<QString>& Row) {
+    return Row.param.toStdString();
+}
 
 }  // namespace neb

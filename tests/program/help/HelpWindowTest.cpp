@@ -78,6 +78,18 @@ TEST_F(HelpWindow, OpensAtItsContentsAndAtItsIndex) {
     EXPECT_TRUE(In<QLineEdit>("txtIndex").hasFocus());
 }
 
+class HelpWindowIn : public InEachLanguage<HelpWindow> {};
+INSTANTIATE_TEST_SUITE_P(Languages, HelpWindowIn, ::testing::ValuesIn(HelpLanguages()),
+                         &NameOfLanguage);
+
+TEST_P(HelpWindowIn, ShowsThePagesOfTheLanguageThatTheProgramSpeaks) {
+    Open();
+    EXPECT_TRUE(Source("contents").contains(QString::fromStdString("<h1>" + Title() + "</h1>")));
+    EXPECT_EQ(Title(), Help().windowTitle().toStdString());
+    QTest::keyClicks(&In<QLineEdit>("txtSearch"), "QLM.log");
+    EXPECT_GT(In<QListWidget>("lstFound").count(), 1);
+}
+
 TEST_F(HelpWindow, IsOneThatGoesToThePageAskedForAndEscClosesIt) {
     Open();
     Press("mnuHelpIndex");
