@@ -8,6 +8,7 @@
 #include <QGuiApplication>
 #include <QLibrary>
 
+#include "program/desktop/Portal.h"
 #include "program/desktop/SessionBus.h"
 
 namespace neb {
@@ -33,17 +34,16 @@ QDBusMessage ServiceCall(const QString& Method) {
 QDBusMessage PortalCall(const QString& Reason) {
     constexpr uint KeepFromIdling = 8;
     QDBusMessage Call = QDBusMessage::createMethodCall(
-        QStringLiteral("org.freedesktop.portal.Desktop"),
-        QStringLiteral("/org/freedesktop/portal/desktop"),
-        QStringLiteral("org.freedesktop.portal.Inhibit"), QStringLiteral("Inhibit"));
+        portal::Service, portal::Object, QStringLiteral("org.freedesktop.portal.Inhibit"),
+        QStringLiteral("Inhibit"));
     Call << QString() << KeepFromIdling << QVariantMap{{QStringLiteral("reason"), Reason}};
     return Call;
 }
 
 QDBusMessage CloseCall(const QDBusObjectPath& Request) {
-    return QDBusMessage::createMethodCall(
-        QStringLiteral("org.freedesktop.portal.Desktop"), Request.path(),
-        QStringLiteral("org.freedesktop.portal.Request"), QStringLiteral("Close"));
+    return QDBusMessage::createMethodCall(portal::Service, Request.path(),
+                                          QStringLiteral("org.freedesktop.portal.Request"),
+                                          QStringLiteral("Close"));
 }
 
 #if QT_CONFIG(xcb)

@@ -4,20 +4,20 @@
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 
+#include "program/desktop/Portal.h"
 #include "program/desktop/SessionBus.h"
 
 namespace neb {
 namespace {
 
-const QString Service = QStringLiteral("org.freedesktop.portal.Desktop");
-const QString Object = QStringLiteral("/org/freedesktop/portal/desktop");
-const QString Interface = QStringLiteral("org.freedesktop.portal.Settings");
+const QString SettingsInterface = QStringLiteral("org.freedesktop.portal.Settings");
 
 // A portal that has to be started takes its time, which the program's start must not take as well.
 constexpr int PatienceNow = 250, PatienceLater = 20000;  // ms
 
 QDBusMessage ReadCall(const QString& Group, const QString& Key) {
-    return QDBusMessage::createMethodCall(Service, Object, Interface, QStringLiteral("Read"))
+    return QDBusMessage::createMethodCall(portal::Service, portal::Object, SettingsInterface,
+                                          QStringLiteral("Read"))
            << Group << Key;
 }
 
@@ -39,7 +39,8 @@ DesktopSettings::DesktopSettings(const QDBusConnection& Bus) : mBus(Bus) {
     // the slot takes one, which the bus must know by name before it is connected
     qRegisterMetaType<QDBusVariant>("QDBusVariant");
     if (mBus.isConnected())
-        mBus.connect(Service, Object, Interface, QStringLiteral("SettingChanged"), this,
+        mBus.connect(portal::Service, portal::Object, SettingsInterface,
+                     QStringLiteral("SettingChanged"), this,
                      SLOT(SettingChanged(QString, QString, QDBusVariant)));
 }
 

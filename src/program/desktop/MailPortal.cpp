@@ -11,15 +11,14 @@
 
 #include "program/desktop/AwaitAnswer.h"
 #include "program/desktop/DesktopMail.h"
+#include "program/desktop/Portal.h"
 #include "support/Fault.h"
 #include "support/files/modHostFilesAccess.h"
 
 namespace neb {
 namespace {
 
-const QString Service = QStringLiteral("org.freedesktop.portal.Desktop");
-const QString Object = QStringLiteral("/org/freedesktop/portal/desktop");
-const QString Interface = QStringLiteral("org.freedesktop.portal.Email");
+const QString MailInterface = QStringLiteral("org.freedesktop.portal.Email");
 
 // A portal that has to be started takes its time; one that asks the user takes his.
 constexpr int PatienceToBegin = 10000, PatienceToEnd = 3000;  // ms
@@ -67,7 +66,7 @@ MailPortal::MailPortal(const QDBusConnection& Bus) : mBus(Bus) {
 
 QString MailPortal::RequestPath(const QString& OfToken) const {
     const QString Sender = mBus.baseService().mid(1).replace(u'.', u'_');
-    return Object + QStringLiteral("/request/") + Sender + u'/' + OfToken;
+    return portal::Object + QStringLiteral("/request/") + Sender + u'/' + OfToken;
 }
 
 void MailPortal::Response(uint Result, const QVariantMap&) {
@@ -82,20 +81,20 @@ bool MailPortal::Compose(const MailMessage& Message) {
     const auto* Slot = SLOT(Response(uint, QVariantMap));
     mResult.reset();
     // before the question: the answer may be quicker than the call's return
-    mBus.connect(Service, Path, Answers, QStringLiteral("Response"), this, Slot);
+    mBus.connect(portal::Service, Path, Answers, QStringLiteral("Response"), this, Slot);
     bool Taken = false;
     try {
         Taken = Ask(OptionsFor(Message, Token));
     } catch (const Fault&) {
         // without the attachment there is nothing to send
     }
-    mBus.disconnect(Service, Path, Answers, QStringLiteral("Response"), this, Slot);
+    mBus.disconnect(portal::Service, Path, Answers, QStringLiteral("Response"), this, Slot);
     return Taken;
 }
 
 bool MailPortal::Ask(const QVariantMap& Options) {
-    QDBusMessage Call =
-        QDBusMessage::createMethodCall(Service, Object, Interface, QStringLiteral("ComposeEmail"));
+    QDBusMessage Call = QDBusMessage::createMethodCall(
+        portal::Service, portal::Object, MailInterface, QStringLiteral("ComposeEmail"));
     Call << WindowName() << Options;
     const QDBusPendingReply<QDBusObjectPath> Reply = mBus.asyncCall(Call, PatienceToBegin);
     AwaitAnswer(PatienceToBegin, [&] { return Reply.isFinished(); });
