@@ -6,15 +6,49 @@ add_link_options(-Wl,--as-needed)
 
 add_library(neb_flags INTERFACE)
 target_compile_options(neb_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor
-                                           -Wold-style-cast -Wno-missing-field-initializers -Werror)
+                                           -Wold-style-cast -Wno-missing-field-initializers -Werror
+  # Who shares precompiled headers agrees on it with all others that do.
+  $<$<BOOL:$<TARGET_PROPERTY:NEB_SHARES_HEADERS>>:-pthread>)
 target_compile_definitions(neb_flags INTERFACE QT_NO_KEYWORDS QT_NO_CAST_TO_ASCII
                                                QT_DISABLE_DEPRECATED_BEFORE=0x060000)
 target_include_directories(neb_flags INTERFACE ${PROJECT_SOURCE_DIR}/src)
+# Sources that are compiled together are no headers to one another, and what one names for itself is
+# hidden by no local name of the next.
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  target_compile_options(neb_flags INTERFACE
+    "$<$<BOOL:$<TARGET_PROPERTY:UNITY_BUILD>>:-Wno-subobject-linkage;-Wno-shadow;-Wshadow=local>")
+endif()
 if(NEB_SANITIZE)
   target_compile_options(neb_flags INTERFACE -fsanitize=address,undefined,fuzzer-no-link
                                              -fno-sanitize-recover=undefined)
   target_link_options(neb_flags INTERFACE -fsanitize=address,undefined)
 endif()
+
+# neb_together(TARGET SOURCES [APART room ...])
+# Up to six sources of a room are compiled as one, which reads their headers once, and who changes one
+# file does not wait for many. Names of their own must differ within a room then; in those that are
+# APART they need not.
+function(neb_together TARGET SOURCES)
+  cmake_parse_arguments(U "" "" "APART" ${ARGN})
+  list(JOIN U_APART "|" apart)
+  set_target_properties(${TARGET} PROPERTIES UNITY_BUILD ${NEB_UNITY} UNITY_BUILD_MODE GROUP)
+  set(before "")
+  foreach(source ${SOURCES})
+    cmake_path(GET source PARENT_PATH room)
+    if(NOT source MATCHES "\\.cpp$" OR room MATCHES "/(${apart})$")
+      continue()
+    endif()
+    if(NOT room STREQUAL before)
+      set(count 0)
+      set(before ${room})
+      file(RELATIVE_PATH name ${PROJECT_SOURCE_DIR} ${room})
+      string(REPLACE "/" "_" name ${name})
+    endif()
+    math(EXPR group "${count} / 6")
+    math(EXPR count "${count} + 1")
+    set_source_files_properties(${source} PROPERTIES UNITY_GROUP ${name}_${group})
+  endforeach()
+endfunction()
 
 # Floating point that comes out alike on every machine: nothing fused, nothing reckoned too exactly.
 add_library(neb_exact INTERFACE)
@@ -24,12 +58,14 @@ if(CMAKE_SIZEOF_VOID_P EQUAL 4 AND CMAKE_SYSTEM_PROCESSOR MATCHES "86")
 endif()
 
 # neb_library(NAME sound FLOOR 2 KNOWS texts|pictures|windows ROOMS decoding mixing devices .
-#             DEPENDS neb_x Qt6::Y [HIDDEN z] [MODULE])
+#             DEPENDS neb_x Qt6::Y [HIDDEN z] [APART rooms] [FAST] [OWN_HEADERS] [MODULE])
 # The top folder src/NAME as the library neb_NAME, with the sources of its ROOMS: its subfolders and,
 # as ".", the folder itself. The order of these calls, and of the rooms in each, is the order of the
 # house: a room uses those named before it, of the libraries that its own DEPENDS on. What KNOWS
 # texts sees no part of Qt's drawing, what knows pictures no window. What is DEPENDS is passed on to
-# the users of the library, what is HIDDEN is not. A MODULE is no part of the programs: its users see
+# the users of the library, what is HIDDEN is not. What is FAST is optimised in a development build
+# too, and shares its precompiled headers with none, as what is compiled with options of others
+# (OWN_HEADERS). A MODULE is no part of the programs: its users see
 # its headers, and load lib/neb-slide-show/neb-NAME.so beside the folder of the program when they
 # first need it. tests/layout checks it all.
 set_property(GLOBAL PROPERTY NEB_HOUSE "")
@@ -37,7 +73,7 @@ set(neb_headers_texts core)
 set(neb_headers_pictures core)
 set(neb_headers_windows gui)
 function(neb_library)
-  cmake_parse_arguments(L "MODULE" "NAME;FLOOR;KNOWS" "ROOMS;DEPENDS;HIDDEN" ${ARGN})
+  cmake_parse_arguments(L "FAST;OWN_HEADERS;MODULE" "NAME;FLOOR;KNOWS" "ROOMS;APART;DEPENDS;HIDDEN" ${ARGN})
   set(uses ${L_DEPENDS})
   list(FILTER uses INCLUDE REGEX "^neb_")
   list(TRANSFORM uses REPLACE "^neb_" "")
@@ -62,10 +98,23 @@ function(neb_library)
     return()
   endif()
   add_library(neb_${L_NAME} STATIC ${sources})
-  set_target_properties(neb_${L_NAME} PROPERTIES AUTOMOC ON AUTOUIC ON AUTORCC ON)
+  neb_together(neb_${L_NAME} "${sources}" APART ${L_APART})
+  set_target_properties(neb_${L_NAME} PROPERTIES AUTOMOC ON AUTOUIC ON AUTORCC ON
+                                                 NEB_SHARES_HEADERS ON)
   target_link_libraries(neb_${L_NAME} PUBLIC neb_flags ${L_DEPENDS} PRIVATE ${L_HIDDEN})
-  target_precompile_headers(neb_${L_NAME} PRIVATE
-                            ${PROJECT_SOURCE_DIR}/cmake/pch_${neb_headers_${L_KNOWS}}.h)
+  if(L_FAST)
+    target_compile_options(neb_${L_NAME} PRIVATE -O3)
+  endif()
+  set(headers ${neb_headers_${L_KNOWS}})
+  get_property(first GLOBAL PROPERTY NEB_FIRST_OF_${headers})
+  if(first AND NOT L_FAST AND NOT L_OWN_HEADERS AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    target_precompile_headers(neb_${L_NAME} REUSE_FROM ${first})
+  else()
+    target_precompile_headers(neb_${L_NAME} PRIVATE ${PROJECT_SOURCE_DIR}/cmake/pch_${headers}.h)
+  endif()
+  if(NOT first)
+    set_property(GLOBAL PROPERTY NEB_FIRST_OF_${headers} neb_${L_NAME})
+  endif()
 endfunction()
 
 # neb_part(NAME SOURCE LIBRARIES ...): a program that the program starts by itself, beside its modules.
@@ -103,7 +152,7 @@ endfunction()
 # most of the time. OTHER_MACHINE: it is compiled for another processor than the harness, whose
 # precompiled headers it cannot share.
 function(neb_test)
-  cmake_parse_arguments(T "OTHER_MACHINE" "NAME;DIR;SHARDS;BUT" "DEPENDS;FILES" ${ARGN})
+  cmake_parse_arguments(T "OTHER_MACHINE" "NAME;DIR;SHARDS;BUT" "APART;DEPENDS;FILES" ${ARGN})
   set(dir ${PROJECT_SOURCE_DIR}/${T_DIR})
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${dir}/*.cpp ${dir}/*.h)
   if(T_BUT)
@@ -116,6 +165,7 @@ function(neb_test)
     return()
   endif()
   add_executable(test_${T_NAME} ${sources})
+  neb_together(test_${T_NAME} "${sources}" APART ${T_APART})
   set_target_properties(test_${T_NAME} PROPERTIES AUTOMOC ON)
   target_link_libraries(test_${T_NAME} PRIVATE ${T_DEPENDS} neb_harness)
   target_include_directories(test_${T_NAME} PRIVATE ${PROJECT_SOURCE_DIR}/tests)

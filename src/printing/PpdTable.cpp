@@ -10,7 +10,7 @@
 namespace neb {
 namespace {
 
-constexpr qsizetype SumLength = 32;
+constexpr qsizetype TableSumLength = 32;
 // Far beyond any paper, and still a number of dots that a painter can count.
 constexpr double MostInches = 100000;
 
@@ -166,7 +166,7 @@ std::vector<PpdPicture> TakePictures(TableReader& From) {
         const auto Length = From.Take<quint64>();
         From.Must(Length > 0 && Length <= LargestPictureFile);
         Pictures.push_back(
-            {At, static_cast<qint64>(Length), From.TakeBytes(SumLength).toByteArray()});
+            {At, static_cast<qint64>(Length), From.TakeBytes(TableSumLength).toByteArray()});
         At += Pictures.back().Length;
         Sums.insert(Pictures.back().Sum);
     }

@@ -11,7 +11,7 @@ namespace {
 
 // Fine enough that no letter is bent to whole dots.
 constexpr double DotsToTheInch = 1440;
-constexpr double PointsToTheInch = 72;
+constexpr double PointsOfText = 72;
 constexpr double LargestSize = 9;    // points
 constexpr double PictureDots = 600;  // to the inch, of letters that are pictures
 // More than any page shows; the work grows faster than the text.
@@ -21,7 +21,7 @@ constexpr qsizetype MostCharacters = 10000;
 QFont FontFor(double Height) {
     QFont Font;
     Font.setHintingPreference(QFont::PreferNoHinting);
-    Font.setPixelSize(static_cast<int>(LargestSize * DotsToTheInch / PointsToTheInch));
+    Font.setPixelSize(static_cast<int>(LargestSize * DotsToTheInch / PointsOfText));
     const double Line = QFontMetricsF(Font).height();
     if (Line > Height)
         Font.setPixelSize(std::max(1, static_cast<int>(Font.pixelSize() * Height / Line)));

@@ -40,7 +40,7 @@
 namespace neb {
 namespace {
 
-constexpr int RetryMs = 50;
+constexpr int CloseRetryMs = 50;
 constexpr int WarmUpMs = 200;
 constexpr int MeanwhileMs = 1500;  // for which another program may be starting or ending
 
@@ -199,7 +199,7 @@ void CloseWhenIdle(frmNEBSlideShow& Window) {
         }
         if (!CloseTopmost(Window)) return;
     }
-    QTimer::singleShot(RetryMs, &Window, [&Window] { CloseWhenIdle(Window); });
+    QTimer::singleShot(CloseRetryMs, &Window, [&Window] { CloseWhenIdle(Window); });
 }
 
 namespace {
@@ -228,7 +228,7 @@ LockAnswer LockOrCall(InstanceLock& Lock, const CallRunning& Call, HandedOver& A
     LockAnswer Is = Lock.TryLock();
     while (Is.Is == LockAnswer::State::HeldHere && Call &&
            (Answered = Call()) == HandedOver::NotThere) {
-        QThread::msleep(RetryMs);
+        QThread::msleep(CloseRetryMs);
         Is = Lock.TryLock();
         if (Patience.hasExpired()) break;
     }

@@ -9,7 +9,7 @@ namespace {
 
 constexpr double Day = 86400;
 // The clock counts milliseconds; sums of them are a hair off.
-constexpr double HalfAMillisecond = 0.0005;
+constexpr double HalfAnInstant = 0.0005;
 // A start that lies so little ahead is no day away.
 constexpr double JustAhead = 1;
 
@@ -39,7 +39,7 @@ double SlideClock::Elapsed() const {
 }
 
 bool SlideClock::IsOver(double Elapsed, double Interval) {
-    return Elapsed + HalfAMillisecond >= Interval;
+    return Elapsed + HalfAnInstant >= Interval;
 }
 
 }  // namespace neb

@@ -7,8 +7,8 @@
 namespace neb {
 namespace {
 
-constexpr double Limit = 4.0;  // seconds of a transition
-constexpr float Day = 86400;   // seconds
+constexpr double Limit = 4.0;        // seconds of a transition
+constexpr float DayOfTimer = 86400;  // seconds
 constexpr double TimeoutAfterRetreat = 10;
 constexpr std::int32_t Ladder[] = {100, 50, 35, 25, 20, 10, 5, 1};
 constexpr std::int32_t Largest = Ladder[0];
@@ -88,7 +88,7 @@ QString SpeedLadder::Title() const {
 
 // The clock runs from the start of the level: the time of a round holds those before it.
 SpeedLadder::Verdict SpeedLadder::RoundOver(float Now) {
-    EndTime = Now < StartTime ? Now + Day : Now;
+    EndTime = Now < StartTime ? Now + DayOfTimer : Now;
     AvgTime = (double{EndTime} - double{StartTime}) / 2;
     if (AvgTime > Limit) {
         const bool TooSlow = TakeBack();

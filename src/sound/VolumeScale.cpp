@@ -11,14 +11,14 @@ namespace neb {
 namespace {
 
 constexpr double AStep = 25;
-constexpr int Silence = -10000;
+constexpr int SilentVolume = -10000;
 // Where a straight line to silence goes on as steeply as the steps do: a volume of 34.7.
 constexpr double Bend = 2000 / (AStep * std::numbers::ln10);
 
 }  // namespace
 
 int HundredthsOfVolume(int Value) {
-    if (Value <= 0) return Silence;
+    if (Value <= 0) return SilentVolume;
     if (Value >= Bend) return CInt((Value - 100) * AStep);
     return CInt((Bend - 100) * AStep + 2000 * std::log10(Value / Bend));
 }

@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::int32_t MostSeconds = 20;
 constexpr int MomentsPerSecond = 10;  // what the meter calls a moment
-constexpr std::uint8_t Silence = 128;
+constexpr std::uint8_t SilentSample = 128;
 
 struct RateOfCaps {
     std::uint32_t Caps;
@@ -127,7 +127,7 @@ void clsDirectSound::Recorder::BuildPlaybackBuffer() {
     if (RecordedBytes == 0) return;
     mBytes = ReadRecorded(0, RecordedBytes + 1);
     // Beyond the recording there is nothing to hear, whatever the device has there.
-    mBytes[RecordedBytes] = static_cast<char>(Silence);
+    mBytes[RecordedBytes] = static_cast<char>(SilentSample);
     mBufferBuilt = true;
 }
 
@@ -193,8 +193,8 @@ QByteArray clsDirectSound::Recorder::LastMoment() const {
 double clsDirectSound::Recorder::Level() const {
     int Peak = 0;
     for (const char Sample : LastMoment())
-        Peak = std::max(Peak, std::abs(static_cast<std::uint8_t>(Sample) - Silence));
-    return Peak / static_cast<double>(Silence);
+        Peak = std::max(Peak, std::abs(static_cast<std::uint8_t>(Sample) - SilentSample));
+    return Peak / static_cast<double>(SilentSample);
 }
 
 // ---- clsDirectSound passes on ----

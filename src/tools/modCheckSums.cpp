@@ -10,14 +10,14 @@
 namespace neb {
 namespace {
 
-constexpr std::pair<SumsFinding::Kind, const char*> Words[] = {
+constexpr std::pair<SumsFinding::Kind, const char*> FindingWords[] = {
     {SumsFinding::Kind::Changed, "changed"},
     {SumsFinding::Kind::Missing, "missing"},
     {SumsFinding::Kind::Unreadable, "cannot be read"},
 };
 
 QString LineFor(const SumsFinding& Finding) {
-    for (const auto& [Kind, Word] : Words)
+    for (const auto& [Kind, Word] : FindingWords)
         if (Kind == Finding.Is) return QLatin1String(Word) + QStringLiteral(": ") + Finding.Path;
     return Finding.Path;
 }

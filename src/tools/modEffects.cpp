@@ -136,7 +136,7 @@ struct EffectCommand {
     const char* Help;  // lines of 90 characters at most, indented when printed
     int (*Run)(const QStringList& Words, ToolIO& IO);
 };
-constexpr EffectCommand Table[] = {
+constexpr EffectCommand EffectTable[] = {
     {"list", "",
      "Prints number, name, engine and level of each transition as JSON; the level (1 light\n"
      "to 3 heavy) follows from the times beside the program.\n",
@@ -160,7 +160,7 @@ constexpr EffectCommand Table[] = {
 // "list, timings, render and sheet"
 QString Names() {
     QStringList All;
-    for (const EffectCommand& Row : Table) All << QLatin1String(Row.Name);
+    for (const EffectCommand& Row : EffectTable) All << QLatin1String(Row.Name);
     const QString Last = All.takeLast();
     return All.join(QStringLiteral(", ")) + QStringLiteral(" and ") + Last;
 }
@@ -168,7 +168,7 @@ QString Names() {
 }  // namespace
 
 void PrintEffectsHelp(std::ostream& Stream) {
-    for (const EffectCommand& Row : Table) {
+    for (const EffectCommand& Row : EffectTable) {
         Stream << "  effects " << Row.Name << Row.Arguments << '\n';
         for (const QByteArray& Line : QByteArray(Row.Help).trimmed().split('\n'))
             Stream << "      " << Line.constData() << '\n';
@@ -176,7 +176,7 @@ void PrintEffectsHelp(std::ostream& Stream) {
 }
 
 int RunEffects(const QStringList& Arguments, ToolIO& IO) {
-    for (const EffectCommand& Row : Table)
+    for (const EffectCommand& Row : EffectTable)
         if (Arguments.value(0) == QLatin1String(Row.Name)) return Row.Run(Arguments.mid(1), IO);
     return Misused(IO, QStringLiteral("One of %1 is wanted").arg(Names()));
 }

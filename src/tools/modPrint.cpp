@@ -20,7 +20,7 @@ struct PrintOrder {
     GridWish Grid;
 };
 
-bool Misused(ToolIO& IO, const QString& Wanted) {
+bool MisusedPrint(ToolIO& IO, const QString& Wanted) {
     Fail(IO, Wanted + QStringLiteral("; see nebctl print --help."));
     return false;
 }
@@ -31,7 +31,7 @@ bool TakeNames(QStringList& Words, PrintOrder& Order, ToolIO& IO) {
     for (const auto& [Name, Into] : Texts) {
         const auto Value = TakeOption(Words, QLatin1String(Name));
         if (Value && Value->trimmed().isEmpty())
-            return Misused(IO, QStringLiteral("%1 wants a name").arg(QLatin1String(Name)));
+            return MisusedPrint(IO, QStringLiteral("%1 wants a name").arg(QLatin1String(Name)));
         *Into = Value.value_or(QString());
     }
     return true;
@@ -45,7 +45,7 @@ bool TakeNumbers(QStringList& Words, GridWish& Grid, ToolIO& IO) {
         bool Sound = true;
         if (Value) *Into = Value->toDouble(&Sound);
         if (!Sound)
-            return Misused(IO, QStringLiteral("%1 wants a number").arg(QLatin1String(Name)));
+            return MisusedPrint(IO, QStringLiteral("%1 wants a number").arg(QLatin1String(Name)));
     }
     return true;
 }
@@ -54,13 +54,13 @@ bool TakeTurn(QStringList& Words, GridWish& Grid, ToolIO& IO) {
     const bool Landscape = Words.removeAll(QStringLiteral("--landscape")) > 0;
     const bool Portrait = Words.removeAll(QStringLiteral("--portrait")) > 0;
     if (Landscape && Portrait)
-        return Misused(IO, QStringLiteral("A page is either --landscape or --portrait"));
+        return MisusedPrint(IO, QStringLiteral("A page is either --landscape or --portrait"));
     Grid.Turn = Portrait ? PageTurn::Portrait : PageTurn::Landscape;
     return true;
 }
 
 // Nothing after a line on Err when the words do not make an order.
-std::optional<PrintOrder> ReadOrder(QStringList Words, ToolIO& IO) {
+std::optional<PrintOrder> ReadPrintOrder(QStringList Words, ToolIO& IO) {
     PrintOrder Order;
     if (!TakeNames(Words, Order, IO) || !TakeNumbers(Words, Order.Grid, IO) ||
         !TakeTurn(Words, Order.Grid, IO))
@@ -68,16 +68,16 @@ std::optional<PrintOrder> ReadOrder(QStringList Words, ToolIO& IO) {
     Order.Grid.WholeSheet = Words.removeAll(QStringLiteral("--whole-sheet")) > 0;
     for (const QString& Word : Words)
         if (Word.startsWith(u"--")) {
-            Misused(IO, QStringLiteral("%1 is no option of print").arg(Word));
+            MisusedPrint(IO, QStringLiteral("%1 is no option of print").arg(Word));
             return std::nullopt;
         }
     if (Order.Album.isEmpty()) {
-        Misused(IO, QStringLiteral("--album NAME is wanted"));
+        MisusedPrint(IO, QStringLiteral("--album NAME is wanted"));
         return std::nullopt;
     }
     Order.Out = Words.size() == 2 ? Words.takeLast() : QString();
     if (!Order.Out.endsWith(u".pdf", Qt::CaseInsensitive)) {
-        Misused(IO, QStringLiteral("A database and a file OUT.pdf are wanted"));
+        MisusedPrint(IO, QStringLiteral("A database and a file OUT.pdf are wanted"));
         return std::nullopt;
     }
     const std::optional<QString> Dir = OneDirectory(Words, IO);
@@ -141,7 +141,7 @@ class ToolPrint {
 }  // namespace
 
 int RunPrint(const QStringList& Arguments, ToolIO& IO) {
-    const std::optional<PrintOrder> Order = ReadOrder(Arguments, IO);
+    const std::optional<PrintOrder> Order = ReadPrintOrder(Arguments, IO);
     if (!Order) return ExitFailed;
     auto Grid = GridFor(Order->Grid);
     if (!Grid) return Fail(IO, Grid.Refusal().Text);

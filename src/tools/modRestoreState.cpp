@@ -17,7 +17,7 @@ struct RestoreOrder {
     int Number = 0;  // as the history counts
 };
 
-std::optional<RestoreOrder> ReadOrder(QStringList Words, ToolIO& IO) {
+std::optional<RestoreOrder> ReadRestoreOrder(QStringList Words, ToolIO& IO) {
     const auto Number = Words.size() == 2 ? WholeNumber(Words[1], 1, MostStates) : std::nullopt;
     if (!Number) {
         Fail(IO, QStringLiteral("A database directory and a number of nebctl history are wanted; "
@@ -67,7 +67,7 @@ int Restore(clsDBEngine& Engine, const Generation& Which, ToolIO& IO) {
 int RunRestore(const QStringList& Arguments, ToolIO& IO) {
     QStringList Words = Arguments;
     const std::optional<OpenWays> How = TakeWays(Words, IO);
-    const std::optional<RestoreOrder> Order = How ? ReadOrder(Words, IO) : std::nullopt;
+    const std::optional<RestoreOrder> Order = How ? ReadRestoreOrder(Words, IO) : std::nullopt;
     if (!Order) return ExitFailed;
     const std::vector<Generation> All = ListGenerations(Order->Dir);
     if (static_cast<size_t>(Order->Number) > All.size())

@@ -25,7 +25,7 @@ struct TransferOrder {
     OpenWays Ways;  // into the destination; a source is taken over alike
 };
 
-bool Misused(ToolIO& IO, const QString& Wanted) {
+bool MisusedTransfer(ToolIO& IO, const QString& Wanted) {
     Fail(IO, Wanted + QStringLiteral("; see nebctl transfer --help."));
     return false;
 }
@@ -37,7 +37,7 @@ bool TakeOptions(QStringList& Words, TransferOrder& Order, ToolIO& IO) {
     for (const auto& [Name, Into] : Texts) {
         const auto Value = TakeOption(Words, QLatin1String(Name));
         if (Value && Value->trimmed().isEmpty())
-            return Misused(IO, QStringLiteral("%1 wants a name").arg(QLatin1String(Name)));
+            return MisusedTransfer(IO, QStringLiteral("%1 wants a name").arg(QLatin1String(Name)));
         *Into = ConvertQuotes(Value.value_or(QString()));
     }
     const std::optional<OpenWays> Ways = TakeWays(Words, IO);
@@ -46,11 +46,11 @@ bool TakeOptions(QStringList& Words, TransferOrder& Order, ToolIO& IO) {
     Order.Replace = Words.removeAll(QStringLiteral("--replace")) > 0;
     Order.WithoutMissing = Words.removeAll(QStringLiteral("--without-missing")) > 0;
     if (Words.size() == 2) return true;
-    return Misused(IO, QStringLiteral("A source and a destination are wanted"));
+    return MisusedTransfer(IO, QStringLiteral("A source and a destination are wanted"));
 }
 
 // Nothing after a line on Err when the words do not make an order.
-std::optional<TransferOrder> ReadOrder(QStringList Words, ToolIO& IO) {
+std::optional<TransferOrder> ReadTransferOrder(QStringList Words, ToolIO& IO) {
     TransferOrder Order;
     if (!TakeOptions(Words, Order, IO)) return std::nullopt;
     const auto Src = OneDirectory({Words[0]}, IO);
@@ -218,7 +218,7 @@ class ToolTransfer {
 }  // namespace
 
 int RunTransfer(const QStringList& Arguments, ToolIO& IO) {
-    const std::optional<TransferOrder> Order = ReadOrder(Arguments, IO);
+    const std::optional<TransferOrder> Order = ReadTransferOrder(Arguments, IO);
     if (!Order) return ExitFailed;
     const auto Databases = OpenBoth(*Order, IO);
     return Databases ? ToolTransfer(*Order, *Databases, IO).Run() : ExitFailed;

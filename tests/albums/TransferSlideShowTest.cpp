@@ -5,11 +5,11 @@
 namespace neb::harness {
 namespace {
 
-enum class Into { NewAlbum, NewShow, Replaced };
+enum class ShowInto { NewAlbum, NewShow, Replaced };
 struct ShowWay {
     const char* Name;
     bool Import, OtherDatabase;
-    Into Target;
+    ShowInto Target;
 };
 void PrintTo(const ShowWay& Way, std::ostream* Out) {
     *Out << Way.Name;
@@ -25,9 +25,9 @@ class ShowWays : public TransferRig, public ::testing::WithParamInterface<ShowWa
         StatedTransfer What{.NewAlbumName = u"Album's name"_s, .NewSlideShowName = u"\"Tour\""_s};
         What.SrcAlbumID = &Source() == &Own ? GardenID : HillsID;
         What.SrcSlideShowID = Source().Engine.GetAlbum(What.SrcAlbumID)->SlideShows[0]->SlideShowID;
-        if (GetParam().Target == Into::NewAlbum) return What;
+        if (GetParam().Target == ShowInto::NewAlbum) return What;
         What.DstAlbumID = &Target() == &Own ? SeaID : TownID;
-        if (GetParam().Target == Into::Replaced)
+        if (GetParam().Target == ShowInto::Replaced)
             What.DstSlideShowID =
                 Target().Engine.GetAlbum(What.DstAlbumID)->SlideShows[0]->SlideShowID;
         return What;
@@ -47,24 +47,24 @@ TEST_P(ShowWays, ASecondTimeArrivesAsWell) {
     const TransferResult First = ExpectDone(Source().Engine, Target().Engine, What());
     StatedTransfer Twice = What();
     Twice.NewAlbumName = u"Again"_s;
-    if (GetParam().Target == Into::Replaced) Twice.DstSlideShowID = First.DstSlideShowID;
+    if (GetParam().Target == ShowInto::Replaced) Twice.DstSlideShowID = First.DstSlideShowID;
     ExpectDone(Source().Engine, Target().Engine, Twice);
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Transfer, ShowWays,
-    ::testing::Values(ShowWay{"ExportToNewAlbumInOwn", false, false, Into::NewAlbum},
-                      ShowWay{"ExportToNewShowInOwn", false, false, Into::NewShow},
-                      ShowWay{"ExportOverOneInOwn", false, false, Into::Replaced},
-                      ShowWay{"ExportToNewAlbumInOther", false, true, Into::NewAlbum},
-                      ShowWay{"ExportToNewShowInOther", false, true, Into::NewShow},
-                      ShowWay{"ExportOverOneInOther", false, true, Into::Replaced},
-                      ShowWay{"ImportToNewAlbumFromOwn", true, false, Into::NewAlbum},
-                      ShowWay{"ImportToNewShowFromOwn", true, false, Into::NewShow},
-                      ShowWay{"ImportOverOneFromOwn", true, false, Into::Replaced},
-                      ShowWay{"ImportToNewAlbumFromOther", true, true, Into::NewAlbum},
-                      ShowWay{"ImportToNewShowFromOther", true, true, Into::NewShow},
-                      ShowWay{"ImportOverOneFromOther", true, true, Into::Replaced}),
+    ::testing::Values(ShowWay{"ExportToNewAlbumInOwn", false, false, ShowInto::NewAlbum},
+                      ShowWay{"ExportToNewShowInOwn", false, false, ShowInto::NewShow},
+                      ShowWay{"ExportOverOneInOwn", false, false, ShowInto::Replaced},
+                      ShowWay{"ExportToNewAlbumInOther", false, true, ShowInto::NewAlbum},
+                      ShowWay{"ExportToNewShowInOther", false, true, ShowInto::NewShow},
+                      ShowWay{"ExportOverOneInOther", false, true, ShowInto::Replaced},
+                      ShowWay{"ImportToNewAlbumFromOwn", true, false, ShowInto::NewAlbum},
+                      ShowWay{"ImportToNewShowFromOwn", true, false, ShowInto::NewShow},
+                      ShowWay{"ImportOverOneFromOwn", true, false, ShowInto::Replaced},
+                      ShowWay{"ImportToNewAlbumFromOther", true, true, ShowInto::NewAlbum},
+                      ShowWay{"ImportToNewShowFromOther", true, true, ShowInto::NewShow},
+                      ShowWay{"ImportOverOneFromOther", true, true, ShowInto::Replaced}),
     [](const auto& Info) { return std::string(Info.param.Name); });
 
 class TransferShowRules : public TransferRig {

@@ -251,7 +251,7 @@ TEST_F(SessionJournalTest, TakenBackThereIsNoneWhereNoneWas) {
 }
 
 // What an engine holds, as the record files that it would write.
-std::map<std::string, QByteArray> ContentOf(const clsDBEngine& Engine) {
+std::map<std::string, QByteArray> JournalledContent(const clsDBEngine& Engine) {
     const RecordImage Image = BuildImage(Engine);
     std::map<std::string, QByteArray> Files;
     for (const RecordFile File : AllRecordFiles) Files[RecordFileName(File)] = Image[File].Unpack();
@@ -270,7 +270,7 @@ class SessionChangesTest : public ::testing::Test {
         EXPECT_FALSE(Entries.isEmpty());
         for (const QByteArray& Each : Entries)
             EXPECT_TRUE(CarryOutEntry(Before, Each) && CarryOutEntry(Before, Each));
-        EXPECT_EQ(ContentOf(Now), ContentOf(Before));
+        EXPECT_EQ(JournalledContent(Now), JournalledContent(Before));
         Entries.clear();
     }
     static clsNEBSlideShow ShowOf(std::int32_t ID, const QString& Name) {
@@ -348,12 +348,12 @@ TEST_F(SessionChangesTest, ACaptionOfALargeDatabaseIsASmallEntry) {
 TEST_F(SessionChangesTest, BytesThatAreNoEntryChangeNothing) {
     Changes(Now).SaveShow(1, ShowOf(0, u"Summer"_s));
     const QByteArray Entry = Entries.last();
-    const auto Untouched = ContentOf(Before);
+    const auto Untouched = JournalledContent(Before);
     for (qsizetype Length = 0; Length < Entry.size(); ++Length)
         EXPECT_FALSE(CarryOutEntry(Before, Entry.first(Length)));
     EXPECT_FALSE(CarryOutEntry(Before, Entry + "x"));
     EXPECT_FALSE(CarryOutEntry(Before, QByteArray(200, '\xFF')));
-    EXPECT_EQ(Untouched, ContentOf(Before));
+    EXPECT_EQ(Untouched, JournalledContent(Before));
 }
 
 }  // namespace

@@ -389,21 +389,22 @@ TEST_F(PpdFileTest, MeasuresThatNoFileHoldsAreRefusedBeforeItIsWritten) {
 }
 
 // Bytes of this process that are in memory.
-qint64 Resident() {
+qint64 ResidentNow() {
     QFile Numbers(u"/proc/self/statm"_s);
     if (!Numbers.open(QIODevice::ReadOnly)) return 0;
     return Numbers.readAll().split(' ').value(1).toLongLong() * 4096;
 }
 
 TEST_F(PpdFileTest, AThousandPagesTakeNoMoreMemoryThanAHundred) {
-    if (RunsUnderSanitizer || Resident() == 0) GTEST_SKIP() << "freed memory is kept, or unknown";
+    if (RunsUnderSanitizer || ResidentNow() == 0)
+        GTEST_SKIP() << "freed memory is kept, or unknown";
     const QByteArray Jpeg = JpegOf(Noise({200, 150}, 11));
     ASSERT_GT(Jpeg.size(), 50000);
     const PrintDocument Document = Pages(1000, Jpeg);
     qint64 AtHundred = 0, Most = 0;
     const auto Watch = [&](const PrintProgress& Now) {
-        if (Now.Done == 100) AtHundred = Most = Resident();
-        if (Now.Done > 100) Most = std::max(Most, Resident());
+        if (Now.Done == 100) AtHundred = Most = ResidentNow();
+        if (Now.Done > 100) Most = std::max(Most, ResidentNow());
         return true;
     };
     constexpr qint64 Allowed = 10 << 20;  // of the fifty million bytes that go through

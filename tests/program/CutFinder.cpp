@@ -151,7 +151,7 @@ QString OfControl(const QWidget& Control) {
 }
 
 // Pieces that the toolkit puts inside its own controls, and scrolls there.
-bool IsToolkitPart(const QWidget& Control) {
+bool IsPartOfToolkit(const QWidget& Control) {
     const QByteArray Class = Control.metaObject()->className();
     return Control.objectName().startsWith(u"qt_") || Class.contains("Private") ||
            qobject_cast<const QLineEdit*>(Control.parentWidget()) ||
@@ -189,7 +189,7 @@ QString NameOf(const QWidget& Control) {
 
 bool IsInView(const QWidget& Control, const QWidget& Window) {
     for (const QWidget* Up = &Control; Up != &Window; Up = Up->parentWidget())
-        if (Up->isHidden() || Up->isWindow() || IsToolkitPart(*Up)) {
+        if (Up->isHidden() || Up->isWindow() || IsPartOfToolkit(*Up)) {
             const bool Passes = Up->objectName().startsWith(u"qt_scrollarea_viewport") ||
                                 Up->objectName().startsWith(u"qt_spinbox");
             if (!Passes) return false;

@@ -24,7 +24,7 @@
 namespace neb {
 namespace {
 
-const QString Asked =
+const QString RestoreQuestion =
     "Do you want all albums and slide shows back as they were saved on %1?\n"
     "Those of now are kept among the earlier ones. All windows are closed first.";
 
@@ -79,7 +79,8 @@ class TheRestore : public MainWindow {
         return List(Window).topLevelItem(Row)->text(0);
     }
     void ExpectQuestion(const QString& Time, BoxAnswer Answer, const QString& More = {}) {
-        mBoxes.Expect(Asked.arg(Time) + More, "Restore Confirmation", BoxIcon::Question, Answer);
+        mBoxes.Expect(RestoreQuestion.arg(Time) + More, "Restore Confirmation", BoxIcon::Question,
+                      Answer);
     }
     void ExpectDone(const QString& Time, const QString& More = {}) {
         mBoxes.Expect("The albums are as they were saved on " + Time + "." + More,

@@ -16,7 +16,7 @@ struct Sample {
 
 // A second and a half each. Where the encoder's header is there, exactly that is heard; else also
 // the silence that it adds at both ends, in whole frames.
-constexpr Sample Samples[] = {
+constexpr Sample Tones[] = {
     {"cbr.mp3", 44100, 2, 66150},          {"vbr.mp3", 44100, 2, 66150},
     {"cover.mp3", 44100, 1, 66150},        {"mpeg2.mp3", 22050, 1, 33075},
     {"cbr-noheader.mp3", 44100, 2, 67968}, {"vbr-noheader.mp3", 44100, 2, 67968},
@@ -53,7 +53,7 @@ QByteArray Wrapped(const QByteArray& Frames, quint16 Tag = 0x55) {
 }  // namespace
 
 TEST(SoundDecoderMpeg, EveryKindTellsItsExactLength) {
-    for (const Sample& Each : Samples) {
+    for (const Sample& Each : Tones) {
         SCOPED_TRACE(Each.Name);
         const auto Sound = OpenSound(SoundFile(Each.Name));
         ExpectSame(*Sound, Each);
@@ -64,7 +64,7 @@ TEST(SoundDecoderMpeg, EveryKindTellsItsExactLength) {
 }
 
 TEST(SoundDecoderMpeg, AJumpLandsOnTheVerySample) {
-    for (const Sample& Each : Samples) {
+    for (const Sample& Each : Tones) {
         SCOPED_TRACE(Each.Name);
         EXPECT_LT(WorstAfterJumps(*OpenSound(SoundFile(Each.Name))), 1e-4);
     }
@@ -107,7 +107,7 @@ TEST(SoundDecoderMpeg, AFileWithoutItsBeginningIsPlayedFromTheNextFrame) {
 TEST(SoundDecoderMpeg, TagsAtEitherEndAreNoMusic) {
     const harness::TempFolder Folder;
     const QByteArray Frames = Bytes("cbr.mp3");
-    const Sample& Expected = Samples[0];
+    const Sample& Expected = Tones[0];
     const QByteArray Noise = StrayFrames(40000);
     QByteArray Title = "TAG" + QByteArray(125, 'x');
     QByteArray Front("ID3\x03\x00\x00", 6);

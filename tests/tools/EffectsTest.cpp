@@ -7,6 +7,7 @@
 #include <QJsonObject>
 #include <QProcess>
 
+#include "ToolRun.h"
 #include "db/clsDBEngine.h"
 #include "effects/EffectCatalogue.h"
 #include "effects/Transition.h"
@@ -14,7 +15,6 @@
 #include "support/files/modHostFiles.h"
 #include "tools/effects/EffectPictures.h"
 #include "tools/effects/EffectTiming.h"
-#include "tools/modCommands.h"
 
 namespace neb {
 namespace {
@@ -22,16 +22,14 @@ namespace {
 using namespace harness;
 using namespace Qt::StringLiterals;
 
-struct Outcome {
+struct EffectsOutcome {
     int Code;
     QString Out, Err;
 };
 
-Outcome Effects(const QStringList& Words, bool Terminal = false) {
-    std::ostringstream Out, Err;
-    ToolIO IO{Out, Err, Terminal};
-    const int Code = RunTool(QStringList{u"effects"_s} + Words, IO);
-    return {Code, QString::fromStdString(Out.str()), QString::fromStdString(Err.str())};
+EffectsOutcome Effects(const QStringList& Words, bool Terminal = false) {
+    const ToolRun Ran = Tool(QStringList{u"effects"_s} + Words, Terminal);
+    return {Ran.Code, QString::fromStdString(Ran.Out), QString::fromStdString(Ran.Err)};
 }
 
 // A new database on the disk, whose program lies in Program.
@@ -66,7 +64,7 @@ class NebctlEffectsTest : public ::testing::Test {
     }
     QImage Read(const QString& Name) { return QImage::fromData(ReadFile(Dir / Name)); }
     void ExpectRefused(const QStringList& Words, const QString& Named) {
-        const Outcome Refused = Effects(Words);
+        const EffectsOutcome Refused = Effects(Words);
         EXPECT_EQ(Refused.Code, ExitFailed) << Words.join(u' ').toStdString();
         EXPECT_TRUE(Refused.Err.contains(Named)) << Refused.Err.toStdString();
         EXPECT_EQ(Refused.Out, u"");
@@ -77,7 +75,7 @@ class NebctlEffectsTest : public ::testing::Test {
 }  // namespace
 
 TEST_F(NebctlEffectsTest, TheListHasEveryNumberOnceWithTheLevelOfANewDatabase) {
-    const Outcome Result = Effects({u"list"_s});
+    const EffectsOutcome Result = Effects({u"list"_s});
     EXPECT_EQ(Result.Code, ExitDone) << Result.Err.toStdString();
     const QJsonArray All = QJsonDocument::fromJson(Result.Out.toUtf8()).array();
     ASSERT_EQ(All.size(), EffectCount());
@@ -93,7 +91,7 @@ TEST_F(NebctlEffectsTest, TheListHasEveryNumberOnceWithTheLevelOfANewDatabase) {
 
 TEST_F(NebctlEffectsTest, TheFileOfTimesIsReadByTheEngineToTheFourthDecimal) {
     const QString File = Dir / u"EffectStats.txt"_s;
-    const Outcome Result =
+    const EffectsOutcome Result =
         Effects({u"timings"_s, File, u"--size"_s, u"64x36"_s, u"--runs"_s, u"1"_s});
     ASSERT_EQ(Result.Code, ExitDone) << Result.Err.toStdString();
     const QStringList Lines = QString::fromLatin1(ReadFile(File)).split(u'\n');
@@ -133,7 +131,7 @@ TEST_F(NebctlEffectsTest, ALargerScreenTakesLonger) {
 
 TEST_F(NebctlEffectsTest, MeasuringShowsOnATerminalHowFarItHasCome) {
     const QStringList Words{u"timings"_s, u"--size"_s, u"4x4"_s, u"--runs"_s, u"1"_s};
-    const Outcome Shown = Effects(Words, true), Quiet = Effects(Words);
+    const EffectsOutcome Shown = Effects(Words, true), Quiet = Effects(Words);
     EXPECT_TRUE(Shown.Err.contains(u"Measuring 50 %"_s));
     EXPECT_TRUE(Shown.Err.section(u'\r', -1).startsWith(u"\033[KAt 60 refreshes"_s));
     EXPECT_FALSE(Quiet.Err.contains(u"Measuring"_s));
@@ -145,7 +143,7 @@ TEST_F(NebctlEffectsTest, TellsHowManyTransitionsKeepWithinARefresh) {
         FrameLimitText({1.6, 0.4, 1.7, 2.53}),
         u"At 60 refreshes a second a frame has 16.7 ms: on one thread 2 of 4 transitions keep "
         "within it, and the slowest, 4, takes 25.3 ms."_s);
-    const Outcome Told = Effects({u"timings"_s, u"--size"_s, u"4x4"_s, u"--runs"_s, u"1"_s});
+    const EffectsOutcome Told = Effects({u"timings"_s, u"--size"_s, u"4x4"_s, u"--runs"_s, u"1"_s});
     EXPECT_TRUE(
         Told.Err.startsWith(u"At 60 refreshes a second a frame has 16.7 ms: on one thread "
                             "127 of 127 transitions keep within it"_s))
@@ -156,7 +154,7 @@ TEST_F(NebctlEffectsTest, AFrameIsTheTransitionsOwnToTheBit) {
     const QImage Old = Slope({61, 40}, 1), New = Slope({61, 40}, 5);
     const QString A = Picture(u"a.png"_s, Old), B = Picture(u"b.png"_s, New);
     for (const char* Progress : {"0", "0.37", "1"}) {
-        const Outcome Result =
+        const EffectsOutcome Result =
             Effects({u"render"_s, u"4"_s, A, B, QLatin1String(Progress), Dir / u"out.png"_s});
         ASSERT_EQ(Result.Code, ExitDone) << Result.Err.toStdString();
         QImage Frame;
@@ -198,7 +196,8 @@ TEST_F(NebctlEffectsTest, TheSheetShowsAllEffectsHalfWay) {
     Red.fill(Qt::red);
     Blue.fill(Qt::blue);
     const QString A = Picture(u"a.png"_s, Red), B = Picture(u"b.png"_s, Blue);
-    const Outcome Result = Effects({u"sheet"_s, Dir / u"sheet.png"_s, u"--pictures"_s, A, B});
+    const EffectsOutcome Result =
+        Effects({u"sheet"_s, Dir / u"sheet.png"_s, u"--pictures"_s, A, B});
     ASSERT_EQ(Result.Code, ExitDone) << Result.Err.toStdString();
     const QImage Sheet = Read(u"sheet.png"_s);
     // The second effect is a wipe: its left is new, its right still old.

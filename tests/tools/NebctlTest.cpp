@@ -8,6 +8,7 @@
 #include <QJsonObject>
 #include <QProcess>
 
+#include "ToolRun.h"
 #include "db/Changes.h"
 #include "db/Fixtures.h"
 #include "db/modAlbumFiles.h"
@@ -17,7 +18,6 @@
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/files/CheckSums.h"
-#include "tools/modCommands.h"
 #include "tools/words/JsonWriter.h"
 
 namespace neb {
@@ -30,11 +30,9 @@ struct Outcome {
     QString Out, Err;
 };
 
-Outcome Tool(const QStringList& Arguments, bool Terminal = false) {
-    std::ostringstream Out, Err;
-    ToolIO IO{Out, Err, Terminal};
-    const int Code = RunTool(Arguments, IO);
-    return {Code, QString::fromStdString(Out.str()), QString::fromStdString(Err.str())};
+Outcome Nebctl(const QStringList& Arguments, bool Terminal = false) {
+    const ToolRun Ran = Tool(Arguments, Terminal);
+    return {Ran.Code, QString::fromStdString(Ran.Out), QString::fromStdString(Ran.Err)};
 }
 
 // The names, sizes and contents of all that lies below a directory.
@@ -73,7 +71,7 @@ class NebctlTest : public ::testing::Test {
     // The lines that check prints, which must be found in their order of printing.
     void ExpectFindings(const QStringList& Expected) {
         const QStringList Before = Everything(Dir.Path());
-        const Outcome Result = Tool({u"check"_s, Dir.Path()});
+        const Outcome Result = Nebctl({u"check"_s, Dir.Path()});
         EXPECT_EQ(Result.Out.split(u'\n', Qt::SkipEmptyParts), Expected)
             << Result.Out.toStdString();
         EXPECT_EQ(Result.Code, Expected.isEmpty() ? 0 : 1);
@@ -86,7 +84,7 @@ class NebctlTest : public ::testing::Test {
         WriteFile(Dir.Path() + QLatin1String(Name), Bytes);
     }
     QJsonObject Dump() {
-        const Outcome Result = Tool({u"dump"_s, Dir.Path()});
+        const Outcome Result = Nebctl({u"dump"_s, Dir.Path()});
         EXPECT_EQ(Result.Code, 0);
         QJsonParseError Error;
         const auto Document = QJsonDocument::fromJson(Result.Out.toUtf8(), &Error);
@@ -135,7 +133,7 @@ TEST_F(NebctlTest, DumpsAllThatTheLoaderHolds) {
 }
 
 TEST_F(NebctlTest, DumpKeepsTheOrderOfTheFields) {
-    const QString Text = Tool({u"dump"_s, Dir.Path()}).Out;
+    const QString Text = Nebctl({u"dump"_s, Dir.Path()}).Out;
     qsizetype Place = 0;
     for (const char* Key :
          {"NextAlbumID", "NextSlideID", "NextSlideShowID", "Albums", "AlbumID", "AlbumName",
@@ -147,7 +145,7 @@ TEST_F(NebctlTest, DumpKeepsTheOrderOfTheFields) {
 
 TEST_F(NebctlTest, DumpOfAnEmptyDirectoryIsANewDatabase) {
     TempFolder Empty;
-    const Outcome Result = Tool({u"dump"_s, Empty.Path()});
+    const Outcome Result = Nebctl({u"dump"_s, Empty.Path()});
     EXPECT_EQ(Result.Code, 0);
     EXPECT_TRUE(Result.Out.contains(u"\"NextSlideID\": 1,"));
     EXPECT_TRUE(Result.Out.contains(u"\"Albums\": []"));
@@ -158,7 +156,7 @@ TEST_F(NebctlTest, DumpSeesABrokenOffWriteAsTheNextStartWillAndLeavesItThere) {
     BreakAWrite();
     const QStringList Before = Everything(Dir.Path());
     EXPECT_EQ(Dump()["Albums"].toArray()[0].toObject()["AlbumName"].toString(), u"changed");
-    EXPECT_TRUE(Tool({u"dump"_s, Dir.Path()}).Err.contains(u"did not come to its end"));
+    EXPECT_TRUE(Nebctl({u"dump"_s, Dir.Path()}).Err.contains(u"did not come to its end"));
     EXPECT_EQ(Everything(Dir.Path()), Before);
 }
 
@@ -187,7 +185,7 @@ TEST_F(NebctlTest, ACleanDatabaseHasNoFindings) {
 
 TEST_F(NebctlTest, AnEmptyDirectoryHasNoFindings) {
     TempFolder Empty;
-    EXPECT_EQ(Tool({u"check"_s, Empty.Path()}).Code, 0);
+    EXPECT_EQ(Nebctl({u"check"_s, Empty.Path()}).Code, 0);
 }
 
 TEST_F(NebctlTest, CheckFindsOrphans) {
@@ -305,7 +303,7 @@ TEST_F(NebctlTest, CheckFindsAnUnfinishedWrite) {
         {u"the last write did not come to its end; the next start of the program will "
          "complete it"_s});
     WriteFile(JournalPath(Dir.Path()), "torn");
-    EXPECT_TRUE(Tool({u"check"_s, Dir.Path()}).Out.startsWith(u"a write was given up"));
+    EXPECT_TRUE(Nebctl({u"check"_s, Dir.Path()}).Out.startsWith(u"a write was given up"));
 }
 
 TEST_F(NebctlTest, CheckComparesTheFilesWithTheirSumsWhenAskedTo) {
@@ -316,28 +314,28 @@ TEST_F(NebctlTest, CheckComparesTheFilesWithTheirSumsWhenAskedTo) {
     ASSERT_TRUE(WriteSums(Dir.Path()));
     EXPECT_FALSE(ReadFile(Dir / "Sums.sha256").contains("InUse.lock")) << "it comes and goes";
     const QStringList Words = {u"check"_s, Dir.Path(), u"--files"_s};
-    const Outcome Clean = Tool(Words);
+    const Outcome Clean = Nebctl(Words);
     EXPECT_EQ(Clean.Code, ExitDone);
     EXPECT_EQ(Clean.Out + Clean.Err, u"");
     WriteFile(Dir / "Albums/1/Slides/00000001.jpg", "pictvre");
     WriteFile(Dir / "README.txt", "");
     DeleteFile(Dir / "QLM.ini");
     const QStringList Before = Everything(Dir.Path());
-    const Outcome Damaged = Tool(Words);
+    const Outcome Damaged = Nebctl(Words);
     EXPECT_EQ(Damaged.Code, ExitFound);
     EXPECT_EQ(Damaged.Out,
               u"changed: Albums/1/Slides/00000001.jpg\n"
               "missing: QLM.ini\n"
               "changed: README.txt\n"_s);
     EXPECT_EQ(Everything(Dir.Path()), Before);
-    EXPECT_EQ(Tool({u"check"_s, Dir.Path()}).Code, ExitDone) << "only when asked to";
+    EXPECT_EQ(Nebctl({u"check"_s, Dir.Path()}).Code, ExitDone) << "only when asked to";
 }
 
 TEST_F(NebctlTest, CheckNamesWhatCannotBeReadAmongTheFiles) {
     ASSERT_TRUE(WriteSums(Dir.Path()));
     DeleteFile(Dir / "Albums/1/Slides/00000001Small.bmp");
     MakeDirs(Dir / "Albums/1/Slides/00000001Small.bmp");
-    const Outcome Result = Tool({u"check"_s, u"--files"_s, Dir.Path()});
+    const Outcome Result = Nebctl({u"check"_s, u"--files"_s, Dir.Path()});
     EXPECT_EQ(Result.Code, ExitFound);
     EXPECT_TRUE(Result.Out.endsWith(u"\ncannot be read: Albums/1/Slides/00000001Small.bmp\n"))
         << Result.Out.toStdString();
@@ -345,14 +343,14 @@ TEST_F(NebctlTest, CheckNamesWhatCannotBeReadAmongTheFiles) {
 
 TEST_F(NebctlTest, CheckWithSenselessSumsDoesNotCallTheFilesSound) {
     WriteFile(Dir / "Sums.sha256", "garbage\n");
-    const Outcome Garbage = Tool({u"check"_s, Dir.Path(), u"--files"_s});
+    const Outcome Garbage = Nebctl({u"check"_s, Dir.Path(), u"--files"_s});
     EXPECT_EQ(Garbage.Code, ExitFailed);
     EXPECT_TRUE(Garbage.Err.contains(u"Line 1 cannot be understood."_s));
 }
 
 TEST_F(NebctlTest, ComparingShowsItsProgressOnATerminal) {
     ASSERT_TRUE(WriteSums(Dir.Path()));
-    const Outcome Shown = Tool({u"check"_s, Dir.Path(), u"--files"_s}, true);
+    const Outcome Shown = Nebctl({u"check"_s, Dir.Path(), u"--files"_s}, true);
     EXPECT_TRUE(Shown.Err.contains(u"Comparing 100 %")) << Shown.Err.toStdString();
     EXPECT_TRUE(Shown.Err.endsWith(u"\r\033[K"));
     EXPECT_EQ(Shown.Out, u"");
@@ -362,18 +360,18 @@ TEST_F(NebctlTest, ComparingShowsItsProgressOnATerminal) {
 TEST_F(NebctlTest, TheDocumentsFolderAboveADatabaseWillDo) {
     TempFolder Documents;
     const QString Home = Documents / "NEB/NEB Slide Show/";
-    const QString Records = Tool({u"dump"_s, Dir.Path()}).Out;
+    const QString Records = Nebctl({u"dump"_s, Dir.Path()}).Out;
     MakeDirs(Documents / "NEB");
     ASSERT_TRUE(QFile::rename(Dir.Path().chopped(1), Home.chopped(1)));
     for (const QString& Named : {Documents.Path(), Documents / "NEB", Home}) {
-        EXPECT_EQ(Tool({u"dump"_s, Named}).Out, Records) << Named.toStdString();
-        EXPECT_EQ(Tool({u"rewrite"_s, Named}).Code, ExitDone);
+        EXPECT_EQ(Nebctl({u"dump"_s, Named}).Out, Records) << Named.toStdString();
+        EXPECT_EQ(Nebctl({u"rewrite"_s, Named}).Code, ExitDone);
     }
     WriteFile(Documents / "README.txt", "for people");
     ASSERT_TRUE(WriteSums(Documents.Path()));
-    EXPECT_EQ(Tool({u"check"_s, Documents.Path(), u"--files"_s}).Out, u"");
+    EXPECT_EQ(Nebctl({u"check"_s, Documents.Path(), u"--files"_s}).Out, u"");
     WriteFile(Documents / "README.txt", "for nobody");
-    EXPECT_EQ(Tool({u"check"_s, Documents.Path(), u"--files"_s}).Out, u"changed: README.txt\n");
+    EXPECT_EQ(Nebctl({u"check"_s, Documents.Path(), u"--files"_s}).Out, u"changed: README.txt\n");
     ASSERT_TRUE(QFile::rename(Home.chopped(1), Dir.Path().chopped(1)));
 }
 
@@ -382,7 +380,8 @@ TEST_F(NebctlTest, ASettingThatLeadsNowhereIsToldAndNothingIsMadeThere) {
     MakeDirs(Documents / "NEB/NEB Slide Show");
     WriteFile(Documents / "NEB/NEB Slide Show/QLM.ini", "[General]\nDBPath=/nowhere/at/all\n");
     const QStringList Before = Everything(Documents.Path());
-    const Outcome Result = Tool({u"import"_s, Documents.Path(), Dir.Path(), u"--album"_s, u"x"_s});
+    const Outcome Result =
+        Nebctl({u"import"_s, Documents.Path(), Dir.Path(), u"--album"_s, u"x"_s});
     EXPECT_EQ(Result.Code, ExitFailed);
     EXPECT_TRUE(Result.Err.contains(u"There is no directory /nowhere/at/all/, where "_s))
         << Result.Err.toStdString();
@@ -391,15 +390,15 @@ TEST_F(NebctlTest, ASettingThatLeadsNowhereIsToldAndNothingIsMadeThere) {
 
 TEST_F(NebctlTest, RewriteDropsOrphansWhenToldToGoOnAndLeavesACleanDatabase) {
     const auto Before = AllRecords(Dir.Path());
-    EXPECT_EQ(Tool({u"rewrite"_s, Dir.Path()}).Code, 0);
+    EXPECT_EQ(Nebctl({u"rewrite"_s, Dir.Path()}).Code, 0);
     EXPECT_EQ(AllRecords(Dir.Path()), Before);
     ChangeRecords("Slides.dat",
                   [](QByteArray& Bytes) { Bytes += QByteArray(602, 9) + Hex("0000"); });
-    EXPECT_EQ(Tool({u"check"_s, Dir.Path()}).Code, 1);
+    EXPECT_EQ(Nebctl({u"check"_s, Dir.Path()}).Code, 1);
     const auto Torn = AllRecords(Dir.Path());
-    EXPECT_EQ(Tool({u"rewrite"_s, Dir.Path()}).Code, 2);
+    EXPECT_EQ(Nebctl({u"rewrite"_s, Dir.Path()}).Code, 2);
     EXPECT_EQ(AllRecords(Dir.Path()), Torn);
-    EXPECT_EQ(Tool({u"rewrite"_s, Dir.Path(), u"--go-on"_s}).Code, 0);
+    EXPECT_EQ(Nebctl({u"rewrite"_s, Dir.Path(), u"--go-on"_s}).Code, 0);
     auto After = AllRecords(Dir.Path());
     After["NextIDs.dat"] = Before.at("NextIDs.dat");  // above the number of the orphan
     EXPECT_EQ(After, Before);
@@ -407,7 +406,7 @@ TEST_F(NebctlTest, RewriteDropsOrphansWhenToldToGoOnAndLeavesACleanDatabase) {
 
 TEST_F(NebctlTest, RewriteCompletesABrokenOffWrite) {
     BreakAWrite();
-    EXPECT_EQ(Tool({u"rewrite"_s, Dir.Path()}).Code, 0);
+    EXPECT_EQ(Nebctl({u"rewrite"_s, Dir.Path()}).Code, 0);
     EXPECT_EQ(Dump()["Albums"].toArray()[0].toObject()["AlbumName"].toString(), u"changed");
     ExpectFindings({});
 }
@@ -415,7 +414,7 @@ TEST_F(NebctlTest, RewriteCompletesABrokenOffWrite) {
 TEST_F(NebctlTest, RewriteLeavesAReadOnlyDatabaseAlone) {
     QFile::setPermissions(Dir / "NextIDs.dat", QFileDevice::ReadOwner);
     const QStringList Before = Everything(Dir.Path());
-    const Outcome Result = Tool({u"rewrite"_s, Dir.Path()});
+    const Outcome Result = Nebctl({u"rewrite"_s, Dir.Path()});
     EXPECT_EQ(Result.Code, 2);
     EXPECT_TRUE(Result.Err.contains(u"read-only"));
     EXPECT_EQ(Everything(Dir.Path()), Before);
@@ -424,12 +423,12 @@ TEST_F(NebctlTest, RewriteLeavesAReadOnlyDatabaseAlone) {
 TEST_F(NebctlTest, RewriteRefusesADirectoryWithoutCounters) {
     DeleteFile(Dir / "NextIDs.dat");
     const QStringList Before = Everything(Dir.Path());
-    const Outcome Result = Tool({u"rewrite"_s, Dir.Path()});
+    const Outcome Result = Nebctl({u"rewrite"_s, Dir.Path()});
     EXPECT_EQ(Result.Code, 2);
     EXPECT_TRUE(Result.Err.contains(u"NextIDs.dat is missing."));
     EXPECT_EQ(Everything(Dir.Path()), Before);
     TempFolder Empty;
-    EXPECT_TRUE(Tool({u"rewrite"_s, Empty.Path()}).Err.contains(u"There is no database"));
+    EXPECT_TRUE(Nebctl({u"rewrite"_s, Empty.Path()}).Err.contains(u"There is no database"));
     EXPECT_TRUE(ListDir(Empty.Path()).empty());
 }
 
@@ -437,7 +436,7 @@ TEST_F(NebctlTest, ARecordFileTooLargeForTheMemoryIsAnErrorAndNoCrash) {
     if (RunsUnderSanitizer)
         GTEST_SKIP() << "the sanitizer ends the process where memory would only be refused";
     ASSERT_TRUE(QFile::resize(Dir / u"EffectStats.dat"_s, qint64{1} << 43));
-    const Outcome Result = Tool({u"dump"_s, Dir.Path()});
+    const Outcome Result = Nebctl({u"dump"_s, Dir.Path()});
     EXPECT_EQ(Result.Code, ExitFailed);
     EXPECT_TRUE(Result.Err.contains(u"memory"_s)) << Result.Err.toStdString();
 }
@@ -446,7 +445,7 @@ TEST_F(NebctlTest, AFullDiskIsReportedOnErr) {
     SetHostWatcher([](HostStep Step, const QString&, qint64& Length) {
         if (Step == HostStep::Write) Length = 0;
     });
-    const Outcome Result = Tool({u"rewrite"_s, Dir.Path()});
+    const Outcome Result = Nebctl({u"rewrite"_s, Dir.Path()});
     SetHostWatcher({});
     EXPECT_EQ(Result.Code, 2);
     EXPECT_TRUE(Result.Err.startsWith(u"nebctl: The file cannot be written."));
@@ -455,14 +454,14 @@ TEST_F(NebctlTest, AFullDiskIsReportedOnErr) {
 }
 
 TEST_F(NebctlTest, WrongUsageIsTwo) {
-    EXPECT_EQ(Tool({}).Code, 2);
-    EXPECT_TRUE(Tool({}).Err.contains(u"Usage:"));
+    EXPECT_EQ(Nebctl({}).Code, 2);
+    EXPECT_TRUE(Nebctl({}).Err.contains(u"Usage:"));
     for (const char* Name : {"dump", "check", "rewrite", "history", "adopt"}) {
         const QString Command = QLatin1String(Name);
-        EXPECT_EQ(Tool({Command}).Code, 2);
-        EXPECT_EQ(Tool({Command, Dir.Path(), Dir.Path()}).Code, 2);
-        EXPECT_EQ(Tool({Command, u"--unknown"_s}).Code, 2);
-        const Outcome Result = Tool({Command, Dir / "nowhere"});
+        EXPECT_EQ(Nebctl({Command}).Code, 2);
+        EXPECT_EQ(Nebctl({Command, Dir.Path(), Dir.Path()}).Code, 2);
+        EXPECT_EQ(Nebctl({Command, u"--unknown"_s}).Code, 2);
+        const Outcome Result = Nebctl({Command, Dir / "nowhere"});
         EXPECT_EQ(Result.Code, 2);
         EXPECT_TRUE(Result.Err.contains(u"nowhere"));
         EXPECT_EQ(Result.Out, u"");
@@ -470,26 +469,26 @@ TEST_F(NebctlTest, WrongUsageIsTwo) {
     const std::pair<QString, QString> WithTwoPlaces[] = {
         {u"import"_s, Dir.Path()}, {u"transfer"_s, Dir.Path()}, {u"print"_s, Dir / "out.pdf"}};
     for (const auto& [Command, Second] : WithTwoPlaces) {
-        EXPECT_EQ(Tool({Command}).Code, 2);
-        EXPECT_EQ(Tool({Command, Dir.Path()}).Code, 2);
-        const Outcome Result = Tool({Command, Dir / "nowhere", Second, u"--album"_s, u"Fürth"_s});
+        EXPECT_EQ(Nebctl({Command}).Code, 2);
+        EXPECT_EQ(Nebctl({Command, Dir.Path()}).Code, 2);
+        const Outcome Result = Nebctl({Command, Dir / "nowhere", Second, u"--album"_s, u"Fürth"_s});
         EXPECT_EQ(Result.Code, 2);
         EXPECT_TRUE(Result.Err.contains(u"nowhere"));
         EXPECT_EQ(Result.Out, u"");
     }
-    EXPECT_EQ(Tool({u"restore"_s}).Code, 2);
-    EXPECT_EQ(Tool({u"restore"_s, Dir.Path()}).Code, 2);
-    EXPECT_TRUE(Tool({u"restore"_s, Dir / "nowhere", u"1"_s}).Err.contains(u"nowhere"));
-    EXPECT_TRUE(Tool({u"frobnicate"_s}).Err.contains(u"frobnicate"));
+    EXPECT_EQ(Nebctl({u"restore"_s}).Code, 2);
+    EXPECT_EQ(Nebctl({u"restore"_s, Dir.Path()}).Code, 2);
+    EXPECT_TRUE(Nebctl({u"restore"_s, Dir / "nowhere", u"1"_s}).Err.contains(u"nowhere"));
+    EXPECT_TRUE(Nebctl({u"frobnicate"_s}).Err.contains(u"frobnicate"));
 }
 
 TEST_F(NebctlTest, HelpIsThereForTheProgramAndForEachCommand) {
-    const Outcome All = Tool({u"--help"_s});
+    const Outcome All = Nebctl({u"--help"_s});
     EXPECT_EQ(All.Code, 0);
     EXPECT_EQ(All.Err, u"");
     for (const Command& Row : Commands()) {
         EXPECT_TRUE(All.Out.contains(QLatin1String(Row.Summary)));
-        const Outcome One = Tool({QLatin1String(Row.Name), u"--help"_s});
+        const Outcome One = Nebctl({QLatin1String(Row.Name), u"--help"_s});
         EXPECT_EQ(One.Code, 0);
         EXPECT_TRUE(One.Out.startsWith(u"Usage: nebctl "_s + QLatin1String(Row.Name)));
     }
@@ -497,7 +496,7 @@ TEST_F(NebctlTest, HelpIsThereForTheProgramAndForEachCommand) {
 
 // Each part of effects has its own row there; this is what people read of them.
 TEST_F(NebctlTest, HelpOfEffectsTellsOfEachOfItsParts) {
-    const QString Out = Tool({u"effects"_s, u"--help"_s}).Out;
+    const QString Out = Nebctl({u"effects"_s, u"--help"_s}).Out;
     EXPECT_EQ(
         "Usage: nebctl effects list | timings [FILE] | render ... | sheet OUT\n\n"
         "  effects list\n"
@@ -522,11 +521,11 @@ TEST_F(NebctlTest, HelpOfEffectsTellsOfEachOfItsParts) {
         "  effects sheet OUT [--pictures OLD NEW]\n"
         "      Draws all transitions half way, with their names, into the .png or .jpg file OUT.\n",
         Out.toStdString());
-    EXPECT_TRUE(Tool({u"effects"_s}).Err.contains(u"One of list, timings, render and sheet is"));
+    EXPECT_TRUE(Nebctl({u"effects"_s}).Err.contains(u"One of list, timings, render and sheet is"));
 }
 
 TEST_F(NebctlTest, ProgressGoesToATerminalAloneAndVanishes) {
-    const Outcome Shown = Tool({u"check"_s, Dir.Path()}, true);
+    const Outcome Shown = Nebctl({u"check"_s, Dir.Path()}, true);
     EXPECT_TRUE(Shown.Err.contains(u"Checking 50 %"));
     EXPECT_TRUE(Shown.Err.endsWith(u"\r\033[K"));
     EXPECT_EQ(Shown.Out, u"");
@@ -543,7 +542,7 @@ TEST_F(NebctlTest, RunsAsAProgramWithoutADisplay) {
     };
     QProcess DumpIt, CheckIt, Wrong;
     EXPECT_EQ(Start({u"dump"_s, Dir.Path()}, DumpIt), 0);
-    EXPECT_EQ(DumpIt.readAllStandardOutput(), Tool({u"dump"_s, Dir.Path()}).Out.toUtf8());
+    EXPECT_EQ(DumpIt.readAllStandardOutput(), Nebctl({u"dump"_s, Dir.Path()}).Out.toUtf8());
     DeleteFile(Dir / "Albums/1/Slides/00000001.jpg");
     EXPECT_EQ(Start({u"check"_s, Dir.Path()}, CheckIt), 1);
     EXPECT_TRUE(CheckIt.readAllStandardOutput().startsWith("the picture of slide 1"));
@@ -573,8 +572,8 @@ class NebctlImportTest : public ::testing::Test {
         WriteFile(Path, Bytes);
     }
     Outcome Import(const QStringList& More) {
-        return Tool(QStringList{u"import"_s, Database(), Pictures(), u"--album"_s, u"New"_s} +
-                    More);
+        return Nebctl(QStringList{u"import"_s, Database(), Pictures(), u"--album"_s, u"New"_s} +
+                      More);
     }
 
     TempFolder Dir;
@@ -607,7 +606,7 @@ TEST_F(NebctlImportTest, MakesTheAlbumAndTheShowInAnEmptyDirectory) {
     EXPECT_EQ(Album.SlideShows[0]->Details[2]->SlideSeq, 3);
     const QString Stored = SlidesFolder(Database(), Album.AlbumID) + u"00000001.jpg"_s;
     EXPECT_EQ(QImage::fromData(ReadFile(Stored)).size(), QSize(984, 768));
-    EXPECT_EQ(Tool({u"check"_s, Database()}).Code, ExitDone);
+    EXPECT_EQ(Nebctl({u"check"_s, Database()}).Code, ExitDone);
 }
 
 TEST_F(NebctlImportTest, ADocumentsFolderGetsNoSecondDatabaseThatTheProgramNeverSees) {
@@ -620,7 +619,7 @@ TEST_F(NebctlImportTest, ADocumentsFolderGetsNoSecondDatabaseThatTheProgramNever
         ASSERT_EQ(OpenEngine(Home)->Albums.size(), 1U);
         EXPECT_EQ(OpenEngine(Home)->Albums[0]->Slides.size(), Slides);
     }
-    EXPECT_EQ(Tool({u"check"_s, Home}).Code, ExitDone);
+    EXPECT_EQ(Nebctl({u"check"_s, Home}).Code, ExitDone);
 }
 
 TEST_F(NebctlImportTest, TheSettingsOfADocumentsFolderLeadToItsDatabase) {
@@ -654,7 +653,7 @@ TEST_F(NebctlImportTest, AddsToAnAlbumThatIsThere) {
 TEST_F(NebctlImportTest, FindsAnAlbumAndAShowByTheNamesThatWereStored) {
     const QString Lodz = u"\u0141\u00f3d\u017a"_s;
     const auto ImportInto = [this](const QString& Album, const QString& Show) {
-        return Tool({u"import"_s, Database(), Pictures(), u"--album"_s, Album, u"--show"_s, Show})
+        return Nebctl({u"import"_s, Database(), Pictures(), u"--album"_s, Album, u"--show"_s, Show})
             .Code;
     };
     EXPECT_EQ(ImportInto(Lodz, Lodz), ExitDone);
@@ -711,7 +710,7 @@ TEST_F(NebctlImportTest, AWriteThatFailsBehindTheRecordsKeepsThePictures) {
     SetHostWatcher({});
     ASSERT_TRUE(AreWritten);
     EXPECT_EQ(OpenEngine(Database())->Albums[0]->Slides.size(), 2U);
-    EXPECT_EQ(Tool({u"check"_s, Database()}).Code, ExitDone);
+    EXPECT_EQ(Nebctl({u"check"_s, Database()}).Code, ExitDone);
 }
 
 // What an earlier session has left is there still for the next start.
@@ -750,7 +749,7 @@ TEST_F(NebctlImportTest, ChangesThatGoWithOtherRecordsAreToldOf) {
     Albums.close();
     for (const RecordFile File : AllRecordFiles)  // as a whole backup that was put back
         WriteFile(RecordPath(Database(), File), ReadFile(RecordPath(Database(), File)));
-    const Outcome Rewritten = Tool({u"rewrite"_s, Database()});
+    const Outcome Rewritten = Nebctl({u"rewrite"_s, Database()});
     EXPECT_EQ(Rewritten.Code, ExitDone);
     EXPECT_TRUE(Rewritten.Err.contains(u"Temp/Journal/Session "_s)) << Rewritten.Err.toStdString();
 }
@@ -762,8 +761,8 @@ TEST_F(NebctlImportTest, ChangesThatWereBroughtBackAreToldOf) {
         Crashed->KeepSession();
         ASSERT_TRUE(Changes(*Crashed).RenameAlbum(1, u"Renamed"_s));
     }
-    EXPECT_TRUE(Tool({u"rewrite"_s, Database()}).Err.contains(u"brought back: 1 change of"_s));
-    EXPECT_TRUE(Tool({u"rewrite"_s, Database()}).Err.isEmpty()) << "it is told of once";
+    EXPECT_TRUE(Nebctl({u"rewrite"_s, Database()}).Err.contains(u"brought back: 1 change of"_s));
+    EXPECT_TRUE(Nebctl({u"rewrite"_s, Database()}).Err.isEmpty()) << "it is told of once";
 }
 
 TEST_F(NebctlImportTest, WithoutSoundCountersThePicturesThatAreThereAreLeftAlone) {
@@ -788,9 +787,9 @@ TEST_F(NebctlImportTest, AWriteThatStopsBehindItsJournalKeepsThePicturesForTheNe
     SetHostWatcher({});
     EXPECT_EQ(Failed.Code, ExitFailed);
     EXPECT_TRUE(Failed.Err.contains(u"nebctl rewrite"_s));
-    EXPECT_EQ(Tool({u"rewrite"_s, Database()}).Code, ExitDone);
+    EXPECT_EQ(Nebctl({u"rewrite"_s, Database()}).Code, ExitDone);
     EXPECT_EQ(OpenEngine(Database())->Albums[0]->Slides.size(), 2U);
-    EXPECT_EQ(Tool({u"check"_s, Database()}).Code, ExitDone);
+    EXPECT_EQ(Nebctl({u"check"_s, Database()}).Code, ExitDone);
 }
 
 TEST_F(NebctlImportTest, AShowNameThatIsTooLongIsRefused) {
@@ -804,7 +803,7 @@ TEST_F(NebctlImportTest, ADatabaseInUseOrReadOnlyIsLeftAlone) {
         InstanceLock Program(Database() + u"InUse.lock"_s);
         ASSERT_TRUE(Program.TryLock());
         EXPECT_TRUE(Import({}).Err.contains(u"in use"_s));
-        EXPECT_TRUE(Tool({u"rewrite"_s, Database()}).Err.contains(u"in use"_s));
+        EXPECT_TRUE(Nebctl({u"rewrite"_s, Database()}).Err.contains(u"in use"_s));
     }
     QFile::setPermissions(Database() + u"NextIDs.dat"_s, QFileDevice::ReadOwner);
     EXPECT_TRUE(Import({}).Err.contains(u"read-only"_s));
@@ -820,12 +819,12 @@ TEST_F(NebctlImportTest, ADatabaseInUseOnAnotherMachineIsTakenOverOnlyWhereThatI
           QStringList{u"transfer"_s, Database(), Database(), u"--album"_s, u"Other"_s, u"--to"_s,
                       u"Third"_s}}) {
         WriteFile(DatabaseLockPath(Database()), Left);
-        const Outcome Refused = Tool(Words);
+        const Outcome Refused = Nebctl(Words);
         EXPECT_EQ(Refused.Code, ExitFailed);
         EXPECT_TRUE(Refused.Err.contains(u"in use on the computer \"the-laptop\""_s))
             << qPrintable(Refused.Err);
         EXPECT_EQ(Left, ReadFile(DatabaseLockPath(Database())));
-        const Outcome Done = Tool(Words + QStringList{u"--take-over"_s});
+        const Outcome Done = Nebctl(Words + QStringList{u"--take-over"_s});
         EXPECT_NE(Done.Code, ExitFailed) << qPrintable(Words[0] + u' ' + Done.Err);
         EXPECT_FALSE(FileExists(DatabaseLockPath(Database())));
     }
@@ -837,7 +836,7 @@ TEST_F(NebctlImportTest, WrongWordsAreRefused) {
           QStringList{u"import"_s, Database(), Pictures(), u"--album"_s},
           QStringList{u"import"_s, Database(), Dir / u"gone"_s, u"--album"_s, u"x"_s},
           QStringList{u"import"_s, Database(), Pictures(), u"--album"_s, QString(81, u'x')}}) {
-        const Outcome Refused = Tool(Words);
+        const Outcome Refused = Nebctl(Words);
         EXPECT_EQ(Refused.Code, ExitFailed);
         EXPECT_FALSE(Refused.Err.isEmpty());
     }

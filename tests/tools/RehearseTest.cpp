@@ -21,13 +21,13 @@ QByteArray Wave(int Seconds) {
 }
 
 // All that lies below a directory, with contents and dates.
-QStringList Everything(const QString& Dir) {
+QStringList AllFiles(const QString& Dir) {
     QStringList All;
     for (const DirEntry& Entry : ListDir(Dir)) {
         const QString Path = Dir + Entry.Name;
         All << Path << FileTime(Path)->toString(Qt::ISODateWithMs);
         if (Entry.IsFolder)
-            All << Everything(Path + u'/');
+            All << AllFiles(Path + u'/');
         else
             All << QString::fromLatin1(ReadFile(Path).toHex());
     }
@@ -180,10 +180,10 @@ TEST_F(RehearseTest, LeavesNoTraceOnTheDisk) {
     WriteAt(Sounds(), u"song.wav"_s, Wave(7));
     WriteAt(Folder / u"docs/NEB/NEB Slide Show/"_s, u"QLM.ini"_s,
             "Timeout=5\nActiveAlbum=1\nActiveSlideShow=1\nNextSlideSeq=2\nno setting\n");
-    const QStringList Before = Everything(Folder.Path());
+    const QStringList Before = AllFiles(Folder.Path());
     EXPECT_EQ(ExitFound, Rehearse().Code);
     EXPECT_EQ(ExitFound, Rehearse({u"--json"_s}).Code);
-    EXPECT_EQ(Before, Everything(Folder.Path()));
+    EXPECT_EQ(Before, AllFiles(Folder.Path()));
 }
 
 TEST_F(RehearseTest, MakesNoFolderForSettingsThatAreNotThere) {
@@ -205,9 +205,9 @@ TEST_F(RehearseTest, RehearsesByTheRecordsThatTheNextStartWillFind) {
         EXPECT_THROW(Engine->FinalizeDB(), Fault);
         SetHostWatcher({});
     }
-    const QStringList Before = Everything(Folder.Path());
+    const QStringList Before = AllFiles(Folder.Path());
     EXPECT_NE(std::string::npos, Rehearse().Out.find("The ship"));
-    EXPECT_EQ(Before, Everything(Folder.Path()));
+    EXPECT_EQ(Before, AllFiles(Folder.Path()));
 }
 
 TEST_F(RehearseTest, ExplainsItself) {

@@ -11,7 +11,7 @@
 namespace neb {
 namespace {
 
-constexpr int LookMs = 10;
+constexpr int ProposalLookMs = 10;
 
 }  // namespace
 
@@ -41,7 +41,7 @@ void DirectoryProposals::Typed(const QString& Text) {
     if (!Beginning.startsWith(u'/')) return;
     mNames =
         std::make_unique<AheadQueue<QString, QStringList>>(std::vector{Beginning}, &ListFolders);
-    mLook.start(LookMs);
+    mLook.start(ProposalLookMs);
 }
 
 void DirectoryProposals::LookAtNames() {

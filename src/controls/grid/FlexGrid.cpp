@@ -10,13 +10,13 @@
 namespace neb {
 namespace {
 
-constexpr int Margin = 4;
+constexpr int GridMargin = 4;
 
 int WidthFor(const FlexColumn& Column, const QFontMetrics& Metrics) {
     if (Column.Width > 0) return Column.Width;
-    if (Column.Kind == FlexKind::Picture) return PictureSide + 4 * Margin;
+    if (Column.Kind == FlexKind::Picture) return PictureSide + 4 * GridMargin;
     const int Text = Metrics.averageCharWidth() * (Column.Kind == FlexKind::Text ? 24 : 12);
-    return std::max(Text, Metrics.size(0, Column.Heading).width() + 4 * Margin);
+    return std::max(Text, Metrics.size(0, Column.Heading).width() + 4 * GridMargin);
 }
 
 // Rows that lie together as one range: the view is slow with thousands of them.
@@ -221,7 +221,7 @@ void FlexGrid::FitRowHeight() {
     for (int Each = 0; Each < Cols(); ++Each)
         if (Column(Each).Kind == FlexKind::Picture && !ColHidden(Each))
             Content = std::max(Content, PictureSide);
-    const int Height = Content + 2 * Margin;
+    const int Height = Content + 2 * GridMargin;
     if (verticalHeader()->defaultSectionSize() != Height)
         verticalHeader()->setDefaultSectionSize(Height);
 }

@@ -17,7 +17,7 @@
 namespace neb {
 namespace {
 
-constexpr int Margin = 4;
+constexpr int CellMargin = 4;
 const QString Dots = QStringLiteral("...");
 
 void EditNeighbour(FlexGrid& Grid, int Step) {
@@ -110,8 +110,8 @@ QRect FlexGridDelegate::HotSpot(const QStyleOptionViewItem& Option, int Col) con
     const bool Opens = Kind == FlexKind::List && mGrid->Column(Col).Editable;
     if (Kind != FlexKind::Button && !Opens) return {};
     const QFontMetrics Metrics = mGrid->fontMetrics();
-    const int Height = std::min(Option.rect.height(), Metrics.height() + 2 * Margin);
-    const int Width = Opens ? Metrics.height() : Metrics.horizontalAdvance(Dots) + 4 * Margin;
+    const int Height = std::min(Option.rect.height(), Metrics.height() + 2 * CellMargin);
+    const int Width = Opens ? Metrics.height() : Metrics.horizontalAdvance(Dots) + 4 * CellMargin;
     return QStyle::alignedRect(Option.direction, Qt::AlignRight | Qt::AlignVCenter,
                                QSize(Width, Height), Option.rect);
 }

@@ -70,7 +70,7 @@ class SpokenComboBox : public QAccessibleWidget, public QAccessibleTextInterface
     QComboBox& mBox;
 };
 
-QAccessibleInterface* Spoken(const QString&, QObject* Object) {
+QAccessibleInterface* SpokenBox(const QString&, QObject* Object) {
     auto* Box = qobject_cast<QComboBox*>(Object);
     return Box ? new SpokenComboBox(Box) : nullptr;
 }
@@ -78,7 +78,7 @@ QAccessibleInterface* Spoken(const QString&, QObject* Object) {
 }  // namespace
 
 void NameComboBoxes() {
-    QAccessible::installFactory(&Spoken);
+    QAccessible::installFactory(&SpokenBox);
 }
 
 }  // namespace neb

@@ -8,7 +8,7 @@
 namespace neb {
 namespace {
 
-constexpr quint16 OrientationTag = 0x0112;
+constexpr quint16 TurnTag = 0x0112;
 constexpr int NotTold = 0;
 
 int Checked(qint64 Number) {
@@ -17,7 +17,7 @@ int Checked(qint64 Number) {
 
 int ByExif(const QByteArray& File) {
     const QByteArray Block = ExifBlockOf(File);
-    return Checked(TiffTags(Block).Value(OrientationTag).value_or(NotTold));
+    return Checked(TiffTags(Block).Value(TurnTag).value_or(NotTold));
 }
 
 int ByXmp(const QByteArray& File) {

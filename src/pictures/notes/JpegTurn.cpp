@@ -17,7 +17,7 @@ constexpr TJXOP MirroredTurns[] = {TJXOP_HFLIP, TJXOP_TRANSVERSE, TJXOP_VFLIP, T
 struct Closed {
     void operator()(void* Handle) const { tjDestroy(Handle); }
 };
-struct Freed {
+struct FreedJpeg {
     void operator()(uchar* Bytes) const { tjFree(Bytes); }
 };
 
@@ -46,7 +46,7 @@ std::optional<QByteArray> TurnedBy(const Handle& Library, const QByteArray& Jpeg
     const int Result =
         tjTransform(Library.get(), reinterpret_cast<const uchar*>(Jpeg.constData()),
                     static_cast<unsigned long>(Jpeg.size()), 1, &Bytes, &Length, &How, 0);
-    const std::unique_ptr<uchar, Freed> Held(Bytes);
+    const std::unique_ptr<uchar, FreedJpeg> Held(Bytes);
     if (Result != 0 || !Bytes) return std::nullopt;
     return QByteArray(reinterpret_cast<const char*>(Bytes), static_cast<qsizetype>(Length));
 }

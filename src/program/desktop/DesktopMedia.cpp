@@ -11,16 +11,16 @@
 namespace neb {
 namespace {
 
-const QString Path = QStringLiteral("/org/mpris/MediaPlayer2");
-const QString Name = QStringLiteral("org.mpris.MediaPlayer2.neb_slide_show");
+const QString BusPath = QStringLiteral("/org/mpris/MediaPlayer2");
+const QString BusName = QStringLiteral("org.mpris.MediaPlayer2.neb_slide_show");
 
 // A connection of our own: the player is gone with it, whatever happens.
 const QString Connection = QStringLiteral("neb-media-player");
 
 // Several instances of the program may show at a time, each its own albums.
 void TakeName(QDBusConnection& On) {
-    if (!On.registerService(Name))
-        On.registerService(Name + QStringLiteral(".instance%1").arg(::getpid()));
+    if (!On.registerService(BusName))
+        On.registerService(BusName + QStringLiteral(".instance%1").arg(::getpid()));
 }
 
 QVariantMap WhatIsOther(const QVariantMap& Now, const QVariantMap& Before) {
@@ -56,7 +56,7 @@ void DesktopMedia::Enter() {
     new MediaRootFace(*mObject, *mPlayer);
     new MediaPlayerFace(*mObject, *mPlayer);
     mTold = MediaProperties(mPlayer->Status());
-    if (On.isConnected() && On.registerObject(Path, mObject.get())) TakeName(On);
+    if (On.isConnected() && On.registerObject(BusPath, mObject.get())) TakeName(On);
 }
 
 void DesktopMedia::Leave() {
@@ -71,7 +71,7 @@ void DesktopMedia::Changed() {
     const QVariantMap Other = WhatIsOther(Now, std::exchange(mTold, Now));
     if (Other.isEmpty()) return;
     QDBusMessage Told =
-        QDBusMessage::createSignal(Path, QStringLiteral("org.freedesktop.DBus.Properties"),
+        QDBusMessage::createSignal(BusPath, QStringLiteral("org.freedesktop.DBus.Properties"),
                                    QStringLiteral("PropertiesChanged"));
     Told << QStringLiteral("org.mpris.MediaPlayer2.Player") << Other << QStringList();
     QDBusConnection(Connection).send(Told);

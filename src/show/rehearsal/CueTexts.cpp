@@ -18,7 +18,7 @@ constexpr std::pair<CueSoundKind, const char*> SoundWords[] = {
     {CueSoundKind::Unplayed, QT_TR_NOOP("not played")},
 };
 
-constexpr double Unnoticed = 0.1;  // seconds
+constexpr double UnnoticedCue = 0.1;  // seconds
 
 QString Counted(size_t Count, const char* None, const char* One, const char* Many) {
     return Count == 0 ? tr(None) : Count == 1 ? tr(One) : tr(Many).arg(Count);
@@ -48,7 +48,7 @@ QString SoundText(const RehearsalCue& Cue) {
     if (Sound.Loops == 1) Text += tr(", begins anew");
     if (Sound.Loops > 1) Text += tr(", begins anew %1 times").arg(Sound.Loops);
     if (Sound.EndVolume < Sound.Volume) Text += tr(", fades to %1").arg(Sound.EndVolume);
-    if (Sound.EndsAt >= 0 && Sound.EndsAt < Cue.At + Cue.Seconds - Unnoticed)
+    if (Sound.EndsAt >= 0 && Sound.EndsAt < Cue.At + Cue.Seconds - UnnoticedCue)
         Text += tr(", ends at %1").arg(TimeText(Sound.EndsAt));
     return Text;
 }

@@ -6,7 +6,7 @@
 namespace neb {
 namespace {
 
-constexpr int MostChannels = 8;
+constexpr int MostMixed = 8;
 
 struct Share {
     float Left;
@@ -17,7 +17,7 @@ constexpr Share ToLeft{1, 0}, ToRight{0, 1}, Middle{Half, Half}, NearLeft{Half, 
     NearRight{0, Half}, BehindMiddle{0.5F, 0.5F}, Nowhere{0, 0};
 
 // Front, back and side channels as WAV files order them, a row for each number of channels.
-constexpr Share Shares[MostChannels][MostChannels] = {
+constexpr Share Shares[MostMixed][MostMixed] = {
     {{1, 1}},
     {ToLeft, ToRight},
     {ToLeft, ToRight, Middle},
@@ -31,7 +31,7 @@ constexpr Share Shares[MostChannels][MostChannels] = {
 // So that all channels at full level give full level.
 float Scale(const Share* Row) {
     float Sum = 0;
-    for (int I = 0; I < MostChannels; ++I) Sum += Row[I].Left;
+    for (int I = 0; I < MostMixed; ++I) Sum += Row[I].Left;
     return 1 / Sum;
 }
 
@@ -42,7 +42,7 @@ float Sane(float Sample) {
 }  // namespace
 
 void MixToStereo(const float* From, int Channels, float* Into, int Frames) {
-    const int Used = std::clamp(Channels, 1, MostChannels);
+    const int Used = std::clamp(Channels, 1, MostMixed);
     const Share* const Row = Shares[Used - 1];
     const float Level = Scale(Row);
     for (; Frames > 0; --Frames, From += Channels, Into += 2) {

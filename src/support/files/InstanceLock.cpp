@@ -25,7 +25,7 @@ namespace {
 enum Line { Process, Program, Machine, MachineID, SystemID, LineCount };
 using Holder = QList<QByteArray>;
 
-constexpr int MostTries = 20;
+constexpr int MostLockTries = 20;
 constexpr qint64 MostText = 4096;
 
 Holder Myself() {
@@ -170,7 +170,7 @@ InstanceLock::~InstanceLock() {
 
 LockAnswer InstanceLock::TryLock(FromElsewhere Other) {
     if (mState->mHeld) return {};
-    for (int I = 0; I < MostTries; ++I)
+    for (int I = 0; I < MostLockTries; ++I)
         if (auto Answered = mState->Try(Other)) return *Answered;
     return {LockAnswer::State::HeldHere};
 }

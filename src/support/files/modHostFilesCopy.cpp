@@ -19,7 +19,7 @@
 namespace neb {
 namespace {
 
-constexpr qint64 PieceLength = 1 << 22;
+constexpr qint64 CopiedPiece = 1 << 22;
 
 class BytesCopy {
   public:
@@ -33,7 +33,7 @@ class BytesCopy {
 
     bool Run(const std::function<bool(qint64)>& GoOn) {
         while (mLeft > 0) {
-            const qint64 Count = CopyPiece(std::min(mLeft, PieceLength));
+            const qint64 Count = CopyPiece(std::min(mLeft, CopiedPiece));
             mLeft -= Count;
             if (!GoOn(Count)) return false;
         }

@@ -9,20 +9,20 @@
 namespace neb {
 namespace {
 
-[[noreturn]] void FailWrite(const QFile& File, const QString& Path) {
+[[noreturn]] void FailLines(const QFile& File, const QString& Path) {
     throw Fault(tr("The file cannot be written. (%1)").arg(File.errorString()), Path);
 }
 
 void Open(HostFile& File, const QString& Path) {
     const bool IsNew = !HostInfo(File.fileName()).Exists();
-    if (!File.open(QIODevice::ReadWrite | QIODevice::Unbuffered)) FailWrite(File, Path);
+    if (!File.open(QIODevice::ReadWrite | QIODevice::Unbuffered)) FailLines(File, Path);
     if (IsNew) NoteNameMade(File.fileName());
 }
 
 void WriteAt(QFile& File, qint64 Place, const QByteArray& Bytes, const QString& Path) {
     const qint64 Allowed = AllowedToWrite(Path, Bytes.size());
     if (!File.seek(Place) || File.write(Bytes.constData(), Allowed) != Allowed)
-        FailWrite(File, Path);
+        FailLines(File, Path);
     if (Allowed < Bytes.size()) FailNoSpace(Path);
 }
 
@@ -51,7 +51,7 @@ void CutFile(const QString& Path, qint64 Length) {
     HostFile File(ResolvePath(Path));
     Open(File, Path);
     AllowedToWrite(Path, 0);
-    if (!File.resize(Length)) FailWrite(File, Path);
+    if (!File.resize(Length)) FailLines(File, Path);
 }
 
 }  // namespace neb

@@ -20,7 +20,7 @@ struct ToolFilm {
     FilmOrder Order;
 };
 
-bool Misused(ToolIO& IO, const QString& Wanted) {
+bool MisusedFilm(ToolIO& IO, const QString& Wanted) {
     Fail(IO, Wanted + QStringLiteral("; see nebctl film --help."));
     return false;
 }
@@ -29,7 +29,8 @@ bool TakeSize(QStringList& Words, FilmOrder& Order, ToolIO& IO) {
     const auto Text = TakeOption(Words, QStringLiteral("--size"));
     if (!Text) return true;
     const auto Size = SizeOf(*Text);
-    if (!Size) return Misused(IO, QStringLiteral("\"%1\" is no size such as 1920x1080").arg(*Text));
+    if (!Size)
+        return MisusedFilm(IO, QStringLiteral("\"%1\" is no size such as 1920x1080").arg(*Text));
     Order.Size = *Size;
     return true;
 }
@@ -47,7 +48,7 @@ bool TakeNumbers(QStringList& Words, FilmOrder& Order, ToolIO& IO) {
         if (!Text) continue;
         const auto Value = WholeNumber(*Text, 1, std::numeric_limits<int>::max());
         if (!Value)
-            return Misused(IO, QStringLiteral("%1 wants a number").arg(QLatin1String(Name)));
+            return MisusedFilm(IO, QStringLiteral("%1 wants a number").arg(QLatin1String(Name)));
         *Into = *Value;
     }
     return true;
@@ -59,17 +60,17 @@ bool TakeDate(QStringList& Words, FilmOrder& Order, ToolIO& IO) {
     if (!Text) return true;
     Order.Date = QDate::fromString(*Text, Qt::ISODate);
     return Order.Date.isValid() ||
-           Misused(IO, QStringLiteral("\"%1\" is no date such as 2026-11-22").arg(*Text));
+           MisusedFilm(IO, QStringLiteral("\"%1\" is no date such as 2026-11-22").arg(*Text));
 }
 
 bool TakeFile(QStringList& Words, FilmOrder& Order, ToolIO& IO) {
     for (const QString& Word : Words)
         if (Word.startsWith(u"--"))
-            return Misused(IO, QStringLiteral("%1 is no option of film").arg(Word));
+            return MisusedFilm(IO, QStringLiteral("%1 is no option of film").arg(Word));
     const QString Path = Words.size() == 2 ? Words.takeLast() : QString();
     const auto Format = FormatOfFilm(Path);
     if (!Format)
-        return Misused(
+        return MisusedFilm(
             IO, QStringLiteral("A database and a file OUT.mp4, OUT.webm or OUT.mkv are wanted"));
     Order.Path = Path;
     Order.Format = *Format;
@@ -78,7 +79,7 @@ bool TakeFile(QStringList& Words, FilmOrder& Order, ToolIO& IO) {
 
 bool TakeOptions(QStringList& Words, ToolFilm& Of, ToolIO& IO) {
     const QString Empty = TakeShowWords(Words, Of.Of);
-    if (!Empty.isEmpty()) return Misused(IO, QStringLiteral("%1 wants a value").arg(Empty));
+    if (!Empty.isEmpty()) return MisusedFilm(IO, QStringLiteral("%1 wants a value").arg(Empty));
     Of.Order.CaptionsInPicture = Words.removeAll(QStringLiteral("--no-captions")) == 0;
     Of.Order.SubtitleTrack = Words.removeAll(QStringLiteral("--subtitles")) > 0;
     Of.Order.SubtitleFile = Words.removeAll(QStringLiteral("--srt")) > 0;
@@ -87,7 +88,7 @@ bool TakeOptions(QStringList& Words, ToolFilm& Of, ToolIO& IO) {
 }
 
 // Nothing after a line on Err when the words do not make an order.
-std::optional<ToolFilm> ReadOrder(QStringList Words, ToolIO& IO) {
+std::optional<ToolFilm> ReadFilmOrder(QStringList Words, ToolIO& IO) {
     ToolFilm Of;
     if (!TakeOptions(Words, Of, IO)) return std::nullopt;
     const Answer<> Sound = CheckFilmOrder(Of.Order);
@@ -152,7 +153,7 @@ int Film(const ToolShow& Its, FilmOrder Order, ToolIO& IO) {
 }  // namespace
 
 int RunFilm(const QStringList& Arguments, ToolIO& IO) {
-    const std::optional<ToolFilm> Of = ReadOrder(Arguments, IO);
+    const std::optional<ToolFilm> Of = ReadFilmOrder(Arguments, IO);
     if (!Of) return ExitFailed;
     const auto Its = ToolShow::Open(Of->Of, IO);
     return Its ? Film(*Its, Of->Order, IO) : ExitFailed;

@@ -17,7 +17,7 @@ struct RehearseOrder {
     bool Json = false;
 };
 
-bool Misused(ToolIO& IO, const QString& Wanted) {
+bool MisusedRehearse(ToolIO& IO, const QString& Wanted) {
     Fail(IO, Wanted + QStringLiteral("; see nebctl rehearse --help."));
     return false;
 }
@@ -26,18 +26,19 @@ bool Misused(ToolIO& IO, const QString& Wanted) {
 // directory.
 bool TakeOptions(QStringList& Words, RehearseOrder& Order, ToolIO& IO) {
     const QString Empty = TakeShowWords(Words, Order.Of);
-    if (!Empty.isEmpty()) return Misused(IO, QStringLiteral("%1 wants a value").arg(Empty));
+    if (!Empty.isEmpty()) return MisusedRehearse(IO, QStringLiteral("%1 wants a value").arg(Empty));
     Order.Json = Words.removeAll(QStringLiteral("--json")) > 0;
     const auto Text = TakeOption(Words, QStringLiteral("--screen"));
     if (!Text) return true;
     const auto Size = SizeOf(*Text);
-    if (!Size) Misused(IO, QStringLiteral("\"%1\" is no size such as 1920x1080").arg(*Text));
+    if (!Size)
+        MisusedRehearse(IO, QStringLiteral("\"%1\" is no size such as 1920x1080").arg(*Text));
     Order.Screen = Size.value_or(Order.Screen);
     return Size.has_value();
 }
 
 // Nothing after a line on Err when the words do not make an order.
-std::optional<RehearseOrder> ReadOrder(QStringList Words, ToolIO& IO) {
+std::optional<RehearseOrder> ReadRehearseOrder(QStringList Words, ToolIO& IO) {
     RehearseOrder Order;
     if (!TakeOptions(Words, Order, IO)) return std::nullopt;
     const std::optional<QString> Dir = OneDirectory(Words, IO);
@@ -61,7 +62,7 @@ int Rehearse(ToolShow& Its, const RehearseOrder& Order, ToolIO& IO) {
 }  // namespace
 
 int RunRehearse(const QStringList& Arguments, ToolIO& IO) {
-    const std::optional<RehearseOrder> Order = ReadOrder(Arguments, IO);
+    const std::optional<RehearseOrder> Order = ReadRehearseOrder(Arguments, IO);
     if (!Order) return ExitFailed;
     const auto Its = ToolShow::Open(Order->Of, IO);
     return Its ? Rehearse(*Its, *Order, IO) : ExitFailed;

@@ -15,7 +15,7 @@
 namespace neb {
 namespace {
 
-QString TextOfTime(const Generation& Each) {
+QString TimeOfCopy(const Generation& Each) {
     return TimeText(QDateTime::fromMSecsSinceEpoch(Each.Saved));
 }
 
@@ -38,7 +38,7 @@ QString TextOfGood(const std::optional<Generation>& Good) {
     return QObject::tr(
                "The last good albums were saved on %1: %2. What has been changed "
                "since then would have to be done again.")
-        .arg(TextOfTime(*Good), TextOfCounts(Good->Albums, Good->Slides, Good->SlideShows));
+        .arg(TimeOfCopy(*Good), TextOfCounts(Good->Albums, Good->Slides, Good->SlideShows));
 }
 
 // So that nobody gives up more than the damage has taken, nor goes on with nothing.
@@ -117,7 +117,7 @@ void frmDamage::ShowDamage() {
 void frmDamage::Restore() {
     Mend(
         [this] { return RestoreInstead(mDamage.DBPath, AppPath(), mDamage.Health, *mDamage.Good); },
-        tr("The albums are as they were saved on %1.").arg(TextOfTime(*mDamage.Good)));
+        tr("The albums are as they were saved on %1.").arg(TimeOfCopy(*mDamage.Good)));
 }
 
 void frmDamage::GoOn() {

@@ -5,7 +5,7 @@
 namespace neb {
 namespace {
 
-constexpr int LookMs = 30;
+constexpr int SongLookMs = 30;
 
 QHash<QString, QString> ReadNames(const QStringList& Paths, const JobState& State) {
     QHash<QString, QString> Names;
@@ -17,7 +17,7 @@ QHash<QString, QString> ReadNames(const QStringList& Paths, const JobState& Stat
 }  // namespace
 
 SongReading::SongReading(QObject* Owner) : QObject(Owner) {
-    mLook.setInterval(LookMs);
+    mLook.setInterval(SongLookMs);
     connect(&mLook, &QTimer::timeout, this, &SongReading::Look);
 }
 

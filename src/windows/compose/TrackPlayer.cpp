@@ -7,7 +7,7 @@
 namespace neb {
 namespace {
 
-constexpr int LookMs = 50;
+constexpr int PlayerLookMs = 50;
 
 QString WhyNot(const QString& Path) {
     try {
@@ -21,7 +21,7 @@ QString WhyNot(const QString& Path) {
 }  // namespace
 
 TrackPlayer::TrackPlayer(QWidget* Owner) : QObject(Owner), mOwner(*Owner) {
-    mLook.setInterval(LookMs);
+    mLook.setInterval(PlayerLookMs);
     connect(&mLook, &QTimer::timeout, this, &TrackPlayer::Look);
 }
 

@@ -9,7 +9,7 @@ namespace neb {
 namespace {
 
 constexpr int MomentMs = 400;
-constexpr int LookMs = 50;
+constexpr int ForecastLookMs = 50;
 
 bool IsSamePlan(const FilmOrder& One, const FilmOrder& Other) {
     const auto Parts = [](const FilmOrder& Of) {
@@ -31,7 +31,7 @@ bool IsSameFilm(const FilmOrder& One, const FilmOrder& Other) {
 
 FilmForecast::FilmForecast(QObject* Owner) : QObject(Owner) {
     mBegin.setSingleShot(true);
-    mLook.setInterval(LookMs);
+    mLook.setInterval(ForecastLookMs);
     connect(&mBegin, &QTimer::timeout, this, &FilmForecast::Begin);
     connect(&mLook, &QTimer::timeout, this, &FilmForecast::Look);
 }

@@ -24,7 +24,7 @@ constexpr int KeepAfterMs = 500;  // a slider that is drawn passes by many sizes
 constexpr double SizeStep = 1.25;
 constexpr double TitleScale = 1.3;
 
-const std::vector<SlideEntry> Entries{
+const std::vector<SlideEntry> PageEntries{
     {"Screen", QT_TR_NOOP("Show on &Full Screen"), "Enter", "slide-show-play", false, true},
     {"Edit", QT_TR_NOOP("&Edit Caption"), "F2", "new", true, true},
     {"Manager", QT_TR_NOOP("Open in the &Slide Manager"), "", "slide-manager", false, true},
@@ -235,7 +235,7 @@ std::int32_t AlbumPage::InHand() const {
 void AlbumPage::AskInMenuAt(const QPoint& GlobalPos) {
     if (Selected().size() == 1) mUi->lvwSlides->ChooseRow(mSlides->RowOf(Selected().front()));
     const QPointer<AlbumPage> Here(this);
-    const QString Chosen = AskInMenu(*this, Entries, GlobalPos, Selected().size() == 1);
+    const QString Chosen = AskInMenu(*this, PageEntries, GlobalPos, Selected().size() == 1);
     for (const Command& Each : Commands)
         if (Here && *Each.Name && Chosen == QLatin1String(Each.Name)) (this->*Each.Do)();
 }

@@ -14,7 +14,7 @@
 namespace neb {
 namespace {
 
-constexpr size_t Few = 3;  // are done before a window would be up
+constexpr size_t FewTurns = 3;  // are done before a window would be up
 
 }  // namespace
 
@@ -24,7 +24,7 @@ SlideTurning::SlideTurning(std::int32_t AlbumID, std::vector<std::int32_t> Slide
 SlideTurning::~SlideTurning() = default;
 
 void SlideTurning::Run() {
-    if (mSlideIDs.size() > Few) {
+    if (mSlideIDs.size() > FewTurns) {
         mProgress = NewForm<frmProgress>();
         mProgress->ShowProgressMeter(*this);
     } else {

@@ -16,7 +16,7 @@
 namespace neb {
 namespace {
 
-constexpr int LookMs = 15;  // who pages on at once passes by unread
+constexpr int TileLookMs = 15;  // who pages on at once passes by unread
 constexpr int Thumbnail = 0;
 
 QSize Square(int Side) {
@@ -51,7 +51,7 @@ TilePicture ReadSharp(const QString& Path, int Side) {
 
 TilePictures::TilePictures(QListView& View, const SlideModel& Model, int Side)
     : QObject(&View), mView(View), mModel(Model), mSide(Side) {
-    mLook.setInterval(LookMs);
+    mLook.setInterval(TileLookMs);
     connect(&mLook, &QTimer::timeout, this, &TilePictures::Look);
 }
 

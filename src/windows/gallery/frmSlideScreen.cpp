@@ -26,7 +26,7 @@ constexpr int Margin = 12;       // pixels
 constexpr QColor FieldGround(38, 38, 38);
 constexpr int FieldShare = 2;  // of the screen's width
 
-const std::vector<SlideEntry> Entries{
+const std::vector<SlideEntry> ScreenEntries{
     {"Edit", QT_TR_NOOP("&Edit Caption"), "F2", "new", true, true},
     {"", "", "", "", false, false},
     {"Left", QT_TR_NOOP("Turn &Left"), "L", "rotate-left", true, true},
@@ -261,7 +261,7 @@ void frmSlideScreen::contextMenuEvent(QContextMenuEvent* Event) {
 
 void frmSlideScreen::AskInMenuAt(const QPoint& GlobalPos) {
     mPointer.Wake();
-    const QString Chosen = AskInMenu(*this, Entries, GlobalPos, true);
+    const QString Chosen = AskInMenu(*this, ScreenEntries, GlobalPos, true);
     for (const Command& Each : Commands)
         if (*Each.Name && Chosen == QLatin1String(Each.Name)) (this->*Each.Do)();
 }

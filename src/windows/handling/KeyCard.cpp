@@ -14,7 +14,7 @@ struct CardRow {
     ShowKind In = ShowKind::Any;
 };
 
-constexpr CardRow Rows[] = {
+constexpr CardRow CardRows[] = {
     {QT_TRANSLATE_NOOP("neb::KeyCard", "Right, Up, Page Down, Enter, N, W, 8"),
      QT_TRANSLATE_NOOP("neb::KeyCard", "next slide")},
     {QT_TRANSLATE_NOOP("neb::KeyCard", "Left, Down, Page Up, Backspace, S, 2"),
@@ -55,7 +55,7 @@ KeyCard::KeyCard(QWidget& Window) : ShowPanel(Window), mRows(new QGridLayout(thi
 void KeyCard::OpenFor(bool Manual) {
     qDeleteAll(findChildren<QLabel*>());
     int Line = 0;
-    for (const CardRow& Row : Rows) {
+    for (const CardRow& Row : CardRows) {
         if (Row.In == (Manual ? ShowKind::Automatic : ShowKind::Manual)) continue;
         auto* Keys = new QLabel(QStringLiteral("<b>%1</b>").arg(tr(Row.Keys)), this);
         Keys->setTextFormat(Qt::RichText);

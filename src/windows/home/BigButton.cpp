@@ -7,8 +7,8 @@ namespace neb {
 namespace {
 
 constexpr int Padding = 14, Gap = 14;  // logical pixels
-constexpr int LettersAcross = 50;
-constexpr double Larger = 1.25;
+constexpr int ButtonLetters = 50;
+constexpr double LargerWords = 1.25;
 
 }  // namespace
 
@@ -24,7 +24,7 @@ int BigButton::IconSide() const {
 
 QFont BigButton::Large() const {
     QFont Font = font();
-    Font.setPointSizeF(Font.pointSizeF() * Larger);
+    Font.setPointSizeF(Font.pointSizeF() * LargerWords);
     Font.setBold(true);
     return Font;
 }
@@ -35,7 +35,7 @@ QRect BigButton::RoomForText(QSize Within) const {
 }
 
 QSize BigButton::sizeHint() const {
-    const int Width = LettersAcross * fontMetrics().averageCharWidth() + IconSide() + 3 * Padding;
+    const int Width = ButtonLetters * fontMetrics().averageCharWidth() + IconSide() + 3 * Padding;
     const QRect Words =
         fontMetrics().boundingRect(RoomForText({Width, QWIDGETSIZE_MAX}), Qt::TextWordWrap, mWords);
     const int Text = QFontMetrics(Large()).lineSpacing() + Words.height();

@@ -13,12 +13,12 @@
 namespace neb {
 namespace {
 
-constexpr int Margin = 10, Gap = 6, Radius = 8;  // logical pixels
+constexpr int Margin = 10, CardGap = 6, Radius = 8;  // logical pixels
 constexpr int LeastWidth = 196;
 constexpr int LettersAcross = 18;  // a name of usual length has its place in two lines
 constexpr int NameLines = 2, NoteLines = 2;
 constexpr double PileShift = 4;
-constexpr int Badge = 34, IconSide = 48;
+constexpr int Badge = 34, CardIcon = 48;
 
 QFont NameFont(const QFont& Base) {
     QFont Font = Base;
@@ -65,7 +65,8 @@ void PaintPile(QPainter& Painter, const QRectF& Cover, const QColor& Mat, const 
 }
 
 void PaintBadge(QPainter& Painter, const QRectF& Cover) {
-    const QPointF Middle(Cover.left() + Gap + Badge / 2.0, Cover.bottom() - Gap - Badge / 2.0);
+    const QPointF Middle(Cover.left() + CardGap + Badge / 2.0,
+                         Cover.bottom() - CardGap - Badge / 2.0);
     Painter.setPen(QPen(QColor(255, 255, 255, 200), 1.5));
     Painter.setBrush(QColor(0, 0, 0, 150));
     Painter.drawEllipse(Middle, Badge / 2.0, Badge / 2.0);
@@ -96,7 +97,7 @@ QRectF PaintCover(QPainter& Painter, const QRectF& Room, const CardPictures::Kno
     Painter.setBrush(In.Mat);
     Painter.drawRoundedRect(Place, 4, 4);
     if (!Known) return Place;
-    QRectF Icon(0, 0, IconSide, IconSide);
+    QRectF Icon(0, 0, CardIcon, CardIcon);
     Icon.moveCenter(Place.center());
     Painter.setOpacity(0.5);
     ThemeIcon(QStringLiteral("album")).paint(&Painter, Icon.toRect());
@@ -176,7 +177,7 @@ CardSizes::CardSizes(const QFont& Font, int Room) {
     const int Width = std::max((Room - 1) / Columns, 1);
     const int Across = std::max(Width - 2 * Margin, 1);
     Cover = {Across, Across * 3 / 4};
-    Card = {Width, 2 * Margin + qCeil(2 * PileShift) + Cover.height() + Gap +
+    Card = {Width, 2 * Margin + qCeil(2 * PileShift) + Cover.height() + CardGap +
                        NameLines * Names.lineSpacing() + NoteLines * Metrics.lineSpacing()};
 }
 
@@ -197,7 +198,7 @@ void CardDelegate::paint(QPainter* Painter, const QStyleOptionViewItem& Option,
                 QSizeF(mSizes.Cover));
     const QRectF Cover = PaintCover(*Painter, Room, Known, *Card, In);
     if (Card->What == HomeCard::Kind::Show) PaintBadge(*Painter, Cover);
-    Room.setTop(Room.bottom() + Gap);
+    Room.setTop(Room.bottom() + CardGap);
     Room.setBottom(Option.rect.bottom() + 1 - Margin);
     PaintWords(*Painter, Room, *Card, Known, Option.font, In);
     Painter->restore();

@@ -28,7 +28,7 @@ using Kind = HomeCard::Kind;
 constexpr size_t MostSlides = 500;  // more are not looked through; a further word finds better
 constexpr int RenewMs = 100;        // what an import of a thousand slides may cost at most
 constexpr int LearnMs = 20;         // between two parts, while nobody waits
-constexpr int Space = 12;           // logical pixels
+constexpr int ListSpace = 12;       // logical pixels
 
 bool IsStep(const QKeyEvent& Key) {
     return Key.key() == Qt::Key_Down || Key.key() == Qt::Key_PageDown;
@@ -129,8 +129,8 @@ void HomeList::SetUpLayout() {
     Top->addStretch();
     Top->addWidget(mRow);
     auto* All = new QVBoxLayout(this);
-    All->setContentsMargins(2 * Space, Space, Space, 0);
-    All->setSpacing(Space);
+    All->setContentsMargins(2 * ListSpace, ListSpace, ListSpace, 0);
+    All->setSpacing(ListSpace);
     All->addLayout(Top);
     All->addWidget(mLeft);
     All->addWidget(mSummary);

@@ -15,8 +15,8 @@ namespace neb {
 namespace {
 
 constexpr QSize CoverSize(84, 63);  // logical pixels
-constexpr int Margin = 6;
-constexpr double Radius = 8;
+constexpr int LeftMargin = 6;
+constexpr double LeftRadius = 8;
 
 QLabel* NewLabel(const char* Name) {
     auto* Label = new QLabel;
@@ -53,8 +53,8 @@ LeftShow::LeftShow(QWidget* Parent)
     Texts->addWidget(mWhere);
     Texts->addStretch();
     auto* Row = new QHBoxLayout(this);
-    Row->setContentsMargins(Margin, Margin, 2 * Margin, Margin);
-    Row->setSpacing(2 * Margin);
+    Row->setContentsMargins(LeftMargin, LeftMargin, 2 * LeftMargin, LeftMargin);
+    Row->setSpacing(2 * LeftMargin);
     Row->addWidget(mCover);
     Row->addLayout(Texts, 1);
     Row->addWidget(mPlay);
@@ -126,7 +126,7 @@ void LeftShow::paintEvent(QPaintEvent*) {
     QColor Ground = palette().color(QPalette::Text);
     Ground.setAlphaF(0.07F);
     Painter.setBrush(Ground);
-    Painter.drawRoundedRect(rect(), Radius, Radius);
+    Painter.drawRoundedRect(rect(), LeftRadius, LeftRadius);
 }
 
 }  // namespace neb

@@ -23,12 +23,12 @@
 namespace neb {
 namespace {
 
-const WindowMemory Memory{QStringLiteral("frmQuickShow"), 6540};
+const WindowMemory QuickMemory{QStringLiteral("frmQuickShow"), 6540};
 constexpr std::int32_t Automatic = 0;  // ProgressionMethod
 
 }  // namespace
 
-frmQuickShow::frmQuickShow() : ImportForm(Memory) {
+frmQuickShow::frmQuickShow() : ImportForm(QuickMemory) {
     setObjectName(QStringLiteral("frmQuickShow"));
     setWindowTitle(tr("Quick Show"));
     mUi->cmdImport->setText(tr("Sa&ve"));  // Alt+S opens a menu of the main window

@@ -16,14 +16,14 @@ namespace neb {
 namespace {
 
 const WindowMemory Memory{QStringLiteral("frmPicturePopup"), 6675, 7260};
-constexpr int MomentMs = 80, LookMs = 15;
+constexpr int MomentMs = 80, PopupLookMs = 15;
 
 }  // namespace
 
 frmPicturePopup::frmPicturePopup() : mUi(std::make_unique<Ui::frmPicturePopup>()) {
     mUi->setupUi(this);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
-    mLook.setInterval(LookMs);
+    mLook.setInterval(PopupLookMs);
     connect(&mLook, &QTimer::timeout, this, &frmPicturePopup::Look);
     connect(mUi->imgSlide, &PictureView::Clicked, this, &frmPicturePopup::Unload);
 }

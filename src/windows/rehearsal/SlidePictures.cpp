@@ -6,7 +6,7 @@
 namespace neb {
 namespace {
 
-constexpr int LookMs = 30;
+constexpr int PictureLookMs = 30;
 constexpr int AtOnce = 4;      // so that the first are soon seen
 constexpr int MostKept = 500;  // some 18 MB; on a fine screen fewer
 
@@ -34,7 +34,7 @@ QHash<QString, QImage> ReadAll(const QStringList& Paths, QSize Largest, const Jo
 }  // namespace
 
 SlidePictures::SlidePictures(QObject* Owner) : QObject(Owner) {
-    mLook.setInterval(LookMs);
+    mLook.setInterval(PictureLookMs);
     connect(&mLook, &QTimer::timeout, this, &SlidePictures::Look);
 }
 

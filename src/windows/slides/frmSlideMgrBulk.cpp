@@ -27,7 +27,7 @@
 namespace neb {
 namespace {
 
-const WindowMemory Memory{QStringLiteral("frmSlideMgrBulk"), 6315};
+const WindowMemory BulkMemory{QStringLiteral("frmSlideMgrBulk"), 6315};
 
 bool ConfirmDelete() {
     return AskYesNo(tr("Are you sure you want to delete the selected slides?"),
@@ -139,7 +139,7 @@ void frmSlideMgrBulk::LoadAlbumMgr(std::int32_t AlbumID) {
 void frmSlideMgrBulk::Form_Load() {
     for (QPushButton* Button : {mUi->cmdSave, mUi->cmdDelete, mUi->cmdCancel, mUi->cmdSetCaptions})
         Button->setEnabled(!ReadOnlyDB);
-    RestoreWindow(*this, Memory);
+    RestoreWindow(*this, BulkMemory);
 }
 
 bool frmSlideMgrBulk::Form_QueryUnload() {
@@ -148,7 +148,7 @@ bool frmSlideMgrBulk::Form_QueryUnload() {
 
 // Work that is under way sees that the window has gone and ends by itself.
 bool frmSlideMgrBulk::Form_Unload() {
-    SaveWindow(*this, Memory);
+    SaveWindow(*this, BulkMemory);
     mReading.WindowClosed();
     return true;
 }

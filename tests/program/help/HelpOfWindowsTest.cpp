@@ -12,7 +12,7 @@
 namespace neb {
 namespace {
 
-QString Words(QString Text) {
+QString ButtonWords(QString Text) {
     return Text.remove('&').remove("...").trimmed().section('\n', 0, 0).trimmed();
 }
 
@@ -25,7 +25,7 @@ bool IsNamed(QString Page, const QString& Text) {
 QStringList ButtonsIn(const QWidget& Window) {
     QStringList Texts;
     for (const auto* Each : Window.findChildren<QAbstractButton*>()) {
-        const QString Text = Words(Each->text());
+        const QString Text = ButtonWords(Each->text());
         const bool IsOfAField = Each->parentWidget()->inherits("QComboBox") ||
                                 Each->parentWidget()->inherits("QLineEdit");
         if (Text.size() > 1 && !IsOfAField && Each->isVisibleTo(&Window) && !Texts.contains(Text))

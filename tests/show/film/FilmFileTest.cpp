@@ -16,7 +16,7 @@ namespace {
 using namespace test;
 using namespace harness;
 
-constexpr QRgb One = 0xff000001, Two = 0xff000002;
+constexpr QRgb OneColour = 0xff000001, TwoColour = 0xff000002;
 
 class FilmFileTest : public FilmRig {
   protected:
@@ -24,8 +24,8 @@ class FilmFileTest : public FilmRig {
     void Make() const {
         FilmWriter Writer(Path, SquareFilm(4));
         Writer.PutBeside("1\n");
-        Writer.AddFrame(Frame(4, One), 3);
-        Writer.AddFrame(Frame(4, Two));
+        Writer.AddFrame(Frame(4, OneColour), 3);
+        Writer.AddFrame(Frame(4, TwoColour));
         Writer.Finish();
     }
     void PutOld() const {
@@ -199,7 +199,7 @@ TEST_F(FilmFileTest, TellsAtTheEndOfAFolderThatHasGone) {
     const QString Folder = Dir / u"stick/"_s;
     MakeDirs(Folder);
     FilmWriter Writer(Folder + u"Holiday.mp4"_s, SquareFilm(4));
-    Writer.AddFrame(Frame(4, One));
+    Writer.AddFrame(Frame(4, OneColour));
     while (!Seen->Noted().contains(u"frame 1 x1"_s)) std::this_thread::yield();
     DeleteTree(Folder);
     EXPECT_EQ(Folder + u"Holiday.mp4"_s, FaultOf([&] { Writer.Finish(); }).File());
@@ -209,16 +209,16 @@ TEST_F(FilmFileTest, TellsAtTheEndOfAFolderThatHasGone) {
 TEST_F(FilmFileTest, IsMadeOnceAtATime) {
     {
         FilmWriter First(Path, SquareFilm(4));
-        First.AddFrame(Frame(4, One), 3);
+        First.AddFrame(Frame(4, OneColour), 3);
         const Fault Told = FaultOf([&] { FilmWriter(Path, SquareFilm(4)); });
         EXPECT_EQ(u"The file is being made by another window or program."_s, Told.What());
         EXPECT_EQ(Path, Told.File());
-        First.AddFrame(Frame(4, Two));
+        First.AddFrame(Frame(4, TwoColour));
         First.Finish();
         EXPECT_EQ(New, ReadFile(Path));
         // its name is free as soon as it has its own
         FilmWriter Second(Path, SquareFilm(4));
-        Second.AddFrame(Frame(4, One));
+        Second.AddFrame(Frame(4, OneColour));
         Second.Finish();
     }
     EXPECT_EQ("frame-----\nframe 1 x1\n", ReadFile(Path));

@@ -10,8 +10,8 @@ namespace {
 
 using namespace harness;
 
-constexpr auto Pic = clsImageBuffer::ColPicture;
-constexpr auto File = clsImageBuffer::ColPath;
+constexpr auto StalePic = clsImageBuffer::ColPicture;
+constexpr auto StaleFile = clsImageBuffer::ColPath;
 
 class StaleThumbnail : public Intake {
   protected:
@@ -42,7 +42,7 @@ class StaleThumbnail : public Intake {
     // A small file where the program happens to run, not beside the picture.
     void PutIntoTheCurrentDirectory() { WriteFile(u"00000001Small.bmp"_s, "any"); }
     std::string Shown(const FlexGrid& In) {
-        const QImage Picture = In.CellPicture(0, Pic);
+        const QImage Picture = In.CellPicture(0, StalePic);
         if (Picture.isNull()) return "none";
         const QColor Middle = Picture.pixelColor(36, 36);
         return Middle.red() > 200 ? "red" : Middle.blue() > 200 ? "blue" : "other";
@@ -58,7 +58,7 @@ class StaleThumbnail : public Intake {
         return Shown(Grid);
     }
     // As one that a time was noted in would be.
-    void Stamp(const QDateTime& Time) { Grid.SetCellData(0, File, Time); }
+    void Stamp(const QDateTime& Time) { Grid.SetCellData(0, StaleFile, Time); }
 
     clsImageBuffer Store;
     FlexGrid Grid, Target;
@@ -101,7 +101,8 @@ TEST_F(StaleThumbnail, AnUpdateReadsARowWhoseFileHasAnotherName) {
     MakePicture(Folder() + u"00000001.png"_s, 60, 40, Qt::blue);
     Slide->SlideLoc = u"00000001.PNG"_s;
     EXPECT_EQ("blue", Update(false));
-    EXPECT_EQ((Folder() + u"00000001.PNG"_s).toStdString(), Grid.TextMatrix(0, File).toStdString());
+    EXPECT_EQ((Folder() + u"00000001.PNG"_s).toStdString(),
+              Grid.TextMatrix(0, StaleFile).toStdString());
 }
 
 TEST_F(StaleThumbnail, ASmallFileOfTheCurrentDirectoryMakesARowWithoutAStampStale) {
@@ -110,7 +111,7 @@ TEST_F(StaleThumbnail, ASmallFileOfTheCurrentDirectoryMakesARowWithoutAStampStal
     PutPicture(Qt::blue);
     PutIntoTheCurrentDirectory();
     EXPECT_EQ("blue", Load());
-    EXPECT_EQ(CellValue(), Grid.CellData(0, File)) << "and no stamp stays";
+    EXPECT_EQ(CellValue(), Grid.CellData(0, StaleFile)) << "and no stamp stays";
     PutPicture(Qt::red);
     EXPECT_EQ("red", Load());
 }
@@ -140,7 +141,7 @@ TEST_F(StaleThumbnail, AStampIsForgottenByALoad) {
     EXPECT_EQ("blue", Load());
     // a small file beside the picture is what the stamp is taken from, and it is not kept
     EXPECT_EQ("blue", Load());
-    EXPECT_EQ(CellValue(), Grid.CellData(0, File));
+    EXPECT_EQ(CellValue(), Grid.CellData(0, StaleFile));
 }
 
 }  // namespace

@@ -19,7 +19,7 @@ namespace {
 
 using namespace harness;
 
-constexpr auto Pic = clsImageBuffer::ColPicture;
+constexpr auto ListedPic = clsImageBuffer::ColPicture;
 
 // Notes which pictures of a folder are opened.
 class OpenedFiles {
@@ -74,7 +74,7 @@ class ListPicturesShown : public ManagerRig {
     // The picture's cell as it is painted, in pixels of the screen.
     static QImage Cell(const FlexGrid& Grid, int Row) {
         QCoreApplication::processEvents();
-        const QRect Room = Grid.visualRect(Grid.model()->index(Row, Pic));
+        const QRect Room = Grid.visualRect(Grid.model()->index(Row, ListedPic));
         QImage Shot = Grid.viewport()->grab(Room).toImage();
         Shot.setDevicePixelRatio(1);
         return Shot;
@@ -165,7 +165,8 @@ TEST_F(ListPicturesShown, AreInTheirTrueProportionsInTheBulkManager) {
         ExpectShown(GridOf(Bulk), Row, Sizes[Row]);
         const QRectF Room(QPointF(), QSizeF(Cell(GridOf(Bulk), Row).size()) / Ratio(GridOf(Bulk)));
         EXPECT_LE((Seen(GridOf(Bulk), Row).center() - Room.center()).manhattanLength(), 1.5);
-        EXPECT_EQ(ThumbnailSize, GridOf(Bulk).CellPicture(Row, Pic).size()) << "as on the disk";
+        EXPECT_EQ(ThumbnailSize, GridOf(Bulk).CellPicture(Row, ListedPic).size())
+            << "as on the disk";
     }
 }
 
@@ -211,10 +212,10 @@ TEST_F(ListPicturesShown, AreDrawnPixelForPixel) {
     QImage Shot = Grid.viewport()->grab().toImage();
     Shot.setDevicePixelRatio(1);
     for (int Row = 0; Row < 2; ++Row) {
-        QImage Ready = FittedPicture(Grid.ShownPicture(Row, Pic), Ratio(Grid));
+        QImage Ready = FittedPicture(Grid.ShownPicture(Row, ListedPic), Ratio(Grid));
         EXPECT_EQ(qRound(72 * Ratio(Grid)), std::max(Ready.width(), Ready.height()));
         Ready.setDevicePixelRatio(1);
-        const QRect Room = Grid.visualRect(Grid.model()->index(Row, Pic));
+        const QRect Room = Grid.visualRect(Grid.model()->index(Row, ListedPic));
         EXPECT_TRUE(Holds(Shot, Ready, QPointF(Room.topLeft()) * Ratio(Grid))) << Row;
     }
 }
@@ -307,7 +308,7 @@ void FillList(FlexGrid& Grid, const QStringList& Paths) {
         QImage Thumbnail(ThumbnailSize, QImage::Format_RGB32);
         Thumbnail.fill(Qt::red);
         Grid.SetTextMatrix(Row, clsImageBuffer::ColPath, Path);
-        Grid.SetCellPicture(Row, Pic, Thumbnail);
+        Grid.SetCellPicture(Row, ListedPic, Thumbnail);
     }
     Grid.setGeometry(50, 50, 400, 300);
     Grid.show();
@@ -352,7 +353,7 @@ int MoveBetweenScreens() {
     const auto Waits = [&](double Ratio, QSize Pixels) {
         return QTest::qWaitFor(
             [&] {
-                const QSize Now = Grid.ShownPicture(0, Pic).Picture.size();
+                const QSize Now = Grid.ShownPicture(0, ListedPic).Picture.size();
                 return Grid.devicePixelRatioF() == Ratio && Now == Pixels;
             },
             5000);

@@ -43,7 +43,7 @@ int TellColours() {
     return 0;
 }
 
-const harness::ChildRole Teller("caption-colours", &TellColours);
+const harness::ChildRole ColourTeller("caption-colours", &TellColours);
 
 TEST(CaptionColours, AreNotTakenFromTheDesktop) {
     const harness::TempFolder Folder;

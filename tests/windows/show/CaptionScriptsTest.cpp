@@ -25,7 +25,7 @@ QImage Painted(const QString& Caption, int Width) {
     return Label.grab().toImage().convertToFormat(QImage::Format_Grayscale8);
 }
 
-QRect Ink(const QImage& Image) {
+QRect InkOfScript(const QImage& Image) {
     QRect Found;
     for (int Y = 0; Y < Image.height(); ++Y)
         for (int X = 0; X < Image.width(); ++X)
@@ -65,7 +65,7 @@ TEST(CaptionScripts, EveryLetterIsThere) {
 
 TEST(CaptionScripts, EachStandsInTheMiddle) {
     for (const QString& Each : Captions()) {
-        const QRect Seen = Ink(Painted(Each, 1280));
+        const QRect Seen = InkOfScript(Painted(Each, 1280));
         EXPECT_GT(Seen.width(), 60) << Each.toStdString();
         EXPECT_NEAR(640, Seen.center().x(), 8) << Each.toStdString();
     }
@@ -84,7 +84,7 @@ TEST(CaptionScripts, LinesWithoutBlanksAreBrokenAndNothingIsCut) {
                            u"👩‍👩‍👧🇩🇪"_s.repeated(30)};
     for (const QString& Each : Long) {
         const QImage Image = Painted(Each, 300);
-        const QRect Seen = Ink(Image);
+        const QRect Seen = InkOfScript(Image);
         EXPECT_GT(Image.height(), 40) << Each.toStdString();
         EXPECT_GT(Seen.left(), 0) << Each.toStdString();
         EXPECT_LT(Seen.right(), 299) << Each.toStdString();

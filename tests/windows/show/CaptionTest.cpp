@@ -12,7 +12,7 @@ namespace {
 constexpr int ScreenHeight = 1024;
 
 // The caption as it is painted at this width; Height receives what the label asks for.
-QImage Painted(const QString& LabelText, int Width, int* Height = nullptr) {
+QImage PaintedLabel(const QString& LabelText, int Width, int* Height = nullptr) {
     CaptionLabel Label;
     QPalette Dark;
     Dark.setColor(QPalette::Window, Qt::black);
@@ -60,8 +60,8 @@ TEST(Caption, TakesASingleAmpersandAsNoCharacter) {
 }
 
 TEST(Caption, PaintsOneAmpersandForAnAmpersand) {
-    const int One = Ink(Painted(FixCaptionText(QStringLiteral("&")), 400)).width();
-    const int Two = Ink(Painted(FixCaptionText(QStringLiteral("&&")), 400)).width();
+    const int One = Ink(PaintedLabel(FixCaptionText(QStringLiteral("&")), 400)).width();
+    const int Two = Ink(PaintedLabel(FixCaptionText(QStringLiteral("&&")), 400)).width();
     EXPECT_GT(One, 4);
     EXPECT_GT(Two, One * 3 / 2);
     EXPECT_LT(Two, One * 5 / 2);
@@ -73,7 +73,7 @@ TEST(Caption, IsCentredInBoldTwelvePoints) {
     Label.FitTo(1280, ScreenHeight, ScreenHeight / 3);
     EXPECT_TRUE(Label.font().bold());
     EXPECT_EQ(12, Label.font().pointSizeF());
-    const QRect Text = Ink(Painted(Label.text(), 1280));
+    const QRect Text = Ink(PaintedLabel(Label.text(), 1280));
     EXPECT_NEAR(640, Text.center().x(), 3);
 }
 
@@ -85,8 +85,8 @@ TEST(Caption, GrowsWithScreensTallerThanUsual) {
 
 TEST(Caption, WrapsRatherThanBeingCut) {
     int OneLine = 0, Wrapped = 0;
-    Painted(QStringLiteral("short"), 300, &OneLine);
-    const QImage Image = Painted(
+    PaintedLabel(QStringLiteral("short"), 300, &OneLine);
+    const QImage Image = PaintedLabel(
         QStringLiteral("a caption that is a good deal too long for its width"), 300, &Wrapped);
     EXPECT_GT(Wrapped, OneLine * 3 / 2);
     const QRect Text = Ink(Image);
@@ -97,7 +97,7 @@ TEST(Caption, WrapsRatherThanBeingCut) {
 
 TEST(Caption, BreaksAWordThatIsTooLongForALine) {
     int Height = 0;
-    const QRect Text = Ink(Painted(QString(80, u'W'), 300, &Height));
+    const QRect Text = Ink(PaintedLabel(QString(80, u'W'), 300, &Height));
     EXPECT_GT(Text.left(), 0);
     EXPECT_LT(Text.right(), 299);
     EXPECT_LT(Text.bottom(), Height - 1);
@@ -141,8 +141,8 @@ TEST(Caption, CountsTheLinesAtTheStandardType) {
 
 TEST(Caption, KeepsOneLineWhenItIsEmpty) {
     int Empty = 0, OneLine = 0;
-    Painted({}, 300, &Empty);
-    Painted(QStringLiteral("Ag"), 300, &OneLine);
+    PaintedLabel({}, 300, &Empty);
+    PaintedLabel(QStringLiteral("Ag"), 300, &OneLine);
     EXPECT_EQ(OneLine, Empty);
     EXPECT_LT(Empty, 40);
 }

@@ -1,4 +1,5 @@
 // The slide manager by the keyboard alone, and in a database that may not be changed.
+#include <QAbstractButton>
 #include <QDragEnterEvent>
 #include <QMimeData>
 
@@ -14,7 +15,12 @@ class SlideDBMKeys : public SlideRig {
   protected:
     void Key(Qt::Key Pressed, Qt::KeyboardModifiers With = {}) {
         QTest::keyClick(W->focusWidget() ? W->focusWidget() : W, Pressed, With);
-        if (With) QTest::qWait(120);  // a button pressed by its letter goes down first
+        if (!With) return;
+        // A button pressed by its letter goes down first, and does its work as it comes up.
+        const auto All = W->findChildren<QAbstractButton*>();
+        EXPECT_TRUE(QTest::qWaitFor(
+            [&] { return std::ranges::none_of(All, &QAbstractButton::isDown); }, 10'000));
+        QCoreApplication::processEvents();
     }
     std::string Focus() { return W->focusWidget()->objectName().toStdString(); }
 };

@@ -9,8 +9,8 @@ namespace {
 
 using namespace harness;
 
-constexpr auto Pic = clsImageBuffer::ColPicture;
-constexpr auto Key = clsImageBuffer::ColSlideID;
+constexpr auto EventPic = clsImageBuffer::ColPicture;
+constexpr auto EventKey = clsImageBuffer::ColSlideID;
 
 class SlideMgrBulkEvents : public BulkRig {
   protected:
@@ -99,8 +99,8 @@ TEST_F(SlideMgrBulkEvents, AnAddedSlideComesAtTheEndWithItsThumbnail) {
     CountFills();
     Tell(u"Add Slides"_s, {AlbumID, 3});
     EXPECT_EQ("Rose|quince|apple", Shown(Bulk));
-    EXPECT_EQ("1|2|3", Shown(Bulk, Key));
-    EXPECT_GT(GridOf(Bulk).CellPicture(2, Pic).pixelColor(36, 36).blue(), 245);
+    EXPECT_EQ("1|2|3", Shown(Bulk, EventKey));
+    EXPECT_GT(GridOf(Bulk).CellPicture(2, EventPic).pixelColor(36, 36).blue(), 245);
     EXPECT_EQ(0, mFills);
 }
 
@@ -112,7 +112,7 @@ TEST_F(SlideMgrBulkEvents, AChangedSlideIsRefreshedInItsPlace) {
     DeleteFile(SlidesFolder(Engine.DBPath(), AlbumID) + ThumbnailName(1));
     Tell(u"Add Slides"_s, {AlbumID, 1});
     EXPECT_EQ("zinnia|b", Shown(Bulk));
-    EXPECT_GT(GridOf(Bulk).CellPicture(0, Pic).pixelColor(36, 36).blue(), 245);
+    EXPECT_GT(GridOf(Bulk).CellPicture(0, EventPic).pixelColor(36, 36).blue(), 245);
     Tell(u"Add Slides"_s, {AlbumID, 99});
     EXPECT_EQ("zinnia|b", Shown(Bulk));
 }
@@ -219,7 +219,7 @@ TEST_F(SlideMgrBulkEvents, AnAlbumWhoseContentsWereReplacedIsShownAnew) {
     Buffer.ClearAlbum(AlbumID);
     Tell(u"Update"_s, {AlbumID});
     EXPECT_EQ("new", Shown(Bulk));
-    EXPECT_EQ("3", Shown(Bulk, Key));
+    EXPECT_EQ("3", Shown(Bulk, EventKey));
 }
 
 TEST_F(SlideMgrBulkEvents, WhatConcernsOthersIsPassedOver) {

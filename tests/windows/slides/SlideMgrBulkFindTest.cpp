@@ -15,7 +15,7 @@ namespace {
 
 using namespace harness;
 
-constexpr auto Text = clsImageBuffer::ColText;
+constexpr auto FoundText = clsImageBuffer::ColText;
 
 class SlideMgrBulkFind : public BulkRig {
   protected:
