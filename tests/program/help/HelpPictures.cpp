@@ -62,7 +62,9 @@ void OnceUp(const std::function<void(Window&)>& Do) {
 }
 
 void Press(QWidget& Window, const char* Button) {
-    QTest::mouseClick(Window.findChild<QWidget*>(QLatin1String(Button)), Qt::LeftButton);
+    // A button with a mark is pressed on it: the middle may lie behind its text.
+    auto* Its = Window.findChild<QWidget*>(QLatin1String(Button));
+    QTest::mouseClick(Its, Qt::LeftButton, {}, {Its->height() / 2, Its->height() / 2});
 }
 
 void Choose(QWidget& Window, const char* List, int Row) {
@@ -140,7 +142,7 @@ const std::map<QString, void (*)(QWidget&)> Before{
          QTest::keyClicks(Window.findChild<QWidget*>(u"lstEffects"_s),
                           harness::SampleWords(u"iris"_s));
          Press(Window, "cmdPreview");
-         QTest::qWait(SettleMs);
+         QTest::qWait(ShowMs);
      }},
     {u"frmDirSelect"_s, &ShowFolders},
     {u"frmNewAlbumWzd1"_s, &ShowFolders},
