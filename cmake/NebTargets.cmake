@@ -58,22 +58,23 @@ if(CMAKE_SIZEOF_VOID_P EQUAL 4 AND CMAKE_SYSTEM_PROCESSOR MATCHES "86")
 endif()
 
 # neb_library(NAME sound FLOOR 2 KNOWS texts|pictures|windows ROOMS decoding mixing devices .
-#             DEPENDS neb_x Qt6::Y [HIDDEN z] [APART rooms] [FAST] [OWN_HEADERS] [MODULE])
+#             DEPENDS neb_x Qt6::Y [HIDDEN z] [APART rooms] [SINGLY] [FAST] [OWN_HEADERS] [MODULE])
 # The top folder src/NAME as the library neb_NAME, with the sources of its ROOMS: its subfolders and,
 # as ".", the folder itself. The order of these calls, and of the rooms in each, is the order of the
 # house: a room uses those named before it, of the libraries that its own DEPENDS on. What KNOWS
 # texts sees no part of Qt's drawing, what knows pictures no window. What is DEPENDS is passed on to
-# the users of the library, what is HIDDEN is not. What is FAST is optimised in a development build
-# too, and shares its precompiled headers with none, as what is compiled with options of others
-# (OWN_HEADERS). A MODULE is no part of the programs: its users see
-# its headers, and load lib/neb-slide-show/neb-NAME.so beside the folder of the program when they
-# first need it. tests/layout checks it all.
+# the users of the library, what is HIDDEN is not. Sources are compiled SINGLY where a program is to
+# be linked with those alone that it calls, and with what these use. What is FAST is optimised in a
+# development build too, and shares its precompiled headers with none, as what is compiled with
+# options of others (OWN_HEADERS). A MODULE is no part of the programs: its users see its headers, and
+# load lib/neb-slide-show/neb-NAME.so beside the folder of the program when they first need it.
+# tests/layout checks it all.
 set_property(GLOBAL PROPERTY NEB_HOUSE "")
 set(neb_headers_texts core)
 set(neb_headers_pictures core)
 set(neb_headers_windows gui)
 function(neb_library)
-  cmake_parse_arguments(L "FAST;OWN_HEADERS;MODULE" "NAME;FLOOR;KNOWS" "ROOMS;APART;DEPENDS;HIDDEN" ${ARGN})
+  cmake_parse_arguments(L "SINGLY;FAST;OWN_HEADERS;MODULE" "NAME;FLOOR;KNOWS" "ROOMS;APART;DEPENDS;HIDDEN" ${ARGN})
   set(uses ${L_DEPENDS})
   list(FILTER uses INCLUDE REGEX "^neb_")
   list(TRANSFORM uses REPLACE "^neb_" "")
@@ -98,7 +99,9 @@ function(neb_library)
     return()
   endif()
   add_library(neb_${L_NAME} STATIC ${sources})
-  neb_together(neb_${L_NAME} "${sources}" APART ${L_APART})
+  if(NOT L_SINGLY)
+    neb_together(neb_${L_NAME} "${sources}" APART ${L_APART})
+  endif()
   set_target_properties(neb_${L_NAME} PROPERTIES AUTOMOC ON AUTOUIC ON AUTORCC ON
                                                  NEB_SHARES_HEADERS ON)
   target_link_libraries(neb_${L_NAME} PUBLIC neb_flags ${L_DEPENDS} PRIVATE ${L_HIDDEN})
