@@ -126,6 +126,16 @@ TEST_F(StoredFiles, AThumbnailThatFindsNoRoomLeavesNothingOfThePicture) {
     ExpectFiles("");
 }
 
+TEST_F(StoredFiles, AnAlbumWhoseFoldersFindNoRoomIsNone) {
+    SetHostWatcher([](HostStep Step, const QString& Path, qint64&) {
+        if (Step == HostStep::Write && Path.contains(u"Albums/2/"_s)) throw Fault(u"no"_s, Path);
+    });
+    EXPECT_THROW(static_cast<void>(NewAlbum(Door, Engine, u"Sea"_s)), Fault);
+    SetHostWatcher({});
+    EXPECT_EQ(1u, Engine.Albums.size());
+    EXPECT_FALSE(NameExists(AlbumFolder(Dir.Path(), 2)));
+}
+
 TEST_F(StoredFiles, PicturesAreOnTheDiskBeforeTheJournalNamesThem) {
     ASSERT_TRUE(Engine.IsSessionStored());
     QStringList Steps;

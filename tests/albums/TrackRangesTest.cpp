@@ -76,6 +76,10 @@ TEST(TracksFollow, ASlideThatIsMovedWithinItsTrackStaysInIt) {
     EXPECT_EQ("1-3 4-6", Followed({Track(1, 3), Track(4, 6)}, "ABCDEF", "ABCFED", "EF"));
 }
 
+TEST(TracksFollow, SlidesThatStandBehindTheOneThatStayedAreStillOnItsTrack) {
+    EXPECT_EQ("1-4 5-5", Followed({Track(1, 4), Track(5, 5)}, "ABCDE", "ADCBE", "BCD"));
+}
+
 TEST(TracksFollow, ATrackGoesWithSlidesThatAreMovedTogether) {
     EXPECT_EQ("3-4", Followed({Track(1, 2)}, "ABCD", "CDAB", "AB"));
     EXPECT_EQ("4-4", Followed({Track(1, 1)}, "ABCD", "BCDA", "A"));

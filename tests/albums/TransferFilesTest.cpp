@@ -88,6 +88,20 @@ TEST_F(TransferFiles, ASlideWithoutAPictureStaysOne) {
     EXPECT_EQ(QString(), SlideAt(Other.Engine, Result.DstAlbumID, 1).SlideLoc);
 }
 
+TEST_F(TransferFiles, ATrackWithoutASoundStaysOne) {
+    clsNEBSlideShow& Show = Own.AddShow(GardenID, u"Far"_s, 0, {});
+    Show.SaveSoundTrack(1, {}, 1, 2, true, false, true);
+    Own.AddTrack(GardenID, Show, 3, u".mp3"_s);
+    const TransferResult Result = Export(ToNew(GardenID));
+    ASSERT_TRUE(Result);
+    const std::int32_t ShowID = ShowNamed(Other.Engine, Result.DstAlbumID, u"Far"_s);
+    const auto& Tracks =
+        Other.Engine.GetAlbum(Result.DstAlbumID)->GetSlideShow(ShowID)->SoundTracks;
+    ASSERT_EQ(2U, Tracks.size());
+    EXPECT_EQ(u""_s, Tracks[0]->SoundTrackLoc);
+    EXPECT_TRUE(Tracks[0]->Repeat && Tracks[0]->Fade);
+}
+
 TEST_F(TransferFiles, APictureWithoutAnEndingArrivesWithoutOne) {
     clsNEBSlide& Slide = SlideAt(Own.Engine, GardenID, 2);
     Slide.SlideLoc = u"plain"_s;

@@ -245,6 +245,10 @@ class Model {
         const QString Ext = Ending(From);
         Track.AlbumID = mAlbumID;
         Track.SlideShowID = ShowID;
+        if (Name(Track.SoundTrackLoc).trimmed().isEmpty()) {  // its record goes along all the same
+            Track.SoundTrackLoc = PathField({});
+            return mNow.Tracks.push_back(Track);
+        }
         QString Number = QString::number(Track.SoundTrackSeq);
         for (int Free = 100; IsPlayed(Stem(ShowID) + u'_' + Number + Ext); ++Free)
             Number = QString::number(Free);

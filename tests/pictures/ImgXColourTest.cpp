@@ -43,6 +43,25 @@ QByteArray LikeTheScreen(double Steepness, double OfBlue = 0) {
     return Bytes;
 }
 
+// Of a printer that has run out of all inks but black.
+QByteArray BlackPrinter() {
+    cmsHPROFILE Profile = cmsCreateProfilePlaceholder(nullptr);
+    cmsSetProfileVersion(Profile, 2.1);
+    cmsSetDeviceClass(Profile, cmsSigOutputClass);
+    cmsSetColorSpace(Profile, cmsSigCmykData);
+    cmsSetPCS(Profile, cmsSigLabData);
+    std::vector<cmsUInt16Number> Colours;
+    for (int Mixture = 0; Mixture < 16; ++Mixture)
+        for (const int Part : {Mixture % 2 ? 0 : 0xFF00, 0x8000, 0x8000})
+            Colours.push_back(static_cast<cmsUInt16Number>(Part));
+    cmsPipeline* const Mixing = cmsPipelineAlloc(nullptr, 4, 3);
+    cmsPipelineInsertStage(Mixing, cmsAT_BEGIN,
+                           cmsStageAllocCLut16bit(nullptr, 2, 4, 3, Colours.data()));
+    cmsWriteTag(Profile, cmsSigAToB0Tag, Mixing);
+    cmsPipelineFree(Mixing);
+    return BytesOf(Profile);
+}
+
 }  // namespace
 
 TEST(ImgXOrientation, AllEightComeUprightInBothByteOrders) {
@@ -153,6 +172,16 @@ TEST(ImgXColour, AGreyPictureGoesByItsGreyProfile) {
     QImage Picture(2, 2, QImage::Format_RGB32);
     Picture.fill(QColor(55, 55, 55));
     EXPECT_GT(qRed(ToScreenColours(Picture, GreyProfile(1)).pixel(0, 0)), 100);
+}
+
+TEST(ImgXColour, InksGoByTheirOwnProfile) {
+    QImage Plain(1, 1, QImage::Format_RGB32);
+    for (int Ink = 0; Ink < 4; ++Ink) Plain.scanLine(0)[Ink] = Ink == 0 ? 255 : 0;  // cyan alone
+    QImage Printed = Plain;
+    InksToScreenColours(Plain, {});
+    InksToScreenColours(Printed, BlackPrinter());
+    EXPECT_EQ(qRgb(0, 255, 255), Plain.pixel(0, 0));
+    EXPECT_EQ(qRgb(255, 255, 255), Printed.pixel(0, 0));
 }
 
 TEST(ImgXColour, ClearPixelsAreWhiteWhateverTheProfile) {

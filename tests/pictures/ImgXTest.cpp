@@ -234,6 +234,14 @@ TEST(Thumbnail, IsStretchedToExactly72By72FromAnyShape) {
     }
 }
 
+TEST(Thumbnail, OfAPhotographIsAsSharpAsOfAllItsPixels) {
+    const harness::TempFolder Folder;
+    const QString File = Folder / QStringLiteral("rings.jpg");
+    Holding(Rings({900, 600})).SaveJpeg(File);
+    const double Near = NoiseRatio(MakeThumbnail(Loaded(File).Picture()), MakeThumbnail(File));
+    EXPECT_GT(Near, 45);
+}
+
 TEST(Thumbnail, TheBitmapIsOf24BitsAndAlwaysTheSameBytes) {
     const QImage Small = MakeThumbnail(Motif());
     const QByteArray Bytes = ThumbnailBmp(Small);

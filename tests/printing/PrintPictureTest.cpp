@@ -3,6 +3,7 @@
 
 #include <QColorSpace>
 
+#include "pictures/NotedPictures.h"
 #include "pictures/formats/PictureFaults.h"
 #include "pictures/notes/JpegParts.h"
 #include "printing/PrintRig.h"
@@ -48,6 +49,17 @@ TEST(PlainJpegs, AreInTheColoursOfTheScreen) {
         const QByteArray Bytes = ReadFile(Folder / u"profiled.jpg"_s);
         ASSERT_TRUE(Bytes.contains("ICC_PROFILE"));
         EXPECT_EQ(ReadPlainJpeg(Bytes).has_value(), IsPlain) << Space.description().toStdString();
+    }
+}
+
+TEST(PlainJpegs, AreNotInTheWideColoursThatACameraTellsOf) {
+    for (const QByteArray Index : {"R98", "R03"}) {
+        MadeExif Made;
+        const quint32 Interop = Made.Add({MadeExif::Text(1, Index)});
+        const quint32 Details = Made.Add({MadeExif::Long(0xA005, Interop)});
+        Made.StartWith(Made.Add({MadeExif::Long(0x8769, Details)}));
+        const QByteArray Jpeg = WithExif(JpegOf(Noise({32, 32}, 2)), Made.Block());
+        EXPECT_EQ(ReadPlainJpeg(Jpeg).has_value(), Index == "R98") << Index.constData();
     }
 }
 

@@ -72,6 +72,19 @@ TEST(TablePages, BreakLongLinesBehindTheTable) {
     EXPECT_EQ(Words.join(u' '), All.trimmed()) << "nothing is cut";
 }
 
+TEST(TablePages, BreakLinesOfWideLettersSooner) {
+    const auto Longest = [](QChar Letter) {
+        TableToPrint Table = TableOfRows(1);
+        Table.Tail = {QString(600, Letter)};
+        qsizetype Most = 0;
+        for (const QString& Each : TextsOn(Printed(Table), 1))
+            Most = std::max(Most, Each.count(Letter));
+        return Most;
+    };
+    EXPECT_GT(Longest(u'n'), 100);
+    EXPECT_EQ(Longest(u'n') / 2, Longest(u'\u5C71'));
+}
+
 TEST(TablePages, BreakALetterWithMoreMarksThanALineHasRoomFor) {
     TableToPrint Table = TableOfRows(1);
     Table.Tail = {u'e' + QString(600, QChar(0x0301))};

@@ -163,6 +163,16 @@ TEST_F(EngineSoundRun, AUsersStepMovesAFittedTrackExactlyToTheSlidesPlace) {
     EXPECT_EQ(Taken(), "moved song.mp3 30|run song.mp3 30");
 }
 
+TEST_F(EngineSoundRun, AUsersStepOutOfAFadeIsLoudAtOnce) {
+    AddSong(Song, 100);
+    AddTrack(Song, 1, 10, true);
+    Step(1);
+    Sound->SetVolume(40);
+    Taken();
+    Step(4, {}, false, StepCause::User);
+    EXPECT_EQ(Taken(), "moved song.mp3 30|volume song.mp3 0|run song.mp3 30");
+}
+
 TEST_F(EngineSoundRun, AUsersStepInAGroupThatBeginsLaterMovesOnceToThePlaceInTheTrack) {
     AddSong(Song, 100);
     AddTrack(Song, 3, 12, true);

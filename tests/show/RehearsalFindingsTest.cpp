@@ -75,6 +75,15 @@ TEST_F(RehearsalFindingsTest, PlacesThatAreMissingOrTakenTwice) {
         Found());
 }
 
+TEST_F(RehearsalFindingsTest, OnePlaceThatIsMissing) {
+    AddSlides(2);
+    SlideShow->Details[1]->SlideSeq = 3;
+    EXPECT_EQ(
+        "slide 2: nothing has this place; the show goes back to its start there, and slide 3 "
+        "never comes up by itself\n",
+        Found());
+}
+
 TEST_F(RehearsalFindingsTest, ShowsWithoutAFirstSlide) {
     AddSlides(1);
     SlideShow->Details[0]->SlideSeq = 3;
@@ -187,6 +196,14 @@ TEST_F(RehearsalFindingsTest, TracksThatAreCutOff) {
         "note: sound track 1 (song.mp3, slides 1 to 2): it is cut off when its slides end, "
         "after 10.0 s of its 60.0 s\n",
         Found());
+}
+
+TEST_F(RehearsalFindingsTest, NotWhatNobodyMissesOfATrack) {
+    AddSlides(2);
+    AddTrack(u"song.mp3"_s, 1, 2, 10.5);
+    EXPECT_EQ("", Found());
+    Lengths[u"song.mp3"_s] = 10.6;
+    EXPECT_NE("", Found());
 }
 
 TEST_F(RehearsalFindingsTest, TracksThatOverlap) {

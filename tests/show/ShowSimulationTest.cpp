@@ -257,6 +257,47 @@ TEST_F(ShowSimulation, AnEmptyFittedTrackIsToldAndTheSlidesKeepTheirTime) {
               Of.Boxes()[0].Text.toStdString());
 }
 
+TEST_F(ShowSimulation, ASlideThatWouldOverrideButHasNoSoundLeavesTheTrackAlone) {
+    AddSlides(3);
+    AddTrack(u"a.wav"_s, 100, 1, 3);
+    Slide(2).Override = true;
+    EXPECT_EQ("0 load a|0 play a@0", HeardFor(14));
+}
+
+TEST_F(ShowSimulation, AShowBeginsWhereItIsToldWhereverItWasLeft) {
+    AddSlides(4);
+    Put("ActiveAlbum", QString::number(Album));
+    Put("ActiveSlideShow", QString::number(Show));
+    Put("NextSlideSeq", u"2"_s);
+    RehearsalOptions From = Options();
+    From.First = 3;
+    Rehearsal Of(Engine, Album, Show, From);
+    EXPECT_EQ(RehearsalEnd::CameRound, Of.RunWhole());
+    EXPECT_EQ("3@0 4@5", Places(Of));
+}
+
+TEST_F(ShowSimulation, AShowThatWasStoppedBehindItsPreferencesStaysStopped) {
+    AddSlides(3);
+    Rehearsal Of(Engine, Album, Show, Options());
+    Of.Start();
+    Of.RunFor(3);
+    Of.Run().EditPreferences([&] { Of.Run().StopRestart(); });
+    Of.RunFor(30);
+    EXPECT_EQ("1@0", Places(Of));
+    EXPECT_FALSE(Of.Timer1On());
+}
+
+TEST_F(ShowSimulation, TheCaptionOfAStandInSaysThatTheSlideIsMissing) {
+    AddSlides(2);
+    DeleteFile(PicturePath(Slide(2).SlideID));
+    Rehearsal Of(Engine, Album, Show, Options());
+    Of.Start();
+    Of.RunFor(6);
+    ASSERT_EQ(2U, Of.Cues().size());
+    EXPECT_EQ("Slide 1", Of.Cues()[0].Caption.toStdString());
+    EXPECT_EQ("Slide 2: Current slide missing!", Of.Cues()[1].Caption.toStdString());
+}
+
 // An hour of music on slides whose time is no whole number of ticks.
 TEST_F(ShowSimulation, AFittedShowKeepsToItsMusicForAnHour) {
     constexpr int Count = 251;

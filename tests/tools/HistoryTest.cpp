@@ -98,6 +98,12 @@ TEST_F(HistoryTest, SaysTheSameAsJson) {
               QJsonArray{SlidesFolder(Dir.Path(), 1) + u"00000001.JPG"_s});
 }
 
+TEST_F(HistoryTest, TellsItsTimesInJsonSoThatTheyAreTheSameEverywhere) {
+    const auto All = QJsonDocument::fromJson(QByteArray::fromStdString(History({u"--json"_s}).Out));
+    const QDateTime Saved({2026, 3, 1}, {10, 0});
+    EXPECT_EQ(All["Earlier"][1]["Saved"].toString(), Saved.toUTC().toString(Qt::ISODate));
+}
+
 TEST_F(HistoryTest, OfADatabaseWithoutEarlierStatesIsTheHeadAlone) {
     TempFolder Other;
     OpenEngine(Other.Path())->FinalizeDB();

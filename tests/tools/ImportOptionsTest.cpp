@@ -7,6 +7,7 @@
 #include "db/Fixtures.h"
 #include "db/modAlbumFiles.h"
 #include "harness/TempFolder.h"
+#include "pictures/NotedPictures.h"
 #include "support/files/modHostFiles.h"
 #include "tools/ToolRun.h"
 
@@ -109,6 +110,20 @@ TEST_F(ImportOptions, ACaptionIsAPicturesOwnTitleUnlessFileNamesAreWanted) {
     EXPECT_EQ(ExitDone, Import({}).Code);
     EXPECT_EQ(ExitDone, Import({"--file-names"}).Code);
     EXPECT_EQ("Above the clouds|Alps", Captions());
+}
+
+TEST_F(ImportOptions, APictureComesWithoutItsPlaceWhereThatIsWanted) {
+    const QSize Size(40, 30);
+    QImage Picture(Size, QImage::Format_RGB32);
+    Picture.fill(Qt::darkGreen);
+    WriteFile(Folder() + QStringLiteral("Alps.jpg"), tests::Noted(tests::JpegOf(Picture), 1, Size));
+    EXPECT_EQ(ExitDone, Import({}).Code);
+    EXPECT_EQ(ExitDone, Import({"--no-place"}).Code);
+    const auto IsTold = [&](const char* Name) {
+        return ReadFile(SlidesFolder(Database(), 1) + QLatin1String(Name)).contains("GPSLatitude");
+    };
+    EXPECT_TRUE(IsTold("00000001.jpg"));
+    EXPECT_FALSE(IsTold("00000002.jpg"));
 }
 
 TEST_F(ImportOptions, WhatIsNoPictureIsNamedAndWhatIsHiddenIsNot) {

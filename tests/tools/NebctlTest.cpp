@@ -132,6 +132,13 @@ TEST_F(NebctlTest, DumpsAllThatTheLoaderHolds) {
     EXPECT_EQ(All["EffectStats"].toArray()[0].toObject()["AvgTime"].toDouble(), 0.25);
 }
 
+TEST_F(NebctlTest, DumpTellsWhereATrackBeginsAndEnds) {
+    const QJsonObject Show = Dump()["Albums"][0]["SlideShows"][0].toObject();
+    const QJsonValue Track = Show["SoundTracks"][0];
+    EXPECT_EQ(Track["SlideSeqStart"].toInt(), 1);
+    EXPECT_EQ(Track["SlideSeqEnd"].toInt(), 3);
+}
+
 TEST_F(NebctlTest, DumpKeepsTheOrderOfTheFields) {
     const QString Text = Nebctl({u"dump"_s, Dir.Path()}).Out;
     qsizetype Place = 0;
@@ -686,6 +693,17 @@ TEST_F(NebctlImportTest, AFullDiskLeavesEverythingAsItWas) {
     SetHostWatcher({});
     EXPECT_EQ(Failed.Code, ExitFailed);
     EXPECT_TRUE(Failed.Err.contains(u"cannot be written"_s));
+    EXPECT_TRUE(Everything(Database()) == Before);
+}
+
+TEST_F(NebctlImportTest, AFailureAtTheSecondPictureTakesTheFirstBack) {
+    Import({});
+    const QStringList Before = Everything(Database());
+    SetHostWatcher([](HostStep Step, const QString& Path, qint64&) {
+        if (Step == HostStep::Write && Path.contains(u"00000004"_s)) throw Fault(u"no"_s, Path);
+    });
+    EXPECT_EQ(Import({}).Code, ExitFailed);
+    SetHostWatcher({});
     EXPECT_TRUE(Everything(Database()) == Before);
 }
 

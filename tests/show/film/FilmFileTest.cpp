@@ -4,6 +4,7 @@
 
 #include "harness/DiskKiller.h"
 #include "harness/FolderState.h"
+#include "harness/MountedMemory.h"
 #include "harness/WithoutPrivileges.h"
 #include "show/film/FilmFile.h"
 #include "show/film/FilmRig.h"
@@ -144,6 +145,15 @@ TEST_F(FilmFileTest, LeavesRoomOnTheDiskForOthers) {
     EXPECT_TRUE(AtOnce.What().startsWith(u"The disk is full: "_s)) << AtOnce.What().toStdString();
     EXPECT_EQ(Path, AtOnce.File());
     EXPECT_TRUE(Names().isEmpty());
+}
+
+TEST_F(FilmFileTest, BeginsWhereTheRoomIsJustEnough) {
+    const MountedMemory Disk(Dir.Path(), "size=8m");
+    if (!Disk.IsThere()) GTEST_SKIP() << "nothing can be mounted here";
+    const qint64 Free = FreeSpace(Dir.Path());
+    EXPECT_EQ(Free, RoomForFile(Path, Free));
+    EXPECT_NO_THROW(FilmFile(Path, Free));
+    EXPECT_THROW(RoomForFile(Path, Free + 1), Fault);
 }
 
 TEST_F(FilmFileTest, EndsWhenTheRoomIsUsedUpWhileItIsMade) {
