@@ -136,6 +136,11 @@ TEST_F(StoredFiles, AnAlbumWhoseFoldersFindNoRoomIsNone) {
     EXPECT_FALSE(NameExists(AlbumFolder(Dir.Path(), 2)));
 }
 
+TEST_F(StoredFiles, ACaptionComesInAsCleanAsATypedOne) {
+    ASSERT_TRUE(EnterPicture(Door, Engine, 1, {u"Mother's \"Rose\""_s, [] { return "one"; }, {}}));
+    EXPECT_EQ(u"Mother\u2019s \u201CRose\u201D"_s, Slide(1).SlideText);
+}
+
 TEST_F(StoredFiles, PicturesAreOnTheDiskBeforeTheJournalNamesThem) {
     ASSERT_TRUE(Engine.IsSessionStored());
     QStringList Steps;
