@@ -83,6 +83,13 @@ TEST_F(BulkSlides, CaptionsAreNotedEachAndToldOnce) {
     EXPECT_EQ((std::vector<Change>{{Change::Kind::CaptionsSaved, AlbumID}}), Told);
 }
 
+TEST_F(BulkSlides, CaptionsThatStayAsTheyAreAreNotTold) {
+    CaptionSave Saved(Engine, nullptr, AlbumID);
+    EXPECT_TRUE(Saved.Save(1, u"a"_s));
+    Saved.Tell();
+    EXPECT_TRUE(Told.empty());
+}
+
 TEST_F(BulkSlides, AnAlbumThatHasGoneTakesNoCaptions) {
     CaptionSave Saved(Engine, nullptr, AlbumID);
     Engine.DeleteAlbum(AlbumID);

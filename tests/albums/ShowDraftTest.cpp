@@ -1,12 +1,34 @@
-// When a show that is being composed counts as changed.
+// A show as it is taken up to be composed, and when it counts as changed.
 #include "albums/ShowDraft.h"
 
 #include <gtest/gtest.h>
+
+#include "albums/modLoadShow.h"
+#include "db/clsDBEngine.h"
+#include "harness/TempFolder.h"
 
 namespace neb::harness {
 namespace {
 
 using namespace Qt::StringLiterals;
+
+TEST(LoadedShow, HasTheFirstOfTwoSlidesOfOnePlace) {
+    TempFolder Dir;
+    clsDBEngine Engine;
+    Engine.SetDBPath(Dir.Path());
+    Engine.InitializeDB();
+    std::int32_t AlbumID = 0, ShowID = 0;
+    ASSERT_TRUE(Engine.SaveAlbum(AlbumID, u"Garden"_s));
+    Engine.GetAlbum(AlbumID)->SaveSlideShow(ShowID, u"Walk"_s, 0, Engine);
+    clsNEBSlideShow& Show = *Engine.GetAlbum(AlbumID)->GetSlideShow(ShowID);
+    const std::pair<int, int> Stored[] = {{7, 2}, {8, 1}, {9, 2}};
+    for (const auto& [SlideID, Place] : Stored) Show.SaveDetail(SlideID, Place, {});
+    auto Loaded = LoadShow(Engine, AlbumID, ShowID);
+    ASSERT_TRUE(Loaded);
+    ASSERT_EQ(2U, Loaded->Slides.size());
+    EXPECT_EQ(8, Loaded->Slides[0].SlideID);
+    EXPECT_EQ(7, Loaded->Slides[1].SlideID);
+}
 
 class Draft : public ::testing::Test {
   protected:

@@ -6,10 +6,13 @@
 #include "albums/SlideSave.h"
 #include "albums/modImport.h"
 #include "db/AlbumSums.h"
+#include "db/SongNames.h"
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
 #include "harness/DatabaseReader.h"
 #include "harness/TempFolder.h"
+#include "pictures/Pictures.h"
+#include "pictures/TurnedJpegs.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
 
@@ -100,6 +103,34 @@ TEST_F(StoredFiles, APictureAndASoundOfOtherEndingsGoWhenTheyAreReplaced) {
     ExpectFiles("Slides/00000001.jpg Slides/00000001.wav");
 }
 
+TEST_F(StoredFiles, APictureNamedInSmallLettersIsNotTakenForAnotherWhenItIsReplaced) {
+    Enter("one");
+    clsNEBSlide Changed = Slide(1);
+    Changed.SlideLoc = u"00000001.jpg"_s;
+    ASSERT_TRUE(Door.SaveSlide(1, Changed));
+    Save(
+        1, [](SlideInHand&) {}, Makes("two"));
+    ExpectFiles("Slides/00000001.jpg");
+}
+
+TEST_F(StoredFiles, ASoundThatGoesTakesItsOptionsAlong) {
+    Enter("one");
+    Save(1, [](SlideInHand& InHand) {
+        InHand.Record("wave");
+        InHand.SetPlaying(true, true);
+    });
+    EXPECT_TRUE(Slide(1).Override && Slide(1).Repeat);
+    Save(1, [](SlideInHand& InHand) { InHand.ClearSound(); });
+    EXPECT_FALSE(Slide(1).Override || Slide(1).Repeat);
+}
+
+TEST_F(StoredFiles, AQuarterTurnGoesClockwise) {
+    using namespace tests;
+    Enter(JpegOf(Motif()));
+    const TurnedSlide Made = TurnSlide(Dir.Path(), 1, Slide(1), 1, {});
+    ExpectFields(QImage::fromData(Made.Jpeg), Blue, Red, Grey, Green, 4);
+}
+
 TEST_F(StoredFiles, NothingIsStoredOverAStrayFileAndItIsNotDeletedWithASlide) {
     WriteFile(Slides + u"00000001.jpg"_s, "somebody's");
     EXPECT_EQ(2, Enter("one"));
@@ -167,6 +198,14 @@ TEST_F(StoredFiles, AnAlbumGoesWithItsList) {
     Enter("one");
     DeleteAlbumFiles(Door, Dir.Path(), 1, [] {});
     EXPECT_FALSE(NameExists(AlbumFolder(Dir.Path(), 1)));
+}
+
+TEST_F(StoredFiles, AnAlbumGoesWithTheNamesOfItsSongsAndAHalfWrittenList) {
+    const QString Album = AlbumFolder(Dir.Path(), 1);
+    KeepSongNames(Album, {{u"00000001_1.mp3"_s, 5, u"Waltz.mp3"_s}});
+    WriteFile(AlbumSumsPath(Album) + u".new"_s, "half");
+    DeleteAlbumFiles(Door, Dir.Path(), 1, [] {});
+    EXPECT_FALSE(NameExists(Album));
 }
 
 }  // namespace

@@ -57,6 +57,16 @@ TEST(HandOver, SaysHowLongItWillBe) {
         EXPECT_EQ(Whole.size(), HandOverLength(Whole.first(Length))) << Length;
 }
 
+TEST(HandOver, MayBeAsLongAsTheLongest) {
+    const auto Told = [](qsizetype Length) {
+        QByteArray Body(sizeof(quint32), '\0');
+        qToBigEndian(static_cast<quint32>(Length - HandOverHead), Body.data());
+        return HandOverLength("NEBOPEN1" + Body);
+    };
+    EXPECT_EQ(MaxHandOver, Told(MaxHandOver));
+    EXPECT_FALSE(Told(MaxHandOver + 1));
+}
+
 TEST(HandOver, AnotherVersionOrNoMessageAtAllIsNotAwaited) {
     EXPECT_FALSE(HandOverLength("NEBOPEN2"));
     EXPECT_FALSE(HandOverLength("G"));

@@ -48,6 +48,12 @@ TEST_F(OpenedPathsTest, SeveralAreThoseAlone) {
     EXPECT_EQ("nothing", Told(Mixed)) << "Quick Show tells of it";
 }
 
+TEST_F(OpenedPathsTest, APictureBesideWhatIsNoneDoesNotOpenItsFolder) {
+    const OpenedPaths Both = SortOut({At("Garden/Rose.jpg"), At("nowhere.jpg")});
+    EXPECT_EQ(QStringList{At("Garden/Rose.jpg")}, Both.Named);
+    EXPECT_EQ("", Both.AtPicture.toStdString());
+}
+
 TEST_F(OpenedPathsTest, PrintDocumentsAreForThePreview) {
     WriteFile(At("Trip.PPD"), "x");
     const OpenedPaths Both = SortOut({At("Trip.PPD"), At("Garden")});

@@ -85,5 +85,14 @@ TEST_F(ManagerView, FindsTheRowInHandInTheShowAsItWasSaved) {
     EXPECT_EQ("a", BeginsWith([this] { Click(Qt::ShiftModifier); })) << "not in the show yet";
 }
 
+TEST_F(ManagerView, OfASlideThatStandsTwiceTakesThePlaceInHand) {
+    const std::int32_t ShowID = OpenGarden({2, 1, 3, 1});
+    const auto& Details = Engine.GetAlbum(AlbumID)->GetSlideShow(ShowID)->Details;
+    Details[1]->SlideText = u"second"_s;
+    Details[3]->SlideText = u"fourth"_s;
+    Right().SetRow(1);
+    EXPECT_EQ("second", BeginsWith([this] { Click(Qt::ShiftModifier); }));
+}
+
 }  // namespace
 }  // namespace neb

@@ -95,6 +95,16 @@ TEST_F(QuickShowOpened, ASecondShowOfTheFolderHasANameOfItsOwn) {
     EXPECT_EQ(2u, Engine.Albums.size());
 }
 
+TEST_F(QuickShowOpened, ANameThatWasTakenMeanwhileGivesWayToTheNext) {
+    ShowGarden();
+    EXPECT_EQ("Garden", Text());
+    MakeAlbum(u"Garden"_s);
+    PressEnterAndLeaveTheShow();
+    EXPECT_EQ(1, RanSeq);
+    ASSERT_EQ(2u, Engine.Albums.size());
+    EXPECT_EQ("Garden (2)", Engine.Albums[1]->AlbumName.toStdString());
+}
+
 TEST_F(QuickShowOpened, EnterInAListShowsThePictureAndSavesNothing) {
     ShowGarden();
     Selected(*Window).setFocus();

@@ -102,6 +102,11 @@ TEST_F(OutSave, APointInANameBeginsNoExtension) {
     EXPECT_EQ("Summer.panoramas.pdf Trip to St. Moritz.pdf", Listed(Out.Path()));
 }
 
+TEST_F(OutSave, NorDoesOneBetweenDigits) {
+    SaveAs(u"Summer 2.5 wk"_s);
+    EXPECT_EQ("Summer 2.5 wk.pdf", Listed(Out.Path()));
+}
+
 TEST_F(OutSave, AForeignExtensionIsRefusedInWords) {
     for (const char* Name : {"a.jpg", "a.pdf.txt", "a."}) {
         Boxes.Expect(u"\""_s + QLatin1String(Name) +

@@ -36,6 +36,17 @@ TEST_F(SlideMgrBulkDelete, WhileSlidesGoABarIsShownThatCounts) {
     EXPECT_EQ(nullptr, Open<frmProgress>());
 }
 
+TEST_F(SlideMgrBulkDelete, BehindTheLastSlideTheOneBeforeItIsCurrent) {
+    AddSlides({u"a"_s, u"b"_s, u"c"_s});
+    const Window Bulk = OpenBulk(AlbumID);
+    ClickCell(GridOf(Bulk), 2, clsImageBuffer::ColPicture);
+    ExpectQuestion(BoxAnswer::Yes);
+    ExpectDone(u"1 slides successfully deleted."_s);
+    Press(*Bulk, "cmdDelete");
+    EXPECT_EQ("a|b", Shown(Bulk));
+    EXPECT_EQ(1, GridOf(Bulk).Row());
+}
+
 TEST_F(SlideMgrBulkDelete, StoppedByEscItLeavesTheRestAsItIs) {
     AddSlides({u"a"_s, u"b"_s, u"c"_s});
     const Window Bulk = OpenBulk(AlbumID);

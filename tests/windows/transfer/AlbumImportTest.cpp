@@ -89,6 +89,17 @@ TEST_F(AlbumImport, AddsToAnAlbumOrReplacesIt) {
     EXPECT_EQ("Album Update 1|Album Update 1", Heard());
 }
 
+TEST_F(AlbumImport, SmallPicturesOfAnAlbumThatIsReplacedAreForgotten) {
+    Store.SetCols(clsImageBuffer::ColAlbumID + 1);
+    Store.SetCellData(Store.AddItem(), clsImageBuffer::ColAlbumID, 1.0);
+    Load(*W, OtherDb.Path());
+    Choose(*W, "cboDstAlbum", u"Garden"_s);
+    In<QCheckBox>(*W, "chkReplace").setChecked(true);
+    Press(*W, "cmdImport");
+    EXPECT_EQ("Garden: lamp [Winter 1]", Content(Engine));
+    EXPECT_EQ(-1, Store.FindRow(clsImageBuffer::ColAlbumID, 1.0));
+}
+
 TEST_F(AlbumImport, ANameClashSpeaksOfTheImport) {
     AddShow(Engine, u"winter"_s);
     Load(*W, OtherDb.Path());
