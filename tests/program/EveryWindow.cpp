@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QLocale>
 #include <QPainter>
+#include <QProgressBar>
 #include <QTest>
 
 #include "albums/modImport.h"
@@ -157,10 +158,21 @@ void OpenHelp(const Filled&) {
     TheOpeners().ShowAsChild(*Window);
 }
 
+// Work goes on, also while its window is looked at.
+struct Beat : QTimer {
+    explicit Beat(QProgressBar& Bar) {
+        connect(this, &QTimer::timeout, &Bar,
+                [this, &Bar] { Bar.setValue(Bar.maximum() * 2 / 5 + ++mCount % 2); });
+        start(TickMs);
+    }
+    int mCount = 0;
+};
+
 // Under way for as long as it is looked at.
 void OpenTransfer(const Filled&) {
     const auto Window = NewForm<frmTransferProgress>();
     Window->ShowOver([Window] {
+        const Beat Going(*Window->findChild<QProgressBar*>());
         while (Window->Show(SampleWords(u"Copying 12 of 345 files of the album Garden"_s), 40) &&
                Window->IsLoaded())
             QTest::qWait(TickMs);
@@ -169,12 +181,14 @@ void OpenTransfer(const Filled&) {
 
 // The same for what works under a bar.
 struct Work : ProgressParent {
-    void DoActivity() override { Wait(); }
-    void StartOperation() override { Wait(); }
-    void Wait() const {
+    void DoActivity() override { GoOn(); }
+    void StartOperation() override { GoOn(); }
+    void GoOn() const {
+        const Beat Going(*Bar);
         while (Under->IsLoaded()) QTest::qWait(TickMs);
     }
     std::shared_ptr<Form> Under;
+    QProgressBar* Bar = nullptr;
 };
 
 template <class Window>
@@ -182,6 +196,7 @@ void OpenAtWork(const Filled&) {
     const auto Bar = NewForm<Window>();
     Work Doing;
     Doing.Under = Bar;
+    Doing.Bar = Bar->pgbLoadingProgress();
     Bar->ShowProgressMeter(Doing);
 }
 
@@ -304,7 +319,7 @@ class Opened : public MainWindow {
 
     void LookAll(Content Of, const LookAtWindow& Look, int& Count) {
         mWindow->showMaximized();
-        DoEvents();
+        QTest::qWait(SettleTicks * TickMs);  // the home shows what it has found
         Look(u"frmNEBSlideShow"_s, *mWindow);
         for (const Row& Each : Rows) {
             if (Each.AlbumsOnly && Of == Content::None) continue;

@@ -14,6 +14,8 @@ namespace {
 
 constexpr double UsualPoints = 10;
 constexpr int FocusMargin = 2;  // around the words of a box to choose from
+constexpr QMargins WithinEdge(3, 3, 3, 3);
+constexpr double SeenLine = 3;  // the contrast of a line that is no letter
 
 constexpr QStyle::PixelMetric Growing[] = {
     QStyle::PM_ButtonIconSize,
@@ -54,9 +56,13 @@ constexpr QStyle::PrimitiveElement Framed[] = {QStyle::PE_IndicatorCheckBox,
 // With high contrast what can be used has a line around it, in the colour of the text: a shade of
 // the ground is not seen.
 constexpr QStyle::PrimitiveElement Outlined[] = {
-    QStyle::PE_Frame,         QStyle::PE_FrameGroupBox,     QStyle::PE_FrameLineEdit,
-    QStyle::PE_FrameMenu,     QStyle::PE_IndicatorCheckBox, QStyle::PE_PanelButtonCommand,
+    QStyle::PE_FrameGroupBox,
+    QStyle::PE_FrameMenu,
+    QStyle::PE_IndicatorCheckBox,
+    QStyle::PE_PanelButtonCommand,
 };
+// Around lists, pages and fields, so that the line around the one with the keys is told from it.
+constexpr QColor FrameWithoutKeys(128, 128, 128);
 constexpr QStyle::ComplexControl OutlinedControls[] = {QStyle::CC_ComboBox, QStyle::CC_SpinBox};
 constexpr QStyle::ControlElement OutlinedElements[] = {QStyle::CE_HeaderSection,
                                                        QStyle::CE_ProgressBarGroove};
@@ -71,14 +77,53 @@ bool Has(const List& Of, Value Wanted) {
     return std::find(std::begin(Of), std::end(Of), Wanted) != std::end(Of);
 }
 
-void Outline(const QStyleOption& Of, const QRect& Place, QPainter& Painter) {
+void Outline(const QRect& Place, const QColor& Ink, QPainter& Painter) {
     Painter.save();
     Painter.setRenderHint(QPainter::Antialiasing, false);
-    const bool HasKeys = Of.state & QStyle::State_HasFocus;
-    Painter.setPen(Of.palette.color(HasKeys ? QPalette::Highlight : QPalette::WindowText));
+    Painter.setPen(Ink);
     Painter.setBrush(Qt::NoBrush);
     Painter.drawRect(Place.adjusted(0, 0, -1, -1));
     Painter.restore();
+}
+
+void Outline(const QStyleOption& Of, const QRect& Place, QPainter& Painter) {
+    const bool HasKeys = Of.state & QStyle::State_HasFocus;
+    Outline(Place, Of.palette.color(HasKeys ? QPalette::Highlight : QPalette::WindowText), Painter);
+}
+
+// Where the keys are: styles mark that by faint shades, or not at all around lists and pages, and
+// have the same line around the button that Enter presses with the keys as without.
+QColor KeysOn(const QColor& Ground, const QPalette& Palette) {
+    for (const auto Role : {QPalette::Highlight, QPalette::WindowText})
+        if (Contrast(Palette.color(Role), Ground) >= SeenLine) return Palette.color(Role);
+    return Palette.color(QPalette::HighlightedText);
+}
+
+bool HaveComeByKeys(const QStyleOption& To) {
+    return To.state & QStyle::State_HasFocus && To.state & QStyle::State_KeyboardFocusChange;
+}
+
+void MarkKeysWithin(const QStyleOption& Of, QPainter& Painter) {
+    if (!HaveComeByKeys(Of)) return;
+    Outline(Of.rect.marginsRemoved(WithinEdge),
+            KeysOn(Of.palette.color(QPalette::Window), Of.palette), Painter);
+}
+
+void MarkKeysOnWords(const QStyleOption& Of, QPainter& Painter) {
+    if (!HaveComeByKeys(Of)) return;
+    const auto* Its = qstyleoption_cast<const QStyleOptionFocusRect*>(&Of);
+    const bool IsCell = Its && Its->state & QStyle::State_Item;
+    const QColor Ground = IsCell ? Its->backgroundColor : Of.palette.color(QPalette::Window);
+    Outline(Of.rect, KeysOn(Ground, Of.palette), Painter);
+}
+
+void MarkKeysOnFrame(const QStyleOption& Of, QPainter& Painter) {
+    const bool HasKeys = Of.state & QStyle::State_HasFocus;
+    if (HasHighContrast(Of.palette))
+        Outline(Of.rect, HasKeys ? Of.palette.color(QPalette::WindowText) : FrameWithoutKeys,
+                Painter);
+    else if (HasKeys)
+        Outline(Of.rect, KeysOn(Of.palette.color(QPalette::Window), Of.palette), Painter);
 }
 
 // What is moved along a bar.
@@ -198,6 +243,7 @@ void GrowingStyle::drawComplexControl(ComplexControl Control, const QStyleOption
     QProxyStyle::drawComplexControl(Control, Option, Painter, Widget);
     if (!Option || !HasHighContrast(Option->palette)) return;
     if (Has(OutlinedControls, Control)) Outline(*Option, Option->rect, *Painter);
+    if (Control == CC_ComboBox) MarkKeysWithin(*Option, *Painter);
     if (const SubControl Handle = HandleOf(Control))
         Outline(*Option, subControlRect(Control, Option, Handle, Widget), *Painter);
 }
@@ -207,6 +253,7 @@ void GrowingStyle::drawControl(ControlElement Element, const QStyleOption* Optio
     QProxyStyle::drawControl(Element, Option, Painter, Widget);
     if (Option && Has(OutlinedElements, Element) && HasHighContrast(Option->palette))
         Outline(*Option, Option->rect, *Painter);
+    if (Option && Element == CE_TabBarTabLabel) MarkKeysWithin(*Option, *Painter);
 }
 
 void GrowingStyle::drawPrimitive(PrimitiveElement Element, const QStyleOption* Option,
@@ -219,8 +266,13 @@ void GrowingStyle::drawPrimitive(PrimitiveElement Element, const QStyleOption* O
     }
     const GrownArrows Grown(Option, Widget, Has(Drawn, Element));
     QProxyStyle::drawPrimitive(Element, Option, Painter, Widget);
-    if (Option && Has(Outlined, Element) && HasHighContrast(Option->palette))
-        Outline(*Option, Option->rect, *Painter);
+    if (!Option) return;
+    const bool IsOutlined = HasHighContrast(Option->palette);
+    if (IsOutlined && Has(Outlined, Element)) Outline(*Option, Option->rect, *Painter);
+    if (Element == PE_PanelButtonCommand) MarkKeysWithin(*Option, *Painter);
+    if (Element == PE_FrameFocusRect) MarkKeysOnWords(*Option, *Painter);
+    if (Element == PE_Frame || (IsOutlined && Element == PE_FrameLineEdit))
+        MarkKeysOnFrame(*Option, *Painter);
 }
 
 QIcon GrowingStyle::standardIcon(StandardPixmap Which, const QStyleOption* Option,

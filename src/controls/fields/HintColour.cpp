@@ -8,6 +8,7 @@ namespace {
 
 constexpr double Enough = 4.5, Highest = 20;  // of 21
 constexpr double Usual = 0.62;  // the share of the text in hints that could be fainter still
+constexpr int Raised = 140;     // percent: styles draw a dark button as light as that
 
 double Linear(double Part) {
     return Part <= 0.04045 ? Part / 12.92 : std::pow((Part + 0.055) / 1.055, 2.4);
@@ -52,9 +53,11 @@ void MakeHintsReadable(QPalette& Palette) {
     for (const auto Group : {QPalette::Active, QPalette::Inactive}) {
         const QColor Text = Palette.color(Group, QPalette::Text);
         QColor Hint = HintColour(Text, Palette.color(Group, QPalette::Base));
-        for (const auto Ground : {QPalette::Window, QPalette::AlternateBase, QPalette::Button})
-            if (Contrast(Hint, Palette.color(Group, Ground)) < Enough)
-                Hint = HintColour(Text, Palette.color(Group, Ground));
+        for (const QColor& Ground :
+             {Palette.color(Group, QPalette::Window), Palette.color(Group, QPalette::AlternateBase),
+              Palette.color(Group, QPalette::Button),
+              Palette.color(Group, QPalette::Button).lighter(Raised)})
+            if (Contrast(Hint, Ground) < Enough) Hint = HintColour(Text, Ground);
         Palette.setColor(Group, QPalette::PlaceholderText, Hint);
     }
 }
