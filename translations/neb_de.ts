@@ -753,6 +753,11 @@ Um ein vorhandenes Album zu überschreiben, lassen Sie dessen Inhalt ersetzen.</
     </message>
     <message>
         <location filename="../src/controls/forms/frmMsgBoxEx.ui"/>
+        <source>All of it can be read, and copied</source>
+        <translation>Alles lässt sich lesen und kopieren</translation>
+    </message>
+    <message>
+        <location filename="../src/controls/forms/frmMsgBoxEx.ui"/>
         <source>Close this message</source>
         <translation>Diese Mitteilung schließen</translation>
     </message>
@@ -775,6 +780,16 @@ Um ein vorhandenes Album zu überschreiben, lassen Sie dessen Inhalt ersetzen.</
         <location filename="../src/controls/forms/frmProgress.ui"/>
         <source>Working ...</source>
         <translation>In Arbeit ...</translation>
+    </message>
+    <message>
+        <location filename="../src/controls/grid/FlexGridModel.cpp"/>
+        <source>Caption</source>
+        <translation>Bildtext</translation>
+    </message>
+    <message>
+        <location filename="../src/controls/grid/FlexGridModel.cpp"/>
+        <source>Picture</source>
+        <translation>Bild</translation>
     </message>
     <message>
         <location filename="../src/controls/grid/FlexGridStore.cpp"/>
@@ -3019,6 +3034,11 @@ Geben Sie sich dort das Recht zu schreiben, oder wählen Sie mit der Einstellung
         <location filename="../src/program/help/frmHelp.ui"/>
         <source>The next place (F3)</source>
         <translation>Die nächste Stelle (F3)</translation>
+    </message>
+    <message>
+        <location filename="../src/program/help/frmHelp.ui"/>
+        <source>The page that is read; Tab goes from link to link, Enter opens one</source>
+        <translation>Die Seite, die gelesen wird; Tab geht von Verweis zu Verweis, die Eingabetaste öffnet einen</translation>
     </message>
     <message>
         <location filename="../src/program/help/frmHelp.ui"/>
@@ -6198,11 +6218,6 @@ Ihre Dias lassen sich nicht ändern.</translation>
     </message>
     <message>
         <location filename="../src/windows/gallery/frmSlideScreen.cpp"/>
-        <source>Caption</source>
-        <translation>Bildtext</translation>
-    </message>
-    <message>
-        <location filename="../src/windows/gallery/frmSlideScreen.cpp"/>
         <source>Reading %1 ...</source>
         <translation>%1 wird gelesen ...</translation>
     </message>
@@ -7340,11 +7355,6 @@ Bitte wählen Sie einen anderen.</translation>
         <location filename="../src/windows/lists/SlideReading.cpp"/>
         <source>Stopped; %1 of %2 pictures are listed.</source>
         <translation>Angehalten; %1 von %2 Bildern sind aufgeführt.</translation>
-    </message>
-    <message>
-        <location filename="../src/windows/lists/SlideRows.cpp"/>
-        <source>Picture</source>
-        <translation>Bild</translation>
     </message>
     <message>
         <location filename="../src/windows/lists/frmPicturePopup.cpp"/>

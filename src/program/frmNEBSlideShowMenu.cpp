@@ -11,6 +11,7 @@
 #include "albums/transfer/OtherDatabase.h"
 #include "controls/forms/Form.h"
 #include "controls/forms/Tell.h"
+#include "controls/speech/SpokenNotice.h"
 #include "program/EditMenu.h"
 #include "program/MainMenu.h"
 #include "program/StepAside.h"
@@ -60,8 +61,11 @@ void frmNEBSlideShow::FillOpeners() {
         NewForm<frmSlideShowDBM>()->LoadSlideShowMgr(AlbumID, SlideShowID);
     };
     TheOpeners().SlideOfShow = &ShowSlideInManager;
-    TheOpeners().Notice = [Bar = QPointer(statusBar())](const QString& Text) {
-        if (Bar) Bar->showMessage(Text.simplified(), NoticeMs);
+    TheOpeners().Notice = [Bar = QPointer(statusBar()),
+                           Told = new SpokenNotice(*statusBar())](const QString& Text) {
+        if (!Bar) return;
+        Bar->showMessage(Text.simplified(), NoticeMs);
+        Told->Say(Text.simplified());
     };
 }
 

@@ -158,6 +158,8 @@ void Form::showEvent(QShowEvent* Event) {
 bool Form::event(QEvent* Event) {
     const bool Handled = QDialog::event(Event);
     if (Event->type() == QEvent::WindowActivate) ActivateLater();
+    // within the main window the toolkit tells nobody what a window is called
+    if (Event->type() == QEvent::WindowTitleChange) setAccessibleName(windowTitle());
     return Handled;
 }
 

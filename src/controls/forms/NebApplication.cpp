@@ -9,6 +9,7 @@
 #include "controls/forms/ScreenPointer.h"
 #include "controls/speech/SpokenComboBox.h"
 #include "controls/speech/SpokenList.h"
+#include "controls/speech/SpokenPage.h"
 #include "support/ReasonOf.h"
 #include "support/Services.h"
 #include "support/Texts.h"
@@ -52,6 +53,7 @@ NebApplication::NebApplication(int& ArgumentCount, char** Arguments)
     : QApplication(ArgumentCount, Arguments) {
     setStyle(new GrowingStyle);
     NameComboBoxes();
+    TellPagesAsDocuments();
     MendHints();
 }
 
@@ -82,6 +84,8 @@ bool NebApplication::notify(QObject* Receiver, QEvent* Event) {
             TakeTextAsItIs(Receiver);
             DescribeList(Receiver);
         }
+        // some are polished before they have their tip
+        if (Event->type() == QEvent::ToolTipChange) DescribeList(Receiver);
         return Event->type() == QEvent::FocusIn ? TakeKeys(Receiver, Event)
                                                 : QApplication::notify(Receiver, Event);
     } catch (const std::exception& Problem) {

@@ -31,7 +31,7 @@ void FlexGrid::SetEditOnDblClick(bool On) {
 void FlexGrid::SetEmptyText(const QString& Text) {
     if (mEmptyText.isEmpty()) mAbout = AboutList(*this);
     mEmptyText = Text;
-    setAccessibleDescription(Rows() == 0 ? Text : mAbout);
+    setAccessibleDescription(Rows() == 0 ? Text : mAbout.isEmpty() ? toolTip() : mAbout);
     const QFontMetrics Letters = fontMetrics();
     const QRect Narrow(0, 0, EmptyLetters * Letters.averageCharWidth(), 1);
     const QHeaderView& Headings = *horizontalHeader();

@@ -2,10 +2,20 @@
 
 #include <algorithm>
 
+#include "controls/grid/FlexGrid.h"
 #include "support/FlagText.h"
 #include "support/modText.h"
 
 namespace neb {
+namespace {
+
+// Of a grid without headings, which eyes see at once: what screen readers say of a column.
+QString Meaning(const FlexColumn& Column) {
+    if (Column.Kind == FlexKind::Picture) return FlexGrid::tr("Picture");
+    return Column.IsCaption ? FlexGrid::tr("Caption") : QString();
+}
+
+}  // namespace
 
 void FlexGridModel::SetColumn(int Col, const FlexColumn& Column) {
     mColumns.at(static_cast<size_t>(Col)) = Column;
@@ -158,8 +168,10 @@ QVariant FlexGridModel::data(const QModelIndex& Index, int Role) const {
 }
 
 QVariant FlexGridModel::headerData(int Section, Qt::Orientation Orientation, int Role) const {
-    const bool Known = Orientation == Qt::Horizontal && Section < mStore.Cols();
-    return Known && Role == Qt::DisplayRole ? QVariant(Column(Section).Heading) : QVariant();
+    if (Orientation != Qt::Horizontal || Section >= mStore.Cols() || Role != Qt::DisplayRole)
+        return {};
+    const FlexColumn& Each = Column(Section);
+    return HasHeadings() ? Each.Heading : Meaning(Each);
 }
 
 bool FlexGridModel::setData(const QModelIndex& Index, const QVariant& Value, int Role) {

@@ -1,5 +1,6 @@
 #include "controls/forms/Form.h"
 
+#include <QAccessible>
 #include <QPointer>
 #include <QPushButton>
 #include <QTimer>
@@ -36,6 +37,16 @@ TEST_F(FormTest, LoadsOnceHoweverOftenItIsAsked) {
     Window->ShowModeless();
     EXPECT_EQ(1, Window->Loads);
     EXPECT_TRUE(Window->IsLoaded());
+}
+
+// Within the main window it is no window of the desktop's, and yet a dialog with a name.
+TEST_F(FormTest, IsCalledByItsTitleToThoseWhoHearIt) {
+    QWidget Main;
+    Window->setParent(&Main, Qt::Widget);
+    Window->setWindowTitle(QStringLiteral("Print Album"));
+    QAccessibleInterface* Told = QAccessible::queryAccessibleInterface(Window.get());
+    EXPECT_EQ("Print Album", Told->text(QAccessible::Name).toStdString());
+    Window->setParent(nullptr);
 }
 
 TEST_F(FormTest, ListsLoadedFormsInTheOrderOfLoading) {

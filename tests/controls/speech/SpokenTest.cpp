@@ -1,15 +1,19 @@
-// What screen readers are told of lists to choose from, of pictures, of lists.
+// What screen readers are told of lists to choose from, of pictures, lists, pages and notices.
 #include <gtest/gtest.h>
 
 #include <QAccessible>
 #include <QComboBox>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QStatusBar>
+#include <QTextBrowser>
 
 #include "controls/grid/FlexGrid.h"
 #include "controls/picture/PictureView.h"
 #include "controls/picture/XShow.h"
+#include "controls/speech/SpokenNotice.h"
 #include "controls/speech/SpokenRole.h"
 
 namespace neb {
@@ -104,6 +108,78 @@ TEST(SpokenList, SaysWhatItIsForAgainOnceItIsNotEmptyAnyMore) {
     EXPECT_EQ("Slides of the album", Grid.accessibleDescription().toStdString());
     Grid.RemoveItem(0);
     EXPECT_EQ("No slides yet.", Grid.accessibleDescription().toStdString());
+}
+
+TEST(SpokenList, IsDescribedByATipThatComesLate) {
+    FlexGrid Grid;
+    Grid.ensurePolished();
+    Grid.SetCols(1);
+    Grid.SetEmptyText(u"No tracks yet."_s);
+    Grid.setToolTip(u"The sounds of the show"_s);
+    Grid.AddItem();
+    EXPECT_EQ("The sounds of the show", Grid.accessibleDescription().toStdString());
+}
+
+TEST(SpokenList, SaysWhatItsColumnsAreWithoutHeadingsForTheEye) {
+    FlexGrid Grid;
+    Grid.SetCols(2);
+    Grid.SetColumn(0, {.Kind = FlexKind::Picture});
+    Grid.SetColumn(1, {.IsCaption = true});
+    EXPECT_EQ("Picture", Told(Grid).tableInterface()->columnDescription(0).toStdString());
+    EXPECT_EQ("Caption", Told(Grid).tableInterface()->columnDescription(1).toStdString());
+    EXPECT_TRUE(Grid.horizontalHeader()->isHidden());
+    Grid.SetColumn(1, {.IsCaption = true, .Heading = u"Caption then"_s});
+    EXPECT_EQ("", Told(Grid).tableInterface()->columnDescription(0).toStdString());
+    EXPECT_EQ("Caption then", Told(Grid).tableInterface()->columnDescription(1).toStdString());
+}
+
+class SpokenPage : public ::testing::Test {
+  protected:
+    SpokenPage() {
+        mPage.setHtml(u"<p>Albums and <a href='a'>shows</a></p><p>Films</p>"_s);
+        mPage.show();
+    }
+    QAccessibleTextInterface& Its() { return *Told(mPage).textInterface(); }
+    QTextBrowser mPage;
+};
+
+TEST_F(SpokenPage, IsADocumentWithItsText) {
+    EXPECT_EQ(QAccessible::Document, Told(mPage).role());
+    EXPECT_TRUE(Told(mPage).state().readOnly);
+    EXPECT_EQ(0, Told(mPage).childCount());
+    EXPECT_EQ("Albums and shows\nFilms", Its().text(0, -1).toStdString());
+    EXPECT_EQ(22, Its().characterCount());
+    EXPECT_EQ("shows", Its().text(11, 16).toStdString());
+}
+
+TEST_F(SpokenPage, IsReadPlaceByPlace) {
+    const QRect There = Its().characterRect(17);
+    EXPECT_GT(There.top(), Its().characterRect(3).top()) << "in the second line";
+    EXPECT_EQ(17, Its().offsetAtPoint(There.center()));
+    Its().setCursorPosition(4);
+    EXPECT_EQ(4, Its().cursorPosition());
+    Its().addSelection(0, 6);
+    int From = -1, To = -1;
+    Its().selection(0, &From, &To);
+    EXPECT_EQ((std::pair{0, 6}), (std::pair{From, To}));
+    Its().removeSelection(0);
+    EXPECT_EQ(0, Its().selectionCount());
+    Its().setCursorPosition(1000);
+    EXPECT_EQ(22, Its().cursorPosition()) << "there is no more";
+}
+
+TEST(SpokenNotice, IsANotificationForAsLongAsTheStatusBarHasIt) {
+    QStatusBar Bar;
+    SpokenNotice Notice(Bar);
+    Bar.show();
+    EXPECT_FALSE(Notice.isVisible());
+    Bar.showMessage(u"Nothing to take back."_s);
+    Notice.Say(u"Nothing to take back."_s);
+    EXPECT_EQ(QAccessible::Notification, Told(Notice).role());
+    EXPECT_EQ("Nothing to take back.", Told(Notice).text(QAccessible::Name).toStdString());
+    EXPECT_TRUE(Notice.isVisible());
+    Bar.clearMessage();
+    EXPECT_FALSE(Notice.isVisible());
 }
 
 }  // namespace
