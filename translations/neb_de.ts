@@ -4327,11 +4327,6 @@ New Album in the menu Album makes one.</source>
     </message>
     <message>
         <location filename="../src/windows/albums/frmCheckPictures.ui"/>
-        <source>How far the check is</source>
-        <translation>Wie weit die Prüfung ist</translation>
-    </message>
-    <message>
-        <location filename="../src/windows/albums/frmCheckPictures.ui"/>
         <source>How much of all pictures and sounds has been read</source>
         <translation>Wie viel von allen Bildern und Tönen schon gelesen ist</translation>
     </message>
@@ -5424,11 +5419,6 @@ sha256sum -c Sums.sha256</translation>
     </message>
     <message>
         <location filename="../src/windows/disc/frmDiscFolder.ui"/>
-        <source>What is chosen</source>
-        <translation>Was gewählt ist</translation>
-    </message>
-    <message>
-        <location filename="../src/windows/disc/frmDiscFolder.ui"/>
         <source>What is to be written: whole albums, or shows with the slides that they use</source>
         <translation>Was geschrieben werden soll: ganze Alben oder Diashows mit ihren Dias</translation>
     </message>
@@ -5610,11 +5600,6 @@ Ein für einen Datenträger geschriebener Ordner hat eine mit dem Namen %2.</tra
     </message>
     <message>
         <location filename="../src/windows/film/FilmChoices.ui"/>
-        <source>Format in words</source>
-        <translation>Das Format in Worten</translation>
-    </message>
-    <message>
-        <location filename="../src/windows/film/FilmChoices.ui"/>
         <source>Frames a se&amp;cond</source>
         <translation>B&amp;ilder je Sekunde</translation>
     </message>
@@ -5682,11 +5667,6 @@ Ein für einen Datenträger geschriebener Ordner hat eine mit dem Namen %2.</tra
         <location filename="../src/windows/film/FilmChoices.ui"/>
         <source>Quality</source>
         <translation>Qualität</translation>
-    </message>
-    <message>
-        <location filename="../src/windows/film/FilmChoices.ui"/>
-        <source>Quality in words</source>
-        <translation>Die Qualität in Worten</translation>
     </message>
     <message>
         <location filename="../src/windows/film/FilmChoices.ui"/>
@@ -5952,11 +5932,6 @@ Nichts von ihm bleibt dann übrig.</translation>
     </message>
     <message>
         <location filename="../src/windows/film/frmFilm.ui"/>
-        <source>Expected size</source>
-        <translation>Erwartete Größe</translation>
-    </message>
-    <message>
-        <location filename="../src/windows/film/frmFilm.ui"/>
         <source>How large the film will be, about, and how much room there is for it</source>
         <translation>Wie groß der Film etwa wird und wie viel Platz für ihn da ist</translation>
     </message>
@@ -6032,18 +6007,8 @@ Nichts von ihm bleibt dann übrig.</translation>
     </message>
     <message>
         <location filename="../src/windows/film/frmFilm.ui"/>
-        <source>The film in short</source>
-        <translation>Der Film in Kürze</translation>
-    </message>
-    <message>
-        <location filename="../src/windows/film/frmFilm.ui"/>
         <source>What is wrong with the show; a film is made all the same. A double click or Enter goes to the slide in the Slide Show Manager</source>
         <translation>Was an der Diashow nicht stimmt; ein Film entsteht trotzdem. Ein Doppelklick oder die Eingabetaste führt zum Dia in der Diashow-Verwaltung</translation>
-    </message>
-    <message>
-        <location filename="../src/windows/film/frmFilm.ui"/>
-        <source>Written</source>
-        <translation>Geschrieben</translation>
     </message>
     <message>
         <location filename="../src/windows/frame/KeepPicturesField.cpp"/>
@@ -7788,11 +7753,6 @@ Bitte wählen Sie eine dieser beiden Endungen. Nichts wurde gespeichert.</transl
     </message>
     <message>
         <location filename="../src/windows/printing/frmPrintPreview.ui"/>
-        <source>Notice</source>
-        <translation>Hinweis</translation>
-    </message>
-    <message>
-        <location filename="../src/windows/printing/frmPrintPreview.ui"/>
         <source>Pages</source>
         <translation>Seiten</translation>
     </message>
@@ -8323,11 +8283,6 @@ und lässt sich von dort an eine Nachricht anhängen.</translation>
     </message>
     <message>
         <location filename="../src/windows/rehearsal/frmRehearsal.ui"/>
-        <source>The rehearsal in short</source>
-        <translation>Der Probelauf in Kürze</translation>
-    </message>
-    <message>
-        <location filename="../src/windows/rehearsal/frmRehearsal.ui"/>
         <source>The slides with the tracks and clips that are heard; a double click or Enter goes to the slide in the Slide Show Manager</source>
         <translation>Die Dias mit den Spuren und Clips, die zu hören sind; ein Doppelklick oder die Eingabetaste führt zum Dia in der Diashow-Verwaltung</translation>
     </message>
@@ -8460,11 +8415,6 @@ und lässt sich von dort an eine Nachricht anhängen.</translation>
         <location filename="../src/windows/show/frmPreferences.ui"/>
         <source>An effect is drawn in steps. Step: how far each goes, in percent of the whole way, 1 to 100; small ones look smoother. Delay: the time from one step to the next in ten-thousandths of a second, 0 to 1000; long ones look slower</source>
         <translation>Ein Effekt wird in Schritten gezeichnet. Schritt: wie weit jeder geht, in Prozent des ganzen Weges, 1 bis 100; kleine wirken flüssiger. Pause: die Zeit von einem Schritt zum nächsten in Zehntausendstelsekunden, 0 bis 1000; lange wirken langsamer</translation>
-    </message>
-    <message>
-        <location filename="../src/windows/show/frmPreferences.ui"/>
-        <source>Apply</source>
-        <translation>Übernehmen</translation>
     </message>
     <message>
         <location filename="../src/windows/show/frmPreferences.ui"/>
@@ -8738,11 +8688,6 @@ Es gelten die kleinsten Einstellungen.</translation>
     </message>
     <message>
         <location filename="../src/windows/show/frmSpeedTest.ui"/>
-        <source>Hint</source>
-        <translation>Hinweis</translation>
-    </message>
-    <message>
-        <location filename="../src/windows/show/frmSpeedTest.ui"/>
         <source>Test picture</source>
         <translation>Testbild</translation>
     </message>
@@ -8750,11 +8695,6 @@ Es gelten die kleinsten Einstellungen.</translation>
         <location filename="../src/windows/show/frmSpeedTest.ui"/>
         <source>Testing Graphics Performance</source>
         <translation>Grafiktempo wird gemessen</translation>
-    </message>
-    <message>
-        <location filename="../src/windows/show/frmSpeedTest.ui"/>
-        <source>What is being measured</source>
-        <translation>Was gerade gemessen wird</translation>
     </message>
     <message>
         <location filename="../src/windows/show/modSlideShows.cpp"/>
@@ -10057,11 +9997,6 @@ Schließen Sie dieses Fenster, um eine andere zu wählen.</translation>
         <location filename="../src/windows/transfer/frmSlideShowView.ui"/>
         <source>Slides of the slide show</source>
         <translation>Dias der Diashow</translation>
-    </message>
-    <message>
-        <location filename="../src/windows/transfer/frmTransferProgress.ui"/>
-        <source>How far the transfer is</source>
-        <translation>Wie weit die Übertragung ist</translation>
     </message>
     <message>
         <location filename="../src/windows/transfer/frmTransferProgress.ui"/>

@@ -5,6 +5,7 @@
 #include <QAbstractItemView>
 #include <QAbstractSpinBox>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QSlider>
 #include <QTabBar>
@@ -93,6 +94,15 @@ int CheckControls(const QWidget& Window, const char* Name) {
     return Count;
 }
 
+// A name in the place of the words would hide them from whoever hears the window; a sign has one.
+void CheckLabels(const QWidget& Window, const char* Name) {
+    for (const QLabel* Each : Window.findChildren<QLabel*>()) {
+        if (!Each->objectName().startsWith(u"lbl") || Each->text().size() == 1) continue;
+        EXPECT_EQ("", Each->accessibleName().toStdString())
+            << Name << '.' << Each->objectName().toStdString();
+    }
+}
+
 template <class Window>
 class EachWindow : public ::testing::Test {
   protected:
@@ -119,6 +129,7 @@ TYPED_TEST_SUITE(EachWindow, Windows);
 TYPED_TEST(EachWindow, HasNamesToolTipsAndReachableControls) {
     const auto Window = NewForm<TypeParam>();
     EXPECT_GT(CheckControls(*Window, Window->metaObject()->className()), 0) << "nothing looked at";
+    CheckLabels(*Window, Window->metaObject()->className());
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QScopeGuard>
 #include <QSpacerItem>
 #include <algorithm>
 
@@ -157,6 +158,7 @@ BoxAnswer DesktopBoxes::Show(const BoxRequest& Request) {
 
 QString DesktopFileDialogs::OpenFile(const QString& Title, const QString& StartDir,
                                      const QString& Filters) {
+    const auto Over = qScopeGuard(&AwaitFocus);
     const QString Offered = ToolkitFilters(Filters);
     QString Chosen = WidestOf(Offered);
     return QFileDialog::getOpenFileName(WindowInUse(), Title, StartDir, Offered, &Chosen);
@@ -164,6 +166,7 @@ QString DesktopFileDialogs::OpenFile(const QString& Title, const QString& StartD
 
 QString DesktopFileDialogs::SaveFile(const QString& Title, const QString& StartPath,
                                      const QString& Filters) {
+    const auto Over = qScopeGuard(&AwaitFocus);
     QString Filter;
     const QString Path =
         QFileDialog::getSaveFileName(WindowInUse(), Title, StartPath, ToolkitFilters(Filters),
@@ -173,6 +176,7 @@ QString DesktopFileDialogs::SaveFile(const QString& Title, const QString& StartP
 }
 
 QString DesktopFileDialogs::ChooseFolder(const QString& Title, const QString& StartDir) {
+    const auto Over = qScopeGuard(&AwaitFocus);
     return QFileDialog::getExistingDirectory(WindowInUse(), Title, StartDir);
 }
 

@@ -12,6 +12,19 @@ namespace {
 constexpr int MostMs = 250;
 constexpr int StepMs = 2;
 
+// The toolkit does not look who gets the keyboard while a list is up, such as the one of the names
+// in a file dialog, which Enter closes together with the dialog: no key would be taken any more.
+void TakeMissedWindow() {
+    const QWindow* Has = QGuiApplication::focusWindow();
+    for (QWidget* Each : QApplication::topLevelWidgets()) {
+        if (!Has || !Each->isVisible() || Each->windowHandle() != Has) continue;
+        QT_WARNING_PUSH
+        QT_WARNING_DISABLE_DEPRECATED
+        return QApplication::setActiveWindow(Each);
+        QT_WARNING_POP
+    }
+}
+
 }  // namespace
 
 QWidget* WindowInUse() {
@@ -44,6 +57,7 @@ void AwaitFocus() {
         QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
         QThread::msleep(StepMs);
     }
+    if (!QApplication::activeWindow()) TakeMissedWindow();
 }
 
 }  // namespace neb

@@ -91,10 +91,7 @@ void frmHelp::ConnectLists() {
     connect(mUi->txtIndex, &QLineEdit::textChanged, this,
             [this](const QString& Words) { ShowOnly(*mUi->lstIndex, Words); });
     connect(mUi->txtSearch, &QLineEdit::textChanged, this, &frmHelp::Search);
-    connect(mUi->tabParts, &QTabWidget::currentChanged, this, [this](int Part) {
-        const QList<QWidget*> First{mUi->trvContents, mUi->txtIndex, mUi->txtSearch};
-        First[Part]->setFocus();
-    });
+    connect(mUi->tabParts, &QTabWidget::currentChanged, this, &frmHelp::EnterLists);
     connect(mUi->txtFind, &QLineEdit::returnPressed, this, [this] { FindNext(false); });
 }
 
@@ -113,6 +110,7 @@ void frmHelp::AddKeys() {
     Add("Ctrl+F", [this] { FindOnPage(); });
     Add("F3", [this] { FindNext(false); });
     Add("Shift+F3", [this] { FindNext(true); });
+    Add("F6", [this] { ChangeSides(); });
 }
 
 void frmHelp::Form_Load() {
@@ -134,6 +132,19 @@ void frmHelp::showEvent(QShowEvent* Event) {
     if (Place.isEmpty()) return;
     QMetaObject::invokeMethod(
         this, [this, Place] { mUi->txtHelp->scrollToAnchor(Place); }, Qt::QueuedConnection);
+}
+
+bool frmHelp::IsInLists() const {
+    return mUi->tabParts->isAncestorOf(focusWidget());
+}
+
+void frmHelp::ChangeSides() {
+    IsInLists() ? mUi->txtHelp->setFocus() : EnterLists();
+}
+
+void frmHelp::EnterLists() {
+    const QList<QWidget*> First{mUi->trvContents, mUi->txtIndex, mUi->txtSearch};
+    First[mUi->tabParts->currentIndex()]->setFocus();
 }
 
 void frmHelp::keyPressEvent(QKeyEvent* Event) {

@@ -41,6 +41,9 @@ class frmHelp : public Form {
     void ConnectTools();
     void ConnectLists();
     void AddKeys();
+    bool IsInLists() const;
+    void EnterLists();
+    void ChangeSides();  // between the lists and the page
     void FillContents();
     void FillIndex();
     void ShowPage(const QString& Page);

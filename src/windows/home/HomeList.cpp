@@ -47,7 +47,8 @@ HomeList::HomeList(QWidget* Parent)
       mLeft(new LeftShow),
       mRow(new BeginningsRow([this] { Q_EMIT QuickShowWanted(); })),
       mFirst(new FirstDay([this] { Q_EMIT QuickShowWanted(); })),
-      mView(new HomeView) {
+      mView(new HomeView),
+      mMenu(new QMenu(this)) {
     SetUpField();
     SetUpView();
     SetUpDeeds();
@@ -94,6 +95,7 @@ void HomeList::DressField() {
 
 void HomeList::SetUpView() {
     mView->setObjectName(QStringLiteral("lstHome"));
+    mMenu->setObjectName(QStringLiteral("mnuCard"));
     mView->setAccessibleName(tr("Albums and slide shows"));
     mView->setAccessibleDescription(
         tr("Enter plays a show or opens an album, the menu key offers what else can be done"));
@@ -263,19 +265,17 @@ void HomeList::Activate() {
 void HomeList::OpenMenu(const QPoint& At) {
     const HomeCard* Card = mView->Current();
     if (!Card) return;
-    auto* Menu = new QMenu(this);
-    Menu->setObjectName(QStringLiteral("mnuCard"));
-    Menu->setAttribute(Qt::WA_DeleteOnClose);
+    mMenu->clear();
     for (const CardDeed& Each : CardDeeds()) {
         auto* Action = mView->findChild<QAction*>(QString::fromLatin1(Each.Name));
         if (!IsOffered(Each, *Card)) continue;
         Action->setIcon(
-            MenuIcon(ThemeIcon(QString::fromLatin1(Each.Icon), palette()), Menu->palette()));
-        Menu->addAction(Action);
-        if (!Each.Do) Menu->setDefaultAction(Action);
-        if (Each.EndsGroup) Menu->addSeparator();
+            MenuIcon(ThemeIcon(QString::fromLatin1(Each.Icon), palette()), mMenu->palette()));
+        mMenu->addAction(Action);
+        if (!Each.Do) mMenu->setDefaultAction(Action);
+        if (Each.EndsGroup) mMenu->addSeparator();
     }
-    Menu->popup(At);
+    mMenu->popup(At);
 }
 
 // From the field into what was found, and back by Esc.

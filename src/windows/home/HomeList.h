@@ -12,6 +12,7 @@ QT_BEGIN_NAMESPACE
 class QAction;
 class QLabel;
 class QLineEdit;
+class QMenu;
 QT_END_NAMESPACE
 
 namespace neb {
@@ -70,6 +71,7 @@ class HomeList : public QWidget {
     BeginningsRow* mRow;
     FirstDay* mFirst;
     HomeView* mView;
+    QMenu* mMenu;  // of the card in hand; in a second menu its entries would not be heard
     LibrarySearch mSearch;
     QTimer mRenew, mLearn;
     int mSlidesFound = 0;

@@ -84,6 +84,7 @@ void TransferForm::Start() {
 // and the other database stays open.
 std::optional<QString> TransferForm::RunToTheEnd() {
     const QPointer<QWidget> Focus = focusWidget();
+    setFocus();  // else the first control behind this window would get the keys, and keep them
     SetTransferring(true);
     const auto Over = qScopeGuard([this, Focus] {
         SetTransferring(false);

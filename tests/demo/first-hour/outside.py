@@ -7,7 +7,7 @@ import time
 
 import pyatspi
 
-PATIENCE = 20.0  # seconds that a step may take on a busy machine
+PATIENCE = float(os.environ.get("NEB_PATIENCE", "20"))  # seconds that a step may take at most
 SCALE = float(os.environ.get("QT_SCALE_FACTOR", "1"))  # places come in logical pixels
 
 

@@ -182,6 +182,20 @@ TEST_F(HelpWindow, WordsThatAreTypedFindPagesOnWhichTheyAreSetOff) {
     EXPECT_TRUE(View().viewport()->rect().intersects(View().cursorRect()));
 }
 
+// The contents have more links than anybody would go through.
+TEST_F(HelpWindow, F6GoesFromThePageToTheListsAndBack) {
+    Open();
+    ASSERT_TRUE(View().hasFocus());
+    Key(View(), Qt::Key_F6);
+    EXPECT_TRUE(In<QTreeWidget>("trvContents").hasFocus());
+    Key(In<QTreeWidget>("trvContents"), Qt::Key_F6);
+    EXPECT_TRUE(View().hasFocus());
+    In<QTabWidget>("tabParts").setCurrentWidget(&In<QWidget>("tabSearch"));
+    View().setFocus();
+    Key(View(), Qt::Key_F6);
+    EXPECT_TRUE(In<QLineEdit>("txtSearch").hasFocus());
+}
+
 TEST_F(HelpWindow, GoesBackAndForwardByButtonsAndKeys) {
     Open();
     EXPECT_FALSE(In<QPushButton>("cmdBack").isEnabled());

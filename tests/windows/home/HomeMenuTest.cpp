@@ -1,4 +1,5 @@
 // What the menu of a card and its keys do, each through the windows of the program.
+#include <QAccessible>
 #include <QComboBox>
 
 #include "HomeRig.h"
@@ -70,6 +71,18 @@ TEST_F(HomeMenu, TheMenuKeyOpensItAtTheCardInHand) {
     const QRect Card = View().visualRect(View().currentIndex());
     EXPECT_TRUE(Card.contains(View().viewport()->mapFromGlobal(Menu->pos())));
     Menu->close();
+}
+
+// The toolkit tells nobody of an entry whose first menu has gone.
+TEST_F(HomeMenu, ItsEntriesAreHeardWhenItOpensAgain) {
+    Open();
+    for (const char* Time : {"first", "second"}) {
+        QMenu& Menu = OpenMenu(u"Walk"_s);
+        const QAccessibleInterface* View = QAccessible::queryAccessibleInterface(&Menu)->child(1);
+        EXPECT_TRUE(View->isValid()) << Time;
+        Menu.close();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
 }
 
 TEST_F(HomeMenu, ViewOpensTheViewers) {
