@@ -89,10 +89,18 @@ class ByKeyboard(Program):
         """The program, at its home; at its very first start it asks for the speed test."""
         self.ear.here = None
         self.start()
+        await_("the keyboard", self.has_keyboard)
         self.hear_at("Test Now", "Albums and slide shows", "Quick Show")
         if self.is_at("Test Now"):
             self.press_on("Skip")
             self.hear_at("Albums and slide shows", "Quick Show")
+            await_("the keyboard", self.has_keyboard)
+
+    def has_keyboard(self):
+        """As the desktop sees it."""
+        said = subprocess.run(["xdotool", "getactivewindow", "getwindowpid"], check=False,
+                              capture_output=True, text=True)
+        return said.stdout.strip() == str(self.process.pid)
 
     def begin_anew(self):
         self.process.kill()
