@@ -15,7 +15,8 @@ namespace {
 constexpr double UsualPoints = 10;
 constexpr int FocusMargin = 2;  // around the words of a box to choose from
 constexpr QMargins WithinEdge(3, 3, 3, 3);
-constexpr double SeenLine = 3;  // the contrast of a line that is no letter
+constexpr int FrameShade = 125;  // percent
+constexpr double SeenLine = 3;   // the contrast of a line that is no letter
 
 constexpr QStyle::PixelMetric Growing[] = {
     QStyle::PM_ButtonIconSize,
@@ -49,7 +50,8 @@ constexpr QStyle::PrimitiveElement Drawn[] = {
     QStyle::PE_IndicatorSpinDown,  QStyle::PE_IndicatorSpinUp,
 };
 
-// Some styles draw their frames in a shade of the window, which is not seen in dark colours.
+// Some styles draw their frames in a shade of the window, which is hardly seen, and not in dark
+// colours.
 constexpr QStyle::PrimitiveElement Framed[] = {QStyle::PE_IndicatorCheckBox,
                                                QStyle::PE_IndicatorRadioButton};
 
@@ -259,13 +261,17 @@ void GrowingStyle::drawControl(ControlElement Element, const QStyleOption* Optio
 void GrowingStyle::drawPrimitive(PrimitiveElement Element, const QStyleOption* Option,
                                  QPainter* Painter, const QWidget* Widget) const {
     const auto* Box = qstyleoption_cast<const QStyleOptionButton*>(Option);
-    if (Box && IsDark(Box->palette) && Has(Framed, Element)) {
+    if (Box && Has(Framed, Element)) {
         QStyleOptionButton Seen = *Box;
-        Seen.palette.setColor(QPalette::Window, Seen.palette.color(QPalette::Text));
-        return QProxyStyle::drawPrimitive(Element, &Seen, Painter, Widget);
+        Seen.palette.setColor(QPalette::Window,
+                              IsDark(Box->palette)
+                                  ? Seen.palette.color(QPalette::Text)
+                                  : Seen.palette.color(QPalette::Window).darker(FrameShade));
+        QProxyStyle::drawPrimitive(Element, &Seen, Painter, Widget);
+    } else {
+        const GrownArrows Grown(Option, Widget, Has(Drawn, Element));
+        QProxyStyle::drawPrimitive(Element, Option, Painter, Widget);
     }
-    const GrownArrows Grown(Option, Widget, Has(Drawn, Element));
-    QProxyStyle::drawPrimitive(Element, Option, Painter, Widget);
     if (!Option) return;
     const bool IsOutlined = HasHighContrast(Option->palette);
     if (IsOutlined && Has(Outlined, Element)) Outline(*Option, Option->rect, *Painter);

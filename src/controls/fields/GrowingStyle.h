@@ -1,8 +1,8 @@
 // The desktop's style with arrows, boxes to tick, icons, scroll bars and title bars that grow with
 // the letters beside them: styles draw them at a size of their own, whatever the font. The
 // application sets it once (NebApplication). Up to 10 points all is as the desktop draws it, but
-// for boxes to tick in dark colours, which have a frame that is seen, for the lines around all
-// that can be used in colours of high contrast, and for the one around what has the keys.
+// for boxes to tick, which have a frame that is seen, for the lines around all that can be used in
+// colours of high contrast, and for the one around what has the keys.
 #pragma once
 
 #include <QProxyStyle>

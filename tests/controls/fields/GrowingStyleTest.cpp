@@ -4,8 +4,11 @@
 
 #include <gtest/gtest.h>
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QStyleOptionComboBox>
+
+#include "controls/fields/HintColour.h"
 
 namespace neb {
 namespace {
@@ -92,6 +95,21 @@ TEST(GrowingStyle, TheLettersThemselvesAreMeasuredAsBefore) {
     const QFontMetrics Before = Look.fontMetrics;
     Box.style()->subControlRect(QStyle::CC_ComboBox, &Look, QStyle::SC_ComboBoxArrow, &Box);
     EXPECT_EQ(Before, Look.fontMetrics);
+}
+
+TEST(GrowingStyle, ABoxToTickHasAFrameThatIsSeenInLightAndInDarkColours) {
+    const QPalette Dark(QColor(53, 53, 53), QColor(45, 45, 45));
+    for (const QPalette& Colours : {QApplication::palette(), Dark}) {
+        QCheckBox Box;
+        Box.setPalette(Colours);
+        Box.resize(40, 40);
+        const QImage Drawn = Box.grab().toImage();
+        const QColor Ground = Drawn.pixelColor(39, 39);
+        double Most = 1;
+        for (int X = 0; X < 12; ++X)
+            Most = std::max(Most, Contrast(Drawn.pixelColor(X, 20), Ground));
+        EXPECT_GE(Most, 3) << Ground.name().toStdString();
+    }
 }
 
 // In the colour of the texts beside it: black on black it could not be seen.
