@@ -101,7 +101,7 @@ class SpokenPage : public QAccessibleWidget, public QAccessibleTextInterface {
     QTextBrowser& mPage;
 };
 
-QAccessibleInterface* Spoken(const QString&, QObject* Object) {
+QAccessibleInterface* SpokenPageOf(const QString&, QObject* Object) {
     auto* Page = qobject_cast<QTextBrowser*>(Object);
     return Page ? new SpokenPage(Page) : nullptr;
 }
@@ -109,7 +109,7 @@ QAccessibleInterface* Spoken(const QString&, QObject* Object) {
 }  // namespace
 
 void TellPagesAsDocuments() {
-    QAccessible::installFactory(&Spoken);
+    QAccessible::installFactory(&SpokenPageOf);
 }
 
 }  // namespace neb
