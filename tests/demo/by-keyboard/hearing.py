@@ -139,14 +139,14 @@ class ByKeyboard(Program):
         except Exception:  # it has gone, or there was none yet
             return False
 
-    def tab_to(self, name, back=False):
+    def tab_to(self, name):
         """By Tab alone, as far as it takes."""
         came_by = []
         for _ in range(MOST_STEPS):
             if self.is_at(name):
                 return
             self.ear.said.clear()
-            run("xdotool", "key", "shift+Tab" if back else "Tab")
+            run("xdotool", "key", "Tab")
             self.ear.listen_for_words(1.0)
             came_by += self.ear.said
         raise Missing(f'"{name}" by Tab, which came by {came_by[-30:]}')
@@ -228,8 +228,6 @@ class ByKeyboard(Program):
             self.ear.said.clear()
             run("xdotool", "key", key)
             self.ear.listen_for_words(0.5)
-            if not self.ear.said and self.ear.here.getRole() == pyatspi.ROLE_MENU_ITEM:
-                self.look()
             came_by += self.ear.said
         raise Missing(f'"{entry}" by the key {key}, which came by {came_by[-30:]}')
 
@@ -294,6 +292,7 @@ class ByKeyboard(Program):
         """All windows are closed, and the keys are in the list of the home."""
         self.opened("NEB Slide Show")
         self.hear_at("Albums and slide shows")
+        await_("the keyboard", self.has_keyboard)
 
     def hear_at(self, *names):
         """The keys come to one of these."""

@@ -104,9 +104,8 @@ def stop_a_film(user):
     user.disk.becomes("progress that is told",
                       lambda: user.ear.listen(0.1) or user.ear.progress)
     user.press("Escape")
-    user.hear_at("File", "Make film")
-    if user.disk.named("Evening"):
-        raise user.missing("a stopped film that leaves nothing")
+    user.hear_at("File", "Make film", "Close")
+    user.disk.becomes("nothing of the film", lambda: not user.disk.named("Evening"))
     user.press("ctrl+F4")
     user.at_home()
 
