@@ -15,7 +15,7 @@ namespace {
 constexpr double UsualPoints = 10;
 constexpr int FocusMargin = 2;  // around the words of a box to choose from
 constexpr QMargins WithinEdge(3, 3, 3, 3);
-constexpr int FrameShade = 125;  // percent
+constexpr int FrameShade = 145;  // percent
 constexpr double SeenLine = 3;   // the contrast of a line that is no letter
 
 constexpr QStyle::PixelMetric Growing[] = {

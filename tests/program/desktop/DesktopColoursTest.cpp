@@ -198,9 +198,12 @@ void ExpectOutlined() {
     Control Of;
     for (const Shade Is : {Shade::Dark, Shade::Light}) {
         const QPalette Wanted = PaletteOf(Is, true);
-        const QRgb Ink = Wanted.color(QPalette::WindowText).rgb();
-        EXPECT_EQ(QSet<QRgb>{Ink}, EdgeOf(Of, Wanted)) << Of.metaObject()->className();
-        EXPECT_FALSE(EdgeOf(Of, PaletteOf(Is, false)).contains(Ink));
+        const QSet<QRgb> Edge = EdgeOf(Of, Wanted);
+        ASSERT_EQ(1, Edge.size()) << Of.metaObject()->className();
+        for (const auto Ground : {QPalette::Window, QPalette::Base})
+            EXPECT_GE(Contrast(*Edge.begin(), Wanted.color(Ground)), 3)
+                << Of.metaObject()->className();
+        EXPECT_NE(Edge, EdgeOf(Of, PaletteOf(Is, false)));
     }
 }
 
