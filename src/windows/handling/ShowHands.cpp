@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <algorithm>
 
+#include "controls/speech/SpokenRole.h"
 #include "show/ShowRun.h"
 
 namespace neb {
@@ -21,6 +22,7 @@ QWidget* BlackSheet(QWidget& Window) {
     auto* Sheet = new QWidget(&Window);
     Sheet->setObjectName(QStringLiteral("BlackSheet"));
     Sheet->setAccessibleName(ShowHands::tr("Black screen"));
+    SpeakAs(*Sheet, QAccessible::Notification);  // it is said as it comes up
     Sheet->setAutoFillBackground(true);
     Sheet->setPalette(Qt::black);
     Sheet->setVisible(false);

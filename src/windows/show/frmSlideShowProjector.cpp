@@ -257,7 +257,9 @@ void frmSlideShowProjector::Prefetch(const QString& Path) {
 void frmSlideShowProjector::SetTimer1(bool On) {
     On&& IsLoaded() ? Timer1->start() : Timer1->stop();
     mHands->FollowShow();
-    if (mDesk) mDesk->FollowState(On);
+    if (!mDesk) return;
+    mDesk->FollowState(On);
+    SayState();
 }
 
 // To those who hear the show: the picture has the keys, and what has them is read when it changes.
@@ -265,7 +267,14 @@ void frmSlideShowProjector::SaySlide() {
     const QString Place =
         tr("Slide %1 of %2").arg(mRun.Memory().CurrentSlideSeq).arg(mRun.SlideCount());
     const QString Caption = mUi->lblCaption->ShownText();
-    const QString Words = Caption.isEmpty() ? Place : tr("%1: %2").arg(Place, Caption);
+    mSaid = Caption.isEmpty() ? Place : tr("%1: %2").arg(Place, Caption);
+    SayState();
+}
+
+void frmSlideShowProjector::SayState() {
+    if (mSaid.isEmpty()) return;  // nothing is up yet
+    const bool IsHalted = !mRun.IsManual() && State().PlayCommand == u"Play";
+    const QString Words = IsHalted ? tr("Paused. %1").arg(mSaid) : mSaid;
     if (mUi->Show1->accessibleName() != Words) mUi->Show1->setAccessibleName(Words);
 }
 

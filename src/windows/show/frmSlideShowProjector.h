@@ -89,6 +89,7 @@ class frmSlideShowProjector : public Form, private ShowStage {
     void Leave();
     void SwitchCaptions();
     void SaySlide();
+    void SayState();
     void SurfaceMouseDown(int Button);
     void RunCommand(const QString& Word);
     void SaveNextSlideSeq();
@@ -98,6 +99,7 @@ class frmSlideShowProjector : public Form, private ShowStage {
     std::unique_ptr<ShowHands> mHands;
     std::optional<ShowDesk> mDesk;
     QString mAlbumName;
+    QString mSaid;  // of the slide that is up
     QTimer* Timer1;
     QTimer* Timer2;
     std::exception_ptr mSaveFault;

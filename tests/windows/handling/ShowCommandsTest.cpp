@@ -1,4 +1,6 @@
 // What the keys of a show do, beside those that step, pause and stop it.
+#include <QAccessible>
+
 #include "HandsRig.h"
 
 namespace neb::test {
@@ -87,6 +89,9 @@ TEST_F(TheKeys, HeldDownStepOnButDoNotFlicker) {
         Press(Qt::Key_B);
         Repeat(Qt::Key_B);
         EXPECT_TRUE(IsUp("BlackSheet"));
+        EXPECT_EQ(QAccessible::Notification,
+                  QAccessible::queryAccessibleInterface(Part("BlackSheet"))->role())
+            << "it is said as it comes up";
         Press(Qt::Key_B);
         Repeat(Qt::Key_P);
         EXPECT_EQ("Pause", PlayWord());

@@ -115,6 +115,17 @@ TEST_F(ProjectorSlide, IsToldWithItsPlaceAndCaptionByThePictureThatHasTheKeys) {
     });
 }
 
+TEST_F(ProjectorSlide, IsToldToBePausedWhileTheShowWaits) {
+    AddSlides(2);
+    Run([&](Projector& Window) {
+        Spin(20);
+        Window.PlayPause();
+        EXPECT_EQ("Paused. Slide 1 of 2: Slide 1", Picture->accessibleName().toStdString());
+        Window.PlayPause();
+        EXPECT_EQ("Slide 1 of 2: Slide 1", Picture->accessibleName().toStdString());
+    });
+}
+
 struct StillDesktop : MotionWish {
     StillDesktop() { TheMotionWish() = this; }
     ~StillDesktop() override { TheMotionWish() = nullptr; }
