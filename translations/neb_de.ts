@@ -8632,6 +8632,11 @@ und lässt sich von dort an eine Nachricht anhängen.</translation>
         <translation>%1: %2</translation>
     </message>
     <message>
+        <location filename="../src/windows/show/frmSlideShowProjector.cpp"/>
+        <source>Paused. %1</source>
+        <translation>Angehalten. %1</translation>
+    </message>
+    <message>
         <location filename="../src/windows/show/frmSlideShowProjector.ui"/>
         <source>Caption of the slide</source>
         <translation>Bildtext des Dias</translation>

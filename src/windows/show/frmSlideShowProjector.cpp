@@ -273,8 +273,8 @@ void frmSlideShowProjector::SaySlide() {
 
 void frmSlideShowProjector::SayState() {
     if (mSaid.isEmpty()) return;  // nothing is up yet
-    const bool IsHalted = !mRun.IsManual() && State().PlayCommand == u"Play";
-    const QString Words = IsHalted ? tr("Paused. %1").arg(mSaid) : mSaid;
+    const bool IsPaused = State().PlayCommand == u"Resume";
+    const QString Words = IsPaused ? tr("Paused. %1").arg(mSaid) : mSaid;
     if (mUi->Show1->accessibleName() != Words) mUi->Show1->setAccessibleName(Words);
 }
 
