@@ -12,6 +12,9 @@ target_compile_options(neb_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wn
 target_compile_definitions(neb_flags INTERFACE QT_NO_KEYWORDS QT_NO_CAST_TO_ASCII
                                                QT_DISABLE_DEPRECATED_BEFORE=0x060000)
 target_include_directories(neb_flags INTERFACE ${PROJECT_SOURCE_DIR}/src)
+# To look for memory that it can use again takes the compiler a tenth of its time, and spares little.
+target_compile_options(neb_flags INTERFACE
+  "$<$<CXX_COMPILER_ID:GNU>:SHELL:--param ggc-min-expand=1000 --param ggc-min-heapsize=2000000>")
 # Sources that are compiled together are no headers to one another, and what one names for itself is
 # hidden by no local name of the next.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
@@ -24,10 +27,10 @@ if(NEB_SANITIZE)
   target_link_options(neb_flags INTERFACE -fsanitize=address,undefined)
 endif()
 
-# neb_together(TARGET SOURCES [APART room ...])
-# Up to six sources of a room are compiled as one, which reads their headers once, and who changes one
-# file does not wait for many. Names of their own must differ within a room then; in those that are
-# APART they need not.
+# neb_together(TARGET SOURCES [APART room|source ...])
+# Up to twelve sources of a room are compiled as one, which reads their headers once, and who changes
+# one file does not wait for many. Names of their own must differ within a room then; in the rooms
+# and sources that are APART they need not.
 function(neb_together TARGET SOURCES)
   cmake_parse_arguments(U "" "" "APART" ${ARGN})
   list(JOIN U_APART "|" apart)
@@ -35,7 +38,7 @@ function(neb_together TARGET SOURCES)
   set(before "")
   foreach(source ${SOURCES})
     cmake_path(GET source PARENT_PATH room)
-    if(NOT source MATCHES "\\.cpp$" OR room MATCHES "/(${apart})$")
+    if(NOT source MATCHES "\\.cpp$" OR source MATCHES "/(${apart})(/[^/]*|\\.cpp)$")
       continue()
     endif()
     if(NOT room STREQUAL before)
@@ -44,7 +47,7 @@ function(neb_together TARGET SOURCES)
       file(RELATIVE_PATH name ${PROJECT_SOURCE_DIR} ${room})
       string(REPLACE "/" "_" name ${name})
     endif()
-    math(EXPR group "${count} / 6")
+    math(EXPR group "${count} / 12")
     math(EXPR count "${count} + 1")
     set_source_files_properties(${source} PROPERTIES UNITY_GROUP ${name}_${group})
   endforeach()
@@ -57,16 +60,39 @@ if(CMAKE_SIZEOF_VOID_P EQUAL 4 AND CMAKE_SYSTEM_PROCESSOR MATCHES "86")
   target_compile_options(neb_exact INTERFACE -msse2 -mfpmath=sse)
 endif()
 
+# ImageMagick without the compiler's threads, which it uses itself and its callers do not: with them
+# these could not share the precompiled headers of the house.
+macro(neb_find_magick)
+  pkg_check_modules(MAGICK REQUIRED IMPORTED_TARGET Magick++-6.Q16)
+  list(REMOVE_ITEM MAGICK_CFLAGS_OTHER -fopenmp)
+  set_target_properties(PkgConfig::MAGICK PROPERTIES INTERFACE_COMPILE_OPTIONS "${MAGICK_CFLAGS_OTHER}")
+endmacro()
+
+# neb_precompiled(TARGET core|gui [OWN])
+# What nearly all of its sources read is compiled once for all targets that are compiled alike. What is
+# optimised more than others has its OWN: GCC 12 falls over the headers of one level in another.
+function(neb_precompiled TARGET HEADERS)
+  get_property(first GLOBAL PROPERTY NEB_FIRST_OF_${HEADERS})
+  if(first AND NOT ARGN AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    target_precompile_headers(${TARGET} REUSE_FROM ${first})
+  else()
+    target_precompile_headers(${TARGET} PRIVATE ${PROJECT_SOURCE_DIR}/cmake/pch_${HEADERS}.h)
+  endif()
+  if(NOT first)
+    set_property(GLOBAL PROPERTY NEB_FIRST_OF_${HEADERS} ${TARGET})
+  endif()
+  set_target_properties(${TARGET} PROPERTIES NEB_SHARES_HEADERS ON)
+endfunction()
+
 # neb_library(NAME sound FLOOR 2 KNOWS texts|pictures|windows ROOMS decoding mixing devices .
-#             DEPENDS neb_x Qt6::Y [HIDDEN z] [APART rooms] [SINGLY] [FAST] [OWN_HEADERS] [MODULE])
+#             DEPENDS neb_x Qt6::Y [HIDDEN z] [APART rooms] [SINGLY] [FAST] [MODULE])
 # The top folder src/NAME as the library neb_NAME, with the sources of its ROOMS: its subfolders and,
 # as ".", the folder itself. The order of these calls, and of the rooms in each, is the order of the
 # house: a room uses those named before it, of the libraries that its own DEPENDS on. What KNOWS
 # texts sees no part of Qt's drawing, what knows pictures no window. What is DEPENDS is passed on to
 # the users of the library, what is HIDDEN is not. Sources are compiled SINGLY where a program is to
 # be linked with those alone that it calls, and with what these use. What is FAST is optimised in a
-# development build too, and shares its precompiled headers with none, as what is compiled with
-# options of others (OWN_HEADERS). A MODULE is no part of the programs: its users see its headers, and
+# development build too. A MODULE is no part of the programs: its users see its headers, and
 # load lib/neb-slide-show/neb-NAME.so beside the folder of the program when they first need it.
 # tests/layout checks it all.
 set_property(GLOBAL PROPERTY NEB_HOUSE "")
@@ -74,7 +100,7 @@ set(neb_headers_texts core)
 set(neb_headers_pictures core)
 set(neb_headers_windows gui)
 function(neb_library)
-  cmake_parse_arguments(L "SINGLY;FAST;OWN_HEADERS;MODULE" "NAME;FLOOR;KNOWS" "ROOMS;APART;DEPENDS;HIDDEN" ${ARGN})
+  cmake_parse_arguments(L "SINGLY;FAST;MODULE" "NAME;FLOOR;KNOWS" "ROOMS;APART;DEPENDS;HIDDEN" ${ARGN})
   set(uses ${L_DEPENDS})
   list(FILTER uses INCLUDE REGEX "^neb_")
   list(TRANSFORM uses REPLACE "^neb_" "")
@@ -102,22 +128,14 @@ function(neb_library)
   if(NOT L_SINGLY)
     neb_together(neb_${L_NAME} "${sources}" APART ${L_APART})
   endif()
-  set_target_properties(neb_${L_NAME} PROPERTIES AUTOMOC ON AUTOUIC ON AUTORCC ON
-                                                 NEB_SHARES_HEADERS ON)
+  set_target_properties(neb_${L_NAME} PROPERTIES AUTOMOC ON AUTOUIC ON AUTORCC ON)
   target_link_libraries(neb_${L_NAME} PUBLIC neb_flags ${L_DEPENDS} PRIVATE ${L_HIDDEN})
+  set(own)
   if(L_FAST)
     target_compile_options(neb_${L_NAME} PRIVATE -O3)
+    set(own OWN)
   endif()
-  set(headers ${neb_headers_${L_KNOWS}})
-  get_property(first GLOBAL PROPERTY NEB_FIRST_OF_${headers})
-  if(first AND NOT L_FAST AND NOT L_OWN_HEADERS AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-    target_precompile_headers(neb_${L_NAME} REUSE_FROM ${first})
-  else()
-    target_precompile_headers(neb_${L_NAME} PRIVATE ${PROJECT_SOURCE_DIR}/cmake/pch_${headers}.h)
-  endif()
-  if(NOT first)
-    set_property(GLOBAL PROPERTY NEB_FIRST_OF_${headers} neb_${L_NAME})
-  endif()
+  neb_precompiled(neb_${L_NAME} ${neb_headers_${L_KNOWS}} ${own})
 endfunction()
 
 # neb_part(NAME SOURCE LIBRARIES ...): a program that the program starts by itself, beside its modules.
@@ -142,7 +160,7 @@ function(neb_slices PREFIX PROGRAM COUNT)
   math(EXPR last "${COUNT} - 1")
   foreach(slice RANGE ${last})
     add_test(NAME ${PREFIX}${slice} COMMAND ${PROGRAM} --gtest_brief=1 --gtest_filter=${S_FILTER})
-    set_tests_properties(${PREFIX}${slice} PROPERTIES TIMEOUT 300
+    set_tests_properties(${PREFIX}${slice} PROPERTIES TIMEOUT 300 COST 10
       FAIL_REGULAR_EXPRESSION "] 0 tests from"
       ENVIRONMENT "GTEST_TOTAL_SHARDS=${COUNT};GTEST_SHARD_INDEX=${slice};${S_ENVIRONMENT}")
   endforeach()
@@ -153,9 +171,9 @@ endfunction()
 # alone, as one program; every test in it is a test of ctest. SHARDS: ctest runs them in so many
 # parts instead, for where there are so many short ones that starting the program for each would take
 # most of the time. OTHER_MACHINE: it is compiled for another processor than the harness, whose
-# precompiled headers it cannot share.
+# precompiled headers it cannot share. FAST: it works on so many pixels that it is optimised.
 function(neb_test)
-  cmake_parse_arguments(T "OTHER_MACHINE" "NAME;DIR;SHARDS;BUT" "APART;DEPENDS;FILES" ${ARGN})
+  cmake_parse_arguments(T "OTHER_MACHINE;FAST" "NAME;DIR;SHARDS;BUT" "APART;DEPENDS;FILES" ${ARGN})
   set(dir ${PROJECT_SOURCE_DIR}/${T_DIR})
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${dir}/*.cpp ${dir}/*.h)
   if(T_BUT)
@@ -172,10 +190,13 @@ function(neb_test)
   set_target_properties(test_${T_NAME} PROPERTIES AUTOMOC ON)
   target_link_libraries(test_${T_NAME} PRIVATE ${T_DEPENDS} neb_harness)
   target_include_directories(test_${T_NAME} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
-  if(T_OTHER_MACHINE)
+  if(T_FAST)
     target_precompile_headers(test_${T_NAME} PRIVATE ${PROJECT_SOURCE_DIR}/cmake/pch_test.h)
-  else()
-    target_precompile_headers(test_${T_NAME} REUSE_FROM neb_harness)
+  else() # what a test does itself takes next to no time: it is compiled as quickly as can be
+    target_compile_options(test_${T_NAME} PRIVATE $<$<CONFIG:Dev>:-O0>)
+    if(NOT T_OTHER_MACHINE)
+      target_precompile_headers(test_${T_NAME} REUSE_FROM neb_harness)
+    endif()
   endif()
   if(T_SHARDS)
     neb_slices(${T_NAME}.Slice test_${T_NAME} ${T_SHARDS})

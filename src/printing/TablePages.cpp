@@ -6,7 +6,7 @@ namespace neb {
 namespace {
 
 // Inches.
-constexpr double Margin = 0.6, TitleHeight = 0.3, LineHeight = 0.17, LineStep = 0.2, Gap = 0.1;
+constexpr double Margin = 0.6, TitleHeight = 0.3, LineHeight = 0.17, LineStep = 0.2, Space = 0.1;
 constexpr qsizetype LettersToTheInch = 14;  // of a line of text, about
 
 bool IsWide(QChar Letter) {
@@ -47,9 +47,9 @@ class TableComposer {
         mInto.SetOrientation(PageTurn::Landscape);
         mInto.StartDoc();
         BeginPage();
-        Line({mTable.Title, {Margin, mY, Width(), TitleHeight}}, TitleHeight + Gap);
+        Line({mTable.Title, {Margin, mY, Width(), TitleHeight}}, TitleHeight + Space);
         for (const QString& Each : mTable.Intro) Text(Each);
-        mY += Gap;
+        mY += Space;
         Headings();
         for (const QStringList& Each : mTable.Rows) {
             if (IsFull()) Turn();
@@ -91,7 +91,7 @@ class TableComposer {
         QStringList All;
         for (const TableColumn& Each : mTable.Columns) All << Each.Heading;
         Cells(All);
-        mY += Gap / 2;
+        mY += Space / 2;
     }
     void Cells(const QStringList& Texts) {
         double X = Margin;
@@ -102,7 +102,7 @@ class TableComposer {
             // One that is read from the right begins there.
             const bool AtRight = Its.Right || Cell.isRightToLeft();
             mInto.DrawText({Cell,
-                            {X, mY, Wide - Gap, LineHeight},
+                            {X, mY, Wide - Space, LineHeight},
                             AtRight ? TextSide::Right : TextSide::Left});
             X += Wide;
         }

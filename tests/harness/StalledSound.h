@@ -15,11 +15,14 @@ namespace neb::harness {
 struct StallGate {
     std::atomic<bool> Open = false;
     std::atomic<int> Waiting = 0;
+    std::atomic<bool> IsOver = false;  // the test has ended, and with it what is behind the gate
 
-    void Pass() {
+    // Whether there is anything behind it.
+    bool Pass() {
         ++Waiting;
         while (!Open) std::this_thread::sleep_for(std::chrono::milliseconds(1));
         --Waiting;
+        return !IsOver;
     }
 };
 
@@ -28,8 +31,7 @@ class StalledGraph : public SoundGraph {
     StalledGraph(std::shared_ptr<StallGate> Gate, std::unique_ptr<SoundGraph> Behind)
         : mGate(std::move(Gate)), mBehind(std::move(Behind)) {}
     void RenderFile(const QString& Path) override {
-        mGate->Pass();
-        mBehind->RenderFile(Path);
+        if (mGate->Pass()) mBehind->RenderFile(Path);
     }
     void Run() override { mBehind->Run(); }
     void Pause() override { mBehind->Pause(); }
@@ -50,7 +52,10 @@ class StalledGraph : public SoundGraph {
 class StalledDevices : public SoundDevices {
   public:
     explicit StalledDevices(SoundDevices& Behind) : mBehind(Behind) {}
-    ~StalledDevices() override { Gate->Open = true; }
+    ~StalledDevices() override {
+        Gate->IsOver = true;
+        Gate->Open = true;
+    }
 
     std::unique_ptr<SoundGraph> CreateGraph() override {
         return std::make_unique<StalledGraph>(Gate, mBehind.CreateGraph());

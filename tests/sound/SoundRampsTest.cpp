@@ -8,10 +8,10 @@ using namespace neb::sounds;
 
 namespace {
 
-constexpr double ToneHertz = 40, ToneLevel = 0.5;
-constexpr double ToneStep = ToneLevel * 2 * std::numbers::pi * ToneHertz / 44100;
+constexpr double ToneHertz = 40, HalfLoud = 0.5;
+constexpr double ToneStep = HalfLoud * 2 * std::numbers::pi * ToneHertz / 44100;
 // A ramp adds no more than this to a step. What is heard at once: two tails and the new sound.
-constexpr double RampStep = ToneLevel / kFadeFrames;
+constexpr double RampStep = HalfLoud / kFadeFrames;
 constexpr double MostStep = 3 * (ToneStep + RampStep);
 
 struct Jump {
@@ -20,7 +20,7 @@ struct Jump {
 };
 
 std::shared_ptr<SoundVoice> ToneVoice(PulledMixer& Pulled) {
-    return Pulled.Voice({Tone(ToneHertz, ToneLevel), 441000});
+    return Pulled.Voice({Tone(ToneHertz, HalfLoud), 441000});
 }
 
 const Jump Jumps[] = {

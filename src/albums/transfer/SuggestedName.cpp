@@ -9,7 +9,7 @@ namespace neb {
 namespace {
 
 // At most so long; never half a character, and no blank at the end.
-QString Head(const QString& Whole, qsizetype Length) {
+QString Beginning(const QString& Whole, qsizetype Length) {
     if (Whole.size() <= Length) return Whole;
     QString Name = FirstUnits(Whole, Length);
     while (!Name.isEmpty() && Name.back().isSpace()) Name.chop(1);
@@ -19,7 +19,7 @@ QString Head(const QString& Whole, qsizetype Length) {
 QString Numbered(const QString& Name, int Number) {
     if (Number == 0) return Name;
     const QString Behind = u' ' + QString::number(Number);
-    return Head(Name, MaxName - Behind.size()) + Behind;
+    return Beginning(Name, MaxName - Behind.size()) + Behind;
 }
 
 QString FreeName(const QString& Name, const QStringList& Taken, int First) {

@@ -15,7 +15,7 @@ namespace {
 constexpr int EdgePixels = 24;  // on a screen of the usual height
 constexpr int UsualHeight = 1080;
 constexpr QColor Strip(0, 0, 0);  // nothing of the caption below shines through
-constexpr QColor Ground(0, 0, 0, 190);
+constexpr QColor TipGround(0, 0, 0, 190);
 constexpr QColor Ahead(130, 130, 130);
 constexpr QColor Behind(240, 240, 240);
 constexpr QColor Pointed(120, 170, 240);
@@ -92,7 +92,7 @@ void PlaceLine::PaintTip(QPainter& Painter) const {
     const int Left = qRound(PartOf(mPointed, mPointed).center().x()) - Width / 2;
     const QRect Tip(std::clamp(Left, 0, std::max(0, width() - Width)), 0, Width,
                     fontMetrics().height() * 3 / 2);
-    Painter.fillRect(Tip, Ground);
+    Painter.fillRect(Tip, TipGround);
     Painter.setPen(Behind);
     Painter.drawText(Tip, Qt::AlignCenter, Text);
 }
