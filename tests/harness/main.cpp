@@ -37,6 +37,14 @@ void ChoosePlatform() {
     qputenv("QT_QPA_PLATFORM", ("offscreen:configfile=" + Config).toUtf8());
 }
 
+// The slice that this program runs is chosen by now; what it starts runs all of its own tests.
+class WholeChildren : public ::testing::Environment {
+    void SetUp() override {
+        qunsetenv("GTEST_TOTAL_SHARDS");
+        qunsetenv("GTEST_SHARD_INDEX");
+    }
+};
+
 // A modal window that the desktop knows nothing about may fall behind the window that waits for it.
 class ModalWatch : public QObject {
   public:
@@ -74,5 +82,6 @@ int main(int argc, char** argv) {
     ModalWatch Watch;
     App.installEventFilter(&Watch);
     if (argc == 3 && std::string(argv[1]) == "--role") return neb::harness::Roles().at(argv[2])();
+    ::testing::AddGlobalTestEnvironment(new WholeChildren);
     return neb::EndProcess(RUN_ALL_TESTS());
 }

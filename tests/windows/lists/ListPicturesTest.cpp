@@ -318,8 +318,6 @@ void FillList(FlexGrid& Grid, const QStringList& Paths) {
 void ExpectPassing(const char* Scale, const QString& Tests, const char* Count) {
     QProcessEnvironment Environment = QProcessEnvironment::systemEnvironment();
     Environment.insert(u"QT_SCALE_FACTOR"_s, QString::fromLatin1(Scale));
-    for (const auto& Slice : {u"GTEST_TOTAL_SHARDS"_s, u"GTEST_SHARD_INDEX"_s})
-        Environment.remove(Slice);
     QProcess Copy;
     Copy.setProcessEnvironment(Environment);
     Copy.setProcessChannelMode(QProcess::MergedChannels);
