@@ -48,10 +48,14 @@ QByteArray AsWbmp(const QImage& Image) {
     QByteArray Bytes(2, '\0');
     PutNumber(Bytes, Mono.width());
     PutNumber(Bytes, Mono.height());
-    for (int Row = 0; Row < Mono.height(); ++Row)
+    const char Last =
+        static_cast<char>(0xff << (-Mono.width() & 7));  // what is beyond the edge is 0
+    for (int Row = 0; Row < Mono.height(); ++Row) {
         for (int Byte = 0; Byte < (Mono.width() + 7) / 8; ++Byte)
             Bytes.append(
                 static_cast<char>(Mono.constScanLine(Row)[Byte] ^ (WhiteFirst ? 0xff : 0)));
+        Bytes.back() &= Last;
+    }
     return Bytes;
 }
 

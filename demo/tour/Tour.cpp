@@ -35,7 +35,7 @@ void WritePng(const QImage& Screen, const QString& File) {
     QByteArray Png;
     QBuffer Buffer(&Png);
     Buffer.open(QIODevice::WriteOnly);
-    Screen.save(&Buffer, "PNG");
+    Screen.save(&Buffer, "PNG", 90);  // packed lightly, for it takes most of the time
     WriteFile(File, Png);
 }
 

@@ -95,6 +95,13 @@ TEST(Samples, AOneBitPictureOf128PixelsReadsBackAsItWas) {
     EXPECT_EQ(qGray(Seen.pixel(4, 2)), 255);
 }
 
+TEST(Samples, AOneBitPictureIsTheSameFileEachTime) {
+    QImage Image(41, 2, QImage::Format_RGB32);
+    Image.fill(Qt::white);
+    EXPECT_EQ(Encode(Image, QStringLiteral("wbmp"), Turned::No).toHex(),
+              QByteArray("00002902") + "ffffffffff80" + "ffffffffff80");
+}
+
 TEST(Noise, StaysInItsRangeAndIsSmooth) {
     for (int I = 0; I < 2000; ++I) {
         const float X = static_cast<float>(I) * 0.173F - 170;
