@@ -149,18 +149,21 @@ function(neb_part NAME SOURCE)
   add_dependencies(neb_parts ${NAME})
 endfunction()
 
-# neb_slices(pictures.Slice test_pictures 8 [FILTER Some.*:Tests.*] [ENVIRONMENT A=1 ...])
+# neb_slices(pictures.Slice test_pictures 8 [COST 20] [FILTER Some.*:Tests.*] [ENVIRONMENT A=1 ...])
 # The tests of a program as so many tests of ctest, each of which starts it once. A slice without a
-# test fails.
+# test fails. Those of a higher COST begin earlier.
 function(neb_slices PREFIX PROGRAM COUNT)
-  cmake_parse_arguments(S "" "FILTER" "ENVIRONMENT" ${ARGN})
+  cmake_parse_arguments(S "" "FILTER;COST" "ENVIRONMENT" ${ARGN})
   if(NOT S_FILTER)
     set(S_FILTER "*")
+  endif()
+  if(NOT S_COST)
+    set(S_COST 10)
   endif()
   math(EXPR last "${COUNT} - 1")
   foreach(slice RANGE ${last})
     add_test(NAME ${PREFIX}${slice} COMMAND ${PROGRAM} --gtest_brief=1 --gtest_filter=${S_FILTER})
-    set_tests_properties(${PREFIX}${slice} PROPERTIES TIMEOUT 300 COST 10
+    set_tests_properties(${PREFIX}${slice} PROPERTIES TIMEOUT 600 COST ${S_COST}
       FAIL_REGULAR_EXPRESSION "] 0 tests from"
       ENVIRONMENT "GTEST_TOTAL_SHARDS=${COUNT};GTEST_SHARD_INDEX=${slice};${S_ENVIRONMENT}")
   endforeach()
