@@ -20,8 +20,7 @@ std::vector<int> PagesBeyond(const PrintDocument& Document, const std::vector<in
     for (const int Page : Pages)
         if (!IsWithin(Document.ContentOf(Page), Area)) Beyond.push_back(Page);
     std::ranges::sort(Beyond);
-    const auto [First, Last] = std::ranges::unique(Beyond);
-    Beyond.erase(First, Last);
+    Beyond.erase(std::unique(Beyond.begin(), Beyond.end()), Beyond.end());
     return Beyond;
 }
 

@@ -56,7 +56,8 @@ const QSet<QString>& SystemReasons() {
 QString SystemReasonAtEnd(const QString& Line) {
     const qsizetype Colon = Line.lastIndexOf(u": ");
     const QString Reason = Line.mid(Colon + 2);
-    return Colon >= 0 && SystemReasons().contains(Reason) ? QStringLiteral(": ") + Reason : QString();
+    return Colon >= 0 && SystemReasons().contains(Reason) ? QStringLiteral(": ") + Reason
+                                                          : QString();
 }
 
 // Blanks and colons may be part of it: nothing behind its beginning is safe.

@@ -67,8 +67,7 @@ QStringList FiltersOf(std::span<const MediaType> Types) {
     QStringList Filters;
     for (const MediaType& Type : Types) {
         const QString Masks = MasksOf(Type.Endings());
-        Filters << tr(Type.Name) + QStringLiteral(" (") + Masks + QStringLiteral(")|") +
-                       Masks;
+        Filters << tr(Type.Name) + QStringLiteral(" (") + Masks + QStringLiteral(")|") + Masks;
     }
     return Filters;
 }

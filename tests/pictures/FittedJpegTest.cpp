@@ -30,7 +30,7 @@ class Fitting : public ::testing::Test {
         return 0;
     }
 
-    const harness::TempFolder mFolder;
+    const harness::TempFolder mFolder{};
     const QString mFile = mFolder / QStringLiteral("picture.any");
 };
 

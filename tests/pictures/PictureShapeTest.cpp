@@ -63,7 +63,7 @@ class PictureShapeOf : public ::testing::Test {
         WriteFile(Folder / QStringLiteral("picture.jpg"), Bytes);
         return PictureShape(Folder / QStringLiteral("picture.jpg"));
     }
-    const harness::TempFolder Folder;
+    const harness::TempFolder Folder{};
 };
 
 TEST_F(PictureShapeOf, ATurnedJpegIsThatOfThePictureUpright) {

@@ -173,11 +173,10 @@ TEST(Tiff, SubsampledColoursAreSpreadOverTheirPixels) {
             Bytes += static_cast<char>(100 + X) + QByteArray(1, static_cast<char>(150 + Y));
         }
     const auto Of = [](int X, int Y) {
-        const double Level = Slope(X, Y, 0), Blue = 100 + X / 2 * 2 - 128,
-                     Red = 150 + Y / 2 * 2 - 128;
+        const double Level = Slope(X, Y, 0), Cb = 100 + X / 2 * 2 - 128, Cr = 150 + Y / 2 * 2 - 128;
         const auto Whole = [](double C) { return std::clamp(int(std::lround(C)), 0, 255); };
-        return qRgb(Whole(Level + 1.402 * Red), Whole(Level - 0.344136 * Blue - 0.714136 * Red),
-                    Whole(Level + 1.772 * Blue));
+        return qRgb(Whole(Level + 1.402 * Cr), Whole(Level - 0.344136 * Cb - 0.714136 * Cr),
+                    Whole(Level + 1.772 * Cb));
     };
     ExpectSeen(Tiff({PHOTOMETRIC_YCBCR}, {Bytes}), Of, 2);
 }
@@ -241,17 +240,17 @@ TEST(Tiff, PiecesMayBeSaidToBeLongerThanTheyAre) {
 
 TEST(Tiff, GreysWithAlphaAreLaidOnWhite) {
     const auto Sample = [](int X, int Y, int I) { return I == 0 ? 16 * X : 17 * Y; };
-    const auto Grey = [](int X) { return qRgb(16 * X, 16 * X, 16 * X); };
+    const auto GreyAt = [](int X) { return qRgb(16 * X, 16 * X, 16 * X); };
     ExpectSeen(Tiff({PHOTOMETRIC_MINISBLACK, 8, 2, COMPRESSION_NONE, EXTRASAMPLE_UNASSALPHA},
                     {Contiguous(2, Sample)}),
-               [&](int X, int Y) { return OnWhite(Grey(X), 17 * Y); });
+               [&](int X, int Y) { return OnWhite(GreyAt(X), 17 * Y); });
     ExpectSeen(
         Tiff({PHOTOMETRIC_MINISBLACK, 8, 2, COMPRESSION_NONE, EXTRASAMPLE_UNASSALPHA, true},
              Apart(2, Sample)),
-        [&](int X, int Y) { return OnWhite(Grey(X), 17 * Y); }, 2);
+        [&](int X, int Y) { return OnWhite(GreyAt(X), 17 * Y); }, 2);
     ExpectSeen(Tiff({PHOTOMETRIC_MINISBLACK, 8, 2, COMPRESSION_NONE, EXTRASAMPLE_UNSPECIFIED},
                     {Contiguous(2, Sample)}),
-               [&](int X, int) { return Grey(X); });
+               [&](int X, int) { return GreyAt(X); });
 }
 
 TEST(Tiff, TilesMayReachBeyondTheEdge) {
@@ -263,15 +262,15 @@ TEST(Tiff, TilesMayReachBeyondTheEdge) {
                 for (int I = 0; I < Samples; ++I) Bytes += static_cast<char>(Slope(X, Y, I + 2));
         return Bytes;
     };
-    const auto Grey = [](int X, int Y) {
+    const auto GreyAt = [](int X, int Y) {
         const int Level = Slope(X, Y, 2);
         return qRgb(Level, Level, Level);
     };
     const int Black = PHOTOMETRIC_MINISBLACK, Alpha = EXTRASAMPLE_UNASSALPHA;
-    ExpectSeen(Tiff({Black, 8, 1, COMPRESSION_NONE, -1, false, true, Large}, {Tile(1)}), Grey);
+    ExpectSeen(Tiff({Black, 8, 1, COMPRESSION_NONE, -1, false, true, Large}, {Tile(1)}), GreyAt);
     ExpectSeen(
         Tiff({Black, 8, 2, COMPRESSION_NONE, Alpha, false, true, Large}, {Tile(2)}),
-        [&](int X, int Y) { return OnWhite(Grey(X, Y), Slope(X, Y, 3)); }, 2);
+        [&](int X, int Y) { return OnWhite(GreyAt(X, Y), Slope(X, Y, 3)); }, 2);
     ExpectSeen(Tiff({PHOTOMETRIC_RGB, 8, 3, COMPRESSION_LZW, -1, false, true, Large}, {Tile(3)}),
                [](int X, int Y) { return qRgb(Slope(X, Y, 2), Slope(X, Y, 3), Slope(X, Y, 4)); });
 }

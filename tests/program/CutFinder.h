@@ -1,6 +1,6 @@
 // What of a window cannot be read or reached: texts larger than their controls, controls outside
-// their window, tools that have no place in their bar, a window or a menu larger than the screen, tips
-// longer than the status bar.
+// their window, tools that have no place in their bar, a window or a menu larger than the screen,
+// tips longer than the status bar.
 #pragma once
 
 #include <QStringList>

@@ -100,7 +100,7 @@ class TheRestore : public MainWindow {
 
 TEST_F(TheRestore, TheWindowListsWhatWasKeptAndSaysWhatDiffers) {
     Start();
-    InWindow([this](frmRestore& Window) {
+    InWindow([](frmRestore& Window) {
         ASSERT_EQ(List(Window).topLevelItemCount(), 2);
         EXPECT_EQ(List(Window).topLevelItem(0)->text(1), "1");
         EXPECT_EQ(Differences(Window), "Albums that go: \"Hills\".");

@@ -197,30 +197,14 @@ TEST_F(MainWindow, SlideShowManagersOpenFromTheMenuAndForWhoeverWantsOne) {
 
 TEST_F(MainWindow, EveryMenuEntryIsInItsPlace) {
     Start();
-    for (const char* Name : {"mnuAlbumNew",
-                             "mnuAlbumRename",
-                             "mnuAlbumDelete",
-                             "mnuAlbumExport",
-                             "mnuAlbumImport",
-                             "mnuAlbumPrint",
-                             "mnuSlideMgr",
-                             "mnuSlideMgrBulk",
-                             "mnuSlideShowMgr",
-                             "mnuSlideShowExport",
-                             "mnuSlideShowImport",
-                             "mnuSlideShowPrint",
-                             "mnuSlideShowPrefs",
-                             "mnuSlideShowViewer",
-                             "mnuSlideShowRehearse",
-                             "mnuSlideShowFilm",
-                             "mnuQuickShow",
-                             "mnuSpeedTest",
-                             "mnuRestore",
-                             "mnuHelpContents",
-                             "mnuHelpIndex",
-                             "mnuCopyReport",
-                             "mnuAbout",
-                             "mnuExit"})
+    for (const char* Name : {"mnuAlbumNew",        "mnuAlbumRename",     "mnuAlbumDelete",
+                             "mnuAlbumExport",     "mnuAlbumImport",     "mnuAlbumPrint",
+                             "mnuSlideMgr",        "mnuSlideMgrBulk",    "mnuSlideShowMgr",
+                             "mnuSlideShowExport", "mnuSlideShowImport", "mnuSlideShowPrint",
+                             "mnuSlideShowPrefs",  "mnuSlideShowViewer", "mnuSlideShowRehearse",
+                             "mnuSlideShowFilm",   "mnuQuickShow",       "mnuSpeedTest",
+                             "mnuRestore",         "mnuHelpContents",    "mnuHelpIndex",
+                             "mnuCopyReport",      "mnuAbout",           "mnuExit"})
         EXPECT_TRUE(Entry(Name)) << Name;
     for (const char* Name : {"mnuFileHdr", "mnuAlbumHdr", "mnuSlideShowHdr", "mnuImportExportHdr",
                              "mnuPrintHdr", "mnuWindows", "mnuHelpHdr"})

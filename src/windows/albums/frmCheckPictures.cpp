@@ -79,7 +79,7 @@ void frmCheckPictures::CloseRequested() {
 }
 
 void frmCheckPictures::Check() {
-    mAt.emplace();
+    mAt = Going();
     const auto Lists = ReadOnlyDB ? SumsLists::LeftAlone : SumsLists::PutRight;
     try {
         const PicturesChecked Checked = CheckAllPictures(

@@ -14,7 +14,7 @@ namespace {
 constexpr int SentenceChars = 34, SentenceLines = 3;
 constexpr int Shadow = 3;  // pixels
 // Paper is white, whatever the desktop's colours are.
-const QColor Paper(Qt::white), Edge(0x80, 0x80, 0x80), Grey(0xb4, 0xb9, 0xc0),
+const QColor SketchPaper(Qt::white), Edge(0x80, 0x80, 0x80), Grey(0xb4, 0xb9, 0xc0),
     Frame(0x7a, 0x80, 0x88), Ink(0x9a, 0x9a, 0x9a), Warning(0xb0, 0x3a, 0x2e);
 
 // A text fills about so much of its place.
@@ -126,7 +126,7 @@ void PageSketch::paintEvent(QPaintEvent*) {
     QPainter Painter(this);
     Painter.setRenderHint(QPainter::SmoothPixmapTransform);
     Painter.fillRect(Sheet.translated(Shadow, Shadow), QColor(0, 0, 0, 70));
-    Painter.fillRect(Sheet, Paper);
+    Painter.fillRect(Sheet, SketchPaper);
     const double Scale = Sheet.width() / mPage.Size.width();
     const auto Placed = [&](const QRectF& Inches) {
         return QRectF(Sheet.topLeft() + Inches.topLeft() * Scale, Inches.size() * Scale);

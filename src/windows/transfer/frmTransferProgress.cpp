@@ -39,7 +39,7 @@ void frmTransferProgress::Form_Activate() {
     if (!mWork) return;
     const auto Work = std::exchange(mWork, {});
     {
-        mAt.emplace();
+        mAt = Going();
         const auto Over = qScopeGuard([this] { mAt.reset(); });
         Work();
     }

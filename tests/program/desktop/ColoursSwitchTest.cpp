@@ -27,15 +27,9 @@ constexpr double Enough = 0.002;  // of all points
 
 // What they show is never twice the same: bars that move, what comes when it is found out, folders
 // of this run.
-const QStringList Moving{u"frmTransferProgress"_s,
-                         u"frmLoading"_s,
-                         u"frmProgress"_s,
-                         u"frmSoundRecorder"_s,
-                         u"frmAbout"_s,
-                         u"frmFilm"_s,
-                         u"frmAlbumView"_s,
-                         u"frmDamage"_s,
-                         u"frmSlideShowView"_s};
+const QStringList Moving{u"frmTransferProgress"_s, u"frmLoading"_s, u"frmProgress"_s,
+                         u"frmSoundRecorder"_s,    u"frmAbout"_s,   u"frmFilm"_s,
+                         u"frmAlbumView"_s,        u"frmDamage"_s,  u"frmSlideShowView"_s};
 
 using Pictures = std::map<QString, QImage>;
 

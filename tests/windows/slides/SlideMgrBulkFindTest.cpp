@@ -15,8 +15,6 @@ namespace {
 
 using namespace harness;
 
-constexpr auto FoundText = clsImageBuffer::ColText;
-
 class SlideMgrBulkFind : public BulkRig {
   protected:
     void Open(const QStringList& Captions) {
