@@ -48,8 +48,7 @@ QByteArray AsWbmp(const QImage& Image) {
     QByteArray Bytes(2, '\0');
     PutNumber(Bytes, Mono.width());
     PutNumber(Bytes, Mono.height());
-    const char Last =
-        static_cast<char>(0xff << (-Mono.width() & 7));  // what is beyond the edge is 0
+    const auto Last = static_cast<char>(0xff << (-Mono.width() & 7));  // 0 beyond the edge
     for (int Row = 0; Row < Mono.height(); ++Row) {
         for (int Byte = 0; Byte < (Mono.width() + 7) / 8; ++Byte)
             Bytes.append(
