@@ -1,5 +1,5 @@
 // The desktop's list of what was used last, as its text: entries of ours come in and go, and every
-// other byte stays as it is. The form is that of the desktop bookmark specification.
+// other byte stays as it is. The form is XBEL, as the desktop keeps bookmarks.
 #pragma once
 
 #include <QByteArray>
