@@ -1,8 +1,11 @@
 #include "controls/forms/NebApplication.h"
 
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPointer>
 #include <QScopeGuard>
+#include <QWidget>
+#include <QWindow>
 
 #include "controls/fields/GrowingStyle.h"
 #include "controls/fields/HintColour.h"
@@ -47,6 +50,18 @@ void TakeTextAsItIs(QObject* Receiver) {
     if (Label && Label->textFormat() == Qt::AutoText) Label->setTextFormat(Qt::PlainText);
 }
 
+// Where a screen reader listens, the toolkit holds back each key that comes from outside until that
+// has heard of it, and sends it once more itself then. An Alt has had its effect by that time. Late
+// it would close the menu that its letter has opened meanwhile, or count as an Alt alone; in a menu
+// that was open already it does what it is for.
+bool IsLateAlt(const QObject& Receiver, const QEvent& Event) {
+    if (Event.type() != QEvent::KeyPress || Event.spontaneous() || !Receiver.isWindowType())
+        return false;
+    const QWidget* Menu = QApplication::activePopupWidget();
+    return static_cast<const QKeyEvent&>(Event).key() == Qt::Key_Alt &&
+           !(Menu && Menu->windowHandle() == &Receiver);
+}
+
 }  // namespace
 
 NebApplication::NebApplication(int& ArgumentCount, char** Arguments)
@@ -80,6 +95,7 @@ bool NebApplication::TakeKeys(QObject* Receiver, QEvent* Event) {
 
 bool NebApplication::notify(QObject* Receiver, QEvent* Event) {
     try {
+        if (IsLateAlt(*Receiver, *Event)) return true;
         if (Event->type() == QEvent::Polish) {
             TakeTextAsItIs(Receiver);
             DescribeList(Receiver);

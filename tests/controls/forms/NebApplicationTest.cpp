@@ -1,10 +1,15 @@
 #include "controls/forms/NebApplication.h"
 
+#include <QKeyEvent>
 #include <QLabel>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
 #include <QToolTip>
+#include <QWindow>
 #include <new>
 #include <stdexcept>
 
@@ -35,7 +40,53 @@ struct Unhandled : ::testing::Test {
     void TearDown() override { SetScreenPointer(Pointer::Default); }
 };
 
+// A window with a menu, and keys that were held back for a screen reader: the toolkit sends them
+// itself when that has heard of them.
+struct HeldBack : ::testing::Test {
+    QMainWindow Window;
+    QMenu& File = *Window.menuBar()->addMenu(QStringLiteral("&File"));
+    HeldBack() {
+        File.addAction(QStringLiteral("Exit"));
+        Window.show();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&Window));
+    }
+    static void Send(const QWidget& To, QEvent::Type Type) {
+        const bool IsDown = Type == QEvent::KeyPress;
+        QKeyEvent Late(Type, Qt::Key_Alt, IsDown ? Qt::AltModifier : Qt::NoModifier);
+        QCoreApplication::sendEvent(To.windowHandle(), &Late);
+    }
+    void OpenByItsLetter() {
+        QTest::keyClick(Window.windowHandle(), Qt::Key_F, Qt::AltModifier);
+        ASSERT_TRUE(QTest::qWaitFor([this] { return File.isVisible(); }));
+    }
+};
+
 }  // namespace
+
+TEST_F(HeldBack, AnAltThatComesBehindItsLetterLeavesTheMenuOpen) {
+    OpenByItsLetter();
+    Send(Window, QEvent::KeyPress);
+    Send(Window, QEvent::KeyRelease);
+    EXPECT_TRUE(File.isVisible());
+}
+
+TEST_F(HeldBack, AnAltThatWasPressedInAnOpenMenuClosesIt) {
+    OpenByItsLetter();
+    Send(File, QEvent::KeyPress);
+    EXPECT_FALSE(File.isVisible());
+}
+
+TEST_F(HeldBack, AnAltThatComesBehindTheLetterOfAButtonDoesNotGoToTheMenus) {
+    auto* Button = new QPushButton(QStringLiteral("&Play"));
+    Window.setCentralWidget(Button);
+    Button->show();
+    Button->setFocus();
+    ASSERT_TRUE(Button->hasFocus());
+    Send(Window, QEvent::KeyPress);
+    Send(Window, QEvent::KeyRelease);
+    EXPECT_EQ(Button, QApplication::focusWidget());
+    EXPECT_EQ(nullptr, Window.menuBar()->activeAction());
+}
 
 TEST_F(Unhandled, AFaultIsShownWithItsFileAndTheProgramGoesOn) {
     Boxes.Expect(QStringLiteral("The file cannot be read.\n/a/b.jpg"), Failed, BoxIcon::Critical,
