@@ -171,9 +171,12 @@ std::vector<std::int32_t> TwoLists::GoneFrom(const clsNEBAlbum& Album, std::int3
 
 void TwoLists::DropSlides(const std::vector<std::int32_t>& SlideIDs) {
     Rearrange({}, [&] {
-        for (std::int32_t SlideID : SlideIDs)
-            for (FlexGrid* Grid : {&mNonSelected, &mSelected, &mAll})
-                if (const int Row = RowOfSlide(*Grid, SlideID); Row >= 0) Grid->RemoveItem(Row);
+        for (FlexGrid* Grid : {&mNonSelected, &mSelected, &mAll}) {
+            std::vector<int> Rows;
+            for (std::int32_t SlideID : SlideIDs)
+                if (const int Row = RowOfSlide(*Grid, SlideID); Row >= 0) Rows.push_back(Row);
+            RemoveRows(*Grid, std::move(Rows));
+        }
         Renumber();
     });
 }
