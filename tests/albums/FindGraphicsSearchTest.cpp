@@ -9,6 +9,7 @@
 
 #include "albums/GraphicsSearch.h"
 #include "albums/modPictureFiles.h"
+#include "harness/ByTheClock.h"
 #include "harness/TempFolder.h"
 #include "harness/WithoutExtraFormats.h"
 #include "harness/WithoutPrivileges.h"
@@ -259,6 +260,7 @@ TEST_F(FindGraphicsSearch, TellsOfADirectoryThatLiesTooDeep) {
 }
 
 TEST_F(FindGraphicsSearch, IsLeftThoughTheMediumNeverAnswers) {
+    harness::GoByTheClock();
     Make(u"a.jpg"_s);
     const auto Hang = [](const QString&, std::error_code&) -> std::vector<DirEntry> {
         QThread::sleep(3);

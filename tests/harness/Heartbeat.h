@@ -15,12 +15,15 @@
 #include <functional>
 #include <map>
 
+#include "harness/ByTheClock.h"
+
 namespace neb::harness {
 
 class Heartbeat {
   public:
     explicit Heartbeat(std::function<void()> OnBeat = {}, double Grace = 400)  // milliseconds
         : mOnBeat(std::move(OnBeat)), mGrace(Grace) {
+        GoByTheClock();
         QObject::connect(&mTimer, &QTimer::timeout, &mTimer, [this] { Beat(); });
         mTimer.setTimerType(Qt::PreciseTimer);
         mTimer.start(10);

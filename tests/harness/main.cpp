@@ -11,6 +11,7 @@
 
 #include "controls/forms/NebApplication.h"
 #include "controls/forms/StandOver.h"
+#include "harness/ByTheClock.h"
 #include "harness/ChildRole.h"
 #include "support/work/ProcessEnd.h"
 
@@ -83,5 +84,5 @@ int main(int argc, char** argv) {
     App.installEventFilter(&Watch);
     if (argc == 3 && std::string(argv[1]) == "--role") return neb::harness::Roles().at(argv[2])();
     ::testing::AddGlobalTestEnvironment(new WholeChildren);
-    return neb::EndProcess(RUN_ALL_TESTS());
+    return neb::EndProcess(neb::harness::RunTests());
 }

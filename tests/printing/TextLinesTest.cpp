@@ -6,6 +6,7 @@
 #include <atomic>
 #include <thread>
 
+#include "harness/ByTheClock.h"
 #include "printing/PdfWriter.h"
 #include "printing/PrintRig.h"
 #include "printing/SheetComposer.h"
@@ -69,6 +70,7 @@ TEST(TextLines, WhatHasNoRoomAtAllIsCutShortByAnEllipsis) {
 
 // A file that was loaded may hold any text: whoever prints it waits for each of them.
 TEST(TextLines, ATextBeyondAllMeasureIsShortenedAsQuicklyAsALongOne) {
+    harness::GoByTheClock();
     const QRectF Place(0, 0, 1.5, 0.34);
     const QPainterPath Expected = OutlinesOf({u"unbroken"_s.repeated(500), Place});
     QElapsedTimer Clock;

@@ -13,6 +13,7 @@
 #include <QTest>
 
 #include "MessageBus.h"
+#include "harness/ByTheClock.h"
 
 namespace neb::test {
 
@@ -149,6 +150,7 @@ TEST_F(MediaOnABus, ASecondProgramHasANameOfItsOwn) {
 }
 
 TEST(MediaWithoutABus, IsSilentAndCostsNextToNothing) {
+    harness::GoByTheClock();
     DesktopMedia Media(QStringLiteral("unix:path=/nowhere/at/all"));
     ScriptedPlayer Player;
     QElapsedTimer Clock;

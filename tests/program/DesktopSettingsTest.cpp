@@ -5,6 +5,7 @@
 #include <QTest>
 
 #include "SettingsOnABus.h"
+#include "harness/ByTheClock.h"
 
 namespace neb::test {
 
@@ -49,6 +50,7 @@ TEST_F(DesktopSettingsOnABus, TellWhenTheyChange) {
 }
 
 TEST_F(DesktopSettingsOnABus, OfASlowPortalComeAsAChange) {
+    harness::GoByTheClock();
     OpenPortal();
     Portal.DelayMs = 600;
     DesktopSettings Settings(Client);
@@ -68,6 +70,7 @@ TEST_F(DesktopSettingsOnABus, CanBeAskedForWithoutWaiting) {
 }
 
 TEST_F(DesktopSettingsOnABus, AreNoneWithoutAPortalAndCostNoTime) {
+    harness::GoByTheClock();
     DesktopSettings Settings(Client);
     QElapsedTimer Clock;
     Clock.start();

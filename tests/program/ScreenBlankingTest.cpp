@@ -9,6 +9,7 @@
 #include <QTest>
 
 #include "MessageBus.h"
+#include "harness/ByTheClock.h"
 #include "harness/Heartbeat.h"
 
 namespace neb::test {
@@ -213,6 +214,7 @@ TEST_F(ScreenBlankingOnABus, LeavesNoConnectionBehindWhenThePortalHasNotAnswered
 }
 
 TEST_F(ScreenBlankingOnABus, CostsNextToNothingWhereNobodyServesIt) {
+    harness::GoByTheClock();
     Bus->Withdraw();
     DesktopScreenBlanking Blanking;
     QElapsedTimer Clock;
@@ -227,6 +229,7 @@ TEST_F(ScreenBlankingOnABus, CostsNextToNothingWhereNobodyServesIt) {
 }
 
 TEST_F(ScreenBlankingOnABus, CostsNextToNothingWhenTheBusIsGone) {
+    harness::GoByTheClock();
     Bus->End();
     DesktopScreenBlanking Blanking;
     QElapsedTimer Clock;

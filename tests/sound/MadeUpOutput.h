@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "SdlRig.h"
+#include "harness/ByTheClock.h"
 
 namespace neb::sounds {
 
@@ -76,6 +77,7 @@ struct PluggedPlayers {
     std::unique_ptr<SoundGraph> Graph;
 
     void Make() {
+        harness::GoByTheClock();
         Players = std::make_unique<SoundPlayers>(
             DecoderSource{
                 [this](const QString&) { return Decoder(Sound); }, {}, [this] { ++Rests; }},

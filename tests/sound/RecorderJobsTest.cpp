@@ -1,5 +1,6 @@
 // The recorder's operations on a thread aside, with devices that take their time.
 #include "RecorderRig.h"
+#include "harness/ByTheClock.h"
 #include "sound/clsDirectSound.h"
 #include "support/Fault.h"
 
@@ -31,6 +32,7 @@ TEST_F(RecorderJobsTest, WhatIsQuicklyDoneIsOverAtOnce) {
 }
 
 TEST_F(RecorderJobsTest, NobodyWaitsForDevicesThatTakeTheirTime) {
+    harness::GoByTheClock();
     mSound.Delay = 2s;
     mJobs->Begin(&IsSupported);
     EXPECT_FALSE(mJobs->IsOver());

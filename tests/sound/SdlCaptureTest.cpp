@@ -7,6 +7,7 @@
 #include <QThread>
 #include <csignal>
 
+#include "harness/ByTheClock.h"
 #include "harness/TempFolder.h"
 #include "support/files/modHostFiles.h"
 
@@ -15,7 +16,10 @@ namespace {
 
 class SdlCapture : public ::testing::Test {
   protected:
-    SdlCapture() { Speak(NoisyBytes(30000)); }
+    SdlCapture() {
+        harness::GoByTheClock();
+        Speak(NoisyBytes(30000));
+    }
     ~SdlCapture() override {
         for (const char* Name : {"SDL_AUDIODRIVER", "SDL_DISKAUDIOFILEIN"}) qunsetenv(Name);
     }

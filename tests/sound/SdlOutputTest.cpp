@@ -1,4 +1,5 @@
 #include "SdlRig.h"
+#include "harness/ByTheClock.h"
 
 using namespace neb;
 using namespace neb::sounds;
@@ -28,6 +29,7 @@ bool DeviceOf(SoundPlayers& Players) {
 }  // namespace
 
 TEST(SdlOutput, APlayedFileComesOutOfTheDeviceSampleForSample) {
+    harness::GoByTheClock();
     DiskPlayer Disk;
     Disk.Sound = {Count(), 8000};
     {
@@ -52,6 +54,7 @@ TEST(SdlOutput, APlayedFileComesOutOfTheDeviceSampleForSample) {
 }
 
 TEST(SdlOutput, TheFirstSampleComesWithinTwoDeviceBuffersOfTheStart) {
+    harness::GoByTheClock();
     DiskPlayer Disk;
     size_t Ready = 0;
     {
@@ -70,6 +73,7 @@ TEST(SdlOutput, TheFirstSampleComesWithinTwoDeviceBuffersOfTheStart) {
 }
 
 TEST(SdlOutput, PauseJumpReplacementAndReleaseDoNotClick) {
+    harness::GoByTheClock();
     DiskPlayer Disk;
     Disk.Sound = {Tone(300), 441000};
     {
@@ -99,6 +103,7 @@ TEST(SdlOutput, PauseJumpReplacementAndReleaseDoNotClick) {
 }
 
 TEST(SdlOutput, TheDeviceIsClosedWhenNobodyPlaysAndOpenedAgain) {
+    harness::GoByTheClock();
     DiskPlayer Disk;
     Disk.Times.Linger = 50ms;
     const auto Players = Disk.Players();
@@ -118,6 +123,7 @@ TEST(SdlOutput, TheDeviceIsClosedWhenNobodyPlaysAndOpenedAgain) {
 }
 
 TEST(SdlOutput, ADeviceThatOnlyKeepsTimeKeepsIt) {
+    harness::GoByTheClock();
     const EnvironmentValue Driver("SDL_AUDIODRIVER", "dummy");
     SoundPlayers Players({[](const QString&) {
                               return Decoder({Tone(441), 441000});
@@ -137,6 +143,7 @@ TEST(SdlOutput, ADeviceThatOnlyKeepsTimeKeepsIt) {
 }
 
 TEST(SdlOutput, WithoutAnyDeviceAFileIsPlayedInSilenceAndInTime) {
+    harness::GoByTheClock();
     const EnvironmentValue Driver("SDL_AUDIODRIVER", "none-of-them");
     SoundPlayers Players({[](const QString&) {
                               return Decoder({Tone(441), 22050});

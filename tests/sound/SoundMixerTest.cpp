@@ -2,6 +2,7 @@
 
 #include "PulledVoice.h"
 #include "SdlRig.h"
+#include "harness/ByTheClock.h"
 
 using namespace neb;
 using namespace neb::sounds;
@@ -66,6 +67,7 @@ TEST(SoundMixer, AReleasedSoundFadesOutAndItsDecoderGoesBack) {
 }
 
 TEST(SoundMixer, ASlowDecoderDoesNotHoldUpTheDevice) {
+    harness::GoByTheClock();
     SoundMixer Mixer;
     TestSound Slow{Constant(0.5F), 1000000};
     Slow.DelayMilliseconds = 300;
@@ -87,6 +89,7 @@ TEST(SoundMixer, ASlowDecoderDoesNotHoldUpTheDevice) {
 }
 
 TEST(SoundMixer, ItFeedsItselfWhileItIsPulled) {
+    harness::GoByTheClock();
     SoundMixer Mixer;
     const auto Voice = std::make_shared<SoundVoice>(Decoder({Count(), 60000}), 0);
     Mixer.Add(Voice);
@@ -101,6 +104,7 @@ TEST(SoundMixer, ItFeedsItselfWhileItIsPulled) {
 }
 
 TEST(SoundMixer, ADecoderThatHangsDoesNotKeepTheProgramFromEnding) {
+    harness::GoByTheClock();
     const auto Start = std::chrono::steady_clock::now();
     {
         SoundMixer Mixer;

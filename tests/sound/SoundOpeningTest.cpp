@@ -1,6 +1,7 @@
 #include "sound/SoundOpening.h"
 
 #include "SdlRig.h"
+#include "harness/ByTheClock.h"
 #include "harness/StalledSound.h"
 #include "sound/SoundData.h"
 #include "sound/devices/ClockedSound.h"
@@ -14,7 +15,10 @@ using namespace neb::sounds;
 namespace {
 
 struct Opening : ::testing::Test {
-    Opening() { neb::WriteFile(Song, neb::tests::WavBytes({}, 44100)); }
+    Opening() {
+        harness::GoByTheClock();
+        neb::WriteFile(Song, neb::tests::WavBytes({}, 44100));
+    }
     harness::TempFolder Folder;
     QString Song = Folder / QStringLiteral("song.wav");
     ClockedSoundDevices Clocked{*TheServices().Time, [](const QString& Path) {

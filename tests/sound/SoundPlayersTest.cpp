@@ -1,6 +1,7 @@
 #include "sound/devices/SoundPlayers.h"
 
 #include "MadeUpOutput.h"
+#include "harness/ByTheClock.h"
 #include "sound/devices/PcmDecoder.h"
 #include "support/Fault.h"
 
@@ -121,6 +122,7 @@ TEST(SoundPlayers, ADecoderGoesBackOnceItsSoundIsOver) {
 }
 
 TEST(SoundPlayers, NoCallOfTheWindowsThreadWaits) {
+    harness::GoByTheClock();
     Files F;
     F.Render("100");
     ASSERT_TRUE(F.Opened(1));

@@ -11,6 +11,7 @@
 #include "db/clsDBEngine.h"
 #include "effects/EffectCatalogue.h"
 #include "effects/Transition.h"
+#include "harness/ByTheClock.h"
 #include "harness/TempFolder.h"
 #include "support/files/modHostFiles.h"
 #include "tools/effects/EffectPictures.h"
@@ -121,6 +122,7 @@ TEST_F(NebctlEffectsTest, TheTimesBesideTheProgramClassTheEffectsOfTheSpeedTest)
 }
 
 TEST_F(NebctlEffectsTest, ALargerScreenTakesLonger) {
+    harness::GoByTheClock();
     const auto Time = [](QSize Size) {
         return TimeTransition(118, Slope(Size, 1), Slope(Size, 5));
     };

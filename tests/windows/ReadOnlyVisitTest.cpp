@@ -255,22 +255,24 @@ void ReadOnlyVisit::WorkInAll() {
         Press(Window, "cmdPrint");
         EXPECT_EQ(Previews + 1, Seen.count(u"frmPrintPreview"_s));
     };
-    Checks = {
-        {u"frmImportFilter"_s, Pictures},
-        {u"frmNewAlbumWzd1"_s,
-         [](Form& Top) { EXPECT_EQ("2 graphics files detected.", Summary(Top)); }},
-        {u"frmDirSelect"_s, [this](Form& Top) { EXPECT_EQ(Folder(), Dir1(Top).Path()); }},
-        {u"frmFindGraphics"_s, [](Form&) {}},
-        {u"frmPicturePopup"_s,
-         [](Form& Top) { EXPECT_FALSE(In<PictureView>(Top, "imgSlide").Picture().isNull()); }},
-        {u"frmAlbumRename"_s, Albums},
-        {u"frmAlbumDelete"_s, Albums},
-        {u"frmGetObjectName"_s, [](Form&) {}},
-        {u"frmPrintSlide"_s, Prints},
-        {u"frmPrintSheet"_s, Prints},
-        {u"frmPrintAlbum"_s, Prints},
-        {u"frmPrintPreview"_s,
-         [](Form& Top) { EXPECT_GT(In<PrintView>(Top, "VSPrinter1").PageCount(), 0); }}};
+    Checks = {{u"frmImportFilter"_s, Pictures},
+              {u"frmNewAlbumWzd1"_s,
+               [](Form& Top) { EXPECT_EQ("2 graphics files detected.", Summary(Top)); }},
+              {u"frmDirSelect"_s, [this](Form& Top) { EXPECT_EQ(Folder(), Dir1(Top).Path()); }},
+              {u"frmFindGraphics"_s, [](Form&) {}},
+              {u"frmPicturePopup"_s,
+               [](Form& Top) {
+                   const auto& Shown = In<PictureView>(Top, "imgSlide");
+                   EXPECT_TRUE(QTest::qWaitFor([&] { return !Shown.Picture().isNull(); }));
+               }},
+              {u"frmAlbumRename"_s, Albums},
+              {u"frmAlbumDelete"_s, Albums},
+              {u"frmGetObjectName"_s, [](Form&) {}},
+              {u"frmPrintSlide"_s, Prints},
+              {u"frmPrintSheet"_s, Prints},
+              {u"frmPrintAlbum"_s, Prints},
+              {u"frmPrintPreview"_s,
+               [](Form& Top) { EXPECT_GT(In<PrintView>(Top, "VSPrinter1").PageCount(), 0); }}};
     TheServices().Boxes = &Answers;
     Visit();
     UseSlideManager();

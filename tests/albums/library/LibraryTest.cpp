@@ -9,6 +9,7 @@
 #include "db/Changes.h"
 #include "db/clsDBEngine.h"
 #include "db/modAlbumFiles.h"
+#include "harness/ByTheClock.h"
 #include "harness/Sanitizer.h"
 #include "harness/TempFolder.h"
 #include "support/files/modHostFiles.h"
@@ -155,6 +156,7 @@ TEST_F(Library, AllIsLearnedInPartsBeforeAnybodySearches) {
 // What a user waits for between two keys, measured: the first search learns all captions. The limit
 // is far above what it takes, so that a busy machine is not taken for a slow program.
 TEST_F(Library, AHundredThousandCaptionsAreLookedThroughBetweenTwoKeys) {
+    harness::GoByTheClock();
     for (int A = 0; A < 500; ++A) {
         const auto Album = AddAlbum(u"Álbum %1"_s.arg(A));
         for (int S = 0; S < 200; ++S)

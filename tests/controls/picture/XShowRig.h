@@ -12,6 +12,7 @@
 #include <functional>
 
 #include "controls/picture/XShow.h"
+#include "harness/ByTheClock.h"
 #include "support/Fault.h"
 #include "support/Services.h"
 
@@ -105,6 +106,7 @@ class WatchedShow : public XShow {
 class XShowRig : public testing::Test {
   protected:
     XShowRig() {
+        harness::GoByTheClock();
         XShow::SetReader(ReadByName);
         gReads = 0;
         View.SetPacing(XShow::Pacing::EveryStep);

@@ -220,15 +220,17 @@ class ByKeyboard(Program):
         self.go_down_to(name, "Right")
 
     def go_down_to(self, entry, key="Down"):
-        """In a menu or a list, by one key."""
+        """In a menu or a list, by one key; from its first entry again where nothing comes any more."""
         came_by = []
+        step = key
         for _ in range(MOST_STEPS):
             if self.ear.said and self.ear.said[-1].startswith(entry) or self.is_at(entry):
                 return
             self.ear.said.clear()
-            run("xdotool", "key", key)
+            run("xdotool", "key", step)
             self.ear.listen_for_words(0.5)
             came_by += self.ear.said
+            step = "Home" if step == key and not self.ear.said else key
         raise Missing(f'"{entry}" by the key {key}, which came by {came_by[-30:]}')
 
     def value(self):

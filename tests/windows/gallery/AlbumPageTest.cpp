@@ -5,6 +5,7 @@
 #include <QWheelEvent>
 
 #include "GalleryRig.h"
+#include "harness/ByTheClock.h"
 #include "settings/SettingKeys.h"
 
 namespace neb {
@@ -107,6 +108,7 @@ TEST_F(AlbumPageShown, TheSlideInHandStaysInViewAtEverySize) {
 
 // The slides are there at once; what is read is what is in view.
 TEST_F(AlbumPageShown, FiveThousandSlidesAreThereAtOnce) {
+    harness::GoByTheClock();
     AddMany(5000);
     Open();
     QElapsedTimer Time;

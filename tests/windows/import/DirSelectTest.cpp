@@ -6,6 +6,7 @@
 #include "FindGraphicsHarness.h"
 #include "albums/modPictureFiles.h"
 #include "controls/directories/DirectoryTree.h"
+#include "harness/ByTheClock.h"
 #include "harness/WithoutPrivileges.h"
 #include "windows/import/DirectoryPanel.h"
 #include "windows/import/frmDirSelect.h"
@@ -180,6 +181,7 @@ QString EndlessFolder(const QString& Root) {
 }
 
 TEST_F(DirSelect, AnswersTheKeyboardWhileItCounts) {
+    harness::GoByTheClock();
     const QString Endless = EndlessFolder(Pics.Path());
     Ask([&](frmDirSelect& Shown) {
         const auto& Label = In<QLabel>(Shown, "lblDirSummary");

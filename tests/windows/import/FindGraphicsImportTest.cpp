@@ -4,6 +4,7 @@
 
 #include "FindGraphicsHarness.h"
 #include "controls/fields/ToolBar.h"
+#include "harness/ByTheClock.h"
 #include "harness/WithoutPrivileges.h"
 #include "windows/import/frmQuickShow.h"
 
@@ -150,6 +151,7 @@ class LongestStep {
 };
 
 TEST_F(FindGraphicsImport, ShowsHowFarItIsAndAnswersWhileManyAreRead) {
+    harness::GoByTheClock();
     DeleteTree(Pics / u"y"_s);
     MakePicture(Pics / u"many/0.jpg"_s, 40, 30);
     const QByteArray Picture = ReadFile(Pics / u"many/0.jpg"_s);
@@ -177,6 +179,7 @@ TEST_F(FindGraphicsImport, ShowsHowFarItIsAndAnswersWhileManyAreRead) {
 
 // A medium that goes between the search and the reading must not be asked for each of them.
 TEST_F(FindGraphicsImport, AnswersThoughAllThatWasFoundHasGone) {
+    harness::GoByTheClock();
     MakeDirs(Pics / u"many"_s);
     for (int I = 0; I < 500; ++I) WriteFile(Pics / u"many/%1.jpg"_s.arg(I), "x");
     const auto Filter = ShowFilter(MakeAlbum(u"Garden"_s), {});

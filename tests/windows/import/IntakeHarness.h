@@ -32,7 +32,7 @@ class Intake : public ::testing::Test {
         OwnPathCache = OwnFiles.Path();
         SetDocumentsPath(Docs.Path());
         QObject::connect(&mWatchdog, &QTimer::timeout, &mWatchdog, [] { CloseAll("too long"); });
-        mWatchdog.start(20000);
+        mWatchdog.start(120'000);
     }
     ~Intake() override {
         SetHostWatcher({});

@@ -85,7 +85,7 @@ class OutRig : public ::testing::Test {
         tests::SaveJpeg(Folder / u"NoSlide.jpg"_s, tests::Plain(Qt::magenta, {80, 60}));
         tests::SaveJpeg(Folder / u"rose.jpg"_s, tests::Plain(Qt::red, {80, 60}));
         QObject::connect(&mWatchdog, &QTimer::timeout, &mWatchdog, [] { CloseAll("too long"); });
-        mWatchdog.start(20000);
+        mWatchdog.start(120'000);
         W->ShowDocument(Pages(3));
         W->ShowModeless();
         W->activateWindow();

@@ -3,6 +3,7 @@
 #include <QBuffer>
 #include <QTest>
 
+#include "harness/ByTheClock.h"
 #include "settings/modNEBSlideShow.h"
 #include "support/Fault.h"
 #include "support/files/modHostFiles.h"
@@ -63,6 +64,7 @@ QImage Decode(const QString& Path) {
 }  // namespace
 
 ProjectorRig::ProjectorRig() : mBefore(TheServices()) {
+    harness::GoByTheClock();
     TheServices().Time = &Time;
     TheServices().Blanking = &Blanking;
     Maker = [this](const ShowTeller&) { return std::make_unique<LoggedSound>(Sound); };

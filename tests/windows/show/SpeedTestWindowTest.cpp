@@ -92,7 +92,7 @@ class SpeedTestWindow : public ::testing::Test {
             EXPECT_EQ(ScreenPointer(), Pointer::Hourglass);
             if (AtStep) AtStep();
         });
-        QTimer::singleShot(20000, mWindow.get(), &Form::Unload);
+        QTimer::singleShot(120'000, mWindow.get(), &Form::Unload);
         mWindow->ShowModal();
         EXPECT_FALSE(mWindow->isVisible());
         EXPECT_FALSE(Show1()->IsRunning()) << "nothing goes on behind a closed window";

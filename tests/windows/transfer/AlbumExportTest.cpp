@@ -8,6 +8,7 @@
 #include <future>
 
 #include "TransferRig.h"
+#include "harness/ByTheClock.h"
 
 namespace neb {
 namespace {
@@ -481,6 +482,7 @@ TEST_F(AlbumExport, DirectoriesThatHaveGoneAreNotOfferedUntilTheyAreBack) {
 }
 
 TEST_F(AlbumExport, AMediumThatDoesNotAnswerHoldsUpNoListAndStaysInIt) {
+    harness::GoByTheClock();
     using namespace std::chrono_literals;
     struct Medium {
         std::promise<void> Answers;
