@@ -1,6 +1,7 @@
 // What has changed among albums, slides and shows, as it is noted and told to others.
 #pragma once
 
+#include <QtGlobal>
 #include <cstdint>
 #include <functional>
 #include <memory>

@@ -1,6 +1,5 @@
 // Whole albums go from one database to another and within one: what arrives, what stays, what is
 // refused.
-#include <QElapsedTimer>
 
 #include "TransferRig.h"
 #include "harness/ByTheClock.h"
@@ -287,7 +286,6 @@ TEST_F(TransferAlbumRules, LettersBeyondAsciiClashInAnyCaseToo) {
 }
 
 TEST_F(TransferAlbumRules, FiveThousandSlidesTakeAFewSeconds) {
-    harness::GoByTheClock();
     const std::int32_t ID = Own.AddAlbum(u"Many"_s);
     std::vector<std::int32_t> All;
     for (int I = 0; I < 5000; ++I) {
@@ -297,10 +295,9 @@ TEST_F(TransferAlbumRules, FiveThousandSlidesTakeAFewSeconds) {
     Own.AddShow(ID, u"All of them"_s, 0, All);
     Own.Engine.FinalizeDB();
     const DatabaseState Source = ReadDatabase(Own.Dir()), Before = ReadDatabase(Other.Dir());
-    QElapsedTimer Took;
-    Took.start();
+    const double Begun = harness::WorkedMs();
     ASSERT_TRUE(Transfer(Own.Engine, Other.Engine, ToNew(ID)));
-    EXPECT_LT(Took.elapsed(), 8000);
+    EXPECT_LT(harness::WorkedMs() - Begun, 8000);
     Other.Engine.FinalizeDB();
     EXPECT_EQ("", CheckTransfer(Source, Before, ReadDatabase(Other.Dir()), ToNew(ID)));
 }

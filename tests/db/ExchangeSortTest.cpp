@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <random>
 
 namespace neb {
@@ -77,18 +76,17 @@ TEST(ExchangeSort, EqualsTheLoopForALongList) {
 }
 
 TEST(ExchangeSort, AHundredThousandItemsWithTiesAreQuick) {
-    harness::GoByTheClock();
     std::mt19937 Random(8);
     std::vector<int> Keys(100000);
     for (int& Key : Keys) Key = static_cast<int>(Random() % 100);
     std::vector<Item> Items = FromKeys(Keys);
-    const auto Start = std::chrono::steady_clock::now();
+    const double Begun = harness::WorkedMs();
     Items = Quickly(std::move(Items));
-    const auto Took = std::chrono::steady_clock::now() - Start;
+    const double Took = harness::WorkedMs() - Begun;
     EXPECT_TRUE(std::is_sorted(Items.begin(), Items.end(),
                                [](const Item& A, const Item& B) { return A.Key < B.Key; }));
     // The loop would take five thousand million steps; this leaves room for a busy machine.
-    EXPECT_LT(std::chrono::duration<double>(Took).count(), 10.0);
+    EXPECT_LT(Took, 10'000);
 }
 
 }  // namespace

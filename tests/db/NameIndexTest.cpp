@@ -4,8 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QElapsedTimer>
-
 namespace neb {
 namespace {
 
@@ -45,13 +43,11 @@ TEST(NameIndex, NamesThatDifferInCaseAloneGoByTheirNumbers) {
 }
 
 TEST(NameIndex, AHundredThousandNamesAreQuick) {
-    harness::GoByTheClock();
     QStringList Names;
     for (int I = 0; I < 100000; ++I) Names << u"Снимок %1 из альбома"_s.arg((I * 7919) % 100000);
-    QElapsedTimer Clock;
-    Clock.start();
+    const double Begun = harness::WorkedMs();
     Sorted(Names);
-    EXPECT_LT(Clock.elapsed(), 3000);
+    EXPECT_LT(harness::WorkedMs() - Begun, 3000);
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <QProcess>
 #include <QStringList>
 #include <cstdio>
+#include <ctime>
 #include <set>
 
 namespace neb::harness {
@@ -51,6 +52,10 @@ int RunAgain(const QString& Filter, int Try) {
 
 void GoByTheClock() {
     Clocked().insert(testing::UnitTest::GetInstance()->current_test_info());
+}
+
+double WorkedMs() {
+    return static_cast<double>(std::clock()) * 1e3 / CLOCKS_PER_SEC;
 }
 
 int RunTests() {

@@ -74,8 +74,8 @@ class FlexGrid : public QTableView {
     int MouseRow() const { return mMouseRow; }
     int MouseCol() const { return mMouseCol; }
 
-    void SetBeforeEdit(std::function<bool(int Row, int Col)> MayEdit) { mMayEdit = MayEdit; }
-    void SetKeyPressEdit(KeyPressFilter Filter) { mKeyPressEdit = Filter; }
+    void SetBeforeEdit(std::function<bool(int Row, int Col)> May) { mMayEdit = std::move(May); }
+    void SetKeyPressEdit(KeyPressFilter Filter) { mKeyPressEdit = std::move(Filter); }
     void SetEditOnDblClick(bool On);  // at first on; off: it reports the double click instead
     bool EditCell(int Row, int Col);  // false when the cell may not be edited
     int EditRow() const { return mEditing.row(); }

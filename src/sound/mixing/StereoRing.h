@@ -3,6 +3,7 @@
 #pragma once
 
 #include <algorithm>
+#include <cstddef>
 #include <vector>
 
 namespace neb {
@@ -31,8 +32,9 @@ class StereoRing {
         while (Frames > 0) {
             const int At = (mFirst + mCount) % mFrames;
             const int Part = std::min(Frames, mFrames - At);
-            std::copy_n(From, 2 * Part, &mSamples[2 * static_cast<size_t>(At)]);
-            From += 2 * Part;
+            const std::ptrdiff_t Samples = std::ptrdiff_t{2} * Part;
+            std::copy_n(From, Samples, &mSamples[2 * static_cast<size_t>(At)]);
+            From += Samples;
             Frames -= Part;
             mCount += Part;
         }

@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QSignalSpy>
 #include <QWheelEvent>
 
@@ -92,12 +91,10 @@ TEST_F(ComboBoxListOf, ATurnOfTheWheelChoosesAnEntryOnlyWhereItMay) {
 }
 
 TEST_F(ComboBoxListOf, ThousandsOfEntriesComeAtOnce) {
-    harness::GoByTheClock();
-    QElapsedTimer Timer;
-    Timer.start();
+    const double Begun = harness::WorkedMs();
     for (int Key = 0; Key < 5000; ++Key) List.AddItem(QString::number(Key), Key);
     EXPECT_EQ(List.ItemData(4999), 4999);
-    EXPECT_LT(Timer.elapsed(), 2000);
+    EXPECT_LT(harness::WorkedMs() - Begun, 2000);
 }
 
 }  // namespace
