@@ -5,6 +5,7 @@
 
 #include "controls/grid/FlexGridDelegate.h"
 #include "controls/grid/GridColumns.h"
+#include "controls/speech/SpokenList.h"
 #include "support/FlagText.h"
 
 namespace neb {
@@ -40,6 +41,7 @@ FlexGrid::FlexGrid(QWidget* Parent)
       mPictures(new GridPictures(*mModel, this)),
       mDelegate(new FlexGridDelegate(this)) {
     setModel(mModel);
+    TellChanges(*this);
     setItemDelegate(mDelegate);
     setSelectionBehavior(SelectRows);
     setSelectionMode(ExtendedSelection);

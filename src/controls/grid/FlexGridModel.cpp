@@ -83,10 +83,10 @@ void FlexGridModel::GiveItemsUntold(const std::vector<int>& Rows, FlexGridModel&
     mStore.GiveRows(Rows, To.mStore);
 }
 
-void FlexGridModel::CellChanged(int Row, int Col) {
+void FlexGridModel::CellChanged(int Row, int Col, const QList<int>& Roles) {
     if (mQuiet) return;
     const QModelIndex Changed = index(Row, Col);
-    Q_EMIT dataChanged(Changed, Changed);
+    Q_EMIT dataChanged(Changed, Changed, Roles);
 }
 
 void FlexGridModel::SetText(int Row, int Col, const QString& Text) {
@@ -100,7 +100,7 @@ void FlexGridModel::SetCellData(int Row, int Col, const CellValue& Data) {
 
 void FlexGridModel::SetPicture(int Row, int Col, const QImage& Picture, QSize Shape) {
     mStore.SetPicture(Row, Col, Picture, Shape);
-    CellChanged(Row, Col);
+    CellChanged(Row, Col, {Qt::DecorationRole});
 }
 
 void FlexGridModel::SetQuiet(bool Quiet) {

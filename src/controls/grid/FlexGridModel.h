@@ -67,7 +67,7 @@ class FlexGridModel : public QAbstractTableModel {
     Qt::ItemFlags flags(const QModelIndex& Index) const override;
 
   private:
-    void CellChanged(int Row, int Col);
+    void CellChanged(int Row, int Col, const QList<int>& Roles = {});
     void TellRowCount();
     QString Caption(int Row) const;
     QString SpokenText(int Row, int Col) const;

@@ -5,6 +5,22 @@
 #include <QTreeView>
 
 namespace neb {
+namespace {
+
+void TellOf(QAbstractItemView& List, const QModelIndex& At, QAccessible::Event What) {
+    auto* Told = QAccessible::queryAccessibleInterface(&List);
+    auto* Table = Told ? Told->tableInterface() : nullptr;
+    auto* Cell = Table ? Table->cellAt(At.row(), At.column()) : nullptr;
+    if (!Cell) return;
+    QAccessibleEvent Event(Cell, What);
+    QAccessible::updateAccessibility(&Event);
+}
+
+bool IsHeardOf(const QAbstractItemView& List, const QModelIndex& At) {
+    return At == List.currentIndex() || List.visualRect(At).intersects(List.viewport()->rect());
+}
+
+}  // namespace
 
 QString AboutList(const QAbstractItemView& List) {
     const QString Described = List.accessibleDescription();
@@ -19,13 +35,21 @@ void DescribeList(QObject* Receiver) {
 
 void TellCurrent(QAbstractItemView& List) {
     const QModelIndex At = List.currentIndex();
-    if (!QAccessible::isActive() || !List.hasFocus() || !At.isValid()) return;
-    auto* Told = QAccessible::queryAccessibleInterface(&List);
-    auto* Table = Told ? Told->tableInterface() : nullptr;
-    auto* Cell = Table ? Table->cellAt(At.row(), At.column()) : nullptr;
-    if (!Cell) return;
-    QAccessibleEvent Event(Cell, QAccessible::Focus);
-    QAccessible::updateAccessibility(&Event);
+    if (QAccessible::isActive() && List.hasFocus() && At.isValid())
+        TellOf(List, At, QAccessible::Focus);
+}
+
+void TellChanges(QAbstractItemView& List) {
+    const auto Tell = [&List](const QModelIndex& First, const QModelIndex& Last,
+                              const QList<int>& Roles) {
+        const bool IsPicture = Roles.size() == 1 && Roles[0] == Qt::DecorationRole;
+        if (!QAccessible::isActive() || IsPicture) return;
+        for (int Row = First.row(); Row <= Last.row(); ++Row)
+            for (int Col = First.column(); Col <= Last.column(); ++Col)
+                if (const QModelIndex At = First.sibling(Row, Col); IsHeardOf(List, At))
+                    TellOf(List, At, QAccessible::NameChanged);
+    };
+    QObject::connect(List.model(), &QAbstractItemModel::dataChanged, &List, Tell);
 }
 
 void TellCurrentOf(QObject* Receiver) {

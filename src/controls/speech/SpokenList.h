@@ -24,4 +24,9 @@ void DescribeList(QObject* Receiver);
 void TellCurrent(QAbstractItemView& List);
 void TellCurrentOf(QObject* Receiver);  // where it is a list
 
+// Tells from now on of the entries whose words change, of those that are in view and of the current
+// one: a screen reader keeps the words that it has read until it hears so. For lists that have
+// their model already.
+void TellChanges(QAbstractItemView& List);
+
 }  // namespace neb

@@ -36,6 +36,7 @@ void SlideTiles::Show(SlideModel& Slides, int Side) {
     connect(mDelegate, &TileDelegate::CaptionTyped, this, &SlideTiles::CaptionTyped);
     setItemDelegate(mDelegate);
     setModel(&Slides);
+    TellChanges(*this);
     FitGrid();
 }
 

@@ -16,6 +16,7 @@ HomeView::HomeView(QWidget* Parent)
       mPictures(new CardPictures([this] { return InView(); }, this)),
       mDelegate(new CardDelegate(*mPictures, this)) {
     setModel(mCards);
+    TellChanges(*this);
     setItemDelegate(mDelegate);
     setFlow(LeftToRight);
     setWrapping(true);

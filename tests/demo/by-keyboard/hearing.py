@@ -30,6 +30,7 @@ class Ear:
         self.here = None  # what has the keys
         self.window = None  # the window that came up last
         self.said = []  # names, in their order, of where the keys went and what changed there
+        self.changed = []  # new names of entries, wherever the keys are
         self.progress = []  # values of progress bars
         for kind in (FOCUS, NAME, VALUE, WINDOW):
             pyatspi.Registry.registerEventListener(self.note, kind)
@@ -49,8 +50,11 @@ class Ear:
         elif kind == FOCUS and event.detail1:
             self.here = event.source
             self.said.append(named(event.source))
-        elif kind == NAME and self.here is not None and event.source.path == self.here.path:
-            self.said.append(named(event.source))
+        elif kind == NAME:
+            if event.source.getRole() in ENTRIES:
+                self.changed.append(named(event.source))
+            if self.here is not None and event.source.path == self.here.path:
+                self.said.append(named(event.source))
 
     def listen(self, seconds):
         until = time.monotonic() + seconds
@@ -161,6 +165,11 @@ class ByKeyboard(Program):
 
     def hear(self, begins):
         self.ear.hear(begins)
+
+    def hear_of_change(self, begins):
+        """An entry is told to be called so now."""
+        await_(f'to hear that "{begins}" is a new name', lambda: self.ear.listen(0.05) or any(
+            name.startswith(begins) for name in self.ear.changed))
 
     def look(self):
         """Where the keys are, when that was not heard."""

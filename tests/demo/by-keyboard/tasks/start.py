@@ -76,6 +76,7 @@ def rename_a_show(user):
     user.press("Return")
     user.disk.becomes("the new name", lambda: "Summer" in user.disk.shows("Holiday"))
     user.at_home()
+    user.hear_of_change("Slide show Summer")
 
 
 def take_back_and_do_again(user):
