@@ -13,8 +13,8 @@ void SortByName(std::vector<NameIndexEntry>& Index, NameTies Ties) {
     std::vector<Keyed> Rows;
     Rows.reserve(Index.size());
     for (NameIndexEntry& Entry : Index) {
-        QCollatorSortKey Key = NameOrder().sortKey(Entry.Name);
-        Rows.push_back({std::move(Key), std::move(Entry)});
+        const QCollatorSortKey Key = NameOrder().sortKey(Entry.Name);
+        Rows.push_back({Key, std::move(Entry)});
     }
     ExchangeSort(Rows, [&](const Keyed& A, const Keyed& B) {
         const int Order = A.Key.compare(B.Key);

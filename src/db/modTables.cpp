@@ -41,11 +41,11 @@ void ReadFactoryTimes(EffectStatRows& Rows, const QString& Path) {
     static const QRegularExpression Between(QStringLiteral("[,\\s]+"));
     const QString Text = QString::fromLatin1(ReadFile(Path)).section(u'\n', 1);
     const QStringList Numbers = Text.split(Between, Qt::SkipEmptyParts);
-    if (Numbers.size() < static_cast<qsizetype>(2 * FactoryRows))
+    if (Numbers.size() < 2 * static_cast<qsizetype>(FactoryRows))
         throw Fault(tr("The file of effect times ends too early."), Path);
     Rows.reserve(FactoryRows);
     for (size_t I = 0; I < FactoryRows; ++I) {
-        const auto Place = static_cast<qsizetype>(2 * I);
+        const auto Place = 2 * static_cast<qsizetype>(I);
         const double Time = std::round(Val(Numbers[Place + 1]) * 10000) / 10000;
         Rows.push_back({CInt(Val(Numbers[Place])), Time, 0});
     }

@@ -1,5 +1,6 @@
 #include "program/DesktopServices.h"
 
+#include <QApplication>
 #include <QStandardPaths>
 
 #include "InitAssets.h"

@@ -85,7 +85,7 @@ int Timings(const QStringList& Arguments, ToolIO& IO) {
     const std::vector<double> Times =
         TimeAll(Order, ProgramPicture(1), ProgramPicture(2), [&](int Done) {
             Progress.Show(static_cast<size_t>(Done),
-                          static_cast<size_t>(Order.Runs * EffectCount()));
+                          static_cast<size_t>(Order.Runs) * static_cast<size_t>(EffectCount()));
         });
     const QString Text = EffectStatsText(Order, Times);
     Progress.Clear();

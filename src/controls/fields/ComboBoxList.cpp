@@ -1,6 +1,7 @@
 #include "controls/fields/ComboBoxList.h"
 
 #include <QAbstractItemView>
+#include <QEvent>
 #include <QScreen>
 #include <QSignalBlocker>
 #include <QStyle>

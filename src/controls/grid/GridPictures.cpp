@@ -19,7 +19,7 @@ GridPictures::GridPictures(const FlexGridModel& Model, QObject* Owner)
 }
 
 void GridPictures::SetSource(int Col, PictureSource Source) {
-    mSources.insert(Col, std::move(Source));
+    mSources[Col] = std::move(Source);
     mReady.clear();
 }
 

@@ -9,6 +9,7 @@
 #include <new>
 #include <string>
 #include <string_view>
+#include <tuple>
 
 #include "pictures/metafiles/MappedFonts.h"
 #include "pictures/workers/WorkerTalk.h"
@@ -25,12 +26,12 @@ constexpr std::int64_t DamagedPicture = 0x80040292;
 // Its tables of letters are loaded with the first of each kind, and let go of with the last.
 void KeepLetterTables() {
     for (const char* From : {"UTF-16LE", "UTF-32LE", "LATIN1", "UTF-8"}) {
-        iconv_open("UTF-8", From);
-        iconv_open(From, "UTF-8");
+        std::ignore = iconv_open("UTF-8", From);
+        std::ignore = iconv_open(From, "UTF-8");
     }
-    iconv_open("UTF-32LE", "UTF-16LE");
-    iconv_open("UTF-16LE", "UTF-32LE");
-    iconv_open("LATIN1//TRANSLIT", "UTF-8");
+    std::ignore = iconv_open("UTF-32LE", "UTF-16LE");
+    std::ignore = iconv_open("UTF-16LE", "UTF-32LE");
+    std::ignore = iconv_open("LATIN1//TRANSLIT", "UTF-8");
 }
 
 neb::LockedMessage Problem(neb::LockedRoom& Room) {

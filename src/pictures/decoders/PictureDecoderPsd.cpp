@@ -90,7 +90,7 @@ void PsdReader::Unpack(QByteArrayView From, QByteArray& Row) const {
     const ByteView Codes(From);
     qsizetype To = 0;
     for (qint64 At = 0; At < Codes.Size() && To < Row.size();) {
-        const int Code = static_cast<qint8>(Codes.U8(At++));
+        const auto Code = static_cast<qint8>(Codes.U8(At++));
         if (Code == -128) continue;
         const qsizetype Count =
             std::min<qsizetype>(Code < 0 ? 1 - Code : Code + 1, Row.size() - To);

@@ -15,7 +15,8 @@ int main(int argc, char** argv) {
     // What Qt finds strange about an empty room is for nobody to read.
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
     const bool Draws = argc > 1 && qstrcmp(argv[1], "drawings") == 0;
-    const auto App = Draws ? std::make_unique<QGuiApplication>(argc, argv) : nullptr;
+    [[maybe_unused]] const auto App =
+        Draws ? std::make_unique<QGuiApplication>(argc, argv) : nullptr;
     Draws ? neb::WarmDrawings() : neb::WarmDecoders();
     Room.Close();
     neb::ReadingHere Reader;

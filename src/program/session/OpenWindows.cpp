@@ -139,7 +139,8 @@ QList<OpenWindow> Unpacked(const QByteArray& Text, const QString& Database) {
     const QJsonObject Whole = QJsonDocument::fromJson(Text).object();
     QList<OpenWindow> All;
     if (Whole.value(QStringLiteral("Albums")).toString() != Database) return All;
-    for (const QJsonValue& Each : Whole.value(QStringLiteral("Windows")).toArray())
+    const QJsonArray Windows = Whole.value(QStringLiteral("Windows")).toArray();
+    for (const auto Each : Windows)
         All << OpenWindow{
             Each[QStringLiteral("Name")].toString(), Each[QStringLiteral("Album")].toInt(),
             Each[QStringLiteral("Show")].toInt(), Each[QStringLiteral("Folder")].toString(),

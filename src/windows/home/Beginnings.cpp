@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QBoxLayout>
 #include <QEvent>
+#include <QLabel>
 #include <QToolButton>
 
 #include "controls/fields/Icons.h"

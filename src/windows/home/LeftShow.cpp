@@ -1,6 +1,7 @@
 #include "windows/home/LeftShow.h"
 
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QPainter>
 
 #include "controls/fields/Icons.h"
